@@ -1,0 +1,37 @@
+# Everything a person needs: make run, make test. Set-up installs what is missing by itself.
+JOBS ?= $(shell nproc)
+RELEASE := build/release
+export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
+
+.PHONY: all run test test-sanitize bench format check-format setup clean
+
+all: setup
+	cmake --preset release >/dev/null
+	cmake --build --preset release
+
+setup:
+	@scripts/setup.sh
+
+run: all
+	@scripts/run.sh $(RELEASE)/bin
+
+test: all check-format
+	ctest --test-dir $(RELEASE) --output-on-failure -j $(JOBS)
+
+test-sanitize: setup
+	cmake --preset sanitize >/dev/null
+	cmake --build --preset sanitize
+	ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
+
+bench: all
+	$(RELEASE)/bin/velara-bench
+
+SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h')
+format:
+	@clang-format -i $(SOURCES)
+
+check-format:
+	@clang-format --dry-run --Werror $(SOURCES)
+
+clean:
+	rm -rf build

@@ -1,0 +1,53 @@
+// Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
+// its window; the batch program uses it alone.
+#pragma once
+#include "document/UndoStore.h"
+#include "document/cBitRegion.h"
+#include "filters/Bits.h"
+
+namespace velara {
+
+class cBitFilter;
+
+class Document {
+  public:
+    Document(const QString& tempFolder, int documentNumber) : undo(tempFolder, documentNumber), number_(documentNumber)
+    {
+    }
+
+    int DocNumber() const { return number_; }
+    bool PictureExists() const { return !bits_.isNull(); }
+    int PictureWidth() const { return bits_.width(); }
+    int PictureHeight() const { return bits_.height(); }
+    const velara::Bits& Bits() const { return bits_; }
+    /// Ignored without a picture, as is a buffer that is empty.
+    void setBits(const velara::Bits& bits);
+    /// Takes the buffer as the picture, whatever there was, and wipes the selection.
+    void takePicture(const velara::Bits& bits);
+    /// A black picture; no effect below 1 by 1. Leaves Region alone.
+    void CreateBlank(int width, int height);
+    void Clear();
+
+    /// Gives the engine this document's picture and working region.
+    void handTo(cBitFilter& filter) const;
+
+    /// Snapshot of the present picture; false when it could not be written.
+    bool SaveUndoBits() { return undo.save(bits_); }
+    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. False and
+    /// nothing changed when there is no such step.
+    bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
+    bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
+
+    cBitRegion Region;
+    UndoStore undo;
+    bool Changed = false;
+    bool Zoomed = false; // a sizing command was the last change
+
+  private:
+    bool step(const std::optional<velara::Bits>& picture, cBitFilter& filter);
+
+    velara::Bits bits_;
+    int number_;
+};
+
+} // namespace velara

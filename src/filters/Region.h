@@ -1,0 +1,77 @@
+// Region: a set of pixels as rectangles in bands. Wraps QRegion and adds row spans, the flat word form and the defined
+// coverage of ellipses and polygons. A value, shared until changed.
+#pragma once
+#include <QRegion>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace velara {
+
+/// Columns x0 up to but not including x1.
+struct Span {
+    int x0, x1;
+    friend bool operator==(const Span&, const Span&) = default;
+};
+
+/// Rows and columns, both ends inclusive; empty when a maximum is below its minimum.
+struct Box {
+    int xmin, xmax, ymin, ymax;
+    bool isEmpty() const { return xmax < xmin || ymax < ymin; }
+};
+
+/// Half-open rectangle, right and bottom excluded.
+struct Rect {
+    int left = 0, top = 0, right = 0, bottom = 0;
+    int width() const { return right - left; }
+    int height() const { return bottom - top; }
+    bool isEmpty() const { return right <= left || bottom <= top; }
+    bool contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
+    Rect intersected(const Rect& other) const;
+    friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// How two regions are combined; the numbers are part of the vocabulary.
+enum class Combine { And = 1, Or = 2, Xor = 3, Diff = 4, Copy = 5 };
+
+class Region {
+  public:
+    /// No region at all (isNull), as before anything was selected; it also counts as empty.
+    Region() = default;
+    explicit Region(const QRegion& region);
+
+    /// Corners are put in order; a zero width or height gives the empty region.
+    static Region rectangle(int left, int top, int right, int bottom);
+    /// Coverage as RegionShapes.cpp tells: the last column and row of the box stay out.
+    static Region ellipse(int left, int top, int right, int bottom);
+    /// points is x0, y0, x1, y1, ...; winding fill; right and bottom edges excluded.
+    static Region polygon(std::span<const std::int32_t> points);
+
+    bool isNull() const { return !data_; }
+    bool isEmpty() const;
+    /// The smallest box; 0, 0, 0, 0 when empty.
+    Rect bounds() const;
+    bool contains(int x, int y) const;
+    const QRegion& toQRegion() const;
+
+    /// The spans of row y from left to right. Empty outside of the region.
+    std::span<const Span> spans(int y) const;
+
+    Region combined(const Region& other, Combine mode) const;
+    Region translated(int dx, int dy) const;
+
+    /// The flat form: header size 32, type 1, rectangle count n, 16n, bounding box, then n rectangles of four words.
+    std::vector<std::int32_t> words() const;
+    /// The union of the rectangles in words, in any order, overlapping or not; inverted and empty ones drop out. Null
+    /// when the words are too few or the header says less than 32 bytes. Any input is safe.
+    static Region fromWords(std::span<const std::int32_t> words);
+
+    friend bool operator==(const Region& a, const Region& b);
+
+  private:
+    struct Data;
+    std::shared_ptr<const Data> data_;
+};
+
+} // namespace velara

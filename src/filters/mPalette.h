@@ -1,0 +1,19 @@
+// mPalette: the palette that PaletteApply maps to, and its nearest-colour lookup.
+#pragma once
+#include <cstdint>
+#include <vector>
+
+namespace velara {
+
+struct PaletteColor {
+    std::int32_t red, green, blue;
+};
+
+/// The palette of the colour window. Empty until something fills it.
+std::vector<PaletteColor>& PaletteColors();
+
+/// The entry nearest to the colour by the sum of the absolute differences; ties keep the earlier entry, and nothing
+/// beats entry 0 but what is nearer than 765. OutOfRange when the palette is empty.
+PaletteColor NearestColor(std::int32_t red, std::int32_t green, std::int32_t blue);
+
+} // namespace velara

@@ -1,0 +1,7 @@
+#include "filters/operationRows.h"
+
+namespace velara {
+
+std::vector<Operation> neighbourOperations() { return {}; }
+
+} // namespace velara

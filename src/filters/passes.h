@@ -1,0 +1,72 @@
+// The calling patterns of the filters. A filter is the body of a loop that is written here.
+#pragma once
+#include "filters/cBitFilter.h"
+#include <cstring>
+
+namespace velara {
+
+/// The part of box that lies inside the picture.
+inline Box insidePicture(const Box& box, const Bits& bits)
+{
+    return {std::max(box.xmin, 0), std::min(box.xmax, bits.maxX()), std::max(box.ymin, 0),
+            std::min(box.ymax, bits.maxY())};
+}
+
+/// Copies the columns x0 up to but not including x1.
+inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    if (x1 > x0) std::memcpy(to + x0, from + x0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+}
+
+/// Copies the rows y0 up to but not including y1, margin columns included.
+inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
+{
+    if (y1 > y0)
+        std::memcpy(to.row(y0) - Bits::kMargin, from.row(y0) - Bits::kMargin,
+                    sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
+}
+
+/// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1) writes all
+/// four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above and below lie bits().stride()
+/// pixels away. What lies outside of the box and of the region is copied. margin moves the box inward.
+template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
+{
+    const Bits in = bits_; // alive and unwritten, whatever a yield lets in
+    const Region region = region_;
+    const Box box = insidePicture(GetBounds(margin), in);
+    if (box.isEmpty()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    for (int y = box.ymin; y <= box.ymax; ++y) {
+        const Pixel* from = in.row(y);
+        Pixel* to = out.row(y);
+        int copied = -Bits::kMargin;
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
+            if (x0 >= x1) continue;
+            copyPixels(from, to, copied, x0);
+            kernel(from, to, x0, x1);
+            copied = x1;
+        }
+        copyPixels(from, to, copied, in.width() + Bits::kMargin);
+        progressDue(y, in.maxY());
+    }
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    report(100);
+    return out;
+}
+
+/// A pass over the whole picture that writes nothing: row(source row) once a row, with progress and the final report.
+template <class RowFunction> void cBitFilter::eachRow(const Bits& in, RowFunction&& row)
+{
+    for (int y = 0; y < in.height(); ++y) {
+        row(in.row(y));
+        progressDue(y, in.maxY());
+    }
+    report(100);
+}
+
+} // namespace velara

@@ -1,0 +1,52 @@
+#include "support/pictures.h"
+#include <random>
+
+namespace velara {
+
+Bits randomBits(int width, int height, std::uint32_t seed)
+{
+    std::mt19937 random(seed);
+    Bits bits(width, height);
+    std::uint8_t* byte = bits.data();
+    for (std::size_t i = 0; i < bits.sizeInBytes(); ++i) byte[i] = static_cast<std::uint8_t>(random());
+    return bits;
+}
+
+Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth)
+{
+    Bits bits(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) bits.at(x, y) = {{blue, green, red, fourth}};
+    return bits;
+}
+
+Region randomRegion(int width, int height, std::uint32_t seed)
+{
+    std::mt19937 random(seed);
+    const auto within = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    QRegion region;
+    for (int i = within(1, 4); i > 0; --i) {
+        const int x = within(-3, width), y = within(-3, height);
+        const QRect box(x, y, within(1, width), within(1, height));
+        region += QRegion(box, within(0, 1) ? QRegion::Ellipse : QRegion::Rectangle);
+    }
+    return Region(region);
+}
+
+::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got)
+{
+    if (wanted.width() != got.width() || wanted.height() != got.height())
+        return ::testing::AssertionFailure() << "size: wanted " << wanted.width() << "x" << wanted.height() << ", got "
+                                             << got.width() << "x" << got.height();
+    if (wanted == got) return ::testing::AssertionSuccess();
+    for (int y = -Bits::kMargin; y < wanted.height() + Bits::kMargin; ++y)
+        for (int x = -Bits::kMargin; x < wanted.width() + Bits::kMargin; ++x)
+            for (int c = 0; c < 4; ++c)
+                if (wanted.at(x, y).c[c] != got.at(x, y).c[c])
+                    return ::testing::AssertionFailure()
+                           << "first difference at x " << x << ", y " << y << ", channel " << c << ": wanted "
+                           << int(wanted.at(x, y).c[c]) << ", got " << int(got.at(x, y).c[c]);
+    return ::testing::AssertionSuccess();
+}
+
+} // namespace velara
