@@ -1,0 +1,99 @@
+#include "support/RecordingPlatform.h"
+#include <QImage>
+#include <algorithm>
+#include <cstring>
+
+namespace velara {
+
+bool RecordingPlatform::logged(const std::string& line) const
+{
+    return std::find(log.begin(), log.end(), line) != log.end();
+}
+
+std::optional<QString> RecordingPlatform::answer()
+{
+    if (answers.empty()) return std::nullopt;
+    const auto next = answers.front();
+    answers.pop_front();
+    return next;
+}
+
+QString RecordingPlatform::setting(const QString& section, const QString& key, const QString& otherwise)
+{
+    const auto found = settings.find(section + "/" + key);
+    return found == settings.end() ? otherwise : found->second;
+}
+
+void RecordingPlatform::setSetting(const QString& section, const QString& key, const QString& value)
+{
+    settings[section + "/" + key] = value;
+}
+
+void RecordingPlatform::yield()
+{
+    ++yields;
+    if (onYield) onYield();
+}
+
+void RecordingPlatform::message(const QString& title, const QString& text, Icon icon)
+{
+    lastIcon = icon;
+    log.push_back(("message: " + title + ": " + text).toStdString());
+}
+
+Answer RecordingPlatform::askYesNoCancel(const QString& title, const QString& text, Icon icon)
+{
+    lastIcon = icon;
+    log.push_back(("ask: " + title + ": " + text).toStdString());
+    const auto next = answer();
+    if (!next) return Answer::Cancel;
+    return *next == "yes" ? Answer::Yes : Answer::No;
+}
+
+std::optional<QString> RecordingPlatform::openFileName(const FileDialog& dialog)
+{
+    lastDialog = dialog;
+    log.push_back(("open: " + dialog.title).toStdString());
+    return answer();
+}
+
+std::optional<QString> RecordingPlatform::saveFileName(const FileDialog& dialog)
+{
+    lastDialog = dialog;
+    log.push_back(("save: " + dialog.title).toStdString());
+    return answer();
+}
+
+std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const QString&)
+{
+    log.push_back(("folder: " + title).toStdString());
+    return answer();
+}
+
+QString RecordingPlatform::compactPath(const QString& path, int) { return path; }
+
+LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&)
+{
+    log.push_back(("load: " + path).toStdString());
+    const QImage image = QImage(path).convertToFormat(QImage::Format_RGB32);
+    if (image.isNull()) return {{}, "can't be read"};
+    Bits bits(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(bits.row(y), image.constScanLine(y), std::size_t(image.width()) * 4);
+    return {bits, {}};
+}
+
+bool RecordingPlatform::setClipboardBitmap(const Bits& bits)
+{
+    log.emplace_back("clipboard: set");
+    clipboard = bits;
+    return true;
+}
+
+void RecordingPlatform::clearClipboard()
+{
+    log.emplace_back("clipboard: clear");
+    clipboard = {};
+}
+
+} // namespace velara

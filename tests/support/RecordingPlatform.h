@@ -1,0 +1,58 @@
+// RecordingPlatform: the outside world of tests. Writes down what the program asks and answers from a queue, so that
+// every message, dialog and path of a command can be tested without a window.
+#pragma once
+#include "platform/Platform.h"
+#include <QTemporaryDir>
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace velara {
+
+class RecordingPlatform : public Platform {
+  public:
+    /// Answers of the dialogs to come, first one first. An empty one, and an empty queue, cancel. A question takes
+    /// "yes" and "no".
+    std::deque<std::optional<QString>> answers;
+    /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
+    /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
+    std::vector<std::string> log;
+    int yields = 0;
+    std::function<void()> onYield;
+    std::uint32_t now = 0;
+    bool previous = false;
+    FileDialog lastDialog;
+    Icon lastIcon = Icon::None;
+    Bits clipboard;
+    std::map<QString, QString> settings; // "section/key"
+    QTemporaryDir folder;                // the program folder
+
+    bool logged(const std::string& line) const;
+
+    std::uint32_t milliseconds() override { return now; }
+    double random() override { return 0.5; }
+    QString programFolder() override { return folder.path(); }
+    bool previousInstance() override { return previous; }
+    QString setting(const QString& section, const QString& key, const QString& otherwise) override;
+    void setSetting(const QString& section, const QString& key, const QString& value) override;
+    void yield() override;
+    void message(const QString& title, const QString& text, Icon icon) override;
+    Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
+    std::optional<QString> openFileName(const FileDialog& dialog) override;
+    std::optional<QString> saveFileName(const FileDialog& dialog) override;
+    std::optional<QString> pickFolder(const QString& title, const QString& start) override;
+    QString compactPath(const QString& path, int pixels) override;
+    /// Reads in this process, by what Qt reads.
+    LoadedPicture loadPicture(const QString& path, const QString& extension) override;
+    bool clipboardHasBitmap() override { return !clipboard.isNull(); }
+    Bits clipboardBitmap() override { return clipboard; }
+    bool setClipboardBitmap(const Bits& bits) override;
+    void clearClipboard() override;
+
+  private:
+    std::optional<QString> answer();
+};
+
+} // namespace velara
