@@ -46,4 +46,6 @@ void cBitFilter::report(int percent)
     if (Progress) Progress(percent);
 }
 
+Random cBitFilter::nextRandom() { return Random(randomSeed_++); }
+
 } // namespace velara

@@ -8,6 +8,7 @@
 #pragma once
 #include "filters/Bits.h"
 #include "filters/Region.h"
+#include "filters/random.h"
 #include <QImage>
 #include <functional>
 #include <string>
@@ -30,7 +31,9 @@ class cBitFilter {
     int BitsHeight() const { return bits_.height(); }
     const Region& BitsRegion() const { return region_; }
     void setBitsRegion(Region region) { region_ = std::move(region); }
-    /// Restarts the random numbers of NOISE and DIFFUSE.
+    static constexpr std::uint64_t kRandomSeed = 0x9E3779B97F4A7C15u;
+    /// Restarts the random numbers of NOISE and DIFFUSE; a new object starts at kRandomSeed. Each use takes the next
+    /// seed.
     void setRandomSeed(std::uint64_t seed) { randomSeed_ = seed; }
 
     // --- In place (cBitFilter_geometry.cpp). Source is usually bits() itself.
@@ -142,11 +145,13 @@ class cBitFilter {
     template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
     void progressDue(int done, int of);
     void report(int percent);
+    /// The numbers of one run of a filter.
+    Random nextRandom();
 
     Bits bits_;
     Region region_;
     std::uint32_t lastProgress_ = 0;
-    std::uint64_t randomSeed_ = 0x9E3779B97F4A7C15u;
+    std::uint64_t randomSeed_ = kRandomSeed;
 };
 
 } // namespace velara

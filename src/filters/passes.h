@@ -2,6 +2,7 @@
 #pragma once
 #include "filters/cBitFilter.h"
 #include <cstring>
+#include <type_traits>
 
 namespace velara {
 
@@ -26,9 +27,10 @@ inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
                     sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
 }
 
-/// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1) writes all
-/// four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above and below lie bits().stride()
-/// pixels away. What lies outside of the box and of the region is copied. margin moves the box inward.
+/// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the
+/// row's y as a fifth, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above
+/// and below lie bits().stride() pixels away. What lies outside of the box and of the region is copied. margin moves
+/// the box inward.
 template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
 {
     const Bits in = bits_; // alive and unwritten, whatever a yield lets in
@@ -48,7 +50,10 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
             const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
             if (x0 >= x1) continue;
             copyPixels(from, to, copied, x0);
-            kernel(from, to, x0, x1);
+            if constexpr (std::is_invocable_v<Kernel&, const Pixel*, Pixel*, int, int, int>)
+                kernel(from, to, x0, x1, y);
+            else
+                kernel(from, to, x0, x1);
             copied = x1;
         }
         copyPixels(from, to, copied, in.width() + Bits::kMargin);
