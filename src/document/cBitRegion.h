@@ -30,11 +30,14 @@ class cBitRegion {
     /// The box of the selection; false and untouched outputs when it is empty.
     bool BoundRect(int& left, int& top, int& right, int& bottom) const;
     bool IsEmptyRegion() const { return region_.isEmpty(); }
-    /// The words as they lie; see Region::words. False when the file can't be read or written. Any content is safe.
+    /// The words as they lie; see Region::words. False, with the selection as it was, when the file can't be read or
+    /// makes no region; what it holds is not cut to the limit. Any content is safe.
     bool LoadFromFile(const QString& path);
+    /// False when the file can't be written. While nothing was ever selected no file is made, and that is no failure.
     bool SaveToFile(const QString& path) const;
-    std::vector<std::int32_t> GetData() const { return data_; }
-    int GetDataCount() const { return static_cast<int>(data_.size()); }
+    /// The words of the selection, as loaded or as Region::words makes them.
+    std::vector<std::int32_t> GetData() const;
+    int GetDataCount() const;
 
     float ZoomFactor() const { return zoom_; }
     /// A negative factor becomes 0.01; 0 leaves the scaled copy at the picture's scale.
@@ -50,6 +53,9 @@ class cBitRegion {
     /// The outline's pattern moves on by one pixel; 8 wraps to 0.
     void RotateBrush() { brush_ = (brush_ + 1) % 8; }
     int brushIndex() const { return brush_; }
+    /// Draws the outline moved by x, y into the part of a 32-bit image; see outline.h. The pattern keeps its place on
+    /// the device.
+    void DrawToDC(QImage& device, int x, int y, const Rect& part) const;
 
   private:
     void create(const velara::Region& shape, Combine mode, bool clip);
@@ -59,7 +65,7 @@ class cBitRegion {
     velara::Region limit_, region_, scaled_;
     float zoom_ = 1;
     int brush_ = 0;
-    std::vector<std::int32_t> data_, scaledData_;
+    std::vector<std::int32_t> data_; // of a loaded file; otherwise made when asked for
 };
 
 } // namespace velara

@@ -1,8 +1,10 @@
-// Region: a set of pixels as rectangles in bands. Wraps QRegion and adds row spans, the flat word form and the defined
-// coverage of ellipses and polygons. A value, shared until changed.
+// Region: a set of pixels as rectangles in bands, always in canonical form, so that equal sets have equal bands. Row
+// spans, set algebra in the time of the bands, the flat word form, and the defined coverage of ellipses and polygons.
+// An immutable value, shared by its copies.
 #pragma once
 #include <QRegion>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -29,6 +31,8 @@ struct Rect {
     bool isEmpty() const { return right <= left || bottom <= top; }
     bool contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
     Rect intersected(const Rect& other) const;
+    /// The smallest rectangle around both; an empty one counts for nothing.
+    Rect united(const Rect& other) const;
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
@@ -43,9 +47,10 @@ class Region {
 
     /// Corners are put in order; a zero width or height gives the empty region.
     static Region rectangle(int left, int top, int right, int bottom);
-    /// Coverage as RegionShapes.cpp tells: the last column and row of the box stay out.
+    /// Coverage as RegionShapes.cpp tells: the last column and row of the box stay out. Null above 2^26 pixels a side.
     static Region ellipse(int left, int top, int right, int bottom);
-    /// points is x0, y0, x1, y1, ...; winding fill; right and bottom edges excluded.
+    /// points is x0, y0, x1, y1, ...; winding fill; a pixel is judged at its upper left corner, so right and bottom
+    /// edges are excluded. Null above 2^26 rows or when it falls into more than 2^24 rectangles.
     static Region polygon(std::span<const std::int32_t> points);
 
     bool isNull() const { return !data_; }
@@ -53,24 +58,34 @@ class Region {
     /// The smallest box; 0, 0, 0, 0 when empty.
     Rect bounds() const;
     bool contains(int x, int y) const;
-    const QRegion& toQRegion() const;
+    QRegion toQRegion() const;
+    std::size_t rectangleCount() const;
+    /// From top to bottom, in a band from left to right.
+    void forEachRectangle(const std::function<void(const Rect&)>& visit) const;
 
     /// The spans of row y from left to right. Empty outside of the region.
     std::span<const Span> spans(int y) const;
 
+    /// A null operand counts as empty; Copy gives this region.
     Region combined(const Region& other, Combine mode) const;
+    /// Unmoved when a coordinate would leave 32 bits.
     Region translated(int dx, int dy) const;
+    /// Every coordinate times factor >= 0, rounded half to even and limited to 32 bits.
+    Region scaled(double factor) const;
 
     /// The flat form: header size 32, type 1, rectangle count n, 16n, bounding box, then n rectangles of four words.
     std::vector<std::int32_t> words() const;
     /// The union of the rectangles in words, in any order, overlapping or not; inverted and empty ones drop out. Null
-    /// when the words are too few or the header says less than 32 bytes. Any input is safe.
+    /// when the words are fewer than the count says, the header says less than 32 bytes, or the union falls into more
+    /// than 2^24 rectangles. Any input is safe.
     static Region fromWords(std::span<const std::int32_t> words);
 
     friend bool operator==(const Region& a, const Region& b);
 
   private:
+    friend class RegionBuilder;
     struct Data;
+    template <class MapX, class MapY> Region mapped(MapX mapX, MapY mapY) const; // monotone maps only
     std::shared_ptr<const Data> data_;
 };
 
