@@ -1,0 +1,41 @@
+#include "document/Document.h"
+#include "filters/cBitFilter.h"
+
+namespace velara {
+
+void Document::setBits(const velara::Bits& bits)
+{
+    if (PictureExists() && !bits.isNull()) bits_ = bits;
+}
+
+void Document::takePicture(const velara::Bits& bits)
+{
+    bits_ = bits;
+    Region.Init(0, 0, bits.width(), bits.height());
+}
+
+void Document::CreateBlank(int width, int height)
+{
+    if (width >= 1 && height >= 1) bits_ = velara::Bits(width, height);
+}
+
+void Document::Clear() { bits_ = velara::Bits(); }
+
+void Document::handTo(cBitFilter& filter) const
+{
+    filter.setBits(bits_);
+    filter.setBitsRegion(Region.working());
+}
+
+bool Document::step(const std::optional<velara::Bits>& picture, cBitFilter& filter)
+{
+    if (!picture) return false;
+    if (picture->width() != PictureWidth() || picture->height() != PictureHeight())
+        takePicture(*picture);
+    else
+        bits_ = *picture;
+    handTo(filter);
+    return true;
+}
+
+} // namespace velara

@@ -1,0 +1,102 @@
+#include "document/UndoStore.h"
+#include "platform/fileBytes.h"
+#include <QFile>
+#include <array>
+#include <cstring>
+
+namespace velara {
+
+namespace {
+
+/// What stands before the pixels: the header of a top-down 32-bit bitmap that is four wider and higher than the
+/// picture. Little-endian, as the machines are that this runs on.
+struct Header {
+    std::int32_t size, width, height;
+    std::int16_t planes, bitCount;
+    std::array<std::int32_t, 6> rest;
+};
+static_assert(sizeof(Header) == 40);
+
+Header headerOf(const Bits& bits)
+{
+    return {sizeof(Header), bits.width() + 2 * Bits::kMargin, -(bits.height() + 2 * Bits::kMargin), 1, 32, {}};
+}
+
+bool isOurs(const Header& h) { return h.size == sizeof(Header) && h.planes == 1 && h.bitCount == 32; }
+
+/// Bytes of the pixels that the header tells of; 0 when there is no such picture.
+std::int64_t pixelBytes(const Header& h)
+{
+    const std::int64_t width = h.width, height = -std::int64_t(h.height);
+    if (!isOurs(h) || width <= 2 * Bits::kMargin || height <= 2 * Bits::kMargin) return 0;
+    return width > (std::int64_t(1) << 40) / height ? 0 : width * height * std::int64_t(sizeof(Pixel));
+}
+
+QString padded(int number, int digits) { return QString::number(number).rightJustified(digits, u'0'); }
+
+void removeFile(const QString& path) { QFile::remove(path); }
+
+} // namespace
+
+UndoStore::UndoStore(QString folder, int documentNumber) : folder_(std::move(folder)), number_(documentNumber) {}
+
+QString UndoStore::fileName(int index) const
+{
+    return folder_ + QStringLiteral("/b") + padded(number_, 4) + padded(index, 2) + QStringLiteral(".dat");
+}
+
+bool UndoStore::save(const Bits& bits)
+{
+    if (bits.isNull()) return false;
+    const Header header = headerOf(bits);
+    const ByteView head{reinterpret_cast<const std::uint8_t*>(&header), sizeof header};
+    if (!overwriteFile(fileName(step_), head, {bits.data(), bits.sizeInBytes()})) return false;
+    for (int i = step_ + 1; i <= top_; ++i) removeFile(fileName(i));
+    if (step_ >= kLimit)
+        shiftSeries(); // the counters stay: ten snapshots stand, the state on screen is one of them
+    else
+        top_ = ++step_;
+    return true;
+}
+
+/// Drops the oldest. Upward, so that no file is overwritten; one that fails does not stop the rest.
+void UndoStore::shiftSeries()
+{
+    removeFile(fileName(0));
+    for (int i = 1; i <= kLimit; ++i) QFile::rename(fileName(i), fileName(i - 1));
+}
+
+std::optional<Bits> UndoStore::undo()
+{
+    if (!canUndo()) return {};
+    auto bits = load(step_ - 2);
+    if (bits) --step_;
+    return bits;
+}
+
+std::optional<Bits> UndoStore::redo()
+{
+    if (!canRedo()) return {};
+    auto bits = load(step_);
+    if (bits) ++step_;
+    return bits;
+}
+
+std::optional<Bits> UndoStore::load(int index) const
+{
+    FileReader file(fileName(index));
+    Header header{};
+    if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return {};
+    const std::int64_t size = pixelBytes(header);
+    if (size == 0 || file.size() - std::int64_t(sizeof header) < size) return {}; // longer: the tail of an older step
+    Bits bits = Bits::uninitialized(header.width - 2 * Bits::kMargin, -header.height - 2 * Bits::kMargin);
+    if (!file.read({bits.data(), bits.sizeInBytes()})) return {};
+    return bits;
+}
+
+void UndoStore::deleteSeries()
+{
+    for (int i = 0; i < 100; ++i) removeFile(fileName(i)); // a wildcard would take document 10000's for 1000's
+}
+
+} // namespace velara
