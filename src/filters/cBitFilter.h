@@ -16,6 +16,8 @@
 
 namespace velara {
 
+enum class RankWindow;
+
 class cBitFilter {
   public:
     /// Percent done, raised at most once a row. May yield, and may throw Cancelled to end the filter.
@@ -143,6 +145,7 @@ class cBitFilter {
     // The calling patterns; passes.h has their bodies.
     template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel);
     template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
+    Bits rankFilter(int Mode, RankWindow window);
     void progressDue(int done, int of);
     void report(int percent);
     /// The numbers of one run of a filter.

@@ -2,6 +2,16 @@
 
 namespace velara {
 
-std::vector<Operation> styliseOperations() { return {}; }
+// clang-format off
+std::vector<Operation> styliseOperations()
+{
+    return {
+        row("SKETCH",    "Level,Mono,Color", &cBitFilter::SKETCH),
+        row("THERMIQUE", "",                 &cBitFilter::THERMIQUE),
+        row("XBLACK",    "",                 &cBitFilter::XBLACK),
+        row("PHOTOCOP",  "",                 &cBitFilter::PHOTOCOP),
+    };
+}
+// clang-format on
 
 } // namespace velara

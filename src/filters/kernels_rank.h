@@ -1,0 +1,16 @@
+// Vector kernels of the rank filters.
+#pragma once
+#include "filters/SpanOf.h"
+
+namespace velara {
+
+/// The pixel itself with its eight neighbours, with its four side neighbours, with its four diagonal neighbours.
+enum class RankWindow { Square, Sides, Diagonals };
+
+struct RankKernels {
+    void (*least)(const SpanOf&, RankWindow);
+    void (*greatest)(const SpanOf&, RankWindow);
+};
+const RankKernels& rankKernels();
+
+} // namespace velara

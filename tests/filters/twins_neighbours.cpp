@@ -1,0 +1,192 @@
+// Literal twins of the neighbourhood filters.
+#include "filters/numbers.h"
+#include "support/twins.h"
+#include <algorithm>
+#include <cmath>
+
+namespace velara {
+namespace {
+
+using Wide = std::int64_t;
+
+/// The picture with checked reads: OutOfRange beyond the margin.
+struct Source {
+    const Bits& bits;
+    int at(Wide x, Wide y, int c) const
+    {
+        if (x < -2 || y < -2 || x >= bits.width() + 2 || y >= bits.height() + 2) throw RuntimeError(Fault::OutOfRange);
+        return bits.at(int(x), int(y)).c[c];
+    }
+    Wide ring(int x, int y, int c) const
+    {
+        Wide sum = -at(x, y, c);
+        for (int dy = -1; dy <= 1; ++dy)
+            for (int dx = -1; dx <= 1; ++dx) sum += at(x + dx, y + dy, c);
+        return sum;
+    }
+    Wide cross(int x, int y, int c) const
+    {
+        return at(x - 1, y, c) + at(x + 1, y, c) + at(x, y - 1, c) + at(x, y + 1, c);
+    }
+};
+
+Wide divided(Wide a, Wide b)
+{
+    if (b == 0) throw RuntimeError(Fault::DivisionByZero);
+    return a / b;
+}
+
+/// value(source, x, y, channel) for channels 0 to 2.
+template <class Value> Bits perChannel(const Bits& bits, const Region& region, int margin, Value value)
+{
+    const Source source{bits};
+    return eachPixel(bits, region, margin, [&](Pixel& to, int x, int y) {
+        for (int c = 0; c < 3; ++c) to.c[c] = value(source, x, y, c);
+    });
+}
+
+Bits sharpen(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide level = wholeAt(a, 0);
+    return perChannel(bits, region, 1, [&](const Source& s, int x, int y, int c) {
+        return clamp(divided(s.at(x, y, c) * (124 - level) - 2 * s.ring(x, y, c), 108 - level));
+    });
+}
+
+Bits soften(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide k = 101 - Wide{wholeAt(a, 0)};
+    return perChannel(bits, region, 1, [&](const Source& s, int x, int y, int c) {
+        return toByte(double(divided(s.at(x, y, c) * k + s.cross(x, y, c), k + 4)));
+    });
+}
+
+Bits edgeEnhance(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide level = wholeAt(a, 0);
+    return perChannel(bits, region, 0, [&](const Source& s, int x, int y, int c) {
+        return clamp(divided(s.at(x, y, c) * (level + 9) - s.ring(x, y, c), level + 1));
+    });
+}
+
+Bits blurs(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide r = wholeAt(a, 0);
+    return perChannel(bits, region, 0, [&](const Source& s, int x, int y, int c) {
+        return static_cast<std::uint8_t>((s.at(x - r, y - r, c) + s.at(x, y - r, c) + s.at(x + r, y - r, c) +
+                                          s.at(x - r, y, c) + s.at(x + r, y, c) + s.at(x - r, y + r, c) +
+                                          s.at(x, y + r, c) + s.at(x + r, y + r, c)) /
+                                         8);
+    });
+}
+
+/// Over the neighbours for which counts(dx, dy) is true, and the centre.
+template <class Counts> Bits ranked(const Bits& bits, const Region& region, int margin, int mode, Counts counts)
+{
+    return perChannel(bits, region, margin, [&](const Source& s, int x, int y, int c) {
+        int best = mode == 0 ? 255 : 0;
+        for (int dy = -1; dy <= 1; ++dy)
+            for (int dx = -1; dx <= 1; ++dx) {
+                if (!counts(dx, dy)) continue;
+                if (mode == 0) best = std::min(best, s.at(x + dx, y + dy, c));
+                if (mode == 1) best = std::max(best, s.at(x + dx, y + dy, c));
+            }
+        return static_cast<std::uint8_t>(best);
+    });
+}
+
+Bits dilate(const Bits& bits, const Region& region, const Arguments&)
+{
+    return ranked(bits, region, 0, 1, [](int, int) { return true; });
+}
+
+Bits erode(const Bits& bits, const Region& region, const Arguments&)
+{
+    return ranked(bits, region, 0, 0, [](int, int) { return true; });
+}
+
+int marginOf(int mode) { return int(std::clamp<Wide>(1 - Wide{mode}, -5, 1 << 20)); }
+
+Bits rankFilterN4(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int mode = wholeAt(a, 0);
+    return ranked(bits, region, marginOf(mode), mode,
+                  [](int dx, int dy) { return std::abs(dx) != std::abs(dy) || (dx == 0 && dy == 0); });
+}
+
+Bits rankFilterND(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int mode = wholeAt(a, 0);
+    return ranked(bits, region, marginOf(mode), mode, [](int dx, int dy) { return std::abs(dx) == std::abs(dy); });
+}
+
+Bits contour(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int level = wholeAt(a, 0);
+    const Colour background = wholeAt(a, 1);
+    const Source s{bits};
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        int v[3];
+        for (int c = 0; c < 3; ++c) v[c] = clamp(8 * s.at(x, y, c) - s.ring(x, y, c) + 255);
+        const int parts[] = {blueOf(background), greenOf(background), redOf(background)};
+        const bool edge = (v[0] + v[1] + v[2]) / 3 < level;
+        for (int c = 0; c < 3; ++c) to.c[c] = static_cast<std::uint8_t>(edge ? v[c] : parts[c]);
+    });
+}
+
+Bits embossed(const Bits& bits, const Region& region, int weight, int sign)
+{
+    const float w = static_cast<float>(weight / 10.0);
+    const Source s{bits};
+    Bits out = bits;
+    const Rect box = region.bounds();
+    for (int y = box.top; y < box.bottom; ++y)
+        for (int x = box.left; x < box.right; ++x) {
+            if (!region.contains(x, y) || x < 0 || y < 0 || x > bits.maxX() || y > bits.maxY()) continue;
+            if (x == bits.maxX()) {
+                for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = out.at(bits.maxX() - 1, y).c[c];
+            } else if (y == bits.maxY()) {
+                for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = out.at(x, bits.maxY() - 1).c[c];
+            } else {
+                Wide sum = 0;
+                for (int c = 0; c < 3; ++c) {
+                    const int d = sign * (s.at(x, y, c) - s.at(x + 1, y + 1, c));
+                    sum += roundEven(std::abs(d * double(w) + 128));
+                }
+                for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = clamp(sum / 3);
+            }
+        }
+    return out;
+}
+
+Bits emboss(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return embossed(bits, region, wholeAt(a, 0), 1);
+}
+
+Bits engrave(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return embossed(bits, region, wholeAt(a, 0), -1);
+}
+
+Bits relief(const Bits& bits, const Region& region, const Arguments&)
+{
+    static constexpr int kernel[3][3] = {{2, 1, 0}, {1, 1, -1}, {0, -1, -2}};
+    const Source s{bits};
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        for (int c = 1; c <= 3; ++c) {
+            int sum = 0;
+            for (int i = 0; i < 3; ++i)
+                for (int j = 0; j < 3; ++j) sum += kernel[i][j] * s.at(x + j - 1, y + i - 1, c);
+            to.c[c] = clamp(sum / 2 + 50);
+        }
+    });
+}
+
+const TwinRows rows{
+    {"SHARPEN", sharpen}, {"SOFTEN", soften}, {"EDGEENHANCE", edgeEnhance},   {"Blurs", blurs},
+    {"DILATE", dilate},   {"ERODE", erode},   {"CONTOUR", contour},           {"EMBOSS", emboss},
+    {"ENGRAVE", engrave}, {"RELIEF", relief}, {"RankFilterN4", rankFilterN4}, {"RankFilterND", rankFilterND}};
+
+} // namespace
+} // namespace velara
