@@ -1,0 +1,45 @@
+// A file's bytes in memory that may be mended before a reader sees them; the file itself never changes.
+#pragma once
+#include <QString>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace velara::decode {
+
+class FileBytes {
+  public:
+    /// Maps the file privately: reading is by page, and a mended byte costs a page.
+    explicit FileBytes(const QString& path);
+    explicit FileBytes(std::vector<std::uint8_t> bytes) : owned_(std::move(bytes)), bytes_(owned_) {}
+    ~FileBytes();
+    FileBytes(const FileBytes&) = delete;
+    FileBytes& operator=(const FileBytes&) = delete;
+
+    /// Empty when the file can't be read.
+    std::span<std::uint8_t> bytes() const { return bytes_; }
+    std::size_t size() const { return bytes_.size(); }
+    /// Other contents altogether.
+    void replace(std::vector<std::uint8_t> bytes)
+    {
+        owned_ = std::move(bytes);
+        bytes_ = owned_;
+    }
+
+    bool startsWith(std::string_view magic) const;
+    /// Numbers at an offset; 0 beyond the end.
+    std::uint32_t byte(std::size_t at) const { return at < size() ? bytes_[at] : 0; }
+    std::uint32_t little16(std::size_t at) const { return byte(at) | byte(at + 1) << 8; }
+    std::uint32_t little32(std::size_t at) const { return little16(at) | little16(at + 2) << 16; }
+    std::uint32_t big16(std::size_t at) const { return byte(at) << 8 | byte(at + 1); }
+    std::uint32_t big32(std::size_t at) const { return big16(at) << 16 | big16(at + 2); }
+
+  private:
+    void* mapped_ = nullptr;
+    std::size_t mappedSize_ = 0;
+    std::vector<std::uint8_t> owned_;
+    std::span<std::uint8_t> bytes_;
+};
+
+} // namespace velara::decode

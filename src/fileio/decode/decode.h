@@ -1,0 +1,23 @@
+// Reads one picture file: path and extension to size and pixels, or the reason why not. A pure function, but one whose
+// libraries crash and loop on damaged files: the programs run it in velara-decode only.
+#pragma once
+#include "filters/Bits.h"
+#include <QString>
+#include <functional>
+
+namespace velara::decode {
+
+/// A picture whose rows are made on demand, so that it need not exist twice.
+struct Decoded {
+    int width = 0, height = 0;
+    /// Writes the W pixels of row y (0 is the top one), fourth byte 0.
+    std::function<void(int y, Pixel* row)> row;
+    QString reason; // empty when there is a picture
+    bool ok() const { return static_cast<bool>(row); }
+};
+inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
+
+/// The reader is picked by the extension (lower case, no dot) and never by what the file holds.
+Decoded decodePicture(const QString& path, const QString& extension);
+
+} // namespace velara::decode

@@ -1,0 +1,60 @@
+// velara-decode PATH EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
+#include "fileio/decode/decode.h"
+#include "platform/DecodeProtocol.h"
+#include <QFile>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace velara;
+using namespace velara::decode;
+
+namespace {
+
+template <class Message> bool tell(const Message& message)
+{
+    return send(kSocket, &message, sizeof message, MSG_NOSIGNAL) == static_cast<ssize_t>(sizeof message);
+}
+
+bool tellOpening(const Decoded& picture)
+{
+    Opening opening{kMagic, picture.width, picture.height, {}};
+    const QByteArray reason = picture.reason.toUtf8().left(sizeof opening.reason - 1);
+    std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
+    return tell(opening);
+}
+
+/// Fills the slots in turn; waits for the parent when all are full.
+bool tellRows(const Decoded& picture, std::uint8_t* memory)
+{
+    const int most = rowsInSlot(picture.width);
+    std::size_t slot = 0, free = kSlots;
+    for (std::int32_t y = 0; y < picture.height; y += most, slot = (slot + 1) % kSlots) {
+        char token;
+        if (free == 0 && recv(kSocket, &token, 1, 0) != 1) return false;
+        if (free > 0) --free;
+        auto* to = reinterpret_cast<Pixel*>(memory + slot * kSlotBytes);
+        for (int i = 0; i < most && y + i < picture.height; ++i) picture.row(y + i, to + i * picture.width);
+        if (!tell(y)) return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
+    void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
+    if (argc != 3 || memory == MAP_FAILED) {
+        std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
+        return 2;
+    }
+    const Decoded picture = decodePicture(QFile::decodeName(argv[1]), QString::fromUtf8(argv[2]));
+    const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
+    _exit(done ? 0 : 1); // no tidying: the process is thrown away
+}

@@ -1,0 +1,17 @@
+// Valid files that FreeImage refuses or dies of, made into ones that it reads, in memory. Each mend leaves alone what
+// is not its case.
+#pragma once
+#include "fileio/decode/FileBytes.h"
+
+namespace velara::decode {
+
+/// A 52- to 124-byte header becomes the 40-byte one that it begins with; the palette moves to follow it.
+void mendBmp(FileBytes& file);
+/// Metadata segments, whose parser reads beyond them, become segments that nobody parses.
+void mendJpeg(FileBytes& file);
+/// Plain bit maps, which may come without blanks between the pixels, become raw ones.
+void mendPnm(FileBytes& file);
+/// Palette pictures become true colour ones: a full palette of 256 is refused.
+void mendRas(FileBytes& file);
+
+} // namespace velara::decode

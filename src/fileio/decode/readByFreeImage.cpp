@@ -1,0 +1,213 @@
+#include "fileio/decode/readers.h"
+#include "platform/DecodeProtocol.h"
+#include <FreeImage.h>
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <memory>
+
+namespace velara::decode {
+
+namespace {
+
+using Dib = std::shared_ptr<FIBITMAP>;
+using RowMaker = std::function<void(const std::uint8_t* from, Pixel* row)>;
+
+Dib owned(FIBITMAP* dib) { return dib ? Dib(dib, FreeImage_Unload) : Dib(); }
+
+struct Library {
+    Library() { FreeImage_Initialise(0); }
+    ~Library() { FreeImage_DeInitialise(); }
+};
+
+class Stream {
+  public:
+    explicit Stream(std::span<std::uint8_t> bytes)
+        : memory_(FreeImage_OpenMemory(bytes.data(), static_cast<DWORD>(bytes.size())))
+    {
+    }
+    ~Stream() { FreeImage_CloseMemory(memory_); }
+    Stream(const Stream&) = delete;
+    Stream& operator=(const Stream&) = delete;
+    Dib load(int fif, int flags)
+    {
+        FreeImage_SeekMemory(memory_, 0, SEEK_SET);
+        return owned(FreeImage_LoadFromMemory(static_cast<FREE_IMAGE_FORMAT>(fif), memory_, flags));
+    }
+
+  private:
+    FIMEMORY* memory_;
+};
+
+// --- Sizes out of headers, for the readers that can't give them without the pixels
+
+struct Size {
+    std::int64_t width = 0, height = 0;
+};
+
+Size sizeOfIff(const FileBytes& file) // FORM, length, type, then chunks: name, length, contents padded to even
+{
+    for (std::size_t at = 12; at + 8 <= file.size();) {
+        const std::size_t length = file.big32(at + 4);
+        if (std::memcmp(&file.bytes()[at], "BMHD", 4) == 0) return {file.big16(at + 8), file.big16(at + 10)};
+        at += 8 + length + length % 2;
+    }
+    return {};
+}
+
+Size sizeOfMng(const FileBytes& file) // signature, length, "MHDR", width, height
+{
+    return {file.big32(16), file.big32(20)};
+}
+
+Size sizeOfWbmp(const FileBytes& file) // type 0, fixed header byte, width and height in groups of 7 bits
+{
+    std::size_t at = 2;
+    const auto number = [&] {
+        std::int64_t value = 0;
+        for (int groups = 0; groups < 5; ++groups) {
+            const std::uint32_t byte = file.byte(at++);
+            value = value << 7 | (byte & 127);
+            if (byte < 128) break;
+        }
+        return value;
+    };
+    const std::int64_t width = number();
+    return {width, number()};
+}
+
+Size sizeOf(const FileBytes& file, Stream& stream, int fif)
+{
+    switch (fif) {
+    case FIF_KOALA:
+        return {320, 200};
+    case FIF_IFF:
+        return sizeOfIff(file);
+    case FIF_MNG:
+        return sizeOfMng(file);
+    case FIF_WBMP:
+        return sizeOfWbmp(file);
+    default:
+        break;
+    }
+    const Dib header = stream.load(fif, FIF_LOAD_NOPIXELS);
+    if (!header) return {};
+    return {FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get())};
+}
+
+// --- Rows of every depth as blue, green, red, 0
+
+std::array<Pixel, 256> paletteOf(FIBITMAP* dib)
+{
+    std::array<Pixel, 256> palette{};
+    const RGBQUAD* colours = FreeImage_GetPalette(dib);
+    const unsigned count = colours ? std::min(FreeImage_GetColorsUsed(dib), 256U) : 0;
+    for (unsigned i = 0; i < count; ++i) palette[i] = {{colours[i].rgbBlue, colours[i].rgbGreen, colours[i].rgbRed, 0}};
+    return palette;
+}
+
+RowMaker palettedRows(FIBITMAP* dib, int width, int bits)
+{
+    const int perByte = 8 / bits, mask = (1 << bits) - 1;
+    return [=, palette = paletteOf(dib)](const std::uint8_t* from, Pixel* row) {
+        for (int x = 0; x < width; ++x) {
+            const int shift = 8 - bits * (x % perByte + 1); // the leftmost pixel is in the high bits
+            row[x] = palette[static_cast<std::size_t>(from[x / perByte] >> shift & mask)];
+        }
+    };
+}
+
+void expand24(const std::uint8_t* from, Pixel* row, int width)
+{
+    int x = 0;
+    for (; x < width - 1; ++x, from += 3) { // four bytes at once, as long as the fourth is in the row
+        std::uint32_t four;
+        std::memcpy(&four, from, 4);
+        four &= 0xffffff;
+        std::memcpy(row + x, &four, 4);
+    }
+    row[x] = {{from[0], from[1], from[2], 0}};
+}
+
+RowMaker trueColourRows(FIBITMAP* dib, int width, int bits)
+{
+    if (bits == 24) return [=](const std::uint8_t* from, Pixel* row) { expand24(from, row, width); };
+    const bool is565 = FreeImage_GetGreenMask(dib) == FI16_565_GREEN_MASK;
+    return [=](const std::uint8_t* from, Pixel* row) {
+        auto* to = reinterpret_cast<BYTE*>(row);
+        auto* source = const_cast<BYTE*>(from);
+        if (bits == 32)
+            std::memcpy(row, from, sizeof(Pixel) * static_cast<std::size_t>(width));
+        else if (is565)
+            FreeImage_ConvertLine16To32_565(to, source, width);
+        else
+            FreeImage_ConvertLine16To32_555(to, source, width);
+        for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour under a transparent pixel shows
+    };
+}
+
+/// Light of 0 to 1; what is brighter is white.
+template <class Colour> RowMaker floatRows(int width)
+{
+    return [=](const std::uint8_t* from, Pixel* row) {
+        const auto byte = [](float light) { // what is no number is black
+            return static_cast<std::uint8_t>(light > 0 ? std::min(light, 1.0F) * 255 + 0.5F : 0.0F);
+        };
+        const auto* colours = reinterpret_cast<const Colour*>(from);
+        for (int x = 0; x < width; ++x)
+            row[x] = {{byte(colours[x].blue), byte(colours[x].green), byte(colours[x].red), 0}};
+    };
+}
+
+/// Depths that have no rows of their own become one that has.
+Dib simplified(const Dib& dib)
+{
+    switch (FreeImage_GetImageType(dib.get())) {
+    case FIT_BITMAP:
+    case FIT_RGBF:
+    case FIT_RGBAF:
+        return dib;
+    case FIT_UINT16:
+        return owned(FreeImage_ConvertTo8Bits(dib.get())); // the high byte, as for colours of 16 bits
+    case FIT_RGB16:
+    case FIT_RGBA16:
+        return owned(FreeImage_ConvertTo24Bits(dib.get()));
+    default:
+        return owned(FreeImage_ConvertToStandardType(dib.get(), TRUE)); // measurements: darkest to brightest
+    }
+}
+
+RowMaker rowsOf(FIBITMAP* dib, int width)
+{
+    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(dib);
+    if (type == FIT_RGBF) return floatRows<FIRGBF>(width);
+    if (type == FIT_RGBAF) return floatRows<FIRGBAF>(width);
+    const int bits = static_cast<int>(FreeImage_GetBPP(dib));
+    return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
+}
+
+} // namespace
+
+Decoded readByFreeImage(FileBytes& file, int fif)
+{
+    const Library library;
+    Stream stream(file.bytes());
+    const Size size = sizeOf(file, stream, fif);
+    if (size.width < 1 || size.height < 1) return {};
+    if (!isReadableSize(size.width, size.height)) return refused(kTooBig);
+
+    Dib dib = stream.load(fif, 0);
+    if (dib) dib = simplified(dib);
+    if (!dib || !FreeImage_HasPixels(dib.get())) return {};
+    const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
+    const int height = static_cast<int>(FreeImage_GetHeight(dib.get()));
+    if (!isReadableSize(width, height)) return refused(kTooBig);
+    return {width,
+            height,
+            [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {
+                maker(FreeImage_GetScanLine(dib.get(), height - 1 - y), row);
+            },
+            {}};
+}
+
+} // namespace velara::decode

@@ -1,0 +1,21 @@
+// The readers of the extension table, each for bytes that are in memory.
+#pragma once
+#include "fileio/decode/FileBytes.h"
+#include "fileio/decode/decode.h"
+
+namespace velara::decode {
+
+/// fif is FreeImage's format number.
+Decoded readByFreeImage(FileBytes& file, int fif);
+/// format is the name of Qt's reader; drawn on white.
+Decoded readByQt(FileBytes& file, const char* format);
+/// A bitmap with or without its file header.
+Decoded readDib(FileBytes& file);
+/// Metafiles at their natural size, 96 dots an inch, drawn on white.
+Decoded readWmf(FileBytes& file);
+Decoded readEmf(FileBytes& file);
+
+const char* const kTooBig = "it is wider or higher than 32767 pixels, or has more than 268 million pixels";
+const char* const kTooMuchMemory = "it needs more memory than reading a picture may take";
+
+} // namespace velara::decode

@@ -1,0 +1,34 @@
+// The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
+// picture files. QtPlatform and BatchPlatform add the rest.
+#pragma once
+#include "platform/Platform.h"
+#include <random>
+
+namespace velara {
+
+class CorePlatform : public Platform {
+  public:
+    CorePlatform();
+    ~CorePlatform() override;
+
+    std::uint32_t milliseconds() override;
+    double random() override;
+    /// Decided at the first call; the folder exists then, unless it can't be made.
+    QString programFolder() override;
+    /// The first call claims the name of the session's editor.
+    bool previousInstance() override;
+    QString setting(const QString& section, const QString& key, const QString& otherwise) override;
+    void setSetting(const QString& section, const QString& key, const QString& value) override;
+    LoadedPicture loadPicture(const QString& path, const QString& extension) override;
+
+  private:
+    std::mt19937_64 random_;
+    QString programFolder_, decoder_;
+    int instance_ = -1; // the socket that holds the name
+};
+
+/// executableFolder where files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio
+/// (dataHome empty: ~/.local/share), which is made.
+QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome);
+
+} // namespace velara

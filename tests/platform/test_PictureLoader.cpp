@@ -1,0 +1,177 @@
+// Reading pictures through the child: what it says about bad files, and what becomes of children that misbehave.
+#include "platform/PictureLoader.h"
+#include "support/pictures.h"
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <fstream>
+#include <sys/stat.h>
+
+namespace velara {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString kDecoder = VELARA_BIN "/velara-decode";
+
+class PictureLoader : public ::testing::Test {
+  protected:
+    QString write(const QString& name, const QByteArray& contents)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+        return file.fileName();
+    }
+    /// A program in the helper's place that runs the script.
+    QString fakeDecoder(const QByteArray& script)
+    {
+        const QString path = write("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
+                                           "s = socket.socket(fileno=3)\n" +
+                                               script);
+        chmod(QFile::encodeName(path).constData(), 0755);
+        return path;
+    }
+    QTemporaryDir folder;
+};
+
+const QByteArray kPicture = "P6\n3 2\n255\n"
+                            "abcdefghi"
+                            "jklmnopqr";
+
+} // namespace
+
+TEST_F(PictureLoader, HandsOverThePixelsWithAZeroMargin)
+{
+    const LoadedPicture picture = loadThroughDecoder(write("Straße.PPM", kPicture), "PPM", kDecoder);
+    ASSERT_TRUE(picture.ok()) << picture.reason.toStdString();
+    Bits wanted(3, 2);
+    for (int i = 0; i < 6; ++i)
+        wanted.at(i % 3,
+                  i / 3) = {{std::uint8_t('c' + 3 * i), std::uint8_t('b' + 3 * i), std::uint8_t('a' + 3 * i), 0}};
+    EXPECT_TRUE(sameBits(wanted, picture.bits));
+}
+
+// More rows than all slots together hold, of a width that leaves a rest in each slot.
+TEST_F(PictureLoader, HandsOverMoreThanTheSharedMemoryHolds)
+{
+    constexpr int kWidth = 1237, kHeight = 2003;
+    QByteArray contents = "P6\n1237 2003\n255\n";
+    Bits wanted(kWidth, kHeight);
+    for (int y = 0; y < kHeight; ++y)
+        for (int x = 0; x < kWidth; ++x) {
+            const auto value = static_cast<std::uint8_t>((x * 7 + y * 13) ^ x >> 3 ^ y >> 2);
+            wanted.at(x, y) = {{value, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), 0}};
+            contents.append(char(y)).append(char(x)).append(char(value));
+        }
+    const LoadedPicture picture = loadThroughDecoder(write("big.ppm", contents), "ppm", kDecoder);
+    ASSERT_TRUE(picture.ok()) << picture.reason.toStdString();
+    EXPECT_TRUE(sameBits(wanted, picture.bits));
+}
+
+TEST_F(PictureLoader, SaysWhatIsWrongWithAFile)
+{
+    const QByteArray bmpHeader("BM\x36\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0", 18);
+    const QByteArray bmpRest("\x01\0\x18\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 28);
+    const QByteArray pngOf60000("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x08\x02\0\0\0\x5c\x98\x10\xfa",
+                                33);
+    QDir(folder.path()).mkdir("folder.png");
+    const struct {
+        QString path, extension, reason;
+    } kCases[] = {
+        {folder.filePath("none.png"), "png", "none.png can't be read: there is no such file"},
+        {folder.filePath("folder.png"), "png", "folder.png can't be read: it is a folder"},
+        {"/dev/null", "png", "null can't be read: it is not an ordinary file"},
+        {write("empty.png", ""), "png", "empty.png can't be read: the file is empty"},
+        {write("zip.png", "PK\x03\x04 and so on"), "png", "zip.png can't be read: it is damaged or not a PNG picture"},
+        {write("garbage.tif", "garbage"), "tif", "garbage.tif can't be read: it is damaged or not a TIFF picture"},
+        {write("picture.png", kPicture), "png", "picture.png can't be read: it is damaged or not a PNG picture"},
+        {write("a.jpeg", kPicture), "jpeg", "a.jpeg can't be read: there is no reader for .jpeg files"},
+        {write("a", kPicture), "", "a can't be read: its name has no extension to tell what it is"},
+        {write("big.bmp", bmpHeader + QByteArray("\x60\xea\0\0\x60\xea\0\0", 8) + bmpRest), "bmp",
+         "big.bmp can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
+        {write("big.ppm", "P6\n20000 20000\n255\n"), "ppm",
+         "big.ppm can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
+        {write("big.wbmp", QByteArray("\0\0\x82\x80\0\x01", 6)), "wbmp",
+         "big.wbmp can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
+    };
+    for (const auto& c : kCases) {
+        const LoadedPicture picture = loadThroughDecoder(c.path, c.extension, kDecoder);
+        EXPECT_FALSE(picture.ok());
+        EXPECT_EQ(picture.reason.toStdString(), c.reason.toStdString());
+    }
+}
+
+TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
+{
+    const QByteArray opening = "def opening(w, h, why=b'', magic=0x31444c56):\n"
+                               "    s.send(struct.pack('<Iii244s', magic, w, h, why))\n";
+    const QByteArray rest = "\ntime.sleep(20)\n";
+    const struct {
+        QByteArray script;
+        const char* reason;
+    } kCases[] = {
+        {"sys.exit(0)", "gave up"},
+        {"os.abort()", "gave up"},
+        {"os.kill(os.getpid(), 9)", "too long"},
+        {"s.close(); time.sleep(20)", "too long"},
+        {"time.sleep(20)", "too long"},
+        {"while True: pass", "too long"},
+        {"s.send(b'x')" + rest, "false answer"},
+        {"s.send(b'x' * 1000)" + rest, "false answer"},
+        {"opening(10, 10, magic=1)" + rest, "false answer"},
+        {"opening(60000, 60000)" + rest, "false answer"},
+        {"opening(-5, 5)" + rest, "false answer"},
+        {"opening(0, 5)" + rest, "false answer"},
+        {"opening(0, 0)" + rest, "false answer"},
+        {"opening(0, 0, b'because\\x01 it is so')", "because\x01 it is so"},
+        {"opening(0, 0, b'\\xff' * 244)", "can't be read"},
+        {"opening(10, 10); s.send(struct.pack('<i', 3))" + rest, "false answer"},
+        {"opening(10, 10); os.ftruncate(4, 0)" + rest, "gave up"}, // the seal makes it an error
+        {"opening(10, 10)" + rest, "too long"},
+        {"opening(10, 10); sys.exit(0)", "gave up"},
+    };
+    const QString file = write("x.ppm", kPicture);
+    for (const auto& c : kCases) {
+        DecoderLimits limits;
+        limits.wallClock = std::string_view(c.reason) == "too long" ? 500ms : 10000ms;
+        const LoadedPicture picture = loadThroughDecoder(file, "ppm", fakeDecoder(opening + c.script), limits);
+        EXPECT_FALSE(picture.ok()) << c.script.toStdString();
+        EXPECT_NE(picture.reason.toStdString().find(c.reason), std::string::npos)
+            << c.script.toStdString() << ": " << picture.reason.toStdString();
+    }
+    for (const QString& decoder : {QString(), QString("/nonexistent/velara-decode"), write("notAProgram", "text")}) {
+        const LoadedPicture picture = loadThroughDecoder(file, "ppm", decoder);
+        EXPECT_TRUE(picture.reason.startsWith("x.ppm can't be read: the program that reads pictures"));
+    }
+}
+
+TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
+{
+    DecoderLimits limits;
+    limits.cpuSeconds = 1;
+    const QString file = write("x.ppm", kPicture);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder("while True: pass"), limits).reason.contains("too long"));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
+
+    DecoderLimits small; // the program itself starts within it
+    small.memory = 400 << 20;
+    const QString big = write("big.ppm", "P6\n16000 16000\n255\n");
+    EXPECT_FALSE(loadThroughDecoder(big, "ppm", kDecoder, small).ok());
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", kDecoder, small).ok());
+}
+
+TEST_F(PictureLoader, DamagedSamplesCostNothingButTheChild)
+{
+    if (!QFile::exists(VELARA_CORPUS "/README.md")) GTEST_SKIP();
+    for (const char* name : {"bomb.gif", "cut_heap.cut", "ico_heap.ico", "negative_size.ppm", "psd_heap.psd",
+                             "ras_heap.ras", "reallybig.bmp"}) {
+        const QString path = QString(VELARA_CORPUS "/malformed/") + name;
+        const LoadedPicture picture = loadThroughDecoder(path, path.section('.', -1), kDecoder);
+        EXPECT_TRUE(picture.ok() != picture.reason.startsWith(QString(name) + " can't be read: ")) << name;
+    }
+}
+
+} // namespace velara
