@@ -34,11 +34,11 @@ float cBitFilter::Angle(int X, int Y)
 
 /// The progress rule: done rows of a run that ends at row `of`. A report that falls due in a one-row picture divides by
 /// zero; it is not guarded.
-void cBitFilter::progressDue(int done, int of)
+void cBitFilter::progressDue(std::int64_t done, std::int64_t of)
 {
     if (clock() - lastProgress_ <= kReportEvery) return;
     lastProgress_ = clock();
-    report(static_cast<int>(of == 0 ? throw RuntimeError(Fault::DivisionByZero) : std::int64_t(done) * 100 / of));
+    report(static_cast<int>(of == 0 ? throw RuntimeError(Fault::DivisionByZero) : done * 100 / of));
 }
 
 void cBitFilter::report(int percent)

@@ -38,20 +38,21 @@ class cBitFilter {
     /// seed.
     void setRandomSeed(std::uint64_t seed) { randomSeed_ = seed; }
 
-    // --- In place (cBitFilter_geometry.cpp). Source is usually bits() itself.
+    // --- In place (cBitFilter_geometry.cpp, _resize.cpp). Source is usually bits() itself. Sizes that are below 1,
+    // above 32767 a side or above 256 Mi pixels raise OutOfRange.
     /// All four bytes of the region's pixels become 0.
     void BitsBlack();
-    /// The rectangle, cut to this object's present size, out of Source. Empty: OutOfRange, nothing changed.
+    /// The rectangle, cut to this object's present size, out of Source. Empty or not within Source: OutOfRange.
     void BitsCrop(const Bits& Source, int Left, int Top, int Right, int Bottom);
     /// The same, cut to Source's size; pixels outside of the region become 0, 0, 0 with a fourth byte of 255.
     void BitsCropMasked(const Bits& Source, int Left, int Top, int Right, int Bottom);
-    /// Bilinear resize. Sizes below 1 raise OutOfRange.
+    /// Bilinear resize. The last column and row blend with the margin.
     void BitsResample(const Bits& Source, int NewWidth, int NewHeight);
-    /// Nearest-neighbour resize. Sizes below 1 raise OutOfRange.
+    /// Nearest-neighbour resize.
     void BitsResize(const Bits& Source, int NewWidth, int NewHeight);
     /// A quarter turn: the pixel (x, y) goes to (y, maxX-x).
     void BitsRotate90(const Bits& Source);
-    /// The upper left Width by Height pixels of Picture.
+    /// The upper left Width by Height pixels of Picture, black where it is smaller. A null Picture changes nothing.
     void BitsTakeFromPicture(const QImage& Picture, int Width, int Height);
 
     // --- Colour filters (cBitFilter_colour.cpp, _tone.cpp, _distance.cpp, _hsl.cpp, _palette.cpp)
@@ -146,7 +147,10 @@ class cBitFilter {
     template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel);
     template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
     Bits rankFilter(int Mode, RankWindow window);
-    void progressDue(int done, int of);
+    template <class Tile> Bits eachTile(Tile&& tile);
+    template <class Map> Bits eachSource(bool Clean, Map&& map);
+    void crop(const Bits& Source, const Rect& rectangle, bool masked);
+    void progressDue(std::int64_t done, std::int64_t of);
     void report(int percent);
     /// The numbers of one run of a filter.
     Random nextRandom();

@@ -74,5 +74,6 @@ std::vector<Operation> colourOperations();
 std::vector<Operation> neighbourOperations();
 std::vector<Operation> deformOperations();
 std::vector<Operation> styliseOperations();
+std::vector<Operation> generateOperations();
 
 } // namespace velara

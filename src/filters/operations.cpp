@@ -30,8 +30,8 @@ std::span<const Operation> operations()
 {
     static const std::vector<Operation> all = [] {
         std::vector<Operation> list;
-        for (auto family :
-             {geometryOperations, colourOperations, neighbourOperations, deformOperations, styliseOperations})
+        for (auto family : {geometryOperations, colourOperations, neighbourOperations, deformOperations,
+                            styliseOperations, generateOperations})
             for (Operation& op : family()) list.push_back(std::move(op));
         return list;
     }();

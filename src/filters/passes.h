@@ -1,6 +1,8 @@
 // The calling patterns of the filters. A filter is the body of a loop that is written here.
 #pragma once
+#include "filters/RuntimeError.h"
 #include "filters/cBitFilter.h"
+#include <algorithm>
 #include <cstring>
 #include <type_traits>
 
@@ -25,6 +27,28 @@ inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
     if (y1 > y0)
         std::memcpy(to.row(y0) - Bits::kMargin, from.row(y0) - Bits::kMargin,
                     sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
+}
+
+/// Zeroes the margin of two pixels around the picture.
+inline void clearMargin(Bits& bits)
+{
+    const auto columns = static_cast<std::size_t>(bits.stride());
+    for (const int y : {-2, -1, bits.height(), bits.height() + 1})
+        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * columns);
+    for (int y = 0; y < bits.height(); ++y) {
+        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
+        std::memset(bits.row(y) + bits.width(), 0, sizeof(Pixel) * Bits::kMargin);
+    }
+}
+
+/// Sizes of pictures end at 32767 a side and 256 Mi pixels; OutOfRange above and below 1.
+inline void checkSize(int width, int height)
+{
+    constexpr int kMostPixelsASide = 32767;
+    constexpr std::int64_t kMostPixels = 256 << 20;
+    if (width < 1 || height < 1 || width > kMostPixelsASide || height > kMostPixelsASide ||
+        std::int64_t(width) * height > kMostPixels)
+        throw RuntimeError(Fault::OutOfRange);
 }
 
 /// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the

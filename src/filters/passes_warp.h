@@ -1,0 +1,51 @@
+// The calling patterns of the filters that move pixels: tile by tile, so that sources and targets stay in the cache.
+#pragma once
+#include "filters/kernels_warp.h"
+#include "filters/passes.h"
+
+namespace velara {
+
+/// The targets of the box inside the picture, in tiles. tile(out, x0, x1, y0, y1) writes all four bytes of each pixel
+/// of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
+template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
+{
+    constexpr int kSide = 64;
+    const Bits in = bits_;
+    const Box box = insidePicture(GetBounds(0), in);
+    if (box.isEmpty()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    for (int y0 = box.ymin; y0 <= box.ymax; y0 += kSide) {
+        const int y1 = std::min(y0 + kSide, box.ymax + 1);
+        for (int x0 = box.xmin; x0 <= box.xmax; x0 += kSide) tile(out, x0, std::min(x0 + kSide, box.xmax + 1), y0, y1);
+        for (int y = y0; y < y1; ++y) {
+            copyPixels(in.row(y), out.row(y), -Bits::kMargin, box.xmin);
+            copyPixels(in.row(y), out.row(y), box.xmax + 1, in.width() + Bits::kMargin);
+            progressDue(y, in.maxY());
+        }
+    }
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    report(100);
+    return out;
+}
+
+/// Each target of the box takes the pixel at the source position of map, if the region contains that position; else it
+/// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= 64 targets from
+/// (x0, y).
+template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map)
+{
+    const Bits in = bits_;
+    const SourcePixels source(in, region_);
+    return eachTile([&](Bits& out, int x0, int x1, int y0, int y1) {
+        alignas(64) std::int32_t sx[64], sy[64];
+        for (int y = y0; y < y1; ++y) {
+            map(y, x0, x1 - x0, sx, sy);
+            source.take(sx, sy, x1 - x0, in.row(y) + x0, Clean, out.row(y) + x0);
+        }
+    });
+}
+
+} // namespace velara
