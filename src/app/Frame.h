@@ -1,6 +1,7 @@
 // Frame: what documents, tools and dialogs may ask of the frame around them. fMain is the real one; tests bring their
 // own.
 #pragma once
+#include "app/ToolStores.h"
 #include <QString>
 
 namespace velara {
@@ -40,6 +41,9 @@ class Frame {
     virtual QString UniqueCaption(const QString& text) = 0;
     /// A number for a new document; each call gives the next.
     virtual int nextDocumentNumber() = 0;
+
+    /// What the mouse tools of all documents share.
+    ToolStores toolStores;
 };
 
 } // namespace velara

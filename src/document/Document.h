@@ -1,6 +1,7 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
 // its window; the batch program uses it alone.
 #pragma once
+#include "document/TouchedTiles.h"
 #include "document/UndoStore.h"
 #include "document/cBitRegion.h"
 #include "filters/Bits.h"
@@ -20,6 +21,8 @@ class Document {
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
     const velara::Bits& Bits() const { return bits_; }
+    /// The picture itself, for the paint primitives. Never to be held over a yield.
+    velara::Bits& edit() { return bits_; }
     /// Ignored without a picture, as is a buffer that is empty.
     void setBits(const velara::Bits& bits);
     /// Takes the buffer as the picture, whatever there was, and wipes the selection.
@@ -39,6 +42,7 @@ class Document {
     bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
 
     cBitRegion Region;
+    TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
     UndoStore undo;
     bool Changed = false;
     bool Zoomed = false; // a sizing command was the last change

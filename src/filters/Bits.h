@@ -60,6 +60,10 @@ class Bits {
         return reinterpret_cast<std::uint8_t*>(first());
     }
 
+    /// True when another value shares the block, so that the next write copies it.
+    bool isShared() const { return block_.use_count() > 1; }
+    /// Tells blocks apart without keeping them alive.
+    std::weak_ptr<const std::uint8_t[]> block() const { return block_; }
     /// True when both share one block, so that they are equal without a look at the pixels.
     bool sharesWith(const Bits& other) const { return block_ == other.block_; }
     /// Equal sizes and equal bytes, margin included.

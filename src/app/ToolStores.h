@@ -1,0 +1,17 @@
+// ToolStores: the pixels that the mouse tools share among all documents, kept by the frame.
+#pragma once
+#include "filters/Bits.h"
+
+namespace velara {
+
+struct ToolStores {
+    Bits stamp;               // the chosen stamp; empty: the stamp tools do nothing
+    Bits text;                // grey shape of the text to be placed, channel 0, dark is ink; empty: nothing to place
+    Bits moved;               // cut out at the press of a content move
+    bool textPending = false; // a text waits to be placed
+    // The pane that pops up from the strip has an opacity of its own for moved content.
+    bool useMovePressure = false;
+    int movePressure = 50;
+};
+
+} // namespace velara

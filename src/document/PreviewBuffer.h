@@ -1,0 +1,41 @@
+// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal but for
+// the tiles that were painted since the last commit. So a drag step restores, and a commit hands over, only what was
+// touched; the result is that of copying the whole picture. Only the first stroke after another command pays one whole
+// copy.
+#pragma once
+#include "document/Document.h"
+
+namespace velara {
+
+class cBitFilter;
+
+class PreviewBuffer {
+  public:
+    /// Both outlive this object. What is written into the document is marked in Document::touched; a picture that
+    /// another command replaces is noticed.
+    PreviewBuffer(Document& document, cBitFilter& filter) : document_(document), filter_(filter) {}
+
+    /// Before the first write of a drag: gives the document a block of its own. An engine that holds a picture of
+    /// another size is given the document's.
+    void begin();
+    /// document := committed picture.
+    void restore();
+    /// committed picture := document.
+    void commit();
+    /// Around all that was restored since the last call.
+    Rect takeRestored() { return std::exchange(restored_, {}); }
+
+  private:
+    bool inStep() const;
+    void compare();
+    void remember();
+    void settle(Bits& target, const Bits& source);
+
+    Document& document_;
+    cBitFilter& filter_;
+    bool whole_ = false; // nothing is known of how the two differ
+    Rect restored_;
+    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last known to be in step
+};
+
+} // namespace velara
