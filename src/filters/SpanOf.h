@@ -4,8 +4,9 @@
 
 namespace velara {
 
-/// A kernel writes the pixels x0..x1-1 of the row at to. Both pointers are to x = 0; the source's rows above and below
-/// lie stride pixels away and may be margin. The fourth byte comes from the source unless the kernel says otherwise.
+/// By value, so that a kernel's stores cannot touch it. A kernel writes the pixels x0..x1-1 of the row at to.
+/// Both pointers are to x = 0; the source's rows above and below lie stride pixels away and may be margin. The fourth
+/// byte comes from the source unless the kernel says otherwise.
 struct SpanOf {
     const Pixel* from;
     std::ptrdiff_t stride;

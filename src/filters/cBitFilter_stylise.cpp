@@ -9,10 +9,10 @@ namespace {
 
 constexpr Colour kBlack = 0, kWhite = 0xFFFFFF;
 
-auto twoTone(Colour bright, Colour dark)
+auto twoTone(Colour bright, Colour dark, std::ptrdiff_t stride)
 {
     return [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        styliseKernels().twoTone({from, 0, to, x0, x1}, pixelOf(bright), pixelOf(dark));
+        styliseKernels().twoTone({from, stride, to, x0, x1}, pixelOf(bright), pixelOf(dark));
     };
 }
 
@@ -31,12 +31,12 @@ Bits cBitFilter::SKETCH(int Level, bool Mono, Colour Color)
 
 Bits cBitFilter::THERMIQUE()
 {
-    return eachSpan(0, [](const Pixel* from, Pixel* to, int x0, int x1) {
-        styliseKernels().strongest({from, 0, to, x0, x1});
+    return eachSpan(0, [stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
+        styliseKernels().strongest({from, stride, to, x0, x1});
     });
 }
 
-Bits cBitFilter::XBLACK() { return eachSpan(0, twoTone(kBlack, kWhite)); }
-Bits cBitFilter::PHOTOCOP() { return eachSpan(0, twoTone(kWhite, kBlack)); }
+Bits cBitFilter::XBLACK() { return eachSpan(0, twoTone(kBlack, kWhite, bits_.stride())); }
+Bits cBitFilter::PHOTOCOP() { return eachSpan(0, twoTone(kWhite, kBlack, bits_.stride())); }
 
 } // namespace velara

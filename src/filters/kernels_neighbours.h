@@ -26,13 +26,13 @@ struct Relieved {
 };
 
 struct NeighbourKernels {
-    void (*weighted)(const SpanOf&, const Weighted&);
-    void (*ring)(const SpanOf&, int radius);                                   // 0 to 2
-    void (*contour)(const SpanOf&, int thriceLevel, std::uint32_t background); // background 0x00RRGGBB
-    void (*emboss)(const SpanOf&, const Relieved&);
-    void (*relief)(const SpanOf&); // channels 1 to 3; blue stays
+    void (*weighted)(SpanOf, Weighted);
+    void (*ring)(SpanOf, int radius);                                   // 0 to 2
+    void (*contour)(SpanOf, int thriceLevel, std::uint32_t background); // background 0x00RRGGBB
+    void (*emboss)(SpanOf, Relieved);
+    void (*relief)(SpanOf); // channels 1 to 3; blue stays
     /// on where 8*s - S8(s) >= threshold, s the sum of the channels; 0x00RRGGBB. Off: the colour, or the pixel itself.
-    void (*sketch)(const SpanOf&, int threshold, std::uint32_t on, std::uint32_t off, bool offKeeps);
+    void (*sketch)(SpanOf, int threshold, std::uint32_t on, std::uint32_t off, bool offKeeps);
 };
 const NeighbourKernels& neighbourKernels();
 

@@ -10,10 +10,10 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-template <class Better> HWY_INLINE void rank(const SpanOf& s, RankWindow window, Better better)
+template <class Better> HWY_INLINE void rank(SpanOf s, RankWindow window, Better better)
 {
     const auto run = [&](auto ofNeighbours) HWY_ATTR {
-        forPixels<std::uint8_t>(s.to, s.x0, s.x1, [&](auto d, int x) HWY_ATTR {
+        forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
             const Pixel* p = s.from + x;
             const auto pair = [&](std::ptrdiff_t offset)
                                   HWY_ATTR { return better(loadBytes(d, p - offset), loadBytes(d, p + offset)); };
@@ -32,12 +32,12 @@ template <class Better> HWY_INLINE void rank(const SpanOf& s, RankWindow window,
         run([&](auto pair) HWY_ATTR { return better(sides(pair), diagonals(pair)); });
 }
 
-void least(const SpanOf& s, RankWindow window)
+void least(SpanOf s, RankWindow window)
 {
     rank(s, window, [](auto a, auto b) HWY_ATTR { return hn::Min(a, b); });
 }
 
-void greatest(const SpanOf& s, RankWindow window)
+void greatest(SpanOf s, RankWindow window)
 {
     rank(s, window, [](auto a, auto b) HWY_ATTR { return hn::Max(a, b); });
 }

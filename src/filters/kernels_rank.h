@@ -8,8 +8,8 @@ namespace velara {
 enum class RankWindow { Square, Sides, Diagonals };
 
 struct RankKernels {
-    void (*least)(const SpanOf&, RankWindow);
-    void (*greatest)(const SpanOf&, RankWindow);
+    void (*least)(SpanOf, RankWindow);
+    void (*greatest)(SpanOf, RankWindow);
 };
 const RankKernels& rankKernels();
 

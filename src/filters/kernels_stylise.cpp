@@ -10,9 +10,9 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-void strongest(const SpanOf& s)
+void strongest(SpanOf s)
 {
-    forPixels<std::uint8_t>(s.to, s.x0, s.x1, [&](auto d, int x) HWY_ATTR {
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
         const hn::Repartition<std::uint32_t, decltype(d)> d32;
         const auto three = hn::Set(d32, 0x00FFFFFFu);
         const auto source = hn::BitCast(d32, loadBytes(d, s.from + x)), colour = hn::And(source, three);
@@ -28,9 +28,9 @@ void strongest(const SpanOf& s)
     });
 }
 
-void twoTone(const SpanOf& s, std::uint32_t bright, std::uint32_t dark)
+void twoTone(SpanOf s, std::uint32_t bright, std::uint32_t dark)
 {
-    forPixels<std::uint8_t>(s.to, s.x0, s.x1, [&](auto d, int x) HWY_ATTR {
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
         const hn::Repartition<std::uint32_t, decltype(d)> d32;
         const auto source = hn::BitCast(d32, loadBytes(d, s.from + x));
         const auto highBits = hn::Set(d32, 0x00808080u), above = hn::And(source, highBits);

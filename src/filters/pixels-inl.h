@@ -6,7 +6,7 @@
 #define VELARA_PIXELS_INL
 #endif
 
-#include "filters/Bits.h"
+#include "filters/SpanOf.h"
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -28,10 +28,65 @@ template <class D> HWY_INLINE hn::Vec<D> channels(D d, const Pixel* p)
     return hn::PromoteTo(d, loadBytes(Bytes<D>(), p));
 }
 
-/// 16-bit lanes: all ones in the channels 0 to 2, zero in the fourth; to be used on signed lanes.
-template <class D> HWY_INLINE hn::Vec<D> threeChannels(D d)
+/// The channels of pixels in signed 16-bit lanes: even has blue and red, odd has green and the fourth byte of each.
+template <class V> struct Halves {
+    V even, odd;
+};
+
+template <class V, class F> HWY_INLINE Halves<V> each(const Halves<V>& h, F f) { return {f(h.even), f(h.odd)}; }
+
+template <class V, class F> HWY_INLINE Halves<V> each(const Halves<V>& a, const Halves<V>& b, F f)
 {
-    return hn::BitCast(d, hn::Set(hn::Repartition<std::int64_t, D>(), 0x0000FFFFFFFFFFFF));
+    return {f(a.even, b.even), f(a.odd, b.odd)};
+}
+
+/// A weighted sum of pixels, its lanes still in one: whole = even + 256 * odd, modulo 2^16.
+template <class V> struct Taps {
+    V whole, odd;
+    friend HWY_INLINE Taps operator+(const Taps& a, const Taps& b)
+    {
+        return {hn::Add(a.whole, b.whole), hn::Add(a.odd, b.odd)};
+    }
+    friend HWY_INLINE Taps operator-(const Taps& a, const Taps& b)
+    {
+        return {hn::Sub(a.whole, b.whole), hn::Sub(a.odd, b.odd)};
+    }
+    template <int kBits> HWY_INLINE Taps times() const
+    {
+        return {hn::ShiftLeft<kBits>(whole), hn::ShiftLeft<kBits>(odd)};
+    }
+    HWY_INLINE Halves<V> split() const { return {hn::Sub(whole, hn::ShiftLeft<8>(odd)), odd}; }
+};
+
+/// The pixels from p on; d has signed 16-bit lanes, two a pixel.
+template <class D> HWY_INLINE Taps<hn::Vec<D>> tap(D d, const Pixel* p)
+{
+    const hn::RebindToUnsigned<D> du;
+    const auto v = hn::BitCast(du, loadBytes(hn::Repartition<std::uint8_t, D>(), p));
+    return {hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(v))};
+}
+
+/// Back to bytes; all lanes must be within 0..255.
+template <class D8, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, const Halves<V>& h)
+{
+    return hn::BitCast(d8, hn::Or(h.even, hn::ShiftLeft<8>(h.odd)));
+}
+
+/// Back to bytes, limited to 0..255.
+template <class D8, class V> HWY_INLINE hn::Vec<D8> clampedToBytes(D8 d8, const Halves<V>& h)
+{
+    const hn::Repartition<std::int16_t, D8> d;
+    return joined(
+        d8, each(h, [&](V v) HWY_ATTR { return hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, std::int16_t{255})); }));
+}
+
+/// The sum of the three channels of each pixel, a 32-bit lane a pixel. On x86 the pairs are neighbours.
+template <class D, class V> HWY_INLINE auto sumOfChannels(D d, const Halves<V>& h)
+{
+    const hn::Repartition<std::int32_t, D> d32;
+    auto unused = hn::Zero(d32);
+    const auto redBlue = hn::ReorderWidenMulAccumulate(d32, h.even, hn::Set(d, std::int16_t{1}), hn::Zero(d32), unused);
+    return hn::ReorderWidenMulAccumulate(d32, h.odd, hn::BitCast(d, hn::Set(d32, 1)), redBlue, unused);
 }
 
 /// colour with the fourth bytes of source.
@@ -41,27 +96,32 @@ template <class D, class V = hn::Vec<D>> HWY_INLINE V withFourthOf(D d, V source
     return hn::Or(hn::And(three, colour), hn::AndNot(three, source));
 }
 
-/// Spans of this many pixels are written past the cache: such pictures do not fit into it.
+/// Spans of this many pixels are written past the cache: such pictures do not fit into it. Whole cache lines alone, as
+/// parts of a line cost more than they save.
 constexpr int kStreamFrom = 1024;
+constexpr std::uintptr_t kCacheLine = 64;
+constexpr int kLinePixels = 16;
 
-/// Writes the pixels x0..x1-1 of the row at to. body(d, x) gives the bytes of the pixels from x on, four lanes of d a
-/// pixel; d has lanes of type T, as many as a vector has or, at the ends of the span, those of one pixel.
-template <class T, class Body> HWY_INLINE void forPixels(Pixel* HWY_RESTRICT to, int x0, int x1, Body body)
+/// Writes the pixels of the span. body(d, x) gives the bytes of the pixels from x on, four lanes of d a pixel; d has
+/// lanes of type T, as many as a vector has or, at the ends of the span, those of one pixel.
+template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
 {
     const hn::ScalableTag<T> many;
     const hn::CappedTag<T, 4> one;
     const int n = static_cast<int>(hn::Lanes(many)) / 4;
-    const auto at = [to](int x) HWY_ATTR { return reinterpret_cast<std::uint8_t*>(to + x); };
-    int x = x0;
-    if (x1 - x0 >= kStreamFrom) {
-        const auto step = static_cast<std::uintptr_t>(n) * sizeof(Pixel);
-        for (; reinterpret_cast<std::uintptr_t>(at(x)) % step != 0; ++x)
-            hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x));
-        for (; x + n <= x1; x += n) hn::Stream(body(many, x), Bytes<decltype(many)>(), at(x));
-    } else {
-        for (; x + n <= x1; x += n) hn::StoreU(body(many, x), Bytes<decltype(many)>(), at(x));
+    const auto at = [&](int x) HWY_ATTR { return reinterpret_cast<std::uint8_t*>(s.to + x); };
+    const auto single = [&](int x) HWY_ATTR { hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x)); };
+    int x = s.x0;
+    if (s.x1 - s.x0 >= kStreamFrom) {
+        const Pixel* ahead = s.from + 2 * s.stride; // the row after the one that the kernels are about to read first
+        while (reinterpret_cast<std::uintptr_t>(at(x)) % kCacheLine != 0) single(x++);
+        for (; x + kLinePixels <= s.x1; x += kLinePixels) {
+            __builtin_prefetch(ahead + x);
+            for (int i = 0; i < kLinePixels; i += n) hn::Stream(body(many, x + i), Bytes<decltype(many)>(), at(x + i));
+        }
     }
-    for (; x < x1; ++x) hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x));
+    for (; x + n <= s.x1; x += n) hn::StoreU(body(many, x), Bytes<decltype(many)>(), at(x));
+    for (; x < s.x1; ++x) single(x);
 }
 
 } // namespace velara::HWY_NAMESPACE

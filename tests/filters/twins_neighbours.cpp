@@ -3,6 +3,7 @@
 #include "support/twins.h"
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 
 namespace velara {
 namespace {
@@ -183,10 +184,52 @@ Bits relief(const Bits& bits, const Region& region, const Arguments&)
     });
 }
 
+std::vector<std::vector<int>> maskOf(std::string text)
+{
+    std::vector<std::vector<int>> mask(1);
+    std::replace(text.begin(), text.end(), '/', '\n');
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line); mask.emplace_back()) {
+        std::istringstream numbers(line);
+        for (int number; numbers >> number;) mask.back().push_back(number);
+    }
+    mask.pop_back();
+    return mask;
+}
+
+Bits maskFilter(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const auto mask = maskOf(std::get<std::string>(a[0]));
+    const int M = int(mask.size()) - 1, half = M / 2;
+    const Source s{bits};
+    const Rect box = region.bounds();
+    Wide xmin = box.left - half, xmax = box.right - 1 - half, ymin = box.top - half, ymax = box.bottom - 1 - half;
+    if (flagAt(a, 5)) {
+        xmin = std::max<Wide>(xmin, 0), ymin = std::max<Wide>(ymin, 0);
+        xmax = std::min<Wide>(xmax, bits.maxX() - M), ymax = std::min<Wide>(ymax, bits.maxY() - M);
+    }
+    Bits out = bits;
+    for (Wide y = ymin; y <= ymax; ++y)
+        for (Wide x = xmin; x <= xmax; ++x) {
+            const int tx = int(x) + half, ty = int(y) + half;
+            if (!region.contains(tx, ty) || tx < 0 || ty < 0 || tx > bits.maxX() || ty > bits.maxY()) continue;
+            const Wide divisor = roundEven(numberAt(a, 1));
+            if (divisor == 0) throw RuntimeError(Fault::DivisionByZero);
+            for (int c = 0; c < 3; ++c) {
+                Wide sum = 0;
+                for (int i = 0; i <= M; ++i)
+                    for (int j = 0; j <= M; ++j) sum += Wide{s.at(x + i, y + j, c)} * mask[j][i];
+                out.at(tx, ty).c[c] = clamp(sum / divisor + wholeAt(a, 4 - c)); // blue is the last
+            }
+        }
+    return out;
+}
+
 const TwinRows rows{
-    {"SHARPEN", sharpen}, {"SOFTEN", soften}, {"EDGEENHANCE", edgeEnhance},   {"Blurs", blurs},
-    {"DILATE", dilate},   {"ERODE", erode},   {"CONTOUR", contour},           {"EMBOSS", emboss},
-    {"ENGRAVE", engrave}, {"RELIEF", relief}, {"RankFilterN4", rankFilterN4}, {"RankFilterND", rankFilterND}};
+    {"SHARPEN", sharpen},      {"SOFTEN", soften}, {"EDGEENHANCE", edgeEnhance},   {"Blurs", blurs},
+    {"DILATE", dilate},        {"ERODE", erode},   {"CONTOUR", contour},           {"EMBOSS", emboss},
+    {"ENGRAVE", engrave},      {"RELIEF", relief}, {"RankFilterN4", rankFilterN4}, {"RankFilterND", rankFilterND},
+    {"MaskFilter", maskFilter}};
 
 } // namespace
 } // namespace velara
