@@ -18,6 +18,7 @@ constexpr Sample kSamples[] = {
     {"cur/deerstalker.cur", 32, 32}, {"cur/hand.cur", 32, 32},
     {"cut/ramp.cut", 96, 64},
     {"dib/clipboard.dib", 296, 176}, {"dib/input.dib", 70, 46},
+    {"emf/drawing.emf", 110, 110}, {"emf/test-009.emf", 55, 55}, {"emf/test-013.emf", 554, 664},
     {"gif/alpha_gif_a.gif", 256, 256}, {"gif/hopper.gif", 128, 128}, {"gif/interlaced.gif", 32, 32},
     {"ico/black_and_white.ico", 16, 16}, {"ico/multiple-sizes.ico", 16, 16}, {"ico/png-32bpp-alpha.ico", 32, 32},
     {"iff/gradient.iff", 320, 200}, {"iff/ham6.iff", 256, 256}, {"iff/small-24bit.iff", 10, 10},
@@ -39,6 +40,7 @@ constexpr Sample kSamples[] = {
     {"tga/ccm8.tga", 128, 128}, {"tga/ctc24.tga", 128, 128}, {"tga/utc32.tga", 128, 128},
     {"tif/hopper_g4.tif", 128, 128}, {"tif/hopper_gray_4bpp.tif", 128, 128}, {"tif/hopper_lzw.tif", 128, 128},
     {"wbmp/input.wbmp", 70, 46},
+    {"wmf/drawing.wmf", 109, 109}, {"wmf/formula1.wmf", 222, 41}, {"wmf/fulltest.wmf", 1056, 816},
 };
 // clang-format on
 

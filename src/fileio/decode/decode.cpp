@@ -18,6 +18,24 @@ template <int fif, Mend mend = nullptr> Decoded byFreeImage(FileBytes& file)
     return readByFreeImage(file, fif);
 }
 
+/// A window of one column or row is read as one of two, then cut.
+Decoded readPcx(FileBytes& file)
+{
+    const bool isColumn = file.little16(4) == file.little16(8), isRow = file.little16(6) == file.little16(10);
+    mendPcx(file);
+    Decoded picture = readByFreeImage(file, FIF_PCX);
+    if (picture.ok() && isRow) picture.height = 1;
+    if (picture.ok() && isColumn) {
+        picture.width = 1;
+        picture.row = [wide = std::move(picture.row)](int y, Pixel* row) {
+            Pixel both[2];
+            wide(y, both);
+            *row = both[0];
+        };
+    }
+    return picture;
+}
+
 struct Reader {
     const char* extension;
     const char* name; // as in "it is damaged or not a PNG picture"
@@ -26,31 +44,31 @@ struct Reader {
 
 // clang-format off
 constexpr Reader kReaders[] = {                 // the first row of an extension counts
-    {"gif",  "GIF",                 [](FileBytes& f) { return readByQt(f, "gif"); }},
-    {"wmf",  "Windows metafile",    readWmf},
-    {"emf",  "enhanced metafile",   readEmf},
-    {"ico",  "icon",                [](FileBytes& f) { return readByQt(f, "ico"); }},
-    {"cur",  "cursor",              [](FileBytes& f) { return readByQt(f, "cur"); }},
-    {"dib",  "bitmap",              readDib},
-    {"bmp",  "BMP",                 byFreeImage<FIF_BMP, mendBmp>},
-    {"cut",  "Dr. Halo",            byFreeImage<FIF_CUT>},
-    {"iff",  "IFF",                 byFreeImage<FIF_IFF>},
-    {"jpg",  "JPEG",                byFreeImage<FIF_JPEG, mendJpeg>},
-    {"koa",  "Koala",               byFreeImage<FIF_KOALA>},
-    {"lbm",  "IFF",                 byFreeImage<FIF_LBM>},
-    {"mng",  "MNG",                 byFreeImage<FIF_MNG>},
-    {"pcd",  "Photo CD",            byFreeImage<FIF_PCD>},
-    {"pcx",  "PCX",                 byFreeImage<FIF_PCX>},
-    {"png",  "PNG",                 byFreeImage<FIF_PNG>},
-    {"psd",  "Photoshop",           byFreeImage<FIF_PSD>},
-    {"ras",  "Sun raster",          byFreeImage<FIF_RAS, mendRas>},
-    {"tga",  "Targa",               byFreeImage<FIF_TARGA>},
-    {"tif",  "TIFF",                byFreeImage<FIF_TIFF>},
-    {"wbmp", "WBMP",                byFreeImage<FIF_WBMP>},
-    {"pbm",  "portable anymap",     byFreeImage<FIF_PPM, mendPnm>},
-    {"pgm",  "portable anymap",     byFreeImage<FIF_PPM, mendPnm>},
-    {"ppm",  "portable anymap",     byFreeImage<FIF_PPM, mendPnm>},
-    {"jng",  "BMP",                 byFreeImage<FIF_BMP, mendBmp>}, // odd, and it stays: .jng goes to the BMP reader
+    {"gif",  "a GIF",                [](FileBytes& f) { return readByQt(f, "gif"); }},
+    {"wmf",  "a Windows metafile",   readWmf},
+    {"emf",  "an enhanced metafile", readEmf},
+    {"ico",  "an icon",              [](FileBytes& f) { return readByQt(f, "ico"); }},
+    {"cur",  "a cursor",             [](FileBytes& f) { return readByQt(f, "cur"); }},
+    {"dib",  "a bitmap",             readDib},
+    {"bmp",  "a BMP",                byFreeImage<FIF_BMP, mendBmp>},
+    {"cut",  "a Dr. Halo",           byFreeImage<FIF_CUT>},
+    {"iff",  "an IFF",               byFreeImage<FIF_IFF>},
+    {"jpg",  "a JPEG",               byFreeImage<FIF_JPEG, mendJpeg>},
+    {"koa",  "a Koala",              byFreeImage<FIF_KOALA>},
+    {"lbm",  "an IFF",               byFreeImage<FIF_LBM>},
+    {"mng",  "an MNG",               byFreeImage<FIF_MNG>},
+    {"pcd",  "a Photo CD",           byFreeImage<FIF_PCD>},
+    {"pcx",  "a PCX",                readPcx},
+    {"png",  "a PNG",                byFreeImage<FIF_PNG>},
+    {"psd",  "a Photoshop",          byFreeImage<FIF_PSD>},
+    {"ras",  "a Sun raster",         byFreeImage<FIF_RAS, mendRas>},
+    {"tga",  "a Targa",              byFreeImage<FIF_TARGA>},
+    {"tif",  "a TIFF",               byFreeImage<FIF_TIFF>},
+    {"wbmp", "a WBMP",               byFreeImage<FIF_WBMP>},
+    {"pbm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
+    {"pgm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
+    {"ppm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
+    {"jng",  "a BMP",                byFreeImage<FIF_BMP, mendBmp>}, // odd, and it stays: .jng goes to the BMP reader
 };
 // clang-format on
 
@@ -67,7 +85,7 @@ try {
     if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
     Decoded decoded = reader->read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
-        decoded.reason = QString("it is damaged or not a %1 picture").arg(reader->name);
+        decoded.reason = QString("it is damaged or not %1 picture").arg(reader->name);
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

@@ -96,6 +96,51 @@ void mendPnm(FileBytes& file)
     file.replace(std::move(raw));
 }
 
+void mendPcx(FileBytes& file)
+{
+    constexpr std::size_t kHeader = 128;
+    enum Field : std::size_t {
+        Encoding = 2,
+        BitsAPixel = 3,
+        Left = 4,
+        Top = 6,
+        Right = 8,
+        Bottom = 10,
+        Planes = 65,
+        BytesALine = 66
+    };
+    const std::int64_t width = std::int64_t{file.little16(Right)} - file.little16(Left) + 1;
+    const std::int64_t height = std::int64_t{file.little16(Bottom)} - file.little16(Top) + 1;
+    const std::size_t bytesARow = std::size_t{file.byte(Planes)} * file.little16(BytesALine);
+    constexpr std::size_t kMostFromAByte = 32; // a run of 63 takes two
+    const bool isTrueColour = file.byte(BitsAPixel) == 8 && file.byte(Planes) == 3;
+    if (file.byte(0) != 10 || file.byte(Encoding) != 1 || !isTrueColour || !isReadableSize(width, height) ||
+        bytesARow == 0 || bytesARow * static_cast<std::size_t>(height) > kMostFromAByte * file.size())
+        return;
+
+    const std::size_t rows = static_cast<std::size_t>(height) + (height == 1 ? 1 : 0);
+    std::vector<std::uint8_t> flat(kHeader + rows * bytesARow);
+    std::copy_n(file.bytes().data(), kHeader, flat.data());
+    const auto put16 = [&](Field field, std::uint32_t value) {
+        flat[field] = static_cast<std::uint8_t>(value);
+        flat[field + 1] = static_cast<std::uint8_t>(value >> 8);
+    };
+    flat[Encoding] = 0;
+    if (height == 1) put16(Bottom, file.little16(Bottom) + 1);
+    if (width == 1) put16(Right, file.little16(Right) + 1);
+
+    std::size_t to = kHeader;
+    const std::size_t end = kHeader + static_cast<std::size_t>(height) * bytesARow;
+    for (std::size_t at = kHeader; to < end && at < file.size();) {
+        const std::uint32_t first = file.byte(at++);
+        const bool isRun = first >= 0xc0;
+        const std::size_t run = std::min<std::size_t>(isRun ? first & 0x3f : 1, end - to);
+        std::fill_n(flat.data() + to, run, static_cast<std::uint8_t>(isRun ? file.byte(at++) : first));
+        to += run;
+    }
+    file.replace(std::move(flat));
+}
+
 void mendRas(FileBytes& file)
 {
     constexpr std::size_t kHeader = 32;

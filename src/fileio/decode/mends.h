@@ -11,6 +11,9 @@ void mendBmp(FileBytes& file);
 void mendJpeg(FileBytes& file);
 /// Plain bit maps, which may come without blanks between the pixels, become raw ones.
 void mendPnm(FileBytes& file);
+/// Run-length encoded true colour pictures become flat ones: the reader loses runs that go on into the next row. A
+/// window of one column or row, which is refused, becomes one of two; the second holds nothing of the picture.
+void mendPcx(FileBytes& file);
 /// Palette pictures become true colour ones: a full palette of 256 is refused.
 void mendRas(FileBytes& file);
 

@@ -7,9 +7,6 @@
 
 namespace velara::decode {
 
-namespace {
-
-/// The rows of a picture, transparent pixels on white.
 Decoded onWhite(const QImage& image)
 {
     const QImage colours = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -26,8 +23,6 @@ Decoded onWhite(const QImage& image)
             },
             {}};
 }
-
-} // namespace
 
 Decoded readByQt(FileBytes& file, const char* format)
 {

@@ -3,7 +3,12 @@
 #include "fileio/decode/FileBytes.h"
 #include "fileio/decode/decode.h"
 
+class QImage;
+
 namespace velara::decode {
+
+/// The rows of a picture, transparent pixels on white.
+Decoded onWhite(const QImage& image);
 
 /// fif is FreeImage's format number.
 Decoded readByFreeImage(FileBytes& file, int fif);

@@ -1,0 +1,77 @@
+#include "fileio/ModFreeImage.h"
+#include <FreeImage.h>
+#include <cstring>
+#include <sys/mman.h>
+
+namespace velara {
+
+namespace {
+
+QString& lastError()
+{
+    static QString text;
+    return text;
+}
+
+void FreeImageMessage(FREE_IMAGE_FORMAT, const char* message)
+{
+    FreeImageSetError(QString::fromLocal8Bit(message), false);
+}
+
+} // namespace
+
+FreeImageStart::FreeImageStart()
+{
+    lastError().clear();
+    FreeImage_Initialise(0);
+    FreeImage_SetOutputMessage(FreeImageMessage);
+}
+
+FreeImageStart::~FreeImageStart() { FreeImage_DeInitialise(); }
+
+const QString& FreeImageLastError() { return lastError(); }
+
+void FreeImageSetError(const QString& text, bool keepFirst)
+{
+    if (!keepFirst || lastError().isEmpty()) lastError() = text;
+}
+
+void packRow24(const Pixel* row, std::uint8_t* to, int width)
+{
+    int x = 0;
+    for (; x < width - 1; ++x, to += 3) std::memcpy(to, row + x, 4); // the fourth byte is overwritten by the next pixel
+    std::memcpy(to, row + x, 3);
+}
+
+// FreeImage's own allocation faults its pages in one by one and clears them; ours come in huge pages.
+Dib24::Dib24(const Bits& bits)
+{
+    if (bits.isNull()) {
+        FreeImageSetError("[FreeImage_DIB_From_BMP] No bitmap specified to convert", true);
+        return;
+    }
+    const int width = bits.width(), height = bits.height();
+    const std::size_t pitch = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
+    size_ = pitch * static_cast<std::size_t>(height);
+    pixels_ = mmap(nullptr, size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (pixels_ == MAP_FAILED) {
+        pixels_ = nullptr;
+        FreeImageSetError("[FreeImage_DIB_From_BMP] FreeImage_Allocate failed to create a DIB to work with", true);
+        return;
+    }
+    madvise(pixels_, size_, MADV_HUGEPAGE);
+    auto* const bytes = static_cast<std::uint8_t*>(pixels_);
+    for (int y = 0; y < height; ++y) // bottom row first
+        packRow24(bits.row(y), bytes + pitch * static_cast<std::size_t>(height - 1 - y), width);
+    dib_ = FreeImage_ConvertFromRawBitsEx(FALSE, bytes, FIT_BITMAP, width, height, static_cast<int>(pitch), 24,
+                                          FI_RGBA_RED_MASK, FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE);
+    if (!dib_) FreeImageSetError("[FreeImage_DIB_From_BMP] FreeImage_GetBits failed to get the DIB bits", true);
+}
+
+Dib24::~Dib24()
+{
+    if (dib_) FreeImage_Unload(dib_);
+    if (pixels_) munmap(pixels_, size_);
+}
+
+} // namespace velara

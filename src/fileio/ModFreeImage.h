@@ -1,0 +1,44 @@
+// The bridge to FreeImage for writing: opened and closed around each operation, with the text of the last error.
+#pragma once
+#include "filters/Bits.h"
+#include <QString>
+#include <memory>
+
+struct FIBITMAP;
+
+namespace velara {
+
+/// FreeImage is open while an object lives; its messages become the last error, which is empty at first.
+class FreeImageStart {
+  public:
+    FreeImageStart();
+    ~FreeImageStart();
+    FreeImageStart(const FreeImageStart&) = delete;
+    FreeImageStart& operator=(const FreeImageStart&) = delete;
+};
+
+/// Nothing shows it; it serves a debugger.
+const QString& FreeImageLastError();
+/// Stores text, unless one is already stored and keepFirst is true.
+void FreeImageSetError(const QString& text, bool keepFirst);
+
+/// A 24-bit bitmap of a picture, in memory of its own.
+class Dib24 {
+  public:
+    /// Converts; get() is null, with the reason as last error, when bits is empty or memory is short.
+    explicit Dib24(const Bits& bits);
+    ~Dib24();
+    Dib24(const Dib24&) = delete;
+    Dib24& operator=(const Dib24&) = delete;
+    FIBITMAP* get() const { return dib_; }
+
+  private:
+    void* pixels_ = nullptr;
+    std::size_t size_ = 0;
+    FIBITMAP* dib_ = nullptr;
+};
+
+/// Blue, green and red of W pixels, packed.
+void packRow24(const Pixel* row, std::uint8_t* to, int width);
+
+} // namespace velara

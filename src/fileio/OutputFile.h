@@ -1,0 +1,50 @@
+// A file that is being written and takes its name only when it is whole.
+#pragma once
+#include <QByteArray>
+#include <QString>
+#include <cstdint>
+#include <sys/types.h>
+#include <vector>
+
+namespace velara {
+
+/// Writes go to a new file beside the target, which gives the old one's permissions to it and replaces it on commit().
+/// Symbolic links are followed. What can't be replaced so (a device, a file in a folder where none can be made) is
+/// written over on commit(), out of memory. Without commit() nothing has changed.
+class OutputFile {
+  public:
+    explicit OutputFile(const QString& path);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    bool isOpen() const { return file_ >= 0; }
+    /// Whether something had the target's name when this began.
+    bool replacesAFile() const { return replaces_; }
+
+    bool write(const void* bytes, std::size_t size);
+    /// Fewer than size at the end or on an error.
+    std::size_t read(void* bytes, std::size_t size);
+    /// whence as for lseek.
+    bool seek(std::int64_t offset, int whence);
+    std::int64_t tell();
+
+    /// True when all writes so far succeeded and the target has the new contents.
+    bool commit();
+    /// Like commit(), whatever the writes made of it, where no file had the name.
+    void keepRemains();
+
+  private:
+    void openBeside(mode_t mode, bool takesMode);
+    bool flush();
+    bool publish();
+    bool copyOver();
+
+    QByteArray target_, temporary_; // temporary_ empty: written in memory
+    std::vector<std::uint8_t> buffer_;
+    std::size_t used_ = 0;
+    int file_ = -1;
+    bool replaces_ = false, failed_ = false;
+};
+
+} // namespace velara

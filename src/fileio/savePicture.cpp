@@ -1,0 +1,128 @@
+#include "fileio/savePicture.h"
+#include "fileio/GifWriter.h"
+#include "fileio/ModFreeImage.h"
+#include "fileio/OutputFile.h"
+#include "fileio/PCX.h"
+#include "platform/Platform.h"
+#include <FreeImage.h>
+#include <algorithm>
+#include <iterator>
+#include <new>
+
+namespace velara {
+
+namespace {
+
+struct Job {
+    Platform& platform;
+    const Bits& bits;
+    QString fileName;
+};
+
+SaveResult resultOf(bool written) { return written ? SaveResult::Written : SaveResult::Failed; }
+
+// --- FreeImage's writers
+
+OutputFile& fileOf(fi_handle handle) { return *static_cast<OutputFile*>(handle); }
+
+unsigned DLL_CALLCONV readProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
+{
+    return size == 0 ? 0 : static_cast<unsigned>(fileOf(handle).read(bytes, std::size_t{size} * count) / size);
+}
+
+unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
+{
+    return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
+}
+
+int DLL_CALLCONV seekProc(fi_handle handle, long offset, int origin)
+{
+    return fileOf(handle).seek(offset, origin) ? 0 : -1;
+}
+
+long DLL_CALLCONV tellProc(fi_handle handle) { return fileOf(handle).tell(); }
+
+/// Its own file routines don't see a disk that is full when the last bytes are flushed; ours do.
+bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool keepsRemains)
+{
+    const FreeImageStart library;
+    const Dib24 dib(job.bits);
+    if (!dib.get()) return false;
+    OutputFile file(job.fileName);
+    if (!file.isOpen()) return false;
+    FreeImageIO io{readProc, writeProc, seekProc, tellProc};
+    if (FreeImage_SaveToHandle(format, dib.get(), &io, &file, flags) && file.commit()) return true;
+    if (keepsRemains) file.keepRemains();
+    return false;
+}
+
+template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveResult byFreeImage(const Job& job)
+{
+    const bool written = saveByFreeImage(job, format, flags, keepsRemains);
+    if (!written)
+        job.platform.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
+                             Icon::Critical);
+    return resultOf(written);
+}
+
+// --- The others
+
+/// Pictures always have 24 bits here, so the portable anymap is always the one of true colour, whatever was typed.
+SaveResult saveAnymap(const Job& job)
+{
+    Job real = job;
+    real.fileName += "ppm";
+    if (!saveByFreeImage(real, FIF_PPMRAW, 0, false)) return SaveResult::Failed;
+    job.platform.message(
+        "Collection of ASCII based bitmap",
+        "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the "
+        "bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth "
+        "of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you "
+        "requested is saved as 24-bit True Color (.ppm) format.",
+        Icon::Information);
+    return SaveResult::Written;
+}
+
+SaveResult saveGif(const Job& job) { return resultOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
+
+SaveResult savePcx(const Job& job) { return resultOf(PCX().SavePCXinFile(job.fileName, job.bits, true)); }
+
+SaveResult refuseIcon(const Job& job)
+{
+    job.platform.message("Velara Studio", "This facility is currently turned Off!", Icon::Information);
+    return SaveResult::NotWritten;
+}
+
+struct Writer {
+    const char* extension;
+    SaveResult (*save)(const Job& job);
+};
+
+// clang-format off
+constexpr Writer kWriters[] = {
+    {"png", byFreeImage<FIF_PNG, 0>},
+    {"gif", saveGif},
+    {"jpg", byFreeImage<FIF_JPEG, JPEG_QUALITYSUPERB, true>},
+    {"ico", refuseIcon},
+    {"bmp", byFreeImage<FIF_BMP, 0>},
+    {"tif", byFreeImage<FIF_TIFF, 0>},
+    {"pcx", savePcx},
+    {"pnm", saveAnymap},
+    {"tga", byFreeImage<FIF_TARGA, 0>},
+};
+// clang-format on
+
+} // namespace
+
+SaveResult savePicture(Platform& platform, const Bits& bits, const QString& FileName, const QString& Ext)
+try {
+    if (bits.isNull()) return SaveResult::NotWritten;
+    const QString extension = Ext.toLower();
+    const auto writer = std::find_if(std::begin(kWriters), std::end(kWriters),
+                                     [&](const Writer& row) { return extension == QLatin1String(row.extension); });
+    return writer == std::end(kWriters) ? SaveResult::NotWritten : writer->save({platform, bits, FileName});
+} catch (const std::bad_alloc&) {
+    return SaveResult::Failed;
+}
+
+} // namespace velara

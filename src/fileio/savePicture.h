@@ -1,0 +1,21 @@
+// Writes a picture in the format of an extension, as the editor's save does.
+#pragma once
+#include "filters/Bits.h"
+#include <QString>
+
+namespace velara {
+
+class Platform;
+
+enum class SaveResult {
+    Written,
+    Failed,    // what stood under the name is whole
+    NotWritten // nothing to write, no writer for the extension, or an icon
+};
+
+/// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
+/// added. Notices and failures are shown through platform: a failed png, jpg, bmp, tif or tga, the depth of a portable
+/// anymap, and that icons are not written. Every writer gets 24 bits a pixel, without the margin.
+SaveResult savePicture(Platform& platform, const Bits& bits, const QString& FileName, const QString& Ext);
+
+} // namespace velara

@@ -1,0 +1,81 @@
+#include "fileio/PCX.h"
+#include "support/pictures.h"
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace velara {
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes operator+(Bytes a, const Bytes& b)
+{
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+Bytes written(const Bits& bits, bool compress, const QByteArray& before = {})
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.pcx"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(before);
+    file.close();
+    EXPECT_TRUE(PCX().SavePCXinFile(file.fileName(), bits, compress));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray contents = file.readAll();
+    return Bytes(contents.begin(), contents.end());
+}
+
+Bytes header(std::uint8_t encoding, std::uint8_t width, std::uint8_t height, std::uint8_t bytesPerLine)
+{
+    return Bytes{10, 5, encoding, 8, 1, 0, 1, 0, width, 0, height, 0, 96, 0, 96, 0} + Bytes(48, 0) +
+           Bytes{0, 3, bytesPerLine, 0, 0, 0} + Bytes(58, 0);
+}
+
+} // namespace
+
+TEST(PCX, EncodesRuns)
+{
+    const struct {
+        Bytes data, encoded;
+    } kCases[] = {
+        {{}, {}},
+        {{7}, {7}},
+        {{191}, {191}},
+        {{192}, {0xc1, 192}},
+        {{1, 2, 2, 3}, {1, 0xc2, 2, 3}},
+        {Bytes(63, 5), {0xff, 5}},
+        {Bytes(64, 5), {0xff, 5, 5}},
+        {Bytes(64, 200), {0xff, 200, 0xc1, 200}},
+        {Bytes(65, 5), {0xff, 5, 0xc2, 5}},
+        {Bytes(127, 5), {0xff, 5, 0xff, 5, 5}},
+    };
+    for (const auto& c : kCases) EXPECT_EQ(PCX::encode(c.data), c.encoded);
+}
+
+TEST(PCX, LaysTheFileOut)
+{
+    Bits bits(3, 2);
+    for (int i = 0; i < 6; ++i)
+        bits.at(i % 3, i / 3) = {{std::uint8_t(10 + i), std::uint8_t(20 + i), std::uint8_t(30 + i), 99}};
+    const Bytes planes = {30, 31, 32, 0, 20, 21, 22, 0, 10, 11, 12, 0, // the first row: red, green, blue
+                          33, 34, 35, 0, 23, 24, 25, 0, 13, 14, 15, 0};
+    EXPECT_EQ(written(bits, false), header(0, 3, 2, 4) + planes);
+    EXPECT_EQ(written(bits, true), header(1, 3, 2, 4) + planes);
+    // One byte of padding in a row of 24-bit pixels: it and the next row's start stand in the place of one more pixel.
+    const Bytes column = {6, 5, 5, 200, 200, 0, 6, 0, 5, 0, 200, 0};
+    EXPECT_EQ(written(flatBits(1, 2, 200, 5, 6, 9), false), header(0, 1, 2, 2) + column);
+    const Bytes oneRun = {0xe4, 9}; // it goes on into the next row and plane
+    EXPECT_EQ(written(flatBits(4, 3, 9, 9, 9), true), header(1, 4, 3, 4) + oneRun);
+}
+
+TEST(PCX, KeepsTheTailOfALongerFile)
+{
+    const Bytes file = written(flatBits(2, 1, 9, 9, 9), true, QByteArray(200, 'x'));
+    const Bytes run = {0xc6, 9};
+    EXPECT_EQ(file, header(1, 2, 1, 2) + run + Bytes(70, 'x'));
+}
+
+} // namespace velara
