@@ -1,7 +1,7 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
 // its window; the batch program uses it alone.
 #pragma once
-#include "document/TouchedTiles.h"
+#include "document/Painter.h"
 #include "document/UndoStore.h"
 #include "document/cBitRegion.h"
 #include "filters/Bits.h"
@@ -15,6 +15,8 @@ class Document {
     Document(const QString& tempFolder, int documentNumber) : undo(tempFolder, documentNumber), number_(documentNumber)
     {
     }
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
 
     int DocNumber() const { return number_; }
     bool PictureExists() const { return !bits_.isNull(); }
@@ -43,6 +45,7 @@ class Document {
 
     cBitRegion Region;
     TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
+    Painter paint{bits_, Region, touched};
     UndoStore undo;
     bool Changed = false;
     bool Zoomed = false; // a sizing command was the last change

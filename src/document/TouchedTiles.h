@@ -1,4 +1,4 @@
-// TouchedTiles: which parts of a picture were written, in tiles of 64 by 64 pixels, so that a thin diagonal line costs
+// TouchedTiles: which parts of a picture were written, in tiles of 16 by 16 pixels, so that a thin diagonal line costs
 // its own length and not its bounding rectangle.
 #pragma once
 #include "filters/Bits.h"
@@ -10,7 +10,7 @@ namespace velara {
 
 class TouchedTiles {
   public:
-    static constexpr int kShift = 6, kSide = 1 << kShift;
+    static constexpr int kShift = 4, kSide = 1 << kShift;
 
     /// Forgets everything; marks are for a picture of this size from now on.
     void reset(int width, int height);
