@@ -1,0 +1,27 @@
+#include "app/fIcons.h"
+#include "app/menus.h"
+#include <QApplication>
+#include <QPalette>
+
+static void initResources() { Q_INIT_RESOURCE(velara); }
+
+namespace velara {
+
+void useResources() { initResources(); }
+
+void useIconTheme()
+{
+    const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    QIcon::setFallbackThemeName("breeze");
+    QIcon::setThemeName(dark ? "breeze-dark" : "breeze");
+}
+
+QIcon iconOf(std::string_view word)
+{
+    const QString name = text(pictureOf(word));
+    if (name.isEmpty()) return {};
+    if (name.startsWith(':')) return QIcon(":/icons/" + name.mid(1) + ".svg");
+    return QIcon::fromTheme(name);
+}
+
+} // namespace velara

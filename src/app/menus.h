@@ -1,0 +1,68 @@
+// The menus and toolbars as data: which item stands where, what it is called and which command word it gives. Words
+// that begin with "@" are actions of the frame itself (windows, bars, boxes) and no part of the command language.
+#pragma once
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace velara {
+
+enum class MenuKind { Menu, SubMenu, Item, Separator, End };
+
+/// One line of the menu tree. An item's object name is array + "_" + index; a menu's is array. Menu and SubMenu open a
+/// level, End closes it.
+struct MenuRow {
+    MenuKind kind;
+    std::string_view array = {};
+    int index = 0;
+    std::string_view caption = {};
+    std::string_view word = {};
+    std::string_view shortcut = {};
+    bool checkable = false;
+};
+
+/// The whole tree, top down.
+std::span<const MenuRow> menuRows();
+
+/// A button of a toolbar; numbers left out are separators. A button without a word only opens its drop-down.
+struct ButtonRow {
+    std::string_view bar; // "tb_0", "tbi", ...; the object name is bar + "_" + number
+    int number;
+    std::string_view caption;
+    std::string_view word;
+};
+
+/// An entry of a button's drop-down; numbers left out are separators.
+struct DropRow {
+    std::string_view bar;
+    int button;
+    int item;
+    std::string_view caption;
+    std::string_view word;
+};
+
+std::span<const ButtonRow> buttonRows();
+std::span<const DropRow> dropRows();
+
+/// The toolbars in the order of Setup::BarVisible.
+struct BarRow {
+    std::string_view name;    // object name of the toolbar
+    std::string_view buttons; // ButtonRow::bar of its buttons
+    std::string_view caption;
+};
+std::span<const BarRow> barRows();
+
+/// The buttons of the tool strip tb_tools, in order; key is what a click gives.
+struct ToolButtonRow {
+    int number;
+    std::string_view key;
+    std::string_view caption;
+    bool tool; // one of the group of which one is down; else zooming or the hand
+};
+std::span<const ToolButtonRow> toolButtonRows();
+
+/// Name of the picture of a word, an "@" action or a tool key: an icon of the theme, or one of our own (":name"). Empty
+/// when it has none.
+std::string_view pictureOf(std::string_view word);
+
+} // namespace velara
