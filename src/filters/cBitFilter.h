@@ -18,6 +18,8 @@ namespace velara {
 
 enum class RankWindow;
 
+struct Disc;
+
 class cBitFilter {
   public:
     /// Percent done, raised at most once a row. May yield, and may throw Cancelled to end the filter.
@@ -149,6 +151,7 @@ class cBitFilter {
     Bits rankFilter(int Mode, RankWindow window);
     template <class Tile> Bits eachTile(Tile&& tile);
     template <class Map> Bits eachSource(bool Clean, Map&& map);
+    template <class Kernel> Bits eachOfDisc(const Disc& disc, double limit, Kernel&& kernel);
     void crop(const Bits& Source, const Rect& rectangle, bool masked);
     void progressDue(std::int64_t done, std::int64_t of);
     void report(int percent);

@@ -1,4 +1,4 @@
-// The affine deformations: flip and turn.
+// The deformations whose rows and columns move along straight lines.
 #include "filters/numbers.h"
 #include "filters/passes_warp.h"
 
@@ -69,15 +69,89 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
         report(100);
         return in;
     }
-    Bits out = in;
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, 0);
     for (int y = 0; y < in.height(); ++y) {
-        const Pixel* from = in.row(Vertical ? in.maxY() - y : y);
+        const Pixel *kept = in.row(y), *from = in.row(Vertical ? in.maxY() - y : y);
         Pixel* to = out.row(y);
-        for (int x = 0; x < in.width(); ++x) std::memcpy(to[x].c, from[Horizontal ? in.maxX() - x : x].c, 3);
+        copyPixels(kept, to, -Bits::kMargin, 0);
+        copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
+        if (Horizontal)
+            for (int x = 0, sx = in.maxX(); x < in.width(); ++x, --sx) to[x] = withColour(from[sx], kept[x]);
+        else
+            for (int x = 0; x < in.width(); ++x) to[x] = withColour(from[x], kept[x]);
         progressDue(y, in.maxY());
     }
+    copyRows(in, out, in.height(), in.height() + Bits::kMargin);
     report(100);
     return out;
+}
+
+Bits cBitFilter::STRETCH(int Horizontal, int Vertical, bool Clean)
+{
+    const auto table = [](int maximum, int percent) {
+        const float factor = static_cast<float>(percent / 100.0 + 1);
+        const int centre = maximum / 2;
+        std::vector<std::int32_t> sources(static_cast<std::size_t>(maximum + 1));
+        for (int i = 0; i <= maximum; ++i) sources[i] = roundEven(static_cast<double>(i - centre) * factor + centre);
+        return sources;
+    };
+    const auto columns = table(bits_.maxX(), Horizontal), rows = table(bits_.maxY(), Vertical);
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        std::copy_n(columns.data() + x0, n, sx);
+        std::fill_n(sy, n, rows[y]);
+    });
+}
+
+Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
+{
+    const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
+    // How much an axis is scaled at a place on the other one.
+    const auto scale = [](int d, int percent, int maximum) { return quotient(d / 100.0 * percent, maximum) + 1; };
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        const double scaleX = scale(y - cy, Vertical, maxY);
+        for (int i = 0; i < n; ++i) {
+            const int dx = x0 + i - cx;
+            sx[i] = roundEven(scaleX * dx + cx);
+            sy[i] = roundEven(scale(dx, Horizontal, maxX) * (y - cy) + cy);
+        }
+    });
+}
+
+Bits cBitFilter::WAVES(int Frequency, int Amplitude, int StartDegree)
+{
+    const Bits in = bits_;
+    const float amplitude = static_cast<float>(Amplitude * 0.25);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const double angle = (static_cast<double>(y) * Frequency + StartDegree) * kDegreesToRadians;
+        const Pixel* source = in.row(std::clamp(roundEven(amplitude * std::sin(angle) + y), 0, in.maxY()));
+        for (int x = x0; x < x1; ++x) to[x] = withColour(source[x], from[x]);
+    });
+}
+
+Bits cBitFilter::TILE(int Factor)
+{
+    const Bits in = bits_;
+    // Tiles overlap, and the later one lies on top: each pixel belongs to the last tile that begins at or before it.
+    struct Axis {
+        int step;
+        float ratio;
+        Axis(int maximum, int factor)
+            : step(std::max(roundEven(quotient(maximum, factor)), 1)),
+              ratio(static_cast<float>(static_cast<double>(maximum) / step))
+        {
+        }
+        int source(int within) const { return roundEven(static_cast<double>(within) * ratio); }
+    };
+    const Axis horizontal(in.maxX(), Factor), vertical(in.maxY(), Factor);
+    const Box box = GetBounds(0);
+    // One row of the tile, repeated over the picture's width.
+    std::vector<Pixel> line(static_cast<std::size_t>(in.width()));
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const Pixel* source = in.row(vertical.source((y - box.ymin) % vertical.step));
+        for (int x = x0; x < x1; ++x)
+            to[x] = withColour(source[horizontal.source((x - box.xmin) % horizontal.step)], from[x]);
+    });
 }
 
 } // namespace velara

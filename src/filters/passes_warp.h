@@ -5,6 +5,9 @@
 
 namespace velara {
 
+/// The three channels of colour with the fourth byte of kept.
+inline Pixel withColour(Pixel colour, Pixel kept) { return {{colour.c[0], colour.c[1], colour.c[2], kept.c[3]}}; }
+
 /// The targets of the box inside the picture, in tiles. tile(out, x0, x1, y0, y1) writes all four bytes of each pixel
 /// of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
 template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)

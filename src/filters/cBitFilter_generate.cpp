@@ -1,0 +1,127 @@
+// The generators: light, noise, scan lines, grid and texture.
+#include "filters/numbers.h"
+#include "filters/passes_disc.h"
+
+namespace velara {
+
+namespace {
+
+/// Each value of a channel blended with a colour; -1 where the blend is no byte.
+using BlendTables = std::array<std::array<std::int16_t, 256>, 3>;
+
+BlendTables blendTables(Colour colour, float part, float rest)
+{
+    const int parts[] = {blueOf(colour), greenOf(colour), redOf(colour)};
+    BlendTables tables;
+    for (int c = 0; c < 3; ++c)
+        for (int v = 0; v < 256; ++v) {
+            const double blend = roundToEven(v * static_cast<double>(rest) + parts[c] * static_cast<double>(part));
+            tables[c][v] = blend >= 0 && blend <= 255 ? static_cast<std::int16_t>(blend) : std::int16_t(-1);
+        }
+    return tables;
+}
+
+Pixel blended(const BlendTables& tables, Pixel pixel)
+{
+    for (int c = 0; c < 3; ++c) {
+        const int v = tables[c][pixel.c[c]];
+        if (v < 0) throw RuntimeError(Fault::Overflow);
+        pixel.c[c] = static_cast<std::uint8_t>(v);
+    }
+    return pixel;
+}
+
+/// The first position from x on that is a whole number of steps from origin.
+std::int64_t nextLine(std::int64_t origin, std::int64_t step, std::int64_t x)
+{
+    return x <= origin ? origin : origin + (x - origin + step - 1) / step * step;
+}
+
+} // namespace
+
+Bits cBitFilter::Light(float CenterX, float CenterY, float Radius, int Intensity, int Definition)
+{
+    const Disc disc(bits_, CenterX, CenterY, Radius);
+    const float q = static_cast<float>(1 - Definition / 100.0);
+    const double R = disc.radius;
+    return eachOfDisc(disc, R * R, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const double oy = static_cast<double>(y) - disc.y;
+        for (int x = x0; x < x1; ++x) {
+            const double ox = static_cast<double>(x) - disc.x;
+            const std::int64_t k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * Intensity);
+            for (int c = 0; c < 3; ++c) // darker than black wraps around, and it stays
+                to[x].c[c] = static_cast<std::uint8_t>(std::min<std::int64_t>(from[x].c[c] + k, 255));
+        }
+    });
+}
+
+Bits cBitFilter::NOISE(int Amount, bool Equalized)
+{
+    const int width = bits_.width();
+    const Random random = nextRandom();
+    const double span = 2.0 * Amount + 1;
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const auto number = static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(width);
+        for (int x = x0; x < x1; ++x) {
+            const std::uint32_t pixel = number + static_cast<std::uint32_t>(x);
+            to[x] = from[x];
+            for (const int c : {2, 1, 0}) { // drawn for red first
+                const double rnd = random.single(Equalized ? pixel : 3 * pixel + static_cast<std::uint32_t>(2 - c));
+                to[x].c[c] = clamp(roundEven(from[x].c[c] + (rnd * span - Amount)));
+            }
+        }
+    });
+}
+
+Bits cBitFilter::Scanlines(int Level)
+{
+    std::array<std::uint8_t, 256> darker;
+    for (int i = 0; i < 256; ++i) darker[i] = clamp(std::int64_t(i) - Level);
+    const int first = GetBounds(0).ymin;
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        if ((std::int64_t(y) - first) % 2 != 0) return copyPixels(from, to, x0, x1);
+        for (int x = x0; x < x1; ++x)
+            to[x] = {{darker[from[x].c[0]], darker[from[x].c[1]], darker[from[x].c[2]], from[x].c[3]}};
+    });
+}
+
+Bits cBitFilter::Grid(int HorizontalStep, int VerticalStep, bool ForceMargins, Colour Color, int Opacity)
+{
+    if (HorizontalStep < 1 || VerticalStep < 1) throw RuntimeError(Fault::OutOfRange);
+    const float part = static_cast<float>(Opacity / 255.0), rest = static_cast<float>(1.0 - part);
+    const BlendTables tables = blendTables(Color, part, rest);
+    const Box box = GetBounds(0);
+    const int maxX = bits_.maxX(), maxY = bits_.maxY();
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        if ((std::int64_t(y) - box.ymin) % VerticalStep == 0 || (ForceMargins && y == maxY)) {
+            for (int x = x0; x < x1; ++x) to[x] = blended(tables, from[x]);
+            return;
+        }
+        copyPixels(from, to, x0, x1);
+        for (std::int64_t x = nextLine(box.xmin, HorizontalStep, x0); x < x1; x += HorizontalStep)
+            to[x] = blended(tables, from[x]);
+        if (ForceMargins && x1 > maxX) to[maxX] = blended(tables, from[maxX]);
+    });
+}
+
+Bits cBitFilter::Texturize(const Bits& Texture)
+{
+    // Tiles overlap by a row and a column, and the later one lies on top: the last row and column never show.
+    const Bits texture = Texture;
+    const int columns = texture.maxX(), rows = texture.maxY();
+    if (columns < 1 || rows < 1) throw RuntimeError(Fault::OutOfRange);
+    const Box box = GetBounds(0);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const Pixel* factors = texture.row(static_cast<int>((std::int64_t(y) - box.ymin) % rows));
+        for (int x = x0; x < x1; ++x) {
+            const int factor = factors[(std::int64_t(x) - box.xmin) % columns].c[0];
+            to[x] = from[x];
+            for (int c = 0; c < 3; ++c) {
+                const int product = from[x].c[c] * factor;
+                to[x].c[c] = clamp((product + 63 + (product >> 7 & 1)) >> 7); // a 128th, halves to even
+            }
+        }
+    });
+}
+
+} // namespace velara
