@@ -5,10 +5,12 @@
 namespace velara {
 
 struct ToolStores {
-    Bits stamp;               // the chosen stamp; empty: the stamp tools do nothing
-    Bits text;                // grey shape of the text to be placed, channel 0, dark is ink; empty: nothing to place
-    Bits moved;               // cut out at the press of a content move
-    bool textPending = false; // a text waits to be placed
+    Bits stamp; // the chosen stamp; empty: the stamp tools do nothing
+    Bits text;  // grey shape of the text to be placed, channel 0, dark is ink; empty: nothing to place
+    Bits moved; // cut out at the press of a content move
+    Bits paste; // what the next paste lays down; pixels with a fourth byte of 255 stay out
+    // A paste hangs on the pointer: the mouse places it, whatever tool is chosen.
+    bool pastePending = false;
     // The pane that pops up from the strip has an opacity of its own for moved content.
     bool useMovePressure = false;
     int movePressure = 50;

@@ -5,7 +5,7 @@
 #include "document/Document.h"
 #include "document/PreviewBuffer.h"
 #include "document/ToolSurface.h"
-#include <QString>
+#include <memory>
 #include <vector>
 
 namespace velara {
@@ -37,9 +37,18 @@ struct ToolContext {
     bool corner = false;                    // Space has set a corner in this drag
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
 
+    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
+
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores; }
     cBitFilter& filter() const { return frame.filter(); }
+    Painter& paint() const { return document.paint; }
+    /// Shows what was restored and painted since the last call.
+    void repaint()
+    {
+        const Rect changed = preview.takeRestored().united(document.paint.takeTouched());
+        if (!changed.isEmpty()) surface.repaint(changed);
+    }
     /// The document's picture becomes the committed one, with one undo step.
     void commit()
     {
@@ -57,14 +66,31 @@ class Tool {
     virtual bool press(ToolContext&) const { return true; }
     virtual void drag(ToolContext&) const {}
     virtual void release(ToolContext&) const {}
-    /// The right button went up: what hangs on the screen goes away.
+    /// A move without a button.
+    virtual void hover(ToolContext&) const {}
+    /// The right button went up: what hangs on the screen goes away. The committed picture is restored after it.
     virtual void cancel(ToolContext&) const {}
     virtual void space(ToolContext&) const {}
     virtual void ctrlReleased(ToolContext&) const {}
+
+  protected:
+    /// The Space key of the tools that place pixels: what stands is committed, and the same move goes on from there.
+    void fixAndGoOn(ToolContext& c) const;
 };
 
 // By family, one file each.
 const Tool& selectTool();
 const Tool& selectionMoveTool();
+const Tool& brushTool();
+const Tool& airbrushTool();
+const Tool& pencilTool();
+const Tool& shapeTool();
+const Tool& fillTool();
+const Tool& gradientTool();
+const Tool& getColorTool();
+const Tool& stampTool();
+const Tool& textTool();
+/// Not of the strip: holds the mouse while a paste is pending.
+const Tool& pasteTool();
 
 } // namespace velara

@@ -13,10 +13,21 @@ struct ToolRow {
     const Tool& (*tool)();
 };
 
+// clang-format off
 constexpr ToolRow kTools[] = {
-    {"Select", selectTool},
+    {"Select",        selectTool},
     {"SelectionMove", selectionMoveTool},
+    {"Brush",         brushTool},
+    {"Airbrush",      airbrushTool},
+    {"Pencil",        pencilTool},
+    {"Shape",         shapeTool},
+    {"Fill",          fillTool},
+    {"Stamp",         stampTool},
+    {"Text",          textTool},
+    {"Gradient",      gradientTool},
+    {"GetColor",      getColorTool},
 };
+// clang-format on
 
 const Tool* toolNamed(const QString& name)
 {
@@ -31,12 +42,17 @@ const Tool* toolNamed(const QString& name)
 
 Tools::Tools(Document& document, Frame& frame, ToolSurface& surface) : context_(document, frame, surface) {}
 
-const Tool* Tools::tool() const { return active_ ? active_ : toolNamed(context_.setup().CurrentTool); }
+const Tool* Tools::chosen() const
+{
+    return context_.stores().pastePending ? &pasteTool() : toolNamed(context_.setup().CurrentTool);
+}
+
+const Tool* Tools::tool() const { return active_ ? active_ : chosen(); }
 
 /// Runs a part of an event. False when the object is gone afterwards.
 template <class Action> bool Tools::guarded(Action action)
 {
-    const std::weak_ptr<int> life = life_;
+    const std::weak_ptr<int> life = context_.life;
     try {
         action();
     } catch (const RuntimeError&) { // the event ends here, the program goes on
@@ -48,7 +64,7 @@ template <class Action> bool Tools::guarded(Action action)
 
 void Tools::showPointer()
 {
-    const Tool* tool = toolNamed(context_.setup().CurrentTool);
+    const Tool* tool = chosen();
     context_.surface.setPointer(tool ? tool->pointer() : Pointer::Default);
 }
 
@@ -63,7 +79,7 @@ void Tools::press(int button, int x, int y)
         c.last = c.at;
         c.down = true;
         c.moving = c.moved = c.connect = c.corner = false;
-        active_ = toolNamed(c.setup().CurrentTool);
+        active_ = chosen();
         if (active_) {
             c.surface.setPointer(active_->pointer());
             bool taken = false;
@@ -81,7 +97,9 @@ void Tools::move(int button, int x, int y)
     c.at = {x, y};
     if (!active_) showPointer();
     showPosition(button);
-    if (button == Left && c.down && active_ && !guarded([&] { active_->drag(c); })) return;
+    const Tool* const holder = tool();
+    if (button == Left && active_ && !guarded([&] { holder->drag(c); })) return;
+    if (button == NoButton && !active_ && holder && !guarded([&] { holder->hover(c); })) return;
     c.last = {x, y};
 }
 
@@ -96,8 +114,8 @@ void Tools::release(int button, int x, int y)
     c.at = {x, y};
     if (button == Left && c.down && active_) {
         if (!guarded([&] { active_->release(c); })) return;
-    } else if (button == Right && !c.stores().textPending) {
-        if (const Tool* chosen = tool()) chosen->cancel(c);
+    } else if (button == Right) {
+        if (const Tool* holder = tool()) holder->cancel(c);
         if (!guarded([&] { c.preview.restore(); })) return;
         c.preview.takeRestored();
         c.surface.UpdateImage();
@@ -138,17 +156,17 @@ bool Tools::keyDown(int key)
         move(NoButton, c.last.x + step.x, c.last.y + step.y);
         return true;
     }
-    const Tool* const chosen = tool();
-    if (key != Space || !chosen) return false;
-    guarded([&] { chosen->space(c); });
+    const Tool* const holder = tool();
+    if (key != Space || !holder) return false;
+    guarded([&] { holder->space(c); });
     return true;
 }
 
 bool Tools::keyUp(int key)
 {
-    const Tool* const chosen = tool();
-    if (key != Ctrl || !chosen || !context_.document.PictureExists()) return false;
-    guarded([&] { chosen->ctrlReleased(context_); });
+    const Tool* const holder = tool();
+    if (key != Ctrl || !holder || !context_.document.PictureExists()) return false;
+    guarded([&] { holder->ctrlReleased(context_); });
     return true;
 }
 

@@ -6,7 +6,6 @@
 // arithmetic end the event and nothing else. A yield within a tool may destroy this object.
 #pragma once
 #include "document/ToolContext.h"
-#include <memory>
 
 namespace velara {
 
@@ -34,15 +33,15 @@ class Tools {
     const std::vector<std::int32_t>& ToolPoints() const { return context_.points; }
 
   private:
-    /// The one that holds the drag, else the chosen one; null for none.
+    const Tool* chosen() const; // null for none
+    /// The one that holds the drag, else the chosen one.
     const Tool* tool() const;
     template <class Action> bool guarded(Action action);
     void showPosition(int button);
     void endRelease();
 
     ToolContext context_;
-    const Tool* active_ = nullptr;                         // from a left press to its release
-    std::shared_ptr<int> life_ = std::make_shared<int>(0); // ends with this object
+    const Tool* active_ = nullptr; // from a left press to its release
 };
 
 } // namespace velara

@@ -124,31 +124,70 @@ class SelectTool final : public Tool {
     }
 };
 
-/// Moves the outline. moving: the press lay in the selection.
+/// Moves the outline alone, or a copy of the content. moving: the press lay in the selection.
 class SelectionMoveTool final : public Tool {
     Pointer pointer() const override { return Pointer::Sizing; }
 
     bool press(ToolContext& c) const override
     {
-        c.moving = c.document.Region.Region().contains(c.at.x, c.at.y);
-        if (c.moving) drag(c);
-        return c.moving;
+        if (!c.setup().MoveSelection) c.surface.StopTimer();
+        if (!c.document.Region.Region().contains(c.at.x, c.at.y)) return false;
+        if (!c.setup().MoveSelection && !takeContent(c)) return false;
+        c.moving = true;
+        drag(c);
+        return true;
+    }
+
+    /// The selected pixels go into the frame's store. False when none of them lie in the picture.
+    static bool takeContent(ToolContext& c)
+    {
+        const Rect box = c.document.Region.Region().bounds().intersected(c.document.Region.RegionMain().bounds());
+        if (box.isEmpty()) return false;
+        c.surface.UpdateImage();
+        c.surface.setWaiting(true);
+        c.preview.commit(); // the engine works on what is seen
+        cBitFilter cutter;  // of its own, so that the engine keeps the committed picture
+        cutter.setBits(c.document.Bits());
+        cutter.setBitsRegion(c.document.Region.Region());
+        cutter.BitsCropMasked(c.document.Bits(), box.left, box.top, box.right, box.bottom);
+        c.stores().moved = cutter.bits();
+        cutter.setBits(Bits());
+        c.preview.begin();
+        c.hot = {c.at.x - box.left, c.at.y - box.top};
+        c.surface.setWaiting(false);
+        return true;
     }
 
     void drag(ToolContext& c) const override
     {
-        c.document.Region.Offset(c.at.x - c.last.x, c.at.y - c.last.y);
-        c.surface.UpdateImage();
-        c.surface.UpdateRegion();
-        c.moved = true;
+        if (!c.moving) return;
+        if (c.setup().MoveSelection) {
+            c.document.Region.Offset(c.at.x - c.last.x, c.at.y - c.last.y);
+            c.surface.UpdateImage();
+            c.surface.UpdateRegion();
+            c.moved = true;
+        } else if (!c.moved) {
+            const ToolStores& stores = c.stores();
+            c.preview.restore();
+            c.paint().BitsPaintPreMasked(c.at.x - c.hot.x, c.at.y - c.hot.y, stores.moved,
+                                         stores.useMovePressure ? stores.movePressure : c.setup().SelectionPressure,
+                                         false);
+            c.repaint();
+        }
     }
 
     void release(ToolContext& c) const override
     {
+        if (!c.moved) return c.commit();
         c.document.Region.Crop();
         c.preview.commit();
         c.surface.UpdateImage();
         c.moved = false;
+    }
+
+    void space(ToolContext& c) const override
+    {
+        if (c.down) fixAndGoOn(c);
     }
 
     void ctrlReleased(ToolContext& c) const override

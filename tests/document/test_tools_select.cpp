@@ -115,6 +115,71 @@ TEST_F(MoveTool, OnlyTheOutlineMovesAndIsCutAtTheRelease)
     EXPECT_EQ(surface.pointer, Pointer::Sizing);
 }
 
+TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
+{
+    frame.setup_.MoveSelection = false;
+    frame.setup_.SelectionPressure = 100;
+    document.Region.CreateEllipse(8, 8, 24, 22, Combine::Or, true); // no rectangle: the mask counts
+    const Bits before = document.Bits();
+    const Region shape = selection();
+    press({15, 15});
+    move({40, 30});
+    EXPECT_EQ(asked(), "activate; stop; image; wait; waited; repaint; repaint");
+    EXPECT_TRUE(frame.filter_.bits() == before);
+    const auto wanted = [&](int dx, int dy) {
+        Bits bits = before;
+        for (int y = 0; y < 50; ++y)
+            for (int x = 0; x < 60; ++x)
+                if (shape.contains(x - dx, y - dy))
+                    for (int c = 0; c < 3; ++c) bits.at(x, y).c[c] = before.at(x - dx, y - dy).c[c];
+        return bits;
+    };
+    EXPECT_TRUE(sameBits(wanted(25, 15), document.Bits())); // the selection does not limit the paste, the picture does
+    move({-2, 10});
+    EXPECT_TRUE(sameBits(wanted(-17, -5), document.Bits()));
+    frame.toolStores.useMovePressure = true;
+    frame.toolStores.movePressure = 0;
+    move({20, 20});
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    frame.toolStores.useMovePressure = false;
+    move({40, 30});
+    release({40, 30});
+    EXPECT_EQ(frame.snapshots, 1);
+    EXPECT_TRUE(sameBits(wanted(25, 15), frame.filter_.bits()));
+    EXPECT_EQ(selection(), shape);
+}
+
+TEST_F(MoveTool, SpaceFixesTheContentUnderTheButtonAndGoesOn)
+{
+    frame.setup_.MoveSelection = false;
+    frame.setup_.SelectionPressure = 100;
+    const Bits before = document.Bits();
+    EXPECT_TRUE(tools->keyDown(Tools::Space)); // nothing held: nothing to fix
+    EXPECT_EQ(frame.snapshots, 0);
+    press({15, 15});
+    move({35, 15});
+    tools->keyDown(Tools::Space);
+    EXPECT_EQ(frame.snapshots, 1);
+    move({15, 35});
+    release({15, 35});
+    EXPECT_EQ(document.Bits().at(15, 35).c[0], before.at(15, 15).c[0]);
+    EXPECT_EQ(document.Bits().at(35, 15).c[0], before.at(15, 15).c[0]);
+}
+
+TEST_F(MoveTool, ASelectionFarOutsideHasNoContent)
+{
+    frame.setup_.MoveSelection = false;
+    document.Region.Offset(1000, 0);
+    drag({{1015, 15}, {20, 20}});
+    EXPECT_EQ(frame.snapshots, 0);
+    document.Region.Offset(-1005, 0); // half outside: the spot under the pointer stays under it
+    frame.setup_.SelectionPressure = 100;
+    const Bits before = document.Bits();
+    drag({{8, 15}, {28, 15}});
+    EXPECT_EQ(document.Bits().at(28, 15).c[1], before.at(8, 15).c[1]);
+    EXPECT_EQ(document.Bits().at(25, 15).c[1], before.at(5, 15).c[1]);
+}
+
 TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
 {
     press({15, 15});
