@@ -1,0 +1,34 @@
+#include "document/mBitmap.h"
+#include "filters/numbers.h"
+#include <cstring>
+
+namespace velara {
+
+ByteArray byteArrayFor(int width, int height)
+{
+    ByteArray array;
+    if (width < 1 || height < 1) return array;
+    array.header.biWidth = width;
+    array.header.biHeight = -height;
+    array.bytes.resize(sizeof(Pixel) * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    return array;
+}
+
+ByteArray bytesOfPicture(const Bits& bits)
+{
+    ByteArray array = byteArrayFor(bits.width(), bits.height());
+    const std::size_t bytesARow = sizeof(Pixel) * static_cast<std::size_t>(bits.width());
+    for (int y = 0; y < bits.height(); ++y)
+        std::memcpy(array.bytes.data() + static_cast<std::size_t>(y) * bytesARow, bits.row(y), bytesARow);
+    return array;
+}
+
+QSize fitSize(QSize size, QSize box)
+{
+    if (size.width() <= box.width() && size.height() <= box.height()) return size;
+    const double xScale = quotient(box.width(), size.width()), yScale = quotient(box.height(), size.height());
+    return yScale < xScale ? QSize(roundEven(yScale * size.width()), box.height())
+                           : QSize(box.width(), roundEven(xScale * size.height()));
+}
+
+} // namespace velara
