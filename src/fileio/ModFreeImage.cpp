@@ -1,7 +1,7 @@
 #include "fileio/ModFreeImage.h"
 #include <FreeImage.h>
 #include <cstring>
-#include <sys/mman.h>
+#include <new>
 
 namespace velara {
 
@@ -43,35 +43,33 @@ void packRow24(const Pixel* row, std::uint8_t* to, int width)
     std::memcpy(to, row + x, 3);
 }
 
-// FreeImage's own allocation faults its pages in one by one and clears them; ours come in huge pages.
+// FreeImage's own allocation faults its pages in one by one and clears them; a block of the picture's size is likely to
+// wait in the pool.
 Dib24::Dib24(const Bits& bits)
-{
+try {
     if (bits.isNull()) {
         FreeImageSetError("[FreeImage_DIB_From_BMP] No bitmap specified to convert", true);
         return;
     }
     const int width = bits.width(), height = bits.height();
-    const std::size_t pitch = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
-    size_ = pitch * static_cast<std::size_t>(height);
-    pixels_ = mmap(nullptr, size_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (pixels_ == MAP_FAILED) {
-        pixels_ = nullptr;
-        FreeImageSetError("[FreeImage_DIB_From_BMP] FreeImage_Allocate failed to create a DIB to work with", true);
-        return;
+    const std::size_t bytesARow = static_cast<std::size_t>(width) * 3, pitch = (bytesARow + 3) / 4 * 4;
+    block_ = Bits::uninitialized(width, height);
+    std::uint8_t* const bytes = block_.data();
+    for (int y = 0; y < height; ++y) { // bottom row first
+        std::uint8_t* const row = bytes + pitch * static_cast<std::size_t>(height - 1 - y);
+        packRow24(bits.row(y), row, width);
+        std::memset(row + bytesARow, 0, pitch - bytesARow); // the padding goes into bmp files
     }
-    madvise(pixels_, size_, MADV_HUGEPAGE);
-    auto* const bytes = static_cast<std::uint8_t*>(pixels_);
-    for (int y = 0; y < height; ++y) // bottom row first
-        packRow24(bits.row(y), bytes + pitch * static_cast<std::size_t>(height - 1 - y), width);
     dib_ = FreeImage_ConvertFromRawBitsEx(FALSE, bytes, FIT_BITMAP, width, height, static_cast<int>(pitch), 24,
                                           FI_RGBA_RED_MASK, FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE);
     if (!dib_) FreeImageSetError("[FreeImage_DIB_From_BMP] FreeImage_GetBits failed to get the DIB bits", true);
+} catch (const std::bad_alloc&) {
+    FreeImageSetError("[FreeImage_DIB_From_BMP] FreeImage_Allocate failed to create a DIB to work with", true);
 }
 
 Dib24::~Dib24()
 {
     if (dib_) FreeImage_Unload(dib_);
-    if (pixels_) munmap(pixels_, size_);
 }
 
 } // namespace velara

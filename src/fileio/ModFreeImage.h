@@ -2,7 +2,6 @@
 #pragma once
 #include "filters/Bits.h"
 #include <QString>
-#include <memory>
 
 struct FIBITMAP;
 
@@ -22,7 +21,7 @@ const QString& FreeImageLastError();
 /// Stores text, unless one is already stored and keepFirst is true.
 void FreeImageSetError(const QString& text, bool keepFirst);
 
-/// A 24-bit bitmap of a picture, in memory of its own.
+/// A 24-bit bitmap of a picture, in a recycled block.
 class Dib24 {
   public:
     /// Converts; get() is null, with the reason as last error, when bits is empty or memory is short.
@@ -33,8 +32,7 @@ class Dib24 {
     FIBITMAP* get() const { return dib_; }
 
   private:
-    void* pixels_ = nullptr;
-    std::size_t size_ = 0;
+    Bits block_;
     FIBITMAP* dib_ = nullptr;
 };
 

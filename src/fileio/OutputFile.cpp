@@ -17,7 +17,7 @@ namespace velara {
 
 namespace {
 
-constexpr std::size_t kBuffer = 256 << 10;
+constexpr std::size_t kBuffer = 64 << 10, kDirect = 8 << 10;
 
 /// The file behind symbolic links, whether it exists or not.
 QString behindLinks(QString path)
@@ -89,11 +89,11 @@ bool OutputFile::write(const void* bytes, std::size_t size)
 {
     if (file_ < 0) return false;
     const auto* from = static_cast<const std::uint8_t*>(bytes);
-    if (size > kBuffer - used_ && !flush()) return false;
-    if (size >= kBuffer) { // nothing to gain from a copy
-        if (!writeAll(file_, from, size)) failed_ = true;
+    if (size >= kDirect) { // nothing to gain from a copy
+        if (flush() && !writeAll(file_, from, size)) failed_ = true;
         return !failed_;
     }
+    if (size > kBuffer - used_ && !flush()) return false;
     std::memcpy(buffer_.data() + used_, from, size);
     used_ += size;
     return true;
