@@ -1,0 +1,152 @@
+// velara-bench [--size WxH] [NAME]...: times the rows whose family or name contains one of the NAMEs, or all of them,
+// and prints one table.
+#include "bench.h"
+#include "support/argumentRanges.h"
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstring>
+#include <iostream>
+
+namespace velara::bench {
+
+std::vector<Row>& rows()
+{
+    static std::vector<Row> all;
+    return all;
+}
+
+namespace {
+
+constexpr int kPairs = 7;
+constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %s\n";
+
+double milliseconds(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values)
+{
+    std::nth_element(values.begin(), values.begin() + kPairs / 2, values.end());
+    return values[kPairs / 2];
+}
+
+std::function<void()> copying(Size size)
+{
+    static Bits target; // warm after the first row
+    const Bits source = picture(size);
+    if (target.sizeInBytes() != source.sizeInBytes()) {
+        target = Bits::uninitialized(size.width, size.height);
+        std::memset(target.data(), 1, target.sizeInBytes());
+    }
+    return [source] { std::memcpy(target.data(), source.data(), source.sizeInBytes()); };
+}
+
+void measure(benchmark::State& state, const Row& row, Size size)
+try {
+    const bool timed = row.unit == "ms";
+    Trial trial = row.prepare(size);
+    if (!trial.reference) trial.reference = copying(size);
+    std::vector<double> bodies, figures;
+    trial.body();
+    for (auto _ : state) {
+        const double reference = timed ? 1 : milliseconds(trial.reference);
+        bodies.push_back(milliseconds(trial.body));
+        figures.push_back(bodies.back() / (reference * trial.share));
+        state.SetIterationTime(bodies.back() / 1000);
+    }
+    state.counters["ms"] = median(bodies);
+    state.counters["figure"] = median(figures);
+} catch (const std::exception& e) {
+    state.SkipWithError(e.what());
+}
+
+/// Prints a row as soon as it is measured.
+class TableReporter : public benchmark::BenchmarkReporter {
+  public:
+    bool ReportContext(const Context&) override
+    {
+        std::printf(kLine, "family", "operation", "ms", "ratio", "must", "goal", "met", "counted in");
+        return true;
+    }
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            const Row& row = rows()[std::size_t(run.family_index)];
+            const auto number = [](double v) {
+                char text[32];
+                std::snprintf(text, sizeof text, "%.2f", v);
+                return std::string(v == 0 ? "-" : text);
+            };
+            if (run.error_occurred) {
+                std::printf(kLine, row.family.c_str(), row.name.c_str(), "-", "-", "-", "-", "no",
+                            run.error_message.c_str());
+                continue;
+            }
+            const double figure = run.counters.at("figure");
+            const char* met = !row.must ? "-" : figure > row.must ? "no" : figure > row.goal ? "must" : "goal";
+            std::printf(kLine, row.family.c_str(), row.name.c_str(), number(run.counters.at("ms")).c_str(),
+                        number(figure).c_str(), number(row.must).c_str(), number(row.goal).c_str(), met,
+                        row.unit.c_str());
+        }
+        std::fflush(stdout);
+    }
+};
+
+/// Operations that no row measures, with their typical arguments.
+void addTheOthers()
+{
+    for (const Operation& op : operations()) {
+        if (std::ranges::any_of(rows(), [&](const Row& row) { return row.operation == op.name; })) continue;
+        try {
+            rows().push_back(operation("not rated", 0, 0, std::string(op.name), typicalArguments(op)));
+        } catch (const std::invalid_argument& e) {
+            std::cerr << e.what() << '\n';
+        }
+    }
+}
+
+bool asked(const Row& row, const std::vector<std::string>& names)
+{
+    return names.empty() || std::ranges::any_of(names, [&](const std::string& name) {
+               return row.name.find(name) != std::string::npos || row.family.find(name) != std::string::npos;
+           });
+}
+
+} // namespace
+} // namespace velara::bench
+
+int main(int argc, char** argv)
+{
+    using namespace velara::bench;
+    Size size{6000, 4000};
+    std::vector<std::string> names;
+    benchmark::Initialize(&argc, argv);
+    for (int i = 1; i < argc; ++i) {
+        const std::string word = argv[i];
+        if (word != "--size")
+            names.push_back(word);
+        else if (++i == argc || std::sscanf(argv[i], "%dx%d", &size.width, &size.height) != 2 || size.width < 1 ||
+                 size.height < 1) {
+            std::cerr << "--size takes a width and a height, such as 6000x4000\n";
+            return 2;
+        }
+    }
+    addTheOthers();
+    std::erase_if(rows(), [&](const Row& row) { return !asked(row, names); });
+    if (rows().empty()) {
+        std::cerr << "no row of that name\n";
+        return 2;
+    }
+    std::ranges::stable_sort(rows(), {}, &Row::family);
+    for (const Row& row : rows())
+        benchmark::RegisterBenchmark(row.name.c_str(),
+                                     [&row, size](benchmark::State& state) { measure(state, row, size); })
+            ->Iterations(kPairs)
+            ->UseManualTime();
+    TableReporter table;
+    benchmark::RunSpecifiedBenchmarks(&table);
+}
