@@ -7,8 +7,6 @@ namespace velara {
 
 namespace {
 
-[[noreturn]] void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
-
 /// (c * (centre of the kernel) + factor * neighbours) \ divisor, clamped. As the kernel's weights add up to the divisor
 /// this is c + floor(factor * difference / divisor); where truncation would differ the value is negative and clamps to
 /// 0.

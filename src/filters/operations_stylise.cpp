@@ -6,7 +6,10 @@ namespace velara {
 std::vector<Operation> styliseOperations()
 {
     return {
+        row("Dissolve",  "",                 &cBitFilter::Dissolve),
+        row("PAINTING",  "",                 &cBitFilter::PAINTING),
         row("SKETCH",    "Level,Mono,Color", &cBitFilter::SKETCH),
+        row("StuckiBW",  "Divisor",          &cBitFilter::StuckiBW),
         row("THERMIQUE", "",                 &cBitFilter::THERMIQUE),
         row("XBLACK",    "",                 &cBitFilter::XBLACK),
         row("PHOTOCOP",  "",                 &cBitFilter::PHOTOCOP),

@@ -1,6 +1,5 @@
 // The calling patterns of the filters. A filter is the body of a loop that is written here.
 #pragma once
-#include "filters/RuntimeError.h"
 #include "filters/cBitFilter.h"
 #include <algorithm>
 #include <cstring>
@@ -50,6 +49,9 @@ inline void checkSize(int width, int height)
         std::int64_t(width) * height > kMostPixels)
         throw RuntimeError(Fault::OutOfRange);
 }
+
+/// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.
+[[noreturn]] inline void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
 
 /// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the
 /// row's y as a fifth, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above

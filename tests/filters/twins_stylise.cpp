@@ -57,7 +57,79 @@ Bits twoTone(const Bits& bits, const Region& region, Colour bright, Colour dark)
 Bits xblack(const Bits& bits, const Region& region, const Arguments&) { return twoTone(bits, region, 0, 0xFFFFFF); }
 Bits photocop(const Bits& bits, const Region& region, const Arguments&) { return twoTone(bits, region, 0xFFFFFF, 0); }
 
-const TwinRows rows{{"SKETCH", sketch}, {"THERMIQUE", thermique}, {"XBLACK", xblack}, {"PHOTOCOP", photocop}};
+/// The first `count` of the windows at the pixel's corners.
+Bits quadrants(const Bits& bits, const Region& region, int count, int best)
+{
+    static constexpr int corners[4][2] = {{-2, -2}, {0, -2}, {-2, 0}, {0, 0}};
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        for (int c = 0; c < 3; ++c) {
+            int least = best;
+            for (int q = 0; q < count; ++q) {
+                int values[9], sum = 0, deviation = 0;
+                for (int i = 0; i < 9; ++i) {
+                    values[i] = bits.at(x + corners[q][0] + i % 3, y + corners[q][1] + i / 3).c[c];
+                    sum += values[i];
+                }
+                for (const int v : values) deviation += std::abs(v - sum / 9);
+                if (deviation >= least) continue;
+                least = deviation;
+                to.c[c] = static_cast<std::uint8_t>(sum / 9);
+            }
+        }
+    });
+}
+
+Bits dissolve(const Bits& bits, const Region& region, const Arguments&) { return quadrants(bits, region, 4, 999999); }
+Bits painting(const Bits& bits, const Region& region, const Arguments&) { return quadrants(bits, region, 3, 99999); }
+
+Bits stuckiBW(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide divisor = wholeAt(a, 0);
+    const int maxX = bits.maxX(), maxY = bits.maxY();
+    const auto grey = [&](int x, int y) {
+        const auto* c = bits.at(x, y).c;
+        return (c[0] + c[1] + c[2]) / 3;
+    };
+    Wide sum = 0;
+    for (int y = 0; y <= maxY; ++y)
+        for (int x = 0; x <= maxX; ++x) sum += grey(x, y);
+    const Wide mean = sum / (Wide{bits.width()} * bits.height());
+
+    Bits out = bits;
+    std::vector<int> e1(bits.width()), e2(bits.width()), e3(bits.width());
+    const Rect box = region.bounds();
+    for (int y = std::max(box.top, 0); y < std::min(box.bottom, bits.height()); ++y) {
+        for (int x = std::max(box.left, 0); x < std::min(box.right, bits.width()); ++x) {
+            if (!region.contains(x, y)) continue;
+            if (divisor == 0) throw RuntimeError(Fault::DivisionByZero);
+            const int v = clamp(grey(x, y) + 10 * e1[x] / divisor), o = v >= mean ? 255 : 0, e = v - o;
+            for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = static_cast<std::uint8_t>(o);
+            const auto part = [e](int w) { return e * w / 42; };
+            if (x < maxX - 1) e1[x + 1] += part(8);
+            if (x < maxX - 2) e1[x + 2] += part(4);
+            if (y < maxY - 1) {
+                if (x > 1) e2[x - 2] += part(2);
+                if (x > 0) e2[x - 1] += part(4);
+                e2[x] += part(8);
+                if (x < maxX - 1) e2[x + 1] += part(4);
+                if (x < maxX - 2) e2[x + 2] += part(2);
+            }
+            if (y < maxY - 2) {
+                if (x > 1) e3[x - 2] += part(1);
+                if (x > 0) e3[x - 1] += part(2);
+                e3[x] += part(4);
+                if (x < maxX - 1) e3[x + 1] += part(2);
+                if (x < maxX - 2) e3[x + 2] += part(1);
+            }
+        }
+        e1 = e2, e2 = e3;
+        std::fill(e3.begin(), e3.end(), 0);
+    }
+    return out;
+}
+
+const TwinRows rows{{"StuckiBW", stuckiBW},   {"Dissolve", dissolve}, {"PAINTING", painting}, {"SKETCH", sketch},
+                    {"THERMIQUE", thermique}, {"XBLACK", xblack},     {"PHOTOCOP", photocop}};
 
 } // namespace
 } // namespace velara
