@@ -1,5 +1,6 @@
 // The calling patterns of the filters. A filter is the body of a loop that is written here.
 #pragma once
+#include "filters/RuntimeError.h"
 #include "filters/cBitFilter.h"
 #include <algorithm>
 #include <cstring>
