@@ -1,0 +1,70 @@
+#include "batch/CommandLine.h"
+#include <algorithm>
+#include <span>
+
+namespace velara {
+
+namespace {
+
+struct Option {
+    const char* name;
+    bool CommandLine::*flag;
+};
+constexpr Option kOptions[] = {
+    {"--verbose", &CommandLine::verbose}, {"--help", &CommandLine::help}, {"--list", &CommandLine::list}};
+
+/// Sets the flag of an option without a value; false when text is none.
+bool takeOption(CommandLine& line, const QString& text)
+{
+    const auto* option = std::ranges::find_if(kOptions, [&](const Option& o) { return text == QLatin1String(o.name); });
+    if (option == std::end(kOptions)) return false;
+    line.*option->flag = true;
+    return true;
+}
+
+constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... OUTPUT";
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList& arguments)
+{
+    static const QString select = QStringLiteral("--select"), selectWith = select + u'=';
+    CommandLine line;
+    bool optionsOver = false;
+    std::vector<std::pair<bool, QString>> middle; // is a selection, text; INPUT and OUTPUT at the ends
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& text = arguments[i];
+        if (optionsOver || !text.startsWith(QStringLiteral("--"))) {
+            middle.emplace_back(false, text);
+        } else if (text == QStringLiteral("--")) {
+            optionsOver = true;
+        } else if (text.startsWith(selectWith)) {
+            middle.emplace_back(true, text.mid(selectWith.size()));
+        } else if (text == select) {
+            if (++i == arguments.size()) throw badArgument(QStringLiteral("--select: a shape has to follow"));
+            middle.emplace_back(true, arguments[i]);
+        } else if (!takeOption(line, text)) {
+            throw badArgument(QStringLiteral("%1: there is no such option; see --help").arg(text));
+        }
+    }
+    if (line.help || line.list) return line;
+    if (middle.empty() || middle.front().first) throw badArgument(QStringLiteral("INPUT is missing: ") + kUsage);
+    if (middle.size() < 2 || middle.back().first) throw badArgument(QStringLiteral("OUTPUT is missing: ") + kUsage);
+    line.input = middle.front().second;
+    line.output = middle.back().second;
+    for (const auto& [selection, text] : std::span(middle).subspan(1, middle.size() - 2))
+        line.steps.push_back(selection ? parseSelection(text) : parseStep(text));
+    return line;
+}
+
+int CommandLine::lastGoingBack() const
+{
+    int last = -1, sizings = 0;
+    for (int i = 0; i < static_cast<int>(steps.size()); ++i) {
+        const GoesBack back = steps[static_cast<std::size_t>(i)].goesBack;
+        if (back == GoesBack::Always || (back == GoesBack::WhenRepeated && sizings++ > 0)) last = i;
+    }
+    return last;
+}
+
+} // namespace velara

@@ -1,0 +1,42 @@
+// The command line of velara-batch, taken apart: INPUT, steps in their order, OUTPUT.
+#pragma once
+#include "batch/Session.h"
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+namespace velara {
+
+/// Reads a picture file; throws Failure.
+using ReadPicture = std::function<Bits(const QString& path)>;
+
+struct Step {
+    QString text;                                         // as it was written
+    std::function<void(Session&)> run;                    // throws Failure
+    std::function<void(const ReadPicture&)> prepare = {}; // reads the pictures among its arguments
+    GoesBack goesBack = GoesBack::Never;
+};
+
+struct CommandLine {
+    QString input, output;
+    std::vector<Step> steps;
+    bool verbose = false, help = false, list = false;
+
+    /// Throws Failure that names the argument that is of no use.
+    static CommandLine parse(const QStringList& arguments);
+    /// Up to this step the pictures before have to be at hand; -1 when no step goes back.
+    int lastGoingBack() const;
+};
+
+/// A step of its text; throws Failure.
+Step parseStep(const QString& text);
+/// "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
+Step parseSelection(const QString& shape);
+/// The argument's text as a value of the parameter's type; pictures are file names until they are read. Throws Failure.
+Argument parseArgument(const QString& text, const Parameter& parameter);
+
+/// What --help and --list print.
+QString helpText();
+QString listText();
+
+} // namespace velara

@@ -1,0 +1,53 @@
+// Session: the one picture that a run of velara-batch works on, with its selection and its undo series.
+#pragma once
+#include "batch/Failure.h"
+#include "document/Document.h"
+#include "document/sizeWords.h"
+#include "filters/operations.h"
+#include "platform/Platform.h"
+#include <QTemporaryDir>
+#include <optional>
+
+namespace velara {
+
+/// Whether a step needs the pictures before; sizing words in a row go back to the one before the first of them.
+enum class GoesBack { Never, WhenRepeated, Always };
+
+class Session {
+  public:
+    explicit Session(Platform& platform) : platform_(platform) {}
+
+    /// Takes the picture; with keepSteps every change is kept in a private folder so that it can be undone.
+    void open(const Bits& bits, bool keepSteps);
+    /// No step to come goes back.
+    void forgetSteps() { folder_.reset(); }
+    const Bits& picture() const { return document_->Bits(); }
+
+    // Each throws Failure and leaves the picture as it was.
+    void run(const Operation& operation, const Arguments& arguments);
+    void resize(const SizeWord& word);
+    void crop();
+    void undo() { document_->UndoBits(filter_); }
+    void redo() { document_->RedoBits(filter_); }
+    /// change works on the selection; what it leaves is the working region of the steps to come.
+    template <class Change> void select(Change change)
+    {
+        change(document_->Region);
+        document_->handTo(filter_);
+    }
+
+    /// Percent of the step that runs.
+    void setProgress(std::function<void(int)> progress) { filter_.Progress = std::move(progress); }
+
+  private:
+    template <class Work> void guarded(Work work);
+    void commit();
+    void keepStep();
+
+    Platform& platform_;
+    cBitFilter filter_;
+    std::optional<QTemporaryDir> folder_; // of the undo series
+    std::optional<Document> document_;
+};
+
+} // namespace velara

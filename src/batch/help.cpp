@@ -1,0 +1,71 @@
+#include "batch/CommandLine.h"
+#include "batch/words.h"
+
+namespace velara {
+
+namespace {
+
+constexpr const char* kTypes[] = {"true|false", "whole", "number", "text", "file"}; // in the order of ArgumentType
+
+QString column(const QString& text, int width) { return QStringLiteral("  ") + text.leftJustified(width) + u' '; }
+
+QString asText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
+
+} // namespace
+
+QString helpText()
+{
+    return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... OUTPUT
+
+Reads the picture INPUT, takes the steps in their order, each on the result of
+the one before, and writes the picture OUTPUT. The extensions pick reader and
+writer. An OUTPUT of .ppm, .pgm or .pbm is a portable anymap; it has true
+colour, so its extension becomes .ppm.
+
+STEP is one of
+  WORD                   a command word, such as LIGHTEMBOSS, FLIPH, N90, x2
+  OPERATION(ARGUMENTS)   without blanks, such as EMBOSS(10),
+                         COLORIZE(0.5,0.25,1.0), GLASS(slanting,0). Colours
+                         are 0x00BBGGRR or decimal. An operation that takes a
+                         picture takes a file name. Text with commas goes
+                         between double quotes.
+
+Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
+before the first of them: 50 50 is half the size.
+
+--select SHAPE limits the steps after it to a part of the picture:
+  rect:l,t,r,b           columns l to r-1, rows t to b-1
+  ellipse:l,t,r,b        the ellipse in that rectangle
+  polygon:x0,y0,x1,y1,...
+  invert                 what is not selected; all when nothing is
+  none                   nothing: the steps take the whole picture
+A +, -, & or ^ before the shape adds it to the selection so far, takes it away,
+keeps what is in both, or what is in one of the two only. Pictures of another
+size start without a selection.
+
+--list     prints every word and every operation with its arguments
+--verbose  tells on the error output what is done, and how far it is
+--help     prints this
+--         what follows are no options
+
+Exit status: 0 done; 1 a picture could not be read or written; 2 an argument is
+of no use, and the message names it; 3 an operation failed. On 1 to 3 nothing is
+written, and an existing OUTPUT stays as it was.
+)");
+}
+
+QString listText()
+{
+    QString text = QStringLiteral("Command words\n");
+    for (const Word& word : words()) text += column(asText(word.word), 20) + word.meaning + u'\n';
+    text += QStringLiteral("\nOperations\n");
+    for (const Operation& operation : operations()) {
+        QStringList parameters;
+        for (const Parameter& p : operation.parameters)
+            parameters += asText(p.name) + u':' + QLatin1String(kTypes[static_cast<int>(p.type)]);
+        text += QStringLiteral("  ") + asText(operation.name) + u'(' + parameters.join(u',') + QStringLiteral(")\n");
+    }
+    return text;
+}
+
+} // namespace velara

@@ -1,0 +1,130 @@
+// velara-batch: the engine without a window, for scripts, tests and timing.
+#include "batch/BatchPlatform.h"
+#include "batch/CommandLine.h"
+#include "fileio/savePicture.h"
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstdio>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace velara {
+
+namespace {
+
+/// What lies behind the last dot of the file's name, in lower case.
+QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
+
+/// Where the picture goes and as what: a portable anymap of any kind is written by its family's name.
+struct Target {
+    QString name, extension, file; // as the writer wants it, and the file that comes of it
+};
+
+Target targetOf(const QString& output)
+{
+    const QString extension = extensionOf(output);
+    if (extension != u"ppm" && extension != u"pgm" && extension != u"pbm") return {output, extension, output};
+    const QString name = output.chopped(extension.size());
+    return {name, QStringLiteral("pnm"), name + QStringLiteral("ppm")};
+}
+
+Bits read(Platform& platform, const QString& path)
+{
+    const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
+    if (!picture.ok()) throw fileFault(picture.reason);
+    return picture.bits;
+}
+
+void write(Platform& platform, const Bits& bits, const QString& output)
+{
+    const Target target = targetOf(output);
+    const bool isNew = !QFileInfo::exists(target.file);
+    switch (savePicture(platform, bits, target.name, target.extension)) {
+    case SaveResult::Written:
+        return;
+    case SaveResult::NotWritten:
+        throw fileFault(output + QStringLiteral(" can't be written: pictures are written as png, gif, jpg, bmp, tif, "
+                                                "pcx, tga, ppm, pgm and pbm"));
+    case SaveResult::Failed:
+        if (isNew) QFile::remove(target.file); // a half-written JPEG
+        throw fileFault(output + QStringLiteral(" can't be written"));
+    }
+}
+
+/// Tells each ten percent of a step.
+std::function<void(int)> progressOf(const QString& step)
+{
+    return [step, told = -1](int percent) mutable {
+        if (percent / 10 == told / 10 && told >= 0) return;
+        told = percent;
+        std::fprintf(stderr, "%s: %d %%\n", step.toUtf8().constData(), percent);
+    };
+}
+
+void takeSteps(Session& session, const CommandLine& line)
+{
+    const int lastGoingBack = line.lastGoingBack();
+    for (int i = 0; i < static_cast<int>(line.steps.size()); ++i) {
+        const Step& step = line.steps[static_cast<std::size_t>(i)];
+        if (line.verbose) {
+            std::fprintf(stderr, "%s\n", step.text.toUtf8().constData());
+            session.setProgress(progressOf(step.text));
+        }
+        naming(step.text, [&] { step.run(session); });
+        if (i == lastGoingBack) session.forgetSteps();
+    }
+}
+
+void run(const QStringList& arguments)
+{
+    const CommandLine line = CommandLine::parse(arguments);
+    if (line.help || line.list) {
+        std::fputs((line.help ? helpText() : listText()).toUtf8().constData(), stdout);
+        return;
+    }
+    BatchPlatform platform;
+    const auto readPicture = [&](const QString& path) { return read(platform, path); };
+    const Bits input = readPicture(line.input);
+    for (const Step& step : line.steps)
+        if (step.prepare) step.prepare(readPicture);
+    Session session(platform);
+    session.open(input, line.lastGoingBack() >= 0);
+    takeSteps(session, line);
+    write(platform, session.picture(), line.output);
+}
+
+/// More than the machine has makes an allocation fail, so that it is reported, instead of the system ending the
+/// program.
+void limitMemory()
+{
+    const rlim_t bytes = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES)) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+    rlimit limit{};
+    if (getrlimit(RLIMIT_DATA, &limit) != 0) return;
+    limit.rlim_cur = std::min(bytes, limit.rlim_max);
+    setrlimit(RLIMIT_DATA, &limit);
+}
+
+} // namespace
+
+} // namespace velara
+
+int main(int argc, char** argv)
+{
+    using namespace velara;
+    QCoreApplication application(argc, argv);
+#ifndef __SANITIZE_ADDRESS__
+    limitMemory();
+#endif
+    try {
+        run(QCoreApplication::arguments().mid(1));
+        return 0;
+    } catch (const Failure& failure) {
+        complain(failure.text);
+        return static_cast<int>(failure.status);
+    } catch (const std::bad_alloc&) {
+        complain(QStringLiteral("there is not enough memory"));
+        return static_cast<int>(Status::OperationFailed);
+    }
+}

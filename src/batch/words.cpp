@@ -1,0 +1,102 @@
+#include "batch/words.h"
+#include <QStringList>
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+// clang-format off
+constexpr std::string_view kDoNothing[] = { // in the editor too, or only how the picture is shown there
+    "200", "300", "400", "500", "600", "700", "N360", "A360", "RESTOREORIGINAL", "RESTORE", "MOSAIC",
+    "VERTICALINTERLEAVE", "HORIZONTALINTERLEAVE", "SQUAREINTERLEAVE", "CUSTOMINTERLEAVE", "TARNISH", "RGB",
+    "TALCOMPOWDER", "IMAGESCALE",
+};
+
+constexpr std::string_view kWindowWords[] = {
+    "NEW", "OPEN", "CLOSE", "SAVE", "SAVEAS", "FILEASSOCIATION", "PRINTERSETUP", "PRINTPREVIEW", "PRINT", "SELECTSOURCE",
+    "ACQUIRETWAIN", "CAPTUREDESKTOP", "CAPTUREFOREGROUND", "CAPTUREBACKGROUND", "CUSTOMCAPTURE", "CREATENEWCOPY",
+    "COPYIMAGETOCLIPBOARD", "CREATEFROMCLIPBOARD", "IMAGESIZE", "CANVASSIZE", "IMAGEORIENTATION", "IMAGEROTATE", "CUT",
+    "COPY", "PASTE", "OPTIONS", "IMAGEMERGING", "PASTELAYERSBOX", "IMAGETEXTURES", "IMAGERESOLUTION",
+    "IMAGESAVEOPTIONS", "IMAGECOLORDEPTH", "TEXTTOOLS", "WTILE", "WCENTER", "WSTRETCH", "TILEHORIZONTALLY",
+    "TILEVERTICALLY", "CASCADE", "RESET",
+    "BRIGHTNESS", "LIGHTCUSTOM", "CONTRAST", "CUSTOMSATURATION", "GAMMA", "CUSTOMDIFFUSE", "CUSTOMBLUR", "HAFTONE",
+    "PIXELIZE", "CUSTOMEMBOSS", "CUSTOMENGRAVE", "CUSTOMCONTOUR", "SKETCH", "ISOLATE", "REPLACE", "REPLACEHUESAT",
+    "REPLACELUMINOUS", "CUSTOMSHARPEN", "CUSTOMSOFTEN", "COLORIZE", "SHIFT", "HUEROTATION", "GREYROTATION",
+    "HUESTRETCH", "RGBLEVELS", "RGBBANKS", "LENS", "WAVES", "BEND", "FOLD", "ROTATE", "STRETCH", "TILE", "TWIRL",
+    "ADDGRID", "LENSFLARE", "CUSTOMNOISE", "ADDNOISE", "ADDSCANLINES", "CUSTOMGLASS", "CUSTOMCURTAIN",
+};
+// clang-format on
+
+QString meaningOf(const SizeWord& word)
+{
+    const QString by = QString::number(word.value);
+    const QString way = word.quality ? QStringLiteral(", smoothly") : QStringLiteral(", by the nearest pixel");
+    switch (word.kind) {
+    case SizeWord::Enlarge:
+        return QStringLiteral("enlarges ") + by + QStringLiteral(" times") + way;
+    case SizeWord::Reduce:
+        if (word.value == 1) return QStringLiteral("back to the size before the sizing words that precede it");
+        return QStringLiteral("reduces to 1/") + by + way;
+    default:
+        return QStringLiteral("turns by ") + by + QStringLiteral(" degrees") + way;
+    }
+}
+
+std::vector<Word> makeWords()
+{
+    std::vector<Word> list;
+    for (const Preset& preset : presets())
+        list.push_back({preset.word, callText(preset),
+                        [&preset](Session& s) { s.run(*findOperation(preset.operation), preset.arguments); }});
+    for (const SizeWord& word : sizeWords())
+        list.push_back({word.word, meaningOf(word), [&word](Session& s) { s.resize(word); },
+                        word.kind == SizeWord::Rotate ? GoesBack::Never : GoesBack::WhenRepeated});
+    list.push_back({"CROP", QStringLiteral("cuts to the box of the selection"), [](Session& s) { s.crop(); }});
+    list.push_back({"UNDO", QStringLiteral("one step back"), [](Session& s) { s.undo(); }, GoesBack::Always});
+    list.push_back({"REDO", QStringLiteral("one step forward again"), [](Session& s) { s.redo(); }, GoesBack::Always});
+    for (const std::string_view word : kDoNothing)
+        list.push_back({word, QStringLiteral("does nothing to the picture"), [](Session&) {}});
+    return list;
+}
+
+} // namespace
+
+const std::vector<Word>& words()
+{
+    static const std::vector<Word> all = makeWords();
+    return all;
+}
+
+const Word* findWord(std::string_view word)
+{
+    const auto found = std::ranges::find(words(), word, &Word::word);
+    return found == words().end() ? nullptr : &*found;
+}
+
+bool needsWindow(std::string_view word) { return std::ranges::find(kWindowWords, word) != std::end(kWindowWords); }
+
+QString argumentText(const Argument& argument)
+{
+    struct {
+        QString operator()(bool v) const { return v ? QStringLiteral("true") : QStringLiteral("false"); }
+        QString operator()(int v) const
+        {
+            return v > 0xFFFF ? QStringLiteral("0x%1").arg(v, 8, 16, QChar(u'0')) : QString::number(v);
+        }
+        QString operator()(double v) const { return QString::number(v); }
+        QString operator()(const std::string& v) const { return QString::fromStdString(v); }
+        QString operator()(const Bits&) const { return QStringLiteral("picture"); }
+    } text;
+    return std::visit(text, argument);
+}
+
+QString callText(const Preset& preset)
+{
+    QStringList arguments;
+    for (const Argument& a : preset.arguments) arguments += argumentText(a);
+    const QString name = QString::fromUtf8(preset.operation.data(), static_cast<int>(preset.operation.size()));
+    return name + u'(' + arguments.join(u',') + u')';
+}
+
+} // namespace velara

@@ -1,0 +1,29 @@
+// The command words that need no window, as the batch program runs them.
+#pragma once
+#include "batch/Session.h"
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace velara {
+
+struct Word {
+    std::string_view word;
+    QString meaning; // for --list
+    std::function<void(Session&)> run;
+    GoesBack goesBack = GoesBack::Never;
+};
+
+const std::vector<Word>& words();
+/// Exact; null when there is none.
+const Word* findWord(std::string_view word);
+
+/// True for words of the editor that open a window or belong to one.
+bool needsWindow(std::string_view word);
+
+/// "0.5" or "\"slanting\"" and the like.
+QString argumentText(const Argument& argument);
+/// "EMBOSS(10)".
+QString callText(const Preset& preset);
+
+} // namespace velara

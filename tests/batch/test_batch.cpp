@@ -1,0 +1,291 @@
+// The real program on real files: what it writes, what it says and how it ends.
+#include "filters/Region.h"
+#include "support/pictures.h"
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <functional>
+
+namespace velara {
+namespace {
+
+struct Outcome {
+    int status; // -1: it crashed or hung
+    std::string errors, output;
+};
+
+/// A picture of three bytes a pixel, red first.
+using Picture = std::vector<std::array<int, 3>>;
+
+constexpr int kWidth = 12, kHeight = 9;
+
+struct BatchTest : ::testing::Test {
+    QTemporaryDir folder, temporary;
+
+    void SetUp() override { put("in.ppm", anymap(kWidth, kHeight)); }
+
+    QString path(const std::string& name) const { return folder.filePath(QString::fromStdString(name)); }
+    void put(const std::string& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray content(const std::string& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+    }
+    QStringList files() const { return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    /// Runs it in the folder; arguments are split at blanks. before is shell text that runs first.
+    Outcome run(const std::string& arguments, const char* before = "true") const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+        environment.remove(QStringLiteral("DISPLAY"));
+        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
+        QStringList list{QStringLiteral("-c"), QString::fromLatin1(before) + QStringLiteral(" && exec \"$0\" \"$@\""),
+                         QStringLiteral(VELARA_BIN "/velara-batch")};
+        list += QString::fromStdString(arguments).split(u' ', Qt::SkipEmptyParts);
+        process.start(QStringLiteral("/bin/sh"), list);
+        const bool ended = process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit;
+        return {ended ? process.exitCode() : -1, process.readAllStandardError().toStdString(),
+                process.readAllStandardOutput().toStdString()};
+    }
+    /// The pixels that steps make of the input.
+    Picture result(const std::string& steps, int width = kWidth, int height = kHeight) const
+    {
+        const Outcome outcome = run("in.ppm " + steps + " out.ppm");
+        EXPECT_EQ(0, outcome.status) << steps << ": " << outcome.errors;
+        const QByteArray bytes = content("out.ppm");
+        const QByteArray size = QByteArray::number(width) + ' ' + QByteArray::number(height);
+        EXPECT_TRUE(bytes.left(20).simplified().contains(size)) << steps << ": " << bytes.left(20).toStdString();
+        Picture picture;
+        for (auto at = bytes.size() - 3 * width * height; at >= 0 && at < bytes.size(); at += 3)
+            picture.push_back({std::uint8_t(bytes[at]), std::uint8_t(bytes[at + 1]), std::uint8_t(bytes[at + 2])});
+        return picture;
+    }
+
+    static std::array<int, 3> inputPixel(int i) { return {i % kWidth, 100 + i / kWidth, i}; }
+    static Picture input(const std::function<bool(int x, int y)>& inverted = [](int, int) { return false; })
+    {
+        Picture picture;
+        for (int i = 0; i < kWidth * kHeight; ++i) {
+            picture.push_back(inputPixel(i));
+            if (inverted(i % kWidth, i / kWidth))
+                for (int& c : picture.back()) c = 255 - c;
+        }
+        return picture;
+    }
+    static QByteArray anymap(int width, int height)
+    {
+        QByteArray bytes = "P6\n" + QByteArray::number(width) + ' ' + QByteArray::number(height) + "\n255\n";
+        for (int i = 0; i < width * height; ++i)
+            for (const int c : inputPixel(i)) bytes += static_cast<char>(c);
+        return bytes;
+    }
+};
+
+TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
+{
+    ASSERT_EQ(0, run("in.ppm good.png").status);
+    ASSERT_EQ(0, run("in.ppm good.jpg").status);
+    put("empty.png", {});
+    put("short.png", content("good.png").left(60));
+    put("short.jpg", content("good.jpg").left(200));
+    put("header.bmp", QByteArray::fromHex("424d 3600 0000 0000 0000 3600 0000 2800 0000"));
+    put("huge.bmp", QByteArray::fromHex("424d 3600 0000 0000 0000 3600 0000 2800 0000 60ea 0000 60ea 0000 0100 1800"
+                                        "0000 0000 0000 0000 0000 0000 0000 0000 0000 0000 0000 0000"));
+    put("huge.ppm", "P6\n60000 60000\n255\nabc");
+    put("zip.png", "PK\x03\x04" + QByteArray(400, 'z'));
+    put("garbage.tif", QByteArray("\x01\xfe\x37\x00", 4).repeated(500));
+    put("in.xyz", content("in.ppm"));
+    put("out.png", "precious");
+    put("out.ppm", "precious");
+    QDir(folder.path()).mkdir(QStringLiteral("folder.png"));
+    QFile::link(QStringLiteral("/dev/full"), path("full.png"));
+    const struct {
+        const char* arguments;
+        int status;
+        const char* named; // in the message
+    } kCases[] = {
+        {"missing.png out.png", 1, "missing.png"},
+        {"empty.png out.png", 1, "empty.png"},
+        {"short.png out.png", 1, "short.png"},
+        {"short.jpg out.png", 1, "short.jpg"},
+        {"header.bmp out.png", 1, "header.bmp"},
+        {"huge.bmp out.png", 1, "huge.bmp"},
+        {"huge.ppm out.png", 1, "huge.ppm"},
+        {"zip.png out.png", 1, "zip.png"},
+        {"garbage.tif out.png", 1, "garbage.tif"},
+        {"folder.png out.png", 1, "folder.png"},
+        {"in.xyz out.png", 1, "in.xyz"},
+        {"in.ppm out.xyz", 1, "out.xyz"},
+        {"in.ppm out", 1, "out"},
+        {"in.ppm out.ico", 1, "turned Off"},
+        {"in.ppm nowhere/out.png", 1, "nowhere/out.png"},
+        {"in.ppm folder.png", 1, "folder.png"},
+        {"in.ppm full.png", 1, "full.png"},
+        {"in.ppm TileMask(zip.png,0,0,false,0,-1) out.png", 1, "zip.png"},
+        {"", 2, "INPUT"},
+        {"in.ppm", 2, "OUTPUT"},
+        {"in.ppm INVERT --select", 2, "--select"},
+        {"in.ppm --quiet out.png", 2, "--quiet"},
+        {"in.ppm INVRET out.png", 2, "did you mean INVERT"},
+        {"in.ppm LIGHTEMBOS out.png", 2, "did you mean LIGHTEMBOSS"},
+        {"in.ppm Embos(10) out.png", 2, "did you mean EMBOSS"},
+        {"in.ppm wxyzwxyz out.png", 2, "wxyzwxyz"},
+        {"in.ppm SAVEAS out.png", 2, "SAVEAS"},
+        {"in.ppm INVERT(3) out.png", 2, "INVERT"},
+        {"in.ppm EMBOSS out.png", 2, "EMBOSS(Weight) takes 1 argument,"},
+        {"in.ppm EMBOSS(1,2) out.png", 2, "not 2"},
+        {"in.ppm EMBOSS(ten) out.png", 2, "Weight"},
+        {"in.ppm EMBOSS(1.5) out.png", 2, "Weight"},
+        {"in.ppm EMBOSS() out.png", 2, "EMBOSS()"},
+        {"in.ppm EMBOSS(4294967296) out.png", 2, "Weight"},
+        {"in.ppm CONTOUR(1,0x1FFFFFFFF) out.png", 2, "Background"},
+        {"in.ppm EMBOSS(10 out.png", 2, "bracket"},
+        {"in.ppm Flip(yes,no) out.png", 2, "Horizontal"},
+        {"in.ppm --select rect:1,2,3 INVERT out.png", 2, "rect:1,2,3"},
+        {"in.ppm --select rect:1,2,3,x INVERT out.png", 2, "rect:1,2,3,x"},
+        {"in.ppm --select elipse:1,2,3,4 INVERT out.png", 2, "did you mean ellipse"},
+        {"in.ppm --select polygon:1,2,3,4 INVERT out.png", 2, "polygon:1,2,3,4"},
+        {"in.ppm --select +invert INVERT out.png", 2, "+invert"},
+        {"in.ppm --select rect:3,3,3,9 INVERT out.png", 2, "rect:3,3,3,9"},
+        {"in.ppm --select rect:12,0,20,5 INVERT out.png", 2, "12 by 9"},
+        {"in.ppm x2 --select rect:6,0,9,4 INVERT out.png", 2, "6 by 4"},
+        {"in.ppm BitsResize(0,5) out.png", 3, "BitsResize(0,5): Subscript out of range"},
+        {"in.ppm BitsResize(2147483647,2147483647) out.png", 3, "BitsResize"},
+        {"in.ppm INVERT CROP out.ppm", 3, "CROP: Nothing selected"},
+        {"in.ppm --select rect:1,1,2,9 CROP out.ppm", 3, "Minimum size: 2 x 2"},
+    };
+    const QStringList before = files();
+    for (const auto& c : kCases) {
+        const Outcome outcome = run(c.arguments);
+        EXPECT_EQ(c.status, outcome.status) << c.arguments << "\n" << outcome.errors;
+        EXPECT_NE(std::string::npos, outcome.errors.find(c.named)) << c.arguments << "\n" << outcome.errors;
+        EXPECT_EQ(before, files()) << c.arguments;
+    }
+    EXPECT_EQ("precious", content("out.png"));
+    EXPECT_EQ("precious", content("out.ppm"));
+}
+
+TEST_F(BatchTest, AFullDiskLeavesTheOldOutputWhole)
+{
+    const char* full = "trap '' XFSZ && ulimit -f 40000"; // 20 MB: room for the child that reads
+    for (const char* name : {"bmp", "tga", "ppm"}) {
+        const std::string out = std::string("out.") + name, arguments = "in.ppm BitsResize(3000,2900) " + out;
+        put(out, "precious");
+        const QStringList before = files();
+        const Outcome outcome = run(arguments, full);
+        EXPECT_EQ(1, outcome.status) << name << outcome.errors;
+        EXPECT_NE(std::string::npos, outcome.errors.find(out + " can't be written")) << outcome.errors;
+        EXPECT_EQ("precious", content(out)) << name;
+        EXPECT_EQ(before, files());
+        QFile::remove(path(out));
+        EXPECT_EQ(1, run(arguments, full).status);
+        EXPECT_FALSE(QFile::exists(path(out))) << name;
+    }
+}
+
+TEST_F(BatchTest, EveryWriterIsReadBack)
+{
+    for (const char* name : {"png", "bmp", "tif", "tga", "pcx", "ppm"}) {
+        const std::string file = std::string("copy.") + name;
+        ASSERT_EQ(0, run("in.ppm " + file).status) << name;
+        ASSERT_EQ(0, run(file + " INVERT INVERT out.ppm").status) << name;
+        EXPECT_EQ(content("in.ppm").right(3 * kWidth * kHeight), content("out.ppm").right(3 * kWidth * kHeight))
+            << name;
+    }
+    ASSERT_EQ(0, run("in.ppm grey.pgm").status);
+    EXPECT_EQ(content("out.ppm"), content("grey.ppm")) << "true colour, whatever the extension said";
+    EXPECT_FALSE(QFile::exists(path("grey.pgm")));
+}
+
+TEST_F(BatchTest, SelectionsLimitTheStepsAfterThem)
+{
+    const Region ellipse = Region::ellipse(1, 1, 11, 8), triangle = Region::polygon(std::array{0, 0, 11, 0, 0, 8});
+    const auto rect = [](int l, int t, int r, int b) {
+        return [=](int x, int y) { return x >= l && x < r && y >= t && y < b; };
+    };
+    const auto a = rect(2, 1, 8, 6), b = rect(5, 3, 12, 9);
+    const struct {
+        const char* steps;
+        std::function<bool(int, int)> inverted;
+    } kCases[] = {
+        {"INVERT", [](int, int) { return true; }},
+        {"--select rect:2,1,8,6 INVERT", a},
+        {"--select=rect:2,1,8,6 INVERT", a},
+        {"--select rect:8,6,2,1 INVERT", a},
+        {"--select rect:0,0,3,3 --select rect:2,1,8,6 INVERT", a},
+        {"--select rect:-5,-5,3,3 INVERT", rect(0, 0, 3, 3)},
+        {"--select ellipse:1,1,11,8 INVERT", [&](int x, int y) { return ellipse.contains(x, y); }},
+        {"--select polygon:0,0,11,0,0,8 INVERT", [&](int x, int y) { return triangle.contains(x, y); }},
+        {"--select rect:2,1,8,6 --select +rect:5,3,12,9 INVERT", [&](int x, int y) { return a(x, y) || b(x, y); }},
+        {"--select rect:2,1,8,6 --select -rect:5,3,12,9 INVERT", [&](int x, int y) { return a(x, y) && !b(x, y); }},
+        {"--select rect:2,1,8,6 --select &rect:5,3,12,9 INVERT", [&](int x, int y) { return a(x, y) && b(x, y); }},
+        {"--select rect:2,1,8,6 --select ^rect:5,3,12,9 INVERT", [&](int x, int y) { return a(x, y) != b(x, y); }},
+        {"--select &rect:2,1,8,6 INVERT", a},
+        {"--select rect:2,1,8,6 --select invert INVERT", [&](int x, int y) { return !a(x, y); }},
+        {"--select rect:2,1,8,6 --select none INVERT", [](int, int) { return true; }},
+        {"--select rect:2,1,8,6 INVERT --select none INVERT", [&](int x, int y) { return !a(x, y); }},
+    };
+    for (const auto& c : kCases) EXPECT_EQ(input(c.inverted), result(c.steps)) << c.steps;
+}
+
+TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
+{
+    const Picture original = input(), inverted = input([](int, int) { return true; });
+    EXPECT_EQ(original, result(""));
+    EXPECT_EQ(original, result("INVERT Invert"));
+    EXPECT_EQ(inverted, result("FLIPH INVERT Flip(true,false) 200 MOSAIC"));
+    EXPECT_EQ(original, result("INVERT UNDO"));
+    EXPECT_EQ(inverted, result("INVERT FLIPH UNDO UNDO REDO"));
+    EXPECT_EQ(original, result("UNDO REDO"));
+    EXPECT_EQ(original, result("2x ORIGINAL"));
+    result("50 50", 6, 4); // a run of sizings starts from its beginning
+    result("20", 2, 2);
+    result("50 INVERT 50", 3, 2);
+    result("x3 2x", 24, 18);
+    result("A90", 9, 12);
+    result("--select rect:2,1,8,6 CROP", 6, 5);
+    result("BitsResample(30,20)", 30, 20);
+    EXPECT_TRUE(QDir(temporary.path()).isEmpty()) << "the undo steps are gone";
+}
+
+TEST_F(BatchTest, UndoStepsAreWrittenOnlyWhereAStepGoesBack)
+{
+    const auto gone = "export TMPDIR=/proc/none";
+    EXPECT_EQ(0, run("in.ppm INVERT x2 FLIPH out.png", gone).status);
+    EXPECT_EQ(1, run("in.ppm INVERT UNDO out.png", gone).status);
+}
+
+TEST_F(BatchTest, ArgumentsTakePicturesAndColours)
+{
+    put("dots,2.ppm", "P6 2 1 255\n" + QByteArray("\x10\x20\x30\x01\x02\x03", 6));
+    Picture wanted = input();
+    wanted[kWidth + 3] = {0x01, 0x02, 0x03}; // the dot before it has the key's colour
+    EXPECT_EQ(wanted, result("TileMask(\"dots,2.ppm\",2,1,false,0,0x00302010)"));
+    EXPECT_EQ(wanted, result("TileMask(\"dots,2.ppm\",2,1,false,0,3153936)"));
+}
+
+TEST_F(BatchTest, HelpAndListNameEverything)
+{
+    const Outcome help = run("--help"), list = run("in.ppm --list"), verbose = run("in.ppm --verbose INVERT out.png");
+    for (const char* word : {"--select", "--list", "--verbose", "polygon:", "Exit status"})
+        EXPECT_NE(std::string::npos, help.output.find(word)) << word;
+    for (const char* line : {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:whole)",
+                             "Flip(Horizontal:true|false,Vertical:true|false)"})
+        EXPECT_NE(std::string::npos, list.output.find(line)) << line;
+    EXPECT_EQ(0, help.status);
+    EXPECT_EQ(0, list.status);
+    EXPECT_NE(std::string::npos, verbose.errors.find("INVERT: 100 %")) << verbose.errors;
+}
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,195 @@
+// A document's steps back and the commands that change its size.
+#include "document/resizing.h"
+#include "document/sizeWords.h"
+#include "filters/RuntimeError.h"
+#include "support/pictures.h"
+#include <QTemporaryDir>
+
+namespace velara {
+namespace {
+
+struct ResizingTest : ::testing::Test {
+    QTemporaryDir folder;
+    Document document{folder.path(), 1};
+    cBitFilter filter;
+
+    void open(const Bits& bits)
+    {
+        document.takePicture(bits);
+        document.handTo(filter);
+        ASSERT_TRUE(document.SaveUndoBits());
+    }
+    void select(int left, int top, int right, int bottom)
+    {
+        document.Region.setRegion(Region::rectangle(left, top, right, bottom));
+        document.handTo(filter);
+    }
+    /// As the command table does it: the sizing itself, then the snapshot.
+    void zoom(int factor, bool enlarge = false)
+    {
+        zoomImage(document, filter, factor, enlarge, false);
+        ASSERT_TRUE(document.SaveUndoBits());
+    }
+    void expectSize(int width, int height)
+    {
+        EXPECT_EQ(width, document.PictureWidth());
+        EXPECT_EQ(height, document.PictureHeight());
+        EXPECT_TRUE(document.Bits().sharesWith(filter.bits())) << "document and engine hold one picture";
+        EXPECT_EQ(Region::rectangle(0, 0, width, height), document.Region.RegionMain());
+        EXPECT_EQ(document.Region.working(), filter.BitsRegion());
+    }
+};
+
+/// The valid pixels' colours, row by row.
+std::vector<int> colours(const Bits& bits)
+{
+    std::vector<int> list;
+    for (int y = 0; y < bits.height(); ++y)
+        for (int x = 0; x < bits.width(); ++x) {
+            const auto& c = bits.at(x, y).c;
+            list.push_back(c[0] | c[1] << 8 | c[2] << 16);
+        }
+    return list;
+}
+
+Bits numbered(int width, int height)
+{
+    Bits bits(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) bits.at(x, y).c[0] = static_cast<std::uint8_t>(1 + x + 10 * y);
+    return bits;
+}
+
+TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)
+{
+    const Bits first = randomBits(8, 6, 1), second = randomBits(8, 6, 2), small = randomBits(3, 3, 3);
+    open(first);
+    for (const Bits& bits : {second, small}) {
+        document.setBits(bits);
+        ASSERT_TRUE(document.SaveUndoBits());
+    }
+    select(1, 1, 3, 3);
+    ASSERT_TRUE(document.UndoBits(filter));
+    EXPECT_TRUE(sameBits(second, filter.bits()));
+    EXPECT_TRUE(document.Region.IsEmptyRegion()) << "3 by 3 became 8 by 6";
+    expectSize(8, 6);
+    select(2, 2, 4, 4);
+    ASSERT_TRUE(document.UndoBits(filter));
+    EXPECT_TRUE(sameBits(first, document.Bits()));
+    EXPECT_EQ(Region::rectangle(2, 2, 4, 4), filter.BitsRegion());
+    EXPECT_FALSE(document.UndoBits(filter));
+    EXPECT_TRUE(sameBits(first, document.Bits()));
+}
+
+TEST_F(ResizingTest, AnEmptyDocumentTakesNoPixels)
+{
+    document.setBits(randomBits(3, 3, 1));
+    EXPECT_FALSE(document.PictureExists());
+    document.CreateBlank(0, 5);
+    EXPECT_FALSE(document.PictureExists());
+    document.CreateBlank(2, 1);
+    EXPECT_TRUE(sameBits(Bits(2, 1), document.Bits()));
+    document.setBits(Bits());
+    EXPECT_TRUE(document.PictureExists());
+}
+
+TEST_F(ResizingTest, ARunOfSizingsStartsFromThePictureBeforeTheFirst)
+{
+    const Bits bits = randomBits(21, 10, 4);
+    open(bits);
+    select(0, 0, 4, 4);
+    zoom(2); // 10.5 and 5: halves go to the even neighbour
+    expectSize(10, 5);
+    EXPECT_TRUE(document.Region.IsEmptyRegion());
+    zoom(2);
+    expectSize(10, 5);
+    zoom(3, true);
+    expectSize(63, 30);
+    zoom(1);
+    expectSize(21, 10);
+    EXPECT_EQ(colours(bits), colours(document.Bits()));
+    EXPECT_TRUE(document.Zoomed);
+    document.Zoomed = false; // another change came between
+    zoom(2);
+    zoom(2);
+    expectSize(10, 5);
+    ASSERT_TRUE(document.UndoBits(filter));
+    expectSize(21, 10);
+}
+
+TEST_F(ResizingTest, WhatCannotBeSizedStaysAsItWas)
+{
+    const Bits bits = randomBits(2, 30, 5);
+    open(bits);
+    EXPECT_THROW(zoom(5), RuntimeError) << "no column would be left";
+    EXPECT_TRUE(sameBits(bits, document.Bits()));
+    EXPECT_FALSE(document.Zoomed);
+    zoom(2, true);
+    const Bits doubled = document.Bits();
+    EXPECT_THROW(zoom(5), RuntimeError);
+    EXPECT_TRUE(sameBits(doubled, document.Bits())) << "it had stepped back already";
+    EXPECT_EQ(2, document.undo.UndoStep());
+    expectSize(4, 60);
+    EXPECT_THROW(zoomImage(document, filter, 2000000000, true, true), RuntimeError);
+    EXPECT_THROW(zoomImage(document, filter, 0, false, false), RuntimeError);
+}
+
+TEST_F(ResizingTest, QuarterTurnsMoveEveryPixel)
+{
+    const struct {
+        int degrees;
+        std::vector<int> wanted;
+        int width;
+    } kCases[] = {
+        {-90, {21, 11, 1, 22, 12, 2, 23, 13, 3, 24, 14, 4, 25, 15, 5}, 3},
+        {90, {5, 15, 25, 4, 14, 24, 3, 13, 23, 2, 12, 22, 1, 11, 21}, 3},
+        {-180, {25, 24, 23, 22, 21, 15, 14, 13, 12, 11, 5, 4, 3, 2, 1}, 5},
+    };
+    for (const auto& c : kCases) {
+        open(numbered(5, 3)); // the square to turn in has a side of 5
+        rotateImage(document, filter, c.degrees, false);
+        expectSize(c.width, 15 / c.width);
+        EXPECT_EQ(c.wanted, colours(document.Bits())) << c.degrees;
+    }
+}
+
+TEST_F(ResizingTest, AnEighthOfATurnHoldsTheWholePicture)
+{
+    for (const bool quality : {false, true}) {
+        open(flatBits(40, 20, 9, 9, 9));
+        rotateImage(document, filter, -45, quality);
+        expectSize(42, 42); // (40 + 20) / sqrt 2
+        EXPECT_EQ(0, document.Bits().at(0, 0).c[0]);
+        EXPECT_EQ(9, document.Bits().at(21, 21).c[0]);
+        int inside = 0;
+        for (const int c : colours(document.Bits())) inside += (c & 255) == 9;
+        EXPECT_NEAR(800, inside, quality ? 130 : 40) << "as many pixels as before, but for the edges";
+    }
+}
+
+TEST_F(ResizingTest, CroppingTakesTheBoxOfTheSelection)
+{
+    const Bits bits = numbered(6, 5);
+    open(bits);
+    EXPECT_EQ(CropAnswer::NothingSelected, cropImage(document, filter));
+    select(1, 1, 2, 4);
+    EXPECT_EQ(CropAnswer::TooSmall, cropImage(document, filter));
+    EXPECT_TRUE(sameBits(bits, document.Bits()));
+    document.Region.setRegion(Region::rectangle(4, 3, 9, 9)); // partly outside
+    EXPECT_EQ(CropAnswer::Done, cropImage(document, filter));
+    expectSize(2, 2);
+    EXPECT_EQ((std::vector{35, 36, 45, 46}), colours(document.Bits()));
+    EXPECT_TRUE(document.Region.IsEmptyRegion());
+}
+
+TEST(SizeWords, OddFactorsStay)
+{
+    EXPECT_EQ(7, findSizeWord("15")->value);
+    EXPECT_EQ(9, findSizeWord("10")->value);
+    EXPECT_EQ(-90, findSizeWord("N90")->value);
+    EXPECT_EQ(90, findSizeWord("A270")->value);
+    EXPECT_EQ(nullptr, findSizeWord("N360"));
+}
+
+} // namespace
+} // namespace velara
