@@ -1,7 +1,6 @@
 #include "batch/Session.h"
 #include "document/resizing.h"
 #include "filters/RuntimeError.h"
-#include <QDir>
 #include <new>
 
 namespace velara {
@@ -10,16 +9,20 @@ namespace {
 
 Failure operationFailed(const QString& error) { return {Status::OperationFailed, error}; }
 
+/// Not QDir's, which falls back to the root folder.
+QString temporaryFolder() { return qEnvironmentVariable("TMPDIR", QStringLiteral("/tmp")); }
+
 Failure stepsFault()
 {
-    return fileFault(QStringLiteral("the undo steps can't be written to %1").arg(QDir::tempPath()));
+    return fileFault(QStringLiteral("the undo steps can't be written to %1").arg(temporaryFolder()));
 }
 
 } // namespace
 
 void Session::open(const Bits& bits, bool keepSteps)
 {
-    if (keepSteps && !folder_.emplace().isValid()) throw stepsFault();
+    if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
+        throw stepsFault();
     document_.emplace(folder_ ? folder_->path() : QString(), 0);
     document_->takePicture(bits);
     document_->handTo(filter_);
