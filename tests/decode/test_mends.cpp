@@ -1,0 +1,216 @@
+// Valid files that the readers refuse or die of unless they are mended first, built here byte by byte.
+#include "fileio/decode/decode.h"
+#include "fileio/decode/mends.h"
+#include <FreeImage.h>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace velara::decode {
+
+namespace {
+
+std::string little(std::uint32_t value, int bytes)
+{
+    std::string text;
+    for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> 8 * i);
+    return text;
+}
+
+std::string big(std::uint32_t value, int bytes)
+{
+    const std::string text = little(value, bytes);
+    return {text.rbegin(), text.rend()};
+}
+
+Decoded decodeBytes(const std::string& contents, const QString& extension)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a." + extension));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(contents.data(), static_cast<qsizetype>(contents.size()));
+    file.close();
+    return decodePicture(file.fileName(), extension);
+}
+
+/// Colours 0xRRGGBB of all pixels, row by row; empty when there is no picture.
+std::vector<std::uint32_t> coloursOf(const Decoded& picture)
+{
+    std::vector<std::uint32_t> colours;
+    if (!picture.ok()) return colours;
+    std::vector<Pixel> row(static_cast<std::size_t>(picture.width));
+    for (int y = 0; y < picture.height; ++y) {
+        picture.row(y, row.data());
+        for (const Pixel& p : row) {
+            EXPECT_EQ(p.c[3], 0);
+            colours.push_back(std::uint32_t{p.c[2]} << 16 | std::uint32_t{p.c[1]} << 8 | p.c[0]);
+        }
+    }
+    return colours;
+}
+using Colours = std::vector<std::uint32_t>;
+
+/// A bitmap with a header of so many bytes; masks (for compression 3) and what else a long header has are in it.
+std::string bmp(std::uint32_t header, int width, int height, std::uint32_t bits, const std::string& palette,
+                const std::string& pixels, std::uint32_t compression = 0, const std::string& masks = {},
+                std::uint32_t coloursUsed = 0)
+{
+    std::string info = little(header, 4) + little(std::uint32_t(width), 4) + little(std::uint32_t(height), 4) +
+                       little(1, 2) + little(bits, 2) + little(compression, 4) + little(0, 4) + little(2835, 4) +
+                       little(2835, 4) + little(coloursUsed, 4) + little(0, 4);
+    info += masks;
+    const std::string after = header == 40 ? masks : std::string();
+    info.resize(header + after.size());
+    const auto offset = static_cast<std::uint32_t>(14 + info.size() + palette.size());
+    return "BM" + little(offset + static_cast<std::uint32_t>(pixels.size()), 4) + little(0, 4) + little(offset, 4) +
+           info + palette + pixels;
+}
+
+const std::string kPalette("\x10\x20\x30\0\x40\x50\x60\0\x70\x80\x90\0\xa0\xb0\xc0\0", 16);
+
+} // namespace
+
+TEST(Mends, BitmapsOfEveryHeader)
+{
+    const std::string true24 = std::string("\1\2\3\4\5\6\0\0", 8) + std::string("\7\x8\x9\xa\xb\xc\0\0", 8);
+    const Colours wanted24 = {0x090807, 0x0c0b0a, 0x030201, 0x060504};
+    const std::string indices("\1\0\2\0\0\3\1\0", 8);
+    const Colours wanted8 = {0x302010, 0xc0b0a0, 0x605040, 0x605040, 0x302010, 0x908070};
+    const std::string masks565 = little(0xf800, 4) + little(0x7e0, 4) + little(0x1f, 4);
+    const std::string masksRgba = little(0xff0000, 4) + little(0xff00, 4) + little(0xff, 4) + little(0xff000000, 4);
+    for (const std::uint32_t header : {40U, 52U, 56U, 108U, 124U}) {
+        EXPECT_EQ(coloursOf(decodeBytes(bmp(header, 2, 2, 24, "", true24), "bmp")), wanted24) << header;
+        EXPECT_EQ(coloursOf(decodeBytes(bmp(header, 3, 2, 8, kPalette, indices, 0, "", 4), "bmp")), wanted8) << header;
+        EXPECT_EQ(
+            coloursOf(decodeBytes(bmp(header, 2, 1, 16, "", little(0xf800, 2) + little(0x1f, 2), 3, masks565), "bmp")),
+            (Colours{0xff0000, 0x0000ff}))
+            << header;
+        EXPECT_EQ(coloursOf(decodeBytes(
+                      bmp(header, 1, 1, 32, "", "\1\2\3\x7f", 3, masksRgba.substr(0, header == 40 ? 12 : 16)), "bmp")),
+                  (Colours{0x030201}))
+            << header;
+    }
+    // With and without the file header under the extension of the one without; .jng goes to the reader of .bmp.
+    EXPECT_EQ(coloursOf(decodeBytes(bmp(40, 2, 2, 24, "", true24), "dib")), wanted24);
+    EXPECT_EQ(coloursOf(decodeBytes(bmp(40, 2, 2, 24, "", true24).substr(14), "dib")), wanted24);
+    EXPECT_EQ(coloursOf(decodeBytes(bmp(124, 2, 2, 24, "", true24), "jng")), wanted24);
+}
+
+TEST(Mends, RunLengthBitmaps)
+{
+    // A run, literals padded to even, end of line, a jump, end of picture; bottom row first.
+    const std::string rle8("\2\1\0\3\2\3\1\0\0\0\5\2\0\1", 14);
+    const Colours wanted = {0x908070, 0x908070, 0x908070, 0x908070, 0x908070,
+                            0x605040, 0x605040, 0x908070, 0xc0b0a0, 0x605040};
+    for (const std::uint32_t header : {40U, 124U})
+        EXPECT_EQ(coloursOf(decodeBytes(bmp(header, 5, 2, 8, kPalette, rle8, 1, "", 4), "bmp")), wanted) << header;
+}
+
+TEST(Mends, GreyOf16Bits)
+{
+    const std::string pgm = "P5\n4 1\n65535\n" + big(0, 2) + big(0x12ff, 2) + big(0x8000, 2) + big(0xffff, 2);
+    EXPECT_EQ(coloursOf(decodeBytes(pgm, "pgm")), (Colours{0, 0x121212, 0x808080, 0xffffff}));
+}
+
+TEST(Mends, HighDepthsOfPng)
+{
+    const struct {
+        FREE_IMAGE_TYPE type;
+        std::uint32_t wanted;
+    } kTypes[] = {{FIT_UINT16, 0x121212}, {FIT_RGB16, 0x12569a}, {FIT_RGBA16, 0x12569a}};
+    for (const auto& t : kTypes) {
+        const QTemporaryDir folder;
+        const QByteArray name = folder.filePath("a.png").toLocal8Bit();
+        FreeImage_Initialise(0);
+        FIBITMAP* dib = FreeImage_AllocateT(t.type, 1, 1);
+        auto* words = reinterpret_cast<std::uint16_t*>(FreeImage_GetScanLine(dib, 0));
+        for (int i = 0; i < static_cast<int>(FreeImage_GetBPP(dib)) / 16; ++i)
+            words[i] = static_cast<std::uint16_t>(0x1234 + 0x4444 * i);
+        ASSERT_TRUE(FreeImage_Save(FIF_PNG, dib, name, 0));
+        FreeImage_Unload(dib);
+        FreeImage_DeInitialise();
+        EXPECT_EQ(coloursOf(decodePicture(name, "png")), Colours{t.wanted}) << t.type;
+    }
+}
+
+TEST(Mends, FloatingPointTiff)
+{
+    const QTemporaryDir folder;
+    const QByteArray name = folder.filePath("a.tif").toLocal8Bit();
+    FreeImage_Initialise(0);
+    FIBITMAP* dib = FreeImage_AllocateT(FIT_RGBF, 2, 1);
+    auto* colours = reinterpret_cast<FIRGBF*>(FreeImage_GetScanLine(dib, 0));
+    colours[0] = {0.5F, 2.0F, -1.0F};
+    colours[1] = {std::nanf(""), 0.0F, 1.0F};
+    ASSERT_TRUE(FreeImage_Save(FIF_TIFF, dib, name, 0));
+    FreeImage_Unload(dib);
+    FreeImage_DeInitialise();
+    EXPECT_EQ(coloursOf(decodePicture(name, "tif")), (Colours{0x80ff00, 0x0000ff}));
+}
+
+// Metadata is made into segments that nobody parses; what the colours need and what follows the scan stays.
+TEST(Mends, JpegMetadata)
+{
+    const auto segment = [](int marker, const std::string& body) {
+        return std::string("\xff") + static_cast<char>(marker) + big(static_cast<std::uint32_t>(body.size() + 2), 2) +
+               body;
+    };
+    const auto file = [&](const std::vector<int>& markers) {
+        std::string text = "\xff\xd8";
+        for (const int marker : markers) text += segment(marker, "some \xff\xe1 text");
+        return text + "\xff" + segment(0xdb, "table") + segment(0xda, "scan") + "data \xff\xe1\0\4\xff\xfe";
+    };
+    const auto mended = [](const std::string& text) {
+        FileBytes bytes(std::vector<std::uint8_t>(text.begin(), text.end()));
+        mendJpeg(bytes);
+        return std::string(bytes.bytes().begin(), bytes.bytes().end());
+    };
+    EXPECT_EQ(mended(file({0xe0, 0xe1, 0xe2, 0xed, 0xee, 0xef, 0xfe})),
+              file({0xe0, 0xe9, 0xe9, 0xe9, 0xee, 0xe9, 0xe9}));
+    for (const char* cut : {"", "\xff", "\xff\xd8\xff", "\xff\xd8\xff\xe1", "\xff\xd8\xff\xff\xff"}) mended(cut);
+}
+
+TEST(Mends, PlainBitMaps)
+{
+    const Colours wanted = {0, 0xffffff, 0, 0xffffff, 0xffffff, 0};
+    for (const char* text : {"P1 3 2 101 001", "P1\n# note 7\n3 2\n1 0 1\n0 0 1\n", "P1\n3\n2\n1010#1\n01"})
+        EXPECT_EQ(coloursOf(decodeBytes(text, "pbm")), wanted) << text;
+    EXPECT_FALSE(decodeBytes("P1 3 2 1010", "pbm").ok());
+}
+
+TEST(Mends, SunRastersWithAFullPalette)
+{
+    std::string palette(768, '\0'); // index i: red i, green 255 - i, blue i / 2
+    for (std::size_t i = 0; i < 256; ++i) {
+        palette[i] = static_cast<char>(i);
+        palette[256 + i] = static_cast<char>(255 - i);
+        palette[512 + i] = static_cast<char>(i / 2);
+    }
+    const auto ras = [&](std::uint32_t type, const std::string& pixels) {
+        return big(0x59a66a95, 4) + big(3, 4) + big(2, 4) + big(8, 4) +
+               big(static_cast<std::uint32_t>(pixels.size()), 4) + big(type, 4) + big(1, 4) + big(768, 4) + palette +
+               pixels;
+    };
+    const Colours wanted = {0x807f40, 0x807f40, 0x807f40, 0x01fe00, 0x02fd01, 0x03fc01};
+    EXPECT_EQ(coloursOf(decodeBytes(ras(1, "\x80\x80\x80x\1\2\3x"), "ras")), wanted);
+    EXPECT_EQ(coloursOf(decodeBytes(ras(2, std::string("\x80\2\x80\x80\0\1\2\3x", 9)), "ras")), wanted);
+}
+
+TEST(Mends, TrueColourPcx)
+{
+    const auto pcx = [](int width, int height, const std::string& data) {
+        std::string header = std::string("\12\5\1\10", 4) + little(1, 2) + little(1, 2) +
+                             little(std::uint32_t(width), 2) + little(std::uint32_t(height), 2) +
+                             std::string(53, '\0') + "\3" + little(std::uint32_t(width + width % 2), 2);
+        header.resize(128);
+        return header + data;
+    };
+    EXPECT_EQ(coloursOf(decodeBytes(pcx(2, 2, "\xcc\7"), "pcx")), Colours(4, 0x070707)); // one run through both rows
+    EXPECT_EQ(coloursOf(decodeBytes(pcx(1, 1, "\1\1\2\2\3\3"), "pcx")), Colours{0x010203});
+    EXPECT_EQ(coloursOf(decodeBytes(pcx(2, 1, "\1\2\3\4\5\6"), "pcx")), (Colours{0x010305, 0x020406}));
+    EXPECT_EQ(coloursOf(decodeBytes(pcx(1, 2, "\1\1\2\2\3\3\4\4\5\5\6\6"), "pcx")), (Colours{0x010203, 0x040506}));
+}
+
+} // namespace velara::decode

@@ -1,0 +1,99 @@
+#include "platform/CorePlatform.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <thread>
+
+namespace velara {
+
+namespace {
+
+/// The rest of Platform, which doesn't matter here.
+class Machine : public CorePlatform {
+    void yield() override {}
+    void message(const QString&, const QString&, Icon) override {}
+    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
+    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
+    QString compactPath(const QString& path, int) override { return path; }
+    bool clipboardHasBitmap() override { return false; }
+    Bits clipboardBitmap() override { return {}; }
+    bool setClipboardBitmap(const Bits&) override { return false; }
+    void clearClipboard() override {}
+};
+
+} // namespace
+
+TEST(CorePlatform, ProgramFolderIsWhereFilesCanBeMade)
+{
+    const QTemporaryDir home;
+    EXPECT_EQ(chooseProgramFolder(home.path(), "/nowhere"), home.path());
+    const QString data = home.filePath("data");
+    EXPECT_EQ(chooseProgramFolder("/usr/bin", data), data + "/velara-studio"); // even for root
+    EXPECT_TRUE(QDir(data + "/velara-studio").exists());
+    EXPECT_EQ(chooseProgramFolder("/proc/self", data), data + "/velara-studio");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    for (const char* bad : {"", "relative"}) // no place to rely on
+        EXPECT_EQ(chooseProgramFolder("/usr/bin", bad), home.path() + "/.local/share/velara-studio");
+    EXPECT_EQ(Machine().programFolder(), VELARA_BIN);
+}
+
+TEST(CorePlatform, KeepsSettingsAcrossRuns)
+{
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    qputenv("HOME", QFile::encodeName(home.path()));
+    Machine().setSetting("Options", "RunOnce", "Ja, \"1\"; ü");
+    EXPECT_EQ(Machine().setting("Options", "RunOnce", "no"), "Ja, \"1\"; ü");
+    EXPECT_EQ(Machine().setting("Other", "RunOnce", "no"), "no");
+}
+
+TEST(CorePlatform, KnowsAnEarlierInstance)
+{
+    qputenv("XDG_SESSION_ID", "velara-test-" + QByteArray::number(getpid()));
+    Machine second;
+    {
+        Machine first;
+        EXPECT_FALSE(first.previousInstance());
+        EXPECT_FALSE(first.previousInstance()); // it is no one's predecessor
+        EXPECT_TRUE(second.previousInstance());
+    }
+    EXPECT_FALSE(second.previousInstance());
+}
+
+TEST(CorePlatform, ClockAndChance)
+{
+    Machine machine;
+    const std::uint32_t before = machine.milliseconds();
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    const std::uint32_t passed = machine.milliseconds() - before;
+    EXPECT_GE(passed, 29U);
+    EXPECT_LT(passed, 10000U);
+    double sum = 0, least = 1, most = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const double value = machine.random();
+        sum += value;
+        least = std::min(least, value);
+        most = std::max(most, value);
+    }
+    EXPECT_GE(least, 0);
+    EXPECT_LT(most, 1);
+    EXPECT_NEAR(sum / 10000, 0.5, 0.03);
+    EXPECT_NE(machine.random(), Machine().random());
+}
+
+TEST(CorePlatform, LoadsThroughTheHelperBesideTheProgram)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.ppm"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("P6\n1 1\n255\n\1\2\3");
+    file.close();
+    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), Machine().loadPicture(file.fileName(), "PPM").bits));
+}
+
+} // namespace velara
