@@ -42,6 +42,16 @@ class Frame {
     /// A number for a new document; each call gives the next.
     virtual int nextDocumentNumber() = 0;
 
+    /// Hand scrolling. The first activation of a document switches it on; documents take its state as they are
+    /// activated.
+    virtual void EnableMouseScrolling() {}
+    virtual bool mouseScrolling() const { return false; }
+    virtual void CheckToolbarState(bool /*noRefresh*/) {}
+    /// The colour wells show the colours of Setup.
+    virtual void showColors() {}
+
+    /// DocNumber of the document whose picture the engine holds; each sets it as it is activated.
+    int activeDocument = -1;
     /// What the mouse tools of all documents share.
     ToolStores toolStores;
 };

@@ -1,0 +1,105 @@
+#include "document/fDisplay.h"
+#include "document/Document.h"
+#include "document/fImage.h"
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace velara {
+
+namespace {
+
+Rect rectOf(const QRect& r) { return {r.x(), r.y(), r.x() + r.width(), r.y() + r.height()}; }
+QRect qrectOf(const Rect& r) { return {r.left, r.top, r.width(), r.height()}; }
+
+/// An image of at least this size; the block is kept while it is large enough and not wasteful.
+void fit(QImage& image, QSize size)
+{
+    if (image.size() == size) return;
+    image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+}
+
+} // namespace
+
+fDisplay::fDisplay(fImage& image, const Document& document) : QWidget(&image), image_(image), document_(document)
+{
+    setObjectName("iDst");
+    setAccessibleName(tr("Picture"));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: no background first, no flicker
+    setAttribute(Qt::WA_NoSystemBackground);
+}
+
+void fDisplay::setSpot(int scrollX, int scrollY, int zoom)
+{
+    spot_.scrollX = scrollX;
+    spot_.scrollY = scrollY;
+    spot_.zoom = zoom;
+}
+
+void fDisplay::updateOutline()
+{
+    constexpr std::size_t kMostPieces = 32;
+    const Region& scaled = document_.Region.RegionScaled();
+    const QRect view = rect();
+    if (scaled.rectangleCount() > kMostPieces)
+        return update(qrectOf(scaled.bounds()).translated(-spot_.scrollX, -spot_.scrollY) & view);
+    QRegion edges;
+    scaled.forEachRectangle([&](const Rect& r) {
+        const QRect q = qrectOf(r).translated(-spot_.scrollX, -spot_.scrollY);
+        edges += QRegion(q & view) - QRegion(q.adjusted(1, 1, -1, -1) & view);
+    });
+    update(edges);
+}
+
+void fDisplay::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    if (!document_.PictureExists()) return painter.fillRect(event->rect(), palette().dark());
+    spot_.ratio = devicePixelRatioF();
+    fit(view_,
+        QSize(static_cast<int>(std::ceil(width() * spot_.ratio)), static_cast<int>(std::ceil(height() * spot_.ratio))));
+    view_.setDevicePixelRatio(spot_.ratio);
+    const QRegion& region = event->region();
+    const QRect box = region.boundingRect();
+    qint64 area = 0;
+    for (const QRect& part : region) area += qint64(part.width()) * part.height();
+    if (area * 2 > qint64(box.width()) * box.height()) return drawPart(painter, box);
+    for (const QRect& part : region) drawPart(painter, part);
+}
+
+void fDisplay::drawPart(QPainter& painter, const QRect& part)
+{
+    const bool outline = outlineShown_ && !document_.Region.IsEmptyRegion();
+    const double k = spot_.ratio;
+    const int left = static_cast<int>(std::floor(part.left() * k)), top = static_cast<int>(std::floor(part.top() * k));
+    const Rect device{left, top, static_cast<int>(std::ceil((part.left() + part.width()) * k)),
+                      static_cast<int>(std::ceil((part.top() + part.height()) * k))};
+    renderer_.render(document_.Bits(), spot_, device, view_);
+    if (outline && k == 1) document_.Region.DrawToDC(view_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QRectF(device.left / k, device.top / k, device.width() / k, device.height() / k), view_,
+                      QRectF(device.left, device.top, device.width(), device.height()));
+    if (!outline || k == 1) return;
+    fit(outline_, size());
+    outline_.fill(Qt::transparent);
+    document_.Region.DrawToDC(outline_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawImage(part, outline_, part);
+}
+
+void fDisplay::mousePressEvent(QMouseEvent* event) { image_.displayPressed(*event); }
+void fDisplay::mouseMoveEvent(QMouseEvent* event) { image_.displayMoved(*event); }
+void fDisplay::mouseReleaseEvent(QMouseEvent* event) { image_.displayReleased(*event); }
+void fDisplay::wheelEvent(QWheelEvent* event) { image_.displayWheel(*event); }
+void fDisplay::keyPressEvent(QKeyEvent* event)
+{
+    if (!image_.displayKey(*event, true)) QWidget::keyPressEvent(event);
+}
+void fDisplay::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!image_.displayKey(*event, false)) QWidget::keyReleaseEvent(event);
+}
+
+} // namespace velara
