@@ -3,6 +3,7 @@
 #include "app/Setup.h"
 #include "document/Tools.h"
 #include "document/fDisplay.h"
+#include "fileio/savePicture.h"
 #include "filters/cBitFilter.h"
 #include "platform/Platform.h"
 #include <QApplication>
@@ -27,7 +28,7 @@ constexpr int kPathPixels = 400;
 fImage::fImage(Frame& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), document_(frame.platform().programFolder() + "/Temp", frame.nextDocumentNumber()),
       iDst_(new fDisplay(*this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
-      vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_),
+      vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_), tmrSelection_(this),
       tools_(std::make_unique<Tools>(document_, frame, *this)),
       barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
 {
@@ -157,7 +158,7 @@ void fImage::activate()
     } else if (tmrSelection_.isActive()) {
         return;
     }
-    if (!tools_->ToolDown() && !frame_.toolStores.textPending) StartTimer();
+    if (!tools_->ToolDown() && !frame_.toolStores.pastePending) StartTimer();
 }
 
 void fImage::deactivate()
