@@ -82,8 +82,9 @@ void Session::resize(const SizeWord& word)
         return;
     }
     // Sizing words in a row each start from the picture before the first of them, so the mark stays.
-    guarded([&] { zoomImage(*document_, filter_, word.value, word.kind == SizeWord::Enlarge, word.quality); });
-    keepStep();
+    bool kept = false;
+    guarded([&] { kept = zoomImage(*document_, filter_, word.value, word.kind == SizeWord::Enlarge, word.quality); });
+    if (folder_ && !kept) throw stepsFault();
 }
 
 void Session::crop()

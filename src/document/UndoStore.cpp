@@ -47,7 +47,7 @@ QString UndoStore::fileName(int index) const
 
 bool UndoStore::save(const Bits& bits)
 {
-    if (bits.isNull()) return false;
+    if (bits.isNull() || folder_.isEmpty()) return false;
     const Header header = headerOf(bits);
     const ByteView head{reinterpret_cast<const std::uint8_t*>(&header), sizeof header};
     if (!overwriteFile(fileName(step_), head, {bits.data(), bits.sizeInBytes()})) return false;

@@ -11,7 +11,8 @@ class UndoStore {
   public:
     static constexpr int kLimit = 10; // snapshots that stand after a save
 
-    /// folder is where the files lie ("Temp" under the program folder); files are b + number "0000" + step "00" + .dat.
+    /// folder is where the files lie ("Temp" under the program folder; empty: no step is kept); files are b + number
+    /// "0000" + step "00" + .dat.
     UndoStore(QString folder, int documentNumber);
 
     int UndoStep() const { return step_; } // snapshots up to and including the state shown

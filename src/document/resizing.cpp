@@ -31,7 +31,7 @@ std::int32_t times(int size, int factor)
 
 } // namespace
 
-void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
+bool zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
 {
     const bool steppedBack = document.Zoomed && document.UndoBits(filter);
     try {
@@ -42,6 +42,7 @@ void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge,
         quality ? work.BitsResample(source, width, height) : work.BitsResize(source, width, height);
         finish(document, filter, work.bits());
         document.Zoomed = true;
+        return document.SaveUndoBits();
     } catch (...) {
         if (steppedBack) document.RedoBits(filter);
         throw;

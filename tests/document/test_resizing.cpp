@@ -24,12 +24,7 @@ struct ResizingTest : ::testing::Test {
         document.Region.setRegion(Region::rectangle(left, top, right, bottom));
         document.handTo(filter);
     }
-    /// As the command table does it: the sizing itself, then the snapshot.
-    void zoom(int factor, bool enlarge = false)
-    {
-        zoomImage(document, filter, factor, enlarge, false);
-        ASSERT_TRUE(document.SaveUndoBits());
-    }
+    void zoom(int factor, bool enlarge = false) { ASSERT_TRUE(zoomImage(document, filter, factor, enlarge, false)); }
     void expectSize(int width, int height)
     {
         EXPECT_EQ(width, document.PictureWidth());
