@@ -1,0 +1,226 @@
+// The command language: which word needs what and does what.
+#include "app/fIcons.h"
+#include "app/fMain.h"
+#include "filters/operations.h"
+#include "platform/Platform.h"
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+void nothing(fMain&) {}
+constexpr void (*kLater)(fMain&) = nullptr; // known, and not there yet
+
+using enum Stage;
+
+// clang-format off
+constexpr Command kCommands[] = {
+    // No document needed
+    {"NEW",                  Free,       kLater},
+    {"OPEN",                 Free,       [](fMain& f) { f.open(); }},
+    {"FILEASSOCIATION",      Free,       kLater},
+    {"PRINTERSETUP",         Free,       kLater},
+    {"SELECTSOURCE",         Free,       kLater},
+    {"ACQUIRETWAIN",         Free,       kLater},
+    {"CAPTUREDESKTOP",       Free,       kLater},
+    {"CAPTUREFOREGROUND",    Free,       kLater},
+    {"CAPTUREBACKGROUND",    Free,       kLater},
+    {"CUSTOMCAPTURE",        Free,       kLater},
+
+    // The active document is asked for; one of them runs without
+    {"UNDO",                 NeedsImage, [](fMain& f) { f.stepUndo(true); }},
+    {"REDO",                 NeedsImage, [](fMain& f) { f.stepUndo(false); }},
+    {"CREATENEWCOPY",        NeedsImage, [](fMain& f) { f.copyToNew(); }},
+    {"COPYIMAGETOCLIPBOARD", NeedsImage, [](fMain& f) { f.GetActiveImage()->BitsCopyToClipboard(); }},
+    {"CREATEFROMCLIPBOARD",  MaybeImage, [](fMain& f) { f.fromClipboard(); }},
+    {"IMAGESIZE",            NeedsImage, kLater},
+    {"CANVASSIZE",           NeedsImage, kLater},
+    {"IMAGEORIENTATION",     NeedsImage, kLater},
+    {"IMAGEROTATE",          NeedsImage, kLater},
+
+    // Only with a document
+    {"CLOSE",                NeedsImage, [](fMain& f) { f.closeActive(); }},
+    {"SAVE",                 NeedsImage, [](fMain& f) { f.save(); }},
+    {"SAVEAS",               NeedsImage, [](fMain& f) { f.saveAs(); }},
+    {"PRINT",                NeedsImage, kLater},
+    {"CUT",                  NeedsImage, kLater},
+    {"COPY",                 NeedsImage, kLater},
+    {"PASTE",                NeedsImage, kLater},
+    {"CROP",                 NeedsImage, [](fMain& f) { f.crop(); }},
+    {"OPTIONS",              NeedsImage, [](fMain& f) { f.options(); }},
+    {"200",                  NeedsImage, [](fMain& f) { f.setZoom(2); }},
+    {"300",                  NeedsImage, [](fMain& f) { f.setZoom(3); }},
+    {"400",                  NeedsImage, [](fMain& f) { f.setZoom(4); }},
+    {"500",                  NeedsImage, [](fMain& f) { f.setZoom(5); }},
+    {"600",                  NeedsImage, [](fMain& f) { f.setZoom(6); }},
+    {"700",                  NeedsImage, [](fMain& f) { f.setZoom(7); }},
+    {"50",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, false, false); }},
+    {"33",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, false, false); }},
+    {"25",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, false, false); }},
+    {"20",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, false, false); }},
+    {"15",                   NeedsImage, [](fMain& f) { f.ZoomImage(7, false, false); }},   // a seventh: odd, and it stays
+    {"10",                   NeedsImage, [](fMain& f) { f.ZoomImage(9, false, false); }},   // a ninth, likewise
+    {"ORIGINAL",             NeedsImage, [](fMain& f) { f.setZoom(1); f.ZoomImage(1, false, false); }},
+    {"2x",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, true, true); }},
+    {"3x",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, true, true); }},
+    {"4x",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, true, true); }},
+    {"5x",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, true, true); }},
+    {"x2",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, false, true); }},
+    {"x3",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, false, true); }},
+    {"x4",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, false, true); }},
+    {"x5",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, false, true); }},
+    {"N90",                  NeedsImage, [](fMain& f) { f.RotateImage(-90, false); }},
+    {"N180",                 NeedsImage, [](fMain& f) { f.RotateImage(-180, false); }},
+    {"N270",                 NeedsImage, [](fMain& f) { f.RotateImage(90, false); }},
+    {"N45",                  NeedsImage, [](fMain& f) { f.RotateImage(-45, false); }},
+    {"A90",                  NeedsImage, [](fMain& f) { f.RotateImage(-90, true); }},
+    {"A180",                 NeedsImage, [](fMain& f) { f.RotateImage(-180, true); }},
+    {"A270",                 NeedsImage, [](fMain& f) { f.RotateImage(90, true); }},
+    {"A45",                  NeedsImage, [](fMain& f) { f.RotateImage(-45, true); }},
+    {"IMAGEMERGING",         NeedsImage, kLater},
+    {"PASTELAYERSBOX",       NeedsImage, kLater},
+    {"IMAGETEXTURES",        NeedsImage, kLater},
+    {"IMAGERESOLUTION",      NeedsImage, kLater},
+    {"IMAGESAVEOPTIONS",     NeedsImage, kLater},
+    {"IMAGECOLORDEPTH",      NeedsImage, kLater},
+    {"TEXTTOOLS",            NeedsImage, kLater},
+    {"WTILE",                NeedsImage, kLater},
+    {"WCENTER",              NeedsImage, kLater},
+    {"WSTRETCH",             NeedsImage, kLater},
+    {"TILEHORIZONTALLY",     NeedsImage, [](fMain& f) { f.arrange(1); }},
+    {"TILEVERTICALLY",       NeedsImage, [](fMain& f) { f.arrange(2); }},
+    {"CASCADE",              NeedsImage, [](fMain& f) { f.arrange(0); }},
+    {"RESET",                NeedsImage, [](fMain& f) { f.reset(); }},
+
+    // Known words that do nothing
+    {"PRINTPREVIEW", NeedsImage, nothing}, {"RESTORE", NeedsImage, nothing}, {"IMAGEPROPERTIES", NeedsImage, nothing},
+    {"EXTRACTICON", NeedsImage, nothing}, {"MOSAIC", NeedsImage, nothing}, {"VERTICALINTERLEAVE", NeedsImage, nothing},
+    {"HORIZONTALINTERLEAVE", NeedsImage, nothing}, {"SQUAREINTERLEAVE", NeedsImage, nothing},
+    {"CUSTOMINTERLEAVE", NeedsImage, nothing}, {"TARNISH", NeedsImage, nothing}, {"RGB", NeedsImage, nothing},
+    {"TALCOMPOWDER", NeedsImage, nothing}, {"IMAGESCALE", NeedsImage, nothing}, {"IMAGECAPTURER", NeedsImage, nothing},
+    {"HELPBAR", NeedsImage, nothing}, {"TEXTBAR", NeedsImage, nothing}, {"TOOLSBAR", NeedsImage, nothing},
+    {"MENUBAR", NeedsImage, nothing}, {"FILTERSBAR", NeedsImage, nothing}, {"COLORSBAR", NeedsImage, nothing},
+    {"EFFECTSBAR", NeedsImage, nothing}, {"STANDARDBAR", NeedsImage, nothing}, {"GRADIENTBOX", NeedsImage, nothing},
+    {"TEMPLATEBOX", NeedsImage, nothing}, {"STATUSBAR", NeedsImage, nothing}, {"MNUFLAT", NeedsImage, nothing},
+    {"MNUSOLIDBAR", NeedsImage, nothing}, {"MNU3DWATER", NeedsImage, nothing}, {"MNU3DMETALLIC", NeedsImage, nothing},
+    {"MNULIGHTGRADIENT", NeedsImage, nothing}, {"MNUHEAVYGRADIENT", NeedsImage, nothing},
+    {"MNUSTANDARD", NeedsImage, nothing}, {"MNUDELUXE", NeedsImage, nothing}, {"MNUWHITE", NeedsImage, nothing},
+    {"MNUSILVER", NeedsImage, nothing}, {"INDEX", NeedsImage, nothing}, {"FAQ", NeedsImage, nothing},
+    {"TUTORIALS", NeedsImage, nothing}, {"SUPPORT", NeedsImage, nothing}, {"HOMEPAGE", NeedsImage, nothing},
+    {"ABOUT", NeedsImage, nothing},
+    // Items and buttons give these, and nothing answers: odd, and it stays
+    {"RESTOREORIGINAL", NeedsImage, nothing}, {"N360", NeedsImage, nothing}, {"A360", NeedsImage, nothing},
+};
+
+// The words that open the filter dialog, with the number of the filter
+struct FilterWord {
+    int number;
+    std::string_view word;
+};
+constexpr FilterWord kFilterWords[] = {
+    { 0, "COLORIZE"},      { 1, "LIGHTCUSTOM"},    { 1, "BRIGHTNESS"},       { 2, "CONTRAST"},
+    { 3, "CUSTOMSATURATION"}, { 4, "GAMMA"},       { 5, "CUSTOMDIFFUSE"},    { 6, "CUSTOMBLUR"},
+    { 7, "HAFTONE"},       { 8, "PIXELIZE"},       { 9, "CUSTOMEMBOSS"},     {10, "CUSTOMENGRAVE"},
+    {11, "CUSTOMCONTOUR"}, {12, "SKETCH"},         {14, "ISOLATE"},          {16, "REPLACE"},
+    {17, "REPLACEHUESAT"}, {18, "REPLACELUMINOUS"}, {19, "CUSTOMSHARPEN"},   {20, "CUSTOMSOFTEN"},
+    {21, "SHIFT"},         {22, "HUEROTATION"},    {23, "GREYROTATION"},     {24, "HUESTRETCH"},
+    {25, "RGBLEVELS"},     {26, "RGBBANKS"},       {27, "LENS"},             {28, "WAVES"},
+    {29, "BEND"},          {30, "FOLD"},           {31, "ROTATE"},           {32, "STRETCH"},
+    {33, "TILE"},          {34, "TWIRL"},          {35, "ADDGRID"},          {36, "LENSFLARE"},
+    {37, "CUSTOMNOISE"},   {37, "ADDNOISE"},       {38, "ADDSCANLINES"},     {39, "CUSTOMGLASS"},
+    {40, "CUSTOMCURTAIN"},
+};
+constexpr void (*kShowFilter)(fMain&, int number) = nullptr; // not there yet
+
+// What the frame does by itself, without a word of the command language
+constexpr Command kActions[] = {
+    {"@BROWSE",       Free, kLater},
+    {"@CAPTURE",      Free, kLater},
+    {"@ICON",         Free, kLater},
+    {"@ASSOCIATION",  Free, kLater},
+    {"@EXIT",         Free, [](fMain& f) { f.close(); }},
+    {"@ABOUT",        Free, [](fMain& f) { f.about(); }},
+    {"@RESET",        Free, [](fMain& f) { f.reset(); }},
+    {"@RECENT0",      Free, [](fMain& f) { f.openRecent(0); }},
+    {"@RECENT1",      Free, [](fMain& f) { f.openRecent(1); }},
+    {"@RECENT2",      Free, [](fMain& f) { f.openRecent(2); }},
+    {"@RECENT3",      Free, [](fMain& f) { f.openRecent(3); }},
+    {"@RECENT4",      Free, [](fMain& f) { f.openRecent(4); }},
+    {"@RECENT5",      Free, [](fMain& f) { f.openRecent(5); }},
+    {"@RECENT6",      Free, [](fMain& f) { f.openRecent(6); }},
+    {"@RECENT7",      Free, [](fMain& f) { f.openRecent(7); }},
+    {"@BAR0",         Free, [](fMain& f) { f.toggleBar(0); }},
+    {"@BAR1",         Free, [](fMain& f) { f.toggleBar(1); }},
+    {"@BAR2",         Free, [](fMain& f) { f.toggleBar(2); }},
+    {"@BAR3",         Free, [](fMain& f) { f.toggleBar(3); }},
+    {"@BAR4",         Free, [](fMain& f) { f.toggleBar(4); }},
+    {"@BAR5",         Free, [](fMain& f) { f.toggleBar(5); }},
+    {"@BAR6",         Free, [](fMain& f) { f.toggleBar(6); }},
+    {"@COLORBOX",     Free, kLater},
+    {"@TEXTURESBOX",  Free, kLater},
+    {"@CLIPBOARDBOX", Free, kLater},
+    {"@STATUSBAR",    Free, [](fMain& f) { f.toggleStatusBar(); }},
+    {"@SIDEBAR",      Free, [](fMain& f) { f.toggleSideBar(); }},
+    // Buttons that only open their drop-down
+    {"@ZOOMP", Free, nothing}, {"@ZOOMM", Free, nothing}, {"@QUICKROTATE", Free, nothing},
+    {"@QUALITYROTATE", Free, nothing}, {"@QUALITYSIZE", Free, nothing},
+    {"@QUICKCAPTURE", Free, kLater}, {"@WALLPAPER", Free, kLater},
+};
+// clang-format on
+
+bool isFilterWord(std::string_view word)
+{
+    return std::ranges::find(kFilterWords, word, &FilterWord::word) != std::end(kFilterWords);
+}
+
+const Command* findIn(std::span<const Command> rows, std::string_view word)
+{
+    const auto row = std::ranges::find(rows, word, &Command::word);
+    return row == rows.end() ? nullptr : &*row;
+}
+
+} // namespace
+
+std::span<const Command> fMain::commands() { return kCommands; }
+
+std::span<const Command> fMain::actions() { return kActions; }
+
+bool fMain::known(std::string_view word)
+{
+    return findPreset(word) || isFilterWord(word) || findIn(word.starts_with('@') ? actions() : commands(), word);
+}
+
+bool fMain::available(std::string_view word)
+{
+    if (findPreset(word)) return true;
+    if (isFilterWord(word)) return kShowFilter;
+    const Command* row = findIn(word.starts_with('@') ? actions() : commands(), word);
+    return row && row->run;
+}
+
+void fMain::Mmenu(const QString& word)
+{
+    const std::string name = word.toStdString();
+    if (name.starts_with('@') || !available(name)) return;
+    const Command* command = findIn(commands(), name);
+    const Stage stage = command ? command->stage : Stage::NeedsImage;
+    if (stage != Stage::Free && !GetActiveImage() && stage == Stage::NeedsImage) return;
+    try {
+        if (command)
+            command->run(*this);
+        else
+            runPreset(name);
+    } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun
+        showFailure(word, failure);
+    }
+}
+
+void fMain::run(std::string_view word)
+{
+    if (!word.starts_with('@')) return Mmenu(text(word));
+    const Command* row = findIn(actions(), word);
+    if (row && row->run) row->run(*this);
+}
+
+} // namespace velara

@@ -1,0 +1,21 @@
+// The entry procedure: everything between the start of the program and its message loop.
+#pragma once
+#include "app/Setup.h"
+#include "app/fMain.h"
+#include "platform/Platform.h"
+#include <memory>
+
+namespace velara {
+
+/// Makes the folders under the program folder that are missing, with their first contents: "Stamps", "Temp", "Images".
+/// False when one of them can't be made or filled.
+bool makeFolders(Platform& platform);
+
+/// Places and sizes the frame from the configuration. Whatever that says, the frame can be found on a screen.
+void placeFrame(QWidget& frame, const Setup& setup);
+
+/// Splash, configuration, frame, folders, bars, in that order; the frame stands shown at the end. setup must outlive
+/// it.
+std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup);
+
+} // namespace velara

@@ -1,0 +1,37 @@
+// velara-studio: the editor. Reads no command line.
+#include "app/fMenuStyle.h"
+#include "app/fStartup.h"
+#include "platform/QtPlatform.h"
+#include <QApplication>
+#include <QLoggingCategory>
+
+namespace {
+
+/// Failures that no command has caught end here: the event is dropped and the program goes on.
+class Application final : public QApplication {
+  public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& failure) {
+            qWarning("velara-studio: %s", failure.what());
+            return false;
+        }
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Application application(argc, argv);
+    application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes still stand
+    application.setStyle(new velara::fMenuStyle);
+    velara::QtPlatform platform;
+    velara::Setup setup;
+    const auto frame = velara::startEditor(platform, setup);
+    QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+    return application.exec();
+}
