@@ -12,13 +12,6 @@ namespace {
 Rect rectOf(const QRect& r) { return {r.x(), r.y(), r.x() + r.width(), r.y() + r.height()}; }
 QRect qrectOf(const Rect& r) { return {r.left, r.top, r.width(), r.height()}; }
 
-/// An image of at least this size; the block is kept while it is large enough and not wasteful.
-void fit(QImage& image, QSize size)
-{
-    if (image.size() == size) return;
-    image = QImage(size, QImage::Format_ARGB32_Premultiplied);
-}
-
 } // namespace
 
 fDisplay::fDisplay(fImage& image, const Document& document) : QWidget(&image), image_(image), document_(document)
@@ -58,9 +51,6 @@ void fDisplay::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (!document_.PictureExists()) return painter.fillRect(event->rect(), palette().dark());
     spot_.ratio = devicePixelRatioF();
-    fit(view_,
-        QSize(static_cast<int>(std::ceil(width() * spot_.ratio)), static_cast<int>(std::ceil(height() * spot_.ratio))));
-    view_.setDevicePixelRatio(spot_.ratio);
     const QRegion& region = event->region();
     const QRect box = region.boundingRect();
     qint64 area = 0;
@@ -73,16 +63,18 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
 {
     const bool outline = outlineShown_ && !document_.Region.IsEmptyRegion();
     const double k = spot_.ratio;
-    const int left = static_cast<int>(std::floor(part.left() * k)), top = static_cast<int>(std::floor(part.top() * k));
-    const Rect device{left, top, static_cast<int>(std::ceil((part.left() + part.width()) * k)),
+    const Rect device{static_cast<int>(std::floor(part.left() * k)), static_cast<int>(std::floor(part.top() * k)),
+                      static_cast<int>(std::ceil((part.left() + part.width()) * k)),
                       static_cast<int>(std::ceil((part.top() + part.height()) * k))};
-    renderer_.render(document_.Bits(), spot_, device, view_);
-    if (outline && k == 1) document_.Region.DrawToDC(view_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(QRectF(device.left / k, device.top / k, device.width() / k, device.height() / k), view_,
-                      QRectF(device.left, device.top, device.width(), device.height()));
-    if (!outline || k == 1) return;
-    fit(outline_, size());
+    const auto drawOutline = [this](QImage& strip, int left, int top) {
+        document_.Region.DrawToDC(strip, -spot_.scrollX - left, -spot_.scrollY - top,
+                                  {0, 0, strip.width(), strip.height()});
+    };
+    const bool inStrips = outline && k == 1;
+    renderer_.paint(painter, document_.Bits(), spot_, device,
+                    inStrips ? ViewRenderer::Overlay(drawOutline) : ViewRenderer::Overlay());
+    if (!outline || inStrips) return;
+    if (outline_.size() != size()) outline_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);
     outline_.fill(Qt::transparent);
     document_.Region.DrawToDC(outline_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);

@@ -40,7 +40,6 @@ class fDisplay final : public QWidget {
     const Document& document_;
     ViewSpot spot_;
     ViewRenderer renderer_;
-    QImage view_;    // device pixels of the whole display, of which the painted parts are valid
     QImage outline_; // logical pixels, for displays with several device pixels in each
     bool outlineShown_ = false;
 };

@@ -93,7 +93,7 @@ QImage fImage::ObtainedPic() const
 {
     if (!PictureExists()) return {};
     QImage picture(PictureWidth(), PictureHeight(), QImage::Format_RGB32);
-    ViewRenderer().render(document_.Bits(), {}, {0, 0, PictureWidth(), PictureHeight()}, picture);
+    ViewRenderer().render(document_.Bits(), {}, 0, 0, picture);
     return picture;
 }
 

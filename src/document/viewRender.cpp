@@ -1,4 +1,5 @@
 #include "document/viewRender.h"
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -42,30 +43,53 @@ void pickOpaque(const std::uint32_t* from, const int* columns, std::uint32_t* to
 
 } // namespace
 
-void ViewRenderer::render(const Bits& bits, const ViewSpot& spot, const Rect& part, QImage& target)
+void ViewRenderer::render(const Bits& bits, const ViewSpot& spot, int left, int top, QImage& target)
 {
-    const Rect p = part.intersected({0, 0, target.width(), target.height()});
-    if (p.isEmpty() || bits.isNull()) return;
+    const int width = target.width();
+    if (target.isNull() || bits.isNull()) return;
     const Axis across(spot.scrollX, spot.zoom, spot.ratio, bits.maxX());
     const Axis down(spot.scrollY, spot.zoom, spot.ratio, bits.maxY());
-    columns_.resize(static_cast<std::size_t>(p.width()));
-    for (int x = 0; x < p.width(); ++x) columns_[static_cast<std::size_t>(x)] = across.at(p.left + x);
-    const bool oneToOne = spot.ratio >= 1 && columns_.back() - columns_.front() == p.width() - 1;
+    columns_.resize(static_cast<std::size_t>(width));
+    for (int x = 0; x < width; ++x) columns_[static_cast<std::size_t>(x)] = across.at(left + x);
+    const bool oneToOne = spot.ratio >= 1 && columns_.back() - columns_.front() == width - 1;
 
-    std::uint8_t* const first = target.bits() + std::ptrdiff_t(p.left) * 4;
-    const auto lineOf = [&](int y) { return reinterpret_cast<std::uint32_t*>(first + y * target.bytesPerLine()); };
+    const auto lineOf = [&, first = target.bits()](int y) {
+        return reinterpret_cast<std::uint32_t*>(first + y * target.bytesPerLine());
+    };
     int shown = -1; // the picture row that the line above holds
-    for (int y = p.top; y < p.bottom; ++y) {
+    for (int y = 0; y < target.height(); ++y) {
         std::uint32_t* const line = lineOf(y);
-        const int row = down.at(y);
+        const int row = down.at(top + y);
         if (row == shown)
-            std::memcpy(line, lineOf(y - 1), sizeof *line * static_cast<std::size_t>(p.width()));
+            std::memcpy(line, lineOf(y - 1), sizeof *line * static_cast<std::size_t>(width));
         else if (oneToOne)
-            copyOpaque(words(bits, row) + columns_.front(), line, p.width());
+            copyOpaque(words(bits, row) + columns_.front(), line, width);
         else
-            pickOpaque(words(bits, row), columns_.data(), line, p.width());
+            pickOpaque(words(bits, row), columns_.data(), line, width);
         shown = row;
     }
+}
+
+void ViewRenderer::paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part,
+                         const Overlay& overlay)
+{
+    constexpr int kGrid = 8;
+    constexpr int kStripPixels = 1 << 16;
+    const int left = part.left & -kGrid, width = part.right - left;
+    if (part.isEmpty()) return;
+    const int rows = std::max(kStripPixels / width, kGrid) & -kGrid;
+    strip_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(rows));
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.scale(1 / spot.ratio, 1 / spot.ratio); // to device pixels, so that nothing is scaled twice
+    for (int top = part.top & -kGrid; top < part.bottom; top += rows) {
+        QImage strip(reinterpret_cast<uchar*>(strip_.data()), width, std::min(rows, part.bottom - top), 4 * width,
+                     QImage::Format_RGB32);
+        render(bits, spot, left, top, strip);
+        if (overlay) overlay(strip, left, top);
+        painter.drawImage(left, top, strip);
+    }
+    painter.restore();
 }
 
 } // namespace velara
