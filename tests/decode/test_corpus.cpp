@@ -27,7 +27,7 @@ constexpr Sample kSamples[] = {
     {"koa/blocks.koa", 320, 200},
     {"lbm/serenity.lbm", 640, 480},
     {"malformed/bomb.gif", 0, 0}, {"malformed/negative_size.ppm", 0, 0}, {"malformed/reallybig.bmp", 0, 0},
-    {"malformed/jpg_exif.jpg", 320, 240}, // its metadata is what is damaged
+    {"malformed/jpg_exif.jpg", 0, 0}, // damaged metadata, which no longer crashes, and cut off
     {"mng/input.mng", 48, 48},
     {"pbm/hopper_1bit.pbm", 128, 128}, {"pbm/hopper_1bit_plain.pbm", 128, 128},
     {"pcd/hopper.pcd", 768, 512},

@@ -168,7 +168,7 @@ TEST(Mends, JpegMetadata)
         return std::string(bytes.bytes().begin(), bytes.bytes().end());
     };
     EXPECT_EQ(mended(file({0xe0, 0xe1, 0xe2, 0xed, 0xee, 0xef, 0xfe})),
-              file({0xe0, 0xe9, 0xe9, 0xe9, 0xee, 0xe9, 0xe9}));
+              file({0xe0, 0xe9, 0xe9, 0xe9, 0xee, 0xe9, 0xe9}) + "\xff\xd9");
     for (const char* cut : {"", "\xff", "\xff\xd8\xff", "\xff\xd8\xff\xe1", "\xff\xd8\xff\xff\xff"}) mended(cut);
 }
 
@@ -211,6 +211,35 @@ TEST(Mends, TrueColourPcx)
     EXPECT_EQ(coloursOf(decodeBytes(pcx(1, 1, "\1\1\2\2\3\3"), "pcx")), Colours{0x010203});
     EXPECT_EQ(coloursOf(decodeBytes(pcx(2, 1, "\1\2\3\4\5\6"), "pcx")), (Colours{0x010305, 0x020406}));
     EXPECT_EQ(coloursOf(decodeBytes(pcx(1, 2, "\1\1\2\2\3\3\4\4\5\5\6\6"), "pcx")), (Colours{0x010203, 0x040506}));
+}
+
+// Most readers fill up with black and say nothing.
+TEST(CutOff, IsRefusedInEveryFormatThatTells)
+{
+    const QTemporaryDir folder;
+    for (const FREE_IMAGE_FORMAT format : {FIF_BMP, FIF_JPEG, FIF_PNG, FIF_PPMRAW, FIF_TARGA, FIF_TIFF, FIF_WBMP}) {
+        const std::string extension = format == FIF_PPMRAW ? "ppm"
+                                      : format == FIF_WBMP ? "wbmp"
+                                                           : FreeImage_GetFIFExtensionList(format);
+        const QString shortName = QString::fromStdString(extension.substr(0, extension.find(',')));
+        const QByteArray name = folder.filePath("a." + shortName).toLocal8Bit();
+        FreeImage_Initialise(0);
+        FIBITMAP* dib = FreeImage_Allocate(100, 90, format == FIF_WBMP ? 1 : 24);
+        for (int y = 0; format != FIF_WBMP && y < 90; ++y)
+            for (int x = 0; x < 300; ++x) FreeImage_GetScanLine(dib, y)[x] = static_cast<std::uint8_t>(x * 7 + y * y);
+        ASSERT_TRUE(FreeImage_Save(format, dib, name, 0)) << extension;
+        FreeImage_Unload(dib);
+        FreeImage_DeInitialise();
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const std::string whole = file.readAll().toStdString();
+        EXPECT_TRUE(decodeBytes(whole, shortName).ok()) << extension;
+        for (const std::size_t percent : {30U, 60U, 95U})
+            EXPECT_FALSE(decodeBytes(whole.substr(0, whole.size() * percent / 100), shortName).ok())
+                << extension << percent;
+        const bool withoutEndMark = decodeBytes(whole.substr(0, whole.size() - 2), shortName).ok();
+        EXPECT_EQ(withoutEndMark, format == FIF_JPEG) << extension;
+    }
 }
 
 } // namespace velara::decode

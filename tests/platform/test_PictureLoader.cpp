@@ -156,11 +156,15 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder("while True: pass"), limits).reason.contains("too long"));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
 
-    DecoderLimits small; // the program itself starts within it
+#ifndef __SANITIZE_ADDRESS__ // it goes without this limit
+    DecoderLimits small;     // the program itself starts within it
     small.memory = 400 << 20;
     const QString big = write("big.ppm", "P6\n16000 16000\n255\n");
-    EXPECT_FALSE(loadThroughDecoder(big, "ppm", kDecoder, small).ok());
+    const QString reason = loadThroughDecoder(big, "ppm", kDecoder, small).reason;
+    EXPECT_FALSE(reason.isEmpty());
+    EXPECT_FALSE(reason.contains("cut off")) << reason.toStdString(); // it didn't come as far as the missing pixels
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", kDecoder, small).ok());
+#endif
 }
 
 TEST_F(PictureLoader, DamagedSamplesCostNothingButTheChild)

@@ -12,9 +12,11 @@ namespace {
 
 using Mend = void (*)(FileBytes&);
 
-template <int fif, Mend mend = nullptr> Decoded byFreeImage(FileBytes& file)
+void mendNothing(FileBytes&) {}
+
+template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
 {
-    if constexpr (mend != nullptr) mend(file);
+    mend(file);
     return readByFreeImage(file, fif);
 }
 

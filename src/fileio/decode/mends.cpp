@@ -43,7 +43,15 @@ void mendBmp(FileBytes& file)
 
 void mendJpeg(FileBytes& file)
 {
-    enum Marker : std::uint8_t { App0 = 0xe0, App9 = 0xe9, App14 = 0xee, App15 = 0xef, Comment = 0xfe, Scan = 0xda };
+    enum Marker : std::uint8_t {
+        App0 = 0xe0,
+        App9 = 0xe9,
+        App14 = 0xee,
+        App15 = 0xef,
+        Comment = 0xfe,
+        Scan = 0xda,
+        EndOfImage = 0xd9
+    };
     // Needed for the colours: App0 (JFIF) and App14 (Adobe). App9 has no known use.
     const auto isMetadata = [](std::uint8_t marker) {
         return (marker > App0 && marker <= App15 && marker != App14) || marker == Comment;
@@ -55,10 +63,14 @@ void mendJpeg(FileBytes& file)
             ++at;
             continue;
         }
-        if (marker == Scan) return;
+        if (marker == Scan) break;
         if (isMetadata(marker)) marker = App9;
         at += 2 + file.big16(at + 2);
     }
+    if (!file.startsWith("\xff\xd8")) return;
+    std::vector<std::uint8_t> ended(bytes.begin(), bytes.end());
+    ended.insert(ended.end(), {0xff, EndOfImage});
+    file.replace(std::move(ended));
 }
 
 void mendPnm(FileBytes& file)
@@ -138,6 +150,7 @@ void mendPcx(FileBytes& file)
         std::fill_n(flat.data() + to, run, static_cast<std::uint8_t>(isRun ? file.byte(at++) : first));
         to += run;
     }
+    if (to < end) return; // the reader finds it cut off
     file.replace(std::move(flat));
 }
 

@@ -7,7 +7,8 @@ namespace velara::decode {
 
 /// A 52- to 124-byte header becomes the 40-byte one that it begins with; the palette moves to follow it.
 void mendBmp(FileBytes& file);
-/// Metadata segments, whose parser reads beyond them, become segments that nobody parses.
+/// Metadata segments, whose parser reads beyond them, become segments that nobody parses. The mark of
+/// the end, which some cameras forget, is added: without it a picture would pass for cut off.
 void mendJpeg(FileBytes& file);
 /// Plain bit maps, which may come without blanks between the pixels, become raw ones.
 void mendPnm(FileBytes& file);

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <memory>
+#include <string>
 
 namespace velara::decode {
 
@@ -15,9 +16,23 @@ using RowMaker = std::function<void(const std::uint8_t* from, Pixel* row)>;
 
 Dib owned(FIBITMAP* dib) { return dib ? Dib(dib, FreeImage_Unload) : Dib(); }
 
-struct Library {
-    Library() { FreeImage_Initialise(0); }
+/// FreeImage, open while an object lives; keeps what it says.
+class Library {
+  public:
+    Library()
+    {
+        said().clear();
+        FreeImage_Initialise(0);
+        FreeImage_SetOutputMessage([](FREE_IMAGE_FORMAT, const char* message) { said() += message; });
+    }
     ~Library() { FreeImage_DeInitialise(); }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+    static std::string& said()
+    {
+        static std::string text;
+        return text;
+    }
 };
 
 /// Reads from memory by routines that are quicker than FreeImage's own, which some readers call for every pixel.
@@ -27,9 +42,13 @@ class Stream {
     Dib load(int fif, int flags)
     {
         at_ = 0;
+        timesShort_ = timesEmpty_ = 0;
         FreeImageIO io{read, write, seek, tell};
         return owned(FreeImage_LoadFromHandle(static_cast<FREE_IMAGE_FORMAT>(fif), &io, this, flags));
     }
+    /// True when the last load wanted more than there is. A reader that reads ahead, block by block, may meet the end
+    /// of a file that is whole, but asks for no more then.
+    bool ranDry(bool readsAhead) const { return timesEmpty_ > 0 || (timesShort_ > 0 && !readsAhead); }
 
   private:
     static unsigned DLL_CALLCONV read(void* to, unsigned size, unsigned count, fi_handle handle)
@@ -37,7 +56,10 @@ class Stream {
         auto& stream = *static_cast<Stream*>(handle);
         const std::size_t left = stream.bytes_.size() - stream.at_;
         const std::size_t wanted = std::size_t{size} * count;
-        if (wanted > left) count = size == 0 ? 0 : static_cast<unsigned>(left / size);
+        if (wanted > left) {
+            count = static_cast<unsigned>(left / size);
+            ++(left == 0 ? stream.timesEmpty_ : stream.timesShort_);
+        }
         const std::size_t bytes = wanted > left ? left : wanted; // as fread: a part of the last item may come
         std::memcpy(to, stream.bytes_.data() + stream.at_, bytes);
         stream.at_ += bytes;
@@ -57,6 +79,7 @@ class Stream {
 
     std::span<const std::uint8_t> bytes_;
     std::size_t at_ = 0;
+    int timesShort_ = 0, timesEmpty_ = 0;
 };
 
 // --- Sizes out of headers, for the readers that can't give them without the pixels
@@ -206,6 +229,13 @@ RowMaker rowsOf(FIBITMAP* dib, int width)
     return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
 }
 
+/// A file whose end is missing; most readers give black or grey for the rest and say nothing.
+bool isCutOff(const Stream& stream, int fif)
+{
+    if (fif == FIF_JPEG) return Library::said().find("premature end of data segment") != std::string::npos;
+    return stream.ranDry(fif == FIF_PCX);
+}
+
 } // namespace
 
 Decoded readByFreeImage(FileBytes& file, int fif)
@@ -217,6 +247,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (!isReadableSize(size.width, size.height)) return refused(kTooBig);
 
     Dib dib = stream.load(fif, 0);
+    if (dib && isCutOff(stream, fif)) return refused("it is cut off: its end is missing");
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
