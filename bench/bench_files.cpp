@@ -1,0 +1,110 @@
+// Opening and saving against FreeImage's own calls in this process: what the child, the hand-over and the change
+// between 24 and 32 bits cost. The files lie in the page cache.
+#include "bench.h"
+#include "fileio/ModFreeImage.h"
+#include "fileio/savePicture.h"
+#include "platform/CorePlatform.h"
+#include <FreeImage.h>
+#include <QTemporaryDir>
+#include <stdexcept>
+
+namespace velara::bench {
+namespace {
+
+class Machine : public CorePlatform {
+    void yield() override {}
+    void message(const QString&, const QString& text, Icon) override { throw std::runtime_error(text.toStdString()); }
+    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
+    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
+    QString compactPath(const QString& path, int) override { return path; }
+    bool clipboardHasBitmap() override { return false; }
+    Bits clipboardBitmap() override { return {}; }
+    bool setClipboardBitmap(const Bits&) override { return false; }
+    void clearClipboard() override {}
+};
+
+Machine& machine()
+{
+    static Machine machine;
+    return machine;
+}
+
+QString pathOf(const QString& name, const char* extension)
+{
+    static const QTemporaryDir folder;
+    return folder.filePath(name + '.' + extension);
+}
+
+Bits load(const QString& path, const char* extension)
+{
+    LoadedPicture picture = machine().loadPicture(path, extension);
+    if (!picture.ok()) throw std::runtime_error(picture.reason.toStdString());
+    return picture.bits;
+}
+
+void save(const Bits& bits, const QString& path, const char* extension)
+{
+    if (savePicture(machine(), bits, path, extension) != SaveResult::Written)
+        throw std::runtime_error("can't be saved");
+}
+
+Row opening(const char* extension, int format, double must, double goal)
+{
+    return {"files",
+            std::string("open ") + extension,
+            must,
+            goal,
+            [=](Size size) {
+                const QString path = pathOf("open", extension);
+                save(picture(size), path, extension);
+                return Trial{[=] { load(path, extension); },
+                             [=] {
+                                 const FreeImageStart library;
+                                 FreeImage_Unload(FreeImage_Load(FREE_IMAGE_FORMAT(format), path.toUtf8(), 0));
+                             }};
+            },
+            "FreeImage_Load"};
+}
+
+Row saving(const char* extension, int format, int flags, double must, double goal)
+{
+    return {"files",
+            std::string("save ") + extension,
+            must,
+            goal,
+            [=](Size size) {
+                const QString path = pathOf("save", extension), reference = pathOf("reference", extension);
+                const auto dib = std::make_shared<Dib24>(picture(size));
+                return Trial{[=] { save(picture(size), path, extension); },
+                             [=] {
+                                 const FreeImageStart library;
+                                 FreeImage_Save(FREE_IMAGE_FORMAT(format), dib->get(), reference.toUtf8(), flags);
+                             }};
+            },
+            "FreeImage_Save"};
+}
+
+Trial jpegToBitmap(Size size)
+{
+    const QString from = pathOf("photo", "jpg"), to = pathOf("photo", "bmp");
+    save(picture(size), from, "jpg");
+    return {[=] { save(load(from, "jpg"), to, "bmp"); }, {}};
+}
+
+// A bitmap takes FreeImage about seven copies of the picture to open and five to save, a JPEG some twenty.
+// clang-format off
+const Rows rows{
+    opening("bmp", FIF_BMP, 1.7, 1.35),
+    opening("tga", FIF_TARGA, 1.7, 1.35),
+    opening("jpg", FIF_JPEG, 1.4, 1.1),
+    saving("bmp", FIF_BMP, 0, 2.0, 1.4),
+    saving("tga", FIF_TARGA, 0, 2.0, 1.4),
+    saving("jpg", FIF_JPEG, JPEG_QUALITYSUPERB, 1.4, 1.1),
+    {"files", "jpg to bmp, the whole road", 1000, 500, jpegToBitmap, "ms"},
+};
+// clang-format on
+
+} // namespace
+} // namespace velara::bench
