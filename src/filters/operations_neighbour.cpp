@@ -45,6 +45,7 @@ std::vector<Operation> neighbourOperations()
         row("RELIEF",       "",                 &cBitFilter::RELIEF),
         row("RankFilterN4", "Mode",             &cBitFilter::RankFilterN4),
         row("RankFilterND", "Mode",             &cBitFilter::RankFilterND),
+        row("DIFFUSE",      "HorizontalRange,VerticalRange", &cBitFilter::DIFFUSE),
         row("MaskFilter",   "Mask,Divisor,AddRed,AddGreen,AddBlue,Clip", maskFilter),
     };
 }

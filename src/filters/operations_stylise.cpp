@@ -8,6 +8,8 @@ std::vector<Operation> styliseOperations()
     return {
         row("Dissolve",  "",                 &cBitFilter::Dissolve),
         row("PAINTING",  "",                 &cBitFilter::PAINTING),
+        row("PIXELIZE",  "Size",             &cBitFilter::PIXELIZE),
+        row("Halftone",  "Radius,Definition,Intensity", &cBitFilter::Halftone),
         row("SKETCH",    "Level,Mono,Color", &cBitFilter::SKETCH),
         row("StuckiBW",  "Divisor",          &cBitFilter::StuckiBW),
         row("THERMIQUE", "",                 &cBitFilter::THERMIQUE),

@@ -1,5 +1,6 @@
 // Literal twins of the neighbourhood filters.
 #include "filters/numbers.h"
+#include "filters/random.h"
 #include "support/twins.h"
 #include <algorithm>
 #include <cmath>
@@ -225,11 +226,39 @@ Bits maskFilter(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-const TwinRows rows{
-    {"SHARPEN", sharpen},      {"SOFTEN", soften}, {"EDGEENHANCE", edgeEnhance},   {"Blurs", blurs},
-    {"DILATE", dilate},        {"ERODE", erode},   {"CONTOUR", contour},           {"EMBOSS", emboss},
-    {"ENGRAVE", engrave},      {"RELIEF", relief}, {"RankFilterN4", rankFilterN4}, {"RankFilterND", rankFilterND},
-    {"MaskFilter", maskFilter}};
+/// The first run of a new object: the number of a pixel's column is twice the pixel's, that of its row the next.
+Bits diffuse(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int h = wholeAt(a, 0), v = wholeAt(a, 1);
+    const float hx = static_cast<float>(h / 2.0), hy = static_cast<float>(v / 2.0);
+    const Random random(cBitFilter::kRandomSeed);
+    Bits out = bits;
+    const Rect picture{0, 0, bits.width(), bits.height()}, box = region.bounds().intersected(picture);
+    for (int y = box.top; y < box.bottom; ++y)
+        for (int x = box.left; x < box.right; ++x) {
+            const auto number = static_cast<std::uint32_t>(2 * (y * bits.width() + x));
+            const int sx = roundEven(double(random.single(number)) * h + x - hx);
+            const int sy = roundEven(double(random.single(number + 1)) * v + y - hy);
+            if (!region.contains(sx, sy) || !picture.contains(sx, sy)) continue;
+            for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = bits.at(sx, sy).c[c];
+        }
+    return out;
+}
+
+const TwinRows rows{{"DIFFUSE", diffuse},
+                    {"SHARPEN", sharpen},
+                    {"SOFTEN", soften},
+                    {"EDGEENHANCE", edgeEnhance},
+                    {"Blurs", blurs},
+                    {"DILATE", dilate},
+                    {"ERODE", erode},
+                    {"CONTOUR", contour},
+                    {"EMBOSS", emboss},
+                    {"ENGRAVE", engrave},
+                    {"RELIEF", relief},
+                    {"RankFilterN4", rankFilterN4},
+                    {"RankFilterND", rankFilterND},
+                    {"MaskFilter", maskFilter}};
 
 } // namespace
 } // namespace velara

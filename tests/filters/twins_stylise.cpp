@@ -1,4 +1,5 @@
 // Literal twins of the stylising filters.
+#include "filters/RuntimeError.h"
 #include "filters/numbers.h"
 #include "support/twins.h"
 #include <cmath>
@@ -128,7 +129,67 @@ Bits stuckiBW(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-const TwinRows rows{{"StuckiBW", stuckiBW},   {"Dissolve", dissolve}, {"PAINTING", painting}, {"SKETCH", sketch},
+Bits pixelize(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Wide size = wholeAt(a, 0);
+    Pixel held{{0, 0, 0, 0}};
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        if (size == 0) throw RuntimeError(Fault::DivisionByZero);
+        const Wide bx = x / size * size, by = y / size * size;
+        if (x % size == 0) {
+            Wide sums[3] = {}, count = 0;
+            for (Wide i = by; i < by + size && i <= bits.maxY(); ++i)
+                for (Wide j = bx; j < bx + size && j <= bits.maxX(); ++j, ++count)
+                    for (int c = 0; c < 3; ++c) sums[c] += bits.at(int(j), int(i)).c[c];
+            for (int c = 0; c < 3 && count > 0; ++c) held.c[c] = static_cast<std::uint8_t>(sums[c] / count);
+        }
+        for (int c = 0; c < 3; ++c) to.c[c] = held.c[c];
+    });
+}
+
+Bits halftone(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const double r = wholeAt(a, 0);
+    const int limit = roundEven(quotient(r + wholeAt(a, 1), r) * r * r);
+    const float gain = static_cast<float>((wholeAt(a, 2) + 100.0) / 100);
+    const Wide radius = wholeAt(a, 0);
+    Bits out = bits;
+    if (radius < 0) return out;
+    const auto counts = [&](Wide x, Wide y) {
+        return x >= 0 && y >= 0 && x <= bits.maxX() && y <= bits.maxY() && region.contains(int(x), int(y));
+    };
+    const Rect box = region.bounds();
+    if (box.intersected({0, 0, bits.width(), bits.height()}).isEmpty()) return out;
+    for (Wide y = box.top; y < std::min(box.bottom, bits.height()); y += 2 * radius)
+        for (Wide x = box.left; x < std::min(box.right, bits.width()); x += 2 * radius) {
+            Wide sums[3] = {}, count = 0;
+            for (Wide i = std::max<Wide>(y, 0); i <= std::min<Wide>(y + 2 * radius, bits.maxY()); ++i)
+                for (Wide j = std::max<Wide>(x, 0); j <= std::min<Wide>(x + 2 * radius, bits.maxX()); ++j) {
+                    if (!counts(j, i)) continue;
+                    ++count;
+                    for (int c = 0; c < 3; ++c) sums[c] += bits.at(int(j), int(i)).c[c];
+                }
+            const int n = roundEven(quotient(double(count), gain));
+            for (Wide& sum : sums)
+                if (n > 0) sum = std::min(roundEven(double(sum) / n), 255);
+            for (Wide ty = std::max<Wide>(y, 0); ty <= std::min<Wide>(y + 2 * radius, bits.maxY()); ++ty)
+                for (Wide tx = std::max<Wide>(x, 0); tx <= std::min<Wide>(x + 2 * radius, bits.maxX()); ++tx) {
+                    if (!counts(tx, ty)) continue;
+                    const Wide ox = tx - x - radius, oy = ty - y - radius, d2 = ox * ox + oy * oy;
+                    Pixel& to = out.at(int(tx), int(ty));
+                    if (d2 > limit) {
+                        to = {{0, 0, 0, to.c[3]}};
+                        continue;
+                    }
+                    const float f = static_cast<float>(1 - quotient(double(d2), limit));
+                    for (int c = 0; c < 3; ++c) to.c[c] = toByte(f * double(sums[c]));
+                }
+        }
+    return out;
+}
+
+const TwinRows rows{{"Dissolve", dissolve},   {"PAINTING", painting}, {"PIXELIZE", pixelize},
+                    {"Halftone", halftone},   {"SKETCH", sketch},     {"StuckiBW", stuckiBW},
                     {"THERMIQUE", thermique}, {"XBLACK", xblack},     {"PHOTOCOP", photocop}};
 
 } // namespace
