@@ -1,0 +1,154 @@
+// Filters by hue, saturation and lightness, and the greys and false colours that are a function of brightness.
+#include "filters/PairTables.h"
+#include "filters/kernels_colour.h"
+#include "filters/kernels_hsl.h"
+#include "filters/mHSLRGB.h"
+#include "filters/numbers.h"
+#include "filters/passes.h"
+#include <optional>
+
+namespace velara {
+
+namespace {
+
+/// A full turn of six hue units over the hundred steps of a slider.
+float hueOffset(int percent) { return static_cast<float>(percent / 16.67); }
+
+std::uint32_t bytesOf(const Rgb& c) { return toByte(c.b) | toByte(c.g) << 8 | std::uint32_t(toByte(c.r)) << 16; }
+
+/// The colours of the 766 sums of three channels. A sum whose colour is no bytes raises Overflow when a pixel has it.
+class SumColours {
+  public:
+    template <class Function> explicit SumColours(Function colour)
+    {
+        for (int sum = 0; sum <= kMostSum; ++sum) {
+            try {
+                colours_[std::size_t(sum)] = bytesOf(colour(sum));
+            } catch (const RuntimeError&) {
+                fails_.resize(kMostSum + 1);
+                fails_[std::size_t(sum)] = true;
+            }
+        }
+    }
+    void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
+    {
+        if (!fails_.empty())
+            for (int x = x0; x < x1; ++x)
+                if (fails_[std::size_t(from[x].c[0] + from[x].c[1] + from[x].c[2])])
+                    throw RuntimeError(Fault::Overflow);
+        colourKernels().bySum({from, 0, to, x0, x1}, colours_.data());
+    }
+
+  private:
+    static constexpr int kMostSum = 765;
+    std::array<std::uint32_t, kMostSum + 1> colours_{};
+    std::vector<bool> fails_;
+};
+
+/// The grey of a weighted sum in thousandths, where it is not in doubt.
+constexpr std::uint16_t kInDoubt = 256;
+
+} // namespace
+
+Pixel HueTurn::operator()(const Pixel& p) const
+{
+    Hsl hsl = RGBToHSL(p.c[2], p.c[1], p.c[0]);
+    hsl.h = static_cast<float>(double(hsl.h) + offset);
+    if (hsl.h > 5) hsl.h = static_cast<float>(double(hsl.h) - 6);
+    const Rgb rgb = HSLToRGB(hsl.h, static_cast<float>(double(saturation) * hsl.s), hsl.l);
+    return {{toByte(rgb.b), toByte(rgb.g), toByte(rgb.r), p.c[3]}};
+}
+
+Bits cBitFilter::RotateH(int Offset, int Saturation)
+{
+    const HueTurn turn{hueOffset(Offset), static_cast<float>(Saturation / 100.0)};
+    const bool usual = Offset >= 0 && Offset <= 100 && Saturation > 0 && Saturation <= 100;
+    if (usual)
+        return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
+            hslKernels().turn({from, 0, to, x0, x1}, turn);
+        });
+    if (Saturation == 0) { // L alone is left: the half of the greatest and the least channel
+        const auto greys = pairTable<std::uint8_t>([&](int most, int least) {
+            const auto high = static_cast<std::uint8_t>(std::max(most, least)),
+                       low = static_cast<std::uint8_t>(std::min(most, least));
+            return turn({{low, low, high, 0}}).c[0];
+        });
+        return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
+            inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
+                for (int i = 0; i < n; ++i) {
+                    const auto [b, g, r, fourth] = p[i].c;
+                    const std::uint8_t v = greys[std::size_t(std::max({b, g, r}) | std::min({b, g, r}) << 8)];
+                    q[i] = {{v, v, v, fourth}};
+                }
+            });
+        });
+    }
+    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
+        for (int x = x0; x < x1; ++x) to[x] = turn(from[x]);
+    });
+}
+
+Bits cBitFilter::RotateL(int Offset, int Steps)
+{
+    const float phase = static_cast<float>(Offset / 10.0), frequency = static_cast<float>(Steps / 2.5);
+    const auto wave = [=](double v) {
+        const double u = std::sin(v / 255 * frequency + phase) * 127.5 + 127.5;
+        return u;
+    };
+    const auto grey = [=](double v) {
+        float u = static_cast<float>(wave(v));
+        if (u > 255)
+            u = static_cast<float>(double(u) - 255);
+        else if (u < 0)
+            u = static_cast<float>(double(u) + 255);
+        return toByte(u);
+    };
+    // Over all weighted sums; a grey within kDoubt of its halves depends on the last bits of the sum of doubles.
+    constexpr double kDoubt = 1e-4;
+    std::vector<std::uint16_t> greys(255001);
+    const auto fill = [&] {
+        for (std::size_t i = 0; i < greys.size(); ++i) {
+            const double u = wave(double(i) / 1000), off = std::abs(u - std::nearbyint(u));
+            greys[i] = off > 0.5 - kDoubt || u > 255 - kDoubt || u < kDoubt
+                           ? kInDoubt
+                           : static_cast<std::uint16_t>(std::nearbyint(u));
+        }
+    };
+    fill();
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
+        inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
+            std::int32_t sums[1024];
+            colourKernels().weigh(p, n, kGreyWeights, sums);
+            for (int i = 0; i < n; ++i) {
+                std::uint16_t v = greys[std::size_t(sums[i])];
+                if (v == kInDoubt) v = grey(greyOf(p[i]));
+                const auto byte = static_cast<std::uint8_t>(v);
+                q[i] = {{byte, byte, byte, p[i].c[3]}};
+            }
+        });
+    });
+}
+
+Bits cBitFilter::COLORIZE(float Hue, float Saturation, float Luminosity)
+{
+    return eachSpan(0, SumColours([=](int sum) {
+                        return HSLToRGB(Hue, Saturation, static_cast<float>(sum / 765.0 * Luminosity));
+                    }));
+}
+
+Bits cBitFilter::StretchH(int Offset, int Saturation, int Stretch)
+{
+    const float saturation = static_cast<float>(Saturation / 100.0), frequency = static_cast<float>(Stretch / 10.0),
+                offset = hueOffset(Offset);
+    return eachSpan(0, SumColours([=](int sum) {
+                        const float l = static_cast<float>(sum / 765.0);
+                        float h = static_cast<float>(std::sin(double(frequency) * l) * 3 + offset);
+                        if (h < -1)
+                            h = static_cast<float>(double(h) + 6);
+                        else if (h > 5)
+                            h = static_cast<float>(double(h) - 6);
+                        return HSLToRGB(h, saturation, l);
+                    }));
+}
+
+} // namespace velara
