@@ -219,7 +219,9 @@ void fMain::toolClicked(const QString& key)
     } else {
         setup_.CurrentTool = key;
         Tool_Frame();
-        if (image) image->showToolPointer();
+        // A drag is the hand's or the tool's: who takes a tool puts the hand away.
+        toolPane_->button("MouseScroll")->setChecked(false);
+        if (image) image->setMouseScroll(false);
     }
 }
 

@@ -44,6 +44,7 @@ fImage::fImage(Frame& frame, QWidget* parent)
     vSB_->setAccessibleName(tr("Vertical scroll bar"));
     shp_->setObjectName("shp");
     shp_->setAutoFillBackground(true);
+    shp_->setBackgroundRole(QPalette::Window);
     for (QScrollBar* bar : {hSB_, vSB_}) {
         bar->setFocusPolicy(Qt::NoFocus); // keys always reach the tools
         bar->hide();

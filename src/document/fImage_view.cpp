@@ -142,6 +142,7 @@ void fImage::setZoomFactor(int factor)
 {
     zoom_ = std::clamp(factor, kLeastZoom, kMostZoom);
     document_.Region.setZoomFactor(static_cast<float>(zoom_));
+    if (frame_.activeDocument == DocNumber()) frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
     layOutView();
 }
 
@@ -159,7 +160,6 @@ void fImage::zoomAbout(int factor, QPointF at)
     setZoomFactor(factor);
     const QPointF now = inWindow - QPointF(iDst_->pos());
     Scroll(qRound(x * zoom_ - now.x()), qRound(y * zoom_ - now.y()));
-    frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
 }
 
 bool fImage::handScrolls() const { return mouseScroll_ && (hSB_->maximum() > 0 || vSB_->maximum() > 0); }
