@@ -16,16 +16,7 @@ struct Turn {
           sn(static_cast<float>(std::sin(degrees * kDegreesToRadians)))
     {
     }
-    double x(double dx, double dy) const { return dx * cs - dy * sn + cx; }
-    double y(double dx, double dy) const { return dx * sn + dy * cs + cy; }
 };
-
-/// The blend of four pixels: columns first, each rounded.
-std::uint8_t bilinear(int p00, int p10, int p01, int p11, double fx, double fy)
-{
-    const int a = roundEven((1 - fy) * p00 + fy * p01), b = roundEven((1 - fy) * p10 + fy * p11);
-    return clamp(roundEven((1 - fx) * a + fx * b));
-}
 
 } // namespace
 
@@ -33,10 +24,9 @@ Bits cBitFilter::ROTATE(int Degrees, bool Clean)
 {
     const Turn turn(bits_, Degrees);
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        for (int i = 0; i < n; ++i) {
-            sx[i] = roundEven(turn.x(x0 + i - turn.cx, y - turn.cy));
-            sy[i] = roundEven(turn.y(x0 + i - turn.cx, y - turn.cy));
-        }
+        const double dx = x0 - turn.cx, dy = y - turn.cy;
+        lineOfPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, sx);
+        lineOfPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, sy);
     });
 }
 
@@ -45,19 +35,17 @@ Bits cBitFilter::RotateSmooth(int Degrees)
     const Bits in = bits_;
     const Turn turn(in, Degrees);
     return eachTile([&](Bits& out, int x0, int x1, int y0, int y1) {
+        std::int32_t ix[kPlaces], iy[kPlaces];
+        float fx[kPlaces], fy[kPlaces];
         for (int y = y0; y < y1; ++y) {
-            const Pixel* from = in.row(y);
-            Pixel* to = out.row(y);
-            for (int x = x0; x < x1; ++x) {
-                const double sx = turn.x(x - turn.cx, y - turn.cy), sy = turn.y(x - turn.cx, y - turn.cy);
-                const int ix = static_cast<int>(std::floor(sx)), iy = static_cast<int>(std::floor(sy));
-                to[x] = {{0, 0, 0, from[x].c[3]}};
-                if (ix < 0 || iy < 0 || ix > in.maxX() || iy > in.maxY()) continue;
-                const float fx = static_cast<float>(sx - ix), fy = static_cast<float>(sy - iy);
-                const Pixel *upper = in.row(iy) + ix, *lower = in.row(iy + 1) + ix;
-                for (int c = 0; c < 3; ++c)
-                    to[x].c[c] = bilinear(upper[0].c[c], upper[1].c[c], lower[0].c[c], lower[1].c[c], fx, fy);
-            }
+            const double dx = x0 - turn.cx, dy = y - turn.cy;
+            const int n = x1 - x0;
+            Pixel* to = out.row(y) + x0;
+            lineOfSplitPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, ix, fx);
+            lineOfSplitPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, iy, fy);
+            eachPlace(blendPixels(in, ix, iy, fx, fy, n, in.row(y) + x0, to), n, [&](int i) {
+                blendPixel(in.row(iy[i]) + ix[i], in.row(iy[i] + 1) + ix[i], fx[i], fy[i], to[i]);
+            });
         }
     });
 }
@@ -108,12 +96,20 @@ Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
     const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
     // How much an axis is scaled at a place on the other one.
     const auto scale = [](int d, int percent, int maximum) { return quotient(d / 100.0 * percent, maximum) + 1; };
+    std::vector<double> columns;
+    const Box box = insidePicture(GetBounds(0), bits_);
+    for (int x = 0; !box.isEmpty() && x < maxX + kPlaces; ++x) columns.push_back(scale(x - cx, Horizontal, maxX));
+    const bool isSafe = std::max(std::abs(double(Horizontal)), std::abs(double(Vertical))) < 1e4;
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        const double scaleX = scale(y - cy, Vertical, maxY);
+        const double row = scale(y - cy, Vertical, maxY);
+        if (isSafe) { // neither scale can lead out of 32 bits
+            lineOfPlaces(x0 - cx, row, 0, cx, n, sx);
+            productsToPlaces(columns.data() + x0, y - cy, cy, n, sy);
+            return;
+        }
         for (int i = 0; i < n; ++i) {
-            const int dx = x0 + i - cx;
-            sx[i] = roundEven(scaleX * dx + cx);
-            sy[i] = roundEven(scale(dx, Horizontal, maxX) * (y - cy) + cy);
+            sx[i] = roundEven(row * (x0 + i - cx) + cx);
+            sy[i] = roundEven(columns[static_cast<std::size_t>(x0 + i)] * (y - cy) + cy);
         }
     });
 }

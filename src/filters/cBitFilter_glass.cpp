@@ -6,55 +6,103 @@ namespace velara {
 
 namespace {
 
-enum class By { Number, Column, Row, Both };
+/// The sources that depend on more than their own coordinate.
+enum class Mixed { None, NumberX, NumberY, RowX, ProductX, SumY };
 
-/// Where the sources of a column and of a row lie; modes that mix both are told by themselves.
+/// Where the sources of a column and of a row lie, as a function of x or y; null leaves them where they are.
 struct GlassRow {
     std::string_view style;
     int mode;
-    double (*x)(double x, double y, double n);
-    double (*y)(double x, double y, double n);
+    double (*column)(double);
+    double (*row)(double);
+    Mixed mixed;
 };
 
-double same(double x, double, double) { return x; }
-double sameY(double, double y, double) { return y; }
+double tangent(double v) { return std::tan(v); }
+double tangents(double v) { return 2 * std::tan(v) + v; }
+double cosines(double v) { return v - 10 * std::cos(v); }
+template <int weight> double sines(double v) { return v - weight * std::sin(v); }
 
 // clang-format off
 constexpr GlassRow kGlass[] = {
-    {"slanting",   0, [](double x, double, double n) { return x - 3 * std::sin(n); },               sameY},
-    {"slanting",   1, same, [](double, double y, double n) { return y - 10 * std::sin(n); }},
-    {"vertical",   0, [](double x, double, double) { return 2 * std::tan(x) + x; },                 sameY},
-    {"vertical",   1, [](double x, double, double) { return x - 3 * std::sin(x); },                 sameY},
-    {"vertical",   2, [](double x, double, double) { return x - 10 * std::cos(x); },                sameY},
-    {"horizontal", 0, same, [](double, double y, double) { return 2 * std::tan(y) + y; }},
-    {"horizontal", 1, same, [](double, double y, double) { return y - 3 * std::sin(y); }},
-    {"horizontal", 2, same, [](double, double y, double) { return y - 10 * std::cos(y); }},
-    {"squary",     0, [](double x, double, double) { return 2 * std::tan(x) + x; },  [](double, double y, double) { return 2 * std::tan(y) + y; }},
-    {"squary",     1, [](double x, double, double) { return x - 5 * std::sin(x); },  [](double, double y, double) { return y - 5 * std::sin(y); }},
-    {"squary",     2, [](double x, double, double) { return x - 10 * std::cos(x); }, [](double, double y, double) { return y - 10 * std::cos(y); }},
-    {"curtain",    0, [](double, double y, double) { return std::tan(y); },                         sameY},
-    {"curtain",    1, [](double x, double, double) { return std::tan(x); },                         sameY},
-    {"curtain",    2, [](double x, double y, double) { return std::tan(y) * std::tan(x); },         sameY},
-    {"curtain",    3, same, [](double x, double y, double) { return std::tan(x) + std::tan(y); }},
+    {"slanting",   0, nullptr,  nullptr,  Mixed::NumberX},
+    {"slanting",   1, nullptr,  nullptr,  Mixed::NumberY},
+    {"vertical",   0, tangents, nullptr,  Mixed::None},
+    {"vertical",   1, sines<3>, nullptr,  Mixed::None},
+    {"vertical",   2, cosines,  nullptr,  Mixed::None},
+    {"horizontal", 0, nullptr,  tangents, Mixed::None},
+    {"horizontal", 1, nullptr,  sines<3>, Mixed::None},
+    {"horizontal", 2, nullptr,  cosines,  Mixed::None},
+    {"squary",     0, tangents, tangents, Mixed::None},
+    {"squary",     1, sines<5>, sines<5>, Mixed::None},
+    {"squary",     2, cosines,  cosines,  Mixed::None},
+    {"curtain",    0, nullptr,  nullptr,  Mixed::RowX},
+    {"curtain",    1, tangent,  nullptr,  Mixed::None},
+    {"curtain",    2, nullptr,  nullptr,  Mixed::ProductX},
+    {"curtain",    3, nullptr,  nullptr,  Mixed::SumY},
 };
+constexpr int kWeightX = 3, kWeightY = 10; // of the sine of the pixel's number
 // clang-format on
+
+/// The sources of first..last along one axis, and 0 before.
+std::vector<std::int32_t> sources(int first, int last, double (*function)(double))
+{
+    std::vector<std::int32_t> table(static_cast<std::size_t>(std::max(last + 1, 0)));
+    for (int i = first; i <= last; ++i) table[i] = function ? roundEven(function(i)) : i;
+    return table;
+}
+
+/// Moves places by the waves of the n pixel numbers from number on.
+void addWaves(const WaveTables& waves, double number, int weight, int n, std::int32_t* places)
+{
+    std::int32_t offsets[kPlaces];
+    const std::uint64_t doubtful = waveOffsets(waves, number, static_cast<float>(weight), n, offsets);
+    eachPlace(doubtful, n,
+              [&](int i) { offsets[i] = roundEven(places[i] - weight * std::sin(number + i)) - places[i]; });
+    for (int i = 0; i < n; ++i) places[i] += offsets[i];
+}
 
 } // namespace
 
 Bits cBitFilter::GLASS(const std::string& Style, int Mode)
 {
-    const Box box = GetBounds(0);
-    const std::int64_t columns = std::int64_t(box.xmax) - box.xmin + 1;
-    const auto row = std::find_if(std::begin(kGlass), std::end(kGlass),
-                                  [&](const GlassRow& r) { return r.style == Style && r.mode == Mode; });
+    const Box box = GetBounds(0), inside = insidePicture(box, bits_);
+    const auto glass = std::find_if(std::begin(kGlass), std::end(kGlass),
+                                    [&](const GlassRow& r) { return r.style == Style && r.mode == Mode; });
+    if (glass == std::end(kGlass)) // then the source stays where it began, at (0, 0)
+        return eachSource(false, [](int, int, int n, std::int32_t* sx, std::int32_t* sy) {
+            std::fill_n(sx, n, 0);
+            std::fill_n(sy, n, 0);
+        });
+    const auto columns = sources(inside.xmin, inside.xmax, glass->column);
+    const auto rows = sources(inside.ymin, inside.ymax, glass->row);
+    std::vector<double> tangents;
+    for (int x = 0; x <= inside.xmax; ++x) tangents.push_back(std::tan(x));
+    const WaveTables waves;
     return eachSource(false, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        for (int i = 0; i < n; ++i) {
-            sx[i] = sy[i] = 0; // where an unknown style or mode takes its one source from
-            if (row == std::end(kGlass)) continue;
-            const int x = x0 + i;
-            const double number = static_cast<double>((std::int64_t(y) - box.ymin) * columns + x - box.xmin + 1);
-            sx[i] = roundEven(row->x(x, y, number));
-            sy[i] = roundEven(row->y(x, y, number));
+        std::copy_n(columns.data() + x0, n, sx);
+        std::fill_n(sy, n, rows[y]);
+        const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
+                              (static_cast<double>(x0) - box.xmin) + 1;
+        const double tangent = std::tan(y);
+        switch (glass->mixed) {
+        case Mixed::None:
+            break;
+        case Mixed::NumberX:
+            addWaves(waves, number, kWeightX, n, sx);
+            break;
+        case Mixed::NumberY:
+            addWaves(waves, number, kWeightY, n, sy);
+            break;
+        case Mixed::RowX:
+            std::fill_n(sx, n, roundEven(tangent));
+            break;
+        case Mixed::ProductX:
+            for (int i = 0; i < n; ++i) sx[i] = roundEven(tangent * tangents[x0 + i]);
+            break;
+        case Mixed::SumY:
+            for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangent);
+            break;
         }
     });
 }

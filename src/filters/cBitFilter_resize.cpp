@@ -1,6 +1,6 @@
 // The two resizes.
 #include "filters/numbers.h"
-#include "filters/passes.h"
+#include "filters/passes_warp.h"
 #include <cmath>
 
 namespace velara {
@@ -12,15 +12,17 @@ float ratio(int from, int to) { return static_cast<float>(static_cast<double>(fr
 
 /// Where the targets of one axis take their source: the pixel and the fraction beyond it.
 struct Axis {
-    std::vector<int> at;
+    std::vector<std::int32_t> at; // padded to whole vectors
     std::vector<double> beyond;
+    std::vector<float> single; // beyond
 
-    Axis(int count, float step) : at(static_cast<std::size_t>(count)), beyond(at.size())
+    Axis(int count, float step) : at(static_cast<std::size_t>(count + kPlaces)), beyond(at.size()), single(at.size())
     {
         for (int i = 0; i < count; ++i) {
             const double s = static_cast<double>(i) * step;
             at[i] = static_cast<int>(std::floor(s));
             beyond[i] = s - at[i];
+            single[i] = static_cast<float>(beyond[i]);
         }
     }
 };
@@ -36,18 +38,18 @@ void cBitFilter::BitsResample(const Bits& Source, int NewWidth, int NewHeight)
     Bits out = Bits::uninitialized(NewWidth, NewHeight);
     clearMargin(out);
     for (int y = 0; y < NewHeight; ++y) {
-        const double fy = rows.beyond[y];
+        std::int32_t iy[kPlaces];
+        float fy[kPlaces];
+        std::fill_n(iy, kPlaces, rows.at[y]);
+        std::fill_n(fy, kPlaces, static_cast<float>(rows.beyond[y]));
         const Pixel *upper = in.row(rows.at[y]), *lower = in.row(rows.at[y] + 1);
-        Pixel* to = out.row(y);
-        for (int x = 0; x < NewWidth; ++x) {
-            const int ix = columns.at[x];
-            const double fx = columns.beyond[x];
-            for (int c = 0; c < 3; ++c) {
-                const int a = roundEven((1 - fy) * upper[ix].c[c] + fy * lower[ix].c[c]);
-                const int b = roundEven((1 - fy) * upper[ix + 1].c[c] + fy * lower[ix + 1].c[c]);
-                to[x].c[c] = clamp(roundEven((1 - fx) * a + fx * b));
-            }
-            to[x].c[3] = 0;
+        for (int x0 = 0; x0 < NewWidth; x0 += kPlaces) {
+            Pixel* to = out.row(y) + x0;
+            const int n = std::min(kPlaces, NewWidth - x0);
+            const std::int32_t* ix = columns.at.data() + x0;
+            eachPlace(blendPixels(in, ix, iy, columns.single.data() + x0, fy, n, nullptr, to), n, [&](int i) {
+                blendPixel(upper + ix[i], lower + ix[i], columns.beyond[x0 + i], rows.beyond[y], to[i]);
+            });
         }
         progressDue(y, NewHeight - 1);
     }

@@ -1,5 +1,7 @@
 #include "filters/kernels_warp.h"
+#include "filters/numbers.h"
 #include "filters/passes.h"
+#include <type_traits>
 
 #ifndef VELARA_KERNELS_WARP_TYPES
 #define VELARA_KERNELS_WARP_TYPES
@@ -10,6 +12,11 @@ struct TakeJob {
     std::int32_t stride;
     Rect rect;
     bool marked, clean;
+};
+
+struct BlendJob {
+    const std::int32_t* origin;
+    std::int32_t stride, width, height;
 };
 
 } // namespace velara
@@ -25,6 +32,16 @@ namespace velara {
 namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
+
+/// The bits of the lanes of mask, lane 0 lowest.
+template <class D, class M> std::uint64_t laneBits(D d, M mask)
+{
+    alignas(8) std::uint8_t bits[8] = {};
+    hn::StoreMaskBits(d, mask, bits);
+    std::uint64_t all;
+    std::memcpy(&all, bits, sizeof all);
+    return all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
+}
 
 /// A word a lane; the lanes whose source is not selected read the pixel (left, top) and drop it.
 void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
@@ -55,6 +72,56 @@ void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         step(i, tail, tail);
         copyPixels(tail, to + i, 0, n - i);
     }
+}
+
+/// Blends of three channels of four pixels each; see blendPixels.
+std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
+                       const float* fy, int n, const Pixel* kept, Pixel* to)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const hn::ScalableTag<float> singles;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto zero = hn::Zero(d), byte = hn::Set(d, 255);
+    const auto width = hn::Set(d, job.width), height = hn::Set(d, job.height), stride = hn::Set(d, job.stride);
+    const auto least = hn::Set(d, -1);
+    // Singles near 255 have steps of 2^-16; three of them add up here.
+    const auto surely = hn::Set(singles, 0.5f - 1.0f / 8192);
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        const auto inside =
+            hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
+        const auto upper = hn::Add(hn::Mul(hn::IfThenElse(inside, y, zero), stride), hn::IfThenElse(inside, x, zero));
+        const auto lower = hn::Add(upper, stride);
+        const auto p00 = hn::GatherIndex(d, job.origin, upper), p10 = hn::GatherIndex(d, job.origin + 1, upper);
+        const auto p01 = hn::GatherIndex(d, job.origin, lower), p11 = hn::GatherIndex(d, job.origin + 1, lower);
+        const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
+        auto doubt = hn::Zero(singles);
+        const auto blend = [&](auto from, auto to, auto part) {
+            const auto v = hn::MulAdd(part, hn::Sub(to, from), from);
+            const auto rounded = hn::Round(v);
+            doubt = hn::Max(doubt, hn::Abs(hn::Sub(v, rounded)));
+            return rounded;
+        };
+        const auto channel = [&](auto shift) {
+            const auto part = [&](auto p) {
+                return hn::ConvertTo(singles, hn::And(hn::ShiftRight<decltype(shift)::value>(p), byte));
+            };
+            const auto left = blend(part(p00), part(p01), alongY), right = blend(part(p10), part(p11), alongY);
+            return hn::ShiftLeft<decltype(shift)::value>(hn::ConvertTo(d, blend(left, right, alongX)));
+        };
+        const auto blended =
+            hn::Or(hn::Or(channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 8>())),
+                   channel(std::integral_constant<int, 16>()));
+        doubtful |= laneBits(d, hn::And(hn::RebindMask(d, hn::Gt(doubt, surely)), inside)) << i;
+        alignas(64) std::int32_t result[HWY_MAX_BYTES / 4];
+        hn::Store(hn::IfThenElseZero(inside, blended), d, result);
+        const int count = std::min(lanes, n - i);
+        std::memcpy(to + i, result, sizeof(Pixel) * static_cast<std::size_t>(count));
+        if (kept)
+            for (int j = i; j < i + count; ++j) to[j].c[3] = kept[j].c[3];
+    }
+    return doubtful;
 }
 
 } // namespace HWY_NAMESPACE
@@ -100,6 +167,25 @@ void SourcePixels::take(const std::int32_t* sx, const std::int32_t* sy, int n, c
     const TakeJob job{reinterpret_cast<const std::int32_t*>(bits_.row(0)), static_cast<std::int32_t>(bits_.stride()),
                       rect_, marked_, clean};
     HWY_DYNAMIC_DISPATCH(takeRow)(job, sx, sy, n, kept, to);
+}
+
+HWY_EXPORT(blendRow);
+
+std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
+                          const float* fy, int n, const Pixel* kept, Pixel* to)
+{
+    const BlendJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
+                       bits.width(), bits.height()};
+    return HWY_DYNAMIC_DISPATCH(blendRow)(job, ix, iy, fx, fy, n, kept, to);
+}
+
+void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)
+{
+    for (int c = 0; c < 3; ++c) {
+        const int a = roundEven((1 - fy) * upper[0].c[c] + fy * lower[0].c[c]);
+        const int b = roundEven((1 - fy) * upper[1].c[c] + fy * lower[1].c[c]);
+        to.c[c] = clamp(roundEven((1 - fx) * a + fx * b));
+    }
 }
 
 } // namespace velara

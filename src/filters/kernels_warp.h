@@ -24,4 +24,13 @@ class SourcePixels {
     bool marked_; // the selection is not all of rect_
 };
 
+/// The n <= 64 targets of a bilinear warp: columns are blended first and rounded. ix, iy and fx, fy are the floor of a
+/// position and what lies beyond. The fourth byte is that of kept, or 0 where kept is null. Positions outside of the
+/// picture give black. Returns a bit for each target that is to be worked out again.
+std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
+                          const float* fy, int n, const Pixel* kept, Pixel* to);
+
+/// The same blend of one target, exactly; the fourth byte stays.
+void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to);
+
 } // namespace velara

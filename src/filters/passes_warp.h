@@ -1,18 +1,29 @@
 // The calling patterns of the filters that move pixels: tile by tile, so that sources and targets stay in the cache.
 #pragma once
+#include "filters/kernels_place.h"
 #include "filters/kernels_warp.h"
 #include "filters/passes.h"
+#include <bit>
 
 namespace velara {
 
 /// The three channels of colour with the fourth byte of kept.
 inline Pixel withColour(Pixel colour, Pixel kept) { return {{colour.c[0], colour.c[1], colour.c[2], kept.c[3]}}; }
 
+constexpr std::uint64_t kAllPlaces = ~std::uint64_t(0);
+
+/// Calls place(i) for each set bit i of places below n.
+template <class Place> void eachPlace(std::uint64_t places, int n, Place&& place)
+{
+    for (; places != 0; places &= places - 1)
+        if (const int i = std::countr_zero(places); i < n) place(i);
+}
+
 /// The targets of the box inside the picture, in tiles. tile(out, x0, x1, y0, y1) writes all four bytes of each pixel
 /// of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
 template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
 {
-    constexpr int kSide = 64;
+    constexpr int kSide = kPlaces;
     const Bits in = bits_;
     const Box box = insidePicture(GetBounds(0), in);
     if (box.isEmpty()) {
@@ -36,14 +47,14 @@ template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
 }
 
 /// Each target of the box takes the pixel at the source position of map, if the region contains that position; else it
-/// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= 64 targets from
-/// (x0, y).
+/// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= kPlaces targets
+/// from (x0, y).
 template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map)
 {
     const Bits in = bits_;
     const SourcePixels source(in, region_);
     return eachTile([&](Bits& out, int x0, int x1, int y0, int y1) {
-        alignas(64) std::int32_t sx[64], sy[64];
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         for (int y = y0; y < y1; ++y) {
             map(y, x0, x1 - x0, sx, sy);
             source.take(sx, sy, x1 - x0, in.row(y) + x0, Clean, out.row(y) + x0);
