@@ -27,7 +27,7 @@ void fMain::frameResized()
         setup_.FrameHeight = twips(size.height());
     }
     setup_.FrameMaximized = isMaximized();
-    if (isMinimized() || !isVisible()) return;
+    if (isMinimized()) return;
     if (!resizedOnce_) {
         resizedOnce_ = true;
         if (platform_.setting("VeStu", "RunOnce", "0").toInt() == 0) { // no layout was ever stored for this user

@@ -176,7 +176,7 @@ void fMain::saveAs()
     if (!path || !image) return;
     const QString extension = extensionOf(*path);
     if (kAnymaps.contains(extension)) // the colours decide which of the three it becomes
-        saveTo(*image, *path, path->chopped(extension.size() + 1), "pnm");
+        saveTo(*image, *path, path->chopped(extension.size()), "pnm");
     else
         saveTo(*image, *path, *path, extension);
 }

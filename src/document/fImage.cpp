@@ -69,7 +69,10 @@ bool fImage::SetPicture(const QString& path, const QString& ext)
     return true;
 }
 
-bool fImage::Save(const QString&, const QString&) { return false; }
+bool fImage::Save(const QString& path, const QString& ext)
+{
+    return savePicture(frame_.platform(), document_.Bits(), path, ext) == SaveResult::Written;
+}
 
 void fImage::CreateBlank(int width, int height)
 {

@@ -36,8 +36,8 @@ class fImage final : public QWidget, public ToolSurface {
     /// Loads a file by the reader of its extension. A file that a reader of the platform (gif, wmf, emf, ico, cur, dib)
     /// refuses gives false; any other that can't be read gives true and an empty document, as an unknown kind does.
     bool SetPicture(const QString& path, const QString& ext);
-    /// Writes the picture in the format of the extension; messages are shown here. False: it could not be written.
-    /// Without a picture, or with an extension that nothing writes, nothing happens.
+    /// Writes the picture in the format of the extension; its notices are shown here. False: nothing was written,
+    /// because it failed, there is no picture, or no writer for the extension.
     bool Save(const QString& path, const QString& ext);
     /// A black picture; nothing below 1 by 1. Leaves the selection alone.
     void CreateBlank(int width, int height);

@@ -1,0 +1,130 @@
+// The real platform with its boxes and dialogs on an offscreen desktop: a timer plays the person.
+#include "platform/QtPlatform.h"
+#include "platform/nameFilters.h"
+#include "support/pictures.h"
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+namespace {
+
+/// Does it to the dialog that comes up next.
+template <class Dialog> void whenShown(const std::function<void(Dialog&)>& act)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        timer->deleteLater();
+        timer->stop();
+        act(*dialog);
+    });
+    timer->start(5);
+}
+
+} // namespace
+
+TEST(NameFilters, BecomeWhatTheDialogTakes)
+{
+    EXPECT_EQ(nameFilters("Bitmap Files (*.BMP;*.DIB)|*.bmp;*.dib|Koala (*.KOA)| *.koa"),
+              QStringList({"Bitmap Files (*.BMP;*.DIB) (*.bmp *.dib)", "Koala (*.KOA) (*.koa)"}));
+    EXPECT_EQ(nameFilters("Odd|"), QStringList({"Odd (*)"}));
+    EXPECT_EQ(nameFilters("cut off"), QStringList());
+    EXPECT_EQ(firstSuffix("ASCII bitmap format(*.ppm)(*.pgm)(*.pbm) (*.ppm *.pgm *.pbm)"), "ppm");
+    EXPECT_EQ(firstSuffix("All (*)"), "");
+}
+
+TEST(QtPlatform, MessagesStandAsTheyAreGiven)
+{
+    QtPlatform platform;
+    whenShown<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Crop");
+        EXPECT_EQ(box.text(), "<b>Nothing</b> selected");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Warning);
+        box.accept();
+    });
+    platform.message("Crop", "<b>Nothing</b> selected", Icon::Exclamation);
+}
+
+TEST(QtPlatform, QuestionsHaveThreeAnswersAndEscapeCancels)
+{
+    QtPlatform platform;
+    const std::pair<QMessageBox::StandardButton, Answer> rows[] = {
+        {QMessageBox::Yes, Answer::Yes}, {QMessageBox::No, Answer::No}, {QMessageBox::Cancel, Answer::Cancel}};
+    for (const auto& [button, answer] : rows) {
+        whenShown<QMessageBox>([b = button](QMessageBox& box) { box.button(b)->click(); });
+        EXPECT_EQ(platform.askYesNoCancel("t", "q", Icon::Information), answer);
+    }
+    whenShown<QMessageBox>([](QMessageBox& box) { box.reject(); });
+    EXPECT_EQ(platform.askYesNoCancel("t", "q", Icon::Information), Answer::Cancel);
+}
+
+TEST(QtPlatform, ABoxSurvivesTheEndOfItsParent)
+{
+    QtPlatform platform;
+    auto* parent = new QWidget;
+    parent->show();
+    QApplication::setActiveWindow(parent);
+    whenShown<QMessageBox>([parent](QMessageBox&) { delete parent; });
+    platform.message("t", "m", Icon::None);
+}
+
+TEST(QtPlatform, ANameWithoutASuffixGetsThatOfTheFormat)
+{
+    QtPlatform platform;
+    QTemporaryDir folder;
+    whenShown<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Save as");
+        dialog.selectNameFilter("Png (*.png)");
+        emit dialog.filterSelected("Png (*.png)");
+        dialog.selectFile("picture");
+        static_cast<QDialog&>(dialog).accept();
+    });
+    const auto name = platform.saveFileName({"Save as", "Bmp|*.bmp|Png|*.png", folder.path()});
+    ASSERT_TRUE(name.has_value());
+    EXPECT_EQ(*name, folder.path() + "/picture.png");
+    whenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(platform.openFileName({"Open file", "Bmp|*.bmp", folder.path()}).has_value());
+}
+
+TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
+{
+    QtPlatform platform;
+    const Bits bits = randomBits(7, 5, 9);
+    ASSERT_TRUE(platform.setClipboardBitmap(bits));
+    ASSERT_TRUE(platform.clipboardHasBitmap());
+    const Bits back = platform.clipboardBitmap();
+    ASSERT_EQ(back.width(), 7);
+    ASSERT_EQ(back.height(), 5);
+    for (int y = 0; y < 5; ++y)
+        for (int x = 0; x < 7; ++x) {
+            for (int c = 0; c < 3; ++c) ASSERT_EQ(back.at(x, y).c[c], bits.at(x, y).c[c]);
+            ASSERT_EQ(back.at(x, y).c[3], 0);
+        }
+    platform.clearClipboard();
+    EXPECT_FALSE(platform.clipboardHasBitmap());
+    EXPECT_TRUE(platform.clipboardBitmap().isNull());
+    EXPECT_FALSE(platform.setClipboardBitmap({}));
+}
+
+TEST(QtPlatform, AShortenedPathKeepsItsFileName)
+{
+    QtPlatform platform;
+    const QString path = "/a/very/long/folder/name/that/goes/on/and/on/and/on/and/on/picture.png";
+    const QFontMetrics metrics(QApplication::font("QMenu"));
+    const int whole = metrics.horizontalAdvance(path);
+    EXPECT_EQ(platform.compactPath(path, whole), path);
+    const QString shorter = platform.compactPath(path, whole / 2);
+    EXPECT_LE(metrics.horizontalAdvance(shorter), whole / 2);
+    EXPECT_TRUE(shorter.endsWith("/picture.png")) << shorter.toStdString();
+    EXPECT_LE(metrics.horizontalAdvance(platform.compactPath(path, 40)), 40);
+}
+
+} // namespace velara
