@@ -77,7 +77,7 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
 LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension)
 {
     if (decoder_.isEmpty()) decoder_ = findDecoder();
-    return loadThroughDecoder(path, extension, decoder_);
+    return loadThroughDecoder(path, extension, decoder_, limitsFor(QFileInfo(path).size()));
 }
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)

@@ -122,6 +122,13 @@ try {
 
 } // namespace
 
+DecoderLimits limitsFor(std::int64_t fileSize)
+{
+    DecoderLimits limits;
+    limits.cpuSeconds = static_cast<unsigned>(std::min<std::int64_t>(limits.cpuSeconds + (fileSize >> 20), 60));
+    return limits;
+}
+
 QString findDecoder()
 {
     static constexpr const char* kPlaces[] = {"", "../bin/", "../libexec/velara-studio/", "../libexec/",

@@ -8,9 +8,12 @@ namespace velara {
 
 struct DecoderLimits {
     std::size_t memory = std::size_t{4} << 30;  // bytes of address space
-    unsigned cpuSeconds = 40;                   // processor time
+    unsigned cpuSeconds = 15;                   // processor time; some readers loop for ever on damaged files
     std::chrono::milliseconds wallClock{90000}; // from start to the last row
 };
+
+/// What a file of so many bytes may take: a second more of processor time for each megabyte, up to a minute.
+DecoderLimits limitsFor(std::int64_t fileSize);
 
 /// The helper's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
 QString findDecoder();

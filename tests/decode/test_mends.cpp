@@ -244,4 +244,21 @@ TEST(CutOff, IsRefusedInEveryFormatThatTells)
     }
 }
 
+TEST(CutOff, IsRefusedWhereQtReads)
+{
+    const std::string gif = std::string("GIF89a\2\0\1\0\x80\0\0"
+                                        "abcdef"
+                                        "!\xf9\4\0\0\0\0\0"
+                                        ",\0\0\0\0\2\0\1\0\0"
+                                        "\2\2\x44\x0a\0;",
+                                        43);
+    EXPECT_EQ(coloursOf(decodeBytes(gif, "gif")), (Colours{0x616263, 0x646566}));
+    EXPECT_EQ(coloursOf(decodeBytes(gif.substr(0, 42), "gif")).size(), 2U); // without the mark of the end
+    EXPECT_EQ(decodeBytes(gif.substr(0, 41), "gif").reason, "it is cut off: its end is missing");
+    const std::string dib = bmp(40, 2, 2, 8, kPalette, std::string("\1\0\0\0\2\3\0\0", 8), 0, "", 4);
+    EXPECT_EQ(coloursOf(decodeBytes(dib.substr(14), "dib")), (Colours{0x908070, 0xc0b0a0, 0x605040, 0x302010}));
+    EXPECT_FALSE(decodeBytes(dib.substr(14, dib.size() - 15), "dib").ok());
+    EXPECT_FALSE(decodeBytes(dib.substr(0, dib.size() - 1), "dib").ok());
+}
+
 } // namespace velara::decode

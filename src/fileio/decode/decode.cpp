@@ -46,7 +46,7 @@ struct Reader {
 
 // clang-format off
 constexpr Reader kReaders[] = {                 // the first row of an extension counts
-    {"gif",  "a GIF",                [](FileBytes& f) { return readByQt(f, "gif"); }},
+    {"gif",  "a GIF",                readGif},
     {"wmf",  "a Windows metafile",   readWmf},
     {"emf",  "an enhanced metafile", readEmf},
     {"ico",  "an icon",              [](FileBytes& f) { return readByQt(f, "ico"); }},

@@ -247,7 +247,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (!isReadableSize(size.width, size.height)) return refused(kTooBig);
 
     Dib dib = stream.load(fif, 0);
-    if (dib && isCutOff(stream, fif)) return refused("it is cut off: its end is missing");
+    if (dib && isCutOff(stream, fif)) return refused(kCutOff);
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));

@@ -3,7 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
-#include <cstring>
+#include <cstdlib>
 
 namespace velara::decode {
 
@@ -42,6 +42,60 @@ Decoded readByQt(FileBytes& file, const char* format)
     return onWhite(image);
 }
 
-Decoded readDib(FileBytes& file) { return readByQt(file, file.startsWith("BM") ? "bmp" : "dib"); }
+// Qt's readers of both give what there is of a file without its end and say nothing.
+namespace {
+
+bool isGifCutOff(const FileBytes& file)
+{
+    constexpr std::size_t kHeader = 13, kImageHeader = 10;
+    enum Block : std::uint32_t { Extension = 0x21, Image = 0x2c };
+    const auto colours = [&](std::size_t flagsAt) { // bytes of the palette that the flags announce
+        const std::uint32_t flags = file.byte(flagsAt);
+        return flags & 0x80 ? std::size_t{3} << ((flags & 7) + 1) : 0;
+    };
+    for (std::size_t at = kHeader + colours(kHeader - 3); at < file.size();) {
+        const std::uint32_t block = file.byte(at);
+        if (block != Extension && block != Image) return false; // damaged, but not cut off
+        at += block == Extension ? 2 : kImageHeader + colours(at + kImageHeader - 1) + 1;
+        while (at < file.size() && file.byte(at) != 0) at += 1 + file.byte(at);
+        if (at++ >= file.size()) return true;
+        if (block == Image) return false;
+    }
+    return true;
+}
+
+bool isDibCutOff(const FileBytes& file)
+{
+    const std::size_t info = file.startsWith("BM") ? 14 : 0;
+    const std::size_t header = file.little32(info);
+    if (header < 40) return false;
+    const auto side = [&](std::size_t at) {
+        return std::abs(std::int64_t{static_cast<std::int32_t>(file.little32(at))});
+    };
+    const std::int64_t width = side(info + 4), height = side(info + 8);
+    const std::uint32_t bits = file.little16(info + 14), compression = file.little32(info + 16);
+    const std::uint32_t used = file.little32(info + 32);
+    const bool isPlain = compression == 0 || compression == 3; // 3: with colour masks
+    if (!isPlain || !isReadableSize(width, height)) return false;
+    std::size_t from = info + header + (compression == 3 && header == 40 ? 12 : 0);
+    if (bits <= 8) from += 4 * std::size_t{used ? used : 1U << bits};
+    if (info) from = file.little32(10);
+    const auto pixels = static_cast<std::size_t>((width * bits + 31) / 32 * 4 * height);
+    return from + pixels > file.size();
+}
+
+} // namespace
+
+Decoded readGif(FileBytes& file)
+{
+    if (file.startsWith("GIF8") && isGifCutOff(file)) return refused(kCutOff);
+    return readByQt(file, "gif");
+}
+
+Decoded readDib(FileBytes& file)
+{
+    if (isDibCutOff(file)) return refused(kCutOff);
+    return readByQt(file, file.startsWith("BM") ? "bmp" : "dib");
+}
 
 } // namespace velara::decode

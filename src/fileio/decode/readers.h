@@ -14,12 +14,15 @@ Decoded onWhite(const QImage& image);
 Decoded readByFreeImage(FileBytes& file, int fif);
 /// format is the name of Qt's reader; drawn on white.
 Decoded readByQt(FileBytes& file, const char* format);
+/// The first picture of a GIF file.
+Decoded readGif(FileBytes& file);
 /// A bitmap with or without its file header.
 Decoded readDib(FileBytes& file);
 /// Metafiles at their natural size, 96 dots an inch, drawn on white.
 Decoded readWmf(FileBytes& file);
 Decoded readEmf(FileBytes& file);
 
+const char* const kCutOff = "it is cut off: its end is missing";
 const char* const kTooBig = "it is wider or higher than 32767 pixels, or has more than 268 million pixels";
 const char* const kTooMuchMemory = "it needs more memory than reading a picture may take";
 
