@@ -58,7 +58,8 @@ IndexedPicture quantised(const Bits& bits, int colours)
     const Attributes attributes(liq_attr_create());
     liq_set_max_colors(attributes.get(), colours);
     const bool isBig = std::int64_t{bits.width()} * bits.height() > 4 << 20;
-    liq_set_speed(attributes.get(), isBig ? 8 : 4); // a big picture has pixels enough for a palette from a coarser count
+    liq_set_speed(attributes.get(),
+                  isBig ? 8 : 4); // a big picture has pixels enough for a palette from a coarser count
     Bits source = bits;
     const Image image(liq_image_create_custom(attributes.get(), giveRow, &source, bits.width(), bits.height(), 0));
     liq_result* made = nullptr;
