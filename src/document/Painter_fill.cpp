@@ -38,6 +38,29 @@ std::uint64_t matches(const Pixel* pixels, int count, const Pixel& seed, int tol
     return bits;
 }
 
+/// New values by channel and old value, two channels in one step: twice as fast over a whole picture.
+class PairTables {
+  public:
+    template <class Tables> explicit PairTables(const Tables& tables) : pairs_(std::size_t(1) << 16)
+    {
+        for (std::size_t i = 0; i < pairs_.size(); ++i)
+            pairs_[i] = static_cast<std::uint16_t>(tables[0][i & 255] | tables[1][i >> 8] << 8);
+        for (std::size_t i = 0; i < 256; ++i) reds_[i] = static_cast<std::uint32_t>(tables[2][i]) << 16;
+    }
+    void apply(Pixel* pixels, int count) const
+    {
+        for (Pixel* p = pixels; p < pixels + count; ++p) {
+            const auto v = std::bit_cast<std::uint32_t>(*p);
+            *p = std::bit_cast<Pixel>(pairs_[v & 0xFFFF] | reds_[v >> 16 & 255] | (v & 0xFF000000));
+        }
+    }
+
+  private:
+    std::vector<std::uint16_t> pairs_;
+    std::uint32_t reds_[256];
+};
+static_assert(std::endian::native == std::endian::little, "channel 0 is the lowest byte of a pixel");
+
 /// The pixels that may still be reached, a bit each, in rows that are made when they are first asked for.
 class OpenPixels {
   public:
@@ -87,6 +110,14 @@ class OpenPixels {
     std::unique_ptr<std::uint64_t[]> rows_;
     std::vector<bool> known_;
 };
+
+/// to := to + from by bytes, at most 255.
+void addPixels(const Pixel* from, Pixel* to, int count)
+{
+    const auto* source = reinterpret_cast<const std::uint8_t*>(from);
+    auto* target = reinterpret_cast<std::uint8_t*>(to);
+    for (int i = 0; i < 4 * count; ++i) target[i] = static_cast<std::uint8_t>(std::min(source[i] + target[i], 255));
+}
 
 } // namespace
 
@@ -159,7 +190,8 @@ void Painter::BitsFill(int x, int y, Colour colour, int tolerance, int opacity)
             for (Pixel *p = bits_.row(py) + x0, *end = p + (x1 - x0); p < end; ++p)
                 *p = {{target.c[0], target.c[1], target.c[2], p->c[3]}};
         });
-    flood(seed, tolerance, region, [&](int py, int x0, int x1) { applyTables(tables, py, x0, x1); });
+    const PairTables pairs(tables);
+    flood(seed, tolerance, region, [&](int py, int x0, int x1) { pairs.apply(bits_.row(py) + x0, x1 - x0); });
 }
 
 void Painter::BitsFillTexture(int x, int y, const Bits& source, int tolerance, int opacity)
@@ -186,18 +218,19 @@ void Painter::BitsFillTexture(int x, int y, const Bits& source, int tolerance, i
     for (int row = 0; opacity != 100 && row < tileH; ++row)
         for (Pixel *p = tile.row(row), *end = p + tileW; p < end; ++p)
             *p = {{share[p->c[0]], share[p->c[1]], share[p->c[2]], 0}};
+    const PairTables pairs(Tables{rest, rest, rest});
     flood(seed, tolerance, region, [&](int py, int x0, int x1) {
         const Pixel* row = std::as_const(tile).row(py % tileH);
         for (int px = x0; px < x1;) {
             const int column = px % tileW, count = std::min(x1 - px, tileW - column);
             const Pixel* from = row + column;
             Pixel* to = bits_.row(py) + px;
-            if (opacity == 100)
+            if (opacity == 100) {
                 blendRun(from, to, count, opacity, nullptr);
-            else
-                for (int i = 0; i < count; ++i)
-                    for (int c = 0; c < 3; ++c)
-                        to[i].c[c] = static_cast<std::uint8_t>(std::min(from[i].c[c] + rest[to[i].c[c]], 255));
+            } else {
+                pairs.apply(to, count);
+                addPixels(from, to, count);
+            }
             px += count;
         }
     });

@@ -8,14 +8,15 @@
 
 namespace velara {
 
-/// What a line is drawn with, and the rows of the region that it last crossed.
+/// What a line is drawn with, the rows of the region that it last crossed, and what it has touched.
 struct Painter::Ink {
-    Ink(const Region& region, Colour colour, int opacity)
-        : region(region), components{blueOf(colour), greenOf(colour), redOf(colour)},
-          strength(roundEven(opacity * 2.55))
+    Ink(Painter& painter, Colour colour, int opacity)
+        : region(painter.working()), components{blueOf(colour), greenOf(colour), redOf(colour)},
+          strength(roundEven(opacity * 2.55)), changed(painter.changed_)
     {
         if (strength == 0) strength = 1;
     }
+    ~Ink() { changed = changed.united(box); }
 
     bool allows(int x, int y)
     {
@@ -24,6 +25,10 @@ struct Painter::Ink {
         if (row.spans.size() == 1) return x >= row.spans[0].x0 && x < row.spans[0].x1;
         const auto after = std::ranges::upper_bound(row.spans, x, {}, &Span::x0);
         return after != row.spans.begin() && x < std::prev(after)->x1;
+    }
+    void touch(int x, int y)
+    {
+        box = {std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1), std::max(box.bottom, y + 1)};
     }
 
     struct Row {
@@ -34,6 +39,8 @@ struct Painter::Ink {
     int components[3]; // blue, green, red
     int strength;      // 1 to 255
     Row rows[2];
+    Rect box{std::numeric_limits<int>::max(), std::numeric_limits<int>::max(), 0, 0};
+    Rect& changed;
 };
 
 /// Shares the point among the four pixels around it. Coordinates without a fraction are moved a little, so that no
@@ -59,7 +66,7 @@ void Painter::plot(Ink& ink, double& px, double& py)
         const int x = static_cast<int>(p.x);
         if (!ink.allows(x, p.y)) continue;
         touched_.markPixel(x, p.y);
-        changed_ = changed_.united({x, p.y, x + 1, p.y + 1});
+        ink.touch(x, p.y);
         const double f = (toByte(p.weight) / 255.0 * ink.strength) / 255;
         Pixel& pixel = bits_.row(p.y)[x];
         for (int i = 0; i < 3; ++i) pixel.c[i] = toByte(pixel.c[i] - (pixel.c[i] - ink.components[i]) * f);
@@ -69,7 +76,7 @@ void Painter::plot(Ink& ink, double& px, double& py)
 void Painter::BitsLine(int x1, int y1, int x2, int y2, Colour colour, int opacity)
 {
     if (bits_.isNull()) return;
-    Ink ink(working(), colour, opacity);
+    Ink ink(*this, colour, opacity);
     const double dx = double(x2) - x1, dy = double(y2) - y1, n = std::max(std::abs(dx), std::abs(dy)) + 1;
     const double stepX = dx / n / 2, stepY = dy / n / 2;
     double px = x1, py = y1;
@@ -92,7 +99,7 @@ void Painter::BitsRectangle(int x1, int y1, int x2, int y2, Colour colour, int o
 void Painter::BitsEllipse(int centreX, int centreY, int radiusX, int radiusY, Colour colour, int opacity)
 {
     if (bits_.isNull()) return;
-    Ink ink(working(), colour, opacity);
+    Ink ink(*this, colour, opacity);
     const double m = std::abs(static_cast<double>(std::max(radiusX, radiusY)));
     const auto step = static_cast<float>(0.534070725 / (m == 0 ? 1 : m));
     for (float a = 0; a < 6.283185;) {
