@@ -1,7 +1,7 @@
 // Pictures as plain byte arrays without the margin, and the size that fits a box.
 #pragma once
 #include "filters/Bits.h"
-#include <QSize>
+#include "filters/fitSize.h"
 #include <cstdint>
 #include <vector>
 
@@ -27,9 +27,5 @@ struct ByteArray {
 /// Zeroed bytes of width by height and their header; empty below 1 by 1.
 ByteArray byteArrayFor(int width, int height);
 ByteArray bytesOfPicture(const Bits& bits);
-
-/// size where it fits the box in both directions, else the largest of about the same shape that does: pictures are
-/// never enlarged. DivisionByZero for an empty size that is too long the other way.
-QSize fitSize(QSize size, QSize box);
 
 } // namespace velara
