@@ -82,7 +82,7 @@ void fMain::runPreset(std::string_view word)
     const Preset* preset = findPreset(word);
     const Operation* operation = preset ? findOperation(preset->operation) : nullptr;
     if (!operation) return;
-    if (!word.starts_with("FLIP")) platform_.yield(); // the menu closes before the long work
+    if (preset->yields) platform_.yield(); // the menu closes before the long work
     runOnEngine(QString::fromUtf8(word.data(), qsizetype(word.size())),
                 [&](cBitFilter& filter) { operation->call(filter, preset->arguments); });
 }

@@ -73,8 +73,8 @@ std::span<const Preset> presets()
         {"RGB2RBG",           "SwapBanks",     {3}},
         {"RGB2BGR",           "SwapBanks",     {4}},
         {"RGB2GRB",           "SwapBanks",     {5}},
-        {"FLIPH",             "Flip",          {true, false}},
-        {"FLIPV",             "Flip",          {false, true}},
+        {"FLIPH",             "Flip",          {true, false}, false},
+        {"FLIPV",             "Flip",          {false, true}, false},
     };
     // clang-format on
     return all;

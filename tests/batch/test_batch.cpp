@@ -258,6 +258,24 @@ TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
     EXPECT_TRUE(QDir(temporary.path()).isEmpty()) << "the undo steps are gone";
 }
 
+TEST_F(BatchTest, EveryWordOfTheListRuns)
+{
+    put("large.ppm", "P6 60 50 255\n" + QByteArray(3 * 60 * 50, '7'));
+    const QString list = QString::fromStdString(run("--list").output);
+    int words = 0;
+    std::string steps;
+    for (const QString& line : list.section(QStringLiteral("\nOperations"), 0, 0).split(u'\n').mid(1)) {
+        const std::string word = line.simplified().section(u' ', 0, 0).toStdString();
+        if (word != "CROP") steps += word + ' '; // it needs a selection, which sizing words wipe
+        if (++words % 12 != 0) continue;
+        const Outcome outcome = run("large.ppm --select rect:9,9,30,30 " + steps + "out.png");
+        EXPECT_EQ(0, outcome.status) << outcome.errors;
+        steps.clear();
+    }
+    EXPECT_EQ(0, run("large.ppm " + steps + "out.png").status);
+    EXPECT_GT(words, 100);
+}
+
 TEST_F(BatchTest, UndoStepsAreWrittenOnlyWhereAStepGoesBack)
 {
     const auto gone = "export TMPDIR=/proc/none";
