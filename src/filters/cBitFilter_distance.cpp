@@ -33,6 +33,10 @@ constexpr std::uint32_t byteOf(std::uint32_t word, int c) { return word >> 8 * c
 
 Pixel Blend::operator()(const Pixel& p) const
 {
+    if (byHue) {
+        const Hsl hsl = RGBToHSL(p.c[2], p.c[1], p.c[0]);
+        if (std::abs(double(hsl.h) - hue) > hueReach || std::abs(double(hsl.s) - saturation) > satReach) return p;
+    }
     std::int32_t d2 = 0;
     for (int c = 0; c < 3; ++c) {
         const int d = p.c[c] - int(byteOf(near.reference, c));
@@ -62,22 +66,15 @@ Bits cBitFilter::REPLACE(Colour From, Colour To, int Tolerance)
     return eachSpan(0, blending(replacing(From, To, toleranceLimit(Tolerance), false)));
 }
 
-/// Hue is not taken as circular: -0.9 and 4.9 are far apart.
 Bits cBitFilter::ReplaceHS(Colour From, Colour To, int HueTolerance, int SatTolerance, int ApplyTolerance)
 {
-    const Blend blend = replacing(From, To, toleranceLimit(ApplyTolerance), true);
-    const float hueReach = static_cast<float>(HueTolerance / 100.0),
-                satReach = static_cast<float>(SatTolerance / 100.0);
+    Blend blend = replacing(From, To, toleranceLimit(ApplyTolerance), true);
     const Hsl wanted = RGBToHSL(redOf(From), greenOf(From), blueOf(From));
-    const std::function<Pixel(const Pixel&)> change = [=](const Pixel& p) {
-        const Hsl hsl = RGBToHSL(p.c[2], p.c[1], p.c[0]);
-        const bool treated =
-            std::abs(double(hsl.h) - wanted.h) <= hueReach && std::abs(double(hsl.s) - wanted.s) <= satReach;
-        return treated ? blend(p) : p;
-    };
-    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-        distanceKernels().change({from, 0, to, x0, x1}, blend.near, change);
-    });
+    blend.byHue = true;
+    blend.hue = wanted.h, blend.saturation = wanted.s;
+    blend.hueReach = static_cast<float>(HueTolerance / 100.0),
+    blend.satReach = static_cast<float>(SatTolerance / 100.0);
+    return eachSpan(0, blending(blend));
 }
 
 Bits cBitFilter::ReplaceL(Colour From, Colour To, int LumTolerance, int ApplyTolerance)

@@ -5,7 +5,6 @@
 #include "filters/mHSLRGB.h"
 #include "filters/numbers.h"
 #include "filters/passes.h"
-#include <optional>
 
 namespace velara {
 
@@ -45,8 +44,29 @@ class SumColours {
     std::vector<bool> fails_;
 };
 
-/// The grey of a weighted sum in thousandths, where it is not in doubt.
 constexpr std::uint16_t kInDoubt = 256;
+
+/// round(sin(sum/1000/255*frequency + phase)*127.5 + 127.5) of the weighted sums 0..255000. kInDoubt where it depends
+/// on the last bits: nearer than 1e-4 to a half or to the ends.
+std::vector<std::uint16_t> greysOfSums(float phase, float frequency)
+{
+    constexpr std::size_t kSums = 255001, kRun = 64;
+    constexpr double kNear = 1e-4;
+    const double step = double(frequency) / 255000;
+    double cosOf[kRun], sinOf[kRun]; // of the steps within a run; angles are added
+    for (std::size_t i = 0; i < kRun; ++i) cosOf[i] = std::cos(double(i) * step), sinOf[i] = std::sin(double(i) * step);
+    std::vector<std::uint16_t> greys((kSums / kRun + 1) * kRun);
+    for (std::size_t run = 0; run < greys.size(); run += kRun) {
+        const double angle = double(run) * step + phase, s = std::sin(angle), c = std::cos(angle);
+        for (std::size_t i = 0; i < kRun; ++i) {
+            const double u = (s * cosOf[i] + c * sinOf[i]) * 127.5 + 127.5;
+            const double rounded = std::nearbyint(u), off = std::abs(u - rounded);
+            const bool sure = off < 0.5 - kNear && u > kNear && u < 255 - kNear;
+            greys[run + i] = sure ? static_cast<std::uint16_t>(static_cast<int>(rounded)) : kInDoubt;
+        }
+    }
+    return greys;
+}
 
 } // namespace
 
@@ -63,10 +83,19 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
 {
     const HueTurn turn{hueOffset(Offset), static_cast<float>(Saturation / 100.0)};
     const bool usual = Offset >= 0 && Offset <= 100 && Saturation > 0 && Saturation <= 100;
-    if (usual)
-        return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
-            hslKernels().turn({from, 0, to, x0, x1}, turn);
+    if (usual) {
+        std::vector<std::int32_t> ends;
+        if (Saturation != 100)
+            ends = pairTable<std::int32_t>([&](int least, int most) {
+                if (least > most) return 0;
+                const auto low = static_cast<std::uint8_t>(least), high = static_cast<std::uint8_t>(most);
+                const Pixel p = HueTurn{0, turn.saturation}({{low, low, high, 0}});
+                return p.c[0] | p.c[2] << 8;
+            });
+        return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
+            hslKernels().turn({from, 0, to, x0, x1}, turn, ends.empty() ? nullptr : ends.data());
         });
+    }
     if (Saturation == 0) { // L alone is left: the half of the greatest and the least channel
         const auto greys = pairTable<std::uint8_t>([&](int most, int least) {
             const auto high = static_cast<std::uint8_t>(std::max(most, least)),
@@ -91,37 +120,22 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
 Bits cBitFilter::RotateL(int Offset, int Steps)
 {
     const float phase = static_cast<float>(Offset / 10.0), frequency = static_cast<float>(Steps / 2.5);
-    const auto wave = [=](double v) {
-        const double u = std::sin(v / 255 * frequency + phase) * 127.5 + 127.5;
-        return u;
-    };
-    const auto grey = [=](double v) {
-        float u = static_cast<float>(wave(v));
+    const auto grey = [=](const Pixel& p) {
+        float u = static_cast<float>(std::sin(greyOf(p) / 255 * frequency + phase) * 127.5 + 127.5);
         if (u > 255)
             u = static_cast<float>(double(u) - 255);
         else if (u < 0)
             u = static_cast<float>(double(u) + 255);
         return toByte(u);
     };
-    // Over all weighted sums; a grey within kDoubt of its halves depends on the last bits of the sum of doubles.
-    constexpr double kDoubt = 1e-4;
-    std::vector<std::uint16_t> greys(255001);
-    const auto fill = [&] {
-        for (std::size_t i = 0; i < greys.size(); ++i) {
-            const double u = wave(double(i) / 1000), off = std::abs(u - std::nearbyint(u));
-            greys[i] = off > 0.5 - kDoubt || u > 255 - kDoubt || u < kDoubt
-                           ? kInDoubt
-                           : static_cast<std::uint16_t>(std::nearbyint(u));
-        }
-    };
-    fill();
+    const std::vector<std::uint16_t> greys = greysOfSums(phase, frequency);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
         inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
             std::int32_t sums[1024];
             colourKernels().weigh(p, n, kGreyWeights, sums);
             for (int i = 0; i < n; ++i) {
                 std::uint16_t v = greys[std::size_t(sums[i])];
-                if (v == kInDoubt) v = grey(greyOf(p[i]));
+                if (v == kInDoubt) v = grey(p[i]);
                 const auto byte = static_cast<std::uint8_t>(v);
                 q[i] = {{byte, byte, byte, p[i].c[3]}};
             }

@@ -46,6 +46,30 @@ void isolate(const SpanOf& s, const Near& near, std::uint32_t fill)
     });
 }
 
+/// Whether the hue and saturation are within reach: lanes that are, and lanes nearer to the border than the singles
+/// here are to the definition.
+template <class M> struct Reach {
+    M within, inDoubt;
+};
+template <class D, class V = hn::Vec<D>> HWY_INLINE auto reachOf(D d32, V pixels, const Blend& blend)
+{
+    constexpr float kNear = 1e-3f;
+    const hn::Rebind<float, D> df;
+    const auto b = channel<0>(d32, pixels), g = channel<1>(d32, pixels), r = channel<2>(d32, pixels);
+    const auto most = hn::Max(hn::Max(r, g), b), least = hn::Min(hn::Min(r, g), b);
+    const auto range = hn::Sub(most, least), sum = hn::Add(most, least);
+    const auto hue = hueOf(d32, r, g, b, most, range);
+    const auto whole = hn::Max(hn::Min(sum, hn::Sub(hn::Set(d32, 510), sum)), hn::Set(d32, 1));
+    const auto saturation = hn::Div(hn::ConvertTo(df, range), hn::ConvertTo(df, whole));
+    const auto beyond = [&](auto v, float wanted, float reach)
+                            HWY_ATTR { return hn::Sub(hn::Abs(hn::Sub(v, hn::Set(df, wanted))), hn::Set(df, reach)); };
+    const auto out =
+        hn::Max(beyond(hue, blend.hue, blend.hueReach), beyond(saturation, blend.saturation, blend.satReach));
+    const auto within = hn::RebindMask(d32, hn::Not(hn::Gt(out, hn::Zero(df))));
+    const auto doubt = hn::RebindMask(d32, hn::Lt(hn::Abs(out), hn::Set(df, kNear)));
+    return Reach<std::remove_const_t<decltype(within)>>{within, doubt};
+}
+
 void blend(const SpanOf& s, const Blend& b)
 {
     // The singles are off by less than a thousandth; what is nearer than that to a half is redone.
@@ -66,6 +90,12 @@ void blend(const SpanOf& s, const Blend& b)
             inside = hn::And(inside, hn::Not(hn::Gt(off, hn::Set(d32, b.lumTolerance))));
         }
         if (hn::AllFalse(d32, inside)) return bytes;
+        auto unsure = hn::MaskFromVec(hn::Zero(d32));
+        if (b.byHue) {
+            const auto reach = reachOf(d32, source, b);
+            unsure = hn::And(inside, reach.inDoubt);
+            inside = hn::And(inside, reach.within);
+        }
         auto aim = hn::BitCast(d32, hn::Set(du, b.to));
         if (!b.fixed)
             aim = hn::BitCast(d32, hn::SaturatedSub(hn::SaturatedAdd(bytes, hn::BitCast(d, hn::Set(du, b.plus))),
@@ -83,24 +113,15 @@ void blend(const SpanOf& s, const Blend& b)
         const auto c2 = drawn(channel<2>(d32, source), channel<2>(d32, aim));
         const auto colour = hn::BitCast(d32, withFourthOf(d, bytes, joined(d, d32, c0, c1, c2)));
         const auto result = hn::BitCast(d, hn::IfThenElse(inside, colour, source));
-        const auto again = hn::And(inside, hn::RebindMask(d32, hn::Gt(doubt, hn::Set(df, kInDoubt))));
+        const auto halves = hn::And(inside, hn::RebindMask(d32, hn::Gt(doubt, hn::Set(df, kInDoubt))));
+        const auto again = hn::Or(halves, unsure);
         return redone(d, result, again, [&](int i) { return b(s.from[x + i]); });
-    });
-}
-
-void change(const SpanOf& s, const Near& near, const std::function<Pixel(const Pixel&)>& change)
-{
-    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
-        const hn::Repartition<std::int32_t, decltype(d)> d32;
-        const auto bytes = loadBytes(d, s.from + x);
-        const auto inside = isNear(d32, distance(d32, hn::BitCast(d32, bytes), near.reference), near);
-        return redone(d, bytes, inside, [&](int i) { return change(s.from[x + i]); });
     });
 }
 
 const DistanceKernels& distanceKernelTable()
 {
-    static constexpr DistanceKernels table = {isolate, blend, change};
+    static constexpr DistanceKernels table = {isolate, blend};
     return table;
 }
 

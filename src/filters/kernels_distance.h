@@ -2,7 +2,6 @@
 // differences.
 #pragma once
 #include "filters/SpanOf.h"
-#include <functional>
 
 namespace velara {
 
@@ -23,8 +22,10 @@ struct Blend {
     bool single;               // k is stored as a single
     int lum, lumTolerance;     // also abs((c0+c1+c2) \ 3 - lum) <= lumTolerance
     static constexpr int kAnyLum = 255;
+    bool byHue = false; // also within these reaches of the wanted hue and saturation; hue is not taken as circular
+    float hue = 0, saturation = 0, hueReach = 0, satReach = 0;
 
-    /// The same for one near pixel, by its definition.
+    /// The same for one pixel that is near and of the right brightness, by its definition.
     Pixel operator()(const Pixel& p) const;
 };
 
@@ -32,8 +33,6 @@ struct DistanceKernels {
     /// What is not near becomes the colour.
     void (*isolate)(const SpanOf&, const Near&, std::uint32_t fill);
     void (*blend)(const SpanOf&, const Blend&);
-    /// What is near becomes change(pixel).
-    void (*change)(const SpanOf&, const Near&, const std::function<Pixel(const Pixel&)>& change);
 };
 const DistanceKernels& distanceKernels();
 

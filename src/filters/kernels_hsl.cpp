@@ -1,4 +1,5 @@
 #include "filters/kernels_hsl.h"
+#include <type_traits>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filters/kernels_hsl.cpp"
@@ -10,46 +11,56 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-/// How much of a channel a hue holds, 0..1, at a distance of `away` around the circle of six.
-template <class D, class V = hn::Vec<D>> HWY_INLINE V shareOfHue(D df, V away)
-{
-    const auto near = hn::Min(away, hn::Sub(hn::Set(df, 6), away));
-    return hn::Min(hn::Max(hn::Sub(hn::Set(df, 2), near), hn::Zero(df)), hn::Set(df, 1));
-}
+/// A channel of the result: the rounded value, and what is known of it. Masks are lanes of all ones.
+template <class V> struct Part {
+    V rounded, isHigh, isLow, inDoubt;
+};
 
-void turn(const SpanOf& s, const HueTurn& hue)
+void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
 {
     // Over the bytes instead of their singles, and without the detour over S: the difference stays below a thousandth,
-    // and what is nearer than two to a half is redone.
-    constexpr float kInDoubt = 0.498f;
+    // and what is nearer than two to a half is looked up or redone. A hue nearer than kSeam to a corner of the circle
+    // counts as neither end.
+    constexpr float kInDoubt = 0.498f, kSeam = 1e-3f;
     forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
         const hn::Repartition<std::int32_t, decltype(d)> d32;
         const hn::Repartition<float, decltype(d)> df;
+        const auto single = [&](float v) HWY_ATTR { return hn::Set(df, v); };
         const auto bytes = loadBytes(d, s.from + x);
         const auto v = hn::BitCast(d32, bytes);
         const auto b = channel<0>(d32, v), g = channel<1>(d32, v), r = channel<2>(d32, v);
         const auto most = hn::Max(hn::Max(r, g), b), least = hn::Min(hn::Min(r, g), b);
         const auto range = hn::Sub(most, least);
-        const auto isRed = hn::Eq(most, r), isGreen = hn::Eq(most, g);
-        const auto lead = hn::IfThenElse(isRed, hn::Sub(g, b), hn::IfThenElse(isGreen, hn::Sub(b, r), hn::Sub(r, g)));
-        const auto base = hn::IfThenZeroElse(isRed, hn::IfThenElse(isGreen, hn::Set(d32, 2), hn::Set(d32, 4)));
-        const auto wide = hn::ConvertTo(df, hn::Max(range, hn::Set(d32, 1)));
-        const auto sum = hn::Add(hn::ConvertTo(df, base), hn::Set(df, hue.offset));
-        const auto turned = hn::Add(hn::Div(hn::ConvertTo(df, lead), wide), sum);
-        const auto h = hn::Sub(turned, hn::IfThenElseZero(hn::Gt(turned, hn::Set(df, 5)), hn::Set(df, 6)));
-        const auto span = hn::Mul(hn::ConvertTo(df, range), hn::Set(df, hue.saturation));
-        const auto low = hn::Mul(hn::Sub(hn::ConvertTo(df, hn::Add(most, least)), span), hn::Set(df, 0.5f));
-        auto doubt = hn::Zero(df);
+        const auto turned = hn::Add(hueOf(d32, r, g, b, most, range), single(hue.offset));
+        const auto h = hn::Sub(turned, hn::IfThenElseZero(hn::Gt(turned, single(5)), single(6)));
+        const auto span = hn::Mul(hn::ConvertTo(df, range), single(hue.saturation));
+        const auto low = hn::Mul(hn::Sub(hn::ConvertTo(df, hn::Add(most, least)), span), single(0.5f));
+        const auto lanes = [&](auto mask) HWY_ATTR { return hn::BitCast(d32, hn::VecFromMask(df, mask)); };
         const auto part = [&](float axis) HWY_ATTR {
-            const auto share = shareOfHue(df, hn::Abs(hn::Sub(h, hn::Set(df, axis))));
-            const auto value = hn::Add(low, hn::Mul(span, share));
+            const auto away = hn::Abs(hn::Sub(h, single(axis)));
+            const auto near = hn::Min(away, hn::Sub(single(6), away)); // the hue circle has six units
+            const auto share = hn::Sub(single(2), near);
+            const auto held = hn::Min(hn::Max(share, hn::Zero(df)), single(1));
+            const auto value = hn::Add(low, hn::Mul(span, held));
             const auto rounded = hn::NearestInt(value);
-            doubt = hn::Max(doubt, hn::Abs(hn::Sub(value, hn::ConvertTo(df, rounded))));
-            return rounded;
+            const auto off = hn::Abs(hn::Sub(value, hn::ConvertTo(df, rounded)));
+            return Part<std::remove_const_t<decltype(rounded)>>{rounded, lanes(hn::Gt(share, single(1 + kSeam))),
+                                                                lanes(hn::Lt(share, single(-kSeam))),
+                                                                lanes(hn::Gt(off, single(kInDoubt)))};
         };
-        const auto red = part(0), green = part(2), blue = part(4);
-        const auto again = hn::RebindMask(d32, hn::Gt(doubt, hn::Set(df, kInDoubt)));
-        return redone(d, withFourthOf(d, bytes, joined(d, d32, blue, green, red)), again,
+        auto red = part(0), green = part(2), blue = part(4);
+        const auto anyDoubt = hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt);
+        if (ends && !hn::AllFalse(d32, hn::MaskFromVec(anyDoubt))) {
+            const auto end = hn::GatherIndex(d32, ends, hn::Or(hn::ShiftLeft<8>(most), least));
+            const auto endHigh = hn::ShiftRight<8>(end), endLow = hn::And(end, hn::Set(d32, 255));
+            for (auto* p : {&red, &green, &blue}) {
+                p->rounded = hn::IfThenElse(hn::MaskFromVec(p->isHigh), endHigh, p->rounded);
+                p->rounded = hn::IfThenElse(hn::MaskFromVec(p->isLow), endLow, p->rounded);
+                p->inDoubt = hn::AndNot(hn::Or(p->isHigh, p->isLow), p->inDoubt);
+            }
+        }
+        const auto again = hn::MaskFromVec(hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt));
+        return redone(d, withFourthOf(d, bytes, joined(d, d32, blue.rounded, green.rounded, red.rounded)), again,
                       [&](int i) { return hue(s.from[x + i]); });
     });
 }
