@@ -1,4 +1,5 @@
 // The vector kernels of every target the processor has give the same bytes.
+#include "filters/mPalette.h"
 #include "support/argumentRanges.h"
 #include "support/pictures.h"
 #include <hwy/targets.h>
@@ -23,6 +24,7 @@ void use(std::int64_t disabled)
 
 TEST(Targets, TheBaselineGivesWhatTheBestGives)
 {
+    PaletteColors() = {{0, 0, 0}, {255, 255, 255}, {200, 30, 40}};
     const Bits bits = randomBits(1111, 37, 8);
     const Region region = Region::ellipse(-1, 0, 1111, 37);
     for (const Operation& op : operations()) {
