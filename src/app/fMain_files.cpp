@@ -189,7 +189,10 @@ void fMain::saveTo(fImage& image, const QString& name, const QString& path, cons
         saved = image.Save(path, extension);
     } catch (const std::exception&) {
     }
-    if (!saved) return platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
+    if (!saved) { // the document stays as it was, unsaved; an icon has had its own message
+        if (extension != "ico") platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
+        return;
+    }
     if (!watched) return; // closed while a notice of the save stood open
     image.document().Changed = false;
     setHasFile(image, true);

@@ -71,7 +71,12 @@ bool fImage::SetPicture(const QString& path, const QString& ext)
 
 bool fImage::Save(const QString& path, const QString& ext)
 {
-    return savePicture(frame_.platform(), document_.Bits(), path, ext) == SaveResult::Written;
+    // Only a gif takes long, since its colours are reduced first. A notice of the others may outlive this window.
+    const bool slow = ext.compare("gif", Qt::CaseInsensitive) == 0;
+    if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const SaveResult result = savePicture(frame_.platform(), document_.Bits(), path, ext);
+    if (slow) QGuiApplication::restoreOverrideCursor();
+    return result == SaveResult::Written;
 }
 
 void fImage::CreateBlank(int width, int height)
