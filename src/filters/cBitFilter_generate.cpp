@@ -1,6 +1,9 @@
 // The generators: light, noise, scan lines, grid and texture.
+#include "filters/kernels_generate.h"
 #include "filters/numbers.h"
 #include "filters/passes_disc.h"
+#include "filters/passes_warp.h"
+#include <utility>
 
 namespace velara {
 
@@ -44,13 +47,22 @@ Bits cBitFilter::Light(float CenterX, float CenterY, float Radius, int Intensity
     const Disc disc(bits_, CenterX, CenterY, Radius);
     const float q = static_cast<float>(1 - Definition / 100.0);
     const double R = disc.radius;
+    const float slope = static_cast<float>(q * static_cast<double>(Intensity) / R);
+    const bool isSafe = std::abs(double(Intensity)) * (1 + std::abs(q)) < 3800 && R < 1 << 20;
     return eachOfDisc(disc, R * R, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const double oy = static_cast<double>(y) - disc.y;
-        for (int x = x0; x < x1; ++x) {
-            const double ox = static_cast<double>(x) - disc.x;
-            const std::int64_t k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * Intensity);
-            for (int c = 0; c < 3; ++c) // darker than black wraps around, and it stays
-                to[x].c[c] = static_cast<std::uint8_t>(std::min<std::int64_t>(from[x].c[c] + k, 255));
+        for (int first = x0; first < x1; first += kPlaces) {
+            const int n = std::min(kPlaces, x1 - first);
+            const std::uint64_t doubtful = isSafe ? lightPixels(static_cast<float>(Intensity), slope, first - disc.x,
+                                                                y - disc.y, from + first, n, to + first)
+                                                  : kAllPlaces;
+            eachPlace(doubtful, n, [&](int i) {
+                const int x = first + i;
+                const double ox = static_cast<double>(x) - disc.x;
+                const std::int64_t k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * Intensity);
+                for (int c = 0; c < 3; ++c) // darker than black wraps around, and it stays
+                    to[x].c[c] = static_cast<std::uint8_t>(std::min<std::int64_t>(from[x].c[c] + k, 255));
+            });
         }
     });
 }
@@ -62,6 +74,9 @@ Bits cBitFilter::NOISE(int Amount, bool Equalized)
     const double span = 2.0 * Amount + 1;
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const auto number = static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(width);
+        if (Amount >= 0 && Amount <= 127)
+            return noisePixels(random, number + static_cast<std::uint32_t>(x0), Amount, Equalized, from + x0, x1 - x0,
+                               to + x0);
         for (int x = x0; x < x1; ++x) {
             const std::uint32_t pixel = number + static_cast<std::uint32_t>(x);
             to[x] = from[x];
@@ -110,16 +125,23 @@ Bits cBitFilter::Texturize(const Bits& Texture)
     const Bits texture = Texture;
     const int columns = texture.maxX(), rows = texture.maxY();
     if (columns < 1 || rows < 1) throw RuntimeError(Fault::OutOfRange);
+    // Rows of factors for all four bytes, the fourth of which stays, repeated to make runs that are worth a vector.
+    constexpr int kShortRun = 512;
+    const int repeats = columns < kShortRun ? kShortRun / columns + 1 : 1;
+    Bits factors = Bits::uninitialized(columns * repeats, rows);
+    for (int y = 0; y < rows; ++y)
+        for (int x = 0; x < columns * repeats; ++x) {
+            const std::uint8_t factor = texture.at(x % columns, y).c[0];
+            factors.at(x, y) = {{factor, factor, factor, 128}};
+        }
     const Box box = GetBounds(0);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
-        const Pixel* factors = texture.row(static_cast<int>((std::int64_t(y) - box.ymin) % rows));
-        for (int x = x0; x < x1; ++x) {
-            const int factor = factors[(std::int64_t(x) - box.xmin) % columns].c[0];
-            to[x] = from[x];
-            for (int c = 0; c < 3; ++c) {
-                const int product = from[x].c[c] * factor;
-                to[x].c[c] = clamp((product + 63 + (product >> 7 & 1)) >> 7); // a 128th, halves to even
-            }
+        const Pixel* row = std::as_const(factors).row(static_cast<int>((std::int64_t(y) - box.ymin) % rows));
+        for (int x = x0; x < x1;) {
+            const int at = static_cast<int>((std::int64_t(x) - box.xmin) % factors.width());
+            const int n = std::min(x1 - x, factors.width() - at);
+            multiplyPixels(from + x, row + at, n, to + x);
+            x += n;
         }
     });
 }

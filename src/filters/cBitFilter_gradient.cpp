@@ -1,6 +1,7 @@
 // Gradients between two points, along a line or around the first one.
+#include "filters/kernels_generate.h"
 #include "filters/numbers.h"
-#include "filters/passes.h"
+#include "filters/passes_warp.h"
 
 namespace velara {
 
@@ -11,31 +12,31 @@ constexpr Colour kOwnColour = -1; // an end of the ramp that takes each pixel's 
 /// What both gradients have in common: the distance between the points, the bands and the blend.
 struct Ramp {
     std::int32_t R;
-    float frequency, opacity, rest;
-    Colour colour1, colour2;
+    float frequency;
+    RampColours colours;
 
     Ramp(double distance, Colour color1, Colour color2, int Opacity, int Repeat)
-        : R(roundEven(distance)), frequency(static_cast<float>((Repeat - 1.0) * kPi)),
-          opacity(static_cast<float>(Opacity / 100.0)), rest(static_cast<float>(1.0 - opacity)), colour1(color1),
-          colour2(color2)
+        : R(roundEven(distance)), frequency(static_cast<float>((Repeat - 1.0) * kPi))
     {
+        const float opacity = static_cast<float>(Opacity / 100.0), rest = static_cast<float>(1.0 - opacity);
+        colours = {{}, {}, color1 == kOwnColour, color2 == kOwnColour, opacity, rest};
+        for (int c = 0; c < 3; ++c) {
+            colours.first[c] = part(color1, c);
+            colours.second[c] = part(color2, c);
+        }
         if (R < frequency) frequency = static_cast<float>(R);
     }
 
-    Pixel at(float t, Pixel from) const
+    /// Blends n <= kPlaces pixels at their places t on the ramp, which it changes.
+    void blend(float* t, const Pixel* from, int n, Pixel* to) const
     {
-        if (frequency > 0) {
-            const double s = std::sin(static_cast<double>(frequency) * t);
-            t = static_cast<float>(s * s);
-        }
-        t = t > 1 ? 1 : t < 0 ? 0 : t;
-        const float u = static_cast<float>(1.0 - t);
-        for (int c = 0; c < 3; ++c) {
-            const double a = colour1 == kOwnColour ? from.c[c] : part(colour1, c);
-            const double b = colour2 == kOwnColour ? from.c[c] : part(colour2, c);
-            from.c[c] = toByte(from.c[c] * static_cast<double>(rest) + (a * u + b * t) * opacity);
-        }
-        return from;
+        if (frequency > 0)
+            eachPlace(squareSines(frequency, n, t), n, [&](int i) {
+                const double sine = std::sin(static_cast<double>(frequency) * t[i]);
+                t[i] = static_cast<float>(sine * sine);
+            });
+        for (int i = 0; i < n; ++i) t[i] = t[i] > 1 ? 1 : t[i] < 0 ? 0 : t[i];
+        if (!rampPixels(colours, from, t, n, to)) throw RuntimeError(Fault::Overflow);
     }
     static int part(Colour colour, int channel) { return colour >> (16 - 8 * channel) & 255; }
 };
@@ -67,11 +68,11 @@ Bits cBitFilter::GradientLinear(int X1, int Y1, int X2, int Y2, Colour Color1, C
     const double a = direction(static_cast<double>(X2) - X1, static_cast<double>(Y2) - Y1);
     const float cr = static_cast<float>(std::cos(a) / ramp.R), sr = static_cast<float>(std::sin(a) / ramp.R);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
-        const double ry = static_cast<double>(y) - Y1;
-        for (int x = x0; x < x1; ++x) {
-            const double rx = static_cast<double>(x) - X1;
-            to[x] = ramp.at(static_cast<float>(ry * sr + rx * cr), from[x]);
-        }
+        eachRun(x0, x1, [&](int x, int n) {
+            float t[kPlaces];
+            linearRamp(static_cast<double>(x) - X1, static_cast<double>(y) - Y1, sr, cr, n, t);
+            ramp.blend(t, from + x, n, to + x);
+        });
     });
 }
 
@@ -81,11 +82,11 @@ Bits cBitFilter::GradientCircular(int X1, int Y1, int X2, int Y2, Colour Color1,
     if (length == 0) return bits_;
     const Ramp ramp(length, Color1, Color2, Opacity, Repeat);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
-        const double ry = static_cast<double>(y) - Y1;
-        for (int x = x0; x < x1; ++x) {
-            const double rx = static_cast<double>(x) - X1;
-            to[x] = ramp.at(static_cast<float>(std::sqrt(rx * rx + ry * ry) / ramp.R), from[x]);
-        }
+        eachRun(x0, x1, [&](int x, int n) {
+            float t[kPlaces];
+            circularRamp(static_cast<double>(x) - X1, static_cast<double>(y) - Y1, ramp.R, n, t);
+            ramp.blend(t, from + x, n, to + x);
+        });
     });
 }
 

@@ -1,27 +1,16 @@
 // A picture laid over the picture, tiled or once.
-#include "filters/numbers.h"
+#include "filters/kernels_generate.h"
 #include "filters/passes.h"
 
 namespace velara {
 
 namespace {
 
-/// Blends the columns x0..x1-1 of an overlay row, its column 0 at column left, over a row of the picture.
-struct OverlayBlend {
-    float a, b; // parts of the picture and of the overlay
-    bool keyed;
-    std::uint8_t key[3];
-
-    void operator()(const Pixel* from, const Pixel* over, std::int64_t left, int x0, int x1, Pixel* to) const
-    {
-        for (int x = x0; x < x1; ++x) {
-            const Pixel& o = over[x - left];
-            if (keyed && std::memcmp(o.c, key, 3) == 0) continue;
-            for (int c = 0; c < 3; ++c)
-                to[x].c[c] = toByte(static_cast<double>(from[x].c[c]) * a + static_cast<double>(o.c[c]) * b);
-        }
-    }
-};
+/// The colour as the low bytes of a pixel's word, or -1.
+std::int32_t keyWord(Colour colour)
+{
+    return colour == -1 ? -1 : redOf(colour) << 16 | greenOf(colour) << 8 | blueOf(colour);
+}
 
 } // namespace
 
@@ -31,11 +20,7 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
     const Region region = region_;
     if (overlay.isNull()) throw RuntimeError(Fault::OutOfRange);
     const float a = static_cast<float>(Transparency / 100.0), b = static_cast<float>(1.0 - a);
-    const OverlayBlend blend{a,
-                             b,
-                             KeyColor != -1,
-                             {static_cast<std::uint8_t>(blueOf(KeyColor)), static_cast<std::uint8_t>(greenOf(KeyColor)),
-                              static_cast<std::uint8_t>(redOf(KeyColor))}};
+    const std::int32_t key = keyWord(KeyColor);
     // Without Tiled the step leads past the picture, which makes one pass.
     const std::int64_t stepX = Tiled ? overlay.width() : std::int64_t(in.maxX()) - Left + 1;
     const std::int64_t stepY = Tiled ? overlay.height() : std::int64_t(in.maxY()) - Top + 1;
@@ -50,10 +35,11 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
             Pixel* to = out.row(y);
             for (const Span s : region.spans(y))
                 for (std::int64_t X = Tiled ? firstFrom(Left, stepX) : Left; X <= in.maxX(); X += stepX) {
-                    const auto x0 = std::max<std::int64_t>({X, s.x0, 0});
-                    const auto x1 = std::min<std::int64_t>({X + overlay.width(), s.x1, in.width()});
-                    blend(in.row(y), overlay.row(static_cast<int>(y - Y)), X, static_cast<int>(x0),
-                          static_cast<int>(x1), to);
+                    const int x0 = static_cast<int>(std::max<std::int64_t>({X, s.x0, 0}));
+                    const int x1 = static_cast<int>(std::min<std::int64_t>({X + overlay.width(), s.x1, in.width()}));
+                    const Pixel* over = overlay.row(static_cast<int>(y - Y));
+                    if (x0 < x1 && !overlayPixels(in.row(y) + x0, over + (x0 - X), a, b, key, x1 - x0, to + x0))
+                        throw RuntimeError(Fault::Overflow);
                 }
         }
         progressDue(Y - Top, std::int64_t(in.maxY()) - Top);

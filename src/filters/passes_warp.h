@@ -8,7 +8,12 @@
 namespace velara {
 
 /// The three channels of colour with the fourth byte of kept.
-inline Pixel withColour(Pixel colour, Pixel kept) { return {{colour.c[0], colour.c[1], colour.c[2], kept.c[3]}}; }
+inline Pixel withColour(Pixel colour, Pixel kept)
+{
+    constexpr std::uint32_t kColour = 0xFFFFFF; // as one word, which the compiler turns into vectors
+    const auto word = std::bit_cast<std::uint32_t>(colour) & kColour;
+    return std::bit_cast<Pixel>(word | (std::bit_cast<std::uint32_t>(kept) & ~kColour));
+}
 
 constexpr std::uint64_t kAllPlaces = ~std::uint64_t(0);
 
@@ -17,6 +22,12 @@ template <class Place> void eachPlace(std::uint64_t places, int n, Place&& place
 {
     for (; places != 0; places &= places - 1)
         if (const int i = std::countr_zero(places); i < n) place(i);
+}
+
+/// Cuts x0..x1-1 into runs: run(first, n) with n <= kPlaces.
+template <class Run> void eachRun(int x0, int x1, Run&& run)
+{
+    for (int x = x0; x < x1; x += kPlaces) run(x, std::min(kPlaces, x1 - x));
 }
 
 /// The targets of the box inside the picture, in tiles. tile(out, x0, x1, y0, y1) writes all four bytes of each pixel
