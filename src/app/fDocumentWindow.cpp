@@ -1,6 +1,7 @@
 #include "app/fDocumentWindow.h"
 #include "app/fMain.h"
 #include <QCloseEvent>
+#include <QMenu>
 
 namespace velara {
 
@@ -8,6 +9,9 @@ fDocumentWindow::fDocumentWindow(fMain& frame, fImage* image) : frame_(frame), i
 {
     setWidget(image);
     setWindowIcon(QIcon::fromTheme("viewimage"));
+    // Its own shortcut would make the menu's Ctrl+W ambiguous, so that neither worked.
+    for (QAction* item : systemMenu()->actions())
+        if (!item->shortcut().isEmpty()) item->setShortcut(QKeySequence("Ctrl+F4"));
     setAttribute(Qt::WA_DeleteOnClose, false);
     image->setAttribute(Qt::WA_DeleteOnClose, false);
 }

@@ -11,7 +11,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), platform_(platform)
 {
     setObjectName("fSplash");
-    setWindowTitle("Velara Studio");
+    setWindowTitle("About Velara Studio");
     setAccessibleName("Velara Studio");
     QImage picture = splashPicture();
     const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays

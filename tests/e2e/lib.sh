@@ -1,0 +1,109 @@
+# The end-to-end tests' person: a virtual screen with a window manager, a scratch copy of the programs, keys and eyes.
+# Sourced with the folder of the built programs as $1. Everything started here ends with the script.
+set -eu
+bin=$1
+scratch=$(mktemp -d)
+folder=$scratch/studio # the program folder
+mkdir -p "$folder" "$scratch/home" "$scratch/run"
+chmod 700 "$scratch/run"
+cp "$bin/velara-studio" "$bin/velara-decode" "$folder/"
+export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
+export ASAN_OPTIONS=detect_leaks=0
+unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR || true
+pids=""
+editor=""
+
+finish() {
+    status=$?
+    trap - EXIT
+    if [ "$status" != 0 ] && [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/$(basename "$0").png" || true; fi
+    for pid in $pids; do kill "$pid" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+    rm -rf "$scratch"
+    exit "$status"
+}
+trap finish EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    cat "$scratch/log" >&2 2>/dev/null || true
+    exit 1
+}
+
+# until WHAT COMMAND...: waits up to ten seconds for the command to succeed
+until_true() {
+    what=$1
+    shift
+    for _ in $(seq 200); do
+        if "$@" >/dev/null 2>&1; then return 0; fi
+        sleep 0.05
+    done
+    fail "waited in vain: $what"
+}
+
+Xvfb -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
+pids="$pids $!"
+until_true "a display" test -s "$scratch/display"
+DISPLAY=:$(cat "$scratch/display")
+export DISPLAY
+openbox >/dev/null 2>&1 &
+pids="$pids $!"
+until_true "a window manager" sh -c "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'"
+
+running() { kill -0 "$editor" 2>/dev/null; }
+gone() { ! running; }
+has_window() { xdotool search --onlyvisible --name "$1"; }
+no_window() { ! has_window "$1"; }
+
+# The editor's windows that are titled like the frame: the frame and its boxes
+titled() { xdotool search --all --onlyvisible --pid "$editor" --name '^Velara Studio' 2>/dev/null; }
+count_titled() { [ "$(titled | wc -l)" = "$1" ]; }
+# The frame's window, while no box stands
+frame() { titled | head -1; }
+
+start() {
+    (cd "$folder" && exec ./velara-studio) >"$scratch/log" 2>&1 &
+    editor=$!
+    pids="$pids $editor"
+    until_true "the frame" count_titled 1
+    sleep 0.4
+}
+
+keys() {
+    for key in "$@"; do
+        xdotool key --clearmodifiers "$key"
+        sleep 0.12
+    done
+}
+
+# open FILE: by the file dialog
+open_file() {
+    keys ctrl+o
+    until_true "the open dialog" has_window '^Open file$'
+    sleep 0.2
+    xdotool type --delay 4 "$1"
+    keys Return
+    until_true "the open dialog to close" no_window '^Open file$'
+    sleep 0.3
+}
+
+save_as() {
+    keys ctrl+shift+s
+    until_true "the save dialog" has_window '^Save as$'
+    sleep 0.2
+    xdotool key ctrl+a
+    xdotool type --delay 4 "$1"
+    keys Return
+    until_true "the saved file" test -s "$1"
+    until_true "the save dialog to close" no_window '^Save as$'
+    sleep 0.2
+}
+
+quit() {
+    keys ctrl+q
+    until_true "the editor to end" gone
+    wait "$editor" || fail "the editor ended with $?"
+}
+
+# same FILE FILE: the same pixels
+same() { [ "$(compare -metric AE "$1" "$2" null: 2>&1)" = 0 ]; }

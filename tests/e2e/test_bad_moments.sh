@@ -1,0 +1,44 @@
+#!/bin/sh
+# Bad moments: broken files, the Temp folder swept away, a frame closed while a filter runs, a configuration of nonsense.
+. "$(dirname "$0")/lib.sh"
+
+# A configuration of zeros, then of noise: the frame is there, of a size to work with.
+for source in /dev/zero /dev/urandom; do
+    head -c 3081 $source >"$folder/Vlaera.dat"
+    start
+    width=$(xdotool getwindowgeometry --shell "$(frame)" | sed -n 's/WIDTH=//p')
+    [ "$width" -ge 320 ] || fail "a frame of $width pixels from $source"
+    quit
+done
+rm "$folder/Vlaera.dat"
+
+# A file that is no picture
+start
+echo "no picture" >"$scratch/bad.gif"
+open_file "$scratch/bad.gif"
+until_true "the message about the file" count_titled 2
+keys Return
+until_true "the message to go" count_titled 1
+
+# Temp swept away: the filter still works, and undo has what came after
+convert -size 60x40 plasma:red-blue -type truecolor "$scratch/in.bmp"
+convert "$scratch/in.bmp" -negate "$scratch/negative.bmp"
+open_file "$scratch/in.bmp"
+rm -r "$folder/Temp"
+keys alt+l i
+until_true "the folder to come back" test -d "$folder/Temp"
+save_as "$scratch/out.bmp"
+same "$scratch/out.bmp" "$scratch/negative.bmp" || fail "the filter without its Temp folder"
+keys alt+l i ctrl+z
+save_as "$scratch/undone.bmp"
+same "$scratch/undone.bmp" "$scratch/negative.bmp" || fail "undo after the folder came back"
+
+# The frame closed while a filter is at work
+convert -size 4000x3000 gradient:red-blue "$scratch/large.bmp"
+open_file "$scratch/large.bmp"
+until_true "the large picture" sh -c "[ \$(find '$folder/Temp' -name 'b*.dat' -size +40000k | wc -l) = 1 ]"
+# had it ended before, the changed picture would be asked about
+for key in alt+l p alt+F4; do xdotool key $key; done
+until_true "the editor to end" gone
+wait "$editor" || fail "the editor ended with $?"
+[ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = 0 ] || fail "undo files are left behind"

@@ -1,0 +1,29 @@
+#!/bin/sh
+# A first start in an empty folder, and the road of one picture: open, filter, undo, redo, save.
+. "$(dirname "$0")/lib.sh"
+start
+for made in Stamps/Velara1.bmp Stamps/Velara8.bmp Images/Velara.bmp Vlaera.dat; do
+    [ -e "$folder/$made" ] || fail "$made was not made"
+done
+[ -d "$folder/Temp" ] || fail "no Temp folder"
+[ -s "${folder}logo.bmp" ] || fail "no logo beside the folder"
+[ ! -s "$folder/Vlaera.dat" ] || fail "the configuration is filled before the end"
+
+convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
+convert "$scratch/in.png" -negate "$scratch/negative.png"
+open_file "$scratch/in.png"
+undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
+until_true "the first snapshot" undo_files 1
+keys alt+l i
+until_true "the snapshot of the filter" undo_files 2
+save_as "$scratch/filtered.png"
+same "$scratch/filtered.png" "$scratch/negative.png" || fail "the filter's picture is wrong"
+keys ctrl+z
+save_as "$scratch/undone.bmp"
+same "$scratch/undone.bmp" "$scratch/in.png" || fail "undo did not bring the picture back"
+keys ctrl+y
+save_as "$scratch/redone.bmp"
+same "$scratch/redone.bmp" "$scratch/negative.png" || fail "redo did not bring the filter back"
+quit
+undo_files 0 || fail "undo files are left behind"
+[ "$(stat -c %s "$folder/Vlaera.dat")" = 3081 ] || fail "the configuration has a wrong length"
