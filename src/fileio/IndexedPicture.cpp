@@ -84,7 +84,7 @@ IndexedPicture quantised(const Bits& bits, int colours)
 IndexedPicture reduceToBestColours(const Bits& bits, int colours)
 {
     if (std::optional<IndexedPicture> exact = exactly(bits, colours)) return *std::move(exact);
-    return quantised(bits, std::max(colours, 2)); // the quantiser's least
+    return quantised(bits, colours);
 }
 
 } // namespace velara

@@ -12,7 +12,7 @@ struct IndexedPicture {
     std::vector<Colour> palette;       // 1 to 256 colours
 };
 
-/// The picture in at most so many colours (1 to 256), each pixel the nearest of them, without dithering. A picture of
+/// The picture in at most so many colours (2 to 256), each pixel the nearest of them, without dithering. A picture of
 /// no more colours keeps them exactly, in the order of their first use; otherwise the palette is the one that suits it
 /// best. std::bad_alloc when memory is short.
 IndexedPicture reduceToBestColours(const Bits& bits, int colours);

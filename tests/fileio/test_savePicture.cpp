@@ -221,6 +221,7 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
     EXPECT_TRUE(load(path("later.png")).ok());
     EXPECT_TRUE(QFileInfo(path("dangling.png")).isSymLink());
     EXPECT_TRUE(platform.log.empty());
+    EXPECT_EQ(files(), (QStringList{"dangling.png", "later.png", "link.png", "target.png"}));
 
     const QString locked = write("locked.png", "old");
     chmod(QFile::encodeName(locked).constData(), 0444);
@@ -228,7 +229,9 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
     EXPECT_EQ(contentsOf(locked), "old");
     EXPECT_EQ(savePicture(platform, bits, folder.path(), "png"), SaveResult::Failed); // a folder
     EXPECT_EQ(savePicture(platform, bits, path("none/a.png"), "png"), SaveResult::Failed);
-    EXPECT_EQ(platform.log, (std::vector<std::string>{kFailure, kFailure, kFailure}));
+    mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600); // with no one who reads
+    EXPECT_EQ(savePicture(platform, bits, path("pipe.png"), "png"), SaveResult::Failed);
+    EXPECT_EQ(platform.log, (std::vector<std::string>(4, kFailure)));
 }
 
 TEST(ModFreeImage, KeepsTheFirstErrorOfAnOperation)

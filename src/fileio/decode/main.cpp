@@ -49,6 +49,7 @@ bool tellRows(const Decoded& picture, std::uint8_t* memory)
 int main(int argc, char** argv)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
+    std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; a font cache that can't be written is no reason to end
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
     if (argc != 3 || memory == MAP_FAILED) {
         std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");

@@ -1,0 +1,71 @@
+#include "fileio/GifWriter.h"
+#include "platform/PictureLoader.h"
+#include "support/pictures.h"
+#include <QTemporaryDir>
+#include <array>
+#include <set>
+
+namespace velara {
+
+namespace {
+
+Bits drawn(const IndexedPicture& picture)
+{
+    Bits bits(picture.width, picture.height);
+    for (int i = 0; i < picture.width * picture.height; ++i) {
+        const Colour c = picture.palette[picture.indices[static_cast<std::size_t>(i)]];
+        bits.at(i % picture.width,
+                i / picture.width) = {{std::uint8_t(blueOf(c)), std::uint8_t(greenOf(c)), std::uint8_t(redOf(c)), 0}};
+    }
+    return bits;
+}
+
+IndexedPicture picture(int width, int height, int colours)
+{
+    IndexedPicture result{width, height, {}, {}};
+    for (int i = 0; i < colours; ++i) result.palette.push_back(colourOf(i, 255 - i, i * 7 % 256));
+    for (int i = 0; i < width * height; ++i) result.indices.push_back(static_cast<std::uint8_t>(i * 31 / 7 % colours));
+    return result;
+}
+
+} // namespace
+
+TEST(GifWriter, WritesEveryPaletteSizePlainAndInterlaced)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("a.gif");
+    for (const int colours : {1, 2, 3, 16, 17, 255, 256})
+        for (const auto [width, height] : {std::array{1, 1}, {3, 2}, {13, 9}, {40, 33}})
+            for (const bool interlaced : {false, true}) {
+                const IndexedPicture wanted = picture(width, height, colours);
+                ASSERT_TRUE(writeGif(wanted, name, interlaced));
+                const LoadedPicture got = loadThroughDecoder(name, "gif", VELARA_BIN "/velara-decode");
+                ASSERT_TRUE(got.ok()) << got.reason.toStdString();
+                EXPECT_TRUE(sameBits(drawn(wanted), got.bits)) << colours << ' ' << width << ' ' << interlaced;
+            }
+    EXPECT_FALSE(writeGif({}, name));
+    EXPECT_FALSE(writeGif(picture(2, 2, 2), folder.filePath("none/a.gif")));
+    IndexedPicture wide{70000, 1, std::vector<std::uint8_t>(70000), {0}};
+    EXPECT_FALSE(writeGif(wide, name));
+}
+
+TEST(IndexedPicture, KeepsFewColoursAndLimitsMany)
+{
+    Bits few(3, 1); // the fourth byte is no colour
+    few.at(0, 0) = {{3, 2, 1, 9}};
+    few.at(1, 0) = {{6, 5, 4, 8}};
+    few.at(2, 0) = {{3, 2, 1, 7}};
+    const IndexedPicture kept = reduceToBestColours(few, 2);
+    EXPECT_EQ(kept.palette, (std::vector<Colour>{0x030201, 0x060504}));
+    EXPECT_EQ(kept.indices, (std::vector<std::uint8_t>{0, 1, 0}));
+
+    for (const int colours : {2, 16, 256}) {
+        const IndexedPicture reduced = reduceToBestColours(randomBits(60, 40, 3), colours);
+        EXPECT_LE(static_cast<int>(reduced.palette.size()), colours);
+        for (const std::uint8_t index : reduced.indices) ASSERT_LT(index, reduced.palette.size());
+        const std::set<std::uint8_t> used(reduced.indices.begin(), reduced.indices.end());
+        EXPECT_GT(static_cast<int>(used.size()), colours / 2);
+    }
+}
+
+} // namespace velara
