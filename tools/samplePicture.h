@@ -1,0 +1,12 @@
+// The picture that the gallery, the golden results and the first look at the program use: made by whole-number
+// arithmetic, so that it is the same on every machine.
+#pragma once
+#include "filters/Bits.h"
+
+namespace velara {
+
+/// A landscape of 480 by 320 pixels with sky, sun, hills, a house, a lake, fine texture, colour swatches and a grey
+/// wedge.
+Bits samplePicture();
+
+} // namespace velara
