@@ -22,6 +22,21 @@ void finish(Document& document, cBitFilter& filter, const Bits& result)
     document.handTo(filter);
 }
 
+/// The picture laid on a black one of width by height, the whole of which is the working region.
+cBitFilter onCanvas(const cBitFilter& filter, const Bits& picture, int width, int height, int left, int top)
+{
+    cBitFilter work = workshop(filter, Bits(width, height));
+    work.setBitsRegion(Region::rectangle(0, 0, width, height));
+    work.setBits(work.TileMask(picture, left, top, false, 0, -1));
+    return work;
+}
+
+/// The same in the middle of a square.
+cBitFilter onSquare(const cBitFilter& filter, const Bits& picture, int side)
+{
+    return onCanvas(filter, picture, side, side, (side - picture.width()) / 2, (side - picture.height()) / 2);
+}
+
 std::int32_t times(int size, int factor)
 {
     std::int32_t product = 0;
@@ -61,12 +76,40 @@ void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quali
 
     // The picture in the middle of a square that it can turn in, then the target cut out about the square's centre.
     // Halves are truncated toward zero, so a target one wider than the square loses that column.
-    cBitFilter work = workshop(filter, Bits(side, side));
-    work.setBitsRegion(Region::rectangle(0, 0, side, side));
-    work.setBits(work.TileMask(source, (side - source.width()) / 2, (side - source.height()) / 2, false, 0, -1));
+    cBitFilter work = onSquare(filter, source, side);
     work.setBits(quality ? work.RotateSmooth(degrees) : work.ROTATE(degrees, false));
     const int left = (side - width) / 2, top = (side - height) / 2;
     work.BitsCrop(work.bits(), left, top, left + width, top + height);
+    finish(document, filter, work.bits());
+}
+
+void resizeImage(Document& document, cBitFilter& filter, int width, int height, bool smooth)
+{
+    const Bits source = document.Bits();
+    cBitFilter work = workshop(filter, source);
+    smooth ? work.BitsResample(source, width, height) : work.BitsResize(source, width, height);
+    finish(document, filter, work.bits());
+}
+
+void resizeCanvas(Document& document, cBitFilter& filter, int width, int height, int left, int top)
+{
+    finish(document, filter, onCanvas(filter, document.Bits(), width, height, left, top).bits());
+}
+
+void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool flipVertical, bool flipHorizontal)
+{
+    cBitFilter work = workshop(filter, document.Bits());
+    for (int i = 0; i < quarterTurns; ++i) work.BitsRotate90(work.bits());
+    if (flipVertical || flipHorizontal) work.setBits(work.Flip(flipHorizontal, flipVertical));
+    finish(document, filter, work.bits());
+}
+
+void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smooth)
+{
+    const Bits source = document.Bits();
+    const double w = source.width(), h = source.height();
+    cBitFilter work = onSquare(filter, source, roundEven(std::sqrt(w * w + h * h)));
+    work.setBits(smooth ? work.RotateSmooth(degrees) : work.ROTATE(degrees, false));
     finish(document, filter, work.bits());
 }
 

@@ -14,6 +14,19 @@ bool zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge,
 /// Turns by degrees into a picture large enough to hold all of it. The undo snapshot is the caller's.
 void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quality);
 
+/// Sizes the picture to width by height, by BitsResample when smooth, else BitsResize.
+void resizeImage(Document& document, cBitFilter& filter, int width, int height, bool smooth);
+
+/// A black picture of width by height with the old one on it, its upper left pixel at (left, top), cut where it sticks
+/// out.
+void resizeCanvas(Document& document, cBitFilter& filter, int width, int height, int left, int top);
+
+/// quarterTurns times BitsRotate90 (0 to 3), then Flip.
+void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool flipVertical, bool flipHorizontal);
+
+/// Turns by degrees in the middle of a square as wide as the picture's diagonal; unlike rotateImage the square stays.
+void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smooth);
+
 enum class CropAnswer { Done, NothingSelected, TooSmall };
 /// Cuts the picture to the box of the selection, at least 2 by 2. The undo snapshot is the caller's.
 CropAnswer cropImage(Document& document, cBitFilter& filter);
