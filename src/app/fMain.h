@@ -2,7 +2,8 @@
 // side pane; a document's window belongs to the area of the documents and is buried here when it closes.
 //
 // Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
-// recent, drop), _pixels (what runs on the engine), _bars (menus, bars, boxes, side pane), _close (shutdown).
+// recent, drop), _pixels (what runs on the engine), _geometry (dialogs that
+// reshape a picture), _bars (menus, bars, boxes, side pane), _close (shutdown).
 #pragma once
 #include "app/Frame.h"
 #include "app/Setup.h"
@@ -81,6 +82,14 @@ class fMain final : public QMainWindow, public Frame {
     void closeActive();
     void ZoomImage(int factor, bool enlarge, bool quality);
     void RotateImage(int degrees, bool quality);
+    /// Runs what gives the active document another shape; then repaint, size panel and undo step.
+    void reshape(const std::function<void(Document&, cBitFilter&)>& job);
+    void newPicture();
+    void imageSize();
+    void canvasSize();
+    void imageOrientation();
+    void imageRotate();
+    void imageResolution();
     void setZoom(int factor);
     /// One operation of the engine with its arguments, as a command: after a yield if asked for.
     void runPreset(std::string_view word);
@@ -141,6 +150,7 @@ class fMain final : public QMainWindow, public Frame {
   private:
     class EngineRun;
 
+    template <class Dialog> void askAndReshape();
     void buildMenus();
     void buildToolbars();
     void fillToolbar(QToolBar* bar, std::string_view buttons);

@@ -17,7 +17,7 @@ using enum Stage;
 // clang-format off
 constexpr Command kCommands[] = {
     // No document needed
-    {"NEW",                  Free,       kLater},
+    {"NEW",                  Free,       [](fMain& f) { f.newPicture(); }},
     {"OPEN",                 Free,       [](fMain& f) { f.open(); }},
     {"FILEASSOCIATION",      Free,       kLater},
     {"PRINTERSETUP",         Free,       kLater},
@@ -34,10 +34,10 @@ constexpr Command kCommands[] = {
     {"CREATENEWCOPY",        NeedsImage, [](fMain& f) { f.copyToNew(); }},
     {"COPYIMAGETOCLIPBOARD", NeedsImage, [](fMain& f) { f.GetActiveImage()->BitsCopyToClipboard(); }},
     {"CREATEFROMCLIPBOARD",  MaybeImage, [](fMain& f) { f.fromClipboard(); }},
-    {"IMAGESIZE",            NeedsImage, kLater},
-    {"CANVASSIZE",           NeedsImage, kLater},
-    {"IMAGEORIENTATION",     NeedsImage, kLater},
-    {"IMAGEROTATE",          NeedsImage, kLater},
+    {"IMAGESIZE",            NeedsImage, [](fMain& f) { f.imageSize(); }},
+    {"CANVASSIZE",           NeedsImage, [](fMain& f) { f.canvasSize(); }},
+    {"IMAGEORIENTATION",     NeedsImage, [](fMain& f) { f.imageOrientation(); }},
+    {"IMAGEROTATE",          NeedsImage, [](fMain& f) { f.imageRotate(); }},
 
     // Only with a document
     {"CLOSE",                NeedsImage, [](fMain& f) { f.closeActive(); }},
@@ -81,7 +81,7 @@ constexpr Command kCommands[] = {
     {"IMAGEMERGING",         NeedsImage, kLater},
     {"PASTELAYERSBOX",       NeedsImage, kLater},
     {"IMAGETEXTURES",        NeedsImage, kLater},
-    {"IMAGERESOLUTION",      NeedsImage, kLater},
+    {"IMAGERESOLUTION",      NeedsImage, [](fMain& f) { f.imageResolution(); }},
     {"IMAGESAVEOPTIONS",     NeedsImage, kLater},
     {"IMAGECOLORDEPTH",      NeedsImage, kLater},
     {"TEXTTOOLS",            NeedsImage, kLater},

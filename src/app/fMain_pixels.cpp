@@ -125,14 +125,20 @@ void fMain::ZoomImage(int factor, bool enlarge, bool quality)
     refreshUndoState();
 }
 
-void fMain::RotateImage(int degrees, bool quality)
+void fMain::reshape(const std::function<void(Document&, cBitFilter&)>& job)
 {
     platform_.yield();
     fImage* image = GetActiveImage();
-    if (!image) return;
-    rotateImage(image->document(), cFilter_, degrees, quality);
+    if (!image || !image->PictureExists()) return;
+    job(image->document(), cFilter_);
     image->pictureChanged();
+    setStatus(Panel::Size, sizeText(*image));
     Update(true, true);
+}
+
+void fMain::RotateImage(int degrees, bool quality)
+{
+    reshape([=](Document& document, cBitFilter& filter) { rotateImage(document, filter, degrees, quality); });
 }
 
 void fMain::crop()
