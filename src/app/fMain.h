@@ -23,6 +23,7 @@ class QToolBar;
 namespace velara {
 
 class fDocumentWindow;
+struct FilterRow;
 class fStatus;
 class fToolPane;
 
@@ -93,6 +94,8 @@ class fMain final : public QMainWindow, public Frame {
     void setZoom(int factor);
     /// One operation of the engine with its arguments, as a command: after a yield if asked for.
     void runPreset(std::string_view word);
+    /// The dialog of a filter, on the active document.
+    void showFilter(const FilterRow& row);
     /// Work on the engine for the active document. Its picture then goes to the document, unless anything failed, the
     /// document was closed meanwhile or got another size; then all is as it was.
     void runOnEngine(const QString& what, const std::function<void(cBitFilter&)>& work);

@@ -1,6 +1,7 @@
 // The command language: which word needs what and does what.
 #include "app/fIcons.h"
 #include "app/fMain.h"
+#include "filters/filterDialogs.h"
 #include "filters/operations.h"
 #include "platform/Platform.h"
 #include <algorithm>
@@ -113,26 +114,6 @@ constexpr Command kCommands[] = {
     {"RESTOREORIGINAL", NeedsImage, nothing}, {"N360", NeedsImage, nothing}, {"A360", NeedsImage, nothing},
 };
 
-// The words that open the filter dialog, with the number of the filter
-struct FilterWord {
-    int number;
-    std::string_view word;
-};
-constexpr FilterWord kFilterWords[] = {
-    { 0, "COLORIZE"},      { 1, "LIGHTCUSTOM"},    { 1, "BRIGHTNESS"},       { 2, "CONTRAST"},
-    { 3, "CUSTOMSATURATION"}, { 4, "GAMMA"},       { 5, "CUSTOMDIFFUSE"},    { 6, "CUSTOMBLUR"},
-    { 7, "HAFTONE"},       { 8, "PIXELIZE"},       { 9, "CUSTOMEMBOSS"},     {10, "CUSTOMENGRAVE"},
-    {11, "CUSTOMCONTOUR"}, {12, "SKETCH"},         {14, "ISOLATE"},          {16, "REPLACE"},
-    {17, "REPLACEHUESAT"}, {18, "REPLACELUMINOUS"}, {19, "CUSTOMSHARPEN"},   {20, "CUSTOMSOFTEN"},
-    {21, "SHIFT"},         {22, "HUEROTATION"},    {23, "GREYROTATION"},     {24, "HUESTRETCH"},
-    {25, "RGBLEVELS"},     {26, "RGBBANKS"},       {27, "LENS"},             {28, "WAVES"},
-    {29, "BEND"},          {30, "FOLD"},           {31, "ROTATE"},           {32, "STRETCH"},
-    {33, "TILE"},          {34, "TWIRL"},          {35, "ADDGRID"},          {36, "LENSFLARE"},
-    {37, "CUSTOMNOISE"},   {37, "ADDNOISE"},       {38, "ADDSCANLINES"},     {39, "CUSTOMGLASS"},
-    {40, "CUSTOMCURTAIN"},
-};
-constexpr void (*kShowFilter)(fMain&, int number) = nullptr; // not there yet
-
 // What the frame does by itself, without a word of the command language
 constexpr Command kActions[] = {
     {"@BROWSE",       Free, kLater},
@@ -169,11 +150,6 @@ constexpr Command kActions[] = {
 };
 // clang-format on
 
-bool isFilterWord(std::string_view word)
-{
-    return std::ranges::find(kFilterWords, word, &FilterWord::word) != std::end(kFilterWords);
-}
-
 const Command* findIn(std::span<const Command> rows, std::string_view word)
 {
     const auto row = std::ranges::find(rows, word, &Command::word);
@@ -188,13 +164,12 @@ std::span<const Command> fMain::actions() { return kActions; }
 
 bool fMain::known(std::string_view word)
 {
-    return findPreset(word) || isFilterWord(word) || findIn(word.starts_with('@') ? actions() : commands(), word);
+    return findPreset(word) || findFilterRow(word) || findIn(word.starts_with('@') ? actions() : commands(), word);
 }
 
 bool fMain::available(std::string_view word)
 {
-    if (findPreset(word)) return true;
-    if (isFilterWord(word)) return kShowFilter;
+    if (findPreset(word) || findFilterRow(word)) return true;
     const Command* row = findIn(word.starts_with('@') ? actions() : commands(), word);
     return row && row->run;
 }
@@ -209,6 +184,8 @@ void fMain::Mmenu(const QString& word)
     try {
         if (command)
             command->run(*this);
+        else if (const FilterRow* filter = findFilterRow(name))
+            showFilter(*filter);
         else
             runPreset(name);
     } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun

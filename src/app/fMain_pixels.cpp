@@ -4,6 +4,7 @@
 #include "app/fStatus.h"
 #include "document/resizing.h"
 #include "filters/RuntimeError.h"
+#include "filters/fFilter.h"
 #include "filters/operations.h"
 #include "platform/Platform.h"
 
@@ -85,6 +86,24 @@ void fMain::runPreset(std::string_view word)
     if (preset->yields) platform_.yield(); // the menu closes before the long work
     runOnEngine(QString::fromUtf8(word.data(), qsizetype(word.size())),
                 [&](cBitFilter& filter) { operation->call(filter, preset->arguments); });
+}
+
+void fMain::showFilter(const FilterRow& row)
+{
+    const QPointer<fImage> image = GetActiveImage();
+    if (!image || !image->document().PictureExists()) return;
+    handOver(*image);
+    const auto take = [this, image](const Bits& bits) {
+        if (closing_ || !image || image != GetActiveImage() || image->PictureWidth() != bits.width() ||
+            image->PictureHeight() != bits.height())
+            return false;
+        image->setBits(bits);
+        cFilter_.setBits(bits);
+        return true;
+    };
+    const QPointer<fFilter> dialog = new fFilter(*this, row, take, this);
+    dialog->exec();
+    delete dialog; // unless the frame went, and it with it
 }
 
 void fMain::stepUndo(bool back)

@@ -1,4 +1,5 @@
 #include "batch/words.h"
+#include "filters/filterDialogs.h"
 #include <QStringList>
 #include <algorithm>
 
@@ -20,11 +21,6 @@ constexpr std::string_view kWindowWords[] = {
     "COPY", "PASTE", "OPTIONS", "IMAGEMERGING", "PASTELAYERSBOX", "IMAGETEXTURES", "IMAGERESOLUTION",
     "IMAGESAVEOPTIONS", "IMAGECOLORDEPTH", "TEXTTOOLS", "WTILE", "WCENTER", "WSTRETCH", "TILEHORIZONTALLY",
     "TILEVERTICALLY", "CASCADE", "RESET",
-    "BRIGHTNESS", "LIGHTCUSTOM", "CONTRAST", "CUSTOMSATURATION", "GAMMA", "CUSTOMDIFFUSE", "CUSTOMBLUR", "HAFTONE",
-    "PIXELIZE", "CUSTOMEMBOSS", "CUSTOMENGRAVE", "CUSTOMCONTOUR", "SKETCH", "ISOLATE", "REPLACE", "REPLACEHUESAT",
-    "REPLACELUMINOUS", "CUSTOMSHARPEN", "CUSTOMSOFTEN", "COLORIZE", "SHIFT", "HUEROTATION", "GREYROTATION",
-    "HUESTRETCH", "RGBLEVELS", "RGBBANKS", "LENS", "WAVES", "BEND", "FOLD", "ROTATE", "STRETCH", "TILE", "TWIRL",
-    "ADDGRID", "LENSFLARE", "CUSTOMNOISE", "ADDNOISE", "ADDSCANLINES", "CUSTOMGLASS", "CUSTOMCURTAIN",
 };
 // clang-format on
 
@@ -74,7 +70,10 @@ const Word* findWord(std::string_view word)
     return found == words().end() ? nullptr : &*found;
 }
 
-bool needsWindow(std::string_view word) { return std::ranges::find(kWindowWords, word) != std::end(kWindowWords); }
+bool needsWindow(std::string_view word)
+{
+    return findFilterRow(word) || std::ranges::find(kWindowWords, word) != std::end(kWindowWords);
+}
 
 QString argumentText(const Argument& argument)
 {

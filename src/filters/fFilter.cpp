@@ -171,9 +171,7 @@ bool fFilter::runFull()
     if (!failureText.isEmpty())
         frame_.platform().message(QStringLiteral("Velara Studio"), windowTitle() + QStringLiteral(": ") + failureText,
                                   Icon::Exclamation);
-    if (result.isNull() || !alive) return false;
-    take_(result);
-    return true;
+    return !result.isNull() && alive && take_(result);
 }
 
 void fFilter::realTime()

@@ -23,9 +23,9 @@ class fPreviewPicture;
 class fFilter final : public QDialog {
     Q_OBJECT
   public:
-    /// take puts a picture of full size into the document and into the engine. The frame's engine holds the document's
-    /// picture and its working region.
-    using Take = std::function<void(const Bits&)>;
+    /// take puts a picture of full size into the document and into the engine; false: they are gone. The frame's engine
+    /// holds the document's picture and its working region.
+    using Take = std::function<bool(const Bits&)>;
     fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent = nullptr);
 
     /// What the controls stand on.

@@ -6,9 +6,12 @@
 #include "filters/RuntimeError.h"
 #include "filters/operations.h"
 #include "frameTest.h"
+#include <QAbstractButton>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
+#include <QSlider>
+#include <QTimer>
 #include <QToolBar>
 
 namespace velara {
@@ -190,6 +193,31 @@ TEST_F(FrameTest, AFilterTakesOneUndoStepAndMarksTheDocument)
     EXPECT_TRUE(sameBits(before, image->Bits()));
     EXPECT_FALSE(frame->action("tb_0_7")->isEnabled());
     EXPECT_TRUE(frame->action("tb_0_8")->isEnabled());
+}
+
+TEST_F(FrameTest, AFilterDialogPutsItsResultIntoTheDocument)
+{
+    fImage* image = open(randomBits(60, 40, 5));
+    const Bits before = image->Bits();
+    for (const char* button : {"cmdCancel", "cmdOK"}) {
+        QTimer::singleShot(0, [button] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->windowTitle(), "Adjust [Brightness]");
+            dialog->findChild<QSlider*>("sbFilter_0")->setValue(30);
+            dialog->findChild<QAbstractButton*>(button)->click();
+        });
+        frame->Mmenu("BRIGHTNESS");
+        const bool ok = button == std::string("cmdOK");
+        EXPECT_EQ(image->document().undo.UndoStep(), ok ? 2 : 1);
+        EXPECT_EQ(image->document().Changed, ok);
+        EXPECT_EQ(ok, !sameBits(before, image->Bits()));
+        EXPECT_TRUE(sameBits(image->Bits(), frame->filter().bits()));
+    }
+    cBitFilter filter;
+    filter.setBits(before);
+    filter.setBitsRegion(Region::rectangle(0, 0, 60, 40));
+    EXPECT_TRUE(sameBits(filter.BRIGHTNESS(30), image->Bits()));
 }
 
 TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)

@@ -59,6 +59,7 @@ struct FilterDialog : ::testing::Test {
         dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), [this](const Bits& bits) {
             taken = bits;
             ++takes;
+            return true;
         });
         dialog->show();
     }
