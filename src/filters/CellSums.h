@@ -62,22 +62,4 @@ class CellSums {
     int rows_ = 0;
 };
 
-/// Quotients by one divisor after another, mostly the same one, as a multiplication where that is exact.
-class RepeatedDivider {
-  public:
-    /// n \ divisor; divisor >= 1.
-    std::uint64_t operator()(std::uint64_t n, std::uint64_t divisor)
-    {
-        if (divisor != divisor_) {
-            divisor_ = divisor;
-            multiplier_ = ((std::uint64_t{1} << 32) + divisor - 1) / divisor;
-        }
-        // The multiplier is too great by less than divisor / 2^32 of its whole.
-        return n * divisor < std::uint64_t{1} << 32 ? n * multiplier_ >> 32 : n / divisor;
-    }
-
-  private:
-    std::uint64_t divisor_ = 0, multiplier_ = 0;
-};
-
 } // namespace velara

@@ -3,13 +3,13 @@
 #include "filters/RuntimeError.h"
 #include "filters/numbers.h"
 #include "filters/passes.h"
-#include <bit>
 
 namespace velara {
 
 namespace {
 
 constexpr Pixel kBlack = {{0, 0, 0, 0}};
+constexpr std::uint64_t kExactSums = 1 << 23; // quotients of smaller sums are safe in singles
 
 /// The colours of a row of blocks, and the colour that is held from pixel to pixel: it is renewed at the start of a
 /// block alone, so a span that begins inside a block goes on with the colour of the block before, in the row or in the
@@ -17,7 +17,7 @@ constexpr Pixel kBlack = {{0, 0, 0, 0}};
 class Blocks {
   public:
     Blocks(const Bits& in, const Region& region, int size)
-        : in_(in), region_(region), size_(size), sums_(in.width(), 0, size, size),
+        : in_(in), region_(region), size_(size), sums_(in.width(), 0, size, size), means_(sums_.cells().size()),
           line_(static_cast<std::size_t>(in.width()))
     {
     }
@@ -55,21 +55,32 @@ class Blocks {
             sums_.rowDone();
         }
         sums_.finish();
-        RepeatedDivider divided;
-        for (int x = x0; x < x1;) {
-            const CellSum& sum = sums_.cells()[static_cast<std::size_t>(x / size_)];
-            Pixel colour = kBlack;
-            for (int c = 0; c < 3; ++c) colour.c[c] = static_cast<std::uint8_t>(divided(sum.c[c], sum.count));
-            for (const int end = size_ < x1 - x ? x + size_ : x1; x < end; ++x)
-                line_[static_cast<std::size_t>(x)] = colour;
-        }
+        const auto first = static_cast<std::size_t>(x0 / size_), last = static_cast<std::size_t>((x1 - 1) / size_);
+        average(first, last); // the last one may be narrower
+        average(last, last + 1);
+        for (std::size_t k = first; k <= last; ++k)
+            for (const int end = size_ < x1 - x0 ? x0 + size_ : x1; x0 < end; ++x0)
+                line_[static_cast<std::size_t>(x0)] = means_[k];
+    }
+
+    /// The means of the blocks first to last-1, all of the same number of pixels.
+    void average(std::size_t first, std::size_t last)
+    {
+        if (first == last) return;
+        const CellSum* cells = sums_.cells().data();
+        const std::uint64_t count = cells[first].count();
+        if (255 * count < kExactSums)
+            return cellKernels().meansOf(cells + first, static_cast<std::int32_t>(count), true, &means_[first],
+                                         last - first);
+        for (std::size_t k = first; k < last; ++k)
+            for (int c = 0; c < 3; ++c) means_[k].c[c] = static_cast<std::uint8_t>(cells[k].c[c] / count);
     }
 
     const Bits in_;
     const Region region_;
     const int size_;
     CellSums sums_;
-    std::vector<Pixel> line_;
+    std::vector<Pixel> means_, line_; // of the blocks, and of the pixels of a row
     Pixel held_ = kBlack;
     int band_ = -1;
 };
@@ -92,46 +103,60 @@ Bits cBitFilter::PIXELIZE(int Size)
 
 namespace {
 
-/// How bright a spot is at an offset from its centre, and the bytes that follow from it.
+/// How bright a spot is at an offset from its centre.
 class Spot {
   public:
     Spot(int radius, int limit) : radius_(radius), limit_(limit)
     {
         if (radius > kMostTabled || limit <= 0) return; // beyond the dialogs, and too large for tables
-        std::vector<int> rowOf(2 * static_cast<std::size_t>(radius * radius) + 1, -1);
+        std::vector<float> factors(2 * static_cast<std::size_t>(radius * radius) + 1, kNone);
         for (int oy = -radius; oy < radius; ++oy)
             for (int ox = -radius; ox < radius; ++ox) {
-                int& row = rowOf[static_cast<std::size_t>(ox * ox + oy * oy)];
-                if (row < 0) row = addRow(ox, oy);
-                rows_.push_back(static_cast<std::uint32_t>(256 * row));
+                float& factor = factors[static_cast<std::size_t>(ox * ox + oy * oy)];
+                if (factor == kNone) factor = exactFactor(ox, oy);
+                rows_.push_back(factor);
             }
+        if (std::ranges::find(rows_, kNone) != rows_.end()) rows_.clear();
     }
 
+    /// True when round(s * factor) in singles gives the byte of each sum s from 0 to 255.
     bool isTabled() const { return !rows_.empty(); }
-    /// The byte of the sum s (0 to 255) at (ox, oy) is tables()[offsets(oy)[ox + radius] + s].
-    const std::uint32_t* offsets(std::int64_t oy) const { return rows_.data() + (oy + radius_) * 2 * radius_; }
-    const std::uint8_t* tables() const { return tables_.data(); }
+    /// The factors at the offsets -radius to radius-1 in the row oy.
+    const float* factors(std::int64_t oy) const { return rows_.data() + (oy + radius_) * 2 * radius_; }
 
-    /// The same by definition. Overflow where a byte does not hold it.
+    /// The byte by definition. Overflow where a byte does not hold it.
     std::uint8_t at(std::int64_t ox, std::int64_t oy, double sum) const
     {
         const std::int64_t distance = ox * ox + oy * oy;
-        if (distance > limit_) return 0;
-        const auto f = static_cast<float>(1 - quotient(static_cast<double>(distance), limit_));
-        return toByte(f * sum);
+        return distance > limit_ ? std::uint8_t{0} : toByte(brightness(distance) * sum);
     }
 
   private:
     static constexpr int kMostTabled = 32;
-    int addRow(int ox, int oy)
+    static constexpr float kNone = -1;
+
+    float brightness(std::int64_t distance) const
     {
-        for (int sum = 0; sum < 256; ++sum) tables_.push_back(at(ox, oy, sum));
-        return static_cast<int>(tables_.size() / 256) - 1;
+        return static_cast<float>(1 - quotient(static_cast<double>(distance), limit_));
+    }
+
+    /// Products in singles may round a value beside a half onto it. A neighbour of the brightness that gives all 256
+    /// bytes serves as well.
+    float exactFactor(int ox, int oy) const
+    {
+        const std::int64_t distance = ox * ox + oy * oy;
+        if (distance > limit_) return 0;
+        const float f = brightness(distance), up = std::nextafter(f, 2.0f), down = std::nextafter(f, 0.0f);
+        for (const float factor : {f, up, down, std::nextafter(up, 2.0f), std::nextafter(down, 0.0f)}) {
+            int sum = 0;
+            while (sum < 256 && std::nearbyint(static_cast<float>(sum) * factor) == at(ox, oy, sum)) ++sum;
+            if (sum == 256) return factor;
+        }
+        return kNone;
     }
 
     const int radius_, limit_;
-    std::vector<std::uint32_t> rows_;
-    std::vector<std::uint8_t> tables_;
+    std::vector<float> rows_;
 };
 
 /// Cells of 2*radius+1 pixels a side, 2*radius apart, from the corner of the box on. A later cell paints over the
@@ -140,7 +165,8 @@ class Dots {
   public:
     Dots(const Bits& in, const Region& region, const Box& box, int radius, int limit, float gain)
         : in_(in), region_(region), box_(box), radius_(radius), step_(2 * std::int64_t{radius}), gain_(gain),
-          spot_(radius, limit), sums_(in.width(), box.xmin, step_, step_ + 1)
+          spot_(radius, limit), sums_(in.width(), box.xmin, step_, step_ + 1), means_(sums_.cells().size()),
+          line_(static_cast<std::size_t>(in.width())), factors_(line_.size())
     {
     }
 
@@ -149,44 +175,41 @@ class Dots {
         const std::int64_t band = (std::int64_t{y} - box_.ymin) / step_;
         if (band != band_) mix(band);
         const std::int64_t oy = std::int64_t{y} - box_.ymin - band * step_ - radius_;
-        auto cell = static_cast<std::size_t>((std::int64_t{x0} - box_.xmin) / step_);
-        for (int x = x0; x < x1; ++cell) {
-            const std::int64_t start = box_.xmin + static_cast<std::int64_t>(cell) * step_;
-            const int end = static_cast<int>(std::min<std::int64_t>(x1, start + step_));
-            const Colours& colours = cells_[cell];
-            if (spot_.isTabled() && colours.isSmall)
-                fromTables(colours, spot_.offsets(oy) + (x - start), from, to, x, end);
-            else
-                for (; x < end; ++x) to[x] = literally(colours, x - start - radius_, oy, from[x]);
-            x = end;
-        }
+        if (!plain_) return literally(from, to, x0, x1, oy);
+        if (y != factorsOf_) spread(oy);
+        factorsOf_ = y;
+        cellKernels().paintScaled({from, in_.stride(), to, x0, x1}, line_.data(), factors_.data());
     }
 
   private:
-    struct Colours {
-        std::uint64_t c[3];
-        bool isSmall; // all within a byte
-    };
+    std::int64_t leftOf(std::size_t cell) const { return box_.xmin + static_cast<std::int64_t>(cell) * step_; }
+    int firstColumn() const { return std::max(box_.xmin, 0); }
+    int endColumn() const { return std::min(box_.xmax + 1, in_.width()); }
 
-    void fromTables(const Colours& colours, const std::uint32_t* offset, const Pixel* from, Pixel* to, int x,
-                    int end) const
+    void literally(const Pixel* from, Pixel* to, int x0, int x1, std::int64_t oy) const
     {
-        const std::uint8_t* const tables = spot_.tables();
-        const std::uint8_t *const blue = tables + colours.c[0], *const green = tables + colours.c[1],
-                                  *const red = tables + colours.c[2];
-        for (; x < end; ++x, ++offset)
-            to[x] = std::bit_cast<Pixel>(static_cast<std::uint32_t>(blue[*offset] | green[*offset] << 8 |
-                                                                    red[*offset] << 16 | from[x].c[3] << 24));
+        for (int x = x0; x < x1; ++x) {
+            const auto cell = static_cast<std::size_t>((std::int64_t{x} - box_.xmin) / step_);
+            to[x] = spotPixel(cell, x - leftOf(cell) - radius_, oy);
+            to[x].c[3] = from[x].c[3];
+        }
     }
 
-    Pixel literally(const Colours& colours, std::int64_t ox, std::int64_t oy, const Pixel& source) const
+    Pixel spotPixel(std::size_t cell, std::int64_t ox, std::int64_t oy) const
     {
-        Pixel out = source;
-        for (int c = 0; c < 3; ++c) out.c[c] = spot_.at(ox, oy, static_cast<double>(colours.c[c]));
+        const CellSum& sum = sums_.cells()[cell];
+        const std::int32_t parts = partsOf(sum.count());
+        Pixel out{};
+        for (int c = 0; c < 3; ++c) {
+            const auto s = static_cast<double>(sum.c[c]);
+            out.c[c] = spot_.at(ox, oy, parts > 0 ? std::min(roundToEven(s / parts), 255.0) : s);
+        }
         return out;
     }
 
-    /// The colours of a row of cells.
+    std::int32_t partsOf(std::uint64_t count) const { return roundEven(quotient(static_cast<double>(count), gain_)); }
+
+    /// The colours of a row of cells. plain_ tells whether the line of them can be painted in singles.
     void mix(std::int64_t band)
     {
         band_ = band;
@@ -200,43 +223,62 @@ class Dots {
             sums_.rowDone();
         }
         sums_.finish();
-        cells_.resize(sums_.cells().size());
-        for (std::size_t i = 0; i < cells_.size(); ++i) {
-            mixInto(cells_[i], sums_.cells()[i]);
-            if (!cells_[i].isSmall) checkSharedEdges(cells_[i], box_.xmin + static_cast<std::int64_t>(i) * step_, top);
+        plain_ = spot_.isTabled();
+        const auto& cells = sums_.cells();
+        for (std::size_t i = 0; i < cells.size();) { // runs of cells with equally many pixels
+            std::size_t next = i;
+            while (next < cells.size() && cells[next].count() == cells[i].count()) ++next;
+            mixRun(i, next, top);
+            i = next;
         }
+        if (!plain_) return;
+        auto cell = static_cast<std::size_t>((std::int64_t{firstColumn()} - box_.xmin) / step_);
+        for (int x = firstColumn(); x < endColumn(); ++cell)
+            for (const auto stop = std::min<std::int64_t>(leftOf(cell) + step_, endColumn()); x < stop; ++x)
+                line_[static_cast<std::size_t>(x)] = means_[cell];
     }
 
-    void mixInto(Colours& out, const CellSum& sum)
+    /// The cells first to last-1, all of the same number of pixels.
+    void mixRun(std::size_t first, std::size_t last, std::int64_t top)
     {
-        if (sum.count != count_) {
-            count_ = sum.count;
-            parts_ = roundEven(quotient(static_cast<double>(count_), gain_));
+        const auto& cells = sums_.cells();
+        const std::uint64_t count = cells[first].count();
+        const std::int32_t parts = partsOf(count);
+        if (count * 255 >= kExactSums) plain_ = false;
+        if (parts > 0) {
+            if (plain_) cellKernels().meansOf(&cells[first], parts, false, &means_[first], last - first);
+            return;
         }
-        std::uint64_t all = 0;
-        for (int c = 0; c < 3; ++c) {
-            const std::uint64_t n = sum.c[c];
-            out.c[c] = parts_ > 0 ? std::min<std::uint64_t>(nearest(n, static_cast<std::uint64_t>(parts_)), 255) : n;
-            all |= out.c[c];
+        // Too few pixels for one part: the sums stay as they are.
+        for (; first < last; ++first) {
+            const std::uint64_t* c = cells[first].c;
+            for (int i = 0; i < 3; ++i) means_[first].c[i] = static_cast<std::uint8_t>(c[i]);
+            if (std::max({c[0], c[1], c[2]}) < 256) continue;
+            plain_ = false;
+            checkSharedEdges(first, leftOf(first), top);
         }
-        out.isSmall = all < 256;
-    }
-
-    /// n / divisor to the nearest, halves to the even neighbour.
-    std::uint64_t nearest(std::uint64_t n, std::uint64_t divisor)
-    {
-        const std::uint64_t q = divided_(n, divisor), twice = 2 * (n - q * divisor);
-        return q + (twice > divisor || (twice == divisor && q % 2 == 1));
     }
 
     /// A sum that no byte holds raises its fault even where the next cell paints over it.
-    void checkSharedEdges(const Colours& colours, std::int64_t left, std::int64_t top) const
+    void checkSharedEdges(std::size_t cell, std::int64_t left, std::int64_t top) const
     {
         for (std::int64_t i = 0; i <= step_; ++i)
             for (const auto& [x, y] : {std::pair{left + step_, top + i}, std::pair{left + i, top + step_}})
                 if (x >= 0 && y >= 0 && x < in_.width() && y < in_.height() &&
                     region_.contains(static_cast<int>(x), static_cast<int>(y)))
-                    literally(colours, x - left - radius_, y - top - radius_, Pixel());
+                    spotPixel(cell, x - left - radius_, y - top - radius_);
+    }
+
+    /// The spot's row, repeated over the columns of the box.
+    void spread(std::int64_t oy)
+    {
+        const float* row = spot_.factors(oy);
+        const auto period = static_cast<int>(step_), x0 = firstColumn(), x1 = endColumn();
+        const auto phase = static_cast<int>((std::int64_t{x0} - box_.xmin) % step_);
+        float* to = factors_.data() + x0;
+        int done = std::min(period, x1 - x0);
+        for (int i = 0; i < done; ++i) to[i] = row[(i + phase) % period];
+        for (; done < x1 - x0; done *= 2) std::copy_n(to, std::min(done, x1 - x0 - done), to + done);
     }
 
     const Bits in_;
@@ -246,11 +288,11 @@ class Dots {
     const double gain_;
     const Spot spot_;
     CellSums sums_;
-    std::vector<Colours> cells_;
-    RepeatedDivider divided_;
-    std::uint64_t count_ = ~std::uint64_t{0};
-    std::int32_t parts_ = 0;
+    std::vector<Pixel> means_, line_; // of the cells, and of the pixels of a row
+    std::vector<float> factors_;
+    bool plain_ = false;
     std::int64_t band_ = -1;
+    int factorsOf_ = -1;
 };
 
 } // namespace

@@ -36,9 +36,42 @@ void addCells(const std::uint16_t* columns, std::int64_t step, std::int64_t side
         for (std::int64_t i = 0; i < side; ++i) sum = hn::Add(sum, hn::PromoteTo(d, hn::LoadU(d16, columns + 4 * i)));
         alignas(16) std::uint32_t parts[4];
         hn::Store(sum, d, parts);
-        for (int c = 0; c < 3; ++c) cells[k].c[c] += parts[c];
-        cells[k].count += parts[3];
+        for (int c = 0; c < 4; ++c) cells[k].c[c] += parts[c];
     }
+}
+
+void meansOf(const CellSum* cells, std::int32_t parts, bool whole, Pixel* means, std::size_t count)
+{
+    const hn::FixedTag<std::uint64_t, 2> d64;
+    const hn::FixedTag<std::uint32_t, 4> d32;
+    const hn::FixedTag<std::int32_t, 4> d;
+    const hn::FixedTag<float, 4> df;
+    const auto divisor = hn::Set(df, static_cast<float>(parts));
+    for (std::size_t k = 0; k < count; ++k) {
+        const auto low = hn::BitCast(d32, hn::LoadU(d64, cells[k].c));
+        const auto high = hn::BitCast(d32, hn::LoadU(d64, cells[k].c + 2)); // the third sum and the count
+        const auto sums = hn::ConvertTo(df, hn::BitCast(d, hn::ConcatEven(d32, high, low)));
+        const auto quotient = hn::Div(sums, divisor);
+        const auto mean = hn::Min(whole ? hn::ConvertTo(d, quotient) : hn::NearestInt(quotient), hn::Set(d, 255));
+        hn::StoreU(hn::DemoteTo(hn::FixedTag<std::uint8_t, 4>(), mean), hn::FixedTag<std::uint8_t, 4>(), means[k].c);
+    }
+}
+
+void paintScaled(SpanOf s, const Pixel* line, const float* factors)
+{
+    forPixels<std::uint8_t>(s, [=](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d8)> d;
+        const hn::RebindToFloat<decltype(d)> df;
+        const auto colour = hn::BitCast(d, loadBytes(d8, line + x));
+        const auto factor = hn::LoadU(df, factors + x), low = hn::Set(d, 255);
+        const auto scaled = [&](auto channel) HWY_ATTR {
+            return hn::NearestInt(hn::Mul(hn::ConvertTo(df, hn::And(channel, low)), factor));
+        };
+        const auto blue = scaled(colour), green = scaled(hn::ShiftRight<8>(colour)),
+                   red = scaled(hn::ShiftRight<16>(colour));
+        const auto all = hn::Or(blue, hn::Or(hn::ShiftLeft<8>(green), hn::ShiftLeft<16>(red)));
+        return withFourthOf(d8, loadBytes(d8, s.from + x), hn::BitCast(d8, all));
+    });
 }
 
 void paintLine(SpanOf s, const Pixel* line)
@@ -49,7 +82,7 @@ void paintLine(SpanOf s, const Pixel* line)
 
 const CellKernels& cellKernelTable()
 {
-    static constexpr CellKernels table = {addColumns, addCells, paintLine};
+    static constexpr CellKernels table = {addColumns, addCells, meansOf, paintScaled, paintLine};
     return table;
 }
 
