@@ -3,6 +3,7 @@
 #include "filters/Bits.h"
 #include "filters/kernels_colour.h"
 #include <array>
+#include <bit>
 #include <vector>
 
 namespace velara {
@@ -39,27 +40,37 @@ template <class Body> void inBlocks(const Pixel* from, Pixel* to, int x0, int x1
     if (x1 > x0) body(from + x0, to + x0, x1 - x0);
 }
 
+/// A pixel's four bytes as one word, and back: assembled in a register, a pixel is one store.
+inline std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
+inline Pixel pixelFrom(std::uint32_t word) { return std::bit_cast<Pixel>(word); }
+
+/// One grey, with the fourth byte of p.
+inline Pixel greyPixel(std::uint8_t grey, const Pixel& p)
+{
+    return pixelFrom(grey * 0x00010101u | (wordOf(p) & kFourthByte));
+}
+
 /// The three channels through one table.
 class ThroughTable {
   public:
     explicit ThroughTable(const ByteTable& table)
-        : table_(table), pairs_(pairTable<std::uint16_t>([&](int a, int b) { return table[a] | table[b] << 8; }))
+        : pairs_(pairTable<std::uint16_t>([&](int a, int b) { return table[a] | table[b] << 8; }))
     {
+        for (std::size_t i = 0; i < table.size(); ++i) reds_[i] = std::uint32_t{table[i]} << 16;
     }
     void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
     {
-        inBlocks(from, to, x0, x1, [this](const Pixel* p, Pixel* q, int n) {
+        inBlocks(from, to, x0, x1, [pairs = pairs_.data(), this](const Pixel* p, Pixel* q, int n) {
             for (int i = 0; i < n; ++i) {
-                const std::uint16_t low = pairs_[std::size_t(p[i].c[0] | p[i].c[1] << 8)];
-                q[i] = {{static_cast<std::uint8_t>(low), static_cast<std::uint8_t>(low >> 8), table_[p[i].c[2]],
-                         p[i].c[3]}};
+                const std::uint32_t v = wordOf(p[i]);
+                q[i] = pixelFrom(pairs[v & 0xFFFF] | reds_[v >> 16 & 255] | (v & kFourthByte));
             }
         });
     }
 
   private:
-    ByteTable table_;
     std::vector<std::uint16_t> pairs_;
+    std::array<std::uint32_t, 256> reds_;
 };
 
 } // namespace velara

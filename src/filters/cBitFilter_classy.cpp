@@ -49,8 +49,9 @@ auto wrapped()
         inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
             for (int i = 0; i < n; ++i) {
                 const int t = shares[std::size_t(p[i].c[0] | p[i].c[2] << 8)];
-                const auto wrap = [t](int c) { return static_cast<std::uint8_t>(std::abs(~(c - t))); };
-                q[i] = {{wrap(p[i].c[1]), wrap(p[i].c[2]), wrap(p[i].c[0]), p[i].c[3]}};
+                const auto wrap = [t](int c) { return static_cast<std::uint32_t>(std::abs(~(c - t)) & 255); };
+                q[i] = pixelFrom(wrap(p[i].c[1]) | wrap(p[i].c[2]) << 8 | wrap(p[i].c[0]) << 16 |
+                                 (wordOf(p[i]) & kFourthByte));
             }
         });
     };

@@ -105,9 +105,8 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
         return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
             inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
                 for (int i = 0; i < n; ++i) {
-                    const auto [b, g, r, fourth] = p[i].c;
-                    const std::uint8_t v = greys[std::size_t(std::max({b, g, r}) | std::min({b, g, r}) << 8)];
-                    q[i] = {{v, v, v, fourth}};
+                    const int b = p[i].c[0], g = p[i].c[1], r = p[i].c[2];
+                    q[i] = greyPixel(greys[std::size_t(std::max({b, g, r}) | std::min({b, g, r}) << 8)], p[i]);
                 }
             });
         });
@@ -136,8 +135,7 @@ Bits cBitFilter::RotateL(int Offset, int Steps)
             for (int i = 0; i < n; ++i) {
                 std::uint16_t v = greys[std::size_t(sums[i])];
                 if (v == kInDoubt) v = grey(p[i]);
-                const auto byte = static_cast<std::uint8_t>(v);
-                q[i] = {{byte, byte, byte, p[i].c[3]}};
+                q[i] = greyPixel(static_cast<std::uint8_t>(v), p[i]);
             }
         });
     });

@@ -15,7 +15,7 @@ class NearestColours {
     NearestColours() : colours_(PaletteColors())
     {
         const auto isByte = [](const PaletteColor& c) { return ((c.red | c.green | c.blue) & ~255) == 0; };
-        bytesOnly_ = std::all_of(colours_.begin(), colours_.end(), isByte);
+        bytesOnly_ = colours_.size() < 0x10000 && std::all_of(colours_.begin(), colours_.end(), isByte);
     }
     /// The palette's colour as bytes. Overflow if it is none; OutOfRange without a palette.
     Pixel operator()(const Pixel& p)
@@ -23,21 +23,31 @@ class NearestColours {
         if (colours_.empty() || !bytesOnly_) return asPixel(NearestColor(p.c[2], p.c[1], p.c[0]));
         Cube& cube = cubes_[std::size_t(p.c[0] >> kShift | p.c[1] >> kShift << kBits | p.c[2] >> kShift << 2 * kBits)];
         if (cube.end == 0) cube = candidatesOf(p);
-        int least = kFarthest;
-        Pixel best = asPixel(colours_.front());
-        for (std::uint32_t i = cube.first; i < cube.end; ++i) {
-            const Pixel c = candidates_[i];
-            const int d = std::abs(p.c[0] - c.c[0]) + std::abs(p.c[1] - c.c[1]) + std::abs(p.c[2] - c.c[2]);
-            best = d < least ? c : best;
-            least = std::min(d, least);
+        // The least of distance << 16 | position, lane by lane: the earlier of two equals wins.
+        std::uint32_t least[kLanes];
+        std::fill_n(least, kLanes, ~0u);
+        for (std::uint32_t block = cube.first; block < cube.end; ++block) {
+            const Candidates& c = candidates_[block];
+            for (std::uint32_t i = 0; i < kLanes; ++i) {
+                const int d =
+                    std::abs(p.c[0] - c.part[0][i]) + std::abs(p.c[1] - c.part[1][i]) + std::abs(p.c[2] - c.part[2][i]);
+                least[i] = std::min(least[i], std::uint32_t(d) << 16 | (block - cube.first) * kLanes | i);
+            }
         }
-        return best;
+        const std::uint32_t best = *std::min_element(least, least + kLanes) & 0xFFFF;
+        const Candidates& c = candidates_[cube.first + best / kLanes];
+        const auto part = [&](int i) { return static_cast<std::uint8_t>(c.part[i][best % kLanes]); };
+        return {{part(0), part(1), part(2), 0}};
     }
 
   private:
     static constexpr int kBits = 5, kShift = 8 - kBits, kSide = 1 << kShift, kFarthest = 3 * 255;
+    static constexpr std::uint32_t kLanes = 8;
     struct Cube {
         std::uint32_t first = 0, end = 0; // of candidates_
+    };
+    struct Candidates {
+        int part[3][kLanes]; // blue, green, red; the last one fills up a block
     };
 
     static Pixel asPixel(const PaletteColor& c) { return {{toByte(c.blue), toByte(c.green), toByte(c.red), 0}}; }
@@ -57,15 +67,22 @@ class NearestColours {
         int reach = kFarthest;
         for (const PaletteColor& c : colours_) reach = std::min(reach, distances(asPixel(c)).second);
         const auto first = static_cast<std::uint32_t>(candidates_.size());
-        for (const PaletteColor& c : colours_)
-            if (distances(asPixel(c)).first <= reach) candidates_.push_back(asPixel(c));
+        std::uint32_t count = 0;
+        for (const PaletteColor& c : colours_) {
+            if (distances(asPixel(c)).first > reach) continue;
+            if (count % kLanes == 0) candidates_.emplace_back();
+            for (std::uint32_t i = count++ % kLanes; i < kLanes; ++i) {
+                int(&part)[3][kLanes] = candidates_.back().part;
+                part[0][i] = c.blue, part[1][i] = c.green, part[2][i] = c.red;
+            }
+        }
         return {first, static_cast<std::uint32_t>(candidates_.size())};
     }
 
     std::vector<PaletteColor> colours_;
-    bool bytesOnly_ = false;
+    bool bytesOnly_ = false; // and few enough
     std::vector<Cube> cubes_{std::size_t{1} << 3 * kBits};
-    std::vector<Pixel> candidates_;
+    std::vector<Candidates> candidates_;
 };
 
 } // namespace

@@ -48,16 +48,10 @@ Wide balanced(Wide v)
 std::array<std::int64_t, 256> histogram(const Bits& bits)
 {
     std::array<std::array<std::uint32_t, 256>, 4> counts{}; // runs of equal pixels would wait for each other in one
-    std::vector<std::int32_t> sums(std::size_t(bits.width()));
+    std::vector<Pixel> greys(std::size_t(bits.width()));
     for (int y = 0; y < bits.height(); ++y) {
-        const Pixel* row = bits.row(y);
-        colourKernels().weigh(row, bits.width(), kBrightnessWeights, sums.data());
-        for (int x = 0; x < bits.width(); ++x) {
-            const auto sum = static_cast<std::uint32_t>(sums[std::size_t(x)]);
-            const std::uint32_t above = sum + 500, rounded = above / 1000;
-            const bool tie = above == rounded * 1000;
-            ++counts[x & 3][tie ? toByte(brightnessOf(row[x])) : rounded];
-        }
+        colourKernels().brightness(bits.row(y), bits.width(), greys.data());
+        for (std::size_t x = 0; x < greys.size(); ++x) ++counts[x & 3][greys[x].c[0]];
     }
     std::array<std::int64_t, 256> all{};
     for (const auto& part : counts)
@@ -99,11 +93,13 @@ Bits cBitFilter::CONTRAST(int Level)
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
         inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
             for (int i = 0; i < n; ++i) {
-                const auto [b, g, r, fourth] = p[i].c;
-                const std::uint32_t v = pairs[std::size_t(b | g << 8)] | reds[r];
-                Wide w{v & 255, v >> 8 & 255, v >> 16 & 255};
-                if (v & kOverflows) w = balanced({table[b], table[g], table[r]});
-                q[i] = {{std::uint8_t(w.b), std::uint8_t(w.g), std::uint8_t(w.r), fourth}};
+                const std::uint32_t source = wordOf(p[i]);
+                std::uint32_t v = pairs[source & 0xFFFF] | reds[source >> 16 & 255];
+                if (v & kOverflows) {
+                    const Wide w = balanced({table[p[i].c[0]], table[p[i].c[1]], table[p[i].c[2]]});
+                    v = static_cast<std::uint32_t>(w.b | w.g << 8 | w.r << 16);
+                }
+                q[i] = pixelFrom(v | (source & kFourthByte));
             }
         });
     });

@@ -1,5 +1,6 @@
 #include "filters/kernels_colour.h"
 #include "filters/numbers.h"
+#include <algorithm>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filters/kernels_colour.cpp"
@@ -50,25 +51,39 @@ template <class D32, class V> HWY_INLINE V thousandths(D32 d32, V sum)
     return hn::BitCast(d32, hn::ShiftRight<6>(high));
 }
 
-void grey(const SpanOf& s, std::uint32_t keep)
+/// round(value(pixel)) in the bytes that keep leaves open; weights are value's. Exact halves are redone in double.
+template <class Value> HWY_INLINE void greyBy(const SpanOf& s, std::uint32_t keep, const Weights& weights, Value value)
 {
     forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
         const hn::Repartition<std::int32_t, decltype(d)> d32;
         const auto source = hn::BitCast(d32, loadBytes(d, s.from + x));
         const auto kept = hn::Set(d32, static_cast<std::int32_t>(keep));
-        const auto withGrey = [&](auto v) HWY_ATTR { return hn::Or(hn::And(kept, source), hn::AndNot(kept, v)); };
-        const auto sum = weighed(d32, source, kGreyWeights);
+        const auto sum = weighed(d32, source, weights);
         const auto v = thousandths(d32, sum);
         const auto all = hn::Or(hn::Or(v, hn::ShiftLeft<8>(v)), hn::ShiftLeft<16>(v));
+        const auto result = hn::BitCast(d, hn::Or(hn::And(kept, source), hn::AndNot(kept, all)));
         const auto tie = hn::Eq(hn::Add(sum, hn::Set(d32, 500)), hn::Mul(v, hn::Set(d32, 1000)));
-        return redone(d, hn::BitCast(d, withGrey(all)), tie, [&](int i) {
+        return redone(d, result, tie, [&](int i) {
             Pixel p = s.from[x + i];
-            const std::uint8_t g = toByte(greyOf(p));
+            const std::uint8_t g = toByte(value(p));
             for (int c = 0; c < 3; ++c)
                 if (!(keep >> 8 * c & 255)) p.c[c] = g;
             return p;
         });
     });
+}
+
+void grey(const SpanOf& s, std::uint32_t keep)
+{
+    greyBy(s, keep, kGreyWeights, [](const Pixel& p) { return greyOf(p); });
+}
+
+void brightness(const Pixel* from, int n, Pixel* out)
+{
+    // in runs too short to be written past the cache, since they are read at once
+    for (int x = 0; x < n; x += kStreamFrom / 2)
+        greyBy({from, 0, out, x, std::min(n, x + kStreamFrom / 2)}, kFourthByte, kBrightnessWeights,
+               [](const Pixel& p) { return brightnessOf(p); });
 }
 
 void bySum(const SpanOf& s, const std::uint32_t* table)
@@ -145,8 +160,8 @@ void copyPast(const Pixel* from, Pixel* to, int n)
 
 const ColourKernels& colourKernelTable()
 {
-    static constexpr ColourKernels table = {channels, add,   threshold,   grey,    bySum,
-                                            saturate, weigh, sumOfThirds, copyPast};
+    static constexpr ColourKernels table = {channels, add,   threshold,  grey,        bySum,
+                                            saturate, weigh, brightness, sumOfThirds, copyPast};
     return table;
 }
 

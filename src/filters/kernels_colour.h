@@ -35,6 +35,8 @@ struct ColourKernels {
     void (*saturate)(const SpanOf&, float k, bool roundsSum);
     /// The weighted sums of n pixels in thousandths.
     void (*weigh)(const Pixel* from, int n, const Weights&, std::int32_t* sums);
+    /// round(brightnessOf) of n pixels, in the three channels of out.
+    void (*brightness)(const Pixel* from, int n, Pixel* out);
     /// The sum of (c0+c1+c2) \ 3 over n pixels; n < 2^21.
     std::uint32_t (*sumOfThirds)(const Pixel* from, int n);
     /// n pixels, written past the cache.
