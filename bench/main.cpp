@@ -4,8 +4,8 @@
 #include "support/argumentRanges.h"
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstring>
+#include <ctime>
 #include <iostream>
 
 namespace velara::bench {
@@ -21,11 +21,18 @@ namespace {
 constexpr int kPairs = 7;
 constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %s\n";
 
-double milliseconds(const std::function<void()>& work)
+/// Of the processor for ratios, so that other programs at work do not count; of the wall clock for rows in ms, which
+/// may wait for the disk.
+double milliseconds(const std::function<void()>& work, clockid_t clock)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const auto now = [clock] {
+        timespec t{};
+        clock_gettime(clock, &t);
+        return double(t.tv_sec) * 1e3 + double(t.tv_nsec) / 1e6;
+    };
+    const double start = now();
     work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    return now() - start;
 }
 
 double median(std::vector<double> values)
@@ -48,13 +55,14 @@ std::function<void()> copying(Size size)
 void measure(benchmark::State& state, const Row& row, Size size)
 try {
     const bool timed = row.unit == "ms";
+    const clockid_t clock = timed ? CLOCK_MONOTONIC : CLOCK_THREAD_CPUTIME_ID;
     Trial trial = row.prepare(size);
     if (!trial.reference) trial.reference = copying(size);
     std::vector<double> bodies, figures;
     trial.body();
     for (auto _ : state) {
-        const double reference = timed ? 1 : milliseconds(trial.reference);
-        bodies.push_back(milliseconds(trial.body));
+        const double reference = timed ? 1 : milliseconds(trial.reference, clock);
+        bodies.push_back(milliseconds(trial.body, clock));
         figures.push_back(bodies.back() / (reference * trial.share));
         state.SetIterationTime(bodies.back() / 1000);
     }

@@ -1,7 +1,9 @@
 // PaletteApply: the palette's nearest colours, with a reduced error diffusion.
+#include "filters/PairTables.h"
 #include "filters/mPalette.h"
 #include "filters/numbers.h"
 #include "filters/passes.h"
+#include <climits>
 #include <cstdlib>
 
 namespace velara {
@@ -24,30 +26,32 @@ class NearestColours {
         Cube& cube = cubes_[std::size_t(p.c[0] >> kShift | p.c[1] >> kShift << kBits | p.c[2] >> kShift << 2 * kBits)];
         if (cube.end == 0) cube = candidatesOf(p);
         // The least of distance << 16 | position, lane by lane: the earlier of two equals wins.
-        std::uint32_t least[kLanes];
-        std::fill_n(least, kLanes, ~0u);
-        for (std::uint32_t block = cube.first; block < cube.end; ++block) {
-            const Candidates& c = candidates_[block];
-            for (std::uint32_t i = 0; i < kLanes; ++i) {
-                const int d =
-                    std::abs(p.c[0] - c.part[0][i]) + std::abs(p.c[1] - c.part[1][i]) + std::abs(p.c[2] - c.part[2][i]);
-                least[i] = std::min(least[i], std::uint32_t(d) << 16 | (block - cube.first) * kLanes | i);
+        const auto lanes = [](int v) { return Lanes{v, v, v, v}; };
+        Lanes least = lanes(INT_MAX);
+        for (int block = cube.first; block < cube.end; ++block) {
+            Lanes far = {};
+            for (int i = 0; i < 3; ++i) {
+                const Lanes d = candidates_[std::size_t(block)].part[i] - lanes(p.c[i]);
+                far += d < 0 ? -d : d;
             }
+            const Lanes key = (far << 16) + (Lanes{0, 1, 2, 3} + lanes((block - cube.first) * kLanes));
+            least = key < least ? key : least;
         }
-        const std::uint32_t best = *std::min_element(least, least + kLanes) & 0xFFFF;
-        const Candidates& c = candidates_[cube.first + best / kLanes];
+        const int best = std::min(std::min(least[0], least[1]), std::min(least[2], least[3])) & 0xFFFF;
+        const Candidates& c = candidates_[std::size_t(cube.first + best / kLanes)];
         const auto part = [&](int i) { return static_cast<std::uint8_t>(c.part[i][best % kLanes]); };
         return {{part(0), part(1), part(2), 0}};
     }
 
   private:
-    static constexpr int kBits = 5, kShift = 8 - kBits, kSide = 1 << kShift, kFarthest = 3 * 255;
-    static constexpr std::uint32_t kLanes = 8;
+    static constexpr int kBits = 4, kShift = 8 - kBits, kSide = 1 << kShift, kFarthest = 3 * 255;
+    static constexpr int kLanes = 4;
+    using Lanes = int __attribute__((vector_size(kLanes * sizeof(int))));
     struct Cube {
-        std::uint32_t first = 0, end = 0; // of candidates_
+        int first = 0, end = 0; // of candidates_
     };
     struct Candidates {
-        int part[3][kLanes]; // blue, green, red; the last one fills up a block
+        Lanes part[3]; // blue, green, red; the last one fills up a block
     };
 
     static Pixel asPixel(const PaletteColor& c) { return {{toByte(c.blue), toByte(c.green), toByte(c.red), 0}}; }
@@ -55,28 +59,29 @@ class NearestColours {
     /// Keeps what can be as near to a colour of p's cube as the entry that is nearest to all of them.
     Cube candidatesOf(const Pixel& p)
     {
-        const auto distances = [&](const Pixel& c) {
+        const auto distances = [&](const PaletteColor& c) {
+            const int parts[] = {c.blue, c.green, c.red};
             int near = 0, far = 0;
             for (int i = 0; i < 3; ++i) {
                 const int low = p.c[i] & ~(kSide - 1), high = low + kSide - 1;
-                near += std::max({low - c.c[i], c.c[i] - high, 0});
-                far += std::max(std::abs(c.c[i] - low), std::abs(c.c[i] - high));
+                near += std::max({low - parts[i], parts[i] - high, 0});
+                far += std::max(std::abs(parts[i] - low), std::abs(parts[i] - high));
             }
             return std::pair(near, far);
         };
         int reach = kFarthest;
-        for (const PaletteColor& c : colours_) reach = std::min(reach, distances(asPixel(c)).second);
-        const auto first = static_cast<std::uint32_t>(candidates_.size());
-        std::uint32_t count = 0;
+        for (const PaletteColor& c : colours_) reach = std::min(reach, distances(c).second);
+        const int first = static_cast<int>(candidates_.size());
+        int count = 0;
         for (const PaletteColor& c : colours_) {
-            if (distances(asPixel(c)).first > reach) continue;
+            if (distances(c).first > reach) continue;
             if (count % kLanes == 0) candidates_.emplace_back();
-            for (std::uint32_t i = count++ % kLanes; i < kLanes; ++i) {
-                int(&part)[3][kLanes] = candidates_.back().part;
+            for (int i = count++ % kLanes; i < kLanes; ++i) {
+                Lanes(&part)[3] = candidates_.back().part;
                 part[0][i] = c.blue, part[1][i] = c.green, part[2][i] = c.red;
             }
         }
-        return {first, static_cast<std::uint32_t>(candidates_.size())};
+        return {first, static_cast<int>(candidates_.size())};
     }
 
     std::vector<PaletteColor> colours_;
@@ -84,6 +89,10 @@ class NearestColours {
     std::vector<Cube> cubes_{std::size_t{1} << 3 * kBits};
     std::vector<Candidates> candidates_;
 };
+
+constexpr int kUnseen = 3; // an error of all channels that is not spread
+
+inline std::uint8_t clamp32(int v) { return static_cast<std::uint8_t>(std::min(std::max(v, 0), 255)); }
 
 } // namespace
 
@@ -96,19 +105,28 @@ Bits cBitFilter::PaletteApply()
     NearestColours nearest;
     for (int y = box.ymin; y <= box.ymax; ++y) {
         Pixel *row = source.row(y), *below = source.row(std::min(y + 1, source.maxY())), *to = out.row(y);
-        for (const Span s : region.spans(y))
-            for (int x = std::max(s.x0, box.xmin), end = std::min(s.x1, box.xmax + 1); x < end; ++x) {
-                const Pixel found = nearest(row[x]);
-                std::copy_n(found.c, 3, to[x].c);
-                int error[3];
-                for (int c = 0; c < 3; ++c) error[c] = row[x].c[c] - found.c[c];
-                if (std::abs(error[1]) + std::abs(error[2]) + std::abs(error[0]) <= 3) continue;
-                const auto spread = [&](Pixel& p, int weight) {
-                    for (int c = 0; c < 3; ++c) p.c[c] = clamp(p.c[c] + error[c] * weight / 16);
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, box.xmin), end = std::min(s.x1, box.xmax + 1);
+            Pixel p = x0 < end ? row[x0] : Pixel{}; // kept at hand: the next one waits for its share of the error
+            for (int x = x0; x < end; ++x) {
+                const Pixel found = nearest(p);
+                to[x] = pixelFrom((wordOf(found) & ~kFourthByte) | (wordOf(to[x]) & kFourthByte));
+                int error[3], size = 0;
+                for (int c = 0; c < 3; ++c) error[c] = p.c[c] - found.c[c], size += std::abs(error[c]);
+                const auto spread = [&](Pixel& on, int weight) {
+                    std::uint32_t word = wordOf(on) & kFourthByte;
+                    for (int c = 0; c < 3; ++c)
+                        word |= std::uint32_t{clamp32(on.c[c] + error[c] * weight / 16)} << 8 * c;
+                    on = pixelFrom(word);
                 };
-                if (x < source.maxX()) spread(row[x + 1], 7);
-                if (y < source.maxY() && x >= 1 && x < source.maxX()) spread(below[x], 4);
+                Pixel next = row[x + 1]; // may be margin
+                if (size > kUnseen) {
+                    if (x < source.maxX()) spread(next, 7), row[x + 1] = next;
+                    if (y < source.maxY() && x >= 1 && x < source.maxX()) spread(below[x], 4);
+                }
+                p = next;
             }
+        }
         progressDue(y, source.maxY());
     }
     report(100);
