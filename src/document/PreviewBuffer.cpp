@@ -19,6 +19,13 @@ bool PreviewBuffer::inStep() const
     return isSame(document_.Bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
 }
 
+bool PreviewBuffer::isOurs() const { return inStep() || document_.Bits().sharesWith(filter_.bits()); }
+
+void PreviewBuffer::prepare()
+{
+    if (isOurs()) begin();
+}
+
 void PreviewBuffer::remember()
 {
     shown_ = document_.Bits().block();

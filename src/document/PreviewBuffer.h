@@ -18,6 +18,10 @@ class PreviewBuffer {
     /// Before the first write of a drag: gives the document a block of its own. An engine that holds a picture of
     /// another size is given the document's.
     void begin();
+    /// begin() ahead of time, where the engine's picture is known to be the document's.
+    void prepare();
+    /// False when the engine holds the picture of another document, or may.
+    bool isOurs() const;
     /// document := committed picture.
     void restore();
     /// committed picture := document.

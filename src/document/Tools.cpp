@@ -137,6 +137,16 @@ void Tools::endRelease()
     active_ = nullptr;
 }
 
+void Tools::deactivated()
+{
+    ToolContext& c = context_;
+    if (active_) active_->cancel(c);
+    if ((active_ || c.stores().pastePending) && c.preview.isOurs())
+        if (!guarded([&] { c.preview.restore(); })) return;
+    active_ = nullptr;
+    c.down = c.moving = false;
+}
+
 void Tools::showPosition(int button)
 {
     const ToolContext& c = context_;

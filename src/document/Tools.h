@@ -25,6 +25,9 @@ class Tools {
     /// Numbers as in Key. False: the key has no use here.
     bool keyDown(int key);
     bool keyUp(int key);
+    /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what
+    /// hangs on the pointer leaves the picture.
+    void deactivated();
     /// Shows the pointer of the chosen tool.
     void showPointer();
 

@@ -172,6 +172,7 @@ void fImage::activate()
 
 void fImage::deactivate()
 {
+    tools_->deactivated();
     StopTimer();
     UpdateImage();
 }

@@ -27,6 +27,8 @@ class StrokeTool : public Tool {
         c.repaint();
     }
     void release(ToolContext& c) const final { c.commit(); }
+    /// The whole copy of the first stroke is made while nothing waits for it.
+    void hover(ToolContext& c) const final { c.preview.prepare(); }
 
   protected:
     virtual bool isReady(const ToolContext&) const { return true; }
@@ -188,6 +190,7 @@ class PasteTool final : public Tool {
     {
         const Bits paste = c.stores().paste;
         if (paste.isNull()) return letGo(c);
+        if (!c.preview.isOurs()) return; // over a document that is not the active one
         const Point hot = middleOf(paste);
         c.surface.StopTimer();
         c.preview.restore();

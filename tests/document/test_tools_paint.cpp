@@ -4,6 +4,7 @@
 #include "paintTwins.h"
 #include <QDir>
 #include <QImage>
+#include <random>
 
 namespace velara {
 namespace {
@@ -370,6 +371,112 @@ TEST_F(PaintTools, ACommandBetweenTwoStrokesIsNotLost)
     move({41, 30});
     tools->release(Tools::Right, 41, 30);
     EXPECT_TRUE(sameBits(before, document.Bits()));
+}
+
+TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
+{
+    choose("Shape");
+    press({10, 10});
+    move({40, 30});
+    tools->deactivated();
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    const Bits other = randomBits(33, 22, 5); // the other one hands its picture to the engine
+    frame.filter_.setBits(other);
+    move({45, 35});
+    release({45, 35});
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
+    EXPECT_EQ(frame.snapshots, 0);
+
+    tools->move(Tools::NoButton, 12, 12); // passing over it leaves the engine to the active one
+    frame.toolStores.paste = randomBits(8, 6, 5);
+    frame.toolStores.pastePending = true;
+    tools->move(Tools::NoButton, 20, 20);
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
+
+    document.handTo(frame.filter_); // active again: the paste hangs on the pointer, and leaves with it
+    tools->move(Tools::NoButton, 21, 20);
+    EXPECT_FALSE(sameBits(before, document.Bits()));
+    tools->deactivated();
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(frame.toolStores.pastePending);
+}
+
+/// Any order of events, settings out of a damaged configuration, and commands in between: a right click always shows
+/// the committed picture.
+TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
+{
+    std::mt19937 random(2024);
+    const auto within = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    const auto setting = [&] {
+        return static_cast<std::int16_t>(within(0, 4) ? within(-2, 120) : within(-32768, 32767));
+    };
+    const char* names[] = {"Select", "SelectionMove", "Brush",    "Airbrush", "Pencil", "Shape",   "Fill",
+                           "Stamp",  "Text",          "Gradient", "GetColor", "",       "Nonsense"};
+    frame.toolStores.text = randomBits(20, 10, 2);
+    frame.toolStores.paste = randomBits(30, 20, 3);
+    for (int event = 0; event < 6000; ++event) {
+        auto& s = frame.setup_;
+        const int x = within(-20, 80), y = within(-20, 70), button = within(0, 2);
+        switch (within(0, 24)) {
+        case 0:
+        case 1:
+            choose(names[within(0, 12)]);
+            break;
+        case 2:
+            for (std::int16_t* v : {&s.BrushSize, &s.BrushPressure, &s.AirbrushSize, &s.AirbrushPressure,
+                                    &s.AirbrushQuantity, &s.AirbrushDefinition, &s.FillTolerance, &s.FillPressure,
+                                    &s.ShapePressure, &s.StampPressure, &s.SelectionPressure, &s.ClipOpacity})
+                *v = setting();
+            for (std::int16_t* v : {&s.BrushMode, &s.ShapeKind, &s.FillMode, &s.SelectionMode, &s.SelectionShape})
+                *v = static_cast<std::int16_t>(within(-1, 7));
+            s.ShapeSides = static_cast<std::int16_t>(within(-1, 40));
+            s.GradientMode = within(-1, 2);
+            s.MoveSelection = within(0, 1);
+            s.StampMask = within(0, 1);
+            s.StampClearBack = within(0, 1);
+            break;
+        case 3:
+            frame.toolStores.pastePending = within(0, 3) == 0;
+            break;
+        case 4: // a filter
+            frame.filter_.setBits(frame.filter_.Invert());
+            document.setBits(frame.filter_.bits());
+            break;
+        case 5: // another picture
+            if (within(0, 9)) break;
+            document.takePicture(randomBits(within(1, 70), within(1, 60), random()));
+            document.handTo(frame.filter_);
+            break;
+        case 6:
+            if (within(0, 1))
+                document.Region.Invert();
+            else
+                tools->deactivated();
+            break;
+        case 7:
+            tools->keyDown(within(30, 42));
+            tools->keyUp(Tools::Ctrl);
+            break;
+        case 8:
+        case 9:
+        case 10:
+            tools->press(button, x, y);
+            break;
+        case 11:
+        case 12:
+            tools->release(button, x, y);
+            break;
+        case 13:
+            tools->release(Tools::Right, x, y);
+            ASSERT_TRUE(sameBits(frame.filter_.bits(), document.Bits())) << event;
+            ASSERT_FALSE(tools->ToolDown());
+            break;
+        default:
+            tools->move(button, x, y);
+        }
+    }
 }
 
 TEST(Stamps, AreTheBitmapsOfTheirFolder)
