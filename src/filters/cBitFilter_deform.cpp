@@ -141,12 +141,12 @@ Bits cBitFilter::TILE(int Factor)
     };
     const Axis horizontal(in.maxX(), Factor), vertical(in.maxY(), Factor);
     const Box box = GetBounds(0);
-    // One row of the tile, repeated over the picture's width.
-    std::vector<Pixel> line(static_cast<std::size_t>(in.width()));
+    std::vector<std::int32_t> columns(static_cast<std::size_t>(in.width()));
+    for (int x = std::max(box.xmin, 0); x <= std::min(box.xmax, in.maxX()); ++x)
+        columns[x] = horizontal.source((x - box.xmin) % horizontal.step);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const Pixel* source = in.row(vertical.source((y - box.ymin) % vertical.step));
-        for (int x = x0; x < x1; ++x)
-            to[x] = withColour(source[horizontal.source((x - box.xmin) % horizontal.step)], from[x]);
+        for (int x = x0; x < x1; ++x) to[x] = withColour(source[columns[x]], from[x]);
     });
 }
 

@@ -1,4 +1,5 @@
 // The operations in place that cut, turn and take over the picture.
+#include "filters/kernels_warp.h"
 #include "filters/numbers.h"
 #include "filters/passes.h"
 
@@ -8,20 +9,6 @@ namespace {
 
 constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
 constexpr int kTurnTile = 32; // its columns of the target and rows of the source stay in the first cache
-
-/// A tile of Source, columns x0..x1-1 and rows y0..y1-1, turned: (x, y) goes to (y, maxX-x) with a fourth byte of 0.
-void turnTile(const Bits& in, Bits& out, int x0, int x1, int y0, int y1)
-{
-    const std::ptrdiff_t stride = in.stride();
-    for (int x = x0; x < x1; ++x) {
-        const Pixel* from = in.row(0) + x;
-        Pixel* to = out.row(in.maxX() - x);
-        for (int y = y0; y < y1; ++y) {
-            to[y] = from[y * stride];
-            to[y].c[3] = 0;
-        }
-    }
-}
 
 } // namespace
 
@@ -76,7 +63,7 @@ void cBitFilter::BitsRotate90(const Bits& Source)
     for (int y0 = 0; y0 < in.height(); y0 += kTurnTile) {
         const int y1 = std::min(y0 + kTurnTile, in.height());
         for (int x0 = 0; x0 < in.width(); x0 += kTurnTile)
-            turnTile(in, out, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
+            turnPixels(in, out, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
         for (int y = y0; y < y1; ++y) progressDue(y, in.maxY());
     }
     bits_ = out;

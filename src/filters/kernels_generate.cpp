@@ -1,12 +1,14 @@
 #include "filters/kernels_generate.h"
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filters/kernels_generate.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "filters/lanes-inl.h"
 #include "filters/random-inl.h"
 #include <hwy/contrib/math/math-inl.h>
 
@@ -19,15 +21,6 @@ using Doubles = hn::ScalableTag<double>;
 using HalfSingles = hn::Rebind<float, Doubles>;
 using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
-
-template <class D, class M> std::uint64_t laneBits(D d, M mask)
-{
-    alignas(8) std::uint8_t bits[8] = {};
-    hn::StoreMaskBits(d, mask, bits);
-    std::uint64_t all;
-    std::memcpy(&all, bits, sizeof all);
-    return all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
-}
 
 /// body(from, to, i) for whole vectors of `lanes` pixels; the last ones in buffers of their own.
 template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
@@ -67,7 +60,7 @@ void multiplyImpl(const Pixel* from, const Pixel* factors, int n, Pixel* to)
 }
 
 /// The channels of a pixel in doubles, as many at a time as fit; blend(channels, c) gives the new ones. The lanes below
-/// 0 or above 255 are gathered in bad.
+/// 0 or above 255 are gathered in bad. The fourth byte must be 0, so that its blend can't fail.
 template <class Blend, class Bad> void blendChannels(const Pixel& from, Pixel& to, Bad& bad, Blend&& blend)
 {
     const hn::CappedTag<double, 4> d;
@@ -81,18 +74,16 @@ template <class Blend, class Bad> void blendChannels(const Pixel& from, Pixel& t
         bad = hn::Or(bad, hn::Xor(v, limited));
         hn::StoreU(hn::DemoteTo(bytes, hn::DemoteTo(words, limited)), bytes, result.c + c);
     }
-    result.c[3] = from.c[3];
     to = result;
 }
 
-/// Whether any lane of bad, but for a fourth channel's, holds more than a sign of zero.
+/// Whether any lane of bad holds more than the sign of a zero.
 template <class V> bool isBad(V bad)
 {
     const hn::CappedTag<double, 4> d;
     alignas(32) double lanes[4];
     hn::Store(bad, d, lanes);
-    const std::size_t count = hn::Lanes(d) == 4 ? 3 : hn::Lanes(d);
-    return std::any_of(lanes, lanes + count, [](double v) { return v != 0; });
+    return std::any_of(lanes, lanes + hn::Lanes(d), [](double v) { return v != 0; });
 }
 
 bool overlayImpl(const Pixel* from, const Pixel* over, double rest, double part, std::int32_t key, int n, Pixel* to)
@@ -109,7 +100,6 @@ bool overlayImpl(const Pixel* from, const Pixel* over, double rest, double part,
             to[i] = from[i];
             continue;
         }
-        // The fourth byte stays; it blends with itself so that it can't fail.
         Pixel laid = over[i];
         laid.c[3] = 0;
         Pixel under = from[i];

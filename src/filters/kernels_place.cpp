@@ -7,6 +7,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "filters/lanes-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
@@ -16,16 +18,6 @@ using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
 using Doubles = hn::ScalableTag<double>;
 using HalfWords = hn::Rebind<std::int32_t, Doubles>; // as many words as there are doubles
-
-/// The bits of the lanes of mask, lane 0 lowest.
-template <class D, class M> std::uint64_t laneBits(D d, M mask)
-{
-    alignas(8) std::uint8_t bits[8] = {};
-    hn::StoreMaskBits(d, mask, bits);
-    std::uint64_t all;
-    std::memcpy(&all, bits, 8);
-    return hn::Lanes(d) >= 64 ? all : all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
-}
 
 /// Where v lies nearer than tolerance to a half, so that rounding might go either way.
 template <class V> auto nearHalf(V v, V rounded, V half, V tolerance)
@@ -94,7 +86,7 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
         const auto whole = hn::NearestInt(radius);
         const auto r = hn::ConvertTo(d, whole);
         const auto scale = hn::Div(r, hn::Max(radius, half));
-        const auto c = hn::GatherIndex(d, twirl.cosine, whole), s = hn::GatherIndex(d, twirl.sine, whole);
+        const auto c = loadEach(d, twirl.cosine, whole), s = loadEach(d, twirl.sine, whole);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
         const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);

@@ -1,6 +1,6 @@
 #include "filters/kernels_warp.h"
 #include "filters/numbers.h"
-#include "filters/passes.h"
+#include "filters/passes_warp.h"
 #include <type_traits>
 
 #ifndef VELARA_KERNELS_WARP_TYPES
@@ -12,6 +12,13 @@ struct TakeJob {
     std::int32_t stride;
     Rect rect;
     bool marked, clean;
+};
+
+struct TurnJob {
+    const std::uint32_t* from;
+    std::ptrdiff_t fromStride;
+    std::uint32_t* to;
+    std::ptrdiff_t toStride;
 };
 
 struct BlendJob {
@@ -27,21 +34,13 @@ struct BlendJob {
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "filters/lanes-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace velara {
 namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
-
-/// The bits of the lanes of mask, lane 0 lowest.
-template <class D, class M> std::uint64_t laneBits(D d, M mask)
-{
-    alignas(8) std::uint8_t bits[8] = {};
-    hn::StoreMaskBits(d, mask, bits);
-    std::uint64_t all;
-    std::memcpy(&all, bits, sizeof all);
-    return all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
-}
 
 /// A word a lane; the lanes whose source is not selected read the pixel (left, top) and drop it.
 void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
@@ -58,7 +57,7 @@ void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         auto inside = hn::And(hn::And(hn::Gt(x, hn::Sub(left, one)), hn::Lt(x, right)),
                               hn::And(hn::Gt(y, hn::Sub(top, one)), hn::Lt(y, bottom)));
         const auto sourceX = hn::IfThenElse(inside, x, left), sourceY = hn::IfThenElse(inside, y, top);
-        const auto found = hn::GatherIndex(d, job.origin, hn::Add(hn::Mul(sourceY, stride), sourceX));
+        const auto found = loadEach(d, job.origin, hn::Add(hn::Mul(sourceY, stride), sourceX));
         if (job.marked) inside = hn::And(inside, hn::Ne(hn::AndNot(colour, found), hn::Zero(d)));
         const auto old = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(from));
         const auto taken = hn::Or(hn::And(colour, found), hn::AndNot(colour, old));
@@ -93,8 +92,8 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
             hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
         const auto upper = hn::Add(hn::Mul(hn::IfThenElse(inside, y, zero), stride), hn::IfThenElse(inside, x, zero));
         const auto lower = hn::Add(upper, stride);
-        const auto p00 = hn::GatherIndex(d, job.origin, upper), p10 = hn::GatherIndex(d, job.origin + 1, upper);
-        const auto p01 = hn::GatherIndex(d, job.origin, lower), p11 = hn::GatherIndex(d, job.origin + 1, lower);
+        const auto p00 = loadEach(d, job.origin, upper), p10 = loadEach(d, job.origin + 1, upper);
+        const auto p01 = loadEach(d, job.origin, lower), p11 = loadEach(d, job.origin + 1, lower);
         const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
         auto doubt = hn::Zero(singles);
         const auto blend = [&](auto from, auto to, auto part) {
@@ -122,6 +121,32 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
             for (int j = i; j < i + count; ++j) to[j].c[3] = kept[j].c[3];
     }
     return doubtful;
+}
+
+/// Four by four pixels: from and to are to the first one, in pixels from row to row; the target's rows run upward.
+void turnFours(const TurnJob& job, int columns, int rows)
+{
+    const hn::FixedTag<std::uint32_t, 4> d;
+    const hn::FixedTag<std::uint64_t, 2> pairs;
+    const auto colour = hn::Set(d, 0xFFFFFF);
+    for (int x = 0; x < columns; x += 4)
+        for (int y = 0; y < rows; y += 4) {
+            const auto row = [&](int j) {
+                return hn::And(hn::LoadU(d, job.from + (y + j) * job.fromStride + x), colour);
+            };
+            const auto a = row(0), b = row(1), c = row(2), e = row(3);
+            const auto abLow = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
+            const auto abHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
+            const auto ceLow = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
+            const auto ceHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
+            const auto store = [&](auto column, int j) {
+                hn::StoreU(hn::BitCast(d, column), d, job.to - (x + j) * job.toStride + y);
+            };
+            store(hn::InterleaveLower(pairs, abLow, ceLow), 0);
+            store(hn::InterleaveUpper(pairs, abLow, ceLow), 1);
+            store(hn::InterleaveLower(pairs, abHigh, ceHigh), 2);
+            store(hn::InterleaveUpper(pairs, abHigh, ceHigh), 3);
+        }
 }
 
 } // namespace HWY_NAMESPACE
@@ -177,6 +202,19 @@ std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::i
     const BlendJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
                        bits.width(), bits.height()};
     return HWY_DYNAMIC_DISPATCH(blendRow)(job, ix, iy, fx, fy, n, kept, to);
+}
+
+HWY_EXPORT(turnFours);
+
+void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1)
+{
+    const int columns = (x1 - x0) / 4 * 4, rows = (y1 - y0) / 4 * 4;
+    const TurnJob job{reinterpret_cast<const std::uint32_t*>(in.row(y0) + x0), in.stride(),
+                      reinterpret_cast<std::uint32_t*>(out.row(in.maxX() - x0) + y0), out.stride()};
+    HWY_DYNAMIC_DISPATCH(turnFours)(job, columns, rows);
+    for (int y = y0; y < y1; ++y)
+        for (int x = y < y0 + rows ? x0 + columns : x0; x < x1; ++x)
+            out.at(y, in.maxX() - x) = withColour(in.at(x, y), Pixel{});
 }
 
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)

@@ -33,4 +33,7 @@ std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::i
 /// The same blend of one target, exactly; the fourth byte stays.
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to);
 
+/// The columns x0..x1-1 and rows y0..y1-1 of in, a quarter turned: (x, y) goes to (y, maxX-x) with a fourth byte of 0.
+void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1);
+
 } // namespace velara
