@@ -51,7 +51,7 @@ Bits cBitFilter::TWIRL(int Level, int OffsetDegrees, bool Clean)
     const double longest = longestRadius(bits_), widest = std::abs(longest * k) + std::abs(offset) + 5;
     const bool isSafe = widest < 1000;
     std::vector<float> cosine, sine;
-    for (int r = 0; isSafe && r <= longest + 1; ++r) {
+    for (int r = 0; isSafe && r <= longest + kPlaces; ++r) { // the last vector of a row reads beyond it
         cosine.push_back(static_cast<float>(std::cos(offset - r * static_cast<double>(k))));
         sine.push_back(static_cast<float>(std::sin(offset - r * static_cast<double>(k))));
     }
