@@ -1,9 +1,11 @@
 // Toolbars, boxes, the status bar and the side pane: shown, hidden and remembered in Setup.
+#include "app/fHover.h"
 #include "app/fIcons.h"
 #include "app/fMain.h"
 #include "app/fStatus.h"
 #include "app/fToolPane.h"
 #include "app/menus.h"
+#include "document/fToolPanes.h"
 #include "platform/Platform.h"
 #include <QColorDialog>
 #include <QMenu>
@@ -158,33 +160,12 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
 
 // --- Tools
 
-namespace {
-
-/// The panes of the tools in the order in which they are made. make fills one from the configuration; without it the
-/// tool's place stays empty.
-struct ToolPaneRow {
-    const char* key;
-    QWidget* (*make)(fMain&);
-};
-// clang-format off
-constexpr ToolPaneRow kToolPanes[] = {
-    {"SelectionMove", nullptr},
-    {"Select",        nullptr},
-    {"Airbrush",      nullptr},
-    {"Brush",         nullptr},
-    {"Fill",          nullptr},
-    {"Shape",         nullptr},
-    {"Gradient",      nullptr},
-    {"Stamp",         nullptr},
-};
-// clang-format on
-
-} // namespace
-
 void fMain::initToolPanes()
 {
-    for (const ToolPaneRow& row : kToolPanes)
-        if (row.make) toolPane_->setPane(row.key, row.make(*this));
+    for (const char* tool : {"SelectionMove", "Select", "Airbrush", "Brush", "Fill", "Shape", "Gradient", "Stamp"}) {
+        toolPane_->setPane(tool, makeSidePane(tool, *this));
+        new fHover(toolPane_->button(tool), [this, tool] { return makePopup(tool, *this, this); });
+    }
     Tool_Frame();
 }
 
