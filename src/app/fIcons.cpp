@@ -2,6 +2,7 @@
 #include "app/menus.h"
 #include <QApplication>
 #include <QPalette>
+#include <QStandardPaths>
 
 static void initResources() { Q_INIT_RESOURCE(velara); }
 
@@ -12,6 +13,11 @@ void useResources() { initResources(); }
 void useIconTheme()
 {
     const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    // Without a desktop around us Qt looks nowhere.
+    QStringList paths = QIcon::themeSearchPaths();
+    for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+        if (!paths.contains(folder + "/icons")) paths << folder + "/icons";
+    QIcon::setThemeSearchPaths(paths);
     QIcon::setFallbackThemeName("breeze");
     QIcon::setThemeName(dark ? "breeze-dark" : "breeze");
 }

@@ -136,7 +136,7 @@ QString sizeText(const fImage& image)
 void fMain::ZoomImage(int factor, bool enlarge, bool quality)
 {
     fImage* image = GetActiveImage();
-    if (!image) return;
+    if (!image || !image->PictureExists()) return;
     setZoom(1);
     zoomImage(image->document(), cFilter_, factor, enlarge, quality);
     image->pictureChanged();
@@ -163,6 +163,7 @@ void fMain::RotateImage(int degrees, bool quality)
 void fMain::crop()
 {
     fImage* image = GetActiveImage();
+    if (!image->PictureExists()) return;
     switch (cropImage(image->document(), cFilter_)) {
     case CropAnswer::NothingSelected:
         return platform_.message("Crop", "Nothing selected", Icon::Information);

@@ -24,6 +24,14 @@ void frame3d(QPainter& painter, const QPalette& palette, int left, int top, int 
     painter.drawLine(right, bottom, left, bottom);
 }
 
+/// Half way between text and ground: not every palette's own colour for what is disabled can be read.
+QColor paleText(const QPalette& palette)
+{
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText), ground = palette.color(QPalette::Window);
+    return QColor((text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
+                  (text.blue() + ground.blue()) / 2);
+}
+
 struct ItemText {
     QString caption, shortcut;
 };
@@ -39,7 +47,18 @@ ItemText split(const QString& text)
 int fMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     if (metric == PM_SmallIconSize && widget && widget->inherits("QMenu")) return kPicture;
+    if (metric == PM_MenuPanelWidth) return 1;
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void fMenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (element != PE_FrameMenu) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    painter->save();
+    painter->setPen(paleText(option->palette));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 QSize fMenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -65,7 +84,6 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
     const QRect box = item->rect;
     const bool enabled = item->state & State_Enabled;
     const bool selected = (item->state & State_Selected) && enabled;
-    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
     painter->save();
 
     if (item->menuItemType == QStyleOptionMenuItem::Separator) {
@@ -84,7 +102,9 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
         painter->fillRect(box.adjusted(offset, 0, 0, 0), palette.highlight());
     }
 
-    const QColor ink = palette.color(group, selected ? QPalette::HighlightedText : QPalette::WindowText);
+    const QColor ink = selected  ? palette.color(QPalette::Active, QPalette::HighlightedText)
+                       : enabled ? palette.color(QPalette::Active, QPalette::WindowText)
+                                 : paleText(palette);
     const ItemText text = split(item->text);
     const QRect line = box.adjusted(kTextLeft, 0, -kArrow, 0);
     painter->setPen(ink);

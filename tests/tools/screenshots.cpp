@@ -1,0 +1,153 @@
+// Takes pictures of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
+// QT_SCALE_FACTOR. Works without a display.
+#include "app/fIcons.h"
+#include "app/fMenuStyle.h"
+#include "app/fPreferences.h"
+#include "app/fSplash.h"
+#include "app/fStartup.h"
+#include "app/menus.h"
+#include "support/RecordingPlatform.h"
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QTimer>
+#include <QToolButton>
+#include <cstdio>
+
+using namespace velara;
+
+namespace {
+
+QString folder, suffix;
+
+void settle(int milliseconds = 60)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+}
+
+void save(const QPixmap& pixmap, const QString& name)
+{
+    const QString path = folder + "/" + name + suffix + ".png";
+    if (!pixmap.save(path)) std::fprintf(stderr, "can't write %s\n", qPrintable(path));
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(49, 54, 59));
+    palette.setColor(QPalette::Base, QColor(35, 38, 41));
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+/// The frame with one of its menus open over it, submenus beside it.
+void shootMenu(QWidget& frame, QMenu& menu)
+{
+    QPixmap all = frame.grab();
+    QPainter painter(&all);
+    QPoint at = frame.mapFromGlobal(menu.pos());
+    painter.drawPixmap(at, menu.grab());
+    at.rx() += menu.width();
+    for (QAction* item : menu.actions())
+        if (QMenu* sub = item->menu()) {
+            sub->popup(QPoint(0, 0));
+            settle(20);
+            painter.drawPixmap(at, sub->grab());
+            at.rx() += sub->width() + 4;
+            if (at.x() + 120 > frame.width())
+                at = QPoint(frame.mapFromGlobal(menu.pos()).x() + menu.width(), at.y() + 200);
+            sub->close();
+        }
+    painter.end();
+    save(all, "menu_" + menu.objectName());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: screenshots FOLDER light|dark\n");
+        return 2;
+    }
+    folder = argv[1];
+    QDir().mkpath(folder);
+    const bool dark = QString(argv[2]) == "dark";
+    suffix = QString(dark ? "_dark" : "") + (qApp->devicePixelRatio() > 1 ? "_2x" : "");
+    application.setStyle(new fMenuStyle);
+    if (dark) application.setPalette(darkPalette());
+
+    RecordingPlatform platform;
+    platform.onYield = [] { QCoreApplication::processEvents(); };
+    Setup setup;
+    const auto frame = startEditor(platform, setup);
+    frame->resize(1100, 760);
+    settle();
+    save(frame->grab(), "frame_empty");
+    const QString picture = platform.folder.filePath("Images/Velara.bmp");
+    platform.answers = {picture, picture};
+    frame->Mmenu("OPEN");
+    frame->Mmenu("OPEN");
+    frame->Mmenu("LIGHTEMBOSS");
+    const auto windows = frame->area().subWindowList();
+    windows[0]->setGeometry(20, 20, 560, 420);
+    windows[1]->setGeometry(260, 120, 600, 420);
+    settle();
+    save(frame->grab(), "frame_two_pictures");
+
+    for (QMenu* menu : frame->menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly)) {
+        if (menu->objectName().isEmpty()) continue;
+        menu->popup(frame->mapToGlobal(QPoint(frame->menuBar()->actionGeometry(menu->menuAction()).bottomLeft())));
+        settle(20);
+        for (QAction* item : menu->actions())
+            if (item->isEnabled() && !item->isSeparator() && !item->icon().isNull()) {
+                menu->setActiveAction(item);
+                break;
+            }
+        settle(20);
+        shootMenu(*frame, *menu);
+        menu->close();
+    }
+
+    fPreferences options(platform, setup, frame.get());
+    options.show();
+    settle();
+    save(options.grab(), "options");
+    options.hide();
+
+    QMessageBox question(QMessageBox::Information, "Velara Studio",
+                         "/home/ana/pictures/lake.bmp\nThis image has changed.\nDo you want to save it ?",
+                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    question.show();
+    settle();
+    save(question.grab(), "close_question");
+    question.hide();
+
+    fSplash about(platform, frame.get());
+    about.show();
+    settle();
+    save(about.grab(), "about");
+    about.hide();
+
+    for (const char* word : {"CUSTOMGLASS", "COLORIZE", "RGBBANKS"}) {
+        QTimer::singleShot(400, [word] {
+            if (QWidget* dialog = QApplication::activeModalWidget()) {
+                save(dialog->grab(), QString("filter_") + word);
+                dialog->close();
+            }
+        });
+        frame->Mmenu(word);
+    }
+    setup.AskToSave = false;
+    frame->close();
+    return 0;
+}
