@@ -115,11 +115,11 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
 
     const QRect place(box.left() + 4, box.top() + (box.height() - kPicture) / 2, kPicture, kPicture);
     if (checked) {
-        QStyleOptionButton mark;
-        mark.rect = place;
-        mark.palette = palette;
-        mark.state = State_On | State_Enabled;
-        proxy()->drawPrimitive(PE_IndicatorMenuCheckMark, &mark, painter, widget);
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(palette.color(QPalette::WindowText), 1.8));
+        const QPoint tick[] = {{3, 8}, {7, 12}, {13, 4}};
+        painter->drawPolyline(QPolygon(QList<QPoint>(std::begin(tick), std::end(tick))).translated(place.topLeft()));
+        painter->setRenderHint(QPainter::Antialiasing, false);
     } else if (!item->icon.isNull()) {
         item->icon.paint(painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
     }
