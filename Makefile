@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize bench format check-format setup clean
+.PHONY: all run test test-sanitize screenshots bench format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -22,6 +22,9 @@ test-sanitize: setup
 	cmake --preset sanitize >/dev/null
 	cmake --build --preset sanitize
 	ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
+
+screenshots: all
+	@scripts/screenshots.sh $(RELEASE)/bin docs/screenshots
 
 bench: all
 	$(RELEASE)/bin/velara-bench

@@ -1,0 +1,11 @@
+#!/bin/sh
+# Takes the pictures of docs/screenshots anew: every window, light and dark, at one and at two times the size.
+set -eu
+bin=$1
+out=$2
+for palette in light dark; do
+    for scale in 1 2; do
+        QT_LOGGING_RULES="*.warning=false" QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$scale "$bin/screenshots" "$out" $palette 2>/dev/null
+    done
+done
+echo "$out"
