@@ -26,15 +26,34 @@ PixelMask maskOf(const Region& region, const Bits& bits)
     return mask;
 }
 
-/// The rectangle of the region inside the picture, if that is all of it.
-bool isRectangle(const Region& region, const Box& box)
-{
-    for (int y = box.ymin; y <= box.ymax; ++y) {
-        const auto spans = region.spans(y);
-        if (spans.size() != 1 || spans[0].x0 > box.xmin || spans[0].x1 <= box.xmax) return false;
+/// The widest span of each row of the box.
+class WidestSpans {
+  public:
+    WidestSpans(const Region& region, const Box& box) : box_(box)
+    {
+        for (int y = box.ymin; y <= box.ymax; ++y) {
+            Span widest{0, 0};
+            for (const Span s : region.spans(y))
+                if (s.x1 - s.x0 > widest.x1 - widest.x0) widest = s;
+            rows_.push_back(widest);
+        }
     }
-    return true;
-}
+
+    /// True when the region covers all of the rectangle that lies in the box. False may be wrong.
+    bool cover(const Box& part) const
+    {
+        const int x0 = std::max(part.xmin, box_.xmin), x1 = std::min(part.xmax, box_.xmax) + 1;
+        for (int y = std::max(part.ymin, box_.ymin); y <= std::min(part.ymax, box_.ymax); ++y) {
+            const Span widest = rows_[static_cast<std::size_t>(y - box_.ymin)];
+            if (widest.x0 > x0 || widest.x1 < x1) return false;
+        }
+        return true;
+    }
+
+  private:
+    const Box box_;
+    std::vector<Span> rows_;
+};
 
 /// The same by definition, for ranges of any size and what is left of a vector.
 void diffuseLiterally(SpanOf s, int y, int horizontal, int vertical, Random random, std::uint32_t first,
@@ -66,12 +85,14 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
     const Box box = insidePicture(GetBounds(0), in);
     const Random random = nextRandom();
     if (box.isEmpty()) return eachSpan(0, copyPixels);
-    const bool plain = isRectangle(region, box), small = isSmall(HorizontalRange) && isSmall(VerticalRange);
-    const PixelMask mask = plain ? PixelMask() : maskOf(region, in);
-    const Sources among{box.xmin, box.xmax + 1, box.ymin, box.ymax + 1, plain ? nullptr : &mask};
+    const bool small = isSmall(HorizontalRange) && isSmall(VerticalRange);
+    const WidestSpans widest(region, box);
+    const PixelMask mask = widest.cover(box) ? PixelMask() : maskOf(region, in);
+    Sources among{box.xmin, box.xmax + 1, box.ymin, box.ymax + 1, nullptr};
 
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
+    constexpr int reach = Displacement::kMostRange / 2 + 1;
     const auto run = [&](SpanOf span, int y) {
         const std::uint32_t first = 2 * static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(in.width());
         if (small) span.x0 = diffusePixels(span, y, {HorizontalRange, VerticalRange, random, first}, among);
@@ -79,9 +100,12 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
     };
     for (int top = box.ymin; top <= box.ymax; top += kBlockRows) {
         const int bottom = std::min(top + kBlockRows - 1, box.ymax);
-        for (int x = among.x0; x < among.x1; x += kBlockColumns)
-            for (int y = top; y <= bottom; ++y)
-                run({in.row(y), in.stride(), out.row(y), x, std::min(x + kBlockColumns, among.x1)}, y);
+        for (int x = among.x0; x < among.x1; x += kBlockColumns) {
+            const int end = std::min(x + kBlockColumns, among.x1);
+            const Box reached{x - reach, end + reach, top - reach, bottom + reach};
+            among.mask = mask.words.empty() || (small && widest.cover(reached)) ? nullptr : &mask;
+            for (int y = top; y <= bottom; ++y) run({in.row(y), in.stride(), out.row(y), x, end}, y);
+        }
         for (int y = top; y <= bottom; ++y) {
             copyPixels(in.row(y), out.row(y), -Bits::kMargin, among.x0);
             copyPixels(in.row(y), out.row(y), among.x1, in.width() + Bits::kMargin);

@@ -149,6 +149,15 @@ TEST(Neighbours, DiffuseAsksTheRegionWhereAPixelComesFrom)
     EXPECT_EQ(outside, 0);
 }
 
+TEST(Neighbours, DiffuseKnowsBlocksFarFromTheRegionsEdge)
+{
+    const Bits bits = randomBits(430, 300, 6);
+    const Region region = Region::rectangle(0, 0, 430, 300).combined(Region::ellipse(5, 5, 80, 60), Combine::Diff);
+    const Arguments arguments{40, 50};
+    EXPECT_TRUE(
+        sameBits(twins().find("DIFFUSE")->second(bits, region, arguments), run("DIFFUSE", arguments, bits, region)));
+}
+
 TEST(Neighbours, ExtremeArgumentsDoWhatTheTwinDoes)
 {
     const std::string seven = "0 0 0 0 0 0 0/0 0 0 0 0 0 0/0 0 0 0 0 0 0/0 0 0 9 0 0 0/0 0 0 0 0 0 0/0 0 0 0 0 0 0/"
