@@ -2,6 +2,8 @@
 #include "support/pictures.h"
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QSet>
 #include <QTemporaryDir>
 #include <csignal>
 #include <cstring>
@@ -102,6 +104,10 @@ TEST_F(UndoStoreTest, TenSnapshotsStand)
     expectCounters(10, 10);
     ASSERT_EQ(10, files().size());
     EXPECT_EQ("b000309.dat", files().last().toStdString());
+    for (const QString& name : files()) // those of a full series are written over, and still have their own lengths
+        EXPECT_TRUE(QSet<qint64>({40 + 4 * 9 * 8, 40 + 4 * 10 * 8, 40 + 4 * 11 * 8})
+                        .contains(QFileInfo(folder.filePath(name)).size()))
+            << name.toStdString();
     for (int i = 11; i >= 3; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
     EXPECT_FALSE(store.undo());
     for (int i = 0; i < 5; ++i) ASSERT_TRUE(store.redo());
@@ -186,6 +192,18 @@ TEST_F(UndoStoreTest, AFailedWriteLeavesTheSeriesWhole)
     EXPECT_EQ(before, files()) << "no half-written file stays";
     EXPECT_TRUE(sameBits(picture(1), store.redo().value()));
     EXPECT_TRUE(sameBits(picture(2), store.redo().value()));
+}
+
+TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsNothing)
+{
+    saveMany(0, 10);
+    {
+        const FullDisk full(2000);
+        EXPECT_FALSE(store.save(randomBits(40, 40, 9)));
+    }
+    expectCounters(10, 10);
+    EXPECT_EQ(10, files().size());
+    for (int i = 8; i >= 0; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
 }
 
 TEST_F(UndoStoreTest, DeletingTakesOneDocumentsFilesOnly)
