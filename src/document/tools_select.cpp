@@ -57,18 +57,18 @@ class SelectTool final : public Tool {
 
     void drag(ToolContext& c) const override
     {
-        switch (c.setup().SelectionShape) {
-        case PixelShape:
+        const int shape = c.setup().SelectionShape;
+        if (shape == PixelShape) {
             c.document.Region.CreateRect(c.at.x, c.at.y, c.at.x + 1, c.at.y + 1, combineOf(c), true);
             c.surface.SetAutoRedraw(true);
             c.surface.UpdateRegion();
-            return c.surface.SetAutoRedraw(false);
-        case PolygonShape:
-            return c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
-        default:
+            c.surface.SetAutoRedraw(false);
+        } else if (shape == PolygonShape) {
+            c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
+        } else if (shape == RectangleShape || shape == EllipseShape) {
             const Rect band = bandOf(c);
-            c.surface.ShowShape(static_cast<BandShape>(c.setup().SelectionShape), band.left, band.top, band.right,
-                                band.bottom, false);
+            c.surface.ShowShape(shape == EllipseShape ? BandShape::Ellipse : BandShape::Rectangle, band.left, band.top,
+                                band.right, band.bottom, false);
         }
     }
 
