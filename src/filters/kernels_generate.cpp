@@ -18,6 +18,7 @@ namespace velara::HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 using Doubles = hn::ScalableTag<double>;
+using HalfWords = hn::Rebind<std::int32_t, Doubles>; // as many as there are doubles
 using HalfSingles = hn::Rebind<float, Doubles>;
 using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
@@ -59,81 +60,63 @@ void multiplyImpl(const Pixel* from, const Pixel* factors, int n, Pixel* to)
     std::memcpy(to + i, a, rest);
 }
 
-/// The channels of a pixel in doubles, as many at a time as fit; blend(channels, c) gives the new ones. The lanes below
-/// 0 or above 255 are gathered in bad. The fourth byte must be 0, so that its blend can't fail.
-template <class Blend, class Bad> void blendChannels(const Pixel& from, Pixel& to, Bad& bad, Blend&& blend)
+/// Blends the three channels of n pixels in doubles: blend(channels, c, i) gives those of channel c of the pixels from
+/// i on. The fourth byte stays. False when a result is no byte.
+template <class Blend> bool blendChannels(const Pixel* from, int n, Pixel* to, Blend&& blend)
 {
-    const hn::CappedTag<double, 4> d;
-    const hn::Rebind<std::int32_t, decltype(d)> words;
-    const hn::Rebind<std::uint8_t, decltype(d)> bytes;
-    Pixel result;
-    for (std::size_t c = 0; c < 4; c += hn::Lanes(d)) {
-        const auto channels = hn::PromoteTo(d, hn::PromoteTo(words, hn::LoadU(bytes, from.c + c)));
-        const auto v = hn::Round(blend(channels, c));
-        const auto limited = hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, 255.0));
-        bad = hn::Or(bad, hn::Xor(v, limited));
-        hn::StoreU(hn::DemoteTo(bytes, hn::DemoteTo(words, limited)), bytes, result.c + c);
-    }
-    to = result;
-}
-
-/// Whether any lane of bad holds more than the sign of a zero.
-template <class V> bool isBad(V bad)
-{
-    const hn::CappedTag<double, 4> d;
-    alignas(32) double lanes[4];
-    hn::Store(bad, d, lanes);
-    return std::any_of(lanes, lanes + hn::Lanes(d), [](double v) { return v != 0; });
+    const Doubles d;
+    const HalfWords words;
+    const auto byte = hn::Set(words, 255);
+    const auto zero = hn::Zero(d), most = hn::Set(d, 255.0);
+    auto allGood = hn::Eq(zero, zero);
+    eachVector(static_cast<int>(hn::Lanes(d)), from, n, to, [&](const Pixel* p, Pixel* target, int i) {
+        const auto pixels = hn::LoadU(words, reinterpret_cast<const std::int32_t*>(p));
+        const auto there = hn::FirstN(d, static_cast<std::size_t>(n - i));
+        auto result = hn::AndNot(hn::Set(words, 0xFFFFFF), pixels);
+        const auto channel = [&](auto index) {
+            constexpr int kShift = 8 * decltype(index)::value;
+            const auto channels = hn::PromoteTo(d, hn::And(hn::ShiftRight<kShift>(pixels), byte));
+            const auto v = hn::IfThenElse(there, hn::Round(blend(channels, decltype(index)::value, i)), zero);
+            const auto limited = hn::Min(hn::Max(v, zero), most);
+            allGood = hn::And(allGood, hn::Eq(v, limited));
+            result = hn::Or(result, hn::ShiftLeft<kShift>(hn::DemoteTo(words, limited)));
+        };
+        channel(std::integral_constant<int, 0>());
+        channel(std::integral_constant<int, 1>());
+        channel(std::integral_constant<int, 2>());
+        hn::StoreU(result, words, reinterpret_cast<std::int32_t*>(target));
+    });
+    return hn::AllTrue(d, allGood);
 }
 
 bool overlayImpl(const Pixel* from, const Pixel* over, double rest, double part, std::int32_t key, int n, Pixel* to)
 {
-    const hn::CappedTag<double, 4> d;
-    const hn::Rebind<std::int32_t, decltype(d)> words;
-    const hn::Rebind<std::uint8_t, decltype(d)> bytes;
-    const auto a = hn::Set(d, rest), b = hn::Set(d, part);
-    auto bad = hn::Zero(d);
-    for (int i = 0; i < n; ++i) {
-        std::int32_t colour;
-        std::memcpy(&colour, over + i, sizeof colour);
-        if ((colour & 0xFFFFFF) == key) {
-            to[i] = from[i];
-            continue;
-        }
-        Pixel laid = over[i];
-        laid.c[3] = 0;
-        Pixel under = from[i];
-        under.c[3] = 0;
-        blendChannels(under, under, bad, [&](auto channels, std::size_t c) {
-            const auto o = hn::PromoteTo(d, hn::PromoteTo(words, hn::LoadU(bytes, laid.c + c)));
-            return hn::Add(hn::Mul(channels, a), hn::Mul(o, b));
-        });
-        under.c[3] = from[i].c[3];
-        to[i] = under;
-    }
-    return !isBad(bad);
+    const Doubles d;
+    const HalfWords words;
+    const auto a = hn::Set(d, rest), b = hn::Set(d, part), skipped = hn::Set(d, static_cast<double>(key));
+    const auto byte = hn::Set(words, 255);
+    return blendChannels(from, n, to, [&](auto channels, int c, int i) {
+        const auto laid = hn::LoadU(words, reinterpret_cast<const std::int32_t*>(over + i));
+        const auto colour = hn::And(laid, hn::Set(words, 0xFFFFFF));
+        const auto own = hn::And(c == 0 ? laid : c == 1 ? hn::ShiftRight<8>(laid) : hn::ShiftRight<16>(laid), byte);
+        const auto blended = hn::Add(hn::Mul(channels, a), hn::Mul(hn::PromoteTo(d, own), b));
+        return hn::IfThenElse(hn::Eq(hn::PromoteTo(d, colour), skipped), channels, blended);
+    });
 }
 
 bool rampImpl(const RampColours& ramp, const Pixel* from, const float* t, int n, Pixel* to)
 {
-    const hn::CappedTag<double, 4> d;
+    const Doubles d;
+    const HalfSingles singles;
     const auto opacity = hn::Set(d, ramp.opacity), rest = hn::Set(d, ramp.rest);
-    auto bad = hn::Zero(d);
-    for (int i = 0; i < n; ++i) {
-        const auto second = hn::Set(d, static_cast<double>(t[i]));
-        const auto first = hn::Set(d, static_cast<double>(1.0f - t[i]));
-        Pixel under = from[i];
-        under.c[3] = 0;
-        blendChannels(under, under, bad, [&](auto channels, std::size_t c) {
-            const auto one = ramp.ownFirst ? channels : hn::LoadU(d, ramp.first + c);
-            const auto two = ramp.ownSecond ? channels : hn::LoadU(d, ramp.second + c);
-            const auto colour = hn::Mul(hn::Add(hn::Mul(one, first), hn::Mul(two, second)), opacity);
-            return hn::Add(hn::Mul(channels, rest), colour);
-        });
-        under.c[3] = from[i].c[3];
-        to[i] = under;
-    }
-    return !isBad(bad);
+    return blendChannels(from, n, to, [&](auto channels, int c, int i) {
+        const auto at = hn::LoadU(singles, t + i);
+        const auto second = hn::PromoteTo(d, at), first = hn::PromoteTo(d, hn::Sub(hn::Set(singles, 1.0f), at));
+        const auto one = ramp.ownFirst ? channels : hn::Set(d, ramp.first[c]);
+        const auto two = ramp.ownSecond ? channels : hn::Set(d, ramp.second[c]);
+        const auto colour = hn::Mul(hn::Add(hn::Mul(one, first), hn::Mul(two, second)), opacity);
+        return hn::Add(hn::Mul(channels, rest), colour);
+    });
 }
 
 void linearImpl(double first, double ry, double sr, double cr, int n, float* t)

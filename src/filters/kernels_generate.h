@@ -11,12 +11,13 @@ namespace velara {
 void multiplyPixels(const Pixel* from, const Pixel* factors, int n, Pixel* to);
 
 /// A blend of three channels: from * rest + over * part, rounded to even. Where over has the colour `key`, 0x00RRGGBB,
-/// from stays; -1 for none. False when a result is no byte; then `to` is worthless.
+/// from stays; -1 for none. Up to 15 pixels behind the last of over are read and dropped. False when a result is no
+/// byte; then `to` is worthless.
 bool overlayPixels(const Pixel* from, const Pixel* over, double rest, double part, std::int32_t key, int n, Pixel* to);
 
 /// A ramp between two colours of double channels, blue first; an own colour is that of each pixel.
 struct RampColours {
-    double first[4], second[4];
+    double first[3], second[3];
     bool ownFirst, ownSecond;
     double opacity, rest;
 };
