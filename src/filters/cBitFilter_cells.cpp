@@ -85,11 +85,6 @@ class Blocks {
     int band_ = -1;
 };
 
-void blacken(const Pixel* from, Pixel* to, int x0, int x1)
-{
-    for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
-}
-
 } // namespace
 
 Bits cBitFilter::PIXELIZE(int Size)

@@ -14,11 +14,6 @@ auto ranked(bool greatest, RankWindow window, std::ptrdiff_t stride)
     };
 }
 
-void blacken(const Pixel* from, Pixel* to, int x0, int x1)
-{
-    for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
-}
-
 /// 1 - mode, kept small enough for the box's arithmetic: no picture is as wide.
 int marginOf(int mode) { return 1 - std::clamp(mode, -(1 << 20), 1); }
 

@@ -25,7 +25,7 @@ struct StuckiKernels {
     /// v = clamp(value) and o = 255 where v >= mean, else 0: the three channels take o, errors takes v - o.
     void (*output)(SpanOf, const std::int16_t* values, int mean, std::int16_t* errors);
     /// Spreads the errors of a row of `width` pixels: 2 4 8 4 2 parts of 42 are added to the row below, 1 2 4 2 1 parts
-    /// overwrite the row below that, each part e*w \ 42. scratch has room for a row.
+    /// overwrite the row below that, each part e*w \ 42.
     void (*spread)(const std::int16_t* errors, std::int16_t* below, std::int16_t* belowThat, int width);
 };
 const StuckiKernels& stuckiKernels();

@@ -54,6 +54,12 @@ inline void checkSize(int width, int height)
 /// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.
 [[noreturn]] inline void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
 
+/// A kernel that leaves the fourth byte alone.
+inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
+}
+
 /// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the
 /// row's y as a fifth, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above
 /// and below lie bits().stride() pixels away. What lies outside of the box and of the region is copied. margin moves
