@@ -158,6 +158,8 @@ class fMain final : public QMainWindow, public Frame {
     void buildToolbars();
     void fillToolbar(QToolBar* bar, std::string_view buttons);
     void makeTrigger(QAction* action, std::string_view word);
+    /// The pictures in the cut that fits the palette.
+    void refreshIcons();
     void frameResized();
     void placeSidePane();
     void seekSidePane(QPoint at);

@@ -48,6 +48,7 @@ void fMain::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isVisible()) frameResized();
+    if (event->type() == QEvent::PaletteChange && !items_.isEmpty()) refreshIcons(); // the desktop went dark or light
 }
 
 void fMain::closeEvent(QCloseEvent* event)

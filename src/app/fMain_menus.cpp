@@ -1,6 +1,7 @@
 // Menus and toolbars out of their tables.
 #include "app/fIcons.h"
 #include "app/fMain.h"
+#include "app/fToolPane.h"
 #include "app/menus.h"
 #include <QMenu>
 #include <QMenuBar>
@@ -42,9 +43,17 @@ void giveAccessKeys(QMenu& menu)
 
 void fMain::makeTrigger(QAction* action, std::string_view word)
 {
+    action->setData(text(word));
     action->setIcon(iconOf(word));
     action->setEnabled(available(word));
     connect(action, &QAction::triggered, this, [this, word] { run(word); });
+}
+
+void fMain::refreshIcons()
+{
+    useIconTheme();
+    for (QAction* action : std::as_const(items_)) action->setIcon(iconOf(action->data().toString().toStdString()));
+    toolPane_->refreshIcons();
 }
 
 void fMain::buildMenus()

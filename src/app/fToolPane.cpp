@@ -40,6 +40,13 @@ fToolPane::fToolPane(QWidget* parent) : QFrame(parent), stack_(new QStackedWidge
     column->addWidget(makeWells());
     stack_->setObjectName("toolPanes");
     stack_->addWidget(new QWidget);
+    refreshIcons();
+}
+
+void fToolPane::refreshIcons()
+{
+    for (const auto& [key, button] : buttons_.asKeyValueRange()) button->setIcon(iconOf(key.toStdString()));
+    swap_->setIcon(QIcon::fromTheme("document-swap"));
 }
 
 QWidget* fToolPane::makeStrip()
@@ -56,7 +63,6 @@ QWidget* fToolPane::makeStrip()
         button->setObjectName("tb_tools_" + QString::number(row.number));
         button->setAccessibleName(text(row.caption));
         button->setToolTip(text(row.caption));
-        button->setIcon(iconOf(row.key));
         button->setIconSize({22, 22});
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::TabFocus);
@@ -85,15 +91,14 @@ QWidget* fToolPane::makeWells()
         wells_[i]->setIconSize({36, 22});
         connect(wells_[i], &QToolButton::clicked, this, [this, i] { emit wellClicked(i); });
     }
-    auto* swap = new QToolButton(box);
-    swap->setObjectName("iSwap");
-    swap->setAccessibleName(tr("Swap the colors"));
-    swap->setToolTip(swap->accessibleName());
-    swap->setIcon(QIcon::fromTheme("document-swap"));
-    swap->setAutoRaise(true);
-    connect(swap, &QToolButton::clicked, this, &fToolPane::swapClicked);
+    swap_ = new QToolButton(box);
+    swap_->setObjectName("iSwap");
+    swap_->setAccessibleName(tr("Swap the colors"));
+    swap_->setToolTip(swap_->accessibleName());
+    swap_->setAutoRaise(true);
+    connect(swap_, &QToolButton::clicked, this, &fToolPane::swapClicked);
     row->addWidget(wells_[0]);
-    row->addWidget(swap);
+    row->addWidget(swap_);
     row->addWidget(wells_[1]);
     row->addStretch();
     return box;

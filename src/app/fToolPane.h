@@ -26,6 +26,7 @@ class fToolPane final : public QFrame {
     /// Shows the pane of the tool, or an empty one.
     void showPane(const QString& key);
 
+    void refreshIcons();
     /// Colours 0x00BBGGRR of the two wells.
     void setColors(int first, int second);
 
@@ -42,7 +43,7 @@ class fToolPane final : public QFrame {
     QHash<QString, QToolButton*> buttons_;
     QHash<QString, QWidget*> panes_;
     QStackedWidget* stack_;
-    QToolButton* wells_[2]{};
+    QToolButton *wells_[2]{}, *swap_ = nullptr;
 };
 
 } // namespace velara

@@ -237,7 +237,7 @@ constexpr MenuRow kMenus[] = {
             {Item, "BAR", 4, "Help", "@BAR4", "", true}, {Item, "BAR", 5, "Tools", "@BAR5", "", true},
             {Item, "BAR", 6, "Filters", "@BAR6", "", true},
         {End},
-        {Item, "RESET", 0, "Reset Toolbars", "@RESET"},
+        {Item, "RESET", 0, "Store Toolbar Layout", "@RESET"},
     {End},
     {Menu, "mnuHelp", 0, "&Help"},
         {Item, "ABOUT", 10, "&About Velara Studio", "@ABOUT"},

@@ -27,7 +27,7 @@ constexpr PictureRow kPictures[] = {
     {"IMAGEMERGING", "merge"}, {"@CAPTURE", "camera-photo"}, {"@QUICKCAPTURE", "camera-photo"},
     {"IMAGETEXTURES", "texture"}, {"IMAGERESOLUTION", "measure"}, {"IMAGECOLORDEPTH", "color-management"},
     {"TEXTTOOLS", "draw-text"}, {"@ICON", "shapes"}, {"@ASSOCIATION", "document-open-data"},
-    {"@WALLPAPER", "viewimage"}, {"@ABOUT", "help-about"}, {"@RESET", "edit-reset"},
+    {"@WALLPAPER", "viewimage"}, {"@ABOUT", "help-about"}, {"@RESET", "document-save-as-template"},
     {"TILEHORIZONTALLY", "view-split-top-bottom"}, {"TILEVERTICALLY", "view-split-left-right"},
     {"CASCADE", "window-duplicate"},
     {"INVERT", "invertimage"}, {"GRAYSCALE", ":greyscale"}, {"HAFTONE", ":halftone"}, {"XBLACK", ":xblack"},

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QSet>
 #include <QSlider>
 #include <QTimer>
@@ -356,6 +357,45 @@ TEST_F(FrameTest, TheFirstResizeStoresALayoutOnceForTheUser)
     frame->resize(700, 500);
     EXPECT_EQ(setup.FrameWidth, 700 * 15);
     EXPECT_EQ(setup.FrameHeight, 500 * 15);
+}
+
+TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
+{
+    frame->action("VIEWS_9")->trigger();
+    const auto moveTo = [&](QPoint at) {
+        QWidget* under = frame->area().viewport();
+        const QPointF global = frame->centralWidget()->mapToGlobal(at);
+        QMouseEvent event(QEvent::MouseMove, under->mapFromGlobal(global), global, Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(under, &event);
+    };
+    moveTo({2, 100});
+    EXPECT_TRUE(frame->toolPane().isVisible());
+    moveTo({frame->toolPane().width() - 2, 100});
+    EXPECT_TRUE(frame->toolPane().isVisible());
+    moveTo({frame->toolPane().width() + 20, 100});
+    EXPECT_FALSE(frame->toolPane().isVisible());
+    frame->action("VIEWS_9")->trigger();
+    EXPECT_TRUE(frame->toolPane().isVisible());
+}
+
+TEST_F(FrameTest, IconsFollowThePalette)
+{
+    const auto shade = [&] { // of the darkest-to-lightest drawing of an icon without colours
+        const QImage image = frame->action("FILE_1")->icon().pixmap(22).toImage();
+        int sum = 0, count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qAlpha(image.pixel(x, y)) > 200) sum += qGray(image.pixel(x, y)), ++count;
+        return count ? sum / count : -1;
+    };
+    EXPECT_LT(shade(), 100);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 44, 48)));
+    QCoreApplication::processEvents();
+    EXPECT_GT(shade(), 150);
+    QApplication::setPalette(before);
+    QCoreApplication::processEvents();
+    EXPECT_LT(shade(), 100);
 }
 
 TEST_F(FrameTest, WindowsTileOneBelowTheOtherOrSideBySide)

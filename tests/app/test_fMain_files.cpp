@@ -289,6 +289,28 @@ TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)
     }
 }
 
+TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
+{
+    struct ReadOnly : RecordingPlatform {
+        QString programFolder() override { return "/proc/velara"; }
+    } platform;
+    velara::Setup setup;
+    const auto frame = startEditor(platform, setup);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(std::ranges::any_of(platform.log, [](const std::string& line) {
+        return line.starts_with("message: Velara Studio: The folder \"/proc/velara\" can't be written to.");
+    }));
+    auto* image = new fImage(*frame);
+    image->PPicture(randomBits(8, 8, 1));
+    frame->adopt(image, "/somewhere/a.bmp");
+    const Bits before = image->Bits();
+    frame->Mmenu("INVERT");
+    EXPECT_FALSE(image->Bits() == before); // works, but can't be undone
+    setup.AskToSave = false;
+    frame->close();
+    EXPECT_FALSE(frame->isVisible());
+}
+
 TEST(StartTest, ASecondInstanceIsToldAndComesUpAllTheSame)
 {
     RecordingPlatform platform;
