@@ -53,7 +53,7 @@ template <class Work> void Session::guarded(Work work)
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {
         putBack();
-        throw badArgument(QString::fromUtf8(error.what()));
+        throw badArgument(QString::fromUtf8(error.what()) + QStringLiteral(" is unusable"));
     } catch (const std::bad_alloc&) {
         putBack();
         throw operationFailed(QStringLiteral("Out of memory"));

@@ -28,7 +28,8 @@ STEP is one of
                          COLORIZE(0.5,0.25,1.0), GLASS(slanting,0). Colours
                          are 0x00BBGGRR or decimal. An operation that takes a
                          picture takes a file name. Text with commas goes
-                         between double quotes.
+                         between double quotes. A mask is a square of numbers:
+                         'MaskFilter(0 -1 0;-1 5 -1;0 -1 0,1,0,0,0,true)'.
 
 Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
 before the first of them: 50 50 is half the size.
