@@ -1,4 +1,4 @@
-#include "samplePicture.h"
+#include "tools/samplePicture.h"
 #include "filters/numbers.h"
 #include <cstdlib>
 
