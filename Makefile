@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize screenshots bench format check-format setup clean
+.PHONY: all run test test-sanitize screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -29,7 +29,12 @@ screenshots: all
 bench: all
 	$(RELEASE)/bin/velara-bench
 
-SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h')
+# The contact sheets of docs/gallery: every filter on the sample picture.
+gallery: all
+	cmake --build --preset release --target velara-gallery
+	$(RELEASE)/bin/velara-gallery docs/gallery
+
+SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'tools/*.cpp' 'tools/*.h')
 format:
 	@clang-format -i $(SOURCES)
 
