@@ -29,7 +29,7 @@ STEP is one of
                          are 0x00BBGGRR or decimal. An operation that takes a
                          picture takes a file name. Text with commas goes
                          between double quotes. A mask is a square of numbers:
-                         'MaskFilter(0 -1 0;-1 5 -1;0 -1 0,1,0,0,0,true)'.
+                         'MaskFilter(0 -1 0/-1 5 -1/0 -1 0,1,0,0,0,true)'.
 
 Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
 before the first of them: 50 50 is half the size.

@@ -150,7 +150,7 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm EMBOSS(4294967296) out.png", 2, "Weight"},
         {"in.ppm CONTOUR(1,0x1FFFFFFFF) out.png", 2, "Background"},
         {"in.ppm EMBOSS(10 out.png", 2, "bracket"},
-        {"in.ppm MaskFilter(1;2,1,0,0,0,true) out.png", 2, "Mask is unusable"},
+        {"in.ppm MaskFilter(1/2,1,0,0,0,true) out.png", 2, "Mask is unusable"},
         {"in.ppm Flip(yes,no) out.png", 2, "Horizontal"},
         {"in.ppm --select rect:1,2,3 INVERT out.png", 2, "rect:1,2,3"},
         {"in.ppm --select rect:1,2,3,x INVERT out.png", 2, "rect:1,2,3,x"},
