@@ -101,7 +101,10 @@ void fMain::bury(fDocumentWindow* window)
 
 void fMain::buryDead()
 {
-    if (yieldDepth_ > 0) return; // a filter may still stand on it; it calls here again at its end
+    if (yieldDepth_ > 0) { // a filter may still stand on it
+        if (!dead_.isEmpty()) QTimer::singleShot(50, this, &fMain::buryDead);
+        return;
+    }
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
 }
 
