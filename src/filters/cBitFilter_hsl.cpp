@@ -44,10 +44,8 @@ class SumColours {
     std::vector<bool> fails_;
 };
 
-constexpr std::uint16_t kInDoubt = 256;
-
-/// round(sin(sum/1000/255*frequency + phase)*127.5 + 127.5) of the weighted sums 0..255000. kInDoubt where it depends
-/// on the last bits: nearer than 1e-4 to a half or to the ends.
+/// round(sin(sum/1000/255*frequency + phase)*127.5 + 127.5) of the weighted sums 0..255000. kGreyInDoubt where it
+/// depends on the last bits: nearer than 1e-4 to a half or to the ends.
 std::vector<std::uint16_t> greysOfSums(float phase, float frequency)
 {
     constexpr std::size_t kSums = 255001, kRun = 64;
@@ -62,7 +60,7 @@ std::vector<std::uint16_t> greysOfSums(float phase, float frequency)
             const double u = (s * cosOf[i] + c * sinOf[i]) * 127.5 + 127.5;
             const double rounded = std::nearbyint(u), off = std::abs(u - rounded);
             const bool sure = off < 0.5 - kNear && u > kNear && u < 255 - kNear;
-            greys[run + i] = sure ? static_cast<std::uint16_t>(static_cast<int>(rounded)) : kInDoubt;
+            greys[run + i] = sure ? static_cast<std::uint16_t>(static_cast<int>(rounded)) : kGreyInDoubt;
         }
     }
     return greys;
@@ -128,17 +126,10 @@ Bits cBitFilter::RotateL(int Offset, int Steps)
         return toByte(u);
     };
     const std::vector<std::uint16_t> greys = greysOfSums(phase, frequency);
-    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-        inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
-            std::int32_t sums[1024];
-            colourKernels().weigh(p, n, kGreyWeights, sums);
-            for (int i = 0; i < n; ++i) {
-                std::uint16_t v = greys[std::size_t(sums[i])];
-                if (v == kInDoubt) v = grey(p[i]);
-                q[i] = greyPixel(static_cast<std::uint8_t>(v), p[i]);
-            }
+    return eachSpan(
+        0, [&, redo = std::function<std::uint8_t(const Pixel&)>(grey)](const Pixel* from, Pixel* to, int x0, int x1) {
+            colourKernels().byGreySum({from, 0, to, x0, x1}, greys.data(), redo);
         });
-    });
 }
 
 Bits cBitFilter::COLORIZE(float Hue, float Saturation, float Luminosity)

@@ -124,17 +124,20 @@ void saturate(const SpanOf& s, float k, bool roundsSum)
         run([] { return std::false_type(); });
 }
 
-void weigh(const Pixel* from, int n, const Weights& weights, std::int32_t* sums)
+void byGreySum(const SpanOf& s, const std::uint16_t* greys, const std::function<std::uint8_t(const Pixel&)>& redo)
 {
-    const auto run = [&](auto d32, int i) HWY_ATTR {
-        const auto v = hn::LoadU(d32, reinterpret_cast<const std::int32_t*>(from + i));
-        hn::StoreU(weighed(d32, v, weights), d32, sums + i);
-    };
-    const hn::ScalableTag<std::int32_t> many;
-    const int lanes = static_cast<int>(hn::Lanes(many));
-    int i = 0;
-    for (; i + lanes <= n; i += lanes) run(many, i);
-    for (; i < n; ++i) run(hn::CappedTag<std::int32_t, 1>(), i);
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto bytes = loadBytes(d, s.from + x);
+        const auto offset = hn::ShiftLeft<1>(weighed(d32, hn::BitCast(d32, bytes), kGreyWeights));
+        const auto two = hn::GatherOffset(d32, reinterpret_cast<const std::int32_t*>(greys), offset);
+        const auto v = hn::And(two, hn::Set(d32, 0xFFFF));
+        const auto again = hn::Eq(v, hn::Set(d32, int{kGreyInDoubt}));
+        return redone(d, withFourthOf(d, bytes, joined(d, d32, v, v, v)), again, [&](int i) {
+            const std::uint8_t grey = redo(s.from[x + i]);
+            return Pixel{{grey, grey, grey, s.from[x + i].c[3]}};
+        });
+    });
 }
 
 std::uint32_t sumOfThirds(const Pixel* from, int n)
@@ -160,8 +163,8 @@ void copyPast(const Pixel* from, Pixel* to, int n)
 
 const ColourKernels& colourKernelTable()
 {
-    static constexpr ColourKernels table = {channels, add,   threshold,  grey,        bySum,
-                                            saturate, weigh, brightness, sumOfThirds, copyPast};
+    static constexpr ColourKernels table = {channels, add,       threshold,  grey,        bySum,
+                                            saturate, byGreySum, brightness, sumOfThirds, copyPast};
     return table;
 }
 

@@ -1,6 +1,7 @@
 // Vector kernels of the colour filters: channels, sums of channels and grey weights.
 #pragma once
 #include "filters/SpanOf.h"
+#include <functional>
 
 namespace velara {
 
@@ -21,6 +22,8 @@ struct Weights {
 };
 constexpr Weights kGreyWeights{71, 707, 222}, kBrightnessWeights{113, 586, 301};
 
+constexpr std::uint16_t kGreyInDoubt = 256;
+
 struct ColourKernels {
     void (*channels)(const SpanOf&, const ChannelMap&);
     /// Adds plus, then takes minus away, bytes that saturate.
@@ -33,8 +36,9 @@ struct ColourKernels {
     void (*bySum)(const SpanOf&, const std::uint32_t* table);
     /// clamp(c + round((c - grey)*k)) or, roundsSum, clamp(round(c + (c - grey)*k)); grey = (c0+c1+c2) \ 3.
     void (*saturate)(const SpanOf&, float k, bool roundsSum);
-    /// The weighted sums of n pixels in thousandths.
-    void (*weigh)(const Pixel* from, int n, const Weights&, std::int32_t* sums);
+    /// The grey greys[sum] of the grey weights' sum in thousandths, 0..255000; where that is kGreyInDoubt, redo(pixel).
+    /// One entry more is read.
+    void (*byGreySum)(const SpanOf&, const std::uint16_t* greys, const std::function<std::uint8_t(const Pixel&)>& redo);
     /// round(brightnessOf) of n pixels, in the three channels of out.
     void (*brightness)(const Pixel* from, int n, Pixel* out);
     /// The sum of (c0+c1+c2) \ 3 over n pixels; n < 2^21.
