@@ -82,16 +82,14 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
     const HueTurn turn{hueOffset(Offset), static_cast<float>(Saturation / 100.0)};
     const bool usual = Offset >= 0 && Offset <= 100 && Saturation > 0 && Saturation <= 100;
     if (usual) {
-        std::vector<std::int32_t> ends;
-        if (Saturation != 100)
-            ends = pairTable<std::int32_t>([&](int least, int most) {
-                if (least > most) return 0;
-                const auto low = static_cast<std::uint8_t>(least), high = static_cast<std::uint8_t>(most);
-                const Pixel p = HueTurn{0, turn.saturation}({{low, low, high, 0}});
-                return p.c[0] | p.c[2] << 8;
-            });
+        const auto ends = pairTable<std::int32_t>([&](int least, int most) {
+            if (least > most) return 0;
+            const auto low = static_cast<std::uint8_t>(least), high = static_cast<std::uint8_t>(most);
+            const Pixel p = HueTurn{0, turn.saturation}({{low, low, high, 0}});
+            return p.c[0] | p.c[2] << 8;
+        });
         return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-            hslKernels().turn({from, 0, to, x0, x1}, turn, ends.empty() ? nullptr : ends.data());
+            hslKernels().turn({from, 0, to, x0, x1}, turn, ends.data());
         });
     }
     if (Saturation == 0) { // L alone is left: the half of the greatest and the least channel

