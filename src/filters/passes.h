@@ -4,6 +4,7 @@
 #include "filters/cBitFilter.h"
 #include <algorithm>
 #include <cstring>
+#include <emmintrin.h>
 #include <type_traits>
 
 namespace velara {
@@ -15,10 +16,29 @@ inline Box insidePicture(const Box& box, const Bits& bits)
             std::min(box.ymax, bits.maxY())};
 }
 
+/// Pictures of this many bytes do not fit into the cache.
+constexpr std::size_t kPastTheCache = 16 << 20;
+
 /// Copies the columns x0 up to but not including x1.
 inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
 {
     if (x1 > x0) std::memcpy(to + x0, from + x0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+}
+
+/// The same past the cache, in whole cache lines: for pictures that do not fit into it, whose other pixels are written
+/// so too.
+inline void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    constexpr int kLine = 16; // pixels
+    while (x0 < x1 && reinterpret_cast<std::uintptr_t>(to + x0) % (kLine * sizeof(Pixel)) != 0) {
+        to[x0] = from[x0];
+        ++x0;
+    }
+    for (; x0 + kLine <= x1; x0 += kLine)
+        for (int i = 0; i < kLine; i += 4)
+            _mm_stream_si128(reinterpret_cast<__m128i*>(to + x0 + i),
+                             _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + x0 + i)));
+    copyPixels(from, to, x0, x1);
 }
 
 /// Copies the rows y0 up to but not including y1, margin columns included.
@@ -74,6 +94,7 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
         return in;
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
+    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
     copyRows(in, out, -Bits::kMargin, box.ymin);
     for (int y = box.ymin; y <= box.ymax; ++y) {
         const Pixel* from = in.row(y);
@@ -82,14 +103,14 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
         for (const Span s : region.spans(y)) {
             const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
             if (x0 >= x1) continue;
-            copyPixels(from, to, copied, x0);
+            copy(from, to, copied, x0);
             if constexpr (std::is_invocable_v<Kernel&, const Pixel*, Pixel*, int, int, int>)
                 kernel(from, to, x0, x1, y);
             else
                 kernel(from, to, x0, x1);
             copied = x1;
         }
-        copyPixels(from, to, copied, in.width() + Bits::kMargin);
+        copy(from, to, copied, in.width() + Bits::kMargin);
         progressDue(y, in.maxY());
     }
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
