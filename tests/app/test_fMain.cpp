@@ -255,6 +255,7 @@ TEST_F(FrameTest, ADocumentClosedDuringAFilterEndsIt)
     EXPECT_TRUE(frame->documents().isEmpty());
     QCoreApplication::processEvents();
     EXPECT_TRUE(image.isNull());
+    EXPECT_TRUE(QDir(path("Temp")).entryList(QDir::Files).isEmpty()); // no step was taken for the closed document
 }
 
 TEST_F(FrameTest, TheFrameClosedDuringAFilterEndsIt)
