@@ -96,14 +96,16 @@ void run(const QStringList& arguments)
 }
 
 /// More than the machine has makes an allocation fail, so that it is reported, instead of the system ending the
-/// program.
+/// program. The address sanitizer reserves far more than that for itself.
 void limitMemory()
 {
+#ifndef __SANITIZE_ADDRESS__
     const rlim_t bytes = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES)) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
     rlimit limit{};
     if (getrlimit(RLIMIT_DATA, &limit) != 0) return;
     limit.rlim_cur = std::min(bytes, limit.rlim_max);
     setrlimit(RLIMIT_DATA, &limit);
+#endif
 }
 
 } // namespace
@@ -114,9 +116,7 @@ int main(int argc, char** argv)
 {
     using namespace velara;
     QCoreApplication application(argc, argv);
-#ifndef __SANITIZE_ADDRESS__
     limitMemory();
-#endif
     try {
         run(QCoreApplication::arguments().mid(1));
         return 0;
