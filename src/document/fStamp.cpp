@@ -3,6 +3,7 @@
 #include "document/stamps.h"
 #include "document/viewRender.h"
 #include "platform/Platform.h"
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -33,6 +34,7 @@ FStamp::FStamp(Frame& frame, const QString& name, QWidget* parent)
 {
     cbStamps_->setObjectName("cbStamps");
     cbStamps_->setAccessibleName(tr("Stamp"));
+    cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is down
     auto* back = new QFrame(this);
     back->setObjectName("iStampBk");
     back->setFrameShape(QFrame::StyledPanel);

@@ -5,6 +5,7 @@
 #include "app/fPreferences.h"
 #include "app/fSplash.h"
 #include "app/fStartup.h"
+#include "app/fToolPane.h"
 #include "app/menus.h"
 #include "support/RecordingPlatform.h"
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
 #include <QTimer>
 #include <QToolButton>
 #include <cstdio>
@@ -69,6 +71,57 @@ void shootMenu(QWidget& frame, QMenu& menu)
     save(all, "menu_" + menu.objectName());
 }
 
+/// The dialogs by the words that open them; large: at two times the size as well.
+struct DialogRow {
+    const char* word;
+    bool large;
+};
+// clang-format off
+constexpr DialogRow kDialogs[] = {
+    {"NEW", false}, {"IMAGESIZE", false}, {"CANVASSIZE", true}, {"IMAGEORIENTATION", false}, {"IMAGEROTATE", false},
+    {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
+    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false},
+};
+// clang-format on
+
+void shootDialog(fMain& frame, const char* word)
+{
+    QTimer::singleShot(400, [word] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            save(dialog->grab(), QString("dialog_") + word);
+            dialog->close();
+        }
+    });
+    frame.Mmenu(word);
+}
+
+/// The side pane with each tool, and the floating copies of the panes one below the other.
+void shootPanes(fMain& frame)
+{
+    const QStringList keys = {"Select", "SelectionMove", "Brush", "Airbrush", "Fill", "Shape", "Stamp", "Gradient"};
+    constexpr int kPaneHeight = 560;
+    QPixmap all(int(keys.size()) * frame.toolPane().width(), kPaneHeight);
+    QPainter painter(&all);
+    int x = 0;
+    for (const QString& key : keys) {
+        frame.toolClicked(key);
+        settle(30);
+        painter.drawPixmap(x, 0, frame.toolPane().grab(QRect(0, 0, frame.toolPane().width(), kPaneHeight)));
+        x += frame.toolPane().width();
+    }
+    painter.end();
+    save(all, "tool_panes");
+
+    QPointer<QWidget> popup;
+    QToolButton* button = frame.toolPane().button("Brush");
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(button, &enter);
+    settle(900); // both timers of the hover
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != &frame && window->isVisible()) popup = window;
+    if (popup) save(popup->grab(), "tool_popup");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -104,6 +157,8 @@ int main(int argc, char** argv)
     settle();
     save(frame->grab(), "frame_two_pictures");
 
+    setup.Recent = {}; // no path of the machine that took the pictures
+    frame->FillRecent();
     const bool few = qApp->devicePixelRatio() > 1; // twice the size: a few windows tell enough
     const auto menus = frame->menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
     for (QMenu* menu : menus) {
@@ -121,6 +176,7 @@ int main(int argc, char** argv)
         menu->close();
     }
 
+    setup.ImagesPath = "/home/ana/pictures/";
     fPreferences options(platform, setup, frame.get());
     options.show();
     settle();
@@ -141,16 +197,10 @@ int main(int argc, char** argv)
     save(about.grab(), "about");
     about.hide();
 
-    for (const char* word : {"CUSTOMGLASS", "COLORIZE", "RGBBANKS"}) {
-        if (few) break;
-        QTimer::singleShot(400, [word] {
-            if (QWidget* dialog = QApplication::activeModalWidget()) {
-                save(dialog->grab(), QString("filter_") + word);
-                dialog->close();
-            }
-        });
-        frame->Mmenu(word);
-    }
+    frame->area().setActiveSubWindow(windows[0]); // the one in colours
+    for (const DialogRow& row : kDialogs)
+        if (!few || row.large) shootDialog(*frame, row.word);
+    if (!few) shootPanes(*frame);
     setup.AskToSave = false;
     frame->close();
     return 0;
