@@ -35,6 +35,7 @@ FStamp::FStamp(Frame& frame, const QString& name, QWidget* parent)
     cbStamps_->setObjectName("cbStamps");
     cbStamps_->setAccessibleName(tr("Stamp"));
     cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is down
+    cbStamps_->view()->setAccessibleName(tr("Stamp files"));
     auto* back = new QFrame(this);
     back->setObjectName("iStampBk");
     back->setFrameShape(QFrame::StyledPanel);
