@@ -151,6 +151,8 @@ class cBitFilter {
     Bits rankFilter(int Mode, RankWindow window);
     template <class Tile> Bits eachTile(Tile&& tile);
     template <class Map> Bits eachSource(bool Clean, Map&& map);
+    /// eachSource for the sources (columns[x], rows[y]).
+    Bits eachCrossing(bool Clean, const std::vector<std::int32_t>& columns, const std::vector<std::int32_t>& rows);
     template <class Kernel> Bits eachOfDisc(const Disc& disc, double limit, Kernel&& kernel);
     void crop(const Bits& Source, const Rect& rectangle, bool masked);
     void progressDue(std::int64_t done, std::int64_t of);

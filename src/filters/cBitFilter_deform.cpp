@@ -64,10 +64,11 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
         Pixel* to = out.row(y);
         copyPixels(kept, to, -Bits::kMargin, 0);
         copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
+        const SpanOf row{kept, in.stride(), to, 0, in.width()};
         if (Horizontal)
-            for (int x = 0, sx = in.maxX(); x < in.width(); ++x, --sx) to[x] = withColour(from[sx], kept[x]);
+            takeRowMirrored(row, from, in.maxX());
         else
-            for (int x = 0; x < in.width(); ++x) to[x] = withColour(from[x], kept[x]);
+            takeRow(row, from);
         progressDue(y, in.maxY());
     }
     copyRows(in, out, in.height(), in.height() + Bits::kMargin);
@@ -85,10 +86,7 @@ Bits cBitFilter::STRETCH(int Horizontal, int Vertical, bool Clean)
         return sources;
     };
     const auto columns = table(bits_.maxX(), Horizontal), rows = table(bits_.maxY(), Vertical);
-    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        std::copy_n(columns.data() + x0, n, sx);
-        std::fill_n(sy, n, rows[y]);
-    });
+    return eachCrossing(Clean, columns, rows);
 }
 
 Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
@@ -121,7 +119,7 @@ Bits cBitFilter::WAVES(int Frequency, int Amplitude, int StartDegree)
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const double angle = (static_cast<double>(y) * Frequency + StartDegree) * kDegreesToRadians;
         const Pixel* source = in.row(std::clamp(roundEven(amplitude * std::sin(angle) + y), 0, in.maxY()));
-        for (int x = x0; x < x1; ++x) to[x] = withColour(source[x], from[x]);
+        takeRow({from, in.stride(), to, x0, x1}, source);
     });
 }
 
@@ -144,9 +142,10 @@ Bits cBitFilter::TILE(int Factor)
     std::vector<std::int32_t> columns(static_cast<std::size_t>(in.width()));
     for (int x = std::max(box.xmin, 0); x <= std::min(box.xmax, in.maxX()); ++x)
         columns[x] = horizontal.source((x - box.xmin) % horizontal.step);
+    const std::vector<std::int32_t> inside(columns.size(), -1);
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const Pixel* source = in.row(vertical.source((y - box.ymin) % vertical.step));
-        for (int x = x0; x < x1; ++x) to[x] = withColour(source[columns[x]], from[x]);
+        takeColumns({from, in.stride(), to, x0, x1}, source, columns.data(), inside.data(), false);
     });
 }
 

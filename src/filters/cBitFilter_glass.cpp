@@ -76,15 +76,15 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
         });
     const auto columns = sources(inside.xmin, inside.xmax, glass->column);
     const auto rows = sources(inside.ymin, inside.ymax, glass->row);
+    if (glass->mixed == Mixed::None) return eachCrossing(false, columns, rows);
     std::vector<double> tangents;
-    for (int x = 0; x <= inside.xmax; ++x) tangents.push_back(std::tan(x));
+    for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));
     const WaveTables waves;
     return eachSource(false, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
         std::copy_n(columns.data() + x0, n, sx);
         std::fill_n(sy, n, rows[y]);
         const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
                               (static_cast<double>(x0) - box.xmin) + 1;
-        const double tangent = std::tan(y);
         switch (glass->mixed) {
         case Mixed::None:
             break;
@@ -95,13 +95,13 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
             addWaves(waves, number, kWeightY, n, sy);
             break;
         case Mixed::RowX:
-            std::fill_n(sx, n, roundEven(tangent));
+            std::fill_n(sx, n, roundEven(tangents[y]));
             break;
         case Mixed::ProductX:
-            for (int i = 0; i < n; ++i) sx[i] = roundEven(tangent * tangents[x0 + i]);
+            for (int i = 0; i < n; ++i) sx[i] = roundEven(tangents[y] * tangents[x0 + i]);
             break;
         case Mixed::SumY:
-            for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangent);
+            for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangents[y]);
             break;
         }
     });

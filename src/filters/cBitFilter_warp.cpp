@@ -50,13 +50,13 @@ Bits cBitFilter::TWIRL(int Level, int OffsetDegrees, bool Clean)
     const float offset = static_cast<float>(OffsetDegrees * kDegreesToRadians);
     const double longest = longestRadius(bits_), widest = std::abs(longest * k) + std::abs(offset) + 5;
     const bool isSafe = widest < 1000;
-    std::vector<float> cosine, sine;
+    std::vector<float> turns;
     for (int r = 0; isSafe && r <= longest + kPlaces; ++r) { // the last vector of a row reads beyond it
-        cosine.push_back(static_cast<float>(std::cos(offset - r * static_cast<double>(k))));
-        sine.push_back(static_cast<float>(std::sin(offset - r * static_cast<double>(k))));
+        turns.push_back(static_cast<float>(std::cos(offset - r * static_cast<double>(k))));
+        turns.push_back(static_cast<float>(std::sin(offset - r * static_cast<double>(k))));
     }
     // The steps of singles: that of the angle, and about nine of values near 1.
-    const Twirl twirl{cx, cy, cosine.data(), sine.data(), static_cast<float>(8.5e-7 + 6.5e-8 * widest)};
+    const Twirl twirl{cx, cy, turns.data(), static_cast<float>(8.5e-7 + 6.5e-8 * widest)};
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
         const int dy = y - cy;
         const std::uint64_t doubtful = isSafe ? twirlPlaces(twirl, x0, y, n, sx, sy) : kAllPlaces;
@@ -79,19 +79,25 @@ Bits cBitFilter::LENS(float CenterX, float CenterY, float Radius, int Magnify)
     const double R = disc.radius;
     const double D = static_cast<float>((150.0 - Magnify) * R / 150);
     const double limit = roundToEven(R * R - D * D);
+    const Rect readable{-Bits::kMargin, -Bits::kMargin, in.width() + Bits::kMargin, in.height() + Bits::kMargin};
+    const Lens lens{disc.x, disc.y, R, D, readable};
+    const auto source = [&](int x, int y) {
+        const double ox = static_cast<double>(x) - disc.x, oy = static_cast<double>(y) - disc.y;
+        const int z = roundEven(std::sqrt(R * R - ox * ox - oy * oy));
+        const std::int64_t sx = std::int64_t(divide(roundEven(D * ox), z)) + disc.x;
+        const std::int64_t sy = std::int64_t(divide(roundEven(D * oy), z)) + disc.y;
+        if (sx < readable.left || sx >= readable.right || sy < readable.top || sy >= readable.bottom)
+            throw RuntimeError(Fault::OutOfRange);
+        return in.at(static_cast<int>(sx), static_cast<int>(sy));
+    };
     return eachOfDisc(disc, limit, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
-        const double oy = static_cast<double>(y) - disc.y;
-        const int pulledY = roundEven(D * oy);
-        for (int x = x0; x < x1; ++x) {
-            const double ox = static_cast<double>(x) - disc.x;
-            const int z = roundEven(std::sqrt(R * R - ox * ox - oy * oy));
-            const std::int64_t sx = std::int64_t(divide(roundEven(D * ox), z)) + disc.x;
-            const std::int64_t sy = std::int64_t(divide(pulledY, z)) + disc.y;
-            if (sx < -Bits::kMargin || sx >= in.width() + Bits::kMargin || sy < -Bits::kMargin ||
-                sy >= in.height() + Bits::kMargin)
-                throw RuntimeError(Fault::OutOfRange);
-            to[x] = withColour(in.at(static_cast<int>(sx), static_cast<int>(sy)), from[x]);
-        }
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
+        eachRun(x0, x1, [&](int first, int n) {
+            if (lensPlaces(lens, first, y, n, sx, sy))
+                takePixels(in, sx, sy, n, from + first, to + first);
+            else
+                for (int x = first; x < first + n; ++x) to[x] = withColour(source(x, y), from[x]);
+        });
     });
 }
 

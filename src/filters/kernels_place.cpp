@@ -79,14 +79,24 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
     const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
     const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
-    std::uint64_t doubtful = 0;
+    alignas(HWY_MAX_BYTES) float radii[kPlaces], turns[2 * kPlaces];
+    alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
     for (int i = 0; i < n; i += lanes) {
         const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
         const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
-        const auto whole = hn::NearestInt(radius);
-        const auto r = hn::ConvertTo(d, whole);
+        hn::Store(radius, d, radii + i);
+        hn::Store(hn::NearestInt(radius), words, wholes + i);
+    }
+    // All before the first use: a vector cannot be had from stores that are still under way.
+    const int whole = (n + lanes - 1) / lanes * lanes;
+    for (int i = 0; i < whole; ++i) std::memcpy(turns + 2 * i, twirl.turns + 2 * wholes[i], 2 * sizeof(float));
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
         const auto scale = hn::Div(r, hn::Max(radius, half));
-        const auto c = loadEach(d, twirl.cosine, whole), s = loadEach(d, twirl.sine, whole);
+        hn::Vec<Singles> c, s;
+        hn::LoadInterleaved2(d, turns + 2 * i, c, s);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
         const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);
@@ -170,6 +180,40 @@ std::uint64_t waveOffsetsImpl(const WaveTables& wave, double number, float weigh
     return doubtful;
 }
 
+bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Doubles d;
+    const HalfWords words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const double down = static_cast<double>(y) - lens.cy;
+    const auto oy2 = hn::Set(d, down * down), pulledY = hn::Round(hn::Set(d, lens.depth * down));
+    const auto square = hn::Set(d, lens.radius * lens.radius), depth = hn::Set(d, lens.depth);
+    const auto cx = hn::Set(d, static_cast<double>(lens.cx)), cy = hn::Set(d, static_cast<double>(lens.cy));
+    const auto left = hn::Set(d, static_cast<double>(lens.within.left));
+    const auto right = hn::Set(d, static_cast<double>(lens.within.right - 1));
+    const auto top = hn::Set(d, static_cast<double>(lens.within.top));
+    const auto bottom = hn::Set(d, static_cast<double>(lens.within.bottom - 1));
+    const auto fits = hn::Set(d, 2147483647.0);
+    auto safe = hn::Le(hn::Abs(pulledY), fits);
+    for (int i = 0; i < n; i += lanes) {
+        // The last vector repeats the last pixel, as its neighbours may lie outside of the disc.
+        const auto at = hn::Min(hn::Add(hn::Iota(d, 0.0), hn::Set(d, static_cast<double>(x0 + i))),
+                                hn::Set(d, static_cast<double>(x0 + n - 1)));
+        const auto ox = hn::Sub(at, cx);
+        const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));
+        const auto pulledX = hn::Round(hn::Mul(depth, ox));
+        // The quotient of whole numbers of 32 bits in double never rounds up to a whole number.
+        const auto fromX = hn::Add(hn::Trunc(hn::Div(pulledX, z)), cx);
+        const auto fromY = hn::Add(hn::Trunc(hn::Div(pulledY, z)), cy);
+        safe = hn::And(safe, hn::And(hn::Ge(z, hn::Set(d, 1.0)), hn::Le(hn::Abs(pulledX), fits)));
+        safe = hn::And(safe, hn::And(hn::And(hn::Ge(fromX, left), hn::Le(fromX, right)),
+                                     hn::And(hn::Ge(fromY, top), hn::Le(fromY, bottom))));
+        hn::StoreU(hn::DemoteTo(words, fromX), words, sx + i);
+        hn::StoreU(hn::DemoteTo(words, fromY), words, sy + i);
+    }
+    return hn::AllTrue(d, safe);
+}
+
 } // namespace velara::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -182,6 +226,7 @@ HWY_EXPORT(productsToPlacesImpl);
 HWY_EXPORT(twirlPlacesImpl);
 HWY_EXPORT(bendPlacesImpl);
 HWY_EXPORT(waveOffsetsImpl);
+HWY_EXPORT(lensPlacesImpl);
 
 void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places)
 {
@@ -206,6 +251,11 @@ std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t
 std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
 {
     return HWY_DYNAMIC_DISPATCH(bendPlacesImpl)(bend, x0, y, n, sx, sy);
+}
+
+bool lensPlaces(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    return HWY_DYNAMIC_DISPATCH(lensPlacesImpl)(lens, x0, y, n, sx, sy);
 }
 
 WaveTables::WaveTables()

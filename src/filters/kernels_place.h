@@ -2,6 +2,7 @@
 // bit for bit; kernels that approximate return the lanes that lie too near to a rounding boundary, to be worked out
 // again.
 #pragma once
+#include "filters/Region.h"
 #include <cstdint>
 
 namespace velara {
@@ -19,11 +20,10 @@ void productsToPlaces(const double* factors, double d, double centre, int n, std
 void lineOfSplitPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places,
                        float* beyond);
 
-/// A twirl: by whole radius the cosine and sine of the angle that it adds.
+/// A twirl: by whole radius the cosine and then the sine of the angle that it adds.
 struct Twirl {
     int cx, cy;
-    const float* cosine;
-    const float* sine;
+    const float* turns;
     float tolerance; // of the result, by pixel of the radius
 };
 
@@ -41,6 +41,17 @@ struct Bend {
 /// The angle as a part of the width and the radius counted from the bottom, for the n targets from (x0, y). Returns a
 /// bit for each target that is to be worked out again.
 std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
+
+/// A lens: sources are depth times the distance from the centre, over the height of the sphere of radius.
+struct Lens {
+    std::int32_t cx, cy;
+    double radius, depth;
+    Rect within; // what can be read
+};
+
+/// round(depth * ox) \ z and round(depth * oy) \ z from the centre, z = round(sqrt(radius^2 - ox^2 - oy^2)), for the n
+/// targets from (x0, y), all within the sphere. False when one is to raise a fault: then nothing is said of any.
+bool lensPlaces(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
 
 /// Sines and cosines of 0, 1, 2, ... radians.
 struct WaveTables {

@@ -7,11 +7,14 @@
 #define VELARA_KERNELS_WARP_TYPES
 namespace velara {
 
+constexpr int kLongestVector = 16; // words
+
 struct TakeJob {
     const std::int32_t* origin; // of pixel (0, 0), as words
     std::int32_t stride;
     Rect rect;
-    bool marked, clean;
+    const SourceMask* mask; // null when all of rect is selected
+    bool clean;
 };
 
 struct TurnJob {
@@ -35,6 +38,7 @@ struct BlendJob {
 #include <hwy/highway.h>
 
 #include "filters/lanes-inl.h"
+#include "filters/pixels-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace velara {
@@ -42,26 +46,29 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// A word a lane; the lanes whose source is not selected read the pixel (left, top) and drop it.
-void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
+/// The words at the n indices, a multiple of two, in pairs: half as many stores, and no gather instruction, which takes
+/// longer than scalar loads on the machines measured.
+HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
+{
+    for (int i = 0; i < n; i += 2) {
+        std::uint64_t two;
+        std::memcpy(&two, indices + i, sizeof two);
+        const auto word = [&](std::uint64_t index) {
+            return static_cast<std::uint32_t>(base[static_cast<std::int32_t>(index)]);
+        };
+        const std::uint64_t pair = word(two & 0xFFFFFFFF) | std::uint64_t(word(two >> 32)) << 32;
+        std::memcpy(found + i, &pair, sizeof pair);
+    }
+}
+
+/// to[i] = merged(i, kept) for n pixels, a vector at a time.
+template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, Merge merged)
 {
     const hn::ScalableTag<std::int32_t> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, job.clean ? ~0x00FFFFFF : -1);
-    const auto left = hn::Set(d, job.rect.left), right = hn::Set(d, job.rect.right);
-    const auto top = hn::Set(d, job.rect.top), bottom = hn::Set(d, job.rect.bottom);
-    const auto one = hn::Set(d, 1);
-    const auto stride = hn::Set(d, job.stride);
-    const auto step = [&](int i, const Pixel* from, Pixel* target) {
-        const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
-        auto inside = hn::And(hn::And(hn::Gt(x, hn::Sub(left, one)), hn::Lt(x, right)),
-                              hn::And(hn::Gt(y, hn::Sub(top, one)), hn::Lt(y, bottom)));
-        const auto sourceX = hn::IfThenElse(inside, x, left), sourceY = hn::IfThenElse(inside, y, top);
-        const auto found = loadEach(d, job.origin, hn::Add(hn::Mul(sourceY, stride), sourceX));
-        if (job.marked) inside = hn::And(inside, hn::Ne(hn::AndNot(colour, found), hn::Zero(d)));
+    const auto step = [&](int i, const Pixel* from, Pixel* target) HWY_ATTR {
         const auto old = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(from));
-        const auto taken = hn::Or(hn::And(colour, found), hn::AndNot(colour, old));
-        hn::StoreU(hn::IfThenElse(inside, taken, hn::And(staying, old)), d, reinterpret_cast<std::int32_t*>(target));
+        hn::StoreU(merged(i, old), d, reinterpret_cast<std::int32_t*>(target));
     };
     int i = 0;
     for (; i + lanes <= n; i += lanes) step(i, kept + i, to + i);
@@ -71,6 +78,120 @@ void takeRow(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         step(i, tail, tail);
         copyPixels(tail, to + i, 0, n - i);
     }
+}
+
+/// The words at places that may lie outside of the selection: those read the pixel (left, top), and inside tells them.
+HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n,
+                               std::int32_t* found, std::int32_t* inside)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto left = hn::Set(d, job.rect.left), right = hn::Set(d, job.rect.right - 1);
+    const auto top = hn::Set(d, job.rect.top), bottom = hn::Set(d, job.rect.bottom - 1);
+    const auto stride = hn::Set(d, job.stride);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], xs[kPlaces], ys[kPlaces];
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
+        const auto limitedX = hn::Min(hn::Max(x, left), right), limitedY = hn::Min(hn::Max(y, top), bottom);
+        const auto isInside = hn::And(hn::Eq(x, limitedX), hn::Eq(y, limitedY));
+        const auto sourceX = hn::IfThenElse(isInside, x, left), sourceY = hn::IfThenElse(isInside, y, top);
+        hn::Store(hn::VecFromMask(d, isInside), d, inside + i);
+        hn::Store(hn::Add(hn::Mul(sourceY, stride), sourceX), d, indices + i);
+        hn::Store(sourceX, d, xs + i);
+        hn::Store(sourceY, d, ys + i);
+    }
+    loadWords(job.origin, indices, n, found);
+    if (job.mask)
+        for (int i = 0; i < n; ++i) inside[i] &= job.mask->at(xs[i], ys[i]);
+}
+
+/// Whole runs are told apart by the box around their sources: selected, not selected, or to be asked one by one.
+void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
+{
+    using Holds = SourceMask::Holds;
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, job.clean ? ~0x00FFFFFF : -1);
+    const auto stride = hn::Set(d, job.stride);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], found[kPlaces], inside[kPlaces];
+    auto left = hn::Load(d, sx), right = left, top = hn::Load(d, sy), bottom = top;
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
+        left = hn::Min(left, x);
+        right = hn::Max(right, x);
+        top = hn::Min(top, y);
+        bottom = hn::Max(bottom, y);
+        hn::Store(hn::Add(hn::Mul(y, stride), x), d, indices + i);
+    }
+    const int x0 = hn::GetLane(hn::MinOfLanes(d, left)), x1 = hn::GetLane(hn::MaxOfLanes(d, right));
+    const int y0 = hn::GetLane(hn::MinOfLanes(d, top)), y1 = hn::GetLane(hn::MaxOfLanes(d, bottom));
+    const Rect& r = job.rect;
+    auto holds = x0 >= r.left && x1 < r.right && y0 >= r.top && y1 < r.bottom ? Holds::All : Holds::Some;
+    if (r.isEmpty() || x1 < r.left || x0 >= r.right || y1 < r.top || y0 >= r.bottom)
+        holds = Holds::None;
+    else if (job.mask) {
+        const auto within = job.mask->holds(std::max(x0, r.left), std::max(y0, r.top), std::min(x1, r.right - 1),
+                                            std::min(y1, r.bottom - 1));
+        if (within != Holds::All) holds = within;
+    }
+    const auto whole = (n + lanes - 1) / lanes * lanes;
+    if (holds == Holds::None)
+        mergePixels(n, kept, to, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
+    else if (holds == Holds::All) {
+        loadWords(job.origin, indices, whole, found);
+        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
+            return hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
+        });
+    } else {
+        findSelected(job, sx, sy, whole, found, inside);
+        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
+            const auto taken = hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
+            const auto isInside = hn::MaskFromVec(hn::Load(d, inside + i));
+            return hn::IfThenElse(isInside, taken, hn::And(staying, old));
+        });
+    }
+}
+
+void takeColumnsImpl(const SpanOf& s, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
+                     bool clean)
+{
+    alignas(HWY_MAX_BYTES) std::int32_t found[kPlaces];
+    const auto* words = reinterpret_cast<const std::int32_t*>(source);
+    int begin = s.x0, end = s.x0;
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d8)> d;
+        const int lanes = static_cast<int>(hn::Lanes(d));
+        const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, clean ? ~0x00FFFFFF : -1);
+        if (lanes == 1) {
+            found[0] = words[columns[x]];
+            begin = x;
+        } else if (x >= end) {
+            begin = x;
+            end = x + std::min(kPlaces, (s.x1 - x) / lanes * lanes);
+            loadWords(words, columns + x, end - x, found);
+        }
+        const auto old = hn::BitCast(d, loadBytes(d8, s.from + x));
+        const auto taken = hn::Or(hn::And(colour, hn::LoadU(d, found + x - begin)), hn::AndNot(colour, old));
+        const auto isInside = hn::MaskFromVec(hn::LoadU(d, inside + x));
+        return hn::BitCast(d8, hn::IfThenElse(isInside, taken, hn::And(staying, old)));
+    });
+}
+
+void takeRowImpl(const SpanOf& s, const Pixel* source)
+{
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        return withFourthOf(d8, loadBytes(d8, s.from + x), loadBytes(d8, source + x));
+    });
+}
+
+void takeRowMirroredImpl(const SpanOf& s, const Pixel* source, int last)
+{
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::uint32_t, decltype(d8)> d;
+        const int lanes = static_cast<int>(hn::Lanes(d));
+        const auto mirrored = hn::Reverse(d, hn::BitCast(d, loadBytes(d8, source + last - x - lanes + 1)));
+        return withFourthOf(d8, loadBytes(d8, s.from + x), hn::BitCast(d8, mirrored));
+    });
 }
 
 /// Blends of three channels of four pixels each; see blendPixels.
@@ -156,7 +277,45 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace velara {
 
-HWY_EXPORT(takeRow);
+HWY_EXPORT(takeRun);
+HWY_EXPORT(takeColumnsImpl);
+HWY_EXPORT(takeRowImpl);
+HWY_EXPORT(takeRowMirroredImpl);
+
+SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int height)
+    : words_(static_cast<std::size_t>(width + 31) / 32), columns_(static_cast<std::size_t>(width >> kCellBits) + 2),
+      width_(width), height_(height), bits_(words_ * static_cast<std::size_t>(height)),
+      sums_(columns_ * (static_cast<std::size_t>(height >> kCellBits) + 2))
+{
+    constexpr int kCell = 1 << kCellBits;
+    for (int y = rect.top; y < rect.bottom; ++y) {
+        std::uint32_t* bits = bits_.data() + static_cast<std::size_t>(y) * words_;
+        std::int32_t* counts = sums_.data() + (static_cast<std::size_t>(y >> kCellBits) + 1) * columns_ + 1;
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, rect.left), x1 = std::min(s.x1, rect.right);
+            for (int x = x0; x < x1; x = (x | 31) + 1) {
+                const int n = std::min(x1, (x | 31) + 1) - x;
+                bits[x >> 5] |= (n == 32 ? ~0U : (1U << n) - 1) << (x & 31);
+            }
+            for (int x = x0; x < x1; x = (x | (kCell - 1)) + 1)
+                counts[x >> kCellBits] += std::min(x1, (x | (kCell - 1)) + 1) - x;
+        }
+    }
+    for (std::size_t i = columns_; i < sums_.size(); ++i) // the first column stays 0, as nothing is to its left
+        if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
+}
+
+SourceMask::Holds SourceMask::holds(int left, int top, int right, int bottom) const
+{
+    const int x0 = left >> kCellBits, x1 = (right >> kCellBits) + 1, y0 = top >> kCellBits,
+              y1 = (bottom >> kCellBits) + 1;
+    const auto sum = [&](int x, int y) { return sums_[static_cast<std::size_t>(y) * columns_ + std::size_t(x)]; };
+    const int count = sum(x1, y1) - sum(x0, y1) - sum(x1, y0) + sum(x0, y0);
+    if (count == 0) return Holds::None;
+    const int width = std::min(x1 << kCellBits, width_) - (x0 << kCellBits);
+    const int height = std::min(y1 << kCellBits, height_) - (y0 << kCellBits);
+    return count == width * height ? Holds::All : Holds::Some;
+}
 
 SourcePixels::SourcePixels(const Bits& bits, const Region& region)
     : bits_(bits), rect_(region.bounds().intersected({0, 0, bits.width(), bits.height()})), marked_(false)
@@ -165,33 +324,48 @@ SourcePixels::SourcePixels(const Bits& bits, const Region& region)
         const auto spans = region.spans(y);
         marked_ = spans.size() != 1 || spans[0].x0 > rect_.left || spans[0].x1 < rect_.right;
     }
-    if (!marked_) return;
-    Bits marked = Bits::uninitialized(bits.width(), bits.height());
-    for (int y = rect_.top; y < rect_.bottom; ++y) {
-        Pixel* to = marked.row(y);
-        for (int x = rect_.left; x < rect_.right; ++x) to[x].c[3] = 0;
-        for (const Span s : region.spans(y)) {
-            const int x0 = std::max(s.x0, rect_.left), x1 = std::min(s.x1, rect_.right);
-            copyPixels(bits.row(y), to, x0, x1);
-            for (int x = x0; x < x1; ++x) to[x].c[3] = 1;
-        }
-    }
-    bits_ = marked;
+    if (marked_) mask_ = SourceMask(region, rect_, bits.width(), bits.height());
 }
 
-void SourcePixels::take(const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, bool clean,
-                        Pixel* to) const
+namespace {
+
+void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::int32_t* sx, std::int32_t* sy, int n,
+              const Pixel* kept, bool clean, Pixel* to)
 {
-    if (rect_.isEmpty()) {
-        for (int i = 0; i < n; ++i) {
-            to[i] = kept[i];
-            if (clean) std::memset(to[i].c, 0, 3);
-        }
-        return;
+    for (int i = n; i % kLongestVector != 0; ++i) {
+        sx[i] = sx[n - 1];
+        sy[i] = sy[n - 1];
     }
-    const TakeJob job{reinterpret_cast<const std::int32_t*>(bits_.row(0)), static_cast<std::int32_t>(bits_.stride()),
-                      rect_, marked_, clean};
-    HWY_DYNAMIC_DISPATCH(takeRow)(job, sx, sy, n, kept, to);
+    const TakeJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
+                      rect, mask, clean};
+    HWY_DYNAMIC_DISPATCH(takeRun)(job, sx, sy, n, kept, to);
+}
+
+} // namespace
+
+void SourcePixels::take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const
+{
+    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, to);
+}
+
+void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
+{
+    constexpr int kMargin = Bits::kMargin;
+    const Rect all{-kMargin, -kMargin, bits.width() + kMargin, bits.height() + kMargin};
+    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, to);
+}
+
+void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
+                 bool clean)
+{
+    HWY_DYNAMIC_DISPATCH(takeColumnsImpl)(span, source, columns, inside, clean);
+}
+
+void takeRow(const SpanOf& span, const Pixel* source) { HWY_DYNAMIC_DISPATCH(takeRowImpl)(span, source); }
+
+void takeRowMirrored(const SpanOf& span, const Pixel* source, int last)
+{
+    HWY_DYNAMIC_DISPATCH(takeRowMirroredImpl)(span, source, last);
 }
 
 HWY_EXPORT(blendRow);
