@@ -149,8 +149,8 @@ class cBitFilter {
     template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel);
     template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
     Bits rankFilter(int Mode, RankWindow window);
-    template <class Tile> Bits eachTile(Tile&& tile);
-    template <class Map> Bits eachSource(bool Clean, Map&& map);
+    template <class Tile> Bits eachTile(int rows, Tile&& tile);
+    template <class Map> Bits eachSource(bool Clean, Map&& map, int rows = 64);
     /// eachSource for the sources (columns[x], rows[y]).
     Bits eachCrossing(bool Clean, const std::vector<std::int32_t>& columns, const std::vector<std::int32_t>& rows);
     template <class Kernel> Bits eachOfDisc(const Disc& disc, double limit, Kernel&& kernel);

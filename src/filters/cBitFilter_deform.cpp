@@ -34,7 +34,7 @@ Bits cBitFilter::RotateSmooth(int Degrees)
 {
     const Bits in = bits_;
     const Turn turn(in, Degrees);
-    return eachTile([&](Bits& out, int x0, int x1, int y0, int y1) {
+    return eachTile(kPlaces, [&](Bits& out, int x0, int x1, int y0, int y1) {
         std::int32_t ix[kPlaces], iy[kPlaces];
         float fx[kPlaces], fy[kPlaces];
         for (int y = y0; y < y1; ++y) {

@@ -80,31 +80,34 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     std::vector<double> tangents;
     for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));
     const WaveTables waves;
-    return eachSource(false, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        std::copy_n(columns.data() + x0, n, sx);
-        std::fill_n(sy, n, rows[y]);
-        const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
-                              (static_cast<double>(x0) - box.xmin) + 1;
-        switch (glass->mixed) {
-        case Mixed::None:
-            break;
-        case Mixed::NumberX:
-            addWaves(waves, number, kWeightX, n, sx);
-            break;
-        case Mixed::NumberY:
-            addWaves(waves, number, kWeightY, n, sy);
-            break;
-        case Mixed::RowX:
-            std::fill_n(sx, n, roundEven(tangents[y]));
-            break;
-        case Mixed::ProductX:
-            for (int i = 0; i < n; ++i) sx[i] = roundEven(tangents[y] * tangents[x0 + i]);
-            break;
-        case Mixed::SumY:
-            for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangents[y]);
-            break;
-        }
-    });
+    return eachSource(
+        false,
+        [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+            std::copy_n(columns.data() + x0, n, sx);
+            std::fill_n(sy, n, rows[y]);
+            const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
+                                  (static_cast<double>(x0) - box.xmin) + 1;
+            switch (glass->mixed) {
+            case Mixed::None:
+                break;
+            case Mixed::NumberX:
+                addWaves(waves, number, kWeightX, n, sx);
+                break;
+            case Mixed::NumberY:
+                addWaves(waves, number, kWeightY, n, sy);
+                break;
+            case Mixed::RowX:
+                std::fill_n(sx, n, roundEven(tangents[y]));
+                break;
+            case Mixed::ProductX:
+                for (int i = 0; i < n; ++i) sx[i] = roundEven(tangents[y] * tangents[x0 + i]);
+                break;
+            case Mixed::SumY:
+                for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangents[y]);
+                break;
+            }
+        },
+        1);
 }
 
 } // namespace velara

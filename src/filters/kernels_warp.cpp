@@ -135,6 +135,14 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         if (within != Holds::All) holds = within;
     }
     const auto whole = (n + lanes - 1) / lanes * lanes;
+    if (n == kPlaces) { // what the run to the right is about to read and write, were its sources on the same line
+        const std::ptrdiff_t onward = std::ptrdiff_t(indices[n - 1]) - indices[0];
+        for (int i = 0; i < kPlaces; i += kLinePixels) {
+            __builtin_prefetch(kept + kPlaces + i);
+            __builtin_prefetch(to + kPlaces + i, 1);
+        }
+        for (int i = 3; i < kPlaces; i += kLinePixels / 2) __builtin_prefetch(job.origin + indices[i] + onward);
+    }
     if (holds == Holds::None)
         mergePixels(n, kept, to, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
     else if (holds == Holds::All) {

@@ -30,9 +30,9 @@ template <class Run> void eachRun(int x0, int x1, Run&& run)
     for (int x = x0; x < x1; x += kPlaces) run(x, std::min(kPlaces, x1 - x));
 }
 
-/// The targets of the box inside the picture, in tiles. tile(out, x0, x1, y0, y1) writes all four bytes of each pixel
-/// of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
-template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
+/// The targets of the box inside the picture, in tiles of so many rows. tile(out, x0, x1, y0, y1) writes all four bytes
+/// of each pixel of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
+template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
 {
     constexpr int kSide = kPlaces;
     const Bits in = bits_;
@@ -43,8 +43,8 @@ template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    for (int y0 = box.ymin; y0 <= box.ymax; y0 += kSide) {
-        const int y1 = std::min(y0 + kSide, box.ymax + 1);
+    for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
+        const int y1 = std::min(y0 + rows, box.ymax + 1);
         for (int x0 = box.xmin; x0 <= box.xmax; x0 += kSide) tile(out, x0, std::min(x0 + kSide, box.xmax + 1), y0, y1);
         for (int y = y0; y < y1; ++y) {
             copyPixels(in.row(y), out.row(y), -Bits::kMargin, box.xmin);
@@ -59,12 +59,12 @@ template <class Tile> Bits cBitFilter::eachTile(Tile&& tile)
 
 /// Each target of the box takes the pixel at the source position of map, if the region contains that position; else it
 /// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= kPlaces targets
-/// from (x0, y).
-template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map)
+/// from (x0, y). Tiles of one row suit sources that lie near to their targets.
+template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows)
 {
     const Bits in = bits_;
     const SourcePixels source(in, region_);
-    return eachTile([&](Bits& out, int x0, int x1, int y0, int y1) {
+    return eachTile(rows, [&](Bits& out, int x0, int x1, int y0, int y1) {
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         for (int y = y0; y < y1; ++y) {
             map(y, x0, x1 - x0, sx, sy);

@@ -39,14 +39,17 @@ std::string written(const Arguments& arguments)
     return "(" + text + ")";
 }
 
-/// Sizes around the vectors' and the margin's; one row is wider than what is written past the cache.
-constexpr int kSizes[][2] = {{1, 1}, {1, 7}, {9, 1}, {2, 2}, {3, 5}, {17, 9}, {64, 40}, {131, 33}, {1100, 3}};
-const char* const kSelections[] = {"no region", "empty", "everything", "random", "random", "outside"};
+/// Sizes around the vectors' and the margin's; one row is wider than what is written past the cache, and one picture
+/// holds blocks of pixels that an ellipse covers, crosses and leaves out.
+constexpr int kSizes[][2] = {{1, 1},  {1, 7},   {9, 1},    {2, 2},    {3, 5},
+                             {17, 9}, {64, 40}, {131, 33}, {1100, 3}, {230, 170}};
+const char* const kSelections[] = {"no region", "empty", "everything", "random", "random", "outside", "ellipse"};
 
 Region selection(std::string_view kind, int width, int height, std::uint32_t seed)
 {
     if (kind == "no region") return {};
     if (kind == "empty") return Region::rectangle(0, 0, 0, 0);
+    if (kind == "ellipse") return Region::ellipse(1, 1, width, height);
     if (kind == "outside") return Region::rectangle(-5, -4, width + 3, height + 6);
     return kind == "random" ? randomRegion(width, height, seed) : Region::rectangle(0, 0, width, height);
 }
