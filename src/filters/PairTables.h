@@ -53,24 +53,14 @@ inline Pixel greyPixel(std::uint8_t grey, const Pixel& p)
 /// The three channels through one table.
 class ThroughTable {
   public:
-    explicit ThroughTable(const ByteTable& table)
-        : pairs_(pairTable<std::uint16_t>([&](int a, int b) { return table[a] | table[b] << 8; }))
-    {
-        for (std::size_t i = 0; i < table.size(); ++i) reds_[i] = std::uint32_t{table[i]} << 16;
-    }
+    explicit ThroughTable(const ByteTable& table) : table_(table) {}
     void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
     {
-        inBlocks(from, to, x0, x1, [pairs = pairs_.data(), this](const Pixel* p, Pixel* q, int n) {
-            for (int i = 0; i < n; ++i) {
-                const std::uint32_t v = wordOf(p[i]);
-                q[i] = pixelFrom(pairs[v & 0xFFFF] | reds_[v >> 16 & 255] | (v & kFourthByte));
-            }
-        });
+        colourKernels().table({from, 0, to, x0, x1}, table_.data());
     }
 
   private:
-    std::vector<std::uint16_t> pairs_;
-    std::array<std::uint32_t, 256> reds_;
+    alignas(64) ByteTable table_;
 };
 
 } // namespace velara

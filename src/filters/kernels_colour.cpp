@@ -32,6 +32,30 @@ void add(const SpanOf& s, std::uint32_t plus, std::uint32_t minus)
     });
 }
 
+/// Sixteen look-ups of sixteen entries by the low half of a byte; its high half then chooses among them bit by bit.
+void table(const SpanOf& s, const std::uint8_t* entries)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const auto source = loadBytes(d, s.from + x);
+        const auto low = hn::And(source, hn::Set(d, 15));
+        const auto sixteen = [&](int i) HWY_ATTR {
+            if constexpr (hn::MaxLanes(d) > 16)
+                return hn::TableLookupBytes(hn::LoadDup128(d, entries + 16 * i), low);
+            else
+                return hn::TableLookupBytes(hn::Load(hn::FixedTag<std::uint8_t, 16>(), entries + 16 * i), low);
+        };
+        const auto bit = [&](int b) HWY_ATTR {
+            const auto one = hn::Set(d, static_cast<std::uint8_t>(1 << b));
+            return hn::Eq(hn::And(source, one), one);
+        };
+        const auto bit4 = bit(4), bit5 = bit(5), bit6 = bit(6), bit7 = bit(7);
+        const auto two = [&](int i) HWY_ATTR { return hn::IfThenElse(bit4, sixteen(i + 1), sixteen(i)); };
+        const auto four = [&](int i) HWY_ATTR { return hn::IfThenElse(bit5, two(i + 2), two(i)); };
+        const auto eight = [&](int i) HWY_ATTR { return hn::IfThenElse(bit6, four(i + 4), four(i)); };
+        return withFourthOf(d, source, hn::IfThenElse(bit7, eight(8), eight(0)));
+    });
+}
+
 void threshold(const SpanOf& s, int bound)
 {
     forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
@@ -163,9 +187,9 @@ void copyPast(const Pixel* from, Pixel* to, int n)
 
 const ColourKernels& colourKernelTable()
 {
-    static constexpr ColourKernels table = {channels, add,       threshold,  grey,        bySum,
-                                            saturate, byGreySum, brightness, sumOfThirds, copyPast};
-    return table;
+    static constexpr ColourKernels kernels = {channels, add,       table,      threshold,   grey,    bySum,
+                                              saturate, byGreySum, brightness, sumOfThirds, copyPast};
+    return kernels;
 }
 
 } // namespace velara::HWY_NAMESPACE

@@ -28,6 +28,8 @@ struct ColourKernels {
     void (*channels)(const SpanOf&, const ChannelMap&);
     /// Adds plus, then takes minus away, bytes that saturate.
     void (*add)(const SpanOf&, std::uint32_t plus, std::uint32_t minus);
+    /// table[c] of each of the three channels, 256 bytes.
+    void (*table)(const SpanOf&, const std::uint8_t* table);
     /// Black where c0+c1+c2 <= bound, white elsewhere.
     void (*threshold)(const SpanOf&, int bound);
     /// round(greyOf) in the bytes that keep leaves open.
