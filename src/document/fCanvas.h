@@ -41,7 +41,7 @@ class fCanvas final : public fGeometry {
     Job job() const override;
 
   protected:
-    bool valid() const override { return largeEnough(fields_->widthValue(), fields_->heightValue()); }
+    bool valid() const override { return sizeAllowed(fields_->widthValue(), fields_->heightValue()); }
 
   private:
     QWidget* makeAnchors();

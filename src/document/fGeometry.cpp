@@ -6,16 +6,13 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QPushButton>
-#include <limits>
 
 namespace velara {
 
 namespace {
 
-constexpr int kLargest = std::numeric_limits<std::int16_t>::max(); // of a side
-
 /// value as a 16-bit integer, halves to even; what does not fit is cut.
-int sixteenBit(double value) { return static_cast<int>(std::clamp(roundToEven(value), 0.0, double(kLargest))); }
+int sixteenBit(double value) { return static_cast<int>(std::clamp(roundToEven(value), 0.0, double(Bits::kMostASide))); }
 
 } // namespace
 
@@ -49,11 +46,15 @@ void fGeometry::accept()
     if (valid()) QDialog::accept();
 }
 
-bool fGeometry::largeEnough(int width, int height) const
+bool fGeometry::sizeAllowed(int width, int height) const
 {
-    if (width >= 2 && height >= 2) return true;
-    platform_.message("Velara Studio", "Minimum size: 2 x 2", Icon::Information);
-    return false;
+    const auto refused = [this](const QString& why) {
+        platform_.message("Velara Studio", why, Icon::Information);
+        return false;
+    };
+    if (width < 2 || height < 2) return refused("Minimum size: 2 x 2");
+    if (!Bits::sizeAllowed(width, height)) return refused("Maximum size: 256 megapixels");
+    return true;
 }
 
 Bits fGeometry::tried(const Bits& picture, const Job& job)
@@ -80,7 +81,7 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
         edit->setObjectName(name);
         edit->setAccessibleName(caption);
         edit->setMaxLength(5);
-        edit->setValidator(new QIntValidator(0, kLargest, edit));
+        edit->setValidator(new QIntValidator(0, Bits::kMostASide, edit));
         edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("000000") + 24);
         edit->setAlignment(Qt::AlignRight);
         auto* label = new QLabel(caption);
@@ -104,8 +105,8 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
 void fSizeFields::set(int width, int height)
 {
     guard_ = true;
-    width_->setText(QString::number(std::clamp(width, 0, kLargest)));
-    height_->setText(QString::number(std::clamp(height, 0, kLargest)));
+    width_->setText(QString::number(std::clamp(width, 0, Bits::kMostASide)));
+    height_->setText(QString::number(std::clamp(height, 0, Bits::kMostASide)));
     guard_ = false;
     emit changed();
 }

@@ -33,8 +33,8 @@ class fGeometry : public QDialog {
     /// False keeps the dialog open.
     virtual bool valid() const { return true; }
     void accept() override;
-    /// "Minimum size: 2 x 2" when either is less.
-    bool largeEnough(int width, int height) const;
+    /// "Minimum size: 2 x 2" when either is less; no picture has more than 256 megapixels.
+    bool sizeAllowed(int width, int height) const;
     /// The job done on a copy of the picture.
     static Bits tried(const Bits& picture, const Job& job);
 

@@ -14,7 +14,7 @@ class fNew final : public fGeometry {
     Job job() const override;
 
   protected:
-    bool valid() const override { return largeEnough(widthValue(), heightValue()); }
+    bool valid() const override { return sizeAllowed(widthValue(), heightValue()); }
     void accept() override;
 
   private:

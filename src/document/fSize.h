@@ -11,7 +11,7 @@ class fSize final : public fGeometry {
     Job job() const override;
 
   protected:
-    bool valid() const override { return largeEnough(fields_->widthValue(), fields_->heightValue()); }
+    bool valid() const override { return sizeAllowed(fields_->widthValue(), fields_->heightValue()); }
 
   private:
     void quick(const QString& entry);

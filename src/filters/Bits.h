@@ -26,6 +26,13 @@ constexpr Colour colourOf(int red, int green, int blue) { return red | green << 
 class Bits {
   public:
     static constexpr int kMargin = 2;
+    /// What the program takes as a picture's size: 1 to 32767 a side, at most 256 Mi pixels.
+    static constexpr int kMostASide = 32767;
+    static constexpr std::int64_t kMostPixels = 256 << 20;
+    static constexpr bool sizeAllowed(std::int64_t width, std::int64_t height)
+    {
+        return width > 0 && height > 0 && width <= kMostASide && height <= kMostASide && width * height <= kMostPixels;
+    }
 
     Bits() = default;
     /// All bytes zero. A size below 1 by 1 gives an empty buffer; std::bad_alloc when memory is short.

@@ -61,14 +61,10 @@ inline void clearMargin(Bits& bits)
     }
 }
 
-/// Sizes of pictures end at 32767 a side and 256 Mi pixels; OutOfRange above and below 1.
+/// OutOfRange for a size that no picture may have.
 inline void checkSize(int width, int height)
 {
-    constexpr int kMostPixelsASide = 32767;
-    constexpr std::int64_t kMostPixels = 256 << 20;
-    if (width < 1 || height < 1 || width > kMostPixelsASide || height > kMostPixelsASide ||
-        std::int64_t(width) * height > kMostPixels)
-        throw RuntimeError(Fault::OutOfRange);
+    if (!Bits::sizeAllowed(width, height)) throw RuntimeError(Fault::OutOfRange);
 }
 
 /// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.

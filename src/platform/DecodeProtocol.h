@@ -20,15 +20,6 @@ constexpr std::size_t kSlots = 4;
 constexpr std::size_t kSlotBytes = 256 << 10; // a row of the widest picture takes half of it
 constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 
-constexpr int kMostPixelsASide = 32767;
-constexpr std::int64_t kMostPixels = 256 << 20;
-
-constexpr bool isReadableSize(std::int64_t width, std::int64_t height)
-{
-    return width > 0 && height > 0 && width <= kMostPixelsASide && height <= kMostPixelsASide &&
-           width * height <= kMostPixels;
-}
-
 /// First message of the child. Width and height 0: reason says in UTF-8, zero-terminated, why there is no picture.
 struct Opening {
     std::uint32_t magic;
@@ -39,6 +30,6 @@ constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"
 
 /// Rows of W pixels, without margin, that a slot holds.
 constexpr int rowsInSlot(int width) { return static_cast<int>(kSlotBytes / (sizeof(Pixel) * width)); }
-static_assert(rowsInSlot(kMostPixelsASide) > 0);
+static_assert(rowsInSlot(Bits::kMostASide) > 0);
 
 } // namespace velara::decode

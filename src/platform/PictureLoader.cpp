@@ -105,7 +105,7 @@ LoadedPicture receivePicture(DecoderProcess& child)
         const QString reason = QString::fromUtf8(opening.reason, length).simplified();
         return {{}, reason.isEmpty() ? QString(kNonsense) : reason};
     }
-    if (!decode::isReadableSize(opening.width, opening.height)) return {{}, kNonsense};
+    if (!Bits::sizeAllowed(opening.width, opening.height)) return {{}, kNonsense};
     return receiveRows(child, opening.width, opening.height);
 }
 

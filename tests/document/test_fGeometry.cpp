@@ -86,6 +86,11 @@ TEST_F(Geometry, NewKeepsProportionsRefusesTinySizesAndRemembersCustomOnes)
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_EQ(platform.log.back(), "message: Velara Studio: Minimum size: 2 x 2");
         EXPECT_EQ(platform.lastIcon, Icon::Information);
+        type(dialog, "txtW", "30000");
+        type(dialog, "txtH", "30000");
+        press(dialog, "cmdOK");
+        EXPECT_EQ(platform.log.back(), "message: Velara Studio: Maximum size: 256 megapixels");
+        type(dialog, "txtH", "100");
         type(dialog, "txtW", "123");
         press(dialog, "cmdOK");
         EXPECT_FALSE(dialog.isVisible());

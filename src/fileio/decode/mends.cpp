@@ -91,7 +91,7 @@ void mendPnm(FileBytes& file)
         return value;
     };
     const std::int64_t width = number(), height = number();
-    if (!isReadableSize(width, height)) return;
+    if (!Bits::sizeAllowed(width, height)) return;
 
     const std::size_t bytesARow = static_cast<std::size_t>(width + 7) / 8;
     const std::string header = "P4\n" + std::to_string(width) + ' ' + std::to_string(height) + '\n';
@@ -126,7 +126,7 @@ void mendPcx(FileBytes& file)
     const std::size_t bytesARow = std::size_t{file.byte(Planes)} * file.little16(BytesALine);
     constexpr std::size_t kMostFromAByte = 32; // a run of 63 takes two
     const bool isTrueColour = file.byte(BitsAPixel) == 8 && file.byte(Planes) == 3;
-    if (file.byte(0) != 10 || file.byte(Encoding) != 1 || !isTrueColour || !isReadableSize(width, height) ||
+    if (file.byte(0) != 10 || file.byte(Encoding) != 1 || !isTrueColour || !Bits::sizeAllowed(width, height) ||
         bytesARow == 0 || bytesARow * static_cast<std::size_t>(height) > kMostFromAByte * file.size())
         return;
 
@@ -172,7 +172,7 @@ void mendRas(FileBytes& file)
     const std::uint32_t type = file.big32(Type);
     const bool isCase = file.big32(0) == 0x59a66a95 && file.big32(Depth) == 8 && file.big32(MapType) == 1 &&
                         type <= ByteEncoded && map == 768 && file.size() > kHeader + map &&
-                        isReadableSize(width, height);
+                        Bits::sizeAllowed(width, height);
     if (!isCase) return;
 
     // Rows are padded to an even length; in the encoded form 128 0 is a byte of 128, 128 n v are n+1 bytes of v.

@@ -244,7 +244,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     Stream stream(file.bytes());
     const Size size = sizeOf(file, stream, fif);
     if (size.width < 1 || size.height < 1) return {};
-    if (!isReadableSize(size.width, size.height)) return refused(kTooBig);
+    if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
 
     Dib dib = stream.load(fif, 0);
     if (dib && isCutOff(stream, fif)) return refused(kCutOff);
@@ -252,7 +252,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
     const int height = static_cast<int>(FreeImage_GetHeight(dib.get()));
-    if (!isReadableSize(width, height)) return refused(kTooBig);
+    if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
     return {width,
             height,
             [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {

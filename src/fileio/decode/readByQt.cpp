@@ -34,11 +34,11 @@ Decoded readByQt(FileBytes& file, const char* format)
     reader.setAutoDetectImageFormat(false);
     QImageReader::setAllocationLimit(0); // the limits here are ours
     const QSize size = reader.size();
-    if (size.isValid() && !isReadableSize(size.width(), size.height()))
+    if (size.isValid() && !Bits::sizeAllowed(size.width(), size.height()))
         return size.isEmpty() ? Decoded{} : refused(kTooBig);
     const QImage image = reader.read();
     if (image.isNull()) return {};
-    if (!isReadableSize(image.width(), image.height())) return refused(kTooBig);
+    if (!Bits::sizeAllowed(image.width(), image.height())) return refused(kTooBig);
     return onWhite(image);
 }
 
@@ -76,7 +76,7 @@ bool isDibCutOff(const FileBytes& file)
     const std::uint32_t bits = file.little16(info + 14), compression = file.little32(info + 16);
     const std::uint32_t used = file.little32(info + 32);
     const bool isPlain = compression == 0 || compression == 3; // 3: with colour masks
-    if (!isPlain || !isReadableSize(width, height)) return false;
+    if (!isPlain || !Bits::sizeAllowed(width, height)) return false;
     std::size_t from = info + header + (compression == 3 && header == 40 ? 12 : 0);
     if (bits <= 8) from += 4 * std::size_t{used ? used : 1U << bits};
     if (info) from = file.little32(10);

@@ -76,7 +76,7 @@ Decoded readEmf(FileBytes& file)
     }
     const double width = std::ceil(size.width()), height = std::ceil(size.height());
     if (!(width >= 1 && height >= 1)) return {};
-    if (!isReadableSize(std::llround(width), std::llround(height))) return refused(kTooBig);
+    if (!Bits::sizeAllowed(std::llround(width), std::llround(height))) return refused(kTooBig);
 
     needFonts();
     const QByteArray svg = svgOf(file);

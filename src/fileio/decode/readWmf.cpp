@@ -91,7 +91,7 @@ Decoded readWmf(FileBytes& file)
         }
     }
     if (width == 0 || height == 0) return {};
-    if (!isReadableSize(width, height)) return refused(kTooBig);
+    if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
 
     wmf_gd_t* const canvas = WMF_GD_GetData(api);
     canvas->type = wmf_gd_image;
