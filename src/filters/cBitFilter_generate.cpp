@@ -1,4 +1,5 @@
 // The generators: light, noise, scan lines, grid and texture.
+#include "filters/kernels_colour.h"
 #include "filters/kernels_generate.h"
 #include "filters/numbers.h"
 #include "filters/passes_disc.h"
@@ -90,13 +91,11 @@ Bits cBitFilter::NOISE(int Amount, bool Equalized)
 
 Bits cBitFilter::Scanlines(int Level)
 {
-    std::array<std::uint8_t, 256> darker;
-    for (int i = 0; i < 256; ++i) darker[i] = clamp(std::int64_t(i) - Level);
+    const std::uint32_t plus = clamp(-std::int64_t(Level)) * 0x00010101u, minus = clamp(Level) * 0x00010101u;
     const int first = GetBounds(0).ymin;
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
-        if ((std::int64_t(y) - first) % 2 != 0) return copyPixels(from, to, x0, x1);
-        for (int x = x0; x < x1; ++x)
-            to[x] = {{darker[from[x].c[0]], darker[from[x].c[1]], darker[from[x].c[2]], from[x].c[3]}};
+        const bool isLine = (std::int64_t(y) - first) % 2 == 0;
+        colourKernels().add({from, 0, to, x0, x1}, isLine ? plus : 0, isLine ? minus : 0);
     });
 }
 
