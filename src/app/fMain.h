@@ -23,6 +23,7 @@ class QToolBar;
 namespace velara {
 
 class fDocumentWindow;
+struct SizeWord;
 struct FilterRow;
 class fStatus;
 class fToolPane;
@@ -83,6 +84,7 @@ class fMain final : public QMainWindow, public Frame {
     void closeActive();
     void ZoomImage(int factor, bool enlarge, bool quality);
     void RotateImage(int degrees, bool quality);
+    void runSizeWord(const SizeWord& size);
     /// Runs what gives the active document another shape; then repaint, size panel and undo step.
     void reshape(const std::function<void(Document&, cBitFilter&)>& job);
     void newPicture();

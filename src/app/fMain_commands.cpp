@@ -1,6 +1,7 @@
 // The command language: which word needs what and does what.
 #include "app/fIcons.h"
 #include "app/fMain.h"
+#include "document/sizeWords.h"
 #include "filters/filterDialogs.h"
 #include "filters/operations.h"
 #include "platform/Platform.h"
@@ -56,29 +57,6 @@ constexpr Command kCommands[] = {
     {"500",                  NeedsImage, [](fMain& f) { f.setZoom(5); }},
     {"600",                  NeedsImage, [](fMain& f) { f.setZoom(6); }},
     {"700",                  NeedsImage, [](fMain& f) { f.setZoom(7); }},
-    {"50",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, false, false); }},
-    {"33",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, false, false); }},
-    {"25",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, false, false); }},
-    {"20",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, false, false); }},
-    {"15",                   NeedsImage, [](fMain& f) { f.ZoomImage(7, false, false); }},   // a seventh: odd, and it stays
-    {"10",                   NeedsImage, [](fMain& f) { f.ZoomImage(9, false, false); }},   // a ninth, likewise
-    {"ORIGINAL",             NeedsImage, [](fMain& f) { f.setZoom(1); f.ZoomImage(1, false, false); }},
-    {"2x",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, true, true); }},
-    {"3x",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, true, true); }},
-    {"4x",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, true, true); }},
-    {"5x",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, true, true); }},
-    {"x2",                   NeedsImage, [](fMain& f) { f.ZoomImage(2, false, true); }},
-    {"x3",                   NeedsImage, [](fMain& f) { f.ZoomImage(3, false, true); }},
-    {"x4",                   NeedsImage, [](fMain& f) { f.ZoomImage(4, false, true); }},
-    {"x5",                   NeedsImage, [](fMain& f) { f.ZoomImage(5, false, true); }},
-    {"N90",                  NeedsImage, [](fMain& f) { f.RotateImage(-90, false); }},
-    {"N180",                 NeedsImage, [](fMain& f) { f.RotateImage(-180, false); }},
-    {"N270",                 NeedsImage, [](fMain& f) { f.RotateImage(90, false); }},
-    {"N45",                  NeedsImage, [](fMain& f) { f.RotateImage(-45, false); }},
-    {"A90",                  NeedsImage, [](fMain& f) { f.RotateImage(-90, true); }},
-    {"A180",                 NeedsImage, [](fMain& f) { f.RotateImage(-180, true); }},
-    {"A270",                 NeedsImage, [](fMain& f) { f.RotateImage(90, true); }},
-    {"A45",                  NeedsImage, [](fMain& f) { f.RotateImage(-45, true); }},
     {"IMAGEMERGING",         NeedsImage, kLater},
     {"PASTELAYERSBOX",       NeedsImage, kLater},
     {"IMAGETEXTURES",        NeedsImage, kLater},
@@ -156,6 +134,9 @@ const Command* findIn(std::span<const Command> rows, std::string_view word)
     return row == rows.end() ? nullptr : &*row;
 }
 
+/// Words that are rows of the tables of presets, filter dialogs, sizes and turns; all of them need a document.
+bool isRowElsewhere(std::string_view word) { return findPreset(word) || findFilterRow(word) || findSizeWord(word); }
+
 } // namespace
 
 std::span<const Command> fMain::commands() { return kCommands; }
@@ -164,12 +145,12 @@ std::span<const Command> fMain::actions() { return kActions; }
 
 bool fMain::known(std::string_view word)
 {
-    return findPreset(word) || findFilterRow(word) || findIn(word.starts_with('@') ? actions() : commands(), word);
+    return isRowElsewhere(word) || findIn(word.starts_with('@') ? actions() : commands(), word);
 }
 
 bool fMain::available(std::string_view word)
 {
-    if (findPreset(word) || findFilterRow(word)) return true;
+    if (isRowElsewhere(word)) return true;
     const Command* row = findIn(word.starts_with('@') ? actions() : commands(), word);
     return row && row->run;
 }
@@ -186,6 +167,8 @@ void fMain::Mmenu(const QString& word)
             command->run(*this);
         else if (const FilterRow* filter = findFilterRow(name))
             showFilter(*filter);
+        else if (const SizeWord* size = findSizeWord(name))
+            runSizeWord(*size);
         else
             runPreset(name);
     } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun

@@ -3,6 +3,7 @@
 #include "app/fMain.h"
 #include "app/fStatus.h"
 #include "document/resizing.h"
+#include "document/sizeWords.h"
 #include "filters/RuntimeError.h"
 #include "filters/fFilter.h"
 #include "filters/operations.h"
@@ -158,6 +159,14 @@ void fMain::reshape(const std::function<void(Document&, cBitFilter&)>& job)
 void fMain::RotateImage(int degrees, bool quality)
 {
     reshape([=](Document& document, cBitFilter& filter) { rotateImage(document, filter, degrees, quality); });
+}
+
+void fMain::runSizeWord(const SizeWord& size)
+{
+    if (size.kind == SizeWord::Rotate)
+        RotateImage(size.value, size.quality);
+    else
+        ZoomImage(size.value, size.kind == SizeWord::Enlarge, size.quality);
 }
 
 void fMain::crop()
