@@ -41,7 +41,8 @@ until_true() {
     fail "waited in vain: $what"
 }
 
-Xvfb -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
+# -noreset: a server that resets when its last client leaves takes the window manager that is just connecting with it.
+Xvfb -noreset -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
 pids="$pids $!"
 until_true "a display" test -s "$scratch/display"
 DISPLAY=:$(cat "$scratch/display")
