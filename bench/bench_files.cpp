@@ -3,7 +3,7 @@
 #include "bench.h"
 #include "fileio/ModFreeImage.h"
 #include "fileio/savePicture.h"
-#include "platform/CorePlatform.h"
+#include "platform/WindowlessPlatform.h"
 #include <FreeImage.h>
 #include <QTemporaryDir>
 #include <stdexcept>
@@ -11,18 +11,8 @@
 namespace velara::bench {
 namespace {
 
-class Machine : public CorePlatform {
-    void yield() override {}
+class Machine : public WindowlessPlatform {
     void message(const QString&, const QString& text, Icon) override { throw std::runtime_error(text.toStdString()); }
-    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
-    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
-    QString compactPath(const QString& path, int) override { return path; }
-    bool clipboardHasBitmap() override { return false; }
-    Bits clipboardBitmap() override { return {}; }
-    bool setClipboardBitmap(const Bits&) override { return false; }
-    void clearClipboard() override {}
 };
 
 Machine& machine()

@@ -1,23 +1,12 @@
-// BatchPlatform: the outside world of a program without a window. Messages go to the error output, dialogs are
-// cancelled, and there is no clipboard.
+// BatchPlatform: messages of a program without a window go to the error output.
 #pragma once
-#include "platform/CorePlatform.h"
+#include "platform/WindowlessPlatform.h"
 
 namespace velara {
 
-class BatchPlatform : public CorePlatform {
+class BatchPlatform : public WindowlessPlatform {
   public:
-    void yield() override {}
     void message(const QString& title, const QString& text, Icon icon) override;
-    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
-    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
-    QString compactPath(const QString& path, int) override { return path; }
-    bool clipboardHasBitmap() override { return false; }
-    Bits clipboardBitmap() override { return {}; }
-    bool setClipboardBitmap(const Bits&) override { return false; }
-    void clearClipboard() override {}
 };
 
 /// A line on the error output, behind the program's name.

@@ -1,5 +1,5 @@
 // The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
-// picture files. QtPlatform and BatchPlatform add the rest.
+// picture files. QtPlatform and WindowlessPlatform add the rest.
 #pragma once
 #include "platform/Platform.h"
 #include <random>

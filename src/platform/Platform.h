@@ -1,5 +1,5 @@
 // Platform: what the program asks of the windowing system and of the machine, as one interface. QtPlatform is the real
-// one of the editor, BatchPlatform the windowless one, RecordingPlatform (tests/support) the scripted one.
+// one of the editor, WindowlessPlatform that of the others, RecordingPlatform (tests/support) the scripted one.
 //
 // To add an operation: one pure virtual here with its meaning, one body in each of the three.
 #pragma once

@@ -1,4 +1,4 @@
-#include "platform/CorePlatform.h"
+#include "platform/WindowlessPlatform.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include <QDir>
@@ -12,18 +12,8 @@ namespace velara {
 namespace {
 
 /// The rest of Platform, which doesn't matter here.
-class Machine : public CorePlatform {
-    void yield() override {}
+class Machine : public WindowlessPlatform {
     void message(const QString&, const QString&, Icon) override {}
-    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
-    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
-    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
-    QString compactPath(const QString& path, int) override { return path; }
-    bool clipboardHasBitmap() override { return false; }
-    Bits clipboardBitmap() override { return {}; }
-    bool setClipboardBitmap(const Bits&) override { return false; }
-    void clearClipboard() override {}
 };
 
 } // namespace

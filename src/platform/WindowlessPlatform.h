@@ -1,0 +1,22 @@
+// WindowlessPlatform: the machine without a window. Dialogs are cancelled, nothing yields, and there is no clipboard;
+// what becomes of messages is the program's own affair.
+#pragma once
+#include "platform/CorePlatform.h"
+
+namespace velara {
+
+class WindowlessPlatform : public CorePlatform {
+  public:
+    void yield() override {}
+    Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
+    std::optional<QString> openFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
+    std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
+    QString compactPath(const QString& path, int) override { return path; }
+    bool clipboardHasBitmap() override { return false; }
+    Bits clipboardBitmap() override { return {}; }
+    bool setClipboardBitmap(const Bits&) override { return false; }
+    void clearClipboard() override {}
+};
+
+} // namespace velara
