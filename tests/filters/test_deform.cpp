@@ -1,19 +1,11 @@
 // Deformations and generators: their edges, and pictures large enough that approximated lanes are worked out again.
 #include "filters/RuntimeError.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/twins.h"
 
 namespace velara {
 namespace {
-
-cBitFilter filterOf(const Bits& bits)
-{
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(Region::rectangle(0, 0, bits.width(), bits.height()));
-    return filter;
-}
 
 TEST(Deform, LargePicturesEqualTheirTwins)
 {

@@ -1,19 +1,10 @@
 // The operations that cut, turn and size, where their rules are easy to miss.
 #include "filters/RuntimeError.h"
-#include "filters/cBitFilter.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 
 namespace velara {
 namespace {
-
-cBitFilter filterOf(const Bits& bits)
-{
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(Region::rectangle(0, 0, bits.width(), bits.height()));
-    return filter;
-}
 
 TEST(Geometry, CropCutsWithTheObjectsOwnSizeAndMaskedCropWithTheSources)
 {
