@@ -1,22 +1,13 @@
 // The colour filters by worked examples, their measurements and faults, hue and the nearest palette colour.
 #include "filters/mHSLRGB.h"
 #include "filters/mPalette.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/twins.h"
 #include <optional>
 
 namespace velara {
 namespace {
-
-/// A filter over a picture that is wholly selected, with a clock that stands still.
-cBitFilter filterOver(const Bits& bits)
-{
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(Region::rectangle(0, 0, bits.width(), bits.height()));
-    return filter;
-}
 
 Bits row(std::initializer_list<Pixel> pixels)
 {
@@ -83,7 +74,7 @@ TEST(ColourFilters, WorkedExamples)
         {"Equalize", {}, {{64, 64, 64, 9}}, {{129, 129, 129, 9}}}, // the median is one less than the only grey
     };
     for (const auto& r : rows) {
-        cBitFilter filter = filterOver(row({r.before, r.before, r.before}));
+        cBitFilter filter = filterOf(row({r.before, r.before, r.before}));
         findOperation(r.operation)->call(filter, r.arguments);
         EXPECT_TRUE(sameBits(row({r.after, r.after, r.after}), filter.bits()))
             << r.operation << " of " << int(r.before.c[0]) << ", " << int(r.before.c[1]) << ", " << int(r.before.c[2]);
@@ -92,23 +83,22 @@ TEST(ColourFilters, WorkedExamples)
 
 TEST(ColourFilters, EqualizeDividesByZeroAtAMedianOfOne)
 {
-    EXPECT_EQ(faultOf([] { filterOver(flatBits(4, 4, 2, 2, 2)).Equalize(); }), Fault::DivisionByZero);
-    cBitFilter unselected = filterOver(flatBits(4, 4, 2, 2, 2));
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 2, 2, 2)).Equalize(); }), Fault::DivisionByZero);
+    cBitFilter unselected = filterOf(flatBits(4, 4, 2, 2, 2));
     unselected.setBitsRegion({});
     EXPECT_EQ(faultOf([&] { unselected.Equalize(); }), Fault::DivisionByZero); // counts the whole picture
 }
 
 TEST(ColourFilters, ColoursOutsideOfTheScalesFailOnlyWhereAPixelHasThem)
 {
-    EXPECT_EQ(faultOf([] { filterOver(flatBits(4, 4, 0, 0, 0)).COLORIZE(0, 0, 9); }), std::nullopt);
-    EXPECT_EQ(faultOf([] { filterOver(flatBits(4, 4, 99, 99, 99)).COLORIZE(0, 0, 9); }), Fault::Overflow);
-    EXPECT_EQ(faultOf([] { filterOver(flatBits(4, 4, 9, 9, 9)).SwapRGB(0, 4, 0, 0, 0, 0, 0, 0, 0); }),
-              Fault::OutOfRange);
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 0, 0, 0)).COLORIZE(0, 0, 9); }), std::nullopt);
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 99, 99, 99)).COLORIZE(0, 0, 9); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 9, 9, 9)).SwapRGB(0, 4, 0, 0, 0, 0, 0, 0, 0); }), Fault::OutOfRange);
 }
 
 TEST(ColourFilters, BrightnessIsMeasuredOverTheWholePicture)
 {
-    cBitFilter filter = filterOver(row({{{0, 0, 5, 0}}, {{90, 91, 91, 0}}, {{255, 255, 254, 0}}}));
+    cBitFilter filter = filterOf(row({{{0, 0, 5, 0}}, {{90, 91, 91, 0}}, {{255, 255, 254, 0}}}));
     filter.setBitsRegion({});
     EXPECT_EQ(filter.GetLMin(), 1);
     EXPECT_EQ(filter.GetLMed(), 115); // (1 + 90 + 254) \ 3
@@ -177,7 +167,7 @@ TEST(Palette, NearestKeepsTheEarlierOfTwoAndTheFirstWhenNothingIsNear)
 TEST(Palette, ApplyingSpreadsTheErrorIntoTheObjectsOwnPicture)
 {
     PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
-    cBitFilter filter = filterOver(row({{{100, 100, 100, 0}}, {{100, 100, 100, 0}}, {{100, 100, 100, 0}}}));
+    cBitFilter filter = filterOf(row({{{100, 100, 100, 0}}, {{100, 100, 100, 0}}, {{100, 100, 100, 0}}}));
     const Pixel black{{0, 0, 0, 0}}, white{{255, 255, 255, 0}};
     const Bits first = filter.PaletteApply();
     EXPECT_TRUE(sameBits(row({black, white, black}), first));
@@ -188,7 +178,7 @@ TEST(Palette, ApplyingSpreadsTheErrorIntoTheObjectsOwnPicture)
 
 TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
 {
-    cBitFilter filter = filterOver(randomBits(3, 101, 1));
+    cBitFilter filter = filterOf(randomBits(3, 101, 1));
     filter.setBitsRegion(Region::rectangle(0, 40, 3, 46));
     std::uint32_t now = 1000;
     std::vector<int> percents;
@@ -205,7 +195,7 @@ TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
 
 TEST(Progress, AReportDueInAPictureOfOneRowDividesByZero)
 {
-    cBitFilter filter = filterOver(flatBits(5, 1, 1, 2, 3));
+    cBitFilter filter = filterOf(flatBits(5, 1, 1, 2, 3));
     std::uint32_t now = 10;
     filter.clock = [&] { return now; };
     EXPECT_EQ(faultOf([&] { filter.Invert(); }), std::nullopt); // 10 ms are not more than 10
@@ -219,7 +209,7 @@ TEST(Progress, CancellingLeavesThePicture)
     PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
     const Bits before = randomBits(8, 8, 3);
     for (const char* name : {"Invert", "CONTRAST", "PaletteApply"}) {
-        cBitFilter filter = filterOver(before);
+        cBitFilter filter = filterOf(before);
         filter.Progress = [](int) { throw Cancelled(); };
         const Operation& op = *findOperation(name);
         EXPECT_THROW(op.call(filter, op.parameters.empty() ? Arguments{} : Arguments{40}), Cancelled) << name;
