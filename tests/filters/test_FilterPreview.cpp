@@ -1,6 +1,7 @@
 // The table of the filter dialogs, and their preview.
 #include "filters/FilterPreview.h"
 #include "filters/operations.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 
 namespace velara {
@@ -78,11 +79,7 @@ FilterArgs distinctArguments(int number)
 
 cBitFilter engine(const Bits& bits)
 {
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(Region::ellipse(2, 2, bits.width() - 3, bits.height() - 2));
-    return filter;
+    return filterOf(bits, Region::ellipse(2, 2, bits.width() - 3, bits.height() - 2));
 }
 
 TEST(FilterDialogs, EachNumberRunsItsOperation)

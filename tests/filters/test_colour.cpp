@@ -187,8 +187,7 @@ TEST(Palette, ApplyingFindsTheNearestOfManyCloseColours)
             PaletteColors().push_back({among(0, spread), among(60, std::min(spread, 196)), among(0, spread)});
         const Bits before = randomBits(90, 60, random());
         const Region region = Region::ellipse(-4, -4, 80, 70);
-        cBitFilter filter = filterOf(before);
-        filter.setBitsRegion(region);
+        cBitFilter filter = filterOf(before, region);
         EXPECT_TRUE(sameBits(twins().at("PaletteApply")(before, region, {}), filter.PaletteApply())) << spread;
     }
 }

@@ -1,6 +1,7 @@
 // Neighbourhood filters: values worked out by hand, and arguments beyond the dialogs.
 #include "filters/RuntimeError.h"
 #include "filters/ShortDivider.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/twins.h"
 #include <climits>
@@ -9,16 +10,6 @@
 
 namespace velara {
 namespace {
-
-Bits run(std::string_view name, const Arguments& arguments, const Bits& bits, const Region& region)
-{
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(region);
-    findOperation(name)->call(filter, arguments);
-    return filter.bits();
-}
 
 /// 10 20 30 / 40 55 60 / 70 80 200 in every channel, the fourth byte 7.
 Bits nineValues()

@@ -2,6 +2,7 @@
 #include "filters/RuntimeError.h"
 #include "filters/mPalette.h"
 #include "support/argumentRanges.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/twins.h"
 #include <optional>
@@ -70,10 +71,7 @@ TEST_P(OperationTest, EqualsItsTwin)
             const Arguments arguments = randomArguments(op, random);
             SCOPED_TRACE(std::to_string(width) + "x" + std::to_string(height) + ", " + kind + ", " +
                          written(arguments));
-            cBitFilter filter;
-            filter.clock = [] { return 0u; };
-            filter.setBits(before);
-            filter.setBitsRegion(region);
+            cBitFilter filter = filterOf(before, region);
             const Outcome got = outcomeOf(before, [&] {
                 op.call(filter, arguments);
                 return filter.bits();

@@ -1,5 +1,6 @@
 #include "filters/filterDialogs.h"
 #include "filters/operations.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include <set>
 
@@ -10,10 +11,7 @@ TEST(Presets, EachRunsAndChangesThePicture)
 {
     const Bits bits = randomBits(40, 30, 1);
     for (const Preset& preset : presets()) {
-        cBitFilter filter;
-        filter.clock = [] { return 0u; };
-        filter.setBits(bits);
-        filter.setBitsRegion(Region::rectangle(0, 0, 40, 30));
+        cBitFilter filter = filterOf(bits);
         const Operation* operation = findOperation(preset.operation);
         ASSERT_NE(nullptr, operation) << preset.word;
         EXPECT_NO_THROW(operation->call(filter, preset.arguments)) << preset.word;

@@ -1,19 +1,9 @@
 // Stylising filters: values worked out by hand.
-#include "filters/operations.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 
 namespace velara {
 namespace {
-
-Bits run(std::string_view name, const Arguments& arguments, const Bits& bits, const Region& region)
-{
-    cBitFilter filter;
-    filter.clock = [] { return 0u; };
-    filter.setBits(bits);
-    filter.setBitsRegion(region);
-    findOperation(name)->call(filter, arguments);
-    return filter.bits();
-}
 
 /// One row of grey values, fourth byte 9.
 Bits greys(std::initializer_list<int> values)

@@ -1,16 +1,30 @@
-// A filter object over a picture that is selected whole, with a clock that stands.
+// A filter object over a picture, with a clock that stands, and an operation run on it by name.
 #pragma once
-#include "filters/cBitFilter.h"
+#include "filters/operations.h"
 
 namespace velara {
 
-inline cBitFilter filterOf(const Bits& bits)
+inline cBitFilter filterOf(const Bits& bits, const Region& region)
 {
     cBitFilter filter;
     filter.clock = [] { return 0u; };
     filter.setBits(bits);
-    filter.setBitsRegion(Region::rectangle(0, 0, bits.width(), bits.height()));
+    filter.setBitsRegion(region);
     return filter;
+}
+
+/// The whole picture is selected.
+inline cBitFilter filterOf(const Bits& bits)
+{
+    return filterOf(bits, Region::rectangle(0, 0, bits.width(), bits.height()));
+}
+
+/// The object's picture after the operation.
+inline Bits run(std::string_view name, const Arguments& arguments, const Bits& bits, const Region& region)
+{
+    cBitFilter filter = filterOf(bits, region);
+    findOperation(name)->call(filter, arguments);
+    return filter.bits();
 }
 
 } // namespace velara
