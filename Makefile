@@ -24,6 +24,7 @@ test-sanitize: setup
 	ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
 
 screenshots: all
+	cmake --build --preset release --target screenshots
 	@scripts/screenshots.sh $(RELEASE)/bin docs/screenshots
 
 bench: all

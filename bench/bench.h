@@ -1,7 +1,7 @@
 // The benchmark rows. Each file bench_<family>.cpp registers its own; an operation of the engine's table that no row
 // names is measured as well, with its typical arguments.
 #pragma once
-#include "filters/operations.h"
+#include "engine/operations.h"
 #include <functional>
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 // The colour filters.
 #include "bench.h"
-#include "filters/mPalette.h"
+#include "engine/colour/mPalette.h"
 
 namespace velara::bench {
 namespace {

@@ -2,8 +2,8 @@
 // repaint of a full window, the undo file.
 #include "bench.h"
 #include "document/Document.h"
-#include "document/viewRender.h"
-#include "filters/cBitFilter.h"
+#include "engine/cBitFilter.h"
+#include "ui/widgets/viewRender.h"
 #include <QPainter>
 #include <QTemporaryDir>
 #include <memory>

@@ -1,8 +1,8 @@
 // The document: flood fill, the steps of a drag, and selections of thousands of bands. A drag step is what a mouse move
 // costs without the repaint of the window.
 #include "bench.h"
-#include "document/PreviewBuffer.h"
-#include "filters/cBitFilter.h"
+#include "engine/cBitFilter.h"
+#include "tools/PreviewBuffer.h"
 #include <memory>
 
 namespace velara::bench {

@@ -1,7 +1,7 @@
 // The undo series on disk, and the live preview of the filters that have a dialog. The files stay in the page cache.
 #include "bench.h"
+#include "commands/FilterPreview.h"
 #include "document/UndoStore.h"
-#include "filters/FilterPreview.h"
 #include <QTemporaryDir>
 #include <memory>
 

@@ -1,6 +1,6 @@
 // A repaint of a document's window, from the picture's memory into the window's image.
 #include "bench.h"
-#include "document/viewRender.h"
+#include "ui/widgets/viewRender.h"
 #include <QPainter>
 #include <memory>
 

@@ -1,6 +1,6 @@
 // What the gallery and the golden results run each filter dialog with: as it opens, and once with telling values.
 #pragma once
-#include "filters/filterDialogs.h"
+#include "commands/filterDialogs.h"
 
 namespace velara {
 

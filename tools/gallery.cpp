@@ -1,7 +1,7 @@
 // velara-gallery FOLDER: runs every preset and every filter dialog on the sample picture and writes one contact sheet a
 // menu. What stands in no menu comes on the last sheet, so that nothing is missing.
-#include "app/menus.h"
-#include "filters/operations.h"
+#include "app/menus/menus.h"
+#include "engine/operations.h"
 #include "tools/contactSheet.h"
 #include "tools/dialogTrials.h"
 #include "tools/samplePicture.h"

@@ -1,5 +1,5 @@
 #include "tools/samplePicture.h"
-#include "filters/numbers.h"
+#include "pixels/numbers.h"
 #include <cstdlib>
 
 namespace velara {

@@ -1,7 +1,7 @@
 // The picture that the gallery, the golden results and the first look at the program use: made by whole-number
 // arithmetic, so that it is the same on every machine.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 
 namespace velara {
 

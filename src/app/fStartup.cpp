@@ -1,9 +1,9 @@
 #include "app/fStartup.h"
-#include "app/SetupStore.h"
-#include "app/defaultPictures.h"
-#include "app/fIcons.h"
-#include "app/fMenuStyle.h"
-#include "app/fSplash.h"
+#include "app/menus/fIcons.h"
+#include "app/menus/fMenuStyle.h"
+#include "app/start/defaultPictures.h"
+#include "app/start/fSplash.h"
+#include "fileio/SetupStore.h"
 #include <QApplication>
 #include <QDir>
 #include <QPointer>

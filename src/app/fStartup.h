@@ -1,8 +1,8 @@
 // The entry procedure: everything between the start of the program and its message loop.
 #pragma once
-#include "app/Setup.h"
-#include "app/fMain.h"
-#include "platform/Platform.h"
+#include "app/frame/fMain.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
 #include <memory>
 
 namespace velara {

@@ -1,7 +1,7 @@
 // velara-studio: the editor. Reads no command line.
-#include "app/fMenuStyle.h"
 #include "app/fStartup.h"
-#include "platform/QtPlatform.h"
+#include "app/menus/fMenuStyle.h"
+#include "platform/desktop/QtPlatform.h"
 #include <QApplication>
 #include <QLoggingCategory>
 

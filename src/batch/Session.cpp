@@ -1,6 +1,6 @@
 #include "batch/Session.h"
 #include "document/resizing.h"
-#include "filters/RuntimeError.h"
+#include "pixels/RuntimeError.h"
 #include <new>
 
 namespace velara {

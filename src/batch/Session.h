@@ -1,10 +1,10 @@
 // Session: the one picture that a run of velara-batch works on, with its selection and its undo series.
 #pragma once
 #include "batch/Failure.h"
+#include "commands/sizeWords.h"
 #include "document/Document.h"
-#include "document/sizeWords.h"
-#include "filters/operations.h"
-#include "platform/Platform.h"
+#include "engine/operations.h"
+#include "seams/Platform.h"
 #include <QTemporaryDir>
 #include <optional>
 

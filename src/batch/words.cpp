@@ -1,5 +1,5 @@
 #include "batch/words.h"
-#include "filters/filterDialogs.h"
+#include "commands/filterDialogs.h"
 #include <QStringList>
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "document/Document.h"
-#include "filters/cBitFilter.h"
+#include "engine/cBitFilter.h"
 
 namespace velara {
 

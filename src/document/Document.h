@@ -1,10 +1,10 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
 // its window; the batch program uses it alone.
 #pragma once
-#include "document/Painter.h"
 #include "document/UndoStore.h"
-#include "document/cBitRegion.h"
-#include "filters/Bits.h"
+#include "paint/Painter.h"
+#include "pixels/Bits.h"
+#include "region/cBitRegion.h"
 
 namespace velara {
 

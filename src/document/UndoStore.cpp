@@ -1,5 +1,5 @@
 #include "document/UndoStore.h"
-#include "platform/fileBytes.h"
+#include "fileio/fileBytes.h"
 #include <QFile>
 #include <array>
 #include <cstdio>

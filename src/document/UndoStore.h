@@ -1,7 +1,7 @@
 // UndoStore: the undo and redo series of one document, whole-picture snapshots on disk. Knows two counters and a
 // folder, and no window.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <QString>
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "document/cDIBSection.h"
-#include "filters/numbers.h"
-#include "platform/Platform.h"
+#include "pixels/numbers.h"
+#include "seams/Platform.h"
 #include <QRect>
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 // A 24-bit bitmap with rows aligned to four bytes, bottom row first: thumbnails, previews, printing and icons.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <cstdint>
 #include <memory>
 #include <optional>

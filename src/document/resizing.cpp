@@ -1,5 +1,5 @@
 #include "document/resizing.h"
-#include "filters/numbers.h"
+#include "pixels/numbers.h"
 #include <cmath>
 
 namespace velara {

@@ -2,7 +2,7 @@
 // result in the engine and in the document and a fresh whole-picture limit; repaint is the caller's.
 #pragma once
 #include "document/Document.h"
-#include "filters/cBitFilter.h"
+#include "engine/cBitFilter.h"
 
 namespace velara {
 

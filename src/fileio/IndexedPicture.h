@@ -1,6 +1,6 @@
 // A picture of at most 256 colours: what colour reduction makes and GIF files hold.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <cstdint>
 #include <vector>
 

@@ -1,6 +1,6 @@
 // The bridge to FreeImage for writing: opened and closed around each operation, with the text of the last error.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <QString>
 
 struct FIBITMAP;

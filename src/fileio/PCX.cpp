@@ -1,5 +1,5 @@
 #include "fileio/PCX.h"
-#include "platform/fileBytes.h"
+#include "fileio/fileBytes.h"
 #include <array>
 #include <cstring>
 

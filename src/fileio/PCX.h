@@ -1,6 +1,6 @@
 // Writes 24-bit ZSoft PCX files. There is no reader here: PCX files are read by FreeImage.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <QString>
 #include <cstdint>
 #include <vector>

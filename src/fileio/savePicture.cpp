@@ -3,7 +3,7 @@
 #include "fileio/ModFreeImage.h"
 #include "fileio/OutputFile.h"
 #include "fileio/PCX.h"
-#include "platform/Platform.h"
+#include "seams/Platform.h"
 #include <FreeImage.h>
 #include <algorithm>
 #include <iterator>

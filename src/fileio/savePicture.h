@@ -1,6 +1,6 @@
 // Writes a picture in the format of an extension, as the editor's save does.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <QString>
 
 namespace velara {

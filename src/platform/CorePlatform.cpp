@@ -1,5 +1,5 @@
 #include "platform/CorePlatform.h"
-#include "platform/PictureLoader.h"
+#include "fileio/load/PictureLoader.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

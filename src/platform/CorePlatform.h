@@ -1,7 +1,7 @@
 // The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
 // picture files. QtPlatform and WindowlessPlatform add the rest.
 #pragma once
-#include "platform/Platform.h"
+#include "seams/Platform.h"
 #include <random>
 
 namespace velara {

@@ -1,5 +1,5 @@
 // The real program on real files: what it writes, what it says and how it ends.
-#include "filters/Region.h"
+#include "region/Region.h"
 #include "support/pictures.h"
 #include <QDir>
 #include <QFile>

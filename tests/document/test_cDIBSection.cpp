@@ -1,6 +1,6 @@
 #include "document/cDIBSection.h"
-#include "document/mBitmap.h"
-#include "filters/RuntimeError.h"
+#include "pixels/RuntimeError.h"
+#include "pixels/mBitmap.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 

@@ -1,7 +1,7 @@
 // A document's steps back and the commands that change its size.
+#include "commands/sizeWords.h"
 #include "document/resizing.h"
-#include "document/sizeWords.h"
-#include "filters/RuntimeError.h"
+#include "pixels/RuntimeError.h"
 #include "support/pictures.h"
 #include <QTemporaryDir>
 

@@ -1,5 +1,5 @@
 #include "fileio/GifWriter.h"
-#include "platform/PictureLoader.h"
+#include "fileio/load/PictureLoader.h"
 #include "support/pictures.h"
 #include <QTemporaryDir>
 #include <array>

@@ -1,7 +1,7 @@
 // Saving: what comes back from the files, what the user is told, and what becomes of the old file when it fails.
 #include "fileio/ModFreeImage.h"
+#include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
-#include "platform/PictureLoader.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include <QDir>

@@ -1,5 +1,5 @@
 // Reading pictures through the child: what it says about bad files, and what becomes of children that misbehave.
-#include "platform/PictureLoader.h"
+#include "fileio/load/PictureLoader.h"
 #include "support/pictures.h"
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
 // The real platform with its boxes and dialogs on an offscreen desktop: a timer plays the person.
-#include "platform/QtPlatform.h"
+#include "platform/desktop/QtPlatform.h"
 #include "platform/nameFilters.h"
 #include "support/pictures.h"
 #include <QAbstractButton>

@@ -1,7 +1,7 @@
 // RecordingPlatform: the outside world of tests. Writes down what the program asks and answers from a queue, so that
 // every message, dialog and path of a command can be tested without a window.
 #pragma once
-#include "platform/Platform.h"
+#include "seams/Platform.h"
 #include <QTemporaryDir>
 #include <deque>
 #include <functional>

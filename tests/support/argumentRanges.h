@@ -1,6 +1,6 @@
 // What the arguments of the engine's operations may be: the table that random trials and benchmarks draw from.
 #pragma once
-#include "filters/operations.h"
+#include "engine/operations.h"
 #include <random>
 #include <span>
 

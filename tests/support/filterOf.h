@@ -1,6 +1,6 @@
 // A filter object over a picture, with a clock that stands, and an operation run on it by name.
 #pragma once
-#include "filters/operations.h"
+#include "engine/operations.h"
 
 namespace velara {
 

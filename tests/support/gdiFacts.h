@@ -1,7 +1,7 @@
 // The measured region and frame facts, as rows of JSON. Not part of the source tree: a test skips when they are not
 // there.
 #pragma once
-#include "filters/Region.h"
+#include "region/Region.h"
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 // Small pictures and an exact comparer for tests.
 #pragma once
-#include "filters/Bits.h"
-#include "filters/Region.h"
+#include "pixels/Bits.h"
+#include "region/Region.h"
 #include <cstdint>
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Reads one picture file: path and extension to size and pixels, or the reason why not. A pure function, but one whose
 // libraries crash and loop on damaged files: the programs run it in velara-decode only.
 #pragma once
-#include "filters/Bits.h"
+#include "pixels/Bits.h"
 #include <QString>
 #include <functional>
 

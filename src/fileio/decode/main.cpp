@@ -1,6 +1,6 @@
 // velara-decode PATH EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
 #include "fileio/decode/decode.h"
-#include "platform/DecodeProtocol.h"
+#include "fileio/load/DecodeProtocol.h"
 #include <QFile>
 #include <csignal>
 #include <cstdio>

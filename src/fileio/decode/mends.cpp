@@ -1,5 +1,5 @@
 #include "fileio/decode/mends.h"
-#include "platform/DecodeProtocol.h"
+#include "fileio/load/DecodeProtocol.h"
 #include <algorithm>
 #include <cstring>
 

@@ -1,5 +1,5 @@
 #include "fileio/decode/readers.h"
-#include "platform/DecodeProtocol.h"
+#include "fileio/load/DecodeProtocol.h"
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>

@@ -1,0 +1,199 @@
+// fMain: the frame around the documents. Owns the one engine cFilter, the menus, the toolbars, the status bar and the
+// side pane; a document's window belongs to the area of the documents and is buried here when it closes.
+//
+// Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
+// recent, drop), _pixels (what runs on the engine), _geometry (dialogs that
+// reshape a picture), _bars (menus, bars, boxes, side pane), _close (shutdown).
+#pragma once
+#include "engine/cBitFilter.h"
+#include "seams/Frame.h"
+#include "seams/Setup.h"
+#include "ui/view/fImage.h"
+#include <QHash>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QPointer>
+#include <array>
+#include <functional>
+#include <span>
+#include <string_view>
+
+class QToolBar;
+
+namespace velara {
+
+class fDocumentWindow;
+struct SizeWord;
+struct FilterRow;
+class fStatus;
+class fToolPane;
+
+/// What a command needs of the documents: the active one is not asked for; asked for, and it runs either way; only with
+/// one.
+enum class Stage { Free, MaybeImage, NeedsImage };
+
+/// A command word. Without a handler it is known and not there yet: its items are disabled.
+struct Command {
+    std::string_view word;
+    Stage stage;
+    void (*run)(class fMain&);
+};
+
+class fMain final : public QMainWindow, public Frame {
+    Q_OBJECT
+  public:
+    fMain(Platform& platform, Setup& setup);
+    ~fMain() override;
+
+    // --- Frame
+    Platform& platform() override { return platform_; }
+    Setup& setup() override { return setup_; }
+    cBitFilter& filter() override { return cFilter_; }
+    void Mmenu(const QString& word) override;
+    void Update(bool regionOnly, bool save) override;
+    fImage* GetActiveImage() override;
+    void refreshUndoState() override;
+    void setStatus(Panel panel, const QString& text) override;
+    void cFilter_Progress(int value) override;
+    QString UniqueCaption(const QString& text) override;
+    int nextDocumentNumber() override { return documentNumber_++; }
+    void EnableMouseScrolling() override;
+    bool mouseScrolling() const override;
+    void CheckToolbarState(bool noRefresh) override;
+    void showColors() override;
+
+    // --- Commands
+    static std::span<const Command> commands();
+    /// The frame's own actions, whose names begin with "@".
+    static std::span<const Command> actions();
+    /// True for every command word and action, done or not.
+    static bool known(std::string_view word);
+    /// True for one that does what it says, even if that is nothing.
+    static bool available(std::string_view word);
+    /// Runs a command word, or an action of the frame.
+    void run(std::string_view word);
+
+    void open();
+    void save();
+    void saveAs();
+    void openRecent(int index);
+    void stepUndo(bool back);
+    void copyToNew();
+    void fromClipboard();
+    void crop();
+    void closeActive();
+    void ZoomImage(int factor, bool enlarge, bool quality);
+    void RotateImage(int degrees, bool quality);
+    void runSizeWord(const SizeWord& size);
+    /// Runs what gives the active document another shape; then repaint, size panel and undo step.
+    void reshape(const std::function<void(Document&, cBitFilter&)>& job);
+    void newPicture();
+    void imageSize();
+    void canvasSize();
+    void imageOrientation();
+    void imageRotate();
+    void imageResolution();
+    void setZoom(int factor);
+    /// One operation of the engine with its arguments, as a command: after a yield if asked for.
+    void runPreset(std::string_view word);
+    /// The dialog of a filter, on the active document.
+    void showFilter(const FilterRow& row);
+    /// Work on the engine for the active document. Its picture then goes to the document, unless anything failed, the
+    /// document was closed meanwhile or got another size; then all is as it was.
+    void runOnEngine(const QString& what, const std::function<void(cBitFilter&)>& work);
+    void options();
+    void about();
+    void arrange(int mode); // 0 cascade, 1 tile horizontally, 2 tile vertically
+    void reset();
+
+    // --- Files
+    /// Gives a new document the names of the path, takes its first snapshot and shows it. Owned by the frame from here.
+    void adopt(fImage* image, const QString& path);
+    void FillRecent();
+    /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
+    void dropFiles(const QStringList& paths);
+    /// Where the file dialogs start.
+    void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
+
+    // --- Bars, boxes, panes
+    void applyBars(); // visibility and check marks from Setup
+    void loadLayout();
+    void saveLayout();
+    void toggleBar(int index);
+    void setBox(int index, QWidget* box); // 0 colours, 1 textures, 2 clipboard
+    void toggleBox(int index);
+    void showBoxes();
+    void toggleStatusBar();
+    void toggleSideBar();
+    /// Fills the panes of the tools that have one.
+    void initToolPanes();
+    void Tool_Frame();
+    void DisableTools();
+    void toolClicked(const QString& key);
+    fToolPane& toolPane() { return *toolPane_; }
+    fStatus& status() { return *status_; }
+    QMdiArea& area() { return *area_; }
+    QAction* action(const QString& objectName) const { return items_.value(objectName); }
+
+    /// The open documents, in order of opening.
+    QList<fImage*> documents() const;
+    /// Takes a closed document's window away; it is deleted when no filter is at work.
+    void bury(fDocumentWindow* window);
+
+  signals:
+    void closed();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    QMenu* createPopupMenu() override;
+
+  private:
+    class EngineRun;
+
+    template <class Dialog> void askAndReshape();
+    void buildMenus();
+    void buildToolbars();
+    void fillToolbar(QToolBar* bar, std::string_view buttons);
+    void makeTrigger(QAction* action, std::string_view word);
+    /// The pictures in the cut that fits the palette.
+    void refreshIcons();
+    void frameResized();
+    void placeSidePane();
+    void seekSidePane(QPoint at);
+    void wellClicked(int index);
+    void finish(fImage& image, bool regionOnly, bool save);
+    void engineProgress(int percent);
+    void showFailure(const QString& what, const std::exception& failure);
+    void buryDead();
+    /// The engine takes the document's committed picture and working region.
+    void handOver(fImage& image);
+    /// name is what the document is called afterwards; path and extension are what is written.
+    void saveTo(fImage& image, const QString& name, const QString& path, const QString& extension);
+    bool openPath(const QString& path);
+    void showLoadError();
+    void applyOpenOptions(fImage& image);
+
+    Platform& platform_;
+    Setup& setup_;
+    cBitFilter cFilter_;
+    QPointer<fImage> ActiveImage_;
+    QMdiArea* area_;
+    fStatus* status_;
+    fToolPane* toolPane_;
+    std::array<QToolBar*, 7> bars_{}; // the order of Setup::BarVisible
+    std::array<QPointer<QWidget>, 3> boxes_;
+    QHash<QString, QAction*> items_;
+    QString dialogFolder_;
+    std::vector<EngineRun*> runs_; // the filters at work, the inner ones last
+    QList<QPointer<QWidget>> dead_;
+    int yieldDepth_ = 0; // yields of the engine's progress under way
+    int documentNumber_ = 1, clashes_ = 0;
+    bool closing_ = false, resizedOnce_ = false, scrollingOffered_ = false;
+};
+
+} // namespace velara

@@ -1,0 +1,87 @@
+// The frame's size and its end.
+#include "app/frame/fDocumentWindow.h"
+#include "app/frame/fMain.h"
+#include "app/settings/fPreferences.h"
+#include "app/start/fSplash.h"
+#include "fileio/SetupStore.h"
+#include "seams/Platform.h"
+#include <QCloseEvent>
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+constexpr int kTwips = 15; // to a pixel
+
+std::int16_t twips(int pixels) { return static_cast<std::int16_t>(std::clamp(pixels * kTwips, 0, 32767)); }
+
+} // namespace
+
+void fMain::frameResized()
+{
+    if (!isMinimized()) {
+        // The size to come back to is the one that isn't maximised.
+        const QSize size = isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : this->size();
+        setup_.FrameWidth = twips(size.width());
+        setup_.FrameHeight = twips(size.height());
+    }
+    setup_.FrameMaximized = isMaximized();
+    if (isMinimized()) return;
+    if (!resizedOnce_) {
+        resizedOnce_ = true;
+        if (platform_.setting("VeStu", "RunOnce", "0").toInt() == 0) { // no layout was ever stored for this user
+            saveLayout();
+            platform_.setSetting("VeStu", "RunOnce", "1");
+        }
+    }
+    placeSidePane();
+}
+
+void fMain::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    frameResized();
+}
+
+void fMain::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isVisible()) frameResized();
+    if (event->type() == QEvent::PaletteChange && !items_.isEmpty()) refreshIcons(); // the desktop went dark or light
+}
+
+void fMain::closeEvent(QCloseEvent* event)
+{
+    if (closing_) return event->accept();
+    saveLayout();
+    // The last one first; one that refuses ends it, and the frame stays.
+    auto windows = area_->subWindowList(QMdiArea::CreationOrder);
+    std::reverse(windows.begin(), windows.end());
+    for (const QPointer<QMdiSubWindow> window : windows) {
+        if (!window) continue;
+        area_->setActiveSubWindow(window); // the question and a save are about this one
+        if (window && !window->close()) {
+            SaveSetup(platform_, setup_);
+            return event->ignore();
+        }
+    }
+    closing_ = true;
+    SaveSetup(platform_, setup_); // on failure the old file stays
+    event->accept();
+    emit closed();
+}
+
+void fMain::options()
+{
+    fPreferences dialog(platform_, setup_, this);
+    if (dialog.exec() == QDialog::Accepted) dialogFolder_ = setup_.ImagesPath;
+}
+
+void fMain::about()
+{
+    fSplash splash(platform_, this);
+    splash.exec();
+}
+
+} // namespace velara

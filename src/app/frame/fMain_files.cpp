@@ -1,0 +1,255 @@
+// Opening, saving, the recent list, files dropped on the frame, and new documents by way of the clipboard.
+#include "app/frame/fDocumentWindow.h"
+#include "app/frame/fMain.h"
+#include "app/frame/fStatus.h"
+#include "fileio/SetupStore.h"
+#include "seams/Platform.h"
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
+
+namespace velara {
+
+namespace {
+
+const QString kTitle = QStringLiteral("Velara Studio");
+
+const QString kOpenFilter =
+    QStringLiteral("All Supported Picture Formats|"
+                   "*.bmp;*.wbmp;*.dib;*.wmf;*.emf;*.gif;*.jpg;*.png;*.pcx;*.pbm;*.pgm;"
+                   "*.ppm;*.ico;*.psd;*.jng;*.mng;*.tif;*.koa;"
+                   "*.pcd;*.ras;*.tga;*.cut;*.iff;*.lbm|"
+                   "Bitmap Files (*.BMP;*.DIB)|*.bmp;*.dib|Meta Files (*.WMF;*.EMF)|*.wmf;*.emf|"
+                   "Graphical Interface Format(*.GIF)|*.gif|"
+                   "Independent JPEG Group (*.JPG)|*.jpg|"
+                   "Portable Network Graphics (*.PNG)|*.png|"
+                   "Zsoft Paintbrush Files (*.PCX)|*.pcx|"
+                   "Wireless Bitmap (*.WBMP)|*.wbmp|"
+                   "Portable Bitmap (*.PBM)|*.pbm|"
+                   "Portable Graymap (*.PGM)|*.pgm|"
+                   "Portable Pixelmap (*.PPM)|*.ppm|"
+                   "Windows Icon (*.ICO)|*.ico|"
+                   "Photoshop (*.PSD)|*.psd|"
+                   "JPEG Network Graphics (*.JNG)|*.jng|"
+                   "Multiple Network Graphics (*.MNG)|*.mng|"
+                   "Tagged Image File Format (*.TIF)|*.tif|"
+                   "Commodore 64 Koala format (*.KOA)| *.koa|"
+                   "Kodak PhotoCD (*.PCD)|*.pcd|"
+                   "Sun Rasterfile (*.RAS)|*.ras|"
+                   "Targa files (*.TGA)|*.tga|"
+                   "Dr.Halo bitmap (*.CUT)|*.cut|"
+                   "Interchanged File Format (*.IFF)|*.iff|"
+                   "Deluxe Paint package (*.LBM)|*.lbm");
+
+const QString kSaveFilter =
+    QStringLiteral("All Supported graphic formats |*.bmp;*.gif;*.jpg;*.png;*.tga;*.pcx;*.tif;*.pbm;*.pgm;*.ppm|"
+                   "Windows Bitmap Files (*.bmp)|*.bmp|"
+                   "Graphical Interface Format (*.GIF)|*.gif|"
+                   "Independent JPEG Group (*.JPG)|*.jpg|"
+                   "Portable Network Graphics (*.PNG)|*.png|"
+                   "Targa files (*.TGA)|*.tga|"
+                   "Zsoft Paintbrush (*.PCX)|*.pcx|"
+                   "Tagged Image File Format (*.TIF)|*.tif|"
+                   "ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)|*.ppm;*.pgm;*.pbm");
+
+const QStringList kSavedDirectly = {"bmp", "gif", "jpg", "tga", "tif", "png", "pcx"};
+const QStringList kAnymaps = {"ppm", "pgm", "pbm"};
+const QStringList kDropped = {"DIB", "BMP", "JPG", "GIF"};
+
+/// What follows the last separator, right-trimmed.
+QString FileNameOf(const QString& path)
+{
+    QString name = path.mid(path.lastIndexOf('/') + 1);
+    while (name.endsWith(' ')) name.chop(1);
+    return name;
+}
+
+QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
+
+/// A document that has a file of its own, which SAVE may write to without asking.
+void setHasFile(fImage& image, bool on) { image.setProperty("hasFile", on); }
+
+void giveNames(fImage& image, const QString& path, Frame& frame)
+{
+    image.setTag(frame.UniqueCaption(path));
+    image.setCaption(FileNameOf(image.Tag()));
+}
+
+} // namespace
+
+void fMain::adopt(fImage* image, const QString& path)
+{
+    Document& document = image->document();
+    document.Region.Init(0, 0, document.PictureWidth(), document.PictureHeight());
+    giveNames(*image, path, *this);
+    image->SaveUndoBits();
+    auto* window = new fDocumentWindow(*this, image);
+    area_->addSubWindow(window);
+    if (setup_.ImagesMaximized)
+        window->showMaximized();
+    else
+        window->show();
+    refreshUndoState();
+}
+
+void fMain::applyOpenOptions(fImage& image)
+{
+    if (setup_.OpenZoom > 1) image.setZoomFactor(setup_.OpenZoom);
+}
+
+void fMain::showLoadError() { platform_.message(kTitle, "Unexpected error loading image", Icon::Exclamation); }
+
+bool fMain::openPath(const QString& path)
+{
+    platform_.yield();
+    if (closing_) return true;
+    auto image = std::make_unique<fImage>(*this);
+    bool loaded = false;
+    try {
+        loaded = image->SetPicture(path, extensionOf(path));
+    } catch (const std::exception&) { // a picture too large for this machine's memory
+    }
+    if (!loaded || closing_) return closing_;
+    // A file that its reader can't make out opens as an empty document.
+    if (!image->PictureExists()) status_->showMessage(FileNameOf(path) + tr(" can't be read as a picture."), 8000);
+    setHasFile(*image, image->PictureExists());
+    adopt(image.release(), path);
+    return true;
+}
+
+void fMain::open()
+{
+    const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"});
+    if (!path) return;
+    if (!openPath(*path)) return showLoadError();
+    AddRecent(setup_, *path);
+    FillRecent();
+    if (fImage* image = GetActiveImage()) applyOpenOptions(*image);
+    if (setup_.PreserveLastFolder) {
+        dialogFolder_ = path->left(path->lastIndexOf('/') + 1);
+        setup_.ImagesPath = dialogFolder_;
+    }
+}
+
+void fMain::openRecent(int index)
+{
+    const QString path = setup_.Recent[std::size_t(index)].trimmed();
+    if (path.isEmpty()) return;
+    if (!openPath(path)) {
+        showLoadError();
+        return FillRecent();
+    }
+    if (fImage* image = GetActiveImage()) applyOpenOptions(*image);
+}
+
+void fMain::FillRecent()
+{
+    for (int i = 0; i < 8; ++i) {
+        QString& entry = setup_.Recent[std::size_t(i)];
+        while (entry.endsWith(' ')) entry.chop(1);
+        QAction* item = items_.value("RF_" + QString::number(i));
+        const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
+        item->setText(found ? platform_.compactPath(entry, 400).replace('&', "&&") : i == 0 ? "Empty" : "");
+        item->setEnabled(found || i == 0);
+        item->setVisible(found || i == 0); // an empty line would only look broken
+    }
+}
+
+void fMain::save()
+{
+    fImage* image = GetActiveImage();
+    const QString extension = extensionOf(image->Caption());
+    // A new document, a second window of the same file and any other format get their name by asking.
+    const bool own = image->property("hasFile").toBool() && image->Tag().startsWith('/');
+    if (!own || !kSavedDirectly.contains(extension)) return Mmenu("SAVEAS");
+    saveTo(*image, image->Tag(), image->Tag(), extension);
+}
+
+void fMain::saveAs()
+{
+    const QPointer<fImage> image = GetActiveImage();
+    const auto path = platform_.saveFileName({"Save as", kSaveFilter, dialogFolder_});
+    if (!path || !image) return;
+    const QString extension = extensionOf(*path);
+    if (kAnymaps.contains(extension)) // the colours decide which of the three it becomes
+        saveTo(*image, *path, path->chopped(extension.size()), "pnm");
+    else
+        saveTo(*image, *path, *path, extension);
+}
+
+void fMain::saveTo(fImage& image, const QString& name, const QString& path, const QString& extension)
+{
+    const QPointer<fImage> watched = &image;
+    bool saved = false;
+    try {
+        saved = image.Save(path, extension);
+    } catch (const std::exception&) {
+    }
+    if (!saved) { // the document stays as it was, unsaved; an icon has had its own message
+        if (extension != "ico") platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
+        return;
+    }
+    if (!watched) return; // closed while a notice of the save stood open
+    image.document().Changed = false;
+    setHasFile(image, true);
+    if (image.Tag() != name) giveNames(image, name, *this);
+    setStatus(Panel::Name, image.Caption());
+}
+
+void fMain::closeActive()
+{
+    if (fImage* image = GetActiveImage()) image->parentWidget()->close();
+}
+
+void fMain::copyToNew()
+{
+    const QPointer<fImage> from = GetActiveImage();
+    auto copy = std::make_unique<fImage>(*this);
+    from->BitsCopyToClipboard();
+    copy->PasteFromClipboard();
+    platform_.clearClipboard();
+    if (!from || !copy->document().PictureExists()) return;
+    const Region selection = from->document().Region.Region();
+    fImage* image = copy.release();
+    adopt(image, from->Tag());
+    if (!selection.isEmpty()) image->document().Region.setRegion(selection);
+    image->UpdateImage();
+}
+
+void fMain::fromClipboard()
+{
+    if (!platform_.clipboardHasBitmap()) return;
+    auto image = std::make_unique<fImage>(*this);
+    image->PasteFromClipboard();
+    if (!image->document().PictureExists()) return;
+    adopt(image.release(), setup_.ImagesPath.trimmed() + "New.bmp");
+}
+
+void fMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void fMain::dropEvent(QDropEvent* event)
+{
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    event->acceptProposedAction();
+    // After the drop has ended: the program it came from waits for us meanwhile.
+    QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
+}
+
+void fMain::dropFiles(const QStringList& paths)
+{
+    bool failed = false;
+    for (const QString& path : paths)
+        if (!closing_ && kDropped.contains(path.trimmed().right(3).toUpper())) failed |= !openPath(path.trimmed());
+    if (failed && !closing_) showLoadError(); // once, however many
+}
+
+} // namespace velara

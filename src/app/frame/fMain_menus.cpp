@@ -1,0 +1,159 @@
+// Menus and toolbars out of their tables.
+#include "app/frame/fMain.h"
+#include "app/frame/fToolPane.h"
+#include "app/menus/fIcons.h"
+#include "app/menus/menus.h"
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace velara {
+
+namespace {
+
+/// Every item that has no access key gets the first letter of its caption that is free in its menu.
+void giveAccessKeys(QMenu& menu)
+{
+    QSet<QChar> taken;
+    const auto keyOf = [](const QString& caption) {
+        for (qsizetype i = 0; i + 1 < caption.size(); ++i)
+            if (caption[i] == '&') {
+                if (caption[i + 1] != '&') return caption[i + 1].toUpper();
+                ++i;
+            }
+        return QChar();
+    };
+    for (const QAction* item : menu.actions())
+        if (const QChar key = keyOf(item->text()); !key.isNull()) taken << key;
+    for (QAction* item : menu.actions()) {
+        if (item->isSeparator() || !keyOf(item->text()).isNull()) continue;
+        const QString caption = item->text();
+        for (qsizetype i = 0; i < caption.size(); ++i) {
+            if (!caption[i].isLetterOrNumber() || taken.contains(caption[i].toUpper())) continue;
+            taken << caption[i].toUpper();
+            item->setText(caption.left(i) + "&" + caption.mid(i));
+            break;
+        }
+    }
+}
+
+} // namespace
+
+void fMain::makeTrigger(QAction* action, std::string_view word)
+{
+    action->setData(text(word));
+    action->setIcon(iconOf(word));
+    action->setEnabled(available(word));
+    connect(action, &QAction::triggered, this, [this, word] { run(word); });
+}
+
+void fMain::refreshIcons()
+{
+    useIconTheme();
+    for (QAction* action : std::as_const(items_)) action->setIcon(iconOf(action->data().toString().toStdString()));
+    toolPane_->refreshIcons();
+}
+
+void fMain::buildMenus()
+{
+    std::vector<QMenu*> open; // the menus around the row, the outermost first
+    for (const MenuRow& row : menuRows()) {
+        switch (row.kind) {
+        case MenuKind::Menu:
+        case MenuKind::SubMenu: {
+            QMenu* menu =
+                open.empty() ? menuBar()->addMenu(text(row.caption)) : open.back()->addMenu(text(row.caption));
+            menu->setObjectName(text(row.array));
+            menu->setToolTipsVisible(true);
+            open.push_back(menu);
+            break;
+        }
+        case MenuKind::End:
+            if (open.back()->objectName() != "mnuRecent") giveAccessKeys(*open.back());
+            open.pop_back();
+            break;
+        case MenuKind::Separator:
+            open.back()->addSeparator();
+            break;
+        case MenuKind::Item: {
+            QAction* item = open.back()->addAction(text(row.caption));
+            item->setObjectName(text(row.array) + "_" + QString::number(row.index));
+            if (!row.shortcut.empty()) item->setShortcut(QKeySequence(text(row.shortcut)));
+            makeTrigger(item, row.word);
+            if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
+            item->setCheckable(row.checkable);
+            items_[item->objectName()] = item;
+            break;
+        }
+        }
+    }
+}
+
+void fMain::buildToolbars()
+{
+    std::size_t index = 0;
+    for (const BarRow& row : barRows()) {
+        auto* bar = new QToolBar(text(row.caption), this);
+        bar->setObjectName(text(row.name));
+        bar->setIconSize({22, 22});
+        fillToolbar(bar, row.buttons);
+        bars_[index++] = bar;
+    }
+    // Three lines that fit the smallest usual frame whole: Standard, Tools, Help; Effects, Image; Filters, Utilities.
+    constexpr int kNewLine = -1;
+    for (const int place : {0, 5, 4, kNewLine, 1, 2, kNewLine, 6, 3}) {
+        if (place == kNewLine)
+            addToolBarBreak();
+        else
+            addToolBar(bars_[std::size_t(place)]);
+    }
+    for (const char* key : {"ZoomIn", "ZoomOut"}) {
+        auto* zoom = new QAction(this);
+        zoom->setObjectName(key);
+        zoom->setShortcuts(QString(key) == "ZoomIn"
+                               ? QList<QKeySequence>{QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}
+                               : QList<QKeySequence>{QKeySequence("Ctrl+-")});
+        connect(zoom, &QAction::triggered, this, [this, key] { toolClicked(key); });
+        addAction(zoom);
+    }
+}
+
+void fMain::fillToolbar(QToolBar* bar, std::string_view buttons)
+{
+    int last = 0;
+    for (const ButtonRow& row : buttonRows()) {
+        if (row.bar != buttons) continue;
+        if (last && row.number > last + 1) bar->addSeparator();
+        last = row.number;
+        QAction* action = bar->addAction(text(row.caption));
+        action->setObjectName(text(row.bar) + "_" + QString::number(row.number));
+        makeTrigger(action, row.word);
+        action->setToolTip(action->isEnabled() ? text(row.caption) : text(row.caption) + tr(" (not available yet)"));
+        items_[action->objectName()] = action;
+        auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
+        button->setObjectName(action->objectName());
+        button->setAccessibleName(text(row.caption));
+
+        QMenu* drop = nullptr;
+        int lastItem = 0;
+        for (const DropRow& item : dropRows()) {
+            if (item.bar != row.bar || item.button != row.number) continue;
+            if (!drop) drop = new QMenu(button);
+            if (lastItem && item.item > lastItem + 1) drop->addSeparator();
+            lastItem = item.item;
+            QAction* entry = drop->addAction(text(item.caption));
+            entry->setObjectName(action->objectName() + "_" + QString::number(item.item));
+            makeTrigger(entry, item.word);
+            items_[entry->objectName()] = entry;
+        }
+        if (!drop) continue;
+        giveAccessKeys(*drop);
+        drop->setObjectName(action->objectName() + "_menu");
+        action->setMenu(drop);
+        button->setPopupMode(QToolButton::InstantPopup);
+    }
+}
+
+} // namespace velara

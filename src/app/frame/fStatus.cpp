@@ -1,0 +1,67 @@
+#include "app/frame/fStatus.h"
+#include <QHBoxLayout>
+
+namespace velara {
+
+namespace {
+
+struct PanelRow {
+    Panel panel;
+    const char* key;
+    const char* meaning;
+    const char* widest; // what it must have room for; the name takes what is left
+};
+
+// clang-format off
+constexpr PanelRow kPanels[] = {
+    {Panel::Pos,  "Pos",  "Position of the pointer",   "X:00000 Y:00000"},
+    {Panel::Ext,  "Ext",  "Extent of the drag",        "00000,00000"},
+    {Panel::Size, "Size", "Size of the picture",       "00000x00000"},
+    {Panel::Name, "Name", "Name of the picture",       ""},
+    {Panel::Zoom, "Zoom", "Zoom",                      "00 : 1"},
+};
+// clang-format on
+
+} // namespace
+
+fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
+{
+    setObjectName("PicStatus");
+    auto* info = new QWidget(this);
+    info->setObjectName("sbInfo");
+    auto* row = new QHBoxLayout(info);
+    row->setContentsMargins(4, 0, 4, 0);
+    for (const PanelRow& p : kPanels) {
+        auto* label = new QLabel(info);
+        label->setObjectName(QString("sbInfo_") + p.key);
+        label->setAccessibleName(p.meaning);
+        label->setToolTip(p.meaning);
+        label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        label->setTextFormat(Qt::PlainText);
+        if (*p.widest)
+            label->setMinimumWidth(fontMetrics().horizontalAdvance(p.widest) + 12);
+        else
+            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the frame
+        row->addWidget(label, *p.widest ? 0 : 1);
+        panels_[static_cast<int>(p.panel)] = label;
+    }
+    progress_ = new QProgressBar(this);
+    progress_->setObjectName("cFilterProgress");
+    progress_->setAccessibleName(tr("Progress of the filter"));
+    progress_->setRange(0, 100);
+    progress_->setTextVisible(false);
+    progress_->setFixedWidth(140);
+    addWidget(info, 1);
+    addPermanentWidget(progress_);
+}
+
+void fStatus::setPanel(Panel panel, const QString& text) { panels_[static_cast<int>(panel)]->setText(text); }
+
+QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(panel)]->text(); }
+
+void fStatus::setProgress(int percent)
+{
+    if (percent >= 0) progress_->setValue(percent);
+}
+
+} // namespace velara

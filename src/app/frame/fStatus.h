@@ -1,0 +1,26 @@
+// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels) and the progress bar of the filters.
+#pragma once
+#include "seams/Frame.h"
+#include <QLabel>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <array>
+
+namespace velara {
+
+class fStatus final : public QStatusBar {
+    Q_OBJECT
+  public:
+    explicit fStatus(QWidget* parent);
+
+    void setPanel(Panel panel, const QString& text);
+    QString panel(Panel panel) const;
+    /// Percent; values below 0 are dropped.
+    void setProgress(int percent);
+
+  private:
+    std::array<QLabel*, 5> panels_{};
+    QProgressBar* progress_;
+};
+
+} // namespace velara

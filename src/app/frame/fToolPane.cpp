@@ -1,0 +1,144 @@
+#include "app/frame/fToolPane.h"
+#include "app/menus/fIcons.h"
+#include "app/menus/menus.h"
+#include <QGridLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr int kColumns = 5;
+constexpr int kWidth = 184;
+
+/// A well: the colour with a thin frame that stands out on it.
+QIcon wellIcon(int colour, qreal ratio)
+{
+    const QColor fill(colour & 255, colour >> 8 & 255, colour >> 16 & 255);
+    QPixmap pixmap(QSize(36, 22) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    QPainter painter(&pixmap);
+    painter.fillRect(QRect(0, 0, 36, 22), fill.lightness() > 127 ? fill.darker(180) : fill.lighter(220));
+    painter.fillRect(QRect(1, 1, 34, 20), fill);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+fToolPane::fToolPane(QWidget* parent) : QFrame(parent), stack_(new QStackedWidget(this))
+{
+    setObjectName("cTools");
+    setAccessibleName(tr("Tools"));
+    setFrameStyle(QFrame::StyledPanel);
+    setAutoFillBackground(true); // floats over the documents while it hides and seeks
+    setFixedWidth(kWidth);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->addWidget(makeStrip());
+    column->addWidget(stack_, 1);
+    column->addWidget(makeWells());
+    stack_->setObjectName("toolPanes");
+    stack_->addWidget(new QWidget);
+    refreshIcons();
+}
+
+void fToolPane::refreshIcons()
+{
+    for (const auto& [key, button] : buttons_.asKeyValueRange()) button->setIcon(iconOf(key.toStdString()));
+    swap_->setIcon(QIcon::fromTheme("document-swap"));
+}
+
+QWidget* fToolPane::makeStrip()
+{
+    auto* strip = new QWidget(this);
+    strip->setObjectName("tb_tools");
+    auto* grid = new QGridLayout(strip);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(2);
+    int place = 0;
+    for (const ToolButtonRow& row : toolButtonRows()) {
+        const QString key = text(row.key);
+        auto* button = new QToolButton(strip);
+        button->setObjectName("tb_tools_" + QString::number(row.number));
+        button->setAccessibleName(text(row.caption));
+        button->setToolTip(text(row.caption));
+        button->setIconSize({22, 22});
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setCheckable(row.tool || row.key == "MouseScroll");
+        if (row.tool) group_.addButton(button);
+        connect(button, &QToolButton::clicked, this, [this, key] { emit clicked(key); });
+        grid->addWidget(button, place / kColumns, place % kColumns);
+        buttons_[key] = button;
+        ++place;
+    }
+    return strip;
+}
+
+QWidget* fToolPane::makeWells()
+{
+    auto* box = new QWidget(this);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    const char* const names[] = {"lblColF", "lblColB"};
+    const QString captions[] = {tr("First color"), tr("Second color")};
+    for (int i : {0, 1}) {
+        wells_[i] = new QToolButton(box);
+        wells_[i]->setObjectName(names[i]);
+        wells_[i]->setAccessibleName(captions[i]);
+        wells_[i]->setToolTip(captions[i]);
+        wells_[i]->setIconSize({36, 22});
+        connect(wells_[i], &QToolButton::clicked, this, [this, i] { emit wellClicked(i); });
+    }
+    swap_ = new QToolButton(box);
+    swap_->setObjectName("iSwap");
+    swap_->setAccessibleName(tr("Swap the colors"));
+    swap_->setToolTip(swap_->accessibleName());
+    swap_->setAutoRaise(true);
+    connect(swap_, &QToolButton::clicked, this, &fToolPane::swapClicked);
+    row->addWidget(wells_[0]);
+    row->addWidget(swap_);
+    row->addWidget(wells_[1]);
+    row->addStretch();
+    return box;
+}
+
+void fToolPane::setTool(const QString& key)
+{
+    QToolButton* button = buttons_.value(key);
+    if (button && group_.buttons().contains(button))
+        button->setChecked(true);
+    else
+        releaseTools();
+}
+
+QString fToolPane::tool() const { return buttons_.key(qobject_cast<QToolButton*>(group_.checkedButton())); }
+
+void fToolPane::releaseTools()
+{
+    group_.setExclusive(false);
+    if (QAbstractButton* down = group_.checkedButton()) down->setChecked(false);
+    group_.setExclusive(true);
+}
+
+void fToolPane::setPane(const QString& key, QWidget* pane)
+{
+    delete panes_.value(key);
+    panes_[key] = pane;
+    stack_->addWidget(pane);
+}
+
+void fToolPane::showPane(const QString& key)
+{
+    QWidget* pane = panes_.value(key);
+    stack_->setCurrentWidget(pane ? pane : stack_->widget(0));
+}
+
+void fToolPane::setColors(int first, int second)
+{
+    wells_[0]->setIcon(wellIcon(first, devicePixelRatioF()));
+    wells_[1]->setIcon(wellIcon(second, devicePixelRatioF()));
+}
+
+} // namespace velara

@@ -1,0 +1,59 @@
+#include "app/menus/menus.h"
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+struct PictureRow {
+    std::string_view word, picture;
+};
+
+// clang-format off
+constexpr PictureRow kPictures[] = {
+    {"NEW", "document-new"}, {"OPEN", "document-open"}, {"@BROWSE", "document-open-folder"}, {"CLOSE", "document-close"},
+    {"SAVE", "document-save"}, {"SAVEAS", "document-save-as"}, {"IMAGESAVEOPTIONS", "document-export"},
+    {"ACQUIRETWAIN", "document-scan"}, {"SELECTSOURCE", "configure"}, {"PRINTPREVIEW", "document-print-preview"},
+    {"PRINTERSETUP", "document-properties"}, {"PRINT", "document-print"}, {"@EXIT", "application-exit"},
+    {"UNDO", "edit-undo"}, {"REDO", "edit-redo"}, {"CUT", "edit-cut"}, {"COPY", "edit-copy"}, {"PASTE", "edit-paste"},
+    {"CREATENEWCOPY", "window-duplicate"}, {"COPYIMAGETOCLIPBOARD", "insert-image"},
+    {"CREATEFROMCLIPBOARD", "edit-paste-in-place"}, {"CROP", "transform-crop"}, {"IMAGEPROPERTIES", "documentinfo"},
+    {"OPTIONS", "configure"},
+    {"IMAGESIZE", "transform-scale"}, {"CANVASSIZE", "transform-crop-and-resize"},
+    {"IMAGEORIENTATION", "transform-rotate"}, {"IMAGEROTATE", "object-rotate-right"},
+    {"RESTOREORIGINAL", "document-revert"}, {"ORIGINAL", "zoom-original"}, {"@ZOOMP", "zoom-in"},
+    {"@ZOOMM", "zoom-out"}, {"@QUICKROTATE", "object-rotate-right"}, {"@QUALITYROTATE", "transform-rotate"},
+    {"@QUALITYSIZE", "transform-scale"}, {"FLIPH", "object-flip-horizontal"}, {"FLIPV", "object-flip-vertical"},
+    {"IMAGEMERGING", "merge"}, {"@CAPTURE", "camera-photo"}, {"@QUICKCAPTURE", "camera-photo"},
+    {"IMAGETEXTURES", "texture"}, {"IMAGERESOLUTION", "measure"}, {"IMAGECOLORDEPTH", "color-management"},
+    {"TEXTTOOLS", "draw-text"}, {"@ICON", "shapes"}, {"@ASSOCIATION", "document-open-data"},
+    {"@WALLPAPER", "viewimage"}, {"@ABOUT", "help-about"}, {"@RESET", "document-save-as-template"},
+    {"TILEHORIZONTALLY", "view-split-top-bottom"}, {"TILEVERTICALLY", "view-split-left-right"},
+    {"CASCADE", "window-duplicate"},
+    {"INVERT", "invertimage"}, {"GRAYSCALE", ":greyscale"}, {"HAFTONE", ":halftone"}, {"XBLACK", ":xblack"},
+    {"PHOTOCOP", ":photocop"}, {"PIXELIZE", ":pixelize"}, {"HORIZONTAL", ":glass"}, {"WWAVES", ":waves"},
+    {"LUMPLUS", ":sun_small"}, {"LUMMINUS", ":sun_large"}, {"BRIGHTNESS", ":sun_large"},
+    {"BBRIGHTNESS", ":sun_large"}, {"CONTRAST", ":contrast"}, {"AADDSCANLINES", ":scanlines"},
+    {"THERMIQUE", ":thermique"}, {"LIGHTBLUR", ":blur"}, {"LIGHTEMBOSS", ":emboss"},
+    {"LIGHTCONTOUR", ":contour"}, {"LIGHTDIFFUSE", ":diffuse"}, {"LIGHTENGRAVE", ":engrave"},
+    {"HEAVYSOFTEN", ":soften"}, {"LIGHTNOISE", ":noise"}, {"HEAVYSATURATION", ":saturation"},
+    {"LIGHTSHARPEN", "sharpenimage"}, {"PAINTING", "oilpaint"}, {"SKETCH", "draw-freehand"},
+    {"RGBLEVELS", "adjustrgb"}, {"COLORIZE", "adjusthsl"}, {"GAMMA", "adjustcurves"},
+    {"LENS", "lensdistortion"}, {"WAVES", ":waves"}, {"LENSFLARE", "lensautofix"}, {"ADDGRID", "view-grid"},
+    {"ADDSCANLINES", ":scanlines"}, {"ADDNOISE", ":noise"},
+    {"GetColor", "color-picker"}, {"SelectionMove", "transform-move"}, {"Select", "select-rectangular"},
+    {"Brush", "draw-brush"}, {"Fill", "fill-color"}, {"Shape", "draw-polygon"}, {"Airbrush", "tool_spraycan"},
+    {"Stamp", ":stamp"}, {"Gradient", "color-gradient"}, {"Text", "draw-text"}, {"Pencil", "draw-freehand"},
+    {"MouseScroll", "hand"}, {"ZoomIn", "zoom-in"}, {"ZoomOut", "zoom-out"},
+};
+// clang-format on
+
+} // namespace
+
+std::string_view pictureOf(std::string_view word)
+{
+    const auto row = std::ranges::find(kPictures, word, &PictureRow::word);
+    return row == std::end(kPictures) ? std::string_view() : row->picture;
+}
+
+} // namespace velara

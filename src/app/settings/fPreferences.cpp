@@ -1,0 +1,110 @@
+#include "app/settings/fPreferences.h"
+#include "seams/Platform.h"
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+struct FlagRow {
+    const char* control;
+    const char* caption;
+    bool Setup::*field;
+};
+
+// clang-format off
+constexpr FlagRow kFlagsAbove[] = {
+    {"chkiPMaximized",     "Open iP maximized ",     &Setup::FrameMaximized},
+    {"chkImagesMaximized", "Open images maximized ", &Setup::ImagesMaximized},
+};
+constexpr FlagRow kFlagsBelow[] = {
+    {"chkPreserveLastFolder", "Preserve last folder",        &Setup::PreserveLastFolder},
+    {"chkAskToSave",          "Ask to save on Close/Exit",   &Setup::AskToSave},
+};
+// clang-format on
+
+QString rightTrimmed(QString text)
+{
+    while (text.endsWith(' ')) text.chop(1);
+    return text;
+}
+
+void addFlag(QBoxLayout* column, const FlagRow& row, Setup& copy)
+{
+    auto* box = new QCheckBox(row.caption);
+    box->setObjectName(row.control);
+    box->setAccessibleName(QString(row.caption).trimmed());
+    box->setChecked(copy.*row.field);
+    QObject::connect(box, &QCheckBox::toggled, box, [&copy, field = row.field](bool on) { copy.*field = on; });
+    column->addWidget(box);
+}
+
+} // namespace
+
+fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
+    : QDialog(parent), platform_(platform), setup_(setup), copy_(setup), path_(new QLineEdit)
+{
+    setObjectName("fPreferences");
+    setWindowTitle("Velara Studio: Options");
+
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    for (const FlagRow& row : kFlagsAbove) addFlag(column, row, copy_);
+
+    auto* label = new QLabel("Images default folder");
+    label->setBuddy(path_);
+    column->addSpacing(6);
+    column->addWidget(label);
+    auto* line = new QHBoxLayout;
+    path_->setObjectName("txtImagesPath");
+    path_->setAccessibleName(label->text());
+    path_->setMinimumWidth(320);
+    path_->setText(rightTrimmed(copy_.ImagesPath));
+    connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) { copy_.ImagesPath = text; });
+    auto* browseButton = new QPushButton(tr("Browse ..."));
+    browseButton->setObjectName("cmdBrowsePath");
+    browseButton->setAccessibleName(tr("Select Images default folder"));
+    browseButton->setAutoDefault(false);
+    connect(browseButton, &QPushButton::clicked, this, &fPreferences::browse);
+    line->addWidget(path_, 1);
+    line->addWidget(browseButton);
+    column->addLayout(line);
+    column->addSpacing(6);
+    for (const FlagRow& row : kFlagsBelow) addFlag(column, row, copy_);
+    column->addStretch();
+
+    auto* tabs = new QTabWidget;
+    tabs->addTab(page, tr("General"));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName("CmdOK");
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName("CmdCancel");
+    connect(buttons, &QDialogButtonBox::accepted, this, &fPreferences::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &fPreferences::reject);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(tabs);
+    all->addWidget(buttons);
+}
+
+void fPreferences::browse()
+{
+    const auto folder = platform_.pickFolder("Select Images default folder", copy_.ImagesPath);
+    if (!folder || folder->isEmpty()) return;
+    copy_.ImagesPath = folder->endsWith('/') ? *folder : *folder + '/';
+    path_->setText(copy_.ImagesPath);
+}
+
+void fPreferences::accept()
+{
+    copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
+    setup_ = copy_; // whole: what changed elsewhere while the dialog stood open is undone
+    QDialog::accept();
+}
+
+} // namespace velara

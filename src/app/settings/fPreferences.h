@@ -1,0 +1,28 @@
+// fPreferences: the options. Works on a private copy of the whole record, which OK puts back.
+#pragma once
+#include "seams/Setup.h"
+#include <QDialog>
+
+class QLineEdit;
+
+namespace velara {
+
+class Platform;
+
+class fPreferences final : public QDialog {
+    Q_OBJECT
+  public:
+    fPreferences(Platform& platform, Setup& setup, QWidget* parent);
+
+    void accept() override;
+
+  private:
+    void browse();
+
+    Platform& platform_;
+    Setup& setup_;
+    Setup copy_;
+    QLineEdit* path_;
+};
+
+} // namespace velara

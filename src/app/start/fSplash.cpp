@@ -1,0 +1,50 @@
+#include "app/start/fSplash.h"
+#include "app/start/defaultPictures.h"
+#include "seams/Platform.h"
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace velara {
+
+fSplash::fSplash(Platform& platform, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), platform_(platform)
+{
+    setObjectName("fSplash");
+    setWindowTitle("About Velara Studio");
+    setAccessibleName("Velara Studio");
+    QImage picture = splashPicture();
+    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
+    if (picture.save(path, "BMP"))
+        if (const QImage loaded(path); !loaded.isNull()) picture = loaded;
+    ripples_ = std::make_shared<Ripples>(picture);
+    setFixedSize(picture.size());
+    Timer1.setInterval(1);
+    connect(&Timer1, &QTimer::timeout, this, &fSplash::tick);
+}
+
+void fSplash::paintEvent(QPaintEvent*) { QPainter(this).drawImage(rect(), ripples_->picture()); }
+
+void fSplash::tick()
+{
+    const QPointer<fSplash> self = this;
+    const std::shared_ptr<Ripples> ripples = ripples_;
+    Platform& platform = platform_;
+    ripples->tick([&] { return platform.random(); }, [&] { platform.yield(); });
+    if (self) update();
+}
+
+void fSplash::mousePressEvent(QMouseEvent* event)
+{
+    ripples_->add(event->pos().x(), event->pos().y());
+    Timer1.start();
+}
+
+void fSplash::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton) ripples_->add(event->pos().x(), event->pos().y());
+}
+
+void fSplash::mouseReleaseEvent(QMouseEvent*) { close(); }
+
+} // namespace velara

@@ -1,0 +1,32 @@
+// fSplash: the picture of the start, and of About. A press sets ripples going on it; a click or Esc closes it.
+#pragma once
+#include "app/start/ripples.h"
+#include <QDialog>
+#include <QTimer>
+#include <memory>
+
+namespace velara {
+
+class Platform;
+
+class fSplash final : public QDialog {
+    Q_OBJECT
+  public:
+    /// Writes the picture beside the program folder and shows it from there; from memory where it can't be written.
+    explicit fSplash(Platform& platform, QWidget* parent = nullptr);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    void tick();
+
+    Platform& platform_;
+    std::shared_ptr<Ripples> ripples_; // shared with a tick that yields while the window may go
+    QTimer Timer1;
+};
+
+} // namespace velara

@@ -1,0 +1,90 @@
+// The filters that have a dialog, as data: what the dialog shows for each and which operation it calls. Adding one is a
+// row of filterDialogs.cpp.
+#pragma once
+#include "engine/cBitFilter.h"
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace velara {
+
+/// A slider that stands on whole numbers: value * step is what is shown, in the format.
+struct FilterSlider {
+    const char* caption = nullptr; // null: there is no such slider
+    double least = 0, most = 0, byDefault = 0;
+    double step = 1;
+    int decimals = 0;
+    bool centred = false; // the filter gets the distance from the middle
+
+    constexpr bool used() const { return caption != nullptr; }
+    int minimum() const;
+    int maximum() const;
+    int initial() const;
+    /// What is taken from the slider's position: round(most / step * 0.5) when centred, else 0.
+    int centre() const;
+    QString text(int position) const;
+};
+
+/// What the dialog offers beside sliders.
+enum class FilterExtra : unsigned {
+    None = 0,
+    SourceWell = 1, // colour 0
+    TargetWell = 2, // colour 1
+    PickColour = 4, // a press on the preview loads the active well
+    PickCentre = 8,
+    Banks = 16,
+    Glass = 32,
+    Curtain = 64,
+};
+constexpr FilterExtra operator|(FilterExtra a, FilterExtra b)
+{
+    return static_cast<FilterExtra>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+}
+constexpr bool has(FilterExtra all, FilterExtra one)
+{
+    return (static_cast<unsigned>(all) & static_cast<unsigned>(one)) != 0;
+}
+
+/// What the dialog hands to a filter.
+struct FilterArgs {
+    std::array<int, 3> value{};
+    std::array<Colour, 2> colour{};
+    bool option = false;
+    float centerX = 0.5f, centerY = 0.5f; // fractions of the picture
+    int longerSide = 1;                   // of the preview; sizes of discs are fractions of it
+    std::string style = "slanting";
+    int mode = 0;
+    std::array<int, 3> channel{2, 1, 0}; // of red, green and blue: the source, 0 blue, 1 green, 2 red
+    std::array<bool, 3> invert{}, kill{};
+};
+
+struct FilterRow {
+    int number;
+    const char* title;
+    std::array<FilterSlider, 3> sliders;
+    const char* option; // caption, null without one
+    FilterExtra extras;
+    Bits (*call)(cBitFilter& filter, const FilterArgs& args);
+    std::array<std::string_view, 2> words; // that open it; empty ones open nothing
+
+    FilterArgs defaults() const;
+};
+
+/// By number, without a gap.
+std::span<const FilterRow> filterRows();
+/// The row that a command word opens; null when it opens none.
+const FilterRow* findFilterRow(std::string_view word);
+
+/// The panes behind glass, by the index of their button, and how many strengths each has.
+struct GlassStyle {
+    const char* caption;
+    const char* style;
+    int modes;
+};
+inline constexpr GlassStyle kGlassStyles[] = {
+    {"Squary", "squary", 3}, {"Horizontal", "horizontal", 3}, {"Vertical", "vertical", 3}, {"Slanting", "slanting", 2}};
+inline constexpr const char* kGlassModes[] = {"Light", "Tight", "Large"};
+inline constexpr const char* kCurtains[] = {"Whity", "Classy", "Vertical", "Horizontal"}; // the index is the mode
+
+} // namespace velara

@@ -1,0 +1,51 @@
+#include "engine/cBitFilter.h"
+#include "pixels/numbers.h"
+#include <chrono>
+#include <cmath>
+
+namespace velara {
+
+namespace {
+
+constexpr std::uint32_t kReportEvery = 10; // milliseconds
+
+std::uint32_t steadyMilliseconds()
+{
+    using namespace std::chrono;
+    return static_cast<std::uint32_t>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+} // namespace
+
+cBitFilter::cBitFilter() : clock(steadyMilliseconds) {}
+
+Box cBitFilter::GetBounds(int Margin) const
+{
+    const Rect r = region_.bounds();
+    return {r.left + Margin, r.right - Margin - 1, r.top + Margin, r.bottom - Margin - 1};
+}
+
+float cBitFilter::Angle(int X, int Y)
+{
+    if (X == 0) return static_cast<float>(Y > 0 ? kPi / 2.0 : -kPi / 2.0);
+    const double a = std::atan(static_cast<double>(Y) / X);
+    return static_cast<float>(X < 0 ? a + kPi : a);
+}
+
+/// The progress rule: done rows of a run that ends at row `of`. A report that falls due in a one-row picture divides by
+/// zero; it is not guarded.
+void cBitFilter::progressDue(std::int64_t done, std::int64_t of)
+{
+    if (clock() - lastProgress_ <= kReportEvery) return;
+    lastProgress_ = clock();
+    report(static_cast<int>(of == 0 ? throw RuntimeError(Fault::DivisionByZero) : done * 100 / of));
+}
+
+void cBitFilter::report(int percent)
+{
+    if (Progress) Progress(percent);
+}
+
+Random cBitFilter::nextRandom() { return Random(randomSeed_++); }
+
+} // namespace velara

@@ -1,0 +1,88 @@
+// The operations in place that cut, turn and take over the picture.
+#include "engine/deform/kernels_warp.h"
+#include "engine/passes.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
+constexpr int kTurnTile = 32; // its columns of the target and rows of the source stay in the first cache
+
+} // namespace
+
+void cBitFilter::BitsBlack()
+{
+    const Box box = insidePicture(GetBounds(0), bits_);
+    for (int y = box.ymin; y <= box.ymax; ++y)
+        for (const Span s : region_.spans(y)) {
+            const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
+            if (x0 < x1) std::memset(bits_.row(y) + x0, 0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+        }
+}
+
+void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)
+{
+    const Bits in = Source;
+    const Rect& r = rectangle;
+    if (r.isEmpty() || r.right > in.width() || r.bottom > in.height()) throw RuntimeError(Fault::OutOfRange);
+    Bits out = Bits::uninitialized(r.width(), r.height());
+    clearMargin(out);
+    for (int y = 0; y < r.height(); ++y) {
+        const Pixel* from = in.row(y + r.top) + r.left;
+        Pixel* to = out.row(y);
+        if (!masked) {
+            copyPixels(from, to, 0, r.width());
+            continue;
+        }
+        std::fill(to, to + r.width(), kMaskedOut);
+        for (const Span s : region_.spans(y + r.top))
+            copyPixels(from, to, std::max(s.x0 - r.left, 0), std::min(s.x1 - r.left, r.width()));
+    }
+    bits_ = out;
+    report(100);
+}
+
+void cBitFilter::BitsCrop(const Bits& Source, int Left, int Top, int Right, int Bottom)
+{
+    crop(Source, Rect{Left, Top, Right, Bottom}.intersected({0, 0, BitsWidth(), BitsHeight()}), false);
+}
+
+void cBitFilter::BitsCropMasked(const Bits& Source, int Left, int Top, int Right, int Bottom)
+{
+    crop(Source, Rect{Left, Top, Right, Bottom}.intersected({0, 0, Source.width(), Source.height()}), true);
+}
+
+void cBitFilter::BitsRotate90(const Bits& Source)
+{
+    const Bits in = Source;
+    if (in.isNull()) throw RuntimeError(Fault::OutOfRange);
+    Bits out = Bits::uninitialized(in.height(), in.width());
+    clearMargin(out);
+    for (int y0 = 0; y0 < in.height(); y0 += kTurnTile) {
+        const int y1 = std::min(y0 + kTurnTile, in.height());
+        for (int x0 = 0; x0 < in.width(); x0 += kTurnTile)
+            turnPixels(in, out, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
+        for (int y = y0; y < y1; ++y) progressDue(y, in.maxY());
+    }
+    bits_ = out;
+    report(100);
+}
+
+void cBitFilter::BitsTakeFromPicture(const QImage& Picture, int Width, int Height)
+{
+    if (Picture.isNull()) return;
+    checkSize(Width, Height);
+    const QImage picture = Picture.convertToFormat(QImage::Format_RGB32);
+    Bits out(Width, Height);
+    const int columns = std::min(Width, picture.width()), rows = std::min(Height, picture.height());
+    for (int y = 0; y < rows; ++y) {
+        Pixel* to = out.row(y);
+        std::memcpy(to, picture.constScanLine(y), sizeof(Pixel) * static_cast<std::size_t>(columns));
+        for (int x = 0; x < columns; ++x) to[x].c[3] = 0;
+    }
+    bits_ = out;
+}
+
+} // namespace velara

@@ -1,0 +1,66 @@
+// Look-up by two channels at once: one table of 65536 entries costs less a pixel than two of 256.
+#pragma once
+#include "engine/colour/kernels_colour.h"
+#include "pixels/Bits.h"
+#include <array>
+#include <bit>
+#include <vector>
+
+namespace velara {
+
+using ByteTable = std::array<std::uint8_t, 256>;
+
+/// f(low, high) of all pairs of bytes, at low | high << 8.
+template <class T, class Function> std::vector<T> pairTable(Function f)
+{
+    std::vector<T> table(65536);
+    std::size_t i = 0;
+    for (int high = 0; high < 256; ++high)
+        for (int low = 0; low < 256; ++low) table[i++] = static_cast<T>(f(low, high));
+    return table;
+}
+
+/// Calls body(from, to, n) for blocks of the columns x0..x1-1. The blocks of a long span are staged, so that they are
+/// written past the cache as whole lines.
+template <class Body> void inBlocks(const Pixel* from, Pixel* to, int x0, int x1, Body body)
+{
+    constexpr int kBlock = 1024; // as many as are written past the cache
+    constexpr std::uintptr_t kCacheLine = 64;
+    Pixel staged[kBlock];
+    if (x1 - x0 >= 2 * kBlock) {
+        const std::uintptr_t over = reinterpret_cast<std::uintptr_t>(to + x0) % kCacheLine;
+        const int head = static_cast<int>((kCacheLine - over) % kCacheLine / sizeof(Pixel));
+        body(from + x0, to + x0, head);
+        x0 += head;
+    }
+    for (; x1 - x0 >= kBlock; x0 += kBlock) {
+        body(from + x0, staged, kBlock);
+        colourKernels().copyPast(staged, to + x0, kBlock);
+    }
+    if (x1 > x0) body(from + x0, to + x0, x1 - x0);
+}
+
+/// A pixel's four bytes as one word, and back: assembled in a register, a pixel is one store.
+inline std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
+inline Pixel pixelFrom(std::uint32_t word) { return std::bit_cast<Pixel>(word); }
+
+/// One grey, with the fourth byte of p.
+inline Pixel greyPixel(std::uint8_t grey, const Pixel& p)
+{
+    return pixelFrom(grey * 0x00010101u | (wordOf(p) & kFourthByte));
+}
+
+/// The three channels through one table.
+class ThroughTable {
+  public:
+    explicit ThroughTable(const ByteTable& table) : table_(table) {}
+    void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
+    {
+        colourKernels().table({from, 0, to, x0, x1}, table_.data());
+    }
+
+  private:
+    alignas(64) ByteTable table_;
+};
+
+} // namespace velara

@@ -1,0 +1,207 @@
+// Tone: tables, grey, contrast, saturation and the measurements of a picture's brightness.
+#include "engine/colour/PairTables.h"
+#include "engine/colour/kernels_colour.h"
+#include "engine/passes.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+template <class Function> ByteTable byteTable(Function f)
+{
+    ByteTable table;
+    for (int i = 0; i < 256; ++i) table[std::size_t(i)] = f(i);
+    return table;
+}
+
+/// The blue, green and red of one pixel while they may lie outside of 0..255.
+struct Wide {
+    std::int64_t b, g, r;
+    bool isByte() const { return ((b | g | r) & ~std::int64_t{255}) == 0; }
+};
+
+/// Hands half of what a channel has below 0 or above 255 to both others, until all are in range: the hue lasts longer
+/// than under a clamp.
+Wide balanced(Wide v)
+{
+    auto& [b, g, r] = v;
+    while (!v.isByte()) {
+        if (b <= 0 && g <= 0 && r <= 0) b = g = r = 0;
+        if (b >= 255 && g >= 255 && r >= 255) b = g = r = 255;
+        if (b < 0) g += b / 2, r += b / 2, b = 0;
+        if (b > 255) g += (b - 255) / 2, r += (b - 255) / 2;
+        b = std::min<std::int64_t>(b, 255);
+        if (g < 0) r += g / 2, b += g / 2, g = 0;
+        if (g > 255) r += (g - 255) / 2, b += (g - 255) / 2;
+        g = std::min<std::int64_t>(g, 255);
+        if (r < 0) g += r / 2, b += r / 2, r = 0;
+        if (r > 255) {
+            const std::int64_t half = (r - 255) / 2;
+            r = 255, g += half, b += half;
+        }
+    }
+    return v;
+}
+
+/// round(brightnessOf) of all pixels, counted.
+std::array<std::int64_t, 256> histogram(const Bits& bits)
+{
+    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // runs of equal pixels would wait for each other in one
+    std::vector<Pixel> greys(std::size_t(bits.width()));
+    for (int y = 0; y < bits.height(); ++y) {
+        colourKernels().brightness(bits.row(y), bits.width(), greys.data());
+        for (std::size_t x = 0; x < greys.size(); ++x) ++counts[x & 3][greys[x].c[0]];
+    }
+    std::array<std::int64_t, 256> all{};
+    for (const auto& part : counts)
+        for (std::size_t i = 0; i < 256; ++i) all[i] += part[i];
+    return all;
+}
+
+int thirdOf(const Pixel& p) { return (p.c[0] + p.c[1] + p.c[2]) / 3; }
+
+/// f(third of each pixel's sum), in row order.
+template <class Function> void eachThird(const Bits& bits, Function f)
+{
+    for (int y = 0; y < bits.height(); ++y)
+        for (int x = 0; x < bits.width(); ++x) f(thirdOf(bits.row(y)[x]));
+}
+
+} // namespace
+
+Bits cBitFilter::CONTRAST(int Level)
+{
+    const Bits in = bits_;
+    std::int64_t sum = 0;
+    eachRow(in, [&](const Pixel* row) { sum += colourKernels().sumOfThirds(row, in.width()); });
+    if (in.isNull()) throw RuntimeError(Fault::DivisionByZero);
+    const auto mean = static_cast<int>(sum / (std::int64_t(in.width()) * in.height()));
+    const float f = static_cast<float>((Level + 100.0) / 100);
+    std::array<int, 256> table;
+    for (int i = 0; i < 256; ++i) table[std::size_t(i)] = roundEven(double(i - mean) * f + mean);
+
+    constexpr std::uint32_t kOverflows = 1u << 31;
+    const auto marked = [&](int i, int shift) {
+        const int v = table[std::size_t(i)];
+        return v < 0 || v > 255 ? kOverflows : std::uint32_t(v) << shift;
+    };
+    const auto pairs = pairTable<std::uint32_t>([&](int b, int g) { return marked(b, 0) | marked(g, 8); });
+    std::array<std::uint32_t, 256> reds;
+    for (int i = 0; i < 256; ++i) reds[std::size_t(i)] = marked(i, 16);
+
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
+        inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
+            for (int i = 0; i < n; ++i) {
+                const std::uint32_t source = wordOf(p[i]);
+                std::uint32_t v = pairs[source & 0xFFFF] | reds[source >> 16 & 255];
+                if (v & kOverflows) {
+                    const Wide w = balanced({table[p[i].c[0]], table[p[i].c[1]], table[p[i].c[2]]});
+                    v = static_cast<std::uint32_t>(w.b | w.g << 8 | w.r << 16);
+                }
+                q[i] = pixelFrom(v | (source & kFourthByte));
+            }
+        });
+    });
+}
+
+Bits cBitFilter::SATURATION(int Level)
+{
+    const float k = static_cast<float>(Level / 100.0);
+    const auto literal = [=](const Pixel* from, Pixel* to, int x0, int x1) {
+        for (int x = x0; x < x1; ++x) {
+            const int grey = thirdOf(from[x]);
+            to[x].c[3] = from[x].c[3];
+            for (int c = 0; c < 3; ++c) to[x].c[c] = clamp(roundEven(double(from[x].c[c] - grey) * k + from[x].c[c]));
+        }
+    };
+    constexpr int kMostForSingles = 1000;
+    if (Level < -kMostForSingles || Level > kMostForSingles) return eachSpan(0, literal);
+    // (c - grey)*Level/100 has two decimals: only its halves are in doubt. Where k is Level/100 exactly, singles are
+    // exact too; elsewhere k lies to one side of it and every half goes to that side, so k is moved on a little.
+    const double beyond = 100.0 * k - Level;
+    constexpr float kStep = 0x1p-20f;
+    const float moved = beyond == 0 ? k : (beyond > 0) == (k > 0) ? k * (1 + kStep) : k * (1 - kStep);
+    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
+        colourKernels().saturate({from, 0, to, x0, x1}, moved, beyond == 0);
+    });
+}
+
+Bits cBitFilter::GammaCorrection(int Level)
+{
+    const float gamma = static_cast<float>((Level + 100.0) / 100);
+    return eachSpan(0, ThroughTable(byteTable([=](int i) {
+                        return gamma <= 0 ? std::uint8_t{0} : toByte(std::pow(i / 255.0, 1.0 / gamma) * 255);
+                    })));
+}
+
+Bits cBitFilter::Reduction(int Level)
+{
+    const std::int64_t step = std::int64_t(Level) + 1;
+    return eachSpan(0, ThroughTable(byteTable([=](int i) {
+                        const double steps = roundToEven(quotient(i, double(step)));
+                        return clamp(static_cast<std::int64_t>(double(step) * steps));
+                    })));
+}
+
+Bits cBitFilter::GreyScale()
+{
+    return eachSpan(0, [](const Pixel* from, Pixel* to, int x0, int x1) {
+        colourKernels().grey({from, 0, to, x0, x1}, kFourthByte);
+    });
+}
+
+Bits cBitFilter::OLDPHOTO()
+{
+    return eachSpan(0, [](const Pixel* from, Pixel* to, int x0, int x1) {
+        colourKernels().grey({from, 0, to, x0, x1}, kFourthByte | 255);
+    });
+}
+
+Bits cBitFilter::Threshold(int Level)
+{
+    const int bound = Level < 0 ? -1 : 3 * std::min(Level, 255) + 2;
+    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
+        colourKernels().threshold({from, 0, to, x0, x1}, bound);
+    });
+}
+
+/// Moves the median to 128 with two straight lines. A median of 1 or 255 divides by zero.
+Bits cBitFilter::Equalize()
+{
+    const Bits in = bits_;
+    const auto counts = histogram(in);
+    const std::int64_t half = std::int64_t(in.width()) * in.height() / 2;
+    std::int64_t sum = 0;
+    int i = 0;
+    while (i < 256 && (sum += counts[std::size_t(i)]) <= half) ++i;
+    if (i == 256) throw RuntimeError(Fault::OutOfRange); // no pixels
+    const int median = counts[std::size_t(i)] / 2 <= sum - half ? i - 1 : i;
+    const double above = quotient(127, 255 - median), below = quotient(127, median - 1);
+    return eachSpan(0, ThroughTable(byteTable([=](int c) {
+                        return c >= median ? toByte((c - median) * above + 128) : toByte(c * below);
+                    })));
+}
+
+int cBitFilter::GetLMax() const
+{
+    int most = 0;
+    eachThird(bits_, [&](int v) { most = std::max(most, v); });
+    return most;
+}
+
+int cBitFilter::GetLMin() const
+{
+    int least = 255;
+    eachThird(bits_, [&](int v) { least = std::min(least, v); });
+    return least;
+}
+
+int cBitFilter::GetLMed() const
+{
+    std::int64_t sum = 0;
+    eachThird(bits_, [&](int v) { sum += v; });
+    return bits_.isNull() ? 0 : static_cast<int>(sum / (std::int64_t(bits_.width()) * bits_.height()));
+}
+
+} // namespace velara

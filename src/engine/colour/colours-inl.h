@@ -1,0 +1,72 @@
+// Channels of pixels as 32-bit lanes, one pixel a lane. For kernel files only: included once a target.
+#if defined(VELARA_COLOURS_INL) == defined(HWY_TARGET_TOGGLE)
+#ifdef VELARA_COLOURS_INL
+#undef VELARA_COLOURS_INL
+#else
+#define VELARA_COLOURS_INL
+#endif
+
+#include "engine/colour/kernels_colour.h"
+#include "engine/pixels-inl.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+/// Channel c of each pixel, 0..255.
+template <int c, class D, class V = hn::Vec<D>> HWY_INLINE V channel(D d32, V pixels)
+{
+    return hn::And(hn::ShiftRight<8 * c>(pixels), hn::Set(d32, 255));
+}
+
+/// c0+c1+c2.
+template <class D, class V = hn::Vec<D>> HWY_INLINE V sumOf(D d32, V pixels)
+{
+    return hn::Add(hn::Add(channel<0>(d32, pixels), channel<1>(d32, pixels)), channel<2>(d32, pixels));
+}
+
+template <class D, class V = hn::Vec<D>> HWY_INLINE V weighed(D d32, V pixels, const Weights& w)
+{
+    const auto part = [&](auto c, int weight) HWY_ATTR { return hn::Mul(c, hn::Set(d32, weight)); };
+    return hn::Add(hn::Add(part(channel<0>(d32, pixels), w.c0), part(channel<1>(d32, pixels), w.c1)),
+                   part(channel<2>(d32, pixels), w.c2));
+}
+
+/// The channels, 0..255 each, as bytes; the fourth is 0.
+template <class D8, class D, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, D, V c0, V c1, V c2)
+{
+    return hn::BitCast(d8, hn::Or(hn::Or(c0, hn::ShiftLeft<8>(c1)), hn::ShiftLeft<16>(c2)));
+}
+
+/// The hue of mHSLRGB in single arithmetic: off by less than 1e-4. most and range: of the three channels.
+template <class D, class V> HWY_INLINE auto hueOf(D d32, V r, V g, V b, V most, V range)
+{
+    const hn::Rebind<float, D> df;
+    const auto isRed = hn::Eq(most, r), isGreen = hn::Eq(most, g);
+    const auto lead = hn::IfThenElse(isRed, hn::Sub(g, b), hn::IfThenElse(isGreen, hn::Sub(b, r), hn::Sub(r, g)));
+    const auto base = hn::IfThenZeroElse(isRed, hn::IfThenElse(isGreen, hn::Set(d32, 2), hn::Set(d32, 4)));
+    const auto wide = hn::ConvertTo(df, hn::Max(range, hn::Set(d32, 1)));
+    // a grey has no lead, and red comes first
+    return hn::Add(hn::Div(hn::ConvertTo(df, lead), wide), hn::ConvertTo(df, base));
+}
+
+/// The pixels of bytes, those under the mask by pixel(lane) instead: for the few whose vector arithmetic is in doubt.
+template <class D8, class Mask, class Function>
+HWY_INLINE hn::Vec<D8> redone(D8 d8, hn::Vec<D8> bytes, Mask mask, Function pixel)
+{
+    const hn::Repartition<std::int32_t, D8> d32;
+    if (HWY_LIKELY(hn::AllFalse(d32, mask))) return bytes;
+    constexpr std::size_t kMost = 16;
+    HWY_ALIGN Pixel pixels[kMost];
+    HWY_ALIGN std::int32_t doubtful[kMost];
+    hn::StoreU(bytes, d8, pixels[0].c);
+    hn::StoreU(hn::VecFromMask(d32, mask), d32, doubtful);
+    for (std::size_t i = 0; i < hn::Lanes(d32); ++i)
+        if (doubtful[i]) pixels[i] = pixel(static_cast<int>(i));
+    return hn::LoadU(d8, pixels[0].c);
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif

@@ -1,0 +1,205 @@
+#include "engine/colour/kernels_colour.h"
+#include "pixels/numbers.h"
+#include <algorithm>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/colour/kernels_colour.cpp"
+#include <hwy/foreach_target.h>
+
+#include "engine/colour/colours-inl.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+void channels(const SpanOf& s, const ChannelMap& map)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::uint32_t, decltype(d)> d32;
+        const auto block = hn::And(hn::Iota(d, 0), hn::Set(d, 0x0C));
+        const auto from = hn::Or(block, hn::BitCast(d, hn::Set(d32, map.from)));
+        const auto moved = hn::BitCast(d32, hn::TableLookupBytes(loadBytes(d, s.from + x), from));
+        return hn::BitCast(d, hn::Xor(hn::And(moved, hn::Set(d32, map.keep)), hn::Set(d32, map.flip)));
+    });
+}
+
+void add(const SpanOf& s, std::uint32_t plus, std::uint32_t minus)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::uint32_t, decltype(d)> d32;
+        const auto more = hn::SaturatedAdd(loadBytes(d, s.from + x), hn::BitCast(d, hn::Set(d32, plus)));
+        return hn::SaturatedSub(more, hn::BitCast(d, hn::Set(d32, minus)));
+    });
+}
+
+/// Sixteen look-ups of sixteen entries by the low half of a byte; its high half then chooses among them bit by bit.
+void table(const SpanOf& s, const std::uint8_t* entries)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const auto source = loadBytes(d, s.from + x);
+        const auto low = hn::And(source, hn::Set(d, 15));
+        const auto sixteen = [&](int i) HWY_ATTR {
+            if constexpr (hn::MaxLanes(d) > 16)
+                return hn::TableLookupBytes(hn::LoadDup128(d, entries + 16 * i), low);
+            else
+                return hn::TableLookupBytes(hn::Load(hn::FixedTag<std::uint8_t, 16>(), entries + 16 * i), low);
+        };
+        const auto bit = [&](int b) HWY_ATTR {
+            const auto one = hn::Set(d, static_cast<std::uint8_t>(1 << b));
+            return hn::Eq(hn::And(source, one), one);
+        };
+        const auto bit4 = bit(4), bit5 = bit(5), bit6 = bit(6), bit7 = bit(7);
+        const auto two = [&](int i) HWY_ATTR { return hn::IfThenElse(bit4, sixteen(i + 1), sixteen(i)); };
+        const auto four = [&](int i) HWY_ATTR { return hn::IfThenElse(bit5, two(i + 2), two(i)); };
+        const auto eight = [&](int i) HWY_ATTR { return hn::IfThenElse(bit6, four(i + 4), four(i)); };
+        return withFourthOf(d, source, hn::IfThenElse(bit7, eight(8), eight(0)));
+    });
+}
+
+void threshold(const SpanOf& s, int bound)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto source = loadBytes(d, s.from + x);
+        const auto white = hn::VecFromMask(d32, hn::Gt(sumOf(d32, hn::BitCast(d32, source)), hn::Set(d32, bound)));
+        return withFourthOf(d, source, hn::BitCast(d, white));
+    });
+}
+
+/// floor((sum + 500) / 1000) for sums of 0..255000: an eighth of it over 125, exact in 16 bits.
+template <class D32, class V> HWY_INLINE V thousandths(D32 d32, V sum)
+{
+    const hn::Repartition<std::uint16_t, D32> d16;
+    const auto eighth = hn::ShiftRight<3>(hn::Add(sum, hn::Set(d32, 500)));
+    const auto high = hn::MulHigh(hn::BitCast(d16, eighth), hn::Set(d16, 33555));
+    return hn::BitCast(d32, hn::ShiftRight<6>(high));
+}
+
+/// round(value(pixel)) in the bytes that keep leaves open; weights are value's. Exact halves are redone in double.
+template <class Value> HWY_INLINE void greyBy(const SpanOf& s, std::uint32_t keep, const Weights& weights, Value value)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto source = hn::BitCast(d32, loadBytes(d, s.from + x));
+        const auto kept = hn::Set(d32, static_cast<std::int32_t>(keep));
+        const auto sum = weighed(d32, source, weights);
+        const auto v = thousandths(d32, sum);
+        const auto all = hn::Or(hn::Or(v, hn::ShiftLeft<8>(v)), hn::ShiftLeft<16>(v));
+        const auto result = hn::BitCast(d, hn::Or(hn::And(kept, source), hn::AndNot(kept, all)));
+        const auto tie = hn::Eq(hn::Add(sum, hn::Set(d32, 500)), hn::Mul(v, hn::Set(d32, 1000)));
+        return redone(d, result, tie, [&](int i) {
+            Pixel p = s.from[x + i];
+            const std::uint8_t g = toByte(value(p));
+            for (int c = 0; c < 3; ++c)
+                if (!(keep >> 8 * c & 255)) p.c[c] = g;
+            return p;
+        });
+    });
+}
+
+void grey(const SpanOf& s, std::uint32_t keep)
+{
+    greyBy(s, keep, kGreyWeights, [](const Pixel& p) { return greyOf(p); });
+}
+
+void brightness(const Pixel* from, int n, Pixel* out)
+{
+    // in runs too short to be written past the cache, since they are read at once
+    for (int x = 0; x < n; x += kStreamFrom / 2)
+        greyBy({from, 0, out, x, std::min(n, x + kStreamFrom / 2)}, kFourthByte, kBrightnessWeights,
+               [](const Pixel& p) { return brightnessOf(p); });
+}
+
+void bySum(const SpanOf& s, const std::uint32_t* table)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto source = loadBytes(d, s.from + x);
+        const auto sum = sumOf(d32, hn::BitCast(d32, source));
+        const auto colour = hn::GatherIndex(d32, reinterpret_cast<const std::int32_t*>(table), sum);
+        return withFourthOf(d, source, hn::BitCast(d, colour));
+    });
+}
+
+void saturate(const SpanOf& s, float k, bool roundsSum)
+{
+    const auto run = [&](auto roundsAll) HWY_ATTR {
+        forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+            const hn::Repartition<std::int32_t, decltype(d)> d32;
+            const hn::Repartition<float, decltype(d)> df;
+            const hn::Repartition<std::uint16_t, decltype(d)> d16;
+            const auto source = loadBytes(d, s.from + x);
+            const auto v = hn::BitCast(d32, source);
+            const auto third = hn::BitCast(d32, hn::MulHigh(hn::BitCast(d16, sumOf(d32, v)), hn::Set(d16, 21846)));
+            const auto strengthen = [&](auto c) HWY_ATTR {
+                const auto away = hn::Mul(hn::ConvertTo(df, hn::Sub(c, third)), hn::Set(df, k));
+                const auto to = roundsAll() ? hn::NearestInt(hn::Add(away, hn::ConvertTo(df, c)))
+                                            : hn::Add(hn::NearestInt(away), c);
+                return hn::Min(hn::Max(to, hn::Zero(d32)), hn::Set(d32, 255));
+            };
+            const auto c0 = strengthen(channel<0>(d32, v)), c1 = strengthen(channel<1>(d32, v)),
+                       c2 = strengthen(channel<2>(d32, v));
+            return withFourthOf(d, source, joined(d, d32, c0, c1, c2));
+        });
+    };
+    if (roundsSum)
+        run([] { return std::true_type(); });
+    else
+        run([] { return std::false_type(); });
+}
+
+void byGreySum(const SpanOf& s, const std::uint16_t* greys, const std::function<std::uint8_t(const Pixel&)>& redo)
+{
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto bytes = loadBytes(d, s.from + x);
+        const auto offset = hn::ShiftLeft<1>(weighed(d32, hn::BitCast(d32, bytes), kGreyWeights));
+        const auto two = hn::GatherOffset(d32, reinterpret_cast<const std::int32_t*>(greys), offset);
+        const auto v = hn::And(two, hn::Set(d32, 0xFFFF));
+        const auto again = hn::Eq(v, hn::Set(d32, int{kGreyInDoubt}));
+        return redone(d, withFourthOf(d, bytes, joined(d, d32, v, v, v)), again, [&](int i) {
+            const std::uint8_t grey = redo(s.from[x + i]);
+            return Pixel{{grey, grey, grey, s.from[x + i].c[3]}};
+        });
+    });
+}
+
+std::uint32_t sumOfThirds(const Pixel* from, int n)
+{
+    const hn::ScalableTag<std::int32_t> d32;
+    const hn::Repartition<std::uint16_t, decltype(d32)> d16;
+    const int lanes = static_cast<int>(hn::Lanes(d32));
+    auto total = hn::Zero(d32);
+    int i = 0;
+    for (; i + lanes <= n; i += lanes) {
+        const auto sum = sumOf(d32, hn::LoadU(d32, reinterpret_cast<const std::int32_t*>(from + i)));
+        total = hn::Add(total, hn::BitCast(d32, hn::MulHigh(hn::BitCast(d16, sum), hn::Set(d16, 21846))));
+    }
+    auto all = static_cast<std::uint32_t>(hn::GetLane(hn::SumOfLanes(d32, total)));
+    for (; i < n; ++i) all += static_cast<std::uint32_t>((from[i].c[0] + from[i].c[1] + from[i].c[2]) / 3);
+    return all;
+}
+
+void copyPast(const Pixel* from, Pixel* to, int n)
+{
+    forPixels<std::uint8_t>({from, 0, to, 0, n}, [&](auto d, int x) HWY_ATTR { return loadBytes(d, from + x); });
+}
+
+const ColourKernels& colourKernelTable()
+{
+    static constexpr ColourKernels kernels = {channels, add,       table,      threshold,   grey,    bySum,
+                                              saturate, byGreySum, brightness, sumOfThirds, copyPast};
+    return kernels;
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(colourKernelTable);
+const ColourKernels& colourKernels() { return HWY_DYNAMIC_DISPATCH(colourKernelTable)(); }
+
+} // namespace velara
+#endif

@@ -1,0 +1,92 @@
+#include "engine/colour/kernels_hsl.h"
+#include <type_traits>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/colour/kernels_hsl.cpp"
+#include <hwy/foreach_target.h>
+
+#include "engine/colour/colours-inl.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+/// A channel of the result: the rounded value, and what is known of it. Masks are lanes of all ones.
+template <class V> struct Part {
+    V rounded, isHigh, isLow, inDoubt;
+};
+
+void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
+{
+    // Over the bytes instead of their singles, and without the detour over S: the difference stays below a thousandth,
+    // and what is nearer than two to a half is looked up or redone. A hue nearer than kSeam to a corner of the circle
+    // counts as neither end.
+    constexpr float kInDoubt = 0.498f, kSeam = 1e-3f;
+    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const hn::Repartition<float, decltype(d)> df;
+        const auto single = [&](float v) HWY_ATTR { return hn::Set(df, v); };
+        const auto bytes = loadBytes(d, s.from + x);
+        const auto v = hn::BitCast(d32, bytes);
+        const auto b = channel<0>(d32, v), g = channel<1>(d32, v), r = channel<2>(d32, v);
+        const auto most = hn::Max(hn::Max(r, g), b), least = hn::Min(hn::Min(r, g), b);
+        const auto range = hn::Sub(most, least);
+        const auto turned = hn::Add(hueOf(d32, r, g, b, most, range), single(hue.offset));
+        const auto h = hn::Sub(turned, hn::IfThenElseZero(hn::Gt(turned, single(5)), single(6)));
+        // From the least channel to the greatest. Above the middle the saturation counts the other way round; at the
+        // middle itself the singles decide which side it is.
+        const auto sum = hn::Add(most, least), middle = hn::Set(d32, 255);
+        const auto chroma = hn::Mul(hn::ConvertTo(df, range), single(hue.saturation));
+        const auto room = hn::ConvertTo(df, hn::Sub(hn::Set(d32, 510), sum));
+        const auto isLight = hn::RebindMask(df, hn::Gt(sum, middle));
+        const auto isGrey = hn::RebindMask(df, hn::Eq(range, hn::Zero(d32)));
+        const auto span = hn::IfThenZeroElse(isGrey, hn::IfThenElse(isLight, hn::Sub(room, chroma), chroma));
+        const auto low = hn::Mul(hn::Sub(hn::ConvertTo(df, sum), span), single(0.5f));
+        const auto isMiddle = hn::VecFromMask(d32, hn::Eq(sum, middle));
+        const auto lanes = [&](auto mask) HWY_ATTR { return hn::BitCast(d32, hn::VecFromMask(df, mask)); };
+        const auto part = [&](float axis) HWY_ATTR {
+            const auto away = hn::Abs(hn::Sub(h, single(axis)));
+            const auto near = hn::Min(away, hn::Sub(single(6), away)); // the hue circle has six units
+            const auto share = hn::Sub(single(2), near);
+            const auto held = hn::Min(hn::Max(share, hn::Zero(df)), single(1));
+            const auto value = hn::Add(low, hn::Mul(span, held));
+            const auto rounded = hn::NearestInt(value);
+            const auto off = hn::Abs(hn::Sub(value, hn::ConvertTo(df, rounded)));
+            return Part<std::remove_const_t<decltype(rounded)>>{rounded, lanes(hn::Gt(share, single(1 + kSeam))),
+                                                                lanes(hn::Lt(share, single(-kSeam))),
+                                                                hn::Or(isMiddle, lanes(hn::Gt(off, single(kInDoubt))))};
+        };
+        auto red = part(0), green = part(2), blue = part(4);
+        const auto anyDoubt = hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt);
+        if (!hn::AllFalse(d32, hn::MaskFromVec(anyDoubt))) {
+            const auto end = hn::GatherIndex(d32, ends, hn::Or(hn::ShiftLeft<8>(most), least));
+            const auto endHigh = hn::ShiftRight<8>(end), endLow = hn::And(end, hn::Set(d32, 255));
+            for (auto* p : {&red, &green, &blue}) {
+                p->rounded = hn::IfThenElse(hn::MaskFromVec(p->isHigh), endHigh, p->rounded);
+                p->rounded = hn::IfThenElse(hn::MaskFromVec(p->isLow), endLow, p->rounded);
+                p->inDoubt = hn::AndNot(hn::Or(p->isHigh, p->isLow), p->inDoubt);
+            }
+        }
+        const auto again = hn::MaskFromVec(hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt));
+        return redone(d, withFourthOf(d, bytes, joined(d, d32, blue.rounded, green.rounded, red.rounded)), again,
+                      [&](int i) { return hue(s.from[x + i]); });
+    });
+}
+
+const HslKernels& hslKernelTable()
+{
+    static constexpr HslKernels table = {turn};
+    return table;
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(hslKernelTable);
+const HslKernels& hslKernels() { return HWY_DYNAMIC_DISPATCH(hslKernelTable)(); }
+
+} // namespace velara
+#endif

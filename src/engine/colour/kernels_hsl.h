@@ -1,0 +1,23 @@
+// The vector kernel of hue rotation.
+#pragma once
+#include "engine/SpanOf.h"
+
+namespace velara {
+
+/// Adds offset to the hue of each pixel, once round from above 5, and multiplies its saturation.
+struct HueTurn {
+    float offset;     // 0..6
+    float saturation; // 0..1
+
+    /// For one pixel, through mHSLRGB. For any offset and saturation; Overflow where no byte comes out.
+    Pixel operator()(const Pixel& p) const;
+};
+
+struct HslKernels {
+    /// ends holds the bytes of the least and (shifted by 8) of the greatest channel of the result, at
+    /// greatest << 8 | least channel of the pixel: for saturations that put many of them on a half.
+    void (*turn)(const SpanOf&, const HueTurn&, const std::int32_t* ends);
+};
+const HslKernels& hslKernels();
+
+} // namespace velara

@@ -1,0 +1,152 @@
+// The deformations whose rows and columns move along straight lines.
+#include "engine/deform/passes_warp.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+/// A turn about the centre, cosine and sine kept in single.
+struct Turn {
+    int cx, cy;
+    float cs, sn;
+
+    Turn(const Bits& bits, int degrees)
+        : cx(bits.maxX() / 2), cy(bits.maxY() / 2), cs(static_cast<float>(std::cos(degrees * kDegreesToRadians))),
+          sn(static_cast<float>(std::sin(degrees * kDegreesToRadians)))
+    {
+    }
+};
+
+} // namespace
+
+Bits cBitFilter::ROTATE(int Degrees, bool Clean)
+{
+    const Turn turn(bits_, Degrees);
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        const double dx = x0 - turn.cx, dy = y - turn.cy;
+        lineOfPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, sx);
+        lineOfPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, sy);
+    });
+}
+
+Bits cBitFilter::RotateSmooth(int Degrees)
+{
+    const Bits in = bits_;
+    const Turn turn(in, Degrees);
+    return eachTile(kPlaces, [&](Bits& out, int x0, int x1, int y0, int y1) {
+        std::int32_t ix[kPlaces], iy[kPlaces];
+        float fx[kPlaces], fy[kPlaces];
+        for (int y = y0; y < y1; ++y) {
+            const double dx = x0 - turn.cx, dy = y - turn.cy;
+            const int n = x1 - x0;
+            Pixel* to = out.row(y) + x0;
+            lineOfSplitPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, ix, fx);
+            lineOfSplitPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, iy, fy);
+            eachPlace(blendPixels(in, ix, iy, fx, fy, n, in.row(y) + x0, to), n, [&](int i) {
+                blendPixel(in.row(iy[i]) + ix[i], in.row(iy[i] + 1) + ix[i], fx[i], fy[i], to[i]);
+            });
+        }
+    });
+}
+
+Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
+{
+    const Bits in = bits_;
+    if (in.isNull()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, 0);
+    for (int y = 0; y < in.height(); ++y) {
+        const Pixel *kept = in.row(y), *from = in.row(Vertical ? in.maxY() - y : y);
+        Pixel* to = out.row(y);
+        copyPixels(kept, to, -Bits::kMargin, 0);
+        copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
+        const SpanOf row{kept, in.stride(), to, 0, in.width()};
+        if (Horizontal)
+            takeRowMirrored(row, from, in.maxX());
+        else
+            takeRow(row, from);
+        progressDue(y, in.maxY());
+    }
+    copyRows(in, out, in.height(), in.height() + Bits::kMargin);
+    report(100);
+    return out;
+}
+
+Bits cBitFilter::STRETCH(int Horizontal, int Vertical, bool Clean)
+{
+    const auto table = [](int maximum, int percent) {
+        const float factor = static_cast<float>(percent / 100.0 + 1);
+        const int centre = maximum / 2;
+        std::vector<std::int32_t> sources(static_cast<std::size_t>(maximum + 1));
+        for (int i = 0; i <= maximum; ++i) sources[i] = roundEven(static_cast<double>(i - centre) * factor + centre);
+        return sources;
+    };
+    const auto columns = table(bits_.maxX(), Horizontal), rows = table(bits_.maxY(), Vertical);
+    return eachCrossing(Clean, columns, rows);
+}
+
+Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
+{
+    const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
+    // How much an axis is scaled at a place on the other one.
+    const auto scale = [](int d, int percent, int maximum) { return quotient(d / 100.0 * percent, maximum) + 1; };
+    std::vector<double> columns;
+    const Box box = insidePicture(GetBounds(0), bits_);
+    for (int x = 0; !box.isEmpty() && x < maxX + kPlaces; ++x) columns.push_back(scale(x - cx, Horizontal, maxX));
+    const bool isSafe = std::max(std::abs(double(Horizontal)), std::abs(double(Vertical))) < 1e4;
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        const double row = scale(y - cy, Vertical, maxY);
+        if (isSafe) { // neither scale can lead out of 32 bits
+            lineOfPlaces(x0 - cx, row, 0, cx, n, sx);
+            productsToPlaces(columns.data() + x0, y - cy, cy, n, sy);
+            return;
+        }
+        for (int i = 0; i < n; ++i) {
+            sx[i] = roundEven(row * (x0 + i - cx) + cx);
+            sy[i] = roundEven(columns[static_cast<std::size_t>(x0 + i)] * (y - cy) + cy);
+        }
+    });
+}
+
+Bits cBitFilter::WAVES(int Frequency, int Amplitude, int StartDegree)
+{
+    const Bits in = bits_;
+    const float amplitude = static_cast<float>(Amplitude * 0.25);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const double angle = (static_cast<double>(y) * Frequency + StartDegree) * kDegreesToRadians;
+        const Pixel* source = in.row(std::clamp(roundEven(amplitude * std::sin(angle) + y), 0, in.maxY()));
+        takeRow({from, in.stride(), to, x0, x1}, source);
+    });
+}
+
+Bits cBitFilter::TILE(int Factor)
+{
+    const Bits in = bits_;
+    // Tiles overlap, and the later one lies on top: each pixel belongs to the last tile that begins at or before it.
+    struct Axis {
+        int step;
+        float ratio;
+        Axis(int maximum, int factor)
+            : step(std::max(roundEven(quotient(maximum, factor)), 1)),
+              ratio(static_cast<float>(static_cast<double>(maximum) / step))
+        {
+        }
+        int source(int within) const { return roundEven(static_cast<double>(within) * ratio); }
+    };
+    const Axis horizontal(in.maxX(), Factor), vertical(in.maxY(), Factor);
+    const Box box = GetBounds(0);
+    std::vector<std::int32_t> columns(static_cast<std::size_t>(in.width()));
+    for (int x = std::max(box.xmin, 0); x <= std::min(box.xmax, in.maxX()); ++x)
+        columns[x] = horizontal.source((x - box.xmin) % horizontal.step);
+    const std::vector<std::int32_t> inside(columns.size(), -1);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        const Pixel* source = in.row(vertical.source((y - box.ymin) % vertical.step));
+        takeColumns({from, in.stride(), to, x0, x1}, source, columns.data(), inside.data(), false);
+    });
+}
+
+} // namespace velara

@@ -1,0 +1,113 @@
+// The glass deformations: sources displaced by sine, cosine and tangent of the pixel's number or position in radians.
+#include "engine/deform/passes_warp.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+/// The sources that depend on more than their own coordinate.
+enum class Mixed { None, NumberX, NumberY, RowX, ProductX, SumY };
+
+/// Where the sources of a column and of a row lie, as a function of x or y; null leaves them where they are.
+struct GlassRow {
+    std::string_view style;
+    int mode;
+    double (*column)(double);
+    double (*row)(double);
+    Mixed mixed;
+};
+
+double tangent(double v) { return std::tan(v); }
+double tangents(double v) { return 2 * std::tan(v) + v; }
+double cosines(double v) { return v - 10 * std::cos(v); }
+template <int weight> double sines(double v) { return v - weight * std::sin(v); }
+
+// clang-format off
+constexpr GlassRow kGlass[] = {
+    {"slanting",   0, nullptr,  nullptr,  Mixed::NumberX},
+    {"slanting",   1, nullptr,  nullptr,  Mixed::NumberY},
+    {"vertical",   0, tangents, nullptr,  Mixed::None},
+    {"vertical",   1, sines<3>, nullptr,  Mixed::None},
+    {"vertical",   2, cosines,  nullptr,  Mixed::None},
+    {"horizontal", 0, nullptr,  tangents, Mixed::None},
+    {"horizontal", 1, nullptr,  sines<3>, Mixed::None},
+    {"horizontal", 2, nullptr,  cosines,  Mixed::None},
+    {"squary",     0, tangents, tangents, Mixed::None},
+    {"squary",     1, sines<5>, sines<5>, Mixed::None},
+    {"squary",     2, cosines,  cosines,  Mixed::None},
+    {"curtain",    0, nullptr,  nullptr,  Mixed::RowX},
+    {"curtain",    1, tangent,  nullptr,  Mixed::None},
+    {"curtain",    2, nullptr,  nullptr,  Mixed::ProductX},
+    {"curtain",    3, nullptr,  nullptr,  Mixed::SumY},
+};
+constexpr int kWeightX = 3, kWeightY = 10; // of the sine of the pixel's number
+// clang-format on
+
+/// The sources of first..last along one axis, and 0 before.
+std::vector<std::int32_t> sources(int first, int last, double (*function)(double))
+{
+    std::vector<std::int32_t> table(static_cast<std::size_t>(std::max(last + 1, 0)));
+    for (int i = first; i <= last; ++i) table[i] = function ? roundEven(function(i)) : i;
+    return table;
+}
+
+/// Moves places by the waves of the n pixel numbers from number on.
+void addWaves(const WaveTables& waves, double number, int weight, int n, std::int32_t* places)
+{
+    std::int32_t offsets[kPlaces];
+    const std::uint64_t doubtful = waveOffsets(waves, number, static_cast<float>(weight), n, offsets);
+    eachPlace(doubtful, n,
+              [&](int i) { offsets[i] = roundEven(places[i] - weight * std::sin(number + i)) - places[i]; });
+    for (int i = 0; i < n; ++i) places[i] += offsets[i];
+}
+
+} // namespace
+
+Bits cBitFilter::GLASS(const std::string& Style, int Mode)
+{
+    const Box box = GetBounds(0), inside = insidePicture(box, bits_);
+    const auto glass = std::find_if(std::begin(kGlass), std::end(kGlass),
+                                    [&](const GlassRow& r) { return r.style == Style && r.mode == Mode; });
+    if (glass == std::end(kGlass)) // then the source stays where it began, at (0, 0)
+        return eachSource(false, [](int, int, int n, std::int32_t* sx, std::int32_t* sy) {
+            std::fill_n(sx, n, 0);
+            std::fill_n(sy, n, 0);
+        });
+    const auto columns = sources(inside.xmin, inside.xmax, glass->column);
+    const auto rows = sources(inside.ymin, inside.ymax, glass->row);
+    if (glass->mixed == Mixed::None) return eachCrossing(false, columns, rows);
+    std::vector<double> tangents;
+    for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));
+    const WaveTables waves;
+    return eachSource(
+        false,
+        [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+            std::copy_n(columns.data() + x0, n, sx);
+            std::fill_n(sy, n, rows[y]);
+            const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
+                                  (static_cast<double>(x0) - box.xmin) + 1;
+            switch (glass->mixed) {
+            case Mixed::None:
+                break;
+            case Mixed::NumberX:
+                addWaves(waves, number, kWeightX, n, sx);
+                break;
+            case Mixed::NumberY:
+                addWaves(waves, number, kWeightY, n, sy);
+                break;
+            case Mixed::RowX:
+                std::fill_n(sx, n, roundEven(tangents[y]));
+                break;
+            case Mixed::ProductX:
+                for (int i = 0; i < n; ++i) sx[i] = roundEven(tangents[y] * tangents[x0 + i]);
+                break;
+            case Mixed::SumY:
+                for (int i = 0; i < n; ++i) sy[i] = roundEven(tangents[x0 + i] + tangents[y]);
+                break;
+            }
+        },
+        1);
+}
+
+} // namespace velara

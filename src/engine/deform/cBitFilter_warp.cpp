@@ -1,0 +1,104 @@
+// The deformations around a centre: bend, twirl and lens.
+#include "engine/deform/kernels_place.h"
+#include "engine/deform/passes_disc.h"
+#include "engine/deform/passes_warp.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+/// The distance from the centre to the corner that is farthest from it.
+double longestRadius(const Bits& bits) { return std::hypot(bits.width() / 2 + 1, bits.height() / 2 + 1); }
+
+double radiusOf(int dx, int dy) { return std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy); }
+
+} // namespace
+
+Bits cBitFilter::BEND(int RadiusFactor, bool Clean)
+{
+    const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
+    const float k = static_cast<float>(RadiusFactor / 100.0 + 2);
+    const double longest = std::abs(k) * longestRadius(bits_);
+    // The steps of singles: four of an angle of two pi at most, four of a radius.
+    const Bend bend{cx,
+                    cy,
+                    maxX,
+                    maxY,
+                    k,
+                    static_cast<float>(1e-6 * maxX + 1e-6),
+                    static_cast<float>(5e-7 * (longest + maxY) + 1e-6)};
+    const bool isSafe = longest < 1 << 20;
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        const int dy = y - cy;
+        const std::uint64_t doubtful = isSafe ? bendPlaces(bend, x0, y, n, sx, sy) : kAllPlaces;
+        eachPlace(doubtful, n, [&](int i) {
+            const int dx = x0 + i - cx;
+            const float radius = static_cast<float>(k * radiusOf(dx, dy));
+            float t = -Angle(dy, dx);
+            if (dy < 0 || dx > 0) t = static_cast<float>(static_cast<double>(t) + kTwoPi);
+            sx[i] = roundEven(static_cast<double>(t) * maxX / kTwoPi);
+            sy[i] = roundEven(maxY - static_cast<double>(radius));
+        });
+    });
+}
+
+Bits cBitFilter::TWIRL(int Level, int OffsetDegrees, bool Clean)
+{
+    const int cx = bits_.maxX() / 2, cy = bits_.maxY() / 2;
+    const float k = static_cast<float>(quotient(Level / 10.0, cx));
+    const float offset = static_cast<float>(OffsetDegrees * kDegreesToRadians);
+    const double longest = longestRadius(bits_), widest = std::abs(longest * k) + std::abs(offset) + 5;
+    const bool isSafe = widest < 1000;
+    std::vector<float> turns;
+    for (int r = 0; isSafe && r <= longest + kPlaces; ++r) { // the last vector of a row reads beyond it
+        turns.push_back(static_cast<float>(std::cos(offset - r * static_cast<double>(k))));
+        turns.push_back(static_cast<float>(std::sin(offset - r * static_cast<double>(k))));
+    }
+    // The steps of singles: that of the angle, and about nine of values near 1.
+    const Twirl twirl{cx, cy, turns.data(), static_cast<float>(8.5e-7 + 6.5e-8 * widest)};
+    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
+        const int dy = y - cy;
+        const std::uint64_t doubtful = isSafe ? twirlPlaces(twirl, x0, y, n, sx, sy) : kAllPlaces;
+        eachPlace(doubtful, n, [&](int i) {
+            const int dx = x0 + i - cx, r = roundEven(radiusOf(dx, dy));
+            sx[i] = cx;
+            sy[i] = cy;
+            if (r == 0) return;
+            const float t = static_cast<float>(Angle(dx, dy) - r * static_cast<double>(k));
+            sx[i] = roundEven(r * std::cos(static_cast<double>(t) + offset) + cx);
+            sy[i] = roundEven(r * std::sin(static_cast<double>(t) + offset) + cy);
+        });
+    });
+}
+
+Bits cBitFilter::LENS(float CenterX, float CenterY, float Radius, int Magnify)
+{
+    const Bits in = bits_;
+    const Disc disc(in, CenterX, CenterY, Radius);
+    const double R = disc.radius;
+    const double D = static_cast<float>((150.0 - Magnify) * R / 150);
+    const double limit = roundToEven(R * R - D * D);
+    const Rect readable{-Bits::kMargin, -Bits::kMargin, in.width() + Bits::kMargin, in.height() + Bits::kMargin};
+    const Lens lens{disc.x, disc.y, R, D, readable};
+    const auto source = [&](int x, int y) {
+        const double ox = static_cast<double>(x) - disc.x, oy = static_cast<double>(y) - disc.y;
+        const int z = roundEven(std::sqrt(R * R - ox * ox - oy * oy));
+        const std::int64_t sx = std::int64_t(divide(roundEven(D * ox), z)) + disc.x;
+        const std::int64_t sy = std::int64_t(divide(roundEven(D * oy), z)) + disc.y;
+        if (sx < readable.left || sx >= readable.right || sy < readable.top || sy >= readable.bottom)
+            throw RuntimeError(Fault::OutOfRange);
+        return in.at(static_cast<int>(sx), static_cast<int>(sy));
+    };
+    return eachOfDisc(disc, limit, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
+        eachRun(x0, x1, [&](int first, int n) {
+            if (lensPlaces(lens, first, y, n, sx, sy))
+                takePixels(in, sx, sy, n, from + first, to + first);
+            else
+                for (int x = first; x < first + n; ++x) to[x] = withColour(source(x, y), from[x]);
+        });
+    });
+}
+
+} // namespace velara

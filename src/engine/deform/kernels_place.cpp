@@ -1,0 +1,275 @@
+#include "engine/deform/kernels_place.h"
+#include <cmath>
+#include <cstring>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/deform/kernels_place.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "engine/lanes-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+using Singles = hn::ScalableTag<float>;
+using Words = hn::ScalableTag<std::int32_t>;
+using Doubles = hn::ScalableTag<double>;
+using HalfWords = hn::Rebind<std::int32_t, Doubles>; // as many words as there are doubles
+
+/// Where v lies nearer than tolerance to a half, so that rounding might go either way.
+template <class V> auto nearHalf(V v, V rounded, V half, V tolerance)
+{
+    return hn::Gt(hn::Abs(hn::Sub(v, rounded)), hn::Sub(half, tolerance));
+}
+
+void lineOfPlacesImpl(double d, double factor, double shift, double centre, int n, std::int32_t* places)
+{
+    const Doubles doubles;
+    const HalfWords words;
+    const int lanes = static_cast<int>(hn::Lanes(doubles));
+    auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d));
+    const auto step = hn::Set(doubles, static_cast<double>(lanes));
+    const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
+    for (int i = 0; i < n; i += lanes) {
+        const auto place = hn::Add(hn::Add(hn::Mul(at, f), s), c);
+        hn::StoreU(hn::DemoteTo(words, hn::Round(place)), words, places + i);
+        at = hn::Add(at, step);
+    }
+}
+
+void lineOfSplitPlacesImpl(double d, double factor, double shift, double centre, int n, std::int32_t* places,
+                           float* beyond)
+{
+    const Doubles doubles;
+    const HalfWords words;
+    const hn::Rebind<float, Doubles> singles;
+    const int lanes = static_cast<int>(hn::Lanes(doubles));
+    const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
+    for (int i = 0; i < n; i += lanes) {
+        const auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d + i));
+        const auto place = hn::Add(hn::Add(hn::Mul(at, f), s), c);
+        const auto floor = hn::Floor(place);
+        hn::StoreU(hn::DemoteTo(words, floor), words, places + i);
+        hn::StoreU(hn::DemoteTo(singles, hn::Sub(place, floor)), singles, beyond + i);
+    }
+}
+
+void productsToPlacesImpl(const double* factors, double d, double centre, int n, std::int32_t* places)
+{
+    const Doubles doubles;
+    const HalfWords words;
+    const int lanes = static_cast<int>(hn::Lanes(doubles));
+    const auto by = hn::Set(doubles, d), c = hn::Set(doubles, centre);
+    for (int i = 0; i < n; i += lanes) {
+        const auto place = hn::Add(hn::Mul(hn::LoadU(doubles, factors + i), by), c);
+        hn::StoreU(hn::DemoteTo(words, hn::Round(place)), words, places + i);
+    }
+}
+
+std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Singles d;
+    const Words words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto half = hn::Set(d, 0.5f), least = hn::Set(d, 1e-6f);
+    const auto perRadius = hn::Set(d, twirl.tolerance), ofRadius = hn::Set(d, 2e-7f);
+    const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
+    const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
+    const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
+    alignas(HWY_MAX_BYTES) float radii[kPlaces], turns[2 * kPlaces];
+    alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
+    for (int i = 0; i < n; i += lanes) {
+        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
+        hn::Store(radius, d, radii + i);
+        hn::Store(hn::NearestInt(radius), words, wholes + i);
+    }
+    // All before the first use: a vector cannot be had from stores that are still under way.
+    const int whole = (n + lanes - 1) / lanes * lanes;
+    for (int i = 0; i < whole; ++i) std::memcpy(turns + 2 * i, twirl.turns + 2 * wholes[i], 2 * sizeof(float));
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
+        const auto scale = hn::Div(r, hn::Max(radius, half));
+        hn::Vec<Singles> c, s;
+        hn::LoadInterleaved2(d, turns + 2 * i, c, s);
+        const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
+        const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
+        const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);
+        const auto ox = hn::MulAdd(back, turnedY, turnedX), oy = hn::NegMulAdd(back, turnedX, turnedY);
+        const auto roundX = hn::Round(ox), roundY = hn::Round(oy);
+        const auto tolerance = hn::MulAdd(r, perRadius, least);
+        const auto doubt = hn::Or(hn::Or(nearHalf(ox, roundX, half, tolerance), nearHalf(oy, roundY, half, tolerance)),
+                                  nearHalf(radius, r, half, hn::MulAdd(r, ofRadius, least)));
+        hn::StoreU(hn::Add(hn::ConvertTo(words, roundX), cx), words, sx + i);
+        hn::StoreU(hn::Add(hn::ConvertTo(words, roundY), cy), words, sy + i);
+        doubtful |= laneBits(d, doubt) << i;
+    }
+    return doubtful;
+}
+
+/// atan of 0..1, within 2e-7.
+template <class D, class V> V arcTangent(D d, V v)
+{
+    // atan(v) = pi/8 + atan((v - t) / (1 + t v)) with t = tan(pi/8): the argument of the series stays within 0.4143.
+    const auto t = hn::Set(d, 0.41421356f);
+    const auto a = hn::Div(hn::Sub(v, t), hn::MulAdd(t, v, hn::Set(d, 1.0f)));
+    const auto a2 = hn::Mul(a, a);
+    auto series = hn::Set(d, 1.0f / 15);
+    for (const float term : {-1.0f / 13, 1.0f / 11, -1.0f / 9, 1.0f / 7, -1.0f / 5, 1.0f / 3})
+        series = hn::MulAdd(series, a2, hn::Set(d, term));
+    return hn::Add(hn::NegMulAdd(hn::Mul(series, a2), a, a), hn::Set(d, 0.39269908f));
+}
+
+std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Singles d;
+    const Words words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto half = hn::Set(d, 0.5f), zero = hn::Zero(d);
+    const auto toleranceX = hn::Set(d, bend.toleranceX), toleranceY = hn::Set(d, bend.toleranceY);
+    const float down = static_cast<float>(y - bend.cy);
+    const auto dy = hn::Set(d, down), dy2 = hn::Mul(dy, dy), absY = hn::Abs(dy);
+    const auto maxY = hn::Set(d, static_cast<float>(bend.maxY)), k = hn::Set(d, bend.k);
+    const auto perRadian = hn::Set(d, static_cast<float>(bend.maxX / 6.283184051513672));
+    // Below the centre the angle counts from 0 to the left and from two pi to the right, above it around pi.
+    const auto ofLeft = hn::Set(d, down < 0 ? 3.141592f : 0.0f), ofRight = hn::Set(d, down < 0 ? 3.141592f : 6.283184f);
+    const auto signs = hn::Set(d, down < 0 ? -1.0f : 1.0f);
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - bend.cx));
+        const auto absX = hn::Abs(dx);
+        const auto least = hn::Min(absX, absY), most = hn::Max(absX, absY);
+        const auto atan = arcTangent(d, hn::Div(least, hn::Max(most, half)));
+        const auto fromDown = hn::IfThenElse(hn::Gt(absX, absY), hn::Sub(hn::Set(d, 1.57079633f), atan), atan);
+        const auto right = hn::Gt(dx, zero);
+        const auto turned = hn::Mul(fromDown, hn::IfThenElse(right, hn::Neg(signs), signs));
+        const auto x = hn::Mul(hn::Add(hn::IfThenElse(right, ofRight, ofLeft), turned), perRadian);
+        const auto height = hn::NegMulAdd(hn::Sqrt(hn::MulAdd(dx, dx, dy2)), k, maxY);
+        const auto roundX = hn::Round(x), roundY = hn::Round(height);
+        const auto doubt =
+            hn::Or(hn::Or(nearHalf(x, roundX, half, toleranceX), nearHalf(height, roundY, half, toleranceY)),
+                   hn::Eq(most, zero));
+        hn::StoreU(hn::ConvertTo(words, roundX), words, sx + i);
+        hn::StoreU(hn::ConvertTo(words, roundY), words, sy + i);
+        doubtful |= laneBits(d, doubt) << i;
+    }
+    return doubtful;
+}
+
+std::uint64_t waveOffsetsImpl(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+{
+    const Singles d;
+    const Words words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto half = hn::Set(d, 0.5f), tolerance = hn::Set(d, weight * 1e-6f);
+    const auto sine = hn::Set(d, static_cast<float>(-weight * std::sin(number)));
+    const auto cosine = hn::Set(d, static_cast<float>(-weight * std::cos(number)));
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto offset =
+            hn::MulAdd(cosine, hn::LoadU(d, wave.sine + i), hn::Mul(sine, hn::LoadU(d, wave.cosine + i)));
+        const auto rounded = hn::Round(offset);
+        hn::StoreU(hn::ConvertTo(words, rounded), words, offsets + i);
+        doubtful |= laneBits(d, nearHalf(offset, rounded, half, tolerance)) << i;
+    }
+    return doubtful;
+}
+
+bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Doubles d;
+    const HalfWords words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const double down = static_cast<double>(y) - lens.cy;
+    const auto oy2 = hn::Set(d, down * down), pulledY = hn::Round(hn::Set(d, lens.depth * down));
+    const auto square = hn::Set(d, lens.radius * lens.radius), depth = hn::Set(d, lens.depth);
+    const auto cx = hn::Set(d, static_cast<double>(lens.cx)), cy = hn::Set(d, static_cast<double>(lens.cy));
+    const auto left = hn::Set(d, static_cast<double>(lens.within.left));
+    const auto right = hn::Set(d, static_cast<double>(lens.within.right - 1));
+    const auto top = hn::Set(d, static_cast<double>(lens.within.top));
+    const auto bottom = hn::Set(d, static_cast<double>(lens.within.bottom - 1));
+    const auto fits = hn::Set(d, 2147483647.0);
+    auto safe = hn::Le(hn::Abs(pulledY), fits);
+    for (int i = 0; i < n; i += lanes) {
+        // The last vector repeats the last pixel, as its neighbours may lie outside of the disc.
+        const auto at = hn::Min(hn::Add(hn::Iota(d, 0.0), hn::Set(d, static_cast<double>(x0 + i))),
+                                hn::Set(d, static_cast<double>(x0 + n - 1)));
+        const auto ox = hn::Sub(at, cx);
+        const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));
+        const auto pulledX = hn::Round(hn::Mul(depth, ox));
+        // The quotient of whole numbers of 32 bits in double never rounds up to a whole number.
+        const auto fromX = hn::Add(hn::Trunc(hn::Div(pulledX, z)), cx);
+        const auto fromY = hn::Add(hn::Trunc(hn::Div(pulledY, z)), cy);
+        safe = hn::And(safe, hn::And(hn::Ge(z, hn::Set(d, 1.0)), hn::Le(hn::Abs(pulledX), fits)));
+        safe = hn::And(safe, hn::And(hn::And(hn::Ge(fromX, left), hn::Le(fromX, right)),
+                                     hn::And(hn::Ge(fromY, top), hn::Le(fromY, bottom))));
+        hn::StoreU(hn::DemoteTo(words, fromX), words, sx + i);
+        hn::StoreU(hn::DemoteTo(words, fromY), words, sy + i);
+    }
+    return hn::AllTrue(d, safe);
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(lineOfPlacesImpl);
+HWY_EXPORT(lineOfSplitPlacesImpl);
+HWY_EXPORT(productsToPlacesImpl);
+HWY_EXPORT(twirlPlacesImpl);
+HWY_EXPORT(bendPlacesImpl);
+HWY_EXPORT(waveOffsetsImpl);
+HWY_EXPORT(lensPlacesImpl);
+
+void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places)
+{
+    HWY_DYNAMIC_DISPATCH(lineOfPlacesImpl)(d, factor, shift, centre, n, places);
+}
+
+void lineOfSplitPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places, float* beyond)
+{
+    HWY_DYNAMIC_DISPATCH(lineOfSplitPlacesImpl)(d, factor, shift, centre, n, places, beyond);
+}
+
+void productsToPlaces(const double* factors, double d, double centre, int n, std::int32_t* places)
+{
+    HWY_DYNAMIC_DISPATCH(productsToPlacesImpl)(factors, d, centre, n, places);
+}
+
+std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    return HWY_DYNAMIC_DISPATCH(twirlPlacesImpl)(twirl, x0, y, n, sx, sy);
+}
+
+std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    return HWY_DYNAMIC_DISPATCH(bendPlacesImpl)(bend, x0, y, n, sx, sy);
+}
+
+bool lensPlaces(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    return HWY_DYNAMIC_DISPATCH(lensPlacesImpl)(lens, x0, y, n, sx, sy);
+}
+
+WaveTables::WaveTables()
+{
+    for (int i = 0; i < kPlaces; ++i) {
+        sine[i] = static_cast<float>(std::sin(static_cast<double>(i)));
+        cosine[i] = static_cast<float>(std::cos(static_cast<double>(i)));
+    }
+}
+
+std::uint64_t waveOffsets(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+{
+    return HWY_DYNAMIC_DISPATCH(waveOffsetsImpl)(wave, number, weight, n, offsets);
+}
+
+} // namespace velara
+#endif

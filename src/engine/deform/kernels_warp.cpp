@@ -1,0 +1,412 @@
+#include "engine/deform/kernels_warp.h"
+#include "engine/deform/passes_warp.h"
+#include "pixels/numbers.h"
+#include <type_traits>
+
+#ifndef VELARA_KERNELS_WARP_TYPES
+#define VELARA_KERNELS_WARP_TYPES
+namespace velara {
+
+constexpr int kLongestVector = 16; // words
+
+struct TakeJob {
+    const std::int32_t* origin; // of pixel (0, 0), as words
+    std::int32_t stride;
+    Rect rect;
+    const SourceMask* mask; // null when all of rect is selected
+    bool clean;
+};
+
+struct TurnJob {
+    const std::uint32_t* from;
+    std::ptrdiff_t fromStride;
+    std::uint32_t* to;
+    std::ptrdiff_t toStride;
+};
+
+struct BlendJob {
+    const std::int32_t* origin;
+    std::int32_t stride, width, height;
+};
+
+} // namespace velara
+#endif
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/deform/kernels_warp.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "engine/lanes-inl.h"
+#include "engine/pixels-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace velara {
+namespace HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+/// The words at the n indices, a multiple of two, in pairs: half as many stores, and no gather instruction, which takes
+/// longer than scalar loads on the machines measured.
+HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
+{
+    for (int i = 0; i < n; i += 2) {
+        std::uint64_t two;
+        std::memcpy(&two, indices + i, sizeof two);
+        const auto word = [&](std::uint64_t index) {
+            return static_cast<std::uint32_t>(base[static_cast<std::int32_t>(index)]);
+        };
+        const std::uint64_t pair = word(two & 0xFFFFFFFF) | std::uint64_t(word(two >> 32)) << 32;
+        std::memcpy(found + i, &pair, sizeof pair);
+    }
+}
+
+/// to[i] = merged(i, kept) for n pixels, a vector at a time.
+template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, Merge merged)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto step = [&](int i, const Pixel* from, Pixel* target) HWY_ATTR {
+        const auto old = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(from));
+        hn::StoreU(merged(i, old), d, reinterpret_cast<std::int32_t*>(target));
+    };
+    int i = 0;
+    for (; i + lanes <= n; i += lanes) step(i, kept + i, to + i);
+    if (i < n) {
+        Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
+        copyPixels(kept + i, tail, 0, n - i);
+        step(i, tail, tail);
+        copyPixels(tail, to + i, 0, n - i);
+    }
+}
+
+/// The words at places that may lie outside of the selection: those read the pixel (left, top), and inside tells them.
+HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n,
+                               std::int32_t* found, std::int32_t* inside)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto left = hn::Set(d, job.rect.left), right = hn::Set(d, job.rect.right - 1);
+    const auto top = hn::Set(d, job.rect.top), bottom = hn::Set(d, job.rect.bottom - 1);
+    const auto stride = hn::Set(d, job.stride);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], xs[kPlaces], ys[kPlaces];
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
+        const auto limitedX = hn::Min(hn::Max(x, left), right), limitedY = hn::Min(hn::Max(y, top), bottom);
+        const auto isInside = hn::And(hn::Eq(x, limitedX), hn::Eq(y, limitedY));
+        const auto sourceX = hn::IfThenElse(isInside, x, left), sourceY = hn::IfThenElse(isInside, y, top);
+        hn::Store(hn::VecFromMask(d, isInside), d, inside + i);
+        hn::Store(hn::Add(hn::Mul(sourceY, stride), sourceX), d, indices + i);
+        hn::Store(sourceX, d, xs + i);
+        hn::Store(sourceY, d, ys + i);
+    }
+    loadWords(job.origin, indices, n, found);
+    if (job.mask)
+        for (int i = 0; i < n; ++i) inside[i] &= job.mask->at(xs[i], ys[i]);
+}
+
+/// Whole runs are told apart by the box around their sources: selected, not selected, or to be asked one by one.
+void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
+{
+    using Holds = SourceMask::Holds;
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, job.clean ? ~0x00FFFFFF : -1);
+    const auto stride = hn::Set(d, job.stride);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], found[kPlaces], inside[kPlaces];
+    auto left = hn::Load(d, sx), right = left, top = hn::Load(d, sy), bottom = top;
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
+        left = hn::Min(left, x);
+        right = hn::Max(right, x);
+        top = hn::Min(top, y);
+        bottom = hn::Max(bottom, y);
+        hn::Store(hn::Add(hn::Mul(y, stride), x), d, indices + i);
+    }
+    const int x0 = hn::GetLane(hn::MinOfLanes(d, left)), x1 = hn::GetLane(hn::MaxOfLanes(d, right));
+    const int y0 = hn::GetLane(hn::MinOfLanes(d, top)), y1 = hn::GetLane(hn::MaxOfLanes(d, bottom));
+    const Rect& r = job.rect;
+    auto holds = x0 >= r.left && x1 < r.right && y0 >= r.top && y1 < r.bottom ? Holds::All : Holds::Some;
+    if (r.isEmpty() || x1 < r.left || x0 >= r.right || y1 < r.top || y0 >= r.bottom)
+        holds = Holds::None;
+    else if (job.mask) {
+        const auto within = job.mask->holds(std::max(x0, r.left), std::max(y0, r.top), std::min(x1, r.right - 1),
+                                            std::min(y1, r.bottom - 1));
+        if (within != Holds::All) holds = within;
+    }
+    const auto whole = (n + lanes - 1) / lanes * lanes;
+    if (n == kPlaces) { // what the run to the right is about to read and write, were its sources on the same line
+        const std::ptrdiff_t onward = std::ptrdiff_t(indices[n - 1]) - indices[0];
+        for (int i = 0; i < kPlaces; i += kLinePixels) {
+            __builtin_prefetch(kept + kPlaces + i);
+            __builtin_prefetch(to + kPlaces + i, 1);
+        }
+        for (int i = 3; i < kPlaces; i += kLinePixels / 2) __builtin_prefetch(job.origin + indices[i] + onward);
+    }
+    if (holds == Holds::None)
+        mergePixels(n, kept, to, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
+    else if (holds == Holds::All) {
+        loadWords(job.origin, indices, whole, found);
+        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
+            return hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
+        });
+    } else {
+        findSelected(job, sx, sy, whole, found, inside);
+        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
+            const auto taken = hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
+            const auto isInside = hn::MaskFromVec(hn::Load(d, inside + i));
+            return hn::IfThenElse(isInside, taken, hn::And(staying, old));
+        });
+    }
+}
+
+void takeColumnsImpl(const SpanOf& s, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
+                     bool clean)
+{
+    alignas(HWY_MAX_BYTES) std::int32_t found[kPlaces];
+    const auto* words = reinterpret_cast<const std::int32_t*>(source);
+    int begin = s.x0, end = s.x0;
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::int32_t, decltype(d8)> d;
+        const int lanes = static_cast<int>(hn::Lanes(d));
+        const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, clean ? ~0x00FFFFFF : -1);
+        if (lanes == 1) {
+            found[0] = words[columns[x]];
+            begin = x;
+        } else if (x >= end) {
+            begin = x;
+            end = x + std::min(kPlaces, (s.x1 - x) / lanes * lanes);
+            loadWords(words, columns + x, end - x, found);
+        }
+        const auto old = hn::BitCast(d, loadBytes(d8, s.from + x));
+        const auto taken = hn::Or(hn::And(colour, hn::LoadU(d, found + x - begin)), hn::AndNot(colour, old));
+        const auto isInside = hn::MaskFromVec(hn::LoadU(d, inside + x));
+        return hn::BitCast(d8, hn::IfThenElse(isInside, taken, hn::And(staying, old)));
+    });
+}
+
+void takeRowImpl(const SpanOf& s, const Pixel* source)
+{
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        return withFourthOf(d8, loadBytes(d8, s.from + x), loadBytes(d8, source + x));
+    });
+}
+
+void takeRowMirroredImpl(const SpanOf& s, const Pixel* source, int last)
+{
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::uint32_t, decltype(d8)> d;
+        const int lanes = static_cast<int>(hn::Lanes(d));
+        const auto mirrored = hn::Reverse(d, hn::BitCast(d, loadBytes(d8, source + last - x - lanes + 1)));
+        return withFourthOf(d8, loadBytes(d8, s.from + x), hn::BitCast(d8, mirrored));
+    });
+}
+
+/// Blends of three channels of four pixels each; see blendPixels.
+std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
+                       const float* fy, int n, const Pixel* kept, Pixel* to)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const hn::ScalableTag<float> singles;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto zero = hn::Zero(d), byte = hn::Set(d, 255);
+    const auto width = hn::Set(d, job.width), height = hn::Set(d, job.height), stride = hn::Set(d, job.stride);
+    const auto least = hn::Set(d, -1);
+    // Singles near 255 have steps of 2^-16; three of them add up here.
+    const auto surely = hn::Set(singles, 0.5f - 1.0f / 8192);
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        const auto inside =
+            hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
+        const auto upper = hn::Add(hn::Mul(hn::IfThenElse(inside, y, zero), stride), hn::IfThenElse(inside, x, zero));
+        const auto lower = hn::Add(upper, stride);
+        const auto p00 = loadEach(d, job.origin, upper), p10 = loadEach(d, job.origin + 1, upper);
+        const auto p01 = loadEach(d, job.origin, lower), p11 = loadEach(d, job.origin + 1, lower);
+        const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
+        auto doubt = hn::Zero(singles);
+        const auto blend = [&](auto from, auto to, auto part) {
+            const auto v = hn::MulAdd(part, hn::Sub(to, from), from);
+            const auto rounded = hn::Round(v);
+            doubt = hn::Max(doubt, hn::Abs(hn::Sub(v, rounded)));
+            return rounded;
+        };
+        const auto channel = [&](auto shift) {
+            const auto part = [&](auto p) {
+                return hn::ConvertTo(singles, hn::And(hn::ShiftRight<decltype(shift)::value>(p), byte));
+            };
+            const auto left = blend(part(p00), part(p01), alongY), right = blend(part(p10), part(p11), alongY);
+            return hn::ShiftLeft<decltype(shift)::value>(hn::ConvertTo(d, blend(left, right, alongX)));
+        };
+        const auto blended =
+            hn::Or(hn::Or(channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 8>())),
+                   channel(std::integral_constant<int, 16>()));
+        doubtful |= laneBits(d, hn::And(hn::RebindMask(d, hn::Gt(doubt, surely)), inside)) << i;
+        alignas(64) std::int32_t result[HWY_MAX_BYTES / 4];
+        hn::Store(hn::IfThenElseZero(inside, blended), d, result);
+        const int count = std::min(lanes, n - i);
+        std::memcpy(to + i, result, sizeof(Pixel) * static_cast<std::size_t>(count));
+        if (kept)
+            for (int j = i; j < i + count; ++j) to[j].c[3] = kept[j].c[3];
+    }
+    return doubtful;
+}
+
+/// Four by four pixels: from and to are to the first one, in pixels from row to row; the target's rows run upward.
+void turnFours(const TurnJob& job, int columns, int rows)
+{
+    const hn::FixedTag<std::uint32_t, 4> d;
+    const hn::FixedTag<std::uint64_t, 2> pairs;
+    const auto colour = hn::Set(d, 0xFFFFFF);
+    for (int x = 0; x < columns; x += 4)
+        for (int y = 0; y < rows; y += 4) {
+            const auto row = [&](int j) {
+                return hn::And(hn::LoadU(d, job.from + (y + j) * job.fromStride + x), colour);
+            };
+            const auto a = row(0), b = row(1), c = row(2), e = row(3);
+            const auto abLow = hn::BitCast(pairs, hn::InterleaveLower(d, a, b));
+            const auto abHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, a, b));
+            const auto ceLow = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
+            const auto ceHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
+            const auto store = [&](auto column, int j) {
+                hn::StoreU(hn::BitCast(d, column), d, job.to - (x + j) * job.toStride + y);
+            };
+            store(hn::InterleaveLower(pairs, abLow, ceLow), 0);
+            store(hn::InterleaveUpper(pairs, abLow, ceLow), 1);
+            store(hn::InterleaveLower(pairs, abHigh, ceHigh), 2);
+            store(hn::InterleaveUpper(pairs, abHigh, ceHigh), 3);
+        }
+}
+
+} // namespace HWY_NAMESPACE
+} // namespace velara
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(takeRun);
+HWY_EXPORT(takeColumnsImpl);
+HWY_EXPORT(takeRowImpl);
+HWY_EXPORT(takeRowMirroredImpl);
+
+SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int height)
+    : words_(static_cast<std::size_t>(width + 31) / 32), columns_(static_cast<std::size_t>(width >> kCellBits) + 2),
+      width_(width), height_(height), bits_(words_ * static_cast<std::size_t>(height)),
+      sums_(columns_ * (static_cast<std::size_t>(height >> kCellBits) + 2))
+{
+    constexpr int kCell = 1 << kCellBits;
+    for (int y = rect.top; y < rect.bottom; ++y) {
+        std::uint32_t* bits = bits_.data() + static_cast<std::size_t>(y) * words_;
+        std::int32_t* counts = sums_.data() + (static_cast<std::size_t>(y >> kCellBits) + 1) * columns_ + 1;
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, rect.left), x1 = std::min(s.x1, rect.right);
+            for (int x = x0; x < x1; x = (x | 31) + 1) {
+                const int n = std::min(x1, (x | 31) + 1) - x;
+                bits[x >> 5] |= (n == 32 ? ~0U : (1U << n) - 1) << (x & 31);
+            }
+            for (int x = x0; x < x1; x = (x | (kCell - 1)) + 1)
+                counts[x >> kCellBits] += std::min(x1, (x | (kCell - 1)) + 1) - x;
+        }
+    }
+    for (std::size_t i = columns_; i < sums_.size(); ++i) // the first column stays 0, as nothing is to its left
+        if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
+}
+
+SourceMask::Holds SourceMask::holds(int left, int top, int right, int bottom) const
+{
+    const int x0 = left >> kCellBits, x1 = (right >> kCellBits) + 1, y0 = top >> kCellBits,
+              y1 = (bottom >> kCellBits) + 1;
+    const auto sum = [&](int x, int y) { return sums_[static_cast<std::size_t>(y) * columns_ + std::size_t(x)]; };
+    const int count = sum(x1, y1) - sum(x0, y1) - sum(x1, y0) + sum(x0, y0);
+    if (count == 0) return Holds::None;
+    const int width = std::min(x1 << kCellBits, width_) - (x0 << kCellBits);
+    const int height = std::min(y1 << kCellBits, height_) - (y0 << kCellBits);
+    return count == width * height ? Holds::All : Holds::Some;
+}
+
+SourcePixels::SourcePixels(const Bits& bits, const Region& region)
+    : bits_(bits), rect_(region.bounds().intersected({0, 0, bits.width(), bits.height()})), marked_(false)
+{
+    for (int y = rect_.top; y < rect_.bottom && !marked_; ++y) {
+        const auto spans = region.spans(y);
+        marked_ = spans.size() != 1 || spans[0].x0 > rect_.left || spans[0].x1 < rect_.right;
+    }
+    if (marked_) mask_ = SourceMask(region, rect_, bits.width(), bits.height());
+}
+
+namespace {
+
+void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::int32_t* sx, std::int32_t* sy, int n,
+              const Pixel* kept, bool clean, Pixel* to)
+{
+    for (int i = n; i % kLongestVector != 0; ++i) {
+        sx[i] = sx[n - 1];
+        sy[i] = sy[n - 1];
+    }
+    const TakeJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
+                      rect, mask, clean};
+    HWY_DYNAMIC_DISPATCH(takeRun)(job, sx, sy, n, kept, to);
+}
+
+} // namespace
+
+void SourcePixels::take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const
+{
+    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, to);
+}
+
+void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
+{
+    constexpr int kMargin = Bits::kMargin;
+    const Rect all{-kMargin, -kMargin, bits.width() + kMargin, bits.height() + kMargin};
+    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, to);
+}
+
+void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
+                 bool clean)
+{
+    HWY_DYNAMIC_DISPATCH(takeColumnsImpl)(span, source, columns, inside, clean);
+}
+
+void takeRow(const SpanOf& span, const Pixel* source) { HWY_DYNAMIC_DISPATCH(takeRowImpl)(span, source); }
+
+void takeRowMirrored(const SpanOf& span, const Pixel* source, int last)
+{
+    HWY_DYNAMIC_DISPATCH(takeRowMirroredImpl)(span, source, last);
+}
+
+HWY_EXPORT(blendRow);
+
+std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
+                          const float* fy, int n, const Pixel* kept, Pixel* to)
+{
+    const BlendJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
+                       bits.width(), bits.height()};
+    return HWY_DYNAMIC_DISPATCH(blendRow)(job, ix, iy, fx, fy, n, kept, to);
+}
+
+HWY_EXPORT(turnFours);
+
+void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1)
+{
+    const int columns = (x1 - x0) / 4 * 4, rows = (y1 - y0) / 4 * 4;
+    const TurnJob job{reinterpret_cast<const std::uint32_t*>(in.row(y0) + x0), in.stride(),
+                      reinterpret_cast<std::uint32_t*>(out.row(in.maxX() - x0) + y0), out.stride()};
+    HWY_DYNAMIC_DISPATCH(turnFours)(job, columns, rows);
+    for (int y = y0; y < y1; ++y)
+        for (int x = y < y0 + rows ? x0 + columns : x0; x < x1; ++x)
+            out.at(y, in.maxX() - x) = withColour(in.at(x, y), Pixel{});
+}
+
+void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)
+{
+    for (int c = 0; c < 3; ++c) {
+        const int a = roundEven((1 - fy) * upper[0].c[c] + fy * lower[0].c[c]);
+        const int b = roundEven((1 - fy) * upper[1].c[c] + fy * lower[1].c[c]);
+        to.c[c] = clamp(roundEven((1 - fx) * a + fx * b));
+    }
+}
+
+} // namespace velara
+#endif

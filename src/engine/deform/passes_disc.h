@@ -1,0 +1,53 @@
+// The calling pattern of the filters that work on a disc.
+#pragma once
+#include "engine/passes.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+/// A disc in pixels, of a centre given in parts of the picture's size and a radius in parts of its longer side.
+struct Disc {
+    std::int32_t x, y, radius;
+
+    Disc(const Bits& bits, float CenterX, float CenterY, float Radius)
+        : x(roundEven(static_cast<double>(bits.maxX()) * CenterX)),
+          y(roundEven(static_cast<double>(bits.maxY()) * CenterY)),
+          radius(roundEven(static_cast<double>(std::max(bits.maxX(), bits.maxY())) * Radius))
+    {
+    }
+};
+
+/// The selected pixels inside the picture whose squared distance from the disc's centre is below limit, in the square
+/// of the disc's radius. kernel(source row, target row, x0, x1, y) as in eachSpan. A radius of 0 or less changes
+/// nothing.
+template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double limit, Kernel&& kernel)
+{
+    const Bits in = bits_;
+    const Region region = region_;
+    Bits out = in;
+    const std::int64_t R = disc.radius;
+    const int ymin = static_cast<int>(std::max<std::int64_t>(disc.y - R, 0));
+    const int ymax = static_cast<int>(std::min<std::int64_t>(disc.y + R, in.maxY()));
+    if (R > 0)
+        for (int y = ymin; y <= ymax; ++y) {
+            const double oy = static_cast<double>(y) - disc.y;
+            const double room = limit - oy * oy; // for the square across
+            if (room > 0) {
+                // The widest |ox| whose square is below room.
+                double reach = std::min(std::ceil(std::sqrt(room)), static_cast<double>(R));
+                while (reach >= 0 && !(reach * reach + oy * oy < limit)) --reach;
+                const auto xmin = std::max<std::int64_t>(disc.x - static_cast<std::int64_t>(reach), 0);
+                const auto xmax = std::min<std::int64_t>(disc.x + static_cast<std::int64_t>(reach), in.maxX());
+                for (const Span s : region.spans(y)) {
+                    const int x0 = static_cast<int>(std::max<std::int64_t>(s.x0, xmin));
+                    const int x1 = static_cast<int>(std::min<std::int64_t>(s.x1, xmax + 1));
+                    if (x0 < x1) kernel(in.row(y), out.row(y), x0, x1, y);
+                }
+            }
+            progressDue(y - disc.y + R, 2 * R);
+        }
+    report(100);
+    return out;
+}
+
+} // namespace velara

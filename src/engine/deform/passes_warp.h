@@ -1,0 +1,76 @@
+// The calling patterns of the filters that move pixels: tile by tile, so that sources and targets stay in the cache.
+#pragma once
+#include "engine/deform/kernels_place.h"
+#include "engine/deform/kernels_warp.h"
+#include "engine/passes.h"
+#include <bit>
+
+namespace velara {
+
+/// The three channels of colour with the fourth byte of kept.
+inline Pixel withColour(Pixel colour, Pixel kept)
+{
+    constexpr std::uint32_t kColour = 0xFFFFFF; // as one word, which the compiler turns into vectors
+    const auto word = std::bit_cast<std::uint32_t>(colour) & kColour;
+    return std::bit_cast<Pixel>(word | (std::bit_cast<std::uint32_t>(kept) & ~kColour));
+}
+
+constexpr std::uint64_t kAllPlaces = ~std::uint64_t(0);
+
+/// Calls place(i) for each set bit i of places below n.
+template <class Place> void eachPlace(std::uint64_t places, int n, Place&& place)
+{
+    for (; places != 0; places &= places - 1)
+        if (const int i = std::countr_zero(places); i < n) place(i);
+}
+
+/// Cuts x0..x1-1 into runs: run(first, n) with n <= kPlaces.
+template <class Run> void eachRun(int x0, int x1, Run&& run)
+{
+    for (int x = x0; x < x1; x += kPlaces) run(x, std::min(kPlaces, x1 - x));
+}
+
+/// The targets of the box inside the picture, in tiles of so many rows. tile(out, x0, x1, y0, y1) writes all four bytes
+/// of each pixel of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
+template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
+{
+    constexpr int kSide = kPlaces;
+    const Bits in = bits_;
+    const Box box = insidePicture(GetBounds(0), in);
+    if (box.isEmpty()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
+        const int y1 = std::min(y0 + rows, box.ymax + 1);
+        for (int x0 = box.xmin; x0 <= box.xmax; x0 += kSide) tile(out, x0, std::min(x0 + kSide, box.xmax + 1), y0, y1);
+        for (int y = y0; y < y1; ++y) {
+            copyPixels(in.row(y), out.row(y), -Bits::kMargin, box.xmin);
+            copyPixels(in.row(y), out.row(y), box.xmax + 1, in.width() + Bits::kMargin);
+            progressDue(y, in.maxY());
+        }
+    }
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    report(100);
+    return out;
+}
+
+/// Each target of the box takes the pixel at the source position of map, if the region contains that position; else it
+/// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= kPlaces targets
+/// from (x0, y). Tiles of one row suit sources that lie near to their targets.
+template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows)
+{
+    const Bits in = bits_;
+    const SourcePixels source(in, region_);
+    return eachTile(rows, [&](Bits& out, int x0, int x1, int y0, int y1) {
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
+        for (int y = y0; y < y1; ++y) {
+            map(y, x0, x1 - x0, sx, sy);
+            source.take(sx, sy, x1 - x0, in.row(y) + x0, Clean, out.row(y) + x0);
+        }
+    });
+}
+
+} // namespace velara

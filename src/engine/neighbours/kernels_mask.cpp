@@ -1,0 +1,93 @@
+#include "engine/neighbours/kernels_mask.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/neighbours/kernels_mask.cpp"
+#include <hwy/foreach_target.h>
+
+#include "engine/pixels-inl.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+using ByteTag = hn::ScalableTag<std::uint8_t>;
+using ShortTag = hn::Repartition<std::int16_t, ByteTag>;
+using IntTag = hn::Repartition<std::int32_t, ByteTag>;
+using FloatTag = hn::RebindToFloat<IntTag>;
+using Shorts = hn::Vec<ShortTag>;
+using Ints = hn::Vec<IntTag>;
+
+/// The sums of one half of the channels. On x86 interleaving, pairwise sums and demoting stay within 128 bits each and
+/// undo each other.
+struct Sums {
+    Ints lower, upper;
+    HWY_INLINE void add(Shorts a, Shorts b, Shorts factors)
+    {
+        Ints unused = hn::Zero(IntTag());
+        lower = hn::ReorderWidenMulAccumulate(IntTag(), hn::InterleaveLower(ShortTag(), a, b), factors, lower, unused);
+        upper = hn::ReorderWidenMulAccumulate(IntTag(), hn::InterleaveUpper(ShortTag(), a, b), factors, upper, unused);
+    }
+};
+
+/// sum \ divisor: a half away from zero added, no quotient comes nearer to a whole number than the rounding errors
+/// reach.
+HWY_INLINE Ints divided(Ints sum, hn::Vec<FloatTag> reciprocal)
+{
+    const FloatTag d;
+    const auto v = hn::ConvertTo(d, sum);
+    return hn::ConvertTo(IntTag(), hn::Mul(hn::Add(v, hn::CopySignToAbs(hn::Set(d, 0.5f), v)), reciprocal));
+}
+
+HWY_INLINE Shorts finished(const Sums& sums, hn::Vec<FloatTag> reciprocal, Ints add)
+{
+    const auto v = hn::ReorderDemote2To(ShortTag(), hn::Add(divided(sums.lower, reciprocal), add),
+                                        hn::Add(divided(sums.upper, reciprocal), add));
+    return hn::Min(hn::Max(v, hn::Zero(ShortTag())), hn::Set(ShortTag(), std::int16_t{255}));
+}
+
+int maskPixels(SpanOf s, const MaskSum& sum)
+{
+    struct Pair {
+        std::ptrdiff_t first, second;
+        std::int32_t factors; // 16 bits each
+    };
+    std::vector<Pair> list;
+    for (std::size_t i = 0; i < sum.taps.size(); i += 2) {
+        const MaskTap a = sum.taps[i], b = i + 1 < sum.taps.size() ? sum.taps[i + 1] : MaskTap{a.offset, 0};
+        list.push_back({a.offset, b.offset, (a.factor & 0xFFFF) | static_cast<std::int32_t>(b.factor) * 0x10000});
+    }
+    const Pair *const first = list.data(), *const last = first + list.size();
+    const auto reciprocal = hn::Set(FloatTag(), 1.0f / static_cast<float>(sum.divisor));
+    alignas(16) const std::int32_t evenAdd[4] = {sum.add[0], sum.add[2], sum.add[0], sum.add[2]};
+    alignas(16) const std::int32_t oddAdd[4] = {sum.add[1], 0, sum.add[1], 0};
+    const auto addToEven = hn::LoadDup128(IntTag(), evenAdd), addToOdd = hn::LoadDup128(IntTag(), oddAdd);
+    constexpr ByteTag d8;
+    const int n = static_cast<int>(hn::Lanes(d8)) / 4;
+    int x = s.x0;
+    for (; x + n <= s.x1; x += n) {
+        const Pixel* p = s.from + x;
+        const auto zero = hn::Zero(IntTag());
+        Sums even{zero, zero}, odd{zero, zero};
+        for (const Pair* pair = first; pair != last; ++pair) {
+            const auto a = tap(ShortTag(), p + pair->first), b = tap(ShortTag(), p + pair->second);
+            const auto factors = hn::BitCast(ShortTag(), hn::Set(IntTag(), pair->factors));
+            even.add(a.split().even, b.split().even, factors);
+            odd.add(a.odd, b.odd, factors);
+        }
+        const Halves<Shorts> v{finished(even, reciprocal, addToEven), finished(odd, reciprocal, addToOdd)};
+        hn::StoreU(withFourthOf(d8, loadBytes(d8, p), joined(d8, v)), d8, reinterpret_cast<std::uint8_t*>(s.to + x));
+    }
+    return x;
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(maskPixels);
+int maskPixels(SpanOf s, const MaskSum& sum) { return HWY_DYNAMIC_DISPATCH(maskPixels)(s, sum); }
+
+} // namespace velara
+#endif

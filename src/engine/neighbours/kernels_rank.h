@@ -1,0 +1,16 @@
+// Vector kernels of the rank filters.
+#pragma once
+#include "engine/SpanOf.h"
+
+namespace velara {
+
+/// The pixel itself with its eight neighbours, with its four side neighbours, with its four diagonal neighbours.
+enum class RankWindow { Square, Sides, Diagonals };
+
+struct RankKernels {
+    void (*least)(SpanOf, RankWindow);
+    void (*greatest)(SpanOf, RankWindow);
+};
+const RankKernels& rankKernels();
+
+} // namespace velara

@@ -1,0 +1,127 @@
+// The calling patterns of the filters. A filter is the body of a loop that is written here.
+#pragma once
+#include "engine/cBitFilter.h"
+#include "pixels/RuntimeError.h"
+#include <algorithm>
+#include <cstring>
+#include <emmintrin.h>
+#include <type_traits>
+
+namespace velara {
+
+/// The part of box that lies inside the picture.
+inline Box insidePicture(const Box& box, const Bits& bits)
+{
+    return {std::max(box.xmin, 0), std::min(box.xmax, bits.maxX()), std::max(box.ymin, 0),
+            std::min(box.ymax, bits.maxY())};
+}
+
+/// Pictures of this many bytes do not fit into the cache.
+constexpr std::size_t kPastTheCache = 16 << 20;
+
+/// Copies the columns x0 up to but not including x1.
+inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    if (x1 > x0) std::memcpy(to + x0, from + x0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+}
+
+/// The same past the cache, in whole cache lines: for pictures that do not fit into it, whose other pixels are written
+/// so too.
+inline void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    constexpr int kLine = 16; // pixels
+    while (x0 < x1 && reinterpret_cast<std::uintptr_t>(to + x0) % (kLine * sizeof(Pixel)) != 0) {
+        to[x0] = from[x0];
+        ++x0;
+    }
+    for (; x0 + kLine <= x1; x0 += kLine)
+        for (int i = 0; i < kLine; i += 4)
+            _mm_stream_si128(reinterpret_cast<__m128i*>(to + x0 + i),
+                             _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + x0 + i)));
+    copyPixels(from, to, x0, x1);
+}
+
+/// Copies the rows y0 up to but not including y1, margin columns included.
+inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
+{
+    if (y1 > y0)
+        std::memcpy(to.row(y0) - Bits::kMargin, from.row(y0) - Bits::kMargin,
+                    sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
+}
+
+/// Zeroes the margin of two pixels around the picture.
+inline void clearMargin(Bits& bits)
+{
+    const auto columns = static_cast<std::size_t>(bits.stride());
+    for (const int y : {-2, -1, bits.height(), bits.height() + 1})
+        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * columns);
+    for (int y = 0; y < bits.height(); ++y) {
+        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
+        std::memset(bits.row(y) + bits.width(), 0, sizeof(Pixel) * Bits::kMargin);
+    }
+}
+
+/// OutOfRange for a size that no picture may have.
+inline void checkSize(int width, int height)
+{
+    if (!Bits::sizeAllowed(width, height)) throw RuntimeError(Fault::OutOfRange);
+}
+
+/// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.
+[[noreturn]] inline void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
+
+/// A kernel that leaves the fourth byte alone.
+inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
+{
+    for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
+}
+
+/// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the
+/// row's y as a fifth, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above
+/// and below lie bits().stride() pixels away. What lies outside of the box and of the region is copied. margin moves
+/// the box inward.
+template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
+{
+    const Bits in = bits_; // alive and unwritten, whatever a yield lets in
+    const Region region = region_;
+    const Box box = insidePicture(GetBounds(margin), in);
+    if (box.isEmpty()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    for (int y = box.ymin; y <= box.ymax; ++y) {
+        const Pixel* from = in.row(y);
+        Pixel* to = out.row(y);
+        int copied = -Bits::kMargin;
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
+            if (x0 >= x1) continue;
+            copy(from, to, copied, x0);
+            if constexpr (std::is_invocable_v<Kernel&, const Pixel*, Pixel*, int, int, int>)
+                kernel(from, to, x0, x1, y);
+            else
+                kernel(from, to, x0, x1);
+            copied = x1;
+        }
+        copy(from, to, copied, in.width() + Bits::kMargin);
+        progressDue(y, in.maxY());
+    }
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    report(100);
+    return out;
+}
+
+/// A pass over the whole picture that writes nothing: row(source row) once a row, with progress and the final report.
+template <class RowFunction> void cBitFilter::eachRow(const Bits& in, RowFunction&& row)
+{
+    for (int y = 0; y < in.height(); ++y) {
+        row(in.row(y));
+        progressDue(y, in.maxY());
+    }
+    report(100);
+}
+
+} // namespace velara

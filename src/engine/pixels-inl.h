@@ -1,0 +1,130 @@
+// Pixels as vectors, and the loop over the pixels of a span. For kernel files only: included once a target.
+#if defined(VELARA_PIXELS_INL) == defined(HWY_TARGET_TOGGLE)
+#ifdef VELARA_PIXELS_INL
+#undef VELARA_PIXELS_INL
+#else
+#define VELARA_PIXELS_INL
+#endif
+
+#include "engine/SpanOf.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+/// The byte tag of as many lanes as d has.
+template <class D> using Bytes = hn::Rebind<std::uint8_t, D>;
+
+template <class D> HWY_INLINE hn::Vec<D> loadBytes(D d, const Pixel* p)
+{
+    return hn::LoadU(d, reinterpret_cast<const std::uint8_t*>(p));
+}
+
+/// The channels of the pixels from p on, one a lane of d.
+template <class D> HWY_INLINE hn::Vec<D> channels(D d, const Pixel* p)
+{
+    return hn::PromoteTo(d, loadBytes(Bytes<D>(), p));
+}
+
+/// The channels of pixels in signed 16-bit lanes: even has blue and red, odd has green and the fourth byte of each.
+template <class V> struct Halves {
+    V even, odd;
+};
+
+template <class V, class F> HWY_INLINE Halves<V> each(const Halves<V>& h, F f) { return {f(h.even), f(h.odd)}; }
+
+template <class V, class F> HWY_INLINE Halves<V> each(const Halves<V>& a, const Halves<V>& b, F f)
+{
+    return {f(a.even, b.even), f(a.odd, b.odd)};
+}
+
+/// A weighted sum of pixels, its lanes still in one: whole = even + 256 * odd, modulo 2^16.
+template <class V> struct Taps {
+    V whole, odd;
+    friend HWY_INLINE Taps operator+(const Taps& a, const Taps& b)
+    {
+        return {hn::Add(a.whole, b.whole), hn::Add(a.odd, b.odd)};
+    }
+    friend HWY_INLINE Taps operator-(const Taps& a, const Taps& b)
+    {
+        return {hn::Sub(a.whole, b.whole), hn::Sub(a.odd, b.odd)};
+    }
+    template <int kBits> HWY_INLINE Taps times() const
+    {
+        return {hn::ShiftLeft<kBits>(whole), hn::ShiftLeft<kBits>(odd)};
+    }
+    HWY_INLINE Halves<V> split() const { return {hn::Sub(whole, hn::ShiftLeft<8>(odd)), odd}; }
+};
+
+/// The pixels from p on; d has signed 16-bit lanes, two a pixel.
+template <class D> HWY_INLINE Taps<hn::Vec<D>> tap(D d, const Pixel* p)
+{
+    const hn::RebindToUnsigned<D> du;
+    const auto v = hn::BitCast(du, loadBytes(hn::Repartition<std::uint8_t, D>(), p));
+    return {hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(v))};
+}
+
+/// Back to bytes; all lanes must be within 0..255.
+template <class D8, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, const Halves<V>& h)
+{
+    return hn::BitCast(d8, hn::Or(h.even, hn::ShiftLeft<8>(h.odd)));
+}
+
+/// Back to bytes, limited to 0..255.
+template <class D8, class V> HWY_INLINE hn::Vec<D8> clampedToBytes(D8 d8, const Halves<V>& h)
+{
+    const hn::Repartition<std::int16_t, D8> d;
+    return joined(
+        d8, each(h, [&](V v) HWY_ATTR { return hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, std::int16_t{255})); }));
+}
+
+/// The sum of the three channels of each pixel, a 32-bit lane a pixel. On x86 the pairs are neighbours.
+template <class D, class V> HWY_INLINE auto sumOfChannels(D d, const Halves<V>& h)
+{
+    const hn::Repartition<std::int32_t, D> d32;
+    auto unused = hn::Zero(d32);
+    const auto redBlue = hn::ReorderWidenMulAccumulate(d32, h.even, hn::Set(d, std::int16_t{1}), hn::Zero(d32), unused);
+    return hn::ReorderWidenMulAccumulate(d32, h.odd, hn::BitCast(d, hn::Set(d32, 1)), redBlue, unused);
+}
+
+/// colour with the fourth bytes of source.
+template <class D, class V = hn::Vec<D>> HWY_INLINE V withFourthOf(D d, V source, V colour)
+{
+    const auto three = hn::BitCast(d, hn::Set(hn::Repartition<std::uint32_t, D>(), 0x00FFFFFFu));
+    return hn::Or(hn::And(three, colour), hn::AndNot(three, source));
+}
+
+/// Spans of this many pixels are written past the cache: such pictures do not fit into it. Whole cache lines alone, as
+/// parts of a line cost more than they save.
+constexpr int kStreamFrom = 1024;
+constexpr std::uintptr_t kCacheLine = 64;
+constexpr int kLinePixels = 16;
+
+/// Writes the pixels of the span. body(d, x) gives the bytes of the pixels from x on, four lanes of d a pixel; d has
+/// lanes of type T, as many as a vector has or, at the ends of the span, those of one pixel.
+template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
+{
+    const hn::ScalableTag<T> many;
+    const hn::CappedTag<T, 4> one;
+    const int n = static_cast<int>(hn::Lanes(many)) / 4;
+    const auto at = [&](int x) HWY_ATTR { return reinterpret_cast<std::uint8_t*>(s.to + x); };
+    const auto single = [&](int x) HWY_ATTR { hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x)); };
+    int x = s.x0;
+    if (s.x1 - s.x0 >= kStreamFrom) {
+        const Pixel* ahead = s.from + 2 * s.stride; // the row after the one that the kernels are about to read first
+        while (reinterpret_cast<std::uintptr_t>(at(x)) % kCacheLine != 0) single(x++);
+        for (; x + kLinePixels <= s.x1; x += kLinePixels) {
+            __builtin_prefetch(ahead + x);
+            for (int i = 0; i < kLinePixels; i += n) hn::Stream(body(many, x + i), Bytes<decltype(many)>(), at(x + i));
+        }
+    }
+    for (; x + n <= s.x1; x += n) hn::StoreU(body(many, x), Bytes<decltype(many)>(), at(x));
+    for (; x < s.x1; ++x) single(x);
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif

@@ -1,0 +1,65 @@
+// The sums of the pixels in each cell of a row of cells.
+#pragma once
+#include "engine/stylise/kernels_cells.h"
+#include <algorithm>
+#include <vector>
+
+namespace velara {
+
+/// Cells of `side` columns, a new one every `step` columns from `origin` on; they may overlap.
+class CellSums {
+  public:
+    CellSums(int width, std::int64_t origin, std::int64_t step, std::int64_t side)
+        : width_(width), origin_(origin), step_(step), side_(side), columns_(4 * static_cast<std::size_t>(width)),
+          cells_(static_cast<std::size_t>((width - 1 - origin) / step + 1))
+    {
+    }
+
+    void clear() { std::ranges::fill(cells_, CellSum()); }
+    /// The pixels x0..x1-1 of the row at from, inside the picture.
+    void add(const Pixel* from, int x0, int x1)
+    {
+        cellKernels().addColumns(from + x0, columns_.data() + 4 * static_cast<std::size_t>(x0), x1 - x0);
+    }
+    /// Once after each row, so that the columns' 16 bits never overflow.
+    void rowDone()
+    {
+        if (++rows_ == kMostRows) finish();
+    }
+    /// Makes the cells complete.
+    void finish()
+    {
+        if (rows_ == 0) return;
+        std::size_t k = 0;
+        const auto cut = [&](std::size_t end) { // the cells that stick out of the picture
+            for (; k < end; ++k) {
+                const std::int64_t start = startOf(k), x0 = std::max<std::int64_t>(start, 0);
+                const std::int64_t x1 = std::min<std::int64_t>(start + side_, width_);
+                if (x0 < x1) cellKernels().addCells(columns_.data() + 4 * x0, step_, x1 - x0, &cells_[k], 1);
+            }
+        };
+        std::size_t whole = 0, last = cells_.size();
+        while (whole < last && startOf(whole) < 0) ++whole;
+        while (last > whole && startOf(last - 1) + side_ > width_) --last;
+        cut(whole);
+        if (whole < last)
+            cellKernels().addCells(columns_.data() + 4 * startOf(whole), step_, side_, &cells_[whole], last - whole);
+        k = last;
+        cut(cells_.size());
+        std::ranges::fill(columns_, std::uint16_t{0});
+        rows_ = 0;
+    }
+    const std::vector<CellSum>& cells() const { return cells_; }
+
+  private:
+    std::int64_t startOf(std::size_t cell) const { return origin_ + static_cast<std::int64_t>(cell) * step_; }
+
+    static constexpr int kMostRows = 65535 / 255;
+    const int width_;
+    const std::int64_t origin_, step_, side_;
+    std::vector<std::uint16_t> columns_;
+    std::vector<CellSum> cells_;
+    int rows_ = 0;
+};
+
+} // namespace velara

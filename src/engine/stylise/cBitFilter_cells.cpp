@@ -1,0 +1,308 @@
+// Filters that work cell by cell: blocks of one colour, and dots on black.
+#include "engine/passes.h"
+#include "engine/stylise/CellSums.h"
+#include "pixels/RuntimeError.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+constexpr Pixel kBlack = {{0, 0, 0, 0}};
+constexpr std::uint64_t kExactSums = 1 << 23; // quotients of smaller sums are safe in singles
+
+/// The colours of a row of blocks, and the colour that is held from pixel to pixel: it is renewed at the start of a
+/// block alone, so a span that begins inside a block goes on with the colour of the block before, in the row or in the
+/// last.
+class Blocks {
+  public:
+    Blocks(const Bits& in, const Region& region, int size)
+        : in_(in), region_(region), size_(size), sums_(in.width(), 0, size, size), means_(sums_.cells().size()),
+          line_(static_cast<std::size_t>(in.width()))
+    {
+    }
+
+    void span(const Pixel* from, Pixel* to, int x0, int x1, int y)
+    {
+        if (y / size_ != band_) mix(y / size_);
+        const int start = static_cast<int>(std::min<std::int64_t>((std::int64_t{x0} + size_ - 1) / size_ * size_, x1));
+        for (int x = x0; x < start; ++x) to[x] = {{held_.c[0], held_.c[1], held_.c[2], from[x].c[3]}};
+        if (start == x1) return;
+        cellKernels().paintLine({from, in_.stride(), to, start, x1}, line_.data());
+        held_ = line_[static_cast<std::size_t>(x1) - 1];
+    }
+
+  private:
+    /// The means of the blocks that selected pixels of the band may ask for, the region being ignored in them.
+    void mix(int band)
+    {
+        band_ = band;
+        const int y0 = band * size_,
+                  y1 = static_cast<int>(std::min<std::int64_t>(std::int64_t{y0} + size_, in_.height()));
+        int x0 = in_.width(), x1 = 0;
+        for (int y = y0; y < y1; ++y) {
+            const auto spans = region_.spans(y);
+            if (spans.empty()) continue;
+            x0 = std::clamp(spans.front().x0, 0, x0);
+            x1 = std::max(x1, std::min(spans.back().x1, in_.width()));
+        }
+        if (x0 >= x1) return;
+        x0 = x0 / size_ * size_;
+        x1 = static_cast<int>(std::min<std::int64_t>((std::int64_t{x1} + size_ - 1) / size_ * size_, in_.width()));
+        sums_.clear();
+        for (int y = y0; y < y1; ++y) {
+            sums_.add(in_.row(y), x0, x1);
+            sums_.rowDone();
+        }
+        sums_.finish();
+        const auto first = static_cast<std::size_t>(x0 / size_), last = static_cast<std::size_t>((x1 - 1) / size_);
+        average(first, last); // the last one may be narrower
+        average(last, last + 1);
+        for (std::size_t k = first; k <= last; ++k)
+            for (const int end = size_ < x1 - x0 ? x0 + size_ : x1; x0 < end; ++x0)
+                line_[static_cast<std::size_t>(x0)] = means_[k];
+    }
+
+    /// The means of the blocks first to last-1, all of the same number of pixels.
+    void average(std::size_t first, std::size_t last)
+    {
+        if (first == last) return;
+        const CellSum* cells = sums_.cells().data();
+        const std::uint64_t count = cells[first].count();
+        if (255 * count < kExactSums)
+            return cellKernels().meansOf(cells + first, static_cast<std::int32_t>(count), true, &means_[first],
+                                         last - first);
+        for (std::size_t k = first; k < last; ++k)
+            for (int c = 0; c < 3; ++c) means_[k].c[c] = static_cast<std::uint8_t>(cells[k].c[c] / count);
+    }
+
+    const Bits in_;
+    const Region region_;
+    const int size_;
+    CellSums sums_;
+    std::vector<Pixel> means_, line_; // of the blocks, and of the pixels of a row
+    Pixel held_ = kBlack;
+    int band_ = -1;
+};
+
+} // namespace
+
+Bits cBitFilter::PIXELIZE(int Size)
+{
+    if (Size == 0) return eachSpan(0, divideByZero);
+    if (Size < 0) return eachSpan(0, blacken); // the blocks have no pixels
+    if (Size == 1) return eachSpan(0, copyPixels);
+    return eachSpan(0, [blocks = Blocks(bits_, region_, Size)](const Pixel* from, Pixel* to, int x0, int x1,
+                                                               int y) mutable { blocks.span(from, to, x0, x1, y); });
+}
+
+namespace {
+
+/// How bright a spot is at an offset from its centre.
+class Spot {
+  public:
+    Spot(int radius, int limit) : radius_(radius), limit_(limit)
+    {
+        if (radius > kMostTabled || limit <= 0) return; // beyond the dialogs, and too large for tables
+        std::vector<float> factors(2 * static_cast<std::size_t>(radius * radius) + 1, kNone);
+        for (int oy = -radius; oy < radius; ++oy)
+            for (int ox = -radius; ox < radius; ++ox) {
+                float& factor = factors[static_cast<std::size_t>(ox * ox + oy * oy)];
+                if (factor == kNone) factor = exactFactor(ox, oy);
+                rows_.push_back(factor);
+            }
+        if (std::ranges::find(rows_, kNone) != rows_.end()) rows_.clear();
+    }
+
+    /// True when round(s * factor) in singles gives the byte of each sum s from 0 to 255.
+    bool isTabled() const { return !rows_.empty(); }
+    /// The factors at the offsets -radius to radius-1 in the row oy.
+    const float* factors(std::int64_t oy) const { return rows_.data() + (oy + radius_) * 2 * radius_; }
+
+    /// The byte by definition. Overflow where a byte does not hold it.
+    std::uint8_t at(std::int64_t ox, std::int64_t oy, double sum) const
+    {
+        const std::int64_t distance = ox * ox + oy * oy;
+        return distance > limit_ ? std::uint8_t{0} : toByte(brightness(distance) * sum);
+    }
+
+  private:
+    static constexpr int kMostTabled = 32;
+    static constexpr float kNone = -1;
+
+    float brightness(std::int64_t distance) const
+    {
+        return static_cast<float>(1 - quotient(static_cast<double>(distance), limit_));
+    }
+
+    /// Products in singles may round a value beside a half onto it. A neighbour of the brightness that gives all 256
+    /// bytes serves as well.
+    float exactFactor(int ox, int oy) const
+    {
+        const std::int64_t distance = ox * ox + oy * oy;
+        if (distance > limit_) return 0;
+        const float f = brightness(distance), up = std::nextafter(f, 2.0f), down = std::nextafter(f, 0.0f);
+        for (const float factor : {f, up, down, std::nextafter(up, 2.0f), std::nextafter(down, 0.0f)}) {
+            int sum = 0;
+            while (sum < 256 && std::nearbyint(static_cast<float>(sum) * factor) == at(ox, oy, sum)) ++sum;
+            if (sum == 256) return factor;
+        }
+        return kNone;
+    }
+
+    const int radius_, limit_;
+    std::vector<float> rows_;
+};
+
+/// Cells of 2*radius+1 pixels a side, 2*radius apart, from the corner of the box on. A later cell paints over the
+/// shared row and column of an earlier one, so each pixel gets its byte from the last cell that has it.
+class Dots {
+  public:
+    Dots(const Bits& in, const Region& region, const Box& box, int radius, int limit, float gain)
+        : in_(in), region_(region), box_(box), radius_(radius), step_(2 * std::int64_t{radius}), gain_(gain),
+          spot_(radius, limit), sums_(in.width(), box.xmin, step_, step_ + 1), means_(sums_.cells().size()),
+          line_(static_cast<std::size_t>(in.width())), factors_(line_.size())
+    {
+    }
+
+    void span(const Pixel* from, Pixel* to, int x0, int x1, int y)
+    {
+        const std::int64_t band = (std::int64_t{y} - box_.ymin) / step_;
+        if (band != band_) mix(band);
+        const std::int64_t oy = std::int64_t{y} - box_.ymin - band * step_ - radius_;
+        if (!plain_) return literally(from, to, x0, x1, oy);
+        if (y != factorsOf_) spread(oy);
+        factorsOf_ = y;
+        cellKernels().paintScaled({from, in_.stride(), to, x0, x1}, line_.data(), factors_.data());
+    }
+
+  private:
+    std::int64_t leftOf(std::size_t cell) const { return box_.xmin + static_cast<std::int64_t>(cell) * step_; }
+    int firstColumn() const { return std::max(box_.xmin, 0); }
+    int endColumn() const { return std::min(box_.xmax + 1, in_.width()); }
+
+    void literally(const Pixel* from, Pixel* to, int x0, int x1, std::int64_t oy) const
+    {
+        for (int x = x0; x < x1; ++x) {
+            const auto cell = static_cast<std::size_t>((std::int64_t{x} - box_.xmin) / step_);
+            to[x] = spotPixel(cell, x - leftOf(cell) - radius_, oy);
+            to[x].c[3] = from[x].c[3];
+        }
+    }
+
+    Pixel spotPixel(std::size_t cell, std::int64_t ox, std::int64_t oy) const
+    {
+        const CellSum& sum = sums_.cells()[cell];
+        const std::int32_t parts = partsOf(sum.count());
+        Pixel out{};
+        for (int c = 0; c < 3; ++c) {
+            const auto s = static_cast<double>(sum.c[c]);
+            out.c[c] = spot_.at(ox, oy, parts > 0 ? std::min(roundToEven(s / parts), 255.0) : s);
+        }
+        return out;
+    }
+
+    std::int32_t partsOf(std::uint64_t count) const { return roundEven(quotient(static_cast<double>(count), gain_)); }
+
+    /// The colours of a row of cells. plain_ tells whether the line of them can be painted in singles.
+    void mix(std::int64_t band)
+    {
+        band_ = band;
+        const std::int64_t top = box_.ymin + band * step_, end = std::min<std::int64_t>(top + step_ + 1, in_.height());
+        sums_.clear();
+        for (int y = static_cast<int>(std::max<std::int64_t>(top, 0)); y < end; ++y) {
+            for (const Span s : region_.spans(y)) {
+                const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, in_.width());
+                if (x0 < x1) sums_.add(in_.row(y), x0, x1);
+            }
+            sums_.rowDone();
+        }
+        sums_.finish();
+        plain_ = spot_.isTabled();
+        const auto& cells = sums_.cells();
+        for (std::size_t i = 0; i < cells.size();) { // runs of cells with equally many pixels
+            std::size_t next = i;
+            while (next < cells.size() && cells[next].count() == cells[i].count()) ++next;
+            mixRun(i, next, top);
+            i = next;
+        }
+        if (!plain_) return;
+        auto cell = static_cast<std::size_t>((std::int64_t{firstColumn()} - box_.xmin) / step_);
+        for (int x = firstColumn(); x < endColumn(); ++cell)
+            for (const auto stop = std::min<std::int64_t>(leftOf(cell) + step_, endColumn()); x < stop; ++x)
+                line_[static_cast<std::size_t>(x)] = means_[cell];
+    }
+
+    /// The cells first to last-1, all of the same number of pixels.
+    void mixRun(std::size_t first, std::size_t last, std::int64_t top)
+    {
+        const auto& cells = sums_.cells();
+        const std::uint64_t count = cells[first].count();
+        const std::int32_t parts = partsOf(count);
+        if (count * 255 >= kExactSums) plain_ = false;
+        if (parts > 0) {
+            if (plain_) cellKernels().meansOf(&cells[first], parts, false, &means_[first], last - first);
+            return;
+        }
+        // Too few pixels for one part: the sums stay as they are.
+        for (; first < last; ++first) {
+            const std::uint64_t* c = cells[first].c;
+            for (int i = 0; i < 3; ++i) means_[first].c[i] = static_cast<std::uint8_t>(c[i]);
+            if (std::max({c[0], c[1], c[2]}) < 256) continue;
+            plain_ = false;
+            checkSharedEdges(first, leftOf(first), top);
+        }
+    }
+
+    /// A sum that no byte holds raises its fault even where the next cell paints over it.
+    void checkSharedEdges(std::size_t cell, std::int64_t left, std::int64_t top) const
+    {
+        for (std::int64_t i = 0; i <= step_; ++i)
+            for (const auto& [x, y] : {std::pair{left + step_, top + i}, std::pair{left + i, top + step_}})
+                if (x >= 0 && y >= 0 && x < in_.width() && y < in_.height() &&
+                    region_.contains(static_cast<int>(x), static_cast<int>(y)))
+                    spotPixel(cell, x - left - radius_, y - top - radius_);
+    }
+
+    /// The spot's row, repeated over the columns of the box.
+    void spread(std::int64_t oy)
+    {
+        const float* row = spot_.factors(oy);
+        const auto period = static_cast<int>(step_), x0 = firstColumn(), x1 = endColumn();
+        const auto phase = static_cast<int>((std::int64_t{x0} - box_.xmin) % step_);
+        float* to = factors_.data() + x0;
+        int done = std::min(period, x1 - x0);
+        for (int i = 0; i < done; ++i) to[i] = row[(i + phase) % period];
+        for (; done < x1 - x0; done *= 2) std::copy_n(to, std::min(done, x1 - x0 - done), to + done);
+    }
+
+    const Bits in_;
+    const Region region_;
+    const Box box_;
+    const std::int64_t radius_, step_;
+    const double gain_;
+    const Spot spot_;
+    CellSums sums_;
+    std::vector<Pixel> means_, line_; // of the cells, and of the pixels of a row
+    std::vector<float> factors_;
+    bool plain_ = false;
+    std::int64_t band_ = -1;
+    int factorsOf_ = -1;
+};
+
+} // namespace
+
+Bits cBitFilter::Halftone(int Radius, int Definition, int Intensity)
+{
+    const double radius = Radius;
+    const std::int32_t limit = roundEven(quotient(radius + Definition, radius) * radius * radius);
+    const auto gain = static_cast<float>((Intensity + 100.0) / 100);
+    const Box box = GetBounds(0);
+    if (Radius < 0 || insidePicture(box, bits_).isEmpty()) return eachSpan(0, copyPixels);
+    if (gain == 0) throw RuntimeError(Fault::DivisionByZero); // each cell divides, those without a pixel too
+    return eachSpan(
+        0, [dots = Dots(bits_, region_, box, Radius, limit, gain)](const Pixel* from, Pixel* to, int x0, int x1,
+                                                                   int y) mutable { dots.span(from, to, x0, x1, y); });
+}
+
+} // namespace velara

@@ -1,0 +1,93 @@
+// Gradients between two points, along a line or around the first one.
+#include "engine/deform/passes_warp.h"
+#include "engine/stylise/kernels_generate.h"
+#include "pixels/numbers.h"
+
+namespace velara {
+
+namespace {
+
+constexpr Colour kOwnColour = -1; // an end of the ramp that takes each pixel's own colour
+
+/// What both gradients have in common: the distance between the points, the bands and the blend.
+struct Ramp {
+    std::int32_t R;
+    float frequency;
+    RampColours colours;
+
+    Ramp(double distance, Colour color1, Colour color2, int Opacity, int Repeat)
+        : R(roundEven(distance)), frequency(static_cast<float>((Repeat - 1.0) * kPi))
+    {
+        const float opacity = static_cast<float>(Opacity / 100.0), rest = static_cast<float>(1.0 - opacity);
+        colours = {{}, {}, color1 == kOwnColour, color2 == kOwnColour, opacity, rest};
+        for (int c = 0; c < 3; ++c) {
+            colours.first[c] = part(color1, c);
+            colours.second[c] = part(color2, c);
+        }
+        if (R < frequency) frequency = static_cast<float>(R);
+    }
+
+    /// Blends n <= kPlaces pixels at their places t on the ramp, which it changes.
+    void blend(float* t, const Pixel* from, int n, Pixel* to) const
+    {
+        if (frequency > 0)
+            eachPlace(squareSines(frequency, n, t), n, [&](int i) {
+                const double sine = std::sin(static_cast<double>(frequency) * t[i]);
+                t[i] = static_cast<float>(sine * sine);
+            });
+        for (int i = 0; i < n; ++i) t[i] = t[i] > 1 ? 1 : t[i] < 0 ? 0 : t[i];
+        if (!rampPixels(colours, from, t, n, to)) throw RuntimeError(Fault::Overflow);
+    }
+    static int part(Colour colour, int channel) { return colour >> (16 - 8 * channel) & 255; }
+};
+
+double distance(int X1, int Y1, int X2, int Y2)
+{
+    const double dx = static_cast<double>(X2) - X1, dy = static_cast<double>(Y2) - Y1;
+    return std::sqrt(dx * dx + dy * dy);
+}
+
+/// The direction of the line, in single, from -pi/2 to two turns.
+float direction(double dx, double dy)
+{
+    double a = dx != 0 ? std::atan(dy / dx) : (dy > 0 ? 1 : -1) * 90 * kDegreesToRadians;
+    if (dx < 0)
+        a += kPi;
+    else if (dy < 0)
+        a += kTwoPi;
+    return static_cast<float>(a);
+}
+
+} // namespace
+
+Bits cBitFilter::GradientLinear(int X1, int Y1, int X2, int Y2, Colour Color1, Colour Color2, int Opacity, int Repeat)
+{
+    const double length = distance(X1, Y1, X2, Y2);
+    if (length == 0) return bits_;
+    const Ramp ramp(length, Color1, Color2, Opacity, Repeat);
+    const double a = direction(static_cast<double>(X2) - X1, static_cast<double>(Y2) - Y1);
+    const float cr = static_cast<float>(std::cos(a) / ramp.R), sr = static_cast<float>(std::sin(a) / ramp.R);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        eachRun(x0, x1, [&](int x, int n) {
+            float t[kPlaces];
+            linearRamp(static_cast<double>(x) - X1, static_cast<double>(y) - Y1, sr, cr, n, t);
+            ramp.blend(t, from + x, n, to + x);
+        });
+    });
+}
+
+Bits cBitFilter::GradientCircular(int X1, int Y1, int X2, int Y2, Colour Color1, Colour Color2, int Opacity, int Repeat)
+{
+    const double length = distance(X1, Y1, X2, Y2);
+    if (length == 0) return bits_;
+    const Ramp ramp(length, Color1, Color2, Opacity, Repeat);
+    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+        eachRun(x0, x1, [&](int x, int n) {
+            float t[kPlaces];
+            circularRamp(static_cast<double>(x) - X1, static_cast<double>(y) - Y1, ramp.R, n, t);
+            ramp.blend(t, from + x, n, to + x);
+        });
+    });
+}
+
+} // namespace velara

@@ -1,0 +1,51 @@
+// A picture laid over the picture, tiled or once.
+#include "engine/passes.h"
+#include "engine/stylise/kernels_generate.h"
+
+namespace velara {
+
+namespace {
+
+/// The colour as the low bytes of a pixel's word, or -1.
+std::int32_t keyWord(Colour colour)
+{
+    return colour == -1 ? -1 : redOf(colour) << 16 | greenOf(colour) << 8 | blueOf(colour);
+}
+
+} // namespace
+
+Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, int Transparency, Colour KeyColor)
+{
+    const Bits in = bits_, overlay = Overlay;
+    const Region region = region_;
+    if (overlay.isNull()) throw RuntimeError(Fault::OutOfRange);
+    const float a = static_cast<float>(Transparency / 100.0), b = static_cast<float>(1.0 - a);
+    const std::int32_t key = keyWord(KeyColor);
+    // Without Tiled the step leads past the picture, which makes one pass.
+    const std::int64_t stepX = Tiled ? overlay.width() : std::int64_t(in.maxX()) - Left + 1;
+    const std::int64_t stepY = Tiled ? overlay.height() : std::int64_t(in.maxY()) - Top + 1;
+    const auto firstFrom = [](std::int64_t origin, std::int64_t step) { // skips the tiles before the picture
+        return origin < 0 && step > 0 ? origin + -origin / step * step : origin;
+    };
+    Bits out = in;
+    for (std::int64_t Y = Tiled ? firstFrom(Top, stepY) : Top; Y <= in.maxY(); Y += stepY) {
+        const int y0 = static_cast<int>(std::max<std::int64_t>(Y, 0));
+        const int y1 = static_cast<int>(std::min<std::int64_t>(Y + overlay.height(), in.height()));
+        for (int y = y0; y < y1; ++y) {
+            Pixel* to = out.row(y);
+            for (const Span s : region.spans(y))
+                for (std::int64_t X = Tiled ? firstFrom(Left, stepX) : Left; X <= in.maxX(); X += stepX) {
+                    const int x0 = static_cast<int>(std::max<std::int64_t>({X, s.x0, 0}));
+                    const int x1 = static_cast<int>(std::min<std::int64_t>({X + overlay.width(), s.x1, in.width()}));
+                    const Pixel* over = overlay.row(static_cast<int>(y - Y));
+                    if (x0 < x1 && !overlayPixels(in.row(y) + x0, over + (x0 - X), a, b, key, x1 - x0, to + x0))
+                        throw RuntimeError(Fault::Overflow);
+                }
+        }
+        progressDue(Y - Top, std::int64_t(in.maxY()) - Top);
+    }
+    report(100);
+    return out;
+}
+
+} // namespace velara

@@ -1,0 +1,109 @@
+#include "engine/stylise/kernels_quadrants.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/stylise/kernels_quadrants.cpp"
+#include <hwy/foreach_target.h>
+
+#include "engine/pixels-inl.h"
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+template <class D8> HWY_INLINE void storeAt(D8 d8, hn::Vec<D8> v, Pixel* p)
+{
+    hn::StoreU(v, d8, reinterpret_cast<std::uint8_t*>(p));
+}
+
+/// f(pixel) summed over the window around p. f gives bytes; the sums are 16 bits wide.
+template <class D8, class F> HWY_INLINE auto windowSum(D8 d8, const Pixel* p, std::ptrdiff_t stride, F f)
+{
+    const hn::Repartition<std::int16_t, D8> d;
+    const hn::RebindToUnsigned<decltype(d)> du;
+    const auto at = [&](const Pixel* q) HWY_ATTR {
+        const auto v = hn::BitCast(du, f(loadBytes(d8, q)));
+        return Taps<hn::Vec<decltype(d)>>{hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(v))};
+    };
+    const auto three = [&](const Pixel* q) HWY_ATTR { return at(q - 1) + at(q) + at(q + 1); };
+    return (three(p - stride) + three(p) + three(p + stride)).split();
+}
+
+template <class D8> HWY_INLINE void windowAt(D8 d8, const Pixel* p, std::ptrdiff_t stride, int x, WindowRow& to)
+{
+    const hn::Repartition<std::int16_t, D8> d;
+    const hn::RebindToUnsigned<decltype(d)> du;
+    using V = hn::Vec<decltype(d)>;
+    const auto sum = windowSum(d8, p, stride, [](auto v) HWY_ATTR { return v; });
+    const auto mean = each(sum, [&](V v) HWY_ATTR { // 7282 / 2^16 is a ninth, exact for all sums below 2^15
+        return hn::BitCast(d, hn::MulHigh(hn::BitCast(du, v), hn::Set(du, std::uint16_t{7282})));
+    });
+    const auto bytes = joined(d8, mean);
+    // What lies above the mean outweighs what lies below it by the remainder of its division.
+    const auto above = windowSum(d8, p, stride, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); });
+    const auto remainder =
+        each(sum, mean, [&](V s, V m) HWY_ATTR { return hn::Sub(s, hn::Add(hn::ShiftLeft<3>(m), m)); });
+    const auto distances = each(above, remainder, [](V a, V r) HWY_ATTR { return hn::Sub(hn::Add(a, a), r); });
+    storeAt(d8, bytes, to.means() + x);
+    storeAt(d8, hn::BitCast(d8, distances.even), to.even() + x);
+    storeAt(d8, hn::BitCast(d8, distances.odd), to.odd() + x);
+}
+
+void windows(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& to)
+{
+    const hn::ScalableTag<std::uint8_t> many;
+    const hn::CappedTag<std::uint8_t, 4> one;
+    const int n = static_cast<int>(hn::Lanes(many)) / 4;
+    int x = x0;
+    for (; x + n <= x1; x += n) windowAt(many, from + x, stride, x, to);
+    for (; x < x1; ++x) windowAt(one, from + x, stride, x, to);
+}
+
+void choose(SpanOf s, const WindowRow& above, const WindowRow& below, bool four)
+{
+    const WindowRow* const rows[] = {&above, &above, &below, &below};
+    const int count = four ? 4 : 3;
+    struct Corner {
+        const Pixel *means, *even, *odd;
+    } corners[4];
+    for (int i = 0; i < 4; ++i) {
+        const int dx = i % 2 == 0 ? -1 : 1;
+        corners[i] = {rows[i]->means() + dx, rows[i]->even() + dx, rows[i]->odd() + dx};
+    }
+    forPixels<std::uint8_t>(s, [=](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::int16_t, decltype(d8)> d;
+        using V = hn::Vec<decltype(d)>;
+        const auto distances = [&](const Corner& c) HWY_ATTR {
+            return Halves<V>{hn::BitCast(d, loadBytes(d8, c.even + x)), hn::BitCast(d, loadBytes(d8, c.odd + x))};
+        };
+        auto best = distances(corners[0]);
+        auto means = tap(d, corners[0].means + x).split();
+        const auto against = [&](const Corner& c) HWY_ATTR {
+            const auto other = distances(c), otherMeans = tap(d, c.means + x).split();
+            means.even = hn::IfThenElse(hn::Lt(other.even, best.even), otherMeans.even, means.even);
+            means.odd = hn::IfThenElse(hn::Lt(other.odd, best.odd), otherMeans.odd, means.odd);
+            best = each(best, other, [](V a, V b) HWY_ATTR { return hn::Min(a, b); });
+        };
+        against(corners[1]);
+        against(corners[2]);
+        if (count == 4) against(corners[3]);
+        return withFourthOf(d8, loadBytes(d8, s.from + x), joined(d8, means));
+    });
+}
+
+const QuadrantKernels& quadrantKernelTable()
+{
+    static constexpr QuadrantKernels table = {windows, choose};
+    return table;
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace velara {
+
+HWY_EXPORT(quadrantKernelTable);
+const QuadrantKernels& quadrantKernels() { return HWY_DYNAMIC_DISPATCH(quadrantKernelTable)(); }
+
+} // namespace velara
+#endif

@@ -1,0 +1,268 @@
+#include "fileio/SetupStore.h"
+#include "fileio/fileBytes.h"
+#include "seams/Platform.h"
+#include <QFile>
+#include <algorithm>
+#include <cstring>
+#include <type_traits>
+
+namespace velara {
+
+namespace {
+
+/// A default: a number, growing by step from one element of an array to the next, or a text.
+struct Default {
+    template <class Number>
+    requires std::is_arithmetic_v<Number>
+    constexpr Default(Number number, double step = 0) : number(number), step(step) {}
+    constexpr Default(const char* text) : text(text) {}
+    double number = 0, step = 0;
+    const char* text = "";
+};
+
+// --- One element in the file. Numbers are little-endian, as in memory here; a flag is 16 bits, -1 or 0; a text is
+// padded with blanks.
+
+template <class T> void put(T value, std::uint8_t* to, int) { std::memcpy(to, &value, sizeof value); }
+void put(bool value, std::uint8_t* to, int width) { put(static_cast<std::int16_t>(value ? -1 : 0), to, width); }
+
+template <class T> void get(T& value, const std::uint8_t* from, int) { std::memcpy(&value, from, sizeof value); }
+void get(bool& value, const std::uint8_t* from, int)
+{
+    std::int16_t flag = 0;
+    get(flag, from, 0);
+    value = flag != 0;
+}
+
+/// The bytes of text up to width, without a character that is cut in two.
+QByteArray wholeCharacters(QByteArray text, int width)
+{
+    if (text.size() <= width) return text;
+    const auto continues = [&](int i) { return (static_cast<std::uint8_t>(text[i]) & 0xC0) == 0x80; };
+    while (width > 0 && continues(width)) --width;
+    return text.left(width);
+}
+
+void put(const QString& value, std::uint8_t* to, int width)
+{
+    const QByteArray text = wholeCharacters(value.toUtf8(), width);
+    std::memset(to, ' ', static_cast<std::size_t>(width));
+    std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+/// Up to the first zero, without the trailing blanks.
+void get(QString& value, const std::uint8_t* from, int width)
+{
+    const auto* text = reinterpret_cast<const char*>(from);
+    auto length = static_cast<int>(strnlen(text, static_cast<std::size_t>(width)));
+    while (length > 0 && text[length - 1] == ' ') --length;
+    value = QString::fromUtf8(text, length);
+}
+
+void reset(QString& value, const Default& d, int) { value = QString::fromUtf8(d.text); }
+template <class T> void reset(T& value, const Default& d, int i) { value = static_cast<T>(d.number + i * d.step); }
+
+// --- One field: how its elements are reached
+
+template <class T> constexpr int countOf = 1;
+template <class T, std::size_t N> constexpr int countOf<std::array<T, N>> = N;
+
+template <class T> struct ElementOf {
+    using type = T;
+};
+template <class T, std::size_t N> struct ElementOf<std::array<T, N>> {
+    using type = T;
+};
+
+/// body(element, index) for the field itself, or for each of its elements.
+template <class T, class Body> void eachElement(T& field, Body body)
+{
+    if constexpr (countOf<std::remove_const_t<T>> == 1)
+        body(field, 0);
+    else
+        for (std::size_t i = 0; i < field.size(); ++i) body(field[i], static_cast<int>(i));
+}
+
+struct Field {
+    int offset, width, count; // width: bytes of one element
+    Default byDefault;
+    void (*write)(const Field&, const Setup&, std::uint8_t* record);
+    void (*read)(const Field&, Setup&, const std::uint8_t* record);
+    void (*setDefault)(const Field&, Setup&);
+};
+
+template <auto Member> constexpr Field field(int offset, int width, Default byDefault)
+{
+    using Type = std::remove_cvref_t<decltype(std::declval<Setup&>().*Member)>;
+    using Element = typename ElementOf<Type>::type;
+    constexpr int own = std::is_same_v<Element, bool> ? 2 : std::is_same_v<Element, QString> ? 0 : sizeof(Element);
+    if (own != 0 && own != width) throw "the width is not that of the field's type";
+    return {
+        offset,
+        width,
+        countOf<Type>,
+        byDefault,
+        [](const Field& f, const Setup& s, std::uint8_t* record) {
+            eachElement(s.*Member, [&](const auto& e, int i) { put(e, record + f.offset + i * f.width, f.width); });
+        },
+        [](const Field& f, Setup& s, const std::uint8_t* record) {
+            eachElement(s.*Member, [&](auto& e, int i) { get(e, record + f.offset + i * f.width, f.width); });
+        },
+        [](const Field& f, Setup& s) { eachElement(s.*Member, [&](auto& e, int i) { reset(e, f.byDefault, i); }); }};
+}
+
+constexpr int kTwipsPerPixel = 15;
+
+// clang-format off
+constexpr Field kFields[] = { // offset, width of an element, default {, step from element to element}
+    field<&Setup::FrameWidth>            (   0,   2, 640 * kTwipsPerPixel),
+    field<&Setup::FrameHeight>           (   2,   2, 480 * kTwipsPerPixel),
+    field<&Setup::FrameMaximized>        (   4,   2, 0),
+    field<&Setup::ImagesMaximized>       (   6,   2, 0),
+    field<&Setup::ImagesPath>            (   8, 256, ""),
+    field<&Setup::PreserveLastFolder>    ( 264,   2, 1),
+    field<&Setup::AskToSave>             ( 266,   2, 1),
+    field<&Setup::OpenZoom>              ( 268,   2, 1),
+    field<&Setup::Recent>                ( 270, 256, ""),
+    field<&Setup::ColorBoxVisible>       (2318,   2, 1),
+    field<&Setup::TexturesBoxVisible>    (2320,   2, 1),
+    field<&Setup::ClipboardBoxVisible>   (2322,   2, 1),
+    field<&Setup::BarVisible>            (2324,   2, 1),
+    field<&Setup::StatusBarVisible>      (2338,   2, 1),
+    field<&Setup::SideBarHidden>         (2340,   2, 0),
+    field<&Setup::Reserved2342>          (2342,   2, 0),
+    field<&Setup::PaletteHue>            (2344,   4, 0),
+    field<&Setup::ForeColor>             (2348,   4, 0x00FFFFFF),
+    field<&Setup::BackColor>             (2352,   4, 0),
+    field<&Setup::CustomColors>          (2356,   4, {0, 17 * 0x010101}), // greys
+    field<&Setup::PaletteFlag>           (2420,   2, 1),
+    field<&Setup::Reserved2422>          (2422,   2, 0),
+    field<&Setup::CurrentTool>           (2424,  25, ""),
+    field<&Setup::SelectionMode>         (2449,   2, 2),
+    field<&Setup::SelectionShape>        (2451,   2, 0),
+    field<&Setup::SelectionPressure>     (2453,   2, 50),
+    field<&Setup::MoveSelection>         (2455,   2, 1),
+    field<&Setup::BrushMode>             (2457,   2, 0),
+    field<&Setup::BrushSize>             (2459,   2, 25),
+    field<&Setup::BrushPressure>         (2461,   2, 25),
+    field<&Setup::BrushContinuous>       (2463,   2, 1),
+    field<&Setup::AirbrushSize>          (2465,   2, 75),
+    field<&Setup::AirbrushPressure>      (2467,   2, 25),
+    field<&Setup::AirbrushQuantity>      (2469,   2, 100),
+    field<&Setup::AirbrushDefinition>    (2471,   2, 0),
+    field<&Setup::FillMode>              (2473,   2, 0),
+    field<&Setup::FillTolerance>         (2475,   2, 25),
+    field<&Setup::FillPressure>          (2477,   2, 100),
+    field<&Setup::ShapeKind>             (2479,   2, 0),
+    field<&Setup::ShapePressure>         (2481,   2, 100),
+    field<&Setup::ShapeSides>            (2483,   2, 3),
+    field<&Setup::Reserved2485>          (2485,   2, 0),
+    field<&Setup::StampMaskColor>        (2487,   4, 0),
+    field<&Setup::StampUseMaskColor>     (2491,   2, 0),
+    field<&Setup::StampMask>             (2493,   2, 1),
+    field<&Setup::StampClearBack>        (2495,   2, 0),
+    field<&Setup::StampPressure>         (2497,   2, 50),
+    field<&Setup::Version>               (2499, 256, "1.0"),
+    field<&Setup::TextFont>              (2755, 256, "Arial"),
+    field<&Setup::TextSize>              (3011,   2, 20),
+    field<&Setup::TextFlag1>             (3013,   2, 1),
+    field<&Setup::TextFlag2>             (3015,   2, 1),
+    field<&Setup::TextFlag3>             (3017,   2, 0),
+    field<&Setup::TextMode>              (3019,   2, 2),
+    field<&Setup::ToolOpacity>           (3021,   2, 100),
+    field<&Setup::Reserved3023>          (3023,   1, 0),
+    field<&Setup::GradientMode>          (3031,   4, 0),
+    field<&Setup::GradientColor1>        (3035,   4, 0x00FFFFFF),
+    field<&Setup::GradientColor2>        (3039,   4, 0),
+    field<&Setup::GradientTransparent1>  (3043,   2, 0),
+    field<&Setup::GradientTransparent2>  (3045,   2, 0),
+    field<&Setup::GradientPressure>      (3047,   2, 50),
+    field<&Setup::GradientFrequency>     (3049,   2, 1),
+    field<&Setup::EffectFlags>           (3051,   2, 1),
+    field<&Setup::Reserved3067>          (3067,   1, 0),
+    field<&Setup::Reserved3075>          (3075,   2, 10),
+    field<&Setup::ClipOpacity>           (3077,   2, 100),
+    field<&Setup::PasteMode>             (3079,   2, 0),
+};
+// clang-format on
+
+/// The length of the fields when each begins where the one before ends; -1 when one doesn't.
+consteval int lengthWithoutGaps()
+{
+    int end = 0;
+    for (const Field& f : kFields) {
+        if (f.offset != end) return -1;
+        end += f.width * f.count;
+    }
+    return end;
+}
+static_assert(lengthWithoutGaps() == kSetupBytes);
+
+QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
+
+Setup defaultSetup(Platform& platform)
+{
+    Setup setup;
+    setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
+    return setup;
+}
+
+} // namespace
+
+Setup::Setup()
+{
+    for (const Field& f : kFields) f.setDefault(f, *this);
+}
+
+std::array<std::uint8_t, kSetupBytes> setupBytes(const Setup& setup)
+{
+    std::array<std::uint8_t, kSetupBytes> record{};
+    for (const Field& f : kFields) f.write(f, setup, record.data());
+    return record;
+}
+
+Setup setupFromBytes(std::span<const std::uint8_t> bytes)
+{
+    std::array<std::uint8_t, kSetupBytes> record{};
+    std::copy_n(bytes.begin(), std::min(bytes.size(), record.size()), record.begin());
+    Setup setup;
+    for (const Field& f : kFields) f.read(f, setup, record.data());
+    return setup;
+}
+
+Setup LoadSetup(Platform& platform)
+{
+    const QString path = setupPath(platform);
+    bool needDefaults = !FileFound(path);
+    if (!needDefaults && path.isEmpty()) { // odd, and it stays: the path is looked at and not the file, so never
+        platform.message(QStringLiteral("Velara Studio"),
+                         QStringLiteral("Configuration data file is corrupted\r\nValues will be initilized"),
+                         Icon::Exclamation);
+        QFile::remove(path);
+        needDefaults = true;
+    }
+    if (needDefaults) overwriteFile(path, {}); // an empty file until the frame closes
+    FileReader file(path);
+    if (needDefaults || file.size() < 0) return defaultSetup(platform);
+    std::array<std::uint8_t, kSetupBytes> record{};
+    const auto length = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kSetupBytes));
+    return file.read({record.data(), length}) ? setupFromBytes(record) : defaultSetup(platform);
+}
+
+bool SaveSetup(Platform& platform, const Setup& setup) { return overwriteFile(setupPath(platform), setupBytes(setup)); }
+
+void AddRecent(Setup& setup, const QString& path)
+{
+    for (QString& entry : setup.Recent) {
+        while (entry.endsWith(u' ')) entry.chop(1);
+        if (entry == path) return;
+        if (entry.isEmpty()) {
+            entry = path;
+            return;
+        }
+    }
+    std::shift_right(setup.Recent.begin(), setup.Recent.end(), 1);
+    setup.Recent[0] = path;
+}
+
+} // namespace velara

@@ -1,0 +1,102 @@
+#include "fileio/fileBytes.h"
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace velara {
+
+namespace {
+
+std::int64_t regularFileSize(int file)
+{
+    struct stat info {};
+    return fstat(file, &info) == 0 && S_ISREG(info.st_mode) ? info.st_size : -1;
+}
+
+iovec blockOf(ByteView bytes) { return {const_cast<std::uint8_t*>(bytes.data()), bytes.size()}; }
+
+/// A call may take less than it was given (2 GB are its limit), so the rest follows.
+bool writeAll(int file, ByteView head, ByteView body)
+{
+    while (!head.empty() || !body.empty()) {
+        const std::array<iovec, 2> blocks{blockOf(head), blockOf(body)};
+        const ssize_t n = writev(file, blocks.data(), blocks.size());
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        const std::size_t written = static_cast<std::size_t>(n), ofHead = std::min(written, head.size());
+        head = head.subspan(ofHead);
+        body = body.subspan(written - ofHead);
+    }
+    return true;
+}
+
+/// Room for what grows is taken first: once it is there, writing over an older file can't run out of disk half-way.
+bool takeRoom(int file, std::int64_t present, std::int64_t wanted)
+{
+    if (wanted <= present) return true;
+    if (fallocate(file, 0, present, wanted - present) == 0) return true;
+    return errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+} // namespace
+
+bool overwriteFile(const QString& path, ByteView head, ByteView body)
+{
+    const QByteArray name = QFile::encodeName(path);
+    const int file = open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
+    if (file < 0) return false;
+    const std::int64_t before = regularFileSize(file), wanted = static_cast<std::int64_t>(head.size() + body.size());
+    bool touched = false, done = false;
+    if (before >= 0 && (before == 0 || takeRoom(file, before, wanted))) {
+        touched = true;
+        done = writeAll(file, head, body);
+    }
+    if (close(file) != 0) done = false;
+    if (!done && touched && before >= 0) unlink(name.constData());
+    return done;
+}
+
+FileReader::FileReader(const QString& path)
+    : file_(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+{
+    if (file_ >= 0) size_ = regularFileSize(file_);
+}
+
+FileReader::~FileReader()
+{
+    if (file_ >= 0) close(file_);
+}
+
+bool FileReader::read(std::span<std::uint8_t> target)
+{
+    while (size_ >= 0 && !target.empty()) {
+        const ssize_t n = ::read(file_, target.data(), target.size());
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        target = target.subspan(static_cast<std::size_t>(n));
+    }
+    return size_ >= 0;
+}
+
+bool FileFound(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString name = info.fileName();
+    if (!name.contains(u'*') && !name.contains(u'?')) return info.exists();
+    QString pattern = QRegularExpression::escape(name);
+    pattern.replace(QStringLiteral("\\*\\.\\*"), QStringLiteral(".*")); // *.* is everything, as ever
+    pattern.replace(QStringLiteral("\\*"), QStringLiteral(".*")).replace(QStringLiteral("\\?"), QStringLiteral("."));
+    const QRegularExpression matches(QRegularExpression::anchoredPattern(pattern));
+    const QStringList names = info.dir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
+    return std::any_of(names.begin(), names.end(), [&](const QString& n) { return matches.match(n).hasMatch(); });
+}
+
+} // namespace velara

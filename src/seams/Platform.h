@@ -1,0 +1,76 @@
+// Platform: what the program asks of the windowing system and of the machine, as one interface. QtPlatform is the real
+// one of the editor, WindowlessPlatform that of the others, RecordingPlatform (tests/support) the scripted one.
+//
+// To add an operation: one pure virtual here with its meaning, one body in each of the three.
+#pragma once
+#include "pixels/Bits.h"
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+namespace velara {
+
+enum class Icon { None, Information, Exclamation, Critical };
+enum class Answer { Yes, No, Cancel };
+
+/// What a file dialog shows. filter is "caption|patterns|caption|patterns|...", patterns split by semicolons.
+struct FileDialog {
+    QString title;
+    QString filter;
+    QString folder;
+    QString defaultPattern = {};
+};
+
+/// A picture read from a file, or the reason why it can't be read, in words for a person.
+struct LoadedPicture {
+    Bits bits;
+    QString reason;
+    bool ok() const { return !bits.isNull(); }
+};
+
+class Platform {
+  public:
+    virtual ~Platform() = default;
+
+    // --- Machine
+    /// Milliseconds of a clock that wraps.
+    virtual std::uint32_t milliseconds() = 0;
+    /// Uniform in [0, 1).
+    virtual double random() = 0;
+    /// The folder that all program paths start from, without a trailing separator: the executable's where it can be
+    /// written to, else $XDG_DATA_HOME/velara-studio.
+    virtual QString programFolder() = 0;
+    /// True when an earlier instance of the editor runs in this session.
+    virtual bool previousInstance() = 0;
+    /// Per-user value under (executable name, section, key).
+    virtual QString setting(const QString& section, const QString& key, const QString& otherwise) = 0;
+    virtual void setSetting(const QString& section, const QString& key, const QString& value) = 0;
+
+    // --- Message loop
+    /// Handles what waits in the message loop. Re-entry is legal: any command may run inside.
+    virtual void yield() = 0;
+
+    // --- Messages and common dialogs
+    virtual void message(const QString& title, const QString& text, Icon icon) = 0;
+    virtual Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) = 0;
+    /// No value: the user cancelled.
+    virtual std::optional<QString> openFileName(const FileDialog& dialog) = 0;
+    virtual std::optional<QString> saveFileName(const FileDialog& dialog) = 0;
+    virtual std::optional<QString> pickFolder(const QString& title, const QString& start) = 0;
+    /// path shortened with an ellipsis so that it takes at most so many pixels in the menu font.
+    virtual QString compactPath(const QString& path, int pixels) = 0;
+
+    // --- Picture files
+    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
+    virtual LoadedPicture loadPicture(const QString& path, const QString& extension) = 0;
+
+    // --- Clipboard bitmaps
+    virtual bool clipboardHasBitmap() = 0;
+    /// Empty when there is none.
+    virtual Bits clipboardBitmap() = 0;
+    virtual bool setClipboardBitmap(const Bits& bits) = 0;
+    virtual void clearClipboard() = 0;
+};
+
+} // namespace velara

@@ -1,0 +1,99 @@
+#include "tools/PreviewBuffer.h"
+#include "engine/cBitFilter.h"
+#include <cstring>
+
+namespace velara {
+
+namespace {
+
+bool isSame(const std::weak_ptr<const std::uint8_t[]>& a, const std::weak_ptr<const std::uint8_t[]>& b)
+{
+    return !a.owner_before(b) && !b.owner_before(a);
+}
+
+} // namespace
+
+/// True while both pictures are the blocks that this object left behind, so that they differ in the touched tiles only.
+bool PreviewBuffer::inStep() const
+{
+    return isSame(document_.Bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
+}
+
+bool PreviewBuffer::isOurs() const { return inStep() || document_.Bits().sharesWith(filter_.bits()); }
+
+void PreviewBuffer::prepare()
+{
+    if (isOurs()) begin();
+}
+
+void PreviewBuffer::remember()
+{
+    shown_ = document_.Bits().block();
+    committed_ = filter_.bits().block();
+}
+
+/// Finds out what is known of the difference of the two, after whatever may have replaced either.
+void PreviewBuffer::compare()
+{
+    if (inStep()) return;
+    const Bits& shown = document_.Bits();
+    if (shown.width() != filter_.bits().width() || shown.height() != filter_.bits().height()) document_.handTo(filter_);
+    document_.touched.reset(shown.width(), shown.height());
+    whole_ = !shown.sharesWith(filter_.bits());
+    remember();
+}
+
+void PreviewBuffer::begin()
+{
+    if (!document_.PictureExists()) return;
+    compare();
+    if (!document_.Bits().isShared()) return;
+    document_.edit().row(0); // the whole copy
+    remember();
+}
+
+/// target := source, of which target differs in the touched tiles at most.
+void PreviewBuffer::settle(Bits& target, const Bits& source)
+{
+    document_.touched.forEach([&](const Rect& tile) {
+        for (int y = tile.top; y < tile.bottom; ++y)
+            std::memcpy(target.row(y) + tile.left, source.row(y) + tile.left,
+                        sizeof(Pixel) * static_cast<std::size_t>(tile.width()));
+    });
+    document_.touched.reset(target.width(), target.height());
+}
+
+void PreviewBuffer::restore()
+{
+    if (!document_.PictureExists()) return;
+    compare();
+    if (whole_) {
+        restored_ = {0, 0, document_.PictureWidth(), document_.PictureHeight()};
+        document_.setBits(filter_.bits());
+        document_.touched.reset(document_.PictureWidth(), document_.PictureHeight());
+        whole_ = false;
+        return remember();
+    }
+    restored_ = restored_.united(document_.touched.bounds());
+    if (!document_.touched.isEmpty()) settle(document_.edit(), filter_.bits());
+    remember();
+}
+
+void PreviewBuffer::commit()
+{
+    if (!document_.PictureExists()) return;
+    compare();
+    if (whole_ || document_.touched.isMost() || filter_.bits().isShared()) {
+        filter_.setBits(document_.Bits()); // shared; the next begin() makes the second block
+        document_.touched.reset(document_.PictureWidth(), document_.PictureHeight());
+        whole_ = false;
+        return remember();
+    }
+    Bits committed = filter_.bits();
+    filter_.setBits(Bits()); // so that the write stays in place
+    settle(committed, document_.Bits());
+    filter_.setBits(std::move(committed));
+    remember();
+}
+
+} // namespace velara

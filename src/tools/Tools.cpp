@@ -1,0 +1,183 @@
+#include "tools/Tools.h"
+#include "engine/cBitFilter.h"
+#include "pixels/RuntimeError.h"
+#include <cstdlib>
+#include <new>
+
+namespace velara {
+
+namespace {
+
+struct ToolRow {
+    const char* name; // of Setup.CurrentTool
+    const Tool& (*tool)();
+};
+
+// clang-format off
+constexpr ToolRow kTools[] = {
+    {"Select",        selectTool},
+    {"SelectionMove", selectionMoveTool},
+    {"Brush",         brushTool},
+    {"Airbrush",      airbrushTool},
+    {"Pencil",        pencilTool},
+    {"Shape",         shapeTool},
+    {"Fill",          fillTool},
+    {"Stamp",         stampTool},
+    {"Text",          textTool},
+    {"Gradient",      gradientTool},
+    {"GetColor",      getColorTool},
+};
+// clang-format on
+
+const Tool* toolNamed(const QString& name)
+{
+    QStringView wanted(name);
+    while (wanted.endsWith(u' ')) wanted.chop(1);
+    for (const ToolRow& row : kTools)
+        if (wanted == QLatin1String(row.name)) return &row.tool();
+    return nullptr;
+}
+
+} // namespace
+
+Tools::Tools(Document& document, Frame& frame, ToolSurface& surface) : context_(document, frame, surface) {}
+
+const Tool* Tools::chosen() const
+{
+    return context_.stores().pastePending ? &pasteTool() : toolNamed(context_.setup().CurrentTool);
+}
+
+const Tool* Tools::tool() const { return active_ ? active_ : chosen(); }
+
+/// Runs a part of an event. False when the object is gone afterwards.
+template <class Action> bool Tools::guarded(Action action)
+{
+    const std::weak_ptr<int> life = context_.life;
+    try {
+        action();
+    } catch (const RuntimeError&) { // the event ends here, the program goes on
+    } catch (const Cancelled&) {
+    } catch (const std::bad_alloc&) {
+    }
+    return !life.expired();
+}
+
+void Tools::showPointer()
+{
+    const Tool* tool = chosen();
+    context_.surface.setPointer(tool ? tool->pointer() : Pointer::Default);
+}
+
+void Tools::press(int button, int x, int y)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) return;
+    if (!guarded([&] { c.surface.activate(); }) || !c.document.PictureExists()) return;
+    c.at = c.press = {x, y};
+    if (button == Left) {
+        c.start = c.at;
+        c.last = c.at;
+        c.down = true;
+        c.moving = c.moved = c.connect = c.corner = false;
+        active_ = chosen();
+        if (active_) {
+            c.surface.setPointer(active_->pointer());
+            bool taken = false;
+            if (!guarded([&] { taken = active_->press(c); })) return;
+            if (!taken) active_ = nullptr;
+        }
+    }
+    c.last = {x, y};
+}
+
+void Tools::move(int button, int x, int y)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) return;
+    c.at = {x, y};
+    if (!active_) showPointer();
+    showPosition(button);
+    const Tool* const holder = tool();
+    if (button == Left && active_ && !guarded([&] { holder->drag(c); })) return;
+    if (button == NoButton && !active_ && holder && !guarded([&] { holder->hover(c); })) return;
+    c.last = {x, y};
+}
+
+void Tools::release(int button, int x, int y)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) {
+        active_ = nullptr;
+        c.down = c.moving = false;
+        return;
+    }
+    c.at = {x, y};
+    if (button == Left && c.down && active_) {
+        if (!guarded([&] { active_->release(c); })) return;
+    } else if (button == Right) {
+        if (const Tool* holder = tool()) holder->cancel(c);
+        if (!guarded([&] { c.preview.restore(); })) return;
+        c.preview.takeRestored();
+        c.surface.UpdateImage();
+    }
+    c.last = {x, y};
+    endRelease();
+}
+
+/// The end of every release: the outline runs again and the engine knows the working region.
+void Tools::endRelease()
+{
+    ToolContext& c = context_;
+    if (c.document.Region.IsEmptyRegion())
+        c.surface.StopTimer();
+    else
+        c.surface.StartTimer();
+    c.filter().setBitsRegion(c.document.Region.working());
+    c.down = c.moving = false;
+    active_ = nullptr;
+}
+
+void Tools::deactivated()
+{
+    ToolContext& c = context_;
+    if (active_) active_->cancel(c);
+    if ((active_ || c.stores().pastePending) && c.preview.isOurs())
+        if (!guarded([&] { c.preview.restore(); })) return;
+    active_ = nullptr;
+    c.down = c.moving = false;
+}
+
+void Tools::showPosition(int button)
+{
+    const ToolContext& c = context_;
+    c.frame.setStatus(Panel::Pos, QStringLiteral("X:%1 Y:%2").arg(c.at.x).arg(c.at.y));
+    if (button == Left)
+        c.frame.setStatus(Panel::Ext,
+                          QStringLiteral("%1,%2").arg(std::abs(c.at.x - c.start.x)).arg(std::abs(c.at.y - c.start.y)));
+}
+
+bool Tools::keyDown(int key)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) return false;
+    const Point steps[] = {{-1, 0}, {0, -1}, {1, 0}, {0, 1}};
+    if (key >= ArrowLeft && key <= ArrowDown) {
+        const Point step = steps[key - ArrowLeft];
+        move(NoButton, c.last.x + step.x, c.last.y + step.y);
+        return true;
+    }
+    const Tool* const holder = tool();
+    if (key != Space || !holder) return false;
+    guarded([&] { holder->space(c); });
+    return true;
+}
+
+bool Tools::keyUp(int key)
+{
+    const Tool* const holder = tool();
+    if (key != Ctrl || !holder || !context_.document.PictureExists()) return false;
+    guarded([&] { holder->ctrlReleased(context_); });
+    return true;
+}
+
+} // namespace velara

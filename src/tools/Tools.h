@@ -1,0 +1,50 @@
+// Tools: the mouse and key events of a document's display, handed to the tool that Setup.CurrentTool names. The tools
+// themselves are small classes in tools_*.cpp.
+//
+// A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
+// back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
+// arithmetic end the event and nothing else. A yield within a tool may destroy this object.
+#pragma once
+#include "tools/ToolContext.h"
+
+namespace velara {
+
+class Tools {
+  public:
+    enum Button { NoButton = 0, Left = 1, Right = 2 };
+    enum Key { Ctrl = 17, Space = 32, ArrowLeft = 37, ArrowUp = 38, ArrowRight = 39, ArrowDown = 40 };
+
+    /// All three outlive this object.
+    Tools(Document& document, Frame& frame, ToolSurface& surface);
+
+    /// x, y in picture pixels, as the display converts them; they may lie outside of the picture. The caller drops
+    /// moves within one picture pixel and those that scroll by hand. button is the one pressed, held or released.
+    void press(int button, int x, int y);
+    void move(int button, int x, int y);
+    void release(int button, int x, int y);
+    /// Numbers as in Key. False: the key has no use here.
+    bool keyDown(int key);
+    bool keyUp(int key);
+    /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what
+    /// hangs on the pointer leaves the picture.
+    void deactivated();
+    /// Shows the pointer of the chosen tool.
+    void showPointer();
+
+    bool ToolDown() const { return context_.down; }
+    bool ToolMoving() const { return context_.moving; }
+    const std::vector<std::int32_t>& ToolPoints() const { return context_.points; }
+
+  private:
+    const Tool* chosen() const; // null for none
+    /// The one that holds the drag, else the chosen one.
+    const Tool* tool() const;
+    template <class Action> bool guarded(Action action);
+    void showPosition(int button);
+    void endRelease();
+
+    ToolContext context_;
+    const Tool* active_ = nullptr; // from a left press to its release
+};
+
+} // namespace velara

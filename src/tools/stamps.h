@@ -1,0 +1,16 @@
+// The stamps: pictures in the program's folder "Stamps".
+#pragma once
+#include "pixels/Bits.h"
+#include <QStringList>
+#include <optional>
+
+namespace velara {
+
+class Platform;
+
+/// The names of the "*.bmp" files, by name without regard to case; nothing when the folder is missing.
+std::optional<QStringList> stampFiles(Platform& platform);
+/// The picture of one of them; empty when it can't be read.
+Bits loadStamp(Platform& platform, const QString& fileName);
+
+} // namespace velara

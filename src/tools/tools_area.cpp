@@ -1,0 +1,117 @@
+// The tools whose work is done at the release, and the pipette.
+#include "engine/cBitFilter.h"
+#include "pixels/numbers.h"
+#include "tools/ToolContext.h"
+#include <cmath>
+
+namespace velara {
+
+namespace {
+
+class FillTool final : public Tool {
+    Pointer pointer() const override { return Pointer::cFill; }
+    void release(ToolContext& c) const override
+    {
+        const Setup& s = c.setup();
+        const bool textured = s.FillMode == 1;
+        if (textured && c.stores().stamp.isNull()) return;
+        c.preview.begin();
+        c.paint().CreateDoneBitsTable();
+        if (textured)
+            c.paint().BitsFillTexture(c.at.x, c.at.y, c.stores().stamp, s.FillTolerance, s.FillPressure);
+        else
+            c.paint().BitsFill(c.at.x, c.at.y, s.ForeColor, s.FillTolerance, s.FillPressure);
+        c.paint().takeTouched(); // the commit shows everything
+        c.commit();
+    }
+};
+
+enum GradientMode { Linear = 0, Circular = 1 }; // of Setup.GradientMode
+
+class GradientTool final : public Tool {
+    Pointer pointer() const override { return Pointer::cGradient; }
+
+    bool press(ToolContext& c) const override
+    {
+        c.surface.SetAutoRedraw(true);
+        c.surface.StopTimer();
+        return true;
+    }
+
+    void drag(ToolContext& c) const override
+    {
+        if (c.setup().GradientMode != Circular)
+            return c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
+        const double dx = c.at.x - c.start.x, dy = c.at.y - c.start.y;
+        const int r = roundEven(std::sqrt(dx * dx + dy * dy));
+        c.surface.ShowShape(BandShape::Ellipse, c.start.x - r, c.start.y - r, c.start.x + r + 1, c.start.y + r + 1,
+                            false);
+    }
+
+    /// Progress may yield: whatever has become of document and engine meanwhile, nothing of it is overwritten.
+    void release(ToolContext& c) const override
+    {
+        hideBand(c);
+        const Setup& s = c.setup();
+        const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
+        const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
+        const auto gradient = s.GradientMode == Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
+        const std::weak_ptr<int> life = c.life;
+        c.filter().setBitsRegion(c.document.Region.working());
+        const Bits before = c.filter().bits();
+        const Bits result = (c.filter().*gradient)(c.start.x, c.start.y, c.at.x, c.at.y, first, second,
+                                                   s.GradientPressure, s.GradientFrequency);
+        if (life.expired() || !before.sharesWith(c.filter().bits())) return;
+        c.document.setBits(result);
+        c.surface.SetAutoRedraw(false);
+        c.commit();
+    }
+
+    void cancel(ToolContext& c) const override
+    {
+        hideBand(c);
+        c.surface.SetAutoRedraw(false);
+    }
+
+    static void hideBand(ToolContext& c)
+    {
+        c.surface.HideShape(c.setup().GradientMode == Circular ? BandShape::Ellipse : BandShape::Line);
+    }
+};
+
+class GetColorTool final : public Tool {
+    Pointer pointer() const override { return Pointer::cPicker; }
+    bool press(ToolContext& c) const override
+    {
+        drag(c);
+        return true;
+    }
+    void drag(ToolContext& c) const override
+    {
+        c.setup().ForeColor = c.paint().BitsGetPixel(c.at.x, c.at.y);
+        c.surface.colourPicked();
+    }
+    void release(ToolContext& c) const override { c.surface.setPointer(Pointer::Default); }
+};
+
+} // namespace
+
+const Tool& fillTool()
+{
+    static const FillTool tool;
+    return tool;
+}
+
+const Tool& gradientTool()
+{
+    static const GradientTool tool;
+    return tool;
+}
+
+const Tool& getColorTool()
+{
+    static const GetColorTool tool;
+    return tool;
+}
+
+} // namespace velara

@@ -1,0 +1,236 @@
+// The tools that paint along the way of the pointer, and those that preview a shape of the present position.
+#include "tools/ToolContext.h"
+#include <cstdlib>
+
+namespace velara {
+
+namespace {
+
+/// A stroke: each move paints, the release commits. Refused when what it paints with is not there.
+class StrokeTool : public Tool {
+    bool press(ToolContext& c) const final
+    {
+        if (!isReady(c)) return false;
+        c.surface.StopTimer();
+        c.preview.begin();
+        c.repaint(); // what another command has left to be shown
+        c.paint().CreateDoneBitsTable();
+        c.connect = false;
+        hold(c);
+        drag(c);
+        return true;
+    }
+    void drag(ToolContext& c) const final
+    {
+        paint(c);
+        c.connect = true;
+        c.repaint();
+    }
+    void release(ToolContext& c) const final { c.commit(); }
+    /// The whole copy of the first stroke is made while nothing waits for it.
+    void hover(ToolContext& c) const final { c.preview.prepare(); }
+
+  protected:
+    virtual bool isReady(const ToolContext&) const { return true; }
+    virtual void hold(ToolContext&) const {} // sets the hot spot
+    virtual void paint(ToolContext&) const = 0;
+};
+
+/// The middle of what is placed hangs on the pointer.
+Point middleOf(const Bits& bits) { return {(bits.width() + 1) / 2 + 1, (bits.height() + 1) / 2 + 1}; }
+
+enum BrushMode { PaintColour, Soften, SoftenOver, Sharpen, Lighten, Darken, PaintStamp }; // of Setup.BrushMode
+
+class BrushTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cBrush; }
+    bool isReady(const ToolContext& c) const override
+    {
+        return c.setup().BrushMode != PaintStamp || !c.stores().stamp.isNull();
+    }
+    void paint(ToolContext& c) const override
+    {
+        const Setup& s = c.setup();
+        const int size = s.BrushSize, strength = s.BrushPressure;
+        if (c.connect && s.BrushContinuous) {
+            if (s.BrushMode == PaintStamp)
+                c.paint().BitsMaskedLine(c.last.x, c.last.y, c.at.x, c.at.y, size, strength, c.stores().stamp);
+            else
+                c.paint().BitsBrushLine(c.last.x, c.last.y, c.at.x, c.at.y, size, strength, s.ForeColor, s.BrushMode);
+            return;
+        }
+        switch (s.BrushMode) {
+        case PaintColour:
+            return c.paint().BitsBrush(c.at.x, c.at.y, size, strength, s.ForeColor);
+        case Soften:
+        case SoftenOver:
+            return c.paint().BitsSoften(c.at.x, c.at.y, size, strength, s.BrushMode == SoftenOver);
+        case Sharpen:
+            return c.paint().BitsSharpen(c.at.x, c.at.y, size, strength);
+        case Lighten:
+        case Darken:
+            return c.paint().BitsBrightness(c.at.x, c.at.y, size, strength, s.BrushMode == Lighten);
+        case PaintStamp:
+            return c.paint().BitsMasked(c.at.x, c.at.y, c.stores().stamp, size, strength);
+        default:
+            return;
+        }
+    }
+};
+
+class AirbrushTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cAirBrush; }
+    void paint(ToolContext& c) const override
+    {
+        const Setup& s = c.setup();
+        c.paint().BitsAirbrush(c.at.x, c.at.y, s.AirbrushSize, s.AirbrushPressure, s.AirbrushQuantity,
+                               s.AirbrushDefinition, s.ForeColor);
+    }
+};
+
+class PencilTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cPencil; }
+    void paint(ToolContext& c) const override
+    {
+        c.paint().BitsLine(c.last.x, c.last.y, c.at.x, c.at.y, c.setup().ForeColor, c.setup().ToolOpacity);
+    }
+};
+
+enum ShapeKind {
+    LineShape,
+    FreeHand,
+    Square,
+    RectangleShape,
+    Circle,
+    EllipseShape,
+    PolygonShape
+}; // of Setup.ShapeKind
+
+class ShapeTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cPencil; }
+    void paint(ToolContext& c) const override
+    {
+        const Setup& s = c.setup();
+        if (s.ShapeKind != FreeHand) c.preview.restore();
+        const auto [x1, y1] = c.start;
+        const auto [x, y] = c.at;
+        const int dx = x - x1, dy = y - y1, side = std::abs(dx);
+        const auto signed_ = [side](int direction) { return direction > 0 ? side : direction < 0 ? -side : 0; };
+        const int ink = s.ForeColor, opacity = s.ShapePressure;
+        Painter& paint = c.paint();
+        switch (s.ShapeKind) {
+        case LineShape:
+            return paint.BitsLine(x1, y1, x, y, ink, opacity);
+        case FreeHand:
+            return paint.BitsLine(c.last.x, c.last.y, x, y, ink, opacity);
+        case Square: // as high as it is wide
+            return paint.BitsRectangle(x1, y1, x1 + signed_(dx), y1 + signed_(dy), ink, opacity);
+        case RectangleShape:
+            return paint.BitsRectangle(x1, y1, x, y, ink, opacity);
+        case Circle:
+            return paint.BitsEllipse(x1, y1, side, side, ink, opacity);
+        case EllipseShape:
+            return paint.BitsEllipse(x1, y1, side, std::abs(dy), ink, opacity);
+        case PolygonShape:
+            return paint.BitsPolygon(x1, y1, x, y, s.ShapeSides, ink, opacity);
+        default:
+            return;
+        }
+    }
+};
+
+class StampTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cTextures; }
+    bool isReady(const ToolContext& c) const override { return !c.stores().stamp.isNull(); }
+    void hold(ToolContext& c) const override { c.hot = middleOf(c.stores().stamp); }
+    void paint(ToolContext& c) const override
+    {
+        const Setup& s = c.setup();
+        const Bits& stamp = c.stores().stamp;
+        const int x = c.at.x - c.hot.x, y = c.at.y - c.hot.y;
+        if (s.StampClearBack) c.preview.restore();
+        if (s.StampMask)
+            c.paint().BitsBWMask(x, y, stamp, s.ForeColor, s.StampPressure);
+        else
+            c.paint().BitsPaint(x, y, stamp, s.StampUseMaskColor ? s.StampMaskColor : -1, s.StampPressure, true);
+    }
+};
+
+class TextTool final : public StrokeTool {
+    Pointer pointer() const override { return Pointer::cPencil; }
+    bool isReady(const ToolContext& c) const override { return !c.stores().text.isNull(); }
+    void hold(ToolContext& c) const override { c.hot = middleOf(c.stores().text); }
+    void paint(ToolContext& c) const override
+    {
+        c.preview.restore();
+        c.paint().BitsBWMask(c.at.x - c.hot.x, c.at.y - c.hot.y, c.stores().text, c.setup().ForeColor,
+                             c.setup().ToolOpacity);
+    }
+    void space(ToolContext& c) const override
+    {
+        if (c.down) fixAndGoOn(c);
+    }
+};
+
+/// The pixels hang on the pointer from the command on; a click lays them down, the right button lets go of them.
+class PasteTool final : public Tool {
+    Pointer pointer() const override { return Pointer::Sizing; }
+
+    bool press(ToolContext& c) const override
+    {
+        hover(c);
+        return c.stores().pastePending;
+    }
+    void drag(ToolContext& c) const override { hover(c); }
+    void release(ToolContext& c) const override
+    {
+        letGo(c);
+        c.commit();
+    }
+    void hover(ToolContext& c) const override
+    {
+        const Bits paste = c.stores().paste;
+        if (paste.isNull()) return letGo(c);
+        if (!c.preview.isOurs()) return; // over a document that is not the active one
+        const Point hot = middleOf(paste);
+        c.surface.StopTimer();
+        c.preview.restore();
+        c.preview.begin();
+        c.paint().BitsPaintPreMasked(c.at.x - hot.x, c.at.y - hot.y, paste, c.setup().ClipOpacity, false);
+        c.repaint();
+    }
+    void cancel(ToolContext& c) const override { letGo(c); }
+    void space(ToolContext& c) const override { fixAndGoOn(c); }
+
+    static void letGo(ToolContext& c)
+    {
+        c.stores().pastePending = false;
+        c.setup().PasteMode = 0;
+    }
+};
+
+template <class T> const Tool& only()
+{
+    static const T tool;
+    return tool;
+}
+
+} // namespace
+
+void Tool::fixAndGoOn(ToolContext& c) const
+{
+    const std::weak_ptr<int> life = c.life;
+    c.commit();
+    if (life.expired()) return;
+    c.at = c.last;
+    drag(c);
+}
+
+const Tool& brushTool() { return only<BrushTool>(); }
+const Tool& airbrushTool() { return only<AirbrushTool>(); }
+const Tool& pencilTool() { return only<PencilTool>(); }
+const Tool& shapeTool() { return only<ShapeTool>(); }
+const Tool& stampTool() { return only<StampTool>(); }
+const Tool& textTool() { return only<TextTool>(); }
+const Tool& pasteTool() { return only<PasteTool>(); }
+
+} // namespace velara

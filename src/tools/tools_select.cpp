@@ -1,0 +1,214 @@
+// The tools that make and move a selection.
+#include "engine/cBitFilter.h"
+#include "tools/ToolContext.h"
+#include <algorithm>
+#include <cstdlib>
+
+namespace velara {
+
+namespace {
+
+enum SelectionMode { Add = 0, Subtract = 1, New = 2 }; // of Setup.SelectionMode
+enum SelectionShape { RectangleShape = 0, EllipseShape = 1, PolygonShape = 2, PixelShape = 3 };
+
+constexpr int kNearFirstCorner = 3; // pixels within which a release meets the first corner of a polygon
+
+Combine combineOf(const ToolContext& c) { return c.setup().SelectionMode == Subtract ? Combine::Diff : Combine::Or; }
+
+/// The band of this drag as left, top, right, bottom.
+Rect bandOf(const ToolContext& c)
+{
+    return {std::min(c.start.x, c.at.x), std::min(c.start.y, c.at.y), std::max(c.start.x, c.at.x),
+            std::max(c.start.y, c.at.y)};
+}
+
+Point lastCorner(const ToolContext& c) { return {c.points[c.points.size() - 2], c.points.back()}; }
+
+void dropCorners(ToolContext& c)
+{
+    c.points = {0, 0};
+    c.surface.HideShape(BandShape::Line);
+}
+
+/// A polygon is made of drags from corner to corner: a release sets a corner, and so does Space while the button stays
+/// down. It closes at the end of a drag with such corners, or where a release meets the first corner.
+class SelectTool final : public Tool {
+    Pointer pointer() const override { return Pointer::Cross; }
+
+    bool press(ToolContext& c) const override
+    {
+        const int shape = c.setup().SelectionShape;
+        if (shape != PolygonShape && c.points.size() >= 3) dropCorners(c);
+        const bool firstCorner = c.points.size() < 3;
+        if (shape == PolygonShape && firstCorner) c.points = {c.at.x, c.at.y};
+        if (shape == PolygonShape && !firstCorner) c.start = lastCorner(c);
+        if (c.setup().SelectionMode == New && firstCorner) {
+            c.document.Region.CreateRect(0, 0, c.document.PictureWidth(), c.document.PictureHeight(), Combine::Diff,
+                                         false);
+            c.surface.UpdateImage();
+        }
+        if (shape == PixelShape) {
+            c.surface.SetAutoRedraw(true);
+            c.surface.StopTimer();
+            drag(c); // a click takes its pixel
+        }
+        return true;
+    }
+
+    void drag(ToolContext& c) const override
+    {
+        const int shape = c.setup().SelectionShape;
+        if (shape == PixelShape) {
+            c.document.Region.CreateRect(c.at.x, c.at.y, c.at.x + 1, c.at.y + 1, combineOf(c), true);
+            c.surface.SetAutoRedraw(true);
+            c.surface.UpdateRegion();
+            c.surface.SetAutoRedraw(false);
+        } else if (shape == PolygonShape) {
+            c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
+        } else if (shape == RectangleShape || shape == EllipseShape) {
+            const Rect band = bandOf(c);
+            c.surface.ShowShape(shape == EllipseShape ? BandShape::Ellipse : BandShape::Rectangle, band.left, band.top,
+                                band.right, band.bottom, false);
+        }
+    }
+
+    void release(ToolContext& c) const override
+    {
+        const Rect band = bandOf(c);
+        switch (c.setup().SelectionShape) {
+        case RectangleShape:
+            c.document.Region.CreateRect(band.left, band.top, band.right, band.bottom, combineOf(c), true);
+            c.surface.HideShape(BandShape::Rectangle);
+            break;
+        case EllipseShape:
+            c.document.Region.CreateEllipse(band.left, band.top, band.right, band.bottom, combineOf(c), true);
+            c.surface.HideShape(BandShape::Ellipse);
+            break;
+        case PolygonShape:
+            releaseCorner(c);
+            break;
+        default:
+            break;
+        }
+        c.surface.SetAutoRedraw(false);
+        c.surface.UpdateImage();
+    }
+
+    static void releaseCorner(ToolContext& c)
+    {
+        const bool meetsFirst = c.points.size() >= 6 && std::abs(c.at.x - c.points[0]) <= kNearFirstCorner &&
+                                std::abs(c.at.y - c.points[1]) <= kNearFirstCorner;
+        if (!meetsFirst && c.at != lastCorner(c)) {
+            c.points.insert(c.points.end(), {c.at.x, c.at.y});
+            c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, true);
+        }
+        if (!meetsFirst && !(c.corner && c.points.size() >= 6)) return;
+        c.document.Region.CreatePolygon(c.points, combineOf(c), true);
+        dropCorners(c);
+    }
+
+    void cancel(ToolContext& c) const override
+    {
+        dropCorners(c);
+        c.surface.HideShape(BandShape::Rectangle);
+        c.surface.HideShape(BandShape::Ellipse);
+    }
+
+    void space(ToolContext& c) const override
+    {
+        if (!c.down || c.setup().SelectionShape != PolygonShape) return;
+        c.points.insert(c.points.end(), {c.last.x, c.last.y});
+        c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.last.x, c.last.y, true);
+        c.start = c.last;
+        c.corner = true;
+    }
+};
+
+/// Moves the outline alone, or a copy of the content. moving: the press lay in the selection.
+class SelectionMoveTool final : public Tool {
+    Pointer pointer() const override { return Pointer::Sizing; }
+
+    bool press(ToolContext& c) const override
+    {
+        if (!c.setup().MoveSelection) c.surface.StopTimer();
+        if (!c.document.Region.Region().contains(c.at.x, c.at.y)) return false;
+        if (!c.setup().MoveSelection && !takeContent(c)) return false;
+        c.moving = true;
+        drag(c);
+        return true;
+    }
+
+    /// The selected pixels go into the frame's store. False when none of them lie in the picture.
+    static bool takeContent(ToolContext& c)
+    {
+        const Rect box = c.document.Region.Region().bounds().intersected(c.document.Region.RegionMain().bounds());
+        if (box.isEmpty()) return false;
+        c.surface.UpdateImage();
+        c.surface.setWaiting(true);
+        c.preview.commit(); // the engine works on what is seen
+        cBitFilter cutter;  // of its own, so that the engine keeps the committed picture
+        cutter.setBits(c.document.Bits());
+        cutter.setBitsRegion(c.document.Region.Region());
+        cutter.BitsCropMasked(c.document.Bits(), box.left, box.top, box.right, box.bottom);
+        c.stores().moved = cutter.bits();
+        cutter.setBits(Bits());
+        c.preview.begin();
+        c.hot = {c.at.x - box.left, c.at.y - box.top};
+        c.surface.setWaiting(false);
+        return true;
+    }
+
+    void drag(ToolContext& c) const override
+    {
+        if (!c.moving) return;
+        if (c.setup().MoveSelection) {
+            c.document.Region.Offset(c.at.x - c.last.x, c.at.y - c.last.y);
+            c.surface.UpdateImage();
+            c.surface.UpdateRegion();
+            c.moved = true;
+        } else if (!c.moved) {
+            const ToolStores& stores = c.stores();
+            c.preview.restore();
+            c.paint().BitsPaintPreMasked(c.at.x - c.hot.x, c.at.y - c.hot.y, stores.moved,
+                                         stores.useMovePressure ? stores.movePressure : c.setup().SelectionPressure,
+                                         false);
+            c.repaint();
+        }
+    }
+
+    void release(ToolContext& c) const override
+    {
+        if (!c.moved) return c.commit();
+        c.document.Region.Crop();
+        c.preview.commit();
+        c.surface.UpdateImage();
+        c.moved = false;
+    }
+
+    void space(ToolContext& c) const override
+    {
+        if (c.down) fixAndGoOn(c);
+    }
+
+    void ctrlReleased(ToolContext& c) const override
+    {
+        c.document.Region.Crop();
+        c.surface.UpdateRegion();
+    }
+};
+
+} // namespace
+
+const Tool& selectTool()
+{
+    static const SelectTool tool;
+    return tool;
+}
+
+const Tool& selectionMoveTool()
+{
+    static const SelectionMoveTool tool;
+    return tool;
+}
+
+} // namespace velara

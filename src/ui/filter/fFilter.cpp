@@ -1,0 +1,199 @@
+// fFilter: what the dialog does. Its controls are made in fFilter_controls.cpp.
+#include "ui/filter/fFilter.h"
+#include "pixels/RuntimeError.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
+#include "ui/widgets/fColorButton.h"
+#include "ui/widgets/fPreviewPicture.h"
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QSlider>
+#include <QVBoxLayout>
+
+namespace velara {
+
+fFilter::fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent)
+    : QDialog(parent), frame_(frame), row_(row), take_(std::move(take)),
+      preview_(frame.filter().bits(), frame.filter().BitsRegion(), fPreviewPicture::kSize)
+{
+    setObjectName(QStringLiteral("fFilter"));
+    setWindowTitle(QString::fromLatin1(row.title));
+    setModal(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->setSpacing(10);
+    layout->addWidget(makePreviews());
+    layout->addWidget(makeControls());
+    layout->addWidget(makeButtons());
+
+    previewTimer_.setSingleShot(true);
+    previewTimer_.setTimerType(Qt::PreciseTimer);
+    connect(&previewTimer_, &QTimer::timeout, this, &fFilter::runPreview);
+    tmrSelect_.setObjectName(QStringLiteral("tmrSelect"));
+    tmrSelect_.setInterval(400);
+    connect(&tmrSelect_, &QTimer::timeout, iSrc_, &fPreviewPicture::flipMarker);
+    if (has(row.extras, FilterExtra::PickCentre | FilterExtra::PickColour)) tmrSelect_.start();
+    showValues();
+    runPreview();
+}
+
+FilterArgs fFilter::arguments() const
+{
+    FilterArgs args;
+    for (std::size_t i = 0; i < sbFilter_.size(); ++i)
+        if (sbFilter_[i]) args.value[i] = sbFilter_[i]->value() - row_.sliders[i].centre();
+    for (std::size_t i = 0; i < Col_.size(); ++i)
+        if (Col_[i]) args.colour[i] = Col_[i]->colour();
+    args.option = chkOption_ && chkOption_->isChecked();
+    args.centerX = static_cast<float>(centre_.x());
+    args.centerY = static_cast<float>(centre_.y());
+    args.longerSide = preview_.longerSide();
+    for (std::size_t i = 0; i < channels_.size() && channels_[i]; ++i) {
+        args.channel[i] = 2 - channels_[i]->checkedId(); // the choices are red, green, blue
+        args.invert[i] = chkInvt_[i]->isChecked();
+        args.kill[i] = chkKill_[i]->isChecked();
+    }
+    if (oo_) args.style = kGlassStyles[oo_->checkedId()].style;
+    if (cbo_) args.mode = cbo_->currentIndex();
+    if (Curt_) args.mode = Curt_->checkedId();
+    return args;
+}
+
+bool fFilter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress && chkOption_) chkOption_->toggle();
+    return QDialog::eventFilter(watched, event);
+}
+
+// --- Preview
+
+void fFilter::changed()
+{
+    applied_ = false;
+    showValues();
+    if (const auto delay = pacer_.change(frame_.platform().milliseconds()))
+        previewTimer_.start(static_cast<int>(*delay));
+}
+
+void fFilter::showValues()
+{
+    for (std::size_t i = 0; i < sbFilter_.size(); ++i)
+        if (sbFilter_[i]) lblFilterV_[i]->setText(row_.sliders[i].text(sbFilter_[i]->value()));
+}
+
+/// Strengths of the glass; the choice stays where the style has it.
+void fFilter::fillModes()
+{
+    const int mode = cbo_->currentIndex(), modes = kGlassStyles[oo_->checkedId()].modes;
+    const QSignalBlocker quiet(cbo_);
+    cbo_->clear();
+    for (int i = 0; i < modes; ++i) cbo_->addItem(tr(kGlassModes[i]));
+    cbo_->setCurrentIndex(mode < 0 || mode >= modes ? 0 : mode);
+}
+
+void fFilter::runPreview()
+{
+    pacer_.runStarts(frame_.platform().milliseconds());
+    QString state;
+    Bits result = preview_.source();
+    if (chkPreview_->isChecked() && !result.isNull()) try {
+            result = preview_.run(row_, arguments());
+        } catch (const std::exception& failure) {
+            state = QString::fromUtf8(failure.what());
+        }
+    iDst_->setBits(result);
+    state_->setText(state);
+}
+
+void fFilter::picked(QPoint pixel)
+{
+    const Bits& bits = preview_.source();
+    iSrc_->setMarker(pixel);
+    if (has(row_.extras, FilterExtra::PickCentre)) {
+        centre_ = {double(pixel.x()) / bits.width(), double(pixel.y()) / bits.height()};
+        changed();
+    } else if (fColorButton* well = Col_[static_cast<std::size_t>(activeWell_)]) {
+        const auto& c = bits.at(pixel.x(), pixel.y()).c;
+        well->setColour(colourOf(c[2], c[1], c[0]));
+    }
+}
+
+void fFilter::activateWell(int well)
+{
+    activeWell_ = well;
+    for (int i = 0; i < 2; ++i)
+        if (auto* button = Col_[static_cast<std::size_t>(i)]) button->setActive(i == well && Col_[0] && Col_[1]);
+}
+
+// --- The whole picture
+
+void fFilter::showRunning(bool running)
+{
+    running_ = running;
+    for (QWidget* widget : {controls_, cmdPreview_, cmdOK_}) widget->setEnabled(!running);
+    iSrc_->setEnabled(!running);
+    state_->setText(running ? tr("Working. Esc ends it.") : QString());
+}
+
+/// Runs the filter on the document's picture and hands the result over. False: it failed or was ended, and nothing has
+/// changed; the dialog may be gone.
+bool fFilter::runFull()
+{
+    const QPointer<fFilter> alive = this;
+    cBitFilter work = frame_.filter(); // pictures are shared until written
+    work.Progress = [this, alive, report = work.Progress](int percent) {
+        if (report) {
+            report(percent);
+        } else {
+            frame_.cFilter_Progress(percent);
+            frame_.platform().yield();
+        }
+        if (!alive || cancelled_) throw Cancelled();
+    };
+    cancelled_ = false;
+    showRunning(true);
+    Bits result;
+    QString failureText;
+    try {
+        result = row_.call(work, arguments());
+    } catch (const Cancelled&) {
+    } catch (const std::exception& failure) {
+        failureText = QString::fromUtf8(failure.what());
+    }
+    if (!alive) return false;
+    showRunning(false);
+    if (result.isNull()) frame_.cFilter_Progress(0);
+    if (!failureText.isEmpty())
+        frame_.platform().message(QStringLiteral("Velara Studio"), windowTitle() + QStringLiteral(": ") + failureText,
+                                  Icon::Exclamation);
+    return !result.isNull() && alive && take_(result);
+}
+
+void fFilter::realTime()
+{
+    if (running_ || !runFull()) return;
+    applied_ = true;
+    accept();
+}
+
+void fFilter::accept()
+{
+    if (running_ || (!applied_ && !runFull())) return;
+    frame_.Update(false, true);
+    QDialog::accept();
+}
+
+void fFilter::reject()
+{
+    if (running_)
+        cancelled_ = true;
+    else
+        QDialog::reject();
+}
+
+} // namespace velara

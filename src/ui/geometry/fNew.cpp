@@ -1,0 +1,74 @@
+#include "ui/geometry/fNew.h"
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr const char* kCustom = "<Custom>";
+constexpr const char* kSizes[] = {kCustom,     "240 x 320", "320 x 240",  "480 x 640", "640 x 480",
+                                  "600 x 800", "800 x 600", "768 x 1024", "1024 x 768"};
+
+/// The list of this run, with the sizes that were typed.
+QStringList& sizeList()
+{
+    static QStringList list(std::begin(kSizes), std::end(kSizes));
+    return list;
+}
+
+/// The size last used in this run.
+QSize& lastSize()
+{
+    static QSize size(640, 480);
+    return size;
+}
+
+QString sizeText(int width, int height) { return QStringLiteral("%1 x %2").arg(width).arg(height); }
+
+} // namespace
+
+fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", "New", platform, parent), sizes_(new QComboBox)
+{
+    named(sizes_, "cbDefault", "Standard sizes")->addItems(sizeList());
+    auto* label = new QLabel("Standard sizes");
+    label->setBuddy(sizes_);
+    grid().addWidget(label, 0, 0);
+    grid().addWidget(sizes_, 0, 1);
+
+    auto* custom = new QGroupBox("Custom:");
+    fields_ = new fSizeFields("&Keep proportions", lastSize().width(), lastSize().height(), 0);
+    (new QVBoxLayout(custom))->addWidget(fields_);
+    grid().addWidget(custom, 1, 0, 1, 2);
+    addButtons("cmdOK", "cmdCancel");
+
+    sizes_->setCurrentText(sizeText(widthValue(), heightValue()));
+    connect(sizes_, &QComboBox::textActivated, this, [this](const QString& text) {
+        const QStringList parts = text.split(" x ");
+        if (parts.size() == 2) fields_->set(parts[0].toInt(), parts[1].toInt());
+    });
+    connect(fields_, &fSizeFields::changed, this, [this] {
+        const int known = sizes_->findText(sizeText(widthValue(), heightValue()));
+        sizes_->setCurrentIndex(std::max(known, 0));
+    });
+}
+
+fGeometry::Job fNew::job() const
+{
+    return [w = widthValue(), h = heightValue()](Document& document, cBitFilter& filter) {
+        document.takePicture(Bits(w, h));
+        document.handTo(filter);
+    };
+}
+
+void fNew::accept()
+{
+    if (!valid()) return;
+    lastSize() = {widthValue(), heightValue()};
+    const QString text = sizeText(widthValue(), heightValue());
+    if (!sizeList().contains(text)) sizeList().append(text);
+    QDialog::accept();
+}
+
+} // namespace velara

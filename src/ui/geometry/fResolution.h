@@ -1,0 +1,19 @@
+// fResolution: the dialog "Resolution": one of the common screen sizes.
+#pragma once
+#include "ui/geometry/fGeometry.h"
+#include <QButtonGroup>
+
+namespace velara {
+
+class fResolution final : public fGeometry {
+    Q_OBJECT
+  public:
+    explicit fResolution(Platform& platform, QWidget* parent = nullptr);
+    Job job() const override;
+
+  private:
+    QButtonGroup* sizes_;
+    QCheckBox* smooth_;
+};
+
+} // namespace velara

@@ -1,0 +1,73 @@
+#include "ui/geometry/fSize.h"
+#include "document/resizing.h"
+#include "pixels/mBitmap.h"
+#include "pixels/numbers.h"
+#include "ui/widgets/fPicture.h"
+#include <QLabel>
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+constexpr struct Quick {
+    const char* entry;
+    double factor;
+} kQuick[] = {{"1.5 *", 1.5}, {"2.0 *", 2.0}, {"1.5 /", 1 / 1.5}, {"2.0 /", 1 / 2.0}};
+
+} // namespace
+
+fSize::fSize(Platform& platform, const Bits& picture, QWidget* parent)
+    : fGeometry("fSize", "Image size", platform, parent), picture_(fittingCopy(picture, kPreview)),
+      size_(picture.width(), picture.height()),
+      fields_(new fSizeFields("&Keep proportions", picture.width(), picture.height(),
+                              double(picture.width()) / picture.height())),
+      smooth_(named(new QCheckBox("&Anti-Alias"), "chkInterpolate", "Anti-Alias")),
+      preview_(new fPicture("iSrc", "Preview", kPreview))
+{
+    auto* quickList = named(new QComboBox, "cbPreDef", "Quick");
+    for (const Quick& q : kQuick) quickList->addItem(q.entry);
+    quickList->setCurrentIndex(-1);
+    auto* label = new QLabel("Quick");
+    label->setBuddy(quickList);
+
+    grid().addWidget(preview_, 0, 0, 4, 1);
+    grid().addWidget(fields_, 0, 1, 1, 2);
+    grid().addWidget(label, 1, 1);
+    grid().addWidget(quickList, 1, 2);
+    grid().addWidget(smooth_, 2, 1, 1, 2);
+    grid().setRowStretch(3, 1);
+    smooth_->setChecked(true);
+    addButtons("cmdOK", "cmdCancel");
+
+    connect(quickList, &QComboBox::textActivated, this, &fSize::quick);
+    connect(fields_, &fSizeFields::changed, this, &fSize::showPreview);
+    connect(smooth_, &QCheckBox::toggled, this, &fSize::showPreview);
+    showPreview();
+}
+
+void fSize::quick(const QString& entry)
+{
+    const auto* q = std::ranges::find_if(kQuick, [&](const Quick& row) { return entry == row.entry; });
+    fields_->set(roundEven(fields_->widthValue() * q->factor), roundEven(fields_->heightValue() * q->factor));
+}
+
+fGeometry::Job fSize::job() const
+{
+    return [w = fields_->widthValue(), h = fields_->heightValue(), smooth = smooth_->isChecked()](
+               Document& document, cBitFilter& filter) { resizeImage(document, filter, w, h, smooth); };
+}
+
+/// The new shape in the box, as large as it gets; the resize itself is shown by the small copy.
+void fSize::showPreview()
+{
+    const int w = fields_->widthValue(), h = fields_->heightValue();
+    if (w < 1 || h < 1) return;
+    const QSize shown = fitSize({w, h}, kPreview).expandedTo({1, 1});
+    const bool smooth = smooth_->isChecked();
+    preview_->setBits(tried(picture_, [=](Document& document, cBitFilter& filter) {
+        resizeImage(document, filter, shown.width(), shown.height(), smooth);
+    }));
+}
+
+} // namespace velara

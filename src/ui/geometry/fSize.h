@@ -1,0 +1,27 @@
+// fSize: the dialog "Image size".
+#pragma once
+#include "ui/geometry/fGeometry.h"
+
+namespace velara {
+
+class fSize final : public fGeometry {
+    Q_OBJECT
+  public:
+    fSize(Platform& platform, const Bits& picture, QWidget* parent = nullptr);
+    Job job() const override;
+
+  protected:
+    bool valid() const override { return sizeAllowed(fields_->widthValue(), fields_->heightValue()); }
+
+  private:
+    void quick(const QString& entry);
+    void showPreview();
+
+    Bits picture_; // scaled to the preview
+    QSize size_;   // of the real one
+    fSizeFields* fields_;
+    QCheckBox* smooth_;
+    fPicture* preview_;
+};
+
+} // namespace velara

@@ -1,0 +1,93 @@
+#include "ui/panes/fGradient.h"
+#include "engine/cBitFilter.h"
+#include "pixels/RuntimeError.h"
+#include "seams/Frame.h"
+#include "ui/widgets/viewRender.h"
+#include <QLabel>
+#include <QSlider>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr PaneRow kGradient[] = {
+    // clang-format off
+    choice<&Setup::GradientMode>       (PaneKind::Combo, "cbGradMode", "Form of the gradient", "Linear|Circular"),
+    well<&Setup::GradientColor1>       ("GradColor_0", "First color"),
+    check<&Setup::GradientTransparent1>("chkTranspCol_0", "Transparent"),
+    well<&Setup::GradientColor2>       ("GradColor_1", "Second color"),
+    check<&Setup::GradientTransparent2>("chkTranspCol_1", "Transparent"),
+    slider<&Setup::GradientFrequency>  ("sbGradFrequency", "Frequency", 1, 20),
+    slider<&Setup::GradientPressure>   ("sbGradPressure", "Pressure", 0, 100),
+    // clang-format on
+};
+
+constexpr PaneRow kShape[] = {
+    // clang-format off
+    choice<&Setup::ShapeKind>    (PaneKind::List, "lstShape", "Shape", "Line|Free hand|Square|Rectangle|Circle|Ellipse|Polygon"),
+    slider<&Setup::ShapePressure>("sbShapePressure", "Pressure", 0, 100),
+    slider<&Setup::ShapeSides>   ("sbShapeSides", "Pol. sides", 3, 24),
+    // clang-format on
+};
+constexpr int kPolygon = 6; // of Setup.ShapeKind
+
+constexpr int kWidth = 150, kHeight = 48; // of the preview
+
+/// Squares that show through where the gradient lets them.
+Bits squares()
+{
+    Bits bits(kWidth, kHeight);
+    for (int y = 0; y < kHeight; ++y)
+        for (int x = 0; x < kWidth; ++x) {
+            const std::uint8_t grey = (x / 8 + y / 8) % 2 ? 255 : 204;
+            bits.at(x, y) = {{grey, grey, grey, 0}};
+        }
+    return bits;
+}
+
+Bits previewOf(const Setup& s)
+{
+    cBitFilter filter;
+    filter.setBits(squares());
+    filter.setBitsRegion(Region::rectangle(0, 0, kWidth, kHeight));
+    const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
+    const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
+    const int y = kHeight / 2;
+    if (s.GradientMode == 1)
+        return filter.GradientCircular(kWidth / 2, y, kWidth - 1, y, first, second, s.GradientPressure,
+                                       s.GradientFrequency);
+    return filter.GradientLinear(0, y, kWidth - 1, y, first, second, s.GradientPressure, s.GradientFrequency);
+}
+
+} // namespace
+
+FGradient::FGradient(Frame& frame, const QString& name, QWidget* parent)
+    : fPane(frame, name, kGradient, parent), iGrad_(new QLabel(this))
+{
+    iGrad_->setObjectName("iGrad");
+    iGrad_->setAccessibleName(tr("The gradient"));
+    iGrad_->setFixedSize(kWidth, kHeight);
+    column()->addWidget(iGrad_, 0, Qt::AlignHCenter);
+    edited();
+}
+
+void FGradient::edited()
+try {
+    QImage picture(kWidth, kHeight, QImage::Format_RGB32);
+    ViewRenderer().render(previewOf(frame().setup()), {}, 0, 0, picture);
+    iGrad_->setPixmap(QPixmap::fromImage(picture));
+} catch (const RuntimeError&) {
+    iGrad_->clear();
+}
+
+FShape::FShape(Frame& frame, const QString& name, QWidget* parent) : fPane(frame, name, kShape, parent) { edited(); }
+
+void FShape::edited()
+{
+    const bool polygon = frame().setup().ShapeKind == kPolygon;
+    for (const char* control : {"sbShapeSides", "lblsbShapeSides"})
+        if (auto* widget = findChild<QWidget*>(control)) widget->setEnabled(polygon);
+}
+
+} // namespace velara

@@ -1,0 +1,157 @@
+#include "ui/panes/fPane.h"
+#include "seams/Frame.h"
+#include "ui/widgets/fColorButton.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+QString plain(const char* caption) { return QString::fromUtf8(caption).remove('&').remove(':').trimmed(); }
+
+void name(QWidget* widget, const PaneRow& row)
+{
+    widget->setObjectName(row.name);
+    widget->setAccessibleName(plain(row.caption));
+    widget->setToolTip(QString::fromUtf8(row.hint));
+}
+
+QStringList entriesOf(const PaneRow& row) { return QString::fromUtf8(row.entries).split('|'); }
+
+int numberOf(const PaneRow& row, int place) { return *row.numbers ? row.numbers[place] - '0' : place; }
+
+/// The entry that stands for the number; the first one for a number that none stands for.
+int placeOf(const PaneRow& row, int number)
+{
+    const int count = static_cast<int>(entriesOf(row).size());
+    for (int place = 0; place < count; ++place)
+        if (numberOf(row, place) == number) return place;
+    return 0;
+}
+
+} // namespace
+
+fPane::fPane(Frame& frame, const QString& name, std::span<const PaneRow> rows, QWidget* parent)
+    : QFrame(parent), frame_(frame), column_(new QVBoxLayout(this))
+{
+    setObjectName(name);
+    column_->setContentsMargins(6, 6, 6, 6);
+    column_->setSpacing(4);
+    for (const PaneRow& row : rows) add(row);
+    refresh();
+}
+
+void fPane::showEvent(QShowEvent* event)
+{
+    refresh(); // the other pane of the tool may have changed something
+    QFrame::showEvent(event);
+}
+
+void fPane::refresh()
+{
+    refreshing_ = true;
+    for (const auto& show : shows_) show();
+    refreshing_ = false;
+    edited();
+}
+
+int fPane::value(const PaneRow& row) const { return row.get(frame_.setup(), frame_.toolStores); }
+
+void fPane::write(const PaneRow& row, int value)
+{
+    row.set(frame_.setup(), frame_.toolStores, value);
+    if (!refreshing_) edited();
+}
+
+void fPane::add(const PaneRow& row)
+{
+    switch (row.kind) {
+    case PaneKind::Slider:
+        return addSlider(row);
+    case PaneKind::Combo:
+    case PaneKind::List:
+        return addChoice(row);
+    case PaneKind::Check:
+        return addCheck(row);
+    case PaneKind::Well:
+        return addWell(row);
+    }
+}
+
+void fPane::addSlider(const PaneRow& row)
+{
+    auto* caption = new QLabel(QString::fromUtf8(row.caption), this);
+    auto* number = new QLabel(this);
+    number->setObjectName(QString("lbl") + row.name);
+    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption);
+    line->addWidget(number);
+    column_->addLayout(line);
+    auto* slider = new QSlider(Qt::Horizontal, this);
+    name(slider, row);
+    slider->setRange(row.low, row.high);
+    slider->setPageStep(std::max(1, (row.high - row.low) / 10));
+    caption->setBuddy(slider);
+    column_->addWidget(slider);
+    connect(slider, &QSlider::valueChanged, this, [=, this](int now) {
+        number->setNum(now);
+        write(row, now);
+    });
+    shows_.push_back([=, this] {
+        slider->setValue(value(row));
+        number->setNum(slider->value());
+        if (slider->value() != value(row)) write(row, slider->value());
+    });
+}
+
+void fPane::addChoice(const PaneRow& row)
+{
+    const auto connectAndShow = [&](auto* list, auto signal, auto current, auto select) {
+        name(list, row);
+        column_->addWidget(list);
+        connect(list, signal, this, [=, this](int place) {
+            if (place >= 0) write(row, numberOf(row, place));
+        });
+        shows_.push_back([=, this] {
+            (list->*select)(placeOf(row, value(row)));
+            if (value(row) != numberOf(row, (list->*current)())) write(row, numberOf(row, (list->*current)()));
+        });
+    };
+    if (row.kind == PaneKind::Combo) {
+        auto* combo = new QComboBox(this);
+        combo->addItems(entriesOf(row));
+        connectAndShow(combo, &QComboBox::currentIndexChanged, &QComboBox::currentIndex, &QComboBox::setCurrentIndex);
+    } else {
+        auto* list = new QListWidget(this);
+        list->addItems(entriesOf(row));
+        list->setFixedHeight(list->sizeHintForRow(0) * list->count() + 2 * list->frameWidth());
+        using Select = void (QListWidget::*)(int);
+        connectAndShow(list, &QListWidget::currentRowChanged, &QListWidget::currentRow,
+                       static_cast<Select>(&QListWidget::setCurrentRow));
+    }
+}
+
+void fPane::addCheck(const PaneRow& row)
+{
+    auto* box = new QCheckBox(QString::fromUtf8(row.caption), this);
+    name(box, row);
+    column_->addWidget(box);
+    connect(box, &QCheckBox::toggled, this, [=, this](bool on) { write(row, on); });
+    shows_.push_back([=, this] { box->setChecked(value(row) != 0); });
+}
+
+void fPane::addWell(const PaneRow& row)
+{
+    auto* button = new fColorButton(row.name, plain(row.caption), this);
+    column_->addWidget(button);
+    connect(button, &fColorButton::colourChanged, this, [=, this] { write(row, button->colour()); });
+    shows_.push_back([=, this] { button->setColour(value(row)); });
+}
+
+} // namespace velara

@@ -1,0 +1,100 @@
+#include "ui/panes/fStamp.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "tools/stamps.h"
+#include "ui/widgets/viewRender.h"
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr int kPreview = 96; // side of the preview
+
+constexpr PaneRow kRows[] = {
+    // clang-format off
+    check<&Setup::StampUseMaskColor>("chkUseMaskColor", "&Mask color :", "Use mask color"),
+    well<&Setup::StampMaskColor>    ("MaskColor", "Mask color"),
+    check<&Setup::StampMask>        ("chkStampMask", "&Stamp mask", "Current color stamp"),
+    check<&Setup::StampClearBack>   ("chkClearBack", "&Clear back", "Clear stamp track"),
+    slider<&Setup::StampPressure>   ("sbStampPressure", "Pressure", 0, 100),
+    // clang-format on
+};
+
+} // namespace
+
+FStamp::FStamp(Frame& frame, const QString& name, QWidget* parent)
+    : fPane(frame, name, kRows, parent), cbStamps_(new QComboBox(this)), iStamp_(new QLabel(this)),
+      missing_(new QLabel(tr("Stamp sub-Folder Not Found!"), this))
+{
+    cbStamps_->setObjectName("cbStamps");
+    cbStamps_->setAccessibleName(tr("Stamp"));
+    cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is down
+    cbStamps_->view()->setAccessibleName(tr("Stamp files"));
+    auto* back = new QFrame(this);
+    back->setObjectName("iStampBk");
+    back->setFrameShape(QFrame::StyledPanel);
+    back->setFixedHeight(kPreview + 8);
+    auto* inside = new QVBoxLayout(back);
+    inside->setContentsMargins(3, 3, 3, 3);
+    iStamp_->setObjectName("iStamp");
+    iStamp_->setAccessibleName(tr("The chosen stamp"));
+    iStamp_->setAlignment(Qt::AlignCenter);
+    inside->addWidget(iStamp_);
+    missing_->setObjectName("lblStamps");
+    missing_->setWordWrap(true);
+    column()->insertWidget(0, cbStamps_);
+    column()->insertWidget(1, back);
+    column()->insertWidget(2, missing_);
+    connect(cbStamps_, &QComboBox::textActivated, this, &FStamp::choose);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &FStamp::readFolder);
+    readFolder();
+}
+
+void FStamp::readFolder()
+{
+    Platform& platform = frame().platform();
+    const auto files = stampFiles(platform);
+    found_ = files.has_value();
+    missing_->setVisible(!found_);
+    // The program's folder is watched too: that of the stamps may come back.
+    for (const QString& folder : {platform.programFolder(), platform.programFolder() + "/Stamps"})
+        if (QDir(folder).exists() && !watcher_.directories().contains(folder)) watcher_.addPath(folder);
+
+    const QString before = frame().toolStores.stampFile;
+    const QSignalBlocker quiet(cbStamps_);
+    cbStamps_->clear();
+    cbStamps_->addItems(files.value_or(QStringList()));
+    cbStamps_->setEnabled(cbStamps_->count() > 0);
+    const int place = cbStamps_->findText(before);
+    cbStamps_->setCurrentIndex(std::max(place, 0));
+    if (place < 0 || before.isEmpty())
+        choose(cbStamps_->currentText()); // none yet, or gone
+    else
+        showStamp();
+}
+
+void FStamp::choose(const QString& file)
+{
+    frame().toolStores.stampFile = file;
+    frame().toolStores.stamp = loadStamp(frame().platform(), file);
+    showStamp();
+}
+
+void FStamp::showStamp()
+{
+    const Bits& stamp = frame().toolStores.stamp;
+    if (stamp.isNull()) return iStamp_->clear();
+    QImage picture(stamp.width(), stamp.height(), QImage::Format_RGB32);
+    ViewRenderer().render(stamp, {}, 0, 0, picture);
+    if (picture.width() > kPreview || picture.height() > kPreview)
+        picture = picture.scaled(kPreview, kPreview, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    iStamp_->setPixmap(QPixmap::fromImage(picture));
+}
+
+} // namespace velara

@@ -1,0 +1,97 @@
+#include "ui/view/fDisplay.h"
+#include "document/Document.h"
+#include "ui/view/fImage.h"
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace velara {
+
+namespace {
+
+Rect rectOf(const QRect& r) { return {r.x(), r.y(), r.x() + r.width(), r.y() + r.height()}; }
+QRect qrectOf(const Rect& r) { return {r.left, r.top, r.width(), r.height()}; }
+
+} // namespace
+
+fDisplay::fDisplay(fImage& image, const Document& document) : QWidget(&image), image_(image), document_(document)
+{
+    setObjectName("iDst");
+    setAccessibleName(tr("Picture"));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: no background first, no flicker
+    setAttribute(Qt::WA_NoSystemBackground);
+}
+
+void fDisplay::setSpot(int scrollX, int scrollY, int zoom)
+{
+    spot_.scrollX = scrollX;
+    spot_.scrollY = scrollY;
+    spot_.zoom = zoom;
+}
+
+void fDisplay::updateOutline()
+{
+    constexpr std::size_t kMostPieces = 32;
+    const Region& scaled = document_.Region.RegionScaled();
+    const QRect view = rect();
+    if (scaled.rectangleCount() > kMostPieces)
+        return update(qrectOf(scaled.bounds()).translated(-spot_.scrollX, -spot_.scrollY) & view);
+    QRegion edges;
+    scaled.forEachRectangle([&](const Rect& r) {
+        const QRect q = qrectOf(r).translated(-spot_.scrollX, -spot_.scrollY);
+        edges += QRegion(q & view) - QRegion(q.adjusted(1, 1, -1, -1) & view);
+    });
+    update(edges);
+}
+
+void fDisplay::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    if (!document_.PictureExists()) return painter.fillRect(event->rect(), palette().dark());
+    spot_.ratio = devicePixelRatioF();
+    const QRegion& region = event->region();
+    const QRect box = region.boundingRect();
+    qint64 area = 0;
+    for (const QRect& part : region) area += qint64(part.width()) * part.height();
+    if (area * 2 > qint64(box.width()) * box.height()) return drawPart(painter, box);
+    for (const QRect& part : region) drawPart(painter, part);
+}
+
+void fDisplay::drawPart(QPainter& painter, const QRect& part)
+{
+    const bool outline = outlineShown_ && !document_.Region.IsEmptyRegion();
+    const double k = spot_.ratio;
+    const Rect device{static_cast<int>(std::floor(part.left() * k)), static_cast<int>(std::floor(part.top() * k)),
+                      static_cast<int>(std::ceil((part.left() + part.width()) * k)),
+                      static_cast<int>(std::ceil((part.top() + part.height()) * k))};
+    const auto drawOutline = [this](QImage& strip, int left, int top) {
+        document_.Region.DrawToDC(strip, -spot_.scrollX - left, -spot_.scrollY - top,
+                                  {0, 0, strip.width(), strip.height()});
+    };
+    const bool inStrips = outline && k == 1;
+    renderer_.paint(painter, document_.Bits(), spot_, device,
+                    inStrips ? ViewRenderer::Overlay(drawOutline) : ViewRenderer::Overlay());
+    if (!outline || inStrips) return;
+    if (outline_.size() != size()) outline_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);
+    outline_.fill(Qt::transparent);
+    document_.Region.DrawToDC(outline_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.drawImage(part, outline_, part);
+}
+
+void fDisplay::mousePressEvent(QMouseEvent* event) { image_.displayPressed(*event); }
+void fDisplay::mouseMoveEvent(QMouseEvent* event) { image_.displayMoved(*event); }
+void fDisplay::mouseReleaseEvent(QMouseEvent* event) { image_.displayReleased(*event); }
+void fDisplay::wheelEvent(QWheelEvent* event) { image_.displayWheel(*event); }
+void fDisplay::keyPressEvent(QKeyEvent* event)
+{
+    if (!image_.displayKey(*event, true)) QWidget::keyPressEvent(event);
+}
+void fDisplay::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!image_.displayKey(*event, false)) QWidget::keyReleaseEvent(event);
+}
+
+} // namespace velara

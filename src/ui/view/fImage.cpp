@@ -1,0 +1,236 @@
+#include "ui/view/fImage.h"
+#include "engine/cBitFilter.h"
+#include "fileio/savePicture.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
+#include "tools/Tools.h"
+#include "ui/view/fDisplay.h"
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QStringList>
+#include <QStyle>
+
+namespace velara {
+
+namespace {
+
+const QString kTitle = QStringLiteral("Velara Studio");
+/// Kinds whose reader reports a failure; all others open empty.
+const QStringList kPlatformKinds = {"gif", "wmf", "emf", "ico", "cur", "dib"};
+constexpr int kPathPixels = 400;
+
+} // namespace
+
+fImage::fImage(Frame& frame, QWidget* parent)
+    : QWidget(parent), frame_(frame), document_(frame.platform().programFolder() + "/Temp", frame.nextDocumentNumber()),
+      iDst_(new fDisplay(*this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
+      vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_), tmrSelection_(this),
+      tools_(std::make_unique<Tools>(document_, frame, *this)),
+      barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
+{
+    setObjectName("fImage");
+    setAccessibleName(tr("Picture window"));
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Dark);
+    setFocusProxy(iDst_);
+    setMinimumSize(2 * barsWidth_, 2 * barsWidth_);
+    hSB_->setObjectName("hSB");
+    hSB_->setAccessibleName(tr("Horizontal scroll bar"));
+    vSB_->setObjectName("vSB");
+    vSB_->setAccessibleName(tr("Vertical scroll bar"));
+    shp_->setObjectName("shp");
+    shp_->setAutoFillBackground(true);
+    shp_->setBackgroundRole(QPalette::Window);
+    for (QScrollBar* bar : {hSB_, vSB_}) {
+        bar->setFocusPolicy(Qt::NoFocus); // keys always reach the tools
+        bar->hide();
+        connect(bar, &QScrollBar::valueChanged, this, &fImage::barChanged);
+    }
+    shp_->hide();
+    iDst_->hide();
+    tmrSelection_.setObjectName("tmrSelection");
+    tmrSelection_.setInterval(500);
+    connect(&tmrSelection_, &QTimer::timeout, this, &fImage::tick);
+}
+
+fImage::~fImage() { forget(); }
+
+bool fImage::SetPicture(const QString& path, const QString& ext)
+{
+    const QString kind = ext.toLower();
+    const QPointer<fImage> self = this;
+    const LoadedPicture loaded = frame_.platform().loadPicture(path, kind);
+    if (!self || (!loaded.ok() && kPlatformKinds.contains(kind))) return false;
+    PPicture(loaded.bits);
+    return true;
+}
+
+bool fImage::Save(const QString& path, const QString& ext)
+{
+    // Only a gif takes long, since its colours are reduced first. A notice of the others may outlive this window.
+    const bool slow = ext.compare("gif", Qt::CaseInsensitive) == 0;
+    if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const SaveResult result = savePicture(frame_.platform(), document_.Bits(), path, ext);
+    if (slow) QGuiApplication::restoreOverrideCursor();
+    return result == SaveResult::Written;
+}
+
+void fImage::CreateBlank(int width, int height)
+{
+    if (width < 1 || height < 1) return;
+    document_.CreateBlank(width, height);
+    layOutView();
+}
+
+void fImage::PPicture(const velara::Bits& picture)
+{
+    scrollGuard_ = true;
+    hSB_->setValue(0);
+    vSB_->setValue(0);
+    scrollGuard_ = false;
+    if (picture.isNull()) return Clear();
+    document_.takePicture(picture);
+    document_.Region.setZoomFactor(static_cast<float>(zoom_));
+    layOutView();
+}
+
+QImage fImage::ObtainedPic() const
+{
+    if (!PictureExists()) return {};
+    QImage picture(PictureWidth(), PictureHeight(), QImage::Format_RGB32);
+    ViewRenderer().render(document_.Bits(), {}, 0, 0, picture);
+    return picture;
+}
+
+void fImage::Clear()
+{
+    iDst_->hide();
+    iDst_->unsetCursor();
+    scrollGuard_ = true;
+    for (QScrollBar* bar : {hSB_, vSB_}) {
+        bar->setRange(0, 0);
+        bar->hide();
+    }
+    shp_->hide();
+    document_.Clear();
+}
+
+void fImage::BitsCopyToClipboard()
+{
+    if (PictureExists()) frame_.platform().setClipboardBitmap(document_.Bits());
+}
+
+void fImage::PasteFromClipboard()
+{
+    const velara::Bits picture = frame_.platform().clipboardBitmap();
+    if (!picture.isNull()) PPicture(picture);
+}
+
+bool fImage::UndoBits() { return step(document_.UndoBits(frame_.filter())); }
+bool fImage::RedoBits() { return step(document_.RedoBits(frame_.filter())); }
+
+bool fImage::step(bool moved)
+{
+    if (!moved) return false;
+    frame_.activeDocument = DocNumber(); // the engine holds this picture now
+    UpdateImage();
+    showSize();
+    return true;
+}
+
+void fImage::showSize()
+{
+    frame_.setStatus(Panel::Size, QString::number(PictureWidth()) + "x" + QString::number(PictureHeight()));
+}
+
+void fImage::setCaption(const QString& caption)
+{
+    setWindowTitle(caption);
+    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) window->setWindowTitle(caption);
+}
+
+void fImage::activate()
+{
+    frame_.EnableMouseScrolling();
+    if (frame_.activeDocument != DocNumber()) {
+        frame_.activeDocument = DocNumber();
+        document_.handTo(frame_.filter());
+        frame_.setStatus(Panel::Name, Caption());
+        if (PictureExists()) showSize();
+        frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
+        frame_.CheckToolbarState(false);
+        setMouseScroll(frame_.mouseScrolling());
+    } else if (tmrSelection_.isActive()) {
+        return;
+    }
+    if (!tools_->ToolDown() && !frame_.toolStores.pastePending) StartTimer();
+}
+
+void fImage::deactivate()
+{
+    tools_->deactivated();
+    StopTimer();
+    UpdateImage();
+}
+
+bool fImage::event(QEvent* event)
+{
+    // Within the frame's area the child window that holds this one tells which document is the active one.
+    if (event->type() == QEvent::ParentChange)
+        if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()))
+            connect(window, &QMdiSubWindow::windowStateChanged, this,
+                    [this](Qt::WindowStates before, Qt::WindowStates now) {
+                        if (before.testFlag(Qt::WindowActive) && !now.testFlag(Qt::WindowActive)) deactivate();
+                    });
+    return QWidget::event(event);
+}
+
+bool fImage::mayClose()
+{
+    if (!frame_.setup().AskToSave || !document_.Changed || document_.undo.UndoStep() < 2) return true;
+    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
+        window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
+    const QString text =
+        frame_.platform().compactPath(tag_, kPathPixels) + "\nThis image has changed.\n" + "Do you want to save it ?";
+    switch (frame_.platform().askYesNoCancel(kTitle, text, Icon::Information)) {
+    case Answer::Cancel:
+        return false;
+    case Answer::Yes:
+        frame_.Mmenu("SAVEAS");
+        return true;
+    case Answer::No:
+        return true;
+    }
+    return true;
+}
+
+void fImage::closeEvent(QCloseEvent* event)
+{
+    const QPointer<fImage> self = this;
+    const bool closes = mayClose();
+    if (!self) return;
+    if (!closes) return event->ignore();
+    forget();
+    event->accept();
+}
+
+/// The end of the document: its undo files go, and with the last document the status bar is emptied.
+void fImage::forget()
+{
+    if (forgotten_) return;
+    forgotten_ = true;
+    tmrSelection_.stop();
+    document_.undo.deleteSeries();
+    for (const QWidget* widget : QApplication::allWidgets())
+        if (const auto* other = qobject_cast<const fImage*>(widget);
+            other && other != this && !other->forgotten_ && &other->frame_ == &frame_)
+            return;
+    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom})
+        frame_.setStatus(panel, {});
+}
+
+} // namespace velara

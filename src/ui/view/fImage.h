@@ -1,0 +1,164 @@
+// fImage: the window of an open picture. The state lies in its Document; this is what is seen of it: the display iDst,
+// the scroll bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the marching outline, and the
+// question before it closes.
+//
+// Cut by topic: fImage.cpp (picture, names, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
+// fImage_mouse.cpp (what mouse and keys do).
+#pragma once
+#include "document/Document.h"
+#include "tools/ToolSurface.h"
+#include "ui/view/fBands.h"
+#include "ui/widgets/viewLayout.h"
+#include <QImage>
+#include <QScrollBar>
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+
+namespace velara {
+
+class Frame;
+class Tools;
+class fDisplay;
+
+class fImage final : public QWidget, public ToolSurface {
+    Q_OBJECT
+  public:
+    /// An empty document with the frame's next number. The frame outlives it.
+    explicit fImage(Frame& frame, QWidget* parent = nullptr);
+    ~fImage() override;
+
+    Document& document() { return document_; }
+    const Document& document() const { return document_; }
+    int DocNumber() const { return document_.DocNumber(); }
+
+    // --- Picture
+    /// Loads a file by the reader of its extension. A file that a reader of the platform (gif, wmf, emf, ico, cur, dib)
+    /// refuses gives false; any other that can't be read gives true and an empty document, as an unknown kind does.
+    bool SetPicture(const QString& path, const QString& ext);
+    /// Writes the picture in the format of the extension; its notices are shown here. False: nothing was written,
+    /// because it failed, there is no picture, or no writer for the extension.
+    bool Save(const QString& path, const QString& ext);
+    /// A black picture; nothing below 1 by 1. Leaves the selection alone.
+    void CreateBlank(int width, int height);
+    /// Takes a picture into the document, whatever there was; a null one clears it. The selection is wiped.
+    void PPicture(const velara::Bits& picture);
+    /// The picture without its margin, opaque; null without one.
+    QImage ObtainedPic() const;
+    bool PictureExists() const { return document_.PictureExists(); }
+    int PictureWidth() const { return document_.PictureWidth(); }
+    int PictureHeight() const { return document_.PictureHeight(); }
+    velara::Bits Bits() const { return document_.Bits(); }
+    void setBits(const velara::Bits& bits) { document_.setBits(bits); }
+    /// The window stays open, but empty.
+    void Clear();
+    void BitsCopyToClipboard();
+    /// Nothing happens when no bitmap is on the clipboard.
+    void PasteFromClipboard();
+
+    // --- Undo. Steps repaint, and report the size in the status bar.
+    bool SaveUndoBits() { return document_.SaveUndoBits(); }
+    bool UndoBits();
+    bool RedoBits();
+
+    // --- Names
+    QString Caption() const { return windowTitle(); }
+    void setCaption(const QString& caption);
+    QString Tag() const { return tag_; } // the full path, unique among the open documents
+    void setTag(const QString& tag) { tag_ = tag; }
+
+    // --- View
+    struct Dimensions {
+        int width, height, shownWidth, shownHeight;
+    };
+    Dimensions GetDimensions() const;
+    QPoint GetSBV() const { return {hSB_->value(), vSB_->value()}; }
+    QPoint GetSBM() const { return {hSB_->maximum(), vSB_->maximum()}; }
+    /// Sets both bars, then repaints once.
+    void Scroll(int x, int y);
+    void UpdateImage() override;
+    void UpdateRegion() override;
+    void SetAutoRedraw(bool on) override;
+    /// After the document got another picture from outside: lays out and repaints.
+    void pictureChanged();
+    void ZoomIn();
+    void ZoomOut();
+    int ZoomFactor() const { return zoom_; }
+    void setZoomFactor(int factor); // limited to 1..15
+    int BarsWidth() const { return barsWidth_; }
+    void setBarsWidth(int width); // below 14 gives 13
+    bool MouseScroll() const { return mouseScroll_; }
+    void setMouseScroll(bool on);
+    void StartTimer() override;
+    void StopTimer() override;
+
+    /// Brings the frame up to date with this document: engine, status bar, hand scrolling, outline.
+    void activate() override;
+    /// The outline rests and is taken off.
+    void deactivate();
+    /// A key was let go, by its number (17 is Ctrl); ends what the tools were doing with it.
+    void idst_KeyUp(int key, int shift);
+    /// The pointer of the chosen tool.
+    void showToolPointer();
+
+    // --- ToolSurface
+    void ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep) override;
+    void HideShape(BandShape shape) override;
+    void setPointer(Pointer pointer) override;
+    void setWaiting(bool on) override;
+    void repaint(const Rect& part) override;
+    void colourPicked() override;
+
+    // --- What the display hands on
+    void displayPressed(const QMouseEvent& event);
+    void displayMoved(const QMouseEvent& event);
+    void displayReleased(const QMouseEvent& event);
+    void displayWheel(QWheelEvent& event);
+    bool displayKey(const QKeyEvent& event, bool down); // false: not used
+
+    QSize sizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    bool mayClose();
+    void forget();
+    void showSize();
+    bool step(bool moved);
+    void layOutView();
+    void barChanged();
+    void tick();
+    bool handScrolls() const;
+    void scrollByHand(QPoint screen);
+    void zoomAbout(int factor, QPointF at);
+    QPoint pixelAt(QPointF at) const;
+    int buttonOf(const QMouseEvent& event) const;
+
+    Frame& frame_;
+    Document document_;
+    QString tag_;
+    fDisplay* iDst_;
+    QScrollBar *hSB_, *vSB_;
+    QWidget* shp_;
+    fBands bands_;
+    QTimer tmrSelection_;
+    std::unique_ptr<Tools> tools_;
+
+    int zoom_ = kLeastZoom;
+    int barsWidth_;
+    bool mouseScroll_ = false;
+    bool grabDown_ = false;
+    QPoint grabLast_;
+    bool scrollGuard_ = false;
+    bool laidOut_ = false;
+    QSize laidOutSize_; // the picture's size at the last layout
+    float lastHValue_ = 0, lastVValue_ = 0, lastHMax_ = 0, lastVMax_ = 0;
+    QPoint lastPixel_{-1, -1}; // where the mouse was at the last event
+    bool forgotten_ = false;
+    int wheelRest_ = 0;
+};
+
+} // namespace velara

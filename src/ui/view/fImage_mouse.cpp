@@ -1,0 +1,121 @@
+// What mouse and keys do on the display of a document: hand scrolling, the wheel, and everything else for the tools.
+#include "seams/Frame.h"
+#include "tools/Tools.h"
+#include "ui/view/fCursors.h"
+#include "ui/view/fDisplay.h"
+#include "ui/view/fImage.h"
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWheelEvent>
+
+namespace velara {
+
+namespace {
+
+constexpr int kWheelNotch = 120;
+constexpr int kWheelPixels = 48; // logical pixels a notch
+
+int buttonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return Tools::Left;
+    case Qt::RightButton:
+        return Tools::Right;
+    default:
+        return Tools::NoButton;
+    }
+}
+
+struct KeyRow {
+    int qt, number;
+};
+constexpr KeyRow kKeys[] = {
+    // clang-format off
+    {Qt::Key_Control, Tools::Ctrl},     {Qt::Key_Space, Tools::Space},    {Qt::Key_Left, Tools::ArrowLeft},
+    {Qt::Key_Up,      Tools::ArrowUp},  {Qt::Key_Right, Tools::ArrowRight}, {Qt::Key_Down, Tools::ArrowDown},
+    // clang-format on
+};
+
+} // namespace
+
+QPoint fImage::pixelAt(QPointF at) const
+{
+    return {pictureAt(at.x(), hSB_->value(), zoom_), pictureAt(at.y(), vSB_->value(), zoom_)};
+}
+
+/// The button that is held during a move.
+int fImage::buttonOf(const QMouseEvent& event) const
+{
+    if (event.buttons() & Qt::LeftButton) return Tools::Left;
+    return event.buttons() & Qt::RightButton ? Tools::Right : Tools::NoButton;
+}
+
+void fImage::displayPressed(const QMouseEvent& event)
+{
+    if (!PictureExists()) return;
+    const int button = buttonNumber(event.button());
+    if (button == Tools::NoButton) return;
+    const QPoint pixel = lastPixel_ = pixelAt(event.position());
+    if (button == Tools::Left && handScrolls()) {
+        activate();
+        grabDown_ = true;
+        grabLast_ = event.globalPosition().toPoint();
+        iDst_->setCursor(cGrab());
+        return;
+    }
+    tools_->press(button, pixel.x(), pixel.y());
+}
+
+void fImage::displayMoved(const QMouseEvent& event)
+{
+    if (!PictureExists()) return;
+    if (grabDown_) {
+        if (event.buttons() & Qt::LeftButton) scrollByHand(event.globalPosition().toPoint());
+        return;
+    }
+    const QPoint pixel = pixelAt(event.position());
+    if (pixel == lastPixel_) return; // within the same picture pixel
+    lastPixel_ = pixel;
+    tools_->move(buttonOf(event), pixel.x(), pixel.y());
+}
+
+void fImage::displayReleased(const QMouseEvent& event)
+{
+    if (grabDown_ && event.button() == Qt::LeftButton) {
+        grabDown_ = false;
+        if (handScrolls()) iDst_->setCursor(cRelease());
+        return;
+    }
+    const int button = buttonNumber(event.button());
+    if (button == Tools::NoButton) return;
+    const QPoint pixel = pixelAt(event.position());
+    tools_->release(button, pixel.x(), pixel.y());
+}
+
+void fImage::displayWheel(QWheelEvent& event)
+{
+    if (!PictureExists()) return event.ignore();
+    event.accept();
+    if (event.modifiers() & Qt::ControlModifier) {
+        wheelRest_ += event.angleDelta().y();
+        const int notches = wheelRest_ / kWheelNotch;
+        wheelRest_ -= notches * kWheelNotch;
+        if (notches != 0) zoomAbout(zoom_ + notches, event.position());
+        return;
+    }
+    QPoint way = event.pixelDelta().isNull() ? event.angleDelta() * kWheelPixels / kWheelNotch : event.pixelDelta();
+    if (event.modifiers() & Qt::ShiftModifier) way = way.transposed();
+    Scroll(hSB_->value() - way.x(), vSB_->value() - way.y());
+}
+
+bool fImage::displayKey(const QKeyEvent& event, bool down)
+{
+    for (const KeyRow& row : kKeys)
+        if (row.qt == event.key()) return down ? tools_->keyDown(row.number) : tools_->keyUp(row.number);
+    return false;
+}
+
+void fImage::idst_KeyUp(int key, int) { tools_->keyUp(key); }
+
+} // namespace velara

@@ -1,0 +1,225 @@
+// The view of a document's window: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
+#include "seams/Frame.h"
+#include "tools/Tools.h"
+#include "ui/view/fCursors.h"
+#include "ui/view/fDisplay.h"
+#include "ui/view/fImage.h"
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QResizeEvent>
+
+namespace velara {
+
+namespace {
+
+QRect qrectOf(const Rect& r) { return {r.left, r.top, r.width(), r.height()}; }
+
+} // namespace
+
+QSize fImage::sizeHint() const
+{
+    QSize most(800, 600);
+    if (const auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
+        most = window->mdiArea()->viewport()->size() * 4 / 5;
+    const QSize zoomed(PictureWidth() * zoom_, PictureHeight() * zoom_);
+    return zoomed.boundedTo(most).expandedTo({160, 120});
+}
+
+void fImage::resizeEvent(QResizeEvent*)
+{
+    if (!PictureExists()) return;
+    layOutView();
+}
+
+void fImage::layOutView()
+{
+    if (!PictureExists()) return;
+    if (!zoomFits(PictureWidth(), PictureHeight(), zoom_) && zoom_ > kLeastZoom) return setZoomFactor(kLeastZoom);
+    const ViewLayout l = layOut({PictureWidth(), PictureHeight(), zoom_, width(), height(), barsWidth_});
+    const float hValue = lastHValue_, vValue = lastVValue_;
+    scrollGuard_ = true;
+    const auto place = [&](QScrollBar* bar, const Rect& at, bool needed, int maximum, int page, float value,
+                           float last) {
+        bar->setGeometry(qrectOf(at));
+        bar->setRange(0, maximum);
+        bar->setPageStep(page);
+        bar->setSingleStep(zoom_);
+        bar->setValue(restoredValue(maximum, laidOut_, value, last));
+        bar->setVisible(needed);
+    };
+    place(hSB_, l.hSB, l.needH, l.hMax, l.iDst.width(), hValue, lastHMax_);
+    place(vSB_, l.vSB, l.needV, l.vMax, l.iDst.height(), vValue, lastVMax_);
+    shp_->setGeometry(qrectOf(l.shp));
+    shp_->setVisible(l.needH && l.needV);
+    lastHValue_ = static_cast<float>(hSB_->value());
+    lastVValue_ = static_cast<float>(vSB_->value());
+    lastHMax_ = static_cast<float>(l.hMax);
+    lastVMax_ = static_cast<float>(l.vMax);
+    laidOut_ = true;
+    laidOutSize_ = {PictureWidth(), PictureHeight()};
+    iDst_->setSpot(hSB_->value(), vSB_->value(), zoom_);
+    iDst_->setGeometry(qrectOf(l.iDst));
+    if (handScrolls())
+        iDst_->setCursor(cRelease());
+    else if (mouseScroll_)
+        iDst_->unsetCursor();
+    iDst_->show();
+    scrollGuard_ = false;
+    iDst_->update();
+}
+
+void fImage::barChanged()
+{
+    lastHValue_ = static_cast<float>(hSB_->value());
+    lastVValue_ = static_cast<float>(vSB_->value());
+    if (scrollGuard_) return;
+    iDst_->setSpot(hSB_->value(), vSB_->value(), zoom_);
+    iDst_->update();
+}
+
+void fImage::Scroll(int x, int y)
+{
+    scrollGuard_ = true;
+    hSB_->setValue(x);
+    vSB_->setValue(y);
+    scrollGuard_ = false;
+    barChanged();
+}
+
+fImage::Dimensions fImage::GetDimensions() const
+{
+    return {PictureWidth(), PictureHeight(), iDst_->width(), iDst_->height()};
+}
+
+void fImage::pictureChanged()
+{
+    document_.Region.setZoomFactor(static_cast<float>(zoom_));
+    layOutView();
+}
+
+void fImage::UpdateImage()
+{
+    if (!PictureExists()) return;
+    if (laidOutSize_ != QSize(PictureWidth(), PictureHeight())) pictureChanged();
+    iDst_->setOutlineShown(tmrSelection_.isActive());
+    iDst_->repaint();
+}
+
+void fImage::repaint(const Rect& part)
+{
+    if (!PictureExists()) return;
+    if (iDst_->outlineShown() && !tmrSelection_.isActive()) { // an outline that rests goes with the next repaint
+        iDst_->setOutlineShown(false);
+        return iDst_->update();
+    }
+    const QPoint scroll = GetSBV();
+    iDst_->update(qrectOf(viewRect(part, scroll.x(), scroll.y(), zoom_)) & iDst_->rect());
+}
+
+void fImage::UpdateRegion()
+{
+    iDst_->setOutlineShown(true);
+    iDst_->updateOutline();
+}
+
+void fImage::SetAutoRedraw(bool on)
+{
+    if (on) UpdateImage();
+}
+
+void fImage::ZoomIn()
+{
+    if (PictureExists() && zoom_ < kMostZoom) setZoomFactor(zoom_ + 1);
+}
+
+void fImage::ZoomOut()
+{
+    if (PictureExists() && zoom_ > kLeastZoom) setZoomFactor(zoom_ - 1);
+}
+
+void fImage::setZoomFactor(int factor)
+{
+    zoom_ = std::clamp(factor, kLeastZoom, kMostZoom);
+    document_.Region.setZoomFactor(static_cast<float>(zoom_));
+    if (frame_.activeDocument == DocNumber()) frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
+    layOutView();
+}
+
+void fImage::setBarsWidth(int width)
+{
+    barsWidth_ = width < kLeastBarsWidth + 1 ? kLeastBarsWidth : width;
+    setMinimumSize(2 * barsWidth_, 2 * barsWidth_); // a smaller window is enlarged
+    layOutView();
+}
+
+void fImage::zoomAbout(int factor, QPointF at)
+{
+    const double x = (at.x() + hSB_->value()) / zoom_, y = (at.y() + vSB_->value()) / zoom_;
+    const QPointF inWindow = iDst_->mapToParent(at.toPoint());
+    setZoomFactor(factor);
+    const QPointF now = inWindow - QPointF(iDst_->pos());
+    Scroll(qRound(x * zoom_ - now.x()), qRound(y * zoom_ - now.y()));
+}
+
+bool fImage::handScrolls() const { return mouseScroll_ && (hSB_->maximum() > 0 || vSB_->maximum() > 0); }
+
+void fImage::setMouseScroll(bool on)
+{
+    mouseScroll_ = on;
+    if (handScrolls())
+        iDst_->setCursor(cRelease());
+    else
+        showToolPointer();
+}
+
+void fImage::scrollByHand(QPoint screen)
+{
+    const QPoint step = screen - grabLast_;
+    grabLast_ = screen;
+    Scroll(hSB_->value() - step.x(), vSB_->value() - step.y()); // the bars limit
+}
+
+void fImage::StartTimer()
+{
+    iDst_->setOutlineShown(true);
+    tick();
+    tmrSelection_.start();
+}
+
+void fImage::StopTimer() { tmrSelection_.stop(); }
+
+void fImage::tick()
+{
+    if (document_.Region.IsEmptyRegion()) return;
+    document_.Region.RotateBrush();
+    iDst_->updateOutline();
+}
+
+void fImage::ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep)
+{
+    const QPoint scroll = GetSBV();
+    const Rect r = viewRect({x1, y1, x2, y2}, scroll.x(), scroll.y(), zoom_);
+    bands_.show(shape, {r.left, r.top}, {r.right, r.bottom}, keep);
+}
+
+void fImage::HideShape(BandShape shape) { bands_.hide(shape); }
+
+void fImage::setPointer(Pointer pointer)
+{
+    if (!handScrolls()) iDst_->setCursor(cursorOf(pointer));
+}
+
+void fImage::showToolPointer() { tools_->showPointer(); }
+
+void fImage::setWaiting(bool on)
+{
+    if (on)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+void fImage::colourPicked() { frame_.showColors(); }
+
+} // namespace velara

@@ -1,0 +1,32 @@
+// fColorButton: a colour well. Shows its colour, opens the choice of colours on a click; the active well of a pair has
+// a frame.
+#pragma once
+#include "pixels/Bits.h"
+#include <QAbstractButton>
+
+namespace velara {
+
+class fColorButton final : public QAbstractButton {
+    Q_OBJECT
+  public:
+    fColorButton(const QString& name, const QString& accessibleName, QWidget* parent);
+
+    Colour colour() const { return colour_; }
+    void setColour(Colour colour); // colourChanged when it is another
+    void setActive(bool active);
+    QSize sizeHint() const override { return {56, 26}; }
+
+  signals:
+    void colourChanged();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void choose();
+
+    Colour colour_ = 0;
+    bool active_ = false;
+};
+
+} // namespace velara

@@ -1,0 +1,95 @@
+#include "ui/widgets/viewRender.h"
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace velara {
+
+namespace {
+
+constexpr std::uint32_t kOpaque = 0xFF000000;
+
+/// The picture column or row of each device pixel from 0: exact for whole ratios, the one under the middle of the
+/// device pixel for others.
+class Axis {
+  public:
+    Axis(int scroll, int zoom, double ratio, int most) : scroll_(scroll), zoom_(zoom), most_(most), ratio_(ratio)
+    {
+        whole_ = ratio == std::floor(ratio) ? static_cast<int>(ratio) : 0;
+    }
+    int at(int device) const
+    {
+        const int logical = whole_ ? device / whole_ : static_cast<int>((device + 0.5) / ratio_);
+        return std::clamp((logical + scroll_) / zoom_, 0, most_);
+    }
+
+  private:
+    int scroll_, zoom_, most_, whole_;
+    double ratio_;
+};
+
+const std::uint32_t* words(const Bits& bits, int y) { return reinterpret_cast<const std::uint32_t*>(bits.row(y)); }
+
+void copyOpaque(const std::uint32_t* from, std::uint32_t* to, int count)
+{
+    for (int i = 0; i < count; ++i) to[i] = from[i] | kOpaque;
+}
+
+void pickOpaque(const std::uint32_t* from, const int* columns, std::uint32_t* to, int count)
+{
+    for (int i = 0; i < count; ++i) to[i] = from[columns[i]] | kOpaque;
+}
+
+} // namespace
+
+void ViewRenderer::render(const Bits& bits, const ViewSpot& spot, int left, int top, QImage& target)
+{
+    const int width = target.width();
+    if (target.isNull() || bits.isNull()) return;
+    const Axis across(spot.scrollX, spot.zoom, spot.ratio, bits.maxX());
+    const Axis down(spot.scrollY, spot.zoom, spot.ratio, bits.maxY());
+    columns_.resize(static_cast<std::size_t>(width));
+    for (int x = 0; x < width; ++x) columns_[static_cast<std::size_t>(x)] = across.at(left + x);
+    const bool oneToOne = spot.ratio >= 1 && columns_.back() - columns_.front() == width - 1;
+
+    const auto lineOf = [&, first = target.bits()](int y) {
+        return reinterpret_cast<std::uint32_t*>(first + y * target.bytesPerLine());
+    };
+    int shown = -1; // the picture row that the line above holds
+    for (int y = 0; y < target.height(); ++y) {
+        std::uint32_t* const line = lineOf(y);
+        const int row = down.at(top + y);
+        if (row == shown)
+            std::memcpy(line, lineOf(y - 1), sizeof *line * static_cast<std::size_t>(width));
+        else if (oneToOne)
+            copyOpaque(words(bits, row) + columns_.front(), line, width);
+        else
+            pickOpaque(words(bits, row), columns_.data(), line, width);
+        shown = row;
+    }
+}
+
+void ViewRenderer::paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part,
+                         const Overlay& overlay)
+{
+    constexpr int kGrid = 8;
+    constexpr int kStripPixels = 1 << 16;
+    const int left = part.left & -kGrid, width = part.right - left;
+    if (part.isEmpty()) return;
+    const int rows = std::max(kStripPixels / width, kGrid) & -kGrid;
+    strip_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(rows));
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.scale(1 / spot.ratio, 1 / spot.ratio); // to device pixels, so that nothing is scaled twice
+    for (int top = part.top & -kGrid; top < part.bottom; top += rows) {
+        QImage strip(reinterpret_cast<uchar*>(strip_.data()), width, std::min(rows, part.bottom - top), 4 * width,
+                     QImage::Format_RGB32);
+        render(bits, spot, left, top, strip);
+        if (overlay) overlay(strip, left, top);
+        painter.drawImage(left, top, strip);
+    }
+    painter.restore();
+}
+
+} // namespace velara

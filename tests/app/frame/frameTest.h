@@ -1,0 +1,54 @@
+// A frame with a recording platform, a scratch program folder and pictures to open in it.
+#pragma once
+#include "app/frame/fMain.h"
+#include "app/menus/fIcons.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+struct FrameTest : ::testing::Test {
+    RecordingPlatform platform;
+    velara::Setup setup;
+    std::unique_ptr<fMain> frame;
+
+    void SetUp() override
+    {
+        useResources();
+        QDir(platform.programFolder()).mkpath("Temp");
+        frame = std::make_unique<fMain>(platform, setup);
+        frame->applyBars();
+        frame->show();
+    }
+    void TearDown() override
+    {
+        setup.AskToSave = false;
+        frame.reset();
+    }
+
+    QString path(const QString& name) { return platform.folder.filePath(name); }
+    /// A picture file with no two pixels alike in a row.
+    QString file(const QString& name, int width = 12, int height = 8)
+    {
+        QImage image(width, height, QImage::Format_RGB32);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x) image.setPixel(x, y, qRgb(x * 3, y * 5, (x + y) % 256));
+        EXPECT_TRUE(image.save(path(name)));
+        return path(name);
+    }
+    fImage* open(const Bits& bits, const QString& name = "picture.bmp")
+    {
+        auto* image = new fImage(*frame);
+        image->PPicture(bits);
+        frame->adopt(image, path(name));
+        QCoreApplication::processEvents();
+        return image;
+    }
+    std::string last() const { return platform.log.empty() ? std::string() : platform.log.back(); }
+};
+
+} // namespace velara

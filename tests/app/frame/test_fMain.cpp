@@ -1,0 +1,415 @@
+// The frame: the command language, what each command asks and says, and what it leaves behind.
+#include "app/frame/fDocumentWindow.h"
+#include "app/frame/fStatus.h"
+#include "app/frame/fToolPane.h"
+#include "app/frame/frameTest.h"
+#include "app/menus/menus.h"
+#include "engine/operations.h"
+#include "pixels/RuntimeError.h"
+#include <QAbstractButton>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QSet>
+#include <QSlider>
+#include <QTimer>
+#include <QToolBar>
+
+namespace velara {
+
+// Words of the language by what they need; every one must be known, and no other spelling of it.
+TEST_F(FrameTest, TheWholeVocabularyIsKnownAndNothingElse)
+{
+    const QString words =
+        "NEW OPEN FILEASSOCIATION PRINTERSETUP SELECTSOURCE ACQUIRETWAIN CAPTUREDESKTOP CAPTUREFOREGROUND "
+        "CAPTUREBACKGROUND CUSTOMCAPTURE UNDO REDO CREATENEWCOPY COPYIMAGETOCLIPBOARD CREATEFROMCLIPBOARD IMAGESIZE "
+        "CANVASSIZE IMAGEORIENTATION IMAGEROTATE CLOSE SAVE SAVEAS PRINT CUT COPY PASTE CROP OPTIONS 200 300 400 500 "
+        "600 "
+        "700 50 33 25 20 15 10 ORIGINAL 2x 3x 4x 5x x2 x3 x4 x5 N90 N180 N270 N45 A90 A180 A270 A45 FLIPH FLIPV "
+        "IMAGEMERGING PASTELAYERSBOX IMAGETEXTURES IMAGERESOLUTION IMAGESAVEOPTIONS IMAGECOLORDEPTH TEXTTOOLS WTILE "
+        "WCENTER WSTRETCH TILEHORIZONTALLY TILEVERTICALLY CASCADE RESET PRINTPREVIEW RESTORE IMAGEPROPERTIES "
+        "EXTRACTICON "
+        "MOSAIC VERTICALINTERLEAVE HORIZONTALINTERLEAVE SQUAREINTERLEAVE CUSTOMINTERLEAVE TARNISH RGB TALCOMPOWDER "
+        "IMAGESCALE IMAGECAPTURER HELPBAR TEXTBAR TOOLSBAR MENUBAR FILTERSBAR COLORSBAR EFFECTSBAR STANDARDBAR "
+        "GRADIENTBOX TEMPLATEBOX STATUSBAR MNUFLAT MNUSOLIDBAR MNU3DWATER MNU3DMETALLIC MNULIGHTGRADIENT "
+        "MNUHEAVYGRADIENT MNUSTANDARD MNUDELUXE MNUWHITE MNUSILVER INDEX FAQ TUTORIALS SUPPORT HOMEPAGE ABOUT "
+        "INVERT GRAYSCALE RELIEF ERODE DILATE PAINTING EDGEENHANCE LUMPLUS LUMMINUS BBRIGHTNESS LIGHTSHARPEN "
+        "HEAVYSHARPEN LIGHTEMBOSS HEAVYEMBOSS LIGHTCONTOUR HEAVYCONTOUR LIGHTDIFFUSE HEAVYDIFFUSE LIGHTENGRAVE "
+        "HEAVYENGRAVE LIGHTSOFTEN HEAVYSOFTEN LIGHTBLUR HEAVYBLUR LIGHTNOISE HEAVYNOISE LIGHTSATURATION "
+        "HEAVYSATURATION "
+        "WWAVES AADDSCANLINES FISHEYE THERMIQUE XBLACK PHOTOCOP OLDPHOTO SEPIATONE SLANTING HORIZONTAL VERTICAL SQUARY "
+        "CURTAINHORIZONTAL CURTAINVERTICAL CURTAINCLASSY CURTAINWHITY HARDRED HARDGREEN HARDBLUE HARDYELLOW CYAN "
+        "MAGENTA "
+        "SOFTBLUE SOFTGREEN PURPLE SOFTRED SPOTTED RETRO SOFTYELLOW ORANGE WETPAPER RGB2BRG RGB2GBR RGB2RBG RGB2BGR "
+        "RGB2GRB COLORIZE LIGHTCUSTOM BRIGHTNESS CONTRAST CUSTOMSATURATION GAMMA CUSTOMDIFFUSE CUSTOMBLUR HAFTONE "
+        "PIXELIZE CUSTOMEMBOSS CUSTOMENGRAVE CUSTOMCONTOUR SKETCH ISOLATE REPLACE REPLACEHUESAT REPLACELUMINOUS "
+        "CUSTOMSHARPEN CUSTOMSOFTEN SHIFT HUEROTATION GREYROTATION HUESTRETCH RGBLEVELS RGBBANKS LENS WAVES BEND FOLD "
+        "ROTATE STRETCH TILE TWIRL ADDGRID LENSFLARE CUSTOMNOISE ADDNOISE ADDSCANLINES CUSTOMGLASS CUSTOMCURTAIN";
+    QSet<QString> all;
+    for (const QString& word : words.split(' ')) {
+        EXPECT_TRUE(fMain::known(word.toStdString())) << word.toStdString();
+        all << word;
+    }
+    const QSet<QString> unanswered{"RESTOREORIGINAL", "N360", "A360"};
+    for (const Command& command : fMain::commands())
+        EXPECT_TRUE((all + unanswered).contains(text(command.word))) << command.word;
+    for (const char* word : {"new", "2X", "HALFTONE", "", "@BAR9"}) EXPECT_FALSE(fMain::known(word)) << word;
+}
+
+TEST_F(FrameTest, WithoutADocumentOnlyTheFreeCommandsDoAnything)
+{
+    std::vector<std::string> words;
+    for (const Command& command : fMain::commands())
+        if (command.stage != Stage::Free) words.emplace_back(command.word);
+    for (const Preset& preset : presets()) words.emplace_back(preset.word);
+    for (const std::string& word : words) frame->Mmenu(QString::fromStdString(word));
+    EXPECT_TRUE(platform.log.empty()) << last();
+    EXPECT_EQ(platform.yields, 0);
+    EXPECT_TRUE(frame->documents().isEmpty());
+
+    frame->Mmenu("OPEN");
+    EXPECT_EQ(last(), "open: Open file");
+    platform.clipboard = randomBits(5, 4, 1);
+    frame->Mmenu("CREATEFROMCLIPBOARD");
+    ASSERT_EQ(frame->documents().size(), 1);
+    EXPECT_EQ(frame->documents()[0]->PictureWidth(), 5);
+    EXPECT_EQ(frame->documents()[0]->Caption(), "New.bmp");
+}
+
+TEST_F(FrameTest, EveryItemAndButtonGivesAKnownWordAndIsEnabledWhenItIsThere)
+{
+    QSet<QString> names;
+    const auto check = [&](const QString& name, std::string_view word) {
+        EXPECT_TRUE(fMain::known(word)) << name.toStdString();
+        EXPECT_FALSE(names.contains(name)) << "twice: " << name.toStdString();
+        names << name;
+        const QAction* action = frame->action(name);
+        ASSERT_NE(action, nullptr) << name.toStdString();
+        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // by their own state
+        EXPECT_TRUE(follows || action->isEnabled() == fMain::available(word)) << name.toStdString();
+    };
+    int items = 0;
+    for (const MenuRow& row : menuRows())
+        if (row.kind == MenuKind::Item) {
+            check(text(row.array) + "_" + QString::number(row.index), row.word);
+            ++items;
+        }
+    EXPECT_GT(items, 170);
+    for (const ButtonRow& row : buttonRows()) check(text(row.bar) + "_" + QString::number(row.number), row.word);
+    for (const DropRow& row : dropRows())
+        check(text(row.bar) + "_" + QString::number(row.button) + "_" + QString::number(row.item), row.word);
+}
+
+TEST_F(FrameTest, NoMenuHasAnAccessKeyTwiceAndItemsGoWithoutOnlyWhenNoneIsLeft)
+{
+    for (const QMenu* menu : frame->findChildren<QMenu*>()) {
+        if (menu->objectName() == "mnuRecent") continue;
+        QSet<QChar> taken;
+        QString without;
+        for (const QAction* item : menu->actions()) {
+            if (item->isSeparator()) continue;
+            const QString caption = QString(item->text()).replace("&&", "");
+            const qsizetype at = caption.indexOf('&');
+            if (at < 0) {
+                without += caption;
+                continue;
+            }
+            const QChar key = caption[at + 1].toUpper();
+            EXPECT_FALSE(taken.contains(key)) << menu->objectName().toStdString() << ": " << caption.toStdString();
+            taken << key;
+        }
+        for (const QChar letter : without)
+            EXPECT_TRUE(!letter.isLetterOrNumber() || taken.contains(letter.toUpper()))
+                << menu->objectName().toStdString() << ": " << without.toStdString();
+    }
+}
+
+TEST_F(FrameTest, SizingCommandsGiveTheirSizes)
+{
+    struct Row {
+        const char* word;
+        int width, height;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {"50", 105, 52}, {"33", 70, 35}, {"25", 52, 26}, {"20", 42, 21},
+        {"15", 30, 15},                             // a seventh
+        {"10", 23, 12},                             // a ninth
+        {"2x", 420, 210}, {"5x", 1050, 525}, {"x2", 105, 52}, {"x5", 42, 21},
+        {"N90", 105, 210}, {"N270", 105, 210}, {"N180", 210, 105}, {"A90", 105, 210},
+        {"N360", 210, 105}, {"RESTOREORIGINAL", 210, 105},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        fImage* image = open(randomBits(210, 105, 3));
+        frame->Mmenu(row.word);
+        EXPECT_EQ(image->PictureWidth(), row.width) << row.word;
+        EXPECT_EQ(image->PictureHeight(), row.height) << row.word;
+        EXPECT_EQ(frame->filter().BitsWidth(), row.width) << row.word;
+        setup.AskToSave = false;
+        frame->Mmenu("CLOSE");
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(frame->documents().isEmpty());
+    }
+}
+
+TEST_F(FrameTest, RepeatedSizingStartsFromTheSamePicture)
+{
+    fImage* image = open(randomBits(40, 20, 4));
+    frame->Mmenu("ORIGINAL"); // empties the margin, which no file brings
+    frame->Update(false, true);
+    const Bits before = image->Bits();
+    frame->Mmenu("50");
+    frame->Mmenu("50");
+    EXPECT_EQ(image->PictureWidth(), 20);
+    EXPECT_EQ(frame->status().panel(Panel::Size), "20x10");
+    frame->Mmenu("ORIGINAL");
+    EXPECT_TRUE(sameBits(before, image->Bits()));
+}
+
+TEST_F(FrameTest, ViewZoomLeavesThePixels)
+{
+    fImage* image = open(randomBits(9, 9, 4));
+    frame->Mmenu("700");
+    EXPECT_EQ(image->ZoomFactor(), 7);
+    EXPECT_EQ(image->PictureWidth(), 9);
+    EXPECT_EQ(frame->status().panel(Panel::Zoom), "7 : 1");
+    frame->toolClicked("ZoomOut");
+    EXPECT_EQ(frame->status().panel(Panel::Zoom), "6 : 1");
+}
+
+TEST_F(FrameTest, AFilterTakesOneUndoStepAndMarksTheDocument)
+{
+    fImage* image = open(randomBits(30, 20, 5));
+    const Bits before = image->Bits();
+    frame->Mmenu("INVERT");
+    EXPECT_EQ(platform.yields > 0, true);
+    EXPECT_FALSE(image->Bits() == before);
+    EXPECT_TRUE(frame->filter().bits() == image->Bits());
+    EXPECT_EQ(image->document().undo.UndoStep(), 2);
+    EXPECT_TRUE(image->document().Changed);
+    EXPECT_TRUE(frame->action("tb_0_7")->isEnabled());
+    EXPECT_FALSE(frame->action("tb_0_8")->isEnabled());
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_FALSE(frame->action("tb_0_7")->isEnabled());
+    EXPECT_TRUE(frame->action("tb_0_8")->isEnabled());
+}
+
+TEST_F(FrameTest, AFilterDialogPutsItsResultIntoTheDocument)
+{
+    fImage* image = open(randomBits(60, 40, 5));
+    const Bits before = image->Bits();
+    for (const char* button : {"cmdCancel", "cmdOK"}) {
+        QTimer::singleShot(0, [button] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->windowTitle(), "Adjust [Brightness]");
+            dialog->findChild<QSlider*>("sbFilter_0")->setValue(30);
+            dialog->findChild<QAbstractButton*>(button)->click();
+        });
+        frame->Mmenu("BRIGHTNESS");
+        const bool ok = button == std::string("cmdOK");
+        EXPECT_EQ(image->document().undo.UndoStep(), ok ? 2 : 1);
+        EXPECT_EQ(image->document().Changed, ok);
+        EXPECT_EQ(ok, !sameBits(before, image->Bits()));
+        EXPECT_TRUE(sameBits(image->Bits(), frame->filter().bits()));
+    }
+    cBitFilter filter;
+    filter.setBits(before);
+    filter.setBitsRegion(Region::rectangle(0, 0, 60, 40));
+    EXPECT_TRUE(sameBits(filter.BRIGHTNESS(30), image->Bits()));
+}
+
+TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
+{
+    fImage* image = open(randomBits(30, 20, 5));
+    const Bits before = image->Bits();
+    for (const int failure : {0, 1, 2}) {
+        frame->runOnEngine("TEST", [&](cBitFilter& filter) {
+            filter.setBits(flatBits(30, 20, 1, 2, 3));
+            filter.setBitsRegion({});
+            if (failure == 0) throw RuntimeError(Fault::Overflow);
+            if (failure == 1) throw std::bad_alloc();
+            throw Cancelled();
+        });
+        EXPECT_TRUE(sameBits(before, image->Bits()));
+        EXPECT_TRUE(sameBits(before, frame->filter().bits()));
+        EXPECT_TRUE(frame->filter().BitsRegion().contains(29, 19));
+        EXPECT_EQ(image->document().undo.UndoStep(), 1);
+        EXPECT_FALSE(image->document().Changed);
+    }
+}
+
+TEST_F(FrameTest, ADocumentClosedDuringAFilterEndsIt)
+{
+    QPointer<fImage> image = open(randomBits(64, 64, 5));
+    platform.onYield = [&] {
+        if (!frame->documents().isEmpty() && platform.yields == 2) {
+            frame->Mmenu("CLOSE");
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    };
+    frame->Mmenu("INVERT");
+    platform.onYield = nullptr;
+    EXPECT_TRUE(frame->documents().isEmpty());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(image.isNull());
+    EXPECT_TRUE(QDir(path("Temp")).entryList(QDir::Files).isEmpty()); // no step was taken for the closed document
+}
+
+TEST_F(FrameTest, TheFrameClosedDuringAFilterEndsIt)
+{
+    fImage* image = open(randomBits(64, 64, 5));
+    const Bits before = image->Bits();
+    platform.onYield = [&] {
+        if (platform.yields == 2) frame->close();
+    };
+    frame->Mmenu("INVERT");
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_EQ(QFileInfo(path("Vlaera.dat")).size(), 3081);
+}
+
+TEST_F(FrameTest, AFilterStaysWithItsDocumentWhenTheUserGoesOnToAnother)
+{
+    fImage* first = open(randomBits(64, 64, 5), "a.bmp");
+    const Bits firstBefore = first->Bits();
+    fImage* second = open(randomBits(32, 32, 6), "b.bmp");
+    const Bits secondBefore = second->Bits();
+    frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(first->parentWidget()));
+    platform.onYield = [&] {
+        if (platform.yields == 2)
+            frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(second->parentWidget()));
+    };
+    frame->Mmenu("INVERT");
+    platform.onYield = nullptr;
+    EXPECT_FALSE(first->Bits() == firstBefore);
+    EXPECT_TRUE(sameBits(secondBefore, second->Bits()));
+    EXPECT_TRUE(sameBits(secondBefore, frame->filter().bits()));
+    EXPECT_EQ(second->document().undo.UndoStep(), 1);
+}
+
+TEST_F(FrameTest, CropSaysWhyItCannot)
+{
+    fImage* image = open(randomBits(20, 20, 5));
+    frame->Mmenu("CROP");
+    EXPECT_EQ(last(), "message: Crop: Nothing selected");
+    EXPECT_EQ(platform.lastIcon, Icon::Information);
+    image->document().Region.CreateRect(3, 3, 4, 9, Combine::Or, true);
+    frame->Mmenu("CROP");
+    EXPECT_EQ(last(), "message: Crop: Minimum size: 2 x 2");
+    image->document().Region.CreateRect(3, 3, 9, 7, Combine::Or, true);
+    frame->Mmenu("CROP");
+    EXPECT_EQ(image->PictureWidth(), 6);
+    EXPECT_EQ(frame->status().panel(Panel::Size), "6x6");
+    EXPECT_EQ(image->document().undo.UndoStep(), 2);
+}
+
+TEST_F(FrameTest, UpdateStoresOnlyWhenAsked)
+{
+    fImage* image = open(randomBits(20, 20, 5));
+    frame->cFilter_Progress(40);
+    frame->cFilter_Progress(-1);
+    auto* bar = frame->findChild<QProgressBar*>("cFilterProgress");
+    EXPECT_EQ(bar->value(), 40);
+    frame->Update(true, false);
+    EXPECT_EQ(bar->value(), 0);
+    EXPECT_EQ(image->document().undo.UndoStep(), 1);
+    EXPECT_FALSE(image->document().Changed);
+}
+
+TEST_F(FrameTest, UndoComesBackWhenItsFolderWasSweptAway)
+{
+    fImage* image = open(randomBits(20, 20, 5));
+    QDir(path("Temp")).removeRecursively();
+    frame->Mmenu("INVERT");
+    const Bits inverted = image->Bits();
+    EXPECT_EQ(image->document().undo.UndoStep(), 2);
+    frame->Mmenu("UNDO"); // its file is gone: nothing moves
+    EXPECT_TRUE(sameBits(inverted, image->Bits()));
+    frame->Mmenu("INVERT");
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(inverted, image->Bits()));
+}
+
+TEST_F(FrameTest, BarsFollowTheConfiguration)
+{
+    auto* effects = frame->findChild<QToolBar*>("tb_1");
+    frame->action("BAR_1")->trigger();
+    EXPECT_FALSE(setup.BarVisible[1]);
+    EXPECT_TRUE(effects->isHidden());
+    EXPECT_FALSE(frame->action("BAR_1")->isChecked());
+    frame->saveLayout();
+    frame->action("BAR_1")->trigger();
+    frame->loadLayout(); // the stored layout had it hidden; the configuration has the say
+    EXPECT_FALSE(effects->isHidden());
+    frame->action("VIEWS_8")->trigger();
+    EXPECT_FALSE(setup.StatusBarVisible);
+    EXPECT_TRUE(frame->status().isHidden());
+    frame->action("VIEWS_9")->trigger();
+    EXPECT_TRUE(setup.SideBarHidden);
+    EXPECT_TRUE(frame->toolPane().isHidden());
+}
+
+TEST_F(FrameTest, TheFirstResizeStoresALayoutOnceForTheUser)
+{
+    EXPECT_EQ(platform.settings["VeStu/RunOnce"], "1");
+    EXPECT_FALSE(platform.settings["VeStu/Layout"].isEmpty());
+    frame->resize(700, 500);
+    EXPECT_EQ(setup.FrameWidth, 700 * 15);
+    EXPECT_EQ(setup.FrameHeight, 500 * 15);
+}
+
+TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
+{
+    frame->action("VIEWS_9")->trigger();
+    const auto moveTo = [&](QPoint at) {
+        QWidget* under = frame->area().viewport();
+        const QPointF global = frame->centralWidget()->mapToGlobal(at);
+        QMouseEvent event(QEvent::MouseMove, under->mapFromGlobal(global), global, Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(under, &event);
+    };
+    moveTo({2, 100});
+    EXPECT_TRUE(frame->toolPane().isVisible());
+    moveTo({frame->toolPane().width() - 2, 100});
+    EXPECT_TRUE(frame->toolPane().isVisible());
+    moveTo({frame->toolPane().width() + 20, 100});
+    EXPECT_FALSE(frame->toolPane().isVisible());
+    frame->action("VIEWS_9")->trigger();
+    EXPECT_TRUE(frame->toolPane().isVisible());
+}
+
+TEST_F(FrameTest, IconsFollowThePalette)
+{
+    const auto shade = [&] { // of the darkest-to-lightest drawing of an icon without colours
+        const QImage image = frame->action("FILE_1")->icon().pixmap(22).toImage();
+        int sum = 0, count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qAlpha(image.pixel(x, y)) > 200) sum += qGray(image.pixel(x, y)), ++count;
+        return count ? sum / count : -1;
+    };
+    EXPECT_LT(shade(), 100);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 44, 48)));
+    QCoreApplication::processEvents();
+    EXPECT_GT(shade(), 150);
+    QApplication::setPalette(before);
+    QCoreApplication::processEvents();
+    EXPECT_LT(shade(), 100);
+}
+
+TEST_F(FrameTest, WindowsTileOneBelowTheOtherOrSideBySide)
+{
+    open(randomBits(20, 20, 5), "a.bmp");
+    open(randomBits(20, 20, 6), "b.bmp");
+    frame->Mmenu("TILEHORIZONTALLY");
+    auto windows = frame->area().subWindowList();
+    EXPECT_EQ(windows[0]->width(), frame->area().viewport()->width());
+    EXPECT_NE(windows[0]->y(), windows[1]->y());
+    frame->Mmenu("TILEVERTICALLY");
+    EXPECT_EQ(windows[0]->height(), frame->area().viewport()->height());
+    EXPECT_NE(windows[0]->x(), windows[1]->x());
+}
+
+} // namespace velara

@@ -1,0 +1,325 @@
+// Opening, saving, the recent list, drops, clipboard, and the end of the frame.
+#include "app/fStartup.h"
+#include "app/frame/fDocumentWindow.h"
+#include "app/frame/fMain.h"
+#include "app/frame/fStatus.h"
+#include "app/frame/frameTest.h"
+#include "app/settings/fPreferences.h"
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+
+namespace velara {
+
+namespace {
+
+const std::string kLoadError = "message: Velara Studio: Unexpected error loading image";
+const std::string kSaveError = "message: Velara Studio: Unexpected error saving image";
+
+} // namespace
+
+TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
+{
+    const QString a = file("a.bmp");
+    setup.OpenZoom = 3;
+    platform.answers = {a};
+    frame->Mmenu("OPEN");
+    ASSERT_EQ(frame->documents().size(), 1);
+    fImage* image = frame->documents()[0];
+    EXPECT_EQ(image->Tag(), a);
+    EXPECT_EQ(image->Caption(), "a.bmp");
+    EXPECT_EQ(image->PictureWidth(), 12);
+    EXPECT_EQ(image->ZoomFactor(), 3);
+    EXPECT_EQ(image->document().undo.UndoStep(), 1);
+    EXPECT_EQ(setup.Recent[0], a);
+    EXPECT_TRUE(frame->action("RF_0")->text().contains("a.bmp"));
+    EXPECT_EQ(setup.ImagesPath, platform.folder.path() + "/");
+    EXPECT_EQ(platform.lastDialog.title, "Open file");
+    EXPECT_TRUE(platform.lastDialog.filter.startsWith("All Supported Picture Formats|*.bmp;*.wbmp;*.dib;*.wmf;"));
+    EXPECT_TRUE(platform.lastDialog.filter.contains("| *.koa|"));
+}
+
+TEST_F(FrameTest, TheSameFileTwiceGetsANumber)
+{
+    const QString a = file("a.bmp");
+    platform.answers = {a, a};
+    frame->Mmenu("OPEN");
+    frame->Mmenu("OPEN");
+    ASSERT_EQ(frame->documents().size(), 2);
+    EXPECT_EQ(frame->documents()[1]->Tag(), "[1]" + a);
+    // Its own name is the first one's: saving asks for another.
+    frame->Mmenu("SAVE");
+    EXPECT_EQ(last(), "save: Save as");
+}
+
+TEST_F(FrameTest, AnOpenThatFailsSaysSoAndLeavesNoDocument)
+{
+    platform.answers = {path("missing.gif")};
+    frame->Mmenu("OPEN");
+    EXPECT_EQ(last(), kLoadError);
+    EXPECT_EQ(platform.lastIcon, Icon::Exclamation);
+    EXPECT_TRUE(frame->documents().isEmpty());
+    EXPECT_TRUE(setup.Recent[0].isEmpty());
+}
+
+TEST_F(FrameTest, ACancelledDialogEndsTheCommand)
+{
+    frame->Mmenu("OPEN");
+    EXPECT_TRUE(frame->documents().isEmpty());
+    fImage* image = open(randomBits(8, 8, 1));
+    frame->Mmenu("SAVEAS");
+    EXPECT_EQ(last(), "save: Save as");
+    EXPECT_EQ(image->Caption(), "picture.bmp");
+}
+
+TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
+{
+    struct Row {
+        const char* name;
+        bool asks;
+    };
+    for (const Row& row : {Row{"a.bmp", false}, Row{"a.png", false}, Row{"a.ppm", true}}) {
+        const QString name = file(row.name);
+        platform.answers = {name};
+        frame->Mmenu("OPEN");
+        platform.log.clear();
+        frame->documents().last()->document().Changed = true;
+        frame->Mmenu("SAVE");
+        EXPECT_EQ(platform.logged("save: Save as"), row.asks) << row.name;
+        EXPECT_EQ(frame->documents().last()->document().Changed, row.asks) << row.name;
+    }
+    // A new document has no file yet, whatever it is called.
+    open(randomBits(4, 4, 1), "New.bmp");
+    platform.log.clear();
+    frame->Mmenu("SAVE");
+    EXPECT_TRUE(platform.logged("save: Save as"));
+    EXPECT_FALSE(QFile::exists(path("New.bmp")));
+}
+
+TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
+{
+    fImage* image = open(randomBits(8, 8, 1));
+    image->document().Changed = true;
+    platform.answers = {path("b.png")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_FALSE(image->document().Changed);
+    EXPECT_EQ(image->Tag(), path("b.png"));
+    EXPECT_EQ(frame->status().panel(Panel::Name), "b.png");
+    EXPECT_EQ(QImage(path("b.png")).size(), QSize(8, 8));
+
+    platform.answers = {path("c.pgm")}; // the colours decide: 24 bits make a pixmap
+    frame->Mmenu("SAVEAS");
+    EXPECT_TRUE(QFile::exists(path("c.ppm")));
+    EXPECT_FALSE(QFile::exists(path("c.pgm")));
+}
+
+TEST_F(FrameTest, ASaveThatFailsSaysSoAndLeavesTheDocument)
+{
+    fImage* image = open(randomBits(8, 8, 1));
+    image->document().Changed = true;
+    platform.answers = {path("no/such/folder/b.bmp")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_TRUE(platform.logged(kSaveError));
+    EXPECT_TRUE(image->document().Changed);
+    EXPECT_EQ(image->Caption(), "picture.bmp");
+}
+
+TEST_F(FrameTest, RecentItemsFollowTheFiles)
+{
+    const QString a = file("a.bmp"), b = file("b & c.bmp");
+    setup.Recent[0] = a + "   ";
+    setup.Recent[2] = b;
+    frame->FillRecent();
+    EXPECT_EQ(frame->action("RF_0")->text(), a);
+    EXPECT_EQ(setup.Recent[0], a);
+    EXPECT_FALSE(frame->action("RF_1")->isEnabled());
+    EXPECT_TRUE(frame->action("RF_2")->text().endsWith("b && c.bmp"));
+
+    frame->action("RF_2")->trigger();
+    ASSERT_EQ(frame->documents().size(), 1);
+    EXPECT_EQ(frame->documents()[0]->Caption(), "b & c.bmp");
+
+    QFile::remove(a);
+    frame->action("RF_0")->trigger(); // gone since the list was filled: an unreadable bitmap opens as an empty document
+    frame->FillRecent();
+    EXPECT_EQ(frame->action("RF_0")->text(), "Empty");
+    EXPECT_TRUE(frame->action("RF_0")->isEnabled());
+    EXPECT_EQ(setup.Recent[0], a); // it keeps its place
+    file("a.bmp");
+    frame->FillRecent();
+    EXPECT_EQ(frame->action("RF_0")->text(), a);
+}
+
+TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
+{
+    QFile bad(path("bad.gif"));
+    ASSERT_TRUE(bad.open(QFile::WriteOnly));
+    bad.write("nothing");
+    bad.close();
+    frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), file("c.JPG"), path("bad.gif"), path("d.txt")});
+    ASSERT_EQ(frame->documents().size(), 2);
+    EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
+    EXPECT_EQ(frame->documents()[1]->Caption(), "c.JPG");
+    EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), kLoadError), 1);
+    EXPECT_TRUE(setup.Recent[0].isEmpty());
+}
+
+TEST_F(FrameTest, TwoHundredFilesAtOnce)
+{
+    const QString a = file("a.bmp");
+    QStringList all;
+    for (int i = 0; i < 200; ++i) all << a;
+    frame->dropFiles(all);
+    ASSERT_EQ(frame->documents().size(), 200);
+    QSet<QString> tags;
+    for (const fImage* image : frame->documents()) tags << image->Tag();
+    EXPECT_EQ(tags.size(), 200);
+    frame->close();
+    EXPECT_TRUE(frame->documents().isEmpty());
+    EXPECT_TRUE(QDir(path("Temp")).entryList(QDir::Files).isEmpty());
+}
+
+TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
+{
+    fImage* image = open(randomBits(9, 7, 2));
+    image->document().Region.CreateRect(1, 1, 4, 4, Combine::Or, true);
+    frame->Mmenu("CREATENEWCOPY");
+    ASSERT_EQ(frame->documents().size(), 2);
+    fImage* copy = frame->documents()[1];
+    EXPECT_EQ(copy->Bits().at(3, 3), image->Bits().at(3, 3));
+    EXPECT_TRUE(copy->document().Region.Region() == image->document().Region.Region());
+    EXPECT_EQ(copy->Tag(), "[1]" + image->Tag());
+    EXPECT_FALSE(platform.clipboardHasBitmap());
+}
+
+TEST_F(FrameTest, ClosingAsksOnceAndACancelKeepsTheFrame)
+{
+    open(randomBits(9, 7, 2));
+    frame->Mmenu("INVERT");
+    platform.log.clear();
+    frame->close(); // an empty queue cancels
+    EXPECT_TRUE(frame->isVisible());
+    ASSERT_EQ(frame->documents().size(), 1);
+    EXPECT_EQ(platform.log.size(), 1u);
+    EXPECT_EQ(last(), "ask: Velara Studio: " + path("picture.bmp").toStdString() +
+                          "\nThis image has changed.\nDo you want to save it ?");
+    platform.answers = {"no"};
+    frame->close();
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_TRUE(frame->documents().isEmpty());
+}
+
+TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
+{
+    for (const bool ok : {false, true}) {
+        setup.AskToSave = true;
+        setup.ImagesPath = "/pictures/   ";
+        fPreferences dialog(platform, setup, nullptr);
+        EXPECT_EQ(dialog.windowTitle(), "Velara Studio: Options");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("txtImagesPath")->text(), "/pictures/");
+        auto* box = dialog.findChild<QCheckBox*>("chkAskToSave");
+        EXPECT_EQ(box->text(), "Ask to save on Close/Exit");
+        box->click();
+        platform.answers = {"/elsewhere"};
+        dialog.findChild<QPushButton*>("cmdBrowsePath")->click();
+        EXPECT_EQ(last(), "folder: Select Images default folder");
+        EXPECT_TRUE(setup.AskToSave);
+        dialog.findChild<QPushButton*>(ok ? "CmdOK" : "CmdCancel")->click();
+        EXPECT_EQ(setup.AskToSave, !ok);
+        EXPECT_EQ(setup.ImagesPath, ok ? "/elsewhere/" : "/pictures/   ");
+    }
+}
+
+// --- The start
+
+TEST(StartTest, AFirstStartMakesTheFoldersAndALaterOneLeavesThem)
+{
+    useResources();
+    RecordingPlatform platform;
+    const QDir folder(platform.programFolder());
+    ASSERT_TRUE(makeFolders(platform));
+    const QStringList stamps = QDir(folder.filePath("Stamps")).entryList(QDir::Files, QDir::Name);
+    EXPECT_EQ(stamps.value(0), "Velara1.bmp");
+    EXPECT_EQ(stamps.size(), 8);
+    EXPECT_FALSE(QImage(folder.filePath("Images/Velara.bmp")).isNull());
+    EXPECT_TRUE(folder.exists("Temp"));
+    for (const QString& stamp : stamps) {
+        EXPECT_FALSE(QImage(folder.filePath("Stamps/" + stamp)).isNull());
+        QFile::remove(folder.filePath("Stamps/" + stamp));
+    }
+    ASSERT_TRUE(makeFolders(platform));
+    EXPECT_TRUE(QDir(folder.filePath("Stamps")).entryList(QDir::Files).isEmpty());
+}
+
+TEST(StartTest, WhateverTheConfigurationSaysTheFrameIsOnTheScreen)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const int size : {0, -32768, 1, 9600, 32767}) {
+        velara::Setup setup;
+        setup.FrameWidth = setup.FrameHeight = static_cast<std::int16_t>(size);
+        QWidget frame;
+        placeFrame(frame, setup);
+        EXPECT_GE(frame.width(), 320) << size;
+        EXPECT_GE(frame.height(), 240) << size;
+        EXPECT_LE(frame.width(), screen.width()) << size;
+        EXPECT_LE(frame.height(), screen.height()) << size;
+    }
+}
+
+TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)
+{
+    for (const std::uint32_t seed : {0u, 1u, 2u, 3u}) {
+        RecordingPlatform platform;
+        QFile file(platform.folder.filePath("Vlaera.dat"));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        QByteArray bytes(3081, 0);
+        std::uint32_t state = seed;
+        for (char& byte : bytes) byte = seed ? static_cast<char>((state = state * 1664525u + 1013904223u) >> 24) : 0;
+        file.write(bytes);
+        file.close();
+        velara::Setup setup;
+        const auto frame = startEditor(platform, setup);
+        EXPECT_TRUE(frame->isVisible());
+        EXPECT_GE(frame->width(), 320);
+        frame->toolClicked("Brush");
+        frame->close();
+    }
+}
+
+TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
+{
+    struct ReadOnly : RecordingPlatform {
+        QString programFolder() override { return "/proc/velara"; }
+    } platform;
+    velara::Setup setup;
+    const auto frame = startEditor(platform, setup);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(std::ranges::any_of(platform.log, [](const std::string& line) {
+        return line.starts_with("message: Velara Studio: The folder \"/proc/velara\" can't be written to.");
+    }));
+    auto* image = new fImage(*frame);
+    image->PPicture(randomBits(8, 8, 1));
+    frame->adopt(image, "/somewhere/a.bmp");
+    const Bits before = image->Bits();
+    frame->Mmenu("INVERT");
+    EXPECT_FALSE(image->Bits() == before); // works, but can't be undone
+    setup.AskToSave = false;
+    frame->close();
+    EXPECT_FALSE(frame->isVisible());
+}
+
+TEST(StartTest, ASecondInstanceIsToldAndComesUpAllTheSame)
+{
+    RecordingPlatform platform;
+    platform.previous = true;
+    velara::Setup setup;
+    const auto frame = startEditor(platform, setup);
+    EXPECT_TRUE(platform.logged("message: Velara Studio: Velara Studio is already running!"));
+    EXPECT_EQ(platform.lastIcon, Icon::Information);
+    EXPECT_TRUE(frame->isVisible());
+}
+
+} // namespace velara

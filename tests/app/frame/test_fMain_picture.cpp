@@ -1,0 +1,109 @@
+// Pictures in the frame, worked on with the mouse: which document a stroke belongs to, and what engine, undo and screen
+// make of it.
+#include "app/frame/fHover.h"
+#include "app/frame/fToolPane.h"
+#include "app/frame/frameTest.h"
+#include "ui/panes/fToolPanes.h"
+#include <QMdiArea>
+#include <QMouseEvent>
+#include <QSlider>
+#include <QTest>
+
+namespace velara {
+
+struct FramePicture : FrameTest {
+    QWidget* display(fImage* image) { return image->findChild<QWidget*>("iDst"); }
+    void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
+    {
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, at, display(image)->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+        QApplication::sendEvent(display(image), &event);
+    }
+    void drag(fImage* image, QPoint from, QPoint to)
+    {
+        mouse(image, QEvent::MouseButtonPress, from, Qt::LeftButton);
+        mouse(image, QEvent::MouseMove, to, Qt::LeftButton);
+        mouse(image, QEvent::MouseButtonRelease, to, Qt::NoButton);
+    }
+    void click(const char* tool) { frame->toolPane().button(tool)->click(); }
+    std::uint32_t shown(fImage* image, int x, int y) { return display(image)->grab().toImage().pixel(x, y) & 0xFFFFFF; }
+};
+
+TEST_F(FramePicture, AStrokeOnAnotherDocumentIsThatDocuments)
+{
+    const Bits first = flatBits(60, 50, 0, 0, 0), second = flatBits(40, 30, 0, 0, 0);
+    fImage* a = open(first, "a.bmp");
+    fImage* b = open(second, "b.bmp");
+    click("Pencil");
+    EXPECT_EQ(frame->GetActiveImage(), b);
+    EXPECT_EQ(frame->filter().BitsWidth(), 40);
+    frame->area().setActiveSubWindow(frame->area().subWindowList(QMdiArea::CreationOrder)[0]);
+    drag(a, {5, 5}, {20, 5});
+    EXPECT_TRUE(frame->filter().bits() == a->Bits());
+    EXPECT_FALSE(a->Bits() == first);
+    EXPECT_TRUE(b->Bits() == second);
+    EXPECT_TRUE(a->document().Changed);
+    EXPECT_FALSE(b->document().Changed);
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(a->Bits() == first);
+    EXPECT_EQ(shown(a, 10, 5), 0u);
+    frame->Mmenu("REDO");
+    EXPECT_NE(shown(a, 10, 5), 0u);
+}
+
+TEST_F(FramePicture, AFilterKeepsToTheSelectionOfTheMouse)
+{
+    fImage* image = open(flatBits(60, 50, 10, 20, 30));
+    click("Select");
+    drag(image, {10, 10}, {30, 25});
+    frame->Mmenu("INVERT");
+    EXPECT_EQ(image->Bits().at(10, 10), (Pixel{{245, 235, 225, 0}}));
+    EXPECT_EQ(image->Bits().at(9, 10), (Pixel{{10, 20, 30, 0}}));
+    EXPECT_EQ(shown(image, 20, 20), 0xE1EBF5u);
+    EXPECT_EQ(shown(image, 40, 40), 0x1E140Au);
+    frame->Mmenu("CROP");
+    EXPECT_EQ(image->PictureWidth(), 20);
+    EXPECT_EQ(display(image)->size(), QSize(20, 15));
+    EXPECT_TRUE(image->document().Region.IsEmptyRegion());
+}
+
+TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
+{
+    fImage* image = open(randomBits(2000, 1500, 1));
+    ASSERT_TRUE(image->MouseScroll()) << "on with the first document";
+    const Bits before = image->Bits();
+    const QPoint place = image->GetSBV();
+    drag(image, {50, 50}, {40, 45});
+    EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
+    click("Pencil");
+    EXPECT_FALSE(image->MouseScroll());
+    EXPECT_FALSE(frame->toolPane().button("MouseScroll")->isChecked());
+    drag(image, {50, 50}, {40, 45});
+    EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
+    EXPECT_FALSE(image->Bits() == before);
+}
+
+TEST_F(FramePicture, TheToolsHavePanesInTheSideAndBesideTheirButtons)
+{
+    QDir(platform.programFolder()).mkpath("Stamps");
+    frame->initToolPanes();
+    click("Brush");
+    auto* side = frame->findChild<QWidget*>("Brush");
+    ASSERT_TRUE(side);
+    EXPECT_TRUE(side->isVisible());
+    click("Fill");
+    EXPECT_FALSE(side->isVisible());
+
+    QWidget* button = frame->toolPane().button("Brush");
+    QEnterEvent enter(QPointF(3, 3), QPointF(3, 3), button->mapToGlobal(QPointF(3, 3)));
+    QApplication::sendEvent(button, &enter);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return frame->findChild<QWidget*>("FBrush") != nullptr; }, 2000));
+    frame->findChild<QWidget*>("FBrush")->findChild<QSlider*>("sbBrushSize")->setValue(77);
+    EXPECT_EQ(setup.BrushSize, 77);
+    click("Brush");
+    EXPECT_EQ(side->findChild<QSlider*>("sbBrushSize")->value(), 77);
+    QCursor::setPos(frame->mapToGlobal(QPoint(600, 400)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->findChild<QWidget*>("FBrush") == nullptr; }, 2000));
+}
+
+} // namespace velara

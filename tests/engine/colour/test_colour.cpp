@@ -1,0 +1,237 @@
+// The colour filters by worked examples, their measurements and faults, hue and the nearest palette colour.
+#include "engine/colour/mPalette.h"
+#include "pixels/mHSLRGB.h"
+#include "support/filterOf.h"
+#include "support/pictures.h"
+#include "tools/reference/twins.h"
+#include <optional>
+#include <random>
+
+namespace velara {
+namespace {
+
+Bits row(std::initializer_list<Pixel> pixels)
+{
+    Bits bits(static_cast<int>(pixels.size()), 1);
+    std::copy(pixels.begin(), pixels.end(), bits.row(0));
+    return bits;
+}
+
+template <class Function> std::optional<Fault> faultOf(Function run)
+{
+    try {
+        run();
+    } catch (const RuntimeError& e) {
+        return e.fault();
+    }
+    return {};
+}
+
+TEST(ColourFilters, WorkedExamples)
+{
+    constexpr Colour kWhite = 0xFFFFFF, kReference = colourOf(30, 20, 10);
+    const struct {
+        const char* operation;
+        Arguments arguments;
+        Pixel before, after; // of a picture of this one colour: blue, green, red, fourth
+    } rows[] = {
+        {"BRIGHTNESS", {-15}, {{10, 20, 250, 9}}, {{0, 5, 235, 9}}},
+        {"CONTRAST", {0}, {{7, 99, 201, 9}}, {{7, 99, 201, 9}}},
+        {"CONTRAST", {100}, {{10, 20, 30, 9}}, {{0, 20, 40, 9}}},
+        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}}, // blue is 60 too low: both others give 30
+        {"CONTRAST", {250}, {{255, 0, 0, 9}}, {{255, 0, 0, 9}}},
+        {"SATURATION", {-100}, {{10, 20, 31, 9}}, {{20, 20, 20, 9}}},
+        {"SATURATION", {100}, {{10, 20, 31, 9}}, {{0, 20, 42, 9}}},
+        {"SATURATION", {50}, {{10, 19, 31, 9}}, {{5, 18, 36, 9}}}, // 5, 18.5, 36.5
+        {"GammaCorrection", {0}, {{1, 100, 255, 9}}, {{1, 100, 255, 9}}},
+        {"GammaCorrection", {-100}, {{1, 100, 255, 9}}, {{0, 0, 0, 9}}},
+        {"COLORIZE", {0.0, 0.0, 1.0}, {{10, 20, 30, 9}}, {{20, 20, 20, 9}}},
+        {"COLORIZE", {2.0, 1.0, 0.5}, {{255, 255, 255, 9}}, {{0, 255, 0, 9}}},
+        {"GreyScale", {}, {{10, 20, 30, 9}}, {{22, 22, 22, 9}}}, // 21.51
+        {"OLDPHOTO", {}, {{10, 20, 30, 9}}, {{10, 22, 22, 9}}},
+        {"KillChannel", {true, false, false}, {{10, 20, 30, 9}}, {{10, 20, 0, 9}}},
+        {"SpecialColors", {true, false, false}, {{10, 20, 30, 9}}, {{0, 0, 30, 9}}},
+        {"Threshold", {20}, {{20, 20, 22, 9}}, {{0, 0, 0, 9}}},
+        {"Threshold", {20}, {{21, 21, 21, 9}}, {{255, 255, 255, 9}}},
+        {"Reduction", {0}, {{1, 100, 255, 9}}, {{1, 100, 255, 9}}},
+        {"Reduction", {255}, {{128, 129, 255, 9}}, {{0, 255, 255, 9}}},
+        {"ShiftRGB", {1, 2, 3}, {{10, 20, 255, 9}}, {{13, 22, 255, 9}}},
+        {"ISOLATE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
+        {"ISOLATE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{255, 255, 255, 9}}},
+        {"REPLACE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{255, 255, 255, 9}}},
+        {"REPLACE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{10, 21, 30, 9}}},
+        {"Shift", {kReference, 50, 0}, {{10, 20, 30, 9}}, {{60, 70, 80, 9}}},
+        {"Shift", {kReference, 50, 0}, {{11, 20, 30, 9}}, {{11, 20, 30, 9}}},
+        {"RotateH", {0, 0}, {{10, 20, 30, 9}}, {{20, 20, 20, 9}}},
+        {"RotateL", {0, 0}, {{10, 20, 30, 9}}, {{128, 128, 128, 9}}}, // 127.5
+        {"SwapRGB", {0, 1, 2, true, false, false, 0, 0, 255}, {{10, 20, 30, 9}}, {{0, 20, 245, 9}}},
+        {"SwapBanks", {1}, {{10, 20, 30, 9}}, {{20, 30, 10, 9}}},
+        {"SwapBanks", {2}, {{10, 20, 30, 9}}, {{30, 10, 20, 9}}},
+        {"SwapBanks", {5}, {{10, 20, 30, 9}}, {{10, 30, 20, 9}}},
+        {"SwapBanks", {6}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
+        {"ClassyColors", {7}, {{10, 20, 30, 9}}, {{17, 27, 7, 9}}},
+        {"ClassyColors", {7}, {{0, 255, 0, 9}}, {{0, 1, 1, 9}}}, // 256 wraps
+        {"ClassyColors", {11}, {{10, 20, 30, 9}}, {{20, 10, 170, 9}}},
+        {"Equalize", {}, {{64, 64, 64, 9}}, {{129, 129, 129, 9}}}, // the median is one less than the only grey
+    };
+    for (const auto& r : rows) {
+        cBitFilter filter = filterOf(row({r.before, r.before, r.before}));
+        findOperation(r.operation)->call(filter, r.arguments);
+        EXPECT_TRUE(sameBits(row({r.after, r.after, r.after}), filter.bits()))
+            << r.operation << " of " << int(r.before.c[0]) << ", " << int(r.before.c[1]) << ", " << int(r.before.c[2]);
+    }
+}
+
+TEST(ColourFilters, EqualizeDividesByZeroAtAMedianOfOne)
+{
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 2, 2, 2)).Equalize(); }), Fault::DivisionByZero);
+    cBitFilter unselected = filterOf(flatBits(4, 4, 2, 2, 2));
+    unselected.setBitsRegion({});
+    EXPECT_EQ(faultOf([&] { unselected.Equalize(); }), Fault::DivisionByZero); // counts the whole picture
+}
+
+TEST(ColourFilters, ColoursOutsideOfTheScalesFailOnlyWhereAPixelHasThem)
+{
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 0, 0, 0)).COLORIZE(0, 0, 9); }), std::nullopt);
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 99, 99, 99)).COLORIZE(0, 0, 9); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { filterOf(flatBits(4, 4, 9, 9, 9)).SwapRGB(0, 4, 0, 0, 0, 0, 0, 0, 0); }), Fault::OutOfRange);
+}
+
+TEST(ColourFilters, BrightnessIsMeasuredOverTheWholePicture)
+{
+    cBitFilter filter = filterOf(row({{{0, 0, 5, 0}}, {{90, 91, 91, 0}}, {{255, 255, 254, 0}}}));
+    filter.setBitsRegion({});
+    EXPECT_EQ(filter.GetLMin(), 1);
+    EXPECT_EQ(filter.GetLMed(), 115); // (1 + 90 + 254) \ 3
+    EXPECT_EQ(filter.GetLMax(), 254);
+    EXPECT_EQ(cBitFilter().GetLMin(), 255);
+    EXPECT_EQ(cBitFilter().GetLMax(), 0);
+}
+
+TEST(Hsl, HuesRunFromMinusOneToFive)
+{
+    const struct {
+        int r, g, b;
+        float h, s, l;
+    } rows[] = {
+        {255, 0, 0, 0, 1, 0.5f},      {255, 255, 0, 1, 1, 0.5f},        {0, 255, 0, 2, 1, 0.5f},
+        {0, 255, 255, 3, 1, 0.5f},    {0, 0, 255, 4, 1, 0.5f},          {255, 0, 255, -1, 1, 0.5f},
+        {255, 0, 51, -0.2f, 1, 0.5f}, {51, 0, 255, 4.2f, 1, 0.5f},      {80, 80, 80, 0, 0, 80 / 255.0f},
+        {255, 204, 204, 0, 1, 0.9f},  {102, 51, 51, 0, 1 / 3.0f, 0.3f},
+    };
+    for (const auto& r : rows) {
+        const Hsl hsl = RGBToHSL(r.r, r.g, r.b);
+        EXPECT_NEAR(hsl.h, r.h, 1e-6) << r.r << " " << r.g << " " << r.b;
+        EXPECT_NEAR(hsl.s, r.s, 1e-5) << r.r << " " << r.g << " " << r.b;
+        EXPECT_NEAR(hsl.l, r.l, 1e-6) << r.r << " " << r.g << " " << r.b;
+    }
+    EXPECT_EQ(HueFromScale(200), 200);
+    EXPECT_EQ(HueFromScale(201), -39);
+}
+
+TEST(Hsl, EveryDarkColourComesBack)
+{
+    for (int r = 0; r < 256; r += 3)
+        for (int g = 0; g < 256; g += 5)
+            for (int b = 0; b < 256; b += 3) {
+                const Hsl hsl = RGBToHSL(r, g, b);
+                if (hsl.l > 0.5f) continue;
+                ASSERT_EQ(HSLToRGB(hsl.h, hsl.s, hsl.l), (Rgb{r, g, b})) << r << " " << g << " " << b;
+            }
+}
+
+TEST(Hsl, LightColoursTakeTheirSaturationTheOtherWayRound)
+{
+    const struct {
+        float h, s, l;
+        Rgb wanted;
+    } rows[] = {
+        {4, 1, 0.75f, {191, 191, 191}},    // full: grey
+        {0, 0.5f, 0.75f, {223, 159, 159}}, // a half: half way to white and as far below
+        {2, 0.25f, 0.6f, {77, 229, 77}},   {1, 0, 0.9f, {229, 229, 229}},
+        {3, 1, 0.5f, {0, 255, 255}}, // the middle still belongs to the dark ones
+    };
+    for (const auto& r : rows) EXPECT_EQ(HSLToRGB(r.h, r.s, r.l), r.wanted) << r.h << " " << r.s << " " << r.l;
+}
+
+TEST(Palette, NearestKeepsTheEarlierOfTwoAndTheFirstWhenNothingIsNear)
+{
+    PaletteColors() = {{0, 0, 0}, {10, 0, 0}, {0, 10, 0}, {5, 5, 5}};
+    EXPECT_EQ(NearestColor(9, 9, 0).red, 10);
+    EXPECT_EQ(NearestColor(5, 5, 5).blue, 5);
+    PaletteColors() = {{255, 255, 255}, {0, 0, 900}};
+    EXPECT_EQ(NearestColor(0, 0, 0).red, 255); // 765 away
+    PaletteColors().clear();
+    EXPECT_EQ(faultOf([] { NearestColor(1, 2, 3); }), Fault::OutOfRange);
+}
+
+TEST(Palette, ApplyingSpreadsTheErrorIntoTheObjectsOwnPicture)
+{
+    PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
+    cBitFilter filter = filterOf(row({{{100, 100, 100, 0}}, {{100, 100, 100, 0}}, {{100, 100, 100, 0}}}));
+    const Pixel black{{0, 0, 0, 0}}, white{{255, 255, 255, 0}};
+    const Bits first = filter.PaletteApply();
+    EXPECT_TRUE(sameBits(row({black, white, black}), first));
+    EXPECT_TRUE(sameBits(row({{{100, 100, 100, 0}}, {{143, 143, 143, 0}}, {{51, 51, 51, 0}}}), filter.bits()));
+    EXPECT_TRUE(sameBits(row({black, white, black}), filter.PaletteApply()));
+    EXPECT_EQ(filter.bits().at(1, 0).c[0], 186); // 143 and once more 700 \ 16
+}
+
+TEST(Palette, ApplyingFindsTheNearestOfManyCloseColours)
+{
+    std::mt19937 random(7);
+    const auto among = [&](int from, int count) { return from + static_cast<std::int32_t>(random() % count); };
+    for (const int spread : {256, 40, 6}) { // scattered; crowded with equal ones; all in a few cells of the search
+        PaletteColors().clear();
+        for (int i = 0; i < 256; ++i)
+            PaletteColors().push_back({among(0, spread), among(60, std::min(spread, 196)), among(0, spread)});
+        const Bits before = randomBits(90, 60, random());
+        const Region region = Region::ellipse(-4, -4, 80, 70);
+        cBitFilter filter = filterOf(before, region);
+        EXPECT_TRUE(sameBits(twins().at("PaletteApply")(before, region, {}), filter.PaletteApply())) << spread;
+    }
+}
+
+TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
+{
+    cBitFilter filter = filterOf(randomBits(3, 101, 1));
+    filter.setBitsRegion(Region::rectangle(0, 40, 3, 46));
+    std::uint32_t now = 1000;
+    std::vector<int> percents;
+    filter.clock = [&] { return now += 3; }; // a row reads it once, and once more when it reports
+    filter.Progress = [&](int percent) { percents.push_back(percent); };
+    filter.Invert();
+    EXPECT_EQ(percents, (std::vector<int>{40, 44, 100}));
+    percents.clear();
+    now += 5;
+    filter.setBitsRegion({});
+    filter.Invert();
+    EXPECT_EQ(percents, std::vector<int>{100}); // nothing selected: the end is told all the same
+}
+
+TEST(Progress, AReportDueInAPictureOfOneRowDividesByZero)
+{
+    cBitFilter filter = filterOf(flatBits(5, 1, 1, 2, 3));
+    std::uint32_t now = 10;
+    filter.clock = [&] { return now; };
+    EXPECT_EQ(faultOf([&] { filter.Invert(); }), std::nullopt); // 10 ms are not more than 10
+    now = 11;
+    EXPECT_EQ(faultOf([&] { filter.Invert(); }), Fault::DivisionByZero);
+    EXPECT_EQ(faultOf([&] { filter.Invert(); }), std::nullopt); // the failed report counts as made
+}
+
+TEST(Progress, CancellingLeavesThePicture)
+{
+    PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
+    const Bits before = randomBits(8, 8, 3);
+    for (const char* name : {"Invert", "CONTRAST", "PaletteApply"}) {
+        cBitFilter filter = filterOf(before);
+        filter.Progress = [](int) { throw Cancelled(); };
+        const Operation& op = *findOperation(name);
+        EXPECT_THROW(op.call(filter, op.parameters.empty() ? Arguments{} : Arguments{40}), Cancelled) << name;
+        EXPECT_TRUE(sameBits(before, filter.bits())) << name;
+    }
+}
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,167 @@
+// Deformations and generators: their edges, and pictures large enough that approximated lanes are worked out again.
+#include "pixels/RuntimeError.h"
+#include "support/filterOf.h"
+#include "support/pictures.h"
+#include "tools/reference/twins.h"
+
+namespace velara {
+namespace {
+
+TEST(Deform, LargePicturesEqualTheirTwins)
+{
+    const struct {
+        const char* name;
+        Arguments arguments;
+    } rows[] = {
+        {"TWIRL", {100, 180, true}},
+        {"TWIRL", {-37, 11, false}},
+        {"TWIRL", {1000000, 0, true}}, // angles too wide for singles
+        {"BEND", {-70, true}},
+        {"BEND", {500000000, false}}, // radii too long for singles,
+        {"ROTATE", {180, true}},
+        {"ROTATE", {-13, false}},
+        {"RotateSmooth", {77}},
+        {"FOLD", {100, -100, true}},
+        {"GLASS", {std::string("slanting"), 1}},
+        {"Light", {0.4, 0.6, 0.5, 500, 0}},
+        {"Light", {0.4, 0.6, 0.5, 300, -100}}, // darker than black at the rim
+        {"GradientLinear", {10, 20, 300, 250, 0x4060A0, -1, 37, 30}},
+        {"GradientCircular", {100, 90, 180, 120, -1, 0xFFFFFF, 99, 9}},
+        {"NOISE", {127, false}},
+        {"NOISE", {128, true}},
+    };
+    const Bits before = randomBits(451, 333, 5);
+    for (const auto& row : rows) {
+        cBitFilter f = filterOf(before);
+        findOperation(row.name)->call(f, row.arguments);
+        const Bits wanted = twins().find(row.name)->second(before, f.BitsRegion(), row.arguments);
+        EXPECT_TRUE(sameBits(wanted, f.bits())) << row.name << " " << &row - rows;
+    }
+}
+
+TEST(Deform, WhatChangesNothing)
+{
+    const Bits before = randomBits(33, 21, 6);
+    cBitFilter f = filterOf(before);
+    const Bits results[] = {
+        f.ROTATE(0, true),
+        f.ROTATE(360 * 1000, true),
+        f.STRETCH(0, 0, true),
+        f.FOLD(0, 0, true),
+        f.LENS(0.5f, 0.5f, 0.5f, 0),
+        f.LENS(0.5f, 0.5f, 0, 100),
+        f.LENS(-1e6f, 0.5f, 1e6f, 50), // its disc passes by
+        f.LENS(0.5f, 0.5f, -3, 50),
+        f.Light(0.5f, 0.5f, 0, 200, 0),
+        f.GradientLinear(0, 0, 9, 9, -1, -1, 100, 3),
+        f.GradientCircular(4, 4, 4, 4, 0, 0, 100, 1),
+        f.TileMask(randomBits(5, 5, 7), 0, 0, true, 100, -1),
+        f.TileMask(randomBits(5, 5, 7), 33, 0, false, 0, -1), // begins right of the picture
+        f.TileMask(flatBits(3, 3, 1, 2, 3), 0, 0, true, 0, colourOf(3, 2, 1)),
+        f.Grid(1, 1, true, 0xFF, 0),
+    };
+    for (const Bits& result : results) EXPECT_TRUE(sameBits(before, result)) << &result - results;
+}
+
+TEST(Deform, Faults)
+{
+    const Bits column = randomBits(1, 9, 8), picture = randomBits(9, 9, 9);
+    cBitFilter narrow = filterOf(column), f = filterOf(picture);
+    const struct {
+        Fault wanted;
+        std::function<void()> call;
+    } rows[] = {
+        {Fault::DivisionByZero, [&] { narrow.FOLD(10, 10, true); }},
+        {Fault::DivisionByZero, [&] { narrow.TWIRL(0, 0, true); }},
+        {Fault::DivisionByZero, [&] { f.TILE(0); }},
+        {Fault::Overflow,
+         [&] { f.STRETCH(2147483647, 0, true), filterOf(Bits(4000, 1)).STRETCH(2147483647, 0, true); }},
+        {Fault::Overflow, [&] { f.LENS(1e9f, 0, 1, 0); }},
+        {Fault::Overflow, [&] { f.GradientLinear(0, 0, 9, 9, 0, 0xFFFFFF, 300, 1); }},
+        {Fault::Overflow, [&] { f.Grid(1, 1, false, 0xFFFFFF, 600); }},
+        {Fault::OutOfRange, [&] { f.Grid(0, 1, false, 0, 0); }},
+        {Fault::OutOfRange, [&] { f.Texturize(Bits(1, 5)); }},
+        {Fault::OutOfRange, [&] { f.TileMask(Bits(), 0, 0, true, 0, -1); }},
+    };
+    for (const auto& row : rows) try {
+            row.call();
+            ADD_FAILURE() << "no fault in " << &row - rows;
+        } catch (const RuntimeError& e) {
+            EXPECT_EQ(e.fault(), row.wanted) << &row - rows;
+        }
+    narrow.setBitsRegion(Region());
+    EXPECT_TRUE(sameBits(column, narrow.FOLD(10, 10, true))) << "no pixel, no division";
+}
+
+TEST(Deform, AReportThatFallsDueInAOneRowPictureDividesByZero)
+{
+    cBitFilter f = filterOf(randomBits(9, 1, 10));
+    EXPECT_NO_THROW(f.ROTATE(10, true));
+    std::uint32_t now = 0;
+    f.clock = [&] { return now += 11; };
+    EXPECT_THROW(f.ROTATE(10, true), RuntimeError);
+}
+
+TEST(Deform, ReportsOnceARowWhenDue)
+{
+    cBitFilter f = filterOf(randomBits(3, 101, 11));
+    std::uint32_t now = 0;
+    f.clock = [&] { return now += 11; };
+    std::vector<int> percents;
+    f.Progress = [&](int percent) { percents.push_back(percent); };
+    f.STRETCH(10, 10, true);
+    ASSERT_EQ(percents.size(), 102u);
+    EXPECT_EQ(percents[50], 50);
+    percents.clear();
+    f.GradientLinear(1, 1, 1, 1, 0, 0, 50, 1);
+    EXPECT_TRUE(percents.empty()) << "two points in one draw nothing and say nothing";
+}
+
+TEST(Deform, UnknownGlassTakesTheFirstPixel)
+{
+    Bits before = flatBits(4, 3, 9, 9, 9, 9);
+    before.at(0, 0) = {{1, 2, 3, 4}};
+    cBitFilter f = filterOf(before);
+    EXPECT_EQ(f.GLASS("frosted", 0).at(3, 2), (Pixel{{1, 2, 3, 9}}));
+    EXPECT_EQ(f.GLASS("vertical", 3).at(3, 2), (Pixel{{1, 2, 3, 9}}));
+    f.setBitsRegion(Region::rectangle(1, 0, 4, 3)); // without the first pixel
+    EXPECT_TRUE(sameBits(before, f.GLASS("frosted", 0)));
+}
+
+TEST(Deform, AFlatBendFillsColumnsFromTheBottomRow)
+{
+    const Bits before = randomBits(12, 10, 12);
+    const Bits after = filterOf(before).BEND(-200, true);
+    for (int y = 0; y < 10; ++y)
+        for (int x = 0; x < 12; ++x) {
+            bool found = false;
+            for (int sx = 0; sx < 12; ++sx) found |= std::memcmp(after.at(x, y).c, before.at(sx, 9).c, 3) == 0;
+            EXPECT_TRUE(found) << x << " " << y;
+        }
+}
+
+TEST(Deform, NoiseRepeatsWithItsSeedOnly)
+{
+    cBitFilter f = filterOf(randomBits(30, 20, 13));
+    const Bits first = f.NOISE(50, false), second = f.NOISE(50, false);
+    EXPECT_FALSE(first == second);
+    f.setRandomSeed(cBitFilter::kRandomSeed);
+    EXPECT_TRUE(sameBits(first, f.NOISE(50, false)));
+    const Bits grey = filterOf(flatBits(20, 20, 128, 128, 128)).NOISE(40, true);
+    for (int x = 0; x < 20; ++x) EXPECT_EQ(grey.at(x, 7).c[0], grey.at(x, 7).c[2]) << "one number for all channels";
+}
+
+TEST(Deform, ForcedMarginsOfAGridLieOnThePicturesEdge)
+{
+    const Bits before = flatBits(10, 8, 0, 0, 0);
+    cBitFilter f = filterOf(before);
+    f.setBitsRegion(Region::rectangle(6, 5, 10, 8));
+    const Bits after = f.Grid(200, 200, true, 0xFFFFFF, 255);
+    EXPECT_EQ(after.at(7, 7).c[0], 255);
+    EXPECT_EQ(after.at(9, 6).c[0], 255);
+    EXPECT_EQ(after.at(8, 6).c[0], 0);
+    EXPECT_EQ(after.at(2, 7).c[0], 0) << "outside of the region";
+}
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,162 @@
+#include "fileio/SetupStore.h"
+#include "fileio/fileBytes.h"
+#include "support/RecordingPlatform.h"
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace velara {
+namespace {
+
+using Record = velara::Setup; // the test class has a member of that name
+
+QString setupFile(RecordingPlatform& platform) { return platform.folder.filePath(QStringLiteral("Vlaera.dat")); }
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+}
+
+void put(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray bytesOf(const Record& setup)
+{
+    const auto record = setupBytes(setup);
+    return {reinterpret_cast<const char*>(record.data()), static_cast<int>(record.size())};
+}
+
+std::int32_t wordAt(const QByteArray& bytes, int offset, int width)
+{
+    std::int32_t word = 0;
+    std::memcpy(&word, bytes.constData() + offset, static_cast<std::size_t>(width));
+    return width == 2 ? static_cast<std::int16_t>(word) : word;
+}
+
+TEST(SetupStore, FieldsLieWhereTheFileHasThem)
+{
+    RecordingPlatform platform;
+    Record setup = LoadSetup(platform);
+    setup.CurrentTool = QStringLiteral("Airbrush");
+    setup.Recent[7] = QStringLiteral("/eight");
+    setup.PaletteHue = 1;
+    const QByteArray bytes = bytesOf(setup);
+    ASSERT_EQ(3081, bytes.size());
+    const struct {
+        int offset, width, value;
+    } kWords[] = {
+        {0, 2, 9600},  {2, 2, 7200},        {4, 2, 0},           {264, 2, -1},          {268, 2, 1},
+        {2318, 2, -1}, {2336, 2, -1},       {2340, 2, 0},        {2344, 4, 0x3F800000}, {2348, 4, 0xFFFFFF},
+        {2356, 4, 0},  {2360, 4, 0x111111}, {2416, 4, 0xFFFFFF}, {2420, 2, -1},         {2449, 2, 2},
+        {2459, 2, 25}, {2469, 2, 100},      {2483, 2, 3},        {2487, 4, 0},          {2493, 2, -1},
+        {2497, 2, 50}, {3011, 2, 20},       {3017, 2, 0},        {3019, 2, 2},          {3021, 2, 100},
+        {3031, 4, 0},  {3035, 4, 0xFFFFFF}, {3047, 2, 50},       {3049, 2, 1},          {3051, 2, -1},
+        {3065, 2, -1}, {3075, 2, 10},       {3077, 2, 100},      {3079, 2, 0},
+    };
+    for (const auto& w : kWords) EXPECT_EQ(w.value, wordAt(bytes, w.offset, w.width)) << "at " << w.offset;
+    const QByteArray images = platform.folder.path().toUtf8() + "/Images/";
+    EXPECT_EQ(images + QByteArray(256 - images.size(), ' '), bytes.mid(8, 256));
+    EXPECT_EQ("/eight " + QByteArray(249, ' '), bytes.mid(270 + 7 * 256, 256));
+    EXPECT_EQ("Airbrush                 ", bytes.mid(2424, 25));
+    EXPECT_EQ("1.0 ", bytes.mid(2499, 4));
+    EXPECT_EQ("Arial ", bytes.mid(2755, 6));
+}
+
+TEST(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
+{
+    RecordingPlatform platform;
+    const Record first = LoadSetup(platform);
+    EXPECT_EQ(9600, first.FrameWidth);
+    EXPECT_EQ(QByteArray(), content(setupFile(platform))) << "an empty file stands until the frame closes";
+    const Record second = LoadSetup(platform);
+    EXPECT_EQ(0, second.FrameWidth);
+    EXPECT_FALSE(second.BarVisible[6]);
+    EXPECT_EQ(QString(), second.TextFont);
+    ASSERT_TRUE(SaveSetup(platform, first));
+    EXPECT_EQ(bytesOf(first), bytesOf(LoadSetup(platform)));
+    EXPECT_TRUE(platform.log.empty());
+}
+
+TEST(SetupStore, AnyFileIsSurvived)
+{
+    RecordingPlatform platform;
+    std::mt19937 random(1);
+    for (const int length : {0, 1, 7, 263, 264, 2345, 3080, 3081, 5000}) {
+        QByteArray bytes(length, '\0');
+        for (char& c : bytes) c = static_cast<char>(random());
+        put(setupFile(platform), bytes);
+        const Record setup = LoadSetup(platform);
+        if (length >= 4) {
+            EXPECT_EQ(wordAt(bytes, 0, 2), setup.FrameWidth);
+        }
+        if (length >= 3081) {
+            EXPECT_EQ(bytes.mid(3023, 8), bytesOf(setup).mid(3023, 8)) << "reserved bytes come back";
+            EXPECT_EQ(bytes.mid(2422, 2), bytesOf(setup).mid(2422, 2));
+        }
+        ASSERT_TRUE(SaveSetup(platform, setup));
+        EXPECT_EQ(bytesOf(setup) + bytes.mid(3081), content(setupFile(platform))) << "a longer file keeps its tail";
+        EXPECT_EQ(bytesOf(setup), bytesOf(LoadSetup(platform))) << length;
+    }
+    QFile::remove(setupFile(platform));
+    QDir().mkdir(setupFile(platform));
+    EXPECT_EQ(9600, LoadSetup(platform).FrameWidth) << "a folder of that name";
+    EXPECT_FALSE(SaveSetup(platform, Record()));
+}
+
+TEST(SetupStore, TextsAreCutAtAWholeCharacter)
+{
+    const struct {
+        QString text;
+        QByteArray inFile;
+    } kCases[] = {
+        {QString(25, u'a'), QByteArray(25, 'a')},
+        {QString(26, u'a'), QByteArray(25, 'a')},
+        {QString(24, u'a') + u'\u00e9', QByteArray(24, 'a') + ' '},
+        {QString(23, u'a') + u'\u00e9', QByteArray(23, 'a') + "\xc3\xa9"},
+        {QString(22, u'a') + QStringLiteral("\U0001F600"), QByteArray(22, 'a') + "   "},
+        {QString(9, u'\u20ac'), QByteArray("\xe2\x82\xac").repeated(8) + ' '},
+    };
+    for (const auto& c : kCases) {
+        Record setup;
+        setup.CurrentTool = c.text;
+        EXPECT_EQ(c.inFile, bytesOf(setup).mid(2424, 25)) << c.text.toStdString();
+    }
+}
+
+TEST(SetupStore, TheRecentListKeepsPlacesUntilItIsFull)
+{
+    Record setup;
+    const auto path = [](int i) { return QStringLiteral("/p/%1.png").arg(i); };
+    for (int i = 0; i < 8; ++i) AddRecent(setup, path(i));
+    EXPECT_EQ(path(7), setup.Recent[7]);
+    setup.Recent[3] += QStringLiteral("   ");
+    AddRecent(setup, path(3));
+    EXPECT_EQ(path(3), setup.Recent[3]) << "a repeat keeps its place, and blanks are cut";
+    EXPECT_EQ(path(0), setup.Recent[0]);
+    AddRecent(setup, path(8));
+    EXPECT_EQ(path(8), setup.Recent[0]);
+    EXPECT_EQ(path(0), setup.Recent[1]);
+    EXPECT_EQ(path(6), setup.Recent[7]) << "the last one fell off";
+}
+
+TEST(FileFound, MatchesWildcardsInTheLastPart)
+{
+    QTemporaryDir folder;
+    put(folder.filePath(QStringLiteral("a[1].dat")), {});
+    QDir(folder.path()).mkdir(QStringLiteral("Temp"));
+    const std::pair<const char*, bool> kCases[] = {
+        {"a[1].dat", true}, {"Temp", true}, {"b.dat", false}, {"*.dat", true}, {"*.bmp", false}, {"a?1?.dat", true},
+        {"a?.dat", false},  {"*.*", true},  {"a[1]*", true},  {"a[?", false},  {"*1].d*", true}, {"no/*", false},
+    };
+    for (const auto& [name, found] : kCases)
+        EXPECT_EQ(found, FileFound(folder.filePath(QString::fromLatin1(name)))) << name;
+}
+
+} // namespace
+} // namespace velara

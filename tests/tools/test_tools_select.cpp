@@ -1,0 +1,230 @@
+#include "support/gdiFacts.h"
+#include "tools/ToolFixture.h"
+
+namespace velara {
+namespace {
+
+using Words = std::vector<std::int32_t>;
+
+struct SelectTool : ToolFixture {
+    SelectTool() { choose("Select   "); } // the name comes out of a fixed-length field
+    Words rects() const { return rectanglesOf(selection()); }
+};
+
+TEST_F(SelectTool, ABandSelectsWhicheverWayItIsDragged)
+{
+    drag({{10, 20}, {15, 22}, {30, 35}});
+    EXPECT_EQ(rects(), (Words{10, 20, 30, 35}));
+    EXPECT_EQ(asked(), "activate; image; show 0: 10,20 15,22; show 0: 10,20 30,35; hide 0; redraw off; image; start");
+    EXPECT_EQ(surface.pointer, Pointer::Cross);
+    EXPECT_EQ(frame.filter_.BitsRegion(), selection());
+    drag({{30, 35}, {10, 20}});
+    EXPECT_EQ(rects(), (Words{10, 20, 30, 35})); // "New" wiped the first
+    EXPECT_EQ(frame.status[Panel::Pos], "X:10 Y:20");
+    EXPECT_EQ(frame.status[Panel::Ext], "20,15");
+    drag({{5, 5}, {5, 5}}); // a click with "New" selects nothing: the whole picture is the working region again
+    EXPECT_TRUE(selection().isEmpty());
+    EXPECT_EQ(frame.filter_.BitsRegion(), document.Region.RegionMain());
+    EXPECT_EQ(surface.log.back(), "stop");
+    EXPECT_EQ(frame.snapshots, 0);
+}
+
+TEST_F(SelectTool, ModesAddAndSubtractAndCutToThePicture)
+{
+    frame.setup_.SelectionMode = 0;
+    drag({{50, 40}, {500, 400}});
+    EXPECT_EQ(rects(), (Words{50, 40, 60, 50}));
+    frame.setup_.SelectionMode = 1;
+    drag({{55, -9}, {70, 90}});
+    EXPECT_EQ(rects(), (Words{50, 40, 55, 50}));
+    frame.setup_.SelectionMode = 0;
+    frame.setup_.SelectionShape = 1;
+    drag({{20, 20}, {0, 0}});
+    EXPECT_EQ(selection(), Region::ellipse(0, 0, 20, 20).combined(Region::rectangle(50, 40, 55, 50), Combine::Or));
+}
+
+TEST_F(SelectTool, PixelsAreTakenAsTheyArePassed)
+{
+    frame.setup_.SelectionShape = 3;
+    drag({{3, 3}, {4, 3}, {9, 9}});
+    EXPECT_EQ(rects(), (Words{3, 3, 5, 4, 9, 9, 10, 10}));
+    frame.setup_.SelectionMode = 1;
+    drag({{4, 3}, {4, 3}});
+    EXPECT_EQ(rects(), (Words{3, 3, 4, 4, 9, 9, 10, 10}));
+}
+
+TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
+{
+    frame.setup_.SelectionShape = 2;
+    document.Region.CreateRect(0, 0, 5, 5, Combine::Or, true);
+    press({10, 10});
+    EXPECT_TRUE(selection().isEmpty()); // "New" wipes at the first corner
+    move({30, 10});
+    EXPECT_TRUE(tools->keyDown(Tools::Space));
+    move({30, 40});
+    asked();
+    tools->keyDown(Tools::Space);
+    EXPECT_EQ(asked(), "show 2: 30,10 30,40 keep");
+    release({30, 40});
+    EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40}));
+    EXPECT_EQ(asked(), "hide 2; redraw off; image; start");
+    EXPECT_FALSE(tools->keyDown(65));
+}
+
+TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
+{
+    frame.setup_.SelectionShape = 2;
+    drag({{10, 10}, {30, 10}});
+    EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})); // stays open
+    frame.setup_.SelectionMode = 2;
+    drag({{0, 0}, {30, 40}}); // goes on from the last corner, wherever the press is
+    EXPECT_EQ(tools->ToolPoints().size(), 6u);
+    drag({{30, 40}, {11, 9}}); // meets the first corner
+    EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40}));
+    EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
+
+    drag({{1, 1}, {5, 1}}); // an open one goes away by the right button, and by another shape
+    tools->release(Tools::Right, 5, 1);
+    EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
+    drag({{1, 1}, {5, 1}});
+    frame.setup_.SelectionShape = 0;
+    drag({{2, 2}, {4, 4}});
+    EXPECT_EQ(rects(), (Words{2, 2, 4, 4}));
+}
+
+struct MoveTool : ToolFixture {
+    MoveTool()
+    {
+        choose("SelectionMove");
+        document.Region.CreateRect(10, 10, 20, 20, Combine::Or, true);
+    }
+};
+
+TEST_F(MoveTool, OnlyTheOutlineMovesAndIsCutAtTheRelease)
+{
+    press({15, 15});
+    move({-1, 18});
+    EXPECT_EQ(rectanglesOf(selection()), (Words{-6, 13, 4, 23}));
+    EXPECT_EQ(asked(), "activate; image; outline; image; outline");
+    release({-1, 18});
+    EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
+    EXPECT_EQ(frame.snapshots, 0);
+    EXPECT_TRUE(frame.filter_.bits() == document.Bits());
+    drag({{30, 30}, {40, 40}}); // not within the selection
+    EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
+    EXPECT_EQ(surface.pointer, Pointer::Sizing);
+}
+
+TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
+{
+    frame.setup_.MoveSelection = false;
+    frame.setup_.SelectionPressure = 100;
+    document.Region.CreateEllipse(8, 8, 24, 22, Combine::Or, true); // no rectangle: the mask counts
+    const Bits before = document.Bits();
+    const Region shape = selection();
+    press({15, 15});
+    move({40, 30});
+    EXPECT_EQ(asked(), "activate; stop; image; wait; waited; repaint; repaint");
+    EXPECT_TRUE(frame.filter_.bits() == before);
+    const auto wanted = [&](int dx, int dy) {
+        Bits bits = before;
+        for (int y = 0; y < 50; ++y)
+            for (int x = 0; x < 60; ++x)
+                if (shape.contains(x - dx, y - dy))
+                    for (int c = 0; c < 3; ++c) bits.at(x, y).c[c] = before.at(x - dx, y - dy).c[c];
+        return bits;
+    };
+    EXPECT_TRUE(sameBits(wanted(25, 15), document.Bits())); // the selection does not limit the paste, the picture does
+    move({-2, 10});
+    EXPECT_TRUE(sameBits(wanted(-17, -5), document.Bits()));
+    frame.toolStores.useMovePressure = true;
+    frame.toolStores.movePressure = 0;
+    move({20, 20});
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    frame.toolStores.useMovePressure = false;
+    move({40, 30});
+    release({40, 30});
+    EXPECT_EQ(frame.snapshots, 1);
+    EXPECT_TRUE(sameBits(wanted(25, 15), frame.filter_.bits()));
+    EXPECT_EQ(selection(), shape);
+}
+
+TEST_F(MoveTool, SpaceFixesTheContentUnderTheButtonAndGoesOn)
+{
+    frame.setup_.MoveSelection = false;
+    frame.setup_.SelectionPressure = 100;
+    const Bits before = document.Bits();
+    EXPECT_TRUE(tools->keyDown(Tools::Space)); // nothing held: nothing to fix
+    EXPECT_EQ(frame.snapshots, 0);
+    press({15, 15});
+    move({35, 15});
+    tools->keyDown(Tools::Space);
+    EXPECT_EQ(frame.snapshots, 1);
+    move({15, 35});
+    release({15, 35});
+    EXPECT_EQ(document.Bits().at(15, 35).c[0], before.at(15, 15).c[0]);
+    EXPECT_EQ(document.Bits().at(35, 15).c[0], before.at(15, 15).c[0]);
+}
+
+TEST_F(MoveTool, ASelectionFarOutsideHasNoContent)
+{
+    frame.setup_.MoveSelection = false;
+    document.Region.Offset(1000, 0);
+    drag({{1015, 15}, {20, 20}});
+    EXPECT_EQ(frame.snapshots, 0);
+    document.Region.Offset(-1005, 0); // half outside: the spot under the pointer stays under it
+    frame.setup_.SelectionPressure = 100;
+    const Bits before = document.Bits();
+    drag({{8, 15}, {28, 15}});
+    EXPECT_EQ(document.Bits().at(28, 15).c[1], before.at(8, 15).c[1]);
+    EXPECT_EQ(document.Bits().at(25, 15).c[1], before.at(5, 15).c[1]);
+}
+
+TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
+{
+    press({15, 15});
+    choose("Select");
+    move({16, 15});
+    release({16, 15});
+    EXPECT_EQ(rectanglesOf(selection()), (Words{11, 10, 21, 20}));
+}
+
+TEST_F(MoveTool, ArrowKeysMoveThePositionOnly)
+{
+    const Bits before = document.Bits();
+    press({15, 15});
+    release({15, 15});
+    const Tools::Key keys[] = {Tools::ArrowLeft, Tools::ArrowUp, Tools::ArrowRight, Tools::ArrowDown};
+    const char* wanted[] = {"X:14 Y:15", "X:14 Y:14", "X:15 Y:14", "X:15 Y:15"};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(tools->keyDown(keys[i]));
+        EXPECT_EQ(frame.status[Panel::Pos], wanted[i]);
+    }
+    EXPECT_EQ(rectanglesOf(selection()), (Words{10, 10, 20, 20}));
+    EXPECT_TRUE(document.Bits() == before);
+}
+
+TEST_F(MoveTool, ADocumentThatClosesInAPressIsLetGo)
+{
+    surface.onActivate = [this] { tools.reset(); };
+    Tools* gone = tools.get();
+    gone->press(Tools::Left, 12, 12);
+    EXPECT_EQ(tools, nullptr);
+}
+
+TEST_F(MoveTool, WithoutAPictureNothingHappens)
+{
+    press({15, 15});
+    document.Clear();
+    asked();
+    move({16, 16});
+    release({16, 16});
+    press({15, 15});
+    EXPECT_FALSE(tools->keyDown(Tools::ArrowLeft));
+    EXPECT_FALSE(tools->keyUp(Tools::Ctrl));
+    EXPECT_EQ(asked(), "");
+    EXPECT_FALSE(tools->ToolDown());
+}
+
+} // namespace
+} // namespace velara

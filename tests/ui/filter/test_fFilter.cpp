@@ -1,0 +1,257 @@
+// The filter dialog with real controls, used as a person does.
+#include "seams/Frame.h"
+#include "seams/Setup.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include "ui/filter/fFilter.h"
+#include "ui/widgets/fColorButton.h"
+#include "ui/widgets/fPreviewPicture.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QtTest>
+
+namespace velara {
+namespace {
+
+using Record = velara::Setup;
+
+struct DialogFrame final : Frame {
+    RecordingPlatform world;
+    Record record;
+    cBitFilter engine;
+    std::vector<std::string> log;
+    std::vector<int> progress;
+
+    Platform& platform() override { return world; }
+    Record& setup() override { return record; }
+    cBitFilter& filter() override { return engine; }
+    void Mmenu(const QString&) override {}
+    void Update(bool regionOnly, bool save) override
+    {
+        log.push_back(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
+    }
+    fImage* GetActiveImage() override { return nullptr; }
+    void refreshUndoState() override {}
+    void setStatus(Panel, const QString&) override {}
+    void cFilter_Progress(int value) override { progress.push_back(value); }
+    QString UniqueCaption(const QString& text) override { return text; }
+    int nextDocumentNumber() override { return 0; }
+};
+
+struct FilterDialog : ::testing::Test {
+    DialogFrame frame;
+    Bits picture = randomBits(200, 150, 9);
+    Region selection = Region::rectangle(20, 10, 150, 140);
+    Bits taken;
+    int takes = 0;
+    std::unique_ptr<fFilter> dialog;
+
+    void open(std::string_view word)
+    {
+        frame.engine.setBits(picture);
+        frame.engine.setBitsRegion(selection);
+        frame.engine.clock = [this] { return frame.world.now += 20; }; // a report falls due in every row
+        dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), [this](const Bits& bits) {
+            taken = bits;
+            ++takes;
+            return true;
+        });
+        dialog->show();
+    }
+    template <class Widget> Widget* find(const char* name)
+    {
+        auto* found = dialog->findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(nullptr, found) << name;
+        return found;
+    }
+    void click(const char* name)
+    {
+        auto* widget = find<QWidget>(name);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
+    }
+    Bits shown() { return find<fPreviewPicture>("iDst")->bits(); }
+    /// What the filter makes of the whole picture with the dialog's settings.
+    Bits wanted(std::string_view word)
+    {
+        cBitFilter filter = frame.engine;
+        return findFilterRow(word)->call(filter, dialog->arguments());
+    }
+    void settle() { QTest::qWait(60); }
+};
+
+TEST_F(FilterDialog, EveryFilterShowsItsControlsAndRuns)
+{
+    for (const FilterRow& row : filterRows()) {
+        if (row.words[0].empty()) continue;
+        open(row.words[0]);
+        EXPECT_EQ(row.title, dialog->windowTitle().toStdString());
+        int sliders = 0, wells = 0;
+        for (const auto& slider : row.sliders) sliders += slider.used();
+        wells += has(row.extras, FilterExtra::SourceWell);
+        wells += has(row.extras, FilterExtra::TargetWell);
+        EXPECT_EQ(sliders, dialog->findChildren<QSlider*>().size()) << row.title;
+        EXPECT_EQ(wells, dialog->findChildren<fColorButton*>().size()) << row.title;
+        EXPECT_EQ(row.option != nullptr, dialog->findChild<QCheckBox*>("chkOption") != nullptr) << row.title;
+        for (QWidget* widget : dialog->findChildren<QWidget*>())
+            if (widget->focusPolicy() & Qt::TabFocus) {
+                EXPECT_FALSE(widget->accessibleName().isEmpty()) << row.title << widget->objectName().toStdString();
+                EXPECT_FALSE(widget->objectName().isEmpty()) << row.title;
+                EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << row.title << " is clipped";
+            }
+        takes = 0;
+        const Bits full = wanted(row.words[0]);
+        click("cmdOK");
+        EXPECT_EQ(1, takes) << row.title;
+        EXPECT_TRUE(sameBits(full, taken)) << row.title;
+        EXPECT_FALSE(dialog->isVisible()) << row.title;
+    }
+}
+
+TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
+{
+    open("BRIGHTNESS");
+    auto* slider = find<QSlider>("sbFilter_0");
+    const Bits before = shown();
+    for (int value = 1; value <= 90; ++value) slider->setValue(value);
+    EXPECT_EQ("90", find<QLabel>("lblFilterV_0")->text().toStdString());
+    EXPECT_TRUE(sameBits(before, shown())) << "a burst of changes waits for its end";
+    settle();
+    EXPECT_TRUE(sameBits(wanted("BRIGHTNESS"), shown())) << "the picture fits the preview, so they are the same";
+    click("chkPreview");
+    settle();
+    EXPECT_TRUE(sameBits(picture, shown())) << "without a preview the picture as it is";
+    EXPECT_EQ(0, takes);
+}
+
+TEST_F(FilterDialog, RealTimeRunsOnceAndCloses)
+{
+    open("BRIGHTNESS");
+    find<QSlider>("sbFilter_0")->setValue(30);
+    const Bits full = wanted("BRIGHTNESS");
+    click("cmdPreview");
+    EXPECT_EQ(1, takes);
+    EXPECT_TRUE(sameBits(full, taken));
+    EXPECT_EQ(std::vector<std::string>{"update 01"}, frame.log);
+    EXPECT_EQ(QDialog::Accepted, dialog->result());
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(FilterDialog, ExitAndEscapeLeaveThePicture)
+{
+    for (const bool byKey : {false, true}) {
+        open("TWIRL");
+        find<QSlider>("sbFilter_0")->setValue(70);
+        settle();
+        byKey ? QTest::keyClick(dialog.get(), Qt::Key_Escape) : click("cmdCancel");
+        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_EQ(0, takes);
+        EXPECT_TRUE(frame.log.empty());
+        EXPECT_TRUE(sameBits(picture, frame.engine.bits()));
+    }
+}
+
+TEST_F(FilterDialog, EscapeEndsARunThatWorks)
+{
+    open("CUSTOMEMBOSS");
+    find<QSlider>("sbFilter_0")->setValue(30);
+    bool disabled = false;
+    frame.world.onYield = [&] {
+        disabled = !find<QPushButton>("cmdOK")->isEnabled();
+        QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    };
+    click("cmdOK");
+    EXPECT_TRUE(disabled);
+    EXPECT_LE(frame.world.yields, 2) << "it goes on no longer than to the next report";
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(0, takes);
+    EXPECT_TRUE(frame.log.empty());
+    EXPECT_EQ(0, frame.progress.back());
+    frame.world.onYield = nullptr;
+    click("cmdOK");
+    EXPECT_EQ(1, takes) << "and it can be run again";
+}
+
+TEST_F(FilterDialog, SurvivesThatItIsDestroyedWhileItRuns)
+{
+    open("CUSTOMEMBOSS");
+    frame.world.onYield = [&] { delete dialog.release(); };
+    fFilter* running = dialog.get();
+    running->accept();
+    EXPECT_EQ(0, takes);
+    EXPECT_TRUE(frame.log.empty());
+}
+
+TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
+{
+    picture = randomBits(1, 50, 2); // too narrow to be folded
+    selection = Region::rectangle(0, 0, 1, 50);
+    open("FOLD");
+    EXPECT_EQ("Division by zero", find<QLabel>("lblState")->text().toStdString());
+    click("cmdOK");
+    EXPECT_TRUE(frame.world.logged("message: Velara Studio: Deformation [Fold]: Division by zero"));
+    EXPECT_EQ(0, takes);
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(FilterDialog, APressOnThePreviewPicksAColourOrTheCentre)
+{
+    open("REPLACE");
+    auto* source = find<fPreviewPicture>("iSrc");
+    QTest::mouseClick(source, Qt::LeftButton, {}, source->origin() + QPoint(30, 40));
+    const auto& c = picture.at(30, 40).c;
+    EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]);
+    EXPECT_EQ(frame.record.BackColor, dialog->arguments().colour[1]);
+    QTest::mouseClick(source, Qt::LeftButton, {}, {1, 1});
+    EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]) << "beside the picture";
+
+    open("LENS");
+    source = find<fPreviewPicture>("iSrc");
+    EXPECT_EQ(0.5f, dialog->arguments().centerX);
+    QTest::mouseClick(source, Qt::LeftButton, {}, source->origin() + QPoint(50, 120));
+    EXPECT_EQ(0.25f, dialog->arguments().centerX);
+    EXPECT_EQ(0.8f, dialog->arguments().centerY);
+    const QImage before = source->grab().toImage();
+    QTest::qWait(500);
+    EXPECT_NE(before, source->grab().toImage()) << "the marker blinks";
+}
+
+TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
+{
+    open("CUSTOMGLASS");
+    EXPECT_EQ("slanting", dialog->arguments().style);
+    EXPECT_EQ(2, find<QComboBox>("cbo")->count());
+    click("oo_1");
+    find<QComboBox>("cbo")->setCurrentIndex(2);
+    EXPECT_EQ("horizontal", dialog->arguments().style);
+    EXPECT_EQ(2, dialog->arguments().mode);
+    settle();
+    EXPECT_TRUE(sameBits(wanted("CUSTOMGLASS"), shown()));
+    click("oo_3");
+    EXPECT_EQ(0, dialog->arguments().mode) << "slanting has no such strength";
+
+    open("CUSTOMCURTAIN");
+    click("Curt_2");
+    EXPECT_EQ(2, dialog->arguments().mode);
+}
+
+TEST_F(FilterDialog, BanksAndOption)
+{
+    open("RGBBANKS");
+    click("optRChannel_2");
+    click("chkInvt_1");
+    click("chkKill_0");
+    EXPECT_EQ((std::array{0, 1, 0}), dialog->arguments().channel);
+    EXPECT_EQ((std::array{false, true, false}), dialog->arguments().invert);
+    EXPECT_EQ((std::array{true, false, false}), dialog->arguments().kill);
+    open("ROTATE");
+    click("lblOption");
+    EXPECT_TRUE(dialog->arguments().option);
+}
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,211 @@
+// The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
+#include "ui/panes/fToolPanes.h"
+#include "ui/view/ImageFixture.h"
+#include "ui/widgets/fColorButton.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+
+namespace velara {
+
+struct Panes : ::testing::Test {
+    WindowFrame frame;
+    std::unique_ptr<QWidget> pane;
+
+    template <class Control> Control* at(const char* name) const
+    {
+        auto* found = pane->findChild<Control*>(name);
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    void make(const char* tool) { pane.reset(makeSidePane(tool, frame)); }
+    void addStamp(const QString& name, int side)
+    {
+        QDir(frame.platform_.programFolder()).mkpath("Stamps");
+        EXPECT_TRUE(QImage(side, side, QImage::Format_RGB32).save(frame.platform_.programFolder() + "/Stamps/" + name));
+    }
+};
+
+struct SliderCase {
+    const char *tool, *name;
+    int low, high;
+    std::int16_t Setup::*field;
+};
+constexpr SliderCase kSliders[] = {
+    // clang-format off
+    {"Select",   "sbSelectionPressure",  0, 100, &Setup::SelectionPressure},
+    {"Brush",    "sbBrushSize",          1, 200, &Setup::BrushSize},
+    {"Brush",    "sbBrushPressure",      0, 100, &Setup::BrushPressure},
+    {"Airbrush", "sbAirbrushSize",       2, 200, &Setup::AirbrushSize},
+    {"Airbrush", "sbAirbrushPressure",   0, 100, &Setup::AirbrushPressure},
+    {"Airbrush", "sbAirBrushQuantity",   0, 100, &Setup::AirbrushQuantity},
+    {"Airbrush", "sbAirbrushDefinition", 0, 100, &Setup::AirbrushDefinition},
+    {"Fill",     "sbFillTolerance",      0, 765, &Setup::FillTolerance},
+    {"Fill",     "sbFillPressure",       0, 100, &Setup::FillPressure},
+    {"Shape",    "sbShapePressure",      0, 100, &Setup::ShapePressure},
+    {"Shape",    "sbShapeSides",         3, 24,  &Setup::ShapeSides},
+    {"Stamp",    "sbStampPressure",      0, 100, &Setup::StampPressure},
+    {"Gradient", "sbGradPressure",       0, 100, &Setup::GradientPressure},
+    {"Gradient", "sbGradFrequency",      1, 20,  &Setup::GradientFrequency},
+    // clang-format on
+};
+
+TEST_F(Panes, SlidersWriteTheirSetting)
+{
+    for (const SliderCase& c : kSliders) {
+        frame.setup_.*c.field = static_cast<std::int16_t>(c.high - 1);
+        make(c.tool);
+        auto* slider = at<QSlider>(c.name);
+        auto* label = at<QLabel>((std::string("lbl") + c.name).c_str());
+        EXPECT_EQ(slider->value(), c.high - 1) << c.name;
+        EXPECT_EQ(label->text().toInt(), c.high - 1) << c.name;
+        slider->setValue(9999);
+        EXPECT_EQ(frame.setup_.*c.field, c.high) << c.name;
+        slider->setValue(-9999);
+        EXPECT_EQ(frame.setup_.*c.field, c.low) << c.name;
+        EXPECT_EQ(label->text().toInt(), c.low) << c.name;
+        frame.setup_.*c.field = -7; // as from a damaged file
+        make(c.tool);
+        EXPECT_EQ(frame.setup_.*c.field, c.low) << c.name;
+    }
+}
+
+struct ListCase {
+    const char *tool, *name;
+    std::vector<std::pair<const char*, int>> entries; // and the value each stands for
+    std::function<int(const Setup&)> field;
+};
+
+TEST_F(Panes, ListsWriteWhatTheEntryStandsFor)
+{
+    const ListCase cases[] = {
+        {"Select", "cbSelectionMode", {{"Add", 0}, {"Subtract", 1}, {"New", 2}}, &Setup::SelectionMode},
+        {"Select",
+         "cbSelectionShape",
+         {{"Rectangle", 0}, {"Ellipse", 1}, {"Polygon/Free hand", 2}, {"Pixel", 3}},
+         &Setup::SelectionShape},
+        {"SelectionMove", "cSelect", {{"Move Selection Only", 1}, {"Move Content Only", 0}}, &Setup::MoveSelection},
+        {"Brush",
+         "cbBrushMode",
+         {{"Current color", 0},
+          {"Current stamp", 6},
+          {"Darken", 5},
+          {"Lighten", 4},
+          {"Sharpen", 3},
+          {"Soften", 1},
+          {"Soften (Overlay)", 2}},
+         &Setup::BrushMode},
+        {"Fill", "cbFillMode", {{"Current color", 0}, {"Current stamp", 1}}, &Setup::FillMode},
+        {"Gradient", "cbGradMode", {{"Linear", 0}, {"Circular", 1}}, &Setup::GradientMode},
+    };
+    for (const ListCase& c : cases) {
+        make(c.tool);
+        auto* list = at<QComboBox>(c.name);
+        ASSERT_EQ(list->count(), int(c.entries.size())) << c.name;
+        for (const auto& [entry, number] : c.entries) {
+            list->setCurrentIndex(list->findText(entry));
+            EXPECT_EQ(c.field(frame.setup_), number) << c.name << ": " << entry;
+            std::unique_ptr<QWidget> other(makePopup(c.tool, frame, nullptr));
+            EXPECT_EQ(other->findChild<QComboBox*>(c.name)->currentText(), entry) << "the other pane shows the same";
+        }
+    }
+}
+
+TEST_F(Panes, TheMoveActionIsTheSelectionsOwnSetting)
+{
+    make("Select");
+    at<QCheckBox>("chkMoveSelection")->setChecked(false);
+    EXPECT_FALSE(frame.setup_.MoveSelection);
+    make("SelectionMove");
+    EXPECT_EQ(at<QComboBox>("cSelect")->currentText(), "Move Content Only");
+    EXPECT_EQ(at<QSlider>("cSelectionPressure")->value(), 50);
+    at<QSlider>("cSelectionPressure")->setValue(80);
+    EXPECT_EQ(frame.toolStores.movePressure, 80);
+    EXPECT_FALSE(frame.toolStores.useMovePressure);
+    at<QCheckBox>("cSelectionOwn")->setChecked(true);
+    EXPECT_TRUE(frame.toolStores.useMovePressure);
+}
+
+TEST_F(Panes, SidesAreForPolygonsOnly)
+{
+    frame.setup_.ShapeKind = 0;
+    make("Shape");
+    auto* kinds = at<QListWidget>("lstShape");
+    ASSERT_EQ(kinds->count(), 7);
+    EXPECT_FALSE(at<QSlider>("sbShapeSides")->isEnabled());
+    kinds->setCurrentRow(6);
+    EXPECT_EQ(kinds->currentItem()->text(), "Polygon");
+    EXPECT_EQ(frame.setup_.ShapeKind, 6);
+    EXPECT_TRUE(at<QSlider>("sbShapeSides")->isEnabled());
+}
+
+TEST_F(Panes, TheGradientIsShown)
+{
+    make("Gradient");
+    at<fColorButton>("GradColor_0")->setColour(0x0000FF);
+    at<fColorButton>("GradColor_1")->setColour(0xFF0000);
+    at<QSlider>("sbGradPressure")->setValue(100);
+    EXPECT_EQ(frame.setup_.GradientColor1, 0x0000FF);
+    const auto shown = [&] { return at<QLabel>("iGrad")->pixmap().toImage(); };
+    const QImage linear = shown();
+    EXPECT_GT(qRed(linear.pixel(2, 20)), 200);
+    EXPECT_GT(qBlue(linear.pixel(linear.width() - 3, 20)), 200);
+    at<QComboBox>("cbGradMode")->setCurrentIndex(1);
+    EXPECT_NE(shown(), linear);
+    const QImage circular = shown();
+    at<QCheckBox>("chkTranspCol_1")->setChecked(true);
+    EXPECT_TRUE(frame.setup_.GradientTransparent2);
+    EXPECT_NE(shown(), circular);
+}
+
+TEST_F(Panes, StampsFollowTheirFolder)
+{
+    make("Stamp");
+    EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: <Stamps> subfolder not found."));
+    EXPECT_FALSE(at<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(at<QLabel>("lblStamps")->text(), "Stamp sub-Folder Not Found!");
+    EXPECT_TRUE(frame.toolStores.stamp.isNull());
+
+    addStamp("b.bmp", 9);
+    addStamp("a.bmp", 5);
+    auto* list = at<QComboBox>("cbStamps");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; })) << "the folder has come";
+    EXPECT_TRUE(at<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(list->currentText(), "a.bmp");
+    EXPECT_EQ(frame.toolStores.stamp.width(), 5);
+    pane->show();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(frame.toolStores.stamp.width(), 9);
+    EXPECT_EQ(at<QLabel>("iStamp")->pixmap().width(), 9);
+
+    addStamp("c.bmp", 7);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 3; }));
+    EXPECT_EQ(list->currentText(), "b.bmp") << "the chosen one stays";
+    QFile::remove(frame.platform_.programFolder() + "/Stamps/b.bmp");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }));
+    EXPECT_EQ(frame.toolStores.stamp.width(), 5) << "the chosen one is gone";
+    make("Stamp");
+    EXPECT_EQ(at<QComboBox>("cbStamps")->count(), 2);
+}
+
+TEST_F(Panes, EveryToolOfTheTableHasBothPanes)
+{
+    addStamp("a.bmp", 5);
+    for (const ToolPaneRow& row : toolPaneRows()) {
+        make(row.tool);
+        EXPECT_EQ(pane->objectName(), row.side);
+        std::unique_ptr<QWidget> popup(makePopup(row.tool, frame, nullptr));
+        EXPECT_EQ(popup->objectName(), row.popup);
+        for (const QWidget* control : popup->findChildren<QWidget*>()) {
+            const QString name = control->objectName();
+            if (control->focusPolicy() == Qt::NoFocus || name.isEmpty() || name.startsWith("qt_")) continue;
+            EXPECT_FALSE(control->accessibleName().isEmpty()) << name.toStdString();
+        }
+    }
+    EXPECT_EQ(makePopup("Pencil", frame, nullptr), nullptr);
+}
+
+} // namespace velara

@@ -1,0 +1,273 @@
+// A document window as a person uses it.
+#include "ui/view/ImageFixture.h"
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QWheelEvent>
+
+namespace velara {
+
+using Window = ImageFixture;
+
+TEST_F(Window, ShowsEveryVisiblePixelAtEveryZoomAndPlace)
+{
+    const Bits bits = randomBits(61, 47, 5);
+    fImage& w = open(bits, 120, 90);
+    for (const int zoom : {1, 2, 3, 7, 15}) {
+        w.setZoomFactor(zoom);
+        const QPoint most = w.GetSBM();
+        for (const QPoint at : {QPoint(0, 0), most, most / 2, QPoint(most.x() / 3, 1)}) {
+            w.Scroll(at.x(), at.y());
+            const QImage screen = iDst()->grab().toImage();
+            ASSERT_EQ(screen.size(), iDst()->size());
+            const QPoint v = w.GetSBV();
+            for (int y = 0; y < screen.height(); ++y)
+                for (int x = 0; x < screen.width(); ++x)
+                    ASSERT_EQ(screen.pixel(x, y) & 0xFFFFFF, colourAt(bits, (x + v.x()) / zoom, (y + v.y()) / zoom))
+                        << "zoom " << zoom << " at " << x << "," << y;
+        }
+    }
+}
+
+TEST_F(Window, LaysOutAndScrolls)
+{
+    fImage& w = open(randomBits(300, 50, 1), 200, 150);
+    EXPECT_TRUE(control("hSB")->isVisible());
+    EXPECT_FALSE(control("vSB")->isVisible());
+    EXPECT_EQ(iDst()->geometry(), QRect(0, 40, 200, 50));
+    EXPECT_EQ(w.GetSBV(), QPoint(50, 0)) << "first shown in the middle";
+    w.Scroll(20, 0);
+    w.setZoomFactor(2);
+    EXPECT_EQ(w.GetSBM().x(), 400);
+    EXPECT_EQ(w.GetSBV().x(), 80);
+    w.setZoomFactor(1);
+    EXPECT_EQ(w.GetSBV().x(), 20) << "back again";
+    w.PPicture(randomBits(300, 50, 2));
+    EXPECT_EQ(w.GetSBV().x(), 0) << "another picture begins at its corner";
+    w.resize(400, 300);
+    EXPECT_EQ(iDst()->geometry(), QRect(50, 125, 300, 50));
+}
+
+TEST_F(Window, ZoomIsLimited)
+{
+    fImage& w = open(randomBits(10, 10, 1));
+    w.setZoomFactor(99);
+    EXPECT_EQ(w.ZoomFactor(), 15);
+    w.ZoomIn();
+    EXPECT_EQ(w.ZoomFactor(), 15);
+    w.setZoomFactor(-4);
+    w.ZoomOut();
+    EXPECT_EQ(w.ZoomFactor(), 1);
+
+    w.PPicture(Bits(2185, 3));
+    w.setZoomFactor(14);
+    EXPECT_EQ(w.ZoomFactor(), 14);
+    w.ZoomIn();
+    EXPECT_EQ(w.ZoomFactor(), 1) << "2185 times 15 is too wide";
+    EXPECT_EQ(w.document().Region.ZoomFactor(), 1);
+    EXPECT_TRUE(iDst()->isVisible());
+}
+
+TEST_F(Window, BarsWidthHasAMinimumAndTheWindowKeepsRoom)
+{
+    fImage& w = open(randomBits(100, 100, 1));
+    for (const auto& [asked, got] : {std::pair(13, 13), {5, 13}, {-1, 13}, {14, 14}, {30, 30}}) {
+        w.setBarsWidth(asked);
+        EXPECT_EQ(w.BarsWidth(), got);
+    }
+    w.resize(10, 10);
+    EXPECT_EQ(w.size(), QSize(60, 60));
+}
+
+TEST_F(Window, ExtremePicturesAreShown)
+{
+    fImage& w = open(flatBits(1, 1, 10, 20, 30));
+    w.setZoomFactor(15);
+    EXPECT_EQ(iDst()->size(), QSize(15, 15));
+    EXPECT_EQ(shown(14, 14), 0x1E140Au);
+    for (const QSize size : {QSize(30000, 3), QSize(3, 30000)}) {
+        w.PPicture(Bits(size.width(), size.height()));
+        EXPECT_EQ(w.ZoomFactor(), 1);
+        w.Scroll(40000, 40000);
+        EXPECT_EQ(w.GetSBV(), w.GetSBM());
+        EXPECT_EQ(shown(0, 0), 0u);
+    }
+}
+
+TEST_F(Window, LoadsAndSaysWhatCannotBeRead)
+{
+    fImage& w = open(randomBits(4, 4, 1));
+    const QString folder = frame.platform_.folder.path();
+    QImage(6, 5, QImage::Format_RGB32).save(folder + "/good.png");
+    EXPECT_TRUE(w.SetPicture(folder + "/good.png", "PNG"));
+    EXPECT_EQ(w.PictureWidth(), 6);
+    EXPECT_FALSE(w.SetPicture(folder + "/missing.gif", "gif"));
+    EXPECT_EQ(w.PictureWidth(), 6) << "a failed load changes nothing";
+    EXPECT_TRUE(w.SetPicture(folder + "/missing.psd", "psd"));
+    EXPECT_FALSE(w.PictureExists()) << "opens empty";
+    EXPECT_FALSE(iDst()->isVisible());
+    EXPECT_TRUE(frame.platform_.log.back().starts_with("load: ")) << "without a message";
+    w.CreateBlank(0, 5);
+    EXPECT_FALSE(w.PictureExists());
+    w.CreateBlank(5, 5);
+    EXPECT_TRUE(iDst()->isVisible());
+}
+
+TEST_F(Window, SavesAndSaysWhetherAFileWasWritten)
+{
+    const Bits bits = randomBits(7, 5, 3);
+    fImage& w = open(bits);
+    const QString base = frame.platform_.folder.path() + "/saved.";
+    EXPECT_TRUE(w.Save(base + "png", "PNG"));
+    EXPECT_EQ(QImage(base + "png").convertToFormat(QImage::Format_RGB32), w.ObtainedPic());
+    for (const char* kind : {"xyz", "", "ico"}) {
+        EXPECT_FALSE(w.Save(base + kind, kind)) << kind;
+        EXPECT_FALSE(QFile::exists(base + kind)) << kind;
+    }
+    EXPECT_FALSE(w.Save("/nowhere/at/all.bmp", "bmp"));
+    w.Clear();
+    EXPECT_FALSE(w.Save(base + "bmp", "bmp")) << "nothing to write";
+}
+
+TEST_F(Window, ClipboardHoldsThePictureOnly)
+{
+    const Bits bits = randomBits(9, 8, 4);
+    fImage& w = open(bits);
+    w.BitsCopyToClipboard();
+    EXPECT_EQ(frame.platform_.clipboard.width(), 9);
+    w.PPicture(Bits(3, 3));
+    w.PasteFromClipboard();
+    EXPECT_EQ(w.PictureHeight(), 8);
+    frame.platform_.clipboard = {};
+    w.PasteFromClipboard();
+    EXPECT_EQ(w.PictureHeight(), 8) << "an empty clipboard changes nothing";
+    const QImage picture = w.ObtainedPic();
+    EXPECT_EQ(picture.size(), QSize(9, 8));
+    EXPECT_EQ(picture.pixel(8, 7), 0xFF000000u | colourAt(bits, 8, 7));
+}
+
+TEST_F(Window, ActivationHandsThePictureToTheEngineOnce)
+{
+    const Bits first = randomBits(20, 10, 1), second = randomBits(12, 11, 2);
+    fImage& a = open(first);
+    a.setCaption("a.png");
+    fImage b(frame);
+    b.PPicture(second);
+    b.setCaption("b.png");
+    b.document().Region.CreateRect(2, 3, 5, 6, Combine::Or, true);
+    b.activate();
+    EXPECT_TRUE(frame.filter_.bits() == second);
+    EXPECT_EQ(frame.filter_.BitsRegion().bounds(), (Rect{2, 3, 5, 6}));
+    EXPECT_EQ(frame.status[Panel::Name], "b.png");
+    EXPECT_EQ(frame.status[Panel::Size], "12x11");
+    frame.filter_.setBits(first);
+    b.activate();
+    EXPECT_TRUE(frame.filter_.bits() == first) << "the same document again leaves the engine alone";
+    a.activate();
+    EXPECT_EQ(frame.filter_.BitsRegion().bounds(), (Rect{0, 0, 20, 10}));
+}
+
+TEST_F(Window, UndoShowsTheStepAndReportsTheSize)
+{
+    const Bits first = randomBits(20, 10, 1);
+    fImage& w = open(first);
+    w.PPicture(Bits(30, 15));
+    w.SaveUndoBits();
+    EXPECT_TRUE(w.UndoBits());
+    EXPECT_EQ(frame.status[Panel::Size], "20x10");
+    EXPECT_EQ(iDst()->size(), QSize(20, 10));
+    EXPECT_TRUE(frame.filter_.bits() == first);
+    EXPECT_FALSE(w.UndoBits()) << "no step before the first";
+    EXPECT_TRUE(w.RedoBits());
+    EXPECT_EQ(iDst()->size(), QSize(30, 15));
+}
+
+struct CloseRow {
+    const char* what;
+    bool option, changed, secondStep;
+    const char* answer; // null: no question is expected
+    bool closes, saves;
+};
+
+TEST_F(Window, AsksBeforeAChangedDocumentCloses)
+{
+    const CloseRow rows[] = {
+        // clang-format off
+        {"unchanged",                true,  false, true,  nullptr, true,  false},
+        {"nothing committed",        true,  true,  false, nullptr, true,  false},
+        {"the user wants no question", false, true, true, nullptr, true,  false},
+        {"no",                       true,  true,  true,  "no",    true,  false},
+        {"yes",                      true,  true,  true,  "yes",   true,  true},
+        {"cancel",                   true,  true,  true,  "",      false, false},
+        // clang-format on
+    };
+    for (const CloseRow& row : rows) {
+        fImage& w = open(randomBits(5, 5, 1));
+        w.setTag("/pictures/x.png");
+        frame.setup_.AskToSave = row.option;
+        w.document().Changed = row.changed;
+        if (row.secondStep) w.SaveUndoBits();
+        frame.platform_.log.clear();
+        frame.platform_.answers.clear();
+        if (row.answer && *row.answer) frame.platform_.answers = {QString(row.answer)};
+        frame.words.clear();
+        EXPECT_EQ(w.close(), row.closes) << row.what;
+        EXPECT_EQ(frame.platform_.logged(
+                      "ask: Velara Studio: /pictures/x.png\nThis image has changed.\nDo you want to save it ?"),
+                  row.answer != nullptr)
+            << row.what;
+        EXPECT_EQ(frame.words, row.saves ? std::vector<std::string>{"SAVEAS"} : std::vector<std::string>{}) << row.what;
+        const QDir temp(frame.platform_.folder.path() + "/Temp");
+        EXPECT_EQ(temp.entryList(QDir::Files).isEmpty(), row.closes) << row.what << ": undo files";
+        image.reset();
+    }
+}
+
+TEST_F(Window, TheLastDocumentEmptiesTheStatusBar)
+{
+    fImage& a = open(randomBits(5, 5, 1));
+    auto b = std::make_unique<fImage>(frame);
+    frame.setStatus(Panel::Name, "a");
+    frame.setStatus(Panel::Zoom, "1 : 1");
+    a.close();
+    EXPECT_EQ(frame.status[Panel::Name], "a");
+    b->close();
+    EXPECT_EQ(frame.status[Panel::Name], "");
+    EXPECT_EQ(frame.status[Panel::Zoom], "");
+}
+
+TEST_F(Window, MayBeDestroyedWhileItAsks)
+{
+    fImage& w = open(randomBits(5, 5, 1));
+    frame.setup_.AskToSave = true;
+    w.document().Changed = true;
+    w.SaveUndoBits();
+    frame.platform_.answers = {QString("yes")};
+    frame.onWord = [&](const QString&) { image.reset(); };
+    w.close();
+    EXPECT_EQ(image, nullptr);
+}
+
+TEST_F(Window, InTheFramesAreaTheOutlineRestsWithTheDocument)
+{
+    QMdiArea area;
+    area.resize(600, 400);
+    auto* a = new fImage(frame);
+    auto* b = new fImage(frame);
+    for (fImage* w : {a, b}) {
+        w->PPicture(randomBits(40, 30, 1));
+        w->document().Region.CreateRect(5, 5, 20, 20, Combine::Or, true);
+        area.addSubWindow(w);
+    }
+    area.show();
+    for (QMdiSubWindow* window : area.subWindowList()) window->show();
+    area.setActiveSubWindow(area.subWindowList()[0]);
+    a->activate();
+    EXPECT_TRUE(a->findChild<QTimer*>("tmrSelection")->isActive());
+    area.setActiveSubWindow(area.subWindowList()[1]);
+    EXPECT_FALSE(a->findChild<QTimer*>("tmrSelection")->isActive());
+    a->setCaption("renamed");
+    EXPECT_EQ(a->parentWidget()->windowTitle(), "renamed");
+}
+
+} // namespace velara

@@ -1,0 +1,197 @@
+// Mouse, wheel and keys on the display of a document, with the real tools.
+#include "region/outline.h"
+#include "ui/view/ImageFixture.h"
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace velara {
+
+struct Mouse : ImageFixture {
+    void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held)
+    {
+        QMouseEvent event(type, at, iDst()->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+        QApplication::sendEvent(iDst(), &event);
+    }
+    void press(QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        send(QEvent::MouseButtonPress, at, button, button);
+    }
+    void drag(QPoint at) { send(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton); }
+    void hover(QPoint at) { send(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
+    void release(QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        send(QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+    }
+    void wheel(QPoint at, QPoint angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QWheelEvent event(at, iDst()->mapToGlobal(QPointF(at)), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(iDst(), &event);
+    }
+    void choose(const char* tool) { frame.setup_.CurrentTool = tool; }
+};
+
+TEST_F(Mouse, PaintsWhereThePointerIsAndCommitsOnce)
+{
+    fImage& w = open(flatBits(100, 80, 0, 0, 0), 120, 100);
+    frame.setup_.ForeColor = 0x0000FF;
+    choose("Pencil");
+    w.setZoomFactor(3);
+    w.Scroll(31, 14);
+    press({5, 4}); // (5 + 31) \ 3, (4 + 14) \ 3
+    drag({5 + 9, 4});
+    EXPECT_NE(shown(9, 4), 0u) << "seen while it is drawn";
+    EXPECT_EQ(shown(9, 4), colourAt(w.Bits(), 13, 6));
+    EXPECT_FALSE(w.document().Changed);
+    release({5 + 9, 4});
+    for (int x = 12; x <= 15; ++x) EXPECT_NE(colourAt(w.Bits(), x, 6), 0u) << x;
+    EXPECT_EQ(colourAt(w.Bits(), 11, 6), 0u);
+    EXPECT_EQ(colourAt(w.Bits(), 16, 6), 0u);
+    EXPECT_EQ(frame.updates, 1);
+    EXPECT_TRUE(frame.filter_.bits() == w.Bits());
+    EXPECT_TRUE(w.document().Changed);
+}
+
+TEST_F(Mouse, MovesWithinAPixelAreDropped)
+{
+    fImage& w = open(randomBits(40, 30, 1));
+    w.setZoomFactor(5);
+    hover({12, 12});
+    EXPECT_EQ(frame.status[Panel::Pos], "X:2 Y:2");
+    frame.status[Panel::Pos] = "untouched";
+    hover({14, 10});
+    EXPECT_EQ(frame.status[Panel::Pos], "untouched");
+    hover({15, 10});
+    EXPECT_EQ(frame.status[Panel::Pos], "X:3 Y:2");
+    QTest::keyClick(iDst(), Qt::Key_Up);
+    QTest::keyClick(iDst(), Qt::Key_Left);
+    EXPECT_EQ(frame.status[Panel::Pos], "X:2 Y:1") << "arrows go on from there";
+    EXPECT_EQ(frame.updates, 0);
+}
+
+TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
+{
+    const Bits bits = flatBits(60, 50, 90, 90, 90);
+    fImage& w = open(bits, 300, 300);
+    w.setZoomFactor(4);
+    choose("Select");
+    frame.setup_.SelectionMode = 2;
+    frame.setup_.SelectionShape = 0;
+    press({8, 8});
+    drag({41, 29});
+    QWidget* band = control("shpRect");
+    ASSERT_TRUE(band->isVisible());
+    EXPECT_EQ(band->geometry(), QRect(8, 8, 33, 21));
+    release({41, 29});
+    EXPECT_FALSE(band->isVisible());
+    EXPECT_EQ(w.document().Region.Region().bounds(), (Rect{2, 2, 10, 7}));
+    EXPECT_EQ(frame.filter_.BitsRegion().bounds(), (Rect{2, 2, 10, 7}));
+    ASSERT_TRUE(w.findChild<QTimer*>("tmrSelection")->isActive());
+
+    const auto expectOutline = [&](bool on) {
+        const int n = w.document().Region.brushIndex();
+        const QImage screen = iDst()->grab().toImage();
+        for (int y = 0; y < screen.height(); ++y)
+            for (int x = 0; x < screen.width(); ++x) {
+                const bool edge =
+                    on && x >= 8 && x < 40 && y >= 8 && y < 28 && (x == 8 || x == 39 || y == 8 || y == 27);
+                ASSERT_EQ(screen.pixel(x, y) & 0xFFFFFF, !edge               ? 0x5A5A5Au
+                                                         : isStripe(n, x, y) ? 0xFFFFFFu
+                                                                             : 0u)
+                    << x << "," << y;
+            }
+    };
+    expectOutline(true);
+    const int before = w.document().Region.brushIndex();
+    QTest::qWait(700);
+    EXPECT_NE(w.document().Region.brushIndex(), before) << "it marches";
+    expectOutline(true);
+    w.deactivate();
+    expectOutline(false);
+    w.UpdateRegion();
+    expectOutline(true);
+    w.repaint({50, 40, 51, 41});
+    expectOutline(false);
+}
+
+TEST_F(Mouse, TheHandScrollsAndPaintsNothing)
+{
+    const Bits bits = randomBits(300, 200, 1);
+    fImage& w = open(bits, 120, 100);
+    choose("Pencil");
+    w.setMouseScroll(true);
+    EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
+    w.Scroll(50, 40);
+    press({60, 50});
+    EXPECT_EQ(iDst()->cursor().shape(), Qt::ClosedHandCursor);
+    drag({50, 53});
+    EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
+    drag({500, 500});
+    EXPECT_EQ(w.GetSBV(), QPoint(0, 0)) << "no further than the edge";
+    release({500, 500});
+    EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
+    EXPECT_TRUE(w.Bits() == bits);
+    EXPECT_EQ(frame.updates, 0);
+    w.resize(400, 300); // now all of it is seen: nothing to scroll, the tool works
+    press({5, 5});
+    release({5, 5});
+    EXPECT_EQ(frame.updates, 1);
+}
+
+TEST_F(Mouse, TheWheelScrollsAndZoomsAboutThePointer)
+{
+    fImage& w = open(randomBits(300, 200, 1), 120, 100);
+    w.Scroll(50, 40);
+    wheel({10, 10}, {0, -120});
+    EXPECT_EQ(w.GetSBV(), QPoint(50, 88));
+    wheel({10, 10}, {0, 120}, Qt::ShiftModifier);
+    EXPECT_EQ(w.GetSBV(), QPoint(2, 88));
+    const QPoint before = w.GetSBV() + QPoint(30, 20);
+    wheel({30, 20}, {0, 120}, Qt::ControlModifier);
+    EXPECT_EQ(w.ZoomFactor(), 2);
+    EXPECT_EQ((w.GetSBV() + QPoint(30, 20)) / 2, before);
+    EXPECT_EQ(frame.status[Panel::Zoom], "2 : 1");
+    wheel({30, 20}, {0, -60}, Qt::ControlModifier);
+    EXPECT_EQ(w.ZoomFactor(), 2) << "half a notch";
+    wheel({30, 20}, {0, -60}, Qt::ControlModifier);
+    EXPECT_EQ(w.ZoomFactor(), 1);
+    EXPECT_EQ(w.GetSBV(), before - QPoint(30, 20));
+}
+
+TEST_F(Mouse, PolygonCornersStayOnScreen)
+{
+    fImage& w = open(randomBits(60, 50, 1), 200, 200);
+    choose("Select");
+    frame.setup_.SelectionMode = 2;
+    frame.setup_.SelectionShape = 2;
+    press({5, 5});
+    drag({30, 8});
+    QTest::keyClick(iDst(), Qt::Key_Space);
+    drag({20, 30});
+    EXPECT_TRUE(control("shpLine_0")->isVisible());
+    EXPECT_EQ(control("shpLine_0")->geometry(), QRect(5, 5, 26, 4));
+    ASSERT_TRUE(control("shpLine_1"));
+    EXPECT_EQ(control("shpLine_1")->geometry(), QRect(20, 8, 11, 23));
+    w.HideShape(BandShape::Line);
+    EXPECT_FALSE(control("shpLine_0")->isVisible());
+    EXPECT_FALSE(control("shpLine_1"));
+}
+
+TEST_F(Mouse, TheRightButtonTakesAPreviewBack)
+{
+    const Bits bits = randomBits(60, 50, 1);
+    fImage& w = open(bits, 200, 200);
+    choose("Shape");
+    frame.setup_.ShapeKind = 3;
+    frame.setup_.ShapePressure = 100;
+    press({5, 5});
+    drag({30, 30});
+    EXPECT_FALSE(w.Bits() == bits);
+    press({30, 30}, Qt::RightButton);
+    release({30, 30}, Qt::RightButton);
+    EXPECT_TRUE(w.Bits() == bits);
+    EXPECT_EQ(shown(5, 5), colourAt(bits, 5, 5));
+    EXPECT_EQ(frame.updates, 0);
+}
+
+} // namespace velara

@@ -1,0 +1,116 @@
+// Literal twins of the filters by colour distance and by hue.
+#include "pixels/mHSLRGB.h"
+#include "pixels/numbers.h"
+#include "tools/reference/twins.h"
+#include <cmath>
+
+namespace velara {
+namespace {
+
+int distance(const Pixel& p, Colour colour)
+{
+    const int b = p.c[0] - blueOf(colour), g = p.c[1] - greenOf(colour), r = p.c[2] - redOf(colour);
+    return b * b + g * g + r * r;
+}
+
+int limitOf(int tolerance) { return roundEven(std::pow(tolerance * 127.5 / 100, 2) + 1); }
+
+void draw(Pixel& to, Colour colour, double k)
+{
+    const int t[] = {blueOf(colour), greenOf(colour), redOf(colour)};
+    for (int c = 0; c < 3; ++c) to.c[c] = toByte((t[c] - to.c[c]) * k + to.c[c]);
+}
+
+void store(Pixel& to, const Rgb& rgb) { to.c[0] = toByte(rgb.b), to.c[1] = toByte(rgb.g), to.c[2] = toByte(rgb.r); }
+
+Bits isolate(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        if (distance(to, wholeAt(a, 0)) >= limitOf(wholeAt(a, 2))) draw(to, wholeAt(a, 1), 1);
+    });
+}
+
+Bits replace(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int T = limitOf(wholeAt(a, 2));
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const int d2 = distance(to, wholeAt(a, 0));
+        if (d2 <= T) draw(to, wholeAt(a, 1), 1 - double(d2) / T);
+    });
+}
+
+Bits replaceHS(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int T = limitOf(wholeAt(a, 4)), from = wholeAt(a, 0);
+    const float th = static_cast<float>(wholeAt(a, 2) / 100.0), ts = static_cast<float>(wholeAt(a, 3) / 100.0);
+    const Hsl zero = RGBToHSL(redOf(from), greenOf(from), blueOf(from));
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const Hsl hsl = RGBToHSL(to.c[2], to.c[1], to.c[0]);
+        const int d2 = distance(to, from);
+        if (std::abs(double(hsl.h) - zero.h) <= th && std::abs(double(hsl.s) - zero.s) <= ts && d2 <= T)
+            draw(to, wholeAt(a, 1), static_cast<float>(1 - double(d2) / T));
+    });
+}
+
+Bits replaceL(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int T = limitOf(wholeAt(a, 3)), tl = roundEven(wholeAt(a, 2) * 2.55), from = wholeAt(a, 0);
+    const int lum0 = (redOf(from) + greenOf(from) + blueOf(from)) / 3;
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const int d2 = distance(to, from);
+        if (std::abs((to.c[0] + to.c[1] + to.c[2]) / 3 - lum0) <= tl && d2 <= T)
+            draw(to, wholeAt(a, 1), static_cast<float>(1 - double(d2) / T));
+    });
+}
+
+Bits shift(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int T = limitOf(wholeAt(a, 2));
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const int d2 = distance(to, wholeAt(a, 0));
+        if (d2 >= T) return;
+        const double k = 1 - double(d2) / T;
+        for (std::uint8_t* c = to.c; c < to.c + 3; ++c) *c = toByte((clamp(*c + wholeAt(a, 1)) - *c) * k + *c);
+    });
+}
+
+Bits rotateH(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const float o = static_cast<float>(wholeAt(a, 0) / 16.67), s = static_cast<float>(wholeAt(a, 1) / 100.0);
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const Hsl hsl = RGBToHSL(to.c[2], to.c[1], to.c[0]);
+        float h = static_cast<float>(double(hsl.h) + o);
+        if (h > 5) h = static_cast<float>(h - 6.0);
+        store(to, HSLToRGB(h, static_cast<float>(double(s) * hsl.s), hsl.l));
+    });
+}
+
+Bits colorize(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const auto h = static_cast<float>(numberAt(a, 0)), s = static_cast<float>(numberAt(a, 1)),
+               l = static_cast<float>(numberAt(a, 2));
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        store(to, HSLToRGB(h, s, static_cast<float>((to.c[0] + to.c[1] + to.c[2]) / 765.0 * l)));
+    });
+}
+
+Bits stretchH(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const float o = static_cast<float>(wholeAt(a, 0) / 16.67), s = static_cast<float>(wholeAt(a, 1) / 100.0),
+                fq = static_cast<float>(wholeAt(a, 2) / 10.0);
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
+        const float l = static_cast<float>((to.c[2] + to.c[1] + to.c[0]) / 765.0);
+        float h = static_cast<float>(std::sin(double(fq) * l) * 3 + o);
+        if (h < -1)
+            h = static_cast<float>(h + 6.0);
+        else if (h > 5)
+            h = static_cast<float>(h - 6.0);
+        store(to, HSLToRGB(h, s, l));
+    });
+}
+
+const TwinRows rows{{"ISOLATE", isolate}, {"REPLACE", replace}, {"ReplaceHS", replaceHS}, {"ReplaceL", replaceL},
+                    {"Shift", shift},     {"RotateH", rotateH}, {"COLORIZE", colorize},   {"StretchH", stretchH}};
+
+} // namespace
+} // namespace velara

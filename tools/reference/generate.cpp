@@ -1,0 +1,175 @@
+// Literal twins of the filters that draw lights, noise, lines, gradients and overlays.
+#include "pixels/numbers.h"
+#include "pixels/random.h"
+#include "tools/reference/twins.h"
+
+namespace velara {
+namespace {
+
+Bits light(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const float centreX = static_cast<float>(numberAt(a, 0)), centreY = static_cast<float>(numberAt(a, 1));
+    const float radius = static_cast<float>(numberAt(a, 2));
+    const int px = roundEven(bits.maxX() * double(centreX)), py = roundEven(bits.maxY() * double(centreY));
+    const int R = roundEven(std::max(bits.maxX(), bits.maxY()) * double(radius));
+    const float q = static_cast<float>(1 - wholeAt(a, 4) / 100.0);
+    if (R <= 0) return bits;
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        const double ox = double(x) - px, oy = double(y) - py;
+        if (!(ox * ox + oy * oy < double(R) * R)) return;
+        const long long k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * wholeAt(a, 3));
+        for (int c = 0; c < 3; ++c) to.c[c] = static_cast<std::uint8_t>(std::min(to.c[c] + k, 255LL) & 255);
+    });
+}
+
+Bits noise(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const int amount = wholeAt(a, 0);
+    const double span = 2.0 * amount + 1;
+    const Random random(cBitFilter::kRandomSeed);
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        const auto pixel = static_cast<std::uint32_t>(y * bits.width() + x);
+        for (int c = 2; c >= 0; --c) {
+            const double rnd = random.single(flagAt(a, 1) ? pixel : 3 * pixel + static_cast<std::uint32_t>(2 - c));
+            to.c[c] = clamp(roundEven(to.c[c] + (rnd * span - amount)));
+        }
+    });
+}
+
+Bits scanlines(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return eachPixel(bits, region, 0, [&](Pixel& to, int, int y) {
+        if ((y - region.bounds().top) % 2 == 0)
+            for (int c = 0; c < 3; ++c) to.c[c] = clamp(1LL * to.c[c] - wholeAt(a, 0));
+    });
+}
+
+Bits grid(const Bits& bits, const Region& region, const Arguments& args)
+{
+    const long long stepX = wholeAt(args, 0), stepY = wholeAt(args, 1);
+    if (stepX < 1 || stepY < 1) throw RuntimeError(Fault::OutOfRange);
+    const Colour colour = wholeAt(args, 3);
+    const float a = static_cast<float>(wholeAt(args, 4) / 255.0), b = static_cast<float>(1.0 - a);
+    const Rect box = region.bounds();
+    Bits out = bits;
+    const auto draw = [&](long long x, long long y) {
+        if (x < 0 || y < 0 || x > bits.maxX() || y > bits.maxY()) return;
+        const int X = static_cast<int>(x), Y = static_cast<int>(y);
+        if (!region.contains(X, Y)) return;
+        for (int c = 0; c < 3; ++c)
+            out.at(X, Y).c[c] = toByte(bits.at(X, Y).c[c] * double(b) + (colour >> (16 - 8 * c) & 255) * double(a));
+    };
+    const auto across = [&](long long y) {
+        for (int x = box.left; x < box.right; ++x) draw(x, y);
+    };
+    const auto down = [&](long long x) {
+        for (int y = box.top; y < box.bottom; ++y) draw(x, y);
+    };
+    for (long long y = box.top; y < box.bottom; y += stepY) across(y);
+    if (flagAt(args, 2)) across(bits.maxY());
+    for (long long x = box.left; x < box.right; x += stepX) down(x);
+    if (flagAt(args, 2)) down(bits.maxX());
+    return out;
+}
+
+Bits gradient(const Bits& bits, const Region& region, const Arguments& a, bool linear)
+{
+    const double x1 = wholeAt(a, 0), y1 = wholeAt(a, 1), dxx = wholeAt(a, 2) - x1, dyy = wholeAt(a, 3) - y1;
+    const double D = std::sqrt(dxx * dxx + dyy * dyy);
+    if (D == 0) return bits;
+    const int R = roundEven(D);
+    const float op = static_cast<float>(wholeAt(a, 6) / 100.0), nop = static_cast<float>(1.0 - op);
+    float freq = static_cast<float>((wholeAt(a, 7) - 1.0) * 3.141592025756836);
+    if (R < freq) freq = static_cast<float>(R);
+    double angle = dxx != 0 ? std::atan(dyy / dxx) : (dyy > 0 ? 1 : -1) * 90 * 0.017453288659453392;
+    if (dxx < 0)
+        angle += 3.141592f;
+    else if (dyy < 0)
+        angle += 6.283184f;
+    angle = static_cast<float>(angle);
+    const float cr = static_cast<float>(std::cos(angle) / R), sr = static_cast<float>(std::sin(angle) / R);
+    return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
+        const double rx = x - x1, ry = y - y1;
+        float t = static_cast<float>(linear ? ry * sr + rx * cr : std::sqrt(rx * rx + ry * ry) / R);
+        if (freq > 0) t = static_cast<float>(std::pow(std::sin(double(freq) * t), 2));
+        if (t > 1) t = 1;
+        if (t < 0) t = 0;
+        const float u = static_cast<float>(1.0 - t);
+        for (int c = 0; c < 3; ++c) {
+            const int shift = 16 - 8 * c;
+            const double col1 = wholeAt(a, 4) == -1 ? to.c[c] : wholeAt(a, 4) >> shift & 255;
+            const double col2 = wholeAt(a, 5) == -1 ? to.c[c] : wholeAt(a, 5) >> shift & 255;
+            to.c[c] = toByte(to.c[c] * double(nop) + (col1 * u + col2 * t) * double(op));
+        }
+    });
+}
+
+Bits gradientLinear(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return gradient(bits, region, a, true);
+}
+
+Bits gradientCircular(const Bits& bits, const Region& region, const Arguments& a)
+{
+    return gradient(bits, region, a, false);
+}
+
+Bits texturize(const Bits& bits, const Region& region, const Arguments& a)
+{
+    const Bits& texture = std::get<Bits>(a[0]);
+    const int tx = texture.maxX(), ty = texture.maxY();
+    if (tx < 1 || ty < 1) throw RuntimeError(Fault::OutOfRange);
+    const Rect box = region.bounds();
+    Bits out = bits;
+    for (int Y = box.top; Y < box.bottom; Y += ty)
+        for (int X = box.left; X < box.right; X += tx)
+            for (int j = 0; j <= ty; ++j)
+                for (int i = 0; i <= tx; ++i) {
+                    const int x = X + i, y = Y + j;
+                    if (x < 0 || y < 0 || x > bits.maxX() || y > bits.maxY() || !region.contains(x, y)) continue;
+                    const float f = static_cast<float>(texture.at(i, j).c[0] / 128.0);
+                    for (int c = 0; c < 3; ++c) out.at(x, y).c[c] = clamp(roundEven(bits.at(x, y).c[c] * double(f)));
+                }
+    return out;
+}
+
+Bits tileMask(const Bits& bits, const Region& region, const Arguments& args)
+{
+    const Bits& overlay = std::get<Bits>(args[0]);
+    const long long left = wholeAt(args, 1), top = wholeAt(args, 2);
+    const Colour key = wholeAt(args, 5);
+    const long long stepX = flagAt(args, 3) ? overlay.width() : bits.maxX() - left + 1;
+    const long long stepY = flagAt(args, 3) ? overlay.height() : bits.maxY() - top + 1;
+    const float a = static_cast<float>(wholeAt(args, 4) / 100.0), b = static_cast<float>(1.0 - a);
+    Bits out = bits;
+    for (long long Y = top; Y <= bits.maxY(); Y += stepY)
+        for (long long X = left; X <= bits.maxX(); X += stepX)
+            for (int j = 0; j < overlay.height(); ++j)
+                for (int i = 0; i < overlay.width(); ++i) {
+                    const long long x = X + i, y = Y + j;
+                    if (x < 0 || y < 0 || x > bits.maxX() || y > bits.maxY()) continue;
+                    if (!region.contains(static_cast<int>(x), static_cast<int>(y))) continue;
+                    const Pixel& o = overlay.at(i, j);
+                    if (key != -1 && o.c[2] == (key & 255) && o.c[1] == (key >> 8 & 255) && o.c[0] == (key >> 16 & 255))
+                        continue;
+                    const Pixel& from = bits.at(static_cast<int>(x), static_cast<int>(y));
+                    for (int c = 0; c < 3; ++c)
+                        out.at(static_cast<int>(x), static_cast<int>(y)).c[c] =
+                            toByte(from.c[c] * double(a) + o.c[c] * double(b));
+                }
+    return out;
+}
+
+const TwinRows rows{
+    {"Light", light},
+    {"NOISE", noise},
+    {"Scanlines", scanlines},
+    {"Grid", grid},
+    {"GradientLinear", gradientLinear},
+    {"GradientCircular", gradientCircular},
+    {"Texturize", texturize},
+    {"TileMask", tileMask},
+};
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,207 @@
+// Takes pictures of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
+// QT_SCALE_FACTOR. Works without a display.
+#include "app/fStartup.h"
+#include "app/frame/fToolPane.h"
+#include "app/menus/fIcons.h"
+#include "app/menus/fMenuStyle.h"
+#include "app/menus/menus.h"
+#include "app/settings/fPreferences.h"
+#include "app/start/fSplash.h"
+#include "support/RecordingPlatform.h"
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPointer>
+#include <QTimer>
+#include <QToolButton>
+#include <cstdio>
+
+using namespace velara;
+
+namespace {
+
+QString folder, suffix;
+
+void settle(int milliseconds = 60)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+}
+
+void save(const QPixmap& pixmap, const QString& name)
+{
+    const QString path = folder + "/" + name + suffix + ".png";
+    if (!pixmap.save(path)) std::fprintf(stderr, "can't write %s\n", qPrintable(path));
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(49, 54, 59));
+    palette.setColor(QPalette::Base, QColor(35, 38, 41));
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+/// The frame with one of its menus open over it, submenus beside it.
+void shootMenu(QWidget& frame, QMenu& menu)
+{
+    QPixmap all = frame.grab();
+    QPainter painter(&all);
+    QPoint at = frame.mapFromGlobal(menu.pos());
+    painter.drawPixmap(at, menu.grab());
+    at.rx() += menu.width();
+    for (QAction* item : menu.actions())
+        if (QMenu* sub = item->menu()) {
+            sub->popup(QPoint(0, 0));
+            settle(20);
+            painter.drawPixmap(at, sub->grab());
+            at.rx() += sub->width() + 4;
+            if (at.x() + 120 > frame.width())
+                at = QPoint(frame.mapFromGlobal(menu.pos()).x() + menu.width(), at.y() + 200);
+            sub->close();
+        }
+    painter.end();
+    save(all, "menu_" + menu.objectName());
+}
+
+/// The dialogs by the words that open them; large: at two times the size as well.
+struct DialogRow {
+    const char* word;
+    bool large;
+};
+// clang-format off
+constexpr DialogRow kDialogs[] = {
+    {"NEW", false}, {"IMAGESIZE", false}, {"CANVASSIZE", true}, {"IMAGEORIENTATION", false}, {"IMAGEROTATE", false},
+    {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
+    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false},
+};
+// clang-format on
+
+void shootDialog(fMain& frame, const char* word)
+{
+    QTimer::singleShot(400, [word] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            save(dialog->grab(), QString("dialog_") + word);
+            dialog->close();
+        }
+    });
+    frame.Mmenu(word);
+}
+
+/// The side pane with each tool, and the floating copies of the panes one below the other.
+void shootPanes(fMain& frame)
+{
+    const QStringList keys = {"Select", "SelectionMove", "Brush", "Airbrush", "Fill", "Shape", "Stamp", "Gradient"};
+    constexpr int kPaneHeight = 560;
+    QPixmap all(int(keys.size()) * frame.toolPane().width(), kPaneHeight);
+    QPainter painter(&all);
+    int x = 0;
+    for (const QString& key : keys) {
+        frame.toolClicked(key);
+        settle(30);
+        painter.drawPixmap(x, 0, frame.toolPane().grab(QRect(0, 0, frame.toolPane().width(), kPaneHeight)));
+        x += frame.toolPane().width();
+    }
+    painter.end();
+    save(all, "tool_panes");
+
+    QPointer<QWidget> popup;
+    QToolButton* button = frame.toolPane().button("Brush");
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(button, &enter);
+    settle(900); // both timers of the hover
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != &frame && window->isVisible()) popup = window;
+    if (popup) save(popup->grab(), "tool_popup");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: screenshots FOLDER light|dark\n");
+        return 2;
+    }
+    folder = argv[1];
+    QDir().mkpath(folder);
+    const bool dark = QString(argv[2]) == "dark";
+    suffix = QString(dark ? "_dark" : "") + (qApp->devicePixelRatio() > 1 ? "_2x" : "");
+    application.setStyle(new fMenuStyle);
+    if (dark) application.setPalette(darkPalette());
+
+    RecordingPlatform platform;
+    platform.onYield = [] { QCoreApplication::processEvents(); };
+    Setup setup;
+    const auto frame = startEditor(platform, setup);
+    frame->resize(1100, 760);
+    settle();
+    save(frame->grab(), "frame_empty");
+    const QString picture = platform.folder.filePath("Images/Velara.bmp");
+    platform.answers = {picture, picture};
+    frame->Mmenu("OPEN");
+    frame->Mmenu("OPEN");
+    frame->Mmenu("LIGHTEMBOSS");
+    const auto windows = frame->area().subWindowList();
+    windows[0]->setGeometry(20, 20, 560, 420);
+    windows[1]->setGeometry(260, 120, 600, 420);
+    settle();
+    save(frame->grab(), "frame_two_pictures");
+
+    setup.Recent = {}; // no path of the machine that took the pictures
+    frame->FillRecent();
+    const bool few = qApp->devicePixelRatio() > 1; // twice the size: a few windows tell enough
+    const auto menus = frame->menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
+    for (QMenu* menu : menus) {
+        if (few && menu->objectName() != "mnuFilters") continue;
+        if (menu->objectName().isEmpty()) continue;
+        menu->popup(frame->mapToGlobal(QPoint(frame->menuBar()->actionGeometry(menu->menuAction()).bottomLeft())));
+        settle(20);
+        for (QAction* item : menu->actions())
+            if (item->isEnabled() && !item->isSeparator() && !item->icon().isNull()) {
+                menu->setActiveAction(item);
+                break;
+            }
+        settle(20);
+        shootMenu(*frame, *menu);
+        menu->close();
+    }
+
+    setup.ImagesPath = "/home/ana/pictures/";
+    fPreferences options(platform, setup, frame.get());
+    options.show();
+    settle();
+    save(options.grab(), "options");
+    options.hide();
+
+    QMessageBox question(QMessageBox::Information, "Velara Studio",
+                         "/home/ana/pictures/lake.bmp\nThis image has changed.\nDo you want to save it ?",
+                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    question.show();
+    settle();
+    save(question.grab(), "close_question");
+    question.hide();
+
+    fSplash about(platform, frame.get());
+    about.show();
+    settle();
+    save(about.grab(), "about");
+    about.hide();
+
+    frame->area().setActiveSubWindow(windows[0]); // the one in colours
+    for (const DialogRow& row : kDialogs)
+        if (!few || row.large) shootDialog(*frame, row.word);
+    if (!few) shootPanes(*frame);
+    setup.AskToSave = false;
+    frame->close();
+    return 0;
+}
