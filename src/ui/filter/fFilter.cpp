@@ -5,7 +5,7 @@
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fPreviewPicture.h"
+#include "ui/widgets/fPicture.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,7 +19,7 @@ namespace velara {
 
 fFilter::fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent)
     : QDialog(parent), frame_(frame), row_(row), take_(std::move(take)),
-      preview_(frame.filter().bits(), frame.filter().BitsRegion(), fPreviewPicture::kSize)
+      preview_(frame.filter().bits(), frame.filter().BitsRegion(), kPreviewBox)
 {
     setObjectName(QStringLiteral("fFilter"));
     setWindowTitle(QString::fromLatin1(row.title));
@@ -36,7 +36,7 @@ fFilter::fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent)
     connect(&previewTimer_, &QTimer::timeout, this, &fFilter::runPreview);
     tmrSelect_.setObjectName(QStringLiteral("tmrSelect"));
     tmrSelect_.setInterval(400);
-    connect(&tmrSelect_, &QTimer::timeout, iSrc_, &fPreviewPicture::flipMarker);
+    connect(&tmrSelect_, &QTimer::timeout, iSrc_, &fPicture::flipMarker);
     if (has(row.extras, FilterExtra::PickCentre | FilterExtra::PickColour)) tmrSelect_.start();
     showValues();
     runPreview();

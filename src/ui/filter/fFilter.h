@@ -18,7 +18,7 @@ namespace velara {
 
 class Frame;
 class fColorButton;
-class fPreviewPicture;
+class fPicture;
 
 class fFilter final : public QDialog {
     Q_OBJECT
@@ -60,6 +60,8 @@ class fFilter final : public QDialog {
     bool runFull();
     void showRunning(bool running);
 
+    static constexpr QSize kPreviewBox{300, 260}; // that the small copies fit
+
     Frame& frame_;
     const FilterRow& row_;
     Take take_;
@@ -67,7 +69,7 @@ class fFilter final : public QDialog {
     RunPacer pacer_;
     QTimer previewTimer_, tmrSelect_;
 
-    fPreviewPicture *iSrc_ = nullptr, *iDst_ = nullptr;
+    fPicture *iSrc_ = nullptr, *iDst_ = nullptr;
     QWidget* controls_ = nullptr;
     std::array<QSlider*, 3> sbFilter_{};
     std::array<QLabel*, 3> lblFilterV_{};

@@ -3,7 +3,7 @@
 #include "seams/Setup.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fPreviewPicture.h"
+#include "ui/widgets/fPicture.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -51,15 +51,15 @@ QWidget* fFilter::makePreviews()
                                                                        : tr("Before");
     grid->addWidget(heading(before, box), 0, 0);
     grid->addWidget(heading(tr("After"), box), 0, 1);
-    iSrc_ = new fPreviewPicture(QStringLiteral("iSrc"), before, box);
-    iDst_ = new fPreviewPicture(QStringLiteral("iDst"), tr("After"), box);
+    iSrc_ = new fPicture(QStringLiteral("iSrc"), before, kPreviewBox + QSize(2, 2), box);
+    iDst_ = new fPicture(QStringLiteral("iDst"), tr("After"), kPreviewBox + QSize(2, 2), box);
     grid->addWidget(iSrc_, 1, 0);
     grid->addWidget(iDst_, 1, 1);
     iSrc_->setBits(preview_.source());
     iSrc_->setPickable(picks && !preview_.source().isNull());
     if (has(row_.extras, FilterExtra::PickCentre))
         iSrc_->setMarker(QPointF(centre_.x() * preview_.source().width(), centre_.y() * preview_.source().height()));
-    connect(iSrc_, &fPreviewPicture::pressed, this, &fFilter::picked);
+    connect(iSrc_, &fPicture::pressed, this, &fFilter::picked);
     return box;
 }
 

@@ -32,7 +32,7 @@ fOrientation::fOrientation(Platform& platform, const Bits& picture, QWidget* par
     grid().setRowStretch(5, 1);
     addButtons("cmdOK", "cmdCancel");
 
-    const auto show = [this, preview] { preview->setBits(tried(picture_, job())); };
+    const auto show = [this, preview] { preview->showWhole(tried(picture_, job())); };
     connect(turns_, &QComboBox::currentIndexChanged, this, show);
     connect(vertical_, &QCheckBox::toggled, this, show);
     connect(horizontal_, &QCheckBox::toggled, this, show);

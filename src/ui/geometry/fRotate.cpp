@@ -77,6 +77,6 @@ fGeometry::Job fRotate::job() const
     };
 }
 
-void fRotate::showPreview() { preview_->setBits(tried(picture_, job())); }
+void fRotate::showPreview() { preview_->showWhole(tried(picture_, job())); }
 
 } // namespace velara

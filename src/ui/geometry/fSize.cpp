@@ -65,7 +65,7 @@ void fSize::showPreview()
     if (w < 1 || h < 1) return;
     const QSize shown = fitSize({w, h}, kPreview).expandedTo({1, 1});
     const bool smooth = smooth_->isChecked();
-    preview_->setBits(tried(picture_, [=](Document& document, cBitFilter& filter) {
+    preview_->showWhole(tried(picture_, [=](Document& document, cBitFilter& filter) {
         resizeImage(document, filter, shown.width(), shown.height(), smooth);
     }));
 }

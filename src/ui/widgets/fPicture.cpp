@@ -1,38 +1,152 @@
 #include "ui/widgets/fPicture.h"
 #include "engine/cBitFilter.h"
 #include "pixels/mBitmap.h"
+#include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 namespace velara {
 
-fPicture::fPicture(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent)
-    : QWidget(parent)
+fPicture::fPicture(const QString& objectName, const QString& accessibleName, QWidget* parent) : QWidget(parent)
 {
     setObjectName(objectName);
     setAccessibleName(accessibleName);
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: no background first, no flicker
+}
+
+fPicture::fPicture(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent)
+    : fPicture(objectName, accessibleName, parent)
+{
     setFixedSize(box);
 }
 
 void fPicture::setBits(const Bits& bits)
 {
-    bits_ = fittingCopy(bits, size());
+    bits_ = bits;
+    update();
+}
+
+void fPicture::showWhole(const Bits& bits) { setBits(fittingCopy(bits, size())); }
+
+void fPicture::setZoom(int zoom)
+{
+    zoom_ = std::max(zoom, 1);
     update();
 }
 
 QRect fPicture::place() const
 {
-    return {(width() - bits_.width()) / 2, (height() - bits_.height()) / 2, bits_.width(), bits_.height()};
+    const QSize shown = zoomedSize();
+    return {{(width() - shown.width()) / 2, (height() - shown.height()) / 2}, shown};
 }
 
-void fPicture::paintEvent(QPaintEvent*)
+QPoint fPicture::pixelAt(QPointF at) const
+{
+    const QPointF pixel = (at - place().topLeft()) / zoom_;
+    return {static_cast<int>(std::floor(pixel.x())), static_cast<int>(std::floor(pixel.y()))};
+}
+
+void fPicture::updatePixels(const Rect& pixels)
+{
+    const QPointF from = placeOf(QPointF(pixels.left, pixels.top)), to = placeOf(QPointF(pixels.right, pixels.bottom));
+    update(QRectF(from, to).toRect() & rect());
+}
+
+void fPicture::setMarker(std::optional<QPointF> place)
+{
+    marker_ = place;
+    update();
+}
+
+void fPicture::flipMarker()
+{
+    white_ = !white_;
+    if (marker_) update();
+}
+
+void fPicture::setPickable(bool pickable)
+{
+    pickable_ = pickable;
+    showPointer(false);
+}
+
+void fPicture::setPannable(bool pannable)
+{
+    pannable_ = pannable;
+    if (!grabbed_) showPointer(false);
+}
+
+void fPicture::showPointer(bool grabbed)
+{
+    if (pickable_)
+        setCursor(Qt::CrossCursor);
+    else if (pannable_)
+        setCursor(grabbed ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+    else
+        unsetCursor();
+}
+
+// --- Painting
+
+void fPicture::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Mid));
-    if (bits_.isNull()) return;
-    const Bits& shown = bits_;
-    const QImage image(reinterpret_cast<const uchar*>(shown.row(0)), shown.width(), shown.height(), shown.stride() * 4,
-                       QImage::Format_RGB32);
-    painter.drawImage(place().topLeft(), image);
+    const QRect part = event->rect(), picture = place();
+    if (!picture.contains(part)) painter.fillRect(part, palette().color(QPalette::Mid));
+    if (const QRect shown = (part & picture).translated(-picture.topLeft()); !bits_.isNull() && !shown.isEmpty()) {
+        const double k = devicePixelRatioF();
+        const auto whole = [](double v) { return static_cast<int>(v); };
+        painter.translate(picture.topLeft());
+        renderer_.paint(painter, bits_, {0, 0, zoom_, k},
+                        {whole(std::floor(shown.left() * k)), whole(std::floor(shown.top() * k)),
+                         whole(std::ceil((shown.left() + shown.width()) * k)),
+                         whole(std::ceil((shown.top() + shown.height()) * k))},
+                        {});
+        painter.translate(-picture.topLeft());
+    }
+    paintOver(painter, part);
+}
+
+void fPicture::paintOver(QPainter& painter, const QRect&)
+{
+    if (!marker_) return;
+    const QPointF at = placeOf(*marker_);
+    painter.setPen(white_ ? Qt::white : Qt::black);
+    painter.drawLine(at - QPointF(7, 0), at + QPointF(7, 0));
+    painter.drawLine(at - QPointF(0, 7), at + QPointF(0, 7));
+    painter.drawEllipse(at, 4, 4);
+}
+
+// --- Mouse
+
+void fPicture::tell(const QMouseEvent& event)
+{
+    const QPoint pixel = pixelAt(event.position());
+    if (event.buttons() & Qt::LeftButton && QRect(0, 0, bits_.width(), bits_.height()).contains(pixel))
+        emit pressed(pixel);
+}
+
+void fPicture::mousePressEvent(QMouseEvent* event)
+{
+    if (pickable_ && event->button() == Qt::LeftButton) return tell(*event);
+    if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton) return event->ignore();
+    grabbed_ = event->position().toPoint();
+    showPointer(true);
+}
+
+void fPicture::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!grabbed_) {
+        if (pickable_) tell(*event);
+        return;
+    }
+    emit panned(event->position().toPoint() - *grabbed_);
+}
+
+void fPicture::mouseReleaseEvent(QMouseEvent*)
+{
+    grabbed_.reset();
+    showPointer(false);
 }
 
 Bits fittingCopy(const Bits& bits, QSize box)

@@ -43,6 +43,12 @@ int restoredValue(int maximum, bool laidOut, float lastValue, float lastMaximum)
 
 int pictureAt(double at, int scroll, int zoom) { return (static_cast<int>(std::floor(at)) + scroll) / zoom; }
 
+PageAxis pageAxis(int container, int picture, int value)
+{
+    const int maximum = std::max(picture - container, 0), shown = std::clamp(value, 0, maximum);
+    return {maximum, shown, maximum > 0 ? -shown : (container - picture) / 2};
+}
+
 Rect viewRect(const Rect& pixels, int scrollX, int scrollY, int zoom)
 {
     const auto at = [zoom](int pixel, int scroll) {

@@ -1,5 +1,6 @@
-// The arithmetic of a document's window: where the display and the scroll bars lie, where a scroll bar stands after a
-// change of size, and which picture pixel lies under the pointer. Lengths are logical screen pixels.
+// The arithmetic of a document's window and of pages with a picture: where the display and the scroll bars lie, where a
+// scroll bar stands after a change of size, and which picture pixel lies under the pointer. Lengths are logical screen
+// pixels.
 #pragma once
 #include "region/Region.h"
 
@@ -33,6 +34,13 @@ int restoredValue(int maximum, bool laidOut, float lastValue, float lastMaximum)
 
 /// Picture column (or row) under a place of the display; at is relative to the display's edge.
 int pictureAt(double at, int scroll, int zoom);
+
+/// A picture in a container, along one direction: the bar's range and value, and where the picture's edge lies.
+struct PageAxis {
+    int maximum, value, place;
+};
+/// In the middle when it is no longer than the container; else moved by the bar, whose value is limited to its range.
+PageAxis pageAxis(int container, int picture, int value);
 
 /// The part of the display that shows these picture pixels, not cut to the display.
 Rect viewRect(const Rect& pixels, int scrollX, int scrollY, int zoom);

@@ -5,7 +5,7 @@
 #include "support/pictures.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fPreviewPicture.h"
+#include "ui/widgets/fPicture.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -74,7 +74,7 @@ struct FilterDialog : ::testing::Test {
         auto* widget = find<QWidget>(name);
         QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
     }
-    Bits shown() { return find<fPreviewPicture>("iDst")->bits(); }
+    Bits shown() { return find<fPicture>("iDst")->bits(); }
     /// What the filter makes of the whole picture with the dialog's settings.
     Bits wanted(std::string_view word)
     {
@@ -201,8 +201,8 @@ TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
 TEST_F(FilterDialog, APressOnThePreviewPicksAColourOrTheCentre)
 {
     open("REPLACE");
-    auto* source = find<fPreviewPicture>("iSrc");
-    QTest::mouseClick(source, Qt::LeftButton, {}, source->origin() + QPoint(30, 40));
+    auto* source = find<fPicture>("iSrc");
+    QTest::mouseClick(source, Qt::LeftButton, {}, source->place().topLeft() + QPoint(30, 40));
     const auto& c = picture.at(30, 40).c;
     EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]);
     EXPECT_EQ(frame.record.BackColor, dialog->arguments().colour[1]);
@@ -210,9 +210,9 @@ TEST_F(FilterDialog, APressOnThePreviewPicksAColourOrTheCentre)
     EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]) << "beside the picture";
 
     open("LENS");
-    source = find<fPreviewPicture>("iSrc");
+    source = find<fPicture>("iSrc");
     EXPECT_EQ(0.5f, dialog->arguments().centerX);
-    QTest::mouseClick(source, Qt::LeftButton, {}, source->origin() + QPoint(50, 120));
+    QTest::mouseClick(source, Qt::LeftButton, {}, source->place().topLeft() + QPoint(50, 120));
     EXPECT_EQ(0.25f, dialog->arguments().centerX);
     EXPECT_EQ(0.8f, dialog->arguments().centerY);
     const QImage before = source->grab().toImage();

@@ -72,4 +72,20 @@ TEST(ViewLayout, PixelUnderThePointer)
     EXPECT_EQ(viewRect({2, 3, 5, 4}, 4, 1, 3), (Rect{2, 8, 11, 11}));
 }
 
+TEST(PageAxis, InTheMiddleOrMovedByItsBar)
+{
+    const auto expect = [](PageAxis got, int maximum, int value, int place) {
+        EXPECT_EQ(got.maximum, maximum);
+        EXPECT_EQ(got.value, value);
+        EXPECT_EQ(got.place, place);
+    };
+    expect(pageAxis(100, 40, 7), 0, 0, 30);
+    expect(pageAxis(100, 41, 0), 0, 0, 29);
+    expect(pageAxis(100, 100, 3), 0, 0, 0);
+    expect(pageAxis(100, 101, 3), 1, 1, -1);
+    expect(pageAxis(100, 350, 120), 250, 120, -120);
+    expect(pageAxis(100, 350, -5), 250, 0, 0);
+    expect(pageAxis(1, 32767, 99999), 32766, 32766, -32766);
+}
+
 } // namespace velara

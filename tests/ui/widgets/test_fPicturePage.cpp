@@ -1,0 +1,145 @@
+// Two pages with a picture, used by mouse, wheel and keys.
+#include "support/pictures.h"
+#include "ui/widgets/fPicturePage.h"
+#include <QHBoxLayout>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QtTest>
+
+namespace velara {
+namespace {
+
+/// Marks what it is asked to paint.
+struct Canvas final : fPicture {
+    QRect last;
+    Canvas() : fPicture("c", "c") {}
+    void paintOver(QPainter&, const QRect& part) override { last |= part; }
+};
+
+struct PicturePages : ::testing::Test {
+    QWidget window;
+    Canvas* canvas = new Canvas;
+    fPicturePage left{{"CLeft", "Left", "HLeft", "VLeft"}, "Before", canvas};
+    fPicturePage right{{"CRight", "Right", "HRight", "VRight"}, "After"};
+    Bits picture = randomBits(900, 700, 3);
+
+    void SetUp() override
+    {
+        auto* row = new QHBoxLayout(&window);
+        row->addWidget(&left);
+        row->addWidget(&right);
+        left.setPartner(right);
+        window.resize(640, 320);
+        window.show();
+        show(picture);
+    }
+    void TearDown() override
+    {
+        left.setParent(nullptr);
+        right.setParent(nullptr);
+    }
+    void show(const Bits& bits)
+    {
+        left.setBits(bits);
+        right.setBits(bits);
+        QTest::qWait(1);
+    }
+    QScrollBar* bar(const char* name) { return window.findChild<QScrollBar*>(name); }
+    QPoint at(fPicturePage& page) { return page.picture().pos(); }
+};
+
+/// The pixel that a grab of the container shows at a place.
+QRgb shownAt(fPicturePage& page, QPoint place) { return page.grab().toImage().pixel(place) & 0xFFFFFF; }
+QRgb pixelOf(const Bits& bits, QPoint at)
+{
+    const Pixel p = bits.at(at.x(), at.y());
+    return QRgb(p.c[2] << 16 | p.c[1] << 8 | p.c[0]);
+}
+
+TEST_F(PicturePages, ThePartnerShowsTheSamePlace)
+{
+    ASSERT_TRUE(bar("HLeft")->isEnabled());
+    bar("HLeft")->setValue(123);
+    bar("VRight")->setValue(45);
+    EXPECT_EQ(QPoint(-123, -45), at(left));
+    EXPECT_EQ(QPoint(-123, -45), at(right));
+    for (fPicturePage* page : {&left, &right})
+        EXPECT_EQ(pixelOf(picture, {123 + 20, 45 + 30}), shownAt(*page, {20, 30}));
+    right.setBits(randomBits(900, 700, 4));
+    EXPECT_EQ(QPoint(-123, -45), at(right)) << "another picture of that size stays in its place";
+}
+
+TEST_F(PicturePages, SmallerPicturesStandInTheMiddleAndBarsAreOff)
+{
+    left.setScroll({300, 200});
+    show(randomBits(40, 30, 1));
+    const QWidget* container = window.findChild<QWidget*>("CLeft");
+    EXPECT_EQ(QPoint((container->width() - 40) / 2, (container->height() - 30) / 2), at(left));
+    EXPECT_FALSE(bar("HLeft")->isEnabled());
+    EXPECT_FALSE(bar("VRight")->isEnabled());
+    show(randomBits(900, 10, 1)); // one direction only
+    EXPECT_TRUE(bar("HLeft")->isEnabled());
+    EXPECT_FALSE(bar("VLeft")->isEnabled());
+    show({});
+    EXPECT_FALSE(bar("HLeft")->isEnabled());
+}
+
+TEST_F(PicturePages, TheMouseDragsThePictureAndKeepsHoldOfItBeyondTheEdge)
+{
+    const auto send = [&](QEvent::Type type, QPoint inContainer, Qt::MouseButton button) {
+        const QPointF local = left.picture().mapFromParent(inContainer);
+        QMouseEvent event(type, local, left.picture().mapToGlobal(local), button,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&left.picture(), &event);
+    };
+    send(QEvent::MouseButtonPress, {100, 100}, Qt::LeftButton);
+    send(QEvent::MouseMove, {60, 90}, Qt::NoButton);
+    EXPECT_EQ(QPoint(-40, -10), at(left));
+    EXPECT_EQ(QPoint(-40, -10), at(right));
+    send(QEvent::MouseMove, {180, 90}, Qt::NoButton); // 80 too far
+    EXPECT_EQ(QPoint(0, -10), at(left));
+    send(QEvent::MouseMove, {110, 90}, Qt::NoButton);
+    EXPECT_EQ(QPoint(0, -10), at(left));
+    send(QEvent::MouseMove, {90, 90}, Qt::NoButton);
+    EXPECT_EQ(QPoint(-10, -10), at(left));
+    send(QEvent::MouseButtonRelease, {90, 90}, Qt::LeftButton);
+    send(QEvent::MouseMove, {10, 10}, Qt::NoButton);
+    EXPECT_EQ(QPoint(-10, -10), at(left)) << "let go";
+}
+
+TEST_F(PicturePages, WheelAndKeysMoveAndZoomBoth)
+{
+    QTest::keyClick(&left, Qt::Key_Down);
+    QTest::keyClick(&left, Qt::Key_Right);
+    EXPECT_EQ(QPoint(-16, -16), at(right));
+    const auto wheel = [&](int angle, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event({5, 5}, left.mapToGlobal(QPointF(5, 5)), {}, {0, angle}, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&left, &event);
+    };
+    wheel(-120, Qt::NoModifier);
+    EXPECT_EQ(QPoint(-16, -64), at(right));
+    left.setScroll({450, 350});
+    wheel(120, Qt::ControlModifier);
+    EXPECT_EQ(2, right.picture().zoom());
+    EXPECT_EQ(at(left), at(right));
+    EXPECT_EQ(QSize(1800, 1400), right.picture().size());
+    const QPoint scroll = right.scroll();
+    EXPECT_EQ(pixelOf(picture, {(scroll.x() + 21) / 2, (scroll.y() + 30) / 2}), shownAt(right, {21, 30}));
+    right.setZoom(99);
+    EXPECT_EQ(15, left.picture().zoom()) << "the most";
+}
+
+TEST_F(PicturePages, ACanvasRepaintsOnlyWhatChanges)
+{
+    left.setScroll({100, 100});
+    QTest::qWait(20);
+    canvas->last = {};
+    canvas->updatePixels({120, 130, 140, 135});
+    QTest::qWait(20);
+    EXPECT_EQ(QRect(120, 130, 20, 5), canvas->last);
+    EXPECT_EQ(QPoint(120, 130), canvas->pixelAt(canvas->placeOf({120, 130})));
+}
+
+} // namespace
+} // namespace velara
