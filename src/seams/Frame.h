@@ -3,6 +3,9 @@
 #pragma once
 #include "seams/ToolStores.h"
 #include <QString>
+#include <optional>
+
+class QWidget;
 
 namespace velara {
 
@@ -49,6 +52,9 @@ class Frame {
     virtual void CheckToolbarState(bool /*noRefresh*/) {}
     /// The colour wells show the colours of Setup.
     virtual void showColors() {}
+    /// Asks the user for a colour by the picker, over a window; what says what it is for. No value: cancelled. Anything
+    /// may be closed meanwhile.
+    virtual std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) = 0;
 
     /// DocNumber of the document whose picture the engine holds; each sets it as it is activated.
     int activeDocument = -1;

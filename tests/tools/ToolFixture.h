@@ -70,6 +70,7 @@ struct RecordingFrame final : Frame {
     void cFilter_Progress(int) override {}
     QString UniqueCaption(const QString& text) override { return text; }
     int nextDocumentNumber() override { return 1; }
+    std::optional<Colour> pickColour(Colour, const QString&, QWidget*) override { return std::nullopt; }
 };
 
 struct ToolFixture : ::testing::Test {

@@ -61,6 +61,7 @@ class fMain final : public QMainWindow, public Frame {
     bool mouseScrolling() const override;
     void CheckToolbarState(bool noRefresh) override;
     void showColors() override;
+    std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) override;
 
     // --- Commands
     static std::span<const Command> commands();

@@ -208,13 +208,20 @@ void fMain::toolClicked(const QString& key)
 
 void fMain::showColors() { toolPane_->setColors(setup_.ForeColor, setup_.BackColor); }
 
+std::optional<Colour> fMain::pickColour(Colour start, const QString& what, QWidget* over)
+{
+    const QColor picked = QColorDialog::getColor({redOf(start), greenOf(start), blueOf(start)}, over, what,
+                                                 QColorDialog::DontUseNativeDialog);
+    if (!picked.isValid()) return std::nullopt;
+    return colourOf(picked.red(), picked.green(), picked.blue());
+}
+
 void fMain::wellClicked(int index)
 {
-    std::int32_t& colour = index == 0 ? setup_.ForeColor : setup_.BackColor;
-    const QColor picked = QColorDialog::getColor(QColor(redOf(colour), greenOf(colour), blueOf(colour)), this,
-                                                 index == 0 ? tr("First color") : tr("Second color"));
-    if (!picked.isValid()) return;
-    colour = colourOf(picked.red(), picked.green(), picked.blue());
+    std::int32_t Setup::*const field = index == 0 ? &Setup::ForeColor : &Setup::BackColor;
+    const auto picked = pickColour(setup_.*field, index == 0 ? tr("First color") : tr("Second color"), this);
+    if (!picked) return;
+    setup_.*field = *picked;
     showColors();
 }
 

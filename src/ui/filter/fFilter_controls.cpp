@@ -119,7 +119,8 @@ void fFilter::addColours(QBoxLayout* layout)
         const auto at = static_cast<std::size_t>(i);
         if (!has(row_.extras, kWells[at])) continue;
         const QString caption = !both ? tr("Color") : i == 0 ? tr("From") : tr("To");
-        auto* well = Col_[at] = new fColorButton(numbered("Col", at), both ? caption + tr(" color") : caption, frame);
+        auto* well = Col_[at] =
+            new fColorButton(frame_, numbered("Col", at), both ? caption + tr(" color") : caption, frame);
         well->setColour(initial[at]);
         line->addWidget(new QLabel(caption, frame));
         line->addWidget(well);

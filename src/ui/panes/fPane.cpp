@@ -148,7 +148,7 @@ void fPane::addCheck(const PaneRow& row)
 
 void fPane::addWell(const PaneRow& row)
 {
-    auto* button = new fColorButton(row.name, plain(row.caption), this);
+    auto* button = new fColorButton(frame_, row.name, plain(row.caption), this);
     column_->addWidget(button);
     connect(button, &fColorButton::colourChanged, this, [=, this] { write(row, button->colour()); });
     shows_.push_back([=, this] { button->setColour(value(row)); });

@@ -1,12 +1,12 @@
 #include "ui/widgets/fColorButton.h"
-#include <QColorDialog>
+#include "seams/Frame.h"
 #include <QPainter>
 #include <QPointer>
 
 namespace velara {
 
-fColorButton::fColorButton(const QString& name, const QString& accessibleName, QWidget* parent)
-    : QAbstractButton(parent)
+fColorButton::fColorButton(Frame& frame, const QString& name, const QString& accessibleName, QWidget* parent)
+    : QAbstractButton(parent), frame_(frame)
 {
     setObjectName(name);
     setAccessibleName(accessibleName);
@@ -35,9 +35,8 @@ void fColorButton::setActive(bool active)
 void fColorButton::choose()
 {
     const QPointer<fColorButton> alive = this;
-    const QColor chosen = QColorDialog::getColor({redOf(colour_), greenOf(colour_), blueOf(colour_)}, window(),
-                                                 accessibleName(), QColorDialog::DontUseNativeDialog);
-    if (alive && chosen.isValid()) setColour(colourOf(chosen.red(), chosen.green(), chosen.blue()));
+    const auto chosen = frame_.pickColour(colour_, accessibleName(), window());
+    if (alive && chosen) setColour(*chosen);
 }
 
 void fColorButton::paintEvent(QPaintEvent*)

@@ -6,10 +6,13 @@
 
 namespace velara {
 
+class Frame;
+
 class fColorButton final : public QAbstractButton {
     Q_OBJECT
   public:
-    fColorButton(const QString& name, const QString& accessibleName, QWidget* parent);
+    /// The frame asks the user for the colour.
+    fColorButton(Frame& frame, const QString& name, const QString& accessibleName, QWidget* parent);
 
     Colour colour() const { return colour_; }
     void setColour(Colour colour); // colourChanged when it is another
@@ -25,6 +28,7 @@ class fColorButton final : public QAbstractButton {
   private:
     void choose();
 
+    Frame& frame_;
     Colour colour_ = 0;
     bool active_ = false;
 };

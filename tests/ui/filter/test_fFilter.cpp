@@ -41,6 +41,7 @@ struct DialogFrame final : Frame {
     void cFilter_Progress(int value) override { progress.push_back(value); }
     QString UniqueCaption(const QString& text) override { return text; }
     int nextDocumentNumber() override { return 0; }
+    std::optional<Colour> pickColour(Colour, const QString&, QWidget*) override { return std::nullopt; }
 };
 
 struct FilterDialog : ::testing::Test {

@@ -46,6 +46,7 @@ struct WindowFrame final : Frame {
     void cFilter_Progress(int) override {}
     QString UniqueCaption(const QString& text) override { return text; }
     int nextDocumentNumber() override { return number++; }
+    std::optional<Colour> pickColour(Colour, const QString&, QWidget*) override { return std::nullopt; }
     bool mouseScrolling() const override { return scrolling; }
 };
 
