@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-sanitize reference reference-diff screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -34,6 +34,16 @@ bench: all
 gallery: all
 	cmake --build --preset release --target velara-gallery
 	$(RELEASE)/bin/velara-gallery docs/gallery
+
+# What the definitions of tools/reference give, written where the tests read it; and where the fast code differs from them:
+# make reference-diff NAMES="EMBOSS Brush"
+reference:
+	cmake --build --preset release --target velara-reference
+	$(RELEASE)/bin/velara-reference --write tests
+
+reference-diff:
+	cmake --build --preset release --target velara-reference
+	$(RELEASE)/bin/velara-reference --diff $(NAMES)
 
 SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'tools/*.cpp' 'tools/*.h')
 format:

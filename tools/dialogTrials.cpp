@@ -77,12 +77,12 @@ constexpr TrialRow kTrials[] = { // number of the dialog, sliders, colours, more
 
 } // namespace
 
-FilterArgs trialArgs(const FilterRow& row, Trial trial)
+FilterArgs trialArgs(const FilterRow& row, DialogTrial trial)
 {
     FilterArgs args = row.defaults();
     args.colour = {kWhite, kBlack};
     args.longerSide = kPreviewSide;
-    if (trial == Trial::AsItOpens) return args;
+    if (trial == DialogTrial::AsItOpens) return args;
     for (const TrialRow& t : kTrials)
         if (t.number == row.number) {
             args.value = t.value;

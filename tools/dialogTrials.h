@@ -4,10 +4,10 @@
 
 namespace velara {
 
-enum class Trial { AsItOpens, Telling };
+enum class DialogTrial { AsItOpens, Telling };
 
 /// The arguments of a row of filterRows(). Discs are measured against a preview of 300 pixels, the wells are white and
 /// black when the dialog opens.
-FilterArgs trialArgs(const FilterRow& row, Trial trial);
+FilterArgs trialArgs(const FilterRow& row, DialogTrial trial);
 
 } // namespace velara

@@ -117,12 +117,12 @@ QString describe(const FilterRow& row, const FilterArgs& args)
     return parts.join(QStringLiteral(", "));
 }
 
-Tile tileOf(const FilterRow& row, const QString& caption, Trial trial, bool closeUp)
+Tile tileOf(const FilterRow& row, const QString& caption, DialogTrial trial, bool closeUp)
 {
     const FilterArgs args = trialArgs(row, trial);
     Tile tile{caption, describe(row, args),
               after(closeUp, [&](cBitFilter& filter) { filter.setBits(row.call(filter, args)); })};
-    if (trial == Trial::AsItOpens) tile.detail.prepend(QStringLiteral("As it opens: "));
+    if (trial == DialogTrial::AsItOpens) tile.detail.prepend(QStringLiteral("As it opens: "));
     for (std::size_t i = 0; i < 2; ++i)
         if (const Colour c = args.colour[i];
             has(row.extras, i == 0 ? FilterExtra::SourceWell : FilterExtra::TargetWell))
@@ -182,7 +182,7 @@ class Gallery {
 
     void addDialog(Section& section, const FilterRow& row, const QString& caption)
     {
-        for (const Trial trial : {Trial::AsItOpens, Trial::Telling})
+        for (const DialogTrial trial : {DialogTrial::AsItOpens, DialogTrial::Telling})
             section.tiles.push_back(tileOf(row, caption, trial, closeUp_));
         dialogs_.insert(row.number);
     }

@@ -113,8 +113,6 @@ std::span<const ArgumentRange> argumentRanges()
     return all;
 }
 
-namespace {
-
 const ArgumentRange& rangeOf(const Operation& operation, const Parameter& parameter)
 {
     for (const std::string_view name : {operation.name, std::string_view()})
@@ -123,6 +121,8 @@ const ArgumentRange& rangeOf(const Operation& operation, const Parameter& parame
     throw std::invalid_argument("no argument range for " + std::string(parameter.name) + " of " +
                                 std::string(operation.name));
 }
+
+namespace {
 
 template <class Function> Arguments eachArgument(const Operation& operation, Function make)
 {

@@ -15,6 +15,9 @@ struct ArgumentRange {
 };
 std::span<const ArgumentRange> argumentRanges();
 
+/// std::invalid_argument names a parameter that has no row.
+const ArgumentRange& rangeOf(const Operation& operation, const Parameter& parameter);
+
 /// std::invalid_argument names a parameter that has no row. Pictures are small.
 Arguments typicalArguments(const Operation& operation);
 /// The ends of a range come up more often than what lies between.

@@ -1,7 +1,7 @@
-// Literal twins of the colour filters: channel arithmetic, tables, grey, contrast, recipes.
+// Definitions of the colour filters: channel arithmetic, tables, grey, contrast, recipes.
 #include "engine/colour/mPalette.h"
 #include "pixels/numbers.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 #include <algorithm>
 #include <cmath>
 
@@ -48,11 +48,14 @@ Bits specialColors(const Bits& bits, const Region& region, const Arguments& a)
 
 Bits swapRGB(const Bits& bits, const Region& region, const Arguments& a)
 {
+    int from[3], kill[3];
+    for (std::size_t i = 0; i < 3; ++i) from[i] = toByte(wholeAt(a, i)), kill[i] = toByte(wholeAt(a, 6 + i));
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         for (std::size_t i = 0; i < 3; ++i) {
-            int v = bits.at(x, y).c[wholeAt(a, i)];
+            if (from[i] > 3) throw RuntimeError(Fault::OutOfRange);
+            int v = bits.at(x, y).c[from[i]];
             if (flagAt(a, 3 + i)) v = 255 - v;
-            to.c[2 - i] = static_cast<std::uint8_t>(v & ~wholeAt(a, 6 + i));
+            to.c[2 - i] = static_cast<std::uint8_t>(v & ~kill[i]);
         }
     });
 }
@@ -85,7 +88,7 @@ Bits gammaCorrection(const Bits& bits, const Region& region, const Arguments& a)
 Bits reduction(const Bits& bits, const Region& region, const Arguments& a)
 {
     const int s = wholeAt(a, 0) + 1;
-    return eachChannel(bits, region, [&](int v, int) { return std::min(255, s * roundEven(double(v) / s)); });
+    return eachChannel(bits, region, [&](int v, int) { return std::min(255, s * roundEven(quotient(v, s))); });
 }
 
 Bits greyScale(const Bits& bits, const Region& region, const Arguments&)
@@ -236,14 +239,17 @@ Bits paletteApply(const Bits& bits, const Region& region, const Arguments&)
     });
 }
 
-const TwinRows rows{
-    {"Invert", invert},           {"BRIGHTNESS", brightness},       {"ShiftRGB", shiftRGB},
-    {"KillChannel", killChannel}, {"SpecialColors", specialColors}, {"SwapRGB", swapRGB},
-    {"SwapBanks", swapBanks},     {"Threshold", threshold},         {"GammaCorrection", gammaCorrection},
-    {"Reduction", reduction},     {"GreyScale", greyScale},         {"OLDPHOTO", oldPhoto},
-    {"RotateL", rotateL},         {"SATURATION", saturation},       {"CONTRAST", contrast},
-    {"Equalize", equalize},       {"ClassyColors", classyColors},   {"PaletteApply", paletteApply},
-};
-
 } // namespace
+
+Definitions colourDefinitions()
+{
+    return {
+        {"Invert", invert},           {"BRIGHTNESS", brightness},       {"ShiftRGB", shiftRGB},
+        {"KillChannel", killChannel}, {"SpecialColors", specialColors}, {"SwapRGB", swapRGB},
+        {"SwapBanks", swapBanks},     {"Threshold", threshold},         {"GammaCorrection", gammaCorrection},
+        {"Reduction", reduction},     {"GreyScale", greyScale},         {"OLDPHOTO", oldPhoto},
+        {"RotateL", rotateL},         {"SATURATION", saturation},       {"CONTRAST", contrast},
+        {"Equalize", equalize},       {"ClassyColors", classyColors},   {"PaletteApply", paletteApply},
+    };
+}
 } // namespace velara

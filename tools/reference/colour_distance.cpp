@@ -1,7 +1,7 @@
-// Literal twins of the filters by colour distance and by hue.
+// Definitions of the filters by colour distance and by hue.
 #include "pixels/mHSLRGB.h"
 #include "pixels/numbers.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 #include <cmath>
 
 namespace velara {
@@ -109,8 +109,11 @@ Bits stretchH(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-const TwinRows rows{{"ISOLATE", isolate}, {"REPLACE", replace}, {"ReplaceHS", replaceHS}, {"ReplaceL", replaceL},
-                    {"Shift", shift},     {"RotateH", rotateH}, {"COLORIZE", colorize},   {"StretchH", stretchH}};
-
 } // namespace
+
+Definitions distanceDefinitions()
+{
+    return {{"ISOLATE", isolate}, {"REPLACE", replace}, {"ReplaceHS", replaceHS}, {"ReplaceL", replaceL},
+            {"Shift", shift},     {"RotateH", rotateH}, {"COLORIZE", colorize},   {"StretchH", stretchH}};
+}
 } // namespace velara

@@ -1,6 +1,6 @@
-// Literal twins of the filters that move pixels.
+// Definitions of the filters that move pixels.
 #include "pixels/numbers.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 
 namespace velara {
 namespace {
@@ -215,14 +215,17 @@ Bits glass(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-const TwinRows rows{
-    {"ROTATE", rotate}, {"RotateSmooth", rotateSmooth},
-    {"Flip", flip},     {"STRETCH", stretch},
-    {"FOLD", fold},     {"BEND", bend},
-    {"TWIRL", twirl},   {"WAVES", waves},
-    {"LENS", lens},     {"TILE", tile},
-    {"GLASS", glass},
-};
-
 } // namespace
+
+Definitions deformDefinitions()
+{
+    return {
+        {"ROTATE", rotate}, {"RotateSmooth", rotateSmooth},
+        {"Flip", flip},     {"STRETCH", stretch},
+        {"FOLD", fold},     {"BEND", bend},
+        {"TWIRL", twirl},   {"WAVES", waves},
+        {"LENS", lens},     {"TILE", tile},
+        {"GLASS", glass},
+    };
+}
 } // namespace velara

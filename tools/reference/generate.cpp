@@ -1,7 +1,7 @@
-// Literal twins of the filters that draw lights, noise, lines, gradients and overlays.
+// Definitions of the filters that draw lights, noise, lines, gradients and overlays.
 #include "pixels/numbers.h"
 #include "pixels/random.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 
 namespace velara {
 namespace {
@@ -160,16 +160,19 @@ Bits tileMask(const Bits& bits, const Region& region, const Arguments& args)
     return out;
 }
 
-const TwinRows rows{
-    {"Light", light},
-    {"NOISE", noise},
-    {"Scanlines", scanlines},
-    {"Grid", grid},
-    {"GradientLinear", gradientLinear},
-    {"GradientCircular", gradientCircular},
-    {"Texturize", texturize},
-    {"TileMask", tileMask},
-};
-
 } // namespace
+
+Definitions generateDefinitions()
+{
+    return {
+        {"Light", light},
+        {"NOISE", noise},
+        {"Scanlines", scanlines},
+        {"Grid", grid},
+        {"GradientLinear", gradientLinear},
+        {"GradientCircular", gradientCircular},
+        {"Texturize", texturize},
+        {"TileMask", tileMask},
+    };
+}
 } // namespace velara

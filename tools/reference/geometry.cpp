@@ -1,6 +1,6 @@
-// Literal twins of the operations that cut, turn and size.
+// Definitions of the operations that cut, turn and size.
 #include "pixels/numbers.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 
 namespace velara {
 namespace {
@@ -102,11 +102,14 @@ Bits bitsTakeFromPicture(const Bits&, const Region&, const Arguments& a)
     });
 }
 
-const TwinRows rows{
-    {"BitsBlack", bitsBlack},           {"BitsCrop", bitsCrop},     {"BitsResample", bitsResample},
-    {"BitsCropMasked", bitsCropMasked}, {"BitsResize", bitsResize}, {"BitsTakeFromPicture", bitsTakeFromPicture},
-    {"BitsRotate90", bitsRotate90},
-};
-
 } // namespace
+
+Definitions geometryDefinitions()
+{
+    return {
+        {"BitsBlack", bitsBlack},           {"BitsCrop", bitsCrop},     {"BitsResample", bitsResample},
+        {"BitsCropMasked", bitsCropMasked}, {"BitsResize", bitsResize}, {"BitsTakeFromPicture", bitsTakeFromPicture},
+        {"BitsRotate90", bitsRotate90},
+    };
+}
 } // namespace velara

@@ -1,7 +1,7 @@
-// Literal twins of the neighbourhood filters.
+// Definitions of the neighbourhood filters.
 #include "pixels/numbers.h"
 #include "pixels/random.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 #include <algorithm>
 #include <cmath>
 #include <sstream>
@@ -245,20 +245,23 @@ Bits diffuse(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-const TwinRows rows{{"DIFFUSE", diffuse},
-                    {"SHARPEN", sharpen},
-                    {"SOFTEN", soften},
-                    {"EDGEENHANCE", edgeEnhance},
-                    {"Blurs", blurs},
-                    {"DILATE", dilate},
-                    {"ERODE", erode},
-                    {"CONTOUR", contour},
-                    {"EMBOSS", emboss},
-                    {"ENGRAVE", engrave},
-                    {"RELIEF", relief},
-                    {"RankFilterN4", rankFilterN4},
-                    {"RankFilterND", rankFilterND},
-                    {"MaskFilter", maskFilter}};
-
 } // namespace
+
+Definitions neighbourDefinitions()
+{
+    return {{"DIFFUSE", diffuse},
+            {"SHARPEN", sharpen},
+            {"SOFTEN", soften},
+            {"EDGEENHANCE", edgeEnhance},
+            {"Blurs", blurs},
+            {"DILATE", dilate},
+            {"ERODE", erode},
+            {"CONTOUR", contour},
+            {"EMBOSS", emboss},
+            {"ENGRAVE", engrave},
+            {"RELIEF", relief},
+            {"RankFilterN4", rankFilterN4},
+            {"RankFilterND", rankFilterND},
+            {"MaskFilter", maskFilter}};
+}
 } // namespace velara

@@ -1,7 +1,7 @@
-// Literal twins of the stylising filters.
+// Definitions of the stylising filters.
 #include "pixels/RuntimeError.h"
 #include "pixels/numbers.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 #include <cmath>
 
 namespace velara {
@@ -188,9 +188,12 @@ Bits halftone(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-const TwinRows rows{{"Dissolve", dissolve},   {"PAINTING", painting}, {"PIXELIZE", pixelize},
-                    {"Halftone", halftone},   {"SKETCH", sketch},     {"StuckiBW", stuckiBW},
-                    {"THERMIQUE", thermique}, {"XBLACK", xblack},     {"PHOTOCOP", photocop}};
-
 } // namespace
+
+Definitions styliseDefinitions()
+{
+    return {{"Dissolve", dissolve},   {"PAINTING", painting}, {"PIXELIZE", pixelize},
+            {"Halftone", halftone},   {"SKETCH", sketch},     {"StuckiBW", stuckiBW},
+            {"THERMIQUE", thermique}, {"XBLACK", xblack},     {"PHOTOCOP", photocop}};
+}
 } // namespace velara

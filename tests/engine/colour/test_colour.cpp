@@ -3,9 +3,7 @@
 #include "pixels/mHSLRGB.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
-#include "tools/reference/twins.h"
 #include <optional>
-#include <random>
 
 namespace velara {
 namespace {
@@ -175,21 +173,6 @@ TEST(Palette, ApplyingSpreadsTheErrorIntoTheObjectsOwnPicture)
     EXPECT_TRUE(sameBits(row({{{100, 100, 100, 0}}, {{143, 143, 143, 0}}, {{51, 51, 51, 0}}}), filter.bits()));
     EXPECT_TRUE(sameBits(row({black, white, black}), filter.PaletteApply()));
     EXPECT_EQ(filter.bits().at(1, 0).c[0], 186); // 143 and once more 700 \ 16
-}
-
-TEST(Palette, ApplyingFindsTheNearestOfManyCloseColours)
-{
-    std::mt19937 random(7);
-    const auto among = [&](int from, int count) { return from + static_cast<std::int32_t>(random() % count); };
-    for (const int spread : {256, 40, 6}) { // scattered; crowded with equal ones; all in a few cells of the search
-        PaletteColors().clear();
-        for (int i = 0; i < 256; ++i)
-            PaletteColors().push_back({among(0, spread), among(60, std::min(spread, 196)), among(0, spread)});
-        const Bits before = randomBits(90, 60, random());
-        const Region region = Region::ellipse(-4, -4, 80, 70);
-        cBitFilter filter = filterOf(before, region);
-        EXPECT_TRUE(sameBits(twins().at("PaletteApply")(before, region, {}), filter.PaletteApply())) << spread;
-    }
 }
 
 TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)

@@ -3,10 +3,7 @@
 #include "pixels/RuntimeError.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
-#include "tools/reference/twins.h"
-#include <climits>
 #include <cmath>
-#include <optional>
 
 namespace velara {
 namespace {
@@ -86,16 +83,6 @@ TEST(Neighbours, TheLastColumnAndRowOfAnEmbossRepeatTheResult)
     EXPECT_EQ(three(corner.at(5, 4)), three(bits.at(4, 4)));
 }
 
-TEST(Neighbours, EveryWeightOfAnEmbossIsExact)
-{
-    const Bits bits = randomBits(256, 30, 11);
-    const Region all = Region::rectangle(0, 0, 256, 30);
-    for (const std::string_view name : {"EMBOSS", "ENGRAVE"})
-        for (int weight = 0; weight <= 50; ++weight)
-            ASSERT_TRUE(sameBits(twins().find(name)->second(bits, all, {weight}), run(name, {weight}, bits, all)))
-                << name << " " << weight;
-}
-
 TEST(Neighbours, MarginsAndZeroRangesLeavePixelsAlone)
 {
     const Bits bits = randomBits(20, 10, 5);
@@ -138,66 +125,6 @@ TEST(Neighbours, DiffuseAsksTheRegionWhereAPixelComesFrom)
     EXPECT_GT(darkened, 0);
     EXPECT_GT(lit, 0);
     EXPECT_EQ(outside, 0);
-}
-
-TEST(Neighbours, DiffuseKnowsBlocksFarFromTheRegionsEdge)
-{
-    const Bits bits = randomBits(430, 300, 6);
-    const Region region = Region::rectangle(0, 0, 430, 300).combined(Region::ellipse(5, 5, 80, 60), Combine::Diff);
-    const Arguments arguments{40, 50};
-    EXPECT_TRUE(
-        sameBits(twins().find("DIFFUSE")->second(bits, region, arguments), run("DIFFUSE", arguments, bits, region)));
-}
-
-TEST(Neighbours, ExtremeArgumentsDoWhatTheTwinDoes)
-{
-    const std::string seven = "0 0 0 0 0 0 0/0 0 0 0 0 0 0/0 0 0 0 0 0 0/0 0 0 9 0 0 0/0 0 0 0 0 0 0/0 0 0 0 0 0 0/"
-                              "0 0 0 0 0 0 0";
-    const auto mask = [](std::string text, double divisor, int add, bool clip) {
-        return Arguments{text, divisor, add, -add, add, clip};
-    };
-    const std::vector<int> levels = {INT_MIN, -100000, -6,  -2,  -1,  0,   1,    101,    102,
-                                     104,     105,     106, 107, 108, 109, 5000, INT_MAX};
-    std::vector<std::pair<std::string_view, Arguments>> rows;
-    for (const std::string_view name : {"SHARPEN", "SOFTEN", "EDGEENHANCE", "Blurs", "EMBOSS", "ENGRAVE",
-                                        "RankFilterN4", "RankFilterND", "PIXELIZE", "StuckiBW"})
-        for (const int level : levels) rows.push_back({name, {level}});
-    for (const int level : levels) {
-        rows.push_back({"CONTOUR", {level, 0x123456}});
-        rows.push_back({"SKETCH", {level, false, 0x123456}});
-        rows.push_back({"DIFFUSE", {level, 3}});
-        rows.push_back({"DIFFUSE", {127, level}});
-        for (const int other : {-100, 0, 100}) {
-            rows.push_back({"Halftone", {level, 50, other}});
-            rows.push_back({"Halftone", {3, level, other}});
-            rows.push_back({"Halftone", {3, other, level}});
-        }
-    }
-    for (const bool clip : {false, true}) {
-        for (const double divisor : {-3.0, 0.4, 0.0, 0.5, 1e12, 123456789.0})
-            rows.push_back({"MaskFilter", mask("-1 -1/-1 8", divisor, INT_MIN + 1, clip)});
-        rows.push_back({"MaskFilter", mask(seven, 9, 0, clip)}); // wider than the margin
-        rows.push_back({"MaskFilter", mask("2000000000 2/3 -2000000000", 70000, 5, clip)});
-        rows.push_back({"MaskFilter", mask("32767 0 0/0 0 0/0 0 -32767", 70000, 5, clip)});
-        rows.push_back({"MaskFilter", mask("5", 2, 5, clip)});
-        rows.push_back({"MaskFilter", mask("1 2 3 4/5 6 7 8/-9 -8 -7 -6/0 0 0 1", 7, 5, clip)});
-    }
-    std::uint32_t seed = 1;
-    for (const auto& [name, arguments] : rows)
-        for (const Region& region : {Region::rectangle(0, 0, 37, 23), randomRegion(37, 23, ++seed), Region()}) {
-            const Bits bits = randomBits(37, 23, ++seed);
-            const auto outcome = [&](auto f) -> std::pair<std::optional<Fault>, Bits> {
-                try {
-                    return {std::nullopt, f()};
-                } catch (const RuntimeError& e) {
-                    return {e.fault(), bits};
-                }
-            };
-            const auto wanted = outcome([&] { return twins().find(name)->second(bits, region, arguments); });
-            const auto got = outcome([&] { return run(name, arguments, bits, region); });
-            ASSERT_EQ(wanted.first, got.first) << name << ", argument " << &arguments - &rows[0].second;
-            ASSERT_TRUE(sameBits(wanted.second, got.second)) << name;
-        }
 }
 
 TEST(Neighbours, DivisionsByZeroComeWithTheFirstPixelAlone)

@@ -1,10 +1,16 @@
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
 
 namespace velara {
 
-std::map<std::string, Twin, std::less<>>& twins()
+const Definitions& definitions()
 {
-    static std::map<std::string, Twin, std::less<>> all;
+    static const Definitions all = [] {
+        Definitions list;
+        for (const auto family : {geometryDefinitions, colourDefinitions, distanceDefinitions, neighbourDefinitions,
+                                  deformDefinitions, styliseDefinitions, generateDefinitions})
+            list.merge(family());
+        return list;
+    }();
     return all;
 }
 

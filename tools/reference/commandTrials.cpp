@@ -1,31 +1,14 @@
-// Every preset and every filter dialog on the sample picture against checksums that the scalar twins made.
-//
-// After a new preset or dialog, or a result that has changed on purpose, make the rows anew from the twins:
-//   VELARA_PRINT_GOLDEN=1 build/release/bin/test_filters --gtest_filter='Golden.*' | grep '{"' > golden.txt
-//   mv golden.txt tests/filters/golden.inc
+// Trials of the command words: every preset, and every filter dialog as it opens and with telling values, on the sample
+// picture.
 #include "tools/dialogTrials.h"
-#include "tools/reference/twins.h"
+#include "tools/reference/definitions.h"
+#include "tools/reference/trials.h"
 #include "tools/samplePicture.h"
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <gtest/gtest.h>
-#include <set>
 
 namespace velara {
 namespace {
 
 using namespace std::string_literals;
-
-struct Golden {
-    std::string_view name;
-    std::uint64_t whole, ellipse; // everything selected, an ellipse selected
-};
-
-// clang-format off
-constexpr Golden kGolden[] = {
-#include "golden.inc"
-};
 
 /// Which operation a dialog stands for, with the arguments that it has to come to; written out, so that a dialog that
 /// mixes its controls up is found.
@@ -33,7 +16,9 @@ struct DialogCall {
     std::string_view operation;
     Arguments asItOpens, telling;
 };
+
 constexpr int kRoof = 0x303A96, kMeadow = 0x2A743C, kSky = 0xBE805A, kWhite = 0xFFFFFF;
+// clang-format off
 const DialogCall kDialogCalls[] = { // by the number of the dialog
     {"COLORIZE",        {0.0, 0.5, 1.0},                       {144 / 40.0, 0.5, 1.0}},
     {"BRIGHTNESS",      {0},                                   {60}},
@@ -79,85 +64,58 @@ const DialogCall kDialogCalls[] = { // by the number of the dialog
 };
 // clang-format on
 
-/// One thing to be tried: how the program does it, and the operation with the arguments that its twin takes.
-struct Case {
+struct Command {
     std::string name;
     std::string_view operation;
     Arguments arguments;
-    std::function<void(cBitFilter&)> run;
+    std::function<Bits(cBitFilter&)> run;
 };
 
-std::vector<Case> cases()
+std::vector<Command> commands()
 {
-    std::vector<Case> all;
+    std::vector<Command> all;
     for (const Preset& preset : presets())
         all.push_back({std::string(preset.word), preset.operation, preset.arguments, [&preset](cBitFilter& filter) {
                            findOperation(preset.operation)->call(filter, preset.arguments);
+                           return filter.bits();
                        }});
     for (const FilterRow& row : filterRows()) {
-        const DialogCall& call = kDialogCalls[row.number];
-        const auto add = [&](const char* when, Trial trial, const Arguments& arguments) {
-            all.push_back({row.title + std::string(when), call.operation, arguments, [&row, trial](cBitFilter& filter) {
-                               filter.setBits(row.call(filter, trialArgs(row, trial)));
-                           }});
+        const DialogCall& call = std::span(kDialogCalls)[static_cast<std::size_t>(row.number)];
+        const auto add = [&](const char* when, DialogTrial trial, const Arguments& arguments) {
+            all.push_back({row.title + std::string(when), call.operation, arguments,
+                           [&row, trial](cBitFilter& filter) { return row.call(filter, trialArgs(row, trial)); }});
         };
-        add(", as it opens", Trial::AsItOpens, call.asItOpens);
-        add(", telling", Trial::Telling, call.telling);
+        add(", as it opens", DialogTrial::AsItOpens, call.asItOpens);
+        add(", telling", DialogTrial::Telling, call.telling);
     }
     return all;
 }
 
-/// FNV-1a in 64 bits over the four bytes of every pixel, row by row, without the margin.
-std::uint64_t checksum(const Bits& bits)
+void eachTrial(const std::string& name, const std::function<void(const Trial&)>& visit)
 {
-    std::uint64_t sum = 0xCBF29CE484222325u;
-    for (int y = 0; y < bits.height(); ++y)
-        for (int x = 0; x < bits.width(); ++x)
-            for (const std::uint8_t byte : bits.at(x, y).c) sum = (sum ^ byte) * 0x100000001B3u;
-    return sum;
-}
-
-Region everything(const Bits& bits) { return Region::rectangle(0, 0, bits.width(), bits.height()); }
-Region ellipse() { return Region::ellipse(60, 30, 430, 310); }
-
-std::uint64_t fast(const Case& what, const Bits& bits, const Region& region)
-{
-    cBitFilter filter;
-    filter.setBits(bits);
-    filter.setBitsRegion(region);
-    what.run(filter);
-    return checksum(filter.bits());
-}
-
-void print(const Bits& bits)
-{
-    const auto twin = [&](const Case& what, const Region& region) {
-        return static_cast<unsigned long long>(
-            checksum(twins().find(what.operation)->second(bits, region, what.arguments)));
-    };
-    for (const Case& what : cases())
-        std::printf("    {%-42s 0x%016llX, 0x%016llX},\n", ('"' + what.name + "\",").c_str(),
-                    twin(what, everything(bits)), twin(what, ellipse()));
-}
-
-TEST(Golden, EveryPresetAndDialogGivesItsResult)
-{
-    ASSERT_EQ(std::size(kDialogCalls), filterRows().size());
-    const Bits bits = samplePicture();
-    if (std::getenv("VELARA_PRINT_GOLDEN")) return print(bits);
-    std::set<std::string_view> used;
-    for (const Case& what : cases()) {
-        const auto* row = std::ranges::find(kGolden, what.name, &Golden::name);
-        if (row == std::end(kGolden)) {
-            ADD_FAILURE() << what.name << " has no golden row";
-            continue;
-        }
-        used.insert(row->name);
-        EXPECT_EQ(row->whole, fast(what, bits, everything(bits))) << what.name << ", everything selected";
-        EXPECT_EQ(row->ellipse, fast(what, bits, ellipse())) << what.name << ", an ellipse selected";
-    }
-    EXPECT_EQ(std::size(kGolden), used.size()) << "golden rows of nothing, or one twice";
+    static const Bits bits = samplePicture();
+    static const std::vector<Command> all = commands();
+    const Command& command = *std::find_if(all.begin(), all.end(), [&](const Command& c) { return c.name == name; });
+    const Region regions[] = {Region::rectangle(0, 0, bits.width(), bits.height()), Region::ellipse(60, 30, 430, 310)};
+    for (std::size_t i = 0; i < std::size(regions); ++i)
+        visit({i ? "an ellipse selected" : "everything selected", i,
+               [&] {
+                   cBitFilter filter;
+                   filter.clock = [] { return 0u; };
+                   filter.setBits(bits);
+                   filter.setBitsRegion(regions[i]);
+                   return command.run(filter);
+               },
+               [&] { return definitions().at(command.operation)(bits, regions[i], command.arguments); }});
 }
 
 } // namespace
+
+TrialFamily commandTrials()
+{
+    std::vector<std::string> names;
+    for (const Command& command : commands()) names.push_back(command.name);
+    return {"commands/commands.sums", names, eachTrial};
+}
+
 } // namespace velara

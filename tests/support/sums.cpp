@@ -1,0 +1,17 @@
+#include "support/sums.h"
+#include <fstream>
+
+namespace velara {
+
+void expectCommittedSums(const TrialFamily& family)
+{
+    std::map<std::string, std::string> committed; // subject, line
+    std::ifstream file(std::string(VELARA_TESTS "/") + family.sums);
+    for (std::string line; std::getline(file, line);) committed[line.substr(0, line.find(':'))] = line;
+    EXPECT_EQ(family.subjects.size(), committed.size()) << "rows of " << family.sums;
+    for (const std::string& subject : family.subjects)
+        EXPECT_EQ(committed[subject], sumsLine(subject, sumsOf(family, subject, &Trial::fast)))
+            << "make reference-diff NAMES='\"" << subject << "\"' shows where";
+}
+
+} // namespace velara
