@@ -27,7 +27,8 @@ STEP is one of
   OPERATION(ARGUMENTS)   without blanks, such as EMBOSS(10),
                          COLORIZE(0.5,0.25,1.0), GLASS(slanting,0). Colours
                          are 0x00BBGGRR or decimal. An operation that takes a
-                         picture takes a file name. Text with commas goes
+                         picture takes a file name; one with a ? in the list
+                         may be left out. Text with commas goes
                          between double quotes. A mask is a square of numbers:
                          'MaskFilter(0 -1 0/-1 5 -1/0 -1 0,1,0,0,0,true)'.
 
@@ -60,11 +61,12 @@ QString listText()
     QString text = QStringLiteral("Command words\n");
     for (const Word& word : words()) text += column(asText(word.word), 20) + word.meaning + u'\n';
     text += QStringLiteral("\nOperations\n");
-    for (const Operation& operation : operations()) {
+    for (const Operation* operation : stepOperations()) {
         QStringList parameters;
-        for (const Parameter& p : operation.parameters)
+        for (const Parameter& p : operation->parameters)
             parameters += asText(p.name) + u':' + QLatin1String(kTypes[static_cast<int>(p.type)]);
-        text += QStringLiteral("  ") + asText(operation.name) + u'(' + parameters.join(u',') + QStringLiteral(")\n");
+        for (std::size_t i = 0; i < operation->optional; ++i) parameters[parameters.size() - 1 - qsizetype(i)] += u'?';
+        text += QStringLiteral("  ") + asText(operation->name) + u'(' + parameters.join(u',') + QStringLiteral(")\n");
     }
     return text;
 }

@@ -67,7 +67,7 @@ QString signature(const Operation& operation)
                               .arg(name));
     std::vector<std::string_view> known;
     for (const Word& word : words()) known.push_back(word.word);
-    for (const Operation& operation : operations()) known.push_back(operation.name);
+    for (const Operation* operation : stepOperations()) known.push_back(operation->name);
     const QString near = QString::fromStdString(nearestName(wanted, known));
     throw badArgument(
         quoted(name) + QStringLiteral(" is neither a command word nor an operation") +
@@ -77,15 +77,19 @@ QString signature(const Operation& operation)
 Arguments parseArguments(const Operation& operation, const QStringList& texts)
 {
     const auto& parameters = operation.parameters;
-    if (texts.size() != static_cast<int>(parameters.size()))
-        throw badArgument(QStringLiteral("%1 takes %2 argument%3, not %4")
+    const auto given = static_cast<std::size_t>(texts.size());
+    if (given > parameters.size() || given + operation.optional < parameters.size())
+        throw badArgument(QStringLiteral("%1 takes %2%3 argument%4, not %5")
                               .arg(signature(operation))
+                              .arg(operation.optional
+                                       ? QStringLiteral("%1 to ").arg(parameters.size() - operation.optional)
+                                       : QString())
                               .arg(parameters.size())
                               .arg(parameters.size() == 1 ? "" : "s")
                               .arg(texts.size()));
     Arguments arguments;
-    for (const Parameter& parameter : parameters)
-        arguments.push_back(parseArgument(texts[static_cast<int>(arguments.size())], parameter));
+    for (int i = 0; i < texts.size(); ++i)
+        arguments.push_back(parseArgument(texts[i], parameters[static_cast<std::size_t>(i)]));
     return arguments;
 }
 
@@ -133,7 +137,7 @@ Step parseStep(const QString& text)
     const QString name = text.left(open < 0 ? text.size() : open);
     const Word* word = findWord(name.toStdString());
     if (word && open < 0) return {text, word->run, {}, word->goesBack};
-    const Operation* operation = findOperation(name.toStdString());
+    const Operation* operation = findStepOperation(name.toStdString());
     if (!operation && !word) failUnknown(name);
     return naming(text, [&] {
         if (!operation) throw badArgument(QStringLiteral("%1 is a command word and takes no arguments").arg(name));

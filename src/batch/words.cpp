@@ -1,4 +1,5 @@
 #include "batch/words.h"
+#include "commands/effects.h"
 #include "commands/filterDialogs.h"
 #include <QStringList>
 #include <algorithm>
@@ -68,6 +69,21 @@ const Word* findWord(std::string_view word)
 {
     const auto found = std::ranges::find(words(), word, &Word::word);
     return found == words().end() ? nullptr : &*found;
+}
+
+std::vector<const Operation*> stepOperations()
+{
+    std::vector<const Operation*> all;
+    for (const Operation& operation : operations()) all.push_back(&operation);
+    all.push_back(&applyTextureOperation());
+    return all;
+}
+
+const Operation* findStepOperation(std::string_view name)
+{
+    const auto all = stepOperations();
+    const auto found = std::ranges::find(all, name, [](const Operation* operation) { return operation->name; });
+    return found == all.end() ? nullptr : *found;
 }
 
 bool needsWindow(std::string_view word)

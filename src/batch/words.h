@@ -18,6 +18,10 @@ const std::vector<Word>& words();
 /// Exact; null when there is none.
 const Word* findWord(std::string_view word);
 
+/// The engine's operations, and the steps with arguments that are the editor's own; by name, null when there is none.
+std::vector<const Operation*> stepOperations();
+const Operation* findStepOperation(std::string_view name);
+
 /// True for words of the editor that open a window or belong to one.
 bool needsWindow(std::string_view word);
 

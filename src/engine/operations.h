@@ -27,6 +27,7 @@ struct Operation {
     std::string_view name;
     std::vector<Parameter> parameters;
     std::function<void(cBitFilter&, const Arguments&)> call;
+    std::size_t optional = 0; // so many of the last parameters may be left out
 };
 
 std::span<const Operation> operations();

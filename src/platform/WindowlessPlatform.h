@@ -2,6 +2,7 @@
 // what becomes of messages is the program's own affair.
 #pragma once
 #include "platform/CorePlatform.h"
+#include "platform/NoFonts.h"
 
 namespace velara {
 
@@ -17,6 +18,10 @@ class WindowlessPlatform : public CorePlatform {
     Bits clipboardBitmap() override { return {}; }
     bool setClipboardBitmap(const Bits&) override { return false; }
     void clearClipboard() override {}
+    Fonts& fonts() override { return fonts_; }
+
+  private:
+    NoFonts fonts_;
 };
 
 } // namespace velara

@@ -11,6 +11,8 @@
 
 namespace velara {
 
+class Fonts;
+
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Answer { Yes, No, Cancel };
 
@@ -71,6 +73,9 @@ class Platform {
     virtual Bits clipboardBitmap() = 0;
     virtual bool setClipboardBitmap(const Bits& bits) = 0;
     virtual void clearClipboard() = 0;
+
+    // --- Services with an interface of their own
+    virtual Fonts& fonts() = 0;
 };
 
 } // namespace velara

@@ -143,6 +143,10 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm SAVEAS out.png", 2, "SAVEAS"},
         {"in.ppm INVERT(3) out.png", 2, "INVERT"},
         {"in.ppm EMBOSS out.png", 2, "EMBOSS(Weight) takes 1 argument,"},
+        {"in.ppm ApplyTexture(8) out.png", 2, "takes 2 to 3 arguments, not 1"},
+        {"in.ppm ApplyTexture(34,50) out.png", 2, "Index"},
+        {"in.ppm ApplyTexture(17,0) out.png", 3, "ivision by zero"},
+        {"in.ppm ApplyTexture(1,50,in.xyz) out.png", 1, "in.xyz"},
         {"in.ppm EMBOSS(1,2) out.png", 2, "not 2"},
         {"in.ppm EMBOSS(ten) out.png", 2, "Weight"},
         {"in.ppm EMBOSS(1.5) out.png", 2, "Weight"},
@@ -293,13 +297,23 @@ TEST_F(BatchTest, ArgumentsTakePicturesAndColours)
     EXPECT_EQ(wanted, result("TileMask(\"dots,2.ppm\",2,1,false,0,3153936)"));
 }
 
+TEST_F(BatchTest, EffectsAreStepsByTheirNumber)
+{
+    put("grain.ppm", "P6 2 2 255\n" + QByteArray(3 * 4, '\x40'));
+    EXPECT_EQ(result("EMBOSS(20)"), result("ApplyTexture(8,20)"));
+    EXPECT_EQ(result("SKETCH(20,false,0x00ffffff)"), result("ApplyTexture(28,20)"));
+    EXPECT_EQ(result("Texturize(grain.ppm)"), result("ApplyTexture(8,20,grain.ppm)"));
+    EXPECT_NE(input(), result("Texturize(grain.ppm)"));
+}
+
 TEST_F(BatchTest, HelpAndListNameEverything)
 {
     const Outcome help = run("--help"), list = run("in.ppm --list"), verbose = run("in.ppm --verbose INVERT out.png");
     for (const char* word : {"--select", "--list", "--verbose", "polygon:", "Exit status"})
         EXPECT_NE(std::string::npos, help.output.find(word)) << word;
-    for (const char* line : {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:whole)",
-                             "Flip(Horizontal:true|false,Vertical:true|false)"})
+    for (const char* line :
+         {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:whole)",
+          "Flip(Horizontal:true|false,Vertical:true|false)", "ApplyTexture(Index:whole,Value:whole,Texture:file?)"})
         EXPECT_NE(std::string::npos, list.output.find(line)) << line;
     EXPECT_EQ(0, help.status);
     EXPECT_EQ(0, list.status);

@@ -2,6 +2,7 @@
 // every message, dialog and path of a command can be tested without a window.
 #pragma once
 #include "seams/Platform.h"
+#include "support/RecordingFonts.h"
 #include <QTemporaryDir>
 #include <deque>
 #include <functional>
@@ -28,6 +29,7 @@ class RecordingPlatform : public Platform {
     Bits clipboard;
     std::map<QString, QString> settings; // "section/key"
     QTemporaryDir folder;                // the program folder
+    RecordingFonts recordingFonts;
 
     bool logged(const std::string& line) const;
 
@@ -50,6 +52,7 @@ class RecordingPlatform : public Platform {
     Bits clipboardBitmap() override { return clipboard; }
     bool setClipboardBitmap(const Bits& bits) override;
     void clearClipboard() override;
+    RecordingFonts& fonts() override { return recordingFonts; }
 
   private:
     std::optional<QString> answer();

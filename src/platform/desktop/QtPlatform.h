@@ -1,6 +1,7 @@
 // QtPlatform: the real Platform of the editor, by Qt Widgets.
 #pragma once
 #include "platform/CorePlatform.h"
+#include "platform/desktop/QtFonts.h"
 
 namespace velara {
 
@@ -19,6 +20,11 @@ class QtPlatform : public CorePlatform {
     Bits clipboardBitmap() override;
     bool setClipboardBitmap(const Bits& bits) override;
     void clearClipboard() override;
+
+    Fonts& fonts() override { return fonts_; }
+
+  private:
+    QtFonts fonts_;
 };
 
 } // namespace velara

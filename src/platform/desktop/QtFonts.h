@@ -1,0 +1,16 @@
+// QtFonts: the fonts of the desktop, through Qt's text layout.
+#pragma once
+#include "seams/Fonts.h"
+
+namespace velara {
+
+class QtFonts final : public Fonts {
+  public:
+    std::optional<std::vector<FontFamily>> list() override;
+    QString standIn(const QString& family) override;
+    RunSize measure(const QString& text, const TextStyle& style) override;
+    int caret(const TextRun& run, const TextStyle& style, int character) override;
+    void draw(Bits& target, int x, int y, const TextRun& run, const TextStyle& style, Colour colour) override;
+};
+
+} // namespace velara

@@ -1,0 +1,115 @@
+// The desktop's own fonts, whichever they are.
+#include "platform/desktop/QtFonts.h"
+#include "support/pictures.h"
+#include <QGuiApplication>
+
+namespace velara {
+namespace {
+
+struct QtFontsTest : ::testing::Test {
+    QtFonts fonts;
+    TextStyle style{QGuiApplication::font().family(), 20};
+
+    /// Around all that is not white.
+    static Rect inkOf(const Bits& bits)
+    {
+        Rect ink;
+        for (int y = 0; y < bits.height(); ++y)
+            for (int x = 0; x < bits.width(); ++x)
+                if (bits.at(x, y).c[0] != 255 || bits.at(x, y).c[2] != 255) ink = ink.united({x, y, x + 1, y + 1});
+        return ink;
+    }
+    Rect drawn(const TextRun& run, const TextStyle& as, int x = 40, int y = 30)
+    {
+        Bits paper = flatBits(600, 120, 255, 255, 255);
+        fonts.draw(paper, x, y, run, as, 0);
+        return inkOf(paper);
+    }
+};
+
+TEST_F(QtFontsTest, ListsWhatIsInstalled)
+{
+    const auto families = fonts.list();
+    ASSERT_TRUE(families);
+    EXPECT_FALSE(families->empty());
+    EXPECT_TRUE(std::ranges::any_of(*families, [](const FontFamily& f) { return f.writingSystems.contains("Latin"); }));
+    const auto has = [&](const QString& name) {
+        return std::ranges::any_of(*families, [&](const FontFamily& f) { return f.name == name; });
+    };
+    EXPECT_TRUE(has(fonts.standIn("No Such Font At All")));
+    EXPECT_EQ(families->back().name, fonts.standIn(families->back().name));
+}
+
+TEST_F(QtFontsTest, DrawsWithinWhatItMeasures)
+{
+    for (const int size : {7, 20, 69}) {
+        style.size = size;
+        for (const QString& text : {QStringLiteral("Hamburg"), QString::fromUtf8("a\xCC\x81\xCC\xB8 \xD9\x85\xD8\xB1"),
+                                    QString::fromUtf8("\xE0\xA4\x95\xE0\xA5\x8D\xE0\xA4\xB7")}) {
+            const RunSize box = fonts.measure(text, style);
+            const Rect ink = drawn({text}, style, 60, 5);
+            EXPECT_FALSE(ink.isEmpty()) << size;
+            EXPECT_GE(ink.left, 60 - size / 6);
+            EXPECT_LE(ink.right, 60 + box.width + size / 6);
+            EXPECT_EQ(box.height, fonts.measure("x", style).height) << "of the style alone";
+            EXPECT_GT(box.height, size);
+        }
+    }
+    EXPECT_EQ(0, fonts.measure({}, style).width);
+    EXPECT_TRUE(drawn({}, style).isEmpty());
+    style.family = "No Such Font At All";
+    EXPECT_FALSE(drawn({"x"}, style).isEmpty());
+    style.size = 0;
+    EXPECT_GT(fonts.measure("x", style).height, 0);
+}
+
+TEST_F(QtFontsTest, StylesShow)
+{
+    const Rect plain = drawn({"mono line"}, style);
+    TextStyle under = style, through = style, bold = style;
+    under.underline = through.strikeOut = bold.bold = true;
+    EXPECT_GT(drawn({"mono line"}, under).bottom, plain.bottom);
+    EXPECT_EQ(drawn({"mono line"}, through).bottom, plain.bottom);
+    EXPECT_GE(drawn({"mono line"}, through).width(), plain.width());
+    EXPECT_GT(fonts.measure("mono line", bold).width, fonts.measure("mono line", style).width);
+    Bits a = flatBits(200, 60, 255, 255, 255), b = a;
+    fonts.draw(a, 0, 0, {"x"}, style, 0);
+    fonts.draw(b, 0, 0, {"x"}, through, 0);
+    EXPECT_FALSE(sameBits(a, b));
+}
+
+TEST_F(QtFontsTest, SpreadsTheBlanksWithin)
+{
+    const Rect plain = drawn({"one two three"}, style), wide = drawn({"one two three", false, 61}, style);
+    EXPECT_NEAR(plain.right + 61, wide.right, 1);
+    EXPECT_EQ(plain.left, wide.left);
+    EXPECT_EQ(plain, drawn({"one two three", false, -5}, style));
+}
+
+TEST_F(QtFontsTest, InkHasItsColourAndGreyEdges)
+{
+    Bits paper = flatBits(200, 60, 255, 255, 255);
+    fonts.draw(paper, -20, -5, {"MWMWMWMWMWMWMWMWMWMW"}, style, 0x0000FF); // cut on three sides
+    bool full = false, edges = false;
+    for (int y = 0; y < paper.height(); ++y)
+        for (int x = 0; x < paper.width(); ++x) {
+            const Pixel& p = paper.at(x, y);
+            EXPECT_EQ(255, p.c[2]);
+            EXPECT_EQ(p.c[0], p.c[1]) << "no coloured fringes";
+            full |= p.c[0] == 0;
+            edges |= p.c[0] > 0 && p.c[0] < 255;
+        }
+    EXPECT_TRUE(full && edges);
+}
+
+TEST_F(QtFontsTest, CaretGoesFromEdgeToEdge)
+{
+    EXPECT_EQ(0, fonts.caret({"word"}, style, 0));
+    EXPECT_NEAR(fonts.measure("word", style).width, fonts.caret({"word"}, style, 4), 1);
+    EXPECT_LT(fonts.caret({"word"}, style, 1), fonts.caret({"word"}, style, 2));
+    const TextRun hebrew{QString::fromUtf8("\xD7\x90\xD7\x91"), true};
+    EXPECT_GT(fonts.caret(hebrew, style, 0), fonts.caret(hebrew, style, 2));
+}
+
+} // namespace
+} // namespace velara

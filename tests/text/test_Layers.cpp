@@ -1,0 +1,137 @@
+// Layers of fixed-width text on a picture: what each shows, how it grows, and what becomes of them when they are
+// merged.
+#include "support/RecordingFonts.h"
+#include "support/pictures.h"
+#include "text/Layers.h"
+
+namespace velara {
+namespace {
+
+constexpr int kWidth = 200, kHeight = 100;
+
+struct LayersTest : ::testing::Test {
+    RecordingFonts fonts;
+    Layers layers{fonts};
+    Bits picture = randomBits(kWidth, kHeight, 7);
+    TextStyle style{"Fixed", 10}; // a character is 5 wide, a line 12 high
+    static constexpr Colour kInk = 0x0000FF;
+
+    LayersTest() { layers.setCanvas(picture); }
+    int add(int left, int top, const QString& text)
+    {
+        const int index = layers.add(left, top, style, kInk);
+        layers.setText(index, text);
+        return index;
+    }
+    /// What the font draws for one line, on these pixels.
+    Bits printed(Bits on, int x, int y, const QString& text)
+    {
+        fonts.draw(on, x, y, {text}, style, kInk);
+        for (int row = 0; row < on.height(); ++row) // a merged picture keeps its fourth bytes
+            for (int column = 0; column < on.width(); ++column) on.at(column, row).c[3] = picture.at(column, row).c[3];
+        return on;
+    }
+};
+
+TEST_F(LayersTest, NewOnesHaveTheirSizeAndGrowWithTheText)
+{
+    const int first = layers.add(10, 20, style, kInk);
+    EXPECT_EQ(2, first);
+    EXPECT_EQ((Rect{10, 20, 143, 40}), layers.layer(first).place);
+    layers.setText(first, QString(30, u'x')); // 150 and two for slanted letters
+    EXPECT_EQ((Rect{10, 20, 162, 40}), layers.layer(first).place);
+    layers.setText(first, QString(30, u'x') + "\r\ny\r\nz");
+    EXPECT_EQ((Rect{10, 20, 162, 56}), layers.layer(first).place);
+    layers.setText(first, QStringLiteral("word ").repeated(20)); // breaks at the picture's right edge
+    EXPECT_EQ(182, layers.layer(first).place.right);
+    EXPECT_EQ(56, layers.layer(first).place.bottom);
+    layers.setText(first, QStringLiteral("word ").repeated(20000)); // no further than the picture's bottom
+    EXPECT_EQ(kHeight, layers.layer(first).place.bottom);
+    layers.setText(first, {});
+    EXPECT_EQ(kHeight, layers.layer(first).place.bottom) << "never smaller by itself";
+
+    const int second = add(0, 0, "abc");
+    EXPECT_EQ(3, second);
+    layers.remove(second);
+    EXPECT_EQ(4, layers.add(0, 0, style, kInk)) << "no index twice";
+    EXPECT_EQ((std::vector<int>{2, 4}), layers.indices());
+}
+
+TEST_F(LayersTest, AWidthThatWasSetStays)
+{
+    const int index = add(10, 10, "ab cd");
+    layers.setPlace(index, {10, 10, 22, 50});
+    EXPECT_EQ((Rect{10, 10, 22, 50}), layers.layer(index).place);
+    layers.setText(index, "ab cd ef gh ij");
+    EXPECT_EQ((Rect{10, 10, 22, 70}), layers.layer(index).place) << "five lines of 12";
+    layers.setPlace(index, {10, 10, 9, 9});
+    EXPECT_EQ((Rect{10, 10, 14, 14}), layers.layer(index).place);
+}
+
+TEST_F(LayersTest, SurfaceIsTheTextOnThePixelsBelow)
+{
+    const int index = add(5, 6, "ab c");
+    for (const Rect& place :
+         {Rect{5, 6, 60, 30}, Rect{90, 70, 145, 94}, Rect{-12, -5, 43, 19}, Rect{190, 95, 245, 119}}) {
+        layers.setPlace(index, place);
+        const Rect part = layers.visible(index);
+        EXPECT_EQ(place.intersected({0, 0, kWidth, kHeight}), part);
+        const Bits whole = printed(picture, place.left, place.top, "ab c");
+        EXPECT_TRUE(sameBits(whole, layers.Blend())) << place.left;
+        ASSERT_EQ(part.width(), layers.surface(index).width());
+        EXPECT_EQ(whole.at(part.left, part.top).c[1], layers.surface(index).at(0, 0).c[1]);
+    }
+    layers.setPlace(index, {300, 10, 355, 30});
+    EXPECT_TRUE(layers.surface(index).isNull());
+    EXPECT_TRUE(sameBits(picture, layers.Blend()));
+}
+
+TEST_F(LayersTest, LaterOnesShowThePictureAndNotTheOnesBelow)
+{
+    EXPECT_TRUE(sameBits(picture, layers.Blend())) << "without layers";
+    const int lower = add(10, 10, "aaaaaaaaaaaa");
+    const int upper = add(30, 14, "b");
+    layers.setPlace(upper, {30, 14, 50, 30});
+    Bits wanted = printed(picture, 10, 10, "aaaaaaaaaaaa");
+    for (int y = 14; y < 30; ++y)
+        for (int x = 30; x < 50; ++x) wanted.at(x, y) = picture.at(x, y);
+    wanted = printed(wanted, 30, 14, "b");
+    EXPECT_TRUE(sameBits(wanted, layers.Blend()));
+
+    layers.setText(lower, "aaaaaaaaaaaaa"); // printed later, and yet below
+    layers.setText(lower, "aaaaaaaaaaaa");
+    EXPECT_TRUE(sameBits(wanted, layers.Blend()));
+    layers.setShown(lower, false);
+    EXPECT_TRUE(sameBits(printed(picture, 30, 14, "b"), layers.Blend())) << "what is hidden leaves no trace";
+    layers.setShown(upper, false);
+    EXPECT_TRUE(sameBits(picture, layers.Blend()));
+}
+
+TEST_F(LayersTest, AnotherPictureBelowIsTaken)
+{
+    add(10, 10, "abc");
+    picture = randomBits(60, 15, 8); // smaller than the layer reaches
+    layers.setCanvas(picture);
+    EXPECT_TRUE(sameBits(printed(picture, 10, 10, "abc"), layers.Blend()));
+}
+
+TEST_F(LayersTest, TheCaretFollowsTheText)
+{
+    const int index = add(10, 10, "ab  \r\ncd ");
+    const struct {
+        int character, x, y;
+    } cases[] = {{0, 10, 10}, {2, 20, 10}, {4, 30, 10}, {6, 10, 22}, {9, 25, 22}};
+    for (const auto& c : cases)
+        EXPECT_EQ((Rect{c.x, c.y, c.x + 1, c.y + 12}), layers.caret(index, c.character)) << c.character;
+    EXPECT_EQ((Rect{50, 60, 51, 72}), layers.caret(layers.add(50, 60, style, kInk), 0));
+}
+
+TEST_F(LayersTest, RightToLeftTextBeginsAtTheRight)
+{
+    const int index = add(0, 0, QString::fromUtf8("\xD7\x90\xD7\x91"));
+    layers.setPlace(index, {0, 0, 50, 20});
+    EXPECT_TRUE(sameBits(printed(picture, 40, 0, "ab"), layers.Blend()));
+}
+
+} // namespace
+} // namespace velara

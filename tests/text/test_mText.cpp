@@ -1,0 +1,154 @@
+// Texts laid out with a font whose characters are all of one width.
+#include "support/RecordingFonts.h"
+#include "support/pictures.h"
+#include "text/mText.h"
+
+namespace velara {
+namespace {
+
+constexpr const char* kPangram = "the quick brown fox";
+
+struct TextTest : ::testing::Test {
+    RecordingFonts fonts;
+    TextStyle style{"Fixed"};
+
+    std::optional<TextLayout> layOut(const TextBox& box)
+    {
+        return layOutText(box, [&](const QString& run, int size) {
+            style.size = size;
+            return fonts.measure(run, style);
+        });
+    }
+    /// "x,y[+spread]:text" of each line, or "refused".
+    std::string lines(const TextBox& box)
+    {
+        const auto layout = layOut(box);
+        if (!layout) return "refused";
+        QStringList all;
+        for (const TextLine& line : layout->lines) {
+            const QString spread = line.run.spread ? QStringLiteral("+%1").arg(line.run.spread) : QString();
+            all += QStringLiteral("%1,%2%3:%4").arg(line.x).arg(line.y).arg(spread, line.run.text);
+        }
+        return all.join(" | ").toStdString();
+    }
+};
+
+// At size 10 a character is 5 wide and a line 12 high; the margin is 4.
+TEST_F(TextTest, LinesBreakAndAreAligned)
+{
+    const struct {
+        const char* text;
+        int width, align;
+        const char* wanted;
+    } cases[] = {
+        {"", 58, LeftJustify, ""},
+        {"ab cd ef", 48, LeftJustify, "4,4:ab cd ef"}, // 40 wide: exactly the room
+        {"ab cd ef", 47, LeftJustify, "4,4:ab cd | 4,16:ef"},
+        {"ab cd ef", 47, CentreJustify, "11,4:ab cd | 18,16:ef"},
+        {"ab cd ef", 47, RightJustify, "18,4:ab cd | 33,16:ef"},
+        {"ab cd ef", 47, FullJustify, "4,4+14:ab cd | 4,16:ef"},
+        {"abc   ef", 33, RightJustify, "14,4:abc | 19,16:ef"}, // the blanks of the break reach nowhere
+        {"ab-cd-ef", 38, LeftJustify, "4,4:ab-cd- | 4,16:ef"},
+        {"a\r\nb", 100, LeftJustify, "4,4:a | 4,16:b"},
+        {"a\r\n\r\nb c", 30, FullJustify, "4,4:a | 4,16: | 4,28:b c"},
+        {"a b\r\nc d", 38, FullJustify, "4,4+15:a b | 4,16:c d"}, // every line but the last
+        {"abc\r\nc", 38, FullJustify, "4,4:abc | 4,16:c"},        // without a gap
+        {"ab\nc", 100, LeftJustify, "4,4:ab\nc"},                 // only the pair forces a line
+        {"\xD7\x90\xD7\x91 \xD7\x92", 23, LeftJustify, "4,4:\xD7\x90\xD7\x91 | 4,16:\xD7\x92"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.wanted, lines({QString::fromUtf8(c.text), c.width, 60, 4, c.align})) << c.text << " " << c.align;
+    const auto hebrew = layOut({QString::fromUtf8("\xD7\x90 a"), 100, 60});
+    EXPECT_TRUE(hebrew->lines[0].run.rightToLeft);
+}
+
+TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
+{
+    const struct {
+        const char* text;
+        int width, height, wanted, got; // 0: refused
+    } cases[] = {
+        {kPangram, 400, 200, 20, 20},
+        {kPangram, 400, 200, 99, 72},         // above the limit
+        {kPangram, 400, 22, 20, 12},          // one line of 14
+        {kPangram, 20, 20, 20, 0},            // not even at the smallest
+        {"a\r\nb\r\nc\r\nd", 100, 40, 20, 6}, // four lines of 8 in 32
+        {"a\r\nb\r\nc\r\nd\r\ne", 100, 40, 20, 0},
+        {"wide-words fit", 48, 100, 20, 17}, // five times 8
+        {"unbreakable", 28, 100, 20, 20},    // no size takes it in: it stands on its line as it is
+        {"a unbreakable", 28, 100, 20, 20},
+        {"a", 100, 100, 1, 1}, // asked for, however small
+        {"a", 100, 100, 0, 1},
+        {"", 100, 100, 20, 20},
+    };
+    for (const auto& c : cases) {
+        const auto layout = layOut({c.text, c.width, c.height, 4, LeftJustify, kNoShadow, c.wanted});
+        EXPECT_EQ(c.got, layout ? layout->size : 0) << c.text << " " << c.wanted;
+        if (layout) {
+            EXPECT_LE(layout->trials, 20) << c.text;
+        }
+    }
+    EXPECT_EQ("14,4:a | 4,26:unbreakable", lines({"a unbreakable", 28, 100, 4, RightJustify, kNoShadow, 20}));
+}
+
+TEST_F(TextTest, MarginOfHalfThePictureIsRefused)
+{
+    EXPECT_EQ("refused", lines({"", 8, 100}));
+    EXPECT_EQ("refused", lines({"", 100, 8}));
+    EXPECT_EQ("", lines({"", 9, 9}));
+    EXPECT_EQ("refused", lines({"a", 9, 9})); // no size fits into one pixel
+}
+
+TEST_F(TextTest, LongTextsEndSoon)
+{
+    for (const QString& part : {QStringLiteral("a"), QStringLiteral(" "), QStringLiteral("a "), QStringLiteral("-"),
+                                QStringLiteral("\r\n")}) {
+        fonts.measures = 0;
+        const auto layout = layOut({part.repeated(100000), 300, 160, 4, FullJustify, kNoShadow, 20});
+        EXPECT_EQ(part == u"a" || part == u" ", layout.has_value()) << part.toStdString();
+        EXPECT_LT(fonts.measures, 20000) << part.toStdString();
+    }
+}
+
+TEST_F(TextTest, ShadowsLieOnAGrid)
+{
+    const struct {
+        int index, size, x, y;
+    } cases[] = {{0, 10, -1, -1}, {1, 10, 0, -1}, {2, 14, 1, -1}, {3, 15, -2, 0}, {4, 30, 0, 0},
+                 {5, 30, 3, 0},   {6, 45, -4, 4}, {7, 59, 0, 4},  {8, 72, 5, 5}};
+    for (const auto& c : cases) {
+        const auto layout = layOut({"a", 200, 200, 4, LeftJustify, c.index, c.size});
+        EXPECT_EQ(c.x, layout->shadowX) << c.index;
+        EXPECT_EQ(c.y, layout->shadowY) << c.index;
+    }
+}
+
+TEST_F(TextTest, DrawsTheFaceOverItsShadow)
+{
+    constexpr Colour kFace = 0x0000FF, kShadow = 0x808080;
+    Bits wanted = flatBits(30, 20, 255, 255, 255), got = wanted;
+    const auto layout = layOut({"a b\r\nc", 30, 20, 2, FullJustify, 8, 6}); // a character is 3 wide, a line 8 high
+    ASSERT_EQ(2u, layout->lines.size());
+    drawText(got, *layout, style, fonts, kFace, kShadow);
+    const auto block = [&](int x, int y, Pixel ink) {
+        for (int row = y; row < y + 6; ++row)
+            for (int column = x; column < x + 2; ++column) wanted.at(column, row) = ink;
+    };
+    const Pixel face{{0, 0, 255, 255}}, shadow{{128, 128, 128, 255}};
+    for (const auto& [x, y] : {std::pair{2, 3}, {25, 3}, {2, 11}})
+        block(x + 1, y + 1, shadow); // the right one ends at 27
+    for (const auto& [x, y] : {std::pair{2, 3}, {25, 3}, {2, 11}}) block(x, y, face);
+    EXPECT_TRUE(sameBits(wanted, got));
+}
+
+TEST(CountOfTest, CountsOverlappingHits)
+{
+    const struct {
+        const char *needle, *text;
+        int count;
+    } cases[] = {{"\r\n", "a\r\nb\r\n", 2}, {"aa", "aaaa", 3}, {"a", "", 0}, {"", "abc", 0}, {"abc", "ab", 0}};
+    for (const auto& c : cases) EXPECT_EQ(c.count, CountOf(c.needle, c.text)) << c.needle << " in " << c.text;
+}
+
+} // namespace
+} // namespace velara
