@@ -1,5 +1,4 @@
 #include "platform/CorePlatform.h"
-#include "fileio/load/PictureLoader.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -77,7 +76,8 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
 LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension)
 {
     if (decoder_.isEmpty()) decoder_ = findDecoder();
-    return loadThroughDecoder(path, extension, decoder_, limitsFor(QFileInfo(path).size()));
+    const QFileInfo file(path);
+    return loadThroughDecoder(path, extension, decoder_, limitsFor(file.size()), whileReading(file.fileName()));
 }
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)

@@ -1,6 +1,7 @@
 // The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
 // picture files. QtPlatform and WindowlessPlatform add the rest.
 #pragma once
+#include "fileio/load/PictureLoader.h"
 #include "seams/Platform.h"
 #include <random>
 
@@ -20,6 +21,10 @@ class CorePlatform : public Platform {
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
     LoadedPicture loadPicture(const QString& path, const QString& extension) override;
+
+  protected:
+    /// Asked while the picture of that name is read, see PictureLoader.h.
+    virtual GoOn whileReading(const QString& /*name*/) { return {}; }
 
   private:
     std::mt19937_64 random_;

@@ -1,5 +1,6 @@
 // The real platform with its boxes and dialogs on an offscreen desktop: a timer plays the person.
 #include "platform/desktop/QtPlatform.h"
+#include "platform/desktop/ReadingBox.h"
 #include "platform/nameFilters.h"
 #include "support/pictures.h"
 #include <QAbstractButton>
@@ -74,6 +75,21 @@ TEST(QtPlatform, ABoxSurvivesTheEndOfItsParent)
     QApplication::setActiveWindow(parent);
     whenShown<QMessageBox>([parent](QMessageBox&) { delete parent; });
     platform.message("t", "m", Icon::None);
+}
+
+// Nothing for half a second, then a box whose Esc ends the wait.
+TEST(QtPlatform, ALongReadCanBeGivenUp)
+{
+    using namespace std::chrono_literals;
+    ReadingBox box("photo.psd", nullptr);
+    EXPECT_TRUE(box.goOn(450ms));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(box.goOn(550ms));
+    auto* shown = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(shown, nullptr);
+    EXPECT_EQ(shown->labelText(), "Reading photo.psd ...");
+    QTest::keyClick(shown, Qt::Key_Escape);
+    EXPECT_FALSE(box.goOn(600ms));
 }
 
 TEST(QtPlatform, ANameWithoutASuffixGetsThatOfTheFormat)

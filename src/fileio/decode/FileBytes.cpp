@@ -13,6 +13,14 @@ FileBytes::FileBytes(const QString& path)
 {
     const int fd = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) return;
+    map(fd);
+    close(fd);
+}
+
+FileBytes::FileBytes(int descriptor) { map(descriptor); }
+
+void FileBytes::map(int fd)
+{
     struct stat status;
     if (fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0) {
         const auto size = static_cast<std::size_t>(status.st_size);
@@ -23,7 +31,6 @@ FileBytes::FileBytes(const QString& path)
             bytes_ = {static_cast<std::uint8_t*>(mapped), size};
         }
     }
-    close(fd);
 }
 
 FileBytes::~FileBytes()

@@ -12,6 +12,8 @@ class FileBytes {
   public:
     /// Maps the file privately: reading is by page, and a mended byte costs a page.
     explicit FileBytes(const QString& path);
+    /// The file behind a descriptor, which stays open.
+    explicit FileBytes(int descriptor);
     explicit FileBytes(std::vector<std::uint8_t> bytes) : owned_(std::move(bytes)), bytes_(owned_) {}
     ~FileBytes();
     FileBytes(const FileBytes&) = delete;
@@ -36,6 +38,8 @@ class FileBytes {
     std::uint32_t big32(std::size_t at) const { return big16(at) << 16 | big16(at + 2); }
 
   private:
+    void map(int fd);
+
     void* mapped_ = nullptr;
     std::size_t mappedSize_ = 0;
     std::vector<std::uint8_t> owned_;

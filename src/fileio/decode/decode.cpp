@@ -38,20 +38,23 @@ Decoded readPcx(FileBytes& file)
     return picture;
 }
 
+Needs prepareNothing() { return Needs::Nothing; }
+
 struct Reader {
     const char* extension;
     const char* name; // as in "it is damaged or not a PNG picture"
     Decoded (*read)(FileBytes& file);
+    Needs (*prepare)() = prepareNothing;
 };
 
 // clang-format off
 constexpr Reader kReaders[] = {                 // the first row of an extension counts
-    {"gif",  "a GIF",                readGif},
-    {"wmf",  "a Windows metafile",   readWmf},
-    {"emf",  "an enhanced metafile", readEmf},
-    {"ico",  "an icon",              [](FileBytes& f) { return readByQt(f, "ico"); }},
-    {"cur",  "a cursor",             [](FileBytes& f) { return readByQt(f, "cur"); }},
-    {"dib",  "a bitmap",             readDib},
+    {"gif",  "a GIF",                readGif, loadQtReaders},
+    {"wmf",  "a Windows metafile",   readWmf, prepareWmf},
+    {"emf",  "an enhanced metafile", readEmf, prepareEmf},
+    {"ico",  "an icon",              [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
+    {"cur",  "a cursor",             [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
+    {"dib",  "a bitmap",             readDib, loadQtReaders},
     {"bmp",  "a BMP",                byFreeImage<FIF_BMP, mendBmp>},
     {"cut",  "a Dr. Halo",           byFreeImage<FIF_CUT>},
     {"iff",  "an IFF",               byFreeImage<FIF_IFF>},
@@ -74,15 +77,28 @@ constexpr Reader kReaders[] = {                 // the first row of an extension
 };
 // clang-format on
 
-} // namespace
-
-Decoded decodePicture(const QString& path, const QString& extension)
-try {
+const Reader* readerOf(const QString& extension)
+{
     const auto reader = std::find_if(std::begin(kReaders), std::end(kReaders),
                                      [&](const Reader& row) { return extension == QLatin1String(row.extension); });
+    return reader == std::end(kReaders) ? nullptr : reader;
+}
+
+} // namespace
+
+void (*sizeFound)(std::int64_t width, std::int64_t height) = [](std::int64_t, std::int64_t) {};
+
+Needs prepareReader(const QString& extension)
+{
+    const Reader* reader = readerOf(extension);
+    return reader ? reader->prepare() : Needs::Nothing;
+}
+
+Decoded decodePicture(FileBytes&& file, const QString& extension)
+try {
+    const Reader* reader = readerOf(extension);
     if (extension.isEmpty()) return refused("its name has no extension to tell what it is");
-    if (reader == std::end(kReaders)) return refused(QString("there is no reader for .%1 files").arg(extension));
-    FileBytes file(path);
+    if (!reader) return refused(QString("there is no reader for .%1 files").arg(extension));
     if (file.size() == 0) return refused("it is empty or can't be opened");
     if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
     Decoded decoded = reader->read(file);

@@ -1,6 +1,8 @@
 // Reads one picture file: path and extension to size and pixels, or the reason why not. A pure function, but one whose
 // libraries crash and loop on damaged files: the programs run it in velara-decode only.
 #pragma once
+#include "fileio/decode/Cage.h"
+#include "fileio/decode/FileBytes.h"
 #include "pixels/Bits.h"
 #include <QString>
 #include <functional>
@@ -17,7 +19,13 @@ struct Decoded {
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
 
-/// The reader is picked by the extension (lower case, no dot) and never by what the file holds.
-Decoded decodePicture(const QString& path, const QString& extension);
+/// Called by readers with the size that the header gives, before the pixels are read; at most once a picture.
+extern void (*sizeFound)(std::int64_t width, std::int64_t height);
+
+/// Fetches from the disk what the reader of the extension (lower case, no dot) is made of, before the cage closes.
+Needs prepareReader(const QString& extension);
+
+/// The reader is picked by the extension and never by what the file holds. Empty bytes: it can't be opened.
+Decoded decodePicture(FileBytes&& file, const QString& extension);
 
 } // namespace velara::decode

@@ -1,10 +1,12 @@
-// velara-decode PATH EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
+// velara-decode EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
+#include "fileio/decode/Cage.h"
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
-#include <QFile>
+#include <QString>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
@@ -14,6 +16,13 @@ using namespace velara;
 using namespace velara::decode;
 
 namespace {
+
+/// Tells the size that a header gives, so that the parent allows the time that so many pixels may take.
+void claimSize(std::int64_t width, std::int64_t height)
+{
+    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}};
+    send(kSocket, &claim, sizeof claim, MSG_NOSIGNAL);
+}
 
 template <class Message> bool tell(const Message& message)
 {
@@ -51,11 +60,21 @@ int main(int argc, char** argv)
     prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
     std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; a font cache that can't be written is no reason to end
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
-    if (argc != 3 || memory == MAP_FAILED) {
+    if (argc == 2 && std::string_view(argv[1]) == "--cage") {
+        const std::string text = describeCage(enterCage(Needs::Nothing));
+        _exit(write(STDOUT_FILENO, text.data(), text.size()) < 0);
+    }
+    if (argc != 2 || memory == MAP_FAILED) {
         std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
         return 2;
     }
-    const Decoded picture = decodePicture(QFile::decodeName(argv[1]), QString::fromUtf8(argv[2]));
+    const QString extension = QString::fromUtf8(argv[1]);
+    sizeFound = claimSize;
+    const Needs needs = prepareReader(extension);
+    FileBytes file(kPicture);
+    close(kPicture);
+    enterCage(needs); // nothing of the file has been looked at yet
+    const Decoded picture = decodePicture(std::move(file), extension);
     const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
     _exit(done ? 0 : 1); // no tidying: the process is thrown away
 }

@@ -246,6 +246,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (size.width < 1 || size.height < 1) return {};
     if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
 
+    sizeFound(size.width, size.height);
     Dib dib = stream.load(fif, 0);
     if (dib && isCutOff(stream, fif)) return refused(kCutOff);
     if (dib) dib = simplified(dib);

@@ -7,14 +7,46 @@
 
 namespace velara::decode {
 
+namespace {
+
+QImage withColours(QImage row, const QImage& picture)
+{
+    if (picture.colorCount() > 0) row.setColorTable(picture.colorTable());
+    return row;
+}
+
+} // namespace
+
+Needs loadQtReaders()
+{
+    for (const char* format : {"gif", "ico"}) {
+        QBuffer nothing;
+        QImageReader reader(&nothing, format);
+        reader.setAutoDetectImageFormat(false);
+        reader.canRead();
+    }
+    return Needs::Nothing;
+}
+
+Needs loadIconReaders()
+{
+    // A picture inside an icon may be a PNG, which Qt finds by asking all readers in turn.
+    QByteArray unknown(8, '\0');
+    QBuffer buffer(&unknown);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader(&buffer).canRead();
+    return loadQtReaders();
+}
+
 Decoded onWhite(const QImage& image)
 {
-    const QImage colours = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const int width = colours.width();
+    const int width = image.width();
     return {width,
-            colours.height(),
-            [colours, width](int y, Pixel* row) {
-                const auto* from = reinterpret_cast<const QRgb*>(colours.constScanLine(y));
+            image.height(),
+            [image, width](int y, Pixel* row) { // row by row: whole pictures are converted by threads
+                const QImage one(image.constScanLine(y), width, 1, image.bytesPerLine(), image.format());
+                const QImage colours = withColours(one, image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+                const auto* from = reinterpret_cast<const QRgb*>(colours.constScanLine(0));
                 for (int x = 0; x < width; ++x) {
                     const int white = 255 - qAlpha(from[x]);
                     const auto over = [white](int part) { return static_cast<std::uint8_t>(part + white); };
@@ -36,6 +68,7 @@ Decoded readByQt(FileBytes& file, const char* format)
     const QSize size = reader.size();
     if (size.isValid() && !Bits::sizeAllowed(size.width(), size.height()))
         return size.isEmpty() ? Decoded{} : refused(kTooBig);
+    if (size.isValid()) sizeFound(size.width(), size.height());
     const QImage image = reader.read();
     if (image.isNull()) return {};
     if (!Bits::sizeAllowed(image.width(), image.height())) return refused(kTooBig);

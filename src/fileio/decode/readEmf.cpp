@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <emf2svg.h>
+#include <iconv.h>
 #include <memory>
 
 namespace velara::decode {
@@ -63,6 +64,15 @@ QByteArray svgOf(FileBytes& file)
 
 } // namespace
 
+Needs prepareEmf()
+{
+    needFonts();
+    iconv_open("UTF-8", "UTF-16LE"); // stays open: the converter asks for it again
+    QImage dot(1, 1, QImage::Format_RGB32);
+    QPainter(&dot).drawText(0, 0, "a"); // the list of fonts, and the plug-ins that draw them
+    return Needs::Fonts;
+}
+
 Decoded readEmf(FileBytes& file)
 {
     if (file.little32(0) != 1 || file.little32(40) != 0x464d4520) return {}; // a header record, " EMF"
@@ -77,6 +87,7 @@ Decoded readEmf(FileBytes& file)
     const double width = std::ceil(size.width()), height = std::ceil(size.height());
     if (!(width >= 1 && height >= 1)) return {};
     if (!Bits::sizeAllowed(std::llround(width), std::llround(height))) return refused(kTooBig);
+    sizeFound(std::llround(width), std::llround(height));
 
     needFonts();
     const QByteArray svg = svgOf(file);

@@ -70,6 +70,12 @@ struct Player {
 
 } // namespace
 
+Needs prepareWmf()
+{
+    const Player lists; // of fonts
+    return Needs::Fonts;
+}
+
 Decoded readWmf(FileBytes& file)
 {
     const auto player = std::make_shared<Player>();
@@ -92,6 +98,7 @@ Decoded readWmf(FileBytes& file)
     }
     if (width == 0 || height == 0) return {};
     if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
+    sizeFound(width, height);
 
     wmf_gd_t* const canvas = WMF_GD_GetData(api);
     canvas->type = wmf_gd_image;

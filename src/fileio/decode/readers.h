@@ -22,6 +22,12 @@ Decoded readDib(FileBytes& file);
 Decoded readWmf(FileBytes& file);
 Decoded readEmf(FileBytes& file);
 
+/// What the readers take from the disk, fetched before the cage closes.
+Needs loadQtReaders();
+Needs loadIconReaders();
+Needs prepareWmf();
+Needs prepareEmf();
+
 const char* const kCutOff = "it is cut off: its end is missing";
 const char* const kTooBig = "it is wider or higher than 32767 pixels, or has more than 268 million pixels";
 const char* const kTooMuchMemory = "it needs more memory than reading a picture may take";

@@ -5,12 +5,13 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <string>
-#include <string_view>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -24,6 +25,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto kSlice = 50ms;
 constexpr int kFirstFree = 10; // our ends stay clear of the numbers that the child expects
 
 Descriptor movedUp(int fd)
@@ -43,18 +45,17 @@ Descriptor sharedMemory()
     return memory;
 }
 
-/// The child needs no screen, and big pictures cost it fewer page faults in huge pages.
+/// The child learns nothing of the session. It needs no screen, and big pictures cost it fewer page faults in huge
+/// pages.
 std::vector<std::string> childEnvironment()
 {
-    static constexpr std::string_view kOurs[] = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen"};
-    std::vector<std::string> environment(std::begin(kOurs), std::end(kOurs));
-    for (char** entry = environ; *entry; ++entry) {
-        const std::string_view text(*entry);
-        const bool replaced = std::any_of(std::begin(kOurs), std::end(kOurs), [text](std::string_view ours) {
-            return text.starts_with(ours.substr(0, ours.find('=') + 1));
-        });
-        if (!replaced) environment.emplace_back(text);
-    }
+    // The folder of the run is one that stands: it makes none of its own.
+    std::vector<std::string> environment = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen",
+                                            "XDG_RUNTIME_DIR=/"};
+#ifdef __SANITIZE_ADDRESS__
+    for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
+        if (const char* value = std::getenv(name)) environment.push_back(std::string(name) + '=' + value);
+#endif
     return environment;
 }
 
@@ -84,15 +85,27 @@ void limit(pid_t pid, const DecoderLimits& limits)
 
 } // namespace
 
-void Descriptor::close()
+namespace {
+
+int unreadables = 0, wasDumpable = 1;
+
+} // namespace
+
+UnreadableByOthers::UnreadableByOthers()
 {
-    if (fd_ >= 0) ::close(fd_);
-    fd_ = -1;
+    if (unreadables++ > 0) return;
+    wasDumpable = prctl(PR_GET_DUMPABLE);
+    prctl(PR_SET_DUMPABLE, 0);
 }
 
-DecoderProcess::DecoderProcess(const QString& decoder, const QString& path, const QString& extension,
-                               const DecoderLimits& limits)
-    : deadline_(std::chrono::steady_clock::now() + limits.wallClock)
+UnreadableByOthers::~UnreadableByOthers()
+{
+    if (--unreadables == 0) prctl(PR_SET_DUMPABLE, wasDumpable);
+}
+
+DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension,
+                               const DecoderLimits& limits, const GoOn& goOn)
+    : goOn_(goOn), limits_(limits), started_(std::chrono::steady_clock::now())
 {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
@@ -103,15 +116,14 @@ DecoderProcess::DecoderProcess(const QString& decoder, const QString& path, cons
     void* mapped = mmap(nullptr, decode::kMemoryBytes, PROT_READ, MAP_SHARED | MAP_POPULATE, memory.get(), 0);
     if (mapped == MAP_FAILED) return;
     memory_ = static_cast<std::uint8_t*>(mapped);
-    spawn(decoder, path, extension, theirs.get(), memory.get());
+    const Descriptor picture(fcntl(file.get(), F_DUPFD_CLOEXEC, kFirstFree));
+    spawn(decoder, extension, theirs.get(), memory.get(), picture.get());
     if (started()) limit(pid_, limits);
 }
 
-void DecoderProcess::spawn(const QString& decoder, const QString& path, const QString& extension, int socket,
-                           int memory)
+void DecoderProcess::spawn(const QString& decoder, const QString& extension, int socket, int memory, int file)
 {
-    std::vector<std::string> arguments = {QFile::encodeName(decoder).toStdString(),
-                                          QFile::encodeName(path).toStdString(), extension.toStdString()};
+    std::vector<std::string> arguments = {QFile::encodeName(decoder).toStdString(), extension.toStdString()};
     std::vector<std::string> environment = childEnvironment();
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;
@@ -119,16 +131,20 @@ void DecoderProcess::spawn(const QString& decoder, const QString& path, const QS
     posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+#ifndef __SANITIZE_ADDRESS__                                                 // its reports are heard
     posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // libraries chatter about odd tags
+#endif
     posix_spawn_file_actions_adddup2(&actions, socket, decode::kSocket);
     posix_spawn_file_actions_adddup2(&actions, memory, decode::kMemory);
-    posix_spawn_file_actions_addclosefrom_np(&actions, decode::kMemory + 1);
+    posix_spawn_file_actions_adddup2(&actions, file, decode::kPicture);
+    posix_spawn_file_actions_addclosefrom_np(&actions, decode::kPicture + 1);
     sigset_t all, none;
     sigfillset(&all);
     sigemptyset(&none);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
     posix_spawnattr_setsigdefault(&attributes, &all);
     posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setpgroup(&attributes, 0); // a group of its own, killed whole
     if (posix_spawn(&pid_, arguments[0].c_str(), &actions, &attributes, pointersTo(arguments).data(),
                     pointersTo(environment).data()) != 0)
         pid_ = -1;
@@ -142,15 +158,45 @@ DecoderProcess::~DecoderProcess()
     if (memory_) munmap(memory_, decode::kMemoryBytes);
 }
 
-DecoderProcess::Wait DecoderProcess::receive(void* message, std::size_t size)
+void DecoderProcess::claim(std::int64_t pixels)
+{
+    limits_.cpuSeconds = std::max(limits_.cpuSeconds, secondsFor(pixels));
+    limit(pid_, RLIMIT_CPU, limits_.cpuSeconds, limits_.cpuSeconds + 1);
+}
+
+namespace {
+
+/// Asleep or stopped, and not just waiting for a processor or for the disk.
+bool isIdle(pid_t pid)
+{
+    QFile file(QString("/proc/%1/stat").arg(pid));
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    const QByteArray line = file.readAll(); // pid (name) state ...
+    const char state = line.mid(line.lastIndexOf(')') + 2, 1).append('?').at(0);
+    return state == 'S' || state == 'T' || state == 't';
+}
+
+} // namespace
+
+std::optional<DecoderProcess::Wait> DecoderProcess::afterSlice()
 {
     using namespace std::chrono;
+    const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
+    if (isIdle(pid_)) ++idleSlices_;
+    if (waited >= limits_.wallClock || idleSlices_ * kSlice >= limits_.idle) return Wait::TimedOut;
+    if (goOn_ && !goOn_(waited)) return Wait::Stopped;
+    return {};
+}
+
+DecoderProcess::Wait DecoderProcess::receive(void* message, std::size_t size)
+{
     for (;;) {
-        const auto left = ceil<milliseconds>(deadline_ - steady_clock::now()).count();
-        if (left <= 0) return Wait::TimedOut;
         pollfd waiting{socket_.get(), POLLIN, 0};
-        const int ready = poll(&waiting, 1, static_cast<int>(left));
-        if (ready == 0) return Wait::TimedOut;
+        const int ready = poll(&waiting, 1, static_cast<int>(kSlice.count()));
+        if (ready == 0) {
+            if (const auto end = afterSlice()) return *end;
+            continue;
+        }
         if (ready < 0 && errno == EINTR) continue;
         const ssize_t got = ready < 0 ? -1 : recv(socket_.get(), message, size, MSG_DONTWAIT | MSG_TRUNC);
         // A child that ended without reading all our bytes resets the line once; its messages still wait behind that.
@@ -176,6 +222,7 @@ int DecoderProcess::end(std::chrono::milliseconds patience)
         if (ended != 0) return ended > 0 ? status : -1;
         std::this_thread::sleep_for(1ms);
     }
+    kill(-pid, SIGKILL);
     kill(pid, SIGKILL);
     while (waitpid(pid, &status, 0) < 0)
         if (errno != EINTR) return -1;

@@ -1,37 +1,30 @@
 // One run of velara-decode: descriptors, limits, and an end in any case.
 #pragma once
 #include "fileio/load/PictureLoader.h"
+#include <optional>
 #include <sys/types.h>
 #include <utility>
 
 namespace velara {
 
-/// A descriptor that closes itself.
-class Descriptor {
+/// While one lives no other process can look into the memory of this one, a child that a picture took over least of
+/// all.
+class UnreadableByOthers {
   public:
-    explicit Descriptor(int fd = -1) : fd_(fd) {}
-    ~Descriptor() { close(); }
-    Descriptor(Descriptor&& other) noexcept : fd_(other.fd_) { other.fd_ = -1; }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&& other) noexcept
-    {
-        std::swap(fd_, other.fd_);
-        return *this;
-    }
-    int get() const { return fd_; }
-    bool isOpen() const { return fd_ >= 0; }
-    void close();
-
-  private:
-    int fd_;
+    UnreadableByOthers();
+    ~UnreadableByOthers();
+    UnreadableByOthers(const UnreadableByOthers&) = delete;
+    UnreadableByOthers& operator=(const UnreadableByOthers&) = delete;
 };
 
 /// Starts the helper; the destructor kills and reaps it.
 class DecoderProcess {
   public:
-    enum class Wait { Message, Nonsense, Ended, TimedOut };
+    enum class Wait { Message, Nonsense, Ended, TimedOut, Stopped };
 
-    DecoderProcess(const QString& decoder, const QString& path, const QString& extension, const DecoderLimits& limits);
+    /// file is open for reading; the child inherits it.
+    DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension,
+                   const DecoderLimits& limits, const GoOn& goOn);
     ~DecoderProcess();
     DecoderProcess(const DecoderProcess&) = delete;
     DecoderProcess& operator=(const DecoderProcess&) = delete;
@@ -39,7 +32,9 @@ class DecoderProcess {
     bool started() const { return pid_ > 0; }
     /// The shared memory, decode::kMemoryBytes long.
     const std::uint8_t* memory() const { return memory_; }
-    /// Waits for the next message until the wall-clock limit; one of another size is nonsense.
+    /// Allows the processor time that a picture of so many pixels may take.
+    void claim(std::int64_t pixels);
+    /// Waits for the next message until a limit; one of another size is nonsense. Stopped: goOn said so.
     Wait receive(void* message, std::size_t size);
     /// Gives the oldest slot back.
     void releaseSlot();
@@ -47,9 +42,15 @@ class DecoderProcess {
     int end(std::chrono::milliseconds patience = {});
 
   private:
-    void spawn(const QString& decoder, const QString& path, const QString& extension, int socket, int memory);
+    void spawn(const QString& decoder, const QString& extension, int socket, int memory, int file);
+    /// A slice of waiting has passed: false when the child is at its end, or the caller.
+    std::optional<Wait> afterSlice();
 
-    std::chrono::steady_clock::time_point deadline_;
+    UnreadableByOthers unreadable_;
+    const GoOn& goOn_;
+    DecoderLimits limits_;
+    std::chrono::steady_clock::time_point started_;
+    int idleSlices_ = 0; // slices in which the child did nothing
     Descriptor socket_;
     std::uint8_t* memory_ = nullptr;
     pid_t pid_ = -1;

@@ -18,18 +18,27 @@ namespace {
 using namespace std::chrono_literals;
 using Wait = DecoderProcess::Wait;
 
+constexpr const char* kGivenUp = "reading it was given up";
 constexpr const char* kTooLong = "reading it took too long and was stopped";
+constexpr int kSanitizerSpoke = 99; // the exit code that make test-sanitize asks for
 constexpr const char* kNonsense = "the program that reads pictures (velara-decode) gave a false answer";
 
-/// Why it makes no sense to start a reader; empty when it does. Opens the file, since only that tells the truth.
-QString faultOfFile(const QString& path)
+/// The file, open for reading; reason tells why it makes no sense to start a reader.
+Descriptor openPicture(const QString& path, QString& reason)
 {
-    const Descriptor file(open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!file.isOpen()) {
-        if (errno == ENOENT || errno == ENOTDIR) return "there is no such file";
-        if (errno == EACCES || errno == EPERM) return "there is no permission to read it";
-        return QString("the system says \"%1\"").arg(QString::fromLocal8Bit(std::strerror(errno)));
-    }
+    Descriptor file(open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (file.isOpen()) return file;
+    if (errno == ENOENT || errno == ENOTDIR)
+        reason = "there is no such file";
+    else if (errno == EACCES || errno == EPERM)
+        reason = "there is no permission to read it";
+    else
+        reason = QString("the system says \"%1\"").arg(QString::fromLocal8Bit(std::strerror(errno)));
+    return file;
+}
+
+QString faultOfFile(const Descriptor& file)
+{
     struct stat status;
     if (fstat(file.get(), &status) != 0) return "the system tells nothing about it";
     if (S_ISDIR(status.st_mode)) return "it is a folder";
@@ -43,6 +52,10 @@ QString faultOfEnd(int status)
 {
     if (status >= 0 && WIFEXITED(status) && WEXITSTATUS(status) == 127)
         return "the program that reads pictures (velara-decode) can't be started";
+    if (status >= 0 && WIFEXITED(status) && WEXITSTATUS(status) == kSanitizerSpoke)
+        return "a sanitizer stopped its reader";
+    if (status >= 0 && WIFSIGNALED(status) && WTERMSIG(status) == SIGSYS)
+        return "it is damaged, and its reader wanted what no picture needs";
     if (status >= 0 && WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL))
         return kTooLong;
     return "it is damaged, and its reader gave up";
@@ -53,6 +66,8 @@ QString faultOf(Wait wait, DecoderProcess& child)
     switch (wait) {
     case Wait::TimedOut:
         return kTooLong;
+    case Wait::Stopped:
+        return kGivenUp;
     case Wait::Nonsense:
         return kNonsense;
     default:
@@ -97,7 +112,11 @@ LoadedPicture receiveRows(DecoderProcess& child, int width, int height)
 LoadedPicture receivePicture(DecoderProcess& child)
 {
     decode::Opening opening;
-    const Wait wait = child.receive(&opening, sizeof opening);
+    Wait wait = child.receive(&opening, sizeof opening);
+    if (wait == Wait::Message && opening.magic == decode::kClaim && Bits::sizeAllowed(opening.width, opening.height)) {
+        child.claim(std::int64_t{opening.width} * opening.height);
+        wait = child.receive(&opening, sizeof opening);
+    }
     if (wait != Wait::Message) return {{}, faultOf(wait, child)};
     if (opening.magic != decode::kMagic) return {{}, kNonsense};
     if (opening.width == 0 && opening.height == 0) {
@@ -109,24 +128,41 @@ LoadedPicture receivePicture(DecoderProcess& child)
     return receiveRows(child, opening.width, opening.height);
 }
 
-LoadedPicture load(const QString& path, const QString& extension, const QString& decoder, const DecoderLimits& limits)
+LoadedPicture load(const Descriptor& file, const QString& extension, const QString& decoder,
+                   const DecoderLimits& limits, const GoOn& goOn)
 try {
-    if (const QString fault = faultOfFile(path); !fault.isEmpty()) return {{}, fault};
+    if (const QString fault = faultOfFile(file); !fault.isEmpty()) return {{}, fault};
     if (decoder.isEmpty()) return {{}, "the program that reads pictures (velara-decode) was not found"};
-    DecoderProcess child(decoder, QFileInfo(path).absoluteFilePath(), extension.toLower(), limits);
+    DecoderProcess child(decoder, file, extension.toLower(), limits, goOn);
     if (!child.started()) return {{}, "the program that reads pictures (velara-decode) can't be started"};
     return receivePicture(child);
 } catch (const std::bad_alloc&) {
     return {{}, "there is not enough memory for it"};
 }
 
+LoadedPicture named(LoadedPicture picture, const QString& name)
+{
+    if (!picture.ok()) picture.reason = name + " can't be read: " + picture.reason;
+    return picture;
+}
+
+constexpr unsigned kMostSeconds = 60;
+
 } // namespace
 
 DecoderLimits limitsFor(std::int64_t fileSize)
 {
+    constexpr std::int64_t kMegabyte = 1 << 20;
     DecoderLimits limits;
-    limits.cpuSeconds = static_cast<unsigned>(std::min<std::int64_t>(limits.cpuSeconds + (fileSize >> 20), 60));
+    if (fileSize >= kMegabyte)
+        limits.cpuSeconds = static_cast<unsigned>(std::min<std::int64_t>(15 + fileSize / kMegabyte, kMostSeconds));
     return limits;
+}
+
+unsigned secondsFor(std::int64_t pixels)
+{
+    constexpr std::int64_t kPixelsASecond = 4 << 20; // the slowest reader, on a slow machine
+    return static_cast<unsigned>(std::clamp<std::int64_t>(2 + pixels / kPixelsASecond, 2, kMostSeconds));
 }
 
 QString findDecoder()
@@ -143,11 +179,19 @@ QString findDecoder()
 }
 
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits)
+                                 const DecoderLimits& limits, const GoOn& goOn)
 {
-    LoadedPicture picture = load(path, extension, decoder, limits);
-    if (!picture.ok()) picture.reason = QFileInfo(path).fileName() + " can't be read: " + picture.reason;
-    return picture;
+    QString reason;
+    const QString name = QFileInfo(path).fileName();
+    const Descriptor file = openPicture(path, reason);
+    if (!file.isOpen()) return named({{}, reason}, name);
+    return loadThroughDecoder(file, name, extension, decoder, limits, goOn);
+}
+
+LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
+                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn)
+{
+    return named(load(file, extension, decoder, limits, goOn), name);
 }
 
 } // namespace velara

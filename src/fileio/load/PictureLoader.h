@@ -1,19 +1,28 @@
 // Reads picture files through velara-decode: one disposable child a file, under limits, so that a damaged file can cost
 // nothing but the child.
 #pragma once
+#include "fileio/load/Descriptor.h"
 #include "seams/Platform.h"
 #include <chrono>
+#include <functional>
 
 namespace velara {
 
 struct DecoderLimits {
     std::size_t memory = std::size_t{4} << 30;  // bytes of address space
-    unsigned cpuSeconds = 15;                   // processor time; some readers loop for ever on damaged files
+    unsigned cpuSeconds = 2;                    // processor time; some readers loop for ever on damaged files
+    std::chrono::milliseconds idle{2000};       // asleep or stopped, in all
     std::chrono::milliseconds wallClock{90000}; // from start to the last row
 };
 
-/// What a file of so many bytes may take: a second more of processor time for each megabyte, up to a minute.
+/// What a file of so many bytes may take: 2 seconds of processor time below a megabyte; else 15 and one more for each
+/// megabyte, up to a minute.
 DecoderLimits limitsFor(std::int64_t fileSize);
+/// Processor time that a picture of so many pixels may take, whatever its file's size: 2 to 60 seconds.
+unsigned secondsFor(std::int64_t pixels);
+
+/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
+using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
 /// The helper's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
 QString findDecoder();
@@ -21,6 +30,9 @@ QString findDecoder();
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
 /// reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits = {});
+                                 const DecoderLimits& limits = {}, const GoOn& goOn = {});
+/// The same for what is open for reading already; name is what the reason calls it.
+LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
+                                 const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {});
 
 } // namespace velara

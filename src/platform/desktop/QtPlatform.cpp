@@ -1,4 +1,5 @@
 #include "platform/desktop/QtPlatform.h"
+#include "platform/desktop/ReadingBox.h"
 #include "platform/nameFilters.h"
 #include <QApplication>
 #include <QClipboard>
@@ -63,6 +64,11 @@ void copyRow(quint32* to, const quint32* from, int count, quint32 fourth)
 }
 
 } // namespace
+
+GoOn QtPlatform::whileReading(const QString& name)
+{
+    return [box = std::make_shared<ReadingBox>(name, parentOfDialogs())](auto waited) { return box->goOn(waited); };
+}
 
 void QtPlatform::yield() { QCoreApplication::processEvents(); }
 

@@ -23,6 +23,9 @@ class QtPlatform : public CorePlatform {
 
     Fonts& fonts() override { return fonts_; }
 
+  protected:
+    GoOn whileReading(const QString& name) override;
+
   private:
     QtFonts fonts_;
 };

@@ -47,7 +47,7 @@ constexpr Sample kSamples[] = {
 Decoded decodeSample(const QString& name)
 {
     const QString path = QString(VELARA_CORPUS "/") + name;
-    return decodePicture(path, QFileInfo(path).suffix().toLower());
+    return decodePicture(FileBytes(path), QFileInfo(path).suffix().toLower());
 }
 
 std::vector<Pixel> pixelsOf(const Decoded& picture)

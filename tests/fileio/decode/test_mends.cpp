@@ -32,7 +32,7 @@ Decoded decodeBytes(const std::string& contents, const QString& extension)
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(contents.data(), static_cast<qsizetype>(contents.size()));
     file.close();
-    return decodePicture(file.fileName(), extension);
+    return decodePicture(FileBytes(file.fileName()), extension);
 }
 
 /// Colours 0xRRGGBB of all pixels, row by row; empty when there is no picture.
@@ -131,7 +131,7 @@ TEST(Mends, HighDepthsOfPng)
         ASSERT_TRUE(FreeImage_Save(FIF_PNG, dib, name, 0));
         FreeImage_Unload(dib);
         FreeImage_DeInitialise();
-        EXPECT_EQ(coloursOf(decodePicture(name, "png")), Colours{t.wanted}) << t.type;
+        EXPECT_EQ(coloursOf(decodePicture(FileBytes(QString(name)), "png")), Colours{t.wanted}) << t.type;
     }
 }
 
@@ -147,7 +147,7 @@ TEST(Mends, FloatingPointTiff)
     ASSERT_TRUE(FreeImage_Save(FIF_TIFF, dib, name, 0));
     FreeImage_Unload(dib);
     FreeImage_DeInitialise();
-    EXPECT_EQ(coloursOf(decodePicture(name, "tif")), (Colours{0x80ff00, 0x0000ff}));
+    EXPECT_EQ(coloursOf(decodePicture(FileBytes(QString(name)), "tif")), (Colours{0x80ff00, 0x0000ff}));
 }
 
 // Metadata is made into segments that nobody parses; what the colours need and what follows the scan stays.

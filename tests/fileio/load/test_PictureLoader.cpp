@@ -147,6 +147,22 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
     }
 }
 
+// A child that does nothing is at its end after two seconds, and at once when the person gives up.
+TEST_F(PictureLoader, WaitsNoLongerThanAPersonWould)
+{
+    const QString file = write("x.ppm", kPicture), sleeper = fakeDecoder("time.sleep(60)");
+    const QString stopped = fakeDecoder("os.kill(os.getpid(), 19)");
+    for (const QString& decoder : {sleeper, stopped}) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_TRUE(loadThroughDecoder(file, "ppm", decoder).reason.contains("too long"));
+        EXPECT_LT(std::chrono::steady_clock::now() - start, 15s);
+    }
+    int asked = 0;
+    const GoOn twice = [&](std::chrono::milliseconds) { return ++asked < 2; };
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", sleeper, {}, twice).reason.contains("given up"));
+    EXPECT_EQ(asked, 2);
+}
+
 TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
 {
     DecoderLimits limits;

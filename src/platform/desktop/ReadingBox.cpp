@@ -1,0 +1,23 @@
+#include "platform/desktop/ReadingBox.h"
+#include <QCoreApplication>
+
+namespace velara {
+
+bool ReadingBox::goOn(std::chrono::milliseconds waited)
+{
+    constexpr std::chrono::milliseconds kUntilShown{500};
+    if (waited < kUntilShown) return true;
+    if (!shown_) {
+        shown_ = true;
+        box_ = new QProgressDialog(QObject::tr("Reading %1 ...").arg(name_), QObject::tr("Cancel"), 0, 0, parent_);
+        box_->setObjectName("readingBox");
+        box_->setWindowTitle("Velara Studio");
+        box_->setWindowModality(Qt::ApplicationModal);
+        box_->setMinimumDuration(0);
+        box_->show();
+    }
+    QCoreApplication::processEvents();
+    return box_ && !box_->wasCanceled();
+}
+
+} // namespace velara

@@ -1,0 +1,27 @@
+// ReadingBox: what stands before the person while a picture takes long to read.
+#pragma once
+#include <QPointer>
+#include <QProgressDialog>
+#include <chrono>
+
+namespace velara {
+
+/// Shows itself over the parent after half a second, and takes the input then: nothing else of the program can be used.
+class ReadingBox {
+  public:
+    ReadingBox(const QString& name, QWidget* parent) : name_(name), parent_(parent) {}
+    ~ReadingBox() { delete box_; }
+    ReadingBox(const ReadingBox&) = delete;
+    ReadingBox& operator=(const ReadingBox&) = delete;
+
+    /// A moment of waiting has passed: false once the person gave up, by Esc, the button or closing the box.
+    bool goOn(std::chrono::milliseconds waited);
+
+  private:
+    QString name_;
+    QPointer<QWidget> parent_;
+    QPointer<QProgressDialog> box_;
+    bool shown_ = false;
+};
+
+} // namespace velara
