@@ -85,6 +85,21 @@ TEST_F(Preview, BothBlocksStayWhereTheyAre)
     }
 }
 
+TEST_F(Preview, WhatIsToBeShownCoversEveryRestoreSinceTheLast)
+{
+    open(200, 150, 5);
+    preview.begin();
+    for (const int y : {20, 120}) {
+        document.touched.fit(200, 150);
+        document.edit().at(50, y).c[0] ^= 1;
+        document.touched.mark(y, 50, 51);
+        preview.restore();
+    }
+    const Rect shown = preview.takeRestored();
+    EXPECT_TRUE(shown.contains(50, 20) && shown.contains(50, 120));
+    EXPECT_TRUE(preview.takeRestored().isEmpty());
+}
+
 TEST_F(Preview, AnEngineWithAnotherDocumentsPictureIsGivenThisOne)
 {
     open(200, 150, 3);

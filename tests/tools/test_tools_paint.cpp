@@ -6,73 +6,158 @@
 namespace velara {
 namespace {
 
+/// What a tool paints with, and the definition of what it should paint.
+struct Stroke {
+    PaintTwin paint;
+    Setup setup;
+    const Bits& stamp;
+    std::vector<Point> way;
+};
+
 struct PaintTools : ToolFixture {
     Bits before = document.Bits();
     PaintTwin twin;
 
     PaintTools()
     {
-        document.Region.CreateEllipse(3, 3, 55, 45, Combine::Or, true);
         frame.setup_.ForeColor = 0x3080F0;
         frame.toolStores.stamp = randomBits(12, 9, 8);
-        startTwin();
+        start();
     }
-    void startTwin()
+    /// The first picture again, an ellipse of it selected.
+    void start()
     {
-        twin = {};
-        twin.bits = before;
-        twin.limit = document.Region.RegionMain();
-        twin.region = document.Region.working();
-        twin.random = Random(3);
+        open(before);
+        document.Region.CreateEllipse(3, 3, 55, 45, Combine::Or, true);
         document.paint.setRandomSeed(3);
+        twin = {before, document.Region.RegionMain(), document.Region.working(), {}, Random(3)};
         twin.CreateDoneBitsTable();
     }
 };
 
-const std::vector<Point> kWay{{20, 20}, {25, 22}, {24, 30}, {70, 31}, {20, 20}};
-
-TEST_F(PaintTools, BrushStrokesAreOneDabAndThenLines)
+void dab(Stroke& s)
 {
-    choose("Brush");
-    auto& s = frame.setup_;
-    s.BrushSize = 9;
-    s.BrushPressure = 60;
-    for (int mode = 0; mode <= 6; ++mode) {
-        open(before);
-        document.Region.CreateEllipse(3, 3, 55, 45, Combine::Or, true);
-        startTwin();
-        s.BrushMode = static_cast<std::int16_t>(mode);
-        drag(kWay);
-        const auto [x, y] = kWay.front();
-        switch (mode) {
-        case 0:
-            twin.BitsBrush(x, y, 9, 60, s.ForeColor);
-            break;
-        case 1:
-        case 2:
-            twin.BitsSoften(x, y, 9, 60, mode == 2);
-            break;
-        case 3:
-            twin.BitsSharpen(x, y, 9, 60);
-            break;
-        case 4:
-        case 5:
-            twin.BitsBrightness(x, y, 9, 60, mode == 4);
-            break;
-        default:
-            twin.BitsMasked(x, y, frame.toolStores.stamp, 9, 60);
-        }
-        for (std::size_t i = 1; i < kWay.size(); ++i) {
-            const auto [x1, y1] = kWay[i - 1];
-            const auto [x2, y2] = kWay[i];
-            if (mode == 6)
-                twin.BitsMaskedLine(x1, y1, x2, y2, 9, 60, frame.toolStores.stamp);
-            else
-                twin.BitsBrushLine(x1, y1, x2, y2, 9, 60, s.ForeColor, mode);
-        }
-        ASSERT_TRUE(sameBits(twin.bits, document.Bits())) << "mode " << mode;
-        ASSERT_TRUE(sameBits(twin.bits, frame.filter_.bits())) << "mode " << mode;
-        EXPECT_EQ(frame.snapshots, mode + 1);
+    const auto [x, y] = s.way.front();
+    const Setup& set = s.setup;
+    const int mode = set.BrushMode, size = set.BrushSize, strength = set.BrushPressure;
+    if (mode == 0) s.paint.BitsBrush(x, y, size, strength, set.ForeColor);
+    if (mode == 1 || mode == 2) s.paint.BitsSoften(x, y, size, strength, mode == 2);
+    if (mode == 3) s.paint.BitsSharpen(x, y, size, strength);
+    if (mode == 4 || mode == 5) s.paint.BitsBrightness(x, y, size, strength, mode == 4);
+    if (mode == 6) s.paint.BitsMasked(x, y, s.stamp, size, strength);
+}
+
+/// One dab and then lines.
+void brush(Stroke& s)
+{
+    dab(s);
+    for (std::size_t i = 1; i < s.way.size(); ++i) {
+        const auto [x1, y1] = s.way[i - 1];
+        const auto [x2, y2] = s.way[i];
+        if (s.setup.BrushMode == 6)
+            s.paint.BitsMaskedLine(x1, y1, x2, y2, 9, 60, s.stamp);
+        else
+            s.paint.BitsBrushLine(x1, y1, x2, y2, 9, 60, s.setup.ForeColor, s.setup.BrushMode);
+    }
+}
+
+void airbrush(Stroke& s)
+{
+    for (const auto& [x, y] : s.way) s.paint.BitsAirbrush(x, y, 75, 25, 100, 0, s.setup.ForeColor);
+}
+
+void freeHand(Stroke& s)
+{
+    const int opacity = s.setup.CurrentTool == "Pencil" ? s.setup.ToolOpacity : s.setup.ShapePressure;
+    Point last = s.way.front();
+    for (const Point at : s.way) {
+        s.paint.BitsLine(last.x, last.y, at.x, at.y, s.setup.ForeColor, opacity);
+        last = at;
+    }
+}
+
+/// Where a stamp of 12 by 9 goes.
+Point stampAt(Point at) { return {at.x - (13 / 2 + 1), at.y - (10 / 2 + 1)}; }
+
+void stampTrack(Stroke& s)
+{
+    for (const Point at : s.way) {
+        const auto [x, y] = stampAt(at);
+        s.paint.BitsPaint(x, y, s.stamp, s.setup.StampUseMaskColor ? s.setup.StampMaskColor : -1, 70, true);
+    }
+}
+
+void lastStamp(Stroke& s)
+{
+    const auto [x, y] = stampAt(s.way.back());
+    s.paint.BitsBWMask(x, y, s.stamp, s.setup.ForeColor, 70);
+}
+
+const std::vector<Point> kWay{{20, 20}, {25, 22}, {24, 30}, {70, 31}, {20, 20}}, kTurn{{25, 20}, {10, 40}, {40, 12}};
+constexpr int kInk = 0x3080F0;
+
+template <int mode> void brushOf(Setup& s) { s.BrushMode = mode, s.BrushSize = 9, s.BrushPressure = 60; }
+template <int kind> void shapeOf(Setup& s) { s.ShapeKind = kind, s.ShapePressure = 80, s.ShapeSides = 5; }
+template <int mode> void fillOf(Setup& s) { s.FillMode = mode, s.FillTolerance = 300, s.FillPressure = 60; }
+void dabs(Setup& s) { brushOf<0>(s), s.BrushContinuous = false; }
+void halfOpaque(Setup& s) { s.ToolOpacity = 50; }
+void stampOf(Setup& s) { s.StampMask = false, s.StampPressure = 70; }
+void lastStampOf(Setup& s) { s.StampMask = s.StampClearBack = true, s.StampPressure = 70; }
+
+const struct {
+    const char* tool;
+    void (*set)(Setup&);
+    std::vector<Point> way;
+    void (*draw)(Stroke&);
+    Pointer pointer;
+} kStrokes[] = {
+    // clang-format off
+    {"Brush",    brushOf<0>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<1>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<2>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<3>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<4>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<5>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<6>,  kWay,  brush,    Pointer::cBrush},
+    {"Brush",    dabs,        {{20, 20}, {20, 20}}, dab, Pointer::cBrush},
+    {"Airbrush", [](Setup&) {}, kWay, airbrush, Pointer::cAirBrush},
+    {"Pencil",   halfOpaque,  kTurn, freeHand, Pointer::cPencil},
+    {"Shape",    shapeOf<0>,  kTurn, [](Stroke& s) { s.paint.BitsLine(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<1>,  kTurn, freeHand, Pointer::cPencil},
+    {"Shape",    shapeOf<2>,  kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 5, kInk, 80); }, Pointer::cPencil}, // upward as high as wide
+    {"Shape",    shapeOf<3>,  kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<4>,  {{25, 20}, {13, 12}}, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 12, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<5>,  kTurn, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 15, 8, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<6>,  kTurn, [](Stroke& s) { s.paint.BitsPolygon(25, 20, 40, 12, 5, kInk, 80); }, Pointer::cPencil},
+    {"Stamp",    stampOf,     {{20, 20}, {30, 24}}, stampTrack, Pointer::cTextures},
+    {"Stamp",    [](Setup& s) { stampOf(s), s.StampUseMaskColor = true, s.StampMaskColor = 0; }, {{20, 20}, {30, 24}}, stampTrack, Pointer::cTextures},
+    {"Stamp",    lastStampOf, {{20, 30}, {33, 30}}, lastStamp, Pointer::cTextures},
+    {"Fill",     fillOf<0>,   {{20, 20}, {22, 21}}, [](Stroke& s) { s.paint.BitsFill(22, 21, kInk, 300, 60); }, Pointer::cFill},
+    {"Fill",     fillOf<1>,   {{20, 20}, {10, 25}}, [](Stroke& s) { s.paint.BitsFillTexture(10, 25, s.stamp, 300, 60); }, Pointer::cFill},
+    // clang-format on
+};
+
+TEST_F(PaintTools, StrokesPaintWhatTheirPrimitivesDo)
+{
+    const auto defaults = frame.setup_;
+    frame.toolStores.stamp.at(3, 3) = {}; // in the colour of a mask
+    for (const auto& row : kStrokes) {
+        SCOPED_TRACE(std::string(row.tool) + ", row " + std::to_string(&row - kStrokes));
+        start();
+        frame.setup_ = defaults;
+        choose(row.tool);
+        row.set(frame.setup_);
+        frame.snapshots = 0;
+        Stroke wanted{twin, frame.setup_, frame.toolStores.stamp, row.way};
+        row.draw(wanted);
+        press(row.way.front());
+        for (std::size_t i = 1; i < row.way.size(); ++i) move(row.way[i]);
+        EXPECT_TRUE(sameBits(frame.setup_.CurrentTool == "Fill" ? before : wanted.paint.bits, document.Bits()));
+        EXPECT_EQ(surface.pointer, row.pointer);
+        release(row.way.back());
+        EXPECT_TRUE(sameBits(wanted.paint.bits, document.Bits()));
+        EXPECT_TRUE(sameBits(wanted.paint.bits, frame.filter_.bits()));
+        EXPECT_EQ(frame.snapshots, 1);
     }
 }
 
@@ -84,71 +169,23 @@ TEST_F(PaintTools, AClickIsOneDabAndOneStep)
     drag({{20, 20}});
     EXPECT_EQ(asked(), "activate; stop; repaint; update 01; start");
     EXPECT_EQ(surface.repainted.back(), (Rect{20, 20, 21, 21}));
-    EXPECT_EQ(surface.pointer, Pointer::cBrush);
-    twin.BitsBrush(20, 20, 1, 100, frame.setup_.ForeColor);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    frame.setup_.BrushMode = 6;
+}
+
+TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
+{
     frame.toolStores.stamp = {};
-    drag({{20, 20}, {25, 25}}); // no stamp: the press is ignored
-    EXPECT_EQ(asked(), "activate; start");
-    EXPECT_EQ(frame.snapshots, 1);
-}
-
-TEST_F(PaintTools, AirbrushAndPencilBuildUp)
-{
-    choose("Airbrush");
-    drag({{20, 20}, {22, 21}, {20, 20}});
-    for (const auto& [x, y] : {std::pair(20, 20), std::pair(22, 21), std::pair(20, 20)})
-        twin.BitsAirbrush(x, y, 75, 25, 100, 0, frame.setup_.ForeColor);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    frame.setup_.AirbrushSize = 1; // out of a damaged configuration: no dab, no harm
-    drag({{20, 20}, {22, 21}});
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-
-    choose("Pencil");
-    frame.setup_.ToolOpacity = 50;
-    drag({{30, 20}, {40, 25}, {31, 22}});
-    twin.BitsLine(30, 20, 30, 20, frame.setup_.ForeColor, 50);
-    twin.BitsLine(30, 20, 40, 25, frame.setup_.ForeColor, 50);
-    twin.BitsLine(40, 25, 31, 22, frame.setup_.ForeColor, 50);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-}
-
-TEST_F(PaintTools, AShapeShowsOnlyItsPresentOutline)
-{
-    choose("Shape");
-    auto& s = frame.setup_;
-    s.ShapePressure = 80;
-    s.ShapeSides = 5;
-    const int ink = s.ForeColor;
-    const struct {
-        Point end;
-        void (*draw)(PaintTwin& t, int ink);
-    } rows[] = {
-        {{40, 12}, [](PaintTwin& t, int ink) { t.BitsLine(25, 20, 40, 12, ink, 80); }},
-        {{40, 12},
-         [](PaintTwin& t, int ink) {
-             t.BitsLine(25, 20, 25, 20, ink, 80);
-             t.BitsLine(25, 20, 10, 40, ink, 80);
-             t.BitsLine(10, 40, 40, 12, ink, 80);
-         }},
-        {{40, 12}, [](PaintTwin& t, int ink) { t.BitsRectangle(25, 20, 40, 5, ink, 80); }}, // upward as high as wide
-        {{40, 12}, [](PaintTwin& t, int ink) { t.BitsRectangle(25, 20, 40, 12, ink, 80); }},
-        {{13, 12}, [](PaintTwin& t, int ink) { t.BitsEllipse(25, 20, 12, 12, ink, 80); }},
-        {{40, 12}, [](PaintTwin& t, int ink) { t.BitsEllipse(25, 20, 15, 8, ink, 80); }},
-        {{40, 12}, [](PaintTwin& t, int ink) { t.BitsPolygon(25, 20, 40, 12, 5, ink, 80); }},
-    };
-    for (int kind = 0; kind < 7; ++kind) {
-        s.ShapeKind = static_cast<std::int16_t>(kind);
-        rows[kind].draw(twin, ink);
-        press({25, 20});
-        move({10, 40});
-        move(rows[kind].end);
-        ASSERT_TRUE(sameBits(twin.bits, document.Bits())) << "kind " << kind;
-        release(rows[kind].end);
-        ASSERT_TRUE(sameBits(twin.bits, frame.filter_.bits())) << "kind " << kind;
-        EXPECT_EQ(frame.snapshots, kind + 1);
+    frame.setup_.BrushMode = 6;
+    frame.setup_.FillMode = 1;
+    for (const char* tool : {"Brush", "Stamp", "Text", "Fill"}) {
+        choose(tool);
+        drag({{20, 20}, {25, 25}});
+        EXPECT_EQ(asked(), "activate; start") << tool;
     }
+    frame.setup_.AirbrushSize = 1; // out of a damaged configuration
+    choose("Airbrush");
+    drag({{20, 20}, {22, 21}});
+    EXPECT_EQ(frame.snapshots, 0);
+    EXPECT_TRUE(sameBits(before, document.Bits()));
 }
 
 TEST_F(PaintTools, TheRightButtonTakesThePreviewBack)
@@ -167,36 +204,9 @@ TEST_F(PaintTools, TheRightButtonTakesThePreviewBack)
     EXPECT_EQ(frame.snapshots, 0);
 }
 
-TEST_F(PaintTools, StampsLeaveATrackOrTheLastOneOnly)
-{
-    choose("Stamp");
-    auto& s = frame.setup_;
-    const Bits& stamp = frame.toolStores.stamp;
-    s.StampMask = false;
-    s.StampPressure = 70;
-    s.StampUseMaskColor = true;
-    s.StampMaskColor = colourOf(stamp.at(3, 3).c[2], stamp.at(3, 3).c[1], stamp.at(3, 3).c[0]);
-    const auto hot = Point{13 / 2 + 1, 10 / 2 + 1};
-    drag({{20, 20}, {30, 24}});
-    twin.BitsPaint(20 - hot.x, 20 - hot.y, stamp, s.StampMaskColor, 70, true);
-    twin.BitsPaint(30 - hot.x, 24 - hot.y, stamp, s.StampMaskColor, 70, true);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    s.StampClearBack = true;
-    s.StampMask = true;
-    drag({{20, 30}, {33, 30}});
-    twin.BitsBWMask(33 - hot.x, 30 - hot.y, stamp, s.ForeColor, 70);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    EXPECT_EQ(surface.pointer, Pointer::cTextures);
-    frame.toolStores.stamp = {};
-    drag({{20, 30}, {33, 30}});
-    EXPECT_EQ(frame.snapshots, 2);
-}
-
 TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
 {
     choose("Text");
-    drag({{20, 20}, {30, 30}}); // nothing to place
-    EXPECT_EQ(frame.snapshots, 0);
     frame.toolStores.text = randomBits(10, 8, 4);
     const int ink = frame.setup_.ForeColor;
     press({20, 20});
@@ -208,31 +218,6 @@ TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
     twin.BitsBWMask(40 - 6, 24 - 5, frame.toolStores.text, ink, 100);
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
     EXPECT_EQ(frame.snapshots, 2);
-}
-
-TEST_F(PaintTools, AFillHappensAtTheRelease)
-{
-    choose("Fill");
-    auto& s = frame.setup_;
-    s.FillTolerance = 300;
-    s.FillPressure = 60;
-    press({20, 20});
-    move({22, 21});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
-    release({22, 21});
-    twin.BitsFill(22, 21, s.ForeColor, 300, 60);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    s.FillMode = 1;
-    drag({{10, 25}});
-    twin.CreateDoneBitsTable();
-    twin.BitsFillTexture(10, 25, frame.toolStores.stamp, 300, 60);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    EXPECT_TRUE(sameBits(twin.bits, frame.filter_.bits()));
-    EXPECT_EQ(frame.snapshots, 2);
-    frame.toolStores.stamp = {};
-    drag({{10, 25}});
-    EXPECT_EQ(frame.snapshots, 2);
-    EXPECT_EQ(surface.pointer, Pointer::cFill);
 }
 
 TEST_F(PaintTools, GradientsRunFromPressToRelease)

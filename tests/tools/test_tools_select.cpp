@@ -79,8 +79,10 @@ TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
     frame.setup_.SelectionMode = 2;
     drag({{0, 0}, {30, 40}}); // goes on from the last corner, wherever the press is
     EXPECT_EQ(tools->ToolPoints().size(), 6u);
-    drag({{30, 40}, {11, 9}}); // meets the first corner
-    EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40}));
+    drag({{30, 40}, {14, 10}}); // four pixels away from the first corner: one more
+    EXPECT_EQ(tools->ToolPoints().size(), 8u);
+    drag({{14, 10}, {13, 7}}); // three away: meets it
+    EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40, 14, 10}));
     EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
 
     drag({{1, 1}, {5, 1}}); // an open one goes away by the right button, and by another shape
