@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize reference reference-diff screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-sanitize reference reference-diff mutate screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -44,6 +44,10 @@ reference:
 reference-diff:
 	cmake --build --preset release --target velara-reference
 	$(RELEASE)/bin/velara-reference --diff $(NAMES)
+
+# One-line faults (tests/mutations.txt) that the tests have to catch: all of them take about an hour; make mutate NAMES="undo jpeg"
+mutate: setup
+	@scripts/mutate.py $(NAMES)
 
 SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'tools/*.cpp' 'tools/*.h')
 format:

@@ -107,8 +107,8 @@ def targets_of(tests):
 def judge(copy, fault):
     """What becomes of it: caught by a test, by the compiler, not built, or alive."""
     path = os.path.join(copy.tree, fault.path)
-    sound = open(path, encoding="utf-8").read()
-    open(path, "w", encoding="utf-8").write(fault.place(copy.tree))
+    sound, faulty = open(path, encoding="utf-8").read(), fault.place(copy.tree)
+    open(path, "w", encoding="utf-8").write(faulty)
     try:
         status, output = copy.make(targets_of(fault.tests))
         if status != 0:

@@ -6,30 +6,6 @@
 namespace velara {
 namespace {
 
-TEST(Deform, WhatChangesNothing)
-{
-    const Bits before = randomBits(33, 21, 6);
-    cBitFilter f = filterOf(before);
-    const Bits results[] = {
-        f.ROTATE(0, true),
-        f.ROTATE(360 * 1000, true),
-        f.STRETCH(0, 0, true),
-        f.FOLD(0, 0, true),
-        f.LENS(0.5f, 0.5f, 0.5f, 0),
-        f.LENS(0.5f, 0.5f, 0, 100),
-        f.LENS(-1e6f, 0.5f, 1e6f, 50), // its disc passes by
-        f.LENS(0.5f, 0.5f, -3, 50),
-        f.Light(0.5f, 0.5f, 0, 200, 0),
-        f.GradientLinear(0, 0, 9, 9, -1, -1, 100, 3),
-        f.GradientCircular(4, 4, 4, 4, 0, 0, 100, 1),
-        f.TileMask(randomBits(5, 5, 7), 0, 0, true, 100, -1),
-        f.TileMask(randomBits(5, 5, 7), 33, 0, false, 0, -1), // begins right of the picture
-        f.TileMask(flatBits(3, 3, 1, 2, 3), 0, 0, true, 0, colourOf(3, 2, 1)),
-        f.Grid(1, 1, true, 0xFF, 0),
-    };
-    for (const Bits& result : results) EXPECT_TRUE(sameBits(before, result)) << &result - results;
-}
-
 TEST(Deform, Faults)
 {
     const Bits column = randomBits(1, 9, 8), picture = randomBits(9, 9, 9);
@@ -60,15 +36,6 @@ TEST(Deform, Faults)
     EXPECT_TRUE(sameBits(column, narrow.FOLD(10, 10, true))) << "no pixel, no division";
 }
 
-TEST(Deform, AReportThatFallsDueInAOneRowPictureDividesByZero)
-{
-    cBitFilter f = filterOf(randomBits(9, 1, 10));
-    EXPECT_NO_THROW(f.ROTATE(10, true));
-    std::uint32_t now = 0;
-    f.clock = [&] { return now += 11; };
-    EXPECT_THROW(f.ROTATE(10, true), RuntimeError);
-}
-
 TEST(Deform, ReportsOnceARowWhenDue)
 {
     cBitFilter f = filterOf(randomBits(3, 101, 11));
@@ -93,18 +60,6 @@ TEST(Deform, UnknownGlassTakesTheFirstPixel)
     EXPECT_EQ(f.GLASS("vertical", 3).at(3, 2), (Pixel{{1, 2, 3, 9}}));
     f.setBitsRegion(Region::rectangle(1, 0, 4, 3)); // without the first pixel
     EXPECT_TRUE(sameBits(before, f.GLASS("frosted", 0)));
-}
-
-TEST(Deform, AFlatBendFillsColumnsFromTheBottomRow)
-{
-    const Bits before = randomBits(12, 10, 12);
-    const Bits after = filterOf(before).BEND(-200, true);
-    for (int y = 0; y < 10; ++y)
-        for (int x = 0; x < 12; ++x) {
-            bool found = false;
-            for (int sx = 0; sx < 12; ++sx) found |= std::memcmp(after.at(x, y).c, before.at(sx, 9).c, 3) == 0;
-            EXPECT_TRUE(found) << x << " " << y;
-        }
 }
 
 TEST(Deform, NoiseRepeatsWithItsSeedOnly)

@@ -72,36 +72,6 @@ TEST(Neighbours, ReliefLeavesBlueAndChangesTheFourthByte)
     EXPECT_EQ(out.at(1, 1), bits.at(1, 1));
 }
 
-TEST(Neighbours, TheLastColumnAndRowOfAnEmbossRepeatTheResult)
-{
-    const Bits bits = randomBits(6, 5, 3);
-    const Bits all = run("EMBOSS", {20}, bits, Region::rectangle(0, 0, 6, 5));
-    const auto three = [](Pixel p) { return std::array{p.c[0], p.c[1], p.c[2]}; };
-    for (int y = 0; y < 5; ++y) EXPECT_EQ(three(all.at(5, y)), three(all.at(4, y))) << y;
-    for (int x = 0; x < 5; ++x) EXPECT_EQ(three(all.at(x, 4)), three(all.at(x, 3))) << x;
-    const Bits corner = run("EMBOSS", {20}, bits, Region::rectangle(5, 4, 6, 5)); // the neighbour is not selected
-    EXPECT_EQ(three(corner.at(5, 4)), three(bits.at(4, 4)));
-}
-
-TEST(Neighbours, MarginsAndZeroRangesLeavePixelsAlone)
-{
-    const Bits bits = randomBits(20, 10, 5);
-    const struct {
-        std::string_view operation;
-        Arguments arguments;
-        Region region;
-    } rows[] = {
-        {"SHARPEN", {50}, Region::rectangle(3, 0, 5, 10)}, // two columns wide, and a margin of one
-        {"SOFTEN", {50}, Region::rectangle(0, 4, 20, 6)},
-        {"RankFilterN4", {0}, Region::rectangle(3, 0, 4, 10)},
-        {"DIFFUSE", {0, 0}, Region::ellipse(0, 0, 20, 10)},
-        {"PIXELIZE", {1}, Region::ellipse(0, 0, 20, 10)},
-        {"MaskFilter", {std::string("1 1 1/1 1 1/1 1 1"), 9.0, 0, 0, 0, true}, Region::rectangle(0, 0, 1, 10)},
-    };
-    for (const auto& r : rows)
-        EXPECT_TRUE(sameBits(bits, run(r.operation, r.arguments, bits, r.region))) << r.operation;
-}
-
 TEST(Neighbours, DiffuseAsksTheRegionWhereAPixelComesFrom)
 {
     Bits bits = flatBits(60, 60, 0, 0, 0);
@@ -125,18 +95,6 @@ TEST(Neighbours, DiffuseAsksTheRegionWhereAPixelComesFrom)
     EXPECT_GT(darkened, 0);
     EXPECT_GT(lit, 0);
     EXPECT_EQ(outside, 0);
-}
-
-TEST(Neighbours, DivisionsByZeroComeWithTheFirstPixelAlone)
-{
-    const Bits bits = randomBits(5, 5, 1);
-    const std::pair<std::string_view, Arguments> rows[] = {
-        {"SHARPEN", {108}}, {"EDGEENHANCE", {-1}}, {"SOFTEN", {105}},
-        {"PIXELIZE", {0}},  {"StuckiBW", {0}},     {"MaskFilter", {std::string("1"), 0.0, 0, 0, 0, false}}};
-    for (const auto& [name, arguments] : rows) {
-        EXPECT_THROW(run(name, arguments, bits, Region::rectangle(0, 0, 5, 5)), RuntimeError) << name;
-        EXPECT_TRUE(sameBits(bits, run(name, arguments, bits, Region()))) << name;
-    }
 }
 
 TEST(Neighbours, UnreadableMasksAreNamed)
