@@ -18,7 +18,7 @@ import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 LIST = os.path.join(ROOT, "tests", "mutations.txt")
-BUILD_LIMIT, TEST_LIMIT = 900, 300  # seconds
+BUILD_LIMIT, TEST_LIMIT = 900, 120  # seconds
 
 
 class Fault:

@@ -255,7 +255,10 @@ TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
     EXPECT_EQ(original, result("2x ORIGINAL"));
     result("50 50", 6, 4); // a run of sizings starts from its beginning
     result("20", 2, 2);
-    result("50 INVERT 50", 3, 2);
+    EXPECT_EQ(result("BitsResize(6,4) INVERT BitsResize(3,2)", 3, 2), result("50 INVERT 50", 3, 2));
+    const std::tuple<const char*, int, int> kReduced[] = {{"50", 63, 42}, {"33", 42, 28}, {"25", 32, 21},
+                                                          {"20", 25, 17}, {"15", 18, 12}, {"10", 14, 9}};
+    for (const auto& [word, width, height] : kReduced) result("BitsResize(126,84) " + std::string(word), width, height);
     result("x3 2x", 24, 18);
     result("A90", 9, 12);
     result("--select rect:2,1,8,6 CROP", 6, 5);

@@ -151,8 +151,9 @@ TEST(FileFound, MatchesWildcardsInTheLastPart)
     put(folder.filePath(QStringLiteral("a[1].dat")), {});
     QDir(folder.path()).mkdir(QStringLiteral("Temp"));
     const std::pair<const char*, bool> kCases[] = {
-        {"a[1].dat", true}, {"Temp", true}, {"b.dat", false}, {"*.dat", true}, {"*.bmp", false}, {"a?1?.dat", true},
-        {"a?.dat", false},  {"*.*", true},  {"a[1]*", true},  {"a[?", false},  {"*1].d*", true}, {"no/*", false},
+        {"a[1].dat", true}, {"Temp", true},    {"b.dat", false}, {"*.dat", true}, {"*.bmp", false},
+        {"a?1?.dat", true}, {"a?.dat", false}, {"*.*", true},    {"T*.*", true},  {"a[1]*", true},
+        {"a[?", false},     {"*1].d*", true},  {"no/*", false},
     };
     for (const auto& [name, found] : kCases)
         EXPECT_EQ(found, FileFound(folder.filePath(QString::fromLatin1(name)))) << name;

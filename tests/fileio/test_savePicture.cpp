@@ -208,7 +208,7 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
 {
     const Bits bits = flatBits(3, 3, 1, 2, 3);
     const QString target = write("target.png", "old");
-    chmod(QFile::encodeName(target).constData(), 0640);
+    chmod(QFile::encodeName(target).constData(), 0646);
     QFile::link(target, path("link.png"));
     QFile::link("later.png", path("dangling.png"));
     EXPECT_EQ(savePicture(platform, bits, path("link.png"), "png"), SaveResult::Written);
@@ -216,7 +216,7 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
     EXPECT_TRUE(load(target).ok());
     struct stat status;
     stat(QFile::encodeName(target).constData(), &status);
-    EXPECT_EQ(status.st_mode & 07777, 0640U);
+    EXPECT_EQ(status.st_mode & 07777, 0646U);
     EXPECT_EQ(savePicture(platform, bits, path("dangling.png"), "png"), SaveResult::Written);
     EXPECT_TRUE(load(path("later.png")).ok());
     EXPECT_TRUE(QFileInfo(path("dangling.png")).isSymLink());

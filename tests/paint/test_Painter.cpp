@@ -64,6 +64,15 @@ TEST_F(PainterCases, FillsAtTheirLimits)
     painter.BitsFill(20, 3, 0, 0, 100);
 }
 
+TEST_F(PainterCases, APictureIsPaintedOntoItselfAsItWas)
+{
+    bits = randomBits(20, 10, 4);
+    Bits copied = bits;
+    Painter(copied, selection, touched).BitsPaint(3, 2, Bits(copied), -1, 70, true);
+    painter.BitsPaint(3, 2, bits, -1, 70, true);
+    EXPECT_TRUE(sameBits(copied, bits));
+}
+
 TEST_F(PainterCases, ColoursAreReadInsideOnly)
 {
     EXPECT_EQ(painter.BitsGetPixel(3, 3), colourOf(100, 100, 100));
@@ -78,11 +87,14 @@ TEST_F(PainterCases, FaultsAreRaisedAndFarAwayIsHarmless)
     EXPECT_THROW(painter.BitsAirbrush(3, 3, 1, 50, 50, 50, 0), RuntimeError);
     EXPECT_THROW(painter.BitsBrush(3, 3, 5, 300, 0xFFFFFF), RuntimeError);
     EXPECT_THROW(painter.BitsSoften(3, 3, 5, 140, true), RuntimeError);
+    for (int i = 0; i < 2; ++i) // half a table is no table
+        EXPECT_THROW(painter.BitsPaint(3, 3, randomBits(9, 9, 1), -1, 300, true), RuntimeError);
     EXPECT_THROW(painter.BitsBrushLine(0, 0, 40000, 0, 5, 50, 0, 0), RuntimeError);
     EXPECT_THROW(painter.BitsBrushLine(0, 0, 40, 0, 0, 50, 0, 0), RuntimeError);
     const int far = 2000000000;
     painter.BitsBrush(-far, far, 300, 50, 0);
     painter.BitsBrush(3, 3, -5, 50, 0);
+    painter.BitsEllipse(-far, 0, far / 2, far / 2, 0, 50);
     painter.BitsPaint(far, -far, randomBits(9, 9, 1), -1, 50, true);
     painter.BitsPaint(-far, 0, randomBits(9, 9, 1), -1, 50, true);
     EXPECT_EQ(changed(), 0);

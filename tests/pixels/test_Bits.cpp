@@ -37,6 +37,14 @@ TEST(Bits, ANewBufferIsZeroEvenInARecycledBlock)
     for (std::size_t i = 0; i < fresh.sizeInBytes(); ++i) ASSERT_EQ(fresh.data()[i], 0) << i;
 }
 
+TEST(Bits, AreEqualInEveryByte)
+{
+    Bits a(3, 2), b(3, 2);
+    EXPECT_TRUE(a == b);
+    b.at(4, 3).c[3] = 1; // the last one of the margin
+    EXPECT_FALSE(a == b);
+}
+
 TEST(Bits, SizesBelowOneAreEmpty)
 {
     EXPECT_TRUE(Bits(0, 5).isNull());

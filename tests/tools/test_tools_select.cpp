@@ -53,6 +53,16 @@ TEST_F(SelectTool, PixelsAreTakenAsTheyArePassed)
     EXPECT_EQ(rects(), (Words{3, 3, 4, 4, 9, 9, 10, 10}));
 }
 
+TEST_F(SelectTool, TwoCornersAreNoPolygon)
+{
+    frame.setup_.SelectionShape = 2;
+    press({10, 10});
+    move({30, 10});
+    tools->keyDown(Tools::Space);
+    release({30, 10});
+    EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})) << "it stays open";
+}
+
 TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
 {
     frame.setup_.SelectionShape = 2;
@@ -216,6 +226,11 @@ TEST_F(MoveTool, ADocumentThatClosesInAPressIsLetGo)
 
 TEST_F(MoveTool, WithoutAPictureNothingHappens)
 {
+    surface.onActivate = [this] { document.Clear(); };
+    press({15, 15}); // it goes away just now
+    EXPECT_FALSE(tools->ToolDown());
+    surface.onActivate = nullptr;
+    open(randomBits(60, 50, 3));
     press({15, 15});
     document.Clear();
     asked();

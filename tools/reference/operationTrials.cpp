@@ -130,6 +130,7 @@ std::vector<Edge> extremes()
             rows.push_back({"Halftone", {3, other, level}});
         }
     }
+    for (int i = 0; i < 24; ++i) rows.push_back({"Blurs", {2 + i % 4}}); // some reach beyond the margin
     for (int weight = 0; weight <= 50; ++weight)
         for (const std::string_view name : {"EMBOSS", "ENGRAVE"}) rows.push_back({name, {weight}});
     const std::string wide = "1 2 3 4 5 6 7/0 0 0 0 0 0 0/1 1 1 1 1 1 1/0 0 9 0 0 0 0/1 1 1 1 1 1 1/0 0 0 0 0 0 0/"
