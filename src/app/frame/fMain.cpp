@@ -52,6 +52,7 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
     });
     buildMenus();
     buildToolbars();
+    makeBoxes();
     showColors();
     refreshUndoState();
     qApp->installEventFilter(this); // moves of the pointer, for the side pane

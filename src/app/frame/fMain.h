@@ -121,7 +121,9 @@ class fMain final : public QMainWindow, public Frame {
     void loadLayout();
     void saveLayout();
     void toggleBar(int index);
+    void makeBoxes();
     void setBox(int index, QWidget* box); // 0 colours, 1 textures, 2 clipboard
+    void showBox(int index);
     void toggleBox(int index);
     void showBoxes();
     void toggleStatusBar();

@@ -6,11 +6,13 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "seams/Platform.h"
+#include "ui/colour/fPalette.h"
+#include "ui/colour/fPicker.h"
 #include "ui/panes/fToolPanes.h"
-#include <QColorDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTimer>
 #include <QToolBar>
 
@@ -19,6 +21,7 @@ namespace velara {
 namespace {
 
 constexpr const char* kSection = "VeStu";
+constexpr const char* kPlaced = "placed";
 constexpr int kLayoutVersion = 1; // raised when toolbars come or go, so that an old layout is not forced on new bars
 
 } // namespace
@@ -91,27 +94,46 @@ bool Setup::*boxFlag(int index)
 
 } // namespace
 
+void fMain::makeBoxes() { setBox(0, new fPalette(*this, this)); }
+
 void fMain::setBox(int index, QWidget* box) { boxes_[std::size_t(index)] = box; }
+
+/// A box keeps the place that the user gave it; the first time it stands at the frame's right.
+void fMain::showBox(int index)
+{
+    QWidget* box = boxes_[std::size_t(index)];
+    if (!box) return;
+    if (!box->property(kPlaced).toBool()) {
+        const int left = width() - box->width() - toolPane_->width() * 12 / 5;
+        const int top = centralWidget()->y() + (index == 0 ? 550 / 15 : 0);
+        box->move(mapToGlobal(QPoint(std::max(0, left), top)));
+        box->setProperty(kPlaced, true);
+    }
+    box->show();
+    items_["VIEWS_" + QString::number(4 + index)]->setChecked(true);
+}
 
 void fMain::toggleBox(int index)
 {
     bool& visible = setup_.*boxFlag(index);
     visible = !visible;
-    if (QWidget* box = boxes_[std::size_t(index)]) box->setVisible(visible);
+    QWidget* box = boxes_[std::size_t(index)];
+    if (visible) {
+        showBox(index);
+        if (box) box->activateWindow(); // who asks for it wants to use it
+    } else if (box) {
+        const QPoint place = box->pos(); // a window manager may place it anew otherwise
+        box->hide();
+        box->move(place);
+    }
     items_["VIEWS_" + QString::number(4 + index)]->setChecked(visible);
 }
 
 void fMain::showBoxes()
 {
-    for (int i : {0, 1, 2, 0}) { // the colours once more, so that they end up in front
-        QWidget* box = boxes_[std::size_t(i)];
-        if (!box || !(setup_.*boxFlag(i))) continue;
-        const int left = width() - box->width() - toolPane_->width() * 12 / 5;
-        const int top = centralWidget()->y() + (i == 0 ? 550 / 15 : 0);
-        box->move(mapToGlobal(QPoint(std::max(0, left), top)));
-        box->show();
-        items_["VIEWS_" + QString::number(4 + i)]->setChecked(true);
-    }
+    for (int i : {0, 1, 2, 0}) // the colours once more, so that they end up in front
+        if (setup_.*boxFlag(i)) showBox(i);
+    if (boxes_[0]) boxes_[0]->raise();
 }
 
 // --- Side pane
@@ -148,6 +170,10 @@ void fMain::seekSidePane(QPoint at)
 
 bool fMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Close &&
+        event->spontaneous()) // a box closed by its own cross: the menu's mark goes too
+        for (int i = 0; i < int(boxes_.size()); ++i)
+            if (watched == boxes_[std::size_t(i)] && setup_.*boxFlag(i)) toggleBox(i);
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);
@@ -206,14 +232,22 @@ void fMain::toolClicked(const QString& key)
     }
 }
 
-void fMain::showColors() { toolPane_->setColors(setup_.ForeColor, setup_.BackColor); }
+void fMain::showColors()
+{
+    toolPane_->setColors(setup_.ForeColor, setup_.BackColor);
+    if (auto* palette = qobject_cast<fPalette*>(boxes_[0])) palette->showColors();
+}
 
 std::optional<Colour> fMain::pickColour(Colour start, const QString& what, QWidget* over)
 {
-    const QColor picked = QColorDialog::getColor({redOf(start), greenOf(start), blueOf(start)}, over, what,
-                                                 QColorDialog::DontUseNativeDialog);
-    if (!picked.isValid()) return std::nullopt;
-    return colourOf(picked.red(), picked.green(), picked.blue());
+    const QPointer<fPicker> picker = new fPicker(platform_, over);
+    picker->setAccessibleDescription(what);
+    picker->LoadColorDialog(start);
+    const bool taken = picker->exec() == QDialog::Accepted;
+    if (!picker) return std::nullopt; // the window below went, and it with it
+    const Colour colour = picker->colour();
+    delete picker;
+    return taken ? std::optional(colour) : std::nullopt;
 }
 
 void fMain::wellClicked(int index)

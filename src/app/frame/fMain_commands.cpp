@@ -116,7 +116,7 @@ constexpr Command kActions[] = {
     {"@BAR4",         Free, [](fMain& f) { f.toggleBar(4); }},
     {"@BAR5",         Free, [](fMain& f) { f.toggleBar(5); }},
     {"@BAR6",         Free, [](fMain& f) { f.toggleBar(6); }},
-    {"@COLORBOX",     Free, kLater},
+    {"@COLORBOX",     Free, [](fMain& f) { f.toggleBox(0); }},
     {"@TEXTURESBOX",  Free, kLater},
     {"@CLIPBOARDBOX", Free, kLater},
     {"@STATUSBAR",    Free, [](fMain& f) { f.toggleStatusBar(); }},

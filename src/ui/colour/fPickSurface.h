@@ -1,0 +1,58 @@
+// fPickSurface: a picture of colours to pick from, by mouse and by keys: the plane and the strip of the colour box, the
+// field and the strip of the picker. Knows no colour; it tells places.
+#pragma once
+#include <QImage>
+#include <QWidget>
+
+namespace velara {
+
+class fPickSurface final : public QWidget {
+    Q_OBJECT
+  public:
+    enum class Mark { None, Ring, Arrows };
+    struct Look {
+        QSizeF cell; // screen pixels that a pixel of the picture takes
+        QSize shown; // how many of them are shown; the pointer reaches the others from outside
+        Mark mark;   // arrows stand in a margin of kArrow at both sides
+    };
+    static constexpr int kArrow = 8, kEdge = 2; // kEdge: the sunken frame
+
+    fPickSurface(const QString& name, const QString& accessibleName, const Look& look, QWidget* parent);
+
+    void setImage(const QImage& image);
+    const QImage& image() const { return image_; }
+    /// Where the mark stands, and where the keys start from.
+    void setPlace(QPoint place);
+    QPoint place() const { return place_; }
+    /// What is picked, in words for screen readers.
+    void describe(const QString& text);
+
+  signals:
+    void picked(QPoint place); // pressed, dragged to, or reached by arrow keys; within the picture
+    void clicked();            // the button went up again; Space
+    void doubleClicked();
+    void entered();             // Enter
+    void hovered(QPoint place); // the pointer is over it
+    void left();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    QRect surface() const; // inside the frame
+    QPoint placeAt(QPointF at) const;
+    void pick(QPoint place);
+    void drawMark(class QPainter& painter) const;
+
+    Look look_;
+    QImage image_;
+    QPoint place_;
+};
+
+} // namespace velara

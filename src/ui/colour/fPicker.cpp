@@ -1,0 +1,218 @@
+// fPicker: what the picker does. Its controls are made in fPicker_controls.cpp.
+#include "ui/colour/fPicker.h"
+#include "seams/Platform.h"
+#include "ui/colour/fCellGrid.h"
+#include "ui/colour/fColourCell.h"
+#include "ui/colour/fPickSurface.h"
+#include "ui/colour/userColourFile.h"
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTimer>
+
+namespace velara {
+
+namespace {
+
+/// A way to count a colour in three numbers: letters, units, and the parts that stand behind them. Of the inverted
+/// ones 255 less the number is shown.
+struct Model {
+    const char* letters[3];
+    const char* units[3];
+    Part first;
+    bool inverted;
+};
+constexpr Model kModels[] = {
+    {{"R", "G", "B"}, {"", "", ""}, Part::Red, false},
+    {{"C", "M", "Y"}, {"", "", ""}, Part::Red, true},
+    {{"H", "S", "B"}, {"°", "%", "%"}, Part::Hue, false},
+};
+
+Part partOf(const Model& model, int row) { return static_cast<Part>(static_cast<int>(model.first) + row); }
+
+} // namespace
+
+fPicker::fPicker(Platform& platform, QWidget* parent) : QDialog(parent), platform_(platform)
+{
+    setObjectName(QStringLiteral("fPicker"));
+    setWindowTitle(tr("Color Box"));
+    setModal(true);
+    makeControls();
+    showModel();
+    LoadColorDialog(picked_.colour());
+}
+
+void fPicker::LoadColorDialog(Colour color)
+{
+    picked_.setColour(color);
+    Label2_->setColour(color);
+    lblADDColor_->setColour(color);
+    DrawPicker();
+}
+
+/// Field, strip, boxes and wells show the colour.
+void fPicker::DrawPicker()
+{
+    const Hsb& hsb = picked_.hsb();
+    field_->setImage(pickerField(strip_, hsb));
+    field_->setPlace(placeOnField(strip_, hsb));
+    stripBar_->setImage(pickerStrip(strip_, hsb));
+    stripBar_->setPlace({0, rowOnStrip(strip_, hsb)});
+    lblSelColor_->setColour(colour());
+    field_->describe(colourText(colour()));
+    stripBar_->describe(colourText(colour()));
+    for (const Box& box : boxes_) box.edit->setText(QString::number(box.shown()));
+    showUnder(colour());
+}
+
+void fPicker::setHsb(const Hsb& hsb)
+{
+    picked_.setHsb(hsb);
+    DrawPicker();
+}
+
+void fPicker::setColour(Colour colour)
+{
+    picked_.setColour(colour);
+    DrawPicker();
+}
+
+void fPicker::showUnder(Colour colour)
+{
+    status_->setText(QStringLiteral("R: %1\nG: %2\nB: %3\nHex: #%4")
+                         .arg(redOf(colour))
+                         .arg(greenOf(colour))
+                         .arg(blueOf(colour))
+                         .arg(GetHexVal(redOf(colour), greenOf(colour), blueOf(colour))));
+}
+
+// --- Boxes
+
+int fPicker::modelPart(int row) const
+{
+    const Model& model = kModels[model_->currentIndex()];
+    const int shown = picked_.shown(partOf(model, row));
+    return model.inverted ? 255 - shown : shown;
+}
+
+void fPicker::takeModelPart(int row, int value)
+{
+    const Model& model = kModels[model_->currentIndex()];
+    picked_.type(partOf(model, row), model.inverted ? 255 - value : value);
+}
+
+void fPicker::showModel()
+{
+    const Model& model = kModels[model_->currentIndex()];
+    constexpr int kFirst = 3; // of the boxes behind those for hue, saturation and brightness
+    for (int row = 0; row < 3; ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        letters_[at]->setText(QLatin1String(model.letters[row]));
+        units_[at]->setText(QString::fromUtf8(model.units[row]));
+        boxes_[kFirst + at].most = kMostOfPart[static_cast<std::size_t>(partOf(model, row))];
+    }
+    DrawPicker();
+}
+
+/// The user is done with a box. What is no number of its range is refused, and the box keeps the keys: false.
+bool fPicker::leaveBox(std::size_t index)
+{
+    const Box& box = boxes_[index];
+    if (refusing_ || !box.edit->isVisible()) return true;
+    bool whole = false;
+    const int value = box.edit->text().trimmed().toInt(&whole);
+    if (whole && value >= 0 && value <= box.most) {
+        if (value == box.shown()) return true;
+        box.take(value);
+        DrawPicker();
+        return true;
+    }
+    refusing_ = true;
+    const QPointer<fPicker> alive = this;
+    platform_.message(QStringLiteral("Velara Studio"),
+                      QStringLiteral("Enter an Integer Value Between 0 and %1").arg(box.most), Icon::Information);
+    if (!alive) return false;
+    refusing_ = false;
+    box.edit->setFocus();
+    box.edit->selectAll();
+    return false;
+}
+
+/// OK takes what stands in the boxes, too; Exit and Esc ask nothing.
+void fPicker::takeAndClose()
+{
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
+        if (boxes_[i].edit->isModified() && !leaveBox(i)) return;
+    accept();
+}
+
+bool fPicker::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto box = std::ranges::find(boxes_, watched, [](const Box& b) -> const QObject* { return b.edit; });
+    if (box == boxes_.end()) return QDialog::eventFilter(watched, event);
+    const auto index = static_cast<std::size_t>(box - boxes_.begin());
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            leaveBox(index);
+            return true; // the dialog stays
+        }
+    }
+    // Once the keys have gone where they go: a message while they are on their way would catch them.
+    if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
+        QTimer::singleShot(0, this, [this, index] {
+            if (isVisible() && !boxes_[index].edit->hasFocus() && !Command2_->hasFocus()) leaveBox(index);
+        });
+    return QDialog::eventFilter(watched, event);
+}
+
+// --- The view of cells
+
+void fPicker::togglePreset()
+{
+    const bool toCells = view_ == Picker;
+    Command3_->setText(toCells ? tr("&Picker") : tr("&Preset"));
+    views_->setCurrentIndex(toCells);
+    sides_->setCurrentIndex(toCells);
+    if (!toCells) {
+        view_ = Picker;
+        return DrawPicker();
+    }
+    lblADDColor_->setColour(colour());
+    showPreset(cmbPreset_->currentIndex());
+    cells_->setFocus();
+}
+
+void fPicker::showPreset(int entry)
+{
+    view_ = entry == 0 ? UserList : SafePalette;
+    if (view_ == UserList) loadUserColours(platform_.programFolder(), UserColors_);
+    for (int cell = 1; cell <= kCells; ++cell)
+        cells_->setColour(cell, view_ == UserList ? UserColors_[static_cast<std::size_t>(cell)] & 0xFFFFFF
+                                                  : safeColour(cell));
+    for (QWidget* widget : std::initializer_list<QWidget*>{cmdADD_, lblADDColor_, addHint_})
+        widget->setVisible(view_ == UserList);
+    cells_->select(cells_->selected());
+}
+
+void fPicker::selectCell(int cell)
+{
+    if (const auto chosen = cells_->colour(cell)) setColour(*chosen);
+}
+
+void fPicker::addToList()
+{
+    const int cell = cells_->selected();
+    UserColors_[static_cast<std::size_t>(cell)] = lblADDColor_->colour();
+    cells_->setColour(cell, lblADDColor_->colour());
+    cells_->select(cell);
+    saveUserColours(platform_.programFolder(), UserColors_);
+}
+
+} // namespace velara

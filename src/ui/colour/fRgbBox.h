@@ -1,0 +1,33 @@
+// fRgbBox: a box for a whole number from 0 to 255 that can be dragged up and down like a spin control.
+#pragma once
+#include <QLineEdit>
+
+namespace velara {
+
+class fRgbBox final : public QLineEdit {
+    Q_OBJECT
+  public:
+    static constexpr int kMost = 255;
+
+    fRgbBox(const QString& name, const QString& accessibleName, QWidget* parent);
+
+    int value() const { return text().toInt(); }
+    void setValue(int value);
+
+  signals:
+    /// The box was edited; it holds a number of its range.
+    void edited();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void rule();
+
+    int lastY_ = 0; // row of the pointer at the last step of a drag
+};
+
+} // namespace velara

@@ -1,0 +1,235 @@
+// The picker with real controls, used as a person does.
+#include "support/RecordingPlatform.h"
+#include "ui/colour/fCellGrid.h"
+#include "ui/colour/fColourCell.h"
+#include "ui/colour/fPickSurface.h"
+#include "ui/colour/fPicker.h"
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QtTest>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace velara {
+namespace {
+
+struct Picker : ::testing::Test {
+    RecordingPlatform platform;
+    fPicker picker{platform};
+
+    void SetUp() override
+    {
+        picker.show();
+        picker.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&picker));
+    }
+    template <class Widget> Widget* find(const char* name)
+    {
+        auto* found = picker.findChild<Widget*>(QLatin1String(name));
+        if (!found) throw std::runtime_error(std::string("no control ") + name);
+        return found;
+    }
+    void click(const char* name)
+    {
+        auto* widget = find<QWidget>(name);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
+    }
+    void type(const char* name, const QString& text)
+    {
+        auto* box = find<QLineEdit>(name);
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+    }
+    QString shown(const char* name) { return find<QLineEdit>(name)->text(); }
+    QString all()
+    {
+        QStringList list;
+        for (const char* box : {"txtH", "txtS", "txtB", "Text1", "Text2", "Text3"}) list << shown(box);
+        return list.join(' ');
+    }
+    QString file() { return platform.folder.filePath("usercolors.cps"); }
+    QByteArray fileText()
+    {
+        QFile f(file());
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    void put(const QByteArray& text)
+    {
+        QFile f(file());
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(text);
+    }
+};
+
+TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)
+{
+    EXPECT_EQ("0 100 100 255 0 0", all()) << "as it starts";
+    type("txtH", "360");
+    EXPECT_EQ("360 100 100 255 0 0", all());
+    type("txtH", "120");
+    EXPECT_EQ("120 100 100 0 255 0", all());
+    type("Text1", "255");
+    EXPECT_EQ("60 100 100 255 255 0", all());
+    type("txtB", "50");
+    EXPECT_EQ("60 100 50 128 128 0", all());
+    constexpr struct {
+        const char *box, *text, *most;
+    } kBad[] = {{"txtH", "361", "360"}, {"txtS", "101", "100"}, {"txtB", "-1", "100"},
+                {"Text2", "x7", "255"}, {"Text3", "", "255"},   {"txtH", "1.5", "360"}};
+    for (const auto& bad : kBad) {
+        const QString before = shown(bad.box);
+        platform.log.clear();
+        if (*bad.text)
+            type(bad.box, bad.text);
+        else {
+            find<QLineEdit>(bad.box)->clear();
+            QTest::keyClick(find<QLineEdit>(bad.box), Qt::Key_Enter);
+        }
+        ASSERT_EQ(1u, platform.log.size()) << bad.text;
+        EXPECT_EQ(std::string("message: Velara Studio: Enter an Integer Value Between 0 and ") + bad.most,
+                  platform.log[0]);
+        EXPECT_TRUE(find<QLineEdit>(bad.box)->hasFocus());
+        EXPECT_EQ(0x008080, picker.colour());
+        type(bad.box, before);
+    }
+    EXPECT_TRUE(picker.isVisible()) << "Enter in a box leaves the dialog open";
+}
+
+TEST_F(Picker, LeavingABoxAsksButExitDoesNot)
+{
+    auto* box = find<QLineEdit>("txtH");
+    box->setFocus();
+    box->setText("500");
+    find<QLineEdit>("txtS")->setFocus(Qt::TabFocusReason);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(1u, platform.log.size());
+    EXPECT_TRUE(box->hasFocus());
+    box->setText("500");
+    click("Command2");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(1u, platform.log.size());
+    EXPECT_EQ(QDialog::Rejected, picker.result());
+    EXPECT_FALSE(picker.isVisible());
+}
+
+TEST_F(Picker, OkTakesWhatStandsInABox)
+{
+    auto* box = find<QLineEdit>("Text3");
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, "77");
+    QTest::keyClick(&picker, Qt::Key_K, Qt::AltModifier);
+    click("Command1");
+    EXPECT_EQ(QDialog::Accepted, picker.result());
+    EXPECT_EQ(colourOf(255, 0, 77), picker.colour());
+}
+
+TEST_F(Picker, FieldAndStripFollowMouseAndKeysInEachOfTheThreeWays)
+{
+    auto *field = find<fPickSurface>("field"), *strip = find<fPickSurface>("strip");
+    const auto press = [](fPickSurface* on, int x, int y) {
+        const int side = fPickSurface::kEdge + (on->objectName() == "strip" ? fPickSurface::kArrow : 0);
+        QTest::mouseClick(on, Qt::LeftButton, {}, {x + side, y + fPickSurface::kEdge});
+    };
+    press(strip, 4, 85); // hue 120
+    press(field, 255, 0);
+    EXPECT_EQ("120 100 100 0 255 0", all());
+    EXPECT_EQ(QPoint(255, 0), field->place());
+    QTest::keyClick(field, Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ("120 96 100 10 255 10", all());
+    click("optS"); // hue along x, brightness up
+    EXPECT_EQ(QPoint(85, 0), field->place());
+    press(strip, 4, 0);
+    press(field, 0, 255);
+    EXPECT_EQ("0 100 0 0 0 0", all());
+    click("optB"); // saturation up
+    press(strip, 4, 0);
+    EXPECT_EQ("0 100 100 255 0 0", all());
+    EXPECT_EQ(QPoint(0, 0), field->place());
+    QTest::mouseMove(field, {2 + 85, 2 + 255});
+    EXPECT_EQ("R: 255\nG: 255\nB: 255\nHex: #FFFFFF", find<QLabel>("lblStatus")->text());
+}
+
+TEST_F(Picker, ModelsRewriteTheLetters)
+{
+    find<QComboBox>("cmbModel")->setCurrentIndex(1);
+    EXPECT_EQ("CMY", find<QLabel>("lblR")->text() + find<QLabel>("lblG")->text() + find<QLabel>("lblB")->text());
+    EXPECT_EQ("0 100 100 0 255 255", all());
+    type("Text1", "55");
+    EXPECT_EQ(colourOf(200, 0, 0), picker.colour());
+    find<QComboBox>("cmbModel")->setCurrentIndex(2);
+    type("Text1", "240");
+    EXPECT_EQ(colourOf(0, 0, 200), picker.colour());
+    type("Text1", "361");
+    EXPECT_EQ("message: Velara Studio: Enter an Integer Value Between 0 and 360", platform.log.back());
+}
+
+TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
+{
+    QByteArray list;
+    for (int i = 0; i < 20; ++i) list += " " + QByteArray::number(i * 1000) + "\r\n";
+    put(list);
+    picker.LoadColorDialog(0x123456);
+    click("Command3");
+    EXPECT_EQ("&Picker", find<QPushButton>("Command3")->text());
+    EXPECT_EQ(fPicker::UserList, picker.view());
+    auto* cells = find<fCellGrid>("cells");
+    EXPECT_EQ(3000, cells->colour(3));
+    EXPECT_EQ(0, cells->colour(20)) << "beyond the file: as it was";
+    QTest::mouseClick(cells, Qt::LeftButton, {}, {10 + 18 + 5, 15}); // cell 2
+    EXPECT_EQ(2000, picker.colour());
+    QTest::keyClick(cells, Qt::Key_Down);
+    EXPECT_EQ(18, cells->selected());
+    click("cmdADD");
+    EXPECT_EQ(0x123456, cells->colour(18));
+    const QByteArray written = fileText();
+    EXPECT_EQ(225, written.count("\r\n"));
+    EXPECT_EQ(" 1193046", written.split('\r').at(18).trimmed().prepend(' '));
+
+    find<QComboBox>("cmbPreset")->setCurrentIndex(1);
+    EXPECT_EQ(fPicker::SafePalette, picker.view());
+    EXPECT_FALSE(find<QWidget>("cmdADD")->isVisible());
+    QTest::keyClick(cells, Qt::Key_End);
+    EXPECT_EQ(18000, picker.colour()) << "an empty cell picks nothing";
+    QTest::mouseDClick(cells, Qt::LeftButton, {}, {10 + 7 * 18 + 5, 10 + 13 * 18 + 5}); // 216
+    EXPECT_EQ(QDialog::Accepted, picker.result());
+    EXPECT_EQ(0xFFFFFF, picker.colour());
+}
+
+TEST_F(Picker, NoListFileHarms)
+{
+    auto* cells = find<fCellGrid>("cells");
+    click("Command3");
+    EXPECT_TRUE(QFile::exists(file())) << "made empty";
+    EXPECT_EQ(0, cells->colour(1));
+    const auto again = [&] {
+        find<QComboBox>("cmbPreset")->setCurrentIndex(1);
+        find<QComboBox>("cmbPreset")->setCurrentIndex(0);
+    };
+    put(QByteArray(3 << 20, '\0'));
+    again();
+    put(" 7\r\n 9\r\n");
+    again();
+    EXPECT_EQ(9, cells->colour(1));
+    QFile::remove(file());
+    QDir(platform.folder.path()).mkdir("usercolors.cps");
+    again();
+    EXPECT_EQ(9, cells->colour(1)) << "a folder: what was there stays";
+    click("cmdADD");
+    EXPECT_TRUE(QFileInfo(file()).isDir());
+    // A link that leads nowhere yet is not followed to make a file.
+    QDir(platform.folder.path()).rmdir("usercolors.cps");
+    const QString elsewhere = platform.folder.filePath("elsewhere");
+    ASSERT_EQ(0, symlink(qPrintable(elsewhere), qPrintable(file())));
+    again();
+    EXPECT_FALSE(QFile::exists(elsewhere));
+    EXPECT_TRUE(platform.log.empty()) << "silent in every case";
+}
+
+} // namespace
+} // namespace velara
