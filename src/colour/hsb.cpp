@@ -26,10 +26,15 @@ Hsb toHsb(Rgb colour)
 
 Rgb toRgb(const Hsb& colour)
 {
-    const double l = colour.b * (1 - colour.s / 2), room = std::min(l, 1 - l);
-    const double s = room > 0 ? (colour.b - l) / room : 0;
-    const double h = colour.h / 60;
-    return HSLToRGB(static_cast<float>(h > 5 ? h - 6 : h), static_cast<float>(std::min(s, 1.0)), static_cast<float>(l));
+    const double sixth = colour.h / 60;
+    const int sector = static_cast<int>(sixth) % 6;
+    const double part = sixth - std::floor(sixth), top = colour.b;
+    const double low = top * (1 - colour.s), falling = top * (1 - colour.s * part),
+                 rising = top * (1 - colour.s * (1 - part));
+    const double sectors[][3] = {{top, rising, low},  {falling, top, low}, {low, top, rising},
+                                 {low, falling, top}, {rising, low, top},  {top, low, falling}};
+    const auto byte = [](double v) { return roundEven(v * 255); };
+    return {byte(sectors[sector][0]), byte(sectors[sector][1]), byte(sectors[sector][2])};
 }
 
 void PickedColour::setColour(Colour colour)

