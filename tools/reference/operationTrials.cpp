@@ -223,7 +223,8 @@ void eachTrial(const std::string& name, const std::function<void(const Trial&)>&
     static const std::vector<Edge> kExtremes = extremes();
     for (const Edge& edge : kExtremes)
         if (edge.operation == name)
-            for (const Region& region : {Region::rectangle(0, 0, 37, 23), dice.region(37, 23), Region()}) {
+            for (const Region& region :
+                 {Region::rectangle(0, 0, 37, 23), Region::rectangle(8, 8, 20, 23), dice.region(37, 23), Region()}) {
                 const Bits bits = dice.bits(37, 23);
                 tell(kEdges, "extreme", bits, region, edge.arguments);
             }
