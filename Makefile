@@ -21,7 +21,7 @@ test: all check-format
 test-sanitize: setup
 	cmake --preset sanitize >/dev/null
 	cmake --build --preset sanitize
-	ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
+	ASAN_OPTIONS=detect_leaks=0:exitcode=99 UBSAN_OPTIONS=print_stacktrace=1:exitcode=99 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
 
 screenshots: all
 	cmake --build --preset release --target screenshots
