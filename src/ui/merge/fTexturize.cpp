@@ -169,8 +169,8 @@ void fTexturize::fillList()
 {
     const QDir folder(platform_.programFolder() + QStringLiteral("/Textures"));
     QStringList files = folder.entryList(kPattern, QDir::Files);
-    QCollator order;
-    order.setNumericMode(true); // Velara2 before Velara10
+    QCollator order(QLocale(QLocale::English)); // that of no language at all knows no numbers
+    order.setNumericMode(true);                 // Velara2 before Velara10
     std::ranges::sort(files, order);
     for (const QString& file : files) {
         auto* item = new QListWidgetItem(frameIcon(palette(), false), file, flTextures_);
