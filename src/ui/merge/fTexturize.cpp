@@ -39,7 +39,9 @@ QIcon iconOf(const Bits& bits)
     QPainter painter(&pixmap);
     const QImage image(small.row(0)->c, small.width(), small.height(), small.stride() * qsizetype(sizeof(Pixel)),
                        QImage::Format_RGB32);
-    painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2, image);
+    // The fourth byte of a picture would be taken for its opacity.
+    painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
+                      image.convertToFormat(QImage::Format_ARGB32));
     painter.end();
     return QIcon(pixmap);
 }

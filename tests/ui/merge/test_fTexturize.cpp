@@ -36,6 +36,8 @@ TEST(Texturize, ShowsWhatOkWillDoAndABrokenFileHarmsNothing)
     EXPECT_FALSE(ok->isEnabled()) << "the first one is broken";
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->item(0)->text().contains("can't be read"); }));
     EXPECT_EQ("Velara2.bmp", list->item(2)->text());
+    const auto thumbnail = [&] { return list->item(2)->icon().pixmap(64, 64).toImage().pixelColor(32, 32); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return thumbnail().alpha() == 255; })) << "its thumbnail";
     const auto shownIsDone = [&] {
         cBitFilter filter;
         filter.setBits(picture);
