@@ -100,7 +100,9 @@ Step operationStep(const QString& text, const Operation& operation, Arguments ar
             [&operation, shared](const ReadPicture& read) {
                 for (std::size_t i = 0; i < shared->size(); ++i)
                     if (operation.parameters[i].type == ArgumentType::Picture)
-                        (*shared)[i] = read(QString::fromStdString(std::get<std::string>((*shared)[i])));
+                        (*shared)[i] = operation.takesSelf && std::get<std::string>((*shared)[i]) == "self"
+                                           ? Bits()
+                                           : read(QString::fromStdString(std::get<std::string>((*shared)[i])));
             }};
 }
 

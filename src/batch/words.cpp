@@ -1,6 +1,7 @@
 #include "batch/words.h"
 #include "commands/effects.h"
 #include "commands/filterDialogs.h"
+#include "document/texturing.h"
 #include <QStringList>
 #include <algorithm>
 
@@ -75,6 +76,7 @@ std::vector<const Operation*> stepOperations()
     std::vector<const Operation*> all;
     for (const Operation& operation : operations()) all.push_back(&operation);
     all.push_back(&applyTextureOperation());
+    all.push_back(&texturizeOperation());
     return all;
 }
 

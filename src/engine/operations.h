@@ -28,6 +28,7 @@ struct Operation {
     std::vector<Parameter> parameters;
     std::function<void(cBitFilter&, const Arguments&)> call;
     std::size_t optional = 0; // so many of the last parameters may be left out
+    bool takesSelf = false;   // a null picture among the arguments stands for the filter's own
 };
 
 std::span<const Operation> operations();

@@ -102,6 +102,7 @@ class fMain final : public QMainWindow, public Frame {
     void imageOrientation();
     void imageRotate();
     void imageResolution();
+    void imageTextures();
     void setZoom(int factor);
     void runPreset(const Preset& preset);
     /// The dialog of a filter, on the active document.

@@ -59,7 +59,7 @@ constexpr Command kCommands[] = {
     {"700",                  NeedsImage, [](fMain& f) { f.setZoom(7); }},
     {"IMAGEMERGING",         NeedsImage, kLater},
     {"PASTELAYERSBOX",       NeedsImage, kLater},
-    {"IMAGETEXTURES",        NeedsImage, kLater},
+    {"IMAGETEXTURES",        NeedsImage, [](fMain& f) { f.imageTextures(); }},
     {"IMAGERESOLUTION",      NeedsImage, [](fMain& f) { f.imageResolution(); }},
     {"IMAGESAVEOPTIONS",     NeedsImage, kLater},
     {"IMAGECOLORDEPTH",      NeedsImage, kLater},

@@ -8,6 +8,7 @@
 #include "ui/geometry/fResolution.h"
 #include "ui/geometry/fRotate.h"
 #include "ui/geometry/fSize.h"
+#include "ui/merge/fTexturize.h"
 
 namespace velara {
 
@@ -41,5 +42,21 @@ void fMain::canvasSize() { askAndReshape<fCanvas>("CANVASSIZE"); }
 void fMain::imageOrientation() { askAndReshape<fOrientation>("IMAGEORIENTATION"); }
 void fMain::imageRotate() { askAndReshape<fRotate>("IMAGEROTATE"); }
 void fMain::imageResolution() { askAndReshape<fResolution>("IMAGERESOLUTION"); }
+
+void fMain::imageTextures()
+{
+    const QPointer<fImage> image = GetActiveImage();
+    if (!image || !image->PictureExists()) return;
+    Texturing texturing;
+    {
+        fTexturize dialog(platform_, image->Bits(), image->document().Region.working(), this);
+        if (dialog.exec() != QDialog::Accepted) return;
+        texturing = dialog.texturing();
+    }
+    platform_.yield(); // the dialog goes before the long work
+    if (image && image == GetActiveImage())
+        runOnEngine(QStringLiteral("IMAGETEXTURES"),
+                    [&](cBitFilter& filter) { filter.setBits(texturized(filter, texturing)); });
+}
 
 } // namespace velara

@@ -1,0 +1,270 @@
+#include "ui/merge/fTexturize.h"
+#include "document/stockTextures.h"
+#include "pixels/RuntimeError.h"
+#include "seams/Platform.h"
+#include "ui/widgets/fPicture.h"
+#include <QCheckBox>
+#include <QCollator>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+#include <QSlider>
+
+namespace velara {
+
+namespace {
+
+constexpr QSize kThumbnail{64, 64}, kChosen{112, 112}, kPreview{340, 280};
+const QStringList kPattern{QStringLiteral("*.bmp"), QStringLiteral("*.jpg"), QStringLiteral("*.gif")};
+
+template <class Widget> Widget* named(Widget* widget, const char* name, const QString& accessibleName)
+{
+    widget->setObjectName(QLatin1String(name));
+    widget->setAccessibleName(accessibleName);
+    return widget;
+}
+
+QIcon iconOf(const Bits& bits)
+{
+    const Bits small = fittingCopy(bits, kThumbnail);
+    QPixmap pixmap(kThumbnail);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const QImage image(small.row(0)->c, small.width(), small.height(), small.stride() * qsizetype(sizeof(Pixel)),
+                       QImage::Format_RGB32);
+    // The fourth byte of a picture would be taken for its opacity.
+    painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
+                      image.convertToFormat(QImage::Format_ARGB32));
+    painter.end();
+    return QIcon(pixmap);
+}
+
+/// An empty frame, crossed out where the file can't be read.
+QIcon frameIcon(const QPalette& palette, bool crossed)
+{
+    QPixmap pixmap(kThumbnail);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(QPen(palette.color(QPalette::PlaceholderText), 1));
+    const QRect frame(0, 0, kThumbnail.width() - 1, kThumbnail.height() - 1);
+    painter.drawRect(frame);
+    if (crossed) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawLine(frame.topLeft(), frame.bottomRight());
+        painter.drawLine(frame.topRight(), frame.bottomLeft());
+    }
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+fTexturize::fTexturize(Platform& platform, const Bits& picture, const Region& selection, QWidget* parent)
+    : QDialog(parent), platform_(platform), picture_(picture), selection_(selection)
+{
+    setObjectName(QStringLiteral("fTexturize"));
+    setWindowTitle(tr("Texturize"));
+    setModal(true);
+    auto* grid = new QGridLayout(this);
+    grid->setHorizontalSpacing(12);
+    grid->setSizeConstraint(QLayout::SetFixedSize);
+    grid->addWidget(makeList(), 0, 0, 2, 1);
+    grid->addWidget(makePreview(), 0, 1);
+    grid->addWidget(makeControls(), 1, 1);
+    previewTimer_.setSingleShot(true);
+    connect(&previewTimer_, &QTimer::timeout, this, &fTexturize::showPreview);
+    connect(&thumbnailTimer_, &QTimer::timeout, this, &fTexturize::nextThumbnail);
+    const bool written = writeStockTextures(platform_);
+    fillList();
+    if (!written && flTextures_->count() == 0) state_->setText(tr("The folder \"Textures\" can't be written to."));
+    changed();
+    showPreview();
+}
+
+QWidget* fTexturize::makeList()
+{
+    auto* box = new QWidget(this);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    flTextures_ = named(new QListWidget(box), "flTextures", tr("Textures"));
+    flTextures_->setIconSize(kThumbnail);
+    flTextures_->setUniformItemSizes(true);
+    flTextures_->setMinimumSize(210, 380);
+    txtTexture_ = named(new QLineEdit(box), "txtTexture", tr("Chosen texture"));
+    txtTexture_->setReadOnly(true);
+    column->addWidget(flTextures_);
+    column->addWidget(txtTexture_);
+    connect(flTextures_, &QListWidget::currentRowChanged, this, &fTexturize::choose);
+    return box;
+}
+
+QWidget* fTexturize::makePreview()
+{
+    auto* box = new QWidget(this);
+    auto* line = new QHBoxLayout(box);
+    line->setContentsMargins(0, 0, 0, 0);
+    iBack_ = new fPicture(QStringLiteral("iBack"), tr("Preview, pixel for pixel"), kPreview, box);
+    iBack_->setToolTip(iBack_->accessibleName());
+    line->addWidget(iBack_);
+    return box;
+}
+
+QWidget* fTexturize::makeControls()
+{
+    auto* box = new QWidget(this);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    iTexture_ = new fPicture(QStringLiteral("iTexture"), tr("The texture"), kChosen, box);
+    auto* weight = named(new QLabel(tr("Intensity"), box), "lblWeight", {});
+    sbWeight_ = named(new QSlider(Qt::Horizontal, box), "sbWeight", tr("Intensity"));
+    sbWeight_->setRange(0, kMostIntensity);
+    sbWeight_->setPageStep(10);
+    sbWeight_->setValue(texturing_.intensity);
+    weight->setBuddy(sbWeight_);
+    lblWeightV_ = named(new QLabel(box), "lblWeightV", tr("Intensity in percent"));
+    lblWeightV_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblWeightV_->setMinimumWidth(lblWeightV_->fontMetrics().horizontalAdvance(QStringLiteral("100%")) + 4);
+    auto* depth = named(new QLabel(tr("Depth "), box), "Label1", {});
+    cbDepth_ = named(new QComboBox(box), "cbDepth", tr("Depth"));
+    cbDepth_->addItems({tr("Emboss"), tr("Engrave")});
+    depth->setBuddy(cbDepth_);
+    chkUseImage_ = named(new QCheckBox(tr("Self-Texturized"), box), "chkUseImage", tr("Self-Texturized"));
+    state_ = named(new QLabel(box), "lblState", tr("State"));
+    state_->setWordWrap(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    const auto button = [&](const char* name, const QString& text, auto clicked) {
+        auto* made = named(new QPushButton(text, box), name, text);
+        connect(made, &QPushButton::clicked, this, clicked);
+        buttons->addWidget(made);
+        return made;
+    };
+    cmdOK_ = button("cmdOK", tr("OK"), &QDialog::accept);
+    cmdOK_->setDefault(true);
+    button("cmdCancel", tr("Cancel"), &QDialog::reject)->setAutoDefault(false);
+    grid->addWidget(iTexture_, 0, 0, 4, 1, Qt::AlignTop);
+    grid->addWidget(weight, 0, 1);
+    grid->addWidget(sbWeight_, 0, 2);
+    grid->addWidget(lblWeightV_, 0, 3);
+    grid->addWidget(depth, 1, 1);
+    grid->addWidget(cbDepth_, 1, 2, 1, 2);
+    grid->addWidget(chkUseImage_, 2, 1, 1, 3);
+    grid->addWidget(state_, 3, 1, 1, 3);
+    grid->addLayout(buttons, 4, 0, 1, 4);
+    grid->setColumnStretch(2, 1);
+    connect(sbWeight_, &QSlider::valueChanged, this, &fTexturize::changed);
+    connect(cbDepth_, &QComboBox::currentIndexChanged, this, &fTexturize::changed);
+    connect(chkUseImage_, &QCheckBox::toggled, this, &fTexturize::changed);
+    return box;
+}
+
+// --- Files
+
+void fTexturize::fillList()
+{
+    const QDir folder(platform_.programFolder() + QStringLiteral("/Textures"));
+    QStringList files = folder.entryList(kPattern, QDir::Files);
+    QCollator order(QLocale(QLocale::English)); // that of no language at all knows no numbers
+    order.setNumericMode(true);                 // Velara2 before Velara10
+    std::ranges::sort(files, order);
+    for (const QString& file : files) {
+        auto* item = new QListWidgetItem(frameIcon(palette(), false), file, flTextures_);
+        const QString stock = stockTextureName(file);
+        item->setToolTip(stock);
+        if (!stock.isEmpty()) item->setData(Qt::AccessibleTextRole, QString(file + QStringLiteral(", ") + stock));
+        item->setData(Qt::UserRole, folder.filePath(file));
+    }
+    flTextures_->setCurrentRow(0);
+    if (flTextures_->count() > 0) thumbnailTimer_.start(0);
+}
+
+/// One after the other, between the user's events.
+void fTexturize::nextThumbnail()
+{
+    thumbnailTimer_.stop(); // reading may handle events
+    if (thumbnails_ >= flTextures_->count()) return;
+    QListWidgetItem* item = flTextures_->item(thumbnails_++);
+    const QString path = item->data(Qt::UserRole).toString();
+    const QPointer<fTexturize> alive = this;
+    const LoadedPicture loaded = platform_.loadPicture(path, QFileInfo(path).suffix().toLower());
+    if (!alive) return;
+    item->setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
+    if (!loaded.ok()) {
+        item->setText(item->text() + tr(" (can't be read)"));
+        item->setToolTip(loaded.reason);
+        item->setForeground(palette().color(QPalette::PlaceholderText));
+    }
+    thumbnailTimer_.start(0);
+}
+
+void fTexturize::choose()
+{
+    const QListWidgetItem* item = flTextures_->currentItem();
+    if (!item) return;
+    const QString path = item->data(Qt::UserRole).toString();
+    txtTexture_->setText(QFileInfo(path).fileName());
+    const QPointer<fTexturize> alive = this;
+    const LoadedPicture loaded = platform_.loadPicture(path, QFileInfo(path).suffix().toLower());
+    if (!alive || flTextures_->currentItem() != item) return; // the user went on meanwhile
+    texture_ = loaded.bits;
+    unreadable_ = loaded.ok() ? QString() : tr("This file can't be read as a picture.");
+    iTexture_->showWhole(texture_);
+    changed();
+}
+
+// --- The relief
+
+bool fTexturize::ready() const
+{
+    const Bits& source = chkUseImage_->isChecked() ? picture_ : texture_;
+    return !source.isNull() && reliefFits(source.width(), source.height());
+}
+
+void fTexturize::changed()
+{
+    const bool own = chkUseImage_->isChecked();
+    texturing_ = {own ? Bits() : texture_, sbWeight_->value(), cbDepth_->currentIndex() == 1};
+    lblWeightV_->setText(QString::number(sbWeight_->value()) + u'%');
+    for (QWidget* widget : std::initializer_list<QWidget*>{flTextures_, txtTexture_, iTexture_})
+        widget->setEnabled(!own);
+    cmdOK_->setEnabled(ready());
+    if (ready())
+        state_->clear();
+    else if (own)
+        state_->setText(tr("A relief needs a picture of at least 2 x 2 pixels."));
+    else if (!unreadable_.isEmpty())
+        state_->setText(unreadable_);
+    else if (!texture_.isNull())
+        state_->setText(tr("A texture needs at least 2 x 2 pixels."));
+    if (!previewTimer_.isActive()) previewTimer_.start(0); // once for all changes that wait
+}
+
+/// The middle of what the relief is for.
+void fTexturize::showPreview()
+{
+    const Rect all = selection_.bounds();
+    const auto from = [](int first, int last, int size, int room) {
+        return std::clamp((first + last - room) / 2, 0, std::max(size - room, 0));
+    };
+    const int left = from(all.left, all.right, picture_.width(), kPreview.width());
+    const int top = from(all.top, all.bottom, picture_.height(), kPreview.height());
+    const Rect part{left, top, std::min(left + kPreview.width(), picture_.width()),
+                    std::min(top + kPreview.height(), picture_.height())};
+    try {
+        if (ready()) return iBack_->setBits(texturizedPart(picture_, selection_, texturing_, part));
+    } catch (const RuntimeError&) { // the picture as it is, then
+    }
+    cBitFilter crop;
+    crop.setBits(picture_);
+    crop.BitsCrop(picture_, part.left, part.top, part.right, part.bottom);
+    iBack_->setBits(crop.bits());
+}
+
+} // namespace velara

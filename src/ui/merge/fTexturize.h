@@ -1,0 +1,59 @@
+// fTexturize: gives the picture the relief of a texture file, or of itself. Shows a piece of the picture, pixel for
+// pixel, as OK will leave it. Changes nothing itself; after OK the frame does it.
+#pragma once
+#include "document/texturing.h"
+#include <QDialog>
+#include <QTimer>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QSlider;
+
+namespace velara {
+
+class Platform;
+class fPicture;
+
+class fTexturize final : public QDialog {
+    Q_OBJECT
+  public:
+    fTexturize(Platform& platform, const Bits& picture, const Region& selection, QWidget* parent = nullptr);
+
+    /// What to do after OK.
+    const Texturing& texturing() const { return texturing_; }
+
+  private:
+    QWidget* makeList();
+    QWidget* makePreview();
+    QWidget* makeControls();
+    void fillList();
+    void nextThumbnail();
+    void choose();
+    void changed();
+    void showPreview();
+    bool ready() const;
+
+    Platform& platform_;
+    const Bits picture_;
+    const Region selection_;
+    Texturing texturing_;
+    Bits texture_; // of the chosen file
+    QString unreadable_;
+    int thumbnails_ = 0; // so many entries of the list have theirs
+    QTimer thumbnailTimer_, previewTimer_;
+
+    QListWidget* flTextures_ = nullptr;
+    QLineEdit* txtTexture_ = nullptr;
+    fPicture *iTexture_ = nullptr, *iBack_ = nullptr;
+    QSlider* sbWeight_ = nullptr;
+    QLabel *lblWeightV_ = nullptr, *state_ = nullptr;
+    QCheckBox* chkUseImage_ = nullptr;
+    QComboBox* cbDepth_ = nullptr;
+    QPushButton* cmdOK_ = nullptr;
+};
+
+} // namespace velara

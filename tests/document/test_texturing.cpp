@@ -1,0 +1,124 @@
+// Reliefs, merging, and the stock textures.
+#include "document/merging.h"
+#include "document/stockTextures.h"
+#include "document/texturing.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include <QDir>
+#include <QFile>
+#include <cmath>
+#include <unistd.h>
+
+namespace velara {
+namespace {
+
+cBitFilter filterOver(const Bits& bits, const Region& region)
+{
+    cBitFilter filter;
+    filter.setBits(bits);
+    filter.setBitsRegion(region);
+    return filter;
+}
+
+TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
+{
+    const Bits picture = randomBits(60, 40, 1), texture = randomBits(13, 9, 2);
+    const Region selection = Region::ellipse(5, 3, 55, 38);
+    constexpr struct {
+        bool own, engrave;
+        int intensity, weight; // halves to the even neighbour
+    } kRows[] = {{false, false, 25, 2},
+                 {false, true, 100, 10},
+                 {false, false, 35, 4},
+                 {true, false, 25, 12},
+                 {true, true, 100, 50}};
+    for (const auto& row : kRows) {
+        const Bits& from = row.own ? picture : texture;
+        cBitFilter helper = filterOver(from, Region::rectangle(0, 0, from.width(), from.height()));
+        const Bits relief = row.engrave ? helper.ENGRAVE(row.weight) : helper.EMBOSS(row.weight);
+        cBitFilter filter = filterOver(picture, selection);
+        const Bits wanted = filter.Texturize(relief);
+        const Texturing texturing{row.own ? Bits() : texture, row.intensity, row.engrave};
+        EXPECT_TRUE(sameBits(wanted, texturized(filter, texturing))) << row.intensity;
+
+        // The piece that the dialog shows.
+        for (const Rect part : {Rect{20, 10, 50, 30}, Rect{0, 0, 30, 20}, Rect{30, 20, 60, 40}}) {
+            const Bits shown = texturizedPart(picture, selection, texturing, part);
+            int wrong = 0;
+            for (int y = 0; y < part.height(); ++y)
+                for (int x = 0; x < part.width(); ++x)
+                    wrong += shown.at(x, y) != wanted.at(part.left + x, part.top + y);
+            EXPECT_EQ(0, wrong) << row.own << row.intensity << " at " << part.left;
+        }
+    }
+    cBitFilter tiny = filterOver(Bits(1, 5), Region::rectangle(0, 0, 1, 5));
+    EXPECT_ANY_THROW(texturized(tiny, {}));
+    EXPECT_ANY_THROW(texturized(tiny, {Bits(1, 1)}));
+}
+
+TEST(Merging, TheViewShowsEverySoManyPixelsOfTheResult)
+{
+    const Bits picture = randomBits(90, 60, 3);
+    Bits overlay = flatBits(20, 14, 9, 8, 7);
+    overlay.at(3, 3) = {{1, 2, 3, 0}};
+    const Region selection = Region::ellipse(2, 2, 80, 58);
+    for (const Merging& m :
+         {Merging{overlay, 10, 7}, Merging{overlay, -5, -3, true, 30},
+          Merging{overlay, 4, 50, true, 0, colourOf(7, 8, 9)}, Merging{overlay, 95, 0}, Merging{Bits()}}) {
+        cBitFilter filter = filterOver(picture, selection);
+        const Bits whole = merged(filter, m), view = mergedView(picture, selection, m, {30, 20});
+        ASSERT_EQ(30, view.width());
+        for (int y = 0; y < 20; ++y)
+            for (int x = 0; x < 30; ++x)
+                for (int c = 0; c < 3; ++c)
+                    ASSERT_EQ(whole.at(3 * x, 3 * y).c[c], view.at(x, y).c[c]) << m.left << " at " << x << "," << y;
+    }
+}
+
+TEST(StockTextures, JoinOnToThemselves)
+{
+    ASSERT_GE(stockTextures().size(), 12u);
+    for (const StockTexture& texture : stockTextures()) {
+        const Bits bits = texture.draw();
+        ASSERT_EQ(kTextureSide, bits.width());
+        // What lies between two columns (rows), over the seam as anywhere.
+        const auto step = [&](bool across, int at) {
+            double sum = 0;
+            for (int k = 0; k < kTextureSide; ++k)
+                for (int c = 0; c < 3; ++c) {
+                    const int next = (at + 1) % kTextureSide;
+                    sum += std::abs(across ? bits.at(at, k).c[c] - bits.at(next, k).c[c]
+                                           : bits.at(k, at).c[c] - bits.at(k, next).c[c]);
+                }
+            return sum;
+        };
+        for (const bool across : {true, false}) {
+            double most = 0;
+            for (int at = 0; at < kTextureSide - 1; ++at) most = std::max(most, step(across, at));
+            EXPECT_LE(step(across, kTextureSide - 1), most * 1.1) << texture.name;
+        }
+    }
+}
+
+TEST(StockTextures, AreWrittenWhereNothingHasTheName)
+{
+    RecordingPlatform platform;
+    const QDir folder(platform.folder.filePath("Textures"));
+    ASSERT_TRUE(writeStockTextures(platform));
+    EXPECT_EQ(12, folder.entryList({"Velara*.bmp"}).size());
+    QFile own(folder.filePath("Velara3.bmp"));
+    ASSERT_TRUE(own.open(QIODevice::WriteOnly | QIODevice::Truncate) && own.write("mine") == 4);
+    own.close();
+    QFile::remove(folder.filePath("Velara4.bmp"));
+    QFile::remove(folder.filePath("Velara5.bmp"));
+    const QString elsewhere = platform.folder.filePath("elsewhere");
+    ASSERT_EQ(0, symlink(qPrintable(elsewhere), qPrintable(folder.filePath("Velara5.bmp"))));
+    ASSERT_TRUE(writeStockTextures(platform));
+    EXPECT_EQ(4, QFileInfo(folder.filePath("Velara3.bmp")).size());
+    EXPECT_TRUE(platform.loadPicture(folder.filePath("Velara4.bmp"), "bmp").ok());
+    EXPECT_FALSE(QFile::exists(elsewhere)) << "no link is followed";
+    EXPECT_EQ("Brick", stockTextureName("Velara4.bmp"));
+}
+
+} // namespace
+} // namespace velara
