@@ -1,5 +1,5 @@
 #include "bench.h"
-#include "support/argumentRanges.h"
+#include "support/typicalArguments.h"
 #include <cmath>
 #include <memory>
 

@@ -5,11 +5,18 @@ namespace velara {
 
 namespace {
 
-constexpr const char* kTypes[] = {"true|false", "whole", "number", "text", "file"}; // in the order of ArgumentType
-
 QString column(const QString& text, int width) { return QStringLiteral("  ") + text.leftJustified(width) + u' '; }
 
 QString asText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
+
+/// As in the operation's row: "Level:-300..300:20".
+QString described(const Parameter& p)
+{
+    if (p.type == ArgumentType::Boolean) return asText(p.name) + QStringLiteral(":true|false");
+    if (p.type == ArgumentType::Picture) return asText(p.name) + QStringLiteral(":file");
+    const QString usual = p.usual.empty() ? QString() : u':' + asText(p.usual);
+    return asText(p.name) + u':' + asText(p.values) + usual;
+}
 
 } // namespace
 
@@ -60,11 +67,11 @@ QString listText()
 {
     QString text = QStringLiteral("Command words\n");
     for (const Word& word : words()) text += column(asText(word.word), 20) + word.meaning + u'\n';
-    text += QStringLiteral("\nOperations\n");
+    text +=
+        QStringLiteral("\nOperations (NAME:VALUES:USUAL; singles have decimals, column, row and side count pixels)\n");
     for (const Operation* operation : stepOperations()) {
         QStringList parameters;
-        for (const Parameter& p : operation->parameters)
-            parameters += asText(p.name) + u':' + QLatin1String(kTypes[static_cast<int>(p.type)]);
+        for (const Parameter& p : operation->parameters) parameters += described(p);
         for (std::size_t i = 0; i < operation->optional; ++i) parameters[parameters.size() - 1 - qsizetype(i)] += u'?';
         text += QStringLiteral("  ") + asText(operation->name) + u'(' + parameters.join(u',') + QStringLiteral(")\n");
     }

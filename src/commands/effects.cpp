@@ -79,15 +79,17 @@ const Operation& applyTextureOperation()
 {
     static const Operation operation{
         "ApplyTexture",
-        {{"Index", ArgumentType::Integer}, {"Value", ArgumentType::Integer}, {"Texture", ArgumentType::Picture}},
-        [](cBitFilter& filter, const Arguments& arguments) {
+        {{"Index", ArgumentType::Integer, "1..33", "8"},
+         {"Value", ArgumentType::Integer, "1..100", "50"},
+         {"Texture", ArgumentType::Picture}},
+        1,
+        [](const Operation&, cBitFilter& filter, const Arguments& arguments) {
             constexpr Colour kWhite = 0xFFFFFF; // the current colour of a program that has been started once
             if (arguments.size() == 3)
                 applyTexturePicture(filter, std::get<Bits>(arguments[2]));
             else
                 ApplyTexture(filter, std::get<int>(arguments[0]), std::get<int>(arguments[1]), kWhite);
-        },
-        1};
+        }};
     return operation;
 }
 

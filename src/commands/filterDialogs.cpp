@@ -1,8 +1,10 @@
 #include "commands/filterDialogs.h"
+#include "engine/operationRows.h"
 #include "pixels/mHSLRGB.h"
 #include "pixels/numbers.h"
 #include <QString>
 #include <algorithm>
+#include <limits>
 
 namespace velara {
 
@@ -16,9 +18,23 @@ constexpr auto kTwoWells = E::SourceWell | E::TargetWell | E::PickColour;
 
 float fractionOfSide(const A& a) { return static_cast<float>(quotient(a.value[0], a.longerSide)); }
 
-constexpr FilterSlider whole(const char* caption, double least, double most, double byDefault)
+constexpr double kAsInRow = std::numeric_limits<double>::quiet_NaN();
+
+/// Over all that the row of the operation allows for the parameter, at its usual value unless told otherwise.
+constexpr FilterSlider of(const char* caption, std::string_view parameter, double byDefault = kAsInRow)
 {
-    return {caption, least, most, byDefault};
+    return {caption, parameter, kAsInRow, kAsInRow, byDefault};
+}
+/// Over a part of it.
+constexpr FilterSlider within(const char* caption, std::string_view parameter, double least, double most,
+                              double byDefault)
+{
+    return {caption, parameter, least, most, byDefault};
+}
+/// In a measure of its own.
+constexpr FilterSlider free(const char* caption, double least, double most, double byDefault)
+{
+    return {caption, "", least, most, byDefault};
 }
 
 constexpr std::array<std::string_view, 2> opens(std::string_view word = "", std::string_view other = "")
@@ -27,91 +43,114 @@ constexpr std::array<std::string_view, 2> opens(std::string_view word = "", std:
 }
 
 // clang-format off
-constexpr FilterRow kRows[] = { // number, title, sliders, option, extras, call, words
-    { 0, "Color [Colorize]", {{whole("Hue", 0, 100, 0), whole("Saturation", 0, 100, 50), whole("Luminosity", 0, 100, 100)}}, nullptr, E::None,
+constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, extras, call, words
+    { 0, "Color [Colorize]", "COLORIZE", {{free("Hue", 0, 100, 0), free("Saturation", 0, 100, 50), free("Luminosity", 0, 100, 100)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.COLORIZE(HueFromScale(roundEven(a.value[0] * 2.4)) / 40.0f, static_cast<float>(a.value[1] / 100.0), static_cast<float>(a.value[2] / 100.0)); }, opens("COLORIZE")},
-    { 1, "Adjust [Brightness]", {{whole("Level", -100, 250, 0)}}, nullptr, E::None,
+    { 1, "Adjust [Brightness]", "BRIGHTNESS", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.BRIGHTNESS(a.value[0]); }, opens("LIGHTCUSTOM", "BRIGHTNESS")},
-    { 2, "Adjust [Contrast]", {{whole("Level", -100, 250, 0)}}, nullptr, E::None,
+    { 2, "Adjust [Contrast]", "CONTRAST", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.CONTRAST(a.value[0]); }, opens("CONTRAST")},
-    { 3, "Adjust [Saturation]", {{whole("Level", -100, 250, 0)}}, nullptr, E::None,
+    { 3, "Adjust [Saturation]", "SATURATION", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.SATURATION(a.value[0]); }, opens("CUSTOMSATURATION")},
-    { 4, "Adjust [Gamma correction]", {{{"Gamma", 0, 2, 1, 0.01, 2, true}}}, nullptr, E::None,
+    { 4, "Adjust [Gamma correction]", "GammaCorrection", {{{"Gamma", "Level", 0, 2, 1, 0.01, 2, true}}}, nullptr, E::None,
       [](F& f, const A& a) { return f.GammaCorrection(a.value[0]); }, opens("GAMMA")},
-    { 5, "Definition [Diffuse]", {{whole("Horizontal range", 0, 50, 2), whole("Vertical range", 0, 50, 2)}}, nullptr, E::None,
+    { 5, "Definition [Diffuse]", "DIFFUSE", {{of("Horizontal range", "HorizontalRange"), of("Vertical range", "VerticalRange")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.DIFFUSE(a.value[0], a.value[1]); }, opens("CUSTOMDIFFUSE")},
-    { 6, "Adjust [Blur]", {{whole("Level", 0, 2, 0)}}, nullptr, E::None,
+    { 6, "Adjust [Blur]", "Blurs", {{of("Level", "Radius", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Blurs(a.value[0]); }, opens("CUSTOMBLUR")},
-    { 7, "Definition [Halftone]", {{whole("Radius", 1, 25, 1), whole("Definition", 0, 100, 50), whole("Intensity", 0, 100, 0)}}, nullptr, E::None,
+    { 7, "Definition [Halftone]", "Halftone", {{of("Radius", "Radius", 1), of("Definition", "Definition"), of("Intensity", "Intensity", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Halftone(a.value[0], a.value[1], a.value[2]); }, opens("HAFTONE")},
-    { 8, "Definition [Pixelaze]", {{whole("Pixel size", 1, 25, 2)}}, nullptr, E::None,
+    { 8, "Definition [Pixelaze]", "PIXELIZE", {{of("Pixel size", "Size")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.PIXELIZE(a.value[0]); }, opens("PIXELIZE")},
-    { 9, "Edges [Emboss]", {{whole("Weight", 0, 50, 10)}}, nullptr, E::None,
+    { 9, "Edges [Emboss]", "EMBOSS", {{of("Weight", "Weight")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.EMBOSS(a.value[0]); }, opens("CUSTOMEMBOSS")},
-    {10, "Edges [Engrave]", {{whole("Weight", 0, 50, 10)}}, nullptr, E::None,
+    {10, "Edges [Engrave]", "ENGRAVE", {{of("Weight", "Weight")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.ENGRAVE(a.value[0]); }, opens("CUSTOMENGRAVE")},
-    {11, "Edges [Contour]", {{whole("Weight", 0, 255, 255)}}, nullptr, E::TargetWell,
+    {11, "Edges [Contour]", "CONTOUR", {{of("Weight", "Level")}}, nullptr, E::TargetWell,
       [](F& f, const A& a) { return f.CONTOUR(a.value[0], a.colour[1]); }, opens("CUSTOMCONTOUR")},
-    {12, "Edges [Sketch]", {{whole("Weight", 0, 255, 255)}}, "B/W", E::TargetWell,
+    {12, "Edges [Sketch]", "SKETCH", {{within("Weight", "Level", 0, 255, 255)}}, "B/W", E::TargetWell,
       [](F& f, const A& a) { return f.SKETCH(a.value[0], a.option, a.colour[1]); }, opens("SKETCH")},
-    {13, "Edges [Threshold]", {{whole("Cut value", 0, 255, 128)}}, nullptr, E::None,
+    {13, "Edges [Threshold]", "Threshold", {{of("Cut value", "Level")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Threshold(a.value[0]); }, opens()},
-    {14, "Color [Isolate]", {{whole("Tolerance", 0, 200, 100)}}, nullptr, kTwoWells,
+    {14, "Color [Isolate]", "ISOLATE", {{of("Tolerance", "Tolerance")}}, nullptr, kTwoWells,
       [](F& f, const A& a) { return f.ISOLATE(a.colour[0], a.colour[1], a.value[0]); }, opens("ISOLATE")},
-    {15, "Color [Reduction]", {{whole("Level", 0, 255, 0)}}, nullptr, E::None,
+    {15, "Color [Reduction]", "Reduction", {{within("Level", "Level", 0, 255, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Reduction(a.value[0]); }, opens()},
-    {16, "Color [Replace]", {{whole("Tolerance", 0, 200, 100)}}, nullptr, kTwoWells,
+    {16, "Color [Replace]", "REPLACE", {{of("Tolerance", "Tolerance")}}, nullptr, kTwoWells,
       [](F& f, const A& a) { return f.REPLACE(a.colour[0], a.colour[1], a.value[0]); }, opens("REPLACE")},
-    {17, "Color [Replace Hue/Sat.]", {{whole("Hue Tolerance", 0, 100, 50), whole("Sat. Tolerance", 0, 100, 50), whole("Apply Tolerance", 0, 200, 100)}}, nullptr, kTwoWells,
+    {17, "Color [Replace Hue/Sat.]", "ReplaceHS", {{within("Hue Tolerance", "HueTolerance", 0, 100, 50), of("Sat. Tolerance", "SatTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
       [](F& f, const A& a) { return f.ReplaceHS(a.colour[0], a.colour[1], a.value[0], a.value[1], a.value[2]); }, opens("REPLACEHUESAT")},
-    {18, "Color [Replace Lum.]", {{whole("Lum. Tolerance", 0, 100, 50), whole("Apply Tolerance", 0, 200, 100)}}, nullptr, kTwoWells,
+    {18, "Color [Replace Lum.]", "ReplaceL", {{of("Lum. Tolerance", "LumTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
       [](F& f, const A& a) { return f.ReplaceL(a.colour[0], a.colour[1], a.value[0], a.value[1]); }, opens("REPLACELUMINOUS")},
-    {19, "Adjust [Sharpen]", {{whole("Level", 0, 100, 0)}}, nullptr, E::None,
+    {19, "Adjust [Sharpen]", "SHARPEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.SHARPEN(a.value[0]); }, opens("CUSTOMSHARPEN")},
-    {20, "Adjust [Soften]", {{whole("Level", 0, 100, 0)}}, nullptr, E::None,
+    {20, "Adjust [Soften]", "SOFTEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.SOFTEN(a.value[0]); }, opens("CUSTOMSOFTEN")},
-    {21, "Color [Shift]", {{whole("Shift", -255, 255, 0), whole("Tolerance", 0, 200, 100)}}, nullptr, E::SourceWell | E::PickColour,
+    {21, "Color [Shift]", "Shift", {{of("Shift", "Amount", 0), of("Tolerance", "Tolerance")}}, nullptr, E::SourceWell | E::PickColour,
       [](F& f, const A& a) { return f.Shift(a.colour[0], a.value[0], a.value[1]); }, opens("SHIFT")},
-    {22, "Color [Hue rotation]", {{whole("Offset", 0, 100, 0), whole("Saturation", 0, 100, 100)}}, nullptr, E::None,
+    {22, "Color [Hue rotation]", "RotateH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.RotateH(a.value[0], a.value[1]); }, opens("HUEROTATION")},
-    {23, "Color [Grey rotation]", {{whole("Offset", 0, 100, 0), whole("Steps", 0, 100, 25)}}, nullptr, E::None,
+    {23, "Color [Grey rotation]", "RotateL", {{of("Offset", "Offset", 0), of("Steps", "Steps")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.RotateL(a.value[0], a.value[1]); }, opens("GREYROTATION")},
-    {24, "Color [Hue stretch]", {{whole("Offset", 0, 100, 0), whole("Saturation", 0, 100, 100), whole("Stretch factor", 0, 100, 0)}}, nullptr, E::None,
+    {24, "Color [Hue stretch]", "StretchH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation"), of("Stretch factor", "Stretch", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.StretchH(a.value[0], a.value[1], a.value[2]); }, opens("HUESTRETCH")},
-    {25, "Color [RGB levels]", {{whole("Red", -255, 255, 0), whole("Green", -255, 255, 0), whole("Blue", -255, 255, 0)}}, nullptr, E::None,
+    {25, "Color [RGB levels]", "ShiftRGB", {{within("Red", "Red", -255, 255, 0), within("Green", "Green", -255, 255, 0), within("Blue", "Blue", -255, 255, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.ShiftRGB(a.value[0], a.value[1], a.value[2]); }, opens("RGBLEVELS")},
-    {26, "Color [RGB banks]", {}, nullptr, E::Banks,
+    {26, "Color [RGB banks]", "SwapRGB", {}, nullptr, E::Banks,
       [](F& f, const A& a) { return f.SwapRGB(a.channel[0], a.channel[1], a.channel[2], a.invert[0], a.invert[1], a.invert[2], a.kill[0] * 255, a.kill[1] * 255, a.kill[2] * 255); }, opens("RGBBANKS")},
-    {27, "Deformation [Lens]", {{whole("Diameter", 1, 100, 50), whole("Magnify factor", 0, 100, 50)}}, nullptr, E::PickCentre,
+    {27, "Deformation [Lens]", "LENS", {{free("Diameter", 1, 100, 50), within("Magnify factor", "Magnify", 0, 100, 50)}}, nullptr, E::PickCentre,
       [](F& f, const A& a) { return f.LENS(a.centerX, a.centerY, fractionOfSide(a), a.value[1]); }, opens("LENS")},
-    {28, "Deformation [Waves]", {{whole("Frequency", 0, 100, 25), whole("Amplitude", 1, 100, 25), whole("Start degree", 0, 360, 0)}}, nullptr, E::None,
+    {28, "Deformation [Waves]", "WAVES", {{of("Frequency", "Frequency"), of("Amplitude", "Amplitude"), of("Start degree", "StartDegree")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.WAVES(a.value[0], a.value[1], a.value[2]); }, opens("WAVES")},
-    {29, "Deformation [Bend]", {{whole("Radius factor", -200, 200, 0)}}, "Clean back", E::None,
+    {29, "Deformation [Bend]", "BEND", {{of("Radius factor", "RadiusFactor", 0)}}, "Clean back", E::None,
       [](F& f, const A& a) { return f.BEND(a.value[0], a.option); }, opens("BEND")},
-    {30, "Deformation [Fold]", {{whole("Horizontal factor", -100, 100, 0), whole("Vertical factor", -100, 100, 0)}}, "Clean back", E::None,
+    {30, "Deformation [Fold]", "FOLD", {{of("Horizontal factor", "Horizontal", 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
       [](F& f, const A& a) { return f.FOLD(a.value[0], a.value[1], a.option); }, opens("FOLD")},
-    {31, "Deformation [Rotate]", {{whole("Degrees", -180, 180, 0)}}, "Clean back", E::None,
+    {31, "Deformation [Rotate]", "ROTATE", {{within("Degrees", "Degrees", -180, 180, 0)}}, "Clean back", E::None,
       [](F& f, const A& a) { return f.ROTATE(a.value[0], a.option); }, opens("ROTATE")},
-    {32, "Deformation [Stretch]", {{whole("Horizontal factor", -100, 100, 0), whole("Vertical factor", -100, 100, 0)}}, "Clean back", E::None,
+    {32, "Deformation [Stretch]", "STRETCH", {{within("Horizontal factor", "Horizontal", -100, 100, 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
       [](F& f, const A& a) { return f.STRETCH(a.value[0], a.value[1], a.option); }, opens("STRETCH")},
-    {33, "Deformation [Tile]", {{whole("Factor", 2, 50, 2)}}, nullptr, E::None,
+    {33, "Deformation [Tile]", "TILE", {{within("Factor", "Factor", 2, 50, 2)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.TILE(a.value[0]); }, opens("TILE")},
-    {34, "Deformation [Twirl]", {{whole("Level", -100, 100, 0), whole("Offset degrees", -180, 180, 0)}}, "Clean back", E::None,
+    {34, "Deformation [Twirl]", "TWIRL", {{of("Level", "Level", 0), of("Offset degrees", "OffsetDegrees", 0)}}, "Clean back", E::None,
       [](F& f, const A& a) { return f.TWIRL(a.value[0], a.value[1], a.option); }, opens("TWIRL")},
-    {35, "Special [Grid]", {{whole("Horizontal step", 1, 250, 25), whole("Vertical step", 1, 250, 25), whole("Opacity", 0, 255, 128)}}, "Force margins", E::TargetWell,
+    {35, "Special [Grid]", "Grid", {{within("Horizontal step", "HorizontalStep", 1, 250, 25), within("Vertical step", "VerticalStep", 1, 250, 25), of("Opacity", "Opacity")}}, "Force margins", E::TargetWell,
       [](F& f, const A& a) { return f.Grid(a.value[0], a.value[1], a.option, a.colour[1], a.value[2]); }, opens("ADDGRID")},
-    {36, "Special [Light]", {{whole("Extension", 1, 100, 50), whole("Intensity", 0, 500, 250), whole("Definition", 0, 100, 0)}}, nullptr, E::PickCentre,
+    {36, "Special [Light]", "Light", {{free("Extension", 1, 100, 50), of("Intensity", "Intensity"), of("Definition", "Definition", 0)}}, nullptr, E::PickCentre,
       [](F& f, const A& a) { return f.Light(a.centerX, a.centerY, fractionOfSide(a), a.value[1], a.value[2]); }, opens("LENSFLARE")},
-    {37, "Special [Noise]", {{whole("Intensity", 0, 100, 25)}}, "Equalized", E::None,
+    {37, "Special [Noise]", "NOISE", {{of("Intensity", "Amount")}}, "Equalized", E::None,
       [](F& f, const A& a) { return f.NOISE(a.value[0], a.option); }, opens("CUSTOMNOISE", "ADDNOISE")},
-    {38, "Special [Scanlines]", {{whole("Opacity", 0, 255, 128)}}, nullptr, E::None,
+    {38, "Special [Scanlines]", "Scanlines", {{of("Opacity", "Level")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Scanlines(a.value[0]); }, opens("ADDSCANLINES")},
-    {39, "Behind Glass", {}, nullptr, E::Glass,
+    {39, "Behind Glass", "GLASS", {}, nullptr, E::Glass,
       [](F& f, const A& a) { return f.GLASS(a.style, a.mode); }, opens("CUSTOMGLASS")},
-    {40, "Behind Curtain", {}, nullptr, E::Curtain,
+    {40, "Behind Curtain", "GLASS", {}, nullptr, E::Curtain,
       [](F& f, const A& a) { return f.GLASS("curtain", a.mode); }, opens("CUSTOMCURTAIN")},
 };
 // clang-format on
+
+/// What the rows leave to the operation's row is filled in; a slider that leaves its parameter's range does not
+/// compile.
+consteval auto filled(std::array<FilterRow, std::size(kTold)> all)
+{
+    for (FilterRow& row : all) {
+        const auto* op = std::ranges::find(kOperationRows<Operation>, row.operation, &Operation::name);
+        if (op == std::end(kOperationRows<Operation>)) throw std::invalid_argument("no such operation");
+        for (FilterSlider& s : row.sliders) {
+            if (s.parameter.empty()) continue;
+            const Parameter& p = *std::ranges::find(op->parameters, s.parameter, &Parameter::name);
+            const auto take = [](double& value, double otherwise) { value = value == value ? value : otherwise; };
+            take(s.least, p.least);
+            take(s.most, p.most);
+            take(s.byDefault, p.typical);
+            const double centre = s.centred ? s.most / s.step * 0.5 : 0;
+            if (s.least / s.step - centre < p.least || s.most / s.step - centre > p.most)
+                throw std::invalid_argument("a slider outside of its operation's range");
+        }
+    }
+    return all;
+}
+constexpr auto kRows = filled(std::to_array(kTold));
 
 constexpr bool inRange(const FilterSlider& s)
 {
@@ -153,9 +192,9 @@ std::span<const FilterRow> filterRows() { return kRows; }
 const FilterRow* findFilterRow(std::string_view word)
 {
     if (word.empty()) return nullptr;
-    const auto* found =
+    const auto found =
         std::ranges::find_if(kRows, [word](const FilterRow& row) { return std::ranges::count(row.words, word) > 0; });
-    return found == std::end(kRows) ? nullptr : found;
+    return found == kRows.end() ? nullptr : &*found;
 }
 
 } // namespace velara

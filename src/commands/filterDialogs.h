@@ -11,7 +11,8 @@ namespace velara {
 
 /// A slider that stands on whole numbers: value * step is what is shown, in the format.
 struct FilterSlider {
-    const char* caption = nullptr; // null: there is no such slider
+    const char* caption = nullptr;   // null: there is no such slider
+    std::string_view parameter = {}; // of the operation, which limits the slider; empty: in a measure of its own
     double least = 0, most = 0, byDefault = 0;
     double step = 1;
     int decimals = 0;
@@ -62,6 +63,7 @@ struct FilterArgs {
 struct FilterRow {
     int number;
     const char* title;
+    std::string_view operation;
     std::array<FilterSlider, 3> sliders;
     const char* option; // caption, null without one
     FilterExtra extras;
@@ -85,6 +87,6 @@ struct GlassStyle {
 inline constexpr GlassStyle kGlassStyles[] = {
     {"Squary", "squary", 3}, {"Horizontal", "horizontal", 3}, {"Vertical", "vertical", 3}, {"Slanting", "slanting", 2}};
 inline constexpr const char* kGlassModes[] = {"Light", "Tight", "Large"};
-inline constexpr const char* kCurtains[] = {"Whity", "Classy", "Vertical", "Horizontal"}; // the index is the mode
+inline constexpr const char* kCurtains[] = {"Horizontal", "Vertical", "Classy", "Whity"}; // the index is the mode
 
 } // namespace velara

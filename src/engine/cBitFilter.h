@@ -2,6 +2,8 @@
 // filter never changes the object: it returns a new buffer, and only `filter.setBits(filter.NAME(...))` changes the
 // picture.
 //
+// Below the class stands the table of what presets, dialogs, the batch program, tests and benchmarks call by name.
+//
 // Colours are 0x00BBGGRR. Channels of a pixel: 0 blue, 1 green, 2 red. Without a region nothing is changed. Every
 // filter raises Progress 100 at its end and a percentage at most every 10 ms before; a RuntimeError passes to the
 // caller.
@@ -166,5 +168,98 @@ class cBitFilter {
     std::uint32_t lastProgress_ = 0;
     std::uint64_t randomSeed_ = kRandomSeed;
 };
+
+/// Names a method in a row.
+template <auto Method> struct Does {
+};
+
+/// The operations by name. Each argument is "name:values:usual": values are "least..most" (with decimals for singles),
+/// texts split by "|", or a word: colour (0x00BBGGRR; colour|-1 has none, too), column and row of the picture, side (a
+/// width or height). Booleans and pictures are a name alone; the usual one of texts is the first. A template, so that
+/// only the reader of the table compiles its calls; Row is Operation (operationRows.h).
+// clang-format off
+template <class Row> inline constexpr Row kOperationRows[] = {
+    {"BitsBlack",           "",                                                         Does<&cBitFilter::BitsBlack>()},
+    {"BitsCrop",            "Left:column:5,Top:row:5,Right:column:50,Bottom:row:30",    Does<&cBitFilter::BitsCrop>()},
+    {"BitsCropMasked",      "Left:column:5,Top:row:5,Right:column:50,Bottom:row:30",    Does<&cBitFilter::BitsCropMasked>()},
+    {"BitsResample",        "NewWidth:side:100,NewHeight:side:80",                      Does<&cBitFilter::BitsResample>()},
+    {"BitsResize",          "NewWidth:side:100,NewHeight:side:80",                      Does<&cBitFilter::BitsResize>()},
+    {"BitsRotate90",        "",                                                         Does<&cBitFilter::BitsRotate90>()},
+    {"BitsTakeFromPicture", "Picture,Width:side:10,Height:side:10",                     Does<&cBitFilter::BitsTakeFromPicture>()},
+
+    {"BRIGHTNESS",      "Level:-300..300:20",                                           Does<&cBitFilter::BRIGHTNESS>()},
+    {"CONTRAST",        "Level:-150..300:10",                                           Does<&cBitFilter::CONTRAST>()},
+    {"SATURATION",      "Level:-1500..1500:30",                                         Does<&cBitFilter::SATURATION>()},
+    {"GammaCorrection", "Level:-120..120:-30",                                          Does<&cBitFilter::GammaCorrection>()},
+    {"COLORIZE",        "Hue:-1.0..5.0:0.5,Saturation:0.0..1.0:0.25,Luminosity:0.0..1.0:1.0", Does<&cBitFilter::COLORIZE>()},
+    {"GreyScale",       "",                                                             Does<&cBitFilter::GreyScale>()},
+    {"OLDPHOTO",        "",                                                             Does<&cBitFilter::OLDPHOTO>()},
+    {"Invert",          "",                                                             Does<&cBitFilter::Invert>()},
+    {"KillChannel",     "KillRed,KillGreen,KillBlue",                                   Does<&cBitFilter::KillChannel>()},
+    {"SpecialColors",   "KeepRed,KeepGreen,KeepBlue",                                   Does<&cBitFilter::SpecialColors>()},
+    {"Threshold",       "Level:0..255:128",                                             Does<&cBitFilter::Threshold>()},
+    {"Reduction",       "Level:0..300:31",                                              Does<&cBitFilter::Reduction>()},
+    {"ShiftRGB",        "Red:-300..300:20,Green:-300..300:-30,Blue:-300..300:40",       Does<&cBitFilter::ShiftRGB>()},
+    {"ISOLATE",         "Color:colour:0x4060A0,Fill:colour:0x20FF40,Tolerance:0..200:100", Does<&cBitFilter::ISOLATE>()},
+    {"REPLACE",         "From:colour:0x506070,To:colour:0x2040F0,Tolerance:0..200:100", Does<&cBitFilter::REPLACE>()},
+    {"ReplaceHS",       "From:colour:0x506070,To:colour:0x2040F0,HueTolerance:0..600:50,SatTolerance:0..100:50,ApplyTolerance:0..200:100", Does<&cBitFilter::ReplaceHS>()},
+    {"ReplaceL",        "From:colour:0x506070,To:colour:0x2040F0,LumTolerance:0..100:50,ApplyTolerance:0..200:100", Does<&cBitFilter::ReplaceL>()},
+    {"Shift",           "Color:colour:0x4060A0,Amount:-255..255:50,Tolerance:0..200:100", Does<&cBitFilter::Shift>()},
+    {"RotateH",         "Offset:0..100:30,Saturation:0..100:100",                       Does<&cBitFilter::RotateH>()},
+    {"RotateL",         "Offset:0..100:30,Steps:0..100:25",                             Does<&cBitFilter::RotateL>()},
+    {"StretchH",        "Offset:0..100:30,Saturation:0..100:100,Stretch:0..100:40",     Does<&cBitFilter::StretchH>()},
+    {"SwapRGB",         "SourceRed:0..3:0,SourceGreen:0..3:2,SourceBlue:0..3:1,InvertRed,InvertGreen,InvertBlue,KillRed:0..255:0,KillGreen:0..255:0,KillBlue:0..255:0", Does<&cBitFilter::SwapRGB>()},
+    {"SwapBanks",       "Mode:-1..7:1",                                                 Does<&cBitFilter::SwapBanks>()},
+    {"ClassyColors",    "Mode:-1..13:7",                                                Does<&cBitFilter::ClassyColors>()},
+    {"PaletteApply",    "",                                                             Does<&cBitFilter::PaletteApply>()},
+    {"Equalize",        "",                                                             Does<&cBitFilter::Equalize>()},
+
+    {"SHARPEN",         "Level:0..100:30",                                              Does<&cBitFilter::SHARPEN>()},
+    {"SOFTEN",          "Level:0..100:30",                                              Does<&cBitFilter::SOFTEN>()},
+    {"EDGEENHANCE",     "Level:0..100:30",                                              Does<&cBitFilter::EDGEENHANCE>()},
+    {"Blurs",           "Radius:0..2:1",                                                Does<&cBitFilter::Blurs>()},
+    {"DILATE",          "",                                                             Does<&cBitFilter::DILATE>()},
+    {"ERODE",           "",                                                             Does<&cBitFilter::ERODE>()},
+    {"CONTOUR",         "Level:0..255:255,Background:colour:0x36E2D7",                  Does<&cBitFilter::CONTOUR>()},
+    {"EMBOSS",          "Weight:0..50:10",                                              Does<&cBitFilter::EMBOSS>()},
+    {"ENGRAVE",         "Weight:0..50:10",                                              Does<&cBitFilter::ENGRAVE>()},
+    {"RELIEF",          "",                                                             Does<&cBitFilter::RELIEF>()},
+    {"RankFilterN4",    "Mode:0..1:0",                                                  Does<&cBitFilter::RankFilterN4>()},
+    {"RankFilterND",    "Mode:0..1:0",                                                  Does<&cBitFilter::RankFilterND>()},
+    {"DIFFUSE",         "HorizontalRange:0..50:2,VerticalRange:0..50:2",                Does<&cBitFilter::DIFFUSE>()},
+    {"MaskFilter",      "Mask:1 2 1/2 4 2/1 2 1|0 -1 0/-1 5 -1/0 -1 0|1 1 1 1 1/1 0 0 0 1/1 0 -9 0 1/1 0 0 0 1/1 2 3 4 5,Divisor:-4.0..40.0:16.0,AddRed:-255..255:0,AddGreen:-255..255:10,AddBlue:-255..255:0,Clip", Does<&cBitFilter::MaskFilter>()},
+
+    {"ROTATE",          "Degrees:-400..400:30,Clean",                                   Does<&cBitFilter::ROTATE>()},
+    {"RotateSmooth",    "Degrees:-400..400:30",                                         Does<&cBitFilter::RotateSmooth>()},
+    {"Flip",            "Horizontal,Vertical",                                          Does<&cBitFilter::Flip>()},
+    {"STRETCH",         "Horizontal:-210..210:40,Vertical:-100..100:40,Clean",          Does<&cBitFilter::STRETCH>()},
+    {"FOLD",            "Horizontal:-100..100:40,Vertical:-100..100:40,Clean",          Does<&cBitFilter::FOLD>()},
+    {"BEND",            "RadiusFactor:-200..200:50,Clean",                              Does<&cBitFilter::BEND>()},
+    {"TWIRL",           "Level:-100..100:30,OffsetDegrees:-180..180:20,Clean",          Does<&cBitFilter::TWIRL>()},
+    {"WAVES",           "Frequency:0..100:25,Amplitude:1..100:25,StartDegree:0..360:0", Does<&cBitFilter::WAVES>()},
+    {"LENS",            "CenterX:0.0..1.0:0.5,CenterY:0.0..1.0:0.5,Radius:0.01..0.8:0.4,Magnify:0..130:50", Does<&cBitFilter::LENS>()},
+    {"TILE",            "Factor:0..50:2",                                               Does<&cBitFilter::TILE>()},
+    {"GLASS",           "Style:slanting|horizontal|vertical|squary|curtain,Mode:-1..5:0", Does<&cBitFilter::GLASS>()},
+
+    {"Dissolve",        "",                                                             Does<&cBitFilter::Dissolve>()},
+    {"PAINTING",        "",                                                             Does<&cBitFilter::PAINTING>()},
+    {"PIXELIZE",        "Size:1..25:2",                                                 Does<&cBitFilter::PIXELIZE>()},
+    {"Halftone",        "Radius:1..25:6,Definition:0..100:50,Intensity:0..100:50",      Does<&cBitFilter::Halftone>()},
+    {"SKETCH",          "Level:-5..300:60,Mono,Color:colour:0x4060A0",                  Does<&cBitFilter::SKETCH>()},
+    {"StuckiBW",        "Divisor:1..100:42",                                            Does<&cBitFilter::StuckiBW>()},
+    {"THERMIQUE",       "",                                                             Does<&cBitFilter::THERMIQUE>()},
+    {"XBLACK",          "",                                                             Does<&cBitFilter::XBLACK>()},
+    {"PHOTOCOP",        "",                                                             Does<&cBitFilter::PHOTOCOP>()},
+
+    {"Light",            "CenterX:0.0..1.0:0.5,CenterY:0.0..1.0:0.5,Radius:0.01..0.8:0.4,Intensity:0..500:250,Definition:0..100:50", Does<&cBitFilter::Light>()},
+    {"NOISE",            "Amount:0..100:25,Equalized",                                  Does<&cBitFilter::NOISE>()},
+    {"Scanlines",        "Level:0..255:128",                                            Does<&cBitFilter::Scanlines>()},
+    {"Grid",             "HorizontalStep:0..250:25,VerticalStep:0..250:25,ForceMargins,Color:colour:0x4060A0,Opacity:0..255:128", Does<&cBitFilter::Grid>()},
+    {"GradientLinear",   "X1:column:5,Y1:row:5,X2:column:50,Y2:row:30,Color1:colour|-1:0x0000FF,Color2:colour|-1:0xFF0000,Opacity:0..100:60,Repeat:0..30:1", Does<&cBitFilter::GradientLinear>()},
+    {"GradientCircular", "X1:column:5,Y1:row:5,X2:column:50,Y2:row:30,Color1:colour|-1:0x0000FF,Color2:colour|-1:0xFF0000,Opacity:0..100:60,Repeat:0..30:1", Does<&cBitFilter::GradientCircular>()},
+    {"Texturize",        "Texture",                                                     Does<&cBitFilter::Texturize>()},
+    {"TileMask",         "Overlay,Left:column:5,Top:row:5,Tiled,Transparency:0..100:40,KeyColor:colour|-1:0", Does<&cBitFilter::TileMask>()},
+};
+// clang-format on
 
 } // namespace velara

@@ -1,4 +1,5 @@
-// How a method of cBitFilter becomes a row of the operation table: its own parameter types unpack the arguments.
+// How a row of the operation table becomes an Operation while compiling: its text is read, and the method's own
+// parameter types unpack the arguments. A row that is written wrongly does not compile.
 #pragma once
 #include "engine/operations.h"
 #include <stdexcept>
@@ -9,6 +10,8 @@ namespace velara {
 
 namespace rows {
 
+using Mask = std::vector<std::vector<int>>;
+
 template <class T> constexpr ArgumentType typeOf()
 {
     using V = std::remove_cvref_t<T>;
@@ -18,62 +21,152 @@ template <class T> constexpr ArgumentType typeOf()
         return ArgumentType::Integer;
     else if constexpr (std::is_floating_point_v<V>)
         return ArgumentType::Number;
-    else if constexpr (std::is_same_v<V, Bits>)
+    else if constexpr (std::is_same_v<V, Bits> || std::is_same_v<V, QImage>)
         return ArgumentType::Picture;
     else
         return ArgumentType::Text;
 }
 
-/// A whole number serves where a number is wanted; nothing else converts.
+/// "0 1 0/1 4 1/0 1 0": whole numbers, rows split by slashes, as many as each row has numbers.
+Mask maskOf(const std::string& text);
+/// The valid part of a buffer as a picture, sharing its memory.
+QImage imageOver(const Bits& bits);
+
+/// A whole number serves where a number is wanted, a buffer where a picture is, a text for a mask; nothing else
+/// converts.
 template <class T> std::remove_cvref_t<T> unpack(const Argument& argument, const Parameter& parameter)
 {
     using V = std::remove_cvref_t<T>;
     if constexpr (std::is_floating_point_v<V>) {
         if (const int* whole = std::get_if<int>(&argument)) return static_cast<V>(*whole);
         if (const double* number = std::get_if<double>(&argument)) return static_cast<V>(*number);
+    } else if constexpr (std::is_same_v<V, QImage>) {
+        if (const Bits* bits = std::get_if<Bits>(&argument)) return imageOver(*bits);
+    } else if constexpr (std::is_same_v<V, Mask>) {
+        if (const std::string* text = std::get_if<std::string>(&argument)) return maskOf(*text);
     } else if (const V* value = std::get_if<V>(&argument)) {
         return *value;
     }
     throw std::invalid_argument(std::string(parameter.name));
 }
 
-std::vector<Parameter> parameterList(std::string_view names, std::vector<ArgumentType> types);
 void checkCount(std::string_view operation, std::size_t wanted, std::size_t got);
 
-/// names: the parameters in order, split by commas.
-template <class... A, class Function> Operation make(std::string_view name, std::string_view names, Function run)
+/// What stands before the separator; text keeps what stands behind it.
+constexpr std::string_view takeUpTo(std::string_view separator, std::string_view& text)
 {
-    Operation op{name, parameterList(names, {typeOf<A>()...}), {}};
-    op.call = [parameters = op.parameters, name, run](cBitFilter& filter, const Arguments& arguments) {
-        checkCount(name, sizeof...(A), arguments.size());
-        [&]<std::size_t... I>(std::index_sequence<I...>) { run(filter, unpack<A>(arguments[I], parameters[I])...); }
-        (std::index_sequence_for<A...>());
-    };
-    return op;
+    const auto at = text.find(separator);
+    const std::string_view part = text.substr(0, at);
+    text = at == std::string_view::npos ? std::string_view() : text.substr(at + separator.size());
+    return part;
 }
+
+/// "-12", "0.25", "0x4060A0".
+constexpr double numberOf(std::string_view text)
+{
+    const bool negative = text.starts_with('-');
+    if (negative) text.remove_prefix(1);
+    const int base = text.starts_with("0x") ? 16 : 10;
+    if (base == 16) text.remove_prefix(2);
+    if (text.empty()) throw std::invalid_argument("a number is missing");
+    double value = 0, scale = 1;
+    bool fraction = false;
+    for (const char c : text) {
+        const int digit = c >= '0' && c <= '9' ? c - '0' : base == 16 && c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+        if (c == '.' && !fraction && base == 10) {
+            fraction = true;
+            continue;
+        }
+        if (digit < 0) throw std::invalid_argument("not a number");
+        value = value * base + digit;
+        if (fraction) scale *= 10;
+    }
+    return (negative ? -value : value) / scale;
+}
+
+/// The words for values, with the numbers that trials on small pictures take.
+struct ValueWord {
+    std::string_view word;
+    double least, most;
+};
+constexpr ValueWord kValueWords[] = {
+    {"colour", 0, 0xFFFFFF}, {"colour|-1", -1, 0xFFFFFF}, {"column", -10, 60}, {"row", -10, 40}, {"side", 1, 100}};
+
+constexpr Parameter parameterOf(std::string_view text, ArgumentType type)
+{
+    Parameter p{takeUpTo(":", text), type};
+    p.values = takeUpTo(":", text);
+    p.usual = text;
+    if (type == ArgumentType::Boolean || type == ArgumentType::Picture || type == ArgumentType::Text) {
+        if (!p.usual.empty() || (type == ArgumentType::Text) == p.values.empty())
+            throw std::invalid_argument("texts list their values, booleans and pictures have none");
+        return p;
+    }
+    bool isWord = false;
+    for (const ValueWord& word : kValueWords)
+        if (word.word == p.values) p.least = word.least, p.most = word.most, isWord = true;
+    if (!isWord) {
+        std::string_view range = p.values;
+        p.least = numberOf(takeUpTo("..", range));
+        p.most = numberOf(range);
+    }
+    p.typical = numberOf(p.usual);
+    if (!(p.least <= p.typical && p.typical <= p.most && p.least < p.most))
+        throw std::invalid_argument("least <= usual <= most");
+    return p;
+}
+
+constexpr ParameterList parameterList(std::string_view text, std::initializer_list<ArgumentType> types)
+{
+    ParameterList list;
+    for (const ArgumentType type : types) list.add(parameterOf(takeUpTo(",", text), type));
+    if (!text.empty()) throw std::invalid_argument("more names than arguments");
+    return list;
+}
+
+/// Calls run with the unpacked arguments.
+template <class... A, class Function> void unpacked(const Operation& op, const Arguments& arguments, Function run)
+{
+    checkCount(op.name, sizeof...(A), arguments.size());
+    [&]<std::size_t... I>(std::index_sequence<I...>) { run(unpack<A>(arguments[I], op.parameters[I])...); }
+    (std::index_sequence_for<A...>());
+}
+
+/// What a method of a signature takes beside the filter, and how it is called.
+template <auto Method, class Signature> struct Caller;
+
+/// A filter: its result becomes the object's picture.
+template <auto Method, class... A> struct Caller<Method, Bits (cBitFilter::*)(A...)> {
+    static constexpr std::initializer_list<ArgumentType> types{typeOf<A>()...};
+    static void call(const Operation& op, cBitFilter& filter, const Arguments& arguments)
+    {
+        unpacked<A...>(op, arguments, [&](const auto&... a) { filter.setBits((filter.*Method)(a...)); });
+    }
+};
+/// An operation in place.
+template <auto Method, class... A> struct Caller<Method, void (cBitFilter::*)(A...)> {
+    static constexpr std::initializer_list<ArgumentType> types{typeOf<A>()...};
+    static void call(const Operation& op, cBitFilter& filter, const Arguments& arguments)
+    {
+        unpacked<A...>(op, arguments, [&](const auto&... a) { (filter.*Method)(a...); });
+    }
+};
+/// One that takes a source: the object's own picture.
+template <auto Method, class... A> struct Caller<Method, void (cBitFilter::*)(const Bits&, A...)> {
+    static constexpr std::initializer_list<ArgumentType> types{typeOf<A>()...};
+    static void call(const Operation& op, cBitFilter& filter, const Arguments& arguments)
+    {
+        unpacked<A...>(op, arguments, [&](const auto&... a) { (filter.*Method)(filter.bits(), a...); });
+    }
+};
 
 } // namespace rows
 
-/// A filter: its result becomes the object's picture.
-template <class... A> Operation row(std::string_view name, std::string_view names, Bits (cBitFilter::*method)(A...))
+template <auto Method>
+constexpr Operation::Operation(std::string_view name, std::string_view arguments, Does<Method>)
+    : name(name), parameters(rows::parameterList(arguments, rows::Caller<Method, decltype(Method)>::types)),
+      call_(rows::Caller<Method, decltype(Method)>::call)
 {
-    return rows::make<A...>(name, names, [method](cBitFilter& filter, const std::remove_cvref_t<A>&... a) {
-        filter.setBits((filter.*method)(a...));
-    });
 }
-
-/// An operation in place, as a function over the filter.
-template <class... A> Operation row(std::string_view name, std::string_view names, void (*function)(cBitFilter&, A...))
-{
-    return rows::make<A...>(name, names, function);
-}
-
-// The families, one file each.
-std::vector<Operation> geometryOperations();
-std::vector<Operation> colourOperations();
-std::vector<Operation> neighbourOperations();
-std::vector<Operation> deformOperations();
-std::vector<Operation> styliseOperations();
-std::vector<Operation> generateOperations();
 
 } // namespace velara

@@ -1,20 +1,32 @@
-#include "engine/operations.h"
 #include "engine/operationRows.h"
 #include <algorithm>
+#include <sstream>
 
 namespace velara {
 
 namespace rows {
 
-std::vector<Parameter> parameterList(std::string_view names, std::vector<ArgumentType> types)
+Mask maskOf(const std::string& text)
 {
-    std::vector<Parameter> list;
-    for (const ArgumentType type : types) {
-        const auto comma = names.find(',');
-        list.push_back({names.substr(0, comma), type});
-        names = comma == std::string_view::npos ? std::string_view() : names.substr(comma + 1);
+    Mask mask;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line, '/');) {
+        std::istringstream numbers(line);
+        std::vector<int>& row = mask.emplace_back();
+        for (int number; numbers >> number;) row.push_back(number);
+        if (!numbers.eof()) throw std::invalid_argument("Mask");
     }
-    return list;
+    for (const auto& row : mask)
+        if (row.size() != mask.size()) throw std::invalid_argument("Mask");
+    if (mask.empty()) throw std::invalid_argument("Mask");
+    return mask;
+}
+
+QImage imageOver(const Bits& bits)
+{
+    if (bits.isNull()) return {};
+    return {bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
+            QImage::Format_RGB32};
 }
 
 void checkCount(std::string_view operation, std::size_t wanted, std::size_t got)
@@ -26,22 +38,19 @@ void checkCount(std::string_view operation, std::size_t wanted, std::size_t got)
 
 } // namespace rows
 
-std::span<const Operation> operations()
+std::span<const Operation> operations() { return kOperationRows<Operation>; }
+
+std::vector<std::string> choicesOf(const Parameter& text)
 {
-    static const std::vector<Operation> all = [] {
-        std::vector<Operation> list;
-        for (auto family : {geometryOperations, colourOperations, neighbourOperations, deformOperations,
-                            styliseOperations, generateOperations})
-            for (Operation& op : family()) list.push_back(std::move(op));
-        return list;
-    }();
+    std::vector<std::string> all;
+    for (std::string_view rest = text.values; !rest.empty();) all.emplace_back(rows::takeUpTo("|", rest));
     return all;
 }
 
 const Operation* findOperation(std::string_view name)
 {
     const auto all = operations();
-    const auto found = std::find_if(all.begin(), all.end(), [name](const Operation& op) { return op.name == name; });
+    const auto found = std::ranges::find(all, name, &Operation::name);
     return found == all.end() ? nullptr : &*found;
 }
 

@@ -1,7 +1,8 @@
-// The table of the engine's operations by name, with their arguments: what presets, dialogs, the batch program, tests
-// and benchmarks call. Adding a filter is one method and one row.
+// The engine's operations by name, with their arguments; the table is in cBitFilter.h. Adding a filter is one method
+// and one row.
 #pragma once
 #include "engine/cBitFilter.h"
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,22 +17,55 @@ using Arguments = std::vector<Argument>;
 
 enum class ArgumentType { Boolean, Integer, Number, Text, Picture };
 
+/// An argument as its row has it.
 struct Parameter {
     std::string_view name;
-    ArgumentType type;
+    ArgumentType type{};
+    std::string_view values{};               // "-200..200", "colour", "slanting|squary"; empty: any
+    std::string_view usual{};                // as written; empty: none
+    double least = 0, most = 0, typical = 0; // of numbers; positions and sizes as they are in a small picture
 };
 
-/// One operation. call runs it on the filter and leaves the result in the filter's picture; a wrong argument count or
-/// type raises std::invalid_argument that names the argument, arithmetic faults are RuntimeError.
+class ParameterList {
+  public:
+    constexpr const Parameter* begin() const { return all_.data(); }
+    constexpr const Parameter* end() const { return all_.data() + size_; }
+    constexpr std::size_t size() const { return size_; }
+    constexpr bool empty() const { return size_ == 0; }
+    constexpr const Parameter& operator[](std::size_t i) const { return all_[i]; }
+    constexpr void add(const Parameter& parameter) { all_.at(size_++) = parameter; }
+
+  private:
+    std::array<Parameter, 9> all_{};
+    std::size_t size_ = 0;
+};
+
 struct Operation {
     std::string_view name;
-    std::vector<Parameter> parameters;
-    std::function<void(cBitFilter&, const Arguments&)> call;
+    ParameterList parameters;
     std::size_t optional = 0; // so many of the last parameters may be left out
     bool takesSelf = false;   // a null picture among the arguments stands for the filter's own
+
+    /// A row of the table.
+    template <auto Method> constexpr Operation(std::string_view name, std::string_view arguments, Does<Method>);
+    /// One that is no method of the filter.
+    constexpr Operation(std::string_view name, std::initializer_list<Parameter> all, std::size_t optional,
+                        void (*call)(const Operation&, cBitFilter&, const Arguments&))
+        : name(name), optional(optional), call_(call)
+    {
+        for (const Parameter& p : all) parameters.add(p);
+    }
+    /// Runs it on the filter and leaves the result in the filter's picture. A wrong argument count or type raises
+    /// std::invalid_argument that names the argument, arithmetic faults are RuntimeError.
+    void call(cBitFilter& filter, const Arguments& arguments) const { call_(*this, filter, arguments); }
+
+  private:
+    void (*call_)(const Operation&, cBitFilter&, const Arguments&);
 };
 
 std::span<const Operation> operations();
+/// The texts that an argument may be.
+std::vector<std::string> choicesOf(const Parameter& text);
 /// Exact, case-sensitive; null when there is none.
 const Operation* findOperation(std::string_view name);
 

@@ -232,23 +232,32 @@ void Painter::alongLine(int x1, int y1, int x2, int y2, int size, const Dab& pla
     }
 }
 
+Painter::Dab Painter::dabOf(int mode, int size, int strength, Colour colour)
+{
+    switch (mode) {
+    case PaintColour:
+        return brushDab(size, strength, colour);
+    case Soften:
+    case SoftenOver:
+        return softenDab(size, strength, mode == SoftenOver);
+    case Sharpen:
+        return sharpenDab(size, strength);
+    case Lighten:
+    case Darken:
+        return brightnessDab(size, strength, mode == Lighten);
+    default:
+        return [](int, int) {};
+    }
+}
+
+void Painter::BitsBrushDab(int x, int y, int size, int strength, Colour colour, int mode)
+{
+    if (!bits_.isNull()) dabOf(mode, size, strength, colour)(x, y);
+}
+
 void Painter::BitsBrushLine(int x1, int y1, int x2, int y2, int size, int strength, Colour colour, int mode)
 {
-    if (bits_.isNull()) return;
-    switch (mode) {
-    case 0:
-        return alongLine(x1, y1, x2, y2, size, brushDab(size, strength, colour));
-    case 1:
-    case 2:
-        return alongLine(x1, y1, x2, y2, size, softenDab(size, strength, mode == 2));
-    case 3:
-        return alongLine(x1, y1, x2, y2, size, sharpenDab(size, strength));
-    case 4:
-    case 5:
-        return alongLine(x1, y1, x2, y2, size, brightnessDab(size, strength, mode == 4));
-    default:
-        return;
-    }
+    if (!bits_.isNull()) alongLine(x1, y1, x2, y2, size, dabOf(mode, size, strength, colour));
 }
 
 void Painter::BitsMaskedLine(int x1, int y1, int x2, int y2, int size, int opacity, const Bits& source)

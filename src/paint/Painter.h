@@ -18,6 +18,9 @@
 
 namespace velara {
 
+/// Of Setup.BrushMode.
+enum BrushMode { PaintColour, Soften, SoftenOver, Sharpen, Lighten, Darken, PaintStamp };
+
 class Painter {
   public:
     /// All three outlive the painter. What is written is marked in touched.
@@ -52,7 +55,9 @@ class Painter {
     void BitsSharpen(int x, int y, int size, int strength);
     /// With repeat also pixels that are done.
     void BitsSoften(int x, int y, int size, int strength, bool repeat);
-    /// Dabs a tenth of size apart; size from 1, coordinates at most 32767 apart. mode: see kBrushModes in Painter.cpp.
+    /// The dab of a mode; nothing for PaintStamp and unknown modes. BitsBrushLine places it again and again, a tenth of
+    /// size apart: size from 1, coordinates at most 32767 apart.
+    void BitsBrushDab(int x, int y, int size, int strength, Colour colour, int mode);
     void BitsBrushLine(int x1, int y1, int x2, int y2, int size, int strength, Colour colour, int mode);
     void BitsMaskedLine(int x1, int y1, int x2, int y2, int size, int opacity, const Bits& source);
 
@@ -100,6 +105,7 @@ class Painter {
     Dab maskedDab(int size, int opacity, const Bits& source);
     Dab softenDab(int size, int strength, bool repeat);
     Dab sharpenDab(int size, int strength);
+    Dab dabOf(int mode, int size, int strength, Colour colour);
     static void alongLine(int x1, int y1, int x2, int y2, int size, const Dab& place);
 
     template <class Row> void paste(int x, int y, const Bits& source, const Region& region, Row row);

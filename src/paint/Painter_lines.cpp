@@ -96,16 +96,18 @@ void Painter::BitsRectangle(int x1, int y1, int x2, int y2, Colour colour, int o
     BitsLine(x1, y2, x1, y1, colour, opacity);
 }
 
+constexpr double kMostRadius = 1 << 21; // far larger than any picture; a step round it takes its time
+
 void Painter::BitsEllipse(int centreX, int centreY, int radiusX, int radiusY, Colour colour, int opacity)
 {
     if (bits_.isNull()) return;
     Ink ink(*this, colour, opacity);
     const double m = std::abs(static_cast<double>(std::max(radiusX, radiusY)));
+    if (m > kMostRadius) return;
     const auto step = static_cast<float>(0.534070725 / (m == 0 ? 1 : m));
-    for (float a = 0; a < 6.283185;) {
-        if (a + step == a) return; // too fine for a single: a circle far larger than any picture
+    for (double a = 0; a < 6.283185;) {
         a += step;
-        double px = radiusX * std::cos(double(a)) + centreX, py = radiusY * std::sin(double(a)) + centreY;
+        double px = radiusX * std::cos(a) + centreX, py = radiusY * std::sin(a) + centreY;
         plot(ink, px, py);
     }
 }

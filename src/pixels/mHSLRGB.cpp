@@ -24,7 +24,7 @@ Rgb HSLToRGB(float h, float s, float l)
 {
     float r = l, g = l, b = l;
     if (s != 0) {
-        const float lo = static_cast<float>(l <= 0.5f ? (1.0 - s) * l : l - (1.0 - s) * (1.0 - l));
+        const float lo = static_cast<float>(l <= 0.5f ? (1.0 - s) * l : l - s * (1.0 - l));
         const float hi = static_cast<float>(2.0 * l - lo);
         const float d = static_cast<float>(double(hi) - lo);
         const auto up = [&](double t) { return static_cast<float>(lo + d * t); };

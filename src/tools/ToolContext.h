@@ -57,11 +57,11 @@ struct ToolContext {
     }
 };
 
-/// The tools have no state of their own: one object of each serves all documents.
+/// The tools have no state of their own: one object of each serves all documents. Each file of tools ends with a
+/// function for each class that gives its object; toolRows.cpp calls them.
 class Tool {
   public:
     virtual ~Tool() = default;
-    virtual Pointer pointer() const = 0;
     /// False: the press is refused, and the drag is nobody's.
     virtual bool press(ToolContext&) const { return true; }
     virtual void drag(ToolContext&) const {}
@@ -74,23 +74,8 @@ class Tool {
     virtual void ctrlReleased(ToolContext&) const {}
 
   protected:
-    /// The Space key of the tools that place pixels: what stands is committed, and the same move goes on from there.
-    void fixAndGoOn(ToolContext& c) const;
+    /// The Space key of the tools that place pixels: what stands is committed; what is held goes on from there.
+    void fix(ToolContext& c) const;
 };
-
-// By family, one file each.
-const Tool& selectTool();
-const Tool& selectionMoveTool();
-const Tool& brushTool();
-const Tool& airbrushTool();
-const Tool& pencilTool();
-const Tool& shapeTool();
-const Tool& fillTool();
-const Tool& gradientTool();
-const Tool& getColorTool();
-const Tool& stampTool();
-const Tool& textTool();
-/// Not of the strip: holds the mouse while a paste is pending.
-const Tool& pasteTool();
 
 } // namespace velara

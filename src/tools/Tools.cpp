@@ -6,48 +6,19 @@
 
 namespace velara {
 
-namespace {
-
-struct ToolRow {
-    const char* name; // of Setup.CurrentTool
-    const Tool& (*tool)();
-};
-
-// clang-format off
-constexpr ToolRow kTools[] = {
-    {"Select",        selectTool},
-    {"SelectionMove", selectionMoveTool},
-    {"Brush",         brushTool},
-    {"Airbrush",      airbrushTool},
-    {"Pencil",        pencilTool},
-    {"Shape",         shapeTool},
-    {"Fill",          fillTool},
-    {"Stamp",         stampTool},
-    {"Text",          textTool},
-    {"Gradient",      gradientTool},
-    {"GetColor",      getColorTool},
-};
-// clang-format on
-
-const Tool* toolNamed(const QString& name)
-{
-    QStringView wanted(name);
-    while (wanted.endsWith(u' ')) wanted.chop(1);
-    for (const ToolRow& row : kTools)
-        if (wanted == QLatin1String(row.name)) return &row.tool();
-    return nullptr;
-}
-
-} // namespace
-
 Tools::Tools(Document& document, Frame& frame, ToolSurface& surface) : context_(document, frame, surface) {}
 
-const Tool* Tools::chosen() const
+const ToolRow* Tools::chosen() const
 {
-    return context_.stores().pastePending ? &pasteTool() : toolNamed(context_.setup().CurrentTool);
+    return context_.stores().pastePending ? &pasteRow() : findTool(context_.setup().CurrentTool);
 }
 
-const Tool* Tools::tool() const { return active_ ? active_ : chosen(); }
+const Tool* Tools::tool() const
+{
+    if (active_) return active_;
+    const ToolRow* row = chosen();
+    return row ? &row->tool() : nullptr;
+}
 
 /// Runs a part of an event. False when the object is gone afterwards.
 template <class Action> bool Tools::guarded(Action action)
@@ -64,8 +35,8 @@ template <class Action> bool Tools::guarded(Action action)
 
 void Tools::showPointer()
 {
-    const Tool* tool = chosen();
-    context_.surface.setPointer(tool ? tool->pointer() : Pointer::Default);
+    const ToolRow* row = chosen();
+    context_.surface.setPointer(row ? row->pointer : Pointer::Default);
 }
 
 void Tools::press(int button, int x, int y)
@@ -79,9 +50,10 @@ void Tools::press(int button, int x, int y)
         c.last = c.at;
         c.down = true;
         c.moving = c.moved = c.connect = c.corner = false;
-        active_ = chosen();
-        if (active_) {
-            c.surface.setPointer(active_->pointer());
+        active_ = nullptr;
+        if (const ToolRow* row = chosen()) {
+            active_ = &row->tool();
+            c.surface.setPointer(row->pointer);
             bool taken = false;
             if (!guarded([&] { taken = active_->press(c); })) return;
             if (!taken) active_ = nullptr;

@@ -1,11 +1,12 @@
 // Tools: the mouse and key events of a document's display, handed to the tool that Setup.CurrentTool names. The tools
-// themselves are small classes in tools_*.cpp.
+// themselves are small classes in tools_*.cpp and rows of toolRows.cpp.
 //
 // A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
 // back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
 // arithmetic end the event and nothing else. A yield within a tool may destroy this object.
 #pragma once
 #include "tools/ToolContext.h"
+#include "tools/toolRows.h"
 
 namespace velara {
 
@@ -36,7 +37,7 @@ class Tools {
     const std::vector<std::int32_t>& ToolPoints() const { return context_.points; }
 
   private:
-    const Tool* chosen() const; // null for none
+    const ToolRow* chosen() const; // null for none
     /// The one that holds the drag, else the chosen one.
     const Tool* tool() const;
     template <class Action> bool guarded(Action action);

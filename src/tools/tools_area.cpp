@@ -9,7 +9,6 @@ namespace velara {
 namespace {
 
 class FillTool final : public Tool {
-    Pointer pointer() const override { return Pointer::cFill; }
     void release(ToolContext& c) const override
     {
         const Setup& s = c.setup();
@@ -29,8 +28,6 @@ class FillTool final : public Tool {
 enum GradientMode { Linear = 0, Circular = 1 }; // of Setup.GradientMode
 
 class GradientTool final : public Tool {
-    Pointer pointer() const override { return Pointer::cGradient; }
-
     bool press(ToolContext& c) const override
     {
         c.surface.SetAutoRedraw(true);
@@ -79,7 +76,6 @@ class GradientTool final : public Tool {
 };
 
 class GetColorTool final : public Tool {
-    Pointer pointer() const override { return Pointer::cPicker; }
     bool press(ToolContext& c) const override
     {
         drag(c);

@@ -39,10 +39,7 @@ class StrokeTool : public Tool {
 /// The middle of what is placed hangs on the pointer.
 Point middleOf(const Bits& bits) { return {(bits.width() + 1) / 2 + 1, (bits.height() + 1) / 2 + 1}; }
 
-enum BrushMode { PaintColour, Soften, SoftenOver, Sharpen, Lighten, Darken, PaintStamp }; // of Setup.BrushMode
-
 class BrushTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cBrush; }
     bool isReady(const ToolContext& c) const override
     {
         return c.setup().BrushMode != PaintStamp || !c.stores().stamp.isNull();
@@ -51,34 +48,20 @@ class BrushTool final : public StrokeTool {
     {
         const Setup& s = c.setup();
         const int size = s.BrushSize, strength = s.BrushPressure;
-        if (c.connect && s.BrushContinuous) {
-            if (s.BrushMode == PaintStamp)
-                c.paint().BitsMaskedLine(c.last.x, c.last.y, c.at.x, c.at.y, size, strength, c.stores().stamp);
-            else
-                c.paint().BitsBrushLine(c.last.x, c.last.y, c.at.x, c.at.y, size, strength, s.ForeColor, s.BrushMode);
-            return;
-        }
-        switch (s.BrushMode) {
-        case PaintColour:
-            return c.paint().BitsBrush(c.at.x, c.at.y, size, strength, s.ForeColor);
-        case Soften:
-        case SoftenOver:
-            return c.paint().BitsSoften(c.at.x, c.at.y, size, strength, s.BrushMode == SoftenOver);
-        case Sharpen:
-            return c.paint().BitsSharpen(c.at.x, c.at.y, size, strength);
-        case Lighten:
-        case Darken:
-            return c.paint().BitsBrightness(c.at.x, c.at.y, size, strength, s.BrushMode == Lighten);
-        case PaintStamp:
-            return c.paint().BitsMasked(c.at.x, c.at.y, c.stores().stamp, size, strength);
-        default:
-            return;
-        }
+        const auto [x, y] = c.at;
+        const bool line = c.connect && s.BrushContinuous, stamp = s.BrushMode == PaintStamp;
+        if (line && stamp)
+            c.paint().BitsMaskedLine(c.last.x, c.last.y, x, y, size, strength, c.stores().stamp);
+        else if (line)
+            c.paint().BitsBrushLine(c.last.x, c.last.y, x, y, size, strength, s.ForeColor, s.BrushMode);
+        else if (stamp)
+            c.paint().BitsMasked(x, y, c.stores().stamp, size, strength);
+        else
+            c.paint().BitsBrushDab(x, y, size, strength, s.ForeColor, s.BrushMode);
     }
 };
 
 class AirbrushTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cAirBrush; }
     void paint(ToolContext& c) const override
     {
         const Setup& s = c.setup();
@@ -88,7 +71,6 @@ class AirbrushTool final : public StrokeTool {
 };
 
 class PencilTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cPencil; }
     void paint(ToolContext& c) const override
     {
         c.paint().BitsLine(c.last.x, c.last.y, c.at.x, c.at.y, c.setup().ForeColor, c.setup().ToolOpacity);
@@ -106,7 +88,6 @@ enum ShapeKind {
 }; // of Setup.ShapeKind
 
 class ShapeTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cPencil; }
     void paint(ToolContext& c) const override
     {
         const Setup& s = c.setup();
@@ -139,7 +120,6 @@ class ShapeTool final : public StrokeTool {
 };
 
 class StampTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cTextures; }
     bool isReady(const ToolContext& c) const override { return !c.stores().stamp.isNull(); }
     void hold(ToolContext& c) const override { c.hot = middleOf(c.stores().stamp); }
     void paint(ToolContext& c) const override
@@ -156,7 +136,6 @@ class StampTool final : public StrokeTool {
 };
 
 class TextTool final : public StrokeTool {
-    Pointer pointer() const override { return Pointer::cPencil; }
     bool isReady(const ToolContext& c) const override { return !c.stores().text.isNull(); }
     void hold(ToolContext& c) const override { c.hot = middleOf(c.stores().text); }
     void paint(ToolContext& c) const override
@@ -165,16 +144,11 @@ class TextTool final : public StrokeTool {
         c.paint().BitsBWMask(c.at.x - c.hot.x, c.at.y - c.hot.y, c.stores().text, c.setup().ForeColor,
                              c.setup().ToolOpacity);
     }
-    void space(ToolContext& c) const override
-    {
-        if (c.down) fixAndGoOn(c);
-    }
+    void space(ToolContext& c) const override { fix(c); }
 };
 
 /// The pixels hang on the pointer from the command on; a click lays them down, the right button lets go of them.
 class PasteTool final : public Tool {
-    Pointer pointer() const override { return Pointer::Sizing; }
-
     bool press(ToolContext& c) const override
     {
         hover(c);
@@ -199,7 +173,7 @@ class PasteTool final : public Tool {
         c.repaint();
     }
     void cancel(ToolContext& c) const override { letGo(c); }
-    void space(ToolContext& c) const override { fixAndGoOn(c); }
+    void space(ToolContext& c) const override { fix(c); }
 
     static void letGo(ToolContext& c)
     {
@@ -216,11 +190,11 @@ template <class T> const Tool& only()
 
 } // namespace
 
-void Tool::fixAndGoOn(ToolContext& c) const
+void Tool::fix(ToolContext& c) const
 {
     const std::weak_ptr<int> life = c.life;
     c.commit();
-    if (life.expired()) return;
+    if (life.expired() || !(c.down || c.stores().pastePending)) return;
     c.at = c.last;
     drag(c);
 }

@@ -33,8 +33,6 @@ void dropCorners(ToolContext& c)
 /// A polygon is made of drags from corner to corner: a release sets a corner, and so does Space while the button stays
 /// down. It closes at the end of a drag with such corners, or where a release meets the first corner.
 class SelectTool final : public Tool {
-    Pointer pointer() const override { return Pointer::Cross; }
-
     bool press(ToolContext& c) const override
     {
         const int shape = c.setup().SelectionShape;
@@ -126,8 +124,6 @@ class SelectTool final : public Tool {
 
 /// Moves the outline alone, or a copy of the content. moving: the press lay in the selection.
 class SelectionMoveTool final : public Tool {
-    Pointer pointer() const override { return Pointer::Sizing; }
-
     bool press(ToolContext& c) const override
     {
         if (!c.setup().MoveSelection) c.surface.StopTimer();
@@ -185,10 +181,7 @@ class SelectionMoveTool final : public Tool {
         c.moved = false;
     }
 
-    void space(ToolContext& c) const override
-    {
-        if (c.down) fixAndGoOn(c);
-    }
+    void space(ToolContext& c) const override { fix(c); }
 
     void ctrlReleased(ToolContext& c) const override
     {

@@ -314,9 +314,9 @@ TEST_F(BatchTest, HelpAndListNameEverything)
     const Outcome help = run("--help"), list = run("in.ppm --list"), verbose = run("in.ppm --verbose INVERT out.png");
     for (const char* word : {"--select", "--list", "--verbose", "polygon:", "Exit status"})
         EXPECT_NE(std::string::npos, help.output.find(word)) << word;
-    for (const char* line :
-         {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:whole)",
-          "Flip(Horizontal:true|false,Vertical:true|false)", "ApplyTexture(Index:whole,Value:whole,Texture:file?)"})
+    for (const char* line : {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:0..50:10)",
+                             "Flip(Horizontal:true|false,Vertical:true|false)",
+                             "ApplyTexture(Index:1..33:8,Value:1..100:50,Texture:file?)"})
         EXPECT_NE(std::string::npos, list.output.find(line)) << line;
     EXPECT_EQ(0, help.status);
     EXPECT_EQ(0, list.status);

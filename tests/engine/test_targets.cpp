@@ -1,7 +1,7 @@
 // The vector kernels of every target the processor has give the same bytes.
 #include "engine/colour/mPalette.h"
-#include "support/argumentRanges.h"
 #include "support/pictures.h"
+#include "support/typicalArguments.h"
 #include <hwy/targets.h>
 
 namespace velara {

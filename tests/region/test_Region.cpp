@@ -89,6 +89,16 @@ TEST_P(RegionAlgebra, IsThatOfPixels)
 }
 INSTANTIATE_TEST_SUITE_P(Seeds, RegionAlgebra, ::testing::Range(1, 4));
 
+TEST(Region, StaysWhereItsCoordinatesWouldOverflow)
+{
+    constexpr int kMost = std::numeric_limits<int>::max(), kLeast = std::numeric_limits<int>::min();
+    const Region a = Region::rectangle(-3, -4, 5, 6);
+    for (const auto& [dx, dy] :
+         {std::pair(kMost - 4, 0), std::pair(kLeast + 2, 0), std::pair(0, kMost - 5), std::pair(0, kLeast + 3)})
+        EXPECT_EQ(a.translated(dx, dy), a) << dx << ", " << dy;
+    EXPECT_EQ(a.translated(kMost - 5, kMost - 6).bounds(), (Rect{kMost - 8, kMost - 10, kMost, kMost}));
+}
+
 TEST(Region, IsScaledByWholeRectangles)
 {
     const Region two = Region::fromWords(wordsOf({0, 0, 5, 5, 5, 5, 10, 7}));

@@ -161,17 +161,18 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
     EXPECT_EQ(selection(), shape);
 }
 
-TEST_F(MoveTool, SpaceFixesTheContentUnderTheButtonAndGoesOn)
+TEST_F(MoveTool, SpaceFixesTheContentAndGoesOnUnderTheButton)
 {
     frame.setup_.MoveSelection = false;
     frame.setup_.SelectionPressure = 100;
     const Bits before = document.Bits();
-    EXPECT_TRUE(tools->keyDown(Tools::Space)); // nothing held: nothing to fix
-    EXPECT_EQ(frame.snapshots, 0);
+    EXPECT_TRUE(tools->keyDown(Tools::Space)); // without the button: what stands is fixed, and nothing goes on
+    EXPECT_EQ(frame.snapshots, 1);
+    EXPECT_TRUE(sameBits(before, frame.filter_.bits()));
     press({15, 15});
     move({35, 15});
     tools->keyDown(Tools::Space);
-    EXPECT_EQ(frame.snapshots, 1);
+    EXPECT_EQ(frame.snapshots, 2);
     move({15, 35});
     release({15, 35});
     EXPECT_EQ(document.Bits().at(15, 35).c[0], before.at(15, 15).c[0]);

@@ -86,7 +86,6 @@ Bits gradient(const Bits& bits, const Region& region, const Arguments& a, bool l
         angle += 3.141592f;
     else if (dyy < 0)
         angle += 6.283184f;
-    angle = static_cast<float>(angle);
     const float cr = static_cast<float>(std::cos(angle) / R), sr = static_cast<float>(std::sin(angle) / R);
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const double rx = x - x1, ry = y - y1;

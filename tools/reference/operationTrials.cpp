@@ -1,7 +1,6 @@
 // Trials of the operation table: random ones by picture size, arguments a little beyond their ranges, and what needs a
 // picture or an argument of its own.
 #include "engine/colour/mPalette.h"
-#include "support/argumentRanges.h"
 #include "tools/reference/definitions.h"
 #include "tools/reference/trials.h"
 #include <climits>
@@ -32,7 +31,7 @@ Argument numeric(ArgumentType type, double v)
     return v;
 }
 
-/// The ends of a range come up more often than what lies between.
+/// The ends of a range and what lies near the usual come up more often than the rest.
 Arguments drawArguments(const Operation& op, Dice& dice)
 {
     Arguments arguments;
@@ -42,16 +41,18 @@ Arguments drawArguments(const Operation& op, Dice& dice)
         } else if (p.type == ArgumentType::Picture) {
             arguments.push_back(dice.smallBits(12));
         } else {
-            const ArgumentRange& range = rangeOf(op, p);
+            const auto choices = choicesOf(p);
             const int kind = dice.within(0, 7);
+            const double reach = (p.most - p.least) / (kind < 5 ? 8 : 1);
+            const double low = std::max(p.least, p.typical - reach), high = std::min(p.most, p.typical + reach);
             if (p.type == ArgumentType::Text)
-                arguments.push_back(range.texts.at(dice.next() % range.texts.size()));
+                arguments.push_back(choices[dice.next() % choices.size()]);
             else if (kind < 2)
-                arguments.push_back(numeric(p.type, kind == 0 ? range.low : range.high));
+                arguments.push_back(numeric(p.type, kind == 0 ? p.least : p.most));
             else if (p.type == ArgumentType::Integer)
-                arguments.push_back(dice.within(static_cast<int>(range.low), static_cast<int>(range.high)));
+                arguments.push_back(dice.within(static_cast<int>(low), static_cast<int>(high)));
             else
-                arguments.push_back(dice.between(range.low, range.high));
+                arguments.push_back(dice.between(low, high));
         }
     }
     return arguments;
@@ -64,9 +65,8 @@ std::vector<Arguments> beyondRanges(const Operation& op, Dice& dice)
     for (std::size_t i = 0; i < op.parameters.size(); ++i) {
         const Parameter& p = op.parameters[i];
         if (p.type != ArgumentType::Integer && p.type != ArgumentType::Number) continue;
-        const ArgumentRange& range = rangeOf(op, p);
-        const double span = range.high - range.low + 1;
-        for (const double v : {range.low - 1, range.high + 1, range.low - 10 * span, range.high + 10 * span}) {
+        const double span = p.most - p.least + 1;
+        for (const double v : {p.least - 1, p.most + 1, p.least - 10 * span, p.most + 10 * span}) {
             all.push_back(drawArguments(op, dice));
             all.back()[i] = numeric(p.type, std::clamp(v, double(INT_MIN), double(INT_MAX)));
         }

@@ -114,7 +114,7 @@ const PaintRow kRows[] = {
     {"Ellipse",
      [](auto& s) {
          const auto [x, y] = s.somewhere();
-         const int rx = s.dice.within(0, 40), ry = s.dice.within(0, 40), opacity = s.percent();
+         const int rx = s.dice.within(0, 140), ry = s.dice.within(0, 40), opacity = s.percent();
          s.painter.BitsEllipse(x, y, rx, ry, s.colour(), opacity);
      }},
     {"Polygon",
@@ -162,7 +162,7 @@ const PaintRow kRows[] = {
              s.painter.BitsBrush(x + 3, y, s.dice.within(0, 5), 50, 0); // done already: a wall
              const int tolerance = s.dice.oneIn(4) ? 765 : s.dice.within(0, 60), opacity = s.percent();
              s.painter.BitsFill(x, y, s.colour(), tolerance, opacity);
-             s.painter.CreateDoneBitsTable();
+             if (s.dice.oneIn(2)) s.painter.CreateDoneBitsTable(); // else what was met is a wall for the next
          }
      }},
     {"FillTexture",
@@ -171,6 +171,7 @@ const PaintRow kRows[] = {
          const Bits source = s.dice.smallBits(30);
          const int tolerance = s.dice.oneIn(4) ? 765 : s.dice.within(0, 60);
          s.painter.BitsFillTexture(x, y, source, tolerance, s.percent());
+         s.painter.BitsBrush(x, y, 40, 50, 0); // leaves out what was met
      }},
 };
 

@@ -177,10 +177,10 @@ void PaintTwin::BitsEllipse(int cx, int cy, int rx, int ry, Colour colour, int o
 {
     const int m = std::max(rx, ry);
     const float step = static_cast<float>(m == 0 ? 0.534070725 : 0.534070725 / m);
-    float a = 0;
+    double a = 0;
     while (a < 6.283185) {
         a += step;
-        double px = rx * std::cos(a * 1.0) + cx, py = ry * std::sin(a * 1.0) + cy;
+        double px = rx * std::cos(a) + cx, py = ry * std::sin(a) + cy;
         plot(px, py, colour, opacity);
     }
 }

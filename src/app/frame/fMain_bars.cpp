@@ -188,9 +188,10 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
 
 void fMain::initToolPanes()
 {
-    for (const char* tool : {"SelectionMove", "Select", "Airbrush", "Brush", "Fill", "Shape", "Gradient", "Stamp"}) {
-        toolPane_->setPane(tool, makeSidePane(tool, *this));
-        new fHover(toolPane_->button(tool), [this, tool] { return makePopup(tool, *this, this); });
+    for (const ToolRow& tool : toolRows()) {
+        if (tool.pane.empty()) continue;
+        toolPane_->setPane(tool.name, makeSidePane(tool, *this));
+        new fHover(toolPane_->button(tool.name), [this, &tool] { return makePopup(tool, *this, this); });
     }
     Tool_Frame();
 }

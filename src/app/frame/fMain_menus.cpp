@@ -3,6 +3,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "tools/toolRows.h"
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
@@ -109,15 +110,20 @@ void fMain::buildToolbars()
         else
             addToolBar(bars_[std::size_t(place)]);
     }
-    for (const char* key : {"ZoomIn", "ZoomOut"}) {
-        auto* zoom = new QAction(this);
-        zoom->setObjectName(key);
-        zoom->setShortcuts(QString(key) == "ZoomIn"
-                               ? QList<QKeySequence>{QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}
-                               : QList<QKeySequence>{QKeySequence("Ctrl+-")});
-        connect(zoom, &QAction::triggered, this, [this, key] { toolClicked(key); });
-        addAction(zoom);
-    }
+    // The keys of the tool strip. A text field that has the focus keeps its letters.
+    const auto bind = [this](const QString& key, const QString& shortcuts, auto run) {
+        auto* action = new QAction(this);
+        action->setObjectName(key);
+        QList<QKeySequence> sequences;
+        for (const QString& one : shortcuts.split(' ')) sequences << QKeySequence(one);
+        action->setShortcuts(sequences);
+        connect(action, &QAction::triggered, this, run);
+        addAction(action);
+    };
+    for (const ToolRow& tool : toolRows())
+        bind(tool.name, QString(QLatin1Char(tool.key)), [this, &tool] { toolClicked(tool.name); });
+    for (const StripRow& row : stripRows())
+        bind(text(row.key), text(row.shortcuts), [this, &row] { toolPane_->button(text(row.key))->click(); });
 }
 
 void fMain::fillToolbar(QToolBar* bar, std::string_view buttons)

@@ -1,6 +1,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "tools/toolRows.h"
 #include <QGridLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -56,23 +57,27 @@ QWidget* fToolPane::makeStrip()
     auto* grid = new QGridLayout(strip);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2);
-    int place = 0;
-    for (const ToolButtonRow& row : toolButtonRows()) {
-        const QString key = text(row.key);
+    const auto add = [&](int number, const QString& key, const QString& caption, bool checkable) {
         auto* button = new QToolButton(strip);
-        button->setObjectName("tb_tools_" + QString::number(row.number));
-        button->setAccessibleName(text(row.caption));
-        button->setToolTip(text(row.caption));
+        button->setObjectName("tb_tools_" + QString::number(number));
+        button->setAccessibleName(caption);
+        button->setToolTip(caption);
         button->setIconSize({22, 22});
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::TabFocus);
-        button->setCheckable(row.tool || row.key == "MouseScroll");
-        if (row.tool) group_.addButton(button);
+        button->setCheckable(checkable);
         connect(button, &QToolButton::clicked, this, [this, key] { emit clicked(key); });
+        const int place = static_cast<int>(buttons_.size());
         grid->addWidget(button, place / kColumns, place % kColumns);
-        buttons_[key] = button;
-        ++place;
+        return buttons_[key] = button;
+    };
+    int number = 0;
+    for (const ToolRow& tool : toolRows()) {
+        QToolButton* button = add(++number, tool.name, tr(tool.caption), true);
+        button->setToolTip(QString("%1 (%2)").arg(tr(tool.caption)).arg(QLatin1Char(tool.key)));
+        group_.addButton(button);
     }
+    for (const StripRow& row : stripRows()) add(row.number, text(row.key), text(row.caption), row.checkable);
     return strip;
 }
 

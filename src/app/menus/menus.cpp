@@ -12,6 +12,7 @@ struct LightHeavy {
 };
 
 // clang-format off
+constexpr std::string_view kTheTen = "the ten"; // marks where they go
 constexpr LightHeavy kLightHeavy[] = {
     {"LUMINOUS",   "Luminousity", "LUMPLUS",         "LUMMINUS",        "LIGHTCUSTOM"},
     {"EMBOSS",     "Emboss",      "LIGHTEMBOSS",     "HEAVYEMBOSS",     "CUSTOMEMBOSS"},
@@ -155,7 +156,7 @@ constexpr MenuRow kMenus[] = {
         {Item, "FILTERS", 4, "Dilate", "DILATE"},
         {Item, "FILTERS", 5, "Painting", "PAINTING"},
         {Item, "FILTERS", 6, "Edge Enhance", "EDGEENHANCE"},
-        {Separator, "kLightHeavy"}, // the ten menus above go in here
+        {Separator, kTheTen},
         {Separator},
         {SubMenu, "mnuAdd", 0, "Add"},
             {Item, "ADD", 0, "Grid", "ADDGRID"},
@@ -304,22 +305,10 @@ constexpr DropRow kDrops[] = {
     {"tbCaptureB", 2, 3, "Stretch", "WSTRETCH"},
 };
 
-// Resting on 2 to 10 pops the tool's pane up, in the order of the panes; 14 is the hand.
-constexpr ToolButtonRow kToolButtons[] = {
-    { 1, "GetColor",      "Pick a color",             true},
-    { 2, "SelectionMove", "Move the selection",       true},
-    { 3, "Select",        "Select",                   true},
-    { 4, "Brush",         "Brush",                    true},
-    { 5, "Fill",          "Fill",                     true},
-    { 6, "Shape",         "Shape",                    true},
-    { 7, "Airbrush",      "Airbrush",                 true},
-    { 8, "Stamp",         "Stamp",                    true},
-    { 9, "Gradient",      "Gradient",                 true},
-    {10, "Text",          "Text",                     true},
-    {11, "Pencil",        "Pencil",                   true},
-    {14, "MouseScroll",   "Scroll with the hand",     false},
-    {15, "ZoomIn",        "Zoom in (Ctrl++)",         false},
-    {16, "ZoomOut",       "Zoom out (Ctrl+-)",        false},
+constexpr StripRow kStrip[] = {
+    {14, "MouseScroll", "Scroll with the hand (H)", true,  "H"},
+    {15, "ZoomIn",      "Zoom in (Ctrl++)",         false, "Ctrl++ Ctrl+="},
+    {16, "ZoomOut",     "Zoom out (Ctrl+-)",        false, "Ctrl+-"},
 };
 // clang-format on
 
@@ -331,7 +320,7 @@ std::span<const MenuRow> menuRows()
         std::vector<MenuRow> all;
         for (const MenuRow& row : kMenus) {
             all.push_back(row);
-            if (row.array != "kLightHeavy") continue;
+            if (row.array != kTheTen) continue;
             all.back().array = {};
             for (const LightHeavy& m : kLightHeavy) {
                 all.push_back({SubMenu, m.array, 0, m.caption});
@@ -350,6 +339,6 @@ std::span<const MenuRow> menuRows()
 std::span<const ButtonRow> buttonRows() { return kButtons; }
 std::span<const DropRow> dropRows() { return kDrops; }
 std::span<const BarRow> barRows() { return kBars; }
-std::span<const ToolButtonRow> toolButtonRows() { return kToolButtons; }
+std::span<const StripRow> stripRows() { return kStrip; }
 
 } // namespace velara

@@ -52,17 +52,18 @@ struct BarRow {
 };
 std::span<const BarRow> barRows();
 
-/// The buttons of the tool strip tb_tools, in order; key is what a click gives.
-struct ToolButtonRow {
+/// The buttons of the tool strip tb_tools below those of the tools; key is what a click gives.
+struct StripRow {
     int number;
     std::string_view key;
     std::string_view caption;
-    bool tool; // one of the group of which one is down; else zooming or the hand
+    bool checkable;
+    std::string_view shortcuts; // split by blanks
 };
-std::span<const ToolButtonRow> toolButtonRows();
+std::span<const StripRow> stripRows();
 
-/// Name of the picture of a word, an "@" action or a tool key: an icon of the theme, or one of our own (":name"). Empty
-/// when it has none.
+/// Name of the picture of a word, an "@" action or a button of the strip: an icon of the theme, or one of our own
+/// (":name"). Empty when it has none.
 std::string_view pictureOf(std::string_view word);
 
 } // namespace velara

@@ -1,4 +1,5 @@
 #include "app/menus/menus.h"
+#include "tools/toolRows.h"
 #include <algorithm>
 
 namespace velara {
@@ -41,9 +42,6 @@ constexpr PictureRow kPictures[] = {
     {"RGBLEVELS", "adjustrgb"}, {"COLORIZE", "adjusthsl"}, {"GAMMA", "adjustcurves"},
     {"LENS", "lensdistortion"}, {"WAVES", ":waves"}, {"LENSFLARE", "lensautofix"}, {"ADDGRID", "view-grid"},
     {"ADDSCANLINES", ":scanlines"}, {"ADDNOISE", ":noise"},
-    {"GetColor", "color-picker"}, {"SelectionMove", "transform-move"}, {"Select", "select-rectangular"},
-    {"Brush", "draw-brush"}, {"Fill", "fill-color"}, {"Shape", "draw-polygon"}, {"Airbrush", "tool_spraycan"},
-    {"Stamp", ":stamp"}, {"Gradient", "color-gradient"}, {"Text", "draw-text"}, {"Pencil", "draw-freehand"},
     {"MouseScroll", "hand"}, {"ZoomIn", "zoom-in"}, {"ZoomOut", "zoom-out"},
 };
 // clang-format on
@@ -52,6 +50,8 @@ constexpr PictureRow kPictures[] = {
 
 std::string_view pictureOf(std::string_view word)
 {
+    for (const ToolRow& tool : toolRows())
+        if (tool.name == word) return tool.icon;
     const auto row = std::ranges::find(kPictures, word, &PictureRow::word);
     return row == std::end(kPictures) ? std::string_view() : row->picture;
 }

@@ -1,6 +1,6 @@
 // ClassyColors: fixed recipes that mix the channels of a pixel.
-#include "engine/colour/PairTables.h"
 #include "engine/colour/kernels_colour.h"
+#include "engine/colour/lookUps.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Filters by hue, saturation and lightness, and the greys and false colours that are a function of brightness.
-#include "engine/colour/PairTables.h"
 #include "engine/colour/kernels_colour.h"
 #include "engine/colour/kernels_hsl.h"
+#include "engine/colour/lookUps.h"
 #include "engine/passes.h"
 #include "pixels/mHSLRGB.h"
 #include "pixels/numbers.h"

@@ -1,5 +1,5 @@
 // PaletteApply: the palette's nearest colours, with a reduced error diffusion.
-#include "engine/colour/PairTables.h"
+#include "engine/colour/lookUps.h"
 #include "engine/colour/mPalette.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"

@@ -1,6 +1,6 @@
 // Tone: tables, grey, contrast, saturation and the measurements of a picture's brightness.
-#include "engine/colour/PairTables.h"
 #include "engine/colour/kernels_colour.h"
+#include "engine/colour/lookUps.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
 

@@ -33,16 +33,9 @@ void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
         const auto range = hn::Sub(most, least);
         const auto turned = hn::Add(hueOf(d32, r, g, b, most, range), single(hue.offset));
         const auto h = hn::Sub(turned, hn::IfThenElseZero(hn::Gt(turned, single(5)), single(6)));
-        // From the least channel to the greatest. Above the middle the saturation counts the other way round; at the
-        // middle itself the singles decide which side it is.
-        const auto sum = hn::Add(most, least), middle = hn::Set(d32, 255);
-        const auto chroma = hn::Mul(hn::ConvertTo(df, range), single(hue.saturation));
-        const auto room = hn::ConvertTo(df, hn::Sub(hn::Set(d32, 510), sum));
-        const auto isLight = hn::RebindMask(df, hn::Gt(sum, middle));
-        const auto isGrey = hn::RebindMask(df, hn::Eq(range, hn::Zero(d32)));
-        const auto span = hn::IfThenZeroElse(isGrey, hn::IfThenElse(isLight, hn::Sub(room, chroma), chroma));
-        const auto low = hn::Mul(hn::Sub(hn::ConvertTo(df, sum), span), single(0.5f));
-        const auto isMiddle = hn::VecFromMask(d32, hn::Eq(sum, middle));
+        // From the least channel to the greatest.
+        const auto span = hn::Mul(hn::ConvertTo(df, range), single(hue.saturation));
+        const auto low = hn::Mul(hn::Sub(hn::ConvertTo(df, hn::Add(most, least)), span), single(0.5f));
         const auto lanes = [&](auto mask) HWY_ATTR { return hn::BitCast(d32, hn::VecFromMask(df, mask)); };
         const auto part = [&](float axis) HWY_ATTR {
             const auto away = hn::Abs(hn::Sub(h, single(axis)));
@@ -54,7 +47,7 @@ void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
             const auto off = hn::Abs(hn::Sub(value, hn::ConvertTo(df, rounded)));
             return Part<std::remove_const_t<decltype(rounded)>>{rounded, lanes(hn::Gt(share, single(1 + kSeam))),
                                                                 lanes(hn::Lt(share, single(-kSeam))),
-                                                                hn::Or(isMiddle, lanes(hn::Gt(off, single(kInDoubt))))};
+                                                                lanes(hn::Gt(off, single(kInDoubt)))};
         };
         auto red = part(0), green = part(2), blue = part(4);
         const auto anyDoubt = hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt);

@@ -47,15 +47,15 @@ double distance(int X1, int Y1, int X2, int Y2)
     return std::sqrt(dx * dx + dy * dy);
 }
 
-/// The direction of the line, in single, from -pi/2 to two turns.
-float direction(double dx, double dy)
+/// The direction of the line, from -pi/2 to two turns.
+double direction(double dx, double dy)
 {
     double a = dx != 0 ? std::atan(dy / dx) : (dy > 0 ? 1 : -1) * 90 * kDegreesToRadians;
     if (dx < 0)
         a += kPi;
     else if (dy < 0)
         a += kTwoPi;
-    return static_cast<float>(a);
+    return a;
 }
 
 } // namespace

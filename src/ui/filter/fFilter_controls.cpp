@@ -208,7 +208,7 @@ QWidget* fFilter::makeCurtain()
     auto* box = named(new QGroupBox(tr("Curtain Effects"), controls_), QStringLiteral("FrmCurtain"));
     auto* line = new QHBoxLayout(box);
     Curt_ = new QButtonGroup(box);
-    for (std::size_t i = 0; i < std::size(kCurtains); ++i) {
+    for (std::size_t i = std::size(kCurtains); i-- > 0;) { // the last stands first
         const QString caption = tr(kCurtains[i]);
         auto* button = named(new QRadioButton(caption, box), numbered("Curt", i), caption + tr(" curtain"));
         button->setChecked(i == 0);

@@ -96,8 +96,8 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
     keep_->setAccessibleName("Keep proportions");
     keep_->setChecked(ratio > 0);
     grid->addWidget(keep_, 2, 0, 1, 2);
-    connect(keep_, &QCheckBox::toggled, this, [this](bool on) {
-        if (on && heightValue() > 0) ratio_ = double(widthValue()) / heightValue();
+    connect(keep_, &QCheckBox::toggled, this, [this, ofPicture = ratio > 0](bool on) {
+        if (on && !ofPicture && heightValue() > 0) ratio_ = double(widthValue()) / heightValue();
     });
     set(width, height);
 }

@@ -4,33 +4,11 @@
 #include "seams/Frame.h"
 #include "ui/widgets/viewRender.h"
 #include <QLabel>
-#include <QSlider>
 #include <QVBoxLayout>
 
 namespace velara {
 
 namespace {
-
-constexpr PaneRow kGradient[] = {
-    // clang-format off
-    choice<&Setup::GradientMode>       (PaneKind::Combo, "cbGradMode", "Form of the gradient", "Linear|Circular"),
-    well<&Setup::GradientColor1>       ("GradColor_0", "First color"),
-    check<&Setup::GradientTransparent1>("chkTranspCol_0", "Transparent"),
-    well<&Setup::GradientColor2>       ("GradColor_1", "Second color"),
-    check<&Setup::GradientTransparent2>("chkTranspCol_1", "Transparent"),
-    slider<&Setup::GradientFrequency>  ("sbGradFrequency", "Frequency", 1, 20),
-    slider<&Setup::GradientPressure>   ("sbGradPressure", "Pressure", 0, 100),
-    // clang-format on
-};
-
-constexpr PaneRow kShape[] = {
-    // clang-format off
-    choice<&Setup::ShapeKind>    (PaneKind::List, "lstShape", "Shape", "Line|Free hand|Square|Rectangle|Circle|Ellipse|Polygon"),
-    slider<&Setup::ShapePressure>("sbShapePressure", "Pressure", 0, 100),
-    slider<&Setup::ShapeSides>   ("sbShapeSides", "Pol. sides", 3, 24),
-    // clang-format on
-};
-constexpr int kPolygon = 6; // of Setup.ShapeKind
 
 constexpr int kWidth = 150, kHeight = 48; // of the preview
 
@@ -62,8 +40,8 @@ Bits previewOf(const Setup& s)
 
 } // namespace
 
-FGradient::FGradient(Frame& frame, const QString& name, QWidget* parent)
-    : fPane(frame, name, kGradient, parent), iGrad_(new QLabel(this))
+FGradient::FGradient(Frame& frame, const QString& name, std::span<const PaneRow> rows)
+    : fPane(frame, name, rows), iGrad_(new QLabel(this))
 {
     iGrad_->setObjectName("iGrad");
     iGrad_->setAccessibleName(tr("The gradient"));
@@ -79,15 +57,6 @@ try {
     iGrad_->setPixmap(QPixmap::fromImage(picture));
 } catch (const RuntimeError&) {
     iGrad_->clear();
-}
-
-FShape::FShape(Frame& frame, const QString& name, QWidget* parent) : fPane(frame, name, kShape, parent) { edited(); }
-
-void FShape::edited()
-{
-    const bool polygon = frame().setup().ShapeKind == kPolygon;
-    for (const char* control : {"sbShapeSides", "lblsbShapeSides"})
-        if (auto* widget = findChild<QWidget*>(control)) widget->setEnabled(polygon);
 }
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// FGradient and FShape: panes that follow what is chosen in them.
+// FGradient: the pane of the gradient tool.
 #pragma once
 #include "ui/panes/fPane.h"
 
@@ -10,22 +10,12 @@ namespace velara {
 class FGradient final : public fPane {
     Q_OBJECT
   public:
-    FGradient(Frame& frame, const QString& name, QWidget* parent = nullptr);
+    FGradient(Frame& frame, const QString& name, std::span<const PaneRow> rows);
 
   private:
     void edited() override;
 
     QLabel* iGrad_;
-};
-
-/// The number of sides is for polygons only.
-class FShape final : public fPane {
-    Q_OBJECT
-  public:
-    FShape(Frame& frame, const QString& name, QWidget* parent = nullptr);
-
-  private:
-    void edited() override;
 };
 
 } // namespace velara

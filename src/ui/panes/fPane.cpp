@@ -37,7 +37,7 @@ int placeOf(const PaneRow& row, int number)
 } // namespace
 
 fPane::fPane(Frame& frame, const QString& name, std::span<const PaneRow> rows, QWidget* parent)
-    : QFrame(parent), frame_(frame), column_(new QVBoxLayout(this))
+    : QFrame(parent), frame_(frame), column_(new QVBoxLayout(this)), rows_(rows)
 {
     setObjectName(name);
     column_->setContentsMargins(6, 6, 6, 6);
@@ -57,7 +57,17 @@ void fPane::refresh()
     refreshing_ = true;
     for (const auto& show : shows_) show();
     refreshing_ = false;
+    showWhatApplies();
     edited();
+}
+
+void fPane::showWhatApplies()
+{
+    for (const PaneRow& row : rows_) {
+        if (!row.applies) continue;
+        for (const QString& control : {QString(row.name), QString("lbl") + row.name})
+            if (auto* widget = findChild<QWidget*>(control)) widget->setEnabled(row.applies(frame_.setup()));
+    }
 }
 
 int fPane::value(const PaneRow& row) const { return row.get(frame_.setup(), frame_.toolStores()); }
@@ -65,7 +75,9 @@ int fPane::value(const PaneRow& row) const { return row.get(frame_.setup(), fram
 void fPane::write(const PaneRow& row, int value)
 {
     row.set(frame_.setup(), frame_.toolStores(), value);
-    if (!refreshing_) edited();
+    if (refreshing_) return;
+    showWhatApplies();
+    edited();
 }
 
 void fPane::add(const PaneRow& row)

@@ -16,20 +16,10 @@ namespace {
 
 constexpr int kPreview = 96; // side of the preview
 
-constexpr PaneRow kRows[] = {
-    // clang-format off
-    check<&Setup::StampUseMaskColor>("chkUseMaskColor", "&Mask color :", "Use mask color"),
-    well<&Setup::StampMaskColor>    ("MaskColor", "Mask color"),
-    check<&Setup::StampMask>        ("chkStampMask", "&Stamp mask", "Current color stamp"),
-    check<&Setup::StampClearBack>   ("chkClearBack", "&Clear back", "Clear stamp track"),
-    slider<&Setup::StampPressure>   ("sbStampPressure", "Pressure", 0, 100),
-    // clang-format on
-};
-
 } // namespace
 
-FStamp::FStamp(Frame& frame, const QString& name, QWidget* parent)
-    : fPane(frame, name, kRows, parent), cbStamps_(new QComboBox(this)), iStamp_(new QLabel(this)),
+FStamp::FStamp(Frame& frame, const QString& name, std::span<const PaneRow> rows)
+    : fPane(frame, name, rows), cbStamps_(new QComboBox(this)), iStamp_(new QLabel(this)),
       missing_(new QLabel(tr("Stamp sub-Folder Not Found!"), this))
 {
     cbStamps_->setObjectName("cbStamps");

@@ -12,7 +12,7 @@ namespace velara {
 class FStamp final : public fPane {
     Q_OBJECT
   public:
-    FStamp(Frame& frame, const QString& name, QWidget* parent = nullptr);
+    FStamp(Frame& frame, const QString& name, std::span<const PaneRow> rows);
     bool folderFound() const { return found_; }
 
   private:

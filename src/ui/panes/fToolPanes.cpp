@@ -10,65 +10,30 @@ namespace velara {
 
 namespace {
 
-// clang-format off
-constexpr PaneRow kSelection[] = {
-    choice<&Setup::SelectionMode>    (PaneKind::Combo, "cbSelectionMode", "Mode of selecting", "Add|Subtract|New"),
-    choice<&Setup::SelectionShape>   (PaneKind::Combo, "cbSelectionShape", "Shape of the selection", "Rectangle|Ellipse|Polygon/Free hand|Pixel"),
-    slider<&Setup::SelectionPressure>("sbSelectionPressure", "Pressure", 0, 100),
-    check<&Setup::MoveSelection>     ("chkMoveSelection", "&Move selection", "Move region / move pixels"),
+/// The panes that show more than settings, by tool.
+struct OwnPane {
+    std::string_view tool;
+    fPane* (*make)(Frame&, const QString& name, std::span<const PaneRow> rows);
 };
-constexpr PaneRow kSelectionMove[] = {
-    choice<&Setup::MoveSelection>       (PaneKind::Combo, "cSelect", "What moves", "Move Selection Only|Move Content Only", "10"),
-    check<&ToolStores::useMovePressure> ("cSelectionOwn", "&Use this intensity", "Instead of the selection's pressure"),
-    slider<&ToolStores::movePressure>   ("cSelectionPressure", "Opaque Intensity", 0, 100),
-};
-constexpr PaneRow kBrush[] = {
-    choice<&Setup::BrushMode>       (PaneKind::Combo, "cbBrushMode", "Mode of the brush",
-                                     "Current color|Current stamp|Darken|Lighten|Sharpen|Soften|Soften (Overlay)", "0654312"),
-    slider<&Setup::BrushSize>       ("sbBrushSize", "Size", 1, 200),
-    slider<&Setup::BrushPressure>   ("sbBrushPressure", "Intensity", 0, 100),
-};
-constexpr PaneRow kAirbrush[] = {
-    slider<&Setup::AirbrushSize>      ("sbAirbrushSize", "Size", 2, 200),
-    slider<&Setup::AirbrushPressure>  ("sbAirbrushPressure", "Pressure", 0, 100),
-    slider<&Setup::AirbrushQuantity>  ("sbAirBrushQuantity", "Quantity", 0, 100),
-    slider<&Setup::AirbrushDefinition>("sbAirbrushDefinition", "Definition", 0, 100),
-};
-constexpr PaneRow kFill[] = {
-    choice<&Setup::FillMode>     (PaneKind::Combo, "cbFillMode", "What fills", "Current color|Current stamp"),
-    slider<&Setup::FillTolerance>("sbFillTolerance", "Tolerance", 0, 765),
-    slider<&Setup::FillPressure> ("sbFillPressure", "Pressure", 0, 100),
-};
-
-template <auto& Rows> fPane* plain(Frame& frame, const QString& name) { return new fPane(frame, name, Rows); }
-template <class Pane> fPane* own(Frame& frame, const QString& name) { return new Pane(frame, name); }
-
-constexpr ToolPaneRow kPanes[] = {
-    {"SelectionMove", "SelectionMove", "fSelectionMove", plain<kSelectionMove>},
-    {"Select",        "Selection",     "FSelection",     plain<kSelection>},
-    {"Brush",         "Brush",         "FBrush",         plain<kBrush>},
-    {"Fill",          "Fill",          "FFill",          plain<kFill>},
-    {"Shape",         "Shape",         "FShape",         own<FShape>},
-    {"Airbrush",      "AirBrush",      "FAirbrush",      plain<kAirbrush>},
-    {"Stamp",         "Stamp",         "FStamp",         own<FStamp>},
-    {"Gradient",      "Gradient",      "FGradient",      own<FGradient>},
-};
-// clang-format on
-
-fPane* make(const QString& tool, Frame& frame, const char* ToolPaneRow::*name)
+template <class Pane> fPane* own(Frame& frame, const QString& name, std::span<const PaneRow> rows)
 {
-    for (const ToolPaneRow& row : kPanes)
-        if (tool == QLatin1String(row.tool)) return row.make(frame, QLatin1String(row.*name));
-    return nullptr;
+    return new Pane(frame, name, rows);
+}
+constexpr OwnPane kOwnPanes[] = {{"Stamp", own<FStamp>}, {"Gradient", own<FGradient>}};
+
+fPane* make(const ToolRow& tool, Frame& frame, const char* name)
+{
+    if (tool.pane.empty()) return nullptr;
+    for (const OwnPane& pane : kOwnPanes)
+        if (pane.tool == tool.name) return pane.make(frame, name, tool.pane);
+    return new fPane(frame, name, tool.pane);
 }
 
 } // namespace
 
-std::span<const ToolPaneRow> toolPaneRows() { return kPanes; }
-
-QWidget* makeSidePane(const QString& tool, Frame& frame, QWidget* parent)
+QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent)
 {
-    fPane* pane = make(tool, frame, &ToolPaneRow::side);
+    fPane* pane = make(tool, frame, tool.side);
     if (!pane) return nullptr;
     static_cast<QVBoxLayout*>(pane->layout())->addStretch();
     auto* area = new QScrollArea(parent); // a frame of little height keeps its height
@@ -84,9 +49,9 @@ QWidget* makeSidePane(const QString& tool, Frame& frame, QWidget* parent)
     return area;
 }
 
-QWidget* makePopup(const QString& tool, Frame& frame, QWidget* parent)
+QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent)
 {
-    fPane* pane = make(tool, frame, &ToolPaneRow::popup);
+    fPane* pane = make(tool, frame, tool.popup);
     if (!pane) return nullptr;
     pane->setParent(parent, Qt::Tool | Qt::FramelessWindowHint);
     pane->setAttribute(Qt::WA_ShowWithoutActivating);

@@ -1,22 +1,17 @@
-// The panes of the mouse tools, for the frame's side and as pop-ups of the tool strip.
+// The panes of the mouse tools, for the frame's side and as pop-ups of the tool strip, out of the tools' rows.
 #pragma once
-#include "ui/panes/fPane.h"
-#include <QStringList>
+#include "tools/toolRows.h"
+
+class QWidget;
 
 namespace velara {
 
-/// A tool with a pane, in the order of the tool strip's buttons from the second one on.
-struct ToolPaneRow {
-    const char* tool;  // of Setup.CurrentTool
-    const char* side;  // name of the pane in the frame's side
-    const char* popup; // name of the pane that pops up
-    fPane* (*make)(Frame&, const QString& name);
-};
-std::span<const ToolPaneRow> toolPaneRows();
+class Frame;
 
-/// The tool's pane in the frame's side. That of the stamps says so when their folder is missing.
-QWidget* makeSidePane(const QString& tool, Frame& frame, QWidget* parent = nullptr);
+/// The tool's pane in the frame's side; null for a tool without one. That of the stamps says so when their folder is
+/// missing.
+QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent = nullptr);
 /// The pane that floats beside the tool strip, a window that is deleted when it closes; null for a tool without one.
-QWidget* makePopup(const QString& tool, Frame& frame, QWidget* parent);
+QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent);
 
 } // namespace velara

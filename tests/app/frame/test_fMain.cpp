@@ -6,14 +6,18 @@
 #include "app/menus/menus.h"
 #include "engine/operations.h"
 #include "pixels/RuntimeError.h"
+#include "tools/toolRows.h"
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QSet>
 #include <QSlider>
+#include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace velara {
 
@@ -176,6 +180,28 @@ TEST_F(FrameTest, ViewZoomLeavesThePixels)
     EXPECT_EQ(frame->status().panel(Panel::Zoom), "7 : 1");
     frame->toolClicked("ZoomOut");
     EXPECT_EQ(frame->status().panel(Panel::Zoom), "6 : 1");
+}
+
+TEST_F(FrameTest, OneLetterChoosesATool)
+{
+    open(randomBits(9, 9, 4));
+    frame->activateWindow();
+    const auto* strip = frame->findChild<QWidget*>("tb_tools");
+    int number = 0;
+    for (const ToolRow& tool : toolRows()) {
+        QTest::keyClick(frame.get(), tool.key);
+        EXPECT_EQ(setup.CurrentTool, tool.name);
+        const auto* button = strip->findChild<QToolButton*>("tb_tools_" + QString::number(++number));
+        ASSERT_TRUE(button) << tool.name;
+        EXPECT_TRUE(button->isChecked()) << tool.name;
+        EXPECT_TRUE(button->toolTip().endsWith(QString("(%1)").arg(QLatin1Char(tool.key)))) << tool.name;
+    }
+    auto* field = new QLineEdit(frame->centralWidget());
+    field->show();
+    field->setFocus();
+    QTest::keyClick(field, 'b');
+    EXPECT_EQ(field->text(), "b");
+    EXPECT_EQ(setup.CurrentTool, "Pencil");
 }
 
 TEST_F(FrameTest, AFilterTakesOneUndoStepAndMarksTheDocument)

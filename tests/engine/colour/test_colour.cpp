@@ -58,6 +58,12 @@ TEST(ColourFilters, WorkedExamples)
         {"ISOLATE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{255, 255, 255, 9}}},
         {"REPLACE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{255, 255, 255, 9}}},
         {"REPLACE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{10, 21, 30, 9}}},
+        {"REPLACE", {0x646464, 0xEC6464, 5}, {{103, 100, 100, 9}}, {{208, 100, 100, 9}}}, // 207.5
+        {"ReplaceL",
+         {0x646464, 0xEC6464, 100, 5},
+         {{103, 100, 100, 9}},
+         {{207, 100, 100, 9}}}, // by a single just below
+        {"ReplaceHS", {0x646464, 0xEC6464, 600, 100, 5}, {{103, 100, 100, 9}}, {{207, 100, 100, 9}}},
         {"Shift", {kReference, 50, 0}, {{10, 20, 30, 9}}, {{60, 70, 80, 9}}},
         {"Shift", {kReference, 50, 0}, {{11, 20, 30, 9}}, {{11, 20, 30, 9}}},
         {"RotateH", {0, 0}, {{10, 20, 30, 9}}, {{20, 20, 20, 9}}},
@@ -127,27 +133,28 @@ TEST(Hsl, HuesRunFromMinusOneToFive)
     EXPECT_EQ(HueFromScale(201), -39);
 }
 
-TEST(Hsl, EveryDarkColourComesBack)
+/// Every colour once, through the vector kernel and, in an order that suits no vector, through the conversions.
+TEST(Hsl, EveryColourComesBackFromAHueRotationByNothing)
 {
-    for (int r = 0; r < 256; r += 3)
-        for (int g = 0; g < 256; g += 5)
-            for (int b = 0; b < 256; b += 3) {
-                const Hsl hsl = RGBToHSL(r, g, b);
-                if (hsl.l > 0.5f) continue;
-                ASSERT_EQ(HSLToRGB(hsl.h, hsl.s, hsl.l), (Rgb{r, g, b})) << r << " " << g << " " << b;
-            }
+    Bits all(4096, 4096);
+    for (int i = 0; i < 1 << 24; ++i)
+        all.row(i >> 12)[i & 4095] = {{std::uint8_t(i), std::uint8_t(i >> 8), std::uint8_t(i >> 16), 7}};
+    EXPECT_TRUE(sameBits(all, filterOf(all).RotateH(0, 100)));
+    for (int i = 0; i < 1 << 24; i += 11) {
+        const Rgb colour{i >> 16, i >> 8 & 255, i & 255};
+        const Hsl hsl = RGBToHSL(colour.r, colour.g, colour.b);
+        ASSERT_EQ(HSLToRGB(hsl.h, hsl.s, hsl.l), colour) << i;
+    }
 }
 
-TEST(Hsl, LightColoursTakeTheirSaturationTheOtherWayRound)
+TEST(Hsl, AFullSaturationIsAsFarFromGreyAsTheLightnessLets)
 {
     const struct {
         float h, s, l;
         Rgb wanted;
     } rows[] = {
-        {4, 1, 0.75f, {191, 191, 191}},    // full: grey
-        {0, 0.5f, 0.75f, {223, 159, 159}}, // a half: half way to white and as far below
-        {2, 0.25f, 0.6f, {77, 229, 77}},   {1, 0, 0.9f, {229, 229, 229}},
-        {3, 1, 0.5f, {0, 255, 255}}, // the middle still belongs to the dark ones
+        {4, 1, 0.75f, {128, 128, 255}}, {0, 0.5f, 0.75f, {223, 159, 159}}, {2, 0.25f, 0.6f, {128, 179, 128}},
+        {1, 0, 0.9f, {229, 229, 229}},  {3, 1, 0.5f, {0, 255, 255}},
     };
     for (const auto& r : rows) EXPECT_EQ(HSLToRGB(r.h, r.s, r.l), r.wanted) << r.h << " " << r.s << " " << r.l;
 }

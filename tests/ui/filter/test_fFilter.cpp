@@ -206,8 +206,18 @@ TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
     EXPECT_EQ(0, dialog->arguments().mode) << "slanting has no such strength";
 
     open("CUSTOMCURTAIN");
-    click("Curt_2");
-    EXPECT_EQ(2, dialog->arguments().mode);
+    std::map<int, std::string> shown; // by place
+    for (int mode = 0; mode < 4; ++mode) {
+        auto* button = find<QRadioButton>(("Curt_" + std::to_string(mode)).c_str());
+        shown[button->x()] = button->text().toStdString();
+        click(button->objectName().toLatin1());
+        EXPECT_EQ(mode, dialog->arguments().mode) << "told as it is counted: Horizontal, Vertical, Classy, Whity";
+    }
+    EXPECT_EQ("Whity Classy Vertical Horizontal", [&] {
+        std::string all;
+        for (const auto& [x, caption] : shown) all += (all.empty() ? "" : " ") + caption;
+        return all;
+    }());
 }
 
 TEST_F(FilterDialog, BanksAndOption)

@@ -119,6 +119,11 @@ TEST_F(Geometry, SizeRunsTheChosenResize)
     find<QCheckBox>(dialog, "chkInterpolate")->setChecked(false);
     filter.BitsResize(picture, 30, 15);
     EXPECT_TRUE(sameBits(filter.bits(), done(dialog, picture)));
+    for (const bool keep : {false, true}) { // the ratio stays the picture's, whatever the boxes came to
+        find<QCheckBox>(dialog, "chkKeepProportions")->setChecked(keep);
+        type(dialog, "txtW", "100");
+    }
+    EXPECT_EQ(text(dialog, "txtH"), "50");
 }
 
 TEST_F(Geometry, ResolutionOffersItsSizes)

@@ -1,24 +1,14 @@
-// Look-up by two channels at once: one table of 65536 entries costs less a pixel than two of 256.
+// Point filters by table: the spans in blocks, and the three channels through one table.
 #pragma once
 #include "engine/colour/kernels_colour.h"
 #include "pixels/Bits.h"
+#include "pixels/pairTable.h"
 #include <array>
 #include <bit>
-#include <vector>
 
 namespace velara {
 
 using ByteTable = std::array<std::uint8_t, 256>;
-
-/// f(low, high) of all pairs of bytes, at low | high << 8.
-template <class T, class Function> std::vector<T> pairTable(Function f)
-{
-    std::vector<T> table(65536);
-    std::size_t i = 0;
-    for (int high = 0; high < 256; ++high)
-        for (int low = 0; low < 256; ++low) table[i++] = static_cast<T>(f(low, high));
-    return table;
-}
 
 /// Calls body(from, to, n) for blocks of the columns x0..x1-1. The blocks of a long span are staged, so that they are
 /// written past the cache as whole lines.

@@ -1,0 +1,10 @@
+// Arguments of the engine's operations for benchmarks and comparisons, out of what their rows say.
+#pragma once
+#include "engine/operations.h"
+
+namespace velara {
+
+/// The usual ones. Booleans are true, pictures small.
+Arguments typicalArguments(const Operation& operation);
+
+} // namespace velara
