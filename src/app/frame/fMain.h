@@ -94,6 +94,10 @@ class fMain final : public QMainWindow, public Frame {
     void imageOrientation();
     void imageRotate();
     void imageResolution();
+    void colorDepth();
+    /// The dialog that saves for the web, on the active document, or on a picture made of a document.
+    void saveForWeb();
+    void saveForWeb(fImage& image, const Bits& bits);
     void setZoom(int factor);
     /// One operation of the engine with its arguments, as a command: after a yield if asked for.
     void runPreset(std::string_view word);
