@@ -184,12 +184,12 @@ bool FWeb::write(const QString& finalName)
     if (file.outcome == WebFile::Outcome::NoBitmap)
         platform_.message(QStringLiteral("Please Choose a higher image format!"),
                           QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
-    if (alive && file.outcome == WebFile::Outcome::Written) show(file, name);
+    if (alive && file.outcome == WebFile::Outcome::Written) showFile(file, name);
     return alive && file.outcome == WebFile::Outcome::Written;
 }
 
 /// The file as a reader sees it; where it can't be read what was shown stays.
-void FWeb::show(const WebFile& file, const QString& name)
+void FWeb::showFile(const WebFile& file, const QString& name)
 {
     const LoadedPicture picture = platform_.loadPicture(name, settings_.extension());
     if (!picture.ok()) return;
@@ -227,10 +227,11 @@ void FWeb::saveAs()
     QString chosen = *name;
     if (QFileInfo(chosen).suffix().isEmpty()) {
         chosen += u'.' + settings_.extension();
-        const bool isFree = !QFileInfo::exists(chosen) ||
-                            platform_.askYesNoCancel(QStringLiteral("Velara Studio"),
-                                                     tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
-                                                     Icon::Exclamation) == Answer::Yes;
+        const bool isFree =
+            !QFileInfo::exists(chosen) ||
+            platform_.askYesNoCancel(QStringLiteral("Velara Studio"),
+                                     tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
+                                     Icon::Exclamation) == Answer::Yes;
         if (!alive || !isFree) return;
     }
     choices_->setEnabled(false); // what is being written is what was asked for

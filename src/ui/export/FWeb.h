@@ -51,7 +51,7 @@ class FWeb final : public QDialog {
     void run();
     /// Writes to a temporary file, or under the chosen name. False when there is nothing new to show, or this is gone.
     bool write(const QString& finalName = {});
-    void show(const WebFile& file, const QString& name);
+    void showFile(const WebFile& file, const QString& name);
     void showWaiting(bool waiting);
     ReduceProgress yielding();
     QString temporaryName() const;

@@ -1,6 +1,4 @@
 #include "ui/export/fColorDepth.h"
-#include "engine/cBitFilter.h"
-#include "pixels/fitSize.h"
 #include "pixels/numbers.h"
 #include "reduce/EuroDepth.h"
 #include "ui/widgets/ActiveComposer.h"
@@ -21,13 +19,8 @@ namespace {
 constexpr struct DepthRow {
     const char* entry;
     int depth;
-} kDepths[] = {{"2 Colors (1 Bit)", 1},
-               {"16 Colors (4 Bit)", 4},
-               {"256 Colors (8 Bit)", 8},
-               {"(15 Bit)", 15},
-               {"(16 Bit)", 16},
-               {"32,000 Colors (24 Bit)", 24},
-               {"64,000 Colors (24 Bit)", 32}};
+} kDepths[] = {{"2 Colors (1 Bit)", 1}, {"16 Colors (4 Bit)", 4},       {"256 Colors (8 Bit)", 8},     {"(15 Bit)", 15},
+               {"(16 Bit)", 16},        {"32,000 Colors (24 Bit)", 24}, {"64,000 Colors (24 Bit)", 32}};
 
 constexpr int kLevels[] = {10, 6, 5, 4, 3, 2, 1}; // of the zoom menu
 constexpr int kFirstLevel = 3;
@@ -37,11 +30,7 @@ Bits reducedCopy(const Bits& picture, int level)
 {
     if (level == 1) return picture;
     const auto part = [level](int side) { return std::max(roundEven(double(side) / level), 1); };
-    const QSize size = fitSize({picture.width(), picture.height()}, {part(picture.width()), part(picture.height())})
-                           .expandedTo({1, 1});
-    cBitFilter filter;
-    filter.BitsResample(picture, size.width(), size.height());
-    return filter.bits();
+    return fittingCopy(picture, {part(picture.width()), part(picture.height())});
 }
 
 QPushButton* button(const char* name, const QString& text)

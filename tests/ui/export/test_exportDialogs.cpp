@@ -75,7 +75,8 @@ TEST_F(ExportDialogs, DepthShowsAndHandsOnTheReducedPicture)
         for (int i = 0; i < 7; ++i) {
             list->setCurrentIndex(i);
             EXPECT_EQ(list->currentText(), text(dialog, "Lbloptimized"));
-            EXPECT_TRUE(sameBits(bitsAtDepth(find<fPicture>(dialog, "OriginalP")->bits(), kDepths[i]), optimized->bits()));
+            EXPECT_TRUE(
+                sameBits(bitsAtDepth(find<fPicture>(dialog, "OriginalP")->bits(), kDepths[i]), optimized->bits()));
         }
         list->setCurrentIndex(1);
         for (QAction* entry : menu->actions()) entry->trigger();
@@ -117,7 +118,8 @@ TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
         auto* maps = find<QComboBox>(dialog, "cboMap");
         for (int m = 0; m < maps->count() && !s.isJpeg(); ++m) {
             maps->setCurrentIndex(m);
-            EXPECT_EQ(maps->currentText() != "MS Map" || p == 16, find<QComboBox>(dialog, "cboDither")->isEnabled());
+            EXPECT_EQ(s.takesDither, find<QComboBox>(dialog, "cboDither")->isEnabled()) << name;
+            EXPECT_EQ(s.takesDither, maps->currentText() != "MS Map" || s.BitCount > 8) << name;
         }
         idle(dialog);
         const QString file = temporary(s.isJpeg() ? "J0001.jpg" : "G0001.gif");
@@ -142,7 +144,8 @@ TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)
     choose(dialog, "cboColorMode", "Greyscale");
     idle(dialog);
     const Bits grey = find<fPicture>(dialog, "oSrc")->bits();
-    for (int x = 0; x < 90; ++x) ASSERT_TRUE(grey.at(x, 9).c[0] == grey.at(x, 9).c[1] && grey.at(x, 9).c[1] == grey.at(x, 9).c[2]);
+    for (int x = 0; x < 90; ++x)
+        ASSERT_TRUE(grey.at(x, 9).c[0] == grey.at(x, 9).c[1] && grey.at(x, 9).c[1] == grey.at(x, 9).c[2]);
     choose(dialog, "CboFiles", "PNG-24 bit");
     for (const char* name : {"chkFlipH", "chkFlipV", "chkInvert"}) find<QCheckBox>(dialog, name)->setChecked(true);
     idle(dialog);
