@@ -1,5 +1,5 @@
 #include "tools/contactSheet.h"
-#include "fileio/IndexedPicture.h"
+#include "reduce/bestColours.h"
 #include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>

@@ -22,7 +22,7 @@ bool takeOption(CommandLine& line, const QString& text)
     return true;
 }
 
-constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... OUTPUT";
+constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ...] OUTPUT";
 
 } // namespace
 
@@ -31,6 +31,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     static const QString select = QStringLiteral("--select"), selectWith = select + u'=';
     CommandLine line;
     bool optionsOver = false;
+    WebOptions webOptions;
     std::vector<std::pair<bool, QString>> middle; // is a selection, text; INPUT and OUTPUT at the ends
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& text = arguments[i];
@@ -43,11 +44,16 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         } else if (text == select) {
             if (++i == arguments.size()) throw badArgument(QStringLiteral("--select: a shape has to follow"));
             middle.emplace_back(true, arguments[i]);
+        } else if (const auto takesValue = webOptionTakesValue(text)) {
+            if (*takesValue && i + 1 == arguments.size())
+                throw badArgument(text + QStringLiteral(": a value has to follow"));
+            webOptions.emplace_back(text, *takesValue ? arguments[++i] : QString());
         } else if (!takeOption(line, text)) {
             throw badArgument(QStringLiteral("%1: there is no such option; see --help").arg(text));
         }
     }
     if (line.help || line.list) return line;
+    line.web = webOrder(webOptions);
     if (middle.empty() || middle.front().first) throw badArgument(QStringLiteral("INPUT is missing: ") + kUsage);
     if (middle.size() < 2 || middle.back().first) throw badArgument(QStringLiteral("OUTPUT is missing: ") + kUsage);
     line.input = middle.front().second;

@@ -22,7 +22,7 @@ QString described(const Parameter& p)
 
 QString helpText()
 {
-    return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... OUTPUT
+    return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ...] OUTPUT
 
 Reads the picture INPUT, takes the steps in their order, each on the result of
 the one before, and writes the picture OUTPUT. The extensions pick reader and
@@ -51,6 +51,17 @@ before the first of them: 50 50 is half the size.
 A +, -, & or ^ before the shape adds it to the selection so far, takes it away,
 keeps what is in both, or what is in one of the two only. Pictures of another
 size start without a selection.
+
+--web PRESET makes OUTPUT, whatever its name, what "Save for Web" writes, and
+prints its type, depth and size. PRESET and the ENTRYs are the texts of the
+dialog's lists; one that there is not prints those that there are:
+  --map ENTRY            the palette, such as Optimal or "MS Map"
+  --dither ENTRY         such as Ordered or "Forward Diag"
+  --mode ENTRY           Colors or Greyscale
+  --flip-h --flip-v --invert   not for JPEG
+  --interlaced           for GIF
+  --quality NUMBER|ENTRY for JPEG: 1 to 100, or such as Good
+  --max-bytes N          for JPEG: the best quality that is not larger
 
 --list     prints every word and every operation with its arguments
 --verbose  tells on the error output what is done, and how far it is

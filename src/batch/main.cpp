@@ -92,7 +92,10 @@ void run(const QStringList& arguments)
     Session session(platform);
     session.open(input, line.lastGoingBack() >= 0);
     takeSteps(session, line);
-    write(platform, session.picture(), line.output);
+    if (line.web)
+        std::printf("%s\n", writeWeb(session.picture(), *line.web, line.output).toUtf8().constData());
+    else
+        write(platform, session.picture(), line.output);
 }
 
 /// More than the machine has makes an allocation fail, so that it is reported, instead of the system ending the

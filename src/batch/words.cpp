@@ -1,4 +1,5 @@
 #include "batch/words.h"
+#include "commands/colourDepth.h"
 #include "commands/effects.h"
 #include "commands/filterDialogs.h"
 #include "document/texturing.h"
@@ -77,6 +78,7 @@ std::vector<const Operation*> stepOperations()
     for (const Operation& operation : operations()) all.push_back(&operation);
     all.push_back(&applyTextureOperation());
     all.push_back(&texturizeOperation());
+    all.push_back(&setDepthOperation());
     return all;
 }
 

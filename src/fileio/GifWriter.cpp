@@ -17,15 +17,15 @@ struct FreeMap {
 };
 using ColourMap = std::unique_ptr<ColorMapObject, FreeMap>;
 
-/// The palette, filled up with black to a power of two.
-ColourMap mapOf(const std::vector<Colour>& palette)
+/// The palette, filled up with black to a power of two that is at least that of least.
+ColourMap mapOf(const std::vector<Colour>& palette, int least)
 {
     std::array<GifColorType, 256> colours{};
     std::transform(palette.begin(), palette.end(), colours.begin(), [](Colour c) {
         return GifColorType{static_cast<GifByteType>(redOf(c)), static_cast<GifByteType>(greenOf(c)),
                             static_cast<GifByteType>(blueOf(c))};
     });
-    const int bits = std::max(1, GifBitSize(static_cast<int>(palette.size())));
+    const int bits = std::clamp(GifBitSize(static_cast<int>(palette.size())), std::clamp(least, 1, 8), 8);
     return ColourMap(GifMakeMapObject(1 << bits, colours.data()));
 }
 
@@ -54,22 +54,27 @@ bool writeRows(GifFileType* gif, const IndexedPicture& picture, bool interlaced)
 
 } // namespace
 
-bool writeGif(const IndexedPicture& picture, const QString& fileName, bool interlaced)
+bool writeGif(const IndexedPicture& picture, OutputFile& file, bool interlaced, int bits)
 {
     const bool fits = picture.width > 0 && picture.height > 0 && picture.width <= kLongestSide &&
                       picture.height <= kLongestSide && !picture.palette.empty() && picture.palette.size() <= 256;
-    if (!fits) return false;
-    OutputFile file(fileName);
-    const ColourMap map = mapOf(picture.palette);
+    if (!fits || !file.isOpen()) return false;
+    const ColourMap map = mapOf(picture.palette, bits);
     int error = 0;
-    GifFileType* gif = file.isOpen() && map ? EGifOpen(&file, writeOut, &error) : nullptr;
+    GifFileType* gif = map ? EGifOpen(&file, writeOut, &error) : nullptr;
     if (!gif) return false;
     const bool drawn =
         EGifPutScreenDesc(gif, picture.width, picture.height, map->BitsPerPixel, 0, map.get()) == GIF_OK &&
         EGifPutImageDesc(gif, 0, 0, picture.width, picture.height, interlaced, nullptr) == GIF_OK &&
         writeRows(gif, picture, interlaced);
     const bool ended = EGifCloseFile(gif, &error) == GIF_OK;
-    return drawn && ended && file.commit();
+    return drawn && ended;
+}
+
+bool writeGif(const IndexedPicture& picture, const QString& fileName, bool interlaced)
+{
+    OutputFile file(fileName);
+    return writeGif(picture, file, interlaced, 1) && file.commit();
 }
 
 } // namespace velara

@@ -47,10 +47,11 @@ bool isProtected(const QByteArray& path, mode_t mode)
 
 } // namespace
 
-OutputFile::OutputFile(const QString& path) : target_(QFile::encodeName(behindLinks(path)))
+OutputFile::OutputFile(const QString& path, Links links)
+    : target_(QFile::encodeName(links == Links::Follow ? behindLinks(path) : path))
 {
     struct stat old;
-    replaces_ = stat(target_.constData(), &old) == 0;
+    replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
     if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode)))
         openBeside(replaces_ ? old.st_mode & 07777 : 0666, replaces_);
     const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
@@ -80,7 +81,8 @@ OutputFile::~OutputFile()
 
 bool OutputFile::flush()
 {
-    if (used_ > 0 && !writeAll(file_, buffer_.data(), used_)) failed_ = true;
+    if (goOn_ && !goOn_()) failed_ = true;
+    if (!failed_ && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) failed_ = true;
     used_ = 0;
     return !failed_;
 }

@@ -3,17 +3,20 @@
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <sys/types.h>
 #include <vector>
 
 namespace velara {
 
 /// Writes go to a new file beside the target, which gives the old one's permissions to it and replaces it on commit().
-/// Symbolic links are followed. What can't be replaced so (a device, a file in a folder where none can be made) is
-/// written over on commit(), out of memory. Without commit() nothing has changed.
+/// Symbolic links are followed, or replaced where somebody else may have put them. What can't be replaced so (a device,
+/// a file in a folder where none can be made) is written over on commit(), out of memory. Without commit() nothing has
+/// changed.
 class OutputFile {
   public:
-    explicit OutputFile(const QString& path);
+    enum class Links { Follow, Replace };
+    explicit OutputFile(const QString& path, Links links = Links::Follow);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
@@ -21,6 +24,9 @@ class OutputFile {
     bool isOpen() const { return file_ >= 0; }
     /// Whether something had the target's name when this began.
     bool replacesAFile() const { return replaces_; }
+
+    /// Is asked now and then while it is being written; when it says no, the write fails.
+    void setGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
     bool write(const void* bytes, std::size_t size);
     /// Fewer than size at the end or on an error.
@@ -41,6 +47,7 @@ class OutputFile {
     bool copyOver();
 
     QByteArray target_, temporary_; // temporary_ empty: written in memory
+    std::function<bool()> goOn_;
     std::vector<std::uint8_t> buffer_;
     std::size_t used_ = 0;
     int file_ = -1;

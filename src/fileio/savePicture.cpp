@@ -1,8 +1,9 @@
 #include "fileio/savePicture.h"
+#include "fileio/FreeImageSaver.h"
 #include "fileio/GifWriter.h"
 #include "fileio/ModFreeImage.h"
-#include "fileio/OutputFile.h"
 #include "fileio/PCX.h"
+#include "reduce/bestColours.h"
 #include "seams/Platform.h"
 #include <FreeImage.h>
 #include <algorithm>
@@ -23,35 +24,13 @@ SaveResult resultOf(bool written) { return written ? SaveResult::Written : SaveR
 
 // --- FreeImage's writers
 
-OutputFile& fileOf(fi_handle handle) { return *static_cast<OutputFile*>(handle); }
-
-unsigned DLL_CALLCONV readProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
-{
-    return size == 0 ? 0 : static_cast<unsigned>(fileOf(handle).read(bytes, std::size_t{size} * count) / size);
-}
-
-unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
-{
-    return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
-}
-
-int DLL_CALLCONV seekProc(fi_handle handle, long offset, int origin)
-{
-    return fileOf(handle).seek(offset, origin) ? 0 : -1;
-}
-
-long DLL_CALLCONV tellProc(fi_handle handle) { return fileOf(handle).tell(); }
-
-/// Its own file routines don't see a disk that is full when the last bytes are flushed; ours do.
 bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool keepsRemains)
 {
     const FreeImageStart library;
     const Dib24 dib(job.bits);
     if (!dib.get()) return false;
     OutputFile file(job.fileName);
-    if (!file.isOpen()) return false;
-    FreeImageIO io{readProc, writeProc, seekProc, tellProc};
-    if (FreeImage_SaveToHandle(format, dib.get(), &io, &file, flags) && file.commit()) return true;
+    if (saveDib(dib.get(), format, flags, file) && file.commit()) return true;
     if (keepsRemains) file.keepRemains();
     return false;
 }

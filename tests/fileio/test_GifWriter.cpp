@@ -1,5 +1,6 @@
 #include "fileio/GifWriter.h"
 #include "fileio/load/PictureLoader.h"
+#include "reduce/bestColours.h"
 #include "support/pictures.h"
 #include <QTemporaryDir>
 #include <array>

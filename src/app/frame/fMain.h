@@ -103,6 +103,10 @@ class fMain final : public QMainWindow, public Frame {
     void imageRotate();
     void imageResolution();
     void imageTextures();
+    void colorDepth();
+    /// The dialog that saves for the web, on the active document, or on a picture made of a document.
+    void saveForWeb();
+    void saveForWeb(fImage& image, const Bits& bits);
     void setZoom(int factor);
     void runPreset(const Preset& preset);
     /// The dialog of a filter, on the active document.

@@ -12,9 +12,10 @@ struct IndexedPicture {
     std::vector<Colour> palette;       // 1 to 256 colours
 };
 
-/// The picture in at most so many colours (2 to 256), each pixel the nearest of them, without dithering. A picture of
-/// no more colours keeps them exactly, in the order of their first use; otherwise the palette is the one that suits it
-/// best. std::bad_alloc when memory is short.
-IndexedPicture reduceToBestColours(const Bits& bits, int colours);
+/// The pixel of a colour value, its fourth byte 0.
+constexpr Pixel pixelFor(Colour colour)
+{
+    return {{std::uint8_t(blueOf(colour)), std::uint8_t(greenOf(colour)), std::uint8_t(redOf(colour)), 0}};
+}
 
 } // namespace velara

@@ -1,0 +1,41 @@
+// The dialogs that reduce the colours of a picture and save it for the web.
+#include "app/frame/fMain.h"
+#include "ui/export/FWeb.h"
+#include "ui/export/fColorDepth.h"
+
+namespace velara {
+
+void fMain::colorDepth()
+{
+    const QPointer<fImage> image = GetActiveImage();
+    if (!image || !image->PictureExists()) return;
+    const auto ok = [this, image](const Bits& bits) {
+        if (closing_ || !image || image != GetActiveImage() || image->PictureWidth() != bits.width() ||
+            image->PictureHeight() != bits.height())
+            return;
+        image->setBits(bits);
+        handOver(*image);
+        Update(false, true);
+    };
+    const auto save = [this, image](const Bits& bits) {
+        if (!closing_ && image) saveForWeb(*image, bits);
+    };
+    const QPointer<fColorDepth> dialog = new fColorDepth(image->Bits(), {ok, save}, this);
+    dialog->exec();
+    delete dialog; // unless the frame went, and it with it
+}
+
+void fMain::saveForWeb()
+{
+    fImage* image = GetActiveImage();
+    if (image && image->PictureExists()) saveForWeb(*image, image->Bits());
+}
+
+void fMain::saveForWeb(fImage& image, const Bits& bits)
+{
+    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.windowTitle(), image.Tag(), this);
+    dialog->exec();
+    delete dialog;
+}
+
+} // namespace velara

@@ -1,0 +1,11 @@
+// Colour depth as a step of velara-batch.
+#pragma once
+#include "engine/operations.h"
+
+namespace velara {
+
+/// SetDepth(Depth): the whole picture, whatever is selected, in the colours of 1, 4, 8, 15, 16, 24 or 32 bits; other
+/// depths are std::invalid_argument.
+const Operation& setDepthOperation();
+
+} // namespace velara

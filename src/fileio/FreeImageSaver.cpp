@@ -1,0 +1,70 @@
+#include "fileio/FreeImageSaver.h"
+#include <FreeImage.h>
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+OutputFile& fileOf(fi_handle handle) { return *static_cast<OutputFile*>(handle); }
+
+unsigned DLL_CALLCONV readProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
+{
+    return size == 0 ? 0 : static_cast<unsigned>(fileOf(handle).read(bytes, std::size_t{size} * count) / size);
+}
+
+unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_handle handle)
+{
+    return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
+}
+
+int DLL_CALLCONV seekProc(fi_handle handle, long offset, int origin)
+{
+    return fileOf(handle).seek(offset, origin) ? 0 : -1;
+}
+
+long DLL_CALLCONV tellProc(fi_handle handle) { return fileOf(handle).tell(); }
+
+/// A file of which only the length is kept.
+struct Length {
+    std::int64_t at = 0, end = 0;
+    const std::function<bool()>& goOn;
+};
+Length& lengthOf(fi_handle handle) { return *static_cast<Length*>(handle); }
+
+unsigned DLL_CALLCONV countProc(void*, unsigned size, unsigned count, fi_handle handle)
+{
+    Length& length = lengthOf(handle);
+    if (length.goOn && !length.goOn()) return 0;
+    length.at += std::int64_t{size} * count;
+    length.end = std::max(length.end, length.at);
+    return count;
+}
+
+int DLL_CALLCONV seekLengthProc(fi_handle handle, long offset, int origin)
+{
+    Length& length = lengthOf(handle);
+    length.at = offset + (origin == SEEK_CUR ? length.at : origin == SEEK_END ? length.end : 0);
+    return 0;
+}
+
+long DLL_CALLCONV tellLengthProc(fi_handle handle) { return lengthOf(handle).at; }
+
+} // namespace
+
+bool saveDib(FIBITMAP* dib, int format, int flags, OutputFile& file)
+{
+    FreeImageIO io{readProc, writeProc, seekProc, tellProc};
+    return dib && file.isOpen() &&
+           FreeImage_SaveToHandle(static_cast<FREE_IMAGE_FORMAT>(format), dib, &io, &file, flags);
+}
+
+std::optional<std::int64_t> savedBytes(FIBITMAP* dib, int format, int flags, const std::function<bool()>& goOn)
+{
+    Length length{.goOn = goOn};
+    FreeImageIO io{[](void*, unsigned, unsigned, fi_handle) { return 0U; }, countProc, seekLengthProc, tellLengthProc};
+    if (!dib || !FreeImage_SaveToHandle(static_cast<FREE_IMAGE_FORMAT>(format), dib, &io, &length, flags)) return {};
+    return length.end;
+}
+
+} // namespace velara

@@ -1,0 +1,151 @@
+#include "fileio/web/webFile.h"
+#include "fileio/FreeImageSaver.h"
+#include "fileio/PCX.h"
+#include "fileio/web/ReducedDib.h"
+#include "pixels/RuntimeError.h"
+#include <FreeImage.h>
+#include <QFile>
+#include <QFileInfo>
+#include <cmath>
+#include <limits>
+#include <new>
+
+namespace velara {
+
+namespace {
+
+using Outcome = WebFile::Outcome;
+
+/// Tells progress where nothing may be thrown; false once it has thrown Cancelled.
+class Teller {
+  public:
+    explicit Teller(const ReduceProgress& progress) : progress_(progress) {}
+    bool operator()()
+    try {
+        if (!stopped_ && progress_) progress_(100);
+        return !stopped_;
+    } catch (const Cancelled&) {
+        stopped_ = true;
+        return false;
+    }
+    bool stopped() const { return stopped_; }
+
+  private:
+    const ReduceProgress& progress_;
+    bool stopped_ = false;
+};
+
+bool saveAs(FIBITMAP* dib, int format, int flags, const QString& name, OutputFile::Links links, Teller& teller)
+{
+    OutputFile file(name, links);
+    file.setGoOn(std::ref(teller));
+    return saveDib(dib, format, flags, file) && file.commit();
+}
+
+Outcome outcomeOf(bool written, const Teller& teller)
+{
+    return written ? Outcome::Written : teller.stopped() ? Outcome::Stopped : Outcome::Failed;
+}
+
+Outcome writeJpeg(const Bits& picture, int quality, const QString& name, OutputFile::Links links, Teller& teller)
+{
+    const FreeImageStart library;
+    const Dib24 dib(picture);
+    return outcomeOf(dib.get() && saveAs(dib.get(), FIF_JPEG, quality, name, links, teller), teller);
+}
+
+/// Targa and TIFF always get 24 bits.
+Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& name, OutputFile::Links links,
+                        Teller& teller)
+{
+    static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
+    if (kind == kPcx) {
+        if (links == OutputFile::Links::Replace) QFile::remove(name);
+        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true), teller);
+    }
+    const FreeImageStart library;
+    const bool inFull = kind == kTga || kind == kTif;
+    const ReducedDib dib(inFull ? ReducedPicture{24, {}, pictureOf(reduced)} : reduced);
+    if (!dib.get()) return Outcome::NoBitmap;
+    return outcomeOf(saveAs(dib.get(), kFormats[kind], 0, name, links, teller), teller);
+}
+
+Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& picture, const QString& name,
+                     Teller& teller)
+{
+    const int flags = s.transformFlags();
+    const bool isReduced = reducer.Begin(s.OutputKind, s.ColorMode, s.BitCount, s.PaletteWord, s.DitherWord) &&
+                           reducer.SetPicture(picture, -1, -1, -1, -1) &&
+                           (flags == 0 || reducer.Transform(flags, 0, 0)) && reducer.Reduce();
+    if (!isReduced) return s.OutputKind == kBitmapOutput ? Outcome::NoBitmap : Outcome::Failed;
+    if (s.OutputKind == kBitmapOutput)
+        return writeBitmapKind(reducer.reduced(), s.FileKind, name, reducer.links, teller);
+    const bool written =
+        s.OutputKind == kInterlacedGifOutput ? reducer.WriteInterlacedGif(name) : reducer.WriteGif(name);
+    return outcomeOf(written, teller);
+}
+
+} // namespace
+
+WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
+                     const ReduceProgress& progress)
+{
+    WebFile file{.source = picture};
+    Teller teller(progress);
+    try {
+        if (picture.isNull()) return file;
+        if (settings.isJpeg()) {
+            file.outcome = writeJpeg(picture, settings.JpegQuality, name, links, teller);
+        } else {
+            ColorReducer reducer;
+            reducer.Progress = progress;
+            reducer.GoOn = std::ref(teller);
+            reducer.links = links;
+            file.outcome = writeReduced(reducer, settings, picture, name, teller);
+            file.source = reducer.picture();
+        }
+    } catch (const Cancelled&) {
+        file.outcome = Outcome::Stopped;
+    } catch (const std::bad_alloc&) {
+        file.outcome = settings.OutputKind == kBitmapOutput && !settings.isJpeg() ? Outcome::NoBitmap : Outcome::Failed;
+    }
+    if (file.outcome == Outcome::Written) file.bytes = QFileInfo(name).size();
+    return file;
+}
+
+std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
+{
+    const FreeImageStart library;
+    const Dib24 dib(picture);
+    Teller teller(progress);
+    const auto fits = [&](int quality) {
+        const auto bytes = teller() ? savedBytes(dib.get(), FIF_JPEG, quality, std::ref(teller)) : std::nullopt;
+        return bytes && *bytes <= mostBytes;
+    };
+    int good = 0, bad = 101;
+    while (bad - good > 1) {
+        const int middle = (good + bad) / 2;
+        (fits(middle) ? good : bad) = middle;
+    }
+    for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes may waver a little
+        if (fits(quality)) good = quality;
+    return good > 0 && !teller.stopped() ? std::optional(good) : std::nullopt;
+}
+
+double peakSignalToNoise(const Bits& a, const Bits& b)
+{
+    std::int64_t sum = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        std::int64_t row = 0;
+        for (int x = 0; x < a.width(); ++x)
+            for (int c = 0; c < 3; ++c) {
+                const int d = a.row(y)[x].c[c] - b.row(y)[x].c[c];
+                row += d * d;
+            }
+        sum += row;
+    }
+    if (sum == 0) return std::numeric_limits<double>::infinity();
+    return 10 * std::log10(255.0 * 255 * 3 * a.width() * a.height() / double(sum));
+}
+
+} // namespace velara

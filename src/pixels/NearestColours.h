@@ -1,0 +1,63 @@
+// The nearest of a fixed set of colours, for all pixels of a picture. The answers stand in a table of all colours,
+// which is filled cube by cube as colours are asked for.
+#pragma once
+#include "pixels/Bits.h"
+#include <array>
+#include <bit>
+#include <memory>
+#include <vector>
+
+namespace velara {
+
+/// How far two colours are from each other: the sum of what their channels differ by, or of the squares of that.
+enum class Distance { Sum, Squares };
+
+class NearestColours {
+  public:
+    static constexpr std::size_t kMost = 0xFFFF;
+
+    /// 1 to kMost colours; the fourth bytes are not looked at. std::bad_alloc when memory is short.
+    NearestColours(const std::vector<Pixel>& colours, Distance distance);
+
+    /// The position of the nearest one, the lowest of equals. The fourth byte is not looked at.
+    int operator()(Pixel p)
+    {
+        const auto word = std::bit_cast<std::uint32_t>(p);
+        const std::uint32_t at = kPlace[0][word & 255] | kPlace[1][word >> 8 & 255] | kPlace[2][word >> 16 & 255];
+        if (table_[at] == 0) [[unlikely]]
+            fillCube(at >> 3 * kInside);
+        return table_[at] - 1;
+    }
+
+  private:
+    // A colour's place in the table: the cube by the high bits of its channels, and the place inside by the low ones,
+    // so that similar colours stand together.
+    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside;
+    static constexpr auto kPlace = [] { // by channel and level
+        std::array<std::array<std::uint32_t, 256>, 3> place{};
+        for (int channel = 0; channel < 3; ++channel)
+            for (std::uint32_t v = 0; v < 256; ++v)
+                place[channel][v] = v >> kInside << (3 * kInside + channel * kOutside) | v % kSide << channel * kInside;
+        return place;
+    }();
+
+    void fillCube(std::uint32_t cube);
+
+    struct Candidate {
+        std::array<int, 3> c; // blue, green, red
+        std::uint16_t entry;  // position + 1
+    };
+    using Candidates = std::vector<Candidate>;
+    struct Free {
+        void operator()(std::uint16_t* table) const;
+    };
+
+    Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
+
+    Distance distance_;
+    Candidates colours_;
+    std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
+    std::unique_ptr<std::uint16_t[], Free> table_;
+};
+
+} // namespace velara

@@ -1,0 +1,36 @@
+// A pixel as four whole numbers in one vector register, for arithmetic that carries errors on.
+#pragma once
+#include "pixels/Bits.h"
+#include <bit>
+
+namespace velara {
+
+using Lanes = int __attribute__((vector_size(16))); // blue, green, red and the fourth byte
+
+inline Lanes absolute(Lanes v) { return v < 0 ? -v : v; }
+inline Lanes limited(Lanes v, int least, int most)
+{
+    v = v < least ? Lanes{} + least : v;
+    return v > most ? Lanes{} + most : v;
+}
+
+namespace detail {
+using Bytes = std::uint8_t __attribute__((vector_size(16)));
+}
+
+inline Lanes wide(const Pixel& p)
+{
+    using detail::Bytes;
+    const Bytes bytes = std::bit_cast<Bytes>(Lanes{std::bit_cast<int>(p)});
+    return std::bit_cast<Lanes>(
+        __builtin_shufflevector(bytes, Bytes{}, 0, 16, 16, 16, 1, 16, 16, 16, 2, 16, 16, 16, 3, 16, 16, 16));
+}
+/// The lowest bytes of the lanes.
+inline Pixel narrow(Lanes v)
+{
+    const auto bytes = std::bit_cast<detail::Bytes>(v);
+    const auto low = __builtin_shufflevector(bytes, bytes, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12);
+    return std::bit_cast<Pixel>(std::bit_cast<Lanes>(low)[0]);
+}
+
+} // namespace velara

@@ -1,0 +1,84 @@
+#include "reduce/EuroDepth.h"
+#include "pixels/IndexedPicture.h"
+#include "pixels/NearestColours.h"
+#include <algorithm>
+#include <cstring>
+
+namespace velara {
+
+namespace {
+
+constexpr std::uint32_t kColour = 0x00FFFFFF;
+
+std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
+
+/// Each row by body(from, to, width); the margin and the fourth bytes stay.
+template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progress, Body body)
+{
+    if (bits.isNull()) return bits;
+    Bits out = Bits::uninitialized(bits.width(), bits.height());
+    const auto rowBytes = sizeof(Pixel) * static_cast<std::size_t>(bits.stride());
+    for (const int y : {-2, -1, bits.height(), bits.height() + 1})
+        std::memcpy(out.row(y) - Bits::kMargin, bits.row(y) - Bits::kMargin, rowBytes);
+    for (int y = 0; y < bits.height(); ++y) {
+        const Pixel* from = bits.row(y);
+        Pixel* to = out.row(y);
+        for (const int x : {-2, -1, bits.width(), bits.width() + 1}) to[x] = from[x];
+        body(from, to, bits.width());
+        if (progress && y % 64 == 63) progress(100 * y / bits.height());
+    }
+    return out;
+}
+
+/// The nearest of two: a sum of the channels from 383 on is nearer to white.
+void blackOrWhite(const Pixel* from, Pixel* to, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        const std::uint32_t w = wordOf(from[x]);
+        const int sum = static_cast<int>((w & 255) + (w >> 8 & 255) + (w >> 16 & 255));
+        to[x] = std::bit_cast<Pixel>((w & ~kColour) | (sum > 382 ? kColour : 0));
+    }
+}
+
+void highBits(const Pixel* from, Pixel* to, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        const std::uint32_t w = wordOf(from[x]);
+        to[x] = std::bit_cast<Pixel>((w & 0xFFF8F8F8) | (w >> 5 & 0x00070707));
+    }
+}
+
+Bits nearestOf(const Palette& palette, const Bits& bits, const ReduceProgress& progress)
+{
+    std::vector<Pixel> colours;
+    std::ranges::transform(palette, std::back_inserter(colours), pixelFor);
+    NearestColours nearest(colours, Distance::Squares);
+    return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) {
+        for (int x = 0; x < width; ++x)
+            to[x] = std::bit_cast<Pixel>(wordOf(colours[static_cast<std::size_t>(nearest(from[x]))]) |
+                                         (wordOf(from[x]) & ~kColour));
+    });
+}
+
+} // namespace
+
+bool isColourDepth(int depth)
+{
+    static constexpr int kDepths[] = {1, 4, 8, 15, 16, 24, 32};
+    return std::ranges::find(kDepths, depth) != std::end(kDepths);
+}
+
+Palette tableOfDepth(int depth)
+{
+    return depth == 1 ? blackAndWhite() : depth == 4 ? vgaColours() : depth == 8 ? halftoneColours() : Palette();
+}
+
+Bits bitsAtDepth(const Bits& bits, int depth, const ReduceProgress& progress)
+{
+    if (depth == 1) return eachRow(bits, progress, blackOrWhite);
+    if (depth == 15 || depth == 16) return eachRow(bits, progress, highBits);
+    const Palette table = tableOfDepth(depth);
+    return table.empty() ? bits : nearestOf(table, bits, progress);
+}
+
+} // namespace velara

@@ -1,0 +1,80 @@
+#include "reduce/Screens.h"
+#include "reduce/palettes.h"
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+constexpr int kMostError = 64 * 255; // of all entries together; beyond the palette it would grow without end
+
+/// Each doubling puts 0, 2 / 3, 1 between the places there are.
+constexpr ScreenMatrix dispersed()
+{
+    ScreenMatrix matrix{};
+    for (std::size_t y = 0; y < 8; ++y)
+        for (std::size_t x = 0; x < 8; ++x)
+            for (std::size_t bit = 0; bit < 3; ++bit) {
+                const std::size_t column = x >> bit & 1, row = y >> bit & 1;
+                matrix[y * 8 + x] |= static_cast<std::uint8_t>(((column ^ row) << 1 | row) << (4 - 2 * bit));
+            }
+    return matrix;
+}
+
+} // namespace
+
+constexpr ScreenMatrix kDispersedDots = dispersed();
+
+// Two dots a square, each growing outwards from its middle; the second one is the first a step later.
+// clang-format off
+constexpr ScreenMatrix kClusteredDots{
+    24, 10, 12, 26, 35, 47, 49, 37,
+     8,  0,  2, 14, 45, 59, 61, 51,
+    22,  6,  4, 16, 43, 57, 63, 53,
+    30, 20, 18, 28, 33, 41, 55, 39,
+    34, 46, 48, 36, 25, 11, 13, 27,
+    44, 58, 60, 50,  9,  1,  3, 15,
+    42, 56, 62, 52, 23,  7,  5, 17,
+    32, 40, 54, 38, 31, 21, 19, 29};
+// clang-format on
+
+Screen::Screen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest)
+{
+    for (const Pixel& p : colours) {
+        lanes_.push_back(wide(p));
+        brightness_.push_back(greyOf(p.c[2], p.c[1], p.c[0]));
+    }
+}
+
+/// Each entry is the nearest to the colour and to what all before it have left of it.
+void Screen::fill(Known& known, std::uint32_t key)
+{
+    const auto pixel = std::bit_cast<Pixel>(key & 0x00FFFFFF);
+    const Lanes colour = wide(pixel);
+    struct Used {
+        int entry, times;
+    };
+    std::array<Used, 64> used;
+    std::size_t count = 0;
+    Lanes error{};
+    for (int i = 0; i < 64; ++i) {
+        const int entry = nearest_(narrow(limited(colour + error, 0, 255)));
+        const auto same =
+            std::find_if(used.begin(), used.begin() + count, [&](const Used& u) { return u.entry == entry; });
+        if (same == used.begin() + count)
+            used[count++] = {entry, 1};
+        else
+            ++same->times;
+        error = limited(error + colour - lanes_[std::size_t(entry)], -kMostError, kMostError);
+    }
+    std::sort(used.begin(), used.begin() + count, [&](const Used& a, const Used& b) {
+        const int byBrightness = brightness_[std::size_t(a.entry)] - brightness_[std::size_t(b.entry)];
+        return byBrightness != 0 ? byBrightness < 0 : a.entry < b.entry;
+    });
+    known.key = key;
+    auto to = known.entries.begin();
+    for (std::size_t i = 0; i < count; ++i)
+        to = std::fill_n(to, used[i].times, static_cast<std::uint8_t>(used[i].entry));
+}
+
+} // namespace velara

@@ -1,0 +1,206 @@
+#include "reduce/dither.h"
+#include "pixels/NearestColours.h"
+#include "pixels/PixelLanes.h"
+#include "reduce/Screens.h"
+#include <algorithm>
+#include <span>
+
+namespace velara {
+
+namespace {
+
+constexpr int kMostError = 160; // of a channel; more is lost, so that colours beyond the palette don't smear
+
+class Work {
+  public:
+    Work(const Bits& bits, const Palette& palette, const ReduceProgress& progress)
+        : bits_(bits), progress_(progress), colours_(pixelsOf(palette)),
+          nearest_(colours_, Distance::Squares), picture_{bits.width(), bits.height(), {}, palette}
+    {
+        picture_.indices.resize(static_cast<std::size_t>(bits.width()) * static_cast<std::size_t>(bits.height()));
+        for (const Pixel& p : colours_) lanes_.push_back(wide(p));
+    }
+    IndexedPicture take() { return std::move(picture_); }
+
+    /// Each pixel by itself: index = body(pixel, x, y).
+    template <class Body> void eachPixel(Body body)
+    {
+        for (int y = 0; y < bits_.height(); ++y) {
+            const Pixel* from = bits_.row(y);
+            std::uint8_t* to = rowOf(y);
+            for (int x = 0; x < bits_.width(); ++x) to[x] = static_cast<std::uint8_t>(body(from[x], x, y));
+            told(y);
+        }
+    }
+    int nearest(Pixel p) { return nearest_(p); }
+
+    void screened(const ScreenMatrix& matrix)
+    {
+        Screen screen(colours_, nearest_);
+        eachPixel([&](Pixel p, int x, int y) {
+            const int own = nearest_(p);
+            if (isSame(p, colours_[std::size_t(own)])) return own;
+            return int(screen.entries(p, ((x ^ y) & 8) != 0)[matrix[std::size_t(y % 8 * 8 + x % 8)]]);
+        });
+    }
+
+    /// All of the error to the pixel below, moved by so many columns to the right.
+    void downwards(int shift)
+    {
+        const int width = bits_.width();
+        std::vector<Lanes> errors(static_cast<std::size_t>(width)), next(errors);
+        for (int y = 0; y < bits_.height(); ++y) {
+            const Pixel* from = bits_.row(y);
+            std::uint8_t* to = rowOf(y);
+            const auto seedAt = [&](int x) { errors[std::size_t(x)] = seed(from[x], x + y); };
+            for (int x = 0; y == 0 && x < width; ++x) seedAt(x);
+            if (y > 0 && shift != 0) seedAt(shift > 0 ? 0 : width - 1); // where a diagonal begins
+            for (int x = 0; x < width; ++x) {
+                const Lanes error = put(to[x], from[x], errors[std::size_t(x)]);
+                if (unsigned(x + shift) < unsigned(width)) next[std::size_t(x + shift)] = error;
+            }
+            std::swap(errors, next);
+            told(y);
+        }
+    }
+
+    void alongRows()
+    {
+        for (int y = 0; y < bits_.height(); ++y) {
+            const Pixel* from = bits_.row(y);
+            std::uint8_t* to = rowOf(y);
+            Lanes error = seed(from[0], y);
+            for (int x = 0; x < bits_.width(); ++x) error = put(to[x], from[x], error);
+            told(y);
+        }
+    }
+
+    /// To the next pixel and three below it, in sixteenths; rows of this parity run from right to left.
+    void turning(int parity)
+    {
+        const int width = bits_.width();
+        std::vector<Lanes> errors(static_cast<std::size_t>(width) + 2), next(errors); // one more at each end
+        for (int y = 0; y < bits_.height(); ++y) {
+            const bool back = y % 2 == parity;
+            const int step = back ? -1 : 1, first = back ? width - 1 : 0;
+            const Pixel* from = bits_.row(y) + first;
+            std::uint8_t* to = rowOf(y) + first;
+            const Lanes* here = errors.data() + 1 + first;
+            Lanes* below = next.data() + 1 + first;
+            Lanes ahead{}, under{}, corner{}; // for the next pixel, the one below this, and the one below the next
+            for (int i = 0; i < width; ++i, from += step, to += step, here += step, below += step) {
+                const Lanes error = put(*to, *from, *here + ahead);
+                const Lanes right = error * 7 >> 4, back3 = error * 3 >> 4, middle = error * 5 >> 4;
+                below[-step] = under + back3;
+                under = corner + middle;
+                corner = error - right - back3 - middle;
+                ahead = right;
+            }
+            below[-step] = under;
+            std::swap(errors, next);
+            told(y);
+        }
+    }
+
+  private:
+    static std::vector<Pixel> pixelsOf(const Palette& palette)
+    {
+        std::vector<Pixel> pixels;
+        std::ranges::transform(palette, std::back_inserter(pixels), pixelFor);
+        return pixels;
+    }
+    std::uint8_t* rowOf(int y)
+    {
+        return picture_.indices.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(bits_.width());
+    }
+    void told(int y) const
+    {
+        if (progress_ && y % 16 == 15) progress_(100 * y / bits_.height());
+    }
+    static bool isSame(Pixel a, Pixel b)
+    {
+        return ((std::bit_cast<std::uint32_t>(a) ^ std::bit_cast<std::uint32_t>(b)) & 0xFFFFFF) == 0;
+    }
+    /// The entry nearest to the pixel with its error, and what is left of that. With an error it is the entry for the
+    /// middle of a cube of four levels: what that costs goes on with the error, and the table stays in the cache.
+    Lanes put(std::uint8_t& to, Pixel p, Lanes error)
+    {
+        const Lanes wanted = wide(p) + error;
+        const Pixel shown = narrow(limited(wanted, 0, 255));
+        const int entry = isSame(shown, p) ? nearest_(shown) : nearly(shown);
+        to = static_cast<std::uint8_t>(entry);
+        return limited(wanted - lanes_[std::size_t(entry)], -kMostError, kMostError);
+    }
+    int nearly(Pixel p)
+    {
+        const auto w = std::bit_cast<std::uint32_t>(p);
+        std::uint16_t& known = nearly_[(w >> 2 & 63) | (w >> 4 & 63 << 6) | (w >> 6 & 63 << 12)];
+        if (known == 0) [[unlikely]]
+            known = static_cast<std::uint16_t>(1 + nearest_(std::bit_cast<Pixel>((w & 0xFCFCFC) | 0x020202)));
+        return known - 1;
+    }
+    /// What a line of errors begins with, so that not all of them begin alike: spread evenly between the pixel's own
+    /// error and its opposite.
+    Lanes seed(Pixel p, int line)
+    {
+        const Lanes error = wide(p) - lanes_[std::size_t(nearest_(p))];
+        const int part = static_cast<int>(static_cast<std::uint32_t>(line) * 2654435769U >> 23) - 256; // golden ratio
+        return error * part / 256;
+    }
+
+    const Bits& bits_;
+    const ReduceProgress& progress_;
+    std::vector<Pixel> colours_;
+    std::vector<Lanes> lanes_;
+    NearestColours nearest_;
+    std::vector<std::uint16_t> nearly_ = std::vector<std::uint16_t>(64 * 64 * 64); // position + 1
+    IndexedPicture picture_;
+};
+
+Pixel blackOrWhite(Pixel p)
+{
+    for (int channel = 0; channel < 3; ++channel) p.c[channel] = p.c[channel] < 128 ? 0 : 255;
+    return p;
+}
+
+} // namespace
+
+IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress)
+{
+    Work work(bits, palette, progress);
+    switch (dither) {
+    case Dither::Binary:
+        work.eachPixel([&](Pixel p, int, int) { return work.nearest(blackOrWhite(p)); });
+        break;
+    case Dither::Ordered:
+        work.screened(kDispersedDots);
+        break;
+    case Dither::Haftone:
+        work.screened(kClusteredDots);
+        break;
+    case Dither::ForwardDiag:
+        work.downwards(1);
+        break;
+    case Dither::BackwardDiag:
+        work.downwards(-1);
+        break;
+    case Dither::Vertical:
+        work.downwards(0);
+        break;
+    case Dither::Horizontal:
+        work.alongRows();
+        break;
+    case Dither::Odd:
+        work.turning(1);
+        break;
+    case Dither::Even:
+        work.turning(0);
+        break;
+    case Dither::None:
+    default:
+        work.eachPixel([&](Pixel p, int, int) { return work.nearest(p); });
+    }
+    return work.take();
+}
+
+} // namespace velara

@@ -1,0 +1,63 @@
+#include "reduce/reduceColours.h"
+#include "reduce/bestColours.h"
+#include "reduce/dither.h"
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+Bits greyPicture(const Bits& bits)
+{
+    Bits grey(bits.width(), bits.height());
+    for (int y = 0; y < bits.height(); ++y)
+        std::transform(bits.row(y), bits.row(y) + bits.width(), grey.row(y), [](const Pixel& p) {
+            const auto level = static_cast<std::uint8_t>(greyOf(p.c[2], p.c[1], p.c[0]));
+            return Pixel{{level, level, level, 0}};
+        });
+    return grey;
+}
+
+Colour greyColour(Colour c) { return greyOf(redOf(c), greenOf(c), blueOf(c)) * colourOf(1, 1, 1); }
+
+Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgress& progress)
+{
+    const int most = 1 << words.bitCount, counted = words.paletteWord & ~kCounted;
+    switch (words.paletteWord) {
+    case kOptimal:
+        return bestPalette(bits, most, progress);
+    case kVgaPalette:
+        return vgaColours();
+    case kWebPalette:
+        return webSafeColours();
+    case kHalftonePalette:
+        return halftoneColours();
+    case kGreyPalette:
+        return greyRamp(most);
+    case kMapped:
+        if (const Palette table = tableOfDepth(words.bitCount); !table.empty()) return table;
+        [[fallthrough]];
+    default:
+        return fixedColours(counted >= 2 && counted < most && words.paletteWord != kMapped ? counted : most);
+    }
+}
+
+} // namespace
+
+ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress)
+{
+    const int count = words.bitCount;
+    const bool isIndexed = count >= 1 && count <= 8;
+    if (bits.isNull() || (!isIndexed && count != 16 && count != 24 && count != 32)) return {};
+    const bool isGrey = words.colorMode == kGreyscale;
+    const Bits source = isGrey ? greyPicture(bits) : bits;
+    if (!isIndexed) return {std::min(count, 24), {}, bitsAtDepth(source, count, progress)};
+
+    Palette palette = paletteOf(words, source, progress);
+    palette.resize(std::min<std::size_t>(palette.size(), std::size_t{1} << count));
+    if (isGrey) std::ranges::transform(palette, palette.begin(), greyColour);
+    const auto dither = words.paletteWord == kMapped ? Dither::None : static_cast<Dither>(words.ditherWord);
+    return {count, dithered(source, palette, dither, progress), {}};
+}
+
+} // namespace velara

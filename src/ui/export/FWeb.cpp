@@ -1,0 +1,261 @@
+// FWeb: what the dialog does. Its controls are made in FWeb_controls.cpp.
+#include "ui/export/FWeb.h"
+#include "pixels/RuntimeError.h"
+#include "seams/Platform.h"
+#include "ui/widgets/ActiveComposer.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <cmath>
+
+namespace velara {
+
+namespace {
+
+constexpr int kBothTab = 2;
+constexpr std::uint32_t kBetweenYields = 15; // milliseconds
+constexpr int kMostQuality = 32767;
+
+/// A combo box takes an entry without telling.
+void setQuietly(QComboBox* box, int index)
+{
+    const QSignalBlocker quiet(box);
+    box->setCurrentIndex(index);
+}
+
+} // namespace
+
+FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent)
+    : QDialog(parent), platform_(platform), picture_(picture), optimizedBits_(picture), path_(path),
+      isrc_(new fPicturePage({"CiSrc", "isrc", "H", "V"}, tr("Original"))),
+      oSrc_(new fPicturePage({"CoSrc", "oSrc", "Hop", "Vop"}, tr("Optimized"))),
+      original_(new fPicturePage({"COriginalP", "OriginalP", "HHor", "VVor"}, tr("Original, above the optimized"))),
+      optimized_(new fPicturePage({"COptimizedP", "OptimizedP", "HHop", "VVop"}, tr("Optimized, below the original")))
+{
+    setObjectName(QStringLiteral("FWeb"));
+    setWindowTitle(QStringLiteral("Customized Save Options "));
+    setModal(true);
+    ActiveComposer::unload();
+    auto* row = new QHBoxLayout(this);
+    row->setSpacing(12);
+    row->addWidget(makeChoices());
+    row->addWidget(makePages(), 1);
+    for (const char* label : {"FileType1", "FileType3"}) findChild<QLabel*>(QLatin1String(label))->setText(name);
+    isrc_->setPartner(*oSrc_);
+    original_->setPartner(*optimized_);
+    isrc_->setBits(picture_);
+    oSrc_->setBits(optimizedBits_);
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &FWeb::run);
+    resize(900, 620);
+}
+
+QString FWeb::temporaryName() const
+{
+    const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
+    QDir().mkpath(folder); // it may have been swept away meanwhile
+    return folder + (settings_.isJpeg() ? QStringLiteral("/J0001.jpg") : QStringLiteral("/G0001.gif"));
+}
+
+// --- Choices
+
+void FWeb::presetChosen(int index)
+{
+    if (index < 0) return;
+    settings_.choosePreset(index, ChkInterlaced_->isChecked());
+    fgif_->setVisible(!settings_.isJpeg());
+    Fjpg_->setVisible(settings_.isJpeg());
+    ChkInterlaced_->setVisible(settings_.isGif());
+    for (QWidget* widget : std::initializer_list<QWidget*>{FrmAPI_, cboMap_, cboDither_, cboColorMode_, CmdSave_})
+        widget->setEnabled(true);
+    const QSignalBlocker quiet(cboMap_);
+    cboMap_->clear();
+    for (const int map : settings_.maps()) cboMap_->addItem(QLatin1String(webMaps()[std::size_t(map)].entry), map);
+    cboMap_->setCurrentIndex(cboMap_->findData(settings_.map()));
+    setQuietly(cboDither_, 0);
+    setQuietly(cboColorMode_, 0);
+    if (!settings_.isJpeg()) return changed();
+    setQuietly(cboJpg_, kGoodQuality);
+    qualityChosen(webJpegQualities()[kGoodQuality].word);
+}
+
+void FWeb::mapChosen(int entry)
+{
+    settings_.chooseMap(cboMap_->itemData(entry).toInt());
+    cboDither_->setEnabled(settings_.takesDither);
+    if (!settings_.takesDither) setQuietly(cboDither_, 0);
+    changed();
+}
+
+void FWeb::qualityChosen(int quality)
+{
+    settings_.JpegQuality = quality;
+    changed();
+}
+
+void FWeb::customQuality()
+{
+    if (TxtJPG_->text().isEmpty())
+        return platform_.message(QStringLiteral("Velara Studio"), QStringLiteral("Enter value between 1 to 99 !"),
+                                 Icon::Information);
+    qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
+}
+
+void FWeb::fitSize()
+{
+    if (running_) return;
+    const QPointer<FWeb> alive = this;
+    const std::int64_t most = std::int64_t{fit_->value()} * 1024;
+    showWaiting(true);
+    running_ = true;
+    const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
+    if (!alive) return;
+    running_ = false;
+    showWaiting(false);
+    if (closing_) return QDialog::reject();
+    if (again_) return changed();
+    if (!quality) {
+        exact_->setText(tr("No quality makes it as small as %1 KB.").arg(fit_->value()));
+        return;
+    }
+    TxtJPG_->setText(QString::number(*quality));
+    qualityChosen(*quality);
+}
+
+// --- Files
+
+/// All changes until the message loop is idle are one.
+void FWeb::changed()
+{
+    again_ = true;
+    if (!running_) timer_.start(0);
+}
+
+/// Yields now and then, and ends the work when it is not wanted any more.
+ReduceProgress FWeb::yielding()
+{
+    return [this, alive = QPointer<FWeb>(this)](int) {
+        if (const std::uint32_t now = platform_.milliseconds(); now - lastYield_ >= kBetweenYields) {
+            platform_.yield();
+            if (alive) lastYield_ = platform_.milliseconds();
+        }
+        if (!alive || closing_ || again_) throw Cancelled();
+    };
+}
+
+void FWeb::run()
+{
+    if (running_) return;
+    while (again_ && !closing_) {
+        again_ = false;
+        const QPointer<FWeb> alive = this;
+        write();
+        if (!alive) return;
+    }
+    if (closing_) QDialog::reject();
+}
+
+bool FWeb::write(const QString& finalName)
+{
+    const QPointer<FWeb> alive = this;
+    const QString name = finalName.isEmpty() ? temporaryName() : finalName;
+    const WebSettings settings = settings_; // a change meanwhile is for the next one
+    running_ = true;
+    showWaiting(true);
+    const WebFile file =
+        writeWebFile(picture_, settings, name,
+                     finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow, yielding());
+    if (!alive) {
+        QGuiApplication::restoreOverrideCursor();
+        return false;
+    }
+    running_ = false;
+    showWaiting(false);
+    if (file.outcome == WebFile::Outcome::NoBitmap)
+        platform_.message(QStringLiteral("Please Choose a higher image format!"),
+                          QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
+    if (alive && file.outcome == WebFile::Outcome::Written) showFile(file, name);
+    return alive && file.outcome == WebFile::Outcome::Written;
+}
+
+/// The file as a reader sees it; where it can't be read what was shown stays.
+void FWeb::showFile(const WebFile& file, const QString& name)
+{
+    const LoadedPicture picture = platform_.loadPicture(name, settings_.extension());
+    if (!picture.ok()) return;
+    optimizedBits_ = picture.bits;
+    oSrc_->setBits(optimizedBits_);
+    if (sT_->currentIndex() == kBothTab) optimized_->setBits(optimizedBits_);
+    for (QLabel* label : {FileType2_, FileType4_}) label->setText(settings_.typeText());
+    for (QLabel* label : {Depth2_, Depth4_}) label->setText(settings_.depthText());
+    if (const auto size = settings_.sizeText(file.bytes))
+        for (QLabel* label : {FileSize2_, FileSize4_}) label->setText(*size);
+    QStringList parts{tr("%L1 bytes").arg(file.bytes)};
+    if (const qint64 before = path_.isEmpty() ? 0 : QFileInfo(path_).size(); before > 0)
+        parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(file.bytes) / double(before)));
+    if (file.source.width() == optimizedBits_.width() && file.source.height() == optimizedBits_.height()) {
+        const double decibels = peakSignalToNoise(file.source, optimizedBits_);
+        parts += std::isinf(decibels) ? tr("no loss") : tr("%1 dB").arg(decibels, 0, 'f', 1);
+    }
+    exact_->setText(parts.join(QStringLiteral(", ")));
+}
+
+void FWeb::showWaiting(bool waiting)
+{
+    if (waiting)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+void FWeb::saveAs()
+{
+    if (running_) return;
+    const QPointer<FWeb> alive = this;
+    const auto name = platform_.saveFileName({QStringLiteral("Save Optimized As"), settings_.saveFilter(), {}});
+    if (!alive || !name) return;
+    QString chosen = *name;
+    if (QFileInfo(chosen).suffix().isEmpty()) {
+        chosen += u'.' + settings_.extension();
+        const bool isFree =
+            !QFileInfo::exists(chosen) ||
+            platform_.askYesNoCancel(QStringLiteral("Velara Studio"),
+                                     tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
+                                     Icon::Exclamation) == Answer::Yes;
+        if (!alive || !isFree) return;
+    }
+    choices_->setEnabled(false); // what is being written is what was asked for
+    again_ = false;
+    const bool written = write(chosen);
+    if (!alive) return;
+    choices_->setEnabled(true);
+    if (closing_) return QDialog::reject();
+    if (!written) exact_->setText(tr("%1 can't be written.").arg(QFileInfo(chosen).fileName()));
+}
+
+void FWeb::pageChosen(int page)
+{
+    if (page != kBothTab) return;
+    original_->setBits(picture_);
+    optimized_->setBits(optimizedBits_);
+    original_->setScroll({});
+}
+
+void FWeb::reject()
+{
+    closing_ = true;
+    timer_.stop();
+    if (!running_) QDialog::reject();
+}
+
+} // namespace velara

@@ -1,0 +1,162 @@
+#include "ui/export/fColorDepth.h"
+#include "pixels/numbers.h"
+#include "reduce/EuroDepth.h"
+#include "ui/widgets/ActiveComposer.h"
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr struct DepthRow {
+    const char* entry;
+    int depth;
+} kDepths[] = {{"2 Colors (1 Bit)", 1}, {"16 Colors (4 Bit)", 4},       {"256 Colors (8 Bit)", 8},     {"(15 Bit)", 15},
+               {"(16 Bit)", 16},        {"32,000 Colors (24 Bit)", 24}, {"64,000 Colors (24 Bit)", 32}};
+
+constexpr int kLevels[] = {10, 6, 5, 4, 3, 2, 1}; // of the zoom menu
+constexpr int kFirstLevel = 3;
+
+/// The picture at 1 / level of its size; itself at 1.
+Bits reducedCopy(const Bits& picture, int level)
+{
+    if (level == 1) return picture;
+    const auto part = [level](int side) { return std::max(roundEven(double(side) / level), 1); };
+    return fittingCopy(picture, {part(picture.width()), part(picture.height())});
+}
+
+QPushButton* button(const char* name, const QString& text)
+{
+    auto* made = new QPushButton(text);
+    made->setObjectName(QLatin1String(name));
+    made->setAccessibleName(text.trimmed());
+    made->setAutoDefault(false);
+    return made;
+}
+
+} // namespace
+
+fColorDepth::fColorDepth(const Bits& picture, Actions actions, QWidget* parent)
+    : QDialog(parent), picture_(picture), actions_(std::move(actions)),
+      original_(new fPicturePage({"COriginalP", "OriginalP", "HHor", "VVor"}, tr("Original"))),
+      optimized_(new fPicturePage({"COptimizedP", "OptimizedP", "HHop", "VVop"}, tr("Optimized")))
+{
+    setObjectName(QStringLiteral("fColorDepth"));
+    setWindowTitle(QStringLiteral("Image Color Depth"));
+    setModal(true);
+    ActiveComposer::take(Composer::ColorDepth, this);
+    original_->setPartner(*optimized_);
+    auto* row = new QHBoxLayout(this);
+    row->setSpacing(12);
+    row->addWidget(makePages(), 1);
+    row->addWidget(makeControls());
+    resize(760, 480);
+    zoomlevel(kFirstLevel);
+}
+
+QWidget* fColorDepth::makePages()
+{
+    auto* tabs = new QTabWidget;
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    tabs->setAccessibleName(tr("Pictures"));
+    tabs->addTab(original_, QStringLiteral("Original"));
+    tabs->addTab(optimized_, QStringLiteral("Optimized"));
+    tabs->setCurrentIndex(1); // what the choice of a depth changes
+    return tabs;
+}
+
+QWidget* fColorDepth::makeControls()
+{
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    auto* options = new QGroupBox(QStringLiteral("Select an option"));
+    auto* optionLines = new QVBoxLayout(options);
+    cmbDepth_ = new QComboBox;
+    cmbDepth_->setObjectName(QStringLiteral("cmbDepth"));
+    cmbDepth_->setAccessibleName(tr("Color depth"));
+    for (const DepthRow& row : kDepths) cmbDepth_->addItem(QLatin1String(row.entry));
+    optionLines->addWidget(cmbDepth_);
+
+    auto* bar = new QToolBar;
+    bar->setObjectName(QStringLiteral("Toolbar1"));
+    bar->setAccessibleName(tr("Zoom"));
+    auto* zoom = new QToolButton;
+    zoom->setObjectName(QStringLiteral("Toolbar1_1"));
+    zoom->setAccessibleName(tr("Zoom"));
+    zoom->setPopupMode(QToolButton::InstantPopup);
+    zoom->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    zoom_ = new QMenu(zoom);
+    for (const int level : kLevels) {
+        QAction* entry = zoom_->addAction(level == 1 ? tr("Full size") : tr("1/%1 of the size").arg(level),
+                                          [this, level] { zoomlevel(level); });
+        entry->setData(level);
+    }
+    zoom->setMenu(zoom_);
+    bar->addWidget(zoom);
+    optionLines->addWidget(bar);
+
+    Lbloptimized_ = new QLabel;
+    Lbloptimized_->setObjectName(QStringLiteral("Lbloptimized"));
+    auto* heading = new QLabel(tr("Optimized to"));
+    heading->setForegroundRole(QPalette::PlaceholderText);
+
+    auto* send = new QGroupBox(QStringLiteral("Send the Optimized Image to "));
+    auto* save = button("cmdSave", QStringLiteral("Optimized Saver "));
+    (new QVBoxLayout(send))->addWidget(save);
+    auto* ok = button("CmdOK", QStringLiteral("OK"));
+    auto* exit = button("CmdExit", QStringLiteral("Exit"));
+    ok->setDefault(true);
+
+    layout->addWidget(options);
+    layout->addWidget(heading);
+    layout->addWidget(Lbloptimized_);
+    layout->addStretch();
+    layout->addWidget(send);
+    layout->addWidget(ok);
+    layout->addWidget(exit);
+    connect(cmbDepth_, &QComboBox::currentIndexChanged, this, &fColorDepth::showDepth);
+    connect(ok, &QPushButton::clicked, this, [this] { finish(actions_.ok); });
+    connect(save, &QPushButton::clicked, this, [this] { finish(actions_.save); });
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    return column;
+}
+
+int fColorDepth::depth() const { return kDepths[std::max(cmbDepth_->currentIndex(), 0)].depth; }
+
+void fColorDepth::zoomlevel(int Level)
+{
+    for (QAction* entry : zoom_->actions()) {
+        const bool isPresent = entry->data().toInt() == Level;
+        entry->setEnabled(!isPresent);
+        if (isPresent) findChild<QToolButton*>(QStringLiteral("Toolbar1_1"))->setText(tr("Zoom: ") + entry->text());
+    }
+    original_->setBits(picture_.isNull() ? picture_ : reducedCopy(picture_, Level));
+    showDepth();
+}
+
+void fColorDepth::showDepth()
+{
+    optimized_->setBits(bitsAtDepth(original_->picture().bits(), depth()));
+    Lbloptimized_->setText(cmbDepth_->currentText());
+}
+
+/// The dialog is closed before what follows, which may open another.
+void fColorDepth::finish(const std::function<void(const Bits&)>& action)
+{
+    const auto next = action; // lives on whatever becomes of this
+    const Bits result = bitsAtDepth(picture_, depth());
+    accept();
+    if (next) next(result);
+}
+
+} // namespace velara

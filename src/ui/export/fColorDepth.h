@@ -1,0 +1,42 @@
+// fColorDepth: the dialog "Image Color Depth": the picture before and after a reduction of its colours, at a size that
+// can be chosen. It hands the reduced picture to the document, or on to the dialog that saves it.
+#pragma once
+#include "ui/widgets/fPicturePage.h"
+#include <QDialog>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QMenu;
+
+namespace velara {
+
+class fColorDepth final : public QDialog {
+    Q_OBJECT
+  public:
+    /// What happens to the reduced picture of full size: ok puts it into the document, save shows it to the dialog that
+    /// saves, after this one has closed.
+    struct Actions {
+        std::function<void(const Bits&)> ok, save;
+    };
+    fColorDepth(const Bits& picture, Actions actions, QWidget* parent = nullptr);
+
+    /// Both pictures at 1 / Level of their size, reduced afresh.
+    void zoomlevel(int Level);
+
+  private:
+    QWidget* makePages();
+    QWidget* makeControls();
+    void showDepth();
+    int depth() const;
+    void finish(const std::function<void(const Bits&)>& action);
+
+    Bits picture_;
+    Actions actions_;
+    fPicturePage *original_, *optimized_;
+    QComboBox* cmbDepth_ = nullptr;
+    QMenu* zoom_ = nullptr;
+    QLabel* Lbloptimized_ = nullptr;
+};
+
+} // namespace velara

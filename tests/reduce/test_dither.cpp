@@ -1,0 +1,190 @@
+// What each dither does to even areas, to a ramp, and where its error goes.
+#include "reduce/bestColours.h"
+#include "reduce/dither.h"
+#include "reduce/reduceColours.h"
+#include "support/pictures.h"
+#include <array>
+#include <map>
+#include <set>
+
+namespace velara {
+namespace {
+
+struct Row {
+    const char* name;
+    Dither dither;
+};
+constexpr Row kDithers[] = {{"None", Dither::None},
+                            {"Binary", Dither::Binary},
+                            {"Ordered", Dither::Ordered},
+                            {"Haftone", Dither::Haftone},
+                            {"Forward Diag", Dither::ForwardDiag},
+                            {"Backward Diag", Dither::BackwardDiag},
+                            {"Horizontal", Dither::Horizontal},
+                            {"Vertical", Dither::Vertical},
+                            {"Odd", Dither::Odd},
+                            {"Even", Dither::Even}};
+const std::span kSpreading = std::span(kDithers).subspan(2);
+
+std::array<double, 3> meanOf(const IndexedPicture& picture)
+{
+    std::array<double, 3> sum{};
+    for (const std::uint8_t i : picture.indices) {
+        const Pixel p = pixelFor(picture.palette[i]);
+        for (std::size_t c = 0; c < 3; ++c) sum[c] += p.c[c];
+    }
+    for (double& s : sum) s /= double(picture.indices.size());
+    return sum;
+}
+
+TEST(Dither, AnEvenAreaKeepsItsMean)
+{
+    const Palette palettes[] = {blackAndWhite(),
+                                vgaColours(),
+                                halftoneColours(),
+                                webSafeColours(),
+                                fixedColours(4),
+                                fixedColours(8),
+                                fixedColours(16),
+                                fixedColours(64),
+                                fixedColours(256),
+                                greyRamp(4),
+                                {0x000000, 0x1020F0, 0xE04010, 0x20C030, 0xFFFFFF}};
+    for (const Row& row : kSpreading)
+        for (const Palette& palette : palettes)
+            for (const int tone : {40, 100, 127, 128, 160, 201}) {
+                const auto level = static_cast<std::uint8_t>(tone);
+                const auto mean = meanOf(dithered(flatBits(64, 64, level, level, level), palette, row.dither));
+                for (const double m : mean) EXPECT_NEAR(tone, m, 3) << row.name << ", colours " << palette.size();
+            }
+}
+
+TEST(Dither, ColoursTooAndPaletteColoursStayPure)
+{
+    const Palette cube = webSafeColours();
+    for (const Row& row : kSpreading) {
+        const auto mean = meanOf(dithered(flatBits(64, 64, 30, 120, 200), cube, row.dither));
+        EXPECT_NEAR(30, mean[0], 3) << row.name;
+        EXPECT_NEAR(120, mean[1], 3) << row.name;
+        EXPECT_NEAR(200, mean[2], 3) << row.name;
+        const IndexedPicture pure = dithered(flatBits(16, 16, 51, 102, 255), cube, row.dither);
+        EXPECT_EQ(1U, std::set(pure.indices.begin(), pure.indices.end()).size()) << row.name;
+    }
+}
+
+TEST(Dither, EachDiffersFromEachOnARamp)
+{
+    Bits ramp(256, 64);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 256; ++x) ramp.at(x, y) = pixelFor(colourOf(1, 1, 1) * x);
+    std::map<std::string, std::vector<std::uint8_t>> results;
+    for (const Row& row : kDithers) results[row.name] = dithered(ramp, greyRamp(4), row.dither).indices;
+    for (const auto& [a, first] : results)
+        for (const auto& [b, second] : results) {
+            int differ = 0;
+            for (std::size_t i = 0; i < first.size(); ++i) differ += first[i] != second[i];
+            EXPECT_TRUE(a == b || differ > 256 * 64 / 10) << a << " and " << b << ": " << differ;
+        }
+}
+
+/// Where the result changes when one pixel of an even area gets lighter by a little.
+std::vector<std::array<int, 2>> reachOf(Dither dither, int x, int y)
+{
+    Bits area = flatBits(48, 48, 100, 100, 100);
+    const auto before = dithered(area, greyRamp(4), dither).indices;
+    area.at(x, y) = pixelFor(colourOf(1, 1, 1) * 140);
+    const auto after = dithered(area, greyRamp(4), dither).indices;
+    std::vector<std::array<int, 2>> reach;
+    for (int i = 0; i < 48 * 48; ++i)
+        if (before[std::size_t(i)] != after[std::size_t(i)]) reach.push_back({i % 48 - x, i / 48 - y});
+    return reach;
+}
+
+TEST(Dither, TheErrorGoesWhereItsNameSays)
+{
+    const struct {
+        Dither dither;
+        bool (*reached)(int dx, int dy, int y);
+    } rows[] = {
+        {Dither::ForwardDiag, [](int dx, int dy, int) { return dx == dy && dy >= 0; }},
+        {Dither::BackwardDiag, [](int dx, int dy, int) { return dx == -dy && dy >= 0; }},
+        {Dither::Horizontal, [](int dx, int dy, int) { return dy == 0 && dx >= 0; }},
+        {Dither::Vertical, [](int dx, int dy, int) { return dx == 0 && dy >= 0; }},
+        {Dither::Odd, [](int dx, int dy, int y) { return dy > 0 || (dy == 0 && (y % 2 ? dx <= 0 : dx >= 0)); }},
+        {Dither::Even, [](int dx, int dy, int y) { return dy > 0 || (dy == 0 && (y % 2 ? dx >= 0 : dx <= 0)); }},
+    };
+    for (const auto& row : rows)
+        for (const int y : {20, 21}) {
+            int others = 0;
+            for (const auto [dx, dy] : reachOf(row.dither, 24, y)) {
+                EXPECT_TRUE(row.reached(dx, dy, y)) << int(row.dither) << " at " << dx << ',' << dy;
+                others += dx != 0 || dy != 0;
+            }
+            EXPECT_GT(others, 3) << int(row.dither);
+        }
+}
+
+TEST(Dither, TheSmallestAndTheThinnest)
+{
+    for (const Row& row : kDithers)
+        for (const auto [w, h] : {std::array{1, 1}, {1, 50}, {50, 1}, {2, 2}})
+            EXPECT_EQ(std::size_t(w * h), dithered(randomBits(w, h, 2), vgaColours(), row.dither).indices.size());
+}
+
+TEST(Palettes, AnEvenSpreadForEveryCount)
+{
+    for (int count = 2; count <= 256; ++count) {
+        const Palette palette = fixedColours(count), ramp = greyRamp(count);
+        const std::set<Colour> colours(palette.begin(), palette.end());
+        EXPECT_EQ(palette.size(), colours.size()) << count;
+        EXPECT_LE(palette.size(), std::size_t(count));
+        EXPECT_GT(palette.size(), std::size_t(count) * 6 / 10) << count;
+        EXPECT_TRUE(colours.contains(0) && colours.contains(0xFFFFFF)) << count;
+        ASSERT_EQ(std::size_t(count), ramp.size());
+        for (int i = 0; i < count; ++i)
+            EXPECT_NEAR(i * 255.0 / (count - 1), redOf(ramp[std::size_t(i)]), 0.51) << count;
+    }
+}
+
+TEST(ReduceColours, WordsBitsAndGreys)
+{
+    const Bits picture = randomBits(24, 20, 8);
+    for (const int word : {kFixedColour, kMapped, kOptimal, kCounted | 2, kCounted | 4, kVgaPalette, kWebPalette,
+                           kHalftonePalette, kGreyPalette})
+        for (const int bits : {1, 2, 3, 4, 5, 6, 7, 8})
+            for (const int mode : {0, kGreyscale}) {
+                const ReducedPicture reduced = reduceColours(picture, {mode, bits, word, 0x100});
+                EXPECT_EQ(bits, reduced.bitCount);
+                const auto& indexed = reduced.indexed;
+                ASSERT_LE(indexed.palette.size(), std::size_t(1) << bits);
+                for (const std::uint8_t i : indexed.indices) ASSERT_LT(i, indexed.palette.size());
+                for (const Colour c : indexed.palette)
+                    EXPECT_TRUE(mode != kGreyscale || (redOf(c) == greenOf(c) && greenOf(c) == blueOf(c))) << word;
+            }
+    const Pixel grey = reduceColours(picture, {kGreyscale, 16, kMapped, 0}).full.at(7, 7);
+    EXPECT_TRUE(grey.c[0] == grey.c[1] && grey.c[1] == grey.c[2]);
+    EXPECT_TRUE(sameBits(picture, reduceColours(picture, {0, 24, kMapped, 0}).full));
+    EXPECT_EQ(0, reduceColours(picture, {0, 9, kOptimal, 0}).bitCount);
+    EXPECT_EQ(0, reduceColours({}, {}).bitCount);
+}
+
+TEST(BestColours, ManyPixelsAreSampledAndColoursStayNear)
+{
+    const Bits photo = [] {
+        Bits bits(1200, 900);
+        for (int y = 0; y < 900; ++y)
+            for (int x = 0; x < 1200; ++x) bits.at(x, y) = pixelFor(colourOf(x * 255 / 1199, y * 255 / 899, 90));
+        return bits;
+    }();
+    const IndexedPicture best = reduceToBestColours(photo, 256);
+    EXPECT_EQ(256U, best.palette.size());
+    double error = 0;
+    for (int i = 0; i < 1200 * 900; i += 97) {
+        const Pixel want = photo.at(i % 1200, i / 1200), got = pixelFor(best.palette[best.indices[std::size_t(i)]]);
+        for (int c = 0; c < 3; ++c) error += (want.c[c] - got.c[c]) * (want.c[c] - got.c[c]);
+    }
+    EXPECT_LT(error / (1200 * 900 / 97), 100) << "16 by 16 cells would have about 42";
+}
+
+} // namespace
+} // namespace velara
