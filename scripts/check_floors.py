@@ -10,8 +10,8 @@ FLOORS = [
     ["seams"],
     ["engine", "paint", "text", "reduce", "colour"],
     ["fileio"],
-    ["platform", "document", "commands"],
-    ["tools"],
+    ["platform", "document"],
+    ["commands", "tools"],
     ["ui"],
     ["app", "batch"],
 ]

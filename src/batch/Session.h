@@ -1,9 +1,8 @@
 // Session: the one picture that a run of velara-batch works on, with its selection and its undo series.
 #pragma once
 #include "batch/Failure.h"
-#include "commands/sizeWords.h"
+#include "commands/jobs.h"
 #include "document/Document.h"
-#include "engine/operations.h"
 #include "seams/Platform.h"
 #include <QTemporaryDir>
 #include <optional>
@@ -24,8 +23,7 @@ class Session {
     const Bits& picture() const { return document_->Bits(); }
 
     // Each throws Failure and leaves the picture as it was.
-    void run(const Operation& operation, const Arguments& arguments);
-    void resize(const SizeWord& word);
+    void change(const Job& job, After after = After::Step);
     void crop();
     void undo() { document_->UndoBits(filter_); }
     void redo() { document_->RedoBits(filter_); }
@@ -40,9 +38,6 @@ class Session {
     void setProgress(std::function<void(int)> progress) { filter_.Progress = std::move(progress); }
 
   private:
-    template <class Work> void guarded(Work work);
-    void commit();
-    void keepStep();
 
     Platform& platform_;
     cBitFilter filter_;

@@ -96,7 +96,7 @@ Arguments parseArguments(const Operation& operation, const QStringList& texts)
 Step operationStep(const QString& text, const Operation& operation, Arguments arguments)
 {
     auto shared = std::make_shared<Arguments>(std::move(arguments));
-    return {text, [&operation, shared](Session& s) { s.run(operation, *shared); },
+    return {text, [&operation, shared](Session& s) { s.change(operationJob(operation, *shared)); },
             [&operation, shared](const ReadPicture& read) {
                 for (std::size_t i = 0; i < shared->size(); ++i)
                     if (operation.parameters[i].type == ArgumentType::Picture)

@@ -45,9 +45,9 @@ std::vector<Word> makeWords()
     std::vector<Word> list;
     for (const Preset& preset : presets())
         list.push_back({preset.word, callText(preset),
-                        [&preset](Session& s) { s.run(*findOperation(preset.operation), preset.arguments); }});
+                        [&preset](Session& s) { s.change(presetJob(preset)); }});
     for (const SizeWord& word : sizeWords())
-        list.push_back({word.word, meaningOf(word), [&word](Session& s) { s.resize(word); },
+        list.push_back({word.word, meaningOf(word), [&word](Session& s) { s.change(sizeJob(word), afterOf(word)); },
                         word.kind == SizeWord::Rotate ? GoesBack::Never : GoesBack::WhenRepeated});
     list.push_back({"CROP", QStringLiteral("cuts to the box of the selection"), [](Session& s) { s.crop(); }});
     list.push_back({"UNDO", QStringLiteral("one step back"), [](Session& s) { s.undo(); }, GoesBack::Always});

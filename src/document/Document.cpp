@@ -27,9 +27,26 @@ void Document::handTo(cBitFilter& filter) const
     filter.setBitsRegion(Region.working());
 }
 
+void Document::takeFrom(const cBitFilter& filter)
+{
+    const velara::Bits& bits = filter.bits();
+    if (bits.width() == PictureWidth() && bits.height() == PictureHeight())
+        setBits(bits);
+    else
+        takePicture(bits);
+}
+
+bool Document::commit()
+{
+    Changed = true;
+    Zoomed = false;
+    return SaveUndoBits();
+}
+
 bool Document::step(const std::optional<velara::Bits>& picture, cBitFilter& filter)
 {
     if (!picture) return false;
+    ++commits_;
     if (picture->width() != PictureWidth() || picture->height() != PictureHeight())
         takePicture(*picture);
     else

@@ -5,6 +5,7 @@
 #include "paint/Painter.h"
 #include "pixels/Bits.h"
 #include "region/cBitRegion.h"
+#include "seams/DocumentHandle.h"
 
 namespace velara {
 
@@ -32,12 +33,27 @@ class Document {
     /// A black picture; no effect below 1 by 1. Leaves Region alone.
     void CreateBlank(int width, int height);
     void Clear();
+    /// Takes what the engine holds; another size wipes the selection.
+    void takeFrom(const cBitFilter& filter);
+
+    /// Names this document until it is closed.
+    DocumentHandle handle() const { return DocumentHandle(life_); }
+    /// The document is closed: no handle finds it any more.
+    void retire() { life_.reset(); }
 
     /// Gives the engine this document's picture and working region.
     void handTo(cBitFilter& filter) const;
 
     /// Snapshot of the present picture; false when it could not be written.
-    bool SaveUndoBits() { return undo.save(bits_); }
+    bool SaveUndoBits()
+    {
+        ++commits_;
+        return undo.save(bits_);
+    }
+    /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
+    bool commit();
+    /// Rises with each snapshot and step: while it stands, the committed picture is the same.
+    int commits() const { return commits_; }
     /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. False and
     /// nothing changed when there is no such step.
     bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
@@ -47,6 +63,8 @@ class Document {
     TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
     Painter paint{bits_, Region, touched};
     UndoStore undo;
+    QString Tag;          // the full path, unique among the open documents
+    bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
     bool Changed = false;
     bool Zoomed = false; // a sizing command was the last change
 
@@ -54,7 +72,8 @@ class Document {
     bool step(const std::optional<velara::Bits>& picture, cBitFilter& filter);
 
     velara::Bits bits_;
-    int number_;
+    int number_, commits_ = 0;
+    std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles watch it
 };
 
 } // namespace velara

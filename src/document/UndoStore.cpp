@@ -81,9 +81,8 @@ void UndoStore::shiftSeries()
 
 std::optional<Bits> UndoStore::undo()
 {
-    if (!canUndo()) return {};
-    auto bits = load(step_ - 2);
-    if (bits) --step_;
+    auto bits = previous();
+    if (bits) stepBack();
     return bits;
 }
 

@@ -27,6 +27,10 @@ class UndoStore {
     /// missing, short or damaged.
     std::optional<Bits> undo();
     std::optional<Bits> redo();
+    /// The picture one step back, the counters as they were; nothing when there is none or its file can't be read.
+    std::optional<Bits> previous() const { return canUndo() ? load(step_ - 2) : std::nullopt; }
+    /// The counters of undo(), for a picture that previous() gave.
+    void stepBack() { step_ -= canUndo(); }
     /// Removes every file of the document.
     void deleteSeries();
 

@@ -46,22 +46,10 @@ std::int32_t times(int size, int factor)
 
 } // namespace
 
-bool zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
+void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
 {
-    const bool steppedBack = document.Zoomed && document.UndoBits(filter);
-    try {
-        const Bits source = filter.bits();
-        const auto sized = [&](int size) { return enlarge ? times(size, factor) : roundEven(quotient(size, factor)); };
-        const int width = sized(source.width()), height = sized(source.height());
-        cBitFilter work = workshop(filter, source);
-        quality ? work.BitsResample(source, width, height) : work.BitsResize(source, width, height);
-        finish(document, filter, work.bits());
-        document.Zoomed = true;
-        return document.SaveUndoBits();
-    } catch (...) {
-        if (steppedBack) document.RedoBits(filter);
-        throw;
-    }
+    const auto sized = [&](int size) { return enlarge ? times(size, factor) : roundEven(quotient(size, factor)); };
+    resizeImage(document, filter, sized(document.PictureWidth()), sized(document.PictureHeight()), quality);
 }
 
 void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quality)
@@ -113,15 +101,21 @@ void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smoo
     finish(document, filter, work.bits());
 }
 
-CropAnswer cropImage(Document& document, cBitFilter& filter)
+CropAnswer cropAnswer(const Document& document)
 {
     int left = 0, top = 0, right = 0, bottom = 0;
     if (!document.Region.BoundRect(left, top, right, bottom)) return CropAnswer::NothingSelected;
-    if (right - left < 2 || bottom - top < 2) return CropAnswer::TooSmall;
-    cBitFilter work = workshop(filter, filter.bits());
+    return right - left < 2 || bottom - top < 2 ? CropAnswer::TooSmall : CropAnswer::Possible;
+}
+
+void cropImage(Document& document, cBitFilter& filter)
+{
+    int left = 0, top = 0, right = 0, bottom = 0;
+    if (cropAnswer(document) != CropAnswer::Possible) return;
+    document.Region.BoundRect(left, top, right, bottom);
+    cBitFilter work = workshop(filter, document.Bits());
     work.BitsCrop(work.bits(), left, top, right, bottom);
     finish(document, filter, work.bits());
-    return CropAnswer::Done;
 }
 
 } // namespace velara

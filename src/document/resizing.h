@@ -1,17 +1,16 @@
-// The commands that rebuild the picture at another size, shared by the editor and the batch program. Each ends with the
-// result in the engine and in the document and a fresh whole-picture limit; repaint is the caller's.
+// The commands that rebuild the picture at another size, as jobs (seams/Change.h) shared by the editor and the batch
+// program. Each leaves the result in the engine and in the document, with a fresh whole-picture limit. RuntimeError:
+// nothing has changed.
 #pragma once
 #include "document/Document.h"
 #include "engine/cBitFilter.h"
 
 namespace velara {
 
-/// Enlarges by factor or reduces to round(size / factor), by BitsResample with quality, else BitsResize. A run of these
-/// steps starts from the picture before the first of them (Document::Zoomed), so each takes its undo snapshot here.
-/// False: that could not be written. RuntimeError: nothing has changed.
-bool zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality);
+/// Enlarges by factor or reduces to round(size / factor), by BitsResample with quality, else BitsResize.
+void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality);
 
-/// Turns by degrees into a picture large enough to hold all of it. The undo snapshot is the caller's.
+/// Turns by degrees into a picture large enough to hold all of it.
 void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quality);
 
 /// Sizes the picture to width by height, by BitsResample when smooth, else BitsResize.
@@ -27,8 +26,10 @@ void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool 
 /// Turns by degrees in the middle of a square as wide as the picture's diagonal; unlike rotateImage the square stays.
 void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smooth);
 
-enum class CropAnswer { Done, NothingSelected, TooSmall };
-/// Cuts the picture to the box of the selection, at least 2 by 2. The undo snapshot is the caller's.
-CropAnswer cropImage(Document& document, cBitFilter& filter);
+enum class CropAnswer { Possible, NothingSelected, TooSmall };
+/// Whether the box of the selection is there, and at least 2 by 2.
+CropAnswer cropAnswer(const Document& document);
+/// Cuts the picture to the box of the selection; nothing happens where that isn't possible.
+void cropImage(Document& document, cBitFilter& filter);
 
 } // namespace velara

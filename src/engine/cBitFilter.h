@@ -39,6 +39,7 @@ class cBitFilter {
     /// Restarts the random numbers of NOISE and DIFFUSE; a new object starts at kRandomSeed. Each use takes the next
     /// seed.
     void setRandomSeed(std::uint64_t seed) { randomSeed_ = seed; }
+    std::uint64_t randomSeed() const { return randomSeed_; }
 
     // --- In place (cBitFilter_geometry.cpp, _resize.cpp). Source is usually bits() itself. Sizes that are below 1,
     // above 32767 a side or above 256 Mi pixels raise OutOfRange.

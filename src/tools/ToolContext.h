@@ -40,7 +40,7 @@ struct ToolContext {
     std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
 
     Setup& setup() const { return frame.setup(); }
-    ToolStores& stores() const { return frame.toolStores; }
+    ToolStores& stores() const { return frame.toolStores(); }
     cBitFilter& filter() const { return frame.filter(); }
     Painter& paint() const { return document.paint; }
     /// Shows what was restored and painted since the last call.
@@ -52,8 +52,8 @@ struct ToolContext {
     /// The document's picture becomes the committed one, with one undo step.
     void commit()
     {
-        preview.commit();
-        frame.Update(false, true);
+        if (frame.engineHolds(document)) preview.commit();
+        frame.finish(document.handle());
     }
 };
 

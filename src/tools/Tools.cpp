@@ -116,7 +116,7 @@ void Tools::release(int button, int x, int y)
         if (!guarded([&] { active_->release(c); })) return;
     } else if (button == Right) {
         if (const Tool* holder = tool()) holder->cancel(c);
-        if (!guarded([&] { c.preview.restore(); })) return;
+        if (c.frame.engineHolds(c.document) && !guarded([&] { c.preview.restore(); })) return;
         c.preview.takeRestored();
         c.surface.UpdateImage();
     }
@@ -132,7 +132,7 @@ void Tools::endRelease()
         c.surface.StopTimer();
     else
         c.surface.StartTimer();
-    c.filter().setBitsRegion(c.document.Region.working());
+    if (c.frame.engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
     c.down = c.moving = false;
     active_ = nullptr;
 }

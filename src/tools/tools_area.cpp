@@ -48,7 +48,6 @@ class GradientTool final : public Tool {
                             false);
     }
 
-    /// Progress may yield: whatever has become of document and engine meanwhile, nothing of it is overwritten.
     void release(ToolContext& c) const override
     {
         hideBand(c);
@@ -56,15 +55,15 @@ class GradientTool final : public Tool {
         const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
         const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
         const auto gradient = s.GradientMode == Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
+        const Job job = [=, from = c.start, to = c.at, opacity = s.GradientPressure,
+                         repeat = s.GradientFrequency](Document& draft, cBitFilter& filter) {
+            draft.setBits((filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat));
+        };
         const std::weak_ptr<int> life = c.life;
-        c.filter().setBitsRegion(c.document.Region.working());
-        const Bits before = c.filter().bits();
-        const Bits result = (c.filter().*gradient)(c.start.x, c.start.y, c.at.x, c.at.y, first, second,
-                                                   s.GradientPressure, s.GradientFrequency);
-        if (life.expired() || !before.sharesWith(c.filter().bits())) return;
-        c.document.setBits(result);
-        c.surface.SetAutoRedraw(false);
-        c.commit();
+        Frame& frame = c.frame;
+        const Outcome outcome = frame.change(c.document.handle(), job);
+        frame.report(QStringLiteral("Gradient"), outcome);
+        if (!life.expired()) c.surface.SetAutoRedraw(false);
     }
 
     void cancel(ToolContext& c) const override

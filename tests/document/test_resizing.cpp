@@ -1,5 +1,6 @@
 // A document's steps back and the commands that change its size.
 #include "commands/sizeWords.h"
+#include "document/Draft.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
 #include "support/pictures.h"
@@ -24,7 +25,14 @@ struct ResizingTest : ::testing::Test {
         document.Region.setRegion(Region::rectangle(left, top, right, bottom));
         document.handTo(filter);
     }
-    void zoom(int factor, bool enlarge = false) { ASSERT_TRUE(zoomImage(document, filter, factor, enlarge, false)); }
+    /// A sizing word, as the frame and the batch program run it.
+    void zoom(int factor, bool enlarge = false)
+    {
+        Draft draft(document, document.Bits(), filter, After::Sizing);
+        draft.run([=](Document& d, cBitFilter& f) { zoomImage(d, f, factor, enlarge, false); });
+        ASSERT_TRUE(draft.take());
+        draft.handTo(filter, true);
+    }
     void expectSize(int width, int height)
     {
         EXPECT_EQ(width, document.PictureWidth());
@@ -122,7 +130,7 @@ TEST_F(ResizingTest, WhatCannotBeSizedStaysAsItWas)
     zoom(2, true);
     const Bits doubled = document.Bits();
     EXPECT_THROW(zoom(5), RuntimeError);
-    EXPECT_TRUE(sameBits(doubled, document.Bits())) << "it had stepped back already";
+    EXPECT_TRUE(sameBits(doubled, document.Bits())) << "though it began with the step before";
     EXPECT_EQ(2, document.undo.UndoStep());
     expectSize(4, 60);
     EXPECT_THROW(zoomImage(document, filter, 2000000000, true, true), RuntimeError);
@@ -166,12 +174,14 @@ TEST_F(ResizingTest, CroppingTakesTheBoxOfTheSelection)
 {
     const Bits bits = numbered(6, 5);
     open(bits);
-    EXPECT_EQ(CropAnswer::NothingSelected, cropImage(document, filter));
+    EXPECT_EQ(CropAnswer::NothingSelected, cropAnswer(document));
     select(1, 1, 2, 4);
-    EXPECT_EQ(CropAnswer::TooSmall, cropImage(document, filter));
+    EXPECT_EQ(CropAnswer::TooSmall, cropAnswer(document));
+    cropImage(document, filter);
     EXPECT_TRUE(sameBits(bits, document.Bits()));
     document.Region.setRegion(Region::rectangle(4, 3, 9, 9)); // partly outside
-    EXPECT_EQ(CropAnswer::Done, cropImage(document, filter));
+    EXPECT_EQ(CropAnswer::Possible, cropAnswer(document));
+    cropImage(document, filter);
     expectSize(2, 2);
     EXPECT_EQ((std::vector{35, 36, 45, 46}), colours(document.Bits()));
     EXPECT_TRUE(document.Region.IsEmptyRegion());

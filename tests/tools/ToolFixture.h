@@ -1,9 +1,6 @@
 // A document with its tools, a frame and a display that write down what the tools ask.
 #pragma once
-#include "engine/cBitFilter.h"
-#include "seams/Frame.h"
-#include "seams/Setup.h"
-#include "support/RecordingPlatform.h"
+#include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "tools/Tools.h"
 #include <QTemporaryDir>
@@ -47,32 +44,6 @@ struct RecordingSurface final : ToolSurface {
     void colourPicked() override { note("colour"); }
 };
 
-struct RecordingFrame final : Frame {
-    RecordingPlatform platform_;
-    Setup setup_;
-    cBitFilter filter_;
-    RecordingSurface* surface = nullptr;
-    std::map<Panel, std::string> status;
-    int snapshots = 0;
-
-    Platform& platform() override { return platform_; }
-    Setup& setup() override { return setup_; }
-    cBitFilter& filter() override { return filter_; }
-    void Mmenu(const QString&) override {}
-    void Update(bool regionOnly, bool save) override
-    {
-        if (surface) surface->note(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
-        snapshots += save;
-    }
-    fImage* GetActiveImage() override { return nullptr; }
-    void refreshUndoState() override {}
-    void setStatus(Panel panel, const QString& text) override { status[panel] = text.toStdString(); }
-    void cFilter_Progress(int) override {}
-    QString UniqueCaption(const QString& text) override { return text; }
-    int nextDocumentNumber() override { return 1; }
-    std::optional<Colour> pickColour(Colour, const QString&, QWidget*) override { return std::nullopt; }
-};
-
 struct ToolFixture : ::testing::Test {
     QTemporaryDir folder;
     RecordingSurface surface;
@@ -84,9 +55,12 @@ struct ToolFixture : ::testing::Test {
 
     void open(const Bits& bits)
     {
-        frame.surface = &surface;
+        frame.document = &document;
+        frame.onCall = [this](const std::string& line) {
+            if (line == "step") surface.note(line);
+        };
         document.takePicture(bits);
-        document.handTo(frame.filter_);
+        frame.handOver(document);
         tools = std::make_unique<Tools>(document, frame, surface);
     }
     void choose(const char* tool) { frame.setup_.CurrentTool = tool; }

@@ -21,7 +21,7 @@ struct PaintTools : ToolFixture {
     PaintTools()
     {
         frame.setup_.ForeColor = 0x3080F0;
-        frame.toolStores.stamp = randomBits(12, 9, 8);
+        frame.toolStores_.stamp = randomBits(12, 9, 8);
         start();
     }
     /// The first picture again, an ellipse of it selected.
@@ -140,7 +140,7 @@ const struct {
 TEST_F(PaintTools, StrokesPaintWhatTheirPrimitivesDo)
 {
     const auto defaults = frame.setup_;
-    frame.toolStores.stamp.at(3, 3) = {}; // in the colour of a mask
+    frame.toolStores_.stamp.at(3, 3) = {}; // in the colour of a mask
     for (const auto& row : kStrokes) {
         SCOPED_TRACE(std::string(row.tool) + ", row " + std::to_string(&row - kStrokes));
         start();
@@ -148,7 +148,7 @@ TEST_F(PaintTools, StrokesPaintWhatTheirPrimitivesDo)
         choose(row.tool);
         row.set(frame.setup_);
         frame.snapshots = 0;
-        Stroke wanted{twin, frame.setup_, frame.toolStores.stamp, row.way};
+        Stroke wanted{twin, frame.setup_, frame.toolStores_.stamp, row.way};
         row.draw(wanted);
         press(row.way.front());
         for (std::size_t i = 1; i < row.way.size(); ++i) move(row.way[i]);
@@ -167,13 +167,13 @@ TEST_F(PaintTools, AClickIsOneDabAndOneStep)
     frame.setup_.BrushSize = 1;
     frame.setup_.BrushPressure = 100;
     drag({{20, 20}});
-    EXPECT_EQ(asked(), "activate; stop; repaint; update 01; start");
+    EXPECT_EQ(asked(), "activate; stop; repaint; step; start");
     EXPECT_EQ(surface.repainted.back(), (Rect{20, 20, 21, 21}));
 }
 
 TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
 {
-    frame.toolStores.stamp = {};
+    frame.toolStores_.stamp = {};
     frame.setup_.BrushMode = 6;
     frame.setup_.FillMode = 1;
     for (const char* tool : {"Brush", "Stamp", "Text", "Fill"}) {
@@ -207,15 +207,15 @@ TEST_F(PaintTools, TheRightButtonTakesThePreviewBack)
 TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
 {
     choose("Text");
-    frame.toolStores.text = randomBits(10, 8, 4);
+    frame.toolStores_.text = randomBits(10, 8, 4);
     const int ink = frame.setup_.ForeColor;
     press({20, 20});
     move({30, 24});
     tools->keyDown(Tools::Space);
     move({40, 24});
     release({40, 24});
-    twin.BitsBWMask(30 - 6, 24 - 5, frame.toolStores.text, ink, 100);
-    twin.BitsBWMask(40 - 6, 24 - 5, frame.toolStores.text, ink, 100);
+    twin.BitsBWMask(30 - 6, 24 - 5, frame.toolStores_.text, ink, 100);
+    twin.BitsBWMask(40 - 6, 24 - 5, frame.toolStores_.text, ink, 100);
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
     EXPECT_EQ(frame.snapshots, 2);
 }
@@ -230,7 +230,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     move({40, 30});
     EXPECT_EQ(asked(), "activate; redraw on; stop; show 2: 10,10 40,30");
     release({40, 30});
-    EXPECT_EQ(asked(), "hide 2; redraw off; update 01; start");
+    EXPECT_EQ(asked(), "hide 2; step; redraw off; start");
     cBitFilter engine;
     engine.setBits(before);
     engine.setBitsRegion(selection());
@@ -253,26 +253,31 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
 TEST_F(PaintTools, WhatAYieldInAGradientLetsInStands)
 {
     choose("Gradient");
-    const Bits other = randomBits(30, 30, 12);
-    frame.filter_.Progress = [&](int) { frame.filter_.setBits(other); }; // another document became active
-    drag({{10, 10}, {40, 30}});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
-    EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
-    EXPECT_EQ(frame.snapshots, 0);
+    const auto dragWith = [&](std::function<void()> onYield) {
+        open(before);
+        frame.platform_.onYield = std::move(onYield);
+        Tools* const held = tools.get();
+        held->press(Tools::Left, 10, 10);
+        held->release(Tools::Left, 40, 30);
+        frame.platform_.onYield = nullptr;
+    };
+    Document other(folder.path(), 2);
+    other.takePicture(randomBits(60, 50, 12));
+    dragWith([&] { frame.handOver(other); }); // another document became active
+    EXPECT_FALSE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(other.Bits(), frame.filter_.bits()));
+    EXPECT_EQ(frame.snapshots, 1);
 
-    open(before);
-    frame.filter_.Progress = [&](int) { tools.reset(); }; // the document closed
-    Tools* gone = tools.get();
-    gone->press(Tools::Left, 10, 10);
-    gone->release(Tools::Left, 40, 30);
-    EXPECT_EQ(frame.snapshots, 0);
-
-    open(before);
-    frame.filter_.Progress = [](int) { throw Cancelled(); };
-    drag({{10, 10}, {40, 30}});
+    dragWith([&] { throw Cancelled(); });
     EXPECT_TRUE(sameBits(before, document.Bits()));
-    EXPECT_EQ(frame.snapshots, 0);
+    EXPECT_EQ(frame.snapshots, 1);
     EXPECT_FALSE(tools->ToolDown());
+
+    dragWith([&] { // the document closed
+        document.retire();
+        tools.reset();
+    });
+    EXPECT_EQ(frame.snapshots, 1);
 }
 
 TEST_F(PaintTools, ThePipetteTakesColoursAsItMoves)
@@ -293,8 +298,8 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
 {
     Bits clip = randomBits(8, 6, 5);
     clip.at(0, 0).c[3] = 255;
-    frame.toolStores.paste = clip;
-    frame.toolStores.pastePending = true;
+    frame.toolStores_.paste = clip;
+    frame.toolStores_.pastePending = true;
     choose("");
     tools->move(Tools::NoButton, 30, 30);
     tools->move(Tools::NoButton, 20, 20);
@@ -306,16 +311,16 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
     drag({{50, 40}});
     wanted(50, 40);
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    EXPECT_FALSE(frame.toolStores.pastePending);
+    EXPECT_FALSE(frame.toolStores_.pastePending);
     EXPECT_EQ(frame.snapshots, 2);
     tools->move(Tools::NoButton, 10, 10);
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
 
-    frame.toolStores.pastePending = true;
+    frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 10, 10);
     tools->release(Tools::Right, 10, 10); // let go
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
-    EXPECT_FALSE(frame.toolStores.pastePending);
+    EXPECT_FALSE(frame.toolStores_.pastePending);
     EXPECT_EQ(frame.snapshots, 2);
 }
 
@@ -323,7 +328,7 @@ TEST_F(PaintTools, TheSmallestPictureAndTheLargestBrush)
 {
     open(randomBits(1, 1, 6));
     frame.setup_.BrushSize = 5000;
-    frame.toolStores.paste = randomBits(3, 3, 1);
+    frame.toolStores_.paste = randomBits(3, 3, 1);
     for (const char* tool : {"Select", "SelectionMove", "Brush", "Airbrush", "Pencil", "Shape", "Fill", "Stamp", "Text",
                              "Gradient", "GetColor", "", "Nonsense"}) {
         choose(tool);
@@ -371,8 +376,8 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_EQ(frame.snapshots, 0);
 
     tools->move(Tools::NoButton, 12, 12); // passing over it leaves the engine to the active one
-    frame.toolStores.paste = randomBits(8, 6, 5);
-    frame.toolStores.pastePending = true;
+    frame.toolStores_.paste = randomBits(8, 6, 5);
+    frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 20, 20);
     EXPECT_TRUE(sameBits(before, document.Bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
@@ -382,7 +387,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_FALSE(sameBits(before, document.Bits()));
     tools->deactivated();
     EXPECT_TRUE(sameBits(before, document.Bits()));
-    EXPECT_TRUE(frame.toolStores.pastePending);
+    EXPECT_TRUE(frame.toolStores_.pastePending);
 }
 
 /// Any order of events, settings out of a damaged configuration, and commands in between: a right click always shows
@@ -396,8 +401,8 @@ TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
     };
     const char* names[] = {"Select", "SelectionMove", "Brush",    "Airbrush", "Pencil", "Shape",   "Fill",
                            "Stamp",  "Text",          "Gradient", "GetColor", "",       "Nonsense"};
-    frame.toolStores.text = randomBits(20, 10, 2);
-    frame.toolStores.paste = randomBits(30, 20, 3);
+    frame.toolStores_.text = randomBits(20, 10, 2);
+    frame.toolStores_.paste = randomBits(30, 20, 3);
     for (int event = 0; event < 6000; ++event) {
         auto& s = frame.setup_;
         const int x = within(-20, 80), y = within(-20, 70), button = within(0, 2);
@@ -420,7 +425,7 @@ TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
             s.StampClearBack = within(0, 1);
             break;
         case 3:
-            frame.toolStores.pastePending = within(0, 3) == 0;
+            frame.toolStores_.pastePending = within(0, 3) == 0;
             break;
         case 4: // a filter
             frame.filter_.setBits(frame.filter_.Invert());

@@ -149,11 +149,11 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
     EXPECT_TRUE(sameBits(wanted(25, 15), document.Bits())); // the selection does not limit the paste, the picture does
     move({-2, 10});
     EXPECT_TRUE(sameBits(wanted(-17, -5), document.Bits()));
-    frame.toolStores.useMovePressure = true;
-    frame.toolStores.movePressure = 0;
+    frame.toolStores_.useMovePressure = true;
+    frame.toolStores_.movePressure = 0;
     move({20, 20});
     EXPECT_TRUE(sameBits(before, document.Bits()));
-    frame.toolStores.useMovePressure = false;
+    frame.toolStores_.useMovePressure = false;
     move({40, 30});
     release({40, 30});
     EXPECT_EQ(frame.snapshots, 1);

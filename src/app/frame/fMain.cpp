@@ -5,7 +5,6 @@
 #include "app/menus/fIcons.h"
 #include "seams/Platform.h"
 #include <QApplication>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -66,12 +65,6 @@ fMain::~fMain()
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
 }
 
-void fMain::handOver(fImage& image)
-{
-    image.document().handTo(cFilter_);
-    activeDocument = image.DocNumber();
-}
-
 QList<fImage*> fMain::documents() const
 {
     QList<fImage*> list;
@@ -79,6 +72,26 @@ QList<fImage*> fMain::documents() const
         if (auto* document = qobject_cast<fDocumentWindow*>(window); document && document->image())
             list << document->image();
     return list;
+}
+
+std::vector<DocumentHandle> fMain::openDocuments()
+{
+    std::vector<DocumentHandle> list;
+    for (const fImage* image : documents()) list.push_back(image->document().handle());
+    return list;
+}
+
+fImage* fMain::imageOf(const DocumentHandle& document) const
+{
+    for (fImage* image : documents())
+        if (document && image->document().handle() == document) return image;
+    return nullptr;
+}
+
+DocumentHandle fMain::active()
+{
+    const fImage* image = GetActiveImage();
+    return image ? image->document().handle() : DocumentHandle();
 }
 
 fImage* fMain::GetActiveImage()
@@ -102,32 +115,11 @@ void fMain::bury(fDocumentWindow* window)
 
 void fMain::buryDead()
 {
-    if (yieldDepth_ > 0) { // a filter may still stand on it
+    if (jobs_ > 0) { // one may still stand on it
         if (!dead_.isEmpty()) QTimer::singleShot(50, this, &fMain::buryDead);
         return;
     }
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
-}
-
-void fMain::Update(bool regionOnly, bool save)
-{
-    status_->setProgress(0);
-    if (fImage* image = ActiveImage_) finish(*image, regionOnly, save);
-}
-
-void fMain::finish(fImage& image, bool regionOnly, bool save)
-{
-    status_->setProgress(0);
-    image.document().Zoomed = false;
-    if (!regionOnly) image.UpdateImage();
-    if (save) {
-        // The folder may have been swept away meanwhile.
-        QDir().mkpath(platform_.programFolder() + "/Temp");
-        if (!image.SaveUndoBits())
-            status_->showMessage(tr("This step can't be undone: no room in the Temp folder."), 8000);
-        image.document().Changed = true;
-    }
-    refreshUndoState();
 }
 
 void fMain::refreshUndoState()

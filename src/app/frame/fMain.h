@@ -2,8 +2,8 @@
 // side pane; a document's window belongs to the area of the documents and is buried here when it closes.
 //
 // Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
-// recent, drop), _pixels (what runs on the engine), _geometry (dialogs that
-// reshape a picture), _bars (menus, bars, boxes, side pane), _close (shutdown).
+// recent, drop), _road (from a command to its document), _pixels (commands
+// that change a picture), _geometry (dialogs that reshape one), _bars (menus, bars, boxes, side pane), _close (shutdown).
 #pragma once
 #include "engine/cBitFilter.h"
 #include "seams/Frame.h"
@@ -24,6 +24,7 @@ namespace velara {
 
 class fDocumentWindow;
 struct SizeWord;
+struct Preset;
 struct FilterRow;
 class fStatus;
 class fToolPane;
@@ -49,9 +50,19 @@ class fMain final : public QMainWindow, public Frame {
     Platform& platform() override { return platform_; }
     Setup& setup() override { return setup_; }
     cBitFilter& filter() override { return cFilter_; }
-    void Mmenu(const QString& word) override;
-    void Update(bool regionOnly, bool save) override;
+    ToolStores& toolStores() override { return toolStores_; }
+    DocumentHandle active() override;
     fImage* GetActiveImage() override;
+    std::vector<DocumentHandle> openDocuments() override;
+    DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) override;
+    bool openPicture(const QString& path) override;
+    Outcome change(const DocumentHandle& document, const Job& job, After after = After::Step) override;
+    void finish(const DocumentHandle& document) override;
+    void report(const QString& what, const Outcome& outcome) override;
+    void Update(bool regionOnly, bool save) override;
+    bool engineHolds(const Document& document) const override;
+    void handOver(const Document& document) override;
+    void Mmenu(const QString& word) override;
     void refreshUndoState() override;
     void setStatus(Panel panel, const QString& text) override;
     void cFilter_Progress(int value) override;
@@ -83,11 +94,7 @@ class fMain final : public QMainWindow, public Frame {
     void fromClipboard();
     void crop();
     void closeActive();
-    void ZoomImage(int factor, bool enlarge, bool quality);
-    void RotateImage(int degrees, bool quality);
     void runSizeWord(const SizeWord& size);
-    /// Runs what gives the active document another shape; then repaint, size panel and undo step.
-    void reshape(const std::function<void(Document&, cBitFilter&)>& job);
     void newPicture();
     void imageSize();
     void canvasSize();
@@ -95,21 +102,15 @@ class fMain final : public QMainWindow, public Frame {
     void imageRotate();
     void imageResolution();
     void setZoom(int factor);
-    /// One operation of the engine with its arguments, as a command: after a yield if asked for.
-    void runPreset(std::string_view word);
+    void runPreset(const Preset& preset);
     /// The dialog of a filter, on the active document.
     void showFilter(const FilterRow& row);
-    /// Work on the engine for the active document. Its picture then goes to the document, unless anything failed, the
-    /// document was closed meanwhile or got another size; then all is as it was.
-    void runOnEngine(const QString& what, const std::function<void(cBitFilter&)>& work);
     void options();
     void about();
     void arrange(int mode); // 0 cascade, 1 tile horizontally, 2 tile vertically
     void reset();
 
     // --- Files
-    /// Gives a new document the names of the path, takes its first snapshot and shows it. Owned by the frame from here.
-    void adopt(fImage* image, const QString& path);
     void FillRecent();
     /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
     void dropFiles(const QStringList& paths);
@@ -156,9 +157,11 @@ class fMain final : public QMainWindow, public Frame {
     QMenu* createPopupMenu() override;
 
   private:
-    class EngineRun;
+    class JobUnderWay;
 
-    template <class Dialog> void askAndReshape();
+    /// The job on the document that is active now; after a yield, so that the menu closes. Failures go to the status bar.
+    void changeActive(std::string_view word, const Job& job, After after, bool yields = true);
+    template <class Dialog> void askAndReshape(std::string_view word);
     void buildMenus();
     void buildToolbars();
     void fillToolbar(QToolBar* bar, std::string_view buttons);
@@ -169,21 +172,26 @@ class fMain final : public QMainWindow, public Frame {
     void placeSidePane();
     void seekSidePane(QPoint at);
     void wellClicked(int index);
-    void finish(fImage& image, bool regionOnly, bool save);
+    void makeStepFolder();
+    void finished(fImage& image, bool kept);
+    /// The window of an open document; null when it is closed.
+    fImage* imageOf(const DocumentHandle& document) const;
     void engineProgress(int percent);
     void showFailure(const QString& what, const std::exception& failure);
     void buryDead();
-    /// The engine takes the document's committed picture and working region.
-    void handOver(fImage& image);
     /// name is what the document is called afterwards; path and extension are what is written.
     void saveTo(fImage& image, const QString& name, const QString& path, const QString& extension);
     bool openPath(const QString& path);
+    QString inDialogFolder(const QString& name) const;
     void showLoadError();
-    void applyOpenOptions(fImage& image);
+    DocumentHandle adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival);
+    void applyOpenOptions();
 
     Platform& platform_;
     Setup& setup_;
     cBitFilter cFilter_;
+    DocumentHandle held_; // whose picture the engine holds
+    ToolStores toolStores_;
     QPointer<fImage> ActiveImage_;
     QMdiArea* area_;
     fStatus* status_;
@@ -192,9 +200,8 @@ class fMain final : public QMainWindow, public Frame {
     std::array<QPointer<QWidget>, 3> boxes_;
     QHash<QString, QAction*> items_;
     QString dialogFolder_;
-    std::vector<EngineRun*> runs_; // the filters at work, the inner ones last
     QList<QPointer<QWidget>> dead_;
-    int yieldDepth_ = 0; // yields of the engine's progress under way
+    int jobs_ = 0; // under way
     int documentNumber_ = 1, clashes_ = 0;
     bool closing_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };

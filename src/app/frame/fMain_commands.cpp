@@ -170,7 +170,7 @@ void fMain::Mmenu(const QString& word)
         else if (const SizeWord* size = findSizeWord(name))
             runSizeWord(*size);
         else
-            runPreset(name);
+            runPreset(*findPreset(name));
     } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun
         showFailure(word, failure);
     }

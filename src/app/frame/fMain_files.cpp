@@ -70,9 +70,6 @@ QString FileNameOf(const QString& path)
 
 QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
 
-/// A document that has a file of its own, which SAVE may write to without asking.
-void setHasFile(fImage& image, bool on) { image.setProperty("hasFile", on); }
-
 void giveNames(fImage& image, const QString& path, Frame& frame)
 {
     image.setTag(frame.UniqueCaption(path));
@@ -81,28 +78,44 @@ void giveNames(fImage& image, const QString& path, Frame& frame)
 
 } // namespace
 
-void fMain::adopt(fImage* image, const QString& path)
+QString fMain::inDialogFolder(const QString& name) const
 {
+    return name.contains('/') ? name : dialogFolder_ + (dialogFolder_.endsWith('/') ? "" : "/") + name;
+}
+
+DocumentHandle fMain::adopt(const Bits& bits, const QString& path, Arrival arrival)
+{
+    auto image = std::make_unique<fImage>(*this);
+    if (!bits.isNull()) image->PPicture(bits);
+    return adopt(std::move(image), path, arrival);
+}
+
+DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival)
+{
+    if (closing_) return {};
     Document& document = image->document();
-    document.Region.Init(0, 0, document.PictureWidth(), document.PictureHeight());
-    giveNames(*image, path, *this);
+    document.hasFile = arrival == Arrival::File;
+    giveNames(*image, inDialogFolder(path), *this);
+    makeStepFolder();
     image->SaveUndoBits();
-    auto* window = new fDocumentWindow(*this, image);
+    auto* window = new fDocumentWindow(*this, image.release());
     area_->addSubWindow(window);
     if (setup_.ImagesMaximized)
         window->showMaximized();
     else
         window->show();
     refreshUndoState();
+    return document.handle();
 }
 
-void fMain::applyOpenOptions(fImage& image)
+void fMain::applyOpenOptions()
 {
-    if (setup_.OpenZoom > 1) image.setZoomFactor(setup_.OpenZoom);
+    if (setup_.OpenZoom > 1) setZoom(setup_.OpenZoom);
 }
 
 void fMain::showLoadError() { platform_.message(kTitle, "Unexpected error loading image", Icon::Exclamation); }
 
+/// False when the file can't be loaded, after which there is no document.
 bool fMain::openPath(const QString& path)
 {
     platform_.yield();
@@ -115,24 +128,31 @@ bool fMain::openPath(const QString& path)
     }
     if (!loaded || closing_) return closing_;
     // A file that its reader can't make out opens as an empty document.
-    if (!image->PictureExists()) status_->showMessage(FileNameOf(path) + tr(" can't be read as a picture."), 8000);
-    setHasFile(*image, image->PictureExists());
-    adopt(image.release(), path);
+    const bool read = image->PictureExists();
+    if (!read) status_->showMessage(FileNameOf(path) + tr(" can't be read as a picture."), 8000);
+    adopt(std::move(image), path, read ? Arrival::File : Arrival::Made);
+    return true;
+}
+
+bool fMain::openPicture(const QString& path)
+{
+    if (!openPath(path)) {
+        showLoadError();
+        return false;
+    }
+    AddRecent(setup_, path);
+    FillRecent();
+    applyOpenOptions();
+    if (setup_.PreserveLastFolder) {
+        dialogFolder_ = path.left(path.lastIndexOf('/') + 1);
+        setup_.ImagesPath = dialogFolder_;
+    }
     return true;
 }
 
 void fMain::open()
 {
-    const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"});
-    if (!path) return;
-    if (!openPath(*path)) return showLoadError();
-    AddRecent(setup_, *path);
-    FillRecent();
-    if (fImage* image = GetActiveImage()) applyOpenOptions(*image);
-    if (setup_.PreserveLastFolder) {
-        dialogFolder_ = path->left(path->lastIndexOf('/') + 1);
-        setup_.ImagesPath = dialogFolder_;
-    }
+    if (const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"})) openPicture(*path);
 }
 
 void fMain::openRecent(int index)
@@ -143,7 +163,7 @@ void fMain::openRecent(int index)
         showLoadError();
         return FillRecent();
     }
-    if (fImage* image = GetActiveImage()) applyOpenOptions(*image);
+    applyOpenOptions();
 }
 
 void fMain::FillRecent()
@@ -164,7 +184,7 @@ void fMain::save()
     fImage* image = GetActiveImage();
     const QString extension = extensionOf(image->Caption());
     // A new document, a second window of the same file and any other format get their name by asking.
-    const bool own = image->property("hasFile").toBool() && image->Tag().startsWith('/');
+    const bool own = image->document().hasFile && image->Tag().startsWith('/');
     if (!own || !kSavedDirectly.contains(extension)) return Mmenu("SAVEAS");
     saveTo(*image, image->Tag(), image->Tag(), extension);
 }
@@ -195,7 +215,7 @@ void fMain::saveTo(fImage& image, const QString& name, const QString& path, cons
     }
     if (!watched) return; // closed while a notice of the save stood open
     image.document().Changed = false;
-    setHasFile(image, true);
+    image.document().hasFile = true;
     if (image.Tag() != name) giveNames(image, name, *this);
     setStatus(Panel::Name, image.Caption());
 }
@@ -207,17 +227,18 @@ void fMain::closeActive()
 
 void fMain::copyToNew()
 {
-    const QPointer<fImage> from = GetActiveImage();
-    auto copy = std::make_unique<fImage>(*this);
-    from->BitsCopyToClipboard();
-    copy->PasteFromClipboard();
+    const DocumentHandle from = active();
+    auto image = std::make_unique<fImage>(*this);
+    GetActiveImage()->BitsCopyToClipboard();
+    image->PasteFromClipboard();
     platform_.clearClipboard();
-    if (!from || !copy->document().PictureExists()) return;
-    const Region selection = from->document().Region.Region();
-    fImage* image = copy.release();
-    adopt(image, from->Tag());
-    if (!selection.isEmpty()) image->document().Region.setRegion(selection);
-    image->UpdateImage();
+    if (!from || !image->PictureExists()) return;
+    const Region selection = from->Region.Region();
+    const DocumentHandle copy = adopt(std::move(image), from->Tag, Arrival::Made);
+    if (!copy || selection.isEmpty()) return;
+    copy->Region.setRegion(selection);
+    handOver(*copy);
+    imageOf(copy)->UpdateImage();
 }
 
 void fMain::fromClipboard()
@@ -225,8 +246,7 @@ void fMain::fromClipboard()
     if (!platform_.clipboardHasBitmap()) return;
     auto image = std::make_unique<fImage>(*this);
     image->PasteFromClipboard();
-    if (!image->document().PictureExists()) return;
-    adopt(image.release(), setup_.ImagesPath.trimmed() + "New.bmp");
+    if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Made);
 }
 
 void fMain::dragEnterEvent(QDragEnterEvent* event)

@@ -1,5 +1,6 @@
 // The dialogs that make and reshape a picture.
 #include "app/frame/fMain.h"
+#include "app/menus/fIcons.h"
 #include "seams/Platform.h"
 #include "ui/geometry/fCanvas.h"
 #include "ui/geometry/fNew.h"
@@ -15,31 +16,30 @@ void fMain::newPicture()
     fNew dialog(platform_, this);
     if (dialog.exec() != QDialog::Accepted) return;
     platform_.yield(); // the dialog goes before the new window comes
-    if (closing_) return;
-    auto* image = new fImage(*this);
-    image->CreateBlank(dialog.widthValue(), dialog.heightValue());
-    adopt(image, dialogFolder_ + (dialogFolder_.endsWith('/') ? "" : "/") + "New.bmp");
+    adopt(Bits(dialog.widthValue(), dialog.heightValue()), "New.bmp");
 }
 
-template <class Dialog> void fMain::askAndReshape()
+template <class Dialog> void fMain::askAndReshape(std::string_view word)
 {
-    fImage* image = GetActiveImage();
-    if (!image || !image->PictureExists()) return;
-    fGeometry::Job job;
+    const DocumentHandle document = active();
+    if (!document || !document->PictureExists()) return;
+    Job job;
     if constexpr (std::is_constructible_v<Dialog, Platform&, const Bits&, QWidget*>) {
-        Dialog dialog(platform_, image->Bits(), this);
+        Dialog dialog(platform_, document->Bits(), this);
         if (dialog.exec() == QDialog::Accepted) job = dialog.job();
     } else {
         Dialog dialog(platform_, this);
         if (dialog.exec() == QDialog::Accepted) job = dialog.job();
     }
-    if (job) reshape(job);
+    if (!job) return;
+    platform_.yield(); // the dialog goes before the long work
+    report(text(word), change(document, job));
 }
 
-void fMain::imageSize() { askAndReshape<fSize>(); }
-void fMain::canvasSize() { askAndReshape<fCanvas>(); }
-void fMain::imageOrientation() { askAndReshape<fOrientation>(); }
-void fMain::imageRotate() { askAndReshape<fRotate>(); }
-void fMain::imageResolution() { askAndReshape<fResolution>(); }
+void fMain::imageSize() { askAndReshape<fSize>("IMAGESIZE"); }
+void fMain::canvasSize() { askAndReshape<fCanvas>("CANVASSIZE"); }
+void fMain::imageOrientation() { askAndReshape<fOrientation>("IMAGEORIENTATION"); }
+void fMain::imageRotate() { askAndReshape<fRotate>("IMAGEROTATE"); }
+void fMain::imageResolution() { askAndReshape<fResolution>("IMAGERESOLUTION"); }
 
 } // namespace velara

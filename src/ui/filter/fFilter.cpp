@@ -1,6 +1,7 @@
 // fFilter: what the dialog does. Its controls are made in fFilter_controls.cpp.
 #include "ui/filter/fFilter.h"
-#include "pixels/RuntimeError.h"
+#include "commands/jobs.h"
+#include "document/Document.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -17,9 +18,9 @@
 
 namespace velara {
 
-fFilter::fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent)
-    : QDialog(parent), frame_(frame), row_(row), take_(std::move(take)),
-      preview_(frame.filter().bits(), frame.filter().BitsRegion(), kPreviewBox)
+fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& document, QWidget* parent)
+    : QDialog(parent), frame_(frame), row_(row), document_(document),
+      preview_(document->Bits(), document->Region.working(), kPreviewBox)
 {
     setObjectName(QStringLiteral("fFilter"));
     setWindowTitle(QString::fromLatin1(row.title));
@@ -74,7 +75,6 @@ bool fFilter::eventFilter(QObject* watched, QEvent* event)
 
 void fFilter::changed()
 {
-    applied_ = false;
     showValues();
     if (const auto delay = pacer_.change(frame_.platform().milliseconds()))
         previewTimer_.start(static_cast<int>(*delay));
@@ -140,52 +140,21 @@ void fFilter::showRunning(bool running)
     state_->setText(running ? tr("Working. Esc ends it.") : QString());
 }
 
-/// Runs the filter on the document's picture and hands the result over. False: it failed or was ended, and nothing has
-/// changed; the dialog may be gone.
-bool fFilter::runFull()
-{
-    const QPointer<fFilter> alive = this;
-    cBitFilter work = frame_.filter(); // pictures are shared until written
-    work.Progress = [this, alive, report = work.Progress](int percent) {
-        if (report) {
-            report(percent);
-        } else {
-            frame_.cFilter_Progress(percent);
-            frame_.platform().yield();
-        }
-        if (!alive || cancelled_) throw Cancelled();
-    };
-    cancelled_ = false;
-    showRunning(true);
-    Bits result;
-    QString failureText;
-    try {
-        result = row_.call(work, arguments());
-    } catch (const Cancelled&) {
-    } catch (const std::exception& failure) {
-        failureText = QString::fromUtf8(failure.what());
-    }
-    if (!alive) return false;
-    showRunning(false);
-    if (result.isNull()) frame_.cFilter_Progress(0);
-    if (!failureText.isEmpty())
-        frame_.platform().message(QStringLiteral("Velara Studio"), windowTitle() + QStringLiteral(": ") + failureText,
-                                  Icon::Exclamation);
-    return !result.isNull() && alive && take_(result);
-}
-
-void fFilter::realTime()
-{
-    if (running_ || !runFull()) return;
-    applied_ = true;
-    accept();
-}
-
 void fFilter::accept()
 {
-    if (running_ || (!applied_ && !runFull())) return;
-    frame_.Update(false, true);
-    QDialog::accept();
+    if (running_) return;
+    const QPointer<fFilter> alive = this;
+    cancelled_ = false;
+    showRunning(true);
+    const Outcome outcome = frame_.change(
+        document_, endable(filterJob(row_, arguments()), [this, alive] { return !alive || cancelled_; }));
+    if (!alive) return;
+    showRunning(false);
+    if (outcome) return QDialog::accept();
+    if (outcome.kind == Outcome::Gone) return QDialog::reject();
+    if (!outcome.reason.isEmpty())
+        frame_.platform().message(QStringLiteral("Velara Studio"), windowTitle() + QStringLiteral(": ") + outcome.reason,
+                                  Icon::Exclamation);
 }
 
 void fFilter::reject()

@@ -2,10 +2,10 @@
 // of the picture shows what the filter does, and the buttons run it on the whole picture.
 #pragma once
 #include "commands/FilterPreview.h"
+#include "seams/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <array>
-#include <functional>
 
 class QBoxLayout;
 class QButtonGroup;
@@ -23,15 +23,13 @@ class fPicture;
 class fFilter final : public QDialog {
     Q_OBJECT
   public:
-    /// take puts a picture of full size into the document and into the engine; false: they are gone. The frame's engine
-    /// holds the document's picture and its working region.
-    using Take = std::function<bool(const Bits&)>;
-    fFilter(Frame& frame, const FilterRow& row, Take take, QWidget* parent = nullptr);
+    /// document has a picture.
+    fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& document, QWidget* parent = nullptr);
 
     /// What the controls stand on.
     FilterArgs arguments() const;
 
-    /// OK: runs the filter on the whole picture, unless the document has the result already, and closes.
+    /// OK and Real Time: runs the filter on the document and closes; stays open, after a message, where that fails.
     void accept() override;
     /// Exit, Esc and the window's cross: ends a running filter, else closes with the picture as it was.
     void reject() override;
@@ -56,15 +54,13 @@ class fFilter final : public QDialog {
     void runPreview();
     void picked(QPoint pixel);
     void activateWell(int well);
-    void realTime();
-    bool runFull();
     void showRunning(bool running);
 
     static constexpr QSize kPreviewBox{300, 260}; // that the small copies fit
 
     Frame& frame_;
     const FilterRow& row_;
-    Take take_;
+    DocumentHandle document_;
     FilterPreview preview_;
     RunPacer pacer_;
     QTimer previewTimer_, tmrSelect_;
@@ -84,7 +80,7 @@ class fFilter final : public QDialog {
 
     QPointF centre_{0.5, 0.5};
     int activeWell_ = 0;
-    bool applied_ = false, running_ = false, cancelled_ = false;
+    bool running_ = false, cancelled_ = false;
 };
 
 } // namespace velara

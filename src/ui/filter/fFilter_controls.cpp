@@ -239,7 +239,7 @@ QWidget* fFilter::makeButtons()
         line->addWidget(made);
         return made;
     };
-    cmdPreview_ = button("cmdPreview", QStringLiteral("Real Time"), &fFilter::realTime);
+    cmdPreview_ = button("cmdPreview", QStringLiteral("Real Time"), &fFilter::accept);
     cmdPreview_->setToolTip(tr("Runs the filter on the picture and closes"));
     auto* ok = button("cmdOK", QStringLiteral("OK"), &fFilter::accept);
     ok->setDefault(true);

@@ -187,7 +187,7 @@ void fCanvas::placeByAnchor()
     view_->show(canvas, place_);
 }
 
-fGeometry::Job fCanvas::job() const
+Job fCanvas::job() const
 {
     return [w = fields_->widthValue(), h = fields_->heightValue(), place = place_](
                Document& document, cBitFilter& filter) { resizeCanvas(document, filter, w, h, place.x(), place.y()); };

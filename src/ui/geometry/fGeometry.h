@@ -3,6 +3,7 @@
 #pragma once
 #include "document/Document.h"
 #include "engine/cBitFilter.h"
+#include "seams/Change.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -18,8 +19,6 @@ class fPicture;
 class fGeometry : public QDialog {
     Q_OBJECT
   public:
-    /// Works on a document with its engine; leaves the result in both.
-    using Job = std::function<void(Document&, cBitFilter&)>;
     static constexpr QSize kPreview{200, 160};
 
     fGeometry(const QString& name, const QString& title, Platform& platform, QWidget* parent);

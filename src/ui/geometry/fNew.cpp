@@ -54,7 +54,7 @@ fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", "New", platf
     });
 }
 
-fGeometry::Job fNew::job() const
+Job fNew::job() const
 {
     return [w = widthValue(), h = heightValue()](Document& document, cBitFilter& filter) {
         document.takePicture(Bits(w, h));

@@ -39,7 +39,7 @@ fOrientation::fOrientation(Platform& platform, const Bits& picture, QWidget* par
     show();
 }
 
-fGeometry::Job fOrientation::job() const
+Job fOrientation::job() const
 {
     return [turns = turns_->currentIndex(), v = vertical_->isChecked(), h = horizontal_->isChecked()](
                Document& document, cBitFilter& filter) { orientImage(document, filter, turns, v, h); };

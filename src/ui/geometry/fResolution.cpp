@@ -40,7 +40,7 @@ fResolution::fResolution(Platform& platform, QWidget* parent)
     addButtons("CmdOK", "Command2", "OK", "Exit");
 }
 
-fGeometry::Job fResolution::job() const
+Job fResolution::job() const
 {
     const Resolution& r = kResolutions[sizes_->checkedId()];
     return [r, smooth = smooth_->isChecked()](Document& document, cBitFilter& filter) {

@@ -70,7 +70,7 @@ void fRotate::turnBy(int degrees)
     degrees_->setValue(sum > kLimit ? sum - 2 * kLimit : sum < -kLimit ? sum + 2 * kLimit : sum);
 }
 
-fGeometry::Job fRotate::job() const
+Job fRotate::job() const
 {
     return [degrees = degrees_->value(), smooth = smooth_->isChecked()](Document& document, cBitFilter& filter) {
         turnOnSquare(document, filter, degrees, smooth);

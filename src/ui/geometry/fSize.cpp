@@ -52,7 +52,7 @@ void fSize::quick(const QString& entry)
     fields_->set(roundEven(fields_->widthValue() * q->factor), roundEven(fields_->heightValue() * q->factor));
 }
 
-fGeometry::Job fSize::job() const
+Job fSize::job() const
 {
     return [w = fields_->widthValue(), h = fields_->heightValue(), smooth = smooth_->isChecked()](
                Document& document, cBitFilter& filter) { resizeImage(document, filter, w, h, smooth); };

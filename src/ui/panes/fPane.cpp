@@ -60,11 +60,11 @@ void fPane::refresh()
     edited();
 }
 
-int fPane::value(const PaneRow& row) const { return row.get(frame_.setup(), frame_.toolStores); }
+int fPane::value(const PaneRow& row) const { return row.get(frame_.setup(), frame_.toolStores()); }
 
 void fPane::write(const PaneRow& row, int value)
 {
-    row.set(frame_.setup(), frame_.toolStores, value);
+    row.set(frame_.setup(), frame_.toolStores(), value);
     if (!refreshing_) edited();
 }
 

@@ -66,7 +66,7 @@ void FStamp::readFolder()
     for (const QString& folder : {platform.programFolder(), platform.programFolder() + "/Stamps"})
         if (QDir(folder).exists() && !watcher_.directories().contains(folder)) watcher_.addPath(folder);
 
-    const QString before = frame().toolStores.stampFile;
+    const QString before = frame().toolStores().stampFile;
     const QSignalBlocker quiet(cbStamps_);
     cbStamps_->clear();
     cbStamps_->addItems(files.value_or(QStringList()));
@@ -81,14 +81,14 @@ void FStamp::readFolder()
 
 void FStamp::choose(const QString& file)
 {
-    frame().toolStores.stampFile = file;
-    frame().toolStores.stamp = loadStamp(frame().platform(), file);
+    frame().toolStores().stampFile = file;
+    frame().toolStores().stamp = loadStamp(frame().platform(), file);
     showStamp();
 }
 
 void FStamp::showStamp()
 {
-    const Bits& stamp = frame().toolStores.stamp;
+    const Bits& stamp = frame().toolStores().stamp;
     if (stamp.isNull()) return iStamp_->clear();
     QImage picture(stamp.width(), stamp.height(), QImage::Format_RGB32);
     ViewRenderer().render(stamp, {}, 0, 0, picture);

@@ -136,15 +136,17 @@ bool fImage::RedoBits() { return step(document_.RedoBits(frame_.filter())); }
 bool fImage::step(bool moved)
 {
     if (!moved) return false;
-    frame_.activeDocument = DocNumber(); // the engine holds this picture now
+    frame_.handOver(document_);
     UpdateImage();
     showSize();
     return true;
 }
 
+QString fImage::SizeText() const { return QString::number(PictureWidth()) + "x" + QString::number(PictureHeight()); }
+
 void fImage::showSize()
 {
-    frame_.setStatus(Panel::Size, QString::number(PictureWidth()) + "x" + QString::number(PictureHeight()));
+    frame_.setStatus(Panel::Size, SizeText());
 }
 
 void fImage::setCaption(const QString& caption)
@@ -156,9 +158,8 @@ void fImage::setCaption(const QString& caption)
 void fImage::activate()
 {
     frame_.EnableMouseScrolling();
-    if (frame_.activeDocument != DocNumber()) {
-        frame_.activeDocument = DocNumber();
-        document_.handTo(frame_.filter());
+    if (!frame_.engineHolds(document_)) {
+        frame_.handOver(document_);
         frame_.setStatus(Panel::Name, Caption());
         if (PictureExists()) showSize();
         frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
@@ -167,7 +168,7 @@ void fImage::activate()
     } else if (tmrSelection_.isActive()) {
         return;
     }
-    if (!tools_->ToolDown() && !frame_.toolStores.pastePending) StartTimer();
+    if (!tools_->ToolDown() && !frame_.toolStores().pastePending) StartTimer();
 }
 
 void fImage::deactivate()
@@ -195,7 +196,7 @@ bool fImage::mayClose()
     if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
         window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
     const QString text =
-        frame_.platform().compactPath(tag_, kPathPixels) + "\nThis image has changed.\n" + "Do you want to save it ?";
+        frame_.platform().compactPath(Tag(), kPathPixels) + "\nThis image has changed.\n" + "Do you want to save it ?";
     switch (frame_.platform().askYesNoCancel(kTitle, text, Icon::Information)) {
     case Answer::Cancel:
         return false;
@@ -224,6 +225,7 @@ void fImage::forget()
     if (forgotten_) return;
     forgotten_ = true;
     tmrSelection_.stop();
+    document_.retire();
     document_.undo.deleteSeries();
     for (const QWidget* widget : QApplication::allWidgets())
         if (const auto* other = qobject_cast<const fImage*>(widget);

@@ -45,6 +45,8 @@ class fImage final : public QWidget, public ToolSurface {
     void PPicture(const velara::Bits& picture);
     /// The picture without its margin, opaque; null without one.
     QImage ObtainedPic() const;
+    /// "640x480", for the status bar.
+    QString SizeText() const;
     bool PictureExists() const { return document_.PictureExists(); }
     int PictureWidth() const { return document_.PictureWidth(); }
     int PictureHeight() const { return document_.PictureHeight(); }
@@ -64,8 +66,8 @@ class fImage final : public QWidget, public ToolSurface {
     // --- Names
     QString Caption() const { return windowTitle(); }
     void setCaption(const QString& caption);
-    QString Tag() const { return tag_; } // the full path, unique among the open documents
-    void setTag(const QString& tag) { tag_ = tag; }
+    QString Tag() const { return document_.Tag; }
+    void setTag(const QString& tag) { document_.Tag = tag; }
 
     // --- View
     struct Dimensions {
@@ -98,6 +100,8 @@ class fImage final : public QWidget, public ToolSurface {
     void deactivate();
     /// A key was let go, by its number (17 is Ctrl); ends what the tools were doing with it.
     void idst_KeyUp(int key, int shift);
+    /// True while a tool is held down and has painted what is not committed.
+    bool strokeUnderWay() const;
     /// The pointer of the chosen tool.
     void showToolPointer();
 
@@ -139,7 +143,6 @@ class fImage final : public QWidget, public ToolSurface {
 
     Frame& frame_;
     Document document_;
-    QString tag_;
     fDisplay* iDst_;
     QScrollBar *hSB_, *vSB_;
     QWidget* shp_;

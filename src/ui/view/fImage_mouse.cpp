@@ -116,6 +116,8 @@ bool fImage::displayKey(const QKeyEvent& event, bool down)
     return false;
 }
 
+bool fImage::strokeUnderWay() const { return tools_->ToolDown() && !document_.touched.isEmpty(); }
+
 void fImage::idst_KeyUp(int key, int) { tools_->keyUp(key); }
 
 } // namespace velara

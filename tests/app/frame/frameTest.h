@@ -42,11 +42,9 @@ struct FrameTest : ::testing::Test {
     }
     fImage* open(const Bits& bits, const QString& name = "picture.bmp")
     {
-        auto* image = new fImage(*frame);
-        image->PPicture(bits);
-        frame->adopt(image, path(name));
+        frame->adopt(bits, path(name));
         QCoreApplication::processEvents();
-        return image;
+        return frame->GetActiveImage();
     }
     std::string last() const { return platform.log.empty() ? std::string() : platform.log.back(); }
 };

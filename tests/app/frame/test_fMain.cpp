@@ -226,13 +226,16 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
     fImage* image = open(randomBits(30, 20, 5));
     const Bits before = image->Bits();
     for (const int failure : {0, 1, 2}) {
-        frame->runOnEngine("TEST", [&](cBitFilter& filter) {
-            filter.setBits(flatBits(30, 20, 1, 2, 3));
+        const Outcome outcome = frame->change(frame->active(), [&](Document& draft, cBitFilter& filter) {
+            draft.takePicture(flatBits(3, 2, 1, 2, 3));
+            filter.setBits(draft.Bits());
             filter.setBitsRegion({});
             if (failure == 0) throw RuntimeError(Fault::Overflow);
             if (failure == 1) throw std::bad_alloc();
             throw Cancelled();
         });
+        EXPECT_EQ(outcome.kind, failure == 2 ? Outcome::Cancelled : Outcome::Failed);
+        EXPECT_EQ(outcome.reason.isEmpty(), failure == 2);
         EXPECT_TRUE(sameBits(before, image->Bits()));
         EXPECT_TRUE(sameBits(before, frame->filter().bits()));
         EXPECT_TRUE(frame->filter().BitsRegion().contains(29, 19));

@@ -300,9 +300,8 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     EXPECT_TRUE(std::ranges::any_of(platform.log, [](const std::string& line) {
         return line.starts_with("message: Velara Studio: The folder \"/proc/velara\" can't be written to.");
     }));
-    auto* image = new fImage(*frame);
-    image->PPicture(randomBits(8, 8, 1));
-    frame->adopt(image, "/somewhere/a.bmp");
+    frame->adopt(randomBits(8, 8, 1), "/somewhere/a.bmp");
+    const fImage* image = frame->GetActiveImage();
     const Bits before = image->Bits();
     frame->Mmenu("INVERT");
     EXPECT_FALSE(image->Bits() == before); // works, but can't be undone

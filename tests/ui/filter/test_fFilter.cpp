@@ -1,7 +1,5 @@
 // The filter dialog with real controls, used as a person does.
-#include "seams/Frame.h"
-#include "seams/Setup.h"
-#include "support/RecordingPlatform.h"
+#include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
@@ -18,52 +16,26 @@
 namespace velara {
 namespace {
 
-using Record = velara::Setup;
-
-struct DialogFrame final : Frame {
-    RecordingPlatform world;
-    Record record;
-    cBitFilter engine;
-    std::vector<std::string> log;
-    std::vector<int> progress;
-
-    Platform& platform() override { return world; }
-    Record& setup() override { return record; }
-    cBitFilter& filter() override { return engine; }
-    void Mmenu(const QString&) override {}
-    void Update(bool regionOnly, bool save) override
-    {
-        log.push_back(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
-    }
-    fImage* GetActiveImage() override { return nullptr; }
-    void refreshUndoState() override {}
-    void setStatus(Panel, const QString&) override {}
-    void cFilter_Progress(int value) override { progress.push_back(value); }
-    QString UniqueCaption(const QString& text) override { return text; }
-    int nextDocumentNumber() override { return 0; }
-    std::optional<Colour> pickColour(Colour, const QString&, QWidget*) override { return std::nullopt; }
-};
-
 struct FilterDialog : ::testing::Test {
-    DialogFrame frame;
+    RecordingFrame frame;
     Bits picture = randomBits(200, 150, 9);
     Region selection = Region::rectangle(20, 10, 150, 140);
-    Bits taken;
-    int takes = 0;
+    std::unique_ptr<Document> document;
     std::unique_ptr<fFilter> dialog;
 
     void open(std::string_view word)
     {
-        frame.engine.setBits(picture);
-        frame.engine.setBitsRegion(selection);
-        frame.engine.clock = [this] { return frame.world.now += 20; }; // a report falls due in every row
-        dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), [this](const Bits& bits) {
-            taken = bits;
-            ++takes;
-            return true;
-        });
+        document = std::make_unique<Document>(QString(), 1);
+        document->takePicture(picture);
+        document->Region.setRegion(selection);
+        frame.handOver(*document);
+        frame.log.clear();
+        frame.filter_.clock = [this] { return frame.platform_.now += 20; }; // a report falls due in every row
+        dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), document->handle());
         dialog->show();
     }
+    int steps() const { return frame.logged("step"); }
+    const Bits& taken() const { return document->Bits(); }
     template <class Widget> Widget* find(const char* name)
     {
         auto* found = dialog->findChild<Widget*>(QLatin1String(name));
@@ -79,7 +51,7 @@ struct FilterDialog : ::testing::Test {
     /// What the filter makes of the whole picture with the dialog's settings.
     Bits wanted(std::string_view word)
     {
-        cBitFilter filter = frame.engine;
+        cBitFilter filter = frame.filter_;
         return findFilterRow(word)->call(filter, dialog->arguments());
     }
     void settle() { QTest::qWait(60); }
@@ -104,11 +76,10 @@ TEST_F(FilterDialog, EveryFilterShowsItsControlsAndRuns)
                 EXPECT_FALSE(widget->objectName().isEmpty()) << row.title;
                 EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << row.title << " is clipped";
             }
-        takes = 0;
         const Bits full = wanted(row.words[0]);
         click("cmdOK");
-        EXPECT_EQ(1, takes) << row.title;
-        EXPECT_TRUE(sameBits(full, taken)) << row.title;
+        EXPECT_EQ(1, steps()) << row.title;
+        EXPECT_TRUE(sameBits(full, taken())) << row.title;
         EXPECT_FALSE(dialog->isVisible()) << row.title;
     }
 }
@@ -126,7 +97,7 @@ TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
     click("chkPreview");
     settle();
     EXPECT_TRUE(sameBits(picture, shown())) << "without a preview the picture as it is";
-    EXPECT_EQ(0, takes);
+    EXPECT_EQ(0, steps());
 }
 
 TEST_F(FilterDialog, RealTimeRunsOnceAndCloses)
@@ -135,9 +106,8 @@ TEST_F(FilterDialog, RealTimeRunsOnceAndCloses)
     find<QSlider>("sbFilter_0")->setValue(30);
     const Bits full = wanted("BRIGHTNESS");
     click("cmdPreview");
-    EXPECT_EQ(1, takes);
-    EXPECT_TRUE(sameBits(full, taken));
-    EXPECT_EQ(std::vector<std::string>{"update 01"}, frame.log);
+    EXPECT_EQ(1, steps());
+    EXPECT_TRUE(sameBits(full, taken()));
     EXPECT_EQ(QDialog::Accepted, dialog->result());
     EXPECT_FALSE(dialog->isVisible());
 }
@@ -150,9 +120,9 @@ TEST_F(FilterDialog, ExitAndEscapeLeaveThePicture)
         settle();
         byKey ? QTest::keyClick(dialog.get(), Qt::Key_Escape) : click("cmdCancel");
         EXPECT_FALSE(dialog->isVisible());
-        EXPECT_EQ(0, takes);
+        EXPECT_EQ(0, steps());
         EXPECT_TRUE(frame.log.empty());
-        EXPECT_TRUE(sameBits(picture, frame.engine.bits()));
+        EXPECT_TRUE(sameBits(picture, taken()));
     }
 }
 
@@ -161,29 +131,29 @@ TEST_F(FilterDialog, EscapeEndsARunThatWorks)
     open("CUSTOMEMBOSS");
     find<QSlider>("sbFilter_0")->setValue(30);
     bool disabled = false;
-    frame.world.onYield = [&] {
+    frame.platform_.onYield = [&] {
         disabled = !find<QPushButton>("cmdOK")->isEnabled();
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
     };
     click("cmdOK");
     EXPECT_TRUE(disabled);
-    EXPECT_LE(frame.world.yields, 2) << "it goes on no longer than to the next report";
+    EXPECT_LE(frame.platform_.yields, 2) << "it goes on no longer than to the next report";
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(0, takes);
+    EXPECT_EQ(0, steps());
     EXPECT_TRUE(frame.log.empty());
     EXPECT_EQ(0, frame.progress.back());
-    frame.world.onYield = nullptr;
+    frame.platform_.onYield = nullptr;
     click("cmdOK");
-    EXPECT_EQ(1, takes) << "and it can be run again";
+    EXPECT_EQ(1, steps()) << "and it can be run again";
 }
 
 TEST_F(FilterDialog, SurvivesThatItIsDestroyedWhileItRuns)
 {
     open("CUSTOMEMBOSS");
-    frame.world.onYield = [&] { delete dialog.release(); };
+    frame.platform_.onYield = [&] { delete dialog.release(); };
     fFilter* running = dialog.get();
     running->accept();
-    EXPECT_EQ(0, takes);
+    EXPECT_EQ(0, steps());
     EXPECT_TRUE(frame.log.empty());
 }
 
@@ -194,8 +164,8 @@ TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
     open("FOLD");
     EXPECT_EQ("Division by zero", find<QLabel>("lblState")->text().toStdString());
     click("cmdOK");
-    EXPECT_TRUE(frame.world.logged("message: Velara Studio: Deformation [Fold]: Division by zero"));
-    EXPECT_EQ(0, takes);
+    EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: Deformation [Fold]: Division by zero"));
+    EXPECT_EQ(0, steps());
     EXPECT_TRUE(dialog->isVisible());
 }
 
@@ -206,7 +176,7 @@ TEST_F(FilterDialog, APressOnThePreviewPicksAColourOrTheCentre)
     QTest::mouseClick(source, Qt::LeftButton, {}, source->place().topLeft() + QPoint(30, 40));
     const auto& c = picture.at(30, 40).c;
     EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]);
-    EXPECT_EQ(frame.record.BackColor, dialog->arguments().colour[1]);
+    EXPECT_EQ(frame.setup_.BackColor, dialog->arguments().colour[1]);
     QTest::mouseClick(source, Qt::LeftButton, {}, {1, 1});
     EXPECT_EQ(colourOf(c[2], c[1], c[0]), dialog->arguments().colour[0]) << "beside the picture";
 

@@ -1,6 +1,6 @@
 // The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
 #include "ui/panes/fToolPanes.h"
-#include "ui/view/ImageFixture.h"
+#include "support/RecordingFrame.h"
 #include "ui/widgets/fColorButton.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -12,7 +12,7 @@
 namespace velara {
 
 struct Panes : ::testing::Test {
-    WindowFrame frame;
+    RecordingFrame frame;
     std::unique_ptr<QWidget> pane;
 
     template <class Control> Control* at(const char* name) const
@@ -123,10 +123,10 @@ TEST_F(Panes, TheMoveActionIsTheSelectionsOwnSetting)
     EXPECT_EQ(at<QComboBox>("cSelect")->currentText(), "Move Content Only");
     EXPECT_EQ(at<QSlider>("cSelectionPressure")->value(), 50);
     at<QSlider>("cSelectionPressure")->setValue(80);
-    EXPECT_EQ(frame.toolStores.movePressure, 80);
-    EXPECT_FALSE(frame.toolStores.useMovePressure);
+    EXPECT_EQ(frame.toolStores_.movePressure, 80);
+    EXPECT_FALSE(frame.toolStores_.useMovePressure);
     at<QCheckBox>("cSelectionOwn")->setChecked(true);
-    EXPECT_TRUE(frame.toolStores.useMovePressure);
+    EXPECT_TRUE(frame.toolStores_.useMovePressure);
 }
 
 TEST_F(Panes, SidesAreForPolygonsOnly)
@@ -167,7 +167,7 @@ TEST_F(Panes, StampsFollowTheirFolder)
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: <Stamps> subfolder not found."));
     EXPECT_FALSE(at<QLabel>("lblStamps")->isHidden());
     EXPECT_EQ(at<QLabel>("lblStamps")->text(), "Stamp sub-Folder Not Found!");
-    EXPECT_TRUE(frame.toolStores.stamp.isNull());
+    EXPECT_TRUE(frame.toolStores_.stamp.isNull());
 
     addStamp("b.bmp", 9);
     addStamp("a.bmp", 5);
@@ -175,10 +175,10 @@ TEST_F(Panes, StampsFollowTheirFolder)
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; })) << "the folder has come";
     EXPECT_TRUE(at<QLabel>("lblStamps")->isHidden());
     EXPECT_EQ(list->currentText(), "a.bmp");
-    EXPECT_EQ(frame.toolStores.stamp.width(), 5);
+    EXPECT_EQ(frame.toolStores_.stamp.width(), 5);
     pane->show();
     QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(frame.toolStores.stamp.width(), 9);
+    EXPECT_EQ(frame.toolStores_.stamp.width(), 9);
     EXPECT_EQ(at<QLabel>("iStamp")->pixmap().width(), 9);
 
     addStamp("c.bmp", 7);
@@ -186,7 +186,7 @@ TEST_F(Panes, StampsFollowTheirFolder)
     EXPECT_EQ(list->currentText(), "b.bmp") << "the chosen one stays";
     QFile::remove(frame.platform_.programFolder() + "/Stamps/b.bmp");
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }));
-    EXPECT_EQ(frame.toolStores.stamp.width(), 5) << "the chosen one is gone";
+    EXPECT_EQ(frame.toolStores_.stamp.width(), 5) << "the chosen one is gone";
     make("Stamp");
     EXPECT_EQ(at<QComboBox>("cbStamps")->count(), 2);
 }

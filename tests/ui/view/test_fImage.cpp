@@ -210,13 +210,13 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
         frame.platform_.log.clear();
         frame.platform_.answers.clear();
         if (row.answer && *row.answer) frame.platform_.answers = {QString(row.answer)};
-        frame.words.clear();
+        frame.log.clear();
         EXPECT_EQ(w.close(), row.closes) << row.what;
         EXPECT_EQ(frame.platform_.logged(
                       "ask: Velara Studio: /pictures/x.png\nThis image has changed.\nDo you want to save it ?"),
                   row.answer != nullptr)
             << row.what;
-        EXPECT_EQ(frame.words, row.saves ? std::vector<std::string>{"SAVEAS"} : std::vector<std::string>{}) << row.what;
+        EXPECT_EQ(frame.logged("word: SAVEAS"), row.saves) << row.what;
         const QDir temp(frame.platform_.folder.path() + "/Temp");
         EXPECT_EQ(temp.entryList(QDir::Files).isEmpty(), row.closes) << row.what << ": undo files";
         image.reset();
@@ -243,7 +243,7 @@ TEST_F(Window, MayBeDestroyedWhileItAsks)
     w.document().Changed = true;
     w.SaveUndoBits();
     frame.platform_.answers = {QString("yes")};
-    frame.onWord = [&](const QString&) { image.reset(); };
+    frame.onCall = [&](const std::string&) { image.reset(); };
     w.close();
     EXPECT_EQ(image, nullptr);
 }

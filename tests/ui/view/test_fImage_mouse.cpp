@@ -47,7 +47,7 @@ TEST_F(Mouse, PaintsWhereThePointerIsAndCommitsOnce)
     for (int x = 12; x <= 15; ++x) EXPECT_NE(colourAt(w.Bits(), x, 6), 0u) << x;
     EXPECT_EQ(colourAt(w.Bits(), 11, 6), 0u);
     EXPECT_EQ(colourAt(w.Bits(), 16, 6), 0u);
-    EXPECT_EQ(frame.updates, 1);
+    EXPECT_EQ(frame.snapshots, 1);
     EXPECT_TRUE(frame.filter_.bits() == w.Bits());
     EXPECT_TRUE(w.document().Changed);
 }
@@ -66,7 +66,7 @@ TEST_F(Mouse, MovesWithinAPixelAreDropped)
     QTest::keyClick(iDst(), Qt::Key_Up);
     QTest::keyClick(iDst(), Qt::Key_Left);
     EXPECT_EQ(frame.status[Panel::Pos], "X:2 Y:1") << "arrows go on from there";
-    EXPECT_EQ(frame.updates, 0);
+    EXPECT_EQ(frame.snapshots, 0);
 }
 
 TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
@@ -131,11 +131,11 @@ TEST_F(Mouse, TheHandScrollsAndPaintsNothing)
     release({500, 500});
     EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
     EXPECT_TRUE(w.Bits() == bits);
-    EXPECT_EQ(frame.updates, 0);
+    EXPECT_EQ(frame.snapshots, 0);
     w.resize(400, 300); // now all of it is seen: nothing to scroll, the tool works
     press({5, 5});
     release({5, 5});
-    EXPECT_EQ(frame.updates, 1);
+    EXPECT_EQ(frame.snapshots, 1);
 }
 
 TEST_F(Mouse, TheWheelScrollsAndZoomsAboutThePointer)
@@ -191,7 +191,7 @@ TEST_F(Mouse, TheRightButtonTakesAPreviewBack)
     release({30, 30}, Qt::RightButton);
     EXPECT_TRUE(w.Bits() == bits);
     EXPECT_EQ(shown(5, 5), colourAt(bits, 5, 5));
-    EXPECT_EQ(frame.updates, 0);
+    EXPECT_EQ(frame.snapshots, 0);
 }
 
 } // namespace velara

@@ -1,0 +1,120 @@
+// The road from a command to its document, and what stands at its end.
+#include "app/frame/fMain.h"
+#include "app/frame/fStatus.h"
+#include "document/Draft.h"
+#include "pixels/RuntimeError.h"
+#include "seams/Platform.h"
+#include <QDir>
+
+namespace velara {
+
+namespace {
+
+constexpr int kMessageTime = 8000; // milliseconds that a word stands in the status bar
+
+Outcome gone() { return {Outcome::Gone}; }
+
+} // namespace
+
+/// Counts the jobs under way: closed windows wait for the last of them.
+class fMain::JobUnderWay {
+  public:
+    explicit JobUnderWay(fMain& frame) : frame_(frame) { ++frame_.jobs_; }
+    JobUnderWay(const JobUnderWay&) = delete;
+    ~JobUnderWay()
+    {
+        if (--frame_.jobs_ == 0) frame_.buryDead();
+    }
+
+  private:
+    fMain& frame_;
+};
+
+Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
+{
+    if (closing_ || !imageOf(handle) || !handle->PictureExists()) return gone();
+    const JobUnderWay underWay(*this);
+    // What a tool shows for the time being is no part of the picture: the engine has that.
+    const bool committed = engineHolds(*handle) && cFilter_.BitsWidth() == handle->PictureWidth() &&
+                           cFilter_.BitsHeight() == handle->PictureHeight();
+    Draft draft(*handle, committed ? cFilter_.bits() : handle->Bits(), cFilter_, after);
+    draft.filter().Progress = [&](int percent) {
+        cFilter_Progress(percent);
+        platform_.yield();
+        if (closing_ || !draft.wanted()) throw Cancelled();
+    };
+    Outcome outcome;
+    try {
+        draft.run(job);
+    } catch (const Cancelled&) {
+        outcome = {Outcome::Cancelled};
+    } catch (const std::exception& failure) {
+        outcome = {Outcome::Failed, QString::fromUtf8(failure.what())};
+    }
+    status_->setProgress(0);
+    fImage* image = closing_ ? nullptr : imageOf(handle);
+    if (!image) return gone();
+    if (!draft.wanted() || (outcome && image->strokeUnderWay()))
+        return {Outcome::Dropped, tr("the picture was changed meanwhile")};
+    if (!outcome) return outcome;
+    makeStepFolder();
+    const bool kept = draft.take();
+    draft.handTo(cFilter_, engineHolds(*handle));
+    finished(*image, kept);
+    return outcome;
+}
+
+void fMain::finish(const DocumentHandle& handle)
+{
+    fImage* image = imageOf(handle);
+    if (!image) return;
+    makeStepFolder();
+    finished(*image, image->document().commit());
+}
+
+/// The folder of the undo steps may have been swept away meanwhile.
+void fMain::makeStepFolder() { QDir().mkpath(platform_.programFolder() + "/Temp"); }
+
+void fMain::finished(fImage& image, bool kept)
+{
+    status_->setProgress(0);
+    image.UpdateImage();
+    if (!kept) status_->showMessage(tr("This step can't be undone: no room in the Temp folder."), kMessageTime);
+    if (engineHolds(image.document())) setStatus(Panel::Size, image.SizeText());
+    refreshUndoState();
+}
+
+void fMain::Update(bool regionOnly, bool save)
+{
+    status_->setProgress(0);
+    fImage* image = ActiveImage_;
+    if (!image) return;
+    image->document().Zoomed = false;
+    if (save) return finish(image->document().handle());
+    if (!regionOnly) image->UpdateImage();
+    refreshUndoState();
+}
+
+void fMain::report(const QString& what, const Outcome& outcome)
+{
+    if (!outcome.reason.isEmpty() && !closing_) status_->showMessage(what + ": " + outcome.reason, kMessageTime);
+}
+
+bool fMain::engineHolds(const Document& document) const { return held_ == document.handle(); }
+
+void fMain::handOver(const Document& document)
+{
+    document.handTo(cFilter_);
+    held_ = document.handle();
+}
+
+/// Reports of the engine itself, outside of any job.
+void fMain::engineProgress(int percent)
+{
+    const JobUnderWay underWay(*this);
+    cFilter_Progress(percent);
+    platform_.yield();
+    if (closing_) throw Cancelled();
+}
+
+} // namespace velara

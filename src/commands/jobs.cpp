@@ -1,0 +1,46 @@
+#include "commands/jobs.h"
+#include "document/resizing.h"
+#include "pixels/RuntimeError.h"
+
+namespace velara {
+
+Job engineJob(std::function<void(cBitFilter&)> work)
+{
+    return [work = std::move(work)](Document& draft, cBitFilter& filter) {
+        work(filter);
+        draft.takeFrom(filter);
+    };
+}
+
+Job operationJob(const Operation& operation, Arguments arguments)
+{
+    return engineJob([&operation, arguments = std::move(arguments)](cBitFilter& f) { operation.call(f, arguments); });
+}
+
+Job presetJob(const Preset& preset) { return operationJob(*findOperation(preset.operation), preset.arguments); }
+
+Job filterJob(const FilterRow& row, const FilterArgs& args)
+{
+    return engineJob([&row, args](cBitFilter& filter) { filter.setBits(row.call(filter, args)); });
+}
+
+Job sizeJob(const SizeWord& w)
+{
+    if (w.kind == SizeWord::Rotate) return [&w](Document& d, cBitFilter& f) { rotateImage(d, f, w.value, w.quality); };
+    return [&w](Document& d, cBitFilter& f) { zoomImage(d, f, w.value, w.kind == SizeWord::Enlarge, w.quality); };
+}
+
+After afterOf(const SizeWord& word) { return word.kind == SizeWord::Rotate ? After::Step : After::Sizing; }
+
+Job endable(Job job, std::function<bool()> ended)
+{
+    return [job = std::move(job), ended = std::move(ended)](Document& draft, cBitFilter& filter) {
+        filter.Progress = [report = filter.Progress, ended](int percent) {
+            if (report) report(percent);
+            if (ended()) throw Cancelled();
+        };
+        job(draft, filter);
+    };
+}
+
+} // namespace velara

@@ -1,0 +1,26 @@
+// What the tables of commands come to as jobs on a document: for the frame, the dialogs and the batch program.
+#pragma once
+#include "commands/filterDialogs.h"
+#include "commands/sizeWords.h"
+#include "engine/operations.h"
+#include "seams/Change.h"
+
+namespace velara {
+
+/// Work on the engine alone: the picture that it holds at the end is the result, of whatever size.
+Job engineJob(std::function<void(cBitFilter&)> work);
+/// One operation with its arguments.
+Job operationJob(const Operation& operation, Arguments arguments);
+/// The operation of a preset, which outlives the job.
+Job presetJob(const Preset& preset);
+/// A filter with the settings of its dialog.
+Job filterJob(const FilterRow& row, const FilterArgs& args);
+/// A sizing or turning word; afterOf says what follows it.
+Job sizeJob(const SizeWord& word);
+After afterOf(const SizeWord& word);
+
+/// The job, ended by Cancelled at the first report of progress for which ended() is true. For a dialog that can be left
+/// while its filter runs; ended must be safe to call after the dialog is gone.
+Job endable(Job job, std::function<bool()> ended);
+
+} // namespace velara

@@ -1,0 +1,49 @@
+#include "document/Draft.h"
+
+namespace velara {
+
+Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, After after)
+    : document_(document.handle()), draft_({}, document.DocNumber()), filter_(like), commits_(document.commits()),
+      sizing_(after == After::Sizing)
+{
+    Bits picture = committed;
+    if (sizing_ && document.Zoomed)
+        if (auto before = document.undo.previous()) {
+            picture = *std::move(before);
+            fromBefore_ = true;
+        }
+    draft_.takePicture(picture);
+    if (picture.width() == document.PictureWidth() && picture.height() == document.PictureHeight())
+        draft_.Region = document.Region;
+    draft_.handTo(filter_);
+    limit_ = draft_.Region.RegionMain();
+    selection_ = draft_.Region.Region();
+}
+
+bool Draft::wanted() const { return document_ && document_->commits() == commits_; }
+
+bool Draft::take()
+{
+    Document& document = *document_;
+    const bool sameSize =
+        draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
+    const bool sameRegion = draft_.Region.RegionMain() == limit_ && draft_.Region.Region() == selection_;
+    if (sameSize && sameRegion) { // what the user selected meanwhile stays
+        document.setBits(draft_.Bits());
+    } else {
+        document.takePicture(draft_.Bits());
+        if (!draft_.Region.IsEmptyRegion()) document.Region.setRegion(draft_.Region.Region());
+    }
+    if (fromBefore_) document.undo.stepBack();
+    if (!sizing_) return document.commit();
+    document.Zoomed = true;
+    return document.SaveUndoBits();
+}
+
+void Draft::handTo(cBitFilter& engine, bool holds) const
+{
+    engine.setRandomSeed(filter_.randomSeed());
+    if (holds && document_) document_->handTo(engine);
+}
+
+} // namespace velara

@@ -1,0 +1,35 @@
+// Draft: one change of a document from its beginning to its end, without a window. Until take() the document is not
+// touched; pictures are shared until they are written to, so that a draft costs nothing.
+#pragma once
+#include "document/Document.h"
+#include "engine/cBitFilter.h"
+#include "seams/Change.h"
+
+namespace velara {
+
+class Draft {
+  public:
+    /// A draft of the committed picture of the document and its selection, or, for a sizing word after another, of the
+    /// picture before the first of them. like: the engine whose clock, progress and random numbers go on.
+    Draft(Document& document, const Bits& committed, const cBitFilter& like, After after);
+
+    /// The engine that the job gets; for its Progress.
+    cBitFilter& filter() { return filter_; }
+    void run(const Job& job) { job(draft_, filter_); }
+    /// The document is there and at the step that the draft began with.
+    bool wanted() const;
+    /// The result goes into the document, which must be wanted, with an undo step. False: the step could not be written.
+    bool take();
+    /// What follows in `engine`: the random numbers, and, where it holds this document, the result and its region.
+    void handTo(cBitFilter& engine, bool holds) const;
+
+  private:
+    DocumentHandle document_;
+    Document draft_;
+    cBitFilter filter_;
+    Region limit_, selection_; // of the draft at the start
+    int commits_;
+    bool sizing_, fromBefore_ = false;
+};
+
+} // namespace velara

@@ -1,0 +1,38 @@
+// What a change of a document's pixels is made of: the job, what follows it, and what became of it. Frame::change puts
+// them together.
+#pragma once
+#include <QString>
+#include <functional>
+
+namespace velara {
+
+class Document;
+class cBitFilter;
+
+/// Work on a document that knows no window. It gets a draft: a document of its own with the committed picture and the
+/// selection, and an engine that holds both. What it leaves in the draft is the result: pixels, size, selection. It may
+/// yield (the engine's Progress does), may paint by draft.paint, and ends early by an exception: RuntimeError is a
+/// failure, Cancelled is the user's wish. It must not hold on to anything that a yield can take away.
+using Job = std::function<void(Document& draft, cBitFilter& filter)>;
+
+enum class After {
+    Step,   // one undo step, the document counts as changed, and a run of sizing words is over
+    Sizing, // one undo step of a run of sizing words; each of them starts from the picture before the first
+};
+
+/// What became of a change. In all cases but Done the document, its selection and its undo series are as they were.
+struct Outcome {
+    enum Kind {
+        Done,
+        Failed,    // the job threw; reason says what
+        Cancelled, // the job threw Cancelled
+        Dropped,   // another change of the same document came first; reason says so
+        Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
+    };
+    Kind kind = Done;
+    QString reason = {}; // in words for a person; empty where there is nothing to say
+
+    explicit operator bool() const { return kind == Done; }
+};
+
+} // namespace velara

@@ -1,0 +1,82 @@
+#include "support/RecordingFrame.h"
+#include "pixels/RuntimeError.h"
+
+namespace velara {
+
+void RecordingFrame::note(const std::string& line)
+{
+    log.push_back(line);
+    if (onCall) onCall(line);
+}
+
+std::vector<DocumentHandle> RecordingFrame::openDocuments()
+{
+    return document ? std::vector{document->handle()} : std::vector<DocumentHandle>();
+}
+
+DocumentHandle RecordingFrame::adopt(const Bits&, const QString& path, Arrival)
+{
+    note("adopted: " + path.toStdString());
+    return {};
+}
+
+bool RecordingFrame::openPicture(const QString& path)
+{
+    note("opened: " + path.toStdString());
+    return true;
+}
+
+Outcome RecordingFrame::change(const DocumentHandle& handle, const Job& job, After after)
+{
+    if (!handle) return {Outcome::Gone};
+    Draft draft(*handle, handle->Bits(), filter_, after);
+    draft.filter().Progress = [&](int percent) {
+        progress.push_back(percent);
+        platform_.yield();
+        if (!draft.wanted()) throw Cancelled();
+    };
+    Outcome outcome;
+    try {
+        draft.run(job);
+    } catch (const Cancelled&) {
+        outcome = {Outcome::Cancelled};
+    } catch (const std::exception& failure) {
+        outcome = {Outcome::Failed, QString::fromUtf8(failure.what())};
+    }
+    progress.push_back(0);
+    if (!handle) return {Outcome::Gone};
+    if (!draft.wanted()) return {Outcome::Dropped, "dropped"};
+    if (!outcome) return outcome;
+    draft.take();
+    draft.handTo(filter_, engineHolds(*handle));
+    ++snapshots;
+    note("step");
+    return outcome;
+}
+
+void RecordingFrame::finish(const DocumentHandle& handle)
+{
+    if (!handle) return;
+    handle->commit();
+    ++snapshots;
+    note("step");
+}
+
+void RecordingFrame::report(const QString& what, const Outcome& outcome)
+{
+    if (!outcome.reason.isEmpty()) note("report: " + (what + ": " + outcome.reason).toStdString());
+}
+
+void RecordingFrame::Update(bool regionOnly, bool save)
+{
+    note(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
+}
+
+void RecordingFrame::handOver(const Document& given)
+{
+    given.handTo(filter_);
+    held_ = given.handle();
+    note("handed");
+}
+
+} // namespace velara
