@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QSlider>
+#include <QTest>
+#include <gtest/gtest.h>
 
 namespace velara {
 
