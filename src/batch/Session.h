@@ -38,7 +38,6 @@ class Session {
     void setProgress(std::function<void(int)> progress) { filter_.Progress = std::move(progress); }
 
   private:
-
     Platform& platform_;
     cBitFilter filter_;
     std::optional<QTemporaryDir> folder_; // of the undo series

@@ -44,8 +44,7 @@ std::vector<Word> makeWords()
 {
     std::vector<Word> list;
     for (const Preset& preset : presets())
-        list.push_back({preset.word, callText(preset),
-                        [&preset](Session& s) { s.change(presetJob(preset)); }});
+        list.push_back({preset.word, callText(preset), [&preset](Session& s) { s.change(presetJob(preset)); }});
     for (const SizeWord& word : sizeWords())
         list.push_back({word.word, meaningOf(word), [&word](Session& s) { s.change(sizeJob(word), afterOf(word)); },
                         word.kind == SizeWord::Rotate ? GoesBack::Never : GoesBack::WhenRepeated});

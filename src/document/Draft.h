@@ -18,7 +18,8 @@ class Draft {
     void run(const Job& job) { job(draft_, filter_); }
     /// The document is there and at the step that the draft began with.
     bool wanted() const;
-    /// The result goes into the document, which must be wanted, with an undo step. False: the step could not be written.
+    /// The result goes into the document, which must be wanted, with an undo step. False: the step could not be
+    /// written.
     bool take();
     /// What follows in `engine`: the random numbers, and, where it holds this document, the result and its region.
     void handTo(cBitFilter& engine, bool holds) const;

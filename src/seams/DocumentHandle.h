@@ -1,6 +1,6 @@
-// DocumentHandle: names one document without keeping it. A dialog, a box or a job that lasts longer than one event holds
-// this and asks for the document each time; once the document is closed the answer is null, even while its window waits
-// to be deleted.
+// DocumentHandle: names one document without keeping it. A dialog, a box or a job that lasts longer than one event
+// holds this and asks for the document each time; once the document is closed the answer is null, even while its window
+// waits to be deleted.
 #pragma once
 #include <memory>
 

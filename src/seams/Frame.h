@@ -3,12 +3,12 @@
 //
 // Whoever changes a document's pixels does it by one road, change():
 //
-//     const Outcome outcome = frame.change(document, job);            // document: the handle taken when the command began
-//     if (!outcome) return frame.report(tr("Merging"), outcome);      // a command: the status bar says why
+//     const Outcome outcome = frame.change(document, job);            // document: the handle taken when the command
+//     began if (!outcome) return frame.report(tr("Merging"), outcome);      // a command: the status bar says why
 //
-// A modal dialog takes frame.active() as it opens, and in OK stays open when outcome.kind is Failed. A window that is not
-// modal does the same with the handle that it has held since it opened. In both, change() may yield: hold yourself by a
-// QPointer. A tool that paints right into its document calls finish() at the end of the stroke instead.
+// A modal dialog takes frame.active() as it opens, and in OK stays open when outcome.kind is Failed. A window that is
+// not modal does the same with the handle that it has held since it opened. In both, change() may yield: hold yourself
+// by a QPointer. A tool that paints right into its document calls finish() at the end of the stroke instead.
 #pragma once
 #include "seams/Change.h"
 #include "seams/DocumentHandle.h"
@@ -54,8 +54,8 @@ class Frame {
     /// All open documents, in order of opening.
     virtual std::vector<DocumentHandle> openDocuments() = 0;
     /// A new document with the picture (a null one: an empty window), whole-picture limit, first snapshot, shown and
-    /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a name
-    /// without a folder is put into the folder of the file dialogs. Names none while the frame closes.
+    /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a
+    /// name without a folder is put into the folder of the file dialogs. Names none while the frame closes.
     virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) = 0;
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
     /// that it can't be loaded.

@@ -3,7 +3,8 @@
 //
 // Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
 // recent, drop), _road (from a command to its document), _pixels (commands
-// that change a picture), _geometry (dialogs that reshape one), _bars (menus, bars, boxes, side pane), _close (shutdown).
+// that change a picture), _geometry (dialogs that reshape one), _bars (menus, bars, boxes, side pane), _close
+// (shutdown).
 #pragma once
 #include "engine/cBitFilter.h"
 #include "seams/Frame.h"
@@ -159,7 +160,8 @@ class fMain final : public QMainWindow, public Frame {
   private:
     class JobUnderWay;
 
-    /// The job on the document that is active now; after a yield, so that the menu closes. Failures go to the status bar.
+    /// The job on the document that is active now; after a yield, so that the menu closes. Failures go to the status
+    /// bar.
     void changeActive(std::string_view word, const Job& job, After after, bool yields = true);
     template <class Dialog> void askAndReshape(std::string_view word);
     void buildMenus();

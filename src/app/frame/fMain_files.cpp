@@ -152,7 +152,8 @@ bool fMain::openPicture(const QString& path)
 
 void fMain::open()
 {
-    if (const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"})) openPicture(*path);
+    if (const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"}))
+        openPicture(*path);
 }
 
 void fMain::openRecent(int index)

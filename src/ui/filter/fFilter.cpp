@@ -146,15 +146,15 @@ void fFilter::accept()
     const QPointer<fFilter> alive = this;
     cancelled_ = false;
     showRunning(true);
-    const Outcome outcome = frame_.change(
-        document_, endable(filterJob(row_, arguments()), [this, alive] { return !alive || cancelled_; }));
+    const Outcome outcome =
+        frame_.change(document_, endable(filterJob(row_, arguments()), [this, alive] { return !alive || cancelled_; }));
     if (!alive) return;
     showRunning(false);
     if (outcome) return QDialog::accept();
     if (outcome.kind == Outcome::Gone) return QDialog::reject();
     if (!outcome.reason.isEmpty())
-        frame_.platform().message(QStringLiteral("Velara Studio"), windowTitle() + QStringLiteral(": ") + outcome.reason,
-                                  Icon::Exclamation);
+        frame_.platform().message(QStringLiteral("Velara Studio"),
+                                  windowTitle() + QStringLiteral(": ") + outcome.reason, Icon::Exclamation);
 }
 
 void fFilter::reject()

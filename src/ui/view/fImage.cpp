@@ -144,10 +144,7 @@ bool fImage::step(bool moved)
 
 QString fImage::SizeText() const { return QString::number(PictureWidth()) + "x" + QString::number(PictureHeight()); }
 
-void fImage::showSize()
-{
-    frame_.setStatus(Panel::Size, SizeText());
-}
+void fImage::showSize() { frame_.setStatus(Panel::Size, SizeText()); }
 
 void fImage::setCaption(const QString& caption)
 {

@@ -1,6 +1,6 @@
 // The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
-#include "ui/panes/fToolPanes.h"
 #include "support/RecordingFrame.h"
+#include "ui/panes/fToolPanes.h"
 #include "ui/widgets/fColorButton.h"
 #include <QCheckBox>
 #include <QComboBox>
