@@ -12,6 +12,9 @@
 namespace velara {
 
 class Fonts;
+class Scanner;
+class Screen;
+class Wallpaper;
 
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Answer { Yes, No, Cancel };
@@ -76,6 +79,9 @@ class Platform {
 
     // --- Services with an interface of their own
     virtual Fonts& fonts() = 0;
+    virtual Screen& screen() = 0;
+    virtual Wallpaper& wallpaper() = 0;
+    virtual Scanner& scanner() = 0;
 };
 
 } // namespace velara
