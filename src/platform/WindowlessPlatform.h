@@ -18,6 +18,7 @@ class WindowlessPlatform : public CorePlatform {
     bool clipboardHasBitmap() override { return false; }
     Bits clipboardBitmap() override { return {}; }
     bool setClipboardBitmap(const Bits&) override { return false; }
+    bool setClipboardPart(const Bits&) override { return false; }
     void clearClipboard() override {}
     Fonts& fonts() override { return fonts_; }
     Screen& screen() override { return screen_; }

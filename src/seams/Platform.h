@@ -75,6 +75,8 @@ class Platform {
     /// Empty when there is none.
     virtual Bits clipboardBitmap() = 0;
     virtual bool setClipboardBitmap(const Bits& bits) = 0;
+    /// A part of a picture, by alpha: pixels with a fourth byte of 255 are transparent, all others opaque.
+    virtual bool setClipboardPart(const Bits& part) = 0;
     virtual void clearClipboard() = 0;
 
     // --- Services with an interface of their own

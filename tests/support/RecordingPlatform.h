@@ -52,6 +52,7 @@ class RecordingPlatform : public Platform {
     bool clipboardHasBitmap() override { return !clipboard.isNull(); }
     Bits clipboardBitmap() override { return clipboard; }
     bool setClipboardBitmap(const Bits& bits) override;
+    bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
     RecordingFonts& fonts() override { return recordingFonts; }
     RecordingScreen& screen() override { return screen_; }

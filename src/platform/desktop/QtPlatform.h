@@ -23,6 +23,7 @@ class QtPlatform : public CorePlatform {
     bool clipboardHasBitmap() override;
     Bits clipboardBitmap() override;
     bool setClipboardBitmap(const Bits& bits) override;
+    bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
 
     Fonts& fonts() override { return fonts_; }

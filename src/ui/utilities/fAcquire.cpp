@@ -126,9 +126,9 @@ void fAcquire::setBusy(const QString& what)
 
 void fAcquire::begin()
 {
-    const QString device = platform_.setting(kSection, "Source", "");
-    if (device.isEmpty()) return lookForSource();
-    useSource({device, platform_.setting(kSection, "Title", device)}, true);
+    const ScanSource last = rememberedSource(platform_);
+    if (last.device.isEmpty()) return lookForSource();
+    useSource(last, true);
 }
 
 /// No source was chosen, or the chosen one is gone: the first that there is.
@@ -157,8 +157,7 @@ void fAcquire::selectSource()
     auto* dialog = new fSource(platform_, source_.device, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &fSource::chosen, this, [this](const ScanSource& source) {
-        platform_.setSetting(kSection, "Source", source.device);
-        platform_.setSetting(kSection, "Title", source.title);
+        rememberSource(platform_, source);
         useSource(source);
     });
     dialog->open();
@@ -230,8 +229,7 @@ void fAcquire::scan()
     const ScanJob wanted = job();
     platform_.setSetting(kSection, "Mode", wanted.mode);
     platform_.setSetting(kSection, "Resolution", QString::number(wanted.resolution));
-    platform_.setSetting(kSection, "Source", source_.device);
-    platform_.setSetting(kSection, "Title", source_.title);
+    rememberSource(platform_, source_);
     setBusy(tr("Scanning ..."));
     platform_.scanner().acquire(
         wanted, path_,

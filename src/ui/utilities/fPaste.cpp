@@ -143,7 +143,7 @@ Bits fPaste::take(const Document& document, const char* tooSmall)
         frame_.platform().message("Velara Studio", tooSmall, Icon::Information);
         return {};
     }
-    frame_.toolStores.paste = part;
+    frame_.toolStores().paste = part;
     history_.add(part);
     showClips();
     Update_V();
@@ -189,7 +189,7 @@ void fPaste::paste(int slot)
 {
     const Clip* clip = history_.at(slot);
     if (!clip || clip->bits.isNull()) return;
-    frame_.toolStores.paste = clip->bits;
+    frame_.toolStores().paste = clip->bits;
     frame_.Mmenu("PASTE");
 }
 

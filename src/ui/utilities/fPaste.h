@@ -29,6 +29,7 @@ class fPaste final : public QWidget {
     Bits CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
     /// The scroll control follows the list: the newest clip is in view.
     void Update_V();
+    bool isEmpty() const { return history_.clips().empty(); }
 
   protected:
     void changeEvent(QEvent* event) override;

@@ -94,6 +94,18 @@ void fSource::choose()
     emit chosen(source);
 }
 
+ScanSource rememberedSource(Platform& platform)
+{
+    const QString device = platform.setting("Scanner", "Source", "");
+    return {device, platform.setting("Scanner", "Title", device)};
+}
+
+void rememberSource(Platform& platform, const ScanSource& source)
+{
+    platform.setSetting("Scanner", "Source", source.device);
+    platform.setSetting("Scanner", "Title", source.title);
+}
+
 void showScannerFailure(Platform& platform)
 {
     platform.message("Velara Studio", "Please Verify that the system is connected to Scanner!", Icon::Critical);

@@ -37,6 +37,10 @@ class fSource final : public QDialog {
     bool looking_ = false;
 };
 
+/// The source of the last time; an empty device: none yet.
+ScanSource rememberedSource(Platform& platform);
+void rememberSource(Platform& platform, const ScanSource& source);
+
 /// The message when a scanner can't do what it was asked for.
 void showScannerFailure(Platform& platform);
 
