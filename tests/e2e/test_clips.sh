@@ -61,7 +61,7 @@ sleep 0.2
 drag 8 8 18 18
 keys ctrl+c
 sleep 0.3
-xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
+import -window root /tmp/ut_shots/aftercopy.png; xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
 [ "$(identify -format '%wx%h' "$scratch/clip.png")" = 10x10 ] || fail "the clip is $(identify "$scratch/clip.png")"
 [ "$(convert "$scratch/clip.png" -format '%[hex:p{3,3}]' info:)" = 00FF00FF ] || fail "the clip's pixel"
 
