@@ -64,8 +64,11 @@ const Operation& texturizeOperation()
 {
     static const Operation operation{
         "fTexturize",
-        {{"Texture", ArgumentType::Picture}, {"Weight", ArgumentType::Integer}, {"Depth", ArgumentType::Integer}},
-        [](cBitFilter& filter, const Arguments& arguments) {
+        {{"Texture", ArgumentType::Picture},
+         {"Weight", ArgumentType::Integer, "0..100", "50"},
+         {"Depth", ArgumentType::Integer, "0..1", "0"}},
+        0,
+        [](const Operation&, cBitFilter& filter, const Arguments& arguments) {
             const Texturing texturing{std::get<Bits>(arguments[0]), std::get<int>(arguments[1]),
                                       std::get<int>(arguments[2]) == 1};
             if (texturing.intensity < 0 || texturing.intensity > kMostIntensity)
@@ -77,7 +80,6 @@ const Operation& texturizeOperation()
                 throw std::invalid_argument("a texture of less than 2 by 2 pixels");
             filter.setBits(texturized(filter, texturing));
         },
-        0,
         true};
     return operation;
 }

@@ -50,8 +50,8 @@ struct Operation {
     template <auto Method> constexpr Operation(std::string_view name, std::string_view arguments, Does<Method>);
     /// One that is no method of the filter.
     constexpr Operation(std::string_view name, std::initializer_list<Parameter> all, std::size_t optional,
-                        void (*call)(const Operation&, cBitFilter&, const Arguments&))
-        : name(name), optional(optional), call_(call)
+                        void (*call)(const Operation&, cBitFilter&, const Arguments&), bool takesSelf = false)
+        : name(name), optional(optional), takesSelf(takesSelf), call_(call)
     {
         for (const Parameter& p : all) parameters.add(p);
     }

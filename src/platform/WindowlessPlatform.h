@@ -2,6 +2,7 @@
 // what becomes of messages is the program's own affair.
 #pragma once
 #include "platform/CorePlatform.h"
+#include "platform/NoDesktop.h"
 #include "platform/NoFonts.h"
 
 namespace velara {
@@ -17,11 +18,18 @@ class WindowlessPlatform : public CorePlatform {
     bool clipboardHasBitmap() override { return false; }
     Bits clipboardBitmap() override { return {}; }
     bool setClipboardBitmap(const Bits&) override { return false; }
+    bool setClipboardPart(const Bits&) override { return false; }
     void clearClipboard() override {}
     Fonts& fonts() override { return fonts_; }
+    Screen& screen() override { return screen_; }
+    Wallpaper& wallpaper() override { return wallpaper_; }
+    Scanner& scanner() override { return scanner_; }
 
   private:
     NoFonts fonts_;
+    NoScreen screen_;
+    NoWallpaper wallpaper_;
+    NoScanner scanner_;
 };
 
 } // namespace velara

@@ -12,6 +12,9 @@
 namespace velara {
 
 class Fonts;
+class Scanner;
+class Screen;
+class Wallpaper;
 
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Answer { Yes, No, Cancel };
@@ -72,10 +75,15 @@ class Platform {
     /// Empty when there is none.
     virtual Bits clipboardBitmap() = 0;
     virtual bool setClipboardBitmap(const Bits& bits) = 0;
+    /// A part of a picture, by alpha: pixels with a fourth byte of 255 are transparent, all others opaque.
+    virtual bool setClipboardPart(const Bits& part) = 0;
     virtual void clearClipboard() = 0;
 
     // --- Services with an interface of their own
     virtual Fonts& fonts() = 0;
+    virtual Screen& screen() = 0;
+    virtual Wallpaper& wallpaper() = 0;
+    virtual Scanner& scanner() = 0;
 };
 
 } // namespace velara

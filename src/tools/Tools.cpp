@@ -87,13 +87,29 @@ void Tools::release(int button, int x, int y)
     if (button == Left && c.down && active_) {
         if (!guarded([&] { active_->release(c); })) return;
     } else if (button == Right) {
-        if (const Tool* holder = tool()) holder->cancel(c);
-        if (c.frame.engineHolds(c.document) && !guarded([&] { c.preview.restore(); })) return;
-        c.preview.takeRestored();
-        c.surface.UpdateImage();
+        cancel();
     }
     c.last = {x, y};
     endRelease();
+}
+
+/// What hangs on the screen goes away, and the picture is the committed one again.
+void Tools::cancel()
+{
+    ToolContext& c = context_;
+    if (const Tool* holder = tool()) holder->cancel(c);
+    if (c.frame.engineHolds(c.document)) guarded([&] { c.preview.restore(); });
+    c.preview.takeRestored();
+    c.surface.UpdateImage();
+}
+
+bool Tools::drop()
+{
+    if (!active_ && !context_.stores().pastePending) return false;
+    cancel();
+    endRelease();
+    showPointer();
+    return true;
 }
 
 /// The end of every release: the outline runs again and the engine knows the working region.
@@ -138,6 +154,7 @@ bool Tools::keyDown(int key)
         move(NoButton, c.last.x + step.x, c.last.y + step.y);
         return true;
     }
+    if (key == Escape) return drop();
     const Tool* const holder = tool();
     if (key != Space || !holder) return false;
     guarded([&] { holder->space(c); });

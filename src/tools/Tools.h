@@ -13,7 +13,7 @@ namespace velara {
 class Tools {
   public:
     enum Button { NoButton = 0, Left = 1, Right = 2 };
-    enum Key { Ctrl = 17, Space = 32, ArrowLeft = 37, ArrowUp = 38, ArrowRight = 39, ArrowDown = 40 };
+    enum Key { Ctrl = 17, Escape = 27, Space = 32, ArrowLeft = 37, ArrowUp = 38, ArrowRight = 39, ArrowDown = 40 };
 
     /// All three outlive this object.
     Tools(Document& document, Frame& frame, ToolSurface& surface);
@@ -26,6 +26,8 @@ class Tools {
     /// Numbers as in Key. False: the key has no use here.
     bool keyDown(int key);
     bool keyUp(int key);
+    /// A drag and a pending paste end without a trace. False: there was none.
+    bool drop();
     /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what
     /// hangs on the pointer leaves the picture.
     void deactivated();
@@ -42,6 +44,7 @@ class Tools {
     const Tool* tool() const;
     template <class Action> bool guarded(Action action);
     void showPosition(int button);
+    void cancel();
     void endRelease();
 
     ToolContext context_;

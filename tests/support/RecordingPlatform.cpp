@@ -90,6 +90,13 @@ bool RecordingPlatform::setClipboardBitmap(const Bits& bits)
     return true;
 }
 
+bool RecordingPlatform::setClipboardPart(const Bits& part)
+{
+    log.emplace_back("clipboard: part");
+    clipboard = part;
+    return true;
+}
+
 void RecordingPlatform::clearClipboard()
 {
     log.emplace_back("clipboard: clear");

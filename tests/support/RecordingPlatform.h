@@ -2,6 +2,7 @@
 // every message, dialog and path of a command can be tested without a window.
 #pragma once
 #include "seams/Platform.h"
+#include "support/RecordingDesktop.h"
 #include "support/RecordingFonts.h"
 #include <QTemporaryDir>
 #include <deque>
@@ -51,10 +52,17 @@ class RecordingPlatform : public Platform {
     bool clipboardHasBitmap() override { return !clipboard.isNull(); }
     Bits clipboardBitmap() override { return clipboard; }
     bool setClipboardBitmap(const Bits& bits) override;
+    bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
     RecordingFonts& fonts() override { return recordingFonts; }
+    RecordingScreen& screen() override { return screen_; }
+    RecordingWallpaper& wallpaper() override { return wallpaper_; }
+    RecordingScanner& scanner() override { return scanner_; }
 
   private:
+    RecordingScreen screen_;
+    RecordingWallpaper wallpaper_;
+    RecordingScanner scanner_;
     std::optional<QString> answer();
 };
 

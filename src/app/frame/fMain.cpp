@@ -3,6 +3,8 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
+#include "app/utilities/Capture.h"
+#include "app/utilities/Clips.h"
 #include "seams/Platform.h"
 #include <QApplication>
 #include <QHBoxLayout>
@@ -51,6 +53,8 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
     });
     buildMenus();
     buildToolbars();
+    clips_ = std::make_unique<Clips>(*this);
+    capture_ = std::make_unique<Capture>(*this);
     makeBoxes();
     showColors();
     refreshUndoState();
@@ -61,6 +65,7 @@ fMain::~fMain()
 {
     closing_ = true;
     cFilter_.Progress = nullptr;
+    capture_.reset(); // which brings back what it has put aside
     delete area_; // the documents speak to the frame to their end
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
 }
@@ -121,6 +126,8 @@ void fMain::buryDead()
     }
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
 }
+
+void fMain::capturePic(int mode) { capture_->capturePic(mode); }
 
 void fMain::refreshUndoState()
 {

@@ -23,6 +23,8 @@ class QToolBar;
 
 namespace velara {
 
+class Capture;
+class Clips;
 class fDocumentWindow;
 struct SizeWord;
 struct Preset;
@@ -116,6 +118,12 @@ class fMain final : public QMainWindow, public Frame {
     void arrange(int mode); // 0 cascade, 1 tile horizontally, 2 tile vertically
     void reset();
 
+    // --- Utilities
+    Clips& clips() { return *clips_; }
+    Capture& capture() { return *capture_; }
+    void capturePic(int mode);
+    void showClipBox();
+
     // --- Files
     void FillRecent();
     /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
@@ -140,6 +148,8 @@ class fMain final : public QMainWindow, public Frame {
     void Tool_Frame();
     void DisableTools();
     void toolClicked(const QString& key);
+    /// Hand scrolling ends: a drag is the hand's or the tool's.
+    void releaseHand();
     fToolPane& toolPane() { return *toolPane_; }
     fStatus& status() { return *status_; }
     QMdiArea& area() { return *area_; }
@@ -200,6 +210,8 @@ class fMain final : public QMainWindow, public Frame {
     DocumentHandle held_; // whose picture the engine holds
     ToolStores toolStores_;
     QPointer<fImage> ActiveImage_;
+    std::unique_ptr<Clips> clips_;
+    std::unique_ptr<Capture> capture_;
     QMdiArea* area_;
     fStatus* status_;
     fToolPane* toolPane_;

@@ -5,6 +5,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "app/utilities/Clips.h"
 #include "seams/Platform.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPicker.h"
@@ -94,7 +95,11 @@ bool Setup::*boxFlag(int index)
 
 } // namespace
 
-void fMain::makeBoxes() { setBox(0, new fPalette(*this, this)); }
+void fMain::makeBoxes()
+{
+    setBox(0, new fPalette(*this, this));
+    setBox(2, clips_->box());
+}
 
 void fMain::setBox(int index, QWidget* box) { boxes_[std::size_t(index)] = box; }
 
@@ -225,12 +230,24 @@ void fMain::toolClicked(const QString& key)
     } else if (key == "MouseScroll") {
         if (image) image->setMouseScroll(toolPane_->button(key)->isChecked());
     } else {
+        clips_->letGo();
         setup_.CurrentTool = key;
         Tool_Frame();
-        // A drag is the hand's or the tool's: who takes a tool puts the hand away.
-        toolPane_->button("MouseScroll")->setChecked(false);
-        if (image) image->setMouseScroll(false);
+        releaseHand(); // who takes a tool puts the hand away
     }
+}
+
+void fMain::releaseHand()
+{
+    toolPane_->button("MouseScroll")->setChecked(false);
+    if (fImage* image = GetActiveImage()) image->setMouseScroll(false);
+}
+
+void fMain::showClipBox()
+{
+    if (!setup_.ClipboardBoxVisible) return toggleBox(2);
+    showBox(2);
+    clips_->box()->raise();
 }
 
 void fMain::showColors()

@@ -1,6 +1,9 @@
 // The command language: which word needs what and does what.
 #include "app/frame/fMain.h"
 #include "app/menus/fIcons.h"
+#include "app/utilities/Capture.h"
+#include "app/utilities/Clips.h"
+#include "app/utilities/desktop.h"
 #include "commands/filterDialogs.h"
 #include "commands/sizeWords.h"
 #include "engine/operations.h"
@@ -23,12 +26,12 @@ constexpr Command kCommands[] = {
     {"OPEN",                 Free,       [](fMain& f) { f.open(); }},
     {"FILEASSOCIATION",      Free,       kLater},
     {"PRINTERSETUP",         Free,       kLater},
-    {"SELECTSOURCE",         Free,       kLater},
-    {"ACQUIRETWAIN",         Free,       kLater},
-    {"CAPTUREDESKTOP",       Free,       kLater},
-    {"CAPTUREFOREGROUND",    Free,       kLater},
-    {"CAPTUREBACKGROUND",    Free,       kLater},
-    {"CUSTOMCAPTURE",        Free,       kLater},
+    {"SELECTSOURCE",         Free,       selectSource},
+    {"ACQUIRETWAIN",         Free,       acquire},
+    {"CAPTUREDESKTOP",       Free,       [](fMain& f) { f.capture().desktop(); }},
+    {"CAPTUREFOREGROUND",    Free,       [](fMain& f) { f.capturePic(Capture::FixedArea); }},
+    {"CAPTUREBACKGROUND",    Free,       [](fMain& f) { f.capture().background(); }},
+    {"CUSTOMCAPTURE",        Free,       [](fMain& f) { f.capturePic(Capture::Rectangle); }},
 
     // The active document is asked for; one of them runs without
     {"UNDO",                 NeedsImage, [](fMain& f) { f.stepUndo(true); }},
@@ -46,9 +49,9 @@ constexpr Command kCommands[] = {
     {"SAVE",                 NeedsImage, [](fMain& f) { f.save(); }},
     {"SAVEAS",               NeedsImage, [](fMain& f) { f.saveAs(); }},
     {"PRINT",                NeedsImage, kLater},
-    {"CUT",                  NeedsImage, kLater},
-    {"COPY",                 NeedsImage, kLater},
-    {"PASTE",                NeedsImage, kLater},
+    {"CUT",                  NeedsImage, [](fMain& f) { f.clips().cut(); }},
+    {"COPY",                 NeedsImage, [](fMain& f) { f.clips().copy(); }},
+    {"PASTE",                NeedsImage, [](fMain& f) { f.clips().paste(); }},
     {"CROP",                 NeedsImage, [](fMain& f) { f.crop(); }},
     {"OPTIONS",              NeedsImage, [](fMain& f) { f.options(); }},
     {"200",                  NeedsImage, [](fMain& f) { f.setZoom(2); }},
@@ -58,15 +61,15 @@ constexpr Command kCommands[] = {
     {"600",                  NeedsImage, [](fMain& f) { f.setZoom(6); }},
     {"700",                  NeedsImage, [](fMain& f) { f.setZoom(7); }},
     {"IMAGEMERGING",         NeedsImage, kLater},
-    {"PASTELAYERSBOX",       NeedsImage, kLater},
+    {"PASTELAYERSBOX",       NeedsImage, [](fMain& f) { f.showClipBox(); }},
     {"IMAGETEXTURES",        NeedsImage, [](fMain& f) { f.imageTextures(); }},
     {"IMAGERESOLUTION",      NeedsImage, [](fMain& f) { f.imageResolution(); }},
     {"IMAGESAVEOPTIONS",     NeedsImage, [](fMain& f) { f.saveForWeb(); }},
     {"IMAGECOLORDEPTH",      NeedsImage, [](fMain& f) { f.colorDepth(); }},
     {"TEXTTOOLS",            NeedsImage, kLater},
-    {"WTILE",                NeedsImage, kLater},
-    {"WCENTER",              NeedsImage, kLater},
-    {"WSTRETCH",             NeedsImage, kLater},
+    {"WTILE",                NeedsImage, [](fMain& f) { setAsWallpaper(f, WallpaperMode::Tile); }},
+    {"WCENTER",              NeedsImage, [](fMain& f) { setAsWallpaper(f, WallpaperMode::Centre); }},
+    {"WSTRETCH",             NeedsImage, [](fMain& f) { setAsWallpaper(f, WallpaperMode::Stretch); }},
     {"TILEHORIZONTALLY",     NeedsImage, [](fMain& f) { f.arrange(1); }},
     {"TILEVERTICALLY",       NeedsImage, [](fMain& f) { f.arrange(2); }},
     {"CASCADE",              NeedsImage, [](fMain& f) { f.arrange(0); }},
@@ -95,7 +98,7 @@ constexpr Command kCommands[] = {
 // What the frame does by itself, without a word of the command language
 constexpr Command kActions[] = {
     {"@BROWSE",       Free, kLater},
-    {"@CAPTURE",      Free, kLater},
+    {"@CAPTURE",      Free, [](fMain& f) { f.capture().showDialog(); }},
     {"@ICON",         Free, kLater},
     {"@ASSOCIATION",  Free, kLater},
     {"@EXIT",         Free, [](fMain& f) { f.close(); }},
@@ -118,13 +121,13 @@ constexpr Command kActions[] = {
     {"@BAR6",         Free, [](fMain& f) { f.toggleBar(6); }},
     {"@COLORBOX",     Free, [](fMain& f) { f.toggleBox(0); }},
     {"@TEXTURESBOX",  Free, kLater},
-    {"@CLIPBOARDBOX", Free, kLater},
+    {"@CLIPBOARDBOX", Free, [](fMain& f) { f.toggleBox(2); }},
     {"@STATUSBAR",    Free, [](fMain& f) { f.toggleStatusBar(); }},
     {"@SIDEBAR",      Free, [](fMain& f) { f.toggleSideBar(); }},
     // Buttons that only open their drop-down
     {"@ZOOMP", Free, nothing}, {"@ZOOMM", Free, nothing}, {"@QUICKROTATE", Free, nothing},
     {"@QUALITYROTATE", Free, nothing}, {"@QUALITYSIZE", Free, nothing},
-    {"@QUICKCAPTURE", Free, kLater}, {"@WALLPAPER", Free, kLater},
+    {"@QUICKCAPTURE", Free, nothing}, {"@WALLPAPER", Free, nothing},
 };
 // clang-format on
 
@@ -161,7 +164,9 @@ void fMain::Mmenu(const QString& word)
     if (name.starts_with('@') || !available(name)) return;
     const Command* command = findIn(commands(), name);
     const Stage stage = command ? command->stage : Stage::NeedsImage;
-    if (stage != Stage::Free && !GetActiveImage() && stage == Stage::NeedsImage) return;
+    fImage* image = GetActiveImage();
+    if (!image && stage == Stage::NeedsImage) return;
+    if (image) image->restPaste();
     try {
         if (command)
             command->run(*this);

@@ -45,18 +45,18 @@ void fMain::imageResolution() { askAndReshape<fResolution>("IMAGERESOLUTION"); }
 
 void fMain::imageTextures()
 {
-    const QPointer<fImage> image = GetActiveImage();
-    if (!image || !image->PictureExists()) return;
+    const DocumentHandle document = active();
+    if (!document || !document->PictureExists()) return;
     Texturing texturing;
     {
-        fTexturize dialog(platform_, image->Bits(), image->document().Region.working(), this);
+        fTexturize dialog(platform_, document->Bits(), document->document().Region.working(), this);
         if (dialog.exec() != QDialog::Accepted) return;
         texturing = dialog.texturing();
     }
     platform_.yield(); // the dialog goes before the long work
-    if (image && image == GetActiveImage())
-        runOnEngine(QStringLiteral("IMAGETEXTURES"),
-                    [&](cBitFilter& filter) { filter.setBits(texturized(filter, texturing)); });
+    report("IMAGETEXTURES", change(document, [texturing](Document& draft, cBitFilter& filter) {
+               draft.setBits(texturized(filter, texturing));
+           }));
 }
 
 } // namespace velara

@@ -165,14 +165,14 @@ unsigned secondsFor(std::int64_t pixels)
     return static_cast<unsigned>(std::clamp<std::int64_t>(2 + pixels / kPixelsASecond, 2, kMostSeconds));
 }
 
-QString findDecoder()
+QString findHelper(const QString& name)
 {
     static constexpr const char* kPlaces[] = {"", "../bin/", "../libexec/velara-studio/", "../libexec/",
                                               "../lib/velara-studio/"};
     const QString self = QFile::symLinkTarget("/proc/self/exe");
     const QString folder = QFileInfo(self).path();
     for (const char* place : kPlaces) {
-        const QFileInfo program(folder + '/' + place + "velara-decode");
+        const QFileInfo program(folder + '/' + place + name);
         if (program.isFile() && program.isExecutable()) return program.canonicalFilePath();
     }
     return {};

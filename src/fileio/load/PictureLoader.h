@@ -24,8 +24,9 @@ unsigned secondsFor(std::int64_t pixels);
 /// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
 using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
-/// The helper's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
-QString findDecoder();
+/// A helper program's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
+QString findHelper(const QString& name);
+inline QString findDecoder() { return findHelper("velara-decode"); }
 
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
 /// reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".

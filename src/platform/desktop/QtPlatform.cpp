@@ -155,6 +155,20 @@ bool QtPlatform::setClipboardBitmap(const Bits& bits)
     return true;
 }
 
+bool QtPlatform::setClipboardPart(const Bits& part)
+{
+    QImage image(part.width(), part.height(), QImage::Format_ARGB32);
+    if (image.isNull()) return false;
+    for (int y = 0; y < image.height(); ++y) {
+        const Pixel* from = part.row(y);
+        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            to[x] = from[x].c[3] == 255 ? 0 : qRgb(from[x].c[2], from[x].c[1], from[x].c[0]);
+    }
+    QGuiApplication::clipboard()->setImage(image);
+    return true;
+}
+
 void QtPlatform::clearClipboard() { QGuiApplication::clipboard()->clear(); }
 
 } // namespace velara

@@ -1,6 +1,10 @@
 // QtPlatform: the real Platform of the editor, by Qt Widgets.
 #pragma once
+#include "fileio/load/PictureLoader.h"
 #include "platform/CorePlatform.h"
+#include "platform/desktop/DesktopWallpaper.h"
+#include "platform/desktop/QtScreen.h"
+#include "platform/desktop/SaneScanner.h"
 #include "platform/desktop/QtFonts.h"
 
 namespace velara {
@@ -19,15 +23,22 @@ class QtPlatform : public CorePlatform {
     bool clipboardHasBitmap() override;
     Bits clipboardBitmap() override;
     bool setClipboardBitmap(const Bits& bits) override;
+    bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
 
     Fonts& fonts() override { return fonts_; }
+    Screen& screen() override { return screen_; }
+    Wallpaper& wallpaper() override { return wallpaper_; }
+    Scanner& scanner() override { return scanner_; }
 
   protected:
     GoOn whileReading(const QString& name) override;
 
   private:
     QtFonts fonts_;
+    QtScreen screen_{*this};
+    DesktopWallpaper wallpaper_{*this};
+    SaneScanner scanner_{findHelper("velara-scan")};
 };
 
 } // namespace velara

@@ -102,6 +102,12 @@ class fImage final : public QWidget, public ToolSurface {
     void idst_KeyUp(int key, int shift);
     /// True while a tool is held down and has painted what is not committed.
     bool strokeUnderWay() const;
+    /// A paste is pending: shows it at the pointer, or in the middle of what is seen, and takes the keys.
+    void showPaste();
+    /// A command comes: what hangs on the pointer leaves the picture until the pointer moves again.
+    void restPaste();
+    /// The paste is let go of.
+    void dropPaste();
     /// The pointer of the chosen tool.
     void showToolPointer();
 

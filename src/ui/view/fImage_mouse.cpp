@@ -33,6 +33,7 @@ struct KeyRow {
 constexpr KeyRow kKeys[] = {
     // clang-format off
     {Qt::Key_Control, Tools::Ctrl},     {Qt::Key_Space, Tools::Space},    {Qt::Key_Left, Tools::ArrowLeft},
+    {Qt::Key_Escape,  Tools::Escape},
     {Qt::Key_Up,      Tools::ArrowUp},  {Qt::Key_Right, Tools::ArrowRight}, {Qt::Key_Down, Tools::ArrowDown},
     // clang-format on
 };
@@ -117,6 +118,26 @@ bool fImage::displayKey(const QKeyEvent& event, bool down)
 }
 
 bool fImage::strokeUnderWay() const { return tools_->ToolDown() && !document_.touched.isEmpty(); }
+
+void fImage::showPaste()
+{
+    activateWindow();
+    iDst_->setFocus();
+    QPoint at = iDst_->mapFromGlobal(QCursor::pos());
+    if (!iDst_->rect().contains(at)) at = iDst_->rect().center();
+    lastPixel_ = pixelAt(at);
+    tools_->move(Tools::NoButton, lastPixel_.x(), lastPixel_.y());
+}
+
+void fImage::restPaste()
+{
+    if (!frame_.toolStores().pastePending) return;
+    tools_->deactivated();
+    UpdateImage();
+    lastPixel_ = {-1, -1};
+}
+
+void fImage::dropPaste() { tools_->drop(); }
 
 void fImage::idst_KeyUp(int key, int) { tools_->keyUp(key); }
 

@@ -1,0 +1,145 @@
+#include "app/utilities/Capture.h"
+#include "app/frame/fMain.h"
+#include "fileio/savePicture.h"
+#include "seams/Platform.h"
+#include "ui/utilities/HiddenWindows.h"
+#include "ui/utilities/fCaptureRectangle.h"
+#include "ui/utilities/fWaiting.h"
+#include <QFile>
+
+namespace velara {
+
+namespace {
+
+constexpr int kDelay = 500;                    // ms for windows to go
+constexpr int kPatience = 10000;               // ms; a desktop may be asking its user meanwhile
+constexpr QRect kFixedArea(0, 0, 800, 600);    // whatever the screen's size: odd, and it stays
+
+} // namespace
+
+Capture::Capture(fMain& frame) : frame_(frame), picker_(new fCaptureRectangle(this))
+{
+    Timer2_.setObjectName("Timer2");
+    for (QTimer* timer : {&Timer2_, &patience_}) timer->setSingleShot(true);
+    Timer2_.setInterval(kDelay);
+    patience_.setInterval(kPatience);
+    connect(&Timer2_, &QTimer::timeout, this, [this] { capturePic(WholeScreen); });
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        waiting_ = new fWaiting(tr("Capture"), tr("Waiting for the desktop's picture ..."));
+        waiting_->setAttribute(Qt::WA_DeleteOnClose);
+        connect(waiting_, &QDialog::rejected, this, &Capture::giveUp);
+        waiting_->show();
+    });
+    connect(picker_, &fCaptureRectangle::picked, this, [this] { frame_.Mmenu("CUSTOMCAPTURE"); });
+    connect(picker_, &fCaptureRectangle::left, this, &Capture::bringBack);
+}
+
+Capture::~Capture()
+{
+    frame_.platform().screen().cancel();
+    if (desktopShown_) frame_.platform().screen().showDesktop(false);
+    delete waiting_;
+}
+
+void Capture::desktop()
+{
+    putAside(false, true);
+    Timer2_.start();
+}
+
+void Capture::background()
+{
+    putAside(true, false);
+    Timer2_.start();
+}
+
+/// Where the desktop can't be shown the program at least is out of the way.
+void Capture::putAside(bool hides, bool showsDesktop)
+{
+    if (showsDesktop && !desktopShown_) desktopShown_ = frame_.platform().screen().showDesktop(true);
+    if ((hides || (showsDesktop && !desktopShown_)) && !hidden_) hidden_ = std::make_unique<HiddenWindows>();
+}
+
+void Capture::bringBack()
+{
+    if (std::exchange(desktopShown_, false)) frame_.platform().screen().showDesktop(false);
+    hidden_.reset();
+}
+
+void Capture::grab(const Screen::Done& done)
+{
+    patience_.start();
+    frame_.platform().screen().grab([this, done](const ScreenPicture& picture) {
+        patience_.stop();
+        delete waiting_;
+        done(picture);
+    });
+}
+
+void Capture::giveUp()
+{
+    patience_.stop();
+    frame_.platform().screen().cancel();
+    bringBack();
+}
+
+QRect Capture::areaOf(int mode, const ScreenPicture& picture) const
+{
+    const QRect whole(0, 0, picture.bits.width(), picture.bits.height());
+    if (mode == WholeScreen) return whole;
+    if (mode == FixedArea) return kFixedArea;
+    const fImage* image = frame_.GetActiveImage();
+    if (!image) return {};
+    return {image->mapToGlobal(QPoint()), QSize(image->PictureWidth(), image->PictureHeight())};
+}
+
+void Capture::capturePic(int mode)
+{
+    frame_.platform().yield();
+    if (mode == Rectangle) return makeDocument(picker_->picRectangle());
+    grab([this, mode](const ScreenPicture& picture) {
+        makeDocument(partOf(picture.bits, areaOf(mode, picture)));
+    });
+}
+
+/// By way of the file, if there is room for it; what was captured is not lost over it.
+void Capture::makeDocument(const Bits& captured)
+{
+    bringBack();
+    const QString path = frame_.platform().programFolder() + "/New.bmp";
+    Bits bits = captured;
+    if (!bits.isNull() && savePicture(frame_.platform(), bits, path, "bmp") == SaveResult::Written) {
+        const LoadedPicture loaded = frame_.platform().loadPicture(path, "bmp");
+        if (loaded.ok()) bits = loaded.bits;
+    }
+    frame_.adopt(bits, path);
+    QFile::remove(path);
+    if (bits.isNull()) return frame_.report(tr("Capture"), {Outcome::Failed, tr("the screen gave no picture")});
+    if (frame_.setup().OpenZoom > 1) frame_.setZoom(frame_.setup().OpenZoom);
+}
+
+void Capture::showDialog()
+{
+    if (!dialog_) {
+        dialog_ = new fCapture(&frame_);
+        connect(dialog_, &fCapture::captureChosen, &frame_, &fMain::Mmenu);
+        connect(dialog_, &fCapture::customChosen, this, &Capture::customChosen);
+        connect(dialog_, &fCapture::customDue, this, &Capture::customDue);
+    }
+    dialog_->open();
+}
+
+void Capture::customChosen(fCapture::Where where)
+{
+    putAside(where != fCapture::Foreground, where == fCapture::Desktop);
+}
+
+void Capture::customDue()
+{
+    grab([this](const ScreenPicture& picture) {
+        if (!picture.bits.isNull()) return picker_->ShowPicture(picture);
+        makeDocument({});
+    });
+}
+
+} // namespace velara

@@ -1,0 +1,56 @@
+// Capture: the screen, or a part of it, as a new document. Puts away what stands in the way, waits half a second, takes
+// the picture, brings everything back, whatever became of it.
+#pragma once
+#include "seams/Screen.h"
+#include "ui/utilities/fCapture.h"
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <memory>
+
+namespace velara {
+
+class fCaptureRectangle;
+class fMain;
+class fWaiting;
+class HiddenWindows;
+
+class Capture final : public QObject {
+    Q_OBJECT
+  public:
+    enum Mode { WholeScreen = 0, FixedArea = 1, Rectangle = 2 }; // any other: the picture's own window
+
+    explicit Capture(fMain& frame);
+    ~Capture() override;
+
+    // --- The command words
+    void desktop();
+    void background();
+    /// At once.
+    void capturePic(int mode);
+
+    /// The dialog, once.
+    void showDialog();
+    /// How long a desktop may take until a small window offers to leave it; milliseconds.
+    void setPatience(int patience) { patience_.setInterval(patience); }
+
+  private:
+    void putAside(bool hides, bool showsDesktop);
+    void bringBack();
+    void grab(const Screen::Done& done);
+    void giveUp();
+    void customChosen(fCapture::Where where);
+    void customDue();
+    QRect areaOf(int mode, const ScreenPicture& picture) const;
+    void makeDocument(const Bits& bits);
+
+    fMain& frame_;
+    QTimer Timer2_, patience_;
+    std::unique_ptr<HiddenWindows> hidden_;
+    bool desktopShown_ = false;
+    QPointer<fCapture> dialog_;
+    QPointer<fWaiting> waiting_;
+    fCaptureRectangle* picker_;
+};
+
+} // namespace velara

@@ -1,0 +1,56 @@
+#include "app/utilities/Clips.h"
+#include "app/frame/fMain.h"
+#include "commands/jobs.h"
+#include "seams/Platform.h"
+#include "tools/Tools.h"
+
+namespace velara {
+
+Clips::Clips(fMain& frame) : frame_(frame), box_(new fPaste(frame, &frame)) {}
+
+void Clips::cut()
+{
+    const DocumentHandle document = frame_.active();
+    frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
+    frame_.platform().yield();
+    const Bits part = document ? box_->CutBits(*document) : Bits();
+    if (part.isNull()) return;
+    frame_.platform().setClipboardPart(part);
+    frame_.report("CUT", frame_.change(document, engineJob([](cBitFilter& filter) { filter.BitsBlack(); })));
+}
+
+void Clips::copy()
+{
+    const DocumentHandle document = frame_.active();
+    frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
+    frame_.platform().yield();
+    const Bits part = document ? box_->CopyBits(*document) : Bits();
+    if (!part.isNull()) frame_.platform().setClipboardPart(part);
+}
+
+void Clips::paste()
+{
+    const QPointer<fImage> image = frame_.GetActiveImage();
+    image->idst_KeyUp(Tools::Ctrl, 0);
+    ToolStores& stores = frame_.toolStores();
+    if (box_->isEmpty()) stores.paste = frame_.platform().clipboardBitmap();
+    if (!image) return; // closed while the clipboard's owner was waited for
+    if (stores.paste.isNull() || !image->PictureExists())
+        return frame_.report("PASTE", {Outcome::Failed, QObject::tr("nothing was cut or copied")});
+    frame_.setup().PasteMode = -1;
+    frame_.setup().CurrentTool.clear();
+    frame_.DisableTools();
+    frame_.Tool_Frame();
+    frame_.releaseHand();
+    image->StopTimer();
+    stores.pastePending = true;
+    image->showPaste();
+}
+
+void Clips::letGo()
+{
+    if (!frame_.toolStores().pastePending) return;
+    if (fImage* image = frame_.GetActiveImage()) image->dropPaste();
+}
+
+} // namespace velara

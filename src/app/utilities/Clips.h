@@ -1,0 +1,31 @@
+// Clips: CUT, COPY and PASTE of selected parts, with the box of the clip history.
+#pragma once
+#include "ui/utilities/fPaste.h"
+#include <QPointer>
+
+namespace velara {
+
+class fMain;
+
+class Clips {
+  public:
+    /// Makes the box, hidden. The frame outlives this.
+    explicit Clips(fMain& frame);
+
+    /// All with an active document.
+    void cut();
+    void copy();
+    /// What was cut or copied last, or chosen in the box, hangs on the pointer from now on. With nothing in the history
+    /// it is the bitmap of the desktop's clipboard.
+    void paste();
+    /// The tools' paste is let go of: a tool was chosen in its place.
+    void letGo();
+
+    fPaste* box() const { return box_; }
+
+  private:
+    fMain& frame_;
+    QPointer<fPaste> box_;
+};
+
+} // namespace velara

@@ -1,0 +1,55 @@
+#include "app/utilities/desktop.h"
+#include "app/frame/fMain.h"
+#include "seams/Platform.h"
+#include "ui/utilities/fAcquire.h"
+#include "ui/utilities/fSource.h"
+#include <QFile>
+#include <QPointer>
+
+namespace velara {
+
+namespace {
+
+const QString kTitle = QStringLiteral("Velara Studio");
+
+} // namespace
+
+void setAsWallpaper(fMain& frame, WallpaperMode mode)
+{
+    Platform& platform = frame.platform();
+    const QString path = platform.wallpaper().folder() + "/ClearPane_Wallpaper.bmp";
+    const QPointer<fImage> image = frame.GetActiveImage();
+    if (!image->PictureExists() || !image->Save(path, "bmp")) return; // a failed save has had its message
+    platform.wallpaper().set(path, mode, [&platform](WallpaperResult result) {
+        if (result == WallpaperResult::CantRead)
+            platform.message(kTitle, "Error getting subkey value.", Icon::Exclamation);
+        if (result == WallpaperResult::CantWrite)
+            platform.message(kTitle, "Error Setting subkey value.", Icon::Exclamation);
+    });
+}
+
+void selectSource(fMain& frame)
+{
+    auto* dialog = new fSource(frame.platform(), rememberedSource(frame.platform()).device, &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &fSource::chosen, &frame,
+                     [&frame](const ScanSource& source) { rememberSource(frame.platform(), source); });
+    dialog->open();
+}
+
+void acquire(fMain& frame)
+{
+    const QString path = frame.platform().programFolder() + "/temp.bmp";
+    auto* dialog = new fAcquire(frame.platform(), path, &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &fAcquire::acquired, &frame, [&frame, path] {
+        frame.platform().yield();
+        const LoadedPicture loaded = frame.platform().loadPicture(path, "bmp");
+        QFile::remove(path);
+        if (!loaded.ok()) return showScannerFailure(frame.platform());
+        frame.adopt(loaded.bits, "Scan.bmp");
+    });
+    dialog->open();
+}
+
+} // namespace velara

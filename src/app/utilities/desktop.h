@@ -1,0 +1,16 @@
+// The words that speak with the desktop and the scanner.
+#pragma once
+#include "seams/Wallpaper.h"
+
+namespace velara {
+
+class fMain;
+
+/// The active picture becomes the wallpaper.
+void setAsWallpaper(fMain& frame, WallpaperMode mode);
+/// The choice of the scanner for the scans to come.
+void selectSource(fMain& frame);
+/// One picture from the scanner as a new document.
+void acquire(fMain& frame);
+
+} // namespace velara

@@ -1,0 +1,37 @@
+// The services of the desktop where there is none: nothing to be seen, nothing to be changed, no device.
+#pragma once
+#include "seams/Scanner.h"
+#include "seams/Screen.h"
+#include "seams/Wallpaper.h"
+
+namespace velara {
+
+class NoScreen final : public Screen {
+  public:
+    void grab(Done done) override { done({}); }
+    void cancel() override {}
+    bool showDesktop(bool) override { return false; }
+};
+
+class NoWallpaper final : public Wallpaper {
+  public:
+    QString folder() override { return {}; }
+    void set(const QString&, WallpaperMode, Done done) override { done(WallpaperResult::CantWrite); }
+};
+
+class NoScanner final : public Scanner {
+  public:
+    void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override { done({}, "no scanner"); }
+    void describe(const QString&, std::function<void(const ScanRange&, const QString&)> done) override
+    {
+        done({}, "no scanner");
+    }
+    void acquire(const ScanJob&, const QString&, std::function<void(int)>,
+                 std::function<void(const QString&)> done) override
+    {
+        done("no scanner");
+    }
+    void cancel() override {}
+};
+
+} // namespace velara

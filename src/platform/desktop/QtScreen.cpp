@@ -1,0 +1,118 @@
+#include "platform/desktop/QtScreen.h"
+#include "pixels/numbers.h"
+#include "platform/desktop/PortalRequest.h"
+#include "platform/desktop/x11.h"
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QUrl>
+#include <cstring>
+#include <utility>
+
+namespace velara {
+
+namespace {
+
+constexpr int kSettle = 120; // ms: a menu has gone and what was below it is painted
+
+/// Every screen by itself, at its place: positions are device pixels on X whatever the scale, sizes are not.
+ScreenPicture grabByQt()
+{
+    ScreenPicture picture;
+    QList<QImage> images;
+    QRect all;
+    for (QScreen* screen : QGuiApplication::screens()) {
+        images << screen->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+        const QRect device(screen->geometry().topLeft(), images.last().size());
+        picture.parts.push_back({screen->geometry(), device});
+        all |= device;
+    }
+    if (!Bits::sizeAllowed(all.width(), all.height())) return {};
+    picture.bits = Bits(all.width(), all.height());
+    for (int i = 0; i < images.size(); ++i) {
+        QRect& place = picture.parts[std::size_t(i)].device;
+        place.translate(-all.topLeft());
+        for (int y = 0; y < place.height(); ++y)
+            std::memcpy(picture.bits.row(place.top() + y) + place.left(), images[i].constScanLine(y),
+                        std::size_t(place.width()) * sizeof(Pixel));
+    }
+    return picture;
+}
+
+/// Where the portal's picture lies on this machine; empty for any other address.
+QString localFile(const QVariantMap& results) { return QUrl(results.value("uri").toString()).toLocalFile(); }
+
+} // namespace
+
+ScreenPicture wholeDesktop(const Bits& bits, const QList<QRect>& screens)
+{
+    QRect all;
+    for (const QRect& screen : screens) all |= screen;
+    if (bits.isNull() || all.isEmpty()) return {bits, {}};
+    const double across = double(bits.width()) / all.width(), down = double(bits.height()) / all.height();
+    ScreenPicture picture{bits, {}};
+    for (const QRect& screen : screens) {
+        const QRect at = screen.translated(-all.topLeft());
+        const int left = roundEven(at.left() * across), top = roundEven(at.top() * down);
+        const int right = roundEven((at.left() + at.width()) * across);
+        const int bottom = roundEven((at.top() + at.height()) * down);
+        picture.parts.push_back({screen, QRect(left, top, right - left, bottom - top)});
+    }
+    return picture;
+}
+
+QtScreen::QtScreen(Platform& platform, std::optional<QDBusConnection> bus) : platform_(platform), bus_(std::move(bus))
+{
+    settle_.setSingleShot(true);
+    settle_.setInterval(kSettle);
+    connect(&settle_, &QTimer::timeout, this, [this] {
+        if (bus_ || QGuiApplication::platformName().startsWith("wayland"))
+            grabByPortal();
+        else
+            answer(grabByQt());
+    });
+}
+
+QtScreen::~QtScreen() { cancel(); }
+
+void QtScreen::grab(Done done)
+{
+    cancel();
+    done_ = std::move(done);
+    settle_.start();
+}
+
+void QtScreen::cancel()
+{
+    done_ = nullptr;
+    settle_.stop();
+    delete request_;
+}
+
+void QtScreen::answer(const ScreenPicture& picture)
+{
+    if (const Done done = std::exchange(done_, nullptr)) done(picture);
+}
+
+void QtScreen::grabByPortal()
+{
+    const auto received = [this](PortalRequest::Code code, const QVariantMap& results) {
+        request_->deleteLater();
+        request_ = nullptr;
+        const QString file = localFile(results);
+        if (code != PortalRequest::Granted || file.isEmpty()) return answer({});
+        const LoadedPicture loaded = platform_.loadPicture(file, QFileInfo(file).suffix().toLower());
+        QFile::remove(file); // the desktop made it for us, among the user's own pictures
+        QList<QRect> screens;
+        for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();
+        answer(wholeDesktop(loaded.bits, screens));
+    };
+    request_ = new PortalRequest(bus_.value_or(QDBusConnection::sessionBus()), "Screenshot", "Screenshot", {QString()},
+                                 {{"interactive", false}}, received, this);
+}
+
+bool QtScreen::showDesktop(bool on) { return x11ShowDesktop(on); }
+
+} // namespace velara

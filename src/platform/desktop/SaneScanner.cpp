@@ -1,0 +1,120 @@
+#include "platform/desktop/SaneScanner.h"
+#include <QProcess>
+#include <QTimer>
+#include <cmath>
+#include <memory>
+
+namespace velara {
+
+namespace {
+
+constexpr int kGrace = 3000; // ms for a scan to end in good order
+
+void describeLine(ScanRange& range, const QStringList& words)
+{
+    const QString& key = words.front();
+    const auto number = [&words](int i) { return words.value(i).toDouble(); };
+    if (key == "modes") range.modes = words.mid(1);
+    if (key == "mode") range.mode = words.value(1);
+    if (key == "resolution") range.resolution = int(std::lround(number(1)));
+    if (key == "bed") range.bed = {number(1), number(2)};
+    if (key != "resolutions" && key != "range") return;
+    range.anyBetween = key == "range";
+    range.resolutions.clear();
+    for (int i = 1; i < words.size(); ++i) range.resolutions << int(std::lround(number(i)));
+    std::sort(range.resolutions.begin(), range.resolutions.end());
+}
+
+} // namespace
+
+SaneScanner::SaneScanner(const QString& helper) : helper_(helper) {}
+
+SaneScanner::~SaneScanner()
+{
+    if (child_) child_->disconnect();
+    delete child_; // which kills it
+}
+
+void SaneScanner::start(const QStringList& arguments, const Line& line, std::function<void(const QString&)> done)
+{
+    cancel();
+    auto* child = new QProcess(this);
+    child_ = child;
+    const auto reason = std::make_shared<QString>();
+    const auto readLines = [child, line, reason] {
+        while (child->canReadLine()) {
+            const QStringList words = QString::fromUtf8(child->readLine()).chopped(1).split('\t');
+            if (words.front() == "failed")
+                *reason = words.value(1);
+            else
+                line(words);
+        }
+    };
+    const auto finish = [this, child, done, reason] {
+        child->disconnect();
+        child->deleteLater();
+        child_ = nullptr;
+        done(*reason);
+    };
+    connect(child, &QProcess::readyReadStandardOutput, this, readLines);
+    connect(child, &QProcess::errorOccurred, this, [reason, finish](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart) return;
+        *reason = tr("The program velara-scan is missing.");
+        finish();
+    });
+    connect(child, &QProcess::finished, this, [readLines, reason, finish](int code, QProcess::ExitStatus status) {
+        readLines();
+        if (reason->isEmpty() && (status != QProcess::NormalExit || code != 0))
+            *reason = tr("The scanner's driver has failed.");
+        finish();
+    });
+    child->setProcessChannelMode(QProcess::SeparateChannels);
+    child->setStandardErrorFile(QProcess::nullDevice()); // drivers chat
+    child->start(helper_, arguments, QIODevice::ReadOnly);
+}
+
+void SaneScanner::cancel()
+{
+    QProcess* const child = child_;
+    if (!child) return;
+    child_ = nullptr;
+    child->disconnect();
+    connect(child, &QProcess::finished, child, &QObject::deleteLater);
+    child->terminate();
+    QTimer::singleShot(kGrace, child, &QProcess::kill);
+}
+
+void SaneScanner::list(std::function<void(const QList<ScanSource>&, const QString&)> done)
+{
+    const auto sources = std::make_shared<QList<ScanSource>>();
+    start(
+        {"list"},
+        [sources](const QStringList& words) {
+            if (words.front() == "source") *sources << ScanSource{words.value(1), words.value(2)};
+        },
+        [sources, done](const QString& reason) { done(*sources, reason); });
+}
+
+void SaneScanner::describe(const QString& device, std::function<void(const ScanRange&, const QString&)> done)
+{
+    const auto range = std::make_shared<ScanRange>();
+    start(
+        {"describe", device}, [range](const QStringList& words) { describeLine(*range, words); },
+        [range, done](const QString& reason) { done(*range, reason); });
+}
+
+void SaneScanner::acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
+                          std::function<void(const QString&)> done)
+{
+    QStringList arguments{"acquire", job.device, job.mode, QString::number(job.resolution)};
+    for (const double edge : {job.area.left(), job.area.top(), job.area.right(), job.area.bottom()})
+        arguments << QString::number(edge);
+    start(
+        arguments << path,
+        [progress](const QStringList& words) {
+            if (words.front() == "percent") progress(words.value(1).toInt());
+        },
+        std::move(done));
+}
+
+} // namespace velara

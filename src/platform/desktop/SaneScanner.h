@@ -1,0 +1,34 @@
+// SaneScanner: scanners through velara-scan, one child a question, so that no driver can hold up the editor.
+#pragma once
+#include "seams/Scanner.h"
+#include <QObject>
+#include <QPointer>
+
+class QProcess;
+
+namespace velara {
+
+class SaneScanner final : public QObject, public Scanner {
+    Q_OBJECT
+  public:
+    /// helper: the path of velara-scan.
+    explicit SaneScanner(const QString& helper);
+    ~SaneScanner() override;
+
+    void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override;
+    void describe(const QString& device, std::function<void(const ScanRange&, const QString&)> done) override;
+    void acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
+                 std::function<void(const QString&)> done) override;
+    /// The child is told to end its scan in good order, and killed when it does not.
+    void cancel() override;
+
+  private:
+    using Line = std::function<void(const QStringList& words)>;
+    /// Starts the helper; every line of it goes to line, its end to done.
+    void start(const QStringList& arguments, const Line& line, std::function<void(const QString& reason)> done);
+
+    QString helper_;
+    QPointer<QProcess> child_;
+};
+
+} // namespace velara

@@ -1,0 +1,127 @@
+#include "platform/desktop/x11.h"
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace velara {
+
+namespace {
+
+template <class Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+/// The connection of the program's windows; null elsewhere than on X.
+xcb_connection_t* ours()
+{
+    const auto* x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return x11 ? x11->connection() : nullptr;
+}
+
+const xcb_screen_t* screenOf(xcb_connection_t* x) { return xcb_setup_roots_iterator(xcb_get_setup(x)).data; }
+
+xcb_atom_t atom(xcb_connection_t* x, const char* name)
+{
+    const auto cookie = xcb_intern_atom(x, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(x, cookie, nullptr), &std::free);
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+/// The 32-bit values of a property of the root window.
+std::vector<std::uint32_t> rootProperty(xcb_connection_t* x, xcb_atom_t property)
+{
+    constexpr std::uint32_t kMostValues = 1024;
+    const auto cookie = xcb_get_property(x, 0, screenOf(x)->root, property, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostValues);
+    const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(x, cookie, nullptr), &std::free);
+    if (!reply || reply->format != 32) return {};
+    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+}
+
+/// The pixels in pieces that fit a request each.
+void putRows(xcb_connection_t* x, xcb_pixmap_t pixmap, const QImage& picture, std::uint8_t depth)
+{
+    const xcb_gcontext_t gc = xcb_generate_id(x);
+    xcb_create_gc(x, gc, pixmap, 0, nullptr);
+    const qsizetype bytesARow = picture.bytesPerLine();
+    const qsizetype room = qsizetype(xcb_get_maximum_request_length(x)) * 4 - 64;
+    const int rows = int(std::max<qsizetype>(1, room / bytesARow));
+    for (int y = 0; y < picture.height(); y += rows) {
+        const int count = std::min(rows, picture.height() - y);
+        xcb_put_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, gc, static_cast<std::uint16_t>(picture.width()),
+                      static_cast<std::uint16_t>(count), 0, static_cast<std::int16_t>(y), 0, depth,
+                      static_cast<std::uint32_t>(bytesARow * count), picture.constScanLine(y));
+    }
+    xcb_free_gc(x, gc);
+}
+
+/// Four bytes a pixel in this machine's order: what QImage holds.
+bool takesOurPixels(xcb_connection_t* x)
+{
+    const xcb_setup_t* setup = xcb_get_setup(x);
+    const bool little = Q_BYTE_ORDER == Q_LITTLE_ENDIAN;
+    if (setup->image_byte_order != (little ? XCB_IMAGE_ORDER_LSB_FIRST : XCB_IMAGE_ORDER_MSB_FIRST)) return false;
+    for (auto format = xcb_setup_pixmap_formats_iterator(setup); format.rem; xcb_format_next(&format))
+        if (format.data->depth == screenOf(x)->root_depth && format.data->bits_per_pixel == 32) return true;
+    return false;
+}
+
+} // namespace
+
+bool x11ShowDesktop(bool on)
+{
+    xcb_connection_t* x = ours();
+    if (!x) return false;
+    const xcb_atom_t showing = atom(x, "_NET_SHOWING_DESKTOP");
+    const auto supported = rootProperty(x, atom(x, "_NET_SUPPORTED"));
+    if (std::ranges::find(supported, showing) == supported.end()) return false;
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = screenOf(x)->root;
+    event.type = showing;
+    event.data.data32[0] = on;
+    xcb_send_event(x, 0, event.window, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+    xcb_flush(x);
+    return true;
+}
+
+QSize x11RootSize()
+{
+    xcb_connection_t* x = ours();
+    if (!x) return {};
+    const auto cookie = xcb_get_geometry(x, screenOf(x)->root); // the screens may have changed since the connection
+    const Owned<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(x, cookie, nullptr), &std::free);
+    return reply ? QSize(reply->width, reply->height) : QSize();
+}
+
+bool x11SetRootPicture(const QImage& picture)
+{
+    if (!ours()) return false;
+    // A connection of its own, whose pixmap outlives it; whoever sets the next picture frees it by its number.
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> own(xcb_connect(nullptr, nullptr),
+                                                                           &xcb_disconnect);
+    xcb_connection_t* x = own.get();
+    if (xcb_connection_has_error(x) || !takesOurPixels(x)) return false;
+    const xcb_screen_t* screen = screenOf(x);
+    const QImage rows = picture.convertToFormat(QImage::Format_RGB32);
+    const xcb_pixmap_t pixmap = xcb_generate_id(x);
+    xcb_create_pixmap(x, screen->root_depth, pixmap, screen->root, static_cast<std::uint16_t>(rows.width()),
+                      static_cast<std::uint16_t>(rows.height()));
+    putRows(x, pixmap, rows, screen->root_depth);
+
+    const xcb_atom_t shown = atom(x, "_XROOTPMAP_ID"), owned = atom(x, "ESETROOT_PMAP_ID");
+    for (const std::uint32_t former : rootProperty(x, owned)) xcb_kill_client(x, former);
+    for (const xcb_atom_t property : {shown, owned})
+        xcb_change_property(x, XCB_PROP_MODE_REPLACE, screen->root, property, XCB_ATOM_PIXMAP, 32, 1, &pixmap);
+    xcb_change_window_attributes(x, screen->root, XCB_CW_BACK_PIXMAP, &pixmap);
+    xcb_clear_area(x, 0, screen->root, 0, 0, 0, 0);
+    xcb_set_close_down_mode(x, XCB_CLOSE_DOWN_RETAIN_PERMANENT);
+    const auto cookie = xcb_get_input_focus(x); // its answer comes when all of it is done
+    const Owned<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(x, cookie, nullptr), &std::free);
+    return reply != nullptr;
+}
+
+} // namespace velara

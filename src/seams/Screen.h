@@ -1,0 +1,33 @@
+// Screen: what is seen on the screens of the desktop, as pixels.
+#pragma once
+#include "pixels/Bits.h"
+#include <QRect>
+#include <functional>
+#include <vector>
+
+namespace velara {
+
+/// All screens of the desktop in one picture, in device pixels; black where there is no screen.
+struct ScreenPicture {
+    struct Part {
+        QRect logical; // a screen's place on the desktop, as windows and the pointer are placed
+        QRect device;  // the same in bits
+    };
+    Bits bits; // null: there is nothing to be had
+    std::vector<Part> parts;
+};
+
+class Screen {
+  public:
+    using Done = std::function<void(const ScreenPicture&)>;
+
+    virtual ~Screen() = default;
+    /// Takes the picture of all screens. done is called once: before this returns, or much later, as a desktop may ask
+    /// its user first; not after cancel(). One at a time: a new grab cancels the one before.
+    virtual void grab(Done done) = 0;
+    virtual void cancel() = 0;
+    /// Puts all windows of the desktop aside, or brings them back. False: this desktop can't.
+    virtual bool showDesktop(bool on) = 0;
+};
+
+} // namespace velara

@@ -1,0 +1,34 @@
+// ClipHistory: the selected parts that were cut and copied in this run, oldest first.
+#pragma once
+#include "pixels/Bits.h"
+#include <vector>
+
+namespace velara {
+
+class Document;
+
+/// A part's pixels in the box of its selection; a fourth byte of 255 marks what was not selected.
+struct Clip {
+    int number = 0; // counts all clips of the run, from 1
+    Bits bits;
+};
+
+class ClipHistory {
+  public:
+    static constexpr int kSlots = 10; // on display
+    static constexpr int kLimit = 9;  // one more clip and the oldest goes: odd beside ten slots, and it stays
+
+    void add(const Bits& bits);
+    const std::vector<Clip>& clips() const { return clips_; }
+    /// Null when there is no such clip.
+    const Clip* at(int slot) const;
+
+  private:
+    std::vector<Clip> clips_;
+    int count_ = 0;
+};
+
+/// The selected part of the picture as a clip holds it. Null when it is less than 2 by 2 or nothing is selected.
+Bits selectedPart(const Document& document);
+
+} // namespace velara

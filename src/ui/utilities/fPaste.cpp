@@ -1,0 +1,210 @@
+#include "ui/utilities/fPaste.h"
+#include "document/Document.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
+#include "ui/widgets/fPicture.h"
+#include <QBoxLayout>
+#include <QEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSlider>
+
+namespace velara {
+
+namespace {
+
+constexpr QSize kThumbnail{39, 31};
+constexpr int kSlotsInView = 5;
+
+QString sizeText(const Bits& bits) { return QString("%1 x %2").arg(bits.width()).arg(bits.height()); }
+
+/// What was not selected in the colour of the ground: in the clip it is black.
+Bits overGround(const Bits& clip, const QColor& ground)
+{
+    const Pixel colour = {{std::uint8_t(ground.blue()), std::uint8_t(ground.green()), std::uint8_t(ground.red()), 0}};
+    Bits shown = clip;
+    for (int y = 0; y < shown.height(); ++y) {
+        Pixel* row = shown.row(y);
+        for (int x = 0; x < shown.width(); ++x)
+            if (row[x].c[3] == 255) row[x] = colour;
+    }
+    return shown;
+}
+
+} // namespace
+
+fPaste::fPaste(Frame& frame, QWidget* parent) : QWidget(parent, Qt::Tool), frame_(frame)
+{
+    setObjectName("fPaste");
+    setWindowTitle(tr("Clip History"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->addWidget(makeSlots());
+    lstImages_ = new QListWidget;
+    lstImages_->setObjectName("lstImages");
+    lstImages_->setAccessibleName(tr("Clips, oldest first"));
+    lstImages_->setToolTip(tr("Enter pastes the clip"));
+    lstImages_->setFixedHeight(4 * lstImages_->fontMetrics().lineSpacing() + 12);
+    column->addWidget(lstImages_);
+    column->addWidget(makeOpacity());
+    connect(lstImages_, &QListWidget::itemActivated, this, [this] { paste(lstImages_->currentRow()); });
+    connect(lstImages_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0) area_->ensureWidgetVisible(slots_[std::size_t(row)].pc, 0, 0);
+    });
+    showClips();
+    adjustSize();
+    setFixedSize(size());
+}
+
+QWidget* fPaste::makeSlots()
+{
+    auto* inside = new QWidget;
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    for (int i = 0; i < ClipHistory::kSlots; ++i) {
+        slots_[std::size_t(i)] = makeSlot(i);
+        column->addWidget(slots_[std::size_t(i)].pc);
+    }
+    area_ = new QScrollArea;
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setWidget(inside);
+    area_->setWidgetResizable(true);
+    area_->setFocusPolicy(Qt::NoFocus);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    area_->verticalScrollBar()->setObjectName("V");
+    area_->verticalScrollBar()->setAccessibleName(tr("Scroll the clips"));
+    const int slot = slots_[0].pc->sizeHint().height() + column->spacing();
+    area_->verticalScrollBar()->setSingleStep(slot);
+    area_->setFixedHeight(kSlotsInView * slot - column->spacing());
+    area_->setMinimumWidth(inside->sizeHint().width() + area_->verticalScrollBar()->sizeHint().width());
+    return area_;
+}
+
+fPaste::Slot fPaste::makeSlot(int index)
+{
+    const QString number = "_" + QString::number(index);
+    auto* panel = new QFrame;
+    panel->setObjectName("pc" + number);
+    panel->setFrameShape(QFrame::StyledPanel);
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(3, 3, 3, 3);
+    auto* picture = new fPicture("pT" + number, tr("Picture of the clip"), kThumbnail);
+    auto* button = new QPushButton;
+    button->setObjectName("BT" + number);
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance("    Clip 0000  "));
+    auto* size = new QLabel;
+    size->setObjectName("lblSize" + number);
+    size->setMinimumWidth(size->fontMetrics().horizontalAdvance("00000 x 00000"));
+    row->addWidget(picture);
+    row->addWidget(button, 1);
+    row->addWidget(size);
+    connect(button, &QPushButton::clicked, this, [this, index] { paste(index); });
+    return {panel, picture, button, size};
+}
+
+QWidget* fPaste::makeOpacity()
+{
+    auto* panel = new QWidget;
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* caption = new QLabel(tr("Opaque &Intensity"));
+    auto* value = new QLabel;
+    value->setObjectName("lblBrSelectionMovePressure");
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setFixedWidth(value->fontMetrics().horizontalAdvance("100"));
+    auto* slider = BrSelectionMovePressure_ = new QSlider(Qt::Horizontal);
+    slider->setObjectName("BrSelectionMovePressure");
+    slider->setAccessibleName(tr("Opaque Intensity"));
+    slider->setRange(0, 100);
+    caption->setBuddy(slider);
+    row->addWidget(caption);
+    row->addWidget(slider, 1);
+    row->addWidget(value);
+    connect(slider, &QSlider::valueChanged, this, [this, value](int opacity) {
+        frame_.setup().ClipOpacity = static_cast<std::int16_t>(opacity);
+        value->setNum(opacity);
+    });
+    value->setNum(slider->value());
+    slider->setValue(frame_.setup().ClipOpacity);
+    return panel;
+}
+
+Bits fPaste::take(const Document& document, const char* tooSmall)
+{
+    frame_.setup().PasteMode = -1;
+    const Bits part = selectedPart(document);
+    if (part.isNull()) {
+        frame_.platform().message("Velara Studio", tooSmall, Icon::Information);
+        return {};
+    }
+    frame_.toolStores().paste = part;
+    history_.add(part);
+    showClips();
+    Update_V();
+    return part;
+}
+
+/// Drawn once; only the clips that are left keep theirs.
+Bits fPaste::thumbnail(const Clip& clip)
+{
+    std::erase_if(thumbnails_, [this](const auto& entry) { return entry.first < history_.at(0)->number; });
+    Bits& drawn = thumbnails_[clip.number];
+    if (drawn.isNull()) drawn = fittingCopy(overGround(clip.bits, palette().color(QPalette::Mid)), kThumbnail);
+    return drawn;
+}
+
+void fPaste::showClips()
+{
+    lstImages_->clear();
+    for (int i = 0; i < ClipHistory::kSlots; ++i) {
+        const Slot& slot = slots_[std::size_t(i)];
+        const Clip* clip = history_.at(i);
+        const QString caption = QString("Clip %1").arg(clip ? clip->number : i + 1);
+        slot.BT->setText("    " + caption);
+        slot.BT->setEnabled(clip);
+        slot.size->setText(clip ? sizeText(clip->bits) : QString());
+        slot.BT->setToolTip(clip ? "Clip History: \n" + sizeText(clip->bits) : QString());
+        slot.BT->setAccessibleDescription(slot.size->text());
+        slot.pT->setBits(clip ? thumbnail(*clip) : Bits());
+        if (clip) lstImages_->addItem(caption);
+    }
+}
+
+void fPaste::Update_V()
+{
+    const int newest = lstImages_->count() - 1;
+    if (newest < 0) return;
+    area_->widget()->layout()->activate();
+    lstImages_->setCurrentRow(newest);
+    area_->ensureWidgetVisible(slots_[std::size_t(newest)].pc, 0, 0);
+}
+
+void fPaste::paste(int slot)
+{
+    const Clip* clip = history_.at(slot);
+    if (!clip || clip->bits.isNull()) return;
+    frame_.toolStores().paste = clip->bits;
+    frame_.Mmenu("PASTE");
+}
+
+void fPaste::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || !lstImages_) return;
+    thumbnails_.clear();
+    showClips();
+}
+
+void fPaste::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    BrSelectionMovePressure_->setValue(frame_.setup().ClipOpacity); // the options may have changed it
+}
+
+} // namespace velara

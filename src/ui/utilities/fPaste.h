@@ -1,0 +1,63 @@
+// fPaste: the clip history, a floating box. Shows the parts that were cut and copied; a click on one pastes it.
+#pragma once
+#include "tools/ClipHistory.h"
+#include <QWidget>
+#include <array>
+#include <map>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QScrollArea;
+class QScrollBar;
+class QSlider;
+
+namespace velara {
+
+class Document;
+class fPicture;
+class Frame;
+
+class fPaste final : public QWidget {
+    Q_OBJECT
+  public:
+    fPaste(Frame& frame, QWidget* parent);
+
+    /// Puts the selected part of the document into the list, makes it what the next paste lays down, and gives it. Null
+    /// after a message when the selection is too small. The caller clears what is cut.
+    Bits CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
+    Bits CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
+    /// The scroll control follows the list: the newest clip is in view.
+    void Update_V();
+    bool isEmpty() const { return history_.clips().empty(); }
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    struct Slot {
+        QWidget* pc;
+        fPicture* pT;
+        QPushButton* BT;
+        QLabel* size;
+    };
+
+    Bits take(const Document& document, const char* tooSmall);
+    QWidget* makeSlots();
+    QWidget* makeOpacity();
+    Slot makeSlot(int index);
+    Bits thumbnail(const Clip& clip);
+    void showClips();
+    void paste(int slot);
+
+    Frame& frame_;
+    ClipHistory history_;
+    QScrollArea* area_;
+    std::array<Slot, ClipHistory::kSlots> slots_;
+    std::map<int, Bits> thumbnails_; // by the number of the clip
+    QListWidget* lstImages_ = nullptr;
+    QSlider* BrSelectionMovePressure_;
+};
+
+} // namespace velara

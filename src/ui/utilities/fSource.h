@@ -1,0 +1,47 @@
+// fSource: the choice of a scanner. Looks for those that there are, which may take long and can be left at any time.
+#pragma once
+#include "seams/Scanner.h"
+#include <QDialog>
+
+class QLabel;
+class QListWidget;
+class QProgressBar;
+class QPushButton;
+
+namespace velara {
+
+class Platform;
+
+class fSource final : public QDialog {
+    Q_OBJECT
+  public:
+    /// present: the device chosen before; it is the one marked when it is still there.
+    fSource(Platform& platform, const QString& present, QWidget* parent);
+    ~fSource() override;
+
+  signals:
+    void chosen(const ScanSource& source);
+
+  private:
+    void look();
+    void found(const QList<ScanSource>& sources);
+    void choose();
+
+    Platform& platform_;
+    QString present_;
+    QList<ScanSource> sources_;
+    QLabel* state_;
+    QListWidget* lstSources_;
+    QProgressBar* busy_;
+    QPushButton *cmdSelect_, *cmdRefresh_;
+    bool looking_ = false;
+};
+
+/// The source of the last time; an empty device: none yet.
+ScanSource rememberedSource(Platform& platform);
+void rememberSource(Platform& platform, const ScanSource& source);
+
+/// The message when a scanner can't do what it was asked for.
+void showScannerFailure(Platform& platform);
+
+} // namespace velara

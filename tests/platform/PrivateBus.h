@@ -1,0 +1,61 @@
+// A message bus of the test's own, with the services that it puts there.
+#pragma once
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+/// Handles events until it is so; false after a while.
+inline bool waitUntil(const std::function<bool()>& so, int patience = 20000)
+{
+    QElapsedTimer timer;
+    for (timer.start(); !so(); QCoreApplication::processEvents(QEventLoop::AllEvents, 20))
+        if (timer.elapsed() > patience) return false;
+    return true;
+}
+
+class PrivateBus {
+  public:
+    PrivateBus()
+    {
+        daemon_.start("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address"});
+        daemon_.waitForReadyRead();
+        address_ = QString::fromUtf8(daemon_.readLine()).trimmed();
+    }
+    ~PrivateBus()
+    {
+        QDBusConnection::disconnectFromBus(address_);
+        for (QProcess* process : {&service_, &daemon_}) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
+    QDBusConnection connection() { return QDBusConnection::connectToBus(address_, address_); }
+
+    /// The mock service of a template beside this file; true when it is there.
+    bool serve(const QString& name, const QString& script, const QJsonObject& parameters)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", address_);
+        service_.setProcessEnvironment(environment);
+        service_.setStandardOutputFile(QProcess::nullDevice());
+        service_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        service_.start("/usr/bin/python3",
+                       {"-m", "dbusmock", "--template", QString(VELARA_TESTS "/platform/") + script, "--parameters",
+                        QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact))});
+        return waitUntil([&] { return connection().interface()->isServiceRegistered(name).value(); });
+    }
+
+  private:
+    QProcess daemon_, service_;
+    QString address_;
+};
+
+} // namespace velara

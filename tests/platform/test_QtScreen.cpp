@@ -1,0 +1,91 @@
+// The screens by way of the portal, which a mock plays on a bus of the test's own.
+#include "PrivateBus.h"
+#include "platform/desktop/QtScreen.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include <QFile>
+#include <QImage>
+#include <QUrl>
+
+namespace velara {
+
+namespace {
+
+struct Portal {
+    QTemporaryDir folder;
+    PrivateBus bus;
+    QString shot = folder.filePath("shot.png"), log = folder.filePath("log");
+
+    bool start(int answer)
+    {
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(qRgb(1, 2, 3));
+        picture.setPixel(7, 5, qRgb(200, 100, 50));
+        EXPECT_TRUE(picture.save(shot));
+        return bus.serve("org.freedesktop.portal.Desktop", "portal.py",
+                         {{"answer", answer}, {"uri", QUrl::fromLocalFile(shot).toString()}, {"log", log}});
+    }
+    QByteArray calls() const
+    {
+        QFile file(log);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+} // namespace
+
+TEST(QtScreen, ThePortalsPictureComesAndItsFileGoes)
+{
+    Portal portal;
+    ASSERT_TRUE(portal.start(0));
+    RecordingPlatform platform;
+    QtScreen screen(platform, portal.bus.connection());
+    std::optional<ScreenPicture> got;
+    screen.grab([&](const ScreenPicture& picture) { got = picture; });
+    EXPECT_FALSE(got) << "nothing may wait for the portal";
+    ASSERT_TRUE(waitUntil([&] { return got.has_value(); }));
+    ASSERT_EQ(got->bits.width(), 40);
+    EXPECT_EQ(got->bits.at(7, 5).c[2], 200);
+    ASSERT_EQ(got->parts.size(), 1u); // the one screen is all of the picture
+    EXPECT_EQ(got->parts[0].device, QRect(0, 0, 40, 30));
+    EXPECT_FALSE(QFile::exists(portal.shot));
+}
+
+TEST(QtScreen, ARefusalAndAMissingPortalGiveNoPicture)
+{
+    RecordingPlatform platform;
+    for (const bool there : {true, false}) {
+        Portal portal;
+        ASSERT_TRUE(!there || portal.start(1));
+        QtScreen screen(platform, portal.bus.connection());
+        std::optional<ScreenPicture> got;
+        screen.grab([&](const ScreenPicture& picture) { got = picture; });
+        ASSERT_TRUE(waitUntil([&] { return got.has_value(); }));
+        EXPECT_TRUE(got->bits.isNull());
+    }
+}
+
+TEST(QtScreen, APortalThatNeverAnswersIsTakenBackItsQuestion)
+{
+    Portal portal;
+    ASSERT_TRUE(portal.start(-1));
+    RecordingPlatform platform;
+    QtScreen screen(platform, portal.bus.connection());
+    bool answered = false;
+    screen.grab([&](const ScreenPicture&) { answered = true; });
+    ASSERT_TRUE(waitUntil([&] { return portal.calls() == "Screenshot\n"; }));
+    screen.cancel();
+    EXPECT_TRUE(waitUntil([&] { return portal.calls() == "Screenshot\nClose\n"; }));
+    EXPECT_FALSE(answered);
+}
+
+TEST(QtScreen, ThePlacesOfTheScreensFollowTheScaleOfThePicture)
+{
+    // Two screens of 100 by 80 and 60 by 40, side by side, in a picture of twice the size.
+    const ScreenPicture picture = wholeDesktop(Bits(320, 160), {{-100, 0, 100, 80}, {0, 20, 60, 40}});
+    EXPECT_EQ(picture.parts[0].device, QRect(0, 0, 200, 160));
+    EXPECT_EQ(picture.parts[1].device, QRect(200, 40, 120, 80));
+    EXPECT_TRUE(wholeDesktop({}, {{0, 0, 10, 10}}).bits.isNull());
+}
+
+} // namespace velara

@@ -1,0 +1,90 @@
+// The desktop of tests: writes down what is asked of it and answers with what the test has laid out, at once or when
+// the test says so.
+#pragma once
+#include "seams/Scanner.h"
+#include "seams/Screen.h"
+#include "seams/Wallpaper.h"
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velara {
+
+class RecordingScreen final : public Screen {
+  public:
+    ScreenPicture picture;
+    bool silent = false, canShowDesktop = true; // silent: the answer waits for answer()
+    std::vector<std::string> log;               // "grab", "cancel", "desktop on", "desktop off"
+    std::function<void()> onGrab;
+
+    void grab(Done done) override
+    {
+        log.emplace_back("grab");
+        if (onGrab) onGrab();
+        done_ = std::move(done);
+        if (!silent) answer();
+    }
+    void answer()
+    {
+        if (const Done done = std::exchange(done_, nullptr)) done(picture);
+    }
+    bool waiting() const { return bool(done_); }
+    void cancel() override
+    {
+        if (std::exchange(done_, nullptr)) log.emplace_back("cancel");
+    }
+    bool showDesktop(bool on) override
+    {
+        log.emplace_back(on ? "desktop on" : "desktop off");
+        return canShowDesktop;
+    }
+
+  private:
+    Done done_;
+};
+
+class RecordingWallpaper final : public Wallpaper {
+  public:
+    QString place; // the folder
+    WallpaperResult result = WallpaperResult::Done;
+    std::vector<std::pair<QString, WallpaperMode>> log;
+
+    QString folder() override { return place; }
+    void set(const QString& path, WallpaperMode mode, Done done) override
+    {
+        log.emplace_back(path, mode);
+        done(result);
+    }
+};
+
+class RecordingScanner final : public Scanner {
+  public:
+    QList<ScanSource> sources;
+    ScanRange range;
+    QString reason;      // of the next answer
+    bool silent = false; // no answer ever comes
+    int cancelled = 0;
+    std::vector<ScanJob> jobs;
+    std::function<void(const QString& path)> write; // what a scan leaves
+
+    void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override
+    {
+        if (!silent) done(sources, reason);
+    }
+    void describe(const QString&, std::function<void(const ScanRange&, const QString&)> done) override
+    {
+        if (!silent) done(range, reason);
+    }
+    void acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
+                 std::function<void(const QString&)> done) override
+    {
+        jobs.push_back(job);
+        if (silent) return;
+        progress(50);
+        if (write && reason.isEmpty()) write(path);
+        done(reason);
+    }
+    void cancel() override { ++cancelled; }
+};
+
+} // namespace velara
