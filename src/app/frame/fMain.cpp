@@ -66,7 +66,7 @@ fMain::~fMain()
     closing_ = true;
     cFilter_.Progress = nullptr;
     capture_.reset(); // which brings back what it has put aside
-    delete area_; // the documents speak to the frame to their end
+    delete area_;     // the documents speak to the frame to their end
     for (const QPointer<QWidget>& widget : std::exchange(dead_, {})) delete widget;
 }
 

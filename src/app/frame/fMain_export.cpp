@@ -9,13 +9,8 @@ void fMain::colorDepth()
 {
     const QPointer<fImage> image = GetActiveImage();
     if (!image || !image->PictureExists()) return;
-    const auto ok = [this, image](const Bits& bits) {
-        if (closing_ || !image || image != GetActiveImage() || image->PictureWidth() != bits.width() ||
-            image->PictureHeight() != bits.height())
-            return;
-        image->setBits(bits);
-        handOver(*image);
-        Update(false, true);
+    const auto ok = [this, document = active()](const Bits& bits) {
+        report("IMAGECOLORDEPTH", change(document, [bits](Document& draft, cBitFilter&) { draft.setBits(bits); }));
     };
     const auto save = [this, image](const Bits& bits) {
         if (!closing_ && image) saveForWeb(*image, bits);

@@ -49,7 +49,7 @@ void fMain::imageTextures()
     if (!document || !document->PictureExists()) return;
     Texturing texturing;
     {
-        fTexturize dialog(platform_, document->Bits(), document->document().Region.working(), this);
+        fTexturize dialog(platform_, document->Bits(), document->Region.working(), this);
         if (dialog.exec() != QDialog::Accepted) return;
         texturing = dialog.texturing();
     }

@@ -11,9 +11,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kDelay = 500;                    // ms for windows to go
-constexpr int kPatience = 10000;               // ms; a desktop may be asking its user meanwhile
-constexpr QRect kFixedArea(0, 0, 800, 600);    // whatever the screen's size: odd, and it stays
+constexpr int kDelay = 500;                 // ms for windows to go
+constexpr int kPatience = 10000;            // ms; a desktop may be asking its user meanwhile
+constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, and it stays
 
 } // namespace
 
@@ -97,9 +97,7 @@ void Capture::capturePic(int mode)
 {
     frame_.platform().yield();
     if (mode == Rectangle) return makeDocument(picker_->picRectangle());
-    grab([this, mode](const ScreenPicture& picture) {
-        makeDocument(partOf(picture.bits, areaOf(mode, picture)));
-    });
+    grab([this, mode](const ScreenPicture& picture) { makeDocument(partOf(picture.bits, areaOf(mode, picture))); });
 }
 
 /// By way of the file, if there is room for it; what was captured is not lost over it.

@@ -3,9 +3,9 @@
 #include "fileio/load/PictureLoader.h"
 #include "platform/CorePlatform.h"
 #include "platform/desktop/DesktopWallpaper.h"
+#include "platform/desktop/QtFonts.h"
 #include "platform/desktop/QtScreen.h"
 #include "platform/desktop/SaneScanner.h"
-#include "platform/desktop/QtFonts.h"
 
 namespace velara {
 
