@@ -5,13 +5,13 @@
 W=64 H=48 zoom=4
 convert -size ${W}x$H 'xc:#ff00ff' "BMP3:$scratch/in.bmp"
 
-# A configuration with a frame of known size, no bars and maximized pictures: the strip and the picture lie still.
+# A configuration with a frame of known size, no bars, no boxes and maximized pictures: the strip and the picture lie still.
 start
 quit
 patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
 patch_config 0 '\274\064\004\051'                                     # 900 x 700 pixels in twips
 patch_config 6 '\377\377'                                             # pictures maximized
-patch_config 2324 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0'                      # no bars
+patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0'  # no boxes over the picture, no bars
 start
 open_file "$scratch/in.bmp"
 keys ctrl+plus ctrl+plus ctrl+plus
