@@ -16,9 +16,11 @@ HiddenWindows::~HiddenWindows()
 {
     for (const Hidden& hidden : hidden_) {
         if (!hidden.window) continue;
-        // Else the window manager would look for a new place.
-        if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        // Else the window manager would look for a new place; a move to where it stands would not be passed on.
+        if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
+            hidden.window->move(hidden.place + QPoint(1, 0));
             hidden.window->move(hidden.place);
+        }
         hidden.window->show();
     }
     if (active_) {

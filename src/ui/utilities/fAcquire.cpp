@@ -44,6 +44,9 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     progress_ = new QProgressBar;
     progress_->setObjectName("pbScan");
     progress_->setAccessibleName(tr("Progress of the scan"));
+    QSizePolicy kept = progress_->sizePolicy(); // the window stays as it is when the bar goes
+    kept.setRetainSizeWhenHidden(true);
+    progress_->setSizePolicy(kept);
     column->addWidget(lblState_);
     column->addWidget(progress_);
     auto* buttons = new QHBoxLayout;
@@ -53,6 +56,7 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     cmdScan_->setDefault(true);
     auto* cancel = new QPushButton(tr("Cancel"));
     cancel->setObjectName("cmdCancel");
+    cancel->setAutoDefault(false); // Enter scans, or does nothing yet
     buttons->addWidget(cmdScan_);
     buttons->addWidget(cancel);
     column->addLayout(buttons);
@@ -121,6 +125,8 @@ void fAcquire::setBusy(const QString& what)
     controls_->setEnabled(!busy && !source_.device.isEmpty());
     cmdSource_->setEnabled(!busy);
     cmdScan_->setEnabled(!busy && !source_.device.isEmpty());
+    progress_->setVisible(busy);
+    if (cmdScan_->isEnabled()) cmdScan_->setFocus();
     asking_ = busy;
 }
 

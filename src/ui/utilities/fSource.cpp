@@ -39,6 +39,7 @@ fSource::fSource(Platform& platform, const QString& present, QWidget* parent)
     cmdSelect_ = button("cmdSelect", tr("&Select"));
     auto* cancel = button("cmdCancel", tr("Cancel"));
     cmdSelect_->setDefault(true);
+    for (QPushButton* other : {cmdRefresh_, cancel}) other->setAutoDefault(false);
     column->addWidget(state_);
     column->addWidget(lstSources_);
     column->addWidget(busy_);

@@ -1,0 +1,277 @@
+// Clips, capture, wallpaper and scanner as commands of the frame, on a desktop that writes down what it is asked for.
+#include "app/frame/frameTest.h"
+#include "app/utilities/Capture.h"
+#include "app/utilities/Clips.h"
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QSlider>
+#include <QTest>
+
+namespace velara {
+
+namespace {
+
+struct UtilitiesTest : FrameTest {
+    template <class T> T* control(const char* window, const char* name)
+    {
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top->objectName() == window && top->isVisible()) return top->findChild<T*>(name);
+        return nullptr;
+    }
+    /// A screen of 40 by 30 with a mark at 7, 5.
+    void showScreen()
+    {
+        platform.screen().picture = {flatBits(40, 30, 1, 2, 3),
+                                     {{QGuiApplication::primaryScreen()->geometry(), {0, 0, 40, 30}}}};
+        platform.screen().picture.bits.at(7, 5) = {{9, 9, 9, 0}};
+    }
+    fImage* waitForDocument()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return frame->GetActiveImage() != nullptr; }, 5000));
+        return frame->GetActiveImage();
+    }
+    void select(fImage* image, int left, int top, int right, int bottom)
+    {
+        image->document().Region.CreateRect(left, top, right, bottom, Combine::Or, true);
+    }
+};
+
+} // namespace
+
+TEST_F(UtilitiesTest, TooSmallASelectionIsToldAndNothingEntersTheList)
+{
+    fImage* image = open(flatBits(20, 10, 1, 2, 3));
+    auto* list = frame->clips().box()->findChild<QListWidget*>("lstImages");
+    frame->Mmenu("COPY"); // nothing is selected
+    EXPECT_EQ(last(), "message: Velara Studio: Minimum copy size: 2 x 2");
+    select(image, 3, 2, 4, 9);
+    frame->Mmenu("CUT");
+    EXPECT_EQ(last(), "message: Velara Studio: Minimum cut size: 2 x 2");
+    EXPECT_EQ(platform.lastIcon, Icon::Information);
+    EXPECT_EQ(list->count(), 0);
+    EXPECT_FALSE(image->document().Changed);
+}
+
+TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
+{
+    fImage* image = open(flatBits(20, 10, 1, 2, 3));
+    image->document().Region.CreateEllipse(2, 2, 10, 8, Combine::Or, true);
+    frame->Mmenu("CUT");
+    EXPECT_EQ(image->document().undo.UndoStep(), 2);
+    EXPECT_EQ(image->Bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
+    EXPECT_EQ(image->Bits().at(2, 2).c[0], 1); // the corner of the box is not selected
+    EXPECT_TRUE(platform.logged("clipboard: part"));
+    EXPECT_EQ(platform.clipboard.width(), image->document().Region.Region().bounds().width());
+    EXPECT_EQ(platform.clipboard.at(0, 0).c[3], 255);
+    EXPECT_EQ(platform.clipboard.at(3, 3), (Pixel{{1, 2, 3, 0}}));
+    EXPECT_EQ(setup.PasteMode, -1);
+}
+
+TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)
+{
+    fImage* image = open(randomBits(60, 40, 5));
+    fPaste* box = frame->clips().box();
+    EXPECT_EQ(box->findChild<QPushButton*>("BT_0")->text(), "    Clip 1");
+    for (int i = 0; i < 11; ++i) {
+        image->document().Region.CreateRect(0, 0, 60, 40, Combine::Diff, true);
+        select(image, 0, 0, 10 + i, 5);
+        frame->Mmenu("COPY");
+    }
+    auto* list = box->findChild<QListWidget*>("lstImages");
+    EXPECT_EQ(list->count(), 9);
+    EXPECT_EQ(list->item(0)->text(), "Clip 3");
+    EXPECT_EQ(box->findChild<QLabel*>("lblSize_8")->text(), "20 x 5");
+    EXPECT_FALSE(box->findChild<QPushButton*>("BT_9")->isEnabled());
+    box->findChild<QPushButton*>("BT_0")->click();
+    EXPECT_TRUE(frame->toolStores().pastePending);
+    EXPECT_EQ(frame->toolStores().paste.width(), 12);
+    EXPECT_EQ(setup.CurrentTool, "");
+    box->findChild<QSlider*>("BrSelectionMovePressure")->setValue(40);
+    EXPECT_EQ(setup.ClipOpacity, 40);
+}
+
+TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
+{
+    fImage* image = open(flatBits(40, 30, 10, 10, 10));
+    frame->Mmenu("PASTE");
+    EXPECT_FALSE(frame->toolStores().pastePending) << "there is nothing to paste";
+    platform.clipboard = flatBits(6, 6, 200, 100, 50); // of another program
+    frame->Mmenu("PASTE");
+    ASSERT_TRUE(frame->toolStores().pastePending);
+    EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->Bits())) << "it is seen at once";
+    frame->Mmenu("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
+    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.clipboard));
+
+    frame->Mmenu("PASTE");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(frame->toolStores().pastePending);
+    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), image->Bits()));
+    EXPECT_EQ(image->document().undo.UndoStep(), 1);
+}
+
+TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
+{
+    showScreen();
+    bool shownAtTheGrab = true;
+    platform.screen().onGrab = [&] { shownAtTheGrab = frame->isVisible(); };
+    frame->Mmenu("CAPTUREDESKTOP");
+    EXPECT_EQ(platform.screen().log, std::vector<std::string>{"desktop on"}) << "the grab waits";
+    fImage* image = waitForDocument();
+    EXPECT_EQ(platform.screen().log, (std::vector<std::string>{"desktop on", "grab", "desktop off"}));
+    ASSERT_EQ(image->PictureWidth(), 40);
+    EXPECT_EQ(image->Bits().at(7, 5).c[1], 9);
+    EXPECT_EQ(image->Caption(), "New.bmp");
+    EXPECT_FALSE(QFile::exists(path("New.bmp")));
+    image->parentWidget()->close();
+
+    platform.screen().canShowDesktop = false; // then the program at least goes
+    frame->Mmenu("CAPTUREDESKTOP");
+    waitForDocument()->parentWidget()->close();
+    EXPECT_FALSE(shownAtTheGrab);
+    EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
+{
+    frame->Mmenu("CAPTUREBACKGROUND"); // there is no picture of the screen
+    EXPECT_FALSE(frame->isVisible());
+    fImage* image = waitForDocument();
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_FALSE(image->PictureExists());
+    EXPECT_FALSE(QFile::exists(path("New.bmp")));
+
+    platform.screen().silent = true; // nor does a desktop ever answer
+    frame->capture().setPatience(50);
+    frame->Mmenu("CAPTUREBACKGROUND");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return control<QPushButton>("fWaiting", "cmdCancel") != nullptr; }, 5000));
+    QTest::keyClick(control<QPushButton>("fWaiting", "cmdCancel")->window(), Qt::Key_Escape);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_FALSE(platform.screen().waiting());
+    EXPECT_EQ(frame->documents().size(), 1);
+}
+
+TEST_F(UtilitiesTest, ForegroundIsAFixedAreaWhateverTheScreen)
+{
+    showScreen();
+    frame->Mmenu("CAPTUREFOREGROUND");
+    fImage* image = waitForDocument();
+    EXPECT_EQ(image->PictureWidth(), 800);
+    EXPECT_EQ(image->PictureHeight(), 600);
+    EXPECT_EQ(image->Bits().at(39, 29).c[2], 3);
+    EXPECT_EQ(image->Bits().at(40, 29).c[2], 0);
+}
+
+TEST_F(UtilitiesTest, ARectangleIsPickedOnThePictureOfTheScreen)
+{
+    showScreen();
+    frame->capture().showDialog();
+    auto* cb = control<QComboBox>("fCapture", "cb");
+    ASSERT_TRUE(cb);
+    EXPECT_EQ(cb->itemText(0) + cb->itemText(1) + cb->itemText(2), "DesktopForegroundBackground");
+    cb->setCurrentIndex(2);
+    control<QPushButton>("fCapture", "CmdCustom")->click();
+    EXPECT_FALSE(frame->isVisible());
+    QWidget* picker = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            for (QWidget* top : QApplication::topLevelWidgets())
+                if (top->objectName() == "fCaptureRectangle" && top->isVisible()) picker = top;
+            return picker != nullptr;
+        },
+        5000));
+    const auto at = [&](int x, int y) { return QPoint(x * picker->width() / 40 + 1, y * picker->height() / 30 + 1); };
+    QTest::mousePress(picker, Qt::LeftButton, {}, at(20, 20));
+    QTest::mouseMove(picker, at(10, 10));
+    EXPECT_TRUE(picker->findChild<QWidget*>("Line1")->isVisible());
+    QTest::mouseRelease(picker, Qt::LeftButton, {}, at(5, 3));
+    fImage* image = waitForDocument();
+    EXPECT_TRUE(frame->isVisible());
+    ASSERT_EQ(image->PictureWidth(), 15);
+    ASSERT_EQ(image->PictureHeight(), 17);
+    EXPECT_EQ(image->Bits().at(2, 2).c[0], 9);
+}
+
+TEST_F(UtilitiesTest, TheWallpaperIsAFileOfTheUsersFolder)
+{
+    platform.wallpaper().place = platform.folder.path();
+    frame->Mmenu("WCENTER");
+    EXPECT_TRUE(platform.wallpaper().log.empty());
+    fImage* image = open(randomBits(9, 7, 3));
+    frame->Mmenu("WSTRETCH");
+    ASSERT_EQ(platform.wallpaper().log.size(), 1u);
+    const auto& [file, mode] = platform.wallpaper().log[0];
+    EXPECT_EQ(file, path("ClearPane_Wallpaper.bmp"));
+    EXPECT_EQ(mode, WallpaperMode::Stretch);
+    EXPECT_EQ(QImage(file).size(), QSize(9, 7));
+    EXPECT_EQ(image->Caption(), "picture.bmp");
+    const std::pair<WallpaperResult, const char*> failures[] = {
+        {WallpaperResult::CantRead, "message: Velara Studio: Error getting subkey value."},
+        {WallpaperResult::CantWrite, "message: Velara Studio: Error Setting subkey value."}};
+    for (const auto& [result, message] : failures) {
+        platform.wallpaper().result = result;
+        frame->Mmenu("WTILE");
+        EXPECT_EQ(last(), message);
+    }
+}
+
+TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
+{
+    RecordingScanner& scanner = platform.scanner();
+    scanner.sources = {{"a:0", "First"}, {"b:1", "Second"}};
+    scanner.range = {{"Gray", "Color"}, "Gray", {75, 300}, false, 75, {200, 100}};
+    scanner.write = [](const QString& file) {
+        QImage picture(6, 5, QImage::Format_RGB32);
+        picture.fill(qRgb(7, 8, 9));
+        EXPECT_TRUE(picture.save(file));
+    };
+    frame->Mmenu("SELECTSOURCE");
+    control<QListWidget>("fSource", "lstSources")->setCurrentRow(1);
+    control<QPushButton>("fSource", "cmdSelect")->click();
+    EXPECT_EQ(platform.settings["Scanner/Source"], "b:1");
+
+    frame->Mmenu("ACQUIRETWAIN");
+    EXPECT_EQ(control<QLabel>("fAcquire", "lblSource")->text(), "Second");
+    control<QComboBox>("fAcquire", "cbMode")->setCurrentText("Color");
+    control<QComboBox>("fAcquire", "cbResolution")->setCurrentText("300");
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    ASSERT_EQ(scanner.jobs.size(), 1u);
+    EXPECT_EQ(scanner.jobs[0].device, "b:1");
+    EXPECT_EQ(scanner.jobs[0].mode, "Color");
+    EXPECT_EQ(scanner.jobs[0].resolution, 300);
+    EXPECT_EQ(scanner.jobs[0].area, QRectF(0, 0, 200, 100));
+    fImage* image = waitForDocument();
+    EXPECT_EQ(image->Bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
+    EXPECT_FALSE(QFile::exists(path("temp.bmp")));
+}
+
+TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
+{
+    const char* told = "message: Velara Studio: Please Verify that the system is connected to Scanner!";
+    frame->Mmenu("ACQUIRETWAIN"); // there is none
+    EXPECT_EQ(last(), told);
+    EXPECT_EQ(platform.lastIcon, Icon::Critical);
+    QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    RecordingScanner& scanner = platform.scanner();
+    scanner.sources = {{"a:0", "First"}};
+    frame->Mmenu("ACQUIRETWAIN");
+    scanner.reason = "Scanner cover is open";
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    EXPECT_EQ(last(), told);
+    EXPECT_EQ(control<QLabel>("fAcquire", "lblState")->text(), "The scanner says: Scanner cover is open");
+    EXPECT_TRUE(frame->documents().isEmpty());
+
+    scanner.silent = true;
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(scanner.cancelled, 1);
+    EXPECT_EQ(control<QPushButton>("fAcquire", "cmdScan"), nullptr);
+}
+
+} // namespace velara

@@ -1,0 +1,104 @@
+#!/bin/sh
+# Wallpaper, capture and scanner on a real server: the root window in all three modes, the screen as a document, the
+# picture of the scanner library's own test device.
+. "$(dirname "$0")/lib.sh"
+
+export SANE_CONFIG_DIR=$scratch/sane
+mkdir "$SANE_CONFIG_DIR"
+echo test >"$SANE_CONFIG_DIR/dll.conf"
+printf '%s\n' 'number_of_devices 1' 'mode Color' 'depth 8' 'test-picture "Color pattern"' 'resolution 50' \
+    >"$SANE_CONFIG_DIR/test.conf"
+unset XDG_CURRENT_DESKTOP || true
+export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus
+
+pixel_is() { [ "$(convert "$1" -format "%[hex:p{$2,$3}]" info: | cut -c1-6)" = "$4" ] || fail "$1 at $2,$3: $(convert "$1" -format "%[hex:p{$2,$3}]" info:) and not $4"; }
+root_pixel() { [ "$(import -window root -crop "1x1+$1+$2" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n')" = "$3" ]; }
+windows() { [ "$(xdotool search --onlyvisible --name "$1" | wc -l)" -ge 1 ]; }
+saved_size() { [ "$(identify -format '%wx%h' "$1")" = "$2" ] || fail "$1 is $(identify "$1")"; }
+
+# 40 by 30: left half red, right half blue
+convert -size 20x30 xc:red xc:blue +append "BMP3:$scratch/in.bmp"
+start
+quit
+patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
+patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels in twips
+patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
+patch_config 266 '\0\0' # no questions
+start
+open_file "$scratch/in.bmp"
+
+# Wallpaper; the frame leaves the lower right of the screen free.
+keys alt+t e t
+until_true "tiles" root_pixel 1205 800 ff0000
+until_true "tiles" root_pixel 1225 800 0000ff
+[ -s "$XDG_DATA_HOME/velara-studio/ClearPane_Wallpaper.bmp" ] || fail "the file of the wallpaper"
+keys alt+t e s
+until_true "the stretched picture" root_pixel 1205 800 0000ff
+keys alt+t e c
+until_true "the ground of the centred picture" root_pixel 1225 800 000000
+
+# The desktop without any window, which shows the picture in its middle; then the frame is back.
+keys alt+t q d
+sleep 1
+until_true "the frame back" windows '^Velara Studio'
+until_true "a second document" test -s "$folder/Temp/b000200.dat"
+[ ! -e "$folder/New.bmp" ] || fail "New.bmp is left"
+save_as "$scratch/desktop.bmp"
+saved_size "$scratch/desktop.bmp" 1280x900
+pixel_is "$scratch/desktop.bmp" 630 450 FF0000
+pixel_is "$scratch/desktop.bmp" 650 450 0000FF
+pixel_is "$scratch/desktop.bmp" 5 5 000000
+
+keys alt+t q f
+until_true "a third document" test -s "$folder/Temp/b000300.dat"
+sleep 0.3
+save_as "$scratch/foreground.bmp"
+saved_size "$scratch/foreground.bmp" 800x600
+pixel_is "$scratch/foreground.bmp" 795 595 "$(convert "$scratch/foreground.bmp" -format '%[hex:p{790,590}]' info: | cut -c1-6)"
+
+# A rectangle of the screen with a real mouse: around the middle of the wallpaper.
+keys alt+t s
+until_true "the dialog" has_window '^Capture Screen$'
+keys alt+u
+until_true "the picker" has_window '^Capture Rectangle$'
+sleep 0.5
+xdotool mousemove 610 440 mousedown 1
+sleep 0.1
+xdotool mousemove 650 455
+sleep 0.1
+xdotool mousemove 670 460
+sleep 0.1
+xdotool mouseup 1
+until_true "a fourth document" test -s "$folder/Temp/b000400.dat"
+sleep 0.3
+save_as "$scratch/rectangle.bmp"
+saved_size "$scratch/rectangle.bmp" 60x20
+pixel_is "$scratch/rectangle.bmp" 20 10 FF0000
+pixel_is "$scratch/rectangle.bmp" 40 10 0000FF
+
+# Esc leaves the picker: no document, and the frame is back.
+keys alt+t s
+until_true "the dialog" has_window '^Capture Screen$'
+keys alt+u
+until_true "the picker" has_window '^Capture Rectangle$'
+sleep 0.3
+keys Escape
+until_true "the frame back" windows '^Velara Studio'
+[ ! -e "$folder/Temp/b000500.dat" ] || fail "Esc has captured"
+
+# The scanner gives what another program gets from it.
+xdotool windowactivate --sync "$(frame)"
+keys alt+f e a
+until_true "the scanner's window" has_window '^Acquire$'
+scanned() {
+    has_window '^Acquire$' && xdotool key Return
+    sleep 0.4
+    [ -s "$folder/Temp/b000500.dat" ]
+}
+until_true "a scan" scanned
+sleep 0.3
+save_as "$scratch/scan.bmp"
+scanimage -d test:0 --mode Color --resolution 50 -l 0 -t 0 -x 200 -y 200 --format=pnm >"$scratch/wanted.pnm" 2>/dev/null
+same "$scratch/scan.bmp" "$scratch/wanted.pnm" || fail "another picture than the scanner gives"
+[ ! -e "$folder/temp.bmp" ] || fail "temp.bmp is left"
+quit
