@@ -1,5 +1,6 @@
 #include "ui/utilities/HiddenWindows.h"
 #include <QApplication>
+#include <QWindow>
 
 namespace velara {
 
@@ -16,12 +17,11 @@ HiddenWindows::~HiddenWindows()
 {
     for (const Hidden& hidden : hidden_) {
         if (!hidden.window) continue;
-        // Else the window manager would look for a new place; a move to where it stands would not be passed on.
-        if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))) {
-            hidden.window->move(hidden.place + QPoint(1, 0));
-            hidden.window->move(hidden.place);
-        }
         hidden.window->show();
+        // The window manager has looked for a new place; by the widget a move to where it thinks it stands goes
+        // nowhere.
+        if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+            hidden.window->windowHandle()->setFramePosition(hidden.place);
     }
     if (active_) {
         active_->raise();
