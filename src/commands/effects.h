@@ -9,6 +9,7 @@ namespace velara {
 struct Effect {
     std::string_view name;
     Bits (*call)(cBitFilter& filter, int value, Colour colour);
+    int sampleValue = 50; // that shows best what it does on a picture of thumbnail size
 };
 
 /// Effect 1 is the first one.

@@ -1,0 +1,254 @@
+#include "ui/compose/fEffectsPage.h"
+#include "commands/effects.h"
+#include "document/Document.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
+#include "ui/compose/sampleScene.h"
+#include <QDir>
+#include <QEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+namespace velara {
+
+namespace {
+
+constexpr int kCell = kSceneSide + 10; // of a thumbnail with its button
+
+QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+QPixmap pixmapOf(const Bits& bits)
+{
+    const QImage over(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
+                      QImage::Format_RGB32);
+    return QPixmap::fromImage(over.copy());
+}
+
+QPushButton* applyButton(const char* name, const QString& accessibleName)
+{
+    auto* button = new QPushButton(QStringLiteral("Apply"));
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(accessibleName);
+    return button;
+}
+
+} // namespace
+
+fEffectsPage::fEffectsPage(Frame& frame, QWidget* parent)
+    : QWidget(parent), frame_(frame), container_(new QWidget), tb_(new QWidget(container_)),
+      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblSize_(new QLabel), lblFolder_(new QLabel),
+      ListFile_(new QListWidget), CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
+      CmdFileApply_(applyButton("CmdFileApply", tr("Apply the file as a texture"))),
+      folder_(frame.platform().programFolder() + QStringLiteral("/Textures"))
+{
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(makeToolbar(), 3);
+    column->addWidget(makeAmount());
+    column->addWidget(makeFiles(), 2);
+    connect(CmdApply_, &QPushButton::clicked, this, [this] { ApplyTexture(effect(), false); });
+    connect(CmdFileApply_, &QPushButton::clicked, this, [this] { ApplyTexture(effect(), true); });
+    CmdFileApply_->setEnabled(false);
+}
+
+QWidget* fEffectsPage::makeToolbar()
+{
+    container_->setObjectName(QStringLiteral("tbContainer"));
+    container_->setMinimumSize(4 * kCell, 2 * kCell);
+    container_->installEventFilter(this);
+    tb_->setObjectName(QStringLiteral("tb"));
+    tb_->setAccessibleName(tr("Effects"));
+    int index = 1;
+    for (const Effect& effect : effects()) {
+        auto* button = new QToolButton(tb_);
+        button->setObjectName(QStringLiteral("tb_%1").arg(index));
+        button->setAccessibleName(textOf(effect.name));
+        button->setToolTip(tr("%1: a double click applies it").arg(textOf(effect.name)));
+        button->setIconSize({kSceneSide, kSceneSide});
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setFixedSize(kCell, kCell);
+        button->installEventFilter(this); // double clicks
+        group_.addButton(button, index++);
+    }
+    group_.button(kEmbossEffect)->setChecked(true);
+    connect(&group_, &QButtonGroup::idToggled, this, [this](int id, bool on) {
+        if (on) emit effectChosen(textOf(effects()[std::size_t(id - 1)].name));
+    });
+    V_->setObjectName(QStringLiteral("V"));
+    V_->setAccessibleName(tr("Effects, up and down"));
+    V_->setSingleStep(kCell / 2);
+    connect(V_, &QScrollBar::valueChanged, this, [this](int value) { tb_->move(0, -value); });
+
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(container_, 1);
+    row->addWidget(V_);
+    return box;
+}
+
+QWidget* fEffectsPage::makeAmount()
+{
+    br_->setObjectName(QStringLiteral("br"));
+    br_->setAccessibleName(tr("Amount"));
+    br_->setRange(kLeastAmount, kMostAmount);
+    br_->setPageStep(10);
+    lblSize_->setObjectName(QStringLiteral("lblSize"));
+    lblSize_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("100")));
+    lblSize_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(br_, &QSlider::valueChanged, lblSize_, qOverload<int>(&QLabel::setNum));
+    br_->setValue(kUsualAmount);
+    auto* caption = new QLabel(tr("A&mount"));
+    caption->setBuddy(br_);
+
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(caption);
+    row->addWidget(br_, 1);
+    row->addWidget(lblSize_);
+    row->addWidget(CmdApply_);
+    return box;
+}
+
+QWidget* fEffectsPage::makeFiles()
+{
+    ListFile_->setObjectName(QStringLiteral("ListFile"));
+    ListFile_->setAccessibleName(tr("Texture files"));
+    ListFile_->setMinimumHeight(60);
+    connect(ListFile_, &QListWidget::currentRowChanged, this, [this](int row) { CmdFileApply_->setEnabled(row >= 0); });
+    connect(ListFile_, &QListWidget::itemActivated, this, [this] { ApplyTexture(effect(), true); });
+    auto* folder = new QPushButton(tr("&Folder..."));
+    folder->setObjectName(QStringLiteral("cmdfile"));
+    folder->setAccessibleName(tr("Choose the folder of the texture files"));
+    connect(folder, &QPushButton::clicked, this, &fEffectsPage::chooseFolder);
+    lblFolder_->setObjectName(QStringLiteral("lblFolder"));
+    lblFolder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+
+    auto* box = new QWidget;
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(lblFolder_);
+    column->addWidget(ListFile_, 1);
+    auto* row = new QHBoxLayout;
+    row->addWidget(folder);
+    row->addStretch();
+    row->addWidget(CmdFileApply_);
+    column->addLayout(row);
+    return box;
+}
+
+/// Each is the effect itself, run on a small scene; not before the page is seen.
+void fEffectsPage::drawThumbnails()
+{
+    if (std::exchange(drawn_, true)) return;
+    const Bits scene = sampleScene();
+    for (int index = 1; index <= kEffects; ++index) {
+        cBitFilter filter;
+        filter.setBits(scene);
+        filter.setBitsRegion(Region::rectangle(0, 0, scene.width(), scene.height()));
+        velara::ApplyTexture(filter, index, effects()[std::size_t(index - 1)].sampleValue, 0x00FFFF);
+        group_.button(index)->setIcon(pixmapOf(filter.bits()));
+    }
+}
+
+void fEffectsPage::showEvent(QShowEvent* event)
+{
+    drawThumbnails();
+    CheckImagesFile();
+    QWidget::showEvent(event);
+}
+
+bool fEffectsPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == container_) {
+        if (event->type() == QEvent::Resize) flow();
+        if (event->type() == QEvent::Wheel) return QCoreApplication::sendEvent(V_, event);
+    } else if (event->type() == QEvent::MouseButtonDblClick) {
+        ApplyTexture(group_.id(static_cast<QAbstractButton*>(watched)), false);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+/// As many buttons side by side as there is room for.
+void fEffectsPage::flow()
+{
+    const int columns = std::max(1, container_->width() / kCell);
+    for (int i = 0; i < kEffects; ++i) group_.button(i + 1)->move(i % columns * kCell, i / columns * kCell);
+    tb_->resize(columns * kCell, (kEffects + columns - 1) / columns * kCell);
+    UppdateScroll();
+}
+
+void fEffectsPage::UppdateScroll()
+{
+    const int page = container_->height();
+    V_->setRange(0, std::max(0, tb_->height() - page));
+    V_->setPageStep(std::max(1, page));
+    V_->setEnabled(V_->maximum() > 0);
+    tb_->move(0, -V_->value());
+}
+
+void fEffectsPage::CheckImagesFile()
+{
+    const QString chosen = ListFile_->currentItem() ? ListFile_->currentItem()->text() : QString();
+    ListFile_->clear();
+    const QStringList files = QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files,
+                                                      QDir::Name | QDir::IgnoreCase);
+    ListFile_->addItems(files);
+    ListFile_->setCurrentRow(static_cast<int>(files.indexOf(chosen)));
+    lblFolder_->setText(files.isEmpty() ? tr("No texture files in %1").arg(QDir::toNativeSeparators(folder_))
+                                        : tr("Texture files of %1").arg(QDir::toNativeSeparators(folder_)));
+    lblFolder_->setToolTip(QDir::toNativeSeparators(folder_));
+}
+
+void fEffectsPage::chooseFolder()
+{
+    const QPointer<fEffectsPage> alive = this;
+    const auto folder = frame_.platform().pickFolder(tr("Folder of the texture files"), folder_);
+    if (!alive || !folder || folder->isEmpty()) return;
+    folder_ = *folder;
+    CheckImagesFile();
+}
+
+void fEffectsPage::ApplyTexture(int Index, bool FromFile)
+{
+    if (running_) return; // an effect at work yields
+    Platform& platform = frame_.platform();
+    const QPointer<fEffectsPage> alive = this;
+    const DocumentHandle document = frame_.active();
+    if (!document)
+        return platform.message(QStringLiteral("Velara Studio"), tr("There is no picture open."), Icon::Information);
+    Bits texture;
+    if (FromFile) {
+        if (!ListFile_->currentItem()) return;
+        const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
+        const LoadedPicture picture = platform.loadPicture(path, QFileInfo(path).suffix().toLower());
+        if (!picture.ok())
+            return platform.message(QStringLiteral("Velara Studio"), tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
+        texture = picture.bits;
+    }
+    running_ = true;
+    const Colour colour = frame_.setup().ForeColor;
+    const int value = br_->value();
+    const Outcome outcome = frame_.change(document, [=](Document&, cBitFilter& filter) {
+        if (FromFile)
+            applyTexturePicture(filter, texture);
+        else
+            velara::ApplyTexture(filter, Index, value, colour);
+    });
+    if (!alive) return;
+    running_ = false;
+    if (!outcome) frame_.report(FromFile ? tr("Texture") : textOf(effects()[std::size_t(Index - 1)].name), outcome);
+}
+
+} // namespace velara

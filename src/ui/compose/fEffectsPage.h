@@ -1,0 +1,58 @@
+// fEffectsPage: the page of the textures box that runs an effect, or a picture file as a texture, on the active picture.
+#pragma once
+#include "pixels/Bits.h"
+#include <QButtonGroup>
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QPushButton;
+class QScrollBar;
+class QSlider;
+
+namespace velara {
+
+class Frame;
+
+class fEffectsPage final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit fEffectsPage(Frame& frame, QWidget* parent = nullptr);
+
+    /// 1 to 33.
+    int effect() const { return group_.checkedId(); }
+    /// Runs an effect at the slider's value, or the chosen file as a texture, on the active document.
+    void ApplyTexture(int Index, bool FromFile);
+    /// Lists the pictures of the textures folder.
+    void CheckImagesFile();
+    /// Keeps V in step with the toolbar's height.
+    void UppdateScroll();
+
+  signals:
+    void effectChosen(const QString& name);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override; // the toolbar's container
+
+  private:
+    QWidget* makeToolbar();
+    QWidget* makeAmount();
+    QWidget* makeFiles();
+    void drawThumbnails();
+    void flow();
+    void chooseFolder();
+
+    Frame& frame_;
+    QWidget *container_, *tb_;
+    QScrollBar* V_;
+    QButtonGroup group_;
+    QSlider* br_;
+    QLabel *lblSize_, *lblFolder_;
+    QListWidget* ListFile_;
+    QPushButton *CmdApply_, *CmdFileApply_;
+    QString folder_;
+    bool drawn_ = false, running_ = false;
+};
+
+} // namespace velara

@@ -1,0 +1,28 @@
+#include "ui/compose/fToolTextures.h"
+#include "ui/compose/fEffectsPage.h"
+#include "ui/compose/fTextPage.h"
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace velara {
+
+fToolTextures::fToolTextures(Frame& frame, QWidget* parent)
+    : QWidget(parent, Qt::Tool), SSTab1_(new QTabWidget), text_(new fTextPage(frame)), effects_(new fEffectsPage(frame))
+{
+    setObjectName(QStringLiteral("fToolTextures"));
+    showEffect(QStringLiteral("Emboss"));
+    SSTab1_->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1_->setAccessibleName(tr("Text and effects"));
+    SSTab1_->addTab(text_, tr("&Text"));
+    SSTab1_->addTab(effects_, tr("&Effects"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(4, 4, 4, 4);
+    column->addWidget(SSTab1_);
+    connect(effects_, &fEffectsPage::effectChosen, this, &fToolTextures::showEffect);
+    connect(text_, &fTextPage::placing, this, &fToolTextures::placing);
+    resize(330, 420);
+}
+
+void fToolTextures::showEffect(const QString& name) { setWindowTitle(QStringLiteral("Textures: ") + name); }
+
+} // namespace velara

@@ -1,0 +1,34 @@
+// fToolTextures: the textures box, which floats over the frame. On one page a text is laid out for the mouse tool "Text",
+// on the other an effect or a texture file is run on the active picture.
+#pragma once
+#include <QWidget>
+
+class QTabWidget;
+
+namespace velara {
+
+class Frame;
+class fTextPage;
+class fEffectsPage;
+
+class fToolTextures final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit fToolTextures(Frame& frame, QWidget* parent = nullptr);
+
+    fTextPage& textPage() { return *text_; }
+    fEffectsPage& effectsPage() { return *effects_; }
+
+  signals:
+    /// The user wants the mouse tool "Text".
+    void placing();
+
+  private:
+    void showEffect(const QString& name);
+
+    QTabWidget* SSTab1_;
+    fTextPage* text_;
+    fEffectsPage* effects_;
+};
+
+} // namespace velara
