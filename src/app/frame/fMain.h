@@ -109,6 +109,7 @@ class fMain final : public QMainWindow, public Frame {
     /// The dialog that saves for the web, on the active document, or on a picture made of a document.
     void saveForWeb();
     void saveForWeb(fImage& image, const Bits& bits);
+    void textTools();
     void setZoom(int factor);
     void runPreset(const Preset& preset);
     /// The dialog of a filter, on the active document.

@@ -9,6 +9,7 @@
 #include "seams/Platform.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPicker.h"
+#include "ui/compose/fToolTextures.h"
 #include "ui/panes/fToolPanes.h"
 #include <QMenu>
 #include <QMenuBar>
@@ -99,6 +100,9 @@ void fMain::makeBoxes()
 {
     setBox(0, new fPalette(*this, this));
     setBox(2, clips_->box());
+    auto* textures = new fToolTextures(*this, this);
+    connect(textures, &fToolTextures::placing, this, [this] { toolClicked(QStringLiteral("Text")); });
+    setBox(1, textures);
 }
 
 void fMain::setBox(int index, QWidget* box) { boxes_[std::size_t(index)] = box; }

@@ -4,6 +4,7 @@
 #include "commands/jobs.h"
 #include "document/resizing.h"
 #include "seams/Platform.h"
+#include "ui/compose/fLayers.h"
 #include "ui/filter/fFilter.h"
 
 namespace velara {
@@ -47,6 +48,20 @@ void fMain::crop()
     case CropAnswer::Possible:
         return changeActive("CROP", cropImage, After::Step, false);
     }
+}
+
+/// One window a document: who asks again finds the texts that wait there.
+void fMain::textTools()
+{
+    const DocumentHandle document = active();
+    if (!document || !document->PictureExists()) return;
+    fLayers* window = nullptr;
+    for (fLayers* open : findChildren<fLayers*>())
+        if (open->document() == document && open->isVisible()) window = open;
+    if (!window) window = new fLayers(*this, document, this);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void fMain::stepUndo(bool back)

@@ -202,8 +202,8 @@ void fEffectsPage::CheckImagesFile()
 {
     const QString chosen = ListFile_->currentItem() ? ListFile_->currentItem()->text() : QString();
     ListFile_->clear();
-    const QStringList files = QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files,
-                                                      QDir::Name | QDir::IgnoreCase);
+    const QStringList files =
+        QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files, QDir::Name | QDir::IgnoreCase);
     ListFile_->addItems(files);
     ListFile_->setCurrentRow(static_cast<int>(files.indexOf(chosen)));
     lblFolder_->setText(files.isEmpty() ? tr("No texture files in %1").arg(QDir::toNativeSeparators(folder_))
@@ -234,17 +234,20 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
         const LoadedPicture picture = platform.loadPicture(path, QFileInfo(path).suffix().toLower());
         if (!picture.ok())
-            return platform.message(QStringLiteral("Velara Studio"), tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
+            return platform.message(QStringLiteral("Velara Studio"),
+                                    tr("%1 can't be used as a texture: %2").arg(path, picture.reason),
+                                    Icon::Exclamation);
         texture = picture.bits;
     }
     running_ = true;
     const Colour colour = frame_.setup().ForeColor;
     const int value = br_->value();
-    const Outcome outcome = frame_.change(document, [=](Document&, cBitFilter& filter) {
+    const Outcome outcome = frame_.change(document, [=](Document& draft, cBitFilter& filter) {
         if (FromFile)
             applyTexturePicture(filter, texture);
         else
             velara::ApplyTexture(filter, Index, value, colour);
+        draft.setBits(filter.bits());
     });
     if (!alive) return;
     running_ = false;

@@ -1,4 +1,5 @@
-// fEffectsPage: the page of the textures box that runs an effect, or a picture file as a texture, on the active picture.
+// fEffectsPage: the page of the textures box that runs an effect, or a picture file as a texture, on the active
+// picture.
 #pragma once
 #include "pixels/Bits.h"
 #include <QButtonGroup>

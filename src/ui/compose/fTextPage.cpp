@@ -97,7 +97,8 @@ fTextPage::fTextPage(Frame& frame, QWidget* parent)
     connect(cboSize_->lineEdit(), &QLineEdit::editingFinished, this, [this] {
         cboSize_->setCurrentText(QString::number(style_.size)); // whatever was typed: this is what holds
     });
-    for (QToolButton* button : {CmdB_, CmdI_, CmdU_}) connect(button, &QToolButton::toggled, this, &fTextPage::takeStyle);
+    for (QToolButton* button : {CmdB_, CmdI_, CmdU_})
+        connect(button, &QToolButton::toggled, this, &fTextPage::takeStyle);
     connect(txtText_, &QPlainTextEdit::textChanged, this, &fTextPage::UpdateText);
 }
 
@@ -225,8 +226,13 @@ bool fTextPage::layOut()
 
     Bits work = paper(picCustom_->size());
     Fonts& fonts = frame_.platform().fonts();
-    const TextBox box{text.replace(u'\n', QStringLiteral("\r\n")), work.width(), work.height(), kMargin,
-                      cboAlign_->currentIndex(), cboShadow_->currentIndex(), style_.size};
+    const TextBox box{text.replace(u'\n', QStringLiteral("\r\n")),
+                      work.width(),
+                      work.height(),
+                      kMargin,
+                      cboAlign_->currentIndex(),
+                      cboShadow_->currentIndex(),
+                      style_.size};
     const auto layout = layOutText(box, [&](const QString& run, int size) {
         TextStyle sized = style_;
         sized.size = size;

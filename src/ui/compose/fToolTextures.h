@@ -1,5 +1,5 @@
-// fToolTextures: the textures box, which floats over the frame. On one page a text is laid out for the mouse tool "Text",
-// on the other an effect or a texture file is run on the active picture.
+// fToolTextures: the textures box, which floats over the frame. On one page a text is laid out for the mouse tool
+// "Text", on the other an effect or a texture file is run on the active picture.
 #pragma once
 #include <QWidget>
 

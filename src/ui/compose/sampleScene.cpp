@@ -31,8 +31,7 @@ Bits sampleScene()
     painter.drawPolygon(QPolygon({{48, 66}, {64, 52}, {80, 66}}));
     painter.end();
     Bits bits(kSceneSide, kSceneSide);
-    for (int y = 0; y < kSceneSide; ++y)
-        std::memcpy(bits.row(y), image.constScanLine(y), sizeof(Pixel) * kSceneSide);
+    for (int y = 0; y < kSceneSide; ++y) std::memcpy(bits.row(y), image.constScanLine(y), sizeof(Pixel) * kSceneSide);
     return bits;
 }
 

@@ -1,0 +1,523 @@
+#include "ui/compose/fLayerCanvas.h"
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleHints>
+#include <QTextBoundaryFinder>
+#include <QTimerEvent>
+
+namespace velara {
+
+namespace {
+
+constexpr int kGrip = 9; // side of one, screen pixels
+
+/// Of a grip: which sides it moves, -1 left or top, 1 right or bottom.
+constexpr struct {
+    int across, down;
+    Qt::CursorShape pointer;
+} kGrips[] = {{-1, -1, Qt::SizeFDiagCursor}, {0, -1, Qt::SizeVerCursor},  {1, -1, Qt::SizeBDiagCursor},
+              {1, 0, Qt::SizeHorCursor},     {1, 1, Qt::SizeFDiagCursor}, {0, 1, Qt::SizeVerCursor},
+              {-1, 1, Qt::SizeBDiagCursor},  {-1, 0, Qt::SizeHorCursor}};
+
+/// MskText: what is printed for a layer, straight from its memory, within its outline.
+class Surface final : public QWidget {
+  public:
+    Surface(const Layers& layers, int index, const fLayerCanvas& canvas, QWidget* parent)
+        : QWidget(parent), layers_(layers), canvas_(canvas), index_(index)
+    {
+        setObjectName(QStringLiteral("MskText_%1").arg(index));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        if (!layers_.has(index_)) return;
+        QPainter painter(this);
+        const Bits& bits = layers_.surface(index_);
+        if (!bits.isNull()) {
+            const Rect part = layers_.visible(index_), place = layers_.layer(index_).place;
+            const QImage image(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
+                               QImage::Format_RGB32);
+            const int zoom = canvas_.zoom();
+            painter.drawImage(QRect(QPoint(part.left - place.left, part.top - place.top) * zoom,
+                                    QSize(part.width(), part.height()) * zoom),
+                              image);
+        }
+        const bool chosen = canvas_.selected() == index_; // seen on light and on dark
+        painter.setPen(chosen ? Qt::white : QColor(255, 255, 255, 150));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setPen(QPen(chosen ? Qt::black : QColor(0, 0, 0, 150), 1, Qt::DashLine));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+
+  private:
+    const Layers& layers_;
+    const fLayerCanvas& canvas_;
+    int index_;
+};
+
+class Grip final : public QWidget {
+  public:
+    using QWidget::QWidget;
+
+  protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::black);
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::white);
+    }
+};
+
+class Caret final : public QWidget {
+  public:
+    using QWidget::QWidget;
+
+  protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        painter.fillRect(rect().adjusted(0, 0, -1, 0), Qt::black);
+    }
+};
+
+/// The next place of the caret, over whole characters as a person sees them.
+qsizetype step(const QString& text, qsizetype from, bool forward)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(from);
+    const qsizetype to = forward ? finder.toNextBoundary() : finder.toPreviousBoundary();
+    return to < 0 ? from : to;
+}
+
+} // namespace
+
+fLayerCanvas::fLayerCanvas(Layers& layers)
+    : fPicture(QStringLiteral("picImage"), tr("Picture with its texts")), layers_(layers), cursor_(new Caret(this))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    cursor_->setObjectName(QStringLiteral("Cursor"));
+    cursor_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (int i = 0; i < 8; ++i) {
+        grips_[std::size_t(i)] = new Grip(this);
+        QWidget& grip = *grips_[std::size_t(i)];
+        grip.setObjectName(QStringLiteral("lblGrip_%1").arg(i));
+        grip.setFixedSize(kGrip, kGrip);
+        grip.setCursor(kGrips[i].pointer);
+        grip.installEventFilter(this);
+        grip.hide();
+    }
+}
+
+// --- Layers and what shows them
+
+int fLayerCanvas::addLayer()
+{
+    const int index = layers_.add(stored_.x(), stored_.y(), nextStyle, nextColour);
+    makeOutline(index);
+    emit added(index);
+    select(index);
+    edit(true);
+    return index;
+}
+
+void fLayerCanvas::removeSelected()
+{
+    const int index = selected_;
+    if (index == 0) return;
+    select(0);
+    layers_.remove(index);
+    delete outlines_[index];
+    outlines_.erase(index);
+    emit removed(index);
+}
+
+void fLayerCanvas::makeOutline(int index)
+{
+    auto* outline = new QWidget(this);
+    outline->setObjectName(QStringLiteral("lblShape_%1").arg(index));
+    outline->setAccessibleName(tr("Text %1").arg(index - 1));
+    outline->setCursor(Qt::SizeAllCursor);
+    outline->installEventFilter(this);
+    new Surface(layers_, index, *this, outline);
+    outlines_[index] = outline;
+    place(index);
+}
+
+void fLayerCanvas::place(int index)
+{
+    QWidget* outline = outlines_.at(index);
+    const Layer& layer = layers_.layer(index);
+    outline->setGeometry(QRect(placeOf(QPointF(layer.place.left, layer.place.top)).toPoint(),
+                               QSize(layer.place.width(), layer.place.height()) * zoom()));
+    for (QObject* surface : outline->children()) static_cast<QWidget*>(surface)->resize(outline->size());
+    outline->setVisible(layer.shown);
+    outline->update();
+}
+
+void fLayerCanvas::refresh(int index)
+{
+    for (const auto& [each, outline] : outlines_)
+        if (index == 0 || each == index) {
+            place(each);
+            emit layerChanged(each);
+        }
+    ShowG();
+    placeCursor();
+}
+
+void fLayerCanvas::select(int index)
+{
+    if (selected_ == index) return;
+    edit(false);
+    const int before = std::exchange(selected_, index);
+    for (const int each : {before, index})
+        if (outlines_.contains(each)) outlines_[each]->update();
+    caret_ = index ? layers_.layer(index).text.size() : 0;
+    ShowG();
+    placeCursor();
+    emit selectionChanged(index);
+}
+
+void fLayerCanvas::edit(bool on)
+{
+    editing_ = on && selected_ != 0;
+    if (!preedit_.isEmpty()) {
+        dropPreedit();
+        QGuiApplication::inputMethod()->reset();
+    }
+    if (editing_) caret_ = std::min(caret_, layers_.layer(selected_).text.size());
+    placeCursor();
+}
+
+void fLayerCanvas::ShowG()
+{
+    const bool shown = selected_ != 0 && layers_.layer(selected_).shown;
+    if (shown) placeGrips();
+    for (QWidget* grip : grips_) {
+        grip->setVisible(shown);
+        grip->raise();
+    }
+    cursor_->raise();
+}
+
+/// At the corners and the middles of the sides; where those lie outside of the canvas, at its edge.
+void fLayerCanvas::placeGrips()
+{
+    const QRect shape = outlines_.at(selected_)->geometry();
+    for (std::size_t i = 0; i < grips_.size(); ++i) {
+        const auto at = [](int direction, int from, int length, int room) {
+            const int place = from + (direction + 1) * length / 2 - kGrip / 2;
+            return std::clamp(place, 0, std::max(0, room - kGrip));
+        };
+        grips_[i]->move(at(kGrips[i].across, shape.x(), shape.width(), width()),
+                        at(kGrips[i].down, shape.y(), shape.height(), height()));
+    }
+}
+
+void fLayerCanvas::placeCursor()
+{
+    Rect at{stored_.x(), stored_.y(), stored_.x() + 1, stored_.y() + Layers::kHeight};
+    if (editing_) at = layers_.caret(selected_, caret_);
+    cursor_->setGeometry(
+        QRect(placeOf(QPointF(at.left, at.top)).toPoint(), QSize(2, std::max(1, at.height()) * zoom())));
+    const bool wanted = editing_ || selected_ == 0;
+    cursor_->setVisible(wanted);
+    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
+    if (wanted && hasFocus() && flash > 1)
+        blink_.start(flash / 2, this);
+    else
+        blink_.stop();
+    updateMicroFocus();
+}
+
+void fLayerCanvas::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == blink_.timerId()) cursor_->setVisible(!cursor_->isVisible());
+}
+
+void fLayerCanvas::focusInEvent(QFocusEvent* event)
+{
+    placeCursor();
+    fPicture::focusInEvent(event);
+}
+
+void fLayerCanvas::focusOutEvent(QFocusEvent* event)
+{
+    placeCursor();
+    fPicture::focusOutEvent(event);
+}
+
+void fLayerCanvas::resizeEvent(QResizeEvent* event)
+{
+    for (const auto& [index, outline] : outlines_) place(index);
+    ShowG();
+    placeCursor();
+    fPicture::resizeEvent(event);
+}
+
+void fLayerCanvas::paintOver(QPainter&, const QRect&) {} // the layers are widgets
+
+// --- Mouse
+
+Rect fLayerCanvas::resized(const Rect& place, int grip, QPoint by)
+{
+    const auto [across, down, pointer] = kGrips[grip];
+    Rect to = place;
+    // The side that stands still stays where it is, however far the other is pushed.
+    if (across < 0) to.left = std::min(to.left + by.x(), to.right - Layers::kLeastSide);
+    if (across > 0) to.right = std::max(to.right + by.x(), to.left + Layers::kLeastSide);
+    if (down < 0) to.top = std::min(to.top + by.y(), to.bottom - Layers::kLeastSide);
+    if (down > 0) to.bottom = std::max(to.bottom + by.y(), to.top + Layers::kLeastSide);
+    return to;
+}
+
+bool fLayerCanvas::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* widget = static_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        press(widget, *static_cast<QMouseEvent*>(event));
+        return true;
+    case QEvent::MouseMove:
+        drag(*static_cast<QMouseEvent*>(event));
+        return true;
+    case QEvent::MouseButtonRelease:
+        if (std::exchange(drag_, {}) && selected_) emit layerChanged(selected_);
+        return true;
+    case QEvent::MouseButtonDblClick:
+        if (selected_) edit(true);
+        return true;
+    default:
+        return fPicture::eventFilter(watched, event);
+    }
+}
+
+void fLayerCanvas::press(QWidget* widget, QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton) return;
+    setFocus(Qt::MouseFocusReason);
+    const auto grip = std::ranges::find(grips_, widget);
+    if (grip == grips_.end())
+        for (const auto& [index, outline] : outlines_)
+            if (outline == widget) {
+                edit(false);
+                select(index);
+                break;
+            }
+    if (selected_ == 0) return;
+    drag_ = {layers_.layer(selected_).place, event.globalPosition().toPoint(),
+             grip == grips_.end() ? -1 : static_cast<int>(grip - grips_.begin())};
+}
+
+void fLayerCanvas::drag(QMouseEvent& event)
+{
+    if (!drag_ || selected_ == 0 || !(event.buttons() & Qt::LeftButton)) return;
+    const QPoint by = (event.globalPosition().toPoint() - drag_->from) / zoom();
+    const Rect& from = drag_->place;
+    const Rect to = drag_->grip < 0
+                        ? Rect{from.left + by.x(), from.top + by.y(), from.right + by.x(), from.bottom + by.y()}
+                        : resized(from, drag_->grip, by);
+    if (to == layers_.layer(selected_).place) return;
+    layers_.setPlace(selected_, to);
+    place(selected_);
+    placeGrips();
+    placeCursor();
+}
+
+void fLayerCanvas::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) return fPicture::mousePressEvent(event); // the middle one drags the picture
+    setFocus(Qt::MouseFocusReason);
+    select(0);
+    stored_ = pixelAt(event->position());
+    placeCursor();
+}
+
+void fLayerCanvas::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) addLayer();
+}
+
+// --- Keys
+
+void fLayerCanvas::setText(const QString& text, qsizetype caret)
+{
+    caret_ = caret;
+    layers_.setText(selected_, text);
+    refresh(selected_);
+}
+
+void fLayerCanvas::insert(const QString& text)
+{
+    if (text.isEmpty()) return;
+    if (selected_ == 0)
+        addLayer();
+    else if (!editing_)
+        edit(true);
+    QString lines = text;
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (const char16_t other : {u'\r', u'\u2028', u'\u2029'}) lines.replace(QChar(other), QChar(u'\n'));
+    lines.replace(QChar(u'\n'), QStringLiteral("\r\n"));
+    QString whole = layers_.layer(selected_).text;
+    setText(whole.insert(caret_, lines), caret_ + lines.size());
+}
+
+void fLayerCanvas::erase(bool back)
+{
+    QString text = layers_.layer(selected_).text;
+    const qsizetype other = step(text, caret_, !back), from = std::min(caret_, other);
+    setText(text.remove(from, std::max(caret_, other) - from), from);
+}
+
+void fLayerCanvas::moveCaret(int key)
+{
+    const QString& text = layers_.layer(selected_).text;
+    if (key == Qt::Key_Left || key == Qt::Key_Right) {
+        caret_ = step(text, caret_, (key == Qt::Key_Right) != text.isRightToLeft());
+    } else if (key == Qt::Key_Home) {
+        caret_ = caret_ > 0 ? text.lastIndexOf(u'\n', caret_ - 1) + 1 : 0;
+    } else if (key == Qt::Key_End) {
+        const qsizetype end = text.indexOf(u'\r', caret_);
+        caret_ = end < 0 ? text.size() : end;
+    } else { // the same place of the line above or below
+        const qsizetype start = caret_ > 0 ? text.lastIndexOf(u'\n', caret_ - 1) + 1 : 0,
+                        end = text.indexOf(u'\n', caret_);
+        const qsizetype column = caret_ - start;
+        if (key == Qt::Key_Up && start > 0) {
+            const qsizetype above = start > 2 ? text.lastIndexOf(u'\n', start - 3) + 1 : 0;
+            caret_ = std::min(above + column, start - 2);
+        } else if (key == Qt::Key_Down && end >= 0) {
+            const qsizetype below = text.indexOf(u'\r', end + 1);
+            caret_ = std::min(end + 1 + column, below < 0 ? text.size() : below);
+        }
+    }
+    placeCursor();
+}
+
+/// Keys while a text is edited.
+bool fLayerCanvas::editKey(QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        moveCaret(event.key());
+        return true;
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        erase(event.key() == Qt::Key_Backspace);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        insert(QStringLiteral("\n"));
+        return true;
+    case Qt::Key_Escape:
+        edit(false);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Keys while a layer is selected and not edited.
+bool fLayerCanvas::layerKey(QKeyEvent& event)
+{
+    const int far = event.modifiers() & Qt::ShiftModifier ? 10 : 1;
+    const struct {
+        int key;
+        QPoint by;
+    } moves[] = {
+        {Qt::Key_Left, {-far, 0}}, {Qt::Key_Right, {far, 0}}, {Qt::Key_Up, {0, -far}}, {Qt::Key_Down, {0, far}}};
+    for (const auto& move : moves) {
+        if (event.key() != move.key) continue;
+        const Rect p = layers_.layer(selected_).place;
+        layers_.setPlace(selected_,
+                         {p.left + move.by.x(), p.top + move.by.y(), p.right + move.by.x(), p.bottom + move.by.y()});
+        refresh(selected_);
+        return true;
+    }
+    switch (event.key()) {
+    case Qt::Key_Delete:
+        removeSelected();
+        return true;
+    case Qt::Key_Backspace:
+        edit(true);
+        erase(true);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_F2:
+        edit(true);
+        return true;
+    case Qt::Key_Escape:
+        select(0);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void fLayerCanvas::keyPressEvent(QKeyEvent* event)
+{
+    const auto paste = [] { return QGuiApplication::clipboard()->text(); };
+    if (event->matches(QKeySequence::Paste)) return insert(paste());
+    if (selected_ && event->matches(QKeySequence::Copy))
+        return QGuiApplication::clipboard()->setText(QString(layers_.layer(selected_).text).remove(u'\r'));
+    if (selected_ && (editing_ ? editKey(*event) : layerKey(*event))) return;
+    const QString typed = event->text();
+    const bool isText = !typed.isEmpty() && typed[0].isPrint();
+    if (isText && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
+        return insert(typed);
+    fPicture::keyPressEvent(event); // the page scrolls, the dialog closes
+}
+
+/// What an input method is still composing stands in the text, behind the caret, until it is committed or dropped.
+void fLayerCanvas::dropPreedit()
+{
+    if (preedit_.isEmpty() || selected_ == 0) return preedit_.clear();
+    QString text = layers_.layer(selected_).text;
+    text.remove(caret_, std::exchange(preedit_, {}).size());
+    setText(text, caret_);
+}
+
+void fLayerCanvas::inputMethodEvent(QInputMethodEvent* event)
+{
+    dropPreedit();
+    insert(event->commitString());
+    if (!event->preeditString().isEmpty()) {
+        if (selected_ == 0) addLayer();
+        edit(true);
+        preedit_ = event->preeditString();
+        QString text = layers_.layer(selected_).text;
+        setText(text.insert(caret_, preedit_), caret_);
+    }
+    event->accept();
+}
+
+QVariant fLayerCanvas::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    switch (query) {
+    case Qt::ImEnabled:
+        return true;
+    case Qt::ImCursorRectangle:
+        return cursor_->geometry();
+    case Qt::ImSurroundingText:
+        return selected_ ? layers_.layer(selected_).text : QString();
+    case Qt::ImCursorPosition:
+        return static_cast<int>(caret_);
+    default:
+        return fPicture::inputMethodQuery(query);
+    }
+}
+
+} // namespace velara

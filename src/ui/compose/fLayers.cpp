@@ -1,0 +1,289 @@
+#include "ui/compose/fLayers.h"
+#include "document/Document.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "seams/Setup.h"
+#include "ui/compose/fLayerCanvas.h"
+#include "ui/compose/fLayerList.h"
+#include "ui/compose/mFonts.h"
+#include "ui/widgets/fColorButton.h"
+#include "ui/widgets/fPicturePage.h"
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr int kFirstSize = 7, kLastSize = 69; // the odd ones
+constexpr int kUsualEntry = 4;                // size 15
+
+constexpr struct {
+    int number;
+    const char *caption, *icon;
+    bool TextStyle::*flag; // none: takes all of them away
+} kStyles[] = {{1, "Regular", "edit-clear", nullptr},
+               {3, "Bold", "format-text-bold", &TextStyle::bold},
+               {4, "Italic", "format-text-italic", &TextStyle::italic},
+               {5, "Underline", "format-text-underline", &TextStyle::underline},
+               {6, "Strike out", "format-text-strikethrough", &TextStyle::strikeOut}};
+
+constexpr struct {
+    const char *name, *caption, *word;
+} kSends[] = {{"mnuSend_1", "Save for Web", "IMAGESAVEOPTIONS"}, {"mnuSend_2", "Color Depth", "IMAGECOLORDEPTH"}};
+
+QToolButton* button(const QString& name, const QString& caption, const char* icon = "")
+{
+    auto* made = new QToolButton;
+    made->setObjectName(name);
+    made->setAccessibleName(caption);
+    made->setToolTip(caption);
+    made->setText(caption);
+    made->setIcon(QIcon::fromTheme(QLatin1String(icon)));
+    made->setFocusPolicy(Qt::TabFocus);
+    return made;
+}
+
+} // namespace
+
+fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
+    : QDialog(parent), frame_(frame), document_(document), layers_(frame.platform().fonts()),
+      canvas_(new fLayerCanvas(layers_)),
+      page_(new fPicturePage({"PicFrame", "picImage", "H", "V"}, tr("Picture with its texts"), canvas_)),
+      list_(new fLayerList(layers_)), cFonts_(new QComboBox), Cs_(new QComboBox),
+      cp_(new fColorButton(frame, QStringLiteral("cp"), tr("Color of the text"), this))
+{
+    setObjectName(QStringLiteral("fLayers"));
+    setWindowTitle(QStringLiteral("Apply Text"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(makeFontBar());
+    column->addWidget(makeLayerBar());
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(list_);
+    middle->addWidget(page_, 1);
+    column->addLayout(middle, 1);
+    auto* ok = new QPushButton(QStringLiteral("OK"));
+    ok->setObjectName(QStringLiteral("CmdOK"));
+    auto* exit = new QPushButton(QStringLiteral("Exit"));
+    exit->setObjectName(QStringLiteral("CmdCancel"));
+    auto* last = new QHBoxLayout;
+    last->addStretch();
+    for (QPushButton* each : {ok, exit}) {
+        each->setAutoDefault(false); // Return belongs to the text
+        last->addWidget(each);
+    }
+    column->addLayout(last);
+    connect(ok, &QPushButton::clicked, this, [this] {
+        if (apply()) close();
+    });
+    connect(exit, &QPushButton::clicked, this, &QWidget::close);
+    connectAll();
+    followDocument();
+    resize(760, 560);
+    canvas_->setFocus();
+}
+
+/// What shows the layers goes before them.
+fLayers::~fLayers()
+{
+    hide();
+    delete page_;
+    delete list_;
+}
+
+QWidget* fLayers::makeFontBar()
+{
+    auto* bar = new QWidget;
+    bar->setObjectName(QStringLiteral("tb_Font"));
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    cFonts_->setObjectName(QStringLiteral("cFonts"));
+    cFonts_->setAccessibleName(tr("Font"));
+    cFonts_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cFonts_->setMinimumContentsLength(18);
+    Cs_->setObjectName(QStringLiteral("Cs"));
+    Cs_->setAccessibleName(tr("Size"));
+    fillFonts(*cFonts_, frame_.platform());
+    for (int size = kFirstSize; size <= kLastSize; size += 2) Cs_->addItem(QString::number(size));
+    cFonts_->setCurrentIndex(std::min(1, cFonts_->count() - 1));
+    Cs_->setCurrentIndex(kUsualEntry);
+    row->addWidget(cFonts_);
+    row->addWidget(Cs_);
+    for (const auto& style : kStyles) {
+        QToolButton* each = button(QStringLiteral("tb_Font_%1").arg(style.number), tr(style.caption), style.icon);
+        each->setCheckable(style.flag != nullptr);
+        style_[std::size_t(style.number)] = each;
+        row->addWidget(each);
+        if (style.number == 1) row->addSpacing(8);
+    }
+    cp_->setColour(frame_.setup().ForeColor);
+    cp_->setFixedWidth(44);
+    row->addWidget(cp_);
+    row->addStretch();
+    return bar;
+}
+
+QWidget* fLayers::makeLayerBar()
+{
+    auto* bar = new QWidget;
+    bar->setObjectName(QStringLiteral("tbOthers"));
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(0, 0, 0, 0);
+    QToolButton* add = button(QStringLiteral("tbOthers_1"), tr("New text"), "list-add");
+    delete_ = button(QStringLiteral("tbOthers_2"), tr("Delete text"), "edit-delete");
+    QToolButton* send =
+        button(QStringLiteral("tbOthers_4"), QStringLiteral("Send Optimized Image To"), "document-send");
+    auto* menu = new QMenu(send);
+    for (const auto& entry : kSends) {
+        QAction* action = menu->addAction(QString::fromLatin1(entry.caption));
+        action->setObjectName(QLatin1String(entry.name));
+        connect(action, &QAction::triggered, this, [this, word = QString::fromLatin1(entry.word)] { sendTo(word); });
+    }
+    send->setMenu(menu);
+    send->setPopupMode(QToolButton::InstantPopup);
+    for (QToolButton* each : {add, delete_, send}) {
+        each->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        row->addWidget(each);
+    }
+    row->addStretch();
+    connect(add, &QToolButton::clicked, this, [this] {
+        canvas_->select(0);
+        canvas_->addLayer();
+        canvas_->setFocus();
+    });
+    connect(delete_, &QToolButton::clicked, this, [this] {
+        canvas_->removeSelected();
+        canvas_->setFocus();
+    });
+    return bar;
+}
+
+void fLayers::connectAll()
+{
+    connect(canvas_, &fLayerCanvas::added, list_, &fLayerList::add);
+    connect(canvas_, &fLayerCanvas::removed, list_, &fLayerList::remove);
+    connect(canvas_, &fLayerCanvas::layerChanged, list_, &fLayerList::refresh);
+    connect(canvas_, &fLayerCanvas::selectionChanged, this, [this](int index) {
+        list_->select(index);
+        showStyle(index);
+    });
+    connect(list_, &fLayerList::chosen, this, [this](int index) {
+        canvas_->select(index);
+        list_->select(index); // the button may have let go of its own mark
+        canvas_->setFocus();
+    });
+    connect(list_, &fLayerList::shown, this, [this](int index, bool on) {
+        layers_.setShown(index, on);
+        canvas_->refresh(index);
+    });
+    connect(cFonts_, &QComboBox::currentIndexChanged, this, &fLayers::takeStyle);
+    connect(Cs_, &QComboBox::currentIndexChanged, this, &fLayers::takeStyle);
+    connect(cp_, &fColorButton::colourChanged, this, &fLayers::takeStyle);
+    for (const auto& style : kStyles)
+        connect(style_[std::size_t(style.number)], &QToolButton::clicked, this, [this, regular = !style.flag] {
+            if (regular)
+                for (QToolButton* each : style_)
+                    if (each) each->setChecked(false);
+            takeStyle();
+        });
+    connect(&watch_, &QTimer::timeout, this, [this] {
+        if (!document_) close();
+    });
+    watch_.start(200);
+    takeStyle();
+    showStyle(0);
+}
+
+/// What the controls say goes to the selected layer, and to those to come.
+void fLayers::takeStyle()
+{
+    if (showing_) return;
+    TextStyle style{cFonts_->currentText(), kFirstSize + 2 * std::max(0, Cs_->currentIndex())};
+    for (const auto& row : kStyles)
+        if (row.flag) style.*row.flag = style_[std::size_t(row.number)]->isChecked();
+    canvas_->nextStyle = style;
+    canvas_->nextColour = cp_->colour();
+    if (const int index = canvas_->selected()) {
+        layers_.setStyle(index, style, cp_->colour());
+        canvas_->refresh(index);
+    }
+}
+
+/// The controls take the layer's settings.
+void fLayers::showStyle(int index)
+{
+    delete_->setEnabled(index != 0);
+    if (index == 0) return;
+    const Layer& layer = layers_.layer(index);
+    showing_ = true;
+    selectFont(*cFonts_, frame_.platform(), layer.style.family);
+    Cs_->setCurrentIndex((layer.style.size - kFirstSize) / 2);
+    for (const auto& row : kStyles)
+        if (row.flag) style_[std::size_t(row.number)]->setChecked(layer.style.*row.flag);
+    cp_->setColour(layer.colour);
+    showing_ = false;
+    canvas_->nextStyle = layer.style;
+    canvas_->nextColour = layer.colour;
+}
+
+/// The canvas is the document's picture as it is now.
+void fLayers::followDocument()
+{
+    const Document* document = document_.get();
+    if (!document || !document->PictureExists()) return;
+    if (document->Bits().sharesWith(layers_.canvas())) return;
+    layers_.setCanvas(document->Bits());
+    page_->setBits(layers_.canvas());
+    canvas_->refresh(0);
+}
+
+void fLayers::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) followDocument();
+    QDialog::changeEvent(event);
+}
+
+/// Esc belongs to the canvas; a slip of it must not cost the texts.
+void fLayers::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape) QDialog::keyPressEvent(event);
+}
+
+Bits fLayers::Blend()
+{
+    canvas_->edit(false); // what an input method is still composing is not part of the text
+    followDocument();
+    return layers_.Blend();
+}
+
+/// True when the document has the texts.
+bool fLayers::apply()
+{
+    const QPointer<fLayers> alive = this;
+    if (!document_) return true;
+    const Outcome outcome =
+        frame_.change(document_, [merged = Blend()](Document& draft, cBitFilter&) { draft.setBits(merged); });
+    if (!alive) return false;
+    if (!outcome) frame_.report(windowTitle(), outcome);
+    return outcome || outcome.kind == Outcome::Gone;
+}
+
+void fLayers::sendTo(const QString& word)
+{
+    if (!document_ || frame_.active() != document_)
+        return frame_.platform().message(QStringLiteral("Velara Studio"), tr("Bring this picture to the front first."),
+                                         Icon::Information);
+    const QPointer<fLayers> alive = this;
+    Frame& frame = frame_;
+    if (!apply()) return;
+    if (alive) close();
+    frame.Mmenu(word);
+}
+
+} // namespace velara

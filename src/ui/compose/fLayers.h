@@ -1,0 +1,60 @@
+// fLayers: "Apply Text". Texts are put on a picture of the document, moved and restyled; OK merges them into it. Not
+// modal: the document stays open behind it, and what is changed there shows here as soon as this window is used again.
+#pragma once
+#include "seams/DocumentHandle.h"
+#include "text/Layers.h"
+#include <QDialog>
+#include <QTimer>
+#include <array>
+
+class QComboBox;
+class QToolButton;
+
+namespace velara {
+
+class Frame;
+class fColorButton;
+class fLayerCanvas;
+class fLayerList;
+class fPicturePage;
+
+class fLayers final : public QDialog {
+    Q_OBJECT
+  public:
+    /// Deletes itself when it closes, and closes with the document.
+    fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent = nullptr);
+    ~fLayers() override;
+
+    const DocumentHandle& document() const { return document_; }
+    /// The picture with its texts.
+    Bits Blend();
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QWidget* makeFontBar();
+    QWidget* makeLayerBar();
+    void connectAll();
+    void followDocument();
+    void takeStyle();
+    void showStyle(int index);
+    bool apply();
+    void sendTo(const QString& word);
+
+    Frame& frame_;
+    DocumentHandle document_;
+    Layers layers_;
+    fLayerCanvas* canvas_;
+    fPicturePage* page_;
+    fLayerList* list_;
+    QComboBox *cFonts_, *Cs_;
+    fColorButton* cp_;
+    std::array<QToolButton*, 7> style_{}; // of tb_Font, by number
+    QToolButton* delete_ = nullptr;
+    QTimer watch_;
+    bool showing_ = false;
+};
+
+} // namespace velara

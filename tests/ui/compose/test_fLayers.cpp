@@ -1,0 +1,239 @@
+// The layers dialog, used as a person does: real presses, drags and keys on the canvas, then what the document gets.
+#include "support/RecordingFrame.h"
+#include "support/pictures.h"
+#include "ui/compose/fLayerCanvas.h"
+#include "ui/compose/fLayers.h"
+#include "ui/widgets/fColorButton.h"
+#include <QtTest>
+#include <QtWidgets>
+
+namespace velara {
+namespace {
+
+constexpr int kWidth = 300, kHeight = 200;
+
+struct LayersDialogTest : ::testing::Test {
+    RecordingFrame frame;
+    QTemporaryDir temp;
+    std::unique_ptr<Document> document = std::make_unique<Document>(temp.path(), 1);
+    Bits picture = randomBits(kWidth, kHeight, 3);
+    QPointer<fLayers> dialog;
+
+    LayersDialogTest()
+    {
+        document->takePicture(picture);
+        frame.document = document.get();
+        frame.setup_.ForeColor = 0x0000FF;
+        dialog = new fLayers(frame, document->handle());
+        dialog->show();
+        QTest::qWait(10);
+        find<QComboBox>("Cs")->setCurrentText("11"); // a character is 5 wide, a line 13 high
+    }
+    ~LayersDialogTest() override { delete dialog; }
+
+    template <class T = QWidget> T* find(const QString& name) { return dialog->findChild<T*>(name); }
+    QWidget* canvas() { return find("picImage"); }
+    QRect shape(int index) { return find(QString("lblShape_%1").arg(index))->geometry(); }
+    int layer(QPoint at, const char* text)
+    {
+        QTest::mouseClick(canvas(), Qt::LeftButton, {}, at);
+        QTest::keyClicks(canvas(), text);
+        return static_cast<fLayerCanvas*>(canvas())->selected();
+    }
+    static void drag(QWidget* widget, QPoint from, QPoint by)
+    {
+        const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButtons held) {
+            QMouseEvent event(type, widget->mapFromGlobal(at), at,
+                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, {});
+            QCoreApplication::sendEvent(widget, &event);
+        };
+        const QPoint start = widget->mapToGlobal(from);
+        send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+        send(QEvent::MouseMove, start + by / 2, Qt::LeftButton);
+        send(QEvent::MouseMove, start + by, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, start + by, {});
+    }
+    /// These pixels with a text printed on them.
+    Bits printed(Bits on, QPoint at, const QString& text, TextStyle style = {"Other", 11}, Colour ink = 0x0000FF)
+    {
+        Bits out = on;
+        frame.platform_.recordingFonts.draw(out, at.x(), at.y(), {text}, style, ink);
+        for (int y = 0; y < kHeight; ++y)
+            for (int x = 0; x < kWidth; ++x) out.at(x, y).c[3] = on.at(x, y).c[3];
+        return out;
+    }
+    void ok() { QTest::mouseClick(find<QPushButton>("CmdOK"), Qt::LeftButton); }
+};
+
+TEST_F(LayersDialogTest, OpensWithItsLists)
+{
+    EXPECT_EQ("Apply Text", dialog->windowTitle());
+    const auto* Cs = find<QComboBox>("Cs");
+    EXPECT_EQ(32, Cs->count());
+    EXPECT_EQ("7", Cs->itemText(0));
+    EXPECT_EQ("69", Cs->itemText(31));
+    fLayers again(frame, document->handle());
+    EXPECT_EQ("15", again.findChild<QComboBox*>("Cs")->currentText());
+    EXPECT_EQ("Other", again.findChild<QComboBox*>("cFonts")->currentText());
+    for (int i = 0; i < 8; ++i) EXPECT_FALSE(find(QString("lblGrip_%1").arg(i))->isVisible()) << i;
+    ok();
+    EXPECT_EQ(1, frame.logged("step"));
+    EXPECT_TRUE(sameBits(picture, document->Bits())) << "without texts";
+    EXPECT_TRUE(!dialog || !dialog->isVisible());
+}
+
+TEST_F(LayersDialogTest, TextsAreMergedInTheirOrder)
+{
+    const int first = layer({20, 30}, "hello");
+    EXPECT_EQ(2, first);
+    EXPECT_EQ(QRect(20, 30, 133, 20), shape(first));
+    const int second = layer({200, 120}, "up");
+    find<QAbstractButton>("tb_Font_3")->click();
+    static_cast<fColorButton*>(find("cp"))->setColour(0x00FF00);
+    const int third = layer({20, 150}, "gone");
+    find<QCheckBox>(QString("BT_%1").arg(third))->click();
+    EXPECT_FALSE(find(QString("lblShape_%1").arg(third))->isVisible());
+    EXPECT_TRUE(sameBits(picture, document->Bits())) << "untouched until OK";
+    ok();
+    TextStyle bold{"Other", 11, true};
+    EXPECT_EQ(3, second);
+    EXPECT_TRUE(
+        sameBits(printed(printed(picture, {20, 30}, "hello"), {200, 120}, "up", bold, 0x00FF00), document->Bits()));
+    EXPECT_EQ(1, frame.logged("step"));
+}
+
+TEST_F(LayersDialogTest, DraggingMovesAndEveryGripResizes)
+{
+    const int index = layer({100, 80}, "text");
+    QWidget* outline = find(QString("lblShape_%1").arg(index));
+    drag(outline, {5, 5}, {-30, 17});
+    EXPECT_EQ(QRect(70, 97, 133, 20), shape(index));
+    const struct {
+        Qt::CursorShape pointer;
+        QRect wanted; // after a drag by 6, 4
+    } grips[] = {{Qt::SizeFDiagCursor, {76, 101, 127, 16}}, {Qt::SizeVerCursor, {70, 101, 133, 16}},
+                 {Qt::SizeBDiagCursor, {70, 101, 139, 16}}, {Qt::SizeHorCursor, {70, 97, 139, 20}},
+                 {Qt::SizeFDiagCursor, {70, 97, 139, 24}},  {Qt::SizeVerCursor, {70, 97, 133, 24}},
+                 {Qt::SizeBDiagCursor, {76, 97, 127, 24}},  {Qt::SizeHorCursor, {76, 97, 127, 20}}};
+    for (int i = 0; i < 8; ++i) {
+        QWidget* grip = find(QString("lblGrip_%1").arg(i));
+        ASSERT_TRUE(grip->isVisible()) << i;
+        EXPECT_EQ(grips[i].pointer, grip->cursor().shape()) << i;
+        drag(grip, {4, 4}, {6, 4});
+        EXPECT_EQ(grips[i].wanted, shape(index)) << i;
+        const QPoint back = QRect(70, 97, 133, 20).topLeft() - grips[i].wanted.topLeft();
+        if (i == 0 || i == 1 || i == 2 || i == 6 || i == 7 || back.isNull()) drag(grip, {4, 4}, {-6, -4});
+        EXPECT_EQ(QRect(70, 97, 133, 20), shape(index)) << "and back, " << i;
+    }
+    drag(find("lblGrip_0"), {4, 4}, {900, 900});
+    EXPECT_EQ(QRect(199, 113, 4, 4), shape(index)) << "the other corner stands";
+}
+
+TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
+{
+    const int index = layer({50, 50}, "abc");
+    const auto keys = [&](std::initializer_list<int> list, Qt::KeyboardModifiers with = {}) {
+        for (const int key : list) QTest::keyClick(canvas(), Qt::Key(key), with);
+    };
+    keys({Qt::Key_Left, Qt::Key_Backspace}); // "ac", the caret behind the a
+    QTest::keyClicks(canvas(), "xy");
+    keys({Qt::Key_End, Qt::Key_Return});
+    QTest::keyClicks(canvas(), "d");
+    keys({Qt::Key_Up, Qt::Key_Home, Qt::Key_Delete}); // "xyc", "d"
+    Bits wanted = printed(printed(picture, {50, 50}, "xyc"), {50, 63}, "d");
+    EXPECT_TRUE(sameBits(wanted, dialog->Blend()));
+    EXPECT_EQ(26, shape(index).height()) << "two lines";
+    keys({Qt::Key_Right, Qt::Key_Down});
+    keys({Qt::Key_Left}, Qt::ShiftModifier);
+    EXPECT_EQ(QPoint(41, 51), shape(index).topLeft());
+    QGuiApplication::clipboard()->setText("p\nq");
+    keys({Qt::Key_V}, Qt::ControlModifier);
+    QInputMethodEvent composing(QString("z"), {}), committed;
+    committed.setCommitString("w");
+    QCoreApplication::sendEvent(canvas(), &composing);
+    QCoreApplication::sendEvent(canvas(), &committed);
+    keys({Qt::Key_Escape});
+    wanted = printed(printed(picture, {41, 51}, "p"), {41, 64}, "qwxyc");
+    EXPECT_TRUE(sameBits(printed(wanted, {41, 77}, "d"), dialog->Blend()));
+    keys({Qt::Key_Delete});
+    EXPECT_FALSE(find(QString("lblShape_%1").arg(index)));
+    EXPECT_TRUE(sameBits(picture, dialog->Blend()));
+    EXPECT_TRUE(dialog->isVisible()) << "Esc cost nothing";
+}
+
+TEST_F(LayersDialogTest, ALongTextPastedIsNoHang)
+{
+    QGuiApplication::clipboard()->setText(QString("word ").repeated(20000));
+    layer({1, 1}, "a");
+    QTest::keyClick(canvas(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(QRect(1, 1, 297, kHeight - 1), shape(2)) << "as far as the picture reaches";
+    EXPECT_LT(frame.platform_.recordingFonts.measures, 20000);
+}
+
+TEST_F(LayersDialogTest, ControlsTakeTheSettingsOfTheSelectedLayer)
+{
+    layer({10, 10}, "one");
+    find<QComboBox>("cFonts")->setCurrentText("Fixed");
+    find<QComboBox>("Cs")->setCurrentText("21");
+    find<QAbstractButton>("tb_Font_4")->click();
+    layer({10, 100}, "two");
+    find<QComboBox>("Cs")->setCurrentText("9");
+    find<QAbstractButton>("tb_Font_1")->click();
+    EXPECT_FALSE(find<QAbstractButton>("tb_Font_4")->isChecked());
+    find<QAbstractButton>("pT_2")->click();
+    EXPECT_EQ("Fixed", find<QComboBox>("cFonts")->currentText());
+    EXPECT_EQ("21", find<QComboBox>("Cs")->currentText());
+    EXPECT_TRUE(find<QAbstractButton>("tb_Font_4")->isChecked());
+    EXPECT_TRUE(find<QAbstractButton>("pT_2")->isChecked());
+    EXPECT_FALSE(find<QAbstractButton>("pT_3")->isChecked());
+    QTest::mouseClick(find("lblShape_3"), Qt::LeftButton, {}, {3, 3});
+    EXPECT_EQ("9", find<QComboBox>("Cs")->currentText());
+}
+
+TEST_F(LayersDialogTest, TheListScrollsWhenItIsLong)
+{
+    auto* VV = find<QScrollBar>("VV");
+    EXPECT_FALSE(VV->isEnabled());
+    for (int i = 0; i < 15; ++i) find<QAbstractButton>("tbOthers_1")->click();
+    EXPECT_TRUE(VV->isEnabled());
+    EXPECT_EQ(VV->maximum(), VV->value()) << "the newest is seen";
+    for (int index = 2; index < 16; ++index) {
+        find<QAbstractButton>(QString("pT_%1").arg(index))->click();
+        find<QAbstractButton>("tbOthers_2")->click();
+    }
+    EXPECT_FALSE(VV->isEnabled());
+}
+
+TEST_F(LayersDialogTest, WhatIsChangedBehindItIsNotLost)
+{
+    layer({20, 30}, "hello");
+    const Bits other = randomBits(kWidth, kHeight, 99);
+    document->setBits(other);
+    ok();
+    EXPECT_TRUE(sameBits(printed(other, {20, 30}, "hello"), document->Bits()));
+}
+
+TEST_F(LayersDialogTest, SendsTheMergedPictureOn)
+{
+    layer({20, 30}, "hello");
+    QAction* depth = nullptr;
+    for (QAction* action : find<QToolButton>("tbOthers_4")->menu()->actions())
+        if (action->objectName() == "mnuSend_2") depth = action;
+    ASSERT_TRUE(depth);
+    depth->trigger();
+    EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "hello"), document->Bits()));
+    EXPECT_EQ("word: IMAGECOLORDEPTH", frame.log.back());
+    EXPECT_TRUE(!dialog || !dialog->isVisible());
+}
+
+TEST_F(LayersDialogTest, ClosesWithItsDocument)
+{
+    layer({20, 30}, "hello");
+    document.reset();
+    frame.document = nullptr;
+    QTest::keyClicks(canvas(), "still typing");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog || !dialog->isVisible(); }, 2000));
+}
+
+} // namespace
+} // namespace velara

@@ -1,0 +1,232 @@
+// The textures box, used as a person does: the text that goes to the mouse tool, the effects on the active document.
+#include "commands/effects.h"
+#include "engine/operations.h"
+#include "support/RecordingFrame.h"
+#include "support/filterOf.h"
+#include "support/pictures.h"
+#include "ui/compose/fEffectsPage.h"
+#include "ui/compose/fTextPage.h"
+#include "ui/compose/fToolTextures.h"
+#include "ui/widgets/fPicture.h"
+#include <QtTest>
+#include <QtWidgets>
+
+namespace velara {
+namespace {
+
+struct TexturesBoxTest : ::testing::Test {
+    RecordingFrame frame;
+    QTemporaryDir temp;
+    std::shared_ptr<Document> document = std::make_shared<Document>(temp.path(), 1);
+    std::unique_ptr<fToolTextures> box;
+
+    void open()
+    {
+        document->takePicture(randomBits(40, 30, 4));
+        document->Region.CreateRect(5, 5, 30, 25, Combine::Or, true);
+        frame.document = document.get();
+    }
+    fToolTextures& show(int page)
+    {
+        box = std::make_unique<fToolTextures>(frame);
+        find<QTabWidget>("SSTab1")->setCurrentIndex(page);
+        box->show();
+        return *box;
+    }
+    template <class T> T* find(const char* name) { return box->findChild<T*>(QLatin1String(name)); }
+    void press(const char* name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
+    const Bits& text() { return frame.toolStores_.text; }
+    void textures(const char* name, const Bits& bits)
+    {
+        QDir(frame.platform_.programFolder()).mkpath("Textures");
+        QImage(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * 4, QImage::Format_RGB32)
+            .copy()
+            .save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
+    }
+};
+
+TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
+{
+    frame.setup_.TextFont = "Missing";
+    frame.setup_.TextSize = 20;
+    frame.setup_.TextFlag1 = frame.setup_.TextFlag2 = false;
+    frame.setup_.TextMode = 0;
+    show(0);
+    EXPECT_TRUE(text().isNull()) << "nothing to stamp";
+    EXPECT_EQ("Fixed", find<QComboBox>("cboFont")->currentText()) << "what stands in for it";
+    EXPECT_EQ("Missing", frame.setup_.TextFont) << "until another one is chosen";
+    QTest::keyClicks(find<QPlainTextEdit>("txtText"), "ab");
+    ASSERT_EQ(19, text().width()); // two of 10, less the free column
+    EXPECT_EQ(20, text().height());
+    EXPECT_EQ(0, text().at(0, 0).c[0]);
+    EXPECT_EQ(255, text().at(9, 0).c[0]);
+
+    press("CmdB");
+    EXPECT_EQ(21, text().width());
+    find<QComboBox>("cboFont")->setCurrentText("Other");
+    QTest::keyClicks(find<QComboBox>("cboSize"), "0"); // "200" is too large and changes nothing
+    EXPECT_EQ(21, text().width());
+    find<QComboBox>("cboSize")->setCurrentText("10");
+    EXPECT_EQ(11, text().width());
+    for (const char* typed : {"0", "", "x", "73", "-4"}) find<QComboBox>("cboSize")->lineEdit()->setText(typed);
+    EXPECT_EQ(11, text().width());
+    emit find<QComboBox>("cboSize")->lineEdit()->editingFinished();
+    EXPECT_EQ("10", find<QComboBox>("cboSize")->currentText());
+    find<QComboBox>("cboShadow")->setCurrentText("Bottom Right");
+    EXPECT_EQ(12, text().width());
+    EXPECT_EQ(11, text().height());
+    EXPECT_EQ(127, text().at(11, 10).c[0]) << "the shadow's corner";
+    find<QComboBox>("cboAlign")->setCurrentText("Full Justify");
+
+    const velara::Setup& s = frame.setup_;
+    EXPECT_EQ("Other", s.TextFont);
+    EXPECT_EQ(10, s.TextSize);
+    EXPECT_TRUE(s.TextFlag1);
+    EXPECT_FALSE(s.TextFlag2 || s.TextFlag3);
+    EXPECT_EQ(3, s.TextMode);
+}
+
+TEST_F(TexturesBoxTest, AlignmentShowsInTheWorkPicture)
+{
+    frame.setup_.TextSize = 10;
+    frame.setup_.TextFlag1 = frame.setup_.TextFlag2 = false;
+    show(0);
+    find<QPlainTextEdit>("txtText")->setPlainText("a\nbb");
+    const Bits& work = static_cast<fPicture*>(find<QWidget>("picCustom"))->bits();
+    const int width = work.width();
+    for (const auto& [align, x] : {std::pair{0, 4}, {1, 4 + (width - 8 - 5) / 2}, {2, width - 4 - 5}}) {
+        find<QComboBox>("cboAlign")->setCurrentIndex(align);
+        EXPECT_EQ(0, work.at(x, 5).c[0]) << align;
+        EXPECT_EQ(255, work.at(x - 1, 5).c[0]) << align;
+    }
+    find<QPlainTextEdit>("txtText")->clear();
+    EXPECT_TRUE(text().isNull());
+}
+
+TEST_F(TexturesBoxTest, WhatFitsAtNoSizeIsSaidOnce)
+{
+    show(0);
+    const auto told = [&] {
+        return std::ranges::count(frame.platform_.log,
+                                  "message: Velara Studio: Unable to find suitable font size for text");
+    };
+    find<QPlainTextEdit>("txtText")->setPlainText(QString("line\n").repeated(20000));
+    EXPECT_EQ(1, told());
+    EXPECT_TRUE(text().isNull());
+    QTest::keyClicks(find<QPlainTextEdit>("txtText"), "more");
+    EXPECT_EQ(1, told()) << "not at every key";
+    find<QPlainTextEdit>("txtText")->setPlainText("short");
+    EXPECT_FALSE(text().isNull());
+    find<QPlainTextEdit>("txtText")->setPlainText(QString("line\n").repeated(300));
+    EXPECT_EQ(2, told());
+}
+
+TEST_F(TexturesBoxTest, WithoutFontInformationItSaysSo)
+{
+    frame.platform_.recordingFonts.families.reset();
+    show(0);
+    EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: Failed to get font info"));
+    QTest::keyClicks(find<QPlainTextEdit>("txtText"), "ab");
+    EXPECT_FALSE(text().isNull());
+}
+
+TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
+{
+    open();
+    show(1);
+    EXPECT_EQ("Textures: Emboss", box->windowTitle());
+    EXPECT_EQ("50", find<QLabel>("lblSize")->text());
+    const Bits before = document->Bits();
+    press("tb_23");
+    EXPECT_EQ("Textures: Pixelize", box->windowTitle());
+    EXPECT_TRUE(sameBits(before, document->Bits())) << "chosen, not applied";
+    find<QSlider>("br")->setValue(3);
+    press("CmdApply");
+    const Region region = document->Region.working();
+    const Bits pixelized = run("PIXELIZE", {3}, before, region);
+    EXPECT_TRUE(sameBits(pixelized, document->Bits()));
+    EXPECT_EQ(1, frame.logged("step"));
+    QTest::mouseDClick(find<QWidget>("tb_18"), Qt::LeftButton);
+    EXPECT_TRUE(sameBits(run("Invert", {}, pixelized, region), document->Bits()));
+    frame.setup_.ForeColor = 0x112233;
+    press("tb_28");
+    press("CmdApply");
+    EXPECT_TRUE(
+        sameBits(run("SKETCH", {3, false, 0x112233}, run("Invert", {}, pixelized, region), region), document->Bits()));
+    EXPECT_EQ(3, frame.logged("step"));
+
+    document.reset();
+    frame.document = nullptr;
+    press("CmdApply");
+    EXPECT_EQ("message: Velara Studio: There is no picture open.", frame.platform_.log.back());
+}
+
+TEST_F(TexturesBoxTest, EveryEffectHasItsButtonAndThumbnail)
+{
+    show(1);
+    std::set<QByteArray> pictures;
+    for (int i = 1; i <= kEffects; ++i) {
+        auto* button = find<QToolButton>(qPrintable(QString("tb_%1").arg(i)));
+        ASSERT_TRUE(button) << i;
+        EXPECT_EQ(effects()[std::size_t(i - 1)].name, button->accessibleName().toStdString());
+        const QImage image = button->icon().pixmap(44).toImage();
+        pictures.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+    }
+    EXPECT_EQ(std::size_t(kEffects), pictures.size()) << "no two look alike";
+    auto* V = find<QScrollBar>("V");
+    EXPECT_GT(V->maximum(), 0);
+    V->setValue(V->maximum());
+    const QWidget* tb = find<QWidget>("tb");
+    EXPECT_EQ(tb->parentWidget()->height(), tb->y() + tb->height()) << "the last row";
+    box->resize(900, 900);
+    EXPECT_FALSE(V->isEnabled());
+    EXPECT_EQ(0, tb->y());
+}
+
+TEST_F(TexturesBoxTest, FilesAreTextures)
+{
+    open();
+    const Bits before = document->Bits(), grain = randomBits(7, 5, 9);
+    textures("grain.BMP", grain);
+    textures("one.gif", randomBits(1, 1, 1));
+    textures("not.png", grain);
+    QFile broken(frame.platform_.programFolder() + "/Textures/broken.jpg");
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("junk");
+    broken.close();
+    show(1);
+    auto* list = find<QListWidget>("ListFile");
+    ASSERT_EQ(3, list->count());
+    EXPECT_FALSE(find<QAbstractButton>("CmdFileApply")->isEnabled());
+    for (const int bad : {0, 2}) { // broken.jpg, one.gif
+        list->setCurrentRow(bad);
+        press("CmdFileApply");
+        EXPECT_TRUE(sameBits(before, document->Bits())) << bad;
+    }
+    EXPECT_EQ(0, frame.logged("step"));
+    list->setCurrentRow(1);
+    press("CmdFileApply");
+    EXPECT_EQ(1, frame.logged("step"));
+    EXPECT_FALSE(before == document->Bits());
+
+    frame.platform_.answers = {std::nullopt, temp.path()};
+    press("cmdfile");
+    EXPECT_EQ(3, list->count()) << "cancelled";
+    press("cmdfile");
+    EXPECT_EQ(0, list->count());
+    EXPECT_TRUE(find<QLabel>("lblFolder")->text().startsWith("No texture files"));
+}
+
+TEST_F(TexturesBoxTest, ADocumentOrTheBoxMayGoWhileAnEffectIsAtWork)
+{
+    open();
+    show(1);
+    frame.onCall = [&](const std::string& line) {
+        if (line == "step") box.reset();
+    };
+    press("CmdApply");
+    EXPECT_EQ(1, frame.logged("step"));
+}
+
+} // namespace
+} // namespace velara
