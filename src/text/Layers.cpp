@@ -112,7 +112,8 @@ void Layers::print(Entry& entry)
     if (entry.surface.width() != part.width() || entry.surface.height() != part.height())
         entry.surface = Bits(part.width(), part.height());
     for (int y = 0; y < part.height(); ++y)
-        std::copy_n(canvas_.row(part.top + y) + part.left, part.width(), entry.surface.row(y));
+        std::transform(canvas_.row(part.top + y) + part.left, canvas_.row(part.top + y) + part.right,
+                       entry.surface.row(y), [](Pixel p) { return Pixel{{p.c[0], p.c[1], p.c[2], 255}}; });
     for (std::size_t i = 0; i < entry.lines.size(); ++i) {
         const int top = layer.place.top - part.top + static_cast<int>(i) * entry.lineHeight;
         if (top + entry.lineHeight <= 0 || top >= part.height()) continue;

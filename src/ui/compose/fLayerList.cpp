@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -89,14 +88,12 @@ void fLayerList::refresh(int index)
     row.pT->setAccessibleName(text.isEmpty() ? tr("Empty text") : text);
     row.pT->setToolTip(row.pT->accessibleName());
     row.BT->setAccessibleName(tr("Show %1").arg(row.pT->accessibleName()));
-    QPixmap pixmap(kThumbnail);
-    pixmap.fill(Qt::transparent);
-    if (const Bits small = fittingCopy(layers_.surface(index), kThumbnail); !small.isNull()) {
-        QPainter painter(&pixmap);
-        painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
-                          QImage(small.row(0)->c, small.width(), small.height(),
-                                 small.stride() * qsizetype(sizeof(Pixel)), QImage::Format_RGB32));
-    }
+    const Bits small = fittingCopy(layers_.surface(index), kThumbnail);
+    QPixmap pixmap;
+    if (!small.isNull())
+        pixmap = QPixmap::fromImage(QImage(small.row(0)->c, small.width(), small.height(),
+                                           small.stride() * qsizetype(sizeof(Pixel)), QImage::Format_RGB32)
+                                        .copy());
     row.pT->setIcon(pixmap);
 }
 

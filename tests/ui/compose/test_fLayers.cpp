@@ -186,6 +186,8 @@ TEST_F(LayersDialogTest, ControlsTakeTheSettingsOfTheSelectedLayer)
     EXPECT_TRUE(find<QAbstractButton>("tb_Font_4")->isChecked());
     EXPECT_TRUE(find<QAbstractButton>("pT_2")->isChecked());
     EXPECT_FALSE(find<QAbstractButton>("pT_3")->isChecked());
+    const QImage thumbnail = find<QAbstractButton>("pT_2")->icon().pixmap(104, 34).toImage();
+    EXPECT_EQ(255, qAlpha(thumbnail.pixel(thumbnail.width() / 2, thumbnail.height() / 2)));
     QTest::mouseClick(find("lblShape_3"), Qt::LeftButton, {}, {3, 3});
     EXPECT_EQ("9", find<QComboBox>("Cs")->currentText());
 }
