@@ -220,6 +220,21 @@ TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
     EXPECT_EQ(frame.snapshots, 2);
 }
 
+TEST_F(PaintTools, EscapeEndsADragWithThePictureAsItWas)
+{
+    choose("Text");
+    frame.toolStores_.text = randomBits(10, 8, 4);
+    EXPECT_FALSE(tools->keyDown(Tools::Escape)) << "nothing under way: somebody else's key";
+    press({20, 20});
+    move({30, 24});
+    EXPECT_TRUE(tools->keyDown(Tools::Escape));
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    move({40, 24}); // the button is still down
+    release({40, 24});
+    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_EQ(frame.snapshots, 0);
+}
+
 TEST_F(PaintTools, GradientsRunFromPressToRelease)
 {
     choose("Gradient");
