@@ -113,7 +113,9 @@ void Layers::print(Entry& entry)
         entry.surface = Bits(part.width(), part.height());
     for (int y = 0; y < part.height(); ++y)
         std::transform(canvas_.row(part.top + y) + part.left, canvas_.row(part.top + y) + part.right,
-                       entry.surface.row(y), [](Pixel p) { return Pixel{{p.c[0], p.c[1], p.c[2], 255}}; });
+                       entry.surface.row(y), [](Pixel p) {
+                           return Pixel{{p.c[0], p.c[1], p.c[2], 255}};
+                       });
     for (std::size_t i = 0; i < entry.lines.size(); ++i) {
         const int top = layer.place.top - part.top + static_cast<int>(i) * entry.lineHeight;
         if (top + entry.lineHeight <= 0 || top >= part.height()) continue;

@@ -43,7 +43,8 @@ class Layers {
     /// Sides below kLeastSide become that long.
     void setPlace(int index, const Rect& place);
 
-    /// What the layer shows (fourth bytes 255), and where that part of its place lies in the picture; empty when it lies outside.
+    /// What the layer shows (fourth bytes 255), and where that part of its place lies in the picture; empty when it
+    /// lies outside.
     const Bits& surface(int index) const { return layers_.at(index).surface; }
     Rect visible(int index) const;
     /// Of the caret before this character of the text: the place in the picture, and its height.

@@ -1,0 +1,99 @@
+// Text and effects in the frame: the box and the mouse tool, the layers dialog, and what the document and its undo
+// files make of them.
+#include "app/frame/fToolPane.h"
+#include "app/frame/frameTest.h"
+#include "ui/compose/fLayers.h"
+#include "ui/compose/fToolTextures.h"
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QTest>
+
+namespace velara {
+
+struct FrameText : FrameTest {
+    template <class T = QWidget> T* find(const char* name) { return frame->findChild<T*>(name); }
+    void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
+    {
+        auto* display = image->findChild<QWidget*>("iDst");
+        QMouseEvent event(type, at, display->mapToGlobal(QPointF(at)),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(display, &event);
+    }
+    void drag(fImage* image, QPoint from, QPoint to)
+    {
+        mouse(image, QEvent::MouseButtonPress, from, Qt::LeftButton);
+        mouse(image, QEvent::MouseMove, to, Qt::LeftButton);
+        mouse(image, QEvent::MouseButtonRelease, to, Qt::NoButton);
+    }
+};
+
+TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
+{
+    setup.ToolOpacity = 60;
+    setup.ForeColor = 0x2040FF;
+    const Bits before = flatBits(120, 90, 200, 180, 160);
+    fImage* image = open(before);
+    image->document().Region.CreateRect(30, 20, 70, 60, Combine::Or, true);
+    image->document().handTo(frame->filter());
+    if (!find("fToolTextures")->isVisible()) frame->action("VIEWS_5")->trigger();
+    QTest::keyClicks(find<QPlainTextEdit>("txtText"), "abc");
+    QTest::mouseClick(find("cmdPlace"), Qt::LeftButton);
+    EXPECT_EQ("Text", setup.CurrentTool.trimmed());
+    EXPECT_TRUE(frame->toolPane().button("Text")->isChecked());
+    const Bits text = frame->toolStores().text;
+    ASSERT_FALSE(text.isNull());
+
+    drag(image, {20, 20}, {55, 45});
+    Document twin({}, 0);
+    twin.takePicture(before);
+    twin.Region = image->document().Region;
+    const auto held = [](int size) { return (size + 1) / 2 + 1; }; // the upper bound counts the margin
+    twin.paint.BitsBWMask(55 - held(text.width()), 45 - held(text.height()), text, 0x2040FF, 60);
+    EXPECT_FALSE(before == twin.Bits());
+    EXPECT_TRUE(sameBits(twin.Bits(), image->Bits()));
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(before, image->Bits()));
+    frame->Mmenu("REDO");
+    EXPECT_TRUE(sameBits(twin.Bits(), image->Bits()));
+
+    const Bits stamped = image->Bits();
+    mouse(image, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
+    mouse(image, QEvent::MouseMove, {40, 40}, Qt::LeftButton);
+    QTest::keyClick(image->findChild<QWidget*>("iDst"), Qt::Key_Escape);
+    mouse(image, QEvent::MouseButtonRelease, {40, 40}, Qt::NoButton);
+    EXPECT_TRUE(sameBits(stamped, image->Bits())) << "Esc";
+}
+
+TEST_F(FrameText, TheBoxIsShownAndHiddenByItsMenuItem)
+{
+    QAction* item = frame->action("VIEWS_5");
+    const bool before = setup.TexturesBoxVisible;
+    item->trigger();
+    EXPECT_EQ(!before, setup.TexturesBoxVisible);
+    EXPECT_EQ(!before, find("fToolTextures")->isVisible());
+    item->trigger();
+    EXPECT_EQ(before, setup.TexturesBoxVisible);
+}
+
+TEST_F(FrameText, LayersAreMergedIntoTheirOwnDocument)
+{
+    frame->Mmenu("TEXTTOOLS");
+    EXPECT_FALSE(frame->findChild<fLayers*>()) << "no document";
+    const Bits first = flatBits(200, 100, 9, 9, 9), second = flatBits(50, 40, 1, 2, 3);
+    fImage* a = open(first, "a.bmp");
+    frame->Mmenu("TEXTTOOLS");
+    const QPointer<fLayers> dialog = frame->findChild<fLayers*>();
+    ASSERT_TRUE(dialog);
+    frame->Mmenu("TEXTTOOLS");
+    EXPECT_EQ(1, frame->findChildren<fLayers*>().size()) << "the one that is there";
+    QTest::keyClicks(dialog->findChild<QWidget*>("picImage"), "hello");
+    fImage* b = open(second, "b.bmp");
+    QTest::mouseClick(dialog->findChild<QWidget*>("CmdOK"), Qt::LeftButton);
+    EXPECT_FALSE(first == a->Bits());
+    EXPECT_TRUE(a->document().Changed);
+    EXPECT_TRUE(sameBits(second, b->Bits()));
+    EXPECT_TRUE(frame->filter().bits() == second) << "the engine holds the active one's";
+    EXPECT_TRUE(!dialog || !dialog->isVisible());
+}
+
+} // namespace velara
