@@ -16,6 +16,8 @@ struct ToolStores {
     // The pane that pops up from the strip has an opacity of its own for moved content.
     bool useMovePressure = false;
     int movePressure = 50;
+    // The pane of the text tool: an effect by its number, and its amount.
+    int effect = 8, effectAmount = 5;
 };
 
 } // namespace velara

@@ -59,7 +59,10 @@ constexpr PaneRow kGradient[] = { // above its preview
     slider<&Setup::GradientFrequency>  ("sbGradFrequency", "Frequency", 1, 20),
     slider<&Setup::GradientPressure>   ("sbGradPressure", "Pressure", 0, 100),
 };
-constexpr PaneRow kText[] = {slider<&Setup::ToolOpacity>("sbTextOpacity", "Opacity", 0, 100)};
+constexpr PaneRow kText[] = { // above the list of effects
+    slider<&Setup::ToolOpacity>      ("sbTextOpacity", "Opacity", 0, 100),
+    slider<&ToolStores::effectAmount>("sbAmount", "Amount %", 1, 100),
+};
 constexpr PaneRow kPencil[] = {slider<&Setup::ToolOpacity>("sbPencilOpacity", "Opacity", 0, 100)};
 
 constexpr ToolRow kTools[] = {
@@ -72,7 +75,7 @@ constexpr ToolRow kTools[] = {
     {"Airbrush",      airbrushTool,      'A', "Airbrush",           "tool_spraycan",      Pointer::cAirBrush, kAirbrush,      "AirBrush",      "FAirbrush"},
     {"Stamp",         stampTool,         'K', "Stamp",              ":stamp",             Pointer::cTextures, kStamp,         "Stamp",         "FStamp"},
     {"Gradient",      gradientTool,      'G', "Gradient",           "color-gradient",     Pointer::cGradient, kGradient,      "Gradient",      "FGradient"},
-    {"Text",          textTool,          'T', "Text",               "draw-text",          Pointer::cPencil,   kText,          "Text",          "FText"},
+    {"Text",          textTool,          'T', "Text",               "draw-text",          Pointer::cPencil,   kText,          "Text",          "FEffect"},
     {"Pencil",        pencilTool,        'P', "Pencil",             "draw-freehand",      Pointer::cPencil,   kPencil,        "Pencil",        "FPencil"},
 };
 constexpr ToolRow kPaste = {"Paste", pasteTool, 0, "Paste", "edit-paste", Pointer::Sizing};

@@ -50,14 +50,16 @@ void fMain::crop()
     }
 }
 
-/// One window a document: who asks again finds the texts that wait there.
+/// Who asks again finds the texts that wait there; those of another picture are not thrown away either.
 void fMain::textTools()
 {
     const DocumentHandle document = active();
     if (!document || !document->PictureExists()) return;
     fLayers* window = nullptr;
     for (fLayers* open : findChildren<fLayers*>())
-        if (open->document() == document && open->isVisible()) window = open;
+        if (open->isVisible() && (open->document() == document || open->hasTexts())) window = open;
+    if (window && window->document() != document)
+        report(tr("Apply Text"), {Outcome::Failed, tr("the texts of another picture wait for OK or Exit")});
     if (!window) window = new fLayers(*this, document, this);
     window->show();
     window->raise();

@@ -1,6 +1,7 @@
 #include "ui/compose/fEffectsPage.h"
 #include "commands/effects.h"
 #include "document/Document.h"
+#include "document/stockTextures.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -164,6 +165,7 @@ void fEffectsPage::drawThumbnails()
 void fEffectsPage::showEvent(QShowEvent* event)
 {
     drawThumbnails();
+    if (!QFileInfo::exists(folder_)) writeStockTextures(frame_.platform()); // at the first time
     CheckImagesFile();
     QWidget::showEvent(event);
 }

@@ -6,6 +6,7 @@
 #include "ui/compose/fLayerCanvas.h"
 #include "ui/compose/fLayerList.h"
 #include "ui/compose/mFonts.h"
+#include "ui/widgets/ActiveComposer.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicturePage.h"
 #include <QComboBox>
@@ -61,6 +62,7 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     setObjectName(QStringLiteral("fLayers"));
     setWindowTitle(QStringLiteral("Apply Text"));
     setAttribute(Qt::WA_DeleteOnClose);
+    ActiveComposer::take(Composer::Layers, this);
     auto* column = new QVBoxLayout(this);
     column->addWidget(makeFontBar());
     column->addWidget(makeLayerBar());

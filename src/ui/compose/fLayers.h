@@ -26,6 +26,7 @@ class fLayers final : public QDialog {
     ~fLayers() override;
 
     const DocumentHandle& document() const { return document_; }
+    bool hasTexts() const { return !layers_.indices().empty(); }
     /// The picture with its texts.
     Bits Blend();
 

@@ -1,6 +1,7 @@
 #include "ui/panes/fToolPanes.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
+#include "ui/panes/fEffect.h"
 #include "ui/panes/fGradient.h"
 #include "ui/panes/fStamp.h"
 #include <QScrollArea>
@@ -19,7 +20,7 @@ template <class Pane> fPane* own(Frame& frame, const QString& name, std::span<co
 {
     return new Pane(frame, name, rows);
 }
-constexpr OwnPane kOwnPanes[] = {{"Stamp", own<FStamp>}, {"Gradient", own<FGradient>}};
+constexpr OwnPane kOwnPanes[] = {{"Stamp", own<FStamp>}, {"Gradient", own<FGradient>}, {"Text", own<FEffect>}};
 
 fPane* make(const ToolRow& tool, Frame& frame, const char* name)
 {

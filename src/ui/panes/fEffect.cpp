@@ -1,0 +1,71 @@
+#include "ui/panes/fEffect.h"
+#include "commands/effects.h"
+#include "document/Document.h"
+#include "seams/Frame.h"
+#include <QLabel>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+constexpr int kShownEffects = 7; // rows of the list that are seen at once
+
+QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+} // namespace
+
+FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> rows)
+    : fPane(frame, name, rows), lstEffects_(new QListWidget(this))
+{
+    lstEffects_->setObjectName(QStringLiteral("lstEffects"));
+    lstEffects_->setAccessibleName(tr("Effects"));
+    for (const Effect& effect : effects()) lstEffects_->addItem(textOf(effect.name));
+    lstEffects_->setFixedHeight(lstEffects_->sizeHintForRow(0) * kShownEffects + 2 * lstEffects_->frameWidth());
+    lstEffects_->setCurrentRow(frame.toolStores().effect - 1);
+    connect(lstEffects_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0) this->frame().toolStores().effect = row + 1;
+    });
+    connect(lstEffects_, &QListWidget::itemActivated, this, &FEffect::apply);
+    auto* caption = new QLabel(QStringLiteral("Show "), this);
+    caption->setBuddy(lstEffects_);
+    auto* button = new QPushButton(tr("Apply"), this);
+    button->setObjectName(QStringLiteral("cmdEffect"));
+    button->setAccessibleName(tr("Apply the effect"));
+    connect(button, &QPushButton::clicked, this, &FEffect::apply);
+    column()->addWidget(caption);
+    column()->addWidget(lstEffects_);
+    column()->addWidget(button);
+    edited();
+}
+
+void FEffect::edited()
+{
+    // During the base's own making there is no label yet.
+    if (auto* label = findChild<QLabel*>(QStringLiteral("lblsbAmount")))
+        label->setText(QString::number(frame().toolStores().effectAmount) + u'%');
+}
+
+void FEffect::apply()
+{
+    if (running_) return; // an effect at work yields
+    const QPointer<FEffect> alive = this;
+    Frame& owner = frame();
+    const DocumentHandle document = owner.active();
+    if (!document) return;
+    const int index = owner.toolStores().effect, amount = owner.toolStores().effectAmount;
+    const Colour colour = owner.setup().ForeColor;
+    running_ = true;
+    const Outcome outcome = owner.change(document, [=](Document& draft, cBitFilter& filter) {
+        ApplyTexture(filter, index, amount, colour);
+        draft.setBits(filter.bits());
+    });
+    if (!alive) return;
+    running_ = false;
+    if (!outcome) owner.report(textOf(effects()[std::size_t(index - 1)].name), outcome);
+}
+
+} // namespace velara

@@ -1,0 +1,24 @@
+// FEffect: the pane of the text tool: its opacity, and the effects of the textures box at a small amount.
+#pragma once
+#include "ui/panes/fPane.h"
+
+class QListWidget;
+
+namespace velara {
+
+class FEffect final : public fPane {
+    Q_OBJECT
+  public:
+    FEffect(Frame& frame, const QString& name, std::span<const PaneRow> rows);
+
+    /// Runs the chosen effect on the active document.
+    void apply();
+
+  private:
+    void edited() override;
+
+    QListWidget* lstEffects_;
+    bool running_ = false;
+};
+
+} // namespace velara
