@@ -56,6 +56,29 @@ Decoded onWhite(const QImage& image)
             {}};
 }
 
+namespace {
+
+/// Qt takes no notice of the mask below a picture of 24 bits in an icon: what it masks becomes transparent here.
+QImage masked(const QImage& image, const FileBytes& file)
+{
+    constexpr std::size_t kFirstOffset = 6 + 12, kHeader = 40, kBits = 14;
+    const std::size_t at = file.little32(kFirstOffset);
+    if (file.little32(at) != kHeader || file.little16(at + kBits) != 24 || image.depth() != 32) return image;
+    const auto lineOf = [](std::size_t bits) { return (bits + 31) / 32 * 4; };
+    const auto width = static_cast<std::size_t>(image.width()), height = static_cast<std::size_t>(image.height());
+    QImage out(image.size(), QImage::Format_ARGB32);
+    for (std::size_t y = 0; y < height; ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(static_cast<int>(y)));
+        auto* to = reinterpret_cast<QRgb*>(out.scanLine(static_cast<int>(y)));
+        const std::size_t mask = at + kHeader + lineOf(24 * width) * height + lineOf(width) * (height - 1 - y);
+        for (std::size_t x = 0; x < width; ++x)
+            to[x] = file.byte(mask + x / 8) << x % 8 & 0x80 ? 0 : from[x]; // the file has the lowest row first
+    }
+    return out;
+}
+
+} // namespace
+
 Decoded readByQt(FileBytes& file, const char* format)
 {
     QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.bytes().data()),
@@ -72,7 +95,7 @@ Decoded readByQt(FileBytes& file, const char* format)
     const QImage image = reader.read();
     if (image.isNull()) return {};
     if (!Bits::sizeAllowed(image.width(), image.height())) return refused(kTooBig);
-    return onWhite(image);
+    return onWhite(reader.format() == "ico" || reader.format() == "cur" ? masked(image, file) : image);
 }
 
 // Qt's readers of both give what there is of a file without its end and say nothing.

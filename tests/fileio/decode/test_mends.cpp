@@ -72,6 +72,28 @@ const std::string kPalette("\x10\x20\x30\0\x40\x50\x60\0\x70\x80\x90\0\xa0\xb0\x
 
 } // namespace
 
+TEST(Mends, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
+{
+    // two by two, the lowest row first: the mask takes the right pixel above and the left one below
+    const std::string mask = std::string("\x80\0\0\0\x40\0\0\0", 8);
+    const struct {
+        std::uint32_t bits;
+        std::string palette, pixels;
+    } rows[] = {{24, "", std::string("\0\0\0\x30\x20\x10\0\0\x60\x50\x40\0\0\0\0\0", 16)},
+                {8, std::string("\0\0\0\0\x30\x20\x10\0\x60\x50\x40\0", 12), std::string("\0\1\0\0\2\0\0\0", 8)}};
+    for (const auto& r : rows)
+        for (const char* extension : {"ico", "cur"}) {
+            const std::string palette = r.palette + std::string(r.bits == 8 ? 1024 - r.palette.size() : 0, '\0');
+            const std::string picture = little(40, 4) + little(2, 4) + little(4, 4) + little(1, 2) + little(r.bits, 2) +
+                                        std::string(24, '\0') + palette + r.pixels + mask;
+            const std::string icon = little(0, 2) + little(extension == std::string("ico") ? 1 : 2, 2) + little(1, 2) +
+                                     "\2\2" + little(0, 2) + little(1, 2) + little(r.bits, 2) +
+                                     little(static_cast<std::uint32_t>(picture.size()), 4) + little(22, 4) + picture;
+            EXPECT_EQ((Colours{0x405060, 0xFFFFFF, 0xFFFFFF, 0x102030}), coloursOf(decodeBytes(icon, extension)))
+                << r.bits << " bits, " << extension;
+        }
+}
+
 TEST(Mends, BitmapsOfEveryHeader)
 {
     const std::string true24 = std::string("\1\2\3\4\5\6\0\0", 8) + std::string("\7\x8\x9\xa\xb\xc\0\0", 8);
