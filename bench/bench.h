@@ -17,6 +17,7 @@ struct Trial {
     std::function<void()> body;
     std::function<void()> reference; // empty: one memcpy of the picture's buffer into a warm destination
     double share = 1;
+    std::function<void()> before = {}; // runs before each body, untimed
 };
 
 /// One line of the table. must and goal are the highest figures allowed, 0 for none. prepare runs before the timing.

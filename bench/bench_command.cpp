@@ -33,6 +33,7 @@ struct Desk {
         QPainter painter(&window);
         renderer.paint(painter, document.Bits(), {101, 57, 1, 1}, {0, 0, 1920, 1080}, {});
         document.SaveUndoBits();
+        document.undo.stands();
     }
 };
 

@@ -1,7 +1,9 @@
 // The undo series on disk, and the live preview of the filters that have a dialog. The files stay in the page cache.
 #include "bench.h"
 #include "commands/FilterPreview.h"
-#include "document/UndoStore.h"
+#include "document/Document.h"
+#include "engine/cBitFilter.h"
+#include "tools/PreviewBuffer.h"
 #include <QTemporaryDir>
 #include <memory>
 
@@ -20,8 +22,44 @@ Row row(std::string name, double must, double goal, int snapshots, void (*body)(
                 const auto series = std::make_shared<Series>();
                 const Bits bits = picture(size);
                 for (int i = 0; i < snapshots; ++i) series->store.save(bits);
+                series->store.stands();
                 return Trial{[=] { body(series->store, bits); }, {}};
             }};
+}
+
+/// What the release of the button costs: the stroke goes to the engine and its snapshot on its way. The one before has
+/// long been written, as when a person paints.
+Row release()
+{
+    struct Stroke {
+        QTemporaryDir folder;
+        Document document{folder.path(), 1};
+        cBitFilter filter;
+        PreviewBuffer preview{document, filter};
+        double longest = 0;
+        ~Stroke() { document.undo.deleteSeries(); }
+    };
+    return {"undo store",
+            "release of a stroke",
+            16,
+            4,
+            [](Size size) {
+                const auto s = std::make_shared<Stroke>();
+                s->document.takePicture(picture(size));
+                s->document.handTo(s->filter);
+                s->document.SaveUndoBits();
+                const auto press = [s] {
+                    s->document.undo.stands();
+                    s->preview.begin();
+                    s->document.paint.BitsLine(100, 100, 1100, 700, 0xFF, 100);
+                };
+                const auto release = [s] {
+                    s->preview.commit();
+                    s->document.SaveUndoBits();
+                };
+                return Trial{release, {}, 1, press};
+            },
+            "ms"};
 }
 
 Row previews()
@@ -41,11 +79,16 @@ Row previews()
 }
 
 const Rows undo{
-    row("snapshot written, ten stand", 3, 1.8, 10, [](UndoStore& store, const Bits& bits) { store.save(bits); }),
+    row("snapshot written, ten stand", 3, 1.8, 10,
+        [](UndoStore& store, const Bits& bits) {
+            store.save(bits);
+            store.stands();
+        }),
     row("read back", 3, 1.3, 3,
         [](UndoStore& store, const Bits&) {
             if (!store.undo()) store.redo();
         }),
+    release(),
     previews(),
 };
 

@@ -59,9 +59,12 @@ try {
     Trial trial = row.prepare(size);
     if (!trial.reference) trial.reference = copying(size);
     std::vector<double> bodies, figures;
+    if (!trial.before) trial.before = [] {};
+    trial.before();
     trial.body();
     for (auto _ : state) {
         const double reference = timed ? 1 : milliseconds(trial.reference, clock);
+        trial.before();
         bodies.push_back(milliseconds(trial.body, clock));
         figures.push_back(bodies.back() / (reference * trial.share));
         state.SetIterationTime(bodies.back() / 1000);

@@ -3,31 +3,64 @@
 #include "app/menus/fMenuStyle.h"
 #include "app/start/defaultPictures.h"
 #include "app/start/fSplash.h"
+#include "document/undo/UndoMark.h"
+#include "fileio/OutputFile.h"
 #include "fileio/SetupStore.h"
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QPointer>
 #include <QScreen>
 #include <algorithm>
+#include <functional>
 
 namespace velara {
+
+namespace {
+
+/// Whole, or not at all.
+bool writeBmp(const QImage& picture, const QString& path)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    OutputFile file(path);
+    return picture.save(&buffer, "BMP") && file.write(bytes.constData(), static_cast<std::size_t>(bytes.size())) &&
+           file.commit();
+}
+
+/// Fills a folder that is missing, and replaces pictures of it that a full disk left empty; others that are gone were
+/// deleted. A folder that can't be filled goes again, so that the next start tries anew.
+bool makePictures(const QDir& folder, const std::function<QString(int)>& nameOf, QList<QImage> (*draw)())
+{
+    const bool isNew = !folder.exists();
+    const auto isWanted = [&](int n) {
+        const QFileInfo file(folder.filePath(nameOf(n)));
+        return isNew || (file.exists() && file.size() == 0);
+    };
+    const auto count = folder.entryList(QDir::Files).size();
+    bool anyWanted = isNew;
+    for (int n = 1; n <= count; ++n) anyWanted |= isWanted(n);
+    if (!anyWanted) return true;
+    bool made = QDir().mkpath(folder.path());
+    int n = 0;
+    for (const QImage& picture : draw())
+        if (isWanted(++n)) made &= writeBmp(picture, folder.filePath(nameOf(n)));
+    if (!made && isNew) QDir(folder).removeRecursively();
+    return made;
+}
+
+} // namespace
 
 bool makeFolders(Platform& platform)
 {
     const QDir program(platform.programFolder());
-    bool made = true;
-    if (!program.exists("Stamps")) {
-        made &= program.mkpath("Stamps");
-        int n = 1;
-        for (const QImage& stamp : defaultStamps())
-            made &= stamp.save(program.filePath(QString("Stamps/Velara%1.bmp").arg(n++)), "BMP");
-    }
-    made &= program.mkpath("Temp");
-    if (!program.exists("Images")) {
-        made &= program.mkpath("Images");
-        made &= defaultImage().save(program.filePath("Images/Velara.bmp"), "BMP");
-    }
-    return made && QFileInfo(program.filePath("Temp")).isWritable();
+    const QString temp = program.filePath("Temp");
+    bool made = makePictures(
+        program.filePath("Stamps"), [](int n) { return QString("Velara%1.bmp").arg(n); }, defaultStamps);
+    made &= makePrivateFolder(temp);
+    made &= makePictures(
+        program.filePath("Images"), [](int) { return QString("Velara.bmp"); }, [] { return QList{defaultImage()}; });
+    return made && QFileInfo(temp).isWritable();
 }
 
 void placeFrame(QWidget& frame, const Setup& setup)

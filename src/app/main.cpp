@@ -26,6 +26,7 @@ class Application final : public QApplication {
 
 int main(int argc, char** argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false); // each move of a stroke counts
     Application application(argc, argv);
     application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes still stand
     application.setStyle(new velara::fMenuStyle);

@@ -11,7 +11,11 @@ struct Option {
     bool CommandLine::*flag;
 };
 constexpr Option kOptions[] = {
-    {"--verbose", &CommandLine::verbose}, {"--help", &CommandLine::help}, {"--list", &CommandLine::list}};
+    {"--verbose", &CommandLine::verbose},
+    {"--help", &CommandLine::help},
+    {"--list", &CommandLine::list},
+    {"--partial", &CommandLine::partial},
+};
 
 /// Sets the flag of an option without a value; false when text is none.
 bool takeOption(CommandLine& line, const QString& text)

@@ -22,7 +22,7 @@ struct CommandLine {
     QString input, output;
     std::vector<Step> steps;
     std::optional<WebOrder> web; // OUTPUT is a web file
-    bool verbose = false, help = false, list = false;
+    bool verbose = false, help = false, list = false, partial = false;
 
     /// Throws Failure that names the argument that is of no use.
     static CommandLine parse(const QStringList& arguments);

@@ -27,17 +27,22 @@ void Session::open(const Bits& bits, bool keepSteps)
     document_.emplace(folder_ ? folder_->path() : QString(), 0);
     document_->takePicture(bits);
     document_->handTo(filter_);
-    filter_.clock = [this] { return platform_.milliseconds(); };
-    if (folder_ && !document_->SaveUndoBits()) throw stepsFault();
+    if (!filter_.Progress) filter_.clock = [] { return 0U; }; // no report ever falls due
+    if (folder_) document_->SaveUndoBits();
+    checkSteps();
+}
+
+void Session::checkSteps()
+{
+    if (folder_ && !document_->undo.stands()) throw stepsFault();
 }
 
 void Session::change(const Job& job, After after)
 {
-    bool kept = false;
     try {
         Draft draft(*document_, document_->Bits(), filter_, after);
         draft.run(job);
-        kept = draft.take();
+        draft.take();
         draft.handTo(filter_, true);
     } catch (const RuntimeError& error) {
         throw operationFailed(QString::fromLatin1(error.what()));
@@ -46,7 +51,7 @@ void Session::change(const Job& job, After after)
     } catch (const std::bad_alloc&) {
         throw operationFailed(QStringLiteral("Out of memory"));
     }
-    if (folder_ && !kept) throw stepsFault();
+    checkSteps();
 }
 
 void Session::crop()

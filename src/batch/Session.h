@@ -34,10 +34,16 @@ class Session {
         document_->handTo(filter_);
     }
 
-    /// Percent of the step that runs.
-    void setProgress(std::function<void(int)> progress) { filter_.Progress = std::move(progress); }
+    /// Percent of the step that runs. Where it is not asked for, pictures of one row have no error for want of one.
+    void setProgress(std::function<void(int)> progress)
+    {
+        filter_.Progress = std::move(progress);
+        filter_.clock = [this] { return platform_.milliseconds(); };
+    }
 
   private:
+    void checkSteps();
+
     Platform& platform_;
     cBitFilter filter_;
     std::optional<QTemporaryDir> folder_; // of the undo series

@@ -64,6 +64,7 @@ dialog's lists; one that there is not prints those that there are:
   --max-bytes N          for JPEG: the best quality that is not larger
 
 --list     prints every word and every operation with its arguments
+--partial  takes what is there of a picture file whose end is missing
 --verbose  tells on the error output what is done, and how far it is
 --help     prints this
 --         what follows are no options

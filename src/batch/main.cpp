@@ -1,6 +1,7 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
+#include "fileio/OutputFile.h"
 #include "fileio/savePicture.h"
 #include <QCoreApplication>
 #include <QFile>
@@ -30,26 +31,47 @@ Target targetOf(const QString& output)
     return {name, QStringLiteral("pnm"), name + QStringLiteral("ppm")};
 }
 
-Bits read(Platform& platform, const QString& path)
+Bits read(Platform& platform, const QString& path, bool partial)
 {
     const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
     if (!picture.ok()) throw fileFault(picture.reason);
+    if (!picture.reason.isEmpty() && !partial)
+        throw fileFault(picture.reason + QStringLiteral("; --partial takes what is there"));
     return picture.bits;
+}
+
+Failure cannotBeWritten(const QString& output, const QString& reason = {})
+{
+    return fileFault(output + QStringLiteral(" can't be written") +
+                     (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
+}
+
+/// The file that a target comes to, behind links. What can't become a picture is refused before any work.
+QString fileOf(const QString& output)
+{
+    const QString file = behindLinks(targetOf(output).file);
+    if (file.isEmpty()) throw cannotBeWritten(output, QStringLiteral("it is a link in a circle, or somebody else's"));
+    if (output.endsWith(u'/') || QFileInfo(file).isDir())
+        throw cannotBeWritten(output, QStringLiteral("it is a folder"));
+    return file;
 }
 
 void write(Platform& platform, const Bits& bits, const QString& output)
 {
     const Target target = targetOf(output);
-    const bool isNew = !QFileInfo::exists(target.file);
+    const QString file = fileOf(output);
+    const bool isNew = !QFileInfo::exists(file);
     switch (savePicture(platform, bits, target.name, target.extension)) {
     case SaveResult::Written:
         return;
     case SaveResult::NotWritten:
-        throw fileFault(output + QStringLiteral(" can't be written: pictures are written as png, gif, jpg, bmp, tif, "
-                                                "pcx, tga, ppm, pgm and pbm"));
+    case SaveResult::Refused:
+        throw cannotBeWritten(output, QStringLiteral("pictures are written as png, gif, jpg, bmp, tif, pcx, tga, ppm, "
+                                                     "pgm and pbm"));
     case SaveResult::Failed:
-        if (isNew) QFile::remove(target.file); // a half-written JPEG
-        throw fileFault(output + QStringLiteral(" can't be written"));
+    case SaveResult::FailedAndTold:
+        if (isNew) QFile::remove(file); // a half-written JPEG
+        throw cannotBeWritten(output);
     }
 }
 
@@ -85,7 +107,8 @@ void run(const QStringList& arguments)
         return;
     }
     BatchPlatform platform;
-    const auto readPicture = [&](const QString& path) { return read(platform, path); };
+    fileOf(line.output);
+    const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
     const Bits input = readPicture(line.input);
     for (const Step& step : line.steps)
         if (step.prepare) step.prepare(readPicture);

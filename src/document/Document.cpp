@@ -36,11 +36,11 @@ void Document::takeFrom(const cBitFilter& filter)
         takePicture(bits);
 }
 
-bool Document::commit()
+void Document::commit()
 {
     Changed = true;
     Zoomed = false;
-    return SaveUndoBits();
+    SaveUndoBits();
 }
 
 bool Document::step(const std::optional<velara::Bits>& picture, cBitFilter& filter)
@@ -52,6 +52,7 @@ bool Document::step(const std::optional<velara::Bits>& picture, cBitFilter& filt
     else
         bits_ = *picture;
     handTo(filter);
+    Zoomed = false;
     return true;
 }
 

@@ -1,7 +1,7 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
 // its window; the batch program uses it alone.
 #pragma once
-#include "document/UndoStore.h"
+#include "document/undo/UndoStore.h"
 #include "paint/Painter.h"
 #include "pixels/Bits.h"
 #include "region/cBitRegion.h"
@@ -13,13 +13,12 @@ class cBitFilter;
 
 class Document {
   public:
-    Document(const QString& tempFolder, int documentNumber) : undo(tempFolder, documentNumber), number_(documentNumber)
-    {
-    }
+    /// Number: an int, or what gives numbers until one is free, as for UndoStore.
+    template <class Number> Document(const QString& tempFolder, Number number) : undo(tempFolder, number) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
-    int DocNumber() const { return number_; }
+    int DocNumber() const { return undo.number(); }
     bool PictureExists() const { return !bits_.isNull(); }
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
@@ -44,18 +43,18 @@ class Document {
     /// Gives the engine this document's picture and working region.
     void handTo(cBitFilter& filter) const;
 
-    /// Snapshot of the present picture; false when it could not be written.
-    bool SaveUndoBits()
+    /// Snapshot of the present picture, written out of sight.
+    void SaveUndoBits()
     {
         ++commits_;
-        return undo.save(bits_);
+        undo.save(bits_);
     }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
-    bool commit();
+    void commit();
     /// Rises with each snapshot and step: while it stands, the committed picture is the same.
     int commits() const { return commits_; }
-    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. False and
-    /// nothing changed when there is no such step.
+    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
+    /// run of sizing. False and nothing changed when there is no such step.
     bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
     bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
 
@@ -72,7 +71,7 @@ class Document {
     bool step(const std::optional<velara::Bits>& picture, cBitFilter& filter);
 
     velara::Bits bits_;
-    int number_, commits_ = 0;
+    int commits_ = 0;
     std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles watch it
 };
 

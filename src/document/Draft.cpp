@@ -13,6 +13,7 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
             fromBefore_ = true;
         }
     draft_.takePicture(picture);
+    if (sizing_) start_ = picture;
     if (picture.width() == document.PictureWidth() && picture.height() == document.PictureHeight())
         draft_.Region = document.Region;
     draft_.handTo(filter_);
@@ -22,9 +23,10 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
 
 bool Draft::wanted() const { return document_ && document_->commits() == commits_; }
 
-bool Draft::take()
+void Draft::take()
 {
     Document& document = *document_;
+    if (sizing_ && !fromBefore_ && draft_.Bits().sharesWith(start_)) return;
     const bool sameSize =
         draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
     const bool sameRegion = draft_.Region.RegionMain() == limit_ && draft_.Region.Region() == selection_;
@@ -37,7 +39,7 @@ bool Draft::take()
     if (fromBefore_) document.undo.stepBack();
     if (!sizing_) return document.commit();
     document.Zoomed = true;
-    return document.SaveUndoBits();
+    document.SaveUndoBits();
 }
 
 void Draft::handTo(cBitFilter& engine, bool holds) const

@@ -18,9 +18,9 @@ class Draft {
     void run(const Job& job) { job(draft_, filter_); }
     /// The document is there and at the step that the draft began with.
     bool wanted() const;
-    /// The result goes into the document, which must be wanted, with an undo step. False: the step could not be
-    /// written.
-    bool take();
+    /// The result goes into the document, which must be wanted, with an undo step. A sizing word that left the picture
+    /// alone makes none.
+    void take();
     /// What follows in `engine`: the random numbers, and, where it holds this document, the result and its region.
     void handTo(cBitFilter& engine, bool holds) const;
 
@@ -28,6 +28,7 @@ class Draft {
     DocumentHandle document_;
     Document draft_;
     cBitFilter filter_;
+    Bits start_;               // the picture at the start
     Region limit_, selection_; // of the draft at the start
     int commits_;
     bool sizing_, fromBefore_ = false;

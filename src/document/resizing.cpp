@@ -48,6 +48,7 @@ std::int32_t times(int size, int factor)
 
 void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
 {
+    if (factor == 1) return; // a run of sizings ends where it began, which the draft holds
     const auto sized = [&](int size) { return enlarge ? times(size, factor) : roundEven(quotient(size, factor)); };
     resizeImage(document, filter, sized(document.PictureWidth()), sized(document.PictureHeight()), quality);
 }

@@ -7,7 +7,8 @@
 
 namespace velara {
 
-/// Enlarges by factor or reduces to round(size / factor), by BitsResample with quality, else BitsResize.
+/// Enlarges by factor or reduces to round(size / factor), by BitsResample with quality, else BitsResize. 1 leaves the
+/// picture alone.
 void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality);
 
 /// Turns by degrees into a picture large enough to hold all of it.

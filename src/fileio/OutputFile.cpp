@@ -1,12 +1,16 @@
 #include "fileio/OutputFile.h"
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <random>
+#include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
@@ -19,13 +23,49 @@ namespace {
 
 constexpr std::size_t kBuffer = 64 << 10, kDirect = 8 << 10;
 
-/// The file behind symbolic links, whether it exists or not.
-QString behindLinks(QString path)
+constexpr const char kPart[] = ".velara-"; // the beginning of the names of files that are not whole yet
+constexpr const char kPartEnd[] = ".part";
+
+QByteArray folderOf(const QByteArray& path)
 {
-    constexpr int kMostLinks = 40;
-    for (int i = 0; i < kMostLinks && QFileInfo(path).isSymLink(); ++i) path = QFileInfo(path).symLinkTarget();
-    return path;
+    const qsizetype slash = path.lastIndexOf('/');
+    return slash < 0 ? QByteArray("./") : path.left(slash + 1);
 }
+
+/// In a folder where anybody may leave links (/tmp) only the user's own ones count, and those of the folder's owner.
+bool mayFollow(const struct stat& link, const QByteArray& folder)
+{
+    struct stat place {};
+    if (link.st_uid == geteuid() || stat(folder.constData(), &place) != 0) return true;
+    return (place.st_mode & (S_ISVTX | S_IWOTH)) != (S_ISVTX | S_IWOTH) || link.st_uid == place.st_uid;
+}
+
+/// The lock tells a file that is being written from one that a dead program left; the system releases it.
+bool isMine(int file)
+{
+    struct stat status {};
+    return flock(file, LOCK_EX | LOCK_NB) == 0 && fstat(file, &status) == 0 && status.st_nlink > 0;
+}
+
+/// Removes what programs of this user that died while they saved left in the folder.
+void removeStrays(const QByteArray& folder)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
+    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr) {
+        const QByteArray name = entry->d_name;
+        if (!name.startsWith(kPart) || !name.endsWith(kPartEnd)) continue;
+        const QByteArray path = folder + name;
+        const int file = open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+        if (file < 0) continue;
+        struct stat status {};
+        const bool ours = fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == geteuid();
+        if (ours && isMine(file)) unlink(path.constData());
+        close(file);
+    }
+}
+
+/// What is written is on the disk, as far as the file system can tell.
+bool synced(int file) { return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
 
 bool writeAll(int file, const std::uint8_t* bytes, std::size_t size)
 {
@@ -47,25 +87,47 @@ bool isProtected(const QByteArray& path, mode_t mode)
 
 } // namespace
 
+QString behindLinks(const QString& path)
+{
+    constexpr int kMostLinks = 40;
+    QByteArray name = QFile::encodeName(path);
+    for (int i = 0; i < kMostLinks; ++i) {
+        struct stat status {};
+        if (lstat(name.constData(), &status) != 0 || !S_ISLNK(status.st_mode)) return QFile::decodeName(name);
+        const QByteArray folder = folderOf(name);
+        std::array<char, PATH_MAX> to{};
+        const ssize_t length = readlink(name.constData(), to.data(), to.size());
+        if (length <= 0 || !mayFollow(status, folder)) return {};
+        const QByteArray target(to.data(), static_cast<int>(length));
+        name = target.startsWith('/') ? target : folder + target;
+    }
+    return {};
+}
+
 OutputFile::OutputFile(const QString& path, Links links)
     : target_(QFile::encodeName(links == Links::Follow ? behindLinks(path) : path))
 {
+    buffer_.resize(kBuffer);
+    if (target_.isEmpty()) return;
+    removeStrays(folderOf(target_));
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
     if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode)))
         openBeside(replaces_ ? old.st_mode & 07777 : 0666, replaces_);
     const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
     if (file_ < 0 && isOver) file_ = memfd_create("picture", MFD_CLOEXEC);
-    buffer_.resize(kBuffer);
 }
 
 void OutputFile::openBeside(mode_t mode, bool takesMode)
 {
     std::random_device random;
     for (int tries = 0; tries < 10 && file_ < 0; ++tries) {
-        temporary_ = target_ + '.' + QByteArray::number(random(), 36) + ".part";
-        file_ = open(temporary_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        temporary_ = folderOf(target_) + kPart + QByteArray::number(random(), 36) + kPartEnd;
+        file_ = open(temporary_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
         if (file_ < 0 && errno != EEXIST) break;
+        struct stat status {};
+        if (file_ >= 0 && !isMine(file_) && fstat(file_, &status) == 0 && status.st_nlink == 0)
+            close(std::exchange(file_, -1)); // taken for a stray between the two calls
     }
     if (file_ < 0)
         temporary_.clear();
@@ -127,7 +189,9 @@ std::int64_t OutputFile::tell()
 bool OutputFile::publish()
 {
     if (temporary_.isEmpty()) return copyOver();
-    if (close(std::exchange(file_, -1)) != 0) return false; // a file server may tell only now that it is full
+    const bool onDisk = synced(file_);
+    if (close(std::exchange(file_, -1)) != 0 || !onDisk)
+        return false; // a file server may tell only now that it is full
     if (std::rename(temporary_.constData(), target_.constData()) != 0) return false;
     temporary_.clear();
     return true;
@@ -136,7 +200,7 @@ bool OutputFile::publish()
 bool OutputFile::copyOver()
 {
     const off_t size = lseek(file_, 0, SEEK_END);
-    const int target = open(target_.constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
+    const int target = open(target_.constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
     if (target < 0 || size < 0) return false;
     off_t at = 0;
     while (at < size) {
@@ -145,7 +209,9 @@ bool OutputFile::copyOver()
         if (n <= 0) break;
     }
     struct stat status;
-    if (at == size && fstat(target, &status) == 0 && S_ISREG(status.st_mode) && ftruncate(target, size) != 0) at = -1;
+    if (at == size && fstat(target, &status) == 0 && S_ISREG(status.st_mode) &&
+        (ftruncate(target, size) != 0 || !synced(target)))
+        at = -1;
     return close(target) == 0 && at == size;
 }
 

@@ -1,5 +1,7 @@
 #include "fileio/PCX.h"
-#include "fileio/fileBytes.h"
+#include "fileio/OutputFile.h"
+#include <QFile>
+#include <QFileInfo>
 #include <array>
 #include <cstring>
 
@@ -64,6 +66,14 @@ std::vector<std::uint8_t> planesOf(const Bits& bits)
     return planes;
 }
 
+/// What an older, longer file has behind so many bytes: it stays there.
+QByteArray tailOf(const QString& path, qint64 length)
+{
+    QFile old(path);
+    const bool isLonger = QFileInfo(path).isFile() && old.open(QIODevice::ReadOnly) && old.size() > length;
+    return isLonger && old.seek(length) ? old.readAll() : QByteArray();
+}
+
 } // namespace
 
 std::vector<std::uint8_t> PCX::encode(const std::vector<std::uint8_t>& data)
@@ -87,7 +97,11 @@ bool PCX::SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress
 {
     std::vector<std::uint8_t> data = planesOf(bits);
     if (Compress) data = encode(data);
-    return overwriteFile(FileName, headerOf(bits, Compress), data);
+    const auto header = headerOf(bits, Compress);
+    OutputFile file(FileName);
+    const bool written = file.write(header.data(), header.size()) && file.write(data.data(), data.size());
+    const QByteArray tail = tailOf(FileName, static_cast<qint64>(header.size() + data.size()));
+    return written && file.write(tail.constData(), static_cast<std::size_t>(tail.size())) && file.commit();
 }
 
 } // namespace velara

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <algorithm>
 #include <cstring>
+#include <optional>
 #include <type_traits>
 
 namespace velara {
@@ -43,13 +44,6 @@ QByteArray wholeCharacters(QByteArray text, int width)
     return text.left(width);
 }
 
-void put(const QString& value, std::uint8_t* to, int width)
-{
-    const QByteArray text = wholeCharacters(value.toUtf8(), width);
-    std::memset(to, ' ', static_cast<std::size_t>(width));
-    std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));
-}
-
 /// Up to the first zero, without the trailing blanks.
 void get(QString& value, const std::uint8_t* from, int width)
 {
@@ -57,6 +51,17 @@ void get(QString& value, const std::uint8_t* from, int width)
     auto length = static_cast<int>(strnlen(text, static_cast<std::size_t>(width)));
     while (length > 0 && text[length - 1] == ' ') --length;
     value = QString::fromUtf8(text, length);
+}
+
+/// A text that reads as before keeps its bytes: they may be of a code page that is not ours.
+void put(const QString& value, std::uint8_t* to, int width)
+{
+    QString before;
+    get(before, to, width);
+    if (value == before && before.contains(QChar::ReplacementCharacter)) return;
+    const QByteArray text = wholeCharacters(value.toUtf8(), width);
+    std::memset(to, ' ', static_cast<std::size_t>(width));
+    std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));
 }
 
 void reset(QString& value, const Default& d, int) { value = QString::fromUtf8(d.text); }
@@ -200,6 +205,17 @@ static_assert(lengthWithoutGaps() == kSetupBytes);
 
 QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
 
+/// The record in the file, zeros for what is missing; nothing when it can't be read.
+std::optional<SetupRecord> recordOf(const QString& path)
+{
+    FileReader file(path);
+    if (file.size() < 0) return {};
+    SetupRecord record{};
+    const auto length = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kSetupBytes));
+    if (!file.read({record.data(), length})) return {};
+    return record;
+}
+
 Setup defaultSetup(Platform& platform)
 {
     Setup setup;
@@ -214,16 +230,15 @@ Setup::Setup()
     for (const Field& f : kFields) f.setDefault(f, *this);
 }
 
-std::array<std::uint8_t, kSetupBytes> setupBytes(const Setup& setup)
+SetupRecord setupBytes(const Setup& setup, SetupRecord record)
 {
-    std::array<std::uint8_t, kSetupBytes> record{};
     for (const Field& f : kFields) f.write(f, setup, record.data());
     return record;
 }
 
 Setup setupFromBytes(std::span<const std::uint8_t> bytes)
 {
-    std::array<std::uint8_t, kSetupBytes> record{};
+    SetupRecord record{};
     std::copy_n(bytes.begin(), std::min(bytes.size(), record.size()), record.begin());
     Setup setup;
     for (const Field& f : kFields) f.read(f, setup, record.data());
@@ -242,14 +257,15 @@ Setup LoadSetup(Platform& platform)
         needDefaults = true;
     }
     if (needDefaults) overwriteFile(path, {}); // an empty file until the frame closes
-    FileReader file(path);
-    if (needDefaults || file.size() < 0) return defaultSetup(platform);
-    std::array<std::uint8_t, kSetupBytes> record{};
-    const auto length = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kSetupBytes));
-    return file.read({record.data(), length}) ? setupFromBytes(record) : defaultSetup(platform);
+    const auto record = needDefaults ? std::nullopt : recordOf(path);
+    return record ? setupFromBytes(*record) : defaultSetup(platform);
 }
 
-bool SaveSetup(Platform& platform, const Setup& setup) { return overwriteFile(setupPath(platform), setupBytes(setup)); }
+bool SaveSetup(Platform& platform, const Setup& setup)
+{
+    const QString path = setupPath(platform);
+    return overwriteFile(path, setupBytes(setup, recordOf(path).value_or(SetupRecord{})));
+}
 
 void AddRecent(Setup& setup, const QString& path)
 {

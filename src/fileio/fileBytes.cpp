@@ -46,12 +46,37 @@ bool takeRoom(int file, std::int64_t present, std::int64_t wanted)
     return errno == EOPNOTSUPP || errno == ENOSYS;
 }
 
+constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
+
+/// A file with a second name is somebody else's too.
+bool hasOneName(int file)
+{
+    struct stat info {};
+    if (fstat(file, &info) != 0) return false;
+    if (!S_ISREG(info.st_mode)) return true; // not written to either
+    if (info.st_nlink > 1) return false;
+    if (info.st_uid == geteuid() && (info.st_mode & 0077) != 0) fchmod(file, 0600);
+    return true;
+}
+
+/// The file of the name, or a new one in the place of a link that was set there. For its owner alone. -1: none.
+int openPrivate(const QByteArray& name)
+{
+    const int found = open(name.constData(), O_WRONLY | kFlags);
+    if (found >= 0 && hasOneName(found)) return found;
+    const bool isLink = found >= 0 || errno == ELOOP;
+    if (found >= 0) close(found);
+    if (!isLink && errno != ENOENT) return -1;
+    if (isLink && unlink(name.constData()) != 0) return -1;
+    return open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | kFlags, 0600);
+}
+
 } // namespace
 
 bool overwriteFile(const QString& path, ByteView head, ByteView body)
 {
     const QByteArray name = QFile::encodeName(path);
-    const int file = open(name.constData(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
+    const int file = openPrivate(name);
     if (file < 0) return false;
     const std::int64_t before = regularFileSize(file), wanted = static_cast<std::int64_t>(head.size() + body.size());
     bool touched = false, done = false;
@@ -59,13 +84,14 @@ bool overwriteFile(const QString& path, ByteView head, ByteView body)
         touched = true;
         done = writeAll(file, head, body);
     }
+    const int reason = errno;
     if (close(file) != 0) done = false;
     if (!done && touched && before >= 0) unlink(name.constData());
+    errno = reason;
     return done;
 }
 
-FileReader::FileReader(const QString& path)
-    : file_(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+FileReader::FileReader(const QString& path) : file_(open(QFile::encodeName(path).constData(), O_RDONLY | kFlags))
 {
     if (file_ >= 0) size_ = regularFileSize(file_);
 }

@@ -10,11 +10,13 @@ namespace velara {
 
 using ByteView = std::span<const std::uint8_t>;
 
-/// Writes head and body from offset 0 in one call, creating the file if need be. It is not truncated: a longer file
-/// keeps its tail. On failure false; what stood there before is whole, save after a device error, when it is removed.
+/// Writes head and body from offset 0 in one call, creating the file if need be, for its owner alone. It is not
+/// truncated: a longer file keeps its tail. A link that stands there is not followed: a new file takes its place. On
+/// failure false, with errno; what stood there before is whole, save after a device error, when it is removed.
 bool overwriteFile(const QString& path, ByteView head, ByteView body = {});
 
-/// A regular file opened for reading; size() is -1 when there is none. Never waits on pipes and devices.
+/// A regular file opened for reading; size() is -1 when there is none. Never waits on pipes and devices, and follows no
+/// link.
 class FileReader {
   public:
     explicit FileReader(const QString& path);

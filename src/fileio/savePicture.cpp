@@ -37,11 +37,10 @@ bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool k
 
 template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveResult byFreeImage(const Job& job)
 {
-    const bool written = saveByFreeImage(job, format, flags, keepsRemains);
-    if (!written)
-        job.platform.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
-                             Icon::Critical);
-    return resultOf(written);
+    if (saveByFreeImage(job, format, flags, keepsRemains)) return SaveResult::Written;
+    job.platform.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
+                         Icon::Critical);
+    return SaveResult::FailedAndTold;
 }
 
 // --- The others
@@ -69,7 +68,7 @@ SaveResult savePcx(const Job& job) { return resultOf(PCX().SavePCXinFile(job.fil
 SaveResult refuseIcon(const Job& job)
 {
     job.platform.message("Velara Studio", "This facility is currently turned Off!", Icon::Information);
-    return SaveResult::NotWritten;
+    return SaveResult::Refused;
 }
 
 struct Writer {

@@ -9,8 +9,10 @@ class Platform;
 
 enum class SaveResult {
     Written,
-    Failed,    // what stood under the name is whole
-    NotWritten // nothing to write, no writer for the extension, or an icon
+    Failed,        // what stood under the name is whole
+    FailedAndTold, // the same, and the user has read it
+    NotWritten,    // nothing to write, or no writer for the extension
+    Refused,       // an icon; the user has read it
 };
 
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is

@@ -1,6 +1,7 @@
 // Bits: the pixel buffer that documents, filters, tools and dialogs share. An implicitly shared value: copying is O(1),
 // the first write to a shared buffer detaches it.
 #pragma once
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -80,7 +81,8 @@ class Bits {
     Pixel* first() const { return reinterpret_cast<Pixel*>(block_.get()); }
     void detach()
     {
-        if (block_.use_count() > 1) copyBlock();
+        if (block_.use_count() > 1) return copyBlock();
+        std::atomic_thread_fence(std::memory_order_acquire); // a thread that shared it has read it to the end
     }
     void copyBlock();
 

@@ -14,13 +14,14 @@ BlockPool& BlockPool::instance()
 std::uint8_t* BlockPool::take(std::size_t size)
 {
     if (size < kSmallest) return static_cast<std::uint8_t*>(::operator new(size));
+    const std::lock_guard lock(guard_);
     const auto kept = std::find_if(kept_.begin(), kept_.end(), [size](const Kept& k) { return k.size == size; });
     if (kept != kept_.end()) {
         std::uint8_t* block = kept->block;
         kept_.erase(kept);
         return block;
     }
-    clear(); // another size is in use now
+    drop(); // another size is in use now
     void* block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (block == MAP_FAILED) throw std::bad_alloc();
     madvise(block, size, MADV_HUGEPAGE);
@@ -30,6 +31,7 @@ std::uint8_t* BlockPool::take(std::size_t size)
 void BlockPool::give(std::uint8_t* block, std::size_t size) noexcept
 {
     if (size < kSmallest) return ::operator delete(block);
+    const std::lock_guard lock(guard_);
     if (kept_.size() >= kKeptBlocks) {
         munmap(kept_.front().block, kept_.front().size);
         kept_.erase(kept_.begin());
@@ -39,6 +41,12 @@ void BlockPool::give(std::uint8_t* block, std::size_t size) noexcept
 }
 
 void BlockPool::clear() noexcept
+{
+    const std::lock_guard lock(guard_);
+    drop();
+}
+
+void BlockPool::drop() noexcept
 {
     for (const Kept& k : kept_) munmap(k.block, k.size);
     kept_.clear();

@@ -2,12 +2,13 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <mutex>
 #include <vector>
 
 namespace velara {
 
 /// Blocks of at least kSmallest bytes come in huge pages and are kept for the next taker of the same size, at most
-/// kKeptBlocks of them. One thread.
+/// kKeptBlocks of them. For any thread.
 class BlockPool {
   public:
     static constexpr std::size_t kSmallest = 1 << 20;
@@ -25,6 +26,9 @@ class BlockPool {
         std::uint8_t* block;
         std::size_t size;
     };
+    void drop() noexcept;
+
+    std::mutex guard_;
     std::vector<Kept> kept_;
 };
 

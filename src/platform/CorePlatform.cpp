@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <chrono>
 #include <cstring>
+#include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -78,6 +79,15 @@ LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& exte
     if (decoder_.isEmpty()) decoder_ = findDecoder();
     const QFileInfo file(path);
     return loadThroughDecoder(path, extension, decoder_, limitsFor(file.size()), whileReading(file.fileName()));
+}
+
+LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension)
+{
+    if (decoder_.isEmpty()) decoder_ = findDecoder();
+    const Descriptor file(memfd_create("picture", MFD_CLOEXEC));
+    if (write(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size())
+        return {{}, name + QStringLiteral(" can't be read: there is not enough memory for it")};
+    return loadThroughDecoder(file, name, extension, decoder_, limitsFor(bytes.size()), whileReading(name));
 }
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)

@@ -25,6 +25,8 @@ class CorePlatform : public Platform {
   protected:
     /// Asked while the picture of that name is read, see PictureLoader.h.
     virtual GoOn whileReading(const QString& /*name*/) { return {}; }
+    /// The same for bytes that are no file; name is what the reason calls them.
+    LoadedPicture decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension);
 
   private:
     std::mt19937_64 random_;

@@ -16,7 +16,7 @@ class WindowlessPlatform : public CorePlatform {
     std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
     QString compactPath(const QString& path, int) override { return path; }
     bool clipboardHasBitmap() override { return false; }
-    Bits clipboardBitmap() override { return {}; }
+    LoadedPicture clipboardBitmap() override { return {}; }
     bool setClipboardBitmap(const Bits&) override { return false; }
     bool setClipboardPart(const Bits&) override { return false; }
     void clearClipboard() override {}

@@ -1,5 +1,4 @@
 #include "platform/nameFilters.h"
-#include <QRegularExpression>
 
 namespace velara {
 
@@ -16,10 +15,17 @@ QStringList nameFilters(const QString& filter)
     return list;
 }
 
-QString firstSuffix(const QString& nameFilter)
+QString suffixFor(const QString& filter, const QString& chosen, const QString& preferred)
 {
-    static const QRegularExpression first(R"(\(\*\.([A-Za-z0-9]+)[^()]*\)$)");
-    return first.match(nameFilter).captured(1);
+    const QStringList names = nameFilters(filter), parts = filter.split('|');
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (names[i] != chosen && parts[2 * i].trimmed() != chosen) continue;
+        QStringList suffixes;
+        for (const QString& pattern : parts[2 * i + 1].split(';', Qt::SkipEmptyParts))
+            if (pattern.trimmed().startsWith("*.")) suffixes << pattern.trimmed().mid(2).toLower();
+        return suffixes.contains(preferred) ? preferred : suffixes.value(0);
+    }
+    return {};
 }
 
 } // namespace velara

@@ -6,7 +6,8 @@ namespace velara {
 
 /// "caption (pattern pattern)" for each pair; blanks around patterns are dropped. A pair without patterns shows all.
 QStringList nameFilters(const QString& filter);
-/// The suffix of the first pattern of one of nameFilters(), without the dot; empty when there is none.
-QString firstSuffix(const QString& nameFilter);
+/// What a name without a suffix gets, in lower case and without the dot, when the filter of that name is chosen (as of
+/// nameFilters(), or without its patterns): preferred, where that is one of its patterns, else the first. Empty: none.
+QString suffixFor(const QString& filter, const QString& chosen, const QString& preferred);
 
 } // namespace velara

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace velara {
@@ -25,9 +26,14 @@ struct FileDialog {
     QString filter;
     QString folder;
     QString defaultPattern = {};
+    /// For a save dialog: the extension of a name without one, where the chosen filter stands for several.
+    QString extension = {};
+    /// The file that a save under this name makes: whether that one may be replaced is asked.
+    std::function<QString(const QString&)> writtenAs = {};
 };
 
-/// A picture read from a file, or the reason why it can't be read, in words for a person.
+/// A picture read from a file, or the reason why it can't be read, in words for a person. A picture may have a reason
+/// too: why it is not all there.
 struct LoadedPicture {
     Bits bits;
     QString reason;
@@ -71,9 +77,10 @@ class Platform {
     virtual LoadedPicture loadPicture(const QString& path, const QString& extension) = 0;
 
     // --- Clipboard bitmaps
+    /// Whether a picture is offered; asks its owner, for a second at most.
     virtual bool clipboardHasBitmap() = 0;
-    /// Empty when there is none.
-    virtual Bits clipboardBitmap() = 0;
+    /// What another program put there is read as a file would be. Neither picture nor reason: there is none.
+    virtual LoadedPicture clipboardBitmap() = 0;
     virtual bool setClipboardBitmap(const Bits& bits) = 0;
     /// A part of a picture, by alpha: pixels with a fourth byte of 255 are transparent, all others opaque.
     virtual bool setClipboardPart(const Bits& part) = 0;

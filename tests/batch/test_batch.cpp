@@ -109,6 +109,8 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
     put("out.ppm", "precious");
     QDir(folder.path()).mkdir(QStringLiteral("folder.png"));
     QFile::link(QStringLiteral("/dev/full"), path("full.png"));
+    QFile::link(QStringLiteral("loop2.png"), path("loop.png"));
+    QFile::link(QStringLiteral("loop.png"), path("loop2.png"));
     const struct {
         const char* arguments;
         int status;
@@ -129,7 +131,8 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm out", 1, "out"},
         {"in.ppm out.ico", 1, "turned Off"},
         {"in.ppm nowhere/out.png", 1, "nowhere/out.png"},
-        {"in.ppm folder.png", 1, "folder.png"},
+        {"in.ppm folder.png", 1, "folder.png can't be written: it is a folder"},
+        {"in.ppm loop.png", 1, "loop.png can't be written: it is a link in a circle"},
         {"in.ppm full.png", 1, "full.png"},
         {"in.ppm TileMask(zip.png,0,0,false,0,-1) out.png", 1, "zip.png"},
         {"", 2, "INPUT"},
@@ -178,6 +181,37 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
     }
     EXPECT_EQ("precious", content("out.png"));
     EXPECT_EQ("precious", content("out.ppm"));
+}
+
+TEST_F(BatchTest, ACutOffPictureIsTakenOnlyWhenAskedFor)
+{
+    put("short.ppm", content("in.ppm").chopped(100));
+    const Outcome refused = run("short.ppm out.ppm");
+    EXPECT_EQ(1, refused.status);
+    EXPECT_NE(std::string::npos, refused.errors.find("its end is missing; --partial takes what is there"))
+        << refused.errors;
+    EXPECT_FALSE(QFile::exists(path("out.ppm")));
+    EXPECT_EQ(0, run("--partial short.ppm out.ppm").status);
+    EXPECT_EQ(content("in.ppm").left(200), content("out.ppm").left(200));
+    put("a\x1b[31m.png", "nothing");
+    EXPECT_NE(std::string::npos, run("a\x1b[31m.png out.png").errors.find("a\\x1b[31m.png can't be read"));
+}
+
+TEST_F(BatchTest, OneRowHasNoProgressToTell)
+{
+    put("row.ppm", anymap(30, 1));
+    EXPECT_EQ(0, run("row.ppm EMBOSS(10) FLIPH INVERT out.ppm").status);
+    EXPECT_EQ(3, run("row.ppm --verbose EMBOSS(10) out.ppm").status);
+}
+
+TEST_F(BatchTest, ALinkAsOutputStaysOneAndIsNotRemoved)
+{
+    QFile::link(QStringLiteral("later.bmp"), path("link.bmp"));
+    EXPECT_EQ(0, run("in.ppm link.bmp").status);
+    EXPECT_TRUE(QFileInfo(path("link.bmp")).isSymLink());
+    QFile::remove(path("later.bmp"));
+    EXPECT_EQ(1, run("in.ppm BitsResize(3000,2900) link.bmp", "trap '' XFSZ && ulimit -f 40000").status);
+    EXPECT_TRUE(QFileInfo(path("link.bmp")).isSymLink());
 }
 
 TEST_F(BatchTest, AFullDiskLeavesTheOldOutputWhole)

@@ -3,6 +3,7 @@
 #include "document/Draft.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
+#include "support/fullDisk.h"
 #include "support/pictures.h"
 #include <QTemporaryDir>
 
@@ -18,7 +19,7 @@ struct ResizingTest : ::testing::Test {
     {
         document.takePicture(bits);
         document.handTo(filter);
-        ASSERT_TRUE(document.SaveUndoBits());
+        document.SaveUndoBits();
     }
     void select(int left, int top, int right, int bottom)
     {
@@ -30,7 +31,7 @@ struct ResizingTest : ::testing::Test {
     {
         Draft draft(document, document.Bits(), filter, After::Sizing);
         draft.run([=](Document& d, cBitFilter& f) { zoomImage(d, f, factor, enlarge, false); });
-        ASSERT_TRUE(draft.take());
+        draft.take();
         draft.handTo(filter, true);
     }
     void expectSize(int width, int height)
@@ -69,7 +70,7 @@ TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)
     open(first);
     for (const Bits& bits : {second, small}) {
         document.setBits(bits);
-        ASSERT_TRUE(document.SaveUndoBits());
+        document.SaveUndoBits();
     }
     select(1, 1, 3, 3);
     ASSERT_TRUE(document.UndoBits(filter));
@@ -118,6 +119,60 @@ TEST_F(ResizingTest, ARunOfSizingsStartsFromThePictureBeforeTheFirst)
     expectSize(10, 5);
     ASSERT_TRUE(document.UndoBits(filter));
     expectSize(21, 10);
+}
+
+TEST_F(ResizingTest, TheNaturalSizeIsNoStep)
+{
+    const Bits bits = randomBits(8, 6, 1), second = randomBits(8, 6, 2);
+    open(bits);
+    document.setBits(second);
+    document.SaveUndoBits();
+    document.UndoBits(filter);
+    zoom(1);
+    EXPECT_EQ(1, document.undo.UndoStep());
+    EXPECT_TRUE(document.undo.canRedo());
+    EXPECT_FALSE(document.Zoomed);
+}
+
+TEST_F(ResizingTest, SizingThrowsNoEditAway)
+{
+    const Bits bits = randomBits(20, 20, 1), edited = randomBits(20, 20, 2);
+    const auto edit = [&] {
+        document.Zoomed = false;
+        document.setBits(edited);
+        document.handTo(filter);
+        document.SaveUndoBits();
+        document.undo.stands();
+    };
+    open(bits);
+    { // the edit can't be written, and the smaller picture can
+        const FullDisk full(1000);
+        edit();
+        zoom(2);
+        ASSERT_TRUE(document.undo.stands());
+        zoom(2);
+        expectSize(5, 5); // a new run, from what was left
+        EXPECT_TRUE(document.Zoomed);
+    }
+    open(bits);
+    edit();
+    { // the edit is written, the larger picture can't be
+        const FullDisk full(3000);
+        zoom(2, true);
+        zoom(2, true);
+        expectSize(40, 40);
+        zoom(1);
+        EXPECT_EQ(colours(edited), colours(document.Bits()));
+    }
+    open(bits);
+    edit();
+    zoom(2);
+    document.UndoBits(filter); // by hand: the run is over
+    zoom(1);
+    EXPECT_EQ(colours(edited), colours(document.Bits()));
+    zoom(2);
+    zoom(1);
+    EXPECT_EQ(colours(edited), colours(document.Bits()));
 }
 
 TEST_F(ResizingTest, WhatCannotBeSizedStaysAsItWas)

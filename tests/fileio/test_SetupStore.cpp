@@ -100,13 +100,49 @@ TEST(SetupStore, AnyFileIsSurvived)
             EXPECT_EQ(bytes.mid(2422, 2), bytesOf(setup).mid(2422, 2));
         }
         ASSERT_TRUE(SaveSetup(platform, setup));
-        EXPECT_EQ(bytesOf(setup) + bytes.mid(3081), content(setupFile(platform))) << "a longer file keeps its tail";
+        EXPECT_EQ(bytes.mid(3081), content(setupFile(platform)).mid(3081)) << "a longer file keeps its tail";
         EXPECT_EQ(bytesOf(setup), bytesOf(LoadSetup(platform))) << length;
     }
     QFile::remove(setupFile(platform));
     QDir().mkdir(setupFile(platform));
     EXPECT_EQ(9600, LoadSetup(platform).FrameWidth) << "a folder of that name";
     EXPECT_FALSE(SaveSetup(platform, Record()));
+}
+
+TEST(SetupStore, TextsOfAForeignCodePageSurviveARun)
+{
+    RecordingPlatform platform;
+    QByteArray bytes = bytesOf(LoadSetup(platform));
+    const QByteArray greek = "/home/\xc5\xe9\xea\xfc\xed\xe5\xf2/";
+    bytes.replace(8, 256, greek.leftJustified(256, ' '));
+    bytes.replace(270, 256, ("/old" + greek).leftJustified(256, '\0'));
+    put(setupFile(platform), bytes);
+    Record setup = LoadSetup(platform);
+    setup.ForeColor = 0x123456;
+    ASSERT_TRUE(SaveSetup(platform, setup));
+    const QByteArray after = content(setupFile(platform));
+    EXPECT_EQ(bytes.mid(8, 256), after.mid(8, 256));
+    EXPECT_EQ(bytes.mid(270, 256), after.mid(270, 256)) << "its padding too";
+    EXPECT_EQ(0x123456, wordAt(after, 2348, 4));
+    setup.ImagesPath = QStringLiteral("/new/");
+    ASSERT_TRUE(SaveSetup(platform, setup));
+    EXPECT_EQ(QByteArray("/new/").leftJustified(256, ' '), content(setupFile(platform)).mid(8, 256));
+}
+
+TEST(SetupStore, TheFileIsTheUsersAloneAndNoLink)
+{
+    RecordingPlatform platform;
+    const Record setup = LoadSetup(platform);
+    ASSERT_TRUE(SaveSetup(platform, setup));
+    EXPECT_FALSE(QFile::permissions(setupFile(platform)) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup));
+    const QString victim = platform.folder.filePath(QStringLiteral("victim"));
+    put(victim, "victim");
+    QFile::remove(setupFile(platform));
+    QFile::link(victim, setupFile(platform));
+    EXPECT_EQ(9600, LoadSetup(platform).FrameWidth);
+    ASSERT_TRUE(SaveSetup(platform, setup));
+    EXPECT_EQ("victim", content(victim));
+    EXPECT_EQ(bytesOf(setup), content(setupFile(platform)));
 }
 
 TEST(SetupStore, TextsAreCutAtAWholeCharacter)

@@ -3,13 +3,14 @@
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "support/RecordingPlatform.h"
+#include "support/fullDisk.h"
 #include "support/pictures.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <csignal>
 #include <cstdlib>
-#include <sys/resource.h>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -71,22 +72,6 @@ class SavePicture : public ::testing::Test {
 
     QTemporaryDir folder;
     RecordingPlatform platform;
-};
-
-/// Files of this process can't grow beyond so many bytes while it lives: a full disk.
-class SmallDisk {
-  public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-  private:
-    rlimit before_{};
 };
 
 } // namespace
@@ -163,7 +148,7 @@ TEST_F(SavePicture, WritesNothingWithoutAPictureOrAWriter)
     for (const char* extension : {"jpeg", "tiff", "ppm", "", "xyz"})
         EXPECT_EQ(savePicture(platform, bits, path("a"), extension), SaveResult::NotWritten);
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(savePicture(platform, bits, path("a.ico"), "ico"), SaveResult::NotWritten);
+    EXPECT_EQ(savePicture(platform, bits, path("a.ico"), "ico"), SaveResult::Refused);
     EXPECT_EQ(platform.log, std::vector<std::string>{"message: Velara Studio: This facility is currently turned Off!"});
     EXPECT_EQ(platform.lastIcon, Icon::Information);
     EXPECT_TRUE(files().isEmpty());
@@ -179,8 +164,10 @@ TEST_F(SavePicture, AFullDiskCostsNothing)
             const QString name = path(QString("a.") + extension);
             if (old) write(QFileInfo(name).fileName(), "the old file");
             {
-                const SmallDisk disk(5000);
-                EXPECT_EQ(savePicture(platform, bits, name, extension), SaveResult::Failed) << extension;
+                const FullDisk disk(5000);
+                EXPECT_EQ(savePicture(platform, bits, name, extension),
+                          tells ? SaveResult::FailedAndTold : SaveResult::Failed)
+                    << extension;
             }
             EXPECT_EQ(platform.log, tells ? std::vector{kFailure} : std::vector<std::string>{}) << extension;
             const bool remains = std::string_view(extension) == "jpg"; // the part that was written
@@ -199,7 +186,7 @@ TEST_F(SavePicture, AFullDiskCostsNothing)
 TEST_F(SavePicture, ADeviceThatIsFullIsAFailure)
 {
     for (const char* extension : {"png", "bmp", "tif", "tga", "jpg"})
-        EXPECT_EQ(savePicture(platform, flatBits(3, 3, 1, 2, 3), "/dev/full", extension), SaveResult::Failed);
+        EXPECT_EQ(savePicture(platform, flatBits(3, 3, 1, 2, 3), "/dev/full", extension), SaveResult::FailedAndTold);
     EXPECT_EQ(platform.log.size(), 5U);
     EXPECT_TRUE(QFileInfo::exists("/dev/full"));
 }
@@ -225,13 +212,58 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
 
     const QString locked = write("locked.png", "old");
     chmod(QFile::encodeName(locked).constData(), 0444);
-    EXPECT_EQ(savePicture(platform, bits, locked, "png"), SaveResult::Failed);
+    EXPECT_EQ(savePicture(platform, bits, locked, "png"), SaveResult::FailedAndTold);
     EXPECT_EQ(contentsOf(locked), "old");
-    EXPECT_EQ(savePicture(platform, bits, folder.path(), "png"), SaveResult::Failed); // a folder
-    EXPECT_EQ(savePicture(platform, bits, path("none/a.png"), "png"), SaveResult::Failed);
+    EXPECT_EQ(savePicture(platform, bits, folder.path(), "png"), SaveResult::FailedAndTold); // a folder
+    EXPECT_EQ(savePicture(platform, bits, path("none/a.png"), "png"), SaveResult::FailedAndTold);
     mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600); // with no one who reads
-    EXPECT_EQ(savePicture(platform, bits, path("pipe.png"), "png"), SaveResult::Failed);
+    EXPECT_EQ(savePicture(platform, bits, path("pipe.png"), "png"), SaveResult::FailedAndTold);
     EXPECT_EQ(platform.log, (std::vector<std::string>(4, kFailure)));
+}
+
+TEST_F(SavePicture, StraysOfDeadProgramsGo)
+{
+    const Bits bits = flatBits(3, 3, 1, 2, 3);
+    write(".velara-dead.part", "half a picture");
+    write(".velara-a.png", "the user's own");
+    write("film.velara-1.part", "the user's own");
+    QFile::link(path("film.velara-1.part"), path(".velara-link.part"));
+    const int alive = open(QFile::encodeName(write(".velara-alive.part", "half")).constData(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(0, flock(alive, LOCK_EX));
+    ASSERT_EQ(savePicture(platform, bits, path("a.png"), "png"), SaveResult::Written);
+    close(alive);
+    EXPECT_EQ(files(),
+              (QStringList{".velara-a.png", ".velara-alive.part", ".velara-link.part", "a.png", "film.velara-1.part"}));
+}
+
+TEST_F(SavePicture, LinksThatLeadNowhereOrAreSomebodyElsesAreRefused)
+{
+    const Bits bits = flatBits(3, 3, 1, 2, 3);
+    QFile::link("b.png", path("a.png"));
+    QFile::link("a.png", path("b.png"));
+    EXPECT_EQ(savePicture(platform, bits, path("a.png"), "png"), SaveResult::FailedAndTold);
+    EXPECT_TRUE(QFileInfo(path("a.png")).isSymLink());
+    if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make links of others";
+    const QString victim = write("victim.png", "old"), link = path("shared/a.png");
+    QDir(folder.path()).mkdir("shared");
+    chmod(QFile::encodeName(path("shared")).constData(), 01777);
+    QFile::link(victim, link);
+    ASSERT_EQ(0, lchown(QFile::encodeName(link).constData(), 12345, 12345));
+    EXPECT_EQ(savePicture(platform, bits, link, "png"), SaveResult::FailedAndTold);
+    EXPECT_EQ(contentsOf(victim), "old");
+}
+
+TEST_F(SavePicture, APcxKeepsTheTailAndTheModeOfALongerFile)
+{
+    const Bits bits = flatBits(3, 3, 1, 2, 3);
+    const QString name = write("a.pcx", QByteArray(5000, 'x'));
+    chmod(QFile::encodeName(name).constData(), 0640);
+    ASSERT_EQ(savePicture(platform, bits, name, "pcx"), SaveResult::Written);
+    EXPECT_EQ(contentsOf(name).size(), 5000);
+    EXPECT_TRUE(load(name).ok());
+    struct stat status;
+    stat(QFile::encodeName(name).constData(), &status);
+    EXPECT_EQ(status.st_mode & 07777, 0640U);
 }
 
 TEST(ModFreeImage, KeepsTheFirstErrorOfAnOperation)

@@ -39,8 +39,12 @@ TEST(NameFilters, BecomeWhatTheDialogTakes)
               QStringList({"Bitmap Files (*.BMP;*.DIB) (*.bmp *.dib)", "Koala (*.KOA) (*.koa)"}));
     EXPECT_EQ(nameFilters("Odd|"), QStringList({"Odd (*)"}));
     EXPECT_EQ(nameFilters("cut off"), QStringList());
-    EXPECT_EQ(firstSuffix("ASCII bitmap format(*.ppm)(*.pgm)(*.pbm) (*.ppm *.pgm *.pbm)"), "ppm");
-    EXPECT_EQ(firstSuffix("All (*)"), "");
+    const QString filter = "All |*.bmp;*.png|Png (*.PNG)|*.PNG|ASCII (*.ppm)(*.pgm)|*.ppm;*.pgm|Any|*";
+    EXPECT_EQ(suffixFor(filter, "All", "png"), "png");
+    EXPECT_EQ(suffixFor(filter, "Png (*.PNG)", "bmp"), "png");
+    EXPECT_EQ(suffixFor(filter, "Png (*.PNG) (*.PNG)", "bmp"), "png");
+    EXPECT_EQ(suffixFor(filter, "ASCII (*.ppm)(*.pgm)", "png"), "ppm");
+    EXPECT_EQ(suffixFor(filter, "Any", "png"), "");
 }
 
 TEST(QtPlatform, MessagesStandAsTheyAreGiven)
@@ -118,7 +122,7 @@ TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
     const Bits bits = randomBits(7, 5, 9);
     ASSERT_TRUE(platform.setClipboardBitmap(bits));
     ASSERT_TRUE(platform.clipboardHasBitmap());
-    const Bits back = platform.clipboardBitmap();
+    const Bits back = platform.clipboardBitmap().bits;
     ASSERT_EQ(back.width(), 7);
     ASSERT_EQ(back.height(), 5);
     for (int y = 0; y < 5; ++y)
@@ -128,7 +132,7 @@ TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
         }
     platform.clearClipboard();
     EXPECT_FALSE(platform.clipboardHasBitmap());
-    EXPECT_TRUE(platform.clipboardBitmap().isNull());
+    EXPECT_FALSE(platform.clipboardBitmap().ok());
     EXPECT_FALSE(platform.setClipboardBitmap({}));
 }
 

@@ -28,6 +28,7 @@ class RecordingPlatform : public Platform {
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
     Bits clipboard;
+    QString clipboardFault;              // why it can't be read
     std::map<QString, QString> settings; // "section/key"
     QTemporaryDir folder;                // the program folder
     RecordingFonts recordingFonts;
@@ -49,8 +50,8 @@ class RecordingPlatform : public Platform {
     QString compactPath(const QString& path, int pixels) override;
     /// Reads in this process, by what Qt reads.
     LoadedPicture loadPicture(const QString& path, const QString& extension) override;
-    bool clipboardHasBitmap() override { return !clipboard.isNull(); }
-    Bits clipboardBitmap() override { return clipboard; }
+    bool clipboardHasBitmap() override { return !clipboard.isNull() || !clipboardFault.isEmpty(); }
+    LoadedPicture clipboardBitmap() override { return {clipboard, clipboardFault}; }
     bool setClipboardBitmap(const Bits& bits) override;
     bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;

@@ -190,8 +190,8 @@ class fMain final : public QMainWindow, public Frame {
     void placeSidePane();
     void seekSidePane(QPoint at);
     void wellClicked(int index);
-    void makeStepFolder();
-    void finished(fImage& image, bool kept);
+    void stepLost(const QString& reason);
+    void finished(fImage& image);
     /// The window of an open document; null when it is closed.
     fImage* imageOf(const DocumentHandle& document) const;
     void engineProgress(int percent);

@@ -70,6 +70,20 @@ QString FileNameOf(const QString& path)
 
 QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
 
+/// A name without an extension gets the one given.
+QString withExtension(const QString& path, const QString& extension)
+{
+    if (!extensionOf(path).isEmpty()) return path;
+    return path + (path.endsWith('.') ? "" : ".") + extension;
+}
+
+/// A portable anymap of any kind becomes one of true colour.
+QString writtenAs(const QString& path)
+{
+    const QString extension = extensionOf(path);
+    return kAnymaps.contains(extension) ? path.chopped(extension.size()) + "ppm" : path;
+}
+
 void giveNames(fImage& image, const QString& path, Frame& frame)
 {
     image.setTag(frame.UniqueCaption(path));
@@ -96,7 +110,7 @@ DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, 
     Document& document = image->document();
     document.hasFile = arrival == Arrival::File;
     giveNames(*image, inDialogFolder(path), *this);
-    makeStepFolder();
+    connect(image.get(), &fImage::stepLost, this, &fMain::stepLost);
     image->SaveUndoBits();
     auto* window = new fDocumentWindow(*this, image.release());
     area_->addSubWindow(window);
@@ -129,8 +143,11 @@ bool fMain::openPath(const QString& path)
     if (!loaded || closing_) return closing_;
     // A file that its reader can't make out opens as an empty document.
     const bool read = image->PictureExists();
+    const QString note = image->LoadNote();
     if (!read) status_->showMessage(FileNameOf(path) + tr(" can't be read as a picture."), 8000);
-    adopt(std::move(image), path, read ? Arrival::File : Arrival::Made);
+    // What has lost its end doesn't replace its file without a question.
+    adopt(std::move(image), path, read && note.isEmpty() ? Arrival::File : Arrival::Made);
+    if (read && !note.isEmpty()) status_->showMessage(note, 8000);
     return true;
 }
 
@@ -193,25 +210,31 @@ void fMain::save()
 void fMain::saveAs()
 {
     const QPointer<fImage> image = GetActiveImage();
-    const auto path = platform_.saveFileName({"Save as", kSaveFilter, dialogFolder_});
+    const QString own = extensionOf(image->Caption());
+    const QString usual = kSavedDirectly.contains(own) || kAnymaps.contains(own) ? own : QStringLiteral("png");
+    FileDialog dialog{"Save as", kSaveFilter, dialogFolder_};
+    dialog.extension = usual;
+    dialog.writtenAs = writtenAs;
+    const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;
-    const QString extension = extensionOf(*path);
+    const QString name = withExtension(*path, usual), extension = extensionOf(name);
     if (kAnymaps.contains(extension)) // the colours decide which of the three it becomes
-        saveTo(*image, *path, path->chopped(extension.size()), "pnm");
+        saveTo(*image, name, name.chopped(extension.size()), "pnm");
     else
-        saveTo(*image, *path, *path, extension);
+        saveTo(*image, name, name, extension);
 }
 
 void fMain::saveTo(fImage& image, const QString& name, const QString& path, const QString& extension)
 {
     const QPointer<fImage> watched = &image;
-    bool saved = false;
+    SaveResult result = SaveResult::Failed;
     try {
-        saved = image.Save(path, extension);
+        result = image.Save(path, extension);
     } catch (const std::exception&) {
     }
-    if (!saved) { // the document stays as it was, unsaved; an icon has had its own message
-        if (extension != "ico") platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
+    if (result != SaveResult::Written) { // the document stays as it was, unsaved
+        const bool told = result == SaveResult::FailedAndTold || result == SaveResult::Refused;
+        if (!told) platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
         return;
     }
     if (!watched) return; // closed while a notice of the save stood open
@@ -244,7 +267,6 @@ void fMain::copyToNew()
 
 void fMain::fromClipboard()
 {
-    if (!platform_.clipboardHasBitmap()) return;
     auto image = std::make_unique<fImage>(*this);
     image->PasteFromClipboard();
     if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Made);

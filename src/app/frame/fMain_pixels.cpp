@@ -1,5 +1,6 @@
 // Commands that change a picture: presets, filter dialogs, sizing and turning, crop, steps.
 #include "app/frame/fMain.h"
+#include "app/frame/fStatus.h"
 #include "app/menus/fIcons.h"
 #include "commands/jobs.h"
 #include "document/resizing.h"
@@ -69,11 +70,13 @@ void fMain::textTools()
 void fMain::stepUndo(bool back)
 {
     fImage* image = GetActiveImage();
-    if (back)
-        image->UndoBits();
-    else
-        image->RedoBits();
+    const bool moved = back ? image->UndoBits() : image->RedoBits();
     refreshUndoState();
+    const UndoStore& steps = image->document().undo;
+    if (moved && steps.passedOver())
+        status_->showMessage(steps.canRedo() && back ? tr("A step could not be kept: this is the last one that stands.")
+                                                     : tr("A step that could not be kept was passed over."),
+                             8000);
 }
 
 void fMain::setZoom(int factor)

@@ -4,7 +4,6 @@
 #include "document/Draft.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
-#include <QDir>
 
 namespace velara {
 
@@ -57,10 +56,9 @@ Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
     if (!draft.wanted() || (outcome && image->strokeUnderWay()))
         return {Outcome::Dropped, tr("the picture was changed meanwhile")};
     if (!outcome) return outcome;
-    makeStepFolder();
-    const bool kept = draft.take();
+    draft.take();
     draft.handTo(cFilter_, engineHolds(*handle));
-    finished(*image, kept);
+    finished(*image);
     return outcome;
 }
 
@@ -68,18 +66,14 @@ void fMain::finish(const DocumentHandle& handle)
 {
     fImage* image = imageOf(handle);
     if (!image) return;
-    makeStepFolder();
-    finished(*image, image->document().commit());
+    image->document().commit();
+    finished(*image);
 }
 
-/// The folder of the undo steps may have been swept away meanwhile.
-void fMain::makeStepFolder() { QDir().mkpath(platform_.programFolder() + "/Temp"); }
-
-void fMain::finished(fImage& image, bool kept)
+void fMain::finished(fImage& image)
 {
     status_->setProgress(0);
     image.UpdateImage();
-    if (!kept) status_->showMessage(tr("This step can't be undone: no room in the Temp folder."), kMessageTime);
     if (engineHolds(image.document())) setStatus(Panel::Size, image.SizeText());
     refreshUndoState();
 }
@@ -92,6 +86,14 @@ void fMain::Update(bool regionOnly, bool save)
     image->document().Zoomed = false;
     if (save) return finish(image->document().handle());
     if (!regionOnly) image->UpdateImage();
+    refreshUndoState();
+}
+
+/// A snapshot was not written, which is known only some time after the change.
+void fMain::stepLost(const QString& reason)
+{
+    if (closing_) return;
+    status_->showMessage(tr("This step can't be undone: %1.").arg(reason), kMessageTime);
     refreshUndoState();
 }
 

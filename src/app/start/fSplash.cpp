@@ -1,6 +1,8 @@
 #include "app/start/fSplash.h"
 #include "app/start/defaultPictures.h"
+#include "fileio/fileBytes.h"
 #include "seams/Platform.h"
+#include <QBuffer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -15,7 +17,10 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setAccessibleName("Velara Studio");
     QImage picture = splashPicture();
     const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
-    if (picture.save(path, "BMP"))
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "BMP");
+    if (overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())}))
         if (const QImage loaded(path); !loaded.isNull()) picture = loaded;
     ripples_ = std::make_shared<Ripples>(picture);
     setFixedSize(picture.size());

@@ -33,10 +33,15 @@ void Clips::paste()
     const QPointer<fImage> image = frame_.GetActiveImage();
     image->idst_KeyUp(Tools::Ctrl, 0);
     ToolStores& stores = frame_.toolStores();
-    if (box_->isEmpty()) stores.paste = frame_.platform().clipboardBitmap();
+    QString reason;
+    if (box_->isEmpty()) {
+        const LoadedPicture picture = frame_.platform().clipboardBitmap();
+        stores.paste = picture.bits;
+        reason = picture.reason;
+    }
     if (!image) return; // closed while the clipboard's owner was waited for
     if (stores.paste.isNull() || !image->PictureExists())
-        return frame_.report("PASTE", {Outcome::Failed, QObject::tr("nothing was cut or copied")});
+        return frame_.report("PASTE", {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
     frame_.setup().PasteMode = -1;
     frame_.setup().CurrentTool.clear();
     frame_.DisableTools();

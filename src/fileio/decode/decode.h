@@ -14,7 +14,7 @@ struct Decoded {
     int width = 0, height = 0;
     /// Writes the W pixels of row y (0 is the top one), fourth byte 0.
     std::function<void(int y, Pixel* row)> row;
-    QString reason; // empty when there is a picture
+    QString reason; // why there is no picture, or why it is not all there
     bool ok() const { return static_cast<bool>(row); }
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }

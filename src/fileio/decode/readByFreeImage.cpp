@@ -248,18 +248,17 @@ Decoded readByFreeImage(FileBytes& file, int fif)
 
     sizeFound(size.width, size.height);
     Dib dib = stream.load(fif, 0);
-    if (dib && isCutOff(stream, fif)) return refused(kCutOff);
+    const QString note = isCutOff(stream, fif) ? kCutOff : ""; // what there is can be shown
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
     const int height = static_cast<int>(FreeImage_GetHeight(dib.get()));
     if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
-    return {width,
-            height,
+    return {width, height,
             [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {
                 maker(FreeImage_GetScanLine(dib.get(), height - 1 - y), row);
             },
-            {}};
+            note};
 }
 
 } // namespace velara::decode

@@ -140,18 +140,19 @@ bool isDibCutOff(const FileBytes& file)
     return from + pixels > file.size();
 }
 
+Decoded noted(Decoded picture, bool isCutOff)
+{
+    if (picture.reason.isEmpty() && isCutOff) picture.reason = kCutOff;
+    return picture;
+}
+
 } // namespace
 
-Decoded readGif(FileBytes& file)
-{
-    if (file.startsWith("GIF8") && isGifCutOff(file)) return refused(kCutOff);
-    return readByQt(file, "gif");
-}
+Decoded readGif(FileBytes& file) { return noted(readByQt(file, "gif"), file.startsWith("GIF8") && isGifCutOff(file)); }
 
 Decoded readDib(FileBytes& file)
 {
-    if (isDibCutOff(file)) return refused(kCutOff);
-    return readByQt(file, file.startsWith("BM") ? "bmp" : "dib");
+    return noted(readByQt(file, file.startsWith("BM") ? "bmp" : "dib"), isDibCutOff(file));
 }
 
 } // namespace velara::decode

@@ -119,13 +119,13 @@ LoadedPicture receivePicture(DecoderProcess& child)
     }
     if (wait != Wait::Message) return {{}, faultOf(wait, child)};
     if (opening.magic != decode::kMagic) return {{}, kNonsense};
-    if (opening.width == 0 && opening.height == 0) {
-        const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
-        const QString reason = QString::fromUtf8(opening.reason, length).simplified();
-        return {{}, reason.isEmpty() ? QString(kNonsense) : reason};
-    }
+    const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
+    const QString reason = QString::fromUtf8(opening.reason, length).simplified();
+    if (opening.width == 0 && opening.height == 0) return {{}, reason.isEmpty() ? QString(kNonsense) : reason};
     if (!Bits::sizeAllowed(opening.width, opening.height)) return {{}, kNonsense};
-    return receiveRows(child, opening.width, opening.height);
+    LoadedPicture picture = receiveRows(child, opening.width, opening.height);
+    if (picture.ok()) picture.reason = reason;
+    return picture;
 }
 
 LoadedPicture load(const Descriptor& file, const QString& extension, const QString& decoder,
@@ -140,9 +140,24 @@ try {
     return {{}, "there is not enough memory for it"};
 }
 
+/// Names of files and words of the child come from outside: what could steer a terminal, or turn the direction of the
+/// text, is shown by its number.
+QString printable(const QString& text)
+{
+    QString shown;
+    for (const QChar c : text)
+        shown += c.category() == QChar::Other_Control || c.category() == QChar::Other_Format
+                     ? QStringLiteral("\\x") + QString::number(c.unicode(), 16).rightJustified(2, u'0')
+                     : QString(c);
+    return shown;
+}
+
 LoadedPicture named(LoadedPicture picture, const QString& name)
 {
-    if (!picture.ok()) picture.reason = name + " can't be read: " + picture.reason;
+    if (!picture.ok())
+        picture.reason = printable(name + " can't be read: " + picture.reason);
+    else if (!picture.reason.isEmpty())
+        picture.reason = printable(name + ": " + picture.reason);
     return picture;
 }
 

@@ -1,12 +1,15 @@
 #include "platform/desktop/QtPlatform.h"
+#include "platform/desktop/clipboard/ClipboardOffer.h"
 #include "platform/desktop/ReadingBox.h"
 #include "platform/nameFilters.h"
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
+#include <algorithm>
 
 namespace velara {
 
@@ -48,14 +51,36 @@ std::optional<QString> runDialog(QFileDialog* dialog)
     return files.front();
 }
 
-QFileDialog* makeDialog(const FileDialog& request)
+void prepare(QFileDialog& dialog, const FileDialog& request)
 {
-    auto* dialog = new QFileDialog(parentOfDialogs(), request.title, request.folder.trimmed());
-    dialog->setObjectName("fileDialog");
-    dialog->setOption(QFileDialog::HideNameFilterDetails);
-    dialog->setNameFilters(nameFilters(request.filter));
-    return dialog;
+    dialog.setObjectName("fileDialog");
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(request.filter));
 }
+
+/// Asks about the file that will really be written, which may have another name than the one that was chosen.
+class SaveDialog final : public QFileDialog {
+  public:
+    explicit SaveDialog(const FileDialog& request)
+        : QFileDialog(parentOfDialogs(), request.title, request.folder.trimmed()), writtenAs_(request.writtenAs)
+    {
+        setOption(DontUseNativeDialog); // which would be gone by the time of the question
+        setOption(DontConfirmOverwrite);
+    }
+    void accept() override
+    {
+        const QString name = selectedFiles().value(0);
+        const QFileInfo written(writtenAs_ ? writtenAs_(name) : name);
+        const bool replaces = !name.isEmpty() && !QFileInfo(name).isDir() && written.exists();
+        if (replaces && showBox(windowTitle(), written.fileName() + tr(" already exists.\nDo you want to replace it?"),
+                                Icon::Exclamation, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+            return;
+        QFileDialog::accept();
+    }
+
+  private:
+    std::function<QString(const QString&)> writtenAs_;
+};
 
 /// Blue, green and red as they are, the fourth byte given.
 void copyRow(quint32* to, const quint32* from, int count, quint32 fourth)
@@ -91,20 +116,23 @@ Answer QtPlatform::askYesNoCancel(const QString& title, const QString& text, Ico
 
 std::optional<QString> QtPlatform::openFileName(const FileDialog& request)
 {
-    QFileDialog* dialog = makeDialog(request);
+    auto* dialog = new QFileDialog(parentOfDialogs(), request.title, request.folder.trimmed());
+    prepare(*dialog, request);
     dialog->setFileMode(QFileDialog::ExistingFile);
     return runDialog(dialog);
 }
 
 std::optional<QString> QtPlatform::saveFileName(const FileDialog& request)
 {
-    QFileDialog* dialog = makeDialog(request);
+    auto* dialog = new SaveDialog(request);
+    prepare(*dialog, request);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    // A name without a suffix gets that of the format chosen, before the question about an existing file.
-    dialog->setDefaultSuffix(firstSuffix(dialog->selectedNameFilter()));
-    QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
-                     [dialog](const QString& filter) { dialog->setDefaultSuffix(firstSuffix(filter)); });
+    const auto giveSuffix = [dialog, request](const QString& filter) {
+        dialog->setDefaultSuffix(suffixFor(request.filter, filter, request.extension));
+    };
+    giveSuffix(dialog->selectedNameFilter());
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, giveSuffix);
     return runDialog(dialog);
 }
 
@@ -128,20 +156,73 @@ QString QtPlatform::compactPath(const QString& path, int pixels)
     return metrics.elidedText(path.chopped(name.size()), Qt::ElideRight, left) + name;
 }
 
-bool QtPlatform::clipboardHasBitmap()
-{
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage();
-}
+namespace {
 
-Bits QtPlatform::clipboardBitmap()
+struct ClipboardType {
+    const char* mime;
+    const char* extension; // of the reader
+};
+
+// clang-format off
+constexpr ClipboardType kClipboardTypes[] = { // the exact ones first
+    {"image/png",      "png"},
+    {"image/bmp",      "bmp"},
+    {"image/x-bmp",    "bmp"},
+    {"image/x-MS-bmp", "bmp"},
+    {"image/tiff",     "tif"},
+    {"image/x-tga",    "tga"},
+    {"image/x-portable-pixmap", "ppm"},
+    {"image/gif",      "gif"},
+    {"image/x-icon",   "ico"},
+    {"image/jpeg",     "jpg"},
+};
+// clang-format on
+
+Bits bitsOf(const QImage& picture)
 {
-    const QImage image = QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32);
+    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
     Bits bits(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y)
         copyRow(reinterpret_cast<quint32*>(bits.row(y)), reinterpret_cast<const quint32*>(image.constScanLine(y)),
                 image.width(), 0);
     return bits;
+}
+
+} // namespace
+
+bool QtPlatform::clipboardHasBitmap()
+{
+    if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_) return true;
+    const QStringList offered = clipboardOffer()->types();
+    return std::any_of(std::begin(kClipboardTypes), std::end(kClipboardTypes),
+                       [&](const ClipboardType& type) { return offered.contains(QLatin1String(type.mime)); });
+}
+
+LoadedPicture QtPlatform::clipboardBitmap()
+{
+    if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_)
+        return {bitsOf(qvariant_cast<QImage>(ours_->imageData())), {}};
+    const auto offer = clipboardOffer();
+    const QStringList offered = offer->types();
+    LoadedPicture picture;
+    for (const ClipboardType& type : kClipboardTypes) {
+        if (!offered.contains(QLatin1String(type.mime))) continue;
+        const auto bytes = offer->bytes(type.mime);
+        picture =
+            bytes ? decodeBytes(*bytes, QStringLiteral("The picture on the clipboard"), type.extension)
+                  : LoadedPicture{
+                        {}, QStringLiteral("The program that put the picture on the clipboard doesn't hand it over.")};
+        if (picture.ok()) break;
+    }
+    return picture;
+}
+
+void QtPlatform::offer(const QImage& picture)
+{
+    auto* data = new QMimeData;
+    data->setImageData(picture);
+    QGuiApplication::clipboard()->setMimeData(data);
+    ours_ = data;
 }
 
 bool QtPlatform::setClipboardBitmap(const Bits& bits)
@@ -151,7 +232,7 @@ bool QtPlatform::setClipboardBitmap(const Bits& bits)
     for (int y = 0; y < image.height(); ++y)
         copyRow(reinterpret_cast<quint32*>(image.scanLine(y)), reinterpret_cast<const quint32*>(bits.row(y)),
                 image.width(), 0xFF000000u);
-    QGuiApplication::clipboard()->setImage(image);
+    offer(image);
     return true;
 }
 
@@ -165,7 +246,7 @@ bool QtPlatform::setClipboardPart(const Bits& part)
         for (int x = 0; x < image.width(); ++x)
             to[x] = from[x].c[3] == 255 ? 0 : qRgb(from[x].c[2], from[x].c[1], from[x].c[0]);
     }
-    QGuiApplication::clipboard()->setImage(image);
+    offer(image);
     return true;
 }
 

@@ -6,6 +6,8 @@
 #include "platform/desktop/QtFonts.h"
 #include "platform/desktop/QtScreen.h"
 #include "platform/desktop/SaneScanner.h"
+#include <QMimeData>
+#include <QPointer>
 
 namespace velara {
 
@@ -21,7 +23,7 @@ class QtPlatform : public CorePlatform {
     QString compactPath(const QString& path, int pixels) override;
 
     bool clipboardHasBitmap() override;
-    Bits clipboardBitmap() override;
+    LoadedPicture clipboardBitmap() override;
     bool setClipboardBitmap(const Bits& bits) override;
     bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
@@ -35,10 +37,13 @@ class QtPlatform : public CorePlatform {
     GoOn whileReading(const QString& name) override;
 
   private:
+    void offer(const QImage& picture);
+
     QtFonts fonts_;
     QtScreen screen_{*this};
     DesktopWallpaper wallpaper_{*this};
     SaneScanner scanner_{findHelper("velara-scan")};
+    QPointer<QMimeData> ours_; // what this program last put on the clipboard, while it is there
 };
 
 } // namespace velara

@@ -1,6 +1,5 @@
 #include "ui/view/fImage.h"
 #include "engine/cBitFilter.h"
-#include "fileio/savePicture.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -26,12 +25,18 @@ constexpr int kPathPixels = 400;
 } // namespace
 
 fImage::fImage(Frame& frame, QWidget* parent)
-    : QWidget(parent), frame_(frame), document_(frame.platform().programFolder() + "/Temp", frame.nextDocumentNumber()),
+    : QWidget(parent), frame_(frame),
+      document_(frame.platform().programFolder() + "/Temp", [&frame] { return frame.nextDocumentNumber(); }),
       iDst_(new fDisplay(*this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
       vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_), tmrSelection_(this),
       tools_(std::make_unique<Tools>(document_, frame, *this)),
       barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
 {
+    // From the writing thread; what comes after the end of this window is dropped.
+    document_.undo.onFailure([this](const QString& reason) {
+        QMetaObject::invokeMethod(
+            this, [this, reason] { emit stepLost(reason); }, Qt::QueuedConnection);
+    });
     setObjectName("fImage");
     setAccessibleName(tr("Picture window"));
     setAutoFillBackground(true);
@@ -66,17 +71,18 @@ bool fImage::SetPicture(const QString& path, const QString& ext)
     const LoadedPicture loaded = frame_.platform().loadPicture(path, kind);
     if (!self || (!loaded.ok() && kPlatformKinds.contains(kind))) return false;
     PPicture(loaded.bits);
+    loadNote_ = loaded.reason;
     return true;
 }
 
-bool fImage::Save(const QString& path, const QString& ext)
+SaveResult fImage::Save(const QString& path, const QString& ext)
 {
     // Only a gif takes long, since its colours are reduced first. A notice of the others may outlive this window.
     const bool slow = ext.compare("gif", Qt::CaseInsensitive) == 0;
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const SaveResult result = savePicture(frame_.platform(), document_.Bits(), path, ext);
     if (slow) QGuiApplication::restoreOverrideCursor();
-    return result == SaveResult::Written;
+    return result;
 }
 
 void fImage::CreateBlank(int width, int height)
@@ -126,8 +132,11 @@ void fImage::BitsCopyToClipboard()
 
 void fImage::PasteFromClipboard()
 {
-    const velara::Bits picture = frame_.platform().clipboardBitmap();
-    if (!picture.isNull()) PPicture(picture);
+    const QPointer<fImage> self = this;
+    const LoadedPicture picture = frame_.platform().clipboardBitmap();
+    if (!self) return;
+    if (picture.ok()) return PPicture(picture.bits);
+    if (!picture.reason.isEmpty()) frame_.platform().message(kTitle, picture.reason, Icon::Exclamation);
 }
 
 bool fImage::UndoBits() { return step(document_.UndoBits(frame_.filter())); }
@@ -189,7 +198,7 @@ bool fImage::event(QEvent* event)
 
 bool fImage::mayClose()
 {
-    if (!frame_.setup().AskToSave || !document_.Changed || document_.undo.UndoStep() < 2) return true;
+    if (!frame_.setup().AskToSave || !document_.Changed || !document_.undo.mayHaveChanged()) return true;
     if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
         window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
     const QString text =

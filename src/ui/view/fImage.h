@@ -6,6 +6,7 @@
 // fImage_mouse.cpp (what mouse and keys do).
 #pragma once
 #include "document/Document.h"
+#include "fileio/savePicture.h"
 #include "tools/ToolSurface.h"
 #include "ui/view/fBands.h"
 #include "ui/widgets/viewLayout.h"
@@ -36,9 +37,10 @@ class fImage final : public QWidget, public ToolSurface {
     /// Loads a file by the reader of its extension. A file that a reader of the platform (gif, wmf, emf, ico, cur, dib)
     /// refuses gives false; any other that can't be read gives true and an empty document, as an unknown kind does.
     bool SetPicture(const QString& path, const QString& ext);
-    /// Writes the picture in the format of the extension; its notices are shown here. False: nothing was written,
-    /// because it failed, there is no picture, or no writer for the extension.
-    bool Save(const QString& path, const QString& ext);
+    /// Why the file that was loaded is not all there; empty where it is.
+    const QString& LoadNote() const { return loadNote_; }
+    /// Writes the picture in the format of the extension; its notices are shown here.
+    SaveResult Save(const QString& path, const QString& ext);
     /// A black picture; nothing below 1 by 1. Leaves the selection alone.
     void CreateBlank(int width, int height);
     /// Takes a picture into the document, whatever there was; a null one clears it. The selection is wiped.
@@ -59,7 +61,7 @@ class fImage final : public QWidget, public ToolSurface {
     void PasteFromClipboard();
 
     // --- Undo. Steps repaint, and report the size in the status bar.
-    bool SaveUndoBits() { return document_.SaveUndoBits(); }
+    void SaveUndoBits() { document_.SaveUndoBits(); }
     bool UndoBits();
     bool RedoBits();
 
@@ -128,6 +130,10 @@ class fImage final : public QWidget, public ToolSurface {
 
     QSize sizeHint() const override;
 
+  signals:
+    /// A snapshot couldn't be written; the reason is for a person.
+    void stepLost(const QString& reason);
+
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -149,6 +155,7 @@ class fImage final : public QWidget, public ToolSurface {
 
     Frame& frame_;
     Document document_;
+    QString loadNote_;
     fDisplay* iDst_;
     QScrollBar *hSB_, *vSB_;
     QWidget* shp_;

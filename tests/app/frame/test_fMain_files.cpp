@@ -5,6 +5,7 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
+#include "support/fullDisk.h"
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFile>
@@ -17,6 +18,8 @@ namespace velara {
 namespace {
 
 const std::string kLoadError = "message: Velara Studio: Unexpected error loading image";
+const std::string kWriterError =
+    "message: Internal Error: There was an error while saving! Please Restart Velara's Studio";
 const std::string kSaveError = "message: Velara Studio: Unexpected error saving image";
 
 } // namespace
@@ -116,13 +119,105 @@ TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
     EXPECT_FALSE(QFile::exists(path("c.pgm")));
 }
 
+TEST_F(FrameTest, ANameWithoutAnExtensionGetsOne)
+{
+    const struct {
+        const char *caption, *answer, *written;
+    } kCases[] = {{"a.bmp", "one", "one.bmp"},
+                  {"a.JPG", "two.", "two.jpg"},
+                  {"a.psd", "three", "three.png"},
+                  {"New.bmp", "four.tga", "four.tga"}};
+    for (const auto& c : kCases) {
+        open(randomBits(8, 8, 1), c.caption);
+        platform.answers = {path(c.answer)};
+        frame->Mmenu("SAVEAS");
+        EXPECT_TRUE(QFile::exists(path(c.written))) << c.written;
+        EXPECT_FALSE(platform.logged(kSaveError));
+    }
+    EXPECT_EQ(platform.lastDialog.writtenAs("/a/x.PGM"), "/a/x.ppm");
+    EXPECT_EQ(platform.lastDialog.writtenAs("/a/x.png"), "/a/x.png");
+}
+
+TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
+{
+    QDir(path("Temp")).removeRecursively();
+    fImage* image = open(randomBits(40, 40, 1));
+    ASSERT_TRUE(image->document().undo.stands()) << "opening makes the folder anew";
+    const Bits before = image->Bits();
+    {
+        const FullDisk full(1000);
+        frame->Mmenu("INVERT");
+        EXPECT_FALSE(image->document().undo.stands());
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(frame->status().currentMessage(), "This step can't be undone: no room in the Temp folder.");
+    frame->close(); // an empty queue cancels
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(last().starts_with("ask: ")) << last();
+    const Bits after = image->Bits();
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_TRUE(frame->status().currentMessage().contains("last one that stands"));
+    frame->Mmenu("REDO");
+    EXPECT_TRUE(sameBits(after, image->Bits()));
+}
+
+TEST_F(FrameTest, TheNaturalSizeOnlySetsTheView)
+{
+    fImage* image = open(randomBits(20, 20, 1));
+    frame->Mmenu("INVERT");
+    frame->Mmenu("UNDO");
+    frame->Mmenu("400");
+    frame->Mmenu("ORIGINAL");
+    EXPECT_EQ(image->ZoomFactor(), 1);
+    EXPECT_EQ(image->document().undo.UndoStep(), 1);
+    EXPECT_TRUE(image->document().undo.canRedo());
+}
+
+TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
+{
+    velara::Setup otherSetup;
+    fMain other(platform, otherSetup); // a lock is the open file's: as good as another program
+    const Bits mine = randomBits(20, 20, 1);
+    fImage* image = open(mine);
+    const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"));
+    ASSERT_NE(theirs->DocNumber(), image->DocNumber());
+    frame->Mmenu("INVERT");
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(mine, image->Bits()));
+    other.close();
+    frame->Mmenu("REDO");
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(mine, image->Bits()));
+}
+
+TEST_F(FrameTest, AClipboardPictureThatCannotBeReadIsTold)
+{
+    platform.clipboardFault = "The picture on the clipboard can't be read: it is too large";
+    frame->Mmenu("CREATEFROMCLIPBOARD");
+    EXPECT_EQ(last(), "message: Velara Studio: The picture on the clipboard can't be read: it is too large");
+    EXPECT_TRUE(frame->documents().isEmpty());
+}
+
 TEST_F(FrameTest, ASaveThatFailsSaysSoAndLeavesTheDocument)
 {
     fImage* image = open(randomBits(8, 8, 1));
     image->document().Changed = true;
     platform.answers = {path("no/such/folder/b.bmp")};
     frame->Mmenu("SAVEAS");
-    EXPECT_TRUE(platform.logged(kSaveError));
+    EXPECT_TRUE(platform.logged(kWriterError));
+    EXPECT_FALSE(platform.logged(kSaveError)) << "one box is enough";
+    platform.answers = {path("b.xyz")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_EQ(last(), kSaveError) << "no writer for it";
+    platform.log.clear();
+    fImage* empty = open({}, "empty.bmp");
+    ASSERT_EQ(empty, frame->GetActiveImage());
+    platform.answers = {path("e.bmp")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_EQ(last(), kSaveError) << "no picture";
+    empty->parentWidget()->close();
+    QCoreApplication::processEvents();
     EXPECT_TRUE(image->document().Changed);
     EXPECT_EQ(image->Caption(), "picture.bmp");
 }
@@ -252,6 +347,31 @@ TEST(StartTest, AFirstStartMakesTheFoldersAndALaterOneLeavesThem)
     }
     ASSERT_TRUE(makeFolders(platform));
     EXPECT_TRUE(QDir(folder.filePath("Stamps")).entryList(QDir::Files).isEmpty());
+}
+
+TEST(StartTest, AFullDiskLeavesNothingEmptyBehind)
+{
+    useResources();
+    RecordingPlatform platform;
+    const QDir folder(platform.programFolder());
+    {
+        const FullDisk full(1000);
+        EXPECT_FALSE(makeFolders(platform));
+    }
+    EXPECT_FALSE(folder.exists("Stamps"));
+    EXPECT_FALSE(folder.exists("Images"));
+    ASSERT_TRUE(makeFolders(platform));
+    for (const char* name : {"Stamps/Velara3.bmp", "Images/Velara.bmp"}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly)); // as an earlier version left it
+        file.close();
+    }
+    QFile::remove(folder.filePath("Stamps/Velara4.bmp"));
+    ASSERT_TRUE(makeFolders(platform));
+    EXPECT_FALSE(QImage(folder.filePath("Stamps/Velara3.bmp")).isNull());
+    EXPECT_FALSE(QImage(folder.filePath("Images/Velara.bmp")).isNull());
+    EXPECT_FALSE(folder.exists("Stamps/Velara4.bmp")) << "what was deleted stays away";
+    EXPECT_FALSE(QFile::permissions(folder.filePath("Temp")) & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther));
 }
 
 TEST(StartTest, WhateverTheConfigurationSaysTheFrameIsOnTheScreen)

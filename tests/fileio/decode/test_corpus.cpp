@@ -10,6 +10,7 @@ namespace {
 struct Sample {
     const char* path;
     int width, height; // 0 by 0: it is refused
+    bool cutOff = false;
 };
 
 // clang-format off
@@ -27,7 +28,7 @@ constexpr Sample kSamples[] = {
     {"koa/blocks.koa", 320, 200},
     {"lbm/serenity.lbm", 640, 480},
     {"malformed/bomb.gif", 0, 0}, {"malformed/negative_size.ppm", 0, 0}, {"malformed/reallybig.bmp", 0, 0},
-    {"malformed/jpg_exif.jpg", 0, 0}, // damaged metadata, which no longer crashes, and cut off
+    {"malformed/jpg_exif.jpg", 320, 240, true}, // damaged metadata, which no longer crashes, and cut off
     {"mng/input.mng", 48, 48},
     {"pbm/hopper_1bit.pbm", 128, 128}, {"pbm/hopper_1bit_plain.pbm", 128, 128},
     {"pcd/hopper.pcd", 768, 512},
@@ -68,7 +69,8 @@ TEST(Corpus, EveryFileHasItsSizeOrAReason)
         const Decoded picture = decodeSample(sample.path);
         EXPECT_EQ(picture.width, sample.width) << sample.path << ": " << picture.reason.toStdString();
         EXPECT_EQ(picture.height, sample.height) << sample.path;
-        EXPECT_EQ(picture.reason.isEmpty(), sample.width > 0) << sample.path << ": " << picture.reason.toStdString();
+        EXPECT_EQ(picture.reason.isEmpty(), sample.width > 0 && !sample.cutOff)
+            << sample.path << ": " << picture.reason.toStdString();
         if (picture.ok()) pixelsOf(picture);
     }
 }

@@ -125,7 +125,7 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         {"opening(-5, 5)" + rest, "false answer"},
         {"opening(0, 5)" + rest, "false answer"},
         {"opening(0, 0)" + rest, "false answer"},
-        {"opening(0, 0, b'because\\x01 it is so')", "because\x01 it is so"},
+        {"opening(0, 0, b'because\\x01 it is so')", "because\\x01 it is so"},
         {"opening(0, 0, b'\\xff' * 244)", "can't be read"},
         {"opening(10, 10); s.send(struct.pack('<i', 3))" + rest, "false answer"},
         {"opening(9, 9999); [s.send(struct.pack('<i', 0)) for _ in range(99)]" + rest, "false answer"},

@@ -118,15 +118,15 @@ TEST_F(Window, SavesAndSaysWhetherAFileWasWritten)
     const Bits bits = randomBits(7, 5, 3);
     fImage& w = open(bits);
     const QString base = frame.platform_.folder.path() + "/saved.";
-    EXPECT_TRUE(w.Save(base + "png", "PNG"));
+    EXPECT_EQ(w.Save(base + "png", "PNG"), SaveResult::Written);
     EXPECT_EQ(QImage(base + "png").convertToFormat(QImage::Format_RGB32), w.ObtainedPic());
     for (const char* kind : {"xyz", "", "ico"}) {
-        EXPECT_FALSE(w.Save(base + kind, kind)) << kind;
+        EXPECT_NE(w.Save(base + kind, kind), SaveResult::Written) << kind;
         EXPECT_FALSE(QFile::exists(base + kind)) << kind;
     }
-    EXPECT_FALSE(w.Save("/nowhere/at/all.bmp", "bmp"));
+    EXPECT_EQ(w.Save("/nowhere/at/all.bmp", "bmp"), SaveResult::FailedAndTold);
     w.Clear();
-    EXPECT_FALSE(w.Save(base + "bmp", "bmp")) << "nothing to write";
+    EXPECT_EQ(w.Save(base + "bmp", "bmp"), SaveResult::NotWritten);
 }
 
 TEST_F(Window, ClipboardHoldsThePictureOnly)

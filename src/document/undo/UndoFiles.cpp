@@ -1,4 +1,4 @@
-#include "document/UndoStore.h"
+#include "document/undo/UndoFiles.h"
 #include "fileio/fileBytes.h"
 #include <QFile>
 #include <array>
@@ -34,8 +34,6 @@ std::int64_t pixelBytes(const Header& h)
 
 QString padded(int number, int digits) { return QString::number(number).rightJustified(digits, u'0'); }
 
-void removeFile(const QString& path) { QFile::remove(path); }
-
 bool replaceFile(const QString& from, const QString& to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
@@ -43,60 +41,32 @@ bool replaceFile(const QString& from, const QString& to)
 
 } // namespace
 
-UndoStore::UndoStore(QString folder, int documentNumber) : folder_(std::move(folder)), number_(documentNumber) {}
-
-QString UndoStore::fileName(int index) const
+QString UndoFiles::name(int index) const
 {
     return folder_ + QStringLiteral("/b") + padded(number_, 4) + padded(index, 2) + QStringLiteral(".dat");
 }
 
-bool UndoStore::save(const Bits& bits)
+bool UndoFiles::write(int index, const Bits& bits) const
 {
-    if (bits.isNull() || folder_.isEmpty()) return false;
     const Header header = headerOf(bits);
     const ByteView head{reinterpret_cast<const std::uint8_t*>(&header), sizeof header};
-    const QString path = fileName(step_);
-    // The oldest of a full series is about to go: written over in its cached pages it takes half the time of a new
-    // file.
-    const bool recycled = step_ >= kLimit && replaceFile(fileName(0), path);
-    if (!overwriteFile(path, head, {bits.data(), bits.sizeInBytes()})) {
-        if (recycled) replaceFile(path, fileName(0));
+    return overwriteFile(name(index), head, {bits.data(), bits.sizeInBytes()});
+}
+
+bool UndoFiles::writeOverOldest(int index, const Bits& bits) const
+{
+    const bool recycled = replaceFile(name(0), name(index));
+    if (!write(index, bits)) {
+        if (recycled) replaceFile(name(index), name(0));
         return false;
     }
-    if (recycled) QFile::resize(path, static_cast<qint64>(head.size() + bits.sizeInBytes()));
-    for (int i = step_ + 1; i <= top_; ++i) removeFile(fileName(i));
-    if (step_ >= kLimit)
-        shiftSeries(); // the counters stay: ten snapshots stand, the state on screen is one of them
-    else
-        top_ = ++step_;
+    if (recycled) QFile::resize(name(index), static_cast<qint64>(sizeof(Header) + bits.sizeInBytes()));
     return true;
 }
 
-/// Drops the oldest. Upward, so that no file is overwritten; one that fails does not stop the rest.
-void UndoStore::shiftSeries()
+std::optional<Bits> UndoFiles::read(int index) const
 {
-    removeFile(fileName(0));
-    for (int i = 1; i <= kLimit; ++i) replaceFile(fileName(i), fileName(i - 1));
-}
-
-std::optional<Bits> UndoStore::undo()
-{
-    auto bits = previous();
-    if (bits) stepBack();
-    return bits;
-}
-
-std::optional<Bits> UndoStore::redo()
-{
-    if (!canRedo()) return {};
-    auto bits = load(step_);
-    if (bits) ++step_;
-    return bits;
-}
-
-std::optional<Bits> UndoStore::load(int index) const
-{
-    FileReader file(fileName(index));
+    FileReader file(name(index));
     Header header{};
     if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return {};
     const std::int64_t size = pixelBytes(header);
@@ -106,9 +76,17 @@ std::optional<Bits> UndoStore::load(int index) const
     return bits;
 }
 
-void UndoStore::deleteSeries()
+void UndoFiles::remove(int index) const { QFile::remove(name(index)); }
+
+void UndoFiles::shift(int last) const
 {
-    for (int i = 0; i < 100; ++i) removeFile(fileName(i)); // a wildcard would take document 10000's for 1000's
+    remove(0);
+    for (int i = 1; i <= last; ++i) replaceFile(name(i), name(i - 1));
+}
+
+void UndoFiles::removeAll() const
+{
+    for (int i = 0; i < 100; ++i) remove(i); // a wildcard would take document 10000's for 1000's
 }
 
 } // namespace velara

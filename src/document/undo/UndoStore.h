@@ -1,0 +1,67 @@
+// UndoStore: the undo and redo series of one document, whole-picture snapshots on disk. Knows two counters and a
+// folder, and no window.
+//
+// Snapshots are written by a thread, in order, from the shared value that they are, so that an edit doesn't wait for
+// the disk. Counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be
+// written stays in memory until the next one is: from there undo goes to the last state that stands, and redo comes
+// back.
+#pragma once
+#include "pixels/Bits.h"
+#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace velara {
+
+class UndoStore {
+  public:
+    static constexpr int kLimit = 10; // snapshots that stand after a save
+
+    /// folder is where the files lie ("Temp" under the program folder; empty: no step is kept). A number that another
+    /// program uses is passed over: next is asked again. The folder is made if its parent stands.
+    UndoStore(QString folder, const std::function<int()>& next);
+    /// A number of which the caller knows that it is free; where it isn't, no step is kept.
+    UndoStore(QString folder, int documentNumber);
+    ~UndoStore();
+    UndoStore(const UndoStore&) = delete;
+    UndoStore& operator=(const UndoStore&) = delete;
+
+    int number() const;
+    int UndoStep() const; // snapshots up to and including the state shown
+    int UndoTop() const;  // snapshots in the series
+    bool canUndo() const;
+    bool canRedo() const;
+    /// True from the second snapshot on, and when one couldn't be written: there may be something to lose.
+    bool mayHaveChanged() const;
+
+    /// The picture becomes the next step, what could be redone is cut, and the oldest goes from a full series. Returns
+    /// at once unless the snapshot before the last one is still being written.
+    void save(const Bits& bits);
+    /// Waits for the writing. True when the state shown is in the series, or none was ever saved.
+    bool stands() const;
+    /// Waits. The picture that was shown before this one, the counters as they were; nothing when it is lost.
+    std::optional<Bits> previous() const;
+    /// The counters of undo(), for a picture that previous() gave.
+    void stepBack();
+    /// The picture one step back or forward, and the counters moved. Steps that are lost are passed over; nothing, and
+    /// nothing moved, when there is none that can be read.
+    std::optional<Bits> undo();
+    std::optional<Bits> redo();
+    /// Whether the last undo or redo left or passed over a step that couldn't be written or read.
+    bool passedOver() const;
+    /// Removes every file of the document; snapshots that wait are not written any more.
+    void deleteSeries();
+
+    /// Called from the writing thread when a snapshot couldn't be written, with the reason for a person. To be set
+    /// before the first save.
+    void onFailure(std::function<void(const QString& reason)> told);
+
+    QString fileName(int index) const;
+
+  private:
+    struct Series;
+    std::shared_ptr<Series> series_; // shared with the jobs that wait
+};
+
+} // namespace velara

@@ -1,0 +1,360 @@
+#include "document/undo/UndoMark.h"
+#include "document/undo/UndoStore.h"
+#include "support/fullDisk.h"
+#include "support/pictures.h"
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QTemporaryDir>
+#include <csignal>
+#include <cstring>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace velara {
+namespace {
+
+struct UndoStoreTest : ::testing::Test {
+    QTemporaryDir folder;
+    UndoStore store{folder.path(), 3};
+
+    QStringList files() const
+    {
+        return QDir(folder.path()).entryList({QStringLiteral("*.dat")}, QDir::Files, QDir::Name);
+    }
+    QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
+    static QByteArray contentOf(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QByteArray content(const char* name) const { return contentOf(path(name)); }
+    void put(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    static Bits picture(int i) { return randomBits(5 + i % 3, 4, 100 + static_cast<std::uint32_t>(i)); }
+    bool save(const Bits& bits)
+    {
+        store.save(bits);
+        return store.stands();
+    }
+    void saveMany(int first, int count)
+    {
+        for (int i = first; i < first + count; ++i) store.save(picture(i));
+        ASSERT_TRUE(store.stands());
+    }
+    void expectUndo(const Bits& wanted, bool passedOver)
+    {
+        EXPECT_TRUE(store.canUndo());
+        EXPECT_TRUE(sameBits(wanted, store.undo().value_or(Bits())));
+        EXPECT_EQ(passedOver, store.passedOver());
+    }
+    void expectRedo(const Bits& wanted, bool passedOver)
+    {
+        EXPECT_TRUE(store.canRedo());
+        EXPECT_TRUE(sameBits(wanted, store.redo().value_or(Bits())));
+        EXPECT_EQ(passedOver, store.passedOver());
+    }
+    void expectCounters(int step, int top) const
+    {
+        EXPECT_EQ(step, store.UndoStep());
+        EXPECT_EQ(top, store.UndoTop());
+    }
+};
+
+TEST_F(UndoStoreTest, AFileIsABitmapHeaderAndTheBlock)
+{
+    const Bits bits = randomBits(3, 2, 1);
+    ASSERT_TRUE(save(bits));
+    QByteArray wanted = QByteArray::fromHex("28000000"
+                                            "07000000"
+                                            "faffffff"
+                                            "0100"
+                                            "2000") +
+                        QByteArray(24, '\0');
+    wanted += QByteArray(reinterpret_cast<const char*>(bits.data()), static_cast<int>(bits.sizeInBytes()));
+    EXPECT_EQ(wanted, content("b000300.dat"));
+}
+
+TEST_F(UndoStoreTest, NamesGrowWithTheirNumbers)
+{
+    EXPECT_EQ(path("b000307.dat"), store.fileName(7));
+    EXPECT_EQ(path("b12345100.dat"), UndoStore(folder.path(), 12345).fileName(100));
+}
+
+TEST_F(UndoStoreTest, StepsBackAndForward)
+{
+    EXPECT_FALSE(store.undo()) << "no picture yet";
+    saveMany(0, 1);
+    EXPECT_FALSE(store.undo()) << "the first state has none before it";
+    EXPECT_FALSE(store.redo());
+    saveMany(1, 2);
+    expectCounters(3, 3);
+    EXPECT_TRUE(sameBits(picture(1), store.undo().value()));
+    EXPECT_TRUE(sameBits(picture(0), store.undo().value()));
+    EXPECT_FALSE(store.undo());
+    expectCounters(1, 3);
+    EXPECT_TRUE(sameBits(picture(1), store.redo().value()));
+    expectCounters(2, 3);
+    saveMany(7, 1); // an edit here cuts what could be redone
+    expectCounters(3, 3);
+    EXPECT_FALSE(store.redo());
+    EXPECT_TRUE(sameBits(picture(1), store.undo().value()));
+    EXPECT_TRUE(sameBits(picture(7), store.redo().value()));
+}
+
+TEST_F(UndoStoreTest, TenSnapshotsStand)
+{
+    saveMany(0, 10);
+    expectCounters(10, 10);
+    EXPECT_EQ(10, files().size());
+    saveMany(10, 3);
+    expectCounters(10, 10);
+    ASSERT_EQ(10, files().size());
+    EXPECT_EQ("b000309.dat", files().last().toStdString());
+    for (const QString& name : files()) // those of a full series are written over, and still have their own lengths
+        EXPECT_TRUE(QSet<qint64>({40 + 4 * 9 * 8, 40 + 4 * 10 * 8, 40 + 4 * 11 * 8})
+                        .contains(QFileInfo(folder.filePath(name)).size()))
+            << name.toStdString();
+    for (int i = 11; i >= 3; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
+    EXPECT_FALSE(store.undo());
+    for (int i = 0; i < 5; ++i) ASSERT_TRUE(store.redo());
+    saveMany(20, 1);
+    EXPECT_EQ("b000306.dat", files().last().toStdString()) << "nothing stands above the new step";
+}
+
+TEST_F(UndoStoreTest, AnOlderLongerFileKeepsItsTail)
+{
+    const Bits large = randomBits(20, 20, 1), small = randomBits(2, 2, 2);
+    put("b000300.dat", QByteArray(5000, 'x')); // of an earlier run
+    ASSERT_TRUE(save(small));
+    EXPECT_EQ(5000, content("b000300.dat").size());
+    ASSERT_TRUE(save(large));
+    EXPECT_TRUE(sameBits(small, store.undo().value()));
+}
+
+TEST_F(UndoStoreTest, WhatAnEarlierRunLeftIsNotRead)
+{
+    UndoStore other(folder.path(), 4);
+    other.save(picture(0));
+    ASSERT_TRUE(other.stands());
+    QFile::rename(path("b000400.dat"), path("b000300.dat"));
+    QFile::copy(path("b000300.dat"), path("b000301.dat"));
+    QFile::copy(path("b000300.dat"), path("b0003-01.dat"));
+    EXPECT_FALSE(store.undo());
+    EXPECT_FALSE(store.redo());
+    saveMany(1, 1);
+    EXPECT_FALSE(store.undo());
+    EXPECT_FALSE(store.redo());
+}
+
+TEST_F(UndoStoreTest, ADamagedStepChangesNothing)
+{
+    saveMany(0, 2);
+    const QByteArray good = content("b000300.dat");
+    const auto withWord = [&](int offset, std::int32_t word) {
+        QByteArray bytes = good;
+        std::memcpy(bytes.data() + offset, &word, sizeof word);
+        return bytes;
+    };
+    const struct {
+        const char* damage;
+        QByteArray bytes;
+    } kCases[] = {
+        {"empty", {}},
+        {"half a header", good.left(20)},
+        {"a header alone", good.left(40)},
+        {"one byte short", good.left(good.size() - 1)},
+        {"not a header", QByteArray(good.size(), 'x')},
+        {"another header size", withWord(0, 108)},
+        {"16 bits a pixel", withWord(12, 1 | 16 << 16)},
+        {"wider than the file", withWord(4, 1000000)},
+        {"huge", withWord(4, INT32_MAX)},
+        {"margin only", withWord(4, 4)},
+        {"negative width", withWord(4, -9)},
+        {"bottom up", withWord(8, 8)},
+        {"the lowest height", withWord(8, INT32_MIN)},
+    };
+    for (const auto& c : kCases) {
+        put("b000300.dat", c.bytes);
+        EXPECT_FALSE(store.undo()) << c.damage;
+        expectCounters(2, 2);
+    }
+    QFile::remove(path("b000300.dat"));
+    EXPECT_FALSE(store.undo()) << "missing";
+    QDir(folder.path()).mkdir(QStringLiteral("b000300.dat"));
+    EXPECT_FALSE(store.undo()) << "a folder";
+    expectCounters(2, 2);
+}
+
+TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
+{
+    std::string told;
+    store.onFailure([&](const QString& reason) { told = reason.toStdString(); });
+    saveMany(0, 3);
+    ASSERT_TRUE(store.undo()); // the edit cuts what could be redone, written or not
+    const Bits first = randomBits(40, 40, 9), second = randomBits(40, 40, 10);
+    {
+        const FullDisk full(300);
+        EXPECT_FALSE(save(first));
+        EXPECT_EQ("no room in the Temp folder", told);
+        expectCounters(2, 2);
+        EXPECT_EQ(2, files().size()) << "no half-written file stays";
+        EXPECT_FALSE(store.canRedo());
+        EXPECT_TRUE(sameBits(picture(1), store.previous().value_or(Bits())));
+        expectUndo(picture(1), true);
+        expectRedo(first, false);
+        expectUndo(picture(1), true);
+        expectUndo(picture(0), false);
+        expectRedo(picture(1), false);
+        expectRedo(first, false);
+        EXPECT_FALSE(save(second));
+        EXPECT_FALSE(store.previous()) << "the first is lost";
+        expectUndo(picture(1), true);
+        expectRedo(second, true);
+    }
+    saveMany(3, 1); // there is room again, for the one in memory too
+    expectUndo(second, false);
+    expectUndo(picture(1), true);
+    expectRedo(second, true);
+    EXPECT_TRUE(store.mayHaveChanged());
+}
+
+TEST_F(UndoStoreTest, ALostFirstSnapshotCountsAsAChange)
+{
+    EXPECT_FALSE(UndoStore(QString(), 1).mayHaveChanged());
+    {
+        const FullDisk full(100);
+        EXPECT_FALSE(save(picture(0)));
+        EXPECT_FALSE(store.undo());
+        EXPECT_TRUE(store.mayHaveChanged());
+    }
+    saveMany(1, 1);
+    expectUndo(picture(0), false);
+}
+
+TEST_F(UndoStoreTest, AFileThatWentAwayIsPassedOver)
+{
+    saveMany(0, 4);
+    QFile::remove(path("b000301.dat"));
+    expectUndo(picture(2), false);
+    expectUndo(picture(0), true);
+    expectRedo(picture(2), true);
+    QDir(folder.path()).removeRecursively();
+    EXPECT_FALSE(store.undo());
+    expectCounters(3, 4);
+    EXPECT_TRUE(save(picture(7))) << "the folder is made anew";
+    EXPECT_EQ(0077, QFile::permissions(folder.path()) & 0077 ? 0 : 0077) << "for its owner alone";
+    EXPECT_EQ(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser,
+              QFile::permissions(path("b000303.dat")));
+}
+
+TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
+{
+    const Bits large = randomBits(2000, 2000, 1);
+    for (int i = 0; i < 30; ++i) {
+        store.save(i % 3 ? picture(i) : large);
+        if (i == 20) {
+            EXPECT_TRUE(sameBits(picture(19), store.undo().value()));
+        }
+    }
+    expectCounters(10, 10);
+    for (int i = 28; i >= 21; --i) EXPECT_TRUE(sameBits(i % 3 ? picture(i) : large, store.undo().value())) << i;
+    EXPECT_TRUE(sameBits(picture(19), store.undo().value())) << "20 was undone and cut";
+}
+
+TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
+{
+    int number = 3;
+    const auto next = [&] { return number++; };
+    UndoStore second(folder.path(), next); // a lock is the open file's, so another store is as good as another program
+    EXPECT_EQ(4, second.number());
+    saveMany(0, 2);
+    second.save(picture(5));
+    {
+        UndoStore usurper(folder.path(), 3);
+        usurper.save(picture(6));
+        EXPECT_FALSE(usurper.stands());
+        usurper.deleteSeries();
+    }
+    EXPECT_EQ(3, files().size());
+    second.deleteSeries();
+    EXPECT_EQ(QStringList({QStringLiteral("b000300.dat"), QStringLiteral("b000301.dat")}), files());
+    expectUndo(picture(0), false);
+
+    QFile::remove(path("b0003.lock")); // swept away: another program can have the number now, and then it is not ours
+    UndoStore heir(folder.path(), 3);
+    store.save(picture(8));
+    EXPECT_FALSE(store.stands());
+    store.deleteSeries();
+    EXPECT_EQ(2, files().size());
+    heir.deleteSeries();
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST_F(UndoStoreTest, AProgramThatDiedHoldsNothing)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        UndoMark mark;
+        if (mark.take(folder.path(), 8) != UndoMark::Answer::Ours) _exit(1);
+        kill(getpid(), SIGKILL);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_TRUE(QFile::exists(path("b0008.lock")));
+    EXPECT_EQ(UndoMark::Answer::Ours, UndoMark().take(folder.path(), 8));
+    EXPECT_EQ(UndoMark::Answer::Taken, UndoMark().take(folder.path(), 3));
+    EXPECT_EQ(UndoMark::Answer::Impossible, UndoMark().take(path("nowhere"), 3));
+}
+
+TEST_F(UndoStoreTest, ALinkInThePlaceOfAFileIsNotFollowed)
+{
+    QTemporaryDir elsewhere;
+    const QString victim = elsewhere.filePath(QStringLiteral("victim"));
+    saveMany(0, 1);
+    QFile::rename(path("b000300.dat"), victim);
+    const QByteArray before = contentOf(victim);
+    QFile::link(victim, path("b000300.dat"));
+    saveMany(1, 1);
+    EXPECT_FALSE(store.undo()) << "not read through a link";
+    QFile::link(victim, path("b000302.dat"));
+    saveMany(2, 1);
+    ASSERT_EQ(0, ::link(victim.toUtf8().constData(), path("b000303.dat").toUtf8().constData()));
+    saveMany(3, 1);
+    EXPECT_EQ(before, contentOf(victim));
+    expectUndo(picture(2), false);
+}
+
+TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsNothing)
+{
+    saveMany(0, 10);
+    {
+        const FullDisk full(2000);
+        EXPECT_FALSE(save(randomBits(40, 40, 9)));
+    }
+    expectCounters(10, 10);
+    EXPECT_EQ(10, files().size());
+    for (int i = 9; i >= 0; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
+}
+
+TEST_F(UndoStoreTest, DeletingTakesOneDocumentsFilesOnly)
+{
+    saveMany(0, 3);
+    UndoStore longer(folder.path(), 1000), longest(folder.path(), 10000);
+    for (UndoStore* other : {&longer, &longest}) {
+        other->save(picture(0));
+        EXPECT_TRUE(other->stands());
+    }
+    longer.deleteSeries();
+    store.deleteSeries();
+    EXPECT_EQ(QStringList{QStringLiteral("b1000000.dat")}, files());
+}
+
+} // namespace
+} // namespace velara
