@@ -14,9 +14,10 @@ namespace velara {
 QString behindLinks(const QString& path);
 
 /// Writes go to a new file in the target's folder, which gives the old one's permissions to it and replaces it on
-/// commit(), once it is on the disk. Symbolic links are followed (behindLinks), or replaced where somebody else may have
-/// put them. What a program that died left of that is removed from the folder. What can't be replaced so (a device, a file in a folder where none can be made) is
-/// written over on commit(), out of memory. Without commit() nothing has changed.
+/// commit(), once it is on the disk. Symbolic links are followed (behindLinks), or replaced where somebody else may
+/// have put them. What a program that died left of that is removed from the folder. What can't be replaced so (a
+/// device, a file in a folder where none can be made) is written over on commit(), out of memory. Without commit()
+/// nothing has changed.
 class OutputFile {
   public:
     enum class Links { Follow, Replace };

@@ -41,7 +41,8 @@ void Clips::paste()
     }
     if (!image) return; // closed while the clipboard's owner was waited for
     if (stores.paste.isNull() || !image->PictureExists())
-        return frame_.report("PASTE", {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
+        return frame_.report("PASTE",
+                             {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
     frame_.setup().PasteMode = -1;
     frame_.setup().CurrentTool.clear();
     frame_.DisableTools();

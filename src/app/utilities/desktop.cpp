@@ -19,7 +19,7 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode)
     Platform& platform = frame.platform();
     const QString path = platform.wallpaper().folder() + "/ClearPane_Wallpaper.bmp";
     const QPointer<fImage> image = frame.GetActiveImage();
-    if (!image->PictureExists() || !image->Save(path, "bmp")) return; // a failed save has had its message
+    if (!image->PictureExists() || image->Save(path, "bmp") != SaveResult::Written) return; // the save has told of it
     platform.wallpaper().set(path, mode, [&platform](WallpaperResult result) {
         if (result == WallpaperResult::CantRead)
             platform.message(kTitle, "Error getting subkey value.", Icon::Exclamation);

@@ -1,6 +1,6 @@
 #include "platform/desktop/QtPlatform.h"
-#include "platform/desktop/clipboard/ClipboardOffer.h"
 #include "platform/desktop/ReadingBox.h"
+#include "platform/desktop/clipboard/ClipboardOffer.h"
 #include "platform/nameFilters.h"
 #include <QApplication>
 #include <QClipboard>
