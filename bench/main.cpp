@@ -55,7 +55,7 @@ std::function<void()> copying(Size size)
 void measure(benchmark::State& state, const Row& row, Size size)
 try {
     const bool timed = row.unit == "ms";
-    const clockid_t clock = timed ? CLOCK_MONOTONIC : CLOCK_THREAD_CPUTIME_ID;
+    const clockid_t clock = timed ? CLOCK_MONOTONIC : CLOCK_PROCESS_CPUTIME_ID;
     Trial trial = row.prepare(size);
     if (!trial.reference) trial.reference = copying(size);
     std::vector<double> bodies, figures;
