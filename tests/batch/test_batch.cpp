@@ -197,6 +197,18 @@ TEST_F(BatchTest, ACutOffPictureIsTakenOnlyWhenAskedFor)
     EXPECT_NE(std::string::npos, run("a\x1b[31m.png out.png").errors.find("a\\x1b[31m.png can't be read"));
 }
 
+TEST_F(BatchTest, ReadingMakesNoFolder)
+{
+    const QString sample = QStringLiteral(VELARA_CORPUS "/emf");
+    if (!QFile::exists(sample)) GTEST_SKIP();
+    const QString runtime = QStringLiteral("/tmp/runtime-") + qEnvironmentVariable("USER", QStringLiteral("root"));
+    const bool stood = QFile::exists(runtime) && !QDir().rmdir(runtime);
+    for (const QString& name : QDir(sample).entryList({QStringLiteral("*.emf")}))
+        run((sample + u'/' + name + QStringLiteral(" out.png")).toStdString());
+    EXPECT_TRUE(QDir(temporary.path()).isEmpty());
+    EXPECT_EQ(stood, QFile::exists(runtime));
+}
+
 TEST_F(BatchTest, OneRowHasNoProgressToTell)
 {
     put("row.ppm", anymap(30, 1));

@@ -116,6 +116,31 @@ TEST(QtPlatform, ANameWithoutASuffixGetsThatOfTheFormat)
     EXPECT_FALSE(platform.openFileName({"Open file", "Bmp|*.bmp", folder.path()}).has_value());
 }
 
+TEST(QtPlatform, TheQuestionIsAboutTheFileThatIsWritten)
+{
+    QtPlatform platform;
+    QTemporaryDir folder;
+    QFile there(folder.filePath("x.ppm"));
+    ASSERT_TRUE(there.open(QFile::WriteOnly));
+    there.close();
+    FileDialog request{"Save as", "Bmp|*.bmp", folder.path()};
+    request.writtenAs = [](const QString& name) { return QString(name).replace(".pgm", ".ppm"); };
+    for (const bool yes : {false, true}) {
+        QString asked;
+        whenShown<QFileDialog>([&](QFileDialog& dialog) {
+            dialog.selectFile("x.pgm");
+            whenShown<QMessageBox>([&](QMessageBox& box) {
+                asked = box.text();
+                box.button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
+            });
+            static_cast<QDialog&>(dialog).accept();
+            if (!yes) dialog.reject(); // it still stands
+        });
+        EXPECT_EQ(platform.saveFileName(request).has_value(), yes);
+        EXPECT_EQ(asked, "x.ppm already exists.\nDo you want to replace it?");
+    }
+}
+
 TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
 {
     QtPlatform platform;

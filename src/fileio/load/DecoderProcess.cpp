@@ -49,9 +49,9 @@ Descriptor sharedMemory()
 /// pages.
 std::vector<std::string> childEnvironment()
 {
-    // The folder of the run is one that stands: it makes none of its own.
+    // Its toolkit wants a folder for the run, which it makes where temporary files go: there it can't.
     std::vector<std::string> environment = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen",
-                                            "XDG_RUNTIME_DIR=/"};
+                                            "TMPDIR=/proc/none"};
 #ifdef __SANITIZE_ADDRESS__
     for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
         if (const char* value = std::getenv(name)) environment.push_back(std::string(name) + '=' + value);
