@@ -1,6 +1,7 @@
 // The real program on real files: what it writes, what it says and how it ends.
 #include "region/Region.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -50,7 +51,7 @@ struct BatchTest : ::testing::Test {
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder.path());
         QStringList list{QStringLiteral("-c"), QString::fromLatin1(before) + QStringLiteral(" && exec \"$0\" \"$@\""),
-                         QStringLiteral(VELARA_BIN "/velara-batch")};
+                         builtPath("velara-batch")};
         list += QString::fromStdString(arguments).split(u' ', Qt::SkipEmptyParts);
         process.start(QStringLiteral("/bin/sh"), list);
         const bool ended = process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit;
@@ -199,7 +200,7 @@ TEST_F(BatchTest, ACutOffPictureIsTakenOnlyWhenAskedFor)
 
 TEST_F(BatchTest, ReadingMakesNoFolder)
 {
-    const QString sample = QStringLiteral(VELARA_CORPUS "/emf");
+    const QString sample = corpusPath("emf");
     if (!QFile::exists(sample)) GTEST_SKIP();
     const QString runtime = QStringLiteral("/tmp/runtime-") + qEnvironmentVariable("USER", QStringLiteral("root"));
     const bool stood = QFile::exists(runtime) && !QDir().rmdir(runtime);

@@ -1,5 +1,6 @@
 // What each filter dialog shows, as text, against the committed list.
 #include "commands/filterDialogs.h"
+#include "support/places.h"
 #include <QString>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -33,7 +34,7 @@ std::string shown(const FilterRow& row)
 
 TEST(Dialogs, ShowWhatTheListSays)
 {
-    std::ifstream file(VELARA_TESTS "/commands/dialogs.txt");
+    std::ifstream file(testsPath("commands/dialogs.txt").toStdString());
     std::string line;
     for (const FilterRow& row : filterRows()) {
         std::getline(file, line);

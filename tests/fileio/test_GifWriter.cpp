@@ -2,6 +2,7 @@
 #include "fileio/load/PictureLoader.h"
 #include "reduce/bestColours.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QTemporaryDir>
 #include <array>
 #include <set>
@@ -40,7 +41,7 @@ TEST(GifWriter, WritesEveryPaletteSizePlainAndInterlaced)
             for (const bool interlaced : {false, true}) {
                 const IndexedPicture wanted = picture(width, height, colours);
                 ASSERT_TRUE(writeGif(wanted, name, interlaced));
-                const LoadedPicture got = loadThroughDecoder(name, "gif", VELARA_BIN "/velara-decode");
+                const LoadedPicture got = loadThroughDecoder(name, "gif", builtPath("velara-decode"));
                 ASSERT_TRUE(got.ok()) << got.reason.toStdString();
                 EXPECT_TRUE(sameBits(drawn(wanted), got.bits)) << colours << ' ' << width << ' ' << interlaced;
             }

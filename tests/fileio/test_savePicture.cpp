@@ -5,6 +5,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -66,7 +67,7 @@ class SavePicture : public ::testing::Test {
     }
     static LoadedPicture load(const QString& name)
     {
-        return loadThroughDecoder(name, QFileInfo(name).suffix(), VELARA_BIN "/velara-decode");
+        return loadThroughDecoder(name, QFileInfo(name).suffix(), builtPath("velara-decode"));
     }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
 

@@ -1,5 +1,6 @@
 // A message bus of the test's own, with the services that it puts there.
 #pragma once
+#include "support/places.h"
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -48,7 +49,7 @@ class PrivateBus {
         service_.setStandardOutputFile(QProcess::nullDevice());
         service_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         service_.start("/usr/bin/python3",
-                       {"-m", "dbusmock", "--template", QString(VELARA_TESTS "/platform/") + script, "--parameters",
+                       {"-m", "dbusmock", "--template", testsPath("platform/") + script, "--parameters",
                         QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact))});
         return waitUntil([&] { return connection().interface()->isServiceRegistered(name).value(); });
     }

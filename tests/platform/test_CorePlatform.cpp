@@ -1,6 +1,7 @@
 #include "platform/WindowlessPlatform.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -29,7 +30,7 @@ TEST(CorePlatform, ProgramFolderIsWhereFilesCanBeMade)
     qputenv("HOME", QFile::encodeName(home.path()));
     for (const char* bad : {"", "relative"}) // no place to rely on
         EXPECT_EQ(chooseProgramFolder("/usr/bin", bad), home.path() + "/.local/share/velara-studio");
-    EXPECT_EQ(Machine().programFolder(), VELARA_BIN);
+    EXPECT_EQ(Machine().programFolder() + "/", builtPath(""));
 }
 
 TEST(CorePlatform, KeepsSettingsAcrossRuns)

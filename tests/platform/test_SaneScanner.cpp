@@ -1,6 +1,7 @@
 // Scanners through the helper, on the library's own test device.
 #include "PrivateBus.h"
 #include "platform/desktop/SaneScanner.h"
+#include "support/places.h"
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -40,7 +41,7 @@ class SaneScannerTest : public ::testing::Test {
     }
 
     QTemporaryDir folder;
-    SaneScanner scanner{QString(VELARA_BIN "/velara-scan")};
+    SaneScanner scanner{builtPath("velara-scan")};
     QList<int> percents;
 };
 

@@ -2,6 +2,7 @@
 // there.
 #pragma once
 #include "region/Region.h"
+#include "support/places.h"
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,11 +12,11 @@
 
 namespace velara {
 
-/// The lines of a kind in VELARA_GDI/file; empty when the file is missing.
+/// The lines of a kind in a file of the facts; empty when the file is missing.
 inline std::vector<QJsonObject> gdiFacts(const QString& file, const QStringList& kinds)
 {
     std::vector<QJsonObject> rows;
-    QFile in(QStringLiteral(VELARA_GDI "/") + file);
+    QFile in(factsPath(file));
     if (!in.open(QIODevice::ReadOnly)) return rows;
     for (const QByteArray& line : in.readAll().split('\n')) {
         const QJsonObject row = QJsonDocument::fromJson(line).object();

@@ -1,4 +1,5 @@
 #include "support/sums.h"
+#include "support/places.h"
 #include <fstream>
 
 namespace velara {
@@ -6,7 +7,7 @@ namespace velara {
 void expectCommittedSums(const TrialFamily& family)
 {
     std::map<std::string, std::string> committed; // subject, line
-    std::ifstream file(std::string(VELARA_TESTS "/") + family.sums);
+    std::ifstream file(testsPath(family.sums).toStdString());
     for (std::string line; std::getline(file, line);) committed[line.substr(0, line.find(':'))] = line;
     EXPECT_EQ(family.subjects.size(), committed.size()) << "rows of " << family.sums;
     for (const std::string& subject : family.subjects)

@@ -1,6 +1,7 @@
 // Reading pictures through the child: what it says about bad files, and what becomes of children that misbehave.
 #include "fileio/load/PictureLoader.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -13,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString kDecoder = VELARA_BIN "/velara-decode";
+const QString kDecoder = builtPath("velara-decode");
 
 class PictureLoader : public ::testing::Test {
   protected:
@@ -186,10 +187,10 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
 
 TEST_F(PictureLoader, DamagedSamplesCostNothingButTheChild)
 {
-    if (!QFile::exists(VELARA_CORPUS "/README.md")) GTEST_SKIP();
+    if (!QFile::exists(corpusPath("README.md"))) GTEST_SKIP();
     for (const char* name : {"bomb.gif", "cut_heap.cut", "ico_heap.ico", "negative_size.ppm", "psd_heap.psd",
                              "ras_heap.ras", "reallybig.bmp"}) {
-        const QString path = QString(VELARA_CORPUS "/malformed/") + name;
+        const QString path = corpusPath("malformed/") + name;
         const LoadedPicture picture = loadThroughDecoder(path, path.section('.', -1), kDecoder);
         EXPECT_TRUE(picture.ok() != picture.reason.startsWith(QString(name) + " can't be read: ")) << name;
     }

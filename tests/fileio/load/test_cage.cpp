@@ -4,6 +4,7 @@
 #include "fileio/decode/Cage.h"
 #include "fileio/load/PictureLoader.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -21,7 +22,7 @@ class Cage : public ::testing::Test {
     Cage()
     {
         chmod(QFile::encodeName(folder.path()).constData(), 0777);
-        EXPECT_TRUE(QFile::copy(VELARA_BIN "/velara-decode-payload", payload));
+        EXPECT_TRUE(QFile::copy(builtPath("velara-decode-payload"), payload));
         write(victim, "precious");
         chmod(QFile::encodeName(victim).constData(), 0666);
     }
@@ -103,7 +104,7 @@ TEST_F(Cage, RefusesEverythingThatAPictureNeverNeeds)
 TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
 {
     QProcess cage;
-    cage.start(VELARA_BIN "/velara-decode", {"--cage"});
+    cage.start(builtPath("velara-decode"), {"--cage"});
     ASSERT_TRUE(cage.waitForFinished());
     if (!cage.readAllStandardOutput().contains("Landlock: no path, no port: holds")) GTEST_SKIP();
     asEveryUser([&] {

@@ -4,6 +4,7 @@
 #include "reduce/EuroDepth.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include "ui/export/FWeb.h"
 #include "ui/export/fColorDepth.h"
 #include "ui/widgets/ActiveComposer.h"
@@ -27,7 +28,7 @@ struct RealFiles final : RecordingPlatform {
     std::uint32_t milliseconds() override { return now += 20; } // a yield falls due at each report
     LoadedPicture loadPicture(const QString& path, const QString& extension) override
     {
-        return loadThroughDecoder(path, extension, VELARA_BIN "/velara-decode");
+        return loadThroughDecoder(path, extension, builtPath("velara-decode"));
     }
 };
 
