@@ -18,6 +18,20 @@ QString described(const Parameter& p)
     return asText(p.name) + u':' + asText(p.values) + usual;
 }
 
+/// Words split by blanks, in indented lines of at most 80 characters.
+QString wrapped(const QStringList& words)
+{
+    QString text, line;
+    for (const QString& word : words) {
+        if (line.isEmpty() || line.size() + word.size() > 78) {
+            text += line + u'\n';
+            line = QStringLiteral("   ");
+        }
+        line += u' ' + word;
+    }
+    return text + line + u'\n';
+}
+
 } // namespace
 
 QString helpText()
@@ -78,7 +92,13 @@ written, and an existing OUTPUT stays as it was.
 QString listText()
 {
     QString text = QStringLiteral("Command words\n");
-    for (const Word& word : words()) text += column(asText(word.word), 20) + word.meaning + u'\n';
+    QStringList idle;
+    for (const Word& word : words())
+        if (word.meaning.isEmpty())
+            idle << asText(word.word);
+        else
+            text += column(asText(word.word), 20) + word.meaning + u'\n';
+    text += QStringLiteral("  does nothing to the picture:") + wrapped(idle);
     text +=
         QStringLiteral("\nOperations (NAME:VALUES:USUAL; singles have decimals, column, row and side count pixels)\n");
     for (const Operation* operation : stepOperations()) {

@@ -1,7 +1,7 @@
 #include "batch/words.h"
 #include "commands/colourDepth.h"
 #include "commands/effects.h"
-#include "commands/filterDialogs.h"
+#include "commands/vocabulary.h"
 #include "document/texturing.h"
 #include <QStringList>
 #include <algorithm>
@@ -9,23 +9,6 @@
 namespace velara {
 
 namespace {
-
-// clang-format off
-constexpr std::string_view kDoNothing[] = { // in the editor too, or only how the picture is shown there
-    "200", "300", "400", "500", "600", "700", "N360", "A360", "RESTOREORIGINAL", "RESTORE", "MOSAIC",
-    "VERTICALINTERLEAVE", "HORIZONTALINTERLEAVE", "SQUAREINTERLEAVE", "CUSTOMINTERLEAVE", "TARNISH", "RGB",
-    "TALCOMPOWDER", "IMAGESCALE",
-};
-
-constexpr std::string_view kWindowWords[] = {
-    "NEW", "OPEN", "CLOSE", "SAVE", "SAVEAS", "FILEASSOCIATION", "PRINTERSETUP", "PRINTPREVIEW", "PRINT", "SELECTSOURCE",
-    "ACQUIRETWAIN", "CAPTUREDESKTOP", "CAPTUREFOREGROUND", "CAPTUREBACKGROUND", "CUSTOMCAPTURE", "CREATENEWCOPY",
-    "COPYIMAGETOCLIPBOARD", "CREATEFROMCLIPBOARD", "IMAGESIZE", "CANVASSIZE", "IMAGEORIENTATION", "IMAGEROTATE", "CUT",
-    "COPY", "PASTE", "OPTIONS", "IMAGEMERGING", "PASTELAYERSBOX", "IMAGETEXTURES", "IMAGERESOLUTION",
-    "IMAGESAVEOPTIONS", "IMAGECOLORDEPTH", "TEXTTOOLS", "WTILE", "WCENTER", "WSTRETCH", "TILEHORIZONTALLY",
-    "TILEVERTICALLY", "CASCADE", "RESET",
-};
-// clang-format on
 
 QString meaningOf(const SizeWord& word)
 {
@@ -53,8 +36,9 @@ std::vector<Word> makeWords()
     list.push_back({"CROP", QStringLiteral("cuts to the box of the selection"), [](Session& s) { s.crop(); }});
     list.push_back({"UNDO", QStringLiteral("one step back"), [](Session& s) { s.undo(); }, GoesBack::Always});
     list.push_back({"REDO", QStringLiteral("one step forward again"), [](Session& s) { s.redo(); }, GoesBack::Always});
-    for (const std::string_view word : kDoNothing)
-        list.push_back({word, QStringLiteral("does nothing to the picture"), [](Session&) {}});
+    for (const CommandWord& word : kCommandWords)
+        if (word.kind == WordKind::View || word.kind == WordKind::Nothing)
+            list.push_back({word.word, {}, [](Session&) {}});
     return list;
 }
 
@@ -91,7 +75,8 @@ const Operation* findStepOperation(std::string_view name)
 
 bool needsWindow(std::string_view word)
 {
-    return findFilterRow(word) || std::ranges::find(kWindowWords, word) != std::end(kWindowWords);
+    const CommandWord* row = findCommandWord(word);
+    return row && (row->kind == WordKind::Window || row->kind == WordKind::Dialog);
 }
 
 QString argumentText(const Argument& argument)

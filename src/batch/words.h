@@ -9,7 +9,7 @@ namespace velara {
 
 struct Word {
     std::string_view word;
-    QString meaning; // for --list
+    QString meaning; // for --list; empty: it does nothing to the picture
     std::function<void(Session&)> run;
     GoesBack goesBack = GoesBack::Never;
 };

@@ -16,7 +16,6 @@
 #include <QPointer>
 #include <array>
 #include <functional>
-#include <span>
 #include <string_view>
 
 class QToolBar;
@@ -31,17 +30,6 @@ struct Preset;
 struct FilterRow;
 class fStatus;
 class fToolPane;
-
-/// What a command needs of the documents: the active one is not asked for; asked for, and it runs either way; only with
-/// one.
-enum class Stage { Free, MaybeImage, NeedsImage };
-
-/// A command word. Without a handler it is known and not there yet: its items are disabled.
-struct Command {
-    std::string_view word;
-    Stage stage;
-    void (*run)(class fMain&);
-};
 
 class fMain final : public QMainWindow, public Frame {
     Q_OBJECT
@@ -78,15 +66,10 @@ class fMain final : public QMainWindow, public Frame {
     std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) override;
 
     // --- Commands
-    static std::span<const Command> commands();
-    /// The frame's own actions, whose names begin with "@".
-    static std::span<const Command> actions();
-    /// True for every command word and action, done or not.
-    static bool known(std::string_view word);
-    /// True for one that does what it says, even if that is nothing.
+    /// True for a word of the vocabulary that does what it says, even if that is nothing.
     static bool available(std::string_view word);
-    /// Runs a command word, or an action of the frame.
-    void run(std::string_view word);
+    /// Runs a command word, or one of the frame's own; index tells the items of such a one apart.
+    void run(std::string_view word, int index = 0);
 
     void open();
     void save();
@@ -183,7 +166,7 @@ class fMain final : public QMainWindow, public Frame {
     void buildMenus();
     void buildToolbars();
     void fillToolbar(QToolBar* bar, std::string_view buttons);
-    void makeTrigger(QAction* action, std::string_view word);
+    void makeTrigger(QAction* action, std::string_view word, int index = 0);
     /// The pictures in the cut that fits the palette.
     void refreshIcons();
     void frameResized();

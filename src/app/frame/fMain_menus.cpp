@@ -42,12 +42,12 @@ void giveAccessKeys(QMenu& menu)
 
 } // namespace
 
-void fMain::makeTrigger(QAction* action, std::string_view word)
+void fMain::makeTrigger(QAction* action, std::string_view word, int index)
 {
     action->setData(text(word));
     action->setIcon(iconOf(word));
     action->setEnabled(available(word));
-    connect(action, &QAction::triggered, this, [this, word] { run(word); });
+    connect(action, &QAction::triggered, this, [this, word, index] { run(word, index); });
 }
 
 void fMain::refreshIcons()
@@ -82,12 +82,15 @@ void fMain::buildMenus()
             QAction* item = open.back()->addAction(text(row.caption));
             item->setObjectName(text(row.array) + "_" + QString::number(row.index));
             if (!row.shortcut.empty()) item->setShortcut(QKeySequence(text(row.shortcut)));
-            makeTrigger(item, row.word);
+            makeTrigger(item, row.word, row.index);
             if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
             item->setCheckable(row.checkable);
             items_[item->objectName()] = item;
             break;
         }
+        case MenuKind::Items:
+        case MenuKind::Strengths:
+            break; // menuRows() has none
         }
     }
 }

@@ -1,4 +1,6 @@
 #include "app/menus/menus.h"
+#include "commands/vocabulary.h"
+#include <string>
 
 namespace velara {
 
@@ -6,35 +8,14 @@ namespace {
 
 using enum MenuKind;
 
-/// The menus that all have Light, Heavy, a separator and Custom.
-struct LightHeavy {
-    std::string_view array, caption, light, heavy, custom;
-};
-
 // clang-format off
-constexpr std::string_view kTheTen = "the ten"; // marks where they go
-constexpr LightHeavy kLightHeavy[] = {
-    {"LUMINOUS",   "Luminousity", "LUMPLUS",         "LUMMINUS",        "LIGHTCUSTOM"},
-    {"EMBOSS",     "Emboss",      "LIGHTEMBOSS",     "HEAVYEMBOSS",     "CUSTOMEMBOSS"},
-    {"CONTOUR",    "Contour",     "LIGHTCONTOUR",    "HEAVYCONTOUR",    "CUSTOMCONTOUR"},
-    {"DIFFUSE",    "Diffuse",     "LIGHTDIFFUSE",    "HEAVYDIFFUSE",    "CUSTOMDIFFUSE"},
-    {"ENGRAVE",    "Engrave",     "LIGHTENGRAVE",    "HEAVYENGRAVE",    "CUSTOMENGRAVE"},
-    {"SOFTEN",     "Soften",      "LIGHTSOFTEN",     "HEAVYSOFTEN",     "CUSTOMSOFTEN"},
-    {"SHARPEN",    "Sharpen",     "LIGHTSHARPEN",    "HEAVYSHARPEN",    "CUSTOMSHARPEN"},
-    {"BLUR",       "Blur",        "LIGHTBLUR",       "HEAVYBLUR",       "CUSTOMBLUR"},
-    {"NOISE",      "Noise",       "LIGHTNOISE",      "HEAVYNOISE",      "CUSTOMNOISE"},
-    {"SATURATION", "Saturation",  "LIGHTSATURATION", "HEAVYSATURATION", "CUSTOMSATURATION"},
-};
-
 constexpr MenuRow kMenus[] = {
     {Menu, "mnuFile", 0, "&File"},
         {Item, "FILE", 0, "&New ...", "NEW", "Ctrl+N"},
         {Item, "FILE", 1, "&Open ...", "OPEN", "Ctrl+O"},
         {Item, "FILE", 2, "&Browse ...", "@BROWSE"},
         {SubMenu, "mnuRecent", 0, "Open &Recent"},
-            {Item, "RF", 0, "Empty", "@RECENT0"}, {Item, "RF", 1, "", "@RECENT1"}, {Item, "RF", 2, "", "@RECENT2"},
-            {Item, "RF", 3, "", "@RECENT3"}, {Item, "RF", 4, "", "@RECENT4"}, {Item, "RF", 5, "", "@RECENT5"},
-            {Item, "RF", 6, "", "@RECENT6"}, {Item, "RF", 7, "", "@RECENT7"},
+            {Items, "RF", 0, "", "@RECENT"},
         {End},
         {Separator},
         {Item, "FILE", 4, "&Close", "CLOSE", "Ctrl+W"},
@@ -156,7 +137,21 @@ constexpr MenuRow kMenus[] = {
         {Item, "FILTERS", 4, "Dilate", "DILATE"},
         {Item, "FILTERS", 5, "Painting", "PAINTING"},
         {Item, "FILTERS", 6, "Edge Enhance", "EDGEENHANCE"},
-        {Separator, kTheTen},
+        {Separator},
+        {SubMenu, "LUMINOUS", 0, "Luminousity"},
+            {Item, "LUMINOUS", 0, "Light", "LUMPLUS"}, {Item, "LUMINOUS", 1, "Heavy", "LUMMINUS"},
+            {Separator},
+            {Item, "LUMINOUS", 3, "Custom ...", "LIGHTCUSTOM"},
+        {End},
+        {Strengths, "EMBOSS", 0, "Emboss"},
+        {Strengths, "CONTOUR", 0, "Contour"},
+        {Strengths, "DIFFUSE", 0, "Diffuse"},
+        {Strengths, "ENGRAVE", 0, "Engrave"},
+        {Strengths, "SOFTEN", 0, "Soften"},
+        {Strengths, "SHARPEN", 0, "Sharpen"},
+        {Strengths, "BLUR", 0, "Blur"},
+        {Strengths, "NOISE", 0, "Noise"},
+        {Strengths, "SATURATION", 0, "Saturation"},
         {Separator},
         {SubMenu, "mnuAdd", 0, "Add"},
             {Item, "ADD", 0, "Grid", "ADDGRID"},
@@ -233,10 +228,7 @@ constexpr MenuRow kMenus[] = {
         {Item, "VIEWS", 9, "Side Tools  Bar : Hide n Seek", "@SIDEBAR", "", true},
         {Separator},
         {SubMenu, "mnuBars", 0, "Toolbars"},
-            {Item, "BAR", 0, "Standard", "@BAR0", "", true}, {Item, "BAR", 1, "Effects", "@BAR1", "", true},
-            {Item, "BAR", 2, "Image", "@BAR2", "", true}, {Item, "BAR", 3, "Utilities", "@BAR3", "", true},
-            {Item, "BAR", 4, "Help", "@BAR4", "", true}, {Item, "BAR", 5, "Tools", "@BAR5", "", true},
-            {Item, "BAR", 6, "Filters", "@BAR6", "", true},
+            {Items, "BAR", 0, "", "@BAR", "", true},
         {End},
         {Item, "RESET", 0, "Store Toolbar Layout", "@RESET"},
     {End},
@@ -312,6 +304,32 @@ constexpr StripRow kStrip[] = {
 };
 // clang-format on
 
+/// LIGHT, HEAVY or CUSTOM and the name of the menu, as the vocabulary has it.
+std::string_view strengthWord(const char* strength, std::string_view menu)
+{
+    return findCommandWord(std::string(strength).append(menu))->word;
+}
+
+void appendStrengths(std::vector<MenuRow>& all, const MenuRow& row)
+{
+    all.insert(all.end(), {{SubMenu, row.array, 0, row.caption},
+                           {Item, row.array, 0, "Light", strengthWord("LIGHT", row.array)},
+                           {Item, row.array, 1, "Heavy", strengthWord("HEAVY", row.array)},
+                           {Separator},
+                           {Item, row.array, 3, "Custom ...", strengthWord("CUSTOM", row.array)},
+                           {End}});
+}
+
+void appendItems(std::vector<MenuRow>& all, MenuRow row)
+{
+    row.kind = Item;
+    const bool bars = row.word == "@BAR";
+    for (row.index = 0; row.index < findCommandWord(row.word)->count; ++row.index) {
+        if (bars) row.caption = kBars[row.index].caption;
+        all.push_back(row);
+    }
+}
+
 } // namespace
 
 std::span<const MenuRow> menuRows()
@@ -319,17 +337,12 @@ std::span<const MenuRow> menuRows()
     static const std::vector<MenuRow> rows = [] {
         std::vector<MenuRow> all;
         for (const MenuRow& row : kMenus) {
-            all.push_back(row);
-            if (row.array != kTheTen) continue;
-            all.back().array = {};
-            for (const LightHeavy& m : kLightHeavy) {
-                all.push_back({SubMenu, m.array, 0, m.caption});
-                all.push_back({Item, m.array, 0, "Light", m.light});
-                all.push_back({Item, m.array, 1, "Heavy", m.heavy});
-                all.push_back({Separator});
-                all.push_back({Item, m.array, 3, "Custom ...", m.custom});
-                all.push_back({End});
-            }
+            if (row.kind == Strengths)
+                appendStrengths(all, row);
+            else if (row.kind == Items)
+                appendItems(all, row);
+            else
+                all.push_back(row);
         }
         return all;
     }();

@@ -1,5 +1,5 @@
-// The menus and toolbars as data: which item stands where, what it is called and which command word it gives. Words
-// that begin with "@" are actions of the frame itself (windows, bars, boxes) and no part of the command language.
+// The menus and toolbars as data: which item stands where, what it is called and which word of commands/vocabulary.h it
+// gives.
 #pragma once
 #include <span>
 #include <string_view>
@@ -7,7 +7,16 @@
 
 namespace velara {
 
-enum class MenuKind { Menu, SubMenu, Item, Separator, End };
+enum class MenuKind {
+    Menu,
+    SubMenu,
+    Item,
+    Separator,
+    End,
+    // In the table alone; menuRows() has what they stand for.
+    Items,     // as many as the word has
+    Strengths, // a submenu of Light, Heavy and Custom
+};
 
 /// One line of the menu tree. An item's object name is array + "_" + index; a menu's is array. Menu and SubMenu open a
 /// level, End closes it.

@@ -1,0 +1,176 @@
+// The command language in one table: which words there are, what each needs of the documents, and what sort of thing it
+// is. The frame binds handlers to the words (app/frame/fMain_commands.cpp), menus and buttons name them, the batch
+// program takes those that need no window. Presets, filter dialogs and sizes are tables of their own, and their words
+// come in by themselves.
+#pragma once
+#include <algorithm>
+#include <span>
+#include <string_view>
+
+namespace velara {
+
+/// What a word needs of the documents: the active one is not asked for; asked for, and it runs either way; only with
+/// one.
+enum class Stage { Free, MaybeImage, NeedsImage };
+
+enum class WordKind {
+    Window,  // opens a window, or belongs to one
+    View,    // how the picture is shown, not what it is
+    Step,    // changes the picture, or goes back
+    Preset,  // a row of presets.cpp
+    Dialog,  // a row of filterDialogs.cpp
+    Size,    // a row of sizeWords.cpp
+    Nothing, // known, and nothing answers
+    Drop,    // a button that only opens its drop-down
+};
+
+/// Words that begin with "@" are the frame's own, without a word of the command language.
+struct CommandWord {
+    std::string_view word;
+    Stage stage;
+    WordKind kind;
+    int count = 1; // more: the word stands for that many items, told apart by their index
+
+    constexpr bool ofFrame() const { return word.starts_with('@'); }
+};
+
+// clang-format off
+inline constexpr CommandWord kCommandWords[] = {
+    // No document needed
+    {"NEW",                  Stage::Free,       WordKind::Window},
+    {"OPEN",                 Stage::Free,       WordKind::Window},
+    {"FILEASSOCIATION",      Stage::Free,       WordKind::Window},
+    {"PRINTERSETUP",         Stage::Free,       WordKind::Window},
+    {"SELECTSOURCE",         Stage::Free,       WordKind::Window},
+    {"ACQUIRETWAIN",         Stage::Free,       WordKind::Window},
+    {"CAPTUREDESKTOP",       Stage::Free,       WordKind::Window},
+    {"CAPTUREFOREGROUND",    Stage::Free,       WordKind::Window},
+    {"CAPTUREBACKGROUND",    Stage::Free,       WordKind::Window},
+    {"CUSTOMCAPTURE",        Stage::Free,       WordKind::Window},
+
+    // The active document is asked for; one of them runs without
+    {"UNDO",                 Stage::NeedsImage, WordKind::Step},
+    {"REDO",                 Stage::NeedsImage, WordKind::Step},
+    {"CREATENEWCOPY",        Stage::NeedsImage, WordKind::Window},
+    {"COPYIMAGETOCLIPBOARD", Stage::NeedsImage, WordKind::Window},
+    {"CREATEFROMCLIPBOARD",  Stage::MaybeImage, WordKind::Window},
+    {"IMAGESIZE",            Stage::NeedsImage, WordKind::Window},
+    {"CANVASSIZE",           Stage::NeedsImage, WordKind::Window},
+    {"IMAGEORIENTATION",     Stage::NeedsImage, WordKind::Window},
+    {"IMAGEROTATE",          Stage::NeedsImage, WordKind::Window},
+
+    // Only with a document
+    {"CLOSE",                Stage::NeedsImage, WordKind::Window},
+    {"SAVE",                 Stage::NeedsImage, WordKind::Window},
+    {"SAVEAS",               Stage::NeedsImage, WordKind::Window},
+    {"PRINT",                Stage::NeedsImage, WordKind::Window},
+    {"CUT",                  Stage::NeedsImage, WordKind::Window},
+    {"COPY",                 Stage::NeedsImage, WordKind::Window},
+    {"PASTE",                Stage::NeedsImage, WordKind::Window},
+    {"CROP",                 Stage::NeedsImage, WordKind::Step},
+    {"OPTIONS",              Stage::NeedsImage, WordKind::Window},
+    {"200",                  Stage::NeedsImage, WordKind::View},
+    {"300",                  Stage::NeedsImage, WordKind::View},
+    {"400",                  Stage::NeedsImage, WordKind::View},
+    {"500",                  Stage::NeedsImage, WordKind::View},
+    {"600",                  Stage::NeedsImage, WordKind::View},
+    {"700",                  Stage::NeedsImage, WordKind::View},
+    {"IMAGEMERGING",         Stage::NeedsImage, WordKind::Window},
+    {"PASTELAYERSBOX",       Stage::NeedsImage, WordKind::Window},
+    {"IMAGETEXTURES",        Stage::NeedsImage, WordKind::Window},
+    {"IMAGERESOLUTION",      Stage::NeedsImage, WordKind::Window},
+    {"IMAGESAVEOPTIONS",     Stage::NeedsImage, WordKind::Window},
+    {"IMAGECOLORDEPTH",      Stage::NeedsImage, WordKind::Window},
+    {"TEXTTOOLS",            Stage::NeedsImage, WordKind::Window},
+    {"WTILE",                Stage::NeedsImage, WordKind::Window},
+    {"WCENTER",              Stage::NeedsImage, WordKind::Window},
+    {"WSTRETCH",             Stage::NeedsImage, WordKind::Window},
+    {"TILEHORIZONTALLY",     Stage::NeedsImage, WordKind::Window},
+    {"TILEVERTICALLY",       Stage::NeedsImage, WordKind::Window},
+    {"CASCADE",              Stage::NeedsImage, WordKind::Window},
+    {"RESET",                Stage::NeedsImage, WordKind::Window},
+
+    // Known words that do nothing
+    {"PRINTPREVIEW",         Stage::NeedsImage, WordKind::Nothing},
+    {"RESTORE",              Stage::NeedsImage, WordKind::Nothing},
+    {"IMAGEPROPERTIES",      Stage::NeedsImage, WordKind::Nothing},
+    {"EXTRACTICON",          Stage::NeedsImage, WordKind::Nothing},
+    {"MOSAIC",               Stage::NeedsImage, WordKind::Nothing},
+    {"VERTICALINTERLEAVE",   Stage::NeedsImage, WordKind::Nothing},
+    {"HORIZONTALINTERLEAVE", Stage::NeedsImage, WordKind::Nothing},
+    {"SQUAREINTERLEAVE",     Stage::NeedsImage, WordKind::Nothing},
+    {"CUSTOMINTERLEAVE",     Stage::NeedsImage, WordKind::Nothing},
+    {"TARNISH",              Stage::NeedsImage, WordKind::Nothing},
+    {"RGB",                  Stage::NeedsImage, WordKind::Nothing},
+    {"TALCOMPOWDER",         Stage::NeedsImage, WordKind::Nothing},
+    {"IMAGESCALE",           Stage::NeedsImage, WordKind::Nothing},
+    {"IMAGECAPTURER",        Stage::NeedsImage, WordKind::Nothing},
+    {"HELPBAR",              Stage::NeedsImage, WordKind::Nothing},
+    {"TEXTBAR",              Stage::NeedsImage, WordKind::Nothing},
+    {"TOOLSBAR",             Stage::NeedsImage, WordKind::Nothing},
+    {"MENUBAR",              Stage::NeedsImage, WordKind::Nothing},
+    {"FILTERSBAR",           Stage::NeedsImage, WordKind::Nothing},
+    {"COLORSBAR",            Stage::NeedsImage, WordKind::Nothing},
+    {"EFFECTSBAR",           Stage::NeedsImage, WordKind::Nothing},
+    {"STANDARDBAR",          Stage::NeedsImage, WordKind::Nothing},
+    {"GRADIENTBOX",          Stage::NeedsImage, WordKind::Nothing},
+    {"TEMPLATEBOX",          Stage::NeedsImage, WordKind::Nothing},
+    {"STATUSBAR",            Stage::NeedsImage, WordKind::Nothing},
+    {"MNUFLAT",              Stage::NeedsImage, WordKind::Nothing},
+    {"MNUSOLIDBAR",          Stage::NeedsImage, WordKind::Nothing},
+    {"MNU3DWATER",           Stage::NeedsImage, WordKind::Nothing},
+    {"MNU3DMETALLIC",        Stage::NeedsImage, WordKind::Nothing},
+    {"MNULIGHTGRADIENT",     Stage::NeedsImage, WordKind::Nothing},
+    {"MNUHEAVYGRADIENT",     Stage::NeedsImage, WordKind::Nothing},
+    {"MNUSTANDARD",          Stage::NeedsImage, WordKind::Nothing},
+    {"MNUDELUXE",            Stage::NeedsImage, WordKind::Nothing},
+    {"MNUWHITE",             Stage::NeedsImage, WordKind::Nothing},
+    {"MNUSILVER",            Stage::NeedsImage, WordKind::Nothing},
+    {"INDEX",                Stage::NeedsImage, WordKind::Nothing},
+    {"FAQ",                  Stage::NeedsImage, WordKind::Nothing},
+    {"TUTORIALS",            Stage::NeedsImage, WordKind::Nothing},
+    {"SUPPORT",              Stage::NeedsImage, WordKind::Nothing},
+    {"HOMEPAGE",             Stage::NeedsImage, WordKind::Nothing},
+    {"ABOUT",                Stage::NeedsImage, WordKind::Nothing},
+    // Items and buttons give these, and nothing answers: odd, and it stays
+    {"RESTOREORIGINAL",      Stage::NeedsImage, WordKind::Nothing},
+    {"N360",                 Stage::NeedsImage, WordKind::Nothing},
+    {"A360",                 Stage::NeedsImage, WordKind::Nothing},
+
+    // The frame's own
+    {"@BROWSE",              Stage::Free,       WordKind::Window},
+    {"@CAPTURE",             Stage::Free,       WordKind::Window},
+    {"@ICON",                Stage::Free,       WordKind::Window},
+    {"@ASSOCIATION",         Stage::Free,       WordKind::Window},
+    {"@EXIT",                Stage::Free,       WordKind::Window},
+    {"@ABOUT",               Stage::Free,       WordKind::Window},
+    {"@RESET",               Stage::Free,       WordKind::Window},
+    {"@RECENT",              Stage::Free,       WordKind::Window, 8},
+    {"@BAR",                 Stage::Free,       WordKind::Window, 7},
+    {"@COLORBOX",            Stage::Free,       WordKind::Window},
+    {"@TEXTURESBOX",         Stage::Free,       WordKind::Window},
+    {"@CLIPBOARDBOX",        Stage::Free,       WordKind::Window},
+    {"@STATUSBAR",           Stage::Free,       WordKind::Window},
+    {"@SIDEBAR",             Stage::Free,       WordKind::Window},
+    {"@ZOOMP",               Stage::Free,       WordKind::Drop},
+    {"@ZOOMM",               Stage::Free,       WordKind::Drop},
+    {"@QUICKROTATE",         Stage::Free,       WordKind::Drop},
+    {"@QUALITYROTATE",       Stage::Free,       WordKind::Drop},
+    {"@QUALITYSIZE",         Stage::Free,       WordKind::Drop},
+    {"@QUICKCAPTURE",        Stage::Free,       WordKind::Drop},
+    {"@WALLPAPER",           Stage::Free,       WordKind::Drop},
+};
+// clang-format on
+
+/// Every word: those above, and those of the three tables; each once.
+std::span<const CommandWord> vocabulary();
+/// Exact; null when there is no such word.
+const CommandWord* findCommandWord(std::string_view word);
+
+/// True for a word of kCommandWords, for checks while compiling.
+constexpr bool isCommandWord(std::string_view word)
+{
+    return std::ranges::find(kCommandWords, word, &CommandWord::word) != std::end(kCommandWords);
+}
+
+} // namespace velara
