@@ -1,0 +1,57 @@
+#include "ui/widgets/fFolderTree.h"
+#include "ui/widgets/FolderModel.h"
+#include <QKeyEvent>
+
+namespace velara {
+
+fFolderTree::fFolderTree(Shows shows, const QString& objectName, const QString& accessibleName, QWidget* parent)
+    : QTreeView(parent), model_(new FolderModel(shows == Shows::FoldersAndFiles, this)), shows_(shows)
+{
+    setObjectName(objectName);
+    setAccessibleName(accessibleName);
+    setModel(model_);
+    setHeaderHidden(true);
+    setUniformRowHeights(true); // no row of thousands is measured
+    setExpandsOnDoubleClick(false);
+    connect(this, &QTreeView::doubleClicked, this, &fFolderTree::choose);
+}
+
+QString fFolderTree::path() const { return model_->path(currentIndex()); }
+
+void fFolderTree::select(const QString& path)
+{
+    const QModelIndex index = model_->indexOf(path);
+    setCurrentIndex(index);
+    expand(index);
+    scrollTo(index, PositionAtCenter);
+}
+
+void fFolderTree::choose(const QModelIndex& index)
+{
+    if (!index.isValid()) return;
+    if (shows_ == Shows::FoldersAndFiles && model_->isFolder(index)) return setExpanded(index, !isExpanded(index));
+    emit chosen(model_->path(index));
+}
+
+void fFolderTree::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        choose(currentIndex());
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void fFolderTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTreeView::currentChanged(current, previous);
+    emit selection(path());
+}
+
+/// Only now is it known how much of the tree can be seen.
+void fFolderTree::showEvent(QShowEvent* event)
+{
+    QTreeView::showEvent(event);
+    scrollTo(currentIndex(), PositionAtCenter);
+}
+
+} // namespace velara
