@@ -2,6 +2,7 @@
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
 #include "fileio/OutputFile.h"
+#include "fileio/formats.h"
 #include "fileio/savePicture.h"
 #include <QCoreApplication>
 #include <QFile>
@@ -14,22 +15,6 @@
 namespace velara {
 
 namespace {
-
-/// What lies behind the last dot of the file's name, in lower case.
-QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
-
-/// Where the picture goes and as what: a portable anymap of any kind is written by its family's name.
-struct Target {
-    QString name, extension, file; // as the writer wants it, and the file that comes of it
-};
-
-Target targetOf(const QString& output)
-{
-    const QString extension = extensionOf(output);
-    if (extension != u"ppm" && extension != u"pgm" && extension != u"pbm") return {output, extension, output};
-    const QString name = output.chopped(extension.size());
-    return {name, QStringLiteral("pnm"), name + QStringLiteral("ppm")};
-}
 
 Bits read(Platform& platform, const QString& path, bool partial)
 {
@@ -49,16 +34,24 @@ Failure cannotBeWritten(const QString& output, const QString& reason = {})
 /// The file that a target comes to, behind links. What can't become a picture is refused before any work.
 QString fileOf(const QString& output)
 {
-    const QString file = behindLinks(targetOf(output).file);
+    const QString file = behindLinks(saveTargetOf(output).file);
     if (file.isEmpty()) throw cannotBeWritten(output, QStringLiteral("it is a link in a circle, or somebody else's"));
     if (output.endsWith(u'/') || QFileInfo(file).isDir())
         throw cannotBeWritten(output, QStringLiteral("it is a folder"));
     return file;
 }
 
+QString savedExtensions()
+{
+    QStringList saved;
+    for (const Format& format : kFormats)
+        if (format.saved()) saved << QLatin1String(format.extension);
+    return saved.join(QStringLiteral(", "));
+}
+
 void write(Platform& platform, const Bits& bits, const QString& output)
 {
-    const Target target = targetOf(output);
+    const SaveTarget target = saveTargetOf(output);
     const QString file = fileOf(output);
     const bool isNew = !QFileInfo::exists(file);
     switch (savePicture(platform, bits, target.name, target.extension)) {
@@ -66,8 +59,7 @@ void write(Platform& platform, const Bits& bits, const QString& output)
         return;
     case SaveResult::NotWritten:
     case SaveResult::Refused:
-        throw cannotBeWritten(output, QStringLiteral("pictures are written as png, gif, jpg, bmp, tif, pcx, tga, ppm, "
-                                                     "pgm and pbm"));
+        throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
     case SaveResult::Failed:
     case SaveResult::FailedAndTold:
         if (isNew) QFile::remove(file); // a half-written JPEG

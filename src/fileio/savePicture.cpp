@@ -3,6 +3,7 @@
 #include "fileio/GifWriter.h"
 #include "fileio/ModFreeImage.h"
 #include "fileio/PCX.h"
+#include "fileio/formats.h"
 #include "reduce/bestColours.h"
 #include "seams/Platform.h"
 #include <FreeImage.h>
@@ -72,7 +73,7 @@ SaveResult refuseIcon(const Job& job)
 }
 
 struct Writer {
-    const char* extension;
+    std::string_view extension; // "pnm": the family of the portable anymaps
     SaveResult (*save)(const Job& job);
 };
 
@@ -90,15 +91,22 @@ constexpr Writer kWriters[] = {
 };
 // clang-format on
 
+constexpr const Writer* writerOf(std::string_view extension)
+{
+    const auto* writer = std::ranges::find(kWriters, extension, &Writer::extension);
+    return writer == std::end(kWriters) ? nullptr : writer;
+}
+static_assert(std::ranges::all_of(kFormats, [](const Format& f) {
+    return (f.saving == Saving::Directly || f.saving == Saving::Refused) == (writerOf(f.extension) != nullptr);
+}));
+
 } // namespace
 
 SaveResult savePicture(Platform& platform, const Bits& bits, const QString& FileName, const QString& Ext)
 try {
     if (bits.isNull()) return SaveResult::NotWritten;
-    const QString extension = Ext.toLower();
-    const auto writer = std::find_if(std::begin(kWriters), std::end(kWriters),
-                                     [&](const Writer& row) { return extension == QLatin1String(row.extension); });
-    return writer == std::end(kWriters) ? SaveResult::NotWritten : writer->save({platform, bits, FileName});
+    const Writer* writer = writerOf(Ext.toLower().toStdString());
+    return writer ? writer->save({platform, bits, FileName}) : SaveResult::NotWritten;
 } catch (const std::bad_alloc&) {
     return SaveResult::Failed;
 }

@@ -180,8 +180,8 @@ class fMain final : public QMainWindow, public Frame {
     void engineProgress(int percent);
     void showFailure(const QString& what, const std::exception& failure);
     void buryDead();
-    /// name is what the document is called afterwards; path and extension are what is written.
-    void saveTo(fImage& image, const QString& name, const QString& path, const QString& extension);
+    /// name is what the document is called afterwards.
+    void saveTo(fImage& image, const QString& name);
     bool openPath(const QString& path);
     QString inDialogFolder(const QString& name) const;
     void showLoadError();

@@ -2,7 +2,9 @@
 #include "app/frame/fDocumentWindow.h"
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
+#include "app/menus/fIcons.h"
 #include "fileio/SetupStore.h"
+#include "fileio/formats.h"
 #include "seams/Platform.h"
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -18,48 +20,6 @@ namespace {
 
 const QString kTitle = QStringLiteral("Velara Studio");
 
-const QString kOpenFilter =
-    QStringLiteral("All Supported Picture Formats|"
-                   "*.bmp;*.wbmp;*.dib;*.wmf;*.emf;*.gif;*.jpg;*.png;*.pcx;*.pbm;*.pgm;"
-                   "*.ppm;*.ico;*.psd;*.jng;*.mng;*.tif;*.koa;"
-                   "*.pcd;*.ras;*.tga;*.cut;*.iff;*.lbm|"
-                   "Bitmap Files (*.BMP;*.DIB)|*.bmp;*.dib|Meta Files (*.WMF;*.EMF)|*.wmf;*.emf|"
-                   "Graphical Interface Format(*.GIF)|*.gif|"
-                   "Independent JPEG Group (*.JPG)|*.jpg|"
-                   "Portable Network Graphics (*.PNG)|*.png|"
-                   "Zsoft Paintbrush Files (*.PCX)|*.pcx|"
-                   "Wireless Bitmap (*.WBMP)|*.wbmp|"
-                   "Portable Bitmap (*.PBM)|*.pbm|"
-                   "Portable Graymap (*.PGM)|*.pgm|"
-                   "Portable Pixelmap (*.PPM)|*.ppm|"
-                   "Windows Icon (*.ICO)|*.ico|"
-                   "Photoshop (*.PSD)|*.psd|"
-                   "JPEG Network Graphics (*.JNG)|*.jng|"
-                   "Multiple Network Graphics (*.MNG)|*.mng|"
-                   "Tagged Image File Format (*.TIF)|*.tif|"
-                   "Commodore 64 Koala format (*.KOA)| *.koa|"
-                   "Kodak PhotoCD (*.PCD)|*.pcd|"
-                   "Sun Rasterfile (*.RAS)|*.ras|"
-                   "Targa files (*.TGA)|*.tga|"
-                   "Dr.Halo bitmap (*.CUT)|*.cut|"
-                   "Interchanged File Format (*.IFF)|*.iff|"
-                   "Deluxe Paint package (*.LBM)|*.lbm");
-
-const QString kSaveFilter =
-    QStringLiteral("All Supported graphic formats |*.bmp;*.gif;*.jpg;*.png;*.tga;*.pcx;*.tif;*.pbm;*.pgm;*.ppm|"
-                   "Windows Bitmap Files (*.bmp)|*.bmp|"
-                   "Graphical Interface Format (*.GIF)|*.gif|"
-                   "Independent JPEG Group (*.JPG)|*.jpg|"
-                   "Portable Network Graphics (*.PNG)|*.png|"
-                   "Targa files (*.TGA)|*.tga|"
-                   "Zsoft Paintbrush (*.PCX)|*.pcx|"
-                   "Tagged Image File Format (*.TIF)|*.tif|"
-                   "ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)|*.ppm;*.pgm;*.pbm");
-
-const QStringList kSavedDirectly = {"bmp", "gif", "jpg", "tga", "tif", "png", "pcx"};
-const QStringList kAnymaps = {"ppm", "pgm", "pbm"};
-const QStringList kDropped = {"DIB", "BMP", "JPG", "GIF"};
-
 /// What follows the last separator, right-trimmed.
 QString FileNameOf(const QString& path)
 {
@@ -68,8 +28,6 @@ QString FileNameOf(const QString& path)
     return name;
 }
 
-QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
-
 /// A name without an extension gets the one given.
 QString withExtension(const QString& path, const QString& extension)
 {
@@ -77,11 +35,11 @@ QString withExtension(const QString& path, const QString& extension)
     return path + (path.endsWith('.') ? "" : ".") + extension;
 }
 
-/// A portable anymap of any kind becomes one of true colour.
-QString writtenAs(const QString& path)
+bool isDropped(const QString& path)
 {
-    const QString extension = extensionOf(path);
-    return kAnymaps.contains(extension) ? path.chopped(extension.size()) + "ppm" : path;
+    return std::ranges::any_of(kFormats, [&](const Format& f) {
+        return f.has(Dropped) && path.endsWith(text(f.extension), Qt::CaseInsensitive);
+    });
 }
 
 void giveNames(fImage& image, const QString& path, Frame& frame)
@@ -169,7 +127,7 @@ bool fMain::openPicture(const QString& path)
 
 void fMain::open()
 {
-    if (const auto path = platform_.openFileName({"Open file", kOpenFilter, dialogFolder_, "*.bmp"}))
+    if (const auto path = platform_.openFileName({"Open file", openFilter(), dialogFolder_, "*.bmp"}))
         openPicture(*path);
 }
 
@@ -200,36 +158,33 @@ void fMain::FillRecent()
 void fMain::save()
 {
     fImage* image = GetActiveImage();
-    const QString extension = extensionOf(image->Caption());
+    const Format* format = formatOf(image->Caption());
     // A new document, a second window of the same file and any other format get their name by asking.
     const bool own = image->document().hasFile && image->Tag().startsWith('/');
-    if (!own || !kSavedDirectly.contains(extension)) return Mmenu("SAVEAS");
-    saveTo(*image, image->Tag(), image->Tag(), extension);
+    if (!own || !format || format->saving != Saving::Directly) return Mmenu("SAVEAS");
+    saveTo(*image, image->Tag());
 }
 
 void fMain::saveAs()
 {
     const QPointer<fImage> image = GetActiveImage();
-    const QString own = extensionOf(image->Caption());
-    const QString usual = kSavedDirectly.contains(own) || kAnymaps.contains(own) ? own : QStringLiteral("png");
-    FileDialog dialog{"Save as", kSaveFilter, dialogFolder_};
+    const Format* own = formatOf(image->Caption());
+    const QString usual = own && own->saved() ? extensionOf(image->Caption()) : QStringLiteral("png");
+    FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
     dialog.extension = usual;
-    dialog.writtenAs = writtenAs;
+    dialog.writtenAs = [](const QString& name) { return saveTargetOf(name).file; };
     const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;
-    const QString name = withExtension(*path, usual), extension = extensionOf(name);
-    if (kAnymaps.contains(extension)) // the colours decide which of the three it becomes
-        saveTo(*image, name, name.chopped(extension.size()), "pnm");
-    else
-        saveTo(*image, name, name, extension);
+    saveTo(*image, withExtension(*path, usual));
 }
 
-void fMain::saveTo(fImage& image, const QString& name, const QString& path, const QString& extension)
+void fMain::saveTo(fImage& image, const QString& name)
 {
+    const SaveTarget target = saveTargetOf(name);
     const QPointer<fImage> watched = &image;
     SaveResult result = SaveResult::Failed;
     try {
-        result = image.Save(path, extension);
+        result = image.Save(target.name, target.extension);
     } catch (const std::exception&) {
     }
     if (result != SaveResult::Written) { // the document stays as it was, unsaved
@@ -291,7 +246,7 @@ void fMain::dropFiles(const QStringList& paths)
 {
     bool failed = false;
     for (const QString& path : paths)
-        if (!closing_ && kDropped.contains(path.trimmed().right(3).toUpper())) failed |= !openPath(path.trimmed());
+        if (!closing_ && isDropped(path.trimmed())) failed |= !openPath(path.trimmed());
     if (failed && !closing_) showLoadError(); // once, however many
 }
 

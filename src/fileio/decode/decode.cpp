@@ -1,6 +1,7 @@
 #include "fileio/decode/decode.h"
 #include "fileio/decode/mends.h"
 #include "fileio/decode/readers.h"
+#include "fileio/formats.h"
 #include <FreeImage.h>
 #include <algorithm>
 #include <iterator>
@@ -41,48 +42,48 @@ Decoded readPcx(FileBytes& file)
 Needs prepareNothing() { return Needs::Nothing; }
 
 struct Reader {
-    const char* extension;
-    const char* name; // as in "it is damaged or not a PNG picture"
+    std::string_view extension;
     Decoded (*read)(FileBytes& file);
     Needs (*prepare)() = prepareNothing;
 };
 
 // clang-format off
-constexpr Reader kReaders[] = {                 // the first row of an extension counts
-    {"gif",  "a GIF",                readGif, loadQtReaders},
-    {"wmf",  "a Windows metafile",   readWmf, prepareWmf},
-    {"emf",  "an enhanced metafile", readEmf, prepareEmf},
-    {"ico",  "an icon",              [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
-    {"cur",  "a cursor",             [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
-    {"dib",  "a bitmap",             readDib, loadQtReaders},
-    {"bmp",  "a BMP",                byFreeImage<FIF_BMP, mendBmp>},
-    {"cut",  "a Dr. Halo",           byFreeImage<FIF_CUT>},
-    {"iff",  "an IFF",               byFreeImage<FIF_IFF>},
-    {"jpg",  "a JPEG",               byFreeImage<FIF_JPEG, mendJpeg>},
-    {"koa",  "a Koala",              byFreeImage<FIF_KOALA>},
-    {"lbm",  "an IFF",               byFreeImage<FIF_LBM>},
-    {"mng",  "an MNG",               byFreeImage<FIF_MNG>},
-    {"pcd",  "a Photo CD",           byFreeImage<FIF_PCD>},
-    {"pcx",  "a PCX",                readPcx},
-    {"png",  "a PNG",                byFreeImage<FIF_PNG>},
-    {"psd",  "a Photoshop",          byFreeImage<FIF_PSD>},
-    {"ras",  "a Sun raster",         byFreeImage<FIF_RAS, mendRas>},
-    {"tga",  "a Targa",              byFreeImage<FIF_TARGA>},
-    {"tif",  "a TIFF",               byFreeImage<FIF_TIFF>},
-    {"wbmp", "a WBMP",               byFreeImage<FIF_WBMP>},
-    {"pbm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
-    {"pgm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
-    {"ppm",  "a portable anymap",    byFreeImage<FIF_PPM, mendPnm>},
-    {"jng",  "a BMP",                byFreeImage<FIF_BMP, mendBmp>}, // odd, and it stays: .jng goes to the BMP reader
+constexpr Reader kReaders[] = {
+    {"gif",   readGif, loadQtReaders},
+    {"wmf",   readWmf, prepareWmf},
+    {"emf",   readEmf, prepareEmf},
+    {"ico",   [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
+    {"cur",   [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
+    {"dib",   readDib, loadQtReaders},
+    {"bmp",   byFreeImage<FIF_BMP, mendBmp>},
+    {"cut",   byFreeImage<FIF_CUT>},
+    {"iff",   byFreeImage<FIF_IFF>},
+    {"jpg",   byFreeImage<FIF_JPEG, mendJpeg>},
+    {"koa",   byFreeImage<FIF_KOALA>},
+    {"lbm",   byFreeImage<FIF_LBM>},
+    {"mng",   byFreeImage<FIF_MNG>},
+    {"pcd",   byFreeImage<FIF_PCD>},
+    {"pcx",   readPcx},
+    {"png",   byFreeImage<FIF_PNG>},
+    {"psd",   byFreeImage<FIF_PSD>},
+    {"ras",   byFreeImage<FIF_RAS, mendRas>},
+    {"tga",   byFreeImage<FIF_TARGA>},
+    {"tif",   byFreeImage<FIF_TIFF>},
+    {"wbmp",  byFreeImage<FIF_WBMP>},
+    {"pbm",   byFreeImage<FIF_PPM, mendPnm>},
+    {"pgm",   byFreeImage<FIF_PPM, mendPnm>},
+    {"ppm",   byFreeImage<FIF_PPM, mendPnm>},
+    {"jng",   byFreeImage<FIF_BMP, mendBmp>},
 };
 // clang-format on
 
-const Reader* readerOf(const QString& extension)
+constexpr const Reader* readerOf(std::string_view extension)
 {
-    const auto reader = std::find_if(std::begin(kReaders), std::end(kReaders),
-                                     [&](const Reader& row) { return extension == QLatin1String(row.extension); });
+    const auto* reader = std::ranges::find(kReaders, extension, &Reader::extension);
     return reader == std::end(kReaders) ? nullptr : reader;
 }
+static_assert(std::ranges::all_of(kFormats, readerOf, &Format::extension));
+static_assert(std::ranges::all_of(kReaders, findFormat, &Reader::extension));
 
 } // namespace
 
@@ -90,20 +91,21 @@ void (*sizeFound)(std::int64_t width, std::int64_t height) = [](std::int64_t, st
 
 Needs prepareReader(const QString& extension)
 {
-    const Reader* reader = readerOf(extension);
+    const Reader* reader = readerOf(extension.toStdString());
     return reader ? reader->prepare() : Needs::Nothing;
 }
 
 Decoded decodePicture(FileBytes&& file, const QString& extension)
 try {
-    const Reader* reader = readerOf(extension);
+    const Reader* reader = readerOf(extension.toStdString());
     if (extension.isEmpty()) return refused("its name has no extension to tell what it is");
     if (!reader) return refused(QString("there is no reader for .%1 files").arg(extension));
     if (file.size() == 0) return refused("it is empty or can't be opened");
     if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
     Decoded decoded = reader->read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
-        decoded.reason = QString("it is damaged or not %1 picture").arg(reader->name);
+        decoded.reason =
+            QString("it is damaged or not %1 picture").arg(QLatin1String(findFormat(reader->extension)->name));
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

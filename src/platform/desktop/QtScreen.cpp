@@ -1,9 +1,9 @@
 #include "platform/desktop/QtScreen.h"
+#include "fileio/formats.h"
 #include "pixels/numbers.h"
 #include "platform/desktop/PortalRequest.h"
 #include "platform/desktop/x11.h"
 #include <QFile>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
@@ -103,7 +103,7 @@ void QtScreen::grabByPortal()
         request_ = nullptr;
         const QString file = localFile(results);
         if (code != PortalRequest::Granted || file.isEmpty()) return answer({});
-        const LoadedPicture loaded = platform_.loadPicture(file, QFileInfo(file).suffix().toLower());
+        const LoadedPicture loaded = platform_.loadPicture(file, extensionOf(file));
         QFile::remove(file); // the desktop made it for us, among the user's own pictures
         QList<QRect> screens;
         for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();

@@ -2,6 +2,7 @@
 #include "commands/effects.h"
 #include "document/Document.h"
 #include "document/stockTextures.h"
+#include "fileio/formats.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -234,7 +235,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) {
         if (!ListFile_->currentItem()) return;
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
-        const LoadedPicture picture = platform.loadPicture(path, QFileInfo(path).suffix().toLower());
+        const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
         if (!picture.ok())
             return platform.message(QStringLiteral("Velara Studio"),
                                     tr("%1 can't be used as a texture: %2").arg(path, picture.reason),

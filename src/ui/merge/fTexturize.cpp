@@ -1,5 +1,6 @@
 #include "ui/merge/fTexturize.h"
 #include "document/stockTextures.h"
+#include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/fPicture.h"
@@ -193,7 +194,7 @@ void fTexturize::nextThumbnail()
     QListWidgetItem* item = flTextures_->item(thumbnails_++);
     const QString path = item->data(Qt::UserRole).toString();
     const QPointer<fTexturize> alive = this;
-    const LoadedPicture loaded = platform_.loadPicture(path, QFileInfo(path).suffix().toLower());
+    const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
     if (!alive) return;
     item->setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
     if (!loaded.ok()) {
@@ -211,7 +212,7 @@ void fTexturize::choose()
     const QString path = item->data(Qt::UserRole).toString();
     txtTexture_->setText(QFileInfo(path).fileName());
     const QPointer<fTexturize> alive = this;
-    const LoadedPicture loaded = platform_.loadPicture(path, QFileInfo(path).suffix().toLower());
+    const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
     if (!alive || flTextures_->currentItem() != item) return; // the user went on meanwhile
     texture_ = loaded.bits;
     unreadable_ = loaded.ok() ? QString() : tr("This file can't be read as a picture.");

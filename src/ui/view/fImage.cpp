@@ -1,5 +1,6 @@
 #include "ui/view/fImage.h"
 #include "engine/cBitFilter.h"
+#include "fileio/formats.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -18,8 +19,6 @@ namespace velara {
 namespace {
 
 const QString kTitle = QStringLiteral("Velara Studio");
-/// Kinds whose reader reports a failure; all others open empty.
-const QStringList kPlatformKinds = {"gif", "wmf", "emf", "ico", "cur", "dib"};
 constexpr int kPathPixels = 400;
 
 } // namespace
@@ -67,9 +66,10 @@ fImage::~fImage() { forget(); }
 bool fImage::SetPicture(const QString& path, const QString& ext)
 {
     const QString kind = ext.toLower();
+    const Format* format = findFormat(kind.toStdString());
     const QPointer<fImage> self = this;
     const LoadedPicture loaded = frame_.platform().loadPicture(path, kind);
-    if (!self || (!loaded.ok() && kPlatformKinds.contains(kind))) return false;
+    if (!self || (!loaded.ok() && format && format->has(FailsAloud))) return false;
     PPicture(loaded.bits);
     loadNote_ = loaded.reason;
     return true;
@@ -77,8 +77,9 @@ bool fImage::SetPicture(const QString& path, const QString& ext)
 
 SaveResult fImage::Save(const QString& path, const QString& ext)
 {
-    // Only a gif takes long, since its colours are reduced first. A notice of the others may outlive this window.
-    const bool slow = ext.compare("gif", Qt::CaseInsensitive) == 0;
+    // One that is slow shows no notice, which might outlive this window.
+    const Format* format = findFormat(ext.toLower().toStdString());
+    const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const SaveResult result = savePicture(frame_.platform(), document_.Bits(), path, ext);
     if (slow) QGuiApplication::restoreOverrideCursor();

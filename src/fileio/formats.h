@@ -1,0 +1,87 @@
+// The picture formats in one table: what a file of each is called, how it opens and how it is saved. The readers of the
+// child process (fileio/decode/decode.cpp) and the writers (savePicture.cpp) are bound to its rows; file dialogs, what
+// may be dropped on the frame, and the targets of the batch program are made from it.
+#pragma once
+#include <QString>
+#include <algorithm>
+#include <string_view>
+
+namespace velara {
+
+enum class Saving {
+    No,
+    Directly, // under its own name
+    AsAnymap, // by the name of its family: the colours decide which of the three it becomes
+    Refused,  // with a word to the user
+};
+
+enum FormatTraits : unsigned {
+    Plain = 0,
+    FailsAloud = 1, // a file that can't be made out is refused; of all other formats it opens empty
+    SavesSlowly = 2,
+    Dropped = 4, // taken when it is dropped on the frame
+};
+
+struct Format {
+    std::string_view extension; // lower case
+    std::string_view name;      // as in "it is damaged or not a PNG picture"
+    Saving saving;
+    unsigned traits;
+
+    constexpr bool has(FormatTraits trait) const { return (traits & trait) != 0; }
+    constexpr bool saved() const { return saving == Saving::Directly || saving == Saving::AsAnymap; }
+};
+
+// clang-format off
+inline constexpr Format kFormats[] = {
+    {"bmp",  "a BMP",                Saving::Directly, Dropped},
+    {"wbmp", "a WBMP",               Saving::No,       Plain},
+    {"dib",  "a bitmap",             Saving::No,       FailsAloud | Dropped},
+    {"wmf",  "a Windows metafile",   Saving::No,       FailsAloud},
+    {"emf",  "an enhanced metafile", Saving::No,       FailsAloud},
+    {"gif",  "a GIF",                Saving::Directly, FailsAloud | Dropped | SavesSlowly},
+    {"jpg",  "a JPEG",               Saving::Directly, Dropped},
+    {"png",  "a PNG",                Saving::Directly, Plain},
+    {"pcx",  "a PCX",                Saving::Directly, Plain},
+    {"pbm",  "a portable anymap",    Saving::AsAnymap, Plain},
+    {"pgm",  "a portable anymap",    Saving::AsAnymap, Plain},
+    {"ppm",  "a portable anymap",    Saving::AsAnymap, Plain},
+    {"ico",  "an icon",              Saving::Refused,  FailsAloud},
+    {"cur",  "a cursor",             Saving::No,       FailsAloud},
+    {"psd",  "a Photoshop",          Saving::No,       Plain},
+    {"jng",  "a BMP",                Saving::No,       Plain}, // odd, and it stays: .jng goes to the BMP reader
+    {"mng",  "an MNG",               Saving::No,       Plain},
+    {"tif",  "a TIFF",               Saving::Directly, Plain},
+    {"koa",  "a Koala",              Saving::No,       Plain},
+    {"pcd",  "a Photo CD",           Saving::No,       Plain},
+    {"ras",  "a Sun raster",         Saving::No,       Plain},
+    {"tga",  "a Targa",              Saving::Directly, Plain},
+    {"cut",  "a Dr. Halo",           Saving::No,       Plain},
+    {"iff",  "an IFF",               Saving::No,       Plain},
+    {"lbm",  "an IFF",               Saving::No,       Plain},
+};
+// clang-format on
+
+/// By its extension in lower case; null when there is no such format.
+constexpr const Format* findFormat(std::string_view extension)
+{
+    const auto* found = std::ranges::find(kFormats, extension, &Format::extension);
+    return found == std::end(kFormats) ? nullptr : found;
+}
+/// By the extension of a path.
+const Format* formatOf(const QString& path);
+
+/// What lies behind the last dot of the file's name, in lower case.
+QString extensionOf(const QString& path);
+
+/// What the file dialogs show, as seams/Dialogs.h takes it.
+const QString& openFilter();
+const QString& saveFilter();
+
+/// Where a picture goes and as what, as savePicture wants it, and the file that comes of it.
+struct SaveTarget {
+    QString name, extension, file;
+};
+SaveTarget saveTargetOf(const QString& path);
+
+} // namespace velara
