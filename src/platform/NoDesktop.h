@@ -1,10 +1,17 @@
 // The services of the desktop where there is none: nothing to be seen, nothing to be changed, no device.
 #pragma once
+#include "seams/Previews.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
 #include "seams/Wallpaper.h"
 
 namespace velara {
+
+class NoPreviews final : public Previews {
+  public:
+    Request picture(const QString&, QSize, Done) override { return {}; }
+    Request thumbnail(const QString&, Done) override { return {}; }
+};
 
 class NoScreen final : public Screen {
   public:

@@ -21,12 +21,14 @@ class WindowlessPlatform : public CorePlatform {
     bool setClipboardPart(const Bits&) override { return false; }
     void clearClipboard() override {}
     Fonts& fonts() override { return fonts_; }
+    Previews& previews() override { return previews_; }
     Screen& screen() override { return screen_; }
     Wallpaper& wallpaper() override { return wallpaper_; }
     Scanner& scanner() override { return scanner_; }
 
   private:
     NoFonts fonts_;
+    NoPreviews previews_;
     NoScreen screen_;
     NoWallpaper wallpaper_;
     NoScanner scanner_;

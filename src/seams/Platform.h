@@ -13,6 +13,7 @@
 namespace velara {
 
 class Fonts;
+class Previews;
 class Scanner;
 class Screen;
 class Wallpaper;
@@ -88,6 +89,7 @@ class Platform {
 
     // --- Services with an interface of their own
     virtual Fonts& fonts() = 0;
+    virtual Previews& previews() = 0;
     virtual Screen& screen() = 0;
     virtual Wallpaper& wallpaper() = 0;
     virtual Scanner& scanner() = 0;

@@ -1,14 +1,44 @@
 // The desktop of tests: writes down what is asked of it and answers with what the test has laid out, at once or when
 // the test says so.
 #pragma once
+#include "seams/Previews.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
 #include "seams/Wallpaper.h"
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace velara {
+
+/// Answers when the test says so.
+class RecordingPreviews final : public Previews {
+  public:
+    std::vector<QString> asked; // "PATH" and "thumbnail PATH"
+
+    Request picture(const QString& path, QSize, Done done) override { return ask(path, std::move(done)); }
+    Request thumbnail(const QString& path, Done done) override { return ask("thumbnail " + path, std::move(done)); }
+    /// False: nobody waits for it any more.
+    bool answer(const QString& what, const Preview& preview)
+    {
+        const auto waiting = waiting_[what].lock();
+        if (!waiting) return false;
+        const Done done = *waiting;
+        done(preview);
+        return true;
+    }
+
+  private:
+    Request ask(const QString& what, Done done)
+    {
+        asked.push_back(what);
+        auto request = std::make_shared<Done>(std::move(done));
+        waiting_[what] = request;
+        return request;
+    }
+    std::map<QString, std::weak_ptr<Done>> waiting_;
+};
 
 class RecordingScreen final : public Screen {
   public:

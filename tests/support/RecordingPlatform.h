@@ -56,11 +56,13 @@ class RecordingPlatform : public Platform {
     bool setClipboardPart(const Bits& part) override;
     void clearClipboard() override;
     RecordingFonts& fonts() override { return recordingFonts; }
+    RecordingPreviews& previews() override { return previews_; }
     RecordingScreen& screen() override { return screen_; }
     RecordingWallpaper& wallpaper() override { return wallpaper_; }
     RecordingScanner& scanner() override { return scanner_; }
 
   private:
+    RecordingPreviews previews_;
     RecordingScreen screen_;
     RecordingWallpaper wallpaper_;
     RecordingScanner scanner_;

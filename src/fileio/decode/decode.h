@@ -3,6 +3,7 @@
 #pragma once
 #include "fileio/decode/Cage.h"
 #include "fileio/decode/FileBytes.h"
+#include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
 #include <QString>
 #include <functional>
@@ -15,6 +16,7 @@ struct Decoded {
     /// Writes the W pixels of row y (0 is the top one), fourth byte 0.
     std::function<void(int y, Pixel* row)> row;
     QString reason; // why there is no picture, or why it is not all there
+    Origin origin = {};
     bool ok() const { return static_cast<bool>(row); }
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }

@@ -3,6 +3,7 @@
 #include <FreeImage.h>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -229,6 +230,24 @@ RowMaker rowsOf(FIBITMAP* dib, int width)
     return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
 }
 
+/// A number among the texts of a PNG file; 0: there is none.
+long long numberIn(FIBITMAP* dib, const char* key)
+{
+    FITAG* tag = nullptr;
+    if (!FreeImage_GetMetadata(FIMD_COMMENTS, dib, key, &tag) || !tag || FreeImage_GetTagType(tag) != FIDT_ASCII)
+        return 0;
+    const std::string text(static_cast<const char*>(FreeImage_GetTagValue(tag)), FreeImage_GetTagLength(tag));
+    return std::strtoll(text.c_str(), nullptr, 10);
+}
+
+Origin originOf(FIBITMAP* dib)
+{
+    const auto side = [&](const char* key) {
+        return static_cast<std::int32_t>(std::clamp(numberIn(dib, key), 0LL, 1LL << 30));
+    };
+    return {numberIn(dib, "Thumb::MTime"), side("Thumb::Image::Width"), side("Thumb::Image::Height")};
+}
+
 /// A file whose end is missing; most readers give black or grey for the rest and say nothing.
 bool isCutOff(const Stream& stream, int fif)
 {
@@ -249,6 +268,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     sizeFound(size.width, size.height);
     Dib dib = stream.load(fif, 0);
     const QString note = isCutOff(stream, fif) ? kCutOff : ""; // what there is can be shown
+    const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
@@ -258,7 +278,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
             [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {
                 maker(FreeImage_GetScanLine(dib.get(), height - 1 - y), row);
             },
-            note};
+            note, origin};
 }
 
 } // namespace velara::decode

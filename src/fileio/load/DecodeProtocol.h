@@ -8,6 +8,7 @@
 // sends the number of the first row of each. The parent copies the rows and gives every slot back with one byte. So the
 // picture never exists twice, and the memory between them stays in the cache.
 #pragma once
+#include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
 #include <algorithm>
 #include <cstddef>
@@ -26,7 +27,8 @@ constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 struct Opening {
     std::uint32_t magic;
     std::int32_t width, height;
-    char reason[244];
+    char reason[228];
+    Origin origin = {};
 };
 constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"
 constexpr std::uint32_t kClaim = 0x31434c56; // "VLC1"

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <mutex>
 #include <poll.h>
 #include <spawn.h>
 #include <string>
@@ -87,12 +88,14 @@ void limit(pid_t pid, const DecoderLimits& limits)
 
 namespace {
 
+std::mutex unreadableGuard; // pictures are read by several threads
 int unreadables = 0, wasDumpable = 1;
 
 } // namespace
 
 UnreadableByOthers::UnreadableByOthers()
 {
+    const std::lock_guard guard(unreadableGuard);
     if (unreadables++ > 0) return;
     wasDumpable = prctl(PR_GET_DUMPABLE);
     prctl(PR_SET_DUMPABLE, 0);
@@ -100,6 +103,7 @@ UnreadableByOthers::UnreadableByOthers()
 
 UnreadableByOthers::~UnreadableByOthers()
 {
+    const std::lock_guard guard(unreadableGuard);
     if (--unreadables == 0) prctl(PR_SET_DUMPABLE, wasDumpable);
 }
 

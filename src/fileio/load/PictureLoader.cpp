@@ -1,12 +1,14 @@
 #include "fileio/load/PictureLoader.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
+#include "fileio/load/Shrinker.h"
 #include <QFile>
 #include <QFileInfo>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <new>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -75,14 +77,14 @@ QString faultOf(Wait wait, DecoderProcess& child)
     }
 }
 
-void copyRows(const std::uint8_t* slot, Bits& bits, int first, int count)
+void copyRows(const Pixel* slot, Bits& bits, int first, int count)
 {
-    const std::size_t bytes = sizeof(Pixel) * static_cast<std::size_t>(bits.width());
-    for (int y = first; y < first + count; ++y, slot += bytes) {
+    const auto width = static_cast<std::size_t>(bits.width());
+    for (int y = first; y < first + count; ++y, slot += width) {
         Pixel* row = bits.row(y);
-        std::memcpy(row, slot, bytes);
+        std::memcpy(row, slot, sizeof(Pixel) * width);
         std::memset(row - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
-        std::memset(row + bits.width(), 0, sizeof(Pixel) * Bits::kMargin);
+        std::memset(row + width, 0, sizeof(Pixel) * Bits::kMargin);
     }
 }
 
@@ -91,25 +93,34 @@ void clearMarginRow(Bits& bits, int y)
     std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * static_cast<std::size_t>(bits.stride()));
 }
 
-/// The picture out of the slots, as the child fills them; sets reason instead when it breaks off.
-LoadedPicture receiveRows(DecoderProcess& child, int width, int height)
+/// Takes so many rows of the picture's width, top first; false when no more are wanted.
+using RowTaker = std::function<bool(const Pixel* rows, int first, int count)>;
+/// Called once the size is known.
+using Begin = std::function<RowTaker(const decode::Opening& opening)>;
+
+struct Ending {
+    bool whole;     // all rows have been taken
+    QString reason; // why not, or why the picture is not all there
+};
+
+/// The rows out of the slots, as the child fills them.
+Ending receiveRows(DecoderProcess& child, int width, int height, const RowTaker& take)
 {
-    Bits bits = Bits::uninitialized(width, height);
-    for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
     const int most = decode::rowsInSlot(width);
     std::size_t slot = 0;
     for (int y = 0; y < height; y += most, slot = (slot + 1) % decode::kSlots) {
         std::int32_t first = 0;
         const Wait wait = child.receive(&first, sizeof first);
-        if (wait != Wait::Message) return {{}, faultOf(wait, child)};
-        if (first != y) return {{}, kNonsense};
-        copyRows(child.memory() + slot * decode::kSlotBytes, bits, y, std::min(most, height - y));
+        if (wait != Wait::Message) return {false, faultOf(wait, child)};
+        if (first != y) return {false, kNonsense};
+        const auto* rows = reinterpret_cast<const Pixel*>(child.memory() + slot * decode::kSlotBytes);
+        if (!take(rows, y, std::min(most, height - y))) return {false, kGivenUp};
         child.releaseSlot();
     }
-    return {bits, {}};
+    return {true, {}};
 }
 
-LoadedPicture receivePicture(DecoderProcess& child)
+Ending receivePicture(DecoderProcess& child, const Begin& begin)
 {
     decode::Opening opening;
     Wait wait = child.receive(&opening, sizeof opening);
@@ -117,27 +128,27 @@ LoadedPicture receivePicture(DecoderProcess& child)
         child.claim(std::int64_t{opening.width} * opening.height);
         wait = child.receive(&opening, sizeof opening);
     }
-    if (wait != Wait::Message) return {{}, faultOf(wait, child)};
-    if (opening.magic != decode::kMagic) return {{}, kNonsense};
+    if (wait != Wait::Message) return {false, faultOf(wait, child)};
+    if (opening.magic != decode::kMagic) return {false, kNonsense};
     const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
     const QString reason = QString::fromUtf8(opening.reason, length).simplified();
-    if (opening.width == 0 && opening.height == 0) return {{}, reason.isEmpty() ? QString(kNonsense) : reason};
-    if (!Bits::sizeAllowed(opening.width, opening.height)) return {{}, kNonsense};
-    LoadedPicture picture = receiveRows(child, opening.width, opening.height);
-    if (picture.ok()) picture.reason = reason;
-    return picture;
+    if (opening.width == 0 && opening.height == 0) return {false, reason.isEmpty() ? QString(kNonsense) : reason};
+    if (!Bits::sizeAllowed(opening.width, opening.height)) return {false, kNonsense};
+    Ending ending = receiveRows(child, opening.width, opening.height, begin(opening));
+    if (ending.whole) ending.reason = reason;
+    return ending;
 }
 
-LoadedPicture load(const Descriptor& file, const QString& extension, const QString& decoder,
-                   const DecoderLimits& limits, const GoOn& goOn)
+Ending load(const Descriptor& file, const QString& extension, const QString& decoder, const DecoderLimits& limits,
+            const GoOn& goOn, const Begin& begin)
 try {
-    if (const QString fault = faultOfFile(file); !fault.isEmpty()) return {{}, fault};
-    if (decoder.isEmpty()) return {{}, "the program that reads pictures (velara-decode) was not found"};
+    if (const QString fault = faultOfFile(file); !fault.isEmpty()) return {false, fault};
+    if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
     DecoderProcess child(decoder, file, extension.toLower(), limits, goOn);
-    if (!child.started()) return {{}, "the program that reads pictures (velara-decode) can't be started"};
-    return receivePicture(child);
+    if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
+    return receivePicture(child, begin);
 } catch (const std::bad_alloc&) {
-    return {{}, "there is not enough memory for it"};
+    return {false, "there is not enough memory for it"};
 }
 
 /// Names of files and words of the child come from outside: what could steer a terminal, or turn the direction of the
@@ -152,13 +163,10 @@ QString printable(const QString& text)
     return shown;
 }
 
-LoadedPicture named(LoadedPicture picture, const QString& name)
+QString named(const Ending& ending, const QString& name)
 {
-    if (!picture.ok())
-        picture.reason = printable(name + " can't be read: " + picture.reason);
-    else if (!picture.reason.isEmpty())
-        picture.reason = printable(name + ": " + picture.reason);
-    return picture;
+    if (!ending.whole) return printable(name + " can't be read: " + ending.reason);
+    return ending.reason.isEmpty() ? QString() : printable(name + ": " + ending.reason);
 }
 
 constexpr unsigned kMostSeconds = 60;
@@ -199,14 +207,47 @@ LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, 
     QString reason;
     const QString name = QFileInfo(path).fileName();
     const Descriptor file = openPicture(path, reason);
-    if (!file.isOpen()) return named({{}, reason}, name);
+    if (!file.isOpen()) return {{}, named({false, reason}, name)};
     return loadThroughDecoder(file, name, extension, decoder, limits, goOn);
 }
 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits, const GoOn& goOn)
 {
-    return named(load(file, extension, decoder, limits, goOn), name);
+    Bits bits;
+    const Ending ending = load(file, extension, decoder, limits, goOn, [&](const decode::Opening& opening) {
+        const int height = opening.height;
+        bits = Bits::uninitialized(opening.width, height);
+        for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
+        return [&](const Pixel* rows, int first, int count) {
+            copyRows(rows, bits, first, count);
+            return true;
+        };
+    });
+    return {ending.whole ? bits : Bits(), named(ending, name)};
+}
+
+SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
+                       const DecoderLimits& limits, const GoOn& goOn)
+{
+    QString reason;
+    const QString name = QFileInfo(path).fileName();
+    const Descriptor file = openPicture(path, reason);
+    if (!file.isOpen()) return {{}, {}, {}, named({false, reason}, name)};
+    std::optional<Shrinker> shrinker;
+    SmallPicture small;
+    const Ending ending = load(file, extension, decoder, limits, goOn, [&](const decode::Opening& opening) {
+        small.size = {opening.width, opening.height};
+        small.origin = opening.origin;
+        shrinker.emplace(small.size, box);
+        return [&](const Pixel* rows, int, int count) {
+            for (; count > 0; --count, rows += small.size.width()) shrinker->take(rows);
+            return !goOn || goOn({});
+        };
+    });
+    if (ending.whole) small.image = shrinker->image();
+    small.reason = named(ending, name);
+    return small;
 }
 
 } // namespace velara

@@ -2,7 +2,9 @@
 // nothing but the child.
 #pragma once
 #include "fileio/load/Descriptor.h"
+#include "fileio/load/Origin.h"
 #include "seams/Platform.h"
+#include <QImage>
 #include <chrono>
 #include <functional>
 
@@ -35,5 +37,18 @@ LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, 
 /// The same for what is open for reading already; name is what the reason calls it.
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {});
+
+/// A picture scaled down into a box, and what else is to be known of it.
+struct SmallPicture {
+    QImage image; // 32 bits without alpha; null: it can't be read
+    QSize size;   // of the picture itself
+    Origin origin;
+    QString reason; // as of loadThroughDecoder
+};
+
+/// The picture is scaled down as it comes in and never exists at its full size. goOn is asked with every piece of it
+/// too. For any thread.
+SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
+                       const DecoderLimits& limits = {}, const GoOn& goOn = {});
 
 } // namespace velara

@@ -2,6 +2,7 @@
 #pragma once
 #include "fileio/load/PictureLoader.h"
 #include "platform/CorePlatform.h"
+#include "platform/FilePreviews.h"
 #include "platform/desktop/DesktopWallpaper.h"
 #include "platform/desktop/QtFonts.h"
 #include "platform/desktop/QtScreen.h"
@@ -29,6 +30,7 @@ class QtPlatform : public CorePlatform {
     void clearClipboard() override;
 
     Fonts& fonts() override { return fonts_; }
+    Previews& previews() override { return previews_; }
     Screen& screen() override { return screen_; }
     Wallpaper& wallpaper() override { return wallpaper_; }
     Scanner& scanner() override { return scanner_; }
@@ -40,6 +42,7 @@ class QtPlatform : public CorePlatform {
     void offer(const QImage& picture);
 
     QtFonts fonts_;
+    FilePreviews previews_;
     QtScreen screen_{*this};
     DesktopWallpaper wallpaper_{*this};
     SaneScanner scanner_{findHelper("velara-scan")};

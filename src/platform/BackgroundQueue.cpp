@@ -1,0 +1,59 @@
+#include "platform/BackgroundQueue.h"
+
+namespace velara {
+
+struct BackgroundQueue::Task {
+    Work work;
+    Previews::Done done; // only the asking thread touches it
+    std::atomic<bool> wanted = true;
+};
+
+BackgroundQueue::~BackgroundQueue()
+{
+    {
+        const std::lock_guard guard(guard_);
+        ends_ = true;
+    }
+    changed_.notify_all();
+    if (thread_.joinable()) thread_.join();
+}
+
+Previews::Request BackgroundQueue::add(Work work, Previews::Done done)
+{
+    auto task = std::make_shared<Task>();
+    task->work = std::move(work);
+    task->done = std::move(done);
+    {
+        const std::lock_guard guard(guard_);
+        std::erase_if(tasks_, [](const auto& each) { return !each->wanted; });
+        tasks_.push_back(task);
+        if (!thread_.joinable()) thread_ = std::thread(&BackgroundQueue::run, this);
+    }
+    changed_.notify_all();
+    return {task.get(), [task](void*) {
+                task->wanted = false;
+                task->done = nullptr;
+            }};
+}
+
+void BackgroundQueue::run()
+{
+    for (;;) {
+        std::shared_ptr<Task> task;
+        {
+            std::unique_lock guard(guard_);
+            changed_.wait(guard, [this] { return ends_ || !tasks_.empty(); });
+            if (ends_) return;
+            task = std::move(tasks_.back());
+            tasks_.pop_back();
+        }
+        if (!task->wanted) continue;
+        const Preview preview = task->work([&](auto) { return task->wanted && !ends_; });
+        const auto tell = [task, preview] {
+            if (const Previews::Done done = task->done) done(preview); // which may let go of the request
+        };
+        QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
+    }
+}
+
+} // namespace velara

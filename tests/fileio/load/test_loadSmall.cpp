@@ -1,0 +1,77 @@
+// Pictures scaled down as they come in.
+#include "fileio/load/PictureLoader.h"
+#include "fileio/load/Shrinker.h"
+#include "support/pictures.h"
+#include "support/places.h"
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace velara {
+
+namespace {
+
+QImage shrunk(const Bits& bits, QSize box)
+{
+    Shrinker shrinker({bits.width(), bits.height()}, box);
+    for (int y = 0; y < bits.height(); ++y) shrinker.take(bits.row(y));
+    return shrinker.image();
+}
+
+} // namespace
+
+TEST(Shrinker, FitsTheBoxAndKeepsTheShape)
+{
+    struct {
+        QSize picture, box, wanted;
+    } const rows[] = {{{10, 7}, {100, 100}, {10, 7}},     {{400, 200}, {100, 100}, {100, 50}},
+                      {{201, 400}, {50, 100}, {50, 100}}, {{999, 3}, {50, 50}, {50, 1}},
+                      {{3, 999}, {50, 50}, {1, 50}},      {{40, 40}, {0, 0}, {1, 1}}};
+    for (const auto& row : rows)
+        EXPECT_EQ(shrunk(randomBits(row.picture.width(), row.picture.height(), 5), row.box).size(), row.wanted)
+            << row.picture.width() << 'x' << row.picture.height();
+}
+
+// Blocks are averaged in each channel, the ones cut off at the edges too.
+TEST(Shrinker, EachPixelIsTheMeanOfItsBlock)
+{
+    Bits bits(6, 4);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 6; ++x)
+            bits.at(x, y) = {{std::uint8_t(x * 40), std::uint8_t(y * 60), std::uint8_t(x / 2 * 100), 9}};
+    const QImage image = shrunk(bits, {3, 2});
+    ASSERT_EQ(image.size(), QSize(3, 2));
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x)
+            EXPECT_EQ(image.pixel(x, y), qRgb(x * 100, y * 120 + 30, x * 80 + 20)) << x << ',' << y;
+    EXPECT_EQ(
+        shrunk(randomBits(6, 4, 1), {9, 9}).pixel(5, 3),
+        qRgb(randomBits(6, 4, 1).at(5, 3).c[2], randomBits(6, 4, 1).at(5, 3).c[1], randomBits(6, 4, 1).at(5, 3).c[0]));
+    Bits white(65, 33);
+    for (int y = 0; y < 33; ++y)
+        for (int x = 0; x < 65; ++x) white.at(x, y) = {{255, 255, 255, 0}};
+    EXPECT_EQ(shrunk(white, {8, 8}).pixel(7, 3), 0xFFFFFFFFu);
+}
+
+TEST(LoadSmall, TellsTheSizeAndTheReason)
+{
+    const QString decoder = builtPath("velara-decode");
+    QTemporaryDir folder;
+    QFile file(folder.filePath("wide.ppm"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
+    file.close();
+    const SmallPicture small = loadSmall(file.fileName(), "PPM", decoder, {100, 100});
+    EXPECT_EQ(small.size, QSize(600, 300));
+    ASSERT_EQ(small.image.size(), QSize(100, 50)) << small.reason.toStdString();
+    EXPECT_EQ(small.image.pixel(99, 49), 0xFF808080u);
+    EXPECT_EQ(small.origin.modified, 0);
+    EXPECT_EQ(loadSmall(file.fileName(), "png", decoder, {100, 100}).reason,
+              "wide.ppm can't be read: it is damaged or not a PNG picture");
+    EXPECT_EQ(loadSmall(folder.filePath("no.png"), "png", decoder, {9, 9}).reason,
+              "no.png can't be read: there is no such file");
+    const SmallPicture left = loadSmall(file.fileName(), "ppm", decoder, {9, 9}, {}, [](auto) { return false; });
+    EXPECT_TRUE(left.image.isNull());
+    EXPECT_EQ(left.reason, "wide.ppm can't be read: reading it was given up");
+}
+
+} // namespace velara

@@ -1,0 +1,90 @@
+// The cache of thumbnails that the programs of a desktop share.
+#include "fileio/load/PictureLoader.h"
+#include "fileio/thumbnails/SharedThumbnail.h"
+#include "support/places.h"
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+namespace {
+
+struct SharedThumbnails : ::testing::Test {
+    QTemporaryDir folder;
+    const QString picture = folder.filePath("a b.png"), decoder = builtPath("velara-decode");
+    QByteArray before = qgetenv("XDG_CACHE_HOME");
+
+    void SetUp() override
+    {
+        qputenv("XDG_CACHE_HOME", folder.filePath("cache").toLocal8Bit());
+        touch(QDateTime::fromSecsSinceEpoch(1'700'000'000));
+    }
+    void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
+    void touch(const QDateTime& when) const
+    {
+        QFile file(picture);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        ASSERT_TRUE(file.setFileTime(when, QFile::FileModificationTime));
+    }
+    static QImage red()
+    {
+        QImage image(128, 64, QImage::Format_RGB32);
+        image.fill(0xFFCC2211);
+        return image;
+    }
+};
+
+} // namespace
+
+TEST_F(SharedThumbnails, NamesAreThoseOfTheDesktop)
+{
+    EXPECT_TRUE(SharedThumbnail("/home/jens/photos/me.png").failure().endsWith("c6ee772d9e49320e97ec29a7eb5b1697.png"));
+    EXPECT_EQ(fileUri("/a b/ä(1)[2]#;%'~.png"), "file:///a%20b/%C3%A4(1)%5B2%5D%23%3B%25'~.png");
+}
+
+// What is written is what the child reads back, with what it says of its picture.
+TEST_F(SharedThumbnails, AnEntryHoldsUntilThePictureChanges)
+{
+    EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());
+    SharedThumbnail(picture).write(red(), {4000, 2000});
+    const SharedThumbnail shared(picture);
+    ASSERT_EQ(shared.entries().size(), 1);
+    EXPECT_EQ(QFile::permissions(shared.entries()[0]) & 0x0077, 0) << "nobody else's affair";
+    const SmallPicture small = loadSmall(shared.entries()[0], "png", decoder, {128, 128});
+    EXPECT_EQ(small.image, red());
+    EXPECT_EQ(QSize(small.origin.width, small.origin.height), QSize(4000, 2000));
+    EXPECT_TRUE(shared.isMadeOf(small.origin));
+    touch(QDateTime::fromSecsSinceEpoch(1'700'000'001));
+    EXPECT_FALSE(SharedThumbnail(picture).isMadeOf(small.origin));
+    EXPECT_FALSE(shared.isMadeOf({})) << "an entry without a word";
+
+    SharedThumbnail(picture).writeFailure();
+    const SmallPicture failed = loadSmall(shared.failure(), "png", decoder, {128, 128});
+    EXPECT_EQ(failed.origin.modified, 1'700'000'001);
+}
+
+TEST_F(SharedThumbnails, NothingIsWrittenForFilesInTheMakingEntriesAndLockedCaches)
+{
+    touch(QDateTime::currentDateTime());
+    SharedThumbnail(picture).write(red(), {4000, 2000});
+    EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());
+    touch(QDateTime::fromSecsSinceEpoch(1'700'000'000));
+    QFile(folder.filePath("cache")).open(QFile::WriteOnly); // where the folder should be
+    SharedThumbnail(picture).write(red(), {4000, 2000});
+    EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());
+    QFile::remove(folder.filePath("cache"));
+    SharedThumbnail(picture).write(red(), {4000, 2000});
+    const QString entry = SharedThumbnail(picture).entries().value(0);
+    QFile(entry).open(QFile::ReadWrite);
+    QFile file(entry);
+    ASSERT_TRUE(file.open(QFile::ReadWrite));
+    file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000), QFile::FileModificationTime);
+    SharedThumbnail(entry).write(red(), {128, 64});
+    EXPECT_EQ(SharedThumbnail(entry).entries(), QStringList());
+    EXPECT_EQ(QDir(folder.filePath("cache/thumbnails/normal")).entryList(QDir::Files).size(), 1) << "no strays";
+}
+
+} // namespace velara

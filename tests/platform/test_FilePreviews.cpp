@@ -1,0 +1,116 @@
+// Previews of real files, read by the real helper in the background.
+#include "fileio/thumbnails/SharedThumbnail.h"
+#include "platform/FilePreviews.h"
+#include <QDateTime>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+namespace {
+
+struct FilePreviewsTest : ::testing::Test {
+    QTemporaryDir folder;
+    QByteArray before = qgetenv("XDG_CACHE_HOME");
+    FilePreviews previews;
+    std::vector<Preview> answers;
+    const Previews::Done keep = [this](const Preview& preview) { answers.push_back(preview); };
+
+    void SetUp() override { qputenv("XDG_CACHE_HOME", folder.filePath("cache").toLocal8Bit()); }
+    void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
+    QString file(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+        file.flush();
+        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000), QFile::FileModificationTime);
+        return file.fileName();
+    }
+    static QByteArray ppm(int side, char value)
+    {
+        return "P6\n" + QByteArray::number(side) + ' ' + QByteArray::number(side) + "\n255\n" +
+               QByteArray(qsizetype(side) * side * 3, value);
+    }
+    bool answered(std::size_t count) const
+    {
+        return QTest::qWaitFor([&] { return answers.size() >= count; }, 10000);
+    }
+};
+
+} // namespace
+
+TEST_F(FilePreviewsTest, AnswersComeLaterAndOnlyToWhoStillWaits)
+{
+    const QString grey = file("grey.PPM", ppm(300, '\x80')), broken = file("broken.png", "no picture");
+    auto left = previews.picture(grey, {50, 50}, keep);
+    left.reset();
+    const auto kept = previews.picture(grey, {100, 100}, keep);
+    EXPECT_TRUE(answers.empty());
+    ASSERT_TRUE(answered(1));
+    EXPECT_EQ(answers[0].image.size(), QSize(100, 100));
+    EXPECT_EQ(answers[0].size, QSize(300, 300));
+    const auto bad = previews.picture(broken, {100, 100}, keep);
+    ASSERT_TRUE(answered(2));
+    EXPECT_TRUE(answers[1].image.isNull());
+    EXPECT_EQ(answers[1].reason, "broken.png can't be read: it is damaged or not a PNG picture");
+    QTest::qWait(100);
+    EXPECT_EQ(answers.size(), 2u);
+}
+
+// A request may be let go of in its own answer, and with it the whole service while a reader is at work.
+TEST_F(FilePreviewsTest, EndsInTheMiddle)
+{
+    auto service = std::make_unique<FilePreviews>();
+    const QString grey = file("grey.ppm", ppm(3000, '\x80'));
+    Previews::Request one = service->picture(grey, {100, 100}, [&](const Preview& preview) {
+        one.reset();
+        keep(preview);
+    });
+    ASSERT_TRUE(answered(1));
+    std::vector<Previews::Request> many;
+    for (int i = 0; i < 20; ++i) many.push_back(service->picture(grey, {100, 100}, keep));
+    QElapsedTimer clock;
+    clock.start();
+    service.reset();
+    EXPECT_LT(clock.elapsed(), 1000);
+    QTest::qWait(50);
+    EXPECT_EQ(answers.size(), 1u);
+}
+
+TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
+{
+    const QString grey = file("grey.ppm", ppm(600, '\x80')), broken = file("broken.png", "no picture");
+    const auto first = previews.thumbnail(grey, keep);
+    ASSERT_TRUE(answered(1));
+    EXPECT_EQ(answers[0].image.size(), QSize(128, 128));
+    ASSERT_EQ(SharedThumbnail(grey).entries().size(), 1);
+
+    // Another program's entry, where it is of the picture as it is now
+    QImage blue(128, 128, QImage::Format_RGB32);
+    blue.fill(Qt::blue);
+    SharedThumbnail(grey).write(blue, {600, 600});
+    const auto second = previews.thumbnail(grey, keep);
+    ASSERT_TRUE(answered(2));
+    EXPECT_EQ(answers[1].image, blue);
+    EXPECT_EQ(answers[1].size, QSize(600, 600));
+    QFile changed(grey);
+    ASSERT_TRUE(changed.open(QFile::ReadWrite));
+    changed.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'007), QFile::FileModificationTime);
+    const auto third = previews.thumbnail(grey, keep);
+    ASSERT_TRUE(answered(3));
+    EXPECT_EQ(answers[2].image.pixel(0, 0), 0xFF808080u);
+
+    // What can't be read is remembered as such, until it changes
+    for (int i = 0; i < 2; ++i) {
+        const auto bad = previews.thumbnail(broken, keep);
+        ASSERT_TRUE(answered(std::size_t(4 + i)));
+        EXPECT_TRUE(answers.back().image.isNull());
+        EXPECT_TRUE(QFile::exists(SharedThumbnail(broken).failure()));
+    }
+    EXPECT_EQ(answers[4].reason, "broken.png can't be read") << "out of the cache";
+}
+
+} // namespace velara
