@@ -11,13 +11,13 @@
 namespace velara::bench {
 namespace {
 
-class Machine : public WindowlessPlatform {
+class HomePlatform : public WindowlessPlatform {
     void message(const QString&, const QString& text, Icon) override { throw std::runtime_error(text.toStdString()); }
 };
 
-Machine& machine()
+HomePlatform& machine()
 {
-    static Machine machine;
+    static HomePlatform machine;
     return machine;
 }
 

@@ -84,12 +84,10 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
     setup = LoadSetup(platform);
     auto frame = std::make_unique<fMain>(platform, setup);
     setup.CurrentTool.clear();
-    if (platform.previousInstance())
-        platform.message("Velara Studio", "Velara Studio is already running!", Icon::Information);
+    if (platform.previousInstance()) platform.tell("Velara Studio is already running!");
     placeFrame(*frame, setup);
     if (!makeFolders(platform))
-        platform.message(
-            "Velara Studio",
+        platform.tell(
             "The folder \"" + platform.programFolder() +
                 "\" can't be written to.\nChanges of pictures can't be undone, and settings will not be kept.",
             Icon::Exclamation);

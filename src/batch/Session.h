@@ -3,7 +3,7 @@
 #include "batch/Failure.h"
 #include "commands/jobs.h"
 #include "document/Document.h"
-#include "seams/Platform.h"
+#include "seams/Machine.h"
 #include <QTemporaryDir>
 #include <optional>
 
@@ -14,7 +14,7 @@ enum class GoesBack { Never, WhenRepeated, Always };
 
 class Session {
   public:
-    explicit Session(Platform& platform) : platform_(platform) {}
+    explicit Session(Machine& machine) : machine_(machine) {}
 
     /// Takes the picture; with keepSteps every change is kept in a private folder so that it can be undone.
     void open(const Bits& bits, bool keepSteps);
@@ -38,13 +38,13 @@ class Session {
     void setProgress(std::function<void(int)> progress)
     {
         filter_.Progress = std::move(progress);
-        filter_.clock = [this] { return platform_.milliseconds(); };
+        filter_.clock = [this] { return machine_.milliseconds(); };
     }
 
   private:
     void checkSteps();
 
-    Platform& platform_;
+    Machine& machine_;
     cBitFilter filter_;
     std::optional<QTemporaryDir> folder_; // of the undo series
     std::optional<Document> document_;

@@ -1,5 +1,6 @@
 #include "document/cDIBSection.h"
 #include "pixels/numbers.h"
+#include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include <QRect>
 #include <algorithm>
@@ -98,9 +99,9 @@ Bits cDIBSection::toBits() const
     return bits;
 }
 
-void cDIBSection::RandomiseBits(Platform& platform, bool grey)
+void cDIBSection::RandomiseBits(Machine& machine, bool grey)
 {
-    const auto value = [&] { return static_cast<std::uint8_t>(platform.random() * 256); };
+    const auto value = [&] { return static_cast<std::uint8_t>(machine.random() * 256); };
     for (int y = 0; y < height_; ++y) {
         std::uint8_t* pixel = row(y);
         for (int x = 0; x < width_; ++x, pixel += 3) {
@@ -137,9 +138,8 @@ std::optional<cDIBSection> cDIBSection::Resample(int newHeight, int newWidth) co
 
 bool cDIBSection::CopyToClipboard(Platform& platform, bool asDib) const
 {
-    if (!asDib) return !bytes_.empty() && platform.setClipboardBitmap(toBits());
-    platform.message("Velara Studio", "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!",
-                     Icon::Exclamation);
+    if (!asDib) return !bytes_.empty() && platform.clipboard().setBitmap(toBits());
+    platform.tell("I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!", Icon::Exclamation);
     return false;
 }
 

@@ -8,6 +8,7 @@
 
 namespace velara {
 
+class Machine;
 class Platform;
 
 class cDIBSection {
@@ -37,7 +38,7 @@ class cDIBSection {
     Bits toBits() const;
 
     /// Random pixels: one value for all three channels, or blue 0 with green and red of their own.
-    void RandomiseBits(Platform& platform, bool grey);
+    void RandomiseBits(Machine& machine, bool grey);
     /// Bilinear, corner pixel to corner pixel; the same size is a copy. Nothing when empty or for a size below 1;
     /// DivisionByZero when one side shall become 1.
     std::optional<cDIBSection> Resample(int newHeight, int newWidth) const;

@@ -250,9 +250,8 @@ Setup LoadSetup(Platform& platform)
     const QString path = setupPath(platform);
     bool needDefaults = !FileFound(path);
     if (!needDefaults && path.isEmpty()) { // odd, and it stays: the path is looked at and not the file, so never
-        platform.message(QStringLiteral("Velara Studio"),
-                         QStringLiteral("Configuration data file is corrupted\r\nValues will be initilized"),
-                         Icon::Exclamation);
+        platform.tell(QStringLiteral("Configuration data file is corrupted\r\nValues will be initilized"),
+                      Icon::Exclamation);
         QFile::remove(path);
         needDefaults = true;
     }

@@ -5,7 +5,7 @@
 #include "fileio/PCX.h"
 #include "fileio/formats.h"
 #include "reduce/bestColours.h"
-#include "seams/Platform.h"
+#include "seams/Dialogs.h"
 #include <FreeImage.h>
 #include <algorithm>
 #include <iterator>
@@ -16,7 +16,7 @@ namespace velara {
 namespace {
 
 struct Job {
-    Platform& platform;
+    Dialogs& dialogs;
     const Bits& bits;
     QString fileName;
 };
@@ -39,8 +39,8 @@ bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool k
 template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveResult byFreeImage(const Job& job)
 {
     if (saveByFreeImage(job, format, flags, keepsRemains)) return SaveResult::Written;
-    job.platform.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
-                         Icon::Critical);
+    job.dialogs.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
+                        Icon::Critical);
     return SaveResult::FailedAndTold;
 }
 
@@ -52,13 +52,12 @@ SaveResult saveAnymap(const Job& job)
     Job real = job;
     real.fileName += "ppm";
     if (!saveByFreeImage(real, FIF_PPMRAW, 0, false)) return SaveResult::Failed;
-    job.platform.message(
-        "Collection of ASCII based bitmap",
-        "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the "
-        "bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth "
-        "of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you "
-        "requested is saved as 24-bit True Color (.ppm) format.",
-        Icon::Information);
+    job.dialogs.message("Collection of ASCII based bitmap",
+                        "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the "
+                        "bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth "
+                        "of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you "
+                        "requested is saved as 24-bit True Color (.ppm) format.",
+                        Icon::Information);
     return SaveResult::Written;
 }
 
@@ -68,7 +67,7 @@ SaveResult savePcx(const Job& job) { return resultOf(PCX().SavePCXinFile(job.fil
 
 SaveResult refuseIcon(const Job& job)
 {
-    job.platform.message("Velara Studio", "This facility is currently turned Off!", Icon::Information);
+    job.dialogs.tell("This facility is currently turned Off!");
     return SaveResult::Refused;
 }
 
@@ -102,11 +101,11 @@ static_assert(std::ranges::all_of(kFormats, [](const Format& f) {
 
 } // namespace
 
-SaveResult savePicture(Platform& platform, const Bits& bits, const QString& FileName, const QString& Ext)
+SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext)
 try {
     if (bits.isNull()) return SaveResult::NotWritten;
     const Writer* writer = writerOf(Ext.toLower().toStdString());
-    return writer ? writer->save({platform, bits, FileName}) : SaveResult::NotWritten;
+    return writer ? writer->save({dialogs, bits, FileName}) : SaveResult::NotWritten;
 } catch (const std::bad_alloc&) {
     return SaveResult::Failed;
 }

@@ -5,7 +5,7 @@
 
 namespace velara {
 
-class Platform;
+class Dialogs;
 
 enum class SaveResult {
     Written,
@@ -16,8 +16,8 @@ enum class SaveResult {
 };
 
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
-/// added. Notices and failures are shown through platform: a failed png, jpg, bmp, tif or tga, the depth of a portable
+/// added. Notices and failures are shown by dialogs: a failed png, jpg, bmp, tif or tga, the depth of a portable
 /// anymap, and that icons are not written. Every writer gets 24 bits a pixel, without the margin.
-SaveResult savePicture(Platform& platform, const Bits& bits, const QString& FileName, const QString& Ext);
+SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext);
 
 } // namespace velara

@@ -1,5 +1,6 @@
 // The services of the desktop where there is none: nothing to be seen, nothing to be changed, no device.
 #pragma once
+#include "seams/Clipboard.h"
 #include "seams/Previews.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
@@ -11,6 +12,15 @@ class NoPreviews final : public Previews {
   public:
     Request picture(const QString&, QSize, Done) override { return {}; }
     Request thumbnail(const QString&, Done) override { return {}; }
+};
+
+class NoClipboard final : public Clipboard {
+  public:
+    bool hasBitmap() override { return false; }
+    LoadedPicture bitmap() override { return {}; }
+    bool setBitmap(const Bits&) override { return false; }
+    bool setPart(const Bits&) override { return false; }
+    void clear() override {}
 };
 
 class NoScreen final : public Screen {

@@ -15,11 +15,7 @@ class WindowlessPlatform : public CorePlatform {
     std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
     std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }
     QString compactPath(const QString& path, int) override { return path; }
-    bool clipboardHasBitmap() override { return false; }
-    LoadedPicture clipboardBitmap() override { return {}; }
-    bool setClipboardBitmap(const Bits&) override { return false; }
-    bool setClipboardPart(const Bits&) override { return false; }
-    void clearClipboard() override {}
+    Clipboard& clipboard() override { return clipboard_; }
     Fonts& fonts() override { return fonts_; }
     Previews& previews() override { return previews_; }
     Screen& screen() override { return screen_; }
@@ -27,6 +23,7 @@ class WindowlessPlatform : public CorePlatform {
     Scanner& scanner() override { return scanner_; }
 
   private:
+    NoClipboard clipboard_;
     NoFonts fonts_;
     NoPreviews previews_;
     NoScreen screen_;

@@ -6,13 +6,13 @@ namespace velara {
 
 namespace {
 
-QDir stampFolder(Platform& platform) { return QDir(platform.programFolder() + QStringLiteral("/Stamps")); }
+QDir stampFolder(Machine& machine) { return QDir(machine.programFolder() + QStringLiteral("/Stamps")); }
 
 } // namespace
 
-std::optional<QStringList> stampFiles(Platform& platform)
+std::optional<QStringList> stampFiles(Machine& machine)
 {
-    const QDir folder = stampFolder(platform);
+    const QDir folder = stampFolder(machine);
     if (!folder.exists()) return std::nullopt;
     return folder.entryList({QStringLiteral("*.bmp")}, QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
 }

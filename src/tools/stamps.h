@@ -6,10 +6,11 @@
 
 namespace velara {
 
+class Machine;
 class Platform;
 
 /// The names of the "*.bmp" files, by name without regard to case; nothing when the folder is missing.
-std::optional<QStringList> stampFiles(Platform& platform);
+std::optional<QStringList> stampFiles(Machine& machine);
 /// The picture of one of them; empty when it can't be read.
 Bits loadStamp(Platform& platform, const QString& fileName);
 

@@ -89,9 +89,9 @@ TEST(cDIBSection, GoesToTheClipboardAsABitmapOnly)
     EXPECT_FALSE(sectionOf(bits).CopyToClipboard(platform, true));
     EXPECT_EQ(platform.log, std::vector<std::string>{"message: Velara Studio: I don't know how to put a DIB on the "
                                                      "clipboard! Copy as bitmap instead!!!"});
-    EXPECT_TRUE(platform.clipboard.isNull());
+    EXPECT_TRUE(platform.recordingClipboard.bits.isNull());
     EXPECT_TRUE(sectionOf(bits).CopyToClipboard(platform, false));
-    EXPECT_TRUE(sameBits(bits, platform.clipboard));
+    EXPECT_TRUE(sameBits(bits, platform.recordingClipboard.bits));
     EXPECT_FALSE(cDIBSection().CopyToClipboard(platform, false));
 }
 

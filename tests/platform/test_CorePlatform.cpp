@@ -13,7 +13,7 @@ namespace velara {
 namespace {
 
 /// The rest of Platform, which doesn't matter here.
-class Machine : public WindowlessPlatform {
+class HomePlatform : public WindowlessPlatform {
     void message(const QString&, const QString&, Icon) override {}
 };
 
@@ -30,7 +30,7 @@ TEST(CorePlatform, ProgramFolderIsWhereFilesCanBeMade)
     qputenv("HOME", QFile::encodeName(home.path()));
     for (const char* bad : {"", "relative"}) // no place to rely on
         EXPECT_EQ(chooseProgramFolder("/usr/bin", bad), home.path() + "/.local/share/velara-studio");
-    EXPECT_EQ(Machine().programFolder() + "/", builtPath(""));
+    EXPECT_EQ(HomePlatform().programFolder() + "/", builtPath(""));
 }
 
 TEST(CorePlatform, KeepsSettingsAcrossRuns)
@@ -38,17 +38,17 @@ TEST(CorePlatform, KeepsSettingsAcrossRuns)
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
     qputenv("HOME", QFile::encodeName(home.path()));
-    Machine().setSetting("Options", "RunOnce", "Ja, \"1\"; ü");
-    EXPECT_EQ(Machine().setting("Options", "RunOnce", "no"), "Ja, \"1\"; ü");
-    EXPECT_EQ(Machine().setting("Other", "RunOnce", "no"), "no");
+    HomePlatform().setSetting("Options", "RunOnce", "Ja, \"1\"; ü");
+    EXPECT_EQ(HomePlatform().setting("Options", "RunOnce", "no"), "Ja, \"1\"; ü");
+    EXPECT_EQ(HomePlatform().setting("Other", "RunOnce", "no"), "no");
 }
 
 TEST(CorePlatform, KnowsAnEarlierInstance)
 {
     qputenv("XDG_SESSION_ID", "velara-test-" + QByteArray::number(getpid()));
-    Machine second;
+    HomePlatform second;
     {
-        Machine first;
+        HomePlatform first;
         EXPECT_FALSE(first.previousInstance());
         EXPECT_FALSE(first.previousInstance()); // it is no one's predecessor
         EXPECT_TRUE(second.previousInstance());
@@ -58,7 +58,7 @@ TEST(CorePlatform, KnowsAnEarlierInstance)
 
 TEST(CorePlatform, ClockAndChance)
 {
-    Machine machine;
+    HomePlatform machine;
     const std::uint32_t before = machine.milliseconds();
     std::this_thread::sleep_for(std::chrono::milliseconds(30));
     const std::uint32_t passed = machine.milliseconds() - before;
@@ -74,7 +74,7 @@ TEST(CorePlatform, ClockAndChance)
     EXPECT_GE(least, 0);
     EXPECT_LT(most, 1);
     EXPECT_NEAR(sum / 10000, 0.5, 0.03);
-    EXPECT_NE(machine.random(), Machine().random());
+    EXPECT_NE(machine.random(), HomePlatform().random());
 }
 
 TEST(CorePlatform, LoadsThroughTheHelperBesideTheProgram)
@@ -84,7 +84,7 @@ TEST(CorePlatform, LoadsThroughTheHelperBesideTheProgram)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("P6\n1 1\n255\n\1\2\3");
     file.close();
-    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), Machine().loadPicture(file.fileName(), "PPM").bits));
+    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), HomePlatform().loadPicture(file.fileName(), "PPM").bits));
 }
 
 } // namespace velara

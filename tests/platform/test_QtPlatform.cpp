@@ -145,9 +145,9 @@ TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
 {
     QtPlatform platform;
     const Bits bits = randomBits(7, 5, 9);
-    ASSERT_TRUE(platform.setClipboardBitmap(bits));
-    ASSERT_TRUE(platform.clipboardHasBitmap());
-    const Bits back = platform.clipboardBitmap().bits;
+    ASSERT_TRUE(platform.clipboard().setBitmap(bits));
+    ASSERT_TRUE(platform.clipboard().hasBitmap());
+    const Bits back = platform.clipboard().bitmap().bits;
     ASSERT_EQ(back.width(), 7);
     ASSERT_EQ(back.height(), 5);
     for (int y = 0; y < 5; ++y)
@@ -155,10 +155,10 @@ TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
             for (int c = 0; c < 3; ++c) ASSERT_EQ(back.at(x, y).c[c], bits.at(x, y).c[c]);
             ASSERT_EQ(back.at(x, y).c[3], 0);
         }
-    platform.clearClipboard();
-    EXPECT_FALSE(platform.clipboardHasBitmap());
-    EXPECT_FALSE(platform.clipboardBitmap().ok());
-    EXPECT_FALSE(platform.setClipboardBitmap({}));
+    platform.clipboard().clear();
+    EXPECT_FALSE(platform.clipboard().hasBitmap());
+    EXPECT_FALSE(platform.clipboard().bitmap().ok());
+    EXPECT_FALSE(platform.clipboard().setBitmap({}));
 }
 
 TEST(QtPlatform, AShortenedPathKeepsItsFileName)

@@ -1,6 +1,7 @@
 // The desktop of tests: writes down what is asked of it and answers with what the test has laid out, at once or when
 // the test says so.
 #pragma once
+#include "seams/Clipboard.h"
 #include "seams/Previews.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
@@ -38,6 +39,29 @@ class RecordingPreviews final : public Previews {
         return request;
     }
     std::map<QString, std::weak_ptr<Done>> waiting_;
+};
+
+class RecordingClipboard final : public Clipboard {
+  public:
+    Bits bits;
+    QString fault; // why it can't be read
+
+    explicit RecordingClipboard(std::vector<std::string>& log) : log_(log) {}
+    bool hasBitmap() override { return !bits.isNull() || !fault.isEmpty(); }
+    LoadedPicture bitmap() override { return {bits, fault}; }
+    bool setBitmap(const Bits& picture) override { return put("clipboard: set", picture); }
+    bool setPart(const Bits& part) override { return put("clipboard: part", part); }
+    void clear() override { put("clipboard: clear", {}); }
+
+  private:
+    bool put(const char* line, const Bits& picture)
+    {
+        log_.emplace_back(line);
+        bits = picture;
+        return true;
+    }
+
+    std::vector<std::string>& log_;
 };
 
 class RecordingScreen final : public Screen {

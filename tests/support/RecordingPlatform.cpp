@@ -83,24 +83,4 @@ LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&
     return {bits, {}};
 }
 
-bool RecordingPlatform::setClipboardBitmap(const Bits& bits)
-{
-    log.emplace_back("clipboard: set");
-    clipboard = bits;
-    return true;
-}
-
-bool RecordingPlatform::setClipboardPart(const Bits& part)
-{
-    log.emplace_back("clipboard: part");
-    clipboard = part;
-    return true;
-}
-
-void RecordingPlatform::clearClipboard()
-{
-    log.emplace_back("clipboard: clear");
-    clipboard = {};
-}
-
 } // namespace velara

@@ -27,11 +27,10 @@ class RecordingPlatform : public Platform {
     bool previous = false;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
-    Bits clipboard;
-    QString clipboardFault;              // why it can't be read
     std::map<QString, QString> settings; // "section/key"
     QTemporaryDir folder;                // the program folder
     RecordingFonts recordingFonts;
+    RecordingClipboard recordingClipboard{log};
 
     bool logged(const std::string& line) const;
 
@@ -50,11 +49,7 @@ class RecordingPlatform : public Platform {
     QString compactPath(const QString& path, int pixels) override;
     /// Reads in this process, by what Qt reads.
     LoadedPicture loadPicture(const QString& path, const QString& extension) override;
-    bool clipboardHasBitmap() override { return !clipboard.isNull() || !clipboardFault.isEmpty(); }
-    LoadedPicture clipboardBitmap() override { return {clipboard, clipboardFault}; }
-    bool setClipboardBitmap(const Bits& bits) override;
-    bool setClipboardPart(const Bits& part) override;
-    void clearClipboard() override;
+    RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }
     RecordingPreviews& previews() override { return previews_; }
     RecordingScreen& screen() override { return screen_; }

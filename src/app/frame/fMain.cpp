@@ -16,7 +16,7 @@ namespace velara {
 fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(setup)
 {
     setObjectName("fMain");
-    setWindowTitle("Velara Studio");
+    setWindowTitle(kProgramName);
     setWindowIcon(QIcon(":/velara.svg"));
     setMinimumSize(320, 240);
     setAcceptDrops(true);

@@ -5,6 +5,7 @@
 #include "app/menus/fIcons.h"
 #include "fileio/SetupStore.h"
 #include "fileio/formats.h"
+#include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -17,8 +18,6 @@
 namespace velara {
 
 namespace {
-
-const QString kTitle = QStringLiteral("Velara Studio");
 
 /// What follows the last separator, right-trimmed.
 QString FileNameOf(const QString& path)
@@ -85,7 +84,7 @@ void fMain::applyOpenOptions()
     if (setup_.OpenZoom > 1) setZoom(setup_.OpenZoom);
 }
 
-void fMain::showLoadError() { platform_.message(kTitle, "Unexpected error loading image", Icon::Exclamation); }
+void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
 
 /// False when the file can't be loaded, after which there is no document.
 bool fMain::openPath(const QString& path)
@@ -189,7 +188,7 @@ void fMain::saveTo(fImage& image, const QString& name)
     }
     if (result != SaveResult::Written) { // the document stays as it was, unsaved
         const bool told = result == SaveResult::FailedAndTold || result == SaveResult::Refused;
-        if (!told) platform_.message(kTitle, "Unexpected error saving image", Icon::Exclamation);
+        if (!told) platform_.tell("Unexpected error saving image", Icon::Exclamation);
         return;
     }
     if (!watched) return; // closed while a notice of the save stood open
@@ -210,7 +209,7 @@ void fMain::copyToNew()
     auto image = std::make_unique<fImage>(*this);
     GetActiveImage()->BitsCopyToClipboard();
     image->PasteFromClipboard();
-    platform_.clearClipboard();
+    platform_.clipboard().clear();
     if (!from || !image->PictureExists()) return;
     const Region selection = from->Region.Region();
     const DocumentHandle copy = adopt(std::move(image), from->Tag, Arrival::Made);

@@ -14,7 +14,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
 {
     setObjectName("fSplash");
     setWindowTitle("About Velara Studio");
-    setAccessibleName("Velara Studio");
+    setAccessibleName(kProgramName);
     QImage picture = splashPicture();
     const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
     QByteArray bytes;

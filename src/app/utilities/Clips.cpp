@@ -1,6 +1,7 @@
 #include "app/utilities/Clips.h"
 #include "app/frame/fMain.h"
 #include "commands/jobs.h"
+#include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "tools/Tools.h"
 
@@ -15,7 +16,7 @@ void Clips::cut()
     frame_.platform().yield();
     const Bits part = document ? box_->CutBits(*document) : Bits();
     if (part.isNull()) return;
-    frame_.platform().setClipboardPart(part);
+    frame_.platform().clipboard().setPart(part);
     frame_.report("CUT", frame_.change(document, engineJob([](cBitFilter& filter) { filter.BitsBlack(); })));
 }
 
@@ -25,7 +26,7 @@ void Clips::copy()
     frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
     frame_.platform().yield();
     const Bits part = document ? box_->CopyBits(*document) : Bits();
-    if (!part.isNull()) frame_.platform().setClipboardPart(part);
+    if (!part.isNull()) frame_.platform().clipboard().setPart(part);
 }
 
 void Clips::paste()
@@ -35,7 +36,7 @@ void Clips::paste()
     ToolStores& stores = frame_.toolStores();
     QString reason;
     if (box_->isEmpty()) {
-        const LoadedPicture picture = frame_.platform().clipboardBitmap();
+        const LoadedPicture picture = frame_.platform().clipboard().bitmap();
         stores.paste = picture.bits;
         reason = picture.reason;
     }

@@ -10,8 +10,6 @@ namespace velara {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Velara Studio");
-
 } // namespace
 
 void setAsWallpaper(fMain& frame, WallpaperMode mode)
@@ -21,10 +19,8 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode)
     const QPointer<fImage> image = frame.GetActiveImage();
     if (!image->PictureExists() || image->Save(path, "bmp") != SaveResult::Written) return; // the save has told of it
     platform.wallpaper().set(path, mode, [&platform](WallpaperResult result) {
-        if (result == WallpaperResult::CantRead)
-            platform.message(kTitle, "Error getting subkey value.", Icon::Exclamation);
-        if (result == WallpaperResult::CantWrite)
-            platform.message(kTitle, "Error Setting subkey value.", Icon::Exclamation);
+        if (result == WallpaperResult::CantRead) platform.tell("Error getting subkey value.", Icon::Exclamation);
+        if (result == WallpaperResult::CantWrite) platform.tell("Error Setting subkey value.", Icon::Exclamation);
     });
 }
 

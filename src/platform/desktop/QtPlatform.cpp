@@ -1,15 +1,11 @@
 #include "platform/desktop/QtPlatform.h"
 #include "platform/desktop/ReadingBox.h"
-#include "platform/desktop/clipboard/ClipboardOffer.h"
 #include "platform/nameFilters.h"
 #include <QApplication>
-#include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPointer>
-#include <algorithm>
 
 namespace velara {
 
@@ -82,12 +78,6 @@ class SaveDialog final : public QFileDialog {
     std::function<QString(const QString&)> writtenAs_;
 };
 
-/// Blue, green and red as they are, the fourth byte given.
-void copyRow(quint32* to, const quint32* from, int count, quint32 fourth)
-{
-    for (int i = 0; i < count; ++i) to[i] = (from[i] & 0x00FFFFFFu) | fourth;
-}
-
 } // namespace
 
 GoOn QtPlatform::whileReading(const QString& name)
@@ -155,101 +145,5 @@ QString QtPlatform::compactPath(const QString& path, int pixels)
     if (left <= 0) return metrics.elidedText(path, Qt::ElideMiddle, pixels);
     return metrics.elidedText(path.chopped(name.size()), Qt::ElideRight, left) + name;
 }
-
-namespace {
-
-struct ClipboardType {
-    const char* mime;
-    const char* extension; // of the reader
-};
-
-// clang-format off
-constexpr ClipboardType kClipboardTypes[] = { // the exact ones first
-    {"image/png",      "png"},
-    {"image/bmp",      "bmp"},
-    {"image/x-bmp",    "bmp"},
-    {"image/x-MS-bmp", "bmp"},
-    {"image/tiff",     "tif"},
-    {"image/x-tga",    "tga"},
-    {"image/x-portable-pixmap", "ppm"},
-    {"image/gif",      "gif"},
-    {"image/x-icon",   "ico"},
-    {"image/jpeg",     "jpg"},
-};
-// clang-format on
-
-Bits bitsOf(const QImage& picture)
-{
-    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
-    Bits bits(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y)
-        copyRow(reinterpret_cast<quint32*>(bits.row(y)), reinterpret_cast<const quint32*>(image.constScanLine(y)),
-                image.width(), 0);
-    return bits;
-}
-
-} // namespace
-
-bool QtPlatform::clipboardHasBitmap()
-{
-    if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_) return true;
-    const QStringList offered = clipboardOffer()->types();
-    return std::any_of(std::begin(kClipboardTypes), std::end(kClipboardTypes),
-                       [&](const ClipboardType& type) { return offered.contains(QLatin1String(type.mime)); });
-}
-
-LoadedPicture QtPlatform::clipboardBitmap()
-{
-    if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_)
-        return {bitsOf(qvariant_cast<QImage>(ours_->imageData())), {}};
-    const auto offer = clipboardOffer();
-    const QStringList offered = offer->types();
-    LoadedPicture picture;
-    for (const ClipboardType& type : kClipboardTypes) {
-        if (!offered.contains(QLatin1String(type.mime))) continue;
-        const auto bytes = offer->bytes(type.mime);
-        picture =
-            bytes ? decodeBytes(*bytes, QStringLiteral("The picture on the clipboard"), type.extension)
-                  : LoadedPicture{
-                        {}, QStringLiteral("The program that put the picture on the clipboard doesn't hand it over.")};
-        if (picture.ok()) break;
-    }
-    return picture;
-}
-
-void QtPlatform::offer(const QImage& picture)
-{
-    auto* data = new QMimeData;
-    data->setImageData(picture);
-    QGuiApplication::clipboard()->setMimeData(data);
-    ours_ = data;
-}
-
-bool QtPlatform::setClipboardBitmap(const Bits& bits)
-{
-    QImage image(bits.width(), bits.height(), QImage::Format_RGB32);
-    if (image.isNull()) return false;
-    for (int y = 0; y < image.height(); ++y)
-        copyRow(reinterpret_cast<quint32*>(image.scanLine(y)), reinterpret_cast<const quint32*>(bits.row(y)),
-                image.width(), 0xFF000000u);
-    offer(image);
-    return true;
-}
-
-bool QtPlatform::setClipboardPart(const Bits& part)
-{
-    QImage image(part.width(), part.height(), QImage::Format_ARGB32);
-    if (image.isNull()) return false;
-    for (int y = 0; y < image.height(); ++y) {
-        const Pixel* from = part.row(y);
-        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            to[x] = from[x].c[3] == 255 ? 0 : qRgb(from[x].c[2], from[x].c[1], from[x].c[0]);
-    }
-    offer(image);
-    return true;
-}
-
-void QtPlatform::clearClipboard() { QGuiApplication::clipboard()->clear(); }
 
 } // namespace velara

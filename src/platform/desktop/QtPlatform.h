@@ -7,8 +7,7 @@
 #include "platform/desktop/QtFonts.h"
 #include "platform/desktop/QtScreen.h"
 #include "platform/desktop/SaneScanner.h"
-#include <QMimeData>
-#include <QPointer>
+#include "platform/desktop/clipboard/QtClipboard.h"
 
 namespace velara {
 
@@ -23,12 +22,7 @@ class QtPlatform : public CorePlatform {
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int pixels) override;
 
-    bool clipboardHasBitmap() override;
-    LoadedPicture clipboardBitmap() override;
-    bool setClipboardBitmap(const Bits& bits) override;
-    bool setClipboardPart(const Bits& part) override;
-    void clearClipboard() override;
-
+    Clipboard& clipboard() override { return clipboard_; }
     Fonts& fonts() override { return fonts_; }
     Previews& previews() override { return previews_; }
     Screen& screen() override { return screen_; }
@@ -39,14 +33,12 @@ class QtPlatform : public CorePlatform {
     GoOn whileReading(const QString& name) override;
 
   private:
-    void offer(const QImage& picture);
-
+    QtClipboard clipboard_{[this](const auto&... what) { return decodeBytes(what...); }};
     QtFonts fonts_;
     FilePreviews previews_;
     QtScreen screen_{*this};
     DesktopWallpaper wallpaper_{*this};
     SaneScanner scanner_{findHelper("velara-scan")};
-    QPointer<QMimeData> ours_; // what this program last put on the clipboard, while it is there
 };
 
 } // namespace velara

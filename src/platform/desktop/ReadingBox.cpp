@@ -1,4 +1,5 @@
 #include "platform/desktop/ReadingBox.h"
+#include "seams/Dialogs.h"
 #include <QCoreApplication>
 
 namespace velara {
@@ -11,7 +12,7 @@ bool ReadingBox::goOn(std::chrono::milliseconds waited)
         shown_ = true;
         box_ = new QProgressDialog(QObject::tr("Reading %1 ...").arg(name_), QObject::tr("Cancel"), 0, 0, parent_);
         box_->setObjectName("readingBox");
-        box_->setWindowTitle("Velara Studio");
+        box_->setWindowTitle(kProgramName);
         box_->setWindowModality(Qt::ApplicationModal);
         box_->setMinimumDuration(0);
         box_->show();

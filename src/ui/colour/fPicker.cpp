@@ -134,8 +134,7 @@ bool fPicker::leaveBox(std::size_t index)
     }
     refusing_ = true;
     const QPointer<fPicker> alive = this;
-    platform_.message(QStringLiteral("Velara Studio"),
-                      QStringLiteral("Enter an Integer Value Between 0 and %1").arg(box.most), Icon::Information);
+    platform_.tell(QStringLiteral("Enter an Integer Value Between 0 and %1").arg(box.most));
     if (!alive) return false;
     refusing_ = false;
     box.edit->setFocus();

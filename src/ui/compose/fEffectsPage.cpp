@@ -229,17 +229,14 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     Platform& platform = frame_.platform();
     const QPointer<fEffectsPage> alive = this;
     const DocumentHandle document = frame_.active();
-    if (!document)
-        return platform.message(QStringLiteral("Velara Studio"), tr("There is no picture open."), Icon::Information);
+    if (!document) return platform.tell(tr("There is no picture open."));
     Bits texture;
     if (FromFile) {
         if (!ListFile_->currentItem()) return;
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
         const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
         if (!picture.ok())
-            return platform.message(QStringLiteral("Velara Studio"),
-                                    tr("%1 can't be used as a texture: %2").arg(path, picture.reason),
-                                    Icon::Exclamation);
+            return platform.tell(tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
         texture = picture.bits;
     }
     running_ = true;

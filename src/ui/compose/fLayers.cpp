@@ -279,8 +279,7 @@ bool fLayers::apply()
 void fLayers::sendTo(const QString& word)
 {
     if (!document_ || frame_.active() != document_)
-        return frame_.platform().message(QStringLiteral("Velara Studio"), tr("Bring this picture to the front first."),
-                                         Icon::Information);
+        return frame_.platform().tell(tr("Bring this picture to the front first."));
     const QPointer<fLayers> alive = this;
     Frame& frame = frame_;
     if (!apply()) return;

@@ -207,8 +207,7 @@ void fTextPage::UpdateText()
     if (layOut()) {
         told_ = false;
     } else if (!std::exchange(told_, true)) {
-        frame_.platform().message(QStringLiteral("Velara Studio"),
-                                  QStringLiteral("Unable to find suitable font size for text"), Icon::None);
+        frame_.platform().tell(QStringLiteral("Unable to find suitable font size for text"), Icon::None);
     }
 }
 

@@ -8,7 +8,7 @@ bool fillFonts(QComboBox& list, Platform& platform)
 {
     const auto families = platform.fonts().list();
     if (!families) {
-        platform.message(QStringLiteral("Velara Studio"), QStringLiteral("Failed to get font info"), Icon::Exclamation);
+        platform.tell(QStringLiteral("Failed to get font info"), Icon::Exclamation);
         return false;
     }
     list.clear();

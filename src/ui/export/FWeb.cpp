@@ -105,9 +105,7 @@ void FWeb::qualityChosen(int quality)
 
 void FWeb::customQuality()
 {
-    if (TxtJPG_->text().isEmpty())
-        return platform_.message(QStringLiteral("Velara Studio"), QStringLiteral("Enter value between 1 to 99 !"),
-                                 Icon::Information);
+    if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
 
@@ -227,11 +225,10 @@ void FWeb::saveAs()
     QString chosen = *name;
     if (QFileInfo(chosen).suffix().isEmpty()) {
         chosen += u'.' + settings_.extension();
-        const bool isFree =
-            !QFileInfo::exists(chosen) ||
-            platform_.askYesNoCancel(QStringLiteral("Velara Studio"),
-                                     tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
-                                     Icon::Exclamation) == Answer::Yes;
+        const bool isFree = !QFileInfo::exists(chosen) ||
+                            platform_.askYesNoCancel(
+                                kProgramName, tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
+                                Icon::Exclamation) == Answer::Yes;
         if (!alive || !isFree) return;
     }
     choices_->setEnabled(false); // what is being written is what was asked for

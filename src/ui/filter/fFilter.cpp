@@ -153,8 +153,7 @@ void fFilter::accept()
     if (outcome) return QDialog::accept();
     if (outcome.kind == Outcome::Gone) return QDialog::reject();
     if (!outcome.reason.isEmpty())
-        frame_.platform().message(QStringLiteral("Velara Studio"),
-                                  windowTitle() + QStringLiteral(": ") + outcome.reason, Icon::Exclamation);
+        frame_.platform().tell(windowTitle() + QStringLiteral(": ") + outcome.reason, Icon::Exclamation);
 }
 
 void fFilter::reject()

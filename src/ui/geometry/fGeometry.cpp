@@ -49,7 +49,7 @@ void fGeometry::accept()
 bool fGeometry::sizeAllowed(int width, int height) const
 {
     const auto refused = [this](const QString& why) {
-        platform_.message("Velara Studio", why, Icon::Information);
+        platform_.tell(why);
         return false;
     };
     if (width < 2 || height < 2) return refused("Minimum size: 2 x 2");

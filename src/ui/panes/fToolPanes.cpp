@@ -46,7 +46,7 @@ QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent)
     area->setWidgetResizable(true);
     area->setWidget(pane);
     if (const auto* stamp = qobject_cast<FStamp*>(pane); stamp && !stamp->folderFound())
-        frame.platform().message("Velara Studio", "<Stamps> subfolder not found.", Icon::Exclamation);
+        frame.platform().tell("<Stamps> subfolder not found.", Icon::Exclamation);
     return area;
 }
 

@@ -140,7 +140,7 @@ Bits fPaste::take(const Document& document, const char* tooSmall)
     frame_.setup().PasteMode = -1;
     const Bits part = selectedPart(document);
     if (part.isNull()) {
-        frame_.platform().message("Velara Studio", tooSmall, Icon::Information);
+        frame_.platform().tell(tooSmall);
         return {};
     }
     frame_.toolStores().paste = part;

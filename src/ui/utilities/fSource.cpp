@@ -95,21 +95,21 @@ void fSource::choose()
     emit chosen(source);
 }
 
-ScanSource rememberedSource(Platform& platform)
+ScanSource rememberedSource(Machine& machine)
 {
-    const QString device = platform.setting("Scanner", "Source", "");
-    return {device, platform.setting("Scanner", "Title", device)};
+    const QString device = machine.setting("Scanner", "Source", "");
+    return {device, machine.setting("Scanner", "Title", device)};
 }
 
-void rememberSource(Platform& platform, const ScanSource& source)
+void rememberSource(Machine& machine, const ScanSource& source)
 {
-    platform.setSetting("Scanner", "Source", source.device);
-    platform.setSetting("Scanner", "Title", source.title);
+    machine.setSetting("Scanner", "Source", source.device);
+    machine.setSetting("Scanner", "Title", source.title);
 }
 
-void showScannerFailure(Platform& platform)
+void showScannerFailure(Dialogs& dialogs)
 {
-    platform.message("Velara Studio", "Please Verify that the system is connected to Scanner!", Icon::Critical);
+    dialogs.tell("Please Verify that the system is connected to Scanner!", Icon::Critical);
 }
 
 } // namespace velara

@@ -10,6 +10,8 @@ class QPushButton;
 
 namespace velara {
 
+class Dialogs;
+class Machine;
 class Platform;
 
 class fSource final : public QDialog {
@@ -38,10 +40,10 @@ class fSource final : public QDialog {
 };
 
 /// The source of the last time; an empty device: none yet.
-ScanSource rememberedSource(Platform& platform);
-void rememberSource(Platform& platform, const ScanSource& source);
+ScanSource rememberedSource(Machine& machine);
+void rememberSource(Machine& machine, const ScanSource& source);
 
 /// The message when a scanner can't do what it was asked for.
-void showScannerFailure(Platform& platform);
+void showScannerFailure(Dialogs& dialogs);
 
 } // namespace velara

@@ -1,6 +1,7 @@
 #include "ui/view/fImage.h"
 #include "engine/cBitFilter.h"
 #include "fileio/formats.h"
+#include "seams/Clipboard.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -18,7 +19,6 @@ namespace velara {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Velara Studio");
 constexpr int kPathPixels = 400;
 
 } // namespace
@@ -128,16 +128,16 @@ void fImage::Clear()
 
 void fImage::BitsCopyToClipboard()
 {
-    if (PictureExists()) frame_.platform().setClipboardBitmap(document_.Bits());
+    if (PictureExists()) frame_.platform().clipboard().setBitmap(document_.Bits());
 }
 
 void fImage::PasteFromClipboard()
 {
     const QPointer<fImage> self = this;
-    const LoadedPicture picture = frame_.platform().clipboardBitmap();
+    const LoadedPicture picture = frame_.platform().clipboard().bitmap();
     if (!self) return;
     if (picture.ok()) return PPicture(picture.bits);
-    if (!picture.reason.isEmpty()) frame_.platform().message(kTitle, picture.reason, Icon::Exclamation);
+    if (!picture.reason.isEmpty()) frame_.platform().tell(picture.reason, Icon::Exclamation);
 }
 
 bool fImage::UndoBits() { return step(document_.UndoBits(frame_.filter())); }
@@ -204,7 +204,7 @@ bool fImage::mayClose()
         window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
     const QString text =
         frame_.platform().compactPath(Tag(), kPathPixels) + "\nThis image has changed.\n" + "Do you want to save it ?";
-    switch (frame_.platform().askYesNoCancel(kTitle, text, Icon::Information)) {
+    switch (frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information)) {
     case Answer::Cancel:
         return false;
     case Answer::Yes:

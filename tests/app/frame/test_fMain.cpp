@@ -44,7 +44,7 @@ TEST_F(FrameTest, WithoutADocumentOnlyTheFreeCommandsDoAnything)
 
     frame->Mmenu("OPEN");
     EXPECT_EQ(last(), "open: Open file");
-    platform.clipboard = randomBits(5, 4, 1);
+    platform.recordingClipboard.bits = randomBits(5, 4, 1);
     frame->Mmenu("CREATEFROMCLIPBOARD");
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->documents()[0]->PictureWidth(), 5);

@@ -193,7 +193,7 @@ TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
 
 TEST_F(FrameTest, AClipboardPictureThatCannotBeReadIsTold)
 {
-    platform.clipboardFault = "The picture on the clipboard can't be read: it is too large";
+    platform.recordingClipboard.fault = "The picture on the clipboard can't be read: it is too large";
     frame->Mmenu("CREATEFROMCLIPBOARD");
     EXPECT_EQ(last(), "message: Velara Studio: The picture on the clipboard can't be read: it is too large");
     EXPECT_TRUE(frame->documents().isEmpty());
@@ -287,7 +287,7 @@ TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
     EXPECT_EQ(copy->Bits().at(3, 3), image->Bits().at(3, 3));
     EXPECT_TRUE(copy->document().Region.Region() == image->document().Region.Region());
     EXPECT_EQ(copy->Tag(), "[1]" + image->Tag());
-    EXPECT_FALSE(platform.clipboardHasBitmap());
+    EXPECT_FALSE(platform.clipboard().hasBitmap());
 }
 
 TEST_F(FrameTest, ClosingAsksOnceAndACancelKeepsTheFrame)

@@ -65,9 +65,9 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
     EXPECT_EQ(image->Bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
     EXPECT_EQ(image->Bits().at(2, 2).c[0], 1); // the corner of the box is not selected
     EXPECT_TRUE(platform.logged("clipboard: part"));
-    EXPECT_EQ(platform.clipboard.width(), image->document().Region.Region().bounds().width());
-    EXPECT_EQ(platform.clipboard.at(0, 0).c[3], 255);
-    EXPECT_EQ(platform.clipboard.at(3, 3), (Pixel{{1, 2, 3, 0}}));
+    EXPECT_EQ(platform.recordingClipboard.bits.width(), image->document().Region.Region().bounds().width());
+    EXPECT_EQ(platform.recordingClipboard.bits.at(0, 0).c[3], 255);
+    EXPECT_EQ(platform.recordingClipboard.bits.at(3, 3), (Pixel{{1, 2, 3, 0}}));
     EXPECT_EQ(setup.PasteMode, -1);
 }
 
@@ -99,12 +99,12 @@ TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
     fImage* image = open(flatBits(40, 30, 10, 10, 10));
     frame->Mmenu("PASTE");
     EXPECT_FALSE(frame->toolStores().pastePending) << "there is nothing to paste";
-    platform.clipboard = flatBits(6, 6, 200, 100, 50); // of another program
+    platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // of another program
     frame->Mmenu("PASTE");
     ASSERT_TRUE(frame->toolStores().pastePending);
     EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->Bits())) << "it is seen at once";
     frame->Mmenu("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
-    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.clipboard));
+    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.recordingClipboard.bits));
 
     frame->Mmenu("PASTE");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);

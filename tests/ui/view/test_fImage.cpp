@@ -134,11 +134,11 @@ TEST_F(Window, ClipboardHoldsThePictureOnly)
     const Bits bits = randomBits(9, 8, 4);
     fImage& w = open(bits);
     w.BitsCopyToClipboard();
-    EXPECT_EQ(frame.platform_.clipboard.width(), 9);
+    EXPECT_EQ(frame.platform_.recordingClipboard.bits.width(), 9);
     w.PPicture(Bits(3, 3));
     w.PasteFromClipboard();
     EXPECT_EQ(w.PictureHeight(), 8);
-    frame.platform_.clipboard = {};
+    frame.platform_.recordingClipboard.bits = {};
     w.PasteFromClipboard();
     EXPECT_EQ(w.PictureHeight(), 8) << "an empty clipboard changes nothing";
     const QImage picture = w.ObtainedPic();

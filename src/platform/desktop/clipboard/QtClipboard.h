@@ -1,0 +1,32 @@
+// QtClipboard: the real Clipboard. Our own pictures go out and come back as they are; what other programs offer comes
+// as bytes (ClipboardOffer) and is read where files are.
+#pragma once
+#include "seams/Clipboard.h"
+#include <QMimeData>
+#include <QPointer>
+#include <functional>
+
+class QImage;
+
+namespace velara {
+
+class QtClipboard final : public Clipboard {
+  public:
+    /// Makes a picture of bytes by the reader of an extension; name is what the reason calls them.
+    using Read = std::function<LoadedPicture(const QByteArray& bytes, const QString& name, const QString& extension)>;
+    explicit QtClipboard(Read read) : read_(std::move(read)) {}
+
+    bool hasBitmap() override;
+    LoadedPicture bitmap() override;
+    bool setBitmap(const Bits& bits) override;
+    bool setPart(const Bits& part) override;
+    void clear() override;
+
+  private:
+    void offer(const QImage& picture);
+
+    Read read_;
+    QPointer<QMimeData> ours_; // what this program last put there, while it is there
+};
+
+} // namespace velara

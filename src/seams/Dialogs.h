@@ -1,0 +1,43 @@
+// Dialogs: messages, questions and the common dialogs for files.
+#pragma once
+#include <QString>
+#include <functional>
+#include <optional>
+
+namespace velara {
+
+/// What messages and windows without a title of their own are titled.
+inline const QString kProgramName = QStringLiteral("Velara Studio");
+
+enum class Icon { None, Information, Exclamation, Critical };
+enum class Answer { Yes, No, Cancel };
+
+/// What a file dialog shows. filter is "caption|patterns|caption|patterns|...", patterns split by semicolons.
+struct FileDialog {
+    QString title;
+    QString filter;
+    QString folder;
+    QString defaultPattern = {};
+    /// For a save dialog: the extension of a name without one, where the chosen filter stands for several.
+    QString extension = {};
+    /// The file that a save under this name makes: whether that one may be replaced is asked.
+    std::function<QString(const QString&)> writtenAs = {};
+};
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    virtual void message(const QString& title, const QString& text, Icon icon) = 0;
+    /// A message under the program's name.
+    void tell(const QString& text, Icon icon = Icon::Information) { message(kProgramName, text, icon); }
+    virtual Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) = 0;
+    /// No value: the user cancelled.
+    virtual std::optional<QString> openFileName(const FileDialog& dialog) = 0;
+    virtual std::optional<QString> saveFileName(const FileDialog& dialog) = 0;
+    virtual std::optional<QString> pickFolder(const QString& title, const QString& start) = 0;
+    /// path shortened with an ellipsis so that it takes at most so many pixels in the menu font.
+    virtual QString compactPath(const QString& path, int pixels) = 0;
+};
+
+} // namespace velara

@@ -1,0 +1,24 @@
+// PictureReader: picture files, read where they can do no harm.
+#pragma once
+#include "pixels/Bits.h"
+#include <QString>
+
+namespace velara {
+
+/// A picture read from a file, or the reason why it can't be read, in words for a person. A picture may have a reason
+/// too: why it is not all there.
+struct LoadedPicture {
+    Bits bits;
+    QString reason;
+    bool ok() const { return !bits.isNull(); }
+};
+
+class PictureReader {
+  public:
+    virtual ~PictureReader() = default;
+
+    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
+    virtual LoadedPicture loadPicture(const QString& path, const QString& extension) = 0;
+};
+
+} // namespace velara
