@@ -26,7 +26,7 @@ bool takeOption(CommandLine& line, const QString& text)
     return true;
 }
 
-constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ...] OUTPUT";
+constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ... | --icon WxH] OUTPUT";
 
 } // namespace
 
@@ -48,6 +48,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         } else if (text == select) {
             if (++i == arguments.size()) throw badArgument(QStringLiteral("--select: a shape has to follow"));
             middle.emplace_back(true, arguments[i]);
+        } else if (text == QStringLiteral("--icon")) {
+            if (++i == arguments.size())
+                throw badArgument(QStringLiteral("--icon: a size has to follow, such as 32x32"));
+            line.icon = iconOrder(arguments[i]);
         } else if (const auto takesValue = webOptionTakesValue(text)) {
             if (*takesValue && i + 1 == arguments.size())
                 throw badArgument(text + QStringLiteral(": a value has to follow"));
@@ -57,6 +61,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         }
     }
     if (line.help || line.list) return line;
+    if (line.icon && !webOptions.empty())
+        throw badArgument(webOptions.front().first + QStringLiteral(", --icon: OUTPUT can be one of them only"));
     line.web = webOrder(webOptions);
     if (middle.empty() || middle.front().first) throw badArgument(QStringLiteral("INPUT is missing: ") + kUsage);
     if (middle.size() < 2 || middle.back().first) throw badArgument(QStringLiteral("OUTPUT is missing: ") + kUsage);

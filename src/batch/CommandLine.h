@@ -1,6 +1,7 @@
 // The command line of velara-batch, taken apart: INPUT, steps in their order, OUTPUT.
 #pragma once
 #include "batch/Session.h"
+#include "batch/icon.h"
 #include "batch/web.h"
 #include <QStringList>
 #include <functional>
@@ -21,7 +22,8 @@ struct Step {
 struct CommandLine {
     QString input, output;
     std::vector<Step> steps;
-    std::optional<WebOrder> web; // OUTPUT is a web file
+    std::optional<WebOrder> web;   // OUTPUT is a web file
+    std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     bool verbose = false, help = false, list = false, partial = false;
 
     /// Throws Failure that names the argument that is of no use.

@@ -36,7 +36,7 @@ QString wrapped(const QStringList& words)
 
 QString helpText()
 {
-    return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ...] OUTPUT
+    return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ... | --icon WxH] OUTPUT
 
 Reads the picture INPUT, takes the steps in their order, each on the result of
 the one before, and writes the picture OUTPUT. The extensions pick reader and
@@ -76,6 +76,10 @@ dialog's lists; one that there is not prints those that there are:
   --interlaced           for GIF
   --quality NUMBER|ENTRY for JPEG: 1 to 100, or such as Good
   --max-bytes N          for JPEG: the best quality that is not larger
+
+--icon WxH makes OUTPUT, whatever its name, a Windows icon of that size, each
+side from 1 to 256; --icon WxH,mask:0x00BBGGRR one in which what has that colour
+is transparent.
 
 --list     prints every word and every operation with its arguments
 --partial  takes what is there of a picture file whose end is missing

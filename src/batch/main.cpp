@@ -109,6 +109,8 @@ void run(const QStringList& arguments)
     takeSteps(session, line);
     if (line.web)
         std::printf("%s\n", writeWeb(session.picture(), *line.web, line.output).toUtf8().constData());
+    else if (line.icon)
+        writeIcon(session.picture(), *line.icon, line.output);
     else
         write(platform, session.picture(), line.output);
 }

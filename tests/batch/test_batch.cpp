@@ -160,6 +160,17 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm EMBOSS(10 out.png", 2, "bracket"},
         {"in.ppm MaskFilter(1/2,1,0,0,0,true) out.png", 2, "Mask is unusable"},
         {"in.ppm Flip(yes,no) out.png", 2, "Horizontal"},
+        {"in.ppm --icon out.png", 2, "\"out.png\" is no icon; it has to be WIDTHxHEIGHT, each from 1 to 256"},
+        {"in.ppm --icon 0x0 out.png", 2, "\"0x0\" is no icon"},
+        {"in.ppm --icon 20000x20000 out.png", 2, "\"20000x20000\" is no icon"},
+        {"in.ppm --icon 16x257 out.png", 2, "32x32,mask:0x00BBGGRR"},
+        {"in.ppm --icon 99999999999x16 out.png", 2, "is no icon"},
+        {"in.ppm --icon 16x16,mask: out.png", 2, "is no icon"},
+        {"in.ppm --icon 16x16,mask:red out.png", 2, "is no icon"},
+        {"in.ppm --icon 16x16,mask:0x1000000 out.png", 2, "is no icon"},
+        {"in.ppm out.png --icon", 2, "--icon: a size has to follow"},
+        {"in.ppm --icon 16x16 --web Optimal out.png", 2, "--web, --icon: OUTPUT can be one"},
+        {"in.ppm --icon 16x16 none/out.ico", 1, "none/out.ico can't be written"},
         {"in.ppm --select rect:1,2,3 INVERT out.png", 2, "rect:1,2,3"},
         {"in.ppm --select rect:1,2,3,x INVERT out.png", 2, "rect:1,2,3,x"},
         {"in.ppm --select elipse:1,2,3,4 INVERT out.png", 2, "did you mean ellipse"},
@@ -243,6 +254,18 @@ TEST_F(BatchTest, AFullDiskLeavesTheOldOutputWhole)
         EXPECT_EQ(1, run(arguments, full).status);
         EXPECT_FALSE(QFile::exists(path(out))) << name;
     }
+}
+
+TEST_F(BatchTest, AnIconHasThePixelsOfTheMaskTransparent)
+{
+    const std::string size = std::to_string(kWidth) + 'x' + std::to_string(kHeight);
+    ASSERT_EQ(0, run("in.ppm INVERT INVERT --icon " + size + ",mask:0x1D6605 icon.ico").status); // the pixel at 5, 2
+    ASSERT_EQ(0, run("icon.ico out.ppm").status);
+    QByteArray wanted = content("in.ppm");
+    wanted.replace(wanted.size() - 3 * (kWidth * kHeight - 2 * kWidth - 5), 3, "\xff\xff\xff");
+    EXPECT_EQ(wanted.right(3 * kWidth * kHeight), content("out.ppm").right(3 * kWidth * kHeight));
+    ASSERT_EQ(0, run("in.ppm --icon 256x16,mask:0 icon.ppm").status); // whatever its name
+    EXPECT_EQ(QByteArray("\0\0\1\0\1\0\0\x10", 8), content("icon.ppm").left(8));
 }
 
 TEST_F(BatchTest, EveryWriterIsReadBack)

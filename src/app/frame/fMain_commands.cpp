@@ -4,6 +4,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "app/utilities/desktop.h"
+#include "app/utilities/icons.h"
 #include "commands/filterDialogs.h"
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
@@ -80,6 +81,7 @@ constexpr Handler kHandlers[] = {
 
     // What the frame does by itself
     {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
+    {"@ICON",                extractIcons},
     {"@EXIT",                [](fMain& f) { f.close(); }},
     {"@ABOUT",               [](fMain& f) { f.about(); }},
     {"@RESET",               [](fMain& f) { f.reset(); }},

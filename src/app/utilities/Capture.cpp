@@ -53,6 +53,12 @@ void Capture::background()
     Timer2_.start();
 }
 
+void Capture::takeScreens(bool showsDesktop, const Screen::Done& done)
+{
+    putAside(true, showsDesktop);
+    QTimer::singleShot(kDelay, this, [this, done] { grab(done); });
+}
+
 /// Where the desktop can't be shown the program at least is out of the way.
 void Capture::putAside(bool hides, bool showsDesktop)
 {
@@ -60,9 +66,15 @@ void Capture::putAside(bool hides, bool showsDesktop)
     if ((hides || (showsDesktop && !desktopShown_)) && !hidden_) hidden_ = std::make_unique<HiddenWindows>();
 }
 
-void Capture::bringBack()
+/// The windows of others. Not later: one of ours that is shown meanwhile would make the window manager keep them away.
+void Capture::endDesktop()
 {
     if (std::exchange(desktopShown_, false)) frame_.platform().screen().showDesktop(false);
+}
+
+void Capture::bringBack()
+{
+    endDesktop();
     hidden_.reset();
 }
 
@@ -72,6 +84,7 @@ void Capture::grab(const Screen::Done& done)
     frame_.platform().screen().grab([this, done](const ScreenPicture& picture) {
         patience_.stop();
         delete waiting_;
+        endDesktop();
         done(picture);
     });
 }

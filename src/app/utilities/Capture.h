@@ -31,12 +31,16 @@ class Capture final : public QObject {
 
     /// The dialog, once.
     void showDialog();
+    /// The screens, without a document, once what stands in the way has gone. The program's windows stay away until
+    /// bringBack(); where the user gives up waiting for the desktop they come back, and done is not called.
+    void takeScreens(bool showsDesktop, const Screen::Done& done);
+    void bringBack();
     /// How long a desktop may take until a small window offers to leave it; milliseconds.
     void setPatience(int patience) { patience_.setInterval(patience); }
 
   private:
     void putAside(bool hides, bool showsDesktop);
-    void bringBack();
+    void endDesktop();
     void grab(const Screen::Done& done);
     void giveUp();
     void customChosen(fCapture::Where where);

@@ -1,16 +1,31 @@
 #include "ui/utilities/HiddenWindows.h"
 #include <QApplication>
 #include <QWindow>
+#include <algorithm>
+#include <utility>
 
 namespace velara {
 
+namespace {
+
+int depthOf(const QWidget* window)
+{
+    int depth = 0;
+    while ((window = window->parentWidget())) ++depth;
+    return depth;
+}
+
+} // namespace
+
+/// A window that comes back before the one that it belongs to is lost behind it; the active one comes last.
 HiddenWindows::HiddenWindows() : active_(QApplication::activeWindow())
 {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (!window->isVisible()) continue;
-        hidden_ << Hidden{window, window->pos()};
-        window->hide();
-    }
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
+    std::ranges::stable_sort(windows, {},
+                             [this](const QWidget* window) { return std::pair(window == active_, depthOf(window)); });
+    for (QWidget* window : windows) hidden_ << Hidden{window, window->pos()};
+    for (QWidget* window : windows) window->hide();
 }
 
 HiddenWindows::~HiddenWindows()

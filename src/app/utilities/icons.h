@@ -1,0 +1,11 @@
+// The icon extractor and its captures.
+#pragma once
+
+namespace velara {
+
+class fMain;
+
+/// Shows it; the cut-outs of the last time are still there.
+void extractIcons(fMain& frame);
+
+} // namespace velara

@@ -1,0 +1,178 @@
+#include "ui/icons/fIconPicture.h"
+#include "fileio/iconFile.h"
+#include "seams/Frame.h"
+#include "seams/Platform.h"
+#include "ui/icons/MaskChoice.h"
+#include "ui/widgets/fPicture.h"
+#include <QBoxLayout>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace velara {
+
+namespace {
+
+struct SizeRow {
+    const char *name, *caption;
+    int side;
+};
+constexpr SizeRow kSizes[] = {
+    {"o16", "16 x 16", 16}, {"o32", "32 x 32", 32}, {"o64", "64 x 64", 64}, {"ocustom", "Custom", 0}};
+constexpr int kUsual = 1;           // of kSizes
+constexpr QSize kPreview{256, 256}; // the largest icon as it is
+constexpr int kCheck = 8;           // side of the squares below what is transparent, in the preview
+constexpr std::uint8_t kChecks[] = {255, 208};
+
+/// As it is shown: over squares of white and grey. zoom: of the preview.
+Bits overChecks(const QImage& icon, int zoom)
+{
+    Bits shown(icon.width(), icon.height());
+    for (int y = 0; y < icon.height(); ++y)
+        for (int x = 0; x < icon.width(); ++x) {
+            const QRgb pixel = icon.pixel(x, y);
+            const std::uint8_t ground = kChecks[(x * zoom / kCheck + y * zoom / kCheck) % 2];
+            shown.at(x, y) =
+                qAlpha(pixel)
+                    ? Pixel{{std::uint8_t(qBlue(pixel)), std::uint8_t(qGreen(pixel)), std::uint8_t(qRed(pixel)), 0}}
+                    : Pixel{{ground, ground, ground, 0}};
+        }
+    return shown;
+}
+
+} // namespace
+
+fIconPicture::fIconPicture(Frame& frame)
+    : QGroupBox(tr("Select Required Options")), frame_(frame), Iw_(new QLineEdit), Ih_(new QLineEdit),
+      mask_(new MaskChoice(frame, "CMask", tr("Use &Mask Color"))), Ipic_(new fPicture("Ipic", tr("Icon Preview"), kPreview)),
+      state_(new QLabel), CmdSave_(new QPushButton(tr("&Save As")))
+{
+    setObjectName("Frame1");
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(makeChoices(), 1);
+    row->addWidget(makePreview());
+    connect(mask_, &MaskChoice::changed, this, &fIconPicture::makeIcon);
+    connect(Ipic_, &fPicture::pressed, this, &fIconPicture::pickMask);
+    connect(CmdSave_, &QPushButton::clicked, this, &fIconPicture::save);
+    setPicture({});
+}
+
+QWidget* fIconPicture::makeChoices()
+{
+    auto* choices = new QWidget;
+    auto* column = new QVBoxLayout(choices);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (const SizeRow& row : kSizes) {
+        auto* option = new QRadioButton(tr(row.caption));
+        option->setObjectName(row.name);
+        connect(option, &QRadioButton::clicked, this, [this, side = row.side] { chooseSide(side); });
+        column->addWidget(option);
+        sizes_ << option;
+    }
+    auto* numbers = new QGridLayout;
+    int line = 0;
+    for (const auto& [box, name, caption] : {std::tuple{Iw_, "Iw", tr("&Width")}, {Ih_, "Ih", tr("&Height")}}) {
+        box->setObjectName(name);
+        box->setMaxLength(9);
+        box->setFixedWidth(70);
+        auto* label = new QLabel(caption);
+        label->setBuddy(box);
+        numbers->addWidget(label, line, 0);
+        numbers->addWidget(box, line++, 1);
+        connect(box, &QLineEdit::textChanged, this, &fIconPicture::makeIcon);
+    }
+    numbers->setColumnStretch(2, 1);
+    column->addLayout(numbers);
+    column->addWidget(mask_);
+    state_->setObjectName("lblState");
+    state_->setWordWrap(true);
+    column->addWidget(state_);
+    column->addStretch();
+    CmdSave_->setObjectName("CmdSave");
+    CmdSave_->setAutoDefault(false);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(CmdSave_);
+    buttons->addStretch();
+    column->addLayout(buttons);
+    return choices;
+}
+
+QWidget* fIconPicture::makePreview()
+{
+    auto* preview = new QWidget;
+    auto* column = new QVBoxLayout(preview);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(new QLabel(tr("Icon Preview")));
+    Ipic_->setPickable(true);
+    Ipic_->setToolTip(tr("A click takes the mask color from here"));
+    column->addWidget(Ipic_);
+    column->addStretch();
+    return preview;
+}
+
+void fIconPicture::setPicture(const Bits& picture)
+{
+    picture_ = picture;
+    setEnabled(!picture.isNull());
+    sizes_[kUsual]->setChecked(true);
+    chooseSide(kSizes[kUsual].side);
+}
+
+void fIconPicture::chooseSide(int side)
+{
+    for (QLineEdit* box : {Iw_, Ih_}) {
+        const QSignalBlocker quiet(box); // both, then the icon
+        box->setText(side ? QString::number(side) : QString());
+        box->setReadOnly(side != 0);
+    }
+    if (!side) Iw_->setFocus();
+    makeIcon();
+}
+
+/// The colour of the picture itself, and not one that the scaling has mixed.
+void fIconPicture::pickMask(QPoint pixel)
+{
+    const int x = (2 * pixel.x() + 1) * picture_.width() / (2 * icon_.width());
+    const int y = (2 * pixel.y() + 1) * picture_.height() / (2 * icon_.height());
+    const Pixel& picked = picture_.at(x, y);
+    mask_->setMask(colourOf(picked.c[2], picked.c[1], picked.c[0]));
+}
+
+void fIconPicture::makeIcon()
+{
+    const QSize size(Iw_->text().toInt(), Ih_->text().toInt());
+    icon_ = iconOf(picture_, size, mask_->mask());
+    const int zoom = icon_.isNull() ? 1 : std::max(1, kPreview.width() / std::max(size.width(), size.height()));
+    Ipic_->setZoom(zoom);
+    Ipic_->setBits(icon_.isNull() ? Bits() : overChecks(icon_, zoom));
+    CmdSave_->setEnabled(!icon_.isNull());
+    if (picture_.isNull())
+        state_->setText(tr("There is no picture open."));
+    else if (icon_.isNull())
+        state_->setText(tr("Width and height are whole numbers from 1 to %1.").arg(kMostIconSide));
+    else
+        state_->setText(zoom > 1 ? tr("%1 times as large").arg(zoom) : QString());
+}
+
+void fIconPicture::save()
+{
+    const QPointer<fIconPicture> alive = this;
+    const QImage icon = icon_;
+    Platform& platform = frame_.platform();
+    FileDialog dialog{QStringLiteral("Save Icon as"), QStringLiteral("Icon File|*.ico"), {}};
+    dialog.defaultPattern = QStringLiteral("*.ico");
+    const std::optional<QString> path = platform.saveFileName(dialog);
+    if (!path) return;
+    const QString name = QFileInfo(*path).fileName();
+    if (!writeIcon(icon, *path))
+        return platform.message(QStringLiteral("Velara Studio"), tr("%1 can't be written.").arg(name),
+                                Icon::Exclamation);
+    if (alive) state_->setText(tr("Saved: %1").arg(name));
+}
+
+} // namespace velara

@@ -1,0 +1,45 @@
+// fIconPicture: the upper half of fIcon, which makes one icon of the picture of a document.
+#pragma once
+#include "pixels/Bits.h"
+#include <QGroupBox>
+#include <QImage>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace velara {
+
+class Frame;
+class MaskChoice;
+class fPicture;
+
+class fIconPicture final : public QGroupBox {
+    Q_OBJECT
+  public:
+    explicit fIconPicture(Frame& frame);
+
+    /// Begins anew with a picture at 32 by 32; a null one disables all.
+    void setPicture(const Bits& picture);
+
+  private:
+    QWidget* makeChoices();
+    QWidget* makePreview();
+    void chooseSide(int side); // 0: the user says
+    void pickMask(QPoint pixel);
+    void makeIcon();
+    void save();
+
+    Frame& frame_;
+    Bits picture_;
+    QImage icon_; // null while the numbers make none
+    QList<QRadioButton*> sizes_;
+    QLineEdit *Iw_, *Ih_;
+    MaskChoice* mask_;
+    fPicture* Ipic_;
+    QLabel* state_;
+    QPushButton* CmdSave_;
+};
+
+} // namespace velara

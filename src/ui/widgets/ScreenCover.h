@@ -1,0 +1,91 @@
+// ScreenCover: a picture of the screens on every screen, one borderless window each, with a rectangle of four lines on
+// it. What the mouse does with the rectangle is for who derives from this. Esc, the right button or closing one of the
+// windows leaves.
+#pragma once
+#include "seams/Screen.h"
+#include <QImage>
+#include <QWidget>
+#include <array>
+#include <vector>
+
+class QKeyEvent;
+
+namespace velara {
+
+class ScreenCover;
+
+/// One screen of it.
+class CoverWindow final : public QWidget {
+    Q_OBJECT
+  public:
+    CoverWindow(ScreenCover& cover, const ScreenPicture::Part& part);
+
+    const ScreenPicture::Part& part() const { return part_; }
+    /// The place of a pixel of the picture in this window.
+    QPointF toWindow(QPoint pixel) const;
+    void showRectangle(const QRect& rectangle);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    ScreenCover& cover_;
+    ScreenPicture::Part part_;
+    std::array<QWidget*, 4> lines_; // left, top, right, bottom
+};
+
+class ScreenCover : public QObject {
+    Q_OBJECT
+  public:
+    /// The names of its windows.
+    struct Names {
+        QString object, title, accessible;
+    };
+
+    ScreenCover(Names names, QObject* parent);
+    ~ScreenCover() override;
+
+    const Names& names() const { return names_; }
+    /// False when there is nothing to show.
+    bool show(const ScreenPicture& picture);
+    const ScreenPicture& picture() const { return picture_; }
+    /// The picture without a copy; valid as long as picture().
+    QImage image() const;
+    QRect whole() const { return {0, 0, picture_.bits.width(), picture_.bits.height()}; }
+    /// The pixel under a place of the desktop, or the nearest one's; at the far ends of a screen one beyond it.
+    QPoint pixelAt(QPointF global) const;
+
+    // --- Of the mouse and the keys
+    virtual void press(QPointF global) = 0;
+    virtual void move(QPointF global) = 0;
+    virtual void release(QPointF global) = 0;
+    /// A key that doesn't leave; false: not used.
+    virtual bool key(const QKeyEvent&) { return false; }
+    void leave();
+
+  signals:
+    void left();
+
+  protected:
+    /// What else stands on a window that was made; the window owns it.
+    virtual void furnish(CoverWindow&) {}
+    virtual QRect rectangle() const = 0;
+    const std::vector<CoverWindow*>& windows() const { return windows_; }
+    void showRectangle();
+    void close();
+
+  private:
+    const Names names_;
+    ScreenPicture picture_;
+    std::vector<CoverWindow*> windows_;
+};
+
+/// The picture's pixels within the rectangle; black where it reaches out of it. Null for an empty one.
+Bits partOf(const Bits& bits, const QRect& rectangle);
+
+} // namespace velara
