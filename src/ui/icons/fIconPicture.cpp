@@ -49,8 +49,9 @@ Bits overChecks(const QImage& icon, int zoom)
 
 fIconPicture::fIconPicture(Frame& frame)
     : QGroupBox(tr("Select Required Options")), frame_(frame), Iw_(new QLineEdit), Ih_(new QLineEdit),
-      mask_(new MaskChoice(frame, "CMask", tr("Use &Mask Color"))), Ipic_(new fPicture("Ipic", tr("Icon Preview"), kPreview)),
-      state_(new QLabel), CmdSave_(new QPushButton(tr("&Save As")))
+      mask_(new MaskChoice(frame, "CMask", tr("Use &Mask Color"))),
+      Ipic_(new fPicture("Ipic", tr("Icon Preview"), kPreview)), state_(new QLabel),
+      CmdSave_(new QPushButton(tr("&Save As")))
 {
     setObjectName("Frame1");
     auto* row = new QHBoxLayout(this);
