@@ -6,6 +6,7 @@
 #include "document/undo/UndoMark.h"
 #include "fileio/OutputFile.h"
 #include "fileio/SetupStore.h"
+#include "pixels/twips.h"
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
@@ -93,10 +94,11 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
             Icon::Exclamation);
     frame->setDialogFolder(setup.ImagesPath.trimmed());
     frame->FillRecent();
-    frame->loadLayout();
+    frame->bars().loadLayout();
+    frame->applyBars();
     frame->initToolPanes();
     frame->show();
-    frame->showBoxes();
+    frame->boxes().showAll();
     delete splash;
     return frame;
 }

@@ -1,30 +1,26 @@
-// fMain: the frame around the documents. Owns the one engine cFilter, the menus, the toolbars, the status bar and the
-// side pane; a document's window belongs to the area of the documents and is buried here when it closes.
+// fMain: the frame around the documents: a switchboard over what it owns, which don't know each other. The open
+// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the one engine cFilter, the
+// status bar, the side pane and the road from a command to its document are its own.
 //
 // Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
 // recent, drop), _road (from a command to its document), _pixels (commands
-// that change a picture), _geometry (dialogs that reshape one), _bars (menus, bars, boxes, side pane), _close
+// that change a picture), _geometry (dialogs that reshape one), _bars (side pane, tools, colours), _close
 // (shutdown).
 #pragma once
+#include "app/documents/Documents.h"
+#include "app/menus/Bars.h"
+#include "app/menus/Boxes.h"
 #include "engine/cBitFilter.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "ui/view/fImage.h"
-#include <QHash>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QPointer>
-#include <array>
-#include <functional>
 #include <string_view>
-
-class QToolBar;
 
 namespace velara {
 
 class Capture;
 class Clips;
-class fDocumentWindow;
 struct SizeWord;
 struct Preset;
 struct FilterRow;
@@ -43,8 +39,8 @@ class fMain final : public QMainWindow, public Frame {
     cBitFilter& filter() override { return cFilter_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override;
-    fImage* GetActiveImage() override;
-    std::vector<DocumentHandle> openDocuments() override;
+    fImage* GetActiveImage() override { return documents_->active(); }
+    std::vector<DocumentHandle> openDocuments() override { return documents_->handles(); }
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) override;
     bool openPicture(const QString& path) override;
     Outcome change(const DocumentHandle& document, const Job& job, After after = After::Step) override;
@@ -57,8 +53,8 @@ class fMain final : public QMainWindow, public Frame {
     void refreshUndoState() override;
     void setStatus(Panel panel, const QString& text) override;
     void cFilter_Progress(int value) override;
-    QString UniqueCaption(const QString& text) override;
-    int nextDocumentNumber() override { return documentNumber_++; }
+    QString UniqueCaption(const QString& text) override { return documents_->uniqueTag(text); }
+    int nextDocumentNumber() override { return documents_->nextNumber(); }
     void EnableMouseScrolling() override;
     bool mouseScrolling() const override;
     void CheckToolbarState(bool noRefresh) override;
@@ -99,14 +95,12 @@ class fMain final : public QMainWindow, public Frame {
     void showFilter(const FilterRow& row);
     void options();
     void about();
-    void arrange(int mode); // 0 cascade, 1 tile horizontally, 2 tile vertically
     void reset();
 
     // --- Utilities
     Clips& clips() { return *clips_; }
     Capture& capture() { return *capture_; }
     void capturePic(int mode);
-    void showClipBox();
 
     // --- Files
     void FillRecent();
@@ -116,15 +110,9 @@ class fMain final : public QMainWindow, public Frame {
     void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
 
     // --- Bars, boxes, panes
+    Bars& bars() { return *bars_; }
+    Boxes& boxes() { return *boxes_; }
     void applyBars(); // visibility and check marks from Setup
-    void loadLayout();
-    void saveLayout();
-    void toggleBar(int index);
-    void makeBoxes();
-    void setBox(int index, QWidget* box); // 0 colours, 1 textures, 2 clipboard
-    void showBox(int index);
-    void toggleBox(int index);
-    void showBoxes();
     void toggleStatusBar();
     void toggleSideBar();
     /// Fills the panes of the tools that have one.
@@ -136,13 +124,12 @@ class fMain final : public QMainWindow, public Frame {
     void releaseHand();
     fToolPane& toolPane() { return *toolPane_; }
     fStatus& status() { return *status_; }
-    QMdiArea& area() { return *area_; }
-    QAction* action(const QString& objectName) const { return items_.value(objectName); }
-
+    Documents& openPictures() { return *documents_; }
+    QMdiArea& area() { return documents_->area(); }
+    /// A menu's item or a button, by its object name.
+    QAction* action(const QString& objectName) const { return bars_->action(objectName); }
     /// The open documents, in order of opening.
-    QList<fImage*> documents() const;
-    /// Takes a closed document's window away; it is deleted when no filter is at work.
-    void bury(fDocumentWindow* window);
+    QList<fImage*> documents() const { return documents_->images(); }
 
   signals:
     void closed();
@@ -154,19 +141,15 @@ class fMain final : public QMainWindow, public Frame {
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    QMenu* createPopupMenu() override;
+    QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
   private:
-    class JobUnderWay;
-
     /// The job on the document that is active now; after a yield, so that the menu closes. Failures go to the status
     /// bar.
     void changeActive(std::string_view word, const Job& job, After after, bool yields = true);
     template <class Dialog> void askAndReshape(std::string_view word);
-    void buildMenus();
-    void buildToolbars();
-    void fillToolbar(QToolBar* bar, std::string_view buttons);
-    void makeTrigger(QAction* action, std::string_view word, int index = 0);
+    void makeBoxes();
+    void bindToolKeys();
     /// The pictures in the cut that fits the palette.
     void refreshIcons();
     void frameResized();
@@ -175,11 +158,8 @@ class fMain final : public QMainWindow, public Frame {
     void wellClicked(int index);
     void stepLost(const QString& reason);
     void finished(fImage& image);
-    /// The window of an open document; null when it is closed.
-    fImage* imageOf(const DocumentHandle& document) const;
     void engineProgress(int percent);
     void showFailure(const QString& what, const std::exception& failure);
-    void buryDead();
     /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
     bool openPath(const QString& path);
@@ -193,19 +173,14 @@ class fMain final : public QMainWindow, public Frame {
     cBitFilter cFilter_;
     DocumentHandle held_; // whose picture the engine holds
     ToolStores toolStores_;
-    QPointer<fImage> ActiveImage_;
     std::unique_ptr<Clips> clips_;
     std::unique_ptr<Capture> capture_;
-    QMdiArea* area_;
+    std::unique_ptr<Documents> documents_;
     fStatus* status_;
     fToolPane* toolPane_;
-    std::array<QToolBar*, 7> bars_{}; // the order of Setup::BarVisible
-    std::array<QPointer<QWidget>, 3> boxes_;
-    QHash<QString, QAction*> items_;
+    std::unique_ptr<Bars> bars_;
+    std::unique_ptr<Boxes> boxes_;
     QString dialogFolder_;
-    QList<QPointer<QWidget>> dead_;
-    int jobs_ = 0; // under way
-    int documentNumber_ = 1, clashes_ = 0;
     bool closing_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };
 

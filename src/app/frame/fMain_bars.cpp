@@ -1,4 +1,4 @@
-// Toolbars, boxes, the status bar and the side pane: shown, hidden and remembered in Setup.
+// The status bar, the side pane, tools and colours.
 #include "app/frame/fHover.h"
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
@@ -20,57 +20,25 @@
 
 namespace velara {
 
-namespace {
-
-constexpr const char* kSection = "VeStu";
-constexpr const char* kPlaced = "placed";
-constexpr int kLayoutVersion = 1; // raised when toolbars come or go, so that an old layout is not forced on new bars
-
-} // namespace
-
 void fMain::applyBars()
 {
-    for (std::size_t i = 0; i < bars_.size(); ++i) {
-        bars_[i]->setVisible(setup_.BarVisible[i]);
-        items_["BAR_" + QString::number(i)]->setChecked(setup_.BarVisible[i]);
-    }
+    bars_->showBars();
     status_->setVisible(setup_.StatusBarVisible);
-    items_["VIEWS_8"]->setChecked(setup_.StatusBarVisible);
-    items_["VIEWS_9"]->setChecked(setup_.SideBarHidden);
+    bars_->mark("@STATUSBAR", 0, setup_.StatusBarVisible);
+    bars_->mark("@SIDEBAR", 0, setup_.SideBarHidden);
     placeSidePane();
 }
 
-void fMain::loadLayout()
+void fMain::refreshIcons()
 {
-    const QString stored = platform_.setting(kSection, "Layout", "");
-    if (!stored.isEmpty()) restoreState(QByteArray::fromBase64(stored.toLatin1()), kLayoutVersion);
-    applyBars(); // which bars are shown is the configuration's to say
-}
-
-void fMain::saveLayout()
-{
-    platform_.setSetting(kSection, "Layout", QString::fromLatin1(saveState(kLayoutVersion).toBase64()));
+    bars_->refreshIcons();
+    toolPane_->refreshIcons();
 }
 
 void fMain::reset()
 {
-    saveLayout();
+    bars_->saveLayout();
     frameResized();
-}
-
-void fMain::toggleBar(int index)
-{
-    bool& visible = setup_.BarVisible[std::size_t(index)];
-    visible = !visible;
-    bars_[std::size_t(index)]->setVisible(visible);
-    items_["BAR_" + QString::number(index)]->setChecked(visible);
-}
-
-QMenu* fMain::createPopupMenu()
-{
-    auto* menu = new QMenu(this);
-    for (int i = 0; i < 7; ++i) menu->addAction(items_["BAR_" + QString::number(i)]);
-    return menu;
 }
 
 void fMain::toggleStatusBar()
@@ -85,64 +53,14 @@ void fMain::toggleSideBar()
     applyBars();
 }
 
-namespace {
-
-bool Setup::*boxFlag(int index)
-{
-    constexpr bool Setup::*kFlags[] = {&Setup::ColorBoxVisible, &Setup::TexturesBoxVisible,
-                                       &Setup::ClipboardBoxVisible};
-    return kFlags[index];
-}
-
-} // namespace
-
 void fMain::makeBoxes()
 {
-    setBox(0, new fPalette(*this, this));
-    setBox(2, clips_->box());
+    boxes_ = std::make_unique<Boxes>(*this, *toolPane_, setup_, *bars_);
+    boxes_->set(Boxes::Colours, new fPalette(*this, this));
+    boxes_->set(Boxes::Clips, clips_->box());
     auto* textures = new fToolTextures(*this, this);
     connect(textures, &fToolTextures::placing, this, [this] { toolClicked(QStringLiteral("Text")); });
-    setBox(1, textures);
-}
-
-void fMain::setBox(int index, QWidget* box) { boxes_[std::size_t(index)] = box; }
-
-/// A box keeps the place that the user gave it; the first time it stands at the frame's right.
-void fMain::showBox(int index)
-{
-    QWidget* box = boxes_[std::size_t(index)];
-    if (!box) return;
-    if (!box->property(kPlaced).toBool()) {
-        const int left = width() - box->width() - toolPane_->width() * 12 / 5;
-        const int top = centralWidget()->y() + (index == 0 ? 550 / 15 : 0);
-        box->move(mapToGlobal(QPoint(std::max(0, left), top)));
-        box->setProperty(kPlaced, true);
-    }
-    box->show();
-    items_["VIEWS_" + QString::number(4 + index)]->setChecked(true);
-}
-
-void fMain::toggleBox(int index)
-{
-    bool& visible = setup_.*boxFlag(index);
-    visible = !visible;
-    QWidget* box = boxes_[std::size_t(index)];
-    if (visible) {
-        showBox(index);
-        if (box) box->activateWindow(); // who asks for it wants to use it
-    } else if (box) {
-        const QPoint place = box->pos(); // a window manager may place it anew otherwise
-        box->hide();
-        box->move(place);
-    }
-    items_["VIEWS_" + QString::number(4 + index)]->setChecked(visible);
-}
-
-void fMain::showBoxes()
-{
-    for (int i : {0, 1, 2, 0}) // the colours once more, so that they end up in front
-        if (setup_.*boxFlag(i)) showBox(i);
-    if (boxes_[0]) boxes_[0]->raise();
+    boxes_->set(Boxes::Textures, textures);
 }
 
 // --- Side pane
@@ -179,10 +97,7 @@ void fMain::seekSidePane(QPoint at)
 
 bool fMain::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Close &&
-        event->spontaneous()) // a box closed by its own cross: the menu's mark goes too
-        for (int i = 0; i < int(boxes_.size()); ++i)
-            if (watched == boxes_[std::size_t(i)] && setup_.*boxFlag(i)) toggleBox(i);
+    if (event->type() == QEvent::Close && event->spontaneous() && boxes_) boxes_->crossed(watched);
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);
@@ -194,6 +109,24 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
 }
 
 // --- Tools
+
+/// The keys of the tool strip. A text field that has the focus keeps its letters.
+void fMain::bindToolKeys()
+{
+    const auto bind = [this](const QString& key, const QString& shortcuts, auto run) {
+        auto* action = new QAction(this);
+        action->setObjectName(key);
+        QList<QKeySequence> sequences;
+        for (const QString& one : shortcuts.split(' ')) sequences << QKeySequence(one);
+        action->setShortcuts(sequences);
+        connect(action, &QAction::triggered, this, run);
+        addAction(action);
+    };
+    for (const ToolRow& tool : toolRows())
+        bind(tool.name, QString(QLatin1Char(tool.key)), [this, &tool] { toolClicked(tool.name); });
+    for (const StripRow& row : stripRows())
+        bind(text(row.key), text(row.shortcuts), [this, &row] { toolPane_->button(text(row.key))->click(); });
+}
 
 void fMain::initToolPanes()
 {
@@ -247,17 +180,10 @@ void fMain::releaseHand()
     if (fImage* image = GetActiveImage()) image->setMouseScroll(false);
 }
 
-void fMain::showClipBox()
-{
-    if (!setup_.ClipboardBoxVisible) return toggleBox(2);
-    showBox(2);
-    clips_->box()->raise();
-}
-
 void fMain::showColors()
 {
     toolPane_->setColors(setup_.ForeColor, setup_.BackColor);
-    if (auto* palette = qobject_cast<fPalette*>(boxes_[0])) palette->showColors();
+    if (auto* palette = qobject_cast<fPalette*>(boxes_->box(Boxes::Colours))) palette->showColors();
 }
 
 std::optional<Colour> fMain::pickColour(Colour start, const QString& what, QWidget* over)
@@ -279,26 +205,6 @@ void fMain::wellClicked(int index)
     if (!picked) return;
     setup_.*field = *picked;
     showColors();
-}
-
-void fMain::arrange(int mode)
-{
-    if (mode == 0) return area_->cascadeSubWindows();
-    // Side by side or one below the other; QMdiArea's own tiling knows only a grid.
-    QList<QMdiSubWindow*> windows = area_->subWindowList(QMdiArea::StackingOrder);
-    windows.removeIf([](QMdiSubWindow* w) { return w->isHidden() || w->isMinimized(); });
-    const int count = int(windows.size());
-    const QRect all = area_->viewport()->rect();
-    for (int i = 0; i < count; ++i) {
-        windows[i]->showNormal();
-        const int from = i, to = i + 1;
-        if (mode == 1) // each as wide as the area
-            windows[i]->setGeometry(0, all.height() * from / count, all.width(),
-                                    all.height() * to / count - all.height() * from / count);
-        else
-            windows[i]->setGeometry(all.width() * from / count, 0,
-                                    all.width() * to / count - all.width() * from / count, all.height());
-    }
 }
 
 } // namespace velara

@@ -1,9 +1,9 @@
 // The frame's size and its end.
-#include "app/frame/fDocumentWindow.h"
 #include "app/frame/fMain.h"
 #include "app/settings/fPreferences.h"
 #include "app/start/fSplash.h"
 #include "fileio/SetupStore.h"
+#include "pixels/twips.h"
 #include "seams/Platform.h"
 #include <QCloseEvent>
 #include <algorithm>
@@ -11,8 +11,6 @@
 namespace velara {
 
 namespace {
-
-constexpr int kTwips = 15; // to a pixel
 
 std::int16_t twips(int pixels) { return static_cast<std::int16_t>(std::clamp(pixels * kTwips, 0, 32767)); }
 
@@ -31,7 +29,7 @@ void fMain::frameResized()
     if (!resizedOnce_) {
         resizedOnce_ = true;
         if (platform_.setting("VeStu", "RunOnce", "0").toInt() == 0) { // no layout was ever stored for this user
-            saveLayout();
+            bars_->saveLayout();
             platform_.setSetting("VeStu", "RunOnce", "1");
         }
     }
@@ -48,23 +46,16 @@ void fMain::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isVisible()) frameResized();
-    if (event->type() == QEvent::PaletteChange && !items_.isEmpty()) refreshIcons(); // the desktop went dark or light
+    if (event->type() == QEvent::PaletteChange && bars_) refreshIcons(); // the desktop went dark or light
 }
 
 void fMain::closeEvent(QCloseEvent* event)
 {
     if (closing_) return event->accept();
-    saveLayout();
-    // The last one first; one that refuses ends it, and the frame stays.
-    auto windows = area_->subWindowList(QMdiArea::CreationOrder);
-    std::reverse(windows.begin(), windows.end());
-    for (const QPointer<QMdiSubWindow> window : windows) {
-        if (!window) continue;
-        area_->setActiveSubWindow(window); // the question and a save are about this one
-        if (window && !window->close()) {
-            SaveSetup(platform_, setup_);
-            return event->ignore();
-        }
+    bars_->saveLayout();
+    if (!documents_->closeAll()) { // the frame stays
+        SaveSetup(platform_, setup_);
+        return event->ignore();
     }
     closing_ = true;
     SaveSetup(platform_, setup_); // on failure the old file stays

@@ -1,5 +1,4 @@
 // Opening, saving, the recent list, files dropped on the frame, and new documents by way of the clipboard.
-#include "app/frame/fDocumentWindow.h"
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/menus/fIcons.h"
@@ -10,7 +9,6 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QMdiArea>
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
@@ -69,12 +67,7 @@ DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, 
     giveNames(*image, inDialogFolder(path), *this);
     connect(image.get(), &fImage::stepLost, this, &fMain::stepLost);
     image->SaveUndoBits();
-    auto* window = new fDocumentWindow(*this, image.release());
-    area_->addSubWindow(window);
-    if (setup_.ImagesMaximized)
-        window->showMaximized();
-    else
-        window->show();
+    documents_->show(std::move(image), setup_.ImagesMaximized);
     refreshUndoState();
     return document.handle();
 }
@@ -101,10 +94,10 @@ bool fMain::openPath(const QString& path)
     // A file that its reader can't make out opens as an empty document.
     const bool read = image->PictureExists();
     const QString note = image->LoadNote();
-    if (!read) status_->showMessage(FileNameOf(path) + tr(" can't be read as a picture."), 8000);
+    if (!read) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
     // What has lost its end doesn't replace its file without a question.
     adopt(std::move(image), path, read && note.isEmpty() ? Arrival::File : Arrival::Made);
-    if (read && !note.isEmpty()) status_->showMessage(note, 8000);
+    if (read && !note.isEmpty()) status_->say(note);
     return true;
 }
 
@@ -143,10 +136,10 @@ void fMain::openRecent(int index)
 
 void fMain::FillRecent()
 {
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < int(setup_.Recent.size()); ++i) {
         QString& entry = setup_.Recent[std::size_t(i)];
         while (entry.endsWith(' ')) entry.chop(1);
-        QAction* item = items_.value("RF_" + QString::number(i));
+        QAction* item = bars_->item("@RECENT", i);
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(entry, 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
@@ -216,7 +209,7 @@ void fMain::copyToNew()
     if (!copy || selection.isEmpty()) return;
     copy->Region.setRegion(selection);
     handOver(*copy);
-    imageOf(copy)->UpdateImage();
+    documents_->of(copy)->UpdateImage();
 }
 
 void fMain::fromClipboard()

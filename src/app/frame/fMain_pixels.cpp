@@ -74,9 +74,8 @@ void fMain::stepUndo(bool back)
     refreshUndoState();
     const UndoStore& steps = image->document().undo;
     if (moved && steps.passedOver())
-        status_->showMessage(steps.canRedo() && back ? tr("A step could not be kept: this is the last one that stands.")
-                                                     : tr("A step that could not be kept was passed over."),
-                             8000);
+        status_->say(steps.canRedo() && back ? tr("A step could not be kept: this is the last one that stands.")
+                                             : tr("A step that could not be kept was passed over."));
 }
 
 void fMain::setZoom(int factor)

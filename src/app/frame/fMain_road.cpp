@@ -7,32 +7,10 @@
 
 namespace velara {
 
-namespace {
-
-constexpr int kMessageTime = 8000; // milliseconds that a word stands in the status bar
-
-Outcome gone() { return {Outcome::Gone}; }
-
-} // namespace
-
-/// Counts the jobs under way: closed windows wait for the last of them.
-class fMain::JobUnderWay {
-  public:
-    explicit JobUnderWay(fMain& frame) : frame_(frame) { ++frame_.jobs_; }
-    JobUnderWay(const JobUnderWay&) = delete;
-    ~JobUnderWay()
-    {
-        if (--frame_.jobs_ == 0) frame_.buryDead();
-    }
-
-  private:
-    fMain& frame_;
-};
-
 Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
 {
-    if (closing_ || !imageOf(handle) || !handle->PictureExists()) return gone();
-    const JobUnderWay underWay(*this);
+    if (closing_ || !documents_->of(handle) || !handle->PictureExists()) return {Outcome::Gone};
+    const Documents::Work underWay(*documents_);
     // What a tool shows for the time being is no part of the picture: the engine has that.
     const bool committed = engineHolds(*handle) && cFilter_.BitsWidth() == handle->PictureWidth() &&
                            cFilter_.BitsHeight() == handle->PictureHeight();
@@ -51,8 +29,8 @@ Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
         outcome = {Outcome::Failed, QString::fromUtf8(failure.what())};
     }
     status_->setProgress(0);
-    fImage* image = closing_ ? nullptr : imageOf(handle);
-    if (!image) return gone();
+    fImage* image = closing_ ? nullptr : documents_->of(handle);
+    if (!image) return {Outcome::Gone};
     if (!draft.wanted() || (outcome && image->strokeUnderWay()))
         return {Outcome::Dropped, tr("the picture was changed meanwhile")};
     if (!outcome) return outcome;
@@ -64,7 +42,7 @@ Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
 
 void fMain::finish(const DocumentHandle& handle)
 {
-    fImage* image = imageOf(handle);
+    fImage* image = documents_->of(handle);
     if (!image) return;
     image->document().commit();
     finished(*image);
@@ -81,7 +59,7 @@ void fMain::finished(fImage& image)
 void fMain::Update(bool regionOnly, bool save)
 {
     status_->setProgress(0);
-    fImage* image = ActiveImage_;
+    fImage* image = documents_->lastActive();
     if (!image) return;
     image->document().Zoomed = false;
     if (save) return finish(image->document().handle());
@@ -93,13 +71,13 @@ void fMain::Update(bool regionOnly, bool save)
 void fMain::stepLost(const QString& reason)
 {
     if (closing_) return;
-    status_->showMessage(tr("This step can't be undone: %1.").arg(reason), kMessageTime);
+    status_->say(tr("This step can't be undone: %1.").arg(reason));
     refreshUndoState();
 }
 
 void fMain::report(const QString& what, const Outcome& outcome)
 {
-    if (!outcome.reason.isEmpty() && !closing_) status_->showMessage(what + ": " + outcome.reason, kMessageTime);
+    if (!outcome.reason.isEmpty() && !closing_) status_->say(what + ": " + outcome.reason);
 }
 
 bool fMain::engineHolds(const Document& document) const { return held_ == document.handle(); }
@@ -113,7 +91,7 @@ void fMain::handOver(const Document& document)
 /// Reports of the engine itself, outside of any job.
 void fMain::engineProgress(int percent)
 {
-    const JobUnderWay underWay(*this);
+    const Documents::Work underWay(*documents_);
     cFilter_Progress(percent);
     platform_.yield();
     if (closing_) throw Cancelled();

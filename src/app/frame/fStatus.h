@@ -15,6 +15,8 @@ class fStatus final : public QStatusBar {
 
     void setPanel(Panel panel, const QString& text);
     QString panel(Panel panel) const;
+    /// A word to the user, which stands for some seconds.
+    void say(const QString& text) { showMessage(text, 8000); }
     /// Percent; values below 0 are dropped.
     void setProgress(int percent);
 

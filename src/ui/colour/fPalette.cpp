@@ -1,6 +1,7 @@
 #include "ui/colour/fPalette.h"
 #include "colour/planes.h"
 #include "colour/presetColours.h"
+#include "pixels/twips.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "ui/colour/fColourCell.h"
@@ -23,7 +24,6 @@ namespace velara {
 
 namespace {
 
-constexpr double kTwips = 15;  // to a pixel
 constexpr int kShown = 90;     // of the plane's 101 columns and rows; the pointer reaches the rest from outside
 constexpr double kHueRow = 14; // twips that a row of the strip takes; the marker's 560 twips are forty of them
 constexpr int kMarkerRoom = 4; // above and below the strip
@@ -296,7 +296,7 @@ void fPalette::selectCell(int cell)
 {
     SelectedCell_ = cell;
     const fColourCell& at = *lblCol_[std::size_t(cell)];
-    const int offset = qRound(kFrameOffset / kTwips);
+    const int offset = qRound(double(kFrameOffset) / kTwips);
     shpCur_->setGeometry(at.geometry().adjusted(-offset, -offset, offset, offset));
     shpCur_->raise();
 }

@@ -169,7 +169,7 @@ void fImage::activate()
         frame_.handOver(document_);
         frame_.setStatus(Panel::Name, Caption());
         if (PictureExists()) showSize();
-        frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
+        frame_.setStatus(Panel::Zoom, zoomText());
         frame_.CheckToolbarState(false);
         setMouseScroll(frame_.mouseScrolling());
     } else if (tmrSelection_.isActive()) {

@@ -88,6 +88,7 @@ class fImage final : public QWidget, public ToolSurface {
     void ZoomIn();
     void ZoomOut();
     int ZoomFactor() const { return zoom_; }
+    QString zoomText() const { return QString::number(zoom_) + " : 1"; }
     void setZoomFactor(int factor); // limited to 1..15
     int BarsWidth() const { return barsWidth_; }
     void setBarsWidth(int width); // below 14 gives 13

@@ -142,7 +142,7 @@ void fImage::setZoomFactor(int factor)
 {
     zoom_ = std::clamp(factor, kLeastZoom, kMostZoom);
     document_.Region.setZoomFactor(static_cast<float>(zoom_));
-    if (frame_.engineHolds(document_)) frame_.setStatus(Panel::Zoom, QString::number(zoom_) + " : 1");
+    if (frame_.engineHolds(document_)) frame_.setStatus(Panel::Zoom, zoomText());
     layOutView();
 }
 

@@ -1,5 +1,5 @@
 // The frame: the command language, what each command asks and says, and what it leaves behind.
-#include "app/frame/fDocumentWindow.h"
+#include "app/documents/fDocumentWindow.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
@@ -339,9 +339,9 @@ TEST_F(FrameTest, BarsFollowTheConfiguration)
     EXPECT_FALSE(setup.BarVisible[1]);
     EXPECT_TRUE(effects->isHidden());
     EXPECT_FALSE(frame->action("BAR_1")->isChecked());
-    frame->saveLayout();
+    frame->bars().saveLayout();
     frame->action("BAR_1")->trigger();
-    frame->loadLayout(); // the stored layout had it hidden; the configuration has the say
+    frame->bars().loadLayout(); // the stored layout had it hidden; the configuration has the say
     EXPECT_FALSE(effects->isHidden());
     frame->action("VIEWS_8")->trigger();
     EXPECT_FALSE(setup.StatusBarVisible);

@@ -24,7 +24,7 @@ struct ColourBox : FrameTest {
         setup.ForeColor = 0x102030;
         FrameTest::SetUp();
         box = frame->findChild<fPalette*>();
-        frame->showBoxes();
+        frame->boxes().showAll();
     }
     template <class Widget> Widget* find(const char* name)
     {

@@ -1,6 +1,6 @@
 // Opening, saving, the recent list, drops, clipboard, and the end of the frame.
+#include "app/documents/fDocumentWindow.h"
 #include "app/fStartup.h"
-#include "app/frame/fDocumentWindow.h"
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"

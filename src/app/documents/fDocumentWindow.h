@@ -1,5 +1,5 @@
 // fDocumentWindow: the child window that holds one document in the frame's area. Closing asks the document; a closed
-// one is handed to the frame, which deletes it when no filter is at work.
+// one goes back to the documents, which delete it when no work is under way.
 #pragma once
 #include "ui/view/fImage.h"
 #include <QMdiSubWindow>
@@ -7,12 +7,12 @@
 
 namespace velara {
 
-class fMain;
+class Documents;
 
 class fDocumentWindow final : public QMdiSubWindow {
     Q_OBJECT
   public:
-    fDocumentWindow(fMain& frame, fImage* image);
+    fDocumentWindow(Documents& documents, fImage* image);
 
     /// The document, or null after it closed.
     fImage* image() const { return image_; }
@@ -21,7 +21,7 @@ class fDocumentWindow final : public QMdiSubWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    fMain& frame_;
+    Documents& documents_;
     QPointer<fImage> image_;
 };
 

@@ -1,9 +1,8 @@
-// Menus and toolbars out of their tables.
-#include "app/frame/fMain.h"
-#include "app/frame/fToolPane.h"
+// How menus and toolbars are made out of their tables.
+#include "app/menus/Bars.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
-#include "tools/toolRows.h"
+#include "commands/vocabulary.h"
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
@@ -42,22 +41,17 @@ void giveAccessKeys(QMenu& menu)
 
 } // namespace
 
-void fMain::makeTrigger(QAction* action, std::string_view word, int index)
+void Bars::addItem(QMenu& menu, const MenuRow& row)
 {
-    action->setData(text(word));
-    action->setIcon(iconOf(word));
-    action->setEnabled(available(word));
-    connect(action, &QAction::triggered, this, [this, word, index] { run(word, index); });
+    QAction* item = menu.addAction(text(row.caption));
+    item->setObjectName(text(row.array) + "_" + QString::number(row.index));
+    if (!row.shortcut.empty()) item->setShortcut(QKeySequence(text(row.shortcut)));
+    makeTrigger(item, row.word, findCommandWord(row.word)->count > 1 ? row.index : 0, true);
+    if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
+    item->setCheckable(row.checkable);
 }
 
-void fMain::refreshIcons()
-{
-    useIconTheme();
-    for (QAction* action : std::as_const(items_)) action->setIcon(iconOf(action->data().toString().toStdString()));
-    toolPane_->refreshIcons();
-}
-
-void fMain::buildMenus()
+void Bars::buildMenus()
 {
     std::vector<QMenu*> open; // the menus around the row, the outermost first
     for (const MenuRow& row : menuRows()) {
@@ -65,7 +59,7 @@ void fMain::buildMenus()
         case MenuKind::Menu:
         case MenuKind::SubMenu: {
             QMenu* menu =
-                open.empty() ? menuBar()->addMenu(text(row.caption)) : open.back()->addMenu(text(row.caption));
+                open.empty() ? window_.menuBar()->addMenu(text(row.caption)) : open.back()->addMenu(text(row.caption));
             menu->setObjectName(text(row.array));
             menu->setToolTipsVisible(true);
             open.push_back(menu);
@@ -78,16 +72,9 @@ void fMain::buildMenus()
         case MenuKind::Separator:
             open.back()->addSeparator();
             break;
-        case MenuKind::Item: {
-            QAction* item = open.back()->addAction(text(row.caption));
-            item->setObjectName(text(row.array) + "_" + QString::number(row.index));
-            if (!row.shortcut.empty()) item->setShortcut(QKeySequence(text(row.shortcut)));
-            makeTrigger(item, row.word, row.index);
-            if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
-            item->setCheckable(row.checkable);
-            items_[item->objectName()] = item;
+        case MenuKind::Item:
+            addItem(*open.back(), row);
             break;
-        }
         case MenuKind::Items:
         case MenuKind::Strengths:
             break; // menuRows() has none
@@ -95,11 +82,11 @@ void fMain::buildMenus()
     }
 }
 
-void fMain::buildToolbars()
+void Bars::buildToolbars()
 {
     std::size_t index = 0;
     for (const BarRow& row : barRows()) {
-        auto* bar = new QToolBar(text(row.caption), this);
+        auto* bar = new QToolBar(text(row.caption), &window_);
         bar->setObjectName(text(row.name));
         bar->setIconSize({22, 22});
         fillToolbar(bar, row.buttons);
@@ -109,27 +96,13 @@ void fMain::buildToolbars()
     constexpr int kNewLine = -1;
     for (const int place : {0, 5, 4, kNewLine, 1, 2, kNewLine, 6, 3}) {
         if (place == kNewLine)
-            addToolBarBreak();
+            window_.addToolBarBreak();
         else
-            addToolBar(bars_[std::size_t(place)]);
+            window_.addToolBar(bars_[std::size_t(place)]);
     }
-    // The keys of the tool strip. A text field that has the focus keeps its letters.
-    const auto bind = [this](const QString& key, const QString& shortcuts, auto run) {
-        auto* action = new QAction(this);
-        action->setObjectName(key);
-        QList<QKeySequence> sequences;
-        for (const QString& one : shortcuts.split(' ')) sequences << QKeySequence(one);
-        action->setShortcuts(sequences);
-        connect(action, &QAction::triggered, this, run);
-        addAction(action);
-    };
-    for (const ToolRow& tool : toolRows())
-        bind(tool.name, QString(QLatin1Char(tool.key)), [this, &tool] { toolClicked(tool.name); });
-    for (const StripRow& row : stripRows())
-        bind(text(row.key), text(row.shortcuts), [this, &row] { toolPane_->button(text(row.key))->click(); });
 }
 
-void fMain::fillToolbar(QToolBar* bar, std::string_view buttons)
+void Bars::fillToolbar(QToolBar* bar, std::string_view buttons)
 {
     int last = 0;
     for (const ButtonRow& row : buttonRows()) {
@@ -138,31 +111,33 @@ void fMain::fillToolbar(QToolBar* bar, std::string_view buttons)
         last = row.number;
         QAction* action = bar->addAction(text(row.caption));
         action->setObjectName(text(row.bar) + "_" + QString::number(row.number));
-        makeTrigger(action, row.word);
+        makeTrigger(action, row.word, 0, false);
         action->setToolTip(action->isEnabled() ? text(row.caption) : text(row.caption) + tr(" (not available yet)"));
-        items_[action->objectName()] = action;
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
         button->setObjectName(action->objectName());
         button->setAccessibleName(text(row.caption));
-
-        QMenu* drop = nullptr;
-        int lastItem = 0;
-        for (const DropRow& item : dropRows()) {
-            if (item.bar != row.bar || item.button != row.number) continue;
-            if (!drop) drop = new QMenu(button);
-            if (lastItem && item.item > lastItem + 1) drop->addSeparator();
-            lastItem = item.item;
-            QAction* entry = drop->addAction(text(item.caption));
-            entry->setObjectName(action->objectName() + "_" + QString::number(item.item));
-            makeTrigger(entry, item.word);
-            items_[entry->objectName()] = entry;
-        }
-        if (!drop) continue;
-        giveAccessKeys(*drop);
-        drop->setObjectName(action->objectName() + "_menu");
-        action->setMenu(drop);
-        button->setPopupMode(QToolButton::InstantPopup);
+        addDrops(action, button, row);
     }
+}
+
+void Bars::addDrops(QAction* action, QToolButton* button, const ButtonRow& row)
+{
+    QMenu* drop = nullptr;
+    int last = 0;
+    for (const DropRow& item : dropRows()) {
+        if (item.bar != row.bar || item.button != row.number) continue;
+        if (!drop) drop = new QMenu(button);
+        if (last && item.item > last + 1) drop->addSeparator();
+        last = item.item;
+        QAction* entry = drop->addAction(text(item.caption));
+        entry->setObjectName(action->objectName() + "_" + QString::number(item.item));
+        makeTrigger(entry, item.word, 0, false);
+    }
+    if (!drop) return;
+    giveAccessKeys(*drop);
+    drop->setObjectName(action->objectName() + "_menu");
+    action->setMenu(drop);
+    button->setPopupMode(QToolButton::InstantPopup);
 }
 
 } // namespace velara

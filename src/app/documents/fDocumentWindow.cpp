@@ -1,11 +1,11 @@
-#include "app/frame/fDocumentWindow.h"
-#include "app/frame/fMain.h"
+#include "app/documents/fDocumentWindow.h"
+#include "app/documents/Documents.h"
 #include <QCloseEvent>
 #include <QMenu>
 
 namespace velara {
 
-fDocumentWindow::fDocumentWindow(fMain& frame, fImage* image) : frame_(frame), image_(image)
+fDocumentWindow::fDocumentWindow(Documents& documents, fImage* image) : documents_(documents), image_(image)
 {
     setWidget(image);
     setWindowIcon(QIcon::fromTheme("viewimage"));
@@ -27,7 +27,7 @@ void fDocumentWindow::closeEvent(QCloseEvent* event)
     if (!self) return;
     event->accept();
     image_ = nullptr;
-    frame_.bury(this);
+    documents_.bury(this);
 }
 
 } // namespace velara

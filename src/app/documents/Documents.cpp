@@ -1,0 +1,127 @@
+#include "app/documents/Documents.h"
+#include "app/documents/fDocumentWindow.h"
+#include <QTimer>
+#include <algorithm>
+
+namespace velara {
+
+Documents::Documents(QWidget* parent) : QObject(parent), area_(new QMdiArea(parent))
+{
+    area_->setObjectName("documents");
+    area_->setAccessibleName(tr("Pictures"));
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->viewport()->setMouseTracking(true);
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        fImage* image = active();
+        if (image && window == image->parentWidget()) image->activate();
+        emit activated();
+    });
+}
+
+void Documents::clear()
+{
+    delete area_; // the documents speak to the frame to their end
+    for (const QPointer<QWidget>& widget : std::exchange(buried_, {})) delete widget;
+}
+
+QList<fImage*> Documents::images() const
+{
+    QList<fImage*> list;
+    if (!area_) return list; // on its way out
+    for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder))
+        if (auto* document = qobject_cast<fDocumentWindow*>(window); document && document->image())
+            list << document->image();
+    return list;
+}
+
+std::vector<DocumentHandle> Documents::handles() const
+{
+    std::vector<DocumentHandle> list;
+    for (const fImage* image : images()) list.push_back(image->document().handle());
+    return list;
+}
+
+fImage* Documents::active()
+{
+    auto* window = area_ ? qobject_cast<fDocumentWindow*>(area_->currentSubWindow()) : nullptr;
+    if (!window || !window->image()) return nullptr;
+    lastActive_ = window->image();
+    return lastActive_;
+}
+
+fImage* Documents::of(const DocumentHandle& document) const
+{
+    for (fImage* image : images())
+        if (document && image->document().handle() == document) return image;
+    return nullptr;
+}
+
+QString Documents::uniqueTag(const QString& text)
+{
+    for (const fImage* image : images())
+        if (image->Tag() == text) return "[" + QString::number(++clashes_) + "]" + text;
+    return text;
+}
+
+void Documents::show(std::unique_ptr<fImage> image, bool maximized)
+{
+    auto* window = new fDocumentWindow(*this, image.release());
+    area_->addSubWindow(window);
+    if (maximized)
+        window->showMaximized();
+    else
+        window->show();
+}
+
+/// QMdiArea's own tiling knows only a grid.
+void Documents::arrange(Arrangement arrangement)
+{
+    if (arrangement == Arrangement::Cascade) return area_->cascadeSubWindows();
+    QList<QMdiSubWindow*> windows = area_->subWindowList(QMdiArea::StackingOrder);
+    windows.removeIf([](QMdiSubWindow* w) { return w->isHidden() || w->isMinimized(); });
+    const int count = int(windows.size());
+    const QRect all = area_->viewport()->rect();
+    for (int i = 0; i < count; ++i) {
+        const auto share = [&](int length) { return std::pair(length * i / count, length * (i + 1) / count); };
+        const bool rows = arrangement == Arrangement::Rows; // each as wide as the area
+        const auto [from, to] = share(rows ? all.height() : all.width());
+        windows[i]->showNormal();
+        windows[i]->setGeometry(rows ? QRect(0, from, all.width(), to - from)
+                                     : QRect(from, 0, to - from, all.height()));
+    }
+}
+
+bool Documents::closeAll()
+{
+    auto windows = area_->subWindowList(QMdiArea::CreationOrder);
+    std::reverse(windows.begin(), windows.end());
+    for (const QPointer<QMdiSubWindow> window : windows) {
+        if (!window) continue;
+        area_->setActiveSubWindow(window); // the question and a save are about this one
+        if (window && !window->close()) return false;
+    }
+    return true;
+}
+
+void Documents::bury(fDocumentWindow* window)
+{
+    fImage* image = qobject_cast<fImage*>(window->widget());
+    area_->removeSubWindow(window);
+    window->hide();
+    buried_ << window;
+    if (image) buried_ << image;
+    QTimer::singleShot(0, this, &Documents::deleteBuried);
+    emit buried();
+}
+
+void Documents::deleteBuried()
+{
+    if (works_ > 0) {
+        if (!buried_.isEmpty()) QTimer::singleShot(50, this, &Documents::deleteBuried);
+        return;
+    }
+    for (const QPointer<QWidget>& widget : std::exchange(buried_, {})) delete widget;
+}
+
+} // namespace velara

@@ -1,0 +1,80 @@
+// Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
+// are closed.
+#pragma once
+#include "seams/DocumentHandle.h"
+#include "ui/view/fImage.h"
+#include <QList>
+#include <QMdiArea>
+#include <QObject>
+#include <QPointer>
+#include <memory>
+#include <vector>
+
+namespace velara {
+
+class fDocumentWindow;
+
+class Documents final : public QObject {
+    Q_OBJECT
+  public:
+    explicit Documents(QWidget* parent);
+    ~Documents() override { clear(); }
+
+    QMdiArea& area() { return *area_; }
+    /// In order of opening.
+    QList<fImage*> images() const;
+    std::vector<DocumentHandle> handles() const;
+    /// Null without one.
+    fImage* active();
+    /// What active() gave last, if that is still there.
+    fImage* lastActive() const { return lastActive_; }
+    /// The window of an open document; null when it is closed.
+    fImage* of(const DocumentHandle& document) const;
+
+    /// The text, or "[" + n + "]" + text when an open document has it as its path; n counts clashes and is never
+    /// reused.
+    QString uniqueTag(const QString& text);
+    /// Each call gives the next.
+    int nextNumber() { return nextNumber_++; }
+
+    void show(std::unique_ptr<fImage> image, bool maximized);
+    /// Side by side or one below the other.
+    enum class Arrangement { Cascade, Rows, Columns };
+    void arrange(Arrangement arrangement);
+
+    /// Closes all, the last one first. One that refuses ends it: false.
+    bool closeAll();
+    /// Ends all without a question.
+    void clear();
+    /// Takes a closed document's window away; it is deleted when no work is under way.
+    void bury(fDocumentWindow* window);
+
+    /// Work during which a closed window may still be stood on: none is deleted while one of these lives.
+    class Work {
+      public:
+        explicit Work(Documents& documents) : documents_(documents) { ++documents_.works_; }
+        Work(const Work&) = delete;
+        ~Work()
+        {
+            if (--documents_.works_ == 0) documents_.deleteBuried();
+        }
+
+      private:
+        Documents& documents_;
+    };
+
+  signals:
+    void activated();
+    void buried();
+
+  private:
+    void deleteBuried();
+
+    QPointer<QMdiArea> area_;
+    QPointer<fImage> lastActive_;
+    QList<QPointer<QWidget>> buried_;
+    int works_ = 0;
+    int nextNumber_ = 1, clashes_ = 0;
+};
+
+} // namespace velara
