@@ -35,6 +35,9 @@ enum class Arrival {
     File, // the path is its own file, which SAVE writes to
 };
 
+/// What becomes of a file that no reader makes anything of.
+enum class Unreadable { OpensEmpty, Refused };
+
 class Frame {
   public:
     virtual ~Frame() = default;
@@ -59,7 +62,7 @@ class Frame {
     virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) = 0;
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
     /// that it can't be loaded.
-    virtual bool openPicture(const QString& path) = 0;
+    virtual bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) = 0;
 
     // --- Changes
     /// The one road from a command to a document. Runs the job on a draft of this document, whichever is active; asks

@@ -6,6 +6,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -139,6 +141,33 @@ TEST(QtPlatform, TheQuestionIsAboutTheFileThatIsWritten)
         EXPECT_EQ(platform.saveFileName(request).has_value(), yes);
         EXPECT_EQ(asked, "x.ppm already exists.\nDo you want to replace it?");
     }
+}
+
+// It comes back as large as it was left, in the folder that is asked for, with what is selected or typed shown.
+TEST(QtPlatform, FileDialogsRememberTheirSizeAndShowThePicture)
+{
+    QtPlatform platform;
+    QTemporaryDir folder, other;
+    ASSERT_TRUE(QImage(30, 20, QImage::Format_RGB32).save(folder.filePath("x.png")));
+    const FileDialog request{"Open file", "Png|*.png", folder.path()};
+    const auto shown = [](QFileDialog& dialog, const char* name) { return dialog.findChild<QLabel*>(name)->text(); };
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        dialog.resize(901, 523);
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("x.png");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
+        EXPECT_EQ(shown(dialog, "previewName"), "x.png");
+        dialog.setDirectory(other.path());
+        dialog.reject();
+    });
+    EXPECT_FALSE(platform.openFileName(request));
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.size(), QSize(901, 523));
+        EXPECT_EQ(dialog.directory().path(), folder.path());
+        dialog.selectFile("x.png");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(platform.openFileName(request), folder.filePath("x.png"));
 }
 
 TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)

@@ -20,7 +20,7 @@ DocumentHandle RecordingFrame::adopt(const Bits&, const QString& path, Arrival)
     return {};
 }
 
-bool RecordingFrame::openPicture(const QString& path)
+bool RecordingFrame::openPicture(const QString& path, Unreadable)
 {
     note("opened: " + path.toStdString());
     return true;

@@ -36,7 +36,7 @@ struct RecordingFrame final : Frame {
     fImage* GetActiveImage() override { return image; }
     std::vector<DocumentHandle> openDocuments() override;
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival) override;
-    bool openPicture(const QString& path) override;
+    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     Outcome change(const DocumentHandle& document, const Job& job, After after) override;
     void finish(const DocumentHandle& document) override;
     void report(const QString& what, const Outcome& outcome) override;

@@ -42,7 +42,7 @@ class fMain final : public QMainWindow, public Frame {
     fImage* GetActiveImage() override { return documents_->active(); }
     std::vector<DocumentHandle> openDocuments() override { return documents_->handles(); }
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) override;
-    bool openPicture(const QString& path) override;
+    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     Outcome change(const DocumentHandle& document, const Job& job, After after = After::Step) override;
     void finish(const DocumentHandle& document) override;
     void report(const QString& what, const Outcome& outcome) override;
@@ -162,7 +162,7 @@ class fMain final : public QMainWindow, public Frame {
     void showFailure(const QString& what, const std::exception& failure);
     /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
-    bool openPath(const QString& path);
+    bool openPath(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     QString inDialogFolder(const QString& name) const;
     void showLoadError();
     DocumentHandle adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival);

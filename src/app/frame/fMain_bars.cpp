@@ -6,6 +6,7 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "app/utilities/Clips.h"
+#include "app/utilities/browse.h"
 #include "seams/Platform.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPicker.h"
@@ -60,6 +61,7 @@ void fMain::makeBoxes()
     boxes_->set(Boxes::Clips, clips_->box());
     auto* textures = new fToolTextures(*this, this);
     connect(textures, &fToolTextures::placing, this, [this] { toolClicked(QStringLiteral("Text")); });
+    connect(textures, &fToolTextures::folderWanted, this, [=, this] { browseTextureFolder(*this, *textures); });
     boxes_->set(Boxes::Textures, textures);
 }
 

@@ -3,6 +3,7 @@
 #include "app/menus/fIcons.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
+#include "app/utilities/browse.h"
 #include "app/utilities/desktop.h"
 #include "app/utilities/icons.h"
 #include "commands/filterDialogs.h"
@@ -32,6 +33,7 @@ constexpr Handler kHandlers[] = {
     // No document needed
     {"NEW",                  [](fMain& f) { f.newPicture(); }},
     {"OPEN",                 [](fMain& f) { f.open(); }},
+    {"FILEASSOCIATION",      showAssociation},
     {"SELECTSOURCE",         selectSource},
     {"ACQUIRETWAIN",         acquire},
     {"CAPTUREDESKTOP",       [](fMain& f) { f.capture().desktop(); }},
@@ -80,6 +82,8 @@ constexpr Handler kHandlers[] = {
     {"RESET",                [](fMain& f) { f.reset(); }},
 
     // What the frame does by itself
+    {"@BROWSE",              browsePictures},
+    {"@ASSOCIATION",         showAssociation},
     {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
     {"@ICON",                extractIcons},
     {"@EXIT",                [](fMain& f) { f.close(); }},

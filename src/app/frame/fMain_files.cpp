@@ -80,7 +80,7 @@ void fMain::applyOpenOptions()
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
 
 /// False when the file can't be loaded, after which there is no document.
-bool fMain::openPath(const QString& path)
+bool fMain::openPath(const QString& path, Unreadable unreadable)
 {
     platform_.yield();
     if (closing_) return true;
@@ -91,8 +91,8 @@ bool fMain::openPath(const QString& path)
     } catch (const std::exception&) { // a picture too large for this machine's memory
     }
     if (!loaded || closing_) return closing_;
-    // A file that its reader can't make out opens as an empty document.
     const bool read = image->PictureExists();
+    if (!read && unreadable == Unreadable::Refused) return false;
     const QString note = image->LoadNote();
     if (!read) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
     // What has lost its end doesn't replace its file without a question.
@@ -101,9 +101,9 @@ bool fMain::openPath(const QString& path)
     return true;
 }
 
-bool fMain::openPicture(const QString& path)
+bool fMain::openPicture(const QString& path, Unreadable unreadable)
 {
-    if (!openPath(path)) {
+    if (!openPath(path, unreadable)) {
         showLoadError();
         return false;
     }
@@ -167,6 +167,7 @@ void fMain::saveAs()
     dialog.writtenAs = [](const QString& name) { return saveTargetOf(name).file; };
     const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;
+    if (setup_.PreserveLastFolder) dialogFolder_ = path->left(path->lastIndexOf('/') + 1);
     saveTo(*image, withExtension(*path, usual));
 }
 

@@ -1,5 +1,6 @@
 #include "app/settings/fPreferences.h"
 #include "seams/Platform.h"
+#include "ui/utilities/mBrowseFolder.h"
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -94,9 +95,9 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
 
 void fPreferences::browse()
 {
-    const auto folder = platform_.pickFolder("Select Images default folder", copy_.ImagesPath);
-    if (!folder || folder->isEmpty()) return;
-    copy_.ImagesPath = folder->endsWith('/') ? *folder : *folder + '/';
+    const QString folder = BrowseForFolder(platform_, "Select Images default folder", this, copy_.ImagesPath);
+    if (folder.isEmpty()) return;
+    copy_.ImagesPath = folder.endsWith('/') ? folder : folder + '/';
     path_->setText(copy_.ImagesPath);
 }
 

@@ -3,6 +3,7 @@
 #include "document/Document.h"
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
+#include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -46,8 +47,9 @@ QPushButton* applyButton(const char* name, const QString& accessibleName)
 
 fEffectsPage::fEffectsPage(Frame& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), container_(new QWidget), tb_(new QWidget(container_)),
-      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblSize_(new QLabel), lblFolder_(new QLabel),
-      ListFile_(new QListWidget), CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
+      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblSize_(new QLabel),
+      lblFolder_(new fPathLabel("lblFolder")), ListFile_(new QListWidget),
+      CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
       CmdFileApply_(applyButton("CmdFileApply", tr("Apply the file as a texture"))),
       folder_(frame.platform().programFolder() + QStringLiteral("/Textures"))
 {
@@ -129,12 +131,10 @@ QWidget* fEffectsPage::makeFiles()
     ListFile_->setMinimumHeight(60);
     connect(ListFile_, &QListWidget::currentRowChanged, this, [this](int row) { CmdFileApply_->setEnabled(row >= 0); });
     connect(ListFile_, &QListWidget::itemActivated, this, [this] { ApplyTexture(effect(), true); });
-    auto* folder = new QPushButton(tr("&Folder..."));
+    auto* folder = new QPushButton(tr("Fol&der..."));
     folder->setObjectName(QStringLiteral("cmdfile"));
     folder->setAccessibleName(tr("Choose the folder of the texture files"));
-    connect(folder, &QPushButton::clicked, this, &fEffectsPage::chooseFolder);
-    lblFolder_->setObjectName(QStringLiteral("lblFolder"));
-    lblFolder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    connect(folder, &QPushButton::clicked, this, &fEffectsPage::folderWanted);
 
     auto* box = new QWidget;
     auto* column = new QVBoxLayout(box);
@@ -209,17 +209,13 @@ void fEffectsPage::CheckImagesFile()
         QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files, QDir::Name | QDir::IgnoreCase);
     ListFile_->addItems(files);
     ListFile_->setCurrentRow(static_cast<int>(files.indexOf(chosen)));
-    lblFolder_->setText(files.isEmpty() ? tr("No texture files in %1").arg(QDir::toNativeSeparators(folder_))
+    lblFolder_->setPath(files.isEmpty() ? tr("No texture files in %1").arg(QDir::toNativeSeparators(folder_))
                                         : tr("Texture files of %1").arg(QDir::toNativeSeparators(folder_)));
-    lblFolder_->setToolTip(QDir::toNativeSeparators(folder_));
 }
 
-void fEffectsPage::chooseFolder()
+void fEffectsPage::setFolder(const QString& folder)
 {
-    const QPointer<fEffectsPage> alive = this;
-    const auto folder = frame_.platform().pickFolder(tr("Folder of the texture files"), folder_);
-    if (!alive || !folder || folder->isEmpty()) return;
-    folder_ = *folder;
+    folder_ = folder;
     CheckImagesFile();
 }
 

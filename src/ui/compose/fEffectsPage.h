@@ -14,6 +14,7 @@ class QSlider;
 namespace velara {
 
 class Frame;
+class fPathLabel;
 
 class fEffectsPage final : public QWidget {
     Q_OBJECT
@@ -26,11 +27,16 @@ class fEffectsPage final : public QWidget {
     void ApplyTexture(int Index, bool FromFile);
     /// Lists the pictures of the textures folder.
     void CheckImagesFile();
+    /// The textures folder.
+    const QString& folder() const { return folder_; }
+    void setFolder(const QString& folder);
     /// Keeps V in step with the toolbar's height.
     void UppdateScroll();
 
   signals:
     void effectChosen(const QString& name);
+    /// The user wants another textures folder.
+    void folderWanted();
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -42,14 +48,14 @@ class fEffectsPage final : public QWidget {
     QWidget* makeFiles();
     void drawThumbnails();
     void flow();
-    void chooseFolder();
 
     Frame& frame_;
     QWidget *container_, *tb_;
     QScrollBar* V_;
     QButtonGroup group_;
     QSlider* br_;
-    QLabel *lblSize_, *lblFolder_;
+    QLabel* lblSize_;
+    fPathLabel* lblFolder_;
     QListWidget* ListFile_;
     QPushButton *CmdApply_, *CmdFileApply_;
     QString folder_;

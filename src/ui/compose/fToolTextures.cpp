@@ -19,9 +19,14 @@ fToolTextures::fToolTextures(Frame& frame, QWidget* parent)
     column->setContentsMargins(4, 4, 4, 4);
     column->addWidget(SSTab1_);
     connect(effects_, &fEffectsPage::effectChosen, this, &fToolTextures::showEffect);
+    connect(effects_, &fEffectsPage::folderWanted, this, &fToolTextures::folderWanted);
     connect(text_, &fTextPage::placing, this, &fToolTextures::placing);
     resize(330, 420);
 }
+
+const QString& fToolTextures::textureFolder() const { return effects_->folder(); }
+
+void fToolTextures::setTextureFolder(const QString& folder) { effects_->setFolder(folder); }
 
 void fToolTextures::showEffect(const QString& name) { setWindowTitle(QStringLiteral("Textures: ") + name); }
 

@@ -18,10 +18,14 @@ class fToolTextures final : public QWidget {
 
     fTextPage& textPage() { return *text_; }
     fEffectsPage& effectsPage() { return *effects_; }
+    const QString& textureFolder() const;
+    void setTextureFolder(const QString& folder);
 
   signals:
     /// The user wants the mouse tool "Text".
     void placing();
+    /// And another folder of textures.
+    void folderWanted();
 
   private:
     void showEffect(const QString& name);

@@ -1,4 +1,6 @@
 #include "ui/widgets/FolderModel.h"
+#include "fileio/families.h"
+#include "ui/widgets/ThumbnailIcons.h"
 #include <QApplication>
 #include <QCollator>
 #include <QDir>
@@ -129,8 +131,17 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
     if (!index.isValid()) return {};
     const Item& item = *itemOf(index);
     if (role == Qt::DisplayRole) return item.name;
-    if (role == Qt::DecorationRole) return item.folder ? folderIcon_ : fileIcon_;
-    return {};
+    if (role != Qt::DecorationRole) return {};
+    if (item.folder) return folderIcon_;
+    return thumbnails_ && familyOf(item.name) ? thumbnails_->icon(item.path()) : fileIcon_;
+}
+
+void FolderModel::setThumbnails(ThumbnailIcons& icons)
+{
+    thumbnails_ = &icons;
+    connect(&icons, &ThumbnailIcons::ready, this, [this](const QString& path) {
+        if (const Item* item = find(path)) emit dataChanged(indexOf(*item), indexOf(*item), {Qt::DecorationRole});
+    });
 }
 
 // --- Paths

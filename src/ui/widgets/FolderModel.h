@@ -12,6 +12,8 @@
 
 namespace velara {
 
+class ThumbnailIcons;
+
 class FolderModel : public QAbstractItemModel {
   public:
     explicit FolderModel(bool withFiles, QObject* parent = nullptr);
@@ -22,6 +24,9 @@ class FolderModel : public QAbstractItemModel {
     QModelIndex indexOf(const QString& path);
     QString path(const QModelIndex& index) const;
     bool isFolder(const QModelIndex& index) const;
+
+    /// Files that are pictures get these in place of the plain icon. icons lives as long as the model.
+    void setThumbnails(ThumbnailIcons& icons);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -46,6 +51,7 @@ class FolderModel : public QAbstractItemModel {
     void followDisk();
 
     bool withFiles_;
+    ThumbnailIcons* thumbnails_ = nullptr;
     QIcon folderIcon_, fileIcon_;
     std::unique_ptr<Item> root_;
     QFileSystemWatcher watcher_;

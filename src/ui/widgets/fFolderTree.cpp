@@ -1,5 +1,6 @@
 #include "ui/widgets/fFolderTree.h"
 #include "ui/widgets/FolderModel.h"
+#include "ui/widgets/ThumbnailIcons.h"
 #include <QKeyEvent>
 
 namespace velara {
@@ -14,6 +15,13 @@ fFolderTree::fFolderTree(Shows shows, const QString& objectName, const QString& 
     setUniformRowHeights(true); // no row of thousands is measured
     setExpandsOnDoubleClick(false);
     connect(this, &QTreeView::doubleClicked, this, &fFolderTree::choose);
+}
+
+void fFolderTree::showThumbnails(Previews& previews)
+{
+    constexpr int kSide = 32;
+    setIconSize({kSide, kSide});
+    model_->setThumbnails(*new ThumbnailIcons(previews, kSide, model_));
 }
 
 QString fFolderTree::path() const { return model_->path(currentIndex()); }

@@ -6,6 +6,7 @@
 namespace velara {
 
 class FolderModel;
+class Previews;
 
 class fFolderTree : public QTreeView {
     Q_OBJECT
@@ -14,6 +15,8 @@ class fFolderTree : public QTreeView {
 
     fFolderTree(Shows shows, const QString& objectName, const QString& accessibleName, QWidget* parent = nullptr);
 
+    /// Pictures are shown by small copies of them.
+    void showThumbnails(Previews& previews);
     /// Of the current item; empty without one.
     QString path() const;
     /// Opens the tree down to the path, and a folder itself, and makes it current. Where it doesn't exist, the nearest

@@ -209,9 +209,7 @@ TEST_F(TexturesBoxTest, FilesAreTextures)
     EXPECT_EQ(1, frame.logged("step"));
     EXPECT_FALSE(before == document->Bits());
 
-    frame.platform_.answers = {std::nullopt, temp.path()};
-    press("cmdfile");
-    EXPECT_EQ(3, list->count()) << "cancelled";
+    QObject::connect(box.get(), &fToolTextures::folderWanted, [&] { box->setTextureFolder(temp.path()); });
     press("cmdfile");
     EXPECT_EQ(0, list->count());
     EXPECT_TRUE(find<QLabel>("lblFolder")->text().startsWith("No texture files"));

@@ -1,0 +1,35 @@
+#include "platform/desktop/dialogs/boxes.h"
+#include <QApplication>
+#include <QPointer>
+
+namespace velara {
+
+namespace {
+
+QMessageBox::Icon boxIcon(Icon icon)
+{
+    constexpr QMessageBox::Icon kIcons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Warning,
+                                            QMessageBox::Critical};
+    return kIcons[static_cast<int>(icon)];
+}
+
+} // namespace
+
+QWidget* parentOfDialogs()
+{
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return QApplication::activeWindow();
+}
+
+int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)
+{
+    // On the heap and watched: its parent may go while the box stands.
+    const QPointer<QMessageBox> box = new QMessageBox(boxIcon(icon), title, text, buttons, parentOfDialogs());
+    box->setObjectName("messageBox");
+    box->setTextFormat(Qt::PlainText); // a path may hold anything
+    const int answer = box->exec();
+    delete box;
+    return answer;
+}
+
+} // namespace velara

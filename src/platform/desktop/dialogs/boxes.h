@@ -1,0 +1,14 @@
+// Message boxes, and what dialogs of the program stand over.
+#pragma once
+#include "seams/Platform.h"
+#include <QMessageBox>
+
+namespace velara {
+
+/// The window that the user is in.
+QWidget* parentOfDialogs();
+
+/// The button that ended the box.
+int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons);
+
+} // namespace velara

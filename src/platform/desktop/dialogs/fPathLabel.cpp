@@ -1,0 +1,29 @@
+#include "platform/desktop/dialogs/fPathLabel.h"
+#include <QPainter>
+#include <QStyle>
+
+namespace velara {
+
+fPathLabel::fPathLabel(const QString& objectName, QWidget* parent) : QLabel(parent)
+{
+    setObjectName(objectName);
+    setTextFormat(Qt::PlainText); // a path may hold anything
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void fPathLabel::setPath(const QString& path)
+{
+    setText(path);
+    setToolTip(path.toHtmlEscaped());
+}
+
+QSize fPathLabel::minimumSizeHint() const { return {80, QLabel::minimumSizeHint().height()}; }
+
+void fPathLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
+}
+
+} // namespace velara

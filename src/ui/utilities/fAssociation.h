@@ -1,0 +1,16 @@
+// fAssociation: the list of the picture formats. It registers nothing: which program opens a file is the desktop's.
+#pragma once
+#include <QDialog>
+
+namespace velara {
+
+class fAssociation final : public QDialog {
+    Q_OBJECT
+  public:
+    explicit fAssociation(QWidget* parent);
+
+  private:
+    QWidget* makeRows();
+};
+
+} // namespace velara

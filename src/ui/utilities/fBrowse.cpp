@@ -1,0 +1,96 @@
+#include "ui/utilities/fBrowse.h"
+#include "fileio/families.h"
+#include "platform/desktop/dialogs/PreviewPane.h"
+#include "platform/desktop/dialogs/fPathLabel.h"
+#include "seams/Platform.h"
+#include "ui/widgets/fFolderTree.h"
+#include <QFileInfo>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+const QString kSection = QStringLiteral("Browse");
+
+/// The size of the last time, as far as the screen holds it.
+QSize rememberedSize(Platform& platform)
+{
+    const QStringList sides = platform.setting(kSection, "Size", {}).split('x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    return size.isEmpty() ? QSize(760, 520) : size;
+}
+
+} // namespace
+
+fBrowse::fBrowse(Platform& platform, BrowseMode mode, const QString& start, QWidget* parent)
+    : QDialog(parent), platform_(platform), mode_(mode),
+      BF_(new fFolderTree(mode == BrowseMode::Pictures ? fFolderTree::Shows::FoldersAndFiles
+                                                       : fFolderTree::Shows::Folders,
+                          "BF", tr("Folders"))),
+      preview_(new PreviewPane(platform.previews())), FileName_(new fPathLabel("FileName"))
+{
+    setObjectName("fBrowse");
+    setWindowTitle("Browse For Graphic Filles");
+    setModal(true);
+    auto* column = new QVBoxLayout(this);
+    auto* sides = new QSplitter;
+    sides->setChildrenCollapsible(false);
+    sides->addWidget(BF_);
+    sides->addWidget(preview_);
+    sides->setStretchFactor(0, 3);
+    sides->setStretchFactor(1, 2);
+    column->addWidget(sides, 1);
+    column->addWidget(makeButtons());
+    if (mode == BrowseMode::Pictures) BF_->showThumbnails(platform.previews());
+    preview_->setVisible(mode == BrowseMode::Pictures);
+    connect(BF_, &fFolderTree::selection, this, &fBrowse::selected);
+    connect(BF_, &fFolderTree::chosen, CmdOpen_, &QPushButton::click);
+    resize(rememberedSize(platform));
+    BF_->select(start);
+    BF_->setFocus();
+}
+
+fBrowse::~fBrowse() { platform_.setSetting(kSection, "Size", QString("%1x%2").arg(width()).arg(height())); }
+
+QWidget* fBrowse::makeButtons()
+{
+    CmdOpen_ = new QPushButton(tr("&Open"));
+    CmdOpen_->setObjectName("CmdOpen");
+    CmdOpen_->setDefault(true);
+    CmdOpen_->setEnabled(false);
+    connect(CmdOpen_, &QPushButton::clicked, this, &fBrowse::open);
+    auto* exit = new QPushButton(tr("E&xit"));
+    exit->setObjectName("CmdExit");
+    exit->setAutoDefault(false);
+    connect(exit, &QPushButton::clicked, this, &fBrowse::reject);
+    FileName_->setAccessibleName(tr("Selected"));
+
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(FileName_, 1);
+    row->addWidget(CmdOpen_);
+    row->addWidget(exit);
+    return box;
+}
+
+void fBrowse::selected(const QString& path)
+{
+    const bool isFolder = QFileInfo(path).isDir();
+    const bool fits = mode_ == BrowseMode::TextureFolder ? isFolder : !isFolder && familyOf(path);
+    FileName_->setPath(fits ? path : QString());
+    CmdOpen_->setEnabled(fits);
+    preview_->showFile(path);
+}
+
+void fBrowse::open()
+{
+    const QString path = FileName_->text();
+    accept();
+    emit opened(path);
+}
+
+} // namespace velara

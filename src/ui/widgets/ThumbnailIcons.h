@@ -1,0 +1,38 @@
+// ThumbnailIcons: the icons of picture files in a list or tree. What has been asked for lately is kept, and what has
+// been scrolled away is not waited for.
+#pragma once
+#include "seams/Previews.h"
+#include <QCache>
+#include <QIcon>
+#include <QObject>
+#include <list>
+
+namespace velara {
+
+class ThumbnailIcons final : public QObject {
+    Q_OBJECT
+  public:
+    /// side: of the icons, in pixels; they are square, with the picture in the middle.
+    ThumbnailIcons(Previews& previews, int side, QObject* parent);
+
+    /// The thumbnail, a broken picture where it can't be read, or an empty frame as long as it is being read.
+    QIcon icon(const QString& path);
+
+  signals:
+    void ready(const QString& path);
+
+  private:
+    struct Waiting {
+        QString path;
+        Previews::Request request;
+    };
+    void answered(const QString& path, const Preview& preview);
+
+    Previews& previews_;
+    int side_;
+    QIcon empty_, broken_;
+    QCache<QString, QIcon> icons_;
+    std::list<Waiting> waiting_; // the latest last
+};
+
+} // namespace velara

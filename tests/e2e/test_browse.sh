@@ -1,0 +1,93 @@
+#!/bin/sh
+# Pictures found by browsing: type ahead, look at the preview, open by a double click and by Enter; a folder chosen for
+# the textures box; the preview in the open dialog. What is on the screen is told by colours that nothing else has.
+. "$(dirname "$0")/lib.sh"
+export XDG_CACHE_HOME=$scratch/home/.cache
+
+pictures=$scratch/home/Pictures
+mkdir -p "$pictures"
+convert -size 300x200 'xc:#12fe34' "$pictures/green.PNG"
+convert -size 300x200 'xc:#fe12ab' "$pictures/pink.bmp"
+echo 'no picture' >"$pictures/zbroken.png"
+for i in $(seq 60); do echo note >"$pictures/note$i.txt"; done
+
+# place COLOUR [LEAST WIDTH]: the box of what has it on the screen, as WxH+X+Y
+place() {
+    import -window root "$scratch/screen.png"
+    convert "$scratch/screen.png" -fill black +opaque "$1" -fill white -opaque "$1" -define connected-components:verbose=true \
+        -connected-components 4 null: | awk '/gray\(255\)|white|srgb\(255,255,255\)/ {print $2}'
+}
+# shows COLOUR COUNT: so many areas of it
+areas() { place "$1" | grep -vc '^[0-4]x' || true; }
+shows() { [ "$(areas "$1")" = "$2" ]; }
+middle_of() { echo "$1" | tr 'x+' '  ' | awk '{print int($3 + $1 / 2), int($4 + $2 / 2)}'; }
+
+touch -d '2024-05-06' "$pictures"/* # what is only just being written gets no shared thumbnail
+start
+cp -p "$pictures"/*.PNG "$pictures"/*.bmp "$folder/Images/" # beside the program's own
+keys alt+f b
+until_true "the browser" has_window '^Browse For Graphic Filles$'
+sleep 0.3
+xdotool type --delay 30 gree
+until_true "preview and thumbnail of the green one" shows '#12fe34' 2
+until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/normal/*.png"
+
+# The thumbnail stands at the left of its row: a double click on it
+thumb=$(place '#12fe34' | sort -t+ -k2n | head -1)
+xdotool mousemove $(middle_of "$thumb") click --repeat 2 --delay 60 1
+until_true "the browser to close" no_window '^Browse For Graphic Filles$'
+until_true "the open picture" shows '#12fe34' 1
+
+# It comes back where it was; what is broken says so, and is not opened.
+keys alt+f b
+until_true "the browser again" has_window '^Browse For Graphic Filles$'
+until_true "its place again" shows '#12fe34' 2
+xdotool type --delay 30 pin
+until_true "the other preview" shows '#fe12ab' 2
+keys Return
+until_true "the browser to close" no_window '^Browse For Graphic Filles$'
+cp "$pictures/zbroken.png" "$folder/Images/"
+keys alt+f b
+until_true "the browser a third time" has_window '^Browse For Graphic Filles$'
+sleep 0.3
+xdotool type --delay 30 zbr
+sleep 0.5
+keys Return
+until_true "the message" has_window '^Velara Studio$'
+keys Return
+sleep 0.3
+
+# The open dialog shows what is typed or selected in it.
+keys ctrl+o
+until_true "the open dialog" has_window '^Open file$'
+sleep 0.3
+pinks=$(areas '#fe12ab')
+xdotool type --delay 30 pink.bmp
+until_true "the preview in the dialog" shows '#fe12ab' $((pinks + 1))
+keys Escape Escape
+until_true "the dialog to close" no_window '^Open file$'
+
+# A folder for the textures box, by keys alone; its one file, applied, leaves nothing of a plain picture.
+box=$(xdotool search --onlyvisible --name '^Textures: Emboss$')
+xdotool windowmove --sync "$box" 20 20
+xdotool windowactivate --sync "$box"
+keys alt+e
+sleep 0.3
+keys alt+d
+until_true "the choice of a folder" has_window '^Browse For Graphic Filles$'
+sleep 0.3
+mkdir "$folder/Textures/Cloth"
+convert -size 64x64 plasma:red-blue -colorspace gray "BMP3:$folder/Textures/Cloth/linen.bmp"
+sleep 0.5 # the tree follows the disk
+xdotool type --delay 30 clo
+sleep 0.2
+keys Return
+until_true "the choice to close" no_window '^Browse For Graphic Filles$'
+sleep 0.3
+[ "$(areas '#fe12ab')" = 1 ] || fail "the pink picture is seen $(areas '#fe12ab') times"
+xdotool mousemove --window "$box" 55 302 click --repeat 2 --delay 60 1 # the first file of the list
+until_true "the picture with the texture" shows '#fe12ab' 0
+xdotool windowactivate --sync "$(frame)"
+keys ctrl+z
+until_true "the picture as it was" shows '#fe12ab' 1
+quit

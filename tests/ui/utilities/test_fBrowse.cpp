@@ -1,0 +1,181 @@
+// The browser, its preview and its thumbnails, over real folders and with previews that come when the test says so.
+#include "support/RecordingPlatform.h"
+#include "ui/utilities/fAssociation.h"
+#include "ui/utilities/fBrowse.h"
+#include "ui/utilities/mBrowseFolder.h"
+#include "ui/widgets/ThumbnailIcons.h"
+#include "ui/widgets/fFolderTree.h"
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+namespace {
+
+Preview red(QSize size)
+{
+    Preview preview{QImage(40, 30, QImage::Format_RGB32), size, {}};
+    preview.image.fill(Qt::red);
+    return preview;
+}
+
+struct Browser : ::testing::Test {
+    RecordingPlatform platform;
+    QTemporaryDir top;
+    std::unique_ptr<fBrowse> window;
+    QStringList opened;
+
+    void SetUp() override
+    {
+        QDir(top.path()).mkdir("folder.png");
+        for (const char* name : {"a.png", "Loud.JPEG", "notes.txt", "bare", "c.cur"})
+            QFile(at(name)).open(QFile::WriteOnly);
+    }
+    QString at(const QString& name) const { return top.path() + '/' + name; }
+    RecordingPreviews& previews() { return platform.previews(); }
+    void show(BrowseMode mode, const QString& start)
+    {
+        window = std::make_unique<fBrowse>(platform, mode, start, nullptr);
+        QObject::connect(window.get(), &fBrowse::opened, [this](const QString& path) { opened << path; });
+        window->show();
+    }
+    fFolderTree& tree() { return *window->findChild<fFolderTree*>("BF"); }
+    QString label(const char* name) { return window->findChild<QLabel*>(name)->text(); }
+    bool canOpen() { return window->findChild<QPushButton*>("CmdOpen")->isEnabled(); }
+    QColor middle()
+    {
+        const QImage shown = window->findChild<QWidget*>("previewPicture")->grab().toImage();
+        return shown.pixelColor(shown.rect().center());
+    }
+};
+
+} // namespace
+
+TEST_F(Browser, OpensPicturesOrFoldersAlone)
+{
+    struct {
+        BrowseMode mode;
+        const char* name;
+        bool can;
+    } const rows[] = {
+        {BrowseMode::Pictures, "a.png", true},           {BrowseMode::Pictures, "Loud.JPEG", true},
+        {BrowseMode::Pictures, "folder.png", false},     {BrowseMode::Pictures, "notes.txt", false},
+        {BrowseMode::Pictures, "bare", false},           {BrowseMode::Pictures, "c.cur", false},
+        {BrowseMode::TextureFolder, "folder.png", true},
+    };
+    for (const auto& row : rows) {
+        show(row.mode, at(row.name));
+        EXPECT_EQ(tree().path(), at(row.name));
+        EXPECT_EQ(canOpen(), row.can) << row.name;
+        EXPECT_EQ(label("FileName"), row.can ? at(row.name) : QString());
+    }
+    EXPECT_EQ(window->windowTitle(), "Browse For Graphic Filles");
+}
+
+TEST_F(Browser, DoubleClickEnterAndTheButtonOpenOnceAndClose)
+{
+    for (const int way : {0, 1, 2}) {
+        show(BrowseMode::Pictures, top.path());
+        QTest::keyClicks(&tree(), "lou");
+        ASSERT_EQ(tree().path(), at("Loud.JPEG"));
+        const QPoint place = tree().visualRect(tree().currentIndex()).center();
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, place);
+        if (way == 0) QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, place);
+        if (way == 1) QTest::keyClick(&tree(), Qt::Key_Return);
+        if (way == 2) window->findChild<QPushButton*>("CmdOpen")->click();
+        EXPECT_EQ(opened, QStringList(at("Loud.JPEG"))) << way;
+        EXPECT_FALSE(window->isVisible());
+        opened.clear();
+    }
+    show(BrowseMode::Pictures, at("notes.txt"));
+    QTest::keyClick(&tree(), Qt::Key_Return);
+    EXPECT_TRUE(window->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(opened.empty());
+}
+
+TEST_F(Browser, ShowsWhatIsSelectedAndForgetsWhatWas)
+{
+    show(BrowseMode::Pictures, at("a.png"));
+    EXPECT_EQ(label("previewKind"), "Portable Network Group");
+    EXPECT_TRUE(previews().answer(at("a.png"), red({4000, 3000})));
+    EXPECT_EQ(label("previewSize"), "4000 x 3000 pixels");
+    EXPECT_EQ(middle(), QColor(Qt::red));
+
+    tree().select(at("Loud.JPEG")); // the other's answer comes too late
+    EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));
+    EXPECT_EQ(label("previewSize"), "");
+    EXPECT_TRUE(previews().answer(at("Loud.JPEG"), {{}, {}, "Loud.JPEG can't be read: it is broken"}));
+    EXPECT_NE(middle(), QColor(Qt::red));
+    EXPECT_EQ(label("previewKind"), "Independent JPEG group");
+
+    tree().select(at("notes.txt"));
+    EXPECT_EQ(label("previewKind"), "");
+    EXPECT_EQ(previews().asked.back(), at("Loud.JPEG")) << "what is no picture is not read";
+    tree().select(at("a.png"));
+    window.reset(); // with the answer on its way
+    EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));
+}
+
+TEST_F(Browser, ThumbnailsStandBeforeTheNames)
+{
+    show(BrowseMode::Pictures, at("a.png"));
+    window->grab();
+    const auto icon = [&] {
+        return tree()
+            .currentIndex()
+            .data(Qt::DecorationRole)
+            .value<QIcon>()
+            .pixmap(32, 32)
+            .toImage()
+            .pixelColor(16, 16);
+    };
+    EXPECT_NE(icon(), QColor(Qt::red));
+    EXPECT_TRUE(previews().answer("thumbnail " + at("a.png"), red({400, 300})));
+    EXPECT_EQ(icon(), QColor(Qt::red));
+    EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("a.png")), 1);
+    EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("notes.txt")), 0);
+}
+
+TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
+{
+    RecordingPreviews previews;
+    ThumbnailIcons icons(previews, 32, nullptr);
+    QStringList ready;
+    QObject::connect(&icons, &ThumbnailIcons::ready, [&](const QString& path) { ready << path; });
+    for (int i = 0; i < 500; ++i) icons.icon(QString("%1.png").arg(i));
+    EXPECT_FALSE(previews.answer("thumbnail 0.png", red({4, 4})));
+    EXPECT_TRUE(previews.answer("thumbnail 499.png", red({4, 4})));
+    icons.icon("499.png");
+    icons.icon("0.png"); // seen again, asked again
+    EXPECT_TRUE(previews.answer("thumbnail 0.png", {{}, {}, "broken"}));
+    EXPECT_EQ(ready, QStringList({"499.png", "0.png"}));
+    EXPECT_EQ(previews.asked.size(), 501u);
+}
+
+TEST_F(Browser, FolderDialogAnswersWithTextAndAssociationsDoNothing)
+{
+    auto* owner = new QWidget;
+    platform.answers = {"/somewhere", std::nullopt};
+    EXPECT_EQ(BrowseForFolder(platform, "Where", owner, "/"), "/somewhere");
+    EXPECT_EQ(BrowseForFolder(platform, "Where", owner, "/"), "");
+    EXPECT_TRUE(platform.logged("folder: Where"));
+    delete owner;
+
+    fAssociation list(nullptr);
+    list.show();
+    EXPECT_EQ(list.findChild<QWidget*>("picA")->findChildren<QCheckBox*>().size(), 22);
+    EXPECT_EQ(list.findChild<QCheckBox*>("cT_0")->text(), "*.bmp; *.dib");
+    list.findChild<QPushButton*>("Command1")->click();
+    EXPECT_TRUE(list.isVisible());
+    list.findChild<QPushButton*>("Command2")->click();
+    EXPECT_FALSE(list.isVisible());
+}
+
+} // namespace velara
