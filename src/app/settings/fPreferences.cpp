@@ -1,6 +1,6 @@
 #include "app/settings/fPreferences.h"
 #include "seams/Platform.h"
-#include "ui/utilities/mBrowseFolder.h"
+#include "ui/browse/mBrowseFolder.h"
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

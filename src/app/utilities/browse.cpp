@@ -1,9 +1,9 @@
 #include "app/utilities/browse.h"
 #include "app/frame/fMain.h"
 #include "seams/Platform.h"
+#include "ui/browse/fAssociation.h"
+#include "ui/browse/fBrowse.h"
 #include "ui/compose/fToolTextures.h"
-#include "ui/utilities/fAssociation.h"
-#include "ui/utilities/fBrowse.h"
 
 namespace velara {
 

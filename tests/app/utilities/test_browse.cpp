@@ -1,8 +1,8 @@
 // The browser and the list of formats as commands of the frame.
 #include "app/frame/frameTest.h"
+#include "ui/browse/fAssociation.h"
+#include "ui/browse/fBrowse.h"
 #include "ui/compose/fToolTextures.h"
-#include "ui/utilities/fAssociation.h"
-#include "ui/utilities/fBrowse.h"
 #include "ui/widgets/fFolderTree.h"
 #include <QFile>
 #include <QListWidget>

@@ -1,4 +1,4 @@
-#include "ui/utilities/fAssociation.h"
+#include "ui/browse/fAssociation.h"
 #include "fileio/families.h"
 #include <QCheckBox>
 #include <QGridLayout>

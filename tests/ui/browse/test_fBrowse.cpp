@@ -1,8 +1,8 @@
 // The browser, its preview and its thumbnails, over real folders and with previews that come when the test says so.
 #include "support/RecordingPlatform.h"
-#include "ui/utilities/fAssociation.h"
-#include "ui/utilities/fBrowse.h"
-#include "ui/utilities/mBrowseFolder.h"
+#include "ui/browse/fAssociation.h"
+#include "ui/browse/fBrowse.h"
+#include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/fFolderTree.h"
 #include <QCheckBox>

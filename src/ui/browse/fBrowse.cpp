@@ -1,4 +1,4 @@
-#include "ui/utilities/fBrowse.h"
+#include "ui/browse/fBrowse.h"
 #include "fileio/families.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/fPathLabel.h"

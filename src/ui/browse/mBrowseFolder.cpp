@@ -1,4 +1,4 @@
-#include "ui/utilities/mBrowseFolder.h"
+#include "ui/browse/mBrowseFolder.h"
 #include "seams/Platform.h"
 #include <QPointer>
 #include <QWidget>
