@@ -1,14 +1,14 @@
 #include "ui/browse/mBrowseFolder.h"
-#include "seams/Platform.h"
+#include "seams/Dialogs.h"
 #include <QPointer>
 #include <QWidget>
 
 namespace velara {
 
-QString BrowseForFolder(Platform& platform, const QString& title, QWidget* owner, const QString& start)
+QString BrowseForFolder(Dialogs& dialogs, const QString& title, QWidget* owner, const QString& start)
 {
     const QPointer<QWidget> alive = owner;
-    const auto folder = platform.pickFolder(title, start);
+    const auto folder = dialogs.pickFolder(title, start);
     return alive ? folder.value_or(QString()) : QString();
 }
 

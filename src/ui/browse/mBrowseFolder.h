@@ -6,9 +6,9 @@ class QWidget;
 
 namespace velara {
 
-class Platform;
+class Dialogs;
 
 /// The folder's path, or an empty text when the dialog was cancelled or its owner has gone meanwhile.
-QString BrowseForFolder(Platform& platform, const QString& title, QWidget* owner, const QString& start);
+QString BrowseForFolder(Dialogs& dialogs, const QString& title, QWidget* owner, const QString& start);
 
 } // namespace velara

@@ -39,7 +39,8 @@ namespace {
 const QCollator& order()
 {
     static const QCollator collator = [] {
-        QCollator byName;
+        const QLocale own; // of a system without a language compares bytes alone
+        QCollator byName(own.language() == QLocale::C ? QLocale(QLocale::English) : own);
         byName.setNumericMode(true);
         byName.setCaseSensitivity(Qt::CaseInsensitive);
         return byName;

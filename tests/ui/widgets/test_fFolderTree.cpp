@@ -69,13 +69,13 @@ TEST_F(FolderTree, ShowsFoldersAloneOrTheirFilesToo)
     EXPECT_TRUE(folders.holds(top.path(), 4)); // the link too
     EXPECT_EQ(folders.rows(at("alpha")), 0);
     EXPECT_EQ(folders.selections, QStringList(at("alpha")));
-    for (const char* name : {"p10.png", "P2.png", "zeta"}) file(QString("beta/") + name);
+    for (const char* name : {"p10.png", "p2.png", "P3.png", "zeta"}) file(QString("beta/") + name);
     QDir(top.path()).mkdir("beta/yard");
     all.tree.select(at("beta/p10.png"));
     QStringList names;
     for (int row = 0; row < all.rows(at("beta")); ++row)
         names << all.tree.currentIndex().siblingAtRow(row).data().toString();
-    EXPECT_EQ(names, QStringList({"yard", "P2.png", "p10.png", "zeta"}));
+    EXPECT_EQ(names, QStringList({"yard", "p2.png", "P3.png", "p10.png", "zeta"}));
 }
 
 TEST_F(FolderTree, DoubleClickAndEnterChooseWhatIsAskedFor)

@@ -1,6 +1,6 @@
 // Message boxes, and what dialogs of the program stand over.
 #pragma once
-#include "seams/Platform.h"
+#include "seams/Dialogs.h"
 #include <QMessageBox>
 
 namespace velara {
