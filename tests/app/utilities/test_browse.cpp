@@ -1,5 +1,6 @@
 // The browser and the list of formats as commands of the frame.
 #include "app/frame/frameTest.h"
+#include "app/menus/Boxes.h"
 #include "ui/browse/fAssociation.h"
 #include "ui/browse/fBrowse.h"
 #include "ui/compose/fToolTextures.h"
@@ -67,7 +68,7 @@ TEST_F(BrowseTest, TheTexturesBoxTakesAFolder)
 {
     QDir(platform.folder.path()).mkdir("Cloth");
     file("Cloth/linen.bmp");
-    frame->showBox(1);
+    frame->boxes().show(Boxes::Textures);
     auto* box = frame->findChild<fToolTextures*>();
     box->findChild<QPushButton*>("cmdfile")->click();
     browser()->reject();
