@@ -3,8 +3,8 @@
 namespace velara {
 
 struct BackgroundQueue::Task {
-    Work work;
-    Previews::Done done; // only the asking thread touches it
+    std::function<void(const GoOn&)> work;
+    std::function<void()> done; // only the asking thread touches it
     std::atomic<bool> wanted = true;
 };
 
@@ -18,7 +18,7 @@ BackgroundQueue::~BackgroundQueue()
     if (thread_.joinable()) thread_.join();
 }
 
-Previews::Request BackgroundQueue::add(Work work, Previews::Done done)
+BackgroundQueue::Request BackgroundQueue::addTask(std::function<void(const GoOn&)> work, std::function<void()> done)
 {
     auto task = std::make_shared<Task>();
     task->work = std::move(work);
@@ -48,9 +48,9 @@ void BackgroundQueue::run()
             tasks_.pop_back();
         }
         if (!task->wanted) continue;
-        const Preview preview = task->work([&](auto) { return task->wanted && !ends_; });
-        const auto tell = [task, preview] {
-            if (const Previews::Done done = task->done) done(preview); // which may let go of the request
+        task->work([&](auto) { return task->wanted && !ends_; });
+        const auto tell = [task] {
+            if (const std::function<void()> done = task->done) done(); // which may let go of the request
         };
         QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
     }

@@ -1,9 +1,10 @@
-// BackgroundQueue: one thread that reads previews, the one asked for last first.
+// BackgroundQueue: one thread for work that takes its time, what was asked for last first.
 #pragma once
 #include "fileio/load/PictureLoader.h"
-#include "seams/Previews.h"
 #include <QObject>
 #include <condition_variable>
+#include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -13,7 +14,9 @@ namespace velara {
 class BackgroundQueue {
   public:
     /// Runs in the thread; is to end soon once goOn says no.
-    using Work = std::function<Preview(const GoOn& goOn)>;
+    template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
+    /// Whoever lets go of it gives the work up: no answer comes then.
+    using Request = std::shared_ptr<void>;
 
     BackgroundQueue() = default;
     /// Gives up what is under way.
@@ -21,10 +24,17 @@ class BackgroundQueue {
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
-    Previews::Request add(Work work, Previews::Done done);
+    /// done comes in the thread that made the queue, never during the call.
+    template <class Result> Request add(Work<Result> work, std::function<void(const Result&)> done)
+    {
+        auto result = std::make_shared<Result>();
+        return addTask([work = std::move(work), result](const GoOn& goOn) { *result = work(goOn); },
+                       [done = std::move(done), result] { done(*result); });
+    }
 
   private:
     struct Task;
+    Request addTask(std::function<void(const GoOn&)> work, std::function<void()> done);
     void run();
 
     QObject answers_; // they come in the thread that made this

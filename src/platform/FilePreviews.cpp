@@ -39,12 +39,12 @@ Preview readThumbnail(const QString& path, const GoOn& goOn)
 Previews::Request FilePreviews::picture(const QString& path, QSize box, Done done)
 {
     const auto work = [=](const GoOn& goOn) { return preview(read(path, QFileInfo(path).suffix(), box, goOn)); };
-    return pictures_.add(work, std::move(done));
+    return pictures_.add<Preview>(work, std::move(done));
 }
 
 Previews::Request FilePreviews::thumbnail(const QString& path, Done done)
 {
-    return thumbnails_.add([=](const GoOn& goOn) { return readThumbnail(path, goOn); }, std::move(done));
+    return thumbnails_.add<Preview>([=](const GoOn& goOn) { return readThumbnail(path, goOn); }, std::move(done));
 }
 
 } // namespace velara

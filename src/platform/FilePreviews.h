@@ -1,6 +1,7 @@
 // FilePreviews: the real Previews. Every file, the shared thumbnails too, is parsed by velara-decode.
 #pragma once
 #include "platform/BackgroundQueue.h"
+#include "seams/Previews.h"
 
 namespace velara {
 

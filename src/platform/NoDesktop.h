@@ -2,6 +2,7 @@
 #pragma once
 #include "seams/Clipboard.h"
 #include "seams/Previews.h"
+#include "seams/Printers.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
 #include "seams/Wallpaper.h"
@@ -49,6 +50,17 @@ class NoScanner final : public Scanner {
         done("no scanner");
     }
     void cancel() override {}
+};
+
+class NoPrinters final : public Printers {
+  public:
+    Request list(std::function<void(const List&)>) override { return {}; }
+    void setCurrent(const QString&) override {}
+    Request paper(const QString&, std::function<void(const Paper&)>) override { return {}; }
+    Paper usualPaper() override { return {}; }
+    Request print(const QString&, const PrintPage&, Done) override { return {}; }
+    Request printToFile(const QString&, const PrintPage&, Done) override { return {}; }
+    void setUp(QWidget*) override {}
 };
 
 } // namespace velara

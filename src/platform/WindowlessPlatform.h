@@ -21,6 +21,7 @@ class WindowlessPlatform : public CorePlatform {
     Screen& screen() override { return screen_; }
     Wallpaper& wallpaper() override { return wallpaper_; }
     Scanner& scanner() override { return scanner_; }
+    Printers& printers() override { return printers_; }
 
   private:
     NoClipboard clipboard_;
@@ -29,6 +30,7 @@ class WindowlessPlatform : public CorePlatform {
     NoScreen screen_;
     NoWallpaper wallpaper_;
     NoScanner scanner_;
+    NoPrinters printers_;
 };
 
 } // namespace velara

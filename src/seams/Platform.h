@@ -13,6 +13,7 @@ namespace velara {
 
 class Clipboard;
 class Fonts;
+class Printers;
 class Previews;
 class Scanner;
 class Screen;
@@ -26,6 +27,7 @@ class Platform : public Machine, public Dialogs, public PictureReader {
     virtual Screen& screen() = 0;
     virtual Wallpaper& wallpaper() = 0;
     virtual Scanner& scanner() = 0;
+    virtual Printers& printers() = 0;
 };
 
 } // namespace velara

@@ -3,6 +3,7 @@
 #pragma once
 #include "seams/Clipboard.h"
 #include "seams/Previews.h"
+#include "seams/Printers.h"
 #include "seams/Scanner.h"
 #include "seams/Screen.h"
 #include "seams/Wallpaper.h"
@@ -139,6 +140,56 @@ class RecordingScanner final : public Scanner {
         done(reason);
     }
     void cancel() override { ++cancelled; }
+};
+
+/// Answers at once, unless it is silent: then when the test says so.
+class RecordingPrinters final : public Printers {
+  public:
+    List printers;
+    Paper tray;
+    QString reason; // of the next page
+    bool silent = false;
+    std::vector<std::pair<QString, PrintPage>> pages; // the printer or the file
+    std::vector<QString> log;                         // "current NAME", "set up"
+
+    Request list(std::function<void(const List&)> done) override
+    {
+        return ask([=, this] { done(printers); });
+    }
+    void setCurrent(const QString& name) override { log.push_back("current " + name); }
+    Request paper(const QString&, std::function<void(const Paper&)> done) override
+    {
+        return ask([=, this] { done(tray); });
+    }
+    Paper usualPaper() override { return {}; }
+    Request print(const QString& printer, const PrintPage& page, Done done) override
+    {
+        pages.emplace_back(printer, page);
+        return ask([=, this] { done(reason); });
+    }
+    Request printToFile(const QString& path, const PrintPage& page, Done done) override
+    {
+        return print(path, page, std::move(done));
+    }
+    void setUp(QWidget*) override { log.push_back("set up"); }
+    /// False: nobody waits for it any more.
+    bool answer()
+    {
+        const auto waiting = waiting_.lock();
+        if (!waiting) return false;
+        (*waiting)();
+        return true;
+    }
+
+  private:
+    Request ask(std::function<void()> answer)
+    {
+        auto request = std::make_shared<std::function<void()>>(std::move(answer));
+        waiting_ = request;
+        if (!silent) (*request)();
+        return request;
+    }
+    std::weak_ptr<std::function<void()>> waiting_;
 };
 
 } // namespace velara

@@ -55,12 +55,14 @@ class RecordingPlatform : public Platform {
     RecordingScreen& screen() override { return screen_; }
     RecordingWallpaper& wallpaper() override { return wallpaper_; }
     RecordingScanner& scanner() override { return scanner_; }
+    RecordingPrinters& printers() override { return printers_; }
 
   private:
     RecordingPreviews previews_;
     RecordingScreen screen_;
     RecordingWallpaper wallpaper_;
     RecordingScanner scanner_;
+    RecordingPrinters printers_;
     std::optional<QString> answer();
 };
 

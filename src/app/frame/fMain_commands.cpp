@@ -11,6 +11,7 @@
 #include "commands/vocabulary.h"
 #include "engine/operations.h"
 #include "seams/Platform.h"
+#include "seams/Printers.h"
 #include <algorithm>
 
 namespace velara {
@@ -34,6 +35,7 @@ constexpr Handler kHandlers[] = {
     {"NEW",                  [](fMain& f) { f.newPicture(); }},
     {"OPEN",                 [](fMain& f) { f.open(); }},
     {"FILEASSOCIATION",      showAssociation},
+    {"PRINTERSETUP",         [](fMain& f) { f.platform().printers().setUp(&f); }},
     {"SELECTSOURCE",         selectSource},
     {"ACQUIRETWAIN",         acquire},
     {"CAPTUREDESKTOP",       [](fMain& f) { f.capture().desktop(); }},
@@ -56,6 +58,7 @@ constexpr Handler kHandlers[] = {
     {"CLOSE",                [](fMain& f) { f.closeActive(); }},
     {"SAVE",                 [](fMain& f) { f.save(); }},
     {"SAVEAS",               [](fMain& f) { f.saveAs(); }},
+    {"PRINT",                print},
     {"CUT",                  [](fMain& f) { f.clips().cut(); }},
     {"COPY",                 [](fMain& f) { f.clips().copy(); }},
     {"PASTE",                [](fMain& f) { f.clips().paste(); }},

@@ -2,6 +2,7 @@
 #include "app/frame/fMain.h"
 #include "seams/Platform.h"
 #include "ui/utilities/fAcquire.h"
+#include "ui/utilities/fPrint.h"
 #include "ui/utilities/fSource.h"
 #include <QFile>
 #include <QPointer>
@@ -30,6 +31,18 @@ void selectSource(fMain& frame)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &fSource::chosen, &frame,
                      [&frame](const ScanSource& source) { rememberSource(frame.platform(), source); });
+    dialog->open();
+}
+
+void print(fMain& frame)
+{
+    const QPointer<fImage> image = frame.GetActiveImage();
+    if (!image->PictureExists()) return;
+    const auto toClipboard = [image] {
+        if (image) image->BitsCopyToClipboard();
+    };
+    auto* dialog = new fPrint(frame.platform(), image->Bits(), image->Caption(), toClipboard, &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
 

@@ -10,6 +10,8 @@ class fMain;
 void setAsWallpaper(fMain& frame, WallpaperMode mode);
 /// The choice of the scanner for the scans to come.
 void selectSource(fMain& frame);
+/// The dialog that prints the active picture.
+void print(fMain& frame);
 /// One picture from the scanner as a new document.
 void acquire(fMain& frame);
 

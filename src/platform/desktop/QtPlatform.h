@@ -8,6 +8,7 @@
 #include "platform/desktop/QtScreen.h"
 #include "platform/desktop/SaneScanner.h"
 #include "platform/desktop/clipboard/QtClipboard.h"
+#include "platform/desktop/printing/CupsPrinters.h"
 
 namespace velara {
 
@@ -28,6 +29,7 @@ class QtPlatform : public CorePlatform {
     Screen& screen() override { return screen_; }
     Wallpaper& wallpaper() override { return wallpaper_; }
     Scanner& scanner() override { return scanner_; }
+    Printers& printers() override { return printers_; }
 
   protected:
     GoOn whileReading(const QString& name) override;
@@ -38,6 +40,7 @@ class QtPlatform : public CorePlatform {
     FilePreviews previews_;
     QtScreen screen_{*this};
     DesktopWallpaper wallpaper_{*this};
+    CupsPrinters printers_{*this};
     SaneScanner scanner_{findHelper("velara-scan")};
 };
 

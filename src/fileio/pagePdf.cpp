@@ -1,0 +1,81 @@
+#include "fileio/pagePdf.h"
+#include "engine/operationRows.h"
+#include "fileio/OutputFile.h"
+#include <QIODevice>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace velara {
+
+namespace {
+
+constexpr double kMillimetresAnInch = 25.4;
+constexpr int kResolution = 1200; // of the page's own coordinates, dots an inch
+
+/// The most dots an inch that a picture is stored with.
+double finest(PrintQuality quality)
+{
+    constexpr double kFinest[] = {150, 300, 600, 1200};
+    return kFinest[-static_cast<int>(quality) - 1];
+}
+
+/// What QPdfWriter writes to.
+class IntoFile final : public QIODevice {
+  public:
+    explicit IntoFile(OutputFile& file) : file_(file) { open(WriteOnly); }
+    bool isSequential() const override { return true; }
+    bool failed() const { return failed_; }
+
+  protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 count) override
+    {
+        failed_ = failed_ || !file_.write(bytes, static_cast<std::size_t>(count));
+        return failed_ ? -1 : count;
+    }
+
+  private:
+    OutputFile& file_;
+    bool failed_ = false;
+};
+
+/// The picture in no more dots than its quality asks for on that place.
+QImage fineEnough(const PrintPage& page)
+{
+    const QImage image = rows::imageOver(page.picture);
+    const QSizeF dots = page.place.size() * (finest(page.quality) / kMillimetresAnInch);
+    if (image.width() <= dots.width() && image.height() <= dots.height()) return image;
+    return image.scaled(dots.toSize().expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+bool draw(QIODevice& device, const PrintPage& page)
+{
+    QPdfWriter writer(&device);
+    writer.setCreator("Velara Studio");
+    writer.setTitle(page.title);
+    writer.setResolution(kResolution);
+    const QPageSize sheet(page.paper.size, QPageSize::Millimeter, {}, QPageSize::ExactMatch);
+    const bool landscape = page.orientation == PageOrientation::Landscape;
+    if (!writer.setPageLayout({sheet, landscape ? QPageLayout::Landscape : QPageLayout::Portrait, {}})) return false;
+    QPainter painter;
+    if (!painter.begin(&writer)) return false;
+    painter.setRenderHint(QPainter::LosslessImageRendering, page.quality != PrintQuality::Draft);
+    constexpr double kDots = kResolution / kMillimetresAnInch;
+    painter.drawImage(QRectF(page.place.topLeft() * kDots, page.place.size() * kDots), fineEnough(page));
+    return painter.end();
+}
+
+} // namespace
+
+QString writePagePdf(const QString& path, const PrintPage& page, const std::function<bool()>& goOn)
+{
+    OutputFile file(path);
+    if (!file.isOpen()) return "the file can't be written";
+    file.setGoOn(goOn);
+    IntoFile device(file);
+    if (!draw(device, page) || device.failed() || !file.commit()) return "the page can't be written";
+    return {};
+}
+
+} // namespace velara

@@ -1,0 +1,60 @@
+#include "ui/utilities/fPagePreview.h"
+#include "engine/operationRows.h"
+#include <QPainter>
+#include <algorithm>
+
+namespace velara {
+
+fPagePreview::fPagePreview(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(objectName);
+    setAccessibleName(accessibleName);
+    setFixedSize(box);
+}
+
+void fPagePreview::setPicture(const Bits& picture)
+{
+    bits_ = picture;
+    update();
+}
+
+void fPagePreview::setPage(const PrintPage& page)
+{
+    page_ = page;
+    page_.picture = {};
+    update();
+}
+
+double fPagePreview::scale() const
+{
+    constexpr double kBorder = 4; // for the shadow
+    const QSizeF paper = page_.paper.sheet(page_.orientation);
+    return std::min((width() - 2 * kBorder) / paper.width(), (height() - 2 * kBorder) / paper.height());
+}
+
+QRectF fPagePreview::onSurface(const QRectF& millimetres) const
+{
+    const QSizeF paper = page_.paper.sheet(page_.orientation) * scale();
+    const QPointF corner((width() - paper.width()) / 2, (height() - paper.height()) / 2);
+    return {corner + millimetres.topLeft() * scale(), millimetres.size() * scale()};
+}
+
+QRectF fPagePreview::sheet() const { return onSurface({{0, 0}, page_.paper.sheet(page_.orientation)}); }
+
+QRectF fPagePreview::picture() const { return onSurface(page_.place); }
+
+void fPagePreview::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.fillRect(sheet().translated(3, 3), QColor(0, 0, 0, 70));
+    painter.fillRect(sheet(), Qt::white); // paper is white in the dark too
+    painter.setPen(QPen(QColor(0xc8, 0xc8, 0xc8), 1, Qt::DotLine));
+    painter.drawRect(onSurface(page_.paper.printable(page_.orientation)));
+    if (!bits_.isNull()) painter.drawImage(picture(), rows::imageOver(bits_));
+    painter.setPen(QColor(0x80, 0x80, 0x80));
+    painter.drawRect(sheet());
+}
+
+} // namespace velara

@@ -1,0 +1,236 @@
+#include "ui/utilities/fPrint.h"
+#include "commands/printing.h"
+#include "seams/Platform.h"
+#include "ui/utilities/fPagePreview.h"
+#include "ui/widgets/fPicture.h"
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+
+namespace velara {
+
+namespace {
+
+constexpr QSize kPreview{200, 200};
+constexpr int kMostCopies = 9999; // what print servers take
+constexpr PageOrientation kOrientations[] = {PageOrientation::Portrait, PageOrientation::Landscape};
+
+template <class Control> Control* named(Control* control, const char* name)
+{
+    control->setObjectName(name);
+    return control;
+}
+
+} // namespace
+
+fPrint::fPrint(Platform& platform, const Bits& picture, const QString& name, std::function<void()> toClipboard,
+               QWidget* parent)
+    : QDialog(parent), platform_(platform), picture_(picture), name_(name), toClipboard_(std::move(toClipboard)),
+      paper_(platform.printers().usualPaper()),
+      iOut_(new fPagePreview("iOut", tr("The page"), kPreview + QSize(20, 20))), lblSize_(named(new QLabel, "lblSize")),
+      lblState_(named(new QLabel, "lblState"))
+{
+    setObjectName("fPrint");
+    setWindowTitle(tr("Print"));
+    setModal(true);
+    iOut_->setPicture(fittingCopy(picture, kPreview));
+    lblSize_->setAlignment(Qt::AlignCenter);
+    auto* left = new QVBoxLayout;
+    left->addWidget(iOut_);
+    left->addWidget(lblSize_);
+    left->addStretch();
+    auto* top = new QHBoxLayout;
+    top->addLayout(left);
+    top->addWidget(controls_ = makeControls(), 1);
+    auto* bottom = new QHBoxLayout;
+    cmdOK_ = named(new QPushButton(tr("Print")), "cmdOK");
+    cmdOK_->setDefault(true);
+    auto* cancel = named(new QPushButton(tr("Cancel")), "cmdCancel");
+    cancel->setAutoDefault(false);
+    bottom->addWidget(lblState_, 1);
+    bottom->addWidget(cmdOK_);
+    bottom->addWidget(cancel);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(top);
+    column->addLayout(bottom);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    connect(cmdOK_, &QPushButton::clicked, this, &fPrint::print);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+
+    cbQuality_->setCurrentIndex(2);
+    cbOrientation_->setCurrentIndex(picture.width() >= picture.height() ? 1 : 0);
+    showPage();
+    setBusy(tr("Looking for printers ..."));
+    looking_ = platform_.printers().list([this](const Printers::List& list) { showPrinters(list); });
+}
+
+QWidget* fPrint::makeControls()
+{
+    auto* panel = new QWidget;
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(12, 0, 0, 0);
+    const auto add = [grid](const QString& caption, QWidget* field, QWidget* buddy) {
+        auto* label = new QLabel(caption);
+        label->setBuddy(buddy);
+        const int row = grid->rowCount();
+        grid->addWidget(label, row, 0);
+        grid->addWidget(field, row, 1);
+    };
+    const auto choice = [&](const char* name, const QString& caption, const QStringList& entries) {
+        auto* box = named(new QComboBox, name);
+        box->setAccessibleName(caption);
+        box->addItems(entries);
+        add(caption, box, box);
+        return box;
+    };
+    cbPrinters_ = choice("cbPrinters", tr("Printer"), {});
+    cbPrinters_->setMinimumContentsLength(24);
+    cbOrientation_ = choice("cbOrientation", tr("Orientation"), {tr("Portrait"), tr("Landscape")});
+    cbQuality_ = choice("cbQuality", tr("Quality"), {tr("Draft"), tr("Low"), tr("Medium"), tr("High")});
+    QWidget* copies = makeCopies();
+    add(tr("Copies"), copies, txtCopies_);
+    chkFit_ = named(new QCheckBox(tr("&Fit to page")), "chkFit");
+    chkCenter_ = named(new QCheckBox(tr("&Center image")), "chkCenter");
+    chkCenter_->setChecked(true);
+    add(tr("Adjustment"), chkFit_, chkFit_);
+    grid->addWidget(chkCenter_, grid->rowCount(), 1);
+    grid->setRowStretch(grid->rowCount(), 1);
+    connect(cbPrinters_, &QComboBox::activated, this, &fPrint::choosePrinter);
+    connect(cbOrientation_, &QComboBox::currentIndexChanged, this, &fPrint::showPage);
+    connect(chkFit_, &QCheckBox::toggled, this, &fPrint::showPage);
+    connect(chkCenter_, &QCheckBox::toggled, this, &fPrint::showPage);
+    return panel;
+}
+
+QWidget* fPrint::makeCopies()
+{
+    auto* field = new QWidget;
+    auto* row = new QHBoxLayout(field);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    txtCopies_ = named(new QLineEdit("1"), "txtCopies");
+    txtCopies_->setAccessibleName(tr("Copies"));
+    txtCopies_->setFixedWidth(txtCopies_->fontMetrics().horizontalAdvance("000000") + 24);
+    txtCopies_->setAlignment(Qt::AlignRight);
+    sbCopies_ = named(new QScrollBar(Qt::Vertical), "sbCopies");
+    sbCopies_->setAccessibleName(tr("Copies"));
+    sbCopies_->setRange(1, kMostCopies);
+    sbCopies_->setInvertedAppearance(true); // up is more
+    sbCopies_->setInvertedControls(true);
+    sbCopies_->setFixedHeight(txtCopies_->sizeHint().height());
+    row->addWidget(txtCopies_);
+    row->addWidget(sbCopies_);
+    row->addStretch();
+    connect(sbCopies_, &QScrollBar::valueChanged, this, [this](int copies) {
+        if (txtCopies_->text().toInt() != copies) txtCopies_->setText(QString::number(copies));
+    });
+    connect(txtCopies_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        bool isNumber = false;
+        const int copies = text.toInt(&isNumber);
+        if (isNumber && copies >= 1) sbCopies_->setValue(copies);
+    });
+    return field;
+}
+
+void fPrint::setBusy(const QString& what)
+{
+    lblState_->setText(what);
+    controls_->setEnabled(what.isEmpty());
+    cmdOK_->setEnabled(what.isEmpty());
+    if (cmdOK_->isEnabled()) cmdOK_->setFocus();
+}
+
+/// The printers in the system's order; a file is always there.
+void fPrint::showPrinters(const Printers::List& list)
+{
+    cbPrinters_->addItems(list.names);
+    cbPrinters_->addItem(tr("PDF file ..."), true);
+    cbPrinters_->setCurrentIndex(std::max<int>(0, static_cast<int>(list.names.indexOf(list.current))));
+    setBusy({});
+    if (list.names.isEmpty()) lblState_->setText(tr("No printer was found"));
+    choosePrinter(cbPrinters_->currentIndex());
+}
+
+bool fPrint::isFile(int index) const { return cbPrinters_->itemData(index).toBool(); }
+
+void fPrint::choosePrinter(int index)
+{
+    paperAsked_.reset();
+    if (isFile(index)) {
+        paper_ = platform_.printers().usualPaper();
+        return showPage();
+    }
+    const QString printer = cbPrinters_->itemText(index);
+    platform_.printers().setCurrent(printer);
+    paperAsked_ = platform_.printers().paper(printer, [this](const Paper& paper) {
+        paper_ = paper;
+        showPage();
+    });
+}
+
+PrintPage fPrint::page() const
+{
+    PrintPage page;
+    page.picture = picture_;
+    page.paper = paper_;
+    page.quality = PrintQuality{-(cbQuality_->currentIndex() + 1)};
+    page.title = name_;
+    PrintPictureToFitPage(page, kOrientations[cbOrientation_->currentIndex()], chkCenter_->isChecked(),
+                          chkFit_->isChecked());
+    return page;
+}
+
+void fPrint::showPage()
+{
+    const PrintPage shown = page();
+    iOut_->setPage(shown);
+    lblSize_->setText(tr("%1 x %2 mm").arg(shown.place.width(), 0, 'f', 0).arg(shown.place.height(), 0, 'f', 0));
+}
+
+void fPrint::print()
+{
+    const QPointer<fPrint> self = this;
+    bool isNumber = false;
+    const int copies = txtCopies_->text().toInt(&isNumber);
+    if (!isNumber || copies < 1 || copies > kMostCopies) return finished(tr("%1 copies").arg(txtCopies_->text()));
+    toClipboard_();
+    if (!self) return;
+    PrintPage wanted = page();
+    wanted.copies = copies;
+    send(wanted);
+}
+
+void fPrint::send(const PrintPage& page)
+{
+    const auto done = [this](const QString& reason) { finished(reason); };
+    Printers& printers = platform_.printers();
+    if (!isFile(cbPrinters_->currentIndex())) {
+        setBusy(tr("Printing ..."));
+        printing_ = printers.print(cbPrinters_->currentText(), page, done);
+        return;
+    }
+    const QPointer<fPrint> self = this;
+    const FileDialog dialog{tr("Print to file"), "PDF|*.pdf", {}, {}, "pdf"};
+    const auto path = platform_.saveFileName(dialog);
+    if (!self || !path) return;
+    setBusy(tr("Printing ..."));
+    printing_ = printers.printToFile(*path, page, done);
+}
+
+void fPrint::finished(const QString& reason)
+{
+    const QPointer<fPrint> self = this;
+    if (!reason.isEmpty()) {
+        lblState_->setText(reason);
+        platform_.message("Velara Studio", "Unable to print", Icon::Exclamation);
+    }
+    if (self) accept();
+}
+
+} // namespace velara

@@ -1,0 +1,209 @@
+// Pages as PDF files, rendered by another program, and given to a print server of this test's own.
+#include "PrivateBus.h"
+#include "commands/printing.h"
+#include "platform/desktop/printing/CupsPrinters.h"
+#include "support/RecordingPlatform.h"
+#include "support/pictures.h"
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <unistd.h>
+
+namespace velara {
+
+namespace {
+
+/// cupsd in a folder of its own, with its queues pending: what it got lies in the spool.
+class PrintServer {
+  public:
+    PrintServer()
+    {
+        for (const char* name : {"root", "run", "cache", "spool", "tmp"}) QDir(path()).mkdir(name);
+        write("cupsd.conf", "Listen " + path() + "/run/sock\nBrowsing Off\nDefaultAuthType None\n" +
+                                "<Location />\nAllow all\n</Location>\n<Location /admin>\nAllow all\n</Location>\n" +
+                                "<Policy default>\n<Limit All>\nOrder allow,deny\n</Limit>\n</Policy>\n");
+        write("files.conf", "ServerRoot " + path() + "/root\nStateDir " + path() + "/run\nCacheDir " + path() +
+                                "/cache\nRequestRoot " + path() + "/spool\nTempDir " + path() +
+                                "/tmp\nFileDevice Yes\nAccessLog /dev/null\nPageLog /dev/null\nErrorLog " + path() +
+                                "/log\n");
+        server_.start("/usr/sbin/cupsd", {"-f", "-c", path() + "/cupsd.conf", "-s", path() + "/files.conf"});
+        qputenv("CUPS_SERVER", (path() + "/run/sock").toUtf8());
+    }
+    ~PrintServer()
+    {
+        server_.kill();
+        server_.waitForFinished();
+        qunsetenv("CUPS_SERVER");
+    }
+    bool runs()
+    {
+        return waitUntil([this] { return QFile::exists(path() + "/run/sock"); });
+    }
+    void kill()
+    {
+        server_.kill();
+        server_.waitForFinished();
+    }
+    bool admin(const QStringList& arguments) { return QProcess::execute("/usr/sbin/lpadmin", arguments) == 0; }
+    QByteArray spooled(const QString& name)
+    {
+        QFile file(path() + "/spool/" + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+  private:
+    QString path() const { return folder_.path(); }
+    void write(const QString& name, const QString& text)
+    {
+        QFile file(folder_.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    QTemporaryDir folder_;
+    QProcess server_;
+};
+
+struct CupsPrintersTest : ::testing::Test {
+    RecordingPlatform platform;
+    QTemporaryDir folder;
+    CupsPrinters printers{platform};
+
+    static PrintPage page(PageOrientation orientation, bool fit, QSize size = {96, 48})
+    {
+        PrintPage page;
+        page.picture = flatBits(size.width(), size.height(), 200, 40, 20);
+        page.title = "a picture";
+        PrintPictureToFitPage(page, orientation, true, fit);
+        return page;
+    }
+    /// What becomes of a page; null: no answer.
+    QString answer(const std::function<Printers::Request(Printers::Done)>& ask)
+    {
+        std::optional<QString> got;
+        const auto request = ask([&](const QString& reason) { got = reason; });
+        EXPECT_TRUE(waitUntil([&] { return got.has_value(); }));
+        return got.value_or(QString());
+    }
+    QString toFile(const PrintPage& page, const QString& path)
+    {
+        return answer([&](Printers::Done done) { return printers.printToFile(path, page, done); });
+    }
+    QString toPrinter(const QString& name, const PrintPage& page)
+    {
+        return answer([&](Printers::Done done) { return printers.print(name, page, done); });
+    }
+    Printers::List list()
+    {
+        std::optional<Printers::List> got;
+        const auto request = printers.list([&](const Printers::List& found) { got = found; });
+        EXPECT_TRUE(waitUntil([&] { return got.has_value(); }));
+        return got.value_or(Printers::List());
+    }
+    /// The first page at ten dots a millimetre.
+    static QImage rendered(const QString& pdf)
+    {
+        QProcess::execute("pdftoppm", {"-r", "254", "-png", "-singlefile", pdf, pdf});
+        return QImage(pdf + ".png");
+    }
+    /// Where it isn't white, in millimetres.
+    static QRectF inked(const QImage& image)
+    {
+        QRect box;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qGray(image.pixel(x, y)) < 128) box |= QRect(x, y, 1, 1);
+        return {box.left() / 10.0, box.top() / 10.0, box.width() / 10.0, box.height() / 10.0};
+    }
+    static void expectNear(const QRectF& got, const QRectF& wanted)
+    {
+        EXPECT_LE((got.topLeft() - wanted.topLeft()).manhattanLength(), 0.5) << got.x() << ' ' << got.y();
+        EXPECT_NEAR(got.width(), wanted.width(), 0.3);
+        EXPECT_NEAR(got.height(), wanted.height(), 0.3);
+    }
+};
+
+} // namespace
+
+TEST_F(CupsPrintersTest, AFileShowsThePictureInItsPlace)
+{
+    const QString path = folder.filePath("page.pdf");
+    for (const PageOrientation orientation : {PageOrientation::Portrait, PageOrientation::Landscape})
+        for (const bool fit : {false, true}) {
+            const PrintPage wanted = page(orientation, fit);
+            EXPECT_EQ(toFile(wanted, path), "");
+            const QImage got = rendered(path);
+            const QSizeF sheet = wanted.paper.sheet(orientation);
+            EXPECT_NEAR(got.width() / 10.0, sheet.width(), 0.5);
+            EXPECT_NEAR(got.height() / 10.0, sheet.height(), 0.5);
+            expectNear(inked(got), wanted.place);
+            const QPointF middle = wanted.place.center() * 10;
+            EXPECT_EQ(got.pixel(middle.toPoint()), qRgb(20, 40, 200));
+        }
+}
+
+TEST_F(CupsPrintersTest, QualitySaysHowFineAPictureIsStored)
+{
+    const QString path = folder.filePath("page.pdf");
+    PrintPage fine = page(PageOrientation::Portrait, true, {3000, 3000}); // 200 mm wide: 381 dots an inch
+    fine.picture = randomBits(3000, 3000, 1);
+    qint64 last = 0;
+    for (const PrintQuality quality : {PrintQuality::Draft, PrintQuality::Low, PrintQuality::Medium}) {
+        fine.quality = quality;
+        EXPECT_EQ(toFile(fine, path), "");
+        EXPECT_GT(QFileInfo(path).size(), last * 3 / 2);
+        last = QFileInfo(path).size();
+    }
+}
+
+TEST_F(CupsPrintersTest, AFileThatCantBeWrittenStaysAsItWas)
+{
+    EXPECT_NE(toFile(page(PageOrientation::Portrait, true), folder.filePath("no/such/folder.pdf")), "");
+    QFile::remove(folder.filePath("out.pdf"));
+    auto request = printers.printToFile(folder.filePath("out.pdf"), page(PageOrientation::Portrait, true),
+                                        [](const QString&) { ADD_FAILURE() << "nobody waits for it"; });
+    request.reset();
+    list(); // behind it
+    EXPECT_TRUE(list().names.isEmpty() || !list().current.isEmpty());
+}
+
+TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
+{
+    if (geteuid() != 0 || !QFile::exists("/usr/sbin/cupsd")) GTEST_SKIP() << "a print server of one's own wants root";
+    PrintServer server;
+    ASSERT_TRUE(server.runs());
+    EXPECT_TRUE(list().names.isEmpty());
+    ASSERT_TRUE(server.admin({"-p", "Attic", "-E", "-v", "file:///dev/null"}));
+    ASSERT_TRUE(server.admin({"-p", "Lab", "-E", "-v", "file:///dev/null"}));
+    EXPECT_EQ(list().names, (QStringList{"Attic", "Lab"}));
+    EXPECT_EQ(list().current, "Attic"); // nobody has chosen one
+    ASSERT_TRUE(server.admin({"-d", "Lab"}));
+    EXPECT_EQ(list().current, "Lab");
+    printers.setCurrent("Attic");
+    EXPECT_EQ(list().current, "Attic"); // ours goes before the system's
+    printers.setCurrent("gone");
+    EXPECT_EQ(list().current, "Lab");
+
+    PrintPage wanted = page(PageOrientation::Landscape, false);
+    wanted.copies = 3;
+    wanted.quality = PrintQuality::High;
+    EXPECT_EQ(toPrinter("Lab", wanted), "");
+    const QString pdf = folder.filePath("spooled.pdf");
+    QFile file(pdf);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(server.spooled("d00001-001"));
+    file.close();
+    expectNear(inked(rendered(pdf)), wanted.place);
+    const QByteArray job = server.spooled("c00001");
+    EXPECT_TRUE(job.contains(QByteArray("copies\0\4\0\0\0\3", 12)));
+    EXPECT_TRUE(job.contains(QByteArray("print-quality\0\4\0\0\0\5", 19)));
+    EXPECT_TRUE(job.contains("a picture"));
+
+    ASSERT_TRUE(server.admin({"-x", "Lab"}));
+    EXPECT_EQ(toPrinter("Lab", wanted), "there is no printer Lab any more");
+    server.kill();
+    EXPECT_EQ(toPrinter("Attic", wanted), "the print server does not answer");
+    EXPECT_TRUE(list().names.isEmpty());
+}
+
+} // namespace velara
