@@ -228,7 +228,7 @@ void fPrint::finished(const QString& reason)
     const QPointer<fPrint> self = this;
     if (!reason.isEmpty()) {
         lblState_->setText(reason);
-        platform_.message("Velara Studio", "Unable to print", Icon::Exclamation);
+        platform_.tell("Unable to print", Icon::Exclamation);
     }
     if (self) accept();
 }
