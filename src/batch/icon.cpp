@@ -1,6 +1,6 @@
 #include "batch/icon.h"
 #include "batch/Failure.h"
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include <QRegularExpression>
 
 namespace velara {

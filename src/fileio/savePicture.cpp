@@ -1,9 +1,9 @@
 #include "fileio/savePicture.h"
 #include "fileio/FreeImageSaver.h"
-#include "fileio/GifWriter.h"
 #include "fileio/ModFreeImage.h"
-#include "fileio/PCX.h"
 #include "fileio/formats.h"
+#include "fileio/writers/GifWriter.h"
+#include "fileio/writers/PCX.h"
 #include "reduce/bestColours.h"
 #include "seams/Dialogs.h"
 #include <FreeImage.h>

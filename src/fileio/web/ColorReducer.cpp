@@ -1,8 +1,8 @@
 #include "fileio/web/ColorReducer.h"
 #include "engine/cBitFilter.h"
 #include "fileio/FreeImageSaver.h"
-#include "fileio/GifWriter.h"
 #include "fileio/web/ReducedDib.h"
+#include "fileio/writers/GifWriter.h"
 #include <FreeImage.h>
 
 namespace velara {

@@ -1,7 +1,7 @@
 #include "fileio/web/webFile.h"
 #include "fileio/FreeImageSaver.h"
-#include "fileio/PCX.h"
 #include "fileio/web/ReducedDib.h"
+#include "fileio/writers/PCX.h"
 #include "pixels/RuntimeError.h"
 #include <FreeImage.h>
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "ui/icons/fIconPicture.h"
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "ui/icons/MaskChoice.h"

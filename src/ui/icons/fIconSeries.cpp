@@ -1,5 +1,5 @@
 #include "ui/icons/fIconSeries.h"
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "ui/icons/MaskChoice.h"

@@ -2,7 +2,7 @@
 #include "app/frame/frameTest.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include "ui/widgets/ScreenCover.h"
 #include <QComboBox>
 #include <QFile>

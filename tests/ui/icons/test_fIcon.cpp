@@ -1,5 +1,5 @@
 // The icon extractor with real controls, used as a person does.
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "ui/icons/fIcon.h"

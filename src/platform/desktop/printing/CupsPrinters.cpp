@@ -1,5 +1,5 @@
 #include "platform/desktop/printing/CupsPrinters.h"
-#include "fileio/pagePdf.h"
+#include "fileio/writers/pagePdf.h"
 #include "platform/desktop/printing/cups.h"
 #include "seams/Platform.h"
 #include <QDialogButtonBox>

@@ -1,4 +1,4 @@
-#include "fileio/PCX.h"
+#include "fileio/writers/PCX.h"
 #include "support/pictures.h"
 #include <QFile>
 #include <QTemporaryDir>

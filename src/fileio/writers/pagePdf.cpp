@@ -1,4 +1,4 @@
-#include "fileio/pagePdf.h"
+#include "fileio/writers/pagePdf.h"
 #include "engine/operationRows.h"
 #include "fileio/OutputFile.h"
 #include <QIODevice>

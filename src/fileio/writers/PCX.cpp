@@ -1,4 +1,4 @@
-#include "fileio/PCX.h"
+#include "fileio/writers/PCX.h"
 #include "fileio/OutputFile.h"
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "fileio/iconFile.h"
+#include "fileio/writers/iconFile.h"
 #include "fileio/OutputFile.h"
 #include <QDataStream>
 #include <QIODevice>

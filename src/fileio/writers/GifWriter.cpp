@@ -1,4 +1,4 @@
-#include "fileio/GifWriter.h"
+#include "fileio/writers/GifWriter.h"
 #include "fileio/OutputFile.h"
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
-#include "fileio/GifWriter.h"
 #include "fileio/load/PictureLoader.h"
+#include "fileio/writers/GifWriter.h"
 #include "reduce/bestColours.h"
 #include "support/pictures.h"
 #include "support/places.h"

@@ -1,6 +1,6 @@
 // Icons: the bytes of their files, and what readers make of them.
-#include "fileio/iconFile.h"
 #include "fileio/load/PictureLoader.h"
+#include "fileio/writers/iconFile.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include "support/places.h"
