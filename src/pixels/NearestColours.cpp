@@ -18,28 +18,27 @@ int far(Distance distance, int difference)
     return distance == Distance::Squares ? difference * difference : std::abs(difference);
 }
 
-// Zero at first. Huge pages: colours are looked up all over the table.
-std::uint16_t* newTable()
+// Huge pages: colours are looked up all over the table.
+std::uint8_t* newTable()
 {
-    void* block =
-        mmap(nullptr, kColours * sizeof(std::uint16_t), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void* block = mmap(nullptr, kColours, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (block == MAP_FAILED) throw std::bad_alloc();
-    madvise(block, kColours * sizeof(std::uint16_t), MADV_HUGEPAGE);
-    return static_cast<std::uint16_t*>(block);
+    madvise(block, kColours, MADV_HUGEPAGE);
+    return static_cast<std::uint8_t*>(block);
 }
 
 } // namespace
 
-void NearestColours::Free::operator()(std::uint16_t* table) const { munmap(table, kColours * sizeof(std::uint16_t)); }
+void NearestColours::Free::operator()(std::uint8_t* table) const { munmap(table, kColours); }
 
 NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance distance)
-    : distance_(distance), table_(newTable())
+    : distance_(distance), low_(newTable()), high_(colours.size() > 256 ? newTable() : nullptr)
 {
     std::unordered_set<int> known; // of equals the first one alone
     for (std::size_t i = 0; i < colours.size(); ++i) {
         const auto& c = colours[i].c;
         if (known.insert(c[2] << 16 | c[1] << 8 | c[0]).second)
-            colours_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i + 1)});
+            colours_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
     }
 }
 
@@ -95,13 +94,18 @@ void NearestColours::fillCube(std::uint32_t cube)
     Candidates& wide = regions_[region];
     if (wide.empty()) wide = nearTo(colours_, regionLow, kRegionSide);
     const Candidates candidates = nearTo(wide, low, kSide);
-    std::uint16_t* to = table_.get() + (std::size_t{cube} << 3 * kInside);
+    const std::size_t place = std::size_t{cube} << 3 * kInside;
+    const auto put = [&](std::size_t at, int entry) {
+        low_[at] = static_cast<std::uint8_t>(entry);
+        if (high_) high_[at] = static_cast<std::uint8_t>(entry >> 8);
+    };
+    filled_[cube] = 1;
     if (candidates.size() == 1) {
-        std::fill_n(to, kSide * kSide * kSide, candidates.front().entry);
+        for (std::size_t i = 0; i < kSide * kSide * kSide; ++i) put(place + i, candidates.front().entry);
         return;
     }
     for (int red = 0; red < kSide; ++red)
-        for (int green = 0; green < kSide; ++green, to += kSide) {
+        for (int green = 0; green < kSide; ++green) {
             std::array<int, kSide> least, entry;
             least.fill(1 << 30);
             entry.fill(0);
@@ -114,7 +118,8 @@ void NearestColours::fillCube(std::uint32_t cube)
                     entry[std::size_t(blue)] = nearer ? c.entry : entry[std::size_t(blue)];
                 }
             }
-            std::copy(entry.begin(), entry.end(), to);
+            const std::size_t line = place + static_cast<std::size_t>((red * kSide + green) * kSide);
+            for (std::size_t blue = 0; blue < kSide; ++blue) put(line + blue, entry[blue]);
         }
 }
 

@@ -1,5 +1,6 @@
 // The nearest of a fixed set of colours, for all pixels of a picture. The answers stand in a table of all colours,
-// which is filled cube by cube as colours are asked for.
+// which is filled cube by cube as colours are asked for: a byte
+// each, so that more of it stays in the cache, and a second one where there are more than 256 colours to choose from.
 #pragma once
 #include "pixels/Bits.h"
 #include <array>
@@ -24,9 +25,9 @@ class NearestColours {
     {
         const auto word = std::bit_cast<std::uint32_t>(p);
         const std::uint32_t at = kPlace[0][word & 255] | kPlace[1][word >> 8 & 255] | kPlace[2][word >> 16 & 255];
-        if (table_[at] == 0) [[unlikely]]
+        if (!filled_[at >> 3 * kInside]) [[unlikely]]
             fillCube(at >> 3 * kInside);
-        return table_[at] - 1;
+        return high_ ? low_[at] | high_[at] << 8 : low_[at];
     }
 
   private:
@@ -45,11 +46,11 @@ class NearestColours {
 
     struct Candidate {
         std::array<int, 3> c; // blue, green, red
-        std::uint16_t entry;  // position + 1
+        std::uint16_t entry;
     };
     using Candidates = std::vector<Candidate>;
     struct Free {
-        void operator()(std::uint16_t* table) const;
+        void operator()(std::uint8_t* table) const;
     };
 
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
@@ -57,7 +58,8 @@ class NearestColours {
     Distance distance_;
     Candidates colours_;
     std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
-    std::unique_ptr<std::uint16_t[], Free> table_;
+    std::vector<std::uint8_t> filled_ = std::vector<std::uint8_t>(1 << 3 * kOutside); // by cube
+    std::unique_ptr<std::uint8_t[], Free> low_, high_;
 };
 
 } // namespace velara

@@ -38,43 +38,49 @@ constexpr ScreenMatrix kClusteredDots{
     32, 40, 54, 38, 31, 21, 19, 29};
 // clang-format on
 
-Screen::Screen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest)
+Screen::Screen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest), colours_(colours)
 {
     for (const Pixel& p : colours) {
         lanes_.push_back(wide(p));
         brightness_.push_back(greyOf(p.c[2], p.c[1], p.c[0]));
+        for (std::size_t rank = 0; rank < kRanks; ++rank) state_[cellOf(p, rank)] = kHoldsEntry;
     }
 }
 
-/// Each entry is the nearest to the colour and to what all before it have left of it.
-void Screen::fill(Known& known, std::uint32_t key)
+int Screen::lookCloser(Pixel p, std::size_t cell, int place)
 {
-    const auto pixel = std::bit_cast<Pixel>(key & 0x00FFFFFF);
-    const Lanes colour = wide(pixel);
-    struct Used {
-        int entry, times;
+    if (state_[cell] & kHoldsEntry) {
+        const int own = nearest_(p);
+        const Pixel& q = colours_[std::size_t(own)];
+        if (p.c[0] == q.c[0] && p.c[1] == q.c[1] && p.c[2] == q.c[2]) return own;
+    }
+    if (!(state_[cell] & kMixed)) mix(cell);
+    return mixtures_[cell][std::size_t(place)];
+}
+
+/// Each entry is the nearest to the colour and to what all before it have left of it.
+void Screen::mix(std::size_t cell)
+{
+    const auto value = [&](int channel) {
+        return (static_cast<int>(cell >> kBits * channel & kMostLevel) * 255 + kMostLevel / 2) / kMostLevel;
     };
-    std::array<Used, 64> used;
+    const Lanes colour{value(0), value(1), value(2), 0};
+    std::array<std::uint8_t, 256> times{};
+    std::array<std::uint8_t, 64> used;
     std::size_t count = 0;
     Lanes error{};
     for (int i = 0; i < 64; ++i) {
-        const int entry = nearest_(narrow(limited(colour + error, 0, 255)));
-        const auto same =
-            std::find_if(used.begin(), used.begin() + count, [&](const Used& u) { return u.entry == entry; });
-        if (same == used.begin() + count)
-            used[count++] = {entry, 1};
-        else
-            ++same->times;
-        error = limited(error + colour - lanes_[std::size_t(entry)], -kMostError, kMostError);
+        const auto entry = static_cast<std::size_t>(nearest_(narrow(limited(colour + error, 0, 255))));
+        if (times[entry]++ == 0) used[count++] = static_cast<std::uint8_t>(entry);
+        error = limited(error + colour - lanes_[entry], -kMostError, kMostError);
     }
-    std::sort(used.begin(), used.begin() + count, [&](const Used& a, const Used& b) {
-        const int byBrightness = brightness_[std::size_t(a.entry)] - brightness_[std::size_t(b.entry)];
-        return byBrightness != 0 ? byBrightness < 0 : a.entry < b.entry;
+    std::sort(used.begin(), used.begin() + count, [&](int a, int b) {
+        const int byBrightness = brightness_[std::size_t(a)] - brightness_[std::size_t(b)];
+        return byBrightness != 0 ? byBrightness < 0 : a < b;
     });
-    known.key = key;
-    auto to = known.entries.begin();
-    for (std::size_t i = 0; i < count; ++i)
-        to = std::fill_n(to, used[i].times, static_cast<std::uint8_t>(used[i].entry));
+    auto to = mixtures_[cell].begin();
+    for (std::size_t i = 0; i < count; ++i) to = std::fill_n(to, times[used[i]], used[i]);
+    state_[cell] |= kMixed;
 }
 
 } // namespace velara

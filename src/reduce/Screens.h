@@ -1,10 +1,11 @@
-// Dithers by a matrix, for any palette: each colour becomes 64 entries of the palette whose mean it is, dark ones
-// first, and the matrix says which of them a pixel gets.
+// Dithers by a matrix, for any palette: each colour becomes a mixture of 64 entries of the palette whose mean it is,
+// dark ones first, and the matrix says which of them a pixel gets. Mixtures are kept: a picture has few that differ.
 #pragma once
 #include "pixels/NearestColours.h"
 #include "pixels/PixelLanes.h"
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace velara {
@@ -15,32 +16,47 @@ extern const ScreenMatrix kDispersedDots, kClusteredDots;
 
 class Screen {
   public:
-    using Entries = std::array<std::uint8_t, 64>;
-
     /// colours: those that nearest knows, at most 256.
     Screen(const std::vector<Pixel>& colours, NearestColours& nearest);
-    /// For the colour at even levels: odd ones go up or down, which by turns gives their mean.
-    const Entries& entries(Pixel p, bool up)
+
+    /// The entry for the colour at a place of the matrix's order, in an odd or an even square. Colours of the palette
+    /// are their own. Mixed are 32 levels a channel: those between go to the one below or above, by place and square.
+    int operator()(Pixel p, int place, bool odd)
     {
-        std::uint32_t key = 0xFF000000;
-        for (int c = 0; c < 3; ++c) key |= std::uint32_t(std::min(p.c[c] + up, 255) & ~1) << 8 * c;
-        Known& known = known_[key * 2654435769U >> (32 - kKnownBits)];
-        if (known.key != key) fill(known, key);
-        return known.entries;
+        const std::size_t cell = cellOf(p, std::size_t(place & 3) * 2 + odd);
+        if (state_[cell] != kMixed) [[unlikely]]
+            return lookCloser(p, cell, place);
+        return mixtures_[cell][std::size_t(place)];
     }
 
   private:
-    static constexpr int kKnownBits = 16;
-    struct Known {
-        std::uint32_t key = 0; // the colour, opaque
-        Entries entries;
-    };
-    void fill(Known& known, std::uint32_t key);
+    using Mixture = std::array<std::uint8_t, 64>;
+    enum State : std::uint8_t { kMixed = 1, kHoldsEntry = 2 };
+    static constexpr int kBits = 5, kMostLevel = (1 << kBits) - 1;
+    static constexpr std::size_t kCells = std::size_t{1} << 3 * kBits, kRanks = 8;
+    static constexpr auto kLevel = [] { // by rank and channel value
+        std::array<std::array<std::uint8_t, 256>, kRanks> level{};
+        for (std::size_t rank = 0; rank < kRanks; ++rank)
+            for (std::size_t v = 0; v < 256; ++v)
+                level[rank][v] = static_cast<std::uint8_t>((v * kMostLevel * 2 * kRanks + (2 * rank + 1) * 255) /
+                                                           (255 * 2 * kRanks));
+        return level;
+    }();
+    static std::size_t cellOf(Pixel p, std::size_t rank)
+    {
+        const auto& level = kLevel[rank];
+        return std::size_t(level[p.c[0]] | level[p.c[1]] << kBits | level[p.c[2]] << 2 * kBits);
+    }
+
+    int lookCloser(Pixel p, std::size_t cell, int place);
+    void mix(std::size_t cell);
 
     NearestColours& nearest_;
+    const std::vector<Pixel>& colours_;
     std::vector<Lanes> lanes_;
     std::vector<int> brightness_;
-    std::vector<Known> known_{std::size_t{1} << kKnownBits};
+    std::vector<std::uint8_t> state_ = std::vector<std::uint8_t>(kCells);
+    std::unique_ptr<Mixture[]> mixtures_ = std::make_unique_for_overwrite<Mixture[]>(kCells);
 };
 
 } // namespace velara

@@ -38,9 +38,7 @@ class Work {
     {
         Screen screen(colours_, nearest_);
         eachPixel([&](Pixel p, int x, int y) {
-            const int own = nearest_(p);
-            if (isSame(p, colours_[std::size_t(own)])) return own;
-            return int(screen.entries(p, ((x ^ y) & 8) != 0)[matrix[std::size_t(y % 8 * 8 + x % 8)]]);
+            return screen(p, matrix[std::size_t(y % 8 * 8 + x % 8)], ((x ^ y) & 8) != 0);
         });
     }
 
@@ -64,14 +62,21 @@ class Work {
         }
     }
 
+    /// Rows know nothing of each other: some go side by side, as each pixel has to wait for the one before it.
     void alongRows()
     {
-        for (int y = 0; y < bits_.height(); ++y) {
-            const Pixel* from = bits_.row(y);
-            std::uint8_t* to = rowOf(y);
-            Lanes error = seed(from[0], y);
-            for (int x = 0; x < bits_.width(); ++x) error = put(to[x], from[x], error);
-            told(y);
+        constexpr int kAbreast = 4;
+        for (int y = 0; y < bits_.height(); y += kAbreast) {
+            std::array<Lanes, kAbreast> errors;
+            const int rows = std::min(kAbreast, bits_.height() - y);
+            for (int i = 0; i < rows; ++i) errors[std::size_t(i)] = seed(bits_.row(y + i)[0], y + i);
+            const auto along = [&](int count) {
+                for (int x = 0; x < bits_.width(); ++x)
+                    for (int i = 0; i < count; ++i)
+                        errors[std::size_t(i)] = put(rowOf(y + i)[x], bits_.row(y + i)[x], errors[std::size_t(i)]);
+            };
+            rows == kAbreast ? along(kAbreast) : along(rows);
+            told(y + kAbreast - 1);
         }
     }
 

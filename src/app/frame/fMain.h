@@ -84,6 +84,7 @@ class fMain final : public QMainWindow, public Frame {
     void imageRotate();
     void imageResolution();
     void imageTextures();
+    void imageMerging();
     void colorDepth();
     /// The dialog that saves for the web, on the active document, or on a picture made of a document.
     void saveForWeb();

@@ -72,6 +72,7 @@ constexpr Handler kHandlers[] = {
     {"700",                  [](fMain& f) { f.setZoom(7); }},
     {"PASTELAYERSBOX",       [](fMain& f) { f.boxes().bring(Boxes::Clips); }},
     {"IMAGETEXTURES",        [](fMain& f) { f.imageTextures(); }},
+    {"IMAGEMERGING",         [](fMain& f) { f.imageMerging(); }},
     {"IMAGERESOLUTION",      [](fMain& f) { f.imageResolution(); }},
     {"IMAGESAVEOPTIONS",     [](fMain& f) { f.saveForWeb(); }},
     {"IMAGECOLORDEPTH",      [](fMain& f) { f.colorDepth(); }},

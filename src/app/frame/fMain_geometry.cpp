@@ -8,6 +8,7 @@
 #include "ui/geometry/fResolution.h"
 #include "ui/geometry/fRotate.h"
 #include "ui/geometry/fSize.h"
+#include "ui/merge/fOverlay.h"
 #include "ui/merge/fTexturize.h"
 
 namespace velara {
@@ -57,6 +58,21 @@ void fMain::imageTextures()
     report("IMAGETEXTURES", change(document, [texturing](Document& draft, cBitFilter& filter) {
                draft.setBits(texturized(filter, texturing));
            }));
+}
+
+/// Asked for again, the open one goes over the picture that is active now.
+void fMain::imageMerging()
+{
+    const DocumentHandle document = active();
+    if (!document || !document->PictureExists()) return;
+    auto* window = findChild<fOverlay*>();
+    if (window && window->isVisible())
+        window->setBelow(document);
+    else
+        window = new fOverlay(*this, document, this);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 } // namespace velara

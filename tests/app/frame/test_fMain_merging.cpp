@@ -1,0 +1,146 @@
+// Image merging in the frame: the window that lays one open picture over another, and what happens around it.
+#include "app/frame/frameTest.h"
+#include "document/merging.h"
+#include "ui/merge/fOverlay.h"
+#include "ui/widgets/fColorButton.h"
+#include "ui/widgets/fPicture.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+
+namespace velara {
+namespace {
+
+struct FrameMerging : FrameTest {
+    const Bits below = randomBits(120, 90, 1), above = randomBits(40, 30, 2);
+    QPointer<fImage> lower, upper;
+    QPointer<fOverlay> dialog;
+
+    void begin()
+    {
+        lower = open(below, "below.bmp");
+        upper = open(above, "above.bmp");
+        activate(lower);
+        frame->Mmenu("IMAGEMERGING");
+        dialog = frame->findChild<fOverlay*>();
+    }
+    void activate(fImage* image)
+    {
+        frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(image->parentWidget()));
+    }
+    template <class T> T* find(const char* name) { return dialog->findChild<T*>(name); }
+    void slide(const char* name, int value) { find<QSlider>(name)->setValue(value); }
+    void settle() { QTest::qWait(250); } // longer than from one look at the documents to the next
+    Bits blend(const Merging& merging, const Region& region)
+    {
+        cBitFilter filter;
+        filter.setBits(below);
+        filter.setBitsRegion(region);
+        return merged(filter, merging);
+    }
+    bool shows(const Bits& wanted) { return sameBits(wanted, find<fPicture>("iSrc")->bits()); }
+};
+
+const Region kAll = Region::rectangle(0, 0, 120, 90);
+
+TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
+{
+    begin();
+    ASSERT_TRUE(dialog && dialog->isVisible() && !dialog->isModal());
+    EXPECT_EQ(2, find<QComboBox>("cbOverlay")->count());
+    EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText()) << "not the picture itself";
+    EXPECT_EQ("50%", find<QLabel>("lblTransparencyV")->text());
+    settle();
+    EXPECT_TRUE(shows(blend({above, 0, 0}, kAll)));
+    slide("sbXOffset", 25);
+    find<QSpinBox>("txtYOffset")->setValue(-7);
+    slide("sbTransparency", 30);
+    find<QCheckBox>("chkTiled")->click();
+    EXPECT_FALSE(find<fColorButton>("lblMaskColor")->isEnabled());
+    find<QCheckBox>("chkMaskColor")->click();
+    const Pixel p = above.at(5, 5);
+    find<fColorButton>("lblMaskColor")->setColour(colourOf(p.c[2], p.c[1], p.c[0]));
+    lower->document().Region.CreateRect(10, 10, 100, 70, Combine::Or, true);
+    settle();
+    const Bits wanted =
+        blend({above, 25, -7, true, 30, colourOf(p.c[2], p.c[1], p.c[0])}, lower->document().Region.working());
+    EXPECT_EQ("30%", find<QLabel>("lblTransparencyV")->text());
+    EXPECT_TRUE(shows(wanted)) << "it follows the selection too";
+    QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(dialog) << "it went";
+    EXPECT_TRUE(sameBits(wanted, lower->Bits()));
+    EXPECT_TRUE(sameBits(above, upper->Bits()));
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(below, lower->Bits()));
+}
+
+TEST_F(FrameMerging, ANewImageGetsTheWholeBlendAndThePictureStays)
+{
+    begin();
+    lower->document().Region.CreateRect(10, 10, 20, 20, Combine::Or, true);
+    find<QCheckBox>("chkCreateNew")->click();
+    settle();
+    const Bits wanted = blend({above, 0, 0}, kAll);
+    EXPECT_TRUE(shows(wanted)) << "nothing is selected in a new picture";
+    QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
+    ASSERT_EQ(3, frame->documents().size());
+    const fImage* made = frame->documents().back();
+    EXPECT_EQ(made, frame->GetActiveImage());
+    EXPECT_TRUE(sameBits(wanted, made->Bits()));
+    EXPECT_TRUE(made->Tag().endsWith("below.bmp") && made->Tag() != lower->Tag());
+    EXPECT_TRUE(sameBits(below, lower->Bits()));
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(below, made->Bits()));
+}
+
+TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
+{
+    setup.AskToSave = false;
+    begin();
+    slide("sbXOffset", 120);
+    frame->change(lower->document().handle(),
+                  [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(20, 10, 9, 9, 9)); });
+    frame->change(upper->document().handle(),
+                  [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(8, 8, 100, 50, 1)); });
+    settle();
+    EXPECT_EQ(20, find<QSlider>("sbXOffset")->value()) << "the picture is no wider any more";
+    slide("sbXOffset", 0);
+    settle();
+    cBitFilter filter;
+    filter.setBits(lower->Bits());
+    filter.setBitsRegion(Region::rectangle(0, 0, 20, 10));
+    EXPECT_TRUE(shows(merged(filter, {upper->Bits(), 0, 0})));
+
+    open(randomBits(5, 5, 3), "third.bmp");
+    settle();
+    EXPECT_EQ(3, find<QComboBox>("cbOverlay")->count());
+    EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText());
+
+    const Bits before = lower->Bits();
+    upper->parentWidget()->close();
+    QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has seen it
+    settle();
+    ASSERT_TRUE(dialog);
+    EXPECT_TRUE(sameBits(before, lower->Bits())) << "another picture than the chosen one is not merged";
+    EXPECT_EQ("third.bmp", find<QComboBox>("cbOverlay")->currentText());
+    for (fImage* image : frame->documents()) image->parentWidget()->close();
+    slide("sbTransparency", 10);
+    settle();
+    ASSERT_TRUE(dialog && dialog->isVisible());
+    EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
+    EXPECT_EQ(0, find<QComboBox>("cbOverlay")->count());
+    EXPECT_TRUE(find<fPicture>("iSrc")->bits().isNull());
+    open(below, "again.bmp");
+    settle();
+    EXPECT_TRUE(find<QPushButton>("cmdOK")->isEnabled());
+}
+
+} // namespace
+} // namespace velara
