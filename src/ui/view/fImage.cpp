@@ -172,6 +172,7 @@ void fImage::activate()
         frame_.setStatus(Panel::Zoom, zoomText());
         frame_.CheckToolbarState(false);
         setMouseScroll(frame_.mouseScrolling());
+        tools_->showHint();
     } else if (tmrSelection_.isActive()) {
         return;
     }
@@ -238,7 +239,7 @@ void fImage::forget()
         if (const auto* other = qobject_cast<const fImage*>(widget);
             other && other != this && !other->forgotten_ && &other->frame_ == &frame_)
             return;
-    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom})
+    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
         frame_.setStatus(panel, {});
 }
 

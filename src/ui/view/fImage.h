@@ -109,8 +109,10 @@ class fImage final : public QWidget, public ToolSurface {
     void showPaste();
     /// A command comes: what hangs on the pointer leaves the picture until the pointer moves again.
     void restPaste();
-    /// The paste is let go of.
-    void dropPaste();
+    /// A drag, a half-made polygon or a pending paste is let go of. False: there was none.
+    bool dropGesture();
+    /// Another tool was chosen: what the one before has begun goes.
+    void toolChosen();
     /// The pointer of the chosen tool.
     void showToolPointer();
 
@@ -124,6 +126,7 @@ class fImage final : public QWidget, public ToolSurface {
 
     // --- What the display hands on
     void displayPressed(const QMouseEvent& event);
+    void displayDoubleClicked(const QMouseEvent& event);
     void displayMoved(const QMouseEvent& event);
     void displayReleased(const QMouseEvent& event);
     void displayWheel(QWheelEvent& event);
@@ -147,7 +150,9 @@ class fImage final : public QWidget, public ToolSurface {
     bool step(bool moved);
     void layOutView();
     void barChanged();
+    void spotChanged();
     void tick();
+    bool canScroll() const;
     bool handScrolls() const;
     void scrollByHand(QPoint screen);
     void zoomAbout(int factor, QPointF at);
@@ -167,7 +172,7 @@ class fImage final : public QWidget, public ToolSurface {
     int zoom_ = kLeastZoom;
     int barsWidth_;
     bool mouseScroll_ = false;
-    bool grabDown_ = false;
+    Qt::MouseButton grabButton_ = Qt::NoButton; // that holds the picture for scrolling
     QPoint grabLast_;
     bool scrollGuard_ = false;
     bool laidOut_ = false;
