@@ -132,6 +132,23 @@ void Tools::toolChosen()
     if (!row || &row->tool() != open_ || !open_->unfinished(context_)) drop();
 }
 
+void Tools::select(Selecting what)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) return;
+    if (active_ || open_) drop();
+    cBitRegion& region = c.document.Region;
+    if (what == Selecting::Inverted)
+        region.Invert();
+    else if (what == Selecting::All)
+        region.setRegion(region.RegionMain());
+    else
+        region.setRegion(Region::rectangle(0, 0, 0, 0));
+    region.Crop();
+    c.surface.UpdateImage();
+    endRelease();
+}
+
 void Tools::pictureReplaced()
 {
     if (!active_ && open_) drop();

@@ -13,6 +13,7 @@ namespace velara {
 class Tools {
   public:
     enum Button { NoButton = 0, Left = 1, Right = 2 };
+    enum class Selecting { All, None, Inverted };
     enum Key {
         Enter = 13,
         Ctrl = 17,
@@ -43,6 +44,8 @@ class Tools {
     void toolChosen();
     /// The picture has another size: the corners of a half-made polygon mean nothing any more.
     void pictureReplaced();
+    /// The selection by command; a gesture under way is dropped.
+    void select(Selecting what);
     /// The status bar says which keys end what is under way; nothing when nothing is.
     void showHint();
     /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what

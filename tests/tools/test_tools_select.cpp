@@ -143,7 +143,7 @@ TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
     for (const std::function<void()>& change : std::initializer_list<std::function<void()>>{otherTool, otherShape}) {
         choose("Select");
         frame.setup_.SelectionShape = 2;
-        document.Region.CreateRect(2, 2, 9, 9, Combine::Copy, true);
+        document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
         drag({{10, 10}, {30, 10}});
         EXPECT_TRUE(selection().isEmpty());
         tools->toolChosen();
@@ -170,7 +170,7 @@ TEST_F(SelectTool, EscapeDropsAnyGestureAndWhatItChanged)
         choose(row.tool);
         frame.setup_.SelectionShape = static_cast<std::int16_t>(row.shape);
         frame.setup_.ForeColor = 0x123456;
-        document.Region.CreateRect(2, 2, 9, 9, Combine::Copy, true);
+        document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
         const Bits before = document.Bits();
         press({4, 4});
         move({20, 30});

@@ -1,6 +1,5 @@
 // The view of a document's window: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
 #include "seams/Frame.h"
-#include "tools/Tools.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"
@@ -21,7 +20,7 @@ QSize fImage::sizeHint() const
 {
     QSize most(800, 600);
     if (const auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
-        most = window->mdiArea()->viewport()->size() * 4 / 5;
+        most = window->mdiArea()->viewport()->size();
     const QSize zoomed(PictureWidth() * zoom_, PictureHeight() * zoom_);
     return zoomed.boundedTo(most).expandedTo({160, 120});
 }
@@ -65,6 +64,7 @@ void fImage::layOutView()
     else if (mouseScroll_)
         iDst_->unsetCursor();
     iDst_->show();
+    if (!focusProxy()) takeFocus();
     scrollGuard_ = false;
     iDst_->update();
 }
