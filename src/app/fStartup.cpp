@@ -64,13 +64,21 @@ bool makeFolders(Platform& platform)
     return made && QFileInfo(temp).isWritable();
 }
 
-void placeFrame(QWidget& frame, const Setup& setup)
+void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
 {
-    constexpr int kTwips = 15;
+    constexpr int kTwips = 15, kMostTwips = 32767;
     constexpr QSize kSmallest(400, 300); // smaller ones come from a damaged configuration only
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize wanted = QSize(setup.FrameWidth / kTwips, setup.FrameHeight / kTwips).expandedTo(kSmallest);
-    frame.resize(wanted.boundedTo(screen.size()));
+    const bool known = !place.isEmpty() && frame.restoreGeometry(place);
+    const QRect normal = frame.normalGeometry();
+    frame.setWindowState(frame.windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized));
+    if (known && normal.isValid()) frame.setGeometry(normal);
+    // The configuration has the last word on the size, as far as its fields reach.
+    const QSize size(known && setup.FrameWidth == kMostTwips ? frame.width() : wanted.width(),
+                     known && setup.FrameHeight == kMostTwips ? frame.height() : wanted.height());
+    frame.resize(size.boundedTo(screen.size()));
+    if (!known) frame.move(screen.center() - frame.rect().center());
     if (setup.FrameMaximized) frame.setWindowState(frame.windowState() | Qt::WindowMaximized);
 }
 
@@ -86,7 +94,7 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
     auto frame = std::make_unique<fMain>(platform, setup);
     setup.CurrentTool.clear();
     if (platform.previousInstance()) platform.tell("Velara Studio is already running!");
-    placeFrame(*frame, setup);
+    placeFrame(*frame, setup, QByteArray::fromBase64(platform.setting("VeStu", "Place", "").toLatin1()));
     if (!makeFolders(platform))
         platform.tell(
             "The folder \"" + platform.programFolder() +

@@ -11,8 +11,9 @@ namespace velara {
 /// False when one of them can't be made or filled.
 bool makeFolders(Platform& platform);
 
-/// Places and sizes the frame from the configuration. Whatever that says, the frame can be found on a screen.
-void placeFrame(QWidget& frame, const Setup& setup);
+/// Sizes the frame from the configuration and puts it where it stood at the end of the last run, in the middle of the
+/// screen the first time. Whatever those say, the frame can be found on a screen.
+void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place = {});
 
 /// Splash, configuration, frame, folders, bars, in that order; the frame stands shown at the end. setup must outlive
 /// it.

@@ -26,8 +26,9 @@ class cBitFilter;
 class fImage;
 struct Setup;
 
-/// The panels of the status bar, by their keys.
-enum class Panel { Pos, Ext, Size, Name, Zoom };
+/// The panels of the status bar, by their keys. Hint takes the place of size, name and zoom while it
+/// says something.
+enum class Panel { Pos, Ext, Size, Name, Zoom, Hint };
 
 /// How a new document comes in.
 enum class Arrival {

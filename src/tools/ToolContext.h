@@ -35,7 +35,10 @@ struct ToolContext {
     bool moving = false, moved = false, down = false;
     bool connect = false;                   // the stroke has placed its first dab
     bool corner = false;                    // Space has set a corner in this drag
+    bool polygon = false;                   // a polygon selection is half made, under the button or not
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
+    Region before, wiped;                   // the selection as a gesture found it, and as its press left it
+    std::int32_t colourBefore = 0;          // the colour that the pipette found
 
     std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
 
@@ -68,14 +71,24 @@ class Tool {
     virtual void release(ToolContext&) const {}
     /// A move without a button.
     virtual void hover(ToolContext&) const {}
-    /// The right button went up: what hangs on the screen goes away. The committed picture is restored after it.
+    /// The right button went up, or Esc down: what hangs on the screen goes away, and what else the gesture changed
+    /// comes back. The committed picture is restored after it.
     virtual void cancel(ToolContext&) const {}
     virtual void space(ToolContext&) const {}
     virtual void ctrlReleased(ToolContext&) const {}
+    /// The gesture goes on after the release.
+    virtual bool unfinished(const ToolContext&) const { return false; }
+    /// Enter ends a gesture that only its user can end. False: there is none, the key is somebody else's.
+    virtual bool finish(ToolContext&) const { return false; }
+    /// The second press of a double click. False: a press like any other.
+    virtual bool doubleClick(ToolContext&) const { return false; }
+    /// Which keys do what while the gesture is on, for the status bar.
+    virtual const char* hint(const ToolContext&) const { return "Esc or right button: drop"; }
 
   protected:
     /// The Space key of the tools that place pixels: what stands is committed; what is held goes on from there.
     void fix(ToolContext& c) const;
+    static constexpr const char* kFixHint = "Space: fix and go on · Esc: drop";
 };
 
 } // namespace velara

@@ -20,6 +20,12 @@ const Tool* Tools::tool() const
     return row ? &row->tool() : nullptr;
 }
 
+const Tool* Tools::underWay() const
+{
+    if (active_ || open_) return active_ ? active_ : open_;
+    return context_.stores().pastePending ? &pasteRow().tool() : nullptr;
+}
+
 /// Runs a part of an event. False when the object is gone afterwards.
 template <class Action> bool Tools::guarded(Action action)
 {
@@ -60,6 +66,7 @@ void Tools::press(int button, int x, int y)
         }
     }
     c.last = {x, y};
+    showHint();
 }
 
 void Tools::move(int button, int x, int y)
@@ -67,12 +74,16 @@ void Tools::move(int button, int x, int y)
     ToolContext& c = context_;
     if (!c.document.PictureExists()) return;
     c.at = {x, y};
-    if (!active_) showPointer();
+    if (!active_) {
+        toolChosen();
+        showPointer();
+    }
     showPosition(button);
     const Tool* const holder = tool();
     if (button == Left && active_ && !guarded([&] { holder->drag(c); })) return;
     if (button == NoButton && !active_ && holder && !guarded([&] { holder->hover(c); })) return;
     c.last = {x, y};
+    if (c.stores().pastePending) showHint();
 }
 
 void Tools::release(int button, int x, int y)
@@ -86,6 +97,7 @@ void Tools::release(int button, int x, int y)
     c.at = {x, y};
     if (button == Left && c.down && active_) {
         if (!guarded([&] { active_->release(c); })) return;
+        open_ = active_->unfinished(c) ? active_ : nullptr;
     } else if (button == Right) {
         cancel();
     }
@@ -97,7 +109,8 @@ void Tools::release(int button, int x, int y)
 void Tools::cancel()
 {
     ToolContext& c = context_;
-    if (const Tool* holder = tool()) holder->cancel(c);
+    if (const Tool* gesture = underWay()) gesture->cancel(c);
+    open_ = nullptr;
     if (c.frame.engineHolds(c.document)) guarded([&] { c.preview.restore(); });
     c.preview.takeRestored();
     c.surface.UpdateImage();
@@ -105,11 +118,46 @@ void Tools::cancel()
 
 bool Tools::drop()
 {
-    if (!active_ && !context_.stores().pastePending) return false;
+    if (!underWay()) return false;
     cancel();
     endRelease();
     showPointer();
     return true;
+}
+
+void Tools::toolChosen()
+{
+    const ToolRow* row = chosen();
+    if (active_ || !open_) return;
+    if (!row || &row->tool() != open_ || !open_->unfinished(context_)) drop();
+}
+
+void Tools::select(Selecting what)
+{
+    ToolContext& c = context_;
+    if (!c.document.PictureExists()) return;
+    if (active_ || open_) drop();
+    cBitRegion& region = c.document.Region;
+    if (what == Selecting::Inverted)
+        region.Invert();
+    else if (what == Selecting::All)
+        region.setRegion(region.RegionMain());
+    else
+        region.setRegion(Region::rectangle(0, 0, 0, 0));
+    region.Crop();
+    c.surface.UpdateImage();
+    endRelease();
+}
+
+void Tools::pictureReplaced()
+{
+    if (!active_ && open_) drop();
+}
+
+void Tools::showHint()
+{
+    const Tool* gesture = underWay();
+    context_.frame.setStatus(Panel::Hint, gesture ? QString::fromUtf8(gesture->hint(context_)) : QString());
 }
 
 /// The end of every release: the outline runs again and the engine knows the working region.
@@ -123,12 +171,18 @@ void Tools::endRelease()
     if (c.frame.engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
     c.down = c.moving = false;
     active_ = nullptr;
+    toolChosen(); // one that came during the drag
+    showHint();
 }
 
 void Tools::deactivated()
 {
     ToolContext& c = context_;
-    if (active_) active_->cancel(c);
+    c.frame.setStatus(Panel::Hint, {});
+    if (active_) {
+        active_->cancel(c);
+        open_ = nullptr;
+    }
     if ((active_ || c.stores().pastePending) && c.preview.isOurs())
         if (!guarded([&] { c.preview.restore(); })) return;
     active_ = nullptr;
@@ -156,8 +210,26 @@ bool Tools::keyDown(int key)
     }
     if (key == Escape) return drop();
     const Tool* const holder = tool();
-    if (key != Space || !holder) return false;
-    guarded([&] { holder->space(c); });
+    if (!holder) return false;
+    if (key == Enter) return end(&Tool::finish);
+    if (key != Space) return false;
+    if (guarded([&] { holder->space(c); })) showHint();
+    return true;
+}
+
+bool Tools::doubleClick(int x, int y)
+{
+    context_.at = {x, y};
+    return context_.document.PictureExists() && !active_ && tool() && end(&Tool::doubleClick);
+}
+
+/// What ends a gesture. False: nothing was ended.
+bool Tools::end(bool (Tool::*how)(ToolContext&) const)
+{
+    bool ended = false;
+    if (!guarded([&] { ended = (tool()->*how)(context_); }) || !ended) return ended;
+    if (open_ && !open_->unfinished(context_)) open_ = nullptr;
+    endRelease();
     return true;
 }
 

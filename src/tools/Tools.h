@@ -13,7 +13,17 @@ namespace velara {
 class Tools {
   public:
     enum Button { NoButton = 0, Left = 1, Right = 2 };
-    enum Key { Ctrl = 17, Escape = 27, Space = 32, ArrowLeft = 37, ArrowUp = 38, ArrowRight = 39, ArrowDown = 40 };
+    enum class Selecting { All, None, Inverted };
+    enum Key {
+        Enter = 13,
+        Ctrl = 17,
+        Escape = 27,
+        Space = 32,
+        ArrowLeft = 37,
+        ArrowUp = 38,
+        ArrowRight = 39,
+        ArrowDown = 40
+    };
 
     /// All three outlive this object.
     Tools(Document& document, Frame& frame, ToolSurface& surface);
@@ -23,11 +33,21 @@ class Tools {
     void press(int button, int x, int y);
     void move(int button, int x, int y);
     void release(int button, int x, int y);
+    /// The second press of a double click; the caller gives it to press() when this is false.
+    bool doubleClick(int x, int y);
     /// Numbers as in Key. False: the key has no use here.
     bool keyDown(int key);
     bool keyUp(int key);
-    /// A drag and a pending paste end without a trace. False: there was none.
+    /// A drag, a half-made polygon and a pending paste end without a trace. False: there was none.
     bool drop();
+    /// Another tool was chosen, or another setting of one: what the tool before has begun is dropped, but for a drag.
+    void toolChosen();
+    /// The picture has another size: the corners of a half-made polygon mean nothing any more.
+    void pictureReplaced();
+    /// The selection by command; a gesture under way is dropped.
+    void select(Selecting what);
+    /// The status bar says which keys end what is under way; nothing when nothing is.
+    void showHint();
     /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what
     /// hangs on the pointer leaves the picture.
     void deactivated();
@@ -42,13 +62,17 @@ class Tools {
     const ToolRow* chosen() const; // null for none
     /// The one that holds the drag, else the chosen one.
     const Tool* tool() const;
+    /// The one with a gesture under way; null for none.
+    const Tool* underWay() const;
     template <class Action> bool guarded(Action action);
     void showPosition(int button);
     void cancel();
+    bool end(bool (Tool::*how)(ToolContext&) const);
     void endRelease();
 
     ToolContext context_;
     const Tool* active_ = nullptr; // from a left press to its release
+    const Tool* open_ = nullptr;   // its gesture goes on after the release; the chosen one
 };
 
 } // namespace velara

@@ -78,6 +78,7 @@ class GradientTool final : public Tool {
 class GetColorTool final : public Tool {
     bool press(ToolContext& c) const override
     {
+        c.colourBefore = c.setup().ForeColor;
         drag(c);
         return true;
     }
@@ -87,6 +88,11 @@ class GetColorTool final : public Tool {
         c.surface.colourPicked();
     }
     void release(ToolContext& c) const override { c.surface.setPointer(Pointer::Default); }
+    void cancel(ToolContext& c) const override
+    {
+        c.setup().ForeColor = c.colourBefore;
+        c.surface.colourPicked();
+    }
 };
 
 } // namespace

@@ -145,6 +145,7 @@ class TextTool final : public StrokeTool {
                              c.setup().ToolOpacity);
     }
     void space(ToolContext& c) const override { fix(c); }
+    const char* hint(const ToolContext&) const override { return kFixHint; }
 };
 
 /// The pixels hang on the pointer from the command on; a click lays them down, the right button lets go of them.
@@ -174,6 +175,7 @@ class PasteTool final : public Tool {
     }
     void cancel(ToolContext& c) const override { letGo(c); }
     void space(ToolContext& c) const override { fix(c); }
+    const char* hint(const ToolContext&) const override { return "Click: lay down · Space: fix and go on · Esc: drop"; }
 
     static void letGo(ToolContext& c)
     {

@@ -11,7 +11,8 @@ namespace {
 enum SelectionMode { Add = 0, Subtract = 1, New = 2 }; // of Setup.SelectionMode
 enum SelectionShape { RectangleShape = 0, EllipseShape = 1, PolygonShape = 2, PixelShape = 3 };
 
-constexpr int kNearFirstCorner = 3; // pixels within which a release meets the first corner of a polygon
+constexpr int kNearFirstCorner = 3;      // pixels within which a release meets the first corner of a polygon
+constexpr std::size_t kLeastCorners = 6; // numbers of a polygon that encloses something
 
 Combine combineOf(const ToolContext& c) { return c.setup().SelectionMode == Subtract ? Combine::Diff : Combine::Or; }
 
@@ -24,27 +25,52 @@ Rect bandOf(const ToolContext& c)
 
 Point lastCorner(const ToolContext& c) { return {c.points[c.points.size() - 2], c.points.back()}; }
 
+bool enclosesSomething(const ToolContext& c) { return c.points.size() >= kLeastCorners; }
+
 void dropCorners(ToolContext& c)
 {
     c.points = {0, 0};
+    c.polygon = false;
     c.surface.HideShape(BandShape::Line);
 }
 
-/// A polygon is made of drags from corner to corner: a release sets a corner, and so does Space while the button stays
-/// down. It closes at the end of a drag with such corners, or where a release meets the first corner.
+void addCorner(ToolContext& c, Point from, Point to)
+{
+    c.points.insert(c.points.end(), {to.x, to.y});
+    c.surface.ShowShape(BandShape::Line, from.x, from.y, to.x, to.y, true);
+}
+
+void closePolygon(ToolContext& c)
+{
+    c.document.Region.CreatePolygon(c.points, combineOf(c), true);
+    dropCorners(c);
+}
+
+/// The selection as it was before the gesture.
+void giveBackSelection(ToolContext& c)
+{
+    c.document.Region.setRegion(c.before.isNull() ? Region::rectangle(0, 0, 0, 0) : c.before);
+}
+
+/// A polygon is made of drags or clicks from corner to corner: a release sets a corner, and so does Space while the
+/// button stays down. It closes by Enter, by a double click, at the end of a drag with corners set by Space, or where a
+/// release meets the first corner.
 class SelectTool final : public Tool {
     bool press(ToolContext& c) const override
     {
         const int shape = c.setup().SelectionShape;
-        if (shape != PolygonShape && c.points.size() >= 3) dropCorners(c);
-        const bool firstCorner = c.points.size() < 3;
-        if (shape == PolygonShape && firstCorner) c.points = {c.at.x, c.at.y};
-        if (shape == PolygonShape && !firstCorner) c.start = lastCorner(c);
-        if (c.setup().SelectionMode == New && firstCorner) {
+        if (shape != PolygonShape && c.polygon) dropCorners(c);
+        const bool begins = !c.polygon;
+        if (begins) c.before = c.document.Region.Region();
+        if (shape == PolygonShape && begins) c.points = {c.at.x, c.at.y};
+        if (shape == PolygonShape && !begins) c.start = lastCorner(c);
+        c.polygon = shape == PolygonShape;
+        if (c.setup().SelectionMode == New && begins) {
             c.document.Region.CreateRect(0, 0, c.document.PictureWidth(), c.document.PictureHeight(), Combine::Diff,
                                          false);
             c.surface.UpdateImage();
         }
+        if (begins) c.wiped = c.document.Region.Region();
         if (shape == PixelShape) {
             c.surface.SetAutoRedraw(true);
             c.surface.StopTimer();
@@ -68,6 +94,14 @@ class SelectTool final : public Tool {
             c.surface.ShowShape(shape == EllipseShape ? BandShape::Ellipse : BandShape::Rectangle, band.left, band.top,
                                 band.right, band.bottom, false);
         }
+    }
+
+    /// Between two corners the line to the next one follows the pointer.
+    void hover(ToolContext& c) const override
+    {
+        if (!c.polygon) return;
+        const Point from = lastCorner(c);
+        c.surface.ShowShape(BandShape::Line, from.x, from.y, c.at.x, c.at.y, false);
     }
 
     void release(ToolContext& c) const override
@@ -94,19 +128,16 @@ class SelectTool final : public Tool {
 
     static void releaseCorner(ToolContext& c)
     {
-        const bool meetsFirst = c.points.size() >= 6 && std::abs(c.at.x - c.points[0]) <= kNearFirstCorner &&
+        const bool meetsFirst = enclosesSomething(c) && std::abs(c.at.x - c.points[0]) <= kNearFirstCorner &&
                                 std::abs(c.at.y - c.points[1]) <= kNearFirstCorner;
-        if (!meetsFirst && c.at != lastCorner(c)) {
-            c.points.insert(c.points.end(), {c.at.x, c.at.y});
-            c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, true);
-        }
-        if (!meetsFirst && !(c.corner && c.points.size() >= 6)) return;
-        c.document.Region.CreatePolygon(c.points, combineOf(c), true);
-        dropCorners(c);
+        if (!meetsFirst && c.at != lastCorner(c)) addCorner(c, c.start, c.at);
+        if (meetsFirst || (c.corner && enclosesSomething(c))) closePolygon(c);
     }
 
     void cancel(ToolContext& c) const override
     {
+        // A command that came meanwhile has made a selection of its own.
+        if (c.setup().SelectionShape == PixelShape || c.document.Region.Region() == c.wiped) giveBackSelection(c);
         dropCorners(c);
         c.surface.HideShape(BandShape::Rectangle);
         c.surface.HideShape(BandShape::Ellipse);
@@ -115,10 +146,38 @@ class SelectTool final : public Tool {
     void space(ToolContext& c) const override
     {
         if (!c.down || c.setup().SelectionShape != PolygonShape) return;
-        c.points.insert(c.points.end(), {c.last.x, c.last.y});
-        c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.last.x, c.last.y, true);
+        addCorner(c, c.start, c.last);
         c.start = c.last;
         c.corner = true;
+    }
+
+    bool unfinished(const ToolContext& c) const override
+    {
+        return c.polygon && c.setup().SelectionShape == PolygonShape;
+    }
+
+    bool finish(ToolContext& c) const override
+    {
+        const bool oneMore = c.polygon && c.down && c.last != lastCorner(c);
+        if (!c.polygon || c.points.size() + (oneMore ? 2 : 0) < kLeastCorners) return false;
+        if (oneMore) addCorner(c, c.start, c.last);
+        closePolygon(c);
+        c.surface.UpdateImage();
+        return true;
+    }
+
+    /// The first click of the two has set the last corner. One that closed the polygon begins no other.
+    bool doubleClick(ToolContext& c) const override
+    {
+        finish(c);
+        return c.setup().SelectionShape == PolygonShape;
+    }
+
+    const char* hint(const ToolContext& c) const override
+    {
+        if (!c.polygon) return Tool::hint(c);
+        return c.down ? "Space: corner · Enter: close · Esc: drop"
+                      : "Click: corner · Enter or double click: close · Esc: drop";
     }
 };
 
@@ -127,6 +186,7 @@ class SelectionMoveTool final : public Tool {
     bool press(ToolContext& c) const override
     {
         if (!c.setup().MoveSelection) c.surface.StopTimer();
+        c.before = c.document.Region.Region();
         if (!c.document.Region.Region().contains(c.at.x, c.at.y)) return false;
         if (!c.setup().MoveSelection && !takeContent(c)) return false;
         c.moving = true;
@@ -181,7 +241,14 @@ class SelectionMoveTool final : public Tool {
         c.moved = false;
     }
 
+    void cancel(ToolContext& c) const override
+    {
+        giveBackSelection(c);
+        c.moved = false;
+    }
+
     void space(ToolContext& c) const override { fix(c); }
+    const char* hint(const ToolContext& c) const override { return c.setup().MoveSelection ? Tool::hint(c) : kFixHint; }
 
     void ctrlReleased(ToolContext& c) const override
     {

@@ -1,20 +1,20 @@
 #!/bin/sh
-# What a second start remembers: size, bars, the recent list, the configuration; and a second instance beside the first.
+# What a second start remembers: place, size, bars, the recent list, the configuration; and a second instance beside the first.
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 gradient:red-blue "$scratch/in.bmp"
 start
-xdotool windowsize --sync "$(frame)" 900 640
+xdotool windowsize --sync "$(frame)" 900 640 windowmove "$(frame)" 130 90
 sleep 0.3
 keys alt+v b e # hides the Effects bar
 open_file "$scratch/in.bmp"
-size() { xdotool getwindowgeometry --shell "$(frame)" | grep -E 'WIDTH|HEIGHT' | tr '\n' ' '; }
+size() { xdotool getwindowgeometry --shell "$(frame)" | grep -E '^(X|Y|WIDTH|HEIGHT)' | tr '\n' ' '; }
 before=$(size)
 quit
 flag() { od -An -td2 -j2326 -N2 "$folder/Vlaera.dat" | tr -d ' '; }
 [ "$(flag)" = 0 ] || fail "the hidden bar is not remembered: $(flag)"
 
 start
-[ "$(size)" = "$before" ] || fail "size was $before, is $(size)"
+[ "$(size)" = "$before" ] || fail "place and size were $before, are $(size)"
 keys alt+f r Return
 until_true "the recent picture" sh -c "[ \$(find '$folder/Temp' -name 'b*.dat' | wc -l) = 1 ]"
 

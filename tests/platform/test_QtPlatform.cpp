@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -47,6 +48,20 @@ TEST(NameFilters, BecomeWhatTheDialogTakes)
     EXPECT_EQ(suffixFor(filter, "Png (*.PNG) (*.PNG)", "bmp"), "png");
     EXPECT_EQ(suffixFor(filter, "ASCII (*.ppm)(*.pgm)", "png"), "ppm");
     EXPECT_EQ(suffixFor(filter, "Any", "png"), "");
+}
+
+TEST(QtPlatform, ADialogAfterAnotherOneStandsOverTheFrame)
+{
+    QtPlatform platform;
+    QMainWindow frame;
+    frame.setAttribute(Qt::WA_ShowWithoutActivating);
+    frame.show();
+    ASSERT_EQ(QApplication::activeWindow(), nullptr) << "as between two dialogs";
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &frame);
+        box.accept();
+    });
+    platform.message("Crop", "Nothing selected", Icon::Information);
 }
 
 TEST(QtPlatform, MessagesStandAsTheyAreGiven)

@@ -104,6 +104,90 @@ TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
     EXPECT_EQ(rects(), (Words{2, 2, 4, 4}));
 }
 
+TEST_F(SelectTool, ClicksSetCornersAndEnterOrADoubleClickClosesThePolygon)
+{
+    frame.setup_.SelectionShape = 2;
+    const Words corners{10, 10, 30, 10, 30, 40};
+    const auto click = [this](int x, int y) { drag({{x, y}, {x, y}}); };
+    for (const bool byKey : {true, false}) {
+        click(10, 10);
+        EXPECT_FALSE(tools->keyDown(Tools::Enter)) << "one corner encloses nothing";
+        asked();
+        tools->move(Tools::NoButton, 20, 9);
+        EXPECT_EQ(asked(), "show 2: 10,10 20,9") << "the line to the next corner follows the pointer";
+        click(30, 10);
+        click(30, 40);
+        EXPECT_NE(frame.status[Panel::Hint].find("Enter or double click"), std::string::npos);
+        EXPECT_TRUE(byKey ? tools->keyDown(Tools::Enter) : tools->doubleClick(30, 40));
+        EXPECT_EQ(selection(), Region::polygon(corners));
+        EXPECT_EQ(frame.filter_.BitsRegion(), selection());
+        EXPECT_EQ(frame.status[Panel::Hint], "");
+        EXPECT_TRUE(tools->doubleClick(30, 40)) << "the second click of one that closed it begins no other";
+        EXPECT_EQ(selection(), Region::polygon(corners));
+    }
+    press({10, 10}); // the button is still down: its place is the last corner
+    move({30, 10});
+    tools->keyDown(Tools::Space);
+    move({30, 40});
+    EXPECT_TRUE(tools->keyDown(Tools::Enter));
+    EXPECT_EQ(selection(), Region::polygon(corners));
+    release({50, 45});
+    EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
+    EXPECT_FALSE(tools->keyDown(Tools::Enter));
+}
+
+TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
+{
+    const auto otherTool = [this] { choose("Brush"); };
+    const auto otherShape = [this] { frame.setup_.SelectionShape = 1; };
+    for (const std::function<void()>& change : std::initializer_list<std::function<void()>>{otherTool, otherShape}) {
+        choose("Select");
+        frame.setup_.SelectionShape = 2;
+        document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
+        drag({{10, 10}, {30, 10}});
+        EXPECT_TRUE(selection().isEmpty());
+        tools->toolChosen();
+        EXPECT_EQ(tools->ToolPoints().size(), 4u) << "the same tool chosen again";
+        asked();
+        change();
+        tools->toolChosen();
+        EXPECT_EQ(asked().substr(0, 6), "hide 2");
+        EXPECT_EQ(rects(), (Words{2, 2, 9, 9}));
+        EXPECT_EQ(frame.status[Panel::Hint], "");
+    }
+}
+
+TEST_F(SelectTool, EscapeDropsAnyGestureAndWhatItChanged)
+{
+    struct Row {
+        const char* tool;
+        int shape;
+        bool released;
+    };
+    for (const Row& row : {Row{"Select", 0, false}, Row{"Select", 1, false}, Row{"Select", 2, false},
+                           Row{"Select", 2, true}, Row{"Select", 3, false}, Row{"SelectionMove", 0, false},
+                           Row{"GetColor", 0, false}, Row{"Gradient", 0, false}}) {
+        choose(row.tool);
+        frame.setup_.SelectionShape = static_cast<std::int16_t>(row.shape);
+        frame.setup_.ForeColor = 0x123456;
+        document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
+        const Bits before = document.Bits();
+        press({4, 4});
+        move({20, 30});
+        if (row.released) release({20, 30});
+        EXPECT_NE(frame.status[Panel::Hint], "") << row.tool;
+        EXPECT_TRUE(tools->keyDown(Tools::Escape)) << row.tool << row.shape;
+        EXPECT_EQ(frame.status[Panel::Hint], "") << row.tool;
+        move({25, 35});
+        release({25, 35});
+        EXPECT_EQ(rects(), (Words{2, 2, 9, 9})) << row.tool << row.shape;
+        EXPECT_EQ(frame.setup_.ForeColor, 0x123456);
+        EXPECT_TRUE(document.Bits() == before) << row.tool;
+        EXPECT_FALSE(tools->keyDown(Tools::Escape)) << row.tool << row.shape;
+    }
+    EXPECT_EQ(frame.snapshots, 0);
+}
+
 struct MoveTool : ToolFixture {
     MoveTool()
     {

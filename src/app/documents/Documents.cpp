@@ -1,5 +1,6 @@
 #include "app/documents/Documents.h"
 #include "app/documents/fDocumentWindow.h"
+#include <QMenu>
 #include <QTimer>
 #include <algorithm>
 
@@ -12,6 +13,7 @@ Documents::Documents(QWidget* parent) : QObject(parent), area_(new QMdiArea(pare
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->viewport()->setMouseTracking(true);
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder); // after a close comes the one that was used before
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         fImage* image = active();
         if (image && window == image->parentWidget()) image->activate();
@@ -68,10 +70,45 @@ void Documents::show(std::unique_ptr<fImage> image, bool maximized)
 {
     auto* window = new fDocumentWindow(*this, image.release());
     area_->addSubWindow(window);
+    window->fit(area_->viewport()->rect());
     if (maximized)
         window->showMaximized();
     else
         window->show();
+}
+
+void Documents::fitActive()
+{
+    if (auto* window = qobject_cast<fDocumentWindow*>(area_->currentSubWindow()))
+        window->fit(area_->viewport()->rect());
+}
+
+void Documents::list(QMenu& menu)
+{
+    const QString prefix = "DOCUMENT_";
+    for (QAction* item : menu.actions())
+        if (item->objectName().startsWith(prefix)) delete item;
+    int number = 0;
+    for (fImage* image : images()) {
+        if (number == 0) menu.addSeparator()->setObjectName(prefix + "line");
+        const QString name = QString(image->Caption()).replace('&', "&&") + (image->isWindowModified() ? "*" : "");
+        ++number;
+        QAction* item = menu.addAction((number < 10 ? "&" : "") + QString::number(number) + " " + name);
+        item->setObjectName(prefix + QString::number(number));
+        item->setToolTip(image->Tag());
+        item->setCheckable(true);
+        item->setChecked(image == active());
+        connect(item, &QAction::triggered, this, [this, image = QPointer(image)] {
+            if (image) activate(*image);
+        });
+    }
+}
+
+void Documents::activate(fImage& image)
+{
+    auto* window = qobject_cast<QMdiSubWindow*>(image.parentWidget());
+    if (window->isMinimized()) window->showNormal();
+    area_->setActiveSubWindow(window);
 }
 
 /// QMdiArea's own tiling knows only a grid.

@@ -7,8 +7,11 @@
 #include <QMdiArea>
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <memory>
 #include <vector>
+
+class QMenu;
 
 namespace velara {
 
@@ -37,7 +40,14 @@ class Documents final : public QObject {
     /// Each call gives the next.
     int nextNumber() { return nextNumber_++; }
 
+    /// In a window that shows it whole, or that takes the area where the picture is too large for it.
     void show(std::unique_ptr<fImage> image, bool maximized);
+    /// The same for the active one, which may have been zoomed since.
+    void fitActive();
+    /// Puts the open pictures at the end of the menu, the active one with a mark, in place of what stood there.
+    void list(QMenu& menu);
+    /// The focus goes from a picture by the Tab key; false when there is nowhere to go.
+    std::function<bool(bool forward)> leaveByTab;
     /// Side by side or one below the other.
     enum class Arrangement { Cascade, Rows, Columns };
     void arrange(Arrangement arrangement);
@@ -69,6 +79,7 @@ class Documents final : public QObject {
 
   private:
     void deleteBuried();
+    void activate(fImage& image);
 
     QPointer<QMdiArea> area_;
     QPointer<fImage> lastActive_;

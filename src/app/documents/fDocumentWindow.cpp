@@ -2,6 +2,7 @@
 #include "app/documents/Documents.h"
 #include <QCloseEvent>
 #include <QMenu>
+#include <algorithm>
 
 namespace velara {
 
@@ -14,6 +15,23 @@ fDocumentWindow::fDocumentWindow(Documents& documents, fImage* image) : document
         if (!item->shortcut().isEmpty()) item->setShortcut(QKeySequence("Ctrl+F4"));
     setAttribute(Qt::WA_DeleteOnClose, false);
     image->setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+void fDocumentWindow::fit(const QRect& area)
+{
+    if (!image_ || !image_->PictureExists() || isMaximized() || isMinimized()) return;
+    const QSize around = sizeHint() - image_->sizeHint();
+    const QSize picture = QSize(image_->PictureWidth(), image_->PictureHeight()) * image_->ZoomFactor();
+    const QSize whole = (picture + around).expandedTo(minimumSizeHint());
+    if (whole.width() > area.width() || whole.height() > area.height()) return setGeometry(area);
+    const QPoint last(area.width() - whole.width(), area.height() - whole.height()); // where it still lies inside
+    setGeometry({{std::clamp(x(), 0, last.x()), std::clamp(y(), 0, last.y())}, whole});
+}
+
+/// Within a child window the focus would go round by itself for ever.
+bool fDocumentWindow::focusNextPrevChild(bool next)
+{
+    return (documents_.leaveByTab && documents_.leaveByTab(next)) || QMdiSubWindow::focusNextPrevChild(next);
 }
 
 void fDocumentWindow::closeEvent(QCloseEvent* event)

@@ -16,8 +16,12 @@ class fDocumentWindow final : public QMdiSubWindow {
 
     /// The document, or null after it closed.
     fImage* image() const { return image_; }
+    /// Takes the size that shows the picture whole, within the area it belongs to; all of the area where that is too
+    /// small for it.
+    void fit(const QRect& area);
 
   protected:
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:

@@ -2,11 +2,13 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
+#include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "seams/Platform.h"
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QMenu>
 
 namespace velara {
 
@@ -26,6 +28,7 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
     row->setSpacing(0);
     toolPane_ = new fToolPane(middle);
     documents_ = std::make_unique<Documents>(middle);
+    startPage_ = new fStartPage(platform_, area().viewport());
     row->addWidget(toolPane_);
     row->addWidget(&area(), 1);
     setCentralWidget(middle);
@@ -34,7 +37,15 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
 
     connect(documents_.get(), &Documents::activated, this, &fMain::refreshUndoState);
     connect(documents_.get(), &Documents::buried, this, &fMain::refreshUndoState);
+    connect(documents_.get(), &Documents::buried, this, &fMain::showStartPage);
+    documents_->leaveByTab = [this](bool forward) { return toolPane_->isVisible() && toolPane_->enter(forward); };
     connect(toolPane_, &fToolPane::clicked, this, &fMain::toolClicked);
+    connect(startPage_, &fStartPage::commandChosen, this, [this](const QString& word) { Mmenu(word); });
+    connect(startPage_, &fStartPage::recentChosen, this, &fMain::openRecent);
+    connect(toolPane_, &fToolPane::left, this, [this] {
+        fImage* image = GetActiveImage();
+        (image ? static_cast<QWidget*>(image) : startPage_)->setFocus();
+    });
     connect(toolPane_, &fToolPane::wellClicked, this, &fMain::wellClicked);
     connect(toolPane_, &fToolPane::swapClicked, this, [this] {
         std::swap(setup_.ForeColor, setup_.BackColor);
@@ -42,6 +53,9 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
     });
     bars_ = std::make_unique<Bars>(
         *this, platform_, setup_, [this](std::string_view word, int index) { run(word, index); }, &fMain::available);
+    auto *views = findChild<QMenu*>("mnuViews"), *recent = findChild<QMenu*>("mnuRecent");
+    connect(views, &QMenu::aboutToShow, this, [this, views] { documents_->list(*views); });
+    connect(recent, &QMenu::aboutToShow, this, &fMain::FillRecent);
     bindToolKeys();
     clips_ = std::make_unique<Clips>(*this);
     capture_ = std::make_unique<Capture>(*this);
@@ -65,6 +79,13 @@ DocumentHandle fMain::active()
     return image ? image->document().handle() : DocumentHandle();
 }
 
+void fMain::showStartPage()
+{
+    const bool empty = documents().isEmpty() && !closing_;
+    if (empty) startPage_->showRecent(setup_.Recent);
+    startPage_->setVisible(empty);
+}
+
 void fMain::capturePic(int mode) { capture_->capturePic(mode); }
 
 void fMain::refreshUndoState()
@@ -72,6 +93,7 @@ void fMain::refreshUndoState()
     const fImage* image = GetActiveImage();
     bars_->button("UNDO")->setEnabled(image && image->document().undo.canUndo());
     bars_->button("REDO")->setEnabled(image && image->document().undo.canRedo());
+    for (fImage* open : documents()) open->showChanged();
 }
 
 void fMain::setStatus(Panel panel, const QString& text) { status_->setPanel(panel, text); }

@@ -21,6 +21,8 @@ namespace velara {
 
 class Capture;
 class Clips;
+struct CommandWord;
+class fStartPage;
 struct SizeWord;
 struct Preset;
 struct FilterRow;
@@ -131,6 +133,8 @@ class fMain final : public QMainWindow, public Frame {
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
     /// The open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
+    /// Where the frame stands, for the next start.
+    void savePlace();
 
   signals:
     void closed();
@@ -141,6 +145,7 @@ class fMain final : public QMainWindow, public Frame {
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
@@ -161,6 +166,8 @@ class fMain final : public QMainWindow, public Frame {
     void finished(fImage& image);
     void engineProgress(int percent);
     void showFailure(const QString& what, const std::exception& failure);
+    bool findsItsDocument(const CommandWord& command);
+    void showStartPage();
     /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
     bool openPath(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
@@ -179,6 +186,7 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Documents> documents_;
     fStatus* status_;
     fToolPane* toolPane_;
+    fStartPage* startPage_;
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
     QString dialogFolder_;

@@ -144,6 +144,15 @@ void fMain::Tool_Frame()
 {
     toolPane_->setTool(setup_.CurrentTool);
     toolPane_->showPane(setup_.CurrentTool);
+    for (fImage* image : documents()) image->toolChosen();
+}
+
+/// Keys that no control has taken: what a tool has begun ends wherever the focus is.
+void fMain::keyPressEvent(QKeyEvent* event)
+{
+    const bool ends = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    fImage* image = ends ? GetActiveImage() : nullptr;
+    if (!image || !image->displayKey(*event, true)) QMainWindow::keyPressEvent(event);
 }
 
 void fMain::DisableTools() { toolPane_->releaseTools(); }

@@ -58,10 +58,13 @@ void fMain::closeEvent(QCloseEvent* event)
         return event->ignore();
     }
     closing_ = true;
+    savePlace();
     SaveSetup(platform_, setup_); // on failure the old file stays
     event->accept();
     emit closed();
 }
+
+void fMain::savePlace() { platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64())); }
 
 void fMain::options()
 {

@@ -1,5 +1,6 @@
 // What the words of the vocabulary do in the frame.
 #include "app/frame/fMain.h"
+#include "app/frame/fStatus.h"
 #include "app/menus/fIcons.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -91,6 +92,9 @@ constexpr Handler kHandlers[] = {
     {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
     {"@ICON",                extractIcons},
     {"@EXIT",                [](fMain& f) { f.close(); }},
+    {"@SELECTALL",           [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::All); }},
+    {"@SELECTNONE",          [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::None); }},
+    {"@SELECTINVERTED",      [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::Inverted); }},
     {"@ABOUT",               [](fMain& f) { f.about(); }},
     {"@RESET",               [](fMain& f) { f.reset(); }},
     {"@RECENT",              [](fMain& f, int index) { f.openRecent(index); }},
@@ -128,9 +132,8 @@ void fMain::Mmenu(const QString& word)
     const std::string name = word.toStdString();
     const CommandWord* command = findCommandWord(name);
     if (!command || command->ofFrame() || !available(name)) return;
-    fImage* image = GetActiveImage();
-    if (!image && command->stage == Stage::NeedsImage) return;
-    if (image) image->restPaste();
+    if (!findsItsDocument(*command)) return;
+    if (fImage* image = GetActiveImage()) image->restPaste();
     try {
         switch (command->kind) {
         case WordKind::Preset:
@@ -147,9 +150,20 @@ void fMain::Mmenu(const QString& word)
     }
 }
 
+/// False, with a word in the status bar, when there is no document and the word needs one.
+bool fMain::findsItsDocument(const CommandWord& command)
+{
+    if (command.stage != Stage::NeedsImage || GetActiveImage()) return true;
+    if (command.kind != WordKind::Nothing)
+        status_->showMessage(tr("There is no picture to work on: open one first, or make a new one."), 8000);
+    return false;
+}
+
 void fMain::run(std::string_view word, int index)
 {
     if (!word.starts_with('@')) return Mmenu(text(word));
+    const CommandWord* command = findCommandWord(word);
+    if (!command || !findsItsDocument(*command)) return;
     if (const Handler* handler = findHandler(word)) (*handler)(*this, index);
 }
 

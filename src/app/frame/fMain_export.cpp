@@ -28,7 +28,7 @@ void fMain::saveForWeb()
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)
 {
-    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.windowTitle(), image.Tag(), this);
+    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), image.Tag(), this);
     dialog->exec();
     delete dialog;
 }

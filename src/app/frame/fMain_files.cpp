@@ -39,10 +39,12 @@ bool isDropped(const QString& path)
     });
 }
 
+/// Two windows of one file tell themselves apart by the mark in front of the second one's name.
 void giveNames(fImage& image, const QString& path, Frame& frame)
 {
     image.setTag(frame.UniqueCaption(path));
-    image.setCaption(FileNameOf(image.Tag()));
+    const QString mark = image.Tag().chopped(path.size());
+    image.setCaption(mark + FileNameOf(path));
 }
 
 } // namespace
@@ -69,12 +71,15 @@ DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, 
     image->SaveUndoBits();
     documents_->show(std::move(image), setup_.ImagesMaximized);
     refreshUndoState();
+    showStartPage();
     return document.handle();
 }
 
 void fMain::applyOpenOptions()
 {
-    if (setup_.OpenZoom > 1) setZoom(setup_.OpenZoom);
+    if (setup_.OpenZoom <= 1) return;
+    setZoom(setup_.OpenZoom);
+    documents_->fitActive();
 }
 
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
@@ -143,8 +148,9 @@ void fMain::FillRecent()
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(entry, 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
-        item->setVisible(found || i == 0); // an empty line would only look broken
+        item->setVisible(!entry.isEmpty() || i == 0); // a lost file leaves its line, an unused entry none
     }
+    showStartPage();
 }
 
 void fMain::save()
@@ -189,6 +195,7 @@ void fMain::saveTo(fImage& image, const QString& name)
     image.document().Changed = false;
     image.document().hasFile = true;
     if (image.Tag() != name) giveNames(image, name, *this);
+    image.showChanged();
     setStatus(Panel::Name, image.Caption());
 }
 

@@ -18,6 +18,7 @@ constexpr PanelRow kPanels[] = {
     {Panel::Ext,  "Ext",  "Extent of the drag",        "00000,00000"},
     {Panel::Size, "Size", "Size of the picture",       "00000x00000"},
     {Panel::Name, "Name", "Name of the picture",       ""},
+    {Panel::Hint, "Hint", "Keys of what is under way", ""},
     {Panel::Zoom, "Zoom", "Zoom",                      "00 : 1"},
 };
 // clang-format on
@@ -41,10 +42,11 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
         if (*p.widest)
             label->setMinimumWidth(fontMetrics().horizontalAdvance(p.widest) + 12);
         else
-            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the frame
+            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long one never widens the frame
         row->addWidget(label, *p.widest ? 0 : 1);
         panels_[static_cast<int>(p.panel)] = label;
     }
+    setPanel(Panel::Hint, {});
     progress_ = new QProgressBar(this);
     progress_->setObjectName("cFilterProgress");
     progress_->setAccessibleName(tr("Progress of the filter"));
@@ -55,7 +57,14 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
     addPermanentWidget(progress_);
 }
 
-void fStatus::setPanel(Panel panel, const QString& text) { panels_[static_cast<int>(panel)]->setText(text); }
+void fStatus::setPanel(Panel panel, const QString& text)
+{
+    panels_[static_cast<int>(panel)]->setText(text);
+    if (panel != Panel::Hint) return;
+    panels_[static_cast<int>(Panel::Hint)]->setVisible(!text.isEmpty());
+    for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // what no gesture changes
+        panels_[static_cast<int>(still)]->setVisible(text.isEmpty());
+}
 
 QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(panel)]->text(); }
 

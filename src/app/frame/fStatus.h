@@ -1,4 +1,5 @@
-// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels) and the progress bar of the filters.
+// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, and what the keys do while a tool is at
+// work) and the progress bar of the filters.
 #pragma once
 #include "seams/Frame.h"
 #include <QLabel>
@@ -21,7 +22,7 @@ class fStatus final : public QStatusBar {
     void setProgress(int percent);
 
   private:
-    std::array<QLabel*, 5> panels_{};
+    std::array<QLabel*, 6> panels_{};
     QProgressBar* progress_;
 };
 

@@ -3,8 +3,10 @@
 #include "app/menus/menus.h"
 #include "tools/toolRows.h"
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace velara {
 
@@ -67,8 +69,10 @@ QWidget* fToolPane::makeStrip()
         button->setFocusPolicy(Qt::TabFocus);
         button->setCheckable(checkable);
         connect(button, &QToolButton::clicked, this, [this, key] { emit clicked(key); });
-        const int place = static_cast<int>(buttons_.size());
+        button->installEventFilter(this);
+        const int place = static_cast<int>(strip_.size());
         grid->addWidget(button, place / kColumns, place % kColumns);
+        strip_ << button;
         return buttons_[key] = button;
     };
     int number = 0;
@@ -106,7 +110,70 @@ QWidget* fToolPane::makeWells()
     row->addWidget(swap_);
     row->addWidget(wells_[1]);
     row->addStretch();
+    setTabOrder(wells_[0], swap_);
+    setTabOrder(swap_, wells_[1]);
     return box;
+}
+
+/// What the Tab key stops at, from top to bottom.
+QList<QWidget*> fToolPane::stops() const
+{
+    auto* current = qobject_cast<QToolButton*>(focusWidget());
+    if (!strip_.contains(current)) current = qobject_cast<QToolButton*>(group_.checkedButton());
+    QWidget* const first = current ? current : strip_.front();
+    QList<QWidget*> settings, wells;
+    for (QWidget* w = first->nextInFocusChain(); w != first; w = w->nextInFocusChain())
+        if (isAncestorOf(w) && !strip_.contains(w) && w->isVisible() && w->isEnabled() && !w->focusProxy() &&
+            (w->focusPolicy() & Qt::TabFocus))
+            (stack_->isAncestorOf(w) ? settings : wells) << w;
+    return QList<QWidget*>{first} + settings + wells;
+}
+
+bool fToolPane::enter(bool forward)
+{
+    const QList<QWidget*> all = stops();
+    (forward ? all.front() : all.back())->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+bool fToolPane::focusNextPrevChild(bool next)
+{
+    const QList<QWidget*> all = stops();
+    const qsizetype at = all.indexOf(focusWidget()) + (next ? 1 : -1);
+    if (at >= 0 && at < all.size())
+        all[at]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    else
+        emit left();
+    return true;
+}
+
+bool fToolPane::eventFilter(QObject* watched, QEvent* event)
+{
+    const qsizetype at = strip_.indexOf(qobject_cast<QToolButton*>(watched));
+    if (event->type() != QEvent::KeyPress || at < 0) return QFrame::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Left:
+        strip_[std::max<qsizetype>(at - 1, 0)]->setFocus(Qt::BacktabFocusReason);
+        return true;
+    case Qt::Key_Right:
+        strip_[std::min(at + 1, strip_.size() - 1)]->setFocus(Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Up:
+        if (at >= kColumns) strip_[at - kColumns]->setFocus(Qt::BacktabFocusReason);
+        return true;
+    case Qt::Key_Down:
+        if (at + kColumns < strip_.size()) strip_[at + kColumns]->setFocus(Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        strip_[at]->click();
+        return true;
+    case Qt::Key_Escape:
+        emit left();
+        return true;
+    default:
+        return false;
+    }
 }
 
 void fToolPane::setTool(const QString& key)

@@ -26,6 +26,10 @@ class fToolPane final : public QFrame {
     /// Shows the pane of the tool, or an empty one.
     void showPane(const QString& key);
 
+    /// Takes the focus: at the chosen tool, or backwards at the last control. Arrows walk the strip, which is one stop
+    /// of the Tab key; Enter and Space choose, Esc leaves. False when there is nothing to focus.
+    bool enter(bool forward);
+
     void refreshIcons();
     /// Colours 0x00BBGGRR of the two wells.
     void setColors(int first, int second);
@@ -34,13 +38,21 @@ class fToolPane final : public QFrame {
     void clicked(const QString& key);
     void wellClicked(int index); // 0 first, 1 second
     void swapClicked();
+    /// The focus has gone past the last control.
+    void left();
+
+  protected:
+    bool focusNextPrevChild(bool next) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    QList<QWidget*> stops() const;
     QWidget* makeStrip();
     QWidget* makeWells();
 
     QButtonGroup group_;
     QHash<QString, QToolButton*> buttons_;
+    QList<QToolButton*> strip_; // in the order of their places
     QHash<QString, QWidget*> panes_;
     QStackedWidget* stack_;
     QToolButton *wells_[2]{}, *swap_ = nullptr;

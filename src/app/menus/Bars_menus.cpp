@@ -39,13 +39,20 @@ void giveAccessKeys(QMenu& menu)
     }
 }
 
+QList<QKeySequence> sequencesOf(const QString& shortcuts)
+{
+    QList<QKeySequence> sequences;
+    for (const QString& one : shortcuts.split(' ', Qt::SkipEmptyParts)) sequences << QKeySequence(one);
+    return sequences;
+}
+
 } // namespace
 
 void Bars::addItem(QMenu& menu, const MenuRow& row)
 {
     QAction* item = menu.addAction(text(row.caption));
     item->setObjectName(text(row.array) + "_" + QString::number(row.index));
-    if (!row.shortcut.empty()) item->setShortcut(QKeySequence(text(row.shortcut)));
+    item->setShortcuts(sequencesOf(text(row.shortcuts)));
     makeTrigger(item, row.word, findCommandWord(row.word)->count > 1 ? row.index : 0, true);
     if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
     item->setCheckable(row.checkable);

@@ -26,7 +26,7 @@ struct MenuRow {
     int index = 0;
     std::string_view caption = {};
     std::string_view word = {};
-    std::string_view shortcut = {};
+    std::string_view shortcuts = {}; // split by blanks; the first is shown
     bool checkable = false;
 };
 

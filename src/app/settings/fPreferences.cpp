@@ -22,12 +22,12 @@ struct FlagRow {
 
 // clang-format off
 constexpr FlagRow kFlagsAbove[] = {
-    {"chkiPMaximized",     "Open iP maximized ",     &Setup::FrameMaximized},
-    {"chkImagesMaximized", "Open images maximized ", &Setup::ImagesMaximized},
+    {"chkiPMaximized",     "&Open iP maximized ",     &Setup::FrameMaximized},
+    {"chkImagesMaximized", "Open i&mages maximized ", &Setup::ImagesMaximized},
 };
 constexpr FlagRow kFlagsBelow[] = {
-    {"chkPreserveLastFolder", "Preserve last folder",        &Setup::PreserveLastFolder},
-    {"chkAskToSave",          "Ask to save on Close/Exit",   &Setup::AskToSave},
+    {"chkPreserveLastFolder", "&Preserve last folder",        &Setup::PreserveLastFolder},
+    {"chkAskToSave",          "&Ask to save on Close/Exit",   &Setup::AskToSave},
 };
 // clang-format on
 
@@ -41,7 +41,7 @@ void addFlag(QBoxLayout* column, const FlagRow& row, Setup& copy)
 {
     auto* box = new QCheckBox(row.caption);
     box->setObjectName(row.control);
-    box->setAccessibleName(QString(row.caption).trimmed());
+    box->setAccessibleName(QString(row.caption).remove('&').trimmed());
     box->setChecked(copy.*row.field);
     QObject::connect(box, &QCheckBox::toggled, box, [&copy, field = row.field](bool on) { copy.*field = on; });
     column->addWidget(box);
@@ -59,17 +59,17 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     auto* column = new QVBoxLayout(page);
     for (const FlagRow& row : kFlagsAbove) addFlag(column, row, copy_);
 
-    auto* label = new QLabel("Images default folder");
+    auto* label = new QLabel("Images default &folder");
     label->setBuddy(path_);
     column->addSpacing(6);
     column->addWidget(label);
     auto* line = new QHBoxLayout;
     path_->setObjectName("txtImagesPath");
-    path_->setAccessibleName(label->text());
+    path_->setAccessibleName("Images default folder");
     path_->setMinimumWidth(320);
     path_->setText(rightTrimmed(copy_.ImagesPath));
     connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) { copy_.ImagesPath = text; });
-    auto* browseButton = new QPushButton(tr("Browse ..."));
+    auto* browseButton = new QPushButton(tr("&Browse ..."));
     browseButton->setObjectName("cmdBrowsePath");
     browseButton->setAccessibleName(tr("Select Images default folder"));
     browseButton->setAutoDefault(false);

@@ -57,7 +57,7 @@ void Clips::paste()
 void Clips::letGo()
 {
     if (!frame_.toolStores().pastePending) return;
-    if (fImage* image = frame_.GetActiveImage()) image->dropPaste();
+    if (fImage* image = frame_.GetActiveImage()) image->dropGesture();
 }
 
 } // namespace velara

@@ -1,4 +1,5 @@
 #include "ui/view/fBands.h"
+#include "ui/widgets/viewLayout.h"
 #include <QPainter>
 
 namespace velara {
@@ -12,8 +13,17 @@ fBand::fBand(QWidget* display, BandShape shape, const QString& name) : QWidget(d
     hide();
 }
 
-void fBand::place(QPoint from, QPoint to)
+void fBand::setEnds(QPoint from, QPoint to)
 {
+    pictureFrom_ = from;
+    pictureTo_ = to;
+}
+
+void fBand::place(QPoint scroll, int zoom)
+{
+    const Rect ends =
+        viewRect({pictureFrom_.x(), pictureFrom_.y(), pictureTo_.x(), pictureTo_.y()}, scroll.x(), scroll.y(), zoom);
+    const QPoint from(ends.left, ends.top), to(ends.right, ends.bottom);
     constexpr int kPen = 1; // an ellipse touches its box from inside, a line covers both ends
     const QPoint corner(std::min(from.x(), to.x()), std::min(from.y(), to.y()));
     const QPoint far(std::max(from.x(), to.x()), std::max(from.y(), to.y()));
@@ -62,13 +72,30 @@ void fBands::show(BandShape shape, QPoint from, QPoint to, bool keep)
 {
     switch (shape) {
     case BandShape::Rectangle:
-        return rectangle_->place(from, to);
+        return place(*rectangle_, from, to);
     case BandShape::Ellipse:
-        return ellipse_->place(from, to);
+        return place(*ellipse_, from, to);
     case BandShape::Line:
-        lines_.back()->place(from, to);
+        place(*lines_.back(), from, to);
         if (keep) addLine();
     }
+}
+
+void fBands::place(fBand& band, QPoint from, QPoint to)
+{
+    band.setEnds(from, to);
+    band.place(scroll_, zoom_);
+}
+
+void fBands::setSpot(QPoint scroll, int zoom)
+{
+    scroll_ = scroll;
+    zoom_ = zoom;
+    const auto follow = [this](fBand* band) {
+        if (!band->isHidden()) band->place(scroll_, zoom_);
+    };
+    for (fBand* band : {rectangle_, ellipse_}) follow(band);
+    for (fBand* line : lines_) follow(line);
 }
 
 void fBands::hide(BandShape shape)

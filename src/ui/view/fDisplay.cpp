@@ -82,6 +82,7 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
 }
 
 void fDisplay::mousePressEvent(QMouseEvent* event) { image_.displayPressed(*event); }
+void fDisplay::mouseDoubleClickEvent(QMouseEvent* event) { image_.displayDoubleClicked(*event); }
 void fDisplay::mouseMoveEvent(QMouseEvent* event) { image_.displayMoved(*event); }
 void fDisplay::mouseReleaseEvent(QMouseEvent* event) { image_.displayReleased(*event); }
 void fDisplay::wheelEvent(QWheelEvent* event) { image_.displayWheel(*event); }

@@ -5,7 +5,6 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
-#include "tools/Tools.h"
 #include "ui/view/fDisplay.h"
 #include <QApplication>
 #include <QCloseEvent>
@@ -40,7 +39,7 @@ fImage::fImage(Frame& frame, QWidget* parent)
     setAccessibleName(tr("Picture window"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Dark);
-    setFocusProxy(iDst_);
+    setFocusPolicy(Qt::StrongFocus); // an empty document has no display to take it
     setMinimumSize(2 * barsWidth_, 2 * barsWidth_);
     hSB_->setObjectName("hSB");
     hSB_->setAccessibleName(tr("Horizontal scroll bar"));
@@ -124,6 +123,15 @@ void fImage::Clear()
     }
     shp_->hide();
     document_.Clear();
+    takeFocus();
+}
+
+/// The display has the focus while there is one.
+void fImage::takeFocus()
+{
+    const bool had = hasFocus() || iDst_->hasFocus();
+    setFocusProxy(PictureExists() ? iDst_ : nullptr);
+    if (had) setFocus();
 }
 
 void fImage::BitsCopyToClipboard()
@@ -158,8 +166,19 @@ void fImage::showSize() { frame_.setStatus(Panel::Size, SizeText()); }
 
 void fImage::setCaption(const QString& caption)
 {
-    setWindowTitle(caption);
-    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget())) window->setWindowTitle(caption);
+    caption_ = caption;
+    showChanged();
+}
+
+void fImage::showChanged()
+{
+    const bool changed = hasChanged();
+    const QString title = QString(caption_).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
+    for (QWidget* window : {static_cast<QWidget*>(this), parentWidget()}) {
+        if (!window || (window != this && !qobject_cast<QMdiSubWindow*>(window))) continue;
+        window->setWindowTitle(title);
+        window->setWindowModified(changed);
+    }
 }
 
 void fImage::activate()
@@ -168,10 +187,12 @@ void fImage::activate()
     if (!frame_.engineHolds(document_)) {
         frame_.handOver(document_);
         frame_.setStatus(Panel::Name, Caption());
+        for (const Panel stale : {Panel::Pos, Panel::Ext, Panel::Size}) frame_.setStatus(stale, {});
         if (PictureExists()) showSize();
         frame_.setStatus(Panel::Zoom, zoomText());
         frame_.CheckToolbarState(false);
         setMouseScroll(frame_.mouseScrolling());
+        tools_->showHint();
     } else if (tmrSelection_.isActive()) {
         return;
     }
@@ -199,7 +220,7 @@ bool fImage::event(QEvent* event)
 
 bool fImage::mayClose()
 {
-    if (!frame_.setup().AskToSave || !document_.Changed || !document_.undo.mayHaveChanged()) return true;
+    if (!frame_.setup().AskToSave || !hasChanged()) return true;
     if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
         window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
     const QString text =
@@ -238,7 +259,7 @@ void fImage::forget()
         if (const auto* other = qobject_cast<const fImage*>(widget);
             other && other != this && !other->forgotten_ && &other->frame_ == &frame_)
             return;
-    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom})
+    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
         frame_.setStatus(panel, {});
 }
 

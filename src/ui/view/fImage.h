@@ -7,7 +7,7 @@
 #pragma once
 #include "document/Document.h"
 #include "fileio/savePicture.h"
-#include "tools/ToolSurface.h"
+#include "tools/Tools.h"
 #include "ui/view/fBands.h"
 #include "ui/widgets/viewLayout.h"
 #include <QImage>
@@ -19,7 +19,6 @@
 namespace velara {
 
 class Frame;
-class Tools;
 class fDisplay;
 
 class fImage final : public QWidget, public ToolSurface {
@@ -66,8 +65,10 @@ class fImage final : public QWidget, public ToolSurface {
     bool RedoBits();
 
     // --- Names
-    QString Caption() const { return windowTitle(); }
+    QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
+    /// The window carries the platform's mark when closing it would ask.
+    void showChanged();
     QString Tag() const { return document_.Tag; }
     void setTag(const QString& tag) { document_.Tag = tag; }
 
@@ -109,8 +110,12 @@ class fImage final : public QWidget, public ToolSurface {
     void showPaste();
     /// A command comes: what hangs on the pointer leaves the picture until the pointer moves again.
     void restPaste();
-    /// The paste is let go of.
-    void dropPaste();
+    /// A drag, a half-made polygon or a pending paste is let go of. False: there was none.
+    bool dropGesture();
+    /// All, nothing, or the rest of the picture is selected from now on.
+    void select(Tools::Selecting what) { tools_->select(what); }
+    /// Another tool was chosen: what the one before has begun goes.
+    void toolChosen();
     /// The pointer of the chosen tool.
     void showToolPointer();
 
@@ -124,6 +129,7 @@ class fImage final : public QWidget, public ToolSurface {
 
     // --- What the display hands on
     void displayPressed(const QMouseEvent& event);
+    void displayDoubleClicked(const QMouseEvent& event);
     void displayMoved(const QMouseEvent& event);
     void displayReleased(const QMouseEvent& event);
     void displayWheel(QWheelEvent& event);
@@ -142,12 +148,16 @@ class fImage final : public QWidget, public ToolSurface {
 
   private:
     bool mayClose();
+    bool hasChanged() const { return document_.Changed && document_.undo.mayHaveChanged(); }
+    void takeFocus();
     void forget();
     void showSize();
     bool step(bool moved);
     void layOutView();
     void barChanged();
+    void spotChanged();
     void tick();
+    bool canScroll() const;
     bool handScrolls() const;
     void scrollByHand(QPoint screen);
     void zoomAbout(int factor, QPointF at);
@@ -156,7 +166,7 @@ class fImage final : public QWidget, public ToolSurface {
 
     Frame& frame_;
     Document document_;
-    QString loadNote_;
+    QString loadNote_, caption_;
     fDisplay* iDst_;
     QScrollBar *hSB_, *vSB_;
     QWidget* shp_;
@@ -167,7 +177,7 @@ class fImage final : public QWidget, public ToolSurface {
     int zoom_ = kLeastZoom;
     int barsWidth_;
     bool mouseScroll_ = false;
-    bool grabDown_ = false;
+    Qt::MouseButton grabButton_ = Qt::NoButton; // that holds the picture for scrolling
     QPoint grabLast_;
     bool scrollGuard_ = false;
     bool laidOut_ = false;

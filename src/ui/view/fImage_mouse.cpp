@@ -1,6 +1,5 @@
 // What mouse and keys do on the display of a document: hand scrolling, the wheel, and everything else for the tools.
 #include "seams/Frame.h"
-#include "tools/Tools.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"
@@ -33,7 +32,7 @@ struct KeyRow {
 constexpr KeyRow kKeys[] = {
     // clang-format off
     {Qt::Key_Control, Tools::Ctrl},     {Qt::Key_Space, Tools::Space},    {Qt::Key_Left, Tools::ArrowLeft},
-    {Qt::Key_Escape,  Tools::Escape},
+    {Qt::Key_Escape,  Tools::Escape},   {Qt::Key_Return, Tools::Enter},   {Qt::Key_Enter, Tools::Enter},
     {Qt::Key_Up,      Tools::ArrowUp},  {Qt::Key_Right, Tools::ArrowRight}, {Qt::Key_Down, Tools::ArrowDown},
     // clang-format on
 };
@@ -55,24 +54,36 @@ int fImage::buttonOf(const QMouseEvent& event) const
 void fImage::displayPressed(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
+    if (!(event.buttons() & grabButton_)) grabButton_ = Qt::NoButton; // its release went to another window
+    if (grabButton_ != Qt::NoButton) return;
+    // The middle button moves the picture whatever tool is chosen.
+    const bool grabs =
+        event.button() == Qt::LeftButton ? handScrolls() : event.button() == Qt::MiddleButton && canScroll();
     const int button = buttonNumber(event.button());
-    if (button == Tools::NoButton) return;
-    const QPoint pixel = lastPixel_ = pixelAt(event.position());
-    if (button == Tools::Left && handScrolls()) {
+    if (grabs && !tools_->ToolDown()) {
         activate();
-        grabDown_ = true;
+        grabButton_ = event.button();
         grabLast_ = event.globalPosition().toPoint();
         iDst_->setCursor(cGrab());
         return;
     }
+    if (button == Tools::NoButton) return;
+    const QPoint pixel = lastPixel_ = pixelAt(event.position());
     tools_->press(button, pixel.x(), pixel.y());
+}
+
+void fImage::displayDoubleClicked(const QMouseEvent& event)
+{
+    const QPoint pixel = pixelAt(event.position());
+    const bool isTools = event.button() == Qt::LeftButton && !handScrolls();
+    if (!isTools || !tools_->doubleClick(pixel.x(), pixel.y())) displayPressed(event);
 }
 
 void fImage::displayMoved(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
-    if (grabDown_) {
-        if (event.buttons() & Qt::LeftButton) scrollByHand(event.globalPosition().toPoint());
+    if (grabButton_ != Qt::NoButton) {
+        if (event.buttons() & grabButton_) scrollByHand(event.globalPosition().toPoint());
         return;
     }
     const QPoint pixel = pixelAt(event.position());
@@ -83,9 +94,13 @@ void fImage::displayMoved(const QMouseEvent& event)
 
 void fImage::displayReleased(const QMouseEvent& event)
 {
-    if (grabDown_ && event.button() == Qt::LeftButton) {
-        grabDown_ = false;
-        if (handScrolls()) iDst_->setCursor(cRelease());
+    if (grabButton_ != Qt::NoButton) {
+        if (event.button() != grabButton_) return;
+        grabButton_ = Qt::NoButton;
+        if (handScrolls())
+            iDst_->setCursor(cRelease());
+        else
+            showToolPointer();
         return;
     }
     const int button = buttonNumber(event.button());
@@ -137,7 +152,9 @@ void fImage::restPaste()
     lastPixel_ = {-1, -1};
 }
 
-void fImage::dropPaste() { tools_->drop(); }
+bool fImage::dropGesture() { return tools_->drop(); }
+
+void fImage::toolChosen() { tools_->toolChosen(); }
 
 void fImage::idst_KeyUp(int key, int) { tools_->keyUp(key); }
 

@@ -1,6 +1,5 @@
 // The view of a document's window: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
 #include "seams/Frame.h"
-#include "tools/Tools.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"
@@ -21,7 +20,7 @@ QSize fImage::sizeHint() const
 {
     QSize most(800, 600);
     if (const auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
-        most = window->mdiArea()->viewport()->size() * 4 / 5;
+        most = window->mdiArea()->viewport()->size();
     const QSize zoomed(PictureWidth() * zoom_, PictureHeight() * zoom_);
     return zoomed.boundedTo(most).expandedTo({160, 120});
 }
@@ -58,13 +57,14 @@ void fImage::layOutView()
     lastVMax_ = static_cast<float>(l.vMax);
     laidOut_ = true;
     laidOutSize_ = {PictureWidth(), PictureHeight()};
-    iDst_->setSpot(hSB_->value(), vSB_->value(), zoom_);
+    spotChanged();
     iDst_->setGeometry(qrectOf(l.iDst));
     if (handScrolls())
         iDst_->setCursor(cRelease());
     else if (mouseScroll_)
         iDst_->unsetCursor();
     iDst_->show();
+    if (!focusProxy()) takeFocus();
     scrollGuard_ = false;
     iDst_->update();
 }
@@ -74,8 +74,14 @@ void fImage::barChanged()
     lastHValue_ = static_cast<float>(hSB_->value());
     lastVValue_ = static_cast<float>(vSB_->value());
     if (scrollGuard_) return;
-    iDst_->setSpot(hSB_->value(), vSB_->value(), zoom_);
+    spotChanged();
     iDst_->update();
+}
+
+void fImage::spotChanged()
+{
+    iDst_->setSpot(hSB_->value(), vSB_->value(), zoom_);
+    bands_.setSpot(GetSBV(), zoom_);
 }
 
 void fImage::Scroll(int x, int y)
@@ -96,6 +102,7 @@ void fImage::pictureChanged()
 {
     document_.Region.setZoomFactor(static_cast<float>(zoom_));
     layOutView();
+    tools_->pictureReplaced();
 }
 
 void fImage::UpdateImage()
@@ -162,7 +169,9 @@ void fImage::zoomAbout(int factor, QPointF at)
     Scroll(qRound(x * zoom_ - now.x()), qRound(y * zoom_ - now.y()));
 }
 
-bool fImage::handScrolls() const { return mouseScroll_ && (hSB_->maximum() > 0 || vSB_->maximum() > 0); }
+bool fImage::canScroll() const { return hSB_->maximum() > 0 || vSB_->maximum() > 0; }
+
+bool fImage::handScrolls() const { return mouseScroll_ && canScroll(); }
 
 void fImage::setMouseScroll(bool on)
 {
@@ -198,9 +207,7 @@ void fImage::tick()
 
 void fImage::ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep)
 {
-    const QPoint scroll = GetSBV();
-    const Rect r = viewRect({x1, y1, x2, y2}, scroll.x(), scroll.y(), zoom_);
-    bands_.show(shape, {r.left, r.top}, {r.right, r.bottom}, keep);
+    bands_.show(shape, {x1, y1}, {x2, y2}, keep);
 }
 
 void fImage::HideShape(BandShape shape) { bands_.hide(shape); }

@@ -10,8 +10,10 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 
 namespace velara {
 
@@ -230,7 +232,7 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     frame->FillRecent();
     EXPECT_EQ(frame->action("RF_0")->text(), a);
     EXPECT_EQ(setup.Recent[0], a);
-    EXPECT_FALSE(frame->action("RF_1")->isEnabled());
+    EXPECT_FALSE(frame->action("RF_1")->isVisible()) << "never used";
     EXPECT_TRUE(frame->action("RF_2")->text().endsWith("b && c.bmp"));
 
     frame->action("RF_2")->trigger();
@@ -243,9 +245,13 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_EQ(frame->action("RF_0")->text(), "Empty");
     EXPECT_TRUE(frame->action("RF_0")->isEnabled());
     EXPECT_EQ(setup.Recent[0], a); // it keeps its place
+    QFile::remove(b);
     file("a.bmp");
-    frame->FillRecent();
+    emit frame->findChild<QMenu*>("mnuRecent")->aboutToShow(); // the files are looked for whenever it opens
     EXPECT_EQ(frame->action("RF_0")->text(), a);
+    const QAction* lost = frame->action("RF_2");
+    EXPECT_EQ(lost->text(), "");
+    EXPECT_TRUE(lost->isVisible() && !lost->isEnabled());
 }
 
 TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
@@ -316,8 +322,11 @@ TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
         EXPECT_EQ(dialog.windowTitle(), "Velara Studio: Options");
         EXPECT_EQ(dialog.findChild<QLineEdit*>("txtImagesPath")->text(), "/pictures/");
         auto* box = dialog.findChild<QCheckBox*>("chkAskToSave");
-        EXPECT_EQ(box->text(), "Ask to save on Close/Exit");
-        box->click();
+        EXPECT_EQ(QString(box->text()).remove('&'), "Ask to save on Close/Exit");
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(&dialog, Qt::Key_A, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !box->isChecked(); }, 2000));
         platform.answers = {"/elsewhere"};
         dialog.findChild<QPushButton*>("cmdBrowsePath")->click();
         EXPECT_EQ(last(), "folder: Select Images default folder");
@@ -387,6 +396,25 @@ TEST(StartTest, WhateverTheConfigurationSaysTheFrameIsOnTheScreen)
         EXPECT_LE(frame.width(), screen.width()) << size;
         EXPECT_LE(frame.height(), screen.height()) << size;
     }
+}
+
+TEST(StartTest, TheFrameComesBackWhereItStood)
+{
+    velara::Setup setup;
+    setup.FrameWidth = 480 * 15;
+    setup.FrameHeight = 360 * 15;
+    QWidget first, again, changed;
+    placeFrame(first, setup);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_LE((first.geometry().center() - screen.center()).manhattanLength(), 2) << "in the middle the first time";
+    first.move(37, 52);
+    placeFrame(again, setup, first.saveGeometry());
+    EXPECT_EQ(again.geometry(), QRect(37, 52, 480, 360));
+    setup.FrameWidth = 500 * 15;
+    setup.FrameMaximized = true;
+    placeFrame(changed, setup, first.saveGeometry());
+    EXPECT_TRUE(changed.isMaximized());
+    EXPECT_EQ(changed.normalGeometry(), QRect(37, 52, 500, 360)) << "the size is the configuration's to say";
 }
 
 TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)

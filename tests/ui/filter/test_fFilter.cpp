@@ -92,11 +92,10 @@ TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
     for (int value = 1; value <= 90; ++value) slider->setValue(value);
     EXPECT_EQ("90", find<QLabel>("lblFilterV_0")->text().toStdString());
     EXPECT_TRUE(sameBits(before, shown())) << "a burst of changes waits for its end";
-    settle();
-    EXPECT_TRUE(sameBits(wanted("BRIGHTNESS"), shown())) << "the picture fits the preview, so they are the same";
+    const auto comesTo = [this](const Bits& bits) { return QTest::qWaitFor([&] { return shown() == bits; }, 2000); };
+    EXPECT_TRUE(comesTo(wanted("BRIGHTNESS"))) << "the picture fits the preview, so they are the same";
     click("chkPreview");
-    settle();
-    EXPECT_TRUE(sameBits(picture, shown())) << "without a preview the picture as it is";
+    EXPECT_TRUE(comesTo(picture)) << "without a preview the picture as it is";
     EXPECT_EQ(0, steps());
 }
 

@@ -177,6 +177,56 @@ TEST_F(Mouse, PolygonCornersStayOnScreen)
     EXPECT_FALSE(control("shpLine_1"));
 }
 
+TEST_F(Mouse, AHalfMadePolygonKeepsItsPlaceInThePicture)
+{
+    fImage& w = open(randomBits(60, 50, 1), 100, 90);
+    choose("Select");
+    frame.setup_.SelectionShape = 2;
+    press({5, 5});
+    release({5, 5});
+    press({30, 8});
+    release({30, 8});
+    const auto placeOf = [&](const char* line) { return control(line)->geometry().topLeft() + w.GetSBV(); };
+    EXPECT_EQ(placeOf("shpLine_0"), QPoint(5, 5));
+    w.setZoomFactor(3);
+    EXPECT_EQ(placeOf("shpLine_0"), QPoint(15, 15));
+    EXPECT_EQ(control("shpLine_0")->size(), QSize(76, 10));
+    w.Scroll(40, 20);
+    EXPECT_EQ(placeOf("shpLine_0"), QPoint(15, 15));
+    wheel({10, 10}, {0, -120});
+    EXPECT_EQ(placeOf("shpLine_0"), QPoint(15, 15));
+    const QPoint third = QPoint(60, 60) - w.GetSBV();
+    press(third);
+    release(third);
+    send(QEvent::MouseButtonDblClick, third, Qt::LeftButton, Qt::LeftButton);
+    release(third);
+    EXPECT_TRUE(control("shpLine_0")->isHidden());
+    EXPECT_TRUE(w.document().Region.Region().contains(18, 10));
+}
+
+TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
+{
+    const Bits bits = randomBits(300, 200, 1);
+    fImage& w = open(bits, 120, 100);
+    choose("Pencil");
+    w.Scroll(50, 40);
+    const auto pan = [&](QPoint to) { send(QEvent::MouseMove, to, Qt::NoButton, Qt::MiddleButton); };
+    press({60, 50}, Qt::MiddleButton);
+    EXPECT_EQ(iDst()->cursor().shape(), Qt::ClosedHandCursor);
+    pan({50, 53});
+    EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
+    release({50, 53}, Qt::MiddleButton);
+    EXPECT_NE(iDst()->cursor().shape(), Qt::ClosedHandCursor);
+    EXPECT_TRUE(w.Bits() == bits);
+    press({5, 5}); // within a stroke it is nobody's
+    press({60, 50}, Qt::MiddleButton);
+    pan({20, 20});
+    EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
+    release({20, 20}, Qt::MiddleButton);
+    release({6, 6});
+    EXPECT_EQ(frame.snapshots, 1);
+}
+
 TEST_F(Mouse, TheRightButtonTakesAPreviewBack)
 {
     const Bits bits = randomBits(60, 50, 1);

@@ -1,5 +1,6 @@
 #include "platform/desktop/dialogs/boxes.h"
 #include <QApplication>
+#include <QMainWindow>
 #include <QPointer>
 
 namespace velara {
@@ -18,7 +19,11 @@ QMessageBox::Icon boxIcon(Icon icon)
 QWidget* parentOfDialogs()
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    return QApplication::activeWindow();
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    // Between two dialogs no window is active for a moment.
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible()) return window;
+    return nullptr;
 }
 
 int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)

@@ -1,0 +1,161 @@
+#include "app/start/fStartPage.h"
+#include "app/menus/fIcons.h"
+#include "seams/Platform.h"
+#include <QEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace velara {
+
+namespace {
+
+struct StartRow {
+    const char *word, *caption, *name;
+};
+constexpr StartRow kStarts[] = {
+    {"NEW", QT_TRANSLATE_NOOP("fStartPage", "&New ..."), "cmdStartNew"},
+    {"OPEN", QT_TRANSLATE_NOOP("fStartPage", "&Open ..."), "cmdStartOpen"},
+    {"CREATEFROMCLIPBOARD", QT_TRANSLATE_NOOP("fStartPage", "From the &clipboard"), "cmdStartPaste"},
+};
+constexpr int kMargin = 24;
+constexpr int kIndex = Qt::UserRole; // of the recent list
+
+/// All entries take the same room, whatever the shape of their pictures.
+QIcon framed(const QImage& picture, qreal ratio)
+{
+    constexpr int kSide = Previews::kThumbnailSide;
+    QPixmap pixmap(QSize(kSide, kSide) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    const QSize size = picture.size().boundedTo({kSide, kSide});
+    QPainter(&pixmap).drawImage(QRect(QPoint((kSide - size.width()) / 2, (kSide - size.height()) / 2), size), picture);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+fStartPage::fStartPage(Platform& platform, QWidget* parent)
+    : QWidget(parent), platform_(platform), heading_(new QLabel(tr("Recent pictures"))), list_(new QListWidget)
+{
+    setObjectName("fStartPage");
+    setAccessibleName(tr("How to start"));
+    setAutoFillBackground(true);
+    auto* title = new QLabel(tr("Open a picture to begin"));
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    title->setFont(large);
+    auto* drop = new QLabel(tr("BMP, DIB, JPG and GIF files may also be dropped here."));
+    drop->setWordWrap(true);
+    makeList();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(10);
+    column->addWidget(title);
+    column->addWidget(makeButtons());
+    column->addWidget(drop);
+    column->addSpacing(6);
+    column->addWidget(heading_);
+    column->addWidget(list_, 1);
+    column->addStretch();
+    heading_->hide();
+    list_->hide();
+    parent->installEventFilter(this);
+    setGeometry(parent->rect());
+}
+
+QWidget* fStartPage::makeButtons()
+{
+    auto* box = new QWidget;
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (const StartRow& start : kStarts) {
+        auto* button = new QPushButton(iconOf(start.word), tr(start.caption));
+        button->setObjectName(start.name);
+        button->setAccessibleName(tr(start.caption).remove('&'));
+        connect(button, &QPushButton::clicked, this, [this, &start] { emit commandChosen(start.word); });
+        row->addWidget(button);
+        if (!focusProxy()) setFocusProxy(button);
+    }
+    row->addStretch();
+    return box;
+}
+
+void fStartPage::makeList()
+{
+    constexpr int kSide = Previews::kThumbnailSide;
+    heading_->setBuddy(list_);
+    list_->setObjectName("lstRecent");
+    list_->setAccessibleName(heading_->text());
+    list_->setViewMode(QListView::IconMode);
+    list_->setResizeMode(QListView::Adjust);
+    list_->setMovement(QListView::Static);
+    list_->setIconSize({kSide, kSide});
+    list_->setGridSize({kSide + 20, kSide + 2 * fontMetrics().height()});
+    list_->setTextElideMode(Qt::ElideMiddle);
+    list_->setUniformItemSizes(true);
+    list_->setFrameShape(QFrame::NoFrame);
+    QPalette colours = list_->palette();
+    colours.setColor(QPalette::Base, Qt::transparent);
+    list_->setPalette(colours);
+    // One click opens, as anywhere on such a page; Enter does so by the keyboard.
+    const auto choose = [this](const QListWidgetItem* item) { emit recentChosen(item->data(kIndex).toInt()); };
+    connect(list_, &QListWidget::itemClicked, this, choose);
+    connect(list_, &QListWidget::itemActivated, this, choose);
+}
+
+void fStartPage::showRecent(const std::array<QString, 8>& recent)
+{
+    std::vector<QString> found;
+    for (const QString& path : recent)
+        if (!path.trimmed().isEmpty() && QFileInfo::exists(path.trimmed())) found.push_back(path.trimmed());
+    heading_->setVisible(!found.empty());
+    list_->setVisible(!found.empty());
+    if (found == shown_ && isVisible()) return;
+    shown_ = found;
+    requests_.clear();
+    list_->clear();
+    QImage blank(Previews::kThumbnailSide, Previews::kThumbnailSide, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    for (int i = 0; i < int(recent.size()); ++i) {
+        const QString path = recent[std::size_t(i)].trimmed();
+        if (std::ranges::find(found, path) == found.end()) continue;
+        auto* item = new QListWidgetItem(framed(blank, 1), QFileInfo(path).fileName(), list_);
+        item->setToolTip(path);
+        item->setData(kIndex, i);
+        askThumbnail(list_->row(item), path);
+    }
+}
+
+void fStartPage::askThumbnail(int row, const QString& path)
+{
+    requests_.push_back(platform_.previews().thumbnail(path, [this, row](const Preview& preview) {
+        QListWidgetItem* item = list_->item(row);
+        if (!item) return;
+        if (preview.image.isNull())
+            item->setIcon(QIcon::fromTheme("image-missing"));
+        else
+            item->setIcon(framed(preview.image, devicePixelRatioF()));
+    }));
+}
+
+void fStartPage::hideEvent(QHideEvent* event)
+{
+    requests_.clear(); // nobody looks
+    shown_.clear();
+    QWidget::hideEvent(event);
+}
+
+bool fStartPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent() && event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace velara

@@ -1,0 +1,209 @@
+// The windows of the documents: size, name, mark, focus, and what stands where there is none.
+#include "app/frame/fStatus.h"
+#include "app/frame/fToolPane.h"
+#include "app/frame/frameTest.h"
+#include <QLabel>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+
+namespace velara {
+
+struct FrameDocuments : FrameTest {
+    QMdiSubWindow* windowOf(fImage* image) { return qobject_cast<QMdiSubWindow*>(image->parentWidget()); }
+    QRect areaRect() { return frame->area().viewport()->rect(); }
+    /// What is listed after the last fixed item of Views, with a mark at the active one.
+    QStringList listed()
+    {
+        auto* views = frame->findChild<QMenu*>("mnuViews");
+        emit views->aboutToShow();
+        QStringList names;
+        for (const QAction* item : views->actions())
+            if (item->objectName().startsWith("DOCUMENT_") && !item->isSeparator())
+                names << (item->isChecked() ? ">" : "") + item->text();
+        return names;
+    }
+};
+
+TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
+{
+    frame->resize(1000, 800);
+    QCoreApplication::processEvents();
+    const QRect area = areaRect();
+    for (const QSize size : {QSize(40, 30), QSize(300, 200), QSize(area.width() * 19 / 20, area.height() * 9 / 10)}) {
+        fImage* image = open(randomBits(size.width(), size.height(), 1));
+        EXPECT_EQ(image->GetSBM(), QPoint(0, 0)) << size.width();
+        EXPECT_TRUE(area.contains(windowOf(image)->geometry())) << size.width();
+    }
+    fImage* large = open(randomBits(area.width() + 1, 20, 1));
+    EXPECT_EQ(windowOf(large)->geometry(), area);
+    setup.OpenZoom = 3;
+    ASSERT_TRUE(frame->openPicture(file("zoomed.png", 120, 90)));
+    fImage* zoomed = frame->GetActiveImage();
+    EXPECT_EQ(zoomed->ZoomFactor(), 3);
+    EXPECT_EQ(zoomed->GetSBM(), QPoint(0, 0)) << "as it is shown, at three to one";
+    EXPECT_TRUE(area.contains(windowOf(zoomed)->geometry()));
+}
+
+TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
+{
+    const QString path = file("a[*].png");
+    frame->openPicture(path);
+    frame->openPicture(path);
+    fImage *first = frame->documents()[0], *second = frame->documents()[1];
+    EXPECT_EQ(first->Caption(), "a[*].png");
+    EXPECT_EQ(second->Caption(), "[1]a[*].png");
+    EXPECT_EQ(windowOf(second)->windowTitle(), "[1]a[*][*].png") << "the file's own characters are no mark";
+
+    const auto marks = [&] { return windowOf(first)->isWindowModified() * 10 + windowOf(second)->isWindowModified(); };
+    EXPECT_EQ(marks(), 0);
+    frame->Mmenu("INVERT");
+    EXPECT_EQ(marks(), 1);
+    frame->Mmenu("UNDO");
+    EXPECT_EQ(marks(), 0) << "nothing to lose: closing asks nothing";
+    frame->Mmenu("REDO");
+    EXPECT_EQ(marks(), 1);
+    frame->area().setActiveSubWindow(windowOf(first));
+    frame->Mmenu("FLIPH");
+    EXPECT_EQ(marks(), 11);
+    frame->Mmenu("SAVE");
+    EXPECT_EQ(marks(), 1);
+}
+
+TEST_F(FrameDocuments, TheOpenOnesStandAtTheEndOfViews)
+{
+    EXPECT_EQ(listed(), QStringList());
+    open(randomBits(9, 9, 1), "one & two.bmp");
+    fImage* other = open(randomBits(9, 9, 1), "b.bmp");
+    frame->Mmenu("INVERT");
+    EXPECT_EQ(listed(), QStringList({"&1 one && two.bmp", ">&2 b.bmp*"}));
+    windowOf(frame->documents()[0])->showMinimized();
+    listed();
+    frame->findChild<QAction*>("DOCUMENT_1")->trigger();
+    EXPECT_EQ(frame->GetActiveImage()->Caption(), "one & two.bmp");
+    EXPECT_FALSE(windowOf(frame->GetActiveImage())->isMinimized());
+    setup.AskToSave = false;
+    windowOf(other)->close();
+    EXPECT_EQ(listed(), QStringList({">&1 one && two.bmp"}));
+}
+
+TEST_F(FrameDocuments, AfterAClosedOneComesTheOneUsedBefore)
+{
+    fImage* first = open(randomBits(9, 9, 1), "1.bmp");
+    open(randomBits(9, 9, 2), "2.bmp");
+    open(randomBits(9, 9, 3), "3.bmp");
+    fImage* fourth = open(randomBits(9, 9, 4), "4.bmp");
+    frame->area().setActiveSubWindow(windowOf(first));
+    frame->area().setActiveSubWindow(windowOf(fourth));
+    frame->Mmenu("CLOSE");
+    EXPECT_EQ(frame->GetActiveImage()->Caption(), "1.bmp");
+}
+
+TEST_F(FrameDocuments, AnEmptyOneShowsNothingOfAnotherAndKeepsTheKeys)
+{
+    fImage* picture = open(randomBits(20, 10, 1));
+    frame->setStatus(Panel::Pos, "X:3 Y:4");
+    fImage* empty = open(Bits(), "broken.bmp");
+    EXPECT_EQ(frame->status().panel(Panel::Pos), "");
+    EXPECT_EQ(frame->status().panel(Panel::Size), "");
+    EXPECT_EQ(frame->status().panel(Panel::Name), "broken.bmp");
+    ASSERT_TRUE(empty->isAncestorOf(QApplication::focusWidget()) || QApplication::focusWidget() == empty);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Control);
+    EXPECT_EQ(frame->GetActiveImage(), picture);
+    frame->Mmenu("2x");
+    EXPECT_EQ(frame->findChild<QProgressBar*>("cFilterProgress")->value(), 0);
+}
+
+TEST_F(FrameDocuments, TabReachesTheToolsAndArrowsWalkThem)
+{
+    frame->initToolPanes();
+    fImage* image = open(randomBits(20, 10, 1));
+    frame->toolClicked("Select");
+    QWidget* display = image->findChild<QWidget*>("iDst");
+    display->setFocus();
+    const auto focused = [] { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : ""; };
+    const auto keys = [](std::initializer_list<Qt::Key> list) {
+        for (const Qt::Key key : list) QTest::keyClick(QApplication::focusWidget(), key);
+    };
+    keys({Qt::Key_Tab});
+    EXPECT_EQ(focused(), "tb_tools_3") << "the chosen tool";
+    keys({Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up});
+    EXPECT_EQ(focused(), "tb_tools_3");
+    keys({Qt::Key_Down});
+    EXPECT_EQ(setup.CurrentTool, "Select") << "walking chooses nothing";
+    keys({Qt::Key_Return});
+    EXPECT_EQ(setup.CurrentTool, "Stamp");
+    keys({Qt::Key_Up, Qt::Key_Space});
+    EXPECT_EQ(setup.CurrentTool, "Select");
+    keys({Qt::Key_Tab});
+    EXPECT_EQ(focused(), "cbSelectionMode") << "the strip is one stop";
+    for (int i = 0; i < 20 && focused() != "iDst"; ++i) keys({Qt::Key_Tab});
+    EXPECT_EQ(focused(), "iDst") << "and round";
+    QTest::keyClick(display, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), "lblColB") << "the last of the pane";
+    display->setFocus();
+    keys({Qt::Key_Tab, Qt::Key_Escape});
+    EXPECT_EQ(focused(), "iDst");
+}
+
+TEST_F(FrameDocuments, TheSelectionHasItsCommands)
+{
+    fImage* image = open(randomBits(20, 10, 1));
+    frame->activateWindow();
+    const auto& selection = [&]() -> const Region& { return image->document().Region.Region(); };
+    const auto key = [&](Qt::Key k, Qt::KeyboardModifiers m) { QTest::keyClick(frame.get(), k, m); };
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(selection().bounds(), (Rect{0, 0, 20, 10}));
+    EXPECT_EQ(frame->filter().BitsRegion(), selection());
+    key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(selection().isEmpty());
+    EXPECT_EQ(frame->filter().BitsRegion(), image->document().Region.RegionMain());
+    image->document().Region.setRegion(Region::rectangle(0, 0, 20, 4));
+    key(Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(selection().bounds(), (Rect{0, 4, 20, 10}));
+    EXPECT_FALSE(image->document().Changed);
+    frame->Mmenu("INVERT");
+    frame->Mmenu("UNDO");
+    const Bits before = image->Bits();
+    key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(image->Bits() == before) << "the other key of redo";
+}
+
+TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
+{
+    const QString a = file("a.png", 300, 200);
+    setup.Recent = {path("lost.png"), a};
+    frame->FillRecent();
+    auto* page = frame->findChild<QWidget*>("fStartPage");
+    auto* list = frame->findChild<QListWidget*>("lstRecent");
+    EXPECT_TRUE(page->isVisible());
+    ASSERT_EQ(list->count(), 1) << "the lost one is left out";
+    EXPECT_EQ(list->item(0)->text(), "a.png");
+    const auto iconMiddle = [&] { return list->item(0)->icon().pixmap(128).toImage().pixelColor(64, 64); };
+    EXPECT_EQ(iconMiddle().alpha(), 0);
+    QImage thumbnail(128, 85, QImage::Format_RGB32);
+    thumbnail.fill(Qt::red);
+    EXPECT_TRUE(platform.previews().answer("thumbnail " + a, {thumbnail, {300, 200}, {}}));
+    EXPECT_EQ(iconMiddle(), QColor(Qt::red));
+
+    frame->findChild<QPushButton*>("cmdStartOpen")->click();
+    EXPECT_EQ(last(), "open: Open file");
+    frame->Mmenu("INVERT");
+    EXPECT_TRUE(frame->status().currentMessage().startsWith("There is no picture"));
+    frame->run("@SELECTALL");
+
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    ASSERT_EQ(frame->documents().size(), 1);
+    EXPECT_EQ(frame->GetActiveImage()->Caption(), "a.png");
+    EXPECT_FALSE(page->isVisible());
+    frame->Mmenu("CLOSE");
+    EXPECT_TRUE(page->isVisible());
+    EXPECT_EQ(page->size(), areaRect().size());
+}
+
+} // namespace velara
