@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize reference reference-diff mutate screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-sanitize fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -22,6 +22,13 @@ test-sanitize: setup
 	cmake --preset sanitize >/dev/null
 	cmake --build --preset sanitize
 	ASAN_OPTIONS=detect_leaks=0:exitcode=99 UBSAN_OPTIONS=print_stacktrace=1:exitcode=99 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
+
+# Damaged pictures, sequences of operations, configurations and region words for FUZZ_S seconds, on a new seed each time;
+# inputs of faults stay in build/fuzz. make fuzz FUZZ_S=3600 SUBJECTS="pictures regions"
+FUZZ_S ?= 60
+fuzz: all
+	$(RELEASE)/bin/velara-fuzz --seconds $(FUZZ_S) --seed $$(date +%s)000 --keep build/fuzz $(SUBJECTS) \
+	    --samples "$$(sed -n 's/^CORPUS:PATH=//p' $(RELEASE)/CMakeCache.txt)"
 
 screenshots: all
 	cmake --build --preset release --target screenshots

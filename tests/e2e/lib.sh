@@ -8,7 +8,7 @@ mkdir -p "$folder" "$scratch/home" "$scratch/run"
 chmod 700 "$scratch/run"
 cp "$bin/velara-studio" "$bin/velara-decode" "$bin/velara-scan" "$folder/"
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
-export ASAN_OPTIONS=detect_leaks=0
+export ASAN_OPTIONS=detect_leaks=0:exitcode=99
 unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR || true
 pids=""
 editor=""
@@ -18,6 +18,7 @@ finish() {
     trap - EXIT
     if [ "$status" != 0 ] && [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/$(basename "$0").png" || true; fi
     for pid in $pids; do kill "$pid" 2>/dev/null || true; done
+    if grep -E 'ERROR: AddressSanitizer|runtime error:' "$scratch"/log* >&2 2>/dev/null; then status=99; fi
     wait 2>/dev/null || true
     rm -rf "$scratch"
     exit "$status"

@@ -1,6 +1,7 @@
 // velara-decode EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
 #include "fileio/decode/Cage.h"
 #include "fileio/decode/decode.h"
+#include "fileio/decode/sanitizer.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <QString>
 #include <csignal>
@@ -70,6 +71,7 @@ int main(int argc, char** argv)
     }
     const QString extension = QString::fromUtf8(argv[1]);
     sizeFound = claimSize;
+    tellOurFaultsFromTheLibraries();
     const Needs needs = prepareReader(extension);
     FileBytes file(kPicture);
     close(kPicture);

@@ -1,0 +1,50 @@
+#include "fileio/decode/sanitizer.h"
+
+#ifdef __SANITIZE_ADDRESS__
+#include <array>
+#include <sanitizer/asan_interface.h>
+#include <string_view>
+#include <unistd.h>
+
+namespace velara::decode {
+
+namespace {
+
+constexpr int kLibraryFault = 97;
+constexpr std::array<std::string_view, 4> kBelow = {"libasan", "libc.so", "libstdc++", "libgcc"}; // called by either
+
+/// The program or library of a line of a stack, "#1 0x... in f (/usr/lib/libx.so.3+0x12)"; empty for other lines.
+std::string_view moduleOf(std::string_view line)
+{
+    const auto frame = line.find_first_not_of(' ');
+    if (frame == line.npos || line[frame] != '#') return {};
+    const auto end = line.rfind("+0x"), begin = line.rfind('(', end);
+    return begin == line.npos || end == line.npos ? std::string_view() : line.substr(begin + 1, end - begin - 1);
+}
+
+void judge(const char* report)
+{
+    std::string_view text = report;
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(text.size(), line.size() + 1));
+        const std::string_view module = moduleOf(line), file = module.substr(module.rfind('/') + 1);
+        bool isBelow = file.empty();
+        for (const std::string_view name : kBelow) isBelow |= file.starts_with(name);
+        if (isBelow) continue;
+        if (!file.starts_with("velara-decode")) _exit(kLibraryFault);
+        return;
+    }
+}
+
+} // namespace
+
+void tellOurFaultsFromTheLibraries() { __asan_set_error_report_callback(judge); }
+
+} // namespace velara::decode
+
+#else
+
+void velara::decode::tellOurFaultsFromTheLibraries() {}
+
+#endif
