@@ -1,6 +1,7 @@
 // velara-studio: the editor. Reads no command line.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/start/formatPlugins.h"
 #include "platform/desktop/QtPlatform.h"
 #include <QApplication>
 #include <QLoggingCategory>
@@ -26,6 +27,7 @@ class Application final : public QApplication {
 
 int main(int argc, char** argv)
 {
+    velara::leaveFormatPluginsOut();
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false); // each move of a stroke counts
     Application application(argc, argv);
     application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes still stand

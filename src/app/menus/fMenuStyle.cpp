@@ -1,4 +1,5 @@
 #include "app/menus/fMenuStyle.h"
+#include <QLabel>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
@@ -43,6 +44,13 @@ ItemText split(const QString& text)
 }
 
 } // namespace
+
+void fMenuStyle::polish(QWidget* widget)
+{
+    if (auto* label = qobject_cast<QLabel*>(widget); label && label->textFormat() == Qt::AutoText)
+        label->setTextFormat(Qt::PlainText);
+    QProxyStyle::polish(widget);
+}
 
 int fMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {

@@ -1,5 +1,5 @@
 // fMenuStyle: the look of all menus: a small picture beside each text, items of 20 and separators of 5, a raised frame
-// round the picture of the selected item.
+// round the picture of the selected item. And texts are shown as they are.
 #pragma once
 #include <QProxyStyle>
 
@@ -8,6 +8,10 @@ namespace velara {
 class fMenuStyle final : public QProxyStyle {
     Q_OBJECT
   public:
+    using QProxyStyle::polish;
+    /// Labels, and the boxes of hints, would take a text with angle brackets for a page, and load the pictures that it
+    /// names: the name of a file or a folder could be such a text.
+    void polish(QWidget* widget) override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -15,13 +15,13 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setObjectName("fSplash");
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
-    QImage picture = splashPicture();
+    const QImage picture = splashPicture();
     const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");
-    if (overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())}))
-        if (const QImage loaded(path); !loaded.isNull()) picture = loaded;
+    // Not read back: what stands there by then may be somebody else's, and the picture is at hand.
+    overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
     ripples_ = std::make_shared<Ripples>(picture);
     setFixedSize(picture.size());
     Timer1.setInterval(1);

@@ -1,8 +1,10 @@
 // The look of the menus, measured and looked at pixel by pixel.
 #include "app/menus/fMenuStyle.h"
 #include <QImage>
+#include <QLabel>
 #include <QMenu>
 #include <QPainter>
+#include <QProgressDialog>
 #include <QStyleOptionMenuItem>
 #include <gtest/gtest.h>
 
@@ -45,6 +47,23 @@ struct MenuStyleTest : ::testing::Test {
 };
 
 } // namespace
+
+// The name of a file, in a label or as a hint, is no page that names pictures to load.
+TEST_F(MenuStyleTest, TextsAreShownAsTheyAre)
+{
+    const QString name = "<img src='picture.gif'>";
+    QLabel label(name), page;
+    page.setTextFormat(Qt::RichText);
+    QProgressDialog reading(name, "Cancel", 0, 0);
+    for (QWidget* widget : std::initializer_list<QWidget*>{&label, &page, reading.findChild<QLabel*>()}) {
+        widget->setStyle(&style);
+        widget->ensurePolished();
+    }
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(label.text(), name);
+    EXPECT_EQ(reading.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+    EXPECT_EQ(page.textFormat(), Qt::RichText) << "where a page is meant";
+}
 
 TEST_F(MenuStyleTest, ItemsAreTwentyHighAndSeparatorsFive)
 {

@@ -1,0 +1,86 @@
+#!/bin/sh
+# Nothing foreign is parsed in the editor: pictures come in by every way, whole and broken, and after each the editor
+# has none of the system's plug-ins for picture formats in its memory. Names of files are texts, not pages.
+. "$(dirname "$0")/lib.sh"
+
+convert -size 60x40 plasma:red-blue -type truecolor "$scratch/in.bmp"
+for extension in png gif jpg tif ico cur pcx tga ppm wbmp; do convert "$scratch/in.bmp" "$scratch/in.$extension"; done
+head -c 300 "$scratch/in.png" >"$scratch/broken.png"
+mkdir -p "$folder/Stamps"
+cp "$scratch/in.gif" "$folder/Stamps/a.bmp" # the name lies
+cp "$scratch/in.bmp" "$folder/Stamps/b.bmp"
+
+pure() {
+    foreign=$(grep -o '[^/]*/imageformats/.*' "/proc/$editor/maps" | sort -u | tr '\n' ' ')
+    [ -z "$foreign" ] || fail "$1: $foreign"
+}
+documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
+offer() { # TYPE FILE
+    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
+    pids="$pids $!"
+    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
+}
+start
+quit
+patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
+patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels in twips
+patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
+patch_config 266 '\0\0'                                        # no questions
+start
+pure "the start"
+
+count=0
+for extension in png gif jpg tif ico cur pcx tga ppm wbmp; do
+    open_file "$scratch/in.$extension"
+    count=$((count + 1))
+    until_true "in.$extension" documents $count
+done
+open_file "$scratch/broken.png"
+sleep 0.3
+pure "files"
+
+offer image/png "$scratch/in.png"
+keys alt+e f
+until_true "the picture of the clipboard" documents $((count + 1))
+keys ctrl+v Escape
+offer image/tiff "$scratch/broken.png"
+keys alt+e f
+until_true "the message about the clipboard" count_titled 2
+keys Return
+until_true "the message to go" count_titled 1
+pure "the clipboard"
+
+keys alt+t q d # the desktop, by way of New.bmp
+until_true "the captured desktop" documents $((count + 2))
+sleep 0.5
+pure "New.bmp"
+
+# The first stamp of the folder is a GIF of another name; the folder's textures are drawn small.
+xdotool mousemove --window "$(frame)" $((24 + 2 * 34)) $((40 + 1 * 31)) click 1
+sleep 0.5
+pure "a stamp"
+mkdir -p "$folder/Textures"
+cp "$scratch"/in.* "$scratch/broken.png" "$folder/Textures/"
+keys alt+t m
+until_true "the dialog of textures" has_window 'Textur'
+sleep 1
+pure "textures"
+keys Escape
+
+"$bin/drag_source" "$scratch/in.gif" "$scratch/in.jpg" >"$scratch/drag.log" 2>&1 &
+pids="$pids $!"
+until_true "the source" has_window '^drag source$'
+source=$(xdotool search --onlyvisible --name '^drag source$')
+xdotool windowmove --sync "$source" 1000 10
+sleep 0.3
+xdotool mousemove --window "$source" 40 40 mousedown 1
+for x in 1000 900 800 700 500 505; do
+    xdotool mousemove $x 400
+    sleep 0.05
+done
+sleep 0.2
+xdotool mouseup 1
+until_true "the dropped files" documents $((count + 4))
+pure "a drop"
+xdotool windowactivate --sync "$(frame)"
+quit
