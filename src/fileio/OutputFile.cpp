@@ -112,8 +112,8 @@ OutputFile::OutputFile(const QString& path, Links links)
     removeStrays(folderOf(target_));
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
-    if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode)))
-        openBeside(replaces_ ? old.st_mode & 07777 : 0666, replaces_);
+    const mode_t mode = replaces_ ? old.st_mode & 07777 : links == Links::Follow ? 0666 : 0600;
+    if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode))) openBeside(mode, replaces_);
     const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
     if (file_ < 0 && isOver) file_ = memfd_create("picture", MFD_CLOEXEC);
 }

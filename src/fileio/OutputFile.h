@@ -20,7 +20,10 @@ QString behindLinks(const QString& path);
 /// nothing has changed.
 class OutputFile {
   public:
-    enum class Links { Follow, Replace };
+    enum class Links {
+        Follow,
+        Replace, // for work files of the program, which are the user's alone
+    };
     explicit OutputFile(const QString& path, Links links = Links::Follow);
     ~OutputFile();
     OutputFile(const OutputFile&) = delete;

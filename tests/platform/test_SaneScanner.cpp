@@ -30,7 +30,6 @@ class SaneScannerTest : public ::testing::Test {
     QImage scan(const QString& mode, QString* reason = nullptr, const QString& device = "test:0")
     {
         const QString file = folder.filePath("scan.bmp");
-        QFile::remove(file);
         std::optional<QString> answer;
         scanner.acquire(
             {device, mode, 50, {10, 20, 60, 40}}, file, [this](int p) { percents << p; },
@@ -46,6 +45,16 @@ class SaneScannerTest : public ::testing::Test {
 };
 
 } // namespace
+
+TEST_F(SaneScannerTest, AScanIsTheUsersAloneAndFollowsNoLink)
+{
+    configure("");
+    write("precious", "mine");
+    QFile::link(folder.filePath("precious"), folder.filePath("scan.bmp"));
+    EXPECT_FALSE(scan("Gray").isNull());
+    EXPECT_EQ(QFileInfo(folder.filePath("precious")).size(), 4);
+    EXPECT_FALSE(QFile::permissions(folder.filePath("scan.bmp")) & (QFile::ReadGroup | QFile::ReadOther));
+}
 
 TEST_F(SaneScannerTest, SourcesAndWhatTheyCanDo)
 {

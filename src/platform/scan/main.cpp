@@ -13,6 +13,7 @@
 #include <QFile>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <sane/saneopts.h>
 #include <sys/prctl.h>
 #include <vector>
@@ -109,6 +110,16 @@ bool readFrame(const Device& device, Frames& frames, int pass)
     }
 }
 
+/// In a new file that the user alone can read: a link that was set there is not followed.
+bool written(const QImage& picture, const QString& path)
+{
+    QFile::remove(path);
+    const int descriptor = open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    QFile file;
+    return descriptor >= 0 && file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle) &&
+           picture.save(&file, "BMP") && file.flush();
+}
+
 void acquire(const Device& device, const QStringList& arguments)
 {
     const QString& mode = arguments[0];
@@ -138,7 +149,7 @@ void acquire(const Device& device, const QStringList& arguments)
     const QImage picture = frames.picture();
     if (picture.isNull()) throw ScanFailure("the scanner gave no picture");
     const QString& path = arguments[6];
-    if (!picture.convertToFormat(QImage::Format_RGB888).save(path, "BMP")) {
+    if (!written(picture.convertToFormat(QImage::Format_RGB888), path)) {
         QFile::remove(path);
         throw ScanFailure("the picture could not be written");
     }

@@ -1,11 +1,11 @@
 // FWeb: what the dialog does. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
+#include "document/undo/UndoMark.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/ActiveComposer.h"
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -63,7 +63,7 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
 QString FWeb::temporaryName() const
 {
     const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
-    QDir().mkpath(folder); // it may have been swept away meanwhile
+    makePrivateFolder(folder); // it may have been swept away meanwhile
     return folder + (settings_.isJpeg() ? QStringLiteral("/J0001.jpg") : QStringLiteral("/G0001.gif"));
 }
 

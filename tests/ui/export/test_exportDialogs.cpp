@@ -236,14 +236,19 @@ TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
     idle(dialog);
     EXPECT_TRUE(sameBits(before, find<fPicture>(dialog, "oSrc")->bits()));
     blocker.remove();
-    const QString precious = world.folder.filePath("precious");
-    ASSERT_TRUE(QFile::copy(name, precious));
-    QDir().mkpath(world.folder.filePath("Temp"));
-    ASSERT_TRUE(QFile::link(precious, temporary("G0001.gif")));
+    const QString precious = world.folder.filePath("precious"), shown = temporary("G0001.gif");
     choose(dialog, "cboDither", "Even");
     idle(dialog);
-    EXPECT_EQ(bytesOf(name), bytesOf(precious)) << "a link in the Temp folder is not followed";
-    EXPECT_FALSE(sameBits(before, find<fPicture>(dialog, "oSrc")->bits()));
+    constexpr auto kOthers = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    for (const QString& kept : {shown, world.folder.filePath("Temp")})
+        EXPECT_FALSE(QFile::permissions(kept) & kOthers) << kept.toStdString() << " is the user's alone";
+    ASSERT_TRUE(QFile::rename(shown, precious));
+    ASSERT_TRUE(QFile::link(precious, shown));
+    const QByteArray first = bytesOf(precious);
+    choose(dialog, "cboDither", "Odd");
+    idle(dialog);
+    EXPECT_EQ(first, bytesOf(precious)) << "a link in the Temp folder is not followed";
+    EXPECT_NE(first, bytesOf(shown));
 }
 
 } // namespace
