@@ -11,6 +11,7 @@
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace velara;
@@ -54,6 +55,17 @@ bool tellRows(const Decoded& picture, std::uint8_t* memory)
     return true;
 }
 
+/// The layers that hold here, found out by a process of its own: inside, nothing can be written to a file any more.
+int printCage()
+{
+    const pid_t inside = fork();
+    if (inside == 0) _exit(static_cast<int>(enterCage(Needs::Nothing)));
+    int status = 0;
+    const bool ended = waitpid(inside, &status, 0) == inside && WIFEXITED(status);
+    std::fputs(describeCage(ended ? static_cast<unsigned>(WEXITSTATUS(status)) : 0).c_str(), stdout);
+    return ended ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -61,10 +73,7 @@ int main(int argc, char** argv)
     prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
     std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; a font cache that can't be written is no reason to end
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
-    if (argc == 2 && std::string_view(argv[1]) == "--cage") {
-        const std::string text = describeCage(enterCage(Needs::Nothing));
-        _exit(write(STDOUT_FILENO, text.data(), text.size()) < 0);
-    }
+    if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();
     if (argc != 2 || memory == MAP_FAILED) {
         std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
         return 2;

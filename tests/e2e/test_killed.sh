@@ -1,0 +1,36 @@
+#!/bin/bash
+# The editor killed at random moments while it filters, saves and writes undo steps: the saved file is always a whole one,
+# the next start works, and the next save takes away what the killed one left. KILLS=200 for the long run.
+. "$(dirname "$0")/lib.sh"
+kills=${KILLS:-5}
+mkdir "$scratch/pictures"
+picture=$scratch/pictures/picture.bmp
+convert -size 3000x2200 plasma:red-blue -type truecolor "BMP3:$scratch/one.bmp"
+convert "$scratch/one.bmp" -negate "BMP3:$scratch/other.bmp"
+cp "$scratch/one.bmp" "$picture"
+is_whole() { same "$picture" "$scratch/one.bmp" || same "$picture" "$scratch/other.bmp"; }
+strays() { find "$scratch/pictures" -name '.velara-*' | wc -l; }
+
+caught=0 shortened=0
+for round in $(seq "$kills"); do
+    start
+    open_file "$picture"
+    until_true "the first step" sh -c "ls '$folder'/Temp/b0001*.dat"
+    (while kill -0 "$editor"; do xdotool key alt+l key i key ctrl+s; done) >/dev/null 2>&1 &
+    busy=$!
+    sleep "$(printf '0.%03d' $((RANDOM % 900 + 60)))"
+    kill -KILL "$editor"
+    wait "$busy" "$editor" 2>/dev/null || true
+    is_whole || fail "round $round: half a picture"
+    [ "$(strays)" = 0 ] || caught=$((caught + 1))
+    [ -z "$(find "$folder/Temp" -name 'b*.dat' -size -25000k -print -delete)" ] || shortened=$((shortened + 1))
+    [ "$(strays)" -le 1 ] || fail "round $round: what was left is not taken away"
+done
+start
+open_file "$picture"
+until_true "the first step" sh -c "ls '$folder'/Temp/b0001*.dat"
+keys alt+l i ctrl+s
+until_true "the strays to go" sh -c "[ \$(find '$scratch/pictures' -name '.velara-*' | wc -l) = 0 ]"
+is_whole || fail "the picture saved at the end"
+quit
+echo "$kills killed: $caught while a picture was written, $shortened while an undo step was"

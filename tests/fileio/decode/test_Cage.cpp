@@ -1,0 +1,54 @@
+// What the cage costs each picture. What it refuses is tried in fileio/load/test_cage.cpp.
+#include "fileio/decode/Cage.h"
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace velara::decode {
+
+namespace {
+
+double processorTime() // ms
+{
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+double costOf(Needs needs, volatile double& shared)
+{
+    std::array<double, 25> costs{};
+    for (double& cost : costs) {
+        const pid_t inside = fork();
+        if (inside == 0) {
+            const double before = processorTime();
+            const unsigned holding = enterCage(needs);
+            shared = holding & NoNewPrivileges ? processorTime() - before : 1e9;
+            _exit(0);
+        }
+        waitpid(inside, nullptr, 0);
+        cost = shared;
+    }
+    std::ranges::sort(costs);
+    return costs[costs.size() / 2];
+}
+
+} // namespace
+
+TEST(CageCost, EnteringItTakesLessThanTwoMilliseconds)
+{
+    void* shared = mmap(nullptr, sizeof(double), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(MAP_FAILED, shared);
+    for (const Needs needs : {Needs::Nothing, Needs::Fonts}) {
+        const double cost = costOf(needs, *static_cast<double*>(shared));
+        RecordProperty(needs == Needs::Fonts ? "fonts" : "plain", std::to_string(cost));
+        EXPECT_LT(cost, 2);
+        EXPECT_GT(cost, 0.01) << "nothing was entered";
+    }
+}
+
+} // namespace velara::decode
