@@ -88,6 +88,11 @@ QString tryConfiguration(const Place& place, std::uint64_t number)
     const QByteArray once = contents(path);
     if (once.size() != std::max<qsizetype>(bytes.size(), kSetupBytes)) return "a file of another length";
     if (once.mid(kSetupBytes) != bytes.mid(kSetupBytes)) return "what stood behind the record has changed";
+    constexpr qsizetype kFont = 2755, kFontBytes = 256; // a text that nobody edits
+    const QByteArray font = bytes.mid(kFont, kFontBytes);
+    const bool isForeign = QString::fromUtf8(font.constData()).contains(QChar::ReplacementCharacter);
+    if (font.size() == kFontBytes && isForeign && once.mid(kFont, kFontBytes) != font)
+        return "a text of another code page was written anew";
     if (!SaveSetup(platform, LoadSetup(platform))) return "the configuration can't be written again";
     const QByteArray twice = contents(path);
     const auto [a, b] = std::ranges::mismatch(once, twice);
