@@ -80,19 +80,22 @@ struct DialogRow {
 constexpr DialogRow kDialogs[] = {
     {"NEW", false}, {"IMAGESIZE", false}, {"CANVASSIZE", true}, {"IMAGEORIENTATION", false}, {"IMAGEROTATE", false},
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
-    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false},
+    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"@ICON", false},
 };
 // clang-format on
 
 void shootDialog(fMain& frame, const char* word)
 {
-    QTimer::singleShot(400, [word] {
+    bool shot = false;
+    QTimer::singleShot(400, [word, &shot] {
         if (QWidget* dialog = QApplication::activeModalWidget()) {
-            save(dialog->grab(), QString("dialog_") + word);
+            save(dialog->grab(), QString("dialog_") + QString(word).remove('@'));
             dialog->close();
         }
+        shot = true;
     });
-    frame.Mmenu(word);
+    frame.run(word);
+    while (!shot) settle(); // some windows are waited for in there, others are not
 }
 
 /// The side pane with each tool, and the floating copies of the panes one below the other.

@@ -37,54 +37,83 @@ until_true "the stretched picture" root_pixel 1205 800 0000ff
 keys alt+t e c
 until_true "the ground of the centred picture" root_pixel 1225 800 000000
 
-# The desktop without any window, which shows the picture in its middle; then the frame is back.
-keys alt+t q d
-sleep 1
-until_true "the frame back" windows '^Velara Studio'
-until_true "a second document" test -s "$folder/Temp/b000200.dat"
+# captured N: as the Nth document, with the frame back
+captured() {
+    until_true "document $1" test -s "$folder/Temp/b000${1}00.dat"
+    until_true "the frame back" windows '^Velara Studio'
+    sleep 0.5
+}
+# quick KEY N FILE: what an item of the menu of quick captures gives
+quick() {
+    keys alt+t q "$1"
+    captured "$2"
+    save_as "$3"
+}
+# pick KEY: the picker, on what the dialog's list has under that key
+pick() {
+    keys alt+t s
+    until_true "the dialog" has_window '^Capture Screen$'
+    keys "$1" alt+u
+    until_true "the picker" has_window '^Capture Rectangle$'
+    sleep 0.5
+}
+drag() {
+    xdotool mousemove "$1" "$2" mousedown 1
+    sleep 0.1
+    xdotool mousemove $((($1 + $3) / 2)) $((($2 + $4) / 2))
+    sleep 0.1
+    xdotool mousemove "$3" "$4"
+    sleep 0.1
+    xdotool mouseup 1
+}
+
+# The desktop without any window, which shows the picture in its middle.
+quick d 2 "$scratch/desktop.bmp"
 [ ! -e "$folder/New.bmp" ] || fail "New.bmp is left"
-save_as "$scratch/desktop.bmp"
 saved_size "$scratch/desktop.bmp" 1280x900
 pixel_is "$scratch/desktop.bmp" 630 450 FF0000
 pixel_is "$scratch/desktop.bmp" 650 450 0000FF
 pixel_is "$scratch/desktop.bmp" 5 5 000000
 
-keys alt+t q f
-until_true "a third document" test -s "$folder/Temp/b000300.dat"
-sleep 0.3
-save_as "$scratch/foreground.bmp"
+quick f 3 "$scratch/foreground.bmp"
 saved_size "$scratch/foreground.bmp" 800x600
 pixel_is "$scratch/foreground.bmp" 795 595 "$(convert "$scratch/foreground.bmp" -format '%[hex:p{790,590}]' info: | cut -c1-6)"
 
-# A rectangle of the screen with a real mouse: around the middle of the wallpaper.
-keys alt+t s
-until_true "the dialog" has_window '^Capture Screen$'
-keys alt+u
-until_true "the picker" has_window '^Capture Rectangle$'
-sleep 0.5
-xdotool mousemove 610 440 mousedown 1
-sleep 0.1
-xdotool mousemove 650 455
-sleep 0.1
-xdotool mousemove 670 460
-sleep 0.1
-xdotool mouseup 1
-until_true "a fourth document" test -s "$folder/Temp/b000400.dat"
-sleep 0.3
+# A rectangle of the screen: around the middle of the wallpaper.
+pick d
+drag 610 440 670 460
+captured 4
 save_as "$scratch/rectangle.bmp"
 saved_size "$scratch/rectangle.bmp" 60x20
 pixel_is "$scratch/rectangle.bmp" 20 10 FF0000
 pixel_is "$scratch/rectangle.bmp" 40 10 0000FF
 
+# Another program's window: it is behind the frame, and no part of the desktop.
+known=12AB34
+convert -size 120x90 "xc:#$known" "$scratch/known.png"
+display -geometry +1000+720 "$scratch/known.png" >/dev/null 2>&1 &
+pids="$pids $!"
+until_true "the other program's window" has_window 'known.png'
+sleep 0.4
+eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name 'known.png' | head -1)" | grep '^[XY]=')"
+xdotool windowactivate --sync "$(frame)"
+quick b 5 "$scratch/background.bmp"
+pixel_is "$scratch/background.bmp" $((X + 60)) $((Y + 45)) $known
+pixel_is "$scratch/background.bmp" 200 12 000000
+quick d 6 "$scratch/bare.bmp"
+same "$scratch/bare.bmp" "$scratch/desktop.bmp" || fail "a window on the desktop"
+until_true "the other program's window back" has_window 'known.png'
+pick b
+drag $((X + 10)) $((Y + 10)) $((X + 60)) $((Y + 30))
+captured 7
+save_as "$scratch/known.bmp"
+[ "$(convert "$scratch/known.bmp" -unique-colors -format '%k %[hex:p{0,0}]' info:)" = "1 $known" ] || fail "the window's part"
+
 # Esc leaves the picker: no document, and the frame is back.
-keys alt+t s
-until_true "the dialog" has_window '^Capture Screen$'
-keys alt+u
-until_true "the picker" has_window '^Capture Rectangle$'
-sleep 0.3
+pick d
 keys Escape
 until_true "the frame back" windows '^Velara Studio'
-[ ! -e "$folder/Temp/b000500.dat" ] || fail "Esc has captured"
+[ ! -e "$folder/Temp/b000800.dat" ] || fail "Esc has captured"
 
 # The scanner gives what another program gets from it.
 xdotool windowactivate --sync "$(frame)"
@@ -93,7 +122,7 @@ until_true "the scanner's window" has_window '^Acquire$'
 scanned() {
     has_window '^Acquire$' && xdotool key Return
     sleep 0.4
-    [ -s "$folder/Temp/b000500.dat" ]
+    [ -s "$folder/Temp/b000800.dat" ]
 }
 until_true "a scan" scanned
 sleep 0.3
@@ -102,3 +131,16 @@ scanimage -d test:0 --mode Color --resolution 50 -l 0 -t 0 -x 200 -y 200 --forma
 same "$scratch/scan.bmp" "$scratch/wanted.pnm" || fail "another picture than the scanner gives"
 [ ! -e "$folder/temp.bmp" ] || fail "temp.bmp is left"
 quit
+
+# Where windows are drawn twice as large it is still the screen's own pixels that count.
+export QT_SCALE_FACTOR=2
+start
+holds() { [ "$(stat -c %s "$folder/Temp/b000$1.dat")" = $((40 + ($2 + 4) * ($3 + 4) * 4)) ]; }
+keys alt+t q b
+captured 1
+holds 100 1280 900 || fail "another size than the screen's"
+pick b
+drag $((X + 10)) $((Y + 10)) $((X + 60)) $((Y + 30))
+captured 2
+holds 200 50 20 || fail "another size than the rectangle's"
+[ "$(od -An -tx1 -j $((40 + (2 * 54 + 2) * 4)) -N 3 "$folder/Temp/b000200.dat" | tr -d ' ')" = 34ab12 ] || fail "the part at scale 2"

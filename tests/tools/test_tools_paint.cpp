@@ -315,10 +315,11 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
     clip.at(0, 0).c[3] = 255;
     frame.toolStores_.paste = clip;
     frame.toolStores_.pastePending = true;
+    frame.setup_.ClipOpacity = 40;
     choose("");
     tools->move(Tools::NoButton, 30, 30);
     tools->move(Tools::NoButton, 20, 20);
-    const auto wanted = [&](int x, int y) { twin.BitsPaintPreMasked(x - 5, y - 4, clip, 100, false); };
+    const auto wanted = [&](int x, int y) { twin.BitsPaintPreMasked(x - 5, y - 4, clip, 40, false); };
     wanted(20, 20);
     EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
     EXPECT_TRUE(sameBits(before, frame.filter_.bits()));

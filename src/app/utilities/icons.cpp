@@ -15,12 +15,12 @@ fIcon* makeExtractor(fMain& frame)
     auto* maker = new fIconMaker(dialog);
     fIconSeries& series = dialog->series();
     QObject::connect(&series, &fIconSeries::captureAsked, maker, [&frame, &series, maker](fIconSeries::Source source) {
-        frame.capture().takeScreens(source == fIconSeries::Desktop, [&frame, &series,
-                                                                     maker](const ScreenPicture& screens) {
-            if (!screens.bits.isNull()) return maker->ShowPicture(screens, series.count());
-            frame.capture().bringBack();
-            frame.platform().message("Velara Studio", QObject::tr("The screen gave no picture."), Icon::Exclamation);
-        });
+        frame.capture().takeScreens(
+            source == fIconSeries::Desktop, [&frame, &series, maker](const ScreenPicture& screens) {
+                if (!screens.bits.isNull()) return maker->ShowPicture(screens, series.count());
+                frame.capture().bringBack();
+                frame.platform().tell(QObject::tr("The screen gave no picture."), Icon::Exclamation);
+            });
     });
     QObject::connect(maker, &fIconMaker::taken, &series, &fIconSeries::add);
     QObject::connect(maker, &fIconMaker::left, &series, [&frame, &series] {

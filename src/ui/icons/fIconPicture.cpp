@@ -170,9 +170,7 @@ void fIconPicture::save()
     const std::optional<QString> path = platform.saveFileName(dialog);
     if (!path) return;
     const QString name = QFileInfo(*path).fileName();
-    if (!writeIcon(icon, *path))
-        return platform.message(QStringLiteral("Velara Studio"), tr("%1 can't be written.").arg(name),
-                                Icon::Exclamation);
+    if (!writeIcon(icon, *path)) return platform.tell(tr("%1 can't be written.").arg(name), Icon::Exclamation);
     if (alive) state_->setText(tr("Saved: %1").arg(name));
 }
 

@@ -20,7 +20,6 @@ namespace velara {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Velara Studio");
 constexpr QSize kThumbnail{32, 32};
 constexpr int kMostNames = 5; // of the files that a message tells
 
@@ -67,7 +66,7 @@ QLayout* fIconSeries::makeList()
     lv_->setHeaderLabels({tr("Icon"), tr("Size")});
     lv_->setRootIsDecorated(false);
     lv_->setIconSize(kThumbnail);
-    lv_->setMinimumHeight(4 * kThumbnail.height());
+    lv_->setMinimumHeight(3 * kThumbnail.height());
     lv_->header()->setStretchLastSection(false);
     lv_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     lv_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -149,13 +148,11 @@ void fIconSeries::browse()
 void fIconSeries::save()
 {
     Platform& platform = frame_.platform();
-    if (lv_->topLevelItemCount() == 0)
-        return platform.message(kTitle, QStringLiteral("No Images to extract!"), Icon::Information);
+    if (lv_->topLevelItemCount() == 0) return platform.tell(QStringLiteral("No Images to extract!"));
     const QString folder = txtFolder_->text().trimmed();
     if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
         const QPointer<QLineEdit> box = txtFolder_;
-        platform.message(kTitle, QStringLiteral("Folder does not Exists! Please Enter a valid folder path"),
-                         Icon::Critical);
+        platform.tell(QStringLiteral("Folder does not Exists! Please Enter a valid folder path"), Icon::Critical);
         if (box) box->setFocus();
         return;
     }
@@ -174,7 +171,7 @@ void fIconSeries::save()
         told += u'\n' + tr("Not written: %1").arg(failed.mid(0, kMostNames).join(QStringLiteral(", ")));
         if (failed.size() > kMostNames) told += tr(" and %1 more").arg(failed.size() - kMostNames);
     }
-    platform.message(kTitle, told, failed.isEmpty() ? Icon::Information : Icon::Exclamation);
+    platform.tell(told, failed.isEmpty() ? Icon::Information : Icon::Exclamation);
 }
 
 } // namespace velara

@@ -51,6 +51,7 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
     capture->setToolTip(tr("The whole screen"));
     custom->setToolTip(tr("A rectangle of the screen"));
     column->addLayout(buttons);
+    cb_->setFocus();
 
     Timer2_.setObjectName("Timer2");
     Timer2_.setSingleShot(true);

@@ -204,7 +204,7 @@ TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)
     platform.screen().picture = {randomBits(400, 300, 8),
                                  {{QGuiApplication::primaryScreen()->geometry(), {0, 0, 400, 300}}}};
     const Bits& screen = platform.screen().picture.bits;
-    frame->run("@ICON");
+    frame->action("tbToolsB_9")->trigger();
     bool shownAtTheGrab = true;
     platform.screen().onGrab = [&] { shownAtTheGrab = frame->isVisible(); };
     control<QPushButton>("fIcon", "CmdGo")->click();
@@ -256,7 +256,7 @@ TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)
 
 TEST_F(UtilitiesTest, TheIconExtractorComesBackWhateverBecomesOfTheGrab)
 {
-    frame->run("@ICON");
+    frame->action("TOOLS_8")->trigger();
     control<QComboBox>("fIcon", "cboIcon")->setCurrentIndex(2);
     control<QPushButton>("fIcon", "CmdGo")->click(); // there is no picture of the screen
     EXPECT_FALSE(control<QPushButton>("fIcon", "CmdGo"));
