@@ -170,18 +170,6 @@ TEST(Palette, NearestKeepsTheEarlierOfTwoAndTheFirstWhenNothingIsNear)
     EXPECT_EQ(faultOf([] { NearestColor(1, 2, 3); }), Fault::OutOfRange);
 }
 
-TEST(Palette, ApplyingSpreadsTheErrorIntoTheObjectsOwnPicture)
-{
-    PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
-    cBitFilter filter = filterOf(row({{{100, 100, 100, 0}}, {{100, 100, 100, 0}}, {{100, 100, 100, 0}}}));
-    const Pixel black{{0, 0, 0, 0}}, white{{255, 255, 255, 0}};
-    const Bits first = filter.PaletteApply();
-    EXPECT_TRUE(sameBits(row({black, white, black}), first));
-    EXPECT_TRUE(sameBits(row({{{100, 100, 100, 0}}, {{143, 143, 143, 0}}, {{51, 51, 51, 0}}}), filter.bits()));
-    EXPECT_TRUE(sameBits(row({black, white, black}), filter.PaletteApply()));
-    EXPECT_EQ(filter.bits().at(1, 0).c[0], 186); // 143 and once more 700 \ 16
-}
-
 TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
 {
     cBitFilter filter = filterOf(randomBits(3, 101, 1));

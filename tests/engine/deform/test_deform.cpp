@@ -62,28 +62,5 @@ TEST(Deform, UnknownGlassTakesTheFirstPixel)
     EXPECT_TRUE(sameBits(before, f.GLASS("frosted", 0)));
 }
 
-TEST(Deform, NoiseRepeatsWithItsSeedOnly)
-{
-    cBitFilter f = filterOf(randomBits(30, 20, 13));
-    const Bits first = f.NOISE(50, false), second = f.NOISE(50, false);
-    EXPECT_FALSE(first == second);
-    f.setRandomSeed(cBitFilter::kRandomSeed);
-    EXPECT_TRUE(sameBits(first, f.NOISE(50, false)));
-    const Bits grey = filterOf(flatBits(20, 20, 128, 128, 128)).NOISE(40, true);
-    for (int x = 0; x < 20; ++x) EXPECT_EQ(grey.at(x, 7).c[0], grey.at(x, 7).c[2]) << "one number for all channels";
-}
-
-TEST(Deform, ForcedMarginsOfAGridLieOnThePicturesEdge)
-{
-    const Bits before = flatBits(10, 8, 0, 0, 0);
-    cBitFilter f = filterOf(before);
-    f.setBitsRegion(Region::rectangle(6, 5, 10, 8));
-    const Bits after = f.Grid(200, 200, true, 0xFFFFFF, 255);
-    EXPECT_EQ(after.at(7, 7).c[0], 255);
-    EXPECT_EQ(after.at(9, 6).c[0], 255);
-    EXPECT_EQ(after.at(8, 6).c[0], 0);
-    EXPECT_EQ(after.at(2, 7).c[0], 0) << "outside of the region";
-}
-
 } // namespace
 } // namespace velara

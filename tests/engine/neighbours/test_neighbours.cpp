@@ -3,7 +3,6 @@
 #include "pixels/RuntimeError.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
-#include <cmath>
 
 namespace velara {
 namespace {
@@ -60,41 +59,6 @@ TEST(Neighbours, TheCentreOfNineValues)
         const Bits out = run(r.operation, r.arguments, nineValues(), Region::rectangle(0, 0, 3, 3));
         EXPECT_EQ(out.at(1, 1), r.wanted) << r.operation;
     }
-}
-
-TEST(Neighbours, ReliefLeavesBlueAndChangesTheFourthByte)
-{
-    Bits bits = flatBits(5, 5, 10, 100, 201, 60);
-    bits.at(2, 2).c[1] = 90;
-    const Bits out = run("RELIEF", {}, bits, Region::rectangle(2, 1, 4, 3));
-    EXPECT_EQ(out.at(3, 1), (Pixel{{10, 100, 150, 80}})); // flat but for the dark pixel to the lower left: weight 0
-    EXPECT_EQ(out.at(2, 2), (Pixel{{10, 95, 150, 80}}));
-    EXPECT_EQ(out.at(1, 1), bits.at(1, 1));
-}
-
-TEST(Neighbours, DiffuseAsksTheRegionWhereAPixelComesFrom)
-{
-    Bits bits = flatBits(60, 60, 0, 0, 0);
-    for (int y = 0; y < 60; ++y)
-        for (int x = 0; x < 60; ++x) bits.at(x, y).c[1] = static_cast<std::uint8_t>(x < 30 ? 200 : 10);
-    // Two parts of one region: the gap between them lies in its box and can change.
-    const Region parts = Region::rectangle(0, 0, 20, 60).combined(Region::rectangle(25, 0, 29, 60), Combine::Or);
-    cBitFilter filter;
-    filter.setBits(bits);
-    filter.setBitsRegion(parts.combined(Region::rectangle(40, 0, 45, 60), Combine::Or));
-    const Bits first = filter.DIFFUSE(50, 0), second = filter.DIFFUSE(50, 0);
-    EXPECT_FALSE(sameBits(first, second)); // new numbers for each run
-    filter.setRandomSeed(cBitFilter::kRandomSeed);
-    EXPECT_TRUE(sameBits(first, filter.DIFFUSE(50, 0)));
-    int darkened = 0, lit = 0, outside = 0;
-    for (int y = 0; y < 60; ++y) {
-        for (int x = 20; x < 25; ++x) darkened += first.at(x, y).c[1] == 10;
-        for (int x = 30; x < 40; ++x) lit += first.at(x, y).c[1] == 200;
-        for (int x = 45; x < 60; ++x) outside += first.at(x, y).c[1] != 10;
-    }
-    EXPECT_GT(darkened, 0);
-    EXPECT_GT(lit, 0);
-    EXPECT_EQ(outside, 0);
 }
 
 TEST(Neighbours, UnreadableMasksAreNamed)
