@@ -1,12 +1,16 @@
 // A frame with a recording platform, a scratch program folder and pictures to open in it.
 #pragma once
 #include "app/frame/fMain.h"
+#include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include <QApplication>
 #include <QDir>
 #include <QImage>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <gtest/gtest.h>
 
 namespace velara {
@@ -45,6 +49,24 @@ struct FrameTest : ::testing::Test {
         frame->adopt(bits, path(name));
         QCoreApplication::processEvents();
         return frame->GetActiveImage();
+    }
+    void activate(fImage* image)
+    {
+        frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(image->parentWidget()));
+    }
+    void click(const char* tool) { frame->toolPane().button(tool)->click(); }
+    QWidget* display(fImage* image) { return image->findChild<QWidget*>("iDst"); }
+    void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
+    {
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, at, display(image)->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+        QApplication::sendEvent(display(image), &event);
+    }
+    void drag(fImage* image, QPoint from, QPoint to)
+    {
+        mouse(image, QEvent::MouseButtonPress, from, Qt::LeftButton);
+        mouse(image, QEvent::MouseMove, to, Qt::LeftButton);
+        mouse(image, QEvent::MouseButtonRelease, to, Qt::NoButton);
     }
     std::string last() const { return platform.log.empty() ? std::string() : platform.log.back(); }
 };

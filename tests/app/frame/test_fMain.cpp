@@ -241,54 +241,6 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
     }
 }
 
-TEST_F(FrameTest, ADocumentClosedDuringAFilterEndsIt)
-{
-    QPointer<fImage> image = open(randomBits(64, 64, 5));
-    platform.onYield = [&] {
-        if (!frame->documents().isEmpty() && platform.yields == 2) {
-            frame->Mmenu("CLOSE");
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-    };
-    frame->Mmenu("INVERT");
-    platform.onYield = nullptr;
-    EXPECT_TRUE(frame->documents().isEmpty());
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(image.isNull());
-    EXPECT_TRUE(QDir(path("Temp")).entryList(QDir::Files).isEmpty()); // no step was taken for the closed document
-}
-
-TEST_F(FrameTest, TheFrameClosedDuringAFilterEndsIt)
-{
-    fImage* image = open(randomBits(64, 64, 5));
-    const Bits before = image->Bits();
-    platform.onYield = [&] {
-        if (platform.yields == 2) frame->close();
-    };
-    frame->Mmenu("INVERT");
-    EXPECT_FALSE(frame->isVisible());
-    EXPECT_EQ(QFileInfo(path("Vlaera.dat")).size(), 3081);
-}
-
-TEST_F(FrameTest, AFilterStaysWithItsDocumentWhenTheUserGoesOnToAnother)
-{
-    fImage* first = open(randomBits(64, 64, 5), "a.bmp");
-    const Bits firstBefore = first->Bits();
-    fImage* second = open(randomBits(32, 32, 6), "b.bmp");
-    const Bits secondBefore = second->Bits();
-    frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(first->parentWidget()));
-    platform.onYield = [&] {
-        if (platform.yields == 2)
-            frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(second->parentWidget()));
-    };
-    frame->Mmenu("INVERT");
-    platform.onYield = nullptr;
-    EXPECT_FALSE(first->Bits() == firstBefore);
-    EXPECT_TRUE(sameBits(secondBefore, second->Bits()));
-    EXPECT_TRUE(sameBits(secondBefore, frame->filter().bits()));
-    EXPECT_EQ(second->document().undo.UndoStep(), 1);
-}
-
 TEST_F(FrameTest, CropSaysWhyItCannot)
 {
     fImage* image = open(randomBits(20, 20, 5));

@@ -1,31 +1,14 @@
 // Pictures in the frame, worked on with the mouse: which document a stroke belongs to, and what engine, undo and screen
 // make of it.
 #include "app/frame/fHover.h"
-#include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
 #include "ui/panes/fToolPanes.h"
-#include <QMdiArea>
-#include <QMouseEvent>
 #include <QSlider>
 #include <QTest>
 
 namespace velara {
 
 struct FramePicture : FrameTest {
-    QWidget* display(fImage* image) { return image->findChild<QWidget*>("iDst"); }
-    void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
-    {
-        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent event(type, at, display(image)->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-        QApplication::sendEvent(display(image), &event);
-    }
-    void drag(fImage* image, QPoint from, QPoint to)
-    {
-        mouse(image, QEvent::MouseButtonPress, from, Qt::LeftButton);
-        mouse(image, QEvent::MouseMove, to, Qt::LeftButton);
-        mouse(image, QEvent::MouseButtonRelease, to, Qt::NoButton);
-    }
-    void click(const char* tool) { frame->toolPane().button(tool)->click(); }
     std::uint32_t shown(fImage* image, int x, int y) { return display(image)->grab().toImage().pixel(x, y) & 0xFFFFFF; }
 };
 
@@ -37,7 +20,7 @@ TEST_F(FramePicture, AStrokeOnAnotherDocumentIsThatDocuments)
     click("Pencil");
     EXPECT_EQ(frame->GetActiveImage(), b);
     EXPECT_EQ(frame->filter().BitsWidth(), 40);
-    frame->area().setActiveSubWindow(frame->area().subWindowList(QMdiArea::CreationOrder)[0]);
+    activate(a);
     drag(a, {5, 5}, {20, 5});
     EXPECT_TRUE(frame->filter().bits() == a->Bits());
     EXPECT_FALSE(a->Bits() == first);

@@ -1,6 +1,5 @@
 // Text and effects in the frame: the box and the mouse tool, the layers dialog, and what the document and its undo
 // files make of them.
-#include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
 #include "ui/compose/fLayers.h"
 #include "ui/compose/fToolTextures.h"
@@ -12,19 +11,6 @@ namespace velara {
 
 struct FrameText : FrameTest {
     template <class T = QWidget> T* find(const char* name) { return frame->findChild<T*>(name); }
-    void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
-    {
-        auto* display = image->findChild<QWidget*>("iDst");
-        QMouseEvent event(type, at, display->mapToGlobal(QPointF(at)),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, Qt::NoModifier);
-        QApplication::sendEvent(display, &event);
-    }
-    void drag(fImage* image, QPoint from, QPoint to)
-    {
-        mouse(image, QEvent::MouseButtonPress, from, Qt::LeftButton);
-        mouse(image, QEvent::MouseMove, to, Qt::LeftButton);
-        mouse(image, QEvent::MouseButtonRelease, to, Qt::NoButton);
-    }
 };
 
 TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)

@@ -1,0 +1,302 @@
+// The road from a command to its document: every word that changes pixels, and everything that can happen while it
+// yields. Afterwards each document shows its own picture, has its own steps, and no file stays behind.
+#include "app/frame/fStatus.h"
+#include "app/frame/frameTest.h"
+#include "commands/sizeWords.h"
+#include "commands/vocabulary.h"
+#include "document/resizing.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTimer>
+#include <set>
+
+namespace velara {
+
+namespace {
+
+/// Words of the windows that change pixels.
+constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",    "IMAGEORIENTATION", "IMAGEROTATE",
+                                             "IMAGERESOLUTION", "IMAGETEXTURES", "IMAGECOLORDEPTH",  "CUT"};
+/// Words that are done in one go.
+const std::set<std::string_view> kWithoutYield{"CROP", "IMAGECOLORDEPTH", "REDO", "UNDO"};
+
+/// Words that leave this small picture as it is; the first is a half of the same picture once more.
+const std::set<std::string_view> kAsBefore{"50", "CURTAINWHITY", "FISHEYE"};
+
+bool changesPixels(const CommandWord& word)
+{
+    const auto is = [&](auto... kinds) { return ((word.kind == kinds) || ...); };
+    return is(WordKind::Step, WordKind::Preset, WordKind::Dialog, WordKind::Size) ||
+           std::ranges::find(kWindowWords, word.word) != std::end(kWindowWords);
+}
+
+bool isSizing(std::string_view word)
+{
+    const SizeWord* size = findSizeWord(word);
+    return size && size->kind != SizeWord::Rotate;
+}
+
+/// A picture, the one a step back from it, and how far the series goes.
+struct State {
+    Bits picture, before;
+    int step = 1, top = 1;
+};
+
+struct Road : FrameTest {
+    const Bits first = randomBits(48, 36, 1), second = randomBits(20, 15, 2);
+    QPointer<fImage> own, other;
+    Bits start; // own's picture as the word comes
+
+    /// Two documents. The active one has a run of sizing words behind it, and a part of it is selected.
+    void begin()
+    {
+        if (!frame) SetUp();
+        setup.AskToSave = false;
+        frame->filter().clock = [this] { return platform.now += 20; }; // a report falls due in every row
+        own = open(first, "a.bmp");
+        other = open(second, "b.bmp");
+        activate(own);
+        frame->Mmenu("50");
+        start = own->Bits();
+        own->document().Region.CreateRect(3, 2, 17, 14, Combine::Or, true);
+        own->document().handTo(frame->filter());
+        frame->filter().setRandomSeed(1);
+        click("Pencil");
+    }
+    void end()
+    {
+        platform.onYield = nullptr;
+        if (frame)
+            for (fImage* image : frame->documents()) image->parentWidget()->close();
+        settle();
+        EXPECT_TRUE(files().isEmpty()) << files().join(' ').toStdString();
+    }
+    static void settle()
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QStringList files() { return QDir(path("Temp")).entryList(QDir::Files); }
+    static State stateOf(fImage* image)
+    {
+        const Document& document = image->document();
+        return {document.Bits(), document.undo.previous().value_or(Bits()), document.undo.UndoStep(),
+                document.undo.UndoTop()};
+    }
+
+    /// Runs the word; in the dialog that it opens everything is moved, then OK is clicked. One that stays open is left.
+    void run(std::string_view word)
+    {
+        const QWidget* below = QApplication::activeModalWidget();
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [&] {
+            const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+            if (!dialog || dialog == below) return;
+            user.stop();
+            moveEverything(*dialog);
+            for (const char* name : {"cmdOK", "CmdOK"})
+                if (auto* ok = dialog ? dialog->findChild<QAbstractButton*>(name) : nullptr) ok->click();
+            if (dialog) dialog->close();
+        });
+        user.start(0);
+        frame->Mmenu(QString::fromUtf8(word.data(), qsizetype(word.size())));
+    }
+    static void moveEverything(QWidget& dialog)
+    {
+        for (auto* slider : dialog.findChildren<QSlider*>())
+            slider->setValue((slider->minimum() + 3 * slider->maximum()) / 4);
+        for (auto* box : dialog.findChildren<QCheckBox*>()) box->toggle();
+        for (auto* list : dialog.findChildren<QComboBox*>()) list->setCurrentIndex(1);
+        if (auto* width = dialog.findChild<QLineEdit*>("txtW")) width->setText("31");
+        if (auto* smallest = dialog.findChild<QRadioButton*>("o340")) smallest->click();
+    }
+};
+
+/// What can happen, and what it leaves.
+struct Meanwhile {
+    enum Own { Result, Again, Undone, Drawn, Closed };
+    const char* what;
+    void (*happens)(Road&, std::string_view word);
+    Own own = Result;
+    enum Other { Same, DrawnOn, Gone } other = Same;
+    int documents = 2;
+
+    /// It may come before the word has begun, without another result.
+    bool mayComeFirst() const { return own == Result || own == Closed; }
+};
+constexpr int kOfFile = 12; // pixels that the file is wide
+
+// clang-format off
+const Meanwhile kMeanwhile[] = {
+    {"the other is activated", [](Road& r, auto) { r.activate(r.other); }},
+    {"the other is drawn on",  [](Road& r, auto) { r.activate(r.other); r.drag(r.other, {2, 3}, {12, 9}); }, Meanwhile::Result, Meanwhile::DrawnOn},
+    {"it is drawn on",         [](Road& r, auto) { r.drag(r.own, {4, 3}, {12, 9}); }, Meanwhile::Drawn},
+    {"it is undone",           [](Road& r, auto) { r.frame->Mmenu("UNDO"); }, Meanwhile::Undone},
+    {"it is run again",        [](Road& r, auto word) { r.run(word); }, Meanwhile::Again},
+    {"a file is opened",       [](Road& r, auto) { r.frame->openPicture(r.path("c.bmp")); }, Meanwhile::Result, Meanwhile::Same, 3},
+    {"it is closed",           [](Road& r, auto) { r.own->parentWidget()->close(); }, Meanwhile::Closed, Meanwhile::Same, 1},
+    {"the other is closed",    [](Road& r, auto) { r.other->parentWidget()->close(); }, Meanwhile::Result, Meanwhile::Gone, 1},
+    {"the frame is closed",    [](Road& r, auto) { r.frame->close(); }, Meanwhile::Closed, Meanwhile::Gone, 0},
+};
+// clang-format on
+
+void expectState(const State& wanted, const State& got)
+{
+    EXPECT_TRUE(sameBits(wanted.picture, got.picture));
+    EXPECT_TRUE(sameBits(wanted.before, got.before)) << "a step back";
+    EXPECT_EQ(std::pair(wanted.step, wanted.top), std::pair(got.step, got.top));
+}
+
+/// The engine and the status bar show the active document; the files are those of the steps of all.
+void expectOneFrame(Road& r)
+{
+    int steps = 0;
+    for (fImage* image : r.frame->documents()) {
+        const Document& document = image->document();
+        EXPECT_TRUE(document.undo.stands());
+        steps += document.undo.UndoTop();
+        EXPECT_EQ(r.frame->engineHolds(document), image == r.frame->GetActiveImage());
+        if (image != r.frame->GetActiveImage()) continue;
+        EXPECT_TRUE(sameBits(document.Bits(), r.frame->filter().bits())) << "engine";
+        EXPECT_EQ(document.Region.working(), r.frame->filter().BitsRegion());
+        EXPECT_EQ(r.frame->status().panel(Panel::Size), image->SizeText());
+        EXPECT_EQ(r.frame->status().panel(Panel::Name), image->Caption());
+        EXPECT_EQ(r.frame->action("tb_0_7")->isEnabled(), document.undo.canUndo());
+    }
+    EXPECT_EQ(r.files().filter(".dat").size(), steps) << r.files().join(' ').toStdString();
+    EXPECT_EQ(r.files().filter(".lock").size(), r.frame->documents().size());
+}
+
+/// The word with nothing in between, and how often it yields.
+struct Undisturbed {
+    State state;
+    int yields = 0;
+};
+
+Undisturbed undisturbed(Road& r, std::string_view word)
+{
+    r.begin();
+    const int before = r.platform.yields;
+    r.run(word);
+    const Undisturbed result{Road::stateOf(r.own), r.platform.yields - before};
+    expectOneFrame(r);
+    expectState({r.second, {}}, Road::stateOf(r.other));
+    r.end();
+    return result;
+}
+
+/// The document with a line on it, one step further.
+State drawnOver(const Bits& before, fImage* image)
+{
+    const State state = Road::stateOf(image);
+    EXPECT_TRUE(sameBits(before, state.before));
+    EXPECT_FALSE(before == state.picture);
+    return state;
+}
+
+/// The word, and what happens in one of its yields.
+void disturbed(Road& r, std::string_view word, const Undisturbed& usual, const Meanwhile& meanwhile, int yield)
+{
+    SCOPED_TRACE(testing::Message() << word << ", " << meanwhile.what << " in yield " << yield);
+    r.begin();
+    State own = usual.state, other{r.second, {}};
+    r.platform.onYield = [&] {
+        if (--yield != 0) return;
+        meanwhile.happens(r, word);
+        if (meanwhile.own == Meanwhile::Undone) own = {r.first, {}, 1, 2};
+        if (meanwhile.own == Meanwhile::Drawn) own = drawnOver(r.start, r.own);
+        if (meanwhile.other == Meanwhile::DrawnOn) other = drawnOver(r.second, r.other);
+        Road::settle(); // what is closed would go now
+    };
+    r.run(word);
+    Road::settle();
+    EXPECT_LE(yield, 0) << "it never came to it";
+    EXPECT_EQ(r.frame->documents().size(), meanwhile.documents);
+    EXPECT_EQ(bool(r.own), meanwhile.own != Meanwhile::Closed);
+    EXPECT_EQ(bool(r.other), meanwhile.other != Meanwhile::Gone);
+    if (r.own) expectState(own, Road::stateOf(r.own));
+    if (r.other) expectState(other, Road::stateOf(r.other));
+    EXPECT_EQ(meanwhile.documents == 3, r.frame->filter().BitsWidth() == kOfFile);
+    expectOneFrame(r);
+    r.end();
+    if (r.frame->isVisible()) return;
+    EXPECT_EQ(QFileInfo(r.path("Vlaera.dat")).size(), 3081);
+    r.frame.reset();
+}
+
+} // namespace
+
+TEST_F(Road, WhateverHappensWhileAWordYieldsEachDocumentKeepsItsOwn)
+{
+    file("c.bmp", kOfFile);
+    int words = 0;
+    std::set<std::string_view> withoutYield, asBefore;
+    for (const CommandWord& command : vocabulary()) {
+        if (!changesPixels(command)) continue;
+        ++words;
+        const Undisturbed usual = undisturbed(*this, command.word);
+        if (usual.yields == 0) {
+            withoutYield.insert(command.word);
+            continue;
+        }
+        SCOPED_TRACE(command.word);
+        const bool sizing = isSizing(command.word); // one after another: they take the same step
+        expectState({usual.state.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.state);
+        if (usual.state.picture == start) asBefore.insert(command.word);
+        const bool dialog = command.kind == WordKind::Dialog; // yields only at work; the others as the menu closes too
+        const bool listed = dialog || command.kind == WordKind::Preset;
+        for (const Meanwhile& meanwhile : kMeanwhile) {
+            if (meanwhile.documents == 0 && listed && words % 8 != 0) continue; // a new frame takes its time
+            if (dialog || usual.yields > 1) disturbed(*this, command.word, usual, meanwhile, usual.yields / 2 + 1);
+            if (!listed && meanwhile.mayComeFirst()) disturbed(*this, command.word, usual, meanwhile, 1);
+        }
+    }
+    EXPECT_GT(words, 150);
+    EXPECT_EQ(withoutYield, kWithoutYield);
+    EXPECT_EQ(asBefore, kAsBefore);
+}
+
+/// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
+TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
+{
+    ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)) && frame->openPicture(file("b.bmp", 50, 40)));
+    fImage *a = frame->documents()[0], *b = frame->documents()[1];
+    frame->filter().clock = [this] { return platform.now += 20; };
+    Document turned({}, 0);
+    turned.takePicture(a->Bits());
+    cBitFilter engine;
+    turned.handTo(engine);
+    rotateImage(turned, engine, -180, true);
+    const Bits untouched = b->Bits();
+    Bits line;
+    activate(a);
+    click("Pencil");
+    platform.onYield = [&, left = 20]() mutable {
+        if (--left != 0) return;
+        activate(b);
+        drag(b, {5, 5}, {30, 20});
+        line = b->Bits();
+    };
+    frame->Mmenu("A180");
+    platform.onYield = nullptr;
+    EXPECT_TRUE(sameBits(turned.Bits(), a->Bits()));
+    EXPECT_TRUE(sameBits(line, b->Bits()));
+    EXPECT_FALSE(line == untouched);
+    drag(b, {5, 30}, {30, 30});
+    EXPECT_FALSE(line == b->Bits());
+    EXPECT_EQ(a->document().undo.UndoStep(), 2);
+    EXPECT_EQ(b->document().undo.UndoStep(), 3);
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(line, b->Bits()));
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(untouched, b->Bits()));
+    activate(a);
+    frame->Mmenu("REDO"); // nothing
+    EXPECT_TRUE(sameBits(turned.Bits(), a->Bits()));
+}
+
+} // namespace velara
