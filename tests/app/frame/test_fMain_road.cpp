@@ -24,6 +24,9 @@ constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",   
 /// Words that are done in one go.
 const std::set<std::string_view> kWithoutYield{"CROP", "IMAGECOLORDEPTH", "REDO", "UNDO"};
 
+/// Words that leave this small picture as it is; the first is a half of the same picture once more.
+const std::set<std::string_view> kAsBefore{"50", "CURTAINWHITY", "FISHEYE"};
+
 bool changesPixels(const CommandWord& word)
 {
     const auto is = [&](auto... kinds) { return ((word.kind == kinds) || ...); };
@@ -217,9 +220,7 @@ void disturbed(Road& r, std::string_view word, const Undisturbed& usual, const M
     EXPECT_EQ(bool(r.other), meanwhile.other != Meanwhile::Gone);
     if (r.own) expectState(own, Road::stateOf(r.own));
     if (r.other) expectState(other, Road::stateOf(r.other));
-    if (meanwhile.documents == 3) {
-        EXPECT_EQ(r.frame->filter().BitsWidth(), kOfFile);
-    }
+    EXPECT_EQ(meanwhile.documents == 3, r.frame->filter().BitsWidth() == kOfFile);
     expectOneFrame(r);
     r.end();
     if (r.frame->isVisible()) return;
@@ -233,7 +234,7 @@ TEST_F(Road, WhateverHappensWhileAWordYieldsEachDocumentKeepsItsOwn)
 {
     file("c.bmp", kOfFile);
     int words = 0;
-    std::set<std::string_view> withoutYield;
+    std::set<std::string_view> withoutYield, asBefore;
     for (const CommandWord& command : vocabulary()) {
         if (!changesPixels(command)) continue;
         ++words;
@@ -245,16 +246,18 @@ TEST_F(Road, WhateverHappensWhileAWordYieldsEachDocumentKeepsItsOwn)
         SCOPED_TRACE(command.word);
         const bool sizing = isSizing(command.word); // one after another: they take the same step
         expectState({usual.state.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.state);
-        EXPECT_FALSE(usual.state.picture == start) << "it does nothing";
+        if (usual.state.picture == start) asBefore.insert(command.word);
+        const bool dialog = command.kind == WordKind::Dialog; // yields only at work; the others as the menu closes too
+        const bool listed = dialog || command.kind == WordKind::Preset;
         for (const Meanwhile& meanwhile : kMeanwhile) {
-            disturbed(*this, command.word, usual, meanwhile, usual.yields / 2 + 1);
-            if (command.kind != WordKind::Dialog && meanwhile.mayComeFirst()) // as the menu closes
-                disturbed(*this, command.word, usual, meanwhile, 1);
+            if (meanwhile.documents == 0 && listed && words % 8 != 0) continue; // a new frame takes its time
+            if (dialog || usual.yields > 1) disturbed(*this, command.word, usual, meanwhile, usual.yields / 2 + 1);
+            if (!listed && meanwhile.mayComeFirst()) disturbed(*this, command.word, usual, meanwhile, 1);
         }
-        if (HasFailure()) return;
     }
     EXPECT_GT(words, 150);
     EXPECT_EQ(withoutYield, kWithoutYield);
+    EXPECT_EQ(asBefore, kAsBefore);
 }
 
 /// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
