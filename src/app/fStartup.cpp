@@ -79,6 +79,11 @@ void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
                      known && setup.FrameHeight == kMostTwips ? frame.height() : wanted.height());
     frame.resize(size.boundedTo(screen.size()));
     if (!known) frame.move(screen.center() - frame.rect().center());
+    // Where it has grown over the edge it comes in; on another screen it stays as it was.
+    const QRect at = frame.geometry();
+    const QPoint inside(std::max(screen.x(), std::min(at.x(), screen.x() + screen.width() - at.width())),
+                        std::max(screen.y(), std::min(at.y(), screen.y() + screen.height() - at.height())));
+    if (known && screen.contains(at.center()) && inside != at.topLeft()) frame.setGeometry({inside, at.size()});
     if (setup.FrameMaximized) frame.setWindowState(frame.windowState() | Qt::WindowMaximized);
 }
 

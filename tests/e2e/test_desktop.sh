@@ -25,6 +25,7 @@ patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels 
 patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
 patch_config 266 '\0\0' # no questions
 start
+xdotool windowmove --sync "$(frame)" 0 0
 open_file "$scratch/in.bmp"
 
 # Wallpaper; the frame leaves the lower right of the screen free.

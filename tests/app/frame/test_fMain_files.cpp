@@ -415,6 +415,10 @@ TEST(StartTest, TheFrameComesBackWhereItStood)
     placeFrame(changed, setup, first.saveGeometry());
     EXPECT_TRUE(changed.isMaximized());
     EXPECT_EQ(changed.normalGeometry(), QRect(37, 52, 500, 360)) << "the size is the configuration's to say";
+    first.move(screen.right() - 420, 52);
+    QWidget large;
+    placeFrame(large, setup, first.saveGeometry());
+    EXPECT_EQ(large.normalGeometry().right(), screen.right()) << "where it has grown over the edge it comes in";
 }
 
 TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)
