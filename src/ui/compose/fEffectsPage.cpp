@@ -8,7 +8,7 @@
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/compose/sampleScene.h"
-#include "ui/widgets/fNumberBox.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
@@ -48,9 +48,8 @@ QPushButton* applyButton(const char* name, const QString& accessibleName)
 
 fEffectsPage::fEffectsPage(Frame& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), container_(new QWidget), tb_(new QWidget(container_)),
-      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)),
-      lblFolder_(new fPathLabel("lblFolder")), ListFile_(new QListWidget),
-      CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
+      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblFolder_(new fPathLabel("lblFolder")),
+      ListFile_(new QListWidget), CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
       CmdFileApply_(applyButton("CmdFileApply", tr("Apply the file as a texture"))),
       folder_(frame.platform().programFolder() + QStringLiteral("/Textures"))
 {

@@ -3,7 +3,7 @@
 #include "seams/Setup.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fNumberBox.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>

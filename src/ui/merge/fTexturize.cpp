@@ -3,8 +3,8 @@
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
-#include "ui/widgets/fNumberBox.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
 #include <QCollator>
 #include <QComboBox>

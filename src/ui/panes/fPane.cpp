@@ -1,7 +1,7 @@
 #include "ui/panes/fPane.h"
 #include "seams/Frame.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fNumberBox.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>

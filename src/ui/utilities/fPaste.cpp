@@ -3,8 +3,8 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
-#include "ui/widgets/fNumberBox.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>

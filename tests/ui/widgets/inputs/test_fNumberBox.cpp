@@ -1,5 +1,5 @@
 // The number beside a slider, typed into as a person does.
-#include "ui/widgets/fNumberBox.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QAction>
 #include <QSlider>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "ui/widgets/fNumberBox.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSlider>
