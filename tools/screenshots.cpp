@@ -11,15 +11,18 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <cstdio>
+#include <functional>
 
 using namespace velara;
 
@@ -37,7 +40,7 @@ void settle(int milliseconds = 60)
 void save(const QPixmap& pixmap, const QString& name)
 {
     const QString path = folder + "/" + name + suffix + ".png";
-    if (!pixmap.save(path)) std::fprintf(stderr, "can't write %s\n", qPrintable(path));
+    if (!pixmap.save(path, "PNG", 0)) std::fprintf(stderr, "can't write %s\n", qPrintable(path));
 }
 
 QPalette darkPalette()
@@ -55,20 +58,28 @@ void shootMenu(QWidget& frame, QMenu& menu)
     QPixmap all = frame.grab();
     QPainter painter(&all);
     QPoint at = frame.mapFromGlobal(menu.pos());
-    painter.drawPixmap(at, menu.grab());
+    QRegion painted;
+    const auto show = [&](QMenu& shown) {
+        painter.drawPixmap(at, shown.grab());
+        painted += QRect(at, shown.size());
+    };
+    show(menu);
     at.rx() += menu.width();
     for (QAction* item : menu.actions())
         if (QMenu* sub = item->menu()) {
             sub->popup(QPoint(0, 0));
             settle(20);
-            painter.drawPixmap(at, sub->grab());
+            show(*sub);
             at.rx() += sub->width() + 4;
             if (at.x() + 120 > frame.width())
                 at = QPoint(frame.mapFromGlobal(menu.pos()).x() + menu.width(), at.y() + 200);
             sub->close();
         }
     painter.end();
-    save(all, "menu_" + menu.objectName());
+    constexpr int kLeast = 400, kRoom = 40; // of the frame, around its menus
+    const QRect menus = QRect(QPoint(), painted.boundingRect().bottomRight()).adjusted(0, 0, kRoom, kRoom);
+    const QRect part = menus.united(QRect(0, 0, kLeast, 0)) & frame.rect();
+    save(all.copy(QRect(part.topLeft(), part.size() * all.devicePixelRatio())), "menu_" + menu.objectName());
 }
 
 /// The dialogs by the words that open them; large: at two times the size as well.
@@ -80,22 +91,54 @@ struct DialogRow {
 constexpr DialogRow kDialogs[] = {
     {"NEW", false}, {"IMAGESIZE", false}, {"CANVASSIZE", true}, {"IMAGEORIENTATION", false}, {"IMAGEROTATE", false},
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
-    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"@ICON", false},
+    {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"IMAGETEXTURES", false},
+    {"IMAGECOLORDEPTH", false}, {"IMAGESAVEOPTIONS", true}, {"@ICON", false},
 };
 // clang-format on
 
-void shootDialog(fMain& frame, const char* word)
+/// What opens a dialog, and the picture of that.
+void shootDialog(const QString& name, const std::function<void()>& open)
 {
     bool shot = false;
-    QTimer::singleShot(400, [word, &shot] {
+    QTimer::singleShot(1500, [name, &shot] { // textures are read one after the other
         if (QWidget* dialog = QApplication::activeModalWidget()) {
-            save(dialog->grab(), QString("dialog_") + QString(word).remove('@'));
+            save(dialog->grab(), "dialog_" + QString(name).remove('@'));
             dialog->close();
         }
         shot = true;
     });
-    frame.run(word);
+    open();
     while (!shot) settle(); // some windows are waited for in there, others are not
+}
+
+/// Text layers, whose window leaves the frame free.
+void shootLayers(fMain& frame)
+{
+    frame.run("TEXTTOOLS");
+    settle(500);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != "fLayers" || !window->isVisible()) continue;
+        save(window->grab(), "dialog_TEXTTOOLS");
+        window->close();
+    }
+}
+
+/// The floating boxes; the one of textures with each of its pages.
+void shootBoxes(fMain& frame)
+{
+    for (const char* word : {"@COLORBOX", "@TEXTURESBOX", "@CLIPBOARDBOX"}) frame.run(word);
+    settle(300);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const QString name = window->objectName();
+        if (!window->isVisible() || !QStringList{"fPalette", "fToolTextures", "fPaste"}.contains(name)) continue;
+        auto* pages = window->findChild<QTabWidget*>();
+        for (int page = 0; page < (pages ? pages->count() : 1); ++page) {
+            if (pages) pages->setCurrentIndex(page);
+            settle(300);
+            if (auto* label = window->findChild<QLabel*>("lblFolder")) label->setText("Texture files of Textures");
+            save(window->grab(), "box_" + name + (page ? "_" + QString::number(page) : QString()));
+        }
+    }
 }
 
 /// The side pane with each tool, and the floating copies of the panes one below the other.
@@ -119,9 +162,15 @@ void shootPanes(fMain& frame)
     QToolButton* button = frame.toolPane().button("Brush");
     QEvent enter(QEvent::Enter);
     QCoreApplication::sendEvent(button, &enter);
-    settle(900); // both timers of the hover
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window != &frame && window->isVisible()) popup = window;
+    const auto find = [&] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->isVisible() && window->findChild<QLabel*>("lblTool", Qt::FindDirectChildrenOnly))
+                popup = window;
+    };
+    for (int i = 0; i < 40 && !popup; ++i) { // the pointer has to rest
+        settle(100);
+        find();
+    }
     if (popup) save(popup->grab(), "tool_popup");
 }
 
@@ -139,8 +188,13 @@ int main(int argc, char** argv)
     QDir().mkpath(folder);
     const bool dark = QString(argv[2]) == "dark";
     suffix = QString(dark ? "_dark" : "") + (qApp->devicePixelRatio() > 1 ? "_2x" : "");
-    application.setStyle(new fMenuStyle);
-    if (dark) application.setPalette(darkPalette());
+    auto* style = new fMenuStyle;
+    application.setStyle(style);
+    if (dark) {
+        QPalette palette = darkPalette();
+        style->polish(palette); // as that of a desktop is
+        application.setPalette(palette);
+    }
 
     RecordingPlatform platform;
     platform.onYield = [] { QCoreApplication::processEvents(); };
@@ -195,6 +249,7 @@ int main(int argc, char** argv)
     question.hide();
 
     fSplash about(platform, frame.get());
+    about.showFacts();
     about.show();
     settle();
     save(about.grab(), "about");
@@ -202,7 +257,12 @@ int main(int argc, char** argv)
 
     frame->area().setActiveSubWindow(windows[0]); // the one in colours
     for (const DialogRow& row : kDialogs)
-        if (!few || row.large) shootDialog(*frame, row.word);
+        if (!few || row.large) shootDialog(row.word, [&] { frame->run(row.word); });
+    if (!few) {
+        shootDialog("color", [&] { frame->pickColour(0xE9AE3D, "First color", frame.get()); });
+        shootLayers(*frame);
+        shootBoxes(*frame);
+    }
     if (!few) shootPanes(*frame);
     setup.AskToSave = false;
     frame->close();

@@ -11,12 +11,13 @@ enum class PaneKind { Slider, Combo, List, Check, Well };
 /// A control with its range or entries, and the setting behind it.
 struct PaneRow {
     PaneKind kind;
-    const char* name;    // of the control; its value's label is "lbl" + name
+    const char* name;    // of the control; the number beside a slider is "lbl" + name
     const char* caption; // "&" marks the key; of lists and wells only the accessible name
     int low = 0, high = 0;
     const char* entries = ""; // of lists, split by "|"
     const char* numbers = ""; // a digit for each entry: the value it stands for; empty: its place
     const char* hint = "";
+    const char* unit = ""; // of a slider, behind its number
     int (*get)(const Setup&, const ToolStores&) = nullptr;
     void (*set)(Setup&, ToolStores&, int) = nullptr;
     bool (*applies)(const Setup&) = nullptr; // else the control is disabled; null: always
@@ -47,9 +48,10 @@ template <auto Field> constexpr PaneRow bound(PaneRow row)
     };
     return row;
 }
-template <auto Field> constexpr PaneRow slider(const char* name, const char* caption, int low, int high)
+template <auto Field>
+constexpr PaneRow slider(const char* name, const char* caption, int low, int high, const char* unit = "")
 {
-    return bound<Field>({PaneKind::Slider, name, caption, low, high});
+    return bound<Field>({PaneKind::Slider, name, caption, low, high, "", "", "", unit});
 }
 template <auto Field>
 constexpr PaneRow choice(PaneKind kind, const char* name, const char* caption, const char* entries,

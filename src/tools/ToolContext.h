@@ -60,6 +60,13 @@ struct ToolContext {
     }
 };
 
+/// What a tool changes when it is held at a pixel, in pixels from there; None for tools without a size.
+struct Footprint {
+    enum Kind { None, Disc, Box } kind = None;
+    Rect box; // of a disc: as far to the right and down as to the left and up, the pixel itself between
+    friend bool operator==(const Footprint&, const Footprint&) = default;
+};
+
 /// The tools have no state of their own: one object of each serves all documents. Each file of tools ends with a
 /// function for each class that gives its object; toolRows.cpp calls them.
 class Tool {
@@ -84,6 +91,7 @@ class Tool {
     virtual bool doubleClick(ToolContext&) const { return false; }
     /// Which keys do what while the gesture is on, for the status bar.
     virtual const char* hint(const ToolContext&) const { return "Esc or right button: drop"; }
+    virtual Footprint footprint(const ToolContext&) const { return {}; }
 
   protected:
     /// The Space key of the tools that place pixels: what stands is committed; what is held goes on from there.

@@ -45,6 +45,12 @@ void Tools::showPointer()
     context_.surface.setPointer(row ? row->pointer : Pointer::Default);
 }
 
+Footprint Tools::footprint() const
+{
+    const Tool* const holder = tool();
+    return holder && context_.document.PictureExists() ? holder->footprint(context_) : Footprint();
+}
+
 void Tools::press(int button, int x, int y)
 {
     ToolContext& c = context_;

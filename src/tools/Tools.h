@@ -54,6 +54,9 @@ class Tools {
     /// Shows the pointer of the chosen tool.
     void showPointer();
 
+    /// Of the tool that holds the drag, else of the chosen one.
+    Footprint footprint() const;
+
     bool ToolDown() const { return context_.down; }
     bool ToolMoving() const { return context_.moving; }
     const std::vector<std::int32_t>& ToolPoints() const { return context_.points; }

@@ -61,7 +61,7 @@ constexpr PaneRow kGradient[] = { // above its preview
 };
 constexpr PaneRow kText[] = { // above the list of effects
     slider<&Setup::ToolOpacity>      ("sbTextOpacity", "Opacity", 0, 100),
-    slider<&ToolStores::effectAmount>("sbAmount", "Amount %", 1, 100),
+    slider<&ToolStores::effectAmount>("sbAmount", "Amount %", 1, 100, "%"),
 };
 constexpr PaneRow kPencil[] = {slider<&Setup::ToolOpacity>("sbPencilOpacity", "Opacity", 0, 100)};
 

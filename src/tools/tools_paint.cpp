@@ -1,4 +1,5 @@
 // The tools that paint along the way of the pointer, and those that preview a shape of the present position.
+#include "pixels/numbers.h"
 #include "tools/ToolContext.h"
 #include <cstdlib>
 
@@ -39,6 +40,20 @@ class StrokeTool : public Tool {
 /// The middle of what is placed hangs on the pointer.
 Point middleOf(const Bits& bits) { return {(bits.width() + 1) / 2 + 1, (bits.height() + 1) / 2 + 1}; }
 
+Footprint placed(const Bits& bits)
+{
+    if (bits.isNull()) return {};
+    const auto [x, y] = middleOf(bits);
+    return {Footprint::Box, {-x, -y, bits.width() - x, bits.height() - y}};
+}
+
+/// A round dab, by its diameter as the painter reads it.
+Footprint disc(int size)
+{
+    const int r = roundEven(size * 0.5);
+    return {Footprint::Disc, {-r, -r, r + 1, r + 1}};
+}
+
 class BrushTool final : public StrokeTool {
     bool isReady(const ToolContext& c) const override
     {
@@ -59,6 +74,10 @@ class BrushTool final : public StrokeTool {
         else
             c.paint().BitsBrushDab(x, y, size, strength, s.ForeColor, s.BrushMode);
     }
+    Footprint footprint(const ToolContext& c) const override
+    {
+        return isReady(c) ? disc(c.setup().BrushSize) : Footprint();
+    }
 };
 
 class AirbrushTool final : public StrokeTool {
@@ -68,6 +87,7 @@ class AirbrushTool final : public StrokeTool {
         c.paint().BitsAirbrush(c.at.x, c.at.y, s.AirbrushSize, s.AirbrushPressure, s.AirbrushQuantity,
                                s.AirbrushDefinition, s.ForeColor);
     }
+    Footprint footprint(const ToolContext& c) const override { return disc(c.setup().AirbrushSize); }
 };
 
 class PencilTool final : public StrokeTool {
@@ -133,6 +153,7 @@ class StampTool final : public StrokeTool {
         else
             c.paint().BitsPaint(x, y, stamp, s.StampUseMaskColor ? s.StampMaskColor : -1, s.StampPressure, true);
     }
+    Footprint footprint(const ToolContext& c) const override { return placed(c.stores().stamp); }
 };
 
 class TextTool final : public StrokeTool {
@@ -144,6 +165,7 @@ class TextTool final : public StrokeTool {
         c.paint().BitsBWMask(c.at.x - c.hot.x, c.at.y - c.hot.y, c.stores().text, c.setup().ForeColor,
                              c.setup().ToolOpacity);
     }
+    Footprint footprint(const ToolContext& c) const override { return placed(c.stores().text); }
     void space(ToolContext& c) const override { fix(c); }
     const char* hint(const ToolContext&) const override { return kFixHint; }
 };

@@ -25,6 +25,8 @@ bool fHover::eventFilter(QObject*, QEvent* event)
     case QEvent::Enter:
         t_t_.start();
         break;
+    case QEvent::ToolTip:
+        return true;
     case QEvent::Leave:
     case QEvent::MouseButtonPress:
         t_t_.stop();
@@ -36,18 +38,23 @@ bool fHover::eventFilter(QObject*, QEvent* event)
     return false;
 }
 
+QRect fHover::onScreen(const QWidget* widget) const { return {widget->mapToGlobal(QPoint()), widget->size()}; }
+
 void fHover::show()
 {
     if (pane_ || !button_->isVisible() || QApplication::activeModalWidget() || QApplication::activePopupWidget())
         return;
-    pane_ = make_();
+    static QPointer<QWidget> last; // that of another button
+    if (last) last->close();
+    last = pane_ = make_();
     if (!pane_) return;
-    constexpr int kBeside = 6; // the button can still be clicked
+    constexpr int kApart = 4;
     pane_->adjustSize();
-    QRect at(QCursor::pos() + QPoint(kBeside, kBeside), pane_->size());
+    const QRect buttons = onScreen(button_->parentWidget());
+    QRect at(QPoint(buttons.right() + kApart, onScreen(button_).top()), pane_->size());
     if (const QScreen* screen = button_->screen()) {
         const QRect all = screen->availableGeometry();
-        at.moveRight(std::min(at.right(), all.right()));
+        if (at.right() > all.right()) at.moveRight(buttons.left() - kApart);
         at.moveBottom(std::min(at.bottom(), all.bottom()));
     }
     pane_->move(at.topLeft());
@@ -55,11 +62,15 @@ void fHover::show()
     look_.start();
 }
 
+/// Near is the button, the pane, and the way from one to the other.
 void fHover::closeIfLeft()
 {
     constexpr int kNear = 16;
     if (!pane_) return look_.stop();
-    const bool near = pane_->geometry().adjusted(-kNear, -kNear, kNear, kNear).contains(QCursor::pos());
+    const QRect button = onScreen(button_), pane = pane_->geometry();
+    const QRect way = button | QRect(pane.left(), button.top(), 1, button.height());
+    const bool near =
+        way.contains(QCursor::pos()) || pane.adjusted(-kNear, -kNear, kNear, kNear).contains(QCursor::pos());
     if (near || QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
         QApplication::activeModalWidget())
         return;

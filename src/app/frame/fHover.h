@@ -1,5 +1,5 @@
-// fHover: shows a floating pane beside a button on which the pointer rests, and takes it away when the pointer leaves
-// it.
+// fHover: shows a floating pane beside the buttons when the pointer rests on one of them, and takes it away when the
+// pointer leaves both. The pane says the button's name itself: a tool tip would lie on it.
 #pragma once
 #include <QPointer>
 #include <QTimer>
@@ -11,7 +11,8 @@ namespace velara {
 class fHover final : public QObject {
     Q_OBJECT
   public:
-    /// Owned by the button. make gives a new pane, a window that is deleted when it closes.
+    /// Owned by the button, which stands among others in its parent. make gives a new pane, a window that is deleted
+    /// when it closes.
     fHover(QWidget* button, std::function<QWidget*()> make);
 
   protected:
@@ -20,6 +21,7 @@ class fHover final : public QObject {
   private:
     void show();
     void closeIfLeft();
+    QRect onScreen(const QWidget* widget) const;
 
     QWidget* button_;
     std::function<QWidget*()> make_;

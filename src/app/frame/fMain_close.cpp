@@ -75,6 +75,7 @@ void fMain::options()
 void fMain::about()
 {
     fSplash splash(platform_, this);
+    splash.showFacts();
     splash.exec();
 }
 

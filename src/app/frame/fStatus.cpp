@@ -53,6 +53,10 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
     progress_->setRange(0, 100);
     progress_->setTextVisible(false);
     progress_->setFixedWidth(140);
+    QSizePolicy policy = progress_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the panels stay where they are
+    progress_->setSizePolicy(policy);
+    progress_->hide();
     addWidget(info, 1);
     addPermanentWidget(progress_);
 }
@@ -70,7 +74,9 @@ QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(pane
 
 void fStatus::setProgress(int percent)
 {
-    if (percent >= 0) progress_->setValue(percent);
+    if (percent < 0) return;
+    progress_->setValue(percent);
+    progress_->setVisible(percent > 0 && percent < progress_->maximum()); // at rest there is nothing to see
 }
 
 } // namespace velara

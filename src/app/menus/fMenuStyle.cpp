@@ -25,14 +25,6 @@ void frame3d(QPainter& painter, const QPalette& palette, int left, int top, int 
     painter.drawLine(right, bottom, left, bottom);
 }
 
-/// Half way between text and ground: not every palette's own colour for what is disabled can be read.
-QColor paleText(const QPalette& palette)
-{
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText), ground = palette.color(QPalette::Window);
-    return QColor((text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
-                  (text.blue() + ground.blue()) / 2);
-}
-
 struct ItemText {
     QString caption, shortcut;
 };
@@ -56,13 +48,13 @@ int fMenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 {
     if (metric == PM_SmallIconSize && widget && widget->inherits("QMenu")) return kPicture;
     if (metric == PM_MenuPanelWidth) return 1;
-    return QProxyStyle::pixelMetric(metric, option, widget);
+    return fControlStyle::pixelMetric(metric, option, widget);
 }
 
 void fMenuStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
-    if (element != PE_FrameMenu) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_FrameMenu) return fControlStyle::drawPrimitive(element, option, painter, widget);
     painter->save();
     painter->setPen(paleText(option->palette));
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
@@ -73,7 +65,7 @@ QSize fMenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QWidget* widget) const
 {
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (type != CT_MenuItem || !item) return QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type != CT_MenuItem || !item) return fControlStyle::sizeFromContents(type, option, size, widget);
     if (item->menuItemType == QStyleOptionMenuItem::Separator) return {kSmallestWidth, kSeparatorHeight};
     const ItemText text = split(item->text);
     const QFontMetrics metrics(item->font);
@@ -87,7 +79,7 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
                              const QWidget* widget) const
 {
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (element != CE_MenuItem || !item) return QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_MenuItem || !item) return fControlStyle::drawControl(element, option, painter, widget);
     const QPalette& palette = item->palette;
     const QRect box = item->rect;
     const bool enabled = item->state & State_Enabled;

@@ -1,14 +1,14 @@
 // fMenuStyle: the look of all menus: a small picture beside each text, items of 20 and separators of 5, a raised frame
-// round the picture of the selected item. And texts are shown as they are.
+// round the picture of the selected item. And texts are shown as they are. All else is that of the controls.
 #pragma once
-#include <QProxyStyle>
+#include "app/menus/fControlStyle.h"
 
 namespace velara {
 
-class fMenuStyle final : public QProxyStyle {
+class fMenuStyle final : public fControlStyle {
     Q_OBJECT
   public:
-    using QProxyStyle::polish;
+    using fControlStyle::polish;
     /// Labels, and the boxes of hints, would take a text with angle brackets for a page, and load the pictures that it
     /// names: the name of a file or a folder could be such a text.
     void polish(QWidget* widget) override;

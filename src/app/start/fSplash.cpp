@@ -1,5 +1,6 @@
 #include "app/start/fSplash.h"
 #include "app/start/defaultPictures.h"
+#include "app/start/fAboutFacts.h"
 #include "fileio/fileBytes.h"
 #include "seams/Platform.h"
 #include <QBuffer>
@@ -28,7 +29,21 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     connect(&Timer1, &QTimer::timeout, this, &fSplash::tick);
 }
 
-void fSplash::paintEvent(QPaintEvent*) { QPainter(this).drawImage(rect(), ripples_->picture()); }
+void fSplash::showFacts()
+{
+    auto* facts = new fAboutFacts(this);
+    connect(facts, &fAboutFacts::closed, this, &fSplash::close);
+    const QSize picture = ripples_->picture().size();
+    const int room = facts->heightForWidth(picture.width());
+    facts->setGeometry(0, picture.height(), picture.width(), room);
+    setFixedSize(picture + QSize(0, room));
+}
+
+void fSplash::paintEvent(QPaintEvent*)
+{
+    const QImage& picture = ripples_->picture();
+    QPainter(this).drawImage(picture.rect(), picture);
+}
 
 void fSplash::tick()
 {

@@ -14,6 +14,8 @@ class fSplash final : public QDialog {
   public:
     /// Writes the picture beside the program folder and shows it from there; from memory where it can't be written.
     explicit fSplash(Platform& platform, QWidget* parent = nullptr);
+    /// As About: version, licence and libraries below the picture.
+    void showFacts();
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -8,6 +8,7 @@
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/compose/sampleScene.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
@@ -47,9 +48,8 @@ QPushButton* applyButton(const char* name, const QString& accessibleName)
 
 fEffectsPage::fEffectsPage(Frame& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), container_(new QWidget), tb_(new QWidget(container_)),
-      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblSize_(new QLabel),
-      lblFolder_(new fPathLabel("lblFolder")), ListFile_(new QListWidget),
-      CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
+      V_(new QScrollBar(Qt::Vertical)), br_(new QSlider(Qt::Horizontal)), lblFolder_(new fPathLabel("lblFolder")),
+      ListFile_(new QListWidget), CmdApply_(applyButton("CmdApply", tr("Apply the effect"))),
       CmdFileApply_(applyButton("CmdFileApply", tr("Apply the file as a texture"))),
       folder_(frame.platform().programFolder() + QStringLiteral("/Textures"))
 {
@@ -106,10 +106,6 @@ QWidget* fEffectsPage::makeAmount()
     br_->setAccessibleName(tr("Amount"));
     br_->setRange(kLeastAmount, kMostAmount);
     br_->setPageStep(10);
-    lblSize_->setObjectName(QStringLiteral("lblSize"));
-    lblSize_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("100")));
-    lblSize_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(br_, &QSlider::valueChanged, lblSize_, qOverload<int>(&QLabel::setNum));
     br_->setValue(kUsualAmount);
     auto* caption = new QLabel(tr("A&mount"));
     caption->setBuddy(br_);
@@ -119,7 +115,7 @@ QWidget* fEffectsPage::makeAmount()
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(caption);
     row->addWidget(br_, 1);
-    row->addWidget(lblSize_);
+    row->addWidget(new fNumberBox(*br_, QStringLiteral("lblSize")));
     row->addWidget(CmdApply_);
     return box;
 }

@@ -54,7 +54,6 @@ class fEffectsPage final : public QWidget {
     QScrollBar* V_;
     QButtonGroup group_;
     QSlider* br_;
-    QLabel* lblSize_;
     fPathLabel* lblFolder_;
     QListWidget* ListFile_;
     QPushButton *CmdApply_, *CmdFileApply_;

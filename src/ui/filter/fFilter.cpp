@@ -19,8 +19,8 @@
 namespace velara {
 
 fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& document, QWidget* parent)
-    : QDialog(parent), frame_(frame), row_(row), document_(document),
-      preview_(document->Bits(), document->Region.working(), kPreviewBox)
+    : QDialog(parent), frame_(frame), row_(row), document_(document), picture_(document->Bits()),
+      preview_(picture_, document->Region.working(), kPreviewBox)
 {
     setObjectName(QStringLiteral("fFilter"));
     setWindowTitle(QString::fromLatin1(row.title));
@@ -39,7 +39,6 @@ fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& docum
     tmrSelect_.setInterval(400);
     connect(&tmrSelect_, &QTimer::timeout, iSrc_, &fPicture::flipMarker);
     if (has(row.extras, FilterExtra::PickCentre | FilterExtra::PickColour)) tmrSelect_.start();
-    showValues();
     runPreview();
 }
 
@@ -75,15 +74,8 @@ bool fFilter::eventFilter(QObject* watched, QEvent* event)
 
 void fFilter::changed()
 {
-    showValues();
     if (const auto delay = pacer_.change(frame_.platform().milliseconds()))
         previewTimer_.start(static_cast<int>(*delay));
-}
-
-void fFilter::showValues()
-{
-    for (std::size_t i = 0; i < sbFilter_.size(); ++i)
-        if (sbFilter_[i]) lblFilterV_[i]->setText(row_.sliders[i].text(sbFilter_[i]->value()));
 }
 
 /// Strengths of the glass; the choice stays where the style has it.
@@ -108,6 +100,7 @@ void fFilter::runPreview()
         }
     iDst_->setBits(result);
     state_->setText(state);
+    runDetail();
 }
 
 void fFilter::picked(QPoint pixel)
@@ -116,6 +109,7 @@ void fFilter::picked(QPoint pixel)
     iSrc_->setMarker(pixel);
     if (has(row_.extras, FilterExtra::PickCentre)) {
         centre_ = {double(pixel.x()) / bits.width(), double(pixel.y()) / bits.height()};
+        showDetail(pixel);
         changed();
     } else if (fColorButton* well = Col_[static_cast<std::size_t>(activeWell_)]) {
         const auto& c = bits.at(pixel.x(), pixel.y()).c;
@@ -145,6 +139,7 @@ void fFilter::accept()
     if (running_) return;
     const QPointer<fFilter> alive = this;
     cancelled_ = false;
+    if (detailRun_) detailRun_->stop();
     showRunning(true);
     const Outcome outcome =
         frame_.change(document_, endable(filterJob(row_, arguments()), [this, alive] { return !alive || cancelled_; }));

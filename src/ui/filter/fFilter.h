@@ -1,16 +1,19 @@
 // fFilter: the one dialog behind all filters that have settings. The row of the filter says what it shows; a small copy
 // of the picture shows what the filter does, and the buttons run it on the whole picture.
 #pragma once
+#include "commands/DetailRun.h"
 #include "commands/FilterPreview.h"
 #include "seams/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <array>
+#include <memory>
 
 class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QSlider;
 
@@ -19,6 +22,7 @@ namespace velara {
 class Frame;
 class fColorButton;
 class fPicture;
+class fPicturePage;
 
 class fFilter final : public QDialog {
     Q_OBJECT
@@ -36,9 +40,11 @@ class fFilter final : public QDialog {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override; // a press on lblOption is one on chkOption
+    void showEvent(QShowEvent* event) override;
 
   private:
     QWidget* makePreviews();
+    void addDetail(QGridLayout* grid);
     QWidget* makeControls();
     void addSliders(QBoxLayout* layout);
     void addColours(QBoxLayout* layout);
@@ -49,26 +55,31 @@ class fFilter final : public QDialog {
     QWidget* makeButtons();
 
     void changed();
-    void showValues();
     void fillModes();
     void runPreview();
+    void runDetail();
+    double previewScale() const; // preview pixels a pixel of the picture
+    void showDetail(QPoint previewPixel);
+    void frameDetail();
     void picked(QPoint pixel);
     void activateWell(int well);
     void showRunning(bool running);
 
     static constexpr QSize kPreviewBox{300, 260}; // that the small copies fit
+    static constexpr QSize kDetailBox{280, 262};  // of the 1:1 view with its bars
 
     Frame& frame_;
     const FilterRow& row_;
     DocumentHandle document_;
+    const Bits picture_; // the document may go before the dialog does
     FilterPreview preview_;
     RunPacer pacer_;
     QTimer previewTimer_, tmrSelect_;
 
     fPicture *iSrc_ = nullptr, *iDst_ = nullptr;
+    fPicturePage* detail_ = nullptr; // null where the small copies are the picture itself
     QWidget* controls_ = nullptr;
     std::array<QSlider*, 3> sbFilter_{};
-    std::array<QLabel*, 3> lblFilterV_{};
     std::array<fColorButton*, 2> Col_{};
     QCheckBox *chkOption_ = nullptr, *chkPreview_ = nullptr;
     std::array<QButtonGroup*, 3> channels_{};
@@ -81,6 +92,7 @@ class fFilter final : public QDialog {
     QPointF centre_{0.5, 0.5};
     int activeWell_ = 0;
     bool running_ = false, cancelled_ = false;
+    std::unique_ptr<DetailRun> detailRun_;
 };
 
 } // namespace velara

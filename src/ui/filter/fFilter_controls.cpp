@@ -3,7 +3,7 @@
 #include "seams/Setup.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -31,37 +31,7 @@ template <class Widget> Widget* named(Widget* widget, const QString& name, const
     return widget;
 }
 
-QLabel* heading(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setForegroundRole(QPalette::PlaceholderText);
-    return label;
-}
-
 } // namespace
-
-QWidget* fFilter::makePreviews()
-{
-    auto* box = new QWidget(this);
-    auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    const bool picks = has(row_.extras, FilterExtra::PickCentre | FilterExtra::PickColour);
-    const QString before = has(row_.extras, FilterExtra::PickCentre)   ? tr("Before: click to place the center")
-                           : has(row_.extras, FilterExtra::PickColour) ? tr("Before: click to pick a color")
-                                                                       : tr("Before");
-    grid->addWidget(heading(before, box), 0, 0);
-    grid->addWidget(heading(tr("After"), box), 0, 1);
-    iSrc_ = new fPicture(QStringLiteral("iSrc"), before, kPreviewBox + QSize(2, 2), box);
-    iDst_ = new fPicture(QStringLiteral("iDst"), tr("After"), kPreviewBox + QSize(2, 2), box);
-    grid->addWidget(iSrc_, 1, 0);
-    grid->addWidget(iDst_, 1, 1);
-    iSrc_->setBits(preview_.source());
-    iSrc_->setPickable(picks && !preview_.source().isNull());
-    if (has(row_.extras, FilterExtra::PickCentre))
-        iSrc_->setMarker(QPointF(centre_.x() * preview_.source().width(), centre_.y() * preview_.source().height()));
-    connect(iSrc_, &fPicture::pressed, this, &fFilter::picked);
-    return box;
-}
 
 QWidget* fFilter::makeControls()
 {
@@ -96,9 +66,7 @@ void fFilter::addSliders(QBoxLayout* layout)
         bar->setPageStep(std::max(1, (slider.maximum() - slider.minimum()) / 10));
         bar->setValue(slider.initial());
         label->setBuddy(bar);
-        auto* value = lblFilterV_[i] = named(new QLabel(frame), numbered("lblFilterV", i), caption);
-        value->setMinimumWidth(48);
-        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        auto* value = new fNumberBox(*bar, numbered("lblFilterV", i), {slider.step, slider.decimals});
         for (QWidget* widget : std::initializer_list<QWidget*>{label, bar, value}) line->addWidget(widget);
         line->setStretch(1, 1);
         layout->addWidget(frame);

@@ -4,6 +4,7 @@
 #include "seams/Setup.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
@@ -89,8 +90,7 @@ QWidget* fOverlay::makeControls()
     sbTransparency_->setValue(Merging().transparency);
     sbTransparency_->setMinimumWidth(150);
     transparency->setBuddy(sbTransparency_);
-    lblTransparencyV_ = named(new QLabel(box), "lblTransparencyV", tr("Transparency in percent"));
-    lblTransparencyV_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* percent = new fNumberBox(*sbTransparency_, QStringLiteral("lblTransparencyV"), {1, 0, "%"});
     chkTiled_ = check("chkTiled", tr("&Tiled"));
     chkMaskColor_ = check("chkMaskColor", tr("&Mask color"));
     lblMaskColor_ = new fColorButton(frame_, QStringLiteral("lblMaskColor"), tr("Mask color"), box);
@@ -116,7 +116,7 @@ QWidget* fOverlay::makeControls()
     grid->addWidget(cbOverlay_, 1, 0, 1, 3);
     grid->addWidget(transparency, 2, 0);
     grid->addWidget(sbTransparency_, 2, 1);
-    grid->addWidget(lblTransparencyV_, 2, 2);
+    grid->addWidget(percent, 2, 2);
     x_ = makeOffset(grid, 3, tr("Left offset"), "XOffset");
     y_ = makeOffset(grid, 4, tr("Top offset"), "YOffset");
     grid->addWidget(chkTiled_, 5, 0, 1, 3);
@@ -239,7 +239,6 @@ Merging fOverlay::merging() const
 
 void fOverlay::changed()
 {
-    lblTransparencyV_->setText(QString::number(sbTransparency_->value()) + u'%');
     lblMaskColor_->setEnabled(chkMaskColor_->isChecked());
     const bool ready = hasPicture(below_) && hasPicture(chosen());
     cmdOK_->setEnabled(ready && !working_);

@@ -71,7 +71,7 @@ class fOverlay final : public QDialog {
     Offset x_, y_;
     QCheckBox *chkTiled_ = nullptr, *chkMaskColor_ = nullptr, *chkCreateNew_ = nullptr;
     fColorButton* lblMaskColor_ = nullptr;
-    QLabel *lblTransparencyV_ = nullptr, *state_ = nullptr;
+    QLabel* state_ = nullptr;
     QPushButton* cmdOK_ = nullptr;
 };
 

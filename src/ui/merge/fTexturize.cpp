@@ -4,6 +4,7 @@
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
 #include <QCollator>
 #include <QComboBox>
@@ -129,9 +130,6 @@ QWidget* fTexturize::makeControls()
     sbWeight_->setPageStep(10);
     sbWeight_->setValue(texturing_.intensity);
     weight->setBuddy(sbWeight_);
-    lblWeightV_ = named(new QLabel(box), "lblWeightV", tr("Intensity in percent"));
-    lblWeightV_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    lblWeightV_->setMinimumWidth(lblWeightV_->fontMetrics().horizontalAdvance(QStringLiteral("100%")) + 4);
     auto* depth = named(new QLabel(tr("Depth "), box), "Label1", {});
     cbDepth_ = named(new QComboBox(box), "cbDepth", tr("Depth"));
     cbDepth_->addItems({tr("Emboss"), tr("Engrave")});
@@ -153,7 +151,7 @@ QWidget* fTexturize::makeControls()
     grid->addWidget(iTexture_, 0, 0, 4, 1, Qt::AlignTop);
     grid->addWidget(weight, 0, 1);
     grid->addWidget(sbWeight_, 0, 2);
-    grid->addWidget(lblWeightV_, 0, 3);
+    grid->addWidget(new fNumberBox(*sbWeight_, QStringLiteral("lblWeightV"), {1, 0, "%"}), 0, 3);
     grid->addWidget(depth, 1, 1);
     grid->addWidget(cbDepth_, 1, 2, 1, 2);
     grid->addWidget(chkUseImage_, 2, 1, 1, 3);
@@ -232,7 +230,6 @@ void fTexturize::changed()
 {
     const bool own = chkUseImage_->isChecked();
     texturing_ = {own ? Bits() : texture_, sbWeight_->value(), cbDepth_->currentIndex() == 1};
-    lblWeightV_->setText(QString::number(sbWeight_->value()) + u'%');
     for (QWidget* widget : std::initializer_list<QWidget*>{flTextures_, txtTexture_, iTexture_})
         widget->setEnabled(!own);
     cmdOK_->setEnabled(ready());

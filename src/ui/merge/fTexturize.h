@@ -50,7 +50,7 @@ class fTexturize final : public QDialog {
     QLineEdit* txtTexture_ = nullptr;
     fPicture *iTexture_ = nullptr, *iBack_ = nullptr;
     QSlider* sbWeight_ = nullptr;
-    QLabel *lblWeightV_ = nullptr, *state_ = nullptr;
+    QLabel* state_ = nullptr;
     QCheckBox* chkUseImage_ = nullptr;
     QComboBox* cbDepth_ = nullptr;
     QPushButton* cmdOK_ = nullptr;

@@ -39,14 +39,6 @@ FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> row
     column()->addWidget(caption);
     column()->addWidget(lstEffects_);
     column()->addWidget(button);
-    edited();
-}
-
-void FEffect::edited()
-{
-    // During the base's own making there is no label yet.
-    if (auto* label = findChild<QLabel*>(QStringLiteral("lblsbAmount")))
-        label->setText(QString::number(frame().toolStores().effectAmount) + u'%');
 }
 
 void FEffect::apply()

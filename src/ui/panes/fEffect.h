@@ -15,8 +15,6 @@ class FEffect final : public fPane {
     void apply();
 
   private:
-    void edited() override;
-
     QListWidget* lstEffects_;
     bool running_ = false;
 };

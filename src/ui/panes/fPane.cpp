@@ -1,6 +1,7 @@
 #include "ui/panes/fPane.h"
 #include "seams/Frame.h"
 #include "ui/widgets/fColorButton.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -98,26 +99,19 @@ void fPane::add(const PaneRow& row)
 void fPane::addSlider(const PaneRow& row)
 {
     auto* caption = new QLabel(QString::fromUtf8(row.caption), this);
-    auto* number = new QLabel(this);
-    number->setObjectName(QString("lbl") + row.name);
-    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* line = new QHBoxLayout;
-    line->addWidget(caption);
-    line->addWidget(number);
-    column_->addLayout(line);
     auto* slider = new QSlider(Qt::Horizontal, this);
     name(slider, row);
     slider->setRange(row.low, row.high);
     slider->setPageStep(std::max(1, (row.high - row.low) / 10));
     caption->setBuddy(slider);
+    auto* line = new QHBoxLayout;
+    line->addWidget(caption, 1);
+    line->addWidget(new fNumberBox(*slider, QString("lbl") + row.name, {1, 0, row.unit}));
+    column_->addLayout(line);
     column_->addWidget(slider);
-    connect(slider, &QSlider::valueChanged, this, [=, this](int now) {
-        number->setNum(now);
-        write(row, now);
-    });
+    connect(slider, &QSlider::valueChanged, this, [=, this](int now) { write(row, now); });
     shows_.push_back([=, this] {
         slider->setValue(value(row));
-        number->setNum(slider->value());
         if (slider->value() != value(row)) write(row, slider->value());
     });
 }

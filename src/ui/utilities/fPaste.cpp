@@ -4,6 +4,7 @@
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/fNumberBox.h"
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
@@ -114,10 +115,6 @@ QWidget* fPaste::makeOpacity()
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(0, 0, 0, 0);
     auto* caption = new QLabel(tr("Opaque &Intensity"));
-    auto* value = new QLabel;
-    value->setObjectName("lblBrSelectionMovePressure");
-    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    value->setFixedWidth(value->fontMetrics().horizontalAdvance("100"));
     auto* slider = BrSelectionMovePressure_ = new QSlider(Qt::Horizontal);
     slider->setObjectName("BrSelectionMovePressure");
     slider->setAccessibleName(tr("Opaque Intensity"));
@@ -125,12 +122,9 @@ QWidget* fPaste::makeOpacity()
     caption->setBuddy(slider);
     row->addWidget(caption);
     row->addWidget(slider, 1);
-    row->addWidget(value);
-    connect(slider, &QSlider::valueChanged, this, [this, value](int opacity) {
-        frame_.setup().ClipOpacity = static_cast<std::int16_t>(opacity);
-        value->setNum(opacity);
-    });
-    value->setNum(slider->value());
+    row->addWidget(new fNumberBox(*slider, "lblBrSelectionMovePressure"));
+    connect(slider, &QSlider::valueChanged, this,
+            [this](int opacity) { frame_.setup().ClipOpacity = static_cast<std::int16_t>(opacity); });
     slider->setValue(frame_.setup().ClipOpacity);
     return panel;
 }

@@ -1,9 +1,11 @@
 #include "ui/view/fDisplay.h"
 #include "document/Document.h"
 #include "ui/view/fImage.h"
+#include "ui/view/footprintLine.h"
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
+#include <utility>
 
 namespace velara {
 
@@ -28,7 +30,19 @@ void fDisplay::setSpot(int scrollX, int scrollY, int zoom)
 {
     spot_.scrollX = scrollX;
     spot_.scrollY = scrollY;
-    spot_.zoom = zoom;
+    if (std::exchange(spot_.zoom, zoom) != zoom) footprintLine_ = footprintLine(footprint_, zoom);
+}
+
+QPoint fDisplay::footprintPlace() const { return footprintAt_ * spot_.zoom - QPoint(spot_.scrollX, spot_.scrollY); }
+
+void fDisplay::showFootprint(const Footprint& footprint, QPoint pixel)
+{
+    const bool sameForm = footprint == footprint_;
+    if (sameForm && (pixel == footprintAt_ || footprintLine_.isEmpty())) return;
+    const QRegion before = underLine(footprintLine_.translated(footprintPlace()));
+    footprintAt_ = pixel;
+    if (!sameForm) footprintLine_ = footprintLine(footprint_ = footprint, spot_.zoom);
+    update((before + underLine(footprintLine_.translated(footprintPlace()))) & rect());
 }
 
 void fDisplay::updateOutline()
@@ -51,7 +65,16 @@ void fDisplay::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (!document_.PictureExists()) return painter.fillRect(event->rect(), palette().dark());
     spot_.ratio = devicePixelRatioF();
-    const QRegion& region = event->region();
+    drawPicture(painter, event->region());
+    const QPolygon line = footprintLine_.translated(footprintPlace());
+    for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) { // seen on every picture
+        painter.setPen(pen);
+        painter.drawPolygon(line);
+    }
+}
+
+void fDisplay::drawPicture(QPainter& painter, const QRegion& region)
+{
     const QRect box = region.boundingRect();
     qint64 area = 0;
     for (const QRect& part : region) area += qint64(part.width()) * part.height();
@@ -94,5 +117,6 @@ void fDisplay::keyReleaseEvent(QKeyEvent* event)
 {
     if (!image_.displayKey(*event, false)) QWidget::keyReleaseEvent(event);
 }
+void fDisplay::leaveEvent(QEvent*) { showFootprint({}, footprintAt_); }
 
 } // namespace velara

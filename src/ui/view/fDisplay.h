@@ -1,7 +1,9 @@
 // fDisplay: the surface iDst of a document's window. Paints the visible pixels and the outline; what it is told with
 // the mouse and the keys goes to the window.
 #pragma once
+#include "tools/ToolContext.h"
 #include "ui/widgets/viewRender.h"
+#include <QPolygon>
 #include <QWidget>
 
 namespace velara {
@@ -23,6 +25,8 @@ class fDisplay final : public QWidget {
     bool outlineShown() const { return outlineShown_; }
     /// Asks for the pixels under the outline's frame alone, where these are few pieces, else for its box.
     void updateOutline();
+    /// The line round what a tool would change at a pixel; none for an empty footprint. Repaints along the line alone.
+    void showFootprint(const Footprint& footprint, QPoint pixel);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -33,9 +37,12 @@ class fDisplay final : public QWidget {
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
   private:
     void drawPart(QPainter& painter, const QRect& part);
+    void drawPicture(QPainter& painter, const QRegion& region);
+    QPoint footprintPlace() const;
 
     fImage& image_;
     const Document& document_;
@@ -43,6 +50,9 @@ class fDisplay final : public QWidget {
     ViewRenderer renderer_;
     QImage outline_; // logical pixels, for displays with several device pixels in each
     bool outlineShown_ = false;
+    Footprint footprint_;
+    QPoint footprintAt_;     // the pixel
+    QPolygon footprintLine_; // from that pixel's corner
 };
 
 } // namespace velara

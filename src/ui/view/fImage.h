@@ -163,6 +163,7 @@ class fImage final : public QWidget, public ToolSurface {
     void zoomAbout(int factor, QPointF at);
     QPoint pixelAt(QPointF at) const;
     int buttonOf(const QMouseEvent& event) const;
+    void showFootprint();
 
     Frame& frame_;
     Document document_;

@@ -44,6 +44,9 @@ QPoint fImage::pixelAt(QPointF at) const
     return {pictureAt(at.x(), hSB_->value(), zoom_), pictureAt(at.y(), vSB_->value(), zoom_)};
 }
 
+/// What the tool would change where the pointer was last; the hand and a pending paste change nothing.
+void fImage::showFootprint() { iDst_->showFootprint(handScrolls() ? Footprint() : tools_->footprint(), lastPixel_); }
+
 /// The button that is held during a move.
 int fImage::buttonOf(const QMouseEvent& event) const
 {
@@ -87,8 +90,9 @@ void fImage::displayMoved(const QMouseEvent& event)
         return;
     }
     const QPoint pixel = pixelAt(event.position());
-    if (pixel == lastPixel_) return; // within the same picture pixel
-    lastPixel_ = pixel;
+    const bool same = std::exchange(lastPixel_, pixel) == pixel;
+    showFootprint();
+    if (same) return; // within the same picture pixel
     tools_->move(buttonOf(event), pixel.x(), pixel.y());
 }
 

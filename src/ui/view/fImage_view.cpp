@@ -180,6 +180,7 @@ void fImage::setMouseScroll(bool on)
         iDst_->setCursor(cRelease());
     else
         showToolPointer();
+    if (iDst_->underMouse()) showFootprint();
 }
 
 void fImage::scrollByHand(QPoint screen)

@@ -64,6 +64,12 @@ void fPicture::flipMarker()
     if (marker_) update();
 }
 
+void fPicture::setFrame(std::optional<QRectF> pixels)
+{
+    frame_ = pixels;
+    update();
+}
+
 void fPicture::setPickable(bool pickable)
 {
     pickable_ = pickable;
@@ -109,6 +115,11 @@ void fPicture::paintEvent(QPaintEvent* event)
 
 void fPicture::paintOver(QPainter& painter, const QRect&)
 {
+    if (frame_)
+        for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) {
+            painter.setPen(pen);
+            painter.drawRect(QRectF(placeOf(frame_->topLeft()), placeOf(frame_->bottomRight())).toRect());
+        }
     if (!marker_) return;
     const QPointF at = placeOf(*marker_);
     painter.setPen(white_ ? Qt::white : Qt::black);

@@ -42,6 +42,8 @@ class fPicture : public QWidget {
     /// A place in the picture, or none; a cross that is white or black.
     void setMarker(std::optional<QPointF> place);
     void flipMarker();
+    /// A dashed frame round these pixels, or none.
+    void setFrame(std::optional<QRectF> pixels);
     /// The left button tells pixels instead of dragging the picture.
     void setPickable(bool pickable);
     /// The pointer is an open hand over a picture that can be dragged.
@@ -67,6 +69,7 @@ class fPicture : public QWidget {
     int zoom_ = 1;
     ViewRenderer renderer_;
     std::optional<QPointF> marker_;
+    std::optional<QRectF> frame_;
     std::optional<QPoint> grabbed_;
     bool white_ = true, pickable_ = false, pannable_ = false;
 };

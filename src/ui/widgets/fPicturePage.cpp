@@ -92,6 +92,19 @@ void fPicturePage::setScroll(QPoint place)
     vertical_->setValue(place.y());
 }
 
+QRectF fPicturePage::shown() const
+{
+    const QRect all(-picture_->pos(), container_->size());
+    const QRect part = all & QRect(QPoint(), picture_->zoomedSize());
+    return {QPointF(part.topLeft()) / picture_->zoom(), QSizeF(part.size()) / picture_->zoom()};
+}
+
+void fPicturePage::showInMiddle(QPointF pixel)
+{
+    const QSize half = container_->size() / 2;
+    setScroll((pixel * picture_->zoom()).toPoint() - QPoint(half.width(), half.height()));
+}
+
 void fPicturePage::layOut()
 {
     const QSize shown = picture_->zoomedSize();

@@ -30,6 +30,10 @@ class fPicturePage : public QWidget {
     /// The part of the picture that the container shows, in screen pixels of the zoomed picture.
     QPoint scroll() const;
     void setScroll(QPoint place); // limited to the picture
+    /// The part that the container shows, in picture pixels.
+    QRectF shown() const;
+    /// As near as the picture's edges let it come.
+    void showInMiddle(QPointF pixel);
 
   signals:
     void scrolled();

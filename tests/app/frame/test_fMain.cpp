@@ -264,8 +264,12 @@ TEST_F(FrameTest, UpdateStoresOnlyWhenAsked)
     frame->cFilter_Progress(-1);
     auto* bar = frame->findChild<QProgressBar*>("cFilterProgress");
     EXPECT_EQ(bar->value(), 40);
+    EXPECT_TRUE(bar->isVisible());
     frame->Update(true, false);
     EXPECT_EQ(bar->value(), 0);
+    EXPECT_FALSE(bar->isVisible());
+    frame->cFilter_Progress(100);
+    EXPECT_FALSE(bar->isVisible()) << "done is at rest";
     EXPECT_EQ(image->document().undo.UndoStep(), 1);
     EXPECT_FALSE(image->document().Changed);
 }

@@ -55,7 +55,7 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     ASSERT_TRUE(dialog && dialog->isVisible() && !dialog->isModal());
     EXPECT_EQ(2, find<QComboBox>("cbOverlay")->count());
     EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText()) << "not the picture itself";
-    EXPECT_EQ("50%", find<QLabel>("lblTransparencyV")->text());
+    EXPECT_EQ("50%", find<QSpinBox>("lblTransparencyV")->text());
     settle();
     EXPECT_TRUE(shows(blend({above, 0, 0}, kAll)));
     slide("sbXOffset", 25);
@@ -70,7 +70,7 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     settle();
     const Bits wanted =
         blend({above, 25, -7, true, 30, colourOf(p.c[2], p.c[1], p.c[0])}, lower->document().Region.working());
-    EXPECT_EQ("30%", find<QLabel>("lblTransparencyV")->text());
+    EXPECT_EQ("30%", find<QSpinBox>("lblTransparencyV")->text());
     EXPECT_TRUE(shows(wanted)) << "it follows the selection too";
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
     settle();

@@ -135,7 +135,7 @@ TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
     open();
     show(1);
     EXPECT_EQ("Textures: Emboss", box->windowTitle());
-    EXPECT_EQ("50", find<QLabel>("lblSize")->text());
+    EXPECT_EQ("50", find<QSpinBox>("lblSize")->text());
     const Bits before = document->Bits();
     press("tb_23");
     EXPECT_EQ("Textures: Pixelize", box->windowTitle());

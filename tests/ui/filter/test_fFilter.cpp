@@ -3,7 +3,7 @@
 #include "support/pictures.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
-#include "ui/widgets/fPicture.h"
+#include "ui/widgets/fPicturePage.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QtTest>
 
 namespace velara {
@@ -90,13 +91,38 @@ TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
     auto* slider = find<QSlider>("sbFilter_0");
     const Bits before = shown();
     for (int value = 1; value <= 90; ++value) slider->setValue(value);
-    EXPECT_EQ("90", find<QLabel>("lblFilterV_0")->text().toStdString());
+    EXPECT_EQ("90", find<QSpinBox>("lblFilterV_0")->text().toStdString());
     EXPECT_TRUE(sameBits(before, shown())) << "a burst of changes waits for its end";
     const auto comesTo = [this](const Bits& bits) { return QTest::qWaitFor([&] { return shown() == bits; }, 2000); };
     EXPECT_TRUE(comesTo(wanted("BRIGHTNESS"))) << "the picture fits the preview, so they are the same";
+    EXPECT_EQ(nullptr, dialog->findChild<fPicturePage*>()) << "and there is no detail to show";
     click("chkPreview");
     EXPECT_TRUE(comesTo(picture)) << "without a preview the picture as it is";
     EXPECT_EQ(0, steps());
+}
+
+TEST_F(FilterDialog, TheDetailShowsTheWholeResultPixelForPixel)
+{
+    picture = randomBits(900, 700, 3);
+    open("ADDGRID");
+    auto* page = dialog->findChild<fPicturePage*>();
+    ASSERT_NE(nullptr, page);
+    const auto shows = [&](const Bits& bits) {
+        return QTest::qWaitFor([&] { return sameBits(bits, page->picture().bits()); });
+    };
+    const QPointF middle = page->shown().center();
+    EXPECT_NEAR(85, middle.x(), 60) << "it begins at the selection, as far as the picture's edge lets it";
+    EXPECT_TRUE(shows(wanted("ADDGRID")));
+    for (int value = 5; value <= 40; ++value) find<QSlider>("sbFilter_0")->setValue(value);
+    EXPECT_TRUE(shows(wanted("ADDGRID"))) << "the last change is followed by a run";
+    emit find<fPicture>("iDst")->pressed({200, 150});
+    EXPECT_NEAR(200 * 3, page->shown().center().x(), 3);
+    EXPECT_NEAR(150 * 3, page->shown().center().y(), 3);
+    click("chkPreview");
+    EXPECT_TRUE(shows(picture)) << "without a preview the picture as it is";
+    const Bits full = wanted("ADDGRID");
+    click("cmdOK");
+    EXPECT_TRUE(sameBits(full, taken()));
 }
 
 TEST_F(FilterDialog, RealTimeRunsOnceAndCloses)

@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -54,7 +55,7 @@ TEST(Texturize, ShowsWhatOkWillDoAndABrokenFileHarmsNothing)
     QTest::keyClick(dialog.findChild<QSlider*>("sbWeight"), Qt::Key_End);
     dialog.findChild<QComboBox*>("cbDepth")->setCurrentIndex(1);
     settle();
-    EXPECT_EQ("100%", dialog.findChild<QLabel*>("lblWeightV")->text());
+    EXPECT_EQ("100%", dialog.findChild<QSpinBox*>("lblWeightV")->text());
     EXPECT_TRUE(dialog.texturing().engrave);
     EXPECT_TRUE(shownIsDone());
     list->setCurrentRow(0);

@@ -20,7 +20,7 @@ TEST(FEffectTest, RunsTheChosenEffectAtItsAmount)
     FEffect pane(frame, "FEffect", findTool(u"Text")->pane);
     auto* list = pane.findChild<QListWidget*>("lstEffects");
     auto* amount = pane.findChild<QSlider*>("sbAmount");
-    const auto* shown = pane.findChild<QLabel*>("lblsbAmount");
+    const auto* shown = pane.findChild<QSpinBox*>("lblsbAmount");
     EXPECT_EQ(kEffects, list->count());
     EXPECT_EQ("Emboss", list->currentItem()->text());
     EXPECT_EQ("5%", shown->text());

@@ -1,0 +1,139 @@
+#include "app/menus/fControlStyle.h"
+#include <QPainter>
+#include <QStyleOption>
+
+namespace velara {
+
+namespace {
+
+bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+QColor mixed(const QColor& one, const QColor& other, double part)
+{
+    const auto channel = [part](int a, int b) { return qRound(a * part + b * (1 - part)); };
+    return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
+                  channel(one.blue(), other.blue()));
+}
+
+/// The line round a control: seen on the ground, but weaker than the text.
+QColor edgeOf(const QStyleOption& option)
+{
+    const double strength = option.state & QStyle::State_Enabled ? 0.55 : 0.25;
+    return mixed(option.palette.color(QPalette::Active, QPalette::WindowText),
+                 option.palette.color(QPalette::Active, QPalette::Window), strength);
+}
+
+/// The signs of the buttons of a title bar, in its text's colour.
+void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget)
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (!bar) return;
+    const bool minimized = bar->titleBarState & Qt::WindowMinimized,
+               maximized = bar->titleBarState & Qt::WindowMaximized;
+    const auto at = [&](QStyle::SubControl part) {
+        const QRect button = style.subControlRect(QStyle::CC_TitleBar, option, part, widget);
+        QRect sign(0, 0, 7, 7);
+        sign.moveCenter(button.center());
+        return sign;
+    };
+    const auto has = [&](Qt::WindowType hint) { return bar->titleBarFlags.testFlag(hint); };
+    painter->setPen(QPen(edgeOf(*option), 2));
+    if (has(Qt::WindowMinimizeButtonHint) && !minimized) {
+        const QRect sign = at(QStyle::SC_TitleBarMinButton);
+        painter->drawLine(sign.bottomLeft(), sign.bottomRight());
+    }
+    if (has(Qt::WindowMaximizeButtonHint) && !maximized) painter->drawRect(at(QStyle::SC_TitleBarMaxButton));
+    if (minimized || maximized) {
+        const QRect sign = at(QStyle::SC_TitleBarNormalButton);
+        painter->drawRect(sign.adjusted(0, 3, -3, 0));
+        painter->drawPolyline(
+            QPolygon({{sign.left() + 3, sign.top()}, sign.topRight(), {sign.right(), sign.top() + 4}}));
+    }
+    if (has(Qt::WindowSystemMenuHint)) {
+        const QRect sign = at(QStyle::SC_TitleBarCloseButton);
+        painter->drawLine(sign.topLeft(), sign.bottomRight());
+        painter->drawLine(sign.topRight(), sign.bottomLeft());
+    }
+}
+
+} // namespace
+
+QColor fControlStyle::paleText(const QPalette& palette)
+{
+    return mixed(palette.color(QPalette::Active, QPalette::WindowText), palette.color(QPalette::Window), 0.5);
+}
+
+bool fControlStyle::isPlain() const { return baseStyle()->name() == QLatin1String("fusion"); }
+
+bool fControlStyle::mends(const QPalette& palette) const { return isDark(palette) && isPlain(); }
+
+/// Plain palettes leave what is disabled nearly as the ground, and a dark workspace black.
+void fControlStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    if (!isPlain()) return;
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, paleText(palette));
+    if (!isDark(palette)) return;
+    palette.setColor(QPalette::PlaceholderText,
+                     mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.65));
+    palette.setColor(QPalette::Dark, palette.color(QPalette::Window).darker(135));
+}
+
+void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const
+{
+    if (element == PE_PanelButtonTool && option->state & State_On && option->state & State_Enabled) {
+        QColor fill = option->palette.color(QPalette::Highlight);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(fill);
+        fill.setAlphaF(0.35F);
+        painter->setBrush(fill);
+        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+        painter->restore();
+        return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!mends(option->palette) || (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) return;
+    painter->save();
+    painter->setPen(edgeOf(*option));
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (element == PE_IndicatorCheckBox)
+        painter->drawRect(edge);
+    else
+        painter->drawEllipse(edge);
+    painter->restore();
+}
+
+void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                       const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (!mends(option->palette)) return;
+    painter->save();
+    if (control == CC_Slider) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(edgeOf(*option));
+        const QRectF handle = proxy()->subControlRect(CC_Slider, option, SC_SliderHandle, widget);
+        painter->drawRoundedRect(handle.adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    } else if (control == CC_TitleBar && !(option->state & State_Active)) {
+        drawTitleButtons(*proxy(), option, painter, widget);
+    }
+    painter->restore();
+}
+
+QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    if (mode != QIcon::Disabled) return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    QPixmap pale(pixmap.size());
+    pale.setDevicePixelRatio(pixmap.devicePixelRatio());
+    pale.fill(Qt::transparent);
+    QPainter painter(&pale);
+    painter.setOpacity(0.35);
+    painter.drawPixmap(0, 0, pixmap);
+    return pale;
+}
+
+} // namespace velara

@@ -1,0 +1,28 @@
+// fControlStyle: mends what can't be told apart in the plain style: unchecked boxes, sliders and title bars on a dark
+// ground, buttons that are checked or disabled. Where the desktop has a style of its own that style stands.
+#pragma once
+#include <QProxyStyle>
+
+namespace velara {
+
+class fControlStyle : public QProxyStyle {
+    Q_OBJECT
+  public:
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
+
+  protected:
+    /// Half way between text and ground: not every palette's own colour for what is disabled can be read.
+    static QColor paleText(const QPalette& palette);
+
+  private:
+    bool isPlain() const;
+    bool mends(const QPalette& palette) const; // a dark ground under the plain style
+};
+
+} // namespace velara

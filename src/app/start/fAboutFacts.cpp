@@ -1,0 +1,66 @@
+#include "app/start/fAboutFacts.h"
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace velara {
+
+namespace {
+
+struct Library {
+    const char *name, *does;
+};
+
+constexpr Library kLibraries[] = {
+    // clang-format off
+    {"FreeImage",            "picture files"},
+    {"giflib, libimagequant", "GIF and palettes"},
+    {"libwmf, libemf2svg",   "metafiles"},
+    {"SANE",                 "scanners"},
+    {"CUPS",                 "printers"},
+    {"Highway",              "vector arithmetic"},
+    {"libseccomp",           "the cage of the decoders"},
+    {"Breeze",               "icons"},
+    // clang-format on
+};
+
+QString libraries()
+{
+    QString rows = QStringLiteral("<tr><td>Qt %1&nbsp;&nbsp;</td><td>windows</td></tr>").arg(QLatin1String(qVersion()));
+    for (const Library& library : kLibraries)
+        rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
+                    .arg(QLatin1String(library.name), QLatin1String(library.does));
+    return QStringLiteral("<table cellspacing=1>") + rows + QStringLiteral("</table>");
+}
+
+} // namespace
+
+fAboutFacts::fAboutFacts(QWidget* parent) : QFrame(parent)
+{
+    setAutoFillBackground(true);
+    setAttribute(Qt::WA_NoMousePropagation); // the picture above closes at a click
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 12, 16, 12);
+    auto* facts = new QLabel(tr("<b>Velara Studio %1</b>"
+                                "<p>Free software under the GNU General Public License, version 2 or later, "
+                                "without any warranty.</p>"
+                                "<p>It stands on</p>")
+                                     .arg(QStringLiteral(VELARA_VERSION)) +
+                                 libraries(),
+                             this);
+    facts->setObjectName(QStringLiteral("lblFacts"));
+    facts->setAccessibleName(tr("Version, license and libraries"));
+    facts->setTextFormat(Qt::RichText);
+    facts->setWordWrap(true);
+    facts->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    facts->setCursor(Qt::IBeamCursor);
+    auto* close = new QPushButton(tr("&Close"), this);
+    close->setObjectName(QStringLiteral("cmdClose"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &fAboutFacts::closed);
+    column->addWidget(facts);
+    column->addWidget(close, 0, Qt::AlignRight);
+    close->setFocus();
+}
+
+} // namespace velara

@@ -1,0 +1,16 @@
+// fAboutFacts: what About tells below the picture: version, licence, libraries.
+#pragma once
+#include <QFrame>
+
+namespace velara {
+
+class fAboutFacts final : public QFrame {
+    Q_OBJECT
+  public:
+    explicit fAboutFacts(QWidget* parent);
+
+  signals:
+    void closed(); // by its button
+};
+
+} // namespace velara

@@ -1,0 +1,81 @@
+// The pop-up of a tool: beside the buttons, with no tool tip on it.
+#include "app/frame/fHover.h"
+#include "app/frame/fToolPane.h"
+#include "app/frame/frameTest.h"
+#include "app/menus/menus.h"
+#include "app/start/fSplash.h"
+#include "tools/toolRows.h"
+#include "ui/panes/fToolPanes.h"
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <set>
+
+namespace velara {
+
+struct HoverTest : FrameTest {
+    QList<QWidget*> popups() const
+    {
+        QList<QWidget*> all;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->isVisible() && window->findChild<QLabel*>("lblTool", Qt::FindDirectChildrenOnly)) all << window;
+        return all;
+    }
+    /// The one pop-up that stands, after the pointer has rested on the tool's button.
+    QWidget* popupOf(const char* tool)
+    {
+        QEvent enter(QEvent::Enter);
+        QToolButton* button = frame->toolPane().button(tool);
+        QCursor::setPos(button->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(button, &enter);
+        const QString name = findTool(QString(tool))->caption;
+        const auto stands = [&] {
+            return popups().size() == 1 && popups()[0]->findChild<QLabel*>("lblTool")->text().startsWith(name);
+        };
+        return QTest::qWaitFor(stands, 4000) ? popups()[0] : nullptr;
+    }
+};
+
+TEST_F(HoverTest, ThePopUpStandsBesideTheToolsAndNamesItsTool)
+{
+    frame->initToolPanes();
+    for (const char* tool : {"Pencil", "Brush", "Fill"}) {
+        const QWidget* popup = popupOf(tool);
+        ASSERT_NE(nullptr, popup) << tool;
+        const QWidget* strip = frame->toolPane().button(tool)->parentWidget();
+        EXPECT_FALSE(popup->geometry().intersects(QRect(strip->mapToGlobal(QPoint()), strip->size()))) << tool;
+        QEvent tip(QEvent::ToolTip);
+        EXPECT_TRUE(QCoreApplication::sendEvent(frame->toolPane().button(tool), &tip));
+    }
+}
+
+TEST(PicturesTest, NoTwoButtonsShowTheSame)
+{
+    useResources();
+    useIconTheme();
+    std::set<std::string_view> pictures;
+    const auto add = [&](std::string_view word) {
+        EXPECT_TRUE(pictures.insert(pictureOf(word)).second) << word;
+        EXPECT_FALSE(iconOf(word).isNull()) << word;
+    };
+    for (const ButtonRow& row : buttonRows()) add(row.word);
+    for (const ToolRow& row : toolRows()) add(row.name);
+    for (const StripRow& row : stripRows()) add(row.key);
+}
+
+TEST_F(FrameTest, AboutTellsVersionLicenceAndLibraries)
+{
+    fSplash about(platform, frame.get());
+    about.showFacts();
+    about.show();
+    const auto* facts = about.findChild<QLabel*>("lblFacts");
+    for (const char* told : {"Velara Studio 0.", "General Public License", "Qt 6", "FreeImage"})
+        EXPECT_TRUE(facts->text().contains(told)) << told;
+    EXPECT_TRUE(about.rect().contains(QRect(facts->mapTo(&about, QPoint()), facts->sizeHint())));
+    QTest::mouseClick(facts->parentWidget(), Qt::LeftButton, {}, {4, 4});
+    EXPECT_TRUE(about.isVisible());
+    about.findChild<QPushButton*>("cmdClose")->click();
+    EXPECT_FALSE(about.isVisible());
+}
+
+} // namespace velara

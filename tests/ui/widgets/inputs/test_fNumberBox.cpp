@@ -1,0 +1,86 @@
+// The number beside a slider, typed into as a person does.
+#include "ui/widgets/inputs/fNumberBox.h"
+#include <QAction>
+#include <QSlider>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace velara {
+
+struct NumberBox : ::testing::Test {
+    QWidget window;
+    QSlider* slider = new QSlider(Qt::Horizontal, &window);
+
+    fNumberBox* make(int low, int high, const fNumberBox::Measure& measure = {})
+    {
+        slider->setRange(low, high);
+        auto* box = new fNumberBox(*slider, "number", measure);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        box->setFocus();
+        box->selectAll();
+        return box;
+    }
+};
+
+TEST_F(NumberBox, SliderAndNumberFollowEachOther)
+{
+    struct Case {
+        int low, high;
+        fNumberBox::Measure measure;
+        const char* typed;
+        int position;
+        const char* shown; // after Enter
+    };
+    const Case cases[] = {
+        {0, 100, {}, "42", 42, "42"},
+        {0, 100, {1, 0, "%"}, "42", 42, "42%"},
+        {0, 100, {}, "999", 99, "99"}, // the third figure is refused
+        {-255, 255, {}, "-31", -31, "-31"},
+        {3, 24, {}, "12", 12, "12"}, // by way of a 1 that is too small
+        {0, 200, {0.01, 2}, "1.25", 125, "1.25"},
+        {0, 200, {0.01, 2}, "0,5", 50, "0.50"},
+        {0, 200, {0.01, 2}, "7", 60, "0.60"}, // too large: what stood before
+    };
+    for (const Case& c : cases) {
+        auto* box = make(c.low, c.high, c.measure);
+        slider->setValue(60);
+        EXPECT_EQ(box->value(), slider->value());
+        box->selectAll();
+        QTest::keyClicks(box, c.typed);
+        QTest::keyClick(box, Qt::Key_Return);
+        EXPECT_EQ(c.position, slider->value()) << c.typed;
+        EXPECT_EQ(c.shown, box->text().toStdString());
+        delete box;
+    }
+}
+
+TEST_F(NumberBox, WhatIsBeingTypedIsNotWrittenAnew)
+{
+    auto* box = make(0, 200, {0.01, 2});
+    QTest::keyClicks(box, "1.");
+    EXPECT_EQ("1.", box->text()) << "the slider's answer would make it 1.00";
+    QTest::keyClicks(box, "5");
+    EXPECT_EQ(150, slider->value());
+}
+
+TEST_F(NumberBox, LettersAreTheWindowsAndFiguresItsOwn)
+{
+    int chosen = 0;
+    for (const auto key : {Qt::Key_B, Qt::Key_5}) {
+        auto* action = new QAction(&window);
+        action->setShortcut(key);
+        QObject::connect(action, &QAction::triggered, &window, [&] { ++chosen; });
+        window.addAction(action);
+    }
+    auto* box = make(0, 100);
+    QTest::keyClick(box, Qt::Key_B);
+    EXPECT_EQ(1, chosen);
+    QTest::keyClick(box, Qt::Key_5);
+    EXPECT_EQ(1, chosen);
+    EXPECT_EQ(5, slider->value());
+}
+
+} // namespace velara
