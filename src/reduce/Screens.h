@@ -19,11 +19,12 @@ class Screen {
     /// colours: those that nearest knows, at most 256.
     Screen(const std::vector<Pixel>& colours, NearestColours& nearest);
 
-    /// The entry for the colour at a place of the matrix's order, in an odd or an even square. Colours of the palette
-    /// are their own. Mixed are 32 levels a channel: those between go to the one below or above, by place and square.
-    int operator()(Pixel p, int place, bool odd)
+    /// The entry for the colour at a place of the matrix's order, in a square of the picture. Colours of the palette
+    /// are their own. Mixed are 32 levels a channel: those between go to the one below or above, each place to all of
+    /// them in eight squares of following numbers, which together give their mean.
+    int operator()(Pixel p, int place, int square)
     {
-        const std::size_t cell = cellOf(p, std::size_t(place & 3) * 2 + odd);
+        const std::size_t cell = cellOf(p, std::size_t(place + square) % kRanks);
         if (state_[cell] != kMixed) [[unlikely]]
             return lookCloser(p, cell, place);
         return mixtures_[cell][std::size_t(place)];

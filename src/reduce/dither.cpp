@@ -38,7 +38,7 @@ class Work {
     {
         Screen screen(colours_, nearest_);
         eachPixel([&](Pixel p, int x, int y) {
-            return screen(p, matrix[std::size_t(y % 8 * 8 + x % 8)], ((x ^ y) & 8) != 0);
+            return screen(p, matrix[std::size_t(y % 8 * 8 + x % 8)], x / 8 + y / 8 * 3);
         });
     }
 

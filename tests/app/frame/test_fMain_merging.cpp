@@ -13,6 +13,8 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
+#include <algorithm>
+#include <cstring>
 
 namespace velara {
 namespace {
@@ -44,7 +46,15 @@ struct FrameMerging : FrameTest {
         filter.setBitsRegion(region);
         return merged(filter, merging);
     }
-    bool shows(const Bits& wanted) { return sameBits(wanted, find<fPicture>("iSrc")->bits()); }
+    bool shows(const Bits& wanted) // whatever margins and fourth bytes
+    {
+        const Bits& shown = find<fPicture>("iSrc")->bits();
+        bool same = shown.width() == wanted.width() && shown.height() == wanted.height();
+        for (int y = 0; same && y < wanted.height(); ++y)
+            same = std::equal(wanted.row(y), wanted.row(y) + wanted.width(), shown.row(y),
+                              [](const Pixel& a, const Pixel& b) { return std::memcmp(a.c, b.c, 3) == 0; });
+        return same;
+    }
 };
 
 const Region kAll = Region::rectangle(0, 0, 120, 90);
