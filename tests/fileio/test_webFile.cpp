@@ -1,0 +1,103 @@
+// Every preset of "Save for Web" with every palette and dither: the written file, read back by others than wrote it.
+#include "fileio/web/ReducedDib.h"
+#include "fileio/web/webFile.h"
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gif_lib.h>
+#include <gtest/gtest.h>
+
+namespace velara {
+namespace {
+
+Bits sample()
+{
+    Bits bits(37, 21);
+    for (int y = 0; y < 21; ++y)
+        for (int x = 0; x < 37; ++x) bits.at(x, y) = pixelFor(colourOf(x * 6, y * 11, 255 - x * 4));
+    return bits;
+}
+
+int bitsNeeded(int colours)
+{
+    int bits = 1;
+    while (1 << bits < colours) ++bits;
+    return bits;
+}
+
+/// GIF by its library: palette, bits, rows put in order, interlace.
+void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wanted)
+{
+    int error = 0;
+    GifFileType* gif = DGifOpenFileName(name.toLocal8Bit().constData(), &error);
+    ASSERT_TRUE(gif && DGifSlurp(gif) == GIF_OK && gif->ImageCount == 1);
+    const SavedImage& image = gif->SavedImages[0];
+    const ColorMapObject* map = image.ImageDesc.ColorMap ? image.ImageDesc.ColorMap : gif->SColorMap;
+    EXPECT_EQ(s.OutputKind == kInterlacedGifOutput, image.ImageDesc.Interlace);
+    EXPECT_LE(map->BitsPerPixel, s.row().bitCount);
+    EXPECT_GE(map->BitsPerPixel, bitsNeeded(int(wanted.palette.size())));
+    int wrong = 0;
+    for (std::size_t i = 0; i < wanted.indices.size(); ++i) {
+        const GifColorType& c = map->Colors[image.RasterBits[i]];
+        wrong += colourOf(c.Red, c.Green, c.Blue) != wanted.palette[wanted.indices[i]];
+    }
+    EXPECT_EQ(0, wrong);
+    DGifCloseFile(gif, &error);
+}
+
+/// BMP and PNG by Qt; the bit count stands in the header.
+void holdBitmap(const QString& name, const WebSettings& s, const ReducedPicture& wanted)
+{
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray head = file.read(32);
+    const bool isPng = s.FileKind == kPng;
+    const int bits = isPng ? head[24] * (head[25] == 2 ? 3 : 1) : head[28];
+    EXPECT_EQ(s.row().bitCount, bits);
+    const QImage image = QImage(name, isPng ? "png" : "bmp").convertToFormat(QImage::Format_RGB32);
+    const Bits full = pictureOf(wanted);
+    ASSERT_EQ(QSize(full.width(), full.height()), image.size());
+    const QRgb known = bits == 16 ? 0xF8F8F8 : 0xFFFFFF; // readers fill the lower bits each in their way
+    int wrong = 0;
+    for (int y = 0; y < full.height(); ++y)
+        for (int x = 0; x < full.width(); ++x) {
+            const Pixel& p = full.at(x, y);
+            wrong += (image.pixel(x, y) & known) != (qRgb(p.c[2], p.c[1], p.c[0]) & known);
+        }
+    EXPECT_EQ(0, wrong);
+}
+
+TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("web");
+    const Bits picture = sample();
+    int files = 0;
+    const auto hold = [&](const WebSettings& s) {
+        ASSERT_EQ(WebFile::Outcome::Written, writeWebFile(picture, s, name, OutputFile::Links::Follow).outcome);
+        const ReducedPicture wanted = reduceColours(picture, {s.ColorMode, s.BitCount, s.PaletteWord, s.DitherWord});
+        for (const Colour c : wanted.indexed.palette)
+            EXPECT_TRUE(s.ColorMode != kGreyscale || (redOf(c) == greenOf(c) && greenOf(c) == blueOf(c)));
+        s.isGif() ? holdGif(name, s, wanted.indexed) : holdBitmap(name, s, wanted);
+        ++files;
+    };
+    for (int preset = 0; preset < int(webPresets().size()); ++preset) {
+        WebSettings s;
+        s.choosePreset(preset, false);
+        if (s.isJpeg() || (!s.isGif() && s.FileKind != kBmp && s.FileKind != kPng)) continue; // of 24 bits all
+        for (const int map : s.maps())
+            for (int dither = 0; dither < int(webDithers().size()); ++dither) {
+                SCOPED_TRACE(std::string(s.row().entry) + ", " + webMaps()[std::size_t(map)].entry + ", " +
+                             webDithers()[std::size_t(dither)].entry);
+                s.choosePreset(preset, dither % 2 == 1);
+                s.ColorMode = dither % 3 == 2 ? kGreyscale : 0;
+                s.chooseMap(map);
+                s.chooseDither(dither);
+                hold(s);
+            }
+    }
+    EXPECT_GT(files, 400);
+}
+
+} // namespace
+} // namespace velara
