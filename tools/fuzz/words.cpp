@@ -113,7 +113,7 @@ QString tryRegion(const Place& place, std::uint64_t number)
     selection.Init(0, 0, 20, 20);
     const bool loaded = selection.LoadFromFile(path);
     std::vector<std::int32_t> read(static_cast<std::size_t>(bytes.size() / 4));
-    std::memcpy(read.data(), bytes.constData(), read.size() * 4);
+    if (!read.empty()) std::memcpy(read.data(), bytes.constData(), read.size() * 4);
     const Region region = Region::fromWords(read);
     if (loaded == region.isNull()) return "loaded from a file it is not what its words make";
     const QString fault = region.isNull() ? QString() : faultOf(region, read);

@@ -27,7 +27,7 @@ constexpr const char* kFontFolders[] = {"/usr/share/fonts", "/usr/local/share/fo
 
 bool noNewPrivileges() { return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0; }
 
-bool limitResources(Needs needs)
+[[maybe_unused]] bool limitResources(Needs needs)
 {
     const auto limit = [](__rlimit_resource resource, rlim_t most) {
         const rlimit value{most, most};
@@ -83,8 +83,8 @@ unsigned enterCage(Needs needs, unsigned layers)
     };
     close(NoNewPrivileges, noNewPrivileges);
     close(Landlock, [&] { return landlock(needs); });
+#ifndef __SANITIZE_ADDRESS__ // the sanitizers look at memory through pipes, and report into files
     close(Limits, [&] { return limitResources(needs); });
-#ifndef __SANITIZE_ADDRESS__ // its reports need files, pipes and a symbolizer
     close(Seccomp, [&] { return filterSystemCalls(needs); });
 #endif
     return holding;

@@ -22,19 +22,29 @@ std::string_view moduleOf(std::string_view line)
     return begin == line.npos || end == line.npos ? std::string_view() : line.substr(begin + 1, end - begin - 1);
 }
 
-void judge(const char* report)
+/// Whose the memory is that was touched wrongly, by the first stack of the report: the library's too when it called us
+/// back to write into a buffer of its own.
+bool isTheLibrarys(std::string_view text)
 {
-    std::string_view text = report;
+    const bool isWrite = text.find("WRITE of size") != text.npos;
+    bool inOurs = false;
     while (!text.empty()) {
         const std::string_view line = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(text.size(), line.size() + 1));
         const std::string_view module = moduleOf(line), file = module.substr(module.rfind('/') + 1);
+        if (file.empty() && inOurs) return false; // the end of the stack
         bool isBelow = file.empty();
         for (const std::string_view name : kBelow) isBelow |= file.starts_with(name);
         if (isBelow) continue;
-        if (!file.starts_with("velara-decode")) _exit(kLibraryFault);
-        return;
+        if (!file.starts_with("velara-decode")) return !inOurs || isWrite;
+        inOurs = true;
     }
+    return false;
+}
+
+void judge(const char* report)
+{
+    if (isTheLibrarys(report)) _exit(kLibraryFault);
 }
 
 } // namespace

@@ -76,11 +76,11 @@ void limit(pid_t pid, __rlimit_resource resource, rlim_t soft, rlim_t hard)
 
 void limit(pid_t pid, const DecoderLimits& limits)
 {
-#ifndef __SANITIZE_ADDRESS__ // its shadow memory alone takes terabytes of address space
+#ifndef __SANITIZE_ADDRESS__ // its shadow memory alone takes terabytes of address space, and its reports go to files
     limit(pid, RLIMIT_AS, limits.memory, limits.memory);
+    limit(pid, RLIMIT_FSIZE, 0, 0);
 #endif
     limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.cpuSeconds + 1);
-    limit(pid, RLIMIT_FSIZE, 0, 0);
     limit(pid, RLIMIT_CORE, 0, 0);
 }
 
