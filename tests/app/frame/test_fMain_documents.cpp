@@ -93,14 +93,14 @@ TEST_F(FrameDocuments, TheOpenOnesStandAtTheEndOfViews)
 
 TEST_F(FrameDocuments, AfterAClosedOneComesTheOneUsedBefore)
 {
-    fImage* first = open(randomBits(9, 9, 1), "1.bmp");
-    open(randomBits(9, 9, 2), "2.bmp");
+    open(randomBits(9, 9, 1), "1.bmp");
+    fImage* second = open(randomBits(9, 9, 2), "2.bmp");
     open(randomBits(9, 9, 3), "3.bmp");
     fImage* fourth = open(randomBits(9, 9, 4), "4.bmp");
-    frame->area().setActiveSubWindow(windowOf(first));
+    frame->area().setActiveSubWindow(windowOf(second));
     frame->area().setActiveSubWindow(windowOf(fourth));
     frame->Mmenu("CLOSE");
-    EXPECT_EQ(frame->GetActiveImage()->Caption(), "1.bmp");
+    EXPECT_EQ(frame->GetActiveImage()->Caption(), "2.bmp");
 }
 
 TEST_F(FrameDocuments, AnEmptyOneShowsNothingOfAnotherAndKeepsTheKeys)
