@@ -124,10 +124,9 @@ void shootLayers(fMain& frame)
 }
 
 /// The floating boxes; the one of textures with each of its pages.
-void shootBoxes(fMain& frame)
+void shootBoxes()
 {
-    for (const char* word : {"@COLORBOX", "@TEXTURESBOX", "@CLIPBOARDBOX"}) frame.run(word);
-    settle(300);
+    settle(300); // they stand since the start
     for (QWidget* window : QApplication::topLevelWidgets()) {
         const QString name = window->objectName();
         if (!window->isVisible() || !QStringList{"fPalette", "fToolTextures", "fPaste"}.contains(name)) continue;
@@ -261,7 +260,7 @@ int main(int argc, char** argv)
     if (!few) {
         shootDialog("color", [&] { frame->pickColour(0xE9AE3D, "First color", frame.get()); });
         shootLayers(*frame);
-        shootBoxes(*frame);
+        shootBoxes();
     }
     if (!few) shootPanes(*frame);
     setup.AskToSave = false;
