@@ -26,8 +26,9 @@ bool RecordingFrame::openPicture(const QString& path, Unreadable)
     return true;
 }
 
-Outcome RecordingFrame::change(const DocumentHandle& handle, const Job& job, After after)
+Outcome RecordingFrame::change(const DocumentHandle& document, const Job& job, After after)
 {
+    const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
     if (!handle) return {Outcome::Gone};
     Draft draft(*handle, handle->Bits(), filter_, after);
     draft.filter().Progress = [&](int percent) {

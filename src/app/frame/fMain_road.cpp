@@ -7,8 +7,9 @@
 
 namespace velara {
 
-Outcome fMain::change(const DocumentHandle& handle, const Job& job, After after)
+Outcome fMain::change(const DocumentHandle& document, const Job& job, After after)
 {
+    const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
     if (closing_ || !documents_->of(handle) || !handle->PictureExists()) return {Outcome::Gone};
     const Documents::Work underWay(*documents_);
     // What a tool shows for the time being is no part of the picture: the engine has that.
