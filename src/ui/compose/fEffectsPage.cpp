@@ -3,6 +3,7 @@
 #include "document/Document.h"
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
+#include "fileio/nameOrder.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
@@ -20,6 +21,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace velara {
 
@@ -201,8 +203,8 @@ void fEffectsPage::CheckImagesFile()
 {
     const QString chosen = ListFile_->currentItem() ? ListFile_->currentItem()->text() : QString();
     ListFile_->clear();
-    const QStringList files =
-        QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+    QStringList files = QDir(folder_).entryList({"*.bmp", "*.jpg", "*.gif", "*.ico"}, QDir::Files);
+    std::ranges::sort(files, nameOrder());
     ListFile_->addItems(files);
     ListFile_->setCurrentRow(static_cast<int>(files.indexOf(chosen)));
     lblFolder_->setPath(files.isEmpty() ? tr("No texture files in %1").arg(QDir::toNativeSeparators(folder_))

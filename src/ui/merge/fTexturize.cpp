@@ -1,12 +1,12 @@
 #include "ui/merge/fTexturize.h"
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
+#include "fileio/nameOrder.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include <QCheckBox>
-#include <QCollator>
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
@@ -170,9 +170,7 @@ void fTexturize::fillList()
 {
     const QDir folder(platform_.programFolder() + QStringLiteral("/Textures"));
     QStringList files = folder.entryList(kPattern, QDir::Files);
-    QCollator order(QLocale(QLocale::English)); // that of no language at all knows no numbers
-    order.setNumericMode(true);                 // Velara2 before Velara10
-    std::ranges::sort(files, order);
+    std::ranges::sort(files, nameOrder());
     for (const QString& file : files) {
         auto* item = new QListWidgetItem(frameIcon(palette(), false), file, flTextures_);
         const QString stock = stockTextureName(file);

@@ -1,5 +1,6 @@
 #include "ui/widgets/FolderModel.h"
 #include "fileio/families.h"
+#include "fileio/nameOrder.h"
 #include "ui/widgets/ThumbnailIcons.h"
 #include <QApplication>
 #include <QCollator>
@@ -36,18 +37,6 @@ struct FolderModel::Item {
 
 namespace {
 
-const QCollator& order()
-{
-    static const QCollator collator = [] {
-        const QLocale own; // of a system without a language compares bytes alone
-        QCollator byName(own.language() == QLocale::C ? QLocale(QLocale::English) : own);
-        byName.setNumericMode(true);
-        byName.setCaseSensitivity(Qt::CaseInsensitive);
-        return byName;
-    }();
-    return collator;
-}
-
 QIcon themed(const char* name, QStyle::StandardPixmap otherwise)
 {
     return QIcon::fromTheme(name, QApplication::style()->standardIcon(otherwise));
@@ -65,7 +54,7 @@ bool isFolderEntry(const dirent& entry, const QString& path)
 FolderModel::FolderModel(bool withFiles, QObject* parent)
     : QAbstractItemModel(parent), withFiles_(withFiles), folderIcon_(themed("folder", QStyle::SP_DirIcon)),
       fileIcon_(themed("text-x-generic", QStyle::SP_FileIcon)),
-      root_(new Item{QStringLiteral("/"), order().sortKey(QString()), true})
+      root_(new Item{QStringLiteral("/"), nameOrder().sortKey(QString()), true})
 {
     pause_.setSingleShot(true);
     pause_.setInterval(200ms);
@@ -187,7 +176,7 @@ FolderModel::Item* FolderModel::child(Item& folder, const QString& name)
     const QFileInfo info(folder.path() + '/' + name);
     if (!info.exists() || !(withFiles_ || info.isDir())) return nullptr;
     Items one;
-    one.emplace_back(new Item{name, order().sortKey(name), info.isDir()});
+    one.emplace_back(new Item{name, nameOrder().sortKey(name), info.isDir()});
     take(folder, std::move(one));
     return named()->get();
 }
@@ -203,7 +192,7 @@ FolderModel::Items FolderModel::read(const QString& folder) const
         if (entry->d_name[0] == '.') continue;
         const QString name = QFile::decodeName(entry->d_name);
         const bool isFolder = isFolderEntry(*entry, folder + '/' + name);
-        if (isFolder || withFiles_) items.emplace_back(new Item{name, order().sortKey(name), isFolder});
+        if (isFolder || withFiles_) items.emplace_back(new Item{name, nameOrder().sortKey(name), isFolder});
     }
     std::ranges::sort(items, [](const auto& a, const auto& b) { return *a < *b; });
     return items;
