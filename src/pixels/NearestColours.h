@@ -1,6 +1,6 @@
 // The nearest of a fixed set of colours, for all pixels of a picture. The answers stand in a table of all colours,
-// which is filled cube by cube as colours are asked for: a byte
-// each, so that more of it stays in the cache, and a second one where there are more than 256 colours to choose from.
+// which is filled cube by cube as colours are asked for: a byte each, so that more of it stays in the cache, and a
+// second one where there are more than 256 colours to choose from.
 #pragma once
 #include "pixels/Bits.h"
 #include <array>
