@@ -16,7 +16,7 @@ FLOORS = [
     ["app", "batch"],
 ]
 FLOOR = {room: number for number, rooms in enumerate(FLOORS, 1) for room in rooms}
-SHARED = {"ui/widgets", "ui/widgets/inputs"}  # what every folder of ui/ may include
+SHARED = {"ui/widgets", "ui/widgets/inputs", "ui/widgets/marks"}  # what every folder of ui/ may include
 MOST_FILES = 20
 
 source = pathlib.Path(__file__).resolve().parent.parent / "src"

@@ -62,6 +62,53 @@ inline constexpr Format kFormats[] = {
 };
 // clang-format on
 
+/// A line of a file dialog's list of kinds.
+struct Kinds {
+    std::string_view caption;
+    std::string_view extensions; // split by blanks
+};
+
+// clang-format off
+inline constexpr Kinds kOpened[] = {
+    {"All Supported Picture Formats", "bmp wbmp dib wmf emf gif jpg png pcx pbm pgm ppm ico psd jng mng tif koa pcd ras "
+                                      "tga cut iff lbm"},
+    {"Bitmap Files (*.BMP;*.DIB)",              "bmp dib"},
+    {"Meta Files (*.WMF;*.EMF)",                "wmf emf"},
+    {"Graphical Interface Format(*.GIF)",       "gif"},
+    {"Independent JPEG Group (*.JPG)",          "jpg"},
+    {"Portable Network Graphics (*.PNG)",       "png"},
+    {"Zsoft Paintbrush Files (*.PCX)",          "pcx"},
+    {"Wireless Bitmap (*.WBMP)",                "wbmp"},
+    {"Portable Bitmap (*.PBM)",                 "pbm"},
+    {"Portable Graymap (*.PGM)",                "pgm"},
+    {"Portable Pixelmap (*.PPM)",               "ppm"},
+    {"Windows Icon (*.ICO)",                    "ico"},
+    {"Photoshop (*.PSD)",                       "psd"},
+    {"JPEG Network Graphics (*.JNG)",           "jng"},
+    {"Multiple Network Graphics (*.MNG)",       "mng"},
+    {"Tagged Image File Format (*.TIF)",        "tif"},
+    {"Commodore 64 Koala format (*.KOA)",       "koa"},
+    {"Kodak PhotoCD (*.PCD)",                   "pcd"},
+    {"Sun Rasterfile (*.RAS)",                  "ras"},
+    {"Targa files (*.TGA)",                     "tga"},
+    {"Dr.Halo bitmap (*.CUT)",                  "cut"},
+    {"Interchanged File Format (*.IFF)",        "iff"},
+    {"Deluxe Paint package (*.LBM)",            "lbm"},
+};
+
+inline constexpr Kinds kSaved[] = {
+    {"All Supported graphic formats ",          "bmp gif jpg png tga pcx tif pbm pgm ppm"},
+    {"Windows Bitmap Files (*.bmp)",            "bmp"},
+    {"Graphical Interface Format (*.GIF)",      "gif"},
+    {"Independent JPEG Group (*.JPG)",          "jpg"},
+    {"Portable Network Graphics (*.PNG)",       "png"},
+    {"Targa files (*.TGA)",                     "tga"},
+    {"Zsoft Paintbrush (*.PCX)",                "pcx"},
+    {"Tagged Image File Format (*.TIF)",        "tif"},
+    {"ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)", "ppm pgm pbm"},
+};
+// clang-format on
+
 /// By its extension in lower case; null when there is no such format.
 constexpr const Format* findFormat(std::string_view extension)
 {

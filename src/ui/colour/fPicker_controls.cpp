@@ -3,6 +3,7 @@
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPicker.h"
+#include "ui/widgets/inputs/named.h"
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGridLayout>
@@ -18,13 +19,6 @@ namespace {
 
 constexpr int kStripWidth = 20;
 constexpr QSize kWell{64, 26};
-
-template <class Widget> Widget* named(Widget* widget, const char* name, const QString& accessibleName)
-{
-    widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 } // namespace
 

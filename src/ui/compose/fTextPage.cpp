@@ -4,6 +4,7 @@
 #include "seams/Setup.h"
 #include "ui/compose/mFonts.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QComboBox>
 #include <QEvent>
 #include <QIntValidator>
@@ -26,24 +27,23 @@ constexpr Colour kPaper = 0xFFFFFF, kFace = 0;
 /// As a mask it lets through a third of the colour, as a picture it is the grey of a button's edge.
 constexpr Colour kShadow = 0x7F7F7F;
 
-template <class Control> Control* named(Control* control, const char* name, const QString& accessibleName)
+/// Named, with the name for people shown as a hint too.
+template <class Control> Control* hinted(Control* control, const char* name, const QString& accessibleName)
 {
-    control->setObjectName(QLatin1String(name));
-    control->setAccessibleName(accessibleName);
     control->setToolTip(accessibleName);
-    return control;
+    return named(control, QLatin1String(name), accessibleName);
 }
 
 QComboBox* choice(const char* name, const QString& accessibleName, const char* entries)
 {
-    auto* list = named(new QComboBox, name, accessibleName);
+    auto* list = hinted(new QComboBox, name, accessibleName);
     if (*entries) list->addItems(QString::fromLatin1(entries).split(u'|'));
     return list;
 }
 
 QToolButton* toggle(const char* name, const QString& accessibleName, const QString& letter)
 {
-    auto* button = named(new QToolButton, name, accessibleName);
+    auto* button = hinted(new QToolButton, name, accessibleName);
     button->setText(letter);
     button->setCheckable(true);
     QFont font = button->font();
@@ -80,7 +80,7 @@ Bits inkOf(const Bits& bits)
 } // namespace
 
 fTextPage::fTextPage(Frame& frame, QWidget* parent)
-    : QWidget(parent), frame_(frame), txtText_(named(new QPlainTextEdit, "txtText", tr("Text"))),
+    : QWidget(parent), frame_(frame), txtText_(hinted(new QPlainTextEdit, "txtText", tr("Text"))),
       cboFont_(choice("cboFont", tr("Font"), "")), cboSize_(choice("cboSize", tr("Size"), "")),
       cboAlign_(choice("cboAlign", tr("Alignment"), "Left Justify|Centre Justify|Right Justify|Full Justify")),
       cboShadow_(choice("cboShadow", tr("Shadow"),
@@ -122,7 +122,7 @@ void fTextPage::makeControls()
     picCustom_->setMinimumSize(160, 90);
     picCustom_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     picCustom_->installEventFilter(this);
-    auto* place = named(new QPushButton(tr("&Place with the mouse")), "cmdPlace", tr("Place with the mouse"));
+    auto* place = hinted(new QPushButton(tr("&Place with the mouse")), "cmdPlace", tr("Place with the mouse"));
     place->setToolTip(tr("Takes the text tool: press on the picture, drag, and let go where the text shall stand"));
     connect(place, &QPushButton::clicked, this, &fTextPage::placing);
 

@@ -1,5 +1,6 @@
 // FWeb: how its controls are made and laid out.
 #include "ui/export/FWeb.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -17,13 +18,6 @@ namespace velara {
 namespace {
 
 constexpr auto kEmptyQuality = "50"; // what a quality that was left empty becomes
-
-template <class Widget> Widget* named(Widget* widget, const char* name, const QString& accessibleName)
-{
-    widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 QPushButton* button(const char* name, const QString& text)
 {

@@ -4,6 +4,7 @@
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,13 +24,6 @@ namespace {
 constexpr const char* kChannels[] = {"Red", "Green", "Blue"};
 
 QString numbered(const char* name, std::size_t index) { return QLatin1String(name) + u'_' + QString::number(index); }
-
-template <class Widget> Widget* named(Widget* widget, const QString& name, const QString& accessibleName = {})
-{
-    widget->setObjectName(name);
-    if (!accessibleName.isEmpty()) widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 } // namespace
 

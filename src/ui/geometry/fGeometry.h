@@ -4,6 +4,7 @@
 #include "document/Document.h"
 #include "engine/cBitFilter.h"
 #include "seams/Change.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -37,12 +38,6 @@ class fGeometry : public QDialog {
     /// The job done on a copy of the picture.
     static Bits tried(const Bits& picture, const Job& job);
 
-    template <class Control> Control* named(Control* control, const char* name, const QString& accessible)
-    {
-        control->setObjectName(name);
-        control->setAccessibleName(accessible);
-        return control;
-    }
     QGridLayout& grid() { return *grid_; }
     Platform& platform() const { return platform_; }
 

@@ -1,7 +1,7 @@
 // fIconMaker: cuts icons out of a picture of the screens. A frame of the chosen size is dragged over the picture, or
 // moved by the arrow keys; a small bar on it shows what is in the frame, takes it, and closes.
 #pragma once
-#include "ui/widgets/ScreenCover.h"
+#include "ui/widgets/marks/ScreenCover.h"
 #include <functional>
 
 class QLabel;

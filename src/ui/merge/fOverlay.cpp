@@ -5,6 +5,7 @@
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
@@ -25,13 +26,6 @@ namespace {
 
 constexpr QSize kPreview{380, 300};
 constexpr int kWatch = 150; // milliseconds between two looks at the open pictures
-
-template <class Widget> Widget* named(Widget* widget, const char* name, const QString& accessibleName)
-{
-    widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 bool hasPicture(const DocumentHandle& document) { return document && document->PictureExists(); }
 

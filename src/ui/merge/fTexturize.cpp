@@ -6,6 +6,7 @@
 #include "seams/Platform.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -25,13 +26,6 @@ namespace {
 
 constexpr QSize kThumbnail{64, 64}, kChosen{112, 112}, kPreview{340, 280};
 const QStringList kPattern{QStringLiteral("*.bmp"), QStringLiteral("*.jpg"), QStringLiteral("*.gif")};
-
-template <class Widget> Widget* named(Widget* widget, const char* name, const QString& accessibleName)
-{
-    widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 QIcon iconOf(const Bits& bits)
 {
@@ -124,13 +118,13 @@ QWidget* fTexturize::makeControls()
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     iTexture_ = new fPicture(QStringLiteral("iTexture"), tr("The texture"), kChosen, box);
-    auto* weight = named(new QLabel(tr("Intensity"), box), "lblWeight", {});
+    auto* weight = named(new QLabel(tr("Intensity"), box), "lblWeight");
     sbWeight_ = named(new QSlider(Qt::Horizontal, box), "sbWeight", tr("Intensity"));
     sbWeight_->setRange(0, kMostIntensity);
     sbWeight_->setPageStep(10);
     sbWeight_->setValue(texturing_.intensity);
     weight->setBuddy(sbWeight_);
-    auto* depth = named(new QLabel(tr("Depth "), box), "Label1", {});
+    auto* depth = named(new QLabel(tr("Depth "), box), "Label1");
     cbDepth_ = named(new QComboBox(box), "cbDepth", tr("Depth"));
     cbDepth_->addItems({tr("Emboss"), tr("Engrave")});
     depth->setBuddy(cbDepth_);

@@ -1,7 +1,7 @@
 // fCaptureRectangle: the picker of a rectangle on the picture of the screens: a drag picks. Beside the pointer a
 // magnifier shows the pixels around it and what is picked so far.
 #pragma once
-#include "ui/widgets/ScreenCover.h"
+#include "ui/widgets/marks/ScreenCover.h"
 #include <optional>
 
 namespace velara {

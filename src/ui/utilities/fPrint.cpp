@@ -3,6 +3,7 @@
 #include "seams/Platform.h"
 #include "ui/utilities/fPagePreview.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
@@ -20,12 +21,6 @@ namespace {
 constexpr QSize kPreview{200, 200};
 constexpr int kMostCopies = 9999; // what print servers take
 constexpr PageOrientation kOrientations[] = {PageOrientation::Portrait, PageOrientation::Landscape};
-
-template <class Control> Control* named(Control* control, const char* name)
-{
-    control->setObjectName(name);
-    return control;
-}
 
 } // namespace
 

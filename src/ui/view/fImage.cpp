@@ -255,10 +255,7 @@ void fImage::forget()
     tmrSelection_.stop();
     document_.retire();
     document_.undo.deleteSeries();
-    for (const QWidget* widget : QApplication::allWidgets())
-        if (const auto* other = qobject_cast<const fImage*>(widget);
-            other && other != this && !other->forgotten_ && &other->frame_ == &frame_)
-            return;
+    if (std::ranges::any_of(frame_.openDocuments(), &DocumentHandle::operator bool)) return;
     for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
         frame_.setStatus(panel, {});
 }

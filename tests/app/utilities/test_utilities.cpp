@@ -3,7 +3,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "fileio/writers/iconFile.h"
-#include "ui/widgets/ScreenCover.h"
+#include "ui/widgets/marks/ScreenCover.h"
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>

@@ -229,6 +229,7 @@ TEST_F(Window, TheLastDocumentEmptiesTheStatusBar)
     auto b = std::make_unique<fImage>(frame);
     frame.setStatus(Panel::Name, "a");
     frame.setStatus(Panel::Zoom, "1 : 1");
+    frame.document = &b->document();
     a.close();
     EXPECT_EQ(frame.status[Panel::Name], "a");
     b->close();

@@ -1,4 +1,5 @@
-#include "ui/widgets/ScreenCover.h"
+#include "ui/widgets/marks/ScreenCover.h"
+#include "ui/widgets/marks/Mark.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,18 +17,11 @@ namespace {
 constexpr int kLineWidth = 2;
 
 /// A line of the rectangle: dashes of black and white, so that it is seen on everything.
-class Line final : public QWidget {
-  public:
-    using QWidget::QWidget;
-
-  protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.fillRect(rect(), Qt::white);
-        painter.fillRect(rect(), QBrush(Qt::black, Qt::Dense4Pattern));
-    }
-};
+void paintLine(QPainter& painter, const QRect& rect)
+{
+    painter.fillRect(rect, Qt::white);
+    painter.fillRect(rect, QBrush(Qt::black, Qt::Dense4Pattern));
+}
 
 } // namespace
 
@@ -43,8 +37,7 @@ CoverWindow::CoverWindow(ScreenCover& cover, const ScreenPicture::Part& part)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (std::size_t i = 0; i < lines_.size(); ++i) {
-        lines_[i] = new Line(this);
-        lines_[i]->setObjectName(QString("Line%1").arg(i + 1));
+        lines_[i] = new Mark(paintLine, QString("Line%1").arg(i + 1), this);
         lines_[i]->setAttribute(Qt::WA_TransparentForMouseEvents);
         lines_[i]->hide();
     }
