@@ -15,18 +15,7 @@ pure() {
     [ -z "$foreign" ] || fail "$1: $foreign"
 }
 documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
-offer() { # TYPE FILE
-    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
-    pids="$pids $!"
-    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
-}
-start
-quit
-patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
-patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels in twips
-patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
-patch_config 266 '\0\0'                                        # no questions
-start
+start_plain
 pure "the start"
 
 count=0
@@ -56,7 +45,7 @@ sleep 0.5
 pure "New.bmp"
 
 # The first stamp of the folder is a GIF of another name; the folder's textures are drawn small.
-xdotool mousemove --window "$(frame)" $((24 + 2 * 34)) $((40 + 1 * 31)) click 1
+tool 2 1
 sleep 0.5
 pure "a stamp"
 mkdir -p "$folder/Textures"
