@@ -55,6 +55,7 @@ until_true "the dialog of textures" has_window 'Textur'
 sleep 1
 pure "textures"
 keys Escape
+xdotool mousemove 900 600 # off the strip, whose pop-up would lie in the way
 
 "$bin/drag_source" "$scratch/in.gif" "$scratch/in.jpg" >"$scratch/drag.log" 2>&1 &
 pids="$pids $!"
@@ -63,7 +64,7 @@ source=$(xdotool search --onlyvisible --name '^drag source$')
 xdotool windowmove --sync "$source" 1000 10
 sleep 0.3
 xdotool mousemove --window "$source" 40 40 mousedown 1
-for x in 1000 900 800 700 500 505; do
+for x in 1000 900 800 705 700; do
     xdotool mousemove $x 400
     sleep 0.05
 done
