@@ -5,6 +5,7 @@
 #include "fileio/load/PictureLoader.h"
 #include "support/pictures.h"
 #include "support/places.h"
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -45,6 +46,7 @@ class Cage : public ::testing::Test {
         const std::string_view text = name;
         if (text == "memory" || text == "direct") return attempt(name, address, cage);
         if (text == "connect") return attempt(name, "9", cage);
+        if (text == "write") return attempt(name, font, cage);
         return attempt(name, text == "outlive" ? folder.filePath("outlived") : victim, cage);
     }
     /// True when neither the file beside nor this process shows a trace of any attempt.
@@ -75,11 +77,13 @@ class Cage : public ::testing::Test {
 
     QTemporaryDir folder;
     const QString payload = folder.filePath("velara-decode"), victim = folder.filePath("precious.txt");
+    const QString font = QDirIterator("/usr/share/fonts", QDir::Files, QDirIterator::Subdirectories).next();
     volatile char target = 't';
 };
 
-constexpr const char* kAttempts[] = {"read",    "create",  "truncate", "link",   "unlink", "list",  "map",    "shell",
-                                     "outlive", "connect", "display",  "memory", "direct", "trace", "signal", "code"};
+constexpr const char* kAttempts[] = {"read",   "create", "write", "truncate", "link",    "unlink",
+                                     "list",   "map",    "shell", "outlive",  "connect", "display",
+                                     "memory", "direct", "trace", "signal",   "code"};
 
 } // namespace
 
@@ -110,7 +114,7 @@ TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
     asEveryUser([&] {
         EXPECT_TRUE(answerTo("nothing", "nofilter").endsWith("it worked")) << "the payload doesn't answer";
         for (const char* name :
-             {"read", "create", "link", "unlink", "list", "map", "shell", "memory", "direct", "trace"})
+             {"read", "create", "write", "link", "unlink", "list", "map", "shell", "memory", "direct", "trace"})
             EXPECT_TRUE(answerTo(name, "nofilter").contains("refused: "))
                 << name << ": " << answerTo(name, "nofilter").toStdString();
         EXPECT_TRUE(untouched());
