@@ -3,6 +3,7 @@
 // user.
 #include "fileio/decode/Cage.h"
 #include "fileio/load/PictureLoader.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QDirIterator>
@@ -24,20 +25,14 @@ class Cage : public ::testing::Test {
     {
         chmod(QFile::encodeName(folder.path()).constData(), 0777);
         EXPECT_TRUE(QFile::copy(builtPath("velara-decode-payload"), payload));
-        write(victim, "precious");
+        putFile(victim, "precious");
         chmod(QFile::encodeName(victim).constData(), 0666);
-    }
-    static void write(const QString& path, const QByteArray& contents)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
     }
     /// What the payload says of an attempt from inside the cage that the extension names.
     QString attempt(const char* name, const QString& on, const char* cage)
     {
         const QString file = folder.filePath("attempt");
-        write(file, QByteArray(name) + '\n' + on.toUtf8());
+        putFile(file, QByteArray(name) + '\n' + on.toUtf8());
         return loadThroughDecoder(file, cage, payload).reason;
     }
     QString answerTo(const char* name, const char* cage)
@@ -52,10 +47,8 @@ class Cage : public ::testing::Test {
     /// True when neither the file beside nor this process shows a trace of any attempt.
     bool untouched() const
     {
-        QFile file(victim);
-        return file.open(QIODevice::ReadOnly) && file.readAll() == "precious" && target == 't' &&
-               !QFile::exists(victim + ".new") && !QFile::exists(victim + ".link") &&
-               !QFile::exists(folder.filePath("outlived"));
+        return fileBytes(victim) == "precious" && target == 't' && !QFile::exists(victim + ".new") &&
+               !QFile::exists(victim + ".link") && !QFile::exists(folder.filePath("outlived"));
     }
     /// Runs the body in a process of an ordinary user too, when this one is root's; it fails by its exit code.
     template <class Body> void asEveryUser(Body body)
