@@ -1,5 +1,6 @@
 // The real program on real files: what it writes, what it says and how it ends.
 #include "region/Region.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QDir>
@@ -33,11 +34,7 @@ struct BatchTest : ::testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    QByteArray content(const std::string& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
+    QByteArray content(const std::string& name) const { return fileBytes(path(name), "missing"); }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
 
     /// Runs it in the folder; arguments are split at blanks. before is shell text that runs first.

@@ -17,7 +17,7 @@ finish() {
     status=$?
     trap - EXIT
     if [ "$status" != 0 ] && [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/$(basename "$0").png" || true; fi
-    for pid in $pids; do kill "$pid" 2>/dev/null || true; done
+    for pid in $pids; do kill "$pid" 2>/dev/null && kill -CONT "$pid" 2>/dev/null || true; done
     if grep -E 'ERROR: AddressSanitizer|runtime error:' "$scratch"/log* >&2 2>/dev/null; then status=99; fi
     wait 2>/dev/null || true
     rm -rf "$scratch"
@@ -31,11 +31,11 @@ fail() {
     exit 1
 }
 
-# until WHAT COMMAND...: waits up to ten seconds for the command to succeed
+# until WHAT COMMAND...: waits up to half a minute for the command to succeed
 until_true() {
     what=$1
     shift
-    for _ in $(seq 200); do
+    for _ in $(seq 600); do
         if "$@" >/dev/null 2>&1; then return 0; fi
         sleep 0.05
     done
@@ -69,6 +69,32 @@ start() {
     pids="$pids $editor"
     until_true "the frame" count_titled 1
     sleep 0.4
+}
+
+# A frame of 900 by 700 pixels without boxes and bars, which asks no questions: strip and picture lie still.
+start_plain() {
+    start
+    quit
+    patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
+    patch_config 0 '\274\064\004\051'
+    patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0'
+    patch_config 266 '\0\0'
+    [ -z "${1:-}" ] || patch_config 6 '\377\377' # pictures maximized
+    start
+}
+
+# tool COLUMN ROW: presses a button of the strip
+tool() {
+    xdotool mousemove --window "$(frame)" $((24 + $1 * 34)) $((40 + $2 * 31)) click 1
+    sleep 0.2
+}
+
+# offer TYPE FILE: another program's clipboard
+offer() {
+    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
+    owner=$!
+    pids="$pids $owner"
+    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
 }
 
 keys() {

@@ -4,12 +4,6 @@
 convert -size 60x40 plasma:red-blue -type truecolor "$scratch/in.bmp"
 convert "$scratch/in.bmp" "$scratch/in.png"
 convert -size 1500x1200 plasma:red-blue -type truecolor "$scratch/large.bmp" # comes in pieces
-offer() { # TYPE FILE
-    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
-    owner=$!
-    pids="$pids $owner"
-    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
-}
 start
 offer image/png "$scratch/in.png"
 keys alt+e f

@@ -2,43 +2,9 @@
 # Selected parts cut, copied and pasted with a real mouse: what the undo files hold, what other programs get from the
 # clipboard, and what they put there.
 . "$(dirname "$0")/lib.sh"
-
-W=64 H=48 zoom=4
+. "$(dirname "$0")/painting.sh"
 convert -size ${W}x$H 'xc:#ff00ff' -fill '#00ff00' -draw 'rectangle 10,10 13,13' "BMP3:$scratch/in.bmp"
-
-start
-quit
-patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
-patch_config 0 '\274\064\004\051'                                     # 900 x 700 pixels in twips
-patch_config 6 '\377\377'                                             # pictures maximized
-patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
-patch_config 266 '\0\0' # no questions
-start
-open_file "$scratch/in.bmp"
-keys ctrl+plus ctrl+plus ctrl+plus
-xdotool mousemove 600 20
-sleep 0.5
-import -window root "$scratch/screen.png"
-box=$(convert "$scratch/screen.png" -fill '#ff00ff' -opaque '#00ff00' -fill black +opaque '#ff00ff' -format '%@' info:)
-[ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ] || fail "the picture is $box on the screen"
-left=$(echo "$box" | cut -d+ -f2) top=$(echo "$box" | cut -d+ -f3)
-over() { echo $((left + $1 * zoom + zoom / 2)) $((top + $2 * zoom + zoom / 2)); }
-drag() {
-    xdotool mousemove $(over "$1" "$2") mousedown 1
-    sleep 0.05
-    xdotool mousemove $(over "$3" "$4")
-    sleep 0.05
-    xdotool mouseup 1
-    sleep 0.25
-}
-step() { echo "$folder/Temp/b00010$1.dat"; }
-# is STEP X Y COLOUR, blue green red
-is() {
-    got=$(od -An -tu1 -j $((40 + (($3 + 2) * (W + 4) + $2 + 2) * 4)) -N 3 "$(step "$1")" | tr -s ' ' | sed 's/^ //')
-    [ "$got" = "$4" ] || fail "step $1: at $2,$3 wanted $4, got $got"
-}
-saved() { until_true "step $1" test -s "$(step "$1")"; sleep 0.2; }
-plain='255 0 255' green='0 255 0' black='0 0 0'
+open_large "$scratch/in.bmp" '#ff00ff' '#00ff00'
 
 # Nothing is selected: a message, and no clip.
 keys ctrl+c
@@ -57,8 +23,7 @@ is 1 39 28 '255 0 0'
 is 1 50 30 "$plain"
 
 # An ellipse copied: the clipboard of the desktop has it with what is around transparent.
-xdotool mousemove --window "$(frame)" $((24 + 2 * 34)) $((40 + 0 * 31)) click 1 # Select
-sleep 0.2
+tool 2 0 # Select
 drag 8 8 18 18
 keys ctrl+c
 sleep 0.3

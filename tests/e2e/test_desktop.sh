@@ -18,13 +18,7 @@ saved_size() { [ "$(identify -format '%wx%h' "$1")" = "$2" ] || fail "$1 is $(id
 
 # 40 by 30: left half red, right half blue
 convert -size 20x30 xc:red xc:blue +append "BMP3:$scratch/in.bmp"
-start
-quit
-patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
-patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels in twips
-patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
-patch_config 266 '\0\0' # no questions
-start
+start_plain
 xdotool windowmove --sync "$(frame)" 0 0
 open_file "$scratch/in.bmp"
 

@@ -15,18 +15,7 @@ pure() {
     [ -z "$foreign" ] || fail "$1: $foreign"
 }
 documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
-offer() { # TYPE FILE
-    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
-    pids="$pids $!"
-    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
-}
-start
-quit
-patch_config() { printf "$2" | dd of="$folder/Vlaera.dat" bs=1 seek="$1" conv=notrunc 2>/dev/null; }
-patch_config 0 '\274\064\004\051'                            # 900 x 700 pixels in twips
-patch_config 2318 '\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0' # no boxes and no bars
-patch_config 266 '\0\0'                                        # no questions
-start
+start_plain
 pure "the start"
 
 count=0
@@ -56,7 +45,7 @@ sleep 0.5
 pure "New.bmp"
 
 # The first stamp of the folder is a GIF of another name; the folder's textures are drawn small.
-xdotool mousemove --window "$(frame)" $((24 + 2 * 34)) $((40 + 1 * 31)) click 1
+tool 2 1
 sleep 0.5
 pure "a stamp"
 mkdir -p "$folder/Textures"
@@ -66,6 +55,7 @@ until_true "the dialog of textures" has_window 'Textur'
 sleep 1
 pure "textures"
 keys Escape
+xdotool mousemove 900 600 # off the strip, whose pop-up would lie in the way
 
 "$bin/drag_source" "$scratch/in.gif" "$scratch/in.jpg" >"$scratch/drag.log" 2>&1 &
 pids="$pids $!"
@@ -74,7 +64,7 @@ source=$(xdotool search --onlyvisible --name '^drag source$')
 xdotool windowmove --sync "$source" 1000 10
 sleep 0.3
 xdotool mousemove --window "$source" 40 40 mousedown 1
-for x in 1000 900 800 700 500 505; do
+for x in 1000 900 800 705 700; do
     xdotool mousemove $x 400
     sleep 0.05
 done

@@ -1,6 +1,7 @@
 #include "fileio/SetupStore.h"
 #include "fileio/fileBytes.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
@@ -12,19 +13,6 @@ namespace {
 using Record = velara::Setup; // the test class has a member of that name
 
 QString setupFile(RecordingPlatform& platform) { return platform.folder.filePath(QStringLiteral("Vlaera.dat")); }
-
-QByteArray content(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-}
-
-void put(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 QByteArray bytesOf(const Record& setup)
 {
@@ -73,7 +61,7 @@ TEST(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
     RecordingPlatform platform;
     const Record first = LoadSetup(platform);
     EXPECT_EQ(9600, first.FrameWidth);
-    EXPECT_EQ(QByteArray(), content(setupFile(platform))) << "an empty file stands until the frame closes";
+    EXPECT_EQ(QByteArray(), fileBytes(setupFile(platform))) << "an empty file stands until the frame closes";
     const Record second = LoadSetup(platform);
     EXPECT_EQ(0, second.FrameWidth);
     EXPECT_FALSE(second.BarVisible[6]);
@@ -90,7 +78,7 @@ TEST(SetupStore, AnyFileIsSurvived)
     for (const int length : {0, 1, 7, 263, 264, 2345, 3080, 3081, 5000}) {
         QByteArray bytes(length, '\0');
         for (char& c : bytes) c = static_cast<char>(random());
-        put(setupFile(platform), bytes);
+        putFile(setupFile(platform), bytes);
         const Record setup = LoadSetup(platform);
         if (length >= 4) {
             EXPECT_EQ(wordAt(bytes, 0, 2), setup.FrameWidth);
@@ -100,7 +88,7 @@ TEST(SetupStore, AnyFileIsSurvived)
             EXPECT_EQ(bytes.mid(2422, 2), bytesOf(setup).mid(2422, 2));
         }
         ASSERT_TRUE(SaveSetup(platform, setup));
-        EXPECT_EQ(bytes.mid(3081), content(setupFile(platform)).mid(3081)) << "a longer file keeps its tail";
+        EXPECT_EQ(bytes.mid(3081), fileBytes(setupFile(platform)).mid(3081)) << "a longer file keeps its tail";
         EXPECT_EQ(bytesOf(setup), bytesOf(LoadSetup(platform))) << length;
     }
     QFile::remove(setupFile(platform));
@@ -116,17 +104,17 @@ TEST(SetupStore, TextsOfAForeignCodePageSurviveARun)
     const QByteArray greek = "/home/\xc5\xe9\xea\xfc\xed\xe5\xf2/";
     bytes.replace(8, 256, greek.leftJustified(256, ' '));
     bytes.replace(270, 256, ("/old" + greek).leftJustified(256, '\0'));
-    put(setupFile(platform), bytes);
+    putFile(setupFile(platform), bytes);
     Record setup = LoadSetup(platform);
     setup.ForeColor = 0x123456;
     ASSERT_TRUE(SaveSetup(platform, setup));
-    const QByteArray after = content(setupFile(platform));
+    const QByteArray after = fileBytes(setupFile(platform));
     EXPECT_EQ(bytes.mid(8, 256), after.mid(8, 256));
     EXPECT_EQ(bytes.mid(270, 256), after.mid(270, 256)) << "its padding too";
     EXPECT_EQ(0x123456, wordAt(after, 2348, 4));
     setup.ImagesPath = QStringLiteral("/new/");
     ASSERT_TRUE(SaveSetup(platform, setup));
-    EXPECT_EQ(QByteArray("/new/").leftJustified(256, ' '), content(setupFile(platform)).mid(8, 256));
+    EXPECT_EQ(QByteArray("/new/").leftJustified(256, ' '), fileBytes(setupFile(platform)).mid(8, 256));
 }
 
 TEST(SetupStore, TheFileIsTheUsersAloneAndNoLink)
@@ -136,13 +124,13 @@ TEST(SetupStore, TheFileIsTheUsersAloneAndNoLink)
     ASSERT_TRUE(SaveSetup(platform, setup));
     EXPECT_FALSE(QFile::permissions(setupFile(platform)) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup));
     const QString victim = platform.folder.filePath(QStringLiteral("victim"));
-    put(victim, "victim");
+    putFile(victim, "victim");
     QFile::remove(setupFile(platform));
     QFile::link(victim, setupFile(platform));
     EXPECT_EQ(9600, LoadSetup(platform).FrameWidth);
     ASSERT_TRUE(SaveSetup(platform, setup));
-    EXPECT_EQ("victim", content(victim));
-    EXPECT_EQ(bytesOf(setup), content(setupFile(platform)));
+    EXPECT_EQ("victim", fileBytes(victim));
+    EXPECT_EQ(bytesOf(setup), fileBytes(setupFile(platform)));
 }
 
 TEST(SetupStore, TextsAreCutAtAWholeCharacter)
@@ -184,7 +172,7 @@ TEST(SetupStore, TheRecentListKeepsPlacesUntilItIsFull)
 TEST(FileFound, MatchesWildcardsInTheLastPart)
 {
     QTemporaryDir folder;
-    put(folder.filePath(QStringLiteral("a[1].dat")), {});
+    putFile(folder.filePath(QStringLiteral("a[1].dat")), {});
     QDir(folder.path()).mkdir(QStringLiteral("Temp"));
     const std::pair<const char*, bool> kCases[] = {
         {"a[1].dat", true}, {"Temp", true},    {"b.dat", false}, {"*.dat", true}, {"*.bmp", false},

@@ -3,6 +3,7 @@
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include "support/places.h"
@@ -55,16 +56,10 @@ class SavePicture : public ::testing::Test {
     QString path(const QString& name) const { return QDir(folder.path()).filePath(name); }
     QString write(const QString& name, const QByteArray& contents)
     {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-        return file.fileName();
+        putFile(path(name), contents);
+        return path(name);
     }
-    static QByteArray contentsOf(const QString& name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-    }
+    static QByteArray contentsOf(const QString& name) { return fileBytes(name, "(none)"); }
     static LoadedPicture load(const QString& name)
     {
         return loadThroughDecoder(name, QFileInfo(name).suffix(), builtPath("velara-decode"));

@@ -1,5 +1,6 @@
 #include "platform/WindowlessPlatform.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QDir>
@@ -80,11 +81,9 @@ TEST(CorePlatform, ClockAndChance)
 TEST(CorePlatform, LoadsThroughTheHelperBesideTheProgram)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("a.ppm"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("P6\n1 1\n255\n\1\2\3");
-    file.close();
-    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), HomePlatform().loadPicture(file.fileName(), "PPM").bits));
+    const QString path = folder.filePath("a.ppm");
+    putFile(path, "P6\n1 1\n255\n\1\2\3");
+    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), HomePlatform().loadPicture(path, "PPM").bits));
 }
 
 } // namespace velara

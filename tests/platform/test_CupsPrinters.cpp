@@ -3,6 +3,7 @@
 #include "commands/printing.h"
 #include "platform/desktop/printing/CupsPrinters.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <QFile>
 #include <QImage>
@@ -46,20 +47,11 @@ class PrintServer {
         server_.waitForFinished();
     }
     bool admin(const QStringList& arguments) { return QProcess::execute("/usr/sbin/lpadmin", arguments) == 0; }
-    QByteArray spooled(const QString& name)
-    {
-        QFile file(path() + "/spool/" + name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray spooled(const QString& name) { return fileBytes(path() + "/spool/" + name); }
 
   private:
     QString path() const { return folder_.path(); }
-    void write(const QString& name, const QString& text)
-    {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-    }
+    void write(const QString& name, const QString& text) { putFile(folder_.filePath(name), text.toUtf8()); }
     QTemporaryDir folder_;
     QProcess server_;
 };
@@ -189,10 +181,7 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     wanted.quality = PrintQuality::High;
     EXPECT_EQ(toPrinter("Lab", wanted), "");
     const QString pdf = folder.filePath("spooled.pdf");
-    QFile file(pdf);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(server.spooled("d00001-001"));
-    file.close();
+    putFile(pdf, server.spooled("d00001-001"));
     expectNear(inked(rendered(pdf)), wanted.place);
     QByteArray job; // written when the server has the time
     EXPECT_TRUE(waitUntil([&] { return (job = server.spooled("c00001")).contains("a picture"); }));

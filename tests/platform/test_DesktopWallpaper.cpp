@@ -3,6 +3,7 @@
 #include "platform/desktop/DesktopWallpaper.h"
 #include "platform/desktop/rootPicture.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <QDir>
 #include <QFile>
@@ -36,11 +37,7 @@ struct Desktop {
                    "\n");
         file.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
     }
-    QByteArray log() const
-    {
-        QFile file(folder.filePath("log"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray log() const { return fileBytes(folder.filePath("log")); }
     bool set(DesktopWallpaper& wallpaper, WallpaperMode mode, const QString& file = "/data/a b.bmp")
     {
         wallpaper.set(file, mode, [this](WallpaperResult r) { result = r; });
@@ -109,14 +106,7 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
 {
     QTemporaryDir folder;
     const QString log = folder.filePath("log"), file = folder.filePath("it's.bmp");
-    QFile picture(file);
-    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
-    picture.write("the picture");
-    picture.close();
-    const auto readAll = [](const QString& path) {
-        QFile read(path);
-        return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
-    };
+    putFile(file, "the picture");
     {
         PrivateBus bus;
         ASSERT_TRUE(bus.serve("org.kde.plasmashell", "plasma.py", {{"log", log}}));
@@ -125,8 +115,9 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
         ASSERT_TRUE(desktop.set(wallpaper, WallpaperMode::Stretch, file));
         EXPECT_EQ(desktop.result, WallpaperResult::Done);
         const QByteArray address = "file://" + folder.path().toUtf8() + "/it%27s.bmp"; // no quote ends the word early
-        EXPECT_TRUE(readAll(log).contains("d.writeConfig('Image', '" + address + "');")) << readAll(log).constData();
-        EXPECT_TRUE(readAll(log).contains("d.writeConfig('FillMode', '0');"));
+        EXPECT_TRUE(fileBytes(log).contains("d.writeConfig('Image', '" + address + "');"))
+            << fileBytes(log).constData();
+        EXPECT_TRUE(fileBytes(log).contains("d.writeConfig('FillMode', '0');"));
     }
     QFile::remove(log);
     PrivateBus bus;
@@ -137,8 +128,8 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
     DesktopWallpaper wallpaper(desktop.platform, bus.connection());
     ASSERT_TRUE(desktop.set(wallpaper, WallpaperMode::Tile, file));
     EXPECT_EQ(desktop.result, WallpaperResult::Done);
-    EXPECT_EQ(readAll(log), "SetWallpaperFile background\n");
-    EXPECT_EQ(readAll(copy), "the picture");
+    EXPECT_EQ(fileBytes(log), "SetWallpaperFile background\n");
+    EXPECT_EQ(fileBytes(copy), "the picture");
 }
 
 TEST(RootPicture, TilesFromTheCornerAndLaysOutTheOthersOnEachScreen)

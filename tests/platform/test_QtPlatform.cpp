@@ -2,6 +2,7 @@
 #include "platform/desktop/QtPlatform.h"
 #include "platform/desktop/ReadingBox.h"
 #include "platform/nameFilters.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <QAbstractButton>
 #include <QApplication>
@@ -137,9 +138,7 @@ TEST(QtPlatform, TheQuestionIsAboutTheFileThatIsWritten)
 {
     QtPlatform platform;
     QTemporaryDir folder;
-    QFile there(folder.filePath("x.ppm"));
-    ASSERT_TRUE(there.open(QFile::WriteOnly));
-    there.close();
+    putFile(folder.filePath("x.ppm"), {});
     FileDialog request{"Save as", "Bmp|*.bmp", folder.path()};
     request.writtenAs = [](const QString& name) { return QString(name).replace(".pgm", ".ppm"); };
     for (const bool yes : {false, true}) {

@@ -2,6 +2,7 @@
 #include "PrivateBus.h"
 #include "platform/desktop/QtScreen.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <QFile>
 #include <QImage>
@@ -25,11 +26,7 @@ struct Portal {
         return bus.serve("org.freedesktop.portal.Desktop", "portal.py",
                          {{"answer", answer}, {"uri", QUrl::fromLocalFile(shot).toString()}, {"log", log}});
     }
-    QByteArray calls() const
-    {
-        QFile file(log);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray calls() const { return fileBytes(log); }
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // Scanners through the helper, on the library's own test device.
 #include "PrivateBus.h"
 #include "platform/desktop/SaneScanner.h"
+#include "support/files.h"
 #include "support/places.h"
 #include <QFile>
 #include <QImage>
@@ -20,12 +21,7 @@ class SaneScannerTest : public ::testing::Test {
         write("dll.conf", "test\n");
         write("test.conf", "number_of_devices 1\ntest-picture \"Color pattern\"\nmode Color\nresolution 50\n" + device);
     }
-    void write(const QString& name, const QByteArray& text)
-    {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
+    void write(const QString& name, const QByteArray& text) { putFile(folder.filePath(name), text); }
     /// The picture of a scan; null and reason when it fails.
     QImage scan(const QString& mode, QString* reason = nullptr, const QString& device = "test:0")
     {

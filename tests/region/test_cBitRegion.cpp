@@ -1,5 +1,6 @@
 #include "region/cBitRegion.h"
 #include "region/outline.h"
+#include "support/files.h"
 #include "support/gdiFacts.h"
 #include <QFile>
 #include <QTemporaryDir>
@@ -123,11 +124,7 @@ TEST_F(Selection, FilesAreTheWordsAndNothingElse)
     EXPECT_EQ(other.RegionScaled(), s.Region().scaled(2));
     EXPECT_FALSE(other.SaveToFile("/nowhere/at/all.rgn"));
 
-    const auto write = [&](const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    };
+    const auto write = [&](const QByteArray& bytes) { putFile(path, bytes); };
     QByteArray lying(reinterpret_cast<const char*>(words.data()), 4 * static_cast<int>(words.size()));
     for (const QByteArray& bytes : {QByteArray(), QByteArray("abc"), lying.left(70), QByteArray(5000, '\xff')}) {
         write(bytes);

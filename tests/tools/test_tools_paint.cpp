@@ -340,21 +340,6 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
     EXPECT_EQ(frame.snapshots, 2);
 }
 
-TEST_F(PaintTools, TheSmallestPictureAndTheLargestBrush)
-{
-    open(randomBits(1, 1, 6));
-    frame.setup_.BrushSize = 5000;
-    frame.toolStores_.paste = randomBits(3, 3, 1);
-    for (const char* tool : {"Select", "SelectionMove", "Brush", "Airbrush", "Pencil", "Shape", "Fill", "Stamp", "Text",
-                             "Gradient", "GetColor", "", "Nonsense"}) {
-        choose(tool);
-        drag({{0, 0}, {7, -3}, {0, 0}});
-        drag({{5, 5}, {0, 0}});
-        tools->release(Tools::Right, 0, 0);
-        EXPECT_TRUE(sameBits(frame.filter_.bits(), document.bits())) << tool;
-    }
-}
-
 TEST_F(PaintTools, ACommandBetweenTwoStrokesIsNotLost)
 {
     choose("Shape");

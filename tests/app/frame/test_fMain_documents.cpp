@@ -29,6 +29,18 @@ struct FrameDocuments : FrameTest {
     }
 };
 
+TEST_F(FrameDocuments, TheFrameClosesTheLastOpenedFirst)
+{
+    for (const char* name : {"a.bmp", "b.bmp", "c.bmp"}) {
+        open(randomBits(8, 8, 1), name);
+        frame->Mmenu("INVERT");
+    }
+    platform.answers = {"no", "no"}; // then it is cancelled
+    frame->close();
+    ASSERT_EQ(frame->documents().size(), 1);
+    EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
+}
+
 TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
 {
     frame->resize(1000, 800);

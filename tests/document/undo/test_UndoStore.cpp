@@ -1,5 +1,6 @@
 #include "document/undo/UndoMark.h"
 #include "document/undo/UndoStore.h"
+#include "support/files.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include <QDir>
@@ -24,18 +25,8 @@ struct UndoStoreTest : ::testing::Test {
         return QDir(folder.path()).entryList({QStringLiteral("*.dat")}, QDir::Files, QDir::Name);
     }
     QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
-    static QByteArray contentOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    QByteArray content(const char* name) const { return contentOf(path(name)); }
-    void put(const char* name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    QByteArray content(const char* name) const { return fileBytes(path(name)); }
+    void put(const char* name, const QByteArray& bytes) const { putFile(path(name), bytes); }
     static Bits picture(int i) { return randomBits(5 + i % 3, 4, 100 + static_cast<std::uint32_t>(i)); }
     bool save(const Bits& bits)
     {
@@ -319,7 +310,7 @@ TEST_F(UndoStoreTest, ALinkInThePlaceOfAFileIsNotFollowed)
     const QString victim = elsewhere.filePath(QStringLiteral("victim"));
     saveMany(0, 1);
     QFile::rename(path("b000300.dat"), victim);
-    const QByteArray before = contentOf(victim);
+    const QByteArray before = fileBytes(victim);
     QFile::link(victim, path("b000300.dat"));
     saveMany(1, 1);
     EXPECT_FALSE(store.undo()) << "not read through a link";
@@ -327,7 +318,7 @@ TEST_F(UndoStoreTest, ALinkInThePlaceOfAFileIsNotFollowed)
     saveMany(2, 1);
     ASSERT_EQ(0, ::link(victim.toUtf8().constData(), path("b000303.dat").toUtf8().constData()));
     saveMany(3, 1);
-    EXPECT_EQ(before, contentOf(victim));
+    EXPECT_EQ(before, fileBytes(victim));
     expectUndo(picture(2), false);
 }
 

@@ -1,6 +1,7 @@
 // Valid files that the readers refuse or die of unless they are mended first, built here byte by byte.
 #include "fileio/decode/decode.h"
 #include "fileio/decode/mends.h"
+#include "support/files.h"
 #include <FreeImage.h>
 #include <QFile>
 #include <QTemporaryDir>
@@ -28,11 +29,9 @@ std::string big(std::uint32_t value, int bytes)
 Decoded decodeBytes(const std::string& contents, const QString& extension)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("a." + extension));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(contents.data(), static_cast<qsizetype>(contents.size()));
-    file.close();
-    return decodePicture(FileBytes(file.fileName()), extension);
+    const QString path = folder.filePath("a." + extension);
+    putFile(path, QByteArray::fromStdString(contents));
+    return decodePicture(FileBytes(path), extension);
 }
 
 /// Colours 0xRRGGBB of all pixels, row by row; empty when there is no picture.
@@ -252,9 +251,7 @@ TEST(CutOff, IsToldInEveryFormatThatTells)
         ASSERT_TRUE(FreeImage_Save(format, dib, name, 0)) << extension;
         FreeImage_Unload(dib);
         FreeImage_DeInitialise();
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const std::string whole = file.readAll().toStdString();
+        const std::string whole = fileBytes(QString(name)).toStdString();
         EXPECT_TRUE(decodeBytes(whole, shortName).ok()) << extension;
         EXPECT_TRUE(decodeBytes(whole, shortName).reason.isEmpty()) << extension;
         for (const std::size_t percent : {30U, 60U, 95U}) {

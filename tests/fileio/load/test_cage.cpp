@@ -3,8 +3,10 @@
 // user.
 #include "fileio/decode/Cage.h"
 #include "fileio/load/PictureLoader.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -23,20 +25,14 @@ class Cage : public ::testing::Test {
     {
         chmod(QFile::encodeName(folder.path()).constData(), 0777);
         EXPECT_TRUE(QFile::copy(builtPath("velara-decode-payload"), payload));
-        write(victim, "precious");
+        putFile(victim, "precious");
         chmod(QFile::encodeName(victim).constData(), 0666);
-    }
-    static void write(const QString& path, const QByteArray& contents)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
     }
     /// What the payload says of an attempt from inside the cage that the extension names.
     QString attempt(const char* name, const QString& on, const char* cage)
     {
         const QString file = folder.filePath("attempt");
-        write(file, QByteArray(name) + '\n' + on.toUtf8());
+        putFile(file, QByteArray(name) + '\n' + on.toUtf8());
         return loadThroughDecoder(file, cage, payload).reason;
     }
     QString answerTo(const char* name, const char* cage)
@@ -45,15 +41,14 @@ class Cage : public ::testing::Test {
         const std::string_view text = name;
         if (text == "memory" || text == "direct") return attempt(name, address, cage);
         if (text == "connect") return attempt(name, "9", cage);
+        if (text == "write") return attempt(name, font, cage);
         return attempt(name, text == "outlive" ? folder.filePath("outlived") : victim, cage);
     }
     /// True when neither the file beside nor this process shows a trace of any attempt.
     bool untouched() const
     {
-        QFile file(victim);
-        return file.open(QIODevice::ReadOnly) && file.readAll() == "precious" && target == 't' &&
-               !QFile::exists(victim + ".new") && !QFile::exists(victim + ".link") &&
-               !QFile::exists(folder.filePath("outlived"));
+        return fileBytes(victim) == "precious" && target == 't' && !QFile::exists(victim + ".new") &&
+               !QFile::exists(victim + ".link") && !QFile::exists(folder.filePath("outlived"));
     }
     /// Runs the body in a process of an ordinary user too, when this one is root's; it fails by its exit code.
     template <class Body> void asEveryUser(Body body)
@@ -75,11 +70,13 @@ class Cage : public ::testing::Test {
 
     QTemporaryDir folder;
     const QString payload = folder.filePath("velara-decode"), victim = folder.filePath("precious.txt");
+    const QString font = QDirIterator("/usr/share/fonts", QDir::Files, QDirIterator::Subdirectories).next();
     volatile char target = 't';
 };
 
-constexpr const char* kAttempts[] = {"read",    "create",  "truncate", "link",   "unlink", "list",  "map",    "shell",
-                                     "outlive", "connect", "display",  "memory", "direct", "trace", "signal", "code"};
+constexpr const char* kAttempts[] = {"read",   "create", "write", "truncate", "link",    "unlink",
+                                     "list",   "map",    "shell", "outlive",  "connect", "display",
+                                     "memory", "direct", "trace", "signal",   "code"};
 
 } // namespace
 
@@ -110,7 +107,7 @@ TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
     asEveryUser([&] {
         EXPECT_TRUE(answerTo("nothing", "nofilter").endsWith("it worked")) << "the payload doesn't answer";
         for (const char* name :
-             {"read", "create", "link", "unlink", "list", "map", "shell", "memory", "direct", "trace"})
+             {"read", "create", "write", "link", "unlink", "list", "map", "shell", "memory", "direct", "trace"})
             EXPECT_TRUE(answerTo(name, "nofilter").contains("refused: "))
                 << name << ": " << answerTo(name, "nofilter").toStdString();
         EXPECT_TRUE(untouched());

@@ -1,6 +1,7 @@
 // Pictures scaled down as they come in.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/load/Shrinker.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QFile>
@@ -56,20 +57,18 @@ TEST(LoadSmall, TellsTheSizeAndTheReason)
 {
     const QString decoder = builtPath("velara-decode");
     QTemporaryDir folder;
-    QFile file(folder.filePath("wide.ppm"));
-    ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.write("P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
-    file.close();
-    const SmallPicture small = loadSmall(file.fileName(), "PPM", decoder, {100, 100});
+    const QString wide = folder.filePath("wide.ppm");
+    putFile(wide, "P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
+    const SmallPicture small = loadSmall(wide, "PPM", decoder, {100, 100});
     EXPECT_EQ(small.size, QSize(600, 300));
     ASSERT_EQ(small.image.size(), QSize(100, 50)) << small.reason.toStdString();
     EXPECT_EQ(small.image.pixel(99, 49), 0xFF808080u);
     EXPECT_EQ(small.origin.modified, 0);
-    EXPECT_EQ(loadSmall(file.fileName(), "png", decoder, {100, 100}).reason,
+    EXPECT_EQ(loadSmall(wide, "png", decoder, {100, 100}).reason,
               "wide.ppm can't be read: it is damaged or not a PNG picture");
     EXPECT_EQ(loadSmall(folder.filePath("no.png"), "png", decoder, {9, 9}).reason,
               "no.png can't be read: there is no such file");
-    const SmallPicture left = loadSmall(file.fileName(), "ppm", decoder, {9, 9}, {}, [](auto) { return false; });
+    const SmallPicture left = loadSmall(wide, "ppm", decoder, {9, 9}, {}, [](auto) { return false; });
     EXPECT_TRUE(left.image.isNull());
     EXPECT_EQ(left.reason, "wide.ppm can't be read: reading it was given up");
 }

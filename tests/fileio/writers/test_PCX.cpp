@@ -1,4 +1,5 @@
 #include "fileio/writers/PCX.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <QFile>
 #include <QTemporaryDir>
@@ -18,13 +19,10 @@ Bytes operator+(Bytes a, const Bytes& b)
 Bytes written(const Bits& bits, bool compress, const QByteArray& before = {})
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("a.pcx"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(before);
-    file.close();
-    EXPECT_TRUE(PCX().SavePCXinFile(file.fileName(), bits, compress));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray contents = file.readAll();
+    const QString path = folder.filePath("a.pcx");
+    putFile(path, before);
+    EXPECT_TRUE(PCX().SavePCXinFile(path, bits, compress));
+    const QByteArray contents = fileBytes(path);
     return Bytes(contents.begin(), contents.end());
 }
 

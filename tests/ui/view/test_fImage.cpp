@@ -120,6 +120,8 @@ TEST_F(Window, SavesAndSaysWhetherAFileWasWritten)
     const QString base = frame.platform_.folder.path() + "/saved.";
     EXPECT_EQ(w.Save(base + "png", "PNG"), SaveResult::Written);
     EXPECT_EQ(QImage(base + "png").convertToFormat(QImage::Format_RGB32), w.ObtainedPic());
+    EXPECT_EQ(w.Save(base + "gif", "GIF"), SaveResult::Written);
+    EXPECT_FALSE(QGuiApplication::overrideCursor()) << "waits for ever";
     for (const char* kind : {"xyz", "", "ico"}) {
         EXPECT_NE(w.Save(base + kind, kind), SaveResult::Written) << kind;
         EXPECT_FALSE(QFile::exists(base + kind)) << kind;

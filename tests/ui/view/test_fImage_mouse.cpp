@@ -225,6 +225,9 @@ TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
     release({20, 20}, Qt::MiddleButton);
     release({6, 6});
     EXPECT_EQ(frame.snapshots, 1);
+    press({60, 50}, Qt::BackButton); // a button that nobody has a use for
+    release({60, 50}, Qt::BackButton);
+    EXPECT_EQ(frame.snapshots, 1);
 }
 
 TEST_F(Mouse, TheRightButtonTakesAPreviewBack)

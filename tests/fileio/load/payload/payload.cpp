@@ -2,7 +2,8 @@
 // the readers' place in a build of velara-decode that only the tests have.
 //
 // The file: the name of an attempt, a line end, what it is tried on. The extension says which cage is closed: "plain",
-// "fonts", or "nofilter" for the cage without the filter of system calls, so that the other layers show what they hold.
+// "fonts", or "nofilter" for the second without the filter of system calls, so that the other layers show what they
+// hold.
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <arpa/inet.h>
@@ -99,6 +100,7 @@ constexpr struct {
 } kAttempts[] = {
     {"read", [](const char* on) -> long { return open(on, O_RDONLY); }},
     {"create", [](const char* on) -> long { return open((std::string(on) + ".new").c_str(), O_CREAT | O_RDWR, 0600); }},
+    {"write", [](const char* on) -> long { return open(on, O_WRONLY); }},
     {"truncate", [](const char* on) -> long { return truncate(on, 0); }},
     {"link", [](const char* on) -> long { return link(on, (std::string(on) + ".link").c_str()); }},
     {"unlink", [](const char* on) -> long { return unlink(on); }},
@@ -138,7 +140,7 @@ Decoded tryIt(const FileBytes& file)
 Needs prepareReader(const QString& extension)
 {
     if (extension == "nofilter") {
-        enterCage(Needs::Nothing, kAllLayers & ~Seccomp);
+        enterCage(Needs::Fonts, kAllLayers & ~Seccomp);
         Opening opening{kMagic, 0, 0, {}};
         const QByteArray reason = tryIt(FileBytes(kPicture)).reason.toUtf8();
         std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));

@@ -1,0 +1,37 @@
+# A picture at four times its size, dragged on with a real mouse, and its undo files looked into. After lib.sh.
+W=64 H=48 zoom=4
+
+# open_large FILE COLOUR [OTHER]: of W by H pixels in these colours, known by them on the screen
+open_large() {
+    start_plain maximized
+    open_file "$1"
+    keys ctrl+plus ctrl+plus ctrl+plus
+    xdotool mousemove 600 20
+    sleep 0.5
+    import -window root "$scratch/screen.png"
+    box=$(convert "$scratch/screen.png" -fill "$2" -opaque "${3:-$2}" -fill black +opaque "$2" -format '%@' info:)
+    [ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ] || fail "the picture is $box on the screen"
+    left=$(echo "$box" | cut -d+ -f2) top=$(echo "$box" | cut -d+ -f3)
+}
+over() { echo $((left + $1 * zoom + zoom / 2)) $((top + $2 * zoom + zoom / 2)); }
+
+# drag X1 Y1 X2 Y2, in picture pixels
+drag() {
+    xdotool mousemove $(over "$1" "$2") mousedown 1
+    sleep 0.05
+    xdotool mousemove $(over $((($1 + $3) / 2)) $((($2 + $4) / 2)))
+    sleep 0.05
+    xdotool mousemove $(over "$3" "$4")
+    sleep 0.05
+    xdotool mouseup 1
+    sleep 0.25
+}
+
+step() { echo "$folder/Temp/b00010$1.dat"; }
+saved() { until_true "step $1" test -s "$(step "$1")"; sleep 0.2; }
+# is STEP X Y COLOUR, blue green red
+is() {
+    got=$(od -An -tu1 -j $((40 + (($3 + 2) * (W + 4) + $2 + 2) * 4)) -N 3 "$(step "$1")" | tr -s ' ' | sed 's/^ //')
+    [ "$got" = "$4" ] || fail "step $1: at $2,$3 wanted $4, got $got"
+}
+plain='255 0 255' white='255 255 255' green='0 255 0' black='0 0 0'
