@@ -1,38 +1,25 @@
 #include "pixels/NearestColours.h"
 #include <algorithm>
 #include <cstdlib>
-#include <new>
-#include <sys/mman.h>
 #include <unordered_set>
 
 namespace velara {
 
 namespace {
 
-constexpr std::size_t kColours = std::size_t{1} << 24;
 constexpr int kRegionSide = 32;
-constexpr std::size_t kFewEnough = 96; // to hold each against each
+constexpr std::size_t kFewEnough = 96;  // to hold each against each
+constexpr std::uint32_t kUnknown = ~0U; // of a cube that was not looked into
 
 int far(Distance distance, int difference)
 {
     return distance == Distance::Squares ? difference * difference : std::abs(difference);
 }
 
-// Huge pages: colours are looked up all over the table.
-std::uint8_t* newTable()
-{
-    void* block = mmap(nullptr, kColours, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (block == MAP_FAILED) throw std::bad_alloc();
-    madvise(block, kColours, MADV_HUGEPAGE);
-    return static_cast<std::uint8_t*>(block);
-}
-
 } // namespace
 
-void NearestColours::Free::operator()(std::uint8_t* table) const { munmap(table, kColours); }
-
 NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance distance)
-    : distance_(distance), low_(newTable()), high_(colours.size() > 256 ? newTable() : nullptr)
+    : distance_(distance), cubes_(std::size_t{1} << 3 * kOutside, numbered(kUnknown))
 {
     std::unordered_set<int> known; // of equals the first one alone
     for (std::size_t i = 0; i < colours.size(); ++i) {
@@ -82,28 +69,42 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
     return kept;
 }
 
-void NearestColours::fillCube(std::uint32_t cube)
+/// For a pixel in a cube that is crowded, or was not looked into.
+int NearestColours::lookCloser(Pixel p)
 {
-    std::array<int, 3> low, regionLow;
+    Cube& cube = cubes_[cubeOf(std::bit_cast<std::uint32_t>(p))];
+    if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
+    if (cube.hasFew()) return among(cube, wide(p));
+    const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };
+    return crowds_[cube.number()][std::size_t(inside(0) | inside(1) | inside(2))];
+}
+
+NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
+{
+    std::array<int, 3> regionLow;
     std::size_t region = 0;
     for (std::size_t i = 0; i < 3; ++i) {
-        low[i] = static_cast<int>(cube >> i * kOutside & ((1U << kOutside) - 1)) * kSide;
-        regionLow[i] = low[i] / kRegionSide * kRegionSide;
+        regionLow[i] = low[i] & -kRegionSide;
         region = region * (256 / kRegionSide) + static_cast<std::size_t>(low[i] / kRegionSide);
     }
     Candidates& wide = regions_[region];
     if (wide.empty()) wide = nearTo(colours_, regionLow, kRegionSide);
     const Candidates candidates = nearTo(wide, low, kSide);
-    const std::size_t place = std::size_t{cube} << 3 * kInside;
-    const auto put = [&](std::size_t at, int entry) {
-        low_[at] = static_cast<std::uint8_t>(entry);
-        if (high_) high_[at] = static_cast<std::uint8_t>(entry >> 8);
-    };
-    filled_[cube] = 1;
-    if (candidates.size() == 1) {
-        for (std::size_t i = 0; i < kSide * kSide * kSide; ++i) put(place + i, candidates.front().entry);
-        return;
+    if (candidates.size() > kFew || candidates.back().entry > 255) return numbered(crowdOf(candidates, low));
+    Cube cube;
+    for (std::size_t i = 0; i < kFew; ++i) {
+        const Candidate& c = candidates[std::min(i, candidates.size() - 1)];
+        for (std::size_t channel = 0; channel < 3; ++channel)
+            cube.channels[channel][i] = static_cast<std::uint8_t>(c.c[channel]);
+        cube.entries[i] = static_cast<std::uint8_t>(c.entry);
     }
+    return cube;
+}
+
+/// The number of a crowd with the nearest one for each place of the cube.
+std::uint32_t NearestColours::crowdOf(const Candidates& candidates, std::array<int, 3> low)
+{
+    auto to = crowds_.emplace_back().begin();
     for (int red = 0; red < kSide; ++red)
         for (int green = 0; green < kSide; ++green) {
             std::array<int, kSide> least, entry;
@@ -118,9 +119,9 @@ void NearestColours::fillCube(std::uint32_t cube)
                     entry[std::size_t(blue)] = nearer ? c.entry : entry[std::size_t(blue)];
                 }
             }
-            const std::size_t line = place + static_cast<std::size_t>((red * kSide + green) * kSide);
-            for (std::size_t blue = 0; blue < kSide; ++blue) put(line + blue, entry[blue]);
+            to = std::copy(entry.begin(), entry.end(), to);
         }
+    return static_cast<std::uint32_t>(crowds_.size() - 1);
 }
 
 } // namespace velara
