@@ -8,8 +8,7 @@ namespace velara {
 namespace {
 
 constexpr int kRegionSide = 32;
-constexpr std::size_t kFewEnough = 96;  // to hold each against each
-constexpr std::uint32_t kUnknown = ~0U; // of a cube that was not looked into
+constexpr std::size_t kFewEnough = 96; // to hold each against each
 
 int far(Distance distance, int difference)
 {
@@ -72,9 +71,9 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
 /// For a pixel in a cube that is crowded, or was not looked into.
 int NearestColours::lookCloser(Pixel p)
 {
-    Cube& cube = cubes_[cubeOf(std::bit_cast<std::uint32_t>(p))];
+    Cube& cube = cubes_[cubeOf(inRegister(p))];
     if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
-    if (cube.hasFew()) return among(cube, wide(p));
+    if (cube.hasFew()) return among(cube, inRegister(p));
     const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };
     return crowds_[cube.number()][std::size_t(inside(0) | inside(1) | inside(2))];
 }
@@ -94,9 +93,8 @@ NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
     Cube cube;
     for (std::size_t i = 0; i < kFew; ++i) {
         const Candidate& c = candidates[std::min(i, candidates.size() - 1)];
-        for (std::size_t channel = 0; channel < 3; ++channel)
-            cube.channels[channel][i] = static_cast<std::uint8_t>(c.c[channel]);
-        cube.entries[i] = static_cast<std::uint8_t>(c.entry);
+        const auto byte = [](int v) { return static_cast<std::uint8_t>(v); };
+        cube.colours[i] = {{byte(c.c[0]), byte(c.c[1]), byte(c.c[2]), byte(c.entry)}};
     }
     return cube;
 }

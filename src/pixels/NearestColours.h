@@ -20,22 +20,26 @@ class NearestColours {
     NearestColours(const std::vector<Pixel>& colours, Distance distance);
 
     /// The position of the nearest one, the lowest of equals. The fourth byte is not looked at.
-    int operator()(Pixel p) { return at(p, wide(p)); }
-    /// The same of bytes in lanes.
-    int operator()(Lanes p) { return at(narrow(p), p); }
+    int operator()(Pixel p) { return (*this)(inRegister(p)); }
+    /// The same for the lowest four bytes of a register.
+    int operator()(__m128i p)
+    {
+        const Cube& cube = cubes_[cubeOf(p)];
+        if (!cube.hasFew()) [[unlikely]]
+            return lookCloser(std::bit_cast<Pixel>(_mm_cvtsi128_si32(p)));
+        return among(cube, p);
+    }
 
   private:
-    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kFew = 4;
-    using Few = std::array<std::uint8_t, kFew>;
+    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kLevels = 1 << kOutside, kFew = 4;
 
-    /// Of a cube. One that is crowded, or not looked into yet, has its entries out of order, and a number instead of
-    /// colours.
+    /// The colours with their entries as the fourth bytes, in rising order, the last one again where there are fewer. A
+    /// cube that is crowded, or not looked into yet, has its entries out of order, and a number as the first colour.
     struct alignas(16) Cube {
-        std::array<Few, 3> channels; // blue, green, red
-        Few entries;                 // in rising order, the last one again where there are fewer
+        std::array<Pixel, kFew> colours;
 
-        bool hasFew() const { return entries[0] <= entries[kFew - 1]; }
-        std::uint32_t number() const { return std::bit_cast<std::uint32_t>(channels[0]); }
+        bool hasFew() const { return colours[0].c[3] <= colours[kFew - 1].c[3]; }
+        std::uint32_t number() const { return std::bit_cast<std::uint32_t>(colours[0]) & 0xFFFFFF; }
     };
     using Crowd = std::array<std::uint16_t, kSide * kSide * kSide>; // the nearest one by place in the cube
 
@@ -45,38 +49,38 @@ class NearestColours {
     };
     using Candidates = std::vector<Candidate>;
 
-    static std::uint32_t cubeOf(std::uint32_t word)
-    {
-        return (word >> 3 & 0x1F) | (word >> 6 & 0x3E0) | (word >> 9 & 0x7C00); // the high bits of the channels
-    }
-    static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Few>(number), Few{}, Few{}}, Few{1, 0, 0, 0}}; }
+    static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of one that was not looked into
+    static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
 
-    int at(Pixel p, Lanes channels)
+    /// From the high bits of the channels, red above green above blue.
+    static std::size_t cubeOf(__m128i p)
     {
-        const Cube& cube = cubes_[cubeOf(std::bit_cast<std::uint32_t>(p))];
-        if (!cube.hasFew()) [[unlikely]]
-            return lookCloser(p);
-        return among(cube, channels);
+        const __m128i high = _mm_and_si128(p, _mm_set1_epi8(-kSide));
+        const __m128i ofTwo = _mm_maddubs_epi16(high, _mm_set1_epi32(1 << 16 | kLevels << 8 | 1));
+        return std::uint32_t(_mm_cvtsi128_si32(_mm_madd_epi16(ofTwo, _mm_set1_epi32(kLevels * kLevels << 16 | 1)))) /
+               kSide;
     }
-    int among(const Cube& cube, Lanes p) const
+    int among(const Cube& cube, __m128i p) const
     {
-        const auto bytes = std::bit_cast<__m128i>(cube);
-        const auto part = [&](int i) { // four of the bytes
-            return std::bit_cast<Lanes>(
-                _mm_shuffle_epi8(bytes, std::bit_cast<__m128i>((Lanes{0, 1, 2, 3} + 4 * i) | ~255)));
-        };
-        const auto far = [&](Lanes of, Lanes from) {
-            const Lanes v = of - from;
-            return distance_ == Distance::Squares ? v * v : absolute(v);
-        };
-        const Lanes distances = far(part(0), __builtin_shufflevector(p, p, 0, 0, 0, 0)) +
-                                far(part(1), __builtin_shufflevector(p, p, 1, 1, 1, 1)) +
-                                far(part(2), __builtin_shufflevector(p, p, 2, 2, 2, 2));
-        const Lanes ranked = distances << 8 | part(3); // the entry tells equals apart
-        const Lanes two = lesser(ranked, __builtin_shufflevector(ranked, ranked, 2, 3, 0, 1));
-        return lesser(two, __builtin_shufflevector(two, two, 1, 0, 3, 2))[0] & 255;
+        const __m128i all = std::bit_cast<__m128i>(cube);
+        const __m128i four = _mm_shuffle_epi32(p, 0);
+        const __m128i off = _mm_or_si128(_mm_subs_epu8(all, four), _mm_subs_epu8(four, all));
+        const __m128i distances = distance_ == Distance::Sum ? sums(off) : squares(off);
+        // The entries tell equals apart.
+        const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances, 8), _mm_srli_epi32(all, 24));
+        const __m128i two = _mm_min_epi32(ranked, _mm_shuffle_epi32(ranked, 0x4E));
+        return _mm_cvtsi128_si32(_mm_min_epi32(two, _mm_shuffle_epi32(two, 0xB1))) & 255;
     }
-    static Lanes lesser(Lanes a, Lanes b) { return a < b ? a : b; }
+    static __m128i sums(__m128i off)
+    {
+        return _mm_madd_epi16(_mm_maddubs_epi16(off, _mm_set1_epi32(0x010101)), _mm_set1_epi16(1));
+    }
+    static __m128i squares(__m128i off)
+    {
+        const __m128i outer = _mm_and_si128(off, _mm_set1_epi32(0xFF00FF));
+        const __m128i middle = _mm_and_si128(_mm_srli_epi32(off, 8), _mm_set1_epi32(0xFF));
+        return _mm_add_epi32(_mm_madd_epi16(outer, outer), _mm_madd_epi16(middle, middle));
+    }
 
     int lookCloser(Pixel p);
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;

@@ -19,10 +19,8 @@ namespace detail {
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
 }
 
-inline Lanes wide(const Pixel& p)
-{
-    return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(_mm_cvtsi32_si128(std::bit_cast<int>(p))));
-}
+inline __m128i inRegister(const Pixel& p) { return _mm_cvtsi32_si128(std::bit_cast<int>(p)); }
+inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(inRegister(p))); }
 /// The lowest bytes of the lanes.
 inline Pixel narrow(Lanes v)
 {

@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// NearestColor as lanes, faster where all entries are bytes.
+/// NearestColor of a pixel in the lowest bytes of a register, faster where all entries are bytes.
 class Nearest {
   public:
     Nearest()
@@ -20,28 +20,28 @@ class Nearest {
         if (all.empty() || all.size() > NearestColours::kMost || !std::all_of(all.begin(), all.end(), isByte)) return;
         std::vector<Pixel> pixels;
         std::transform(all.begin(), all.end(), std::back_inserter(pixels), asPixel);
-        std::transform(pixels.begin(), pixels.end(), std::back_inserter(colours_), wide);
         nearest_ = std::make_unique<NearestColours>(pixels, Distance::Sum);
+        colours_ = std::move(pixels);
     }
-    /// The palette's colour as bytes. Overflow if it is none; OutOfRange without a palette.
-    Lanes operator()(Lanes p) { return nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(p); }
+    /// The palette's colour, its fourth byte 0. Overflow if it is none of bytes; OutOfRange without a palette.
+    __m128i operator()(__m128i p)
+    {
+        return inRegister(nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(_mm_cvtsi128_si32(p)));
+    }
 
   private:
-    [[gnu::noinline, gnu::cold]] static Lanes oneByOne(Lanes p)
+    [[gnu::noinline, gnu::cold]] static Pixel oneByOne(int word)
     {
-        return wide(asPixel(NearestColor(p[2], p[1], p[0])));
+        const auto p = std::bit_cast<Pixel>(word);
+        return asPixel(NearestColor(p.c[2], p.c[1], p.c[0]));
     }
     static Pixel asPixel(const PaletteColor& c) { return {{toByte(c.blue), toByte(c.green), toByte(c.red), 0}}; }
 
-    std::vector<Lanes> colours_;
+    std::vector<Pixel> colours_;
     std::unique_ptr<NearestColours> nearest_; // null unless all are bytes, and few enough
 };
 
-constexpr Lanes kColour = {-1, -1, -1, 0};
 constexpr int kUnseen = 3; // an error of all channels that is not spread
-
-/// The channels with a sixteenth of the error given, cut towards zero, and clamped to bytes.
-inline Lanes plusSixteenth(Lanes v, Lanes error) { return limited(v + ((error + ((error >> 31) & 15)) >> 4), 0, 255); }
 
 struct Columns {
     int begin, end;
@@ -76,7 +76,7 @@ class Diffusion {
     {
         const bool low = y < source_.maxY();
         Pixel *from = source_.row(y), *to = out_.row(y);
-        Lanes p = wide(columns.begin < columns.end ? from[columns.begin] : Pixel{});
+        __m128i p = inRegister(from[columns.begin < columns.end ? columns.begin : 0]);
         for (int x = columns.begin; x < columns.end; ++x) {
             const bool inner = x < source_.maxX();
             p = pixel(p, from + x, to + x, inner, inner && low && x >= 1);
@@ -90,28 +90,41 @@ class Diffusion {
     {
         const auto stride = source_.stride() - kLag;
         Pixel *from = source_.row(y), *to = out_.row(y);
-        std::array<Lanes, kAbreast> p;
-        for (int i = 0; i < kAbreast; ++i) p[std::size_t(i)] = wide(from[step.begin + i * stride]);
+        __m128i p[kAbreast];
+        for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(from[step.begin + i * stride]);
         for (int x = step.begin; x < step.end; ++x)
 #pragma GCC unroll 4
             for (int i = 0; i < kAbreast; ++i)
-                p[std::size_t(i)] = pixel(p[std::size_t(i)], from + x + i * stride, to + x + i * stride, true, true);
+                p[i] = pixel(p[i], from + x + i * stride, to + x + i * stride, true, true);
     }
 
     /// p: what stands at from. Gives what then stands after it, which is at hand for the next one.
-    [[gnu::always_inline]] Lanes pixel(Lanes p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
+    [[gnu::always_inline]] __m128i pixel(__m128i p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
     {
-        const Lanes found = nearest_(p);
-        *to = pixelFrom((wordOf(narrow(found)) & ~kFourthByte) | (wordOf(*to) & kFourthByte));
-        const Lanes error = (p - found) & kColour, size = absolute(error);
-        const Lanes next = wide(from[1]); // may be margin
-        if (size[0] + size[1] + size[2] <= kUnseen) return next;
+        const __m128i found = nearest_(p);
+        *to = pixelFrom(static_cast<std::uint32_t>(_mm_cvtsi128_si32(found)) | (wordOf(*to) & kFourthByte));
+        const __m128i next = inRegister(from[1]); // may be margin
+        const __m128i off = _mm_sad_epu8(_mm_and_si128(p, _mm_cvtsi32_si128(~kFourthByte)), found);
+        if (_mm_cvtsi128_si32(off) <= kUnseen) return next;
         Pixel& below = from[source_.stride()];
-        if (toBelow) below = narrow(plusSixteenth(wide(below), error * 4));
+        const __m128i both = plusError(_mm_unpacklo_epi32(next, inRegister(below)), p, found);
+        if (toBelow) below = std::bit_cast<Pixel>(_mm_extract_epi32(both, 1));
         if (!toRight) return next;
-        const Lanes changed = plusSixteenth(next, error * 7);
-        from[1] = narrow(changed);
-        return changed;
+        from[1] = std::bit_cast<Pixel>(_mm_cvtsi128_si32(both));
+        return both;
+    }
+
+    /// The pixels to the right and below, with seven and four sixteenths of the error, cut towards zero, and clamped to
+    /// bytes.
+    static __m128i plusError(__m128i both, __m128i p, __m128i found)
+    {
+        const __m128i twice = _mm_set_epi8(-1, 3, -1, 2, -1, 1, -1, 0, -1, 3, -1, 2, -1, 1, -1, 0);
+        const __m128i error = _mm_sub_epi16(_mm_shuffle_epi8(p, twice), _mm_shuffle_epi8(found, twice));
+        const __m128i share = _mm_mullo_epi16(error, _mm_set_epi16(0, 4, 4, 4, 0, 7, 7, 7));
+        const __m128i upwards = _mm_srli_epi16(_mm_srai_epi16(share, 15), 12); // 15 where it is negative
+        const __m128i sixteenth = _mm_srai_epi16(_mm_add_epi16(share, upwards), 4);
+        const __m128i sum = _mm_add_epi16(_mm_cvtepu8_epi16(both), sixteenth);
+        return _mm_packus_epi16(sum, sum);
     }
 
     Bits &source_, &out_;
