@@ -18,14 +18,55 @@ int far(Distance distance, int difference)
 } // namespace
 
 NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance distance)
-    : distance_(distance), cubes_(std::size_t{1} << 3 * kOutside, numbered(kUnknown))
+    : distance_(distance), colours_(colours), cubes_(std::size_t{1} << 3 * kOutside, numbered(kUnknown))
 {
-    std::unordered_set<int> known; // of equals the first one alone
+    std::unordered_set<int> known;
     for (std::size_t i = 0; i < colours.size(); ++i) {
         const auto& c = colours[i].c;
         if (known.insert(c[2] << 16 | c[1] << 8 | c[0]).second)
-            colours_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
+            distinct_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
     }
+}
+
+void NearestColours::colour(const Pixel* from, Pixel* to, int count)
+{
+    int done = 0;
+    const auto one = [&] {
+        const std::uint8_t fourth = from[done].c[3];
+        to[done] = colours_[std::size_t((*this)(from[done]))];
+        to[done++].c[3] = fourth;
+    };
+    while (done + 4 <= count) {
+        if (fourFew(from + done, to + done)) [[likely]]
+            done += 4;
+        else
+            for (int i = 0; i < 4; ++i) one();
+    }
+    while (done < count) one();
+}
+
+/// colour() for four pixels at once. False unless each is in a cube of few.
+bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
+{
+    const __m128i p = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    std::array<std::uint32_t, 4> cubes;
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(cubes.data()), cubesOf(p));
+    const auto cube = [&](std::size_t i) { return std::bit_cast<__m128i>(cubes_[cubes[i]]); };
+    const __m128i first = _mm_unpacklo_epi32(cube(0), cube(1)), second = _mm_unpacklo_epi32(cube(2), cube(3)),
+                  third = _mm_unpackhi_epi32(cube(0), cube(1)), last = _mm_unpackhi_epi32(cube(2), cube(3));
+    const __m128i candidates[kFew] = {_mm_unpacklo_epi64(first, second), _mm_unpackhi_epi64(first, second),
+                                      _mm_unpacklo_epi64(third, last), _mm_unpackhi_epi64(third, last)};
+    const auto entry = [](__m128i v) { return _mm_srli_epi32(v, 24); };
+    if (_mm_movemask_epi8(_mm_cmpgt_epi32(entry(candidates[0]), entry(candidates[kFew - 1]))) != 0) return false;
+    __m128i best = candidates[0], least = distances(best, p);
+    for (int i = 1; i < kFew; ++i) {
+        const __m128i distance = distances(candidates[i], p);
+        best = _mm_blendv_epi8(best, candidates[i], _mm_cmpgt_epi32(least, distance));
+        least = _mm_min_epi32(least, distance);
+    }
+    const __m128i fourth = _mm_set1_epi32(static_cast<int>(0xFF000000));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_blendv_epi8(best, p, fourth));
+    return true;
 }
 
 /// Those of all that are nearest to some colour of the cube, in their order; a few more where there are very many.
@@ -71,7 +112,7 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
 /// For a pixel in a cube that is crowded, or was not looked into.
 int NearestColours::lookCloser(Pixel p)
 {
-    Cube& cube = cubes_[cubeOf(inRegister(p))];
+    Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(inRegister(p))))];
     if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
     if (cube.hasFew()) return among(cube, inRegister(p));
     const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };
@@ -87,7 +128,7 @@ NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
         region = region * (256 / kRegionSide) + static_cast<std::size_t>(low[i] / kRegionSide);
     }
     Candidates& wide = regions_[region];
-    if (wide.empty()) wide = nearTo(colours_, regionLow, kRegionSide);
+    if (wide.empty()) wide = nearTo(distinct_, regionLow, kRegionSide);
     const Candidates candidates = nearTo(wide, low, kSide);
     if (candidates.size() > kFew || candidates.back().entry > 255) return numbered(crowdOf(candidates, low));
     Cube cube;

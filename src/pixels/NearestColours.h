@@ -24,11 +24,13 @@ class NearestColours {
     /// The same for the lowest four bytes of a register.
     int operator()(__m128i p)
     {
-        const Cube& cube = cubes_[cubeOf(p)];
+        const Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(p)))];
         if (!cube.hasFew()) [[unlikely]]
             return lookCloser(std::bit_cast<Pixel>(_mm_cvtsi128_si32(p)));
         return among(cube, p);
     }
+    /// Puts the nearest colour in the place of each of so many pixels; the fourth bytes stay as they are in from.
+    void colour(const Pixel* from, Pixel* to, int count);
 
   private:
     static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kLevels = 1 << kOutside, kFew = 4;
@@ -52,24 +54,26 @@ class NearestColours {
     static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of one that was not looked into
     static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
 
-    /// From the high bits of the channels, red above green above blue.
-    static std::size_t cubeOf(__m128i p)
+    /// Of four pixels, from the high bits of the channels, red above green above blue.
+    static __m128i cubesOf(__m128i pixels)
     {
-        const __m128i high = _mm_and_si128(p, _mm_set1_epi8(-kSide));
+        const __m128i high = _mm_and_si128(pixels, _mm_set1_epi8(-kSide));
         const __m128i ofTwo = _mm_maddubs_epi16(high, _mm_set1_epi32(1 << 16 | kLevels << 8 | 1));
-        return std::uint32_t(_mm_cvtsi128_si32(_mm_madd_epi16(ofTwo, _mm_set1_epi32(kLevels * kLevels << 16 | 1)))) /
-               kSide;
+        return _mm_srli_epi32(_mm_madd_epi16(ofTwo, _mm_set1_epi32(kLevels * kLevels << 16 | 1)), kInside);
     }
     int among(const Cube& cube, __m128i p) const
     {
         const __m128i all = std::bit_cast<__m128i>(cube);
         const __m128i four = _mm_shuffle_epi32(p, 0);
-        const __m128i off = _mm_or_si128(_mm_subs_epu8(all, four), _mm_subs_epu8(four, all));
-        const __m128i distances = distance_ == Distance::Sum ? sums(off) : squares(off);
         // The entries tell equals apart.
-        const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances, 8), _mm_srli_epi32(all, 24));
+        const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances(all, four), 8), _mm_srli_epi32(all, 24));
         const __m128i two = _mm_min_epi32(ranked, _mm_shuffle_epi32(ranked, 0x4E));
         return _mm_cvtsi128_si32(_mm_min_epi32(two, _mm_shuffle_epi32(two, 0xB1))) & 255;
+    }
+    __m128i distances(__m128i a, __m128i b) const
+    {
+        const __m128i off = _mm_or_si128(_mm_subs_epu8(a, b), _mm_subs_epu8(b, a));
+        return distance_ == Distance::Sum ? sums(off) : squares(off);
     }
     static __m128i sums(__m128i off)
     {
@@ -82,13 +86,15 @@ class NearestColours {
         return _mm_add_epi32(_mm_madd_epi16(outer, outer), _mm_madd_epi16(middle, middle));
     }
 
+    bool fourFew(const Pixel* from, Pixel* to) const;
     int lookCloser(Pixel p);
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
     Cube lookInto(std::array<int, 3> low);
     std::uint32_t crowdOf(const Candidates& candidates, std::array<int, 3> low);
 
     Distance distance_;
-    Candidates colours_;
+    std::vector<Pixel> colours_;
+    Candidates distinct_;                 // of equal colours the first one
     std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
     std::vector<Cube> cubes_;
     std::deque<Crowd> crowds_;
