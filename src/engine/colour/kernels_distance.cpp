@@ -76,7 +76,7 @@ void blend(const SpanOf& s, const Blend& b)
     // 2^-17 each, and k as a single. What is nearer than 1e-4 to a half is redone.
     constexpr float kInDoubt = 0.4999f;
     const float perDistance = 1.0f / static_cast<float>(b.range);
-    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+    forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
         const hn::Repartition<std::int32_t, decltype(d)> d32;
         const hn::Repartition<std::uint32_t, decltype(d)> du;
         const hn::Repartition<float, decltype(d)> df;
