@@ -27,7 +27,8 @@ const Rows rows{
     dither("256 colours, along rows", Dither::Horizontal,  80, 30),
     dither("256 colours, down",       Dither::Vertical,    80, 30),
     dither("256 colours, turning",    Dither::Odd,         80, 30),
-    dither("256 colours, ordered",    Dither::Ordered,      0,  0),
+    dither("256 colours, dispersed dots", Dither::Ordered, 80, 30),
+    dither("256 colours, clustered dots", Dither::Haftone, 80, 30),
     {"depth reduction", "best 256 colours", 0, 0,
      [](Size size) { return Trial{[size] { (void)reduceColours(picture(size), {}); }, {}}; }},
 };

@@ -1,5 +1,7 @@
-// A repaint of a document's window, from the picture's memory into the window's image.
+// A repaint of a document's window, from the picture's memory into the window's image; and what a dialog shows of the
+// picture while it is set.
 #include "bench.h"
+#include "document/merging.h"
 #include "ui/widgets/viewRender.h"
 #include <QPainter>
 #include <memory>
@@ -34,6 +36,22 @@ Row repaint(std::string name, int zoom, double ratio = 1)
             "ms"};
 }
 
+/// The picture over itself in the merging dialog's box: within one frame as a slider moves.
+Row mergingPreview(std::string name, bool tiled)
+{
+    return {"preview",
+            std::move(name),
+            16.7,
+            8.0,
+            [=](Size size) {
+                const Bits& bits = picture(size);
+                const Merging merging{bits, size.width / 3, size.height / 4, tiled, 50, 0xFFFFFF};
+                const Region region = Region::ellipse(0, 0, size.width + 1, size.height + 1);
+                return Trial{[=] { (void)mergedView(bits, region, merging, {380, 300}); }, {}};
+            },
+            "ms"};
+}
+
 // clang-format off
 const Rows rows{
     repaint("zoom 1", 1),
@@ -42,6 +60,8 @@ const Rows rows{
     repaint("zoom 15", 15),
     repaint("zoom 1, two device pixels each", 1, 2),
     repaint("zoom 1, one and a half", 1, 1.5),
+    mergingPreview("merging", false),
+    mergingPreview("merging, tiled", true),
 };
 // clang-format on
 

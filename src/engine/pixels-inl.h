@@ -9,6 +9,10 @@
 #include "engine/SpanOf.h"
 #include <hwy/highway.h>
 
+/// After the parameters of a large body of forPixels: it is inlined whatever its size, as one that is called sets all
+/// its constants anew for each vector.
+#define VELARA_INLINED __attribute__((always_inline)) HWY_ATTR
+
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 

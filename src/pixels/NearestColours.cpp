@@ -1,15 +1,12 @@
 #include "pixels/NearestColours.h"
 #include <algorithm>
 #include <cstdlib>
-#include <new>
-#include <sys/mman.h>
 #include <unordered_set>
 
 namespace velara {
 
 namespace {
 
-constexpr std::size_t kColours = std::size_t{1} << 24;
 constexpr int kRegionSide = 32;
 constexpr std::size_t kFewEnough = 96; // to hold each against each
 
@@ -18,28 +15,58 @@ int far(Distance distance, int difference)
     return distance == Distance::Squares ? difference * difference : std::abs(difference);
 }
 
-// Huge pages: colours are looked up all over the table.
-std::uint8_t* newTable()
-{
-    void* block = mmap(nullptr, kColours, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (block == MAP_FAILED) throw std::bad_alloc();
-    madvise(block, kColours, MADV_HUGEPAGE);
-    return static_cast<std::uint8_t*>(block);
-}
-
 } // namespace
 
-void NearestColours::Free::operator()(std::uint8_t* table) const { munmap(table, kColours); }
-
 NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance distance)
-    : distance_(distance), low_(newTable()), high_(colours.size() > 256 ? newTable() : nullptr)
+    : distance_(distance), colours_(colours), cubes_(std::size_t{1} << 3 * kOutside, numbered(kUnknown))
 {
-    std::unordered_set<int> known; // of equals the first one alone
+    std::unordered_set<int> known;
     for (std::size_t i = 0; i < colours.size(); ++i) {
         const auto& c = colours[i].c;
         if (known.insert(c[2] << 16 | c[1] << 8 | c[0]).second)
-            colours_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
+            distinct_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
     }
+}
+
+void NearestColours::colour(const Pixel* from, Pixel* to, int count)
+{
+    int done = 0;
+    const auto one = [&] {
+        const std::uint8_t fourth = from[done].c[3];
+        to[done] = colours_[std::size_t((*this)(from[done]))];
+        to[done++].c[3] = fourth;
+    };
+    while (done + 4 <= count) {
+        if (fourFew(from + done, to + done)) [[likely]]
+            done += 4;
+        else
+            for (int i = 0; i < 4; ++i) one();
+    }
+    while (done < count) one();
+}
+
+/// colour() for four pixels at once. False unless each is in a cube of few.
+bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
+{
+    const __m128i p = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    std::array<std::uint32_t, 4> cubes;
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(cubes.data()), cubesOf(p));
+    const auto cube = [&](std::size_t i) { return std::bit_cast<__m128i>(cubes_[cubes[i]]); };
+    const __m128i first = _mm_unpacklo_epi32(cube(0), cube(1)), second = _mm_unpacklo_epi32(cube(2), cube(3)),
+                  third = _mm_unpackhi_epi32(cube(0), cube(1)), last = _mm_unpackhi_epi32(cube(2), cube(3));
+    const __m128i candidates[kFew] = {_mm_unpacklo_epi64(first, second), _mm_unpackhi_epi64(first, second),
+                                      _mm_unpacklo_epi64(third, last), _mm_unpackhi_epi64(third, last)};
+    const auto entry = [](__m128i v) { return _mm_srli_epi32(v, 24); };
+    if (_mm_movemask_epi8(_mm_cmpgt_epi32(entry(candidates[0]), entry(candidates[kFew - 1]))) != 0) return false;
+    __m128i best = candidates[0], least = distances(best, p);
+    for (int i = 1; i < kFew; ++i) {
+        const __m128i distance = distances(candidates[i], p);
+        best = _mm_blendv_epi8(best, candidates[i], _mm_cmpgt_epi32(least, distance));
+        least = _mm_min_epi32(least, distance);
+    }
+    const __m128i fourth = _mm_set1_epi32(static_cast<int>(0xFF000000));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_blendv_epi8(best, p, fourth));
+    return true;
 }
 
 /// Those of all that are nearest to some colour of the cube, in their order; a few more where there are very many.
@@ -82,28 +109,41 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
     return kept;
 }
 
-void NearestColours::fillCube(std::uint32_t cube)
+/// For a pixel in a cube that is crowded, or was not looked into.
+int NearestColours::lookCloser(Pixel p)
 {
-    std::array<int, 3> low, regionLow;
+    Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(inRegister(p))))];
+    if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
+    if (cube.hasFew()) return among(cube, inRegister(p));
+    const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };
+    return crowds_[cube.number()][std::size_t(inside(0) | inside(1) | inside(2))];
+}
+
+NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
+{
+    std::array<int, 3> regionLow;
     std::size_t region = 0;
     for (std::size_t i = 0; i < 3; ++i) {
-        low[i] = static_cast<int>(cube >> i * kOutside & ((1U << kOutside) - 1)) * kSide;
-        regionLow[i] = low[i] / kRegionSide * kRegionSide;
+        regionLow[i] = low[i] & -kRegionSide;
         region = region * (256 / kRegionSide) + static_cast<std::size_t>(low[i] / kRegionSide);
     }
     Candidates& wide = regions_[region];
-    if (wide.empty()) wide = nearTo(colours_, regionLow, kRegionSide);
+    if (wide.empty()) wide = nearTo(distinct_, regionLow, kRegionSide);
     const Candidates candidates = nearTo(wide, low, kSide);
-    const std::size_t place = std::size_t{cube} << 3 * kInside;
-    const auto put = [&](std::size_t at, int entry) {
-        low_[at] = static_cast<std::uint8_t>(entry);
-        if (high_) high_[at] = static_cast<std::uint8_t>(entry >> 8);
-    };
-    filled_[cube] = 1;
-    if (candidates.size() == 1) {
-        for (std::size_t i = 0; i < kSide * kSide * kSide; ++i) put(place + i, candidates.front().entry);
-        return;
+    if (candidates.size() > kFew || candidates.back().entry > 255) return numbered(crowdOf(candidates, low));
+    Cube cube;
+    for (std::size_t i = 0; i < kFew; ++i) {
+        const Candidate& c = candidates[std::min(i, candidates.size() - 1)];
+        const auto byte = [](int v) { return static_cast<std::uint8_t>(v); };
+        cube.colours[i] = {{byte(c.c[0]), byte(c.c[1]), byte(c.c[2]), byte(c.entry)}};
     }
+    return cube;
+}
+
+/// The number of a crowd with the nearest one for each place of the cube.
+std::uint32_t NearestColours::crowdOf(const Candidates& candidates, std::array<int, 3> low)
+{
+    auto to = crowds_.emplace_back().begin();
     for (int red = 0; red < kSide; ++red)
         for (int green = 0; green < kSide; ++green) {
             std::array<int, kSide> least, entry;
@@ -118,9 +158,9 @@ void NearestColours::fillCube(std::uint32_t cube)
                     entry[std::size_t(blue)] = nearer ? c.entry : entry[std::size_t(blue)];
                 }
             }
-            const std::size_t line = place + static_cast<std::size_t>((red * kSide + green) * kSide);
-            for (std::size_t blue = 0; blue < kSide; ++blue) put(line + blue, entry[blue]);
+            to = std::copy(entry.begin(), entry.end(), to);
         }
+    return static_cast<std::uint32_t>(crowds_.size() - 1);
 }
 
 } // namespace velara

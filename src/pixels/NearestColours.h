@@ -1,11 +1,10 @@
-// The nearest of a fixed set of colours, for all pixels of a picture. The answers stand in a table of all colours,
-// which is filled cube by cube as colours are asked for: a byte each, so that more of it stays in the cache, and a
-// second one where there are more than 256 colours to choose from.
+// The nearest of a fixed set of colours, for all pixels of a picture. Colours are looked up all over their space, so
+// what is known of it has to stay in the cache: for each cube of it the few that are nearest to some colour in there,
+// among which the distance decides. Cubes are looked into as they are asked for.
 #pragma once
-#include "pixels/Bits.h"
+#include "pixels/PixelLanes.h"
 #include <array>
-#include <bit>
-#include <memory>
+#include <deque>
 #include <vector>
 
 namespace velara {
@@ -17,49 +16,88 @@ class NearestColours {
   public:
     static constexpr std::size_t kMost = 0xFFFF;
 
-    /// 1 to kMost colours; the fourth bytes are not looked at. std::bad_alloc when memory is short.
+    /// 1 to kMost colours; the fourth bytes are not looked at.
     NearestColours(const std::vector<Pixel>& colours, Distance distance);
 
     /// The position of the nearest one, the lowest of equals. The fourth byte is not looked at.
-    int operator()(Pixel p)
+    int operator()(Pixel p) { return (*this)(inRegister(p)); }
+    /// The same for the lowest four bytes of a register.
+    int operator()(__m128i p)
     {
-        const auto word = std::bit_cast<std::uint32_t>(p);
-        const std::uint32_t at = kPlace[0][word & 255] | kPlace[1][word >> 8 & 255] | kPlace[2][word >> 16 & 255];
-        if (!filled_[at >> 3 * kInside]) [[unlikely]]
-            fillCube(at >> 3 * kInside);
-        return high_ ? low_[at] | high_[at] << 8 : low_[at];
+        const Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(p)))];
+        if (!cube.hasFew()) [[unlikely]]
+            return lookCloser(std::bit_cast<Pixel>(_mm_cvtsi128_si32(p)));
+        return among(cube, p);
     }
+    /// Puts the nearest colour in the place of each of so many pixels; the fourth bytes stay as they are in from.
+    void colour(const Pixel* from, Pixel* to, int count);
 
   private:
-    // A colour's place in the table: the cube by the high bits of its channels, and the place inside by the low ones,
-    // so that similar colours stand together.
-    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside;
-    static constexpr auto kPlace = [] { // by channel and level
-        std::array<std::array<std::uint32_t, 256>, 3> place{};
-        for (int channel = 0; channel < 3; ++channel)
-            for (std::uint32_t v = 0; v < 256; ++v)
-                place[channel][v] = v >> kInside << (3 * kInside + channel * kOutside) | v % kSide << channel * kInside;
-        return place;
-    }();
+    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kLevels = 1 << kOutside, kFew = 4;
 
-    void fillCube(std::uint32_t cube);
+    /// The colours with their entries as the fourth bytes, in rising order, the last one again where there are fewer. A
+    /// cube that is crowded, or not looked into yet, has its entries out of order, and a number as the first colour.
+    struct alignas(16) Cube {
+        std::array<Pixel, kFew> colours;
+
+        bool hasFew() const { return colours[0].c[3] <= colours[kFew - 1].c[3]; }
+        std::uint32_t number() const { return std::bit_cast<std::uint32_t>(colours[0]) & 0xFFFFFF; }
+    };
+    using Crowd = std::array<std::uint16_t, kSide * kSide * kSide>; // the nearest one by place in the cube
 
     struct Candidate {
         std::array<int, 3> c; // blue, green, red
         std::uint16_t entry;
     };
     using Candidates = std::vector<Candidate>;
-    struct Free {
-        void operator()(std::uint8_t* table) const;
-    };
 
+    static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of one that was not looked into
+    static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
+
+    /// Of four pixels, from the high bits of the channels, red above green above blue.
+    static __m128i cubesOf(__m128i pixels)
+    {
+        const __m128i high = _mm_and_si128(pixels, _mm_set1_epi8(-kSide));
+        const __m128i ofTwo = _mm_maddubs_epi16(high, _mm_set1_epi32(1 << 16 | kLevels << 8 | 1));
+        return _mm_srli_epi32(_mm_madd_epi16(ofTwo, _mm_set1_epi32(kLevels * kLevels << 16 | 1)), kInside);
+    }
+    int among(const Cube& cube, __m128i p) const
+    {
+        const __m128i all = std::bit_cast<__m128i>(cube);
+        const __m128i four = _mm_shuffle_epi32(p, 0);
+        // The entries tell equals apart.
+        const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances(all, four), 8), _mm_srli_epi32(all, 24));
+        const __m128i two = _mm_min_epi32(ranked, _mm_shuffle_epi32(ranked, 0x4E));
+        return _mm_cvtsi128_si32(_mm_min_epi32(two, _mm_shuffle_epi32(two, 0xB1))) & 255;
+    }
+    __m128i distances(__m128i a, __m128i b) const
+    {
+        const __m128i off = _mm_or_si128(_mm_subs_epu8(a, b), _mm_subs_epu8(b, a));
+        return distance_ == Distance::Sum ? sums(off) : squares(off);
+    }
+    static __m128i sums(__m128i off)
+    {
+        return _mm_madd_epi16(_mm_maddubs_epi16(off, _mm_set1_epi32(0x010101)), _mm_set1_epi16(1));
+    }
+    static __m128i squares(__m128i off)
+    {
+        const __m128i outer = _mm_and_si128(off, _mm_set1_epi32(0xFF00FF));
+        const __m128i middle = _mm_and_si128(_mm_srli_epi32(off, 8), _mm_set1_epi32(0xFF));
+        return _mm_add_epi32(_mm_madd_epi16(outer, outer), _mm_madd_epi16(middle, middle));
+    }
+
+    bool fourFew(const Pixel* from, Pixel* to) const;
+    int lookCloser(Pixel p);
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
+    Cube lookInto(std::array<int, 3> low);
+    std::uint32_t crowdOf(const Candidates& candidates, std::array<int, 3> low);
 
     Distance distance_;
-    Candidates colours_;
+    std::vector<Pixel> colours_;
+    Candidates distinct_;                 // of equal colours the first one
     std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
-    std::vector<std::uint8_t> filled_ = std::vector<std::uint8_t>(1 << 3 * kOutside); // by cube
-    std::unique_ptr<std::uint8_t[], Free> low_, high_;
+    std::vector<Cube> cubes_;
+    std::deque<Crowd> crowds_;
 };
 
 } // namespace velara

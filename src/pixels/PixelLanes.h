@@ -2,6 +2,7 @@
 #pragma once
 #include "pixels/Bits.h"
 #include <bit>
+#include <smmintrin.h>
 
 namespace velara {
 
@@ -18,13 +19,8 @@ namespace detail {
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
 }
 
-inline Lanes wide(const Pixel& p)
-{
-    using detail::Bytes;
-    const Bytes bytes = std::bit_cast<Bytes>(Lanes{std::bit_cast<int>(p)});
-    return std::bit_cast<Lanes>(
-        __builtin_shufflevector(bytes, Bytes{}, 0, 16, 16, 16, 1, 16, 16, 16, 2, 16, 16, 16, 3, 16, 16, 16));
-}
+inline __m128i inRegister(const Pixel& p) { return _mm_cvtsi32_si128(std::bit_cast<int>(p)); }
+inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(inRegister(p))); }
 /// The lowest bytes of the lanes.
 inline Pixel narrow(Lanes v)
 {

@@ -53,11 +53,7 @@ Bits nearestOf(const Palette& palette, const Bits& bits, const ReduceProgress& p
     std::vector<Pixel> colours;
     std::ranges::transform(palette, std::back_inserter(colours), pixelFor);
     NearestColours nearest(colours, Distance::Squares);
-    return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) {
-        for (int x = 0; x < width; ++x)
-            to[x] = std::bit_cast<Pixel>(wordOf(colours[static_cast<std::size_t>(nearest(from[x]))]) |
-                                         (wordOf(from[x]) & ~kColour));
-    });
+    return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) { nearest.colour(from, to, width); });
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// NearestColor as lanes, faster where all entries are bytes.
+/// NearestColor of a pixel in the lowest bytes of a register, faster where all entries are bytes.
 class Nearest {
   public:
     Nearest()
@@ -20,28 +20,116 @@ class Nearest {
         if (all.empty() || all.size() > NearestColours::kMost || !std::all_of(all.begin(), all.end(), isByte)) return;
         std::vector<Pixel> pixels;
         std::transform(all.begin(), all.end(), std::back_inserter(pixels), asPixel);
-        std::transform(pixels.begin(), pixels.end(), std::back_inserter(colours_), wide);
         nearest_ = std::make_unique<NearestColours>(pixels, Distance::Sum);
+        colours_ = std::move(pixels);
     }
-    /// The palette's colour as bytes. Overflow if it is none; OutOfRange without a palette.
-    Lanes operator()(Lanes p) { return nearest_ ? colours_[std::size_t((*nearest_)(narrow(p)))] : oneByOne(p); }
+    /// The palette's colour, its fourth byte 0. Overflow if it is none of bytes; OutOfRange without a palette.
+    __m128i operator()(__m128i p)
+    {
+        return inRegister(nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(_mm_cvtsi128_si32(p)));
+    }
 
   private:
-    [[gnu::noinline, gnu::cold]] static Lanes oneByOne(Lanes p)
+    [[gnu::noinline, gnu::cold]] static Pixel oneByOne(int word)
     {
-        return wide(asPixel(NearestColor(p[2], p[1], p[0])));
+        const auto p = std::bit_cast<Pixel>(word);
+        return asPixel(NearestColor(p.c[2], p.c[1], p.c[0]));
     }
     static Pixel asPixel(const PaletteColor& c) { return {{toByte(c.blue), toByte(c.green), toByte(c.red), 0}}; }
 
-    std::vector<Lanes> colours_;
+    std::vector<Pixel> colours_;
     std::unique_ptr<NearestColours> nearest_; // null unless all are bytes, and few enough
 };
 
-constexpr Lanes kColour = {-1, -1, -1, 0};
 constexpr int kUnseen = 3; // an error of all channels that is not spread
 
-/// The channels with a sixteenth of the error given, cut towards zero, and clamped to bytes.
-inline Lanes plusSixteenth(Lanes v, Lanes error) { return limited(v + ((error + ((error >> 31) & 15)) >> 4), 0, 255); }
+struct Columns {
+    int begin, end;
+};
+
+/// The loop over the pixels, with the errors that they pass on.
+class Diffusion {
+  public:
+    Diffusion(Bits& source, Bits& out) : source_(source), out_(out) {}
+
+    /// Rows from y on that stand abreast, with the columns of each: one column behind the other, each pixel comes after
+    /// the two above it whose errors it and the next one have to have, and waits for the one before it together with
+    /// the rows' others.
+    static constexpr int kAbreast = 4;
+    void rows(int y, const std::array<Columns, kAbreast>& columns)
+    {
+        Columns step = {kLag * kAbreast, source_.maxX()}; // past the left column, before the last one
+        for (int i = 0; i < kAbreast; ++i) {
+            step.begin = std::max(step.begin, columns[std::size_t(i)].begin + kLag * i);
+            step.end = std::min(step.end, columns[std::size_t(i)].end + kLag * i);
+        }
+        if (step.begin > step.end || y + kAbreast > source_.maxY()) step = {};
+        for (int i = 0; i < kAbreast; ++i) row(y + i, {columns[std::size_t(i)].begin, step.begin - kLag * i});
+        abreast(y, step);
+        for (int i = 0; i < kAbreast; ++i) {
+            const auto [begin, end] = columns[std::size_t(i)];
+            row(y + i, {std::max(begin, step.end - kLag * i), end});
+        }
+    }
+
+    void row(int y, Columns columns)
+    {
+        const bool low = y < source_.maxY();
+        Pixel *from = source_.row(y), *to = out_.row(y);
+        __m128i p = inRegister(from[columns.begin < columns.end ? columns.begin : 0]);
+        for (int x = columns.begin; x < columns.end; ++x) {
+            const bool inner = x < source_.maxX();
+            p = pixel(p, from + x, to + x, inner, inner && low && x >= 1);
+        }
+    }
+
+  private:
+    static constexpr int kLag = 2;
+
+    void abreast(int y, Columns step)
+    {
+        const auto stride = source_.stride() - kLag;
+        Pixel *from = source_.row(y), *to = out_.row(y);
+        __m128i p[kAbreast];
+        for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(from[step.begin + i * stride]);
+        for (int x = step.begin; x < step.end; ++x)
+#pragma GCC unroll 4
+            for (int i = 0; i < kAbreast; ++i)
+                p[i] = pixel(p[i], from + x + i * stride, to + x + i * stride, true, true);
+    }
+
+    /// p: what stands at from. Gives what then stands after it, which is at hand for the next one.
+    [[gnu::always_inline]] __m128i pixel(__m128i p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
+    {
+        const __m128i found = nearest_(p);
+        *to = pixelFrom(static_cast<std::uint32_t>(_mm_cvtsi128_si32(found)) | (wordOf(*to) & kFourthByte));
+        const __m128i next = inRegister(from[1]); // may be margin
+        const __m128i off = _mm_sad_epu8(_mm_and_si128(p, _mm_cvtsi32_si128(~kFourthByte)), found);
+        if (_mm_cvtsi128_si32(off) <= kUnseen) return next;
+        Pixel& below = from[source_.stride()];
+        const __m128i both = plusError(_mm_unpacklo_epi32(next, inRegister(below)), p, found);
+        if (toBelow) below = std::bit_cast<Pixel>(_mm_extract_epi32(both, 1));
+        if (!toRight) return next;
+        from[1] = std::bit_cast<Pixel>(_mm_cvtsi128_si32(both));
+        return both;
+    }
+
+    /// The pixels to the right and below, with seven and four sixteenths of the error, cut towards zero, and clamped to
+    /// bytes.
+    static __m128i plusError(__m128i both, __m128i p, __m128i found)
+    {
+        const __m128i twice = _mm_set_epi8(-1, 3, -1, 2, -1, 1, -1, 0, -1, 3, -1, 2, -1, 1, -1, 0);
+        const __m128i error = _mm_sub_epi16(_mm_shuffle_epi8(p, twice), _mm_shuffle_epi8(found, twice));
+        const __m128i share = _mm_mullo_epi16(error, _mm_set_epi16(0, 4, 4, 4, 0, 7, 7, 7));
+        const __m128i upwards = _mm_srli_epi16(_mm_srai_epi16(share, 15), 12); // 15 where it is negative
+        const __m128i sixteenth = _mm_srai_epi16(_mm_add_epi16(share, upwards), 4);
+        const __m128i sum = _mm_add_epi16(_mm_cvtepu8_epi16(both), sixteenth);
+        return _mm_packus_epi16(sum, sum);
+    }
+
+    Bits &source_, &out_;
+    Nearest nearest_;
+};
 
 } // namespace
 
@@ -51,26 +139,23 @@ Bits cBitFilter::PaletteApply()
     const Region region = region_;
     const Box box = insidePicture(GetBounds(0), before);
     Bits source = before, out = before;
-    Nearest nearest;
-    for (int y = box.ymin; y <= box.ymax; ++y) {
-        Pixel *row = source.row(y), *below = source.row(std::min(y + 1, source.maxY())), *to = out.row(y);
-        for (const Span s : region.spans(y)) {
-            const int x0 = std::max(s.x0, box.xmin), end = std::min(s.x1, box.xmax + 1);
-            Lanes p = wide(x0 < end ? row[x0] : Pixel{}); // kept at hand: the next one waits for its share of the error
-            for (int x = x0; x < end; ++x) {
-                const Lanes found = nearest(p);
-                to[x] = pixelFrom((wordOf(narrow(found)) & ~kFourthByte) | (wordOf(to[x]) & kFourthByte));
-                const Lanes error = (p - found) & kColour, size = absolute(error);
-                Lanes next = wide(row[x + 1]); // may be margin
-                if (size[0] + size[1] + size[2] > kUnseen) {
-                    if (x < source.maxX()) row[x + 1] = narrow(next = plusSixteenth(next, error * 7));
-                    if (y < source.maxY() && x >= 1 && x < source.maxX())
-                        below[x] = narrow(plusSixteenth(wide(below[x]), error * 4));
-                }
-                p = next;
-            }
+    Diffusion diffusion(source, out);
+    const auto columnsOf = [&](const Span& s) {
+        return Columns{std::max(s.x0, box.xmin), std::min(s.x1, box.xmax + 1)};
+    };
+    for (int y = box.ymin; y <= box.ymax;) {
+        std::array<Columns, Diffusion::kAbreast> columns;
+        int rows = 0;
+        for (; rows < Diffusion::kAbreast && y + rows <= box.ymax; ++rows) {
+            const auto spans = region.spans(y + rows);
+            if (spans.size() != 1) break;
+            columns[std::size_t(rows)] = columnsOf(spans.front());
         }
-        progressDue(y, source.maxY());
+        if (rows == Diffusion::kAbreast)
+            diffusion.rows(y, columns);
+        else
+            for (const Span s : region.spans(y)) diffusion.row(y, columnsOf(s));
+        for (const int end = y + (rows == Diffusion::kAbreast ? rows : 1); y < end; ++y) progressDue(y, source.maxY());
     }
     report(100);
     if (bits_.sharesWith(before)) bits_ = source; // unless a yield has brought another picture

@@ -35,7 +35,7 @@ void add(const SpanOf& s, std::uint32_t plus, std::uint32_t minus)
 /// Sixteen look-ups of sixteen entries by the low half of a byte; its high half then chooses among them bit by bit.
 void table(const SpanOf& s, const std::uint8_t* entries)
 {
-    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+    forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
         const auto source = loadBytes(d, s.from + x);
         const auto low = hn::And(source, hn::Set(d, 15));
         const auto sixteen = [&](int i) HWY_ATTR {

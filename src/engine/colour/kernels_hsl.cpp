@@ -22,7 +22,7 @@ void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
     // and what is nearer than two to a half is looked up or redone. A hue nearer than kSeam to a corner of the circle
     // counts as neither end.
     constexpr float kInDoubt = 0.498f, kSeam = 1e-3f;
-    forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+    forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
         const hn::Repartition<std::int32_t, decltype(d)> d32;
         const hn::Repartition<float, decltype(d)> df;
         const auto single = [&](float v) HWY_ATTR { return hn::Set(df, v); };
