@@ -52,9 +52,8 @@ class Diffusion {
   public:
     Diffusion(Bits& source, Bits& out) : source_(source), out_(out) {}
 
-    /// Rows from y on that stand abreast, with the columns of each: one column behind the other, each pixel comes after
-    /// the two above it whose errors it and the next one have to have, and waits for the one before it together with
-    /// the rows' others.
+    /// Rows from y on, with the columns of each, abreast: each pixel waits for the one before it, so four rows go
+    /// together, each so far behind the one above that this has passed on its errors.
     static constexpr int kAbreast = 4;
     void rows(int y, const std::array<Columns, kAbreast>& columns)
     {
@@ -84,7 +83,7 @@ class Diffusion {
     }
 
   private:
-    static constexpr int kLag = 2;
+    static constexpr int kLag = 2; // with 1 a row would still be right, but wait for the one above in every step
 
     void abreast(int y, Columns step)
     {
