@@ -71,7 +71,7 @@ QWidget* fColorDepth::makePages()
     tabs->addTab(original_, QStringLiteral("Original"));
     tabs->addTab(optimized_, QStringLiteral("Optimized"));
     tabs->setUsesScrollButtons(false); // both names can be read at every width
-    tabs->setCurrentIndex(1); // what the choice of a depth changes
+    tabs->setCurrentIndex(1);          // what the choice of a depth changes
     return tabs;
 }
 
