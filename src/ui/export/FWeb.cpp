@@ -106,6 +106,7 @@ void FWeb::qualityChosen(int quality)
 void FWeb::customQuality()
 {
     if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
+    setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be chosen again
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
 
@@ -127,7 +128,7 @@ void FWeb::fitSize()
         return;
     }
     TxtJPG_->setText(QString::number(*quality));
-    qualityChosen(*quality);
+    customQuality();
 }
 
 // --- Files

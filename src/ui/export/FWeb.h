@@ -66,8 +66,8 @@ class FWeb final : public QDialog {
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;
     QTabWidget* sT_ = nullptr;
-    QWidget* choices_ = nullptr;
-    QGroupBox *FrmAPI_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr;
+    QWidget *choices_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr;
+    QGroupBox* FrmAPI_ = nullptr;
     QComboBox *CboFiles_ = nullptr, *cboMap_ = nullptr, *cboDither_ = nullptr, *cboColorMode_ = nullptr,
               *cboJpg_ = nullptr;
     QCheckBox *ChkInterlaced_ = nullptr, *chkFlipH_ = nullptr, *chkFlipV_ = nullptr, *chkInvert_ = nullptr;

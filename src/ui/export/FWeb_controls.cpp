@@ -87,8 +87,7 @@ QWidget* FWeb::makeChoices()
 
 QWidget* FWeb::makeGifFrame()
 {
-    fgif_ = named(new QGroupBox, "fgif", tr("Colors"));
-    fgif_->setFlat(true);
+    fgif_ = named(new QWidget, "fgif", tr("Colors"));
     auto* form = new QFormLayout(fgif_);
     form->setContentsMargins(0, 0, 0, 0);
     static constexpr WebEntry kBeforeAPreset[] = {{"Windows", 0}, {"New", 0},         {"Fixed Color", 0}, {"VGA", 0},
@@ -129,12 +128,12 @@ QWidget* FWeb::makeGifFrame()
 
 QWidget* FWeb::makeJpegFrame()
 {
-    Fjpg_ = named(new QGroupBox, "Fjpg", tr("JPEG quality"));
-    Fjpg_->setFlat(true);
+    Fjpg_ = named(new QWidget, "Fjpg", tr("JPEG quality"));
     auto* form = new QFormLayout(Fjpg_);
     form->setContentsMargins(0, 0, 0, 0);
     cboJpg_ = list("cboJpg", tr("JPEG quality"), webJpegQualities());
     cboJpg_->setCurrentIndex(kGoodQuality);
+    cboJpg_->setPlaceholderText(tr("Custom"));
     TxtJPG_ = named(new QualityField, "TxtJPG", QStringLiteral("Custom  1 To 99"));
     TxtJPG_->setText(QLatin1String(kEmptyQuality));
     TxtJPG_->setMaxLength(5);

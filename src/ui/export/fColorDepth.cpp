@@ -58,6 +58,7 @@ fColorDepth::fColorDepth(const Bits& picture, Actions actions, QWidget* parent)
     row->setSpacing(12);
     row->addWidget(makePages(), 1);
     row->addWidget(makeControls());
+    cmbDepth_->setFocus();
     resize(760, 480);
     zoomlevel(kFirstLevel);
 }
@@ -69,7 +70,8 @@ QWidget* fColorDepth::makePages()
     tabs->setAccessibleName(tr("Pictures"));
     tabs->addTab(original_, QStringLiteral("Original"));
     tabs->addTab(optimized_, QStringLiteral("Optimized"));
-    tabs->setCurrentIndex(1); // what the choice of a depth changes
+    tabs->setUsesScrollButtons(false); // both names can be read at every width
+    tabs->setCurrentIndex(1);          // what the choice of a depth changes
     return tabs;
 }
 

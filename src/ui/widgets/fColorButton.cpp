@@ -45,7 +45,8 @@ void fColorButton::paintEvent(QPaintEvent*)
     const bool marked = active_ || hasFocus();
     painter.setPen(
         QPen(marked ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid), marked ? 2 : 1));
-    painter.setBrush(QColor(redOf(colour_), greenOf(colour_), blueOf(colour_)));
+    painter.setBrush(QBrush(QColor(redOf(colour_), greenOf(colour_), blueOf(colour_)),
+                            isEnabled() ? Qt::SolidPattern : Qt::BDiagPattern)); // hatched: it can't be changed now
     painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
 }
 

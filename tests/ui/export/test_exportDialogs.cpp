@@ -172,6 +172,8 @@ TEST_F(ExportDialogs, JpegQualityAndFit)
         find<QPushButton>(dialog, "jpgUpdate")->click();
         idle(dialog);
         EXPECT_EQ(std::min(QString(value).toInt(), 32767), dialog.settings().JpegQuality);
+        choose(dialog, "cboJpg", "Good");
+        EXPECT_EQ(0x100, dialog.settings().JpegQuality) << "the same class as before " << value;
     }
     find<QSpinBox>(dialog, "spnFit")->setValue(30);
     find<QPushButton>(dialog, "cmdFit")->click();
