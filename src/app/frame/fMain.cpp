@@ -84,6 +84,7 @@ void fMain::showStartPage()
     const bool empty = documents().isEmpty() && !closing_;
     if (empty) startPage_->showRecent(setup_.Recent);
     startPage_->setVisible(empty);
+    startPage_->place();
 }
 
 void fMain::capturePic(int mode) { capture_->capturePic(mode); }

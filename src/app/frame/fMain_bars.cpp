@@ -5,6 +5,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "app/start/fStartPage.h"
 #include "app/utilities/Clips.h"
 #include "app/utilities/browse.h"
 #include "seams/Platform.h"
@@ -63,6 +64,7 @@ void fMain::makeBoxes()
     connect(textures, &fToolTextures::placing, this, [this] { toolClicked(QStringLiteral("Text")); });
     connect(textures, &fToolTextures::folderWanted, this, [=, this] { browseTextureFolder(*this, *textures); });
     boxes_->set(Boxes::Textures, textures);
+    startPage_->taken = [this] { return boxes_->places(); };
 }
 
 // --- Side pane
@@ -100,6 +102,9 @@ void fMain::seekSidePane(QPoint at)
 bool fMain::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Close && event->spontaneous() && boxes_) boxes_->crossed(watched);
+    const auto type = event->type();
+    if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide)
+        if (boxes_ && (watched == this || boxes_->has(watched))) startPage_->place();
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);

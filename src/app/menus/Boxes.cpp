@@ -1,7 +1,10 @@
 #include "app/menus/Boxes.h"
 #include "app/menus/Bars.h"
 #include "seams/Setup.h"
+#include <QScreen>
+#include <QStyle>
 #include <algorithm>
+#include <climits>
 #include <string_view>
 
 namespace velara {
@@ -20,6 +23,8 @@ constexpr BoxRow kBoxes[] = {
     {"@CLIPBOARDBOX", &Setup::ClipboardBoxVisible, 0},
 };
 
+int areaOf(const QRect& rect) { return rect.isEmpty() ? 0 : rect.width() * rect.height(); }
+
 } // namespace
 
 Boxes::Boxes(QWidget& frame, const QWidget& sidePane, Setup& setup, Bars& bars)
@@ -34,11 +39,48 @@ void Boxes::show(Box which)
     if (!placed_[which]) {
         const int left = frame_.width() - box->width() - sidePane_.width() * 12 / 5;
         const int top = sidePane_.parentWidget()->y() + kBoxes[which].down;
-        box->move(frame_.mapToGlobal(QPoint(std::max(0, left), top)));
+        // In a narrow frame that place is over the tools.
+        const bool clear = left >= (sidePane_.isVisible() ? sidePane_.width() : 0);
+        box->move(clear ? frame_.mapToGlobal(QPoint(left, top)) : beside(*box));
         placed_[which] = true;
     }
     box->show();
     bars_.mark(kBoxes[which].word, 0, true);
+}
+
+QPoint Boxes::beside(const QWidget& box) const
+{
+    constexpr int kBorder = 2;
+    const QRect frame = frame_.frameGeometry(), screen = frame_.screen()->availableGeometry();
+    const int title = box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize size = box.size() + QSize(2 * kBorder, title + kBorder); // as it will be when it is shown
+    std::vector<QRect> taken = places();
+    std::vector<int> tops = {frame.top()};
+    for (const QRect& other : taken) tops.push_back(other.bottom() + 1);
+    taken.push_back(frame);
+    QRect best;
+    int leastCovered = INT_MAX;
+    for (const int left : {frame.right() + 1, frame.left() - size.width()})
+        for (const int top : tops) {
+            QRect place({left, top}, size);
+            place.moveRight(std::min(place.right(), screen.right()));
+            place.moveBottom(std::min(place.bottom(), screen.bottom()));
+            place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
+            int covered = 0;
+            for (const QRect& other : taken) covered += areaOf(place & other);
+            if (covered >= leastCovered) continue;
+            leastCovered = covered;
+            best = place;
+        }
+    return best.topLeft();
+}
+
+std::vector<QRect> Boxes::places() const
+{
+    std::vector<QRect> places;
+    for (const QWidget* box : boxes_)
+        if (box && box->isVisible()) places.push_back(box->frameGeometry());
+    return places;
 }
 
 void Boxes::toggle(Box which)

@@ -2,7 +2,9 @@
 #pragma once
 #include <QPointer>
 #include <QWidget>
+#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace velara {
 
@@ -13,7 +15,8 @@ class Boxes final {
   public:
     enum Box { Colours, Textures, Clips, kCount };
 
-    /// A box stands at the frame's right at first, and clear of the side pane's width.
+    /// A box stands at the frame's right at first, and clear of the side pane's width; where that is over the side
+    /// pane, beside the frame, as far as the screen has room.
     Boxes(QWidget& frame, const QWidget& sidePane, Setup& setup, Bars& bars);
 
     void set(Box which, QWidget* box) { boxes_[which] = box; }
@@ -25,10 +28,18 @@ class Boxes final {
     void showAll();
     /// Shows it, or brings it to the front.
     void bring(Box which);
+    /// Where they are on the screen, those that are shown.
+    std::vector<QRect> places() const;
+    bool has(const QObject* box) const
+    {
+        return std::ranges::any_of(boxes_, [box](const auto& own) { return own == box; });
+    }
     /// The user has closed a box by its own cross, if it is one: the menu's mark goes too.
     void crossed(const QObject* box);
 
   private:
+    QPoint beside(const QWidget& box) const;
+
     QWidget& frame_;
     const QWidget& sidePane_;
     Setup& setup_;

@@ -67,7 +67,30 @@ fStartPage::fStartPage(Platform& platform, QWidget* parent)
     heading_->hide();
     list_->hide();
     parent->installEventFilter(this);
-    setGeometry(parent->rect());
+    place();
+}
+
+void fStartPage::place()
+{
+    const QRect area = parentWidget()->rect();
+    QRect covered;
+    if (taken)
+        for (const QRect& rect : taken())
+            covered |= area & QRect(parentWidget()->mapFromGlobal(rect.topLeft()), rect.size());
+    QRect best; // of the strips beside, above and below what is covered
+    const auto strip = [&](int left, int top, int right, int bottom) {
+        const QRect room(QPoint(left, top), QPoint(right, bottom));
+        const QSize size = room.size(), least = minimumSizeHint(), found = best.size();
+        if (size.expandedTo(least) != size) return;
+        if (size.width() * size.height() > found.width() * found.height()) best = room;
+    };
+    if (!covered.isEmpty()) {
+        strip(area.left(), area.top(), covered.left() - 1, area.bottom());
+        strip(covered.right() + 1, area.top(), area.right(), area.bottom());
+        strip(area.left(), area.top(), area.right(), covered.top() - 1);
+        strip(area.left(), covered.bottom() + 1, area.right(), area.bottom());
+    }
+    setGeometry(best.isEmpty() ? area : best);
 }
 
 QWidget* fStartPage::makeButtons()
@@ -154,7 +177,7 @@ void fStartPage::hideEvent(QHideEvent* event)
 
 bool fStartPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == parent() && event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+    if (watched == parent() && event->type() == QEvent::Resize) place();
     return QWidget::eventFilter(watched, event);
 }
 

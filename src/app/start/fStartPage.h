@@ -3,6 +3,7 @@
 #include "seams/Previews.h"
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <vector>
 
 class QLabel;
@@ -15,8 +16,11 @@ class Platform;
 class fStartPage final : public QWidget {
     Q_OBJECT
   public:
-    /// Covers its parent.
     fStartPage(Platform& platform, QWidget* parent);
+    /// What stands over the page, on the screen.
+    std::function<std::vector<QRect>()> taken;
+    /// Covers its parent, or the largest part of it that nothing stands over and that holds the page.
+    void place();
     /// Paths, blank ones and those of lost files left out; their thumbnails come by and by.
     void showRecent(const std::array<QString, 8>& recent);
 
