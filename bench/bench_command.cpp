@@ -31,7 +31,7 @@ struct Desk {
         filter.setBits(filter.Invert());
         document.setBits(filter.bits());
         QPainter painter(&window);
-        renderer.paint(painter, document.Bits(), {101, 57, 1, 1}, {0, 0, 1920, 1080}, {});
+        renderer.paint(painter, document.bits(), {101, 57, 1, 1}, {0, 0, 1920, 1080}, {});
         document.SaveUndoBits();
         document.undo.stands();
     }

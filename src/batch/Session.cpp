@@ -40,7 +40,7 @@ void Session::checkSteps()
 void Session::change(const Job& job, After after)
 {
     try {
-        Draft draft(*document_, document_->Bits(), filter_, after);
+        Draft draft(*document_, document_->bits(), filter_, after);
         draft.run(job);
         draft.take();
         draft.handTo(filter_, true);

@@ -20,7 +20,7 @@ class Session {
     void open(const Bits& bits, bool keepSteps);
     /// No step to come goes back.
     void forgetSteps() { folder_.reset(); }
-    const Bits& picture() const { return document_->Bits(); }
+    const Bits& picture() const { return document_->bits(); }
 
     // Each throws Failure and leaves the picture as it was.
     void change(const Job& job, After after = After::Step);

@@ -3,12 +3,12 @@
 
 namespace velara {
 
-void Document::setBits(const velara::Bits& bits)
+void Document::setBits(const Bits& bits)
 {
     if (PictureExists() && !bits.isNull()) bits_ = bits;
 }
 
-void Document::takePicture(const velara::Bits& bits)
+void Document::takePicture(const Bits& bits)
 {
     bits_ = bits;
     Region.Init(0, 0, bits.width(), bits.height());
@@ -16,10 +16,10 @@ void Document::takePicture(const velara::Bits& bits)
 
 void Document::CreateBlank(int width, int height)
 {
-    if (width >= 1 && height >= 1) bits_ = velara::Bits(width, height);
+    if (width >= 1 && height >= 1) bits_ = Bits(width, height);
 }
 
-void Document::Clear() { bits_ = velara::Bits(); }
+void Document::Clear() { bits_ = Bits(); }
 
 void Document::handTo(cBitFilter& filter) const
 {
@@ -29,7 +29,7 @@ void Document::handTo(cBitFilter& filter) const
 
 void Document::takeFrom(const cBitFilter& filter)
 {
-    const velara::Bits& bits = filter.bits();
+    const Bits& bits = filter.bits();
     if (bits.width() == PictureWidth() && bits.height() == PictureHeight())
         setBits(bits);
     else
@@ -43,7 +43,7 @@ void Document::commit()
     SaveUndoBits();
 }
 
-bool Document::step(const std::optional<velara::Bits>& picture, cBitFilter& filter)
+bool Document::step(const std::optional<Bits>& picture, cBitFilter& filter)
 {
     if (!picture) return false;
     ++commits_;

@@ -22,13 +22,13 @@ class Document {
     bool PictureExists() const { return !bits_.isNull(); }
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
-    const velara::Bits& Bits() const { return bits_; }
+    const Bits& bits() const { return bits_; }
     /// The picture itself, for the paint primitives. Never to be held over a yield.
-    velara::Bits& edit() { return bits_; }
+    Bits& edit() { return bits_; }
     /// Ignored without a picture, as is a buffer that is empty.
-    void setBits(const velara::Bits& bits);
+    void setBits(const Bits& bits);
     /// Takes the buffer as the picture, whatever there was, and wipes the selection.
-    void takePicture(const velara::Bits& bits);
+    void takePicture(const Bits& bits);
     /// A black picture; no effect below 1 by 1. Leaves Region alone.
     void CreateBlank(int width, int height);
     void Clear();
@@ -68,9 +68,9 @@ class Document {
     bool Zoomed = false; // a sizing command was the last change
 
   private:
-    bool step(const std::optional<velara::Bits>& picture, cBitFilter& filter);
+    bool step(const std::optional<Bits>& picture, cBitFilter& filter);
 
-    velara::Bits bits_;
+    Bits bits_;
     int commits_ = 0;
     std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles watch it
 };

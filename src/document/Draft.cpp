@@ -26,14 +26,14 @@ bool Draft::wanted() const { return document_ && document_->commits() == commits
 void Draft::take()
 {
     Document& document = *document_;
-    if (sizing_ && !fromBefore_ && draft_.Bits().sharesWith(start_)) return;
+    if (sizing_ && !fromBefore_ && draft_.bits().sharesWith(start_)) return;
     const bool sameSize =
         draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
     const bool sameRegion = draft_.Region.RegionMain() == limit_ && draft_.Region.Region() == selection_;
     if (sameSize && sameRegion) { // what the user selected meanwhile stays
-        document.setBits(draft_.Bits());
+        document.setBits(draft_.bits());
     } else {
-        document.takePicture(draft_.Bits());
+        document.takePicture(draft_.bits());
         if (!draft_.Region.IsEmptyRegion()) document.Region.setRegion(draft_.Region.Region());
     }
     if (fromBefore_) document.undo.stepBack();

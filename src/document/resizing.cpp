@@ -55,7 +55,7 @@ void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge,
 
 void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quality)
 {
-    const Bits source = document.Bits();
+    const Bits source = document.bits();
     if (source.isNull()) return;
     const double angle = degrees * 0.0174533;
     const double c = std::fabs(std::cos(angle)), s = std::fabs(std::sin(angle));
@@ -74,7 +74,7 @@ void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quali
 
 void resizeImage(Document& document, cBitFilter& filter, int width, int height, bool smooth)
 {
-    const Bits source = document.Bits();
+    const Bits source = document.bits();
     cBitFilter work = workshop(filter, source);
     smooth ? work.BitsResample(source, width, height) : work.BitsResize(source, width, height);
     finish(document, filter, work.bits());
@@ -82,12 +82,12 @@ void resizeImage(Document& document, cBitFilter& filter, int width, int height, 
 
 void resizeCanvas(Document& document, cBitFilter& filter, int width, int height, int left, int top)
 {
-    finish(document, filter, onCanvas(filter, document.Bits(), width, height, left, top).bits());
+    finish(document, filter, onCanvas(filter, document.bits(), width, height, left, top).bits());
 }
 
 void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool flipVertical, bool flipHorizontal)
 {
-    cBitFilter work = workshop(filter, document.Bits());
+    cBitFilter work = workshop(filter, document.bits());
     for (int i = 0; i < quarterTurns; ++i) work.BitsRotate90(work.bits());
     if (flipVertical || flipHorizontal) work.setBits(work.Flip(flipHorizontal, flipVertical));
     finish(document, filter, work.bits());
@@ -95,7 +95,7 @@ void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool 
 
 void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smooth)
 {
-    const Bits source = document.Bits();
+    const Bits source = document.bits();
     const double w = source.width(), h = source.height();
     cBitFilter work = onSquare(filter, source, roundEven(std::sqrt(w * w + h * h)));
     work.setBits(smooth ? work.RotateSmooth(degrees) : work.ROTATE(degrees, false));
@@ -114,7 +114,7 @@ void cropImage(Document& document, cBitFilter& filter)
     int left = 0, top = 0, right = 0, bottom = 0;
     if (cropAnswer(document) != CropAnswer::Possible) return;
     document.Region.BoundRect(left, top, right, bottom);
-    cBitFilter work = workshop(filter, document.Bits());
+    cBitFilter work = workshop(filter, document.bits());
     work.BitsCrop(work.bits(), left, top, right, bottom);
     finish(document, filter, work.bits());
 }

@@ -21,7 +21,7 @@ Bits selectedPart(const Document& document)
     if (!document.PictureExists() || box.width() < 2 || box.height() < 2) return {};
     cBitFilter cutter; // of its own: the frame's keeps the picture
     cutter.setBitsRegion(document.Region.Region());
-    cutter.BitsCropMasked(document.Bits(), box.left, box.top, box.right, box.bottom);
+    cutter.BitsCropMasked(document.bits(), box.left, box.top, box.right, box.bottom);
     return cutter.bits();
 }
 

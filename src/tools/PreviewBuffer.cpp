@@ -16,10 +16,10 @@ bool isSame(const std::weak_ptr<const std::uint8_t[]>& a, const std::weak_ptr<co
 /// True while both pictures are the blocks that this object left behind, so that they differ in the touched tiles only.
 bool PreviewBuffer::inStep() const
 {
-    return isSame(document_.Bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
+    return isSame(document_.bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
 }
 
-bool PreviewBuffer::isOurs() const { return inStep() || document_.Bits().sharesWith(filter_.bits()); }
+bool PreviewBuffer::isOurs() const { return inStep() || document_.bits().sharesWith(filter_.bits()); }
 
 void PreviewBuffer::prepare()
 {
@@ -28,7 +28,7 @@ void PreviewBuffer::prepare()
 
 void PreviewBuffer::remember()
 {
-    shown_ = document_.Bits().block();
+    shown_ = document_.bits().block();
     committed_ = filter_.bits().block();
 }
 
@@ -36,7 +36,7 @@ void PreviewBuffer::remember()
 void PreviewBuffer::compare()
 {
     if (inStep()) return;
-    const Bits& shown = document_.Bits();
+    const Bits& shown = document_.bits();
     if (shown.width() != filter_.bits().width() || shown.height() != filter_.bits().height()) document_.handTo(filter_);
     document_.touched.reset(shown.width(), shown.height());
     whole_ = !shown.sharesWith(filter_.bits());
@@ -47,7 +47,7 @@ void PreviewBuffer::begin()
 {
     if (!document_.PictureExists()) return;
     compare();
-    if (!document_.Bits().isShared()) return;
+    if (!document_.bits().isShared()) return;
     document_.edit().row(0); // the whole copy
     remember();
 }
@@ -84,14 +84,14 @@ void PreviewBuffer::commit()
     if (!document_.PictureExists()) return;
     compare();
     if (whole_ || document_.touched.isMost() || filter_.bits().isShared()) {
-        filter_.setBits(document_.Bits()); // shared; the next begin() makes the second block
+        filter_.setBits(document_.bits()); // shared; the next begin() makes the second block
         document_.touched.reset(document_.PictureWidth(), document_.PictureHeight());
         whole_ = false;
         return remember();
     }
     Bits committed = filter_.bits();
     filter_.setBits(Bits()); // so that the write stays in place
-    settle(committed, document_.Bits());
+    settle(committed, document_.bits());
     filter_.setBits(std::move(committed));
     remember();
 }

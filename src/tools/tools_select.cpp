@@ -203,9 +203,9 @@ class SelectionMoveTool final : public Tool {
         c.surface.setWaiting(true);
         c.preview.commit(); // the engine works on what is seen
         cBitFilter cutter;  // of its own, so that the engine keeps the committed picture
-        cutter.setBits(c.document.Bits());
+        cutter.setBits(c.document.bits());
         cutter.setBitsRegion(c.document.Region.Region());
-        cutter.BitsCropMasked(c.document.Bits(), box.left, box.top, box.right, box.bottom);
+        cutter.BitsCropMasked(c.document.bits(), box.left, box.top, box.right, box.bottom);
         c.stores().moved = cutter.bits();
         cutter.setBits(Bits());
         c.preview.begin();

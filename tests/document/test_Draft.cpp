@@ -18,7 +18,7 @@ struct DraftTest : ::testing::Test {
         document.SaveUndoBits();
         document.Region.setRegion(Region::rectangle(1, 1, 4, 4));
     }
-    Draft draft() { return Draft(document, document.Bits(), engine, After::Step); }
+    Draft draft() { return Draft(document, document.bits(), engine, After::Step); }
     static Region selected(int right) { return Region::rectangle(0, 0, right, 2); }
 };
 
@@ -30,11 +30,11 @@ TEST_F(DraftTest, TheDocumentIsUntouchedUntilTheResultIsTaken)
         d.setBits(other);
         d.Region.setRegion(selected(3));
     });
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_FALSE(document.Changed);
     document.Zoomed = true;
     change.take();
-    EXPECT_TRUE(sameBits(other, document.Bits()));
+    EXPECT_TRUE(sameBits(other, document.bits()));
     EXPECT_EQ(selected(3), document.Region.Region());
     EXPECT_EQ(2, document.undo.UndoStep());
     EXPECT_TRUE(document.Changed);
@@ -83,7 +83,7 @@ TEST_F(DraftTest, RandomNumbersGoOnFromJobToJob)
         change.run([](Document& d, cBitFilter& f) { d.setBits(f.NOISE(50, true)); });
         change.take();
         change.handTo(engine, true);
-        return document.Bits();
+        return document.bits();
     };
     const Bits first = noise();
     EXPECT_FALSE(sameBits(first, noise()));

@@ -29,7 +29,7 @@ struct ResizingTest : ::testing::Test {
     /// A sizing word, as the frame and the batch program run it.
     void zoom(int factor, bool enlarge = false)
     {
-        Draft draft(document, document.Bits(), filter, After::Sizing);
+        Draft draft(document, document.bits(), filter, After::Sizing);
         draft.run([=](Document& d, cBitFilter& f) { zoomImage(d, f, factor, enlarge, false); });
         draft.take();
         draft.handTo(filter, true);
@@ -38,7 +38,7 @@ struct ResizingTest : ::testing::Test {
     {
         EXPECT_EQ(width, document.PictureWidth());
         EXPECT_EQ(height, document.PictureHeight());
-        EXPECT_TRUE(document.Bits().sharesWith(filter.bits())) << "document and engine hold one picture";
+        EXPECT_TRUE(document.bits().sharesWith(filter.bits())) << "document and engine hold one picture";
         EXPECT_EQ(Region::rectangle(0, 0, width, height), document.Region.RegionMain());
         EXPECT_EQ(document.Region.working(), filter.BitsRegion());
     }
@@ -79,10 +79,10 @@ TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)
     expectSize(8, 6);
     select(2, 2, 4, 4);
     ASSERT_TRUE(document.UndoBits(filter));
-    EXPECT_TRUE(sameBits(first, document.Bits()));
+    EXPECT_TRUE(sameBits(first, document.bits()));
     EXPECT_EQ(Region::rectangle(2, 2, 4, 4), filter.BitsRegion());
     EXPECT_FALSE(document.UndoBits(filter));
-    EXPECT_TRUE(sameBits(first, document.Bits()));
+    EXPECT_TRUE(sameBits(first, document.bits()));
 }
 
 TEST_F(ResizingTest, AnEmptyDocumentTakesNoPixels)
@@ -92,7 +92,7 @@ TEST_F(ResizingTest, AnEmptyDocumentTakesNoPixels)
     document.CreateBlank(0, 5);
     EXPECT_FALSE(document.PictureExists());
     document.CreateBlank(2, 1);
-    EXPECT_TRUE(sameBits(Bits(2, 1), document.Bits()));
+    EXPECT_TRUE(sameBits(Bits(2, 1), document.bits()));
     document.setBits(Bits());
     EXPECT_TRUE(document.PictureExists());
 }
@@ -111,7 +111,7 @@ TEST_F(ResizingTest, ARunOfSizingsStartsFromThePictureBeforeTheFirst)
     expectSize(63, 30);
     zoom(1);
     expectSize(21, 10);
-    EXPECT_EQ(colours(bits), colours(document.Bits()));
+    EXPECT_EQ(colours(bits), colours(document.bits()));
     EXPECT_TRUE(document.Zoomed);
     document.Zoomed = false; // another change came between
     zoom(2);
@@ -162,17 +162,17 @@ TEST_F(ResizingTest, SizingThrowsNoEditAway)
         zoom(2, true);
         expectSize(40, 40);
         zoom(1);
-        EXPECT_EQ(colours(edited), colours(document.Bits()));
+        EXPECT_EQ(colours(edited), colours(document.bits()));
     }
     open(bits);
     edit();
     zoom(2);
     document.UndoBits(filter); // by hand: the run is over
     zoom(1);
-    EXPECT_EQ(colours(edited), colours(document.Bits()));
+    EXPECT_EQ(colours(edited), colours(document.bits()));
     zoom(2);
     zoom(1);
-    EXPECT_EQ(colours(edited), colours(document.Bits()));
+    EXPECT_EQ(colours(edited), colours(document.bits()));
 }
 
 TEST_F(ResizingTest, WhatCannotBeSizedStaysAsItWas)
@@ -180,12 +180,12 @@ TEST_F(ResizingTest, WhatCannotBeSizedStaysAsItWas)
     const Bits bits = randomBits(2, 30, 5);
     open(bits);
     EXPECT_THROW(zoom(5), RuntimeError) << "no column would be left";
-    EXPECT_TRUE(sameBits(bits, document.Bits()));
+    EXPECT_TRUE(sameBits(bits, document.bits()));
     EXPECT_FALSE(document.Zoomed);
     zoom(2, true);
-    const Bits doubled = document.Bits();
+    const Bits doubled = document.bits();
     EXPECT_THROW(zoom(5), RuntimeError);
-    EXPECT_TRUE(sameBits(doubled, document.Bits())) << "though it began with the step before";
+    EXPECT_TRUE(sameBits(doubled, document.bits())) << "though it began with the step before";
     EXPECT_EQ(2, document.undo.UndoStep());
     expectSize(4, 60);
     EXPECT_THROW(zoomImage(document, filter, 2000000000, true, true), RuntimeError);
@@ -207,7 +207,7 @@ TEST_F(ResizingTest, QuarterTurnsMoveEveryPixel)
         open(numbered(5, 3)); // the square to turn in has a side of 5
         rotateImage(document, filter, c.degrees, false);
         expectSize(c.width, 15 / c.width);
-        EXPECT_EQ(c.wanted, colours(document.Bits())) << c.degrees;
+        EXPECT_EQ(c.wanted, colours(document.bits())) << c.degrees;
     }
 }
 
@@ -217,10 +217,10 @@ TEST_F(ResizingTest, AnEighthOfATurnHoldsTheWholePicture)
         open(flatBits(40, 20, 9, 9, 9));
         rotateImage(document, filter, -45, quality);
         expectSize(42, 42); // (40 + 20) / sqrt 2
-        EXPECT_EQ(0, document.Bits().at(0, 0).c[0]);
-        EXPECT_EQ(9, document.Bits().at(21, 21).c[0]);
+        EXPECT_EQ(0, document.bits().at(0, 0).c[0]);
+        EXPECT_EQ(9, document.bits().at(21, 21).c[0]);
         int inside = 0;
-        for (const int c : colours(document.Bits())) inside += (c & 255) == 9;
+        for (const int c : colours(document.bits())) inside += (c & 255) == 9;
         EXPECT_NEAR(800, inside, quality ? 130 : 40) << "as many pixels as before, but for the edges";
     }
 }
@@ -233,12 +233,12 @@ TEST_F(ResizingTest, CroppingTakesTheBoxOfTheSelection)
     select(1, 1, 2, 4);
     EXPECT_EQ(CropAnswer::TooSmall, cropAnswer(document));
     cropImage(document, filter);
-    EXPECT_TRUE(sameBits(bits, document.Bits()));
+    EXPECT_TRUE(sameBits(bits, document.bits()));
     document.Region.setRegion(Region::rectangle(4, 3, 9, 9)); // partly outside
     EXPECT_EQ(CropAnswer::Possible, cropAnswer(document));
     cropImage(document, filter);
     expectSize(2, 2);
-    EXPECT_EQ((std::vector{35, 36, 45, 46}), colours(document.Bits()));
+    EXPECT_EQ((std::vector{35, 36, 45, 46}), colours(document.bits()));
     EXPECT_TRUE(document.Region.IsEmptyRegion());
 }
 

@@ -30,7 +30,7 @@ Outcome RecordingFrame::change(const DocumentHandle& document, const Job& job, A
 {
     const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
     if (!handle) return {Outcome::Gone};
-    Draft draft(*handle, handle->Bits(), filter_, after);
+    Draft draft(*handle, handle->bits(), filter_, after);
     draft.filter().Progress = [&](int percent) {
         progress.push_back(percent);
         platform_.yield();

@@ -27,20 +27,20 @@ struct Preview : ::testing::Test {
         document.touched.fit(200, 150);
         document.touched.mark(y, x, end);
     }
-    const std::uint8_t* shown() { return document.Bits().data(); }
+    const std::uint8_t* shown() { return document.bits().data(); }
 };
 
 TEST_F(Preview, RestoresAndCommitsAsAWholeCopyWould)
 {
     open(200, 150, 1);
-    Bits committed = document.Bits();
+    Bits committed = document.bits();
     for (int step = 0; step < 300; ++step) {
         preview.begin();
         for (int i = random() % 4; i > 0; --i) paint();
         switch (random() % 6) {
         case 0:
             preview.commit();
-            committed = document.Bits();
+            committed = document.bits();
             break;
         case 1: // a command between
             committed = randomBits(200, 150, random());
@@ -55,13 +55,13 @@ TEST_F(Preview, RestoresAndCommitsAsAWholeCopyWould)
         case 3:
             document.setBits(randomBits(200, 150, random()));
             preview.commit();
-            committed = document.Bits();
+            committed = document.bits();
             break;
         default:
             preview.restore();
         }
         preview.restore();
-        ASSERT_TRUE(sameBits(committed, document.Bits())) << step;
+        ASSERT_TRUE(sameBits(committed, document.bits())) << step;
         ASSERT_TRUE(sameBits(committed, filter.bits())) << step;
     }
 }
@@ -79,9 +79,9 @@ TEST_F(Preview, BothBlocksStayWhereTheyAre)
         EXPECT_FALSE(preview.takeRestored().isEmpty());
         paint();
         preview.commit();
-        EXPECT_EQ(std::as_const(document).Bits().data(), a);
+        EXPECT_EQ(std::as_const(document).bits().data(), a);
         EXPECT_EQ(std::as_const(filter).bits().data(), b);
-        EXPECT_TRUE(filter.bits() == document.Bits());
+        EXPECT_TRUE(filter.bits() == document.bits());
     }
 }
 
@@ -103,10 +103,10 @@ TEST_F(Preview, WhatIsToBeShownCoversEveryRestoreSinceTheLast)
 TEST_F(Preview, AnEngineWithAnotherDocumentsPictureIsGivenThisOne)
 {
     open(200, 150, 3);
-    const Bits before = document.Bits();
+    const Bits before = document.bits();
     filter.setBits(randomBits(10, 10, 4));
     preview.restore();
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(before, filter.bits()));
 }
 

@@ -15,7 +15,7 @@ struct Stroke {
 };
 
 struct PaintTools : ToolFixture {
-    Bits before = document.Bits();
+    Bits before = document.bits();
     PaintTwin twin;
 
     PaintTools()
@@ -152,10 +152,10 @@ TEST_F(PaintTools, StrokesPaintWhatTheirPrimitivesDo)
         row.draw(wanted);
         press(row.way.front());
         for (std::size_t i = 1; i < row.way.size(); ++i) move(row.way[i]);
-        EXPECT_TRUE(sameBits(frame.setup_.CurrentTool == "Fill" ? before : wanted.paint.bits, document.Bits()));
+        EXPECT_TRUE(sameBits(frame.setup_.CurrentTool == "Fill" ? before : wanted.paint.bits, document.bits()));
         EXPECT_EQ(surface.pointer, row.pointer);
         release(row.way.back());
-        EXPECT_TRUE(sameBits(wanted.paint.bits, document.Bits()));
+        EXPECT_TRUE(sameBits(wanted.paint.bits, document.bits()));
         EXPECT_TRUE(sameBits(wanted.paint.bits, frame.filter_.bits()));
         EXPECT_EQ(frame.snapshots, 1);
     }
@@ -185,7 +185,7 @@ TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
     choose("Airbrush");
     drag({{20, 20}, {22, 21}});
     EXPECT_EQ(frame.snapshots, 0);
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
 }
 
 TEST_F(PaintTools, TheRightButtonTakesThePreviewBack)
@@ -193,14 +193,14 @@ TEST_F(PaintTools, TheRightButtonTakesThePreviewBack)
     choose("Shape");
     press({10, 10});
     move({40, 40});
-    EXPECT_FALSE(sameBits(before, document.Bits()));
+    EXPECT_FALSE(sameBits(before, document.bits()));
     tools->release(Tools::Right, 40, 40);
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_EQ(frame.snapshots, 0);
     EXPECT_FALSE(tools->ToolDown());
     move({45, 45}); // the left button is still down, but the drag is over
     release({45, 45});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_EQ(frame.snapshots, 0);
 }
 
@@ -216,7 +216,7 @@ TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
     release({40, 24});
     twin.BitsBWMask(30 - 6, 24 - 5, frame.toolStores_.text, ink, 100);
     twin.BitsBWMask(40 - 6, 24 - 5, frame.toolStores_.text, ink, 100);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
+    EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_EQ(frame.snapshots, 2);
 }
 
@@ -228,10 +228,10 @@ TEST_F(PaintTools, EscapeEndsADragWithThePictureAsItWas)
     press({20, 20});
     move({30, 24});
     EXPECT_TRUE(tools->keyDown(Tools::Escape));
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     move({40, 24}); // the button is still down
     release({40, 24});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_EQ(frame.snapshots, 0);
 }
 
@@ -250,7 +250,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     engine.setBits(before);
     engine.setBitsRegion(selection());
     Bits wanted = engine.GradientLinear(10, 10, 40, 30, 0x1020FF, 0, 70, 1);
-    EXPECT_TRUE(sameBits(wanted, document.Bits()));
+    EXPECT_TRUE(sameBits(wanted, document.bits()));
     s.GradientMode = 1;
     s.GradientTransparent2 = true;
     s.GradientFrequency = 3;
@@ -260,7 +260,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     release({23, 24});
     engine.setBits(wanted);
     wanted = engine.GradientCircular(20, 20, 23, 24, 0x1020FF, -1, 70, 3);
-    EXPECT_TRUE(sameBits(wanted, document.Bits()));
+    EXPECT_TRUE(sameBits(wanted, document.bits()));
     EXPECT_TRUE(sameBits(wanted, frame.filter_.bits()));
     EXPECT_EQ(frame.snapshots, 2);
 }
@@ -279,12 +279,12 @@ TEST_F(PaintTools, WhatAYieldInAGradientLetsInStands)
     Document other(folder.path(), 2);
     other.takePicture(randomBits(60, 50, 12));
     dragWith([&] { frame.handOver(other); }); // another document became active
-    EXPECT_FALSE(sameBits(before, document.Bits()));
-    EXPECT_TRUE(sameBits(other.Bits(), frame.filter_.bits()));
+    EXPECT_FALSE(sameBits(before, document.bits()));
+    EXPECT_TRUE(sameBits(other.bits(), frame.filter_.bits()));
     EXPECT_EQ(frame.snapshots, 1);
 
     dragWith([&] { throw Cancelled(); });
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_EQ(frame.snapshots, 1);
     EXPECT_FALSE(tools->ToolDown());
 
@@ -321,21 +321,21 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
     tools->move(Tools::NoButton, 20, 20);
     const auto wanted = [&](int x, int y) { twin.BitsPaintPreMasked(x - 5, y - 4, clip, 40, false); };
     wanted(20, 20);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
+    EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_TRUE(sameBits(before, frame.filter_.bits()));
     tools->keyDown(Tools::Space); // a copy stays
     drag({{50, 40}});
     wanted(50, 40);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
+    EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_FALSE(frame.toolStores_.pastePending);
     EXPECT_EQ(frame.snapshots, 2);
     tools->move(Tools::NoButton, 10, 10);
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
+    EXPECT_TRUE(sameBits(twin.bits, document.bits()));
 
     frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 10, 10);
     tools->release(Tools::Right, 10, 10); // let go
-    EXPECT_TRUE(sameBits(twin.bits, document.Bits()));
+    EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_FALSE(frame.toolStores_.pastePending);
     EXPECT_EQ(frame.snapshots, 2);
 }
@@ -351,7 +351,7 @@ TEST_F(PaintTools, TheSmallestPictureAndTheLargestBrush)
         drag({{0, 0}, {7, -3}, {0, 0}});
         drag({{5, 5}, {0, 0}});
         tools->release(Tools::Right, 0, 0);
-        EXPECT_TRUE(sameBits(frame.filter_.bits(), document.Bits())) << tool;
+        EXPECT_TRUE(sameBits(frame.filter_.bits(), document.bits())) << tool;
     }
 }
 
@@ -366,14 +366,14 @@ TEST_F(PaintTools, ACommandBetweenTwoStrokesIsNotLost)
     move({40, 30});
     move({10, 10});
     tools->release(Tools::Right, 10, 10);
-    EXPECT_TRUE(sameBits(inverted, document.Bits()));
+    EXPECT_TRUE(sameBits(inverted, document.bits()));
     press({10, 10});
     move({40, 30});
     document.setBits(before); // undo by a key in the middle of a drag
     frame.filter_.setBits(before);
     move({41, 30});
     tools->release(Tools::Right, 41, 30);
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
 }
 
 TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
@@ -382,12 +382,12 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     press({10, 10});
     move({40, 30});
     tools->deactivated();
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     const Bits other = randomBits(33, 22, 5); // the other one hands its picture to the engine
     frame.filter_.setBits(other);
     move({45, 35});
     release({45, 35});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
     EXPECT_EQ(frame.snapshots, 0);
 
@@ -395,14 +395,14 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     frame.toolStores_.paste = randomBits(8, 6, 5);
     frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 20, 20);
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
 
     document.handTo(frame.filter_); // active again: the paste hangs on the pointer, and leaves with it
     tools->move(Tools::NoButton, 21, 20);
-    EXPECT_FALSE(sameBits(before, document.Bits()));
+    EXPECT_FALSE(sameBits(before, document.bits()));
     tools->deactivated();
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(frame.toolStores_.pastePending);
 }
 
@@ -473,7 +473,7 @@ TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
             break;
         case 13:
             tools->release(Tools::Right, x, y);
-            ASSERT_TRUE(sameBits(frame.filter_.bits(), document.Bits())) << event;
+            ASSERT_TRUE(sameBits(frame.filter_.bits(), document.bits())) << event;
             ASSERT_FALSE(tools->ToolDown());
             break;
         default:

@@ -171,7 +171,7 @@ TEST_F(SelectTool, EscapeDropsAnyGestureAndWhatItChanged)
         frame.setup_.SelectionShape = static_cast<std::int16_t>(row.shape);
         frame.setup_.ForeColor = 0x123456;
         document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
-        const Bits before = document.Bits();
+        const Bits before = document.bits();
         press({4, 4});
         move({20, 30});
         if (row.released) release({20, 30});
@@ -182,7 +182,7 @@ TEST_F(SelectTool, EscapeDropsAnyGestureAndWhatItChanged)
         release({25, 35});
         EXPECT_EQ(rects(), (Words{2, 2, 9, 9})) << row.tool << row.shape;
         EXPECT_EQ(frame.setup_.ForeColor, 0x123456);
-        EXPECT_TRUE(document.Bits() == before) << row.tool;
+        EXPECT_TRUE(document.bits() == before) << row.tool;
         EXPECT_FALSE(tools->keyDown(Tools::Escape)) << row.tool << row.shape;
     }
     EXPECT_EQ(frame.snapshots, 0);
@@ -205,7 +205,7 @@ TEST_F(MoveTool, OnlyTheOutlineMovesAndIsCutAtTheRelease)
     release({-1, 18});
     EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
     EXPECT_EQ(frame.snapshots, 0);
-    EXPECT_TRUE(frame.filter_.bits() == document.Bits());
+    EXPECT_TRUE(frame.filter_.bits() == document.bits());
     drag({{30, 30}, {40, 40}}); // not within the selection
     EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
     EXPECT_EQ(surface.pointer, Pointer::Sizing);
@@ -216,7 +216,7 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
     frame.setup_.MoveSelection = false;
     frame.setup_.SelectionPressure = 100;
     document.Region.CreateEllipse(8, 8, 24, 22, Combine::Or, true); // no rectangle: the mask counts
-    const Bits before = document.Bits();
+    const Bits before = document.bits();
     const Region shape = selection();
     press({15, 15});
     move({40, 30});
@@ -230,13 +230,13 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
                     for (int c = 0; c < 3; ++c) bits.at(x, y).c[c] = before.at(x - dx, y - dy).c[c];
         return bits;
     };
-    EXPECT_TRUE(sameBits(wanted(25, 15), document.Bits())); // the selection does not limit the paste, the picture does
+    EXPECT_TRUE(sameBits(wanted(25, 15), document.bits())); // the selection does not limit the paste, the picture does
     move({-2, 10});
-    EXPECT_TRUE(sameBits(wanted(-17, -5), document.Bits()));
+    EXPECT_TRUE(sameBits(wanted(-17, -5), document.bits()));
     frame.toolStores_.useMovePressure = true;
     frame.toolStores_.movePressure = 0;
     move({20, 20});
-    EXPECT_TRUE(sameBits(before, document.Bits()));
+    EXPECT_TRUE(sameBits(before, document.bits()));
     frame.toolStores_.useMovePressure = false;
     move({40, 30});
     release({40, 30});
@@ -249,7 +249,7 @@ TEST_F(MoveTool, SpaceFixesTheContentAndGoesOnUnderTheButton)
 {
     frame.setup_.MoveSelection = false;
     frame.setup_.SelectionPressure = 100;
-    const Bits before = document.Bits();
+    const Bits before = document.bits();
     EXPECT_TRUE(tools->keyDown(Tools::Space)); // without the button: what stands is fixed, and nothing goes on
     EXPECT_EQ(frame.snapshots, 1);
     EXPECT_TRUE(sameBits(before, frame.filter_.bits()));
@@ -259,8 +259,8 @@ TEST_F(MoveTool, SpaceFixesTheContentAndGoesOnUnderTheButton)
     EXPECT_EQ(frame.snapshots, 2);
     move({15, 35});
     release({15, 35});
-    EXPECT_EQ(document.Bits().at(15, 35).c[0], before.at(15, 15).c[0]);
-    EXPECT_EQ(document.Bits().at(35, 15).c[0], before.at(15, 15).c[0]);
+    EXPECT_EQ(document.bits().at(15, 35).c[0], before.at(15, 15).c[0]);
+    EXPECT_EQ(document.bits().at(35, 15).c[0], before.at(15, 15).c[0]);
 }
 
 TEST_F(MoveTool, ASelectionFarOutsideHasNoContent)
@@ -271,10 +271,10 @@ TEST_F(MoveTool, ASelectionFarOutsideHasNoContent)
     EXPECT_EQ(frame.snapshots, 0);
     document.Region.Offset(-1005, 0); // half outside: the spot under the pointer stays under it
     frame.setup_.SelectionPressure = 100;
-    const Bits before = document.Bits();
+    const Bits before = document.bits();
     drag({{8, 15}, {28, 15}});
-    EXPECT_EQ(document.Bits().at(28, 15).c[1], before.at(8, 15).c[1]);
-    EXPECT_EQ(document.Bits().at(25, 15).c[1], before.at(5, 15).c[1]);
+    EXPECT_EQ(document.bits().at(28, 15).c[1], before.at(8, 15).c[1]);
+    EXPECT_EQ(document.bits().at(25, 15).c[1], before.at(5, 15).c[1]);
 }
 
 TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
@@ -288,7 +288,7 @@ TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
 
 TEST_F(MoveTool, ArrowKeysMoveThePositionOnly)
 {
-    const Bits before = document.Bits();
+    const Bits before = document.bits();
     press({15, 15});
     release({15, 15});
     const Tools::Key keys[] = {Tools::ArrowLeft, Tools::ArrowUp, Tools::ArrowRight, Tools::ArrowDown};
@@ -298,7 +298,7 @@ TEST_F(MoveTool, ArrowKeysMoveThePositionOnly)
         EXPECT_EQ(frame.status[Panel::Pos], wanted[i]);
     }
     EXPECT_EQ(rectanglesOf(selection()), (Words{10, 10, 20, 20}));
-    EXPECT_TRUE(document.Bits() == before);
+    EXPECT_TRUE(document.bits() == before);
 }
 
 TEST_F(MoveTool, ADocumentThatClosesInAPressIsLetGo)

@@ -15,7 +15,7 @@ void fMain::colorDepth()
     const auto save = [this, image](const Bits& bits) {
         if (!closing_ && image) saveForWeb(*image, bits);
     };
-    const QPointer<fColorDepth> dialog = new fColorDepth(image->Bits(), {ok, save}, this);
+    const QPointer<fColorDepth> dialog = new fColorDepth(image->bits(), {ok, save}, this);
     dialog->exec();
     delete dialog; // unless the frame went, and it with it
 }
@@ -23,7 +23,7 @@ void fMain::colorDepth()
 void fMain::saveForWeb()
 {
     fImage* image = GetActiveImage();
-    if (image && image->PictureExists()) saveForWeb(*image, image->Bits());
+    if (image && image->PictureExists()) saveForWeb(*image, image->bits());
 }
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)

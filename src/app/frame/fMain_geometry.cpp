@@ -27,7 +27,7 @@ template <class Dialog> void fMain::askAndReshape(std::string_view word)
     if (!document || !document->PictureExists()) return;
     Job job;
     if constexpr (std::is_constructible_v<Dialog, Platform&, const Bits&, QWidget*>) {
-        Dialog dialog(platform_, document->Bits(), this);
+        Dialog dialog(platform_, document->bits(), this);
         if (dialog.exec() == QDialog::Accepted) job = dialog.job();
     } else {
         Dialog dialog(platform_, this);
@@ -50,7 +50,7 @@ void fMain::imageTextures()
     if (!document || !document->PictureExists()) return;
     Texturing texturing;
     {
-        fTexturize dialog(platform_, document->Bits(), document->Region.working(), this);
+        fTexturize dialog(platform_, document->bits(), document->Region.working(), this);
         if (dialog.exec() != QDialog::Accepted) return;
         texturing = dialog.texturing();
     }

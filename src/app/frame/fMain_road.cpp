@@ -15,7 +15,7 @@ Outcome fMain::change(const DocumentHandle& document, const Job& job, After afte
     // What a tool shows for the time being is no part of the picture: the engine has that.
     const bool committed = engineHolds(*handle) && cFilter_.BitsWidth() == handle->PictureWidth() &&
                            cFilter_.BitsHeight() == handle->PictureHeight();
-    Draft draft(*handle, committed ? cFilter_.bits() : handle->Bits(), cFilter_, after);
+    Draft draft(*handle, committed ? cFilter_.bits() : handle->bits(), cFilter_, after);
     draft.filter().Progress = [&](int percent) {
         cFilter_Progress(percent);
         platform_.yield();

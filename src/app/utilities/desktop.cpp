@@ -41,7 +41,7 @@ void print(fMain& frame)
     const auto toClipboard = [image] {
         if (image) image->BitsCopyToClipboard();
     };
-    auto* dialog = new fPrint(frame.platform(), image->Bits(), image->Caption(), toClipboard, &frame);
+    auto* dialog = new fPrint(frame.platform(), image->bits(), image->Caption(), toClipboard, &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

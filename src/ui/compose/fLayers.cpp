@@ -239,8 +239,8 @@ void fLayers::followDocument()
 {
     const Document* document = document_.get();
     if (!document || !document->PictureExists()) return;
-    if (document->Bits().sharesWith(layers_.canvas())) return;
-    layers_.setCanvas(document->Bits());
+    if (document->bits().sharesWith(layers_.canvas())) return;
+    layers_.setCanvas(document->bits());
     page_->setBits(layers_.canvas());
     canvas_->refresh(0);
 }

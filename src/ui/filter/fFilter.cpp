@@ -19,7 +19,7 @@
 namespace velara {
 
 fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& document, QWidget* parent)
-    : QDialog(parent), frame_(frame), row_(row), document_(document), picture_(document->Bits()),
+    : QDialog(parent), frame_(frame), row_(row), document_(document), picture_(document->bits()),
       preview_(picture_, document->Region.working(), kPreviewBox)
 {
     setObjectName(QStringLiteral("fFilter"));

@@ -68,7 +68,7 @@ Bits fGeometry::tried(const Bits& picture, const Job& job)
     } catch (const RuntimeError&) {
         return picture;
     }
-    return copy.Bits();
+    return copy.bits();
 }
 
 fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int height, double ratio, QWidget* parent)

@@ -29,7 +29,7 @@ fIcon::fIcon(Frame& frame, QWidget* parent)
 void fIcon::load()
 {
     const DocumentHandle document = frame_.active();
-    picture_->setPicture(document && document->PictureExists() ? document->Bits() : Bits());
+    picture_->setPicture(document && document->PictureExists() ? document->bits() : Bits());
 }
 
 } // namespace velara

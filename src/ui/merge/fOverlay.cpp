@@ -229,7 +229,7 @@ DocumentHandle fOverlay::chosen() const
 Merging fOverlay::merging() const
 {
     const DocumentHandle over = chosen();
-    return {over ? over->Bits() : Bits(),
+    return {over ? over->bits() : Bits(),
             x_.bar->value(),
             y_.bar->value(),
             chkTiled_->isChecked(),
@@ -250,7 +250,7 @@ void fOverlay::changed()
 void fOverlay::showPreview()
 {
     if (!hasPicture(below_)) return iSrc_->setBits({});
-    const Bits& picture = below_->Bits();
+    const Bits& picture = below_->bits();
     const Region region = chkCreateNew_->isChecked() ? Region::rectangle(0, 0, picture.width(), picture.height())
                                                      : below_->Region.working();
     iSrc_->setBits(mergedView(picture, region, merging(), kPreview));
@@ -268,7 +268,7 @@ void fOverlay::accept()
         draft.setBits(merged(filter, merging));
     };
     const DocumentHandle onto =
-        chkCreateNew_->isChecked() ? frame_.adopt(below_->Bits(), below_->Tag) : below_; // the copy becomes active
+        chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->Tag) : below_; // the copy becomes active
     const Outcome outcome = frame_.change(onto, job);
     if (!alive) return;
     working_ = false;

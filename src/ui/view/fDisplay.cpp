@@ -94,7 +94,7 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
                                   {0, 0, strip.width(), strip.height()});
     };
     const bool inStrips = outline && k == 1;
-    renderer_.paint(painter, document_.Bits(), spot_, device,
+    renderer_.paint(painter, document_.bits(), spot_, device,
                     inStrips ? ViewRenderer::Overlay(drawOutline) : ViewRenderer::Overlay());
     if (!outline || inStrips) return;
     if (outline_.size() != size()) outline_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);

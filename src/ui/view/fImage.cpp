@@ -80,7 +80,7 @@ SaveResult fImage::Save(const QString& path, const QString& ext)
     const Format* format = findFormat(ext.toLower().toStdString());
     const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const SaveResult result = savePicture(frame_.platform(), document_.Bits(), path, ext);
+    const SaveResult result = savePicture(frame_.platform(), document_.bits(), path, ext);
     if (slow) QGuiApplication::restoreOverrideCursor();
     return result;
 }
@@ -92,7 +92,7 @@ void fImage::CreateBlank(int width, int height)
     layOutView();
 }
 
-void fImage::PPicture(const velara::Bits& picture)
+void fImage::PPicture(const Bits& picture)
 {
     scrollGuard_ = true;
     hSB_->setValue(0);
@@ -108,7 +108,7 @@ QImage fImage::ObtainedPic() const
 {
     if (!PictureExists()) return {};
     QImage picture(PictureWidth(), PictureHeight(), QImage::Format_RGB32);
-    ViewRenderer().render(document_.Bits(), {}, 0, 0, picture);
+    ViewRenderer().render(document_.bits(), {}, 0, 0, picture);
     return picture;
 }
 
@@ -136,7 +136,7 @@ void fImage::takeFocus()
 
 void fImage::BitsCopyToClipboard()
 {
-    if (PictureExists()) frame_.platform().clipboard().setBitmap(document_.Bits());
+    if (PictureExists()) frame_.platform().clipboard().setBitmap(document_.bits());
 }
 
 void fImage::PasteFromClipboard()

@@ -43,7 +43,7 @@ class fImage final : public QWidget, public ToolSurface {
     /// A black picture; nothing below 1 by 1. Leaves the selection alone.
     void CreateBlank(int width, int height);
     /// Takes a picture into the document, whatever there was; a null one clears it. The selection is wiped.
-    void PPicture(const velara::Bits& picture);
+    void PPicture(const Bits& picture);
     /// The picture without its margin, opaque; null without one.
     QImage ObtainedPic() const;
     /// "640x480", for the status bar.
@@ -51,8 +51,8 @@ class fImage final : public QWidget, public ToolSurface {
     bool PictureExists() const { return document_.PictureExists(); }
     int PictureWidth() const { return document_.PictureWidth(); }
     int PictureHeight() const { return document_.PictureHeight(); }
-    velara::Bits Bits() const { return document_.Bits(); }
-    void setBits(const velara::Bits& bits) { document_.setBits(bits); }
+    Bits bits() const { return document_.bits(); }
+    void setBits(const Bits& bits) { document_.setBits(bits); }
     /// The window stays open, but empty.
     void Clear();
     void BitsCopyToClipboard();

@@ -133,13 +133,13 @@ TEST_F(FrameTest, RepeatedSizingStartsFromTheSamePicture)
     fImage* image = open(randomBits(40, 20, 4));
     frame->Mmenu("ORIGINAL"); // empties the margin, which no file brings
     frame->Update(false, true);
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     frame->Mmenu("50");
     frame->Mmenu("50");
     EXPECT_EQ(image->PictureWidth(), 20);
     EXPECT_EQ(frame->status().panel(Panel::Size), "20x10");
     frame->Mmenu("ORIGINAL");
-    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_TRUE(sameBits(before, image->bits()));
 }
 
 TEST_F(FrameTest, ViewZoomLeavesThePixels)
@@ -178,17 +178,17 @@ TEST_F(FrameTest, OneLetterChoosesATool)
 TEST_F(FrameTest, AFilterTakesOneUndoStepAndMarksTheDocument)
 {
     fImage* image = open(randomBits(30, 20, 5));
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     frame->Mmenu("INVERT");
     EXPECT_EQ(platform.yields > 0, true);
-    EXPECT_FALSE(image->Bits() == before);
-    EXPECT_TRUE(frame->filter().bits() == image->Bits());
+    EXPECT_FALSE(image->bits() == before);
+    EXPECT_TRUE(frame->filter().bits() == image->bits());
     EXPECT_EQ(image->document().undo.UndoStep(), 2);
     EXPECT_TRUE(image->document().Changed);
     EXPECT_TRUE(frame->action("tb_0_7")->isEnabled());
     EXPECT_FALSE(frame->action("tb_0_8")->isEnabled());
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_TRUE(sameBits(before, image->bits()));
     EXPECT_FALSE(frame->action("tb_0_7")->isEnabled());
     EXPECT_TRUE(frame->action("tb_0_8")->isEnabled());
 }
@@ -196,7 +196,7 @@ TEST_F(FrameTest, AFilterTakesOneUndoStepAndMarksTheDocument)
 TEST_F(FrameTest, AFilterDialogPutsItsResultIntoTheDocument)
 {
     fImage* image = open(randomBits(60, 40, 5));
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     for (const char* button : {"cmdCancel", "cmdOK"}) {
         QTimer::singleShot(0, [button] {
             QWidget* dialog = QApplication::activeModalWidget();
@@ -209,23 +209,23 @@ TEST_F(FrameTest, AFilterDialogPutsItsResultIntoTheDocument)
         const bool ok = button == std::string("cmdOK");
         EXPECT_EQ(image->document().undo.UndoStep(), ok ? 2 : 1);
         EXPECT_EQ(image->document().Changed, ok);
-        EXPECT_EQ(ok, !sameBits(before, image->Bits()));
-        EXPECT_TRUE(sameBits(image->Bits(), frame->filter().bits()));
+        EXPECT_EQ(ok, !sameBits(before, image->bits()));
+        EXPECT_TRUE(sameBits(image->bits(), frame->filter().bits()));
     }
     cBitFilter filter;
     filter.setBits(before);
     filter.setBitsRegion(Region::rectangle(0, 0, 60, 40));
-    EXPECT_TRUE(sameBits(filter.BRIGHTNESS(30), image->Bits()));
+    EXPECT_TRUE(sameBits(filter.BRIGHTNESS(30), image->bits()));
 }
 
 TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
 {
     fImage* image = open(randomBits(30, 20, 5));
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     for (const int failure : {0, 1, 2}) {
         const Outcome outcome = frame->change(frame->active(), [&](Document& draft, cBitFilter& filter) {
             draft.takePicture(flatBits(3, 2, 1, 2, 3));
-            filter.setBits(draft.Bits());
+            filter.setBits(draft.bits());
             filter.setBitsRegion({});
             if (failure == 0) throw RuntimeError(Fault::Overflow);
             if (failure == 1) throw std::bad_alloc();
@@ -233,7 +233,7 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
         });
         EXPECT_EQ(outcome.kind, failure == 2 ? Outcome::Cancelled : Outcome::Failed);
         EXPECT_EQ(outcome.reason.isEmpty(), failure == 2);
-        EXPECT_TRUE(sameBits(before, image->Bits()));
+        EXPECT_TRUE(sameBits(before, image->bits()));
         EXPECT_TRUE(sameBits(before, frame->filter().bits()));
         EXPECT_TRUE(frame->filter().BitsRegion().contains(29, 19));
         EXPECT_EQ(image->document().undo.UndoStep(), 1);
@@ -279,13 +279,13 @@ TEST_F(FrameTest, UndoComesBackWhenItsFolderWasSweptAway)
     fImage* image = open(randomBits(20, 20, 5));
     QDir(path("Temp")).removeRecursively();
     frame->Mmenu("INVERT");
-    const Bits inverted = image->Bits();
+    const Bits inverted = image->bits();
     EXPECT_EQ(image->document().undo.UndoStep(), 2);
     frame->Mmenu("UNDO"); // its file is gone: nothing moves
-    EXPECT_TRUE(sameBits(inverted, image->Bits()));
+    EXPECT_TRUE(sameBits(inverted, image->bits()));
     frame->Mmenu("INVERT");
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(inverted, image->Bits()));
+    EXPECT_TRUE(sameBits(inverted, image->bits()));
 }
 
 TEST_F(FrameTest, BarsFollowTheConfiguration)

@@ -169,9 +169,9 @@ TEST_F(FrameDocuments, TheSelectionHasItsCommands)
     EXPECT_FALSE(image->document().Changed);
     frame->Mmenu("INVERT");
     frame->Mmenu("UNDO");
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_FALSE(image->Bits() == before) << "the other key of redo";
+    EXPECT_FALSE(image->bits() == before) << "the other key of redo";
 }
 
 TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)

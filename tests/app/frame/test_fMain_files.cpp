@@ -145,7 +145,7 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     QDir(path("Temp")).removeRecursively();
     fImage* image = open(randomBits(40, 40, 1));
     ASSERT_TRUE(image->document().undo.stands()) << "opening makes the folder anew";
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     {
         const FullDisk full(1000);
         frame->Mmenu("INVERT");
@@ -156,12 +156,12 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     frame->close(); // an empty queue cancels
     EXPECT_TRUE(frame->isVisible());
     EXPECT_TRUE(last().starts_with("ask: ")) << last();
-    const Bits after = image->Bits();
+    const Bits after = image->bits();
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_TRUE(sameBits(before, image->bits()));
     EXPECT_TRUE(frame->status().currentMessage().contains("last one that stands"));
     frame->Mmenu("REDO");
-    EXPECT_TRUE(sameBits(after, image->Bits()));
+    EXPECT_TRUE(sameBits(after, image->bits()));
 }
 
 TEST_F(FrameTest, TheNaturalSizeOnlySetsTheView)
@@ -186,11 +186,11 @@ TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
     ASSERT_NE(theirs->DocNumber(), image->DocNumber());
     frame->Mmenu("INVERT");
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(mine, image->Bits()));
+    EXPECT_TRUE(sameBits(mine, image->bits()));
     other.close();
     frame->Mmenu("REDO");
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(mine, image->Bits()));
+    EXPECT_TRUE(sameBits(mine, image->bits()));
 }
 
 TEST_F(FrameTest, AClipboardPictureThatCannotBeReadIsTold)
@@ -290,7 +290,7 @@ TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
     frame->Mmenu("CREATENEWCOPY");
     ASSERT_EQ(frame->documents().size(), 2);
     fImage* copy = frame->documents()[1];
-    EXPECT_EQ(copy->Bits().at(3, 3), image->Bits().at(3, 3));
+    EXPECT_EQ(copy->bits().at(3, 3), image->bits().at(3, 3));
     EXPECT_TRUE(copy->document().Region.Region() == image->document().Region.Region());
     EXPECT_EQ(copy->Tag(), "[1]" + image->Tag());
     EXPECT_FALSE(platform.clipboard().hasBitmap());
@@ -454,9 +454,9 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     }));
     frame->adopt(randomBits(8, 8, 1), "/somewhere/a.bmp");
     const fImage* image = frame->GetActiveImage();
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     frame->Mmenu("INVERT");
-    EXPECT_FALSE(image->Bits() == before); // works, but can't be undone
+    EXPECT_FALSE(image->bits() == before); // works, but can't be undone
     setup.AskToSave = false;
     frame->close();
     EXPECT_FALSE(frame->isVisible());

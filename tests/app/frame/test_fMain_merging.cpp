@@ -85,10 +85,10 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
     settle();
     EXPECT_FALSE(dialog) << "it went";
-    EXPECT_TRUE(sameBits(wanted, lower->Bits()));
-    EXPECT_TRUE(sameBits(above, upper->Bits()));
+    EXPECT_TRUE(sameBits(wanted, lower->bits()));
+    EXPECT_TRUE(sameBits(above, upper->bits()));
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(below, lower->Bits()));
+    EXPECT_TRUE(sameBits(below, lower->bits()));
 }
 
 TEST_F(FrameMerging, ANewImageGetsTheWholeBlendAndThePictureStays)
@@ -103,11 +103,11 @@ TEST_F(FrameMerging, ANewImageGetsTheWholeBlendAndThePictureStays)
     ASSERT_EQ(3, frame->documents().size());
     const fImage* made = frame->documents().back();
     EXPECT_EQ(made, frame->GetActiveImage());
-    EXPECT_TRUE(sameBits(wanted, made->Bits()));
+    EXPECT_TRUE(sameBits(wanted, made->bits()));
     EXPECT_TRUE(made->Tag().endsWith("below.bmp") && made->Tag() != lower->Tag());
-    EXPECT_TRUE(sameBits(below, lower->Bits()));
+    EXPECT_TRUE(sameBits(below, lower->bits()));
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(below, made->Bits()));
+    EXPECT_TRUE(sameBits(below, made->bits()));
 }
 
 TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
@@ -124,21 +124,21 @@ TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
     slide("sbXOffset", 0);
     settle();
     cBitFilter filter;
-    filter.setBits(lower->Bits());
+    filter.setBits(lower->bits());
     filter.setBitsRegion(Region::rectangle(0, 0, 20, 10));
-    EXPECT_TRUE(shows(merged(filter, {upper->Bits(), 0, 0})));
+    EXPECT_TRUE(shows(merged(filter, {upper->bits(), 0, 0})));
 
     open(randomBits(5, 5, 3), "third.bmp");
     settle();
     EXPECT_EQ(3, find<QComboBox>("cbOverlay")->count());
     EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText());
 
-    const Bits before = lower->Bits();
+    const Bits before = lower->bits();
     upper->parentWidget()->close();
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has seen it
     settle();
     ASSERT_TRUE(dialog);
-    EXPECT_TRUE(sameBits(before, lower->Bits())) << "another picture than the chosen one is not merged";
+    EXPECT_TRUE(sameBits(before, lower->bits())) << "another picture than the chosen one is not merged";
     EXPECT_EQ("third.bmp", find<QComboBox>("cbOverlay")->currentText());
     for (fImage* image : frame->documents()) image->parentWidget()->close();
     slide("sbTransparency", 10);

@@ -22,13 +22,13 @@ TEST_F(FramePicture, AStrokeOnAnotherDocumentIsThatDocuments)
     EXPECT_EQ(frame->filter().BitsWidth(), 40);
     activate(a);
     drag(a, {5, 5}, {20, 5});
-    EXPECT_TRUE(frame->filter().bits() == a->Bits());
-    EXPECT_FALSE(a->Bits() == first);
-    EXPECT_TRUE(b->Bits() == second);
+    EXPECT_TRUE(frame->filter().bits() == a->bits());
+    EXPECT_FALSE(a->bits() == first);
+    EXPECT_TRUE(b->bits() == second);
     EXPECT_TRUE(a->document().Changed);
     EXPECT_FALSE(b->document().Changed);
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(a->Bits() == first);
+    EXPECT_TRUE(a->bits() == first);
     EXPECT_EQ(shown(a, 10, 5), 0u);
     frame->Mmenu("REDO");
     EXPECT_NE(shown(a, 10, 5), 0u);
@@ -40,8 +40,8 @@ TEST_F(FramePicture, AFilterKeepsToTheSelectionOfTheMouse)
     click("Select");
     drag(image, {10, 10}, {30, 25});
     frame->Mmenu("INVERT");
-    EXPECT_EQ(image->Bits().at(10, 10), (Pixel{{245, 235, 225, 0}}));
-    EXPECT_EQ(image->Bits().at(9, 10), (Pixel{{10, 20, 30, 0}}));
+    EXPECT_EQ(image->bits().at(10, 10), (Pixel{{245, 235, 225, 0}}));
+    EXPECT_EQ(image->bits().at(9, 10), (Pixel{{10, 20, 30, 0}}));
     EXPECT_EQ(shown(image, 20, 20), 0xE1EBF5u);
     EXPECT_EQ(shown(image, 40, 40), 0x1E140Au);
     frame->Mmenu("CROP");
@@ -54,7 +54,7 @@ TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
 {
     fImage* image = open(randomBits(2000, 1500, 1));
     ASSERT_TRUE(image->MouseScroll()) << "on with the first document";
-    const Bits before = image->Bits();
+    const Bits before = image->bits();
     const QPoint place = image->GetSBV();
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
@@ -63,7 +63,7 @@ TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
     EXPECT_FALSE(frame->toolPane().button("MouseScroll")->isChecked());
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
-    EXPECT_FALSE(image->Bits() == before);
+    EXPECT_FALSE(image->bits() == before);
 }
 
 TEST_F(FramePicture, TheToolsHavePanesInTheSideAndBesideTheirButtons)

@@ -62,7 +62,7 @@ struct Road : FrameTest {
         other = open(second, "b.bmp");
         activate(own);
         frame->Mmenu("50");
-        start = own->Bits();
+        start = own->bits();
         own->document().Region.CreateRect(3, 2, 17, 14, Combine::Or, true);
         own->document().handTo(frame->filter());
         frame->filter().setRandomSeed(1);
@@ -85,7 +85,7 @@ struct Road : FrameTest {
     static State stateOf(fImage* image)
     {
         const Document& document = image->document();
-        return {document.Bits(), document.undo.previous().value_or(Bits()), document.undo.UndoStep(),
+        return {document.bits(), document.undo.previous().value_or(Bits()), document.undo.UndoStep(),
                 document.undo.UndoTop()};
     }
 
@@ -161,7 +161,7 @@ void expectOneFrame(Road& r)
         steps += document.undo.UndoTop();
         EXPECT_EQ(r.frame->engineHolds(document), image == r.frame->GetActiveImage());
         if (image != r.frame->GetActiveImage()) continue;
-        EXPECT_TRUE(sameBits(document.Bits(), r.frame->filter().bits())) << "engine";
+        EXPECT_TRUE(sameBits(document.bits(), r.frame->filter().bits())) << "engine";
         EXPECT_EQ(document.Region.working(), r.frame->filter().BitsRegion());
         EXPECT_EQ(r.frame->status().panel(Panel::Size), image->SizeText());
         EXPECT_EQ(r.frame->status().panel(Panel::Name), image->Caption());
@@ -267,11 +267,11 @@ TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
     fImage *a = frame->documents()[0], *b = frame->documents()[1];
     frame->filter().clock = [this] { return platform.now += 20; };
     Document turned({}, 0);
-    turned.takePicture(a->Bits());
+    turned.takePicture(a->bits());
     cBitFilter engine;
     turned.handTo(engine);
     rotateImage(turned, engine, -180, true);
-    const Bits untouched = b->Bits();
+    const Bits untouched = b->bits();
     Bits line;
     activate(a);
     click("Pencil");
@@ -279,21 +279,21 @@ TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
         if (--left != 0) return;
         activate(b);
         drag(b, {5, 5}, {30, 20});
-        line = b->Bits();
+        line = b->bits();
     };
     frame->Mmenu("A180");
     platform.onYield = nullptr;
-    EXPECT_TRUE(sameBits(turned.Bits(), a->Bits()));
-    EXPECT_TRUE(sameBits(line, b->Bits()));
+    EXPECT_TRUE(sameBits(turned.bits(), a->bits()));
+    EXPECT_TRUE(sameBits(line, b->bits()));
     EXPECT_FALSE(line == untouched);
     drag(b, {5, 30}, {30, 30});
-    EXPECT_FALSE(line == b->Bits());
+    EXPECT_FALSE(line == b->bits());
     EXPECT_EQ(a->document().undo.UndoStep(), 2);
     EXPECT_EQ(b->document().undo.UndoStep(), 3);
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(line, b->Bits()));
+    EXPECT_TRUE(sameBits(line, b->bits()));
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(untouched, b->Bits()));
+    EXPECT_TRUE(sameBits(untouched, b->bits()));
 }
 
 } // namespace velara

@@ -35,19 +35,19 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     twin.Region = image->document().Region;
     const auto held = [](int size) { return (size + 1) / 2 + 1; }; // the upper bound counts the margin
     twin.paint.BitsBWMask(55 - held(text.width()), 45 - held(text.height()), text, 0x2040FF, 60);
-    EXPECT_FALSE(before == twin.Bits());
-    EXPECT_TRUE(sameBits(twin.Bits(), image->Bits()));
+    EXPECT_FALSE(before == twin.bits());
+    EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
     frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(before, image->Bits()));
+    EXPECT_TRUE(sameBits(before, image->bits()));
     frame->Mmenu("REDO");
-    EXPECT_TRUE(sameBits(twin.Bits(), image->Bits()));
+    EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
 
-    const Bits stamped = image->Bits();
+    const Bits stamped = image->bits();
     mouse(image, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
     mouse(image, QEvent::MouseMove, {40, 40}, Qt::LeftButton);
     QTest::keyClick(image->findChild<QWidget*>("iDst"), Qt::Key_Escape);
     mouse(image, QEvent::MouseButtonRelease, {40, 40}, Qt::NoButton);
-    EXPECT_TRUE(sameBits(stamped, image->Bits())) << "Esc";
+    EXPECT_TRUE(sameBits(stamped, image->bits())) << "Esc";
 }
 
 TEST_F(FrameText, TheBoxIsShownAndHiddenByItsMenuItem)
@@ -75,9 +75,9 @@ TEST_F(FrameText, LayersAreMergedIntoTheirOwnDocument)
     QTest::keyClicks(dialog->findChild<QWidget*>("picImage"), "hello");
     fImage* b = open(second, "b.bmp");
     QTest::mouseClick(dialog->findChild<QWidget*>("CmdOK"), Qt::LeftButton);
-    EXPECT_FALSE(first == a->Bits());
+    EXPECT_FALSE(first == a->bits());
     EXPECT_TRUE(a->document().Changed);
-    EXPECT_TRUE(sameBits(second, b->Bits()));
+    EXPECT_TRUE(sameBits(second, b->bits()));
     EXPECT_TRUE(frame->filter().bits() == second) << "the engine holds the active one's";
     EXPECT_TRUE(!dialog || !dialog->isVisible());
 }

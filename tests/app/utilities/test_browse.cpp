@@ -40,7 +40,7 @@ TEST_F(BrowseTest, OpensAsOpenDoesAndComesBackToThePlace)
     choose(file("Green.PNG"));
     ASSERT_NE(frame->GetActiveImage(), nullptr);
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "Green.PNG");
-    EXPECT_EQ(frame->GetActiveImage()->document().Bits().width(), 12);
+    EXPECT_EQ(frame->GetActiveImage()->document().bits().width(), 12);
     EXPECT_EQ(setup.Recent[0].trimmed(), path("Green.PNG"));
     frame->run("@BROWSE");
     EXPECT_EQ(browser()->findChild<fFolderTree*>("BF")->path(), path("Green.PNG"));

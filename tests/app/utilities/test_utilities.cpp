@@ -66,8 +66,8 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
     image->document().Region.CreateEllipse(2, 2, 10, 8, Combine::Or, true);
     frame->Mmenu("CUT");
     EXPECT_EQ(image->document().undo.UndoStep(), 2);
-    EXPECT_EQ(image->Bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
-    EXPECT_EQ(image->Bits().at(2, 2).c[0], 1); // the corner of the box is not selected
+    EXPECT_EQ(image->bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
+    EXPECT_EQ(image->bits().at(2, 2).c[0], 1); // the corner of the box is not selected
     EXPECT_TRUE(platform.logged("clipboard: part"));
     EXPECT_EQ(platform.recordingClipboard.bits.width(), image->document().Region.Region().bounds().width());
     EXPECT_EQ(platform.recordingClipboard.bits.at(0, 0).c[3], 255);
@@ -106,14 +106,14 @@ TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
     platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // of another program
     frame->Mmenu("PASTE");
     ASSERT_TRUE(frame->toolStores().pastePending);
-    EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->Bits())) << "it is seen at once";
+    EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->bits())) << "it is seen at once";
     frame->Mmenu("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
     EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.recordingClipboard.bits));
 
     frame->Mmenu("PASTE");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(frame->toolStores().pastePending);
-    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), image->Bits()));
+    EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), image->bits()));
     EXPECT_EQ(image->document().undo.UndoStep(), 1);
 }
 
@@ -127,7 +127,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     fImage* image = waitForDocument();
     EXPECT_EQ(platform.screen().log, (std::vector<std::string>{"desktop on", "grab", "desktop off"}));
     ASSERT_EQ(image->PictureWidth(), 40);
-    EXPECT_EQ(image->Bits().at(7, 5).c[1], 9);
+    EXPECT_EQ(image->bits().at(7, 5).c[1], 9);
     EXPECT_EQ(image->Caption(), "New.bmp");
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
     image->parentWidget()->close();
@@ -165,8 +165,8 @@ TEST_F(UtilitiesTest, ForegroundIsAFixedAreaWhateverTheScreen)
     fImage* image = waitForDocument();
     EXPECT_EQ(image->PictureWidth(), 800);
     EXPECT_EQ(image->PictureHeight(), 600);
-    EXPECT_EQ(image->Bits().at(39, 29).c[2], 3);
-    EXPECT_EQ(image->Bits().at(40, 29).c[2], 0);
+    EXPECT_EQ(image->bits().at(39, 29).c[2], 3);
+    EXPECT_EQ(image->bits().at(40, 29).c[2], 0);
 }
 
 TEST_F(UtilitiesTest, ARectangleIsPickedOnThePictureOfTheScreen)
@@ -196,7 +196,7 @@ TEST_F(UtilitiesTest, ARectangleIsPickedOnThePictureOfTheScreen)
     EXPECT_TRUE(frame->isVisible());
     ASSERT_EQ(image->PictureWidth(), 15);
     ASSERT_EQ(image->PictureHeight(), 17);
-    EXPECT_EQ(image->Bits().at(2, 2).c[0], 9);
+    EXPECT_EQ(image->bits().at(2, 2).c[0], 9);
 }
 
 TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)
@@ -323,7 +323,7 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
     EXPECT_EQ(scanner.jobs[0].resolution, 300);
     EXPECT_EQ(scanner.jobs[0].area, QRectF(0, 0, 200, 100));
     fImage* image = waitForDocument();
-    EXPECT_EQ(image->Bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
+    EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
     EXPECT_FALSE(QFile::exists(path("temp.bmp")));
 }
 

@@ -78,7 +78,7 @@ TEST_F(LayersDialogTest, OpensWithItsLists)
     for (int i = 0; i < 8; ++i) EXPECT_FALSE(find(QString("lblGrip_%1").arg(i))->isVisible()) << i;
     ok();
     EXPECT_EQ(1, frame.logged("step"));
-    EXPECT_TRUE(sameBits(picture, document->Bits())) << "without texts";
+    EXPECT_TRUE(sameBits(picture, document->bits())) << "without texts";
     EXPECT_TRUE(!dialog || !dialog->isVisible());
 }
 
@@ -93,12 +93,12 @@ TEST_F(LayersDialogTest, TextsAreMergedInTheirOrder)
     const int third = layer({20, 150}, "gone");
     find<QCheckBox>(QString("BT_%1").arg(third))->click();
     EXPECT_FALSE(find(QString("lblShape_%1").arg(third))->isVisible());
-    EXPECT_TRUE(sameBits(picture, document->Bits())) << "untouched until OK";
+    EXPECT_TRUE(sameBits(picture, document->bits())) << "untouched until OK";
     ok();
     TextStyle bold{"Other", 11, true};
     EXPECT_EQ(3, second);
     EXPECT_TRUE(
-        sameBits(printed(printed(picture, {20, 30}, "hello"), {200, 120}, "up", bold, 0x00FF00), document->Bits()));
+        sameBits(printed(printed(picture, {20, 30}, "hello"), {200, 120}, "up", bold, 0x00FF00), document->bits()));
     EXPECT_EQ(1, frame.logged("step"));
 }
 
@@ -212,7 +212,7 @@ TEST_F(LayersDialogTest, WhatIsChangedBehindItIsNotLost)
     const Bits other = randomBits(kWidth, kHeight, 99);
     document->setBits(other);
     ok();
-    EXPECT_TRUE(sameBits(printed(other, {20, 30}, "hello"), document->Bits()));
+    EXPECT_TRUE(sameBits(printed(other, {20, 30}, "hello"), document->bits()));
 }
 
 TEST_F(LayersDialogTest, SendsTheMergedPictureOn)
@@ -223,7 +223,7 @@ TEST_F(LayersDialogTest, SendsTheMergedPictureOn)
         if (action->objectName() == "mnuSend_2") depth = action;
     ASSERT_TRUE(depth);
     depth->trigger();
-    EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "hello"), document->Bits()));
+    EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "hello"), document->bits()));
     EXPECT_EQ("word: IMAGECOLORDEPTH", frame.log.back());
     EXPECT_TRUE(!dialog || !dialog->isVisible());
 }

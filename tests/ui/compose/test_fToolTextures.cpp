@@ -136,23 +136,23 @@ TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
     show(1);
     EXPECT_EQ("Textures: Emboss", box->windowTitle());
     EXPECT_EQ("50", find<QSpinBox>("lblSize")->text());
-    const Bits before = document->Bits();
+    const Bits before = document->bits();
     press("tb_23");
     EXPECT_EQ("Textures: Pixelize", box->windowTitle());
-    EXPECT_TRUE(sameBits(before, document->Bits())) << "chosen, not applied";
+    EXPECT_TRUE(sameBits(before, document->bits())) << "chosen, not applied";
     find<QSlider>("br")->setValue(3);
     press("CmdApply");
     const Region region = document->Region.working();
     const Bits pixelized = run("PIXELIZE", {3}, before, region);
-    EXPECT_TRUE(sameBits(pixelized, document->Bits()));
+    EXPECT_TRUE(sameBits(pixelized, document->bits()));
     EXPECT_EQ(1, frame.logged("step"));
     QTest::mouseDClick(find<QWidget>("tb_18"), Qt::LeftButton);
-    EXPECT_TRUE(sameBits(run("Invert", {}, pixelized, region), document->Bits()));
+    EXPECT_TRUE(sameBits(run("Invert", {}, pixelized, region), document->bits()));
     frame.setup_.ForeColor = 0x112233;
     press("tb_28");
     press("CmdApply");
     EXPECT_TRUE(
-        sameBits(run("SKETCH", {3, false, 0x112233}, run("Invert", {}, pixelized, region), region), document->Bits()));
+        sameBits(run("SKETCH", {3, false, 0x112233}, run("Invert", {}, pixelized, region), region), document->bits()));
     EXPECT_EQ(3, frame.logged("step"));
 
     document.reset();
@@ -186,7 +186,7 @@ TEST_F(TexturesBoxTest, EveryEffectHasItsButtonAndThumbnail)
 TEST_F(TexturesBoxTest, FilesAreTextures)
 {
     open();
-    const Bits before = document->Bits(), grain = randomBits(7, 5, 9);
+    const Bits before = document->bits(), grain = randomBits(7, 5, 9);
     textures("grain10.BMP", grain);
     textures("grain9.gif", randomBits(1, 1, 1));
     textures("not.png", grain);
@@ -201,13 +201,13 @@ TEST_F(TexturesBoxTest, FilesAreTextures)
     for (const int bad : {0, 1}) { // broken.jpg, grain9.gif
         list->setCurrentRow(bad);
         press("CmdFileApply");
-        EXPECT_TRUE(sameBits(before, document->Bits())) << bad;
+        EXPECT_TRUE(sameBits(before, document->bits())) << bad;
     }
     EXPECT_EQ(0, frame.logged("step"));
     list->setCurrentRow(2);
     press("CmdFileApply");
     EXPECT_EQ(1, frame.logged("step"));
-    EXPECT_FALSE(before == document->Bits());
+    EXPECT_FALSE(before == document->bits());
 
     QObject::connect(box.get(), &fToolTextures::folderWanted, [&] { box->setTextureFolder(temp.path()); });
     press("cmdfile");

@@ -36,7 +36,7 @@ struct FilterDialog : ::testing::Test {
         dialog->show();
     }
     int steps() const { return frame.logged("step"); }
-    const Bits& taken() const { return document->Bits(); }
+    const Bits& taken() const { return document->bits(); }
     template <class Widget> Widget* find(const char* name)
     {
         auto* found = dialog->findChild<Widget*>(QLatin1String(name));

@@ -54,11 +54,11 @@ class Geometry : public ::testing::Test {
         cBitFilter filter;
         document.handTo(filter);
         dialog.job()(document, filter);
-        EXPECT_TRUE(document.Bits().sharesWith(filter.bits()));
+        EXPECT_TRUE(document.bits().sharesWith(filter.bits()));
         EXPECT_TRUE(document.Region.IsEmptyRegion());
         EXPECT_EQ(document.Region.RegionMain().bounds(),
                   (Rect{0, 0, document.PictureWidth(), document.PictureHeight()}));
-        return document.Bits();
+        return document.bits();
     }
 
     RecordingPlatform platform;

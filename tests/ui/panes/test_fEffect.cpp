@@ -30,7 +30,7 @@ TEST(FEffectTest, RunsTheChosenEffectAtItsAmount)
     EXPECT_EQ("12%", shown->text());
     list->setCurrentRow(7 + 1);
     pane.findChild<QPushButton*>("cmdEffect")->click();
-    EXPECT_TRUE(sameBits(run("ENGRAVE", {12}, before, document.Region.working()), document.Bits()));
+    EXPECT_TRUE(sameBits(run("ENGRAVE", {12}, before, document.Region.working()), document.bits()));
     EXPECT_EQ(1, frame.logged("step"));
     pane.findChild<QSlider*>("sbTextOpacity")->setValue(40);
     EXPECT_EQ(40, frame.setup_.ToolOpacity);

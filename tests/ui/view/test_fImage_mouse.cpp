@@ -41,14 +41,14 @@ TEST_F(Mouse, PaintsWhereThePointerIsAndCommitsOnce)
     press({5, 4}); // (5 + 31) \ 3, (4 + 14) \ 3
     drag({5 + 9, 4});
     EXPECT_NE(shown(9, 4), 0u) << "seen while it is drawn";
-    EXPECT_EQ(shown(9, 4), colourAt(w.Bits(), 13, 6));
+    EXPECT_EQ(shown(9, 4), colourAt(w.bits(), 13, 6));
     EXPECT_FALSE(w.document().Changed);
     release({5 + 9, 4});
-    for (int x = 12; x <= 15; ++x) EXPECT_NE(colourAt(w.Bits(), x, 6), 0u) << x;
-    EXPECT_EQ(colourAt(w.Bits(), 11, 6), 0u);
-    EXPECT_EQ(colourAt(w.Bits(), 16, 6), 0u);
+    for (int x = 12; x <= 15; ++x) EXPECT_NE(colourAt(w.bits(), x, 6), 0u) << x;
+    EXPECT_EQ(colourAt(w.bits(), 11, 6), 0u);
+    EXPECT_EQ(colourAt(w.bits(), 16, 6), 0u);
     EXPECT_EQ(frame.snapshots, 1);
-    EXPECT_TRUE(frame.filter_.bits() == w.Bits());
+    EXPECT_TRUE(frame.filter_.bits() == w.bits());
     EXPECT_TRUE(w.document().Changed);
 }
 
@@ -130,7 +130,7 @@ TEST_F(Mouse, TheHandScrollsAndPaintsNothing)
     EXPECT_EQ(w.GetSBV(), QPoint(0, 0)) << "no further than the edge";
     release({500, 500});
     EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
-    EXPECT_TRUE(w.Bits() == bits);
+    EXPECT_TRUE(w.bits() == bits);
     EXPECT_EQ(frame.snapshots, 0);
     w.resize(400, 300); // now all of it is seen: nothing to scroll, the tool works
     press({5, 5});
@@ -217,7 +217,7 @@ TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
     EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
     release({50, 53}, Qt::MiddleButton);
     EXPECT_NE(iDst()->cursor().shape(), Qt::ClosedHandCursor);
-    EXPECT_TRUE(w.Bits() == bits);
+    EXPECT_TRUE(w.bits() == bits);
     press({5, 5}); // within a stroke it is nobody's
     press({60, 50}, Qt::MiddleButton);
     pan({20, 20});
@@ -236,10 +236,10 @@ TEST_F(Mouse, TheRightButtonTakesAPreviewBack)
     frame.setup_.ShapePressure = 100;
     press({5, 5});
     drag({30, 30});
-    EXPECT_FALSE(w.Bits() == bits);
+    EXPECT_FALSE(w.bits() == bits);
     press({30, 30}, Qt::RightButton);
     release({30, 30}, Qt::RightButton);
-    EXPECT_TRUE(w.Bits() == bits);
+    EXPECT_TRUE(w.bits() == bits);
     EXPECT_EQ(shown(5, 5), colourAt(bits, 5, 5));
     EXPECT_EQ(frame.snapshots, 0);
 }

@@ -59,7 +59,7 @@ TEST_F(FootprintTest, TheLineGoesRoundThePixelsThatAPressChanges)
                     for (int x = 0; x < 90; ++x) {
                         const QPoint middle = (QPoint(x, y) - at) * zoom + QPoint(zoom / 2, zoom / 2);
                         const bool inside = line.containsPoint(middle, Qt::OddEvenFill);
-                        ASSERT_EQ(window.Bits().at(x, y).c[0] != 0, inside) << tool << size << ' ' << x << ' ' << y;
+                        ASSERT_EQ(window.bits().at(x, y).c[0] != 0, inside) << tool << size << ' ' << x << ' ' << y;
                     }
             }
 }
