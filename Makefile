@@ -27,7 +27,7 @@ test-sanitize: setup
 # inputs of faults stay in build/fuzz. make fuzz FUZZ_S=3600 SUBJECTS="pictures regions"
 FUZZ_S ?= 60
 fuzz: all
-	$(RELEASE)/bin/velara-fuzz --seconds $(FUZZ_S) --seed $$(date +%s)000 --keep build/fuzz $(SUBJECTS) \
+	$(RELEASE)/bin/velara-fuzz --warm --seconds $(FUZZ_S) --seed $$(date +%s)000 --keep build/fuzz $(SUBJECTS) \
 	    --samples "$$(sed -n 's/^CORPUS:PATH=//p' $(RELEASE)/CMakeCache.txt)"
 
 screenshots: all

@@ -1,4 +1,5 @@
 #include "tools/fuzz/Watch.h"
+#include "tools/fuzz/WarmReaders.h"
 #include <QDir>
 #include <QFile>
 #include <cstdio>
@@ -71,6 +72,8 @@ class Watch {
     }
     void work()
     {
+        std::optional<WarmReaders> warm;
+        if (plan_.warm) warm.emplace();
         while (const auto s = next()) {
             at_->subject = *s;
             at_->since = now();

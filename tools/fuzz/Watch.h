@@ -14,6 +14,7 @@ struct Plan {
     std::uint64_t seed = 1;        // the first number
     std::uint64_t runs = 0;        // of each subject; 0: until the time is over
     bool brief = false;            // each subject as often as its row says
+    bool warm = false;             // pictures by WarmReaders
     std::chrono::seconds time{60}; // in all, divided by the shares
     QString keep = "fuzz-faults";  // where inputs of faults go
     QString samples;

@@ -1,7 +1,7 @@
 // velara-fuzz: damaged pictures, sequences of operations, configuration records and region words, for as long as it is
 // told. A fault is told with its number, its input is kept, and the program ends with 1.
 //
-//   velara-fuzz [--seconds N | --runs N | --brief] [--seed N] [--samples FOLDER] [--keep FOLDER] [SUBJECT...]
+//   velara-fuzz [--seconds N | --runs N | --brief] [--seed N] [--warm] [--samples FOLDER] [--keep FOLDER] [SUBJECT...]
 #include "tools/fuzz/Watch.h"
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -33,6 +33,7 @@ Plan planOf(const QCommandLineParser& line)
     plan.runs = line.value("runs").toULongLong();
     plan.seed = line.value("seed").toULongLong();
     plan.brief = line.isSet("brief");
+    plan.warm = line.isSet("warm");
     plan.keep = QDir(line.value("keep")).absolutePath();
     plan.samples = line.value("samples");
     return plan;
@@ -115,6 +116,7 @@ int main(int argc, char** argv)
                      {"runs", "how often each subject, whatever the time", "N", "0"},
                      {"brief", "the short run that the tests make"},
                      {"seed", "the first number", "N", "1"},
+                     {"warm", "readers of pictures are copies of one that is loaded: many more pictures"},
                      {"samples", "sample pictures, a folder a format", "FOLDER"},
                      {"keep", "where inputs of faults go", "FOLDER", "fuzz-faults"}});
     line.addPositionalArgument("SUBJECT", "pictures, operations, configuration, regions; all when none is named");

@@ -1,16 +1,8 @@
 // velara-decode EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
 #include "fileio/decode/Cage.h"
-#include "fileio/decode/decode.h"
-#include "fileio/decode/sanitizer.h"
-#include "fileio/load/DecodeProtocol.h"
-#include <QString>
-#include <csignal>
+#include "fileio/decode/answer.h"
 #include <cstdio>
-#include <cstring>
 #include <string_view>
-#include <sys/mman.h>
-#include <sys/prctl.h>
-#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,42 +10,6 @@ using namespace velara;
 using namespace velara::decode;
 
 namespace {
-
-/// Tells the size that a header gives, so that the parent allows the time that so many pixels may take.
-void claimSize(std::int64_t width, std::int64_t height)
-{
-    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, {}};
-    send(kSocket, &claim, sizeof claim, MSG_NOSIGNAL);
-}
-
-template <class Message> bool tell(const Message& message)
-{
-    return send(kSocket, &message, sizeof message, MSG_NOSIGNAL) == static_cast<ssize_t>(sizeof message);
-}
-
-bool tellOpening(const Decoded& picture)
-{
-    Opening opening{kMagic, picture.width, picture.height, {}, picture.origin};
-    const QByteArray reason = picture.reason.toUtf8().left(sizeof opening.reason - 1);
-    std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
-    return tell(opening);
-}
-
-/// Fills the slots in turn; waits for the parent when all are full.
-bool tellRows(const Decoded& picture, std::uint8_t* memory)
-{
-    const int most = rowsInSlot(picture.width);
-    std::size_t slot = 0, free = kSlots;
-    for (std::int32_t y = 0; y < picture.height; y += most, slot = (slot + 1) % kSlots) {
-        char token;
-        if (free == 0 && recv(kSocket, &token, 1, 0) != 1) return false;
-        if (free > 0) --free;
-        auto* to = reinterpret_cast<Pixel*>(memory + slot * kSlotBytes);
-        for (int i = 0; i < most && y + i < picture.height; ++i) picture.row(y + i, to + i * picture.width);
-        if (!tell(y)) return false;
-    }
-    return true;
-}
 
 /// The layers that hold here, found out by a process of its own: inside, nothing can be written to a file any more.
 int printCage()
@@ -70,22 +26,8 @@ int printCage()
 
 int main(int argc, char** argv)
 {
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
-    std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; a font cache that can't be written is no reason to end
-    void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
     if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();
-    if (argc != 2 || memory == MAP_FAILED) {
-        std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
-        return 2;
-    }
-    const QString extension = QString::fromUtf8(argv[1]);
-    sizeFound = claimSize;
-    tellOurFaultsFromTheLibraries();
-    const Needs needs = prepareReader(extension);
-    FileBytes file(kPicture);
-    close(kPicture);
-    enterCage(needs); // nothing of the file has been looked at yet
-    const Decoded picture = decodePicture(std::move(file), extension);
-    const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
-    _exit(done ? 0 : 1); // no tidying: the process is thrown away
+    if (argc == 2) answer(QString::fromUtf8(argv[1]));
+    std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
+    return 2;
 }

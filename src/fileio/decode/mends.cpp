@@ -208,4 +208,19 @@ void mendRas(FileBytes& file)
     file.replace(std::move(flat));
 }
 
+void mendIff(FileBytes& file)
+{
+    constexpr std::size_t kFormHeader = 12, kChunkHeader = 8;
+    constexpr std::uint32_t kForm = 0x464f524d, kBody = 0x424f4459, kBackward = 0x80000000;
+    if (file.big32(0) != kForm) return;
+    for (std::size_t at = kFormHeader; at + kChunkHeader <= file.size();) {
+        if (file.big32(at) == kBody) return;
+        const std::uint32_t length = file.big32(at + 4);
+        if (length >= kBackward) putBig32(file.bytes(), at + 4, 0);
+        const std::size_t end = at + kChunkHeader + length + length % 2;
+        at = end <= file.size() ? end : at + kChunkHeader; // where the reader goes on
+    }
+    putBig32(file.bytes(), 0, 0);
+}
+
 } // namespace velara::decode

@@ -1,5 +1,5 @@
-// Valid files that FreeImage refuses or dies of, made into ones that it reads, in memory. Each mend leaves alone what
-// is not its case.
+// Valid files that FreeImage refuses or dies of, made into ones that it reads, and those that it reads for ever, made
+// into ones that it refuses, in memory. Each mend leaves alone what is not its case.
 #pragma once
 #include "fileio/decode/FileBytes.h"
 
@@ -17,5 +17,7 @@ void mendPnm(FileBytes& file);
 void mendPcx(FileBytes& file);
 /// Palette pictures become true colour ones: a full palette of 256 is refused.
 void mendRas(FileBytes& file);
+/// Without a body its reader looks for one for ever, and a chunk of more than two gigabytes leads it back.
+void mendIff(FileBytes& file);
 
 } // namespace velara::decode

@@ -1,16 +1,14 @@
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/DecodeProtocol.h"
+#include "fileio/load/startReader.h"
 #include <QFile>
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <mutex>
 #include <poll.h>
-#include <spawn.h>
-#include <string>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -18,7 +16,6 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-#include <vector>
 
 namespace velara {
 
@@ -46,28 +43,6 @@ Descriptor sharedMemory()
     return memory;
 }
 
-/// The child learns nothing of the session. It needs no screen, and big pictures cost it fewer page faults in huge
-/// pages.
-std::vector<std::string> childEnvironment()
-{
-    // Its toolkit wants a folder for the run, which it makes where temporary files go: there it can't.
-    std::vector<std::string> environment = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen",
-                                            "TMPDIR=/proc/none"};
-#ifdef __SANITIZE_ADDRESS__
-    for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
-        if (const char* value = std::getenv(name)) environment.push_back(std::string(name) + '=' + value);
-#endif
-    return environment;
-}
-
-std::vector<char*> pointersTo(std::vector<std::string>& texts)
-{
-    std::vector<char*> pointers;
-    for (std::string& text : texts) pointers.push_back(text.data());
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
 void limit(pid_t pid, __rlimit_resource resource, rlim_t soft, rlim_t hard)
 {
     const rlimit value{soft, hard};
@@ -83,10 +58,6 @@ void limit(pid_t pid, const DecoderLimits& limits)
     limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.cpuSeconds + 1);
     limit(pid, RLIMIT_CORE, 0, 0);
 }
-
-} // namespace
-
-namespace {
 
 std::mutex unreadableGuard; // pictures are read by several threads
 int unreadables = 0, wasDumpable = 1;
@@ -121,39 +92,8 @@ DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, c
     if (mapped == MAP_FAILED) return;
     memory_ = static_cast<std::uint8_t*>(mapped);
     const Descriptor picture(fcntl(file.get(), F_DUPFD_CLOEXEC, kFirstFree));
-    spawn(decoder, extension, theirs.get(), memory.get(), picture.get());
+    pid_ = startReader({decoder, extension, theirs.get(), memory.get(), picture.get()});
     if (started()) limit(pid_, limits);
-}
-
-void DecoderProcess::spawn(const QString& decoder, const QString& extension, int socket, int memory, int file)
-{
-    std::vector<std::string> arguments = {QFile::encodeName(decoder).toStdString(), extension.toStdString()};
-    std::vector<std::string> environment = childEnvironment();
-    posix_spawn_file_actions_t actions;
-    posix_spawnattr_t attributes;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawnattr_init(&attributes);
-    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-#ifndef __SANITIZE_ADDRESS__                                                 // its reports are heard
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // libraries chatter about odd tags
-#endif
-    posix_spawn_file_actions_adddup2(&actions, socket, decode::kSocket);
-    posix_spawn_file_actions_adddup2(&actions, memory, decode::kMemory);
-    posix_spawn_file_actions_adddup2(&actions, file, decode::kPicture);
-    posix_spawn_file_actions_addclosefrom_np(&actions, decode::kPicture + 1);
-    sigset_t all, none;
-    sigfillset(&all);
-    sigemptyset(&none);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
-    posix_spawnattr_setsigdefault(&attributes, &all);
-    posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setpgroup(&attributes, 0); // a group of its own, killed whole
-    if (posix_spawn(&pid_, arguments[0].c_str(), &actions, &attributes, pointersTo(arguments).data(),
-                    pointersTo(environment).data()) != 0)
-        pid_ = -1;
-    posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&actions);
 }
 
 DecoderProcess::~DecoderProcess()

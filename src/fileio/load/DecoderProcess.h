@@ -42,7 +42,6 @@ class DecoderProcess {
     int end(std::chrono::milliseconds patience = {});
 
   private:
-    void spawn(const QString& decoder, const QString& extension, int socket, int memory, int file);
     /// A slice of waiting has passed: false when the child is at its end, or the caller.
     std::optional<Wait> afterSlice();
 

@@ -235,6 +235,14 @@ TEST(Mends, TrueColourPcx)
 }
 
 // Most readers fill up with black and say nothing.
+TEST(Mends, IffWithoutABodyEnds)
+{
+    const std::string head = "BMHD" + big(20, 4) + std::string("\0\2\0\1\0\0\0\0\x18\0\0\0\0\0\1\1\0\2\0\1", 20);
+    for (const std::string& chunk : {std::string("BODY"), "CRNG" + big(0xfffffff0, 4), std::string("CRNG")})
+        EXPECT_EQ(decodeBytes("FORM" + big(84, 4) + "ILBM" + head + chunk + big(6, 4) + "abcdef", "iff").ok(),
+                  chunk == "BODY");
+}
+
 TEST(CutOff, IsToldInEveryFormatThatTells)
 {
     const QTemporaryDir folder;
