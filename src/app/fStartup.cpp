@@ -96,9 +96,6 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
     platform.yield();
 
     setup = LoadSetup(platform);
-    // The user was here, and nothing was saved: the first run was killed. Without bars, and painting with no opacity,
-    // the program would look broken.
-    if (isBlank(setup) && platform.setting("VeStu", "RunOnce", "0").toInt() != 0) setup = defaultSetup(platform);
     auto frame = std::make_unique<fMain>(platform, setup);
     setup.CurrentTool.clear();
     if (platform.previousInstance()) platform.tell("Velara Studio is already running!");

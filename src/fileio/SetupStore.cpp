@@ -216,6 +216,13 @@ std::optional<SetupRecord> recordOf(const QString& path)
     return record;
 }
 
+Setup defaultSetup(Platform& platform)
+{
+    Setup setup;
+    setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
+    return setup;
+}
+
 } // namespace
 
 Setup::Setup()
@@ -237,15 +244,6 @@ Setup setupFromBytes(std::span<const std::uint8_t> bytes)
     for (const Field& f : kFields) f.read(f, setup, record.data());
     return setup;
 }
-
-Setup defaultSetup(Platform& platform)
-{
-    Setup setup;
-    setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
-    return setup;
-}
-
-bool isBlank(const Setup& setup) { return setupBytes(setup) == setupBytes(setupFromBytes({})); }
 
 Setup LoadSetup(Platform& platform)
 {

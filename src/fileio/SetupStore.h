@@ -16,10 +16,6 @@ using SetupRecord = std::array<std::uint8_t, kSetupBytes>;
 /// The record of the file. Without a file the defaults, and an empty file is left behind; what a short file lacks is
 /// zero, so an empty one that an earlier run left gives zeros throughout. Any content is safe.
 Setup LoadSetup(Platform& platform);
-/// What a program in that folder starts with.
-Setup defaultSetup(Platform& platform);
-/// No run has ever saved it: a saved one has texts, of blanks at least, and a frame of some size.
-bool isBlank(const Setup& setup);
 /// Over the first bytes of the file, for the user alone; what a longer file holds behind them stays, and so do the
 /// bytes of a text that isn't UTF-8 and was not edited. On failure false, and the old file is whole.
 bool SaveSetup(Platform& platform, const Setup& setup);

@@ -441,19 +441,6 @@ TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)
     }
 }
 
-TEST(StartTest, AfterAKilledFirstRunTheDefaultsStandAgain)
-{
-    RecordingPlatform platform;
-    for (const char* ranBefore : {"0", "1"}) {
-        platform.settings["VeStu/RunOnce"] = ranBefore;
-        QFile(platform.folder.filePath("Vlaera.dat")).open(QFile::WriteOnly);
-        velara::Setup setup;
-        const auto frame = startEditor(platform, setup);
-        EXPECT_EQ(setup.BarVisible[0], *ranBefore == '1') << "an empty file of another origin is read as it stands";
-        EXPECT_EQ(setup.ToolOpacity, *ranBefore == '1' ? 100 : 0);
-    }
-}
-
 TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
 {
     struct ReadOnly : RecordingPlatform {
