@@ -30,7 +30,7 @@ double costOf(Needs needs, volatile double& shared)
             _exit(0);
         }
         waitpid(inside, nullptr, 0);
-        least = std::min<double>(least, shared);
+        least = std::min(least, double(shared));
     }
     return least;
 }
