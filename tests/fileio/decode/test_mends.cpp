@@ -234,7 +234,6 @@ TEST(Mends, TrueColourPcx)
     EXPECT_EQ(coloursOf(decodeBytes(pcx(1, 2, "\1\1\2\2\3\3\4\4\5\5\6\6"), "pcx")), (Colours{0x010203, 0x040506}));
 }
 
-// Most readers fill up with black and say nothing.
 TEST(Mends, IffWithoutABodyEnds)
 {
     const std::string head = "BMHD" + big(20, 4) + std::string("\0\2\0\1\0\0\0\0\x18\0\0\0\0\0\1\1\0\2\0\1", 20);
@@ -243,6 +242,7 @@ TEST(Mends, IffWithoutABodyEnds)
                   chunk == "BODY");
 }
 
+// Most readers fill up with black and say nothing.
 TEST(CutOff, IsToldInEveryFormatThatTells)
 {
     const QTemporaryDir folder;
