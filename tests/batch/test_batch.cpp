@@ -28,12 +28,7 @@ struct BatchTest : ::testing::Test {
     void SetUp() override { put("in.ppm", anymap(kWidth, kHeight)); }
 
     QString path(const std::string& name) const { return folder.filePath(QString::fromStdString(name)); }
-    void put(const std::string& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    void put(const std::string& name, const QByteArray& bytes) const { putFile(path(name), bytes); }
     QByteArray content(const std::string& name) const { return fileBytes(path(name), "missing"); }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
 

@@ -128,20 +128,6 @@ TEST_F(FrameTest, SizingCommandsGiveTheirSizes)
     }
 }
 
-TEST_F(FrameTest, RepeatedSizingStartsFromTheSamePicture)
-{
-    fImage* image = open(randomBits(40, 20, 4));
-    frame->Mmenu("ORIGINAL"); // empties the margin, which no file brings
-    frame->Update(false, true);
-    const Bits before = image->bits();
-    frame->Mmenu("50");
-    frame->Mmenu("50");
-    EXPECT_EQ(image->PictureWidth(), 20);
-    EXPECT_EQ(frame->status().panel(Panel::Size), "20x10");
-    frame->Mmenu("ORIGINAL");
-    EXPECT_TRUE(sameBits(before, image->bits()));
-}
-
 TEST_F(FrameTest, ViewZoomLeavesThePixels)
 {
     fImage* image = open(randomBits(9, 9, 4));
@@ -272,20 +258,6 @@ TEST_F(FrameTest, UpdateStoresOnlyWhenAsked)
     EXPECT_FALSE(bar->isVisible()) << "done is at rest";
     EXPECT_EQ(image->document().undo.UndoStep(), 1);
     EXPECT_FALSE(image->document().Changed);
-}
-
-TEST_F(FrameTest, UndoComesBackWhenItsFolderWasSweptAway)
-{
-    fImage* image = open(randomBits(20, 20, 5));
-    QDir(path("Temp")).removeRecursively();
-    frame->Mmenu("INVERT");
-    const Bits inverted = image->bits();
-    EXPECT_EQ(image->document().undo.UndoStep(), 2);
-    frame->Mmenu("UNDO"); // its file is gone: nothing moves
-    EXPECT_TRUE(sameBits(inverted, image->bits()));
-    frame->Mmenu("INVERT");
-    frame->Mmenu("UNDO");
-    EXPECT_TRUE(sameBits(inverted, image->bits()));
 }
 
 TEST_F(FrameTest, BarsFollowTheConfiguration)

@@ -5,6 +5,7 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
+#include "support/files.h"
 #include "support/fullDisk.h"
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -164,18 +165,6 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     EXPECT_TRUE(sameBits(after, image->bits()));
 }
 
-TEST_F(FrameTest, TheNaturalSizeOnlySetsTheView)
-{
-    fImage* image = open(randomBits(20, 20, 1));
-    frame->Mmenu("INVERT");
-    frame->Mmenu("UNDO");
-    frame->Mmenu("400");
-    frame->Mmenu("ORIGINAL");
-    EXPECT_EQ(image->ZoomFactor(), 1);
-    EXPECT_EQ(image->document().undo.UndoStep(), 1);
-    EXPECT_TRUE(image->document().undo.canRedo());
-}
-
 TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
 {
     velara::Setup otherSetup;
@@ -256,10 +245,7 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
 
 TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
 {
-    QFile bad(path("bad.gif"));
-    ASSERT_TRUE(bad.open(QFile::WriteOnly));
-    bad.write("nothing");
-    bad.close();
+    putFile(path("bad.gif"), "nothing");
     frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), file("c.JPG"), path("bad.gif"), path("d.txt")});
     ASSERT_EQ(frame->documents().size(), 2);
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
@@ -294,23 +280,6 @@ TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
     EXPECT_TRUE(copy->document().Region.Region() == image->document().Region.Region());
     EXPECT_EQ(copy->Tag(), "[1]" + image->Tag());
     EXPECT_FALSE(platform.clipboard().hasBitmap());
-}
-
-TEST_F(FrameTest, ClosingAsksOnceAndACancelKeepsTheFrame)
-{
-    open(randomBits(9, 7, 2));
-    frame->Mmenu("INVERT");
-    platform.log.clear();
-    frame->close(); // an empty queue cancels
-    EXPECT_TRUE(frame->isVisible());
-    ASSERT_EQ(frame->documents().size(), 1);
-    EXPECT_EQ(platform.log.size(), 1u);
-    EXPECT_EQ(last(), "ask: Velara Studio: " + path("picture.bmp").toStdString() +
-                          "\nThis image has changed.\nDo you want to save it ?");
-    platform.answers = {"no"};
-    frame->close();
-    EXPECT_FALSE(frame->isVisible());
-    EXPECT_TRUE(frame->documents().isEmpty());
 }
 
 TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
@@ -371,9 +340,7 @@ TEST(StartTest, AFullDiskLeavesNothingEmptyBehind)
     EXPECT_FALSE(folder.exists("Images"));
     ASSERT_TRUE(makeFolders(platform));
     for (const char* name : {"Stamps/Velara3.bmp", "Images/Velara.bmp"}) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QFile::WriteOnly)); // as an earlier version left it
-        file.close();
+        putFile(folder.filePath(name), {}); // as an earlier version left it
     }
     QFile::remove(folder.filePath("Stamps/Velara4.bmp"));
     ASSERT_TRUE(makeFolders(platform));
@@ -421,26 +388,6 @@ TEST(StartTest, TheFrameComesBackWhereItStood)
     EXPECT_EQ(large.normalGeometry().right(), screen.right()) << "where it has grown over the edge it comes in";
 }
 
-TEST(StartTest, AnyBytesAsConfigurationStartTheEditor)
-{
-    for (const std::uint32_t seed : {0u, 1u, 2u, 3u}) {
-        RecordingPlatform platform;
-        QFile file(platform.folder.filePath("Vlaera.dat"));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        QByteArray bytes(3081, 0);
-        std::uint32_t state = seed;
-        for (char& byte : bytes) byte = seed ? static_cast<char>((state = state * 1664525u + 1013904223u) >> 24) : 0;
-        file.write(bytes);
-        file.close();
-        velara::Setup setup;
-        const auto frame = startEditor(platform, setup);
-        EXPECT_TRUE(frame->isVisible());
-        EXPECT_GE(frame->width(), 320);
-        frame->toolClicked("Brush");
-        frame->close();
-    }
-}
-
 TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
 {
     struct ReadOnly : RecordingPlatform {
@@ -460,17 +407,6 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     setup.AskToSave = false;
     frame->close();
     EXPECT_FALSE(frame->isVisible());
-}
-
-TEST(StartTest, ASecondInstanceIsToldAndComesUpAllTheSame)
-{
-    RecordingPlatform platform;
-    platform.previous = true;
-    velara::Setup setup;
-    const auto frame = startEditor(platform, setup);
-    EXPECT_TRUE(platform.logged("message: Velara Studio: Velara Studio is already running!"));
-    EXPECT_EQ(platform.lastIcon, Icon::Information);
-    EXPECT_TRUE(frame->isVisible());
 }
 
 } // namespace velara

@@ -1,6 +1,7 @@
 // The browser and the list of formats as commands of the frame.
 #include "app/frame/frameTest.h"
 #include "app/menus/Boxes.h"
+#include "support/files.h"
 #include "ui/browse/fAssociation.h"
 #include "ui/browse/fBrowse.h"
 #include "ui/compose/fToolTextures.h"
@@ -49,10 +50,7 @@ TEST_F(BrowseTest, OpensAsOpenDoesAndComesBackToThePlace)
 TEST_F(BrowseTest, WhatCantBeReadIsToldOnceAndNothingStaysOpen)
 {
     for (const char* name : {"broken.png", "broken.gif", "odd.jpeg"}) {
-        QFile broken(path(name));
-        ASSERT_TRUE(broken.open(QFile::WriteOnly));
-        broken.write("no picture");
-        broken.close();
+        putFile(path(name), "no picture");
         platform.log.clear();
         frame->run("@BROWSE");
         choose(path(name));

@@ -1,5 +1,6 @@
 // The picker with real controls, used as a person does.
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"
@@ -53,17 +54,8 @@ struct Picker : ::testing::Test {
         return list.join(' ');
     }
     QString file() { return platform.folder.filePath("usercolors.cps"); }
-    QByteArray fileText()
-    {
-        QFile f(file());
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
-    void put(const QByteArray& text)
-    {
-        QFile f(file());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(text);
-    }
+    QByteArray fileText() { return fileBytes(file()); }
+    void put(const QByteArray& text) { putFile(file(), text); }
 };
 
 TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)

@@ -2,6 +2,7 @@
 #include "commands/effects.h"
 #include "engine/operations.h"
 #include "support/RecordingFrame.h"
+#include "support/files.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
 #include "ui/compose/fEffectsPage.h"
@@ -190,10 +191,7 @@ TEST_F(TexturesBoxTest, FilesAreTextures)
     textures("grain10.BMP", grain);
     textures("grain9.gif", randomBits(1, 1, 1));
     textures("not.png", grain);
-    QFile broken(frame.platform_.programFolder() + "/Textures/broken.jpg");
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("junk");
-    broken.close();
+    putFile(frame.platform_.programFolder() + "/Textures/broken.jpg", "junk");
     show(1);
     auto* list = find<QListWidget>("ListFile");
     ASSERT_EQ(3, list->count());

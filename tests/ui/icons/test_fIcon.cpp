@@ -1,6 +1,7 @@
 // The icon extractor with real controls, used as a person does.
 #include "fileio/writers/iconFile.h"
 #include "support/RecordingFrame.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "ui/icons/fIcon.h"
 #include "ui/icons/fIconBrowse.h"
@@ -39,11 +40,7 @@ struct IconTest : ::testing::Test {
     /// The radio button's circle: its row may be wider than it is.
     void choose(const char* name) { QTest::keyClick(&control<QRadioButton>(name), Qt::Key_Space); }
     QString path(const QString& name) const { return folder.filePath(name); }
-    QByteArray content(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray content(const QString& name) const { return fileBytes(path(name)); }
     std::string last() const { return frame.platform_.log.empty() ? "" : frame.platform_.log.back(); }
 };
 

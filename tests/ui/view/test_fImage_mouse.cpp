@@ -230,21 +230,4 @@ TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
     EXPECT_EQ(frame.snapshots, 1);
 }
 
-TEST_F(Mouse, TheRightButtonTakesAPreviewBack)
-{
-    const Bits bits = randomBits(60, 50, 1);
-    fImage& w = open(bits, 200, 200);
-    choose("Shape");
-    frame.setup_.ShapeKind = 3;
-    frame.setup_.ShapePressure = 100;
-    press({5, 5});
-    drag({30, 30});
-    EXPECT_FALSE(w.bits() == bits);
-    press({30, 30}, Qt::RightButton);
-    release({30, 30}, Qt::RightButton);
-    EXPECT_TRUE(w.bits() == bits);
-    EXPECT_EQ(shown(5, 5), colourAt(bits, 5, 5));
-    EXPECT_EQ(frame.snapshots, 0);
-}
-
 } // namespace velara
