@@ -19,6 +19,7 @@ struct Job {
     Dialogs& dialogs;
     const Bits& bits;
     QString fileName;
+    OutputFile::Links links;
 };
 
 SaveResult resultOf(bool written) { return written ? SaveResult::Written : SaveResult::Failed; }
@@ -30,7 +31,7 @@ bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool k
     const FreeImageStart library;
     const Dib24 dib(job.bits);
     if (!dib.get()) return false;
-    OutputFile file(job.fileName);
+    OutputFile file(job.fileName, job.links);
     if (saveDib(dib.get(), format, flags, file) && file.commit()) return true;
     if (keepsRemains) file.keepRemains();
     return false;
@@ -101,11 +102,12 @@ static_assert(std::ranges::all_of(kFormats, [](const Format& f) {
 
 } // namespace
 
-SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext)
+SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
+                       OutputFile::Links links)
 try {
     if (bits.isNull()) return SaveResult::NotWritten;
     const Writer* writer = writerOf(Ext.toLower().toStdString());
-    return writer ? writer->save({dialogs, bits, FileName}) : SaveResult::NotWritten;
+    return writer ? writer->save({dialogs, bits, FileName, links}) : SaveResult::NotWritten;
 } catch (const std::bad_alloc&) {
     return SaveResult::Failed;
 }

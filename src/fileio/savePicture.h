@@ -1,5 +1,6 @@
 // Writes a picture in the format of an extension, as the editor's save does.
 #pragma once
+#include "fileio/OutputFile.h"
 #include "pixels/Bits.h"
 #include <QString>
 
@@ -18,6 +19,8 @@ enum class SaveResult {
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
 /// added. Notices and failures are shown by dialogs: a failed png, jpg, bmp, tif or tga, the depth of a portable
 /// anymap, and that icons are not written. Every writer gets 24 bits a pixel, without the margin.
-SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext);
+/// A work file of the program (png, jpg, bmp, tif, tga) replaces links.
+SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
+                       OutputFile::Links links = OutputFile::Links::Follow);
 
 } // namespace velara

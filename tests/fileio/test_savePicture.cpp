@@ -217,6 +217,17 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
     EXPECT_EQ(platform.log, (std::vector<std::string>(4, kFailure)));
 }
 
+TEST_F(SavePicture, AWorkFileIsTheUsersAloneAndFollowsNoLink)
+{
+    const QString victim = write("victim.bmp", "old"), work = path("work.bmp");
+    QFile::link(victim, work);
+    EXPECT_EQ(savePicture(platform, flatBits(3, 3, 1, 2, 3), work, "bmp", OutputFile::Links::Replace),
+              SaveResult::Written);
+    EXPECT_EQ(contentsOf(victim), "old");
+    EXPECT_FALSE(QFileInfo(work).isSymLink());
+    EXPECT_EQ(QFile::permissions(work) & ~(QFile::ReadUser | QFile::WriteUser), QFile::ReadOwner | QFile::WriteOwner);
+}
+
 TEST_F(SavePicture, StraysOfDeadProgramsGo)
 {
     const Bits bits = flatBits(3, 3, 1, 2, 3);

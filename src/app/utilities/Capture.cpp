@@ -119,7 +119,9 @@ void Capture::makeDocument(const Bits& captured)
     bringBack();
     const QString path = frame_.platform().programFolder() + "/New.bmp";
     Bits bits = captured;
-    if (!bits.isNull() && savePicture(frame_.platform(), bits, path, "bmp") == SaveResult::Written) {
+    QFile::remove(path); // what stands there may be a link, or open to others
+    if (!bits.isNull() &&
+        savePicture(frame_.platform(), bits, path, "bmp", OutputFile::Links::Replace) == SaveResult::Written) {
         const LoadedPicture loaded = frame_.platform().loadPicture(path, "bmp");
         if (loaded.ok()) bits = loaded.bits;
     }

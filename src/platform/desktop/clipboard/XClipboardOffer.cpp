@@ -12,8 +12,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 900ms; // between two signs of life of the owner; the rest of a second is for the way
-constexpr auto kLongest = 30s;    // a picture of gigabytes in small pieces
+constexpr auto kPatience = 900ms;    // in all, beside the time for the bytes; the rest of a second is for the way
+constexpr qsizetype kSlowest = 4000; // bytes a millisecond: an owner that drips is left like one that is silent
 constexpr qsizetype kMostBytes = qsizetype{1} << 30;
 constexpr std::uint32_t kPieceWords = 1 << 20;
 
@@ -66,16 +66,15 @@ class XClipboardOffer final : public ClipboardOffer {
         return reply ? QString::fromLatin1(xcb_get_atom_name_name(reply.get()), reply->name_len) : QString();
     }
 
-    /// The next event of the kind that suits; null when the owner stays silent.
+    /// The next event of the kind that suits; null when the owner stays silent or drips.
     template <class Event, class Suits> Reply<Event> await(std::uint8_t kind, Suits suits)
     {
-        const auto until = std::min(Clock::now() + kPatience, deadline_);
         for (;;) {
             while (xcb_generic_event_t* event = xcb_poll_for_event(x_)) {
                 Reply<Event> mine(reinterpret_cast<Event*>(event));
                 if ((event->response_type & 0x7f) == kind && suits(*mine)) return mine;
             }
-            const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - Clock::now()).count();
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline_ - Clock::now()).count();
             if (left <= 0 || xcb_connection_has_error(x_)) return {};
             pollfd waiting{xcb_get_file_descriptor(x_), POLLIN, 0};
             poll(&waiting, 1, static_cast<int>(left));
@@ -85,7 +84,7 @@ class XClipboardOffer final : public ClipboardOffer {
     std::optional<QByteArray> fetch(xcb_atom_t type)
     {
         if (silent_) return {};
-        deadline_ = Clock::now() + kLongest;
+        deadline_ = Clock::now() + kPatience;
         xcb_convert_selection(x_, window_, clipboard_, type, property_, XCB_CURRENT_TIME);
         xcb_flush(x_);
         const auto told = await<xcb_selection_notify_event_t>(XCB_SELECTION_NOTIFY,
@@ -131,6 +130,7 @@ class XClipboardOffer final : public ClipboardOffer {
             if (!piece || bytes.size() + piece->size() > kMostBytes) return {};
             if (piece->isEmpty()) return bytes;
             bytes += *piece;
+            deadline_ += std::chrono::milliseconds(piece->size() / kSlowest);
         }
     }
 
