@@ -29,9 +29,10 @@ done
 start
 open_file "$picture"
 until_true "the first step" sh -c "ls '$folder'/Temp/b0001*.dat"
-gone_strays() { [ "$(strays)" = 0 ] || { keys alt+l i ctrl+s && [ "$(strays)" = 0 ]; }; } # a key may be lost under load
-keys alt+l i ctrl+s
-until_true "the strays to go" gone_strays
+before=$(stat -c %i "$picture")
+saved() { [ "$(stat -c %i "$picture")" != "$before" ] || { keys alt+l i ctrl+s && false; }; } # a key may be lost under load
+until_true "the last save" saved
+until_true "the strays to go" sh -c "[ \$(find '$scratch/pictures' -name '.velara-*' | wc -l) = 0 ]"
 is_whole || fail "the picture saved at the end"
 quit
 echo "$kills killed: $caught while a picture was written, $shortened while an undo step was"
