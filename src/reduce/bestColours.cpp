@@ -13,7 +13,7 @@ namespace {
 
 /// A big picture has pixels enough for its palette in a sample of them: beyond this a palette costs time and gains
 /// nothing that can be seen.
-constexpr double kSampledPixels = 1 << 19;
+constexpr double kSampledPixels = 1 << 17;
 constexpr int kSpeed = 4; // of the quantiser's 1 (slow) to 10; below 4 it gains little
 
 Colour colourAt(const Pixel& pixel) { return colourOf(pixel.c[2], pixel.c[1], pixel.c[0]); }

@@ -115,6 +115,8 @@ void FWeb::fitSize()
     if (running_) return;
     const QPointer<FWeb> alive = this;
     const std::int64_t most = std::int64_t{fit_->value()} * 1024;
+    timer_.stop(); // a change that still waits ends in this one
+    again_ = false;
     showWaiting(true);
     running_ = true;
     const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
