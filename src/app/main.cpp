@@ -28,8 +28,9 @@ class Application final : public QApplication {
 int main(int argc, char** argv)
 {
     velara::leaveFormatPluginsOut();
-    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false); // each move of a stroke counts
     Application application(argc, argv);
+    // Each move of a stroke counts. The platform switches this on when it starts.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes still stand
     application.setStyle(new velara::fMenuStyle);
     velara::QtPlatform platform;

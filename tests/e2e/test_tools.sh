@@ -29,6 +29,17 @@ for at in '0 2' '1 1' '0 1' '3 1' '2 1'; do # Pencil, Airbrush, Shape, Gradient,
     back
 done
 
+# Moves that wait while the editor has no time for them are not merged: the corner of the stroke stays.
+tool 0 2
+xdotool mousemove $(over 5 40) mousedown 1
+sleep 0.2
+kill -STOP "$editor"
+xdotool mousemove $(over 20 5) mousemove $(over 40 40) mouseup 1
+kill -CONT "$editor"
+saved 1
+is 1 20 5 "$white"
+back
+
 # A selection limits what is painted, and moves.
 tool 2 0
 drag 10 10 20 20
