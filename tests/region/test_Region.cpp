@@ -201,15 +201,15 @@ TEST(RegionShapes, EllipsesOfEverySmallSizeFollowTheRule)
 
 TEST(RegionShapes, LargeEllipsesAreExactBeyond64BitsAndFast)
 {
-    const Region large = Region::ellipse(-200000, -200000, 200000, 200000);
-    const Rect box = large.bounds();
-    EXPECT_EQ(box, (Rect{-200000, -200000, 199999, 199999}));
-    for (int y = -200000; y < 199999; ++y) { // the mirror of each row is itself
+    constexpr int r = 196095; // the products of its sides come to lie where 64 bits wrap round to negative ones
+    const Region large = Region::ellipse(-r, -r, r, r);
+    EXPECT_EQ(large.bounds(), (Rect{-r, -r, r - 1, r - 1}));
+    for (int y = -r; y < r - 1; ++y) { // the mirror of each row is itself
         ASSERT_EQ(large.spans(y).size(), 1u);
         EXPECT_EQ(large.spans(y)[0], large.spans(-2 - y - 0)[0]) << y;
         const Span s = large.spans(y)[0];
         EXPECT_EQ(s.x0 + s.x1, -1);
-        const auto half = [](double v) { return 199999.0 * std::sqrt(std::max(0.0, 1 - v * v / 199999.0 / 199999.0)); };
+        const auto half = [](double v) { return std::sqrt(std::max(0.0, (r - 1.0) * (r - 1.0) - v * v)); };
         const double from = half(std::abs(y + 1) + 1.5), to = half(std::max(0.0, std::abs(y + 1) - 1.5));
         EXPECT_TRUE((s.x1 - s.x0) / 2.0 > from - 1.5 && (s.x1 - s.x0) / 2.0 < to + 1.5) << y;
     }
