@@ -2,6 +2,7 @@
 #include "fileio/fileBytes.h"
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
+#include "support/fullDisk.h"
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
@@ -131,6 +132,18 @@ TEST(SetupStore, TheFileIsTheUsersAloneAndNoLink)
     ASSERT_TRUE(SaveSetup(platform, setup));
     EXPECT_EQ("victim", fileBytes(victim));
     EXPECT_EQ(bytesOf(setup), fileBytes(setupFile(platform)));
+}
+
+TEST(SetupStore, NoHalfAFileStaysOnAFullDisk)
+{
+    RecordingPlatform platform;
+    const std::vector<std::uint8_t> bytes(5000, 1);
+    const QString path = platform.folder.filePath("work");
+    {
+        const FullDisk full(1000);
+        EXPECT_FALSE(overwriteFile(path, bytes));
+    }
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST(SetupStore, TextsAreCutAtAWholeCharacter)

@@ -70,7 +70,8 @@ class Cage : public ::testing::Test {
 
     QTemporaryDir folder;
     const QString payload = folder.filePath("velara-decode"), victim = folder.filePath("precious.txt");
-    const QString font = QDirIterator("/usr/share/fonts", QDir::Files, QDirIterator::Subdirectories).next();
+    const QString font =
+        QDirIterator("/usr/share/fonts", QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories).next();
     volatile char target = 't';
 };
 
