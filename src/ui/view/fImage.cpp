@@ -244,10 +244,13 @@ void fImage::closeEvent(QCloseEvent* event)
     if (!self) return;
     if (!closes) return event->ignore();
     forget();
+    if (std::ranges::none_of(frame_.openDocuments(), &DocumentHandle::operator bool))
+        for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
+            frame_.setStatus(panel, {});
     event->accept();
 }
 
-/// The end of the document: its undo files go, and with the last document the status bar is emptied.
+/// The end of the document: its undo files go. Asks nothing of the frame, which may be at its own end.
 void fImage::forget()
 {
     if (forgotten_) return;
@@ -255,9 +258,6 @@ void fImage::forget()
     tmrSelection_.stop();
     document_.retire();
     document_.undo.deleteSeries();
-    if (std::ranges::any_of(frame_.openDocuments(), &DocumentHandle::operator bool)) return;
-    for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
-        frame_.setStatus(panel, {});
 }
 
 } // namespace velara

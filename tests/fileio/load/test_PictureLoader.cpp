@@ -132,8 +132,10 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         {"opening(9, 9999); [s.send(struct.pack('<i', 0)) for _ in range(99)]" + rest, "false answer"},
         {"opening(10, 10); os.ftruncate(4, 0)" + rest, "gave up"}, // the seal makes it an error
         {"opening(10, 10)" + rest, "too long"},
+#ifndef __SANITIZE_ADDRESS__ // whose reports go to files
         {"try: os.write(os.open(sys.argv[0], os.O_WRONLY), b'x')\nexcept OSError: opening(0, 0, b'full')",
          "full"}, // no byte goes into a file
+#endif
         {"opening(10, 10); sys.exit(0)", "gave up"},
     };
     const QString file = write("x.ppm", kPicture);
