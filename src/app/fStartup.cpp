@@ -66,7 +66,7 @@ bool makeFolders(Platform& platform)
 
 void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
 {
-    constexpr int kTwips = 15, kMostTwips = 32767;
+    constexpr int kMostTwips = 32767;
     constexpr QSize kSmallest(400, 300); // smaller ones come from a damaged configuration only
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize wanted = QSize(setup.FrameWidth / kTwips, setup.FrameHeight / kTwips).expandedTo(kSmallest);

@@ -1,5 +1,6 @@
 #include "fileio/SetupStore.h"
 #include "fileio/fileBytes.h"
+#include "pixels/twips.h"
 #include "seams/Platform.h"
 #include <QFile>
 #include <algorithm>
@@ -116,12 +117,10 @@ template <auto Member> constexpr Field field(int offset, int width, Default byDe
         [](const Field& f, Setup& s) { eachElement(s.*Member, [&](auto& e, int i) { reset(e, f.byDefault, i); }); }};
 }
 
-constexpr int kTwipsPerPixel = 15;
-
 // clang-format off
 constexpr Field kFields[] = { // offset, width of an element, default {, step from element to element}
-    field<&Setup::FrameWidth>            (   0,   2, 640 * kTwipsPerPixel),
-    field<&Setup::FrameHeight>           (   2,   2, 480 * kTwipsPerPixel),
+    field<&Setup::FrameWidth>            (   0,   2, 640 * kTwips),
+    field<&Setup::FrameHeight>           (   2,   2, 480 * kTwips),
     field<&Setup::FrameMaximized>        (   4,   2, 0),
     field<&Setup::ImagesMaximized>       (   6,   2, 0),
     field<&Setup::ImagesPath>            (   8, 256, ""),

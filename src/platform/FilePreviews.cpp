@@ -1,4 +1,5 @@
 #include "platform/FilePreviews.h"
+#include "fileio/formats.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include <QFileInfo>
 
@@ -26,7 +27,7 @@ Preview readThumbnail(const QString& path, const GoOn& goOn)
     const QFileInfo file(path);
     if (QFileInfo::exists(shared.failure()) && shared.isMadeOf(read(shared.failure(), "png", kBox, goOn).origin))
         return {{}, {}, file.fileName() + " can't be read"};
-    const SmallPicture made = read(path, file.suffix().toLower(), kBox, goOn);
+    const SmallPicture made = read(path, extensionOf(path), kBox, goOn);
     if (made.reason.isEmpty())
         shared.write(made.image, made.size);
     else if (made.image.isNull() && goOn({}) && file.isReadable())
@@ -38,7 +39,7 @@ Preview readThumbnail(const QString& path, const GoOn& goOn)
 
 Previews::Request FilePreviews::picture(const QString& path, QSize box, Done done)
 {
-    const auto work = [=](const GoOn& goOn) { return preview(read(path, QFileInfo(path).suffix(), box, goOn)); };
+    const auto work = [=](const GoOn& goOn) { return preview(read(path, extensionOf(path), box, goOn)); };
     return pictures_.add<Preview>(work, std::move(done));
 }
 

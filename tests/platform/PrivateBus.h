@@ -1,13 +1,9 @@
 // A message bus of the test's own, with the services that it puts there.
 #pragma once
 #include "support/places.h"
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QElapsedTimer>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
+#include <QtCore>
 #include <functional>
 #include <gtest/gtest.h>
 

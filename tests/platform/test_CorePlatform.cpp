@@ -3,9 +3,7 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QtCore>
 #include <algorithm>
 #include <thread>
 

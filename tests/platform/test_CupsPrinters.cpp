@@ -5,10 +5,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include <QFile>
-#include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
+#include <QtWidgets>
 #include <unistd.h>
 
 namespace velara {

@@ -5,8 +5,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include <QDir>
-#include <QFile>
+#include <QtCore>
 
 namespace velara {
 

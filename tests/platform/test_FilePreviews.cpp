@@ -1,9 +1,6 @@
 // Previews of real files, read by the real helper in the background.
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "platform/FilePreviews.h"
-#include <QDateTime>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <gtest/gtest.h>
 

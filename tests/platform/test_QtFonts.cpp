@@ -1,8 +1,7 @@
 // The desktop's own fonts, whichever they are.
 #include "platform/desktop/QtFonts.h"
 #include "support/pictures.h"
-#include <QFont>
-#include <QGuiApplication>
+#include <QtWidgets>
 
 namespace velara {
 namespace {

@@ -4,17 +4,8 @@
 #include "platform/nameFilters.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include <QAbstractButton>
-#include <QApplication>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMessageBox>
-#include <QProgressDialog>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

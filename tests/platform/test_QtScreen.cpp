@@ -4,9 +4,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include <QFile>
-#include <QImage>
-#include <QUrl>
+#include <QtWidgets>
 
 namespace velara {
 

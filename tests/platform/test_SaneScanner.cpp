@@ -3,9 +3,7 @@
 #include "platform/desktop/SaneScanner.h"
 #include "support/files.h"
 #include "support/places.h"
-#include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 namespace velara {
 

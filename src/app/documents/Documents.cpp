@@ -1,5 +1,6 @@
 #include "app/documents/Documents.h"
 #include "app/documents/fDocumentWindow.h"
+#include "ui/widgets/inputs/named.h"
 #include <QMenu>
 #include <QTimer>
 #include <algorithm>
@@ -8,8 +9,7 @@ namespace velara {
 
 Documents::Documents(QWidget* parent) : QObject(parent), area_(new QMdiArea(parent))
 {
-    area_->setObjectName("documents");
-    area_->setAccessibleName(tr("Pictures"));
+    named(area_.data(), "documents", tr("Pictures"));
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->viewport()->setMouseTracking(true);

@@ -155,7 +155,7 @@ bool fMain::findsItsDocument(const CommandWord& command)
 {
     if (command.stage != Stage::NeedsImage || GetActiveImage()) return true;
     if (command.kind != WordKind::Nothing)
-        status_->showMessage(tr("There is no picture to work on: open one first, or make a new one."), 8000);
+        status_->say(tr("There is no picture to work on: open one first, or make a new one."));
     return false;
 }
 

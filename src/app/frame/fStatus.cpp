@@ -1,4 +1,5 @@
 #include "app/frame/fStatus.h"
+#include "ui/widgets/inputs/named.h"
 #include <QHBoxLayout>
 
 namespace velara {
@@ -28,14 +29,11 @@ constexpr PanelRow kPanels[] = {
 fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
 {
     setObjectName("PicStatus");
-    auto* info = new QWidget(this);
-    info->setObjectName("sbInfo");
+    auto* info = named(new QWidget(this), "sbInfo");
     auto* row = new QHBoxLayout(info);
     row->setContentsMargins(4, 0, 4, 0);
     for (const PanelRow& p : kPanels) {
-        auto* label = new QLabel(info);
-        label->setObjectName(QString("sbInfo_") + p.key);
-        label->setAccessibleName(p.meaning);
+        auto* label = named(new QLabel(info), QString("sbInfo_") + p.key, p.meaning);
         label->setToolTip(p.meaning);
         label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         label->setTextFormat(Qt::PlainText);
@@ -47,9 +45,7 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
         panels_[static_cast<int>(p.panel)] = label;
     }
     setPanel(Panel::Hint, {});
-    progress_ = new QProgressBar(this);
-    progress_->setObjectName("cFilterProgress");
-    progress_->setAccessibleName(tr("Progress of the filter"));
+    progress_ = named(new QProgressBar(this), "cFilterProgress", tr("Progress of the filter"));
     progress_->setRange(0, 100);
     progress_->setTextVisible(false);
     progress_->setFixedWidth(140);

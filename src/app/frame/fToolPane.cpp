@@ -2,6 +2,7 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "tools/toolRows.h"
+#include "ui/widgets/inputs/named.h"
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -54,15 +55,12 @@ void fToolPane::refreshIcons()
 
 QWidget* fToolPane::makeStrip()
 {
-    auto* strip = new QWidget(this);
-    strip->setObjectName("tb_tools");
+    auto* strip = named(new QWidget(this), "tb_tools");
     auto* grid = new QGridLayout(strip);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2);
     const auto add = [&](int number, const QString& key, const QString& caption, bool checkable) {
-        auto* button = new QToolButton(strip);
-        button->setObjectName("tb_tools_" + QString::number(number));
-        button->setAccessibleName(caption);
+        auto* button = named(new QToolButton(strip), "tb_tools_" + QString::number(number), caption);
         button->setToolTip(caption);
         button->setIconSize({22, 22});
         button->setAutoRaise(true);
@@ -93,16 +91,12 @@ QWidget* fToolPane::makeWells()
     const char* const names[] = {"lblColF", "lblColB"};
     const QString captions[] = {tr("First color"), tr("Second color")};
     for (int i : {0, 1}) {
-        wells_[i] = new QToolButton(box);
-        wells_[i]->setObjectName(names[i]);
-        wells_[i]->setAccessibleName(captions[i]);
+        wells_[i] = named(new QToolButton(box), names[i], captions[i]);
         wells_[i]->setToolTip(captions[i]);
         wells_[i]->setIconSize({36, 22});
         connect(wells_[i], &QToolButton::clicked, this, [this, i] { emit wellClicked(i); });
     }
-    swap_ = new QToolButton(box);
-    swap_->setObjectName("iSwap");
-    swap_->setAccessibleName(tr("Swap the colors"));
+    swap_ = named(new QToolButton(box), "iSwap", tr("Swap the colors"));
     swap_->setToolTip(swap_->accessibleName());
     swap_->setAutoRaise(true);
     connect(swap_, &QToolButton::clicked, this, &fToolPane::swapClicked);

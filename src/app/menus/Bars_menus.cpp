@@ -3,6 +3,7 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
+#include "ui/widgets/inputs/named.h"
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
@@ -93,8 +94,7 @@ void Bars::buildToolbars()
 {
     std::size_t index = 0;
     for (const BarRow& row : barRows()) {
-        auto* bar = new QToolBar(text(row.caption), &window_);
-        bar->setObjectName(text(row.name));
+        auto* bar = named(new QToolBar(text(row.caption), &window_), text(row.name));
         bar->setIconSize({22, 22});
         fillToolbar(bar, row.buttons);
         bars_[index++] = bar;
@@ -121,8 +121,7 @@ void Bars::fillToolbar(QToolBar* bar, std::string_view buttons)
         makeTrigger(action, row.word, 0, false);
         action->setToolTip(action->isEnabled() ? text(row.caption) : text(row.caption) + tr(" (not available yet)"));
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
-        button->setObjectName(action->objectName());
-        button->setAccessibleName(text(row.caption));
+        named(button, action->objectName(), text(row.caption));
         addDrops(action, button, row);
     }
 }

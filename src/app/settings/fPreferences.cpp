@@ -1,6 +1,7 @@
 #include "app/settings/fPreferences.h"
 #include "seams/Platform.h"
 #include "ui/browse/mBrowseFolder.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -39,9 +40,7 @@ QString rightTrimmed(QString text)
 
 void addFlag(QBoxLayout* column, const FlagRow& row, Setup& copy)
 {
-    auto* box = new QCheckBox(row.caption);
-    box->setObjectName(row.control);
-    box->setAccessibleName(QString(row.caption).remove('&').trimmed());
+    auto* box = named(new QCheckBox(row.caption), row.control, QString(row.caption).remove('&').trimmed());
     box->setChecked(copy.*row.field);
     QObject::connect(box, &QCheckBox::toggled, box, [&copy, field = row.field](bool on) { copy.*field = on; });
     column->addWidget(box);
@@ -53,7 +52,7 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     : QDialog(parent), platform_(platform), setup_(setup), copy_(setup), path_(new QLineEdit)
 {
     setObjectName("fPreferences");
-    setWindowTitle("Velara Studio: Options");
+    setWindowTitle(kProgramName + ": Options");
 
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
@@ -64,14 +63,11 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     column->addSpacing(6);
     column->addWidget(label);
     auto* line = new QHBoxLayout;
-    path_->setObjectName("txtImagesPath");
-    path_->setAccessibleName("Images default folder");
+    named(path_, "txtImagesPath", "Images default folder");
     path_->setMinimumWidth(320);
     path_->setText(rightTrimmed(copy_.ImagesPath));
     connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) { copy_.ImagesPath = text; });
-    auto* browseButton = new QPushButton(tr("&Browse ..."));
-    browseButton->setObjectName("cmdBrowsePath");
-    browseButton->setAccessibleName(tr("Select Images default folder"));
+    auto* browseButton = named(new QPushButton(tr("&Browse ...")), "cmdBrowsePath", tr("Select Images default folder"));
     browseButton->setAutoDefault(false);
     connect(browseButton, &QPushButton::clicked, this, &fPreferences::browse);
     line->addWidget(path_, 1);

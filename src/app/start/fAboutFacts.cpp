@@ -1,4 +1,5 @@
 #include "app/start/fAboutFacts.h"
+#include "ui/widgets/inputs/named.h"
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -48,14 +49,12 @@ fAboutFacts::fAboutFacts(QWidget* parent) : QFrame(parent)
                                      .arg(QStringLiteral(VELARA_VERSION)) +
                                  libraries(),
                              this);
-    facts->setObjectName(QStringLiteral("lblFacts"));
-    facts->setAccessibleName(tr("Version, license and libraries"));
+    named(facts, "lblFacts", tr("Version, license and libraries"));
     facts->setTextFormat(Qt::RichText);
     facts->setWordWrap(true);
     facts->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     facts->setCursor(Qt::IBeamCursor);
-    auto* close = new QPushButton(tr("&Close"), this);
-    close->setObjectName(QStringLiteral("cmdClose"));
+    auto* close = named(new QPushButton(tr("&Close"), this), "cmdClose");
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &fAboutFacts::closed);
     column->addWidget(facts);

@@ -1,6 +1,7 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
 #include "seams/Platform.h"
+#include "ui/widgets/inputs/named.h"
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -99,9 +100,8 @@ QWidget* fStartPage::makeButtons()
     auto* row = new QHBoxLayout(box);
     row->setContentsMargins(0, 0, 0, 0);
     for (const StartRow& start : kStarts) {
-        auto* button = new QPushButton(iconOf(start.word), tr(start.caption));
-        button->setObjectName(start.name);
-        button->setAccessibleName(tr(start.caption).remove('&'));
+        auto* button =
+            named(new QPushButton(iconOf(start.word), tr(start.caption)), start.name, tr(start.caption).remove('&'));
         connect(button, &QPushButton::clicked, this, [this, &start] { emit commandChosen(start.word); });
         row->addWidget(button);
         if (!focusProxy()) setFocusProxy(button);
@@ -114,8 +114,7 @@ void fStartPage::makeList()
 {
     constexpr int kSide = Previews::kThumbnailSide;
     heading_->setBuddy(list_);
-    list_->setObjectName("lstRecent");
-    list_->setAccessibleName(heading_->text());
+    named(list_, "lstRecent", heading_->text());
     list_->setViewMode(QListView::IconMode);
     list_->setResizeMode(QListView::Adjust);
     list_->setMovement(QListView::Static);

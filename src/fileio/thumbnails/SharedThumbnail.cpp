@@ -1,4 +1,5 @@
 #include "fileio/thumbnails/SharedThumbnail.h"
+#include "seams/Dialogs.h"
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -75,7 +76,7 @@ void SharedThumbnail::write(const QString& folder, QImage image) const
     image.setText("Thumb::URI", uri_);
     image.setText("Thumb::MTime", QString::number(modified_));
     image.setText("Thumb::Size", QString::number(bytes_));
-    image.setText("Software", "Velara Studio");
+    image.setText("Software", kProgramName);
     QTemporaryFile file(folder + "/velara-XXXXXX.tmp"); // readable to the user alone
     if (!file.open() || !image.save(&file, "PNG") || !file.flush()) return;
     if (std::rename(QFile::encodeName(file.fileName()).constData(),

@@ -1,6 +1,7 @@
 #include "fileio/writers/pagePdf.h"
 #include "engine/operationRows.h"
 #include "fileio/OutputFile.h"
+#include "seams/Dialogs.h"
 #include <QIODevice>
 #include <QImage>
 #include <QPainter>
@@ -52,7 +53,7 @@ QImage fineEnough(const PrintPage& page)
 bool draw(QIODevice& device, const PrintPage& page)
 {
     QPdfWriter writer(&device);
-    writer.setCreator("Velara Studio");
+    writer.setCreator(kProgramName);
     writer.setTitle(page.title);
     writer.setResolution(kResolution);
     const QPageSize sheet(page.paper.size, QPageSize::Millimeter, {}, QPageSize::ExactMatch);

@@ -1,5 +1,6 @@
 #include "ui/browse/fAssociation.h"
 #include "fileio/families.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -27,8 +28,7 @@ fAssociation::fAssociation(QWidget* parent) : QDialog(parent)
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     const auto button = [&](const char* name, const QString& caption) {
-        auto* made = new QPushButton(caption);
-        made->setObjectName(name);
+        auto* made = named(new QPushButton(caption), name);
         buttons->addWidget(made);
         return made;
     };
@@ -42,16 +42,14 @@ fAssociation::fAssociation(QWidget* parent) : QDialog(parent)
 
 QWidget* fAssociation::makeRows()
 {
-    auto* picA = new QWidget;
-    picA->setObjectName("picA");
+    auto* picA = named(new QWidget, "picA");
     auto* grid = new QGridLayout(picA);
     grid->setColumnStretch(1, 1);
     grid->setHorizontalSpacing(24);
     int row = 0;
     for (const Family& family : kFamilies) {
-        auto* cT = new QCheckBox(textOf(family.patterns));
-        cT->setObjectName(QString("cT_%1").arg(row));
-        cT->setAccessibleName(textOf(family.patterns) + ' ' + textOf(family.name));
+        auto* cT = named(new QCheckBox(textOf(family.patterns)), QString("cT_%1").arg(row),
+                         textOf(family.patterns) + ' ' + textOf(family.name));
         grid->addWidget(cT, row, 0);
         grid->addWidget(new QLabel(textOf(family.name)), row++, 1);
     }

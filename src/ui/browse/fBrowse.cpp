@@ -3,7 +3,9 @@
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/Platform.h"
+#include "seams/sizeText.h"
 #include "ui/widgets/fFolderTree.h"
+#include "ui/widgets/inputs/named.h"
 #include <QFileInfo>
 #include <QPushButton>
 #include <QSplitter>
@@ -18,8 +20,7 @@ const QString kSection = QStringLiteral("Browse");
 /// The size of the last time, as far as the screen holds it.
 QSize rememberedSize(Platform& platform)
 {
-    const QStringList sides = platform.setting(kSection, "Size", {}).split('x');
-    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    const QSize size = sizeOf(platform.setting(kSection, "Size", {}), "x");
     return size.isEmpty() ? QSize(760, 520) : size;
 }
 
@@ -53,17 +54,15 @@ fBrowse::fBrowse(Platform& platform, BrowseMode mode, const QString& start, QWid
     BF_->setFocus();
 }
 
-fBrowse::~fBrowse() { platform_.setSetting(kSection, "Size", QString("%1x%2").arg(width()).arg(height())); }
+fBrowse::~fBrowse() { platform_.setSetting(kSection, "Size", sizeText(size(), "x")); }
 
 QWidget* fBrowse::makeButtons()
 {
-    CmdOpen_ = new QPushButton(tr("&Open"));
-    CmdOpen_->setObjectName("CmdOpen");
+    CmdOpen_ = named(new QPushButton(tr("&Open")), "CmdOpen");
     CmdOpen_->setDefault(true);
     CmdOpen_->setEnabled(false);
     connect(CmdOpen_, &QPushButton::clicked, this, &fBrowse::open);
-    auto* exit = new QPushButton(tr("E&xit"));
-    exit->setObjectName("CmdExit");
+    auto* exit = named(new QPushButton(tr("E&xit")), "CmdExit");
     exit->setAutoDefault(false);
     connect(exit, &QPushButton::clicked, this, &fBrowse::reject);
     FileName_->setAccessibleName(tr("Selected"));

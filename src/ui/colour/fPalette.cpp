@@ -9,6 +9,7 @@
 #include "ui/colour/fPresetWell.h"
 #include "ui/colour/fRgbBox.h"
 #include "ui/widgets/fColorButton.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
@@ -116,8 +117,7 @@ QWidget* fPalette::makeNumbers()
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(2);
     for (int i = 0; i < 3; ++i) {
-        auto* label = new QLabel(QLatin1String(kRows[i].letter), box);
-        label->setObjectName(QLatin1String(kRows[i].label));
+        auto* label = named(new QLabel(QLatin1String(kRows[i].letter), box), QLatin1String(kRows[i].label));
         auto* number = new fRgbBox(numbered("txtRGB", i), tr(kRows[i].name), box);
         txtRGB_[std::size_t(i)] = number;
         label->setBuddy(number);
@@ -138,16 +138,12 @@ QWidget* fPalette::makeWells()
     line->setContentsMargins(0, 0, 0, 0);
     lblColF_ = new fColorButton(frame_, QStringLiteral("lblColF"), tr("First color"), box);
     lblColB_ = new fColorButton(frame_, QStringLiteral("lblColB"), tr("Second color"), box);
-    auto* swap = new QToolButton(box);
-    swap->setObjectName(QStringLiteral("iSwap"));
-    swap->setAccessibleName(tr("Swap the colors"));
+    auto* swap = named(new QToolButton(box), "iSwap", tr("Swap the colors"));
     swap->setToolTip(swap->accessibleName());
     swap->setText(QStringLiteral("⇄"));
     swap->setAutoRaise(true);
     swap->setFocusPolicy(Qt::StrongFocus);
-    chkLink_ = new QCheckBox(tr("&Link"), box);
-    chkLink_->setObjectName(QStringLiteral("chkLink"));
-    chkLink_->setAccessibleName(tr("Link"));
+    chkLink_ = named(new QCheckBox(tr("&Link"), box), "chkLink", tr("Link"));
     chkLink_->setToolTip(tr("Link with current color"));
     line->addWidget(lblColF_);
     line->addWidget(swap);
@@ -182,8 +178,7 @@ QWidget* fPalette::makeCells()
         connect(cell, &fColourCell::doubleClicked, this, [this, cell] { setFirst(cell->colour()); });
         lblCol_.push_back(cell);
     }
-    shpCur_ = new QFrame(box);
-    shpCur_->setObjectName(QStringLiteral("shpCur"));
+    shpCur_ = named(new QFrame(box), "shpCur");
     shpCur_->setFrameStyle(QFrame::Box | QFrame::Plain);
     shpCur_->setLineWidth(2);
     shpCur_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -195,9 +190,7 @@ QWidget* fPalette::makePresets()
     auto* box = new QWidget(this);
     auto* line = new QHBoxLayout(box);
     line->setContentsMargins(0, 0, 0, 0);
-    CPL_ = new QComboBox(box);
-    CPL_->setObjectName(QStringLiteral("CPL"));
-    CPL_->setAccessibleName(tr("Preset colors"));
+    CPL_ = named(new QComboBox(box), "CPL", tr("Preset colors"));
     line->addWidget(CPL_, 1);
     for (int i = 0; i < kPresetSets; ++i) {
         const PresetSet& set = presetSet(i);

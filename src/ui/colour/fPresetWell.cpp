@@ -1,5 +1,6 @@
 #include "ui/colour/fPresetWell.h"
 #include "ui/colour/fColourCell.h"
+#include "ui/widgets/inputs/named.h"
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -84,9 +85,7 @@ void fPresetWell::showColour()
 void fPresetWell::openList()
 {
     closeList();
-    popup_ = new QFrame(this, Qt::Popup);
-    popup_->setObjectName(objectName() + QStringLiteral("_list"));
-    popup_->setAccessibleName(accessibleName());
+    popup_ = named(new QFrame(this, Qt::Popup), objectName() + QStringLiteral("_list"), accessibleName());
     popup_->setAttribute(Qt::WA_DeleteOnClose);
     static_cast<QFrame*>(popup_.data())->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     auto* grid = new QGridLayout(popup_);

@@ -10,6 +10,7 @@
 #include "seams/Setup.h"
 #include "ui/compose/sampleScene.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
@@ -40,9 +41,7 @@ QPixmap pixmapOf(const Bits& bits)
 
 QPushButton* applyButton(const char* name, const QString& accessibleName)
 {
-    auto* button = new QPushButton(QStringLiteral("Apply"));
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(accessibleName);
+    auto* button = named(new QPushButton(QStringLiteral("Apply")), QLatin1String(name), accessibleName);
     return button;
 }
 
@@ -69,13 +68,10 @@ QWidget* fEffectsPage::makeToolbar()
     container_->setObjectName(QStringLiteral("tbContainer"));
     container_->setMinimumSize(4 * kCell, 2 * kCell);
     container_->installEventFilter(this);
-    tb_->setObjectName(QStringLiteral("tb"));
-    tb_->setAccessibleName(tr("Effects"));
+    named(tb_, "tb", tr("Effects"));
     int index = 1;
     for (const Effect& effect : effects()) {
-        auto* button = new QToolButton(tb_);
-        button->setObjectName(QStringLiteral("tb_%1").arg(index));
-        button->setAccessibleName(textOf(effect.name));
+        auto* button = named(new QToolButton(tb_), QStringLiteral("tb_%1").arg(index), textOf(effect.name));
         button->setToolTip(tr("%1: a double click applies it").arg(textOf(effect.name)));
         button->setIconSize({kSceneSide, kSceneSide});
         button->setCheckable(true);
@@ -88,8 +84,7 @@ QWidget* fEffectsPage::makeToolbar()
     connect(&group_, &QButtonGroup::idToggled, this, [this](int id, bool on) {
         if (on) emit effectChosen(textOf(effects()[std::size_t(id - 1)].name));
     });
-    V_->setObjectName(QStringLiteral("V"));
-    V_->setAccessibleName(tr("Effects, up and down"));
+    named(V_, "V", tr("Effects, up and down"));
     V_->setSingleStep(kCell / 2);
     connect(V_, &QScrollBar::valueChanged, this, [this](int value) { tb_->move(0, -value); });
 
@@ -104,8 +99,7 @@ QWidget* fEffectsPage::makeToolbar()
 
 QWidget* fEffectsPage::makeAmount()
 {
-    br_->setObjectName(QStringLiteral("br"));
-    br_->setAccessibleName(tr("Amount"));
+    named(br_, "br", tr("Amount"));
     br_->setRange(kLeastAmount, kMostAmount);
     br_->setPageStep(10);
     br_->setValue(kUsualAmount);
@@ -124,14 +118,11 @@ QWidget* fEffectsPage::makeAmount()
 
 QWidget* fEffectsPage::makeFiles()
 {
-    ListFile_->setObjectName(QStringLiteral("ListFile"));
-    ListFile_->setAccessibleName(tr("Texture files"));
+    named(ListFile_, "ListFile", tr("Texture files"));
     ListFile_->setMinimumHeight(60);
     connect(ListFile_, &QListWidget::currentRowChanged, this, [this](int row) { CmdFileApply_->setEnabled(row >= 0); });
     connect(ListFile_, &QListWidget::itemActivated, this, [this] { ApplyTexture(effect(), true); });
-    auto* folder = new QPushButton(tr("Fol&der..."));
-    folder->setObjectName(QStringLiteral("cmdfile"));
-    folder->setAccessibleName(tr("Choose the folder of the texture files"));
+    auto* folder = named(new QPushButton(tr("Fol&der...")), "cmdfile", tr("Choose the folder of the texture files"));
     connect(folder, &QPushButton::clicked, this, &fEffectsPage::folderWanted);
 
     auto* box = new QWidget;

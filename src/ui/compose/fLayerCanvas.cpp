@@ -1,4 +1,5 @@
 #include "ui/compose/fLayerCanvas.h"
+#include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/Mark.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -114,9 +115,7 @@ void fLayerCanvas::removeSelected()
 
 void fLayerCanvas::makeOutline(int index)
 {
-    auto* outline = new QWidget(this);
-    outline->setObjectName(QStringLiteral("lblShape_%1").arg(index));
-    outline->setAccessibleName(tr("Text %1").arg(index - 1));
+    auto* outline = named(new QWidget(this), QStringLiteral("lblShape_%1").arg(index), tr("Text %1").arg(index - 1));
     outline->setCursor(Qt::SizeAllCursor);
     outline->installEventFilter(this);
     new Surface(layers_, index, *this, outline);

@@ -1,5 +1,6 @@
 #include "ui/compose/fLayerList.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QEvent>
@@ -22,10 +23,8 @@ fLayerList::fLayerList(const Layers& layers, QWidget* parent)
     picLC_->setObjectName(QStringLiteral("picLC"));
     picLC_->setFixedWidth(kThumbnail.width() + 52);
     picLC_->installEventFilter(this);
-    picL_->setObjectName(QStringLiteral("picL"));
-    picL_->setAccessibleName(tr("Texts"));
-    VV_->setObjectName(QStringLiteral("VV"));
-    VV_->setAccessibleName(tr("Texts, up and down"));
+    named(picL_, "picL", tr("Texts"));
+    named(VV_, "VV", tr("Texts, up and down"));
     column_->setContentsMargins(4, 4, 4, 4);
     column_->setSpacing(4);
     connect(VV_, &QScrollBar::valueChanged, this, [this](int value) { picL_->move(0, -value); });
@@ -40,12 +39,10 @@ fLayerList::fLayerList(const Layers& layers, QWidget* parent)
 void fLayerList::add(int index)
 {
     auto* box = new QWidget;
-    auto* BT = new QCheckBox;
-    BT->setObjectName(QStringLiteral("BT_%1").arg(index));
+    auto* BT = named(new QCheckBox, QStringLiteral("BT_%1").arg(index));
     BT->setChecked(true);
     connect(BT, &QCheckBox::toggled, this, [this, index](bool on) { emit shown(index, on); });
-    auto* pT = new QToolButton;
-    pT->setObjectName(QStringLiteral("pT_%1").arg(index));
+    auto* pT = named(new QToolButton, QStringLiteral("pT_%1").arg(index));
     pT->setIconSize(kThumbnail);
     pT->setCheckable(true);
     pT->setAutoRaise(true);

@@ -9,6 +9,7 @@
 #include "ui/widgets/ActiveComposer.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicturePage.h"
+#include "ui/widgets/inputs/named.h"
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QMenu>
@@ -40,9 +41,7 @@ constexpr struct {
 
 QToolButton* button(const QString& name, const QString& caption, const char* icon = "")
 {
-    auto* made = new QToolButton;
-    made->setObjectName(name);
-    made->setAccessibleName(caption);
+    auto* made = named(new QToolButton, name, caption);
     made->setToolTip(caption);
     made->setText(caption);
     made->setIcon(QIcon::fromTheme(QLatin1String(icon)));
@@ -70,10 +69,8 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     middle->addWidget(list_);
     middle->addWidget(page_, 1);
     column->addLayout(middle, 1);
-    auto* ok = new QPushButton(QStringLiteral("OK"));
-    ok->setObjectName(QStringLiteral("CmdOK"));
-    auto* exit = new QPushButton(QStringLiteral("Exit"));
-    exit->setObjectName(QStringLiteral("CmdCancel"));
+    auto* ok = named(new QPushButton(QStringLiteral("OK")), "CmdOK");
+    auto* exit = named(new QPushButton(QStringLiteral("Exit")), "CmdCancel");
     auto* last = new QHBoxLayout;
     last->addStretch();
     for (QPushButton* each : {ok, exit}) {
@@ -101,16 +98,13 @@ fLayers::~fLayers()
 
 QWidget* fLayers::makeFontBar()
 {
-    auto* bar = new QWidget;
-    bar->setObjectName(QStringLiteral("tb_Font"));
+    auto* bar = named(new QWidget, "tb_Font");
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
-    cFonts_->setObjectName(QStringLiteral("cFonts"));
-    cFonts_->setAccessibleName(tr("Font"));
+    named(cFonts_, "cFonts", tr("Font"));
     cFonts_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cFonts_->setMinimumContentsLength(18);
-    Cs_->setObjectName(QStringLiteral("Cs"));
-    Cs_->setAccessibleName(tr("Size"));
+    named(Cs_, "Cs", tr("Size"));
     fillFonts(*cFonts_, frame_.platform());
     for (int size = kFirstSize; size <= kLastSize; size += 2) Cs_->addItem(QString::number(size));
     cFonts_->setCurrentIndex(std::min(1, cFonts_->count() - 1));
@@ -133,8 +127,7 @@ QWidget* fLayers::makeFontBar()
 
 QWidget* fLayers::makeLayerBar()
 {
-    auto* bar = new QWidget;
-    bar->setObjectName(QStringLiteral("tbOthers"));
+    auto* bar = named(new QWidget, "tbOthers");
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     QToolButton* add = button(QStringLiteral("tbOthers_1"), tr("New text"), "list-add");

@@ -1,4 +1,5 @@
 #include "ui/compose/fTextPage.h"
+#include "pixels/twips.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -21,8 +22,8 @@ namespace velara {
 
 namespace {
 
-constexpr float kMargin = 60 / 15.f; // sixty twips
-constexpr int kUsualSize = 10;       // where the configuration has none
+constexpr float kMargin = 60.f / kTwips;
+constexpr int kUsualSize = 10; // where the configuration has none
 constexpr Colour kPaper = 0xFFFFFF, kFace = 0;
 /// As a mask it lets through a third of the colour, as a picture it is the grey of a button's edge.
 constexpr Colour kShadow = 0x7F7F7F;

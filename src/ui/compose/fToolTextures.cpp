@@ -1,6 +1,7 @@
 #include "ui/compose/fToolTextures.h"
 #include "ui/compose/fEffectsPage.h"
 #include "ui/compose/fTextPage.h"
+#include "ui/widgets/inputs/named.h"
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -11,8 +12,7 @@ fToolTextures::fToolTextures(Frame& frame, QWidget* parent)
 {
     setObjectName(QStringLiteral("fToolTextures"));
     showEffect(QStringLiteral("Emboss"));
-    SSTab1_->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1_->setAccessibleName(tr("Text and effects"));
+    named(SSTab1_, "SSTab1", tr("Text and effects"));
     SSTab1_->addTab(text_, tr("&Text"));
     SSTab1_->addTab(effects_, tr("&Effects"));
     auto* column = new QVBoxLayout(this);

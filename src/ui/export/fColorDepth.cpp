@@ -2,6 +2,7 @@
 #include "pixels/numbers.h"
 #include "reduce/EuroDepth.h"
 #include "ui/widgets/ActiveComposer.h"
+#include "ui/widgets/inputs/named.h"
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -35,9 +36,7 @@ Bits reducedCopy(const Bits& picture, int level)
 
 QPushButton* button(const char* name, const QString& text)
 {
-    auto* made = new QPushButton(text);
-    made->setObjectName(QLatin1String(name));
-    made->setAccessibleName(text.trimmed());
+    auto* made = named(new QPushButton(text), QLatin1String(name), text.trimmed());
     made->setAutoDefault(false);
     return made;
 }
@@ -65,9 +64,7 @@ fColorDepth::fColorDepth(const Bits& picture, Actions actions, QWidget* parent)
 
 QWidget* fColorDepth::makePages()
 {
-    auto* tabs = new QTabWidget;
-    tabs->setObjectName(QStringLiteral("SSTab1"));
-    tabs->setAccessibleName(tr("Pictures"));
+    auto* tabs = named(new QTabWidget, "SSTab1", tr("Pictures"));
     tabs->addTab(original_, QStringLiteral("Original"));
     tabs->addTab(optimized_, QStringLiteral("Optimized"));
     tabs->setUsesScrollButtons(false); // both names can be read at every width
@@ -83,18 +80,12 @@ QWidget* fColorDepth::makeControls()
 
     auto* options = new QGroupBox(QStringLiteral("Select an option"));
     auto* optionLines = new QVBoxLayout(options);
-    cmbDepth_ = new QComboBox;
-    cmbDepth_->setObjectName(QStringLiteral("cmbDepth"));
-    cmbDepth_->setAccessibleName(tr("Color depth"));
+    cmbDepth_ = named(new QComboBox, "cmbDepth", tr("Color depth"));
     for (const DepthRow& row : kDepths) cmbDepth_->addItem(QLatin1String(row.entry));
     optionLines->addWidget(cmbDepth_);
 
-    auto* bar = new QToolBar;
-    bar->setObjectName(QStringLiteral("Toolbar1"));
-    bar->setAccessibleName(tr("Zoom"));
-    auto* zoom = new QToolButton;
-    zoom->setObjectName(QStringLiteral("Toolbar1_1"));
-    zoom->setAccessibleName(tr("Zoom"));
+    auto* bar = named(new QToolBar, "Toolbar1", tr("Zoom"));
+    auto* zoom = named(new QToolButton, "Toolbar1_1", tr("Zoom"));
     zoom->setPopupMode(QToolButton::InstantPopup);
     zoom->setToolButtonStyle(Qt::ToolButtonTextOnly);
     zoom_ = new QMenu(zoom);
@@ -107,8 +98,7 @@ QWidget* fColorDepth::makeControls()
     bar->addWidget(zoom);
     optionLines->addWidget(bar);
 
-    Lbloptimized_ = new QLabel;
-    Lbloptimized_->setObjectName(QStringLiteral("Lbloptimized"));
+    Lbloptimized_ = named(new QLabel, "Lbloptimized");
     auto* heading = new QLabel(tr("Optimized to"));
     heading->setForegroundRole(QPalette::PlaceholderText);
 

@@ -2,6 +2,7 @@
 #include "document/resizing.h"
 #include "pixels/numbers.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
@@ -34,8 +35,7 @@ fCanvasView::fCanvasView(const Bits& picture)
     setObjectName("iCnv");
     setAccessibleName("Canvas");
     setFixedSize(kBox);
-    image_->setObjectName("iImg");
-    image_->setAccessibleName("Picture on the canvas");
+    named(image_, "iImg", "Picture on the canvas");
     image_->setCursor(Qt::SizeAllCursor);
     image_->installEventFilter(this);
 }

@@ -2,6 +2,7 @@
 #include "pixels/RuntimeError.h"
 #include "pixels/numbers.h"
 #include "seams/Platform.h"
+#include "ui/widgets/inputs/named.h"
 #include <QDialogButtonBox>
 #include <QIntValidator>
 #include <QLabel>
@@ -78,8 +79,7 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     const auto field = [&](QLineEdit* edit, const char* name, const QString& caption, int row) {
-        edit->setObjectName(name);
-        edit->setAccessibleName(caption);
+        named(edit, name, caption);
         edit->setMaxLength(5);
         edit->setValidator(new QIntValidator(0, Bits::kMostASide, edit));
         edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("000000") + 24);
@@ -92,8 +92,7 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
     };
     field(width_, "txtW", "Width", 0);
     field(height_, "txtH", "Height", 1);
-    keep_->setObjectName("chkKeepProportions");
-    keep_->setAccessibleName("Keep proportions");
+    named(keep_, "chkKeepProportions", "Keep proportions");
     keep_->setChecked(ratio > 0);
     grid->addWidget(keep_, 2, 0, 1, 2);
     connect(keep_, &QCheckBox::toggled, this, [this, ofPicture = ratio > 0](bool on) {

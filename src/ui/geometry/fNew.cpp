@@ -1,4 +1,5 @@
 #include "ui/geometry/fNew.h"
+#include "seams/sizeText.h"
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -25,8 +26,6 @@ QSize& lastSize()
     return size;
 }
 
-QString sizeText(int width, int height) { return QStringLiteral("%1 x %2").arg(width).arg(height); }
-
 } // namespace
 
 fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", "New", platform, parent), sizes_(new QComboBox)
@@ -43,13 +42,12 @@ fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", "New", platf
     grid().addWidget(custom, 1, 0, 1, 2);
     addButtons("cmdOK", "cmdCancel");
 
-    sizes_->setCurrentText(sizeText(widthValue(), heightValue()));
+    sizes_->setCurrentText(sizeText({widthValue(), heightValue()}));
     connect(sizes_, &QComboBox::textActivated, this, [this](const QString& text) {
-        const QStringList parts = text.split(" x ");
-        if (parts.size() == 2) fields_->set(parts[0].toInt(), parts[1].toInt());
+        if (const QSize size = sizeOf(text); !size.isEmpty()) fields_->set(size.width(), size.height());
     });
     connect(fields_, &fSizeFields::changed, this, [this] {
-        const int known = sizes_->findText(sizeText(widthValue(), heightValue()));
+        const int known = sizes_->findText(sizeText({widthValue(), heightValue()}));
         sizes_->setCurrentIndex(std::max(known, 0));
     });
 }
@@ -66,7 +64,7 @@ void fNew::accept()
 {
     if (!valid()) return;
     lastSize() = {widthValue(), heightValue()};
-    const QString text = sizeText(widthValue(), heightValue());
+    const QString text = sizeText({widthValue(), heightValue()});
     if (!sizeList().contains(text)) sizeList().append(text);
     QDialog::accept();
 }

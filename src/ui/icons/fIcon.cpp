@@ -2,6 +2,7 @@
 #include "document/Document.h"
 #include "seams/Frame.h"
 #include "ui/icons/fIconPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QPushButton>
 
@@ -13,8 +14,7 @@ fIcon::fIcon(Frame& frame, QWidget* parent)
     setObjectName("fIcon");
     setWindowTitle(tr("Extract Icon"));
     setModal(true);
-    auto* exit = new QPushButton(tr("E&xit"));
-    exit->setObjectName("CmdExit");
+    auto* exit = named(new QPushButton(tr("E&xit")), "CmdExit");
     exit->setAutoDefault(false);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

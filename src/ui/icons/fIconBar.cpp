@@ -1,6 +1,8 @@
 #include "ui/icons/fIconBar.h"
+#include "seams/sizeText.h"
 #include "ui/icons/fIconMaker.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -18,8 +20,6 @@ constexpr int kSides[] = {16, 32, 48, 64};
 constexpr int kPreview = 128; // pixels a side
 constexpr int kMargin = 12;   // from the corner of the screen
 
-QString sizeText(int side) { return QString("%1 x %1").arg(side); }
-
 } // namespace
 
 fIconBar::fIconBar(fIconMaker& maker, QWidget* parent)
@@ -34,8 +34,7 @@ fIconBar::fIconBar(fIconMaker& maker, QWidget* parent)
     setCursor(Qt::SizeAllCursor);
     auto* title = new QLabel("<b>" + windowTitle() + "</b>");
     auto* help = new QLabel(tr("Drag the frame over the picture.\nArrow keys move it by a pixel."));
-    lblcount_->setObjectName("lblcount");
-    lblcount_->setAccessibleName(tr("Icons taken"));
+    named(lblcount_, "lblcount", tr("Icons taken"));
     auto* counter = new QHBoxLayout;
     counter->addWidget(new QLabel(tr("Icons taken:")));
     counter->addWidget(lblcount_, 1);
@@ -54,24 +53,21 @@ fIconBar::fIconBar(fIconMaker& maker, QWidget* parent)
 
 QWidget* fIconBar::makeToolbar(fIconMaker& maker)
 {
-    auto* bar = new QToolBar;
-    bar->setObjectName("tb");
+    auto* bar = named(new QToolBar, "tb");
     bar->setCursor(Qt::ArrowCursor);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const auto add = [bar](int number, const char* icon, const QString& caption, const QString& tip) {
         QAction* action = bar->addAction(QIcon::fromTheme(QLatin1String(icon)), caption);
         action->setToolTip(tip);
         QWidget* button = bar->widgetForAction(action);
-        button->setObjectName(QString("tb_%1").arg(number));
-        button->setAccessibleName(tip);
+        named(button, QString("tb_%1").arg(number), tip);
         button->setFocusPolicy(Qt::NoFocus); // the keys are the frame's
         return action;
     };
     size_ = add(1, "transform-scale", {}, tr("Size of the icon: + and -"));
-    auto* menu = new QMenu(bar);
-    menu->setObjectName("tb_1_menu");
+    auto* menu = named(new QMenu(bar), "tb_1_menu");
     for (const int side : kSides) {
-        QAction* entry = menu->addAction(sizeText(side));
+        QAction* entry = menu->addAction(sizeText({side, side}));
         entry->setObjectName(QString("tb_1_%1").arg(sizes_.size() + 1));
         entry->setData(side);
         connect(entry, &QAction::triggered, &maker, [&maker, side] { maker.setSide(side); });
@@ -99,7 +95,7 @@ void fIconBar::showCount(int count) { lblcount_->setText(QString::number(count))
 void fIconBar::showSide(int side)
 {
     for (QAction* entry : sizes_) entry->setEnabled(entry->data() != side);
-    size_->setText(sizeText(side));
+    size_->setText(sizeText({side, side}));
 }
 
 void fIconBar::mousePressEvent(QMouseEvent* event)

@@ -1,5 +1,6 @@
 #include "ui/icons/fIconBrowse.h"
 #include "ui/widgets/fFolderTree.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QFileInfo>
 #include <QLabel>
@@ -34,13 +35,11 @@ fIconBrowse::fIconBrowse(const QString& start, QWidget* parent)
     setObjectName("fIconBrowse");
     setWindowTitle(tr("Icon Extractor: Select Folder"));
     setModal(true);
-    FileName_->setObjectName("FileName");
-    FileName_->setAccessibleName(tr("The chosen folder"));
+    named(FileName_, "FileName", tr("The chosen folder"));
     CmdOpen_->setObjectName("CmdOpen");
     CmdOpen_->setEnabled(false);
     CmdOpen_->setDefault(true);
-    auto* exit = new QPushButton(tr("E&xit"));
-    exit->setObjectName("CmdExit");
+    auto* exit = named(new QPushButton(tr("E&xit")), "CmdExit");
     exit->setAutoDefault(false);
     BF_->setMinimumSize(kTree);
     auto* buttons = new QHBoxLayout;

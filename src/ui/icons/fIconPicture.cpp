@@ -4,6 +4,7 @@
 #include "seams/Platform.h"
 #include "ui/icons/MaskChoice.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -69,8 +70,7 @@ QWidget* fIconPicture::makeChoices()
     auto* column = new QVBoxLayout(choices);
     column->setContentsMargins(0, 0, 0, 0);
     for (const SizeRow& row : kSizes) {
-        auto* option = new QRadioButton(tr(row.caption));
-        option->setObjectName(row.name);
+        auto* option = named(new QRadioButton(tr(row.caption)), row.name);
         connect(option, &QRadioButton::clicked, this, [this, side = row.side] { chooseSide(side); });
         column->addWidget(option);
         sizes_ << option;

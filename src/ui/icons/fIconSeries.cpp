@@ -2,8 +2,10 @@
 #include "fileio/writers/iconFile.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
+#include "seams/sizeText.h"
 #include "ui/icons/MaskChoice.h"
 #include "ui/icons/fIconBrowse.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
@@ -25,8 +27,7 @@ constexpr int kMostNames = 5; // of the files that a message tells
 
 QPushButton* button(const char* name, const QString& caption)
 {
-    auto* made = new QPushButton(caption);
-    made->setObjectName(name);
+    auto* made = named(new QPushButton(caption), name);
     made->setAutoDefault(false);
     return made;
 }
@@ -47,8 +48,7 @@ fIconSeries::fIconSeries(Frame& frame)
 
 QLayout* fIconSeries::makeSource()
 {
-    cboIcon_->setObjectName("cboIcon");
-    cboIcon_->setAccessibleName(tr("What to capture"));
+    named(cboIcon_, "cboIcon", tr("What to capture"));
     cboIcon_->addItems({"Desktop", "Foreground", "Background"});
     QPushButton* go = button("CmdGo", tr("&Go"));
     go->setToolTip(tr("Captures the screen and cuts icons out of it"));
@@ -61,8 +61,7 @@ QLayout* fIconSeries::makeSource()
 
 QLayout* fIconSeries::makeList()
 {
-    lv_->setObjectName("lv");
-    lv_->setAccessibleName(tr("Icons cut out"));
+    named(lv_, "lv", tr("Icons cut out"));
     lv_->setHeaderLabels({tr("Icon"), tr("Size")});
     lv_->setRootIsDecorated(false);
     lv_->setIconSize(kThumbnail);
@@ -88,8 +87,7 @@ QLayout* fIconSeries::makeTarget()
 {
     auto* label = new QLabel(tr("&Extract Icons of the Selected Images to"));
     label->setBuddy(txtFolder_);
-    txtFolder_->setObjectName("txtFolder");
-    txtFolder_->setAccessibleName(tr("Folder of the icons"));
+    named(txtFolder_, "txtFolder", tr("Folder of the icons"));
     QPushButton *folder = button("CmdFolder", tr("....")), *save = button("CmdSaveCustom", tr("Sa&ve"));
     folder->setAccessibleName(tr("Select the folder"));
     folder->setToolTip(folder->accessibleName());
@@ -116,7 +114,7 @@ void fIconSeries::ListIcons()
     lv_->clear();
     for (int i = 0; i < count(); ++i) {
         const Bits& cutOut = ilCustom_[std::size_t(i)];
-        const QString size = QString("%1 x %2").arg(cutOut.width()).arg(cutOut.height());
+        const QString size = sizeText({cutOut.width(), cutOut.height()});
         auto* entry = new QTreeWidgetItem(lv_, {QString("%1Velara").arg(i + 1), size});
         entry->setCheckState(0, Qt::Checked);
     }

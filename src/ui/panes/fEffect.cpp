@@ -2,6 +2,7 @@
 #include "commands/effects.h"
 #include "document/Document.h"
 #include "seams/Frame.h"
+#include "ui/widgets/inputs/named.h"
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
@@ -21,8 +22,7 @@ QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), st
 FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> rows)
     : fPane(frame, name, rows), lstEffects_(new QListWidget(this))
 {
-    lstEffects_->setObjectName(QStringLiteral("lstEffects"));
-    lstEffects_->setAccessibleName(tr("Effects"));
+    named(lstEffects_, "lstEffects", tr("Effects"));
     for (const Effect& effect : effects()) lstEffects_->addItem(textOf(effect.name));
     lstEffects_->setFixedHeight(lstEffects_->sizeHintForRow(0) * kShownEffects + 2 * lstEffects_->frameWidth());
     lstEffects_->setCurrentRow(frame.toolStores().effect - 1);
@@ -32,9 +32,7 @@ FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> row
     connect(lstEffects_, &QListWidget::itemActivated, this, &FEffect::apply);
     auto* caption = new QLabel(QStringLiteral("Show "), this);
     caption->setBuddy(lstEffects_);
-    auto* button = new QPushButton(tr("Apply"), this);
-    button->setObjectName(QStringLiteral("cmdEffect"));
-    button->setAccessibleName(tr("Apply the effect"));
+    auto* button = named(new QPushButton(tr("Apply"), this), "cmdEffect", tr("Apply the effect"));
     connect(button, &QPushButton::clicked, this, &FEffect::apply);
     column()->addWidget(caption);
     column()->addWidget(lstEffects_);

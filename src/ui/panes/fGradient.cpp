@@ -2,6 +2,7 @@
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Frame.h"
+#include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewRender.h"
 #include <QLabel>
 #include <QVBoxLayout>
@@ -43,8 +44,7 @@ Bits previewOf(const Setup& s)
 FGradient::FGradient(Frame& frame, const QString& name, std::span<const PaneRow> rows)
     : fPane(frame, name, rows), iGrad_(new QLabel(this))
 {
-    iGrad_->setObjectName("iGrad");
-    iGrad_->setAccessibleName(tr("The gradient"));
+    named(iGrad_, "iGrad", tr("The gradient"));
     iGrad_->setFixedSize(kWidth, kHeight);
     column()->addWidget(iGrad_, 0, Qt::AlignHCenter);
     edited();

@@ -2,6 +2,7 @@
 #include "seams/Frame.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -17,8 +18,7 @@ QString plain(const char* caption) { return QString::fromUtf8(caption).remove('&
 
 void name(QWidget* widget, const PaneRow& row)
 {
-    widget->setObjectName(row.name);
-    widget->setAccessibleName(plain(row.caption));
+    named(widget, row.name, plain(row.caption));
     widget->setToolTip(QString::fromUtf8(row.hint));
 }
 

@@ -2,6 +2,7 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "tools/stamps.h"
+#include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewRender.h"
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -22,18 +23,15 @@ FStamp::FStamp(Frame& frame, const QString& name, std::span<const PaneRow> rows)
     : fPane(frame, name, rows), cbStamps_(new QComboBox(this)), iStamp_(new QLabel(this)),
       missing_(new QLabel(tr("Stamp sub-Folder Not Found!"), this))
 {
-    cbStamps_->setObjectName("cbStamps");
-    cbStamps_->setAccessibleName(tr("Stamp"));
+    named(cbStamps_, "cbStamps", tr("Stamp"));
     cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is down
     cbStamps_->view()->setAccessibleName(tr("Stamp files"));
-    auto* back = new QFrame(this);
-    back->setObjectName("iStampBk");
+    auto* back = named(new QFrame(this), "iStampBk");
     back->setFrameShape(QFrame::StyledPanel);
     back->setFixedHeight(kPreview + 8);
     auto* inside = new QVBoxLayout(back);
     inside->setContentsMargins(3, 3, 3, 3);
-    iStamp_->setObjectName("iStamp");
-    iStamp_->setAccessibleName(tr("The chosen stamp"));
+    named(iStamp_, "iStamp", tr("The chosen stamp"));
     iStamp_->setAlignment(Qt::AlignCenter);
     inside->addWidget(iStamp_);
     missing_->setObjectName("lblStamps");

@@ -4,6 +4,7 @@
 #include "ui/panes/fEffect.h"
 #include "ui/panes/fGradient.h"
 #include "ui/panes/fStamp.h"
+#include "ui/widgets/inputs/named.h"
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -60,8 +61,8 @@ QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent)
     pane->setFrameShape(QFrame::StyledPanel);
     pane->setAttribute(Qt::WA_DeleteOnClose);
     pane->setMinimumWidth(190);
-    auto* heading = new QLabel(QObject::tr(tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane);
-    heading->setObjectName(QStringLiteral("lblTool"));
+    auto* heading = named(
+        new QLabel(QObject::tr(tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane), "lblTool");
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);

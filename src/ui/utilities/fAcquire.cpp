@@ -1,6 +1,7 @@
 #include "ui/utilities/fAcquire.h"
 #include "seams/Platform.h"
 #include "ui/utilities/fSource.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -29,21 +30,16 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     setModal(true);
     auto* column = new QVBoxLayout(this);
     auto* sourceRow = new QHBoxLayout;
-    lblSource_ = new QLabel;
-    lblSource_->setObjectName("lblSource");
+    lblSource_ = named(new QLabel, "lblSource");
     lblSource_->setMinimumWidth(300);
-    cmdSource_ = new QPushButton(tr("Select S&ource ..."));
-    cmdSource_->setObjectName("cmdSource");
+    cmdSource_ = named(new QPushButton(tr("Select S&ource ...")), "cmdSource");
     cmdSource_->setAutoDefault(false);
     sourceRow->addWidget(lblSource_, 1);
     sourceRow->addWidget(cmdSource_);
     column->addLayout(sourceRow);
     column->addWidget(controls_ = makeControls());
-    lblState_ = new QLabel;
-    lblState_->setObjectName("lblState");
-    progress_ = new QProgressBar;
-    progress_->setObjectName("pbScan");
-    progress_->setAccessibleName(tr("Progress of the scan"));
+    lblState_ = named(new QLabel, "lblState");
+    progress_ = named(new QProgressBar, "pbScan", tr("Progress of the scan"));
     QSizePolicy kept = progress_->sizePolicy(); // the window stays as it is when the bar goes
     kept.setRetainSizeWhenHidden(true);
     progress_->setSizePolicy(kept);
@@ -51,11 +47,9 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     column->addWidget(progress_);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    cmdScan_ = new QPushButton(tr("&Scan"));
-    cmdScan_->setObjectName("cmdScan");
+    cmdScan_ = named(new QPushButton(tr("&Scan")), "cmdScan");
     cmdScan_->setDefault(true);
-    auto* cancel = new QPushButton(tr("Cancel"));
-    cancel->setObjectName("cmdCancel");
+    auto* cancel = named(new QPushButton(tr("Cancel")), "cmdCancel");
     cancel->setAutoDefault(false); // Enter scans, or does nothing yet
     buttons->addWidget(cmdScan_);
     buttons->addWidget(cancel);
@@ -101,8 +95,7 @@ QWidget* fAcquire::makeControls()
         area_[i]->setSuffix(tr(" mm"));
         add(area_[i], kArea[i].name, tr(kArea[i].caption), kArea[i].row, kArea[i].at);
     }
-    cmdWhole_ = new QPushButton(tr("Whole &bed"));
-    cmdWhole_->setObjectName("cmdWhole");
+    cmdWhole_ = named(new QPushButton(tr("Whole &bed")), "cmdWhole");
     cmdWhole_->setAutoDefault(false);
     grid->addWidget(cmdWhole_, 3, 3);
     connect(cmdWhole_, &QPushButton::clicked, this, &fAcquire::wholeBed);

@@ -1,4 +1,5 @@
 #include "ui/utilities/fCapture.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
@@ -31,15 +32,13 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
     setWindowTitle(tr("Capture Screen"));
     setModal(true);
     auto* column = new QVBoxLayout(this);
-    auto* tabs = new QTabWidget;
-    tabs->setObjectName("tabs");
+    auto* tabs = named(new QTabWidget, "tabs");
     tabs->addTab(makeCustom(), tr("Custom"));
     column->addWidget(tabs);
 
     auto* buttons = new QHBoxLayout;
     const auto button = [&](const char* name, const QString& caption) {
-        auto* made = new QPushButton(caption);
-        made->setObjectName(name);
+        auto* made = named(new QPushButton(caption), name);
         buttons->addWidget(made);
         return made;
     };
@@ -73,14 +72,11 @@ QWidget* fCapture::makeCustom()
 {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
-    cb_ = new QComboBox;
-    cb_->setObjectName("cb");
-    cb_->setAccessibleName(tr("What to capture"));
+    cb_ = named(new QComboBox, "cb", tr("What to capture"));
     column->addWidget(cb_);
     for (const WhereRow& row : kRows) {
         cb_->addItem(row.caption);
-        auto* label = new QLabel(row.explanation);
-        label->setObjectName(QString("lbl") + row.caption);
+        auto* label = named(new QLabel(row.explanation), QString("lbl") + row.caption);
         label->setWordWrap(true);
         label->setMinimumWidth(380);
         column->addWidget(label);

@@ -3,8 +3,10 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/sizeText.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
@@ -21,7 +23,7 @@ namespace {
 constexpr QSize kThumbnail{39, 31};
 constexpr int kSlotsInView = 5;
 
-QString sizeText(const Bits& bits) { return QString("%1 x %2").arg(bits.width()).arg(bits.height()); }
+QString sizeOfClip(const Bits& bits) { return sizeText({bits.width(), bits.height()}); }
 
 /// What was not selected in the colour of the ground: in the clip it is black.
 Bits overGround(const Bits& clip, const QColor& ground)
@@ -45,9 +47,7 @@ fPaste::fPaste(Frame& frame, QWidget* parent) : QWidget(parent, Qt::Tool), frame
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->addWidget(makeSlots());
-    lstImages_ = new QListWidget;
-    lstImages_->setObjectName("lstImages");
-    lstImages_->setAccessibleName(tr("Clips, oldest first"));
+    lstImages_ = named(new QListWidget, "lstImages", tr("Clips, oldest first"));
     lstImages_->setToolTip(tr("Enter pastes the clip"));
     lstImages_->setFixedHeight(4 * lstImages_->fontMetrics().lineSpacing() + 12);
     column->addWidget(lstImages_);
@@ -78,8 +78,7 @@ QWidget* fPaste::makeSlots()
     area_->setFocusPolicy(Qt::NoFocus);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    area_->verticalScrollBar()->setObjectName("V");
-    area_->verticalScrollBar()->setAccessibleName(tr("Scroll the clips"));
+    named(area_->verticalScrollBar(), "V", tr("Scroll the clips"));
     const int slot = slots_[0].pc->sizeHint().height() + column->spacing();
     area_->verticalScrollBar()->setSingleStep(slot);
     area_->setFixedHeight(kSlotsInView * slot - column->spacing());
@@ -90,17 +89,14 @@ QWidget* fPaste::makeSlots()
 fPaste::Slot fPaste::makeSlot(int index)
 {
     const QString number = "_" + QString::number(index);
-    auto* panel = new QFrame;
-    panel->setObjectName("pc" + number);
+    auto* panel = named(new QFrame, "pc" + number);
     panel->setFrameShape(QFrame::StyledPanel);
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(3, 3, 3, 3);
     auto* picture = new fPicture("pT" + number, tr("Picture of the clip"), kThumbnail);
-    auto* button = new QPushButton;
-    button->setObjectName("BT" + number);
+    auto* button = named(new QPushButton, "BT" + number);
     button->setMinimumWidth(button->fontMetrics().horizontalAdvance("    Clip 0000  "));
-    auto* size = new QLabel;
-    size->setObjectName("lblSize" + number);
+    auto* size = named(new QLabel, "lblSize" + number);
     size->setMinimumWidth(size->fontMetrics().horizontalAdvance("00000 x 00000"));
     row->addWidget(picture);
     row->addWidget(button, 1);
@@ -116,8 +112,7 @@ QWidget* fPaste::makeOpacity()
     row->setContentsMargins(0, 0, 0, 0);
     auto* caption = new QLabel(tr("Opaque &Intensity"));
     auto* slider = BrSelectionMovePressure_ = new QSlider(Qt::Horizontal);
-    slider->setObjectName("BrSelectionMovePressure");
-    slider->setAccessibleName(tr("Opaque Intensity"));
+    named(slider, "BrSelectionMovePressure", tr("Opaque Intensity"));
     slider->setRange(0, 100);
     caption->setBuddy(slider);
     row->addWidget(caption);
@@ -162,8 +157,8 @@ void fPaste::showClips()
         const QString caption = QString("Clip %1").arg(clip ? clip->number : i + 1);
         slot.BT->setText("    " + caption);
         slot.BT->setEnabled(clip);
-        slot.size->setText(clip ? sizeText(clip->bits) : QString());
-        slot.BT->setToolTip(clip ? "Clip History: \n" + sizeText(clip->bits) : QString());
+        slot.size->setText(clip ? sizeOfClip(clip->bits) : QString());
+        slot.BT->setToolTip(clip ? "Clip History: \n" + sizeOfClip(clip->bits) : QString());
         slot.BT->setAccessibleDescription(slot.size->text());
         slot.pT->setBits(clip ? thumbnail(*clip) : Bits());
         if (clip) lstImages_->addItem(caption);

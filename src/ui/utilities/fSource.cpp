@@ -1,5 +1,6 @@
 #include "ui/utilities/fSource.h"
 #include "seams/Platform.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -15,22 +16,17 @@ fSource::fSource(Platform& platform, const QString& present, QWidget* parent)
     setWindowTitle(tr("Select Source"));
     setModal(true);
     auto* column = new QVBoxLayout(this);
-    state_ = new QLabel;
-    state_->setObjectName("lblState");
-    lstSources_ = new QListWidget;
-    lstSources_->setObjectName("lstSources");
-    lstSources_->setAccessibleName(tr("Scanners"));
+    state_ = named(new QLabel, "lblState");
+    lstSources_ = named(new QListWidget, "lstSources", tr("Scanners"));
     lstSources_->setMinimumSize(360, 140);
-    busy_ = new QProgressBar;
-    busy_->setObjectName("pbLooking");
+    busy_ = named(new QProgressBar, "pbLooking");
     busy_->setRange(0, 0);
     QSizePolicy kept = busy_->sizePolicy(); // the window stays as it is when the bar goes
     kept.setRetainSizeWhenHidden(true);
     busy_->setSizePolicy(kept);
     auto* buttons = new QHBoxLayout;
     const auto button = [&](const char* name, const QString& caption) {
-        auto* made = new QPushButton(caption);
-        made->setObjectName(name);
+        auto* made = named(new QPushButton(caption), name);
         buttons->addWidget(made);
         return made;
     };

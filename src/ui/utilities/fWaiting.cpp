@@ -1,4 +1,5 @@
 #include "ui/utilities/fWaiting.h"
+#include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -13,9 +14,7 @@ fWaiting::fWaiting(const QString& title, const QString& text, QWidget* parent) :
     setWindowTitle(title);
     auto* column = new QVBoxLayout(this);
     auto* label = new QLabel(text);
-    auto* bar = new QProgressBar;
-    bar->setObjectName("pbWaiting");
-    bar->setAccessibleName(text);
+    auto* bar = named(new QProgressBar, "pbWaiting", text);
     bar->setRange(0, 0); // nobody knows how long
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");

@@ -5,7 +5,9 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/sizeText.h"
 #include "ui/view/fDisplay.h"
+#include "ui/widgets/inputs/named.h"
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
@@ -41,10 +43,8 @@ fImage::fImage(Frame& frame, QWidget* parent)
     setBackgroundRole(QPalette::Dark);
     setFocusPolicy(Qt::StrongFocus); // an empty document has no display to take it
     setMinimumSize(2 * barsWidth_, 2 * barsWidth_);
-    hSB_->setObjectName("hSB");
-    hSB_->setAccessibleName(tr("Horizontal scroll bar"));
-    vSB_->setObjectName("vSB");
-    vSB_->setAccessibleName(tr("Vertical scroll bar"));
+    named(hSB_, "hSB", tr("Horizontal scroll bar"));
+    named(vSB_, "vSB", tr("Vertical scroll bar"));
     shp_->setObjectName("shp");
     shp_->setAutoFillBackground(true);
     shp_->setBackgroundRole(QPalette::Window);
@@ -160,7 +160,7 @@ bool fImage::step(bool moved)
     return true;
 }
 
-QString fImage::SizeText() const { return QString::number(PictureWidth()) + "x" + QString::number(PictureHeight()); }
+QString fImage::SizeText() const { return sizeText({PictureWidth(), PictureHeight()}, "x"); }
 
 void fImage::showSize() { frame_.setStatus(Panel::Size, SizeText()); }
 

@@ -1,4 +1,5 @@
 #include "ui/widgets/fPicturePage.h"
+#include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewLayout.h"
 #include <QEvent>
 #include <QFrame>
@@ -15,9 +16,7 @@ constexpr int kStep = 16; // screen pixels of an arrow key
 
 QScrollBar* barNamed(const char* name, Qt::Orientation direction, const QString& accessibleName)
 {
-    auto* bar = new QScrollBar(direction);
-    bar->setObjectName(QLatin1String(name));
-    bar->setAccessibleName(accessibleName);
+    auto* bar = named(new QScrollBar(direction), QLatin1String(name), accessibleName);
     bar->setSingleStep(kStep);
     return bar;
 }
@@ -30,16 +29,14 @@ fPicturePage::fPicturePage(const Names& names, const QString& accessibleName, fP
       horizontal_(barNamed(names.horizontal, Qt::Horizontal, tr("%1, left and right").arg(accessibleName))),
       vertical_(barNamed(names.vertical, Qt::Vertical, tr("%1, up and down").arg(accessibleName)))
 {
-    container_->setObjectName(QLatin1String(names.container));
-    container_->setAccessibleName(accessibleName);
+    named(container_, QLatin1String(names.container), accessibleName);
     container_->setMinimumSize(64, 64);
     container_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     container_->setAutoFillBackground(true);
     container_->setBackgroundRole(QPalette::Mid);
     container_->installEventFilter(this);
     picture_->setParent(container_);
-    picture_->setObjectName(QLatin1String(names.picture));
-    picture_->setAccessibleName(accessibleName);
+    named(picture_, QLatin1String(names.picture), accessibleName);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(accessibleName);
     setObjectName(QLatin1String(names.container) + QStringLiteral("Page"));

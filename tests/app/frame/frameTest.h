@@ -5,12 +5,7 @@
 #include "app/menus/fIcons.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
-#include <QApplication>
-#include <QDir>
-#include <QImage>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMouseEvent>
+#include "support/ui/controls.h"
 #include <gtest/gtest.h>
 
 namespace velara {
@@ -59,8 +54,7 @@ struct FrameTest : ::testing::Test {
     void mouse(fImage* image, QEvent::Type type, QPoint at, Qt::MouseButtons held)
     {
         const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-        QMouseEvent event(type, at, display(image)->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-        QApplication::sendEvent(display(image), &event);
+        sendMouse(display(image), type, at, button, held);
     }
     void drag(fImage* image, QPoint from, QPoint to)
     {

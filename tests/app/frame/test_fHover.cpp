@@ -6,9 +6,8 @@
 #include "app/start/fSplash.h"
 #include "tools/toolRows.h"
 #include "ui/panes/fToolPanes.h"
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <set>
 
 namespace velara {

@@ -8,17 +8,8 @@
 #include "engine/operations.h"
 #include "pixels/RuntimeError.h"
 #include "tools/toolRows.h"
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMouseEvent>
-#include <QSet>
-#include <QSlider>
-#include <QTest>
-#include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 #include <set>
 
 namespace velara {
@@ -293,9 +284,7 @@ TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
     frame->action("VIEWS_9")->trigger();
     const auto moveTo = [&](QPoint at) {
         QWidget* under = frame->area().viewport();
-        const QPointF global = frame->centralWidget()->mapToGlobal(at);
-        QMouseEvent event(QEvent::MouseMove, under->mapFromGlobal(global), global, Qt::NoButton, Qt::NoButton, {});
-        QCoreApplication::sendEvent(under, &event);
+        sendMouse(under, QEvent::MouseMove, under->mapFrom(frame->centralWidget(), at), Qt::NoButton, Qt::NoButton);
     };
     moveTo({2, 100});
     EXPECT_TRUE(frame->toolPane().isVisible());

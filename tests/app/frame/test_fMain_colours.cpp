@@ -1,6 +1,7 @@
 // The floating colour box in the real frame, and the picker behind the wells.
 #include "app/frame/fToolPane.h"
 #include "frameTest.h"
+#include "support/ui/controls.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPickSurface.h"
@@ -8,9 +9,6 @@
 #include "ui/colour/fPresetWell.h"
 #include "ui/colour/fRgbBox.h"
 #include "ui/widgets/fColorButton.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QTimer>
 #include <QtTest>
 
 namespace velara {
@@ -26,12 +24,7 @@ struct ColourBox : FrameTest {
         box = frame->findChild<fPalette*>();
         frame->boxes().showAll();
     }
-    template <class Widget> Widget* find(const char* name)
-    {
-        auto* found = box->findChild<Widget*>(QLatin1String(name));
-        if (!found) throw std::runtime_error(std::string("no control ") + name);
-        return found;
-    }
+    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(*box, name); }
     QString numbers()
     {
         QStringList list;
@@ -69,9 +62,8 @@ TEST_F(ColourBox, HueAndPlanePickAndStoreInTheCell)
     QTest::mouseClick(find<QWidget>("lblCol_5"), Qt::LeftButton);
     auto* plane = find<QWidget>("iPal");
     QTest::mousePress(plane, Qt::LeftButton, {}, {30, 30});
-    QMouseEvent drag(QEvent::MouseMove, QPointF(500, 40), plane->mapToGlobal(QPointF(500, 40)), Qt::NoButton,
-                     Qt::LeftButton, {});
-    QCoreApplication::sendEvent(plane, &drag); // dragged out: the columns that are not shown can be reached
+    sendMouse(plane, QEvent::MouseMove, {500, 40}, Qt::NoButton,
+              Qt::LeftButton); // dragged out: the columns that are not shown can be reached
     QTest::mouseRelease(plane, Qt::LeftButton, {}, {500, 40});
     const Colour grey = box->current();
     EXPECT_EQ(redOf(grey), blueOf(grey));
@@ -108,9 +100,7 @@ TEST_F(ColourBox, NumbersAreRuledTypedPastedAndDragged)
     red->setText("100");
     EXPECT_EQ(100, redOf(setup.ForeColor));
     const auto drag = [&](int y, Qt::KeyboardModifiers keys = {}) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(4, y), red->mapToGlobal(QPointF(4, y)), Qt::NoButton,
-                         Qt::LeftButton, keys);
-        QCoreApplication::sendEvent(red, &move);
+        sendMouse(red, QEvent::MouseMove, QPointF(4, y), Qt::NoButton, Qt::LeftButton, keys);
         return red->text().toStdString();
     };
     QTest::mousePress(red, Qt::LeftButton, {}, {4, 10});

@@ -2,14 +2,8 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
-#include <QLabel>
-#include <QListWidget>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QSlider>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace velara {
 

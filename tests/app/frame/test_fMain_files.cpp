@@ -7,14 +7,8 @@
 #include "app/settings/fPreferences.h"
 #include "support/files.h"
 #include "support/fullDisk.h"
-#include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QFile>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QScreen>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace velara {
 
@@ -254,21 +248,6 @@ TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
     EXPECT_TRUE(setup.Recent[0].isEmpty());
 }
 
-TEST_F(FrameTest, TwoHundredFilesAtOnce)
-{
-    const QString a = file("a.bmp");
-    QStringList all;
-    for (int i = 0; i < 200; ++i) all << a;
-    frame->dropFiles(all);
-    ASSERT_EQ(frame->documents().size(), 200);
-    QSet<QString> tags;
-    for (const fImage* image : frame->documents()) tags << image->Tag();
-    EXPECT_EQ(tags.size(), 200);
-    frame->close();
-    EXPECT_TRUE(frame->documents().isEmpty());
-    EXPECT_TRUE(QDir(path("Temp")).entryList(QDir::Files).isEmpty());
-}
-
 TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
 {
     fImage* image = open(randomBits(9, 7, 2));
@@ -307,25 +286,6 @@ TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
 }
 
 // --- The start
-
-TEST(StartTest, AFirstStartMakesTheFoldersAndALaterOneLeavesThem)
-{
-    useResources();
-    RecordingPlatform platform;
-    const QDir folder(platform.programFolder());
-    ASSERT_TRUE(makeFolders(platform));
-    const QStringList stamps = QDir(folder.filePath("Stamps")).entryList(QDir::Files, QDir::Name);
-    EXPECT_EQ(stamps.value(0), "Velara1.bmp");
-    EXPECT_EQ(stamps.size(), 8);
-    EXPECT_FALSE(QImage(folder.filePath("Images/Velara.bmp")).isNull());
-    EXPECT_TRUE(folder.exists("Temp"));
-    for (const QString& stamp : stamps) {
-        EXPECT_FALSE(QImage(folder.filePath("Stamps/" + stamp)).isNull());
-        QFile::remove(folder.filePath("Stamps/" + stamp));
-    }
-    ASSERT_TRUE(makeFolders(platform));
-    EXPECT_TRUE(QDir(folder.filePath("Stamps")).entryList(QDir::Files).isEmpty());
-}
 
 TEST(StartTest, AFullDiskLeavesNothingEmptyBehind)
 {

@@ -4,15 +4,8 @@
 #include "ui/merge/fOverlay.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QMdiSubWindow>
-#include <QPointer>
-#include <QPushButton>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 #include <algorithm>
 #include <cstring>
 

@@ -12,28 +12,6 @@ struct FramePicture : FrameTest {
     std::uint32_t shown(fImage* image, int x, int y) { return display(image)->grab().toImage().pixel(x, y) & 0xFFFFFF; }
 };
 
-TEST_F(FramePicture, AStrokeOnAnotherDocumentIsThatDocuments)
-{
-    const Bits first = flatBits(60, 50, 0, 0, 0), second = flatBits(40, 30, 0, 0, 0);
-    fImage* a = open(first, "a.bmp");
-    fImage* b = open(second, "b.bmp");
-    click("Pencil");
-    EXPECT_EQ(frame->GetActiveImage(), b);
-    EXPECT_EQ(frame->filter().BitsWidth(), 40);
-    activate(a);
-    drag(a, {5, 5}, {20, 5});
-    EXPECT_TRUE(frame->filter().bits() == a->bits());
-    EXPECT_FALSE(a->bits() == first);
-    EXPECT_TRUE(b->bits() == second);
-    EXPECT_TRUE(a->document().Changed);
-    EXPECT_FALSE(b->document().Changed);
-    frame->Mmenu("UNDO");
-    EXPECT_TRUE(a->bits() == first);
-    EXPECT_EQ(shown(a, 10, 5), 0u);
-    frame->Mmenu("REDO");
-    EXPECT_NE(shown(a, 10, 5), 0u);
-}
-
 TEST_F(FramePicture, AFilterKeepsToTheSelectionOfTheMouse)
 {
     fImage* image = open(flatBits(60, 50, 10, 20, 30));

@@ -5,13 +5,7 @@
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPointer>
-#include <QRadioButton>
-#include <QSlider>
-#include <QTimer>
+#include <QtWidgets>
 #include <set>
 
 namespace velara {

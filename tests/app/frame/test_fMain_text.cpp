@@ -3,9 +3,8 @@
 #include "app/frame/frameTest.h"
 #include "ui/compose/fLayers.h"
 #include "ui/compose/fToolTextures.h"
-#include <QComboBox>
-#include <QPlainTextEdit>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace velara {
 

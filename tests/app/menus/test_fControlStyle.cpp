@@ -1,10 +1,6 @@
 // What must be told apart on a dark ground, looked at pixel by pixel.
 #include "app/menus/fControlStyle.h"
-#include <QImage>
-#include <QPainter>
-#include <QSlider>
-#include <QStyleFactory>
-#include <QStyleOption>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

@@ -1,11 +1,6 @@
 // The look of the menus, measured and looked at pixel by pixel.
 #include "app/menus/fMenuStyle.h"
-#include <QImage>
-#include <QLabel>
-#include <QMenu>
-#include <QPainter>
-#include <QProgressDialog>
-#include <QStyleOptionMenuItem>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

@@ -6,10 +6,8 @@
 #include "ui/browse/fBrowse.h"
 #include "ui/compose/fToolTextures.h"
 #include "ui/widgets/fFolderTree.h"
-#include <QFile>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace velara {
 

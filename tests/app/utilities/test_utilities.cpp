@@ -4,16 +4,8 @@
 #include "app/utilities/Clips.h"
 #include "fileio/writers/iconFile.h"
 #include "ui/widgets/marks/ScreenCover.h"
-#include <QComboBox>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QScreen>
-#include <QSlider>
-#include <QTest>
-#include <QTreeWidget>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace velara {
 
@@ -156,47 +148,6 @@ TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
     EXPECT_TRUE(frame->isVisible());
     EXPECT_FALSE(platform.screen().waiting());
     EXPECT_EQ(frame->documents().size(), 1);
-}
-
-TEST_F(UtilitiesTest, ForegroundIsAFixedAreaWhateverTheScreen)
-{
-    showScreen();
-    frame->Mmenu("CAPTUREFOREGROUND");
-    fImage* image = waitForDocument();
-    EXPECT_EQ(image->PictureWidth(), 800);
-    EXPECT_EQ(image->PictureHeight(), 600);
-    EXPECT_EQ(image->bits().at(39, 29).c[2], 3);
-    EXPECT_EQ(image->bits().at(40, 29).c[2], 0);
-}
-
-TEST_F(UtilitiesTest, ARectangleIsPickedOnThePictureOfTheScreen)
-{
-    showScreen();
-    frame->capture().showDialog();
-    auto* cb = control<QComboBox>("fCapture", "cb");
-    ASSERT_TRUE(cb);
-    EXPECT_EQ(cb->itemText(0) + cb->itemText(1) + cb->itemText(2), "DesktopForegroundBackground");
-    cb->setCurrentIndex(2);
-    control<QPushButton>("fCapture", "CmdCustom")->click();
-    EXPECT_FALSE(frame->isVisible());
-    QWidget* picker = nullptr;
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            for (QWidget* top : QApplication::topLevelWidgets())
-                if (top->objectName() == "fCaptureRectangle" && top->isVisible()) picker = top;
-            return picker != nullptr;
-        },
-        5000));
-    const auto at = [&](int x, int y) { return QPoint(x * picker->width() / 40 + 1, y * picker->height() / 30 + 1); };
-    QTest::mousePress(picker, Qt::LeftButton, {}, at(20, 20));
-    QTest::mouseMove(picker, at(10, 10));
-    EXPECT_TRUE(picker->findChild<QWidget*>("Line1")->isVisible());
-    QTest::mouseRelease(picker, Qt::LeftButton, {}, at(5, 3));
-    fImage* image = waitForDocument();
-    EXPECT_TRUE(frame->isVisible());
-    ASSERT_EQ(image->PictureWidth(), 15);
-    ASSERT_EQ(image->PictureHeight(), 17);
-    EXPECT_EQ(image->bits().at(2, 2).c[0], 9);
 }
 
 TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)

@@ -1,6 +1,5 @@
 // Entry of the test programs that need windows.
-#include <QApplication>
-#include <QTemporaryDir>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)

@@ -5,12 +5,8 @@
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/fFolderTree.h"
-#include <QCheckBox>
-#include <QDir>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

@@ -1,15 +1,11 @@
 // The picker with real controls, used as a person does.
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
+#include "support/ui/controls.h"
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPicker.h"
-#include <QComboBox>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QtTest>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -27,12 +23,7 @@ struct Picker : ::testing::Test {
         picker.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&picker));
     }
-    template <class Widget> Widget* find(const char* name)
-    {
-        auto* found = picker.findChild<Widget*>(QLatin1String(name));
-        if (!found) throw std::runtime_error(std::string("no control ") + name);
-        return found;
-    }
+    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(picker, name); }
     void click(const char* name)
     {
         auto* widget = find<QWidget>(name);

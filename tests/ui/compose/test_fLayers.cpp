@@ -1,11 +1,11 @@
 // The layers dialog, used as a person does: real presses, drags and keys on the canvas, then what the document gets.
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/compose/fLayerCanvas.h"
 #include "ui/compose/fLayers.h"
 #include "ui/widgets/fColorButton.h"
 #include <QtTest>
-#include <QtWidgets>
 
 namespace velara {
 namespace {
@@ -31,7 +31,7 @@ struct LayersDialogTest : ::testing::Test {
     }
     ~LayersDialogTest() override { delete dialog; }
 
-    template <class T = QWidget> T* find(const QString& name) { return dialog->findChild<T*>(name); }
+    template <class T = QWidget> T* find(const QString& name) { return controlOf<T>(*dialog, name); }
     QWidget* canvas() { return find("picImage"); }
     QRect shape(int index) { return find(QString("lblShape_%1").arg(index))->geometry(); }
     int layer(QPoint at, const char* text)
@@ -43,9 +43,8 @@ struct LayersDialogTest : ::testing::Test {
     static void drag(QWidget* widget, QPoint from, QPoint by)
     {
         const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButtons held) {
-            QMouseEvent event(type, widget->mapFromGlobal(at), at,
-                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held, {});
-            QCoreApplication::sendEvent(widget, &event);
+            sendMouse(widget, type, widget->mapFromGlobal(at),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held);
         };
         const QPoint start = widget->mapToGlobal(from);
         send(QEvent::MouseButtonPress, start, Qt::LeftButton);

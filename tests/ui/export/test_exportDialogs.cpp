@@ -5,20 +5,10 @@
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include "support/places.h"
+#include "support/ui/controls.h"
 #include "ui/export/FWeb.h"
 #include "ui/export/fColorDepth.h"
 #include "ui/widgets/ActiveComposer.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QToolButton>
 #include <QtTest>
 
 namespace velara {
@@ -36,16 +26,10 @@ struct ExportDialogs : ::testing::Test {
     RealFiles world;
     Bits picture = randomBits(90, 70, 4);
 
-    template <class Widget> static Widget* find(QWidget& dialog, const char* name)
-    {
-        auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-        EXPECT_NE(nullptr, found) << name;
-        return found;
-    }
-    static QString text(QWidget& dialog, const char* name) { return find<QLabel>(dialog, name)->text(); }
+    static QString text(QWidget& dialog, const char* name) { return controlOf<QLabel>(dialog, name)->text(); }
     static void choose(QWidget& dialog, const char* list, const QString& entry)
     {
-        auto* box = find<QComboBox>(dialog, list);
+        auto* box = controlOf<QComboBox>(dialog, list);
         ASSERT_TRUE(box->isEnabled()) << list;
         ASSERT_GE(box->findText(entry), 0) << list << ": " << entry.toStdString();
         box->setCurrentText(entry);
@@ -65,36 +49,36 @@ TEST_F(ExportDialogs, DepthShowsAndHandsOnTheReducedPicture)
         fColorDepth dialog(big, {[&](const Bits& b) { taken = b; }, [&](const Bits& b) { sent = b; }});
         dialog.show();
         EXPECT_EQ(Composer::ColorDepth, ActiveComposer::current());
-        auto* menu = find<QToolButton>(dialog, "Toolbar1_1")->menu();
+        auto* menu = controlOf<QToolButton>(dialog, "Toolbar1_1")->menu();
         ASSERT_EQ(7, menu->actions().size());
-        auto* optimized = find<fPicture>(dialog, "OptimizedP");
+        auto* optimized = controlOf<fPicture>(dialog, "OptimizedP");
         EXPECT_EQ(300, optimized->bits().width());
         EXPECT_FALSE(menu->actions()[4]->isEnabled()) << "the present one";
         constexpr int kDepths[] = {1, 4, 8, 15, 16, 24, 32};
-        auto* list = find<QComboBox>(dialog, "cmbDepth");
+        auto* list = controlOf<QComboBox>(dialog, "cmbDepth");
         ASSERT_EQ(7, list->count());
         for (int i = 0; i < 7; ++i) {
             list->setCurrentIndex(i);
             EXPECT_EQ(list->currentText(), text(dialog, "Lbloptimized"));
             EXPECT_TRUE(
-                sameBits(bitsAtDepth(find<fPicture>(dialog, "OriginalP")->bits(), kDepths[i]), optimized->bits()));
+                sameBits(bitsAtDepth(controlOf<fPicture>(dialog, "OriginalP")->bits(), kDepths[i]), optimized->bits()));
         }
         list->setCurrentIndex(1);
         for (QAction* entry : menu->actions()) entry->trigger();
         EXPECT_TRUE(sameBits(bitsAtDepth(big, 4), optimized->bits())) << "the depth stays, at full size";
-        EXPECT_TRUE(find<QScrollBar>(dialog, "HHop")->isEnabled());
+        EXPECT_TRUE(controlOf<QScrollBar>(dialog, "HHop")->isEnabled());
         menu->actions()[0]->trigger();
         QTest::qWait(1);
-        EXPECT_FALSE(find<QScrollBar>(dialog, "HHop")->isEnabled());
-        find<QPushButton>(dialog, toSaver ? "cmdSave" : "CmdOK")->click();
+        EXPECT_FALSE(controlOf<QScrollBar>(dialog, "HHop")->isEnabled());
+        controlOf<QPushButton>(dialog, toSaver ? "cmdSave" : "CmdOK")->click();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(Composer::None, ActiveComposer::current());
     }
     EXPECT_TRUE(sameBits(bitsAtDepth(big, 4), taken));
     EXPECT_TRUE(sameBits(taken, sent));
     fColorDepth tiny(randomBits(1, 1, 1), {});
-    for (QAction* entry : find<QToolButton>(tiny, "Toolbar1_1")->menu()->actions()) entry->trigger();
-    find<QPushButton>(tiny, "CmdExit")->click();
+    for (QAction* entry : controlOf<QToolButton>(tiny, "Toolbar1_1")->menu()->actions()) entry->trigger();
+    controlOf<QPushButton>(tiny, "CmdExit")->click();
 }
 
 TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
@@ -102,9 +86,9 @@ TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
     FWeb dialog(world, picture, "Photo", {});
     dialog.show();
     EXPECT_EQ("Photo", text(dialog, "FileType1"));
-    EXPECT_FALSE(find<QComboBox>(dialog, "cboMap")->isEnabled());
-    EXPECT_FALSE(find<QPushButton>(dialog, "CmdSave")->isEnabled());
-    auto* presets = find<QComboBox>(dialog, "CboFiles");
+    EXPECT_FALSE(controlOf<QComboBox>(dialog, "cboMap")->isEnabled());
+    EXPECT_FALSE(controlOf<QPushButton>(dialog, "CmdSave")->isEnabled());
+    auto* presets = controlOf<QComboBox>(dialog, "CboFiles");
     ASSERT_EQ(21, presets->count());
     for (int p = 0; p < 21; ++p) {
         presets->setCurrentIndex(p);
@@ -114,19 +98,19 @@ TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
         EXPECT_EQ(s.typeText(), text(dialog, "FileType2")) << name;
         EXPECT_EQ(s.depthText(), text(dialog, "Depth4")) << name;
         EXPECT_TRUE(text(dialog, "FileSize2").endsWith(s.isJpeg() ? " Kb" : " KB")) << name;
-        EXPECT_EQ(s.isGif(), find<QCheckBox>(dialog, "ChkInterlaced")->isVisible()) << name;
+        EXPECT_EQ(s.isGif(), controlOf<QCheckBox>(dialog, "ChkInterlaced")->isVisible()) << name;
         EXPECT_TRUE(text(dialog, "lblExact").contains(s.BitCount == 24 ? "no loss" : " dB")) << name;
-        auto* maps = find<QComboBox>(dialog, "cboMap");
+        auto* maps = controlOf<QComboBox>(dialog, "cboMap");
         for (int m = 0; m < maps->count() && !s.isJpeg(); ++m) {
             maps->setCurrentIndex(m);
-            EXPECT_EQ(s.takesDither, find<QComboBox>(dialog, "cboDither")->isEnabled()) << name;
+            EXPECT_EQ(s.takesDither, controlOf<QComboBox>(dialog, "cboDither")->isEnabled()) << name;
             EXPECT_EQ(s.takesDither, maps->currentText() != "MS Map" || s.BitCount > 8) << name;
         }
         idle(dialog);
         const QString file = temporary(s.isJpeg() ? "J0001.jpg" : "G0001.gif");
         const LoadedPicture shown = world.loadPicture(file, s.extension());
         ASSERT_TRUE(shown.ok()) << name << shown.reason.toStdString();
-        EXPECT_TRUE(sameBits(shown.bits, find<fPicture>(dialog, "oSrc")->bits())) << name;
+        EXPECT_TRUE(sameBits(shown.bits, controlOf<fPicture>(dialog, "oSrc")->bits())) << name;
     }
 }
 
@@ -144,17 +128,17 @@ TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)
     EXPECT_EQ(8, dialog.settings().DitherWord);
     choose(dialog, "cboColorMode", "Greyscale");
     idle(dialog);
-    const Bits grey = find<fPicture>(dialog, "oSrc")->bits();
+    const Bits grey = controlOf<fPicture>(dialog, "oSrc")->bits();
     for (int x = 0; x < 90; ++x)
         ASSERT_TRUE(grey.at(x, 9).c[0] == grey.at(x, 9).c[1] && grey.at(x, 9).c[1] == grey.at(x, 9).c[2]);
     choose(dialog, "CboFiles", "PNG-24 bit");
-    for (const char* name : {"chkFlipH", "chkFlipV", "chkInvert"}) find<QCheckBox>(dialog, name)->setChecked(true);
+    for (const char* name : {"chkFlipH", "chkFlipV", "chkInvert"}) controlOf<QCheckBox>(dialog, name)->setChecked(true);
     idle(dialog);
-    const Bits turned = find<fPicture>(dialog, "oSrc")->bits();
+    const Bits turned = controlOf<fPicture>(dialog, "oSrc")->bits();
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - picture.at(5, 3).c[c], turned.at(84, 66).c[c]);
-    find<QTabWidget>(dialog, "sT")->setCurrentIndex(2);
-    EXPECT_TRUE(sameBits(turned, find<fPicture>(dialog, "OptimizedP")->bits()));
-    EXPECT_TRUE(sameBits(picture, find<fPicture>(dialog, "OriginalP")->bits()));
+    controlOf<QTabWidget>(dialog, "sT")->setCurrentIndex(2);
+    EXPECT_TRUE(sameBits(turned, controlOf<fPicture>(dialog, "OptimizedP")->bits()));
+    EXPECT_TRUE(sameBits(picture, controlOf<fPicture>(dialog, "OriginalP")->bits()));
 }
 
 TEST_F(ExportDialogs, JpegQualityAndFit)
@@ -163,25 +147,25 @@ TEST_F(ExportDialogs, JpegQualityAndFit)
     dialog.show();
     choose(dialog, "CboFiles", "JPEG");
     EXPECT_EQ(0x100, dialog.settings().JpegQuality);
-    auto* custom = find<QLineEdit>(dialog, "TxtJPG");
+    auto* custom = controlOf<QLineEdit>(dialog, "TxtJPG");
     custom->clear();
-    find<QPushButton>(dialog, "jpgUpdate")->click();
+    controlOf<QPushButton>(dialog, "jpgUpdate")->click();
     EXPECT_TRUE(world.logged("message: Velara Studio: Enter value between 1 to 99 !"));
     for (const char* value : {"0", "100", "99999"}) {
         custom->setText(value);
-        find<QPushButton>(dialog, "jpgUpdate")->click();
+        controlOf<QPushButton>(dialog, "jpgUpdate")->click();
         idle(dialog);
         EXPECT_EQ(std::min(QString(value).toInt(), 32767), dialog.settings().JpegQuality);
         choose(dialog, "cboJpg", "Good");
         EXPECT_EQ(0x100, dialog.settings().JpegQuality) << "the same class as before " << value;
     }
-    find<QSpinBox>(dialog, "spnFit")->setValue(30);
-    find<QPushButton>(dialog, "cmdFit")->click();
+    controlOf<QSpinBox>(dialog, "spnFit")->setValue(30);
+    controlOf<QPushButton>(dialog, "cmdFit")->click();
     idle(dialog);
     EXPECT_LE(QFileInfo(temporary("J0001.jpg")).size(), 30 * 1024);
     EXPECT_GT(QFileInfo(temporary("J0001.jpg")).size(), 20 * 1024);
-    find<QSpinBox>(dialog, "spnFit")->setValue(1);
-    find<QPushButton>(dialog, "cmdFit")->click();
+    controlOf<QSpinBox>(dialog, "spnFit")->setValue(1);
+    controlOf<QPushButton>(dialog, "cmdFit")->click();
     EXPECT_TRUE(text(dialog, "lblExact").contains("No quality"));
 }
 
@@ -220,23 +204,23 @@ TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
         return file.readAll();
     };
     world.answers = {name};
-    find<QPushButton>(dialog, "CmdSave")->click();
+    controlOf<QPushButton>(dialog, "CmdSave")->click();
     EXPECT_TRUE(world.logged("save: Save Optimized As"));
     EXPECT_EQ("Graphical Interface Format (*.gif)|*.gif", world.lastDialog.filter);
     EXPECT_EQ(bytesOf(temporary("G0001.gif")), bytesOf(name));
-    find<QCheckBox>(dialog, "ChkInterlaced")->setChecked(true);
+    controlOf<QCheckBox>(dialog, "ChkInterlaced")->setChecked(true);
     idle(dialog);
     world.answers = {std::nullopt};
-    find<QPushButton>(dialog, "CmdSave")->click();
+    controlOf<QPushButton>(dialog, "CmdSave")->click();
     EXPECT_EQ("", world.lastDialog.filter) << "an interlaced one has none";
 
-    const Bits before = find<fPicture>(dialog, "oSrc")->bits();
+    const Bits before = controlOf<fPicture>(dialog, "oSrc")->bits();
     QDir(world.folder.filePath("Temp")).removeRecursively();
     QFile blocker(world.folder.filePath("Temp"));
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     choose(dialog, "cboDither", "Odd");
     idle(dialog);
-    EXPECT_TRUE(sameBits(before, find<fPicture>(dialog, "oSrc")->bits()));
+    EXPECT_TRUE(sameBits(before, controlOf<fPicture>(dialog, "oSrc")->bits()));
     blocker.remove();
     const QString precious = world.folder.filePath("precious"), shown = temporary("G0001.gif");
     choose(dialog, "cboDither", "Even");

@@ -1,17 +1,10 @@
 // The filter dialog with real controls, used as a person does.
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicturePage.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSlider>
-#include <QSpinBox>
 #include <QtTest>
 
 namespace velara {
@@ -37,12 +30,7 @@ struct FilterDialog : ::testing::Test {
     }
     int steps() const { return frame.logged("step"); }
     const Bits& taken() const { return document->bits(); }
-    template <class Widget> Widget* find(const char* name)
-    {
-        auto* found = dialog->findChild<Widget*>(QLatin1String(name));
-        EXPECT_NE(nullptr, found) << name;
-        return found;
-    }
+    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(*dialog, name); }
     void click(const char* name)
     {
         auto* widget = find<QWidget>(name);

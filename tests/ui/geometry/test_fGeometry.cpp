@@ -2,41 +2,33 @@
 #include "document/resizing.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/geometry/fCanvas.h"
 #include "ui/geometry/fNew.h"
 #include "ui/geometry/fOrientation.h"
 #include "ui/geometry/fResolution.h"
 #include "ui/geometry/fRotate.h"
 #include "ui/geometry/fSize.h"
-#include <QApplication>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
+#include <QtTest>
 
 namespace velara {
 namespace {
 
 class Geometry : public ::testing::Test {
   protected:
-    template <class Control> static Control* find(QDialog& dialog, const char* name)
-    {
-        auto* control = dialog.findChild<Control*>(name);
-        if (!control) throw std::runtime_error(std::string("no control ") + name);
-        return control;
-    }
     static void type(QDialog& dialog, const char* field, const char* text)
     {
-        auto* edit = find<QLineEdit>(dialog, field);
+        auto* edit = controlOf<QLineEdit>(dialog, field);
         edit->selectAll();
         if (*text)
             QTest::keyClicks(edit, text);
         else
             QTest::keyClick(edit, Qt::Key_Delete);
     }
-    static QString text(QDialog& dialog, const char* field) { return find<QLineEdit>(dialog, field)->text(); }
+    static QString text(QDialog& dialog, const char* field) { return controlOf<QLineEdit>(dialog, field)->text(); }
     static void choose(QDialog& dialog, const char* list, const char* entry)
     {
-        auto* combo = find<QComboBox>(dialog, list);
+        auto* combo = controlOf<QComboBox>(dialog, list);
         const int index = combo->findText(entry);
         ASSERT_GE(index, 0) << entry;
         combo->setCurrentIndex(index);
@@ -45,7 +37,7 @@ class Geometry : public ::testing::Test {
     }
     static void press(QDialog& dialog, const char* button)
     {
-        QTest::mouseClick(find<QPushButton>(dialog, button), Qt::LeftButton);
+        QTest::mouseClick(controlOf<QPushButton>(dialog, button), Qt::LeftButton);
     }
     static Bits done(const fGeometry& dialog, const Bits& picture)
     {
@@ -71,12 +63,12 @@ TEST_F(Geometry, NewKeepsProportionsRefusesTinySizesAndRemembersCustomOnes)
         fNew dialog(platform);
         choose(dialog, "cbDefault", "320 x 240");
         EXPECT_EQ(text(dialog, "txtW") + "," + text(dialog, "txtH"), "320,240");
-        find<QCheckBox>(dialog, "chkKeepProportions")->setChecked(true);
+        controlOf<QCheckBox>(dialog, "chkKeepProportions")->setChecked(true);
         type(dialog, "txtW", "500");
         EXPECT_EQ(text(dialog, "txtH"), "375");
         type(dialog, "txtH", "3");
         EXPECT_EQ(text(dialog, "txtW"), "4");
-        find<QCheckBox>(dialog, "chkKeepProportions")->setChecked(false);
+        controlOf<QCheckBox>(dialog, "chkKeepProportions")->setChecked(false);
         type(dialog, "txtW", "");
         EXPECT_EQ(text(dialog, "txtW"), "0");
         type(dialog, "txtW", "1");
@@ -99,8 +91,8 @@ TEST_F(Geometry, NewKeepsProportionsRefusesTinySizesAndRemembersCustomOnes)
     }
     for (int run = 0; run < 2; ++run) { // the second time adds no second entry
         fNew dialog(platform);
-        EXPECT_EQ(find<QComboBox>(dialog, "cbDefault")->count(), 10);
-        EXPECT_GE(find<QComboBox>(dialog, "cbDefault")->findText("123 x 100"), 9);
+        EXPECT_EQ(controlOf<QComboBox>(dialog, "cbDefault")->count(), 10);
+        EXPECT_GE(controlOf<QComboBox>(dialog, "cbDefault")->findText("123 x 100"), 9);
         dialog.show();
         press(dialog, "cmdOK");
     }
@@ -116,11 +108,11 @@ TEST_F(Geometry, SizeRunsTheChosenResize)
     cBitFilter filter;
     filter.BitsResample(picture, 30, 15);
     EXPECT_TRUE(sameBits(filter.bits(), done(dialog, picture)));
-    find<QCheckBox>(dialog, "chkInterpolate")->setChecked(false);
+    controlOf<QCheckBox>(dialog, "chkInterpolate")->setChecked(false);
     filter.BitsResize(picture, 30, 15);
     EXPECT_TRUE(sameBits(filter.bits(), done(dialog, picture)));
     for (const bool keep : {false, true}) { // the ratio stays the picture's, whatever the boxes came to
-        find<QCheckBox>(dialog, "chkKeepProportions")->setChecked(keep);
+        controlOf<QCheckBox>(dialog, "chkKeepProportions")->setChecked(keep);
         type(dialog, "txtW", "100");
     }
     EXPECT_EQ(text(dialog, "txtH"), "50");
@@ -134,7 +126,7 @@ TEST_F(Geometry, ResolutionOffersItsSizes)
         int width, height;
     } rows[] = {{"o480", "480 x 340", 480, 340}, {"o720b", "720 x 576", 720, 576}, {"o340", "340 x 220", 340, 220}};
     for (const auto& r : rows) {
-        auto* button = find<QRadioButton>(dialog, r.button);
+        auto* button = controlOf<QRadioButton>(dialog, r.button);
         EXPECT_EQ(button->text(), r.caption);
         button->setChecked(true);
         const Bits sized = done(dialog, picture);
@@ -147,7 +139,7 @@ TEST_F(Geometry, CanvasPlacesThePictureByAnchorAndByDragging)
 {
     fCanvas dialog(platform, picture);
     dialog.show();
-    find<QCheckBox>(dialog, "chkKeepProportions")->setChecked(false);
+    controlOf<QCheckBox>(dialog, "chkKeepProportions")->setChecked(false);
     type(dialog, "txtW", "50");
     type(dialog, "txtH", "10");
     const auto placed = [&](int left, int top) {
@@ -187,7 +179,7 @@ TEST_F(Geometry, OrientationTurnsThenFlips)
 {
     fOrientation dialog(platform, picture);
     choose(dialog, "cbOrientation", "90º left");
-    find<QCheckBox>(dialog, "chkFlip_1")->setChecked(true);
+    controlOf<QCheckBox>(dialog, "chkFlip_1")->setChecked(true);
     cBitFilter filter;
     filter.setBits(picture);
     filter.BitsRotate90(picture);
@@ -198,12 +190,12 @@ TEST_F(Geometry, OrientationTurnsThenFlips)
 TEST_F(Geometry, RotateTurnsOnASquareAsWideAsTheDiagonal)
 {
     fRotate dialog(platform, picture);
-    const auto degrees = [&] { return find<QSlider>(dialog, "sbDegrees")->value(); };
-    for (int i = 0; i < 5; ++i) QTest::mouseClick(find<QPushButton>(dialog, "cmd45_0"), Qt::LeftButton);
+    const auto degrees = [&] { return controlOf<QSlider>(dialog, "sbDegrees")->value(); };
+    for (int i = 0; i < 5; ++i) QTest::mouseClick(controlOf<QPushButton>(dialog, "cmd45_0"), Qt::LeftButton);
     EXPECT_EQ(degrees(), -135);
     type(dialog, "txtDegrees", "180");
     EXPECT_EQ(degrees(), 180);
-    find<QCheckBox>(dialog, "chkAntialiasing")->setChecked(false);
+    controlOf<QCheckBox>(dialog, "chkAntialiasing")->setChecked(false);
     type(dialog, "txtDegrees", "0");
     const Bits turned = done(dialog, picture);
     ASSERT_EQ(turned.width(), 45); // sqrt(2000) is 44.7

@@ -7,15 +7,8 @@
 #include "ui/icons/fIconBrowse.h"
 #include "ui/widgets/fFolderTree.h"
 #include "ui/widgets/fPicture.h"
-#include <QCheckBox>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTreeWidget>
 #include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

@@ -3,17 +3,8 @@
 #include "support/pictures.h"
 #include "ui/merge/fTexturize.h"
 #include "ui/widgets/fPicture.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QSlider>
-#include <QSpinBox>
 #include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

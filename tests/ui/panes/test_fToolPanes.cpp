@@ -1,15 +1,9 @@
 // The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
 #include "support/RecordingFrame.h"
+#include "support/ui/controls.h"
 #include "ui/panes/fToolPanes.h"
 #include "ui/widgets/fColorButton.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QListWidget>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTest>
+#include <QtTest>
 #include <gtest/gtest.h>
 
 namespace velara {
@@ -18,12 +12,7 @@ struct Panes : ::testing::Test {
     RecordingFrame frame;
     std::unique_ptr<QWidget> pane;
 
-    template <class Control> Control* at(const char* name) const
-    {
-        auto* found = pane->findChild<Control*>(name);
-        EXPECT_TRUE(found) << name;
-        return found;
-    }
+    template <class Control> Control* at(const char* name) const { return controlOf<Control>(*pane, name); }
     void make(const char* tool) { pane.reset(makeSidePane(*findTool(QString(tool)), frame)); }
     void addStamp(const QString& name, int side)
     {

@@ -1,15 +1,9 @@
 // The print dialog, used as a person does, over printers that write down what they get.
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/utilities/fPagePreview.h"
 #include "ui/utilities/fPrint.h"
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QPushButton>
-#include <QScrollBar>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -34,12 +28,7 @@ struct fPrintTest : ::testing::Test {
             platform, randomBits(width, height, 3), "holiday.png", [this] { ++copied; }, nullptr);
         dialog->show();
     }
-    template <class Widget> Widget* find(const char* name)
-    {
-        auto* found = dialog->findChild<Widget*>(name);
-        EXPECT_TRUE(found) << name;
-        return found;
-    }
+    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(*dialog, name); }
     void choose(const char* box, int index)
     {
         find<QComboBox>(box)->setCurrentIndex(index);

@@ -1,9 +1,6 @@
 // A document window as a person uses it.
 #include "ui/view/ImageFixture.h"
-#include <QDir>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 namespace velara {
 

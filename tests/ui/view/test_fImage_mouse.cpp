@@ -1,16 +1,14 @@
 // Mouse, wheel and keys on the display of a document, with the real tools.
 #include "region/outline.h"
+#include "support/ui/controls.h"
 #include "ui/view/ImageFixture.h"
-#include <QTimer>
-#include <QWheelEvent>
 
 namespace velara {
 
 struct Mouse : ImageFixture {
     void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held)
     {
-        QMouseEvent event(type, at, iDst()->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-        QApplication::sendEvent(iDst(), &event);
+        sendMouse(iDst(), type, at, button, held);
     }
     void press(QPoint at, Qt::MouseButton button = Qt::LeftButton)
     {
@@ -156,25 +154,6 @@ TEST_F(Mouse, TheWheelScrollsAndZoomsAboutThePointer)
     wheel({30, 20}, {0, -60}, Qt::ControlModifier);
     EXPECT_EQ(w.ZoomFactor(), 1);
     EXPECT_EQ(w.GetSBV(), before - QPoint(30, 20));
-}
-
-TEST_F(Mouse, PolygonCornersStayOnScreen)
-{
-    fImage& w = open(randomBits(60, 50, 1), 200, 200);
-    choose("Select");
-    frame.setup_.SelectionMode = 2;
-    frame.setup_.SelectionShape = 2;
-    press({5, 5});
-    drag({30, 8});
-    QTest::keyClick(iDst(), Qt::Key_Space);
-    drag({20, 30});
-    EXPECT_TRUE(control("shpLine_0")->isVisible());
-    EXPECT_EQ(control("shpLine_0")->geometry(), QRect(5, 5, 26, 4));
-    ASSERT_TRUE(control("shpLine_1"));
-    EXPECT_EQ(control("shpLine_1")->geometry(), QRect(20, 8, 11, 23));
-    w.HideShape(BandShape::Line);
-    EXPECT_FALSE(control("shpLine_0")->isVisible());
-    EXPECT_FALSE(control("shpLine_1"));
 }
 
 TEST_F(Mouse, AHalfMadePolygonKeepsItsPlaceInThePicture)

@@ -1,9 +1,8 @@
 // The line that shows what a tool would change, under the pointer.
+#include "support/ui/controls.h"
 #include "tools/Tools.h"
 #include "ui/view/ImageFixture.h"
 #include "ui/view/footprintLine.h"
-#include <QMouseEvent>
-#include <QPaintEvent>
 
 namespace velara {
 
@@ -20,11 +19,7 @@ struct Repaints : QObject {
 };
 
 struct FootprintTest : ImageFixture {
-    void hover(QPoint at)
-    {
-        QMouseEvent event(QEvent::MouseMove, at, iDst()->mapToGlobal(QPointF(at)), Qt::NoButton, Qt::NoButton, {});
-        QApplication::sendEvent(iDst(), &event);
-    }
+    void hover(QPoint at) { sendMouse(iDst(), QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
     bool lineIsSeen() const
     {
         const QImage seen = iDst()->grab().toImage();

@@ -1,12 +1,8 @@
 // The tree of folders over real ones, used by mouse and keys.
 #include "ui/widgets/FolderModel.h"
 #include "ui/widgets/fFolderTree.h"
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QScrollBar>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

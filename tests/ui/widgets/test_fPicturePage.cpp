@@ -1,9 +1,7 @@
 // Two pages with a picture, used by mouse, wheel and keys.
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/widgets/fPicturePage.h"
-#include <QHBoxLayout>
-#include <QScrollBar>
-#include <QWheelEvent>
 #include <QtTest>
 
 namespace velara {
@@ -87,10 +85,8 @@ TEST_F(PicturePages, SmallerPicturesStandInTheMiddleAndBarsAreOff)
 TEST_F(PicturePages, TheMouseDragsThePictureAndKeepsHoldOfItBeyondTheEdge)
 {
     const auto send = [&](QEvent::Type type, QPoint inContainer, Qt::MouseButton button) {
-        const QPointF local = left.picture().mapFromParent(inContainer);
-        QMouseEvent event(type, local, left.picture().mapToGlobal(local), button,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&left.picture(), &event);
+        sendMouse(&left.picture(), type, left.picture().mapFromParent(inContainer), button,
+                  type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton);
     };
     send(QEvent::MouseButtonPress, {100, 100}, Qt::LeftButton);
     send(QEvent::MouseMove, {60, 90}, Qt::NoButton);

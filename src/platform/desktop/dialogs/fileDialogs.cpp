@@ -2,6 +2,7 @@
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/boxes.h"
 #include "platform/nameFilters.h"
+#include "seams/sizeText.h"
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -34,16 +35,15 @@ class RememberedDialog : public QFileDialog {
     }
     ~RememberedDialog() override
     {
-        const QString size = QString("%1x%2").arg(width()).arg(height());
-        platform_.setSetting(kSection, name_, size + ' ' + QString::fromLatin1(saveState().toBase64()));
+        platform_.setSetting(kSection, name_,
+                             sizeText(size(), "x") + ' ' + QString::fromLatin1(saveState().toBase64()));
     }
 
   private:
     void restore(const QString& folder)
     {
         const QStringList parts = platform_.setting(kSection, name_, {}).split(' ');
-        const QStringList sides = parts[0].split('x');
-        const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+        const QSize size = sizeOf(parts[0], "x");
         resize(size.isEmpty() ? kUsualSize : size);
         if (!restoreState(QByteArray::fromBase64(parts.value(1).toLatin1()))) layOutColumns();
         if (!folder.isEmpty()) setDirectory(folder); // and not that of the last time

@@ -1,9 +1,7 @@
 // The number beside a slider, typed into as a person does.
 #include "ui/widgets/inputs/fNumberBox.h"
-#include <QAction>
-#include <QSlider>
-#include <QTest>
-#include <QVBoxLayout>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace velara {

@@ -1,0 +1,24 @@
+// The controls of a window under test, by their names, and a mouse whose buttons are told.
+#pragma once
+#include <QtWidgets>
+#include <stdexcept>
+
+namespace velara {
+
+/// The control of that name in the window; where there is none the test ends and tells it.
+template <class Control = QWidget> Control* controlOf(const QObject& window, const QString& name)
+{
+    auto* found = window.findChild<Control*>(name);
+    if (!found) throw std::runtime_error("no control " + name.toStdString());
+    return found;
+}
+
+/// Mouse event at a place of the widget, as the system sends it. \returns whether it was taken.
+inline bool sendMouse(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held,
+                      Qt::KeyboardModifiers keys = {})
+{
+    QMouseEvent event(type, at, widget->mapToGlobal(at), button, held, keys);
+    return QCoreApplication::sendEvent(widget, &event);
+}
+
+} // namespace velara
