@@ -31,7 +31,7 @@ struct LayersDialogTest : ::testing::Test {
     }
     ~LayersDialogTest() override { delete dialog; }
 
-    template <class T = QWidget> T* find(const QString& name) { return controlOf<T>(*dialog, name); }
+    template <class T = QWidget> T* find(const QString& name) { return dialog->findChild<T*>(name); }
     QWidget* canvas() { return find("picImage"); }
     QRect shape(int index) { return find(QString("lblShape_%1").arg(index))->geometry(); }
     int layer(QPoint at, const char* text)
