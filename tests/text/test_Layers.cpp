@@ -62,6 +62,7 @@ TEST_F(LayersTest, AWidthThatWasSetStays)
     const int index = add(10, 10, "ab cd");
     layers.setPlace(index, {10, 10, 22, 50});
     EXPECT_EQ((Rect{10, 10, 22, 50}), layers.layer(index).place);
+    layers.setPlace(index, {10, 10, 22, 40}); // another height is no other width
     layers.setText(index, "ab cd ef gh ij");
     EXPECT_EQ((Rect{10, 10, 22, 70}), layers.layer(index).place) << "five lines of 12";
     layers.setPlace(index, {10, 10, 9, 9});

@@ -126,6 +126,10 @@ TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)
     choose(dialog, "cboDither", "Forward Diag");
     choose(dialog, "cboDither", "Equal");
     EXPECT_EQ(8, dialog.settings().DitherWord);
+    choose(dialog, "cboMap", "Fixed Grey");
+    EXPECT_EQ(8, dialog.settings().DitherWord) << "it goes with any palette";
+    choose(dialog, "cboMap", "MS Map");
+    EXPECT_EQ(0, dialog.settings().DitherWord) << "but not with none";
     choose(dialog, "cboColorMode", "Greyscale");
     idle(dialog);
     const Bits grey = controlOf<fPicture>(dialog, "oSrc")->bits();

@@ -146,6 +146,8 @@ TEST_F(FilterDialog, EscapeEndsARunThatWorks)
     bool disabled = false;
     frame.platform_.onYield = [&] {
         disabled = !find<QPushButton>("cmdOK")->isEnabled();
+        frame.platform_.onYield = nullptr;
+        dialog->accept(); // once more, which is not run inside of the first
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
     };
     click("cmdOK");
