@@ -392,6 +392,11 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
 {
     struct ReadOnly : RecordingPlatform {
         QString programFolder() override { return "/proc/velara"; }
+        bool previousInstance() override
+        {
+            EXPECT_FALSE(QGuiApplication::windowIcon().isNull()) << "the box of that comes before the frame";
+            return false;
+        }
     } platform;
     velara::Setup setup;
     const auto frame = startEditor(platform, setup);
