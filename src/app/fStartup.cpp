@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
+#include <QIcon>
 #include <QPointer>
 #include <QScreen>
 #include <algorithm>
@@ -91,6 +92,7 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
 {
     useResources();
     useIconTheme();
+    QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // of boxes that come before the frame, too
     const QPointer<fSplash> splash = new fSplash(platform);
     splash->show();
     platform.yield();

@@ -9,6 +9,15 @@ done
 [ -s "${folder}logo.bmp" ] || fail "no logo beside the folder"
 [ ! -s "$folder/Vlaera.dat" ] || fail "the configuration is filled before the end"
 
+until_true "the boxes" has_window '^Select Color'
+sleep 0.5
+for name in Textures Clip Select; do
+    xwininfo -frame -id "$(xdotool search --onlyvisible --name "^$name")" |
+        awk '/Absolute/ {at = at " " $4} /Width:|Height:/ {at = at " " $2} END {print at}'
+done >"$scratch/boxes"
+awk '{for (i in x) if ($1 < x[i] + w[i] && x[i] < $1 + $3 && $2 < y[i] + h[i] && y[i] < $2 + $4) exit 1
+      x[NR] = $1; y[NR] = $2; w[NR] = $3; h[NR] = $4}' "$scratch/boxes" || fail "a box lies on another"
+
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert "$scratch/in.png" -negate "$scratch/negative.png"
 open_file "$scratch/in.png"

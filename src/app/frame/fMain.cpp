@@ -16,7 +16,6 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
 {
     setObjectName("fMain");
     setWindowTitle(kProgramName);
-    setWindowIcon(QIcon(":/velara.svg"));
     setMinimumSize(320, 240);
     setAcceptDrops(true);
     cFilter_.clock = [this] { return platform_.milliseconds(); };

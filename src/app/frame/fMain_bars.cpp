@@ -13,6 +13,7 @@
 #include "ui/colour/fPicker.h"
 #include "ui/compose/fToolTextures.h"
 #include "ui/panes/fToolPanes.h"
+#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -105,6 +106,11 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
     const auto type = event->type();
     if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide)
         if (boxes_ && (watched == this || boxes_->has(watched))) startPage_->place();
+    if (watched->parent() == this && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow()) {
+        // What is dropped on a pop-up is meant for the frame under it.
+        if (type == QEvent::DragEnter) dragEnterEvent(static_cast<QDragEnterEvent*>(event));
+        if (type == QEvent::Drop) dropEvent(static_cast<QDropEvent*>(event));
+    }
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);

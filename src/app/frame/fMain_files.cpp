@@ -148,7 +148,7 @@ void fMain::FillRecent()
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(entry, 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
-        item->setVisible(!entry.isEmpty() || i == 0); // a lost file leaves its line, an unused entry none
+        item->setVisible(found || i == 0); // a lost file keeps its place in the list, but no empty line in the menu
     }
     showStartPage();
 }

@@ -1,6 +1,7 @@
 #include "app/menus/Boxes.h"
 #include "app/menus/Bars.h"
 #include "seams/Setup.h"
+#include <QLayout>
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
@@ -23,6 +24,28 @@ constexpr BoxRow kBoxes[] = {
     {"@CLIPBOARDBOX", &Setup::ClipboardBoxVisible, 0},
 };
 
+/// What the window manager adds to a window, as long as it has not said so.
+QSize decoration(const QWidget& window)
+{
+    constexpr int kBorder = 2;
+    return {2 * kBorder, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBorder};
+}
+
+/// What a window covers on the screen, its title bar too when it has only just been shown.
+QRect covered(const QWidget& window)
+{
+    const QRect rect = window.frameGeometry();
+    return rect | QRect(rect.topLeft(), window.size() + decoration(window));
+}
+
+/// Gives a window the size that it is shown with: one that grows only then loses its place by the height of its title.
+void settle(QWidget& window)
+{
+    window.ensurePolished();
+    for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
+    if (window.layout()) window.layout()->activate();
+}
+
 int areaOf(const QRect& rect) { return rect.isEmpty() ? 0 : rect.width() * rect.height(); }
 
 } // namespace
@@ -37,6 +60,7 @@ void Boxes::show(Box which)
     QWidget* box = boxes_[which];
     if (!box) return;
     if (!placed_[which]) {
+        settle(*box);
         const int left = frame_.width() - box->width() - sidePane_.width() * 12 / 5;
         const int top = sidePane_.parentWidget()->y() + kBoxes[which].down;
         // In a narrow frame that place is over the tools.
@@ -50,26 +74,25 @@ void Boxes::show(Box which)
 
 QPoint Boxes::beside(const QWidget& box) const
 {
-    constexpr int kBorder = 2;
-    const QRect frame = frame_.frameGeometry(), screen = frame_.screen()->availableGeometry();
-    const int title = box.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const QSize size = box.size() + QSize(2 * kBorder, title + kBorder); // as it will be when it is shown
+    const QRect frame = covered(frame_), screen = frame_.screen()->availableGeometry();
+    const QSize size = box.size() + decoration(box); // as it will be when it is shown
     std::vector<QRect> taken = places();
     std::vector<int> tops = {frame.top()};
-    for (const QRect& other : taken) tops.push_back(other.bottom() + 1);
+    for (const QRect& other : taken) tops.insert(tops.end(), {other.bottom() + 1, other.top() - size.height()});
+    tops.push_back(screen.bottom() + 1 - size.height());
     taken.push_back(frame);
     QRect best;
-    int leastCovered = INT_MAX;
+    int leastCovered = INT_MAX; // a place further on has to be clearly better: what is used together stays together
     for (const int left : {frame.right() + 1, frame.left() - size.width()})
         for (const int top : tops) {
             QRect place({left, top}, size);
             place.moveRight(std::min(place.right(), screen.right()));
             place.moveBottom(std::min(place.bottom(), screen.bottom()));
             place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
-            int covered = 0;
-            for (const QRect& other : taken) covered += areaOf(place & other);
-            if (covered >= leastCovered) continue;
-            leastCovered = covered;
+            int area = 0;
+            for (const QRect& other : taken) area += areaOf(place & other);
+            if (area >= leastCovered / 4 * 3) continue;
+            leastCovered = area;
             best = place;
         }
     return best.topLeft();
@@ -79,7 +102,7 @@ std::vector<QRect> Boxes::places() const
 {
     std::vector<QRect> places;
     for (const QWidget* box : boxes_)
-        if (box && box->isVisible()) places.push_back(box->frameGeometry());
+        if (box && box->isVisible()) places.push_back(covered(*box));
     return places;
 }
 
@@ -101,7 +124,8 @@ void Boxes::toggle(Box which)
 
 void Boxes::showAll()
 {
-    for (const Box which : {Colours, Textures, Clips, Colours}) // the colours once more: they end up in front
+    // The large ones first, as they fit in fewest places; the colours last: they end up in front.
+    for (const Box which : {Textures, Clips, Colours})
         if (setup_.*kBoxes[which].visible) show(which);
     if (boxes_[Colours]) boxes_[Colours]->raise();
 }

@@ -124,6 +124,19 @@ void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     painter->restore();
 }
 
+/// A caption keeps clear of the arrow of its menu, which the plain style draws on it, like a comma.
+QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                      const QWidget* widget) const
+{
+    const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    if (type != CT_ToolButton || !button || !isPlain() || button->toolButtonStyle == Qt::ToolButtonIconOnly ||
+        button->text.isEmpty() || !(button->features & QStyleOptionToolButton::HasMenu) ||
+        button->features & QStyleOptionToolButton::MenuButtonPopup)
+        return whole;
+    return whole + QSize(2 * pixelMetric(PM_MenuButtonIndicator, option, widget), 0); // it stands in the middle
+}
+
 QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
 {
     if (mode != QIcon::Disabled) return QProxyStyle::generatedIconPixmap(mode, pixmap, option);

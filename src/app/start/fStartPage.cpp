@@ -56,7 +56,6 @@ fStartPage::fStartPage(Platform& platform, QWidget* parent)
     drop->setWordWrap(true);
     makeList();
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(10);
     column->addWidget(title);
     column->addWidget(makeButtons());
@@ -78,10 +77,12 @@ void fStartPage::place()
     if (taken)
         for (const QRect& rect : taken())
             covered |= area & QRect(parentWidget()->mapFromGlobal(rect.topLeft()), rect.size());
+    layout()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    const QSize least = layout()->minimumSize();
     QRect best; // of the strips beside, above and below what is covered
     const auto strip = [&](int left, int top, int right, int bottom) {
         const QRect room(QPoint(left, top), QPoint(right, bottom));
-        const QSize size = room.size(), least = minimumSizeHint(), found = best.size();
+        const QSize size = room.size(), found = best.size();
         if (size.expandedTo(least) != size) return;
         if (size.width() * size.height() > found.width() * found.height()) best = room;
     };
@@ -91,7 +92,10 @@ void fStartPage::place()
         strip(area.left(), area.top(), area.right(), covered.top() - 1);
         strip(area.left(), covered.bottom() + 1, area.right(), area.bottom());
     }
-    setGeometry(best.isEmpty() ? area : best);
+    if (best.isEmpty()) best = area;
+    layout()->setContentsMargins(best.left() + kMargin, best.top() + kMargin, area.right() - best.right() + kMargin,
+                                 area.bottom() - best.bottom() + kMargin);
+    setGeometry(area);
 }
 
 QWidget* fStartPage::makeButtons()

@@ -19,7 +19,7 @@ class fStartPage final : public QWidget {
     fStartPage(Platform& platform, QWidget* parent);
     /// What stands over the page, on the screen.
     std::function<std::vector<QRect>()> taken;
-    /// Covers its parent, or the largest part of it that nothing stands over and that holds the page.
+    /// Covers its parent; what it shows keeps to the largest part that nothing stands over and that holds it.
     void place();
     /// Paths, blank ones and those of lost files left out; their thumbnails come by and by.
     void showRecent(const std::array<QString, 8>& recent);

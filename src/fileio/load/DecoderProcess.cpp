@@ -55,7 +55,7 @@ void limit(pid_t pid, const DecoderLimits& limits)
     limit(pid, RLIMIT_AS, limits.memory, limits.memory);
     limit(pid, RLIMIT_FSIZE, 0, 0);
 #endif
-    limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.cpuSeconds + 1);
+    limit(pid, RLIMIT_CPU, limits.cpuSeconds, kMostSeconds + 1); // the hard limit can't be raised for a claim
     limit(pid, RLIMIT_CORE, 0, 0);
 }
 
@@ -105,19 +105,25 @@ DecoderProcess::~DecoderProcess()
 void DecoderProcess::claim(std::int64_t pixels)
 {
     limits_.cpuSeconds = std::max(limits_.cpuSeconds, secondsFor(pixels));
-    limit(pid_, RLIMIT_CPU, limits_.cpuSeconds, limits_.cpuSeconds + 1);
+    limit(pid_, RLIMIT_CPU, limits_.cpuSeconds, kMostSeconds + 1);
 }
 
 namespace {
 
-/// Asleep or stopped, and not just waiting for a processor or for the disk.
-bool isIdle(pid_t pid)
+struct Doing {
+    bool idle = false; // asleep or stopped, and not just waiting for a processor or for the disk
+    long seconds = 0;  // of processor time
+};
+
+Doing doingOf(pid_t pid)
 {
     QFile file(QString("/proc/%1/stat").arg(pid));
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray line = file.readAll(); // pid (name) state ...
-    const char state = line.mid(line.lastIndexOf(')') + 2, 1).append('?').at(0);
-    return state == 'S' || state == 'T' || state == 't';
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const QByteArray line = file.readAll(); // pid (name) state ... user and system time, the 14th and 15th
+    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+    if (fields.size() < 13) return {};
+    const bool idle = fields[0] == "S" || fields[0] == "T" || fields[0] == "t";
+    return {idle, (fields[11].toLong() + fields[12].toLong()) / sysconf(_SC_CLK_TCK)};
 }
 
 } // namespace
@@ -126,7 +132,9 @@ std::optional<DecoderProcess::Wait> DecoderProcess::afterSlice()
 {
     using namespace std::chrono;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
-    if (isIdle(pid_)) ++idleSlices_;
+    const Doing doing = doingOf(pid_);
+    if (doing.idle) ++idleSlices_;
+    if (doing.seconds > limits_.cpuSeconds + 1) return Wait::TimedOut; // it turns the soft limit's signal away
     if (waited >= limits_.wallClock || idleSlices_ * kSlice >= limits_.idle) return Wait::TimedOut;
     if (goOn_ && !goOn_(waited)) return Wait::Stopped;
     return {};

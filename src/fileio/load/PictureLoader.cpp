@@ -169,8 +169,6 @@ QString named(const Ending& ending, const QString& name)
     return ending.reason.isEmpty() ? QString() : printable(name + ": " + ending.reason);
 }
 
-constexpr unsigned kMostSeconds = 60;
-
 } // namespace
 
 DecoderLimits limitsFor(std::int64_t fileSize)

@@ -10,6 +10,8 @@
 
 namespace velara {
 
+constexpr unsigned kMostSeconds = 60; // of processor time, for any picture
+
 struct DecoderLimits {
     std::size_t memory = std::size_t{4} << 30;  // bytes of address space
     unsigned cpuSeconds = 2;                    // processor time; some readers loop for ever on damaged files

@@ -60,6 +60,7 @@ QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent)
     pane->setAttribute(Qt::WA_ShowWithoutActivating);
     pane->setFrameShape(QFrame::StyledPanel);
     pane->setAttribute(Qt::WA_DeleteOnClose);
+    pane->setAcceptDrops(true); // it lies over the frame, which takes them
     pane->setMinimumWidth(190);
     auto* heading = named(
         new QLabel(QObject::tr(tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane), "lblTool");

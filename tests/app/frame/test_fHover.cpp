@@ -46,6 +46,14 @@ TEST_F(HoverTest, ThePopUpStandsBesideTheToolsAndNamesItsTool)
         QEvent tip(QEvent::ToolTip);
         EXPECT_TRUE(QCoreApplication::sendEvent(frame->toolPane().button(tool), &tip));
     }
+
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file("a.bmp"))});
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(popups()[0], &enter);
+    QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(popups()[0], &drop);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->documents().size() == 1; })) << "the frame's, which it covers";
 }
 
 TEST(PicturesTest, NoTwoButtonsShowTheSame)

@@ -2,6 +2,8 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
+#include "app/menus/Boxes.h"
+#include "app/start/fStartPage.h"
 #include <QtTest>
 #include <QtWidgets>
 
@@ -180,6 +182,20 @@ TEST_F(FrameDocuments, TheSelectionHasItsCommands)
     EXPECT_FALSE(image->bits() == before) << "the other key of redo";
 }
 
+TEST_F(FrameDocuments, BoxesStandClearOfANarrowFrameAndOfEachOther)
+{
+    frame->setGeometry(0, 0, 450, 300);
+    setup.ClipboardBoxVisible = false;
+    frame->boxes().showAll();
+    const QWidget *colours = frame->boxes().box(Boxes::Colours), *textures = frame->boxes().box(Boxes::Textures);
+    const int title = frame->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    EXPECT_GT(std::min(colours->x(), textures->x()), 450);
+    EXPECT_GE(
+        std::max(colours->y() - textures->height() - textures->y(), textures->y() - colours->height() - colours->y()),
+        title)
+        << "a title bar is still to come";
+}
+
 TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
 {
     const QString a = file("a.png", 300, 200);
@@ -188,6 +204,13 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
     auto* page = frame->findChild<QWidget*>("fStartPage");
     auto* list = frame->findChild<QListWidget*>("lstRecent");
     EXPECT_TRUE(page->isVisible());
+    const auto first = [&] { return frame->findChild<QWidget*>("cmdStartNew")->mapTo(page, QPoint()); };
+    const QPoint alone = first();
+    static_cast<fStartPage*>(page)->taken = [&] {
+        return std::vector{QRect(page->mapToGlobal(QPoint(-9, -9)), QSize(59, 2000))};
+    };
+    frame->resize(900, 700);
+    EXPECT_EQ(first(), alone + QPoint(50, 0)) << "beside a box that stands over it";
     ASSERT_EQ(list->count(), 1) << "the lost one is left out";
     EXPECT_EQ(list->item(0)->text(), "a.png");
     const auto iconMiddle = [&] { return list->item(0)->icon().pixmap(128).toImage().pixelColor(64, 64); };

@@ -86,6 +86,16 @@ TEST_F(ControlStyle, ACheckedToolButtonIsTintedAndOneThatIsDisabledIsNot)
     };
     EXPECT_GT(tint(QStyle::State_Enabled), 40);
     EXPECT_LT(tint(QStyle::State_None), 20);
+
+    QStyleOptionToolButton button;
+    button.text = "Zoom";
+    button.toolButtonStyle = Qt::ToolButtonTextOnly;
+    const auto width = [&] {
+        return style.sizeFromContents(QStyle::CT_ToolButton, &button, {40, 20}, nullptr).width();
+    };
+    const int plain = width();
+    button.features = QStyleOptionToolButton::HasMenu;
+    EXPECT_GT(width(), plain + 12) << "the arrow of a menu stands beside the caption";
 }
 
 } // namespace velara
