@@ -105,19 +105,6 @@ Region RegionBuilder::take()
     return region;
 }
 
-Region::Region(const QRegion& region)
-{
-    RegionBuilder out;
-    const QRect* before = nullptr;
-    for (const QRect& rect : region) {
-        if (before && before->top() != rect.top()) out.endBand(before->top(), before->bottom() + 1);
-        out.add(rect.left(), rect.right() + 1);
-        before = &rect;
-    }
-    if (before) out.endBand(before->top(), before->bottom() + 1);
-    *this = out.take();
-}
-
 Region Region::rectangle(int left, int top, int right, int bottom)
 {
     const auto [l, r] = std::minmax(left, right);
@@ -141,17 +128,6 @@ bool Region::contains(int x, int y) const
     const auto row = spans(y);
     const auto after = std::upper_bound(row.begin(), row.end(), x, [](int v, const Span& s) { return v < s.x0; });
     return after != row.begin() && x < std::prev(after)->x1;
-}
-
-QRegion Region::toQRegion() const
-{
-    std::vector<QRect> rects;
-    rects.reserve(rectangleCount());
-    forEachRectangle(
-        [&](const Rect& r) { rects.emplace_back(QPoint(r.left, r.top), QPoint(r.right - 1, r.bottom - 1)); });
-    QRegion region;
-    region.setRects(rects.data(), static_cast<int>(rects.size()));
-    return region;
 }
 
 void Region::forEachRectangle(const std::function<void(const Rect&)>& visit) const

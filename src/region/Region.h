@@ -2,7 +2,6 @@
 // spans, set algebra in the time of the bands, the flat word form, and the defined coverage of ellipses and polygons.
 // An immutable value, shared by its copies.
 #pragma once
-#include <QRegion>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -43,7 +42,6 @@ class Region {
   public:
     /// No region at all (isNull), as before anything was selected; it also counts as empty.
     Region() = default;
-    explicit Region(const QRegion& region);
 
     /// Corners are put in order; a zero width or height gives the empty region.
     static Region rectangle(int left, int top, int right, int bottom);
@@ -58,7 +56,6 @@ class Region {
     /// The smallest box; 0, 0, 0, 0 when empty.
     Rect bounds() const;
     bool contains(int x, int y) const;
-    QRegion toQRegion() const;
     std::size_t rectangleCount() const;
     /// From top to bottom, in a band from left to right.
     void forEachRectangle(const std::function<void(const Rect&)>& visit) const;

@@ -1,4 +1,5 @@
 #include "support/pictures.h"
+#include <QRegion>
 #include <random>
 
 namespace velara {
@@ -30,7 +31,10 @@ Region randomRegion(int width, int height, std::uint32_t seed)
         const QRect box(x, y, within(1, width), within(1, height));
         region += QRegion(box, within(0, 1) ? QRegion::Ellipse : QRegion::Rectangle);
     }
-    return Region(region);
+    Region made = Region::rectangle(0, 0, 0, 0);
+    for (const QRect& r : region)
+        made = made.combined(Region::rectangle(r.left(), r.top(), r.right() + 1, r.bottom() + 1), Combine::Or);
+    return made;
 }
 
 ::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got)
