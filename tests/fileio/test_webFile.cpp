@@ -73,8 +73,10 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
     const QString name = folder.filePath("web");
     const Bits picture = sample();
     int files = 0;
+    BestPalettes known;
     const auto hold = [&](const WebSettings& s) {
-        ASSERT_EQ(WebFile::Outcome::Written, writeWebFile(picture, s, name, OutputFile::Links::Follow).outcome);
+        ASSERT_EQ(WebFile::Outcome::Written,
+                  writeWebFile(picture, s, name, OutputFile::Links::Follow, {}, &known).outcome);
         const ReducedPicture wanted = reduceColours(picture, {s.ColorMode, s.BitCount, s.PaletteWord, s.DitherWord});
         for (const Colour c : wanted.indexed.palette)
             EXPECT_TRUE(s.ColorMode != kGreyscale || (redOf(c) == greenOf(c) && greenOf(c) == blueOf(c)));
@@ -97,6 +99,15 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
             }
     }
     EXPECT_GT(files, 400);
+
+    for (auto& [key, palette] : known) palette = {0x0000FF};
+    WebSettings s;
+    s.choosePreset(3, false);
+    for (const bool invert : {false, true}) {
+        s.invert = invert;
+        writeWebFile(picture, s, name, OutputFile::Links::Follow, {}, &known);
+        EXPECT_EQ(invert, QImage(name, "gif").pixel(0, 0) != qRgb(255, 0, 0)) << "made once for each turned picture";
+    }
 }
 
 } // namespace

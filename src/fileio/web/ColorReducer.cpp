@@ -20,6 +20,7 @@ bool ColorReducer::Begin(int OutputKind, int ColorMode, int BitCount, int Palett
 {
     reduced_ = {};
     picture_ = {};
+    turns_ = 0;
     if (PaletteWord == kCounted) PaletteWord |= 1 << BitCount;
     words_ = {ColorMode, BitCount, PaletteWord, DitherWord};
     const bool isBitmap = OutputKind == kBitmapOutput && (BitCount == 16 || BitCount == 24);
@@ -43,6 +44,7 @@ bool ColorReducer::Transform(int Flags, int, int)
 {
     const auto has = [Flags](int flag) { return (Flags & flag) == flag; };
     if (picture_.isNull()) return false;
+    turns_ ^= Flags;
     cBitFilter filter;
     filter.setBits(picture_);
     filter.setBitsRegion(Region::rectangle(0, 0, picture_.width(), picture_.height()));
@@ -55,7 +57,8 @@ bool ColorReducer::Transform(int Flags, int, int)
 
 bool ColorReducer::Reduce()
 {
-    reduced_ = reduceColours(picture_, words_, Progress);
+    Palette* known = Palettes ? &(*Palettes)[{turns_, words_.colorMode, words_.bitCount}] : nullptr;
+    reduced_ = reduceColours(picture_, words_, Progress, known);
     return reduced_.bitCount > 0;
 }
 

@@ -173,9 +173,9 @@ bool FWeb::write(const QString& finalName)
     const WebSettings settings = settings_; // a change meanwhile is for the next one
     running_ = true;
     showWaiting(true);
-    const WebFile file =
-        writeWebFile(picture_, settings, name,
-                     finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow, yielding());
+    const WebFile file = writeWebFile(picture_, settings, name,
+                                      finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow,
+                                      yielding(), &palettes_);
     LoadedPicture shown; // the file as a reader sees it
     if (alive && file.outcome == WebFile::Outcome::Written)
         shown = platform_.loadPicture(name, settings.extension(), [go = yielding()](auto) {

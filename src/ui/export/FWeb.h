@@ -60,6 +60,7 @@ class FWeb final : public QDialog {
     Bits picture_, optimizedBits_;
     QString path_;
     WebSettings settings_;
+    BestPalettes palettes_;
     QTimer timer_;
     bool running_ = false, again_ = false, closing_ = false;
     std::uint32_t lastYield_ = 0;
