@@ -108,6 +108,11 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
         writeWebFile(picture, s, name, OutputFile::Links::Follow, {}, &known);
         EXPECT_EQ(invert, QImage(name, "gif").pixel(0, 0) != qRgb(255, 0, 0)) << "made once for each turned picture";
     }
+    s.choosePreset(14, false);
+    s.flipH = s.flipV = true;
+    const Bits row = randomBits(9, 1, 3); // no filter takes it
+    writeWebFile(row, s, name, OutputFile::Links::Follow);
+    for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
 }
 
 } // namespace
