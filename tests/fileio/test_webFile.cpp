@@ -1,6 +1,7 @@
 // Every preset of "Save for Web" with every palette and dither: the written file, read back by others than wrote it.
 #include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
+#include "support/pictures.h"
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -109,7 +110,7 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
         EXPECT_EQ(invert, QImage(name, "gif").pixel(0, 0) != qRgb(255, 0, 0)) << "made once for each turned picture";
     }
     s.choosePreset(14, false);
-    s.flipH = s.flipV = true;
+    s.flipH = s.flipV = s.invert = true;
     const Bits row = randomBits(9, 1, 3); // no filter takes it
     writeWebFile(row, s, name, OutputFile::Links::Follow);
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);

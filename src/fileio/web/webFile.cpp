@@ -61,7 +61,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
-        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true), teller);
+        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true, std::ref(teller)), teller);
     }
     const FreeImageStart library;
     const bool inFull = kind == kTga || kind == kTif;
