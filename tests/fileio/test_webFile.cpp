@@ -1,7 +1,9 @@
 // Every preset of "Save for Web" with every palette and dither: the written file, read back by others than wrote it.
+#include "fileio/FreeImageSaver.h"
 #include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
 #include "support/pictures.h"
+#include <FreeImage.h>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -114,6 +116,21 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
     const Bits row = randomBits(9, 1, 3); // no filter takes it
     writeWebFile(row, s, name, OutputFile::Links::Follow);
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
+}
+
+TEST(WebFile, AWriterEndsWithItsFirstWriteThatFails)
+{
+    const QTemporaryDir folder;
+    const FreeImageStart library;
+    const Dib24 dib(randomBits(900, 900, 5));
+    for (const int format : {FIF_PNG, FIF_TIFF, FIF_JPEG}) {
+        OutputFile file(folder.filePath("web"));
+        int asked = 0;
+        file.setGoOn([&asked] { return ++asked == 0; });
+        saveDib(dib.get(), format, 0, file);
+        EXPECT_FALSE(file.commit());
+        EXPECT_LE(asked, 10) << format << " packs the rest of the picture";
+    }
 }
 
 } // namespace
