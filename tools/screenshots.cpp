@@ -10,6 +10,7 @@
 #include "support/RecordingPlatform.h"
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -146,6 +147,10 @@ void shootFreeWindow(fMain& frame, const QString& word, const QString& objectNam
 void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& picture)
 {
     platform.settings["Browse/Last"] = picture;
+    QFile file(picture); // the same date in every picture of it
+    if (file.open(QIODevice::ReadWrite))
+        file.setFileTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
+    file.close();
     shootDialog(
         "BROWSE", [&] { frame.run("@BROWSE"); },
         [&](QWidget& dialog) {
