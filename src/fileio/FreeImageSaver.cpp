@@ -18,8 +18,8 @@ unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_h
     return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
 }
 
-/// The writer of PNG never asks what became of a write and would pack all the rest of the picture. It is ended by text,
-/// which is what FreeImage throws and catches itself. (That of TIFF packs all before it writes anything.)
+/// The writers of PNG and TIFF never ask what became of a write and would pack all the rest of the picture. They are
+/// ended by text, which is what FreeImage throws and catches itself.
 unsigned DLL_CALLCONV writeOrThrow(void* bytes, unsigned size, unsigned count, fi_handle handle)
 {
     if (writeProc(bytes, size, count, handle) != count) throw "the file can't be written";
@@ -62,7 +62,8 @@ long DLL_CALLCONV tellLengthProc(fi_handle handle) { return lengthOf(handle).at;
 
 bool saveDib(FIBITMAP* dib, int format, int flags, OutputFile& file)
 {
-    FreeImageIO io{readProc, format == FIF_PNG ? writeOrThrow : writeProc, seekProc, tellProc};
+    const bool isDeaf = format == FIF_PNG || format == FIF_TIFF;
+    FreeImageIO io{readProc, isDeaf ? writeOrThrow : writeProc, seekProc, tellProc};
     try {
         return dib && file.isOpen() &&
                FreeImage_SaveToHandle(static_cast<FREE_IMAGE_FORMAT>(format), dib, &io, &file, flags);

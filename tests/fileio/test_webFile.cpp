@@ -122,14 +122,14 @@ TEST(WebFile, AWriterEndsWithItsFirstWriteThatFails)
 {
     const QTemporaryDir folder;
     const FreeImageStart library;
-    const Dib24 dib(randomBits(900, 900, 5));
-    for (const int format : {FIF_PNG, FIF_JPEG}) {
+    for (const int format : {FIF_PNG, FIF_JPEG, FIF_TIFF}) {
+        const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // its small strips
         OutputFile file(folder.filePath("web"));
         int asked = 0;
         file.setGoOn([&asked] { return ++asked == 0; });
         saveDib(dib.get(), format, 0, file);
         EXPECT_FALSE(file.commit());
-        EXPECT_LE(asked, 2) << format << " packs the rest of the picture";
+        EXPECT_LE(asked, 10) << format << " packs the rest of the picture";
     }
 }
 
