@@ -9,8 +9,11 @@
 #include "app/start/fSplash.h"
 #include "support/RecordingPlatform.h"
 #include <QApplication>
+#include <QComboBox>
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -21,6 +24,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 #include <cstdio>
 #include <functional>
 
@@ -86,22 +90,27 @@ void shootMenu(QWidget& frame, QMenu& menu)
 struct DialogRow {
     const char* word;
     bool large;
+    const char* list = nullptr; // where an entry is chosen first
+    int entry = 0;
 };
 // clang-format off
 constexpr DialogRow kDialogs[] = {
     {"NEW", false}, {"IMAGESIZE", false}, {"CANVASSIZE", true}, {"IMAGEORIENTATION", false}, {"IMAGEROTATE", false},
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
     {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"IMAGETEXTURES", false},
-    {"IMAGECOLORDEPTH", false}, {"IMAGESAVEOPTIONS", true}, {"@ICON", false},
+    {"IMAGECOLORDEPTH", false, "cmbDepth", 1}, {"IMAGESAVEOPTIONS", true, "CboFiles", 4}, {"@ICON", false},
+    {"PRINT", false},
 };
 // clang-format on
 
-/// What opens a dialog, and the picture of that.
-void shootDialog(const QString& name, const std::function<void()>& open)
+/// What opens a dialog, and the picture of that once it is prepared.
+void shootDialog(const QString& name, const std::function<void()>& open,
+                 const std::function<void(QWidget&)>& prepare = {})
 {
     bool shot = false;
-    QTimer::singleShot(1500, [name, &shot] { // textures are read one after the other
+    QTimer::singleShot(1500, [&] { // textures are read one after the other
         if (QWidget* dialog = QApplication::activeModalWidget()) {
+            if (prepare) prepare(*dialog);
             save(dialog->grab(), "dialog_" + QString(name).remove('@'));
             dialog->close();
         }
@@ -111,16 +120,53 @@ void shootDialog(const QString& name, const std::function<void()>& open)
     while (!shot) settle(); // some windows are waited for in there, others are not
 }
 
-/// Text layers, whose window leaves the frame free.
-void shootLayers(fMain& frame)
+void shootDialog(fMain& frame, const DialogRow& row)
 {
-    frame.run("TEXTTOOLS");
+    shootDialog(
+        row.word, [&] { frame.run(row.word); },
+        [&row](QWidget& dialog) {
+            if (!row.list) return;
+            dialog.findChild<QComboBox*>(row.list)->setCurrentIndex(row.entry);
+            settle(1000);
+        });
+}
+
+/// A window that leaves the frame free.
+void shootFreeWindow(fMain& frame, const QString& word, const QString& objectName)
+{
+    frame.run(word.toStdString());
     settle(500);
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() != "fLayers" || !window->isVisible()) continue;
-        save(window->grab(), "dialog_TEXTTOOLS");
+        if (window->objectName() != objectName || !window->isVisible()) continue;
+        save(window->grab(), "dialog_" + QString(word).remove('@'));
         window->close();
     }
+}
+
+/// The browser on the program's own folder: the tree of the machine is nobody's business.
+void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& picture)
+{
+    platform.settings["Browse/Last"] = picture;
+    QFile file(picture); // the same date in every picture of it
+    if (file.open(QIODevice::ReadWrite))
+        file.setFileTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
+    file.close();
+    shootDialog(
+        "BROWSE", [&] { frame.run("@BROWSE"); },
+        [&](QWidget& dialog) {
+            auto* tree = dialog.findChild<QTreeView*>("BF");
+            QModelIndex root = tree->currentIndex();
+            while (root.parent().isValid() && root.data().toString() != QFileInfo(platform.folder.path()).fileName())
+                root = root.parent();
+            tree->setRootIndex(root);
+            for (const QString& asked : std::vector(platform.previews().asked)) {
+                const QImage image(QString(asked).remove("thumbnail "));
+                const QSize box = asked.startsWith("thumbnail ") ? QSize(128, 128) : image.size();
+                platform.previews().answer(asked, {image.scaled(box, Qt::KeepAspectRatio), image.size(), {}});
+            }
+            if (auto* name = dialog.findChild<QLabel*>("FileName")) name->setText(QFileInfo(picture).fileName());
+            settle(200);
+        });
 }
 
 /// The floating boxes; the one of textures with each of its pages.
@@ -196,6 +242,7 @@ int main(int argc, char** argv)
     }
 
     RecordingPlatform platform;
+    platform.printers().printers = {{"Office", "Photo"}, "Photo"};
     platform.onYield = [] { QCoreApplication::processEvents(); };
     Setup setup;
     const auto frame = startEditor(platform, setup);
@@ -256,10 +303,13 @@ int main(int argc, char** argv)
 
     frame->area().setActiveSubWindow(windows[0]); // the one in colours
     for (const DialogRow& row : kDialogs)
-        if (!few || row.large) shootDialog(row.word, [&] { frame->run(row.word); });
+        if (!few || row.large) shootDialog(*frame, row);
     if (!few) {
         shootDialog("color", [&] { frame->pickColour(0xE9AE3D, "First color", frame.get()); });
-        shootLayers(*frame);
+        shootFreeWindow(*frame, "TEXTTOOLS", "fLayers");
+        shootFreeWindow(*frame, "IMAGEMERGING", "fOverlay");
+        shootFreeWindow(*frame, "@ASSOCIATION", "fAssociation");
+        shootBrowser(*frame, platform, picture);
         shootBoxes();
     }
     if (!few) shootPanes(*frame);

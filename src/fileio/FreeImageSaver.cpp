@@ -18,6 +18,14 @@ unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_h
     return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
 }
 
+/// The writers of PNG and TIFF never ask what became of a write and would pack all the rest of the picture. They are
+/// ended by text, which is what FreeImage throws and catches itself.
+unsigned DLL_CALLCONV writeOrThrow(void* bytes, unsigned size, unsigned count, fi_handle handle)
+{
+    if (writeProc(bytes, size, count, handle) != count) throw "the file can't be written";
+    return count;
+}
+
 int DLL_CALLCONV seekProc(fi_handle handle, long offset, int origin)
 {
     return fileOf(handle).seek(offset, origin) ? 0 : -1;
@@ -54,9 +62,14 @@ long DLL_CALLCONV tellLengthProc(fi_handle handle) { return lengthOf(handle).at;
 
 bool saveDib(FIBITMAP* dib, int format, int flags, OutputFile& file)
 {
-    FreeImageIO io{readProc, writeProc, seekProc, tellProc};
-    return dib && file.isOpen() &&
-           FreeImage_SaveToHandle(static_cast<FREE_IMAGE_FORMAT>(format), dib, &io, &file, flags);
+    const bool isDeaf = format == FIF_PNG || format == FIF_TIFF;
+    FreeImageIO io{readProc, isDeaf ? writeOrThrow : writeProc, seekProc, tellProc};
+    try {
+        return dib && file.isOpen() &&
+               FreeImage_SaveToHandle(static_cast<FREE_IMAGE_FORMAT>(format), dib, &io, &file, flags);
+    } catch (const char*) {
+        return false;
+    }
 }
 
 std::optional<std::int64_t> savedBytes(FIBITMAP* dib, int format, int flags, const std::function<bool()>& goOn)

@@ -112,7 +112,8 @@ OutputFile::OutputFile(const QString& path, Links links)
     removeStrays(folderOf(target_));
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
-    const mode_t mode = replaces_ ? old.st_mode & 07777 : links == Links::Follow ? 0666 : 0600;
+    lasting_ = links == Links::Follow;
+    const mode_t mode = replaces_ ? old.st_mode & 07777 : lasting_ ? 0666 : 0600;
     if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode))) openBeside(mode, replaces_);
     const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
     if (file_ < 0 && isOver) file_ = memfd_create("picture", MFD_CLOEXEC);
@@ -151,7 +152,7 @@ bool OutputFile::flush()
 
 bool OutputFile::write(const void* bytes, std::size_t size)
 {
-    if (file_ < 0) return false;
+    if (file_ < 0 || failed_) return false;
     const auto* from = static_cast<const std::uint8_t*>(bytes);
     if (size >= kDirect) { // nothing to gain from a copy
         if (flush() && !writeAll(file_, from, size)) failed_ = true;
@@ -189,7 +190,7 @@ std::int64_t OutputFile::tell()
 bool OutputFile::publish()
 {
     if (temporary_.isEmpty()) return copyOver();
-    const bool onDisk = synced(file_);
+    const bool onDisk = !lasting_ || synced(file_);
     if (close(std::exchange(file_, -1)) != 0 || !onDisk)
         return false; // a file server may tell only now that it is full
     if (std::rename(temporary_.constData(), target_.constData()) != 0) return false;

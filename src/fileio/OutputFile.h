@@ -22,7 +22,7 @@ class OutputFile {
   public:
     enum class Links {
         Follow,
-        Replace, // for work files of the program, which are the user's alone
+        Replace, // for work files of the program, which are the user's alone and need not outlive a power cut
     };
     explicit OutputFile(const QString& path, Links links = Links::Follow);
     ~OutputFile();
@@ -59,7 +59,7 @@ class OutputFile {
     std::vector<std::uint8_t> buffer_;
     std::size_t used_ = 0;
     int file_ = -1;
-    bool replaces_ = false, failed_ = false;
+    bool replaces_ = false, failed_ = false, lasting_ = true;
 };
 
 } // namespace velara

@@ -74,11 +74,12 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
     settings().setValue(section + '/' + key, value);
 }
 
-LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension)
+LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn)
 {
     if (decoder_.isEmpty()) decoder_ = findDecoder();
     const QFileInfo file(path);
-    return loadThroughDecoder(path, extension, decoder_, limitsFor(file.size()), whileReading(file.fileName()));
+    return loadThroughDecoder(path, extension, decoder_, limitsFor(file.size()),
+                              goOn ? goOn : whileReading(file.fileName()));
 }
 
 LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension)

@@ -20,7 +20,7 @@ class CorePlatform : public Platform {
     bool previousInstance() override;
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
-    LoadedPicture loadPicture(const QString& path, const QString& extension) override;
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
     /// Asked while the picture of that name is read, see PictureLoader.h.

@@ -20,11 +20,13 @@ Bits greyPicture(const Bits& bits)
 
 Colour greyColour(Colour c) { return greyOf(redOf(c), greenOf(c), blueOf(c)) * colourOf(1, 1, 1); }
 
-Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgress& progress)
+Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgress& progress, Palette* best)
 {
     const int most = 1 << words.bitCount, counted = words.paletteWord & ~kCounted;
     switch (words.paletteWord) {
     case kOptimal:
+        if (best && !best->empty()) return *best;
+        if (best) return *best = bestPalette(bits, most, progress);
         return bestPalette(bits, most, progress);
     case kVgaPalette:
         return vgaColours();
@@ -44,7 +46,7 @@ Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgre
 
 } // namespace
 
-ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress)
+ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress, Palette* best)
 {
     const int count = words.bitCount;
     const bool isIndexed = count >= 1 && count <= 8;
@@ -53,7 +55,7 @@ ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const R
     const Bits source = isGrey ? greyPicture(bits) : bits;
     if (!isIndexed) return {std::min(count, 24), {}, bitsAtDepth(source, count, progress)};
 
-    Palette palette = paletteOf(words, source, progress);
+    Palette palette = paletteOf(words, source, progress, best);
     palette.resize(std::min<std::size_t>(palette.size(), std::size_t{1} << count));
     if (isGrey) std::ranges::transform(palette, palette.begin(), greyColour);
     const auto dither = words.paletteWord == kMapped ? Dither::None : static_cast<Dither>(words.ditherWord);

@@ -30,6 +30,8 @@ struct ReducedPicture {
 /// bitCount: 1 to 8, 16, 24 (32 as 24); nothing for others and for an empty picture. kMapped takes no dither, and at 2,
 /// 3, 5, 6 and 7 bits, for which there is no table, an even spread. Palettes of more colours than the bits can count
 /// are cut short; other palette words count as kFixedColour. In greyscale both the picture and the palette become grey.
-ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress = {});
+/// best: the palette that kOptimal takes, which costs more than all else; an empty one is made and left there.
+ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress = {},
+                             Palette* best = nullptr);
 
 } // namespace velara

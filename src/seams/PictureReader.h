@@ -2,6 +2,8 @@
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
+#include <chrono>
+#include <functional>
 
 namespace velara {
 
@@ -13,12 +15,16 @@ struct LoadedPicture {
     bool ok() const { return !bits.isNull(); }
 };
 
+/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
+using GoOn = std::function<bool(std::chrono::milliseconds)>;
+
 class PictureReader {
   public:
     virtual ~PictureReader() = default;
 
     /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
-    virtual LoadedPicture loadPicture(const QString& path, const QString& extension) = 0;
+    /// goOn stands in for what the platform shows meanwhile.
+    virtual LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) = 0;
 };
 
 } // namespace velara

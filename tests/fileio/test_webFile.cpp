@@ -1,6 +1,9 @@
 // Every preset of "Save for Web" with every palette and dither: the written file, read back by others than wrote it.
+#include "fileio/FreeImageSaver.h"
 #include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
+#include "support/pictures.h"
+#include <FreeImage.h>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -73,8 +76,10 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
     const QString name = folder.filePath("web");
     const Bits picture = sample();
     int files = 0;
+    BestPalettes known;
     const auto hold = [&](const WebSettings& s) {
-        ASSERT_EQ(WebFile::Outcome::Written, writeWebFile(picture, s, name, OutputFile::Links::Follow).outcome);
+        ASSERT_EQ(WebFile::Outcome::Written,
+                  writeWebFile(picture, s, name, OutputFile::Links::Follow, {}, &known).outcome);
         const ReducedPicture wanted = reduceColours(picture, {s.ColorMode, s.BitCount, s.PaletteWord, s.DitherWord});
         for (const Colour c : wanted.indexed.palette)
             EXPECT_TRUE(s.ColorMode != kGreyscale || (redOf(c) == greenOf(c) && greenOf(c) == blueOf(c)));
@@ -97,6 +102,35 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
             }
     }
     EXPECT_GT(files, 400);
+
+    for (auto& [key, palette] : known) palette = {0x0000FF};
+    WebSettings s;
+    s.choosePreset(3, false);
+    for (const bool invert : {false, true}) {
+        s.invert = invert;
+        writeWebFile(picture, s, name, OutputFile::Links::Follow, {}, &known);
+        EXPECT_EQ(invert, QImage(name, "gif").pixel(0, 0) != qRgb(255, 0, 0)) << "made once for each turned picture";
+    }
+    s.choosePreset(14, false);
+    s.flipH = s.flipV = s.invert = true;
+    const Bits row = randomBits(9, 1, 3); // no filter takes it
+    writeWebFile(row, s, name, OutputFile::Links::Follow);
+    for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
+}
+
+TEST(WebFile, AWriterEndsWithItsFirstWriteThatFails)
+{
+    const QTemporaryDir folder;
+    const FreeImageStart library;
+    for (const int format : {FIF_PNG, FIF_JPEG, FIF_TIFF}) {
+        const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // its small strips
+        OutputFile file(folder.filePath("web"));
+        int asked = 0;
+        file.setGoOn([&asked] { return ++asked == 0; });
+        saveDib(dib.get(), format, 0, file);
+        EXPECT_FALSE(file.commit());
+        EXPECT_LE(asked, 10) << format << " packs the rest of the picture";
+    }
 }
 
 } // namespace

@@ -72,7 +72,7 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
 
 QString RecordingPlatform::compactPath(const QString& path, int) { return path; }
 
-LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&)
+LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {
     log.push_back(("load: " + path).toStdString());
     const QImage image = QImage(path).convertToFormat(QImage::Format_RGB32);

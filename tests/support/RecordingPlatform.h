@@ -48,7 +48,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int pixels) override;
     /// Reads in this process, by what Qt reads.
-    LoadedPicture loadPicture(const QString& path, const QString& extension) override;
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }
     RecordingPreviews& previews() override { return previews_; }

@@ -219,7 +219,7 @@ LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, co
         for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
         return [&](const Pixel* rows, int first, int count) {
             copyRows(rows, bits, first, count);
-            return true;
+            return !goOn || goOn({}); // a large picture's rows come without a pause
         };
     });
     return {ending.whole ? bits : Bits(), named(ending, name)};

@@ -6,7 +6,6 @@
 #include "seams/Platform.h"
 #include <QImage>
 #include <chrono>
-#include <functional>
 
 namespace velara {
 
@@ -24,9 +23,6 @@ struct DecoderLimits {
 DecoderLimits limitsFor(std::int64_t fileSize);
 /// Processor time that a picture of so many pixels may take, whatever its file's size: 2 to 60 seconds.
 unsigned secondsFor(std::int64_t pixels);
-
-/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
-using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
 /// A helper program's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
 QString findHelper(const QString& name);

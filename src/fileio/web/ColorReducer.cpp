@@ -4,6 +4,7 @@
 #include "fileio/web/ReducedDib.h"
 #include "fileio/writers/GifWriter.h"
 #include <FreeImage.h>
+#include <algorithm>
 
 namespace velara {
 
@@ -20,6 +21,7 @@ bool ColorReducer::Begin(int OutputKind, int ColorMode, int BitCount, int Palett
 {
     reduced_ = {};
     picture_ = {};
+    turns_ = 0;
     if (PaletteWord == kCounted) PaletteWord |= 1 << BitCount;
     words_ = {ColorMode, BitCount, PaletteWord, DitherWord};
     const bool isBitmap = OutputKind == kBitmapOutput && (BitCount == 16 || BitCount == 24);
@@ -43,19 +45,28 @@ bool ColorReducer::Transform(int Flags, int, int)
 {
     const auto has = [Flags](int flag) { return (Flags & flag) == flag; };
     if (picture_.isNull()) return false;
-    cBitFilter filter;
-    filter.setBits(picture_);
-    filter.setBitsRegion(Region::rectangle(0, 0, picture_.width(), picture_.height()));
-    if (has(kFlipHorizontally)) filter.setBits(filter.Flip(true, false));
-    if (has(kFlipVertically)) filter.setBits(filter.Flip(false, true));
-    if (has(kInvert)) filter.setBits(filter.Invert());
-    picture_ = filter.bits();
+    turns_ ^= Flags;
+    // Not by the filters, which refuse a picture of one row.
+    Bits turned(picture_.width(), picture_.height());
+    const std::uint8_t mask = has(kInvert) ? 0xFF : 0;
+    for (int y = 0; y < turned.height(); ++y) {
+        const Pixel* from = picture_.row(has(kFlipVertically) ? picture_.maxY() - y : y);
+        Pixel* to = turned.row(y);
+        if (has(kFlipHorizontally))
+            std::reverse_copy(from, from + turned.width(), to);
+        else
+            std::copy_n(from, turned.width(), to);
+        for (int x = 0; x < turned.width(); ++x)
+            for (int c = 0; c < 3; ++c) to[x].c[c] ^= mask;
+    }
+    picture_ = turned;
     return true;
 }
 
 bool ColorReducer::Reduce()
 {
-    reduced_ = reduceColours(picture_, words_, Progress);
+    Palette* known = Palettes ? &(*Palettes)[{turns_, words_.colorMode, words_.bitCount}] : nullptr;
+    reduced_ = reduceColours(picture_, words_, Progress, known);
     return reduced_.bitCount > 0;
 }
 

@@ -4,11 +4,16 @@
 #include "fileio/OutputFile.h"
 #include "reduce/reduceColours.h"
 #include <QString>
+#include <map>
+#include <tuple>
 
 namespace velara {
 
 /// Which writer ends a conversion.
 enum OutputKind { kBitmapOutput = 0, kGifOutput = 1, kInterlacedGifOutput = 2 };
+
+/// The best palettes of one picture, by the flags of its turns, the colour mode and the bits a pixel.
+using BestPalettes = std::map<std::tuple<int, int, int>, Palette>;
 
 class ColorReducer {
   public:
@@ -39,11 +44,14 @@ class ColorReducer {
     /// Asked now and then while a file is written; no ends it as a failure.
     std::function<bool()> GoOn;
     OutputFile::Links links = OutputFile::Links::Follow;
+    /// Those that earlier reductions of the same picture have made.
+    BestPalettes* Palettes = nullptr;
 
   private:
     bool writeGifFile(const QString& name, bool interlaced);
 
     ReduceWords words_;
+    int turns_ = 0;
     Bits picture_;
     ReducedPicture reduced_;
 };

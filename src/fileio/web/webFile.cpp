@@ -61,7 +61,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
-        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true), teller);
+        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true, std::ref(teller)), teller);
     }
     const FreeImageStart library;
     const bool inFull = kind == kTga || kind == kTif;
@@ -88,7 +88,7 @@ Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& pi
 } // namespace
 
 WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
-                     const ReduceProgress& progress)
+                     const ReduceProgress& progress, BestPalettes* known)
 {
     WebFile file{.source = picture};
     Teller teller(progress);
@@ -101,6 +101,7 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
             reducer.Progress = progress;
             reducer.GoOn = std::ref(teller);
             reducer.links = links;
+            reducer.Palettes = known;
             file.outcome = writeReduced(reducer, settings, picture, name, teller);
             file.source = reducer.picture();
         }

@@ -16,8 +16,9 @@ struct WebFile {
 };
 
 /// progress is told while colours are reduced and while the file is written.
+/// known: palettes that were made for this picture before, so that a change of the dither alone is shown at once.
 WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
-                     const ReduceProgress& progress = {});
+                     const ReduceProgress& progress = {}, BestPalettes* known = nullptr);
 
 /// The best JPEG percentage, 1 to 100, whose file has at most so many bytes; nothing when none has, or when progress
 /// threw Cancelled.

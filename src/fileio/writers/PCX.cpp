@@ -49,22 +49,44 @@ Pixel pixelBeyond(const Bits& bits, int y)
     return {{0, next.c[0], next.c[1], 0}};
 }
 
-/// Row after row red, green and blue, each of an even number of bytes.
-std::vector<std::uint8_t> planesOf(const Bits& bits)
+/// A row: red, green and blue, each of an even number of bytes.
+void putPlanes(const Bits& bits, int y, std::vector<std::uint8_t>& planes)
 {
     const std::size_t even = evenWidth(bits);
-    std::vector<std::uint8_t> planes(even * 3 * static_cast<std::size_t>(bits.height()));
-    std::uint8_t* to = planes.data();
-    for (int y = 0; y < bits.height(); ++y, to += 3 * even) {
-        const auto put = [&](std::size_t x, const Pixel& pixel) {
-            for (std::size_t plane = 0; plane < 3; ++plane) to[plane * even + x] = pixel.c[2 - plane];
-        };
-        const Pixel* row = bits.row(y);
-        for (int x = 0; x < bits.width(); ++x) put(static_cast<std::size_t>(x), row[x]);
-        if (bits.width() % 2) put(even - 1, pixelBeyond(bits, y));
-    }
-    return planes;
+    planes.resize(3 * even);
+    const auto put = [&](std::size_t x, const Pixel& pixel) {
+        for (std::size_t plane = 0; plane < 3; ++plane) planes[plane * even + x] = pixel.c[2 - plane];
+    };
+    const Pixel* row = bits.row(y);
+    for (int x = 0; x < bits.width(); ++x) put(static_cast<std::size_t>(x), row[x]);
+    if (bits.width() % 2) put(even - 1, pixelBeyond(bits, y));
 }
+
+/// Encodes piece by piece; a run goes on from one piece to the next.
+class RunEncoder {
+  public:
+    void add(const std::vector<std::uint8_t>& data, std::vector<std::uint8_t>& encoded)
+    {
+        for (const std::uint8_t byte : data) {
+            if (byte != value_ || run_ == kLongestRun) end(encoded);
+            value_ = byte;
+            ++run_;
+        }
+    }
+    void end(std::vector<std::uint8_t>& encoded)
+    {
+        if (run_ == 0) return;
+        if (run_ > 1 || value_ >= kRun) encoded.push_back(static_cast<std::uint8_t>(kRun + run_));
+        encoded.push_back(value_);
+        run_ = 0;
+    }
+
+  private:
+    static constexpr int kLongestRun = 63;
+    static constexpr std::uint8_t kRun = 0xc0;
+    std::uint8_t value_ = 0;
+    int run_ = 0;
+};
 
 /// What an older, longer file has behind so many bytes: it stays there.
 QByteArray tailOf(const QString& path, qint64 length)
@@ -78,30 +100,30 @@ QByteArray tailOf(const QString& path, qint64 length)
 
 std::vector<std::uint8_t> PCX::encode(const std::vector<std::uint8_t>& data)
 {
-    constexpr std::size_t kLongestRun = 63;
-    constexpr std::uint8_t kRun = 0xc0;
+    RunEncoder encoder;
     std::vector<std::uint8_t> encoded;
-    encoded.reserve(data.size());
-    for (std::size_t i = 0; i < data.size();) {
-        const std::uint8_t value = data[i];
-        std::size_t run = 1;
-        while (run < kLongestRun && i + run < data.size() && data[i + run] == value) ++run;
-        if (run > 1 || value >= kRun) encoded.push_back(static_cast<std::uint8_t>(kRun + run));
-        encoded.push_back(value);
-        i += run;
-    }
+    encoder.add(data, encoded);
+    encoder.end(encoded);
     return encoded;
 }
 
-bool PCX::SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress)
+bool PCX::SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress, const std::function<bool()>& goOn)
 {
-    std::vector<std::uint8_t> data = planesOf(bits);
-    if (Compress) data = encode(data);
-    const auto header = headerOf(bits, Compress);
     OutputFile file(FileName);
-    const bool written = file.write(header.data(), header.size()) && file.write(data.data(), data.size());
-    const QByteArray tail = tailOf(FileName, static_cast<qint64>(header.size() + data.size()));
-    return written && file.write(tail.constData(), static_cast<std::size_t>(tail.size())) && file.commit();
+    file.setGoOn(goOn);
+    const auto write = [&file](const auto& bytes) { return file.write(bytes.data(), bytes.size()); };
+    bool written = write(headerOf(bits, Compress));
+    RunEncoder encoder;
+    std::vector<std::uint8_t> row, encoded;
+    for (int y = 0; y < bits.height() && written; ++y) {
+        putPlanes(bits, y, row);
+        encoded.clear();
+        if (Compress) encoder.add(row, encoded);
+        written = write(Compress ? encoded : row);
+    }
+    encoded.clear();
+    encoder.end(encoded);
+    return written && write(encoded) && write(tailOf(FileName, file.tell())) && file.commit();
 }
 
 } // namespace velara

@@ -3,6 +3,7 @@
 #include "pixels/Bits.h"
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace velara {
@@ -11,8 +12,9 @@ class PCX {
   public:
     /// The header and the planes of bits, run-length encoded when Compress is true. A longer file of that name keeps
     /// its tail behind the new data. Reports nothing; false when it could not be written, and then the old file is
-    /// whole.
-    bool SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress);
+    /// whole. goOn is asked now and then; no ends it as a failure.
+    bool SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress,
+                       const std::function<bool()>& goOn = {});
 
     /// The encoder: runs of up to 63 equal bytes, across rows and planes, as 0xC0 + length and the byte; single bytes
     /// below 0xC0 as they are.

@@ -19,21 +19,30 @@ namespace velara {
 
 namespace {
 
-/// A way to count a colour in three numbers: letters, units, and the parts that stand behind them. Of the inverted
-/// ones 255 less the number is shown.
+/// A way to count a colour in three numbers: letters and what they stand for, units, and the parts that stand behind
+/// them. Of the inverted ones 255 less the number is shown.
 struct Model {
     const char* letters[3];
+    const char* names[3];
     const char* units[3];
     Part first;
     bool inverted;
 };
 constexpr Model kModels[] = {
-    {{"R", "G", "B"}, {"", "", ""}, Part::Red, false},
-    {{"C", "M", "Y"}, {"", "", ""}, Part::Red, true},
-    {{"H", "S", "B"}, {"°", "%", "%"}, Part::Hue, false},
+    {{"R", "G", "B"}, {"Red", "Green", "Blue"}, {"", "", ""}, Part::Red, false},
+    {{"C", "M", "Y"}, {"Cyan", "Magenta", "Yellow"}, {"", "", ""}, Part::Red, true},
+    {{"H", "S", "B"}, {"Hue", "Saturation", "Brightness"}, {"°", "%", "%"}, Part::Hue, false},
 };
 
 Part partOf(const Model& model, int row) { return static_cast<Part>(static_cast<int>(model.first) + row); }
+
+/// A box that was just reached by Tab stays selected, so that what is typed replaces its number.
+void setNumber(QLineEdit& edit, const QString& number)
+{
+    const bool selected = edit.hasSelectedText();
+    edit.setText(number);
+    if (selected) edit.selectAll();
+}
 
 } // namespace
 
@@ -66,7 +75,7 @@ void fPicker::DrawPicker()
     lblSelColor_->setColour(colour());
     field_->describe(colourText(colour()));
     stripBar_->describe(colourText(colour()));
-    for (const Box& box : boxes_) box.edit->setText(QString::number(box.shown()));
+    for (const Box& box : boxes_) setNumber(*box.edit, QString::number(box.shown()));
     showUnder(colour());
 }
 
@@ -113,6 +122,7 @@ void fPicker::showModel()
     for (int row = 0; row < 3; ++row) {
         const auto at = static_cast<std::size_t>(row);
         letters_[at]->setText(QLatin1String(model.letters[row]));
+        parts_[at]->setAccessibleName(tr(model.names[row]));
         units_[at]->setText(QString::fromUtf8(model.units[row]));
         boxes_[kFirst + at].most = kMostOfPart[static_cast<std::size_t>(partOf(model, row))];
     }

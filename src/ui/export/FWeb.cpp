@@ -120,9 +120,9 @@ void FWeb::fitSize()
     showWaiting(true);
     running_ = true;
     const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
+    showWaiting(false);
     if (!alive) return;
     running_ = false;
-    showWaiting(false);
     if (closing_) return QDialog::reject();
     if (again_) return changed();
     if (!quality) {
@@ -173,28 +173,32 @@ bool FWeb::write(const QString& finalName)
     const WebSettings settings = settings_; // a change meanwhile is for the next one
     running_ = true;
     showWaiting(true);
-    const WebFile file =
-        writeWebFile(picture_, settings, name,
-                     finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow, yielding());
-    if (!alive) {
-        QGuiApplication::restoreOverrideCursor();
-        return false;
-    }
-    running_ = false;
+    const WebFile file = writeWebFile(picture_, settings, name,
+                                      finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow,
+                                      yielding(), &palettes_);
+    LoadedPicture shown; // the file as a reader sees it
+    if (alive && file.outcome == WebFile::Outcome::Written)
+        shown = platform_.loadPicture(name, settings.extension(), [go = yielding()](auto) {
+            try {
+                go(100);
+                return true;
+            } catch (const Cancelled&) {
+                return false;
+            }
+        });
     showWaiting(false);
+    if (!alive) return false;
+    running_ = false;
     if (file.outcome == WebFile::Outcome::NoBitmap)
         platform_.message(QStringLiteral("Please Choose a higher image format!"),
                           QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
-    if (alive && file.outcome == WebFile::Outcome::Written) showFile(file, name);
+    if (alive && shown.ok()) showFile(file, shown.bits); // else what was shown stays
     return alive && file.outcome == WebFile::Outcome::Written;
 }
 
-/// The file as a reader sees it; where it can't be read what was shown stays.
-void FWeb::showFile(const WebFile& file, const QString& name)
+void FWeb::showFile(const WebFile& file, const Bits& shown)
 {
-    const LoadedPicture picture = platform_.loadPicture(name, settings_.extension());
-    if (!picture.ok()) return;
-    optimizedBits_ = picture.bits;
+    optimizedBits_ = shown;
     oSrc_->setBits(optimizedBits_);
     if (sT_->currentIndex() == kBothTab) optimized_->setBits(optimizedBits_);
     for (QLabel* label : {FileType2_, FileType4_}) label->setText(settings_.typeText());

@@ -51,8 +51,8 @@ class FWeb final : public QDialog {
     void run();
     /// Writes to a temporary file, or under the chosen name. False when there is nothing new to show, or this is gone.
     bool write(const QString& finalName = {});
-    void showFile(const WebFile& file, const QString& name);
-    void showWaiting(bool waiting);
+    void showFile(const WebFile& file, const Bits& shown);
+    static void showWaiting(bool waiting);
     ReduceProgress yielding();
     QString temporaryName() const;
 
@@ -60,6 +60,7 @@ class FWeb final : public QDialog {
     Bits picture_, optimizedBits_;
     QString path_;
     WebSettings settings_;
+    BestPalettes palettes_;
     QTimer timer_;
     bool running_ = false, again_ = false, closing_ = false;
     std::uint32_t lastYield_ = 0;

@@ -188,7 +188,7 @@ void fTexturize::nextThumbnail()
     if (!alive) return;
     item->setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
     if (!loaded.ok()) {
-        item->setText(item->text() + tr(" (can't be read)"));
+        item->setText(item->text() + u'\n' + tr("(can't be read)")); // beside the icon there is room for two lines
         item->setToolTip(loaded.reason);
         item->setForeground(palette().color(QPalette::PlaceholderText));
     }

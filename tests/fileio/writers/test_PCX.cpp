@@ -76,4 +76,14 @@ TEST(PCX, KeepsTheTailOfALongerFile)
     EXPECT_EQ(file, header(1, 2, 1, 2) + run + Bytes(70, 'x'));
 }
 
+TEST(PCX, CanBeStoppedWhileItWrites)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a.pcx");
+    int asked = 0;
+    EXPECT_FALSE(PCX().SavePCXinFile(path, randomBits(900, 900, 5), true, [&] { return ++asked < 3; }));
+    EXPECT_EQ(3, asked);
+    EXPECT_FALSE(QFile::exists(path));
+}
+
 } // namespace velara

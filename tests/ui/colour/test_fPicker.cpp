@@ -60,6 +60,15 @@ TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)
     EXPECT_EQ("60 100 100 255 255 0", all());
     type("txtB", "50");
     EXPECT_EQ("60 100 50 128 128 0", all());
+    find<QLineEdit>("txtH")->setFocus(Qt::TabFocusReason);
+    for (const char* typed : {"60", "40", "100"}) { // each replaces what stands in its box
+        QTest::keyClicks(picker.focusWidget(), typed);
+        QTest::keyClick(picker.focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ("60 40 100 255 255 153", all());
+    type("txtS", "100");
+    type("txtB", "50");
     constexpr struct {
         const char *box, *text, *most;
     } kBad[] = {{"txtH", "361", "360"}, {"txtS", "101", "100"}, {"txtB", "-1", "100"},
@@ -143,6 +152,7 @@ TEST_F(Picker, ModelsRewriteTheLetters)
     find<QComboBox>("cmbModel")->setCurrentIndex(1);
     EXPECT_EQ("CMY", find<QLabel>("lblR")->text() + find<QLabel>("lblG")->text() + find<QLabel>("lblB")->text());
     EXPECT_EQ("0 100 100 0 255 255", all());
+    EXPECT_EQ("Yellow", find<QLineEdit>("Text3")->accessibleName());
     type("Text1", "55");
     EXPECT_EQ(colourOf(200, 0, 0), picker.colour());
     find<QComboBox>("cmbModel")->setCurrentIndex(2);

@@ -16,9 +16,11 @@ namespace {
 
 struct RealFiles final : RecordingPlatform {
     std::uint32_t milliseconds() override { return now += 20; } // a yield falls due at each report
-    LoadedPicture loadPicture(const QString& path, const QString& extension) override
+    std::function<void()> onRead;                               // the file is written
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override
     {
-        return loadThroughDecoder(path, extension, builtPath("velara-decode"));
+        if (onRead) onRead();
+        return loadThroughDecoder(path, extension, builtPath("velara-decode"), {}, goOn);
     }
 };
 
@@ -189,10 +191,16 @@ TEST_F(ExportDialogs, OneRunAfterTheLastChangeAndEscEndsIt)
     idle(dialog);
     EXPECT_EQ("BMP", text(dialog, "FileType2")) << "the later change stands";
     EXPECT_EQ("16 Colors", text(dialog, "Depth2"));
-    world.onYield = [&] { QTest::keyClick(&dialog, Qt::Key_Escape); };
-    choose(dialog, "CboFiles", "PNG-8 bit");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, 5000));
-    EXPECT_EQ("BMP", text(dialog, "FileType2")) << "nothing came of it";
+    for (const bool whileReading : {false, true}) {
+        FWeb web(world, randomBits(800, 600, 3), "Photo", {});
+        const auto escape = [&] { QTest::keyClick(&web, Qt::Key_Escape); };
+        world.onYield = whileReading ? std::function<void()>() : escape;
+        world.onRead = [&] { world.onYield = escape; };
+        web.show();
+        choose(web, "CboFiles", "PNG-24 bit");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !web.isVisible(); }, 5000));
+        EXPECT_EQ("", text(web, "FileType2")) << "nothing came of it";
+    }
 }
 
 TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
