@@ -28,7 +28,8 @@ void fMain::saveForWeb()
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)
 {
-    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), image.Tag(), this);
+    const QString file = image.Tag().mid(std::max<qsizetype>(image.Tag().indexOf('/'), 0)); // without a mark before it
+    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), file, this);
     dialog->exec();
     delete dialog;
 }
