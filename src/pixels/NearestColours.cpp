@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kRegionSide = 32;
 constexpr std::size_t kFewEnough = 96; // to hold each against each
+constexpr std::size_t kFewGreys = 64;  // a cube has four of them at most
 
 int far(Distance distance, int difference)
 {
@@ -26,6 +27,20 @@ NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance dista
         if (known.insert(c[2] << 16 | c[1] << 8 | c[0]).second)
             distinct_.push_back({{c[0], c[1], c[2]}, static_cast<std::uint16_t>(i)});
     }
+    const auto isGrey = [](const Candidate& c) { return c.c[0] == c.c[1] && c.c[1] == c.c[2]; };
+    if (distance == Distance::Squares && distinct_.size() > kFewGreys && std::ranges::all_of(distinct_, isGrey))
+        tellGreysBySum();
+}
+
+/// Of the squares to a grey v only 3v^2 - 2v(red + green + blue) differs from grey to grey. A long ramp crowds every
+/// cube, and is told sooner this way.
+void NearestColours::tellGreysBySum()
+{
+    constexpr int kMostSum = 3 * 255;
+    for (int sum = 0; sum <= kMostSum; ++sum)
+        bySum_.push_back(std::ranges::min_element(distinct_, {}, [sum](const Candidate& c) {
+                             return 3 * c.c[0] * c.c[0] - 2 * c.c[0] * sum;
+                         })->entry);
 }
 
 void NearestColours::colour(const Pixel* from, Pixel* to, int count)
@@ -112,6 +127,7 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
 /// For a pixel in a cube that is crowded, or was not looked into.
 int NearestColours::lookCloser(Pixel p)
 {
+    if (!bySum_.empty()) return bySum_[std::size_t(p.c[0] + p.c[1] + p.c[2])];
     Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(inRegister(p))))];
     if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
     if (cube.hasFew()) return among(cube, inRegister(p));

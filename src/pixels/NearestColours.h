@@ -91,6 +91,7 @@ class NearestColours {
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
     Cube lookInto(std::array<int, 3> low);
     std::uint32_t crowdOf(const Candidates& candidates, std::array<int, 3> low);
+    void tellGreysBySum();
 
     Distance distance_;
     std::vector<Pixel> colours_;
@@ -98,6 +99,7 @@ class NearestColours {
     std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
     std::vector<Cube> cubes_;
     std::deque<Crowd> crowds_;
+    std::vector<std::uint16_t> bySum_; // of the channels, where all colours are grey and squares count
 };
 
 } // namespace velara

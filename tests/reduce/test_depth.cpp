@@ -99,12 +99,15 @@ TEST(Depth, EveryMethodIsThePlainDefinition)
 TEST(NearestColours, AnyPaletteByBothDistances)
 {
     std::mt19937 random(3);
-    for (const int spread : {256, 40, 3}) // far apart, close, nearly all alike
+    for (const int spread : {256, 40, 3, 0}) // far apart, close, nearly all alike, greys
         for (const std::size_t count : {1, 2, 7, 256, 1500}) {
             std::vector<Pixel> colours(count);
             for (Pixel& p : colours)
-                for (auto& c : p.c)
-                    c = static_cast<std::uint8_t>((256 - spread) / 2 + int(random() % unsigned(spread)));
+                if (const auto grey = std::uint8_t(random()); spread == 0)
+                    p = {{grey, grey, grey, 0}};
+                else
+                    for (auto& c : p.c)
+                        c = static_cast<std::uint8_t>((256 - spread) / 2 + int(random() % unsigned(spread)));
             for (const Distance distance : {Distance::Sum, Distance::Squares}) {
                 NearestColours nearest(colours, distance);
                 for (int i = 0; i < 2000; ++i) {
