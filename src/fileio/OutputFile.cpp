@@ -153,6 +153,7 @@ bool OutputFile::flush()
 bool OutputFile::write(const void* bytes, std::size_t size)
 {
     if (file_ < 0 || failed_) return false;
+    if (size == 0) return true; // whose bytes may be nowhere
     const auto* from = static_cast<const std::uint8_t*>(bytes);
     if (size >= kDirect) { // nothing to gain from a copy
         if (flush() && !writeAll(file_, from, size)) failed_ = true;
