@@ -22,8 +22,10 @@ unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_h
 /// ended by text, which is what FreeImage throws and catches itself.
 unsigned DLL_CALLCONV writeOrThrow(void* bytes, unsigned size, unsigned count, fi_handle handle)
 {
-    if (writeProc(bytes, size, count, handle) != count) throw "the file can't be written";
-    return count;
+    constexpr std::size_t kHeader = 8; // written as the file is opened, where they mind, and where TIFF's would leak
+    if (writeProc(bytes, size, count, handle) == count) return count;
+    if (std::size_t{size} * count > kHeader) throw "the file can't be written";
+    return 0;
 }
 
 int DLL_CALLCONV seekProc(fi_handle handle, long offset, int origin)
