@@ -3,7 +3,7 @@
 #include "app/menus/menus.h"
 #include "engine/operations.h"
 #include "tools/contactSheet.h"
-#include "tools/dialogTrials.h"
+#include "tools/reference/dialogTrials.h"
 #include "tools/samplePicture.h"
 #include <QDir>
 #include <QGuiApplication>
@@ -117,12 +117,10 @@ QString describe(const FilterRow& row, const FilterArgs& args)
     return parts.join(QStringLiteral(", "));
 }
 
-Tile tileOf(const FilterRow& row, const QString& caption, DialogTrial trial, bool closeUp)
+Tile tileOf(const FilterRow& row, const QString& caption, const FilterArgs& args, bool closeUp)
 {
-    const FilterArgs args = trialArgs(row, trial);
     Tile tile{caption, describe(row, args),
               after(closeUp, [&](cBitFilter& filter) { filter.setBits(row.call(filter, args)); })};
-    if (trial == DialogTrial::AsItOpens) tile.detail.prepend(QStringLiteral("As it opens: "));
     for (std::size_t i = 0; i < 2; ++i)
         if (const Colour c = args.colour[i];
             has(row.extras, i == 0 ? FilterExtra::SourceWell : FilterExtra::TargetWell))
@@ -182,8 +180,11 @@ class Gallery {
 
     void addDialog(Section& section, const FilterRow& row, const QString& caption)
     {
-        for (const DialogTrial trial : {DialogTrial::AsItOpens, DialogTrial::Telling})
-            section.tiles.push_back(tileOf(row, caption, trial, closeUp_));
+        const DialogTrial& trial = dialogTrial(row);
+        Tile opening = tileOf(row, caption, trial.openingArgs(), closeUp_);
+        opening.detail.prepend(QStringLiteral("As it opens: "));
+        section.tiles.push_back(std::move(opening));
+        section.tiles.push_back(tileOf(row, caption, trial.tellingArgs(), closeUp_));
         dialogs_.insert(row.number);
     }
 

@@ -2,6 +2,7 @@
 #include "engine/colour/mPalette.h"
 #include "pixels/numbers.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 #include <algorithm>
 #include <cmath>
 
@@ -252,4 +253,31 @@ Definitions colourDefinitions()
         {"Equalize", equalize},       {"ClassyColors", classyColors},   {"PaletteApply", paletteApply},
     };
 }
+
+DialogTrials colourDialogs()
+{
+    // clang-format off
+    return {
+        {1, "Adjust [Brightness]: Level -100..250, 0",
+         "BRIGHTNESS", {0}, {60}, {60}},
+        {2, "Adjust [Contrast]: Level -100..250, 0",
+         "CONTRAST", {0}, {60}, {60}},
+        {3, "Adjust [Saturation]: Level -100..250, 0",
+         "SATURATION", {0}, {100}, {100}},
+        {4, "Adjust [Gamma correction]: Gamma 0..2, 1, by 0.01",
+         "GammaCorrection", {0}, {-50}, {-50}},
+        {13, "Edges [Threshold]: Cut value 0..255, 128",
+         "Threshold", {128}, {100}, {100}},
+        {15, "Color [Reduction]: Level 0..255, 0",
+         "Reduction", {0}, {63}, {63}},
+        {23, "Color [Grey rotation]: Offset 0..100, 0; Steps 0..100, 25",
+         "RotateL", {0, 25}, {40, 60}, {40, 60}},
+        {25, "Color [RGB levels]: Red -255..255, 0; Green -255..255, 0; Blue -255..255, 0",
+         "ShiftRGB", {0, 0, 0}, {60, -20, -80}, {60, -20, -80}},
+        {26, "Color [RGB banks]: banks",
+         "SwapRGB", {2, 1, 0, false, false, false, 0, 0, 0}, {1, 0, 2, false, true, false, 0, 0, 255}, {}, kBlackWhite, {.channel = {1, 0, 2}, .invert = {false, true, false}, .kill = {false, false, true}}},
+    };
+    // clang-format on
+}
+
 } // namespace velara

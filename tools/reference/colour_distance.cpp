@@ -2,6 +2,7 @@
 #include "pixels/mHSLRGB.h"
 #include "pixels/numbers.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 #include <cmath>
 
 namespace velara {
@@ -116,4 +117,29 @@ Definitions distanceDefinitions()
     return {{"ISOLATE", isolate}, {"REPLACE", replace}, {"ReplaceHS", replaceHS}, {"ReplaceL", replaceL},
             {"Shift", shift},     {"RotateH", rotateH}, {"COLORIZE", colorize},   {"StretchH", stretchH}};
 }
+
+DialogTrials distanceDialogs()
+{
+    // clang-format off
+    return {
+        {0, "Color [Colorize]: Hue 0..100, 0; Saturation 0..100, 50; Luminosity 0..100, 100",
+         "COLORIZE", {0.0, 0.5, 1.0}, {144 / 40.0, 0.5, 1.0}, {60, 50, 100}},
+        {14, "Color [Isolate]: Tolerance 0..200, 100; 2 wells; picks a colour",
+         "ISOLATE", {kWhite, 0, 100}, {kMeadow, kWhite, 70}, {70}, {kMeadow, kWhite}},
+        {16, "Color [Replace]: Tolerance 0..200, 100; 2 wells; picks a colour",
+         "REPLACE", {kWhite, 0, 100}, {kRoof, 0xDC3C28, 80}, {80}, {kRoof, colourOf(40, 60, 220)}},
+        {17, "Color [Replace Hue/Sat.]: Hue Tolerance 0..100, 50; Sat. Tolerance 0..100, 50; Apply Tolerance 0..200, 100; 2 wells; picks a colour",
+         "ReplaceHS", {kWhite, 0, 50, 50, 100}, {kMeadow, 0x1EA0F0, 20, 60, 120}, {20, 60, 120}, {kMeadow, colourOf(240, 160, 30)}},
+        {18, "Color [Replace Lum.]: Lum. Tolerance 0..100, 50; Apply Tolerance 0..200, 100; 2 wells; picks a colour",
+         "ReplaceL", {kWhite, 0, 50, 100}, {kSky, 0x781478, 30, 150}, {30, 150}, {kSky, colourOf(120, 20, 120)}},
+        {21, "Color [Shift]: Shift -255..255, 0; Tolerance 0..200, 100; 1 well; picks a colour",
+         "Shift", {kWhite, 0, 100}, {kSky, 90, 150}, {90, 150}, {kSky, kWhite}},
+        {22, "Color [Hue rotation]: Offset 0..100, 0; Saturation 0..100, 100",
+         "RotateH", {0, 100}, {33, 100}, {33, 100}},
+        {24, "Color [Hue stretch]: Offset 0..100, 0; Saturation 0..100, 100; Stretch factor 0..100, 0",
+         "StretchH", {0, 100, 0}, {20, 80, 40}, {20, 80, 40}},
+    };
+    // clang-format on
+}
+
 } // namespace velara

@@ -1,7 +1,7 @@
 // Trials of the command words: every preset, and every filter dialog as it opens and with telling values, on the sample
 // picture.
-#include "tools/dialogTrials.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 #include "tools/reference/trials.h"
 #include "tools/samplePicture.h"
 
@@ -24,13 +24,13 @@ std::vector<Command> commands()
                            return filter.bits();
                        }});
     for (const FilterRow& row : filterRows()) {
-        const DialogCall& call = dialogCall(row);
-        const auto add = [&](const char* when, DialogTrial trial, const Arguments& arguments) {
-            all.push_back({row.title + std::string(when), call.operation, arguments,
-                           [&row, trial](cBitFilter& filter) { return row.call(filter, trialArgs(row, trial)); }});
+        const DialogTrial& trial = dialogTrial(row);
+        const auto add = [&](const char* when, const FilterArgs& args, const Arguments& arguments) {
+            all.push_back({row.title + std::string(when), trial.operation, arguments,
+                           [&row, args](cBitFilter& filter) { return row.call(filter, args); }});
         };
-        add(", as it opens", DialogTrial::AsItOpens, call.asItOpens);
-        add(", telling", DialogTrial::Telling, call.telling);
+        add(", as it opens", trial.openingArgs(), trial.asItOpens);
+        add(", telling", trial.tellingArgs(), trial.telling);
     }
     return all;
 }

@@ -1,6 +1,7 @@
 // Definitions of the filters that move pixels.
 #include "pixels/numbers.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 
 namespace velara {
 namespace {
@@ -228,4 +229,34 @@ Definitions deformDefinitions()
         {"GLASS", glass},
     };
 }
+
+DialogTrials deformDialogs()
+{
+    using namespace std::string_literals;
+    // clang-format off
+    return {
+        {27, "Deformation [Lens]: Diameter 1..100, 50; Magnify factor 0..100, 50; picks the centre",
+         "LENS", {0.5, 0.5, 50 / 300.0, 50}, {double(0.3f), double(0.62f), 60 / 300.0, 80}, {60, 80}, kBlackWhite, {.centerX = 0.3f, .centerY = 0.62f}},
+        {28, "Deformation [Waves]: Frequency 0..100, 25; Amplitude 1..100, 25; Start degree 0..360, 0",
+         "WAVES", {25, 25, 0}, {3, 60, 90}, {3, 60, 90}},
+        {29, "Deformation [Bend]: Radius factor -200..200, 0; option Clean back",
+         "BEND", {0, false}, {120, true}, {120}, kBlackWhite, kOption},
+        {30, "Deformation [Fold]: Horizontal factor -100..100, 0; Vertical factor -100..100, 0; option Clean back",
+         "FOLD", {0, 0, false}, {60, -40, true}, {60, -40}, kBlackWhite, kOption},
+        {31, "Deformation [Rotate]: Degrees -180..180, 0; option Clean back",
+         "ROTATE", {0, false}, {30, true}, {30}, kBlackWhite, kOption},
+        {32, "Deformation [Stretch]: Horizontal factor -100..100, 0; Vertical factor -100..100, 0; option Clean back",
+         "STRETCH", {0, 0, false}, {60, 30, true}, {60, 30}, kBlackWhite, kOption},
+        {33, "Deformation [Tile]: Factor 2..50, 2",
+         "TILE", {2}, {4}, {4}},
+        {34, "Deformation [Twirl]: Level -100..100, 0; Offset degrees -180..180, 0; option Clean back",
+         "TWIRL", {0, 0, false}, {40, 20, true}, {40, 20}, kBlackWhite, kOption},
+        {39, "Behind Glass: glass",
+         "GLASS", {"slanting"s, 0}, {"squary"s, 2}, {}, kBlackWhite, {.style = "squary", .mode = 2}},
+        {40, "Behind Curtain: curtain",
+         "GLASS", {"curtain"s, 0}, {"curtain"s, 3}, {}, kBlackWhite, {.mode = 3}},
+    };
+    // clang-format on
+}
+
 } // namespace velara

@@ -2,6 +2,7 @@
 #include "pixels/numbers.h"
 #include "pixels/random.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 
 namespace velara {
 namespace {
@@ -174,4 +175,21 @@ Definitions generateDefinitions()
         {"TileMask", tileMask},
     };
 }
+
+DialogTrials generateDialogs()
+{
+    // clang-format off
+    return {
+        {35, "Special [Grid]: Horizontal step 1..250, 25; Vertical step 1..250, 25; Opacity 0..255, 128; option Force margins; 1 well",
+         "Grid", {25, 25, false, 0, 128}, {60, 40, true, 0x00FFFF, 200}, {60, 40, 200}, {kBlack, colourOf(255, 255, 0)}, kOption},
+        {36, "Special [Light]: Extension 1..100, 50; Intensity 0..500, 250; Definition 0..100, 0; picks the centre",
+         "Light", {0.5, 0.5, 50 / 300.0, 250, 0}, {0.75, double(0.22f), 80 / 300.0, 400, 20}, {80, 400, 20}, kBlackWhite, {.centerX = 0.75f, .centerY = 0.22f}},
+        {37, "Special [Noise]: Intensity 0..100, 25; option Equalized",
+         "NOISE", {25, false}, {60, true}, {60}, kBlackWhite, kOption},
+        {38, "Special [Scanlines]: Opacity 0..255, 128",
+         "Scanlines", {128}, {220}, {220}},
+    };
+    // clang-format on
+}
+
 } // namespace velara

@@ -2,6 +2,7 @@
 #include "pixels/numbers.h"
 #include "pixels/random.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 #include <algorithm>
 #include <cmath>
 #include <sstream>
@@ -264,4 +265,27 @@ Definitions neighbourDefinitions()
             {"RankFilterND", rankFilterND},
             {"MaskFilter", maskFilter}};
 }
+
+DialogTrials neighbourDialogs()
+{
+    // clang-format off
+    return {
+        {5, "Definition [Diffuse]: Horizontal range 0..50, 2; Vertical range 0..50, 2",
+         "DIFFUSE", {2, 2}, {30, 6}, {30, 6}},
+        {6, "Adjust [Blur]: Level 0..2, 0",
+         "Blurs", {0}, {2}, {2}},
+        {9, "Edges [Emboss]: Weight 0..50, 10",
+         "EMBOSS", {10}, {20}, {20}},
+        {10, "Edges [Engrave]: Weight 0..50, 10",
+         "ENGRAVE", {10}, {45}, {45}},
+        {11, "Edges [Contour]: Weight 0..255, 255; 1 well",
+         "CONTOUR", {255, 0}, {200, 0xC8F0FF}, {200}, {kBlack, colourOf(255, 240, 200)}},
+        {19, "Adjust [Sharpen]: Level 0..100, 0",
+         "SHARPEN", {0}, {60}, {60}},
+        {20, "Adjust [Soften]: Level 0..100, 0",
+         "SOFTEN", {0}, {100}, {100}},
+    };
+    // clang-format on
+}
+
 } // namespace velara

@@ -2,6 +2,7 @@
 #include "pixels/RuntimeError.h"
 #include "pixels/numbers.h"
 #include "tools/reference/definitions.h"
+#include "tools/reference/dialogTrials.h"
 #include <cmath>
 
 namespace velara {
@@ -196,4 +197,19 @@ Definitions styliseDefinitions()
             {"Halftone", halftone},   {"SKETCH", sketch},     {"StuckiBW", stuckiBW},
             {"THERMIQUE", thermique}, {"XBLACK", xblack},     {"PHOTOCOP", photocop}};
 }
+
+DialogTrials styliseDialogs()
+{
+    // clang-format off
+    return {
+        {7, "Definition [Halftone]: Radius 1..25, 1; Definition 0..100, 50; Intensity 0..100, 0",
+         "Halftone", {1, 50, 0}, {4, 50, 40}, {4, 50, 40}},
+        {8, "Definition [Pixelaze]: Pixel size 1..25, 2",
+         "PIXELIZE", {2}, {10}, {10}},
+        {12, "Edges [Sketch]: Weight 0..255, 255; option B/W; 1 well",
+         "SKETCH", {255, false, 0}, {40, true, 0x782846}, {40}, {kBlack, colourOf(70, 40, 120)}, kOption},
+    };
+    // clang-format on
+}
+
 } // namespace velara
