@@ -1,4 +1,5 @@
 #include "document/Draft.h"
+#include "pixels/RuntimeError.h"
 
 namespace velara {
 
@@ -19,6 +20,18 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
     draft_.handTo(filter_);
     limit_ = draft_.Region.RegionMain();
     selection_ = draft_.Region.Region();
+}
+
+Outcome Draft::attempt(const Job& job)
+{
+    try {
+        run(job);
+        return {};
+    } catch (const Cancelled&) {
+        return {Outcome::Cancelled};
+    } catch (const std::exception& failure) {
+        return {Outcome::Failed, QString::fromUtf8(failure.what())};
+    }
 }
 
 bool Draft::wanted() const { return document_ && document_->commits() == commits_; }

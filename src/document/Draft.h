@@ -16,6 +16,8 @@ class Draft {
     /// The engine that the job gets; for its Progress.
     cBitFilter& filter() { return filter_; }
     void run(const Job& job) { job(draft_, filter_); }
+    /// The same, with what the job throws told by the outcome.
+    Outcome attempt(const Job& job);
     /// The document is there and at the step that the draft began with.
     bool wanted() const;
     /// The result goes into the document, which must be wanted, with an undo step. A sizing word that left the picture

@@ -37,6 +37,12 @@ QString filterOf(std::span<const Kinds> kinds)
 
 QString extensionOf(const QString& path) { return QFileInfo(path).suffix().toLower(); }
 
+QString withExtension(const QString& path, const QString& extension)
+{
+    if (!extensionOf(path).isEmpty()) return path;
+    return path + (path.endsWith('.') ? "" : ".") + extension;
+}
+
 const Format* formatOf(const QString& path) { return findFormat(extensionOf(path).toStdString()); }
 
 const QString& openFilter()

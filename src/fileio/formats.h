@@ -120,6 +120,8 @@ const Format* formatOf(const QString& path);
 
 /// What lies behind the last dot of the file's name, in lower case.
 QString extensionOf(const QString& path);
+/// The path; where its name has no extension, with the one given.
+QString withExtension(const QString& path, const QString& extension);
 
 /// What the file dialogs show, as seams/Dialogs.h takes it.
 const QString& openFilter();

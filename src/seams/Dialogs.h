@@ -16,7 +16,7 @@ enum class Answer { Yes, No, Cancel };
 struct FileDialog {
     QString title;
     QString filter;
-    QString folder;
+    QString folder = {};
     QString defaultPattern = {};
     /// For a save dialog: the extension of a name without one, where the chosen filter stands for several.
     QString extension = {};

@@ -36,14 +36,7 @@ Outcome RecordingFrame::change(const DocumentHandle& document, const Job& job, A
         platform_.yield();
         if (!draft.wanted()) throw Cancelled();
     };
-    Outcome outcome;
-    try {
-        draft.run(job);
-    } catch (const Cancelled&) {
-        outcome = {Outcome::Cancelled};
-    } catch (const std::exception& failure) {
-        outcome = {Outcome::Failed, QString::fromUtf8(failure.what())};
-    }
+    const Outcome outcome = draft.attempt(job);
     progress.push_back(0);
     if (!handle) return {Outcome::Gone};
     if (!draft.wanted()) return {Outcome::Dropped, "dropped"};

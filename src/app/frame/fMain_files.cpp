@@ -25,13 +25,6 @@ QString FileNameOf(const QString& path)
     return name;
 }
 
-/// A name without an extension gets the one given.
-QString withExtension(const QString& path, const QString& extension)
-{
-    if (!extensionOf(path).isEmpty()) return path;
-    return path + (path.endsWith('.') ? "" : ".") + extension;
-}
-
 bool isDropped(const QString& path)
 {
     return std::ranges::any_of(kFormats, [&](const Format& f) {
@@ -170,7 +163,7 @@ void fMain::saveAs()
     const QString usual = own && own->saved() ? extensionOf(image->Caption()) : QStringLiteral("png");
     FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
     dialog.extension = usual;
-    dialog.writtenAs = [](const QString& name) { return saveTargetOf(name).file; };
+    dialog.writtenAs = [usual](const QString& name) { return saveTargetOf(withExtension(name, usual)).file; };
     const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;
     if (setup_.PreserveLastFolder) dialogFolder_ = path->left(path->lastIndexOf('/') + 1);

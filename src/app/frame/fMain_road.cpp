@@ -21,14 +21,7 @@ Outcome fMain::change(const DocumentHandle& document, const Job& job, After afte
         platform_.yield();
         if (closing_ || !draft.wanted()) throw Cancelled();
     };
-    Outcome outcome;
-    try {
-        draft.run(job);
-    } catch (const Cancelled&) {
-        outcome = {Outcome::Cancelled};
-    } catch (const std::exception& failure) {
-        outcome = {Outcome::Failed, QString::fromUtf8(failure.what())};
-    }
+    const Outcome outcome = draft.attempt(job);
     status_->setProgress(0);
     fImage* image = closing_ ? nullptr : documents_->of(handle);
     if (!image) return {Outcome::Gone};

@@ -1,6 +1,7 @@
 // FWeb: what the dialog does. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
+#include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/ActiveComposer.h"
@@ -227,17 +228,13 @@ void FWeb::saveAs()
 {
     if (running_) return;
     const QPointer<FWeb> alive = this;
-    const auto name = platform_.saveFileName({QStringLiteral("Save Optimized As"), settings_.saveFilter(), {}});
+    FileDialog dialog{QStringLiteral("Save Optimized As"), settings_.saveFilter()};
+    dialog.extension = settings_.extension();
+    const auto fileOf = [extension = dialog.extension](const QString& name) { return withExtension(name, extension); };
+    dialog.writtenAs = fileOf;
+    const auto name = platform_.saveFileName(dialog);
     if (!alive || !name) return;
-    QString chosen = *name;
-    if (QFileInfo(chosen).suffix().isEmpty()) {
-        chosen += u'.' + settings_.extension();
-        const bool isFree = !QFileInfo::exists(chosen) ||
-                            platform_.askYesNoCancel(
-                                kProgramName, tr("%1 exists already. Replace it?").arg(QFileInfo(chosen).fileName()),
-                                Icon::Exclamation) == Answer::Yes;
-        if (!alive || !isFree) return;
-    }
+    const QString chosen = fileOf(*name);
     choices_->setEnabled(false); // what is being written is what was asked for
     again_ = false;
     const bool written = write(chosen);

@@ -133,6 +133,7 @@ TEST_F(FrameTest, ANameWithoutAnExtensionGetsOne)
     }
     EXPECT_EQ(platform.lastDialog.writtenAs("/a/x.PGM"), "/a/x.ppm");
     EXPECT_EQ(platform.lastDialog.writtenAs("/a/x.png"), "/a/x.png");
+    EXPECT_EQ(platform.lastDialog.writtenAs("/a/x."), "/a/x.bmp");
 }
 
 TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)

@@ -225,6 +225,7 @@ TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
     world.answers = {std::nullopt};
     controlOf<QPushButton>(dialog, "CmdSave")->click();
     EXPECT_EQ("", world.lastDialog.filter) << "an interlaced one has none";
+    EXPECT_EQ("/a/out.gif", world.lastDialog.writtenAs("/a/out"));
 
     const Bits before = controlOf<fPicture>(dialog, "oSrc")->bits();
     QDir(world.folder.filePath("Temp")).removeRecursively();
