@@ -14,11 +14,8 @@ until_true "the question to go" no_question
 running || fail "cancel let the editor end"
 keys ctrl+w
 until_true "the question of the document" question
-keys alt+y
-until_true "the save dialog" has_window '^Save as$'
-sleep 0.2
-xdotool type --delay 4 "$scratch/out.bmp"
-keys Return
+brings 'Save as' alt+y
+enter "$scratch/out.bmp"
 until_true "the saved file" test -s "$scratch/out.bmp"
 same "$scratch/out.bmp" "$scratch/negative.bmp" || fail "what was saved is not what was seen"
 open_file "$scratch/in.bmp"

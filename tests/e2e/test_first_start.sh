@@ -21,7 +21,6 @@ awk '{for (i in x) if ($1 < x[i] + w[i] && x[i] < $1 + $3 && $2 < y[i] + h[i] &&
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert "$scratch/in.png" -negate "$scratch/negative.png"
 open_file "$scratch/in.png"
-undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
 until_true "the first snapshot" undo_files 1
 keys alt+l i
 until_true "the snapshot of the filter" undo_files 2

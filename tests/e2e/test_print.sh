@@ -7,16 +7,11 @@ export CUPS_SERVER="$scratch/run/no-server" # there are no printers here
 
 start
 open_file "$scratch/in.bmp"
-keys ctrl+p
-until_true "the print dialog" has_window '^Print$'
-sleep 0.5
-if [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/print.png"; fi
-keys Return
-until_true "the name of the file" has_window '^Print to file$'
+brings Print ctrl+p
 sleep 0.2
-xdotool key ctrl+a
-xdotool type --delay 4 "$scratch/page"
-keys Return
+if [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/print.png"; fi
+brings 'Print to file' Return
+enter "$scratch/page"
 until_true "the page" test -s "$scratch/page.pdf"
 until_true "the dialog to close" no_window '^Print$'
 
