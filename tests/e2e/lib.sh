@@ -167,3 +167,8 @@ quit() {
 
 # same FILE FILE: the same pixels
 same() { [ "$(compare -metric AE "$1" "$2" null: 2>&1)" = 0 ]; }
+# saves FILE WANTED WHAT: the picture, and it is the wanted one
+saves() {
+    save_as "$1"
+    same "$1" "$2" || fail "$3"
+}

@@ -25,11 +25,9 @@ open_file "$scratch/in.bmp"
 rm -r "$folder/Temp"
 keys alt+l i
 until_true "the folder to come back" test -d "$folder/Temp"
-save_as "$scratch/out.bmp"
-same "$scratch/out.bmp" "$scratch/negative.bmp" || fail "the filter without its Temp folder"
+saves "$scratch/out.bmp" "$scratch/negative.bmp" "the filter without its Temp folder"
 keys alt+l i ctrl+z
-save_as "$scratch/undone.bmp"
-same "$scratch/undone.bmp" "$scratch/negative.bmp" || fail "undo after the folder came back"
+saves "$scratch/undone.bmp" "$scratch/negative.bmp" "undo after the folder came back"
 
 # The frame closed while a filter is at work
 convert -size 4000x3000 gradient:red-blue "$scratch/large.bmp"
