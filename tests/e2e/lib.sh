@@ -9,7 +9,8 @@ chmod 700 "$scratch/run"
 cp "$bin/velara-studio" "$bin/velara-decode" "$bin/velara-scan" "$folder/"
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
 export ASAN_OPTIONS=detect_leaks=0:exitcode=99
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR || true
+export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus
+unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
 pids=""
 editor=""
 
@@ -62,6 +63,9 @@ titled() { xdotool search --all --onlyvisible --pid "$editor" --name '^Velara St
 count_titled() { [ "$(titled | wc -l)" = "$1" ]; }
 # The frame's window, while no box stands
 frame() { titled | head -1; }
+# So many undo files, of so many documents
+undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
+documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
 
 start() {
     (cd "$folder" && exec ./velara-studio) >"$scratch/log" 2>&1 &
@@ -104,24 +108,52 @@ keys() {
     done
 }
 
-# open FILE: by the file dialog
-open_file() {
-    keys ctrl+o
-    until_true "the open dialog" has_window '^Open file$'
-    sleep 0.2
+# brings TITLE KEYS...: the window that the keys open
+brings() {
+    title=$1
+    shift
+    keys "$@"
+    until_true "$title" has_window "^$title\$"
+    sleep 0.3
+}
+
+# enter TEXT: in place of what stands in the line, and Return
+enter() {
+    xdotool key ctrl+a
     xdotool type --delay 4 "$1"
     keys Return
+}
+
+# told WHAT: a message box beside the frame, which Return takes away
+told() {
+    until_true "the message about $1" count_titled 2
+    keys Return
+    until_true "the message about $1 to go" count_titled 1
+}
+
+# stroke X Y X Y...: the left button held from the first place of the screen to the last
+stroke() {
+    xdotool mousemove "$1" "$2" mousedown 1
+    while [ $# -gt 2 ]; do
+        shift 2
+        sleep 0.1
+        xdotool mousemove "$1" "$2"
+    done
+    sleep 0.1
+    xdotool mouseup 1
+}
+
+# open FILE: by the file dialog
+open_file() {
+    brings 'Open file' ctrl+o
+    enter "$1"
     until_true "the open dialog to close" no_window '^Open file$'
     sleep 0.3
 }
 
 save_as() {
-    keys ctrl+shift+s
-    until_true "the save dialog" has_window '^Save as$'
-    sleep 0.2
-    xdotool key ctrl+a
-    xdotool type --delay 4 "$1"
-    keys Return
+    brings 'Save as' ctrl+shift+s
+    enter "$1"
     until_true "the saved file" test -s "$1"
     until_true "the save dialog to close" no_window '^Save as$'
     sleep 0.2
@@ -135,3 +167,8 @@ quit() {
 
 # same FILE FILE: the same pixels
 same() { [ "$(compare -metric AE "$1" "$2" null: 2>&1)" = 0 ]; }
+# saves FILE WANTED WHAT: the picture, and it is the wanted one
+saves() {
+    save_as "$1"
+    same "$1" "$2" || fail "$3"
+}

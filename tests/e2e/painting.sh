@@ -17,13 +17,7 @@ over() { echo $((left + $1 * zoom + zoom / 2)) $((top + $2 * zoom + zoom / 2)); 
 
 # drag X1 Y1 X2 Y2, in picture pixels
 drag() {
-    xdotool mousemove $(over "$1" "$2") mousedown 1
-    sleep 0.05
-    xdotool mousemove $(over $((($1 + $3) / 2)) $((($2 + $4) / 2)))
-    sleep 0.05
-    xdotool mousemove $(over "$3" "$4")
-    sleep 0.05
-    xdotool mouseup 1
+    stroke $(over "$1" "$2") $(over $((($1 + $3) / 2)) $((($2 + $4) / 2))) $(over "$3" "$4")
     sleep 0.25
 }
 

@@ -8,9 +8,7 @@ open_large "$scratch/in.bmp" '#ff00ff' '#00ff00'
 
 # Nothing is selected: a message, and no clip.
 keys ctrl+c
-until_true "the message" has_window '^Velara Studio$'
-keys Return
-sleep 0.3
+told "the selection"
 
 # A bitmap of another program, with nothing in the history: it hangs on the pointer, and a click lays it down.
 convert -size 6x6 'xc:#0000ff' PNG32:- | xclip -selection clipboard -t image/png -i
@@ -55,8 +53,7 @@ is 3 20 8 "$plain"
 
 # The box: its first slot pastes the ellipse again, by the button "Clip 1".
 keys alt+v
-keys l
-until_true "the clip box" has_window '^Clip History$'
+brings 'Clip History' l
 box=$(xdotool search --onlyvisible --name '^Clip History$')
 xdotool windowmove --sync "$box" 920 100
 xdotool mousemove --window "$box" 100 25 click 1

@@ -21,18 +21,14 @@ awk '{for (i in x) if ($1 < x[i] + w[i] && x[i] < $1 + $3 && $2 < y[i] + h[i] &&
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert "$scratch/in.png" -negate "$scratch/negative.png"
 open_file "$scratch/in.png"
-undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
 until_true "the first snapshot" undo_files 1
 keys alt+l i
 until_true "the snapshot of the filter" undo_files 2
-save_as "$scratch/filtered.png"
-same "$scratch/filtered.png" "$scratch/negative.png" || fail "the filter's picture is wrong"
+saves "$scratch/filtered.png" "$scratch/negative.png" "the filter's picture is wrong"
 keys ctrl+z
-save_as "$scratch/undone.bmp"
-same "$scratch/undone.bmp" "$scratch/in.png" || fail "undo did not bring the picture back"
+saves "$scratch/undone.bmp" "$scratch/in.png" "undo did not bring the picture back"
 keys ctrl+y
-save_as "$scratch/redone.bmp"
-same "$scratch/redone.bmp" "$scratch/negative.png" || fail "redo did not bring the filter back"
+saves "$scratch/redone.bmp" "$scratch/negative.png" "redo did not bring the filter back"
 quit
 undo_files 0 || fail "undo files are left behind"
 [ "$(stat -c %s "$folder/Vlaera.dat")" = 3081 ] || fail "the configuration has a wrong length"

@@ -11,11 +11,15 @@ cp "$scratch/one.bmp" "$picture"
 is_whole() { same "$picture" "$scratch/one.bmp" || same "$picture" "$scratch/other.bmp"; }
 strays() { find "$scratch/pictures" -name '.velara-*' | wc -l; }
 
-caught=0 shortened=0
-for round in $(seq "$kills"); do
+begin() {
     start
     open_file "$picture"
     until_true "the first step" sh -c "ls '$folder'/Temp/b0001*.dat"
+}
+
+caught=0 shortened=0
+for round in $(seq "$kills"); do
+    begin
     (while kill -0 "$editor"; do xdotool key alt+l key i key ctrl+s; done) >/dev/null 2>&1 &
     busy=$!
     sleep "$(printf '0.%03d' $((RANDOM % 900 + 60)))"
@@ -26,9 +30,7 @@ for round in $(seq "$kills"); do
     [ -z "$(find "$folder/Temp" -name 'b*.dat' -size -25000k -print -delete)" ] || shortened=$((shortened + 1))
     [ "$(strays)" -le 1 ] || fail "round $round: what was left is not taken away"
 done
-start
-open_file "$picture"
-until_true "the first step" sh -c "ls '$folder'/Temp/b0001*.dat"
+begin
 before=$(stat -c %i "$picture")
 saved() { [ "$(stat -c %i "$picture")" != "$before" ] || { keys alt+l i ctrl+s && false; }; } # a key may be lost under load
 until_true "the last save" saved

@@ -17,42 +17,34 @@ chmod +x "$folder/velara-decode"
 
 now() { echo $(($(date +%s%N) / 1000000)); }
 begin() {
-    keys ctrl+o
-    until_true "the open dialog" has_window '^Open file$'
-    sleep 0.2
-    xdotool type --delay 4 "$1"
-    xdotool key Return
+    brings 'Open file' ctrl+o
+    enter "$1"
+    until_true "the box" reading
 }
 reading() { [ "$(titled | wc -l)" = 2 ] && pgrep -P "$editor" >/dev/null; }
 given_up() { ! pgrep -P "$editor" >/dev/null; }
-told() { # the message that it can't be read, and no reader any more
-    until_true "$1: no reader" given_up
-    until_true "$1: the message" count_titled 2
-    keys Return
-    until_true "$1: the message to go" count_titled 1
+refused() { # no reader any more, and the message that it can't be read
+    until_true "no reader of $1" given_up
+    told "$1"
 }
 start
 begin "$scratch/endless.gif"
-until_true "the box" reading
 sleep 0.3
 from=$(now)
 xdotool key Escape
 until_true "no reader" given_up
 took=$(($(now) - from))
 [ "$took" -lt 1000 ] || fail "giving up took $took ms"
-told "given up by Esc"
+refused "what Esc gave up"
 
 begin "$scratch/endless.gif"
-until_true "the box" reading
 sleep 0.3
 keys alt+F4
-told "given up by closing the box"
+refused "what the box's own close gave up"
 
-from=$(now)
 begin "$scratch/short.gif"
-until_true "the box" reading
-told "left alone"
+refused "what was left alone"
 
 open_file "$scratch/good.bmp"
-until_true "a picture that is read" sh -c "ls '$folder/Temp'/b*00.dat"
+until_true "a picture that is read" documents 1
 quit

@@ -16,7 +16,7 @@ flag() { od -An -td2 -j2326 -N2 "$folder/Vlaera.dat" | tr -d ' '; }
 start
 [ "$(size)" = "$before" ] || fail "place and size were $before, are $(size)"
 keys alt+f r Return
-until_true "the recent picture" sh -c "[ \$(find '$folder/Temp' -name 'b*.dat' | wc -l) = 1 ]"
+until_true "the recent picture" undo_files 1
 
 first=$editor
 (cd "$folder" && exec ./velara-studio) >"$scratch/log2" 2>&1 &

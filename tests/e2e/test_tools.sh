@@ -7,7 +7,7 @@ open_large "$scratch/in.bmp" '#ff00ff'
 
 # What is common to all: one step more, and one undo takes it away again.
 back() {
-    [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = 2 ] || fail "more than a step: $(ls "$folder/Temp")"
+    undo_files 2 || fail "more than a step: $(ls "$folder/Temp")"
     keys ctrl+z
     sleep 0.2
     rm "$(step 1)"

@@ -22,7 +22,6 @@ struct RecordingFrame final : Frame {
     Document* document = nullptr; // the active one
     fImage* image = nullptr;      // its window
     std::optional<Colour> colour; // that the user picks
-    bool scrolling = false;
     int snapshots = 0, number = 0;
     std::function<void(const std::string& line)> onCall; // after each line of the log
 
@@ -50,7 +49,7 @@ struct RecordingFrame final : Frame {
     QString UniqueCaption(const QString& text) override { return text; }
     int nextDocumentNumber() override { return number++; }
     void EnableMouseScrolling() override {}
-    bool mouseScrolling() const override { return scrolling; }
+    bool mouseScrolling() const override { return false; }
     void CheckToolbarState(bool) override {}
     void showColors() override { note("colours"); }
     std::optional<Colour> pickColour(Colour, const QString& what, QWidget*) override

@@ -1,17 +1,12 @@
 #include "support/RecordingPlatform.h"
 #include <QImage>
-#include <algorithm>
 #include <cstring>
 
 namespace velara {
 
-bool RecordingPlatform::logged(const std::string& line) const
+std::optional<QString> RecordingPlatform::ask(const QString& line)
 {
-    return std::find(log.begin(), log.end(), line) != log.end();
-}
-
-std::optional<QString> RecordingPlatform::answer()
-{
+    log.push_back(line.toStdString());
     if (answers.empty()) return std::nullopt;
     const auto next = answers.front();
     answers.pop_front();
@@ -44,8 +39,7 @@ void RecordingPlatform::message(const QString& title, const QString& text, Icon 
 Answer RecordingPlatform::askYesNoCancel(const QString& title, const QString& text, Icon icon)
 {
     lastIcon = icon;
-    log.push_back(("ask: " + title + ": " + text).toStdString());
-    const auto next = answer();
+    const auto next = ask("ask: " + title + ": " + text);
     if (!next) return Answer::Cancel;
     return *next == "yes" ? Answer::Yes : Answer::No;
 }
@@ -53,24 +47,19 @@ Answer RecordingPlatform::askYesNoCancel(const QString& title, const QString& te
 std::optional<QString> RecordingPlatform::openFileName(const FileDialog& dialog)
 {
     lastDialog = dialog;
-    log.push_back(("open: " + dialog.title).toStdString());
-    return answer();
+    return ask("open: " + dialog.title);
 }
 
 std::optional<QString> RecordingPlatform::saveFileName(const FileDialog& dialog)
 {
     lastDialog = dialog;
-    log.push_back(("save: " + dialog.title).toStdString());
-    return answer();
+    return ask("save: " + dialog.title);
 }
 
 std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const QString&)
 {
-    log.push_back(("folder: " + title).toStdString());
-    return answer();
+    return ask("folder: " + title);
 }
-
-QString RecordingPlatform::compactPath(const QString& path, int) { return path; }
 
 LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {

@@ -5,6 +5,7 @@
 #include "support/RecordingDesktop.h"
 #include "support/RecordingFonts.h"
 #include <QTemporaryDir>
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -24,7 +25,6 @@ class RecordingPlatform : public Platform {
     int yields = 0;
     std::function<void()> onYield;
     std::uint32_t now = 0;
-    bool previous = false;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
     std::map<QString, QString> settings; // "section/key"
@@ -32,12 +32,12 @@ class RecordingPlatform : public Platform {
     RecordingFonts recordingFonts;
     RecordingClipboard recordingClipboard{log};
 
-    bool logged(const std::string& line) const;
+    bool logged(const std::string& line) const { return std::ranges::find(log, line) != log.end(); }
 
     std::uint32_t milliseconds() override { return now; }
     double random() override { return 0.5; }
     QString programFolder() override { return folder.path(); }
-    bool previousInstance() override { return previous; }
+    bool previousInstance() override { return false; }
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
     void yield() override;
@@ -46,7 +46,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> openFileName(const FileDialog& dialog) override;
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
-    QString compactPath(const QString& path, int pixels) override;
+    QString compactPath(const QString& path, int) override { return path; }
     /// Reads in this process, by what Qt reads.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
@@ -63,7 +63,8 @@ class RecordingPlatform : public Platform {
     RecordingWallpaper wallpaper_;
     RecordingScanner scanner_;
     RecordingPrinters printers_;
-    std::optional<QString> answer();
+    /// Writes the line down. \returns the next answer
+    std::optional<QString> ask(const QString& line);
 };
 
 } // namespace velara

@@ -56,6 +56,26 @@ TEST_F(HoverTest, ThePopUpStandsBesideTheToolsAndNamesItsTool)
     EXPECT_TRUE(QTest::qWaitFor([&] { return frame->documents().size() == 1; })) << "the frame's, which it covers";
 }
 
+TEST_F(HoverTest, TheToolsHavePanesInTheSideAndBesideTheirButtons)
+{
+    QDir(platform.programFolder()).mkpath("Stamps");
+    frame->initToolPanes();
+    click("Brush");
+    auto* side = controlOf<QWidget>(*frame, "Brush");
+    EXPECT_TRUE(side->isVisible());
+    click("Fill");
+    EXPECT_FALSE(side->isVisible());
+
+    QWidget* popup = popupOf("Brush");
+    ASSERT_TRUE(popup);
+    controlOf<QSlider>(*popup, "sbBrushSize")->setValue(77);
+    EXPECT_EQ(setup.BrushSize, 77);
+    click("Brush");
+    EXPECT_EQ(controlOf<QSlider>(*side, "sbBrushSize")->value(), 77);
+    QCursor::setPos(frame->mapToGlobal(QPoint(600, 400)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return popups().isEmpty(); }, 2000));
+}
+
 TEST(PicturesTest, NoTwoButtonsShowTheSame)
 {
     useResources();

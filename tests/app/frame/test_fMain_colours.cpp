@@ -62,8 +62,8 @@ TEST_F(ColourBox, HueAndPlanePickAndStoreInTheCell)
     QTest::mouseClick(find<QWidget>("lblCol_5"), Qt::LeftButton);
     auto* plane = find<QWidget>("iPal");
     QTest::mousePress(plane, Qt::LeftButton, {}, {30, 30});
-    sendMouse(plane, QEvent::MouseMove, {500, 40}, Qt::NoButton,
-              Qt::LeftButton); // dragged out: the columns that are not shown can be reached
+    // dragged out: the columns that are not shown can be reached
+    sendMouse(plane, QEvent::MouseMove, {500, 40}, Qt::NoButton, Qt::LeftButton);
     QTest::mouseRelease(plane, Qt::LeftButton, {}, {500, 40});
     const Colour grey = box->current();
     EXPECT_EQ(redOf(grey), blueOf(grey));
@@ -80,22 +80,18 @@ TEST_F(ColourBox, HueAndPlanePickAndStoreInTheCell)
 TEST_F(ColourBox, NumbersAreRuledTypedPastedAndDragged)
 {
     EXPECT_EQ("48 32 16", numbers());
-    constexpr struct {
-        const char *keys, *shown;
-    } kTyped[] = {{"300", "255"}, {"7x8", "78"}, {"-5", "5"}, {"0", "0"}};
+    using Row = std::pair<const char*, const char*>; // what is given, what is shown
     auto* red = find<fRgbBox>("txtRGB_0");
-    for (const auto& typed : kTyped) {
+    for (const auto& [keys, shown] : {Row{"300", "255"}, {"7x8", "78"}, {"-5", "5"}, {"0", "0"}}) {
         red->selectAll();
-        QTest::keyClicks(red, typed.keys);
-        EXPECT_EQ(typed.shown, red->text());
+        QTest::keyClicks(red, keys);
+        EXPECT_EQ(shown, red->text());
         EXPECT_EQ(red->text().size(), red->cursorPosition());
     }
-    constexpr struct {
-        const char *text, *shown;
-    } kPasted[] = {{"12ab", "12"}, {"abc", "0"}, {"-5", "0"}, {"99999999999999999999", "255"}, {"", "0"}};
-    for (const auto& pasted : kPasted) {
-        red->setText(pasted.text);
-        EXPECT_EQ(pasted.shown, red->text()) << pasted.text;
+    for (const auto& [pasted, shown] :
+         {Row{"12ab", "12"}, {"abc", "0"}, {"-5", "0"}, {"99999999999999999999", "255"}, {"", "0"}}) {
+        red->setText(pasted);
+        EXPECT_EQ(shown, red->text()) << pasted;
     }
     red->setText("100");
     EXPECT_EQ(100, redOf(setup.ForeColor));

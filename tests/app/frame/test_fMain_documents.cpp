@@ -75,11 +75,16 @@ TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
     EXPECT_EQ(marks(), 0) << "nothing to lose: closing asks nothing";
     frame->Mmenu("REDO");
     EXPECT_EQ(marks(), 1);
-    frame->area().setActiveSubWindow(windowOf(first));
+    activate(first);
     frame->Mmenu("FLIPH");
     EXPECT_EQ(marks(), 11);
     frame->Mmenu("SAVE");
     EXPECT_EQ(marks(), 1);
+    EXPECT_FALSE(platform.logged("save: Save as"));
+    activate(second);
+    frame->Mmenu("SAVE");
+    EXPECT_EQ(last(), "save: Save as") << "its own name is the first one's";
+    EXPECT_EQ(marks(), 1) << "cancelled";
 }
 
 TEST_F(FrameDocuments, TheOpenOnesStandAtTheEndOfViews)
@@ -105,8 +110,8 @@ TEST_F(FrameDocuments, AfterAClosedOneComesTheOneUsedBefore)
     fImage* second = open(randomBits(9, 9, 2), "2.bmp");
     open(randomBits(9, 9, 3), "3.bmp");
     fImage* fourth = open(randomBits(9, 9, 4), "4.bmp");
-    frame->area().setActiveSubWindow(windowOf(second));
-    frame->area().setActiveSubWindow(windowOf(fourth));
+    activate(second);
+    activate(fourth);
     frame->Mmenu("CLOSE");
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "2.bmp");
 }

@@ -42,39 +42,6 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
     EXPECT_TRUE(platform.lastDialog.filter.contains("|*.koa|"));
 }
 
-TEST_F(FrameTest, TheSameFileTwiceGetsANumber)
-{
-    const QString a = file("a.bmp");
-    platform.answers = {a, a};
-    frame->Mmenu("OPEN");
-    frame->Mmenu("OPEN");
-    ASSERT_EQ(frame->documents().size(), 2);
-    EXPECT_EQ(frame->documents()[1]->Tag(), "[1]" + a);
-    // Its own name is the first one's: saving asks for another.
-    frame->Mmenu("SAVE");
-    EXPECT_EQ(last(), "save: Save as");
-}
-
-TEST_F(FrameTest, AnOpenThatFailsSaysSoAndLeavesNoDocument)
-{
-    platform.answers = {path("missing.gif")};
-    frame->Mmenu("OPEN");
-    EXPECT_EQ(last(), kLoadError);
-    EXPECT_EQ(platform.lastIcon, Icon::Exclamation);
-    EXPECT_TRUE(frame->documents().isEmpty());
-    EXPECT_TRUE(setup.Recent[0].isEmpty());
-}
-
-TEST_F(FrameTest, ACancelledDialogEndsTheCommand)
-{
-    frame->Mmenu("OPEN");
-    EXPECT_TRUE(frame->documents().isEmpty());
-    fImage* image = open(randomBits(8, 8, 1));
-    frame->Mmenu("SAVEAS");
-    EXPECT_EQ(last(), "save: Save as");
-    EXPECT_EQ(image->Caption(), "picture.bmp");
-}
-
 TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
     struct Row {

@@ -25,10 +25,6 @@ struct FrameMerging : FrameTest {
         frame->Mmenu("IMAGEMERGING");
         dialog = frame->findChild<fOverlay*>();
     }
-    void activate(fImage* image)
-    {
-        frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(image->parentWidget()));
-    }
     template <class T> T* find(const char* name) { return dialog->findChild<T*>(name); }
     void slide(const char* name, int value) { find<QSlider>(name)->setValue(value); }
     void settle() { QTest::qWait(250); } // longer than from one look at the documents to the next

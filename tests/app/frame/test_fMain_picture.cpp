@@ -1,9 +1,6 @@
 // Pictures in the frame, worked on with the mouse: which document a stroke belongs to, and what engine, undo and screen
 // make of it.
-#include "app/frame/fHover.h"
 #include "app/frame/frameTest.h"
-#include "ui/panes/fToolPanes.h"
-#include <QSlider>
 #include <QTest>
 
 namespace velara {
@@ -42,29 +39,6 @@ TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
     EXPECT_FALSE(image->bits() == before);
-}
-
-TEST_F(FramePicture, TheToolsHavePanesInTheSideAndBesideTheirButtons)
-{
-    QDir(platform.programFolder()).mkpath("Stamps");
-    frame->initToolPanes();
-    click("Brush");
-    auto* side = frame->findChild<QWidget*>("Brush");
-    ASSERT_TRUE(side);
-    EXPECT_TRUE(side->isVisible());
-    click("Fill");
-    EXPECT_FALSE(side->isVisible());
-
-    QWidget* button = frame->toolPane().button("Brush");
-    QEnterEvent enter(QPointF(3, 3), QPointF(3, 3), button->mapToGlobal(QPointF(3, 3)));
-    QApplication::sendEvent(button, &enter);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return frame->findChild<QWidget*>("FBrush") != nullptr; }, 2000));
-    frame->findChild<QWidget*>("FBrush")->findChild<QSlider*>("sbBrushSize")->setValue(77);
-    EXPECT_EQ(setup.BrushSize, 77);
-    click("Brush");
-    EXPECT_EQ(side->findChild<QSlider*>("sbBrushSize")->value(), 77);
-    QCursor::setPos(frame->mapToGlobal(QPoint(600, 400)));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->findChild<QWidget*>("FBrush") == nullptr; }, 2000));
 }
 
 } // namespace velara

@@ -40,13 +40,6 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     EXPECT_TRUE(sameBits(before, image->bits()));
     frame->Mmenu("REDO");
     EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
-
-    const Bits stamped = image->bits();
-    mouse(image, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
-    mouse(image, QEvent::MouseMove, {40, 40}, Qt::LeftButton);
-    QTest::keyClick(image->findChild<QWidget*>("iDst"), Qt::Key_Escape);
-    mouse(image, QEvent::MouseButtonRelease, {40, 40}, Qt::NoButton);
-    EXPECT_TRUE(sameBits(stamped, image->bits())) << "Esc";
 }
 
 TEST_F(FrameText, TheBoxIsShownAndHiddenByItsMenuItem)
