@@ -1,19 +1,20 @@
 // The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
 #include "support/RecordingFrame.h"
-#include "support/ui/controls.h"
+#include "support/ui/WindowTest.h"
 #include "ui/panes/fToolPanes.h"
 #include "ui/widgets/fColorButton.h"
-#include <QtTest>
-#include <gtest/gtest.h>
 
 namespace velara {
 
-struct Panes : ::testing::Test {
+struct Panes : WindowTest {
     RecordingFrame frame;
     std::unique_ptr<QWidget> pane;
 
-    template <class Control> Control* at(const char* name) const { return controlOf<Control>(*pane, name); }
-    void make(const char* tool) { pane.reset(makeSidePane(*findTool(QString(tool)), frame)); }
+    void make(const char* tool)
+    {
+        pane.reset(makeSidePane(*findTool(QString(tool)), frame));
+        used = pane.get();
+    }
     void addStamp(const QString& name, int side)
     {
         QDir(frame.platform_.programFolder()).mkpath("Stamps");
@@ -52,8 +53,8 @@ TEST_F(Panes, SlidersWriteTheirSetting)
     for (const SliderCase& c : kSliders) {
         frame.setup_.*c.field = static_cast<std::int16_t>(c.high - 1);
         make(c.tool);
-        auto* slider = at<QSlider>(c.name);
-        auto* number = at<QSpinBox>((std::string("lbl") + c.name).c_str());
+        auto* slider = find<QSlider>(c.name);
+        auto* number = find<QSpinBox>(QString("lbl") + c.name);
         EXPECT_EQ(slider->value(), c.high - 1) << c.name;
         EXPECT_EQ(number->value(), c.high - 1) << c.name;
         slider->setValue(9999);
@@ -97,7 +98,7 @@ TEST_F(Panes, ListsWriteWhatTheEntryStandsFor)
     };
     for (const ListCase& c : cases) {
         make(c.tool);
-        auto* list = at<QComboBox>(c.name);
+        auto* list = find<QComboBox>(c.name);
         ASSERT_EQ(list->count(), int(c.entries.size())) << c.name;
         for (const auto& [entry, number] : c.entries) {
             list->setCurrentIndex(list->findText(entry));
@@ -111,15 +112,15 @@ TEST_F(Panes, ListsWriteWhatTheEntryStandsFor)
 TEST_F(Panes, TheMoveActionIsTheSelectionsOwnSetting)
 {
     make("Select");
-    at<QCheckBox>("chkMoveSelection")->setChecked(false);
+    find<QCheckBox>("chkMoveSelection")->setChecked(false);
     EXPECT_FALSE(frame.setup_.MoveSelection);
     make("SelectionMove");
-    EXPECT_EQ(at<QComboBox>("cSelect")->currentText(), "Move Content Only");
-    EXPECT_EQ(at<QSlider>("cSelectionPressure")->value(), 50);
-    at<QSlider>("cSelectionPressure")->setValue(80);
+    EXPECT_EQ(text("cSelect"), "Move Content Only");
+    EXPECT_EQ(find<QSlider>("cSelectionPressure")->value(), 50);
+    find<QSlider>("cSelectionPressure")->setValue(80);
     EXPECT_EQ(frame.toolStores_.movePressure, 80);
     EXPECT_FALSE(frame.toolStores_.useMovePressure);
-    at<QCheckBox>("cSelectionOwn")->setChecked(true);
+    find<QCheckBox>("cSelectionOwn")->setChecked(true);
     EXPECT_TRUE(frame.toolStores_.useMovePressure);
 }
 
@@ -127,30 +128,30 @@ TEST_F(Panes, SidesAreForPolygonsOnly)
 {
     frame.setup_.ShapeKind = 0;
     make("Shape");
-    auto* kinds = at<QListWidget>("lstShape");
+    auto* kinds = find<QListWidget>("lstShape");
     ASSERT_EQ(kinds->count(), 7);
-    EXPECT_FALSE(at<QSlider>("sbShapeSides")->isEnabled());
+    EXPECT_FALSE(find<QSlider>("sbShapeSides")->isEnabled());
     kinds->setCurrentRow(6);
     EXPECT_EQ(kinds->currentItem()->text(), "Polygon");
     EXPECT_EQ(frame.setup_.ShapeKind, 6);
-    EXPECT_TRUE(at<QSlider>("sbShapeSides")->isEnabled());
+    EXPECT_TRUE(find<QSlider>("sbShapeSides")->isEnabled());
 }
 
 TEST_F(Panes, TheGradientIsShown)
 {
     make("Gradient");
-    at<fColorButton>("GradColor_0")->setColour(0x0000FF);
-    at<fColorButton>("GradColor_1")->setColour(0xFF0000);
-    at<QSlider>("sbGradPressure")->setValue(100);
+    find<fColorButton>("GradColor_0")->setColour(0x0000FF);
+    find<fColorButton>("GradColor_1")->setColour(0xFF0000);
+    find<QSlider>("sbGradPressure")->setValue(100);
     EXPECT_EQ(frame.setup_.GradientColor1, 0x0000FF);
-    const auto shown = [&] { return at<QLabel>("iGrad")->pixmap().toImage(); };
+    const auto shown = [&] { return find<QLabel>("iGrad")->pixmap().toImage(); };
     const QImage linear = shown();
     EXPECT_GT(qRed(linear.pixel(2, 20)), 200);
     EXPECT_GT(qBlue(linear.pixel(linear.width() - 3, 20)), 200);
-    at<QComboBox>("cbGradMode")->setCurrentIndex(1);
+    find<QComboBox>("cbGradMode")->setCurrentIndex(1);
     EXPECT_NE(shown(), linear);
     const QImage circular = shown();
-    at<QCheckBox>("chkTranspCol_1")->setChecked(true);
+    find<QCheckBox>("chkTranspCol_1")->setChecked(true);
     EXPECT_TRUE(frame.setup_.GradientTransparent2);
     EXPECT_NE(shown(), circular);
 }
@@ -159,21 +160,21 @@ TEST_F(Panes, StampsFollowTheirFolder)
 {
     make("Stamp");
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: <Stamps> subfolder not found."));
-    EXPECT_FALSE(at<QLabel>("lblStamps")->isHidden());
-    EXPECT_EQ(at<QLabel>("lblStamps")->text(), "Stamp sub-Folder Not Found!");
+    EXPECT_FALSE(find<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(text("lblStamps"), "Stamp sub-Folder Not Found!");
     EXPECT_TRUE(frame.toolStores_.stamp.isNull());
 
     addStamp("b.bmp", 9);
     addStamp("a.bmp", 5);
-    auto* list = at<QComboBox>("cbStamps");
+    auto* list = find<QComboBox>("cbStamps");
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; })) << "the folder has come";
-    EXPECT_TRUE(at<QLabel>("lblStamps")->isHidden());
-    EXPECT_EQ(list->currentText(), "a.bmp");
+    EXPECT_TRUE(find<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(text("cbStamps"), "a.bmp");
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5);
     pane->show();
     QTest::keyClick(list, Qt::Key_Down);
     EXPECT_EQ(frame.toolStores_.stamp.width(), 9);
-    EXPECT_EQ(at<QLabel>("iStamp")->pixmap().width(), 9);
+    EXPECT_EQ(find<QLabel>("iStamp")->pixmap().width(), 9);
 
     addStamp("c.bmp", 7);
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 3; }));
@@ -182,7 +183,7 @@ TEST_F(Panes, StampsFollowTheirFolder)
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }));
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5) << "the chosen one is gone";
     make("Stamp");
-    EXPECT_EQ(at<QComboBox>("cbStamps")->count(), 2);
+    EXPECT_EQ(find<QComboBox>("cbStamps")->count(), 2);
 }
 
 TEST_F(Panes, EveryToolOfTheTableHasBothPanes)
