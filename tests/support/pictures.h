@@ -14,6 +14,13 @@ Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std:
 /// A random union of rectangles and ellipses that may stick out of the picture a little.
 Region randomRegion(int width, int height, std::uint32_t seed);
 
+/// The pixel as a screen shows it, 0xRRGGBB.
+inline std::uint32_t colourAt(const Bits& bits, int x, int y)
+{
+    const Pixel p = bits.at(x, y);
+    return std::uint32_t(p.c[2] << 16 | p.c[1] << 8 | p.c[0]);
+}
+
 /// Equal in size and in every byte, margin included; the failure names the first differing pixel: x, y, channel,
 /// wanted, got.
 ::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got);

@@ -21,4 +21,11 @@ inline bool sendMouse(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseB
     return QCoreApplication::sendEvent(widget, &event);
 }
 
+/// Turn of the wheel, in eighths of a degree.
+inline void sendWheel(QWidget* widget, QPointF at, QPoint angle, Qt::KeyboardModifiers keys = {})
+{
+    QWheelEvent event(at, widget->mapToGlobal(at), {}, angle, Qt::NoButton, keys, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 } // namespace velara

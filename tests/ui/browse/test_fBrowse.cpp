@@ -1,13 +1,11 @@
 // The browser, its preview and its thumbnails, over real folders and with previews that come when the test says so.
 #include "support/RecordingPlatform.h"
+#include "support/ui/WindowTest.h"
 #include "ui/browse/fAssociation.h"
 #include "ui/browse/fBrowse.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/fFolderTree.h"
-#include <QtTest>
-#include <QtWidgets>
-#include <gtest/gtest.h>
 
 namespace velara {
 
@@ -20,7 +18,7 @@ Preview red(QSize size)
     return preview;
 }
 
-struct Browser : ::testing::Test {
+struct Browser : WindowTest {
     RecordingPlatform platform;
     QTemporaryDir top;
     std::unique_ptr<fBrowse> window;
@@ -39,13 +37,12 @@ struct Browser : ::testing::Test {
         window = std::make_unique<fBrowse>(platform, mode, start, nullptr);
         QObject::connect(window.get(), &fBrowse::opened, [this](const QString& path) { opened << path; });
         window->show();
+        used = window.get();
     }
-    fFolderTree& tree() { return *window->findChild<fFolderTree*>("BF"); }
-    QString label(const char* name) { return window->findChild<QLabel*>(name)->text(); }
-    bool canOpen() { return window->findChild<QPushButton*>("CmdOpen")->isEnabled(); }
+    fFolderTree& tree() { return *find<fFolderTree>("BF"); }
     QColor middle()
     {
-        const QImage shown = window->findChild<QWidget*>("previewPicture")->grab().toImage();
+        const QImage shown = find("previewPicture")->grab().toImage();
         return shown.pixelColor(shown.rect().center());
     }
 };
@@ -67,8 +64,8 @@ TEST_F(Browser, OpensPicturesOrFoldersAlone)
     for (const auto& row : rows) {
         show(row.mode, at(row.name));
         EXPECT_EQ(tree().path(), at(row.name));
-        EXPECT_EQ(canOpen(), row.can) << row.name;
-        EXPECT_EQ(label("FileName"), row.can ? at(row.name) : QString());
+        EXPECT_EQ(find("CmdOpen")->isEnabled(), row.can) << row.name;
+        EXPECT_EQ(text("FileName"), row.can ? at(row.name) : QString());
     }
     EXPECT_EQ(window->windowTitle(), "Browse For Graphic Filles");
 }
@@ -83,7 +80,7 @@ TEST_F(Browser, DoubleClickEnterAndTheButtonOpenOnceAndClose)
         QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, place);
         if (way == 0) QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, place);
         if (way == 1) QTest::keyClick(&tree(), Qt::Key_Return);
-        if (way == 2) window->findChild<QPushButton*>("CmdOpen")->click();
+        if (way == 2) click("CmdOpen");
         EXPECT_EQ(opened, QStringList(at("Loud.JPEG"))) << way;
         EXPECT_FALSE(window->isVisible());
         opened.clear();
@@ -99,20 +96,20 @@ TEST_F(Browser, DoubleClickEnterAndTheButtonOpenOnceAndClose)
 TEST_F(Browser, ShowsWhatIsSelectedAndForgetsWhatWas)
 {
     show(BrowseMode::Pictures, at("a.png"));
-    EXPECT_EQ(label("previewKind"), "Portable Network Group");
+    EXPECT_EQ(text("previewKind"), "Portable Network Group");
     EXPECT_TRUE(previews().answer(at("a.png"), red({4000, 3000})));
-    EXPECT_EQ(label("previewSize"), "4000 x 3000 pixels");
+    EXPECT_EQ(text("previewSize"), "4000 x 3000 pixels");
     EXPECT_EQ(middle(), QColor(Qt::red));
 
     tree().select(at("Loud.JPEG")); // the other's answer comes too late
     EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));
-    EXPECT_EQ(label("previewSize"), "");
+    EXPECT_EQ(text("previewSize"), "");
     EXPECT_TRUE(previews().answer(at("Loud.JPEG"), {{}, {}, "Loud.JPEG can't be read: it is broken"}));
     EXPECT_NE(middle(), QColor(Qt::red));
-    EXPECT_EQ(label("previewKind"), "Independent JPEG group");
+    EXPECT_EQ(text("previewKind"), "Independent JPEG group");
 
     tree().select(at("notes.txt"));
-    EXPECT_EQ(label("previewKind"), "");
+    EXPECT_EQ(text("previewKind"), "");
     EXPECT_EQ(previews().asked.back(), at("Loud.JPEG")) << "what is no picture is not read";
     tree().select(at("a.png"));
     window.reset(); // with the answer on its way
@@ -124,13 +121,8 @@ TEST_F(Browser, ThumbnailsStandBeforeTheNames)
     show(BrowseMode::Pictures, at("a.png"));
     window->grab();
     const auto icon = [&] {
-        return tree()
-            .currentIndex()
-            .data(Qt::DecorationRole)
-            .value<QIcon>()
-            .pixmap(32, 32)
-            .toImage()
-            .pixelColor(16, 16);
+        const auto shown = tree().currentIndex().data(Qt::DecorationRole).value<QIcon>();
+        return shown.pixmap(32, 32).toImage().pixelColor(16, 16);
     };
     EXPECT_NE(icon(), QColor(Qt::red));
     EXPECT_TRUE(previews().answer("thumbnail " + at("a.png"), red({400, 300})));
@@ -166,11 +158,10 @@ TEST_F(Browser, FolderDialogAnswersWithTextAndAssociationsDoNothing)
 
     fAssociation list(nullptr);
     list.show();
-    EXPECT_EQ(list.findChild<QWidget*>("picA")->findChildren<QCheckBox*>().size(), 22);
-    EXPECT_EQ(list.findChild<QCheckBox*>("cT_0")->text(), "*.bmp; *.dib");
-    list.findChild<QPushButton*>("Command1")->click();
+    used = &list;
+    click("Command1");
     EXPECT_TRUE(list.isVisible());
-    list.findChild<QPushButton*>("Command2")->click();
+    click("Command2");
     EXPECT_FALSE(list.isVisible());
 }
 

@@ -1,47 +1,36 @@
 // The picker with real controls, used as a person does.
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
-#include "support/ui/controls.h"
+#include "support/ui/WindowTest.h"
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPicker.h"
-#include <QtTest>
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 namespace velara {
 namespace {
 
-struct Picker : ::testing::Test {
+struct Picker : WindowTest {
     RecordingPlatform platform;
     fPicker picker{platform};
 
     void SetUp() override
     {
+        used = &picker;
         picker.show();
         picker.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&picker));
     }
-    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(picker, name); }
-    void click(const char* name)
+    void enter(const char* name, const QString& text)
     {
-        auto* widget = find<QWidget>(name);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
+        type(name, text);
+        QTest::keyClick(find(name), Qt::Key_Return);
     }
-    void type(const char* name, const QString& text)
-    {
-        auto* box = find<QLineEdit>(name);
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, text);
-        QTest::keyClick(box, Qt::Key_Return);
-    }
-    QString shown(const char* name) { return find<QLineEdit>(name)->text(); }
     QString all()
     {
         QStringList list;
-        for (const char* box : {"txtH", "txtS", "txtB", "Text1", "Text2", "Text3"}) list << shown(box);
+        for (const char* box : {"txtH", "txtS", "txtB", "Text1", "Text2", "Text3"}) list << text(box);
         return list.join(' ');
     }
     QString file() { return platform.folder.filePath("usercolors.cps"); }
@@ -52,13 +41,13 @@ struct Picker : ::testing::Test {
 TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)
 {
     EXPECT_EQ("0 100 100 255 0 0", all()) << "as it starts";
-    type("txtH", "360");
+    enter("txtH", "360");
     EXPECT_EQ("360 100 100 255 0 0", all());
-    type("txtH", "120");
+    enter("txtH", "120");
     EXPECT_EQ("120 100 100 0 255 0", all());
-    type("Text1", "255");
+    enter("Text1", "255");
     EXPECT_EQ("60 100 100 255 255 0", all());
-    type("txtB", "50");
+    enter("txtB", "50");
     EXPECT_EQ("60 100 50 128 128 0", all());
     find<QLineEdit>("txtH")->setFocus(Qt::TabFocusReason);
     for (const char* typed : {"60", "40", "100"}) { // each replaces what stands in its box
@@ -67,27 +56,22 @@ TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)
         QCoreApplication::processEvents();
     }
     EXPECT_EQ("60 40 100 255 255 153", all());
-    type("txtS", "100");
-    type("txtB", "50");
+    enter("txtS", "100");
+    enter("txtB", "50");
     constexpr struct {
         const char *box, *text, *most;
     } kBad[] = {{"txtH", "361", "360"}, {"txtS", "101", "100"}, {"txtB", "-1", "100"},
                 {"Text2", "x7", "255"}, {"Text3", "", "255"},   {"txtH", "1.5", "360"}};
     for (const auto& bad : kBad) {
-        const QString before = shown(bad.box);
+        const QString before = text(bad.box);
         platform.log.clear();
-        if (*bad.text)
-            type(bad.box, bad.text);
-        else {
-            find<QLineEdit>(bad.box)->clear();
-            QTest::keyClick(find<QLineEdit>(bad.box), Qt::Key_Enter);
-        }
+        enter(bad.box, bad.text);
         ASSERT_EQ(1u, platform.log.size()) << bad.text;
         EXPECT_EQ(std::string("message: Velara Studio: Enter an Integer Value Between 0 and ") + bad.most,
                   platform.log[0]);
         EXPECT_TRUE(find<QLineEdit>(bad.box)->hasFocus());
         EXPECT_EQ(0x008080, picker.colour());
-        type(bad.box, before);
+        enter(bad.box, before);
     }
     EXPECT_TRUE(picker.isVisible()) << "Enter in a box leaves the dialog open";
 }
@@ -111,10 +95,7 @@ TEST_F(Picker, LeavingABoxAsksButExitDoesNot)
 
 TEST_F(Picker, OkTakesWhatStandsInABox)
 {
-    auto* box = find<QLineEdit>("Text3");
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClicks(box, "77");
+    type("Text3", "77");
     QTest::keyClick(&picker, Qt::Key_K, Qt::AltModifier);
     click("Command1");
     EXPECT_EQ(QDialog::Accepted, picker.result());
@@ -144,21 +125,21 @@ TEST_F(Picker, FieldAndStripFollowMouseAndKeysInEachOfTheThreeWays)
     EXPECT_EQ("0 100 100 255 0 0", all());
     EXPECT_EQ(QPoint(0, 0), field->place());
     QTest::mouseMove(field, {2 + 85, 2 + 255});
-    EXPECT_EQ("R: 255\nG: 255\nB: 255\nHex: #FFFFFF", find<QLabel>("lblStatus")->text());
+    EXPECT_EQ("R: 255\nG: 255\nB: 255\nHex: #FFFFFF", text("lblStatus"));
 }
 
 TEST_F(Picker, ModelsRewriteTheLetters)
 {
     find<QComboBox>("cmbModel")->setCurrentIndex(1);
-    EXPECT_EQ("CMY", find<QLabel>("lblR")->text() + find<QLabel>("lblG")->text() + find<QLabel>("lblB")->text());
+    EXPECT_EQ("CMY", text("lblR") + text("lblG") + text("lblB"));
     EXPECT_EQ("0 100 100 0 255 255", all());
-    EXPECT_EQ("Yellow", find<QLineEdit>("Text3")->accessibleName());
-    type("Text1", "55");
+    EXPECT_EQ("Yellow", find("Text3")->accessibleName());
+    enter("Text1", "55");
     EXPECT_EQ(colourOf(200, 0, 0), picker.colour());
     find<QComboBox>("cmbModel")->setCurrentIndex(2);
-    type("Text1", "240");
+    enter("Text1", "240");
     EXPECT_EQ(colourOf(0, 0, 200), picker.colour());
-    type("Text1", "361");
+    enter("Text1", "361");
     EXPECT_EQ("message: Velara Studio: Enter an Integer Value Between 0 and 360", platform.log.back());
 }
 
@@ -169,7 +150,7 @@ TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
     put(list);
     picker.LoadColorDialog(0x123456);
     click("Command3");
-    EXPECT_EQ("&Picker", find<QPushButton>("Command3")->text());
+    EXPECT_EQ("&Picker", text("Command3"));
     EXPECT_EQ(fPicker::UserList, picker.view());
     auto* cells = find<fCellGrid>("cells");
     EXPECT_EQ(3000, cells->colour(3));
@@ -186,7 +167,7 @@ TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
 
     find<QComboBox>("cmbPreset")->setCurrentIndex(1);
     EXPECT_EQ(fPicker::SafePalette, picker.view());
-    EXPECT_FALSE(find<QWidget>("cmdADD")->isVisible());
+    EXPECT_FALSE(find("cmdADD")->isVisible());
     QTest::keyClick(cells, Qt::Key_End);
     EXPECT_EQ(18000, picker.colour()) << "an empty cell picks nothing";
     QTest::mouseDClick(cells, Qt::LeftButton, {}, {10 + 7 * 18 + 5, 10 + 13 * 18 + 5}); // 216

@@ -5,17 +5,16 @@
 #include "support/files.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
+#include "support/ui/WindowTest.h"
 #include "ui/compose/fEffectsPage.h"
 #include "ui/compose/fTextPage.h"
 #include "ui/compose/fToolTextures.h"
 #include "ui/widgets/fPicture.h"
-#include <QtTest>
-#include <QtWidgets>
 
 namespace velara {
 namespace {
 
-struct TexturesBoxTest : ::testing::Test {
+struct TexturesBoxTest : WindowTest {
     RecordingFrame frame;
     QTemporaryDir temp;
     std::shared_ptr<Document> document = std::make_shared<Document>(temp.path(), 1);
@@ -27,16 +26,14 @@ struct TexturesBoxTest : ::testing::Test {
         document->Region.CreateRect(5, 5, 30, 25, Combine::Or, true);
         frame.document = document.get();
     }
-    fToolTextures& show(int page)
+    void show(int page)
     {
         box = std::make_unique<fToolTextures>(frame);
+        used = box.get();
         find<QTabWidget>("SSTab1")->setCurrentIndex(page);
         box->show();
-        return *box;
     }
-    template <class T> T* find(const char* name) { return box->findChild<T*>(QLatin1String(name)); }
-    void press(const char* name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
-    const Bits& text() { return frame.toolStores_.text; }
+    const Bits& stamp() { return frame.toolStores_.text; }
     void textures(const char* name, const Bits& bits)
     {
         QDir(frame.platform_.programFolder()).mkpath("Textures");
@@ -53,30 +50,30 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     frame.setup_.TextFlag1 = frame.setup_.TextFlag2 = false;
     frame.setup_.TextMode = 0;
     show(0);
-    EXPECT_TRUE(text().isNull()) << "nothing to stamp";
-    EXPECT_EQ("Fixed", find<QComboBox>("cboFont")->currentText()) << "what stands in for it";
+    EXPECT_TRUE(stamp().isNull()) << "nothing to stamp";
+    EXPECT_EQ("Fixed", text("cboFont")) << "what stands in for it";
     EXPECT_EQ("Missing", frame.setup_.TextFont) << "until another one is chosen";
     QTest::keyClicks(find<QPlainTextEdit>("txtText"), "ab");
-    ASSERT_EQ(19, text().width()); // two of 10, less the free column
-    EXPECT_EQ(20, text().height());
-    EXPECT_EQ(0, text().at(0, 0).c[0]);
-    EXPECT_EQ(255, text().at(9, 0).c[0]);
+    ASSERT_EQ(19, stamp().width()); // two of 10, less the free column
+    EXPECT_EQ(20, stamp().height());
+    EXPECT_EQ(0, stamp().at(0, 0).c[0]);
+    EXPECT_EQ(255, stamp().at(9, 0).c[0]);
 
-    press("CmdB");
-    EXPECT_EQ(21, text().width());
+    click("CmdB");
+    EXPECT_EQ(21, stamp().width());
     find<QComboBox>("cboFont")->setCurrentText("Other");
     QTest::keyClicks(find<QComboBox>("cboSize"), "0"); // "200" is too large and changes nothing
-    EXPECT_EQ(21, text().width());
+    EXPECT_EQ(21, stamp().width());
     find<QComboBox>("cboSize")->setCurrentText("10");
-    EXPECT_EQ(11, text().width());
+    EXPECT_EQ(11, stamp().width());
     for (const char* typed : {"0", "", "x", "73", "-4"}) find<QComboBox>("cboSize")->lineEdit()->setText(typed);
-    EXPECT_EQ(11, text().width());
+    EXPECT_EQ(11, stamp().width());
     emit find<QComboBox>("cboSize")->lineEdit()->editingFinished();
-    EXPECT_EQ("10", find<QComboBox>("cboSize")->currentText());
+    EXPECT_EQ("10", text("cboSize"));
     find<QComboBox>("cboShadow")->setCurrentText("Bottom Right");
-    EXPECT_EQ(12, text().width());
-    EXPECT_EQ(11, text().height());
-    EXPECT_EQ(127, text().at(11, 10).c[0]) << "the shadow's corner";
+    EXPECT_EQ(12, stamp().width());
+    EXPECT_EQ(11, stamp().height());
+    EXPECT_EQ(127, stamp().at(11, 10).c[0]) << "the shadow's corner";
     find<QComboBox>("cboAlign")->setCurrentText("Full Justify");
 
     const velara::Setup& s = frame.setup_;
@@ -101,7 +98,7 @@ TEST_F(TexturesBoxTest, AlignmentShowsInTheWorkPicture)
         EXPECT_EQ(255, work.at(x - 1, 5).c[0]) << align;
     }
     find<QPlainTextEdit>("txtText")->clear();
-    EXPECT_TRUE(text().isNull());
+    EXPECT_TRUE(stamp().isNull());
 }
 
 TEST_F(TexturesBoxTest, WhatFitsAtNoSizeIsSaidOnce)
@@ -113,11 +110,11 @@ TEST_F(TexturesBoxTest, WhatFitsAtNoSizeIsSaidOnce)
     };
     find<QPlainTextEdit>("txtText")->setPlainText(QString("line\n").repeated(20000));
     EXPECT_EQ(1, told());
-    EXPECT_TRUE(text().isNull());
+    EXPECT_TRUE(stamp().isNull());
     QTest::keyClicks(find<QPlainTextEdit>("txtText"), "more");
     EXPECT_EQ(1, told()) << "not at every key";
     find<QPlainTextEdit>("txtText")->setPlainText("short");
-    EXPECT_FALSE(text().isNull());
+    EXPECT_FALSE(stamp().isNull());
     find<QPlainTextEdit>("txtText")->setPlainText(QString("line\n").repeated(300));
     EXPECT_EQ(2, told());
 }
@@ -128,7 +125,7 @@ TEST_F(TexturesBoxTest, WithoutFontInformationItSaysSo)
     show(0);
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: Failed to get font info"));
     QTest::keyClicks(find<QPlainTextEdit>("txtText"), "ab");
-    EXPECT_FALSE(text().isNull());
+    EXPECT_FALSE(stamp().isNull());
 }
 
 TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
@@ -136,29 +133,29 @@ TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
     open();
     show(1);
     EXPECT_EQ("Textures: Emboss", box->windowTitle());
-    EXPECT_EQ("50", find<QSpinBox>("lblSize")->text());
+    EXPECT_EQ("50", text("lblSize"));
     const Bits before = document->bits();
-    press("tb_23");
+    click("tb_23");
     EXPECT_EQ("Textures: Pixelize", box->windowTitle());
     EXPECT_TRUE(sameBits(before, document->bits())) << "chosen, not applied";
     find<QSlider>("br")->setValue(3);
-    press("CmdApply");
+    click("CmdApply");
     const Region region = document->Region.working();
     const Bits pixelized = run("PIXELIZE", {3}, before, region);
     EXPECT_TRUE(sameBits(pixelized, document->bits()));
     EXPECT_EQ(1, frame.logged("step"));
-    QTest::mouseDClick(find<QWidget>("tb_18"), Qt::LeftButton);
+    QTest::mouseDClick(find("tb_18"), Qt::LeftButton);
     EXPECT_TRUE(sameBits(run("Invert", {}, pixelized, region), document->bits()));
     frame.setup_.ForeColor = 0x112233;
-    press("tb_28");
-    press("CmdApply");
+    click("tb_28");
+    click("CmdApply");
     EXPECT_TRUE(
         sameBits(run("SKETCH", {3, false, 0x112233}, run("Invert", {}, pixelized, region), region), document->bits()));
     EXPECT_EQ(3, frame.logged("step"));
 
     document.reset();
     frame.document = nullptr;
-    press("CmdApply");
+    click("CmdApply");
     EXPECT_EQ("message: Velara Studio: There is no picture open.", frame.platform_.log.back());
 }
 
@@ -167,8 +164,7 @@ TEST_F(TexturesBoxTest, EveryEffectHasItsButtonAndThumbnail)
     show(1);
     std::set<QByteArray> pictures;
     for (int i = 1; i <= kEffects; ++i) {
-        auto* button = find<QToolButton>(qPrintable(QString("tb_%1").arg(i)));
-        ASSERT_TRUE(button) << i;
+        const auto* button = find<QToolButton>(QString("tb_%1").arg(i));
         EXPECT_EQ(effects()[std::size_t(i - 1)].name, button->accessibleName().toStdString());
         const QImage image = button->icon().pixmap(44).toImage();
         pictures.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
@@ -177,7 +173,7 @@ TEST_F(TexturesBoxTest, EveryEffectHasItsButtonAndThumbnail)
     auto* V = find<QScrollBar>("V");
     EXPECT_GT(V->maximum(), 0);
     V->setValue(V->maximum());
-    const QWidget* tb = find<QWidget>("tb");
+    const QWidget* tb = find("tb");
     EXPECT_EQ(tb->parentWidget()->height(), tb->y() + tb->height()) << "the last row";
     box->resize(900, 900);
     EXPECT_FALSE(V->isEnabled());
@@ -195,22 +191,22 @@ TEST_F(TexturesBoxTest, FilesAreTextures)
     show(1);
     auto* list = find<QListWidget>("ListFile");
     ASSERT_EQ(3, list->count());
-    EXPECT_FALSE(find<QAbstractButton>("CmdFileApply")->isEnabled());
+    EXPECT_FALSE(find("CmdFileApply")->isEnabled());
     for (const int bad : {0, 1}) { // broken.jpg, grain9.gif
         list->setCurrentRow(bad);
-        press("CmdFileApply");
+        click("CmdFileApply");
         EXPECT_TRUE(sameBits(before, document->bits())) << bad;
     }
     EXPECT_EQ(0, frame.logged("step"));
     list->setCurrentRow(2);
-    press("CmdFileApply");
+    click("CmdFileApply");
     EXPECT_EQ(1, frame.logged("step"));
     EXPECT_FALSE(before == document->bits());
 
     QObject::connect(box.get(), &fToolTextures::folderWanted, [&] { box->setTextureFolder(temp.path()); });
-    press("cmdfile");
+    click("cmdfile");
     EXPECT_EQ(0, list->count());
-    EXPECT_TRUE(find<QLabel>("lblFolder")->text().startsWith("No texture files"));
+    EXPECT_TRUE(text("lblFolder").startsWith("No texture files"));
 }
 
 TEST_F(TexturesBoxTest, ADocumentOrTheBoxMayGoWhileAnEffectIsAtWork)
@@ -220,7 +216,7 @@ TEST_F(TexturesBoxTest, ADocumentOrTheBoxMayGoWhileAnEffectIsAtWork)
     frame.onCall = [&](const std::string& line) {
         if (line == "step") box.reset();
     };
-    press("CmdApply");
+    click("CmdApply");
     EXPECT_EQ(1, frame.logged("step"));
 }
 

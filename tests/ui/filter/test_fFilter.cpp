@@ -1,16 +1,15 @@
 // The filter dialog with real controls, used as a person does.
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
-#include "support/ui/controls.h"
+#include "support/ui/WindowTest.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicturePage.h"
-#include <QtTest>
 
 namespace velara {
 namespace {
 
-struct FilterDialog : ::testing::Test {
+struct FilterDialog : WindowTest {
     RecordingFrame frame;
     Bits picture = randomBits(200, 150, 9);
     Region selection = Region::rectangle(20, 10, 150, 140);
@@ -26,16 +25,11 @@ struct FilterDialog : ::testing::Test {
         frame.log.clear();
         frame.filter_.clock = [this] { return frame.platform_.now += 20; }; // a report falls due in every row
         dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), document->handle());
+        used = dialog.get();
         dialog->show();
     }
     int steps() const { return frame.logged("step"); }
     const Bits& taken() const { return document->bits(); }
-    template <class Widget> Widget* find(const char* name) { return controlOf<Widget>(*dialog, name); }
-    void click(const char* name)
-    {
-        auto* widget = find<QWidget>(name);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
-    }
     Bits shown() { return find<fPicture>("iDst")->bits(); }
     /// What the filter makes of the whole picture with the dialog's settings.
     Bits wanted(std::string_view word)
@@ -79,7 +73,7 @@ TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
     auto* slider = find<QSlider>("sbFilter_0");
     const Bits before = shown();
     for (int value = 1; value <= 90; ++value) slider->setValue(value);
-    EXPECT_EQ("90", find<QSpinBox>("lblFilterV_0")->text().toStdString());
+    EXPECT_EQ("90", text("lblFilterV_0"));
     EXPECT_TRUE(sameBits(before, shown())) << "a burst of changes waits for its end";
     const auto comesTo = [this](const Bits& bits) { return QTest::qWaitFor([&] { return shown() == bits; }, 2000); };
     EXPECT_TRUE(comesTo(wanted("BRIGHTNESS"))) << "the picture fits the preview, so they are the same";
@@ -177,7 +171,7 @@ TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
     picture = randomBits(1, 50, 2); // too narrow to be folded
     selection = Region::rectangle(0, 0, 1, 50);
     open("FOLD");
-    EXPECT_EQ("Division by zero", find<QLabel>("lblState")->text().toStdString());
+    EXPECT_EQ("Division by zero", text("lblState"));
     click("cmdOK");
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: Deformation [Fold]: Division by zero"));
     EXPECT_EQ(0, steps());
@@ -221,18 +215,14 @@ TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
     EXPECT_EQ(0, dialog->arguments().mode) << "slanting has no such strength";
 
     open("CUSTOMCURTAIN");
-    std::map<int, std::string> shown; // by place
+    QMap<int, QString> shown; // by place
     for (int mode = 0; mode < 4; ++mode) {
-        auto* button = find<QRadioButton>(("Curt_" + std::to_string(mode)).c_str());
-        shown[button->x()] = button->text().toStdString();
-        click(button->objectName().toLatin1());
+        const QString name = QString("Curt_%1").arg(mode);
+        shown[find(name)->x()] = text(name);
+        click(name);
         EXPECT_EQ(mode, dialog->arguments().mode) << "told as it is counted: Horizontal, Vertical, Classy, Whity";
     }
-    EXPECT_EQ("Whity Classy Vertical Horizontal", [&] {
-        std::string all;
-        for (const auto& [x, caption] : shown) all += (all.empty() ? "" : " ") + caption;
-        return all;
-    }());
+    EXPECT_EQ("Whity Classy Vertical Horizontal", shown.values().join(' '));
 }
 
 TEST_F(FilterDialog, BanksAndOption)

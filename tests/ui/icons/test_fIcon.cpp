@@ -3,18 +3,16 @@
 #include "support/RecordingFrame.h"
 #include "support/files.h"
 #include "support/pictures.h"
+#include "support/ui/WindowTest.h"
 #include "ui/icons/fIcon.h"
 #include "ui/icons/fIconBrowse.h"
 #include "ui/widgets/fFolderTree.h"
 #include "ui/widgets/fPicture.h"
-#include <QtTest>
-#include <QtWidgets>
-#include <gtest/gtest.h>
 
 namespace velara {
 namespace {
 
-struct IconTest : ::testing::Test {
+struct IconTest : WindowTest {
     RecordingFrame frame;
     QTemporaryDir folder;
     Document document{folder.path(), 1};
@@ -27,11 +25,8 @@ struct IconTest : ::testing::Test {
         window = std::make_unique<fIcon>(frame, nullptr);
         window->load();
         window->show();
+        used = window.get();
     }
-    template <class T> T& control(const char* name) { return *window->findChild<T*>(name); }
-    void click(const char* name) { QTest::mouseClick(&control<QAbstractButton>(name), Qt::LeftButton); }
-    /// The radio button's circle: its row may be wider than it is.
-    void choose(const char* name) { QTest::keyClick(&control<QRadioButton>(name), Qt::Key_Space); }
     QString path(const QString& name) const { return folder.filePath(name); }
     QByteArray content(const QString& name) const { return fileBytes(path(name)); }
     std::string last() const { return frame.platform_.log.empty() ? "" : frame.platform_.log.back(); }
@@ -43,34 +38,30 @@ TEST_F(IconTest, TheChosenSizeOfThePictureIsShownAndSaved)
 {
     const Bits picture = randomBits(40, 30, 5);
     show(picture);
-    EXPECT_EQ("Extract Icon", window->windowTitle().toStdString());
-    EXPECT_TRUE(control<QRadioButton>("o32").isChecked());
-    QLineEdit &width = control<QLineEdit>("Iw"), &height = control<QLineEdit>("Ih");
-    const struct {
-        const char *option, *width, *height; // width and height are typed where they are empty for "Custom"
-        QSize size;
-    } cases[] = {{"o16", "", "", {16, 16}},
-                 {"o64", "", "", {64, 64}},
-                 {"ocustom", "200", "7", {200, 7}},
-                 {"o32", "", "", {32, 32}},
-                 {"ocustom", "256", "1", {256, 1}}};
-    for (const auto& c : cases) {
-        choose(c.option);
-        EXPECT_EQ(*c.width != 0, !width.isReadOnly());
-        if (*c.width) {
-            EXPECT_EQ("", (width.text() + height.text()).toStdString());
-            EXPECT_FALSE(control<QPushButton>("CmdSave").isEnabled());
-            QTest::keyClicks(&width, c.width);
-            QTest::keyClicks(&height, c.height);
+    EXPECT_EQ("Extract Icon", window->windowTitle());
+    EXPECT_TRUE(find<QRadioButton>("o32")->isChecked());
+    for (const auto& [option, size] : {std::pair{"o16", QSize(16, 16)},
+                                       {"o64", QSize(64, 64)},
+                                       {"ocustom", QSize(200, 7)},
+                                       {"o32", QSize(32, 32)},
+                                       {"ocustom", QSize(256, 1)}}) {
+        click(option);
+        const bool typed = !find<QLineEdit>("Iw")->isReadOnly();
+        EXPECT_EQ(option == std::string("ocustom"), typed);
+        if (typed) {
+            EXPECT_EQ("", text("Iw") + text("Ih"));
+            EXPECT_FALSE(find("CmdSave")->isEnabled());
+            type("Iw", QString::number(size.width()));
+            type("Ih", QString::number(size.height()));
         }
-        EXPECT_EQ(QString("%1 %2").arg(c.size.width()).arg(c.size.height()), width.text() + ' ' + height.text());
-        EXPECT_EQ(c.size.width(), control<fPicture>("Ipic").bits().width());
+        EXPECT_EQ(QString("%1 %2").arg(size.width()).arg(size.height()), text("Iw") + ' ' + text("Ih"));
+        EXPECT_EQ(size.width(), find<fPicture>("Ipic")->bits().width());
         frame.platform_.answers = {path("a.ico")};
         click("CmdSave");
-        EXPECT_EQ(iconBytes(iconOf(picture, c.size, {})), content("a.ico")) << c.option;
+        EXPECT_EQ(iconBytes(iconOf(picture, size, {})), content("a.ico")) << option;
     }
-    EXPECT_EQ("Save Icon as", frame.platform_.lastDialog.title.toStdString());
-    EXPECT_EQ("Icon File|*.ico", frame.platform_.lastDialog.filter.toStdString());
+    EXPECT_EQ("Save Icon as", frame.platform_.lastDialog.title);
+    EXPECT_EQ("Icon File|*.ico", frame.platform_.lastDialog.filter);
     QFile::remove(path("a.ico"));
     click("CmdSave"); // cancelled
     EXPECT_FALSE(QFile::exists(path("a.ico")));
@@ -82,7 +73,7 @@ TEST_F(IconTest, TheChosenSizeOfThePictureIsShownAndSaved)
 TEST_F(IconTest, NumbersThatMakeNoIconAreToldAndNothingCanBeSaved)
 {
     show(randomBits(40, 30, 5));
-    choose("ocustom");
+    click("ocustom");
     for (const auto& [width, height] : {std::pair{"0", "0"},
                                         {"20000", "20000"},
                                         {"16", "257"},
@@ -91,12 +82,11 @@ TEST_F(IconTest, NumbersThatMakeNoIconAreToldAndNothingCanBeSaved)
                                         {"-16", "16"},
                                         {"16.5", "16"},
                                         {"999999999", "9"}}) {
-        control<QLineEdit>("Iw").setText(width);
-        control<QLineEdit>("Ih").setText(height);
-        EXPECT_FALSE(control<QPushButton>("CmdSave").isEnabled()) << width;
-        EXPECT_TRUE(control<fPicture>("Ipic").bits().isNull()) << width;
-        EXPECT_EQ("Width and height are whole numbers from 1 to 256.",
-                  control<QLabel>("lblState").text().toStdString());
+        find<QLineEdit>("Iw")->setText(width);
+        find<QLineEdit>("Ih")->setText(height);
+        EXPECT_FALSE(find<QPushButton>("CmdSave")->isEnabled()) << width;
+        EXPECT_TRUE(find<fPicture>("Ipic")->bits().isNull()) << width;
+        EXPECT_EQ("Width and height are whole numbers from 1 to 256.", text("lblState"));
     }
 }
 
@@ -112,47 +102,39 @@ TEST_F(IconTest, TheMaskColourIsTransparentAndComesFromTheWellOrThePreview)
         return content("a.ico") == iconBytes(iconOf(picture, {32, 32}, mask));
     };
     EXPECT_TRUE(saved({}));
-    QTest::keyClick(&control<QCheckBox>("CMask"), Qt::Key_Space);
+    click("CMask");
     EXPECT_TRUE(saved(0xC0C0C0));
     frame.colour = colourOf(3, 2, 1);
     click("CMaskColor");
     EXPECT_TRUE(saved(colourOf(3, 2, 1)));
-    QTest::mouseClick(&control<fPicture>("Ipic"), Qt::LeftButton, {}, QPoint(252, 252)); // eight times as large
+    QTest::mouseClick(find<fPicture>("Ipic"), Qt::LeftButton, {}, QPoint(252, 252)); // eight times as large
     EXPECT_TRUE(saved(colourOf(9, 8, 7)));
-}
-
-TEST_F(IconTest, WithoutAPictureTheLowerHalfWorks)
-{
-    show({});
-    EXPECT_FALSE(window->findChild<QWidget*>("Frame1")->isEnabled());
-    EXPECT_TRUE(window->findChild<QWidget*>("Frame2")->isEnabled());
-    click("CmdSaveCustom");
-    EXPECT_EQ("message: Velara Studio: No Images to extract!", last());
-    EXPECT_EQ(Icon::Information, frame.platform_.lastIcon);
 }
 
 TEST_F(IconTest, TheCheckedCutOutsBecomeASeriesOfFiles)
 {
-    show({});
+    show({}); // without a picture the lower half works
+    EXPECT_FALSE(find("Frame1")->isEnabled());
+    click("CmdSaveCustom");
+    EXPECT_EQ("message: Velara Studio: No Images to extract!", last());
+    EXPECT_EQ(Icon::Information, frame.platform_.lastIcon);
     std::vector<Bits> cutOuts;
     for (const int side : {16, 32, 48}) cutOuts.push_back(randomBits(side, side, std::uint32_t(side)));
     for (const Bits& cutOut : cutOuts) window->series().add(cutOut);
     window->series().ListIcons();
-    auto& lv = control<QTreeWidget>("lv");
+    const auto& lv = *find<QTreeWidget>("lv");
     ASSERT_EQ(3, lv.topLevelItemCount());
-    EXPECT_EQ("2Velara 32 x 32", (lv.topLevelItem(1)->text(0) + ' ' + lv.topLevelItem(1)->text(1)).toStdString());
+    EXPECT_EQ("2Velara 32 x 32", lv.topLevelItem(1)->text(0) + ' ' + lv.topLevelItem(1)->text(1));
 
     for (const char* wrong : {"", "  ", "/none/at/all"}) {
-        control<QLineEdit>("txtFolder").setText(wrong);
+        find<QLineEdit>("txtFolder")->setText(wrong);
         click("CmdSaveCustom");
         EXPECT_EQ(kFolderMissing, last());
         EXPECT_EQ(Icon::Critical, frame.platform_.lastIcon);
-        EXPECT_EQ(&control<QLineEdit>("txtFolder"), window->focusWidget());
+        EXPECT_EQ(find("txtFolder"), window->focusWidget());
     }
-    control<QLineEdit>("txtFolder").setText("  " + folder.path() + " ");
-    QFile former(path("1Velara.ico"));
-    ASSERT_TRUE(former.open(QIODevice::WriteOnly) && former.write("old") == 3);
-    former.close();
+    find<QLineEdit>("txtFolder")->setText("  " + folder.path() + " ");
+    putFile(path("1Velara.ico"), "old");
     lv.topLevelItem(1)->setCheckState(0, Qt::Unchecked);
     click("CmdSaveCustom");
     EXPECT_EQ("message: Velara Studio: 2 icon Files Saved!", last());
@@ -161,11 +143,11 @@ TEST_F(IconTest, TheCheckedCutOutsBecomeASeriesOfFiles)
     EXPECT_FALSE(QFile::exists(path("2Velara.ico")));
 
     QDir(folder.path()).mkdir("2Velara.ico"); // in the way
-    QTest::keyClick(&control<QCheckBox>("chkAll"), Qt::Key_Space);
+    click("chkAll");
     click("CmdSaveCustom");
     EXPECT_EQ("message: Velara Studio: 0 icon Files Saved!", last());
-    QTest::keyClick(&control<QCheckBox>("chkAll"), Qt::Key_Space);
-    QTest::keyClick(&control<QCheckBox>("ChkMask"), Qt::Key_Space);
+    click("chkAll");
+    click("ChkMask");
     click("CmdSaveCustom");
     EXPECT_EQ("message: Velara Studio: 2 icon Files Saved!\nNot written: 2Velara.ico", last());
     EXPECT_EQ(iconBytes(iconOf(cutOuts[0], {16, 16}, 0xC0C0C0)), content("1Velara.ico"));
@@ -175,11 +157,11 @@ TEST_F(IconTest, TheFolderIsChosenInATree)
 {
     show({});
     QDir(folder.path()).mkpath("in/side");
-    control<QLineEdit>("txtFolder").setText(path("in"));
+    find<QLineEdit>("txtFolder")->setText(path("in"));
     click("CmdFolder");
     auto* browse = window->findChild<fIconBrowse*>();
     ASSERT_TRUE(browse);
-    EXPECT_EQ("Icon Extractor: Select Folder", browse->windowTitle().toStdString());
+    EXPECT_EQ("Icon Extractor: Select Folder", browse->windowTitle());
     auto* tree = browse->findChild<fFolderTree*>("BF");
     EXPECT_EQ(path("in"), browse->findChild<QLabel*>("FileName")->text());
     tree->select(path("in/side"));
@@ -188,7 +170,7 @@ TEST_F(IconTest, TheFolderIsChosenInATree)
     EXPECT_TRUE(browse->findChild<QPushButton*>("CmdOpen")->isEnabled());
     QTest::keyClick(tree, Qt::Key_Return);
     EXPECT_FALSE(browse->isVisible());
-    EXPECT_EQ(path("in"), control<QLineEdit>("txtFolder").text());
+    EXPECT_EQ(path("in"), text("txtFolder"));
 }
 
 } // namespace

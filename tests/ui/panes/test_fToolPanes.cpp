@@ -1,19 +1,23 @@
 // The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
+#include "commands/effects.h"
 #include "support/RecordingFrame.h"
-#include "support/ui/controls.h"
+#include "support/filterOf.h"
+#include "support/pictures.h"
+#include "support/ui/WindowTest.h"
 #include "ui/panes/fToolPanes.h"
 #include "ui/widgets/fColorButton.h"
-#include <QtTest>
-#include <gtest/gtest.h>
 
 namespace velara {
 
-struct Panes : ::testing::Test {
+struct Panes : WindowTest {
     RecordingFrame frame;
     std::unique_ptr<QWidget> pane;
 
-    template <class Control> Control* at(const char* name) const { return controlOf<Control>(*pane, name); }
-    void make(const char* tool) { pane.reset(makeSidePane(*findTool(QString(tool)), frame)); }
+    void make(const char* tool)
+    {
+        pane.reset(makeSidePane(*findTool(QString(tool)), frame));
+        used = pane.get();
+    }
     void addStamp(const QString& name, int side)
     {
         QDir(frame.platform_.programFolder()).mkpath("Stamps");
@@ -21,89 +25,57 @@ struct Panes : ::testing::Test {
     }
 };
 
-struct SliderCase {
-    const char *tool, *name;
-    int low, high;
-    std::int16_t Setup::*field;
-};
-constexpr SliderCase kSliders[] = {
-    // clang-format off
-    {"Select",   "sbSelectionPressure",  0, 100, &Setup::SelectionPressure},
-    {"Brush",    "sbBrushSize",          1, 200, &Setup::BrushSize},
-    {"Brush",    "sbBrushPressure",      0, 100, &Setup::BrushPressure},
-    {"Airbrush", "sbAirbrushSize",       2, 200, &Setup::AirbrushSize},
-    {"Airbrush", "sbAirbrushPressure",   0, 100, &Setup::AirbrushPressure},
-    {"Airbrush", "sbAirBrushQuantity",   0, 100, &Setup::AirbrushQuantity},
-    {"Airbrush", "sbAirbrushDefinition", 0, 100, &Setup::AirbrushDefinition},
-    {"Fill",     "sbFillTolerance",      0, 765, &Setup::FillTolerance},
-    {"Fill",     "sbFillPressure",       0, 100, &Setup::FillPressure},
-    {"Shape",    "sbShapePressure",      0, 100, &Setup::ShapePressure},
-    {"Shape",    "sbShapeSides",         3, 24,  &Setup::ShapeSides},
-    {"Stamp",    "sbStampPressure",      0, 100, &Setup::StampPressure},
-    {"Gradient", "sbGradPressure",       0, 100, &Setup::GradientPressure},
-    {"Gradient", "sbGradFrequency",      1, 20,  &Setup::GradientFrequency},
-    {"Text",     "sbTextOpacity",        0, 100, &Setup::ToolOpacity},
-    {"Pencil",   "sbPencilOpacity",      0, 100, &Setup::ToolOpacity},
-    // clang-format on
-};
-
-TEST_F(Panes, SlidersWriteTheirSetting)
+TEST_F(Panes, EverySliderWritesASettingOfItsOwn)
 {
-    for (const SliderCase& c : kSliders) {
-        frame.setup_.*c.field = static_cast<std::int16_t>(c.high - 1);
-        make(c.tool);
-        auto* slider = at<QSlider>(c.name);
-        auto* number = at<QSpinBox>((std::string("lbl") + c.name).c_str());
-        EXPECT_EQ(slider->value(), c.high - 1) << c.name;
-        EXPECT_EQ(number->value(), c.high - 1) << c.name;
-        slider->setValue(9999);
-        EXPECT_EQ(frame.setup_.*c.field, c.high) << c.name;
-        slider->setValue(-9999);
-        EXPECT_EQ(frame.setup_.*c.field, c.low) << c.name;
-        EXPECT_EQ(number->value(), c.low) << c.name;
-        frame.setup_.*c.field = -7; // as from a damaged file
-        make(c.tool);
-        EXPECT_EQ(frame.setup_.*c.field, c.low) << c.name;
-    }
+    std::vector<std::pair<const PaneRow*, int>> written; // and the value
+    for (const ToolRow& tool : toolRows())
+        for (const PaneRow& row : tool.pane) {
+            if (row.kind != PaneKind::Slider) continue;
+            const auto stored = [&] { return row.get(frame.setup_, frame.toolStores_); };
+            row.set(frame.setup_, frame.toolStores_, -7); // as from a damaged file
+            make(tool.name);
+            EXPECT_EQ(stored(), row.low) << row.name;
+            find<QSlider>(row.name)->setValue(9999);
+            EXPECT_EQ(stored(), row.high) << row.name;
+            make(tool.name);
+            EXPECT_EQ(find<QSlider>(row.name)->value(), row.high) << row.name;
+            find<QSlider>(row.name)->setValue(row.low + int(written.size()));
+            EXPECT_EQ(find<QSpinBox>(QString("lbl") + row.name)->value(), row.low + int(written.size())) << row.name;
+            written.emplace_back(&row, stored());
+        }
+    EXPECT_GT(written.size(), 15u);
+    for (const auto& [row, value] : written)
+        EXPECT_TRUE(row->get(frame.setup_, frame.toolStores_) == value || // or it is the pencil's too
+                    row->name == std::string("sbTextOpacity"))
+            << row->name;
 }
 
 struct ListCase {
-    const char *tool, *name;
-    std::vector<std::pair<const char*, int>> entries; // and the value each stands for
+    const char *tool, *name, *entries, *numbers; // the value that each entry stands for
     std::function<int(const Setup&)> field;
 };
 
 TEST_F(Panes, ListsWriteWhatTheEntryStandsFor)
 {
     const ListCase cases[] = {
-        {"Select", "cbSelectionMode", {{"Add", 0}, {"Subtract", 1}, {"New", 2}}, &Setup::SelectionMode},
-        {"Select",
-         "cbSelectionShape",
-         {{"Rectangle", 0}, {"Ellipse", 1}, {"Polygon/Free hand", 2}, {"Pixel", 3}},
-         &Setup::SelectionShape},
-        {"SelectionMove", "cSelect", {{"Move Selection Only", 1}, {"Move Content Only", 0}}, &Setup::MoveSelection},
-        {"Brush",
-         "cbBrushMode",
-         {{"Current color", 0},
-          {"Current stamp", 6},
-          {"Darken", 5},
-          {"Lighten", 4},
-          {"Sharpen", 3},
-          {"Soften", 1},
-          {"Soften (Overlay)", 2}},
-         &Setup::BrushMode},
-        {"Fill", "cbFillMode", {{"Current color", 0}, {"Current stamp", 1}}, &Setup::FillMode},
-        {"Gradient", "cbGradMode", {{"Linear", 0}, {"Circular", 1}}, &Setup::GradientMode},
+        // clang-format off
+        {"Select", "cbSelectionMode", "Add|Subtract|New", "012", &Setup::SelectionMode},
+        {"Select", "cbSelectionShape", "Rectangle|Ellipse|Polygon/Free hand|Pixel", "0123", &Setup::SelectionShape},
+        {"SelectionMove", "cSelect", "Move Selection Only|Move Content Only", "10", &Setup::MoveSelection},
+        {"Brush", "cbBrushMode", "Current color|Current stamp|Darken|Lighten|Sharpen|Soften|Soften (Overlay)", "0654312", &Setup::BrushMode},
+        {"Fill", "cbFillMode", "Current color|Current stamp", "01", &Setup::FillMode},
+        {"Gradient", "cbGradMode", "Linear|Circular", "01", &Setup::GradientMode},
+        // clang-format on
     };
     for (const ListCase& c : cases) {
         make(c.tool);
-        auto* list = at<QComboBox>(c.name);
-        ASSERT_EQ(list->count(), int(c.entries.size())) << c.name;
-        for (const auto& [entry, number] : c.entries) {
-            list->setCurrentIndex(list->findText(entry));
-            EXPECT_EQ(c.field(frame.setup_), number) << c.name << ": " << entry;
+        const QStringList entries = QString(c.entries).split('|');
+        ASSERT_EQ(find<QComboBox>(c.name)->count(), entries.size()) << c.name;
+        for (int i = 0; i < entries.size(); ++i) {
+            choose(c.name, entries[i]);
+            EXPECT_EQ(c.field(frame.setup_), c.numbers[i] - '0') << c.name << ", " << i;
             std::unique_ptr<QWidget> other(makePopup(*findTool(QString(c.tool)), frame, nullptr));
-            EXPECT_EQ(other->findChild<QComboBox*>(c.name)->currentText(), entry) << "the other pane shows the same";
+            EXPECT_EQ(controlOf<QComboBox>(*other, c.name)->currentText(), entries[i]) << "the other pane's too";
         }
     }
 }
@@ -111,15 +83,12 @@ TEST_F(Panes, ListsWriteWhatTheEntryStandsFor)
 TEST_F(Panes, TheMoveActionIsTheSelectionsOwnSetting)
 {
     make("Select");
-    at<QCheckBox>("chkMoveSelection")->setChecked(false);
+    find<QCheckBox>("chkMoveSelection")->setChecked(false);
     EXPECT_FALSE(frame.setup_.MoveSelection);
     make("SelectionMove");
-    EXPECT_EQ(at<QComboBox>("cSelect")->currentText(), "Move Content Only");
-    EXPECT_EQ(at<QSlider>("cSelectionPressure")->value(), 50);
-    at<QSlider>("cSelectionPressure")->setValue(80);
-    EXPECT_EQ(frame.toolStores_.movePressure, 80);
+    EXPECT_EQ(text("cSelect"), "Move Content Only");
     EXPECT_FALSE(frame.toolStores_.useMovePressure);
-    at<QCheckBox>("cSelectionOwn")->setChecked(true);
+    find<QCheckBox>("cSelectionOwn")->setChecked(true);
     EXPECT_TRUE(frame.toolStores_.useMovePressure);
 }
 
@@ -127,30 +96,30 @@ TEST_F(Panes, SidesAreForPolygonsOnly)
 {
     frame.setup_.ShapeKind = 0;
     make("Shape");
-    auto* kinds = at<QListWidget>("lstShape");
+    auto* kinds = find<QListWidget>("lstShape");
     ASSERT_EQ(kinds->count(), 7);
-    EXPECT_FALSE(at<QSlider>("sbShapeSides")->isEnabled());
+    EXPECT_FALSE(find<QSlider>("sbShapeSides")->isEnabled());
     kinds->setCurrentRow(6);
     EXPECT_EQ(kinds->currentItem()->text(), "Polygon");
     EXPECT_EQ(frame.setup_.ShapeKind, 6);
-    EXPECT_TRUE(at<QSlider>("sbShapeSides")->isEnabled());
+    EXPECT_TRUE(find<QSlider>("sbShapeSides")->isEnabled());
 }
 
 TEST_F(Panes, TheGradientIsShown)
 {
     make("Gradient");
-    at<fColorButton>("GradColor_0")->setColour(0x0000FF);
-    at<fColorButton>("GradColor_1")->setColour(0xFF0000);
-    at<QSlider>("sbGradPressure")->setValue(100);
+    find<fColorButton>("GradColor_0")->setColour(0x0000FF);
+    find<fColorButton>("GradColor_1")->setColour(0xFF0000);
+    find<QSlider>("sbGradPressure")->setValue(100);
     EXPECT_EQ(frame.setup_.GradientColor1, 0x0000FF);
-    const auto shown = [&] { return at<QLabel>("iGrad")->pixmap().toImage(); };
+    const auto shown = [&] { return find<QLabel>("iGrad")->pixmap().toImage(); };
     const QImage linear = shown();
     EXPECT_GT(qRed(linear.pixel(2, 20)), 200);
     EXPECT_GT(qBlue(linear.pixel(linear.width() - 3, 20)), 200);
-    at<QComboBox>("cbGradMode")->setCurrentIndex(1);
+    find<QComboBox>("cbGradMode")->setCurrentIndex(1);
     EXPECT_NE(shown(), linear);
     const QImage circular = shown();
-    at<QCheckBox>("chkTranspCol_1")->setChecked(true);
+    find<QCheckBox>("chkTranspCol_1")->setChecked(true);
     EXPECT_TRUE(frame.setup_.GradientTransparent2);
     EXPECT_NE(shown(), circular);
 }
@@ -159,21 +128,21 @@ TEST_F(Panes, StampsFollowTheirFolder)
 {
     make("Stamp");
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: <Stamps> subfolder not found."));
-    EXPECT_FALSE(at<QLabel>("lblStamps")->isHidden());
-    EXPECT_EQ(at<QLabel>("lblStamps")->text(), "Stamp sub-Folder Not Found!");
+    EXPECT_FALSE(find<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(text("lblStamps"), "Stamp sub-Folder Not Found!");
     EXPECT_TRUE(frame.toolStores_.stamp.isNull());
 
     addStamp("b.bmp", 9);
     addStamp("a.bmp", 5);
-    auto* list = at<QComboBox>("cbStamps");
+    auto* list = find<QComboBox>("cbStamps");
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; })) << "the folder has come";
-    EXPECT_TRUE(at<QLabel>("lblStamps")->isHidden());
-    EXPECT_EQ(list->currentText(), "a.bmp");
+    EXPECT_TRUE(find<QLabel>("lblStamps")->isHidden());
+    EXPECT_EQ(text("cbStamps"), "a.bmp");
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5);
     pane->show();
     QTest::keyClick(list, Qt::Key_Down);
     EXPECT_EQ(frame.toolStores_.stamp.width(), 9);
-    EXPECT_EQ(at<QLabel>("iStamp")->pixmap().width(), 9);
+    EXPECT_EQ(find<QLabel>("iStamp")->pixmap().width(), 9);
 
     addStamp("c.bmp", 7);
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 3; }));
@@ -182,7 +151,7 @@ TEST_F(Panes, StampsFollowTheirFolder)
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }));
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5) << "the chosen one is gone";
     make("Stamp");
-    EXPECT_EQ(at<QComboBox>("cbStamps")->count(), 2);
+    EXPECT_EQ(find<QComboBox>("cbStamps")->count(), 2);
 }
 
 TEST_F(Panes, EveryToolOfTheTableHasBothPanes)
@@ -201,6 +170,25 @@ TEST_F(Panes, EveryToolOfTheTableHasBothPanes)
         }
     }
     EXPECT_EQ(makePopup(*findTool(u"GetColor"), frame, nullptr), nullptr);
+}
+
+TEST_F(Panes, TheTextPaneRunsTheChosenEffectAtItsAmount)
+{
+    Document document(frame.platform_.folder.path(), 1);
+    const Bits before = randomBits(30, 20, 5);
+    document.takePicture(before);
+    make("Text");
+    auto* list = find<QListWidget>("lstEffects");
+    EXPECT_EQ(kEffects, list->count());
+    EXPECT_EQ("Emboss", list->currentItem()->text());
+    click("cmdEffect"); // no document: nothing
+    frame.document = &document;
+    find<QSlider>("sbAmount")->setValue(12);
+    EXPECT_EQ("12%", text("lblsbAmount"));
+    list->setCurrentRow(7 + 1);
+    click("cmdEffect");
+    EXPECT_TRUE(sameBits(run("ENGRAVE", {12}, before, document.Region.working()), document.bits()));
+    EXPECT_EQ(1, frame.logged("step"));
 }
 
 } // namespace velara

@@ -2,11 +2,10 @@
 #pragma once
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include "ui/view/fImage.h"
-#include <QApplication>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace velara {
 
@@ -33,15 +32,11 @@ struct ImageFixture : ::testing::Test {
         image->SaveUndoBits();
         return *image;
     }
-    QWidget* control(const char* name) const { return image->findChild<QWidget*>(name); }
+    QWidget* control(const char* name) const { return controlOf(*image, name); }
     QWidget* iDst() const { return control("iDst"); }
+    void hover(QPoint at) { sendMouse(iDst(), QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
     /// Colour 0xRRGGBB on the screen at a place of the display.
     std::uint32_t shown(int x, int y) const { return iDst()->grab().toImage().pixel(x, y) & 0xFFFFFF; }
-    static std::uint32_t colourAt(const Bits& bits, int x, int y)
-    {
-        const Pixel p = bits.at(x, y);
-        return std::uint32_t(p.c[2] << 16 | p.c[1] << 8 | p.c[0]);
-    }
 };
 
 } // namespace velara

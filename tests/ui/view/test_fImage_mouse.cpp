@@ -1,6 +1,5 @@
 // Mouse, wheel and keys on the display of a document, with the real tools.
 #include "region/outline.h"
-#include "support/ui/controls.h"
 #include "ui/view/ImageFixture.h"
 
 namespace velara {
@@ -15,17 +14,11 @@ struct Mouse : ImageFixture {
         send(QEvent::MouseButtonPress, at, button, button);
     }
     void drag(QPoint at) { send(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton); }
-    void hover(QPoint at) { send(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
     void release(QPoint at, Qt::MouseButton button = Qt::LeftButton)
     {
         send(QEvent::MouseButtonRelease, at, button, Qt::NoButton);
     }
-    void wheel(QPoint at, QPoint angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QWheelEvent event(at, iDst()->mapToGlobal(QPointF(at)), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase,
-                          false);
-        QApplication::sendEvent(iDst(), &event);
-    }
+    void wheel(QPoint at, QPoint angle, Qt::KeyboardModifiers keys = {}) { sendWheel(iDst(), at, angle, keys); }
     void choose(const char* tool) { frame.setup_.CurrentTool = tool; }
 };
 

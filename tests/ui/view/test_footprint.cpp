@@ -1,5 +1,4 @@
 // The line that shows what a tool would change, under the pointer.
-#include "support/ui/controls.h"
 #include "tools/Tools.h"
 #include "ui/view/ImageFixture.h"
 #include "ui/view/footprintLine.h"
@@ -19,7 +18,6 @@ struct Repaints : QObject {
 };
 
 struct FootprintTest : ImageFixture {
-    void hover(QPoint at) { sendMouse(iDst(), QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
     bool lineIsSeen() const
     {
         const QImage seen = iDst()->grab().toImage();

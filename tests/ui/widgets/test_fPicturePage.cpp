@@ -1,8 +1,7 @@
 // Two pages with a picture, used by mouse, wheel and keys.
 #include "support/pictures.h"
-#include "support/ui/controls.h"
+#include "support/ui/WindowTest.h"
 #include "ui/widgets/fPicturePage.h"
-#include <QtTest>
 
 namespace velara {
 namespace {
@@ -14,7 +13,7 @@ struct Canvas final : fPicture {
     void paintOver(QPainter&, const QRect& part) override { last |= part; }
 };
 
-struct PicturePages : ::testing::Test {
+struct PicturePages : WindowTest {
     QWidget window;
     Canvas* canvas = new Canvas;
     fPicturePage left{{"CLeft", "Left", "HLeft", "VLeft"}, "Before", canvas};
@@ -23,6 +22,7 @@ struct PicturePages : ::testing::Test {
 
     void SetUp() override
     {
+        used = &window;
         auto* row = new QHBoxLayout(&window);
         row->addWidget(&left);
         row->addWidget(&right);
@@ -42,27 +42,21 @@ struct PicturePages : ::testing::Test {
         right.setBits(bits);
         QTest::qWait(1);
     }
-    QScrollBar* bar(const char* name) { return window.findChild<QScrollBar*>(name); }
     QPoint at(fPicturePage& page) { return page.picture().pos(); }
 };
 
-/// The pixel that a grab of the container shows at a place.
+/// What a grab of the container shows at a place.
 QRgb shownAt(fPicturePage& page, QPoint place) { return page.grab().toImage().pixel(place) & 0xFFFFFF; }
-QRgb pixelOf(const Bits& bits, QPoint at)
-{
-    const Pixel p = bits.at(at.x(), at.y());
-    return QRgb(p.c[2] << 16 | p.c[1] << 8 | p.c[0]);
-}
 
 TEST_F(PicturePages, ThePartnerShowsTheSamePlace)
 {
-    ASSERT_TRUE(bar("HLeft")->isEnabled());
-    bar("HLeft")->setValue(123);
-    bar("VRight")->setValue(45);
+    ASSERT_TRUE(find("HLeft")->isEnabled());
+    find<QScrollBar>("HLeft")->setValue(123);
+    find<QScrollBar>("VRight")->setValue(45);
     EXPECT_EQ(QPoint(-123, -45), at(left));
     EXPECT_EQ(QPoint(-123, -45), at(right));
     for (fPicturePage* page : {&left, &right})
-        EXPECT_EQ(pixelOf(picture, {123 + 20, 45 + 30}), shownAt(*page, {20, 30}));
+        EXPECT_EQ(colourAt(picture, 123 + 20, 45 + 30), shownAt(*page, {20, 30}));
     right.setBits(randomBits(900, 700, 4));
     EXPECT_EQ(QPoint(-123, -45), at(right)) << "another picture of that size stays in its place";
 }
@@ -71,15 +65,15 @@ TEST_F(PicturePages, SmallerPicturesStandInTheMiddleAndBarsAreOff)
 {
     left.setScroll({300, 200});
     show(randomBits(40, 30, 1));
-    const QWidget* container = window.findChild<QWidget*>("CLeft");
+    const QWidget* container = find("CLeft");
     EXPECT_EQ(QPoint((container->width() - 40) / 2, (container->height() - 30) / 2), at(left));
-    EXPECT_FALSE(bar("HLeft")->isEnabled());
-    EXPECT_FALSE(bar("VRight")->isEnabled());
+    EXPECT_FALSE(find("HLeft")->isEnabled());
+    EXPECT_FALSE(find("VRight")->isEnabled());
     show(randomBits(900, 10, 1)); // one direction only
-    EXPECT_TRUE(bar("HLeft")->isEnabled());
-    EXPECT_FALSE(bar("VLeft")->isEnabled());
+    EXPECT_TRUE(find("HLeft")->isEnabled());
+    EXPECT_FALSE(find("VLeft")->isEnabled());
     show({});
-    EXPECT_FALSE(bar("HLeft")->isEnabled());
+    EXPECT_FALSE(find("HLeft")->isEnabled());
 }
 
 TEST_F(PicturePages, TheMouseDragsThePictureAndKeepsHoldOfItBeyondTheEdge)
@@ -108,20 +102,15 @@ TEST_F(PicturePages, WheelAndKeysMoveAndZoomBoth)
     QTest::keyClick(&left, Qt::Key_Down);
     QTest::keyClick(&left, Qt::Key_Right);
     EXPECT_EQ(QPoint(-16, -16), at(right));
-    const auto wheel = [&](int angle, Qt::KeyboardModifiers modifiers) {
-        QWheelEvent event({5, 5}, left.mapToGlobal(QPointF(5, 5)), {}, {0, angle}, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&left, &event);
-    };
-    wheel(-120, Qt::NoModifier);
+    sendWheel(&left, {5, 5}, {0, -120});
     EXPECT_EQ(QPoint(-16, -64), at(right));
     left.setScroll({450, 350});
-    wheel(120, Qt::ControlModifier);
+    sendWheel(&left, {5, 5}, {0, 120}, Qt::ControlModifier);
     EXPECT_EQ(2, right.picture().zoom());
     EXPECT_EQ(at(left), at(right));
     EXPECT_EQ(QSize(1800, 1400), right.picture().size());
     const QPoint scroll = right.scroll();
-    EXPECT_EQ(pixelOf(picture, {(scroll.x() + 21) / 2, (scroll.y() + 30) / 2}), shownAt(right, {21, 30}));
+    EXPECT_EQ(colourAt(picture, (scroll.x() + 21) / 2, (scroll.y() + 30) / 2), shownAt(right, {21, 30}));
     right.setZoom(99);
     EXPECT_EQ(15, left.picture().zoom()) << "the most";
 }
