@@ -1,7 +1,9 @@
-// Small files of tests, written and read back whole.
+// Small files of tests, written and read back whole, and a folder for them.
 #pragma once
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace velara {
@@ -19,5 +21,25 @@ inline QByteArray fileBytes(const QString& path, const QByteArray& otherwise = {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : otherwise;
 }
+
+/// Base of tests with a folder of their own. A name is that of a file in it.
+struct FolderTest : ::testing::Test {
+    QTemporaryDir folder;
+
+    QString path(const QString& name) const { return folder.filePath(name); }
+    /// Makes the file anew. \returns where it is.
+    QString put(const QString& name, const QByteArray& bytes) const
+    {
+        putFile(path(name), bytes);
+        return path(name);
+    }
+    QByteArray content(const QString& name) const { return fileBytes(path(name), "missing"); }
+    /// Names of all that is there, in their order.
+    QStringList files() const
+    {
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        return QDir(folder.path()).entryList(all, QDir::Name);
+    }
+};
 
 } // namespace velara
