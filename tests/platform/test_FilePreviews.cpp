@@ -1,30 +1,32 @@
 // Previews of real files, read by the real helper in the background.
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "platform/FilePreviews.h"
+#include "support/files.h"
 #include <QtTest>
-#include <gtest/gtest.h>
 
 namespace velara {
 
 namespace {
 
-struct FilePreviewsTest : ::testing::Test {
-    QTemporaryDir folder;
+struct FilePreviewsTest : FolderTest {
     QByteArray before = qgetenv("XDG_CACHE_HOME");
     FilePreviews previews;
     std::vector<Preview> answers;
     const Previews::Done keep = [this](const Preview& preview) { answers.push_back(preview); };
 
-    void SetUp() override { qputenv("XDG_CACHE_HOME", folder.filePath("cache").toLocal8Bit()); }
+    void SetUp() override { qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit()); }
     void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
+    /// Sets the time of the last change, so many seconds after a moment long ago.
+    static void age(const QString& path, int seconds)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QFile::ReadWrite));
+        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000 + seconds), QFile::FileModificationTime);
+    }
     QString file(const QString& name, const QByteArray& bytes)
     {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-        file.write(bytes);
-        file.flush();
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000), QFile::FileModificationTime);
-        return file.fileName();
+        age(put(name, bytes), 0);
+        return path(name);
     }
     static QByteArray ppm(int side, char value)
     {
@@ -93,9 +95,7 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers[1].image, blue);
     EXPECT_EQ(answers[1].size, QSize(600, 600));
-    QFile changed(grey);
-    ASSERT_TRUE(changed.open(QFile::ReadWrite));
-    changed.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'007), QFile::FileModificationTime);
+    age(grey, 7);
     const auto third = previews.thumbnail(grey, keep);
     ASSERT_TRUE(answered(3));
     EXPECT_EQ(answers[2].image.pixel(0, 0), 0xFF808080u);
