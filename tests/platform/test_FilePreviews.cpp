@@ -16,16 +16,9 @@ struct FilePreviewsTest : FolderTest {
 
     void SetUp() override { qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit()); }
     void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
-    /// Sets the time of the last change, so many seconds after a moment long ago.
-    static void age(const QString& path, int seconds)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QFile::ReadWrite));
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000 + seconds), QFile::FileModificationTime);
-    }
     QString file(const QString& name, const QByteArray& bytes)
     {
-        age(put(name, bytes), 0);
+        touchFile(put(name, bytes), QDateTime::fromSecsSinceEpoch(1'700'000'000));
         return path(name);
     }
     static QByteArray ppm(int side, char value)
@@ -95,7 +88,7 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers[1].image, blue);
     EXPECT_EQ(answers[1].size, QSize(600, 600));
-    age(grey, 7);
+    touchFile(grey, QDateTime::fromSecsSinceEpoch(1'700'000'007));
     const auto third = previews.thumbnail(grey, keep);
     ASSERT_TRUE(answered(3));
     EXPECT_EQ(answers[2].image.pixel(0, 0), 0xFF808080u);

@@ -1,6 +1,7 @@
 // Small files of tests, written and read back whole, and a folder for them.
 #pragma once
 #include <QByteArray>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -20,6 +21,13 @@ inline QByteArray fileBytes(const QString& path, const QByteArray& otherwise = {
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : otherwise;
+}
+
+/// The file as if it was changed then; a new one where there is none.
+inline void touchFile(const QString& path, const QDateTime& when)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(when, QFile::FileModificationTime));
 }
 
 /// Base of tests with a folder of their own. A name is that of a file in it.

@@ -3,7 +3,6 @@
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "support/files.h"
 #include "support/places.h"
-#include <QDateTime>
 
 namespace velara {
 
@@ -19,13 +18,7 @@ struct SharedThumbnails : FolderTest {
         touch(QDateTime::fromSecsSinceEpoch(1'700'000'000));
     }
     void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
-    void touch(const QDateTime& when) const { touch(picture, when); }
-    static void touch(const QString& path, const QDateTime& when)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QFile::ReadWrite));
-        ASSERT_TRUE(file.setFileTime(when, QFile::FileModificationTime));
-    }
+    void touch(const QDateTime& when) const { touchFile(picture, when); }
     static QImage red()
     {
         QImage image(128, 64, QImage::Format_RGB32);
@@ -75,7 +68,7 @@ TEST_F(SharedThumbnails, NothingIsWrittenForFilesInTheMakingEntriesAndLockedCach
     QFile::remove(path("cache"));
     SharedThumbnail(picture).write(red(), {4000, 2000});
     const QString entry = SharedThumbnail(picture).entries().value(0);
-    touch(entry, QDateTime::fromSecsSinceEpoch(1'700'000'000));
+    touchFile(entry, QDateTime::fromSecsSinceEpoch(1'700'000'000));
     SharedThumbnail(entry).write(red(), {128, 64});
     EXPECT_EQ(SharedThumbnail(entry).entries(), QStringList());
     EXPECT_EQ(QDir(path("cache/thumbnails/normal")).entryList(QDir::Files).size(), 1) << "no strays";
