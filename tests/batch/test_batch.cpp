@@ -1,12 +1,9 @@
 // The real program on real files: what it writes, what it says and how it ends.
 #include "region/Region.h"
 #include "support/files.h"
-#include "support/pictures.h"
 #include "support/places.h"
-#include <QDir>
-#include <QFile>
+#include <QImage>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <functional>
 
 namespace velara {
@@ -14,110 +11,79 @@ namespace {
 
 struct Outcome {
     int status; // -1: it crashed or hung
-    std::string errors, output;
+    QString errors, output;
 };
 
-/// A picture of three bytes a pixel, red first.
-using Picture = std::vector<std::array<int, 3>>;
-
 constexpr int kWidth = 12, kHeight = 9;
+const char* const kFullDisk = "trap '' XFSZ && ulimit -f 40000"; // 20 MB: room for the child that reads
 
-struct BatchTest : ::testing::Test {
-    QTemporaryDir folder, temporary;
+struct BatchTest : FolderTest {
+    QTemporaryDir temporary;
 
-    void SetUp() override { put("in.ppm", anymap(kWidth, kHeight)); }
-
-    QString path(const std::string& name) const { return folder.filePath(QString::fromStdString(name)); }
-    void put(const std::string& name, const QByteArray& bytes) const { putFile(path(name), bytes); }
-    QByteArray content(const std::string& name) const { return fileBytes(path(name), "missing"); }
-    QStringList files() const { return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+    void SetUp() override { ASSERT_TRUE(input().save(path("in.ppm"))); }
 
     /// Runs it in the folder; arguments are split at blanks. before is shell text that runs first.
-    Outcome run(const std::string& arguments, const char* before = "true") const
+    Outcome run(const QString& arguments, const QString& before = "true") const
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("TMPDIR"), temporary.path());
-        environment.remove(QStringLiteral("DISPLAY"));
-        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        environment.insert("TMPDIR", temporary.path());
+        environment.remove("DISPLAY");
+        environment.remove("QT_QPA_PLATFORM");
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder.path());
-        QStringList list{QStringLiteral("-c"), QString::fromLatin1(before) + QStringLiteral(" && exec \"$0\" \"$@\""),
-                         builtPath("velara-batch")};
-        list += QString::fromStdString(arguments).split(u' ', Qt::SkipEmptyParts);
-        process.start(QStringLiteral("/bin/sh"), list);
+        process.start("/bin/sh", QStringList{"-c", before + " && exec \"$0\" \"$@\"", builtPath("velara-batch")} +
+                                     arguments.split(u' ', Qt::SkipEmptyParts));
         const bool ended = process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit;
-        return {ended ? process.exitCode() : -1, process.readAllStandardError().toStdString(),
-                process.readAllStandardOutput().toStdString()};
+        return {ended ? process.exitCode() : -1, process.readAllStandardError(), process.readAllStandardOutput()};
     }
-    /// The pixels that steps make of the input.
-    Picture result(const std::string& steps, int width = kWidth, int height = kHeight) const
+    /// Whether a run has that exit status and says that among its errors.
+    ::testing::AssertionResult ends(int status, const QString& arguments, const QString& said = {},
+                                    const QString& before = "true") const
     {
-        const Outcome outcome = run("in.ppm " + steps + " out.ppm");
-        EXPECT_EQ(0, outcome.status) << steps << ": " << outcome.errors;
-        const QByteArray bytes = content("out.ppm");
-        const QByteArray size = QByteArray::number(width) + ' ' + QByteArray::number(height);
-        EXPECT_TRUE(bytes.left(20).simplified().contains(size)) << steps << ": " << bytes.left(20).toStdString();
-        Picture picture;
-        for (auto at = bytes.size() - 3 * width * height; at >= 0 && at < bytes.size(); at += 3)
-            picture.push_back({std::uint8_t(bytes[at]), std::uint8_t(bytes[at + 1]), std::uint8_t(bytes[at + 2])});
+        const Outcome outcome = run(arguments, before);
+        if (outcome.status == status && outcome.errors.contains(said)) return ::testing::AssertionSuccess();
+        return ::testing::AssertionFailure() << arguments.toStdString() << ": " << outcome.status << ", not " << status
+                                             << "; " << outcome.errors.toStdString();
+    }
+    /// What steps make of a picture, the input.
+    QImage result(const QString& steps, QSize size = {kWidth, kHeight}, const QString& of = "in.ppm") const
+    {
+        EXPECT_TRUE(ends(0, of + ' ' + steps + " out.ppm"));
+        const QImage picture(path("out.ppm"));
+        EXPECT_EQ(size, picture.size()) << steps.toStdString();
         return picture;
     }
-
-    static std::array<int, 3> inputPixel(int i) { return {i % kWidth, 100 + i / kWidth, i}; }
-    static Picture input(const std::function<bool(int x, int y)>& inverted = [](int, int) { return false; })
+    static QImage input(const std::function<bool(int x, int y)>& inverted = [](int, int) { return false; })
     {
-        Picture picture;
-        for (int i = 0; i < kWidth * kHeight; ++i) {
-            picture.push_back(inputPixel(i));
-            if (inverted(i % kWidth, i / kWidth))
-                for (int& c : picture.back()) c = 255 - c;
-        }
+        QImage picture(kWidth, kHeight, QImage::Format_RGB32);
+        for (int y = 0; y < kHeight; ++y)
+            for (int x = 0; x < kWidth; ++x)
+                picture.setPixel(x, y, qRgb(x, 100 + y, y * kWidth + x) ^ (inverted(x, y) ? 0xFFFFFF : 0));
         return picture;
-    }
-    static QByteArray anymap(int width, int height)
-    {
-        QByteArray bytes = "P6\n" + QByteArray::number(width) + ' ' + QByteArray::number(height) + "\n255\n";
-        for (int i = 0; i < width * height; ++i)
-            for (const int c : inputPixel(i)) bytes += static_cast<char>(c);
-        return bytes;
     }
 };
 
 TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
 {
-    ASSERT_EQ(0, run("in.ppm good.png").status);
-    ASSERT_EQ(0, run("in.ppm good.jpg").status);
-    put("empty.png", {});
-    put("short.png", content("good.png").left(60));
-    put("short.jpg", content("good.jpg").left(200));
-    put("header.bmp", QByteArray::fromHex("424d 3600 0000 0000 0000 3600 0000 2800 0000"));
-    put("huge.bmp", QByteArray::fromHex("424d 3600 0000 0000 0000 3600 0000 2800 0000 60ea 0000 60ea 0000 0100 1800"
-                                        "0000 0000 0000 0000 0000 0000 0000 0000 0000 0000 0000 0000"));
-    put("huge.ppm", "P6\n60000 60000\n255\nabc");
     put("zip.png", "PK\x03\x04" + QByteArray(400, 'z'));
-    put("garbage.tif", QByteArray("\x01\xfe\x37\x00", 4).repeated(500));
+    put("short.ppm", content("in.ppm").chopped(100));
     put("in.xyz", content("in.ppm"));
     put("out.png", "precious");
     put("out.ppm", "precious");
-    QDir(folder.path()).mkdir(QStringLiteral("folder.png"));
-    QFile::link(QStringLiteral("/dev/full"), path("full.png"));
-    QFile::link(QStringLiteral("loop2.png"), path("loop.png"));
-    QFile::link(QStringLiteral("loop.png"), path("loop2.png"));
+    QDir(folder.path()).mkdir("folder.png");
+    QFile::link("/dev/full", path("full.png"));
+    QFile::link("loop2.png", path("loop.png"));
+    QFile::link("loop.png", path("loop2.png"));
     const struct {
         const char* arguments;
         int status;
         const char* named; // in the message
     } kCases[] = {
         {"missing.png out.png", 1, "missing.png"},
-        {"empty.png out.png", 1, "empty.png"},
-        {"short.png out.png", 1, "short.png"},
-        {"short.jpg out.png", 1, "short.jpg"},
-        {"header.bmp out.png", 1, "header.bmp"},
-        {"huge.bmp out.png", 1, "huge.bmp"},
-        {"huge.ppm out.png", 1, "huge.ppm"},
         {"zip.png out.png", 1, "zip.png"},
-        {"garbage.tif out.png", 1, "garbage.tif"},
+        {"short.ppm out.ppm", 1, "its end is missing; --partial takes what is there"},
+        {"a\x1b[31m.png out.png", 1, "a\\x1b[31m.png can't be read"},
         {"folder.png out.png", 1, "folder.png"},
         {"in.xyz out.png", 1, "in.xyz"},
         {"in.ppm out.xyz", 1, "out.xyz"},
@@ -178,98 +144,68 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
     };
     const QStringList before = files();
     for (const auto& c : kCases) {
-        const Outcome outcome = run(c.arguments);
-        EXPECT_EQ(c.status, outcome.status) << c.arguments << "\n" << outcome.errors;
-        EXPECT_NE(std::string::npos, outcome.errors.find(c.named)) << c.arguments << "\n" << outcome.errors;
+        EXPECT_TRUE(ends(c.status, c.arguments, c.named));
         EXPECT_EQ(before, files()) << c.arguments;
     }
     EXPECT_EQ("precious", content("out.png"));
     EXPECT_EQ("precious", content("out.ppm"));
 }
 
-TEST_F(BatchTest, ACutOffPictureIsTakenOnlyWhenAskedFor)
+TEST_F(BatchTest, ACutOffPictureIsTakenWhenAskedFor)
 {
     put("short.ppm", content("in.ppm").chopped(100));
-    const Outcome refused = run("short.ppm out.ppm");
-    EXPECT_EQ(1, refused.status);
-    EXPECT_NE(std::string::npos, refused.errors.find("its end is missing; --partial takes what is there"))
-        << refused.errors;
-    EXPECT_FALSE(QFile::exists(path("out.ppm")));
-    EXPECT_EQ(0, run("--partial short.ppm out.ppm").status);
+    EXPECT_TRUE(ends(0, "--partial short.ppm out.ppm"));
     EXPECT_EQ(content("in.ppm").left(200), content("out.ppm").left(200));
-    put("a\x1b[31m.png", "nothing");
-    EXPECT_NE(std::string::npos, run("a\x1b[31m.png out.png").errors.find("a\\x1b[31m.png can't be read"));
 }
 
 TEST_F(BatchTest, ReadingMakesNoFolder)
 {
     const QString sample = corpusPath("emf");
     if (!QFile::exists(sample)) GTEST_SKIP();
-    const QString runtime = QStringLiteral("/tmp/runtime-") + qEnvironmentVariable("USER", QStringLiteral("root"));
+    const QString runtime = "/tmp/runtime-" + qEnvironmentVariable("USER", "root");
     const bool stood = QFile::exists(runtime) && !QDir().rmdir(runtime);
-    for (const QString& name : QDir(sample).entryList({QStringLiteral("*.emf")}))
-        run((sample + u'/' + name + QStringLiteral(" out.png")).toStdString());
+    for (const QString& name : QDir(sample).entryList({"*.emf"})) run(sample + u'/' + name + " out.png");
     EXPECT_TRUE(QDir(temporary.path()).isEmpty());
     EXPECT_EQ(stood, QFile::exists(runtime));
 }
 
 TEST_F(BatchTest, OneRowHasNoProgressToTell)
 {
-    put("row.ppm", anymap(30, 1));
-    EXPECT_EQ(0, run("row.ppm EMBOSS(10) FLIPH INVERT out.ppm").status);
-    EXPECT_EQ(3, run("row.ppm --verbose EMBOSS(10) out.ppm").status);
+    put("row.ppm", "P6 30 1 255\n" + QByteArray(3 * 30, '7'));
+    EXPECT_TRUE(ends(0, "row.ppm EMBOSS(10) FLIPH INVERT out.ppm"));
+    EXPECT_TRUE(ends(3, "row.ppm --verbose EMBOSS(10) out.ppm"));
 }
 
-TEST_F(BatchTest, ALinkAsOutputStaysOneAndIsNotRemoved)
+TEST_F(BatchTest, AFullDiskLeavesTheOldOutputAndALinkStaysOne)
 {
-    QFile::link(QStringLiteral("later.bmp"), path("link.bmp"));
-    EXPECT_EQ(0, run("in.ppm link.bmp").status);
+    put("out.ppm", "precious");
+    QFile::link("later.bmp", path("link.bmp"));
+    const QStringList before = files();
+    for (const QString out : {"out.ppm", "link.bmp"})
+        EXPECT_TRUE(ends(1, "in.ppm BitsResize(3000,2900) " + out, out + " can't be written", kFullDisk));
+    EXPECT_EQ("precious", content("out.ppm"));
+    EXPECT_EQ(before, files());
+    EXPECT_TRUE(ends(0, "in.ppm link.bmp"));
     EXPECT_TRUE(QFileInfo(path("link.bmp")).isSymLink());
-    QFile::remove(path("later.bmp"));
-    EXPECT_EQ(1, run("in.ppm BitsResize(3000,2900) link.bmp", "trap '' XFSZ && ulimit -f 40000").status);
-    EXPECT_TRUE(QFileInfo(path("link.bmp")).isSymLink());
-}
-
-TEST_F(BatchTest, AFullDiskLeavesTheOldOutputWhole)
-{
-    const char* full = "trap '' XFSZ && ulimit -f 40000"; // 20 MB: room for the child that reads
-    for (const char* name : {"bmp", "tga", "ppm"}) {
-        const std::string out = std::string("out.") + name, arguments = "in.ppm BitsResize(3000,2900) " + out;
-        put(out, "precious");
-        const QStringList before = files();
-        const Outcome outcome = run(arguments, full);
-        EXPECT_EQ(1, outcome.status) << name << outcome.errors;
-        EXPECT_NE(std::string::npos, outcome.errors.find(out + " can't be written")) << outcome.errors;
-        EXPECT_EQ("precious", content(out)) << name;
-        EXPECT_EQ(before, files());
-        QFile::remove(path(out));
-        EXPECT_EQ(1, run(arguments, full).status);
-        EXPECT_FALSE(QFile::exists(path(out))) << name;
-    }
 }
 
 TEST_F(BatchTest, AnIconHasThePixelsOfTheMaskTransparent)
 {
-    const std::string size = std::to_string(kWidth) + 'x' + std::to_string(kHeight);
-    ASSERT_EQ(0, run("in.ppm INVERT INVERT --icon " + size + ",mask:0x1D6605 icon.ico").status); // the pixel at 5, 2
-    ASSERT_EQ(0, run("icon.ico out.ppm").status);
-    QByteArray wanted = content("in.ppm");
-    wanted.replace(wanted.size() - 3 * (kWidth * kHeight - 2 * kWidth - 5), 3, "\xff\xff\xff");
-    EXPECT_EQ(wanted.right(3 * kWidth * kHeight), content("out.ppm").right(3 * kWidth * kHeight));
-    ASSERT_EQ(0, run("in.ppm --icon 256x16,mask:0 icon.ppm").status); // whatever its name
+    ASSERT_TRUE(ends(0, "in.ppm INVERT INVERT --icon 12x9,mask:0x1D6605 icon.ico")); // the pixel at 5, 2
+    QImage wanted = input();
+    wanted.setPixel(5, 2, qRgb(255, 255, 255));
+    EXPECT_EQ(wanted, result("", wanted.size(), "icon.ico"));
+    ASSERT_TRUE(ends(0, "in.ppm --icon 256x16,mask:0 icon.ppm")); // whatever its name
     EXPECT_EQ(QByteArray("\0\0\1\0\1\0\0\x10", 8), content("icon.ppm").left(8));
 }
 
 TEST_F(BatchTest, EveryWriterIsReadBack)
 {
-    for (const char* name : {"png", "bmp", "tif", "tga", "pcx", "ppm"}) {
-        const std::string file = std::string("copy.") + name;
-        ASSERT_EQ(0, run("in.ppm " + file).status) << name;
-        ASSERT_EQ(0, run(file + " INVERT INVERT out.ppm").status) << name;
-        EXPECT_EQ(content("in.ppm").right(3 * kWidth * kHeight), content("out.ppm").right(3 * kWidth * kHeight))
-            << name;
+    for (const QString name : {"copy.png", "copy.bmp", "copy.tif", "copy.tga", "copy.pcx", "copy.ppm"}) {
+        ASSERT_TRUE(ends(0, "in.ppm " + name));
+        EXPECT_EQ(input(), result("INVERT INVERT", input().size(), name)) << name.toStdString();
     }
-    ASSERT_EQ(0, run("in.ppm grey.pgm").status);
+    ASSERT_TRUE(ends(0, "in.ppm grey.pgm"));
     EXPECT_EQ(content("out.ppm"), content("grey.ppm")) << "true colour, whatever the extension said";
     EXPECT_FALSE(QFile::exists(path("grey.pgm")));
 }
@@ -307,7 +243,7 @@ TEST_F(BatchTest, SelectionsLimitTheStepsAfterThem)
 
 TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
 {
-    const Picture original = input(), inverted = input([](int, int) { return true; });
+    const QImage original = input(), inverted = input([](int, int) { return true; });
     EXPECT_EQ(original, result(""));
     EXPECT_EQ(original, result("INVERT Invert"));
     EXPECT_EQ(inverted, result("FLIPH INVERT Flip(true,false) 200 MOSAIC"));
@@ -315,50 +251,49 @@ TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
     EXPECT_EQ(inverted, result("INVERT FLIPH UNDO UNDO REDO"));
     EXPECT_EQ(original, result("UNDO REDO"));
     EXPECT_EQ(original, result("2x ORIGINAL"));
-    result("50 50", 6, 4); // a run of sizings starts from its beginning
-    result("20", 2, 2);
-    EXPECT_EQ(result("BitsResize(6,4) INVERT BitsResize(3,2)", 3, 2), result("50 INVERT 50", 3, 2));
-    const std::tuple<const char*, int, int> kReduced[] = {{"50", 63, 42}, {"33", 42, 28}, {"25", 32, 21},
-                                                          {"20", 25, 17}, {"15", 18, 12}, {"10", 14, 9}};
-    for (const auto& [word, width, height] : kReduced) result("BitsResize(126,84) " + std::string(word), width, height);
-    result("x3 2x", 24, 18);
-    result("A90", 9, 12);
-    result("--select rect:2,1,8,6 CROP", 6, 5);
-    result("BitsResample(30,20)", 30, 20);
+    result("50 50", {6, 4}); // a run of sizings starts from its beginning
+    result("20", {2, 2});
+    EXPECT_EQ(result("BitsResize(6,4) INVERT BitsResize(3,2)", {3, 2}), result("50 INVERT 50", {3, 2}));
+    const std::pair<const char*, QSize> kReduced[] = {{"50", {63, 42}}, {"33", {42, 28}}, {"25", {32, 21}},
+                                                      {"20", {25, 17}}, {"15", {18, 12}}, {"10", {14, 9}}};
+    for (const auto& [word, size] : kReduced) result(QString("BitsResize(126,84) ") + word, size);
+    result("x3 2x", {24, 18});
+    result("A90", {9, 12});
+    result("--select rect:2,1,8,6 CROP", {6, 5});
+    result("BitsResample(30,20)", {30, 20});
     EXPECT_TRUE(QDir(temporary.path()).isEmpty()) << "the undo steps are gone";
 }
 
 TEST_F(BatchTest, EveryWordOfTheListRuns)
 {
     put("large.ppm", "P6 60 50 255\n" + QByteArray(3 * 60 * 50, '7'));
-    const QString list = QString::fromStdString(run("--list").output).section(QStringLiteral("\nOperations"), 0, 0);
+    const QString list = run("--list").output.section("\nOperations", 0, 0);
     QStringList words; // one with its meaning a line, then those that do nothing, several a line
     for (const QString& line : list.split(u'\n').mid(1))
-        if (line.startsWith(QStringLiteral("    ")))
+        if (line.startsWith("    "))
             words << line.split(u' ', Qt::SkipEmptyParts);
         else if (!line.endsWith(u':'))
             words << line.simplified().section(u' ', 0, 0);
     words.removeAll("CROP"); // it needs a selection, which sizing words wipe
     ASSERT_GT(words.size(), 130);
     for (qsizetype i = 0; i < words.size(); i += 12) {
-        const std::string steps = words.mid(i, 12).join(u' ').toStdString();
-        const Outcome outcome = run("large.ppm --select rect:9,9,30,30 " + steps + " out.png");
-        EXPECT_EQ(0, outcome.status) << outcome.errors;
+        const QString steps = words.mid(i, 12).join(u' ');
+        EXPECT_TRUE(ends(0, "large.ppm --select rect:9,9,30,30 " + steps + " out.png"));
     }
 }
 
 TEST_F(BatchTest, UndoStepsAreWrittenOnlyWhereAStepGoesBack)
 {
     const auto gone = "export TMPDIR=/proc/none";
-    EXPECT_EQ(0, run("in.ppm INVERT x2 FLIPH out.png", gone).status);
-    EXPECT_EQ(1, run("in.ppm INVERT UNDO out.png", gone).status);
+    EXPECT_TRUE(ends(0, "in.ppm INVERT x2 FLIPH out.png", {}, gone));
+    EXPECT_TRUE(ends(1, "in.ppm INVERT UNDO out.png", {}, gone));
 }
 
 TEST_F(BatchTest, ArgumentsTakePicturesAndColours)
 {
     put("dots,2.ppm", "P6 2 1 255\n" + QByteArray("\x10\x20\x30\x01\x02\x03", 6));
-    Picture wanted = input();
-    wanted[kWidth + 3] = {0x01, 0x02, 0x03}; // the dot before it has the key's colour
+    QImage wanted = input();
+    wanted.setPixel(3, 1, qRgb(1, 2, 3)); // the dot before it has the key's colour
     EXPECT_EQ(wanted, result("TileMask(\"dots,2.ppm\",2,1,false,0,0x00302010)"));
     EXPECT_EQ(wanted, result("TileMask(\"dots,2.ppm\",2,1,false,0,3153936)"));
 }
@@ -374,16 +309,16 @@ TEST_F(BatchTest, EffectsAreStepsByTheirNumber)
 
 TEST_F(BatchTest, HelpAndListNameEverything)
 {
-    const Outcome help = run("--help"), list = run("in.ppm --list"), verbose = run("in.ppm --verbose INVERT out.png");
+    const Outcome help = run("--help"), list = run("in.ppm --list");
     for (const char* word : {"--select", "--list", "--verbose", "polygon:", "Exit status"})
-        EXPECT_NE(std::string::npos, help.output.find(word)) << word;
+        EXPECT_TRUE(help.output.contains(word)) << word;
     for (const char* line : {"LIGHTEMBOSS          EMBOSS(10)", "  UNDO ", "  x5 ", "EMBOSS(Weight:0..50:10)",
                              "Flip(Horizontal:true|false,Vertical:true|false)",
                              "ApplyTexture(Index:1..33:8,Value:1..100:50,Texture:file?)"})
-        EXPECT_NE(std::string::npos, list.output.find(line)) << line;
+        EXPECT_TRUE(list.output.contains(line)) << line;
     EXPECT_EQ(0, help.status);
     EXPECT_EQ(0, list.status);
-    EXPECT_NE(std::string::npos, verbose.errors.find("INVERT: 100 %")) << verbose.errors;
+    EXPECT_TRUE(ends(0, "in.ppm --verbose INVERT out.png", "INVERT: 100 %"));
 }
 
 } // namespace

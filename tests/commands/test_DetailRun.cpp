@@ -1,10 +1,9 @@
 // The filter on the whole picture beside the thread of the windows.
 #include "commands/DetailRun.h"
 #include "pixels/RuntimeError.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include <chrono>
-#include <gtest/gtest.h>
-#include <vector>
 
 namespace velara {
 
@@ -27,9 +26,7 @@ struct DetailRunTest : ::testing::Test {
     static FilterArgs level(int value) { return {.value = {value}}; }
     Bits wanted(int value) const
     {
-        cBitFilter filter;
-        filter.setBits(picture);
-        filter.setBitsRegion(selection);
+        cBitFilter filter = filterOf(picture, selection);
         return row.call(filter, level(value));
     }
     bool lastIs(const Bits& bits)

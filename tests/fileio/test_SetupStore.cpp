@@ -3,9 +3,6 @@
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/fullDisk.h"
-#include <QDir>
-#include <QFile>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace velara {
@@ -13,7 +10,10 @@ namespace {
 
 using Record = velara::Setup; // the test class has a member of that name
 
-QString setupFile(RecordingPlatform& platform) { return platform.folder.filePath(QStringLiteral("Vlaera.dat")); }
+struct SetupStore : ::testing::Test {
+    RecordingPlatform platform;
+    const QString file = platform.folder.filePath("Vlaera.dat");
+};
 
 QByteArray bytesOf(const Record& setup)
 {
@@ -28,12 +28,11 @@ std::int32_t wordAt(const QByteArray& bytes, int offset, int width)
     return width == 2 ? static_cast<std::int16_t>(word) : word;
 }
 
-TEST(SetupStore, FieldsLieWhereTheFileHasThem)
+TEST_F(SetupStore, FieldsLieWhereTheFileHasThem)
 {
-    RecordingPlatform platform;
     Record setup = LoadSetup(platform);
-    setup.CurrentTool = QStringLiteral("Airbrush");
-    setup.Recent[7] = QStringLiteral("/eight");
+    setup.CurrentTool = "Airbrush";
+    setup.Recent[7] = "/eight";
     setup.PaletteHue = 1;
     const QByteArray bytes = bytesOf(setup);
     ASSERT_EQ(3081, bytes.size());
@@ -57,12 +56,11 @@ TEST(SetupStore, FieldsLieWhereTheFileHasThem)
     EXPECT_EQ("Arial ", bytes.mid(2755, 6));
 }
 
-TEST(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
+TEST_F(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
 {
-    RecordingPlatform platform;
     const Record first = LoadSetup(platform);
     EXPECT_EQ(9600, first.FrameWidth);
-    EXPECT_EQ(QByteArray(), fileBytes(setupFile(platform))) << "an empty file stands until the frame closes";
+    EXPECT_EQ(QByteArray(), fileBytes(file)) << "an empty file stands until the frame closes";
     const Record second = LoadSetup(platform);
     EXPECT_EQ(0, second.FrameWidth);
     EXPECT_FALSE(second.BarVisible[6]);
@@ -72,14 +70,13 @@ TEST(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
     EXPECT_TRUE(platform.log.empty());
 }
 
-TEST(SetupStore, AnyFileIsSurvived)
+TEST_F(SetupStore, AnyFileIsSurvived)
 {
-    RecordingPlatform platform;
     std::mt19937 random(1);
     for (const int length : {0, 1, 7, 263, 264, 2345, 3080, 3081, 5000}) {
         QByteArray bytes(length, '\0');
         for (char& c : bytes) c = static_cast<char>(random());
-        putFile(setupFile(platform), bytes);
+        putFile(file, bytes);
         const Record setup = LoadSetup(platform);
         if (length >= 4) {
             EXPECT_EQ(wordAt(bytes, 0, 2), setup.FrameWidth);
@@ -89,54 +86,51 @@ TEST(SetupStore, AnyFileIsSurvived)
             EXPECT_EQ(bytes.mid(2422, 2), bytesOf(setup).mid(2422, 2));
         }
         ASSERT_TRUE(SaveSetup(platform, setup));
-        EXPECT_EQ(bytes.mid(3081), fileBytes(setupFile(platform)).mid(3081)) << "a longer file keeps its tail";
+        EXPECT_EQ(bytes.mid(3081), fileBytes(file).mid(3081)) << "a longer file keeps its tail";
         EXPECT_EQ(bytesOf(setup), bytesOf(LoadSetup(platform))) << length;
     }
-    QFile::remove(setupFile(platform));
-    QDir().mkdir(setupFile(platform));
+    QFile::remove(file);
+    QDir().mkdir(file);
     EXPECT_EQ(9600, LoadSetup(platform).FrameWidth) << "a folder of that name";
     EXPECT_FALSE(SaveSetup(platform, Record()));
 }
 
-TEST(SetupStore, TextsOfAForeignCodePageSurviveARun)
+TEST_F(SetupStore, TextsOfAForeignCodePageSurviveARun)
 {
-    RecordingPlatform platform;
     QByteArray bytes = bytesOf(LoadSetup(platform));
     const QByteArray greek = "/home/\xc5\xe9\xea\xfc\xed\xe5\xf2/";
     bytes.replace(8, 256, greek.leftJustified(256, ' '));
     bytes.replace(270, 256, ("/old" + greek).leftJustified(256, '\0'));
-    putFile(setupFile(platform), bytes);
+    putFile(file, bytes);
     Record setup = LoadSetup(platform);
     setup.ForeColor = 0x123456;
     ASSERT_TRUE(SaveSetup(platform, setup));
-    const QByteArray after = fileBytes(setupFile(platform));
+    const QByteArray after = fileBytes(file);
     EXPECT_EQ(bytes.mid(8, 256), after.mid(8, 256));
     EXPECT_EQ(bytes.mid(270, 256), after.mid(270, 256)) << "its padding too";
     EXPECT_EQ(0x123456, wordAt(after, 2348, 4));
-    setup.ImagesPath = QStringLiteral("/new/");
+    setup.ImagesPath = "/new/";
     ASSERT_TRUE(SaveSetup(platform, setup));
-    EXPECT_EQ(QByteArray("/new/").leftJustified(256, ' '), fileBytes(setupFile(platform)).mid(8, 256));
+    EXPECT_EQ(QByteArray("/new/").leftJustified(256, ' '), fileBytes(file).mid(8, 256));
 }
 
-TEST(SetupStore, TheFileIsTheUsersAloneAndNoLink)
+TEST_F(SetupStore, TheFileIsTheUsersAloneAndNoLink)
 {
-    RecordingPlatform platform;
     const Record setup = LoadSetup(platform);
     ASSERT_TRUE(SaveSetup(platform, setup));
-    EXPECT_FALSE(QFile::permissions(setupFile(platform)) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup));
-    const QString victim = platform.folder.filePath(QStringLiteral("victim"));
+    EXPECT_FALSE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup));
+    const QString victim = platform.folder.filePath("victim");
     putFile(victim, "victim");
-    QFile::remove(setupFile(platform));
-    QFile::link(victim, setupFile(platform));
+    QFile::remove(file);
+    QFile::link(victim, file);
     EXPECT_EQ(9600, LoadSetup(platform).FrameWidth);
     ASSERT_TRUE(SaveSetup(platform, setup));
     EXPECT_EQ("victim", fileBytes(victim));
-    EXPECT_EQ(bytesOf(setup), fileBytes(setupFile(platform)));
+    EXPECT_EQ(bytesOf(setup), fileBytes(file));
 }
 
-TEST(SetupStore, NoHalfAFileStaysOnAFullDisk)
+TEST_F(SetupStore, NoHalfAFileStaysOnAFullDisk)
 {
-    RecordingPlatform platform;
     const std::vector<std::uint8_t> bytes(5000, 1);
     const QString path = platform.folder.filePath("work");
     {
@@ -146,7 +140,7 @@ TEST(SetupStore, NoHalfAFileStaysOnAFullDisk)
     EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST(SetupStore, TextsAreCutAtAWholeCharacter)
+TEST_F(SetupStore, TextsAreCutAtAWholeCharacter)
 {
     const struct {
         QString text;
@@ -166,13 +160,13 @@ TEST(SetupStore, TextsAreCutAtAWholeCharacter)
     }
 }
 
-TEST(SetupStore, TheRecentListKeepsPlacesUntilItIsFull)
+TEST_F(SetupStore, TheRecentListKeepsPlacesUntilItIsFull)
 {
     Record setup;
     const auto path = [](int i) { return QStringLiteral("/p/%1.png").arg(i); };
     for (int i = 0; i < 8; ++i) AddRecent(setup, path(i));
     EXPECT_EQ(path(7), setup.Recent[7]);
-    setup.Recent[3] += QStringLiteral("   ");
+    setup.Recent[3] += "   ";
     AddRecent(setup, path(3));
     EXPECT_EQ(path(3), setup.Recent[3]) << "a repeat keeps its place, and blanks are cut";
     EXPECT_EQ(path(0), setup.Recent[0]);
@@ -184,16 +178,15 @@ TEST(SetupStore, TheRecentListKeepsPlacesUntilItIsFull)
 
 TEST(FileFound, MatchesWildcardsInTheLastPart)
 {
-    QTemporaryDir folder;
-    putFile(folder.filePath(QStringLiteral("a[1].dat")), {});
-    QDir(folder.path()).mkdir(QStringLiteral("Temp"));
+    const QTemporaryDir folder;
+    putFile(folder.filePath("a[1].dat"), {});
+    QDir(folder.path()).mkdir("Temp");
     const std::pair<const char*, bool> kCases[] = {
         {"a[1].dat", true}, {"Temp", true},    {"b.dat", false}, {"*.dat", true}, {"*.bmp", false},
         {"a?1?.dat", true}, {"a?.dat", false}, {"*.*", true},    {"T*.*", true},  {"a[1]*", true},
         {"a[?", false},     {"*1].d*", true},  {"no/*", false},
     };
-    for (const auto& [name, found] : kCases)
-        EXPECT_EQ(found, FileFound(folder.filePath(QString::fromLatin1(name)))) << name;
+    for (const auto& [name, found] : kCases) EXPECT_EQ(found, FileFound(folder.filePath(name))) << name;
 }
 
 } // namespace

@@ -7,11 +7,10 @@
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include "support/places.h"
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <cstdlib>
 #include <fcntl.h>
+#include <numeric>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,116 +20,99 @@ namespace velara {
 namespace {
 
 const std::string kFailure = "message: Internal Error: There was an error while saving! Please Restart Velara's Studio";
-const std::string kAnymapNotice = "message: Collection of ASCII based bitmap: PBM, PGM and PPM: If the bitmap has a "
-                                  "bit depth of 1, the file is saved "
-                                  "as a PBM file. If the bitmap has a bit depth of 8, the file is saved as a PGM file. "
-                                  "If the bitmap has a bit depth of "
-                                  "24, the file is saved as a PPM file. Other bit depths are not supported. The file "
-                                  "you requested is saved as 24-bit "
-                                  "True Color (.ppm) format.";
-
-/// What a load gives back of a picture: no margin, no fourth byte.
-Bits plain(const Bits& bits)
-{
-    Bits result(bits.width(), bits.height());
-    for (int y = 0; y < bits.height(); ++y)
-        for (int x = 0; x < bits.width(); ++x) {
-            result.at(x, y) = bits.at(x, y);
-            result.at(x, y).c[3] = 0;
-        }
-    return result;
-}
+const std::string kAnymapNotice =
+    "message: Collection of ASCII based bitmap: PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is "
+    "saved as a PBM file. If the bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit "
+    "depth of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you requested is saved "
+    "as 24-bit True Color (.ppm) format.";
 
 /// Random pixels in at most so many colours.
 Bits fewColours(int width, int height, int colours)
 {
     const Bits palette = randomBits(colours, 1, 5), pick = randomBits(width, height, 6);
-    Bits bits(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) bits.at(x, y) = palette.at(pick.at(x, y).c[0] % colours, 0);
-    return bits;
+    return drawnBits(width, height, [&](int x, int y) { return palette.at(pick.at(x, y).c[0] % colours, 0); });
 }
 
-class SavePicture : public ::testing::Test {
-  protected:
-    QString path(const QString& name) const { return QDir(folder.path()).filePath(name); }
-    QString write(const QString& name, const QByteArray& contents)
-    {
-        putFile(path(name), contents);
-        return path(name);
-    }
-    static QByteArray contentsOf(const QString& name) { return fileBytes(name, "(none)"); }
+/// How far each channel of each pixel is off.
+std::vector<int> errors(const Bits& a, const Bits& b)
+{
+    std::vector<int> all;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            for (int c = 0; c < 3; ++c) all.push_back(std::abs(a.at(x, y).c[c] - b.at(x, y).c[c]));
+    return all;
+}
+
+struct SavePicture : FolderTest {
+    RecordingPlatform platform;
+    const Bits small = flatBits(3, 3, 1, 2, 3);
+
     static LoadedPicture load(const QString& name)
     {
         return loadThroughDecoder(name, QFileInfo(name).suffix(), builtPath("velara-decode"));
     }
-    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-
-    QTemporaryDir folder;
-    RecordingPlatform platform;
+    /// Saves it under the name, as its extension says.
+    SaveResult save(const Bits& bits, const QString& name)
+    {
+        return savePicture(platform, bits, path(name), QFileInfo(name).suffix());
+    }
+    SaveResult save(const QString& name) { return save(small, name); }
+    void setMode(const QString& name, mode_t mode) const { chmod(QFile::encodeName(path(name)).constData(), mode); }
+    mode_t mode(const QString& name) const
+    {
+        struct stat status {};
+        stat(QFile::encodeName(path(name)).constData(), &status);
+        return status.st_mode & 07777;
+    }
 };
 
 } // namespace
 
 TEST_F(SavePicture, ComesBackAsItWas)
 {
-    const struct {
-        int width, height;
-    } kSizes[] = {{1, 1}, {2, 1}, {3, 2}, {5, 7}, {64, 3}, {255, 9}, {1030, 300}};
-    for (const auto [width, height] : kSizes)
-        for (const char* extension : {"png", "bmp", "tif", "tga", "pcx", "PNG", "gif"}) {
-            const bool isGif = std::string_view(extension) == "gif";
-            const Bits bits = isGif ? fewColours(width, height, 256) : randomBits(width, height, 7);
-            const QString name = path(QString("%1x%2.%3").arg(width).arg(height).arg(extension));
-            ASSERT_EQ(savePicture(platform, bits, name, extension), SaveResult::Written) << qPrintable(name);
-            const LoadedPicture back = load(name);
-            ASSERT_TRUE(back.ok()) << qPrintable(back.reason);
-            EXPECT_TRUE(sameBits(plain(bits), back.bits)) << qPrintable(name);
+    for (const QSize size : {QSize(1, 1), {2, 1}, {3, 2}, {5, 7}, {64, 3}, {255, 9}, {1030, 300}})
+        for (const QString name : {"a.png", "a.bmp", "a.tif", "a.tga", "a.pcx", "A.PNG", "a.gif"}) {
+            const Bits bits = name == "a.gif" ? fewColours(size.width(), size.height(), 256)
+                                              : randomBits(size.width(), size.height(), 7);
+            ASSERT_EQ(save(bits, name), SaveResult::Written) << qPrintable(name);
+            const LoadedPicture back = load(path(name));
+            EXPECT_TRUE(sameBits(plain(bits), back.bits)) << qPrintable(name + back.reason);
         }
     EXPECT_TRUE(platform.log.empty());
 }
 
 TEST_F(SavePicture, JpegIsOfTheBestQuality)
 {
-    Bits bits(65, 33);
-    for (int y = 0; y < 33; ++y)
-        for (int x = 0; x < 65; ++x)
-            bits.at(x, y) = {{std::uint8_t(3 * x), std::uint8_t(128 + y), std::uint8_t(200 - 2 * x), 9}};
-    ASSERT_EQ(savePicture(platform, bits, path("a.jpg"), "jpg"), SaveResult::Written);
+    const Bits bits = drawnBits(65, 33, [](int x, int y) {
+        return Pixel{{std::uint8_t(3 * x), std::uint8_t(128 + y), std::uint8_t(200 - 2 * x), 9}};
+    });
+    ASSERT_EQ(save(bits, "a.jpg"), SaveResult::Written);
     const LoadedPicture back = load(path("a.jpg"));
-    ASSERT_TRUE(back.ok());
     ASSERT_EQ(back.bits.width(), 65);
     ASSERT_EQ(back.bits.height(), 33);
-    for (int y = 0; y < 33; ++y)
-        for (int x = 0; x < 65; ++x)
-            for (int c = 0; c < 3; ++c) ASSERT_NEAR(back.bits.at(x, y).c[c], bits.at(x, y).c[c], 10) << x << ',' << y;
+    EXPECT_LE(std::ranges::max(errors(bits, back.bits)), 10);
     // The first quantisation table of quality 100 is all ones.
-    const QByteArray file = contentsOf(path("a.jpg"));
-    const qsizetype table = file.indexOf("\xff\xdb");
-    ASSERT_GE(table, 0);
-    EXPECT_EQ(file.mid(table + 5, 64), QByteArray(64, 1));
+    const QByteArray file = content("a.jpg");
+    EXPECT_EQ(file.mid(file.indexOf("\xff\xdb") + 5, 64), QByteArray(64, 1));
 }
 
 TEST_F(SavePicture, GifOfManyColoursIsNear)
 {
-    Bits bits(200, 150);
-    for (int y = 0; y < 150; ++y)
-        for (int x = 0; x < 200; ++x) bits.at(x, y) = {{std::uint8_t(x), std::uint8_t(y), 128, 0}};
-    ASSERT_EQ(savePicture(platform, bits, path("a.gif"), "gif"), SaveResult::Written);
+    const Bits bits = drawnBits(200, 150, [](int x, int y) {
+        return Pixel{{std::uint8_t(x), std::uint8_t(y), 128, 0}};
+    });
+    ASSERT_EQ(save(bits, "a.gif"), SaveResult::Written);
     const LoadedPicture back = load(path("a.gif"));
     ASSERT_TRUE(back.ok());
-    double error = 0;
-    for (int y = 0; y < 150; ++y)
-        for (int x = 0; x < 200; ++x)
-            for (int c = 0; c < 3; ++c) error += std::abs(back.bits.at(x, y).c[c] - bits.at(x, y).c[c]);
-    EXPECT_LT(error / (200 * 150 * 3), 4);
+    const std::vector<int> off = errors(bits, back.bits);
+    EXPECT_LT(std::accumulate(off.begin(), off.end(), 0), 4 * std::ssize(off));
 }
 
 TEST_F(SavePicture, AnymapGetsItsExtensionAndANotice)
 {
     const Bits bits = flatBits(2, 1, 1, 2, 3);
     EXPECT_EQ(savePicture(platform, bits, path("a."), "PNM"), SaveResult::Written);
-    EXPECT_EQ(contentsOf(path("a.ppm")), QByteArray("P6\n2 1\n255\n\3\2\1\3\2\1"));
+    EXPECT_EQ(content("a.ppm"), QByteArray("P6\n2 1\n255\n\3\2\1\3\2\1"));
     EXPECT_EQ(platform.log, std::vector<std::string>{kAnymapNotice});
     EXPECT_EQ(platform.lastIcon, Icon::Information);
     EXPECT_EQ(savePicture(platform, bits, path("none/a."), "pnm"), SaveResult::Failed);
@@ -139,12 +121,11 @@ TEST_F(SavePicture, AnymapGetsItsExtensionAndANotice)
 
 TEST_F(SavePicture, WritesNothingWithoutAPictureOrAWriter)
 {
-    const Bits bits = flatBits(2, 2, 1, 2, 3);
-    EXPECT_EQ(savePicture(platform, Bits(), path("a.png"), "png"), SaveResult::NotWritten);
-    for (const char* extension : {"jpeg", "tiff", "ppm", "", "xyz"})
-        EXPECT_EQ(savePicture(platform, bits, path("a"), extension), SaveResult::NotWritten);
+    EXPECT_EQ(save(Bits(), "a.png"), SaveResult::NotWritten);
+    for (const char* name : {"a.jpeg", "a.tiff", "a.ppm", "a", "a.xyz"})
+        EXPECT_EQ(save(name), SaveResult::NotWritten) << name;
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(savePicture(platform, bits, path("a.ico"), "ico"), SaveResult::Refused);
+    EXPECT_EQ(save("a.ico"), SaveResult::Refused);
     EXPECT_EQ(platform.log, std::vector<std::string>{"message: Velara Studio: This facility is currently turned Off!"});
     EXPECT_EQ(platform.lastIcon, Icon::Information);
     EXPECT_TRUE(files().isEmpty());
@@ -153,28 +134,23 @@ TEST_F(SavePicture, WritesNothingWithoutAPictureOrAWriter)
 TEST_F(SavePicture, AFullDiskCostsNothing)
 {
     const Bits bits = randomBits(300, 300, 3); // far more than the disk takes in any format
-    for (const char* extension : {"png", "bmp", "tif", "tga", "jpg", "pcx", "gif"}) {
-        const bool tells = std::string_view(extension) != "pcx" && std::string_view(extension) != "gif";
+    for (const QString name : {"a.png", "a.bmp", "a.tif", "a.tga", "a.jpg", "a.pcx", "a.gif"})
         for (const bool old : {true, false}) {
+            const bool tells = name != "a.pcx" && name != "a.gif";
             platform.log.clear();
-            const QString name = path(QString("a.") + extension);
-            if (old) write(QFileInfo(name).fileName(), "the old file");
+            if (old) put(name, "the old file");
             {
                 const FullDisk disk(5000);
-                EXPECT_EQ(savePicture(platform, bits, name, extension),
-                          tells ? SaveResult::FailedAndTold : SaveResult::Failed)
-                    << extension;
+                EXPECT_EQ(save(bits, name), tells ? SaveResult::FailedAndTold : SaveResult::Failed) << qPrintable(name);
             }
-            EXPECT_EQ(platform.log, tells ? std::vector{kFailure} : std::vector<std::string>{}) << extension;
-            const bool remains = std::string_view(extension) == "jpg"; // the part that was written
+            EXPECT_EQ(platform.log, tells ? std::vector{kFailure} : std::vector<std::string>{}) << qPrintable(name);
             if (old)
-                EXPECT_EQ(contentsOf(name), "the old file") << extension;
+                EXPECT_EQ(content(name), "the old file") << qPrintable(name);
             else
-                EXPECT_EQ(QFile::exists(name), remains) << extension;
-            QFile::remove(name);
+                EXPECT_EQ(QFile::exists(path(name)), name == "a.jpg") << qPrintable(name); // the part that was written
+            QFile::remove(path(name));
             EXPECT_TRUE(files().isEmpty()) << qPrintable(files().join(' '));
         }
-    }
     EXPECT_EQ(platform.lastIcon, Icon::Critical);
 }
 
@@ -182,62 +158,52 @@ TEST_F(SavePicture, AFullDiskCostsNothing)
 TEST_F(SavePicture, ADeviceThatIsFullIsAFailure)
 {
     for (const char* extension : {"png", "bmp", "tif", "tga", "jpg"})
-        EXPECT_EQ(savePicture(platform, flatBits(3, 3, 1, 2, 3), "/dev/full", extension), SaveResult::FailedAndTold);
+        EXPECT_EQ(savePicture(platform, small, "/dev/full", extension), SaveResult::FailedAndTold);
     EXPECT_EQ(platform.log.size(), 5U);
     EXPECT_TRUE(QFileInfo::exists("/dev/full"));
 }
 
 TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
 {
-    const Bits bits = flatBits(3, 3, 1, 2, 3);
-    const QString target = write("target.png", "old");
-    chmod(QFile::encodeName(target).constData(), 0646);
-    QFile::link(target, path("link.png"));
+    QFile::link(put("target.png", "old"), path("link.png"));
+    setMode("target.png", 0646);
     QFile::link("later.png", path("dangling.png"));
-    EXPECT_EQ(savePicture(platform, bits, path("link.png"), "png"), SaveResult::Written);
-    EXPECT_TRUE(QFileInfo(path("link.png")).isSymLink());
-    EXPECT_TRUE(load(target).ok());
-    struct stat status;
-    stat(QFile::encodeName(target).constData(), &status);
-    EXPECT_EQ(status.st_mode & 07777, 0646U);
-    EXPECT_EQ(savePicture(platform, bits, path("dangling.png"), "png"), SaveResult::Written);
-    EXPECT_TRUE(load(path("later.png")).ok());
-    EXPECT_TRUE(QFileInfo(path("dangling.png")).isSymLink());
+    for (const auto& [link, target] : {std::pair("link.png", "target.png"), std::pair("dangling.png", "later.png")}) {
+        EXPECT_EQ(save(link), SaveResult::Written);
+        EXPECT_TRUE(QFileInfo(path(link)).isSymLink());
+        EXPECT_TRUE(load(path(target)).ok());
+    }
+    EXPECT_EQ(mode("target.png"), 0646U);
     EXPECT_TRUE(platform.log.empty());
     EXPECT_EQ(files(), (QStringList{"dangling.png", "later.png", "link.png", "target.png"}));
 
-    const QString locked = write("locked.png", "old");
-    chmod(QFile::encodeName(locked).constData(), 0444);
-    EXPECT_EQ(savePicture(platform, bits, locked, "png"), SaveResult::FailedAndTold);
-    EXPECT_EQ(contentsOf(locked), "old");
-    EXPECT_EQ(savePicture(platform, bits, folder.path(), "png"), SaveResult::FailedAndTold); // a folder
-    EXPECT_EQ(savePicture(platform, bits, path("none/a.png"), "png"), SaveResult::FailedAndTold);
+    put("locked.png", "old");
+    setMode("locked.png", 0444);
+    QDir(folder.path()).mkdir("folder.png");
     mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600); // with no one who reads
-    EXPECT_EQ(savePicture(platform, bits, path("pipe.png"), "png"), SaveResult::FailedAndTold);
+    for (const char* name : {"locked.png", "folder.png", "none/a.png", "pipe.png"})
+        EXPECT_EQ(save(name), SaveResult::FailedAndTold) << name;
+    EXPECT_EQ(content("locked.png"), "old");
     EXPECT_EQ(platform.log, (std::vector<std::string>(4, kFailure)));
 }
 
 TEST_F(SavePicture, AWorkFileIsTheUsersAloneAndFollowsNoLink)
 {
-    const QString victim = write("victim.bmp", "old"), work = path("work.bmp");
-    QFile::link(victim, work);
-    EXPECT_EQ(savePicture(platform, flatBits(3, 3, 1, 2, 3), work, "bmp", OutputFile::Links::Replace),
-              SaveResult::Written);
-    EXPECT_EQ(contentsOf(victim), "old");
-    EXPECT_FALSE(QFileInfo(work).isSymLink());
-    EXPECT_EQ(QFile::permissions(work) & ~(QFile::ReadUser | QFile::WriteUser), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::link(put("victim.bmp", "old"), path("work.bmp"));
+    EXPECT_EQ(savePicture(platform, small, path("work.bmp"), "bmp", OutputFile::Links::Replace), SaveResult::Written);
+    EXPECT_EQ(content("victim.bmp"), "old");
+    EXPECT_FALSE(QFileInfo(path("work.bmp")).isSymLink());
+    EXPECT_EQ(mode("work.bmp"), 0600U);
 }
 
 TEST_F(SavePicture, StraysOfDeadProgramsGo)
 {
-    const Bits bits = flatBits(3, 3, 1, 2, 3);
-    write(".velara-dead.part", "half a picture");
-    write(".velara-a.png", "the user's own");
-    write("film.velara-1.part", "the user's own");
-    QFile::link(path("film.velara-1.part"), path(".velara-link.part"));
-    const int alive = open(QFile::encodeName(write(".velara-alive.part", "half")).constData(), O_RDONLY | O_CLOEXEC);
+    put(".velara-dead.part", "half a picture");
+    put(".velara-a.png", "the user's own");
+    QFile::link(put("film.velara-1.part", "the user's own"), path(".velara-link.part"));
+    const int alive = open(QFile::encodeName(put(".velara-alive.part", "half")).constData(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(0, flock(alive, LOCK_EX));
-    ASSERT_EQ(savePicture(platform, bits, path("a.png"), "png"), SaveResult::Written);
+    ASSERT_EQ(save("a.png"), SaveResult::Written);
     close(alive);
     EXPECT_EQ(files(),
               (QStringList{".velara-a.png", ".velara-alive.part", ".velara-link.part", "a.png", "film.velara-1.part"}));
@@ -245,32 +211,28 @@ TEST_F(SavePicture, StraysOfDeadProgramsGo)
 
 TEST_F(SavePicture, LinksThatLeadNowhereOrAreSomebodyElsesAreRefused)
 {
-    const Bits bits = flatBits(3, 3, 1, 2, 3);
     QFile::link("b.png", path("a.png"));
     QFile::link("a.png", path("b.png"));
-    EXPECT_EQ(savePicture(platform, bits, path("a.png"), "png"), SaveResult::FailedAndTold);
+    EXPECT_EQ(save("a.png"), SaveResult::FailedAndTold);
     EXPECT_TRUE(QFileInfo(path("a.png")).isSymLink());
     if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make links of others";
-    const QString victim = write("victim.png", "old"), link = path("shared/a.png");
+    const char* link = "shared/a.png";
     QDir(folder.path()).mkdir("shared");
-    chmod(QFile::encodeName(path("shared")).constData(), 01777);
-    QFile::link(victim, link);
-    ASSERT_EQ(0, lchown(QFile::encodeName(link).constData(), 12345, 12345));
-    EXPECT_EQ(savePicture(platform, bits, link, "png"), SaveResult::FailedAndTold);
-    EXPECT_EQ(contentsOf(victim), "old");
+    setMode("shared", 01777);
+    QFile::link(put("victim.png", "old"), path(link));
+    ASSERT_EQ(0, lchown(QFile::encodeName(path(link)).constData(), 12345, 12345));
+    EXPECT_EQ(save(link), SaveResult::FailedAndTold);
+    EXPECT_EQ(content("victim.png"), "old");
 }
 
 TEST_F(SavePicture, APcxKeepsTheTailAndTheModeOfALongerFile)
 {
-    const Bits bits = flatBits(3, 3, 1, 2, 3);
-    const QString name = write("a.pcx", QByteArray(5000, 'x'));
-    chmod(QFile::encodeName(name).constData(), 0640);
-    ASSERT_EQ(savePicture(platform, bits, name, "pcx"), SaveResult::Written);
-    EXPECT_EQ(contentsOf(name).size(), 5000);
-    EXPECT_TRUE(load(name).ok());
-    struct stat status;
-    stat(QFile::encodeName(name).constData(), &status);
-    EXPECT_EQ(status.st_mode & 07777, 0640U);
+    put("a.pcx", QByteArray(5000, 'x'));
+    setMode("a.pcx", 0640);
+    ASSERT_EQ(save("a.pcx"), SaveResult::Written);
+    EXPECT_EQ(content("a.pcx").mid(200), QByteArray(4800, 'x'));
+    EXPECT_TRUE(load(path("a.pcx")).ok());
+    EXPECT_EQ(mode("a.pcx"), 0640U);
 }
 
 TEST(ModFreeImage, KeepsTheFirstErrorOfAnOperation)

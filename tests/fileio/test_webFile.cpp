@@ -2,31 +2,22 @@
 #include "fileio/FreeImageSaver.h"
 #include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include <FreeImage.h>
-#include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
+#include <bit>
 #include <gif_lib.h>
-#include <gtest/gtest.h>
 
 namespace velara {
 namespace {
 
 Bits sample()
 {
-    Bits bits(37, 21);
-    for (int y = 0; y < 21; ++y)
-        for (int x = 0; x < 37; ++x) bits.at(x, y) = pixelFor(colourOf(x * 6, y * 11, 255 - x * 4));
-    return bits;
+    return drawnBits(37, 21, [](int x, int y) { return pixelFor(colourOf(x * 6, y * 11, 255 - x * 4)); });
 }
 
-int bitsNeeded(int colours)
-{
-    int bits = 1;
-    while (1 << bits < colours) ++bits;
-    return bits;
-}
+using WebFileTest = FolderTest;
 
 /// GIF by its library: palette, bits, rows put in order, interlace.
 void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wanted)
@@ -38,7 +29,7 @@ void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wa
     const ColorMapObject* map = image.ImageDesc.ColorMap ? image.ImageDesc.ColorMap : gif->SColorMap;
     EXPECT_EQ(s.OutputKind == kInterlacedGifOutput, image.ImageDesc.Interlace);
     EXPECT_LE(map->BitsPerPixel, s.row().bitCount);
-    EXPECT_GE(map->BitsPerPixel, bitsNeeded(int(wanted.palette.size())));
+    EXPECT_GE(map->BitsPerPixel, std::max(1, int(std::bit_width(wanted.palette.size() - 1))));
     int wrong = 0;
     for (std::size_t i = 0; i < wanted.indices.size(); ++i) {
         const GifColorType& c = map->Colors[image.RasterBits[i]];
@@ -51,9 +42,7 @@ void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wa
 /// BMP and PNG by Qt; the bit count stands in the header.
 void holdBitmap(const QString& name, const WebSettings& s, const ReducedPicture& wanted)
 {
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray head = file.read(32);
+    const QByteArray head = fileBytes(name);
     const bool isPng = s.FileKind == kPng;
     const int bits = isPng ? head[24] * (head[25] == 2 ? 3 : 1) : head[28];
     EXPECT_EQ(s.row().bitCount, bits);
@@ -70,10 +59,9 @@ void holdBitmap(const QString& name, const WebSettings& s, const ReducedPicture&
     EXPECT_EQ(0, wrong);
 }
 
-TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
+TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
 {
-    const QTemporaryDir folder;
-    const QString name = folder.filePath("web");
+    const QString name = path("web");
     const Bits picture = sample();
     int files = 0;
     BestPalettes known;
@@ -118,13 +106,12 @@ TEST(WebFile, EveryPresetPaletteAndDitherReadBack)
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
 }
 
-TEST(WebFile, AWriterEndsWithItsFirstWriteThatFails)
+TEST_F(WebFileTest, AWriterEndsWithItsFirstWriteThatFails)
 {
-    const QTemporaryDir folder;
     const FreeImageStart library;
     for (const int format : {FIF_PNG, FIF_JPEG, FIF_TIFF}) {
         const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // its small strips
-        OutputFile file(folder.filePath("web"));
+        OutputFile file(path("web"));
         int asked = 0;
         file.setGoOn([&asked] { return ++asked == 0; });
         saveDib(dib.get(), format, 0, file);

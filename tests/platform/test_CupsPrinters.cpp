@@ -30,8 +30,7 @@ class PrintServer {
     }
     ~PrintServer()
     {
-        server_.kill();
-        server_.waitForFinished();
+        kill();
         qunsetenv("CUPS_SERVER");
     }
     bool runs()
@@ -53,10 +52,10 @@ class PrintServer {
     QProcess server_;
 };
 
-struct CupsPrintersTest : ::testing::Test {
+struct CupsPrintersTest : FolderTest {
     RecordingPlatform platform;
-    QTemporaryDir folder;
     CupsPrinters printers{platform};
+    Printers::Request request; // of the last question
 
     static PrintPage page(PageOrientation orientation, bool fit, QSize size = {96, 48})
     {
@@ -66,28 +65,18 @@ struct CupsPrintersTest : ::testing::Test {
         PrintPictureToFitPage(page, orientation, true, fit);
         return page;
     }
-    /// What becomes of a page; null: no answer.
-    QString answer(const std::function<Printers::Request(Printers::Done)>& ask)
-    {
-        std::optional<QString> got;
-        const auto request = ask([&](const QString& reason) { got = reason; });
-        EXPECT_TRUE(waitUntil([&] { return got.has_value(); }));
-        return got.value_or(QString());
-    }
+    /// What becomes of a page; empty: it is printed.
     QString toFile(const PrintPage& page, const QString& path)
     {
-        return answer([&](Printers::Done done) { return printers.printToFile(path, page, done); });
+        return answerTo<QString>([&](auto done) { request = printers.printToFile(path, page, done); });
     }
     QString toPrinter(const QString& name, const PrintPage& page)
     {
-        return answer([&](Printers::Done done) { return printers.print(name, page, done); });
+        return answerTo<QString>([&](auto done) { request = printers.print(name, page, done); });
     }
     Printers::List list()
     {
-        std::optional<Printers::List> got;
-        const auto request = printers.list([&](const Printers::List& found) { got = found; });
-        EXPECT_TRUE(waitUntil([&] { return got.has_value(); }));
-        return got.value_or(Printers::List());
+        return answerTo<Printers::List>([&](auto done) { request = printers.list(done); });
     }
     /// The first page at ten dots a millimetre.
     static QImage rendered(const QString& pdf)
@@ -116,12 +105,12 @@ struct CupsPrintersTest : ::testing::Test {
 
 TEST_F(CupsPrintersTest, AFileShowsThePictureInItsPlace)
 {
-    const QString path = folder.filePath("page.pdf");
+    const QString pdf = path("page.pdf");
     for (const PageOrientation orientation : {PageOrientation::Portrait, PageOrientation::Landscape})
         for (const bool fit : {false, true}) {
             const PrintPage wanted = page(orientation, fit);
-            EXPECT_EQ(toFile(wanted, path), "");
-            const QImage got = rendered(path);
+            EXPECT_EQ(toFile(wanted, pdf), "");
+            const QImage got = rendered(pdf);
             const QSizeF sheet = wanted.paper.sheet(orientation);
             EXPECT_NEAR(got.width() / 10.0, sheet.width(), 0.5);
             EXPECT_NEAR(got.height() / 10.0, sheet.height(), 0.5);
@@ -133,24 +122,23 @@ TEST_F(CupsPrintersTest, AFileShowsThePictureInItsPlace)
 
 TEST_F(CupsPrintersTest, QualitySaysHowFineAPictureIsStored)
 {
-    const QString path = folder.filePath("page.pdf");
+    const QString pdf = path("page.pdf");
     PrintPage fine = page(PageOrientation::Portrait, true, {3000, 3000}); // 200 mm wide: 381 dots an inch
     fine.picture = randomBits(3000, 3000, 1);
     qint64 last = 0;
     for (const PrintQuality quality : {PrintQuality::Draft, PrintQuality::Low, PrintQuality::Medium}) {
         fine.quality = quality;
-        EXPECT_EQ(toFile(fine, path), "");
-        EXPECT_GT(QFileInfo(path).size(), last * 3 / 2);
-        last = QFileInfo(path).size();
+        EXPECT_EQ(toFile(fine, pdf), "");
+        EXPECT_GT(QFileInfo(pdf).size(), last * 3 / 2);
+        last = QFileInfo(pdf).size();
     }
 }
 
 TEST_F(CupsPrintersTest, AFileThatCantBeWrittenStaysAsItWas)
 {
-    EXPECT_NE(toFile(page(PageOrientation::Portrait, true), folder.filePath("no/such/folder.pdf")), "");
-    QFile::remove(folder.filePath("out.pdf"));
-    auto request = printers.printToFile(folder.filePath("out.pdf"), page(PageOrientation::Portrait, true),
-                                        [](const QString&) { ADD_FAILURE() << "nobody waits for it"; });
+    EXPECT_NE(toFile(page(PageOrientation::Portrait, true), path("no/such/folder.pdf")), "");
+    request = printers.printToFile(path("out.pdf"), page(PageOrientation::Portrait, true),
+                                   [](const QString&) { ADD_FAILURE() << "nobody waits for it"; });
     request.reset();
     list(); // behind it
     EXPECT_TRUE(list().names.isEmpty() || !list().current.isEmpty());
@@ -177,9 +165,7 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     wanted.copies = 3;
     wanted.quality = PrintQuality::High;
     EXPECT_EQ(toPrinter("Lab", wanted), "");
-    const QString pdf = folder.filePath("spooled.pdf");
-    putFile(pdf, server.spooled("d00001-001"));
-    expectNear(inked(rendered(pdf)), wanted.place);
+    expectNear(inked(rendered(put("spooled.pdf", server.spooled("d00001-001")))), wanted.place);
     QByteArray job; // written when the server has the time
     EXPECT_TRUE(waitUntil([&] { return (job = server.spooled("c00001")).contains("a picture"); }));
     EXPECT_TRUE(job.contains(QByteArray("copies\0\4\0\0\0\3", 12)));

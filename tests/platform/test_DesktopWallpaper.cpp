@@ -16,7 +16,6 @@ struct Desktop {
     QTemporaryDir folder;
     QByteArray path = qgetenv("PATH");
     RecordingPlatform platform;
-    std::optional<WallpaperResult> result;
 
     explicit Desktop(const char* name)
     {
@@ -30,17 +29,15 @@ struct Desktop {
     }
     void program(const QString& name, const QByteArray& then = "")
     {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("#!/bin/sh\necho \"" + name.toUtf8() + " $*\" >>" + folder.filePath("log").toUtf8() + "\n" + then +
-                   "\n");
-        file.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+        const QString file = folder.filePath(name);
+        putFile(file,
+                "#!/bin/sh\necho \"" + name.toUtf8() + " $*\" >>" + folder.filePath("log").toUtf8() + "\n" + then);
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
     }
     QByteArray log() const { return fileBytes(folder.filePath("log")); }
-    bool set(DesktopWallpaper& wallpaper, WallpaperMode mode, const QString& file = "/data/a b.bmp")
+    static WallpaperResult set(DesktopWallpaper& wallpaper, WallpaperMode mode, const QString& file = "/data/a b.bmp")
     {
-        wallpaper.set(file, mode, [this](WallpaperResult r) { result = r; });
-        return waitUntil([this] { return result.has_value(); });
+        return answerTo<WallpaperResult>([&](auto done) { wallpaper.set(file, mode, done); });
     }
 };
 
@@ -75,8 +72,7 @@ TEST(DesktopWallpaper, EveryDesktopIsToldInItsOwnWords)
         Desktop desktop(row.desktop);
         desktop.program(row.program, "[ \"$3\" = -l ] && echo /backdrop/s0/m0/w0/last-image\nexit 0");
         DesktopWallpaper wallpaper(desktop.platform);
-        ASSERT_TRUE(desktop.set(wallpaper, row.mode)) << row.desktop;
-        EXPECT_EQ(desktop.result, WallpaperResult::Done) << row.desktop;
+        EXPECT_EQ(desktop.set(wallpaper, row.mode), WallpaperResult::Done) << row.desktop;
         EXPECT_EQ(desktop.log(), row.calls);
     }
 }
@@ -96,8 +92,7 @@ TEST(DesktopWallpaper, WhatCantBeReadOrWrittenIsTold)
         Desktop desktop(row.desktop);
         desktop.program(row.program, row.then);
         DesktopWallpaper wallpaper(desktop.platform);
-        ASSERT_TRUE(desktop.set(wallpaper, WallpaperMode::Tile)) << row.desktop;
-        EXPECT_EQ(desktop.result, row.result) << row.desktop << row.then;
+        EXPECT_EQ(desktop.set(wallpaper, WallpaperMode::Tile), row.result) << row.desktop << row.then;
     }
 }
 
@@ -111,8 +106,7 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
         ASSERT_TRUE(bus.serve("org.kde.plasmashell", "plasma.py", {{"log", log}}));
         Desktop desktop("KDE");
         DesktopWallpaper wallpaper(desktop.platform, bus.connection());
-        ASSERT_TRUE(desktop.set(wallpaper, WallpaperMode::Stretch, file));
-        EXPECT_EQ(desktop.result, WallpaperResult::Done);
+        EXPECT_EQ(desktop.set(wallpaper, WallpaperMode::Stretch, file), WallpaperResult::Done);
         const QByteArray address = "file://" + folder.path().toUtf8() + "/it%27s.bmp"; // no quote ends the word early
         EXPECT_TRUE(fileBytes(log).contains("d.writeConfig('Image', '" + address + "');"))
             << fileBytes(log).constData();
@@ -125,8 +119,7 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
                           {{"answer", 0}, {"log", log}, {"wallpaper", copy}, {"uri", ""}}));
     Desktop desktop("sway");
     DesktopWallpaper wallpaper(desktop.platform, bus.connection());
-    ASSERT_TRUE(desktop.set(wallpaper, WallpaperMode::Tile, file));
-    EXPECT_EQ(desktop.result, WallpaperResult::Done);
+    EXPECT_EQ(desktop.set(wallpaper, WallpaperMode::Tile, file), WallpaperResult::Done);
     EXPECT_EQ(fileBytes(log), "SetWallpaperFile background\n");
     EXPECT_EQ(fileBytes(copy), "the picture");
 }

@@ -1,30 +1,25 @@
 // Previews of real files, read by the real helper in the background.
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "platform/FilePreviews.h"
+#include "support/files.h"
 #include <QtTest>
-#include <gtest/gtest.h>
 
 namespace velara {
 
 namespace {
 
-struct FilePreviewsTest : ::testing::Test {
-    QTemporaryDir folder;
+struct FilePreviewsTest : FolderTest {
     QByteArray before = qgetenv("XDG_CACHE_HOME");
     FilePreviews previews;
     std::vector<Preview> answers;
     const Previews::Done keep = [this](const Preview& preview) { answers.push_back(preview); };
 
-    void SetUp() override { qputenv("XDG_CACHE_HOME", folder.filePath("cache").toLocal8Bit()); }
+    void SetUp() override { qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit()); }
     void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
     QString file(const QString& name, const QByteArray& bytes)
     {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-        file.write(bytes);
-        file.flush();
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000), QFile::FileModificationTime);
-        return file.fileName();
+        touchFile(put(name, bytes), QDateTime::fromSecsSinceEpoch(1'700'000'000));
+        return path(name);
     }
     static QByteArray ppm(int side, char value)
     {
@@ -93,9 +88,7 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers[1].image, blue);
     EXPECT_EQ(answers[1].size, QSize(600, 600));
-    QFile changed(grey);
-    ASSERT_TRUE(changed.open(QFile::ReadWrite));
-    changed.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'007), QFile::FileModificationTime);
+    touchFile(grey, QDateTime::fromSecsSinceEpoch(1'700'000'007));
     const auto third = previews.thumbnail(grey, keep);
     ASSERT_TRUE(answered(3));
     EXPECT_EQ(answers[2].image.pixel(0, 0), 0xFF808080u);

@@ -10,20 +10,16 @@ struct QtFontsTest : ::testing::Test {
     QtFonts fonts;
     TextStyle style{QGuiApplication::font().family(), 20};
 
-    /// Around all that is not white.
-    static Rect inkOf(const Bits& bits)
-    {
-        Rect ink;
-        for (int y = 0; y < bits.height(); ++y)
-            for (int x = 0; x < bits.width(); ++x)
-                if (bits.at(x, y).c[0] != 255 || bits.at(x, y).c[2] != 255) ink = ink.united({x, y, x + 1, y + 1});
-        return ink;
-    }
+    /// Around all that a run blackens of a white paper.
     Rect drawn(const TextRun& run, const TextStyle& as, int x = 40, int y = 30)
     {
         Bits paper = flatBits(600, 120, 255, 255, 255);
         fonts.draw(paper, x, y, run, as, 0);
-        return inkOf(paper);
+        Rect ink;
+        for (y = 0; y < paper.height(); ++y)
+            for (x = 0; x < paper.width(); ++x)
+                if (paper.at(x, y).c[0] != 255 || paper.at(x, y).c[2] != 255) ink = ink.united({x, y, x + 1, y + 1});
+        return ink;
     }
 };
 

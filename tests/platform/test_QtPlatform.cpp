@@ -6,11 +6,14 @@
 #include "support/pictures.h"
 #include <QtTest>
 #include <QtWidgets>
-#include <gtest/gtest.h>
 
 namespace velara {
 
 namespace {
+
+struct QtPlatformTest : FolderTest {
+    QtPlatform platform;
+};
 
 /// Does it to the dialog that comes up next.
 template <class Dialog> void whenShown(const std::function<void(Dialog&)>& act)
@@ -42,9 +45,8 @@ TEST(NameFilters, BecomeWhatTheDialogTakes)
     EXPECT_EQ(suffixFor(filter, "Any", "png"), "");
 }
 
-TEST(QtPlatform, ADialogAfterAnotherOneStandsOverTheFrame)
+TEST_F(QtPlatformTest, ADialogAfterAnotherOneStandsOverTheFrame)
 {
-    QtPlatform platform;
     QMainWindow frame;
     frame.setAttribute(Qt::WA_ShowWithoutActivating);
     frame.show();
@@ -56,9 +58,8 @@ TEST(QtPlatform, ADialogAfterAnotherOneStandsOverTheFrame)
     platform.message("Crop", "Nothing selected", Icon::Information);
 }
 
-TEST(QtPlatform, MessagesStandAsTheyAreGiven)
+TEST_F(QtPlatformTest, MessagesStandAsTheyAreGiven)
 {
-    QtPlatform platform;
     whenShown<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Crop");
         EXPECT_EQ(box.text(), "<b>Nothing</b> selected");
@@ -69,9 +70,8 @@ TEST(QtPlatform, MessagesStandAsTheyAreGiven)
     platform.message("Crop", "<b>Nothing</b> selected", Icon::Exclamation);
 }
 
-TEST(QtPlatform, QuestionsHaveThreeAnswersAndEscapeCancels)
+TEST_F(QtPlatformTest, QuestionsHaveThreeAnswersAndEscapeCancels)
 {
-    QtPlatform platform;
     const std::pair<QMessageBox::StandardButton, Answer> rows[] = {
         {QMessageBox::Yes, Answer::Yes}, {QMessageBox::No, Answer::No}, {QMessageBox::Cancel, Answer::Cancel}};
     for (const auto& [button, answer] : rows) {
@@ -82,9 +82,8 @@ TEST(QtPlatform, QuestionsHaveThreeAnswersAndEscapeCancels)
     EXPECT_EQ(platform.askYesNoCancel("t", "q", Icon::Information), Answer::Cancel);
 }
 
-TEST(QtPlatform, ABoxSurvivesTheEndOfItsParent)
+TEST_F(QtPlatformTest, ABoxSurvivesTheEndOfItsParent)
 {
-    QtPlatform platform;
     auto* parent = new QWidget;
     parent->show();
     QApplication::setActiveWindow(parent);
@@ -93,7 +92,7 @@ TEST(QtPlatform, ABoxSurvivesTheEndOfItsParent)
 }
 
 // Nothing for half a second, then a box whose Esc ends the wait.
-TEST(QtPlatform, ALongReadCanBeGivenUp)
+TEST_F(QtPlatformTest, ALongReadCanBeGivenUp)
 {
     using namespace std::chrono_literals;
     ReadingBox box("photo.psd", nullptr);
@@ -107,10 +106,8 @@ TEST(QtPlatform, ALongReadCanBeGivenUp)
     EXPECT_FALSE(box.goOn(600ms));
 }
 
-TEST(QtPlatform, ANameWithoutASuffixGetsThatOfTheFormat)
+TEST_F(QtPlatformTest, ANameWithoutASuffixGetsThatOfTheFormat)
 {
-    QtPlatform platform;
-    QTemporaryDir folder;
     whenShown<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Save as");
         dialog.selectNameFilter("Png (*.png)");
@@ -125,11 +122,9 @@ TEST(QtPlatform, ANameWithoutASuffixGetsThatOfTheFormat)
     EXPECT_FALSE(platform.openFileName({"Open file", "Bmp|*.bmp", folder.path()}).has_value());
 }
 
-TEST(QtPlatform, TheQuestionIsAboutTheFileThatIsWritten)
+TEST_F(QtPlatformTest, TheQuestionIsAboutTheFileThatIsWritten)
 {
-    QtPlatform platform;
-    QTemporaryDir folder;
-    putFile(folder.filePath("x.ppm"), {});
+    put("x.ppm", {});
     FileDialog request{"Save as", "Bmp|*.bmp", folder.path()};
     request.writtenAs = [](const QString& name) { return QString(name).replace(".pgm", ".ppm"); };
     for (const bool yes : {false, true}) {
@@ -149,11 +144,10 @@ TEST(QtPlatform, TheQuestionIsAboutTheFileThatIsWritten)
 }
 
 // It comes back as large as it was left, in the folder that is asked for, with what is selected or typed shown.
-TEST(QtPlatform, FileDialogsRememberTheirSizeAndShowThePicture)
+TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
 {
-    QtPlatform platform;
-    QTemporaryDir folder, other;
-    ASSERT_TRUE(QImage(30, 20, QImage::Format_RGB32).save(folder.filePath("x.png")));
+    const QTemporaryDir other;
+    ASSERT_TRUE(QImage(30, 20, QImage::Format_RGB32).save(path("x.png")));
     const FileDialog request{"Open file", "Png|*.png", folder.path()};
     const auto shown = [](QFileDialog& dialog, const char* name) { return dialog.findChild<QLabel*>(name)->text(); };
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
@@ -172,32 +166,23 @@ TEST(QtPlatform, FileDialogsRememberTheirSizeAndShowThePicture)
         EXPECT_TRUE(QTest::qWaitFor([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         static_cast<QDialog&>(dialog).accept();
     });
-    EXPECT_EQ(platform.openFileName(request), folder.filePath("x.png"));
+    EXPECT_EQ(platform.openFileName(request), path("x.png"));
 }
 
-TEST(QtPlatform, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
+TEST_F(QtPlatformTest, PicturesPassThroughTheClipboardWithoutMarginAndFourthByte)
 {
-    QtPlatform platform;
     const Bits bits = randomBits(7, 5, 9);
     ASSERT_TRUE(platform.clipboard().setBitmap(bits));
     ASSERT_TRUE(platform.clipboard().hasBitmap());
-    const Bits back = platform.clipboard().bitmap().bits;
-    ASSERT_EQ(back.width(), 7);
-    ASSERT_EQ(back.height(), 5);
-    for (int y = 0; y < 5; ++y)
-        for (int x = 0; x < 7; ++x) {
-            for (int c = 0; c < 3; ++c) ASSERT_EQ(back.at(x, y).c[c], bits.at(x, y).c[c]);
-            ASSERT_EQ(back.at(x, y).c[3], 0);
-        }
+    EXPECT_TRUE(sameBits(plain(bits), platform.clipboard().bitmap().bits));
     platform.clipboard().clear();
     EXPECT_FALSE(platform.clipboard().hasBitmap());
     EXPECT_FALSE(platform.clipboard().bitmap().ok());
     EXPECT_FALSE(platform.clipboard().setBitmap({}));
 }
 
-TEST(QtPlatform, AShortenedPathKeepsItsFileName)
+TEST_F(QtPlatformTest, AShortenedPathKeepsItsFileName)
 {
-    QtPlatform platform;
     const QString path = "/a/very/long/folder/name/that/goes/on/and/on/and/on/and/on/picture.png";
     const QFontMetrics metrics(QApplication::font("QMenu"));
     const int whole = metrics.horizontalAdvance(path);

@@ -53,10 +53,7 @@ TEST(QtScreen, ARefusalAndAMissingPortalGiveNoPicture)
         Portal portal;
         ASSERT_TRUE(!there || portal.start(1));
         QtScreen screen(platform, portal.bus.connection());
-        std::optional<ScreenPicture> got;
-        screen.grab([&](const ScreenPicture& picture) { got = picture; });
-        ASSERT_TRUE(waitUntil([&] { return got.has_value(); }));
-        EXPECT_TRUE(got->bits.isNull());
+        EXPECT_TRUE(answerTo<ScreenPicture>([&](auto done) { screen.grab(done); }).bits.isNull());
     }
 }
 

@@ -9,33 +9,28 @@ namespace velara {
 
 namespace {
 
-class SaneScannerTest : public ::testing::Test {
-  protected:
+struct SaneScannerTest : FolderTest {
+    SaneScanner scanner{builtPath("velara-scan")};
+    QList<int> percents;
+
     SaneScannerTest() { qputenv("SANE_CONFIG_DIR", folder.path().toUtf8()); }
     ~SaneScannerTest() override { qunsetenv("SANE_CONFIG_DIR"); }
 
     void configure(const QByteArray& device)
     {
-        write("dll.conf", "test\n");
-        write("test.conf", "number_of_devices 1\ntest-picture \"Color pattern\"\nmode Color\nresolution 50\n" + device);
+        put("dll.conf", "test\n");
+        put("test.conf", "number_of_devices 1\ntest-picture \"Color pattern\"\nmode Color\nresolution 50\n" + device);
     }
-    void write(const QString& name, const QByteArray& text) { putFile(folder.filePath(name), text); }
     /// The picture of a scan; null and reason when it fails.
     QImage scan(const QString& mode, QString* reason = nullptr, const QString& device = "test:0")
     {
-        const QString file = folder.filePath("scan.bmp");
-        std::optional<QString> answer;
-        scanner.acquire(
-            {device, mode, 50, {10, 20, 60, 40}}, file, [this](int p) { percents << p; },
-            [&](const QString& r) { answer = r; });
-        EXPECT_TRUE(waitUntil([&] { return answer.has_value(); }));
-        if (reason) *reason = answer.value_or("");
-        return QImage(file);
+        const QString why = answerTo<QString>([&](auto done) {
+            scanner.acquire(
+                {device, mode, 50, {10, 20, 60, 40}}, path("scan.bmp"), [this](int p) { percents << p; }, done);
+        });
+        if (reason) *reason = why;
+        return QImage(path("scan.bmp"));
     }
-
-    QTemporaryDir folder;
-    SaneScanner scanner{builtPath("velara-scan")};
-    QList<int> percents;
 };
 
 } // namespace
@@ -43,35 +38,35 @@ class SaneScannerTest : public ::testing::Test {
 TEST_F(SaneScannerTest, AScanIsTheUsersAloneAndFollowsNoLink)
 {
     configure("");
-    write("precious", "mine");
-    QFile::link(folder.filePath("precious"), folder.filePath("scan.bmp"));
+    put("precious", "mine");
+    QFile::link(path("precious"), path("scan.bmp"));
     EXPECT_FALSE(scan("Gray").isNull());
-    EXPECT_EQ(QFileInfo(folder.filePath("precious")).size(), 4);
-    EXPECT_FALSE(QFile::permissions(folder.filePath("scan.bmp")) & (QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_EQ(QFileInfo(path("precious")).size(), 4);
+    EXPECT_FALSE(QFile::permissions(path("scan.bmp")) & (QFile::ReadGroup | QFile::ReadOther));
 }
 
 TEST_F(SaneScannerTest, SourcesAndWhatTheyCanDo)
 {
     configure("number_of_devices 2\n");
-    std::optional<QList<ScanSource>> sources;
-    scanner.list([&](const QList<ScanSource>& found, const QString& reason) {
-        EXPECT_EQ(reason, "");
-        sources = found;
+    const auto sources = answerTo<QList<ScanSource>>([&](auto done) {
+        scanner.list([done](const QList<ScanSource>& found, const QString& reason) {
+            EXPECT_EQ(reason, "");
+            done(found);
+        });
     });
-    ASSERT_TRUE(waitUntil([&] { return sources.has_value(); }));
-    ASSERT_EQ(sources->size(), 2);
-    EXPECT_EQ(sources->at(1).device, "test:1");
-    EXPECT_EQ(sources->at(1).title, "Noname frontend-tester (virtual device)");
+    ASSERT_EQ(sources.size(), 2);
+    EXPECT_EQ(sources[1].device, "test:1");
+    EXPECT_EQ(sources[1].title, "Noname frontend-tester (virtual device)");
 
-    std::optional<ScanRange> range;
-    scanner.describe("test:0", [&](const ScanRange& found, const QString&) { range = found; });
-    ASSERT_TRUE(waitUntil([&] { return range.has_value(); }));
-    EXPECT_EQ(range->modes, QStringList({"Gray", "Color"}));
-    EXPECT_EQ(range->mode, "Color");
-    EXPECT_TRUE(range->anyBetween);
-    EXPECT_EQ(range->resolutions, QList<int>({1, 1200}));
-    EXPECT_EQ(range->resolution, 50);
-    EXPECT_EQ(range->bed, QSizeF(200, 200));
+    const auto range = answerTo<ScanRange>([&](auto done) {
+        scanner.describe("test:0", [done](const ScanRange& found, const QString&) { done(found); });
+    });
+    EXPECT_EQ(range.modes, QStringList({"Gray", "Color"}));
+    EXPECT_EQ(range.mode, "Color");
+    EXPECT_TRUE(range.anyBetween);
+    EXPECT_EQ(range.resolutions, QList<int>({1, 1200}));
+    EXPECT_EQ(range.resolution, 50);
+    EXPECT_EQ(range.bed, QSizeF(200, 200));
 }
 
 TEST_F(SaneScannerTest, TheWaysInWhichDevicesSendGiveTheSamePicture)
@@ -105,28 +100,27 @@ TEST_F(SaneScannerTest, WhatFailsSaysWhyAndLeavesNoFile)
     configure("read-status-code \"SANE_STATUS_COVER_OPEN\"\n");
     EXPECT_TRUE(scan("Color", &reason).isNull());
     EXPECT_EQ(reason, "Scanner cover is open");
-    EXPECT_FALSE(QFile::exists(folder.filePath("scan.bmp")));
+    EXPECT_FALSE(QFile::exists(path("scan.bmp")));
     EXPECT_TRUE(scan("Color", &reason, "test:7").isNull());
     EXPECT_EQ(reason, "Invalid argument");
 
-    SaneScanner none(folder.filePath("nothing"));
-    std::optional<QString> answer;
-    none.list([&](const QList<ScanSource>&, const QString& r) { answer = r; });
-    ASSERT_TRUE(waitUntil([&] { return answer.has_value(); }));
-    EXPECT_NE(*answer, "");
+    SaneScanner none(path("nothing"));
+    const auto why = answerTo<QString>(
+        [&](auto done) { none.list([done](const QList<ScanSource>&, const QString& r) { done(r); }); });
+    EXPECT_NE(why, "");
 }
 
 TEST_F(SaneScannerTest, AScannerThatHangsIsLeft)
 {
-    write("hanging", "#!/bin/sh\ntrap '' TERM\nprintf 'percent\\t1\\n'\nexec sleep 60\n");
-    QFile::setPermissions(folder.filePath("hanging"), QFile::ReadOwner | QFile::ExeOwner);
+    put("hanging", "#!/bin/sh\ntrap '' TERM\nprintf 'percent\\t1\\n'\nexec sleep 60\n");
+    QFile::setPermissions(path("hanging"), QFile::ReadOwner | QFile::ExeOwner);
     bool answered = false;
     QElapsedTimer timer;
     timer.start();
     {
-        SaneScanner hanging(folder.filePath("hanging"));
+        SaneScanner hanging(path("hanging"));
         hanging.acquire(
-            {"test:0", "", 0, {}}, folder.filePath("scan.bmp"), [&](int p) { percents << p; },
+            {"test:0", "", 0, {}}, path("scan.bmp"), [&](int p) { percents << p; },
             [&](const QString&) { answered = true; });
         ASSERT_TRUE(waitUntil([&] { return !percents.isEmpty(); }));
         hanging.cancel();

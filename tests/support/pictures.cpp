@@ -15,10 +15,15 @@ Bits randomBits(int width, int height, std::uint32_t seed)
 
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth)
 {
-    Bits bits(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) bits.at(x, y) = {{blue, green, red, fourth}};
-    return bits;
+    return drawnBits(width, height, [&](int, int) { return Pixel{{blue, green, red, fourth}}; });
+}
+
+Bits plain(const Bits& bits)
+{
+    return drawnBits(bits.width(), bits.height(), [&](int x, int y) {
+        const Pixel& p = bits.at(x, y);
+        return Pixel{{p.c[0], p.c[1], p.c[2], 0}};
+    });
 }
 
 Region randomRegion(int width, int height, std::uint32_t seed)

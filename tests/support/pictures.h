@@ -11,6 +11,16 @@ namespace velara {
 Bits randomBits(int width, int height, std::uint32_t seed);
 /// One colour 0xFFBBGGRR-like: fourth byte, blue, green, red from the high byte down; the margin stays 0.
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth = 0);
+/// The pixel at x, y is what the function gives for them; the margin stays 0.
+template <class PixelAt> Bits drawnBits(int width, int height, PixelAt pixelAt)
+{
+    Bits bits(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) bits.at(x, y) = pixelAt(x, y);
+    return bits;
+}
+/// What files and the clipboard give back of a picture: no margin, no fourth byte.
+Bits plain(const Bits& bits);
 /// A random union of rectangles and ellipses that may stick out of the picture a little.
 Region randomRegion(int width, int height, std::uint32_t seed);
 

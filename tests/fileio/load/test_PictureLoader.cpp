@@ -1,12 +1,8 @@
 // Reading pictures through the child: what it says about bad files, and what becomes of children that misbehave.
 #include "fileio/load/PictureLoader.h"
+#include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <fstream>
-#include <sys/stat.h>
 
 namespace velara {
 
@@ -16,25 +12,16 @@ using namespace std::chrono_literals;
 
 const QString kDecoder = builtPath("velara-decode");
 
-class PictureLoader : public ::testing::Test {
-  protected:
-    QString write(const QString& name, const QByteArray& contents)
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
-        return file.fileName();
-    }
+struct PictureLoader : FolderTest {
     /// A program in the helper's place that runs the script.
-    QString fakeDecoder(const QByteArray& script)
+    QString fakeDecoder(const QByteArray& script) const
     {
-        const QString path = write("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
-                                           "s = socket.socket(fileno=3)\n" +
-                                               script);
-        chmod(QFile::encodeName(path).constData(), 0755);
-        return path;
+        const QString fake = put("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
+                                         "s = socket.socket(fileno=3)\n" +
+                                             script);
+        QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return fake;
     }
-    QTemporaryDir folder;
 };
 
 const QByteArray kPicture = "P6\n3 2\n255\n"
@@ -43,59 +30,42 @@ const QByteArray kPicture = "P6\n3 2\n255\n"
 
 } // namespace
 
-TEST_F(PictureLoader, HandsOverThePixelsWithAZeroMargin)
-{
-    const LoadedPicture picture = loadThroughDecoder(write("Straße.PPM", kPicture), "PPM", kDecoder);
-    ASSERT_TRUE(picture.ok()) << picture.reason.toStdString();
-    Bits wanted(3, 2);
-    for (int i = 0; i < 6; ++i)
-        wanted.at(i % 3,
-                  i / 3) = {{std::uint8_t('c' + 3 * i), std::uint8_t('b' + 3 * i), std::uint8_t('a' + 3 * i), 0}};
-    EXPECT_TRUE(sameBits(wanted, picture.bits));
-}
-
 // More rows than all slots together hold, of a width that leaves a rest in each slot.
 TEST_F(PictureLoader, HandsOverMoreThanTheSharedMemoryHolds)
 {
     constexpr int kWidth = 1237, kHeight = 2003;
     QByteArray contents = "P6\n1237 2003\n255\n";
-    Bits wanted(kWidth, kHeight);
-    for (int y = 0; y < kHeight; ++y)
-        for (int x = 0; x < kWidth; ++x) {
-            const auto value = static_cast<std::uint8_t>((x * 7 + y * 13) ^ x >> 3 ^ y >> 2);
-            wanted.at(x, y) = {{value, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), 0}};
-            contents.append(char(y)).append(char(x)).append(char(value));
-        }
-    const LoadedPicture picture = loadThroughDecoder(write("big.ppm", contents), "ppm", kDecoder);
-    ASSERT_TRUE(picture.ok()) << picture.reason.toStdString();
-    EXPECT_TRUE(sameBits(wanted, picture.bits));
+    const Bits wanted = drawnBits(kWidth, kHeight, [&](int x, int y) {
+        const Pixel p{{std::uint8_t((x * 7 + y * 13) ^ x >> 3 ^ y >> 2), std::uint8_t(x), std::uint8_t(y), 0}};
+        contents.append(char(p.c[2])).append(char(p.c[1])).append(char(p.c[0]));
+        return p;
+    });
+    const LoadedPicture picture = loadThroughDecoder(put("Straße.PPM", contents), "PPM", kDecoder);
+    EXPECT_TRUE(sameBits(wanted, picture.bits)) << picture.reason.toStdString();
 }
 
 TEST_F(PictureLoader, SaysWhatIsWrongWithAFile)
 {
-    const QByteArray bmpHeader("BM\x36\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0", 18);
-    const QByteArray bmpRest("\x01\0\x18\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 28);
-    const QByteArray pngOf60000("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x08\x02\0\0\0\x5c\x98\x10\xfa",
-                                33);
+    const QByteArray bmp =
+        QByteArray::fromHex("424d 3600 0000 0000 0000 3600 0000 2800 0000 60ea 0000 60ea 0000 0100 1800");
+    const QString tooBig =
+        " can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels";
     QDir(folder.path()).mkdir("folder.png");
     const struct {
         QString path, extension, reason;
     } kCases[] = {
-        {folder.filePath("none.png"), "png", "none.png can't be read: there is no such file"},
-        {folder.filePath("folder.png"), "png", "folder.png can't be read: it is a folder"},
+        {path("none.png"), "png", "none.png can't be read: there is no such file"},
+        {path("folder.png"), "png", "folder.png can't be read: it is a folder"},
         {"/dev/null", "png", "null can't be read: it is not an ordinary file"},
-        {write("empty.png", ""), "png", "empty.png can't be read: the file is empty"},
-        {write("zip.png", "PK\x03\x04 and so on"), "png", "zip.png can't be read: it is damaged or not a PNG picture"},
-        {write("garbage.tif", "garbage"), "tif", "garbage.tif can't be read: it is damaged or not a TIFF picture"},
-        {write("picture.png", kPicture), "png", "picture.png can't be read: it is damaged or not a PNG picture"},
-        {write("a.jpeg", kPicture), "jpeg", "a.jpeg can't be read: there is no reader for .jpeg files"},
-        {write("a", kPicture), "", "a can't be read: its name has no extension to tell what it is"},
-        {write("big.bmp", bmpHeader + QByteArray("\x60\xea\0\0\x60\xea\0\0", 8) + bmpRest), "bmp",
-         "big.bmp can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
-        {write("big.ppm", "P6\n20000 20000\n255\n"), "ppm",
-         "big.ppm can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
-        {write("big.wbmp", QByteArray("\0\0\x82\x80\0\x01", 6)), "wbmp",
-         "big.wbmp can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels"},
+        {put("empty.png", ""), "png", "empty.png can't be read: the file is empty"},
+        {put("zip.png", "PK\x03\x04 and so on"), "png", "zip.png can't be read: it is damaged or not a PNG picture"},
+        {put("garbage.tif", "garbage"), "tif", "garbage.tif can't be read: it is damaged or not a TIFF picture"},
+        {put("picture.png", kPicture), "png", "picture.png can't be read: it is damaged or not a PNG picture"},
+        {put("a.jpeg", kPicture), "jpeg", "a.jpeg can't be read: there is no reader for .jpeg files"},
+        {put("a", kPicture), "", "a can't be read: its name has no extension to tell what it is"},
+        {put("big.bmp", bmp + QByteArray(24, '\0')), "bmp", "big.bmp" + tooBig},
+        {put("big.ppm", "P6\n20000 20000\n255\n"), "ppm", "big.ppm" + tooBig},
+        {put("big.wbmp", QByteArray("\0\0\x82\x80\0\x01", 6)), "wbmp", "big.wbmp" + tooBig},
     };
     for (const auto& c : kCases) {
         const LoadedPicture picture = loadThroughDecoder(c.path, c.extension, kDecoder);
@@ -138,7 +108,7 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
 #endif
         {"opening(10, 10); sys.exit(0)", "gave up"},
     };
-    const QString file = write("x.ppm", kPicture);
+    const QString file = put("x.ppm", kPicture);
     for (const auto& c : kCases) {
         DecoderLimits limits;
         limits.wallClock = std::string_view(c.reason) == "too long" ? 500ms : 10000ms;
@@ -147,7 +117,7 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         EXPECT_NE(picture.reason.toStdString().find(c.reason), std::string::npos)
             << c.script.toStdString() << ": " << picture.reason.toStdString();
     }
-    for (const QString& decoder : {QString(), QString("/nonexistent/velara-decode"), write("notAProgram", "text")}) {
+    for (const QString& decoder : {QString(), QString("/nonexistent/velara-decode"), put("notAProgram", "text")}) {
         const LoadedPicture picture = loadThroughDecoder(file, "ppm", decoder);
         EXPECT_TRUE(picture.reason.startsWith("x.ppm can't be read: the program that reads pictures"));
     }
@@ -156,16 +126,15 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
 // A child that does nothing is at its end after two seconds, and at once when the person gives up.
 TEST_F(PictureLoader, WaitsNoLongerThanAPersonWould)
 {
-    const QString file = write("x.ppm", kPicture), sleeper = fakeDecoder("time.sleep(60)");
-    const QString stopped = fakeDecoder("os.kill(os.getpid(), 19)");
-    for (const QString& decoder : {sleeper, stopped}) {
+    const QString file = put("x.ppm", kPicture);
+    for (const char* script : {"os.kill(os.getpid(), 19)", "time.sleep(60)"}) {
         const auto start = std::chrono::steady_clock::now();
-        EXPECT_TRUE(loadThroughDecoder(file, "ppm", decoder).reason.contains("too long"));
+        EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder(script)).reason.contains("too long"));
         EXPECT_LT(std::chrono::steady_clock::now() - start, 15s);
     }
     int asked = 0;
     const GoOn twice = [&](std::chrono::milliseconds) { return ++asked < 2; };
-    EXPECT_TRUE(loadThroughDecoder(file, "ppm", sleeper, {}, twice).reason.contains("given up"));
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", path("fake"), {}, twice).reason.contains("given up"));
     EXPECT_EQ(asked, 2);
 }
 
@@ -173,7 +142,7 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
 {
     DecoderLimits limits;
     limits.cpuSeconds = 1;
-    const QString file = write("x.ppm", kPicture);
+    const QString file = put("x.ppm", kPicture);
     const auto start = std::chrono::steady_clock::now();
     for (const char* loop : {"while True: pass", "import signal\nsignal.signal(signal.SIGXCPU, 1)\nwhile True: pass"})
         EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder(loop), limits).reason.contains("too long"));
@@ -188,7 +157,7 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
 #ifndef __SANITIZE_ADDRESS__ // it goes without this limit
     DecoderLimits small;     // the program itself starts within it
     small.memory = 400 << 20;
-    const QString big = write("big.ppm", "P6\n16000 16000\n255\n");
+    const QString big = put("big.ppm", "P6\n16000 16000\n255\n");
     const QString reason = loadThroughDecoder(big, "ppm", kDecoder, small).reason;
     EXPECT_FALSE(reason.isEmpty());
     EXPECT_FALSE(reason.contains("cut off")) << reason.toStdString(); // it didn't come as far as the missing pixels
@@ -201,8 +170,8 @@ TEST_F(PictureLoader, DamagedSamplesCostNothingButTheChild)
     if (!QFile::exists(corpusPath("README.md"))) GTEST_SKIP();
     for (const char* name : {"bomb.gif", "cut_heap.cut", "ico_heap.ico", "negative_size.ppm", "psd_heap.psd",
                              "ras_heap.ras", "reallybig.bmp"}) {
-        const QString path = corpusPath("malformed/") + name;
-        const LoadedPicture picture = loadThroughDecoder(path, path.section('.', -1), kDecoder);
+        const QString sample = corpusPath("malformed/") + name;
+        const LoadedPicture picture = loadThroughDecoder(sample, sample.section('.', -1), kDecoder);
         EXPECT_TRUE(picture.ok() != picture.reason.startsWith(QString(name) + " can't be read: ")) << name;
         EXPECT_FALSE(picture.reason.contains("sanitizer")) << name; // a fault of ours, not of a library
     }

@@ -7,9 +7,7 @@
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QDirIterator>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -19,8 +17,7 @@ namespace {
 
 constexpr uid_t kNobody = 65534;
 
-class Cage : public ::testing::Test {
-  protected:
+struct Cage : FolderTest {
     Cage()
     {
         chmod(QFile::encodeName(folder.path()).constData(), 0777);
@@ -31,9 +28,7 @@ class Cage : public ::testing::Test {
     /// What the payload says of an attempt from inside the cage that the extension names.
     QString attempt(const char* name, const QString& on, const char* cage)
     {
-        const QString file = folder.filePath("attempt");
-        putFile(file, QByteArray(name) + '\n' + on.toUtf8());
-        return loadThroughDecoder(file, cage, payload).reason;
+        return loadThroughDecoder(put("attempt", QByteArray(name) + '\n' + on.toUtf8()), cage, payload).reason;
     }
     QString answerTo(const char* name, const char* cage)
     {
@@ -42,13 +37,13 @@ class Cage : public ::testing::Test {
         if (text == "memory" || text == "direct") return attempt(name, address, cage);
         if (text == "connect") return attempt(name, "9", cage);
         if (text == "write") return attempt(name, font, cage);
-        return attempt(name, text == "outlive" ? folder.filePath("outlived") : victim, cage);
+        return attempt(name, text == "outlive" ? path("outlived") : victim, cage);
     }
     /// True when neither the file beside nor this process shows a trace of any attempt.
     bool untouched() const
     {
         return fileBytes(victim) == "precious" && target == 't' && !QFile::exists(victim + ".new") &&
-               !QFile::exists(victim + ".link") && !QFile::exists(folder.filePath("outlived"));
+               !QFile::exists(victim + ".link") && !QFile::exists(path("outlived"));
     }
     /// Runs the body in a process of an ordinary user too, when this one is root's; it fails by its exit code.
     template <class Body> void asEveryUser(Body body)
@@ -56,7 +51,7 @@ class Cage : public ::testing::Test {
         body();
         if (getuid() != 0) return;
         chown(QFile::encodeName(folder.path()).constData(), kNobody, kNobody);
-        QFile::remove(folder.filePath("attempt"));
+        QFile::remove(path("attempt"));
         const pid_t child = fork();
         if (child == 0) {
             if (setgid(kNobody) != 0 || setuid(kNobody) != 0) _exit(2);
@@ -68,8 +63,7 @@ class Cage : public ::testing::Test {
         EXPECT_EQ(status, 0) << "as an ordinary user";
     }
 
-    QTemporaryDir folder;
-    const QString payload = folder.filePath("velara-decode"), victim = folder.filePath("precious.txt");
+    const QString payload = path("velara-decode"), victim = path("precious.txt");
     const QString font =
         QDirIterator("/usr/share/fonts", QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories).next();
     volatile char target = 't';

@@ -4,12 +4,12 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
-#include <QFile>
-#include <QTemporaryDir>
 
 namespace velara {
 
 namespace {
+
+using LoadSmall = FolderTest;
 
 QImage shrunk(const Bits& bits, QSize box)
 {
@@ -35,30 +35,23 @@ TEST(Shrinker, FitsTheBoxAndKeepsTheShape)
 // Blocks are averaged in each channel, the ones cut off at the edges too.
 TEST(Shrinker, EachPixelIsTheMeanOfItsBlock)
 {
-    Bits bits(6, 4);
-    for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 6; ++x)
-            bits.at(x, y) = {{std::uint8_t(x * 40), std::uint8_t(y * 60), std::uint8_t(x / 2 * 100), 9}};
+    const Bits bits = drawnBits(6, 4, [](int x, int y) {
+        return Pixel{{std::uint8_t(x * 40), std::uint8_t(y * 60), std::uint8_t(x / 2 * 100), 9}};
+    });
     const QImage image = shrunk(bits, {3, 2});
     ASSERT_EQ(image.size(), QSize(3, 2));
     for (int y = 0; y < 2; ++y)
         for (int x = 0; x < 3; ++x)
             EXPECT_EQ(image.pixel(x, y), qRgb(x * 100, y * 120 + 30, x * 80 + 20)) << x << ',' << y;
-    EXPECT_EQ(
-        shrunk(randomBits(6, 4, 1), {9, 9}).pixel(5, 3),
-        qRgb(randomBits(6, 4, 1).at(5, 3).c[2], randomBits(6, 4, 1).at(5, 3).c[1], randomBits(6, 4, 1).at(5, 3).c[0]));
-    Bits white(65, 33);
-    for (int y = 0; y < 33; ++y)
-        for (int x = 0; x < 65; ++x) white.at(x, y) = {{255, 255, 255, 0}};
-    EXPECT_EQ(shrunk(white, {8, 8}).pixel(7, 3), 0xFFFFFFFFu);
+    const Pixel& last = bits.at(5, 3);
+    EXPECT_EQ(shrunk(bits, {9, 9}).pixel(5, 3), qRgb(last.c[2], last.c[1], last.c[0])) << "it fits as it is";
+    EXPECT_EQ(shrunk(flatBits(65, 33, 255, 255, 255), {8, 8}).pixel(7, 3), 0xFFFFFFFFu);
 }
 
-TEST(LoadSmall, TellsTheSizeAndTheReason)
+TEST_F(LoadSmall, TellsTheSizeAndTheReason)
 {
     const QString decoder = builtPath("velara-decode");
-    QTemporaryDir folder;
-    const QString wide = folder.filePath("wide.ppm");
-    putFile(wide, "P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
+    const QString wide = put("wide.ppm", "P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
     const SmallPicture small = loadSmall(wide, "PPM", decoder, {100, 100});
     EXPECT_EQ(small.size, QSize(600, 300));
     ASSERT_EQ(small.image.size(), QSize(100, 50)) << small.reason.toStdString();
@@ -66,8 +59,7 @@ TEST(LoadSmall, TellsTheSizeAndTheReason)
     EXPECT_EQ(small.origin.modified, 0);
     EXPECT_EQ(loadSmall(wide, "png", decoder, {100, 100}).reason,
               "wide.ppm can't be read: it is damaged or not a PNG picture");
-    EXPECT_EQ(loadSmall(folder.filePath("no.png"), "png", decoder, {9, 9}).reason,
-              "no.png can't be read: there is no such file");
+    EXPECT_EQ(loadSmall(path("no.png"), "png", decoder, {9, 9}).reason, "no.png can't be read: there is no such file");
     const SmallPicture left = loadSmall(wide, "ppm", decoder, {9, 9}, {}, [](auto) { return false; });
     EXPECT_TRUE(left.image.isNull());
     EXPECT_EQ(left.reason, "wide.ppm can't be read: reading it was given up");

@@ -1,34 +1,24 @@
 // The cache of thumbnails that the programs of a desktop share.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
+#include "support/files.h"
 #include "support/places.h"
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace velara {
 
 namespace {
 
-struct SharedThumbnails : ::testing::Test {
-    QTemporaryDir folder;
-    const QString picture = folder.filePath("a b.png"), decoder = builtPath("velara-decode");
+struct SharedThumbnails : FolderTest {
+    const QString picture = path("a b.png"), decoder = builtPath("velara-decode");
     QByteArray before = qgetenv("XDG_CACHE_HOME");
 
     void SetUp() override
     {
-        qputenv("XDG_CACHE_HOME", folder.filePath("cache").toLocal8Bit());
+        qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit());
         touch(QDateTime::fromSecsSinceEpoch(1'700'000'000));
     }
     void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
-    void touch(const QDateTime& when) const
-    {
-        QFile file(picture);
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        ASSERT_TRUE(file.setFileTime(when, QFile::FileModificationTime));
-    }
+    void touch(const QDateTime& when) const { touchFile(picture, when); }
     static QImage red()
     {
         QImage image(128, 64, QImage::Format_RGB32);
@@ -72,19 +62,16 @@ TEST_F(SharedThumbnails, NothingIsWrittenForFilesInTheMakingEntriesAndLockedCach
     SharedThumbnail(picture).write(red(), {4000, 2000});
     EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());
     touch(QDateTime::fromSecsSinceEpoch(1'700'000'000));
-    QFile(folder.filePath("cache")).open(QFile::WriteOnly); // where the folder should be
+    put("cache", {}); // where the folder should be
     SharedThumbnail(picture).write(red(), {4000, 2000});
     EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());
-    QFile::remove(folder.filePath("cache"));
+    QFile::remove(path("cache"));
     SharedThumbnail(picture).write(red(), {4000, 2000});
     const QString entry = SharedThumbnail(picture).entries().value(0);
-    QFile(entry).open(QFile::ReadWrite);
-    QFile file(entry);
-    ASSERT_TRUE(file.open(QFile::ReadWrite));
-    file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000), QFile::FileModificationTime);
+    touchFile(entry, QDateTime::fromSecsSinceEpoch(1'700'000'000));
     SharedThumbnail(entry).write(red(), {128, 64});
     EXPECT_EQ(SharedThumbnail(entry).entries(), QStringList());
-    EXPECT_EQ(QDir(folder.filePath("cache/thumbnails/normal")).entryList(QDir::Files).size(), 1) << "no strays";
+    EXPECT_EQ(QDir(path("cache/thumbnails/normal")).entryList(QDir::Files).size(), 1) << "no strays";
 }
 
 } // namespace velara

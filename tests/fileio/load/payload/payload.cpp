@@ -55,26 +55,24 @@ long throughSharedMapping(const char* on)
     return 0;
 }
 
+/// Whether the way is open: nobody need answer.
+template <class Address> long reach(const Address& address, std::size_t size)
+{
+    const int line = socket(reinterpret_cast<const sockaddr&>(address).sa_family, SOCK_STREAM, 0);
+    if (line < 0) return -1;
+    const int done = connect(line, reinterpret_cast<const sockaddr*>(&address), socklen_t(size));
+    return done < 0 && errno == ECONNREFUSED ? 0 : done;
+}
+
 long reachDisplay(const char*)
 {
-    sockaddr_un address{AF_UNIX, "\0/tmp/.X11-unix/X0"};
-    const int line = socket(AF_UNIX, SOCK_STREAM, 0);
-    if (line < 0) return -1;
-    const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 18);
-    const int done = connect(line, reinterpret_cast<const sockaddr*>(&address), size);
-    return done < 0 && errno == ECONNREFUSED ? 0 : done; // nobody answers, but the way is open
+    return reach(sockaddr_un{AF_UNIX, "\0/tmp/.X11-unix/X0"}, offsetof(sockaddr_un, sun_path) + 18);
 }
 
 long connectTo(const char* port)
 {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<std::uint16_t>(std::stoi(port)));
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    const int line = socket(AF_INET, SOCK_STREAM, 0);
-    if (line < 0) return -1;
-    const int done = connect(line, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-    return done < 0 && errno == ECONNREFUSED ? 0 : done;
+    const auto number = htons(static_cast<std::uint16_t>(std::stoi(port)));
+    return reach(sockaddr_in{AF_INET, number, {htonl(INADDR_LOOPBACK)}, {}}, sizeof(sockaddr_in));
 }
 
 long outlive(const char* on)
