@@ -11,8 +11,6 @@ namespace velara {
 Bits randomBits(int width, int height, std::uint32_t seed);
 /// One colour 0xFFBBGGRR-like: fourth byte, blue, green, red from the high byte down; the margin stays 0.
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth = 0);
-/// A random union of rectangles and ellipses that may stick out of the picture a little.
-Region randomRegion(int width, int height, std::uint32_t seed);
 
 /// Equal in size and in every byte, margin included; the failure names the first differing pixel: x, y, channel,
 /// wanted, got.
