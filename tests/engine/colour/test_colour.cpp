@@ -1,5 +1,5 @@
-// What random pictures don't come to with the colour filters, their measurements and faults, reports, hue and the nearest
-// palette colour.
+// What random pictures don't come to with the colour filters, their measurements and faults, reports, hue and the
+// nearest palette colour.
 #include "engine/colour/mPalette.h"
 #include "pixels/mHSLRGB.h"
 #include "support/faults.h"
