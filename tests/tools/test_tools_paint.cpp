@@ -1,4 +1,5 @@
 #include "pixels/RuntimeError.h"
+#include "support/filterOf.h"
 #include "tools/ToolFixture.h"
 #include "tools/reference/paintTwins.h"
 #include <random>
@@ -215,9 +216,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     EXPECT_EQ(asked(), "activate; redraw on; stop; show 2: 10,10 40,30");
     release({40, 30});
     EXPECT_EQ(asked(), "hide 2; step; redraw off; start");
-    cBitFilter engine;
-    engine.setBits(before);
-    engine.setBitsRegion(selection());
+    cBitFilter engine = filterOf(before, selection());
     Bits wanted = engine.GradientLinear(10, 10, 40, 30, 0x1020FF, 0, 70, 1);
     EXPECT_TRUE(sameBits(wanted, document.bits()));
     s.GradientMode = 1;
