@@ -34,7 +34,7 @@ TEST_F(PainterCases, AStrokeThatStandsStillIsADab)
     painter.CreateDoneBitsTable();
     painter.BitsBrushLine(15, 5, 15, 5, 2, 100, 0, 0);
     EXPECT_EQ(changed(), 5);
-    EXPECT_EQ(painter.takeTouched(), (Rect{13, 3, 17, 7}));
+    EXPECT_EQ(painter.takeTouched(), (Rect{14, 4, 17, 7}));
     EXPECT_TRUE(painter.takeTouched().isEmpty());
 }
 

@@ -231,9 +231,9 @@ TEST_F(UndoStoreTest, AFileThatWentAwayIsPassedOver)
     EXPECT_FALSE(store.undo());
     expectCounters(3, 4);
     EXPECT_TRUE(save(picture(7))) << "the folder is made anew";
-    EXPECT_EQ(0077, QFile::permissions(folder.path()) & 0077 ? 0 : 0077) << "for its owner alone";
-    EXPECT_EQ(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser,
-              QFile::permissions(path("b000303.dat")));
+    const QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(owner | QFile::ExeOwner | QFile::ExeUser, QFile::permissions(folder.path())) << "for its owner alone";
+    EXPECT_EQ(owner, QFile::permissions(path("b000303.dat")));
 }
 
 TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
