@@ -3,22 +3,15 @@
 #include "document/stockTextures.h"
 #include "document/texturing.h"
 #include "support/RecordingPlatform.h"
+#include "support/files.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include <QDir>
-#include <QFile>
 #include <cmath>
 #include <unistd.h>
 
 namespace velara {
 namespace {
-
-cBitFilter filterOver(const Bits& bits, const Region& region)
-{
-    cBitFilter filter;
-    filter.setBits(bits);
-    filter.setBitsRegion(region);
-    return filter;
-}
 
 TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
 {
@@ -34,9 +27,9 @@ TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
                  {true, true, 100, 50}};
     for (const auto& row : kRows) {
         const Bits& from = row.own ? picture : texture;
-        cBitFilter helper = filterOver(from, Region::rectangle(0, 0, from.width(), from.height()));
+        cBitFilter helper = filterOf(from);
         const Bits relief = row.engrave ? helper.ENGRAVE(row.weight) : helper.EMBOSS(row.weight);
-        cBitFilter filter = filterOver(picture, selection);
+        cBitFilter filter = filterOf(picture, selection);
         const Bits wanted = filter.Texturize(relief);
         const Texturing texturing{row.own ? Bits() : texture, row.intensity, row.engrave};
         EXPECT_TRUE(sameBits(wanted, texturized(filter, texturing))) << row.intensity;
@@ -51,7 +44,7 @@ TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
             EXPECT_EQ(0, wrong) << row.own << row.intensity << " at " << part.left;
         }
     }
-    cBitFilter tiny = filterOver(Bits(1, 5), Region::rectangle(0, 0, 1, 5));
+    cBitFilter tiny = filterOf(Bits(1, 5));
     EXPECT_ANY_THROW(texturized(tiny, {}));
     EXPECT_ANY_THROW(texturized(tiny, {Bits(1, 1)}));
 }
@@ -65,7 +58,7 @@ TEST(Merging, TheViewShowsEverySoManyPixelsOfTheResult)
     for (const Merging& m :
          {Merging{overlay, 10, 7}, Merging{overlay, -5, -3, true, 30},
           Merging{overlay, 4, 50, true, 0, colourOf(7, 8, 9)}, Merging{overlay, 95, 0}, Merging{Bits()}}) {
-        cBitFilter filter = filterOver(picture, selection);
+        cBitFilter filter = filterOf(picture, selection);
         const Bits whole = merged(filter, m), view = mergedView(picture, selection, m, {30, 20});
         ASSERT_EQ(30, view.width());
         for (int y = 0; y < 20; ++y)
@@ -106,15 +99,13 @@ TEST(StockTextures, AreWrittenWhereNothingHasTheName)
     const QDir folder(platform.folder.filePath("Textures"));
     ASSERT_TRUE(writeStockTextures(platform));
     EXPECT_EQ(12, folder.entryList({"Velara*.bmp"}).size());
-    QFile own(folder.filePath("Velara3.bmp"));
-    ASSERT_TRUE(own.open(QIODevice::WriteOnly | QIODevice::Truncate) && own.write("mine") == 4);
-    own.close();
+    putFile(folder.filePath("Velara3.bmp"), "mine");
     QFile::remove(folder.filePath("Velara4.bmp"));
     QFile::remove(folder.filePath("Velara5.bmp"));
     const QString elsewhere = platform.folder.filePath("elsewhere");
     ASSERT_EQ(0, symlink(qPrintable(elsewhere), qPrintable(folder.filePath("Velara5.bmp"))));
     ASSERT_TRUE(writeStockTextures(platform));
-    EXPECT_EQ(4, QFileInfo(folder.filePath("Velara3.bmp")).size());
+    EXPECT_EQ("mine", fileBytes(folder.filePath("Velara3.bmp")));
     EXPECT_TRUE(platform.loadPicture(folder.filePath("Velara4.bmp"), "bmp").ok());
     EXPECT_FALSE(QFile::exists(elsewhere)) << "no link is followed";
     EXPECT_EQ("Brick", stockTextureName("Velara4.bmp"));

@@ -1,20 +1,12 @@
 // The vector kernels of every target the processor has give the same bytes.
 #include "engine/colour/mPalette.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/typicalArguments.h"
 #include <hwy/targets.h>
 
 namespace velara {
 namespace {
-
-Bits result(const Operation& op, const Bits& bits, const Region& region)
-{
-    cBitFilter filter;
-    filter.setBits(bits);
-    filter.setBitsRegion(region);
-    op.call(filter, typicalArguments(op));
-    return filter.bits();
-}
 
 void use(std::int64_t disabled)
 {
@@ -29,9 +21,10 @@ TEST(Targets, TheBaselineGivesWhatTheBestGives)
     const Region region = Region::ellipse(-1, 0, 1111, 37);
     for (const Operation& op : operations()) {
         use(0);
-        const Bits best = result(op, bits, region);
+        const Arguments arguments = typicalArguments(op);
+        const Bits best = run(op.name, arguments, bits, region);
         use(HWY_AVX2);
-        EXPECT_TRUE(sameBits(best, result(op, bits, region))) << op.name;
+        EXPECT_TRUE(sameBits(best, run(op.name, arguments, bits, region))) << op.name;
     }
     use(0);
 }

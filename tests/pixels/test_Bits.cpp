@@ -1,5 +1,6 @@
 #include "pixels/Bits.h"
 #include "pixels/numbers.h"
+#include "support/faults.h"
 #include "support/pictures.h"
 
 namespace velara {
@@ -66,19 +67,11 @@ TEST(Numbers, HalvesGoToTheEvenNeighbour)
 
 TEST(Numbers, FaultsAreTyped)
 {
-    const auto fault = [](auto&& f) {
-        try {
-            f();
-        } catch (const RuntimeError& e) {
-            return e.fault();
-        }
-        return Fault::OutOfRange;
-    };
-    EXPECT_EQ(fault([] { toByte(255.5); }), Fault::Overflow); // rounds to 256
-    EXPECT_EQ(fault([] { toByte(-0.6); }), Fault::Overflow);
-    EXPECT_EQ(fault([] { roundEven(2147483647.5); }), Fault::Overflow);
-    EXPECT_EQ(fault([] { roundEven(std::nan("")); }), Fault::Overflow);
-    EXPECT_EQ(fault([] { divide(1, 0); }), Fault::DivisionByZero);
+    EXPECT_EQ(faultOf([] { toByte(255.5); }), Fault::Overflow); // rounds to 256
+    EXPECT_EQ(faultOf([] { toByte(-0.6); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { roundEven(2147483647.5); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { roundEven(std::nan("")); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { divide(1, 0); }), Fault::DivisionByZero);
     EXPECT_EQ(divide(-7, 2), -3);
 }
 

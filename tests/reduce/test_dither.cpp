@@ -10,20 +10,9 @@
 namespace velara {
 namespace {
 
-struct Row {
-    const char* name;
-    Dither dither;
-};
-constexpr Row kDithers[] = {{"None", Dither::None},
-                            {"Binary", Dither::Binary},
-                            {"Ordered", Dither::Ordered},
-                            {"Haftone", Dither::Haftone},
-                            {"Forward Diag", Dither::ForwardDiag},
-                            {"Backward Diag", Dither::BackwardDiag},
-                            {"Horizontal", Dither::Horizontal},
-                            {"Vertical", Dither::Vertical},
-                            {"Odd", Dither::Odd},
-                            {"Even", Dither::Even}};
+constexpr Dither kDithers[] = {Dither::None,        Dither::Binary,       Dither::Ordered,    Dither::Haftone,
+                               Dither::ForwardDiag, Dither::BackwardDiag, Dither::Horizontal, Dither::Vertical,
+                               Dither::Odd,         Dither::Even};
 const std::span kSpreading = std::span(kDithers).subspan(2);
 
 std::array<double, 3> meanOf(const IndexedPicture& picture)
@@ -50,25 +39,25 @@ TEST(Dither, AnEvenAreaKeepsItsMean)
                                 fixedColours(256),
                                 greyRamp(4),
                                 {0x000000, 0x1020F0, 0xE04010, 0x20C030, 0xFFFFFF}};
-    for (const Row& row : kSpreading)
+    for (const Dither dither : kSpreading)
         for (const Palette& palette : palettes)
             for (const int tone : {40, 100, 127, 128, 160, 201}) {
                 const auto level = static_cast<std::uint8_t>(tone);
-                const auto mean = meanOf(dithered(flatBits(64, 64, level, level, level), palette, row.dither));
-                for (const double m : mean) EXPECT_NEAR(tone, m, 3) << row.name << ", colours " << palette.size();
+                const auto mean = meanOf(dithered(flatBits(64, 64, level, level, level), palette, dither));
+                for (const double m : mean) EXPECT_NEAR(tone, m, 3) << int(dither) << ", colours " << palette.size();
             }
 }
 
 TEST(Dither, ColoursTooAndPaletteColoursStayPure)
 {
     const Palette cube = webSafeColours();
-    for (const Row& row : kSpreading) {
-        const auto mean = meanOf(dithered(flatBits(64, 64, 30, 120, 200), cube, row.dither));
-        EXPECT_NEAR(30, mean[0], 3) << row.name;
-        EXPECT_NEAR(120, mean[1], 3) << row.name;
-        EXPECT_NEAR(200, mean[2], 3) << row.name;
-        const IndexedPicture pure = dithered(flatBits(16, 16, 51, 102, 255), cube, row.dither);
-        EXPECT_EQ(1U, std::set(pure.indices.begin(), pure.indices.end()).size()) << row.name;
+    for (const Dither dither : kSpreading) {
+        const auto mean = meanOf(dithered(flatBits(64, 64, 30, 120, 200), cube, dither));
+        EXPECT_NEAR(30, mean[0], 3) << int(dither);
+        EXPECT_NEAR(120, mean[1], 3) << int(dither);
+        EXPECT_NEAR(200, mean[2], 3) << int(dither);
+        const IndexedPicture pure = dithered(flatBits(16, 16, 51, 102, 255), cube, dither);
+        EXPECT_EQ(1U, std::set(pure.indices.begin(), pure.indices.end()).size()) << int(dither);
     }
 }
 
@@ -77,13 +66,13 @@ TEST(Dither, EachDiffersFromEachOnARamp)
     Bits ramp(256, 64);
     for (int y = 0; y < 64; ++y)
         for (int x = 0; x < 256; ++x) ramp.at(x, y) = pixelFor(colourOf(1, 1, 1) * x);
-    std::map<std::string, std::vector<std::uint8_t>> results;
-    for (const Row& row : kDithers) results[row.name] = dithered(ramp, greyRamp(4), row.dither).indices;
+    std::map<Dither, std::vector<std::uint8_t>> results;
+    for (const Dither dither : kDithers) results[dither] = dithered(ramp, greyRamp(4), dither).indices;
     for (const auto& [a, first] : results)
         for (const auto& [b, second] : results) {
             int differ = 0;
             for (std::size_t i = 0; i < first.size(); ++i) differ += first[i] != second[i];
-            EXPECT_TRUE(a == b || differ > 256 * 64 / 10) << a << " and " << b << ": " << differ;
+            EXPECT_TRUE(a == b || differ > 256 * 64 / 10) << int(a) << " and " << int(b) << ": " << differ;
         }
 }
 
@@ -126,9 +115,9 @@ TEST(Dither, TheErrorGoesWhereItsNameSays)
 
 TEST(Dither, TheSmallestAndTheThinnest)
 {
-    for (const Row& row : kDithers)
+    for (const Dither dither : kDithers)
         for (const auto [w, h] : {std::array{1, 1}, {1, 50}, {50, 1}, {2, 2}})
-            EXPECT_EQ(std::size_t(w * h), dithered(randomBits(w, h, 2), vgaColours(), row.dither).indices.size());
+            EXPECT_EQ(std::size_t(w * h), dithered(randomBits(w, h, 2), vgaColours(), dither).indices.size());
 }
 
 TEST(Palettes, AnEvenSpreadForEveryCount)

@@ -124,14 +124,13 @@ TEST_F(Selection, FilesAreTheWordsAndNothingElse)
     EXPECT_EQ(other.RegionScaled(), s.Region().scaled(2));
     EXPECT_FALSE(other.SaveToFile("/nowhere/at/all.rgn"));
 
-    const auto write = [&](const QByteArray& bytes) { putFile(path, bytes); };
-    QByteArray lying(reinterpret_cast<const char*>(words.data()), 4 * static_cast<int>(words.size()));
-    for (const QByteArray& bytes : {QByteArray(), QByteArray("abc"), lying.left(70), QByteArray(5000, '\xff')}) {
-        write(bytes);
+    const QByteArray whole(reinterpret_cast<const char*>(words.data()), 4 * static_cast<int>(words.size()));
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("abc"), whole.left(70), QByteArray(5000, '\xff')}) {
+        putFile(path, bytes);
         EXPECT_FALSE(other.LoadFromFile(path));
         EXPECT_EQ(other.Region(), s.Region()); // a bad file loses nothing
     }
-    write(lying + "xy"); // odd length: the whole words count
+    putFile(path, whole + "xy"); // odd length: the whole words count
     EXPECT_TRUE(other.LoadFromFile(path));
     EXPECT_EQ(other.GetData(), words);
 }

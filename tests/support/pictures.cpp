@@ -1,5 +1,5 @@
 #include "support/pictures.h"
-#include <QRegion>
+#include <algorithm>
 #include <random>
 
 namespace velara {
@@ -8,13 +8,13 @@ Bits randomBits(int width, int height, std::uint32_t seed)
 {
     std::mt19937 random(seed);
     Bits bits(width, height);
-    std::uint8_t* byte = bits.data();
-    for (std::size_t i = 0; i < bits.sizeInBytes(); ++i) byte[i] = static_cast<std::uint8_t>(random());
+    std::generate_n(bits.data(), bits.sizeInBytes(), [&] { return static_cast<std::uint8_t>(random()); });
     return bits;
 }
 
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth)
 {
+<<<<<<< HEAD
     return drawnBits(width, height, [&](int, int) { return Pixel{{blue, green, red, fourth}}; });
 }
 
@@ -24,22 +24,11 @@ Bits plain(const Bits& bits)
         const Pixel& p = bits.at(x, y);
         return Pixel{{p.c[0], p.c[1], p.c[2], 0}};
     });
-}
-
-Region randomRegion(int width, int height, std::uint32_t seed)
-{
-    std::mt19937 random(seed);
-    const auto within = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
-    QRegion region;
-    for (int i = within(1, 4); i > 0; --i) {
-        const int x = within(-3, width), y = within(-3, height);
-        const QRect box(x, y, within(1, width), within(1, height));
-        region += QRegion(box, within(0, 1) ? QRegion::Ellipse : QRegion::Rectangle);
-    }
-    Region made = Region::rectangle(0, 0, 0, 0);
-    for (const QRect& r : region)
-        made = made.combined(Region::rectangle(r.left(), r.top(), r.right() + 1, r.bottom() + 1), Combine::Or);
-    return made;
+=======
+    Bits bits(width, height);
+    for (int y = 0; y < height; ++y) std::fill_n(bits.row(y), width, Pixel{{blue, green, red, fourth}});
+    return bits;
+>>>>>>> lean-d
 }
 
 ::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got)

@@ -21,8 +21,6 @@ template <class PixelAt> Bits drawnBits(int width, int height, PixelAt pixelAt)
 }
 /// What files and the clipboard give back of a picture: no margin, no fourth byte.
 Bits plain(const Bits& bits);
-/// A random union of rectangles and ellipses that may stick out of the picture a little.
-Region randomRegion(int width, int height, std::uint32_t seed);
 
 /// The pixel as a screen shows it, 0xRRGGBB.
 inline std::uint32_t colourAt(const Bits& bits, int x, int y)

@@ -80,6 +80,10 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
         {"a", 100, 100, 1, 1}, // asked for, however small
         {"a", 100, 100, 0, 1},
         {"", 100, 100, 20, 20},
+        {"", 8, 100, 20, 0}, // nothing is left between the margins
+        {"", 100, 8, 20, 0},
+        {"", 9, 9, 20, 20},
+        {"a", 9, 9, 20, 0}, // no size fits into one pixel
     };
     for (const auto& c : cases) {
         const auto layout = layOut({c.text, c.width, c.height, 4, LeftJustify, kNoShadow, c.wanted});
@@ -89,14 +93,6 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
         }
     }
     EXPECT_EQ("14,4:a | 4,26:unbreakable", lines({"a unbreakable", 28, 100, 4, RightJustify, kNoShadow, 20}));
-}
-
-TEST_F(TextTest, MarginOfHalfThePictureIsRefused)
-{
-    EXPECT_EQ("refused", lines({"", 8, 100}));
-    EXPECT_EQ("refused", lines({"", 100, 8}));
-    EXPECT_EQ("", lines({"", 9, 9}));
-    EXPECT_EQ("refused", lines({"a", 9, 9})); // no size fits into one pixel
 }
 
 TEST_F(TextTest, LongTextsEndSoon)

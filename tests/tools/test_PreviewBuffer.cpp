@@ -14,51 +14,39 @@ struct Preview : ::testing::Test {
     PreviewBuffer preview{document, filter};
     std::mt19937 random{9};
 
-    void open(int width, int height, std::uint32_t seed)
+    Preview()
     {
-        document.takePicture(randomBits(width, height, seed));
+        document.takePicture(randomBits(200, 150, 1));
         document.handTo(filter);
+    }
+    void change(int y, int x0, int x1)
+    {
+        for (int x = x0; x < x1; ++x) document.edit().at(x, y).c[1] ^= 0x55;
+        document.touched.fit(200, 150);
+        document.touched.mark(y, x0, x1);
     }
     void paint()
     {
         const int x = static_cast<int>(random() % 200), y = static_cast<int>(random() % 150);
-        const int end = std::min(200, x + 1 + static_cast<int>(random() % 90));
-        for (int i = x; i < end; ++i) document.edit().at(i, y).c[1] ^= 0x55;
-        document.touched.fit(200, 150);
-        document.touched.mark(y, x, end);
+        change(y, x, std::min(200, x + 1 + static_cast<int>(random() % 90)));
     }
-    const std::uint8_t* shown() { return document.bits().data(); }
 };
 
 TEST_F(Preview, RestoresAndCommitsAsAWholeCopyWould)
 {
-    open(200, 150, 1);
     Bits committed = document.bits();
     for (int step = 0; step < 300; ++step) {
         preview.begin();
         for (int i = random() % 4; i > 0; --i) paint();
-        switch (random() % 6) {
-        case 0:
+        const unsigned kind = random() % 6; // 0 commits; 1: a command between; 2, 3: only one of the two replaced
+        if (kind == 3) document.setBits(randomBits(200, 150, random()));
+        if (kind == 0 || kind == 3) {
             preview.commit();
             committed = document.bits();
-            break;
-        case 1: // a command between
+        } else if (kind < 3) {
             committed = randomBits(200, 150, random());
             filter.setBits(committed);
-            document.setBits(committed);
-            break;
-        case 2: // only one of the two was replaced
-            committed = randomBits(200, 150, random());
-            filter.setBits(committed);
-            preview.restore();
-            break;
-        case 3:
-            document.setBits(randomBits(200, 150, random()));
-            preview.commit();
-            committed = document.bits();
-            break;
-        default:
-            preview.restore();
+            if (kind == 1) document.setBits(committed);
         }
         preview.restore();
         ASSERT_TRUE(sameBits(committed, document.bits())) << step;
@@ -68,9 +56,8 @@ TEST_F(Preview, RestoresAndCommitsAsAWholeCopyWould)
 
 TEST_F(Preview, BothBlocksStayWhereTheyAre)
 {
-    open(200, 150, 2);
     preview.begin();
-    const std::uint8_t *a = shown(), *b = std::as_const(filter).bits().data();
+    const std::uint8_t *a = std::as_const(document).bits().data(), *b = std::as_const(filter).bits().data();
     EXPECT_NE(a, b);
     for (int stroke = 0; stroke < 5; ++stroke) {
         preview.begin();
@@ -87,12 +74,9 @@ TEST_F(Preview, BothBlocksStayWhereTheyAre)
 
 TEST_F(Preview, WhatIsToBeShownCoversEveryRestoreSinceTheLast)
 {
-    open(200, 150, 5);
     preview.begin();
     for (const int y : {20, 120}) {
-        document.touched.fit(200, 150);
-        document.edit().at(50, y).c[0] ^= 1;
-        document.touched.mark(y, 50, 51);
+        change(y, 50, 51);
         preview.restore();
     }
     const Rect shown = preview.takeRestored();
@@ -102,7 +86,6 @@ TEST_F(Preview, WhatIsToBeShownCoversEveryRestoreSinceTheLast)
 
 TEST_F(Preview, AnEngineWithAnotherDocumentsPictureIsGivenThisOne)
 {
-    open(200, 150, 3);
     const Bits before = document.bits();
     filter.setBits(randomBits(10, 10, 4));
     preview.restore();

@@ -53,16 +53,6 @@ TEST_F(SelectTool, PixelsAreTakenAsTheyArePassed)
     EXPECT_EQ(rects(), (Words{3, 3, 4, 4, 9, 9, 10, 10}));
 }
 
-TEST_F(SelectTool, TwoCornersAreNoPolygon)
-{
-    frame.setup_.SelectionShape = 2;
-    press({10, 10});
-    move({30, 10});
-    tools->keyDown(Tools::Space);
-    release({30, 10});
-    EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})) << "it stays open";
-}
-
 TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
 {
     frame.setup_.SelectionShape = 2;
@@ -84,8 +74,11 @@ TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
 TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
 {
     frame.setup_.SelectionShape = 2;
-    drag({{10, 10}, {30, 10}});
-    EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})); // stays open
+    press({10, 10});
+    move({30, 10});
+    tools->keyDown(Tools::Space);
+    release({30, 10});
+    EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})) << "two corners enclose nothing: it stays open";
     frame.setup_.SelectionMode = 2;
     drag({{0, 0}, {30, 40}}); // goes on from the last corner, wherever the press is
     EXPECT_EQ(tools->ToolPoints().size(), 6u);
@@ -95,10 +88,7 @@ TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
     EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40, 14, 10}));
     EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
 
-    drag({{1, 1}, {5, 1}}); // an open one goes away by the right button, and by another shape
-    tools->release(Tools::Right, 5, 1);
-    EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
-    drag({{1, 1}, {5, 1}});
+    drag({{1, 1}, {5, 1}}); // an open one goes away by another shape
     frame.setup_.SelectionShape = 0;
     drag({{2, 2}, {4, 4}});
     EXPECT_EQ(rects(), (Words{2, 2, 4, 4}));
@@ -138,9 +128,7 @@ TEST_F(SelectTool, ClicksSetCornersAndEnterOrADoubleClickClosesThePolygon)
 
 TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
 {
-    const auto otherTool = [this] { choose("Brush"); };
-    const auto otherShape = [this] { frame.setup_.SelectionShape = 1; };
-    for (const std::function<void()>& change : std::initializer_list<std::function<void()>>{otherTool, otherShape}) {
+    for (const bool otherTool : {true, false}) {
         choose("Select");
         frame.setup_.SelectionShape = 2;
         document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
@@ -149,7 +137,10 @@ TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
         tools->toolChosen();
         EXPECT_EQ(tools->ToolPoints().size(), 4u) << "the same tool chosen again";
         asked();
-        change();
+        if (otherTool)
+            choose("Brush");
+        else
+            frame.setup_.SelectionShape = 1;
         tools->toolChosen();
         EXPECT_EQ(asked().substr(0, 6), "hide 2");
         EXPECT_EQ(rects(), (Words{2, 2, 9, 9}));
@@ -157,34 +148,41 @@ TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
     }
 }
 
-TEST_F(SelectTool, EscapeDropsAnyGestureAndWhatItChanged)
+TEST_F(SelectTool, EscapeAndTheRightButtonDropAnyGestureAndWhatItChanged)
 {
-    struct Row {
+    const struct {
         const char* tool;
-        int shape;
+        std::int16_t shape;
         bool released;
-    };
-    for (const Row& row : {Row{"Select", 0, false}, Row{"Select", 1, false}, Row{"Select", 2, false},
-                           Row{"Select", 2, true}, Row{"Select", 3, false}, Row{"SelectionMove", 0, false},
-                           Row{"GetColor", 0, false}, Row{"Gradient", 0, false}}) {
-        choose(row.tool);
-        frame.setup_.SelectionShape = static_cast<std::int16_t>(row.shape);
-        frame.setup_.ForeColor = 0x123456;
-        document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
-        const Bits before = document.bits();
-        press({4, 4});
-        move({20, 30});
-        if (row.released) release({20, 30});
-        EXPECT_NE(frame.status[Panel::Hint], "") << row.tool;
-        EXPECT_TRUE(tools->keyDown(Tools::Escape)) << row.tool << row.shape;
-        EXPECT_EQ(frame.status[Panel::Hint], "") << row.tool;
-        move({25, 35});
-        release({25, 35});
-        EXPECT_EQ(rects(), (Words{2, 2, 9, 9})) << row.tool << row.shape;
-        EXPECT_EQ(frame.setup_.ForeColor, 0x123456);
-        EXPECT_TRUE(document.bits() == before) << row.tool;
-        EXPECT_FALSE(tools->keyDown(Tools::Escape)) << row.tool << row.shape;
-    }
+    } rows[] = {{"Select", 0, false}, {"Select", 1, false},        {"Select", 2, false},   {"Select", 2, true},
+                {"Select", 3, false}, {"SelectionMove", 0, false}, {"GetColor", 0, false}, {"Gradient", 0, false},
+                {"Shape", 0, false},  {"Text", 0, false}};
+    frame.toolStores_.text = randomBits(10, 8, 4);
+    const Bits before = document.bits();
+    for (const auto& row : rows)
+        for (const bool byKey : {true, false}) {
+            SCOPED_TRACE(std::string(row.tool) + std::to_string(row.shape) + (byKey ? " by Escape" : ""));
+            choose(row.tool);
+            frame.setup_.SelectionShape = row.shape;
+            frame.setup_.ForeColor = 0x123456;
+            document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
+            press({4, 4});
+            move({20, 30});
+            if (row.released) release({20, 30});
+            EXPECT_NE(frame.status[Panel::Hint], "");
+            if (byKey)
+                EXPECT_TRUE(tools->keyDown(Tools::Escape));
+            else
+                tools->release(Tools::Right, 20, 30);
+            EXPECT_EQ(frame.status[Panel::Hint], "");
+            EXPECT_FALSE(tools->ToolDown());
+            move({25, 35}); // the left button is still down
+            release({25, 35});
+            EXPECT_EQ(rects(), (Words{2, 2, 9, 9}));
+            EXPECT_EQ(frame.setup_.ForeColor, 0x123456);
+            EXPECT_TRUE(sameBits(before, document.bits()));
+            EXPECT_FALSE(tools->keyDown(Tools::Escape)) << "nothing under way: somebody else's key";
+        }
     EXPECT_EQ(frame.snapshots, 0);
 }
 

@@ -38,18 +38,14 @@ struct UndoStoreTest : ::testing::Test {
         for (int i = first; i < first + count; ++i) store.save(picture(i));
         ASSERT_TRUE(store.stands());
     }
-    void expectUndo(const Bits& wanted, bool passedOver)
+    void expectStep(bool back, const Bits& wanted, bool passedOver)
     {
-        EXPECT_TRUE(store.canUndo());
-        EXPECT_TRUE(sameBits(wanted, store.undo().value_or(Bits())));
+        EXPECT_TRUE(back ? store.canUndo() : store.canRedo());
+        EXPECT_TRUE(sameBits(wanted, (back ? store.undo() : store.redo()).value_or(Bits())));
         EXPECT_EQ(passedOver, store.passedOver());
     }
-    void expectRedo(const Bits& wanted, bool passedOver)
-    {
-        EXPECT_TRUE(store.canRedo());
-        EXPECT_TRUE(sameBits(wanted, store.redo().value_or(Bits())));
-        EXPECT_EQ(passedOver, store.passedOver());
-    }
+    void expectUndo(const Bits& wanted, bool passedOver = false) { expectStep(true, wanted, passedOver); }
+    void expectRedo(const Bits& wanted, bool passedOver = false) { expectStep(false, wanted, passedOver); }
     void expectCounters(int step, int top) const
     {
         EXPECT_EQ(step, store.UndoStep());
@@ -61,13 +57,9 @@ TEST_F(UndoStoreTest, AFileIsABitmapHeaderAndTheBlock)
 {
     const Bits bits = randomBits(3, 2, 1);
     ASSERT_TRUE(save(bits));
-    QByteArray wanted = QByteArray::fromHex("28000000"
-                                            "07000000"
-                                            "faffffff"
-                                            "0100"
-                                            "2000") +
-                        QByteArray(24, '\0');
-    wanted += QByteArray(reinterpret_cast<const char*>(bits.data()), static_cast<int>(bits.sizeInBytes()));
+    const QByteArray header = QByteArray::fromHex("28000000 07000000 faffffff 0100 2000") + QByteArray(24, '\0');
+    const QByteArray wanted =
+        header + QByteArray(reinterpret_cast<const char*>(bits.data()), static_cast<int>(bits.sizeInBytes()));
     EXPECT_EQ(wanted, content("b000300.dat"));
 }
 
@@ -85,17 +77,17 @@ TEST_F(UndoStoreTest, StepsBackAndForward)
     EXPECT_FALSE(store.redo());
     saveMany(1, 2);
     expectCounters(3, 3);
-    EXPECT_TRUE(sameBits(picture(1), store.undo().value()));
-    EXPECT_TRUE(sameBits(picture(0), store.undo().value()));
+    expectUndo(picture(1));
+    expectUndo(picture(0));
     EXPECT_FALSE(store.undo());
     expectCounters(1, 3);
-    EXPECT_TRUE(sameBits(picture(1), store.redo().value()));
+    expectRedo(picture(1));
     expectCounters(2, 3);
     saveMany(7, 1); // an edit here cuts what could be redone
     expectCounters(3, 3);
     EXPECT_FALSE(store.redo());
-    EXPECT_TRUE(sameBits(picture(1), store.undo().value()));
-    EXPECT_TRUE(sameBits(picture(7), store.redo().value()));
+    expectUndo(picture(1));
+    expectRedo(picture(7));
 }
 
 TEST_F(UndoStoreTest, TenSnapshotsStand)
@@ -198,18 +190,18 @@ TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
         EXPECT_FALSE(store.canRedo());
         EXPECT_TRUE(sameBits(picture(1), store.previous().value_or(Bits())));
         expectUndo(picture(1), true);
-        expectRedo(first, false);
+        expectRedo(first);
         expectUndo(picture(1), true);
-        expectUndo(picture(0), false);
-        expectRedo(picture(1), false);
-        expectRedo(first, false);
+        expectUndo(picture(0));
+        expectRedo(picture(1));
+        expectRedo(first);
         EXPECT_FALSE(save(second));
         EXPECT_FALSE(store.previous()) << "the first is lost";
         expectUndo(picture(1), true);
         expectRedo(second, true);
     }
     saveMany(3, 1); // there is room again, for the one in memory too
-    expectUndo(second, false);
+    expectUndo(second);
     expectUndo(picture(1), true);
     expectRedo(second, true);
     EXPECT_TRUE(store.mayHaveChanged());
@@ -225,23 +217,23 @@ TEST_F(UndoStoreTest, ALostFirstSnapshotCountsAsAChange)
         EXPECT_TRUE(store.mayHaveChanged());
     }
     saveMany(1, 1);
-    expectUndo(picture(0), false);
+    expectUndo(picture(0));
 }
 
 TEST_F(UndoStoreTest, AFileThatWentAwayIsPassedOver)
 {
     saveMany(0, 4);
     QFile::remove(path("b000301.dat"));
-    expectUndo(picture(2), false);
+    expectUndo(picture(2));
     expectUndo(picture(0), true);
     expectRedo(picture(2), true);
     QDir(folder.path()).removeRecursively();
     EXPECT_FALSE(store.undo());
     expectCounters(3, 4);
     EXPECT_TRUE(save(picture(7))) << "the folder is made anew";
-    EXPECT_EQ(0077, QFile::permissions(folder.path()) & 0077 ? 0 : 0077) << "for its owner alone";
-    EXPECT_EQ(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser,
-              QFile::permissions(path("b000303.dat")));
+    const QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(owner | QFile::ExeOwner | QFile::ExeUser, QFile::permissions(folder.path())) << "for its owner alone";
+    EXPECT_EQ(owner, QFile::permissions(path("b000303.dat")));
 }
 
 TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
@@ -250,7 +242,7 @@ TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
     for (int i = 0; i < 30; ++i) {
         store.save(i % 3 ? picture(i) : large);
         if (i == 20) {
-            EXPECT_TRUE(sameBits(picture(19), store.undo().value()));
+            expectUndo(picture(19));
         }
     }
     expectCounters(10, 10);
@@ -275,7 +267,7 @@ TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
     EXPECT_EQ(3, files().size());
     second.deleteSeries();
     EXPECT_EQ(QStringList({QStringLiteral("b000300.dat"), QStringLiteral("b000301.dat")}), files());
-    expectUndo(picture(0), false);
+    expectUndo(picture(0));
 
     QFile::remove(path("b0003.lock")); // swept away: another program can have the number now, and then it is not ours
     UndoStore heir(folder.path(), 3);
@@ -319,7 +311,7 @@ TEST_F(UndoStoreTest, ALinkInThePlaceOfAFileIsNotFollowed)
     ASSERT_EQ(0, ::link(victim.toUtf8().constData(), path("b000303.dat").toUtf8().constData()));
     saveMany(3, 1);
     EXPECT_EQ(before, fileBytes(victim));
-    expectUndo(picture(2), false);
+    expectUndo(picture(2));
 }
 
 TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsNothing)
