@@ -1,7 +1,6 @@
 // Small pictures and an exact comparer for tests.
 #pragma once
 #include "pixels/Bits.h"
-#include "region/Region.h"
 #include <cstdint>
 #include <gtest/gtest.h>
 

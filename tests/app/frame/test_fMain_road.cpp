@@ -4,6 +4,7 @@
 #include "app/frame/frameTest.h"
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
+#include "document/resizing.h"
 #include <QtWidgets>
 #include <set>
 
@@ -252,6 +253,42 @@ TEST_F(Road, WhateverHappensWhileAWordYieldsEachDocumentKeepsItsOwn)
     EXPECT_GT(words, 130);
     EXPECT_EQ(withoutYield, kWithoutYield);
     EXPECT_EQ(asBefore, kAsBefore);
+}
+
+/// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
+TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
+{
+    ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)) && frame->openPicture(file("b.bmp", 50, 40)));
+    fImage *a = frame->documents()[0], *b = frame->documents()[1];
+    frame->filter().clock = [this] { return platform.now += 20; };
+    Document turned({}, 0);
+    turned.takePicture(a->bits());
+    cBitFilter engine;
+    turned.handTo(engine);
+    rotateImage(turned, engine, -180, true);
+    const Bits untouched = b->bits();
+    Bits line;
+    activate(a);
+    click("Pencil");
+    platform.onYield = [&, left = 20]() mutable {
+        if (--left != 0) return;
+        activate(b);
+        drag(b, {5, 5}, {30, 20});
+        line = b->bits();
+    };
+    frame->Mmenu("A180");
+    platform.onYield = nullptr;
+    EXPECT_TRUE(sameBits(turned.bits(), a->bits()));
+    EXPECT_TRUE(sameBits(line, b->bits()));
+    EXPECT_FALSE(line == untouched);
+    drag(b, {5, 30}, {30, 30});
+    EXPECT_FALSE(line == b->bits());
+    EXPECT_EQ(a->document().undo.UndoStep(), 2);
+    EXPECT_EQ(b->document().undo.UndoStep(), 3);
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(line, b->bits()));
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(sameBits(untouched, b->bits()));
 }
 
 } // namespace velara
