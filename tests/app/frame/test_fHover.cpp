@@ -1,11 +1,8 @@
 // The pop-up of a tool: beside the buttons, with no tool tip on it.
-#include "app/frame/fHover.h"
-#include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
 #include "app/start/fSplash.h"
 #include "tools/toolRows.h"
-#include "ui/panes/fToolPanes.h"
 #include <QtTest>
 #include <QtWidgets>
 #include <set>

@@ -1,11 +1,8 @@
 // The frame: the command language, what each command asks and says, and what it leaves behind.
-#include "app/documents/fDocumentWindow.h"
 #include "app/frame/fStatus.h"
-#include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
-#include "engine/operations.h"
 #include "pixels/RuntimeError.h"
 #include "tools/toolRows.h"
 #include <QtTest>

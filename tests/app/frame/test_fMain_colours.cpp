@@ -1,7 +1,5 @@
 // The floating colour box in the real frame, and the picker behind the wells.
-#include "app/frame/fToolPane.h"
-#include "frameTest.h"
-#include "support/ui/controls.h"
+#include "app/frame/frameTest.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPickSurface.h"

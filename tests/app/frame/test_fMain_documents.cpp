@@ -1,6 +1,5 @@
 // The windows of the documents: size, name, mark, focus, and what stands where there is none.
 #include "app/frame/fStatus.h"
-#include "app/frame/fToolPane.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/Boxes.h"
 #include "app/start/fStartPage.h"

@@ -1,7 +1,5 @@
 // Opening, saving, the recent list, drops, clipboard, and the end of the frame.
-#include "app/documents/fDocumentWindow.h"
 #include "app/fStartup.h"
-#include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
@@ -44,19 +42,14 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
 
 TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
-    struct Row {
-        const char* name;
-        bool asks;
-    };
-    for (const Row& row : {Row{"a.bmp", false}, Row{"a.png", false}, Row{"a.ppm", true}}) {
-        const QString name = file(row.name);
-        platform.answers = {name};
+    for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}}) {
+        platform.answers = {file(name)};
         frame->Mmenu("OPEN");
         platform.log.clear();
         frame->documents().last()->document().Changed = true;
         frame->Mmenu("SAVE");
-        EXPECT_EQ(platform.logged("save: Save as"), row.asks) << row.name;
-        EXPECT_EQ(frame->documents().last()->document().Changed, row.asks) << row.name;
+        EXPECT_EQ(platform.logged("save: Save as"), asks) << name;
+        EXPECT_EQ(frame->documents().last()->document().Changed, asks) << name;
     }
     // A new document has no file yet, whatever it is called.
     open(randomBits(4, 4, 1), "New.bmp");

@@ -34,7 +34,6 @@ struct BrowseTest : FrameTest {
 
 TEST_F(BrowseTest, OpensAsOpenDoesAndComesBackToThePlace)
 {
-    setup.OpenZoom = 3;
     frame->run("@BROWSE");
     choose(file("Green.PNG"));
     ASSERT_NE(frame->GetActiveImage(), nullptr);
