@@ -14,7 +14,6 @@ Bits randomBits(int width, int height, std::uint32_t seed)
 
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth)
 {
-<<<<<<< HEAD
     return drawnBits(width, height, [&](int, int) { return Pixel{{blue, green, red, fourth}}; });
 }
 
@@ -24,11 +23,6 @@ Bits plain(const Bits& bits)
         const Pixel& p = bits.at(x, y);
         return Pixel{{p.c[0], p.c[1], p.c[2], 0}};
     });
-=======
-    Bits bits(width, height);
-    for (int y = 0; y < height; ++y) std::fill_n(bits.row(y), width, Pixel{{blue, green, red, fourth}});
-    return bits;
->>>>>>> lean-d
 }
 
 ::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got)
