@@ -1,6 +1,7 @@
 // The texture dialog with real controls, used as a person does.
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
+#include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/ui/WindowTest.h"
 #include "ui/merge/fTexturize.h"
@@ -32,9 +33,7 @@ TEST_F(Texturize, ShowsWhatOkWillDoAndABrokenFileHarmsNothing)
     const auto thumbnail = [&] { return list->item(2)->icon().pixmap(64, 64).toImage().pixelColor(32, 32); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return thumbnail().alpha() == 255; })) << "its thumbnail";
     const auto shownIsDone = [&] {
-        cBitFilter filter;
-        filter.setBits(picture);
-        filter.setBitsRegion(selection);
+        cBitFilter filter = filterOf(picture, selection);
         return sameBits(texturized(filter, dialog.texturing()), find<fPicture>("iBack")->bits());
     };
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());

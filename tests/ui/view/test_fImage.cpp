@@ -122,16 +122,14 @@ TEST_F(Window, UndoShowsTheStepAndReportsTheSize)
     EXPECT_EQ(iDst()->size(), QSize(30, 15));
 }
 
-struct CloseRow {
-    const char* what;
-    bool option, changed, secondStep;
-    const char* answer; // null: no question is expected
-    bool closes, saves;
-};
-
 TEST_F(Window, AsksBeforeAChangedDocumentCloses)
 {
-    const CloseRow rows[] = {
+    const struct {
+        const char* what;
+        bool option, changed, secondStep;
+        const char* answer; // null: no question is expected
+        bool closes, saves;
+    } rows[] = {
         // clang-format off
         {"unchanged",                true,  false, true,  nullptr, true,  false},
         {"nothing committed",        true,  true,  false, nullptr, true,  false},
@@ -141,7 +139,7 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
         {"cancel",                   true,  true,  true,  "",      false, false},
         // clang-format on
     };
-    for (const CloseRow& row : rows) {
+    for (const auto& row : rows) {
         fImage& w = open(randomBits(5, 5, 1));
         w.setTag("/pictures/x.png");
         frame.setup_.AskToSave = row.option;

@@ -25,14 +25,13 @@ struct NumberBox : ::testing::Test {
 
 TEST_F(NumberBox, SliderAndNumberFollowEachOther)
 {
-    struct Case {
+    const struct {
         int low, high;
         fNumberBox::Measure measure;
         const char* typed;
         int position;
         const char* shown; // after Enter
-    };
-    const Case cases[] = {
+    } cases[] = {
         {0, 100, {}, "42", 42, "42"},
         {0, 100, {1, 0, "%"}, "42", 42, "42%"},
         {0, 100, {}, "999", 99, "99"}, // the third figure is refused
@@ -42,7 +41,7 @@ TEST_F(NumberBox, SliderAndNumberFollowEachOther)
         {0, 200, {0.01, 2}, "0,5", 50, "0.50"},
         {0, 200, {0.01, 2}, "7", 60, "0.60"}, // too large: what stood before
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         auto* box = make(c.low, c.high, c.measure);
         slider->setValue(60);
         EXPECT_EQ(box->value(), slider->value());
