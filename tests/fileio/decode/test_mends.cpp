@@ -267,7 +267,7 @@ TEST(CutOff, IsToldInEveryFormatThatTells)
                 << f.extension << percent;
         }
         if (f.format == FIF_JPEG) {
-            EXPECT_TRUE(decodeBytes(whole.substr(0, whole.size() - 2), f.extension).ok()) << "but for its end mark";
+            EXPECT_EQ(decodeBytes(whole.substr(0, whole.size() - 2), f.extension).reason, "") << "but for its end mark";
         }
     }
 }
