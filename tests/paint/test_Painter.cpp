@@ -40,14 +40,15 @@ TEST_F(PainterCases, AStrokeThatStandsStillIsADab)
 
 TEST_F(PainterCases, FillsAtTheirLimits)
 {
+    painter.BitsFill(-1, 3, 0, 765, 100);
+    painter.BitsFill(20, 3, 0, 765, 100);
+    EXPECT_EQ(changed(), 0);
     painter.BitsFill(5, 5, colourOf(109, 91, 100), 765, 100); // within 9 of the seed
     EXPECT_EQ(changed(), 1);
     painter.CreateDoneBitsTable();
     painter.BitsFill(0, 0, 0, 0, 100); // around the odd pixel
     EXPECT_EQ(changed(), 200);
     EXPECT_EQ(bits.at(5, 5), (Pixel{{100, 91, 109, 7}}));
-    painter.BitsFill(-1, 3, 0, 0, 100);
-    painter.BitsFill(20, 3, 0, 0, 100);
 }
 
 TEST_F(PainterCases, APictureIsPaintedOntoItselfAsItWas)

@@ -16,7 +16,7 @@ Bits row(std::initializer_list<Pixel> pixels)
     return bits;
 }
 
-/// Pixels in the very colour that is looked for and beside it, and blends on a tie or at the edge of their reach.
+/// The very colour that is looked for and one beside it, blends on a tie or at the edge of their reach, a gamma of 0.
 TEST(ColourFilters, PixelsAtTheirLimits)
 {
     constexpr Colour kWhite = 0xFFFFFF, kReference = colourOf(30, 20, 10), kGrey = 0x646464, kBlue = 0xEC6464;
@@ -25,6 +25,7 @@ TEST(ColourFilters, PixelsAtTheirLimits)
         Arguments arguments;
         Pixel before, after; // of a picture of this one colour: blue, green, red, fourth
     } rows[] = {
+        {"GammaCorrection", {-100}, {{1, 100, 255, 9}}, {{0, 0, 0, 9}}},
         {"ISOLATE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
         {"ISOLATE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{255, 255, 255, 9}}},
         {"REPLACE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{255, 255, 255, 9}}},
