@@ -14,11 +14,6 @@ void Document::takePicture(const Bits& bits)
     Region.Init(0, 0, bits.width(), bits.height());
 }
 
-void Document::CreateBlank(int width, int height)
-{
-    if (width >= 1 && height >= 1) bits_ = Bits(width, height);
-}
-
 void Document::Clear() { bits_ = Bits(); }
 
 void Document::handTo(cBitFilter& filter) const

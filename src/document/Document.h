@@ -29,8 +29,6 @@ class Document {
     void setBits(const Bits& bits);
     /// Takes the buffer as the picture, whatever there was, and wipes the selection.
     void takePicture(const Bits& bits);
-    /// A black picture; no effect below 1 by 1. Leaves Region alone.
-    void CreateBlank(int width, int height);
     void Clear();
     /// Takes what the engine holds; another size wipes the selection.
     void takeFrom(const cBitFilter& filter);

@@ -85,13 +85,6 @@ SaveResult fImage::Save(const QString& path, const QString& ext)
     return result;
 }
 
-void fImage::CreateBlank(int width, int height)
-{
-    if (width < 1 || height < 1) return;
-    document_.CreateBlank(width, height);
-    layOutView();
-}
-
 void fImage::PPicture(const Bits& picture)
 {
     scrollGuard_ = true;
@@ -102,14 +95,6 @@ void fImage::PPicture(const Bits& picture)
     document_.takePicture(picture);
     document_.Region.setZoomFactor(static_cast<float>(zoom_));
     layOutView();
-}
-
-QImage fImage::ObtainedPic() const
-{
-    if (!PictureExists()) return {};
-    QImage picture(PictureWidth(), PictureHeight(), QImage::Format_RGB32);
-    ViewRenderer().render(document_.bits(), {}, 0, 0, picture);
-    return picture;
 }
 
 void fImage::Clear()

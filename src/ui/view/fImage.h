@@ -10,7 +10,6 @@
 #include "tools/Tools.h"
 #include "ui/view/fBands.h"
 #include "ui/widgets/viewLayout.h"
-#include <QImage>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWidget>
@@ -40,12 +39,8 @@ class fImage final : public QWidget, public ToolSurface {
     const QString& LoadNote() const { return loadNote_; }
     /// Writes the picture in the format of the extension; its notices are shown here.
     SaveResult Save(const QString& path, const QString& ext);
-    /// A black picture; nothing below 1 by 1. Leaves the selection alone.
-    void CreateBlank(int width, int height);
     /// Takes a picture into the document, whatever there was; a null one clears it. The selection is wiped.
     void PPicture(const Bits& picture);
-    /// The picture without its margin, opaque; null without one.
-    QImage ObtainedPic() const;
     /// "640x480", for the status bar.
     QString SizeText() const;
     bool PictureExists() const { return document_.PictureExists(); }

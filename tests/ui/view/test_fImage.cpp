@@ -69,6 +69,15 @@ TEST_F(Window, ZoomIsLimited)
     EXPECT_TRUE(iDst()->isVisible());
 }
 
+TEST_F(Window, BarsAreAtLeastThirteenWide)
+{
+    fImage& w = open(randomBits(9, 9, 1));
+    for (const auto& [asked, got] : {std::pair(13, 13), {5, 13}, {-1, 13}, {14, 14}, {30, 30}}) {
+        w.setBarsWidth(asked);
+        EXPECT_EQ(w.BarsWidth(), got);
+    }
+}
+
 TEST_F(Window, LoadsAndSaysWhatCannotBeRead)
 {
     fImage& w = open(randomBits(4, 4, 1));
