@@ -40,8 +40,8 @@ TEST_F(PainterCases, AStrokeThatStandsStillIsADab)
 
 TEST_F(PainterCases, FillsAtTheirLimits)
 {
-    painter.BitsFill(-1, 3, 0, 765, 100);
-    painter.BitsFill(20, 3, 0, 765, 100);
+    painter.BitsFill(-1, 3, 0xFFFFFF, 765, 100);
+    painter.BitsFill(20, 3, 0xFFFFFF, 765, 100);
     EXPECT_EQ(changed(), 0);
     painter.BitsFill(5, 5, colourOf(109, 91, 100), 765, 100); // within 9 of the seed
     EXPECT_EQ(changed(), 1);
