@@ -1,5 +1,6 @@
 // The desktop's own fonts, whichever they are.
 #include "platform/desktop/QtFonts.h"
+#include "region/Region.h"
 #include "support/pictures.h"
 #include <QtWidgets>
 
