@@ -1,5 +1,4 @@
-// What random pictures don't come to with the colour filters, their measurements and faults, reports, hue and the
-// nearest palette colour.
+// The colour filters by worked examples, their measurements and faults, reports, hue and the nearest palette colour.
 #include "engine/colour/mPalette.h"
 #include "pixels/mHSLRGB.h"
 #include "support/faults.h"
@@ -16,8 +15,9 @@ Bits row(std::initializer_list<Pixel> pixels)
     return bits;
 }
 
-/// The very colour that is looked for and one beside it, blends on a tie or at the edge of their reach, a gamma of 0.
-TEST(ColourFilters, PixelsAtTheirLimits)
+/// By hand, so that the definitions are held too; and what random pictures don't come to: the very colour that is
+/// looked for and one beside it, blends on a tie or at the edge of their reach.
+TEST(ColourFilters, WorkedExamples)
 {
     constexpr Colour kWhite = 0xFFFFFF, kReference = colourOf(30, 20, 10), kGrey = 0x646464, kBlue = 0xEC6464;
     const struct {
@@ -25,7 +25,27 @@ TEST(ColourFilters, PixelsAtTheirLimits)
         Arguments arguments;
         Pixel before, after; // of a picture of this one colour: blue, green, red, fourth
     } rows[] = {
+        {"BRIGHTNESS", {-15}, {{10, 20, 250, 9}}, {{0, 5, 235, 9}}},
+        {"CONTRAST", {0}, {{7, 99, 201, 9}}, {{7, 99, 201, 9}}},
+        {"CONTRAST", {100}, {{10, 20, 30, 9}}, {{0, 20, 40, 9}}},
+        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}}, // blue is 60 too low: both others give 30
+        {"CONTRAST", {250}, {{255, 0, 0, 9}}, {{255, 0, 0, 9}}},
+        {"SATURATION", {-100}, {{10, 20, 31, 9}}, {{20, 20, 20, 9}}},
+        {"SATURATION", {100}, {{10, 20, 31, 9}}, {{0, 20, 42, 9}}},
+        {"SATURATION", {50}, {{10, 19, 31, 9}}, {{5, 18, 36, 9}}}, // 5, 18.5, 36.5
+        {"GammaCorrection", {0}, {{1, 100, 255, 9}}, {{1, 100, 255, 9}}},
         {"GammaCorrection", {-100}, {{1, 100, 255, 9}}, {{0, 0, 0, 9}}},
+        {"COLORIZE", {0.0, 0.0, 1.0}, {{10, 20, 30, 9}}, {{20, 20, 20, 9}}},
+        {"COLORIZE", {2.0, 1.0, 0.5}, {{255, 255, 255, 9}}, {{0, 255, 0, 9}}},
+        {"GreyScale", {}, {{10, 20, 30, 9}}, {{22, 22, 22, 9}}}, // 21.51
+        {"OLDPHOTO", {}, {{10, 20, 30, 9}}, {{10, 22, 22, 9}}},
+        {"KillChannel", {true, false, false}, {{10, 20, 30, 9}}, {{10, 20, 0, 9}}},
+        {"SpecialColors", {true, false, false}, {{10, 20, 30, 9}}, {{0, 0, 30, 9}}},
+        {"Threshold", {20}, {{20, 20, 22, 9}}, {{0, 0, 0, 9}}},
+        {"Threshold", {20}, {{21, 21, 21, 9}}, {{255, 255, 255, 9}}},
+        {"Reduction", {0}, {{1, 100, 255, 9}}, {{1, 100, 255, 9}}},
+        {"Reduction", {255}, {{128, 129, 255, 9}}, {{0, 255, 255, 9}}},
+        {"ShiftRGB", {1, 2, 3}, {{10, 20, 255, 9}}, {{13, 22, 255, 9}}},
         {"ISOLATE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
         {"ISOLATE", {kReference, kWhite, 0}, {{10, 21, 30, 9}}, {{255, 255, 255, 9}}},
         {"REPLACE", {kReference, kWhite, 0}, {{10, 20, 30, 9}}, {{255, 255, 255, 9}}},
@@ -36,6 +56,16 @@ TEST(ColourFilters, PixelsAtTheirLimits)
         {"ReplaceHS", {kGrey, 0x6464FF, 600, 100, 1000}, {{0, 0, 255, 9}}, {{97, 97, 255, 9}}}, // just within reach
         {"Shift", {kReference, 50, 0}, {{10, 20, 30, 9}}, {{60, 70, 80, 9}}},
         {"Shift", {kReference, 50, 0}, {{11, 20, 30, 9}}, {{11, 20, 30, 9}}},
+        {"RotateH", {0, 0}, {{10, 20, 30, 9}}, {{20, 20, 20, 9}}},
+        {"RotateL", {0, 0}, {{10, 20, 30, 9}}, {{128, 128, 128, 9}}}, // 127.5
+        {"SwapRGB", {0, 1, 2, true, false, false, 0, 0, 255}, {{10, 20, 30, 9}}, {{0, 20, 245, 9}}},
+        {"SwapBanks", {1}, {{10, 20, 30, 9}}, {{20, 30, 10, 9}}},
+        {"SwapBanks", {2}, {{10, 20, 30, 9}}, {{30, 10, 20, 9}}},
+        {"SwapBanks", {5}, {{10, 20, 30, 9}}, {{10, 30, 20, 9}}},
+        {"SwapBanks", {6}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
+        {"ClassyColors", {7}, {{10, 20, 30, 9}}, {{17, 27, 7, 9}}},
+        {"ClassyColors", {7}, {{0, 255, 0, 9}}, {{0, 1, 1, 9}}}, // 256 wraps
+        {"ClassyColors", {11}, {{10, 20, 30, 9}}, {{20, 10, 170, 9}}},
         {"Equalize", {}, {{64, 64, 64, 9}}, {{129, 129, 129, 9}}}, // the median is one less than the only grey
     };
     for (const auto& r : rows) {

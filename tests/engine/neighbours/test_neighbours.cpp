@@ -1,10 +1,61 @@
-// Masks that can't be read, and the division of neighbourhood filters.
+// Neighbourhood filters: values worked out by hand, masks that can't be read, the division.
 #include "engine/ShortDivider.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
 
 namespace velara {
 namespace {
+
+/// 10 20 30 / 40 55 60 / 70 80 200 in every channel, the fourth byte 7.
+Bits nineValues()
+{
+    static constexpr int values[3][3] = {{10, 20, 30}, {40, 55, 60}, {70, 80, 200}};
+    return drawnBits(3, 3, [](int x, int y) {
+        const auto v = static_cast<std::uint8_t>(values[y][x]);
+        return Pixel{{v, v, v, 7}};
+    });
+}
+
+TEST(Neighbours, TheCentreOfNineValues)
+{
+    const std::string cross = "0 1 0/1 4 1/0 1 0", above = "0 1 0/0 0 0/0 0 0", right = "0 0 0/0 0 1/0 0 0";
+    const struct {
+        std::string_view operation;
+        Arguments arguments;
+        Pixel wanted;
+    } rows[] = {
+        {"SHARPEN", {8}, {{53, 53, 53, 7}}},     // (55*116 - 2*510) \ 100
+        {"SOFTEN", {100}, {{51, 51, 51, 7}}},    // (55 + 200) \ 5
+        {"EDGEENHANCE", {9}, {{48, 48, 48, 7}}}, // (55*18 - 510) \ 10
+        {"Blurs", {1}, {{63, 63, 63, 7}}},       // 510 \ 8
+        {"Blurs", {0}, {{55, 55, 55, 7}}},
+        {"DILATE", {}, {{200, 200, 200, 7}}},
+        {"ERODE", {}, {{10, 10, 10, 7}}},
+        {"RankFilterN4", {0}, {{20, 20, 20, 7}}},
+        {"RankFilterN4", {1}, {{80, 80, 80, 7}}},
+        {"RankFilterND", {0}, {{10, 10, 10, 7}}},
+        {"RankFilterND", {1}, {{200, 200, 200, 7}}},
+        {"RankFilterND", {-1}, {{55, 55, 55, 7}}},          // a margin of 2: nothing is left
+        {"CONTOUR", {186, 0x010203}, {{185, 185, 185, 7}}}, // 8*55 - 510 + 255
+        {"CONTOUR", {185, 0x010203}, {{1, 2, 3, 7}}},
+        {"CONTOUR", {0, 0x010203}, {{1, 2, 3, 7}}},
+        {"EMBOSS", {10}, {{17, 17, 17, 7}}}, // abs(55 - 200 + 128)
+        {"ENGRAVE", {10}, {{255, 255, 255, 7}}},
+        {"EMBOSS", {5}, {{56, 56, 56, 7}}}, // 55.5: to the even neighbour
+        {"EMBOSS", {0}, {{128, 128, 128, 7}}},
+        {"MaskFilter", {cross, 8.0, 1, 2, 3, false}, {{55, 54, 53, 7}}},
+        {"MaskFilter", {above, 1.0, 0, 0, 0, false}, {{20, 20, 20, 7}}},
+        {"MaskFilter", {right, 2.5, 0, 0, 0, true}, {{30, 30, 30, 7}}}, // the divisor becomes 2
+        {"SKETCH", {184, true, 0}, {{255, 255, 255, 7}}},               // (3*(8*55 - 510) + 765) \ 3 = 185
+        {"SKETCH", {185, true, 0}, {{0, 0, 0, 7}}},
+        {"SKETCH", {184, false, 0x010203}, {{1, 2, 3, 7}}},
+        {"SKETCH", {185, false, 0x010203}, {{55, 55, 55, 7}}},
+    };
+    for (const auto& r : rows) {
+        const Bits out = run(r.operation, r.arguments, nineValues(), Region::rectangle(0, 0, 3, 3));
+        EXPECT_EQ(out.at(1, 1), r.wanted) << r.operation;
+    }
+}
 
 TEST(Neighbours, UnreadableMasksAreNamed)
 {
