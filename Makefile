@@ -52,7 +52,7 @@ reference-diff:
 	cmake --build --preset release --target velara-reference
 	$(RELEASE)/bin/velara-reference --diff $(NAMES)
 
-# One-line faults (tests/mutations.txt) that the tests have to catch: all of them take about an hour; make mutate NAMES="undo jpeg"
+# One-line faults (tests/mutations.txt) that the tests have to catch: all of them take half an hour; make mutate NAMES="undo jpeg"
 mutate: setup
 	@scripts/mutate.py $(NAMES)
 
