@@ -21,10 +21,10 @@ inline bool waitUntil(const std::function<bool()>& so, int patience = 20000)
 /// What ask's callback is called with, once it is; nothing, and a failure, after a while.
 template <class Answer> Answer answerTo(const std::function<void(std::function<void(const Answer&)> done)>& ask)
 {
-    std::optional<Answer> got;
-    ask([&](const Answer& answer) { got = answer; });
-    EXPECT_TRUE(waitUntil([&] { return got.has_value(); }));
-    return got.value_or(Answer());
+    const auto got = std::make_shared<std::optional<Answer>>(); // an answer may come when nobody waits any more
+    ask([got](const Answer& answer) { *got = answer; });
+    EXPECT_TRUE(waitUntil([&] { return got->has_value(); }));
+    return got->value_or(Answer());
 }
 
 class PrivateBus {

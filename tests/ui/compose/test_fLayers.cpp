@@ -62,6 +62,17 @@ struct LayersDialogTest : WindowTest {
     }
 };
 
+TEST_F(LayersDialogTest, OpensWithItsLists)
+{
+    EXPECT_EQ("Apply Text", dialog->windowTitle());
+    const auto* Cs = find<QComboBox>("Cs");
+    EXPECT_EQ(32, Cs->count());
+    EXPECT_EQ("7 to 69", Cs->itemText(0) + " to " + Cs->itemText(31));
+    fLayers again(frame, document->handle());
+    used = &again;
+    EXPECT_EQ("15 Other", text("Cs") + ' ' + text("cFonts"));
+}
+
 TEST_F(LayersDialogTest, TextsAreMergedInTheirOrder)
 {
     EXPECT_FALSE(find("lblGrip_0")->isVisible());
