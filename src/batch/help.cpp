@@ -9,13 +9,16 @@ QString column(const QString& text, int width) { return QStringLiteral("  ") + t
 
 QString asText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
 
-/// As in the operation's row: "Level:-300..300:20".
-QString described(const Parameter& p)
+/// "  Level    -300..300 (20)    levels added; 0 changes nothing". The usual value stands in brackets.
+QString described(const Parameter& p, bool optional)
 {
-    if (p.type == ArgumentType::Boolean) return asText(p.name) + QStringLiteral(":true|false");
-    if (p.type == ArgumentType::Picture) return asText(p.name) + QStringLiteral(":file");
-    const QString usual = p.usual.empty() ? QString() : u':' + asText(p.usual);
-    return asText(p.name) + u':' + asText(p.values) + usual;
+    QString values = asText(p.values);
+    if (p.type == ArgumentType::Boolean) values = QStringLiteral("true|false");
+    if (p.type == ArgumentType::Picture) values = QStringLiteral("file");
+    if (!p.usual.empty()) values += QStringLiteral(" (") + asText(p.usual) + u')';
+    const QString name = asText(p.name) + (optional ? QStringLiteral("?") : QString());
+    return QStringLiteral("  ") + column(name, 15) + column(values, 22) + QStringLiteral("  ") + asText(p.meaning) +
+           u'\n';
 }
 
 /// Words split by blanks, in indented lines of at most 80 characters.
@@ -104,12 +107,14 @@ QString listText()
             text += column(asText(word.word), 20) + word.meaning + u'\n';
     text += QStringLiteral("  does nothing to the picture:") + wrapped(idle);
     text +=
-        QStringLiteral("\nOperations (NAME:VALUES:USUAL; singles have decimals, column, row and side count pixels)\n");
+        QStringLiteral("\nOperations, with each argument's values (the usual one) and meaning; singles have decimals, "
+                       "column, row and side count pixels, a ? may be left out\n");
     for (const Operation* operation : stepOperations()) {
-        QStringList parameters;
-        for (const Parameter& p : operation->parameters) parameters += described(p);
-        for (std::size_t i = 0; i < operation->optional; ++i) parameters[parameters.size() - 1 - qsizetype(i)] += u'?';
-        text += QStringLiteral("  ") + asText(operation->name) + u'(' + parameters.join(u',') + QStringLiteral(")\n");
+        const auto& all = operation->parameters;
+        QStringList names;
+        for (const Parameter& p : all) names += asText(p.name);
+        text += QStringLiteral("  ") + asText(operation->name) + u'(' + names.join(u',') + QStringLiteral(")\n");
+        for (std::size_t i = 0; i < all.size(); ++i) text += described(all[i], i + operation->optional >= all.size());
     }
     return text;
 }

@@ -79,9 +79,9 @@ const Operation& applyTextureOperation()
 {
     static const Operation operation{
         "ApplyTexture",
-        {{"Index", ArgumentType::Integer, "1..33", "8"},
-         {"Value", ArgumentType::Integer, "1..100", "50"},
-         {"Texture", ArgumentType::Picture}},
+        {{"Index", ArgumentType::Integer, "1..33", "8", "place in the list of the textures box"},
+         {"Value", ArgumentType::Integer, "1..100", "50", "strength; what it counts depends on the effect"},
+         {"Texture", ArgumentType::Picture, {}, {}, "laid over in place of the effect"}},
         1,
         [](const Operation&, cBitFilter& filter, const Arguments& arguments) {
             constexpr Colour kWhite = 0xFFFFFF; // the current colour of a program that has been started once

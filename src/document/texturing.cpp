@@ -64,9 +64,9 @@ const Operation& texturizeOperation()
 {
     static const Operation operation{
         "fTexturize",
-        {{"Texture", ArgumentType::Picture},
-         {"Weight", ArgumentType::Integer, "0..100", "50"},
-         {"Depth", ArgumentType::Integer, "0..1", "0"}},
+        {{"Texture", ArgumentType::Picture, {}, {}, "its relief is tiled; self is the picture itself"},
+         {"Weight", ArgumentType::Integer, "0..100", "50", "strength of the relief"},
+         {"Depth", ArgumentType::Integer, "0..1", "0", "0 embossed; 1 engraved"}},
         0,
         [](const Operation&, cBitFilter& filter, const Arguments& arguments) {
             const Texturing texturing{std::get<Bits>(arguments[0]), std::get<int>(arguments[1]),

@@ -94,9 +94,12 @@ constexpr ValueWord kValueWords[] = {
 
 constexpr Parameter parameterOf(std::string_view text, ArgumentType type)
 {
-    Parameter p{takeUpTo(":", text), type};
-    p.values = takeUpTo(":", text);
-    p.usual = text;
+    std::string_view meaning = text, value = takeUpTo(" = ", meaning);
+    if (meaning.empty()) throw std::invalid_argument("an argument's meaning is missing");
+    Parameter p{takeUpTo(":", value), type};
+    p.meaning = meaning;
+    p.values = takeUpTo(":", value);
+    p.usual = value;
     if (type == ArgumentType::Boolean || type == ArgumentType::Picture || type == ArgumentType::Text) {
         if (!p.usual.empty() || (type == ArgumentType::Text) == p.values.empty())
             throw std::invalid_argument("texts list their values, booleans and pictures have none");

@@ -23,6 +23,7 @@ struct Parameter {
     ArgumentType type{};
     std::string_view values{};               // "-200..200", "colour", "slanting|squary"; empty: any
     std::string_view usual{};                // as written; empty: none
+    std::string_view meaning{};              // unit and what the ends do
     double least = 0, most = 0, typical = 0; // of numbers; positions and sizes as they are in a small picture
 };
 

@@ -9,6 +9,8 @@
 namespace velara {
 namespace {
 
+const std::string kChannels[] = {"Blue", "Green", "Red"}; // as arguments are named
+
 int third(const Pixel& p) { return (p.c[0] + p.c[1] + p.c[2]) / 3; }
 std::uint8_t limited(std::int64_t v) { return static_cast<std::uint8_t>(v < 0 ? 0 : v > 255 ? 255 : v); }
 double greyWeight(const Pixel& p) { return 0.707 * p.c[1] + 0.071 * p.c[0] + 0.222 * p.c[2]; }
@@ -21,94 +23,94 @@ template <class Function> Bits eachChannel(const Bits& bits, const Region& regio
     });
 }
 
-Bits invert(const Bits& bits, const Region& region, const Arguments&)
+Bits invert(const Bits& bits, const Region& region, const Given&)
 {
     return eachChannel(bits, region, [](int v, int) { return 255 - v; });
 }
 
-Bits brightness(const Bits& bits, const Region& region, const Arguments& a)
+Bits brightness(const Bits& bits, const Region& region, const Given& a)
 {
-    return eachChannel(bits, region, [&](int v, int) { return limited(std::int64_t(v) + wholeAt(a, 0)); });
+    return eachChannel(bits, region, [&](int v, int) { return limited(std::int64_t(v) + a.whole("Level")); });
 }
 
-Bits shiftRGB(const Bits& bits, const Region& region, const Arguments& a)
+Bits shiftRGB(const Bits& bits, const Region& region, const Given& a)
 {
-    return eachChannel(bits, region,
-                       [&](int v, int c) { return limited(std::int64_t(v) + wholeAt(a, std::size_t(2 - c))); });
+    return eachChannel(bits, region, [&](int v, int c) { return limited(std::int64_t(v) + a.whole(kChannels[c])); });
 }
 
-Bits killChannel(const Bits& bits, const Region& region, const Arguments& a)
+Bits killChannel(const Bits& bits, const Region& region, const Given& a)
 {
-    return eachChannel(bits, region, [&](int v, int c) { return flagAt(a, std::size_t(2 - c)) ? 0 : v; });
+    return eachChannel(bits, region, [&](int v, int c) { return a.flag("Kill" + kChannels[c]) ? 0 : v; });
 }
 
-Bits specialColors(const Bits& bits, const Region& region, const Arguments& a)
+Bits specialColors(const Bits& bits, const Region& region, const Given& a)
 {
-    return eachChannel(bits, region, [&](int v, int c) { return flagAt(a, std::size_t(2 - c)) ? v : 0; });
+    return eachChannel(bits, region, [&](int v, int c) { return a.flag("Keep" + kChannels[c]) ? v : 0; });
 }
 
-Bits swapRGB(const Bits& bits, const Region& region, const Arguments& a)
+Bits swapRGB(const Bits& bits, const Region& region, const Given& a)
 {
     int from[3], kill[3];
-    for (std::size_t i = 0; i < 3; ++i) from[i] = toByte(wholeAt(a, i)), kill[i] = toByte(wholeAt(a, 6 + i));
+    for (int c = 0; c < 3; ++c)
+        from[c] = toByte(a.whole("Source" + kChannels[c])), kill[c] = toByte(a.whole("Kill" + kChannels[c]));
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
-        for (std::size_t i = 0; i < 3; ++i) {
-            if (from[i] > 3) throw RuntimeError(Fault::OutOfRange);
-            int v = bits.at(x, y).c[from[i]];
-            if (flagAt(a, 3 + i)) v = 255 - v;
-            to.c[2 - i] = static_cast<std::uint8_t>(v & ~kill[i]);
+        for (int c = 0; c < 3; ++c) {
+            if (from[c] > 3) throw RuntimeError(Fault::OutOfRange);
+            int v = bits.at(x, y).c[from[c]];
+            if (a.flag("Invert" + kChannels[c])) v = 255 - v;
+            to.c[c] = static_cast<std::uint8_t>(v & ~kill[c]);
         }
     });
 }
 
-Bits swapBanks(const Bits& bits, const Region& region, const Arguments& a)
+Bits swapBanks(const Bits& bits, const Region& region, const Given& a)
 {
     constexpr int kFrom[5][3] = {{1, 2, 0}, {2, 0, 1}, {1, 0, 2}, {2, 1, 0}, {0, 2, 1}};
-    const int mode = wholeAt(a, 0);
+    const int mode = a.whole("Mode");
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         for (int c = 0; c < 3; ++c)
             if (mode >= 1 && mode <= 5) to.c[c] = bits.at(x, y).c[kFrom[mode - 1][c]];
     });
 }
 
-Bits threshold(const Bits& bits, const Region& region, const Arguments& a)
+Bits threshold(const Bits& bits, const Region& region, const Given& a)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
-        const std::uint8_t v = third(bits.at(x, y)) <= wholeAt(a, 0) ? 0 : 255;
+        const std::uint8_t v = third(bits.at(x, y)) <= a.whole("Level") ? 0 : 255;
         to.c[0] = to.c[1] = to.c[2] = v;
     });
 }
 
-Bits gammaCorrection(const Bits& bits, const Region& region, const Arguments& a)
+Bits gammaCorrection(const Bits& bits, const Region& region, const Given& a)
 {
-    const float g = static_cast<float>((wholeAt(a, 0) + 100.0) / 100);
+    const float g = static_cast<float>((a.whole("Level") + 100.0) / 100);
     return eachChannel(bits, region,
                        [&](int v, int) { return g <= 0 ? 0 : roundEven(std::pow(v / 255.0, 1.0 / g) * 255); });
 }
 
-Bits reduction(const Bits& bits, const Region& region, const Arguments& a)
+Bits reduction(const Bits& bits, const Region& region, const Given& a)
 {
-    const int s = wholeAt(a, 0) + 1;
+    const int s = a.whole("Level") + 1;
     return eachChannel(bits, region, [&](int v, int) { return std::min(255, s * roundEven(quotient(v, s))); });
 }
 
-Bits greyScale(const Bits& bits, const Region& region, const Arguments&)
+Bits greyScale(const Bits& bits, const Region& region, const Given&)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         to.c[0] = to.c[1] = to.c[2] = static_cast<std::uint8_t>(roundEven(greyWeight(bits.at(x, y))));
     });
 }
 
-Bits oldPhoto(const Bits& bits, const Region& region, const Arguments&)
+Bits oldPhoto(const Bits& bits, const Region& region, const Given&)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         to.c[1] = to.c[2] = static_cast<std::uint8_t>(roundEven(greyWeight(bits.at(x, y))));
     });
 }
 
-Bits rotateL(const Bits& bits, const Region& region, const Arguments& a)
+Bits rotateL(const Bits& bits, const Region& region, const Given& a)
 {
-    const float ph = static_cast<float>(wholeAt(a, 0) / 10.0), fq = static_cast<float>(wholeAt(a, 1) / 2.5);
+    const float ph = static_cast<float>(a.whole("Offset") / 10.0), fq = static_cast<float>(a.whole("Steps") / 2.5);
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         float u = static_cast<float>(std::sin(greyWeight(bits.at(x, y)) / 255 * fq + ph) * 127.5 + 127.5);
         if (u > 255)
@@ -119,22 +121,22 @@ Bits rotateL(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits saturation(const Bits& bits, const Region& region, const Arguments& a)
+Bits saturation(const Bits& bits, const Region& region, const Given& a)
 {
-    const float k = static_cast<float>(wholeAt(a, 0) / 100.0);
+    const float k = static_cast<float>(a.whole("Level") / 100.0);
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const Pixel& p = bits.at(x, y);
         for (int c = 0; c < 3; ++c) to.c[c] = limited(roundEven(double(p.c[c] - third(p)) * k + p.c[c]));
     });
 }
 
-Bits contrast(const Bits& bits, const Region& region, const Arguments& a)
+Bits contrast(const Bits& bits, const Region& region, const Given& a)
 {
     std::int64_t sum = 0, count = 0;
     for (int y = 0; y < bits.height(); ++y)
         for (int x = 0; x < bits.width(); ++x) sum += third(bits.at(x, y)), ++count;
     const int M = static_cast<int>(sum / count);
-    const float f = static_cast<float>((wholeAt(a, 0) + 100.0) / 100);
+    const float f = static_cast<float>((a.whole("Level") + 100.0) / 100);
     const auto table = [&](int i) { return roundEven(double(i - M) * f + M); };
     const auto outside = [](int v) { return v < 0 || v > 255; };
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
@@ -178,7 +180,7 @@ Bits contrast(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits equalize(const Bits& bits, const Region& region, const Arguments&)
+Bits equalize(const Bits& bits, const Region& region, const Given&)
 {
     int hist[256] = {}, sum = 0, i = 0;
     for (int y = 0; y < bits.height(); ++y)
@@ -193,12 +195,12 @@ Bits equalize(const Bits& bits, const Region& region, const Arguments&)
     return eachChannel(bits, region, [&](int v, int) { return v >= m ? toByte((v - m) * a + 128) : toByte(v * b); });
 }
 
-Bits classyColors(const Bits& bits, const Region& region, const Arguments& a)
+Bits classyColors(const Bits& bits, const Region& region, const Given& a)
 {
     const auto mean = [](int u, int v) { return toByte((u * 0.99 + v * 0.99) / 2); };
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const auto* c = bits.at(x, y).c;
-        const int mode = wholeAt(a, 0);
+        const int mode = a.whole("Mode");
         if (mode == 0 || mode == 1) to.c[1] = mean(c[2], c[1]), to.c[2] = c[1];
         if (mode == 0) to.c[0] = toByte(std::atan(double(c[1])) * (c[0] / 1.9));
         if (mode == 2) to.c[2] = mean(c[2], c[0]), to.c[0] = c[2];
@@ -218,7 +220,7 @@ Bits classyColors(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits paletteApply(const Bits& bits, const Region& region, const Arguments&)
+Bits paletteApply(const Bits& bits, const Region& region, const Given&)
 {
     Bits own = bits;
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {

@@ -24,60 +24,63 @@ void draw(Pixel& to, Colour colour, double k)
 
 void store(Pixel& to, const Rgb& rgb) { to.c[0] = toByte(rgb.b), to.c[1] = toByte(rgb.g), to.c[2] = toByte(rgb.r); }
 
-Bits isolate(const Bits& bits, const Region& region, const Arguments& a)
+Bits isolate(const Bits& bits, const Region& region, const Given& a)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
-        if (distance(to, wholeAt(a, 0)) >= limitOf(wholeAt(a, 2))) draw(to, wholeAt(a, 1), 1);
+        if (distance(to, a.whole("Color")) >= limitOf(a.whole("Tolerance"))) draw(to, a.whole("Fill"), 1);
     });
 }
 
-Bits replace(const Bits& bits, const Region& region, const Arguments& a)
+Bits replace(const Bits& bits, const Region& region, const Given& a)
 {
-    const int T = limitOf(wholeAt(a, 2));
+    const int T = limitOf(a.whole("Tolerance"));
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
-        const int d2 = distance(to, wholeAt(a, 0));
-        if (d2 <= T) draw(to, wholeAt(a, 1), 1 - double(d2) / T);
+        const int d2 = distance(to, a.whole("From"));
+        if (d2 <= T) draw(to, a.whole("To"), 1 - double(d2) / T);
     });
 }
 
-Bits replaceHS(const Bits& bits, const Region& region, const Arguments& a)
+Bits replaceHS(const Bits& bits, const Region& region, const Given& a)
 {
-    const int T = limitOf(wholeAt(a, 4)), from = wholeAt(a, 0);
-    const float th = static_cast<float>(wholeAt(a, 2) / 100.0), ts = static_cast<float>(wholeAt(a, 3) / 100.0);
+    const int T = limitOf(a.whole("ApplyTolerance")), from = a.whole("From");
+    const float th = static_cast<float>(a.whole("HueTolerance") / 100.0),
+                ts = static_cast<float>(a.whole("SatTolerance") / 100.0);
     const Hsl zero = RGBToHSL(redOf(from), greenOf(from), blueOf(from));
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
         const Hsl hsl = RGBToHSL(to.c[2], to.c[1], to.c[0]);
         const int d2 = distance(to, from);
         if (std::abs(double(hsl.h) - zero.h) <= th && std::abs(double(hsl.s) - zero.s) <= ts && d2 <= T)
-            draw(to, wholeAt(a, 1), static_cast<float>(1 - double(d2) / T));
+            draw(to, a.whole("To"), static_cast<float>(1 - double(d2) / T));
     });
 }
 
-Bits replaceL(const Bits& bits, const Region& region, const Arguments& a)
+Bits replaceL(const Bits& bits, const Region& region, const Given& a)
 {
-    const int T = limitOf(wholeAt(a, 3)), tl = roundEven(wholeAt(a, 2) * 2.55), from = wholeAt(a, 0);
+    const int T = limitOf(a.whole("ApplyTolerance")), tl = roundEven(a.whole("LumTolerance") * 2.55),
+              from = a.whole("From");
     const int lum0 = (redOf(from) + greenOf(from) + blueOf(from)) / 3;
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
         const int d2 = distance(to, from);
         if (std::abs((to.c[0] + to.c[1] + to.c[2]) / 3 - lum0) <= tl && d2 <= T)
-            draw(to, wholeAt(a, 1), static_cast<float>(1 - double(d2) / T));
+            draw(to, a.whole("To"), static_cast<float>(1 - double(d2) / T));
     });
 }
 
-Bits shift(const Bits& bits, const Region& region, const Arguments& a)
+Bits shift(const Bits& bits, const Region& region, const Given& a)
 {
-    const int T = limitOf(wholeAt(a, 2));
+    const int T = limitOf(a.whole("Tolerance"));
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
-        const int d2 = distance(to, wholeAt(a, 0));
+        const int d2 = distance(to, a.whole("Color"));
         if (d2 >= T) return;
         const double k = 1 - double(d2) / T;
-        for (std::uint8_t* c = to.c; c < to.c + 3; ++c) *c = toByte((clamp(*c + wholeAt(a, 1)) - *c) * k + *c);
+        for (std::uint8_t* c = to.c; c < to.c + 3; ++c) *c = toByte((clamp(*c + a.whole("Amount")) - *c) * k + *c);
     });
 }
 
-Bits rotateH(const Bits& bits, const Region& region, const Arguments& a)
+Bits rotateH(const Bits& bits, const Region& region, const Given& a)
 {
-    const float o = static_cast<float>(wholeAt(a, 0) / 16.67), s = static_cast<float>(wholeAt(a, 1) / 100.0);
+    const float o = static_cast<float>(a.whole("Offset") / 16.67),
+                s = static_cast<float>(a.whole("Saturation") / 100.0);
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
         const Hsl hsl = RGBToHSL(to.c[2], to.c[1], to.c[0]);
         float h = static_cast<float>(double(hsl.h) + o);
@@ -86,19 +89,20 @@ Bits rotateH(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits colorize(const Bits& bits, const Region& region, const Arguments& a)
+Bits colorize(const Bits& bits, const Region& region, const Given& a)
 {
-    const auto h = static_cast<float>(numberAt(a, 0)), s = static_cast<float>(numberAt(a, 1)),
-               l = static_cast<float>(numberAt(a, 2));
+    const auto h = static_cast<float>(a.number("Hue")), s = static_cast<float>(a.number("Saturation")),
+               l = static_cast<float>(a.number("Luminosity"));
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
         store(to, HSLToRGB(h, s, static_cast<float>((to.c[0] + to.c[1] + to.c[2]) / 765.0 * l)));
     });
 }
 
-Bits stretchH(const Bits& bits, const Region& region, const Arguments& a)
+Bits stretchH(const Bits& bits, const Region& region, const Given& a)
 {
-    const float o = static_cast<float>(wholeAt(a, 0) / 16.67), s = static_cast<float>(wholeAt(a, 1) / 100.0),
-                fq = static_cast<float>(wholeAt(a, 2) / 10.0);
+    const float o = static_cast<float>(a.whole("Offset") / 16.67),
+                s = static_cast<float>(a.whole("Saturation") / 100.0),
+                fq = static_cast<float>(a.whole("Stretch") / 10.0);
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int) {
         const float l = static_cast<float>((to.c[2] + to.c[1] + to.c[0]) / 765.0);
         float h = static_cast<float>(std::sin(double(fq) * l) * 3 + o);

@@ -50,7 +50,7 @@ void eachTrial(const std::string& name, const std::function<void(const Trial&)>&
                    filter.setBitsRegion(regions[i]);
                    return command.run(filter);
                },
-               [&] { return definitions().at(command.operation)(bits, regions[i], command.arguments); }});
+               [&] { return definedResult(command.operation, bits, regions[i], command.arguments); }});
 }
 
 } // namespace

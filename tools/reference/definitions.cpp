@@ -1,8 +1,16 @@
 #include "tools/reference/definitions.h"
+#include <stdexcept>
 
 namespace velara {
 
-const Definitions& definitions()
+const Argument& Given::named(std::string_view name) const
+{
+    for (std::size_t i = 0; i < arguments_.size(); ++i)
+        if (operation_.parameters[i].name == name) return arguments_[i];
+    throw std::invalid_argument(std::string(operation_.name) + " has no argument " + std::string(name));
+}
+
+Bits definedResult(std::string_view operation, const Bits& bits, const Region& region, const Arguments& arguments)
 {
     static const Definitions all = [] {
         Definitions list;
@@ -11,7 +19,9 @@ const Definitions& definitions()
             list.merge(family());
         return list;
     }();
-    return all;
+    const auto found = all.find(operation);
+    if (found == all.end()) throw std::invalid_argument("no definition of " + std::string(operation));
+    return found->second(bits, region, Given(*findOperation(operation), arguments));
 }
 
 Bits eachPixel(const Bits& bits, const Region& region, int margin,

@@ -6,8 +6,28 @@
 
 namespace velara {
 
+/// The arguments of a call by the names that the operation's row gives them. A name that it has not, or another type,
+/// throws std::invalid_argument or std::bad_variant_access.
+class Given {
+  public:
+    /// Both outlive this object.
+    Given(const Operation& operation, const Arguments& arguments) : operation_(operation), arguments_(arguments) {}
+
+    int whole(std::string_view name) const { return std::get<int>(named(name)); }
+    bool flag(std::string_view name) const { return std::get<bool>(named(name)); }
+    double number(std::string_view name) const { return std::get<double>(named(name)); }
+    const std::string& text(std::string_view name) const { return std::get<std::string>(named(name)); }
+    const Bits& picture(std::string_view name) const { return std::get<Bits>(named(name)); }
+
+  private:
+    const Argument& named(std::string_view name) const;
+
+    const Operation& operation_;
+    const Arguments& arguments_;
+};
+
 /// The result for a picture, its region and the arguments. May throw RuntimeError like the operation.
-using Definition = Bits (*)(const Bits& bits, const Region& region, const Arguments& arguments);
+using Definition = Bits (*)(const Bits& bits, const Region& region, const Given& arguments);
 using Definitions = std::map<std::string_view, Definition>;
 
 Definitions geometryDefinitions();
@@ -17,13 +37,8 @@ Definitions neighbourDefinitions();
 Definitions deformDefinitions();
 Definitions styliseDefinitions();
 Definitions generateDefinitions();
-/// All of them.
-const Definitions& definitions();
-
-// Short forms for the arguments.
-inline int wholeAt(const Arguments& a, std::size_t i) { return std::get<int>(a[i]); }
-inline bool flagAt(const Arguments& a, std::size_t i) { return std::get<bool>(a[i]); }
-inline double numberAt(const Arguments& a, std::size_t i) { return std::get<double>(a[i]); }
+/// What an operation is defined to give. std::invalid_argument for one without a definition.
+Bits definedResult(std::string_view operation, const Bits& bits, const Region& region, const Arguments& arguments);
 
 /// The common loop: every pixel of the region's box, moved inward by margin, that lies in the region and in the
 /// picture. body(to, x, y) reads bits and writes the returned copy.

@@ -34,22 +34,22 @@ template <class Source> Bits eachSource(const Bits& bits, const Region& region, 
     });
 }
 
-Bits rotate(const Bits& bits, const Region& region, const Arguments& a)
+Bits rotate(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
-    const double angle = wholeAt(a, 0) * kDegree;
+    const double angle = a.whole("Degrees") * kDegree;
     const float cs = static_cast<float>(std::cos(angle)), sn = static_cast<float>(std::sin(angle));
-    return eachSource(bits, region, flagAt(a, 1), [&](int x, int y, int& sx, int& sy) {
+    return eachSource(bits, region, a.flag("Clean"), [&](int x, int y, int& sx, int& sy) {
         const double dx = x - cx, dy = y - cy;
         sx = roundEven(dx * cs - dy * sn + cx);
         sy = roundEven(dx * sn + dy * cs + cy);
     });
 }
 
-Bits rotateSmooth(const Bits& bits, const Region& region, const Arguments& a)
+Bits rotateSmooth(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
-    const double angle = wholeAt(a, 0) * kDegree;
+    const double angle = a.whole("Degrees") * kDegree;
     const float cs = static_cast<float>(std::cos(angle)), sn = static_cast<float>(std::sin(angle));
     return eachOfBox(bits, region, [&](Pixel& to, int x, int y) {
         const double dx = x - cx, dy = y - cy;
@@ -66,33 +66,35 @@ Bits rotateSmooth(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits flip(const Bits& bits, const Region&, const Arguments& a)
+Bits flip(const Bits& bits, const Region&, const Given& a)
 {
     Bits out = bits;
     for (int y = 0; y < bits.height(); ++y)
         for (int x = 0; x < bits.width(); ++x)
-            take(out.at(x, y), bits.at(flagAt(a, 0) ? bits.maxX() - x : x, flagAt(a, 1) ? bits.maxY() - y : y));
+            take(out.at(x, y),
+                 bits.at(a.flag("Horizontal") ? bits.maxX() - x : x, a.flag("Vertical") ? bits.maxY() - y : y));
     return out;
 }
 
-Bits stretch(const Bits& bits, const Region& region, const Arguments& a)
+Bits stretch(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
-    const float fx = static_cast<float>(wholeAt(a, 0) / 100.0 + 1), fy = static_cast<float>(wholeAt(a, 1) / 100.0 + 1);
+    const float fx = static_cast<float>(a.whole("Horizontal") / 100.0 + 1),
+                fy = static_cast<float>(a.whole("Vertical") / 100.0 + 1);
     std::vector<int> X, Y;
     for (int x = 0; x <= bits.maxX(); ++x) X.push_back(roundEven((x - cx) * double(fx) + cx));
     for (int y = 0; y <= bits.maxY(); ++y) Y.push_back(roundEven((y - cy) * double(fy) + cy));
-    return eachSource(bits, region, flagAt(a, 2), [&](int x, int y, int& sx, int& sy) {
+    return eachSource(bits, region, a.flag("Clean"), [&](int x, int y, int& sx, int& sy) {
         sx = X[x];
         sy = Y[y];
     });
 }
 
-Bits fold(const Bits& bits, const Region& region, const Arguments& a)
+Bits fold(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
-    const double horizontal = wholeAt(a, 0), vertical = wholeAt(a, 1);
-    return eachSource(bits, region, flagAt(a, 2), [&](int x, int y, int& sx, int& sy) {
+    const double horizontal = a.whole("Horizontal"), vertical = a.whole("Vertical");
+    return eachSource(bits, region, a.flag("Clean"), [&](int x, int y, int& sx, int& sy) {
         if (bits.maxX() == 0 || bits.maxY() == 0) throw RuntimeError(Fault::DivisionByZero);
         const double dx = x - cx, dy = y - cy;
         sx = roundEven(((dy / 100 * vertical) / bits.maxY() + 1) * dx + cx);
@@ -106,11 +108,11 @@ float angle(int X, int Y)
     return static_cast<float>(std::atan(double(Y) / X) + (X < 0 ? 3.141592025756836 : 0.0));
 }
 
-Bits bend(const Bits& bits, const Region& region, const Arguments& a)
+Bits bend(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
-    const float k = static_cast<float>(wholeAt(a, 0) / 100.0 + 2);
-    return eachSource(bits, region, flagAt(a, 1), [&](int x, int y, int& sx, int& sy) {
+    const float k = static_cast<float>(a.whole("RadiusFactor") / 100.0 + 2);
+    return eachSource(bits, region, a.flag("Clean"), [&](int x, int y, int& sx, int& sy) {
         const int dx = x - cx, dy = y - cy;
         const double r = std::sqrt(double(dx) * dx + double(dy) * dy);
         const float rad = static_cast<float>(k * r);
@@ -121,13 +123,13 @@ Bits bend(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits twirl(const Bits& bits, const Region& region, const Arguments& a)
+Bits twirl(const Bits& bits, const Region& region, const Given& a)
 {
     const int cx = bits.maxX() / 2, cy = bits.maxY() / 2;
     if (cx == 0) throw RuntimeError(Fault::DivisionByZero);
-    const float k = static_cast<float>((wholeAt(a, 0) / 10.0) / cx);
-    const float a0 = static_cast<float>(wholeAt(a, 1) * kDegree);
-    return eachSource(bits, region, flagAt(a, 2), [&](int x, int y, int& sx, int& sy) {
+    const float k = static_cast<float>((a.whole("Level") / 10.0) / cx);
+    const float a0 = static_cast<float>(a.whole("OffsetDegrees") * kDegree);
+    return eachSource(bits, region, a.flag("Clean"), [&](int x, int y, int& sx, int& sy) {
         const int dx = x - cx, dy = y - cy;
         const int r = roundEven(std::sqrt(double(dx) * dx + double(dy) * dy));
         sx = cx;
@@ -139,22 +141,23 @@ Bits twirl(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits waves(const Bits& bits, const Region& region, const Arguments& a)
+Bits waves(const Bits& bits, const Region& region, const Given& a)
 {
-    const float amplitude = static_cast<float>(wholeAt(a, 1) * 0.25);
+    const float amplitude = static_cast<float>(a.whole("Amplitude") * 0.25);
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
-        const int sy = roundEven(amplitude * std::sin((double(y) * wholeAt(a, 0) + wholeAt(a, 2)) * kDegree) + y);
+        const int sy =
+            roundEven(amplitude * std::sin((double(y) * a.whole("Frequency") + a.whole("StartDegree")) * kDegree) + y);
         take(to, bits.at(x, std::clamp(sy, 0, bits.maxY())));
     });
 }
 
-Bits lens(const Bits& bits, const Region& region, const Arguments& a)
+Bits lens(const Bits& bits, const Region& region, const Given& a)
 {
-    const float centreX = static_cast<float>(numberAt(a, 0)), centreY = static_cast<float>(numberAt(a, 1));
-    const float radius = static_cast<float>(numberAt(a, 2));
+    const float centreX = static_cast<float>(a.number("CenterX")), centreY = static_cast<float>(a.number("CenterY"));
+    const float radius = static_cast<float>(a.number("Radius"));
     const int px = roundEven(bits.maxX() * double(centreX)), py = roundEven(bits.maxY() * double(centreY));
     const int R = roundEven(std::max(bits.maxX(), bits.maxY()) * double(radius));
-    const double D = static_cast<float>((150.0 - wholeAt(a, 3)) * R / 150);
+    const double D = static_cast<float>((150.0 - a.whole("Magnify")) * R / 150);
     const double limit = std::nearbyint(double(R) * R - D * D);
     if (R <= 0) return bits;
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
@@ -168,9 +171,9 @@ Bits lens(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits tile(const Bits& bits, const Region& region, const Arguments& a)
+Bits tile(const Bits& bits, const Region& region, const Given& a)
 {
-    const int factor = wholeAt(a, 0);
+    const int factor = a.whole("Factor");
     if (factor == 0) throw RuntimeError(Fault::DivisionByZero);
     const int tw = std::max(roundEven(bits.maxX() / double(factor)), 1);
     const int th = std::max(roundEven(bits.maxY() / double(factor)), 1);
@@ -187,10 +190,10 @@ Bits tile(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-Bits glass(const Bits& bits, const Region& region, const Arguments& a)
+Bits glass(const Bits& bits, const Region& region, const Given& a)
 {
-    const std::string& style = std::get<std::string>(a[0]);
-    const int mode = wholeAt(a, 1);
+    const std::string& style = a.text("Style");
+    const int mode = a.whole("Mode");
     const Rect box = region.bounds();
     int keptX = 0, keptY = 0; // of the previous pixel
     return eachSource(bits, region, false, [&](int x, int y, int& sx, int& sy) {

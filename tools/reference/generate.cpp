@@ -7,50 +7,51 @@
 namespace velara {
 namespace {
 
-Bits light(const Bits& bits, const Region& region, const Arguments& a)
+Bits light(const Bits& bits, const Region& region, const Given& a)
 {
-    const float centreX = static_cast<float>(numberAt(a, 0)), centreY = static_cast<float>(numberAt(a, 1));
-    const float radius = static_cast<float>(numberAt(a, 2));
+    const float centreX = static_cast<float>(a.number("CenterX")), centreY = static_cast<float>(a.number("CenterY"));
+    const float radius = static_cast<float>(a.number("Radius"));
     const int px = roundEven(bits.maxX() * double(centreX)), py = roundEven(bits.maxY() * double(centreY));
     const int R = roundEven(std::max(bits.maxX(), bits.maxY()) * double(radius));
-    const float q = static_cast<float>(1 - wholeAt(a, 4) / 100.0);
+    const float q = static_cast<float>(1 - a.whole("Definition") / 100.0);
     if (R <= 0) return bits;
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const double ox = double(x) - px, oy = double(y) - py;
         if (!(ox * ox + oy * oy < double(R) * R)) return;
-        const long long k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * wholeAt(a, 3));
+        const long long k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * a.whole("Intensity"));
         for (int c = 0; c < 3; ++c) to.c[c] = static_cast<std::uint8_t>(std::min(to.c[c] + k, 255LL) & 255);
     });
 }
 
-Bits noise(const Bits& bits, const Region& region, const Arguments& a)
+Bits noise(const Bits& bits, const Region& region, const Given& a)
 {
-    const int amount = wholeAt(a, 0);
+    const int amount = a.whole("Amount");
     const double span = 2.0 * amount + 1;
     const Random random(cBitFilter::kRandomSeed);
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const auto pixel = static_cast<std::uint32_t>(y * bits.width() + x);
         for (int c = 2; c >= 0; --c) {
-            const double rnd = random.single(flagAt(a, 1) ? pixel : 3 * pixel + static_cast<std::uint32_t>(2 - c));
+            const double rnd =
+                random.single(a.flag("Equalized") ? pixel : 3 * pixel + static_cast<std::uint32_t>(2 - c));
             to.c[c] = clamp(roundEven(to.c[c] + (rnd * span - amount)));
         }
     });
 }
 
-Bits scanlines(const Bits& bits, const Region& region, const Arguments& a)
+Bits scanlines(const Bits& bits, const Region& region, const Given& a)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int, int y) {
         if ((y - region.bounds().top) % 2 == 0)
-            for (int c = 0; c < 3; ++c) to.c[c] = clamp(1LL * to.c[c] - wholeAt(a, 0));
+            for (int c = 0; c < 3; ++c) to.c[c] = clamp(1LL * to.c[c] - a.whole("Level"));
     });
 }
 
-Bits grid(const Bits& bits, const Region& region, const Arguments& args)
+Bits grid(const Bits& bits, const Region& region, const Given& args)
 {
-    const long long stepX = wholeAt(args, 0), stepY = wholeAt(args, 1);
+    const long long stepX = args.whole("HorizontalStep"), stepY = args.whole("VerticalStep");
     if (stepX < 1 || stepY < 1) throw RuntimeError(Fault::OutOfRange);
-    const Colour colour = wholeAt(args, 3);
-    const float a = static_cast<float>(wholeAt(args, 4) / 255.0), b = static_cast<float>(1.0 - a);
+    const Colour colour = args.whole("Color");
+    const float a = static_cast<float>(args.whole("Opacity") / 255.0), b = static_cast<float>(1.0 - a);
     const Rect box = region.bounds();
     Bits out = bits;
     const auto draw = [&](long long x, long long y) {
@@ -67,20 +68,20 @@ Bits grid(const Bits& bits, const Region& region, const Arguments& args)
         for (int y = box.top; y < box.bottom; ++y) draw(x, y);
     };
     for (long long y = box.top; y < box.bottom; y += stepY) across(y);
-    if (flagAt(args, 2)) across(bits.maxY());
+    if (args.flag("ForceMargins")) across(bits.maxY());
     for (long long x = box.left; x < box.right; x += stepX) down(x);
-    if (flagAt(args, 2)) down(bits.maxX());
+    if (args.flag("ForceMargins")) down(bits.maxX());
     return out;
 }
 
-Bits gradient(const Bits& bits, const Region& region, const Arguments& a, bool linear)
+Bits gradient(const Bits& bits, const Region& region, const Given& a, bool linear)
 {
-    const double x1 = wholeAt(a, 0), y1 = wholeAt(a, 1), dxx = wholeAt(a, 2) - x1, dyy = wholeAt(a, 3) - y1;
+    const double x1 = a.whole("X1"), y1 = a.whole("Y1"), dxx = a.whole("X2") - x1, dyy = a.whole("Y2") - y1;
     const double D = std::sqrt(dxx * dxx + dyy * dyy);
     if (D == 0) return bits;
     const int R = roundEven(D);
-    const float op = static_cast<float>(wholeAt(a, 6) / 100.0), nop = static_cast<float>(1.0 - op);
-    float freq = static_cast<float>((wholeAt(a, 7) - 1.0) * 3.141592025756836);
+    const float op = static_cast<float>(a.whole("Opacity") / 100.0), nop = static_cast<float>(1.0 - op);
+    float freq = static_cast<float>((a.whole("Repeat") - 1.0) * 3.141592025756836);
     if (R < freq) freq = static_cast<float>(R);
     double angle = dxx != 0 ? std::atan(dyy / dxx) : (dyy > 0 ? 1 : -1) * 90 * 0.017453288659453392;
     if (dxx < 0)
@@ -97,26 +98,23 @@ Bits gradient(const Bits& bits, const Region& region, const Arguments& a, bool l
         const float u = static_cast<float>(1.0 - t);
         for (int c = 0; c < 3; ++c) {
             const int shift = 16 - 8 * c;
-            const double col1 = wholeAt(a, 4) == -1 ? to.c[c] : wholeAt(a, 4) >> shift & 255;
-            const double col2 = wholeAt(a, 5) == -1 ? to.c[c] : wholeAt(a, 5) >> shift & 255;
+            const double col1 = a.whole("Color1") == -1 ? to.c[c] : a.whole("Color1") >> shift & 255;
+            const double col2 = a.whole("Color2") == -1 ? to.c[c] : a.whole("Color2") >> shift & 255;
             to.c[c] = toByte(to.c[c] * double(nop) + (col1 * u + col2 * t) * double(op));
         }
     });
 }
 
-Bits gradientLinear(const Bits& bits, const Region& region, const Arguments& a)
-{
-    return gradient(bits, region, a, true);
-}
+Bits gradientLinear(const Bits& bits, const Region& region, const Given& a) { return gradient(bits, region, a, true); }
 
-Bits gradientCircular(const Bits& bits, const Region& region, const Arguments& a)
+Bits gradientCircular(const Bits& bits, const Region& region, const Given& a)
 {
     return gradient(bits, region, a, false);
 }
 
-Bits texturize(const Bits& bits, const Region& region, const Arguments& a)
+Bits texturize(const Bits& bits, const Region& region, const Given& a)
 {
-    const Bits& texture = std::get<Bits>(a[0]);
+    const Bits& texture = a.picture("Texture");
     const int tx = texture.maxX(), ty = texture.maxY();
     if (tx < 1 || ty < 1) throw RuntimeError(Fault::OutOfRange);
     const Rect box = region.bounds();
@@ -133,14 +131,14 @@ Bits texturize(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-Bits tileMask(const Bits& bits, const Region& region, const Arguments& args)
+Bits tileMask(const Bits& bits, const Region& region, const Given& args)
 {
-    const Bits& overlay = std::get<Bits>(args[0]);
-    const long long left = wholeAt(args, 1), top = wholeAt(args, 2);
-    const Colour key = wholeAt(args, 5);
-    const long long stepX = flagAt(args, 3) ? overlay.width() : bits.maxX() - left + 1;
-    const long long stepY = flagAt(args, 3) ? overlay.height() : bits.maxY() - top + 1;
-    const float a = static_cast<float>(wholeAt(args, 4) / 100.0), b = static_cast<float>(1.0 - a);
+    const Bits& overlay = args.picture("Overlay");
+    const long long left = args.whole("Left"), top = args.whole("Top");
+    const Colour key = args.whole("KeyColor");
+    const long long stepX = args.flag("Tiled") ? overlay.width() : bits.maxX() - left + 1;
+    const long long stepY = args.flag("Tiled") ? overlay.height() : bits.maxY() - top + 1;
+    const float a = static_cast<float>(args.whole("Transparency") / 100.0), b = static_cast<float>(1.0 - a);
     Bits out = bits;
     for (long long Y = top; Y <= bits.maxY(); Y += stepY)
         for (long long X = left; X <= bits.maxX(); X += stepX)

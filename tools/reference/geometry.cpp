@@ -11,15 +11,15 @@ void checkSize(int width, int height)
         throw RuntimeError(Fault::OutOfRange);
 }
 
-Bits bitsBlack(const Bits& bits, const Region& region, const Arguments&)
+Bits bitsBlack(const Bits& bits, const Region& region, const Given&)
 {
     return eachPixel(bits, region, 0, [](Pixel& to, int, int) { to = {}; });
 }
 
-Rect cut(const Bits& bits, const Arguments& a)
+Rect cut(const Bits& bits, const Given& a)
 {
-    const Rect r{std::max(wholeAt(a, 0), 0), std::max(wholeAt(a, 1), 0), std::min(wholeAt(a, 2), bits.width()),
-                 std::min(wholeAt(a, 3), bits.height())};
+    const Rect r{std::max(a.whole("Left"), 0), std::max(a.whole("Top"), 0), std::min(a.whole("Right"), bits.width()),
+                 std::min(a.whole("Bottom"), bits.height())};
     if (r.right <= r.left || r.bottom <= r.top) throw RuntimeError(Fault::OutOfRange);
     return r;
 }
@@ -32,13 +32,13 @@ template <class PixelAt> Bits filled(int width, int height, PixelAt pixelAt)
     return out;
 }
 
-Bits bitsCrop(const Bits& bits, const Region&, const Arguments& a)
+Bits bitsCrop(const Bits& bits, const Region&, const Given& a)
 {
     const Rect r = cut(bits, a);
     return filled(r.width(), r.height(), [&](int x, int y) { return bits.at(x + r.left, y + r.top); });
 }
 
-Bits bitsCropMasked(const Bits& bits, const Region& region, const Arguments& a)
+Bits bitsCropMasked(const Bits& bits, const Region& region, const Given& a)
 {
     const Rect r = cut(bits, a);
     return filled(r.width(), r.height(), [&](int x, int y) {
@@ -46,9 +46,9 @@ Bits bitsCropMasked(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits bitsResample(const Bits& bits, const Region&, const Arguments& a)
+Bits bitsResample(const Bits& bits, const Region&, const Given& a)
 {
-    const int width = wholeAt(a, 0), height = wholeAt(a, 1);
+    const int width = a.whole("NewWidth"), height = a.whole("NewHeight");
     checkSize(width, height);
     const float rx = static_cast<float>((bits.width() - 1.0) / width);
     const float ry = static_cast<float>((bits.height() - 1.0) / height);
@@ -66,9 +66,9 @@ Bits bitsResample(const Bits& bits, const Region&, const Arguments& a)
     });
 }
 
-Bits bitsResize(const Bits& bits, const Region&, const Arguments& a)
+Bits bitsResize(const Bits& bits, const Region&, const Given& a)
 {
-    const int width = wholeAt(a, 0), height = wholeAt(a, 1);
+    const int width = a.whole("NewWidth"), height = a.whole("NewHeight");
     checkSize(width, height);
     const float rx = static_cast<float>(static_cast<double>(bits.width()) / width);
     const float ry = static_cast<float>(static_cast<double>(bits.height()) / height);
@@ -80,7 +80,7 @@ Bits bitsResize(const Bits& bits, const Region&, const Arguments& a)
     });
 }
 
-Bits bitsRotate90(const Bits& bits, const Region&, const Arguments&)
+Bits bitsRotate90(const Bits& bits, const Region&, const Given&)
 {
     return filled(bits.height(), bits.width(), [&](int x, int y) {
         Pixel p = bits.at(bits.maxX() - y, x);
@@ -89,10 +89,10 @@ Bits bitsRotate90(const Bits& bits, const Region&, const Arguments&)
     });
 }
 
-Bits bitsTakeFromPicture(const Bits&, const Region&, const Arguments& a)
+Bits bitsTakeFromPicture(const Bits&, const Region&, const Given& a)
 {
-    const Bits& picture = std::get<Bits>(a[0]);
-    const int width = wholeAt(a, 1), height = wholeAt(a, 2);
+    const Bits& picture = a.picture("Picture");
+    const int width = a.whole("Width"), height = a.whole("Height");
     checkSize(width, height);
     return filled(width, height, [&](int x, int y) {
         if (x >= picture.width() || y >= picture.height()) return Pixel{};

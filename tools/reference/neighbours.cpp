@@ -48,33 +48,33 @@ template <class Value> Bits perChannel(const Bits& bits, const Region& region, i
     });
 }
 
-Bits sharpen(const Bits& bits, const Region& region, const Arguments& a)
+Bits sharpen(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide level = wholeAt(a, 0);
+    const Wide level = a.whole("Level");
     return perChannel(bits, region, 1, [&](const Source& s, int x, int y, int c) {
         return clamp(divided(s.at(x, y, c) * (124 - level) - 2 * s.ring(x, y, c), 108 - level));
     });
 }
 
-Bits soften(const Bits& bits, const Region& region, const Arguments& a)
+Bits soften(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide k = 101 - Wide{wholeAt(a, 0)};
+    const Wide k = 101 - Wide{a.whole("Level")};
     return perChannel(bits, region, 1, [&](const Source& s, int x, int y, int c) {
         return toByte(double(divided(s.at(x, y, c) * k + s.cross(x, y, c), k + 4)));
     });
 }
 
-Bits edgeEnhance(const Bits& bits, const Region& region, const Arguments& a)
+Bits edgeEnhance(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide level = wholeAt(a, 0);
+    const Wide level = a.whole("Level");
     return perChannel(bits, region, 0, [&](const Source& s, int x, int y, int c) {
         return clamp(divided(s.at(x, y, c) * (level + 9) - s.ring(x, y, c), level + 1));
     });
 }
 
-Bits blurs(const Bits& bits, const Region& region, const Arguments& a)
+Bits blurs(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide r = wholeAt(a, 0);
+    const Wide r = a.whole("Radius");
     return perChannel(bits, region, 0, [&](const Source& s, int x, int y, int c) {
         return static_cast<std::uint8_t>((s.at(x - r, y - r, c) + s.at(x, y - r, c) + s.at(x + r, y - r, c) +
                                           s.at(x - r, y, c) + s.at(x + r, y, c) + s.at(x - r, y + r, c) +
@@ -98,35 +98,35 @@ template <class Counts> Bits ranked(const Bits& bits, const Region& region, int 
     });
 }
 
-Bits dilate(const Bits& bits, const Region& region, const Arguments&)
+Bits dilate(const Bits& bits, const Region& region, const Given&)
 {
     return ranked(bits, region, 0, 1, [](int, int) { return true; });
 }
 
-Bits erode(const Bits& bits, const Region& region, const Arguments&)
+Bits erode(const Bits& bits, const Region& region, const Given&)
 {
     return ranked(bits, region, 0, 0, [](int, int) { return true; });
 }
 
 int marginOf(int mode) { return int(std::clamp<Wide>(1 - Wide{mode}, -5, 1 << 20)); }
 
-Bits rankFilterN4(const Bits& bits, const Region& region, const Arguments& a)
+Bits rankFilterN4(const Bits& bits, const Region& region, const Given& a)
 {
-    const int mode = wholeAt(a, 0);
+    const int mode = a.whole("Mode");
     return ranked(bits, region, marginOf(mode), mode,
                   [](int dx, int dy) { return std::abs(dx) != std::abs(dy) || (dx == 0 && dy == 0); });
 }
 
-Bits rankFilterND(const Bits& bits, const Region& region, const Arguments& a)
+Bits rankFilterND(const Bits& bits, const Region& region, const Given& a)
 {
-    const int mode = wholeAt(a, 0);
+    const int mode = a.whole("Mode");
     return ranked(bits, region, marginOf(mode), mode, [](int dx, int dy) { return std::abs(dx) == std::abs(dy); });
 }
 
-Bits contour(const Bits& bits, const Region& region, const Arguments& a)
+Bits contour(const Bits& bits, const Region& region, const Given& a)
 {
-    const int level = wholeAt(a, 0);
-    const Colour background = wholeAt(a, 1);
+    const int level = a.whole("Level");
+    const Colour background = a.whole("Background");
     const Source s{bits};
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         int v[3];
@@ -162,17 +162,17 @@ Bits embossed(const Bits& bits, const Region& region, int weight, int sign)
     return out;
 }
 
-Bits emboss(const Bits& bits, const Region& region, const Arguments& a)
+Bits emboss(const Bits& bits, const Region& region, const Given& a)
 {
-    return embossed(bits, region, wholeAt(a, 0), 1);
+    return embossed(bits, region, a.whole("Weight"), 1);
 }
 
-Bits engrave(const Bits& bits, const Region& region, const Arguments& a)
+Bits engrave(const Bits& bits, const Region& region, const Given& a)
 {
-    return embossed(bits, region, wholeAt(a, 0), -1);
+    return embossed(bits, region, a.whole("Weight"), -1);
 }
 
-Bits relief(const Bits& bits, const Region& region, const Arguments&)
+Bits relief(const Bits& bits, const Region& region, const Given&)
 {
     static constexpr int kernel[3][3] = {{2, 1, 0}, {1, 1, -1}, {0, -1, -2}};
     const Source s{bits};
@@ -199,14 +199,15 @@ std::vector<std::vector<int>> maskOf(std::string text)
     return mask;
 }
 
-Bits maskFilter(const Bits& bits, const Region& region, const Arguments& a)
+Bits maskFilter(const Bits& bits, const Region& region, const Given& a)
 {
-    const auto mask = maskOf(std::get<std::string>(a[0]));
+    constexpr const char* kAdd[] = {"AddBlue", "AddGreen", "AddRed"}; // by channel
+    const auto mask = maskOf(a.text("Mask"));
     const int M = int(mask.size()) - 1, half = M / 2;
     const Source s{bits};
     const Rect box = region.bounds();
     Wide xmin = box.left - half, xmax = box.right - 1 - half, ymin = box.top - half, ymax = box.bottom - 1 - half;
-    if (flagAt(a, 5)) {
+    if (a.flag("Clip")) {
         xmin = std::max<Wide>(xmin, 0), ymin = std::max<Wide>(ymin, 0);
         xmax = std::min<Wide>(xmax, bits.maxX() - M), ymax = std::min<Wide>(ymax, bits.maxY() - M);
     }
@@ -215,22 +216,22 @@ Bits maskFilter(const Bits& bits, const Region& region, const Arguments& a)
         for (Wide x = xmin; x <= xmax; ++x) {
             const int tx = int(x) + half, ty = int(y) + half;
             if (!region.contains(tx, ty) || tx < 0 || ty < 0 || tx > bits.maxX() || ty > bits.maxY()) continue;
-            const Wide divisor = roundEven(numberAt(a, 1));
+            const Wide divisor = roundEven(a.number("Divisor"));
             if (divisor == 0) throw RuntimeError(Fault::DivisionByZero);
             for (int c = 0; c < 3; ++c) {
                 Wide sum = 0;
                 for (int i = 0; i <= M; ++i)
                     for (int j = 0; j <= M; ++j) sum += Wide{s.at(x + i, y + j, c)} * mask[j][i];
-                out.at(tx, ty).c[c] = clamp(sum / divisor + wholeAt(a, 4 - c)); // blue is the last
+                out.at(tx, ty).c[c] = clamp(sum / divisor + a.whole(kAdd[c]));
             }
         }
     return out;
 }
 
 /// The first run of a new object: the number of a pixel's column is twice the pixel's, that of its row the next.
-Bits diffuse(const Bits& bits, const Region& region, const Arguments& a)
+Bits diffuse(const Bits& bits, const Region& region, const Given& a)
 {
-    const int h = wholeAt(a, 0), v = wholeAt(a, 1);
+    const int h = a.whole("HorizontalRange"), v = a.whole("VerticalRange");
     const float hx = static_cast<float>(h / 2.0), hy = static_cast<float>(v / 2.0);
     const Random random(cBitFilter::kRandomSeed);
     Bits out = bits;

@@ -186,8 +186,6 @@ void drawPalette(Dice& dice)
 void eachTrial(const std::string& name, const std::function<void(const Trial&)>& visit)
 {
     const Operation& op = *findOperation(name);
-    const auto found = definitions().find(name);
-    if (found == definitions().end()) throw std::invalid_argument("no definition of " + name);
     const auto tell = [&](std::size_t column, const std::string& kind, const Bits& bits, const Region& region,
                           const Arguments& arguments) {
         visit({std::to_string(bits.width()) + "x" + std::to_string(bits.height()) + ", " + kind + ", " + name +
@@ -201,7 +199,7 @@ void eachTrial(const std::string& name, const std::function<void(const Trial&)>&
                    op.call(filter, arguments);
                    return filter.bits();
                },
-               [&] { return found->second(bits, region, arguments); }});
+               [&] { return definedResult(name, bits, region, arguments); }});
     };
 
     for (std::size_t column = 0; column < std::size(kSizes); ++column) {

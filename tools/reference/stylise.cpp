@@ -16,9 +16,9 @@ void paint(Pixel& to, Colour colour)
     for (int c = 0; c < 3; ++c) to.c[c] = static_cast<std::uint8_t>(parts[c]);
 }
 
-Bits sketch(const Bits& bits, const Region& region, const Arguments& a)
+Bits sketch(const Bits& bits, const Region& region, const Given& a)
 {
-    const int level = wholeAt(a, 0);
+    const int level = a.whole("Level");
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         int e = 0;
         for (int c = 0; c < 3; ++c) {
@@ -27,14 +27,14 @@ Bits sketch(const Bits& bits, const Region& region, const Arguments& a)
                 for (int dx = -1; dx <= 1; ++dx) e -= bits.at(x + dx, y + dy).c[c];
         }
         const bool on = (e + 765) / 3 > level;
-        if (flagAt(a, 1))
+        if (a.flag("Mono"))
             paint(to, on ? 0xFFFFFF : 0);
         else if (on)
-            paint(to, wholeAt(a, 2));
+            paint(to, a.whole("Color"));
     });
 }
 
-Bits thermique(const Bits& bits, const Region& region, const Arguments&)
+Bits thermique(const Bits& bits, const Region& region, const Given&)
 {
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         const auto* c = bits.at(x, y).c;
@@ -56,8 +56,8 @@ Bits twoTone(const Bits& bits, const Region& region, Colour bright, Colour dark)
     });
 }
 
-Bits xblack(const Bits& bits, const Region& region, const Arguments&) { return twoTone(bits, region, 0, 0xFFFFFF); }
-Bits photocop(const Bits& bits, const Region& region, const Arguments&) { return twoTone(bits, region, 0xFFFFFF, 0); }
+Bits xblack(const Bits& bits, const Region& region, const Given&) { return twoTone(bits, region, 0, 0xFFFFFF); }
+Bits photocop(const Bits& bits, const Region& region, const Given&) { return twoTone(bits, region, 0xFFFFFF, 0); }
 
 /// The first `count` of the windows at the pixel's corners.
 Bits quadrants(const Bits& bits, const Region& region, int count, int best)
@@ -81,12 +81,12 @@ Bits quadrants(const Bits& bits, const Region& region, int count, int best)
     });
 }
 
-Bits dissolve(const Bits& bits, const Region& region, const Arguments&) { return quadrants(bits, region, 4, 999999); }
-Bits painting(const Bits& bits, const Region& region, const Arguments&) { return quadrants(bits, region, 3, 99999); }
+Bits dissolve(const Bits& bits, const Region& region, const Given&) { return quadrants(bits, region, 4, 999999); }
+Bits painting(const Bits& bits, const Region& region, const Given&) { return quadrants(bits, region, 3, 99999); }
 
-Bits stuckiBW(const Bits& bits, const Region& region, const Arguments& a)
+Bits stuckiBW(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide divisor = wholeAt(a, 0);
+    const Wide divisor = a.whole("Divisor");
     const int maxX = bits.maxX(), maxY = bits.maxY();
     const auto grey = [&](int x, int y) {
         const auto* c = bits.at(x, y).c;
@@ -130,9 +130,9 @@ Bits stuckiBW(const Bits& bits, const Region& region, const Arguments& a)
     return out;
 }
 
-Bits pixelize(const Bits& bits, const Region& region, const Arguments& a)
+Bits pixelize(const Bits& bits, const Region& region, const Given& a)
 {
-    const Wide size = wholeAt(a, 0);
+    const Wide size = a.whole("Size");
     Pixel held{{0, 0, 0, 0}};
     return eachPixel(bits, region, 0, [&](Pixel& to, int x, int y) {
         if (size == 0) throw RuntimeError(Fault::DivisionByZero);
@@ -148,12 +148,12 @@ Bits pixelize(const Bits& bits, const Region& region, const Arguments& a)
     });
 }
 
-Bits halftone(const Bits& bits, const Region& region, const Arguments& a)
+Bits halftone(const Bits& bits, const Region& region, const Given& a)
 {
-    const double r = wholeAt(a, 0);
-    const int limit = roundEven(quotient(r + wholeAt(a, 1), r) * r * r);
-    const float gain = static_cast<float>((wholeAt(a, 2) + 100.0) / 100);
-    const Wide radius = wholeAt(a, 0);
+    const double r = a.whole("Radius");
+    const int limit = roundEven(quotient(r + a.whole("Definition"), r) * r * r);
+    const float gain = static_cast<float>((a.whole("Intensity") + 100.0) / 100);
+    const Wide radius = a.whole("Radius");
     Bits out = bits;
     if (radius < 0) return out;
     const auto counts = [&](Wide x, Wide y) {
