@@ -79,7 +79,7 @@ Row operation(std::string family, double must, double goal, std::string name, Ar
             must,
             goal,
             [=](Size size) {
-                return Trial{calling(name, arguments, picture(size), everything(size)), {}};
+                return Timing{calling(name, arguments, picture(size), everything(size)), {}};
             },
             "memcpy",
             name};
@@ -93,7 +93,7 @@ Row inEllipse(std::string family, double must, double goal, std::string name, Ar
             goal,
             [=](Size size) {
                 const Bits& bits = picture(size);
-                return Trial{calling(name, arguments, bits, Region::ellipse(0, 0, size.width + 1, size.height + 1)),
+                return Timing{calling(name, arguments, bits, Region::ellipse(0, 0, size.width + 1, size.height + 1)),
                              calling(name, arguments, bits, everything(size)), std::acos(-1.0) / 4};
             },
             "whole picture a pixel",

@@ -13,7 +13,7 @@ struct Size {
 };
 
 /// What is timed: body against reference, run in turns. The row's figure is the median of body / (reference * share).
-struct Trial {
+struct Timing {
     std::function<void()> body;
     std::function<void()> reference; // empty: one memcpy of the picture's buffer into a warm destination
     double share = 1;
@@ -24,7 +24,7 @@ struct Trial {
 struct Row {
     std::string family, name;
     double must, goal;
-    std::function<Trial(Size)> prepare;
+    std::function<Timing(Size)> prepare;
     std::string unit = "memcpy"; // what the figure counts; "ms" stands for itself, without a reference
     std::string operation = {};  // of the engine's table, if the row measures one
 };

@@ -39,7 +39,7 @@ struct Desk {
 
 const Rows command{{"one command", "Invert: hand-over, filter, repaint, undo file", 8, 3.5, [](Size size) {
                         const auto desk = std::make_shared<Desk>(picture(size));
-                        return Trial{[desk] { desk->command(); }, {}};
+                        return Timing{[desk] { desk->command(); }, {}};
                     }}};
 
 } // namespace

@@ -37,7 +37,7 @@ Row row(std::string family, std::string name, double must, double goal, std::str
             goal,
             [body](Size size) {
                 const auto bench = std::make_shared<Bench>(size);
-                return Trial{[bench, body] { body(*bench); }, {}};
+                return Timing{[bench, body] { body(*bench); }, {}};
             },
             std::move(unit)};
 }
@@ -80,7 +80,7 @@ template <class Body> Row selection(std::string name, double must, double goal, 
             goal,
             [body](Size) {
                 const auto selection = std::make_shared<Selection>();
-                return Trial{[selection, body] { body(*selection); }, {}};
+                return Timing{[selection, body] { body(*selection); }, {}};
             },
             "ms"};
 }

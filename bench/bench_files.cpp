@@ -49,7 +49,7 @@ Row opening(const char* extension, int format, double must, double goal)
             [=](Size size) {
                 const QString path = pathOf("open", extension);
                 save(picture(size), path, extension);
-                return Trial{[=] { load(path, extension); },
+                return Timing{[=] { load(path, extension); },
                              [=] {
                                  const FreeImageStart library;
                                  FreeImage_Unload(FreeImage_Load(FREE_IMAGE_FORMAT(format), path.toUtf8(), 0));
@@ -67,7 +67,7 @@ Row saving(const char* extension, int format, int flags, double must, double goa
             [=](Size size) {
                 const QString path = pathOf("save", extension), reference = pathOf("reference", extension);
                 const auto dib = std::make_shared<Dib24>(picture(size));
-                return Trial{[=] { save(picture(size), path, extension); },
+                return Timing{[=] { save(picture(size), path, extension); },
                              [=] {
                                  const FreeImageStart library;
                                  FreeImage_Save(FREE_IMAGE_FORMAT(format), dib->get(), reference.toUtf8(), flags);
@@ -76,7 +76,7 @@ Row saving(const char* extension, int format, int flags, double must, double goa
             "FreeImage_Save"};
 }
 
-Trial jpegToBitmap(Size size)
+Timing jpegToBitmap(Size size)
 {
     const QString from = pathOf("photo", "jpg"), to = pathOf("photo", "bmp");
     save(picture(size), from, "jpg");

@@ -65,7 +65,7 @@ const Rows rows{{"composing", "drag step of one of ten texts", 8.0, 2.0,
                  [](Size size) {
                      needApplication();
                      auto dialog = std::make_shared<Dialog>(picture(size));
-                     return Trial{[dialog] { dialog->drag(); }, {}};
+                     return Timing{[dialog] { dialog->drag(); }, {}};
                  },
                  "ms"}};
 

@@ -9,14 +9,14 @@ namespace {
 Row depth(int depth, double must, double goal)
 {
     return {"depth reduction", "SetDepth(" + std::to_string(depth) + ")", must, goal, [depth](Size size) {
-                return Trial{[depth, size] { (void)bitsAtDepth(picture(size), depth); }, {}};
+                return Timing{[depth, size] { (void)bitsAtDepth(picture(size), depth); }, {}};
             }};
 }
 
 Row dither(const char* name, Dither how, double must, double goal)
 {
     return {"error diffusion", name, must, goal, [how](Size size) {
-                return Trial{[how, size] { (void)dithered(picture(size), halftoneColours(), how); }, {}};
+                return Timing{[how, size] { (void)dithered(picture(size), halftoneColours(), how); }, {}};
             }};
 }
 
@@ -30,7 +30,7 @@ const Rows rows{
     dither("256 colours, dispersed dots", Dither::Ordered, 80, 30),
     dither("256 colours, clustered dots", Dither::Haftone, 80, 30),
     {"depth reduction", "best 256 colours", 0, 0,
-     [](Size size) { return Trial{[size] { (void)reduceColours(picture(size), {}); }, {}}; }},
+     [](Size size) { return Timing{[size] { (void)reduceColours(picture(size), {}); }, {}}; }},
 };
 // clang-format on
 

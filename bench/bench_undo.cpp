@@ -23,7 +23,7 @@ Row row(std::string name, double must, double goal, int snapshots, void (*body)(
                 const Bits bits = picture(size);
                 for (int i = 0; i < snapshots; ++i) series->store.save(bits);
                 series->store.stands();
-                return Trial{[=] { body(series->store, bits); }, {}};
+                return Timing{[=] { body(series->store, bits); }, {}};
             }};
 }
 
@@ -57,7 +57,7 @@ Row release()
                     s->preview.commit();
                     s->document.SaveUndoBits();
                 };
-                return Trial{release, {}, 1, press};
+                return Timing{release, {}, 1, press};
             },
             "ms"};
 }
@@ -70,7 +70,7 @@ Row previews()
             16,
             [](Size size) {
                 const auto shown = std::make_shared<FilterPreview>(picture(size), Region(), QSize(300, 260));
-                return Trial{[shown] {
+                return Timing{[shown] {
                                  for (const FilterRow& row : filterRows()) shown->run(row, row.defaults());
                              },
                              {}};

@@ -27,7 +27,7 @@ Row repaint(std::string name, int zoom, double ratio = 1)
             [=](Size size) {
                 auto screen = std::make_shared<Screen>(ratio);
                 const Bits& bits = picture(size);
-                return Trial{[=] {
+                return Timing{[=] {
                                  QPainter painter(&screen->window);
                                  screen->renderer.paint(painter, bits, {101, 57, zoom, ratio}, kView, {});
                              },
@@ -47,7 +47,7 @@ Row mergingPreview(std::string name, bool tiled)
                 const Bits& bits = picture(size);
                 const Merging merging{bits, size.width / 3, size.height / 4, tiled, 50, 0xFFFFFF};
                 const Region region = Region::ellipse(0, 0, size.width + 1, size.height + 1);
-                return Trial{[=] { (void)mergedView(bits, region, merging, {380, 300}); }, {}};
+                return Timing{[=] { (void)mergedView(bits, region, merging, {380, 300}); }, {}};
             },
             "ms"};
 }

@@ -56,17 +56,17 @@ void measure(benchmark::State& state, const Row& row, Size size)
 try {
     const bool timed = row.unit == "ms";
     const clockid_t clock = timed ? CLOCK_MONOTONIC : CLOCK_PROCESS_CPUTIME_ID;
-    Trial trial = row.prepare(size);
-    if (!trial.reference) trial.reference = copying(size);
+    Timing timing = row.prepare(size);
+    if (!timing.reference) timing.reference = copying(size);
     std::vector<double> bodies, figures;
-    if (!trial.before) trial.before = [] {};
-    trial.before();
-    trial.body();
+    if (!timing.before) timing.before = [] {};
+    timing.before();
+    timing.body();
     for (auto _ : state) {
-        const double reference = timed ? 1 : milliseconds(trial.reference, clock);
-        trial.before();
-        bodies.push_back(milliseconds(trial.body, clock));
-        figures.push_back(bodies.back() / (reference * trial.share));
+        const double reference = timed ? 1 : milliseconds(timing.reference, clock);
+        timing.before();
+        bodies.push_back(milliseconds(timing.body, clock));
+        figures.push_back(bodies.back() / (reference * timing.share));
         state.SetIterationTime(bodies.back() / 1000);
     }
     state.counters["ms"] = median(bodies);

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Fails on an include of src/ that points up the floors, or sideways to another folder of its own floor."""
+"""Fails on an include of src/ that points up the floors, or sideways to another folder of its own floor, on a folder of too
+many files, and on a type's name that two places of the whole tree define: linked into one program they would be one."""
 import pathlib
 import re
 import sys
@@ -53,5 +54,17 @@ for folder in [source, *sorted(p for p in source.rglob("*") if p.is_dir())]:
     if len(files) > MOST_FILES:
         faults.append(f"{folder.relative_to(source)}: {len(files)} files, at most {MOST_FILES} fit a room")
 
-print("\n".join(faults) or "every include points down")
+places = {}
+for tree in ["src", "tests", "tools", "bench"]:
+    for file in sorted((source.parent / tree).rglob("*.[ch]*")):
+        anonymous = False
+        for text in file.read_text().splitlines():
+            if text in ("namespace {", "} // namespace"):
+                anonymous = text == "namespace {"
+            defined = re.match(r"(?:class|struct|enum class|enum|union) (\w+)(?: final)?(?: : [^;]*)? \{", text)
+            if defined and not anonymous:
+                places.setdefault(defined[1], set()).add(file.relative_to(source.parent).as_posix())
+faults += [f"{name} is defined in {' and '.join(sorted(found))}" for name, found in places.items() if len(found) > 1]
+
+print("\n".join(faults) or "every include points down, every name means one thing")
 sys.exit(bool(faults))

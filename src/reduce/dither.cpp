@@ -1,7 +1,7 @@
 #include "reduce/dither.h"
 #include "pixels/NearestColours.h"
 #include "pixels/PixelLanes.h"
-#include "reduce/Screens.h"
+#include "reduce/DotScreen.h"
 #include <algorithm>
 #include <span>
 
@@ -36,7 +36,7 @@ class Work {
 
     void screened(const ScreenMatrix& matrix)
     {
-        Screen screen(colours_, nearest_);
+        DotScreen screen(colours_, nearest_);
         eachPixel([&](Pixel p, int x, int y) {
             return screen(p, matrix[std::size_t(y % 8 * 8 + x % 8)], x / 8 + y / 8 * 3);
         });

@@ -34,14 +34,14 @@ int check(const TrialFamily& family, const std::string& tests)
     return stale + (std::getline(file, line) ? 1 : 0);
 }
 
-std::string text(const Outcome& outcome)
+std::string text(const TrialResult& outcome)
 {
     if (outcome.fault) return RuntimeError(*outcome.fault).what();
     return std::to_string(outcome.bits.width()) + "x" + std::to_string(outcome.bits.height());
 }
 
 /// One line a differing trial: the first pixel with both values, and how many pixels differ.
-void tellDifference(const Trial& trial, const Outcome& literal, const Outcome& fast)
+void tellDifference(const Trial& trial, const TrialResult& literal, const TrialResult& fast)
 {
     std::printf("  %s: ", trial.where.c_str());
     const Bits &a = literal.bits, &b = fast.bits;
@@ -65,7 +65,7 @@ bool agrees(const TrialFamily& family, const std::string& subject)
 {
     int differing = 0;
     family.eachTrial(subject, [&](const Trial& trial) {
-        const Outcome literal = outcomeOf(trial.literal), fast = outcomeOf(trial.fast);
+        const TrialResult literal = resultOf(trial.literal), fast = resultOf(trial.fast);
         if (literal == fast) return;
         if (!differing++) std::printf("%s\n", subject.c_str());
         if (differing <= 10) tellDifference(trial, literal, fast);

@@ -3,7 +3,7 @@
 
 namespace velara {
 
-Outcome outcomeOf(const std::function<Bits()>& run)
+TrialResult resultOf(const std::function<Bits()>& run)
 {
     try {
         return {run(), {}};
@@ -16,7 +16,7 @@ Sums sumsOf(const TrialFamily& family, const std::string& subject, std::function
 {
     std::vector<std::uint64_t> sums;
     family.eachTrial(subject, [&](const Trial& trial) {
-        const Outcome outcome = outcomeOf(trial.*side);
+        const TrialResult outcome = resultOf(trial.*side);
         const std::int32_t head[] = {outcome.fault ? static_cast<int>(*outcome.fault) : -1, outcome.bits.width(),
                                      outcome.bits.height()};
         sums.resize(std::max(sums.size(), trial.column + 1), checksum(nullptr, 0));

@@ -28,12 +28,12 @@ TrialFamily paintTrials();
 TrialFamily commandTrials();
 
 /// The picture that a trial leaves, or the fault that was raised.
-struct Outcome {
+struct TrialResult {
     Bits bits;
     std::optional<Fault> fault;
-    friend bool operator==(const Outcome&, const Outcome&) = default;
+    friend bool operator==(const TrialResult&, const TrialResult&) = default;
 };
-Outcome outcomeOf(const std::function<Bits()>& run);
+TrialResult resultOf(const std::function<Bits()>& run);
 
 /// A checksum a column, over size and every byte, margin included.
 using Sums = std::vector<std::uint32_t>;

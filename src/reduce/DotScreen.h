@@ -14,10 +14,10 @@ namespace velara {
 using ScreenMatrix = std::array<std::uint8_t, 64>;
 extern const ScreenMatrix kDispersedDots, kClusteredDots;
 
-class Screen {
+class DotScreen {
   public:
     /// colours: those that nearest knows, at most 256.
-    Screen(const std::vector<Pixel>& colours, NearestColours& nearest);
+    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest);
 
     /// The entry for the colour at a place of the matrix's order, in a square of the picture. Colours of the palette
     /// are their own. Mixed are 32 levels a channel: those between go to the one below or above, each place to all of

@@ -1,4 +1,4 @@
-#include "reduce/Screens.h"
+#include "reduce/DotScreen.h"
 #include "reduce/palettes.h"
 #include <algorithm>
 
@@ -38,7 +38,7 @@ constexpr ScreenMatrix kClusteredDots{
     32, 40, 54, 38, 31, 21, 19, 29};
 // clang-format on
 
-Screen::Screen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest), colours_(colours)
+DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest), colours_(colours)
 {
     for (const Pixel& p : colours) {
         lanes_.push_back(wide(p));
@@ -47,7 +47,7 @@ Screen::Screen(const std::vector<Pixel>& colours, NearestColours& nearest) : nea
     }
 }
 
-int Screen::lookCloser(Pixel p, std::size_t cell, int place)
+int DotScreen::lookCloser(Pixel p, std::size_t cell, int place)
 {
     if (state_[cell] & kHoldsEntry) {
         const int own = nearest_(p);
@@ -59,7 +59,7 @@ int Screen::lookCloser(Pixel p, std::size_t cell, int place)
 }
 
 /// Each entry is the nearest to the colour and to what all before it have left of it.
-void Screen::mix(std::size_t cell)
+void DotScreen::mix(std::size_t cell)
 {
     const auto value = [&](int channel) {
         return (static_cast<int>(cell >> kBits * channel & kMostLevel) * 255 + kMostLevel / 2) / kMostLevel;
