@@ -13,9 +13,9 @@ namespace velara {
 constexpr int kCells = 224, kCellColumns = 16, kCellSide = 15, kCellGap = 3, kFirstCell = 10;
 constexpr int kSafeColours = 216;
 
-/// Cell 1 to kCells, row by row.
+/// Rectangle of cell 1 to kCells, row by row.
 Rect cellRect(int cell);
-/// The cell at a place; 0 for none.
+/// The cell at a position; 0 for none.
 int cellAt(int x, int y);
 /// Six levels a channel, red outermost; nothing for the cells above kSafeColours.
 std::optional<Colour> safeColour(int cell);
@@ -23,14 +23,14 @@ std::optional<Colour> safeColour(int cell);
 /// Element 0 has no cell. Values are kept as they were read, whatever their highest byte.
 using UserColours = std::array<std::int32_t, kCells + 1>;
 
-/// Takes a line for each element, as far as there are lines: the number that it begins with, rounded half to even; 0
-/// without one. A number beyond 32 bits leaves the element as it was.
+/// Reads one line an element, as far as there are lines: the number at its start, rounded half to even, or 0 without
+/// one. A number beyond 32 bits leaves the element unchanged.
 void readUserColours(const QByteArray& text, UserColours& colours);
-/// kCells + 1 lines: a blank before what is not negative, CR LF behind.
+/// kCells + 1 lines, each with a leading blank unless negative, and CR LF.
 QByteArray userColoursText(const UserColours& colours);
 
-/// The three parts in hexadecimal, one after the other. The zero that a short one lacks stands before all of it: odd,
-/// and it stays.
+/// Red, green and blue in hexadecimal, concatenated. Missing leading zeros of a component are put in front of the whole
+/// text, not of the component: a quirk that is kept.
 QString GetHexVal(int red, int green, int blue);
 
 } // namespace velara

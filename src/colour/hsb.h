@@ -1,5 +1,5 @@
-// Hue, saturation and brightness as the colour picker shows them, and the state behind its boxes: one colour that can
-// be edited from both sides without drift.
+// HSB conversion as the colour picker shows it, and the state behind its number boxes: one colour that can be edited as
+// RGB or as HSB without rounding drift.
 #pragma once
 #include "pixels/Bits.h"
 #include "pixels/mHSLRGB.h"
@@ -7,7 +7,7 @@
 
 namespace velara {
 
-/// Hue in degrees 0..360 (360 is 0 once more), saturation and brightness 0..1.
+/// Hue in degrees 0..360 (360 equals 0), saturation and brightness 0..1.
 struct Hsb {
     double h = 0, s = 0, b = 0;
     friend bool operator==(const Hsb&, const Hsb&) = default;
@@ -15,7 +15,7 @@ struct Hsb {
 
 /// Bytes to HSB; greys have hue 0, black saturation 0 too.
 Hsb toHsb(Rgb colour);
-/// Undoes toHsb for every colour.
+/// Exact inverse of toHsb for every byte colour.
 Rgb toRgb(const Hsb& colour);
 
 constexpr Rgb rgbOf(Colour colour) { return {redOf(colour), greenOf(colour), blueOf(colour)}; }
@@ -32,13 +32,13 @@ class PickedColour {
 
     Colour colour() const { return colour_; }
     const Hsb& hsb() const { return hsb_; }
-    /// A grey keeps the hue that was there, black the saturation too, so that strip and field do not jump.
+    /// A grey keeps the previous hue, black also the previous saturation, so that strip and field don't jump.
     void setColour(Colour colour);
-    /// Values beyond their range are brought into it.
+    /// Values are clamped to their range.
     void setHsb(const Hsb& hsb);
-    /// The whole number that stands in the part's box.
+    /// The whole number shown in the component's box.
     int shown(Part part) const;
-    /// The box was given a number, 0 to kMostOfPart. The one that is shown changes nothing.
+    /// Sets a component from its box, 0 to kMostOfPart. The number already shown changes nothing.
     void type(Part part, int number);
 
   private:

@@ -22,7 +22,7 @@ template <class PixelAt> QImage painted(int width, int height, PixelAt pixelAt)
 
 constexpr double kLast = kField - 1;
 
-/// A part's way along an axis: its member, its largest value, and whether it falls from the first pixel on.
+/// A component along an axis: its member, its largest value, and whether it decreases along the axis.
 struct Axis {
     double Hsb::*part;
     double most;

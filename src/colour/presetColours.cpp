@@ -6,7 +6,7 @@ namespace velara {
 
 namespace {
 
-/// The sixteen of the early displays: eight hues full, the same at half, in two rows.
+/// The sixteen colours of early displays: eight at full level, the same eight at half, in two rows.
 std::vector<Colour> sixteen()
 {
     std::vector<Colour> list;
@@ -37,7 +37,8 @@ std::vector<Colour> fortyEight()
 
 constexpr int kShades = 48;
 
-/// From black through the full colour to nearly white, leaning a little to both neighbours in the second and third row.
+/// From black through the full colour to nearly white; the second and third row are shifted a little towards the two
+/// neighbouring hues.
 std::vector<Colour> shadesOf(double hue)
 {
     constexpr int kRow = kShades / 3;

@@ -6,9 +6,10 @@ namespace velara {
 
 namespace {
 
-constexpr int kMostError = 64 * 255; // of all entries together; beyond the palette it would grow without end
+constexpr int kMostError =
+    64 * 255; // summed over all entries; for colours outside the palette's gamut it would grow without end
 
-/// Each doubling puts 0, 2 / 3, 1 between the places there are.
+/// Bayer's matrix: each doubling inserts 0, 2 / 3, 1 between the thresholds there are.
 constexpr ScreenMatrix dispersed()
 {
     ScreenMatrix matrix{};
@@ -25,7 +26,7 @@ constexpr ScreenMatrix dispersed()
 
 constexpr ScreenMatrix kDispersedDots = dispersed();
 
-// Two dots a square, each growing outwards from its middle; the second one is the first a step later.
+// Clustered dots: two a square, each growing outwards from its centre; the second lags the first by one step.
 // clang-format off
 constexpr ScreenMatrix kClusteredDots{
     24, 10, 12, 26, 35, 47, 49, 37,
@@ -58,7 +59,7 @@ int DotScreen::lookCloser(Pixel p, std::size_t cell, int place)
     return mixtures_[cell][std::size_t(place)];
 }
 
-/// Each entry is the nearest to the colour and to what all before it have left of it.
+/// Each entry is the nearest to the colour plus the error that the entries before it have left.
 void DotScreen::mix(std::size_t cell)
 {
     const auto value = [&](int channel) {

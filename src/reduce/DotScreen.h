@@ -1,5 +1,5 @@
-// Dithers by a matrix, for any palette: each colour becomes a mixture of 64 entries of the palette whose mean it is,
-// dark ones first, and the matrix says which of them a pixel gets. Mixtures are kept: a picture has few that differ.
+// Ordered dithering for any palette: each colour is approximated by 64 palette entries with its mean, sorted dark to
+// light, and an 8x8 threshold matrix picks the entry of a pixel. The lists are cached: a picture needs few of them.
 #pragma once
 #include "pixels/NearestColours.h"
 #include "pixels/PixelLanes.h"
@@ -10,7 +10,7 @@
 
 namespace velara {
 
-/// Places 0 to 63 by row and column of a square of 8.
+/// Thresholds 0 to 63 of an 8x8 square, row by row.
 using ScreenMatrix = std::array<std::uint8_t, 64>;
 extern const ScreenMatrix kDispersedDots, kClusteredDots;
 
@@ -19,9 +19,9 @@ class DotScreen {
     /// colours: those that nearest knows, at most 256.
     DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest);
 
-    /// The entry for the colour at a place of the matrix's order, in a square of the picture. Colours of the palette
-    /// are their own. Mixed are 32 levels a channel: those between go to the one below or above, each place to all of
-    /// them in eight squares of following numbers, which together give their mean.
+    /// The palette entry for a colour at a threshold of the matrix, in a numbered square of the picture. Colours of the
+    /// palette map to themselves. Channels are quantised to 32 levels; the rounding direction varies over eight
+    /// successive squares, so that the mean is kept.
     int operator()(Pixel p, int place, int square)
     {
         const std::size_t cell = cellOf(p, std::size_t(place + square) % kRanks);

@@ -12,7 +12,7 @@ constexpr std::uint32_t kColour = 0x00FFFFFF;
 
 std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
 
-/// Each row by body(from, to, width); the margin and the fourth bytes stay.
+/// Calls body(from, to, width) for each row; margin and fourth bytes are kept.
 template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progress, Body body)
 {
     if (bits.isNull()) return bits;
@@ -30,7 +30,7 @@ template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progr
     return out;
 }
 
-/// The nearest of two: a sum of the channels from 383 on is nearer to white.
+/// Black or white: from a channel sum of 383 on white is nearer.
 void blackOrWhite(const Pixel* from, Pixel* to, int width)
 {
     for (int x = 0; x < width; ++x) {

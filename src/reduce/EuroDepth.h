@@ -1,5 +1,5 @@
-// EuroDepth: a picture as a screen of fewer colours shows it: each pixel the nearest colour of a fixed table, without
-// dithering, or the high bits of its channels.
+// EuroDepth: a picture as a display of lower depth shows it: each pixel mapped to the nearest colour of a fixed table
+// without dithering, or reduced to the high bits of its channels.
 #pragma once
 #include "pixels/Bits.h"
 #include "reduce/palettes.h"
@@ -16,14 +16,14 @@ bool isColourDepth(int depth);
 /// The table of a depth of 1, 4 or 8 bits: black and white, the 16 of VGA, the halftone palette; empty for others.
 Palette tableOfDepth(int depth);
 
-/// The whole picture at a depth. 1, 4, 8: the nearest of its table, squared distance, the lowest of equals. 15 and 16
-/// alike: five bits a channel, repeated below, so that white stays white. 24 and 32, and what is no depth: as it is.
-/// The fourth bytes and the margin are kept.
+/// The whole picture at a depth. 1, 4, 8: the nearest of its table by squared distance, ties to the lowest index. 15
+/// and 16 alike: five bits a channel, replicated into the low bits so that white stays white. Any other: unchanged. The
+/// fourth bytes and the margin are kept.
 Bits bitsAtDepth(const Bits& bits, int depth, const ReduceProgress& progress = {});
 
 class EuroDepth {
   public:
-    // Each gives the reduced source to the target; without one the source itself becomes it.
+    // Each writes the reduced source to target, or in place without one.
     void SetDepth_01Bit(Bits& Source, Bits* Target = nullptr) { set(1, Source, Target); }
     void SetDepth_04Bit(Bits& Source, Bits* Target = nullptr) { set(4, Source, Target); }
     void SetDepth_08Bit(Bits& Source, Bits* Target = nullptr) { set(8, Source, Target); }

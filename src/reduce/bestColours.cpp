@@ -11,14 +11,13 @@ namespace velara {
 
 namespace {
 
-/// A big picture has pixels enough for its palette in a sample of them: beyond this a palette costs time and gains
-/// nothing that can be seen.
+/// Big pictures are sampled: more pixels than this cost time and improve the palette by nothing visible.
 constexpr double kSampledPixels = 1 << 17;
-constexpr int kSpeed = 4; // of the quantiser's 1 (slow) to 10; below 4 it gains little
+constexpr int kSpeed = 4; // the quantiser's scale is 1 (slow, best) to 10; below 4 it gains little
 
 Colour colourAt(const Pixel& pixel) { return colourOf(pixel.c[2], pixel.c[1], pixel.c[0]); }
 
-/// Nothing when there are more colours.
+/// Nothing when the picture has more colours.
 std::optional<Palette> ownColours(const Bits& bits, int colours)
 {
     std::unordered_set<Colour> known;
@@ -34,7 +33,7 @@ std::optional<Palette> ownColours(const Bits& bits, int colours)
     return palette;
 }
 
-/// Every so manyth pixel of a picture in both directions, as the quantiser wants it: red, green, blue, opaque.
+/// Every n-th pixel in both directions, in the quantiser's format: red, green, blue, opaque.
 struct Sample {
     const Bits& bits;
     int step, width, height;
@@ -59,7 +58,7 @@ using Attributes = std::unique_ptr<liq_attr, Destroy<liq_attr, liq_attr_destroy>
 using Image = std::unique_ptr<liq_image, Destroy<liq_image, liq_image_destroy>>;
 using Result = std::unique_ptr<liq_result, Destroy<liq_result, liq_result_destroy>>;
 
-/// Tells progress from within the quantiser, through which nothing may be thrown.
+/// Progress callback of the quantiser, a C library: exceptions must not cross it.
 int tell(float, void* user)
 try {
     (*static_cast<const ReduceProgress*>(user))(0);

@@ -6,11 +6,11 @@
 
 namespace velara {
 
-/// The palette of at most so many colours (2 to 256) that suits the picture best. A picture of no more colours gives
-/// exactly its own, in the order of their first use. std::bad_alloc when memory is short.
+/// The best palette of at most count colours (2 to 256). A picture with no more colours than that yields exactly its
+/// own, in order of first use. std::bad_alloc when memory is short.
 Palette bestPalette(const Bits& bits, int colours, const ReduceProgress& progress = {});
 
-/// The picture in its best palette, each pixel the nearest of its colours, without dithering.
+/// The picture mapped to its best palette, each pixel to the nearest colour, without dithering.
 IndexedPicture reduceToBestColours(const Bits& bits, int colours, const ReduceProgress& progress = {});
 
 } // namespace velara

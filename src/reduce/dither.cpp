@@ -9,7 +9,8 @@ namespace velara {
 
 namespace {
 
-constexpr int kMostError = 160; // of a channel; more is lost, so that colours beyond the palette don't smear
+constexpr int kMostError =
+    160; // a channel; the rest is dropped, so that colours outside the palette's gamut don't smear
 
 class Work {
   public:
@@ -22,7 +23,7 @@ class Work {
     }
     IndexedPicture take() { return std::move(picture_); }
 
-    /// Each pixel by itself: index = body(pixel, x, y).
+    /// Pixels are independent: index = body(pixel, x, y).
     template <class Body> void eachPixel(Body body)
     {
         for (int y = 0; y < bits_.height(); ++y) {
@@ -42,7 +43,7 @@ class Work {
         });
     }
 
-    /// All of the error to the pixel below, moved by so many columns to the right.
+    /// All of the error goes to the next row, shift columns to the right.
     void downwards(int shift)
     {
         const int width = bits_.width();
@@ -62,7 +63,7 @@ class Work {
         }
     }
 
-    /// Rows know nothing of each other: some go side by side, as each pixel has to wait for the one before it.
+    /// Rows are independent; several are interleaved to hide the serial dependency along a row.
     void alongRows()
     {
         constexpr int kAbreast = 4;
@@ -80,7 +81,8 @@ class Work {
         }
     }
 
-    /// To the next pixel and three below it, in sixteenths; rows of this parity run from right to left.
+    /// Floyd-Steinberg weights: 7/16 to the next pixel, 3, 5 and 1 sixteenths below; rows of this parity run from right
+    /// to left.
     void turning(int parity)
     {
         const int width = bits_.width();
@@ -92,7 +94,7 @@ class Work {
             std::uint8_t* to = rowOf(y) + first;
             const Lanes* here = errors.data() + 1 + first;
             Lanes* below = next.data() + 1 + first;
-            Lanes ahead{}, under{}, corner{}; // for the next pixel, the one below this, and the one below the next
+            Lanes ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
             for (int i = 0; i < width; ++i, from += step, to += step, here += step, below += step) {
                 const Lanes error = put(*to, *from, *here + ahead);
                 const Lanes right = error * 7 >> 4, back3 = error * 3 >> 4, middle = error * 5 >> 4;
@@ -126,8 +128,8 @@ class Work {
     {
         return ((std::bit_cast<std::uint32_t>(a) ^ std::bit_cast<std::uint32_t>(b)) & 0xFFFFFF) == 0;
     }
-    /// The entry nearest to the pixel with its error, and what is left of that. With an error it is the entry for the
-    /// middle of a cube of four levels: what that costs goes on with the error, and the table stays in the cache.
+    /// The entry nearest to pixel plus error, and the new error. With an error, lookups are quantised to cubes of four
+    /// levels: the loss is diffused with the rest, and the table stays in the cache.
     Lanes put(std::uint8_t& to, Pixel p, Lanes error)
     {
         const Lanes wanted = wide(p) + error;
@@ -144,8 +146,8 @@ class Work {
             known = static_cast<std::uint16_t>(1 + nearest_(std::bit_cast<Pixel>((w & 0xFCFCFC) | 0x020202)));
         return known - 1;
     }
-    /// What a line of errors begins with, so that not all of them begin alike: spread evenly between the pixel's own
-    /// error and its opposite.
+    /// The error that a line of diffusion starts with. It varies evenly between plus and minus the first pixel's error,
+    /// so that neighbouring lines don't produce the same pattern.
     Lanes seed(Pixel p, int line)
     {
         const Lanes error = wide(p) - lanes_[std::size_t(nearest_(p))];

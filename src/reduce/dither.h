@@ -1,27 +1,27 @@
-// A picture in the colours of a palette, by one of the ways to spread what each pixel loses.
+// Maps a picture to a palette, with the choice of how the quantisation error is spread.
 #pragma once
 #include "pixels/IndexedPicture.h"
 #include "reduce/EuroDepth.h"
 
 namespace velara {
 
-/// The words by which dithers are known.
+/// The dithers, by the numbers that are stored and passed.
 enum class Dither {
-    None = 0,            // the nearest colour
-    Binary = 1,          // each channel black or white first, at its middle
-    Ordered = 2,         // an 8x8 matrix of dispersed dots
-    Haftone = 4,         // an 8x8 screen of growing dots
-    ForwardDiag = 8,     // the error goes down and to the right
-    BackwardDiag = 0x10, // down and to the left
-    Horizontal = 0x20,   // along the row
-    Vertical = 0x40,     // down the column
-    Odd = 0x100,         // to four neighbours, every odd row from right to left
-    Even = 0x200,        // every even row from right to left
+    None = 0,            // nearest colour, no dither
+    Binary = 1,          // each channel thresholded at its middle first
+    Ordered = 2,         // ordered, 8x8 dispersed dots
+    Haftone = 4,         // ordered, 8x8 clustered dots
+    ForwardDiag = 8,     // error to the pixel below right
+    BackwardDiag = 0x10, // to the pixel below left
+    Horizontal = 0x20,   // to the next pixel of the row
+    Vertical = 0x40,     // to the pixel below
+    Odd = 0x100,         // to four neighbours (Floyd-Steinberg), odd rows from right to left
+    Even = 0x200,        // the same, even rows from right to left
 };
 
-/// Nearest is by squared distance, the lowest of equals; pixels that carry an error take a neighbour of it. Colours of
-/// the palette stay as they are. All but Binary keep the mean of an even area that the palette
-/// can mix. Words that are none count as None. palette: 1 to 256 colours.
+/// Squared distance, ties to the lowest index; with diffused error the match may be approximate. Colours of the palette
+/// map to themselves. All but Binary keep the mean of a flat area whose colour lies in the palette's gamut. An unknown
+/// dither counts as None. palette: 1 to 256 colours.
 IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress = {});
 
 } // namespace velara

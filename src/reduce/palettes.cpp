@@ -16,7 +16,7 @@ constexpr std::array kSystemFirst{0x000000, 0x800000, 0x008000, 0x808000, 0x0000
 constexpr std::array kSystemLast{0xFFFBF0, 0xA0A0A4, 0x808080, 0xFF0000, 0x00FF00,
                                  0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
 
-/// Level i of so many, 0 to 255.
+/// Level i of count equal steps, 0 to 255.
 constexpr int level(int i, int levels) { return levels < 2 ? 0 : (i * 255 + (levels - 1) / 2) / (levels - 1); }
 
 struct Levels {
@@ -24,7 +24,7 @@ struct Levels {
     int colours() const { return red * green * blue; }
 };
 
-/// The most colours that fit: green first, since the eye tells most of its levels apart.
+/// The largest split into levels that fits; green gets the most, as the eye tells its levels apart best.
 Levels levelsFor(int count)
 {
     Levels best{2, 2, 2};
@@ -35,7 +35,7 @@ Levels levelsFor(int count)
     return best;
 }
 
-/// Without levels of blue.
+/// Too few colours for levels of blue.
 Palette planeOfColours(int red, int green)
 {
     Palette palette;

@@ -9,7 +9,7 @@ namespace {
 
 using Band = std::span<const Span>;
 
-/// Both rows walked edge by edge from left to right; a piece between two edges is kept when keep(in a, in b).
+/// Merges two rows of spans edge by edge; a piece between two edges is kept when keep(inside a, inside b).
 template <class Keep> void combineRows(RegionBuilder& out, Band a, Band b, Keep keep)
 {
     const auto edge = [](Band row, std::size_t i) -> std::int64_t { // each span has two; none left: beyond the right
@@ -29,7 +29,7 @@ template <class Keep> void combineRows(RegionBuilder& out, Band a, Band b, Keep 
     }
 }
 
-/// The bands of both regions cut into strips in which neither changes. Data is Region::Data, which is private.
+/// Cuts the bands of both regions into strips within which neither changes. Data is Region::Data, which is private.
 template <class Data, class Keep> Region combineBands(const Data& a, const Data& b, Keep keep)
 {
     constexpr std::int64_t kNone = std::numeric_limits<std::int64_t>::max();

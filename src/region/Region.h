@@ -1,6 +1,6 @@
-// Region: a set of pixels as rectangles in bands, always in canonical form, so that equal sets have equal bands. Row
-// spans, set algebra in the time of the bands, the flat word form, and the defined coverage of ellipses and polygons.
-// An immutable value, shared by its copies.
+// Region: a set of pixels, stored as bands of spans in canonical form, so that equal sets are stored equally. Offers
+// the spans of a row, set algebra in time linear in the bands, the flat word form of files, and the exact pixel
+// coverage of ellipses and polygons. An immutable value, shared by its copies.
 #pragma once
 #include <cstdint>
 #include <functional>
@@ -30,7 +30,7 @@ struct Rect {
     bool isEmpty() const { return right <= left || bottom <= top; }
     bool contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
     Rect intersected(const Rect& other) const;
-    /// The smallest rectangle around both; an empty one counts for nothing.
+    /// Bounding rectangle of both; empty ones are ignored.
     Rect united(const Rect& other) const;
     friend bool operator==(const Rect&, const Rect&) = default;
 };
@@ -43,21 +43,21 @@ class Region {
     /// No region at all (isNull), as before anything was selected; it also counts as empty.
     Region() = default;
 
-    /// Corners are put in order; a zero width or height gives the empty region.
+    /// Corners may come in any order; zero width or height gives the empty region.
     static Region rectangle(int left, int top, int right, int bottom);
-    /// Coverage as RegionShapes.cpp tells: the last column and row of the box stay out. Null above 2^26 pixels a side.
+    /// Coverage as in RegionShapes.cpp; the box's last column and row stay outside. Null above 2^26 pixels a side.
     static Region ellipse(int left, int top, int right, int bottom);
-    /// points is x0, y0, x1, y1, ...; winding fill; a pixel is judged at its upper left corner, so right and bottom
-    /// edges are excluded. Null above 2^26 rows or when it falls into more than 2^24 rectangles.
+    /// points is x0, y0, x1, y1, ...; nonzero winding rule; a pixel is sampled at its upper left corner, so right and
+    /// bottom edges are excluded. Null above 2^26 rows or 2^24 rectangles.
     static Region polygon(std::span<const std::int32_t> points);
 
     bool isNull() const { return !data_; }
     bool isEmpty() const;
-    /// The smallest box; 0, 0, 0, 0 when empty.
+    /// Bounding box; 0, 0, 0, 0 when empty.
     Rect bounds() const;
     bool contains(int x, int y) const;
     std::size_t rectangleCount() const;
-    /// From top to bottom, in a band from left to right.
+    /// From top to bottom, within a band from left to right.
     void forEachRectangle(const std::function<void(const Rect&)>& visit) const;
 
     /// The spans of row y from left to right. Empty outside of the region.
@@ -65,16 +65,16 @@ class Region {
 
     /// A null operand counts as empty; Copy gives this region.
     Region combined(const Region& other, Combine mode) const;
-    /// Unmoved when a coordinate would leave 32 bits.
+    /// Returned unmoved when a coordinate would overflow 32 bits.
     Region translated(int dx, int dy) const;
-    /// Every coordinate times factor >= 0, rounded half to even and limited to 32 bits.
+    /// Every coordinate times factor >= 0, rounded half to even and clamped to 32 bits.
     Region scaled(double factor) const;
 
     /// The flat form: header size 32, type 1, rectangle count n, 16n, bounding box, then n rectangles of four words.
     std::vector<std::int32_t> words() const;
-    /// The union of the rectangles in words, in any order, overlapping or not; inverted and empty ones drop out. Null
-    /// when the words are fewer than the count says, the header says less than 32 bytes, or the union falls into more
-    /// than 2^24 rectangles. Any input is safe.
+    /// Union of the rectangles in words, in any order, overlapping or not; inverted and empty ones are ignored. Null
+    /// when there are fewer words than the count claims, the header claims less than 32 bytes, or the union needs more
+    /// than 2^24 rectangles. Safe for any input.
     static Region fromWords(std::span<const std::int32_t> words);
 
     friend bool operator==(const Region& a, const Region& b);

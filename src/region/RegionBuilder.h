@@ -1,5 +1,5 @@
-// RegionBuilder: makes a region from its rows, top to bottom, and brings it into the one canonical form: spans that
-// touch are joined, bands that touch and are equal are joined.
+// RegionBuilder: builds a region row by row from the top, in canonical form: touching spans are joined, and so are
+// touching bands with equal spans.
 #pragma once
 #include "region/Region.h"
 #include <algorithm>
@@ -23,11 +23,11 @@ struct Region::Data {
 
 class RegionBuilder {
   public:
-    /// More spans than this make no region: a hostile file or a polygon of millions of rows must not eat the memory.
+    /// Upper limit of spans: a hostile file or a polygon of millions of rows must not exhaust the memory.
     static constexpr std::size_t kMostSpans = std::size_t(1) << 24;
 
-    /// Adds a span to the band being built. Spans come from left to right, touching ones are joined, empty ones drop
-    /// out.
+    /// Adds a span to the band being built. Spans come from left to right; touching ones are joined, empty ones
+    /// ignored.
     void add(int x0, int x1)
     {
         if (x0 >= x1) return;
@@ -39,7 +39,7 @@ class RegionBuilder {
     }
     /// Ends the band: its rows are top up to but not including bottom, at or below those of the band before.
     void endBand(int top, int bottom);
-    /// True when kMostSpans is passed; the result is then a null region.
+    /// True when kMostSpans is exceeded; the result is then a null region.
     bool overflows() const { return data_->spans.size() > kMostSpans; }
     Region take();
 

@@ -8,16 +8,17 @@ namespace velara {
 
 namespace {
 
-constexpr std::int64_t kMostRows = std::int64_t(1) << 26; // wider or higher shapes make no region
+constexpr std::int64_t kMostRows = std::int64_t(1) << 26; // larger shapes give a null region
 
-/// Half the shape: the reach X of the rows V = parity of B, .., B, all distances doubled, for an ellipse through the
-/// centres of its outermost pixels, A and B from the middle. Whole is wide enough for A*A*B*B.
+/// One quadrant of an ellipse: the half-width of each row V = parity of B, .., B. All distances are doubled, so that
+/// they stay whole; A and B are the doubled semi-axes, measured to the centres of the outermost pixels. Whole must hold
+/// A*A*B*B.
 ///
-/// With Q(U,V) = (U/A)^2 + (V/B)^2 a row reaches to the larger of
+/// With Q(U,V) = (U/A)^2 + (V/B)^2 the half-width is the larger of
 ///   along the row:    the largest U with the mean of Q(U,V) and Q(U-2,V) below 1,
 ///   along the column: the largest U, at least one pixel short of the row before, with the mean of Q(U,V) and Q(U,V-2)
 ///                     at most 1.
-/// Where narrow shapes run out of columns, the one or two in the middle stay.
+/// Very narrow ellipses keep the one or two middle columns.
 template <class Whole> std::vector<std::int64_t> ellipseReach(std::int64_t A, std::int64_t B)
 {
     const auto sq = [](std::int64_t v) { return static_cast<Whole>(v) * v; };
@@ -33,8 +34,8 @@ template <class Whole> std::vector<std::int64_t> ellipseReach(std::int64_t A, st
     return reach;
 }
 
-/// One side of a polygon, from its upper end downwards. column is the ceiling of the crossing with the present row,
-/// kept exact as column - part / height with 0 <= part < height.
+/// One edge of a polygon, walked from its upper end downwards. The crossing with the current row is kept exactly as
+/// column - part / height with 0 <= part < height; column is its ceiling.
 struct Edge {
     int top, bottom, direction;
     std::int64_t column, part, height, step, stepPart;
@@ -50,7 +51,7 @@ struct Edge {
     }
 };
 
-/// Sides that reach over at least one row, by their upper end.
+/// Edges that cross at least one row, sorted by their upper end.
 std::vector<Edge> edgesOf(std::span<const std::int32_t> points)
 {
     std::vector<Edge> edges;
@@ -76,7 +77,7 @@ std::vector<Edge> edgesOf(std::span<const std::int32_t> points)
     return edges;
 }
 
-/// The covered parts of one row; active is in order of column.
+/// The covered spans of one row; active is sorted by column.
 void addWinding(RegionBuilder& out, const std::vector<Edge>& active)
 {
     int winding = 0;
@@ -88,7 +89,8 @@ void addWinding(RegionBuilder& out, const std::vector<Edge>& active)
     }
 }
 
-/// The union of rectangles in any order: rows between two edges are one band, the open rectangles counted by column.
+/// Union of rectangles in any order, by a sweep: the rows between two horizontal edges form a band, with a count of
+/// open rectangles a column.
 Region unionOf(std::vector<Rect> rects)
 {
     std::erase_if(rects, [](const Rect& r) { return r.isEmpty(); });
@@ -101,7 +103,7 @@ Region unionOf(std::vector<Rect> rects)
     std::ranges::sort(leaving, {}, &Rect::bottom);
 
     RegionBuilder out;
-    std::map<int, int> edges; // column: rectangles that begin there less those that end there
+    std::map<int, int> edges; // column: rectangles that begin there minus those that end there
     const auto count = [&edges](int column, int change) {
         const auto at = edges.try_emplace(column, 0).first;
         if ((at->second += change) == 0) edges.erase(at);

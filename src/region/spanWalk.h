@@ -5,7 +5,7 @@
 
 namespace velara {
 
-/// visit(from, to) for the pieces of row y within the columns x0 up to but not including x1, from left to right.
+/// Calls visit(from, to) for the spans of row y within columns [x0, x1), from left to right.
 template <class Visit> void eachSpanWithin(const Region& region, int y, int x0, int x1, Visit visit)
 {
     const std::span<const Span> row = region.spans(y);
