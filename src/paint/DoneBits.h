@@ -1,5 +1,5 @@
-// DoneBits: one bit a pixel, so that each pixel counts only once in a stroke. A reset costs nothing; a row is cleared
-// when it is first asked for.
+// DoneBits: one bit a pixel, so that a stroke changes each pixel only once. Resetting is O(1); a row is cleared when it
+// is first used.
 #pragma once
 #include "paint/bitRow.h"
 #include <vector>

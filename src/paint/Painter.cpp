@@ -54,7 +54,7 @@ const Painter::Table* Painter::blend(int opacity)
     return blend_.data();
 }
 
-/// to := from blended in, three channels of each pixel.
+/// Blends from into to, three channels of each pixel.
 void Painter::blendRun(const Pixel* from, Pixel* to, int count, int opacity, const Table* table)
 {
     if (opacity == 100) {
@@ -72,7 +72,7 @@ void Painter::applyTables(const Tables& tables, int y, int x0, int x1)
         for (std::size_t c = 0; c < 3; ++c) row[x].c[c] = tables[c][row[x].c[c]];
 }
 
-/// row(y, x0, x1) for the pieces of the dab within region and picture, from top to bottom and left to right.
+/// Calls row(y, x0, x1) for the runs of the dab within region and picture, top to bottom, left to right.
 template <class Row> void Painter::eachDiscRow(const Region& region, int x, int y, int size, Row row)
 {
     const std::int64_t r = roundEven(size * 0.5);
@@ -87,7 +87,7 @@ template <class Row> void Painter::eachDiscRow(const Region& region, int x, int 
     }
 }
 
-/// The same for the pixels that were not done, which then are.
+/// The same for the pixels that are not done yet; marks them as done.
 template <class Row> void Painter::eachFreshRun(const Region& region, int x, int y, int size, Row row)
 {
     if (!done_.isFor(bits_.width(), bits_.height())) CreateDoneBitsTable();
@@ -125,7 +125,7 @@ Painter::Dab Painter::brightnessDab(int size, int percent, bool lighten)
     };
 }
 
-/// The source is tiled by one column and row more than its size: the first of the margin belongs to it.
+/// The source is tiled with a period of its size plus one: the first margin column and row belong to it.
 Painter::Dab Painter::maskedDab(int size, int opacity, const Bits& source)
 {
     if (source.isNull()) return [](int, int) {};

@@ -32,22 +32,22 @@ class Painter {
     /// -1 without a picture, 0 outside of it.
     Colour BitsGetPixel(int x, int y) const;
 
-    /// The source with its upper left corner at x, y; pixels equal to key stay out, -1 is no key. Sources and overlaps
-    /// of one column or row are not painted. Without useRegion the limit is the whole picture.
+    /// The source with its upper left corner at x, y; pixels equal to key are skipped, -1 is no key. Sources and
+    /// overlaps of one column or row are not painted. Without useRegion the whole picture may be written.
     void BitsPaint(int x, int y, const Bits& source, Colour key, int opacity, bool useRegion);
-    /// The same, leaving out source pixels with a fourth byte of 255.
+    /// The same, skipping source pixels with a fourth byte of 255.
     void BitsPaintPreMasked(int x, int y, const Bits& source, int opacity, bool useRegion);
-    /// The source as ink of one colour: channel 0 from 0, opaque, to 190, nothing.
+    /// The source as ink of one colour: channel 0 from 0 (opaque) to 190 (nothing).
     void BitsBWMask(int x, int y, const Bits& mask, Colour colour, int opacity);
 
-    /// Antialiased, one pixel thick, in half steps that overlap and so build up.
+    /// Antialiased, one pixel thick, in overlapping half steps that accumulate.
     void BitsLine(int x1, int y1, int x2, int y2, Colour colour, int opacity);
     void BitsRectangle(int x1, int y1, int x2, int y2, Colour colour, int opacity);
     /// A regular polygon; fewer than one side draws nothing.
     void BitsPolygon(int centreX, int centreY, int cornerX, int cornerY, int sides, Colour colour, int opacity);
     void BitsEllipse(int centreX, int centreY, int radiusX, int radiusY, Colour colour, int opacity);
 
-    // Dabs that take a pixel only once between two calls of CreateDoneBitsTable.
+    // Dabs that change a pixel only once between two calls of CreateDoneBitsTable.
     void BitsBrush(int x, int y, int size, int opacity, Colour colour);
     void BitsBrightness(int x, int y, int size, int percent, bool lighten);
     /// The source tiled from the picture's corner, its first margin column and row included.
@@ -61,12 +61,12 @@ class Painter {
     void BitsBrushLine(int x1, int y1, int x2, int y2, int size, int strength, Colour colour, int mode);
     void BitsMaskedLine(int x1, int y1, int x2, int y2, int size, int opacity, const Bits& source);
 
-    /// Random drops that build up. DivisionByZero below size 2.
+    /// Random drops that accumulate. DivisionByZero below size 2.
     void BitsAirbrush(int x, int y, int size, int opacity, int density, int softness, Colour colour);
 
-    /// Flood fill of what touches x, y by left, right, up, down, with differences from it of at most tolerance in sum.
-    /// Pixels that are done are walls. Colours within 9 of the seed in all channels change the seed only. Outside of
-    /// the picture nothing happens.
+    /// Flood fill of the 4-connected area around x, y whose summed channel differences from that pixel are at most
+    /// tolerance. Done pixels are walls. Fill colours within 9 of the seed in all channels change the seed only.
+    /// Nothing happens outside of the picture.
     void BitsFill(int x, int y, Colour colour, int tolerance, int opacity);
     /// The same with the source tiled from the picture's corner, two margin columns and rows included.
     void BitsFillTexture(int x, int y, const Bits& source, int tolerance, int opacity);
@@ -78,7 +78,7 @@ class Painter {
         random_ = Random(seed);
         drawn_ = 0;
     }
-    /// Around what was written since the last call.
+    /// Bounding rectangle of what was written since the last call.
     Rect takeTouched() { return std::exchange(changed_, {}); }
 
   private:

@@ -1,5 +1,5 @@
-// Flood fill by runs: the same pixels as a queue of single ones. Which pixels belong is fixed beforehand, by the
-// region, by what is done and by the colours as they were; so the order does not matter.
+// Flood fill by runs. Which pixels belong depends on the region, the done pixels and the colours before the fill, so
+// the order of visits does not matter and the result equals that of a queue of single pixels.
 #include "paint/Painter.h"
 #include "pixels/numbers.h"
 #include "pixels/pairTable.h"
@@ -12,7 +12,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kNearlyItself = 10; // a colour nearer than this in all channels fills the seed only
+constexpr int kNearlyItself = 10; // a fill colour closer than this to the seed in all channels fills the seed only
 
 int difference(const Pixel& a, const Pixel& b)
 {
@@ -31,7 +31,7 @@ std::uint64_t matches(const Pixel* pixels, int count, const Pixel& seed, int tol
     std::uint8_t match[64] = {};
     for (int i = 0; i < count; ++i) match[i] = difference(pixels[i], seed) <= tolerance;
     std::uint64_t bits = 0;
-    for (int i = 0; i < 64; i += 8) { // the lowest bits of eight bytes side by side
+    for (int i = 0; i < 64; i += 8) { // gathers the low bits of eight bytes
         std::uint64_t eight;
         std::memcpy(&eight, match + i, 8);
         bits |= (eight * 0x0102040810204080u >> 56) << i;
@@ -39,7 +39,7 @@ std::uint64_t matches(const Pixel* pixels, int count, const Pixel& seed, int tol
     return bits;
 }
 
-/// New values by channel and old value, two channels in one step: twice as fast over a whole picture.
+/// New values by channel and old value; two channels per look-up, which is twice as fast over a whole picture.
 class ChannelTables {
   public:
     template <class Tables>
@@ -64,7 +64,7 @@ class ChannelTables {
 };
 static_assert(std::endian::native == std::endian::little, "channel 0 is the lowest byte of a pixel");
 
-/// The pixels that may still be reached, a bit each, in rows that are made when they are first asked for.
+/// One bit for each pixel that may still be filled; rows are computed when first used.
 class OpenPixels {
   public:
     OpenPixels(const Bits& bits, const Region& region, const Pixel& seed, int tolerance, DoneBits* done)
@@ -114,7 +114,7 @@ class OpenPixels {
     std::vector<bool> known_;
 };
 
-/// to := to + from by bytes, at most 255.
+/// to = to + from, by bytes, saturated at 255.
 void addPixels(const Pixel* from, Pixel* to, int count)
 {
     const auto* source = reinterpret_cast<const std::uint8_t*>(from);
@@ -129,8 +129,8 @@ struct Painter::Seed {
     Pixel colour; // before the first blend
 };
 
-/// write(y, x0, x1) for all that is reached from the neighbours of the seed. The seed, blended before but not done, is
-/// written once more when a neighbour reaches it and its new colour still passes.
+/// Calls write(y, x0, x1) for all pixels connected to the seed's neighbours. The seed itself, already blended but not
+/// marked as done, is written again when a neighbour reaches it and its new colour still matches.
 template <class Writer> void Painter::flood(const Seed& seed, int tolerance, const Region& region, Writer write)
 {
     struct Segment {
@@ -142,7 +142,7 @@ template <class Writer> void Painter::flood(const Seed& seed, int tolerance, con
         touch(y, x0, x1);
         write(y, x0, x1);
     };
-    // What touches a pixel of the fill is met, and then done, whether it is taken or not.
+    // Every pixel that touches the fill is visited once, whether it is taken or not.
     const auto meet = [&](int y, int x0, int x1) {
         if (y < 0 || y > bits_.maxY()) return;
         open.row(y); // with what was done before

@@ -1,4 +1,4 @@
-// Lines and outlines, antialiased by half steps that overlap.
+// Lines and outlines, antialiased by overlapping half steps.
 #include "paint/Painter.h"
 #include "pixels/numbers.h"
 #include <algorithm>
@@ -43,8 +43,8 @@ struct Painter::Ink {
     Rect& changed;
 };
 
-/// Shares the point among the four pixels around it. Coordinates without a fraction are moved a little, so that no
-/// weight falls on a tie.
+/// Distributes a point over the four pixels around it by bilinear weights. Whole coordinates are moved a little, so
+/// that no weight rounds from a tie.
 void Painter::plot(Ink& ink, double& px, double& py)
 {
     if (px == std::trunc(px)) px += 0.001;
@@ -112,8 +112,7 @@ void Painter::BitsEllipse(int centreX, int centreY, int radiusX, int radiusY, Co
     }
 }
 
-/// One side a step round the circle; half a step of slack, so that the last one closes it whatever the sum of the
-/// steps.
+/// One side for each step round the circle, with half a step of slack so that the last one closes it despite rounding.
 void Painter::BitsPolygon(int centreX, int centreY, int cornerX, int cornerY, int sides, Colour colour, int opacity)
 {
     if (bits_.isNull() || sides < 1) return;

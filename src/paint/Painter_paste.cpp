@@ -5,8 +5,8 @@
 
 namespace velara {
 
-/// row(from, to, count) for each piece of the source over the picture and within region. The overlap is measured by
-/// last columns and rows, so one of a single column or row counts as none.
+/// Calls row(from, to, count) for each run of the source that lies over the picture and within region. An overlap of a
+/// single column or row counts as none.
 template <class Row> void Painter::paste(int x, int y, const Bits& source, const Region& region, Row row)
 {
     const auto last = [](int at, int size) {
@@ -25,7 +25,7 @@ template <class Row> void Painter::paste(int x, int y, const Bits& source, const
 void Painter::BitsPaint(int x, int y, const Bits& source, Colour key, int opacity, bool useRegion)
 {
     if (bits_.isNull() || source.isNull()) return;
-    const Bits held = source; // should it be the picture itself
+    const Bits held = source; // in case it is the picture itself
     const Region& region = begin(useRegion ? selection_.working() : selection_.RegionMain());
     const Table* table = blend(opacity);
     const auto isKey = [key](const Pixel& p) { return colourOf(p.c[2], p.c[1], p.c[0]) == (key & 0xFFFFFF); };
@@ -43,7 +43,7 @@ void Painter::BitsPaintPreMasked(int x, int y, const Bits& source, int opacity, 
     const Region& region = begin(useRegion ? selection_.working() : selection_.RegionMain());
     const Table* table = blend(opacity);
     paste(x, y, held, region, [&](const Pixel* from, Pixel* to, int count) {
-        for (int i = 0; i < count;) { // runs of pixels that are wanted
+        for (int i = 0; i < count;) { // runs of pixels to paint
             int end = i;
             while (end < count && from[end].c[3] != 255) ++end;
             blendRun(from + i, to + i, end - i, opacity, table);
@@ -54,7 +54,7 @@ void Painter::BitsPaintPreMasked(int x, int y, const Bits& source, int opacity, 
 
 void Painter::BitsBWMask(int x, int y, const Bits& mask, Colour colour, int opacity)
 {
-    constexpr int kPaper = 190; // from here on nothing is painted
+    constexpr int kPaper = 190; // from this value on the source counts as paper: nothing is painted
     if (bits_.isNull() || mask.isNull()) return;
     const Bits held = mask;
     const double op = opacity / 100.0;

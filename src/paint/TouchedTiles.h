@@ -1,5 +1,5 @@
-// TouchedTiles: which parts of a picture were written, in tiles of 16 by 16 pixels, so that a thin diagonal line costs
-// its own length and not its bounding rectangle.
+// TouchedTiles: a dirty map of a picture in tiles of 16 by 16 pixels, so that a thin diagonal line costs its length and
+// not its bounding rectangle.
 #pragma once
 #include "pixels/Bits.h"
 #include "region/Region.h"
@@ -12,9 +12,9 @@ class TouchedTiles {
   public:
     static constexpr int kShift = 4, kSide = 1 << kShift;
 
-    /// Forgets everything; marks are for a picture of this size from now on.
+    /// Clears all marks and sets the picture's size.
     void reset(int width, int height);
-    /// The same, only when the size is another.
+    /// The same, only when the size differs.
     void fit(int width, int height)
     {
         if (width != width_ || height != height_) reset(width, height);
@@ -29,7 +29,7 @@ class TouchedTiles {
     bool isEmpty() const { return list_.empty(); }
     /// True when more than half of the tiles are marked.
     bool isMost() const { return 2 * list_.size() > tiles_.size(); }
-    /// Around all marked tiles, cut to the picture.
+    /// Bounding rectangle of the marked tiles, cut to the picture.
     Rect bounds() const;
     /// The marked tiles, cut to the picture.
     template <class Visit> void forEach(Visit visit) const

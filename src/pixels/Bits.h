@@ -27,7 +27,7 @@ constexpr Colour colourOf(int red, int green, int blue) { return red | green << 
 class Bits {
   public:
     static constexpr int kMargin = 2;
-    /// What the program takes as a picture's size: 1 to 32767 a side, at most 256 Mi pixels.
+    /// Whether the program accepts a picture of this size: 1 to 32767 pixels a side, at most 256 Mi pixels.
     static constexpr int kMostASide = 32767;
     static constexpr std::int64_t kMostPixels = 256 << 20;
     static constexpr bool sizeAllowed(std::int64_t width, std::int64_t height)
@@ -38,7 +38,7 @@ class Bits {
     Bits() = default;
     /// All bytes zero. A size below 1 by 1 gives an empty buffer; std::bad_alloc when memory is short.
     Bits(int width, int height);
-    /// For writers of every byte: the contents are whatever the recycled block held.
+    /// Contents are undefined (a recycled block), for callers that write every byte.
     static Bits uninitialized(int width, int height);
 
     bool isNull() const { return !block_; }
@@ -70,9 +70,9 @@ class Bits {
 
     /// True when another value shares the block, so that the next write copies it.
     bool isShared() const { return block_.use_count() > 1; }
-    /// Tells blocks apart without keeping them alive.
+    /// Identifies the block without keeping it alive.
     std::weak_ptr<const std::uint8_t[]> block() const { return block_; }
-    /// True when both share one block, so that they are equal without a look at the pixels.
+    /// True when both share one block, hence are equal without comparing pixels.
     bool sharesWith(const Bits& other) const { return block_ == other.block_; }
     /// Equal sizes and equal bytes, margin included.
     friend bool operator==(const Bits& a, const Bits& b);

@@ -7,18 +7,18 @@
 
 namespace velara {
 
-/// Blocks of at least kSmallest bytes come in huge pages and are kept for the next taker of the same size, at most
-/// kKeptBlocks of them. For any thread.
+/// Blocks of at least kSmallest bytes are allocated in huge pages and kept for the next request of the same size, at
+/// most kKeptBlocks of them. Thread-safe.
 class BlockPool {
   public:
     static constexpr std::size_t kSmallest = 1 << 20;
     static constexpr std::size_t kKeptBlocks = 1;
 
     static BlockPool& instance();
-    /// A block with whatever it held before. std::bad_alloc when memory is short.
+    /// A block with undefined contents. std::bad_alloc when memory is short.
     std::uint8_t* take(std::size_t size);
     void give(std::uint8_t* block, std::size_t size) noexcept;
-    /// Hands all kept blocks back to the system.
+    /// Returns all kept blocks to the system.
     void clear() noexcept;
 
   private:

@@ -8,8 +8,8 @@ namespace velara {
 namespace {
 
 constexpr int kRegionSide = 32;
-constexpr std::size_t kFewEnough = 96; // to hold each against each
-constexpr std::size_t kFewGreys = 64;  // a cube has four of them at most
+constexpr std::size_t kFewEnough = 96; // to compare all pairs
+constexpr std::size_t kFewGreys = 64;  // at most four of them in a cube
 
 int far(Distance distance, int difference)
 {
@@ -32,8 +32,8 @@ NearestColours::NearestColours(const std::vector<Pixel>& colours, Distance dista
         tellGreysBySum();
 }
 
-/// Of the squares to a grey v only 3v^2 - 2v(red + green + blue) differs from grey to grey. A long ramp crowds every
-/// cube, and is told sooner this way.
+/// For a grey v the squared distance depends only on 3v^2 - 2v(red + green + blue), so the sum of the channels decides.
+/// A long grey ramp would crowd every cube; this is faster.
 void NearestColours::tellGreysBySum()
 {
     constexpr int kMostSum = 3 * 255;
@@ -60,7 +60,7 @@ void NearestColours::colour(const Pixel* from, Pixel* to, int count)
     while (done < count) one();
 }
 
-/// colour() for four pixels at once. False unless each is in a cube of few.
+/// colour() for four pixels at once. False unless all of them are in cubes with few candidates.
 bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
 {
     const __m128i p = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
@@ -84,7 +84,7 @@ bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
     return true;
 }
 
-/// Those of all that are nearest to some colour of the cube, in their order; a few more where there are very many.
+/// The candidates that can be nearest to a colour of the cube, in palette order; slightly more for very large palettes.
 NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::array<int, 3> low, int side) const
 {
     const auto each = [&](auto part) { return part(0) + part(1) + part(2); };
@@ -107,7 +107,7 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
     std::copy_if(all.begin(), all.end(), std::back_inserter(near),
                  [&](const Candidate& c) { return least(c) <= reach; });
     if (near.size() > kFewEnough) return near;
-    // How much farther one is than another is, in each channel, at its greatest at an end of the cube.
+    // The difference of two distances is, in each channel, greatest at an end of the cube.
     const auto beaten = [&](const Candidate& c) {
         return std::any_of(near.begin(), near.end(), [&](const Candidate& by) {
             const int worst = each([&](int i) {
@@ -124,7 +124,7 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
     return kept;
 }
 
-/// For a pixel in a cube that is crowded, or was not looked into.
+/// For a pixel in a cube that is crowded or not filled yet.
 int NearestColours::lookCloser(Pixel p)
 {
     if (!bySum_.empty()) return bySum_[std::size_t(p.c[0] + p.c[1] + p.c[2])];
@@ -156,7 +156,7 @@ NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
     return cube;
 }
 
-/// The number of a crowd with the nearest one for each place of the cube.
+/// Adds a table with the nearest index for each colour of a crowded cube; returns its number.
 std::uint32_t NearestColours::crowdOf(const Candidates& candidates, std::array<int, 3> low)
 {
     auto to = crowds_.emplace_back().begin();

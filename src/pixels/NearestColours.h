@@ -1,6 +1,6 @@
-// The nearest of a fixed set of colours, for all pixels of a picture. Colours are looked up all over their space, so
-// what is known of it has to stay in the cache: for each cube of it the few that are nearest to some colour in there,
-// among which the distance decides. Cubes are looked into as they are asked for.
+// Nearest-colour search in a fixed palette, for every pixel of a picture. Colour space is divided into cubes; each
+// keeps the few candidates that can be nearest to any colour inside it, so that the table stays in the processor's
+// cache. Cubes are filled when first used.
 #pragma once
 #include "pixels/PixelLanes.h"
 #include <array>
@@ -9,19 +9,19 @@
 
 namespace velara {
 
-/// How far two colours are from each other: the sum of what their channels differ by, or of the squares of that.
+/// Distance of two colours: the sum of absolute differences of their channels, or of squared differences.
 enum class Distance { Sum, Squares };
 
 class NearestColours {
   public:
     static constexpr std::size_t kMost = 0xFFFF;
 
-    /// 1 to kMost colours; the fourth bytes are not looked at.
+    /// 1 to kMost colours; fourth bytes are ignored.
     NearestColours(const std::vector<Pixel>& colours, Distance distance);
 
-    /// The position of the nearest one, the lowest of equals. The fourth byte is not looked at.
+    /// Index of the nearest colour, ties to the lowest index. The fourth byte is ignored.
     int operator()(Pixel p) { return (*this)(inRegister(p)); }
-    /// The same for the lowest four bytes of a register.
+    /// The same for a pixel in the low four bytes of a register.
     int operator()(__m128i p)
     {
         const Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(p)))];
@@ -29,21 +29,21 @@ class NearestColours {
             return lookCloser(std::bit_cast<Pixel>(_mm_cvtsi128_si32(p)));
         return among(cube, p);
     }
-    /// Puts the nearest colour in the place of each of so many pixels; the fourth bytes stay as they are in from.
+    /// Replaces count pixels by their nearest colours; fourth bytes are copied from from.
     void colour(const Pixel* from, Pixel* to, int count);
 
   private:
     static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kLevels = 1 << kOutside, kFew = 4;
 
-    /// The colours with their entries as the fourth bytes, in rising order, the last one again where there are fewer. A
-    /// cube that is crowded, or not looked into yet, has its entries out of order, and a number as the first colour.
+    /// Candidate colours with their indices as fourth bytes, ascending, the last one repeated to fill up. Indices out
+    /// of order mark a cube that is crowded or not filled yet; its first colour is then a number, see kUnknown.
     struct alignas(16) Cube {
         std::array<Pixel, kFew> colours;
 
         bool hasFew() const { return colours[0].c[3] <= colours[kFew - 1].c[3]; }
         std::uint32_t number() const { return std::bit_cast<std::uint32_t>(colours[0]) & 0xFFFFFF; }
     };
-    using Crowd = std::array<std::uint16_t, kSide * kSide * kSide>; // the nearest one by place in the cube
+    using Crowd = std::array<std::uint16_t, kSide * kSide * kSide>; // nearest index for each colour of the cube
 
     struct Candidate {
         std::array<int, 3> c; // blue, green, red
@@ -51,10 +51,10 @@ class NearestColours {
     };
     using Candidates = std::vector<Candidate>;
 
-    static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of one that was not looked into
+    static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of a cube that is not filled yet
     static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
 
-    /// Of four pixels, from the high bits of the channels, red above green above blue.
+    /// Cube numbers of four pixels, from the high bits of the channels: red, green, blue.
     static __m128i cubesOf(__m128i pixels)
     {
         const __m128i high = _mm_and_si128(pixels, _mm_set1_epi8(-kSide));
@@ -65,7 +65,7 @@ class NearestColours {
     {
         const __m128i all = std::bit_cast<__m128i>(cube);
         const __m128i four = _mm_shuffle_epi32(p, 0);
-        // The entries tell equals apart.
+        // Indices in the low bits break ties.
         const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances(all, four), 8), _mm_srli_epi32(all, 24));
         const __m128i two = _mm_min_epi32(ranked, _mm_shuffle_epi32(ranked, 0x4E));
         return _mm_cvtsi128_si32(_mm_min_epi32(two, _mm_shuffle_epi32(two, 0xB1))) & 255;
@@ -95,11 +95,12 @@ class NearestColours {
 
     Distance distance_;
     std::vector<Pixel> colours_;
-    Candidates distinct_;                 // of equal colours the first one
+    Candidates distinct_;                 // palette without duplicates; the first index of each
     std::array<Candidates, 512> regions_; // of 32 a side; empty until asked for
     std::vector<Cube> cubes_;
     std::deque<Crowd> crowds_;
-    std::vector<std::uint16_t> bySum_; // of the channels, where all colours are grey and squares count
+    std::vector<std::uint16_t>
+        bySum_; // nearest index by sum of the channels, for a palette of greys and squared distance
 };
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// A pixel as four whole numbers in one vector register, for arithmetic that carries errors on.
+// A pixel as four 32-bit integers in one vector register, for error diffusion.
 #pragma once
 #include "pixels/Bits.h"
 #include <bit>
@@ -21,7 +21,7 @@ using Bytes = std::uint8_t __attribute__((vector_size(16)));
 
 inline __m128i inRegister(const Pixel& p) { return _mm_cvtsi32_si128(std::bit_cast<int>(p)); }
 inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(inRegister(p))); }
-/// The lowest bytes of the lanes.
+/// Low byte of each lane.
 inline Pixel narrow(Lanes v)
 {
     const auto bytes = std::bit_cast<detail::Bytes>(v);

@@ -24,7 +24,7 @@ struct ByteArray {
     std::vector<std::uint8_t> bytes;
 };
 
-/// Zeroed bytes of width by height and their header; empty below 1 by 1.
+/// Zeroed pixels of width by height with their header; empty below 1 by 1.
 ByteArray byteArrayFor(int width, int height);
 ByteArray bytesOfPicture(const Bits& bits);
 

@@ -19,7 +19,7 @@ inline float MinOf3(float a, float b, float c) { return std::min(std::min(a, b),
 
 /// r, g, b 0..255. Greys give H = S = 0; reds below the red axis give hues down to -1.
 Hsl RGBToHSL(int r, int g, int b);
-/// Undoes RGBToHSL. No clamp: H in -1..5, S and L in 0..1 give 0..255.
+/// Inverse of RGBToHSL. No clamp: H in -1..5, S and L in 0..1 give 0..255.
 Rgb HSLToRGB(float h, float s, float l);
 
 /// Folds a hue on a 0..240 scale to -39..200; over 40 it is the H of Hsl.

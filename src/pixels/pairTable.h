@@ -1,4 +1,4 @@
-// Look-up by two bytes at once: one table of 65536 entries costs less a pixel than two of 256.
+// Look-up by two bytes at once: one table of 65536 entries is faster per pixel than two look-ups in 256.
 #pragma once
 #include <cstddef>
 #include <vector>

@@ -1,5 +1,5 @@
-// Random numbers by their number: value i of a sequence depends on the seed and on i alone, so that any part of it can
-// be computed in any order, by any number of lanes. random-inl.h has the same in vectors.
+// Counter-based random numbers: value i of a sequence depends on the seed and i alone, so that any part of it can be
+// computed in any order, by any number of lanes. random-inl.h has the same in vectors.
 #pragma once
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-// Twips, in which the configuration file and some measures of old count.
+// Twips: the unit of positions in the configuration file, 1/15 of a pixel.
 #pragma once
 
 namespace velara {
