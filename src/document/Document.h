@@ -6,6 +6,7 @@
 #include "pixels/Bits.h"
 #include "region/cBitRegion.h"
 #include "seams/DocumentHandle.h"
+#include <functional>
 
 namespace velara {
 
@@ -64,6 +65,9 @@ class Document {
     bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
     bool Changed = false;
     bool Zoomed = false; // a sizing command was the last change
+    /// Set while a window holds work on this picture that is not in it yet, such as texts: closing counts it as a
+    /// change. Puts it in; false when that failed, and then the window still has it.
+    std::function<bool()> waitingWork;
 
   private:
     bool step(const std::optional<Bits>& picture, cBitFilter& filter);

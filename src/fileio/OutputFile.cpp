@@ -108,7 +108,8 @@ OutputFile::OutputFile(const QString& path, Links links)
     : target_(QFile::encodeName(links == Links::Follow ? behindLinks(path) : path))
 {
     buffer_.resize(kBuffer);
-    if (target_.isEmpty()) return;
+    if (target_.isEmpty()) error_ = ELOOP;
+    if (error_ != 0) return;
     removeStrays(folderOf(target_));
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
@@ -117,6 +118,7 @@ OutputFile::OutputFile(const QString& path, Links links)
     if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode))) openBeside(mode, replaces_);
     const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
     if (file_ < 0 && isOver) file_ = memfd_create("picture", MFD_CLOEXEC);
+    if (file_ < 0) error_ = !replaces_ || isOver ? errno : S_ISDIR(old.st_mode) ? EISDIR : EACCES;
 }
 
 void OutputFile::openBeside(mode_t mode, bool takesMode)
@@ -142,10 +144,18 @@ OutputFile::~OutputFile()
     if (!temporary_.isEmpty()) unlink(temporary_.constData());
 }
 
+/// After a call of the system that failed.
+bool OutputFile::fail()
+{
+    failed_ = true;
+    if (error_ == 0) error_ = errno;
+    return false;
+}
+
 bool OutputFile::flush()
 {
     if (goOn_ && !goOn_()) failed_ = true;
-    if (!failed_ && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) failed_ = true;
+    if (!failed_ && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) fail();
     used_ = 0;
     return !failed_;
 }
@@ -156,7 +166,7 @@ bool OutputFile::write(const void* bytes, std::size_t size)
     if (size == 0) return true; // whose bytes may be nowhere
     const auto* from = static_cast<const std::uint8_t*>(bytes);
     if (size >= kDirect) { // nothing to gain from a copy
-        if (flush() && !writeAll(file_, from, size)) failed_ = true;
+        if (flush() && !writeAll(file_, from, size)) fail();
         return !failed_;
     }
     if (size > kBuffer - used_ && !flush()) return false;
@@ -217,7 +227,7 @@ bool OutputFile::copyOver()
     return close(target) == 0 && at == size;
 }
 
-bool OutputFile::commit() { return file_ >= 0 && flush() && publish(); }
+bool OutputFile::commit() { return file_ >= 0 && flush() && (publish() || fail()); }
 
 void OutputFile::keepRemains()
 {

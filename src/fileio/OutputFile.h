@@ -30,6 +30,8 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
 
     bool isOpen() const { return file_ >= 0; }
+    /// The system's number of what went wrong first, as errno has it; 0: nothing, or nothing of the system.
+    int error() const { return error_; }
     /// Whether something had the target's name when this began.
     bool replacesAFile() const { return replaces_; }
 
@@ -50,6 +52,7 @@ class OutputFile {
 
   private:
     void openBeside(mode_t mode, bool takesMode);
+    bool fail();
     bool flush();
     bool publish();
     bool copyOver();
@@ -58,7 +61,7 @@ class OutputFile {
     std::function<bool()> goOn_;
     std::vector<std::uint8_t> buffer_;
     std::size_t used_ = 0;
-    int file_ = -1;
+    int file_ = -1, error_ = 0;
     bool replaces_ = false, failed_ = false, lasting_ = true;
 };
 

@@ -33,6 +33,11 @@ std::vector<int> Layers::indices() const
     return all;
 }
 
+bool Layers::hasText() const
+{
+    return std::ranges::any_of(layers_, [](const auto& each) { return !each.second.layer.text.isEmpty(); });
+}
+
 void Layers::setText(int index, const QString& text)
 {
     Entry& entry = layers_.at(index);

@@ -33,6 +33,8 @@ class Layers {
     void remove(int index) { layers_.erase(index); }
     std::vector<int> indices() const;
     bool has(int index) const { return layers_.contains(index); }
+    /// Whether any has text, shown or not.
+    bool hasText() const;
     const Layer& layer(int index) const { return layers_.at(index).layer; }
 
     // Each prints the layer anew. Text and style make the place larger where they need it, as far as the picture

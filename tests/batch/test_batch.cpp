@@ -83,7 +83,7 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"missing.png out.png", 1, "missing.png"},
         {"zip.png out.png", 1, "zip.png"},
         {"short.ppm out.ppm", 1, "its end is missing; --partial takes what is there"},
-        {"a\x1b[31m.png out.png", 1, "a\\x1b[31m.png can't be read"},
+        {"a\x1b[31m\u202e.png out.png", 1, "a\\x1b[31m\\x202e.png can't be read"},
         {"folder.png out.png", 1, "folder.png"},
         {"in.xyz out.png", 1, "in.xyz"},
         {"in.ppm out.xyz", 1, "out.xyz"},

@@ -62,12 +62,12 @@ TEST_F(QtPlatformTest, MessagesStandAsTheyAreGiven)
 {
     whenShown<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Crop");
-        EXPECT_EQ(box.text(), "<b>Nothing</b> selected");
+        EXPECT_EQ(box.text(), "<b>Nothing</b> selected\nin a\\x2066b");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.icon(), QMessageBox::Warning);
         box.accept();
     });
-    platform.message("Crop", "<b>Nothing</b> selected", Icon::Exclamation);
+    platform.message("Crop", QString("<b>Nothing</b> selected\nin a\u2066b"), Icon::Exclamation);
 }
 
 TEST_F(QtPlatformTest, QuestionsHaveThreeAnswersAndEscapeCancels)
@@ -110,6 +110,8 @@ TEST_F(QtPlatformTest, ANameWithoutASuffixGetsThatOfTheFormat)
 {
     whenShown<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Save as");
+        EXPECT_EQ(static_cast<QStyledItemDelegate*>(dialog.itemDelegate())->displayText(QString("\u200f"), {}),
+                  "\\x200f");
         dialog.selectNameFilter("Png (*.png)");
         emit dialog.filterSelected("Png (*.png)");
         dialog.selectFile("picture");

@@ -1,5 +1,6 @@
 #include "app/documents/Documents.h"
 #include "app/documents/fDocumentWindow.h"
+#include "seams/printable.h"
 #include "ui/widgets/inputs/named.h"
 #include <QMenu>
 #include <QTimer>
@@ -91,11 +92,11 @@ void Documents::list(QMenu& menu)
     int number = 0;
     for (fImage* image : images()) {
         if (number == 0) menu.addSeparator()->setObjectName(prefix + "line");
-        const QString name = QString(image->Caption()).replace('&', "&&") + (image->isWindowModified() ? "*" : "");
+        const QString name = printable(image->Caption()).replace('&', "&&") + (image->isWindowModified() ? "*" : "");
         ++number;
         QAction* item = menu.addAction((number < 10 ? "&" : "") + QString::number(number) + " " + name);
         item->setObjectName(prefix + QString::number(number));
-        item->setToolTip(image->Tag());
+        item->setToolTip(printable(image->Tag()));
         item->setCheckable(true);
         item->setChecked(image == active());
         connect(item, &QAction::triggered, this, [this, image = QPointer(image)] {

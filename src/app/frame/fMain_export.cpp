@@ -2,11 +2,13 @@
 #include "app/frame/fMain.h"
 #include "ui/export/FWeb.h"
 #include "ui/export/fColorDepth.h"
+#include "ui/widgets/ActiveComposer.h"
 
 namespace velara {
 
 void fMain::colorDepth()
 {
+    if (!ActiveComposer::unload()) return;
     const QPointer<fImage> image = GetActiveImage();
     if (!image || !image->PictureExists()) return;
     const auto ok = [this, document = active()](const Bits& bits) {
@@ -22,6 +24,7 @@ void fMain::colorDepth()
 
 void fMain::saveForWeb()
 {
+    if (!ActiveComposer::unload()) return;
     fImage* image = GetActiveImage();
     if (image && image->PictureExists()) saveForWeb(*image, image->bits());
 }

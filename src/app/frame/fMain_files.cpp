@@ -6,6 +6,7 @@
 #include "fileio/formats.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
+#include "seams/printable.h"
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -139,7 +140,7 @@ void fMain::FillRecent()
         while (entry.endsWith(' ')) entry.chop(1);
         QAction* item = bars_->item("@RECENT", i);
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
-        item->setText(found ? platform_.compactPath(entry, 400).replace('&', "&&") : i == 0 ? "Empty" : "");
+        item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
         item->setVisible(found || i == 0); // a lost file keeps its place in the list, but no empty line in the menu
     }

@@ -61,7 +61,10 @@ void fMain::textTools()
         if (open->isVisible() && (open->document() == document || open->hasTexts())) window = open;
     if (window && window->document() != document)
         report(tr("Apply Text"), {Outcome::Failed, tr("the texts of another picture wait for OK or Exit")});
-    if (!window) window = new fLayers(*this, document, this);
+    if (!window) {
+        window = new fLayers(*this, document, this);
+        connect(window, &fLayers::waitingChanged, this, &fMain::refreshUndoState);
+    }
     window->show();
     window->raise();
     window->activateWindow();

@@ -59,7 +59,7 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
 
 void fStatus::setPanel(Panel panel, const QString& text)
 {
-    panels_[static_cast<int>(panel)]->setText(text);
+    panels_[static_cast<int>(panel)]->setText(printable(text));
     if (panel != Panel::Hint) return;
     panels_[static_cast<int>(Panel::Hint)]->setVisible(!text.isEmpty());
     for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // what no gesture changes

@@ -2,6 +2,7 @@
 // work) and the progress bar of the filters.
 #pragma once
 #include "seams/Frame.h"
+#include "seams/printable.h"
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
@@ -17,7 +18,7 @@ class fStatus final : public QStatusBar {
     void setPanel(Panel panel, const QString& text);
     QString panel(Panel panel) const;
     /// A word to the user, which stands for some seconds.
-    void say(const QString& text) { showMessage(text, 8000); }
+    void say(const QString& text) { showMessage(printable(text), 8000); }
     /// Percent; values below 0 are dropped.
     void setProgress(int percent);
 

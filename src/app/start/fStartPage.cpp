@@ -1,6 +1,7 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
 #include "seams/Platform.h"
+#include "seams/printable.h"
 #include "ui/widgets/inputs/named.h"
 #include <QEvent>
 #include <QFileInfo>
@@ -152,8 +153,8 @@ void fStartPage::showRecent(const std::array<QString, 8>& recent)
     for (int i = 0; i < int(recent.size()); ++i) {
         const QString path = recent[std::size_t(i)].trimmed();
         if (std::ranges::find(found, path) == found.end()) continue;
-        auto* item = new QListWidgetItem(framed(blank, 1), QFileInfo(path).fileName(), list_);
-        item->setToolTip(path);
+        auto* item = new QListWidgetItem(framed(blank, 1), printable(QFileInfo(path).fileName()), list_);
+        item->setToolTip(printable(path));
         item->setData(kIndex, i);
         askThumbnail(list_->row(item), path);
     }

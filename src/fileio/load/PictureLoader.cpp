@@ -2,6 +2,7 @@
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/Shrinker.h"
+#include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
 #include <csignal>
@@ -149,18 +150,6 @@ try {
     return receivePicture(child, begin);
 } catch (const std::bad_alloc&) {
     return {false, "there is not enough memory for it"};
-}
-
-/// Names of files and words of the child come from outside: what could steer a terminal, or turn the direction of the
-/// text, is shown by its number.
-QString printable(const QString& text)
-{
-    QString shown;
-    for (const QChar c : text)
-        shown += c.category() == QChar::Other_Control || c.category() == QChar::Other_Format
-                     ? QStringLiteral("\\x") + QString::number(c.unicode(), 16).rightJustified(2, u'0')
-                     : QString(c);
-    return shown;
 }
 
 QString named(const Ending& ending, const QString& name)

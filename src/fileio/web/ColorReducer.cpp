@@ -77,7 +77,9 @@ bool ColorReducer::WriteBitmap(const QString& FileName)
     if (!dib.get()) return false;
     OutputFile file(FileName, links);
     file.setGoOn(GoOn);
-    return saveDib(dib.get(), FIF_BMP, 0, file) && file.commit();
+    const bool written = saveDib(dib.get(), FIF_BMP, 0, file) && file.commit();
+    error = file.error();
+    return written;
 }
 
 bool ColorReducer::writeGifFile(const QString& name, bool interlaced)
@@ -85,7 +87,9 @@ bool ColorReducer::writeGifFile(const QString& name, bool interlaced)
     if (reduced_.bitCount < 1 || reduced_.bitCount > 8) return false;
     OutputFile file(name, links);
     file.setGoOn(GoOn);
-    return writeGif(reduced_.indexed, file, interlaced, reduced_.bitCount) && file.commit();
+    const bool written = writeGif(reduced_.indexed, file, interlaced, reduced_.bitCount) && file.commit();
+    error = file.error();
+    return written;
 }
 
 } // namespace velara

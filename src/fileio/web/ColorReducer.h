@@ -46,6 +46,8 @@ class ColorReducer {
     OutputFile::Links links = OutputFile::Links::Follow;
     /// Those that earlier reductions of the same picture have made.
     BestPalettes* Palettes = nullptr;
+    /// Why the last file was not written, as OutputFile::error().
+    int error = 0;
 
   private:
     bool writeGifFile(const QString& name, bool interlaced);

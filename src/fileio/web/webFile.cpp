@@ -16,7 +16,7 @@ namespace {
 
 using Outcome = WebFile::Outcome;
 
-/// Tells progress where nothing may be thrown; false once it has thrown Cancelled.
+/// Tells progress where nothing may be thrown; false once it has thrown Cancelled. Keeps why a file was not written.
 class Teller {
   public:
     explicit Teller(const ReduceProgress& progress) : progress_(progress) {}
@@ -29,6 +29,7 @@ class Teller {
         return false;
     }
     bool stopped() const { return stopped_; }
+    int error = 0;
 
   private:
     const ReduceProgress& progress_;
@@ -39,7 +40,9 @@ bool saveAs(FIBITMAP* dib, int format, int flags, const QString& name, OutputFil
 {
     OutputFile file(name, links);
     file.setGoOn(std::ref(teller));
-    return saveDib(dib, format, flags, file) && file.commit();
+    const bool written = saveDib(dib, format, flags, file) && file.commit();
+    teller.error = file.error();
+    return written;
 }
 
 Outcome outcomeOf(bool written, const Teller& teller)
@@ -61,7 +64,10 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
-        return outcomeOf(PCX().SavePCXinFile(name, pictureOf(reduced), true, std::ref(teller)), teller);
+        PCX pcx;
+        const bool written = pcx.SavePCXinFile(name, pictureOf(reduced), true, std::ref(teller));
+        teller.error = pcx.error;
+        return outcomeOf(written, teller);
     }
     const FreeImageStart library;
     const bool inFull = kind == kTga || kind == kTif;
@@ -82,6 +88,7 @@ Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& pi
         return writeBitmapKind(reducer.reduced(), s.FileKind, name, reducer.links, teller);
     const bool written =
         s.OutputKind == kInterlacedGifOutput ? reducer.WriteInterlacedGif(name) : reducer.WriteGif(name);
+    teller.error = reducer.error;
     return outcomeOf(written, teller);
 }
 
@@ -110,6 +117,7 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     } catch (const std::bad_alloc&) {
         file.outcome = settings.OutputKind == kBitmapOutput && !settings.isJpeg() ? Outcome::NoBitmap : Outcome::Failed;
     }
+    if (file.outcome == Outcome::Failed && teller.error != 0) file.reason = qt_error_string(teller.error);
     if (file.outcome == Outcome::Written) file.bytes = QFileInfo(name).size();
     return file;
 }

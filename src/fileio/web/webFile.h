@@ -11,6 +11,7 @@ struct WebFile {
         NoBitmap, // the format can't hold the picture
         Stopped,  // progress threw Cancelled; what stood under the name is whole
     } outcome = Outcome::Failed;
+    QString reason = {}; // of a failure, in the system's words; empty where it has none
     std::int64_t bytes = 0;
     Bits source; // the picture as it was turned and inverted, which the file is to be held against
 };

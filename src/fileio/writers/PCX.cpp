@@ -123,7 +123,9 @@ bool PCX::SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress
     }
     encoded.clear();
     encoder.end(encoded);
-    return written && write(encoded) && write(tailOf(FileName, file.tell())) && file.commit();
+    written = written && write(encoded) && write(tailOf(FileName, file.tell())) && file.commit();
+    error = file.error();
+    return written;
 }
 
 } // namespace velara

@@ -15,6 +15,8 @@ class PCX {
     /// whole. goOn is asked now and then; no ends it as a failure.
     bool SavePCXinFile(const QString& FileName, const Bits& bits, bool Compress,
                        const std::function<bool()>& goOn = {});
+    /// Why it could not, as OutputFile::error().
+    int error = 0;
 
     /// The encoder: runs of up to 63 equal bytes, across rows and planes, as 0xC0 + length and the byte; single bytes
     /// below 0xC0 as they are.

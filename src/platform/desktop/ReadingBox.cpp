@@ -1,5 +1,6 @@
 #include "platform/desktop/ReadingBox.h"
 #include "seams/Dialogs.h"
+#include "seams/printable.h"
 #include <QCoreApplication>
 
 namespace velara {
@@ -10,7 +11,8 @@ bool ReadingBox::goOn(std::chrono::milliseconds waited)
     if (waited < kUntilShown) return true;
     if (!shown_) {
         shown_ = true;
-        box_ = new QProgressDialog(QObject::tr("Reading %1 ...").arg(name_), QObject::tr("Cancel"), 0, 0, parent_);
+        box_ = new QProgressDialog(QObject::tr("Reading %1 ...").arg(printable(name_)), QObject::tr("Cancel"), 0, 0,
+                                   parent_);
         box_->setObjectName("readingBox");
         box_->setWindowTitle(kProgramName);
         box_->setWindowModality(Qt::ApplicationModal);

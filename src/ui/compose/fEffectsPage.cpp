@@ -4,6 +4,7 @@
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
+#include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
@@ -119,6 +120,7 @@ QWidget* fEffectsPage::makeAmount()
 QWidget* fEffectsPage::makeFiles()
 {
     named(ListFile_, "ListFile", tr("Texture files"));
+    ListFile_->setItemDelegate(new NameDelegate(this));
     ListFile_->setMinimumHeight(60);
     connect(ListFile_, &QListWidget::currentRowChanged, this, [this](int row) { CmdFileApply_->setEnabled(row >= 0); });
     connect(ListFile_, &QListWidget::itemActivated, this, [this] { ApplyTexture(effect(), true); });

@@ -4,7 +4,7 @@
 //
 // Keys: what is typed goes into the selected layer, or begins one at the stored place. While a text is edited the
 // arrows move the caret and Delete takes the character behind it; else arrows move the layer by a pixel (ten with
-// Shift) and Delete removes it. Esc ends editing, then the selection.
+// Shift) and Delete removes it. Esc ends editing, then the selection. Tab does nothing while a text is edited.
 #pragma once
 #include "text/Layers.h"
 #include "ui/widgets/fPicture.h"
@@ -46,6 +46,7 @@ class fLayerCanvas final : public fPicture {
   protected:
     void paintOver(QPainter& painter, const QRect& part) override;
     bool eventFilter(QObject* watched, QEvent* event) override; // of outlines and grips
+    bool focusNextPrevChild(bool next) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -97,10 +97,16 @@ bool fLayerCanvas::editKey(QKeyEvent& event)
     case Qt::Key_Escape:
         edit(false);
         return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return true;
     default:
         return false;
     }
 }
+
+/// Whoever types on after a Tab means the text: a Space must not press the button that has the focus by then.
+bool fLayerCanvas::focusNextPrevChild(bool next) { return !editing_ && fPicture::focusNextPrevChild(next); }
 
 /// Keys while a layer is selected and not edited.
 bool fLayerCanvas::layerKey(QKeyEvent& event)

@@ -3,6 +3,7 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/printable.h"
 #include "ui/compose/fLayerCanvas.h"
 #include "ui/compose/fLayerList.h"
 #include "ui/compose/mFonts.h"
@@ -10,6 +11,7 @@
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicturePage.h"
 #include "ui/widgets/inputs/named.h"
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QMenu>
@@ -22,6 +24,7 @@ namespace velara {
 
 namespace {
 
+constexpr int kPathPixels = 400;
 constexpr int kFirstSize = 7, kLastSize = 69; // the odd ones
 constexpr int kUsualEntry = 4;                // size 15
 
@@ -91,6 +94,7 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
 /// What shows the layers goes before them.
 fLayers::~fLayers()
 {
+    if (Document* document = document_.get(); document && waiting_) document->waitingWork = nullptr;
     hide();
     delete page_;
     delete list_;
@@ -164,6 +168,8 @@ void fLayers::connectAll()
     connect(canvas_, &fLayerCanvas::added, list_, &fLayerList::add);
     connect(canvas_, &fLayerCanvas::removed, list_, &fLayerList::remove);
     connect(canvas_, &fLayerCanvas::layerChanged, list_, &fLayerList::refresh);
+    for (const auto signal : {&fLayerCanvas::added, &fLayerCanvas::removed, &fLayerCanvas::layerChanged})
+        connect(canvas_, signal, this, &fLayers::tellDocument);
     connect(canvas_, &fLayerCanvas::selectionChanged, this, [this](int index) {
         list_->select(index);
         showStyle(index);
@@ -257,16 +263,51 @@ Bits fLayers::Blend()
     return layers_.Blend();
 }
 
+/// The document asks for the texts before it closes.
+void fLayers::tellDocument()
+{
+    Document* document = document_.get();
+    if (!document || waiting_ == hasTexts()) return;
+    waiting_ = hasTexts();
+    document->waitingWork = nullptr;
+    if (waiting_) document->waitingWork = [this] { return apply() && close(); };
+    emit waitingChanged();
+}
+
+void fLayers::closeEvent(QCloseEvent* event)
+{
+    const QPointer<fLayers> alive = this;
+    const bool closes = mayClose();
+    if (!alive) return;
+    if (!closes) return event->ignore();
+    done_ = true;
+    tellDocument();
+    QDialog::closeEvent(event);
+}
+
+bool fLayers::mayClose()
+{
+    if (!document_ || !hasTexts()) return true;
+    Platform& platform = frame_.platform();
+    const QPointer<fLayers> alive = this;
+    const QString text = platform.compactPath(printable(document_->Tag), kPathPixels) +
+                         tr("\nThe texts are not in the image yet.\nDo you want to merge them ?");
+    const Answer answer = platform.askYesNoCancel(kProgramName, text, Icon::Information);
+    return alive && (answer == Answer::No || (answer == Answer::Yes && apply()));
+}
+
 /// True when the document has the texts.
 bool fLayers::apply()
 {
     const QPointer<fLayers> alive = this;
-    if (!document_) return true;
+    if (!document_ || done_) return true;
     const Outcome outcome =
         frame_.change(document_, [merged = Blend()](Document& draft, cBitFilter&) { draft.setBits(merged); });
     if (!alive) return false;
     if (!outcome) frame_.report(windowTitle(), outcome);
-    return outcome || outcome.kind == Outcome::Gone;
+    done_ = outcome || outcome.kind == Outcome::Gone;
+    tellDocument();
+    return done_;
 }
 
 void fLayers::sendTo(const QString& word)

@@ -1,5 +1,6 @@
 // fLayers: "Apply Text". Texts are put on a picture of the document, moved and restyled; OK merges them into it. Not
 // modal: the document stays open behind it, and what is changed there shows here as soon as this window is used again.
+// While texts wait the document counts as changed, and this window asks before it closes without them.
 #pragma once
 #include "seams/DocumentHandle.h"
 #include "text/Layers.h"
@@ -26,11 +27,17 @@ class fLayers final : public QDialog {
     ~fLayers() override;
 
     const DocumentHandle& document() const { return document_; }
-    bool hasTexts() const { return !layers_.indices().empty(); }
+    /// Whether something was typed that is neither merged nor let go of.
+    bool hasTexts() const { return !done_ && layers_.hasText(); }
     /// The picture with its texts.
     Bits Blend();
 
+  signals:
+    /// There are texts now, or none any more; the document's waitingWork has been set.
+    void waitingChanged();
+
   protected:
+    void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -41,6 +48,8 @@ class fLayers final : public QDialog {
     void followDocument();
     void takeStyle();
     void showStyle(int index);
+    void tellDocument();
+    bool mayClose();
     bool apply();
     void sendTo(const QString& word);
 
@@ -56,6 +65,8 @@ class fLayers final : public QDialog {
     QToolButton* delete_ = nullptr;
     QTimer watch_;
     bool showing_ = false;
+    bool waiting_ = false; // the document knows of texts here
+    bool done_ = false;    // the texts are merged, or may go
 };
 
 } // namespace velara

@@ -4,6 +4,7 @@
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
+#include "seams/printable.h"
 #include "ui/widgets/ActiveComposer.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,10 +15,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <cmath>
+#include <utility>
 
 namespace velara {
 
@@ -51,7 +54,8 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
     row->setSpacing(12);
     row->addWidget(makeChoices());
     row->addWidget(makePages(), 1);
-    for (const char* label : {"FileType1", "FileType3"}) findChild<QLabel*>(QLatin1String(label))->setText(name);
+    for (const char* label : {"FileType1", "FileType3"})
+        findChild<QLabel*>(QLatin1String(label))->setText(printable(name));
     isrc_->setPartner(*oSrc_);
     original_->setPartner(*optimized_);
     isrc_->setBits(picture_);
@@ -111,36 +115,24 @@ void FWeb::customQuality()
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
 
-void FWeb::fitSize()
-{
-    if (running_) return;
-    const QPointer<FWeb> alive = this;
-    const std::int64_t most = std::int64_t{fit_->value()} * 1024;
-    timer_.stop(); // a change that still waits ends in this one
-    again_ = false;
-    showWaiting(true);
-    running_ = true;
-    const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
-    showWaiting(false);
-    if (!alive) return;
-    running_ = false;
-    if (closing_) return QDialog::reject();
-    if (again_) return changed();
-    if (!quality) {
-        exact_->setText(tr("No quality makes it as small as %1 KB.").arg(fit_->value()));
-        return;
-    }
-    TxtJPG_->setText(QString::number(*quality));
-    customQuality();
-}
-
 // --- Files
 
 /// All changes until the message loop is idle are one.
 void FWeb::changed()
 {
-    again_ = true;
+    again_ = stop_ = true;
+    note_.clear();
+    setStale(true);
     if (!running_) timer_.start(0);
+}
+
+/// A button was pressed. It doesn't wait for a preview, but "Save As" for the quality that "Fit" looks for.
+void FWeb::ask(Work work)
+{
+    timer_.stop();
+    next_ = work;
+    stop_ |= !(work == Work::Save && now_ == Work::Fit);
+    run(); // at once, or when what is under way has ended
 }
 
 /// Yields now and then, and ends the work when it is not wanted any more.
@@ -151,28 +143,40 @@ ReduceProgress FWeb::yielding()
             platform_.yield();
             if (alive) lastYield_ = platform_.milliseconds();
         }
-        if (!alive || closing_ || again_) throw Cancelled();
+        if (!alive || stop_) throw Cancelled();
     };
 }
 
+/// One work after the other, until there is none.
 void FWeb::run()
 {
     if (running_) return;
-    while (again_ && !closing_) {
-        again_ = false;
-        const QPointer<FWeb> alive = this;
-        write();
-        if (!alive) return;
+    const QPointer<FWeb> alive = this;
+    running_ = true;
+    while (alive && !closing_ && (next_ != Work::Preview || again_)) {
+        stop_ = false;
+        switch (now_ = std::exchange(next_, Work::Preview)) {
+        case Work::Preview:
+            write();
+            break;
+        case Work::Fit:
+            fitSize();
+            break;
+        case Work::Save:
+            saveAs();
+        }
     }
+    if (!alive) return;
+    running_ = false;
     if (closing_) QDialog::reject();
 }
 
-bool FWeb::write(const QString& finalName)
+void FWeb::write(const QString& finalName)
 {
     const QPointer<FWeb> alive = this;
     const QString name = finalName.isEmpty() ? temporaryName() : finalName;
     const WebSettings settings = settings_; // a change meanwhile is for the next one
-    running_ = true;
+    const bool wanted = std::exchange(again_, false);
     showWaiting(true);
     const WebFile file = writeWebFile(picture_, settings, name,
                                       finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow,
@@ -187,25 +191,34 @@ bool FWeb::write(const QString& finalName)
                 return false;
             }
         });
+    if (!alive) {
+        QGuiApplication::restoreOverrideCursor();
+        return;
+    }
     showWaiting(false);
-    if (!alive) return false;
-    running_ = false;
+    if (shown.ok() && !again_)
+        showFile(settings, file, shown.bits);
+    else if (stop_ || !finalName.isEmpty())
+        again_ |= wanted; // what was shown stays until the next
     if (file.outcome == WebFile::Outcome::NoBitmap)
         platform_.message(QStringLiteral("Please Choose a higher image format!"),
                           QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
-    if (alive && shown.ok()) showFile(file, shown.bits); // else what was shown stays
-    return alive && file.outcome == WebFile::Outcome::Written;
+    if (file.outcome != WebFile::Outcome::Failed) return;
+    const QString why = file.reason.isEmpty() ? QString() : QStringLiteral(": ") + file.reason;
+    const QString fault = tr("%1 can't be written%2.").arg(printable(QFileInfo(name).fileName()), why);
+    finalName.isEmpty() ? say(fault) : platform_.tell(fault, Icon::Exclamation);
 }
 
-void FWeb::showFile(const WebFile& file, const Bits& shown)
+void FWeb::showFile(const WebSettings& settings, const WebFile& file, const Bits& shown)
 {
     optimizedBits_ = shown;
     oSrc_->setBits(optimizedBits_);
     if (sT_->currentIndex() == kBothTab) optimized_->setBits(optimizedBits_);
-    for (QLabel* label : {FileType2_, FileType4_}) label->setText(settings_.typeText());
-    for (QLabel* label : {Depth2_, Depth4_}) label->setText(settings_.depthText());
-    if (const auto size = settings_.sizeText(file.bytes))
+    for (QLabel* label : {FileType2_, FileType4_}) label->setText(settings.typeText());
+    for (QLabel* label : {Depth2_, Depth4_}) label->setText(settings.depthText());
+    if (const auto size = settings.sizeText(file.bytes))
         for (QLabel* label : {FileSize2_, FileSize4_}) label->setText(*size);
+    setStale(false);
     QStringList parts{tr("%L1 bytes").arg(file.bytes)};
     if (const qint64 before = path_.isEmpty() ? 0 : QFileInfo(path_).size(); before > 0)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(file.bytes) / double(before)));
@@ -213,35 +226,64 @@ void FWeb::showFile(const WebFile& file, const Bits& shown)
         const double decibels = peakSignalToNoise(file.source, optimizedBits_);
         parts += std::isinf(decibels) ? tr("no loss") : tr("%1 dB").arg(decibels, 0, 'f', 1);
     }
-    exact_->setText(parts.join(QStringLiteral(", ")));
+    exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
+}
+
+/// What is told of the file is grey while it is not that of the settings.
+void FWeb::setStale(bool stale)
+{
+    for (QLabel* label : {FileType2_, Depth2_, FileSize2_, FileType4_, Depth4_, FileSize4_, exact_})
+        label->setEnabled(!stale);
+}
+
+void FWeb::say(const QString& text)
+{
+    exact_->setText(text);
+    exact_->setEnabled(true);
 }
 
 void FWeb::showWaiting(bool waiting)
 {
+    busy_->setVisible(waiting);
     if (waiting)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QGuiApplication::restoreOverrideCursor();
 }
 
+void FWeb::fitSize()
+{
+    const QPointer<FWeb> alive = this;
+    const std::int64_t most = std::int64_t{fit_->value()} * 1024;
+    note_.clear();
+    showWaiting(true);
+    const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
+    if (!alive) return QGuiApplication::restoreOverrideCursor();
+    showWaiting(false);
+    if (stop_) return;
+    if (!quality) {
+        next_ = Work::Preview; // a file that is too large is not what was to be saved
+        note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
+        return say(note_);
+    }
+    TxtJPG_->setText(QString::number(*quality));
+    customQuality();
+}
+
 void FWeb::saveAs()
 {
-    if (running_) return;
     const QPointer<FWeb> alive = this;
     FileDialog dialog{QStringLiteral("Save Optimized As"), settings_.saveFilter()};
     dialog.extension = settings_.extension();
     const auto fileOf = [extension = dialog.extension](const QString& name) { return withExtension(name, extension); };
     dialog.writtenAs = fileOf;
     const auto name = platform_.saveFileName(dialog);
-    if (!alive || !name) return;
-    const QString chosen = fileOf(*name);
+    if (!alive || !name || closing_) return;
     choices_->setEnabled(false); // what is being written is what was asked for
-    again_ = false;
-    const bool written = write(chosen);
+    write(fileOf(*name));
     if (!alive) return;
     choices_->setEnabled(true);
-    if (closing_) return QDialog::reject();
-    if (!written) exact_->setText(tr("%1 can't be written.").arg(QFileInfo(chosen).fileName()));
+    CmdSave_->setFocus();
 }
 
 void FWeb::pageChosen(int page)
@@ -254,7 +296,7 @@ void FWeb::pageChosen(int page)
 
 void FWeb::reject()
 {
-    closing_ = true;
+    closing_ = stop_ = true;
     timer_.stop();
     if (!running_) QDialog::reject();
 }

@@ -1,6 +1,7 @@
 // FWeb: the dialog "Customized Save Options ": what the picture looks like in a file of a preset, beside the original,
-// and how large that file is. Each change writes the file, reads it back and shows it; one file at a time: a change
-// while one is written ends that one and begins anew.
+// and how large that file is. Each change writes the file, reads it back and shows it; one file at a time: a change,
+// "Save As" or "Fit" while one is written ends that one. What is told of an older file is grey until the new one
+// stands.
 #pragma once
 #include "fileio/web/webFile.h"
 #include "ui/widgets/fPicturePage.h"
@@ -12,6 +13,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QProgressBar;
 class QPushButton;
 class QSpinBox;
 class QTabWidget;
@@ -43,16 +45,20 @@ class FWeb final : public QDialog {
     void mapChosen(int entry);
     void qualityChosen(int quality);
     void customQuality();
-    void fitSize();
-    void saveAs();
     void pageChosen(int page);
 
+    enum class Work { Preview, Fit, Save };
     void changed();
+    void ask(Work work);
     void run();
-    /// Writes to a temporary file, or under the chosen name. False when there is nothing new to show, or this is gone.
-    bool write(const QString& finalName = {});
-    void showFile(const WebFile& file, const Bits& shown);
-    static void showWaiting(bool waiting);
+    void fitSize();
+    void saveAs();
+    /// Writes to a temporary file, or under the chosen name, and shows it.
+    void write(const QString& finalName = {});
+    void showFile(const WebSettings& settings, const WebFile& file, const Bits& shown);
+    void showWaiting(bool waiting);
+    void setStale(bool stale);
+    void say(const QString& text);
     ReduceProgress yielding();
     QString temporaryName() const;
 
@@ -62,7 +68,12 @@ class FWeb final : public QDialog {
     WebSettings settings_;
     BestPalettes palettes_;
     QTimer timer_;
-    bool running_ = false, again_ = false, closing_ = false;
+    Work now_ = Work::Preview, next_ = Work::Preview;
+    bool running_ = false;
+    bool again_ = false;   // a preview is wanted
+    bool stop_ = false;    // what is under way is not wanted any more
+    bool closing_ = false; // the dialog goes when it has ended
+    QString note_;         // said in place of the exact size
     std::uint32_t lastYield_ = 0;
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;
@@ -77,6 +88,7 @@ class FWeb final : public QDialog {
     QPushButton* CmdSave_ = nullptr;
     QLabel *FileType2_ = nullptr, *FileSize2_ = nullptr, *Depth2_ = nullptr, *FileType4_ = nullptr,
            *FileSize4_ = nullptr, *Depth4_ = nullptr, *exact_ = nullptr;
+    QProgressBar* busy_ = nullptr;
 };
 
 } // namespace velara

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
@@ -17,6 +18,7 @@ namespace velara {
 
 namespace {
 
+constexpr int kBusyHeight = 4;       // pixels
 constexpr auto kEmptyQuality = "50"; // what a quality that was left empty becomes
 
 QPushButton* button(const char* name, const QString& text)
@@ -72,7 +74,7 @@ QWidget* FWeb::makeChoices()
     layout->addStretch();
     layout->addWidget(CmdSave_);
     connect(CboFiles_, &QComboBox::currentIndexChanged, this, &FWeb::presetChosen);
-    connect(CmdSave_, &QPushButton::clicked, this, &FWeb::saveAs);
+    connect(CmdSave_, &QPushButton::clicked, this, [this] { ask(Work::Save); });
 
     auto* column = new QWidget;
     column->setFixedWidth(250);
@@ -166,7 +168,7 @@ QWidget* FWeb::makeJpegFrame()
             [this](int entry) { qualityChosen(webJpegQualities()[std::size_t(entry)].word); });
     connect(update, &QPushButton::clicked, this, &FWeb::customQuality);
     connect(TxtJPG_, &QLineEdit::returnPressed, this, &FWeb::customQuality);
-    connect(fit, &QPushButton::clicked, this, &FWeb::fitSize);
+    connect(fit, &QPushButton::clicked, this, [this] { ask(Work::Fit); });
     return Fjpg_;
 }
 
@@ -217,7 +219,16 @@ QWidget* FWeb::makePages()
     layout->setContentsMargins(0, 0, 0, 0);
     exact_ = label("lblExact", tr("Exact size and loss"));
     exact_->setForegroundRole(QPalette::PlaceholderText);
+    busy_ = named(new QProgressBar, "pbBusy", tr("The file is being written"));
+    busy_->setRange(0, 0); // nobody knows how long
+    busy_->setTextVisible(false);
+    busy_->setFixedHeight(kBusyHeight);
+    QSizePolicy kept = busy_->sizePolicy(); // the pictures stay as they are when it goes
+    kept.setRetainSizeWhenHidden(true);
+    busy_->setSizePolicy(kept);
+    busy_->hide();
     layout->addWidget(sT_, 1);
+    layout->addWidget(busy_);
     layout->addWidget(exact_);
     return column;
 }

@@ -2,6 +2,7 @@
 #include "fileio/writers/iconFile.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
+#include "seams/printable.h"
 #include "ui/icons/MaskChoice.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
@@ -171,7 +172,7 @@ void fIconPicture::save()
     if (!path) return;
     const QString name = QFileInfo(*path).fileName();
     if (!writeIcon(icon, *path)) return platform.tell(tr("%1 can't be written.").arg(name), Icon::Exclamation);
-    if (alive) state_->setText(tr("Saved: %1").arg(name));
+    if (alive) state_->setText(tr("Saved: %1").arg(printable(name)));
 }
 
 } // namespace velara

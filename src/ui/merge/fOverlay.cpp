@@ -2,6 +2,7 @@
 #include "document/Document.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
+#include "seams/printable.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
@@ -189,8 +190,8 @@ void fOverlay::fillList()
     cbOverlay_->clear();
     for (const Seen& one : seen_) {
         offered_.push_back(one.document);
-        cbOverlay_->addItem(QFileInfo(one.tag).fileName());
-        cbOverlay_->setItemData(cbOverlay_->count() - 1, one.tag, Qt::ToolTipRole);
+        cbOverlay_->addItem(printable(QFileInfo(one.tag).fileName()));
+        cbOverlay_->setItemData(cbOverlay_->count() - 1, printable(one.tag), Qt::ToolTipRole);
     }
     auto at = hasPicture(before) ? std::ranges::find(offered_, before) : offered_.end();
     if (at == offered_.end())
@@ -236,7 +237,8 @@ void fOverlay::changed()
     lblMaskColor_->setEnabled(chkMaskColor_->isChecked());
     const bool ready = hasPicture(below_) && hasPicture(chosen());
     cmdOK_->setEnabled(ready && !working_);
-    state_->setText(ready ? tr("Over %1").arg(QFileInfo(below_->Tag).fileName()) : tr("No picture is open."));
+    state_->setText(ready ? tr("Over %1").arg(printable(QFileInfo(below_->Tag).fileName()))
+                          : tr("No picture is open."));
     if (!previewTimer_.isActive()) previewTimer_.start(0); // once for all changes that wait
 }
 

@@ -4,6 +4,7 @@
 #include "fileio/nameOrder.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
+#include "seams/printable.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"
@@ -166,7 +167,7 @@ void fTexturize::fillList()
     QStringList files = folder.entryList(kPattern, QDir::Files);
     std::ranges::sort(files, nameOrder());
     for (const QString& file : files) {
-        auto* item = new QListWidgetItem(frameIcon(palette(), false), file, flTextures_);
+        auto* item = new QListWidgetItem(frameIcon(palette(), false), printable(file), flTextures_);
         const QString stock = stockTextureName(file);
         item->setToolTip(stock);
         if (!stock.isEmpty()) item->setData(Qt::AccessibleTextRole, QString(file + QStringLiteral(", ") + stock));
@@ -200,7 +201,7 @@ void fTexturize::choose()
     const QListWidgetItem* item = flTextures_->currentItem();
     if (!item) return;
     const QString path = item->data(Qt::UserRole).toString();
-    txtTexture_->setText(QFileInfo(path).fileName());
+    txtTexture_->setText(printable(QFileInfo(path).fileName()));
     const QPointer<fTexturize> alive = this;
     const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
     if (!alive || flTextures_->currentItem() != item) return; // the user went on meanwhile

@@ -5,6 +5,7 @@
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/printable.h"
 #include "seams/sizeText.h"
 #include "ui/view/fDisplay.h"
 #include "ui/widgets/inputs/named.h"
@@ -158,7 +159,7 @@ void fImage::setCaption(const QString& caption)
 void fImage::showChanged()
 {
     const bool changed = hasChanged();
-    const QString title = QString(caption_).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
+    const QString title = printable(caption_).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
     for (QWidget* window : {static_cast<QWidget*>(this), parentWidget()}) {
         if (!window || (window != this && !qobject_cast<QMdiSubWindow*>(window))) continue;
         window->setWindowTitle(title);
@@ -206,15 +207,17 @@ bool fImage::event(QEvent* event)
 bool fImage::mayClose()
 {
     if (!frame_.setup().AskToSave || !hasChanged()) return true;
+    const QPointer<fImage> self = this;
     if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
         window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
-    const QString text =
-        frame_.platform().compactPath(Tag(), kPathPixels) + "\nThis image has changed.\n" + "Do you want to save it ?";
+    const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +
+                         "Do you want to save it ?";
     switch (frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information)) {
     case Answer::Cancel:
         return false;
     case Answer::Yes:
-        frame_.Mmenu("SAVEAS");
+        if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
+        if (self) frame_.Mmenu("SAVEAS");
         return true;
     case Answer::No:
         return true;

@@ -143,7 +143,7 @@ class fImage final : public QWidget, public ToolSurface {
 
   private:
     bool mayClose();
-    bool hasChanged() const { return document_.Changed && document_.undo.mayHaveChanged(); }
+    bool hasChanged() const { return document_.waitingWork || (document_.Changed && document_.undo.mayHaveChanged()); }
     void takeFocus();
     void forget();
     void showSize();

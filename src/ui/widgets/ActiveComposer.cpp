@@ -1,7 +1,6 @@
 #include "ui/widgets/ActiveComposer.h"
 #include <QPointer>
 #include <QWidget>
-#include <utility>
 
 namespace velara {
 
@@ -22,10 +21,12 @@ void ActiveComposer::take(Composer which, QWidget* dialog)
     mark = {which, dialog};
 }
 
-void ActiveComposer::unload()
+bool ActiveComposer::unload()
 {
-    const Mark open = std::exchange(mark, {});
-    if (open.dialog) open.dialog->close();
+    const QPointer<QWidget> open = mark.dialog;
+    if (open && !open->close()) return false;
+    if (mark.dialog == open) mark = {};
+    return true;
 }
 
 Composer ActiveComposer::current() { return mark.dialog && mark.dialog->isVisible() ? mark.which : Composer::None; }

@@ -1,6 +1,7 @@
 #include "ui/widgets/FolderModel.h"
 #include "fileio/families.h"
 #include "fileio/nameOrder.h"
+#include "seams/printable.h"
 #include "ui/widgets/ThumbnailIcons.h"
 #include <QApplication>
 #include <QCollator>
@@ -120,7 +121,7 @@ QVariant FolderModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid()) return {};
     const Item& item = *itemOf(index);
-    if (role == Qt::DisplayRole) return item.name;
+    if (role == Qt::DisplayRole) return printable(item.name);
     if (role != Qt::DecorationRole) return {};
     if (item.folder) return folderIcon_;
     return thumbnails_ && familyOf(item.name) ? thumbnails_->icon(item.path()) : fileIcon_;

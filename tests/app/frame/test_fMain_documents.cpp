@@ -86,6 +86,22 @@ TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
     EXPECT_EQ(marks(), 1) << "cancelled";
 }
 
+TEST_F(FrameDocuments, MarksThatTurnTheTextAreShownByTheirNumbers)
+{
+    const QString path = file(QString("a\u202egpj.png")), shown = "a\\x202egpj.png";
+    setup.Recent[0] = path;
+    frame->FillRecent();
+    EXPECT_EQ(frame->findChild<QListWidget*>("lstRecent")->item(0)->text(), shown);
+    EXPECT_TRUE(frame->action("RF_0")->text().endsWith(shown));
+    frame->action("RF_0")->trigger();
+    EXPECT_EQ(windowOf(frame->GetActiveImage())->windowTitle(), shown);
+    EXPECT_EQ(frame->status().panel(Panel::Name), shown);
+    EXPECT_EQ(listed(), QStringList({">&1 " + shown}));
+    frame->Mmenu("INVERT");
+    frame->close();
+    EXPECT_TRUE(QString::fromStdString(last()).contains(shown + "\nThis image has changed."));
+}
+
 TEST_F(FrameDocuments, TheOpenOnesStandAtTheEndOfViews)
 {
     EXPECT_EQ(listed(), QStringList());

@@ -74,4 +74,31 @@ TEST_F(FrameText, LayersAreMergedIntoTheirOwnDocument)
     EXPECT_TRUE(!dialog || !dialog->isVisible());
 }
 
+TEST_F(FrameText, TextsThatWaitAreAskedForBeforeTheyGoWithTheirDocument)
+{
+    for (const bool saved : {false, true}) {
+        fImage* image = open(flatBits(200, 100, 9, 9, 9), "a.bmp");
+        frame->Mmenu("TEXTTOOLS");
+        const QPointer<fLayers> dialog = frame->findChild<fLayers*>();
+        QTest::keyClicks(dialog->findChild<QWidget*>("picImage"), "hello");
+        QWidget* window = image->parentWidget();
+        EXPECT_TRUE(window->isWindowModified());
+        for (const char* other : {"IMAGECOLORDEPTH", "IMAGESAVEOPTIONS"}) frame->Mmenu(other); // cancelled
+        EXPECT_FALSE(frame->close() || window->close());
+        ASSERT_TRUE(dialog->isVisible());
+        const Bits merged = dialog->Blend();
+        platform.log.clear();
+        platform.answers = {saved ? "yes" : "no", path("saved.bmp")};
+        window->close();
+        EXPECT_EQ("ask: Velara Studio: " + path("a.bmp").toStdString() +
+                      "\nThis image has changed.\nDo you want to save it ?",
+                  platform.log.front());
+        EXPECT_EQ(saved ? 2 : 1, platform.log.size()) << "one question";
+        EXPECT_TRUE(frame->documents().isEmpty());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog || !dialog->isVisible(); }));
+        const Bits written = platform.loadPicture(path("saved.bmp"), "bmp").bits;
+        EXPECT_TRUE(saved ? sameBits(merged, written) : testing::AssertionResult(written.isNull()));
+    }
+}
+
 } // namespace velara

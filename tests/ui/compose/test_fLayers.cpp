@@ -4,6 +4,7 @@
 #include "support/ui/WindowTest.h"
 #include "ui/compose/fLayerCanvas.h"
 #include "ui/compose/fLayers.h"
+#include "ui/widgets/ActiveComposer.h"
 #include "ui/widgets/fColorButton.h"
 
 namespace velara {
@@ -127,6 +128,8 @@ TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
         for (const int key : list) QTest::keyClick(canvas(), Qt::Key(key), with);
     };
     keys({Qt::Key_Left, Qt::Key_Backspace}); // "ac", the caret behind the a
+    keys({Qt::Key_Tab, Qt::Key_Backtab});
+    EXPECT_EQ(canvas(), dialog->focusWidget()) << "a Space would press what had the focus";
     QTest::keyClicks(canvas(), "xy");
     keys({Qt::Key_End, Qt::Key_Return});
     QTest::keyClicks(canvas(), "d");
@@ -212,6 +215,38 @@ TEST_F(LayersDialogTest, SendsTheMergedPictureOn)
     EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "hello"), document->bits()));
     EXPECT_EQ("word: IMAGECOLORDEPTH", frame.log.back());
     EXPECT_TRUE(!dialog || !dialog->isVisible());
+}
+
+TEST_F(LayersDialogTest, AsksBeforeItClosesWithTextsThatAreNotMerged)
+{
+    const std::string question = "ask: Velara Studio: /a.png\nThe texts are not in the image yet.\n"
+                                 "Do you want to merge them ?";
+    document->Tag = "/a.png";
+    frame.setup_.AskToSave = false; // which is about documents
+    find<QAbstractButton>("tbOthers_1")->click();
+    EXPECT_FALSE(document->waitingWork) << "nothing was typed";
+    const auto close = [&](std::optional<QString> answer) {
+        frame.platform_.answers = {answer};
+        click("CmdCancel");
+    };
+    layer({20, 30}, "hello");
+    EXPECT_TRUE(document->waitingWork);
+    close({});
+    EXPECT_EQ(question, frame.platform_.log.back());
+    EXPECT_FALSE(ActiveComposer::unload()) << "cancelled again";
+    EXPECT_TRUE(dialog->isVisible() && dialog->hasTexts() && document->waitingWork);
+    close("no");
+    EXPECT_FALSE((dialog && dialog->isVisible()) || document->waitingWork);
+    EXPECT_TRUE(sameBits(picture, document->bits()));
+    delete dialog;
+
+    used = dialog = new fLayers(frame, document->handle());
+    dialog->show();
+    layer({20, 30}, "hello");
+    close("yes");
+    EXPECT_FALSE(sameBits(picture, document->bits()));
+    EXPECT_EQ(1, frame.logged("step"));
+    EXPECT_FALSE((dialog && dialog->isVisible()) || document->waitingWork);
 }
 
 TEST_F(LayersDialogTest, ClosesWithItsDocument)

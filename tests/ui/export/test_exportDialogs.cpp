@@ -4,6 +4,7 @@
 #include "reduce/EuroDepth.h"
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
+#include "support/fullDisk.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include "support/ui/WindowTest.h"
@@ -195,6 +196,67 @@ TEST_F(ExportDialogs, OneRunAfterTheLastChangeAndEscEndsIt)
         choose("CboFiles", "PNG-24 bit");
         ASSERT_TRUE(QTest::qWaitFor([&] { return !used->isVisible(); }, 5000));
         EXPECT_EQ("", text("FileType2")) << "nothing came of it";
+    }
+}
+
+TEST_F(ExportDialogs, WhatIsPressedWhileAPreviewIsWrittenIsDone)
+{
+    const Bits big = randomBits(400, 300, 3);
+    const QString name = world.folder.filePath("out");
+    int reads = 0;
+    world.onRead = [&] { ++reads; };
+    const auto pressIn = [&](const char* preset, QStringList buttons) { // one at each yield
+        reads = 0;
+        world.onYield = [&, buttons]() mutable {
+            EXPECT_TRUE(find("pbBusy")->isVisible());
+            if (!buttons.isEmpty()) click(buttons.takeFirst());
+        };
+        choose("CboFiles", preset);
+        EXPECT_FALSE(find("FileSize2")->isEnabled()) << "of the file before";
+        idle();
+        EXPECT_TRUE(find("FileSize2")->isEnabled());
+        EXPECT_FALSE(find("pbBusy")->isVisible());
+        return reads;
+    };
+    open(big);
+    world.answers = {name};
+    EXPECT_EQ(1, pressIn("PNG-24 bit", {"CmdSave"})) << "the saved file; the preview was ended";
+    EXPECT_TRUE(sameBits(bits("oSrc"), world.loadPicture(name + ".png", "png").bits));
+    EXPECT_TRUE(text("lblExact").contains("no loss"));
+    EXPECT_EQ("PNG", text("FileType2"));
+    EXPECT_EQ(1, pressIn("BMP-24 bit", {"CmdSave"})) << "cancelled: the preview after all";
+    EXPECT_EQ("BMP", text("FileType2"));
+
+    const auto bytes = [&] { return QFileInfo(name + ".jpg").size(); };
+    find<QSpinBox>("spnFit")->setValue(60);
+    world.answers = {name};
+    pressIn("JPEG", {"cmdFit", "CmdSave"});
+    EXPECT_TRUE(bytes() > 40 * 1024 && bytes() <= 60 * 1024) << bytes();
+    find<QSpinBox>("spnFit")->setValue(1);
+    pressIn("GIF-2 Colors", {});
+    world.log.clear();
+    pressIn("JPEG", {"cmdFit", "CmdSave"});
+    EXPECT_TRUE(text("lblExact").contains("No quality"));
+    EXPECT_TRUE(world.log.empty()) << "a file that is too large is not saved";
+}
+
+TEST_F(ExportDialogs, AFailedSaveIsToldWithItsReason)
+{
+    open(picture);
+    QDir(world.folder.path()).mkdir("folder.pcx");
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"GIF-32 Colors", "none/a.gif", "a.gif can't be written: No such file or directory."},
+        {"PCX-24 bit (Compressed)", "folder.pcx", "folder.pcx can't be written: Is a directory."},
+        {"PNG-24 bit", "full.png", "full.png can't be written: File too large."},
+        {"JPEG", "none/a.jpg", "a.jpg can't be written: No such file or directory."}};
+    for (const auto& [preset, name, told] : rows) {
+        choose("CboFiles", preset);
+        idle();
+        const FullDisk disk(1000);
+        world.answers = {world.folder.filePath(name)};
+        click("CmdSave");
+        EXPECT_EQ(std::string("message: Velara Studio: ") + told, world.log.back());
+        EXPECT_TRUE(find("FileSize2")->isEnabled() && find("CmdSave")->isEnabled()) << "the preview stands";
     }
 }
 

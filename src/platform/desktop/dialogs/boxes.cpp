@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/boxes.h"
+#include "seams/printable.h"
 #include <QApplication>
 #include <QMainWindow>
 #include <QPointer>
@@ -28,8 +29,11 @@ QWidget* parentOfDialogs()
 
 int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)
 {
+    QStringList lines = text.split('\n');
+    for (QString& line : lines) line = printable(line); // there may be names of files in them
     // On the heap and watched: its parent may go while the box stands.
-    const QPointer<QMessageBox> box = new QMessageBox(boxIcon(icon), title, text, buttons, parentOfDialogs());
+    const QPointer<QMessageBox> box =
+        new QMessageBox(boxIcon(icon), title, lines.join('\n'), buttons, parentOfDialogs());
     box->setObjectName("messageBox");
     box->setTextFormat(Qt::PlainText); // a path may hold anything
     const int answer = box->exec();

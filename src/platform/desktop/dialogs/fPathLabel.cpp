@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/fPathLabel.h"
+#include "seams/printable.h"
 #include <QPainter>
 #include <QStyle>
 
@@ -14,7 +15,7 @@ fPathLabel::fPathLabel(const QString& objectName, QWidget* parent) : QLabel(pare
 void fPathLabel::setPath(const QString& path)
 {
     setText(path);
-    setToolTip(path.toHtmlEscaped());
+    setToolTip(printable(path).toHtmlEscaped());
 }
 
 QSize fPathLabel::minimumSizeHint() const { return {80, QLabel::minimumSizeHint().height()}; }
@@ -23,7 +24,8 @@ void fPathLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()), foregroundRole());
+                          fontMetrics().elidedText(printable(text()), Qt::ElideMiddle, contentsRect().width()),
+                          foregroundRole());
 }
 
 } // namespace velara

@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/fileDialogs.h"
+#include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/boxes.h"
 #include "platform/nameFilters.h"
@@ -30,6 +31,7 @@ class RememberedDialog : public QFileDialog {
     {
         setObjectName(name == "Folder" ? "folderDialog" : "fileDialog");
         setOption(DontUseNativeDialog);
+        setItemDelegate(new NameDelegate(this));
         setSidebarUrls(places());
         restore(folder.trimmed());
     }
