@@ -82,13 +82,14 @@ LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& exte
                               goOn ? goOn : whileReading(file.fileName()));
 }
 
-LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension)
+LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension,
+                                        const GoOn& goOn)
 {
     if (decoder_.isEmpty()) decoder_ = findDecoder();
     const Descriptor file(memfd_create("picture", MFD_CLOEXEC));
     if (write(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size())
         return {{}, name + QStringLiteral(" can't be read: there is not enough memory for it")};
-    return loadThroughDecoder(file, name, extension, decoder_, limitsFor(bytes.size()), whileReading(name));
+    return loadThroughDecoder(file, name, extension, decoder_, limitsFor(bytes.size()), goOn);
 }
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)

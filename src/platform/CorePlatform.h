@@ -26,7 +26,7 @@ class CorePlatform : public Platform {
     /// Asked while the picture of that name is read, see PictureLoader.h.
     virtual GoOn whileReading(const QString& /*name*/) { return {}; }
     /// The same for bytes that are no file; name is what the reason calls them.
-    LoadedPicture decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension);
+    LoadedPicture decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension, const GoOn& goOn);
 
   private:
     std::mt19937_64 random_;

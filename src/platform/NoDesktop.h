@@ -17,7 +17,6 @@ class NoPreviews final : public Previews {
 
 class NoClipboard final : public Clipboard {
   public:
-    bool hasBitmap() override { return false; }
     LoadedPicture bitmap() override { return {}; }
     bool setBitmap(const Bits&) override { return false; }
     bool setPart(const Bits&) override { return false; }
@@ -60,7 +59,8 @@ class NoPrinters final : public Printers {
     Paper usualPaper() override { return {}; }
     Request print(const QString&, const PrintPage&, Done) override { return {}; }
     Request printToFile(const QString&, const PrintPage&, Done) override { return {}; }
-    void setUp(QWidget*) override {}
+    Request options(const QString&, std::function<void(const Options&)>) override { return {}; }
+    void choose(const PrinterChoice&) override {}
 };
 
 } // namespace velara

@@ -8,9 +8,8 @@ class Clipboard {
   public:
     virtual ~Clipboard() = default;
 
-    /// Whether a picture is offered; asks its owner, for a second at most.
-    virtual bool hasBitmap() = 0;
-    /// What another program put there is read as a file would be. Neither picture nor reason: there is none.
+    /// What another program put there is read as a file would be; its owner has a second for its answers, and longer
+    /// only while bytes come, with a box that gives them up. Neither picture nor reason: there is none.
     virtual LoadedPicture bitmap() = 0;
     /// False where the desktop doesn't take it.
     virtual bool setBitmap(const Bits& bits) = 0;

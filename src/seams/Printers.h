@@ -1,5 +1,6 @@
 // Printers: the printers of this machine, and PDF files in their place. Answers come from the message loop, each once;
-// whoever lets go of a request gets none.
+// whoever lets go of a request gets none. No call waits, and what is asked of a print server is answered within ten
+// seconds, whatever the server does.
 #pragma once
 #include "pixels/Bits.h"
 #include <QMarginsF>
@@ -7,8 +8,8 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
-
-class QWidget;
+#include <optional>
+#include <vector>
 
 namespace velara {
 
@@ -39,12 +40,24 @@ struct PrintPage {
     QString title;
 };
 
+/// What is chosen for the pages to come, until the program ends.
+struct PrinterChoice {
+    QString printer; // empty: PDF files
+    std::optional<Paper> paper;
+    bool gray = false;
+};
+
 class Printers {
   public:
     using Request = std::shared_ptr<void>;
     struct List {
         QStringList names;
-        QString current; // one of them, unless there is none
+        QString current;     // one of them; empty when there is none, or when PDF files were chosen
+        QString reason = {}; // why nothing is known of them, in words for a person; empty when all is
+    };
+    struct Options {
+        std::vector<Paper> papers; // that a page gets first, at least one
+        bool gray = false;         // chosen before
     };
     /// In words for a person; empty when all went well.
     using Done = std::function<void(const QString& reason)>;
@@ -55,12 +68,14 @@ class Printers {
     virtual void setCurrent(const QString& name) = 0;
     /// What lies in the tray of a printer, or what is usual in this country where that can't be found out.
     [[nodiscard]] virtual Request paper(const QString& printer, std::function<void(const Paper&)> done) = 0;
+    /// What a PDF file takes.
     virtual Paper usualPaper() = 0;
+    /// What there is to choose from for a printer, empty: for PDF files. The usual papers where it can't be found out.
+    [[nodiscard]] virtual Request options(const QString& printer, std::function<void(const Options&)> done) = 0;
+    virtual void choose(const PrinterChoice& choice) = 0;
     [[nodiscard]] virtual Request print(const QString& printer, const PrintPage& page, Done done) = 0;
     /// The page as a PDF; the file is whole, or as it was.
     [[nodiscard]] virtual Request printToFile(const QString& path, const PrintPage& page, Done done) = 0;
-    /// The system's own dialog. What is chosen there holds for the pages to come.
-    virtual void setUp(QWidget* over) = 0;
 };
 
 inline QSizeF Paper::sheet(PageOrientation orientation) const

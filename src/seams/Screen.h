@@ -2,6 +2,7 @@
 #pragma once
 #include "pixels/Bits.h"
 #include <QRect>
+#include <QString>
 #include <functional>
 #include <vector>
 
@@ -15,6 +16,7 @@ struct ScreenPicture {
     };
     Bits bits; // null: there is nothing to be had
     std::vector<Part> parts;
+    QString reason = {}; // why the picture is missing or black, in words for a person; empty when nothing is to be told
 };
 
 class Screen {

@@ -10,7 +10,7 @@ cp "$bin/velara-studio" "$bin/velara-decode" "$bin/velara-scan" "$folder/"
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
 export ASAN_OPTIONS=detect_leaks=0:exitcode=99
 export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
+unset QT_QPA_PLATFORM WAYLAND_DISPLAY XDG_SESSION_TYPE QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
 pids=""
 editor=""
 

@@ -20,3 +20,37 @@ took=$((($(date +%s%N) - before) / 1000000))
 kill -CONT "$owner"
 wait "$editor" || fail "the editor ended with $?"
 [ "$took" -lt 3500 ] || fail "a silent owner cost $took ms"
+
+# owner HOW...: one that behaves badly
+owner() {
+    kill "$owner" 2>/dev/null || true
+    "$bin/bad_owner" "$@" &
+    owner=$!
+    pids="$pids $owner"
+    sleep 0.3
+}
+# pastes TITLED: how long it takes until so many windows stand, in milliseconds
+pastes() {
+    before=$(date +%s%N)
+    keys alt+e f
+    until_true "the end of the paste" "$@"
+    took=$((($(date +%s%N) - before) / 1000000))
+}
+start
+owner many "$scratch/in.png"
+pastes documents 1
+[ "$took" -lt 5000 ] || fail "a million types cost $took ms"
+owner late 800
+pastes count_titled 2 # told that it isn't handed over
+[ "$took" -lt 5000 ] || fail "ten late kinds cost $took ms"
+told "the late owner"
+owner drip "$scratch/in.bmp" 4000 # a minute and more
+pastes count_titled 2 # the box
+sleep 0.3
+if [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/clipboard.png"; fi
+keys Escape
+told "the bytes that were given up"
+owner drip "$scratch/in.bmp" 130000
+pastes documents 2 # after more than two seconds
+saves "$scratch/out_drip.bmp" "$scratch/in.bmp" "a picture in slow pieces"
+quit

@@ -6,6 +6,8 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include <QtWidgets>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace velara {
@@ -50,6 +52,34 @@ class PrintServer {
     void write(const QString& name, const QString& text) { putFile(folder_.filePath(name), text.toUtf8()); }
     QTemporaryDir folder_;
     QProcess server_;
+};
+
+/// Takes connections and sends a byte now and then, so that no single step ever takes long.
+class DrippingServer {
+  public:
+    DrippingServer()
+    {
+        sockaddr_in address{AF_INET, 0, {htonl(INADDR_LOOPBACK)}, {}};
+        socklen_t size = sizeof address;
+        bind(sockets_[0], reinterpret_cast<sockaddr*>(&address), size);
+        listen(sockets_[0], 9);
+        getsockname(sockets_[0], reinterpret_cast<sockaddr*>(&address), &size);
+        qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(ntohs(address.sin_port)));
+        QObject::connect(&drip_, &QTimer::timeout, [this] {
+            for (qsizetype i = 1; i < sockets_.size(); ++i) send(sockets_[i], "H", 1, MSG_NOSIGNAL);
+            if (const int client = accept(sockets_[0], nullptr, nullptr); client >= 0) sockets_ << client;
+        });
+        drip_.start(50);
+    }
+    ~DrippingServer()
+    {
+        qunsetenv("CUPS_SERVER");
+        for (const int each : sockets_) close(each);
+    }
+
+  private:
+    QList<int> sockets_{socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0)}; // the first listens
+    QTimer drip_;
 };
 
 struct CupsPrintersTest : FolderTest {
@@ -160,6 +190,17 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     EXPECT_EQ(list().current, "Attic"); // ours goes before the system's
     printers.setCurrent("gone");
     EXPECT_EQ(list().current, "Lab");
+    const auto options = [&](const QString& printer) {
+        return answerTo<Printers::Options>([&](auto done) { request = printers.options(printer, done); });
+    };
+    const Paper a5 = options("").papers[3];
+    printers.choose({"Lab", a5, true});
+    EXPECT_EQ(options("Lab").papers.front().name, a5.name);
+    EXPECT_TRUE(options("Lab").gray);
+    printers.choose({"", a5, false});
+    EXPECT_EQ(list().current, "") << "a file";
+    EXPECT_EQ(printers.usualPaper().size, a5.size);
+    printers.setCurrent("Lab");
 
     PrintPage wanted = page(PageOrientation::Landscape, false);
     wanted.copies = 3;
@@ -176,6 +217,32 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     server.kill();
     EXPECT_EQ(toPrinter("Attic", wanted), "the print server does not answer");
     EXPECT_TRUE(list().names.isEmpty());
+}
+
+TEST_F(CupsPrintersTest, ADrippingServerCostsTenSecondsInAllAndNeverTheWindow)
+{
+    const DrippingServer server;
+    QElapsedTimer timer;
+    timer.start();
+    std::optional<Printers::List> listed;
+    std::optional<Printers::Options> known;
+    qint64 inFile = 0;
+    const Printers::Request asked[] = {
+        printers.list([&](const Printers::List& list) { listed = list; }),
+        printers.options("Lab", [&](const Printers::Options& options) { known = options; }),
+        printers.printToFile(path("out.pdf"), page(PageOrientation::Portrait, true),
+                             [&](const QString&) { inFile = timer.elapsed(); })};
+    qint64 last = 0, longest = 0;
+    EXPECT_TRUE(waitUntil([&] {
+        longest = std::max(longest, timer.elapsed() - std::exchange(last, timer.elapsed()));
+        return listed && known;
+    }));
+    EXPECT_EQ(listed->reason, "the print server does not answer");
+    EXPECT_EQ(known->papers.size(), 5u) << "the usual ones";
+    EXPECT_TRUE(inFile > 0 && inFile < 9000) << inFile << ": a file waits for no server";
+    EXPECT_TRUE(timer.elapsed() > 9000 && timer.elapsed() < 15000) << timer.elapsed();
+    EXPECT_LT(longest, 1000);
+    RecordProperty("longest_pause_ms", static_cast<int>(longest));
 }
 
 } // namespace velara

@@ -10,16 +10,19 @@ namespace velara {
 
 namespace {
 
+/// In a session of Wayland.
 struct Portal {
+    Portal() { qputenv("XDG_SESSION_TYPE", "wayland"); }
+    ~Portal() { qunsetenv("XDG_SESSION_TYPE"); }
     QTemporaryDir folder;
     PrivateBus bus;
     QString shot = folder.filePath("shot.png"), log = folder.filePath("log");
 
-    bool start(int answer)
+    bool start(int answer, QRgb ground = qRgb(1, 2, 3))
     {
         QImage picture(40, 30, QImage::Format_RGB32);
-        picture.fill(qRgb(1, 2, 3));
-        picture.setPixel(7, 5, qRgb(200, 100, 50));
+        picture.fill(ground);
+        if (qGray(ground)) picture.setPixel(7, 5, qRgb(200, 100, 50));
         EXPECT_TRUE(picture.save(shot));
         return bus.serve("org.freedesktop.portal.Desktop", "portal.py",
                          {{"answer", answer}, {"uri", QUrl::fromLocalFile(shot).toString()}, {"log", log}});
@@ -53,7 +56,26 @@ TEST(QtScreen, ARefusalAndAMissingPortalGiveNoPicture)
         Portal portal;
         ASSERT_TRUE(!there || portal.start(1));
         QtScreen screen(platform, portal.bus.connection());
-        EXPECT_TRUE(answerTo<ScreenPicture>([&](auto done) { screen.grab(done); }).bits.isNull());
+        const auto got = answerTo<ScreenPicture>([&](auto done) { screen.grab(done); });
+        EXPECT_TRUE(got.bits.isNull());
+        EXPECT_EQ(got.reason.contains("org.freedesktop.portal.Screenshot"), !there) << "the missing one is named";
+    }
+}
+
+// Whatever the windows come over: X has a black picture there.
+TEST(QtScreen, ThePortalIsAskedInASessionOfWaylandAloneAndBlackIsTold)
+{
+    RecordingPlatform platform;
+    for (const char* name : {"XDG_SESSION_TYPE", "WAYLAND_DISPLAY", ""}) {
+        Portal portal;
+        ASSERT_TRUE(portal.start(0, qRgb(0, 0, 0)));
+        qunsetenv("XDG_SESSION_TYPE");
+        if (*name) qputenv(name, "wayland");
+        QtScreen screen(platform, portal.bus.connection());
+        const auto got = answerTo<ScreenPicture>([&](auto done) { screen.grab(done); });
+        if (*name) qunsetenv(name);
+        EXPECT_EQ(portal.calls(), *name ? "Screenshot\n" : "") << name;
+        EXPECT_TRUE(got.reason == "The picture of the screen is all black." || !*name) << name;
     }
 }
 

@@ -48,7 +48,6 @@ class RecordingClipboard final : public Clipboard {
     QString fault; // why it can't be read
 
     explicit RecordingClipboard(std::vector<std::string>& log) : log_(log) {}
-    bool hasBitmap() override { return !bits.isNull() || !fault.isEmpty(); }
     LoadedPicture bitmap() override { return {bits, fault}; }
     bool setBitmap(const Bits& picture) override { return put("clipboard: set", picture); }
     bool setPart(const Bits& part) override { return put("clipboard: part", part); }
@@ -150,7 +149,7 @@ class RecordingPrinters final : public Printers {
     QString reason; // of the next page
     bool silent = false;
     std::vector<std::pair<QString, PrintPage>> pages; // the printer or the file
-    std::vector<QString> log;                         // "current NAME", "set up"
+    std::vector<QString> log;                         // "current NAME", "choose NAME PAPER"
 
     Request list(std::function<void(const List&)> done) override
     {
@@ -162,6 +161,14 @@ class RecordingPrinters final : public Printers {
         return ask([=, this] { done(tray); });
     }
     Paper usualPaper() override { return {}; }
+    Request options(const QString& printer, std::function<void(const Options&)> done) override
+    {
+        return ask([=, this] { done({{tray, {"iso_a4_210x297mm"}}, printer == "Lab"}); });
+    }
+    void choose(const PrinterChoice& choice) override
+    {
+        log.push_back("choose " + choice.printer + ' ' + choice.paper->name + (choice.gray ? " gray" : ""));
+    }
     Request print(const QString& printer, const PrintPage& page, Done done) override
     {
         pages.emplace_back(printer, page);
@@ -171,14 +178,13 @@ class RecordingPrinters final : public Printers {
     {
         return print(path, page, std::move(done));
     }
-    void setUp(QWidget*) override { log.push_back("set up"); }
-    /// False: nobody waits for it any more.
+    /// The last question, to be answered by calling it; null: nobody waits for it any more.
+    std::shared_ptr<std::function<void()>> held() const { return waiting_.lock(); }
     bool answer()
     {
-        const auto waiting = waiting_.lock();
-        if (!waiting) return false;
-        (*waiting)();
-        return true;
+        const auto waiting = held();
+        if (waiting) (*waiting)();
+        return waiting != nullptr;
     }
 
   private:

@@ -12,7 +12,6 @@
 #include "commands/vocabulary.h"
 #include "engine/operations.h"
 #include "seams/Platform.h"
-#include "seams/Printers.h"
 #include <algorithm>
 
 namespace velara {
@@ -36,7 +35,7 @@ constexpr Handler kHandlers[] = {
     {"NEW",                  [](fMain& f) { f.newPicture(); }},
     {"OPEN",                 [](fMain& f) { f.open(); }},
     {"FILEASSOCIATION",      showAssociation},
-    {"PRINTERSETUP",         [](fMain& f) { f.platform().printers().setUp(&f); }},
+    {"PRINTERSETUP",         setUpPrinter},
     {"SELECTSOURCE",         selectSource},
     {"ACQUIRETWAIN",         acquire},
     {"CAPTUREDESKTOP",       [](fMain& f) { f.capture().desktop(); }},

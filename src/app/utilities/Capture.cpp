@@ -110,11 +110,13 @@ void Capture::capturePic(int mode)
 {
     frame_.platform().yield();
     if (mode == Rectangle) return makeDocument(picker_->picRectangle());
-    grab([this, mode](const ScreenPicture& picture) { makeDocument(partOf(picture.bits, areaOf(mode, picture))); });
+    grab([this, mode](const ScreenPicture& picture) {
+        makeDocument(partOf(picture.bits, areaOf(mode, picture)), picture.reason);
+    });
 }
 
 /// By way of the file, if there is room for it; what was captured is not lost over it.
-void Capture::makeDocument(const Bits& captured)
+void Capture::makeDocument(const Bits& captured, const QString& reason)
 {
     bringBack();
     const QString path = frame_.platform().programFolder() + "/New.bmp";
@@ -127,8 +129,9 @@ void Capture::makeDocument(const Bits& captured)
     }
     frame_.adopt(bits, path);
     QFile::remove(path);
-    if (bits.isNull()) return frame_.report(tr("Capture"), {Outcome::Failed, tr("the screen gave no picture")});
-    if (frame_.setup().OpenZoom > 1) frame_.setZoom(frame_.setup().OpenZoom);
+    if (bits.isNull()) frame_.report(tr("Capture"), {Outcome::Failed, tr("the screen gave no picture")});
+    if (!bits.isNull() && frame_.setup().OpenZoom > 1) frame_.setZoom(frame_.setup().OpenZoom);
+    if (!reason.isEmpty()) frame_.platform().tell(reason, Icon::Exclamation);
 }
 
 void Capture::showDialog()
@@ -150,8 +153,10 @@ void Capture::customChosen(fCapture::Where where)
 void Capture::customDue()
 {
     grab([this](const ScreenPicture& picture) {
-        if (!picture.bits.isNull()) return picker_->ShowPicture(picture);
-        makeDocument({});
+        if (picture.bits.isNull()) return makeDocument({}, picture.reason);
+        if (picture.reason.isEmpty()) return picker_->ShowPicture(picture);
+        bringBack();
+        frame_.platform().tell(QString(picture.reason), Icon::Exclamation);
     });
 }
 

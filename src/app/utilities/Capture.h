@@ -46,7 +46,8 @@ class Capture final : public QObject {
     void customChosen(fCapture::Where where);
     void customDue();
     QRect areaOf(int mode, const ScreenPicture& picture) const;
-    void makeDocument(const Bits& bits);
+    /// reason: what there is to tell of the picture, as in ScreenPicture.
+    void makeDocument(const Bits& bits, const QString& reason = {});
 
     fMain& frame_;
     QTimer Timer2_, patience_;

@@ -1,8 +1,9 @@
 #include "app/utilities/desktop.h"
 #include "app/frame/fMain.h"
 #include "seams/Platform.h"
+#include "ui/printing/fPrint.h"
+#include "ui/printing/fPrinterSetup.h"
 #include "ui/utilities/fAcquire.h"
-#include "ui/utilities/fPrint.h"
 #include "ui/utilities/fSource.h"
 #include <QFile>
 #include <QPointer>
@@ -42,6 +43,13 @@ void print(fMain& frame)
         if (image) image->BitsCopyToClipboard();
     };
     auto* dialog = new fPrint(frame.platform(), image->bits(), image->Caption(), toClipboard, &frame);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void setUpPrinter(fMain& frame)
+{
+    auto* dialog = new fPrinterSetup(frame.platform().printers(), &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

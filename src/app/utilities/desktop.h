@@ -12,6 +12,8 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode);
 void selectSource(fMain& frame);
 /// The dialog that prints the active picture.
 void print(fMain& frame);
+/// The choice of printer and paper for the pages to come.
+void setUpPrinter(fMain& frame);
 /// One picture from the scanner as a new document.
 void acquire(fMain& frame);
 

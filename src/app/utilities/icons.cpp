@@ -17,9 +17,12 @@ fIcon* makeExtractor(fMain& frame)
     QObject::connect(&series, &fIconSeries::captureAsked, maker, [&frame, &series, maker](fIconSeries::Source source) {
         frame.capture().takeScreens(
             source == fIconSeries::Desktop, [&frame, &series, maker](const ScreenPicture& screens) {
-                if (!screens.bits.isNull()) return maker->ShowPicture(screens, series.count());
+                if (!screens.bits.isNull() && screens.reason.isEmpty())
+                    return maker->ShowPicture(screens, series.count());
                 frame.capture().bringBack();
-                frame.platform().tell(QObject::tr("The screen gave no picture."), Icon::Exclamation);
+                const QString reason = screens.reason;
+                frame.platform().tell(reason.isEmpty() ? QObject::tr("The screen gave no picture.") : reason,
+                                      Icon::Exclamation);
             });
     });
     QObject::connect(maker, &fIconMaker::taken, &series, &fIconSeries::add);

@@ -170,7 +170,7 @@ void DesktopWallpaper::setByPortal(const QString& path, WallpaperMode mode)
     if (!bus().isConnected() || !file.open(QIODevice::ReadOnly)) return setRoot(path, mode);
     const auto answered = [this, path, mode](PortalRequest::Code code, const QVariantMap&) {
         request_->deleteLater();
-        if (code == PortalRequest::Failed) return setRoot(path, mode);
+        if (code >= PortalRequest::Failed) return setRoot(path, mode);
         finish(WallpaperResult::Done); // refused: by the user, who needs no message
     };
     const QDBusUnixFileDescriptor descriptor(file.handle());

@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <algorithm>
 #include <utility>
 
 namespace velara {
@@ -17,6 +18,15 @@ QString nextToken()
 {
     static int count = 0;
     return QStringLiteral("velara%1").arg(++count);
+}
+
+/// No bus, no portal on it, or one that lacks the service that was asked for.
+bool isMissing(QDBusError::ErrorType error)
+{
+    constexpr QDBusError::ErrorType kMissing[] = {QDBusError::Disconnected,  QDBusError::ServiceUnknown,
+                                                  QDBusError::UnknownObject, QDBusError::UnknownInterface,
+                                                  QDBusError::UnknownMethod, QDBusError::NoServer};
+    return std::ranges::find(kMissing, error) != std::end(kMissing);
 }
 
 } // namespace
@@ -52,7 +62,7 @@ void PortalRequest::called(QDBusPendingCallWatcher* call)
 {
     const QDBusPendingReply<QDBusObjectPath> reply = *call;
     call->deleteLater();
-    if (reply.isError()) return finish(Failed, {});
+    if (reply.isError()) return finish(isMissing(reply.error().type()) ? Missing : Failed, {});
     listenTo(reply.value().path());
 }
 

@@ -13,7 +13,7 @@ namespace velara {
 class PortalRequest final : public QObject {
     Q_OBJECT
   public:
-    enum Code { Granted = 0, Refused = 1, Failed = 2 }; // of the portal; Failed too when there is none
+    enum Code { Granted = 0, Refused = 1, Failed = 2, Missing = 3 }; // of the portal; Missing: there is none
     using Done = std::function<void(Code, const QVariantMap& results)>;
 
     /// interface is the last word of its name ("Screenshot"). done is called once, from the message loop, and not after

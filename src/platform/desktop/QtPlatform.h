@@ -35,7 +35,8 @@ class QtPlatform : public CorePlatform {
     GoOn whileReading(const QString& name) override;
 
   private:
-    QtClipboard clipboard_{[this](const auto&... what) { return decodeBytes(what...); }};
+    QtClipboard clipboard_{[this](const auto&... what) { return decodeBytes(what...); },
+                           [this](const QString& name) { return whileReading(name); }};
     QtFonts fonts_;
     FilePreviews previews_;
     QtScreen screen_{*this};

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <QUrl>
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -41,6 +42,34 @@ ScreenPicture grabByQt()
     return picture;
 }
 
+bool isWaylandSession()
+{
+    return QGuiApplication::platformName().startsWith("wayland") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           qEnvironmentVariable("XDG_SESSION_TYPE") == "wayland";
+}
+
+bool isBlack(const Bits& bits)
+{
+    const auto black = [](const Pixel& pixel) { return !(pixel.c[0] | pixel.c[1] | pixel.c[2]); };
+    for (int y = 0; y < bits.height(); ++y)
+        if (!std::all_of(bits.row(y), bits.row(y) + bits.width(), black)) return false;
+    return true;
+}
+
+constexpr const char* kNoPortal =
+    "This is a session of Wayland, where only the desktop's portal shows the screens to a program, and there is no "
+    "portal for screenshots (org.freedesktop.portal.Screenshot). The packages xdg-desktop-portal and the one for this "
+    "desktop (xdg-desktop-portal-gnome, -kde, -wlr ...) bring it.";
+constexpr const char* kBlack = "The picture of the screen is all black.";
+
+/// An X server within a session of Wayland may have a picture of its own.
+ScreenPicture grabWithoutPortal()
+{
+    ScreenPicture picture = QGuiApplication::platformName() == "xcb" ? grabByQt() : ScreenPicture();
+    if (picture.bits.isNull() || isBlack(picture.bits)) picture = {{}, {}, kNoPortal};
+    return picture;
+}
+
 /// Where the portal's picture lies on this machine; empty for any other address.
 QString localFile(const QVariantMap& results) { return QUrl(results.value("uri").toString()).toLocalFile(); }
 
@@ -68,7 +97,7 @@ QtScreen::QtScreen(Platform& platform, std::optional<QDBusConnection> bus) : pla
     settle_.setSingleShot(true);
     settle_.setInterval(kSettle);
     connect(&settle_, &QTimer::timeout, this, [this] {
-        if (bus_ || QGuiApplication::platformName().startsWith("wayland"))
+        if (isWaylandSession())
             grabByPortal();
         else
             answer(grabByQt());
@@ -91,26 +120,31 @@ void QtScreen::cancel()
     delete request_;
 }
 
-void QtScreen::answer(const ScreenPicture& picture)
+void QtScreen::answer(ScreenPicture picture)
 {
+    if (picture.reason.isEmpty() && !picture.bits.isNull() && isBlack(picture.bits)) picture.reason = kBlack;
     if (const Done done = std::exchange(done_, nullptr)) done(picture);
 }
 
 void QtScreen::grabByPortal()
 {
-    const auto received = [this](PortalRequest::Code code, const QVariantMap& results) {
-        request_->deleteLater();
-        request_ = nullptr;
-        const QString file = localFile(results);
-        if (code != PortalRequest::Granted || file.isEmpty()) return answer({});
-        const LoadedPicture loaded = platform_.loadPicture(file, extensionOf(file));
-        QFile::remove(file); // the desktop made it for us, among the user's own pictures
-        QList<QRect> screens;
-        for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();
-        answer(wholeDesktop(loaded.bits, screens));
-    };
-    request_ = new PortalRequest(bus_.value_or(QDBusConnection::sessionBus()), "Screenshot", "Screenshot", {QString()},
-                                 {{"interactive", false}}, received, this);
+    request_ = new PortalRequest(
+        bus_.value_or(QDBusConnection::sessionBus()), "Screenshot", "Screenshot", {QString()}, {{"interactive", false}},
+        [this](auto code, const auto& results) { received(code, results); }, this);
+}
+
+void QtScreen::received(int code, const QVariantMap& results)
+{
+    request_->deleteLater();
+    request_ = nullptr;
+    if (code == PortalRequest::Missing) return answer(grabWithoutPortal());
+    const QString file = localFile(results);
+    if (code != PortalRequest::Granted || file.isEmpty()) return answer({});
+    const LoadedPicture loaded = platform_.loadPicture(file, extensionOf(file));
+    QFile::remove(file); // the desktop made it for us, among the user's own pictures
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();
+    answer(wholeDesktop(loaded.bits, screens));
 }
 
 bool QtScreen::showDesktop(bool on) { return x11ShowDesktop(on); }

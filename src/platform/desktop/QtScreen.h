@@ -1,4 +1,5 @@
-// QtScreen: the screens by Qt on X, by the desktop's portal on Wayland, where no program may look for itself.
+// QtScreen: the screens by Qt on X; by the desktop's portal in a session of Wayland, where no program may look for
+// itself, whether its windows come over X or not. There X has a black picture.
 #pragma once
 #include "seams/Platform.h"
 #include "seams/Screen.h"
@@ -13,7 +14,7 @@ class PortalRequest;
 class QtScreen final : public QObject, public Screen {
     Q_OBJECT
   public:
-    /// platform reads the portal's file. With a bus the portal is asked, whatever the windowing system.
+    /// platform reads the portal's file. The portal is on the bus; without one it's on that of the session.
     explicit QtScreen(Platform& platform, std::optional<QDBusConnection> bus = {});
     ~QtScreen() override;
 
@@ -23,7 +24,8 @@ class QtScreen final : public QObject, public Screen {
 
   private:
     void grabByPortal();
-    void answer(const ScreenPicture& picture);
+    void received(int code, const QVariantMap& results);
+    void answer(ScreenPicture picture);
 
     Platform& platform_;
     std::optional<QDBusConnection> bus_;

@@ -219,7 +219,7 @@ TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
     EXPECT_EQ(copy->bits().at(3, 3), image->bits().at(3, 3));
     EXPECT_TRUE(copy->document().Region.Region() == image->document().Region.Region());
     EXPECT_EQ(copy->Tag(), "[1]" + image->Tag());
-    EXPECT_FALSE(platform.clipboard().hasBitmap());
+    EXPECT_TRUE(platform.clipboard().bits.isNull());
 }
 
 TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)

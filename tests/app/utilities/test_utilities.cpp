@@ -140,10 +140,12 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
 
 TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
 {
+    platform.screen().picture.reason = "no portal";
     frame->Mmenu("CAPTUREBACKGROUND"); // there is no picture of the screen
     EXPECT_FALSE(frame->isVisible());
     fImage* image = waitForDocument();
     EXPECT_TRUE(frame->isVisible());
+    EXPECT_TRUE(platform.logged("message: Velara Studio: no portal"));
     EXPECT_FALSE(image->PictureExists());
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
 

@@ -11,7 +11,7 @@ namespace {
 class ToolkitOffer final : public ClipboardOffer {
   public:
     QStringList types() override { return data() ? data()->formats() : QStringList(); }
-    std::optional<QByteArray> bytes(const QString& type) override
+    std::optional<QByteArray> bytes(const QString& type, const GoOn&) override
     {
         return data() && data()->hasFormat(type) ? std::optional(data()->data(type)) : std::nullopt;
     }

@@ -3,7 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
-#include <algorithm>
+#include <chrono>
 
 namespace velara {
 
@@ -47,29 +47,35 @@ Bits bitsOf(const QImage& picture)
 
 } // namespace
 
-bool QtClipboard::hasBitmap()
-{
-    if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_) return true;
-    const QStringList offered = clipboardOffer()->types();
-    return std::any_of(std::begin(kClipboardTypes), std::end(kClipboardTypes),
-                       [&](const ClipboardType& type) { return offered.contains(QLatin1String(type.mime)); });
-}
-
 LoadedPicture QtClipboard::bitmap()
 {
     if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_)
         return {bitsOf(qvariant_cast<QImage>(ours_->imageData())), {}};
+    return received();
+}
+
+/// One clock and one box for all that is tried, so that one Esc ends it.
+LoadedPicture QtClipboard::received()
+{
     const auto offer = clipboardOffer();
     const QStringList offered = offer->types();
+    const auto begin = std::chrono::steady_clock::now();
+    bool wanted = true;
+    const GoOn goOn = [&, box = waiting_(QStringLiteral("the picture on the clipboard"))](auto) {
+        using std::chrono::milliseconds;
+        const auto waited = std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin);
+        return wanted = wanted && (!box || box(waited));
+    };
     LoadedPicture picture;
     for (const ClipboardType& type : kClipboardTypes) {
         if (!offered.contains(QLatin1String(type.mime))) continue;
-        const auto bytes = offer->bytes(type.mime);
-        picture =
-            bytes ? read_(*bytes, QStringLiteral("The picture on the clipboard"), type.extension)
-                  : LoadedPicture{
-                        {}, QStringLiteral("The program that put the picture on the clipboard doesn't hand it over.")};
-        if (picture.ok()) break;
+        const auto bytes = offer->bytes(type.mime, goOn);
+        if (!wanted) return {{}, QStringLiteral("The picture on the clipboard was given up.")};
+        picture = bytes ? read_(*bytes, QStringLiteral("The picture on the clipboard"), type.extension, goOn)
+                        : LoadedPicture{{},
+                                        QStringLiteral("The program that put the picture on the clipboard doesn't "
+                                                       "hand it over.")};
+        if (picture.ok() || !wanted) break;
     }
     return picture;
 }

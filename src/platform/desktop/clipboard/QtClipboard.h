@@ -13,10 +13,12 @@ namespace velara {
 class QtClipboard final : public Clipboard {
   public:
     /// Makes a picture of bytes by the reader of an extension; name is what the reason calls them.
-    using Read = std::function<LoadedPicture(const QByteArray& bytes, const QString& name, const QString& extension)>;
-    explicit QtClipboard(Read read) : read_(std::move(read)) {}
+    using Read = std::function<LoadedPicture(const QByteArray& bytes, const QString& name, const QString& extension,
+                                             const GoOn& goOn)>;
+    /// What stands before the person while the picture comes and is read; name is what it is called.
+    using Waiting = std::function<GoOn(const QString& name)>;
+    QtClipboard(Read read, Waiting waiting) : read_(std::move(read)), waiting_(std::move(waiting)) {}
 
-    bool hasBitmap() override;
     LoadedPicture bitmap() override;
     bool setBitmap(const Bits& bits) override;
     bool setPart(const Bits& part) override;
@@ -24,8 +26,10 @@ class QtClipboard final : public Clipboard {
 
   private:
     void offer(const QImage& picture);
+    LoadedPicture received();
 
     Read read_;
+    Waiting waiting_;
     QPointer<QMimeData> ours_; // what this program last put there, while it is there
 };
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <poll.h>
+#include <vector>
 #include <xcb/xcb.h>
 
 namespace velara {
@@ -12,10 +13,12 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 900ms;    // in all, beside the time for the bytes; the rest of a second is for the way
-constexpr qsizetype kSlowest = 4000; // bytes a millisecond: an owner that drips is left like one that is silent
+constexpr auto kPatience = 900ms; // for all answers together; each of the pieces that some come in has as much again
+constexpr auto kMoment = 50ms;    // between two questions whether to go on
+constexpr std::size_t kMostTypes = 256;
+constexpr qsizetype kMostAtoms = qsizetype{1} << 16; // bytes of them that are looked at
 constexpr qsizetype kMostBytes = qsizetype{1} << 30;
-constexpr std::uint32_t kPieceWords = 1 << 20;
+constexpr qsizetype kRead = qsizetype{1} << 22; // bytes at once
 
 template <class T> struct Freed {
     void operator()(T* reply) const { std::free(reply); }
@@ -41,16 +44,18 @@ class XClipboardOffer final : public ClipboardOffer {
 
     QStringList types() override
     {
-        QStringList list;
-        const QByteArray atoms = fetch(atom("TARGETS")).value_or(QByteArray());
-        for (qsizetype at = 0; at + 4 <= atoms.size(); at += 4) {
-            xcb_atom_t type = XCB_NONE;
-            std::copy_n(atoms.constData() + at, 4, reinterpret_cast<char*>(&type));
-            list << nameOf(type);
-        }
-        return list;
+        goOn_ = {};
+        const auto told = ask(atom("TARGETS"));
+        return told ? namesOf(atomsOf(take(kMostAtoms).bytes)) : QStringList();
     }
-    std::optional<QByteArray> bytes(const QString& type) override { return fetch(atom(type.toLatin1())); }
+    std::optional<QByteArray> bytes(const QString& type, const GoOn& goOn) override
+    {
+        goOn_ = goOn;
+        if (!ask(atom(type.toLatin1()))) return {};
+        const Property whole = take(kMostBytes);
+        if (whole.kind == incremental_) return pieces();
+        return whole.bytes.size() < kMostBytes ? std::optional(whole.bytes) : std::nullopt;
+    }
 
   private:
     xcb_atom_t atom(const QByteArray& name) const
@@ -60,85 +65,112 @@ class XClipboardOffer final : public ClipboardOffer {
             xcb_intern_atom_reply(x_, xcb_intern_atom(x_, 0, length, name.constData()), nullptr));
         return reply ? reply->atom : xcb_atom_t{XCB_NONE};
     }
-    QString nameOf(xcb_atom_t atom) const
+    /// Those that are looked at, each once.
+    static std::vector<xcb_atom_t> atomsOf(const QByteArray& bytes)
     {
-        const Reply<xcb_get_atom_name_reply_t> reply(xcb_get_atom_name_reply(x_, xcb_get_atom_name(x_, atom), nullptr));
-        return reply ? QString::fromLatin1(xcb_get_atom_name_name(reply.get()), reply->name_len) : QString();
+        std::vector<xcb_atom_t> atoms;
+        for (qsizetype at = 0; at + 4 <= bytes.size() && atoms.size() < kMostTypes; at += 4) {
+            xcb_atom_t type = XCB_NONE;
+            std::copy_n(bytes.constData() + at, 4, reinterpret_cast<char*>(&type));
+            if (std::ranges::find(atoms, type) == atoms.end()) atoms.push_back(type);
+        }
+        return atoms;
+    }
+    /// All are asked for before the first answer is waited for.
+    QStringList namesOf(const std::vector<xcb_atom_t>& atoms) const
+    {
+        std::vector<xcb_get_atom_name_cookie_t> asked;
+        for (const xcb_atom_t each : atoms) asked.push_back(xcb_get_atom_name(x_, each));
+        QStringList names;
+        for (const auto cookie : asked) {
+            const Reply<xcb_get_atom_name_reply_t> reply(xcb_get_atom_name_reply(x_, cookie, nullptr));
+            if (reply) names << QString::fromLatin1(xcb_get_atom_name_name(reply.get()), reply->name_len);
+        }
+        return names;
     }
 
-    /// The next event of the kind that suits; null when the owner stays silent or drips.
-    template <class Event, class Suits> Reply<Event> await(std::uint8_t kind, Suits suits)
+    bool wanted()
+    {
+        const auto now = Clock::now();
+        if (!goOn_ || now - asked_ < kMoment) return true;
+        asked_ = now;
+        return goOn_({});
+    }
+
+    /// The next event of the kind that suits; null when the time is over or the bytes are given up. What came while
+    /// goOn took its time counts.
+    template <class Event, class Suits> Reply<Event> await(std::uint8_t kind, Clock::time_point end, Suits suits)
     {
         for (;;) {
-            while (xcb_generic_event_t* event = xcb_poll_for_event(x_)) {
-                Reply<Event> mine(reinterpret_cast<Event*>(event));
-                if ((event->response_type & 0x7f) == kind && suits(*mine)) return mine;
-            }
-            const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline_ - Clock::now()).count();
-            if (left <= 0 || xcb_connection_has_error(x_)) return {};
+            Reply<Event> event(reinterpret_cast<Event*>(xcb_poll_for_event(x_)));
+            if (event && (event->response_type & 0x7f) == kind && suits(*event)) return event;
+            if (Clock::now() >= end || xcb_connection_has_error(x_) || !wanted()) return {};
+            const auto left = std::clamp<Clock::duration>(end - Clock::now(), 0ms, kMoment);
             pollfd waiting{xcb_get_file_descriptor(x_), POLLIN, 0};
-            poll(&waiting, 1, static_cast<int>(left));
+            if (!event) poll(&waiting, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(left).count()));
         }
     }
 
-    std::optional<QByteArray> fetch(xcb_atom_t type)
+    /// True when the owner has put something down for us, out of the time that is left for all its answers.
+    bool ask(xcb_atom_t type)
     {
-        if (silent_) return {};
-        deadline_ = Clock::now() + kPatience;
+        if (left_ <= 0ms) return false;
+        const auto begin = Clock::now();
         xcb_convert_selection(x_, window_, clipboard_, type, property_, XCB_CURRENT_TIME);
         xcb_flush(x_);
-        const auto told = await<xcb_selection_notify_event_t>(XCB_SELECTION_NOTIFY,
+        const auto told = await<xcb_selection_notify_event_t>(XCB_SELECTION_NOTIFY, begin + left_,
                                                               [&](const auto& event) { return event.target == type; });
-        silent_ = !told;
-        if (!told || told->property == XCB_NONE) return {};
-        xcb_atom_t kind = XCB_NONE;
-        std::optional<QByteArray> bytes = property(&kind);
-        return kind == incremental_ ? pieces() : bytes;
+        left_ = told ? left_ - (Clock::now() - begin) : 0ms;
+        return told && told->property != XCB_NONE;
     }
 
-    /// Takes what the owner has put down, by which the owner knows that it may go on.
-    std::optional<QByteArray> property(xcb_atom_t* kind)
-    {
+    struct Property {
+        xcb_atom_t kind = XCB_NONE;
         QByteArray bytes;
-        for (;;) {
-            const Reply<xcb_get_property_reply_t> part(
-                xcb_get_property_reply(x_,
-                                       xcb_get_property(x_, 0, window_, property_, XCB_GET_PROPERTY_TYPE_ANY,
-                                                        static_cast<std::uint32_t>(bytes.size() / 4), kPieceWords),
-                                       nullptr));
-            if (!part) return {};
-            if (kind) *kind = part->type;
-            bytes.append(static_cast<const char*>(xcb_get_property_value(part.get())),
-                         xcb_get_property_value_length(part.get()));
-            if (part->bytes_after == 0 || bytes.size() > kMostBytes) break;
+    };
+    /// What the owner has put down, up to so many bytes; by its end the owner knows that it may go on.
+    Property take(qsizetype most)
+    {
+        Property whole;
+        for (std::uint32_t after = 1; after > 0 && whole.bytes.size() < most && wanted();) {
+            const auto from = static_cast<std::uint32_t>(whole.bytes.size() / 4);
+            const auto words = static_cast<std::uint32_t>(std::min(kRead, most - whole.bytes.size()) / 4);
+            const Reply<xcb_get_property_reply_t> part(xcb_get_property_reply(
+                x_, xcb_get_property(x_, 0, window_, property_, XCB_GET_PROPERTY_TYPE_ANY, from, words), nullptr));
+            if (!part) break;
+            whole.kind = part->type;
+            whole.bytes.append(static_cast<const char*>(xcb_get_property_value(part.get())),
+                               xcb_get_property_value_length(part.get()));
+            after = part->bytes_after;
         }
         xcb_delete_property(x_, window_, property_);
         xcb_flush(x_);
-        return bytes.size() > kMostBytes ? std::nullopt : std::optional(bytes);
+        return whole;
     }
 
-    /// Piece by piece, until an empty one.
+    /// Piece by piece, until an empty one. Without its end nothing more is asked: pieces may still be under way.
     std::optional<QByteArray> pieces()
     {
         QByteArray bytes;
         for (;;) {
-            const auto put = await<xcb_property_notify_event_t>(XCB_PROPERTY_NOTIFY, [&](const auto& event) {
-                return event.atom == property_ && event.state == XCB_PROPERTY_NEW_VALUE;
-            });
-            silent_ = !put;
-            const auto piece = put ? property(nullptr) : std::nullopt;
-            if (!piece || bytes.size() + piece->size() > kMostBytes) return {};
-            if (piece->isEmpty()) return bytes;
-            bytes += *piece;
-            deadline_ += std::chrono::milliseconds(piece->size() / kSlowest);
+            const auto put = await<xcb_property_notify_event_t>(
+                XCB_PROPERTY_NOTIFY, Clock::now() + kPatience,
+                [&](const auto& event) { return event.atom == property_ && event.state == XCB_PROPERTY_NEW_VALUE; });
+            const QByteArray piece = put ? take(kMostBytes).bytes : QByteArray();
+            if (put && piece.isEmpty()) return bytes;
+            if (!put || bytes.size() + piece.size() >= kMostBytes) break;
+            bytes += piece;
         }
+        left_ = 0ms;
+        return {};
     }
 
     xcb_connection_t* x_;
     xcb_window_t window_ = XCB_NONE;
     xcb_atom_t clipboard_ = XCB_NONE, property_ = XCB_NONE, incremental_ = XCB_NONE;
-    Clock::time_point deadline_;
-    bool silent_ = false;
+    Clock::duration left_ = kPatience;
+    Clock::time_point asked_;
+    GoOn goOn_;
 };
 
 } // namespace

@@ -2,11 +2,8 @@
 #include "fileio/writers/pagePdf.h"
 #include "platform/desktop/printing/cups.h"
 #include "seams/Platform.h"
-#include <QDialogButtonBox>
 #include <QLocale>
-#include <QPointer>
-#include <QPrintDialog>
-#include <QPushButton>
+#include <QPageSize>
 #include <QTemporaryDir>
 
 namespace velara {
@@ -14,15 +11,37 @@ namespace velara {
 namespace {
 
 constexpr const char *kSection = "Printer", *kCurrent = "Current"; // of the settings
+constexpr const char* kSilent = "the print server does not answer";
 
-Paper paperOf(const QPrinter& printer)
+// clang-format off
+constexpr struct {
+    const char* name; // of the print server
+    QPageSize::PageSizeId size;
+} kUsualPapers[] = {
+    {"iso_a4_210x297mm",   QPageSize::A4},
+    {"na_letter_8.5x11in", QPageSize::Letter},
+    {"iso_a3_297x420mm",   QPageSize::A3},
+    {"iso_a5_148x210mm",   QPageSize::A5},
+    {"na_legal_8.5x14in",  QPageSize::Legal},
+};
+// clang-format on
+
+/// That of this country first.
+std::vector<Paper> usualPapers()
 {
-    const QPageLayout layout = printer.pageLayout();
-    Paper paper{layout.pageSize().key(), layout.pageSize().size(QPageSize::Millimeter), {}};
-    QMarginsF margins = layout.minimumMargins();
-    if (layout.units() == QPageLayout::Point) margins *= 25.4 / 72;
-    paper.margins = margins;
-    return paper;
+    std::vector<Paper> papers;
+    for (const auto& [name, size] : kUsualPapers)
+        papers.push_back({name, QPageSize::size(size, QPageSize::Millimeter), {5, 5, 5, 5}});
+    if (QLocale::system().measurementSystem() == QLocale::ImperialUSSystem) std::swap(papers[0], papers[1]);
+    return papers;
+}
+
+/// The papers with one of them in front.
+std::vector<Paper> led(const Paper& first, std::vector<Paper> papers)
+{
+    std::erase_if(papers, [&](const Paper& paper) { return paper.name == first.name; });
+    papers.insert(papers.begin(), first);
+    return papers;
 }
 
 /// What the server is to do with a page: as it is, in so many copies, as well as it should.
@@ -36,14 +55,15 @@ JobOptions optionsOf(const PrintPage& page)
     return options;
 }
 
-QString printBy(const QString& printer, const PrintPage& page, const JobOptions& options, const GoOn& goOn)
+QString printBy(const QString& printer, const PrintPage& page, const JobOptions& options, Patience& patience)
 {
     const QTemporaryDir folder; // for its owner alone
     const QString pdf = folder.filePath("page.pdf");
-    const auto wanted = [&goOn] { return goOn({}); };
+    const auto wanted = [&patience] { return patience.lasts(); };
     const QString reason = writePagePdf(pdf, page, wanted);
     if (!reason.isEmpty() || !wanted()) return reason;
-    return cupsPrint(printer, pdf, page.title, options);
+    patience.startAnew(kServerPatience);
+    return cupsPrint(printer, pdf, page.title, options, patience);
 }
 
 } // namespace
@@ -51,65 +71,69 @@ QString printBy(const QString& printer, const PrintPage& page, const JobOptions&
 Printers::Request CupsPrinters::list(std::function<void(const List&)> done)
 {
     const QString last = platform_.setting(kSection, kCurrent, {});
-    return work_.add<List>(
-        [last](const GoOn&) {
-            List list = cupsQueues();
-            if (list.names.contains(last)) list.current = last;
-            if (list.current.isEmpty() && !list.names.isEmpty()) list.current = list.names.front();
-            return list;
-        },
-        std::move(done));
+    const auto look = [last, toFile = toFile_](Patience& patience) {
+        List list = cupsQueues(patience);
+        if (list.names.contains(last)) list.current = last;
+        if (list.current.isEmpty() && !list.names.isEmpty()) list.current = list.names.front();
+        if (toFile) list.current.clear();
+        return list;
+    };
+    return talks_.ask<List>(look, {{}, {}, kSilent}, kServerPatience, std::move(done));
 }
 
-void CupsPrinters::setCurrent(const QString& name) { platform_.setSetting(kSection, kCurrent, name); }
-
-Paper CupsPrinters::usualPaper()
+void CupsPrinters::setCurrent(const QString& name)
 {
-    const bool isAmerican = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return {{}, QPageSize::size(isAmerican ? QPageSize::Letter : QPageSize::A4, QPageSize::Millimeter), {5, 5, 5, 5}};
+    toFile_ = false;
+    platform_.setSetting(kSection, kCurrent, name);
 }
+
+PrinterChoice CupsPrinters::chosenFor(const QString& printer) const
+{
+    return chosen_.printer == printer ? chosen_ : PrinterChoice{printer, {}, false};
+}
+
+Paper CupsPrinters::usualPaper() { return chosenFor({}).paper.value_or(usualPapers().front()); }
 
 Printers::Request CupsPrinters::paper(const QString& printer, std::function<void(const Paper&)> done)
 {
-    std::optional<Paper> chosen;
-    if (chosen_ && chosen_->printerName() == printer) chosen = paperOf(*chosen_);
-    return work_.add<Paper>(
-        [=, usual = usualPaper()](const GoOn&) { return chosen ? *chosen : cupsPaper(printer).value_or(usual); },
-        std::move(done));
+    const auto chosen = chosenFor(printer).paper;
+    return talks_.ask<Paper>(
+        [=](Patience& patience) { return chosen ? *chosen : cupsPapers(printer, usualPapers(), patience).front(); },
+        usualPapers().front(), kServerPatience, std::move(done));
+}
+
+Printers::Request CupsPrinters::options(const QString& printer, std::function<void(const Options&)> done)
+{
+    const auto optionsWith = [chosen = chosenFor(printer)](const std::vector<Paper>& papers) {
+        return Options{chosen.paper ? led(*chosen.paper, papers) : papers, chosen.gray};
+    };
+    return talks_.ask<Options>(
+        [=](Patience& patience) {
+            return optionsWith(printer.isEmpty() ? usualPapers() : cupsPapers(printer, usualPapers(), patience));
+        },
+        optionsWith(usualPapers()), kServerPatience, std::move(done));
+}
+
+void CupsPrinters::choose(const PrinterChoice& choice)
+{
+    if (!choice.printer.isEmpty()) setCurrent(choice.printer);
+    toFile_ = choice.printer.isEmpty();
+    chosen_ = choice;
 }
 
 Printers::Request CupsPrinters::print(const QString& printer, const PrintPage& page, Done done)
 {
+    constexpr std::chrono::hours kWriting{24}; // the page takes what it takes; then the server's time begins
     JobOptions options = optionsOf(page);
-    if (chosen_ && chosen_->printerName() == printer && chosen_->colorMode() == QPrinter::GrayScale)
-        options.emplace_back("print-color-mode", "monochrome");
-    return work_.add<QString>([=](const GoOn& goOn) { return printBy(printer, page, options, goOn); }, std::move(done));
+    if (chosenFor(printer).gray) options.emplace_back("print-color-mode", "monochrome");
+    return talks_.ask<QString>([=](Patience& patience) { return printBy(printer, page, options, patience); }, kSilent,
+                               kWriting, std::move(done));
 }
 
 Printers::Request CupsPrinters::printToFile(const QString& path, const PrintPage& page, Done done)
 {
-    return work_.add<QString>([=](const GoOn& goOn) { return writePagePdf(path, page, [&goOn] { return goOn({}); }); },
-                              std::move(done));
-}
-
-void CupsPrinters::setUp(QWidget* over)
-{
-    auto printer = std::make_unique<QPrinter>();
-    const QString last = platform_.setting(kSection, kCurrent, {});
-    if (!last.isEmpty()) printer->setPrinterName(last);
-    if (chosen_ && chosen_->printerName() == last) printer->setPageLayout(chosen_->pageLayout());
-    const QPointer<QPrintDialog> dialog = new QPrintDialog(printer.get(), over);
-    dialog->setObjectName("Dlg");
-    dialog->setWindowTitle("Printer Setup");
-    dialog->setOption(QAbstractPrintDialog::PrintToFile, false); // nothing is printed yet
-    if (auto* buttons = dialog->findChild<QDialogButtonBox*>())
-        if (QPushButton* ok = buttons->button(QDialogButtonBox::Ok)) ok->setText("OK");
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    const bool stands = dialog;
-    delete dialog;
-    if (!accepted || !stands || printer->printerName().isEmpty()) return;
-    setCurrent(printer->printerName());
-    chosen_ = std::move(printer);
+    return files_.add<QString>([=](const GoOn& goOn) { return writePagePdf(path, page, [&goOn] { return goOn({}); }); },
+                               std::move(done));
 }
 
 } // namespace velara

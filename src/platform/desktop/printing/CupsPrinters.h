@@ -1,9 +1,9 @@
-// CupsPrinters: the real Printers. The print server is spoken with in a thread of its own, and a silent one is given up
-// after ten seconds.
+// CupsPrinters: the real Printers. Each question to the print server has a thread of its own; nothing of the toolkit's
+// printing is used, as it asks the server in the window's thread.
 #pragma once
 #include "platform/BackgroundQueue.h"
+#include "platform/desktop/printing/Talks.h"
 #include "seams/Printers.h"
-#include <QPrinter>
 
 namespace velara {
 
@@ -17,14 +17,20 @@ class CupsPrinters final : public Printers {
     void setCurrent(const QString& name) override;
     Request paper(const QString& printer, std::function<void(const Paper&)> done) override;
     Paper usualPaper() override;
+    Request options(const QString& printer, std::function<void(const Options&)> done) override;
+    void choose(const PrinterChoice& choice) override;
     Request print(const QString& printer, const PrintPage& page, Done done) override;
     Request printToFile(const QString& path, const PrintPage& page, Done done) override;
-    void setUp(QWidget* over) override;
 
   private:
+    /// What is chosen for a printer, which may be nothing.
+    PrinterChoice chosenFor(const QString& printer) const;
+
     Platform& platform_;
-    std::unique_ptr<QPrinter> chosen_; // in the system's dialog, for one printer
-    BackgroundQueue work_;
+    PrinterChoice chosen_;
+    bool toFile_ = false; // by choice
+    Talks talks_;
+    BackgroundQueue files_;
 };
 
 } // namespace velara

@@ -1,23 +1,24 @@
 #include "platform/desktop/printing/cups.h"
+#include <QFileInfo>
 #include <cups/cups.h>
 
 namespace velara {
 
 namespace {
 
-constexpr int kPatience = 10; // seconds
+constexpr double kSilence = 0.25; // seconds until the patience is looked at
+constexpr qint64 kSlowest = 100;  // bytes of a job a millisecond
 constexpr double kUnitsAMillimetre = 100;
 
 /// A connection to the print server, which may be none.
 class Server {
   public:
-    Server()
-        : http_(
-              httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatience * 1000, nullptr))
+    explicit Server(const Patience& patience)
+        : http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kServerPatience.count(),
+                             nullptr))
     {
-        if (http_)
-            httpSetTimeout(
-                http_, kPatience, [](http_t*, void*) { return 0; }, nullptr);
+        const auto goOn = [](http_t*, void* lasting) { return int(static_cast<const Patience*>(lasting)->lasts()); };
+        if (http_) httpSetTimeout(http_, kSilence, goOn, const_cast<Patience*>(&patience));
     }
     ~Server() { httpClose(http_); }
     Server(const Server&) = delete;
@@ -49,11 +50,11 @@ class Queue {
 
 } // namespace
 
-Printers::List cupsQueues()
+Printers::List cupsQueues(const Patience& patience)
 {
     Printers::List list;
-    const Server server;
-    if (!server.get()) return list;
+    const Server server(patience);
+    if (!server.get()) return {{}, {}, "there is no print server"};
     cups_dest_t* dests = nullptr;
     const int count = cupsGetDests2(server.get(), &dests);
     for (int i = 0; i < count; ++i) {
@@ -65,27 +66,37 @@ Printers::List cupsQueues()
     return list;
 }
 
-std::optional<Paper> cupsPaper(const QString& queue)
+std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& otherwise, const Patience& patience)
 {
-    const Server server;
+    const Server server(patience);
     const Queue dest(server, queue);
-    if (!dest.get()) return {};
-    cups_dinfo_t* info = cupsCopyDestInfo(server.get(), dest.get());
-    cups_size_t size{};
-    const bool known =
-        info && cupsGetDestMediaDefault(server.get(), dest.get(), info, 0, &size) && size.width > 0 && size.length > 0;
-    cupsFreeDestInfo(info);
-    if (!known) return {};
-    return Paper{QString::fromUtf8(size.media), QSizeF(size.width, size.length) / kUnitsAMillimetre,
-                 QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre};
+    if (!dest.get()) return otherwise;
+    std::vector<Paper> papers;
+    const auto add = [&papers](const cups_size_t& size) {
+        const QString name = QString::fromUtf8(size.media);
+        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some without margins too
+        if (known || name.startsWith("custom_") || size.width <= 0 || size.length <= 0) return;
+        papers.push_back({name, QSizeF(size.width, size.length) / kUnitsAMillimetre,
+                          QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre});
+    };
+    if (cups_dinfo_t* info = cupsCopyDestInfo(server.get(), dest.get())) {
+        cups_size_t size{};
+        if (cupsGetDestMediaDefault(server.get(), dest.get(), info, 0, &size)) add(size);
+        for (int i = 0; i < cupsGetDestMediaCount(server.get(), dest.get(), info, 0); ++i)
+            if (cupsGetDestMediaByIndex(server.get(), dest.get(), info, i, 0, &size)) add(size);
+        cupsFreeDestInfo(info);
+    }
+    return papers.empty() ? otherwise : papers;
 }
 
-QString cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options)
+QString cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options,
+                  Patience& patience)
 {
-    const Server server;
+    const Server server(patience);
     if (!server.get()) return "the print server does not answer";
     const Queue dest(server, queue);
     if (!dest.get()) return "there is no printer " + queue + " any more";
+    patience.startAnew(kServerPatience + std::chrono::milliseconds(QFileInfo(pdf).size() / kSlowest));
     cups_option_t* list = nullptr;
     int count = 0;
     for (const auto& [name, value] : options) count = cupsAddOption(name.constData(), value.constData(), count, &list);

@@ -1,4 +1,4 @@
-#include "ui/utilities/fPagePreview.h"
+#include "ui/printing/fPagePreview.h"
 #include "engine/operationRows.h"
 #include <QPainter>
 #include <algorithm>

@@ -1,5 +1,6 @@
 // fPrint: how the active picture is to be printed, with the page as it will be. Finding the printers and printing take
-// their time outside of the program; Esc, Cancel and closing the window give them up.
+// their time outside of the program; a PDF file can be chosen meanwhile, and Esc, Cancel and closing the window give
+// them up.
 #pragma once
 #include "seams/Printers.h"
 #include <QDialog>
@@ -16,6 +17,7 @@ namespace velara {
 
 class fPagePreview;
 class Platform;
+class fPrinterBox;
 
 class fPrint final : public QDialog {
     Q_OBJECT
@@ -27,11 +29,9 @@ class fPrint final : public QDialog {
   private:
     QWidget* makeControls();
     QWidget* makeCopies();
-    void showPrinters(const Printers::List& list);
-    void choosePrinter(int index);
+    void choosePrinter();
     void showPage();
-    void setBusy(const QString& what); // empty: not any more
-    bool isFile(int index) const;
+    void showPrinting();
     PrintPage page() const;
     void print();
     void send(const PrintPage& page);
@@ -42,8 +42,9 @@ class fPrint final : public QDialog {
     QString name_;
     std::function<void()> toClipboard_;
     Paper paper_;
-    Printers::Request looking_, paperAsked_, printing_;
-    QComboBox *cbPrinters_, *cbOrientation_, *cbQuality_;
+    Printers::Request paperAsked_, printing_;
+    fPrinterBox* cbPrinters_;
+    QComboBox *cbOrientation_, *cbQuality_;
     QCheckBox *chkFit_, *chkCenter_;
     QLineEdit* txtCopies_;
     QScrollBar* sbCopies_;

@@ -1,7 +1,8 @@
-#include "ui/utilities/fPrint.h"
+#include "ui/printing/fPrint.h"
 #include "commands/printing.h"
 #include "seams/Platform.h"
-#include "ui/utilities/fPagePreview.h"
+#include "ui/printing/fPagePreview.h"
+#include "ui/printing/fPrinterBox.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
@@ -61,8 +62,13 @@ fPrint::fPrint(Platform& platform, const Bits& picture, const QString& name, std
     cbQuality_->setCurrentIndex(2);
     cbOrientation_->setCurrentIndex(picture.width() >= picture.height() ? 1 : 0);
     showPage();
-    setBusy(tr("Looking for printers ..."));
-    looking_ = platform_.printers().list([this](const Printers::List& list) { showPrinters(list); });
+    cmdOK_->setEnabled(false);
+    cbPrinters_->setFocus();
+    connect(cbPrinters_, &fPrinterBox::chosen, this, &fPrint::choosePrinter);
+    connect(cbPrinters_, &fPrinterBox::told, this, [this](const QString& state) {
+        if (controls_->isEnabled()) lblState_->setText(state); // nothing is printed yet
+    });
+    cbPrinters_->look();
 }
 
 QWidget* fPrint::makeControls()
@@ -78,14 +84,13 @@ QWidget* fPrint::makeControls()
         grid->addWidget(field, row, 1);
     };
     const auto choice = [&](const char* name, const QString& caption, const QStringList& entries) {
-        auto* box = named(new QComboBox, name);
-        box->setAccessibleName(caption);
+        auto* box = named(new QComboBox, name, caption);
         box->addItems(entries);
         add(caption, box, box);
         return box;
     };
-    cbPrinters_ = choice("cbPrinters", tr("Printer"), {});
-    cbPrinters_->setMinimumContentsLength(24);
+    cbPrinters_ = new fPrinterBox(platform_.printers());
+    add(tr("Printer"), cbPrinters_, cbPrinters_);
     cbOrientation_ = choice("cbOrientation", tr("Orientation"), {tr("Portrait"), tr("Landscape")});
     cbQuality_ = choice("cbQuality", tr("Quality"), {tr("Draft"), tr("Low"), tr("Medium"), tr("High")});
     QWidget* copies = makeCopies();
@@ -96,7 +101,6 @@ QWidget* fPrint::makeControls()
     add(tr("Adjustment"), chkFit_, chkFit_);
     grid->addWidget(chkCenter_, grid->rowCount(), 1);
     grid->setRowStretch(grid->rowCount(), 1);
-    connect(cbPrinters_, &QComboBox::activated, this, &fPrint::choosePrinter);
     connect(cbOrientation_, &QComboBox::currentIndexChanged, this, &fPrint::showPage);
     connect(chkFit_, &QCheckBox::toggled, this, &fPrint::showPage);
     connect(chkCenter_, &QCheckBox::toggled, this, &fPrint::showPage);
@@ -133,37 +137,25 @@ QWidget* fPrint::makeCopies()
     return field;
 }
 
-void fPrint::setBusy(const QString& what)
+void fPrint::showPrinting()
 {
-    lblState_->setText(what);
-    controls_->setEnabled(what.isEmpty());
-    cmdOK_->setEnabled(what.isEmpty());
-    if (cmdOK_->isEnabled()) cmdOK_->setFocus();
+    lblState_->setText(tr("Printing ..."));
+    controls_->setEnabled(false);
+    cmdOK_->setEnabled(false);
 }
 
-/// The printers in the system's order; a file is always there.
-void fPrint::showPrinters(const Printers::List& list)
+void fPrint::choosePrinter()
 {
-    cbPrinters_->addItems(list.names);
-    cbPrinters_->addItem(tr("PDF file ..."), true);
-    cbPrinters_->setCurrentIndex(std::max<int>(0, static_cast<int>(list.names.indexOf(list.current))));
-    setBusy({});
-    if (list.names.isEmpty()) lblState_->setText(tr("No printer was found"));
-    choosePrinter(cbPrinters_->currentIndex());
-}
-
-bool fPrint::isFile(int index) const { return cbPrinters_->itemData(index).toBool(); }
-
-void fPrint::choosePrinter(int index)
-{
-    paperAsked_.reset();
-    if (isFile(index)) {
-        paper_ = platform_.printers().usualPaper();
-        return showPage();
+    if (!cmdOK_->isEnabled()) {
+        cmdOK_->setEnabled(true);
+        cmdOK_->setFocus();
     }
-    const QString printer = cbPrinters_->itemText(index);
-    platform_.printers().setCurrent(printer);
-    paperAsked_ = platform_.printers().paper(printer, [this](const Paper& paper) {
+    paper_ = platform_.printers().usualPaper();
+    paperAsked_.reset();
+    showPage();
+    if (cbPrinters_->isFile()) return;
+    platform_.printers().setCurrent(cbPrinters_->printer());
+    paperAsked_ = platform_.printers().paper(cbPrinters_->printer(), [this](const Paper& paper) {
         paper_ = paper;
         showPage();
     });
@@ -205,16 +197,16 @@ void fPrint::send(const PrintPage& page)
 {
     const auto done = [this](const QString& reason) { finished(reason); };
     Printers& printers = platform_.printers();
-    if (!isFile(cbPrinters_->currentIndex())) {
-        setBusy(tr("Printing ..."));
-        printing_ = printers.print(cbPrinters_->currentText(), page, done);
+    if (!cbPrinters_->isFile()) {
+        showPrinting();
+        printing_ = printers.print(cbPrinters_->printer(), page, done);
         return;
     }
     const QPointer<fPrint> self = this;
     const FileDialog dialog{tr("Print to file"), "PDF|*.pdf", {}, {}, "pdf"};
     const auto path = platform_.saveFileName(dialog);
     if (!self || !path) return;
-    setBusy(tr("Printing ..."));
+    showPrinting();
     printing_ = printers.printToFile(*path, page, done);
 }
 

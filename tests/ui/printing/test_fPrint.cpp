@@ -1,9 +1,10 @@
-// The print dialog, used as a person does, over printers that write down what they get.
+// The dialogs of printing, used as a person does, over printers that write down what they get.
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include "support/ui/WindowTest.h"
-#include "ui/utilities/fPagePreview.h"
-#include "ui/utilities/fPrint.h"
+#include "ui/printing/fPagePreview.h"
+#include "ui/printing/fPrint.h"
+#include "ui/printing/fPrinterSetup.h"
 
 namespace velara {
 namespace {
@@ -112,8 +113,10 @@ TEST_F(fPrintTest, ASilentServerIsLeft)
 {
     printers.silent = true;
     open();
+    EXPECT_EQ(text("lblState") + text("cbPrinters"), "Looking for printers ...");
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
     EXPECT_TRUE(printers.answer());
+    EXPECT_EQ(text("lblState") + text("cbPrinters"), "Lab");
     EXPECT_TRUE(printers.answer()); // the paper
     click("cmdOK");
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
@@ -121,6 +124,43 @@ TEST_F(fPrintTest, ASilentServerIsLeft)
     EXPECT_FALSE(used->isVisible());
     delete used;
     EXPECT_FALSE(printers.answer()) << "nobody waits any more";
+}
+
+// A PDF file needs no server: it can be chosen at once, and is not taken away when the printers come.
+TEST_F(fPrintTest, AFileIsChosenWhilePrintersAreLookedFor)
+{
+    printers.silent = true;
+    for (const bool setUp : {false, true}) {
+        open();
+        if (setUp) {
+            delete used;
+            used = new fPrinterSetup(printers, nullptr);
+        }
+        const auto listed = printers.held();
+        choose("cbPrinters", "PDF file ...");
+        if (setUp) printers.answer(); // the usual papers are no matter of the server
+        EXPECT_TRUE(find<QPushButton>("cmdOK")->isEnabled());
+        (*listed)();
+        EXPECT_EQ(find<QComboBox>("cbPrinters")->count(), 3);
+        EXPECT_EQ(text("cbPrinters"), "PDF file ...");
+    }
+    click("cmdOK");
+    EXPECT_EQ(printers.log, std::vector<QString>{"choose  letter"});
+}
+
+TEST_F(fPrintTest, TheSetupChoosesPrinterPaperAndShades)
+{
+    used = new fPrinterSetup(printers, nullptr);
+    EXPECT_EQ(used->windowTitle() + text("cbPrinters") + text("cbPaper"), "Printer SetupLab200 x 300 mm");
+    EXPECT_TRUE(find<QCheckBox>("chkGray")->isChecked()) << "as it was chosen before";
+    choose("cbPaper", "A4 (210 x 297 mm)");
+    click("cmdOK");
+    EXPECT_EQ(printers.log.back(), "choose Lab iso_a4_210x297mm gray");
+    printers.printers = {{}, {}, "the print server does not answer"};
+    delete used;
+    used = new fPrinterSetup(printers, nullptr);
+    EXPECT_EQ(text("lblState"), "No printer was found: the print server does not answer");
+    EXPECT_FALSE(find<QCheckBox>("chkGray")->isEnabled());
 }
 
 } // namespace velara
