@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
@@ -111,6 +112,7 @@ int run(const Plan& plan)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
+    QLoggingCategory::setFilterRules("default.warning=false"); // unpacking what is damaged is told each time
     QCommandLineParser line;
     line.addHelpOption();
     line.addOptions({{"seconds", "how long", "N", "60"},

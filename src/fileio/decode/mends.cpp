@@ -197,15 +197,15 @@ void mendRas(FileBytes& file)
     putBig32(flat, MapLength, 0);
     const std::uint8_t* const reds = file.bytes().data() + kHeader;
     for (std::int64_t y = 0; y < height; ++y) {
-        const std::size_t row = kHeader + bytesARow * static_cast<std::size_t>(y);
-        std::uint8_t* to = flat.data() + row;
+        std::uint8_t* to = flat.data() + kHeader + bytesARow * static_cast<std::size_t>(y);
         for (std::int64_t x = 0; x < width; ++x, to += 3) {
             const std::uint8_t index = next();
             for (std::size_t part = 0; part < 3; ++part) to[part] = reds[colours * (2 - part) + index]; // blue first
         }
         if (width % 2) next();
-        if (at > file.size()) { // the reader shows the rows before this one, and finds the rest cut off
-            flat.resize(row);
+        if (at > file.size()) { // the rest is black, and the reader finds the end missing
+            std::fill_n(to - 3 * width, bytesARow, std::uint8_t{0});
+            flat.pop_back();
             break;
         }
     }
