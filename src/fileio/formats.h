@@ -22,10 +22,22 @@ enum FormatTraits : unsigned {
     Dropped = 4, // taken when it is dropped on the frame
 };
 
+/// Bytes of pixels that one byte of a file stands for at most, in a picture of a single colour.
+enum Packing : int {
+    Flat = 1,
+    Runs = 128,      // two bytes for 255 or less
+    Blocks = 1024,   // half a bit for 64: blocks of 8 by 8, with half of the colours left out
+    Deflated = 1032, // the limit of the method
+    Codes = 2731,    // 12 bits for 4096
+    Lines = 32768,   // a bit for a line as fax machines send them
+    Drawn = 65536,   // a few words fill all of a drawing
+};
+
 struct Format {
     std::string_view extension; // lower case
     std::string_view name;      // as in "it is damaged or not a PNG picture"
     Saving saving;
+    Packing packing; // the best that a file of the extension may use
     unsigned traits;
 
     constexpr bool has(FormatTraits trait) const { return (traits & trait) != 0; }
@@ -34,31 +46,31 @@ struct Format {
 
 // clang-format off
 inline constexpr Format kFormats[] = {
-    {"bmp",  "a BMP",                Saving::Directly, Dropped},
-    {"wbmp", "a WBMP",               Saving::No,       Plain},
-    {"dib",  "a bitmap",             Saving::No,       FailsAloud | Dropped},
-    {"wmf",  "a Windows metafile",   Saving::No,       FailsAloud},
-    {"emf",  "an enhanced metafile", Saving::No,       FailsAloud},
-    {"gif",  "a GIF",                Saving::Directly, FailsAloud | Dropped | SavesSlowly},
-    {"jpg",  "a JPEG",               Saving::Directly, Dropped},
-    {"png",  "a PNG",                Saving::Directly, Plain},
-    {"pcx",  "a PCX",                Saving::Directly, Plain},
-    {"pbm",  "a portable anymap",    Saving::AsAnymap, Plain},
-    {"pgm",  "a portable anymap",    Saving::AsAnymap, Plain},
-    {"ppm",  "a portable anymap",    Saving::AsAnymap, Plain},
-    {"ico",  "an icon",              Saving::Refused,  FailsAloud},
-    {"cur",  "a cursor",             Saving::No,       FailsAloud},
-    {"psd",  "a Photoshop",          Saving::No,       Plain},
-    {"jng",  "a BMP",                Saving::No,       Plain}, // odd, and it stays: .jng goes to the BMP reader
-    {"mng",  "an MNG",               Saving::No,       Plain},
-    {"tif",  "a TIFF",               Saving::Directly, Plain},
-    {"koa",  "a Koala",              Saving::No,       Plain},
-    {"pcd",  "a Photo CD",           Saving::No,       Plain},
-    {"ras",  "a Sun raster",         Saving::No,       Plain},
-    {"tga",  "a Targa",              Saving::Directly, Plain},
-    {"cut",  "a Dr. Halo",           Saving::No,       Plain},
-    {"iff",  "an IFF",               Saving::No,       Plain},
-    {"lbm",  "an IFF",               Saving::No,       Plain},
+    {"bmp",  "a BMP",                Saving::Directly, Runs,     Dropped},
+    {"wbmp", "a WBMP",               Saving::No,       Flat,     Plain},
+    {"dib",  "a bitmap",             Saving::No,       Runs,     FailsAloud | Dropped},
+    {"wmf",  "a Windows metafile",   Saving::No,       Drawn,    FailsAloud},
+    {"emf",  "an enhanced metafile", Saving::No,       Drawn,    FailsAloud},
+    {"gif",  "a GIF",                Saving::Directly, Codes,    FailsAloud | Dropped | SavesSlowly},
+    {"jpg",  "a JPEG",               Saving::Directly, Blocks,   Dropped},
+    {"png",  "a PNG",                Saving::Directly, Deflated, Plain},
+    {"pcx",  "a PCX",                Saving::Directly, Runs,     Plain},
+    {"pbm",  "a portable anymap",    Saving::AsAnymap, Flat,     Plain},
+    {"pgm",  "a portable anymap",    Saving::AsAnymap, Flat,     Plain},
+    {"ppm",  "a portable anymap",    Saving::AsAnymap, Flat,     Plain},
+    {"ico",  "an icon",              Saving::Refused,  Deflated, FailsAloud},
+    {"cur",  "a cursor",             Saving::No,       Deflated, FailsAloud},
+    {"psd",  "a Photoshop",          Saving::No,       Runs,     Plain},
+    {"jng",  "a BMP",                Saving::No,       Runs,     Plain}, // odd, and it stays: .jng goes to the BMP reader
+    {"mng",  "an MNG",               Saving::No,       Deflated, Plain},
+    {"tif",  "a TIFF",               Saving::Directly, Lines,    Plain},
+    {"koa",  "a Koala",              Saving::No,       Flat,     Plain},
+    {"pcd",  "a Photo CD",           Saving::No,       Flat,     Plain},
+    {"ras",  "a Sun raster",         Saving::No,       Runs,     Plain},
+    {"tga",  "a Targa",              Saving::Directly, Runs,     Plain},
+    {"cut",  "a Dr. Halo",           Saving::No,       Runs,     Plain},
+    {"iff",  "an IFF",               Saving::No,       Runs,     Plain},
+    {"lbm",  "an IFF",               Saving::No,       Runs,     Plain},
 };
 // clang-format on
 

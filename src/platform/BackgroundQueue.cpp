@@ -15,7 +15,7 @@ BackgroundQueue::~BackgroundQueue()
         ends_ = true;
     }
     changed_.notify_all();
-    if (thread_.joinable()) thread_.join();
+    for (std::thread& thread : threads_) thread.join();
 }
 
 BackgroundQueue::Request BackgroundQueue::addTask(std::function<void(const GoOn&)> work, std::function<void()> done)
@@ -27,9 +27,9 @@ BackgroundQueue::Request BackgroundQueue::addTask(std::function<void(const GoOn&
         const std::lock_guard guard(guard_);
         std::erase_if(tasks_, [](const auto& each) { return !each->wanted; });
         tasks_.push_back(task);
-        if (!thread_.joinable()) thread_ = std::thread(&BackgroundQueue::run, this);
+        if (threads_.size() < most_) threads_.emplace_back(&BackgroundQueue::run, this);
     }
-    changed_.notify_all();
+    changed_.notify_one();
     return {task.get(), [task](void*) {
                 task->wanted = false;
                 task->done = nullptr;

@@ -1,4 +1,4 @@
-// BackgroundQueue: one thread for work that takes its time, what was asked for last first.
+// BackgroundQueue: threads for work that takes its time, what was asked for last first.
 #pragma once
 #include "fileio/load/PictureLoader.h"
 #include <QObject>
@@ -13,12 +13,13 @@ namespace velara {
 
 class BackgroundQueue {
   public:
-    /// Runs in the thread; is to end soon once goOn says no.
+    /// Runs in a thread of the queue; is to end soon once goOn says no.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
     /// Whoever lets go of it gives the work up: no answer comes then.
     using Request = std::shared_ptr<void>;
 
-    BackgroundQueue() = default;
+    /// So many pieces of work at a time, at least one.
+    explicit BackgroundQueue(std::size_t threads = 1) : most_(threads) {}
     /// Gives up what is under way.
     ~BackgroundQueue();
     BackgroundQueue(const BackgroundQueue&) = delete;
@@ -42,7 +43,8 @@ class BackgroundQueue {
     std::condition_variable changed_;
     std::vector<std::shared_ptr<Task>> tasks_;
     std::atomic<bool> ends_ = false;
-    std::thread thread_;
+    const std::size_t most_;
+    std::vector<std::thread> threads_;
 };
 
 } // namespace velara

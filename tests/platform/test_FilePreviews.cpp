@@ -1,4 +1,5 @@
 // Previews of real files, read by the real helper in the background.
+#include "fileio/load/startReader.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "platform/FilePreviews.h"
 #include "support/files.h"
@@ -10,12 +11,18 @@ namespace {
 
 struct FilePreviewsTest : FolderTest {
     QByteArray before = qgetenv("XDG_CACHE_HOME");
+    static inline const auto real = startReader;
+    static inline QString fake; // reads .koa files
     FilePreviews previews;
     std::vector<Preview> answers;
     const Previews::Done keep = [this](const Preview& preview) { answers.push_back(preview); };
 
     void SetUp() override { qputenv("XDG_CACHE_HOME", path("cache").toLocal8Bit()); }
-    void TearDown() override { qputenv("XDG_CACHE_HOME", before); }
+    void TearDown() override
+    {
+        qputenv("XDG_CACHE_HOME", before);
+        startReader = real;
+    }
     QString file(const QString& name, const QByteArray& bytes)
     {
         touchFile(put(name, bytes), QDateTime::fromSecsSinceEpoch(1'700'000'000));
@@ -70,6 +77,27 @@ TEST_F(FilePreviewsTest, EndsInTheMiddle)
     EXPECT_LT(clock.elapsed(), 1000);
     QTest::qWait(50);
     EXPECT_EQ(answers.size(), 1u);
+}
+
+// A picture that takes all the time that it can get, and claims more.
+TEST_F(FilePreviewsTest, ABombDoesntHoldUpTheOtherThumbnails)
+{
+    fake = put("fake", "#!/usr/bin/env python3\nimport socket, struct, time\ns = socket.socket(fileno=3)\n"
+                       "s.send(struct.pack('<Iii244s', 0x31434c56, 9000, 9000, b''))\n"
+                       "while time.process_time() < 3: pass\n"
+                       "s.send(struct.pack('<Iii244s', 0x31444c56, 0, 0, b'it had too much time'))\n");
+    QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    startReader = [](const ReaderStart& start) {
+        ReaderStart other = start;
+        if (start.extension == "koa") other.decoder = fake;
+        return real(other);
+    };
+    FilePreviews service(std::chrono::seconds(2));
+    const QString bomb = file("bomb.koa", QByteArray(2 << 20, 'b')), grey = file("grey.ppm", ppm(30, '\x80'));
+    const auto first = service.thumbnail(bomb, keep), second = service.thumbnail(grey, keep);
+    ASSERT_TRUE(answered(2));
+    EXPECT_EQ(answers[0].size, QSize(30, 30));
+    EXPECT_EQ(answers[1].reason, "bomb.koa can't be read: reading it took too long and was stopped");
 }
 
 TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)

@@ -69,7 +69,7 @@ LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&
     Bits bits(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bits.row(y), image.constScanLine(y), std::size_t(image.width()) * 4);
-    return {bits, {}};
+    return {bits, image.text("Note")}; // a file that tells what its reader is to say of it
 }
 
 } // namespace velara

@@ -38,6 +38,8 @@ inline Dice diceOf(const char* subject, std::uint64_t number)
 }
 
 QString tryPicture(const Place& place, std::uint64_t number);
+/// The same for the kinds that can be damaged inside (inside.h), in turn.
+QString tryInside(const Place& place, std::uint64_t number);
 QString tryOperations(const Place& place, std::uint64_t number);
 QString tryConfiguration(const Place& place, std::uint64_t number);
 QString tryRegion(const Place& place, std::uint64_t number);

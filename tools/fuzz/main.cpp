@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
@@ -17,7 +18,8 @@ namespace velara::fuzz {
 
 namespace {
 
-constexpr Subject kSubjects[] = {{"pictures", 60, 150, tryPicture},
+constexpr Subject kSubjects[] = {{"pictures", 45, 125, tryPicture},
+                                 {"inside", 15, 60, tryInside},
                                  {"operations", 30, 60, tryOperations},
                                  {"configuration", 5, 300, tryConfiguration},
                                  {"regions", 5, 300, tryRegion}};
@@ -61,7 +63,7 @@ void printPictures(const Tally& tally)
 
 void print(const Plan& plan, const Progress& progress)
 {
-    const auto isPictures = [](const Subject* s) { return s->run == tryPicture; };
+    const auto isPictures = [](const Subject* s) { return s->run == tryPicture || s->run == tryInside; };
     if (!plan.brief && std::ranges::any_of(plan.subjects, isPictures)) printPictures(progress.tally);
     for (std::size_t s = 0; s < plan.subjects.size(); ++s)
         std::printf("%-14s%10llu tried in %lld s\n", plan.subjects[s]->name,
@@ -110,6 +112,7 @@ int run(const Plan& plan)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
+    QLoggingCategory::setFilterRules("default.warning=false"); // unpacking what is damaged is told each time
     QCommandLineParser line;
     line.addHelpOption();
     line.addOptions({{"seconds", "how long", "N", "60"},
@@ -119,7 +122,8 @@ int main(int argc, char** argv)
                      {"warm", "readers of pictures are copies of one that is loaded: many more pictures"},
                      {"samples", "sample pictures, a folder a format", "FOLDER"},
                      {"keep", "where inputs of faults go", "FOLDER", "fuzz-faults"}});
-    line.addPositionalArgument("SUBJECT", "pictures, operations, configuration, regions; all when none is named");
+    line.addPositionalArgument("SUBJECT",
+                               "pictures, inside, operations, configuration, regions; all when none is named");
     line.process(application);
     const velara::fuzz::Plan plan = velara::fuzz::planOf(line);
     if (plan.subjects.empty()) line.showHelp(2);

@@ -1,6 +1,6 @@
 // Damaged pictures through the loader of the programs.
 #include "platform/WindowlessPlatform.h"
-#include "tools/fuzz/Subject.h"
+#include "tools/fuzz/inside.h"
 #include <QFile>
 
 namespace velara::fuzz {
@@ -45,24 +45,37 @@ QString faultOf(const LoadedPicture& picture)
     return {};
 }
 
-} // namespace
-
-QString tryPicture(const Place& place, std::uint64_t number)
+/// Reads a picture that damage has made of a seed of the format and another one.
+template <class Damage> QString tryOne(const Place& place, std::size_t format, Dice& dice, const Damage& damage)
 {
     static Loader loader;
-    Dice dice = diceOf("pictures", number);
-    const std::size_t format = number % std::size(kFormats);
     const QString extension = nameOf(kFormats[format]);
     const QList<QByteArray>& seeds = seedsOf(format, place.samples);
     const auto pick = [&] { return seeds[dice.within(0, static_cast<int>(seeds.size()) - 1)]; };
     QByteArray bytes = pick();
-    mutate(bytes, pick(), dice);
+    damage(bytes, extension, pick(), dice);
     const QString path = writeInput(place.input, "picture." + extension, bytes);
     const LoadedPicture picture = loader.loadPicture(path, extension);
     ++(*place.tally)[format][outcomeOf(picture)];
     const QString fault = faultOf(picture);
     if (fault.isEmpty()) QFile::remove(path);
     return fault;
+}
+
+} // namespace
+
+QString tryPicture(const Place& place, std::uint64_t number)
+{
+    Dice dice = diceOf("pictures", number);
+    return tryOne(place, number % std::size(kFormats), dice,
+                  [](QByteArray& bytes, const QString&, const QByteArray& other, Dice& d) { mutate(bytes, other, d); });
+}
+
+QString tryInside(const Place& place, std::uint64_t number)
+{
+    Dice dice = diceOf("inside", number);
+    const auto* format = findFormat(kInside[number % std::size(kInside)]);
+    return tryOne(place, static_cast<std::size_t>(format - kFormats), dice, mutateInside);
 }
 
 } // namespace velara::fuzz

@@ -1,7 +1,7 @@
 // Whole pictures to begin from.
 #include "fileio/savePicture.h"
 #include "platform/WindowlessPlatform.h"
-#include "tools/fuzz/Subject.h"
+#include "tools/fuzz/inside.h"
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -51,6 +51,7 @@ QByteArray made(const QString& format)
     if (kSaved.contains(format)) return saved(format);
     if (format == "ppm") return saved("pnm");
     if (format == "jng") return saved("bmp");
+    if (format == "mng") return asMng(saved("png"));
     if (format == "dib") return saved("bmp").mid(14);
     if (format == "ico") return asIcon(1);
     if (format == "cur") return asIcon(2);

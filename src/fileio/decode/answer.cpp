@@ -13,10 +13,11 @@ namespace velara::decode {
 
 namespace {
 
-/// Tells the size that a header gives, so that the parent allows the time that so many pixels may take.
-void claimSize(std::int64_t width, std::int64_t height)
+/// Tells the size that a header gives, so that the parent allows the time that so many pixels may take, or refuses
+/// them.
+void claimSize(std::int64_t width, std::int64_t height, int bits)
 {
-    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, {}};
+    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, bits, {}};
     send(kSocket, &claim, sizeof claim, MSG_NOSIGNAL);
 }
 
@@ -27,7 +28,7 @@ template <class Message> bool tell(const Message& message)
 
 bool tellOpening(const Decoded& picture)
 {
-    Opening opening{kMagic, picture.width, picture.height, {}, picture.origin};
+    Opening opening{kMagic, picture.width, picture.height, {}, 0, picture.origin};
     const QByteArray reason = picture.reason.toUtf8().left(sizeof opening.reason - 1);
     std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
     return tell(opening);

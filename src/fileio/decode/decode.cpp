@@ -92,7 +92,7 @@ static_assert(std::ranges::all_of(kReaders, [](const Reader& reader) {
 
 } // namespace
 
-void (*sizeFound)(std::int64_t width, std::int64_t height) = [](std::int64_t, std::int64_t) {};
+void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
 
 Needs prepareReader(const QString& extension)
 {

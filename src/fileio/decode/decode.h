@@ -21,8 +21,9 @@ struct Decoded {
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
 
-/// Called by readers with the size that the header gives, before the pixels are read; at most once a picture.
-extern void (*sizeFound)(std::int64_t width, std::int64_t height);
+/// Called by readers with the size that the header gives and the bits of a pixel (0: not known), before the pixels are
+/// read; at most once a picture.
+extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 
 /// Fetches from the disk what the reader of the extension (lower case, no dot) is made of, before the cage closes.
 Needs prepareReader(const QString& extension);

@@ -203,7 +203,11 @@ void mendRas(FileBytes& file)
             for (std::size_t part = 0; part < 3; ++part) to[part] = reds[colours * (2 - part) + index]; // blue first
         }
         if (width % 2) next();
-        if (at > file.size()) return;
+        if (at > file.size()) { // the rest is black, and the reader finds the end missing
+            std::fill_n(to - 3 * width, bytesARow, std::uint8_t{0});
+            flat.pop_back();
+            break;
+        }
     }
     file.replace(std::move(flat));
 }

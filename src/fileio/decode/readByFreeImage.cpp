@@ -87,13 +87,15 @@ class Stream {
 
 struct Size {
     std::int64_t width = 0, height = 0;
+    int bits = 0; // of a pixel; 0: not known
 };
 
 Size sizeOfIff(const FileBytes& file) // FORM, length, type, then chunks: name, length, contents padded to even
 {
     for (std::size_t at = 12; at + 8 <= file.size();) {
         const std::size_t length = file.big32(at + 4);
-        if (std::memcmp(&file.bytes()[at], "BMHD", 4) == 0) return {file.big16(at + 8), file.big16(at + 10)};
+        if (std::memcmp(&file.bytes()[at], "BMHD", 4) == 0)
+            return {file.big16(at + 8), file.big16(at + 10), static_cast<int>(file.byte(at + 16))}; // planes
         at += 8 + length + length % 2;
     }
     return {};
@@ -136,7 +138,8 @@ Size sizeOf(const FileBytes& file, Stream& stream, int fif)
     }
     const Dib header = stream.load(fif, FIF_LOAD_NOPIXELS);
     if (!header) return {};
-    return {FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get())};
+    return {FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get()),
+            static_cast<int>(FreeImage_GetBPP(header.get()))};
 }
 
 // --- Rows of every depth as blue, green, red, 0
@@ -265,7 +268,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (size.width < 1 || size.height < 1) return {};
     if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
 
-    sizeFound(size.width, size.height);
+    sizeFound(size.width, size.height, size.bits);
     Dib dib = stream.load(fif, 0);
     const QString note = isCutOff(stream, fif) ? kCutOff : ""; // what there is can be shown
     const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();

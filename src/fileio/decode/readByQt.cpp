@@ -79,7 +79,7 @@ QImage masked(const QImage& image, const FileBytes& file)
 
 } // namespace
 
-Decoded readByQt(FileBytes& file, const char* format)
+Decoded readByQt(FileBytes& file, const char* format, int bits)
 {
     QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.bytes().data()),
                                                static_cast<qsizetype>(file.size()));
@@ -91,7 +91,7 @@ Decoded readByQt(FileBytes& file, const char* format)
     const QSize size = reader.size();
     if (size.isValid() && !Bits::sizeAllowed(size.width(), size.height()))
         return size.isEmpty() ? Decoded{} : refused(kTooBig);
-    if (size.isValid()) sizeFound(size.width(), size.height());
+    if (size.isValid()) sizeFound(size.width(), size.height(), bits);
     const QImage image = reader.read();
     if (image.isNull()) return {};
     if (!Bits::sizeAllowed(image.width(), image.height())) return refused(kTooBig);
@@ -148,7 +148,10 @@ Decoded noted(Decoded picture, bool isCutOff)
 
 } // namespace
 
-Decoded readGif(FileBytes& file) { return noted(readByQt(file, "gif"), file.startsWith("GIF8") && isGifCutOff(file)); }
+Decoded readGif(FileBytes& file)
+{
+    return noted(readByQt(file, "gif", 8), file.startsWith("GIF8") && isGifCutOff(file));
+}
 
 Decoded readDib(FileBytes& file)
 {

@@ -87,7 +87,7 @@ Decoded readEmf(FileBytes& file)
     const double width = std::ceil(size.width()), height = std::ceil(size.height());
     if (!(width >= 1 && height >= 1)) return {};
     if (!Bits::sizeAllowed(std::llround(width), std::llround(height))) return refused(kTooBig);
-    sizeFound(std::llround(width), std::llround(height));
+    sizeFound(std::llround(width), std::llround(height), 0);
 
     needFonts();
     const QByteArray svg = svgOf(file);

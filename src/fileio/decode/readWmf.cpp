@@ -98,7 +98,7 @@ Decoded readWmf(FileBytes& file)
     }
     if (width == 0 || height == 0) return {};
     if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
-    sizeFound(width, height);
+    sizeFound(width, height, 0);
 
     wmf_gd_t* const canvas = WMF_GD_GetData(api);
     canvas->type = wmf_gd_image;

@@ -12,8 +12,8 @@ Decoded onWhite(const QImage& image);
 
 /// fif is FreeImage's format number.
 Decoded readByFreeImage(FileBytes& file, int fif);
-/// format is the name of Qt's reader; drawn on white.
-Decoded readByQt(FileBytes& file, const char* format);
+/// format is the name of Qt's reader; drawn on white. bits of a pixel in the file, 0: they differ.
+Decoded readByQt(FileBytes& file, const char* format, int bits = 0);
 /// The first picture of a GIF file.
 Decoded readGif(FileBytes& file);
 /// A bitmap with or without its file header.

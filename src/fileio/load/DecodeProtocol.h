@@ -3,10 +3,10 @@
 //   velara-decode EXTENSION, with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4 and the
 //   picture file, open for reading, at descriptor 5
 //
-// The child may send a claim, which is the size that the header gives. Then it sends an Opening: size, or the reason
-// why the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and
-// sends the number of the first row of each. The parent copies the rows and gives every slot back with one byte. So the
-// picture never exists twice, and the memory between them stays in the cache.
+// The child may send a claim, which is the size and the depth that the header gives. Then it sends an Opening: size, or
+// the reason why the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows
+// as fit, and sends the number of the first row of each. The parent copies the rows and gives every slot back with one
+// byte. So the picture never exists twice, and the memory between them stays in the cache.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
@@ -27,7 +27,8 @@ constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 struct Opening {
     std::uint32_t magic;
     std::int32_t width, height;
-    char reason[228];
+    char reason[224];
+    std::int32_t bits = 0; // of a pixel, in a claim; 0: not known
     Origin origin = {};
 };
 constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"

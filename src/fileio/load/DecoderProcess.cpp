@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kSlice = 50ms;
+constexpr auto kBetweenLooks = 50ms;
 constexpr int kFirstFree = 10; // our ends stay clear of the numbers that the child expects
 
 Descriptor movedUp(int fd)
@@ -55,7 +55,7 @@ void limit(pid_t pid, const DecoderLimits& limits)
     limit(pid, RLIMIT_AS, limits.memory, limits.memory);
     limit(pid, RLIMIT_FSIZE, 0, 0);
 #endif
-    limit(pid, RLIMIT_CPU, limits.cpuSeconds, kMostSeconds + 1); // the hard limit can't be raised for a claim
+    limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.mostSeconds + 1); // the hard limit can't be raised for a claim
     limit(pid, RLIMIT_CORE, 0, 0);
 }
 
@@ -80,7 +80,7 @@ UnreadableByOthers::~UnreadableByOthers()
 
 DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension,
                                const DecoderLimits& limits, const GoOn& goOn)
-    : goOn_(goOn), limits_(limits), started_(std::chrono::steady_clock::now())
+    : goOn_(goOn), limits_(limits), started_(std::chrono::steady_clock::now()), nextLook_(started_)
 {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
@@ -104,8 +104,8 @@ DecoderProcess::~DecoderProcess()
 
 void DecoderProcess::claim(std::int64_t pixels)
 {
-    limits_.cpuSeconds = std::max(limits_.cpuSeconds, secondsFor(pixels));
-    limit(pid_, RLIMIT_CPU, limits_.cpuSeconds, kMostSeconds + 1);
+    limits_.cpuSeconds = std::max(limits_.cpuSeconds, std::min(secondsFor(pixels), limits_.mostSeconds));
+    limit(pid_, RLIMIT_CPU, limits_.cpuSeconds, limits_.mostSeconds + 1);
 }
 
 namespace {
@@ -128,28 +128,29 @@ Doing doingOf(pid_t pid)
 
 } // namespace
 
-std::optional<DecoderProcess::Wait> DecoderProcess::afterSlice()
+std::optional<DecoderProcess::Wait> DecoderProcess::look(bool silent)
 {
     using namespace std::chrono;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
     const Doing doing = doingOf(pid_);
-    if (doing.idle) ++idleSlices_;
+    if (doing.idle && silent) ++idleLooks_; // a child that has sent something may wait for us
     if (doing.seconds > limits_.cpuSeconds + 1) return Wait::TimedOut; // it turns the soft limit's signal away
-    if (waited >= limits_.wallClock || idleSlices_ * kSlice >= limits_.idle) return Wait::TimedOut;
+    if (waited >= limits_.wallClock || idleLooks_ * kBetweenLooks >= limits_.idle) return Wait::TimedOut;
     if (goOn_ && !goOn_(waited)) return Wait::Stopped;
+    nextLook_ = steady_clock::now() + kBetweenLooks;
     return {};
 }
 
 DecoderProcess::Wait DecoderProcess::receive(void* message, std::size_t size)
 {
+    using namespace std::chrono;
     for (;;) {
+        const auto left = ceil<milliseconds>(nextLook_ - steady_clock::now());
         pollfd waiting{socket_.get(), POLLIN, 0};
-        const int ready = poll(&waiting, 1, static_cast<int>(kSlice.count()));
-        if (ready == 0) {
-            if (const auto end = afterSlice()) return *end;
-            continue;
-        }
-        if (ready < 0 && errno == EINTR) continue;
+        const int ready = poll(&waiting, 1, static_cast<int>(std::max(left, 0ms).count()));
+        if (steady_clock::now() >= nextLook_)
+            if (const auto end = look(ready == 0)) return *end;
+        if (ready == 0 || (ready < 0 && errno == EINTR)) continue;
         const ssize_t got = ready < 0 ? -1 : recv(socket_.get(), message, size, MSG_DONTWAIT | MSG_TRUNC);
         // A child that ended without reading all our bytes resets the line once; its messages still wait behind that.
         if (got < 0 && (errno == EINTR || errno == EAGAIN || errno == ECONNRESET)) continue;

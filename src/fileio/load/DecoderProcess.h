@@ -34,7 +34,8 @@ class DecoderProcess {
     const std::uint8_t* memory() const { return memory_; }
     /// Allows the processor time that a picture of so many pixels may take.
     void claim(std::int64_t pixels);
-    /// Waits for the next message until a limit; one of another size is nonsense. Stopped: goOn said so.
+    /// Waits for the next message until a limit; one of another size is nonsense. Stopped: goOn said so. The limits are
+    /// looked at and goOn is asked twenty times a second, at the first call and however many messages come.
     Wait receive(void* message, std::size_t size);
     /// Gives the oldest slot back.
     void releaseSlot();
@@ -42,14 +43,14 @@ class DecoderProcess {
     int end(std::chrono::milliseconds patience = {});
 
   private:
-    /// A slice of waiting has passed: false when the child is at its end, or the caller.
-    std::optional<Wait> afterSlice();
+    /// Looks at the limits and asks the caller; how it ends, if it does. silent: no message is waiting.
+    std::optional<Wait> look(bool silent);
 
     UnreadableByOthers unreadable_;
     const GoOn& goOn_;
     DecoderLimits limits_;
-    std::chrono::steady_clock::time_point started_;
-    int idleSlices_ = 0; // slices in which the child did nothing
+    std::chrono::steady_clock::time_point started_, nextLook_;
+    int idleLooks_ = 0; // at which the child did nothing
     Descriptor socket_;
     std::uint8_t* memory_ = nullptr;
     pid_t pid_ = -1;

@@ -1,4 +1,5 @@
 #include "fileio/load/PictureLoader.h"
+#include "fileio/load/Capacity.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/Shrinker.h"
@@ -40,10 +41,12 @@ Descriptor openPicture(const QString& path, QString& reason)
     return file;
 }
 
-QString faultOfFile(const Descriptor& file)
+/// Its size in bytes, and why it makes no sense to start a reader.
+QString faultOfFile(const Descriptor& file, std::int64_t& size)
 {
     struct stat status;
     if (fstat(file.get(), &status) != 0) return "the system tells nothing about it";
+    size = status.st_size;
     if (S_ISDIR(status.st_mode)) return "it is a folder";
     if (!S_ISREG(status.st_mode)) return "it is not an ordinary file";
     if (status.st_size == 0) return "the file is empty";
@@ -94,8 +97,8 @@ void clearMarginRow(Bits& bits, int y)
     std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * static_cast<std::size_t>(bits.stride()));
 }
 
-/// Takes so many rows of the picture's width, top first; false when no more are wanted.
-using RowTaker = std::function<bool(const Pixel* rows, int first, int count)>;
+/// Takes so many rows of the picture's width, top first.
+using RowTaker = std::function<void(const Pixel* rows, int first, int count)>;
 /// Called once the size is known.
 using Begin = std::function<RowTaker(const decode::Opening& opening)>;
 
@@ -115,18 +118,29 @@ Ending receiveRows(DecoderProcess& child, int width, int height, const RowTaker&
         if (wait != Wait::Message) return {false, faultOf(wait, child)};
         if (first != y) return {false, kNonsense};
         const auto* rows = reinterpret_cast<const Pixel*>(child.memory() + slot * decode::kSlotBytes);
-        if (!take(rows, y, std::min(most, height - y))) return {false, kGivenUp};
+        take(rows, y, std::min(most, height - y));
         child.releaseSlot();
     }
     return {true, {}};
 }
 
-Ending receivePicture(DecoderProcess& child, const Begin& begin)
+/// Why a picture of that size, or the claim of one, is not taken.
+QString faultOfSize(const decode::Opening& opening, const Capacity& capacity)
+{
+    const std::int64_t width = opening.width, height = opening.height;
+    if (!Bits::sizeAllowed(width, height)) return kNonsense;
+    if (capacity.mayClaim(width * height, opening.bits)) return {};
+    return QString("it is damaged: it has hardly any bytes for its %1 x %2 pixels").arg(width).arg(height);
+}
+
+Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Begin& begin)
 {
     decode::Opening opening;
     Wait wait = child.receive(&opening, sizeof opening);
-    if (wait == Wait::Message && opening.magic == decode::kClaim && Bits::sizeAllowed(opening.width, opening.height)) {
-        child.claim(std::int64_t{opening.width} * opening.height);
+    if (wait == Wait::Message && opening.magic == decode::kClaim) {
+        if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
+        const std::int64_t pixels = std::int64_t{opening.width} * opening.height;
+        child.claim(std::min(pixels, capacity.pixels(opening.bits)));
         wait = child.receive(&opening, sizeof opening);
     }
     if (wait != Wait::Message) return {false, faultOf(wait, child)};
@@ -134,7 +148,7 @@ Ending receivePicture(DecoderProcess& child, const Begin& begin)
     const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
     const QString reason = QString::fromUtf8(opening.reason, length).simplified();
     if (opening.width == 0 && opening.height == 0) return {false, reason.isEmpty() ? QString(kNonsense) : reason};
-    if (!Bits::sizeAllowed(opening.width, opening.height)) return {false, kNonsense};
+    if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
     Ending ending = receiveRows(child, opening.width, opening.height, begin(opening));
     if (ending.whole) ending.reason = reason;
     return ending;
@@ -143,11 +157,13 @@ Ending receivePicture(DecoderProcess& child, const Begin& begin)
 Ending load(const Descriptor& file, const QString& extension, const QString& decoder, const DecoderLimits& limits,
             const GoOn& goOn, const Begin& begin)
 try {
-    if (const QString fault = faultOfFile(file); !fault.isEmpty()) return {false, fault};
+    std::int64_t size = 0;
+    if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
     if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
-    DecoderProcess child(decoder, file, extension.toLower(), limits, goOn);
+    const QString format = extension.toLower();
+    DecoderProcess child(decoder, file, format, limits, goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
-    return receivePicture(child, begin);
+    return receivePicture(child, Capacity(format, size), begin);
 } catch (const std::bad_alloc&) {
     return {false, "there is not enough memory for it"};
 }
@@ -206,10 +222,7 @@ LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, co
         const int height = opening.height;
         bits = Bits::uninitialized(opening.width, height);
         for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
-        return [&](const Pixel* rows, int first, int count) {
-            copyRows(rows, bits, first, count);
-            return !goOn || goOn({}); // a large picture's rows come without a pause
-        };
+        return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
     });
     return {ending.whole ? bits : Bits(), named(ending, name)};
 }
@@ -229,7 +242,6 @@ SmallPicture loadSmall(const QString& path, const QString& extension, const QStr
         shrinker.emplace(small.size, box);
         return [&](const Pixel* rows, int, int count) {
             for (; count > 0; --count, rows += small.size.width()) shrinker->take(rows);
-            return !goOn || goOn({});
         };
     });
     if (ending.whole) small.image = shrinker->image();

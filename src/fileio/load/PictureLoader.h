@@ -14,6 +14,7 @@ constexpr unsigned kMostSeconds = 60; // of processor time, for any picture
 struct DecoderLimits {
     std::size_t memory = std::size_t{4} << 30;  // bytes of address space
     unsigned cpuSeconds = 2;                    // processor time; some readers loop for ever on damaged files
+    unsigned mostSeconds = kMostSeconds;        // of it, for a picture that claims many pixels
     std::chrono::milliseconds idle{2000};       // asleep or stopped, in all
     std::chrono::milliseconds wallClock{90000}; // from start to the last row
 };
@@ -44,8 +45,7 @@ struct SmallPicture {
     QString reason; // as of loadThroughDecoder
 };
 
-/// The picture is scaled down as it comes in and never exists at its full size. goOn is asked with every piece of it
-/// too. For any thread.
+/// The picture is scaled down as it comes in and never exists at its full size. For any thread.
 SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
                        const DecoderLimits& limits = {}, const GoOn& goOn = {});
 

@@ -42,9 +42,13 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
 
 TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
-    for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}}) {
-        platform.answers = {file(name)};
+    QImage cut(file("cut.png"));
+    cut.setText("Note", "cut.png: it is cut off");
+    cut.save(path("cut.png"));
+    for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}, {"cut.png", true}}) {
+        platform.answers = {QFile::exists(path(name)) ? path(name) : file(name)};
         frame->Mmenu("OPEN");
+        if (QString(name) == "cut.png") EXPECT_EQ(frame->status().currentMessage(), "cut.png: it is cut off");
         platform.log.clear();
         frame->documents().last()->document().Changed = true;
         frame->Mmenu("SAVE");

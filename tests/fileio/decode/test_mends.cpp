@@ -220,6 +220,9 @@ TEST(Mends, SunRastersWithAFullPalette)
     const Colours wanted = {0x807f40, 0x807f40, 0x807f40, 0x01fe00, 0x02fd01, 0x03fc01};
     EXPECT_EQ(coloursIn(ras(1, "\x80\x80\x80x\1\2\3x"), "ras"), wanted);
     EXPECT_EQ(coloursIn(ras(2, std::string("\x80\2\x80\x80\0\1\2\3x", 9)), "ras"), wanted);
+    const Decoded cut = decodeBytes(ras(1, "\x80\x80\x80x\1\2"), "ras");
+    EXPECT_EQ(cut.reason, "it is cut off: its end is missing");
+    EXPECT_EQ(coloursOf(cut), (Colours{0x807f40, 0x807f40, 0x807f40, 0, 0, 0})) << "the rows that are whole";
 }
 
 TEST(Mends, TrueColourPcx)
@@ -235,6 +238,11 @@ TEST(Mends, TrueColourPcx)
     EXPECT_EQ(coloursIn(pcx(1, 1, "\1\1\2\2\3\3"), "pcx"), Colours{0x010203});
     EXPECT_EQ(coloursIn(pcx(2, 1, "\1\2\3\4\5\6"), "pcx"), (Colours{0x010305, 0x020406}));
     EXPECT_EQ(coloursIn(pcx(1, 2, "\1\1\2\2\3\3\4\4\5\5\6\6"), "pcx"), (Colours{0x010203, 0x040506}));
+    EXPECT_EQ(coloursIn(pcx(2, 2, "\xcb\7\xff\7"), "pcx"), Colours(4, 0x070707)) << "a run beyond the end";
+    const std::string claim = pcx(16000, 16000, "\1\2");
+    FileBytes bytes(std::vector<std::uint8_t>(claim.begin(), claim.end()));
+    mendPcx(bytes);
+    EXPECT_EQ(bytes.size(), claim.size()) << "a claim alone takes no memory";
 }
 
 TEST(Mends, IffWithoutABodyEnds)

@@ -66,6 +66,19 @@ TEST(PCX, LaysTheFileOut)
     EXPECT_EQ(written(flatBits(4, 3, 9, 9, 9), true), header(1, 4, 3, 4) + oneRun);
 }
 
+// The margin of a picture is nobody's affair, whatever stands in it.
+TEST(PCX, TakesNothingFromBeyondThePicture)
+{
+    for (int width = 1; width < 9; ++width) {
+        const Bits clean = randomBits(width, 3, unsigned(width));
+        Bits marked = clean;
+        for (int y = -2; y < 5; ++y)
+            for (int x = -2; x < width + 2; ++x)
+                if (x < 0 || x >= width || y < 0 || y > 2) marked.at(x, y) = {{99, 98, 97, 96}};
+        EXPECT_EQ(written(marked, false), written(clean, false)) << width;
+    }
+}
+
 TEST(PCX, CanBeStoppedWhileItWrites)
 {
     const QTemporaryDir folder;

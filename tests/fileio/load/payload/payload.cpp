@@ -25,7 +25,7 @@
 
 namespace velara::decode {
 
-void (*sizeFound)(std::int64_t width, std::int64_t height) = [](std::int64_t, std::int64_t) {};
+void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
 
 namespace {
 
