@@ -50,7 +50,7 @@ struct Cage : FolderTest {
     {
         body();
         if (getuid() != 0) return;
-        chown(QFile::encodeName(folder.path()).constData(), kNobody, kNobody);
+        EXPECT_EQ(0, chown(QFile::encodeName(folder.path()).constData(), kNobody, kNobody));
         QFile::remove(path("attempt"));
         const pid_t child = fork();
         if (child == 0) {
