@@ -1,5 +1,7 @@
 #include "fileio/OutputFile.h"
+#include "fileio/fileRights.h"
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -79,6 +81,24 @@ bool writeAll(int file, const std::uint8_t* bytes, std::size_t size)
     return true;
 }
 
+/// The disk has the space for a file that grows to so many bytes, and keeps it for that; true where it can't be asked.
+bool hasRoom(int file, off_t size)
+{
+    return size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, size) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
+}
+
+/// All bytes of one file over the first ones of another.
+bool copied(int from, int to, off_t size)
+{
+    off_t at = 0;
+    while (at < size) {
+        const ssize_t n = sendfile(to, from, &at, static_cast<std::size_t>(size - at));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+    }
+    return true;
+}
+
 /// Write bits that are all off mean "leave it", to the system's administrator too.
 bool isProtected(const QByteArray& path, mode_t mode)
 {
@@ -114,14 +134,17 @@ OutputFile::OutputFile(const QString& path, Links links)
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
     lasting_ = links == Links::Follow;
-    const mode_t mode = replaces_ ? old.st_mode & 07777 : lasting_ ? 0666 : 0600;
-    if (!replaces_ || (S_ISREG(old.st_mode) && !isProtected(target_, old.st_mode))) openBeside(mode, replaces_);
-    const bool isOver = replaces_ && !S_ISDIR(old.st_mode) && !isProtected(target_, old.st_mode);
-    if (file_ < 0 && isOver) file_ = memfd_create("picture", MFD_CLOEXEC);
-    if (file_ < 0) error_ = !replaces_ || isOver ? errno : S_ISDIR(old.st_mode) ? EISDIR : EACCES;
+    if (replaces_ && (S_ISDIR(old.st_mode) || isProtected(target_, old.st_mode))) {
+        error_ = S_ISDIR(old.st_mode) ? EISDIR : EACCES;
+        return;
+    }
+    if (!replaces_ || S_ISREG(old.st_mode)) openBeside(lasting_ && !replaces_ ? 0666 : 0600);
+    inPlace_ = replaces_ && (file_ < 0 || old.st_nlink > 1 || !giveRights(file_, target_, old));
+    if (file_ < 0 && replaces_) file_ = memfd_create("picture", MFD_CLOEXEC);
+    if (file_ < 0) error_ = errno;
 }
 
-void OutputFile::openBeside(mode_t mode, bool takesMode)
+void OutputFile::openBeside(mode_t mode)
 {
     std::random_device random;
     for (int tries = 0; tries < 10 && file_ < 0; ++tries) {
@@ -132,10 +155,7 @@ void OutputFile::openBeside(mode_t mode, bool takesMode)
         if (file_ >= 0 && !isMine(file_) && fstat(file_, &status) == 0 && status.st_nlink == 0)
             close(std::exchange(file_, -1)); // taken for a stray between the two calls
     }
-    if (file_ < 0)
-        temporary_.clear();
-    else if (takesMode)
-        fchmod(file_, mode);
+    if (file_ < 0) temporary_.clear();
 }
 
 OutputFile::~OutputFile()
@@ -200,13 +220,16 @@ std::int64_t OutputFile::tell()
 
 bool OutputFile::publish()
 {
-    if (temporary_.isEmpty()) return copyOver();
     const bool onDisk = !lasting_ || synced(file_);
+    if (inPlace_) return onDisk && copyOver();
     if (close(std::exchange(file_, -1)) != 0 || !onDisk)
         return false; // a file server may tell only now that it is full
-    if (std::rename(temporary_.constData(), target_.constData()) != 0) return false;
-    temporary_.clear();
-    return true;
+    if (std::rename(temporary_.constData(), target_.constData()) == 0) {
+        temporary_.clear();
+        return true;
+    }
+    if (replaces_) file_ = open(temporary_.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+    return file_ >= 0 && copyOver(); // a file that is mounted by itself can't be replaced
 }
 
 bool OutputFile::copyOver()
@@ -214,17 +237,33 @@ bool OutputFile::copyOver()
     const off_t size = lseek(file_, 0, SEEK_END);
     const int target = open(target_.constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
     if (target < 0 || size < 0) return false;
-    off_t at = 0;
-    while (at < size) {
-        const ssize_t n = sendfile(target, file_, &at, static_cast<std::size_t>(size - at));
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) break;
+    struct stat status {};
+    const bool isFile = fstat(target, &status) == 0 && S_ISREG(status.st_mode);
+    if (isFile && !hasRoom(target, size)) {
+        close(target);
+        errno = ENOSPC;
+        return false; // and nothing has changed
     }
-    struct stat status;
-    if (at == size && fstat(target, &status) == 0 && S_ISREG(status.st_mode) &&
-        (ftruncate(target, size) != 0 || !synced(target)))
-        at = -1;
-    return close(target) == 0 && at == size;
+    bool whole = copied(file_, target, size);
+    if (isFile) whole = whole && ftruncate(target, size) == 0 && synced(target);
+    if (close(target) != 0) whole = false;
+    if (!whole) keepBeside();
+    return whole;
+}
+
+void OutputFile::keepBeside()
+{
+    if (temporary_.isEmpty()) return;
+    const QFileInfo target(QFile::decodeName(target_));
+    const QString ending = target.suffix().isEmpty() ? QString() : '.' + target.suffix();
+    for (int i = 1; i < 100; ++i) {
+        const QString name = target.path() + '/' + target.completeBaseName() +
+                             (i == 1 ? QString(".rescued") : QString(".rescued-%1").arg(i)) + ending;
+        const QByteArray path = QFile::encodeName(name);
+        if (access(path.constData(), F_OK) == 0 || std::rename(temporary_.constData(), path.constData()) != 0) continue;
+        temporary_.clear();
+        return;
+    }
 }
 
 bool OutputFile::commit() { return file_ >= 0 && flush() && (publish() || fail()); }

@@ -13,11 +13,14 @@ namespace velara {
 /// one where anybody may.
 QString behindLinks(const QString& path);
 
-/// Writes go to a new file in the target's folder, which gives the old one's permissions to it and replaces it on
-/// commit(), once it is on the disk. Symbolic links are followed (behindLinks), or replaced where somebody else may
-/// have put them. What a program that died left of that is removed from the folder. What can't be replaced so (a
-/// device, a file in a folder where none can be made) is written over on commit(), out of memory. Without commit()
-/// nothing has changed.
+/// Writes go to a new file in the target's folder, which is given the old one's owner, group, mode and access lists and
+/// replaces it on commit(), once it is on the disk. Symbolic links are followed (behindLinks), or replaced where
+/// somebody else may have put them. What a program that died left of that is removed from the folder.
+///
+/// A file that has several names, or something that the new one can't be given, is written over on commit(): once the
+/// whole copy beside it is on the disk, and the disk has kept the space. If that fails midway all the same, the copy
+/// stays as "name.rescued.ext". Out of memory where no copy can be made (a device, a folder that takes no files).
+/// Without commit() nothing has changed.
 class OutputFile {
   public:
     enum class Links {
@@ -51,18 +54,19 @@ class OutputFile {
     void keepRemains();
 
   private:
-    void openBeside(mode_t mode, bool takesMode);
+    void openBeside(mode_t mode);
     bool fail();
     bool flush();
     bool publish();
     bool copyOver();
+    void keepBeside();
 
     QByteArray target_, temporary_; // temporary_ empty: written in memory
     std::function<bool()> goOn_;
     std::vector<std::uint8_t> buffer_;
     std::size_t used_ = 0;
     int file_ = -1, error_ = 0;
-    bool replaces_ = false, failed_ = false, lasting_ = true;
+    bool replaces_ = false, inPlace_ = false, failed_ = false, lasting_ = true;
 };
 
 } // namespace velara

@@ -3,11 +3,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QUrl>
+#include <cerrno>
 #include <chrono>
-#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/mman.h>
-#include <sys/socket.h>
-#include <sys/un.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velara {
@@ -18,18 +20,35 @@ QFileInfo executable() { return QFileInfo(QFile::symLinkTarget("/proc/self/exe")
 
 QSettings settings() { return QSettings(QSettings::IniFormat, QSettings::UserScope, executable().fileName()); }
 
-/// A socket bound to a name that one process a session can hold; the kernel frees it with the process. -1: taken.
-int claimSessionName()
+/// A folder that nobody else can write to: the system's for the time of a session, else one at home. Empty: there is
+/// none.
+QString lockFolder()
 {
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (fd < 0) return fd;
+    const QString cache = QDir::homePath() + "/.cache/velara-studio";
+    for (const QString& folder : {qEnvironmentVariable("XDG_RUNTIME_DIR"), cache}) {
+        if (!QDir::isAbsolutePath(folder)) continue;
+        if (folder == cache) QDir().mkpath(cache);
+        struct stat status {};
+        if (stat(QFile::encodeName(folder).constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+            status.st_uid == geteuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0)
+            return folder;
+    }
+    return {};
+}
+
+/// A locked file that one process a session can hold; the kernel releases it with the process. -1: there is none, or
+/// another process has it, which taken says.
+int claimSession(bool& taken)
+{
+    const QString folder = lockFolder();
+    if (folder.isEmpty()) return -1;
     const QString session = qEnvironmentVariable("XDG_SESSION_ID", qEnvironmentVariable("DISPLAY"));
-    const QByteArray name = QString("velara-studio-%1-%2").arg(getuid()).arg(session).toUtf8().left(100);
-    sockaddr_un address{AF_UNIX, {}};
-    std::memcpy(address.sun_path + 1, name.constData(), static_cast<std::size_t>(name.size()));
-    const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
-    if (bind(fd, reinterpret_cast<const sockaddr*>(&address), size) == 0) return fd;
-    close(fd);
+    const QByteArray path =
+        QFile::encodeName(folder) + "/velara-studio-" + QUrl::toPercentEncoding(session).left(100) + ".lock";
+    const int file = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (file < 0 || flock(file, LOCK_EX | LOCK_NB) == 0) return file;
+    taken = errno == EWOULDBLOCK;
+    close(file);
     return -1;
 }
 
@@ -60,8 +79,9 @@ QString CorePlatform::programFolder()
 
 bool CorePlatform::previousInstance()
 {
-    if (instance_ < 0) instance_ = claimSessionName();
-    return instance_ < 0;
+    bool taken = false;
+    if (instance_ < 0) instance_ = claimSession(taken);
+    return taken;
 }
 
 QString CorePlatform::setting(const QString& section, const QString& key, const QString& otherwise)

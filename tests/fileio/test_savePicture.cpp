@@ -3,6 +3,7 @@
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "support/RecordingPlatform.h"
+#include "support/childProcess.h"
 #include "support/files.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
@@ -13,6 +14,8 @@
 #include <numeric>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace velara {
@@ -57,6 +60,25 @@ struct SavePicture : FolderTest {
         return savePicture(platform, bits, path(name), QFileInfo(name).suffix());
     }
     SaveResult save(const QString& name) { return save(small, name); }
+    QByteArray at(const QString& name) const { return QFile::encodeName(path(name)); }
+    struct stat statusOf(const QString& name) const
+    {
+        struct stat status {};
+        stat(at(name).constData(), &status);
+        return status;
+    }
+    /// Owner, group, mode and attributes for comparison.
+    QString rightsOf(const QString& name) const
+    {
+        const struct stat status = statusOf(name);
+        QString text = QString("%1:%2 %3").arg(status.st_uid).arg(status.st_gid).arg(status.st_mode & 07777, 0, 8);
+        for (const char* attribute : {"system.posix_acl_access", "user.origin"}) {
+            QByteArray value(200, 0);
+            const ssize_t size = getxattr(at(name).constData(), attribute, value.data(), 200);
+            text += ' ' + value.left(std::max<ssize_t>(size, 0)).toHex();
+        }
+        return text;
+    }
     void setMode(const QString& name, mode_t mode) const { chmod(QFile::encodeName(path(name)).constData(), mode); }
     mode_t mode(const QString& name) const
     {
@@ -209,20 +231,126 @@ TEST_F(SavePicture, StraysOfDeadProgramsGo)
               (QStringList{".velara-a.png", ".velara-alive.part", ".velara-link.part", "a.png", "film.velara-1.part"}));
 }
 
-TEST_F(SavePicture, LinksThatLeadNowhereOrAreSomebodyElsesAreRefused)
+TEST_F(SavePicture, LinksThatLeadNowhereAreRefused)
 {
     QFile::link("b.png", path("a.png"));
     QFile::link("a.png", path("b.png"));
     EXPECT_EQ(save("a.png"), SaveResult::FailedAndTold);
     EXPECT_TRUE(QFileInfo(path("a.png")).isSymLink());
+}
+
+TEST_F(SavePicture, LinksOfOthersAreFollowedWhereOthersCanMakeNone)
+{
     if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make links of others";
-    const char* link = "shared/a.png";
-    QDir(folder.path()).mkdir("shared");
-    setMode("shared", 01777);
-    QFile::link(put("victim.png", "old"), path(link));
-    ASSERT_EQ(0, lchown(QFile::encodeName(path(link)).constData(), 12345, 12345));
-    EXPECT_EQ(save(link), SaveResult::FailedAndTold);
-    EXPECT_EQ(content("victim.png"), "old");
+    constexpr uid_t kOther = 12345, kThird = 23456;
+    const struct {
+        mode_t folder;
+        uid_t folderOwner, linkOwner;
+        bool follows;
+    } kRows[] = {{01777, kThird, kOther, false},
+                 {01777, kOther, kOther, true},
+                 {01777, kThird, 0, true},
+                 {0777, kThird, kOther, true},
+                 {01775, kThird, kOther, true}};
+    for (const auto& row : kRows) {
+        QDir(folder.path()).mkdir("shared");
+        setMode("shared", row.folder);
+        ASSERT_EQ(0, chown(at("shared").constData(), row.folderOwner, 0));
+        put("victim.png", "old");
+        QFile::remove(path("shared/a.png"));
+        QFile::link(path("victim.png"), path("shared/a.png"));
+        ASSERT_EQ(0, lchown(at("shared/a.png").constData(), row.linkOwner, 0));
+        EXPECT_EQ(save("shared/a.png") == SaveResult::Written, row.follows) << row.linkOwner;
+        EXPECT_EQ(content("victim.png") != "old", row.follows) << row.linkOwner;
+    }
+}
+
+namespace {
+
+/// An access list in the kernel's form: another user may read and write.
+const QByteArray kAccessList = QByteArray::fromHex("02000000"
+                                                   "01000600ffffffff"
+                                                   "0200060039300000"
+                                                   "04000400ffffffff"
+                                                   "10000600ffffffff"
+                                                   "20000000ffffffff");
+
+} // namespace
+
+TEST_F(SavePicture, WhoMayDoWhatWithAFileStays)
+{
+    const auto set = [&](const QString& name, const char* attribute, const QByteArray& value) {
+        return setxattr(at(name).constData(), attribute, value.constData(), std::size_t(value.size()), 0) == 0;
+    };
+    if (!set(".", "system.posix_acl_default", kAccessList)) GTEST_SKIP() << "no access lists where the tests write";
+    setMode(".", 0777);
+    const auto make = [&](const QString& name, uid_t owner, mode_t mode) {
+        put(name, "old");
+        removexattr(at(name).constData(), "system.posix_acl_access"); // the folder's
+        EXPECT_EQ(0, geteuid() == 0 ? chown(at(name).constData(), owner, owner) : 0);
+        setMode(name, mode);
+    };
+    const auto savedOver = [&](const QString& name, bool inPlace, const QString& rights) {
+        const ino_t before = statusOf(name).st_ino;
+        EXPECT_EQ(save(name), SaveResult::Written) << qPrintable(name);
+        EXPECT_TRUE(load(path(name)).ok()) << qPrintable(name);
+        EXPECT_EQ(rightsOf(name), rights) << qPrintable(name);
+        EXPECT_EQ(statusOf(name).st_ino == before, inPlace) << qPrintable(name);
+    };
+    constexpr uid_t kOther = 12345;
+    make("plain.png", geteuid(), 0640);
+    make("theirs.png", kOther, 0664);
+    make("program.png", kOther, 06755);
+    make("list.png", kOther, 0660);
+    EXPECT_TRUE(set("list.png", "system.posix_acl_access", kAccessList));
+    make("marked.png", geteuid(), 0600);
+    EXPECT_TRUE(set("marked.png", "user.origin", "camera"));
+    for (const char* name : {"plain.png", "theirs.png", "program.png", "list.png", "marked.png"})
+        savedOver(name, false, rightsOf(name));
+    make("linked.png", kOther, 0664);
+    ASSERT_EQ(0, link(at("linked.png").constData(), at("second.png").constData()));
+    savedOver("linked.png", true, rightsOf("linked.png"));
+    EXPECT_EQ(content("second.png"), content("linked.png"));
+
+    if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make files of others";
+    make("shared.png", kOther, 0666); // may be written, and given to nobody
+    make("program.png", kOther, 04777);
+    asAnOrdinaryUser([&] {
+        savedOver("shared.png", true, rightsOf("shared.png"));
+        savedOver("program.png", true, rightsOf("program.png").replace(" 4777", " 777"));
+    });
+    EXPECT_TRUE(files().filter("velara").isEmpty());
+}
+
+TEST_F(SavePicture, WhatTheDiskRefusesLosesNothing)
+{
+    enum Where { Beside, InPlace };
+    const struct {
+        long call;
+        unsigned error;
+        Where where;
+        bool written;
+        QStringList left;
+    } kRows[] = {{SYS_fsync, EIO, Beside, false, {"a.png"}},
+                 {SYS_fsync, EINVAL, Beside, true, {"a.png"}}, // a file system that has no such thing
+                 {SYS_fsync, EIO, InPlace, false, {"a.png", "b.png"}},
+                 {SYS_rename, EBUSY, Beside, true, {"a.png"}}, // a file that is mounted
+                 {SYS_fallocate, ENOSPC, InPlace, false, {"a.png", "b.png"}},
+                 {SYS_fallocate, EOPNOTSUPP, InPlace, true, {"a.png", "b.png"}},
+                 {SYS_sendfile, EIO, InPlace, false, {"a.png", "a.rescued.png", "b.png"}}};
+    for (const auto& row : kRows) {
+        for (const QString& name : files()) QFile::remove(path(name));
+        put("a.png", "old");
+        ASSERT_EQ(0, row.where == InPlace ? link(at("a.png").constData(), at("b.png").constData()) : 0);
+        const std::string what = std::to_string(row.call) + " with " + std::to_string(row.error);
+        inAChild(what, [&] {
+            refuseCall(row.call, row.error);
+            EXPECT_EQ(save("a.png"), row.written ? SaveResult::Written : SaveResult::FailedAndTold) << what;
+        });
+        EXPECT_EQ(content(row.where == InPlace ? "b.png" : "a.png") != "old", row.written) << what;
+        EXPECT_EQ(files(), row.left) << what;
+    }
+    EXPECT_TRUE(load(path("a.rescued.png")).ok());
 }
 
 TEST_F(SavePicture, APcxKeepsTheTailAndTheModeOfALongerFile)

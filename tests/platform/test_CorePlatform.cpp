@@ -43,15 +43,28 @@ TEST(CorePlatform, KeepsSettingsAcrossRuns)
 
 TEST(CorePlatform, KnowsAnEarlierInstance)
 {
-    qputenv("XDG_SESSION_ID", "velara-test-" + QByteArray::number(getpid()));
-    HomePlatform second;
-    {
-        HomePlatform first;
-        EXPECT_FALSE(first.previousInstance());
-        EXPECT_FALSE(first.previousInstance()); // it is no one's predecessor
-        EXPECT_TRUE(second.previousInstance());
+    const QTemporaryDir home, run, open;
+    QFile::setPermissions(open.path(),
+                          QFile::Permissions(0x7777)); // where others can take the lock it is not looked for
+    qputenv("XDG_SESSION_ID", "../one/session");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    for (const QString& folder : {run.path(), open.path(), QString("relative"), QString()}) {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder));
+        HomePlatform second;
+        {
+            HomePlatform first;
+            EXPECT_FALSE(first.previousInstance());
+            EXPECT_FALSE(first.previousInstance()); // it is no one's predecessor
+            EXPECT_TRUE(second.previousInstance()) << qPrintable(folder);
+        }
+        EXPECT_FALSE(second.previousInstance()) << qPrintable(folder);
     }
-    EXPECT_FALSE(second.previousInstance());
+    EXPECT_EQ(QDir(run.path()).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(QDir(home.path() + "/.cache/velara-studio").entryList(QDir::Files).size(), 1);
+    EXPECT_TRUE(QDir(open.path()).isEmpty());
+    qputenv("HOME", "/proc/none"); // nobody can tell
+    HomePlatform first, second;
+    EXPECT_FALSE(first.previousInstance() || second.previousInstance());
 }
 
 TEST(CorePlatform, ClockAndChance)

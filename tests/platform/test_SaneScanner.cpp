@@ -1,9 +1,14 @@
 // Scanners through the helper, on the library's own test device.
 #include "PrivateBus.h"
 #include "platform/desktop/SaneScanner.h"
+#include "platform/scan/Cage.h"
+#include "support/childProcess.h"
 #include "support/files.h"
 #include "support/places.h"
 #include <QtWidgets>
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <sys/ptrace.h>
 
 namespace velara {
 
@@ -128,6 +133,45 @@ TEST_F(SaneScannerTest, AScannerThatHangsIsLeft)
     }
     EXPECT_LT(timer.elapsed(), 15000);
     EXPECT_FALSE(answered);
+}
+
+// A driver that something took over: what is left to it, and what is not.
+TEST_F(SaneScannerTest, TheHelpersCageKeepsTheDeviceAndTheNet)
+{
+    qputenv("SANE_CONFIG_DIR", path("config").toUtf8());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/none");
+    QDir(folder.path()).mkdir("config");
+    const QByteArray victim = put("precious", "mine").toUtf8(), beside = path("new").toUtf8();
+    const QByteArray config = put("config/dll.conf", "test").toUtf8();
+    const int picture = open(put("scan.bmp", "").toUtf8().constData(), O_WRONLY | O_CLOEXEC);
+    const auto opened = [](const QByteArray& name, int flags) { return open(name.constData(), flags, 0600) >= 0; };
+    inAChild("in the cage", [&] {
+        ASSERT_TRUE(enterScanCage());
+        const int line = socket(AF_INET, SOCK_STREAM, 0);
+        const sockaddr_in port{AF_INET, htons(9), {htonl(INADDR_LOOPBACK)}, {}};
+        const struct {
+            const char* what;
+            bool works, wanted;
+        } kRows[] = {
+            {"the picture", write(picture, "x", 1) == 1, true},
+            {"a picture without end", ftruncate(picture, 3LL << 30) == 0, false},
+            {"the configuration", opened(config, O_RDONLY), true},
+            {"a library", opened("/usr/lib/os-release", O_RDONLY), true},
+            {"a device", opened("/dev/null", O_RDWR), true},
+            {"the net",
+             connect(line, reinterpret_cast<const sockaddr*>(&port), sizeof port) == 0 || errno == ECONNREFUSED, true},
+            {"a file without a name", std::tmpfile() != nullptr, true},
+            {"the user's file", opened(victim, O_RDONLY), false},
+            {"over the user's file", opened(victim, O_WRONLY), false},
+            {"a new file", opened(beside, O_WRONLY | O_CREAT), false},
+            {"a program", execl("/bin/true", "true", nullptr) == 0, false},
+            {"another process", ptrace(PTRACE_ATTACH, getppid(), nullptr, nullptr) == 0, false},
+            {"the session", qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"), false},
+        };
+        for (const auto& row : kRows) EXPECT_EQ(row.works, row.wanted) << row.what;
+    });
+    close(picture);
+    EXPECT_EQ(content("precious"), "mine");
 }
 
 } // namespace velara

@@ -1,4 +1,5 @@
 #include "fileio/decode/answer.h"
+#include "fileio/decode/cage/OpenFonts.h"
 #include "fileio/decode/decode.h"
 #include "fileio/decode/sanitizer.h"
 #include "fileio/load/DecodeProtocol.h"
@@ -63,8 +64,11 @@ void answer(const QString& extension)
     const Needs needs = prepareReader(extension);
     FileBytes file(kPicture);
     close(kPicture);
-    enterCage(needs); // nothing of the file has been looked at yet
-    const Decoded picture = decodePicture(std::move(file), extension);
+    if (needs != Needs::Nothing) handOverFonts();
+    const CageState cage = enterCage(needs); // nothing of the file has been looked at yet
+    const Decoded picture =
+        cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
+                  : decodePicture(std::move(file), extension);
     const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
     _exit(done ? 0 : 1); // no tidying: the process is thrown away
 }

@@ -1,8 +1,8 @@
 // Reads one picture file: path and extension to size and pixels, or the reason why not. A pure function, but one whose
 // libraries crash and loop on damaged files: the programs run it in velara-decode only.
 #pragma once
-#include "fileio/decode/Cage.h"
 #include "fileio/decode/FileBytes.h"
+#include "fileio/decode/cage/Cage.h"
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
 #include <QString>

@@ -1,8 +1,12 @@
 // velara-decode EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
-#include "fileio/decode/Cage.h"
 #include "fileio/decode/answer.h"
+#include "fileio/decode/cage/Cage.h"
+#include "fileio/load/DecodeProtocol.h"
 #include <cstdio>
+#include <new>
 #include <string_view>
+#include <sys/mman.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -12,22 +16,37 @@ using namespace velara::decode;
 namespace {
 
 /// The layers that hold here, found out by a process of its own: inside, nothing can be written to a file any more.
+/// 1: one is missing.
 int printCage()
 {
+    void* shared = mmap(nullptr, sizeof(CageState), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (shared == MAP_FAILED) return 1;
+    auto* state = new (shared) CageState;
     const pid_t inside = fork();
-    if (inside == 0) _exit(static_cast<int>(enterCage(Needs::Nothing)));
-    int status = 0;
-    const bool ended = waitpid(inside, &status, 0) == inside && WIFEXITED(status);
-    std::fputs(describeCage(ended ? static_cast<unsigned>(WEXITSTATUS(status)) : 0).c_str(), stdout);
-    return ended ? 0 : 1;
+    if (inside == 0) {
+        *state = enterCage(Needs::Nothing);
+        _exit(0);
+    }
+    waitpid(inside, nullptr, 0);
+    std::fputs(describeCage(*state).c_str(), stdout);
+    return state->holding == kAllLayers ? 0 : 1;
+}
+
+/// A program that has a picture to read is at the other end of the line.
+bool isCalled()
+{
+    int kind = 0;
+    socklen_t size = sizeof kind;
+    return getsockopt(kSocket, SOL_SOCKET, SO_TYPE, &kind, &size) == 0 && kind == SOCK_SEQPACKET;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (argc == 2 && isCalled()) answer(QString::fromUtf8(argv[1])); // "--cage" is an extension here
     if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();
-    if (argc == 2) answer(QString::fromUtf8(argv[1]));
-    std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n");
+    std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n"
+                         "velara-decode --cage tells which layers of its cage hold on this machine.\n");
     return 2;
 }

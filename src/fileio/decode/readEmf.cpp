@@ -70,7 +70,7 @@ Needs prepareEmf()
     iconv_open("UTF-8", "UTF-16LE"); // stays open: the converter asks for it again
     QImage dot(1, 1, QImage::Format_RGB32);
     QPainter(&dot).drawText(0, 0, "a"); // the list of fonts, and the plug-ins that draw them
-    return Needs::Fonts;
+    return Needs::Drawing;
 }
 
 Decoded readEmf(FileBytes& file)

@@ -4,6 +4,7 @@
 #include <libwmf/api.h>
 #include <libwmf/gd.h>
 #include <memory>
+#include <utility>
 
 namespace velara::decode {
 
@@ -68,17 +69,19 @@ struct Player {
     wmfAPI* api = nullptr;
 };
 
+std::shared_ptr<Player> prepared; // with its lists of fonts; inside the cage they are out of reach
+
 } // namespace
 
 Needs prepareWmf()
 {
-    const Player lists; // of fonts
+    prepared = std::make_shared<Player>();
     return Needs::Fonts;
 }
 
 Decoded readWmf(FileBytes& file)
 {
-    const auto player = std::make_shared<Player>();
+    const auto player = prepared ? std::exchange(prepared, nullptr) : std::make_shared<Player>();
     wmfAPI* const api = player->api;
     if (!api) return refused("the fonts that metafiles are drawn with are missing");
     wmfD_Rect box{};

@@ -1,6 +1,7 @@
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/startReader.h"
+#include <QDir>
 #include <QFile>
 #include <algorithm>
 #include <array>
@@ -115,15 +116,23 @@ struct Doing {
     long seconds = 0;  // of processor time
 };
 
+/// Of all its threads: while one draws for it, the first may sleep.
 Doing doingOf(pid_t pid)
 {
-    QFile file(QString("/proc/%1/stat").arg(pid));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray line = file.readAll(); // pid (name) state ... user and system time, the 14th and 15th
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    if (fields.size() < 13) return {};
-    const bool idle = fields[0] == "S" || fields[0] == "T" || fields[0] == "t";
-    return {idle, (fields[11].toLong() + fields[12].toLong()) / sysconf(_SC_CLK_TCK)};
+    const QString tasks = QString("/proc/%1/task").arg(pid);
+    int known = 0, asleep = 0;
+    long ticks = 0;
+    for (const QString& task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile file(tasks + '/' + task + "/stat");
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        const QByteArray line = file.readAll(); // number (name) state ... user and system time, the 14th and 15th
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() < 13) continue;
+        ++known;
+        asleep += fields[0] == "S" || fields[0] == "T" || fields[0] == "t";
+        ticks += fields[11].toLong() + fields[12].toLong();
+    }
+    return {known > 0 && asleep == known, ticks / sysconf(_SC_CLK_TCK)};
 }
 
 } // namespace

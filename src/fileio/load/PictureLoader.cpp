@@ -6,6 +6,7 @@
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
+#include <bit>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
@@ -86,7 +87,8 @@ void copyRows(const Pixel* slot, Bits& bits, int first, int count)
     const auto width = static_cast<std::size_t>(bits.width());
     for (int y = first; y < first + count; ++y, slot += width) {
         Pixel* row = bits.row(y);
-        std::memcpy(row, slot, sizeof(Pixel) * width);
+        for (std::size_t x = 0; x < width; ++x) // the fourth byte is ours, whatever the child wrote
+            row[x] = std::bit_cast<Pixel>(std::bit_cast<std::uint32_t>(slot[x]) & 0xffffffU);
         std::memset(row - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
         std::memset(row + width, 0, sizeof(Pixel) * Bits::kMargin);
     }

@@ -1,6 +1,8 @@
 #include "platform/desktop/SaneScanner.h"
+#include <QFile>
 #include <QProcess>
 #include <QTimer>
+#include <QVariant>
 #include <cmath>
 #include <memory>
 
@@ -8,7 +10,8 @@ namespace velara {
 
 namespace {
 
-constexpr int kGrace = 3000; // ms for a scan to end in good order
+constexpr int kGrace = 3000;              // ms for a scan to end in good order
+constexpr const char* kTarget = "target"; // a child's property: the file that it makes
 
 void describeLine(ScanRange& range, const QStringList& words)
 {
@@ -25,14 +28,23 @@ void describeLine(ScanRange& range, const QStringList& words)
     std::sort(range.resolutions.begin(), range.resolutions.end());
 }
 
+/// What a scan that came to nothing leaves; inside its cage the helper can't remove it.
+void removeRest(const QProcess* child)
+{
+    if (const QString rest = child->property(kTarget).toString(); !rest.isEmpty()) QFile::remove(rest);
+}
+
 } // namespace
 
 SaneScanner::SaneScanner(const QString& helper) : helper_(helper) {}
 
 SaneScanner::~SaneScanner()
 {
-    if (child_) child_->disconnect();
-    delete child_; // which kills it
+    if (!child_) return;
+    child_->disconnect();
+    child_->kill();
+    removeRest(child_);
+    delete child_; // which waits for its end
 }
 
 void SaneScanner::start(const QStringList& arguments, const Line& line, std::function<void(const QString&)> done)
@@ -54,6 +66,7 @@ void SaneScanner::start(const QStringList& arguments, const Line& line, std::fun
         child->disconnect();
         child->deleteLater();
         child_ = nullptr;
+        if (!reason->isEmpty()) removeRest(child);
         done(*reason);
     };
     connect(child, &QProcess::readyReadStandardOutput, this, readLines);
@@ -79,6 +92,7 @@ void SaneScanner::cancel()
     if (!child) return;
     child_ = nullptr;
     child->disconnect();
+    removeRest(child); // at once: later the name may be the next scan's
     connect(child, &QProcess::finished, child, &QObject::deleteLater);
     child->terminate();
     QTimer::singleShot(kGrace, child, &QProcess::kill);
@@ -115,6 +129,7 @@ void SaneScanner::acquire(const ScanJob& job, const QString& path, std::function
             if (words.front() == "percent") progress(words.value(1).toInt());
         },
         std::move(done));
+    if (child_) child_->setProperty(kTarget, path);
 }
 
 } // namespace velara

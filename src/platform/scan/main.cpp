@@ -6,11 +6,13 @@
 //   velara-scan acquire DEVICE MODE RESOLUTION LEFT TOP RIGHT BOTTOM FILE
 //                                             percent<TAB>n as it goes; FILE is a bmp. Empty MODE, 0: as it stands.
 //
-// Status 0: done. 1: the last line is failed<TAB>reason. SIGTERM ends a scan in good order.
+// Status 0: done. 1: the last line is failed<TAB>reason; an empty FILE may be left. SIGTERM ends a scan in good order.
+#include "platform/scan/Cage.h"
 #include "platform/scan/Device.h"
 #include "platform/scan/Frames.h"
 #include <QCoreApplication>
 #include <QFile>
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
@@ -110,17 +112,21 @@ bool readFrame(const Device& device, Frames& frames, int pass)
     }
 }
 
-/// In a new file that the user alone can read: a link that was set there is not followed.
-bool written(const QImage& picture, const QString& path)
+/// A new file that the user alone can read: a link that was set there is not followed. -1: it can't be made.
+int newFile(const QString& path)
 {
     QFile::remove(path);
-    const int descriptor = open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    QFile file;
-    return descriptor >= 0 && file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle) &&
-           picture.save(&file, "BMP") && file.flush();
+    return open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
 }
 
-void acquire(const Device& device, const QStringList& arguments)
+bool written(const QImage& picture, int descriptor)
+{
+    QFile file;
+    return file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle) && picture.save(&file, "BMP") &&
+           file.flush();
+}
+
+void acquire(const Device& device, const QStringList& arguments, int file)
 {
     const QString& mode = arguments[0];
     if (const SANE_Int option = device.option(SANE_NAME_SCAN_MODE); option && !mode.isEmpty())
@@ -148,26 +154,38 @@ void acquire(const Device& device, const QStringList& arguments)
     sane_cancel(device.handle());
     const QImage picture = frames.picture();
     if (picture.isNull()) throw ScanFailure("the scanner gave no picture");
-    const QString& path = arguments[6];
-    if (!written(picture.convertToFormat(QImage::Format_RGB888), path)) {
-        QFile::remove(path);
+    if (!written(picture.convertToFormat(QImage::Format_RGB888), file))
         throw ScanFailure("the picture could not be written");
-    }
 }
 
-/// False: not to be understood.
-bool run(const QStringList& arguments)
-{
-    const QString what = arguments.value(1);
-    if (what == "list" && arguments.size() == 2) return list(), true;
-    if (what != (arguments.size() == 3 ? "describe" : "acquire")) return false;
-    if (arguments.size() != 3 && arguments.size() != 10) return false;
-    const Device device(arguments[2].toUtf8().constData());
-    if (arguments.size() == 3)
-        describe(device);
-    else
-        acquire(device, arguments.mid(3));
-    return true;
+struct Order {
+    const char* what;
+    qsizetype arguments;
+    void (*run)(const QStringList& arguments, int file);
+};
+constexpr Order kOrders[] = {
+    {"list", 0, [](const QStringList&, int) { list(); }},
+    {"describe", 1, [](const QStringList& a, int) { describe(Device(a[0].toUtf8().constData())); }},
+    {"acquire", 8, [](const QStringList& a, int file) { acquire(Device(a[0].toUtf8().constData()), a.mid(1), file); }},
+};
+
+/// The exit status. The file is opened before the cage closes, the library comes after.
+int run(const QStringList& arguments)
+try {
+    const auto* order = std::ranges::find_if(kOrders, [&](const Order& row) {
+        return arguments.value(0) == row.what && arguments.size() == row.arguments + 1;
+    });
+    if (order == std::end(kOrders)) return 2;
+    const int file = order->arguments == 8 ? newFile(arguments[8]) : -1;
+    if (order->arguments == 8 && file < 0) throw ScanFailure("the picture could not be written");
+    if (!enterScanCage()) throw ScanFailure("the scanners' drivers could not be locked in");
+    check(sane_init(nullptr, nullptr));
+    order->run(arguments.mid(1), file);
+    sane_exit();
+    return 0;
+} catch (const std::exception& failure) {
+    print({"failed", QString::fromUtf8(failure.what())});
+    return 1;
 }
 
 } // namespace
@@ -178,14 +196,6 @@ int main(int argc, char** argv)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // never without the editor
     QStringList arguments;
-    for (int i = 0; i < argc; ++i) arguments << QString::fromUtf8(argv[i]);
-    int status = 1;
-    try {
-        velara::check(sane_init(nullptr, nullptr));
-        status = velara::run(arguments) ? 0 : 2;
-    } catch (const std::exception& failure) {
-        velara::print({"failed", QString::fromUtf8(failure.what())});
-    }
-    sane_exit();
-    return status;
+    for (int i = 1; i < argc; ++i) arguments << QString::fromUtf8(argv[i]);
+    return velara::run(arguments);
 }

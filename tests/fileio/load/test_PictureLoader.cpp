@@ -55,6 +55,14 @@ TEST_F(PictureLoader, HandsOverMoreThanTheSharedMemoryHolds)
     EXPECT_TRUE(sameBits(wanted, picture.bits)) << picture.reason.toStdString();
 }
 
+TEST_F(PictureLoader, TheFourthByteIsNotTheChilds)
+{
+    const QByteArray script = "import mmap\nmmap.mmap(4, 1 << 20)[0:8] = b'\\1\\2\\3\\xff' * 2\n"
+                              "s.send(struct.pack('<Iii244s', 0x31444c56, 2, 1, b'')); s.send(struct.pack('<i', 0))\n";
+    const LoadedPicture picture = loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder(script));
+    EXPECT_TRUE(sameBits(flatBits(2, 1, 1, 2, 3), picture.bits)) << picture.reason.toStdString();
+}
+
 TEST_F(PictureLoader, SaysWhatIsWrongWithAFile)
 {
     const QByteArray bmp =
@@ -213,6 +221,14 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
     EXPECT_TRUE(loadThroughDecoder(large, "ppm", slow, limits).reason.contains("done"))
         << "a picture of many pixels has more time";
     EXPECT_TRUE(loadThroughDecoder(small, "ppm", slow, limits).reason.contains("too long")) << "but not for a claim";
+
+    const QByteArray drawing = "import threading\ndef work():\n    while time.process_time() < 1.2: pass\n"
+                               "other = threading.Thread(target=work); other.start(); other.join()\n"
+                               "s.send(struct.pack('<Iii244s', 0x31444c56, 0, 0, b'done'))";
+    DecoderLimits alert;
+    alert.idle = 300ms;
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder(drawing), alert).reason.contains("done"))
+        << "its other thread works";
 
 #ifndef __SANITIZE_ADDRESS__ // it goes without this limit
     DecoderLimits tight;     // the program itself starts within it

@@ -1,21 +1,20 @@
 // A picture that takes its reader over: each thing that it could do to the user is tried from inside the cage, by a
 // build of velara-decode whose reader does what the file says; as whoever runs the tests and, for root, as an ordinary
 // user.
-#include "fileio/decode/Cage.h"
+#include "fileio/decode/cage/Cage.h"
 #include "fileio/load/PictureLoader.h"
+#include "support/childProcess.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QDirIterator>
 #include <QProcess>
 #include <sys/stat.h>
-#include <sys/wait.h>
+#include <sys/syscall.h>
 
 namespace velara {
 
 namespace {
-
-constexpr uid_t kNobody = 65534;
 
 struct Cage : FolderTest {
     Cage()
@@ -36,7 +35,7 @@ struct Cage : FolderTest {
         const std::string_view text = name;
         if (text == "memory" || text == "direct") return attempt(name, address, cage);
         if (text == "connect") return attempt(name, "9", cage);
-        if (text == "write") return attempt(name, font, cage);
+        if (text == "write" || text == "font") return attempt(name, font, cage);
         return attempt(name, text == "outlive" ? path("outlived") : victim, cage);
     }
     /// True when neither the file beside nor this process shows a trace of any attempt.
@@ -50,17 +49,9 @@ struct Cage : FolderTest {
     {
         body();
         if (getuid() != 0) return;
-        chown(QFile::encodeName(folder.path()).constData(), kNobody, kNobody);
+        EXPECT_EQ(0, chown(QFile::encodeName(folder.path()).constData(), kNobody, kNobody));
         QFile::remove(path("attempt"));
-        const pid_t child = fork();
-        if (child == 0) {
-            if (setgid(kNobody) != 0 || setuid(kNobody) != 0) _exit(2);
-            body();
-            _exit(HasFailure());
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0) << "as an ordinary user";
+        asAnOrdinaryUser(body);
     }
 
     const QString payload = path("velara-decode"), victim = path("precious.txt");
@@ -69,9 +60,9 @@ struct Cage : FolderTest {
     volatile char target = 't';
 };
 
-constexpr const char* kAttempts[] = {"read",   "create", "write", "truncate", "link",    "unlink",
-                                     "list",   "map",    "shell", "outlive",  "connect", "display",
-                                     "memory", "direct", "trace", "signal",   "code"};
+constexpr const char* kAttempts[] = {"read",  "create",  "write",   "truncate", "link",   "unlink",  "list",  "map",
+                                     "shell", "outlive", "connect", "display",  "memory", "direct",  "trace", "signal",
+                                     "code",  "stat",    "exists",  "root",     "thread", "requeue", "advice"};
 
 } // namespace
 
@@ -86,6 +77,17 @@ TEST_F(Cage, RefusesEverythingThatAPictureNeverNeeds)
                 << name << ": " << answerTo(name, "plain").toStdString();
         for (const char* name : kAttempts) // reading fonts is a little wider: some of it comes back as an error
             EXPECT_FALSE(answerTo(name, "fonts").endsWith("it worked")) << name;
+        for (const char* name : {"list", "outlive", "connect", "direct", "thread", "requeue", "advice", "code"})
+            EXPECT_TRUE(answerTo(name, "fonts").endsWith("no picture needs") || std::string_view(name) == "list")
+                << name << ": " << answerTo(name, "fonts").toStdString();
+        EXPECT_TRUE(answerTo("font", "fonts").endsWith("it worked")) << answerTo("font", "fonts").toStdString();
+        EXPECT_TRUE(answerTo("font", "plain").endsWith("no picture needs"));
+        DecoderLimits wide; // the reader's own limit
+        wide.memory *= 4;
+        for (const char* cage : {"plain", "fonts"})
+            EXPECT_TRUE(loadThroughDecoder(put("attempt", "space\n"), cage, payload, wide)
+                            .reason.endsWith("refused: Cannot allocate memory"))
+                << cage;
         EXPECT_TRUE(untouched());
     });
 }
@@ -101,12 +103,54 @@ TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
     if (!cage.readAllStandardOutput().contains("Landlock: no path, no port: holds")) GTEST_SKIP();
     asEveryUser([&] {
         EXPECT_TRUE(answerTo("nothing", "nofilter").endsWith("it worked")) << "the payload doesn't answer";
-        for (const char* name :
-             {"read", "create", "write", "link", "unlink", "list", "map", "shell", "memory", "direct", "trace"})
+        for (const char* name : {"read", "create", "write", "link", "unlink", "list", "map", "shell", "memory",
+                                 "direct", "trace", "root", "font"})
             EXPECT_TRUE(answerTo(name, "nofilter").contains("refused: "))
                 << name << ": " << answerTo(name, "nofilter").toStdString();
         EXPECT_TRUE(untouched());
     });
+}
+
+// A layer that the kernel has and doesn't close: nothing is read. A kernel without Landlock reads.
+TEST(CageOfTheReader, ReadsNothingWhenALayerStaysOpen)
+{
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath("a.ppm");
+    putFile(picture, "P6\n1 1\n255\n\1\2\3");
+    const struct {
+        long call;
+        unsigned error;
+        const char* reason;
+    } kRows[] = {{SYS_landlock_restrict_self, EPERM, "Landlock"},
+                 {SYS_landlock_create_ruleset, EPERM, "Landlock"},
+                 {SYS_landlock_create_ruleset, ENOSYS, nullptr},
+                 {SYS_capset, EPERM, "capabilities"},
+#ifndef __SANITIZE_ADDRESS__ // without these two
+                 {SYS_prlimit64, EPERM, "limits"},
+                 {SYS_seccomp, EPERM, "seccomp"},
+#endif
+                 {SYS_prctl, EPERM, "no new privileges"}};
+    for (const auto& row : kRows)
+        inAChild(std::to_string(row.call), [&] {
+            refuseCall(row.call, row.error);
+            const QString wanted = row.reason ? QString("locked in (%1").arg(row.reason) : QString();
+            const LoadedPicture read = loadThroughDecoder(picture, "ppm", builtPath("velara-decode"));
+            EXPECT_EQ(read.ok(), !row.reason) << row.call;
+            EXPECT_TRUE(read.reason.contains(wanted)) << read.reason.toStdString();
+            QProcess cage;
+            cage.start(builtPath("velara-decode"), {"--cage"});
+            EXPECT_TRUE(cage.waitForFinished());
+            EXPECT_EQ(cage.exitCode(), 1);
+        });
+}
+
+// The name of the option is an extension when a picture is to be read.
+TEST(CageOfTheReader, AFileCalledLikeTheOption)
+{
+    const QTemporaryDir folder;
+    putFile(folder.filePath("x.--cage"), "text");
+    EXPECT_EQ(loadThroughDecoder(folder.filePath("x.--cage"), "--cage", builtPath("velara-decode")).reason,
+              "x.--cage can't be read: there is no reader for .--cage files");
 }
 
 } // namespace velara

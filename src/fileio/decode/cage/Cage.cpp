@@ -1,0 +1,81 @@
+#include "fileio/decode/cage/Cage.h"
+#include "fileio/decode/cage/landlock.h"
+#include "fileio/decode/cage/limits.h"
+#include "fileio/decode/cage/seccompFilter.h"
+#include <QSemaphore>
+#include <QThreadPool>
+#include <sys/prctl.h>
+
+namespace velara::decode {
+
+namespace {
+
+Closing done(bool holds) { return holds ? Closing::Holds : Closing::Failed; }
+
+Closing noNewPrivileges() { return done(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0); }
+
+/// Drawing shares large fills among threads. Here it is one, which stands in the cage from its start and lives as long
+/// as the process; from the filter on none can be made.
+[[maybe_unused]] void startTheOneThread()
+{
+    constexpr int kPatience = 2000; // ms
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    pool.setMaxThreadCount(1);
+    pool.setExpiryTimeout(-1);
+    QSemaphore runs;
+    pool.start([&runs] { runs.release(); });
+    runs.tryAcquire(1, kPatience);
+}
+
+constexpr struct {
+    Layer layer;
+    const char *name, *what;
+} kNames[] = {{NoNewPrivileges, "no new privileges", ""},
+              {Limits, "limits", " of processes, descriptors, files, memory and time"},
+              {Capabilities, "capabilities", ": none"},
+              {Landlock, "Landlock", ": no path, no port"},
+              {Seccomp, "seccomp", ": memory, the descriptors at hand and the end"}};
+
+} // namespace
+
+CageState enterCage(Needs needs, unsigned layers)
+{
+    CageState state;
+    const auto close = [&](Layer layer, auto&& how) {
+        if (!(layers & layer)) return;
+        const Closing closing = how();
+        if (closing == Closing::Holds) state.holding |= layer;
+        if (closing == Closing::Failed) state.open |= layer;
+    };
+    [[maybe_unused]] const unsigned long long memory = settleDown(); // while there are paths
+    close(NoNewPrivileges, noNewPrivileges);
+    close(Capabilities, [] { return done(dropCapabilities()); });
+    close(Landlock, [] { return closePaths({}, Ports::Shut); });
+#ifndef __SANITIZE_ADDRESS__ // the sanitizers look at memory through pipes, and report into files
+    if (needs == Needs::Drawing) startTheOneThread();
+    close(Limits, [&] { return done(limitResources(needs, memory)); });
+    close(Seccomp, [&] { return done(filterSystemCalls(needs)); });
+#endif
+    return state;
+}
+
+std::string namesOf(unsigned layers)
+{
+    std::string text;
+    for (const auto& row : kNames)
+        if (layers & row.layer) text += (text.empty() ? "" : ", ") + std::string(row.name);
+    return text;
+}
+
+std::string describeCage(const CageState& state)
+{
+    std::string text;
+    for (const auto& row : kNames)
+        text += std::string(row.name) + row.what +
+                (state.holding & row.layer ? ": holds\n"
+                 : state.open & row.layer  ? ": could not be closed\n"
+                                           : ": not on this kernel\n");
+    return text;
+}
+
+} // namespace velara::decode

@@ -1,0 +1,71 @@
+#include "fileio/decode/cage/limits.h"
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace velara::decode {
+
+namespace {
+
+bool limit(__rlimit_resource resource, rlim_t most)
+{
+    rlimit value{};
+    if (getrlimit(resource, &value) != 0) return false;
+    value.rlim_max = std::min(value.rlim_max, most);
+    value.rlim_cur = std::min(value.rlim_cur, value.rlim_max);
+    return setrlimit(resource, &value) == 0;
+}
+
+/// The number behind the word in a file of /proc; 0 when it is not there.
+unsigned long long numberIn(const char* path, const char* word)
+{
+    std::array<char, 4096> text{};
+    const int file = open(path, O_RDONLY | O_CLOEXEC);
+    if (file < 0) return 0;
+    const ssize_t size = read(file, text.data(), text.size() - 1);
+    close(file);
+    const char* found = size > 0 ? std::strstr(text.data(), word) : nullptr;
+    return found ? std::strtoull(found + std::strlen(word), nullptr, 10) : 0;
+}
+
+} // namespace
+
+unsigned long long settleDown()
+{
+    if (chdir("/") != 0) return 0;
+    const int file = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC);
+    [[maybe_unused]] const ssize_t done = write(file, "1000", 4); // a courtesy, not a lock
+    close(file);
+    constexpr unsigned long long kLeast = 256ULL << 10; // KB: enough for most pictures
+    const auto free = numberIn("/proc/meminfo", "MemAvailable:"), taken = numberIn("/proc/self/status", "VmSize:");
+    return free == 0 ? kMostMemory : std::min(kMostMemory, (taken + std::max(free, kLeast)) << 10);
+}
+
+bool limitResources(Needs needs, unsigned long long memory)
+{
+    const int next = dup(0); // behind all that are open
+    if (next >= 0) close(next);
+    constexpr int kFontsAtATime = 16;
+    const auto descriptors = needs == Needs::Nothing ? 0 : static_cast<rlim_t>(next + kFontsAtATime);
+    return limit(RLIMIT_AS, memory) && limit(RLIMIT_CPU, kMostProcessorTime) && limit(RLIMIT_CORE, 0) &&
+           limit(RLIMIT_FSIZE, 0) && limit(RLIMIT_NOFILE, descriptors) && limit(RLIMIT_NPROC, 0);
+}
+
+bool dropCapabilities()
+{
+    for (int i = 0; prctl(PR_CAPBSET_READ, i, 0, 0, 0) >= 0; ++i)
+        if (prctl(PR_CAPBSET_DROP, i, 0, 0, 0) != 0 && errno != EPERM) return false; // who can't gain any can't drop it
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    const std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> none{};
+    return syscall(SYS_capset, &header, none.data()) == 0;
+}
+
+} // namespace velara::decode

@@ -1,0 +1,101 @@
+#include "fileio/decode/cage/seccompFilter.h"
+#include "fileio/load/DecodeProtocol.h"
+#include <cerrno>
+#include <fcntl.h>
+#include <linux/futex.h>
+#include <memory>
+#include <seccomp.h>
+#include <sys/mman.h>
+
+namespace velara::decode {
+
+namespace {
+
+// clang-format off
+/// Memory, clocks, and what the C library does by itself.
+constexpr int kAlways[] = {
+    SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(sysinfo), SCMP_SYS(sched_yield),
+    SCMP_SYS(sched_getaffinity), SCMP_SYS(getrandom), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
+    SCMP_SYS(nanosleep), SCMP_SYS(clock_nanosleep), SCMP_SYS(rt_sigreturn), SCMP_SYS(restart_syscall),
+    SCMP_SYS(exit), SCMP_SYS(exit_group),
+};
+
+/// Of the descriptors at hand, which are fonts.
+constexpr int kForFonts[] = {
+    SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(lseek), SCMP_SYS(close), SCMP_SYS(fstat), SCMP_SYS(fstatfs),
+    SCMP_SYS(fadvise64), SCMP_SYS(getuid), SCMP_SYS(geteuid), SCMP_SYS(getpid), SCMP_SYS(gettid),
+    SCMP_SYS(rt_sigprocmask),
+};
+
+/// Calls by path, which OpenFonts answers.
+constexpr int kAnswered[] = {
+    SCMP_SYS(open), SCMP_SYS(openat), SCMP_SYS(stat), SCMP_SYS(lstat), SCMP_SYS(newfstatat), SCMP_SYS(access),
+    SCMP_SYS(faccessat), SCMP_SYS(readlink), SCMP_SYS(readlinkat), SCMP_SYS(statfs), SCMP_SYS(chmod), SCMP_SYS(mkdir),
+    SCMP_SYS(unlink), SCMP_SYS(rename), SCMP_SYS(link),
+};
+// clang-format on
+
+/// Giving memory back and asking for huge pages; what else there is changes how memory is shared, locked or poisoned.
+constexpr unsigned kAdvices[] = {MADV_DONTNEED, MADV_FREE, MADV_HUGEPAGE};
+/// Waiting and waking. Moving waiters and lending priorities have been ways into kernels.
+constexpr unsigned kWaits[] = {FUTEX_WAIT, FUTEX_WAKE, FUTEX_WAIT_BITSET, FUTEX_WAKE_BITSET};
+constexpr unsigned kHowToWait = FUTEX_PRIVATE_FLAG | FUTEX_CLOCK_REALTIME;
+constexpr unsigned kOfDescriptors[] = {F_DUPFD_CLOEXEC, F_GETFD, F_SETFD, F_GETFL};
+
+using Filter = std::unique_ptr<void, decltype(&seccomp_release)>;
+
+/// Nothing that would make memory run as code.
+bool allowPlainMemory(scmp_filter_ctx filter)
+{
+    const auto notCode = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
+    return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(mmap), 1, notCode) == 0 &&
+           seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(mprotect), 1, notCode) == 0;
+}
+
+/// The line to the parent, and the chatter of libraries on the standard descriptors.
+bool allowTalk(scmp_filter_ctx filter)
+{
+    const auto onSocket = SCMP_A0(SCMP_CMP_EQ, kSocket);
+    const auto onStandard = SCMP_A0(SCMP_CMP_LE, 2);
+    // No destination: only to the other end.
+    return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(sendto), 2, onSocket, SCMP_A4(SCMP_CMP_EQ, 0)) == 0 &&
+           seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(recvfrom), 1, onSocket) == 0 &&
+           seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(write), 1, onStandard) == 0 &&
+           seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(writev), 1, onStandard) == 0;
+}
+
+bool allowWords(scmp_filter_ctx filter)
+{
+    bool ok = true;
+    for (const unsigned advice : kAdvices)
+        ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(madvise), 1, SCMP_A2(SCMP_CMP_EQ, advice)) == 0;
+    for (const unsigned wait : kWaits)
+        ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(futex), 1,
+                               SCMP_A1(SCMP_CMP_MASKED_EQ, ~kHowToWait, wait)) == 0;
+    return ok;
+}
+
+bool allowFonts(scmp_filter_ctx filter)
+{
+    bool ok = true;
+    for (const int call : kForFonts) ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
+    for (const int call : kAnswered) ok &= seccomp_rule_add(filter, SCMP_ACT_TRAP, call, 0) == 0;
+    for (const unsigned command : kOfDescriptors)
+        ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1, SCMP_A1(SCMP_CMP_EQ, command)) == 0;
+    return ok;
+}
+
+} // namespace
+
+bool filterSystemCalls(Needs needs)
+{
+    const Filter filter(seccomp_init(SCMP_ACT_KILL_PROCESS), &seccomp_release);
+    if (!filter) return false;
+    bool ok = seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 && allowPlainMemory(filter.get()) &&
+              allowTalk(filter.get()) && allowWords(filter.get());
+    for (const int call : kAlways) ok &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0) == 0;
+    if (needs != Needs::Nothing) ok &= allowFonts(filter.get());
+    return ok && seccomp_load(filter.get()) == 0;
+}
+
+} // namespace velara::decode
