@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-sanitize fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -17,6 +17,10 @@ run: all
 
 test: all check-format
 	ctest --test-dir $(RELEASE) --output-on-failure -j $(JOBS)
+
+# make test on a Debian that has nothing but make: a scratch root with a clone of HEAD. Ten minutes; whenever packages.txt changes.
+test-fresh:
+	@scripts/test_fresh.sh
 
 test-sanitize: setup
 	cmake --preset sanitize >/dev/null
