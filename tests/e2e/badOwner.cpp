@@ -4,6 +4,7 @@
 //   drip FILE BYTES  image/bmp, in pieces of so many bytes, twenty a second
 #include <QByteArray>
 #include <QFile>
+#include <cstdio>
 #include <cstring>
 #include <unistd.h>
 #include <vector>
@@ -57,7 +58,9 @@ int main(int, char** argv)
     xcb_create_window(x, 0, own, xcb_setup_roots_iterator(xcb_get_setup(x)).data->root, 0, 0, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0, nullptr);
     xcb_set_selection_owner(x, own, clipboard, XCB_CURRENT_TIME);
-    xcb_flush(x);
+    xcb_get_selection_owner_reply(x, xcb_get_selection_owner(x, clipboard), nullptr);
+    std::puts("the clipboard is ours");
+    std::fflush(stdout);
     qsizetype at = 0; // of the piece that is next
     while (xcb_generic_event_t* event = xcb_wait_for_event(x)) {
         const auto* gone = reinterpret_cast<xcb_property_notify_event_t*>(event);

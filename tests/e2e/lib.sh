@@ -12,7 +12,8 @@ export ASAN_OPTIONS=detect_leaks=0:exitcode=99
 export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus
 unset QT_QPA_PLATFORM WAYLAND_DISPLAY XDG_SESSION_TYPE QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
 pids=""
-editor=""
+editor="" main="" # its process and the frame's window
+seed=${VELARA_SEED:-$(od -An -N2 -tu2 /dev/urandom | tr -d ' ')} # of what is random
 
 finish() {
     status=$?
@@ -27,21 +28,25 @@ finish() {
 trap finish EXIT
 
 fail() {
-    echo "FAILED: $*" >&2
+    echo "FAILED: $* (VELARA_SEED=$seed)" >&2
     cat "$scratch/log" >&2 2>/dev/null || true
     exit 1
 }
 
-# until WHAT COMMAND...: waits up to half a minute for the command to succeed
+# until WHAT COMMAND...: waits for the command to succeed, as long as a loaded machine may need
 until_true() {
     what=$1
+    patience=$(($(date +%s) + 120))
     shift
-    for _ in $(seq 600); do
-        if "$@" >/dev/null 2>&1; then return 0; fi
+    until "$@" >/dev/null 2>&1; do
+        [ "$(date +%s)" -lt "$patience" ] || fail "waited in vain: $what"
         sleep 0.05
     done
-    fail "waited in vain: $what"
 }
+# The window manager and the editor have handled what was sent to them so far.
+settled() { "$bin/settled" "$main" || fail "the editor doesn't answer"; }
+# noise BYTES: random ones, of the seed
+noise() { python3 -c 'import random as r, sys; r.seed(int(sys.argv[1])); sys.stdout.buffer.write(r.randbytes(int(sys.argv[2])))' "$seed" "$1"; }
 
 # -noreset: a server that resets when its last client leaves takes the window manager that is just connecting with it.
 Xvfb -noreset -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
@@ -57,6 +62,10 @@ running() { kill -0 "$editor" 2>/dev/null; }
 gone() { ! running; }
 has_window() { xdotool search --onlyvisible --name "$1"; }
 no_window() { ! has_window "$1"; }
+# The window with that title has the keys
+has_keys() { xdotool getactivewindow getwindowname | grep -q "$1"; }
+frame_has_keys() { [ "$(xdotool getactivewindow)" = "$main" ]; }
+box_has_keys() { has_keys '^Velara Studio' && ! frame_has_keys; }
 
 # The editor's windows that are titled like the frame: the frame and its boxes
 titled() { xdotool search --all --onlyvisible --pid "$editor" --name '^Velara Studio' 2>/dev/null; }
@@ -67,12 +76,13 @@ frame() { titled | head -1; }
 undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
 documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
 
+# The frame has the keys; it stays, as the picture of the start doesn't.
+started() { main=$(frame) && [ -n "$main" ] && settled && frame_has_keys && [ "$(titled)" = "$main" ]; }
 start() {
     (cd "$folder" && exec ./velara-studio) >"$scratch/log" 2>&1 &
     editor=$!
     pids="$pids $editor"
-    until_true "the frame" count_titled 1
-    sleep 0.4
+    until_true "the frame" started
 }
 
 # A frame of 900 by 700 pixels without boxes and bars, which asks no questions: strip and picture lie still.
@@ -90,7 +100,7 @@ start_plain() {
 # tool COLUMN ROW: presses a button of the strip
 tool() {
     xdotool mousemove --window "$(frame)" $((24 + $1 * 34)) $((40 + $2 * 31)) click 1
-    sleep 0.2
+    settled
 }
 
 # offer TYPE FILE: another program's clipboard
@@ -104,7 +114,7 @@ offer() {
 keys() {
     for key in "$@"; do
         xdotool key --clearmodifiers "$key"
-        sleep 0.12
+        settled
     done
 }
 
@@ -114,19 +124,22 @@ brings() {
     shift
     keys "$@"
     until_true "$title" has_window "^$title\$"
-    sleep 0.3
+    until_true "the keys of $title" has_keys "^$title\$"
+    settled
 }
 
 # enter TEXT: in place of what stands in the line, and Return
 enter() {
     xdotool key ctrl+a
     xdotool type --delay 4 "$1"
+    settled
     keys Return
 }
 
 # told WHAT: a message box beside the frame, which Return takes away
 told() {
     until_true "the message about $1" count_titled 2
+    until_true "its keys" box_has_keys
     keys Return
     until_true "the message about $1 to go" count_titled 1
 }
@@ -136,19 +149,23 @@ stroke() {
     xdotool mousemove "$1" "$2" mousedown 1
     while [ $# -gt 2 ]; do
         shift 2
-        sleep 0.1
+        settled
         xdotool mousemove "$1" "$2"
     done
-    sleep 0.1
+    settled
     xdotool mouseup 1
+    settled
 }
 
-# open FILE: by the file dialog
+# open FILE: by the file dialog; it stands, or there is a message about it
+opened() { [ -n "$(find "$folder/Temp" -name 'b*00.dat' -size +0 -newer "$scratch/asked")" ] || ! count_titled 1; }
 open_file() {
     brings 'Open file' ctrl+o
+    touch "$scratch/asked"
     enter "$1"
     until_true "the open dialog to close" no_window '^Open file$'
-    sleep 0.3
+    until_true "$1 to be open" opened
+    settled
 }
 
 save_as() {
@@ -156,7 +173,7 @@ save_as() {
     enter "$1"
     until_true "the saved file" test -s "$1"
     until_true "the save dialog to close" no_window '^Save as$'
-    sleep 0.2
+    settled
 }
 
 quit() {

@@ -7,7 +7,7 @@ open_large() {
     open_file "$1"
     keys ctrl+plus ctrl+plus ctrl+plus
     xdotool mousemove 600 20
-    sleep 0.5
+    settled
     import -window root "$scratch/screen.png"
     box=$(convert "$scratch/screen.png" -fill "$2" -opaque "${3:-$2}" -fill black +opaque "$2" -format '%@' info:)
     [ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ] || fail "the picture is $box on the screen"
@@ -18,11 +18,11 @@ over() { echo $((left + $1 * zoom + zoom / 2)) $((top + $2 * zoom + zoom / 2)); 
 # drag X1 Y1 X2 Y2, in picture pixels
 drag() {
     stroke $(over "$1" "$2") $(over $((($1 + $3) / 2)) $((($2 + $4) / 2))) $(over "$3" "$4")
-    sleep 0.25
 }
 
 step() { echo "$folder/Temp/b00010$1.dat"; }
-saved() { until_true "step $1" test -s "$(step "$1")"; sleep 0.2; }
+whole() { [ "$(stat -c %s "$1")" = $((40 + (W + 4) * (H + 4) * 4)) ]; }
+saved() { until_true "step $1" whole "$(step "$1")"; settled; }
 # is STEP X Y COLOUR, blue green red
 is() {
     got=$(od -An -tu1 -j $((40 + (($3 + 2) * (W + 4) + $2 + 2) * 4)) -N 3 "$(step "$1")" | tr -s ' ' | sed 's/^ //')

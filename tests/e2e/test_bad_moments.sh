@@ -3,8 +3,9 @@
 . "$(dirname "$0")/lib.sh"
 
 # A configuration of zeros, then of noise: the frame is there, of a size to work with.
-for source in /dev/zero /dev/urandom; do
-    head -c 3081 $source >"$folder/Vlaera.dat"
+zeros() { head -c "$1" /dev/zero; }
+for source in zeros noise; do
+    $source 3081 >"$folder/Vlaera.dat"
     start
     width=$(xdotool getwindowgeometry --shell "$(frame)" | sed -n 's/WIDTH=//p')
     [ "$width" -ge 320 ] || fail "a frame of $width pixels from $source"

@@ -63,16 +63,14 @@ box=$(xdotool search --onlyvisible --name '^Textures: Emboss$')
 xdotool windowmove --sync "$box" 20 20
 xdotool windowactivate --sync "$box"
 keys alt+e
-sleep 0.3
-browse alt+d
-mkdir "$folder/Textures/Cloth"
+mkdir -p "$folder/Textures/Cloth"
 convert -size 64x64 plasma:red-blue -colorspace gray "BMP3:$folder/Textures/Cloth/linen.bmp"
-sleep 0.5 # the tree follows the disk
+browse alt+d
 xdotool type --delay 30 clo
-sleep 0.2
+settled
 keys Return
 until_true "the choice to close" closed
-sleep 0.3
+settled
 [ "$(areas '#fe12ab')" = 1 ] || fail "the pink picture is seen $(areas '#fe12ab') times"
 xdotool mousemove --window "$box" 55 302 click --repeat 2 --delay 60 1 # the first file of the list
 until_true "the picture with the texture" shows '#fe12ab' 0

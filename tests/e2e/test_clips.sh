@@ -14,7 +14,7 @@ told "the selection"
 convert -size 6x6 'xc:#0000ff' PNG32:- | xclip -selection clipboard -t image/png -i
 keys ctrl+v
 xdotool mousemove $(over 40 30)
-sleep 0.2
+settled
 xdotool mousemove $(over 41 30) click 1
 saved 1
 is 1 39 28 '255 0 0'
@@ -24,7 +24,6 @@ is 1 50 30 "$plain"
 tool 2 0 # Select
 drag 8 8 18 18
 keys ctrl+c
-sleep 0.3
 xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
 [ "$(identify -format '%wx%h' "$scratch/clip.png")" = 10x10 ] || fail "the clip is $(identify "$scratch/clip.png")"
 [ "$(convert "$scratch/clip.png" -format '%[hex:p{3,3}]' info:)" = 00FF00FF ] || fail "the clip's pixel"
@@ -32,16 +31,15 @@ xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
 # It follows the pointer, Space fixes it, another place by Space, Esc drops it: one step each.
 keys ctrl+v
 xdotool mousemove $(over 30 20)
-sleep 0.15
+settled
 xdotool mousemove $(over 31 20)
-sleep 0.2
+settled
 keys space
 saved 2
 is 2 28 17 "$green" # the hot spot is the middle and one more: 31 - 6 + 2 and on
 xdotool mousemove $(over 50 40)
-sleep 0.2
+settled
 keys Escape
-sleep 0.3
 [ ! -e "$(step 3)" ] || fail "Esc has left a step"
 
 # Cut: black where it was, and one step.
@@ -57,9 +55,9 @@ brings 'Clip History' l
 box=$(xdotool search --onlyvisible --name '^Clip History$')
 xdotool windowmove --sync "$box" 920 100
 xdotool mousemove --window "$box" 100 25 click 1
-sleep 0.3
+settled
 xdotool mousemove $(over 50 12)
-sleep 0.15
+settled
 xdotool mousemove $(over 51 12) click 1
 saved 4
 is 4 48 9 "$green"

@@ -32,8 +32,8 @@ until_true "the ground of the centred picture" root_pixel 1225 800 000000
 # captured N: as the Nth document, with the frame back
 captured() {
     until_true "document $1" test -s "$folder/Temp/b000${1}00.dat"
-    until_true "the frame back" has_window '^Velara Studio'
-    sleep 0.5
+    until_true "the frame back" frame_has_keys
+    settled
 }
 # quick KEY N FILE: what an item of the menu of quick captures gives
 quick() {
@@ -45,7 +45,6 @@ quick() {
 pick() {
     brings 'Capture Screen' alt+t s
     brings 'Capture Rectangle' "$1" alt+u
-    sleep 0.2
 }
 
 # The desktop without any window, which shows the picture in its middle.
@@ -74,8 +73,7 @@ known=12AB34
 convert -size 120x90 "xc:#$known" "$scratch/known.png"
 display -geometry +1000+720 "$scratch/known.png" >/dev/null 2>&1 &
 pids="$pids $!"
-until_true "the other program's window" has_window 'known.png'
-sleep 0.4
+until_true "the other program's window" has_keys 'known.png'
 eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name 'known.png' | head -1)" | grep '^[XY]=')"
 xdotool windowactivate --sync "$(frame)"
 quick b 5 "$scratch/background.bmp"
@@ -101,12 +99,11 @@ until_true "the frame back" has_window '^Velara Studio'
 xdotool windowactivate --sync "$(frame)"
 brings Acquire alt+f e a
 scanned() {
-    has_window '^Acquire$' && xdotool key Return
-    sleep 0.4
+    has_window '^Acquire$' && keys Return
     [ -s "$folder/Temp/b000800.dat" ]
 }
 until_true "a scan" scanned
-sleep 0.3
+until_true "the frame back" frame_has_keys
 save_as "$scratch/scan.bmp"
 scanimage -d test:0 --mode Color --resolution 50 -l 0 -t 0 -x 200 -y 200 --format=pnm >"$scratch/wanted.pnm" 2>/dev/null
 same "$scratch/scan.bmp" "$scratch/wanted.pnm" || fail "another picture than the scanner gives"

@@ -10,7 +10,7 @@ done
 [ ! -s "$folder/Vlaera.dat" ] || fail "the configuration is filled before the end"
 
 until_true "the boxes" has_window '^Select Color'
-sleep 0.5
+settled
 for name in Textures Clip Select; do
     xwininfo -frame -id "$(xdotool search --onlyvisible --name "^$name")" |
         awk '/Absolute/ {at = at " " $4} /Width:|Height:/ {at = at " " $2} END {print at}'

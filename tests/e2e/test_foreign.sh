@@ -14,6 +14,7 @@ pure() {
     foreign=$(grep -o '[^/]*/imageformats/.*' "/proc/$editor/maps" | sort -u | tr '\n' ' ')
     [ -z "$foreign" ] || fail "$1: $foreign"
 }
+readers_gone() { ! pgrep -P "$editor"; }
 start_plain
 pure "the start"
 
@@ -24,7 +25,6 @@ for extension in png gif jpg tif ico cur pcx tga ppm wbmp; do
     until_true "in.$extension" documents $count
 done
 open_file "$scratch/broken.png"
-sleep 0.3
 pure "files"
 
 offer image/png "$scratch/in.png"
@@ -38,18 +38,19 @@ pure "the clipboard"
 
 keys alt+t q d # the desktop, by way of New.bmp
 until_true "the captured desktop" documents $((count + 2))
-sleep 0.5
+until_true "the frame back" frame_has_keys
 pure "New.bmp"
 
 # The first stamp of the folder is a GIF of another name; the folder's textures are drawn small.
 tool 2 1
-sleep 0.5
+until_true "no reader" readers_gone
 pure "a stamp"
 mkdir -p "$folder/Textures"
 cp "$scratch"/in.* "$scratch/broken.png" "$folder/Textures/"
 keys alt+t m
 until_true "the dialog of textures" has_window 'Textur'
-sleep 1
+settled
+until_true "no reader" readers_gone
 pure "textures"
 keys Escape
 xdotool mousemove 900 600 # off the strip, whose pop-up would lie in the way
@@ -59,10 +60,10 @@ pids="$pids $!"
 until_true "the source" has_window '^drag source$'
 source=$(xdotool search --onlyvisible --name '^drag source$')
 xdotool windowmove --sync "$source" 1000 10
-sleep 0.3
+settled
 stroke 1060 90 1000 400 900 400 800 400 705 400 700 400
 until_true "the dropped files" documents $((count + 4))
-sleep 0.3
+settled
 documents $((count + 4)) || fail "a file was opened that is not taken"
 pure "a drop"
 xdotool windowactivate --sync "$(frame)"

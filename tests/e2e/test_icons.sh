@@ -7,17 +7,15 @@ display -geometry +700+500 "$scratch/gradient.png" >/dev/null 2>&1 &
 pids="$pids $!"
 until_true "the other program's window" has_window 'gradient.png'
 start
-sleep 0.3
 other=$(xdotool search --onlyvisible --name 'gradient.png' | head -1)
 
 # No document: the lower half works. What stands behind the frame is captured.
 brings 'Extract Icon' alt+t o
 brings 'Icon Maker' b alt+g
 no_window '^Velara Studio' || fail "the frame stands in the way"
-sleep 0.5
+settled
 import -window root "$scratch/screen.png"
 stroke 400 300 600 450 760 560
-sleep 0.1
 keys Return minus Right shift+Down Return
 [ ! -e "$folder/1Velara.ico" ] || fail "it is saved too early"
 keys Escape

@@ -3,6 +3,7 @@
 # the next start works, and the next save takes away what the killed one left. KILLS=200 for the long run.
 . "$(dirname "$0")/lib.sh"
 kills=${KILLS:-5}
+RANDOM=$seed
 mkdir "$scratch/pictures"
 picture=$scratch/pictures/picture.bmp
 convert -size 3000x2200 plasma:red-blue -type truecolor "BMP3:$scratch/one.bmp"

@@ -8,7 +8,6 @@ export CUPS_SERVER="$scratch/run/no-server" # there are no printers here
 start
 open_file "$scratch/in.bmp"
 brings Print ctrl+p
-sleep 0.2
 if [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/print.png"; fi
 brings 'Print to file' Return
 enter "$scratch/page"

@@ -20,6 +20,8 @@ begin() {
     brings 'Open file' ctrl+o
     enter "$1"
     until_true "the box" reading
+    until_true "its keys" box_has_keys
+    settled
 }
 reading() { [ "$(titled | wc -l)" = 2 ] && pgrep -P "$editor" >/dev/null; }
 given_up() { ! pgrep -P "$editor" >/dev/null; }
@@ -29,16 +31,14 @@ refused() { # no reader any more, and the message that it can't be read
 }
 start
 begin "$scratch/endless.gif"
-sleep 0.3
 from=$(now)
 xdotool key Escape
 until_true "no reader" given_up
 took=$(($(now) - from))
-[ "$took" -lt 1000 ] || fail "giving up took $took ms"
+[ "$took" -lt 5000 ] || fail "giving up took $took ms"
 refused "what Esc gave up"
 
 begin "$scratch/endless.gif"
-sleep 0.3
 keys alt+F4
 refused "what the box's own close gave up"
 

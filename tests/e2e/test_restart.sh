@@ -3,8 +3,8 @@
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 gradient:red-blue "$scratch/in.bmp"
 start
-xdotool windowsize --sync "$(frame)" 900 640 windowmove "$(frame)" 130 90
-sleep 0.3
+xdotool windowsize --sync "$(frame)" 900 640 windowmove --sync "$(frame)" 130 90
+settled
 keys alt+v b e # hides the Effects bar
 open_file "$scratch/in.bmp"
 size() { xdotool getwindowgeometry --shell "$(frame)" | grep -E '^(X|Y|WIDTH|HEIGHT)' | tr '\n' ' '; }
@@ -24,12 +24,15 @@ second=$!
 pids="$pids $second"
 editor=$second
 until_true "the message" count_titled 1 # the frame comes after it
-sleep 0.3
+main=$(frame)
+until_true "its keys" frame_has_keys
 width() { xdotool getwindowgeometry --shell "$(frame)" | sed -n 's/WIDTH=//p'; }
 [ "$(width)" -lt 600 ] || fail "no message of the second instance"
 keys Return
 wide() { [ "$(width)" -ge 600 ]; }
 until_true "the second frame" wide
-sleep 0.3
+main=$(frame)
+until_true "its keys" frame_has_keys
+settled
 kill -0 "$first" || fail "the first instance went"
 quit

@@ -9,7 +9,6 @@ open_large "$scratch/in.bmp" '#ff00ff'
 back() {
     undo_files 2 || fail "more than a step: $(ls "$folder/Temp")"
     keys ctrl+z
-    sleep 0.2
     rm "$(step 1)"
 }
 
@@ -32,7 +31,7 @@ done
 # Moves that wait while the editor has no time for them are not merged: the corner of the stroke stays.
 tool 0 2
 xdotool mousemove $(over 5 40) mousedown 1
-sleep 0.2
+settled
 kill -STOP "$editor"
 xdotool mousemove $(over 20 5) mousemove $(over 40 40) mouseup 1
 kill -CONT "$editor"
@@ -62,11 +61,11 @@ back
 # The right button takes a drag back, and no step is taken.
 tool 0 1
 xdotool mousemove $(over 4 4) mousedown 1 mousemove $(over 40 30)
-sleep 0.1
+settled
 xdotool mousedown 3 mouseup 3
-sleep 0.2
+settled
 xdotool mouseup 1
-sleep 0.3
+settled
 [ ! -e "$(step 1)" ] || fail "the right button has left a step"
 
 tool 0 0 # GetColor
