@@ -32,15 +32,4 @@ Job sizeJob(const SizeWord& w)
 
 After afterOf(const SizeWord& word) { return word.kind == SizeWord::Rotate ? After::Step : After::Sizing; }
 
-Job endable(Job job, std::function<bool()> ended)
-{
-    return [job = std::move(job), ended = std::move(ended)](Document& draft, cBitFilter& filter) {
-        filter.Progress = [report = filter.Progress, ended](int percent) {
-            if (report) report(percent);
-            if (ended()) throw Cancelled();
-        };
-        job(draft, filter);
-    };
-}
-
 } // namespace velara

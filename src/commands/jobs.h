@@ -19,8 +19,4 @@ Job filterJob(const FilterRow& row, const FilterArgs& args);
 Job sizeJob(const SizeWord& word);
 After afterOf(const SizeWord& word);
 
-/// The job, ended by Cancelled at the first report of progress for which ended() is true. For a dialog that can be left
-/// while its filter runs; ended must be safe to call after the dialog is gone.
-Job endable(Job job, std::function<bool()> ended);
-
 } // namespace velara

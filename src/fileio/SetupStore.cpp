@@ -5,8 +5,8 @@
 #include <QFile>
 #include <algorithm>
 #include <cstring>
-#include <optional>
 #include <type_traits>
+#include <vector>
 
 namespace velara {
 
@@ -93,7 +93,7 @@ struct Field {
     int offset, width, count; // width: bytes of one element
     Default byDefault;
     void (*write)(const Field&, const Setup&, std::uint8_t* record);
-    void (*read)(const Field&, Setup&, const std::uint8_t* record);
+    void (*read)(const Field&, Setup&, std::span<const std::uint8_t> record);
     void (*setDefault)(const Field&, Setup&);
 };
 
@@ -111,8 +111,11 @@ template <auto Member> constexpr Field field(int offset, int width, Default byDe
         [](const Field& f, const Setup& s, std::uint8_t* record) {
             eachElement(s.*Member, [&](const auto& e, int i) { put(e, record + f.offset + i * f.width, f.width); });
         },
-        [](const Field& f, Setup& s, const std::uint8_t* record) {
-            eachElement(s.*Member, [&](auto& e, int i) { get(e, record + f.offset + i * f.width, f.width); });
+        [](const Field& f, Setup& s, std::span<const std::uint8_t> record) {
+            eachElement(s.*Member, [&](auto& e, int i) {
+                const auto from = static_cast<std::size_t>(f.offset + i * f.width);
+                if (from + static_cast<std::size_t>(f.width) <= record.size()) get(e, record.data() + from, f.width);
+            });
         },
         [](const Field& f, Setup& s) { eachElement(s.*Member, [&](auto& e, int i) { reset(e, f.byDefault, i); }); }};
 }
@@ -204,22 +207,21 @@ static_assert(lengthWithoutGaps() == kSetupBytes);
 
 QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
 
-/// The record in the file, zeros for what is missing; nothing when it can't be read.
-std::optional<SetupRecord> recordOf(const QString& path)
+/// What the file has of the record; nothing when it can't be read, or holds no more than zeros: no run wrote that, but
+/// a machine that lost its power may leave it.
+std::vector<std::uint8_t> recordOf(const QString& path)
 {
     FileReader file(path);
-    if (file.size() < 0) return {};
-    SetupRecord record{};
-    const auto length = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kSetupBytes));
-    if (!file.read({record.data(), length})) return {};
-    return record;
+    std::vector<std::uint8_t> record(static_cast<std::size_t>(std::clamp<std::int64_t>(file.size(), 0, kSetupBytes)));
+    const bool isWritten =
+        file.read(record) && std::ranges::any_of(record, [](std::uint8_t byte) { return byte != 0; });
+    return isWritten ? record : std::vector<std::uint8_t>();
 }
 
-Setup defaultSetup(Platform& platform)
+/// The fields that lie in the bytes as a whole; the others stay.
+void readFields(Setup& setup, std::span<const std::uint8_t> bytes)
 {
-    Setup setup;
-    setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
-    return setup;
+    for (const Field& f : kFields) f.read(f, setup, bytes);
 }
 
 } // namespace
@@ -237,32 +239,33 @@ SetupRecord setupBytes(const Setup& setup, SetupRecord record)
 
 Setup setupFromBytes(std::span<const std::uint8_t> bytes)
 {
-    SetupRecord record{};
-    std::copy_n(bytes.begin(), std::min(bytes.size(), record.size()), record.begin());
     Setup setup;
-    for (const Field& f : kFields) f.read(f, setup, record.data());
+    readFields(setup, bytes);
     return setup;
 }
 
 Setup LoadSetup(Platform& platform)
 {
     const QString path = setupPath(platform);
-    bool needDefaults = !FileFound(path);
-    if (!needDefaults && path.isEmpty()) { // odd, and it stays: the path is looked at and not the file, so never
+    if (FileFound(path) && path.isEmpty()) { // odd, and it stays: the path is looked at and not the file, so never
         platform.tell(QStringLiteral("Configuration data file is corrupted\r\nValues will be initilized"),
                       Icon::Exclamation);
         QFile::remove(path);
-        needDefaults = true;
     }
-    if (needDefaults) overwriteFile(path, {}); // an empty file until the frame closes
-    const auto record = needDefaults ? std::nullopt : recordOf(path);
-    return record ? setupFromBytes(*record) : defaultSetup(platform);
+    Setup setup;
+    setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
+    const std::vector<std::uint8_t> record = recordOf(path);
+    readFields(setup, record);
+    if (record.size() < kSetupBytes) SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
+    return setup;
 }
 
 bool SaveSetup(Platform& platform, const Setup& setup)
 {
     const QString path = setupPath(platform);
-    return overwriteFile(path, setupBytes(setup, recordOf(path).value_or(SetupRecord{})));
+    SetupRecord before{};
+    std::ranges::copy(recordOf(path), before.begin());
+    return overwriteFile(path, setupBytes(setup, before));
 }
 
 void AddRecent(Setup& setup, const QString& path)

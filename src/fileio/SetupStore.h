@@ -13,15 +13,15 @@ class Platform;
 constexpr int kSetupBytes = 3081;
 using SetupRecord = std::array<std::uint8_t, kSetupBytes>;
 
-/// The record of the file. Without a file the defaults, and an empty file is left behind; what a short file lacks is
-/// zero, so an empty one that an earlier run left gives zeros throughout. Any content is safe.
+/// The record of the file; what a short one lacks, or there is none, has its default, and the whole is written at once.
+/// Any content is safe.
 Setup LoadSetup(Platform& platform);
 /// Over the first bytes of the file, for the user alone; what a longer file holds behind them stays, and so do the
 /// bytes of a text that isn't UTF-8 and was not edited. On failure false, and the old file is whole.
 bool SaveSetup(Platform& platform, const Setup& setup);
 
-/// The record as it lies in the file, over the one that is there, and back; bytes that are missing count as zero,
-/// further ones are not looked at.
+/// The record as it lies in the file, over the one that is there, and back; a field of which bytes are missing has its
+/// default, further ones are not looked at.
 SetupRecord setupBytes(const Setup& setup, SetupRecord before = {});
 Setup setupFromBytes(std::span<const std::uint8_t> bytes);
 

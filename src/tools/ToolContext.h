@@ -36,6 +36,7 @@ struct ToolContext {
     bool connect = false;                   // the stroke has placed its first dab
     bool corner = false;                    // Space has set a corner in this drag
     bool polygon = false;                   // a polygon selection is half made, under the button or not
+    int begun = 0, dropped = 0;             // drags so far, and gestures that were let go of
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
     Region before, wiped;                   // the selection as a gesture found it, and as its press left it
     std::int32_t colourBefore = 0;          // the colour that the pipette found

@@ -65,6 +65,7 @@ void Tools::press(int button, int x, int y)
         active_ = nullptr;
         if (const ToolRow* row = chosen()) {
             active_ = &row->tool();
+            ++c.begun;
             c.surface.setPointer(row->pointer);
             bool taken = false;
             if (!guarded([&] { taken = active_->press(c); })) return;
@@ -102,8 +103,12 @@ void Tools::release(int button, int x, int y)
     }
     c.at = {x, y};
     if (button == Left && c.down && active_) {
-        if (!guarded([&] { active_->release(c); })) return;
-        open_ = active_->unfinished(c) ? active_ : nullptr;
+        const Tool* const holder = active_;
+        const int drag = c.begun;
+        c.down = false; // a second release ends the drag and commits nothing
+        if (!guarded([&] { holder->release(c); })) return;
+        if (active_ != holder || c.begun != drag) return; // dropped while it yielded, or another has begun
+        open_ = holder->unfinished(c) ? holder : nullptr;
     } else if (button == Right) {
         cancel();
     }
@@ -115,6 +120,7 @@ void Tools::release(int button, int x, int y)
 void Tools::cancel()
 {
     ToolContext& c = context_;
+    ++c.dropped;
     if (const Tool* gesture = underWay()) gesture->cancel(c);
     open_ = nullptr;
     if (c.frame.engineHolds(c.document)) guarded([&] { c.preview.restore(); });

@@ -1,5 +1,6 @@
 #!/bin/sh
-# A first start in an empty folder, and the road of one picture: open, filter, undo, redo, save.
+# A first start in an empty folder, which is killed; the second has everything all the same. And the road of one picture:
+# open, filter, undo, redo, save.
 . "$(dirname "$0")/lib.sh"
 start
 for made in Stamps/Velara1.bmp Stamps/Velara8.bmp Images/Velara.bmp Vlaera.dat; do
@@ -7,7 +8,11 @@ for made in Stamps/Velara1.bmp Stamps/Velara8.bmp Images/Velara.bmp Vlaera.dat; 
 done
 [ -d "$folder/Temp" ] || fail "no Temp folder"
 [ -s "${folder}logo.bmp" ] || fail "no logo beside the folder"
-[ ! -s "$folder/Vlaera.dat" ] || fail "the configuration is filled before the end"
+kill -KILL "$editor"
+wait "$editor" 2>/dev/null || true
+has_configuration() { [ "$(stat -c %s "$folder/Vlaera.dat")" = 3081 ] || fail "the configuration has a wrong length"; }
+has_configuration
+start
 
 until_true "the boxes" has_window '^Select Color'
 settled
@@ -31,4 +36,7 @@ keys ctrl+y
 saves "$scratch/redone.bmp" "$scratch/negative.png" "redo did not bring the filter back"
 quit
 undo_files 0 || fail "undo files are left behind"
-[ "$(stat -c %s "$folder/Vlaera.dat")" = 3081 ] || fail "the configuration has a wrong length"
+has_configuration
+for flag in 266 2324 2336 2338; do # the question before closing, two bars, the status bar
+    [ "$(od -An -td2 -j$flag -N2 "$folder/Vlaera.dat" | tr -d ' ')" = -1 ] || fail "the flag at $flag is off"
+done

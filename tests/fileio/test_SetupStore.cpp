@@ -57,17 +57,27 @@ TEST_F(SetupStore, FieldsLieWhereTheFileHasThem)
     EXPECT_EQ("Arial ", bytes.mid(2755, 6));
 }
 
-TEST_F(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
+TEST_F(SetupStore, WhatAFileLacksHasItsDefault)
 {
-    const Record first = LoadSetup(platform);
-    EXPECT_EQ(9600, first.FrameWidth);
-    EXPECT_EQ(QByteArray(), fileBytes(file)) << "an empty file stands until the frame closes";
-    const Record second = LoadSetup(platform);
-    EXPECT_EQ(0, second.FrameWidth);
-    EXPECT_FALSE(second.BarVisible[6]);
-    EXPECT_EQ(QString(), second.TextFont);
-    ASSERT_TRUE(SaveSetup(platform, first));
-    EXPECT_EQ(bytesOf(first), bytesOf(LoadSetup(platform)));
+    Record changed = LoadSetup(platform);
+    const QByteArray defaults = bytesOf(changed);
+    EXPECT_EQ(defaults, fileBytes(file)) << "a run that is killed leaves a good one";
+    changed.AskToSave = changed.BarVisible[0] = changed.BarVisible[6] = false;
+    changed.ImagesPath = "/pictures/";
+    changed.FrameWidth = 300;
+    const QByteArray bytes = bytesOf(changed);
+    const std::pair<int, int> kCases[] = {// cut to so many bytes, of which so many count
+                                          {0, 0},       {1, 0},       {263, 8},     {264, 264},
+                                          {2325, 2324}, {2326, 2326}, {2337, 2336}, {3080, 3079}};
+    for (const auto& [length, counted] : kCases) {
+        QFile::remove(file);
+        putFile(file, bytes.left(length));
+        const Record read = LoadSetup(platform);
+        EXPECT_EQ(bytes.left(counted) + defaults.mid(counted), bytesOf(read)) << length;
+        EXPECT_EQ(bytesOf(read), fileBytes(file)) << length;
+    }
+    putFile(file, QByteArray(kSetupBytes, '\0')); // left by a machine that lost its power
+    EXPECT_EQ(defaults, bytesOf(LoadSetup(platform)));
     EXPECT_TRUE(platform.log.empty());
 }
 

@@ -247,9 +247,11 @@ TEST_F(PaintTools, WhatAYieldInAGradientLetsInStands)
     };
     Document other(folder.path(), 2);
     other.takePicture(randomBits(60, 50, 12));
+    other.Region.setRegion(Region::rectangle(1, 1, 9, 9));
     dragWith([&] { frame.handOver(other); }); // another document became active
     EXPECT_FALSE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other.bits(), frame.filter_.bits()));
+    EXPECT_EQ(frame.filter_.BitsRegion(), other.Region.Region());
     EXPECT_EQ(frame.snapshots, 1);
 
     dragWith([&] { throw Cancelled(); });
@@ -262,6 +264,53 @@ TEST_F(PaintTools, WhatAYieldInAGradientLetsInStands)
         tools.reset();
     });
     EXPECT_EQ(frame.snapshots, 1);
+}
+
+TEST_F(PaintTools, TheUserGoesOnWhileAGradientIsComputed)
+{
+    choose("Gradient");
+    const auto gradient = [](const Bits& on, int x1, int y1, int x2, int y2) {
+        Document page({}, 1);
+        page.takePicture(on);
+        return filterOf(on, page.Region.working()).GradientLinear(x1, y1, x2, y2, 0xFFFFFF, 0, 50, 1);
+    };
+    const Bits first = gradient(before, 10, 10, 40, 30);
+    const struct {
+        const char* what;
+        std::function<void()> happens;
+        Bits left;
+        bool isDown;
+    } rows[] = {
+        {"Esc drops it", [&] { tools->keyDown(Tools::Escape); }, before, false},
+        {"and so does the right button", [&] { tools->release(Tools::Right, 20, 20); }, before, false},
+        {"a drag comes first",
+         [&] {
+             drag({{5, 5}, {20, 9}});
+         },
+         gradient(before, 5, 5, 20, 9), false},
+        {"a press is the next drag's",
+         [&] {
+             press({5, 5});
+         },
+         first, true},
+        {"a second release is none",
+         [&] {
+             release({40, 30});
+         },
+         first, false},
+    };
+    for (const auto& row : rows) {
+        open(before);
+        frame.platform_.onYield = [&, happened = false]() mutable {
+            if (!std::exchange(happened, true)) row.happens();
+        };
+        drag({{10, 10}, {40, 30}});
+        EXPECT_TRUE(sameBits(row.left, document.bits())) << row.what;
+        EXPECT_EQ(tools->ToolDown(), row.isDown) << row.what;
+        if (!row.isDown) continue;
+        release({20, 9});
+        EXPECT_TRUE(sameBits(gradient(first, 5, 5, 20, 9), document.bits()));
+    }
 }
 
 TEST_F(PaintTools, ThePipetteTakesColoursAsItMoves)
@@ -349,6 +398,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     frame.toolStores_.paste = randomBits(8, 6, 5);
     frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 20, 20);
+    tools->deactivated();
     EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
 

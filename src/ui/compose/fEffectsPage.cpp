@@ -221,7 +221,10 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) {
         if (!ListFile_->currentItem()) return;
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
+        running_ = true; // reading yields, too
         const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
+        if (!alive) return;
+        running_ = false;
         if (!picture.ok())
             return platform.tell(tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
         texture = picture.bits;

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -55,12 +56,13 @@ void FStamp::readFolder()
         if (QDir(folder).exists() && !watcher_.directories().contains(folder)) watcher_.addPath(folder);
 
     const QString before = frame().toolStores().stampFile;
-    const QSignalBlocker quiet(cbStamps_);
+    QSignalBlocker quiet(cbStamps_);
     cbStamps_->clear();
     cbStamps_->addItems(files.value_or(QStringList()));
     cbStamps_->setEnabled(cbStamps_->count() > 0);
     const int place = cbStamps_->findText(before);
     cbStamps_->setCurrentIndex(std::max(place, 0));
+    quiet.unblock(); // not later: the list may go while a stamp is read
     if (place < 0 || before.isEmpty())
         choose(cbStamps_->currentText()); // none yet, or gone
     else
@@ -69,9 +71,13 @@ void FStamp::readFolder()
 
 void FStamp::choose(const QString& file)
 {
-    frame().toolStores().stampFile = file;
-    frame().toolStores().stamp = loadStamp(frame().platform(), file);
-    showStamp();
+    const QPointer<FStamp> alive = this;
+    ToolStores& stores = frame().toolStores();
+    const QString name = stores.stampFile = file;
+    const Bits stamp = loadStamp(frame().platform(), name);
+    if (stores.stampFile != name) return; // another was chosen while this one was read
+    stores.stamp = stamp;
+    if (alive) showStamp();
 }
 
 void FStamp::showStamp()
