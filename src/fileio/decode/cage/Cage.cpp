@@ -28,7 +28,7 @@ Closing noNewPrivileges() { return done(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) =
 }
 
 constexpr struct {
-    Layer layer;
+    CageLayer layer;
     const char *name, *what;
 } kNames[] = {{NoNewPrivileges, "no new privileges", ""},
               {Limits, "limits", " of processes, descriptors, files, memory and time"},
@@ -41,7 +41,7 @@ constexpr struct {
 CageState enterCage(Needs needs, unsigned layers)
 {
     CageState state;
-    const auto close = [&](Layer layer, auto&& how) {
+    const auto close = [&](CageLayer layer, auto&& how) {
         if (!(layers & layer)) return;
         const Closing closing = how();
         if (closing == Closing::Holds) state.holding |= layer;

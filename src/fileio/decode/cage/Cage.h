@@ -10,7 +10,7 @@ namespace velara::decode {
 enum class Needs { Nothing, Fonts, Drawing };
 
 /// The layers, each of which stands without the others.
-enum Layer : unsigned {
+enum CageLayer : unsigned {
     NoNewPrivileges = 1, // a set-user program gives nothing
     Limits = 2,       // no process, no further descriptor, no byte in a file; memory and processor time; killed first
     Capabilities = 4, // root is nobody in particular
