@@ -57,13 +57,15 @@ for folder in [source, *sorted(p for p in source.rglob("*") if p.is_dir())]:
 places = {}
 for tree in ["src", "tests", "tools", "bench"]:
     for file in sorted((source.parent / tree).rglob("*.[ch]*")):
-        anonymous = False
+        anonymous, space = False, ""
         for text in file.read_text().splitlines():
             if text in ("namespace {", "} // namespace"):
                 anonymous = text == "namespace {"
+            elif opened := re.match(r"namespace (\S+) \{", text):
+                space = opened[1]
             defined = re.match(r"(?:class|struct|enum class|enum|union) (\w+)(?: final)?(?: : [^;]*)? \{", text)
             if defined and not anonymous:
-                places.setdefault(defined[1], set()).add(file.relative_to(source.parent).as_posix())
+                places.setdefault(f"{space}::{defined[1]}", set()).add(file.relative_to(source.parent).as_posix())
 faults += [f"{name} is defined in {' and '.join(sorted(found))}" for name, found in places.items() if len(found) > 1]
 
 print("\n".join(faults) or "every include points down, every name means one thing")
