@@ -1,6 +1,7 @@
 // velara-studio: the editor. Reads no command line.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/start/SessionEnd.h"
 #include "app/start/formatPlugins.h"
 #include "platform/desktop/QtPlatform.h"
 #include <QApplication>
@@ -36,6 +37,7 @@ int main(int argc, char** argv)
     velara::QtPlatform platform;
     velara::Setup setup;
     const auto frame = velara::startEditor(platform, setup);
+    const velara::SessionEnd sessionEnd(*frame);
     QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
     return application.exec();
 }

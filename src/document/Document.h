@@ -50,6 +50,17 @@ class Document {
     }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
     void commit();
+    /// Closing it now would lose something: what window marks and questions go by.
+    bool wouldBeLost() const
+    {
+        return PictureExists() && (waitingWork || isBrought || (Changed && undo.mayHaveChanged()));
+    }
+    /// The picture stands in the file that Tag names.
+    void saved()
+    {
+        Changed = isBrought = false;
+        hasFile = true;
+    }
     /// Rises with each snapshot and step: while it stands, the committed picture is the same.
     int commits() const { return commits_; }
     /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
@@ -64,9 +75,10 @@ class Document {
     QString Tag;          // the full path, unique among the open documents
     bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
     bool Changed = false;
-    bool Zoomed = false; // a sizing command was the last change
-    /// Set while a window holds work on this picture that is not in it yet, such as texts: closing counts it as a
-    /// change. Puts it in; false when that failed, and then the window still has it.
+    bool isBrought = false; // it came from outside of any file, and was never saved
+    bool Zoomed = false;    // a sizing command was the last change
+    /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
+    /// failed, and then the window still has it.
     std::function<bool()> waitingWork;
 
   private:

@@ -51,7 +51,7 @@ void Draft::take()
     }
     if (fromBefore_) document.undo.stepBack();
     if (!sizing_) return document.commit();
-    document.Zoomed = true;
+    document.Changed = document.Zoomed = true;
     document.SaveUndoBits();
 }
 

@@ -32,8 +32,9 @@ enum class Panel { Pos, Ext, Size, Name, Zoom, Hint };
 
 /// How a new document comes in.
 enum class Arrival {
-    Made, // has no file of its own: SAVE asks for a name
-    File, // the path is its own file, which SAVE writes to
+    Brought, // from the screen, a scanner, the clipboard, another document: SAVE asks for a name, closing asks
+    Made,    // new, or read from a file that is not all there: SAVE asks for a name, closing only after a change
+    File,    // the path is its own file, which SAVE writes to
 };
 
 /// What becomes of a file that no reader makes anything of.
@@ -60,7 +61,7 @@ class Frame {
     /// A new document with the picture (a null one: an empty window), whole-picture limit, first snapshot, shown and
     /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a
     /// name without a folder is put into the folder of the file dialogs. Names none while the frame closes.
-    virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) = 0;
+    virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) = 0;
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
     /// that it can't be loaded.
     virtual bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) = 0;

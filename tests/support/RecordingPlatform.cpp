@@ -7,6 +7,7 @@ namespace velara {
 std::optional<QString> RecordingPlatform::ask(const QString& line)
 {
     log.push_back(line.toStdString());
+    if (onAsk) onAsk();
     if (answers.empty()) return std::nullopt;
     const auto next = answers.front();
     answers.pop_front();
@@ -69,7 +70,7 @@ LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&
     Bits bits(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bits.row(y), image.constScanLine(y), std::size_t(image.width()) * 4);
-    return {bits, image.text("Note")}; // a file that tells what its reader is to say of it
+    return {bits, loadNote};
 }
 
 } // namespace velara

@@ -23,7 +23,8 @@ class RecordingPlatform : public Platform {
     /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
     std::vector<std::string> log;
     int yields = 0;
-    std::function<void()> onYield;
+    std::function<void()> onYield, onAsk; // onAsk: a dialog stands
+    QString loadNote;                     // of every picture that is read
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;

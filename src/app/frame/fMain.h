@@ -43,7 +43,7 @@ class fMain final : public QMainWindow, public Frame {
     DocumentHandle active() override;
     fImage* GetActiveImage() override { return documents_->active(); }
     std::vector<DocumentHandle> openDocuments() override { return documents_->handles(); }
-    DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Made) override;
+    DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) override;
     bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     Outcome change(const DocumentHandle& document, const Job& job, After after = After::Step) override;
     void finish(const DocumentHandle& document) override;
@@ -133,11 +133,18 @@ class fMain final : public QMainWindow, public Frame {
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
     /// The open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
-    /// Where the frame stands, for the next start.
-    void savePlace();
+    /// The configuration and where the frame stands, for the next start.
+    void saveState();
+    /// All documents are being closed, or are.
+    bool isClosing() const { return closesAll_ || closing_; }
+    bool isClosed() const { return closing_; }
 
   signals:
     void closed();
+    /// It was to be closed, and a document refused.
+    void stays();
+    /// Of any document: see there.
+    void asking(fImage::Question question);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -170,9 +177,12 @@ class fMain final : public QMainWindow, public Frame {
     void showStartPage();
     /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
-    bool openPath(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
+    enum class Opening { Done, Failed, Gone };
+    Opening openPath(const QString& path, Unreadable unreadable);
+    bool openOrTell(const QString& path, Unreadable unreadable);
     QString inDialogFolder(const QString& name) const;
     void showLoadError();
+    void showGone(const QStringList& paths);
     DocumentHandle adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival);
     void applyOpenOptions();
 
@@ -190,7 +200,7 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
     QString dialogFolder_;
-    bool closing_ = false, resizedOnce_ = false, scrollingOffered_ = false;
+    bool closing_ = false, closesAll_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };
 
 } // namespace velara

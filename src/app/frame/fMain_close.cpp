@@ -52,19 +52,22 @@ void fMain::changeEvent(QEvent* event)
 void fMain::closeEvent(QCloseEvent* event)
 {
     if (closing_) return event->accept();
+    if (closesAll_) return event->ignore(); // its documents are being asked about
+    closesAll_ = true;
     bars_->saveLayout();
-    if (!documents_->closeAll()) { // the frame stays
-        SaveSetup(platform_, setup_);
-        return event->ignore();
-    }
-    closing_ = true;
-    savePlace();
-    SaveSetup(platform_, setup_); // on failure the old file stays
-    event->accept();
-    emit closed();
+    closing_ = documents_->closeAll();
+    closesAll_ = false;
+    saveState();
+    event->setAccepted(closing_);
+    closing_ ? emit closed() : emit stays();
 }
 
-void fMain::savePlace() { platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64())); }
+/// On failure the old file stays.
+void fMain::saveState()
+{
+    platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64()));
+    SaveSetup(platform_, setup_);
+}
 
 void fMain::options()
 {

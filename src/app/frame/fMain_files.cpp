@@ -60,8 +60,10 @@ DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, 
     if (closing_) return {};
     Document& document = image->document();
     document.hasFile = arrival == Arrival::File;
+    document.isBrought = arrival == Arrival::Brought;
     giveNames(*image, inDialogFolder(path), *this);
     connect(image.get(), &fImage::stepLost, this, &fMain::stepLost);
+    connect(image.get(), &fImage::asking, this, &fMain::asking);
     image->SaveUndoBits();
     documents_->show(std::move(image), setup_.ImagesMaximized);
     refreshUndoState();
@@ -78,34 +80,55 @@ void fMain::applyOpenOptions()
 
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
 
-/// False when the file can't be loaded, after which there is no document.
-bool fMain::openPath(const QString& path, Unreadable unreadable)
+/// Once for all of them; the recent list leaves them out from now on.
+void fMain::showGone(const QStringList& paths)
+{
+    constexpr qsizetype kMostShown = 10;
+    QStringList shown;
+    for (const QString& path : paths.mid(0, kMostShown)) shown << printable(platform_.compactPath(path, 400));
+    if (paths.size() > kMostShown) shown << "...";
+    FillRecent();
+    platform_.tell(
+        (paths.size() == 1 ? tr("This file is not there any more:\n") : tr("These files are not there any more:\n")) +
+            shown.join('\n'),
+        Icon::Exclamation);
+}
+
+/// Unless the file was opened there is no document of it, and nothing was said.
+fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
 {
     platform_.yield();
-    if (closing_) return true;
+    if (closing_) return Opening::Done;
+    if (!QFileInfo::exists(path)) return Opening::Gone;
     auto image = std::make_unique<fImage>(*this);
     bool loaded = false;
     try {
         loaded = image->SetPicture(path, extensionOf(path));
     } catch (const std::exception&) { // a picture too large for this machine's memory
     }
-    if (!loaded || closing_) return closing_;
+    if (closing_) return Opening::Done;
     const bool read = image->PictureExists();
-    if (!read && unreadable == Unreadable::Refused) return false;
+    if (!loaded || (!read && unreadable == Unreadable::Refused)) return Opening::Failed;
     const QString note = image->LoadNote();
     if (!read) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
     // What has lost its end doesn't replace its file without a question.
     adopt(std::move(image), path, read && note.isEmpty() ? Arrival::File : Arrival::Made);
     if (read && !note.isEmpty()) status_->say(note);
-    return true;
+    return Opening::Done;
+}
+
+/// Opens it or says why not; false then.
+bool fMain::openOrTell(const QString& path, Unreadable unreadable)
+{
+    const Opening opening = openPath(path, unreadable);
+    if (opening == Opening::Gone) showGone({path});
+    if (opening == Opening::Failed) showLoadError();
+    return opening == Opening::Done;
 }
 
 bool fMain::openPicture(const QString& path, Unreadable unreadable)
 {
-    if (!openPath(path, unreadable)) {
-        showLoadError();
-        return false;
-    }
+    if (!openOrTell(path, unreadable)) return false;
     AddRecent(setup_, path);
     FillRecent();
     applyOpenOptions();
@@ -126,10 +149,7 @@ void fMain::openRecent(int index)
 {
     const QString path = setup_.Recent[std::size_t(index)].trimmed();
     if (path.isEmpty()) return;
-    if (!openPath(path)) {
-        showLoadError();
-        return FillRecent();
-    }
+    if (!openOrTell(path, Unreadable::OpensEmpty)) return FillRecent();
     applyOpenOptions();
 }
 
@@ -175,6 +195,7 @@ void fMain::saveTo(fImage& image, const QString& name)
 {
     const SaveTarget target = saveTargetOf(name);
     const QPointer<fImage> watched = &image;
+    const int commits = image.document().commits();
     SaveResult result = SaveResult::Failed;
     try {
         result = image.Save(target.name, target.extension);
@@ -186,8 +207,9 @@ void fMain::saveTo(fImage& image, const QString& name)
         return;
     }
     if (!watched) return; // closed while a notice of the save stood open
-    image.document().Changed = false;
-    image.document().hasFile = true;
+    const bool changedMeanwhile = image.document().commits() != commits;
+    image.document().saved();
+    image.document().Changed = changedMeanwhile;
     if (image.Tag() != name) giveNames(image, name, *this);
     image.showChanged();
     setStatus(Panel::Name, image.Caption());
@@ -207,7 +229,7 @@ void fMain::copyToNew()
     platform_.clipboard().clear();
     if (!from || !image->PictureExists()) return;
     const Region selection = from->Region.Region();
-    const DocumentHandle copy = adopt(std::move(image), from->Tag, Arrival::Made);
+    const DocumentHandle copy = adopt(std::move(image), from->Tag, Arrival::Brought);
     if (!copy || selection.isEmpty()) return;
     copy->Region.setRegion(selection);
     handOver(*copy);
@@ -218,7 +240,7 @@ void fMain::fromClipboard()
 {
     auto image = std::make_unique<fImage>(*this);
     image->PasteFromClipboard();
-    if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Made);
+    if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Brought);
 }
 
 void fMain::dragEnterEvent(QDragEnterEvent* event)
@@ -239,9 +261,15 @@ void fMain::dropEvent(QDropEvent* event)
 void fMain::dropFiles(const QStringList& paths)
 {
     bool failed = false;
-    for (const QString& path : paths)
-        if (!closing_ && isDropped(path.trimmed())) failed |= !openPath(path.trimmed());
+    QStringList gone;
+    for (const QString& dropped : paths) {
+        const QString path = dropped.trimmed();
+        const Opening opening = isDropped(path) ? openPath(path, Unreadable::OpensEmpty) : Opening::Done;
+        failed |= opening == Opening::Failed;
+        if (opening == Opening::Gone) gone << path;
+    }
     if (failed && !closing_) showLoadError(); // once, however many
+    if (!gone.isEmpty() && !closing_) showGone(gone);
 }
 
 } // namespace velara

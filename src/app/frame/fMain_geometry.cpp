@@ -18,7 +18,7 @@ void fMain::newPicture()
     fNew dialog(platform_, this);
     if (dialog.exec() != QDialog::Accepted) return;
     platform_.yield(); // the dialog goes before the new window comes
-    adopt(Bits(dialog.widthValue(), dialog.heightValue()), "New.bmp");
+    adopt(Bits(dialog.widthValue(), dialog.heightValue()), "New.bmp", Arrival::Made);
 }
 
 template <class Dialog> void fMain::askAndReshape(std::string_view word)

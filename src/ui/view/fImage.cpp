@@ -158,7 +158,7 @@ void fImage::setCaption(const QString& caption)
 
 void fImage::showChanged()
 {
-    const bool changed = hasChanged();
+    const bool changed = document_.wouldBeLost();
     const QString title = printable(caption_).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
     for (QWidget* window : {static_cast<QWidget*>(this), parentWidget()}) {
         if (!window || (window != this && !qobject_cast<QMdiSubWindow*>(window))) continue;
@@ -204,31 +204,42 @@ bool fImage::event(QEvent* event)
     return QWidget::event(event);
 }
 
+void fImage::bringToFront()
+{
+    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
+        window->mdiArea()->setActiveSubWindow(window);
+}
+
+/// Anything may happen while the question stands; once this window is gone the answer means nothing.
 bool fImage::mayClose()
 {
-    if (!frame_.setup().AskToSave || !hasChanged()) return true;
-    const QPointer<fImage> self = this;
-    if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
-        window->mdiArea()->setActiveSubWindow(window); // what is asked about is what is saved
+    if (!frame_.setup().AskToSave || !document_.wouldBeLost()) return true;
+    bringToFront();
     const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +
                          "Do you want to save it ?";
-    switch (frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information)) {
-    case Answer::Cancel:
-        return false;
-    case Answer::Yes:
-        if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
-        if (self) frame_.Mmenu("SAVEAS");
-        return true;
-    case Answer::No:
-        return true;
-    }
-    return true;
+    const QPointer<fImage> self = this;
+    emit asking(Question::Stands);
+    if (!self) return false;
+    const Answer answer = frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information);
+    if (!self) return false;
+    emit asking(Question::Answered);
+    if (!self || answer != Answer::Yes) return answer == Answer::No;
+    if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
+    if (!self) return false;
+    bringToFront(); // what was asked about is what is saved
+    frame_.Mmenu("SAVE");
+    return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
 }
 
 void fImage::closeEvent(QCloseEvent* event)
 {
+    if (asks_) return event->ignore(); // the question stands already
     const QPointer<fImage> self = this;
+    asks_ = true;
     const bool closes = mayClose();
+    if (!self) return;
+    asks_ = false;
+    emit asking(Question::Done);
     if (!self) return;
     if (!closes) return event->ignore();
     forget();

@@ -23,6 +23,8 @@ class fDisplay;
 class fImage final : public QWidget, public ToolSurface {
     Q_OBJECT
   public:
+    enum class Question { Stands, Answered, Done };
+
     /// An empty document with the frame's next number. The frame outlives it.
     explicit fImage(Frame& frame, QWidget* parent = nullptr);
     ~fImage() override;
@@ -64,6 +66,8 @@ class fImage final : public QWidget, public ToolSurface {
     void setCaption(const QString& caption);
     /// The window carries the platform's mark when closing it would ask.
     void showChanged();
+    /// Somebody is being asked whether it may close; it can't be closed then.
+    bool isAsking() const { return asks_; }
     QString Tag() const { return document_.Tag; }
     void setTag(const QString& tag) { document_.Tag = tag; }
 
@@ -135,6 +139,8 @@ class fImage final : public QWidget, public ToolSurface {
   signals:
     /// A snapshot couldn't be written; the reason is for a person.
     void stepLost(const QString& reason);
+    /// The question before it closes: it stands, was answered, and what followed from the answer is done.
+    void asking(Question question);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -143,7 +149,7 @@ class fImage final : public QWidget, public ToolSurface {
 
   private:
     bool mayClose();
-    bool hasChanged() const { return document_.waitingWork || (document_.Changed && document_.undo.mayHaveChanged()); }
+    void bringToFront();
     void takeFocus();
     void forget();
     void showSize();
@@ -180,7 +186,7 @@ class fImage final : public QWidget, public ToolSurface {
     QSize laidOutSize_; // the picture's size at the last layout
     float lastHValue_ = 0, lastVValue_ = 0, lastHMax_ = 0, lastVMax_ = 0;
     QPoint lastPixel_{-1, -1}; // where the mouse was at the last event
-    bool forgotten_ = false;
+    bool forgotten_ = false, asks_ = false;
     int wheelRest_ = 0;
 };
 

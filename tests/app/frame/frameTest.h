@@ -41,7 +41,7 @@ struct FrameTest : ::testing::Test {
     }
     fImage* open(const Bits& bits, const QString& name = "picture.bmp")
     {
-        frame->adopt(bits, path(name));
+        frame->adopt(bits, path(name), Arrival::Made);
         QCoreApplication::processEvents();
         return frame->GetActiveImage();
     }

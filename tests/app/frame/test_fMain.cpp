@@ -203,10 +203,12 @@ TEST_F(FrameTest, TheFirstResizeStoresALayoutOnceForTheUser)
 TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
 {
     frame->action("VIEWS_9")->trigger();
-    const auto moveTo = [&](QPoint at) {
+    const auto moveTo = [&](QPoint at, Qt::MouseButtons held = Qt::NoButton) {
         QWidget* under = frame->area().viewport();
-        sendMouse(under, QEvent::MouseMove, under->mapFrom(frame->centralWidget(), at), Qt::NoButton, Qt::NoButton);
+        sendMouse(under, QEvent::MouseMove, under->mapFrom(frame->centralWidget(), at), Qt::NoButton, held);
     };
+    moveTo({2, 100}, Qt::LeftButton);
+    EXPECT_FALSE(frame->toolPane().isVisible()) << "a stroke goes on";
     moveTo({2, 100});
     EXPECT_TRUE(frame->toolPane().isVisible());
     moveTo({frame->toolPane().width() - 2, 100});

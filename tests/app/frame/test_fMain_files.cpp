@@ -42,25 +42,87 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
 
 TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
-    QImage cut(file("cut.png"));
-    cut.setText("Note", "cut.png: it is cut off");
-    cut.save(path("cut.png"));
-    for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}, {"cut.png", true}}) {
-        platform.answers = {QFile::exists(path(name)) ? path(name) : file(name)};
+    for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}}) {
+        platform.answers = {file(name)};
         frame->Mmenu("OPEN");
-        if (QString(name) == "cut.png") EXPECT_EQ(frame->status().currentMessage(), "cut.png: it is cut off");
         platform.log.clear();
         frame->documents().last()->document().Changed = true;
         frame->Mmenu("SAVE");
         EXPECT_EQ(platform.logged("save: Save as"), asks) << name;
         EXPECT_EQ(frame->documents().last()->document().Changed, asks) << name;
     }
-    // A new document has no file yet, whatever it is called.
+    // A new document has no file yet, whatever it is called, and one of which only a part was read keeps the rest
+    // there.
+    const auto asksForAName = [&] {
+        platform.log.clear();
+        frame->Mmenu("SAVE");
+        return platform.logged("save: Save as");
+    };
     open(randomBits(4, 4, 1), "New.bmp");
-    platform.log.clear();
-    frame->Mmenu("SAVE");
-    EXPECT_TRUE(platform.logged("save: Save as"));
+    EXPECT_TRUE(asksForAName());
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
+    platform.answers = {path("b.bmp")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_FALSE(asksForAName()) << "it has one now";
+    platform.loadNote = "The file is cut off.";
+    frame->openPicture(file("c.bmp"));
+    EXPECT_EQ(frame->status().currentMessage(), platform.loadNote);
+    EXPECT_TRUE(asksForAName());
+}
+
+TEST_F(FrameTest, WhateverWouldBeLostIsAskedAbout)
+{
+    const struct {
+        const char* what;
+        std::function<void()> make;
+        bool asks;
+    } rows[] = {
+        {"a new one", [&] { open(randomBits(8, 8, 1)); }, false},
+        {"a file", [&] { frame->openPicture(file("a.bmp")); }, false},
+        {"a copy of it", [&] { frame->openPicture(file("b.bmp")), frame->Mmenu("CREATENEWCOPY"); }, true},
+        {"it in another size", [&] { frame->openPicture(file("c.bmp")), frame->Mmenu("x2"); }, true},
+        {"the clipboard's", [&] { frame->Mmenu("CREATEFROMCLIPBOARD"); }, true},
+        {"any other that is brought", [&] { frame->adopt(randomBits(8, 8, 1), "Scan.bmp"); }, true},
+        {"a window without a picture", [&] { frame->adopt({}, "New.bmp"); }, false},
+        {"a part of a file", [&] { platform.loadNote = "cut off", frame->openPicture(file("d.bmp")); }, false},
+    };
+    for (const auto& row : rows) {
+        platform.recordingClipboard.bits = randomBits(8, 8, 1);
+        row.make();
+        QCoreApplication::processEvents();
+        const QPointer<fImage> image = frame->GetActiveImage();
+        EXPECT_EQ(image->isWindowModified(), row.asks) << row.what;
+        platform.log.clear();
+        EXPECT_EQ(image->parentWidget()->close(), !row.asks) << row.what;
+        EXPECT_EQ(last().starts_with("ask: "), row.asks) << row.what;
+        setup.AskToSave = false;
+        if (row.asks) image->parentWidget()->close();
+        setup.AskToSave = true;
+    }
+}
+
+TEST_F(FrameTest, YesClosesWhatWasSavedAndNothingElse)
+{
+    const auto closes = [&](std::deque<std::optional<QString>> answers) {
+        platform.log.clear();
+        platform.answers = std::move(answers);
+        return frame->GetActiveImage()->parentWidget()->close();
+    };
+    const auto files = [&] { return QDir(path("Temp")).entryList({"b*.dat"}, QDir::Files).size(); };
+    frame->adopt(randomBits(8, 8, 1), "Scan.bmp");
+    EXPECT_FALSE(closes({"yes"})) << "no name";
+    EXPECT_FALSE(closes({"yes", path("no/such/folder/b.bmp")}));
+    EXPECT_TRUE(frame->GetActiveImage()->document().undo.stands());
+    EXPECT_EQ(files(), 1);
+    EXPECT_TRUE(closes({"yes", path("b.png")}));
+    EXPECT_EQ(QImage(path("b.png")).size(), QSize(8, 8));
+    EXPECT_EQ(files(), 0);
+
+    frame->openPicture(file("a.bmp"));
+    frame->Mmenu("x2");
+    EXPECT_TRUE(closes({"yes"}));
+    EXPECT_FALSE(platform.logged("save: Save as"));
+    EXPECT_EQ(QImage(path("a.bmp")).size(), QSize(6, 4)) << "in its own file";
 }
 
 TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
@@ -130,7 +192,7 @@ TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
     fMain other(platform, otherSetup); // a lock is the open file's: as good as another program
     const Bits mine = randomBits(20, 20, 1);
     fImage* image = open(mine);
-    const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"));
+    const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"), Arrival::Made);
     ASSERT_NE(theirs->DocNumber(), image->DocNumber());
     frame->Mmenu("INVERT");
     frame->Mmenu("UNDO");
@@ -188,8 +250,9 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_EQ(frame->documents()[0]->Caption(), "b & c.bmp");
 
     QFile::remove(a);
-    frame->action("RF_0")->trigger(); // gone since the list was filled: an unreadable bitmap opens as an empty document
-    frame->FillRecent();
+    frame->action("RF_0")->trigger(); // gone since the list was filled
+    EXPECT_EQ(last(), "message: Velara Studio: This file is not there any more:\n" + a.toStdString());
+    EXPECT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->action("RF_0")->text(), "Empty");
     EXPECT_TRUE(frame->action("RF_0")->isEnabled());
     EXPECT_EQ(setup.Recent[0], a); // it keeps its place
@@ -205,11 +268,16 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
 TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
 {
     putFile(path("bad.gif"), "nothing");
-    frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), file("c.JPG"), path("bad.gif"), path("d.txt")});
+    const QString gone[] = {path("gone.bmp"), path("gone.gif")};
+    frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), gone[0], file("c.JPG"), path("bad.gif"),
+                      path("d.txt"), gone[1]});
     ASSERT_EQ(frame->documents().size(), 2);
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
     EXPECT_EQ(frame->documents()[1]->Caption(), "c.JPG");
     EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), kLoadError), 1);
+    EXPECT_EQ(
+        last(),
+        ("message: Velara Studio: These files are not there any more:\n" + gone[0] + "\n" + gone[1]).toStdString());
     EXPECT_TRUE(setup.Recent[0].isEmpty());
 }
 
@@ -268,6 +336,7 @@ TEST(StartTest, AFullDiskLeavesNothingEmptyBehind)
         putFile(folder.filePath(name), {}); // as an earlier version left it
     }
     QFile::remove(folder.filePath("Stamps/Velara4.bmp"));
+    QFile::setPermissions(folder.filePath("Temp"), QFile::Permissions(0x7777)); // open to all
     ASSERT_TRUE(makeFolders(platform));
     EXPECT_FALSE(QImage(folder.filePath("Stamps/Velara3.bmp")).isNull());
     EXPECT_FALSE(QImage(folder.filePath("Images/Velara.bmp")).isNull());

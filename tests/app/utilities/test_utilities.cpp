@@ -1,4 +1,5 @@
 // Clips, capture, wallpaper and scanner as commands of the frame, on a desktop that writes down what it is asked for.
+#include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -100,8 +101,11 @@ TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)
 TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
 {
     fImage* image = open(flatBits(40, 30, 10, 10, 10));
+    click("Pencil");
     frame->Mmenu("PASTE");
     EXPECT_FALSE(frame->toolStores().pastePending) << "there is nothing to paste";
+    EXPECT_EQ(frame->status().currentMessage(), "PASTE: nothing was cut or copied");
+    EXPECT_EQ(setup.CurrentTool, "Pencil");
     platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // of another program
     frame->Mmenu("PASTE");
     ASSERT_TRUE(frame->toolStores().pastePending);
@@ -129,6 +133,8 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     EXPECT_EQ(image->bits().at(7, 5).c[1], 9);
     EXPECT_EQ(image->Caption(), "New.bmp");
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
+    EXPECT_TRUE(image->isWindowModified()) << "it is nowhere else";
+    setup.AskToSave = false;
     image->parentWidget()->close();
 
     platform.screen().canShowDesktop = false; // then the program at least goes
@@ -265,6 +271,7 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
     EXPECT_EQ(scanner.jobs[0].area, QRectF(0, 0, 200, 100));
     fImage* image = waitForDocument();
     EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
+    EXPECT_TRUE(image->isWindowModified()) << "it is nowhere else";
     EXPECT_FALSE(QFile::exists(path("temp.bmp")));
 }
 

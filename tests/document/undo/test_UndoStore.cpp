@@ -57,6 +57,7 @@ TEST_F(UndoStoreTest, AFileIsABitmapHeaderAndTheBlock)
 {
     const Bits bits = randomBits(3, 2, 1);
     ASSERT_TRUE(save(bits));
+    EXPECT_FALSE(store.canUndo()) << "there is nothing before it";
     const QByteArray header = QByteArray::fromHex("28000000 07000000 faffffff 0100 2000") + QByteArray(24, '\0');
     const QByteArray wanted =
         header + QByteArray(reinterpret_cast<const char*>(bits.data()), static_cast<int>(bits.sizeInBytes()));

@@ -135,17 +135,19 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
 {
     const struct {
         const char* what;
-        bool option, changed, secondStep;
+        bool option, changed, secondStep, brought;
         const char* answer; // null: no question is expected
         bool closes, saves;
     } rows[] = {
         // clang-format off
-        {"unchanged",                true,  false, true,  nullptr, true,  false},
-        {"nothing committed",        true,  true,  false, nullptr, true,  false},
-        {"the user wants no question", false, true, true, nullptr, true,  false},
-        {"no",                       true,  true,  true,  "no",    true,  false},
-        {"yes",                      true,  true,  true,  "yes",   true,  true},
-        {"cancel",                   true,  true,  true,  "",      false, false},
+        {"unchanged",                true,  false, true,  false, nullptr, true,  false},
+        {"nothing committed",        true,  true,  false, false, nullptr, true,  false},
+        {"the user wants no question", false, true, true, true,  nullptr, true,  false},
+        {"brought, and nowhere else", true, false, false, true,  "no",    true,  false},
+        {"no",                       true,  true,  true,  false, "no",    true,  false},
+        {"yes",                      true,  true,  true,  false, "yes",   true,  true},
+        {"yes, not saved after all", true,  true,  true,  false, "yes",   false, true},
+        {"cancel",                   true,  true,  true,  false, "",      false, false},
         // clang-format on
     };
     for (const auto& row : rows) {
@@ -153,7 +155,11 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
         w.setTag("/pictures/x.png");
         frame.setup_.AskToSave = row.option;
         w.document().Changed = row.changed;
+        w.document().isBrought = row.brought;
         if (row.secondStep) w.SaveUndoBits();
+        frame.onCall = [&](const std::string& line) {
+            if (line == "word: SAVE" && row.closes) w.document().saved();
+        };
         frame.platform_.log.clear();
         frame.platform_.answers.clear();
         if (row.answer && *row.answer) frame.platform_.answers = {QString(row.answer)};
@@ -163,10 +169,11 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
                       "ask: Velara Studio: /pictures/x.png\nThis image has changed.\nDo you want to save it ?"),
                   row.answer != nullptr)
             << row.what;
-        EXPECT_EQ(frame.logged("word: SAVEAS"), row.saves) << row.what;
+        EXPECT_EQ(frame.logged("word: SAVE"), row.saves) << row.what;
         const QDir temp(frame.platform_.folder.path() + "/Temp");
         EXPECT_EQ(temp.entryList(QDir::Files).isEmpty(), row.closes) << row.what << ": undo files";
         image.reset();
+        frame.onCall = nullptr;
     }
 }
 
@@ -186,14 +193,17 @@ TEST_F(Window, TheLastDocumentEmptiesTheStatusBar)
 
 TEST_F(Window, MayBeDestroyedWhileItAsks)
 {
-    fImage& w = open(randomBits(5, 5, 1));
-    frame.setup_.AskToSave = true;
-    w.document().Changed = true;
-    w.SaveUndoBits();
-    frame.platform_.answers = {QString("yes")};
-    frame.onCall = [&](const std::string&) { image.reset(); };
-    w.close();
-    EXPECT_EQ(image, nullptr);
+    for (const bool beforeTheAnswer : {false, true}) {
+        fImage& w = open(randomBits(5, 5, 1));
+        frame.setup_.AskToSave = true;
+        w.document().isBrought = true;
+        frame.platform_.answers = {QString("yes")};
+        if (beforeTheAnswer) frame.platform_.onAsk = [&] { image.reset(); };
+        frame.onCall = [&](const std::string&) { image.reset(); };
+        w.close();
+        EXPECT_EQ(image, nullptr);
+        EXPECT_EQ(frame.logged("word: SAVE"), 1);
+    }
 }
 
 TEST_F(Window, InTheFramesAreaTheOutlineRestsWithTheDocument)
