@@ -262,8 +262,10 @@ bool fLayers::apply()
 {
     const QPointer<fLayers> alive = this;
     if (!document_) return true;
+    canvas_->edit(false);
+    followDocument();
     const Outcome outcome =
-        frame_.change(document_, [merged = Blend()](Document& draft, cBitFilter&) { draft.setBits(merged); });
+        frame_.change(document_, [layers = layers_](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); });
     if (!alive) return false;
     if (!outcome) frame_.report(windowTitle(), outcome);
     return outcome || outcome.kind == Outcome::Gone;
