@@ -81,11 +81,11 @@ TEST_F(DraftTest, AJobThatNeedsTooMuchMemoryFailsWithBothNumbersAndChangesNothin
 {
     const FreeMemory little(20'000'000);
     Draft change = draft();
-    const Outcome outcome = change.attempt([](Document& d, cBitFilter& f) { resizeImage(d, f, 2000, 2000, false); });
+    const Outcome outcome = change.attempt([](Document& d, cBitFilter& f) { resizeImage(d, f, 2001, 1998, false); });
     EXPECT_EQ(Outcome::Failed, outcome.kind);
     EXPECT_EQ("it needs 16 MB of memory, more than half of the 20 MB that are free", outcome.reason.toStdString());
     EXPECT_TRUE(sameBits(before, document.bits()));
-    const Bits afterIt(2000, 2000); // the budget was the job's
+    const Bits afterIt(2002, 1998); // the budget was the job's
 }
 
 TEST_F(DraftTest, RandomNumbersGoOnFromJobToJob)
