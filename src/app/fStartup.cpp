@@ -105,7 +105,7 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
     if (!makeFolders(platform))
         platform.tell(
             "The folder \"" + platform.programFolder() +
-                "\" can't be written to.\nChanges of pictures can't be undone, and settings will not be kept.",
+                "\" can't be written to.\nSteps back stay in memory, as many as fit, and settings will not be kept.",
             Icon::Exclamation);
     frame->setDialogFolder(setup.ImagesPath.trimmed());
     frame->FillRecent();

@@ -2,6 +2,7 @@
 #include "document/Draft.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/memory/MemoryBudget.h"
 #include <new>
 
 namespace velara {
@@ -48,6 +49,8 @@ void Session::change(const Job& job, After after)
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {
         throw badArgument(QString::fromUtf8(error.what()) + QStringLiteral(" is unusable"));
+    } catch (const NotEnoughMemory& refusal) {
+        throw operationFailed(QString::fromLatin1(refusal.what()));
     } catch (const std::bad_alloc&) {
         throw operationFailed(QStringLiteral("Out of memory"));
     }

@@ -34,7 +34,7 @@ class Session {
         document_->handTo(filter_);
     }
 
-    /// Percent of the step that runs. Where it is not asked for, pictures of one row have no error for want of one.
+    /// Percent of the step that runs.
     void setProgress(std::function<void(int)> progress)
     {
         filter_.Progress = std::move(progress);

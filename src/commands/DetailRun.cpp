@@ -1,6 +1,7 @@
 #include "commands/DetailRun.h"
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/memory/MemoryBudget.h"
 #include <new>
 #include <utility>
 
@@ -60,6 +61,7 @@ void DetailRun::work()
 
 void DetailRun::run(const FilterArgs& args)
 {
+    const MemoryBudget budget;
     cBitFilter filter;
     filter.Progress = [this](int) {
         if (stopped_) throw Cancelled();

@@ -1,5 +1,6 @@
 #include "document/Draft.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/memory/MemoryBudget.h"
 
 namespace velara {
 
@@ -20,6 +21,12 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
     draft_.handTo(filter_);
     limit_ = draft_.Region.RegionMain();
     selection_ = draft_.Region.Region();
+}
+
+void Draft::run(const Job& job)
+{
+    const MemoryBudget budget;
+    job(draft_, filter_);
 }
 
 Outcome Draft::attempt(const Job& job)

@@ -15,7 +15,8 @@ class Draft {
 
     /// The engine that the job gets; for its Progress.
     cBitFilter& filter() { return filter_; }
-    void run(const Job& job) { job(draft_, filter_); }
+    /// NotEnoughMemory when the job needs more than half of the memory that is free.
+    void run(const Job& job);
     /// The same, with what the job throws told by the outcome.
     Outcome attempt(const Job& job);
     /// The document is there and at the step that the draft began with.

@@ -1,4 +1,5 @@
 #include "document/resizing.h"
+#include "pixels/memory/checkSize.h"
 #include "pixels/numbers.h"
 #include <cmath>
 
@@ -25,16 +26,18 @@ void finish(Document& document, cBitFilter& filter, const Bits& result)
 /// The picture laid on a black one of width by height, the whole of which is the working region.
 cBitFilter onCanvas(const cBitFilter& filter, const Bits& picture, int width, int height, int left, int top)
 {
+    checkSize(width, height);
     cBitFilter work = workshop(filter, Bits(width, height));
     work.setBitsRegion(Region::rectangle(0, 0, width, height));
     work.setBits(work.TileMask(picture, left, top, false, 0, -1));
     return work;
 }
 
-/// The same in the middle of a square.
-cBitFilter onSquare(const cBitFilter& filter, const Bits& picture, int side)
+void turn(Document& document, cBitFilter& filter, int degrees, bool smooth, int side, const Rect& part)
 {
-    return onCanvas(filter, picture, side, side, (side - picture.width()) / 2, (side - picture.height()) / 2);
+    cBitFilter work = workshop(filter, document.bits());
+    work.turnOnSquare(work.bits(), degrees, smooth, side, part);
+    finish(document, filter, work.bits());
 }
 
 std::int32_t times(int size, int factor)
@@ -63,13 +66,11 @@ void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quali
     const int width = roundEven(h * s + c * w), height = roundEven(c * h + s * w);
     const int side = static_cast<int>(std::trunc(std::sqrt(h * h + w * w)));
 
-    // The picture in the middle of a square that it can turn in, then the target cut out about the square's centre.
-    // Halves are truncated toward zero, so a target one wider than the square loses that column.
-    cBitFilter work = onSquare(filter, source, side);
-    work.setBits(quality ? work.RotateSmooth(degrees) : work.ROTATE(degrees, false));
+    // The target lies about the centre of the square that the picture turns in. Halves are truncated toward zero, so a
+    // target one wider than the square loses that column.
     const int left = (side - width) / 2, top = (side - height) / 2;
-    work.BitsCrop(work.bits(), left, top, left + width, top + height);
-    finish(document, filter, work.bits());
+    turn(document, filter, degrees, quality, side,
+         Rect{left, top, left + width, top + height}.intersected({0, 0, side, side}));
 }
 
 void resizeImage(Document& document, cBitFilter& filter, int width, int height, bool smooth)
@@ -95,11 +96,9 @@ void orientImage(Document& document, cBitFilter& filter, int quarterTurns, bool 
 
 void turnOnSquare(Document& document, cBitFilter& filter, int degrees, bool smooth)
 {
-    const Bits source = document.bits();
-    const double w = source.width(), h = source.height();
-    cBitFilter work = onSquare(filter, source, roundEven(std::sqrt(w * w + h * h)));
-    work.setBits(smooth ? work.RotateSmooth(degrees) : work.ROTATE(degrees, false));
-    finish(document, filter, work.bits());
+    const double w = document.PictureWidth(), h = document.PictureHeight();
+    const int side = roundEven(std::sqrt(w * w + h * h));
+    turn(document, filter, degrees, smooth, side, {0, 0, side, side});
 }
 
 CropAnswer cropAnswer(const Document& document)

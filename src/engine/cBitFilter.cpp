@@ -32,13 +32,12 @@ float cBitFilter::Angle(int X, int Y)
     return static_cast<float>(X < 0 ? a + kPi : a);
 }
 
-/// The progress rule: done rows of a run that ends at row `of`. A report that falls due in a one-row picture divides by
-/// zero; it is not guarded.
+/// The progress rule: row `done` of a run whose last row is `of`. A run of one row is at its end then.
 void cBitFilter::progressDue(std::int64_t done, std::int64_t of)
 {
     if (clock() - lastProgress_ <= kReportEvery) return;
     lastProgress_ = clock();
-    report(static_cast<int>(of == 0 ? throw RuntimeError(Fault::DivisionByZero) : done * 100 / of));
+    report(of == 0 ? 100 : static_cast<int>(done * 100 / of));
 }
 
 void cBitFilter::report(int percent)

@@ -57,6 +57,10 @@ class cBitFilter {
     void BitsResize(const Bits& Source, int NewWidth, int NewHeight);
     /// A quarter turn: the pixel (x, y) goes to (y, maxX-x).
     void BitsRotate90(const Bits& Source);
+    /// A picture turned in the middle of a black square of Side, at least its diagonal: what TileMask, ROTATE without
+    /// Clean (Smooth: RotateSmooth) and BitsCrop to Part of the square give, in the memory of Part and without the
+    /// square.
+    void turnOnSquare(const Bits& Source, int Degrees, bool Smooth, int Side, const Rect& Part);
     /// The upper left Width by Height pixels of Picture, black where it is smaller. A null Picture changes nothing.
     void BitsTakeFromPicture(const QImage& Picture, int Width, int Height);
 

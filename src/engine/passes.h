@@ -2,6 +2,7 @@
 #pragma once
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/memory/checkSize.h"
 #include <algorithm>
 #include <cstring>
 #include <emmintrin.h>
@@ -59,12 +60,6 @@ inline void clearMargin(Bits& bits)
         std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
         std::memset(bits.row(y) + bits.width(), 0, sizeof(Pixel) * Bits::kMargin);
     }
-}
-
-/// OutOfRange for a size that no picture may have.
-inline void checkSize(int width, int height)
-{
-    if (!Bits::sizeAllowed(width, height)) throw RuntimeError(Fault::OutOfRange);
 }
 
 /// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.

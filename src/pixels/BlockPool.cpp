@@ -1,4 +1,5 @@
 #include "pixels/BlockPool.h"
+#include "pixels/memory/MemoryBudget.h"
 #include <algorithm>
 #include <new>
 #include <sys/mman.h>
@@ -22,6 +23,7 @@ std::uint8_t* BlockPool::take(std::size_t size)
         return block;
     }
     drop(); // another size is in use now
+    MemoryBudget::take(size);
     void* block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (block == MAP_FAILED) throw std::bad_alloc();
     madvise(block, size, MADV_HUGEPAGE);
@@ -33,7 +35,7 @@ void BlockPool::give(std::uint8_t* block, std::size_t size) noexcept
     if (size < kSmallest) return ::operator delete(block);
     const std::lock_guard lock(guard_);
     if (kept_.size() >= kKeptBlocks) {
-        munmap(kept_.front().block, kept_.front().size);
+        unmap(kept_.front());
         kept_.erase(kept_.begin());
     }
     if (kept_.capacity() == 0) kept_.reserve(kKeptBlocks);
@@ -46,9 +48,15 @@ void BlockPool::clear() noexcept
     drop();
 }
 
+void BlockPool::unmap(const Kept& kept) noexcept
+{
+    munmap(kept.block, kept.size);
+    MemoryBudget::give(kept.size);
+}
+
 void BlockPool::drop() noexcept
 {
-    for (const Kept& k : kept_) munmap(k.block, k.size);
+    for (const Kept& k : kept_) unmap(k);
     kept_.clear();
 }
 

@@ -15,7 +15,8 @@ class BlockPool {
     static constexpr std::size_t kKeptBlocks = 1;
 
     static BlockPool& instance();
-    /// A block with undefined contents. std::bad_alloc when memory is short.
+    /// A block with undefined contents. std::bad_alloc when memory is short, NotEnoughMemory when it is more than the
+    /// command may take (MemoryBudget).
     std::uint8_t* take(std::size_t size);
     void give(std::uint8_t* block, std::size_t size) noexcept;
     /// Returns all kept blocks to the system.
@@ -27,6 +28,7 @@ class BlockPool {
         std::size_t size;
     };
     void drop() noexcept;
+    static void unmap(const Kept& kept) noexcept;
 
     std::mutex guard_;
     std::vector<Kept> kept_;

@@ -1,5 +1,7 @@
 // A change on a draft: what reaches the document, and when.
 #include "document/Draft.h"
+#include "document/resizing.h"
+#include "support/freeMemory.h"
 #include "support/pictures.h"
 #include <QTemporaryDir>
 
@@ -73,6 +75,17 @@ TEST_F(DraftTest, AnyStepInBetweenMakesItUnwanted)
     EXPECT_EQ(nullptr, handle.get());
     EXPECT_TRUE(handle == same);
     EXPECT_FALSE(handle == DocumentHandle());
+}
+
+TEST_F(DraftTest, AJobThatNeedsTooMuchMemoryFailsWithBothNumbersAndChangesNothing)
+{
+    const FreeMemory little(20'000'000);
+    Draft change = draft();
+    const Outcome outcome = change.attempt([](Document& d, cBitFilter& f) { resizeImage(d, f, 2001, 1998, false); });
+    EXPECT_EQ(Outcome::Failed, outcome.kind);
+    EXPECT_EQ("it needs 16 MB of memory, more than half of the 20 MB that are free", outcome.reason.toStdString());
+    EXPECT_TRUE(sameBits(before, document.bits()));
+    const Bits afterIt(2002, 1998); // the budget was the job's
 }
 
 TEST_F(DraftTest, RandomNumbersGoOnFromJobToJob)

@@ -3,8 +3,11 @@
 #include "document/Draft.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/numbers.h"
+#include "support/filterOf.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
+#include "tools/reference/definitions.h"
 #include <QTemporaryDir>
 
 namespace velara {
@@ -66,17 +69,19 @@ Bits numbered(int width, int height)
 
 TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)
 {
-    const Bits first = randomBits(8, 6, 1), second = randomBits(8, 6, 2), small = randomBits(3, 3, 3);
+    const Bits first = randomBits(8, 6, 1), second = randomBits(8, 6, 2);
     open(first);
-    for (const Bits& bits : {second, small}) {
+    for (const Bits& bits : {second, randomBits(8, 3, 3), randomBits(3, 3, 4)}) {
         document.setBits(bits);
         document.SaveUndoBits();
     }
-    select(1, 1, 3, 3);
-    ASSERT_TRUE(document.UndoBits(filter));
+    for (const int height : {3, 6}) { // of one side alone, then of the other
+        select(1, 1, 3, 3);
+        ASSERT_TRUE(document.UndoBits(filter));
+        EXPECT_TRUE(document.Region.IsEmptyRegion()) << height;
+        expectSize(8, height);
+    }
     EXPECT_TRUE(sameBits(second, filter.bits()));
-    EXPECT_TRUE(document.Region.IsEmptyRegion()) << "3 by 3 became 8 by 6";
-    expectSize(8, 6);
     select(2, 2, 4, 4);
     ASSERT_TRUE(document.UndoBits(filter));
     EXPECT_TRUE(sameBits(first, document.bits()));
@@ -145,11 +150,16 @@ TEST_F(ResizingTest, SizingThrowsNoEditAway)
     { // the edit can't be written, and the smaller picture can
         const FullDisk full(1000);
         edit();
+        for (const auto& [factor, size] : {std::pair{2, 10}, {3, 7}, {1, 20}}) {
+            zoom(factor);
+            EXPECT_EQ(size != 20, document.undo.stands());
+            expectSize(size, size);
+        }
+        EXPECT_EQ(colours(edited), colours(document.bits()));
         zoom(2);
-        ASSERT_TRUE(document.undo.stands());
-        zoom(2);
-        expectSize(5, 5); // a new run, from what was left
-        EXPECT_TRUE(document.Zoomed);
+        ASSERT_TRUE(document.UndoBits(filter));
+        EXPECT_EQ(colours(edited), colours(document.bits()));
+        EXPECT_FALSE(document.undo.passedOver());
     }
     open(bits);
     edit();
@@ -208,18 +218,58 @@ TEST_F(ResizingTest, QuarterTurnsMoveEveryPixel)
     }
 }
 
-TEST_F(ResizingTest, AnEighthOfATurnHoldsTheWholePicture)
+/// The definition: the picture laid in the middle of a black square, and all of that turned.
+cBitFilter turnedSquare(const Bits& picture, int side, int degrees, bool smooth)
 {
-    for (const bool quality : {false, true}) {
-        open(flatBits(40, 20, 9, 9, 9));
-        rotateImage(document, filter, -45, quality);
-        expectSize(42, 42); // (40 + 20) / sqrt 2
-        EXPECT_EQ(0, document.bits().at(0, 0).c[0]);
-        EXPECT_EQ(9, document.bits().at(21, 21).c[0]);
-        int inside = 0;
-        for (const int c : colours(document.bits())) inside += (c & 255) == 9;
-        EXPECT_NEAR(800, inside, quality ? 130 : 40) << "as many pixels as before, but for the edges";
-    }
+    cBitFilter square = filterOf(Bits(side, side));
+    const int left = (side - picture.width()) / 2, top = (side - picture.height()) / 2;
+    square.setBits(square.TileMask(picture, left, top, false, 0, -1));
+    const Arguments arguments = smooth ? Arguments{degrees} : Arguments{degrees, false};
+    const Definition turn = definitions().at(smooth ? "RotateSmooth" : "ROTATE");
+    square.setBits(turn(square.bits(), square.BitsRegion(), arguments));
+    return square;
+}
+
+/// Of the square only what is shown is ever worked out; halves of one pixel, the square's edge and what stays there
+/// because its source lies outside of it come out all the same.
+TEST_F(ResizingTest, TurningGivesWhatTheTurnedSquareHas)
+{
+    const std::pair<int, int> kSizes[] = {{1, 1}, {2, 1}, {7, 2}, {2, 9}, {8, 5}, {9, 6}, {90, 1}, {30, 31}, {70, 67}};
+    for (const auto& [w, h] : kSizes)
+        for (const int degrees : {-45, -90, -180, 90, 180, 0, 1, 30, 135, -179})
+            for (const bool smooth : {false, true}) {
+                const Bits picture = randomBits(w, h, 7); // margin and fourth bytes, too
+                open(picture);
+                turnOnSquare(document, filter, degrees, smooth);
+                const double diagonal = std::sqrt(w * w + h * h), angle = degrees * 0.0174533;
+                EXPECT_TRUE(sameBits(turnedSquare(picture, roundEven(diagonal), degrees, smooth).bits(), filter.bits()))
+                    << w << " x " << h << ", dialog, " << degrees << (smooth ? " smooth" : "");
+
+                open(picture);
+                rotateImage(document, filter, degrees, smooth);
+                const double c = std::fabs(std::cos(angle)), s = std::fabs(std::sin(angle));
+                const int side = int(diagonal), width = roundEven(h * s + c * w), height = roundEven(c * h + s * w);
+                const int left = (side - width) / 2, top = (side - height) / 2;
+                cBitFilter cut = turnedSquare(picture, side, degrees, smooth);
+                cut.BitsCrop(cut.bits(), left, top, left + width, top + height);
+                EXPECT_TRUE(sameBits(cut.bits(), filter.bits()))
+                    << w << " x " << h << ", word, " << degrees << (smooth ? " smooth" : "");
+            }
+}
+
+TEST_F(ResizingTest, WhatWouldBeTooLargeIsRefusedWithTheNumbers)
+{
+    open(Bits(30720, 96));
+    const auto refusal = [&](const Job& job) {
+        Draft draft(document, document.bits(), filter, After::Step);
+        return draft.attempt(job).reason.toStdString();
+    };
+    EXPECT_EQ("the picture would have 453 megapixels (21790 x 21790 pixels); at most 256 are possible",
+              refusal([](Document& d, cBitFilter& f) { rotateImage(d, f, -45, true); }));
+    EXPECT_EQ("the picture would have 61440 x 192 pixels; a side has at most 32767",
+              refusal([](Document& d, cBitFilter& f) { zoomImage(d, f, 2, true, false); }));
+    EXPECT_EQ("", refusal([](Document& d, cBitFilter& f) { rotateImage(d, f, -90, false); }));
+    EXPECT_TRUE(document.bits().sharesWith(filter.bits()));
 }
 
 TEST_F(ResizingTest, CroppingTakesTheBoxOfTheSelection)

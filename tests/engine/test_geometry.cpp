@@ -1,7 +1,8 @@
 // The operations that cut, turn and size, where their rules are easy to miss.
-#include "pixels/RuntimeError.h"
+#include "support/faults.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
+#include "tools/reference/definitions.h"
 
 namespace velara {
 namespace {
@@ -27,7 +28,8 @@ TEST(Geometry, UnusableSizesAndSourcesChangeNothing)
     cBitFilter f = filterOf(before);
     const std::function<void()> calls[] = {
         [&] { f.BitsCrop(before, 5, 0, 9, 4); },
-        [&] { f.BitsCrop(Bits(2, 2), 0, 0, 5, 4); }, // beyond the source
+        [&] { f.BitsCrop(Bits(4, 9), 0, 0, 5, 4); }, // beyond the source
+        [&] { f.BitsCrop(Bits(9, 3), 0, 0, 5, 4); },
         [&] { f.BitsCropMasked(before, 2, 2, 2, 3); },
         [&] { f.BitsResize(before, 0, 3); },
         [&] { f.BitsResize(before, 32768, 1); },
@@ -59,6 +61,32 @@ TEST(Geometry, ASecondObjectsPictureMayBeReplacedDuringProgress)
     f.Progress = [&](int percent) { percent == 100 ? void(result = f.bits()) : f.setBits(Bits(2, 2)); };
     f.BitsResample(f.bits(), 70, 50);
     EXPECT_TRUE(sameBits(quiet.bits(), result));
+}
+
+TEST(Geometry, ARunOfOneRowIsAtItsEndWhenAReportFallsDue)
+{
+    const struct {
+        const char* name;
+        Arguments arguments;
+        Bits bits;
+    } kCases[] = {{"EMBOSS", {10}, randomBits(30, 1, 1)},
+                  {"BitsResample", {9, 1}, randomBits(30, 7, 2)},
+                  {"LENS", {0.5, 0.5, 0.01, 50}, randomBits(30, 1, 3)},
+                  {"TileMask", {randomBits(9, 9, 4), 0, 6, false, 0, -1}, randomBits(30, 7, 5)}};
+    for (const auto& c : kCases) {
+        cBitFilter f = filterOf(c.bits);
+        f.clock = [now = 100u]() mutable { return now += 20; };
+        f.Progress = [&](int percent) { EXPECT_EQ(percent, 100) << c.name; };
+        EXPECT_EQ(faultOf([&] { findOperation(c.name)->call(f, c.arguments); }), std::nullopt) << c.name;
+    }
+}
+
+/// Pictures past the cache are copied in another way beside and between the selected pixels.
+TEST(Geometry, WhatIsNotSelectedStaysInALargePicture)
+{
+    const Bits before = randomBits(2049, 2047, 5);
+    const Region ellipse = Region::ellipse(7, 1, 2041, 2040);
+    EXPECT_TRUE(sameBits(definitions().at("Invert")(before, ellipse, {}), run("Invert", {}, before, ellipse)));
 }
 
 TEST(Geometry, ANullPictureChangesNothing)

@@ -114,6 +114,21 @@ TEST(Dither, TheErrorGoesWhereItsNameSays)
         }
 }
 
+/// Up to the edges, where no line of errors begins.
+TEST(Dither, TheTwoOfAPairMirrorEachOther)
+{
+    Bits picture = randomBits(40, 40, 3), mirror(40, 40);
+    for (int i = 0; i < 40; ++i) picture.at(i, 0) = picture.at(0, i) = picture.at(39, i) = {};
+    for (int i = 0; i < 1600; ++i) mirror.at(39 - i % 40, i / 40) = picture.at(i % 40, i / 40);
+    for (const auto& [one, other] :
+         {std::pair{Dither::ForwardDiag, Dither::BackwardDiag}, {Dither::Odd, Dither::Even}}) {
+        const auto left = dithered(picture, vgaColours(), one).indices;
+        const auto right = dithered(mirror, vgaColours(), other).indices;
+        for (std::size_t i = 0; i < left.size(); ++i)
+            ASSERT_EQ(left[i], right[i / 40 * 40 + 39 - i % 40]) << int(one) << " at " << i % 40 << ',' << i / 40;
+    }
+}
+
 TEST(Dither, TheSmallestAndTheThinnest)
 {
     for (const Dither dither : kDithers)

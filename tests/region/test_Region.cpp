@@ -97,6 +97,22 @@ TEST(Region, StaysWhereItsCoordinatesWouldOverflow)
     EXPECT_EQ(a.translated(kMost - 5, kMost - 6).bounds(), (Rect{kMost - 8, kMost - 10, kMost, kMost}));
 }
 
+TEST(Region, WordsThatClaimWhatIsNotThereMakeNone)
+{
+    const Words words = wordsOf({1, 1, 4, 4, 6, 1, 9, 4, 11, 1, 14, 4});
+    const auto regionOf = [&](std::size_t given, std::size_t changed, std::int32_t to) {
+        Words claiming = words; // what lies behind the words given is there, and is no part of them
+        claiming[changed] = to;
+        return Region::fromWords(std::span(claiming).first(given));
+    };
+    EXPECT_EQ(regionOf(16, 2, 1), Region::rectangle(1, 1, 4, 4));
+    const std::tuple<std::size_t, std::size_t, int> kCases[] = {
+        {0, 2, 2},   {7, 2, 0},      {8, 2, 1},       {12, 2, 2},  {15, 2, 2},  {16, 2, 3},
+        {16, 2, -1}, {16, 2, kMost}, {16, 2, kLeast}, {16, 0, 31}, {16, 0, -32}};
+    for (const auto& [given, changed, to] : kCases)
+        EXPECT_TRUE(regionOf(given, changed, to).isNull()) << given << " words, word " << changed << " is " << to;
+}
+
 TEST(Region, IsScaledByWholeRectangles)
 {
     const Region two = Region::fromWords(wordsOf({0, 0, 5, 5, 5, 5, 10, 7}));

@@ -4,6 +4,7 @@
 #include "app/menus/fIcons.h"
 #include "fileio/SetupStore.h"
 #include "fileio/formats.h"
+#include "pixels/memory/MemoryBudget.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
@@ -223,6 +224,7 @@ void fMain::closeActive()
 void fMain::copyToNew()
 {
     const DocumentHandle from = active();
+    const MemoryBudget budget;
     auto image = std::make_unique<fImage>(*this);
     GetActiveImage()->BitsCopyToClipboard();
     image->PasteFromClipboard();
@@ -238,6 +240,7 @@ void fMain::copyToNew()
 
 void fMain::fromClipboard()
 {
+    const MemoryBudget budget;
     auto image = std::make_unique<fImage>(*this);
     image->PasteFromClipboard();
     if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Brought);

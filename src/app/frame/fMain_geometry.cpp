@@ -1,6 +1,7 @@
 // The dialogs that make and reshape a picture.
 #include "app/frame/fMain.h"
 #include "app/menus/fIcons.h"
+#include "pixels/memory/MemoryBudget.h"
 #include "seams/Platform.h"
 #include "ui/geometry/fCanvas.h"
 #include "ui/geometry/fNew.h"
@@ -18,7 +19,11 @@ void fMain::newPicture()
     fNew dialog(platform_, this);
     if (dialog.exec() != QDialog::Accepted) return;
     platform_.yield(); // the dialog goes before the new window comes
-    adopt(Bits(dialog.widthValue(), dialog.heightValue()), "New.bmp", Arrival::Made);
+    const auto made = [&] {
+        const MemoryBudget budget;
+        return Bits(dialog.widthValue(), dialog.heightValue());
+    };
+    adopt(made(), "New.bmp", Arrival::Made);
 }
 
 template <class Dialog> void fMain::askAndReshape(std::string_view word)

@@ -3,6 +3,7 @@
 #include "app/frame/fStatus.h"
 #include "document/Draft.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/memory/MemoryBudget.h"
 #include "seams/Platform.h"
 
 namespace velara {
@@ -18,6 +19,7 @@ Outcome fMain::change(const DocumentHandle& document, const Job& job, After afte
     Draft draft(*handle, committed ? cFilter_.bits() : handle->bits(), cFilter_, after);
     draft.filter().Progress = [&](int percent) {
         cFilter_Progress(percent);
+        const MemoryBudget meanwhile(MemoryBudget::Kind::Without); // what runs in the yield is no part of the job
         platform_.yield();
         if (closing_ || !draft.wanted()) throw Cancelled();
     };

@@ -78,10 +78,10 @@ std::optional<Bits> UndoFiles::read(int index) const
 
 void UndoFiles::remove(int index) const { QFile::remove(name(index)); }
 
-void UndoFiles::shift(int last) const
+void UndoFiles::drop(int index, int last) const
 {
-    remove(0);
-    for (int i = 1; i <= last; ++i) replaceFile(name(i), name(i - 1));
+    remove(index);
+    for (int i = index + 1; i <= last; ++i) replaceFile(name(i), name(i - 1));
 }
 
 void UndoFiles::removeAll() const

@@ -23,9 +23,9 @@ class UndoFiles {
     /// Nothing when the file is missing, short or damaged.
     std::optional<Bits> read(int index) const;
     void remove(int index) const;
-    /// Drops index 0 and moves 1 to last down by one. Upward, so that no file is overwritten; one that fails does not
-    /// stop the rest.
-    void shift(int last) const;
+    /// Drops the index and moves those above it, up to last, down by one. Upward, so that no file is overwritten; one
+    /// that fails does not stop the rest.
+    void drop(int index, int last) const;
     void removeAll() const;
 
   private:

@@ -2,6 +2,7 @@
 #include "document/undo/SnapshotWriter.h"
 #include "document/undo/UndoFiles.h"
 #include "document/undo/UndoMark.h"
+#include "pixels/memory/MemoryBudget.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -11,25 +12,27 @@
 
 namespace velara {
 
-/// Between the owner and the writing thread. While snapshots wait the files, the mark and the state are the thread's;
+/// Between the owner and the writing thread. While snapshots wait the files, the mark and the states are the thread's;
 /// else they are the owner's. The counters are read under the guard at any time.
 struct UndoStore::Series {
     Series(QString folder, int number) : files(std::move(folder), number) {}
 
+    /// One state of the series; without a picture its file has it.
+    struct State {
+        std::optional<Bits> picture; // which the disk could not take
+        bool gap = false;            // what was shown before it is not in the series
+    };
     UndoFiles files;
     UndoMark mark;
     std::function<void(const QString&)> told;
     std::atomic<bool> abandoned{false};
+    std::array<State, kLimit + 1> states; // by index
 
     mutable std::mutex guard;
     mutable std::condition_variable written;
-    int waiting = 0;       // snapshots on their way
-    int step = 0, top = 0; // as the files have it
-    bool everFailed = false;
-    std::array<bool, kLimit + 1> gap{}; // by index: what was shown before this state is not in the series
-    std::optional<Bits> unsaved;        // follows the state of the step at which it couldn't be written
-    bool unsavedGap = false;            // and didn't follow it directly
-    bool onUnsaved = false;             // it is what is shown
+    int waiting = 0; // snapshots on their way
+    int step = 0, top = 0;
+    std::atomic<bool> everFailed{false};
     bool passedOver = false;
 
     std::unique_lock<std::mutex> settled() const
@@ -39,15 +42,16 @@ struct UndoStore::Series {
         return lock;
     }
     int shownStep() const { return std::min(step + waiting, kLimit); }
+    State& of(int index) { return states[static_cast<std::size_t>(index)]; }
+    std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
 
-    // --- On the writing thread
+    // --- On the writing thread; count is how many states there are.
     bool ready();
-    bool put(const Bits& bits, bool follows);
-    void write(const Bits& bits);
-    void failed(const Bits& bits, bool follows, int reason);
-
-    // --- Of the owner, settled
-    std::optional<Bits> stepTo(int index);
+    int write(const Bits& bits);
+    int hold(const Bits& bits, int index);
+    int keepOlder(int count, bool ours);
+    int drop(int index, int count, bool ours);
+    void tell(int reason) const;
 };
 
 /// The folder may have been swept away since the last step.
@@ -59,48 +63,70 @@ bool UndoStore::Series::ready()
     return mark.take(files.folder(), files.number()) == UndoMark::Answer::Ours;
 }
 
-/// One snapshot into the series; follows: the state before it is the one of the step.
-bool UndoStore::Series::put(const Bits& bits, bool follows)
+/// A state goes for good, and those above it move down. The one that follows it, be it the one to come, has a gap
+/// before it.
+int UndoStore::Series::drop(int index, int count, bool ours)
 {
-    const bool full = step >= kLimit;
-    if (!(full ? files.writeOverOldest(step, bits) : files.write(step, bits))) return false;
-    if (full) files.shift(kLimit); // ten snapshots stand, the state on screen is one of them
-    const std::lock_guard lock(guard);
-    gap[static_cast<std::size_t>(step)] = !follows;
-    if (full)
-        std::shift_left(gap.begin(), gap.end(), 1);
-    else
-        ++step;
-    top = step;
-    return true;
+    if (ours) files.drop(index, count - 1);
+    std::shift_left(states.begin() + index, states.begin() + count, 1);
+    of(count - 1) = {};
+    of(index).gap = true;
+    return count - 1;
 }
 
-void UndoStore::Series::write(const Bits& bits)
+/// What only memory has goes to the disk as soon as that has room. The rest may take as much memory as it leaves free;
+/// beyond that the oldest goes.
+int UndoStore::Series::keepOlder(int count, bool ours)
 {
-    const bool ours = ready(), hadToWait = unsaved && onUnsaved;
-    bool follows = !hadToWait, done = false;
-    if (ours) {
-        for (int i = step + 1; i <= top; ++i) files.remove(i); // before the write: it may need the room
-        if (hadToWait) follows = put(*unsaved, !unsavedGap);   // what stayed in memory may fit now
-        done = put(bits, follows);
+    std::int64_t kept = 0;
+    for (int i = 0; i < count; ++i) {
+        std::optional<Bits>& picture = of(i).picture;
+        if (picture && ours && kept == 0 && files.write(i, *picture)) picture.reset();
+        if (picture) kept += static_cast<std::int64_t>(picture->sizeInBytes());
     }
-    const int reason = errno;
-    if (ours && !done) files.remove(step); // what could be redone
-    if (!done) return failed(bits, follows, reason);
-    const std::lock_guard lock(guard);
-    unsaved.reset();
-    onUnsaved = false;
+    if (kept == 0) return count;
+    const int reason = errno; // of the last write
+    const std::int64_t room = files.folder().isEmpty() ? 0 : MemoryBudget::available();
+    for (int i = 0; kept > room; ++i)
+        if (const std::optional<Bits>& picture = of(i).picture) {
+            kept -= static_cast<std::int64_t>(picture->sizeInBytes());
+            count = drop(i--, count, ours);
+        }
+    errno = reason;
+    return count;
 }
 
-void UndoStore::Series::failed(const Bits& bits, bool follows, int reason)
+/// One snapshot. What could be redone goes first: the disk may need its room.
+int UndoStore::Series::write(const Bits& bits)
 {
-    {
-        const std::lock_guard lock(guard);
-        top = step;
-        unsaved = bits;
-        unsavedGap = !follows;
-        onUnsaved = everFailed = true;
+    const bool ours = ready();
+    for (int i = step + 1; i <= top && ours; ++i) files.remove(i);
+    std::fill(states.begin() + step, states.end(), State());
+    int count = keepOlder(step, ours);
+    if (of(count).gap) tell(errno);
+    bool done = false;
+    if (count == kLimit) { // ten states stand, the one on screen is one of them
+        done = ours && files.writeOverOldest(count, bits);
+        if (ours) files.drop(0, count);
+        std::shift_left(states.begin(), states.end(), 1);
+        --count;
     }
+    done = done || (ours && files.write(count, bits));
+    if (done) return count + 1;
+    if (ours) files.remove(count); // what could be redone
+    return hold(bits, count);
+}
+
+/// The newest state as one that only memory has.
+int UndoStore::Series::hold(const Bits& bits, int index)
+{
+    of(index).picture = bits;
+    everFailed = true;
+    return index + 1;
+}
+
+void UndoStore::Series::tell(int reason) const
+{
     const bool noRoom = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
     if (told)
         told(noRoom ? QStringLiteral("no room in the Temp folder")
@@ -142,24 +168,15 @@ int UndoStore::UndoTop() const
     return series_->waiting > 0 ? series_->shownStep() : series_->top;
 }
 
-bool UndoStore::canUndo() const
-{
-    const std::lock_guard lock(series_->guard);
-    return series_->shownStep() > (series_->onUnsaved ? 0 : 1);
-}
+bool UndoStore::canUndo() const { return UndoStep() > 1; }
 
 bool UndoStore::canRedo() const
 {
     const std::lock_guard lock(series_->guard);
-    const Series& s = *series_;
-    return s.waiting == 0 && (s.step < s.top || (s.unsaved && !s.onUnsaved));
+    return series_->waiting == 0 && series_->step < series_->top;
 }
 
-bool UndoStore::mayHaveChanged() const
-{
-    const std::lock_guard lock(series_->guard);
-    return series_->everFailed || series_->shownStep() >= 2;
-}
+bool UndoStore::mayHaveChanged() const { return series_->everFailed || UndoStep() >= 2; }
 
 void UndoStore::save(const Bits& bits)
 {
@@ -170,13 +187,16 @@ void UndoStore::save(const Bits& bits)
         ++series_->waiting;
     }
     SnapshotWriter::instance().add([series = series_, picture = bits]() mutable {
+        const bool wanted = !series->abandoned;
+        int count = 0;
         try {
-            if (!series->abandoned) series->write(picture);
+            if (wanted) count = series->write(picture);
         } catch (const std::exception&) { // no memory for a path
-            series->failed(picture, false, ENOMEM);
+            count = series->hold(picture, std::min(series->step, kLimit - 1));
         }
         picture = Bits(); // before anybody hears of it: the next edit need not copy it then
         const std::lock_guard lock(series->guard);
+        if (wanted) series->step = series->top = count;
         --series->waiting;
         series->written.notify_all();
     });
@@ -185,46 +205,31 @@ void UndoStore::save(const Bits& bits)
 bool UndoStore::stands() const
 {
     const auto lock = series_->settled();
-    return !series_->onUnsaved;
+    return series_->step == 0 || !series_->of(series_->step - 1).picture;
 }
 
 std::optional<Bits> UndoStore::previous() const
 {
     const auto lock = series_->settled();
-    const Series& s = *series_;
-    const int index = s.onUnsaved ? s.step - 1 : s.step - 2;
-    const bool lost = index < 0 || (s.onUnsaved ? s.unsavedGap : s.gap[static_cast<std::size_t>(s.step - 1)]);
-    return lost ? std::nullopt : s.files.read(index);
+    Series& s = *series_;
+    return s.step < 2 || s.of(s.step - 1).gap ? std::nullopt : s.pictureOf(s.step - 2);
 }
 
 void UndoStore::stepBack()
 {
     const auto lock = series_->settled();
-    if (series_->onUnsaved)
-        series_->onUnsaved = false;
-    else if (series_->step > 1)
-        --series_->step;
-}
-
-/// The state of the index is shown now.
-std::optional<Bits> UndoStore::Series::stepTo(int index)
-{
-    std::optional<Bits> bits = files.read(index);
-    if (!bits) return {};
-    step = index + 1;
-    onUnsaved = false;
-    return bits;
+    if (series_->step > 1) --series_->step;
 }
 
 std::optional<Bits> UndoStore::undo()
 {
     const auto lock = series_->settled();
     Series& s = *series_;
-    const int nearest = s.onUnsaved ? s.step - 1 : s.step - 2;
-    const bool leavesUnsaved = s.onUnsaved || (s.step > 0 && s.gap[static_cast<std::size_t>(s.step - 1)]);
-    for (int i = nearest; i >= 0; --i)
-        if (auto bits = s.stepTo(i)) {
-            s.passedOver = leavesUnsaved || i < nearest;
+    const int shown = s.step - 1;
+    for (int i = shown - 1; i >= 0; --i)
+        if (auto bits = s.pictureOf(i)) {
+            s.step = i + 1;
+            s.passedOver = s.of(shown).gap || i < shown - 1;
             return bits;
         }
     return {};
@@ -234,18 +239,14 @@ std::optional<Bits> UndoStore::redo()
 {
     const auto lock = series_->settled();
     Series& s = *series_;
-    if (s.onUnsaved) return {};
     const int nearest = s.step;
     for (int i = nearest; i < s.top; ++i)
-        if (auto bits = s.stepTo(i)) {
-            s.passedOver = i > nearest || s.gap[static_cast<std::size_t>(i)];
+        if (auto bits = s.pictureOf(i)) {
+            s.step = i + 1;
+            s.passedOver = i > nearest || s.of(i).gap;
             return bits;
         }
-    if (!s.unsaved) return {};
-    s.step = s.top;
-    s.onUnsaved = true;
-    s.passedOver = nearest < s.top || s.unsavedGap;
-    return s.unsaved;
+    return {};
 }
 
 bool UndoStore::passedOver() const { return series_->passedOver; }

@@ -3,8 +3,8 @@
 //
 // Snapshots are written by a thread, in order, from the shared value that they are, so that an edit doesn't wait for
 // the disk. Counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be
-// written stays in memory until the next one is: from there undo goes to the last state that stands, and redo comes
-// back.
+// written stays in memory, as a step like the others: the one on screen always, older ones as long as they leave as
+// much memory free as they take. What goes then is passed over.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
@@ -38,7 +38,7 @@ class UndoStore {
     /// The picture becomes the next step, what could be redone is cut, and the oldest goes from a full series. Returns
     /// at once unless the snapshot before the last one is still being written.
     void save(const Bits& bits);
-    /// Waits for the writing. True when the state shown is in the series, or none was ever saved.
+    /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture that was shown before this one, the counters as they were; nothing when it is lost.
     std::optional<Bits> previous() const;
@@ -53,8 +53,8 @@ class UndoStore {
     /// Removes every file of the document; snapshots that wait are not written any more.
     void deleteSeries();
 
-    /// Called from the writing thread when a snapshot couldn't be written, with the reason for a person. To be set
-    /// before the first save.
+    /// Called from the writing thread when the state before a snapshot can be kept neither on the disk nor in memory,
+    /// so that the step can't be undone, with the reason for a person. To be set before the first save.
     void onFailure(std::function<void(const QString& reason)> told);
 
     QString fileName(int index) const;

@@ -4,45 +4,24 @@
 
 namespace velara {
 
-namespace {
-
-/// A turn about the centre, cosine and sine kept in single.
-struct Turn {
-    int cx, cy;
-    float cs, sn;
-
-    Turn(const Bits& bits, int degrees)
-        : cx(bits.maxX() / 2), cy(bits.maxY() / 2), cs(static_cast<float>(std::cos(degrees * kDegreesToRadians))),
-          sn(static_cast<float>(std::sin(degrees * kDegreesToRadians)))
-    {
-    }
-};
-
-} // namespace
-
 Bits cBitFilter::ROTATE(int Degrees, bool Clean)
 {
-    const Turn turn(bits_, Degrees);
-    return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        const double dx = x0 - turn.cx, dy = y - turn.cy;
-        lineOfPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, sx);
-        lineOfPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, sy);
-    });
+    const Turn turn(bits_.maxX(), bits_.maxY(), Degrees);
+    return eachSource(
+        Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) { turn.nearest(x0, y, n, sx, sy); });
 }
 
 Bits cBitFilter::RotateSmooth(int Degrees)
 {
     const Bits in = bits_;
-    const Turn turn(in, Degrees);
+    const Turn turn(in.maxX(), in.maxY(), Degrees);
     return eachTile(kPlaces, [&](Bits& out, int x0, int x1, int y0, int y1) {
         std::int32_t ix[kPlaces], iy[kPlaces];
         float fx[kPlaces], fy[kPlaces];
         for (int y = y0; y < y1; ++y) {
-            const double dx = x0 - turn.cx, dy = y - turn.cy;
             const int n = x1 - x0;
             Pixel* to = out.row(y) + x0;
-            lineOfSplitPlaces(dx, turn.cs, -(dy * turn.sn), turn.cx, n, ix, fx);
-            lineOfSplitPlaces(dx, turn.sn, dy * turn.cs, turn.cy, n, iy, fy);
+            turn.split(x0, y, n, ix, iy, fx, fy);
             eachPlace(blendPixels(in, ix, iy, fx, fy, n, in.row(y) + x0, to), n, [&](int i) {
                 blendPixel(in.row(iy[i]) + ix[i], in.row(iy[i] + 1) + ix[i], fx[i], fy[i], to[i]);
             });

@@ -3,7 +3,9 @@
 #include "engine/deform/kernels_place.h"
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
+#include "pixels/numbers.h"
 #include <bit>
+#include <cmath>
 
 namespace velara {
 
@@ -30,11 +32,47 @@ template <class Run> void eachRun(int x0, int x1, Run&& run)
     for (int x = x0; x < x1; x += kPlaces) run(x, std::min(kPlaces, x1 - x));
 }
 
+/// A turn about the centre of a picture, cosine and sine kept in single.
+struct Turn {
+    int cx, cy;
+    float cs, sn;
+
+    Turn(int maxX, int maxY, int degrees)
+        : cx(maxX / 2), cy(maxY / 2), cs(static_cast<float>(std::cos(degrees * kDegreesToRadians))),
+          sn(static_cast<float>(std::sin(degrees * kDegreesToRadians)))
+    {
+    }
+    /// The sources of the n <= kPlaces targets from (x0, y), rounded.
+    void nearest(int x0, int y, int n, std::int32_t* sx, std::int32_t* sy) const
+    {
+        const double dx = x0 - cx, dy = y - cy;
+        lineOfPlaces(dx, cs, -(dy * sn), cx, n, sx);
+        lineOfPlaces(dx, sn, dy * cs, cy, n, sy);
+    }
+    /// The same as floor and rest.
+    void split(int x0, int y, int n, std::int32_t* ix, std::int32_t* iy, float* fx, float* fy) const
+    {
+        const double dx = x0 - cx, dy = y - cy;
+        lineOfSplitPlaces(dx, cs, -(dy * sn), cx, n, ix, fx);
+        lineOfSplitPlaces(dx, sn, dy * cs, cy, n, iy, fy);
+    }
+};
+
+/// A box in tiles of so many rows: tile(x0, x1, y0, y1) for its columns x0..x1-1 and rows y0..y1-1, and rowDone(y) for
+/// each row whose tiles are done.
+template <class Tile, class RowDone> void inTiles(const Box& box, int rows, Tile&& tile, RowDone&& rowDone)
+{
+    for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
+        const int y1 = std::min(y0 + rows, box.ymax + 1);
+        for (int x0 = box.xmin; x0 <= box.xmax; x0 += kPlaces) tile(x0, std::min(x0 + kPlaces, box.xmax + 1), y0, y1);
+        for (int y = y0; y < y1; ++y) rowDone(y);
+    }
+}
+
 /// The targets of the box inside the picture, in tiles of so many rows. tile(out, x0, x1, y0, y1) writes all four bytes
 /// of each pixel of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
 template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
 {
-    constexpr int kSide = kPlaces;
     const Bits in = bits_;
     const Box box = insidePicture(GetBounds(0), in);
     if (box.isEmpty()) {
@@ -43,15 +81,13 @@ template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
-        const int y1 = std::min(y0 + rows, box.ymax + 1);
-        for (int x0 = box.xmin; x0 <= box.xmax; x0 += kSide) tile(out, x0, std::min(x0 + kSide, box.xmax + 1), y0, y1);
-        for (int y = y0; y < y1; ++y) {
+    inTiles(
+        box, rows, [&](int x0, int x1, int y0, int y1) { tile(out, x0, x1, y0, y1); },
+        [&](int y) {
             copyPixels(in.row(y), out.row(y), -Bits::kMargin, box.xmin);
             copyPixels(in.row(y), out.row(y), box.xmax + 1, in.width() + Bits::kMargin);
             progressDue(y, in.maxY());
-        }
-    }
+        });
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;

@@ -3,6 +3,7 @@
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/Shrinker.h"
+#include "pixels/memory/MemoryBudget.h"
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
@@ -166,6 +167,8 @@ try {
     DecoderProcess child(decoder, file, format, limits, goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
     return receivePicture(child, Capacity(format, size), begin);
+} catch (const NotEnoughMemory& refusal) {
+    return {false, refusal.what()};
 } catch (const std::bad_alloc&) {
     return {false, "there is not enough memory for it"};
 }
@@ -222,7 +225,10 @@ LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, co
     Bits bits;
     const Ending ending = load(file, extension, decoder, limits, goOn, [&](const decode::Opening& opening) {
         const int height = opening.height;
-        bits = Bits::uninitialized(opening.width, height);
+        {
+            const MemoryBudget budget;
+            bits = Bits::uninitialized(opening.width, height);
+        }
         for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
         return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
     });

@@ -270,7 +270,10 @@ void fLayers::tellDocument()
     if (!document || waiting_ == hasTexts()) return;
     waiting_ = hasTexts();
     document->waitingWork = nullptr;
-    if (waiting_) document->waitingWork = [this] { return apply() && close(); };
+    if (waiting_)
+        document->waitingWork = [alive = QPointer(this)] {
+            return !alive || (alive->apply() && (!alive || alive->close())); // a change lets anything happen
+        };
     emit waitingChanged();
 }
 
@@ -301,8 +304,10 @@ bool fLayers::apply()
 {
     const QPointer<fLayers> alive = this;
     if (!document_ || done_) return true;
+    canvas_->edit(false);
+    followDocument();
     const Outcome outcome =
-        frame_.change(document_, [merged = Blend()](Document& draft, cBitFilter&) { draft.setBits(merged); });
+        frame_.change(document_, [layers = layers_](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); });
     if (!alive) return false;
     if (!outcome) frame_.report(windowTitle(), outcome);
     done_ = outcome || outcome.kind == Outcome::Gone;

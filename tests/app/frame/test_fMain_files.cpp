@@ -4,6 +4,7 @@
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
 #include "support/files.h"
+#include "support/freeMemory.h"
 #include "support/fullDisk.h"
 #include <QtTest>
 #include <QtWidgets>
@@ -170,7 +171,12 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     const Bits before = image->bits();
     {
         const FullDisk full(1000);
+        const FreeMemory none(0); // for steps back
         frame->Mmenu("INVERT");
+        EXPECT_FALSE(image->document().undo.stands());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(frame->status().currentMessage(), "") << "it can be undone";
+        frame->Mmenu("FLIPH");
         EXPECT_FALSE(image->document().undo.stands());
     }
     QCoreApplication::processEvents();
@@ -402,7 +408,9 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     const fImage* image = frame->GetActiveImage();
     const Bits before = image->bits();
     frame->Mmenu("INVERT");
-    EXPECT_FALSE(image->bits() == before); // works, but can't be undone
+    EXPECT_FALSE(image->bits() == before);
+    frame->Mmenu("UNDO");
+    EXPECT_TRUE(image->bits() == before) << "the step was in memory";
     setup.AskToSave = false;
     frame->close();
     EXPECT_FALSE(frame->isVisible());

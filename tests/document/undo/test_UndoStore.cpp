@@ -1,6 +1,7 @@
 #include "document/undo/UndoMark.h"
 #include "document/undo/UndoStore.h"
 #include "support/files.h"
+#include "support/freeMemory.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include <QDir>
@@ -156,6 +157,7 @@ TEST_F(UndoStoreTest, ADamagedStepChangesNothing)
         {"not a header", QByteArray(good.size(), 'x')},
         {"another header size", withWord(0, 108)},
         {"16 bits a pixel", withWord(12, 1 | 16 << 16)},
+        {"two planes", withWord(12, 2 | 32 << 16)},
         {"wider than the file", withWord(4, 1000000)},
         {"huge", withWord(4, INT32_MAX)},
         {"margin only", withWord(4, 4)},
@@ -183,29 +185,56 @@ TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
     ASSERT_TRUE(store.undo()); // the edit cuts what could be redone, written or not
     const Bits first = randomBits(40, 40, 9), second = randomBits(40, 40, 10);
     {
-        const FullDisk full(300);
+        const FullDisk full(500);
         EXPECT_FALSE(save(first));
-        EXPECT_EQ("no room in the Temp folder", told);
-        expectCounters(2, 2);
+        expectCounters(3, 3);
         EXPECT_EQ(2, files().size()) << "no half-written file stays";
         EXPECT_FALSE(store.canRedo());
         EXPECT_TRUE(sameBits(picture(1), store.previous().value_or(Bits())));
-        expectUndo(picture(1), true);
+        expectUndo(picture(1));
         expectRedo(first);
-        expectUndo(picture(1), true);
-        expectUndo(picture(0));
-        expectRedo(picture(1));
-        expectRedo(first);
+        saveMany(3, 1); // what fits on the disk goes there, over one that doesn't
         EXPECT_FALSE(save(second));
-        EXPECT_FALSE(store.previous()) << "the first is lost";
-        expectUndo(picture(1), true);
-        expectRedo(second, true);
+        expectUndo(picture(3));
+        expectUndo(first);
+        expectUndo(picture(1));
+        for (const Bits& bits : {first, picture(3), second}) expectRedo(bits);
+        EXPECT_EQ("", told) << "each step can be undone";
     }
-    saveMany(3, 1); // there is room again, for the one in memory too
+    saveMany(4, 1); // there is room again, for those in memory too
+    EXPECT_EQ(6, files().size());
     expectUndo(second);
-    expectUndo(picture(1), true);
-    expectRedo(second, true);
     EXPECT_TRUE(store.mayHaveChanged());
+}
+
+TEST_F(UndoStoreTest, WhatMemoryCannotKeepEitherIsToldAndPassedOver)
+{
+    std::vector<std::string> told;
+    store.onFailure([&](const QString& reason) { told.push_back(reason.toStdString()); });
+    saveMany(0, 2);
+    const Bits large = randomBits(40, 40, 9), larger = randomBits(50, 40, 10), last = randomBits(60, 40, 11);
+    const FullDisk full(500);
+    EXPECT_FALSE(save(large));
+    {
+        const FreeMemory twoOfThem(std::int64_t(large.sizeInBytes() + larger.sizeInBytes()));
+        EXPECT_FALSE(save(larger));
+        EXPECT_FALSE(save(last));
+        EXPECT_TRUE(told.empty());
+    }
+    expectCounters(5, 5);
+    const FreeMemory one(std::int64_t(last.sizeInBytes()));
+    EXPECT_FALSE(save(large)); // the oldest two go
+    EXPECT_TRUE(told.empty()) << "what was shown before stays";
+    expectUndo(last);
+    expectUndo(picture(1), true);
+    expectRedo(last, true);
+    const FreeMemory none(0);
+    saveMany(5, 1);
+    EXPECT_EQ(std::vector<std::string>{"no room in the Temp folder"}, told);
+    EXPECT_FALSE(store.previous());
+    expectCounters(3, 3);
+    expectUndo(picture(1), true);
+    expectUndo(picture(0));
 }
 
 TEST_F(UndoStoreTest, ALostFirstSnapshotCountsAsAChange)
@@ -219,6 +248,18 @@ TEST_F(UndoStoreTest, ALostFirstSnapshotCountsAsAChange)
     }
     saveMany(1, 1);
     expectUndo(picture(0));
+}
+
+TEST_F(UndoStoreTest, FewSnapshotsWaitForTheDisk)
+{
+    std::vector<Bits> pictures;
+    for (int i = 0; i < 8; ++i) pictures.push_back(Bits(2000, 2000));
+    std::vector<std::weak_ptr<const std::uint8_t[]>> blocks;
+    for (Bits& bits : pictures) {
+        blocks.push_back(bits.block());
+        store.save(std::exchange(bits, Bits()));
+        EXPECT_TRUE(blocks.size() < 3 || blocks[blocks.size() - 3].expired()) << blocks.size();
+    }
 }
 
 TEST_F(UndoStoreTest, AFileThatWentAwayIsPassedOver)
@@ -315,7 +356,7 @@ TEST_F(UndoStoreTest, ALinkInThePlaceOfAFileIsNotFollowed)
     expectUndo(picture(2));
 }
 
-TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsNothing)
+TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsTheOldestAlone)
 {
     saveMany(0, 10);
     {
@@ -323,8 +364,8 @@ TEST_F(UndoStoreTest, AFailedWriteOfAFullSeriesDropsNothing)
         EXPECT_FALSE(save(randomBits(40, 40, 9)));
     }
     expectCounters(10, 10);
-    EXPECT_EQ(10, files().size());
-    for (int i = 9; i >= 0; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
+    EXPECT_EQ(9, files().size());
+    for (int i = 9; i >= 1; --i) EXPECT_TRUE(sameBits(picture(i), store.undo().value())) << i;
 }
 
 TEST_F(UndoStoreTest, DeletingTakesOneDocumentsFilesOnly)
