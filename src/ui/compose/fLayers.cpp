@@ -256,11 +256,11 @@ void fLayers::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Escape) QDialog::keyPressEvent(event);
 }
 
-Bits fLayers::Blend()
+const Layers& fLayers::asTyped()
 {
     canvas_->edit(false); // what an input method is still composing is not part of the text
     followDocument();
-    return layers_.Blend();
+    return layers_;
 }
 
 /// The document asks for the texts before it closes.
@@ -304,10 +304,8 @@ bool fLayers::apply()
 {
     const QPointer<fLayers> alive = this;
     if (!document_ || done_) return true;
-    canvas_->edit(false);
-    followDocument();
     const Outcome outcome =
-        frame_.change(document_, [layers = layers_](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); });
+        frame_.change(document_, [layers = asTyped()](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); });
     if (!alive) return false;
     if (!outcome) frame_.report(windowTitle(), outcome);
     done_ = outcome || outcome.kind == Outcome::Gone;

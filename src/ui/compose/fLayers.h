@@ -29,8 +29,8 @@ class fLayers final : public QDialog {
     const DocumentHandle& document() const { return document_; }
     /// Whether something was typed that is neither merged nor let go of.
     bool hasTexts() const { return !done_ && layers_.hasText(); }
-    /// The picture with its texts.
-    Bits Blend();
+    /// The layers over the document's present picture, with what is still being typed.
+    const Layers& asTyped();
 
   signals:
     /// There are texts now, or none any more; the document's waitingWork has been set.

@@ -135,7 +135,7 @@ TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
     QTest::keyClicks(canvas(), "d");
     keys({Qt::Key_Up, Qt::Key_Home, Qt::Key_Delete}); // "xyc", "d"
     Bits wanted = printed(printed(picture, {50, 50}, "xyc"), {50, 63}, "d");
-    EXPECT_TRUE(sameBits(wanted, dialog->Blend()));
+    EXPECT_TRUE(sameBits(wanted, dialog->asTyped().Blend()));
     EXPECT_EQ(26, shape(index).height()) << "two lines";
     keys({Qt::Key_Right, Qt::Key_Down});
     keys({Qt::Key_Left}, Qt::ShiftModifier);
@@ -148,10 +148,10 @@ TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
     QCoreApplication::sendEvent(canvas(), &committed);
     keys({Qt::Key_Escape});
     wanted = printed(printed(picture, {41, 51}, "p"), {41, 64}, "qwxyc");
-    EXPECT_TRUE(sameBits(printed(wanted, {41, 77}, "d"), dialog->Blend()));
+    EXPECT_TRUE(sameBits(printed(wanted, {41, 77}, "d"), dialog->asTyped().Blend()));
     keys({Qt::Key_Delete});
     EXPECT_FALSE(dialog->findChild<QWidget*>(QString("lblShape_%1").arg(index)));
-    EXPECT_TRUE(sameBits(picture, dialog->Blend()));
+    EXPECT_TRUE(sameBits(picture, dialog->asTyped().Blend()));
     EXPECT_TRUE(dialog->isVisible()) << "Esc cost nothing";
 }
 
