@@ -3,6 +3,7 @@
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/fullDisk.h"
+#include "support/seed.h"
 #include <random>
 
 namespace velara {
@@ -72,7 +73,7 @@ TEST_F(SetupStore, AFirstRunHasDefaultsAndARunThatDiedLeavesZeros)
 
 TEST_F(SetupStore, AnyFileIsSurvived)
 {
-    std::mt19937 random(1);
+    std::mt19937 random(seedOf(1));
     for (const int length : {0, 1, 7, 263, 264, 2345, 3080, 3081, 5000}) {
         QByteArray bytes(length, '\0');
         for (char& c : bytes) c = static_cast<char>(random());

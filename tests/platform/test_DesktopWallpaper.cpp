@@ -11,7 +11,7 @@ namespace velara {
 
 namespace {
 
-/// The desktop's programs are scripts that write down how they are called.
+/// The desktop's programs are scripts that write down how they are called; no other program is found.
 struct Desktop {
     QTemporaryDir folder;
     QByteArray path = qgetenv("PATH");
@@ -20,7 +20,7 @@ struct Desktop {
     explicit Desktop(const char* name)
     {
         qputenv("XDG_CURRENT_DESKTOP", name);
-        qputenv("PATH", folder.path().toUtf8() + ":/bin:/usr/bin");
+        qputenv("PATH", folder.path().toUtf8());
     }
     ~Desktop()
     {

@@ -4,6 +4,7 @@
 #include "platform/nameFilters.h"
 #include "support/files.h"
 #include "support/pictures.h"
+#include "support/ui/controls.h"
 #include <QtTest>
 #include <QtWidgets>
 
@@ -153,7 +154,7 @@ TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         dialog.resize(901, 523);
         dialog.findChild<QLineEdit*>("fileNameEdit")->setText("x.png");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
+        EXPECT_TRUE(comes([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         EXPECT_EQ(shown(dialog, "previewName"), "x.png");
         dialog.setDirectory(other.path());
         dialog.reject();
@@ -163,7 +164,7 @@ TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
         EXPECT_EQ(dialog.size(), QSize(901, 523));
         EXPECT_EQ(dialog.directory().path(), folder.path());
         dialog.selectFile("x.png");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
+        EXPECT_TRUE(comes([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         static_cast<QDialog&>(dialog).accept();
     });
     EXPECT_EQ(platform.openFileName(request), path("x.png"));

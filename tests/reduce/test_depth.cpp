@@ -4,6 +4,7 @@
 #include "reduce/EuroDepth.h"
 #include "support/gdiFacts.h"
 #include "support/pictures.h"
+#include "support/seed.h"
 #include <algorithm>
 #include <random>
 
@@ -98,7 +99,7 @@ TEST(Depth, EveryMethodIsThePlainDefinition)
 
 TEST(NearestColours, AnyPaletteByBothDistances)
 {
-    std::mt19937 random(3);
+    std::mt19937 random(seedOf(3));
     for (const int spread : {256, 40, 3, 0}) // far apart, close, nearly all alike, greys
         for (const std::size_t count : {1, 2, 7, 256, 1500}) {
             std::vector<Pixel> colours(count);

@@ -1,5 +1,6 @@
 #include "region/Region.h"
 #include "support/gdiFacts.h"
+#include "support/seed.h"
 #include <chrono>
 #include <gtest/gtest.h>
 #include <limits>
@@ -46,7 +47,7 @@ struct Mask {
 }
 
 struct RegionAlgebra : ::testing::Test {
-    std::mt19937 random{1};
+    std::mt19937 random{seedOf(1)};
     int within(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); }
 
     /// A few rectangles, some empty or inverted, in any order and overlapping.
@@ -143,7 +144,7 @@ TEST(Region, HostileWordsGiveARegionOrNone)
     EXPECT_TRUE(Region::fromWords(wordsOf(comb)).isNull());
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 
-    std::mt19937 random(7);
+    std::mt19937 random(seedOf(7));
     for (int trial = 0; trial < 3000; ++trial) {
         Words words(random() % 60);
         for (auto& w : words) w = random() % 3 ? static_cast<int>(random() % 50) - 5 : static_cast<int>(random());
@@ -247,7 +248,7 @@ TEST(RegionShapes, PolygonsAreJudgedAtTheUpperLeftCornerOfEachPixel)
         }
         return winding != 0;
     };
-    std::mt19937 random(11);
+    std::mt19937 random(seedOf(11));
     for (int trial = 0; trial < 400; ++trial) {
         Words points(2 * (1 + random() % 9));
         for (auto& p : points) p = static_cast<int>(random() % 41);

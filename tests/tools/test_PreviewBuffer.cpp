@@ -1,5 +1,6 @@
 #include "engine/cBitFilter.h"
 #include "support/pictures.h"
+#include "support/seed.h"
 #include "tools/PreviewBuffer.h"
 #include <QTemporaryDir>
 #include <random>
@@ -12,7 +13,7 @@ struct Preview : ::testing::Test {
     Document document{folder.path(), 1};
     cBitFilter filter;
     PreviewBuffer preview{document, filter};
-    std::mt19937 random{9};
+    std::mt19937 random{seedOf(9)};
 
     Preview()
     {

@@ -1,5 +1,6 @@
 #include "pixels/RuntimeError.h"
 #include "support/filterOf.h"
+#include "support/seed.h"
 #include "tools/ToolFixture.h"
 #include "tools/reference/paintTwins.h"
 #include <random>
@@ -363,7 +364,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
 /// the committed picture.
 TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
 {
-    std::mt19937 random(2024);
+    std::mt19937 random(seedOf(2024));
     const auto within = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
     const auto setting = [&] {
         return static_cast<std::int16_t>(within(0, 4) ? within(-2, 120) : within(-32768, 32767));

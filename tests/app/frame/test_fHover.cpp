@@ -28,7 +28,7 @@ struct HoverTest : FrameTest {
         const auto stands = [&] {
             return popups().size() == 1 && popups()[0]->findChild<QLabel*>("lblTool")->text().startsWith(name);
         };
-        return QTest::qWaitFor(stands, 4000) ? popups()[0] : nullptr;
+        return comes(stands) ? popups()[0] : nullptr;
     }
 };
 
@@ -50,7 +50,7 @@ TEST_F(HoverTest, ThePopUpStandsBesideTheToolsAndNamesItsTool)
     QCoreApplication::sendEvent(popups()[0], &enter);
     QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(popups()[0], &drop);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->documents().size() == 1; })) << "the frame's, which it covers";
+    EXPECT_TRUE(comes([&] { return frame->documents().size() == 1; })) << "the frame's, which it covers";
 }
 
 TEST_F(HoverTest, TheToolsHavePanesInTheSideAndBesideTheirButtons)
@@ -70,7 +70,7 @@ TEST_F(HoverTest, TheToolsHavePanesInTheSideAndBesideTheirButtons)
     click("Brush");
     EXPECT_EQ(controlOf<QSlider>(*side, "sbBrushSize")->value(), 77);
     QCursor::setPos(frame->mapToGlobal(QPoint(600, 400)));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return popups().isEmpty(); }, 2000));
+    EXPECT_TRUE(comes([&] { return popups().isEmpty(); }));
 }
 
 TEST(PicturesTest, NoTwoButtonsShowTheSame)

@@ -233,9 +233,9 @@ TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
         auto* box = dialog.findChild<QCheckBox*>("chkAskToSave");
         EXPECT_EQ(QString(box->text()).remove('&'), "Ask to save on Close/Exit");
         dialog.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(comes([&] { return dialog.isActiveWindow(); }));
         QTest::keyClick(&dialog, Qt::Key_A, Qt::AltModifier);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !box->isChecked(); }, 2000));
+        EXPECT_TRUE(comes([&] { return !box->isChecked(); }));
         platform.answers = {"/elsewhere"};
         dialog.findChild<QPushButton*>("cmdBrowsePath")->click();
         EXPECT_EQ(last(), "folder: Select Images default folder");

@@ -27,7 +27,6 @@ struct FrameMerging : FrameTest {
     }
     template <class T> T* find(const char* name) { return dialog->findChild<T*>(name); }
     void slide(const char* name, int value) { find<QSlider>(name)->setValue(value); }
-    void settle() { QTest::qWait(250); } // longer than from one look at the documents to the next
     Bits blend(const Merging& merging, const Region& region)
     {
         cBitFilter filter;
@@ -55,8 +54,7 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     EXPECT_EQ(2, find<QComboBox>("cbOverlay")->count());
     EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText()) << "not the picture itself";
     EXPECT_EQ("50%", find<QSpinBox>("lblTransparencyV")->text());
-    settle();
-    EXPECT_TRUE(shows(blend({above, 0, 0}, kAll)));
+    EXPECT_TRUE(comes([&] { return shows(blend({above, 0, 0}, kAll)); }));
     slide("sbXOffset", 25);
     find<QSpinBox>("txtYOffset")->setValue(-7);
     slide("sbTransparency", 30);
@@ -66,14 +64,12 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     const Pixel p = above.at(5, 5);
     find<fColorButton>("lblMaskColor")->setColour(colourOf(p.c[2], p.c[1], p.c[0]));
     lower->document().Region.CreateRect(10, 10, 100, 70, Combine::Or, true);
-    settle();
     const Bits wanted =
         blend({above, 25, -7, true, 30, colourOf(p.c[2], p.c[1], p.c[0])}, lower->document().Region.working());
     EXPECT_EQ("30%", find<QSpinBox>("lblTransparencyV")->text());
-    EXPECT_TRUE(shows(wanted)) << "it follows the selection too";
+    EXPECT_TRUE(comes([&] { return shows(wanted); })) << "it follows the selection too";
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
-    settle();
-    EXPECT_FALSE(dialog) << "it went";
+    EXPECT_TRUE(comes([&] { return !dialog; })) << "it went";
     EXPECT_TRUE(sameBits(wanted, lower->bits()));
     EXPECT_TRUE(sameBits(above, upper->bits()));
     frame->Mmenu("UNDO");
@@ -85,9 +81,8 @@ TEST_F(FrameMerging, ANewImageGetsTheWholeBlendAndThePictureStays)
     begin();
     lower->document().Region.CreateRect(10, 10, 20, 20, Combine::Or, true);
     find<QCheckBox>("chkCreateNew")->click();
-    settle();
     const Bits wanted = blend({above, 0, 0}, kAll);
-    EXPECT_TRUE(shows(wanted)) << "nothing is selected in a new picture";
+    EXPECT_TRUE(comes([&] { return shows(wanted); })) << "nothing is selected in a new picture";
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
     ASSERT_EQ(3, frame->documents().size());
     const fImage* made = frame->documents().back();
@@ -108,37 +103,29 @@ TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
                   [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(20, 10, 9, 9, 9)); });
     frame->change(upper->document().handle(),
                   [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(8, 8, 100, 50, 1)); });
-    settle();
-    EXPECT_EQ(20, find<QSlider>("sbXOffset")->value()) << "the picture is no wider any more";
+    EXPECT_TRUE(comes([&] { return find<QSlider>("sbXOffset")->value() == 20; })) << "it is no wider any more";
     slide("sbXOffset", 0);
-    settle();
     cBitFilter filter;
     filter.setBits(lower->bits());
     filter.setBitsRegion(Region::rectangle(0, 0, 20, 10));
-    EXPECT_TRUE(shows(merged(filter, {upper->bits(), 0, 0})));
+    EXPECT_TRUE(comes([&] { return shows(merged(filter, {upper->bits(), 0, 0})); }));
 
     open(randomBits(5, 5, 3), "third.bmp");
-    settle();
-    EXPECT_EQ(3, find<QComboBox>("cbOverlay")->count());
+    EXPECT_TRUE(comes([&] { return find<QComboBox>("cbOverlay")->count() == 3; }));
     EXPECT_EQ("above.bmp", find<QComboBox>("cbOverlay")->currentText());
 
     const Bits before = lower->bits();
     upper->parentWidget()->close();
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has seen it
-    settle();
-    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(comes([&] { return !dialog || find<QComboBox>("cbOverlay")->currentText() == "third.bmp"; }) && dialog);
     EXPECT_TRUE(sameBits(before, lower->bits())) << "another picture than the chosen one is not merged";
-    EXPECT_EQ("third.bmp", find<QComboBox>("cbOverlay")->currentText());
     for (fImage* image : frame->documents()) image->parentWidget()->close();
     slide("sbTransparency", 10);
-    settle();
-    ASSERT_TRUE(dialog && dialog->isVisible());
+    ASSERT_TRUE(comes([&] { return find<QComboBox>("cbOverlay")->count() == 0; }) && dialog->isVisible());
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
-    EXPECT_EQ(0, find<QComboBox>("cbOverlay")->count());
     EXPECT_TRUE(find<fPicture>("iSrc")->bits().isNull());
     open(below, "again.bmp");
-    settle();
-    EXPECT_TRUE(find<QPushButton>("cmdOK")->isEnabled());
+    EXPECT_TRUE(comes([&] { return find<QPushButton>("cmdOK")->isEnabled(); }));
 }
 
 } // namespace

@@ -29,12 +29,12 @@ struct UtilitiesTest : FrameTest {
     /// A control of a window that is still to come.
     template <class T> T* awaited(const char* window, const char* name)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return control<T>(window, name) != nullptr; }, 5000)) << window;
+        EXPECT_TRUE(comes([&] { return control<T>(window, name) != nullptr; })) << window;
         return control<T>(window, name);
     }
     fImage* waitForDocument()
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return frame->GetActiveImage() != nullptr; }, 5000));
+        EXPECT_TRUE(comes([this] { return frame->GetActiveImage() != nullptr; }));
         return frame->GetActiveImage();
     }
     void select(fImage* image, int left, int top, int right, int bottom)

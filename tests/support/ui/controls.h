@@ -1,5 +1,6 @@
 // The controls of a window under test, by their names, and a mouse whose buttons are told.
 #pragma once
+#include <QtTest>
 #include <QtWidgets>
 #include <stdexcept>
 
@@ -12,6 +13,9 @@ template <class Control = QWidget> Control* controlOf(const QObject& window, con
     if (!found) throw std::runtime_error("no control " + name.toStdString());
     return found;
 }
+
+/// Runs the event loop until the condition holds, for as long as a loaded machine may need. False: it never did.
+template <class Condition> bool comes(Condition condition) { return QTest::qWaitFor(condition, 60000); }
 
 /// Mouse event at a place of the widget, as the system sends it. \returns whether it was taken.
 inline bool sendMouse(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held,

@@ -20,7 +20,7 @@ struct Picker : WindowTest {
         used = &picker;
         picker.show();
         picker.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&picker));
+        ASSERT_TRUE(comes([&] { return picker.isActiveWindow(); }));
     }
     void enter(const char* name, const QString& text)
     {

@@ -26,7 +26,7 @@ struct LayersDialogTest : WindowTest {
         dialog = new fLayers(frame, document->handle());
         used = dialog;
         dialog->show();
-        QTest::qWait(10);
+        QCoreApplication::processEvents();
         find<QComboBox>("Cs")->setCurrentText("11"); // a character is 5 wide, a line 13 high
     }
     ~LayersDialogTest() override { delete dialog; }
@@ -220,7 +220,7 @@ TEST_F(LayersDialogTest, ClosesWithItsDocument)
     document.reset();
     frame.document = nullptr;
     QTest::keyClicks(canvas(), "still typing");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog || !dialog->isVisible(); }, 2000));
+    EXPECT_TRUE(comes([&] { return !dialog || !dialog->isVisible(); }));
 }
 
 } // namespace

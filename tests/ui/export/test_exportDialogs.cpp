@@ -36,7 +36,7 @@ struct ExportDialogs : WindowTest {
     }
     void idle()
     {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !web->isRunning(); }, 20000));
+        ASSERT_TRUE(comes([&] { return !web->isRunning(); }));
     }
     const WebSettings& settings() { return web->settings(); }
     const Bits& bits(const char* name) { return find<fPicture>(name)->bits(); }
@@ -72,8 +72,7 @@ TEST_F(ExportDialogs, DepthShowsAndHandsOnTheReducedPicture)
         EXPECT_TRUE(sameBits(bitsAtDepth(big, 4), bits("OptimizedP"))) << "the depth stays, at full size";
         EXPECT_TRUE(find<QScrollBar>("HHop")->isEnabled());
         menu->actions()[0]->trigger();
-        QTest::qWait(1);
-        EXPECT_FALSE(find<QScrollBar>("HHop")->isEnabled());
+        EXPECT_TRUE(comes([&] { return !find("HHop")->isEnabled(); }));
         click(toSaver ? "cmdSave" : "CmdOK");
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(Composer::None, ActiveComposer::current());
@@ -193,7 +192,7 @@ TEST_F(ExportDialogs, OneRunAfterTheLastChangeAndEscEndsIt)
         world.onYield = whileReading ? std::function<void()>() : escape;
         world.onRead = [&] { world.onYield = escape; };
         choose("CboFiles", "PNG-24 bit");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !used->isVisible(); }, 5000));
+        ASSERT_TRUE(comes([&] { return !used->isVisible(); }));
         EXPECT_EQ("", text("FileType2")) << "nothing came of it";
     }
 }

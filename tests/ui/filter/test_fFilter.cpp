@@ -37,7 +37,6 @@ struct FilterDialog : WindowTest {
         cBitFilter filter = frame.filter_;
         return findFilterRow(word)->call(filter, dialog->arguments());
     }
-    void settle() { QTest::qWait(60); }
 };
 
 TEST_F(FilterDialog, EveryFilterShowsItsControlsAndRuns)
@@ -75,7 +74,7 @@ TEST_F(FilterDialog, ASliderShowsItsValueAtOnceAndItsEffectWithinAFrame)
     for (int value = 1; value <= 90; ++value) slider->setValue(value);
     EXPECT_EQ("90", text("lblFilterV_0"));
     EXPECT_TRUE(sameBits(before, shown())) << "a burst of changes waits for its end";
-    const auto comesTo = [this](const Bits& bits) { return QTest::qWaitFor([&] { return shown() == bits; }, 2000); };
+    const auto comesTo = [this](const Bits& bits) { return comes([&] { return shown() == bits; }); };
     EXPECT_TRUE(comesTo(wanted("BRIGHTNESS"))) << "the picture fits the preview, so they are the same";
     EXPECT_EQ(nullptr, dialog->findChild<fPicturePage*>()) << "and there is no detail to show";
     click("chkPreview");
@@ -89,9 +88,7 @@ TEST_F(FilterDialog, TheDetailShowsTheWholeResultPixelForPixel)
     open("ADDGRID");
     auto* page = dialog->findChild<fPicturePage*>();
     ASSERT_NE(nullptr, page);
-    const auto shows = [&](const Bits& bits) {
-        return QTest::qWaitFor([&] { return sameBits(bits, page->picture().bits()); });
-    };
+    const auto shows = [&](const Bits& bits) { return comes([&] { return sameBits(bits, page->picture().bits()); }); };
     const QPointF middle = page->shown().center();
     EXPECT_NEAR(85, middle.x(), 60) << "it begins at the selection, as far as the picture's edge lets it";
     EXPECT_TRUE(shows(wanted("ADDGRID")));
@@ -124,7 +121,8 @@ TEST_F(FilterDialog, ExitAndEscapeLeaveThePicture)
     for (const bool byKey : {false, true}) {
         open("TWIRL");
         find<QSlider>("sbFilter_0")->setValue(70);
-        settle();
+        const Bits before = shown();
+        EXPECT_TRUE(comes([&] { return !(shown() == before); }));
         byKey ? QTest::keyClick(dialog.get(), Qt::Key_Escape) : click("cmdCancel");
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(0, steps());
@@ -196,8 +194,7 @@ TEST_F(FilterDialog, APressOnThePreviewPicksAColourOrTheCentre)
     EXPECT_EQ(0.25f, dialog->arguments().centerX);
     EXPECT_EQ(0.8f, dialog->arguments().centerY);
     const QImage before = source->grab().toImage();
-    QTest::qWait(500);
-    EXPECT_NE(before, source->grab().toImage()) << "the marker blinks";
+    EXPECT_TRUE(comes([&] { return before != source->grab().toImage(); })) << "the marker blinks";
 }
 
 TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
@@ -209,8 +206,7 @@ TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
     find<QComboBox>("cbo")->setCurrentIndex(2);
     EXPECT_EQ("horizontal", dialog->arguments().style);
     EXPECT_EQ(2, dialog->arguments().mode);
-    settle();
-    EXPECT_TRUE(sameBits(wanted("CUSTOMGLASS"), shown()));
+    EXPECT_TRUE(comes([&] { return sameBits(wanted("CUSTOMGLASS"), shown()); }));
     click("oo_3");
     EXPECT_EQ(0, dialog->arguments().mode) << "slanting has no such strength";
 

@@ -23,40 +23,33 @@ TEST_F(Texturize, ShowsWhatOkWillDoAndABrokenFileHarmsNothing)
     fTexturize dialog(platform, picture, selection);
     used = &dialog;
     dialog.show();
-    const auto settle = [] { QTest::qWait(30); };
     auto* list = find<QListWidget>("flTextures");
     auto* ok = find<QPushButton>("cmdOK");
     ASSERT_EQ(13, list->count());
     EXPECT_FALSE(ok->isEnabled()) << "the first one is broken";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list->item(0)->text().contains("can't be read"); }));
+    ASSERT_TRUE(comes([&] { return list->item(0)->text().contains("can't be read"); }));
     EXPECT_EQ("Velara2.bmp", list->item(2)->text());
     const auto thumbnail = [&] { return list->item(2)->icon().pixmap(64, 64).toImage().pixelColor(32, 32); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return thumbnail().alpha() == 255; })) << "its thumbnail";
+    EXPECT_TRUE(comes([&] { return thumbnail().alpha() == 255; })) << "its thumbnail";
     const auto shownIsDone = [&] {
         cBitFilter filter = filterOf(picture, selection);
         return sameBits(texturized(filter, dialog.texturing()), find<fPicture>("iBack")->bits());
     };
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
-    settle();
+    EXPECT_TRUE(comes([&] { return ok->isEnabled() && shownIsDone(); }));
     EXPECT_EQ("Velara2.bmp", text("txtTexture"));
-    EXPECT_TRUE(ok->isEnabled());
     EXPECT_EQ(256, dialog.texturing().texture.width());
     EXPECT_EQ(25, dialog.texturing().intensity);
-    EXPECT_TRUE(shownIsDone());
     QTest::keyClick(find<QSlider>("sbWeight"), Qt::Key_End);
     find<QComboBox>("cbDepth")->setCurrentIndex(1);
-    settle();
+    EXPECT_TRUE(comes(shownIsDone));
     EXPECT_EQ("100%", text("lblWeightV"));
     EXPECT_TRUE(dialog.texturing().engrave);
-    EXPECT_TRUE(shownIsDone());
     list->setCurrentRow(0);
-    settle();
-    EXPECT_FALSE(ok->isEnabled());
+    EXPECT_TRUE(comes([&] { return !ok->isEnabled(); }));
     click("chkUseImage");
-    settle();
-    EXPECT_TRUE(ok->isEnabled()) << "a picture needs no file";
+    EXPECT_TRUE(comes([&] { return ok->isEnabled() && shownIsDone(); })) << "a picture needs no file";
     EXPECT_TRUE(dialog.texturing().texture.isNull());
-    EXPECT_TRUE(shownIsDone());
     click("cmdOK");
     EXPECT_EQ(QDialog::Accepted, dialog.result());
 }
@@ -67,9 +60,7 @@ TEST_F(Texturize, APictureOfOnePixelHasNoReliefOfItsOwn)
     used = &dialog;
     dialog.show();
     click("chkUseImage");
-    QTest::qWait(10);
-    EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
-    EXPECT_FALSE(text("lblState").isEmpty());
+    EXPECT_TRUE(comes([&] { return !text("lblState").isEmpty() && !find("cmdOK")->isEnabled(); }));
 }
 
 } // namespace

@@ -156,7 +156,7 @@ TEST_F(Panes, StampsFollowTheirFolder)
     addStamp("b.bmp", 9);
     addStamp("a.bmp", 5);
     auto* list = find<QComboBox>("cbStamps");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; })) << "the folder has come";
+    ASSERT_TRUE(comes([&] { return list->count() == 2; })) << "the folder has come";
     EXPECT_TRUE(find<QLabel>("lblStamps")->isHidden());
     EXPECT_EQ(text("cbStamps"), "a.bmp");
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5);
@@ -166,10 +166,10 @@ TEST_F(Panes, StampsFollowTheirFolder)
     EXPECT_EQ(find<QLabel>("iStamp")->pixmap().width(), 9);
 
     addStamp("c.bmp", 7);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 3; }));
+    ASSERT_TRUE(comes([&] { return list->count() == 3; }));
     EXPECT_EQ(list->currentText(), "b.bmp") << "the chosen one stays";
     QFile::remove(frame.platform_.programFolder() + "/Stamps/b.bmp");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list->count() == 2; }));
+    ASSERT_TRUE(comes([&] { return list->count() == 2; }));
     EXPECT_EQ(frame.toolStores_.stamp.width(), 5) << "the chosen one is gone";
     make("Stamp");
     EXPECT_EQ(find<QComboBox>("cbStamps")->count(), 2);

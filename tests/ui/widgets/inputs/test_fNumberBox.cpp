@@ -1,4 +1,5 @@
 // The number beside a slider, typed into as a person does.
+#include "support/ui/controls.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include <QtTest>
 #include <QtWidgets>
@@ -16,7 +17,7 @@ struct NumberBox : ::testing::Test {
         auto* box = new fNumberBox(*slider, "number", measure);
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(comes([&] { return window.isActiveWindow(); }));
         box->setFocus();
         box->selectAll();
         return box;
