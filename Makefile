@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize monkey fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -26,6 +26,15 @@ test-sanitize: setup
 	cmake --preset sanitize >/dev/null
 	cmake --build --preset sanitize
 	ASAN_OPTIONS=detect_leaks=0:exitcode=99 UBSAN_OPTIONS=print_stacktrace=1:exitcode=99 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
+
+# Random actions on the whole editor under the sanitizers for MONKEY_S seconds, on a new seed each time; VELARA_SEED=N repeats
+# a run. The editor can write nothing outside of its scratch folder.
+MONKEY_S ?= 120
+monkey: setup
+	cmake --preset sanitize >/dev/null
+	cmake --build --preset sanitize --target velara-monkey
+	ASAN_OPTIONS=detect_leaks=0:exitcode=99 UBSAN_OPTIONS=print_stacktrace=1:exitcode=99 \
+	    build/sanitize/bin/velara-monkey --seconds $(MONKEY_S)
 
 # Damaged pictures, sequences of operations, configurations and region words for FUZZ_S seconds, on a new seed each time;
 # inputs of faults stay in build/fuzz. make fuzz FUZZ_S=3600 SUBJECTS="pictures regions"

@@ -1,0 +1,146 @@
+// What has to hold once everything is at rest: each document's picture is the snapshot of its step, the engine has the
+// active one, the screen shows it; with all closed Temp is empty and the memory back.
+#include "document/undo/UndoFiles.h"
+#include "pixels/BlockPool.h"
+#include "tools/monkey/Monkey.h"
+#include "ui/view/fDisplay.h"
+#include <QApplication>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QThread>
+#include <malloc.h>
+
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
+
+namespace velara::monkey {
+
+namespace {
+
+constexpr std::size_t kMoreMemory = 48 << 20; // bytes by which caches and histories may grow
+
+/// Bytes that the program has taken and not given back.
+std::size_t memoryInUse()
+{
+    BlockPool::instance().clear();
+    if (__sanitizer_get_current_allocated_bytes) return __sanitizer_get_current_allocated_bytes();
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+/// The visible pixels alike, whatever the fourth byte.
+bool samePicture(const Bits& a, const Bits& b)
+{
+    if (a.width() != b.width() || a.height() != b.height()) return false;
+    const auto colours = [](const Pixel& p) { return p.c[0] | p.c[1] << 8 | p.c[2] << 16; };
+    for (int y = 0; y < a.height(); ++y)
+        if (!std::equal(a.row(y), a.row(y) + a.width(), b.row(y), b.row(y) + a.width(),
+                        [&](const Pixel& p, const Pixel& q) { return colours(p) == colours(q); }))
+            return false;
+    return true;
+}
+
+QString nameOf(const fImage& image)
+{
+    return QStringLiteral("document %1 (%2, %3)").arg(image.DocNumber()).arg(image.Caption(), image.SizeText());
+}
+
+} // namespace
+
+/// Windows and gestures end, and what waits in the event loop is done.
+void Monkey::rest()
+{
+    const bool before = std::exchange(resting_, true);
+    movesLeft_ = 0;
+    hands_.releaseAll();
+    while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    for (fImage* image : frame_->documents()) {
+        for (int i = 0; i < 3 && image->dropGesture(); ++i) {
+        }
+        QEvent leave(QEvent::Leave); // the line round the pointer goes
+        if (auto* display = image->findChild<QWidget*>("iDst")) QCoreApplication::sendEvent(display, &leave);
+    }
+    for (int i = 0; i < 4; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    resting_ = before;
+}
+
+void Monkey::check()
+{
+    rest();
+    for (fImage* image : frame_->documents()) checkDocument(*image);
+    if (fImage* image = frame_->GetActiveImage()) checkScreen(*image);
+    blocks_.next();
+}
+
+void Monkey::checkDocument(fImage& image)
+{
+    const Document& document = image.document();
+    if (!document.PictureExists()) return;
+    ++checked_;
+    const bool stands = document.undo.stands();
+    const UndoFiles files(platform_.folder.filePath("Temp"), document.DocNumber());
+    const auto snapshot = stands ? files.read(document.undo.UndoStep() - 1) : std::nullopt;
+    if (snapshot && !samePicture(*snapshot, document.bits())) fault(nameOf(image) + " is not its snapshot");
+    if (!snapshot) fault(nameOf(image) + " has no snapshot");
+    if (&image == frame_->GetActiveImage() && !samePicture(frame_->filter().bits(), document.bits()))
+        fault(nameOf(image) + " is not what the engine holds");
+}
+
+void Monkey::checkScreen(fImage& image)
+{
+    auto* const display = image.findChild<fDisplay*>("iDst");
+    if (!display || !display->isVisible() || !image.PictureExists() || frame_->isMinimized()) return;
+    if (display->outlineShown() && !image.document().Region.IsEmptyRegion()) return; // the outline lies over it
+    const QRect place(display->mapTo(frame_.get(), QPoint()), display->size());
+    const QImage shown = frame_->screen()->grabWindow(frame_->winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    QImage wanted(display->size(), QImage::Format_RGB32);
+    ViewRenderer().render(image.bits(), display->spot(), 0, 0, wanted);
+    for (const QRect& part : display->visibleRegion())
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const QPoint at = place.topLeft() + QPoint(x, y);
+                if (!shown.rect().contains(at) || shown.pixel(at) == wanted.pixel(x, y)) continue;
+                return fault(nameOf(image) + QStringLiteral(" is not what the screen shows at %1,%2").arg(x).arg(y));
+            }
+}
+
+/// Everything closed without a question.
+void Monkey::checkHome()
+{
+    const bool asks = std::exchange(setup_.AskToSave, false);
+    for (int i = 0; i < 200 && (!frame_->isVisible() || !frame_->documents().isEmpty()); ++i) {
+        const QList<fImage*> images = frame_->documents();
+        for (fImage* image : images) image->parentWidget()->close();
+        rest();
+        if (!frame_->isVisible()) QThread::msleep(20); // a capture that is under way brings another one
+    }
+    setup_.AskToSave = asks;
+    if (!frame_->documents().isEmpty()) fault("a document stays open");
+    const QStringList left = QDir(platform_.folder.filePath("Temp")).entryList({"b*"}, QDir::Files);
+    if (!left.isEmpty()) fault("files are left in Temp: " + left.join(' '));
+    const QStringList stray = QDir().entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    if (!stray.isEmpty()) fault("files are left in the working folder: " + stray.join(' '));
+}
+
+void Monkey::warmUp()
+{
+    begin();
+    QApplication::processEvents();
+    frame_->openPicture(plan_.scratch + "/pictures/picture1.bmp");
+    finished_ = true; // no action yet
+    checkHome();
+    end();
+    finished_ = false;
+    memoryBefore_ = memoryInUse();
+}
+
+void Monkey::checkMemory()
+{
+    const std::size_t inUse = memoryInUse();
+    std::printf("memory after the run %zu MB, before it %zu MB\n", inUse >> 20, memoryBefore_ >> 20);
+    if (inUse > memoryBefore_ + kMoreMemory) fault("memory is not given back");
+}
+
+} // namespace velara::monkey
