@@ -24,7 +24,11 @@ for extension in png gif jpg tif ico cur pcx tga ppm wbmp; do
     count=$((count + 1))
     until_true "in.$extension" documents $count
 done
-open_file "$scratch/broken.png"
+brings 'Open file' ctrl+o
+enter "$scratch/broken.png" # a window without a picture
+until_true "the dialog to close" no_window '^Open file$'
+until_true "no reader" readers_gone
+settled
 pure "files"
 
 offer image/png "$scratch/in.png"
@@ -61,6 +65,10 @@ until_true "the source" has_window '^drag source$'
 source=$(xdotool search --onlyvisible --name '^drag source$')
 xdotool windowmove --sync "$source" 1000 10
 settled
+frame=$main
+settled() { # a move goes from the source to the editor, and its answer back
+    for main in "$source" "$frame" "$source"; do "$bin/settled" "$main" || fail "the drag stands still"; done
+}
 stroke 1060 90 1000 400 900 400 800 400 705 400 700 400
 until_true "the dropped files" documents $((count + 4))
 settled

@@ -132,7 +132,11 @@ void Monkey::step()
         if (faults_ == 0 && done_ % kBetweenHomes == 0) checkHome();
         if (faults_ > 0) return windUp();
     }
-    if (wantsToAct()) act();
+    Dice any(plan_.seed, 0);
+    if (!anyWindow(any)) // all are hidden: the screen is captured in a moment
+        QThread::msleep(5);
+    else if (wantsToAct())
+        act();
 }
 
 /// At rest and in a window that waits always; in a report of progress now and then, and the less the deeper.
@@ -152,12 +156,8 @@ void Monkey::act()
         const bool leaves = depth_ >= kDeepest || dice.oneIn(12);
         return leaves ? leaveWindow(*this, dice, *front) : actInWindow(*this, dice, *front);
     }
-    if (!frame_->isVisible()) { // while the screen is captured
-        QThread::msleep(20);
-        QWidget* const window = anyWindow(dice);
-        return window ? actInWindow(*this, dice, *window) : say("waits for the frame");
-    }
     if (movesLeft_ > 0 && !dice.oneIn(4)) return goOnWithStroke();
+    if (!frame_->isVisible()) return actInWindow(*this, dice, *anyWindow(dice));
     depth_ > 1 ? actInBetween(*this, dice) : actAtRandom(*this, dice);
 }
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QThread>
 #include <malloc.h>
 
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
@@ -108,12 +109,14 @@ void Monkey::checkScreen(fImage& image)
 /// Everything closed without a question.
 void Monkey::checkHome()
 {
-    rest();
     const bool asks = std::exchange(setup_.AskToSave, false);
-    const QList<fImage*> images = frame_->documents();
-    for (fImage* image : images) image->parentWidget()->close();
+    for (int i = 0; i < 200 && (!frame_->isVisible() || !frame_->documents().isEmpty()); ++i) {
+        const QList<fImage*> images = frame_->documents();
+        for (fImage* image : images) image->parentWidget()->close();
+        rest();
+        if (!frame_->isVisible()) QThread::msleep(20); // a capture that is under way brings another one
+    }
     setup_.AskToSave = asks;
-    rest();
     if (!frame_->documents().isEmpty()) fault("a document stays open");
     const QStringList left = QDir(platform_.folder.filePath("Temp")).entryList({"b*"}, QDir::Files);
     if (!left.isEmpty()) fault("files are left in Temp: " + left.join(' '));

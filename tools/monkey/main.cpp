@@ -57,7 +57,8 @@ void moveInto(const QString& scratch)
     set("PATH", "no-programs");
     qputenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + scratch + "/no-bus").toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_NO_GLIB", "1"); // timers and events in one order
+    qputenv("QT_NO_GLIB", "1");   // timers and events in one order
+    qputenv("QT_HASH_SEED", "0"); // sets too
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "QT_SCALE_FACTOR"}) qunsetenv(name);
     QDir::setCurrent(scratch + "/here");
 }
