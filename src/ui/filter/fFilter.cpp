@@ -1,7 +1,7 @@
 // fFilter: what the dialog does. Its controls are made in fFilter_controls.cpp.
 #include "ui/filter/fFilter.h"
 #include "commands/jobs.h"
-#include "document/Document.h"
+#include "document/Draft.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
