@@ -94,6 +94,13 @@ void answerInPlaceOfTheKernel(int, siginfo_t* info, void* context)
 
 } // namespace
 
+int highestFont()
+{
+    int highest = -1;
+    for (const Font& font : fonts) highest = std::max(highest, font.descriptor);
+    return highest;
+}
+
 void handOverFonts()
 {
     namespace fs = std::filesystem;
