@@ -24,7 +24,7 @@ using decode::OpenPath;
 constexpr struct { const char* path; OpenPath::Use use; } kOpen[] = {
     {"/usr", OpenPath::Reading}, {"/lib*", OpenPath::Reading}, {"/etc", OpenPath::Reading},
     {"/opt", OpenPath::Reading}, {"/var/lib", OpenPath::Reading}, {"/run/udev", OpenPath::Reading},
-    {"/sys", OpenPath::Reading}, {"/proc", OpenPath::Reading},
+    {"/sys", OpenPath::Reading}, {"/proc", OpenPath::Reading}, {"/dev", OpenPath::Listing},
     {"/dev/bus/usb", OpenPath::Device}, {"/dev/usb", OpenPath::Device}, {"/dev/*scanner*", OpenPath::Device},
     {"/dev/sg*", OpenPath::Device}, {"/dev/parport*", OpenPath::Device}, {"/dev/tty[SU]*", OpenPath::Device},
     {"/dev/null", OpenPath::Device}, {"/dev/zero", OpenPath::Reading}, {"/dev/*random", OpenPath::Reading},

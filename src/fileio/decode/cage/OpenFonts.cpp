@@ -45,9 +45,10 @@ int fontAt(const char* path) // -1: none
     return font != fonts.end() && font->path == path ? font->descriptor : -1;
 }
 
-/// The font once more, from its beginning.
-long opened(int font)
+/// The font once more, from its beginning. All copies read on at one place; who draws maps the file.
+long opened(int font, greg_t flags)
 {
+    if (flags & (O_ACCMODE | O_CREAT | O_TRUNC)) return -EACCES;
     const int copy = fcntl(font, F_DUPFD_CLOEXEC, 0);
     if (copy < 0) return -errno;
     lseek(copy, 0, SEEK_SET);
@@ -67,8 +68,9 @@ long answerTo(long call, const greg_t* registers)
     if (font < 0) return -EACCES;
     switch (call) {
     case SYS_open:
+        return opened(font, registers[REG_RSI]);
     case SYS_openat:
-        return opened(font);
+        return opened(font, registers[REG_RDX]);
     case SYS_stat:
     case SYS_lstat:
         return of(font, status(REG_RSI));
@@ -91,6 +93,13 @@ void answerInPlaceOfTheKernel(int, siginfo_t* info, void* context)
 }
 
 } // namespace
+
+int highestFont()
+{
+    int highest = -1;
+    for (const Font& font : fonts) highest = std::max(highest, font.descriptor);
+    return highest;
+}
 
 void handOverFonts()
 {

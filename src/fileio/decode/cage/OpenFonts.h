@@ -9,4 +9,7 @@ namespace velara::decode {
 /// else. x86-64.
 void handOverFonts();
 
+/// The highest descriptor of a font; -1 when there is none.
+int highestFont();
+
 } // namespace velara::decode

@@ -18,9 +18,9 @@ constexpr std::uint64_t kScopes = 3;                                       // ve
 constexpr std::uint64_t kOfFiles = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate |
                                    kDeviceCalls; // the others are rights over a folder
 constexpr std::uint64_t kRead = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
-constexpr std::uint64_t kRights[] = {kRead, kRead | LANDLOCK_ACCESS_FS_WRITE_FILE | kDeviceCalls,
-                                     kRead | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate | LANDLOCK_ACCESS_FS_MAKE_REG |
-                                         LANDLOCK_ACCESS_FS_REMOVE_FILE};
+constexpr std::uint64_t kRights[] = {
+    LANDLOCK_ACCESS_FS_READ_DIR, kRead, kRead | LANDLOCK_ACCESS_FS_WRITE_FILE | kDeviceCalls,
+    kRead | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE};
 
 struct Ruleset {
     std::uint64_t files, ports, scopes;

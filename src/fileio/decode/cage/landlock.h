@@ -10,11 +10,8 @@ enum class Closing { Holds, Failed, Unknown }; // the last: the kernel has no su
 
 /// A file or a folder with all below it that stays open, and for what.
 struct OpenPath {
-    enum Use {
-        Reading,
-        Device,
-        Writing
-    }; // Device: an existing one, both ways; Writing: with making and removing files
+    /// Listing: the names in it; Device: an existing one, both ways; Writing: with making and removing files.
+    enum Use { Listing, Reading, Device, Writing };
     std::string path;
     Use use = Reading;
 };

@@ -1,4 +1,5 @@
 #include "fileio/decode/cage/limits.h"
+#include "fileio/decode/cage/OpenFonts.h"
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -51,10 +52,11 @@ unsigned long long settleDown()
 
 bool limitResources(Needs needs, unsigned long long memory)
 {
-    const int next = dup(0); // behind all that are open
+    const int next = dup(0); // there may be gaps between the fonts
     if (next >= 0) close(next);
     constexpr int kFontsAtATime = 16;
-    const auto descriptors = needs == Needs::Nothing ? 0 : static_cast<rlim_t>(next + kFontsAtATime);
+    const auto descriptors =
+        needs == Needs::Nothing ? 0 : static_cast<rlim_t>(std::max(next, highestFont() + 1) + kFontsAtATime);
     return limit(RLIMIT_AS, memory) && limit(RLIMIT_CPU, kMostProcessorTime) && limit(RLIMIT_CORE, 0) &&
            limit(RLIMIT_FSIZE, 0) && limit(RLIMIT_NOFILE, descriptors) && limit(RLIMIT_NPROC, 0);
 }

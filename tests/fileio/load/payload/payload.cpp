@@ -150,7 +150,7 @@ constexpr struct {
          }, byFile{};
          const int first = open(on, O_RDONLY), second = openat(AT_FDCWD, on, O_RDONLY);
          char a[4] = "a", b[4] = "b";
-         const bool same = read(first, a, 4) == 4 && read(second, b, 4) == 4 && std::memcmp(a, b, 4) == 0;
+         const bool same = pread(first, a, 4, 0) == 4 && pread(second, b, 4, 0) == 4 && std::memcmp(a, b, 4) == 0;
          const bool known = stat(on, &byPath) == 0 && fstat(second, &byFile) == 0 && byPath.st_size == byFile.st_size;
          return same && known && close(first) == 0 && access(on, R_OK) == 0 ? 0 : -1;
      }},
