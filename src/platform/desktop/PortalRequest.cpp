@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -35,6 +36,10 @@ PortalRequest::PortalRequest(const QDBusConnection& bus, const QString& interfac
                              const QVariantList& arguments, QVariantMap options, Done done, QObject* parent)
     : QObject(parent), bus_(bus), done_(std::move(done))
 {
+    if (!bus_.isConnected()) { // a call never ends there
+        QTimer::singleShot(0, this, [this] { finish(Missing, {}); });
+        return;
+    }
     const QString token = nextToken();
     options["handle_token"] = token;
     // The answer may come before the call returns: its place is known beforehand, from our name on the bus.
