@@ -40,6 +40,8 @@ TEST(Geometry, UnusableSizesAndSourcesChangeNothing)
         EXPECT_THROW(call(), RuntimeError) << &call - calls;
         EXPECT_TRUE(f.bits().sharesWith(before)) << &call - calls;
     }
+    f.BitsTakeFromPicture(QImage(), 9, 9); // no fault, and no change
+    EXPECT_TRUE(f.bits().sharesWith(before));
 }
 
 TEST(Geometry, ASecondObjectsPictureMayBeReplacedDuringProgress)
@@ -59,13 +61,6 @@ TEST(Geometry, ASecondObjectsPictureMayBeReplacedDuringProgress)
     f.Progress = [&](int percent) { percent == 100 ? void(result = f.bits()) : f.setBits(Bits(2, 2)); };
     f.BitsResample(f.bits(), 70, 50);
     EXPECT_TRUE(sameBits(quiet.bits(), result));
-}
-
-TEST(Geometry, ANullPictureChangesNothing)
-{
-    cBitFilter f = filterOf(Bits(3, 2));
-    f.BitsTakeFromPicture(QImage(), 9, 9);
-    EXPECT_EQ(f.BitsWidth(), 3);
 }
 
 } // namespace

@@ -2,9 +2,6 @@
 #include "region/outline.h"
 #include "support/files.h"
 #include "support/gdiFacts.h"
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace velara {
