@@ -94,20 +94,17 @@ TEST(Cells, HexadecimalPadsAtItsFront)
 
 TEST(Cells, UserListIsReadAsFarAsItGoesAndWrittenToTheByte)
 {
-    constexpr struct {
-        const char* line;
-        std::int32_t value;
-    } kLines[] = {
+    constexpr std::pair<const char*, std::int32_t> kLines[] = {
         {" 255", 255}, {"-7", -7},        {" 2.5x9", 2}, {"3.5", 4},  {"abc", 0}, {"", 0},
         {"1e3", 1000}, {"9999999999", 5}, {"inf", 0},    {"+12", 12}, {"-", 0},   {"2147483647", 2147483647},
         {"1e999", 5},  {"nan", 0},
     };
     QByteArray text;
-    for (const auto& row : kLines) text += QByteArray(row.line) + "\r\n";
+    for (const auto& [line, value] : kLines) text += QByteArray(line) + "\r\n";
     UserColours list;
     list.fill(5);
     readUserColours(text + " 8", list); // the last one without an end
-    for (std::size_t i = 0; i < std::size(kLines); ++i) EXPECT_EQ(kLines[i].value, list[i]) << kLines[i].line;
+    for (std::size_t i = 0; i < std::size(kLines); ++i) EXPECT_EQ(kLines[i].second, list[i]) << kLines[i].first;
     EXPECT_EQ(8, list[std::size(kLines)]);
     EXPECT_EQ(5, list[std::size(kLines) + 1]) << "no line, no change";
     list = {};

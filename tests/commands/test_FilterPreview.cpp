@@ -17,15 +17,16 @@ TEST(FilterDialogs, TheGammaSliderCountsFromItsMiddle)
 TEST(FilterPreview, RunsOnACopyThatFitsTheBox)
 {
     const FilterRow& scanlines = *findFilterRow("ADDSCANLINES");
-    const struct {
-        int width, height, copyWidth, copyHeight;
-    } kCases[] = {{50, 40, 50, 40}, {400, 100, 200, 50}, {100, 800, 25, 200}, {3000, 2, 200, 1}, {1, 1, 1, 1}};
-    for (const auto& c : kCases) {
-        const FilterPreview preview(randomBits(c.width, c.height, 5), Region(), {200, 200});
-        EXPECT_EQ(c.copyWidth, preview.source().width());
-        EXPECT_EQ(c.copyHeight, preview.source().height());
-        const Bits result = preview.run(scanlines, scanlines.defaults());
-        EXPECT_EQ(c.copyWidth, result.width()) << "a single row raises nothing, either";
+    constexpr QSize kCases[][2] = {{{50, 40}, {50, 40}},
+                                   {{400, 100}, {200, 50}},
+                                   {{100, 800}, {25, 200}},
+                                   {{3000, 2}, {200, 1}},
+                                   {{1, 1}, {1, 1}}};
+    for (const auto& [size, copy] : kCases) {
+        const FilterPreview preview(randomBits(size.width(), size.height(), 5), Region(), {200, 200});
+        EXPECT_EQ(copy, QSize(preview.source().width(), preview.source().height()));
+        const Bits result = preview.run(scanlines, scanlines.defaults()); // a single row raises nothing, either
+        EXPECT_EQ(copy, QSize(result.width(), result.height()));
         EXPECT_FALSE(sameBits(preview.source(), result));
     }
     EXPECT_TRUE(FilterPreview(Bits(), Region(), {200, 200}).source().isNull());

@@ -19,10 +19,7 @@ Bits effect(int index, int value, const Bits& bits, const Region& region)
 
 TEST(EffectsTest, EachEqualsItsOperation)
 {
-    const struct {
-        const char* operation;
-        Arguments arguments;
-    } wanted[] = {
+    const std::pair<const char*, Arguments> wanted[] = {
         {"Texturize", {storedTexture()}},
         {"CONTOUR", {25, 0xFFFFFF}},
         {"CONTRAST", {25}},
@@ -64,8 +61,8 @@ TEST(EffectsTest, EachEqualsItsOperation)
     for (int i = 0; i < kEffects; ++i) {
         const auto& name = effects()[std::size_t(i)].name;
         EXPECT_TRUE(names.insert(name).second) << name;
-        EXPECT_TRUE(sameBits(run(wanted[i].operation, wanted[i].arguments, picture, region),
-                             effect(i + 1, kValue, picture, region)))
+        const auto& [operation, arguments] = wanted[i];
+        EXPECT_TRUE(sameBits(run(operation, arguments, picture, region), effect(i + 1, kValue, picture, region)))
             << name;
     }
     EXPECT_TRUE(sameBits(run("ROTATE", {4, true}, picture, region), effect(25, 1, picture, region)))

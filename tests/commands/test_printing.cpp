@@ -2,7 +2,6 @@
 #include "commands/printing.h"
 #include "pixels/RuntimeError.h"
 #include "support/pictures.h"
-#include <gtest/gtest.h>
 
 namespace velara {
 

@@ -11,12 +11,10 @@ namespace {
 /// A picture of one channel's values, row by row; the other channels follow it.
 Bits picture(int width, int height, const std::vector<int>& blues)
 {
-    Bits bits(width, height);
-    for (std::size_t i = 0; i < blues.size(); ++i) {
-        const auto blue = static_cast<std::uint8_t>(blues[i]);
-        bits.at(int(i) % width, int(i) / width) = {{blue, static_cast<std::uint8_t>(255 - blue), 7, 0}};
-    }
-    return bits;
+    return drawnBits(width, height, [&](int x, int y) {
+        const auto blue = static_cast<std::uint8_t>(blues[std::size_t(y * width + x)]);
+        return Pixel{{blue, static_cast<std::uint8_t>(255 - blue), 7, 0}};
+    });
 }
 
 cDIBSection sectionOf(const Bits& bits)
@@ -30,11 +28,10 @@ cDIBSection sectionOf(const Bits& bits)
 
 TEST(cDIBSection, AlignsItsRowsAndStartsWithTheBottomOne)
 {
-    const std::vector<int> wanted = {4, 8, 12, 12, 16};
-    for (int width = 1; width <= 5; ++width) {
+    for (const auto& [width, bytesARow] : {std::pair(1, 4), {2, 8}, {3, 12}, {4, 12}, {5, 16}}) {
         cDIBSection section;
         ASSERT_TRUE(section.Create(width, 2));
-        EXPECT_EQ(section.BytesPerScanLine(), wanted[static_cast<std::size_t>(width - 1)]);
+        EXPECT_EQ(section.BytesPerScanLine(), bytesARow);
     }
     const cDIBSection section = sectionOf(picture(1, 2, {10, 20}));
     const std::uint8_t* bytes = section.DIBSectionBitsPtr();
@@ -108,14 +105,12 @@ TEST(cDIBSection, RandomPixelsAreGreyOrWithoutBlue)
 
 TEST(mBitmap, FitsASizeIntoABox)
 {
-    const struct {
-        QSize size, box, fitted;
-    } kCases[] = {
+    constexpr QSize kCases[][3] = {
         {{100, 50}, {200, 200}, {100, 50}},   {{400, 100}, {200, 200}, {200, 50}},  {{100, 400}, {200, 200}, {50, 200}},
         {{200, 200}, {200, 200}, {200, 200}}, {{300, 300}, {200, 100}, {100, 100}}, {{401, 1}, {200, 200}, {200, 0}},
         {{10, 25}, {10, 10}, {4, 10}},
     };
-    for (const auto& c : kCases) EXPECT_EQ(fitSize(c.size, c.box), c.fitted);
+    for (const auto& [size, box, fitted] : kCases) EXPECT_EQ(fitSize(size, box), fitted);
 }
 
 TEST(mBitmap, BytesOfAPictureHaveNoMargin)

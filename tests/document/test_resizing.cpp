@@ -52,19 +52,13 @@ std::vector<int> colours(const Bits& bits)
 {
     std::vector<int> list;
     for (int y = 0; y < bits.height(); ++y)
-        for (int x = 0; x < bits.width(); ++x) {
-            const auto& c = bits.at(x, y).c;
-            list.push_back(c[0] | c[1] << 8 | c[2] << 16);
-        }
+        for (int x = 0; x < bits.width(); ++x) list.push_back(static_cast<int>(colourAt(bits, x, y)));
     return list;
 }
 
 Bits numbered(int width, int height)
 {
-    Bits bits(width, height);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) bits.at(x, y).c[0] = static_cast<std::uint8_t>(1 + x + 10 * y);
-    return bits;
+    return drawnBits(width, height, [](int x, int y) { return Pixel{{std::uint8_t(1 + x + 10 * y), 0, 0, 0}}; });
 }
 
 TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)

@@ -42,6 +42,8 @@ TEST(Geometry, UnusableSizesAndSourcesChangeNothing)
         EXPECT_THROW(call(), RuntimeError) << &call - calls;
         EXPECT_TRUE(f.bits().sharesWith(before)) << &call - calls;
     }
+    f.BitsTakeFromPicture(QImage(), 9, 9); // no fault, and no change
+    EXPECT_TRUE(f.bits().sharesWith(before));
 }
 
 TEST(Geometry, ASecondObjectsPictureMayBeReplacedDuringProgress)
@@ -87,13 +89,6 @@ TEST(Geometry, WhatIsNotSelectedStaysInALargePicture)
     const Bits before = randomBits(2049, 2047, 5);
     const Region ellipse = Region::ellipse(7, 1, 2041, 2040);
     EXPECT_TRUE(sameBits(definedResult("Invert", before, ellipse, {}), run("Invert", {}, before, ellipse)));
-}
-
-TEST(Geometry, ANullPictureChangesNothing)
-{
-    cBitFilter f = filterOf(Bits(3, 2));
-    f.BitsTakeFromPicture(QImage(), 9, 9);
-    EXPECT_EQ(f.BitsWidth(), 3);
 }
 
 } // namespace

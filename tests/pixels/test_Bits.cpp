@@ -54,12 +54,9 @@ TEST(Bits, SizesBelowOneAreEmpty)
 
 TEST(Numbers, HalvesGoToTheEvenNeighbour)
 {
-    const struct {
-        double v;
-        int wanted;
-    } rows[] = {{2.5, 2}, {3.5, 4}, {-2.5, -2},     {-3.5, -4},
-                {0.5, 0}, {1.5, 2}, {2.4999999, 2}, {2147483647.4, 2147483647}};
-    for (const auto& r : rows) EXPECT_EQ(roundEven(r.v), r.wanted) << r.v;
+    constexpr std::pair<double, int> kCases[] = {{2.5, 2}, {3.5, 4}, {-2.5, -2},     {-3.5, -4},
+                                                 {0.5, 0}, {1.5, 2}, {2.4999999, 2}, {2147483647.4, 2147483647}};
+    for (const auto& [v, wanted] : kCases) EXPECT_EQ(roundEven(v), wanted) << v;
     EXPECT_EQ(toByte(254.5), 254);
     EXPECT_EQ(toByte(255.5 - 1e-9), 255);
     EXPECT_EQ(toByte(-0.5), 0);

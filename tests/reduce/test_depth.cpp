@@ -65,19 +65,18 @@ TEST(Depth, EveryMethodIsThePlainDefinition)
     for (int i = 0; i < 256; ++i)
         source.at(i % 80, i / 80) = pixelFor(colourOf(1, 1, 1) * i); // greys have the most ties
     EuroDepth depth;
-    const struct {
-        void (EuroDepth::*set)(Bits&, Bits*);
-        Palette table;
-    } rows[] = {{&EuroDepth::SetDepth_01Bit, blackAndWhite()},
-                {&EuroDepth::SetDepth_04Bit, vgaColours()},
-                {&EuroDepth::SetDepth_08Bit, halftoneColours()},
-                {&EuroDepth::SetDepth_15Bit, {}},
-                {&EuroDepth::SetDepth_16Bit, {}},
-                {&EuroDepth::SetDepth_24Bit_32K, {}},
-                {&EuroDepth::SetDepth_24Bit_64k, {}}};
+    const std::pair<void (EuroDepth::*)(Bits&, Bits*), Palette> rows[] = {
+        {&EuroDepth::SetDepth_01Bit, blackAndWhite()},
+        {&EuroDepth::SetDepth_04Bit, vgaColours()},
+        {&EuroDepth::SetDepth_08Bit, halftoneColours()},
+        {&EuroDepth::SetDepth_15Bit, {}},
+        {&EuroDepth::SetDepth_16Bit, {}},
+        {&EuroDepth::SetDepth_24Bit_32K, {}},
+        {&EuroDepth::SetDepth_24Bit_64k, {}}};
     for (int i = 0; i < 7; ++i) {
         Bits wanted = source, got;
-        const auto colours = pixelsOf(rows[i].table);
+        const auto& [set, table] = rows[i];
+        const auto colours = pixelsOf(table);
         for (int y = 0; y < 60 && i < 5; ++y)
             for (int x = 0; x < 80; ++x) {
                 Pixel& p = wanted.at(x, y);
@@ -86,10 +85,10 @@ TEST(Depth, EveryMethodIsThePlainDefinition)
                 for (int c = 0; c < 3; ++c)
                     p.c[c] = colours.empty() ? std::uint8_t((p.c[c] >> 3) * 8 + (p.c[c] >> 5)) : nearest.c[c];
             }
-        (depth.*rows[i].set)(source, &got);
+        (depth.*set)(source, &got);
         EXPECT_TRUE(sameBits(wanted, got)) << i;
         Bits inPlace = source;
-        (depth.*rows[i].set)(inPlace, nullptr);
+        (depth.*set)(inPlace, nullptr);
         EXPECT_TRUE(sameBits(wanted, inPlace)) << i;
     }
     EXPECT_TRUE(sameBits(source, bitsAtDepth(source, 7))) << "no depth";

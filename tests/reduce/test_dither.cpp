@@ -54,9 +54,7 @@ TEST(Dither, ColoursTooAndPaletteColoursStayPure)
     const Palette cube = webSafeColours();
     for (const Dither dither : kSpreading) {
         const auto mean = meanOf(dithered(flatBits(64, 64, 30, 120, 200), cube, dither));
-        EXPECT_NEAR(30, mean[0], 3) << int(dither);
-        EXPECT_NEAR(120, mean[1], 3) << int(dither);
-        EXPECT_NEAR(200, mean[2], 3) << int(dither);
+        for (const std::size_t c : {0, 1, 2}) EXPECT_NEAR((std::array{30, 120, 200}[c]), mean[c], 3) << int(dither);
         const IndexedPicture pure = dithered(flatBits(16, 16, 51, 102, 255), cube, dither);
         EXPECT_EQ(1U, std::set(pure.indices.begin(), pure.indices.end()).size()) << int(dither);
     }
@@ -64,9 +62,7 @@ TEST(Dither, ColoursTooAndPaletteColoursStayPure)
 
 TEST(Dither, EachDiffersFromEachOnARamp)
 {
-    Bits ramp(256, 64);
-    for (int y = 0; y < 64; ++y)
-        for (int x = 0; x < 256; ++x) ramp.at(x, y) = pixelFor(colourOf(1, 1, 1) * x);
+    const Bits ramp = drawnBits(256, 64, [](int x, int) { return pixelFor(colourOf(1, 1, 1) * x); });
     std::map<Dither, std::vector<std::uint8_t>> results;
     for (const Dither dither : kDithers) results[dither] = dithered(ramp, greyRamp(4), dither).indices;
     for (const auto& [a, first] : results)
@@ -92,10 +88,7 @@ std::vector<std::array<int, 2>> reachOf(Dither dither, int x, int y)
 
 TEST(Dither, TheErrorGoesWhereItsNameSays)
 {
-    const struct {
-        Dither dither;
-        bool (*reached)(int dx, int dy, int y);
-    } rows[] = {
+    const std::pair<Dither, bool (*)(int dx, int dy, int y)> rows[] = {
         {Dither::ForwardDiag, [](int dx, int dy, int) { return dx == dy && dy >= 0; }},
         {Dither::BackwardDiag, [](int dx, int dy, int) { return dx == -dy && dy >= 0; }},
         {Dither::Horizontal, [](int dx, int dy, int) { return dy == 0 && dx >= 0; }},
@@ -103,14 +96,14 @@ TEST(Dither, TheErrorGoesWhereItsNameSays)
         {Dither::Odd, [](int dx, int dy, int y) { return dy > 0 || (dy == 0 && (y % 2 ? dx <= 0 : dx >= 0)); }},
         {Dither::Even, [](int dx, int dy, int y) { return dy > 0 || (dy == 0 && (y % 2 ? dx >= 0 : dx <= 0)); }},
     };
-    for (const auto& row : rows)
+    for (const auto& [dither, reached] : rows)
         for (const int y : {20, 21}) {
             int others = 0;
-            for (const auto [dx, dy] : reachOf(row.dither, 24, y)) {
-                EXPECT_TRUE(row.reached(dx, dy, y)) << int(row.dither) << " at " << dx << ',' << dy;
+            for (const auto [dx, dy] : reachOf(dither, 24, y)) {
+                EXPECT_TRUE(reached(dx, dy, y)) << int(dither) << " at " << dx << ',' << dy;
                 others += dx != 0 || dy != 0;
             }
-            EXPECT_GT(others, 3) << int(row.dither);
+            EXPECT_GT(others, 3) << int(dither);
         }
 }
 
@@ -134,6 +127,10 @@ TEST(Dither, TheSmallestAndTheThinnest)
     for (const Dither dither : kDithers)
         for (const auto [w, h] : {std::array{1, 1}, {1, 50}, {50, 1}, {2, 2}})
             EXPECT_EQ(std::size_t(w * h), dithered(randomBits(w, h, 2), vgaColours(), dither).indices.size());
+    for (const Dither dither : {Dither::Odd, Dither::Even}) { // the last pixel of a row has one below it, too
+        const auto column = dithered(flatBits(1, 50, 100, 100, 100), blackAndWhite(), dither).indices;
+        EXPECT_EQ(2U, std::set(column.begin(), column.end()).size()) << int(dither);
+    }
 }
 
 TEST(Palettes, AnEvenSpreadForEveryCount)
@@ -175,12 +172,8 @@ TEST(ReduceColours, WordsBitsAndGreys)
 
 TEST(BestColours, ManyPixelsAreSampledAndColoursStayNear)
 {
-    const Bits photo = [] {
-        Bits bits(1200, 900);
-        for (int y = 0; y < 900; ++y)
-            for (int x = 0; x < 1200; ++x) bits.at(x, y) = pixelFor(colourOf(x * 255 / 1199, y * 255 / 899, 90));
-        return bits;
-    }();
+    const Bits photo =
+        drawnBits(1200, 900, [](int x, int y) { return pixelFor(colourOf(x * 255 / 1199, y * 255 / 899, 90)); });
     const IndexedPicture best = reduceToBestColours(photo, 256);
     EXPECT_EQ(256U, best.palette.size());
     double error = 0;

@@ -3,9 +3,6 @@
 #include "support/files.h"
 #include "support/gdiFacts.h"
 #include "support/seed.h"
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace velara {

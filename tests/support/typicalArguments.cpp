@@ -19,24 +19,12 @@ Arguments typicalArguments(const Operation& operation)
 {
     std::mt19937 random(1);
     Arguments arguments;
-    for (const Parameter& p : operation.parameters) {
-        switch (p.type) {
-        case ArgumentType::Boolean:
-            arguments.emplace_back(true);
-            break;
-        case ArgumentType::Integer:
-            arguments.emplace_back(static_cast<int>(p.typical));
-            break;
-        case ArgumentType::Number:
-            arguments.emplace_back(p.typical);
-            break;
-        case ArgumentType::Text:
-            arguments.emplace_back(choicesOf(p).at(0));
-            break;
-        case ArgumentType::Picture:
-            arguments.emplace_back(smallPicture(random));
-        }
-    }
+    for (const Parameter& p : operation.parameters)
+        arguments.push_back(p.type == ArgumentType::Boolean   ? Argument(true)
+                            : p.type == ArgumentType::Integer ? Argument(static_cast<int>(p.typical))
+                            : p.type == ArgumentType::Number  ? Argument(p.typical)
+                            : p.type == ArgumentType::Text    ? Argument(choicesOf(p).at(0))
+                                                              : Argument(smallPicture(random)));
     return arguments;
 }
 

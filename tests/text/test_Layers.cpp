@@ -119,11 +119,9 @@ TEST_F(LayersTest, AnotherPictureBelowIsTaken)
 TEST_F(LayersTest, TheCaretFollowsTheText)
 {
     const int index = add(10, 10, "ab  \r\ncd ");
-    const struct {
-        int character, x, y;
-    } cases[] = {{0, 10, 10}, {2, 20, 10}, {4, 30, 10}, {6, 10, 22}, {9, 25, 22}};
-    for (const auto& c : cases)
-        EXPECT_EQ((Rect{c.x, c.y, c.x + 1, c.y + 12}), layers.caret(index, c.character)) << c.character;
+    constexpr int kCases[][3] = {{0, 10, 10}, {2, 20, 10}, {4, 30, 10}, {6, 10, 22}, {9, 25, 22}};
+    for (const auto& [character, x, y] : kCases)
+        EXPECT_EQ((Rect{x, y, x + 1, y + 12}), layers.caret(index, character)) << character;
     EXPECT_EQ((Rect{50, 60, 51, 72}), layers.caret(layers.add(50, 60, style, kInk), 0));
 }
 

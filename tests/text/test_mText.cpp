@@ -36,11 +36,8 @@ struct TextTest : ::testing::Test {
 // At size 10 a character is 5 wide and a line 12 high; the margin is 4.
 TEST_F(TextTest, LinesBreakAndAreAligned)
 {
-    const struct {
-        const char* text;
-        int width, align;
-        const char* wanted;
-    } cases[] = {
+    const std::tuple<const char*, int, int, const char*> cases[] = {
+        // text, width, alignment, lines
         {"", 58, LeftJustify, ""},
         {"ab cd ef", 48, LeftJustify, "4,4:ab cd ef"}, // 40 wide: exactly the room
         {"ab cd ef", 47, LeftJustify, "4,4:ab cd | 4,16:ef"},
@@ -56,18 +53,16 @@ TEST_F(TextTest, LinesBreakAndAreAligned)
         {"ab\nc", 100, LeftJustify, "4,4:ab\nc"},                 // only the pair forces a line
         {"\xD7\x90\xD7\x91 \xD7\x92", 23, LeftJustify, "4,4:\xD7\x90\xD7\x91 | 4,16:\xD7\x92"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(c.wanted, lines({QString::fromUtf8(c.text), c.width, 60, 4, c.align})) << c.text << " " << c.align;
+    for (const auto& [text, width, alignment, wanted] : cases)
+        EXPECT_EQ(wanted, lines({QString::fromUtf8(text), width, 60, 4, alignment})) << text << " " << alignment;
     const auto hebrew = layOut({QString::fromUtf8("\xD7\x90 a"), 100, 60});
     EXPECT_TRUE(hebrew->lines[0].run.rightToLeft);
 }
 
 TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
 {
-    const struct {
-        const char* text;
-        int width, height, wanted, got; // 0: refused
-    } cases[] = {
+    const std::tuple<const char*, int, int, int, int> cases[] = {
+        // text, width, height, size wanted and got; 0: refused
         {kPangram, 400, 200, 20, 20},
         {kPangram, 400, 200, 99, 72},         // above the limit
         {kPangram, 400, 22, 20, 12},          // one line of 14
@@ -85,12 +80,10 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
         {"", 9, 9, 20, 20},
         {"a", 9, 9, 20, 0}, // no size fits into one pixel
     };
-    for (const auto& c : cases) {
-        const auto layout = layOut({c.text, c.width, c.height, 4, LeftJustify, kNoShadow, c.wanted});
-        EXPECT_EQ(c.got, layout ? layout->size : 0) << c.text << " " << c.wanted;
-        if (layout) {
-            EXPECT_LE(layout->trials, 20) << c.text;
-        }
+    for (const auto& [text, width, height, wanted, got] : cases) {
+        const auto layout = layOut({text, width, height, 4, LeftJustify, kNoShadow, wanted});
+        EXPECT_EQ(got, layout ? layout->size : 0) << text << " " << wanted;
+        EXPECT_LE(layout ? layout->trials : 0, 20) << text;
     }
     EXPECT_EQ("14,4:a | 4,26:unbreakable", lines({"a unbreakable", 28, 100, 4, RightJustify, kNoShadow, 20}));
 }
@@ -108,14 +101,11 @@ TEST_F(TextTest, LongTextsEndSoon)
 
 TEST_F(TextTest, ShadowsLieOnAGrid)
 {
-    const struct {
-        int index, size, x, y;
-    } cases[] = {{0, 10, -1, -1}, {1, 10, 0, -1}, {2, 14, 1, -1}, {3, 15, -2, 0}, {4, 30, 0, 0},
-                 {5, 30, 3, 0},   {6, 45, -4, 4}, {7, 59, 0, 4},  {8, 72, 5, 5}};
-    for (const auto& c : cases) {
-        const auto layout = layOut({"a", 200, 200, 4, LeftJustify, c.index, c.size});
-        EXPECT_EQ(c.x, layout->shadowX) << c.index;
-        EXPECT_EQ(c.y, layout->shadowY) << c.index;
+    constexpr int kCases[][4] = {{0, 10, -1, -1}, {1, 10, 0, -1}, {2, 14, 1, -1}, {3, 15, -2, 0}, {4, 30, 0, 0},
+                                 {5, 30, 3, 0},   {6, 45, -4, 4}, {7, 59, 0, 4},  {8, 72, 5, 5}};
+    for (const auto& [index, size, x, y] : kCases) {
+        const auto layout = layOut({"a", 200, 200, 4, LeftJustify, index, size});
+        EXPECT_EQ(std::pair(x, y), std::pair(layout->shadowX, layout->shadowY)) << index;
     }
 }
 
@@ -139,11 +129,9 @@ TEST_F(TextTest, DrawsTheFaceOverItsShadow)
 
 TEST(CountOfTest, CountsOverlappingHits)
 {
-    const struct {
-        const char *needle, *text;
-        int count;
-    } cases[] = {{"\r\n", "a\r\nb\r\n", 2}, {"aa", "aaaa", 3}, {"a", "", 0}, {"", "abc", 0}, {"abc", "ab", 0}};
-    for (const auto& c : cases) EXPECT_EQ(c.count, CountOf(c.needle, c.text)) << c.needle << " in " << c.text;
+    for (const auto& [needle, text, count] :
+         {std::tuple("\r\n", "a\r\nb\r\n", 2), {"aa", "aaaa", 3}, {"a", "", 0}, {"", "abc", 0}, {"abc", "ab", 0}})
+        EXPECT_EQ(count, CountOf(needle, text)) << needle << " in " << text;
 }
 
 } // namespace

@@ -4,12 +4,8 @@
 #include "support/freeMemory.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
-#include <QTemporaryDir>
-#include <csignal>
 #include <cstring>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -63,12 +59,6 @@ TEST_F(UndoStoreTest, AFileIsABitmapHeaderAndTheBlock)
     const QByteArray wanted =
         header + QByteArray(reinterpret_cast<const char*>(bits.data()), static_cast<int>(bits.sizeInBytes()));
     EXPECT_EQ(wanted, content("b000300.dat"));
-}
-
-TEST_F(UndoStoreTest, NamesGrowWithTheirNumbers)
-{
-    EXPECT_EQ(path("b000307.dat"), store.fileName(7));
-    EXPECT_EQ(path("b12345100.dat"), UndoStore(folder.path(), 12345).fileName(100));
 }
 
 TEST_F(UndoStoreTest, StepsBackAndForward)
@@ -146,10 +136,7 @@ TEST_F(UndoStoreTest, ADamagedStepChangesNothing)
         std::memcpy(bytes.data() + offset, &word, sizeof word);
         return bytes;
     };
-    const struct {
-        const char* damage;
-        QByteArray bytes;
-    } kCases[] = {
+    const std::pair<const char*, QByteArray> kCases[] = {
         {"empty", {}},
         {"half a header", good.left(20)},
         {"a header alone", good.left(40)},
@@ -165,9 +152,9 @@ TEST_F(UndoStoreTest, ADamagedStepChangesNothing)
         {"bottom up", withWord(8, 8)},
         {"the lowest height", withWord(8, INT32_MIN)},
     };
-    for (const auto& c : kCases) {
-        put("b000300.dat", c.bytes);
-        EXPECT_FALSE(store.undo()) << c.damage;
+    for (const auto& [damage, bytes] : kCases) {
+        put("b000300.dat", bytes);
+        EXPECT_FALSE(store.undo()) << damage;
         expectCounters(2, 2);
     }
     QFile::remove(path("b000300.dat"));
@@ -283,9 +270,7 @@ TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
     const Bits large = randomBits(2000, 2000, 1);
     for (int i = 0; i < 30; ++i) {
         store.save(i % 3 ? picture(i) : large);
-        if (i == 20) {
-            expectUndo(picture(19));
-        }
+        if (i == 20) expectUndo(picture(19));
     }
     expectCounters(10, 10);
     for (int i = 28; i >= 21; --i) EXPECT_TRUE(sameBits(i % 3 ? picture(i) : large, store.undo().value())) << i;

@@ -10,10 +10,7 @@ TEST(Deform, Faults)
 {
     const Bits column = randomBits(1, 9, 8), picture = randomBits(9, 9, 9);
     cBitFilter narrow = filterOf(column), f = filterOf(picture);
-    const struct {
-        Fault wanted;
-        std::function<void()> call;
-    } rows[] = {
+    const std::pair<Fault, std::function<void()>> rows[] = {
         {Fault::DivisionByZero, [&] { narrow.FOLD(10, 10, true); }},
         {Fault::DivisionByZero, [&] { narrow.TWIRL(0, 0, true); }},
         {Fault::DivisionByZero, [&] { f.TILE(0); }},
@@ -26,7 +23,7 @@ TEST(Deform, Faults)
         {Fault::OutOfRange, [&] { f.Texturize(Bits(1, 5)); }},
         {Fault::OutOfRange, [&] { f.TileMask(Bits(), 0, 0, true, 0, -1); }},
     };
-    for (const auto& row : rows) EXPECT_EQ(faultOf(row.call), row.wanted) << &row - rows;
+    for (const auto& row : rows) EXPECT_EQ(faultOf(row.second), row.first) << &row - rows;
     narrow.setBitsRegion(Region());
     EXPECT_TRUE(sameBits(column, narrow.FOLD(10, 10, true))) << "no pixel, no division";
 }
@@ -55,6 +52,12 @@ TEST(Deform, UnknownGlassTakesTheFirstPixel)
     EXPECT_EQ(f.GLASS("vertical", 3).at(3, 2), (Pixel{{1, 2, 3, 9}}));
     f.setBitsRegion(Region::rectangle(1, 0, 4, 3)); // without the first pixel
     EXPECT_TRUE(sameBits(before, f.GLASS("frosted", 0)));
+}
+
+TEST(Deform, ACellOfManyWhiteRowsStaysWhite)
+{
+    const Bits white = flatBits(3, 300, 255, 255, 255);
+    EXPECT_TRUE(sameBits(white, filterOf(white).PIXELIZE(300))) << "257 times 255 fills 16 bits";
 }
 
 } // namespace

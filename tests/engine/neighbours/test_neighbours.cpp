@@ -19,11 +19,7 @@ Bits nineValues()
 TEST(Neighbours, TheCentreOfNineValues)
 {
     const std::string cross = "0 1 0/1 4 1/0 1 0", above = "0 1 0/0 0 0/0 0 0", right = "0 0 0/0 0 1/0 0 0";
-    const struct {
-        std::string_view operation;
-        Arguments arguments;
-        Pixel wanted;
-    } rows[] = {
+    const std::tuple<std::string_view, Arguments, Pixel> rows[] = {
         {"SHARPEN", {8}, {{53, 53, 53, 7}}},     // (55*116 - 2*510) \ 100
         {"SOFTEN", {100}, {{51, 51, 51, 7}}},    // (55 + 200) \ 5
         {"EDGEENHANCE", {9}, {{48, 48, 48, 7}}}, // (55*18 - 510) \ 10
@@ -51,9 +47,9 @@ TEST(Neighbours, TheCentreOfNineValues)
         {"SKETCH", {184, false, 0x010203}, {{1, 2, 3, 7}}},
         {"SKETCH", {185, false, 0x010203}, {{55, 55, 55, 7}}},
     };
-    for (const auto& r : rows) {
-        const Bits out = run(r.operation, r.arguments, nineValues(), Region::rectangle(0, 0, 3, 3));
-        EXPECT_EQ(out.at(1, 1), r.wanted) << r.operation;
+    for (const auto& [operation, arguments, wanted] : rows) {
+        const Bits out = run(operation, arguments, nineValues(), Region::rectangle(0, 0, 3, 3));
+        EXPECT_EQ(out.at(1, 1), wanted) << operation;
     }
 }
 
