@@ -219,8 +219,7 @@ cBitFilter turnedSquare(const Bits& picture, int side, int degrees, bool smooth)
     const int left = (side - picture.width()) / 2, top = (side - picture.height()) / 2;
     square.setBits(square.TileMask(picture, left, top, false, 0, -1));
     const Arguments arguments = smooth ? Arguments{degrees} : Arguments{degrees, false};
-    const Definition turn = definitions().at(smooth ? "RotateSmooth" : "ROTATE");
-    square.setBits(turn(square.bits(), square.BitsRegion(), arguments));
+    square.setBits(definedResult(smooth ? "RotateSmooth" : "ROTATE", square.bits(), square.BitsRegion(), arguments));
     return square;
 }
 
