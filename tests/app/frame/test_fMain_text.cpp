@@ -86,7 +86,7 @@ TEST_F(FrameText, TextsThatWaitAreAskedForBeforeTheyGoWithTheirDocument)
         for (const char* other : {"IMAGECOLORDEPTH", "IMAGESAVEOPTIONS"}) frame->Mmenu(other); // cancelled
         EXPECT_FALSE(frame->close() || window->close());
         ASSERT_TRUE(dialog->isVisible());
-        const Bits merged = dialog->Blend();
+        const Bits merged = dialog->asTyped().Blend();
         platform.log.clear();
         platform.answers = {saved ? "yes" : "no", path("saved.bmp")};
         window->close();
