@@ -161,17 +161,6 @@ TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
     EXPECT_EQ(percents, std::vector<int>{100}); // nothing selected: the end is told all the same
 }
 
-TEST(Progress, AReportDueInAPictureOfOneRowDividesByZero)
-{
-    cBitFilter filter = filterOf(flatBits(5, 1, 1, 2, 3));
-    std::uint32_t now = 10;
-    filter.clock = [&] { return now; };
-    EXPECT_EQ(faultOf([&] { filter.Invert(); }), std::nullopt); // 10 ms are not more than 10
-    now = 11;
-    EXPECT_EQ(faultOf([&] { filter.Invert(); }), Fault::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { filter.Invert(); }), std::nullopt); // the failed report counts as made
-}
-
 TEST(Progress, CancellingLeavesThePicture)
 {
     PaletteColors() = {{0, 0, 0}, {255, 255, 255}};
