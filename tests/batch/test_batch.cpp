@@ -75,11 +75,8 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
     QFile::link("/dev/full", path("full.png"));
     QFile::link("loop2.png", path("loop.png"));
     QFile::link("loop.png", path("loop2.png"));
-    const struct {
-        const char* arguments;
-        int status;
-        const char* named; // in the message
-    } kCases[] = {
+    const std::tuple<const char*, int, const char*> kCases[] = {
+        // arguments, status, what the message names
         {"missing.png out.png", 1, "missing.png"},
         {"zip.png out.png", 1, "zip.png"},
         {"short.ppm out.ppm", 1, "its end is missing; --partial takes what is there"},
@@ -145,9 +142,9 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm --select rect:1,1,2,9 CROP out.ppm", 3, "Minimum size: 2 x 2"},
     };
     const QStringList before = files();
-    for (const auto& c : kCases) {
-        EXPECT_TRUE(ends(c.status, c.arguments, c.named));
-        EXPECT_EQ(before, files()) << c.arguments;
+    for (const auto& [arguments, status, named] : kCases) {
+        EXPECT_TRUE(ends(status, arguments, named));
+        EXPECT_EQ(before, files()) << arguments;
     }
     EXPECT_EQ("precious", content("out.png"));
     EXPECT_EQ("precious", content("out.ppm"));
@@ -194,14 +191,10 @@ TEST_F(BatchTest, AnIconHasThePixelsOfTheMaskTransparent)
     EXPECT_EQ(QByteArray("\0\0\1\0\1\0\0\x10", 8), content("icon.ppm").left(8));
 }
 
-TEST_F(BatchTest, EveryWriterIsReadBack)
+TEST_F(BatchTest, AnAnymapHasTrueColourWhateverItsExtensionSays)
 {
-    for (const QString name : {"copy.png", "copy.bmp", "copy.tif", "copy.tga", "copy.pcx", "copy.ppm"}) {
-        ASSERT_TRUE(ends(0, "in.ppm " + name));
-        EXPECT_EQ(input(), result("INVERT INVERT", input().size(), name)) << name.toStdString();
-    }
     ASSERT_TRUE(ends(0, "in.ppm grey.pgm"));
-    EXPECT_EQ(content("out.ppm"), content("grey.ppm")) << "true colour, whatever the extension said";
+    EXPECT_EQ(input(), QImage(path("grey.ppm")).convertToFormat(QImage::Format_RGB32));
     EXPECT_FALSE(QFile::exists(path("grey.pgm")));
 }
 
@@ -212,10 +205,8 @@ TEST_F(BatchTest, SelectionsLimitTheStepsAfterThem)
         return [=](int x, int y) { return x >= l && x < r && y >= t && y < b; };
     };
     const auto a = rect(2, 1, 8, 6), b = rect(5, 3, 12, 9);
-    const struct {
-        const char* steps;
-        std::function<bool(int, int)> inverted;
-    } kCases[] = {
+    const std::pair<const char*, std::function<bool(int, int)>> kCases[] = {
+        // steps, what they invert
         {"INVERT", [](int, int) { return true; }},
         {"--select rect:2,1,8,6 INVERT", a},
         {"--select=rect:2,1,8,6 INVERT", a},
@@ -233,7 +224,7 @@ TEST_F(BatchTest, SelectionsLimitTheStepsAfterThem)
         {"--select rect:2,1,8,6 --select none INVERT", [](int, int) { return true; }},
         {"--select rect:2,1,8,6 INVERT --select none INVERT", [&](int x, int y) { return !a(x, y); }},
     };
-    for (const auto& c : kCases) EXPECT_EQ(input(c.inverted), result(c.steps)) << c.steps;
+    for (const auto& [steps, inverted] : kCases) EXPECT_EQ(input(inverted), result(steps)) << steps;
 }
 
 TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)

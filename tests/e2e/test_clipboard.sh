@@ -16,7 +16,9 @@ done
 offer image/png "$scratch/in.png"
 kill -STOP "$owner"
 before=$(date +%s%N)
-keys alt+e f ctrl+q
+keys alt+e f
+told "the silent owner"
+keys ctrl+q
 until_true "the editor to end" gone
 took=$((($(date +%s%N) - before) / 1000000))
 kill -CONT "$owner"

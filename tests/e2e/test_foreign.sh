@@ -42,6 +42,7 @@ pure "the clipboard"
 
 keys alt+t q d # the desktop, by way of New.bmp
 until_true "the captured desktop" documents $((count + 2))
+told "the screen, which is black all over"
 until_true "the frame back" frame_has_keys
 pure "New.bmp"
 

@@ -7,7 +7,6 @@
 #include "ui/compose/fToolTextures.h"
 #include "ui/widgets/fFolderTree.h"
 #include <QtTest>
-#include <QtWidgets>
 
 namespace velara {
 

@@ -7,7 +7,6 @@
 #include "support/files.h"
 #include "ui/widgets/marks/ScreenCover.h"
 #include <QtTest>
-#include <QtWidgets>
 
 namespace velara {
 
@@ -265,10 +264,9 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
     control<QComboBox>("fAcquire", "cbResolution")->setCurrentText("300");
     control<QPushButton>("fAcquire", "cmdScan")->click();
     ASSERT_EQ(scanner.jobs.size(), 1u);
-    EXPECT_EQ(scanner.jobs[0].device, "b:1");
-    EXPECT_EQ(scanner.jobs[0].mode, "Color");
-    EXPECT_EQ(scanner.jobs[0].resolution, 300);
-    EXPECT_EQ(scanner.jobs[0].area, QRectF(0, 0, 200, 100));
+    const auto& [device, mode, resolution, area] = scanner.jobs[0];
+    EXPECT_EQ(QString("%1 %2 %3").arg(device, mode).arg(resolution), "b:1 Color 300");
+    EXPECT_EQ(area, QRectF(0, 0, 200, 100));
     fImage* image = waitForDocument();
     EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
     EXPECT_TRUE(image->isWindowModified()) << "it is nowhere else";

@@ -42,10 +42,9 @@ TEST_F(GifWriter, WritesEveryPaletteSizePlainAndInterlaced)
 
 TEST(IndexedPicture, KeepsFewColoursAndLimitsMany)
 {
-    Bits few(3, 1); // the fourth byte is no colour
-    few.at(0, 0) = {{3, 2, 1, 9}};
-    few.at(1, 0) = {{6, 5, 4, 8}};
-    few.at(2, 0) = {{3, 2, 1, 7}};
+    const Bits few = drawnBits(3, 1, [](int x, int) { // the fourth byte is no colour
+        return x == 1 ? Pixel{{6, 5, 4, 8}} : Pixel{{3, 2, 1, std::uint8_t(9 - x)}};
+    });
     const IndexedPicture kept = reduceToBestColours(few, 2);
     EXPECT_EQ(kept.palette, (std::vector<Colour>{0x030201, 0x060504}));
     EXPECT_EQ(kept.indices, (std::vector<std::uint8_t>{0, 1, 0}));
@@ -56,6 +55,9 @@ TEST(IndexedPicture, KeepsFewColoursAndLimitsMany)
         for (const std::uint8_t index : reduced.indices) ASSERT_LT(index, reduced.palette.size());
         const std::set<std::uint8_t> used(reduced.indices.begin(), reduced.indices.end());
         EXPECT_GT(static_cast<int>(used.size()), colours / 2);
+        const Bits oneMore =
+            drawnBits(colours + 1, 1, [](int x, int) { return pixelFor(colourOf(x & 255, x >> 8, 0)); });
+        EXPECT_LE(static_cast<int>(reduceToBestColours(oneMore, colours).palette.size()), colours);
     }
 }
 

@@ -33,9 +33,7 @@ Bytes header(std::uint8_t encoding, std::uint8_t width, std::uint8_t height, std
 
 TEST(PCX, EncodesRuns)
 {
-    const struct {
-        Bytes data, encoded;
-    } kCases[] = {
+    const std::pair<Bytes, Bytes> kCases[] = {
         {{}, {}},
         {{7}, {7}},
         {{191}, {191}},
@@ -47,7 +45,7 @@ TEST(PCX, EncodesRuns)
         {Bytes(65, 5), {0xff, 5, 0xc2, 5}},
         {Bytes(127, 5), {0xff, 5, 0xff, 5, 5}},
     };
-    for (const auto& c : kCases) EXPECT_EQ(PCX::encode(c.data), c.encoded);
+    for (const auto& [data, encoded] : kCases) EXPECT_EQ(PCX::encode(data), encoded);
 }
 
 TEST(PCX, LaysTheFileOut)

@@ -51,21 +51,17 @@ struct Browser : WindowTest {
 
 TEST_F(Browser, OpensPicturesOrFoldersAlone)
 {
-    struct {
-        BrowseMode mode;
-        const char* name;
-        bool can;
-    } const rows[] = {
+    constexpr std::tuple<BrowseMode, const char*, bool> rows[] = {
         {BrowseMode::Pictures, "a.png", true},           {BrowseMode::Pictures, "Loud.JPEG", true},
         {BrowseMode::Pictures, "folder.png", false},     {BrowseMode::Pictures, "notes.txt", false},
         {BrowseMode::Pictures, "bare", false},           {BrowseMode::Pictures, "c.cur", false},
         {BrowseMode::TextureFolder, "folder.png", true},
     };
-    for (const auto& row : rows) {
-        show(row.mode, at(row.name));
-        EXPECT_EQ(tree().path(), at(row.name));
-        EXPECT_EQ(find("CmdOpen")->isEnabled(), row.can) << row.name;
-        EXPECT_EQ(text("FileName"), row.can ? at(row.name) : QString());
+    for (const auto& [mode, name, can] : rows) {
+        show(mode, at(name));
+        EXPECT_EQ(tree().path(), at(name));
+        EXPECT_EQ(find("CmdOpen")->isEnabled(), can) << name;
+        EXPECT_EQ(text("FileName"), can ? at(name) : QString());
     }
     EXPECT_EQ(window->windowTitle(), "Browse For Graphic Filles");
 }
@@ -111,6 +107,9 @@ TEST_F(Browser, ShowsWhatIsSelectedAndForgetsWhatWas)
     tree().select(at("notes.txt"));
     EXPECT_EQ(text("previewKind"), "");
     EXPECT_EQ(previews().asked.back(), at("Loud.JPEG")) << "what is no picture is not read";
+    tree().select(at("a.png"));
+    tree().select(at("notes.txt"));
+    EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1}))) << "nor shown beside another's name";
     tree().select(at("a.png"));
     window.reset(); // with the answer on its way
     EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));

@@ -123,27 +123,24 @@ TEST_F(Geometry, CanvasAddsTenthsAndPlacesThePictureByAnchorAndByDragging)
     type("txtW", "50");
     type("txtH", "10");
     const auto placed = [&](int left, int top) {
-        Bits wanted(50, 10);
-        for (int y = 0; y < 10; ++y)
-            for (int x = 0; x < 50; ++x)
-                if (x >= left && x < left + 40 && y >= top && y < top + 20)
-                    for (int c = 0; c < 3; ++c) wanted.at(x, y).c[c] = picture.at(x - left, y - top).c[c];
+        const Rect place{left, top, left + 40, top + 20};
+        const Bits wanted = drawnBits(50, 10, [&, seen = plain(picture)](int x, int y) {
+            return place.contains(x, y) ? seen.at(x - left, y - top) : Pixel{};
+        });
         return sameBits(wanted, done());
     };
     EXPECT_TRUE(placed(5, -5)); // in the middle
-    const struct {
-        const char* anchor;
-        int left, top;
-    } rows[] = {{"anchor_0", 0, 0}, {"anchor_8", 10, -10}, {"anchor_5", 10, -5}};
-    for (const auto& r : rows) {
-        click(r.anchor);
-        EXPECT_TRUE(placed(r.left, r.top)) << r.anchor;
+    for (const auto& [anchor, left, top] :
+         {std::tuple("anchor_0", 0, 0), {"anchor_8", 10, -10}, {"anchor_5", 10, -5}}) {
+        click(anchor);
+        EXPECT_TRUE(placed(left, top)) << anchor;
     }
     auto* image = find("iImg");
     QTest::mousePress(image, Qt::LeftButton, {}, {4, 4});
     QTest::mouseMove(image, {1, 7});
     QTest::mouseRelease(image, Qt::LeftButton, {}, {1, 7});
-    EXPECT_TRUE(placed(7, -2)); // 3 to the left, 3 down from the last anchor
+    for (const char* height : {"11", "10"}) type("txtH", height); // another size leaves it there
+    EXPECT_TRUE(placed(7, -2));                                   // 3 to the left, 3 down from the last anchor
 }
 
 TEST_F(Geometry, OrientationTurnsThenFlips)

@@ -48,14 +48,10 @@ TEST_F(fPrintTest, PrintsAsItIsSet)
     click("cmdOK");
     ASSERT_EQ(printers.pages.size(), 1u);
     const auto& [printer, page] = printers.pages.front();
-    EXPECT_EQ(printer, "Attic");
+    EXPECT_EQ(printer + ": " + page.title, "Attic: holiday.png");
     EXPECT_EQ(page.place, QRectF(10, 10, 180, 120));
-    EXPECT_EQ(page.orientation, PageOrientation::Portrait);
-    EXPECT_EQ(page.quality, PrintQuality::High);
-    EXPECT_EQ(page.copies, 4);
-    EXPECT_EQ(page.title, "holiday.png");
-    EXPECT_EQ(page.picture.width(), 90);
-    EXPECT_EQ(copied, 1);
+    EXPECT_EQ(std::pair(page.orientation, page.quality), std::pair(PageOrientation::Portrait, PrintQuality::High));
+    EXPECT_EQ(std::tuple(page.copies, page.picture.width(), copied), std::tuple(4, 90, 1));
     EXPECT_FALSE(used->isVisible());
     EXPECT_TRUE(platform.log.empty());
 }

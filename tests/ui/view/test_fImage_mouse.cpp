@@ -159,7 +159,9 @@ TEST_F(Mouse, AHalfMadePolygonKeepsItsPlaceInThePicture)
     release({30, 8});
     const auto placeOf = [&](const char* line) { return control(line)->geometry().topLeft() + w.GetSBV(); };
     EXPECT_EQ(placeOf("shpLine_0"), QPoint(5, 5));
+    hover({50, 30}); // a line to the pointer
     w.setZoomFactor(3);
+    EXPECT_EQ(placeOf("shpLine_1"), QPoint(90, 24));
     EXPECT_EQ(placeOf("shpLine_0"), QPoint(15, 15));
     EXPECT_EQ(control("shpLine_0")->size(), QSize(76, 10));
     w.Scroll(40, 20);

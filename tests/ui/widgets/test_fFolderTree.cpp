@@ -119,31 +119,23 @@ TEST_F(FolderTree, FollowsTheDisk)
     QFile::remove(at("alpha/anna.png"));
     EXPECT_TRUE(shown.holds(at("alpha"), 2));
     EXPECT_NE(shown.tree.path(), at("alpha/anna.png"));
+    shown.tree.select(at("alpha/Bert.PNG"));
+    EXPECT_EQ(shown.tree.currentIndex().row(), 0);
     file("beta/new.png");
     file("alpha/new.png");
     EXPECT_TRUE(shown.holds(at("alpha"), 3));
 }
 
-TEST_F(FolderTree, AFolderOfThousandsOpensAtOnceAndScrolls)
+TEST_F(FolderTree, AFolderOfThousandsComesInOnePiece)
 {
     QDir(top.path()).mkdir("many");
     for (int i = 0; i < 5000; ++i) file(QString("many/picture%1.png").arg(i));
-    auto spent = [from = std::clock()]() mutable { // milliseconds of the processor, whatever else it has to do
-        return (std::clock() - std::exchange(from, std::clock())) * 1000 / CLOCKS_PER_SEC;
-    };
     Shown shown(Shows::FoldersAndFiles);
+    const QSignalSpy pieces(shown.tree.model(), &QAbstractItemModel::rowsInserted);
     shown.tree.select(at("many/picture2500.png"));
     ASSERT_TRUE(shown.holds(at("many"), 5000));
-    shown.tree.grab();
-    const auto opened = spent();
-    QScrollBar* bar = shown.tree.verticalScrollBar();
-    constexpr int kSteps = 100;
-    for (int i = 0; i <= kSteps; ++i) {
-        bar->setValue(bar->maximum() * i / kSteps);
-        shown.tree.grab();
-    }
-    EXPECT_LT(opened, 600);
-    EXPECT_LT(spent() / kSteps, 50);
+    EXPECT_LT(pieces.size(), 100);
+    EXPECT_TRUE(shown.tree.uniformRowHeights()) << "else each row is measured";
 }
 
 } // namespace velara

@@ -30,11 +30,9 @@ TEST(ViewLayout, Table)
 {
     for (const LayoutRow& row : kLayouts) {
         const ViewLayout l = layOut(row.space);
-        EXPECT_EQ(l.needH, row.needH) << row.what;
-        EXPECT_EQ(l.needV, row.needV) << row.what;
-        EXPECT_EQ(l.iDst, row.iDst) << row.what;
-        EXPECT_EQ(l.hMax, row.hMax) << row.what;
-        EXPECT_EQ(l.vMax, row.vMax) << row.what;
+        EXPECT_EQ(std::tie(l.needH, l.needV, l.iDst, l.hMax, l.vMax),
+                  std::tie(row.needH, row.needV, row.iDst, row.hMax, row.vMax))
+            << row.what;
     }
     const ViewLayout both = layOut({300, 300, 1, 200, 100, 20});
     EXPECT_EQ(both.hSB, (Rect{0, 80, 180, 100}));
@@ -74,18 +72,18 @@ TEST(ViewLayout, PixelUnderThePointer)
 
 TEST(PageAxis, InTheMiddleOrMovedByItsBar)
 {
-    const auto expect = [](PageAxis got, int maximum, int value, int place) {
-        EXPECT_EQ(got.maximum, maximum);
-        EXPECT_EQ(got.value, value);
-        EXPECT_EQ(got.place, place);
-    };
-    expect(pageAxis(100, 40, 7), 0, 0, 30);
-    expect(pageAxis(100, 41, 0), 0, 0, 29);
-    expect(pageAxis(100, 100, 3), 0, 0, 0);
-    expect(pageAxis(100, 101, 3), 1, 1, -1);
-    expect(pageAxis(100, 350, 120), 250, 120, -120);
-    expect(pageAxis(100, 350, -5), 250, 0, 0);
-    expect(pageAxis(1, 32767, 99999), 32766, 32766, -32766);
+    constexpr int kCases[][6] = {// container, picture, value of the bar; then range, value and place
+                                 {100, 40, 7, 0, 0, 30},
+                                 {100, 41, 0, 0, 0, 29},
+                                 {100, 100, 3, 0, 0, 0},
+                                 {100, 101, 3, 1, 1, -1},
+                                 {100, 350, 120, 250, 120, -120},
+                                 {100, 350, -5, 250, 0, 0},
+                                 {1, 32767, 99999, 32766, 32766, -32766}};
+    for (const auto& [container, picture, bar, maximum, value, place] : kCases) {
+        const PageAxis got = pageAxis(container, picture, bar);
+        EXPECT_EQ(std::tie(got.maximum, got.value, got.place), std::tie(maximum, value, place)) << container << picture;
+    }
 }
 
 } // namespace velara

@@ -1,7 +1,6 @@
 #include "support/pictures.h"
 #include "ui/widgets/viewRender.h"
 #include <QPainter>
-#include <gtest/gtest.h>
 
 namespace velara {
 

@@ -26,13 +26,8 @@ struct NumberBox : ::testing::Test {
 
 TEST_F(NumberBox, SliderAndNumberFollowEachOther)
 {
-    const struct {
-        int low, high;
-        fNumberBox::Measure measure;
-        const char* typed;
-        int position;
-        const char* shown; // after Enter
-    } cases[] = {
+    const std::tuple<int, int, fNumberBox::Measure, const char*, int, const char*> cases[] = {
+        // lowest, highest, measure, what is typed, where the slider goes, what is shown after Enter
         {0, 100, {}, "42", 42, "42"},
         {0, 100, {1, 0, "%"}, "42", 42, "42%"},
         {0, 100, {}, "999", 99, "99"}, // the third figure is refused
@@ -42,15 +37,15 @@ TEST_F(NumberBox, SliderAndNumberFollowEachOther)
         {0, 200, {0.01, 2}, "0,5", 50, "0.50"},
         {0, 200, {0.01, 2}, "7", 60, "0.60"}, // too large: what stood before
     };
-    for (const auto& c : cases) {
-        auto* box = make(c.low, c.high, c.measure);
+    for (const auto& [low, high, measure, typed, position, text] : cases) {
+        auto* box = make(low, high, measure);
         slider->setValue(60);
         EXPECT_EQ(box->value(), slider->value());
         box->selectAll();
-        QTest::keyClicks(box, c.typed);
+        QTest::keyClicks(box, typed);
         QTest::keyClick(box, Qt::Key_Return);
-        EXPECT_EQ(c.position, slider->value()) << c.typed;
-        EXPECT_EQ(c.shown, box->text().toStdString());
+        EXPECT_EQ(position, slider->value()) << typed;
+        EXPECT_EQ(text, box->text().toStdString());
         delete box;
     }
 }

@@ -2,7 +2,6 @@
 #include "support/pictures.h"
 #include "ui/utilities/fCaptureRectangle.h"
 #include <QApplication>
-#include <gtest/gtest.h>
 
 namespace velara {
 
@@ -15,21 +14,18 @@ TEST(ScreenCover, ADragCountsThePixelsOfTheScreensThatItIsOn)
     int picks = 0, leaves = 0;
     QObject::connect(&picker, &fCaptureRectangle::picked, [&] { ++picks; });
     QObject::connect(&picker, &ScreenCover::left, [&] { ++leaves; });
-    const struct {
-        QPointF from, to;
-        QRect wanted;
-    } drags[] = {
+    const std::tuple<QPointF, QPointF, QRect> drags[] = {
         {{10, 10}, {40, 30}, {10, 10, 30, 20}},
         {{110, 30}, {150.5, 70}, {120, 60, 81, 80}},    // half a place is a pixel
         {{190, 90}, {20, 5}, {20, 5, 260, 175}},        // from one to the other
         {{110, 30}, {5000, 5000}, {120, 60, 180, 140}}, // beyond all of them
     };
-    for (const auto& drag : drags) {
+    for (const auto& [from, to, wanted] : drags) {
         picker.ShowPicture(picture);
-        picker.press(drag.from);
-        picker.move((drag.from + drag.to) / 2);
-        picker.release(drag.to);
-        EXPECT_TRUE(sameBits(partOf(picture.bits, drag.wanted), picker.picRectangle())) << drag.to.x();
+        picker.press(from);
+        picker.move((from + to) / 2);
+        picker.release(to);
+        EXPECT_TRUE(sameBits(partOf(picture.bits, wanted), picker.picRectangle())) << to.x();
     }
     EXPECT_EQ(picks, int(std::size(drags)));
 
