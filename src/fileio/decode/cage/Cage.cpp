@@ -38,7 +38,7 @@ constexpr struct {
 
 } // namespace
 
-CageState enterCage(Needs needs, unsigned layers)
+CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
 {
     CageState state;
     const auto close = [&](CageLayer layer, auto&& how) {
