@@ -94,7 +94,7 @@ Row inEllipse(std::string family, double must, double goal, std::string name, Ar
             [=](Size size) {
                 const Bits& bits = picture(size);
                 return Timing{calling(name, arguments, bits, Region::ellipse(0, 0, size.width + 1, size.height + 1)),
-                             calling(name, arguments, bits, everything(size)), std::acos(-1.0) / 4};
+                              calling(name, arguments, bits, everything(size)), std::acos(-1.0) / 4};
             },
             "whole picture a pixel",
             name};

@@ -50,10 +50,10 @@ Row opening(const char* extension, int format, double must, double goal)
                 const QString path = pathOf("open", extension);
                 save(picture(size), path, extension);
                 return Timing{[=] { load(path, extension); },
-                             [=] {
-                                 const FreeImageStart library;
-                                 FreeImage_Unload(FreeImage_Load(FREE_IMAGE_FORMAT(format), path.toUtf8(), 0));
-                             }};
+                              [=] {
+                                  const FreeImageStart library;
+                                  FreeImage_Unload(FreeImage_Load(FREE_IMAGE_FORMAT(format), path.toUtf8(), 0));
+                              }};
             },
             "FreeImage_Load"};
 }
@@ -68,10 +68,10 @@ Row saving(const char* extension, int format, int flags, double must, double goa
                 const QString path = pathOf("save", extension), reference = pathOf("reference", extension);
                 const auto dib = std::make_shared<Dib24>(picture(size));
                 return Timing{[=] { save(picture(size), path, extension); },
-                             [=] {
-                                 const FreeImageStart library;
-                                 FreeImage_Save(FREE_IMAGE_FORMAT(format), dib->get(), reference.toUtf8(), flags);
-                             }};
+                              [=] {
+                                  const FreeImageStart library;
+                                  FreeImage_Save(FREE_IMAGE_FORMAT(format), dib->get(), reference.toUtf8(), flags);
+                              }};
             },
             "FreeImage_Save"};
 }

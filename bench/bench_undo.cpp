@@ -71,9 +71,9 @@ Row previews()
             [](Size size) {
                 const auto shown = std::make_shared<FilterPreview>(picture(size), Region(), QSize(300, 260));
                 return Timing{[shown] {
-                                 for (const FilterRow& row : filterRows()) shown->run(row, row.defaults());
-                             },
-                             {}};
+                                  for (const FilterRow& row : filterRows()) shown->run(row, row.defaults());
+                              },
+                              {}};
             },
             "ms"};
 }

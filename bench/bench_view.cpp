@@ -28,10 +28,10 @@ Row repaint(std::string name, int zoom, double ratio = 1)
                 auto screen = std::make_shared<Screen>(ratio);
                 const Bits& bits = picture(size);
                 return Timing{[=] {
-                                 QPainter painter(&screen->window);
-                                 screen->renderer.paint(painter, bits, {101, 57, zoom, ratio}, kView, {});
-                             },
-                             {}};
+                                  QPainter painter(&screen->window);
+                                  screen->renderer.paint(painter, bits, {101, 57, zoom, ratio}, kView, {});
+                              },
+                              {}};
             },
             "ms"};
 }
