@@ -197,7 +197,7 @@ void Monkey::windUp()
     if (faults_ == 0) check();
     if (faults_ == 0) checkHome();
     finished_ = true;
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // quit() would ask the windows, which may stay
 }
 
 } // namespace velara::monkey
