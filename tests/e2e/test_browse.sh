@@ -32,9 +32,15 @@ until_true "preview and thumbnail of the green one" shows '#12fe34' 2
 until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/normal/*.png"
 
 # The thumbnail stands at the left of its row: a double click on it
-thumb=$(place '#12fe34' | sort -t+ -k2n | head -1)
+thumb_at() { place '#12fe34' | sort -t+ -k2n | head -1; }
+still() { # rows move while pictures come in
+    thumb=$(thumb_at)
+    settled
+    [ "$thumb" = "$(thumb_at)" ]
+}
 double_clicked() { # two clicks that a busy machine pulls apart are none
     closed && return
+    still || return
     xdotool mousemove $(middle_of "$thumb") click --repeat 2 --delay 60 1
     for _ in $(seq 40); do # a second one would meet what lies behind
         closed && return
@@ -43,6 +49,7 @@ double_clicked() { # two clicks that a busy machine pulls apart are none
     false
 }
 until_true "the browser to close after a double click" double_clicked
+until_true "the open document" documents 1
 until_true "the open picture" shows '#12fe34' 1
 
 # It comes back where it was.
