@@ -58,6 +58,7 @@ void Tools::press(int button, int x, int y)
     if (!guarded([&] { c.surface.activate(); }) || !c.document.PictureExists()) return;
     c.at = c.press = {x, y};
     if (button == Left) {
+        if (c.down && active_) drop(); // the release of the drag before went elsewhere
         c.start = c.at;
         c.last = c.at;
         c.down = true;

@@ -287,6 +287,21 @@ TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
     EXPECT_EQ(rectanglesOf(selection()), (Words{11, 10, 21, 20}));
 }
 
+/// The release went elsewhere, as to another window.
+TEST_F(MoveTool, APressEndsADragWhoseReleaseNeverCame)
+{
+    const Bits before = document.bits();
+    choose("Shape");
+    press({10, 10});
+    move({40, 30});
+    EXPECT_FALSE(sameBits(before, document.bits()));
+    choose("SelectionMove");
+    press({1, 1}); // beside the selection
+    EXPECT_TRUE(sameBits(before, document.bits()));
+    release({1, 1});
+    EXPECT_EQ(frame.snapshots, 0);
+}
+
 TEST_F(MoveTool, ArrowKeysMoveThePositionOnly)
 {
     const Bits before = document.bits();
