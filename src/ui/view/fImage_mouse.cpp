@@ -57,6 +57,7 @@ int fImage::buttonOf(const QMouseEvent& event) const
 void fImage::displayPressed(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
+    bringToFront(); // a press in a frame that isn't the active window comes before the frame hears of it
     if (!(event.buttons() & grabButton_)) grabButton_ = Qt::NoButton; // its release went to another window
     if (grabButton_ != Qt::NoButton) return;
     // The middle button moves the picture whatever tool is chosen.
