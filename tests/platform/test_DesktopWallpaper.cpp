@@ -141,6 +141,8 @@ TEST(RootPicture, TilesFromTheCornerAndLaysOutTheOthersOnEachScreen)
     };
     EXPECT_EQ(rows(rootPicture(picture, WallpaperMode::Tile, {5, 2}, screens)), "rbrbr/rbrbr/");
     EXPECT_EQ(rows(rootPicture(picture, WallpaperMode::Centre, {10, 3}, screens)), "........../.rb...rb../........../");
+    EXPECT_EQ(rows(rootPicture(picture, WallpaperMode::Centre, {4, 1}, {{1, 0, 3, 1}, {0, 0, 1, 1}})), "rrb./")
+        << "what a screen has no room for isn't on the next one";
     const QImage stretched = rootPicture(flatBits(3, 3, 10, 20, 30), WallpaperMode::Stretch, {10, 4}, screens);
     for (int x = 0; x < 10; ++x) {
         EXPECT_EQ(stretched.pixel(x, 2), qRgb(30, 20, 10)) << x;

@@ -29,6 +29,16 @@ struct FilePreviewsTest : FolderTest {
         touchFile(put(name, bytes), QDateTime::fromSecsSinceEpoch(1'700'000'000));
         return path(name);
     }
+    void koaReader(const QByteArray& script)
+    {
+        fake = put("fake", "#!/usr/bin/env python3\n" + script);
+        QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        startReader = [](const ReaderStart& start) {
+            ReaderStart other = start;
+            if (start.extension == "koa") other.decoder = fake;
+            return real(other);
+        };
+    }
     static QByteArray ppm(int side, char value)
     {
         return "P6\n" + QByteArray::number(side) + ' ' + QByteArray::number(side) + "\n255\n" +
@@ -84,22 +94,28 @@ TEST_F(FilePreviewsTest, EndsInTheMiddle)
 // A picture that takes all the time that it can get, and claims more.
 TEST_F(FilePreviewsTest, ABombDoesntHoldUpTheOtherThumbnails)
 {
-    fake = put("fake", "#!/usr/bin/env python3\nimport socket, struct, time\ns = socket.socket(fileno=3)\n"
-                       "s.send(struct.pack('<Iii244s', 0x31434c56, 9000, 9000, b''))\n"
-                       "while time.process_time() < 3: pass\n"
-                       "s.send(struct.pack('<Iii244s', 0x31444c56, 0, 0, b'it had too much time'))\n");
-    QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    startReader = [](const ReaderStart& start) {
-        ReaderStart other = start;
-        if (start.extension == "koa") other.decoder = fake;
-        return real(other);
-    };
+    koaReader("import socket, struct, time\ns = socket.socket(fileno=3)\n"
+              "s.send(struct.pack('<Iii244s', 0x31434c56, 9000, 9000, b''))\n"
+              "while time.process_time() < 3: pass\n"
+              "s.send(struct.pack('<Iii244s', 0x31444c56, 0, 0, b'it had too much time'))\n");
     FilePreviews service(std::chrono::seconds(2));
     const QString bomb = file("bomb.koa", QByteArray(2 << 20, 'b')), grey = file("grey.ppm", ppm(30, '\x80'));
     const auto first = service.thumbnail(bomb, keep), second = service.thumbnail(grey, keep);
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers[0].size, QSize(30, 30));
     EXPECT_EQ(answers[1].reason, "bomb.koa can't be read: reading it took too long and was stopped");
+}
+
+TEST_F(FilePreviewsTest, APictureThatNobodyWaitsForAnyMoreIsNotNotedAsBroken)
+{
+    koaReader("import time\nopen('" + path("begun").toUtf8() + "', 'w')\ntime.sleep(60)\n");
+    const QString slow = file("slow.koa", "a picture");
+    auto service = std::make_unique<FilePreviews>();
+    auto request = service->thumbnail(slow, keep);
+    ASSERT_TRUE(comes([&] { return QFile::exists(path("begun")); }));
+    request.reset();
+    service.reset(); // which waits for its threads
+    EXPECT_FALSE(QFile::exists(SharedThumbnail(slow).failure()));
 }
 
 TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)

@@ -198,6 +198,9 @@ TEST_F(FrameTest, TheFirstResizeStoresALayoutOnceForTheUser)
     frame->resize(700, 500);
     EXPECT_EQ(setup.FrameWidth, 700 * 15);
     EXPECT_EQ(setup.FrameHeight, 500 * 15);
+    frame->showMaximized();
+    EXPECT_TRUE(setup.FrameMaximized);
+    EXPECT_EQ(setup.FrameWidth, 700 * 15) << "the size to come back to";
 }
 
 TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)

@@ -25,6 +25,20 @@ TEST_F(FramePicture, AFilterKeepsToTheSelectionOfTheMouse)
     EXPECT_TRUE(image->document().Region.IsEmptyRegion());
 }
 
+TEST_F(FramePicture, APressInAnotherPictureLeavesTheOneThatADragHungOn)
+{
+    fImage* other = open(flatBits(60, 50, 1, 2, 3), "other.bmp");
+    fImage* image = open(flatBits(60, 50, 10, 20, 30));
+    const Bits before = image->bits();
+    click("Pencil");
+    mouse(image, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
+    mouse(image, QEvent::MouseMove, {30, 30}, Qt::LeftButton);
+    ASSERT_FALSE(image->bits() == before);
+    mouse(other, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton); // as where the frame isn't the active window
+    EXPECT_EQ(frame->GetActiveImage(), other);
+    EXPECT_TRUE(image->bits() == before);
+}
+
 TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
 {
     fImage* image = open(randomBits(2000, 1500, 1));
