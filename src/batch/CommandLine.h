@@ -12,7 +12,7 @@ namespace velara {
 /// Reads a picture file; throws Failure.
 using ReadPicture = std::function<Bits(const QString& path)>;
 
-struct Step {
+struct LineStep {
     QString text;                                         // as it was written
     std::function<void(Session&)> run;                    // throws Failure
     std::function<void(const ReadPicture&)> prepare = {}; // reads the pictures among its arguments
@@ -21,7 +21,7 @@ struct Step {
 
 struct CommandLine {
     QString input, output;
-    std::vector<Step> steps;
+    std::vector<LineStep> steps;
     std::optional<WebOrder> web;   // OUTPUT is a web file
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     bool verbose = false, help = false, list = false, partial = false;
@@ -33,9 +33,9 @@ struct CommandLine {
 };
 
 /// A step of its text; throws Failure.
-Step parseStep(const QString& text);
+LineStep parseStep(const QString& text);
 /// "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
-Step parseSelection(const QString& shape);
+LineStep parseSelection(const QString& shape);
 /// The argument's text as a value of the parameter's type; pictures are file names until they are read. Throws Failure.
 Argument parseArgument(const QString& text, const Parameter& parameter);
 

@@ -1,5 +1,4 @@
 #include "batch/Session.h"
-#include "document/Draft.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/MemoryBudget.h"
@@ -25,11 +24,13 @@ void Session::open(const Bits& bits, bool keepSteps)
 {
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
         throw stepsFault();
-    document_.emplace(folder_ ? folder_->path() : QString(), 0);
-    document_->takePicture(bits);
-    document_->handTo(filter_);
-    if (!filter_.Progress) filter_.clock = [] { return 0U; }; // no report ever falls due
-    if (folder_) document_->SaveUndoBits();
+    workspace_.emplace(folder_ ? folder_->path() : QString());
+    document_ = workspace_->add(bits);
+    workspace_->handOver(*document_);
+    workspace_->engine().clock = [] { return 0U; }; // no report ever falls due
+    QObject::connect(&*workspace_, &Workspace::progress, &*workspace_, [this](const DocumentHandle&, int percent) {
+        if (progress_) progress_(percent);
+    });
     checkSteps();
 }
 
@@ -38,13 +39,19 @@ void Session::checkSteps()
     if (folder_ && !document_->undo.stands()) throw stepsFault();
 }
 
+void Session::setProgress(std::function<void(int)> progress)
+{
+    progress_ = std::move(progress);
+    workspace_->engine().clock = [this] { return machine_.milliseconds(); };
+}
+
 void Session::change(const Job& job, After after)
 {
+    Outcome became;
+    workspace_->change(document_, {job, after}, [&](const Outcome& outcome) { became = outcome; });
+    workspace_->wait();
     try {
-        Draft draft(*document_, document_->bits(), filter_, after);
-        draft.run(job);
-        draft.take();
-        draft.handTo(filter_, true);
+        if (became.fault) std::rethrow_exception(became.fault);
     } catch (const RuntimeError& error) {
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {

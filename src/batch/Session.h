@@ -1,8 +1,8 @@
-// Session: the one picture that a run of velara-batch works on, with its selection and its undo series.
+// Session: the one picture that a run of velara-batch works on: a workspace with one document, each step waited for.
 #pragma once
 #include "batch/Failure.h"
 #include "commands/jobs.h"
-#include "document/Document.h"
+#include "document/Workspace.h"
 #include "seams/Machine.h"
 #include <QTemporaryDir>
 #include <optional>
@@ -20,34 +20,31 @@ class Session {
     void open(const Bits& bits, bool keepSteps);
     /// No step to come goes back.
     void forgetSteps() { folder_.reset(); }
-    const Bits& picture() const { return document_->bits(); }
+    Bits picture() const { return document_->bits(); }
 
     // Each throws Failure and leaves the picture as it was.
     void change(const Job& job, After after = After::Step);
     void crop();
-    void undo() { document_->UndoBits(filter_); }
-    void redo() { document_->RedoBits(filter_); }
+    void undo() { workspace_->step(document_, true); }
+    void redo() { workspace_->step(document_, false); }
     /// change works on the selection; what it leaves is the working region of the steps to come.
     template <class Change> void select(Change change)
     {
         change(document_->Region);
-        document_->handTo(filter_);
+        workspace_->handOver(*document_);
     }
 
     /// Percent of the step that runs.
-    void setProgress(std::function<void(int)> progress)
-    {
-        filter_.Progress = std::move(progress);
-        filter_.clock = [this] { return machine_.milliseconds(); };
-    }
+    void setProgress(std::function<void(int)> progress);
 
   private:
     void checkSteps();
 
     Machine& machine_;
-    cBitFilter filter_;
     std::optional<QTemporaryDir> folder_; // of the undo series
-    std::optional<Document> document_;
+    std::optional<Workspace> workspace_;
+    DocumentHandle document_;
+    std::function<void(int)> progress_;
 };
 
 } // namespace velara

@@ -81,7 +81,7 @@ void takeSteps(Session& session, const CommandLine& line)
 {
     const int lastGoingBack = line.lastGoingBack();
     for (int i = 0; i < static_cast<int>(line.steps.size()); ++i) {
-        const Step& step = line.steps[static_cast<std::size_t>(i)];
+        const LineStep& step = line.steps[static_cast<std::size_t>(i)];
         if (line.verbose) {
             std::fprintf(stderr, "%s\n", step.text.toUtf8().constData());
             session.setProgress(progressOf(step.text));
@@ -102,7 +102,7 @@ void run(const QStringList& arguments)
     fileOf(line.output);
     const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
     const Bits input = readPicture(line.input);
-    for (const Step& step : line.steps)
+    for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare(readPicture);
     Session session(platform);
     session.open(input, line.lastGoingBack() >= 0);

@@ -83,7 +83,7 @@ Region parseShape(const QString& text)
 
 } // namespace
 
-Step parseSelection(const QString& text)
+LineStep parseSelection(const QString& text)
 {
     const QString step = QStringLiteral("--select ") + text;
     if (const auto* whole = std::ranges::find(kWhole, text.toStdString(), &Whole::name); whole != std::end(kWhole))

@@ -93,7 +93,7 @@ Arguments parseArguments(const Operation& operation, const QStringList& texts)
     return arguments;
 }
 
-Step operationStep(const QString& text, const Operation& operation, Arguments arguments)
+LineStep operationStep(const QString& text, const Operation& operation, Arguments arguments)
 {
     auto shared = std::make_shared<Arguments>(std::move(arguments));
     return {text, [&operation, shared](Session& s) { s.change(operationJob(operation, *shared)); },
@@ -133,7 +133,7 @@ Argument parseArgument(const QString& text, const Parameter& parameter)
     return value;
 }
 
-Step parseStep(const QString& text)
+LineStep parseStep(const QString& text)
 {
     const int open = static_cast<int>(text.indexOf(u'('));
     const QString name = text.left(open < 0 ? text.size() : open);

@@ -8,36 +8,38 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
     : document_(document.handle()), draft_({}, document.DocNumber()), filter_(like), commits_(document.commits()),
       sizing_(after == After::Sizing)
 {
-    Bits picture = committed;
-    if (sizing_ && document.Zoomed)
-        if (auto before = document.undo.previous()) {
-            picture = *std::move(before);
-            fromBefore_ = true;
-        }
-    draft_.takePicture(picture);
-    if (sizing_) start_ = picture;
-    if (picture.width() == document.PictureWidth() && picture.height() == document.PictureHeight())
-        draft_.Region = document.Region;
+    draft_.takePicture(committed);
+    draft_.Region = document.Region;
+    if (sizing_ && document.Zoomed) before_ = document.undo.previousLater();
+}
+
+/// The picture that the job starts from; reading the one before may take its time.
+void Draft::prepare()
+{
+    if (const auto before = before_ ? before_() : std::nullopt) {
+        fromBefore_ = true;
+        if (before->width() == draft_.PictureWidth() && before->height() == draft_.PictureHeight())
+            draft_.setBits(*before);
+        else
+            draft_.takePicture(*before);
+    }
+    if (sizing_) start_ = draft_.bits();
     draft_.handTo(filter_);
     limit_ = draft_.Region.RegionMain();
     selection_ = draft_.Region.Region();
 }
 
-void Draft::run(const Job& job)
-{
-    const MemoryBudget budget;
-    job(draft_, filter_);
-}
-
 Outcome Draft::attempt(const Job& job)
 {
     try {
-        run(job);
+        const MemoryBudget budget;
+        prepare();
+        job(draft_, filter_);
         return {};
     } catch (const Cancelled&) {
         return {Outcome::Cancelled};
     } catch (const std::exception& failure) {
-        return {Outcome::Failed, QString::fromUtf8(failure.what())};
+        return {Outcome::Failed, QString::fromUtf8(failure.what()), std::current_exception()};
     }
 }
 

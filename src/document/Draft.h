@@ -15,9 +15,8 @@ class Draft {
 
     /// The engine that the job gets; for its Progress.
     cBitFilter& filter() { return filter_; }
-    /// NotEnoughMemory when the job needs more than half of the memory that is free.
-    void run(const Job& job);
-    /// The same, with what the job throws told by the outcome.
+    /// Runs the job, on whichever thread; what it throws is told by the outcome. NotEnoughMemory when it needs more
+    /// than half of the memory that is free.
     Outcome attempt(const Job& job);
     /// The document is there and at the step that the draft began with.
     bool wanted() const;
@@ -28,11 +27,14 @@ class Draft {
     void handTo(cBitFilter& engine, bool holds) const;
 
   private:
+    void prepare();
+
     DocumentHandle document_;
     Document draft_;
     cBitFilter filter_;
-    Bits start_;               // the picture at the start
-    Region limit_, selection_; // of the draft at the start
+    std::function<std::optional<Bits>()> before_; // the picture before a run of sizing words
+    Bits start_;                                  // the picture at the start
+    Region limit_, selection_;                    // of the draft at the start
     int commits_;
     bool sizing_, fromBefore_ = false;
 };

@@ -2,6 +2,7 @@
 // them together.
 #pragma once
 #include <QString>
+#include <exception>
 #include <functional>
 
 namespace velara {
@@ -26,11 +27,11 @@ struct Outcome {
         Done,
         Failed,    // the job threw; reason says what
         Cancelled, // the job threw Cancelled
-        Dropped,   // another change of the same document came first; reason says so
-        Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
+            Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
     };
     Kind kind = Done;
     QString reason = {}; // in words for a person; empty where there is nothing to say
+    std::exception_ptr fault = {}; // what the job threw
 
     explicit operator bool() const { return kind == Done; }
 };

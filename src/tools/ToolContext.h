@@ -1,6 +1,6 @@
 // What a mouse tool works on, and what a tool is.
 #pragma once
-#include "document/Document.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "tools/PreviewBuffer.h"
@@ -18,7 +18,7 @@ struct Point {
 /// The tool state of one document and the ways to the rest. Positions are picture pixels.
 struct ToolContext {
     ToolContext(Document& document, Frame& frame, ToolSurface& surface)
-        : document(document), frame(frame), surface(surface), preview(document, frame.filter())
+        : document(document), frame(frame), surface(surface), preview(document, frame.workspace().engine())
     {
     }
 
@@ -36,7 +36,7 @@ struct ToolContext {
     bool connect = false;                   // the stroke has placed its first dab
     bool corner = false;                    // Space has set a corner in this drag
     bool polygon = false;                   // a polygon selection is half made, under the button or not
-    int begun = 0, dropped = 0;             // drags so far, and gestures that were let go of
+    int computed = Workspace::kAll;         // the change that the last release began and that is not done yet
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
     Region before, wiped;                   // the selection as a gesture found it, and as its press left it
     std::int32_t colourBefore = 0;          // the colour that the pipette found
@@ -45,7 +45,8 @@ struct ToolContext {
 
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores(); }
-    cBitFilter& filter() const { return frame.filter(); }
+    Workspace& workspace() const { return frame.workspace(); }
+    cBitFilter& filter() const { return workspace().engine(); }
     Painter& paint() const { return document.paint; }
     /// Shows what was restored and painted since the last call.
     void repaint()
@@ -56,8 +57,8 @@ struct ToolContext {
     /// The document's picture becomes the committed one, with one undo step.
     void commit()
     {
-        if (frame.engineHolds(document)) preview.commit();
-        frame.finish(document.handle());
+        if (workspace().engineHolds(document)) preview.commit();
+        workspace().finish(document.handle());
     }
 };
 

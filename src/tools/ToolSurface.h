@@ -9,7 +9,19 @@ namespace velara {
 enum class BandShape { Rectangle = 0, Ellipse = 1, Line = 2 };
 
 /// Mouse pointers of the display: the window's own two, and the cursor holders by name.
-enum class Pointer { Default, Cross, Sizing, cBrush, cAirBrush, cFill, cPencil, cTextures, cGradient, cPicker };
+enum class Pointer {
+    Default,
+    Cross,
+    Sizing,
+    Waiting,
+    cBrush,
+    cAirBrush,
+    cFill,
+    cPencil,
+    cTextures,
+    cGradient,
+    cPicker
+};
 
 class ToolSurface {
   public:

@@ -39,10 +39,13 @@ template <class Action> bool Tools::guarded(Action action)
     return !life.expired();
 }
 
+/// The document is being worked on: no tool may begin anything.
+bool Tools::isWaiting() const { return !context_.down && context_.workspace().isBusy(context_.document.handle()); }
+
 void Tools::showPointer()
 {
     const ToolRow* row = chosen();
-    context_.surface.setPointer(row ? row->pointer : Pointer::Default);
+    context_.surface.setPointer(isWaiting() ? Pointer::Waiting : row ? row->pointer : Pointer::Default);
 }
 
 Footprint Tools::footprint() const
@@ -56,6 +59,10 @@ void Tools::press(int button, int x, int y)
     ToolContext& c = context_;
     if (!c.document.PictureExists()) return;
     if (!guarded([&] { c.surface.activate(); }) || !c.document.PictureExists()) return;
+    if (isWaiting()) {
+        if (button == Right && c.computed) c.workspace().cancel(c.document.handle(), c.computed);
+        return;
+    }
     c.at = c.press = {x, y};
     if (button == Left) {
         if (c.down && active_) drop(); // the release of the drag before went elsewhere
@@ -66,7 +73,6 @@ void Tools::press(int button, int x, int y)
         active_ = nullptr;
         if (const ToolRow* row = chosen()) {
             active_ = &row->tool();
-            ++c.begun;
             c.surface.setPointer(row->pointer);
             bool taken = false;
             if (!guarded([&] { taken = active_->press(c); })) return;
@@ -89,7 +95,7 @@ void Tools::move(int button, int x, int y)
     showPosition(button);
     const Tool* const holder = tool();
     if (button == Left && active_ && !guarded([&] { holder->drag(c); })) return;
-    if (button == NoButton && !active_ && holder && !guarded([&] { holder->hover(c); })) return;
+    if (button == NoButton && !active_ && holder && !isWaiting() && !guarded([&] { holder->hover(c); })) return;
     c.last = {x, y};
     if (c.stores().pastePending) showHint();
 }
@@ -105,10 +111,8 @@ void Tools::release(int button, int x, int y)
     c.at = {x, y};
     if (button == Left && c.down && active_) {
         const Tool* const holder = active_;
-        const int drag = c.begun;
         c.down = false; // a second release ends the drag and commits nothing
         if (!guarded([&] { holder->release(c); })) return;
-        if (active_ != holder || c.begun != drag) return; // dropped while it yielded, or another has begun
         open_ = holder->unfinished(c) ? holder : nullptr;
     } else if (button == Right) {
         cancel();
@@ -121,10 +125,9 @@ void Tools::release(int button, int x, int y)
 void Tools::cancel()
 {
     ToolContext& c = context_;
-    ++c.dropped;
     if (const Tool* gesture = underWay()) gesture->cancel(c);
     open_ = nullptr;
-    if (c.frame.engineHolds(c.document)) guarded([&] { c.preview.restore(); });
+    if (c.workspace().engineHolds(c.document)) guarded([&] { c.preview.restore(); });
     c.preview.takeRestored();
     c.surface.UpdateImage();
 }
@@ -181,11 +184,12 @@ void Tools::endRelease()
         c.surface.StopTimer();
     else
         c.surface.StartTimer();
-    if (c.frame.engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
+    if (c.workspace().engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
     c.down = c.moving = false;
     active_ = nullptr;
     toolChosen(); // one that came during the drag
     showHint();
+    c.workspace().goOn(c.document.handle()); // what waited for the end of the stroke
 }
 
 void Tools::deactivated()
@@ -200,6 +204,7 @@ void Tools::deactivated()
         if (!guarded([&] { c.preview.restore(); })) return;
     active_ = nullptr;
     c.down = c.moving = false;
+    c.workspace().goOn(c.document.handle());
 }
 
 void Tools::showPosition(int button)
@@ -221,7 +226,7 @@ bool Tools::keyDown(int key)
         move(NoButton, c.last.x + step.x, c.last.y + step.y);
         return true;
     }
-    if (key == Escape) return drop();
+    if (key == Escape) return drop() || c.workspace().cancel(c.document.handle());
     const Tool* const holder = tool();
     if (!holder) return false;
     if (key == Enter) return end(&Tool::finish);

@@ -67,6 +67,7 @@ class Tools {
     const Tool* tool() const;
     /// The one with a gesture under way; null for none.
     const Tool* underWay() const;
+    bool isWaiting() const;
     template <class Action> bool guarded(Action action);
     void showPosition(int button);
     void cancel();

@@ -1,5 +1,4 @@
 // The tools whose work is done at the release, and the pipette.
-#include "document/Draft.h"
 #include "engine/cBitFilter.h"
 #include "pixels/numbers.h"
 #include "tools/ToolContext.h"
@@ -53,16 +52,16 @@ class GradientTool final : public Tool {
         const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
         const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
         const auto gradient = s.GradientMode == Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
-        const std::weak_ptr<int> life = c.life;
-        const auto isDropped = [life, &c, before = c.dropped] { return !life.expired() && c.dropped != before; };
         const Job job = [=, from = c.start, to = c.at, opacity = s.GradientPressure,
                          repeat = s.GradientFrequency](Document& draft, cBitFilter& filter) {
             draft.setBits((filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat));
         };
-        Frame& frame = c.frame;
-        const Outcome outcome = frame.change(c.document.handle(), endable(job, isDropped));
-        frame.report(QStringLiteral("Gradient"), outcome);
-        if (!life.expired()) c.surface.SetAutoRedraw(false);
+        c.surface.SetAutoRedraw(false);
+        c.computed = c.workspace().change(c.document.handle(), {job},
+                                          [&frame = c.frame, life = std::weak_ptr(c.life), &c](const Outcome& outcome) {
+                                              frame.report(QStringLiteral("Gradient"), outcome);
+                                              if (!life.expired()) c.computed = Workspace::kAll;
+                                          });
     }
 
     void cancel(ToolContext& c) const override

@@ -27,7 +27,7 @@ struct DraftTest : ::testing::Test {
 TEST_F(DraftTest, TheDocumentIsUntouchedUntilTheResultIsTaken)
 {
     Draft change = draft();
-    change.run([&](Document& d, cBitFilter& f) {
+    change.attempt([&](Document& d, cBitFilter& f) {
         EXPECT_EQ(Region::rectangle(1, 1, 4, 4), f.BitsRegion());
         d.setBits(other);
         d.Region.setRegion(selected(3));
@@ -51,7 +51,7 @@ TEST_F(DraftTest, WhatTheUserSelectsMeanwhileStaysUnlessTheJobTouchesTheSelectio
         document.Region.setRegion(selected(2));
         Draft change = draft();
         document.Region.setRegion(selected(5));
-        change.run([&](Document& d, cBitFilter&) { reshapes ? d.takePicture(other) : d.setBits(other); });
+        change.attempt([&](Document& d, cBitFilter&) { reshapes ? d.takePicture(other) : d.setBits(other); });
         change.take();
         EXPECT_EQ(reshapes ? Region() : selected(5), document.Region.Region());
     }
@@ -93,7 +93,7 @@ TEST_F(DraftTest, RandomNumbersGoOnFromJobToJob)
     const auto noise = [&] {
         document.takePicture(before);
         Draft change = draft();
-        change.run([](Document& d, cBitFilter& f) { d.setBits(f.NOISE(50, true)); });
+        change.attempt([](Document& d, cBitFilter& f) { d.setBits(f.NOISE(50, true)); });
         change.take();
         change.handTo(engine, true);
         return document.bits();

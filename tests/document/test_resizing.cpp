@@ -33,7 +33,9 @@ struct ResizingTest : ::testing::Test {
     void zoom(int factor, bool enlarge = false)
     {
         Draft draft(document, document.bits(), filter, After::Sizing);
-        draft.run([=](Document& d, cBitFilter& f) { zoomImage(d, f, factor, enlarge, false); });
+        const Outcome outcome =
+            draft.attempt([=](Document& d, cBitFilter& f) { zoomImage(d, f, factor, enlarge, false); });
+        if (outcome.fault) std::rethrow_exception(outcome.fault);
         draft.take();
         draft.handTo(filter, true);
     }

@@ -37,5 +37,8 @@ saved() { [ "$(stat -c %i "$picture")" != "$before" ] || { keys alt+l i ctrl+s &
 until_true "the last save" saved
 until_true "the strays to go" sh -c "[ \$(find '$scratch/pictures' -name '.velara-*' | wc -l) = 0 ]"
 is_whole || fail "the picture saved at the end"
-quit
+keys ctrl+q
+ended() { gone || { box_has_keys && keys alt+n; false; }; } # it asks where a key too many came
+until_true "the editor to end" ended
+wait "$editor" || fail "the editor ended with $?"
 echo "$kills killed: $caught while a picture was written, $shortened while an undo step was"

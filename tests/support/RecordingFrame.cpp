@@ -1,7 +1,19 @@
 #include "support/RecordingFrame.h"
-#include "pixels/RuntimeError.h"
+#include <QDir>
 
 namespace velara {
+
+RecordingFrame::RecordingFrame()
+{
+    QDir(platform_.folder.path()).mkpath("Temp");
+    QObject::connect(&workspace_, &Workspace::changed, [this] {
+        ++snapshots;
+        note("step");
+    });
+    QObject::connect(&workspace_, &Workspace::progress,
+                     [this](const DocumentHandle&, int percent) { progress.push_back(percent); });
+    QObject::connect(&workspace_, &Workspace::idle, [this] { progress.push_back(0); });
+}
 
 void RecordingFrame::note(const std::string& line)
 {
@@ -9,9 +21,11 @@ void RecordingFrame::note(const std::string& line)
     if (onCall) onCall(line);
 }
 
-std::vector<DocumentHandle> RecordingFrame::openDocuments()
+Document& RecordingFrame::open(const Bits& picture)
 {
-    return document ? std::vector{document->handle()} : std::vector<DocumentHandle>();
+    document = workspace_.add(picture).get();
+    workspace_.handOver(*document);
+    return *document;
 }
 
 DocumentHandle RecordingFrame::adopt(const Bits&, const QString& path, Arrival)
@@ -26,51 +40,9 @@ bool RecordingFrame::openPicture(const QString& path, Unreadable)
     return true;
 }
 
-Outcome RecordingFrame::change(const DocumentHandle& document, const Job& job, After after)
-{
-    const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
-    if (!handle) return {Outcome::Gone};
-    Draft draft(*handle, handle->bits(), filter_, after);
-    draft.filter().Progress = [&](int percent) {
-        progress.push_back(percent);
-        platform_.yield();
-        if (!draft.wanted()) throw Cancelled();
-    };
-    const Outcome outcome = draft.attempt(job);
-    progress.push_back(0);
-    if (!handle) return {Outcome::Gone};
-    if (!draft.wanted()) return {Outcome::Dropped, "dropped"};
-    if (!outcome) return outcome;
-    draft.take();
-    draft.handTo(filter_, engineHolds(*handle));
-    ++snapshots;
-    note("step");
-    return outcome;
-}
-
-void RecordingFrame::finish(const DocumentHandle& handle)
-{
-    if (!handle) return;
-    handle->commit();
-    ++snapshots;
-    note("step");
-}
-
 void RecordingFrame::report(const QString& what, const Outcome& outcome)
 {
     if (!outcome.reason.isEmpty()) note("report: " + (what + ": " + outcome.reason).toStdString());
-}
-
-void RecordingFrame::Update(bool regionOnly, bool save)
-{
-    note(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
-}
-
-void RecordingFrame::handOver(const Document& given)
-{
-    given.handTo(filter_);
-    held_ = given.handle();
-    note("handed");
 }
 
 } // namespace velara

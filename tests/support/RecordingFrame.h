@@ -1,7 +1,7 @@
-// RecordingFrame: the frame of tests of tools, documents and dialogs. Changes go the real road on a draft; everything
+// RecordingFrame: the frame of tests of tools, views and dialogs. Changes go the real road of a workspace; everything
 // else is written down.
 #pragma once
-#include "document/Draft.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "support/RecordingPlatform.h"
@@ -12,45 +12,41 @@ namespace velara {
 struct RecordingFrame final : Frame {
     RecordingPlatform platform_;
     Setup setup_;
-    cBitFilter filter_;
+    Workspace workspace_{platform_.programFolder() + "/Temp"};
+    cBitFilter& filter_ = workspace_.engine();
     ToolStores toolStores_;
-    /// One line a call: "step" at the end of a change, "update REGIONONLY SAVE", "handed", "word: WORD",
-    /// "report: WHAT: REASON", "adopted: PATH", "colours".
+    /// One line a call: "step" at the end of a change, "word: WORD", "report: WHAT: REASON", "adopted: PATH",
+    /// "colours".
     std::vector<std::string> log;
     std::map<Panel, std::string> status;
     std::vector<int> progress;
     Document* document = nullptr; // the active one
     fImage* image = nullptr;      // its window
     std::optional<Colour> colour; // that the user picks
-    int snapshots = 0, number = 0;
+    int snapshots = 0;
     std::function<void(const std::string& line)> onCall; // after each line of the log
 
+    RecordingFrame();
     int logged(const std::string& line) const { return int(std::count(log.begin(), log.end(), line)); }
+    /// A document with the picture, the active one; its number is the count of those before.
+    Document& open(const Bits& picture);
+    /// The word of a test for the end of all that is under way.
+    void settle() { workspace_.wait(); }
 
     Platform& platform() override { return platform_; }
     Setup& setup() override { return setup_; }
-    cBitFilter& filter() override { return filter_; }
+    Workspace& workspace() override { return workspace_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override { return document ? document->handle() : DocumentHandle(); }
     fImage* GetActiveImage() override { return image; }
-    std::vector<DocumentHandle> openDocuments() override;
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival) override;
     bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
-    Outcome change(const DocumentHandle& document, const Job& job, After after) override;
-    void finish(const DocumentHandle& document) override;
     void report(const QString& what, const Outcome& outcome) override;
-    void Update(bool regionOnly, bool save) override;
-    bool engineHolds(const Document& document) const override { return held_ == document.handle(); }
-    void handOver(const Document& document) override;
     void Mmenu(const QString& word) override { note("word: " + word.toStdString()); }
     void refreshUndoState() override {}
     void setStatus(Panel panel, const QString& text) override { status[panel] = text.toStdString(); }
-    void cFilter_Progress(int value) override { progress.push_back(value); }
-    QString UniqueCaption(const QString& text) override { return text; }
-    int nextDocumentNumber() override { return number++; }
     void EnableMouseScrolling() override {}
     bool mouseScrolling() const override { return false; }
-    void CheckToolbarState(bool) override {}
     void showColors() override { note("colours"); }
     std::optional<Colour> pickColour(Colour, const QString& what, QWidget*) override
     {
@@ -60,8 +56,6 @@ struct RecordingFrame final : Frame {
 
   private:
     void note(const std::string& line);
-
-    DocumentHandle held_;
 };
 
 } // namespace velara

@@ -3,7 +3,6 @@
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "tools/Tools.h"
-#include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -45,22 +44,21 @@ struct RecordingSurface final : ToolSurface {
 };
 
 struct ToolFixture : ::testing::Test {
-    QTemporaryDir folder;
     RecordingSurface surface;
     RecordingFrame frame;
-    Document document{folder.path(), 1};
+    Document& document = frame.open({});
     std::unique_ptr<Tools> tools;
 
     ToolFixture() { open(randomBits(60, 50, 3)); }
 
     void open(const Bits& bits)
     {
-        frame.document = &document;
         frame.onCall = [this](const std::string& line) {
             if (line == "step") surface.note(line);
         };
+        frame.settle();
         document.takePicture(bits);
-        frame.handOver(document);
+        frame.workspace_.handOver(document);
         tools = std::make_unique<Tools>(document, frame, surface);
     }
     void choose(const char* tool) { frame.setup_.CurrentTool = tool; }

@@ -3,6 +3,7 @@
 #include "support/seed.h"
 #include "tools/ToolFixture.h"
 #include "tools/reference/paintTwins.h"
+#include <QCoreApplication>
 #include <random>
 
 namespace velara {
@@ -216,7 +217,10 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     move({40, 30});
     EXPECT_EQ(asked(), "activate; redraw on; stop; show 2: 10,10 40,30");
     release({40, 30});
-    EXPECT_EQ(asked(), "hide 2; step; redraw off; start");
+    EXPECT_EQ(asked(), "hide 2; redraw off; start");
+    EXPECT_TRUE(sameBits(before, document.bits())) << "it is being computed";
+    frame.settle();
+    EXPECT_EQ(asked(), "step");
     cBitFilter engine = filterOf(before, selection());
     Bits wanted = engine.GradientLinear(10, 10, 40, 30, 0x1020FF, 0, 70, 1);
     EXPECT_TRUE(sameBits(wanted, document.bits()));
@@ -227,6 +231,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     move({23, 24});
     EXPECT_EQ(asked(), "activate; redraw on; stop; show 1: 15,15 26,26");
     release({23, 24});
+    frame.settle();
     engine.setBits(wanted);
     wanted = engine.GradientCircular(20, 20, 23, 24, 0x1020FF, -1, 70, 3);
     EXPECT_TRUE(sameBits(wanted, document.bits()));
@@ -234,83 +239,79 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     EXPECT_EQ(frame.snapshots, 2);
 }
 
-TEST_F(PaintTools, WhatAYieldInAGradientLetsInStands)
-{
-    choose("Gradient");
-    const auto dragWith = [&](std::function<void()> onYield) {
-        open(before);
-        frame.platform_.onYield = std::move(onYield);
-        Tools* const held = tools.get();
-        held->press(Tools::Left, 10, 10);
-        held->release(Tools::Left, 40, 30);
-        frame.platform_.onYield = nullptr;
-    };
-    Document other(folder.path(), 2);
-    other.takePicture(randomBits(60, 50, 12));
-    other.Region.setRegion(Region::rectangle(1, 1, 9, 9));
-    dragWith([&] { frame.handOver(other); }); // another document became active
-    EXPECT_FALSE(sameBits(before, document.bits()));
-    EXPECT_TRUE(sameBits(other.bits(), frame.filter_.bits()));
-    EXPECT_EQ(frame.filter_.BitsRegion(), other.Region.Region());
-    EXPECT_EQ(frame.snapshots, 1);
-
-    dragWith([&] { throw Cancelled(); });
-    EXPECT_TRUE(sameBits(before, document.bits()));
-    EXPECT_EQ(frame.snapshots, 1);
-    EXPECT_FALSE(tools->ToolDown());
-
-    dragWith([&] { // the document closed
-        document.retire();
-        tools.reset();
-    });
-    EXPECT_EQ(frame.snapshots, 1);
-}
-
+/// The gradient of a release is computed while the user goes on: nothing begins in its document before it is done.
 TEST_F(PaintTools, TheUserGoesOnWhileAGradientIsComputed)
 {
     choose("Gradient");
-    const auto gradient = [](const Bits& on, int x1, int y1, int x2, int y2) {
+    const auto gradient = [](const Bits& on) {
         Document page({}, 1);
         page.takePicture(on);
-        return filterOf(on, page.Region.working()).GradientLinear(x1, y1, x2, y2, 0xFFFFFF, 0, 50, 1);
+        return filterOf(on, page.Region.working()).GradientLinear(10, 10, 40, 30, 0xFFFFFF, 0, 50, 1);
     };
-    const Bits first = gradient(before, 10, 10, 40, 30);
+    const Bits first = gradient(before);
     const struct {
         const char* what;
         std::function<void()> happens;
         Bits left;
-        bool isDown;
     } rows[] = {
-        {"Esc drops it", [&] { tools->keyDown(Tools::Escape); }, before, false},
-        {"and so does the right button", [&] { tools->release(Tools::Right, 20, 20); }, before, false},
-        {"a drag comes first",
+        {"nothing", [] {}, first},
+        {"Esc drops it", [&] { tools->keyDown(Tools::Escape); }, before},
+        {"and so does the right button", [&] { tools->press(Tools::Right, 20, 20); }, before},
+        {"a drag is refused",
          [&] {
              drag({{5, 5}, {20, 9}});
          },
-         gradient(before, 5, 5, 20, 9), false},
-        {"a press is the next drag's",
+         first},
+        {"a press is refused",
          [&] {
              press({5, 5});
          },
-         first, true},
+         first},
         {"a second release is none",
          [&] {
              release({40, 30});
          },
-         first, false},
+         first},
+        {"a hover paints nothing",
+         [&] {
+             choose("Shape");
+             tools->move(Tools::NoButton, 20, 20);
+             EXPECT_EQ(surface.pointer, Pointer::Waiting);
+             EXPECT_TRUE(sameBits(before, document.bits()));
+             choose("Gradient");
+         },
+         first},
+        {"another tool is chosen", [&] { tools->toolChosen(); }, first},
+        {"the tools go", [&] { tools.reset(); }, first},
     };
     for (const auto& row : rows) {
         open(before);
-        frame.platform_.onYield = [&, happened = false]() mutable {
-            if (!std::exchange(happened, true)) row.happens();
-        };
         drag({{10, 10}, {40, 30}});
+        row.happens();
+        frame.settle();
         EXPECT_TRUE(sameBits(row.left, document.bits())) << row.what;
-        EXPECT_EQ(tools->ToolDown(), row.isDown) << row.what;
-        if (!row.isDown) continue;
-        release({20, 9});
-        EXPECT_TRUE(sameBits(gradient(first, 5, 5, 20, 9), document.bits()));
+        if (!tools) continue;
+        EXPECT_FALSE(tools->ToolDown()) << row.what;
+        EXPECT_FALSE(frame.workspace_.cancel(document.handle())) << row.what;
     }
+}
+
+/// A change that comes in the middle of a stroke waits for its end, and works on it.
+TEST_F(PaintTools, AStrokeHoldsTheChangesThatComeMeanwhile)
+{
+    frame.workspace_.held = [&](const Document&) { return tools->ToolDown(); };
+    choose("Shape");
+    press({10, 10});
+    move({40, 30});
+    const Job invert = [](Document& draft, cBitFilter& filter) { draft.setBits(filter.Invert()); };
+    frame.workspace_.change(document.handle(), {invert});
+    QCoreApplication::processEvents();
+    release({40, 30});
+    const Bits drawn = document.bits();
+    EXPECT_FALSE(sameBits(before, drawn));
+    frame.settle();
+    EXPECT_TRUE(sameBits(filterOf(drawn, document.Region.working()).Invert(), document.bits()));
+    EXPECT_EQ(frame.snapshots, 2);
 }
 
 TEST_F(PaintTools, ThePipetteTakesColoursAsItMoves)

@@ -108,7 +108,7 @@ class Sequence {
         told_ += text + ' ';
         const Bits before = session_.picture();
         try {
-            Step step = text.startsWith("--") ? parseSelection(text.section(' ', 1)) : parseStep(text);
+            LineStep step = text.startsWith("--") ? parseSelection(text.section(' ', 1)) : parseStep(text);
             if (step.prepare) step.prepare([&](const QString&) { return dice_.smallBits(20); });
             step.run(session_);
         } catch (const Failure& failure) {

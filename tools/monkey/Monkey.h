@@ -81,7 +81,7 @@ class Monkey final : public QObject {
     int movesLeft_ = 0;
     int depth_ = 0; // actions under way
     int leaving_ = 0;
-    int clock_ = 0; // of the engine, milliseconds
+    std::atomic<std::uint32_t> clock_{0}; // of the engine, milliseconds
     bool resting_ = false, windingUp_ = false, finished_ = false;
     QString doing_;
     std::size_t memoryBefore_ = 0;

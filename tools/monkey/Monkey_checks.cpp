@@ -63,6 +63,7 @@ void Monkey::rest()
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    frame_->workspace().wait();
     resting_ = before;
 }
 
@@ -84,7 +85,7 @@ void Monkey::checkDocument(fImage& image)
     const auto snapshot = stands ? files.read(document.undo.UndoStep() - 1) : std::nullopt;
     if (snapshot && !samePicture(*snapshot, document.bits())) fault(nameOf(image) + " is not its snapshot");
     if (!snapshot) fault(nameOf(image) + " has no snapshot");
-    if (&image == frame_->GetActiveImage() && !samePicture(frame_->filter().bits(), document.bits()))
+    if (&image == frame_->GetActiveImage() && !samePicture(frame_->workspace().engine().bits(), document.bits()))
         fault(nameOf(image) + " is not what the engine holds");
 }
 

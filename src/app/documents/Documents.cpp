@@ -38,19 +38,10 @@ QList<fImage*> Documents::images() const
     return list;
 }
 
-std::vector<DocumentHandle> Documents::handles() const
-{
-    std::vector<DocumentHandle> list;
-    for (const fImage* image : images()) list.push_back(image->document().handle());
-    return list;
-}
-
 fImage* Documents::active()
 {
     auto* window = area_ ? qobject_cast<fDocumentWindow*>(area_->currentSubWindow()) : nullptr;
-    if (!window || !window->image()) return nullptr;
-    lastActive_ = window->image();
-    return lastActive_;
+    return window ? window->image() : nullptr;
 }
 
 fImage* Documents::of(const DocumentHandle& document) const
@@ -58,13 +49,6 @@ fImage* Documents::of(const DocumentHandle& document) const
     for (fImage* image : images())
         if (document && image->document().handle() == document) return image;
     return nullptr;
-}
-
-QString Documents::uniqueTag(const QString& text)
-{
-    for (const fImage* image : images())
-        if (image->Tag() == text) return "[" + QString::number(++clashes_) + "]" + text;
-    return text;
 }
 
 void Documents::show(std::unique_ptr<fImage> image, bool maximized)
@@ -155,10 +139,6 @@ void Documents::bury(fDocumentWindow* window)
 
 void Documents::deleteBuried()
 {
-    if (works_ > 0) {
-        if (!buried_.isEmpty()) QTimer::singleShot(50, this, &Documents::deleteBuried);
-        return;
-    }
     for (const QPointer<QWidget>& widget : std::exchange(buried_, {})) delete widget;
 }
 

@@ -26,19 +26,10 @@ class Documents final : public QObject {
     QMdiArea& area() { return *area_; }
     /// In order of opening.
     QList<fImage*> images() const;
-    std::vector<DocumentHandle> handles() const;
     /// Null without one.
     fImage* active();
-    /// What active() gave last, if that is still there.
-    fImage* lastActive() const { return lastActive_; }
     /// The window of an open document; null when it is closed.
     fImage* of(const DocumentHandle& document) const;
-
-    /// The text, or "[" + n + "]" + text when an open document has it as its path; n counts clashes and is never
-    /// reused.
-    QString uniqueTag(const QString& text);
-    /// Each call gives the next.
-    int nextNumber() { return nextNumber_++; }
 
     /// In a window that shows it whole, or that takes the area where the picture is too large for it.
     void show(std::unique_ptr<fImage> image, bool maximized);
@@ -56,22 +47,8 @@ class Documents final : public QObject {
     bool closeAll();
     /// Ends all without a question.
     void clear();
-    /// Takes a closed document's window away; it is deleted when no work is under way.
+    /// Takes a closed document's window away; it is deleted from the event loop.
     void bury(fDocumentWindow* window);
-
-    /// Work during which a closed window may still be stood on: none is deleted while one of these lives.
-    class Work {
-      public:
-        explicit Work(Documents& documents) : documents_(documents) { ++documents_.works_; }
-        Work(const Work&) = delete;
-        ~Work()
-        {
-            if (--documents_.works_ == 0) documents_.deleteBuried();
-        }
-
-      private:
-        Documents& documents_;
-    };
 
   signals:
     void activated();
@@ -82,10 +59,7 @@ class Documents final : public QObject {
     void activate(fImage& image);
 
     QPointer<QMdiArea> area_;
-    QPointer<fImage> lastActive_;
     QList<QPointer<QWidget>> buried_;
-    int works_ = 0;
-    int nextNumber_ = 1, clashes_ = 0;
 };
 
 } // namespace velara

@@ -12,14 +12,14 @@
 
 namespace velara {
 
-fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(setup)
+fMain::fMain(Platform& platform, Setup& setup)
+    : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp")
 {
     setObjectName("fMain");
     setWindowTitle(kProgramName);
     setMinimumSize(320, 240);
     setAcceptDrops(true);
-    cFilter_.clock = [this] { return platform_.milliseconds(); };
-    cFilter_.Progress = [this](int percent) { engineProgress(percent); };
+    bindWorkspace();
 
     auto* middle = new QWidget(this);
     auto* row = new QHBoxLayout(middle);
@@ -67,7 +67,6 @@ fMain::fMain(Platform& platform, Setup& setup) : platform_(platform), setup_(set
 fMain::~fMain()
 {
     closing_ = true;
-    cFilter_.Progress = nullptr;
     capture_.reset(); // which brings back what it has put aside
     documents_->clear();
 }
@@ -97,8 +96,6 @@ void fMain::refreshUndoState()
 }
 
 void fMain::setStatus(Panel panel, const QString& text) { status_->setPanel(panel, text); }
-
-void fMain::cFilter_Progress(int value) { status_->setProgress(value); }
 
 void fMain::showFailure(const QString& what, const std::exception& failure)
 {

@@ -1,5 +1,5 @@
 // fMain: the frame around the documents: a switchboard over what it owns, which don't know each other. The open
-// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the one engine cFilter, the
+// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the
 // status bar, the side pane and the road from a command to its document are its own.
 //
 // Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
@@ -10,7 +10,7 @@
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
 #include "app/menus/Boxes.h"
-#include "engine/cBitFilter.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "ui/view/fImage.h"
@@ -38,28 +38,18 @@ class fMain final : public QMainWindow, public Frame {
     // --- Frame
     Platform& platform() override { return platform_; }
     Setup& setup() override { return setup_; }
-    cBitFilter& filter() override { return cFilter_; }
+    Workspace& workspace() override { return workspace_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override;
     fImage* GetActiveImage() override { return documents_->active(); }
-    std::vector<DocumentHandle> openDocuments() override { return documents_->handles(); }
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) override;
     bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
-    Outcome change(const DocumentHandle& document, const Job& job, After after = After::Step) override;
-    void finish(const DocumentHandle& document) override;
     void report(const QString& what, const Outcome& outcome) override;
-    void Update(bool regionOnly, bool save) override;
-    bool engineHolds(const Document& document) const override;
-    void handOver(const Document& document) override;
     void Mmenu(const QString& word) override;
     void refreshUndoState() override;
     void setStatus(Panel panel, const QString& text) override;
-    void cFilter_Progress(int value) override;
-    QString UniqueCaption(const QString& text) override { return documents_->uniqueTag(text); }
-    int nextDocumentNumber() override { return documents_->nextNumber(); }
     void EnableMouseScrolling() override;
     bool mouseScrolling() const override;
-    void CheckToolbarState(bool noRefresh) override;
     void showColors() override;
     std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) override;
 
@@ -157,9 +147,9 @@ class fMain final : public QMainWindow, public Frame {
     QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
   private:
-    /// The job on the document that is active now; after a yield, so that the menu closes. Failures go to the status
-    /// bar.
-    void changeActive(std::string_view word, const Job& job, After after, bool yields = true);
+    /// Failures go to the status bar.
+    void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
+    void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
@@ -169,12 +159,11 @@ class fMain final : public QMainWindow, public Frame {
     void placeSidePane();
     void seekSidePane(QPoint at);
     void wellClicked(int index);
-    void stepLost(const QString& reason);
-    void finished(fImage& image);
-    void engineProgress(int percent);
+    void changed(const DocumentHandle& document);
     void showFailure(const QString& what, const std::exception& failure);
     bool findsItsDocument(const CommandWord& command);
     void showStartPage();
+    void saveAs(fImage& image);
     /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
     enum class Opening { Done, Failed, Gone };
@@ -183,13 +172,13 @@ class fMain final : public QMainWindow, public Frame {
     QString inDialogFolder(const QString& name) const;
     void showLoadError();
     void showGone(const QStringList& paths);
-    DocumentHandle adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival);
+    void saveNow(fImage& image);
+    Bits clipboardPicture();
     void applyOpenOptions();
 
     Platform& platform_;
     Setup& setup_;
-    cBitFilter cFilter_;
-    DocumentHandle held_; // whose picture the engine holds
+    Workspace workspace_;
     ToolStores toolStores_;
     std::unique_ptr<Clips> clips_;
     std::unique_ptr<Capture> capture_;

@@ -168,11 +168,6 @@ void fMain::keyPressEvent(QKeyEvent* event)
 
 void fMain::DisableTools() { toolPane_->releaseTools(); }
 
-void fMain::CheckToolbarState(bool noRefresh)
-{
-    if (!noRefresh) GetActiveImage();
-}
-
 void fMain::EnableMouseScrolling()
 {
     if (std::exchange(scrollingOffered_, true)) return; // once, at the first document

@@ -12,7 +12,7 @@ void fMain::colorDepth()
     const QPointer<fImage> image = GetActiveImage();
     if (!image || !image->PictureExists()) return;
     const auto ok = [this, document = active()](const Bits& bits) {
-        report("IMAGECOLORDEPTH", change(document, [bits](Document& draft, cBitFilter&) { draft.setBits(bits); }));
+        change("IMAGECOLORDEPTH", document, [bits](Document& draft, cBitFilter&) { draft.setBits(bits); });
     };
     const auto save = [this, image](const Bits& bits) {
         if (!closing_ && image) saveForWeb(*image, bits);

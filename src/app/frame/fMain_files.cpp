@@ -35,11 +35,9 @@ bool isDropped(const QString& path)
 }
 
 /// Two windows of one file tell themselves apart by the mark in front of the second one's name.
-void giveNames(fImage& image, const QString& path, Frame& frame)
+void showName(fImage& image, const QString& path)
 {
-    image.setTag(frame.UniqueCaption(path));
-    const QString mark = image.Tag().chopped(path.size());
-    image.setCaption(mark + FileNameOf(path));
+    image.setCaption(image.Tag().chopped(path.size()) + FileNameOf(path));
 }
 
 } // namespace
@@ -49,27 +47,18 @@ QString fMain::inDialogFolder(const QString& name) const
     return name.contains('/') ? name : dialogFolder_ + (dialogFolder_.endsWith('/') ? "" : "/") + name;
 }
 
-DocumentHandle fMain::adopt(const Bits& bits, const QString& path, Arrival arrival)
-{
-    auto image = std::make_unique<fImage>(*this);
-    if (!bits.isNull()) image->PPicture(bits);
-    return adopt(std::move(image), path, arrival);
-}
-
-DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, Arrival arrival)
+DocumentHandle fMain::adopt(const Bits& bits, const QString& name, Arrival arrival)
 {
     if (closing_) return {};
-    Document& document = image->document();
-    document.hasFile = arrival == Arrival::File;
-    document.isBrought = arrival == Arrival::Brought;
-    giveNames(*image, inDialogFolder(path), *this);
-    connect(image.get(), &fImage::stepLost, this, &fMain::stepLost);
+    const QString path = inDialogFolder(name);
+    const DocumentHandle document = workspace_.add(bits, path, arrival);
+    auto image = std::make_unique<fImage>(*this, document);
+    showName(*image, path);
     connect(image.get(), &fImage::asking, this, &fMain::asking);
-    image->SaveUndoBits();
     documents_->show(std::move(image), setup_.ImagesMaximized);
     refreshUndoState();
     showStartPage();
-    return document.handle();
+    return document;
 }
 
 void fMain::applyOpenOptions()
@@ -95,26 +84,27 @@ void fMain::showGone(const QStringList& paths)
         Icon::Exclamation);
 }
 
-/// Unless the file was opened there is no document of it, and nothing was said.
+/// Unless the file was opened there is no document of it, and nothing was said. A file that a reader of the platform
+/// (gif, wmf, emf, ico, cur, dib) refuses fails aloud; any other that can't be read gives an empty window.
 fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
 {
-    platform_.yield();
     if (closing_) return Opening::Done;
     if (!QFileInfo::exists(path)) return Opening::Gone;
-    auto image = std::make_unique<fImage>(*this);
-    bool loaded = false;
+    const QString extension = extensionOf(path);
+    const Format* format = findFormat(extension.toStdString());
+    LoadedPicture loaded;
     try {
-        loaded = image->SetPicture(path, extensionOf(path));
+        loaded = platform_.loadPicture(path, extension);
     } catch (const std::exception&) { // a picture too large for this machine's memory
+        return Opening::Failed;
     }
     if (closing_) return Opening::Done;
-    const bool read = image->PictureExists();
-    if (!loaded || (!read && unreadable == Unreadable::Refused)) return Opening::Failed;
-    const QString note = image->LoadNote();
-    if (!read) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
+    const bool aloud = unreadable == Unreadable::Refused || (format && format->has(FailsAloud));
+    if (!loaded.ok() && aloud) return Opening::Failed;
+    if (!loaded.ok()) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
     // What has lost its end doesn't replace its file without a question.
-    adopt(std::move(image), path, read && note.isEmpty() ? Arrival::File : Arrival::Made);
-    if (read && !note.isEmpty()) status_->say(note);
+    adopt(loaded.bits, path, loaded.ok() && loaded.reason.isEmpty() ? Arrival::File : Arrival::Made);
+    if (loaded.ok() && !loaded.reason.isEmpty()) status_->say(loaded.reason);
     return Opening::Done;
 }
 
@@ -170,17 +160,30 @@ void fMain::FillRecent()
 
 void fMain::save()
 {
-    fImage* image = GetActiveImage();
-    const Format* format = formatOf(image->Caption());
+    workspace_.inTurn(active(), [this, document = active()] {
+        if (fImage* image = documents_->of(document)) saveNow(*image);
+    });
+}
+
+void fMain::saveNow(fImage& image)
+{
+    const Format* format = formatOf(image.Caption());
     // A new document, a second window of the same file and any other format get their name by asking.
-    const bool own = image->document().hasFile && image->Tag().startsWith('/');
-    if (!own || !format || format->saving != Saving::Directly) return Mmenu("SAVEAS");
-    saveTo(*image, image->Tag());
+    const bool own = image.document().hasFile && image.Tag().startsWith('/');
+    if (!own || !format || format->saving != Saving::Directly) return saveAs(image);
+    saveTo(image, image.Tag());
 }
 
 void fMain::saveAs()
 {
-    const QPointer<fImage> image = GetActiveImage();
+    workspace_.inTurn(active(), [this, document = active()] {
+        if (fImage* image = documents_->of(document)) saveAs(*image);
+    });
+}
+
+void fMain::saveAs(fImage& asked)
+{
+    const QPointer<fImage> image = &asked;
     const Format* own = formatOf(image->Caption());
     const QString usual = own && own->saved() ? extensionOf(image->Caption()) : QStringLiteral("png");
     FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
@@ -211,7 +214,10 @@ void fMain::saveTo(fImage& image, const QString& name)
     const bool changedMeanwhile = image.document().commits() != commits;
     image.document().saved();
     image.document().Changed = changedMeanwhile;
-    if (image.Tag() != name) giveNames(image, name, *this);
+    if (image.Tag() != name) {
+        workspace_.rename(image.document().handle(), name);
+        showName(image, name);
+    }
     image.showChanged();
     setStatus(Panel::Name, image.Caption());
 }
@@ -221,29 +227,36 @@ void fMain::closeActive()
     if (fImage* image = GetActiveImage()) image->parentWidget()->close();
 }
 
+/// What is there is told where it can't be taken; null then.
+Bits fMain::clipboardPicture()
+{
+    const LoadedPicture picture = platform_.clipboard().bitmap();
+    if (!picture.ok() && !picture.reason.isEmpty()) platform_.tell(picture.reason, Icon::Exclamation);
+    return picture.ok() ? picture.bits : Bits();
+}
+
 void fMain::copyToNew()
 {
     const DocumentHandle from = active();
+    if (!from || !from->PictureExists()) return;
     const MemoryBudget budget;
-    auto image = std::make_unique<fImage>(*this);
-    GetActiveImage()->BitsCopyToClipboard();
-    image->PasteFromClipboard();
+    platform_.clipboard().setBitmap(from->bits());
+    const Bits picture = clipboardPicture();
     platform_.clipboard().clear();
-    if (!from || !image->PictureExists()) return;
+    if (!from || picture.isNull()) return;
     const Region selection = from->Region.Region();
-    const DocumentHandle copy = adopt(std::move(image), from->Tag, Arrival::Brought);
+    const DocumentHandle copy = adopt(picture, from->Tag, Arrival::Brought);
     if (!copy || selection.isEmpty()) return;
     copy->Region.setRegion(selection);
-    handOver(*copy);
+    workspace_.handOver(*copy);
     documents_->of(copy)->UpdateImage();
 }
 
 void fMain::fromClipboard()
 {
     const MemoryBudget budget;
-    auto image = std::make_unique<fImage>(*this);
-    image->PasteFromClipboard();
-    if (image->PictureExists()) adopt(std::move(image), setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Brought);
+    const Bits picture = clipboardPicture();
+    if (!picture.isNull()) adopt(picture, setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Brought);
 }
 
 void fMain::dragEnterEvent(QDragEnterEvent* event)

@@ -18,7 +18,6 @@ void fMain::newPicture()
 {
     fNew dialog(platform_, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    platform_.yield(); // the dialog goes before the new window comes
     const auto made = [&] {
         const MemoryBudget budget;
         return Bits(dialog.widthValue(), dialog.heightValue());
@@ -39,8 +38,7 @@ template <class Dialog> void fMain::askAndReshape(std::string_view word)
         if (dialog.exec() == QDialog::Accepted) job = dialog.job();
     }
     if (!job) return;
-    platform_.yield(); // the dialog goes before the long work
-    report(text(word), change(document, job));
+    change(word, document, job);
 }
 
 void fMain::imageSize() { askAndReshape<fSize>("IMAGESIZE"); }
@@ -59,10 +57,8 @@ void fMain::imageTextures()
         if (dialog.exec() != QDialog::Accepted) return;
         texturing = dialog.texturing();
     }
-    platform_.yield(); // the dialog goes before the long work
-    report("IMAGETEXTURES", change(document, [texturing](Document& draft, cBitFilter& filter) {
-               draft.setBits(texturized(filter, texturing));
-           }));
+    change("IMAGETEXTURES", document,
+           [texturing](Document& draft, cBitFilter& filter) { draft.setBits(texturized(filter, texturing)); });
 }
 
 /// Asked for again, the open one goes over the picture that is active now.

@@ -10,22 +10,12 @@
 
 namespace velara {
 
-void fMain::changeActive(std::string_view word, const Job& job, After after, bool yields)
-{
-    const DocumentHandle document = active(); // this one, whatever the yield brings
-    if (yields) platform_.yield();            // the menu or the dialog goes before the long work
-    report(text(word), change(document, job, after));
-}
-
-void fMain::runPreset(const Preset& preset)
-{
-    changeActive(preset.word, presetJob(preset), After::Step, preset.yields);
-}
+void fMain::runPreset(const Preset& preset) { change(preset.word, active(), presetJob(preset)); }
 
 void fMain::runSizeWord(const SizeWord& size)
 {
     if (afterOf(size) == After::Sizing) setZoom(1);
-    changeActive(size.word, sizeJob(size), afterOf(size));
+    change(size.word, active(), sizeJob(size), afterOf(size));
 }
 
 void fMain::showFilter(const FilterRow& row)
@@ -37,18 +27,21 @@ void fMain::showFilter(const FilterRow& row)
     delete dialog; // unless the frame went, and it with it
 }
 
+/// Whether it can be done is known once the changes before it are.
 void fMain::crop()
 {
     const DocumentHandle document = active();
-    if (!document->PictureExists()) return;
-    switch (cropAnswer(*document)) {
-    case CropAnswer::NothingSelected:
-        return platform_.message("Crop", "Nothing selected", Icon::Information);
-    case CropAnswer::TooSmall:
-        return platform_.message("Crop", "Minimum size: 2 x 2", Icon::Information);
-    case CropAnswer::Possible:
-        return changeActive("CROP", cropImage, After::Step, false);
-    }
+    workspace_.inTurn(document, [this, document] {
+        if (!document || !document->PictureExists()) return;
+        switch (cropAnswer(*document)) {
+        case CropAnswer::NothingSelected:
+            return platform_.message("Crop", "Nothing selected", Icon::Information);
+        case CropAnswer::TooSmall:
+            return platform_.message("Crop", "Minimum size: 2 x 2", Icon::Information);
+        case CropAnswer::Possible:
+            return change("CROP", document, cropImage);
+        }
+    });
 }
 
 /// Who asks again finds the texts that wait there; those of another picture are not thrown away either.
@@ -72,10 +65,13 @@ void fMain::textTools()
 
 void fMain::stepUndo(bool back)
 {
-    fImage* image = GetActiveImage();
-    const bool moved = back ? image->UndoBits() : image->RedoBits();
-    refreshUndoState();
-    const UndoStore& steps = image->document().undo;
+    const DocumentHandle document = active();
+    if (workspace_.isBusy(document)) { // what is under way is what is taken back
+        if (back) workspace_.cancel(document);
+        return;
+    }
+    const bool moved = workspace_.step(document, back);
+    const UndoStore& steps = document->undo;
     if (moved && steps.passedOver())
         status_->say(steps.canRedo() && back ? tr("A step could not be kept: this is the last one that stands.")
                                              : tr("A step that could not be kept was passed over."));

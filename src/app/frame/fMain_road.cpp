@@ -1,96 +1,51 @@
-// The road from a command to its document, and what stands at its end.
+// What the frame shows of the workspace: progress, the end of a change, the steps that are lost.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "document/Draft.h"
-#include "pixels/RuntimeError.h"
-#include "pixels/memory/MemoryBudget.h"
+#include "app/menus/fIcons.h"
 #include "seams/Platform.h"
 
 namespace velara {
 
-Outcome fMain::change(const DocumentHandle& document, const Job& job, After after)
+void fMain::bindWorkspace()
 {
-    const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
-    if (closing_ || !documents_->of(handle) || !handle->PictureExists()) return {Outcome::Gone};
-    const Documents::Work underWay(*documents_);
-    // What a tool shows for the time being is no part of the picture: the engine has that.
-    const bool committed = engineHolds(*handle) && cFilter_.BitsWidth() == handle->PictureWidth() &&
-                           cFilter_.BitsHeight() == handle->PictureHeight();
-    Draft draft(*handle, committed ? cFilter_.bits() : handle->bits(), cFilter_, after);
-    draft.filter().Progress = [&](int percent) {
-        cFilter_Progress(percent);
-        const MemoryBudget meanwhile(MemoryBudget::Kind::Without); // what runs in the yield is no part of the job
-        platform_.yield();
-        if (closing_ || !draft.wanted()) throw Cancelled();
+    workspace_.engine().clock = [this] { return platform_.milliseconds(); };
+    workspace_.held = [this](const Document& document) {
+        const fImage* image = documents_->of(document.handle());
+        return image && image->strokeUnderWay();
     };
-    const Outcome outcome = draft.attempt(job);
-    status_->setProgress(0);
-    fImage* image = closing_ ? nullptr : documents_->of(handle);
-    if (!image) return {Outcome::Gone};
-    if (!draft.wanted() || (outcome && image->strokeUnderWay()))
-        return {Outcome::Dropped, tr("the picture was changed meanwhile")};
-    if (!outcome) return outcome;
-    draft.take();
-    draft.handTo(cFilter_, engineHolds(*handle));
-    finished(*image);
-    return outcome;
+    connect(&workspace_, &Workspace::changed, this, &fMain::changed);
+    connect(&workspace_, &Workspace::progress, this, [this](const DocumentHandle& document, int percent) {
+        if (document == active()) status_->setProgress(percent);
+    });
+    connect(&workspace_, &Workspace::idle, this, [this](const DocumentHandle& document) {
+        if (document != active()) return;
+        status_->setProgress(0);
+        GetActiveImage()->showToolPointer();
+    });
+    connect(&workspace_, &Workspace::stepLost, this, [this](const DocumentHandle&, const QString& reason) {
+        status_->say(tr("This step can't be undone: %1.").arg(reason)); // known only some time after the change
+        refreshUndoState();
+    });
 }
 
-void fMain::finish(const DocumentHandle& handle)
+void fMain::changed(const DocumentHandle& document)
 {
-    fImage* image = documents_->of(handle);
+    fImage* image = documents_->of(document);
     if (!image) return;
-    image->document().commit();
-    finished(*image);
-}
-
-void fMain::finished(fImage& image)
-{
-    status_->setProgress(0);
-    image.UpdateImage();
-    if (engineHolds(image.document())) setStatus(Panel::Size, image.SizeText());
+    image->UpdateImage();
+    if (workspace_.engineHolds(*document)) setStatus(Panel::Size, image->SizeText());
     refreshUndoState();
 }
 
-void fMain::Update(bool regionOnly, bool save)
+void fMain::change(std::string_view word, const DocumentHandle& document, const Job& job, After after)
 {
-    status_->setProgress(0);
-    fImage* image = documents_->lastActive();
-    if (!image) return;
-    image->document().Zoomed = false;
-    if (save) return finish(image->document().handle());
-    if (!regionOnly) image->UpdateImage();
-    refreshUndoState();
-}
-
-/// A snapshot was not written, which is known only some time after the change.
-void fMain::stepLost(const QString& reason)
-{
-    if (closing_) return;
-    status_->say(tr("This step can't be undone: %1.").arg(reason));
-    refreshUndoState();
+    workspace_.change(document, {job, after},
+                      [this, what = text(word)](const Outcome& outcome) { report(what, outcome); });
 }
 
 void fMain::report(const QString& what, const Outcome& outcome)
 {
     if (!outcome.reason.isEmpty() && !closing_) status_->say(what + ": " + outcome.reason);
-}
-
-bool fMain::engineHolds(const Document& document) const { return held_ == document.handle(); }
-
-void fMain::handOver(const Document& document)
-{
-    document.handTo(cFilter_);
-    held_ = document.handle();
-}
-
-/// Reports of the engine itself, outside of any job.
-void fMain::engineProgress(int percent)
-{
-    const Documents::Work underWay(*documents_);
-    cFilter_Progress(percent);
-    platform_.yield();
-    if (closing_) throw Cancelled();
 }
 
 } // namespace velara

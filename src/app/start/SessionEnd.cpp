@@ -81,7 +81,7 @@ SessionEnd::SessionEnd(fMain& frame, std::chrono::milliseconds patience, std::fu
     });
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { // by others than the frame
         const auto isLost = [](const DocumentHandle& document) { return document->wouldBeLost(); };
-        if (!frame_.isClosed() && std::ranges::any_of(frame_.openDocuments(), isLost)) this->leave();
+        if (!frame_.isClosed() && std::ranges::any_of(frame_.workspace().documents(), isLost)) this->leave();
     });
     takeSignals();
 }
@@ -123,7 +123,7 @@ void SessionEnd::asked(fImage::Question question)
 
 void SessionEnd::leave()
 {
-    for (const DocumentHandle& document : frame_.openDocuments()) document->undo.stands(); // waits for the writing
+    for (const DocumentHandle& document : frame_.workspace().documents()) document->undo.stands(); // waits for the writing
     frame_.saveState();
     leave_();
 }

@@ -13,18 +13,17 @@ void Clips::cut()
 {
     const DocumentHandle document = frame_.active();
     frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
-    frame_.platform().yield();
     const Bits part = document ? box_->CutBits(*document) : Bits();
     if (part.isNull()) return;
     frame_.platform().clipboard().setPart(part);
-    frame_.report("CUT", frame_.change(document, engineJob([](cBitFilter& filter) { filter.BitsBlack(); })));
+    frame_.workspace().change(document, {engineJob([](cBitFilter& filter) { filter.BitsBlack(); })},
+                              [this](const Outcome& outcome) { frame_.report("CUT", outcome); });
 }
 
 void Clips::copy()
 {
     const DocumentHandle document = frame_.active();
     frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
-    frame_.platform().yield();
     const Bits part = document ? box_->CopyBits(*document) : Bits();
     if (!part.isNull()) frame_.platform().clipboard().setPart(part);
 }

@@ -208,11 +208,16 @@ bool UndoStore::stands() const
     return series_->step == 0 || !series_->of(series_->step - 1).picture;
 }
 
-std::optional<Bits> UndoStore::previous() const
+std::function<std::optional<Bits>()> UndoStore::previousLater() const
 {
-    const auto lock = series_->settled();
-    Series& s = *series_;
-    return s.step < 2 || s.of(s.step - 1).gap ? std::nullopt : s.pictureOf(s.step - 2);
+    return [series = series_]() -> std::optional<Bits> {
+        Series& s = *series;
+        const int step = [&] { // the counters can be read while the file is
+            const auto lock = s.settled();
+            return s.step;
+        }();
+        return step < 2 || s.of(step - 1).gap ? std::nullopt : s.pictureOf(step - 2);
+    };
 }
 
 void UndoStore::stepBack()

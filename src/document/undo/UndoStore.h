@@ -41,7 +41,9 @@ class UndoStore {
     /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture that was shown before this one, the counters as they were; nothing when it is lost.
-    std::optional<Bits> previous() const;
+    std::optional<Bits> previous() const { return previousLater()(); }
+    /// previous() for another thread, while nobody saves or steps.
+    std::function<std::optional<Bits>()> previousLater() const;
     /// The counters of undo(), for a picture that previous() gave.
     void stepBack();
     /// The picture one step back or forward, and the counters moved. Steps that are lost are passed over; nothing, and

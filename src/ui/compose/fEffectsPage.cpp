@@ -1,6 +1,7 @@
 #include "ui/compose/fEffectsPage.h"
 #include "commands/effects.h"
 #include "document/Document.h"
+#include "document/Workspace.h"
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
@@ -212,7 +213,7 @@ void fEffectsPage::setFolder(const QString& folder)
 
 void fEffectsPage::ApplyTexture(int Index, bool FromFile)
 {
-    if (running_) return; // an effect at work yields
+    if (reading_) return;
     Platform& platform = frame_.platform();
     const QPointer<fEffectsPage> alive = this;
     const DocumentHandle document = frame_.active();
@@ -221,27 +222,26 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) {
         if (!ListFile_->currentItem()) return;
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
-        running_ = true; // reading yields, too
+        reading_ = true; // which yields
         const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
         if (!alive) return;
-        running_ = false;
+        reading_ = false;
         if (!picture.ok())
             return platform.tell(tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
         texture = picture.bits;
     }
-    running_ = true;
     const Colour colour = frame_.setup().ForeColor;
     const int value = br_->value();
-    const Outcome outcome = frame_.change(document, [=](Document& draft, cBitFilter& filter) {
+    const Job job = [=](Document& draft, cBitFilter& filter) {
         if (FromFile)
             applyTexturePicture(filter, texture);
         else
             velara::ApplyTexture(filter, Index, value, colour);
         draft.setBits(filter.bits());
-    });
-    if (!alive) return;
-    running_ = false;
-    if (!outcome) frame_.report(FromFile ? tr("Texture") : textOf(effects()[std::size_t(Index - 1)].name), outcome);
+    };
+    const QString what = FromFile ? tr("Texture") : textOf(effects()[std::size_t(Index - 1)].name);
+    frame_.workspace().change(document, {job},
+                              [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }
 
 } // namespace velara

@@ -58,7 +58,7 @@ class fEffectsPage final : public QWidget {
     QListWidget* ListFile_;
     QPushButton *CmdApply_, *CmdFileApply_;
     QString folder_;
-    bool drawn_ = false, running_ = false;
+    bool drawn_ = false, reading_ = false;
 };
 
 } // namespace velara

@@ -1,5 +1,6 @@
 #include "ui/compose/fLayers.h"
 #include "document/Document.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -82,7 +83,9 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     }
     column->addLayout(last);
     connect(ok, &QPushButton::clicked, this, [this] {
-        if (apply()) close();
+        apply([this](bool done) {
+            if (done) close();
+        });
     });
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
     connectAll();
@@ -272,7 +275,7 @@ void fLayers::tellDocument()
     document->waitingWork = nullptr;
     if (waiting_)
         document->waitingWork = [alive = QPointer(this)] {
-            return !alive || (alive->apply() && (!alive || alive->close())); // a change lets anything happen
+            return !alive || (alive->applyNow() && (!alive || alive->close())); // a change lets anything happen
         };
     emit waitingChanged();
 }
@@ -296,32 +299,44 @@ bool fLayers::mayClose()
     const QString text = platform.compactPath(printable(document_->Tag), kPathPixels) +
                          tr("\nThe texts are not in the image yet.\nDo you want to merge them ?");
     const Answer answer = platform.askYesNoCancel(kProgramName, text, Icon::Information);
-    return alive && (answer == Answer::No || (answer == Answer::Yes && apply()));
+    return alive && (answer == Answer::No || (answer == Answer::Yes && applyNow()));
 }
 
-/// True when the document has the texts.
-bool fLayers::apply()
+/// then(true) when the document has the texts; nobody is told when this window goes before.
+void fLayers::apply(std::function<void(bool done)> then)
 {
-    const QPointer<fLayers> alive = this;
-    if (!document_ || done_) return true;
-    const Outcome outcome =
-        frame_.change(document_, [layers = asTyped()](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); });
-    if (!alive) return false;
-    if (!outcome) frame_.report(windowTitle(), outcome);
-    done_ = outcome || outcome.kind == Outcome::Gone;
-    tellDocument();
-    return done_;
+    if (!document_ || done_) return then(true);
+    setEnabled(false);
+    const Job job = [layers = asTyped()](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); };
+    frame_.workspace().change(document_, {job}, [this, alive = QPointer(this), then](const Outcome& outcome) {
+        if (!alive) return;
+        setEnabled(true);
+        frame_.report(windowTitle(), outcome);
+        done_ = outcome || outcome.kind == Outcome::Gone;
+        tellDocument();
+        then(done_);
+    });
+}
+
+/// For a question, which can't be answered before.
+bool fLayers::applyNow()
+{
+    const auto has = std::make_shared<bool>(false);
+    apply([has](bool done) { *has = done; });
+    frame_.workspace().wait(document_);
+    return *has;
 }
 
 void fLayers::sendTo(const QString& word)
 {
     if (!document_ || frame_.active() != document_)
         return frame_.platform().tell(tr("Bring this picture to the front first."));
-    const QPointer<fLayers> alive = this;
-    Frame& frame = frame_;
-    if (!apply()) return;
-    if (alive) close();
-    frame.Mmenu(word);
+    apply([this, word](bool done) {
+        if (!done) return;
+        Frame& frame = frame_;
+        close();
+        frame.Mmenu(word);
+    });
 }
 
 } // namespace velara

@@ -50,7 +50,8 @@ class fLayers final : public QDialog {
     void showStyle(int index);
     void tellDocument();
     bool mayClose();
-    bool apply();
+    void apply(std::function<void(bool done)> then);
+    bool applyNow();
     void sendTo(const QString& word);
 
     Frame& frame_;

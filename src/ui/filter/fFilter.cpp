@@ -2,6 +2,7 @@
 #include "ui/filter/fFilter.h"
 #include "commands/jobs.h"
 #include "document/Draft.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
@@ -137,13 +138,16 @@ void fFilter::showRunning(bool running)
 void fFilter::accept()
 {
     if (running_) return;
-    const QPointer<fFilter> alive = this;
-    cancelled_ = false;
     if (detailRun_) detailRun_->stop();
     showRunning(true);
-    const Outcome outcome =
-        frame_.change(document_, endable(filterJob(row_, arguments()), [this, alive] { return !alive || cancelled_; }));
-    if (!alive) return;
+    change_ = frame_.workspace().change(document_, {filterJob(row_, arguments())},
+                                        [alive = QPointer(this)](const Outcome& outcome) {
+                                            if (alive) alive->ended(outcome);
+                                        });
+}
+
+void fFilter::ended(const Outcome& outcome)
+{
     showRunning(false);
     if (outcome) return QDialog::accept();
     if (outcome.kind == Outcome::Gone) return QDialog::reject();
@@ -153,10 +157,7 @@ void fFilter::accept()
 
 void fFilter::reject()
 {
-    if (running_)
-        cancelled_ = true;
-    else
-        QDialog::reject();
+    if (!running_ || !frame_.workspace().cancel(document_, change_)) QDialog::reject();
 }
 
 } // namespace velara

@@ -3,6 +3,7 @@
 #pragma once
 #include "commands/DetailRun.h"
 #include "commands/FilterPreview.h"
+#include "seams/Change.h"
 #include "seams/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
@@ -64,6 +65,7 @@ class fFilter final : public QDialog {
     void picked(QPoint pixel);
     void activateWell(int well);
     void showRunning(bool running);
+    void ended(const Outcome& outcome);
 
     static constexpr QSize kPreviewBox{300, 260}; // that the small copies fit
     static constexpr QSize kDetailBox{280, 262};  // of the 1:1 view with its bars
@@ -91,7 +93,8 @@ class fFilter final : public QDialog {
 
     QPointF centre_{0.5, 0.5};
     int activeWell_ = 0;
-    bool running_ = false, cancelled_ = false;
+    bool running_ = false;
+    int change_ = 0; // that runs, for Workspace::cancel
     std::unique_ptr<DetailRun> detailRun_;
 };
 

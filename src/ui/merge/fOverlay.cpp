@@ -1,5 +1,6 @@
 #include "ui/merge/fOverlay.h"
 #include "document/Document.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "seams/Setup.h"
 #include "seams/printable.h"
@@ -164,7 +165,7 @@ void fOverlay::setBelow(const DocumentHandle& below)
 std::vector<fOverlay::Seen> fOverlay::look() const
 {
     std::vector<Seen> seen;
-    for (const DocumentHandle& document : frame_.openDocuments())
+    for (const DocumentHandle& document : frame_.workspace().documents())
         if (hasPicture(document))
             seen.push_back({document, document->Tag, document->commits(), document->Region.working()});
     return seen;
@@ -259,14 +260,18 @@ void fOverlay::accept()
     if (working_ || !cmdOK_->isEnabled() || asked != std::pair{below_, chosen()}) return;
     working_ = true;
     cmdOK_->setEnabled(false);
-    const QPointer<fOverlay> alive = this;
     const Job job = [merging = merging()](Document& draft, cBitFilter& filter) {
         draft.setBits(merged(filter, merging));
     };
     const DocumentHandle onto =
         chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->Tag) : below_; // the copy becomes active
-    const Outcome outcome = frame_.change(onto, job);
-    if (!alive) return;
+    frame_.workspace().change(onto, {job}, [alive = QPointer(this)](const Outcome& outcome) {
+        if (alive) alive->ended(outcome);
+    });
+}
+
+void fOverlay::ended(const Outcome& outcome)
+{
     working_ = false;
     if (outcome) return QDialog::accept();
     changed();

@@ -2,6 +2,7 @@
 // pictures may be changed, opened and closed meanwhile; what it shows and offers follows them.
 #pragma once
 #include "document/merging.h"
+#include "seams/Change.h"
 #include "seams/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
@@ -51,6 +52,7 @@ class fOverlay final : public QDialog {
     Offset makeOffset(QGridLayout* grid, int row, const QString& caption, const char* name);
     std::vector<Seen> look() const;
     void follow();
+    void ended(const Outcome& outcome);
     void fillList();
     void setRanges();
     void changed();

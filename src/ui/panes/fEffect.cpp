@@ -1,6 +1,7 @@
 #include "ui/panes/fEffect.h"
 #include "commands/effects.h"
 #include "document/Document.h"
+#include "document/Workspace.h"
 #include "seams/Frame.h"
 #include "ui/widgets/inputs/named.h"
 #include <QLabel>
@@ -41,21 +42,18 @@ FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> row
 
 void FEffect::apply()
 {
-    if (running_) return; // an effect at work yields
-    const QPointer<FEffect> alive = this;
     Frame& owner = frame();
     const DocumentHandle document = owner.active();
     if (!document) return;
     const int index = owner.toolStores().effect, amount = owner.toolStores().effectAmount;
     const Colour colour = owner.setup().ForeColor;
-    running_ = true;
-    const Outcome outcome = owner.change(document, [=](Document& draft, cBitFilter& filter) {
+    const Job job = [=](Document& draft, cBitFilter& filter) {
         ApplyTexture(filter, index, amount, colour);
         draft.setBits(filter.bits());
+    };
+    owner.workspace().change(document, {job}, [&owner, index](const Outcome& outcome) {
+        owner.report(textOf(effects()[std::size_t(index - 1)].name), outcome);
     });
-    if (!alive) return;
-    running_ = false;
-    if (!outcome) owner.report(textOf(effects()[std::size_t(index - 1)].name), outcome);
 }
 
 } // namespace velara

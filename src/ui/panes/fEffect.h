@@ -16,7 +16,6 @@ class FEffect final : public fPane {
 
   private:
     QListWidget* lstEffects_;
-    bool running_ = false;
 };
 
 } // namespace velara

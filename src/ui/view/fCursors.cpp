@@ -102,6 +102,8 @@ QCursor cursorOf(Pointer pointer)
         return QCursor(Qt::CrossCursor);
     case Pointer::Sizing:
         return QCursor(Qt::SizeAllCursor);
+    case Pointer::Waiting:
+        return QCursor(Qt::BusyCursor);
     default:
         break;
     }

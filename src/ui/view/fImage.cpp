@@ -25,19 +25,13 @@ constexpr int kPathPixels = 400;
 
 } // namespace
 
-fImage::fImage(Frame& frame, QWidget* parent)
-    : QWidget(parent), frame_(frame),
-      document_(frame.platform().programFolder() + "/Temp", [&frame] { return frame.nextDocumentNumber(); }),
+fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
+    : QWidget(parent), frame_(frame), shared_(frame.workspace().share(document)), document_(*shared_),
       iDst_(new fDisplay(*this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
       vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_), tmrSelection_(this),
       tools_(std::make_unique<Tools>(document_, frame, *this)),
       barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
 {
-    // From the writing thread; what comes after the end of this window is dropped.
-    document_.undo.onFailure([this](const QString& reason) {
-        QMetaObject::invokeMethod(
-            this, [this, reason] { emit stepLost(reason); }, Qt::QueuedConnection);
-    });
     setObjectName("fImage");
     setAccessibleName(tr("Picture window"));
     setAutoFillBackground(true);
@@ -59,21 +53,10 @@ fImage::fImage(Frame& frame, QWidget* parent)
     tmrSelection_.setObjectName("tmrSelection");
     tmrSelection_.setInterval(500);
     connect(&tmrSelection_, &QTimer::timeout, this, &fImage::tick);
+    if (PictureExists()) pictureChanged();
 }
 
 fImage::~fImage() { forget(); }
-
-bool fImage::SetPicture(const QString& path, const QString& ext)
-{
-    const QString kind = ext.toLower();
-    const Format* format = findFormat(kind.toStdString());
-    const QPointer<fImage> self = this;
-    const LoadedPicture loaded = frame_.platform().loadPicture(path, kind);
-    if (!self || (!loaded.ok() && format && format->has(FailsAloud))) return false;
-    PPicture(loaded.bits);
-    loadNote_ = loaded.reason;
-    return true;
-}
 
 SaveResult fImage::Save(const QString& path, const QString& ext)
 {
@@ -84,32 +67,6 @@ SaveResult fImage::Save(const QString& path, const QString& ext)
     const SaveResult result = savePicture(frame_.platform(), document_.bits(), path, ext);
     if (slow) QGuiApplication::restoreOverrideCursor();
     return result;
-}
-
-void fImage::PPicture(const Bits& picture)
-{
-    scrollGuard_ = true;
-    hSB_->setValue(0);
-    vSB_->setValue(0);
-    scrollGuard_ = false;
-    if (picture.isNull()) return Clear();
-    document_.takePicture(picture);
-    document_.Region.setZoomFactor(static_cast<float>(zoom_));
-    layOutView();
-}
-
-void fImage::Clear()
-{
-    iDst_->hide();
-    iDst_->unsetCursor();
-    scrollGuard_ = true;
-    for (QScrollBar* bar : {hSB_, vSB_}) {
-        bar->setRange(0, 0);
-        bar->hide();
-    }
-    shp_->hide();
-    document_.Clear();
-    takeFocus();
 }
 
 /// The display has the focus while there is one.
@@ -123,27 +80,6 @@ void fImage::takeFocus()
 void fImage::BitsCopyToClipboard()
 {
     if (PictureExists()) frame_.platform().clipboard().setBitmap(document_.bits());
-}
-
-void fImage::PasteFromClipboard()
-{
-    const QPointer<fImage> self = this;
-    const LoadedPicture picture = frame_.platform().clipboard().bitmap();
-    if (!self) return;
-    if (picture.ok()) return PPicture(picture.bits);
-    if (!picture.reason.isEmpty()) frame_.platform().tell(picture.reason, Icon::Exclamation);
-}
-
-bool fImage::UndoBits() { return step(document_.UndoBits(frame_.filter())); }
-bool fImage::RedoBits() { return step(document_.RedoBits(frame_.filter())); }
-
-bool fImage::step(bool moved)
-{
-    if (!moved) return false;
-    frame_.handOver(document_);
-    UpdateImage();
-    showSize();
-    return true;
 }
 
 QString fImage::SizeText() const { return sizeText({PictureWidth(), PictureHeight()}, "x"); }
@@ -170,13 +106,13 @@ void fImage::showChanged()
 void fImage::activate()
 {
     frame_.EnableMouseScrolling();
-    if (!frame_.engineHolds(document_)) {
-        frame_.handOver(document_);
+    Workspace& workspace = frame_.workspace();
+    if (!workspace.engineHolds(document_)) {
+        workspace.handOver(document_);
         frame_.setStatus(Panel::Name, Caption());
         for (const Panel stale : {Panel::Pos, Panel::Ext, Panel::Size}) frame_.setStatus(stale, {});
         if (PictureExists()) showSize();
         frame_.setStatus(Panel::Zoom, zoomText());
-        frame_.CheckToolbarState(false);
         setMouseScroll(frame_.mouseScrolling());
         tools_->showHint();
     } else if (tmrSelection_.isActive()) {
@@ -226,6 +162,8 @@ bool fImage::mayClose()
     if (!self || answer != Answer::Yes) return answer == Answer::No;
     if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
     if (!self) return false;
+    frame_.workspace().wait(document_.handle()); // what runs is saved, too
+    if (!self) return false;
     bringToFront(); // what was asked about is what is saved
     frame_.Mmenu("SAVE");
     return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
@@ -243,20 +181,19 @@ void fImage::closeEvent(QCloseEvent* event)
     if (!self) return;
     if (!closes) return event->ignore();
     forget();
-    if (std::ranges::none_of(frame_.openDocuments(), &DocumentHandle::operator bool))
+    if (frame_.workspace().documents().empty())
         for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
             frame_.setStatus(panel, {});
     event->accept();
 }
 
-/// The end of the document: its undo files go. Asks nothing of the frame, which may be at its own end.
+/// The end of the document: its undo files go.
 void fImage::forget()
 {
     if (forgotten_) return;
     forgotten_ = true;
     tmrSelection_.stop();
-    document_.retire();
-    document_.undo.deleteSeries();
+    frame_.workspace().close(document_.handle());
 }
 
 } // namespace velara

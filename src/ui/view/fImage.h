@@ -1,11 +1,11 @@
-// fImage: the window of an open picture. The state lies in its Document; this is what is seen of it: the display iDst,
+// fImage: a view of an open picture. The state lies in its Document; this is what is seen of it: the display iDst,
 // the scroll bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the marching outline, and the
 // question before it closes.
 //
 // Cut by topic: fImage.cpp (picture, names, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
 // fImage_mouse.cpp (what mouse and keys do).
 #pragma once
-#include "document/Document.h"
+#include "document/Workspace.h"
 #include "fileio/savePicture.h"
 #include "tools/Tools.h"
 #include "ui/view/fBands.h"
@@ -25,8 +25,8 @@ class fImage final : public QWidget, public ToolSurface {
   public:
     enum class Question { Stands, Answered, Done };
 
-    /// An empty document with the frame's next number. The frame outlives it.
-    explicit fImage(Frame& frame, QWidget* parent = nullptr);
+    /// Of an open document of the frame's workspace. The frame outlives it.
+    fImage(Frame& frame, const DocumentHandle& document, QWidget* parent = nullptr);
     ~fImage() override;
 
     Document& document() { return document_; }
@@ -34,32 +34,15 @@ class fImage final : public QWidget, public ToolSurface {
     int DocNumber() const { return document_.DocNumber(); }
 
     // --- Picture
-    /// Loads a file by the reader of its extension. A file that a reader of the platform (gif, wmf, emf, ico, cur, dib)
-    /// refuses gives false; any other that can't be read gives true and an empty document, as an unknown kind does.
-    bool SetPicture(const QString& path, const QString& ext);
-    /// Why the file that was loaded is not all there; empty where it is.
-    const QString& LoadNote() const { return loadNote_; }
     /// Writes the picture in the format of the extension; its notices are shown here.
     SaveResult Save(const QString& path, const QString& ext);
-    /// Takes a picture into the document, whatever there was; a null one clears it. The selection is wiped.
-    void PPicture(const Bits& picture);
     /// "640x480", for the status bar.
     QString SizeText() const;
+    void BitsCopyToClipboard();
     bool PictureExists() const { return document_.PictureExists(); }
     int PictureWidth() const { return document_.PictureWidth(); }
     int PictureHeight() const { return document_.PictureHeight(); }
     Bits bits() const { return document_.bits(); }
-    void setBits(const Bits& bits) { document_.setBits(bits); }
-    /// The window stays open, but empty.
-    void Clear();
-    void BitsCopyToClipboard();
-    /// Nothing happens when no bitmap is on the clipboard.
-    void PasteFromClipboard();
-
-    // --- Undo. Steps repaint, and report the size in the status bar.
-    void SaveUndoBits() { document_.SaveUndoBits(); }
-    bool UndoBits();
-    bool RedoBits();
 
     // --- Names
     QString Caption() const { return caption_; }
@@ -103,8 +86,8 @@ class fImage final : public QWidget, public ToolSurface {
     void deactivate();
     /// A key was let go, by its number (17 is Ctrl); ends what the tools were doing with it.
     void idst_KeyUp(int key, int shift);
-    /// True while a tool is held down and has painted what is not committed.
-    bool strokeUnderWay() const;
+    /// True while a tool is held down: changes of the document wait.
+    bool strokeUnderWay() const { return tools_->ToolDown(); }
     /// A paste is pending: shows it at the pointer, or in the middle of what is seen, and takes the keys.
     void showPaste();
     /// A command comes: what hangs on the pointer leaves the picture until the pointer moves again.
@@ -137,8 +120,6 @@ class fImage final : public QWidget, public ToolSurface {
     QSize sizeHint() const override;
 
   signals:
-    /// A snapshot couldn't be written; the reason is for a person.
-    void stepLost(const QString& reason);
     /// The question before it closes: it stands, was answered, and what followed from the answer is done.
     void asking(Question question);
 
@@ -153,7 +134,6 @@ class fImage final : public QWidget, public ToolSurface {
     void takeFocus();
     void forget();
     void showSize();
-    bool step(bool moved);
     void layOutView();
     void barChanged();
     void spotChanged();
@@ -167,8 +147,9 @@ class fImage final : public QWidget, public ToolSurface {
     void showFootprint();
 
     Frame& frame_;
-    Document document_;
-    QString loadNote_, caption_;
+    std::shared_ptr<Document> shared_;
+    Document& document_;
+    QString caption_;
     fDisplay* iDst_;
     QScrollBar *hSB_, *vSB_;
     QWidget* shp_;

@@ -137,8 +137,6 @@ bool fImage::displayKey(const QKeyEvent& event, bool down)
     return false;
 }
 
-bool fImage::strokeUnderWay() const { return tools_->ToolDown() && !document_.touched.isEmpty(); }
-
 void fImage::showPaste()
 {
     activateWindow();

@@ -149,7 +149,7 @@ void fImage::setZoomFactor(int factor)
 {
     zoom_ = std::clamp(factor, kLeastZoom, kMostZoom);
     document_.Region.setZoomFactor(static_cast<float>(zoom_));
-    if (frame_.engineHolds(document_)) frame_.setStatus(Panel::Zoom, zoomText());
+    if (frame_.workspace().engineHolds(document_)) frame_.setStatus(Panel::Zoom, zoomText());
     layOutView();
 }
 

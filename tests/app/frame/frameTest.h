@@ -45,6 +45,19 @@ struct FrameTest : ::testing::Test {
         QCoreApplication::processEvents();
         return frame->GetActiveImage();
     }
+    /// A word, and what it begins, to their end.
+    void command(const QString& word)
+    {
+        frame->Mmenu(word);
+        frame->workspace().wait();
+    }
+    Outcome change(const DocumentHandle& document, const Job& job)
+    {
+        Outcome became;
+        frame->workspace().change(document, {job}, [&](const Outcome& outcome) { became = outcome; });
+        frame->workspace().wait();
+        return became;
+    }
     void activate(fImage* image)
     {
         frame->area().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(image->parentWidget()));

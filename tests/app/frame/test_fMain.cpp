@@ -25,15 +25,15 @@ TEST_F(FrameTest, WithoutADocumentOnlyTheFreeCommandsDoAnything)
     for (const CommandWord& command : vocabulary())
         if (command.stage == Stage::NeedsImage) words.emplace_back(command.word);
     words.emplace_back("CREATEFROMCLIPBOARD"); // which finds nothing there
-    for (const std::string& word : words) frame->Mmenu(QString::fromStdString(word));
+    for (const std::string& word : words) command(QString::fromStdString(word));
     EXPECT_TRUE(platform.log.empty()) << last();
     EXPECT_EQ(platform.yields, 0);
     EXPECT_TRUE(frame->documents().isEmpty());
 
-    frame->Mmenu("OPEN");
+    command("OPEN");
     EXPECT_EQ(last(), "open: Open file");
     platform.recordingClipboard.bits = randomBits(5, 4, 1);
-    frame->Mmenu("CREATEFROMCLIPBOARD");
+    command("CREATEFROMCLIPBOARD");
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->documents()[0]->PictureWidth(), 5);
     EXPECT_EQ(frame->documents()[0]->Caption(), "New.bmp");
@@ -90,7 +90,7 @@ TEST_F(FrameTest, NoMenuHasAnAccessKeyTwiceAndItemsGoWithoutOnlyWhenNoneIsLeft)
 TEST_F(FrameTest, ViewZoomLeavesThePixels)
 {
     fImage* image = open(randomBits(9, 9, 4));
-    frame->Mmenu("700");
+    command("700");
     EXPECT_EQ(image->ZoomFactor(), 7);
     EXPECT_EQ(image->PictureWidth(), 9);
     EXPECT_EQ(frame->status().panel(Panel::Zoom), "7 : 1");
@@ -125,7 +125,7 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
     fImage* image = open(randomBits(30, 20, 5));
     const Bits before = image->bits();
     for (const int failure : {0, 1, 2}) {
-        const Outcome outcome = frame->change(frame->active(), [&](Document& draft, cBitFilter& filter) {
+        const Outcome outcome = change(frame->active(), [&](Document& draft, cBitFilter& filter) {
             draft.takePicture(flatBits(3, 2, 1, 2, 3));
             filter.setBits(draft.bits());
             filter.setBitsRegion({});
@@ -136,8 +136,8 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
         EXPECT_EQ(outcome.kind, failure == 2 ? Outcome::Cancelled : Outcome::Failed);
         EXPECT_EQ(outcome.reason.isEmpty(), failure == 2);
         EXPECT_TRUE(sameBits(before, image->bits()));
-        EXPECT_TRUE(sameBits(before, frame->filter().bits()));
-        EXPECT_TRUE(frame->filter().BitsRegion().contains(29, 19));
+        EXPECT_TRUE(sameBits(before, frame->workspace().engine().bits()));
+        EXPECT_TRUE(frame->workspace().engine().BitsRegion().contains(29, 19));
         EXPECT_EQ(image->document().undo.UndoStep(), 1);
         EXPECT_FALSE(image->document().Changed);
     }
@@ -146,30 +146,31 @@ TEST_F(FrameTest, AFailedFilterLeavesEverythingAsItWas)
 TEST_F(FrameTest, CropSaysWhyItCannot)
 {
     fImage* image = open(randomBits(20, 20, 5));
-    frame->Mmenu("CROP");
+    command("CROP");
     EXPECT_EQ(last(), "message: Crop: Nothing selected");
     EXPECT_EQ(platform.lastIcon, Icon::Information);
     image->document().Region.CreateRect(3, 3, 4, 9, Combine::Or, true);
-    frame->Mmenu("CROP");
+    command("CROP");
     EXPECT_EQ(last(), "message: Crop: Minimum size: 2 x 2");
     EXPECT_EQ(image->PictureWidth(), 20);
 }
 
-TEST_F(FrameTest, UpdateStoresOnlyWhenAsked)
+TEST_F(FrameTest, TheBarShowsHowFarTheActiveDocumentsChangeIs)
 {
-    fImage* image = open(randomBits(20, 20, 5));
-    frame->cFilter_Progress(40);
-    frame->cFilter_Progress(-1);
+    open(randomBits(20, 20, 5), "other.bmp");
+    const DocumentHandle other = frame->active();
+    open(randomBits(20, 20, 6));
     auto* bar = frame->findChild<QProgressBar*>("cFilterProgress");
-    EXPECT_EQ(bar->value(), 40);
-    EXPECT_TRUE(bar->isVisible());
-    frame->Update(true, false);
-    EXPECT_EQ(bar->value(), 0);
+    const auto report = [&](const DocumentHandle& document, int percent) {
+        emit frame->workspace().progress(document, percent);
+        return std::pair(bar->value(), bar->isVisible());
+    };
+    EXPECT_EQ(report(frame->active(), 40), std::pair(40, true));
+    EXPECT_EQ(report(frame->active(), -1), std::pair(40, true));
+    EXPECT_EQ(report(other, 70), std::pair(40, true));
+    emit frame->workspace().idle(frame->active());
     EXPECT_FALSE(bar->isVisible());
-    frame->cFilter_Progress(100);
-    EXPECT_FALSE(bar->isVisible()) << "done is at rest";
-    EXPECT_EQ(image->document().undo.UndoStep(), 1);
-    EXPECT_FALSE(image->document().Changed);
+    EXPECT_FALSE(report(frame->active(), 100).second) << "done is at rest";
 }
 
 TEST_F(FrameTest, BarsFollowTheConfiguration)
@@ -246,11 +247,11 @@ TEST_F(FrameTest, WindowsTileOneBelowTheOtherOrSideBySide)
 {
     open(randomBits(20, 20, 5), "a.bmp");
     open(randomBits(20, 20, 6), "b.bmp");
-    frame->Mmenu("TILEHORIZONTALLY");
+    command("TILEHORIZONTALLY");
     auto windows = frame->area().subWindowList();
     EXPECT_EQ(windows[0]->width(), frame->area().viewport()->width());
     EXPECT_NE(windows[0]->y(), windows[1]->y());
-    frame->Mmenu("TILEVERTICALLY");
+    command("TILEVERTICALLY");
     EXPECT_EQ(windows[0]->height(), frame->area().viewport()->height());
     EXPECT_NE(windows[0]->x(), windows[1]->x());
 }

@@ -28,7 +28,7 @@ TEST_F(FrameDocuments, TheFrameClosesTheLastOpenedFirst)
 {
     for (const char* name : {"a.bmp", "b.bmp", "c.bmp"}) {
         open(randomBits(8, 8, 1), name);
-        frame->Mmenu("INVERT");
+        command("INVERT");
     }
     platform.answers = {"no", "no"}; // then it is cancelled
     frame->close();
@@ -68,20 +68,20 @@ TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
 
     const auto marks = [&] { return windowOf(first)->isWindowModified() * 10 + windowOf(second)->isWindowModified(); };
     EXPECT_EQ(marks(), 0);
-    frame->Mmenu("INVERT");
+    command("INVERT");
     EXPECT_EQ(marks(), 1);
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_EQ(marks(), 0) << "nothing to lose: closing asks nothing";
-    frame->Mmenu("REDO");
+    command("REDO");
     EXPECT_EQ(marks(), 1);
     activate(first);
-    frame->Mmenu("FLIPH");
+    command("FLIPH");
     EXPECT_EQ(marks(), 11);
-    frame->Mmenu("SAVE");
+    command("SAVE");
     EXPECT_EQ(marks(), 1);
     EXPECT_FALSE(platform.logged("save: Save as"));
     activate(second);
-    frame->Mmenu("SAVE");
+    command("SAVE");
     EXPECT_EQ(last(), "save: Save as") << "its own name is the first one's";
     EXPECT_EQ(marks(), 1) << "cancelled";
 }
@@ -97,7 +97,7 @@ TEST_F(FrameDocuments, MarksThatTurnTheTextAreShownByTheirNumbers)
     EXPECT_EQ(windowOf(frame->GetActiveImage())->windowTitle(), shown);
     EXPECT_EQ(frame->status().panel(Panel::Name), shown);
     EXPECT_EQ(listed(), QStringList({">&1 " + shown}));
-    frame->Mmenu("INVERT");
+    command("INVERT");
     frame->close();
     EXPECT_TRUE(QString::fromStdString(last()).contains(shown + "\nThis image has changed."));
 }
@@ -107,7 +107,7 @@ TEST_F(FrameDocuments, TheOpenOnesStandAtTheEndOfViews)
     EXPECT_EQ(listed(), QStringList());
     open(randomBits(9, 9, 1), "one & two.bmp");
     fImage* other = open(randomBits(9, 9, 1), "b.bmp");
-    frame->Mmenu("INVERT");
+    command("INVERT");
     EXPECT_EQ(listed(), QStringList({"&1 one && two.bmp", ">&2 b.bmp*"}));
     windowOf(frame->documents()[0])->showMinimized();
     listed();
@@ -127,7 +127,7 @@ TEST_F(FrameDocuments, AfterAClosedOneComesTheOneUsedBefore)
     fImage* fourth = open(randomBits(9, 9, 4), "4.bmp");
     activate(second);
     activate(fourth);
-    frame->Mmenu("CLOSE");
+    command("CLOSE");
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "2.bmp");
 }
 
@@ -143,7 +143,7 @@ TEST_F(FrameDocuments, AnEmptyOneShowsNothingOfAnotherAndKeepsTheKeys)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Control);
     EXPECT_EQ(frame->GetActiveImage(), picture);
-    frame->Mmenu("2x");
+    command("2x");
     EXPECT_EQ(frame->findChild<QProgressBar*>("cFilterProgress")->value(), 0);
 }
 
@@ -187,16 +187,16 @@ TEST_F(FrameDocuments, TheSelectionHasItsCommands)
     const auto key = [&](Qt::Key k, Qt::KeyboardModifiers m) { QTest::keyClick(frame.get(), k, m); };
     key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(selection().bounds(), (Rect{0, 0, 20, 10}));
-    EXPECT_EQ(frame->filter().BitsRegion(), selection());
+    EXPECT_EQ(frame->workspace().engine().BitsRegion(), selection());
     key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(selection().isEmpty());
-    EXPECT_EQ(frame->filter().BitsRegion(), image->document().Region.RegionMain());
+    EXPECT_EQ(frame->workspace().engine().BitsRegion(), image->document().Region.RegionMain());
     image->document().Region.setRegion(Region::rectangle(0, 0, 20, 4));
     key(Qt::Key_I, Qt::ControlModifier);
     EXPECT_EQ(selection().bounds(), (Rect{0, 4, 20, 10}));
     EXPECT_FALSE(image->document().Changed);
-    frame->Mmenu("INVERT");
-    frame->Mmenu("UNDO");
+    command("INVERT");
+    command("UNDO");
     const Bits before = image->bits();
     key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_FALSE(image->bits() == before) << "the other key of redo";
@@ -242,7 +242,7 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
 
     frame->findChild<QPushButton*>("cmdStartOpen")->click();
     EXPECT_EQ(last(), "open: Open file");
-    frame->Mmenu("INVERT");
+    command("INVERT");
     EXPECT_TRUE(frame->status().currentMessage().startsWith("There is no picture"));
     frame->run("@SELECTALL");
 
@@ -250,7 +250,7 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "a.png");
     EXPECT_FALSE(page->isVisible());
-    frame->Mmenu("CLOSE");
+    command("CLOSE");
     EXPECT_TRUE(page->isVisible());
     EXPECT_EQ(page->size(), areaRect().size());
 }

@@ -25,7 +25,7 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
     const QString a = file("a.bmp");
     setup.OpenZoom = 3;
     platform.answers = {a};
-    frame->Mmenu("OPEN");
+    command("OPEN");
     ASSERT_EQ(frame->documents().size(), 1);
     fImage* image = frame->documents()[0];
     EXPECT_EQ(image->Tag(), a);
@@ -45,10 +45,10 @@ TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
     for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}}) {
         platform.answers = {file(name)};
-        frame->Mmenu("OPEN");
+        command("OPEN");
         platform.log.clear();
         frame->documents().last()->document().Changed = true;
-        frame->Mmenu("SAVE");
+        command("SAVE");
         EXPECT_EQ(platform.logged("save: Save as"), asks) << name;
         EXPECT_EQ(frame->documents().last()->document().Changed, asks) << name;
     }
@@ -56,14 +56,14 @@ TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
     // there.
     const auto asksForAName = [&] {
         platform.log.clear();
-        frame->Mmenu("SAVE");
+        command("SAVE");
         return platform.logged("save: Save as");
     };
     open(randomBits(4, 4, 1), "New.bmp");
     EXPECT_TRUE(asksForAName());
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
     platform.answers = {path("b.bmp")};
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_FALSE(asksForAName()) << "it has one now";
     platform.loadNote = "The file is cut off.";
     frame->openPicture(file("c.bmp"));
@@ -80,9 +80,9 @@ TEST_F(FrameTest, WhateverWouldBeLostIsAskedAbout)
     } rows[] = {
         {"a new one", [&] { open(randomBits(8, 8, 1)); }, false},
         {"a file", [&] { frame->openPicture(file("a.bmp")); }, false},
-        {"a copy of it", [&] { frame->openPicture(file("b.bmp")), frame->Mmenu("CREATENEWCOPY"); }, true},
-        {"it in another size", [&] { frame->openPicture(file("c.bmp")), frame->Mmenu("x2"); }, true},
-        {"the clipboard's", [&] { frame->Mmenu("CREATEFROMCLIPBOARD"); }, true},
+        {"a copy of it", [&] { frame->openPicture(file("b.bmp")), command("CREATENEWCOPY"); }, true},
+        {"it in another size", [&] { frame->openPicture(file("c.bmp")), command("x2"); }, true},
+        {"the clipboard's", [&] { command("CREATEFROMCLIPBOARD"); }, true},
         {"any other that is brought", [&] { frame->adopt(randomBits(8, 8, 1), "Scan.bmp"); }, true},
         {"a window without a picture", [&] { frame->adopt({}, "New.bmp"); }, false},
         {"a part of a file", [&] { platform.loadNote = "cut off", frame->openPicture(file("d.bmp")); }, false},
@@ -120,7 +120,7 @@ TEST_F(FrameTest, YesClosesWhatWasSavedAndNothingElse)
     EXPECT_EQ(files(), 0);
 
     frame->openPicture(file("a.bmp"));
-    frame->Mmenu("x2");
+    command("x2");
     EXPECT_TRUE(closes({"yes"}));
     EXPECT_FALSE(platform.logged("save: Save as"));
     EXPECT_EQ(QImage(path("a.bmp")).size(), QSize(6, 4)) << "in its own file";
@@ -131,14 +131,14 @@ TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
     fImage* image = open(randomBits(8, 8, 1));
     image->document().Changed = true;
     platform.answers = {path("b.png")};
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_FALSE(image->document().Changed);
     EXPECT_EQ(image->Tag(), path("b.png"));
     EXPECT_EQ(frame->status().panel(Panel::Name), "b.png");
     EXPECT_EQ(QImage(path("b.png")).size(), QSize(8, 8));
 
     platform.answers = {path("c.pgm")}; // the colours decide: 24 bits make a pixmap
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_TRUE(QFile::exists(path("c.ppm")));
     EXPECT_FALSE(QFile::exists(path("c.pgm")));
 }
@@ -154,7 +154,7 @@ TEST_F(FrameTest, ANameWithoutAnExtensionGetsOne)
     for (const auto& c : kCases) {
         open(randomBits(8, 8, 1), c.caption);
         platform.answers = {path(c.answer)};
-        frame->Mmenu("SAVEAS");
+        command("SAVEAS");
         EXPECT_TRUE(QFile::exists(path(c.written))) << c.written;
         EXPECT_FALSE(platform.logged(kSaveError));
     }
@@ -172,11 +172,11 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     {
         const FullDisk full(1000);
         const FreeMemory none(0); // for steps back
-        frame->Mmenu("INVERT");
+        command("INVERT");
         EXPECT_FALSE(image->document().undo.stands());
         QCoreApplication::processEvents();
         EXPECT_EQ(frame->status().currentMessage(), "") << "it can be undone";
-        frame->Mmenu("FLIPH");
+        command("FLIPH");
         EXPECT_FALSE(image->document().undo.stands());
     }
     QCoreApplication::processEvents();
@@ -185,10 +185,10 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     EXPECT_TRUE(frame->isVisible());
     EXPECT_TRUE(last().starts_with("ask: ")) << last();
     const Bits after = image->bits();
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(before, image->bits()));
     EXPECT_TRUE(frame->status().currentMessage().contains("last one that stands"));
-    frame->Mmenu("REDO");
+    command("REDO");
     EXPECT_TRUE(sameBits(after, image->bits()));
 }
 
@@ -200,19 +200,19 @@ TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
     fImage* image = open(mine);
     const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"), Arrival::Made);
     ASSERT_NE(theirs->DocNumber(), image->DocNumber());
-    frame->Mmenu("INVERT");
-    frame->Mmenu("UNDO");
+    command("INVERT");
+    command("UNDO");
     EXPECT_TRUE(sameBits(mine, image->bits()));
     other.close();
-    frame->Mmenu("REDO");
-    frame->Mmenu("UNDO");
+    command("REDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(mine, image->bits()));
 }
 
 TEST_F(FrameTest, AClipboardPictureThatCannotBeReadIsTold)
 {
     platform.recordingClipboard.fault = "The picture on the clipboard can't be read: it is too large";
-    frame->Mmenu("CREATEFROMCLIPBOARD");
+    command("CREATEFROMCLIPBOARD");
     EXPECT_EQ(last(), "message: Velara Studio: The picture on the clipboard can't be read: it is too large");
     EXPECT_TRUE(frame->documents().isEmpty());
 }
@@ -222,17 +222,17 @@ TEST_F(FrameTest, ASaveThatFailsSaysSoAndLeavesTheDocument)
     fImage* image = open(randomBits(8, 8, 1));
     image->document().Changed = true;
     platform.answers = {path("no/such/folder/b.bmp")};
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_TRUE(platform.logged(kWriterError));
     EXPECT_FALSE(platform.logged(kSaveError)) << "one box is enough";
     platform.answers = {path("b.xyz")};
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_EQ(last(), kSaveError) << "no writer for it";
     platform.log.clear();
     fImage* empty = open({}, "empty.bmp");
     ASSERT_EQ(empty, frame->GetActiveImage());
     platform.answers = {path("e.bmp")};
-    frame->Mmenu("SAVEAS");
+    command("SAVEAS");
     EXPECT_EQ(last(), kSaveError) << "no picture";
     empty->parentWidget()->close();
     QCoreApplication::processEvents();
@@ -291,7 +291,7 @@ TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
 {
     fImage* image = open(randomBits(9, 7, 2));
     image->document().Region.CreateRect(1, 1, 4, 4, Combine::Or, true);
-    frame->Mmenu("CREATENEWCOPY");
+    command("CREATENEWCOPY");
     ASSERT_EQ(frame->documents().size(), 2);
     fImage* copy = frame->documents()[1];
     EXPECT_EQ(copy->bits().at(3, 3), image->bits().at(3, 3));
@@ -408,6 +408,7 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     const fImage* image = frame->GetActiveImage();
     const Bits before = image->bits();
     frame->Mmenu("INVERT");
+    frame->workspace().wait();
     EXPECT_FALSE(image->bits() == before);
     frame->Mmenu("UNDO");
     EXPECT_TRUE(image->bits() == before) << "the step was in memory";

@@ -22,7 +22,7 @@ struct FrameMerging : FrameTest {
         lower = open(below, "below.bmp");
         upper = open(above, "above.bmp");
         activate(lower);
-        frame->Mmenu("IMAGEMERGING");
+        command("IMAGEMERGING");
         dialog = frame->findChild<fOverlay*>();
     }
     template <class T> T* find(const char* name) { return dialog->findChild<T*>(name); }
@@ -72,7 +72,7 @@ TEST_F(FrameMerging, TheWindowShowsWhatOkDoesAndTheStepCanBeUndone)
     EXPECT_TRUE(comes([&] { return !dialog; })) << "it went";
     EXPECT_TRUE(sameBits(wanted, lower->bits()));
     EXPECT_TRUE(sameBits(above, upper->bits()));
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(below, lower->bits()));
 }
 
@@ -84,13 +84,14 @@ TEST_F(FrameMerging, ANewImageGetsTheWholeBlendAndThePictureStays)
     const Bits wanted = blend({above, 0, 0}, kAll);
     EXPECT_TRUE(comes([&] { return shows(wanted); })) << "nothing is selected in a new picture";
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton);
+    frame->workspace().wait();
     ASSERT_EQ(3, frame->documents().size());
     const fImage* made = frame->documents().back();
     EXPECT_EQ(made, frame->GetActiveImage());
     EXPECT_TRUE(sameBits(wanted, made->bits()));
     EXPECT_TRUE(made->Tag().endsWith("below.bmp") && made->Tag() != lower->Tag());
     EXPECT_TRUE(sameBits(below, lower->bits()));
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(below, made->bits()));
 }
 
@@ -99,10 +100,10 @@ TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
     setup.AskToSave = false;
     begin();
     slide("sbXOffset", 120);
-    frame->change(lower->document().handle(),
-                  [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(20, 10, 9, 9, 9)); });
-    frame->change(upper->document().handle(),
-                  [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(8, 8, 100, 50, 1)); });
+    change(lower->document().handle(),
+           [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(20, 10, 9, 9, 9)); });
+    change(upper->document().handle(),
+           [](Document& draft, cBitFilter&) { draft.takePicture(flatBits(8, 8, 100, 50, 1)); });
     EXPECT_TRUE(comes([&] { return find<QSlider>("sbXOffset")->value() == 20; })) << "it is no wider any more";
     slide("sbXOffset", 0);
     cBitFilter filter;

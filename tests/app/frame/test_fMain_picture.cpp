@@ -14,12 +14,12 @@ TEST_F(FramePicture, AFilterKeepsToTheSelectionOfTheMouse)
     fImage* image = open(flatBits(60, 50, 10, 20, 30));
     click("Select");
     drag(image, {10, 10}, {30, 25});
-    frame->Mmenu("INVERT");
+    command("INVERT");
     EXPECT_EQ(image->bits().at(10, 10), (Pixel{{245, 235, 225, 0}}));
     EXPECT_EQ(image->bits().at(9, 10), (Pixel{{10, 20, 30, 0}}));
     EXPECT_EQ(shown(image, 20, 20), 0xE1EBF5u);
     EXPECT_EQ(shown(image, 40, 40), 0x1E140Au);
-    frame->Mmenu("CROP");
+    command("CROP");
     EXPECT_EQ(image->PictureWidth(), 20);
     EXPECT_EQ(display(image)->size(), QSize(20, 15));
     EXPECT_TRUE(image->document().Region.IsEmptyRegion());

@@ -1,11 +1,14 @@
-// The road from a command to its document: every word that changes pixels, and everything that can happen while it
-// yields. Afterwards each document shows its own picture, has its own steps, and no file stays behind.
+// The road from a command to its document: every word that changes pixels, and everything that can happen while it is
+// computed. Afterwards each document shows its own picture, has its own steps, and no file stays behind.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
+#include <QtTest>
 #include <QtWidgets>
+#include <condition_variable>
+#include <mutex>
 #include <set>
 
 namespace velara {
@@ -16,7 +19,10 @@ namespace {
 constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",    "IMAGEORIENTATION", "IMAGEROTATE",
                                              "IMAGERESOLUTION", "IMAGETEXTURES", "IMAGECOLORDEPTH",  "CUT"};
 /// Words that are done in one go.
-const std::set<std::string_view> kWithoutYield{"IMAGECOLORDEPTH", "REDO", "UNDO"};
+const std::set<std::string_view> kAtOnce{"REDO", "UNDO"};
+
+/// A dialog that is filled with the size that is seen as it opens.
+constexpr std::string_view kOfWhatIsSeen = "CANVASSIZE";
 
 /// Words that leave this small picture as it is; the first is a half of the same picture once more.
 const std::set<std::string_view> kAsBefore{"50", "CURTAINWHITY", "CUSTOMCURTAIN", "FISHEYE"};
@@ -40,10 +46,38 @@ struct State {
     int step = 1, top = 1;
 };
 
+/// Holds the threads that compute while it is shut.
+class Gate {
+  public:
+    void shut() { set(false); }
+    void open() { set(true); }
+    void pass()
+    {
+        if (QThread::currentThread() == qApp->thread()) return;
+        std::unique_lock lock(guard_);
+        moved_.wait(lock, [this] { return open_; });
+    }
+
+  private:
+    void set(bool open)
+    {
+        const std::lock_guard lock(guard_);
+        open_ = open;
+        moved_.notify_all();
+    }
+    std::mutex guard_;
+    std::condition_variable moved_;
+    bool open_ = true;
+};
+
 struct Road : FrameTest {
+    Gate gate;
     const Bits first = randomBits(48, 36, 1), second = randomBits(20, 15, 2);
     QPointer<fImage> own, other;
     Bits start; // own's picture as the word comes
+    std::atomic<std::uint32_t> clock{0};
+
+    cBitFilter& engine() { return frame->workspace().engine(); }
 
     /// Two documents. The active one has a run of sizing words behind it, and a part of it is selected.
     void begin()
@@ -51,20 +85,24 @@ struct Road : FrameTest {
         if (!frame) SetUp();
         frame->setUpdatesEnabled(false); // nobody looks, and painting would take most of the time
         setup.AskToSave = false;
-        frame->filter().clock = [this] { return platform.now += 20; }; // a report falls due in every row
+        engine().clock = [this] {
+            gate.pass();
+            return clock += 20; // a report falls due in every row
+        };
         own = open(first, "a.bmp");
         other = open(second, "b.bmp");
         activate(own);
-        frame->Mmenu("50");
+        command("50");
         start = own->bits();
         own->document().Region.CreateRect(3, 2, 17, 14, Combine::Or, true);
-        own->document().handTo(frame->filter());
-        frame->filter().setRandomSeed(1);
+        frame->workspace().handOver(own->document());
+        engine().setRandomSeed(1);
         click("Pencil");
     }
     void end()
     {
-        platform.onYield = nullptr;
+        gate.open();
+        if (frame) frame->workspace().wait();
         if (frame)
             for (fImage* image : frame->documents()) image->parentWidget()->close();
         settle();
@@ -83,10 +121,20 @@ struct Road : FrameTest {
                 document.undo.UndoTop()};
     }
 
-    /// Runs the word; in the dialog that it opens everything is moved, then OK is clicked. One that stays open is left.
-    void run(std::string_view word)
+    /// Runs the word; in the dialog that it opens everything is moved, then OK is clicked. meanwhile comes while the
+    /// picture is computed. False: nothing was.
+    bool run(
+        const CommandWord& word, const std::function<void()>& meanwhile = [] {})
     {
         const QWidget* below = QApplication::activeModalWidget();
+        const bool inDialog = word.kind == WordKind::Dialog; // computes while it is open; the others close first
+        bool computed = false;
+        const auto finish = [&] {
+            computed = frame->workspace().isBusy(own->document().handle());
+            meanwhile();
+            gate.open();
+            frame->workspace().wait();
+        };
         QTimer user;
         QObject::connect(&user, &QTimer::timeout, &user, [&] {
             const QPointer<QWidget> dialog = QApplication::activeModalWidget();
@@ -95,10 +143,14 @@ struct Road : FrameTest {
             moveEverything(*dialog);
             for (const char* name : {"cmdOK", "CmdOK"})
                 if (auto* ok = dialog ? dialog->findChild<QAbstractButton*>(name) : nullptr) ok->click();
+            if (inDialog) finish();
             if (dialog) dialog->close();
         });
         user.start(0);
-        frame->Mmenu(QString::fromUtf8(word.data(), qsizetype(word.size())));
+        gate.shut();
+        frame->Mmenu(QString::fromUtf8(word.word.data(), qsizetype(word.word.size())));
+        if (!inDialog) finish();
+        return computed;
     }
     static void moveEverything(QWidget& dialog)
     {
@@ -113,28 +165,28 @@ struct Road : FrameTest {
 
 /// What can happen, and what it leaves.
 struct Meanwhile {
-    enum Own { Result, Again, Undone, Drawn, Closed };
+    enum Own { Result, Twice, AsBefore, Closed };
     const char* what;
-    void (*happens)(Road&, std::string_view word);
+    void (*happens)(Road&, const CommandWord& word);
     Own own = Result;
-    enum Other { Same, DrawnOn, Gone } other = Same;
+    enum Other { Same, DrawnOn, Turned, Gone } other = Same;
     int documents = 2;
-
-    bool mayComeFirst() const { return own == Result || own == Closed; } // with the same result
 };
 constexpr int kOfFile = 13; // pixels that the file is wide, and nothing else is
 
 // clang-format off
 const Meanwhile kMeanwhile[] = {
-    {"the other is activated", [](Road& r, auto) { r.activate(r.other); }},
-    {"the other is drawn on",  [](Road& r, auto) { r.activate(r.other); r.drag(r.other, {2, 3}, {12, 9}); }, Meanwhile::Result, Meanwhile::DrawnOn},
-    {"it is drawn on",         [](Road& r, auto) { r.drag(r.own, {4, 3}, {12, 9}); }, Meanwhile::Drawn},
-    {"it is undone",           [](Road& r, auto) { r.frame->Mmenu("UNDO"); }, Meanwhile::Undone},
-    {"it is run again",        [](Road& r, auto word) { r.run(word); }, Meanwhile::Again},
-    {"a file is opened",       [](Road& r, auto) { r.frame->openPicture(r.path("c.bmp")); }, Meanwhile::Result, Meanwhile::Same, 3},
-    {"it is closed",           [](Road& r, auto) { r.own->parentWidget()->close(); }, Meanwhile::Closed, Meanwhile::Same, 1},
-    {"the other is closed",    [](Road& r, auto) { r.other->parentWidget()->close(); }, Meanwhile::Result, Meanwhile::Gone, 1},
-    {"the frame is closed",    [](Road& r, auto) { r.frame->close(); }, Meanwhile::Closed, Meanwhile::Gone, 0},
+    {"the other is activated", [](Road& r, auto&) { r.activate(r.other); }},
+    {"the other is drawn on",  [](Road& r, auto&) { r.activate(r.other); r.drag(r.other, {2, 3}, {12, 9}); }, Meanwhile::Result, Meanwhile::DrawnOn},
+    {"the other is changed",   [](Road& r, auto&) { r.activate(r.other); r.frame->Mmenu("INVERT"); }, Meanwhile::Result, Meanwhile::Turned},
+    {"it is drawn on",         [](Road& r, auto&) { r.drag(r.own, {4, 3}, {12, 9}); }},
+    {"it is undone",           [](Road& r, auto&) { r.frame->Mmenu("UNDO"); }, Meanwhile::AsBefore},
+    {"Esc",                    [](Road& r, auto&) { QTest::keyClick(r.display(r.own), Qt::Key_Escape); }, Meanwhile::AsBefore},
+    {"it is run again",        [](Road& r, auto& word) { r.run(word); }, Meanwhile::Twice},
+    {"a file is opened",       [](Road& r, auto&) { r.frame->openPicture(r.path("c.bmp")); }, Meanwhile::Result, Meanwhile::Same, 3},
+    {"it is closed",           [](Road& r, auto&) { r.own->parentWidget()->close(); }, Meanwhile::Closed, Meanwhile::Same, 1},
+    {"the other is closed",    [](Road& r, auto&) { r.other->parentWidget()->close(); }, Meanwhile::Result, Meanwhile::Gone, 1},
+    {"the frame is closed",    [](Road& r, auto&) { r.frame->close(); }, Meanwhile::Closed, Meanwhile::Gone, 0},
 };
 // clang-format on
 
@@ -153,10 +205,10 @@ void expectOneFrame(Road& r)
         const Document& document = image->document();
         EXPECT_TRUE(document.undo.stands());
         steps += document.undo.UndoTop();
-        EXPECT_EQ(r.frame->engineHolds(document), image == r.frame->GetActiveImage());
+        EXPECT_EQ(r.frame->workspace().engineHolds(document), image == r.frame->GetActiveImage());
         if (image != r.frame->GetActiveImage()) continue;
-        EXPECT_TRUE(sameBits(document.bits(), r.frame->filter().bits())) << "engine";
-        EXPECT_EQ(document.Region.working(), r.frame->filter().BitsRegion());
+        EXPECT_TRUE(sameBits(document.bits(), r.engine().bits())) << "engine";
+        EXPECT_EQ(document.Region.working(), r.engine().BitsRegion());
         EXPECT_EQ(r.frame->status().panel(Panel::Size), image->SizeText());
         EXPECT_EQ(r.frame->status().panel(Panel::Name), image->Caption());
         EXPECT_EQ(r.frame->action("tb_0_7")->isEnabled(), document.undo.canUndo());
@@ -166,26 +218,28 @@ void expectOneFrame(Road& r)
     EXPECT_EQ(r.files().filter(".lock").size(), r.frame->documents().size());
 }
 
-/// The word with nothing in between, and how often it yields.
+/// The word with nothing in between, once and twice.
 struct Undisturbed {
-    State state;
-    int yields = 0;
+    State once, twice;
+    bool computed = false;
 };
 
-Undisturbed undisturbed(Road& r, std::string_view word)
+Undisturbed undisturbed(Road& r, const CommandWord& word)
 {
+    Undisturbed result;
     r.begin();
-    const int before = r.platform.yields;
-    r.run(word);
-    const Undisturbed result{Road::stateOf(r.own), r.platform.yields - before};
+    result.computed = r.run(word);
+    result.once = Road::stateOf(r.own);
     expectOneFrame(r);
     expectState({r.second, {}}, Road::stateOf(r.other));
+    if (result.computed) r.run(word);
+    result.twice = Road::stateOf(r.own);
     r.end();
     return result;
 }
 
-/// The document with a line on it, one step further.
-State drawnOver(const Bits& before, fImage* image)
+/// The document one step further, by a line or by INVERT.
+State changedFrom(const Bits& before, fImage* image)
 {
     const State state = Road::stateOf(image);
     EXPECT_TRUE(sameBits(before, state.before));
@@ -193,29 +247,29 @@ State drawnOver(const Bits& before, fImage* image)
     return state;
 }
 
-/// The word, and what happens in one of its yields.
-void disturbed(Road& r, std::string_view word, const Undisturbed& usual, const Meanwhile& meanwhile, int yield)
+/// The word, and what happens while it is computed.
+void disturbed(Road& r, const CommandWord& word, const Undisturbed& usual, const Meanwhile& meanwhile)
 {
-    SCOPED_TRACE(testing::Message() << word << ", " << meanwhile.what << " in yield " << yield);
+    SCOPED_TRACE(testing::Message() << word.word << ", " << meanwhile.what);
     r.begin();
-    State own = usual.state, other{r.second, {}};
-    r.platform.onYield = [&] {
-        if (--yield != 0) return;
+    const State before = Road::stateOf(r.own);
+    const bool computed = r.run(word, [&] {
         meanwhile.happens(r, word);
-        if (meanwhile.own == Meanwhile::Undone) own = {r.first, {}, 1, 2};
-        if (meanwhile.own == Meanwhile::Drawn) own = drawnOver(r.start, r.own);
-        if (meanwhile.other == Meanwhile::DrawnOn) other = drawnOver(r.second, r.other);
-        Road::settle(); // what is closed would go now
-    };
-    r.run(word);
+        if (meanwhile.other == Meanwhile::DrawnOn) changedFrom(r.second, r.other);
+    });
     Road::settle();
-    EXPECT_LE(yield, 0) << "it never came to it";
+    EXPECT_TRUE(computed) << "it never came to it";
     EXPECT_EQ(r.frame->documents().size(), meanwhile.documents);
     EXPECT_EQ(bool(r.own), meanwhile.own != Meanwhile::Closed);
     EXPECT_EQ(bool(r.other), meanwhile.other != Meanwhile::Gone);
+    const State& own = meanwhile.own == Meanwhile::Twice      ? usual.twice
+                       : meanwhile.own == Meanwhile::AsBefore ? before
+                                                              : usual.once;
     if (r.own) expectState(own, Road::stateOf(r.own));
-    if (r.other) expectState(other, Road::stateOf(r.other));
-    EXPECT_EQ(meanwhile.documents == 3, r.frame->filter().BitsWidth() == kOfFile);
+    if (r.other)
+        meanwhile.other == Meanwhile::Same ? expectState({r.second, {}}, Road::stateOf(r.other))
+                                           : void(changedFrom(r.second, r.other));
+    EXPECT_EQ(meanwhile.documents == 3, r.engine().BitsWidth() == kOfFile);
     expectOneFrame(r);
     r.end();
     if (r.frame->isVisible()) return;
@@ -225,33 +279,32 @@ void disturbed(Road& r, std::string_view word, const Undisturbed& usual, const M
 
 } // namespace
 
-TEST_F(Road, WhateverHappensWhileAWordYieldsEachDocumentKeepsItsOwn)
+TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
 {
     file("c.bmp", kOfFile);
     int words = 0;
-    std::set<std::string_view> withoutYield, asBefore;
+    std::set<std::string_view> atOnce, asBefore;
     for (const CommandWord& command : vocabulary()) {
         if (!changesPixels(command)) continue;
         ++words;
-        const Undisturbed usual = undisturbed(*this, command.word);
-        if (usual.yields == 0) {
-            withoutYield.insert(command.word);
+        SCOPED_TRACE(command.word);
+        const Undisturbed usual = undisturbed(*this, command);
+        if (!usual.computed) {
+            atOnce.insert(command.word);
             continue;
         }
-        SCOPED_TRACE(command.word);
         const bool sizing = isSizing(command.word); // one after another: they take the same step
-        expectState({usual.state.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.state);
-        if (usual.state.picture == start) asBefore.insert(command.word);
-        const bool dialog = command.kind == WordKind::Dialog; // yields only at work; the others as the menu closes too
-        const bool listed = dialog || command.kind == WordKind::Preset;
+        expectState({usual.once.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.once);
+        if (usual.once.picture == start) asBefore.insert(command.word);
+        const bool listed = command.kind == WordKind::Dialog || command.kind == WordKind::Preset;
         for (const Meanwhile& meanwhile : kMeanwhile) {
             if (meanwhile.documents == 0 && listed && words % 8 != 0) continue; // a new frame takes its time
-            if (dialog || usual.yields > 1) disturbed(*this, command.word, usual, meanwhile, usual.yields / 2 + 1);
-            if (!listed && meanwhile.mayComeFirst()) disturbed(*this, command.word, usual, meanwhile, 1);
+            if (meanwhile.own == Meanwhile::Twice && command.word == kOfWhatIsSeen) continue;
+            disturbed(*this, command, usual, meanwhile);
         }
     }
     EXPECT_GT(words, 130);
-    EXPECT_EQ(withoutYield, kWithoutYield);
+    EXPECT_EQ(atOnce, kAtOnce);
     EXPECT_EQ(asBefore, kAsBefore);
 }
 
@@ -260,24 +313,26 @@ TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
 {
     ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)) && frame->openPicture(file("b.bmp", 50, 40)));
     fImage *a = frame->documents()[0], *b = frame->documents()[1];
-    frame->filter().clock = [this] { return platform.now += 20; };
+    engine().clock = [this] {
+        gate.pass();
+        return clock += 20;
+    };
     Document turned({}, 0);
     turned.takePicture(a->bits());
-    cBitFilter engine;
-    turned.handTo(engine);
-    rotateImage(turned, engine, -180, true);
+    cBitFilter reference;
+    turned.handTo(reference);
+    rotateImage(turned, reference, -180, true);
     const Bits untouched = b->bits();
     Bits line;
     activate(a);
     click("Pencil");
-    platform.onYield = [&, left = 20]() mutable {
-        if (--left != 0) return;
-        activate(b);
-        drag(b, {5, 5}, {30, 20});
-        line = b->bits();
-    };
+    gate.shut();
     frame->Mmenu("A180");
-    platform.onYield = nullptr;
+    activate(b);
+    drag(b, {5, 5}, {30, 20});
+    line = b->bits();
+    gate.open();
+    frame->workspace().wait();
     EXPECT_TRUE(sameBits(turned.bits(), a->bits()));
     EXPECT_TRUE(sameBits(line, b->bits()));
     EXPECT_FALSE(line == untouched);
@@ -285,9 +340,9 @@ TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
     EXPECT_FALSE(line == b->bits());
     EXPECT_EQ(a->document().undo.UndoStep(), 2);
     EXPECT_EQ(b->document().undo.UndoStep(), 3);
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(line, b->bits()));
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(untouched, b->bits()));
 }
 

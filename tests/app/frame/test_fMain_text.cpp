@@ -20,7 +20,7 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     const Bits before = flatBits(120, 90, 200, 180, 160);
     fImage* image = open(before);
     image->document().Region.CreateRect(30, 20, 70, 60, Combine::Or, true);
-    image->document().handTo(frame->filter());
+    image->document().handTo(frame->workspace().engine());
     if (!find("fToolTextures")->isVisible()) frame->action("VIEWS_5")->trigger();
     QTest::keyClicks(find<QPlainTextEdit>("txtText"), "abc");
     QTest::mouseClick(find("cmdPlace"), Qt::LeftButton);
@@ -37,9 +37,9 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     twin.paint.BitsBWMask(55 - held(text.width()), 45 - held(text.height()), text, 0x2040FF, 60);
     EXPECT_FALSE(before == twin.bits());
     EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
-    frame->Mmenu("UNDO");
+    command("UNDO");
     EXPECT_TRUE(sameBits(before, image->bits()));
-    frame->Mmenu("REDO");
+    command("REDO");
     EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
 }
 
@@ -56,22 +56,23 @@ TEST_F(FrameText, TheBoxIsShownAndHiddenByItsMenuItem)
 
 TEST_F(FrameText, LayersAreMergedIntoTheirOwnDocument)
 {
-    frame->Mmenu("TEXTTOOLS");
+    command("TEXTTOOLS");
     EXPECT_FALSE(frame->findChild<fLayers*>()) << "no document";
     const Bits first = flatBits(200, 100, 9, 9, 9), second = flatBits(50, 40, 1, 2, 3);
     fImage* a = open(first, "a.bmp");
-    frame->Mmenu("TEXTTOOLS");
+    command("TEXTTOOLS");
     const QPointer<fLayers> dialog = frame->findChild<fLayers*>();
     ASSERT_TRUE(dialog);
-    frame->Mmenu("TEXTTOOLS");
+    command("TEXTTOOLS");
     EXPECT_EQ(1, frame->findChildren<fLayers*>().size()) << "the one that is there";
     QTest::keyClicks(dialog->findChild<QWidget*>("picImage"), "hello");
     fImage* b = open(second, "b.bmp");
     QTest::mouseClick(dialog->findChild<QWidget*>("CmdOK"), Qt::LeftButton);
+    frame->workspace().wait();
     EXPECT_FALSE(first == a->bits());
     EXPECT_TRUE(a->document().Changed);
     EXPECT_TRUE(sameBits(second, b->bits()));
-    EXPECT_TRUE(frame->filter().bits() == second) << "the engine holds the active one's";
+    EXPECT_TRUE(frame->workspace().engine().bits() == second) << "the engine holds the active one's";
     EXPECT_TRUE(!dialog || !dialog->isVisible());
 }
 
@@ -80,12 +81,12 @@ TEST_F(FrameText, TextsThatWaitAreAskedForBeforeTheyGoWithTheirDocument)
     for (const bool saved : {false, true}) {
         fImage* image = open(flatBits(200, 100, 9, 9, 9), "a.bmp");
         platform.answers.clear();
-        frame->Mmenu("TEXTTOOLS");
+        command("TEXTTOOLS");
         const QPointer<fLayers> dialog = frame->findChild<fLayers*>();
         QTest::keyClicks(dialog->findChild<QWidget*>("picImage"), "hello");
         QWidget* window = image->parentWidget();
         EXPECT_TRUE(window->isWindowModified());
-        for (const char* other : {"IMAGECOLORDEPTH", "IMAGESAVEOPTIONS"}) frame->Mmenu(other); // cancelled
+        for (const char* other : {"IMAGECOLORDEPTH", "IMAGESAVEOPTIONS"}) command(other); // cancelled
         EXPECT_FALSE(frame->close() || window->close());
         ASSERT_TRUE(dialog->isVisible());
         const Bits merged = dialog->asTyped().Blend();

@@ -69,7 +69,7 @@ TEST_F(SessionEndTest, WhileTheQuestionStandsNothingAsksASecondTime)
     const DocumentHandle other = frame->adopt(randomBits(8, 8, 2), "Other.bmp");
     platform.onAsk = [&] { send(SIGTERM); };
     platform.answers = {"no", "no"};
-    frame->Mmenu("CLOSE");
+    command("CLOSE");
     EXPECT_FALSE(other);
     EXPECT_TRUE(frame->isVisible());
     QCoreApplication::processEvents();

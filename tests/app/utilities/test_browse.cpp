@@ -53,7 +53,7 @@ TEST_F(BrowseTest, WhatCantBeReadIsToldOnceAndNothingStaysOpen)
         EXPECT_EQ(std::ranges::count(platform.log, "message: Velara Studio: Unexpected error loading image"), 1)
             << name;
         EXPECT_EQ(platform.lastIcon, Icon::Exclamation);
-        EXPECT_TRUE(frame->openDocuments().empty());
+        EXPECT_TRUE(frame->workspace().documents().empty());
         EXPECT_EQ(setup.Recent[0].trimmed(), "");
     }
 }
@@ -76,7 +76,7 @@ TEST_F(BrowseTest, TheTexturesBoxTakesAFolder)
 
 TEST_F(BrowseTest, TheListOfFormatsStandsOnce)
 {
-    frame->Mmenu("FILEASSOCIATION");
+    command("FILEASSOCIATION");
     frame->run("@ASSOCIATION");
     EXPECT_EQ(frame->findChildren<fAssociation*>().size(), 1);
     EXPECT_TRUE(frame->findChild<fAssociation*>()->isVisible());

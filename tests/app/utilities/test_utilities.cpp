@@ -49,10 +49,10 @@ TEST_F(UtilitiesTest, TooSmallASelectionIsToldAndNothingEntersTheList)
 {
     fImage* image = open(flatBits(20, 10, 1, 2, 3));
     auto* list = frame->clips().box()->findChild<QListWidget*>("lstImages");
-    frame->Mmenu("COPY"); // nothing is selected
+    command("COPY"); // nothing is selected
     EXPECT_EQ(last(), "message: Velara Studio: Minimum copy size: 2 x 2");
     select(image, 3, 2, 4, 9);
-    frame->Mmenu("CUT");
+    command("CUT");
     EXPECT_EQ(last(), "message: Velara Studio: Minimum cut size: 2 x 2");
     EXPECT_EQ(platform.lastIcon, Icon::Information);
     EXPECT_EQ(list->count(), 0);
@@ -63,7 +63,7 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
 {
     fImage* image = open(flatBits(20, 10, 1, 2, 3));
     image->document().Region.CreateEllipse(2, 2, 10, 8, Combine::Or, true);
-    frame->Mmenu("CUT");
+    command("CUT");
     EXPECT_EQ(image->document().undo.UndoStep(), 2);
     EXPECT_EQ(image->bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
     EXPECT_EQ(image->bits().at(2, 2).c[0], 1); // the corner of the box is not selected
@@ -82,7 +82,7 @@ TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)
     for (int i = 0; i < 11; ++i) {
         image->document().Region.CreateRect(0, 0, 60, 40, Combine::Diff, true);
         select(image, 0, 0, 10 + i, 5);
-        frame->Mmenu("COPY");
+        command("COPY");
     }
     auto* list = box->findChild<QListWidget*>("lstImages");
     EXPECT_EQ(list->count(), 9);
@@ -101,18 +101,18 @@ TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
 {
     fImage* image = open(flatBits(40, 30, 10, 10, 10));
     click("Pencil");
-    frame->Mmenu("PASTE");
+    command("PASTE");
     EXPECT_FALSE(frame->toolStores().pastePending) << "there is nothing to paste";
     EXPECT_EQ(frame->status().currentMessage(), "PASTE: nothing was cut or copied");
     EXPECT_EQ(setup.CurrentTool, "Pencil");
     platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // of another program
-    frame->Mmenu("PASTE");
+    command("PASTE");
     ASSERT_TRUE(frame->toolStores().pastePending);
     EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->bits())) << "it is seen at once";
-    frame->Mmenu("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
+    command("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
     EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.recordingClipboard.bits));
 
-    frame->Mmenu("PASTE");
+    command("PASTE");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(frame->toolStores().pastePending);
     EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), image->bits()));
@@ -124,7 +124,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     showScreen();
     bool shownAtTheGrab = true;
     platform.screen().onGrab = [&] { shownAtTheGrab = frame->isVisible(); };
-    frame->Mmenu("CAPTUREDESKTOP");
+    command("CAPTUREDESKTOP");
     EXPECT_EQ(platform.screen().log, std::vector<std::string>{"desktop on"}) << "the grab waits";
     fImage* image = waitForDocument();
     EXPECT_EQ(platform.screen().log, (std::vector<std::string>{"desktop on", "grab", "desktop off"}));
@@ -137,7 +137,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     image->parentWidget()->close();
 
     platform.screen().canShowDesktop = false; // then the program at least goes
-    frame->Mmenu("CAPTUREDESKTOP");
+    command("CAPTUREDESKTOP");
     waitForDocument()->parentWidget()->close();
     EXPECT_FALSE(shownAtTheGrab);
     EXPECT_TRUE(frame->isVisible());
@@ -146,7 +146,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
 TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
 {
     platform.screen().picture.reason = "no portal";
-    frame->Mmenu("CAPTUREBACKGROUND"); // there is no picture of the screen
+    command("CAPTUREBACKGROUND"); // there is no picture of the screen
     EXPECT_FALSE(frame->isVisible());
     fImage* image = waitForDocument();
     EXPECT_TRUE(frame->isVisible());
@@ -156,7 +156,7 @@ TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
 
     platform.screen().silent = true; // nor does a desktop ever answer
     frame->capture().setPatience(50);
-    frame->Mmenu("CAPTUREBACKGROUND");
+    command("CAPTUREBACKGROUND");
     QTest::keyClick(awaited<QPushButton>("fWaiting", "cmdCancel")->window(), Qt::Key_Escape);
     EXPECT_TRUE(frame->isVisible());
     EXPECT_FALSE(platform.screen().waiting());
@@ -223,10 +223,10 @@ TEST_F(UtilitiesTest, TheIconExtractorComesBackWithoutAPictureOfTheScreen)
 TEST_F(UtilitiesTest, TheWallpaperIsAFileOfTheUsersFolder)
 {
     platform.wallpaper().place = platform.folder.path();
-    frame->Mmenu("WCENTER");
+    command("WCENTER");
     EXPECT_TRUE(platform.wallpaper().log.empty());
     fImage* image = open(randomBits(9, 7, 3));
-    frame->Mmenu("WSTRETCH");
+    command("WSTRETCH");
     ASSERT_EQ(platform.wallpaper().log.size(), 1u);
     const auto& [file, mode] = platform.wallpaper().log[0];
     EXPECT_EQ(file, path("ClearPane_Wallpaper.bmp"));
@@ -238,7 +238,7 @@ TEST_F(UtilitiesTest, TheWallpaperIsAFileOfTheUsersFolder)
         {WallpaperResult::CantWrite, "message: Velara Studio: Error Setting subkey value."}};
     for (const auto& [result, message] : failures) {
         platform.wallpaper().result = result;
-        frame->Mmenu("WTILE");
+        command("WTILE");
         EXPECT_EQ(last(), message);
     }
 }
@@ -253,12 +253,12 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
         picture.fill(qRgb(7, 8, 9));
         EXPECT_TRUE(picture.save(file));
     };
-    frame->Mmenu("SELECTSOURCE");
+    command("SELECTSOURCE");
     control<QListWidget>("fSource", "lstSources")->setCurrentRow(1);
     control<QPushButton>("fSource", "cmdSelect")->click();
     EXPECT_EQ(platform.settings["Scanner/Source"], "b:1");
 
-    frame->Mmenu("ACQUIRETWAIN");
+    command("ACQUIRETWAIN");
     EXPECT_EQ(control<QLabel>("fAcquire", "lblSource")->text(), "Second");
     control<QComboBox>("fAcquire", "cbMode")->setCurrentText("Color");
     control<QComboBox>("fAcquire", "cbResolution")->setCurrentText("300");
@@ -276,7 +276,7 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
 TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
 {
     const char* told = "message: Velara Studio: Please Verify that the system is connected to Scanner!";
-    frame->Mmenu("ACQUIRETWAIN"); // there is none
+    command("ACQUIRETWAIN"); // there is none
     EXPECT_EQ(last(), told);
     EXPECT_EQ(platform.lastIcon, Icon::Critical);
     QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);
@@ -284,7 +284,7 @@ TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
 
     RecordingScanner& scanner = platform.scanner();
     scanner.sources = {{"a:0", "First"}};
-    frame->Mmenu("ACQUIRETWAIN");
+    command("ACQUIRETWAIN");
     scanner.reason = "Scanner cover is open";
     control<QPushButton>("fAcquire", "cmdScan")->click();
     EXPECT_EQ(last(), told);

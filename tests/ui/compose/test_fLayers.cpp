@@ -15,16 +15,14 @@ constexpr int kWidth = 300, kHeight = 200;
 struct LayersDialogTest : WindowTest {
     RecordingFrame frame;
     QTemporaryDir temp;
-    std::unique_ptr<Document> document = std::make_unique<Document>(temp.path(), 1);
     Bits picture = randomBits(kWidth, kHeight, 3);
+    DocumentHandle document = frame.open(picture).handle();
     QPointer<fLayers> dialog;
 
     LayersDialogTest()
     {
-        document->takePicture(picture);
-        frame.document = document.get();
         frame.setup_.ForeColor = 0x0000FF;
-        dialog = new fLayers(frame, document->handle());
+        dialog = new fLayers(frame, document);
         used = dialog;
         dialog->show();
         QCoreApplication::processEvents();
@@ -88,6 +86,7 @@ TEST_F(LayersDialogTest, TextsAreMergedInTheirOrder)
     EXPECT_FALSE(find(QString("lblShape_%1").arg(third))->isVisible());
     EXPECT_TRUE(sameBits(picture, document->bits())) << "untouched until OK";
     click("CmdOK");
+    frame.settle();
     TextStyle bold{"Other", 11, true};
     EXPECT_EQ(3, second);
     EXPECT_TRUE(
@@ -204,7 +203,9 @@ TEST_F(LayersDialogTest, WhatIsChangedBehindItIsNotLost)
     layer({20, 30}, "hello");
     const Bits other = randomBits(kWidth, kHeight, 99);
     document->setBits(other);
+    frame.workspace_.handOver(*document);
     click("CmdOK");
+    frame.settle();
     EXPECT_TRUE(sameBits(printed(other, {20, 30}, "hello"), document->bits()));
 }
 
@@ -212,6 +213,7 @@ TEST_F(LayersDialogTest, SendsTheMergedPictureOn)
 {
     layer({20, 30}, "hello");
     controlOf<QAction>(*find<QToolButton>("tbOthers_4")->menu(), "mnuSend_2")->trigger();
+    frame.settle();
     EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "hello"), document->bits()));
     EXPECT_EQ("word: IMAGECOLORDEPTH", frame.log.back());
     EXPECT_TRUE(!dialog || !dialog->isVisible());
@@ -240,7 +242,7 @@ TEST_F(LayersDialogTest, AsksBeforeItClosesWithTextsThatAreNotMerged)
     EXPECT_TRUE(sameBits(picture, document->bits()));
     delete dialog;
 
-    used = dialog = new fLayers(frame, document->handle());
+    used = dialog = new fLayers(frame, document);
     dialog->show();
     layer({20, 30}, "hello");
     close("yes");
@@ -252,7 +254,7 @@ TEST_F(LayersDialogTest, AsksBeforeItClosesWithTextsThatAreNotMerged)
 TEST_F(LayersDialogTest, ClosesWithItsDocument)
 {
     layer({20, 30}, "hello");
-    document.reset();
+    frame.workspace_.close(document);
     frame.document = nullptr;
     QTest::keyClicks(canvas(), "still typing");
     EXPECT_TRUE(comes([&] { return !dialog || !dialog->isVisible(); }));

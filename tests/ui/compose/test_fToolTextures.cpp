@@ -17,14 +17,19 @@ namespace {
 struct TexturesBoxTest : WindowTest {
     RecordingFrame frame;
     QTemporaryDir temp;
-    std::shared_ptr<Document> document = std::make_shared<Document>(temp.path(), 1);
+    Document* document = nullptr;
     std::unique_ptr<fToolTextures> box;
 
     void open()
     {
-        document->takePicture(randomBits(40, 30, 4));
+        document = &frame.open(randomBits(40, 30, 4));
         document->Region.CreateRect(5, 5, 30, 25, Combine::Or, true);
-        frame.document = document.get();
+        frame.workspace_.handOver(*document);
+    }
+    void apply()
+    {
+        click("CmdApply");
+        frame.settle();
     }
     void show(int page)
     {
@@ -139,23 +144,23 @@ TEST_F(TexturesBoxTest, TheChosenEffectGoesToTheDocument)
     EXPECT_EQ("Textures: Pixelize", box->windowTitle());
     EXPECT_TRUE(sameBits(before, document->bits())) << "chosen, not applied";
     find<QSlider>("br")->setValue(3);
-    click("CmdApply");
+    apply();
     const Region region = document->Region.working();
     const Bits pixelized = run("PIXELIZE", {3}, before, region);
     EXPECT_TRUE(sameBits(pixelized, document->bits()));
     EXPECT_EQ(1, frame.logged("step"));
     QTest::mouseDClick(find("tb_18"), Qt::LeftButton);
+    frame.settle();
     EXPECT_TRUE(sameBits(run("Invert", {}, pixelized, region), document->bits()));
     frame.setup_.ForeColor = 0x112233;
     click("tb_28");
-    click("CmdApply");
+    apply();
     EXPECT_TRUE(
         sameBits(run("SKETCH", {3, false, 0x112233}, run("Invert", {}, pixelized, region), region), document->bits()));
     EXPECT_EQ(3, frame.logged("step"));
 
-    document.reset();
     frame.document = nullptr;
-    click("CmdApply");
+    apply();
     EXPECT_EQ("message: Velara Studio: There is no picture open.", frame.platform_.log.back());
 }
 
@@ -200,6 +205,7 @@ TEST_F(TexturesBoxTest, FilesAreTextures)
     EXPECT_EQ(0, frame.logged("step"));
     list->setCurrentRow(2);
     click("CmdFileApply");
+    frame.settle();
     EXPECT_EQ(1, frame.logged("step"));
     EXPECT_FALSE(before == document->bits());
 
@@ -216,7 +222,7 @@ TEST_F(TexturesBoxTest, ADocumentOrTheBoxMayGoWhileAnEffectIsAtWork)
     frame.onCall = [&](const std::string& line) {
         if (line == "step") box.reset();
     };
-    click("CmdApply");
+    apply();
     EXPECT_EQ(1, frame.logged("step"));
 }
 

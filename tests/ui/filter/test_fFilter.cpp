@@ -13,20 +13,24 @@ struct FilterDialog : WindowTest {
     RecordingFrame frame;
     Bits picture = randomBits(200, 150, 9);
     Region selection = Region::rectangle(20, 10, 150, 140);
-    std::unique_ptr<Document> document;
+    Document* document = nullptr;
     std::unique_ptr<fFilter> dialog;
 
     void open(std::string_view word)
     {
-        document = std::make_unique<Document>(QString(), 1);
-        document->takePicture(picture);
+        document = &frame.open(picture);
         document->Region.setRegion(selection);
-        frame.handOver(*document);
+        frame.workspace_.handOver(*document);
         frame.log.clear();
         frame.filter_.clock = [this] { return frame.platform_.now += 20; }; // a report falls due in every row
         dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), document->handle());
         used = dialog.get();
         dialog->show();
+    }
+    void finish()
+    {
+        click("cmdOK");
+        frame.settle();
     }
     int steps() const { return frame.logged("step"); }
     const Bits& taken() const { return document->bits(); }
@@ -60,6 +64,7 @@ TEST_F(FilterDialog, EveryFilterShowsItsControlsAndRuns)
             }
         const Bits full = wanted(row.words[0]);
         click(row.number % 2 ? "cmdOK" : "cmdPreview"); // "Real Time" is another OK
+        frame.settle();
         EXPECT_EQ(1, steps()) << row.title;
         EXPECT_TRUE(sameBits(full, taken())) << row.title;
         EXPECT_FALSE(dialog->isVisible()) << row.title;
@@ -100,7 +105,7 @@ TEST_F(FilterDialog, TheDetailShowsTheWholeResultPixelForPixel)
     click("chkPreview");
     EXPECT_TRUE(shows(picture)) << "without a preview the picture as it is";
     const Bits full = wanted("ADDGRID");
-    click("cmdOK");
+    finish();
     EXPECT_TRUE(sameBits(full, taken()));
 }
 
@@ -123,33 +128,26 @@ TEST_F(FilterDialog, EscapeEndsARunThatWorks)
 {
     open("CUSTOMEMBOSS");
     find<QSlider>("sbFilter_0")->setValue(30);
-    bool disabled = false;
-    frame.platform_.onYield = [&] {
-        disabled = !find<QPushButton>("cmdOK")->isEnabled();
-        frame.platform_.onYield = nullptr;
-        dialog->accept(); // once more, which is not run inside of the first
-        QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    };
     click("cmdOK");
-    EXPECT_TRUE(disabled);
-    EXPECT_LE(frame.platform_.yields, 2) << "it goes on no longer than to the next report";
+    EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
+    dialog->accept(); // once more, which is not run beside the first
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    frame.settle();
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(0, steps());
     EXPECT_TRUE(frame.log.empty());
     EXPECT_EQ(0, frame.progress.back());
-    frame.platform_.onYield = nullptr;
-    click("cmdOK");
+    finish();
     EXPECT_EQ(1, steps()) << "and it can be run again";
 }
 
 TEST_F(FilterDialog, SurvivesThatItIsDestroyedWhileItRuns)
 {
     open("CUSTOMEMBOSS");
-    frame.platform_.onYield = [&] { delete dialog.release(); };
-    fFilter* running = dialog.get();
-    running->accept();
-    EXPECT_EQ(0, steps());
-    EXPECT_TRUE(frame.log.empty());
+    dialog->accept();
+    dialog.reset();
+    frame.settle();
+    EXPECT_EQ(1, steps()) << "what was asked for is done";
 }
 
 TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
@@ -158,7 +156,7 @@ TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
     selection = Region::rectangle(0, 0, 1, 50);
     open("FOLD");
     EXPECT_EQ("Division by zero", text("lblState"));
-    click("cmdOK");
+    finish();
     EXPECT_TRUE(frame.platform_.logged("message: Velara Studio: Deformation [Fold]: Division by zero"));
     EXPECT_EQ(0, steps());
     EXPECT_TRUE(dialog->isVisible());

@@ -15,13 +15,11 @@ namespace {
 struct IconTest : WindowTest {
     RecordingFrame frame;
     QTemporaryDir folder;
-    Document document{folder.path(), 1};
     std::unique_ptr<fIcon> window;
 
     void show(const Bits& picture)
     {
-        document.takePicture(picture);
-        frame.document = picture.isNull() ? nullptr : &document;
+        frame.document = picture.isNull() ? nullptr : &frame.open(picture);
         window = std::make_unique<fIcon>(frame, nullptr);
         window->load();
         window->show();

@@ -195,9 +195,9 @@ TEST_F(Panes, EveryToolOfTheTableHasBothPanes)
 
 TEST_F(Panes, TheTextPaneRunsTheChosenEffectAtItsAmount)
 {
-    Document document(frame.platform_.folder.path(), 1);
     const Bits before = randomBits(30, 20, 5);
-    document.takePicture(before);
+    Document& document = frame.open(before);
+    frame.document = nullptr;
     make("Text");
     auto* list = find<QListWidget>("lstEffects");
     EXPECT_EQ(kEffects, list->count());
@@ -208,6 +208,7 @@ TEST_F(Panes, TheTextPaneRunsTheChosenEffectAtItsAmount)
     EXPECT_EQ("12%", text("lblsbAmount"));
     list->setCurrentRow(7 + 1);
     click("cmdEffect");
+    frame.settle();
     EXPECT_TRUE(sameBits(run("ENGRAVE", {12}, before, document.Region.working()), document.bits()));
     EXPECT_EQ(1, frame.logged("step"));
 }

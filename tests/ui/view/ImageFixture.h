@@ -13,24 +13,25 @@ struct ImageFixture : ::testing::Test {
     RecordingFrame frame;
     std::unique_ptr<fImage> image;
 
-    ImageFixture() { QDir(frame.platform_.folder.path()).mkpath("Temp"); }
-
     /// Shows a document with the picture in a client area of the given size.
     fImage& open(const Bits& bits, int width = 200, int height = 150)
     {
-        image = std::make_unique<fImage>(frame);
-        image->PPicture(bits);
+        image = std::make_unique<fImage>(frame, frame.open(bits).handle());
         image->setBarsWidth(20);
         image->resize(width, height);
         image->show();
         frame.image = image.get();
-        frame.document = &image->document();
         frame.onCall = [this](const std::string& line) {
             if (line == "step") image->UpdateImage();
         };
         image->activate();
-        image->SaveUndoBits();
         return *image;
+    }
+    /// Another picture of the document, as a change leaves it.
+    void take(const Bits& bits)
+    {
+        image->document().takePicture(bits);
+        frame.workspace_.finish(image->document().handle());
     }
     QWidget* control(const char* name) const { return controlOf(*image, name); }
     QWidget* iDst() const { return control("iDst"); }

@@ -19,8 +19,6 @@ TEST_F(Window, LaysOutAndScrolls)
     EXPECT_EQ(w.GetSBV().x(), 80);
     w.setZoomFactor(1);
     EXPECT_EQ(w.GetSBV().x(), 20) << "back again";
-    w.PPicture(randomBits(300, 50, 2));
-    EXPECT_EQ(w.GetSBV().x(), 0) << "another picture begins at its corner";
     w.resize(400, 300);
     EXPECT_EQ(iDst()->geometry(), QRect(50, 125, 300, 50));
     w.resize(10, 10);
@@ -39,7 +37,7 @@ TEST_F(Window, ZoomIsLimited)
     EXPECT_EQ(w.ZoomFactor(), 1);
 
     w.setZoomFactor(15);
-    w.PPicture(Bits(2185, 3));
+    take(Bits(2185, 3));
     EXPECT_EQ(w.ZoomFactor(), 1) << "2185 times 15 is too wide";
     w.setZoomFactor(14);
     EXPECT_EQ(w.ZoomFactor(), 14);
@@ -58,21 +56,6 @@ TEST_F(Window, BarsAreAtLeastThirteenWide)
     }
 }
 
-TEST_F(Window, LoadsAndSaysWhatCannotBeRead)
-{
-    fImage& w = open(randomBits(4, 4, 1));
-    const QString folder = frame.platform_.folder.path();
-    QImage(6, 5, QImage::Format_RGB32).save(folder + "/good.png");
-    EXPECT_TRUE(w.SetPicture(folder + "/good.png", "PNG"));
-    EXPECT_EQ(w.PictureWidth(), 6);
-    EXPECT_FALSE(w.SetPicture(folder + "/missing.gif", "gif"));
-    EXPECT_EQ(w.PictureWidth(), 6) << "a failed load changes nothing";
-    EXPECT_TRUE(w.SetPicture(folder + "/missing.psd", "psd"));
-    EXPECT_FALSE(w.PictureExists()) << "opens empty";
-    EXPECT_FALSE(iDst()->isVisible());
-    EXPECT_TRUE(frame.platform_.log.back().starts_with("load: ")) << "without a message";
-}
-
 TEST_F(Window, ASlowSaveDoesNotWaitForEver)
 {
     EXPECT_EQ(open(randomBits(7, 5, 3)).Save(frame.platform_.folder.filePath("a.gif"), "GIF"), SaveResult::Written);
@@ -82,25 +65,27 @@ TEST_F(Window, ASlowSaveDoesNotWaitForEver)
 TEST_F(Window, ActivationHandsThePictureToTheEngineOnce)
 {
     fImage& a = open(randomBits(20, 10, 1));
-    fImage b(frame);
-    b.PPicture(randomBits(12, 11, 2));
-    frame.log.clear();
-    for (fImage* w : {&b, &b, &a}) w->activate();
-    EXPECT_EQ(frame.logged("handed"), 2) << "the same document again leaves the engine alone";
+    fImage b(frame, frame.workspace_.add(randomBits(12, 11, 2)));
+    b.activate();
+    EXPECT_TRUE(frame.filter_.bits() == b.bits());
+    const Bits committed = randomBits(12, 11, 3);
+    frame.filter_.setBits(committed);
+    b.activate();
+    EXPECT_TRUE(frame.filter_.bits() == committed) << "the same document again leaves the engine alone";
+    a.activate();
     EXPECT_TRUE(frame.filter_.bits() == a.bits());
 }
 
-TEST_F(Window, UndoShowsTheStepAndReportsTheSize)
+TEST_F(Window, AStepIsShown)
 {
-    fImage& w = open(randomBits(20, 10, 1));
-    w.PPicture(Bits(30, 15));
-    w.SaveUndoBits();
-    EXPECT_TRUE(w.UndoBits());
-    EXPECT_EQ(frame.status[Panel::Size], "20x10");
+    const DocumentHandle document = open(randomBits(20, 10, 1)).document().handle();
+    take(Bits(30, 15));
+    EXPECT_TRUE(frame.workspace_.step(document, true));
     EXPECT_EQ(iDst()->size(), QSize(20, 10));
-    EXPECT_TRUE(frame.filter_.bits() == w.bits());
-    EXPECT_TRUE(w.RedoBits());
+    EXPECT_TRUE(frame.filter_.bits() == document->bits());
+    EXPECT_TRUE(frame.workspace_.step(document, false));
     EXPECT_EQ(iDst()->size(), QSize(30, 15));
+    EXPECT_FALSE(frame.workspace_.step(document, false));
 }
 
 TEST_F(Window, AsksBeforeAChangedDocumentCloses)
@@ -123,12 +108,13 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
         // clang-format on
     };
     for (const auto& row : rows) {
+        frame.onCall = nullptr;
         fImage& w = open(randomBits(5, 5, 1));
         w.setTag("/pictures/x.png");
         frame.setup_.AskToSave = row.option;
         w.document().Changed = row.changed;
         w.document().isBrought = row.brought;
-        if (row.secondStep) w.SaveUndoBits();
+        if (row.secondStep) w.document().SaveUndoBits();
         frame.onCall = [&](const std::string& line) {
             if (line == "word: SAVE" && row.closes) w.document().saved();
         };
@@ -152,7 +138,7 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
 TEST_F(Window, TheLastDocumentEmptiesTheStatusBar)
 {
     fImage& a = open(randomBits(5, 5, 1));
-    auto b = std::make_unique<fImage>(frame);
+    auto b = std::make_unique<fImage>(frame, frame.workspace_.add({}));
     frame.setStatus(Panel::Name, "a");
     frame.setStatus(Panel::Zoom, "1 : 1");
     frame.document = &b->document();
@@ -182,10 +168,9 @@ TEST_F(Window, InTheFramesAreaTheOutlineRestsWithTheDocument)
 {
     QMdiArea area;
     area.resize(600, 400);
-    auto* a = new fImage(frame);
-    auto* b = new fImage(frame);
+    auto* a = new fImage(frame, frame.workspace_.add(randomBits(40, 30, 1)));
+    auto* b = new fImage(frame, frame.workspace_.add(randomBits(40, 30, 1)));
     for (fImage* w : {a, b}) {
-        w->PPicture(randomBits(40, 30, 1));
         w->document().Region.CreateRect(5, 5, 20, 20, Combine::Or, true);
         area.addSubWindow(w);
     }

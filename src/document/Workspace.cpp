@@ -1,0 +1,277 @@
+#include "document/Workspace.h"
+#include "document/Draft.h"
+#include "pixels/RuntimeError.h"
+#include <QCoreApplication>
+#include <QThread>
+#include <algorithm>
+#include <deque>
+
+namespace velara {
+
+/// What waits in a document's queue: a change, or a call.
+struct Workspace::Item {
+    Step step;
+    Then then;
+    std::function<void()> call;
+    int number = kAll; // of a change
+
+    bool isMeant(int change) const { return !call && (change == kAll || change == number); }
+};
+
+/// A change under way.
+struct Workspace::Run {
+    DocumentHandle document;
+    Item item;
+    Draft draft;
+    std::atomic<bool> cancelled{false};
+};
+
+/// An open document and what is to be done to it.
+struct Workspace::Place {
+    std::shared_ptr<Document> document;
+    std::deque<Item> waiting;
+    std::shared_ptr<Run> running;
+    bool calling = false;
+
+    bool isBusy() const { return running || calling || !waiting.empty(); }
+};
+
+Workspace::Workspace(QString folder, QObject* parent) : QObject(parent), folder_(std::move(folder))
+{
+    threads_.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
+}
+
+Workspace::~Workspace()
+{
+    for (const auto& place : places_)
+        if (place->running) place->running->cancelled = true;
+    threads_.waitForDone();
+}
+
+/// From any thread; runs in the window's, from the event loop.
+void Workspace::later(std::function<void()> call)
+{
+    ++posted_;
+    QMetaObject::invokeMethod(
+        this,
+        [this, call = std::move(call)] {
+            --posted_;
+            call();
+        },
+        Qt::QueuedConnection);
+}
+
+Workspace::Place* Workspace::placeOf(const DocumentHandle& document) const
+{
+    const Document* wanted = document.get();
+    const auto found = std::ranges::find_if(places_, [&](const auto& each) { return each->document.get() == wanted; });
+    return wanted && found != places_.end() ? found->get() : nullptr;
+}
+
+// --- Documents
+
+DocumentHandle Workspace::add(const Bits& picture, const QString& path, Arrival arrival)
+{
+    auto document = std::make_shared<Document>(folder_, [this] { return nextNumber_++; });
+    const DocumentHandle handle = document->handle();
+    document->undo.onFailure([this, handle](const QString& reason) { // from the writing thread
+        later([this, handle, reason] { emit stepLost(handle, reason); });
+    });
+    document->hasFile = arrival == Arrival::File;
+    document->isBrought = arrival == Arrival::Brought;
+    document->Tag = unique(path);
+    if (!picture.isNull()) document->takePicture(picture);
+    document->SaveUndoBits();
+    places_.push_back(std::make_unique<Place>());
+    places_.back()->document = std::move(document);
+    return handle;
+}
+
+std::shared_ptr<Document> Workspace::share(const DocumentHandle& document) const
+{
+    const Place* place = placeOf(document);
+    return place ? place->document : nullptr;
+}
+
+void Workspace::close(const DocumentHandle& document)
+{
+    Place* place = placeOf(document);
+    if (!place) return;
+    if (place->running) place->running->cancelled = true;
+    for (Item& item : place->waiting)
+        if (item.then) later([then = std::move(item.then)] { then({Outcome::Gone}); });
+    place->document->retire();
+    place->document->undo.deleteSeries();
+    std::erase_if(places_, [&](const auto& each) { return each.get() == place; });
+}
+
+std::vector<DocumentHandle> Workspace::documents() const
+{
+    std::vector<DocumentHandle> handles;
+    for (const auto& place : places_) handles.push_back(place->document->handle());
+    return handles;
+}
+
+QString Workspace::unique(const QString& path)
+{
+    const auto has = [&](const auto& place) { return place->document->Tag == path; };
+    if (path.isEmpty() || std::ranges::none_of(places_, has)) return path;
+    return QStringLiteral("[%1]").arg(++clashes_) + path;
+}
+
+void Workspace::rename(const DocumentHandle& document, const QString& path) { document->Tag = unique(path); }
+
+// --- Changes
+
+int Workspace::change(const DocumentHandle& document, Step step, Then then)
+{
+    const int number = ++changes_;
+    Place* place = placeOf(document);
+    if (place) {
+        place->waiting.push_back({std::move(step), std::move(then), {}, number});
+        begin(*place);
+    } else if (then) {
+        later([then = std::move(then)] { then({Outcome::Gone}); });
+    }
+    return number;
+}
+
+void Workspace::finish(const DocumentHandle& document)
+{
+    if (!placeOf(document)) return;
+    document->commit();
+    emit changed(document);
+}
+
+bool Workspace::step(const DocumentHandle& document, bool back)
+{
+    if (!placeOf(document) || !(back ? document->UndoBits(engine_) : document->RedoBits(engine_))) return false;
+    handOver(*document);
+    emit changed(document);
+    return true;
+}
+
+void Workspace::inTurn(const DocumentHandle& document, std::function<void()> call)
+{
+    Place* place = placeOf(document);
+    if (!place) return;
+    if (!place->isBusy()) return call();
+    place->waiting.push_back({{}, {}, std::move(call)});
+}
+
+/// A call that waits is no change, and comes all the same.
+bool Workspace::cancel(const DocumentHandle& document, int change)
+{
+    Place* place = placeOf(document);
+    if (!place) return false;
+    const bool running = place->running && place->running->item.isMeant(change);
+    if (running) place->running->cancelled = true;
+    const auto end = [&](Item& item) {
+        if (!item.isMeant(change)) return false;
+        if (item.then) later([then = std::move(item.then)] { then({Outcome::Cancelled}); });
+        return true;
+    };
+    return std::erase_if(place->waiting, end) > 0 || running;
+}
+
+bool Workspace::isBusy(const DocumentHandle& document) const
+{
+    const Place* place = placeOf(document);
+    return place && place->isBusy();
+}
+
+void Workspace::goOn(const DocumentHandle& document)
+{
+    if (Place* place = placeOf(document)) begin(*place);
+}
+
+/// The next in the queue, unless something is under way. May end the place: a call may close its document.
+void Workspace::begin(Place& place)
+{
+    if (place.running || place.calling || place.waiting.empty()) return;
+    const DocumentHandle document = place.document->handle();
+    if (held && held(*document)) return;
+    Item item = std::move(place.waiting.front());
+    place.waiting.pop_front();
+    if (!item.call && !document->PictureExists()) {
+        if (item.then) later([then = std::move(item.then)] { then({Outcome::Gone}); });
+        return begin(place);
+    }
+    if (item.call) {
+        place.calling = true;
+        return later([this, document, call = std::move(item.call)] {
+            if (placeOf(document)) call();
+            Place* still = placeOf(document);
+            if (!still) return;
+            still->calling = false;
+            if (still->waiting.empty()) emit idle(document);
+            goOn(document);
+        });
+    }
+    // What a tool shows for the time being is no part of the picture: the engine has that.
+    const bool committed = engineHolds(*document) && engine_.BitsWidth() == document->PictureWidth() &&
+                           engine_.BitsHeight() == document->PictureHeight();
+    place.running = std::shared_ptr<Run>(
+        new Run{document, std::move(item),
+                Draft(*document, committed ? engine_.bits() : document->bits(), engine_, item.step.after)});
+    start(place.running);
+}
+
+void Workspace::start(const std::shared_ptr<Run>& run)
+{
+    run->draft.filter().Progress = [this, of = run.get()](int percent) {
+        if (of->cancelled) throw Cancelled();
+        later([this, document = of->document, percent] {
+            if (document) emit progress(document, percent);
+        });
+    };
+    threads_.start([this, run] {
+        const Outcome outcome = run->document ? run->draft.attempt(run->item.step.job) : Outcome{Outcome::Gone};
+        later([this, run, outcome] { finished(run, outcome); });
+    });
+}
+
+/// A document that was changed meanwhile all the same has its job done again, on what it is now.
+void Workspace::finished(const std::shared_ptr<Run>& run, Outcome outcome)
+{
+    const DocumentHandle document = run->document;
+    Place* place = placeOf(document);
+    if (!place) outcome = {Outcome::Gone};
+    if (place && run->cancelled) outcome = {Outcome::Cancelled};
+    if (place) {
+        place->running.reset();
+        if (outcome && !run->draft.wanted()) {
+            place->waiting.push_front(std::move(run->item));
+            return begin(*place);
+        }
+        if (outcome) {
+            run->draft.take();
+            run->draft.handTo(engine_, engineHolds(*document));
+            emit changed(document);
+        }
+    }
+    goOn(document);
+    if (place && !isBusy(document)) emit idle(document);
+    if (run->item.then) run->item.then(outcome);
+}
+
+void Workspace::wait(const DocumentHandle& document)
+{
+    while (isBusy(document)) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void Workspace::wait()
+{
+    const auto isUnderWay = [this] {
+        return posted_ > 0 || std::ranges::any_of(places_, [](const auto& place) { return place->isBusy(); });
+    };
+    while (isUnderWay()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void Workspace::handOver(const Document& document)
+{
+    document.handTo(engine_);
+    held_ = document.handle();
+}
+
+} // namespace velara
