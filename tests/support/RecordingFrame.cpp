@@ -20,12 +20,6 @@ DocumentHandle RecordingFrame::adopt(const Bits&, const QString& path, Arrival)
     return {};
 }
 
-bool RecordingFrame::openPicture(const QString& path, Unreadable)
-{
-    note("opened: " + path.toStdString());
-    return true;
-}
-
 Outcome RecordingFrame::change(const DocumentHandle& document, const Job& job, After after)
 {
     const DocumentHandle handle = document; // whoever holds that one may be gone after a yield
@@ -59,11 +53,6 @@ void RecordingFrame::finish(const DocumentHandle& handle)
 void RecordingFrame::report(const QString& what, const Outcome& outcome)
 {
     if (!outcome.reason.isEmpty()) note("report: " + (what + ": " + outcome.reason).toStdString());
-}
-
-void RecordingFrame::Update(bool regionOnly, bool save)
-{
-    note(std::string("update ") + (regionOnly ? "1" : "0") + (save ? "1" : "0"));
 }
 
 void RecordingFrame::handOver(const Document& given)

@@ -2,7 +2,7 @@
 // else is written down.
 #pragma once
 #include "document/Draft.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "support/RecordingPlatform.h"
 #include <map>
@@ -14,13 +14,12 @@ struct RecordingFrame final : Frame {
     Setup setup_;
     cBitFilter filter_;
     ToolStores toolStores_;
-    /// One line a call: "step" at the end of a change, "update REGIONONLY SAVE", "handed", "word: WORD",
-    /// "report: WHAT: REASON", "adopted: PATH", "colours".
+    /// One line a call: "step" at the end of a change, "handed", "word: WORD", "report: WHAT: REASON",
+    /// "adopted: PATH", "colours".
     std::vector<std::string> log;
     std::map<Panel, std::string> status;
     std::vector<int> progress;
     Document* document = nullptr; // the active one
-    fImage* image = nullptr;      // its window
     std::optional<Colour> colour; // that the user picks
     int snapshots = 0, number = 0;
     std::function<void(const std::string& line)> onCall; // after each line of the log
@@ -32,25 +31,18 @@ struct RecordingFrame final : Frame {
     cBitFilter& filter() override { return filter_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override { return document ? document->handle() : DocumentHandle(); }
-    fImage* GetActiveImage() override { return image; }
     std::vector<DocumentHandle> openDocuments() override;
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival) override;
-    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     Outcome change(const DocumentHandle& document, const Job& job, After after) override;
     void finish(const DocumentHandle& document) override;
     void report(const QString& what, const Outcome& outcome) override;
-    void Update(bool regionOnly, bool save) override;
     bool engineHolds(const Document& document) const override { return held_ == document.handle(); }
     void handOver(const Document& document) override;
     void Mmenu(const QString& word) override { note("word: " + word.toStdString()); }
-    void refreshUndoState() override {}
     void setStatus(Panel panel, const QString& text) override { status[panel] = text.toStdString(); }
-    void cFilter_Progress(int value) override { progress.push_back(value); }
-    QString UniqueCaption(const QString& text) override { return text; }
     int nextDocumentNumber() override { return number++; }
     void EnableMouseScrolling() override {}
     bool mouseScrolling() const override { return false; }
-    void CheckToolbarState(bool) override {}
     void showColors() override { note("colours"); }
     std::optional<Colour> pickColour(Colour, const QString& what, QWidget*) override
     {

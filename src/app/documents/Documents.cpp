@@ -48,9 +48,7 @@ std::vector<DocumentHandle> Documents::handles() const
 fImage* Documents::active()
 {
     auto* window = area_ ? qobject_cast<fDocumentWindow*>(area_->currentSubWindow()) : nullptr;
-    if (!window || !window->image()) return nullptr;
-    lastActive_ = window->image();
-    return lastActive_;
+    return window ? window->image() : nullptr;
 }
 
 fImage* Documents::of(const DocumentHandle& document) const

@@ -1,7 +1,7 @@
 // Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
 // are closed.
 #pragma once
-#include "seams/DocumentHandle.h"
+#include "document/road/DocumentHandle.h"
 #include "ui/view/fImage.h"
 #include <QList>
 #include <QMdiArea>
@@ -29,8 +29,6 @@ class Documents final : public QObject {
     std::vector<DocumentHandle> handles() const;
     /// Null without one.
     fImage* active();
-    /// What active() gave last, if that is still there.
-    fImage* lastActive() const { return lastActive_; }
     /// The window of an open document; null when it is closed.
     fImage* of(const DocumentHandle& document) const;
 
@@ -82,7 +80,6 @@ class Documents final : public QObject {
     void activate(fImage& image);
 
     QPointer<QMdiArea> area_;
-    QPointer<fImage> lastActive_;
     QList<QPointer<QWidget>> buried_;
     int works_ = 0;
     int nextNumber_ = 1, clashes_ = 0;

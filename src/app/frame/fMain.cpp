@@ -1,7 +1,7 @@
+// What the frame is made of, the start page and the status bar.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
-#include "app/menus/fIcons.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -97,8 +97,6 @@ void fMain::refreshUndoState()
 }
 
 void fMain::setStatus(Panel panel, const QString& text) { status_->setPanel(panel, text); }
-
-void fMain::cFilter_Progress(int value) { status_->setProgress(value); }
 
 void fMain::showFailure(const QString& what, const std::exception& failure)
 {

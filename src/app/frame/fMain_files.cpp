@@ -1,13 +1,13 @@
 // Opening, saving, the recent list, files dropped on the frame, and new documents by way of the clipboard.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "app/menus/fIcons.h"
 #include "fileio/SetupStore.h"
 #include "fileio/formats.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
+#include "seams/text.h"
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -35,9 +35,9 @@ bool isDropped(const QString& path)
 }
 
 /// Two windows of one file tell themselves apart by the mark in front of the second one's name.
-void giveNames(fImage& image, const QString& path, Frame& frame)
+void giveNames(fImage& image, const QString& path, Documents& documents)
 {
-    image.setTag(frame.UniqueCaption(path));
+    image.setTag(documents.uniqueTag(path));
     const QString mark = image.Tag().chopped(path.size());
     image.setCaption(mark + FileNameOf(path));
 }
@@ -62,7 +62,7 @@ DocumentHandle fMain::adopt(std::unique_ptr<fImage> image, const QString& path, 
     Document& document = image->document();
     document.hasFile = arrival == Arrival::File;
     document.isBrought = arrival == Arrival::Brought;
-    giveNames(*image, inDialogFolder(path), *this);
+    giveNames(*image, inDialogFolder(path), *documents_);
     connect(image.get(), &fImage::stepLost, this, &fMain::stepLost);
     connect(image.get(), &fImage::asking, this, &fMain::asking);
     image->SaveUndoBits();
@@ -211,7 +211,7 @@ void fMain::saveTo(fImage& image, const QString& name)
     const bool changedMeanwhile = image.document().commits() != commits;
     image.document().saved();
     image.document().Changed = changedMeanwhile;
-    if (image.Tag() != name) giveNames(image, name, *this);
+    if (image.Tag() != name) giveNames(image, name, *documents_);
     image.showChanged();
     setStatus(Panel::Name, image.Caption());
 }

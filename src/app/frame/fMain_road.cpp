@@ -1,4 +1,4 @@
-// The road from a command to its document, and what stands at its end.
+// A change, from a command to its document and what follows it there.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "document/Draft.h"
@@ -18,7 +18,7 @@ Outcome fMain::change(const DocumentHandle& document, const Job& job, After afte
                            cFilter_.BitsHeight() == handle->PictureHeight();
     Draft draft(*handle, committed ? cFilter_.bits() : handle->bits(), cFilter_, after);
     draft.filter().Progress = [&](int percent) {
-        cFilter_Progress(percent);
+        status_->setProgress(percent);
         const MemoryBudget meanwhile(MemoryBudget::Kind::Without); // what runs in the yield is no part of the job
         platform_.yield();
         if (closing_ || !draft.wanted()) throw Cancelled();
@@ -52,17 +52,6 @@ void fMain::finished(fImage& image)
     refreshUndoState();
 }
 
-void fMain::Update(bool regionOnly, bool save)
-{
-    status_->setProgress(0);
-    fImage* image = documents_->lastActive();
-    if (!image) return;
-    image->document().Zoomed = false;
-    if (save) return finish(image->document().handle());
-    if (!regionOnly) image->UpdateImage();
-    refreshUndoState();
-}
-
 /// A snapshot was not written, which is known only some time after the change.
 void fMain::stepLost(const QString& reason)
 {
@@ -88,7 +77,7 @@ void fMain::handOver(const Document& document)
 void fMain::engineProgress(int percent)
 {
     const Documents::Work underWay(*documents_);
-    cFilter_Progress(percent);
+    status_->setProgress(percent);
     platform_.yield();
     if (closing_) throw Cancelled();
 }

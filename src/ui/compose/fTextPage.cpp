@@ -1,6 +1,6 @@
 #include "ui/compose/fTextPage.h"
+#include "document/road/Frame.h"
 #include "pixels/twips.h"
-#include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/compose/mFonts.h"

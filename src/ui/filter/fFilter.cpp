@@ -2,7 +2,7 @@
 #include "ui/filter/fFilter.h"
 #include "commands/jobs.h"
 #include "document/Draft.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/widgets/fColorButton.h"

@@ -3,7 +3,7 @@
 #pragma once
 #include "commands/DetailRun.h"
 #include "commands/FilterPreview.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <array>

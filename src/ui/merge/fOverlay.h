@@ -2,7 +2,7 @@
 // pictures may be changed, opened and closed meanwhile; what it shows and offers follows them.
 #pragma once
 #include "document/merging.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "ui/panes/fGradient.h"
+#include "document/road/Frame.h"
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
-#include "seams/Frame.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewRender.h"
 #include <QLabel>

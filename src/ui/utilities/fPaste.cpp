@@ -1,6 +1,6 @@
 #include "ui/utilities/fPaste.h"
 #include "document/Document.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "seams/sizeText.h"

@@ -1,8 +1,8 @@
 #include "ui/view/fImage.h"
+#include "document/road/Frame.h"
 #include "engine/cBitFilter.h"
 #include "fileio/formats.h"
 #include "seams/Clipboard.h"
-#include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "seams/printable.h"
@@ -176,7 +176,6 @@ void fImage::activate()
         for (const Panel stale : {Panel::Pos, Panel::Ext, Panel::Size}) frame_.setStatus(stale, {});
         if (PictureExists()) showSize();
         frame_.setStatus(Panel::Zoom, zoomText());
-        frame_.CheckToolbarState(false);
         setMouseScroll(frame_.mouseScrolling());
         tools_->showHint();
     } else if (tmrSelection_.isActive()) {

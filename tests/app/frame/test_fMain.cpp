@@ -4,6 +4,7 @@
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
 #include "pixels/RuntimeError.h"
+#include "seams/text.h"
 #include "tools/toolRows.h"
 #include <QtTest>
 #include <QtWidgets>
@@ -155,21 +156,17 @@ TEST_F(FrameTest, CropSaysWhyItCannot)
     EXPECT_EQ(image->PictureWidth(), 20);
 }
 
-TEST_F(FrameTest, UpdateStoresOnlyWhenAsked)
+TEST_F(FrameTest, ProgressIsShownWhileItGoesOn)
 {
-    fImage* image = open(randomBits(20, 20, 5));
-    frame->cFilter_Progress(40);
-    frame->cFilter_Progress(-1);
+    frame->status().setProgress(40);
+    frame->status().setProgress(-1);
     auto* bar = frame->findChild<QProgressBar*>("cFilterProgress");
     EXPECT_EQ(bar->value(), 40);
     EXPECT_TRUE(bar->isVisible());
-    frame->Update(true, false);
-    EXPECT_EQ(bar->value(), 0);
-    EXPECT_FALSE(bar->isVisible());
-    frame->cFilter_Progress(100);
-    EXPECT_FALSE(bar->isVisible()) << "done is at rest";
-    EXPECT_EQ(image->document().undo.UndoStep(), 1);
-    EXPECT_FALSE(image->document().Changed);
+    for (const int rest : {0, 100}) {
+        frame->status().setProgress(rest);
+        EXPECT_FALSE(bar->isVisible()) << rest;
+    }
 }
 
 TEST_F(FrameTest, BarsFollowTheConfiguration)

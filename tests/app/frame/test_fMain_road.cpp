@@ -5,6 +5,8 @@
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
+#include "seams/findRow.h"
+#include "seams/text.h"
 #include <QtWidgets>
 #include <set>
 
@@ -30,7 +32,7 @@ bool changesPixels(const CommandWord& word)
 
 bool isSizing(std::string_view word)
 {
-    const SizeWord* size = findSizeWord(word);
+    const SizeWord* size = findRow(sizeWords(), word, &SizeWord::word);
     return size && size->kind != SizeWord::Rotate;
 }
 
@@ -98,7 +100,7 @@ struct Road : FrameTest {
             if (dialog) dialog->close();
         });
         user.start(0);
-        frame->Mmenu(QString::fromUtf8(word.data(), qsizetype(word.size())));
+        frame->Mmenu(text(word));
     }
     static void moveEverything(QWidget& dialog)
     {

@@ -1,6 +1,7 @@
 // The textures box, used as a person does: the text that goes to the mouse tool, the effects on the active document.
 #include "commands/effects.h"
 #include "engine/operations.h"
+#include "pixels/images.h"
 #include "support/RecordingFrame.h"
 #include "support/files.h"
 #include "support/filterOf.h"
@@ -37,9 +38,7 @@ struct TexturesBoxTest : WindowTest {
     void textures(const char* name, const Bits& bits)
     {
         QDir(frame.platform_.programFolder()).mkpath("Textures");
-        QImage(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * 4, QImage::Format_RGB32)
-            .copy()
-            .save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
+        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
     }
 };
 

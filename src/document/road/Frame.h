@@ -1,17 +1,18 @@
 // Frame: what documents, tools and dialogs may ask of the frame around them. fMain is the real one, RecordingFrame
 // (tests/support) the scripted one.
 //
-// Whoever changes a document's pixels does it by one road, change():
+// Whoever changes a document's pixels does it by one road, change(). A command:
 //
-//     const Outcome outcome = frame.change(document, job);            // document: the handle taken when the command
-//     began if (!outcome) return frame.report(tr("Merging"), outcome);      // a command: the status bar says why
+//     const DocumentHandle document = frame.active(); // taken as the command begins
+//     const Outcome outcome = frame.change(document, job);
+//     if (!outcome) frame.report(tr("Merging"), outcome); // the status bar says why
 //
 // A modal dialog takes frame.active() as it opens, and in OK stays open when outcome.kind is Failed. A window that is
 // not modal does the same with the handle that it has held since it opened. In both, change() may yield: hold yourself
 // by a QPointer. A tool that paints right into its document calls finish() at the end of the stroke instead.
 #pragma once
-#include "seams/Change.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/Change.h"
+#include "document/road/DocumentHandle.h"
 #include "seams/ToolStores.h"
 #include <QString>
 #include <optional>
@@ -23,7 +24,6 @@ namespace velara {
 
 class Platform;
 class cBitFilter;
-class fImage;
 struct Setup;
 
 /// The panels of the status bar, by their keys. Hint takes the place of size, name and zoom while it
@@ -36,9 +36,6 @@ enum class Arrival {
     Made,    // new, or read from a file that is not all there: SAVE asks for a name, closing only after a change
     File,    // the path is its own file, which SAVE writes to
 };
-
-/// What becomes of a file that no reader makes anything of.
-enum class Unreadable { OpensEmpty, Refused };
 
 class Frame {
   public:
@@ -54,17 +51,12 @@ class Frame {
     // --- Documents
     /// The active document; names none without one.
     virtual DocumentHandle active() = 0;
-    /// Its window, or null.
-    virtual fImage* GetActiveImage() = 0;
     /// All open documents, in order of opening.
     virtual std::vector<DocumentHandle> openDocuments() = 0;
     /// A new document with the picture (a null one: an empty window), whole-picture limit, first snapshot, shown and
     /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a
     /// name without a folder is put into the folder of the file dialogs. Names none while the frame closes.
     virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) = 0;
-    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
-    /// that it can't be loaded.
-    virtual bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) = 0;
 
     // --- Changes
     /// The one road from a command to a document. Runs the job on a draft of this document, whichever is active; asks
@@ -80,9 +72,6 @@ class Frame {
     virtual void finish(const DocumentHandle& document) = 0;
     /// Says in the status bar why a change was not made: "what: reason". Nothing where there is nothing to say.
     virtual void report(const QString& what, const Outcome& outcome) = 0;
-    /// The common end of a pixel change of the active document: progress to 0, repaint unless regionOnly, and with save
-    /// the undo snapshot and the changed mark.
-    virtual void Update(bool regionOnly, bool save) = 0;
     /// True when the engine holds this document's picture.
     virtual bool engineHolds(const Document& document) const = 0;
     /// The engine takes this document's picture and working region; a document does so as it is activated.
@@ -91,21 +80,13 @@ class Frame {
     // --- Commands and displays
     /// Runs a command word. Unknown words do nothing.
     virtual void Mmenu(const QString& word) = 0;
-    /// Keeps the undo and redo buttons in step with the active document.
-    virtual void refreshUndoState() = 0;
     virtual void setStatus(Panel panel, const QString& text) = 0;
-    /// Percent into the progress bar; values below 0 are dropped.
-    virtual void cFilter_Progress(int value) = 0;
-    /// The text, or "[" + n + "]" + text when an open document has it as its path; n counts clashes and is never
-    /// reused.
-    virtual QString UniqueCaption(const QString& text) = 0;
     /// A number for a new document; each call gives the next.
     virtual int nextDocumentNumber() = 0;
     /// Hand scrolling. The first activation of a document switches it on; documents take its state as they are
     /// activated.
     virtual void EnableMouseScrolling() = 0;
     virtual bool mouseScrolling() const = 0;
-    virtual void CheckToolbarState(bool noRefresh) = 0;
     /// The colour wells show the colours of Setup.
     virtual void showColors() = 0;
     /// Asks the user for a colour by the picker, over a window; what says what it is for. No value: cancelled. Anything
