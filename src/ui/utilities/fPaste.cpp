@@ -126,7 +126,7 @@ QWidget* fPaste::makeOpacity()
 
 Bits fPaste::take(const Document& document, const char* tooSmall)
 {
-    frame_.setup().PasteMode = -1;
+    frame_.setup().PasteMode = PasteMode::Waiting;
     const Bits part = selectedPart(document);
     if (part.isNull()) {
         frame_.platform().tell(tooSmall);

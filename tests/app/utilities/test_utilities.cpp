@@ -71,7 +71,7 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
     EXPECT_EQ(platform.recordingClipboard.bits.width(), image->document().Region.Region().bounds().width());
     EXPECT_EQ(platform.recordingClipboard.bits.at(0, 0).c[3], 255);
     EXPECT_EQ(platform.recordingClipboard.bits.at(3, 3), (Pixel{{1, 2, 3, 0}}));
-    EXPECT_EQ(setup.PasteMode, -1);
+    EXPECT_EQ(setup.PasteMode, PasteMode::Waiting);
 }
 
 TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)

@@ -47,7 +47,7 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     frame.setup_.TextFont = "Missing";
     frame.setup_.TextSize = 20;
     frame.setup_.TextFlag1 = frame.setup_.TextFlag2 = false;
-    frame.setup_.TextMode = 0;
+    frame.setup_.TextMode = LeftJustify;
     show(0);
     EXPECT_TRUE(stamp().isNull()) << "nothing to stamp";
     EXPECT_EQ("Fixed", text("cboFont")) << "what stands in for it";
@@ -80,7 +80,7 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     EXPECT_EQ(10, s.TextSize);
     EXPECT_TRUE(s.TextFlag1);
     EXPECT_FALSE(s.TextFlag2 || s.TextFlag3);
-    EXPECT_EQ(3, s.TextMode);
+    EXPECT_EQ(FullJustify, s.TextMode);
 }
 
 TEST_F(TexturesBoxTest, AlignmentShowsInTheWorkPicture)
