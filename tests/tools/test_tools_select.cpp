@@ -154,9 +154,11 @@ TEST_F(SelectTool, AnyGestureCanBeDroppedWithWhatItChanged)
         const char* tool;
         std::int16_t shape;
         bool released;
-    } rows[] = {{"Select", 0, false}, {"Select", 1, false},        {"Select", 2, false},   {"Select", 2, true},
-                {"Select", 3, false}, {"SelectionMove", 0, false}, {"GetColor", 0, false}, {"Gradient", 0, false},
-                {"Shape", 0, false},  {"Text", 0, false}};
+    } rows[] = {{"Select", SelectionShape::Rectangle, false},   {"Select", SelectionShape::Ellipse, false},
+                {"Select", SelectionShape::Polygon, false},     {"Select", SelectionShape::Polygon, true},
+                {"Select", SelectionShape::Pixel, false},       {"SelectionMove", SelectionShape::Rectangle, false},
+                {"GetColor", SelectionShape::Rectangle, false}, {"Gradient", SelectionShape::Rectangle, false},
+                {"Shape", SelectionShape::Rectangle, false},    {"Text", SelectionShape::Rectangle, false}};
     const std::pair<std::string, std::function<void()>> ways[] = {
         {"Escape", [&] { EXPECT_TRUE(tools->keyDown(Tools::Escape)); }},
         {"the right button", [&] { tools->release(Tools::Right, 20, 30); }},
