@@ -1,7 +1,10 @@
 // velara-gallery FOLDER: runs every preset and every filter dialog on the sample picture and writes one contact sheet a
 // menu. What stands in no menu comes on the last sheet, so that nothing is missing.
 #include "app/menus/menus.h"
-#include "engine/operations.h"
+#include "commands/presets.h"
+#include "pixels/images.h"
+#include "seams/findRow.h"
+#include "seams/text.h"
 #include "tools/contactSheet.h"
 #include "tools/reference/dialogTrials.h"
 #include "tools/samplePicture.h"
@@ -38,13 +41,6 @@ const SheetRow kSheets[] = {
 };
 // clang-format on
 
-QImage asImage(const Bits& bits)
-{
-    const QImage shared(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
-                        QImage::Format_RGB32);
-    return shared.copy();
-}
-
 /// The sample picture after run, everything selected; the whole of it, or the house alone.
 template <class Function> QImage after(bool closeUp, Function run)
 {
@@ -52,11 +48,9 @@ template <class Function> QImage after(bool closeUp, Function run)
     filter.setBits(samplePicture());
     filter.setBitsRegion(Region::rectangle(0, 0, filter.BitsWidth(), filter.BitsHeight()));
     run(filter);
-    const QImage whole = asImage(filter.bits());
+    const QImage whole = imageOver(filter.bits()).copy();
     return closeUp ? whole.copy(70, 140, 180, 120) : whole;
 }
-
-QString text(std::string_view s) { return QString::fromUtf8(s.data(), qsizetype(s.size())); }
 
 QString plain(std::string_view caption)
 {
@@ -170,7 +164,7 @@ class Gallery {
 
     void add(Section& section, std::string_view word, const QString& caption)
     {
-        if (const Preset* preset = findPreset(word)) {
+        if (const Preset* preset = findRow(presets(), word, &Preset::word)) {
             section.tiles.push_back(tileOf(*preset, caption, closeUp_));
             words_.insert(word);
         } else if (const FilterRow* row = findFilterRow(word)) {

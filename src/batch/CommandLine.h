@@ -37,7 +37,7 @@ LineStep parseStep(const QString& text);
 /// "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
 LineStep parseSelection(const QString& shape);
 /// The argument's text as a value of the parameter's type; pictures are file names until they are read. Throws Failure.
-Argument parseArgument(const QString& text, const Parameter& parameter);
+Argument parseArgument(const QString& given, const Parameter& parameter);
 
 /// What --help and --list print.
 QString helpText();

@@ -1,5 +1,6 @@
 #include "batch/CommandLine.h"
 #include "batch/words.h"
+#include "seams/text.h"
 
 namespace velara {
 
@@ -7,17 +8,15 @@ namespace {
 
 QString column(const QString& text, int width) { return QStringLiteral("  ") + text.leftJustified(width) + u' '; }
 
-QString asText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
-
 /// "  Level    -300..300 (20)    levels added; 0 changes nothing". The usual value stands in brackets.
 QString described(const Parameter& p, bool optional)
 {
-    QString values = asText(p.values);
+    QString values = text(p.values);
     if (p.type == ArgumentType::Boolean) values = QStringLiteral("true|false");
     if (p.type == ArgumentType::Picture) values = QStringLiteral("file");
-    if (!p.usual.empty()) values += QStringLiteral(" (") + asText(p.usual) + u')';
-    const QString name = asText(p.name) + (optional ? QStringLiteral("?") : QString());
-    return QStringLiteral("  ") + column(name, 15) + column(values, 22) + QStringLiteral("  ") + asText(p.meaning) +
+    if (!p.usual.empty()) values += QStringLiteral(" (") + text(p.usual) + u')';
+    const QString name = text(p.name) + (optional ? QStringLiteral("?") : QString());
+    return QStringLiteral("  ") + column(name, 15) + column(values, 22) + QStringLiteral("  ") + text(p.meaning) +
            u'\n';
 }
 
@@ -98,25 +97,25 @@ written, and an existing OUTPUT stays as it was.
 
 QString listText()
 {
-    QString text = QStringLiteral("Command words\n");
+    QString list = QStringLiteral("Command words\n");
     QStringList idle;
     for (const Word& word : words())
         if (word.meaning.isEmpty())
-            idle << asText(word.word);
+            idle << text(word.word);
         else
-            text += column(asText(word.word), 20) + word.meaning + u'\n';
-    text += QStringLiteral("  does nothing to the picture:") + wrapped(idle);
-    text +=
+            list += column(text(word.word), 20) + word.meaning + u'\n';
+    list += QStringLiteral("  does nothing to the picture:") + wrapped(idle);
+    list +=
         QStringLiteral("\nOperations, with each argument's values (the usual one) and meaning; singles have decimals, "
                        "column, row and side count pixels, a ? may be left out\n");
     for (const Operation* operation : stepOperations()) {
         const auto& all = operation->parameters;
         QStringList names;
-        for (const Parameter& p : all) names += asText(p.name);
-        text += QStringLiteral("  ") + asText(operation->name) + u'(' + names.join(u',') + QStringLiteral(")\n");
-        for (std::size_t i = 0; i < all.size(); ++i) text += described(all[i], i + operation->optional >= all.size());
+        for (const Parameter& p : all) names += text(p.name);
+        list += QStringLiteral("  ") + text(operation->name) + u'(' + names.join(u',') + QStringLiteral(")\n");
+        for (std::size_t i = 0; i < all.size(); ++i) list += described(all[i], i + operation->optional >= all.size());
     }
-    return text;
+    return list;
 }
 
 } // namespace velara

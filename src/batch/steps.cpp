@@ -2,6 +2,8 @@
 #include "batch/CommandLine.h"
 #include "batch/nearest.h"
 #include "batch/words.h"
+#include "seams/findRow.h"
+#include "seams/text.h"
 #include <charconv>
 #include <cmath>
 #include <memory>
@@ -9,8 +11,6 @@
 namespace velara {
 
 namespace {
-
-QString asText(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
 
 QString quoted(const QString& text) { return u'"' + text + u'"'; }
 
@@ -54,8 +54,8 @@ QStringList splitArguments(const QString& text)
 QString signature(const Operation& operation)
 {
     QStringList names;
-    for (const Parameter& p : operation.parameters) names += asText(p.name);
-    return asText(operation.name) + u'(' + names.join(u',') + u')';
+    for (const Parameter& p : operation.parameters) names += text(p.name);
+    return text(operation.name) + u'(' + names.join(u',') + u')';
 }
 
 [[noreturn]] void failUnknown(const QString& name)
@@ -108,11 +108,11 @@ LineStep operationStep(const QString& text, const Operation& operation, Argument
 
 } // namespace
 
-Argument parseArgument(const QString& text, const Parameter& parameter)
+Argument parseArgument(const QString& given, const Parameter& parameter)
 {
-    const std::string value = text.toStdString();
+    const std::string value = given.toStdString();
     const auto wanted = [&](const char* what) {
-        return badArgument(QStringLiteral("%1 has to be %2, not %3").arg(asText(parameter.name), what, quoted(text)));
+        return badArgument(QStringLiteral("%1 has to be %2, not %3").arg(text(parameter.name), what, quoted(given)));
     };
     switch (parameter.type) {
     case ArgumentType::Boolean:
@@ -137,7 +137,7 @@ LineStep parseStep(const QString& text)
 {
     const int open = static_cast<int>(text.indexOf(u'('));
     const QString name = text.left(open < 0 ? text.size() : open);
-    const Word* word = findWord(name.toStdString());
+    const Word* word = findRow(words(), name.toStdString(), &Word::word);
     if (word && open < 0) return {text, word->run, {}, word->goesBack};
     const Operation* operation = findStepOperation(name.toStdString());
     if (!operation && !word) failUnknown(name);

@@ -1,8 +1,10 @@
 #include "batch/words.h"
 #include "commands/colourDepth.h"
 #include "commands/effects.h"
+#include "commands/presets.h"
 #include "commands/vocabulary.h"
 #include "document/texturing.h"
+#include "seams/text.h"
 #include <QStringList>
 #include <algorithm>
 
@@ -50,12 +52,6 @@ const std::vector<Word>& words()
     return all;
 }
 
-const Word* findWord(std::string_view word)
-{
-    const auto found = std::ranges::find(words(), word, &Word::word);
-    return found == words().end() ? nullptr : &*found;
-}
-
 std::vector<const Operation*> stepOperations()
 {
     std::vector<const Operation*> all;
@@ -98,8 +94,7 @@ QString callText(const Preset& preset)
 {
     QStringList arguments;
     for (const Argument& a : preset.arguments) arguments += argumentText(a);
-    const QString name = QString::fromUtf8(preset.operation.data(), static_cast<int>(preset.operation.size()));
-    return name + u'(' + arguments.join(u',') + u')';
+    return text(preset.operation) + u'(' + arguments.join(u',') + u')';
 }
 
 } // namespace velara

@@ -15,8 +15,6 @@ struct Word {
 };
 
 const std::vector<Word>& words();
-/// Exact; null when there is none.
-const Word* findWord(std::string_view word);
 
 /// The engine's operations, and the steps with arguments that are the editor's own; by name, null when there is none.
 std::vector<const Operation*> stepOperations();

@@ -1,9 +1,9 @@
 // What the tables of commands come to as jobs on a document: for the frame, the dialogs and the batch program.
 #pragma once
 #include "commands/filterDialogs.h"
+#include "commands/presets.h"
 #include "commands/sizeWords.h"
-#include "engine/operations.h"
-#include "seams/Change.h"
+#include "document/road/Change.h"
 
 namespace velara {
 

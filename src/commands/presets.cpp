@@ -1,5 +1,4 @@
-#include "engine/operations.h"
-#include <algorithm>
+#include "commands/presets.h"
 
 namespace velara {
 
@@ -78,13 +77,6 @@ std::span<const Preset> presets()
     };
     // clang-format on
     return all;
-}
-
-const Preset* findPreset(std::string_view word)
-{
-    const auto all = presets();
-    const auto found = std::ranges::find(all, word, &Preset::word);
-    return found == all.end() ? nullptr : &*found;
 }
 
 } // namespace velara

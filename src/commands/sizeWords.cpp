@@ -1,5 +1,4 @@
 #include "commands/sizeWords.h"
-#include <algorithm>
 
 namespace velara {
 
@@ -36,11 +35,5 @@ constexpr SizeWord kSizeWords[] = {
 } // namespace
 
 std::span<const SizeWord> sizeWords() { return kSizeWords; }
-
-const SizeWord* findSizeWord(std::string_view word)
-{
-    const auto* found = std::ranges::find(kSizeWords, word, &SizeWord::word);
-    return found == std::end(kSizeWords) ? nullptr : found;
-}
 
 } // namespace velara

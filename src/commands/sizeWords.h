@@ -14,7 +14,5 @@ struct SizeWord {
 };
 
 std::span<const SizeWord> sizeWords();
-/// Exact; null when it is none of them.
-const SizeWord* findSizeWord(std::string_view word);
 
 } // namespace velara

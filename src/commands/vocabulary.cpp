@@ -1,7 +1,8 @@
 #include "commands/vocabulary.h"
 #include "commands/filterDialogs.h"
+#include "commands/presets.h"
 #include "commands/sizeWords.h"
-#include "engine/operations.h"
+#include "seams/findRow.h"
 #include <vector>
 
 namespace velara {
@@ -22,11 +23,6 @@ std::span<const CommandWord> vocabulary()
     return all;
 }
 
-const CommandWord* findCommandWord(std::string_view word)
-{
-    const auto all = vocabulary();
-    const auto found = std::ranges::find(all, word, &CommandWord::word);
-    return found == all.end() ? nullptr : &*found;
-}
+const CommandWord* findCommandWord(std::string_view word) { return findRow(vocabulary(), word, &CommandWord::word); }
 
 } // namespace velara

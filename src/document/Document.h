@@ -1,11 +1,11 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
 // its window; the batch program uses it alone.
 #pragma once
+#include "document/road/DocumentHandle.h"
 #include "document/undo/UndoStore.h"
 #include "paint/Painter.h"
 #include "pixels/Bits.h"
 #include "region/cBitRegion.h"
-#include "seams/DocumentHandle.h"
 #include <functional>
 
 namespace velara {

@@ -2,8 +2,8 @@
 // touched; pictures are shared until they are written to, so that a draft costs nothing.
 #pragma once
 #include "document/Document.h"
+#include "document/road/Change.h"
 #include "engine/cBitFilter.h"
-#include "seams/Change.h"
 
 namespace velara {
 

@@ -12,10 +12,10 @@
 // holds it by a QPointer.
 #pragma once
 #include "document/Document.h"
+#include "document/road/Arrival.h"
+#include "document/road/Change.h"
+#include "document/road/DocumentHandle.h"
 #include "engine/cBitFilter.h"
-#include "seams/Arrival.h"
-#include "seams/Change.h"
-#include "seams/DocumentHandle.h"
 #include <QObject>
 #include <QThreadPool>
 #include <atomic>

@@ -1,6 +1,6 @@
-// The commands that rebuild the picture at another size, as jobs (seams/Change.h) shared by the editor and the batch
-// program. Each leaves the result in the engine and in the document, with a fresh whole-picture limit. RuntimeError:
-// nothing has changed.
+// The commands that rebuild the picture at another size, as jobs (document/road/Change.h) shared by the editor and the
+// batch program. Each leaves the result in the engine and in the document, with a fresh whole-picture limit.
+// RuntimeError: nothing has changed.
 #pragma once
 #include "document/Document.h"
 #include "engine/cBitFilter.h"

@@ -1,6 +1,7 @@
 // The operations in place that cut, turn and take over the picture.
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
+#include "pixels/images.h"
 #include "pixels/numbers.h"
 
 namespace velara {
@@ -74,15 +75,7 @@ void cBitFilter::BitsTakeFromPicture(const QImage& Picture, int Width, int Heigh
 {
     if (Picture.isNull()) return;
     checkSize(Width, Height);
-    const QImage picture = Picture.convertToFormat(QImage::Format_RGB32);
-    Bits out(Width, Height);
-    const int columns = std::min(Width, picture.width()), rows = std::min(Height, picture.height());
-    for (int y = 0; y < rows; ++y) {
-        Pixel* to = out.row(y);
-        std::memcpy(to, picture.constScanLine(y), sizeof(Pixel) * static_cast<std::size_t>(columns));
-        for (int x = 0; x < columns; ++x) to[x].c[3] = 0;
-    }
-    bits_ = out;
+    bits_ = bitsOf(Picture, Width, Height);
 }
 
 } // namespace velara

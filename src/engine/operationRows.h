@@ -2,6 +2,7 @@
 // parameter types unpack the arguments. A row that is written wrongly does not compile.
 #pragma once
 #include "engine/operations.h"
+#include "pixels/images.h"
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -29,8 +30,6 @@ template <class T> constexpr ArgumentType typeOf()
 
 /// "0 1 0/1 4 1/0 1 0": whole numbers, rows split by slashes, as many as each row has numbers.
 Mask maskOf(const std::string& text);
-/// The valid part of a buffer as a picture, sharing its memory.
-QImage imageOver(const Bits& bits);
 
 /// A whole number serves where a number is wanted, a buffer where a picture is, a text for a mask; nothing else
 /// converts.

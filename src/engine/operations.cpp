@@ -1,5 +1,5 @@
 #include "engine/operationRows.h"
-#include <algorithm>
+#include "seams/findRow.h"
 #include <sstream>
 
 namespace velara {
@@ -22,13 +22,6 @@ Mask maskOf(const std::string& text)
     return mask;
 }
 
-QImage imageOver(const Bits& bits)
-{
-    if (bits.isNull()) return {};
-    return {bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
-            QImage::Format_RGB32};
-}
-
 void checkCount(std::string_view operation, std::size_t wanted, std::size_t got)
 {
     if (wanted != got)
@@ -47,11 +40,6 @@ std::vector<std::string> choicesOf(const Parameter& text)
     return all;
 }
 
-const Operation* findOperation(std::string_view name)
-{
-    const auto all = operations();
-    const auto found = std::ranges::find(all, name, &Operation::name);
-    return found == all.end() ? nullptr : &*found;
-}
+const Operation* findOperation(std::string_view name) { return findRow(operations(), name, &Operation::name); }
 
 } // namespace velara

@@ -70,15 +70,4 @@ std::vector<std::string> choicesOf(const Parameter& text);
 /// Exact, case-sensitive; null when there is none.
 const Operation* findOperation(std::string_view name);
 
-/// A command word that runs one operation with fixed arguments.
-struct Preset {
-    std::string_view word;
-    std::string_view operation;
-    Arguments arguments;
-    bool yields = true; // before the work, so that the menu closes
-};
-
-std::span<const Preset> presets();
-const Preset* findPreset(std::string_view word);
-
 } // namespace velara

@@ -1,6 +1,5 @@
 #include "fileio/SetupStore.h"
 #include "fileio/fileBytes.h"
-#include "pixels/twips.h"
 #include "seams/Platform.h"
 #include <QFile>
 #include <algorithm>
@@ -11,16 +10,6 @@
 namespace velara {
 
 namespace {
-
-/// A default: a number, growing by step from one element of an array to the next, or a text.
-struct Default {
-    template <class Number>
-    requires std::is_arithmetic_v<Number>
-    constexpr Default(Number number, double step = 0) : number(number), step(step) {}
-    constexpr Default(const char* text) : text(text) {}
-    double number = 0, step = 0;
-    const char* text = "";
-};
 
 // --- One element in the file. Numbers are little-endian, as in memory here; a flag is 16 bits, -1 or 0; a text is
 // padded with blanks.
@@ -65,9 +54,6 @@ void put(const QString& value, std::uint8_t* to, int width)
     std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));
 }
 
-void reset(QString& value, const Default& d, int) { value = QString::fromUtf8(d.text); }
-template <class T> void reset(T& value, const Default& d, int i) { value = static_cast<T>(d.number + i * d.step); }
-
 // --- One field: how its elements are reached
 
 template <class T> constexpr int countOf = 1;
@@ -91,105 +77,99 @@ template <class T, class Body> void eachElement(T& field, Body body)
 
 struct Field {
     int offset, width, count; // width: bytes of one element
-    Default byDefault;
     void (*write)(const Field&, const Setup&, std::uint8_t* record);
     void (*read)(const Field&, Setup&, std::span<const std::uint8_t> record);
-    void (*setDefault)(const Field&, Setup&);
 };
 
-template <auto Member> constexpr Field field(int offset, int width, Default byDefault)
+template <auto Member> constexpr Field field(int offset, int width)
 {
     using Type = std::remove_cvref_t<decltype(std::declval<Setup&>().*Member)>;
     using Element = typename ElementOf<Type>::type;
     constexpr int own = std::is_same_v<Element, bool> ? 2 : std::is_same_v<Element, QString> ? 0 : sizeof(Element);
     if (own != 0 && own != width) throw "the width is not that of the field's type";
-    return {
-        offset,
-        width,
-        countOf<Type>,
-        byDefault,
-        [](const Field& f, const Setup& s, std::uint8_t* record) {
-            eachElement(s.*Member, [&](const auto& e, int i) { put(e, record + f.offset + i * f.width, f.width); });
-        },
-        [](const Field& f, Setup& s, std::span<const std::uint8_t> record) {
-            eachElement(s.*Member, [&](auto& e, int i) {
-                const auto from = static_cast<std::size_t>(f.offset + i * f.width);
-                if (from + static_cast<std::size_t>(f.width) <= record.size()) get(e, record.data() + from, f.width);
-            });
-        },
-        [](const Field& f, Setup& s) { eachElement(s.*Member, [&](auto& e, int i) { reset(e, f.byDefault, i); }); }};
+    return {offset, width, countOf<Type>,
+            [](const Field& f, const Setup& s, std::uint8_t* record) {
+                eachElement(s.*Member, [&](const auto& e, int i) { put(e, record + f.offset + i * f.width, f.width); });
+            },
+            [](const Field& f, Setup& s, std::span<const std::uint8_t> record) {
+                eachElement(s.*Member, [&](auto& e, int i) {
+                    const auto from = static_cast<std::size_t>(f.offset + i * f.width);
+                    if (from + static_cast<std::size_t>(f.width) <= record.size())
+                        get(e, record.data() + from, f.width);
+                });
+            }};
 }
 
 // clang-format off
-constexpr Field kFields[] = { // offset, width of an element, default {, step from element to element}
-    field<&Setup::FrameWidth>            (   0,   2, 640 * kTwips),
-    field<&Setup::FrameHeight>           (   2,   2, 480 * kTwips),
-    field<&Setup::FrameMaximized>        (   4,   2, 0),
-    field<&Setup::ImagesMaximized>       (   6,   2, 0),
-    field<&Setup::ImagesPath>            (   8, 256, ""),
-    field<&Setup::PreserveLastFolder>    ( 264,   2, 1),
-    field<&Setup::AskToSave>             ( 266,   2, 1),
-    field<&Setup::OpenZoom>              ( 268,   2, 1),
-    field<&Setup::Recent>                ( 270, 256, ""),
-    field<&Setup::ColorBoxVisible>       (2318,   2, 1),
-    field<&Setup::TexturesBoxVisible>    (2320,   2, 1),
-    field<&Setup::ClipboardBoxVisible>   (2322,   2, 1),
-    field<&Setup::BarVisible>            (2324,   2, 1),
-    field<&Setup::StatusBarVisible>      (2338,   2, 1),
-    field<&Setup::SideBarHidden>         (2340,   2, 0),
-    field<&Setup::Reserved2342>          (2342,   2, 0),
-    field<&Setup::PaletteHue>            (2344,   4, 0),
-    field<&Setup::ForeColor>             (2348,   4, 0x00FFFFFF),
-    field<&Setup::BackColor>             (2352,   4, 0),
-    field<&Setup::CustomColors>          (2356,   4, {0, 17 * 0x010101}), // greys
-    field<&Setup::PaletteFlag>           (2420,   2, 1),
-    field<&Setup::Reserved2422>          (2422,   2, 0),
-    field<&Setup::CurrentTool>           (2424,  25, ""),
-    field<&Setup::SelectionMode>         (2449,   2, 2),
-    field<&Setup::SelectionShape>        (2451,   2, 0),
-    field<&Setup::SelectionPressure>     (2453,   2, 50),
-    field<&Setup::MoveSelection>         (2455,   2, 1),
-    field<&Setup::BrushMode>             (2457,   2, 0),
-    field<&Setup::BrushSize>             (2459,   2, 25),
-    field<&Setup::BrushPressure>         (2461,   2, 25),
-    field<&Setup::BrushContinuous>       (2463,   2, 1),
-    field<&Setup::AirbrushSize>          (2465,   2, 75),
-    field<&Setup::AirbrushPressure>      (2467,   2, 25),
-    field<&Setup::AirbrushQuantity>      (2469,   2, 100),
-    field<&Setup::AirbrushDefinition>    (2471,   2, 0),
-    field<&Setup::FillMode>              (2473,   2, 0),
-    field<&Setup::FillTolerance>         (2475,   2, 25),
-    field<&Setup::FillPressure>          (2477,   2, 100),
-    field<&Setup::ShapeKind>             (2479,   2, 0),
-    field<&Setup::ShapePressure>         (2481,   2, 100),
-    field<&Setup::ShapeSides>            (2483,   2, 3),
-    field<&Setup::Reserved2485>          (2485,   2, 0),
-    field<&Setup::StampMaskColor>        (2487,   4, 0),
-    field<&Setup::StampUseMaskColor>     (2491,   2, 0),
-    field<&Setup::StampMask>             (2493,   2, 1),
-    field<&Setup::StampClearBack>        (2495,   2, 0),
-    field<&Setup::StampPressure>         (2497,   2, 50),
-    field<&Setup::Version>               (2499, 256, "1.0"),
-    field<&Setup::TextFont>              (2755, 256, "Arial"),
-    field<&Setup::TextSize>              (3011,   2, 20),
-    field<&Setup::TextFlag1>             (3013,   2, 1),
-    field<&Setup::TextFlag2>             (3015,   2, 1),
-    field<&Setup::TextFlag3>             (3017,   2, 0),
-    field<&Setup::TextMode>              (3019,   2, 2),
-    field<&Setup::ToolOpacity>           (3021,   2, 100),
-    field<&Setup::Reserved3023>          (3023,   1, 0),
-    field<&Setup::GradientMode>          (3031,   4, 0),
-    field<&Setup::GradientColor1>        (3035,   4, 0x00FFFFFF),
-    field<&Setup::GradientColor2>        (3039,   4, 0),
-    field<&Setup::GradientTransparent1>  (3043,   2, 0),
-    field<&Setup::GradientTransparent2>  (3045,   2, 0),
-    field<&Setup::GradientPressure>      (3047,   2, 50),
-    field<&Setup::GradientFrequency>     (3049,   2, 1),
-    field<&Setup::EffectFlags>           (3051,   2, 1),
-    field<&Setup::Reserved3067>          (3067,   1, 0),
-    field<&Setup::Reserved3075>          (3075,   2, 10),
-    field<&Setup::ClipOpacity>           (3077,   2, 100),
-    field<&Setup::PasteMode>             (3079,   2, 0),
+constexpr Field kFields[] = { // offset, width of an element
+    field<&Setup::FrameWidth>            (   0,   2),
+    field<&Setup::FrameHeight>           (   2,   2),
+    field<&Setup::FrameMaximized>        (   4,   2),
+    field<&Setup::ImagesMaximized>       (   6,   2),
+    field<&Setup::ImagesPath>            (   8, 256),
+    field<&Setup::PreserveLastFolder>    ( 264,   2),
+    field<&Setup::AskToSave>             ( 266,   2),
+    field<&Setup::OpenZoom>              ( 268,   2),
+    field<&Setup::Recent>                ( 270, 256),
+    field<&Setup::ColorBoxVisible>       (2318,   2),
+    field<&Setup::TexturesBoxVisible>    (2320,   2),
+    field<&Setup::ClipboardBoxVisible>   (2322,   2),
+    field<&Setup::BarVisible>            (2324,   2),
+    field<&Setup::StatusBarVisible>      (2338,   2),
+    field<&Setup::SideBarHidden>         (2340,   2),
+    field<&Setup::Reserved2342>          (2342,   2),
+    field<&Setup::PaletteHue>            (2344,   4),
+    field<&Setup::ForeColor>             (2348,   4),
+    field<&Setup::BackColor>             (2352,   4),
+    field<&Setup::CustomColors>          (2356,   4),
+    field<&Setup::PaletteFlag>           (2420,   2),
+    field<&Setup::Reserved2422>          (2422,   2),
+    field<&Setup::CurrentTool>           (2424,  25),
+    field<&Setup::SelectionMode>         (2449,   2),
+    field<&Setup::SelectionShape>        (2451,   2),
+    field<&Setup::SelectionPressure>     (2453,   2),
+    field<&Setup::MoveSelection>         (2455,   2),
+    field<&Setup::BrushMode>             (2457,   2),
+    field<&Setup::BrushSize>             (2459,   2),
+    field<&Setup::BrushPressure>         (2461,   2),
+    field<&Setup::BrushContinuous>       (2463,   2),
+    field<&Setup::AirbrushSize>          (2465,   2),
+    field<&Setup::AirbrushPressure>      (2467,   2),
+    field<&Setup::AirbrushQuantity>      (2469,   2),
+    field<&Setup::AirbrushDefinition>    (2471,   2),
+    field<&Setup::FillMode>              (2473,   2),
+    field<&Setup::FillTolerance>         (2475,   2),
+    field<&Setup::FillPressure>          (2477,   2),
+    field<&Setup::ShapeKind>             (2479,   2),
+    field<&Setup::ShapePressure>         (2481,   2),
+    field<&Setup::ShapeSides>            (2483,   2),
+    field<&Setup::Reserved2485>          (2485,   2),
+    field<&Setup::StampMaskColor>        (2487,   4),
+    field<&Setup::StampUseMaskColor>     (2491,   2),
+    field<&Setup::StampMask>             (2493,   2),
+    field<&Setup::StampClearBack>        (2495,   2),
+    field<&Setup::StampPressure>         (2497,   2),
+    field<&Setup::Version>               (2499, 256),
+    field<&Setup::TextFont>              (2755, 256),
+    field<&Setup::TextSize>              (3011,   2),
+    field<&Setup::TextFlag1>             (3013,   2),
+    field<&Setup::TextFlag2>             (3015,   2),
+    field<&Setup::TextFlag3>             (3017,   2),
+    field<&Setup::TextMode>              (3019,   2),
+    field<&Setup::ToolOpacity>           (3021,   2),
+    field<&Setup::Reserved3023>          (3023,   1),
+    field<&Setup::GradientMode>          (3031,   4),
+    field<&Setup::GradientColor1>        (3035,   4),
+    field<&Setup::GradientColor2>        (3039,   4),
+    field<&Setup::GradientTransparent1>  (3043,   2),
+    field<&Setup::GradientTransparent2>  (3045,   2),
+    field<&Setup::GradientPressure>      (3047,   2),
+    field<&Setup::GradientFrequency>     (3049,   2),
+    field<&Setup::EffectFlags>           (3051,   2),
+    field<&Setup::Reserved3067>          (3067,   1),
+    field<&Setup::Reserved3075>          (3075,   2),
+    field<&Setup::ClipOpacity>           (3077,   2),
+    field<&Setup::PasteMode>             (3079,   2),
 };
 // clang-format on
 
@@ -225,11 +205,6 @@ void readFields(Setup& setup, std::span<const std::uint8_t> bytes)
 }
 
 } // namespace
-
-Setup::Setup()
-{
-    for (const Field& f : kFields) f.setDefault(f, *this);
-}
 
 SetupRecord setupBytes(const Setup& setup, SetupRecord record)
 {

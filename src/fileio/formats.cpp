@@ -1,4 +1,5 @@
 #include "fileio/formats.h"
+#include "seams/text.h"
 #include <QFileInfo>
 #include <QStringList>
 #include <ranges>
@@ -26,9 +27,8 @@ QString filterOf(std::span<const Kinds> kinds)
 {
     QStringList parts;
     for (const Kinds& line : kinds) {
-        const QString extensions = QString::fromUtf8(line.extensions.data(), qsizetype(line.extensions.size()));
-        parts << QString::fromUtf8(line.caption.data(), qsizetype(line.caption.size()))
-              << QStringLiteral("*.") + extensions.split(u' ').join(QStringLiteral(";*."));
+        const QString extensions = text(line.extensions);
+        parts << text(line.caption) << QStringLiteral("*.") + extensions.split(u' ').join(QStringLiteral(";*."));
     }
     return parts.join(u'|');
 }

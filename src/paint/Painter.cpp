@@ -2,6 +2,7 @@
 #include "paint/Painter.h"
 #include "pixels/numbers.h"
 #include "region/spanWalk.h"
+#include "seams/SetupValues.h"
 #include <cstdlib>
 
 namespace velara {
@@ -235,16 +236,16 @@ void Painter::alongLine(int x1, int y1, int x2, int y2, int size, const Dab& pla
 Painter::Dab Painter::dabOf(int mode, int size, int strength, Colour colour)
 {
     switch (mode) {
-    case PaintColour:
+    case BrushMode::Paint:
         return brushDab(size, strength, colour);
-    case Soften:
-    case SoftenOver:
-        return softenDab(size, strength, mode == SoftenOver);
-    case Sharpen:
+    case BrushMode::Soften:
+    case BrushMode::SoftenOver:
+        return softenDab(size, strength, mode == BrushMode::SoftenOver);
+    case BrushMode::Sharpen:
         return sharpenDab(size, strength);
-    case Lighten:
-    case Darken:
-        return brightnessDab(size, strength, mode == Lighten);
+    case BrushMode::Lighten:
+    case BrushMode::Darken:
+        return brightnessDab(size, strength, mode == BrushMode::Lighten);
     default:
         return [](int, int) {};
     }

@@ -18,9 +18,6 @@
 
 namespace velara {
 
-/// Of Setup.BrushMode.
-enum BrushMode { PaintColour, Soften, SoftenOver, Sharpen, Lighten, Darken, PaintStamp };
-
 class Painter {
   public:
     /// All three outlive the painter. What is written is marked in touched.
@@ -55,7 +52,7 @@ class Painter {
     void BitsSharpen(int x, int y, int size, int strength);
     /// With repeat also pixels that are done.
     void BitsSoften(int x, int y, int size, int strength, bool repeat);
-    /// The dab of a mode; nothing for PaintStamp and unknown modes. BitsBrushLine places it again and again, a tenth of
+    /// The dab of a BrushMode; nothing for Stamp and unknown modes. BitsBrushLine places it again and again, a tenth of
     /// size apart: size from 1, coordinates at most 32767 apart.
     void BitsBrushDab(int x, int y, int size, int strength, Colour colour, int mode);
     void BitsBrushLine(int x1, int y1, int x2, int y2, int size, int strength, Colour colour, int mode);

@@ -1,7 +1,7 @@
 // What a mouse tool works on, and what a tool is.
 #pragma once
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "tools/PreviewBuffer.h"
 #include "tools/ToolSurface.h"

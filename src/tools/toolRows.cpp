@@ -35,7 +35,7 @@ constexpr PaneRow kFill[] = {
 constexpr PaneRow kShape[] = {
     choice<&Setup::ShapeKind>    (PaneKind::List, "lstShape", "Shape", "Line|Free hand|Square|Rectangle|Circle|Ellipse|Polygon"),
     slider<&Setup::ShapePressure>("sbShapePressure", "Pressure", 0, 100),
-    slider<&Setup::ShapeSides>   ("sbShapeSides", "Pol. sides", 3, 24).onlyWhen([](const Setup& s) { return s.ShapeKind == 6; }),
+    slider<&Setup::ShapeSides>   ("sbShapeSides", "Pol. sides", 3, 24).onlyWhen([](const Setup& s) { return s.ShapeKind == ShapeKind::Polygon; }),
 };
 constexpr PaneRow kAirbrush[] = {
     slider<&Setup::AirbrushSize>      ("sbAirbrushSize", "Size", 2, 200),

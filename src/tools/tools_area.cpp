@@ -12,7 +12,7 @@ class FillTool final : public Tool {
     void release(ToolContext& c) const override
     {
         const Setup& s = c.setup();
-        const bool textured = s.FillMode == 1;
+        const bool textured = s.FillMode == FillMode::Stamp;
         if (textured && c.stores().stamp.isNull()) return;
         c.preview.begin();
         c.paint().CreateDoneBitsTable();
@@ -25,8 +25,6 @@ class FillTool final : public Tool {
     }
 };
 
-enum GradientMode { Linear = 0, Circular = 1 }; // of Setup.GradientMode
-
 class GradientTool final : public Tool {
     bool press(ToolContext& c) const override
     {
@@ -37,7 +35,7 @@ class GradientTool final : public Tool {
 
     void drag(ToolContext& c) const override
     {
-        if (c.setup().GradientMode != Circular)
+        if (c.setup().GradientMode != GradientMode::Circular)
             return c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
         const double dx = c.at.x - c.start.x, dy = c.at.y - c.start.y;
         const int r = roundEven(std::sqrt(dx * dx + dy * dy));
@@ -51,7 +49,8 @@ class GradientTool final : public Tool {
         const Setup& s = c.setup();
         const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
         const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
-        const auto gradient = s.GradientMode == Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
+        const auto gradient =
+            s.GradientMode == GradientMode::Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
         const Job job = [=, from = c.start, to = c.at, opacity = s.GradientPressure,
                          repeat = s.GradientFrequency](Document& draft, cBitFilter& filter) {
             draft.setBits((filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat));
@@ -72,7 +71,7 @@ class GradientTool final : public Tool {
 
     static void hideBand(ToolContext& c)
     {
-        c.surface.HideShape(c.setup().GradientMode == Circular ? BandShape::Ellipse : BandShape::Line);
+        c.surface.HideShape(c.setup().GradientMode == GradientMode::Circular ? BandShape::Ellipse : BandShape::Line);
     }
 };
 

@@ -57,14 +57,14 @@ Footprint disc(int size)
 class BrushTool final : public StrokeTool {
     bool isReady(const ToolContext& c) const override
     {
-        return c.setup().BrushMode != PaintStamp || !c.stores().stamp.isNull();
+        return c.setup().BrushMode != BrushMode::Stamp || !c.stores().stamp.isNull();
     }
     void paint(ToolContext& c) const override
     {
         const Setup& s = c.setup();
         const int size = s.BrushSize, strength = s.BrushPressure;
         const auto [x, y] = c.at;
-        const bool line = c.connect && s.BrushContinuous, stamp = s.BrushMode == PaintStamp;
+        const bool line = c.connect && s.BrushContinuous, stamp = s.BrushMode == BrushMode::Stamp;
         if (line && stamp)
             c.paint().BitsMaskedLine(c.last.x, c.last.y, x, y, size, strength, c.stores().stamp);
         else if (line)
@@ -97,21 +97,11 @@ class PencilTool final : public StrokeTool {
     }
 };
 
-enum ShapeKind {
-    LineShape,
-    FreeHand,
-    Square,
-    RectangleShape,
-    Circle,
-    EllipseShape,
-    PolygonShape
-}; // of Setup.ShapeKind
-
 class ShapeTool final : public StrokeTool {
     void paint(ToolContext& c) const override
     {
         const Setup& s = c.setup();
-        if (s.ShapeKind != FreeHand) c.preview.restore();
+        if (s.ShapeKind != ShapeKind::FreeHand) c.preview.restore();
         const auto [x1, y1] = c.start;
         const auto [x, y] = c.at;
         const int dx = x - x1, dy = y - y1, side = std::abs(dx);
@@ -119,19 +109,19 @@ class ShapeTool final : public StrokeTool {
         const int ink = s.ForeColor, opacity = s.ShapePressure;
         Painter& paint = c.paint();
         switch (s.ShapeKind) {
-        case LineShape:
+        case ShapeKind::Line:
             return paint.BitsLine(x1, y1, x, y, ink, opacity);
-        case FreeHand:
+        case ShapeKind::FreeHand:
             return paint.BitsLine(c.last.x, c.last.y, x, y, ink, opacity);
-        case Square: // as high as it is wide
+        case ShapeKind::Square: // as high as it is wide
             return paint.BitsRectangle(x1, y1, x1 + signed_(dx), y1 + signed_(dy), ink, opacity);
-        case RectangleShape:
+        case ShapeKind::Rectangle:
             return paint.BitsRectangle(x1, y1, x, y, ink, opacity);
-        case Circle:
+        case ShapeKind::Circle:
             return paint.BitsEllipse(x1, y1, side, side, ink, opacity);
-        case EllipseShape:
+        case ShapeKind::Ellipse:
             return paint.BitsEllipse(x1, y1, side, std::abs(dy), ink, opacity);
-        case PolygonShape:
+        case ShapeKind::Polygon:
             return paint.BitsPolygon(x1, y1, x, y, s.ShapeSides, ink, opacity);
         default:
             return;
@@ -202,7 +192,7 @@ class PasteTool final : public Tool {
     static void letGo(ToolContext& c)
     {
         c.stores().pastePending = false;
-        c.setup().PasteMode = 0;
+        c.setup().PasteMode = PasteMode::None;
     }
 };
 

@@ -8,13 +8,13 @@ namespace velara {
 
 namespace {
 
-enum SelectionMode { Add = 0, Subtract = 1, New = 2 }; // of Setup.SelectionMode
-enum SelectionShape { RectangleShape = 0, EllipseShape = 1, PolygonShape = 2, PixelShape = 3 };
-
 constexpr int kNearFirstCorner = 3;      // pixels within which a release meets the first corner of a polygon
 constexpr std::size_t kLeastCorners = 6; // numbers of a polygon that encloses something
 
-Combine combineOf(const ToolContext& c) { return c.setup().SelectionMode == Subtract ? Combine::Diff : Combine::Or; }
+Combine combineOf(const ToolContext& c)
+{
+    return c.setup().SelectionMode == SelectionMode::Subtract ? Combine::Diff : Combine::Or;
+}
 
 /// The band of this drag as left, top, right, bottom.
 Rect bandOf(const ToolContext& c)
@@ -59,19 +59,19 @@ class SelectTool final : public Tool {
     bool press(ToolContext& c) const override
     {
         const int shape = c.setup().SelectionShape;
-        if (shape != PolygonShape && c.polygon) dropCorners(c);
+        if (shape != SelectionShape::Polygon && c.polygon) dropCorners(c);
         const bool begins = !c.polygon;
         if (begins) c.before = c.document.Region.Region();
-        if (shape == PolygonShape && begins) c.points = {c.at.x, c.at.y};
-        if (shape == PolygonShape && !begins) c.start = lastCorner(c);
-        c.polygon = shape == PolygonShape;
-        if (c.setup().SelectionMode == New && begins) {
+        if (shape == SelectionShape::Polygon && begins) c.points = {c.at.x, c.at.y};
+        if (shape == SelectionShape::Polygon && !begins) c.start = lastCorner(c);
+        c.polygon = shape == SelectionShape::Polygon;
+        if (c.setup().SelectionMode == SelectionMode::New && begins) {
             c.document.Region.CreateRect(0, 0, c.document.PictureWidth(), c.document.PictureHeight(), Combine::Diff,
                                          false);
             c.surface.UpdateImage();
         }
         if (begins) c.wiped = c.document.Region.Region();
-        if (shape == PixelShape) {
+        if (shape == SelectionShape::Pixel) {
             c.surface.SetAutoRedraw(true);
             c.surface.StopTimer();
             drag(c); // a click takes its pixel
@@ -82,17 +82,17 @@ class SelectTool final : public Tool {
     void drag(ToolContext& c) const override
     {
         const int shape = c.setup().SelectionShape;
-        if (shape == PixelShape) {
+        if (shape == SelectionShape::Pixel) {
             c.document.Region.CreateRect(c.at.x, c.at.y, c.at.x + 1, c.at.y + 1, combineOf(c), true);
             c.surface.SetAutoRedraw(true);
             c.surface.UpdateRegion();
             c.surface.SetAutoRedraw(false);
-        } else if (shape == PolygonShape) {
+        } else if (shape == SelectionShape::Polygon) {
             c.surface.ShowShape(BandShape::Line, c.start.x, c.start.y, c.at.x, c.at.y, false);
-        } else if (shape == RectangleShape || shape == EllipseShape) {
+        } else if (shape == SelectionShape::Rectangle || shape == SelectionShape::Ellipse) {
             const Rect band = bandOf(c);
-            c.surface.ShowShape(shape == EllipseShape ? BandShape::Ellipse : BandShape::Rectangle, band.left, band.top,
-                                band.right, band.bottom, false);
+            c.surface.ShowShape(shape == SelectionShape::Ellipse ? BandShape::Ellipse : BandShape::Rectangle, band.left,
+                                band.top, band.right, band.bottom, false);
         }
     }
 
@@ -108,15 +108,15 @@ class SelectTool final : public Tool {
     {
         const Rect band = bandOf(c);
         switch (c.setup().SelectionShape) {
-        case RectangleShape:
+        case SelectionShape::Rectangle:
             c.document.Region.CreateRect(band.left, band.top, band.right, band.bottom, combineOf(c), true);
             c.surface.HideShape(BandShape::Rectangle);
             break;
-        case EllipseShape:
+        case SelectionShape::Ellipse:
             c.document.Region.CreateEllipse(band.left, band.top, band.right, band.bottom, combineOf(c), true);
             c.surface.HideShape(BandShape::Ellipse);
             break;
-        case PolygonShape:
+        case SelectionShape::Polygon:
             releaseCorner(c);
             break;
         default:
@@ -137,7 +137,8 @@ class SelectTool final : public Tool {
     void cancel(ToolContext& c) const override
     {
         // A command that came meanwhile has made a selection of its own.
-        if (c.setup().SelectionShape == PixelShape || c.document.Region.Region() == c.wiped) giveBackSelection(c);
+        if (c.setup().SelectionShape == SelectionShape::Pixel || c.document.Region.Region() == c.wiped)
+            giveBackSelection(c);
         dropCorners(c);
         c.surface.HideShape(BandShape::Rectangle);
         c.surface.HideShape(BandShape::Ellipse);
@@ -145,7 +146,7 @@ class SelectTool final : public Tool {
 
     void space(ToolContext& c) const override
     {
-        if (!c.down || c.setup().SelectionShape != PolygonShape) return;
+        if (!c.down || c.setup().SelectionShape != SelectionShape::Polygon) return;
         addCorner(c, c.start, c.last);
         c.start = c.last;
         c.corner = true;
@@ -153,7 +154,7 @@ class SelectTool final : public Tool {
 
     bool unfinished(const ToolContext& c) const override
     {
-        return c.polygon && c.setup().SelectionShape == PolygonShape;
+        return c.polygon && c.setup().SelectionShape == SelectionShape::Polygon;
     }
 
     bool finish(ToolContext& c) const override
@@ -170,7 +171,7 @@ class SelectTool final : public Tool {
     bool doubleClick(ToolContext& c) const override
     {
         finish(c);
-        return c.setup().SelectionShape == PolygonShape;
+        return c.setup().SelectionShape == SelectionShape::Polygon;
     }
 
     const char* hint(const ToolContext& c) const override

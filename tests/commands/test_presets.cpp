@@ -1,4 +1,5 @@
-#include "engine/operations.h"
+#include "commands/presets.h"
+#include "seams/findRow.h"
 #include "support/sums.h"
 
 namespace velara {
@@ -8,7 +9,8 @@ TEST(Presets, AndDialogsGiveWhatTheirDefinitionsGive) { expectCommittedSums(comm
 
 TEST(Presets, OnlyThoseThatFlipRunAtOnce)
 {
-    EXPECT_EQ(80, std::get<int>(findPreset("LUMMINUS")->arguments[0])) << "brighter than LUMPLUS, whatever its name";
+    EXPECT_EQ(80, std::get<int>(findRow(presets(), "LUMMINUS", &Preset::word)->arguments[0]))
+        << "brighter than LUMPLUS, whatever its name";
     for (const Preset& preset : presets()) EXPECT_EQ(preset.yields, preset.operation != "Flip") << preset.word;
 }
 

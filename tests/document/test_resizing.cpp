@@ -4,6 +4,7 @@
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/numbers.h"
+#include "seams/findRow.h"
 #include "support/filterOf.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
@@ -208,7 +209,7 @@ TEST_F(ResizingTest, QuarterTurnsMoveEveryPixel)
     };
     for (const auto& c : kCases) {
         open(numbered(5, 3)); // the square to turn in has a side of 5
-        rotateImage(document, filter, findSizeWord(c.word)->value, false);
+        rotateImage(document, filter, findRow(sizeWords(), c.word, &SizeWord::word)->value, false);
         expectSize(c.width, 15 / c.width);
         EXPECT_EQ(c.wanted, colours(document.bits())) << c.word;
     }

@@ -34,12 +34,6 @@ DocumentHandle RecordingFrame::adopt(const Bits&, const QString& path, Arrival)
     return {};
 }
 
-bool RecordingFrame::openPicture(const QString& path, Unreadable)
-{
-    note("opened: " + path.toStdString());
-    return true;
-}
-
 void RecordingFrame::report(const QString& what, const Outcome& outcome)
 {
     if (!outcome.reason.isEmpty()) note("report: " + (what + ": " + outcome.reason).toStdString());

@@ -2,7 +2,7 @@
 // else is written down.
 #pragma once
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "support/RecordingPlatform.h"
 #include <map>
@@ -21,7 +21,6 @@ struct RecordingFrame final : Frame {
     std::map<Panel, std::string> status;
     std::vector<int> progress;
     Document* document = nullptr; // the active one
-    fImage* image = nullptr;      // its window
     std::optional<Colour> colour; // that the user picks
     int snapshots = 0;
     std::function<void(const std::string& line)> onCall; // after each line of the log
@@ -38,12 +37,9 @@ struct RecordingFrame final : Frame {
     Workspace& workspace() override { return workspace_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override { return document ? document->handle() : DocumentHandle(); }
-    fImage* GetActiveImage() override { return image; }
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival) override;
-    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     void report(const QString& what, const Outcome& outcome) override;
     void Mmenu(const QString& word) override { note("word: " + word.toStdString()); }
-    void refreshUndoState() override {}
     void setStatus(Panel panel, const QString& text) override { status[panel] = text.toStdString(); }
     void EnableMouseScrolling() override {}
     bool mouseScrolling() const override { return false; }

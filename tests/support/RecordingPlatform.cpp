@@ -1,6 +1,6 @@
 #include "support/RecordingPlatform.h"
+#include "pixels/images.h"
 #include <QImage>
-#include <cstring>
 
 namespace velara {
 
@@ -65,12 +65,9 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
 LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {
     log.push_back(("load: " + path).toStdString());
-    const QImage image = QImage(path).convertToFormat(QImage::Format_RGB32);
+    const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
-    Bits bits(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(bits.row(y), image.constScanLine(y), std::size_t(image.width()) * 4);
-    return {bits, loadNote};
+    return {bitsOf(image), loadNote};
 }
 
 } // namespace velara

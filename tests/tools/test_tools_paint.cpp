@@ -57,7 +57,7 @@ void brush(Stroke& s)
     for (std::size_t i = 1; i < s.way.size(); ++i) {
         const auto [x1, y1] = s.way[i - 1];
         const auto [x2, y2] = s.way[i];
-        if (s.setup.BrushMode == 6)
+        if (s.setup.BrushMode == BrushMode::Stamp)
             s.paint.BitsMaskedLine(x1, y1, x2, y2, 9, 60, s.stamp);
         else
             s.paint.BitsBrushLine(x1, y1, x2, y2, 9, 60, s.setup.ForeColor, s.setup.BrushMode);
@@ -102,7 +102,7 @@ constexpr int kInk = 0x3080F0;
 template <int mode> void brushOf(Setup& s) { s.BrushMode = mode, s.BrushSize = 9, s.BrushPressure = 60; }
 template <int kind> void shapeOf(Setup& s) { s.ShapeKind = kind, s.ShapePressure = 80, s.ShapeSides = 5; }
 template <int mode> void fillOf(Setup& s) { s.FillMode = mode, s.FillTolerance = 300, s.FillPressure = 60; }
-void dabs(Setup& s) { brushOf<0>(s), s.BrushContinuous = false; }
+void dabs(Setup& s) { brushOf<BrushMode::Paint>(s), s.BrushContinuous = false; }
 void halfOpaque(Setup& s) { s.ToolOpacity = 50; }
 void stampOf(Setup& s) { s.StampMask = false, s.StampPressure = 70; }
 void lastStampOf(Setup& s) { s.StampMask = s.StampClearBack = true, s.StampPressure = 70; }
@@ -115,28 +115,28 @@ const struct {
     Pointer pointer;
 } kStrokes[] = {
     // clang-format off
-    {"Brush",    brushOf<0>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<1>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<2>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<3>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<4>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<5>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    brushOf<6>,  kWay,  brush,    Pointer::cBrush},
-    {"Brush",    dabs,        {{20, 20}, {20, 20}}, dab, Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Paint>,     kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Soften>,    kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::SoftenOver>,kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Sharpen>,   kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Lighten>,   kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Darken>,    kWay,  brush,    Pointer::cBrush},
+    {"Brush",    brushOf<BrushMode::Stamp>,     kWay,  brush,    Pointer::cBrush},
+    {"Brush",    dabs,                          {{20, 20}, {20, 20}}, dab, Pointer::cBrush},
     {"Airbrush", [](Setup&) {}, kWay, airbrush, Pointer::cAirBrush},
-    {"Pencil",   halfOpaque,  kTurn, freeHand, Pointer::cPencil},
-    {"Shape",    shapeOf<0>,  kTurn, [](Stroke& s) { s.paint.BitsLine(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
-    {"Shape",    shapeOf<1>,  kTurn, freeHand, Pointer::cPencil},
-    {"Shape",    shapeOf<2>,  kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 5, kInk, 80); }, Pointer::cPencil}, // upward as high as wide
-    {"Shape",    shapeOf<3>,  kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
-    {"Shape",    shapeOf<4>,  {{25, 20}, {13, 12}}, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 12, 12, kInk, 80); }, Pointer::cPencil},
-    {"Shape",    shapeOf<5>,  kTurn, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 15, 8, kInk, 80); }, Pointer::cPencil},
-    {"Shape",    shapeOf<6>,  kTurn, [](Stroke& s) { s.paint.BitsPolygon(25, 20, 40, 12, 5, kInk, 80); }, Pointer::cPencil},
-    {"Stamp",    stampOf,     {{20, 20}, {30, 24}}, stampTrack, Pointer::cTextures},
+    {"Pencil",   halfOpaque,                    kTurn, freeHand, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::Line>,      kTurn, [](Stroke& s) { s.paint.BitsLine(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::FreeHand>,  kTurn, freeHand, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::Square>,    kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 5, kInk, 80); }, Pointer::cPencil}, // upward as high as wide
+    {"Shape",    shapeOf<ShapeKind::Rectangle>, kTurn, [](Stroke& s) { s.paint.BitsRectangle(25, 20, 40, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::Circle>,    {{25, 20}, {13, 12}}, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 12, 12, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::Ellipse>,   kTurn, [](Stroke& s) { s.paint.BitsEllipse(25, 20, 15, 8, kInk, 80); }, Pointer::cPencil},
+    {"Shape",    shapeOf<ShapeKind::Polygon>,   kTurn, [](Stroke& s) { s.paint.BitsPolygon(25, 20, 40, 12, 5, kInk, 80); }, Pointer::cPencil},
+    {"Stamp",    stampOf,                       {{20, 20}, {30, 24}}, stampTrack, Pointer::cTextures},
     {"Stamp",    [](Setup& s) { stampOf(s), s.StampUseMaskColor = true, s.StampMaskColor = 0; }, {{20, 20}, {30, 24}}, stampTrack, Pointer::cTextures},
-    {"Stamp",    lastStampOf, {{20, 30}, {33, 30}}, lastStamp, Pointer::cTextures},
-    {"Fill",     fillOf<0>,   {{20, 20}, {22, 21}}, [](Stroke& s) { s.paint.BitsFill(22, 21, kInk, 300, 60); }, Pointer::cFill},
-    {"Fill",     fillOf<1>,   {{20, 20}, {10, 25}}, [](Stroke& s) { s.paint.BitsFillTexture(10, 25, s.stamp, 300, 60); }, Pointer::cFill},
+    {"Stamp",    lastStampOf,                   {{20, 30}, {33, 30}}, lastStamp, Pointer::cTextures},
+    {"Fill",     fillOf<FillMode::Paint>,       {{20, 20}, {22, 21}}, [](Stroke& s) { s.paint.BitsFill(22, 21, kInk, 300, 60); }, Pointer::cFill},
+    {"Fill",     fillOf<FillMode::Stamp>,       {{20, 20}, {10, 25}}, [](Stroke& s) { s.paint.BitsFillTexture(10, 25, s.stamp, 300, 60); }, Pointer::cFill},
     // clang-format on
 };
 
@@ -177,8 +177,8 @@ TEST_F(PaintTools, AClickIsOneDabAndOneStep)
 TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
 {
     frame.toolStores_.stamp = {};
-    frame.setup_.BrushMode = 6;
-    frame.setup_.FillMode = 1;
+    frame.setup_.BrushMode = BrushMode::Stamp;
+    frame.setup_.FillMode = FillMode::Stamp;
     for (const char* tool : {"Brush", "Stamp", "Text", "Fill"}) {
         choose(tool);
         drag({{20, 20}, {25, 25}});
@@ -224,7 +224,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     cBitFilter engine = filterOf(before, selection());
     Bits wanted = engine.GradientLinear(10, 10, 40, 30, 0x1020FF, 0, 70, 1);
     EXPECT_TRUE(sameBits(wanted, document.bits()));
-    s.GradientMode = 1;
+    s.GradientMode = GradientMode::Circular;
     s.GradientTransparent2 = true;
     s.GradientFrequency = 3;
     press({20, 20});

@@ -31,31 +31,31 @@ TEST_F(SelectTool, ABandSelectsWhicheverWayItIsDragged)
 
 TEST_F(SelectTool, ModesAddAndSubtractAndCutToThePicture)
 {
-    frame.setup_.SelectionMode = 0;
+    frame.setup_.SelectionMode = SelectionMode::Add;
     drag({{50, 40}, {500, 400}});
     EXPECT_EQ(rects(), (Words{50, 40, 60, 50}));
-    frame.setup_.SelectionMode = 1;
+    frame.setup_.SelectionMode = SelectionMode::Subtract;
     drag({{55, -9}, {70, 90}});
     EXPECT_EQ(rects(), (Words{50, 40, 55, 50}));
-    frame.setup_.SelectionMode = 0;
-    frame.setup_.SelectionShape = 1;
+    frame.setup_.SelectionMode = SelectionMode::Add;
+    frame.setup_.SelectionShape = SelectionShape::Ellipse;
     drag({{20, 20}, {0, 0}});
     EXPECT_EQ(selection(), Region::ellipse(0, 0, 20, 20).combined(Region::rectangle(50, 40, 55, 50), Combine::Or));
 }
 
 TEST_F(SelectTool, PixelsAreTakenAsTheyArePassed)
 {
-    frame.setup_.SelectionShape = 3;
+    frame.setup_.SelectionShape = SelectionShape::Pixel;
     drag({{3, 3}, {4, 3}, {9, 9}});
     EXPECT_EQ(rects(), (Words{3, 3, 5, 4, 9, 9, 10, 10}));
-    frame.setup_.SelectionMode = 1;
+    frame.setup_.SelectionMode = SelectionMode::Subtract;
     drag({{4, 3}, {4, 3}});
     EXPECT_EQ(rects(), (Words{3, 3, 4, 4, 9, 9, 10, 10}));
 }
 
 TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
 {
-    frame.setup_.SelectionShape = 2;
+    frame.setup_.SelectionShape = SelectionShape::Polygon;
     document.Region.CreateRect(0, 0, 5, 5, Combine::Or, true);
     press({10, 10});
     EXPECT_TRUE(selection().isEmpty()); // "New" wipes at the first corner
@@ -73,13 +73,13 @@ TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
 
 TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
 {
-    frame.setup_.SelectionShape = 2;
+    frame.setup_.SelectionShape = SelectionShape::Polygon;
     press({10, 10});
     move({30, 10});
     tools->keyDown(Tools::Space);
     release({30, 10});
     EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})) << "two corners enclose nothing: it stays open";
-    frame.setup_.SelectionMode = 2;
+    frame.setup_.SelectionMode = SelectionMode::New;
     drag({{0, 0}, {30, 40}}); // goes on from the last corner, wherever the press is
     EXPECT_EQ(tools->ToolPoints().size(), 6u);
     drag({{30, 40}, {14, 10}}); // four pixels away from the first corner: one more
@@ -89,14 +89,14 @@ TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
     EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
 
     drag({{1, 1}, {5, 1}}); // an open one goes away by another shape
-    frame.setup_.SelectionShape = 0;
+    frame.setup_.SelectionShape = SelectionShape::Rectangle;
     drag({{2, 2}, {4, 4}});
     EXPECT_EQ(rects(), (Words{2, 2, 4, 4}));
 }
 
 TEST_F(SelectTool, ClicksSetCornersAndEnterOrADoubleClickClosesThePolygon)
 {
-    frame.setup_.SelectionShape = 2;
+    frame.setup_.SelectionShape = SelectionShape::Polygon;
     const Words corners{10, 10, 30, 10, 30, 40};
     const auto click = [this](int x, int y) { drag({{x, y}, {x, y}}); };
     for (const bool byKey : {true, false}) {
@@ -130,7 +130,7 @@ TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
 {
     for (const bool otherTool : {true, false}) {
         choose("Select");
-        frame.setup_.SelectionShape = 2;
+        frame.setup_.SelectionShape = SelectionShape::Polygon;
         document.Region.setRegion(Region::rectangle(2, 2, 9, 9));
         drag({{10, 10}, {30, 10}});
         EXPECT_TRUE(selection().isEmpty());
@@ -140,7 +140,7 @@ TEST_F(SelectTool, AHalfMadePolygonEndsWithItsToolAndGivesTheSelectionBack)
         if (otherTool)
             choose("Brush");
         else
-            frame.setup_.SelectionShape = 1;
+            frame.setup_.SelectionShape = SelectionShape::Ellipse;
         tools->toolChosen();
         EXPECT_EQ(asked().substr(0, 6), "hide 2");
         EXPECT_EQ(rects(), (Words{2, 2, 9, 9}));
@@ -154,9 +154,11 @@ TEST_F(SelectTool, AnyGestureCanBeDroppedWithWhatItChanged)
         const char* tool;
         std::int16_t shape;
         bool released;
-    } rows[] = {{"Select", 0, false}, {"Select", 1, false},        {"Select", 2, false},   {"Select", 2, true},
-                {"Select", 3, false}, {"SelectionMove", 0, false}, {"GetColor", 0, false}, {"Gradient", 0, false},
-                {"Shape", 0, false},  {"Text", 0, false}};
+    } rows[] = {{"Select", SelectionShape::Rectangle, false},   {"Select", SelectionShape::Ellipse, false},
+                {"Select", SelectionShape::Polygon, false},     {"Select", SelectionShape::Polygon, true},
+                {"Select", SelectionShape::Pixel, false},       {"SelectionMove", SelectionShape::Rectangle, false},
+                {"GetColor", SelectionShape::Rectangle, false}, {"Gradient", SelectionShape::Rectangle, false},
+                {"Shape", SelectionShape::Rectangle, false},    {"Text", SelectionShape::Rectangle, false}};
     const std::pair<std::string, std::function<void()>> ways[] = {
         {"Escape", [&] { EXPECT_TRUE(tools->keyDown(Tools::Escape)); }},
         {"the right button", [&] { tools->release(Tools::Right, 20, 30); }},

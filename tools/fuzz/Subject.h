@@ -2,6 +2,7 @@
 // machine, so that a fault is reproduced by its subject and its number.
 #pragma once
 #include "fileio/formats.h"
+#include "seams/text.h"
 #include "tools/reference/Dice.h"
 #include <QByteArray>
 #include <QList>
@@ -44,10 +45,7 @@ QString tryOperations(const Place& place, std::uint64_t number);
 QString tryConfiguration(const Place& place, std::uint64_t number);
 QString tryRegion(const Place& place, std::uint64_t number);
 
-inline QString nameOf(const Format& format)
-{
-    return QString::fromUtf8(format.extension.data(), static_cast<qsizetype>(format.extension.size()));
-}
+inline QString nameOf(const Format& format) { return text(format.extension); }
 /// Whole pictures of a format, a row of kFormats, to begin from: small ones that are made here, and those of the sample
 /// folder.
 const QList<QByteArray>& seedsOf(std::size_t format, const QString& samples);

@@ -4,7 +4,10 @@
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
 #include "batch/words.h"
+#include "commands/presets.h"
 #include "commands/sizeWords.h"
+#include "seams/findRow.h"
+#include "seams/text.h"
 #include "tools/fuzz/Subject.h"
 #include <algorithm>
 
@@ -39,7 +42,7 @@ QString operationText(Dice& dice)
     const Operation& operation = *all[dice.next() % all.size()];
     QStringList arguments;
     for (const Parameter& p : operation.parameters) arguments += argumentOf(p, dice);
-    return QString::fromUtf8(operation.name.data(), qsizetype(operation.name.size())) + '(' + arguments.join(',') + ')';
+    return text(operation.name) + '(' + arguments.join(',') + ')';
 }
 
 QString shapeText(Dice& dice)
@@ -87,8 +90,8 @@ std::optional<After> afterOf(const QString& text, bool sameBlock)
 {
     const std::string word = text.toStdString();
     const bool isCall = text.contains('(') || text == "CROP";
-    if (text.startsWith("--") || (!isCall && !findPreset(word) && !findSizeWord(word))) return {};
-    const SizeWord* size = findSizeWord(word);
+    const SizeWord* size = findRow(sizeWords(), word, &SizeWord::word);
+    if (text.startsWith("--") || (!isCall && !size && !findRow(presets(), word, &Preset::word))) return {};
     if (!size || velara::afterOf(*size) == After::Step) return After::Step;
     return sameBlock ? std::nullopt : std::optional(After::Sizing);
 }
@@ -148,11 +151,11 @@ class Sequence {
         if (kind == 8) return "CROP";
         if (kind == 9) {
             const SizeWord& word = sizeWords()[dice_.next() % sizeWords().size()];
-            return QString::fromUtf8(word.word.data(), qsizetype(word.word.size()));
+            return text(word.word);
         }
         if (kind < 12) {
             const Word& word = words()[dice_.next() % words().size()];
-            return QString::fromUtf8(word.word.data(), qsizetype(word.word.size()));
+            return text(word.word);
         }
         return operationText(dice_);
     }

@@ -2,6 +2,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/Bars.h"
 #include "commands/vocabulary.h"
+#include "seams/text.h"
 #include "tools/monkey/Monkey.h"
 #include "tools/toolRows.h"
 #include <QAbstractButton>
@@ -90,7 +91,7 @@ void runWord(Monkey& monkey, Dice& dice)
     const auto words = vocabulary();
     const CommandWord& word = dice.of(words);
     if (word.ofFrame()) return chooseFromMenus(monkey, dice);
-    const auto text = QString::fromUtf8(word.word.data(), qsizetype(word.word.size()));
+    const auto text = velara::text(word.word);
     monkey.say("word " + text);
     monkey.frame().Mmenu(text);
 }

@@ -1,7 +1,7 @@
 // Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
 // are closed.
 #pragma once
-#include "seams/DocumentHandle.h"
+#include "document/road/DocumentHandle.h"
 #include "ui/view/fImage.h"
 #include <QList>
 #include <QMdiArea>

@@ -1,7 +1,7 @@
+// What the frame is made of, the start page and the status bar.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
-#include "app/menus/fIcons.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"

@@ -2,16 +2,16 @@
 // pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the
 // status bar, the side pane and the road from a command to its document are its own.
 //
-// Cut by topic: fMain.cpp (documents and the end of a change), _commands (the command language), _files (open, save,
-// recent, drop), _road (from a command to its document), _pixels (commands
-// that change a picture), _geometry (dialogs that reshape one), _bars (side pane, tools, colours), _close
-// (shutdown).
+// Cut by topic: fMain.cpp (what it is made of, the start page, the status bar), _commands (the command language,
+// options, about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document),
+// _pixels (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the
+// web), _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
 #include "app/menus/Boxes.h"
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "ui/view/fImage.h"
 #include <QMainWindow>
@@ -29,6 +29,9 @@ struct FilterRow;
 class fStatus;
 class fToolPane;
 
+/// What becomes of a file that no reader makes anything of.
+enum class Unreadable { OpensEmpty, Refused };
+
 class fMain final : public QMainWindow, public Frame {
     Q_OBJECT
   public:
@@ -41,12 +44,9 @@ class fMain final : public QMainWindow, public Frame {
     Workspace& workspace() override { return workspace_; }
     ToolStores& toolStores() override { return toolStores_; }
     DocumentHandle active() override;
-    fImage* GetActiveImage() override { return documents_->active(); }
     DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) override;
-    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) override;
     void report(const QString& what, const Outcome& outcome) override;
     void Mmenu(const QString& word) override;
-    void refreshUndoState() override;
     void setStatus(Panel panel, const QString& text) override;
     void EnableMouseScrolling() override;
     bool mouseScrolling() const override;
@@ -96,6 +96,9 @@ class fMain final : public QMainWindow, public Frame {
     void capturePic(int mode);
 
     // --- Files
+    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
+    /// that it can't be loaded.
+    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
     /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
     void dropFiles(const QStringList& paths);
@@ -113,6 +116,8 @@ class fMain final : public QMainWindow, public Frame {
     void Tool_Frame();
     void DisableTools();
     void toolClicked(const QString& key);
+    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
+    void refreshUndoState();
     /// Hand scrolling ends: a drag is the hand's or the tool's.
     void releaseHand();
     fToolPane& toolPane() { return *toolPane_; }
@@ -121,6 +126,8 @@ class fMain final : public QMainWindow, public Frame {
     QMdiArea& area() { return documents_->area(); }
     /// A menu's item or a button, by its object name.
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
+    /// The active document's window, or null.
+    fImage* GetActiveImage() { return documents_->active(); }
     /// The open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
     /// The configuration and where the frame stands, for the next start.

@@ -1,14 +1,14 @@
-// The status bar, the side pane, tools and colours.
+// Bars, boxes, the side pane, tools and colours.
 #include "app/frame/fHover.h"
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
-#include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Clips.h"
 #include "app/utilities/browse.h"
 #include "seams/Platform.h"
+#include "seams/text.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPicker.h"
 #include "ui/compose/fToolTextures.h"

@@ -1,7 +1,5 @@
 // The frame's size and its end.
 #include "app/frame/fMain.h"
-#include "app/settings/fPreferences.h"
-#include "app/start/fSplash.h"
 #include "fileio/SetupStore.h"
 #include "pixels/twips.h"
 #include "seams/Platform.h"
@@ -67,19 +65,6 @@ void fMain::saveState()
 {
     platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64()));
     SaveSetup(platform_, setup_);
-}
-
-void fMain::options()
-{
-    fPreferences dialog(platform_, setup_, this);
-    if (dialog.exec() == QDialog::Accepted) dialogFolder_ = setup_.ImagesPath;
-}
-
-void fMain::about()
-{
-    fSplash splash(platform_, this);
-    splash.showFacts();
-    splash.exec();
 }
 
 } // namespace velara

@@ -1,17 +1,20 @@
-// What the words of the vocabulary do in the frame.
+// What the words of the vocabulary do in the frame, and the two that only show a dialog of the program.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "app/menus/fIcons.h"
+#include "app/settings/fPreferences.h"
+#include "app/start/fSplash.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "app/utilities/browse.h"
 #include "app/utilities/desktop.h"
 #include "app/utilities/icons.h"
 #include "commands/filterDialogs.h"
+#include "commands/presets.h"
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
-#include "engine/operations.h"
 #include "seams/Platform.h"
+#include "seams/findRow.h"
+#include "seams/text.h"
 #include <algorithm>
 
 namespace velara {
@@ -107,11 +110,7 @@ constexpr Handler kHandlers[] = {
 // clang-format on
 static_assert(std::ranges::all_of(kHandlers, isCommandWord, &Handler::word));
 
-const Handler* findHandler(std::string_view word)
-{
-    const auto row = std::ranges::find(kHandlers, word, &Handler::word);
-    return row == std::end(kHandlers) ? nullptr : row;
-}
+const Handler* findHandler(std::string_view word) { return findRow(kHandlers, word, &Handler::word); }
 
 bool needsHandler(WordKind kind)
 {
@@ -136,11 +135,11 @@ void fMain::Mmenu(const QString& word)
     try {
         switch (command->kind) {
         case WordKind::Preset:
-            return runPreset(*findPreset(name));
+            return runPreset(*findRow(presets(), name, &Preset::word));
         case WordKind::Dialog:
             return showFilter(*findFilterRow(name));
         case WordKind::Size:
-            return runSizeWord(*findSizeWord(name));
+            return runSizeWord(*findRow(sizeWords(), name, &SizeWord::word));
         default:
             if (const Handler* handler = findHandler(name)) (*handler)(*this, 0);
         }
@@ -164,6 +163,19 @@ void fMain::run(std::string_view word, int index)
     const CommandWord* command = findCommandWord(word);
     if (!command || !findsItsDocument(*command)) return;
     if (const Handler* handler = findHandler(word)) (*handler)(*this, index);
+}
+
+void fMain::options()
+{
+    fPreferences dialog(platform_, setup_, this);
+    if (dialog.exec() == QDialog::Accepted) dialogFolder_ = setup_.ImagesPath;
+}
+
+void fMain::about()
+{
+    fSplash splash(platform_, this);
+    splash.showFacts();
+    splash.exec();
 }
 
 } // namespace velara

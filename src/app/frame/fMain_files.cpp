@@ -1,13 +1,13 @@
 // Opening, saving, the recent list, files dropped on the frame, and new documents by way of the clipboard.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "app/menus/fIcons.h"
 #include "fileio/SetupStore.h"
 #include "fileio/formats.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
+#include "seams/text.h"
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
-// The dialogs that make and reshape a picture.
+// The dialogs that make or reshape a picture, or lay a texture or another picture over it.
 #include "app/frame/fMain.h"
-#include "app/menus/fIcons.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Platform.h"
+#include "seams/text.h"
 #include "ui/geometry/fCanvas.h"
 #include "ui/geometry/fNew.h"
 #include "ui/geometry/fOrientation.h"

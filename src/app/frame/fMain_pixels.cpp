@@ -1,10 +1,10 @@
-// Commands that change a picture: presets, filter dialogs, sizing and turning, crop, steps.
+// Commands that change a picture: presets, filter dialogs, sizing and turning, crop, texts, steps; and its zoom.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "app/menus/fIcons.h"
 #include "commands/jobs.h"
 #include "document/resizing.h"
 #include "seams/Platform.h"
+#include "seams/text.h"
 #include "ui/compose/fLayers.h"
 #include "ui/filter/fFilter.h"
 

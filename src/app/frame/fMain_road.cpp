@@ -1,8 +1,8 @@
 // What the frame shows of the workspace: progress, the end of a change, the steps that are lost.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
-#include "app/menus/fIcons.h"
 #include "seams/Platform.h"
+#include "seams/text.h"
 
 namespace velara {
 

@@ -1,7 +1,7 @@
 // fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, and what the keys do while a tool is at
 // work) and the progress bar of the filters.
 #pragma once
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/printable.h"
 #include <QLabel>
 #include <QProgressBar>

@@ -1,6 +1,7 @@
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "seams/text.h"
 #include "tools/toolRows.h"
 #include "ui/widgets/inputs/named.h"
 #include <QGridLayout>

@@ -1,8 +1,8 @@
 // How menus and toolbars are made out of their tables.
 #include "app/menus/Bars.h"
-#include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
+#include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QMenu>
 #include <QMenuBar>

@@ -1,5 +1,6 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "seams/text.h"
 #include <QApplication>
 #include <QPalette>
 #include <QStandardPaths>

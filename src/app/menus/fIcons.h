@@ -2,15 +2,9 @@
 // theme has none.
 #pragma once
 #include <QIcon>
-#include <QString>
 #include <string_view>
 
 namespace velara {
-
-inline QString text(std::string_view view)
-{
-    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
 
 /// Makes the program's own drawings known; first of all.
 void useResources();

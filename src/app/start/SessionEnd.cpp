@@ -123,7 +123,8 @@ void SessionEnd::asked(fImage::Question question)
 
 void SessionEnd::leave()
 {
-    for (const DocumentHandle& document : frame_.workspace().documents()) document->undo.stands(); // waits for the writing
+    for (const DocumentHandle& document : frame_.workspace().documents())
+        document->undo.stands(); // waits for the writing
     frame_.saveState();
     leave_();
 }

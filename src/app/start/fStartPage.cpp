@@ -2,6 +2,7 @@
 #include "app/menus/fIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
+#include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QEvent>
 #include <QFileInfo>

@@ -43,7 +43,7 @@ void Clips::paste()
     if (stores.paste.isNull() || !image->PictureExists())
         return frame_.report("PASTE",
                              {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
-    frame_.setup().PasteMode = -1;
+    frame_.setup().PasteMode = PasteMode::Waiting;
     frame_.setup().CurrentTool.clear();
     frame_.DisableTools();
     frame_.Tool_Frame();

@@ -10,10 +10,6 @@
 
 namespace velara {
 
-namespace {
-
-} // namespace
-
 void setAsWallpaper(fMain& frame, WallpaperMode mode)
 {
     Platform& platform = frame.platform();

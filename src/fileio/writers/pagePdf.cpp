@@ -1,6 +1,6 @@
 #include "fileio/writers/pagePdf.h"
-#include "engine/operationRows.h"
 #include "fileio/OutputFile.h"
+#include "pixels/images.h"
 #include "seams/Dialogs.h"
 #include <QIODevice>
 #include <QImage>
@@ -44,7 +44,7 @@ class IntoFile final : public QIODevice {
 /// The picture in no more dots than its quality asks for on that place.
 QImage fineEnough(const PrintPage& page)
 {
-    const QImage image = rows::imageOver(page.picture);
+    const QImage image = imageOver(page.picture);
     const QSizeF dots = page.place.size() * (finest(page.quality) / kMillimetresAnInch);
     if (image.width() <= dots.width() && image.height() <= dots.height()) return image;
     return image.scaled(dots.toSize().expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

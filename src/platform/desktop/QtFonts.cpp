@@ -1,8 +1,8 @@
 #include "platform/desktop/QtFonts.h"
+#include "pixels/images.h"
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QImage>
 #include <QPainter>
 #include <QTextLayout>
 #include <cmath>
@@ -115,8 +115,7 @@ int QtFonts::caret(const TextRun& run, const TextStyle& style, int character)
 void QtFonts::draw(Bits& target, int x, int y, const TextRun& run, const TextStyle& style, Colour colour)
 {
     if (target.isNull() || run.text.isEmpty()) return;
-    QImage image(target.row(0)->c, target.width(), target.height(), target.stride() * qsizetype(sizeof(Pixel)),
-                 QImage::Format_RGB32);
+    QImage image = canvasOver(target);
     image.setDotsPerMeterX(kDotsPerMetre);
     image.setDotsPerMeterY(kDotsPerMetre);
     QPainter painter(&image);

@@ -1,12 +1,12 @@
 #include "platform/desktop/rootPicture.h"
+#include "pixels/images.h"
 #include <QPainter>
 
 namespace velara {
 
 QImage rootPicture(const Bits& bits, WallpaperMode mode, QSize root, const QList<QRect>& screens)
 {
-    const QImage picture(reinterpret_cast<const uchar*>(bits.row(0)), bits.width(), bits.height(),
-                         qsizetype(bits.stride()) * 4, QImage::Format_RGB32);
+    const QImage picture = imageOver(bits);
     QImage ground(root, QImage::Format_RGB32);
     ground.fill(Qt::black);
     QPainter painter(&ground);

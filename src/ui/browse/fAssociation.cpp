@@ -1,5 +1,6 @@
 #include "ui/browse/fAssociation.h"
 #include "fileio/families.h"
+#include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QGridLayout>
@@ -9,12 +10,6 @@
 #include <QVBoxLayout>
 
 namespace velara {
-
-namespace {
-
-QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), qsizetype(text.size())); }
-
-} // namespace
 
 fAssociation::fAssociation(QWidget* parent) : QDialog(parent)
 {
@@ -48,10 +43,10 @@ QWidget* fAssociation::makeRows()
     grid->setHorizontalSpacing(24);
     int row = 0;
     for (const Family& family : kFamilies) {
-        auto* cT = named(new QCheckBox(textOf(family.patterns)), QString("cT_%1").arg(row),
-                         textOf(family.patterns) + ' ' + textOf(family.name));
+        auto* cT = named(new QCheckBox(text(family.patterns)), QString("cT_%1").arg(row),
+                         text(family.patterns) + ' ' + text(family.name));
         grid->addWidget(cT, row, 0);
-        grid->addWidget(new QLabel(textOf(family.name)), row++, 1);
+        grid->addWidget(new QLabel(text(family.name)), row++, 1);
     }
     auto* area = new QScrollArea;
     area->setWidget(picA);

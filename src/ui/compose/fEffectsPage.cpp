@@ -2,14 +2,16 @@
 #include "commands/effects.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
+#include "document/road/Frame.h"
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
+#include "pixels/images.h"
 #include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
-#include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "ui/compose/sampleScene.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"
@@ -31,15 +33,6 @@ namespace velara {
 namespace {
 
 constexpr int kCell = kSceneSide + 10; // of a thumbnail with its button
-
-QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
-QPixmap pixmapOf(const Bits& bits)
-{
-    const QImage over(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
-                      QImage::Format_RGB32);
-    return QPixmap::fromImage(over.copy());
-}
 
 QPushButton* applyButton(const char* name, const QString& accessibleName)
 {
@@ -73,8 +66,8 @@ QWidget* fEffectsPage::makeToolbar()
     named(tb_, "tb", tr("Effects"));
     int index = 1;
     for (const Effect& effect : effects()) {
-        auto* button = named(new QToolButton(tb_), QStringLiteral("tb_%1").arg(index), textOf(effect.name));
-        button->setToolTip(tr("%1: a double click applies it").arg(textOf(effect.name)));
+        auto* button = named(new QToolButton(tb_), QStringLiteral("tb_%1").arg(index), text(effect.name));
+        button->setToolTip(tr("%1: a double click applies it").arg(text(effect.name)));
         button->setIconSize({kSceneSide, kSceneSide});
         button->setCheckable(true);
         button->setAutoRaise(true);
@@ -84,7 +77,7 @@ QWidget* fEffectsPage::makeToolbar()
     }
     group_.button(kEmbossEffect)->setChecked(true);
     connect(&group_, &QButtonGroup::idToggled, this, [this](int id, bool on) {
-        if (on) emit effectChosen(textOf(effects()[std::size_t(id - 1)].name));
+        if (on) emit effectChosen(text(effects()[std::size_t(id - 1)].name));
     });
     named(V_, "V", tr("Effects, up and down"));
     V_->setSingleStep(kCell / 2);
@@ -151,7 +144,7 @@ void fEffectsPage::drawThumbnails()
         filter.setBits(scene);
         filter.setBitsRegion(Region::rectangle(0, 0, scene.width(), scene.height()));
         velara::ApplyTexture(filter, index, effects()[std::size_t(index - 1)].sampleValue, 0x00FFFF);
-        group_.button(index)->setIcon(pixmapOf(filter.bits()));
+        group_.button(index)->setIcon(QPixmap::fromImage(imageOver(filter.bits()).copy()));
     }
 }
 
@@ -239,7 +232,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
             velara::ApplyTexture(filter, Index, value, colour);
         draft.setBits(filter.bits());
     };
-    const QString what = FromFile ? tr("Texture") : textOf(effects()[std::size_t(Index - 1)].name);
+    const QString what = FromFile ? tr("Texture") : text(effects()[std::size_t(Index - 1)].name);
     frame_.workspace().change(document, {job},
                               [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }

@@ -1,4 +1,5 @@
 #include "ui/compose/fLayerCanvas.h"
+#include "pixels/images.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/Mark.h"
 #include <QGuiApplication>
@@ -39,12 +40,10 @@ class Surface final : public QWidget {
         const Bits& bits = layers_.surface(index_);
         if (!bits.isNull()) {
             const Rect part = layers_.visible(index_), place = layers_.layer(index_).place;
-            const QImage image(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * qsizetype(sizeof(Pixel)),
-                               QImage::Format_RGB32);
             const int zoom = canvas_.zoom();
             painter.drawImage(QRect(QPoint(part.left - place.left, part.top - place.top) * zoom,
                                     QSize(part.width(), part.height()) * zoom),
-                              image);
+                              imageOver(bits));
         }
         const bool chosen = canvas_.selected() == index_; // seen on light and on dark
         painter.setPen(chosen ? Qt::white : QColor(255, 255, 255, 150));

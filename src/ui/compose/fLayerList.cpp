@@ -1,4 +1,5 @@
 #include "ui/compose/fLayerList.h"
+#include "pixels/images.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
@@ -86,12 +87,7 @@ void fLayerList::refresh(int index)
     row.pT->setToolTip(row.pT->accessibleName());
     row.BT->setAccessibleName(tr("Show %1").arg(row.pT->accessibleName()));
     const Bits small = fittingCopy(layers_.surface(index), kThumbnail);
-    QPixmap pixmap;
-    if (!small.isNull())
-        pixmap = QPixmap::fromImage(QImage(small.row(0)->c, small.width(), small.height(),
-                                           small.stride() * qsizetype(sizeof(Pixel)), QImage::Format_RGB32)
-                                        .copy());
-    row.pT->setIcon(pixmap);
+    row.pT->setIcon(QPixmap::fromImage(imageOver(small).copy()));
 }
 
 void fLayerList::UpdateLayerScroll()

@@ -1,7 +1,7 @@
 #include "ui/compose/fLayers.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "seams/printable.h"

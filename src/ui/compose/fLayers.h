@@ -2,7 +2,7 @@
 // modal: the document stays open behind it, and what is changed there shows here as soon as this window is used again.
 // While texts wait the document counts as changed, and this window asks before it closes without them.
 #pragma once
-#include "seams/DocumentHandle.h"
+#include "document/road/DocumentHandle.h"
 #include "text/Layers.h"
 #include <QDialog>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #include "ui/compose/fTextPage.h"
+#include "document/road/Frame.h"
 #include "pixels/twips.h"
-#include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/compose/mFonts.h"
@@ -157,7 +157,8 @@ void fTextPage::fill()
     CmdB_->setChecked(setup.TextFlag1);
     CmdI_->setChecked(setup.TextFlag2);
     CmdU_->setChecked(setup.TextFlag3);
-    cboAlign_->setCurrentIndex(setup.TextMode >= 0 && setup.TextMode < cboAlign_->count() ? setup.TextMode : 0);
+    const bool isKnown = setup.TextMode >= 0 && setup.TextMode < cboAlign_->count();
+    cboAlign_->setCurrentIndex(isKnown ? setup.TextMode : int{LeftJustify});
     cboShadow_->setCurrentIndex(kNoShadow);
     filling_ = false;
     style_.bold = setup.TextFlag1;

@@ -1,8 +1,7 @@
 #include "ui/compose/sampleScene.h"
-#include <QImage>
+#include "pixels/images.h"
 #include <QLinearGradient>
 #include <QPainter>
-#include <cstring>
 
 namespace velara {
 
@@ -30,9 +29,7 @@ Bits sampleScene()
     painter.setBrush(QColor(96, 40, 36));
     painter.drawPolygon(QPolygon({{48, 66}, {64, 52}, {80, 66}}));
     painter.end();
-    Bits bits(kSceneSide, kSceneSide);
-    for (int y = 0; y < kSceneSide; ++y) std::memcpy(bits.row(y), image.constScanLine(y), sizeof(Pixel) * kSceneSide);
-    return bits;
+    return bitsOf(image);
 }
 
 } // namespace velara

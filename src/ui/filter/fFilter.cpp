@@ -3,7 +3,7 @@
 #include "commands/jobs.h"
 #include "document/Draft.h"
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/widgets/fColorButton.h"

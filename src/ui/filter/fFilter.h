@@ -3,8 +3,8 @@
 #pragma once
 #include "commands/DetailRun.h"
 #include "commands/FilterPreview.h"
-#include "seams/Change.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/Change.h"
+#include "document/road/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <array>

@@ -1,5 +1,5 @@
 // fFilter: how its controls are made and laid out. Members of control arrays are named name_index.
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"

@@ -1,5 +1,6 @@
 #include "ui/geometry/fCanvas.h"
 #include "document/resizing.h"
+#include "pixels/images.h"
 #include "pixels/numbers.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
@@ -78,11 +79,8 @@ bool fCanvasView::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Paint) {
         QPainter painter(image_);
-        const Bits& small = small_;
-        const QImage image(reinterpret_cast<const uchar*>(small.row(0)), small.width(), small.height(),
-                           small.stride() * 4, QImage::Format_RGB32);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(image_->rect(), image);
+        painter.drawImage(image_->rect(), imageOver(small_));
         // What sticks out of the canvas will be cut: shown pale.
         QRegion outside(image_->rect());
         outside -= canvasOnScreen().translated(-image_->pos());

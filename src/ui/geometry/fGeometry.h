@@ -2,8 +2,8 @@
 // very command on a small copy, OK and Cancel. A dialog changes nothing itself; after OK the frame runs its job.
 #pragma once
 #include "document/Document.h"
+#include "document/road/Change.h"
 #include "engine/cBitFilter.h"
-#include "seams/Change.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>

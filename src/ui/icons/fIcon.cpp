@@ -1,6 +1,6 @@
 #include "ui/icons/fIcon.h"
 #include "document/Document.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "ui/icons/fIconPicture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>

@@ -1,6 +1,6 @@
 #include "ui/icons/fIconSeries.h"
+#include "document/road/Frame.h"
 #include "fileio/writers/iconFile.h"
-#include "seams/Frame.h"
 #include "seams/Platform.h"
 #include "seams/sizeText.h"
 #include "ui/icons/MaskChoice.h"

@@ -1,7 +1,7 @@
 #include "ui/merge/fOverlay.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "seams/printable.h"
 #include "ui/widgets/fColorButton.h"

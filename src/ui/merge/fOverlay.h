@@ -2,8 +2,8 @@
 // pictures may be changed, opened and closed meanwhile; what it shows and offers follows them.
 #pragma once
 #include "document/merging.h"
-#include "seams/Change.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/Change.h"
+#include "document/road/DocumentHandle.h"
 #include <QDialog>
 #include <QTimer>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/images.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include "ui/widgets/fPicture.h"
@@ -34,11 +35,9 @@ QIcon iconOf(const Bits& bits)
     QPixmap pixmap(kThumbnail);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    const QImage image(small.row(0)->c, small.width(), small.height(), small.stride() * qsizetype(sizeof(Pixel)),
-                       QImage::Format_RGB32);
     // The fourth byte of a picture would be taken for its opacity.
     painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
-                      image.convertToFormat(QImage::Format_ARGB32));
+                      imageOver(small).convertToFormat(QImage::Format_ARGB32));
     painter.end();
     return QIcon(pixmap);
 }

@@ -2,7 +2,8 @@
 #include "commands/effects.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
+#include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QLabel>
 #include <QListWidget>
@@ -16,15 +17,13 @@ namespace {
 
 constexpr int kShownEffects = 7; // rows of the list that are seen at once
 
-QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-
 } // namespace
 
 FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> rows)
     : fPane(frame, name, rows), lstEffects_(new QListWidget(this))
 {
     named(lstEffects_, "lstEffects", tr("Effects"));
-    for (const Effect& effect : effects()) lstEffects_->addItem(textOf(effect.name));
+    for (const Effect& effect : effects()) lstEffects_->addItem(text(effect.name));
     lstEffects_->setFixedHeight(lstEffects_->sizeHintForRow(0) * kShownEffects + 2 * lstEffects_->frameWidth());
     lstEffects_->setCurrentRow(frame.toolStores().effect - 1);
     connect(lstEffects_, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -52,7 +51,7 @@ void FEffect::apply()
         draft.setBits(filter.bits());
     };
     owner.workspace().change(document, {job}, [&owner, index](const Outcome& outcome) {
-        owner.report(textOf(effects()[std::size_t(index - 1)].name), outcome);
+        owner.report(text(effects()[std::size_t(index - 1)].name), outcome);
     });
 }
 

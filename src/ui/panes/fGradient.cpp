@@ -1,7 +1,7 @@
 #include "ui/panes/fGradient.h"
+#include "document/road/Frame.h"
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
-#include "seams/Frame.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewRender.h"
 #include <QLabel>
@@ -33,7 +33,7 @@ Bits previewOf(const Setup& s)
     const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
     const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
     const int y = kHeight / 2;
-    if (s.GradientMode == 1)
+    if (s.GradientMode == GradientMode::Circular)
         return filter.GradientCircular(kWidth / 2, y, kWidth - 1, y, first, second, s.GradientPressure,
                                        s.GradientFrequency);
     return filter.GradientLinear(0, y, kWidth - 1, y, first, second, s.GradientPressure, s.GradientFrequency);

@@ -1,5 +1,5 @@
 #include "ui/panes/fPane.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"

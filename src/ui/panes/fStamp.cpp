@@ -1,5 +1,5 @@
 #include "ui/panes/fStamp.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "tools/stamps.h"
 #include "ui/widgets/inputs/named.h"

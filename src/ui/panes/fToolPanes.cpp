@@ -1,5 +1,5 @@
 #include "ui/panes/fToolPanes.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "ui/panes/fEffect.h"
 #include "ui/panes/fGradient.h"

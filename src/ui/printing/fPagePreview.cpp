@@ -1,5 +1,5 @@
 #include "ui/printing/fPagePreview.h"
-#include "engine/operationRows.h"
+#include "pixels/images.h"
 #include <QPainter>
 #include <algorithm>
 
@@ -52,7 +52,7 @@ void fPagePreview::paintEvent(QPaintEvent*)
     painter.fillRect(sheet(), Qt::white); // paper is white in the dark too
     painter.setPen(QPen(QColor(0xc8, 0xc8, 0xc8), 1, Qt::DotLine));
     painter.drawRect(onSurface(page_.paper.printable(page_.orientation)));
-    if (!bits_.isNull()) painter.drawImage(picture(), rows::imageOver(bits_));
+    if (!bits_.isNull()) painter.drawImage(picture(), imageOver(bits_));
     painter.setPen(QColor(0x80, 0x80, 0x80));
     painter.drawRect(sheet());
 }

@@ -1,6 +1,6 @@
 #include "ui/utilities/fPaste.h"
 #include "document/Document.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "seams/sizeText.h"
@@ -126,7 +126,7 @@ QWidget* fPaste::makeOpacity()
 
 Bits fPaste::take(const Document& document, const char* tooSmall)
 {
-    frame_.setup().PasteMode = -1;
+    frame_.setup().PasteMode = PasteMode::Waiting;
     const Bits part = selectedPart(document);
     if (part.isNull()) {
         frame_.platform().tell(tooSmall);

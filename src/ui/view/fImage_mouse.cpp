@@ -1,5 +1,5 @@
 // What mouse and keys do on the display of a document: hand scrolling, the wheel, and everything else for the tools.
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"

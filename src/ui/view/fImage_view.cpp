@@ -1,5 +1,5 @@
 // The view of a document's window: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"

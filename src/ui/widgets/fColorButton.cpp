@@ -1,5 +1,5 @@
 #include "ui/widgets/fColorButton.h"
-#include "seams/Frame.h"
+#include "document/road/Frame.h"
 #include <QPainter>
 #include <QPointer>
 

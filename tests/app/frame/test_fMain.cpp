@@ -4,6 +4,7 @@
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
 #include "pixels/RuntimeError.h"
+#include "seams/text.h"
 #include "tools/toolRows.h"
 #include <QtTest>
 #include <QtWidgets>

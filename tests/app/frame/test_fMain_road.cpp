@@ -5,6 +5,7 @@
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
+#include "seams/findRow.h"
 #include <QtTest>
 #include <QtWidgets>
 #include <condition_variable>
@@ -36,7 +37,7 @@ bool changesPixels(const CommandWord& word)
 
 bool isSizing(std::string_view word)
 {
-    const SizeWord* size = findSizeWord(word);
+    const SizeWord* size = findRow(sizeWords(), word, &SizeWord::word);
     return size && size->kind != SizeWord::Rotate;
 }
 

@@ -1,7 +1,7 @@
 // Text and effects in the frame: the box and the mouse tool, the layers dialog, and what the document and its undo
 // files make of them.
 #include "app/frame/frameTest.h"
-#include "engine/operationRows.h"
+#include "pixels/images.h"
 #include "ui/compose/fLayers.h"
 #include "ui/compose/fToolTextures.h"
 #include <QtTest>
@@ -100,7 +100,7 @@ TEST_F(FrameText, TextsThatWaitAreAskedForBeforeTheyGoWithTheirDocument)
         EXPECT_TRUE(frame->documents().isEmpty());
         EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog || !dialog->isVisible(); }));
         const Bits written = platform.loadPicture(path("saved.bmp"), "bmp").bits;
-        EXPECT_TRUE(saved ? rows::imageOver(merged) == rows::imageOver(written) : written.isNull());
+        EXPECT_TRUE(saved ? imageOver(merged) == imageOver(written) : written.isNull());
     }
 }
 

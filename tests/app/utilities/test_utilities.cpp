@@ -71,7 +71,7 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
     EXPECT_EQ(platform.recordingClipboard.bits.width(), image->document().Region.Region().bounds().width());
     EXPECT_EQ(platform.recordingClipboard.bits.at(0, 0).c[3], 255);
     EXPECT_EQ(platform.recordingClipboard.bits.at(3, 3), (Pixel{{1, 2, 3, 0}}));
-    EXPECT_EQ(setup.PasteMode, -1);
+    EXPECT_EQ(setup.PasteMode, PasteMode::Waiting);
 }
 
 TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)
@@ -268,7 +268,7 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
     EXPECT_EQ(QString("%1 %2 %3").arg(device, mode).arg(resolution), "b:1 Color 300");
     EXPECT_EQ(area, QRectF(0, 0, 200, 100));
     fImage* image = waitForDocument();
-    EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 255}}));
+    EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 0}}));
     EXPECT_TRUE(image->isWindowModified()) << "it is nowhere else";
     EXPECT_FALSE(QFile::exists(path("temp.bmp")));
 }

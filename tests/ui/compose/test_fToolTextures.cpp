@@ -1,6 +1,7 @@
 // The textures box, used as a person does: the text that goes to the mouse tool, the effects on the active document.
 #include "commands/effects.h"
 #include "engine/operations.h"
+#include "pixels/images.h"
 #include "support/RecordingFrame.h"
 #include "support/files.h"
 #include "support/filterOf.h"
@@ -42,9 +43,7 @@ struct TexturesBoxTest : WindowTest {
     void textures(const char* name, const Bits& bits)
     {
         QDir(frame.platform_.programFolder()).mkpath("Textures");
-        QImage(bits.row(0)->c, bits.width(), bits.height(), bits.stride() * 4, QImage::Format_RGB32)
-            .copy()
-            .save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
+        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
     }
 };
 
@@ -53,7 +52,7 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     frame.setup_.TextFont = "Missing";
     frame.setup_.TextSize = 20;
     frame.setup_.TextFlag1 = frame.setup_.TextFlag2 = false;
-    frame.setup_.TextMode = 0;
+    frame.setup_.TextMode = LeftJustify;
     show(0);
     EXPECT_TRUE(stamp().isNull()) << "nothing to stamp";
     EXPECT_EQ("Fixed", text("cboFont")) << "what stands in for it";
@@ -86,7 +85,7 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     EXPECT_EQ(10, s.TextSize);
     EXPECT_TRUE(s.TextFlag1);
     EXPECT_FALSE(s.TextFlag2 || s.TextFlag3);
-    EXPECT_EQ(3, s.TextMode);
+    EXPECT_EQ(FullJustify, s.TextMode);
 }
 
 TEST_F(TexturesBoxTest, AlignmentShowsInTheWorkPicture)

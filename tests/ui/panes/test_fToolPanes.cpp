@@ -115,14 +115,14 @@ TEST_F(Panes, TheMoveActionIsTheSelectionsOwnSetting)
 
 TEST_F(Panes, SidesAreForPolygonsOnly)
 {
-    frame.setup_.ShapeKind = 0;
+    frame.setup_.ShapeKind = ShapeKind::Line;
     make("Shape");
     auto* kinds = find<QListWidget>("lstShape");
     ASSERT_EQ(kinds->count(), 7);
     EXPECT_FALSE(find<QSlider>("sbShapeSides")->isEnabled());
     kinds->setCurrentRow(6);
     EXPECT_EQ(kinds->currentItem()->text(), "Polygon");
-    EXPECT_EQ(frame.setup_.ShapeKind, 6);
+    EXPECT_EQ(frame.setup_.ShapeKind, ShapeKind::Polygon);
     EXPECT_TRUE(find<QSlider>("sbShapeSides")->isEnabled());
 }
 

@@ -20,7 +20,6 @@ struct ImageFixture : ::testing::Test {
         image->setBarsWidth(20);
         image->resize(width, height);
         image->show();
-        frame.image = image.get();
         frame.onCall = [this](const std::string& line) {
             if (line == "step") image->UpdateImage();
         };

@@ -66,8 +66,8 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     fImage& w = open(bits, 300, 300);
     w.setZoomFactor(4);
     choose("Select");
-    frame.setup_.SelectionMode = 2;
-    frame.setup_.SelectionShape = 0;
+    frame.setup_.SelectionMode = SelectionMode::New;
+    frame.setup_.SelectionShape = SelectionShape::Rectangle;
     press({8, 8});
     drag({41, 29});
     QWidget* band = control("shpRect");
@@ -152,7 +152,7 @@ TEST_F(Mouse, AHalfMadePolygonKeepsItsPlaceInThePicture)
 {
     fImage& w = open(randomBits(60, 50, 1), 100, 90);
     choose("Select");
-    frame.setup_.SelectionShape = 2;
+    frame.setup_.SelectionShape = SelectionShape::Polygon;
     press({5, 5});
     release({5, 5});
     press({30, 8});

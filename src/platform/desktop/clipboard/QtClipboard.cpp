@@ -1,4 +1,5 @@
 #include "platform/desktop/clipboard/QtClipboard.h"
+#include "pixels/images.h"
 #include "platform/desktop/clipboard/ClipboardOffer.h"
 #include <QClipboard>
 #include <QGuiApplication>
@@ -8,12 +9,6 @@
 namespace velara {
 
 namespace {
-
-/// Blue, green and red as they are, the fourth byte given.
-void copyRow(quint32* to, const quint32* from, int count, quint32 fourth)
-{
-    for (int i = 0; i < count; ++i) to[i] = (from[i] & 0x00FFFFFFu) | fourth;
-}
 
 struct ClipboardType {
     const char* mime;
@@ -34,16 +29,6 @@ constexpr ClipboardType kClipboardTypes[] = { // the exact ones first
     {"image/jpeg",     "jpg"},
 };
 // clang-format on
-
-Bits bitsOf(const QImage& picture)
-{
-    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
-    Bits bits(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y)
-        copyRow(reinterpret_cast<quint32*>(bits.row(y)), reinterpret_cast<const quint32*>(image.constScanLine(y)),
-                image.width(), 0);
-    return bits;
-}
 
 } // namespace
 
@@ -90,11 +75,9 @@ void QtClipboard::offer(const QImage& picture)
 
 bool QtClipboard::setBitmap(const Bits& bits)
 {
-    QImage image(bits.width(), bits.height(), QImage::Format_RGB32);
+    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // which makes the fourth byte 255
     if (image.isNull()) return false;
-    for (int y = 0; y < image.height(); ++y)
-        copyRow(reinterpret_cast<quint32*>(image.scanLine(y)), reinterpret_cast<const quint32*>(bits.row(y)),
-                image.width(), 0xFF000000u);
+    image.reinterpretAsFormat(QImage::Format_RGB32);
     offer(image);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "fileio/families.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
+#include "seams/text.h"
 #include <QDateTime>
 #include <QDir>
 #include <QEvent>
@@ -70,7 +71,7 @@ void PreviewPane::showFile(const QString& path)
     const Family* family = file.isDir() ? nullptr : familyOf(path);
     path_ = family ? path : QString();
     name_->setPath(file.fileName().isEmpty() ? path : file.fileName());
-    kind_->setText(family ? QString::fromUtf8(family->name.data(), qsizetype(family->name.size())) : QString());
+    kind_->setText(family ? text(family->name) : QString());
     size_->clear();
     file_->setText(file.isFile() ? QLocale().formattedDataSize(file.size()) + "\n" +
                                        QLocale().toString(file.lastModified(), QLocale::ShortFormat)

@@ -1,4 +1,5 @@
 #include "ui/widgets/marks/ScreenCover.h"
+#include "pixels/images.h"
 #include "ui/widgets/marks/Mark.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -127,12 +128,7 @@ bool ScreenCover::show(const ScreenPicture& picture)
     return true;
 }
 
-QImage ScreenCover::image() const
-{
-    const Bits& bits = picture_.bits;
-    return {reinterpret_cast<const uchar*>(bits.row(0)), bits.width(), bits.height(), qsizetype(bits.stride()) * 4,
-            QImage::Format_RGB32};
-}
+QImage ScreenCover::image() const { return imageOver(picture_.bits); }
 
 QPoint ScreenCover::pixelAt(QPointF global) const
 {

@@ -27,10 +27,10 @@ struct Outcome {
         Done,
         Failed,    // the job threw; reason says what
         Cancelled, // the job threw Cancelled
-            Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
+        Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
     };
     Kind kind = Done;
-    QString reason = {}; // in words for a person; empty where there is nothing to say
+    QString reason = {};           // in words for a person; empty where there is nothing to say
     std::exception_ptr fault = {}; // what the job threw
 
     explicit operator bool() const { return kind == Done; }

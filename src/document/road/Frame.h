@@ -9,9 +9,9 @@
 // is at work, and closes in then(...) unless outcome.kind is Failed; it holds itself by a QPointer there. A tool that
 // paints right into its document calls workspace().finish() at the end of the stroke instead.
 #pragma once
-#include "seams/Arrival.h"
-#include "seams/Change.h"
-#include "seams/DocumentHandle.h"
+#include "document/road/Arrival.h"
+#include "document/road/Change.h"
+#include "document/road/DocumentHandle.h"
 #include "seams/ToolStores.h"
 #include <QString>
 #include <optional>
@@ -22,15 +22,11 @@ namespace velara {
 
 class Platform;
 class Workspace;
-class fImage;
 struct Setup;
 
 /// The panels of the status bar, by their keys. Hint takes the place of size, name and zoom while it
 /// says something.
 enum class Panel { Pos, Ext, Size, Name, Zoom, Hint };
-
-/// What becomes of a file that no reader makes anything of.
-enum class Unreadable { OpensEmpty, Refused };
 
 class Frame {
   public:
@@ -46,15 +42,10 @@ class Frame {
     // --- Documents
     /// The active document; names none without one.
     virtual DocumentHandle active() = 0;
-    /// Its window, or null.
-    virtual fImage* GetActiveImage() = 0;
     /// A new document with the picture (a null one: an empty window), whole-picture limit, first snapshot, shown and
     /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a
     /// name without a folder is put into the folder of the file dialogs. Names none while the frame closes.
     virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) = 0;
-    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
-    /// that it can't be loaded.
-    virtual bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty) = 0;
 
     /// Says in the status bar why a change was not made: "what: reason". Nothing where there is nothing to say.
     virtual void report(const QString& what, const Outcome& outcome) = 0;
@@ -62,8 +53,6 @@ class Frame {
     // --- Commands and displays
     /// Runs a command word. Unknown words do nothing.
     virtual void Mmenu(const QString& word) = 0;
-    /// Keeps the undo and redo buttons in step with the active document.
-    virtual void refreshUndoState() = 0;
     virtual void setStatus(Panel panel, const QString& text) = 0;
     /// Hand scrolling. The first activation of a document switches it on; documents take its state as they are
     /// activated.
