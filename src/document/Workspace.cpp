@@ -1,6 +1,7 @@
 #include "document/Workspace.h"
 #include "document/Draft.h"
 #include "pixels/RuntimeError.h"
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QThread>
 #include <algorithm>
@@ -56,6 +57,7 @@ void Workspace::later(std::function<void()> call)
         this,
         [this, call = std::move(call)] {
             --posted_;
+            QAbstractEventDispatcher::instance()->wakeUp(); // wait() looks again, however many events came at once
             call();
         },
         Qt::QueuedConnection);

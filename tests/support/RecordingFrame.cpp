@@ -1,10 +1,25 @@
 #include "support/RecordingFrame.h"
+#include <QCoreApplication>
 #include <QDir>
 
 namespace velara {
 
+namespace {
+
+/// Rooms without windows have no event loop of their own, and what a workspace says comes through one.
+void bringEvents()
+{
+    static int count = 1;
+    static char name[] = "test";
+    static char* words[] = {name, nullptr};
+    if (!QCoreApplication::instance()) new QCoreApplication(count, words); // to the end of the program
+}
+
+} // namespace
+
 RecordingFrame::RecordingFrame()
 {
+    bringEvents();
     QDir(platform_.folder.path()).mkpath("Temp");
     QObject::connect(&workspace_, &Workspace::changed, [this] {
         ++snapshots;
