@@ -70,15 +70,4 @@ void Draft::handTo(cBitFilter& engine, bool holds) const
     if (holds && document_) document_->handTo(engine);
 }
 
-Job endable(Job job, std::function<bool()> ended)
-{
-    return [job = std::move(job), ended = std::move(ended)](Document& draft, cBitFilter& filter) {
-        filter.Progress = [report = filter.Progress, ended](int percent) {
-            if (report) report(percent);
-            if (ended()) throw Cancelled();
-        };
-        job(draft, filter);
-    };
-}
-
 } // namespace velara

@@ -39,8 +39,4 @@ class Draft {
     bool sizing_, fromBefore_ = false;
 };
 
-/// The job, ended by Cancelled at the first report of progress for which ended() is true. For a dialog or a tool that
-/// can be left while its job runs; ended must be safe to call after it is gone.
-Job endable(Job job, std::function<bool()> ended);
-
 } // namespace velara

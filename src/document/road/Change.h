@@ -1,4 +1,4 @@
-// What a change of a document's pixels is made of: the job, what follows it, and what became of it. Frame::change puts
+// What a change of a document's pixels is made of: the job, what follows it, and what became of it. Workspace puts
 // them together.
 #pragma once
 #include <QString>
@@ -11,9 +11,9 @@ class Document;
 class cBitFilter;
 
 /// Work on a document that knows no window. It gets a draft: a document of its own with the committed picture and the
-/// selection, and an engine that holds both. What it leaves in the draft is the result: pixels, size, selection. It may
-/// yield (the engine's Progress does), may paint by draft.paint, and ends early by an exception: RuntimeError is a
-/// failure, Cancelled is the user's wish. It must not hold on to anything that a yield can take away.
+/// selection, and an engine that holds both. What it leaves in the draft is the result: pixels, size, selection. It
+/// runs on a thread of its own, may paint by draft.paint, and ends early by an exception: RuntimeError is a failure,
+/// Cancelled is the user's wish. It holds no window, no Setup and no handle: what it needs it has been given as values.
 using Job = std::function<void(Document& draft, cBitFilter& filter)>;
 
 enum class After {
