@@ -161,6 +161,14 @@ void Workspace::inTurn(const DocumentHandle& document, std::function<void()> cal
     place->waiting.push_back({{}, {}, std::move(call)});
 }
 
+/// Not from inside of a call, which can't be waited for there.
+bool Workspace::awaitsCall(const DocumentHandle& document) const
+{
+    const Place* place = placeOf(document);
+    return place && !place->calling &&
+           std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); });
+}
+
 /// A call that waits is no change, and comes all the same.
 bool Workspace::cancel(const DocumentHandle& document, int change)
 {

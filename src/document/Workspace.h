@@ -64,6 +64,8 @@ class Workspace final : public QObject {
     bool step(const DocumentHandle& document, bool back);
     /// In its turn among the changes: what a command does once those before it are done. At once where none is.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
+    /// A call waits for its turn, such as a save: closing the document now would lose it.
+    bool awaitsCall(const DocumentHandle& document) const;
     /// The change under way and those that wait end as Cancelled, or the one alone. False where there is none.
     bool cancel(const DocumentHandle& document, int change = kAll);
     static constexpr int kAll = 0;

@@ -149,11 +149,14 @@ void fImage::bringToFront()
 /// Anything may happen while the question stands; once this window is gone the answer means nothing.
 bool fImage::mayClose()
 {
+    const QPointer<fImage> self = this;
+    if (frame_.workspace().awaitsCall(document_.handle()))
+        frame_.workspace().wait(document_.handle()); // a save comes first
+    if (!self) return false;
     if (!frame_.setup().AskToSave || !document_.wouldBeLost()) return true;
     bringToFront();
     const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +
                          "Do you want to save it ?";
-    const QPointer<fImage> self = this;
     emit asking(Question::Stands);
     if (!self) return false;
     const Answer answer = frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information);

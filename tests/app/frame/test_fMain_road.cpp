@@ -6,6 +6,7 @@
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
 #include "seams/findRow.h"
+#include "support/files.h"
 #include <QtTest>
 #include <QtWidgets>
 #include <condition_variable>
@@ -307,6 +308,18 @@ TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
     EXPECT_GT(words, 130);
     EXPECT_EQ(atOnce, kAtOnce);
     EXPECT_EQ(asBefore, kAsBefore);
+}
+
+TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
+{
+    ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)));
+    const QPointer<fImage> image = frame->GetActiveImage();
+    const QByteArray before = fileBytes(path("a.bmp"));
+    frame->Mmenu("INVERT");
+    frame->Mmenu("SAVE");
+    image->parentWidget()->close();
+    EXPECT_TRUE(frame->documents().isEmpty());
+    EXPECT_FALSE(fileBytes(path("a.bmp")) == before);
 }
 
 /// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
