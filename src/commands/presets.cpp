@@ -7,7 +7,7 @@ using namespace std::string_literals;
 std::span<const Preset> presets()
 {
     // clang-format off
-    static const std::vector<Preset> all = { // word, operation, arguments {, without a yield before it}
+    static const std::vector<Preset> all = { // word, operation, arguments
         {"INVERT",            "Invert",        {}},
         {"GRAYSCALE",         "GreyScale",     {}},
         {"RELIEF",            "RELIEF",        {}},
@@ -72,8 +72,8 @@ std::span<const Preset> presets()
         {"RGB2RBG",           "SwapBanks",     {3}},
         {"RGB2BGR",           "SwapBanks",     {4}},
         {"RGB2GRB",           "SwapBanks",     {5}},
-        {"FLIPH",             "Flip",          {true, false}, false},
-        {"FLIPV",             "Flip",          {false, true}, false},
+        {"FLIPH",             "Flip",          {true, false}},
+        {"FLIPV",             "Flip",          {false, true}},
     };
     // clang-format on
     return all;

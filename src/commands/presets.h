@@ -8,7 +8,6 @@ struct Preset {
     std::string_view word;
     std::string_view operation;
     Arguments arguments;
-    bool yields = true; // before the work, so that the menu closes
 };
 
 std::span<const Preset> presets();
