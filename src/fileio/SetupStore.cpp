@@ -92,6 +92,7 @@ template <class T, class Body> void eachElement(T& field, Body body)
 struct Field {
     int offset, width, count; // width: bytes of one element
     Default byDefault;
+    std::size_t size, alignment; // of the member
     void (*write)(const Field&, const Setup&, std::uint8_t* record);
     void (*read)(const Field&, Setup&, std::span<const std::uint8_t> record);
     void (*setDefault)(const Field&, Setup&);
@@ -108,6 +109,8 @@ template <auto Member> constexpr Field field(int offset, int width, Default byDe
         width,
         countOf<Type>,
         byDefault,
+        sizeof(Type),
+        alignof(Type),
         [](const Field& f, const Setup& s, std::uint8_t* record) {
             eachElement(s.*Member, [&](const auto& e, int i) { put(e, record + f.offset + i * f.width, f.width); });
         },
@@ -193,17 +196,29 @@ constexpr Field kFields[] = { // offset, width of an element, default {, step fr
 };
 // clang-format on
 
-/// The length of the fields when each begins where the one before ends; -1 when one doesn't.
-consteval int lengthWithoutGaps()
+/// The length of the fields when each begins where the one before ends; 0 when one doesn't.
+consteval std::size_t lengthWithoutGaps()
 {
     int end = 0;
     for (const Field& f : kFields) {
-        if (f.offset != end) return -1;
+        if (f.offset != end) return 0;
         end += f.width * f.count;
     }
-    return end;
+    return static_cast<std::size_t>(end);
 }
-static_assert(lengthWithoutGaps() == kSetupBytes);
+static_assert(lengthWithoutGaps() > 0, "src/fileio/SetupStore.cpp: a row of kFields begins where the one before ends");
+
+/// The size of a record whose members are those of the rows, in their order. A forgotten member that fits into the gap
+/// before the next isn't seen.
+consteval std::size_t sizeOfMembers()
+{
+    std::size_t end = 0;
+    for (const Field& f : kFields) end = (end + f.alignment - 1) / f.alignment * f.alignment + f.size;
+    return (end + alignof(Setup) - 1) / alignof(Setup) * alignof(Setup);
+}
+static_assert(sizeOfMembers() == sizeof(Setup),
+              "a member of Setup without its row, or in another order: see kFields in "
+              "src/fileio/SetupStore.cpp and src/seams/Setup.h");
 
 QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
 
@@ -226,6 +241,8 @@ void readFields(Setup& setup, std::span<const std::uint8_t> bytes)
 
 } // namespace
 
+const int kSetupBytes = int(lengthWithoutGaps());
+
 Setup::Setup()
 {
     for (const Field& f : kFields) f.setDefault(f, *this);
@@ -233,6 +250,7 @@ Setup::Setup()
 
 SetupRecord setupBytes(const Setup& setup, SetupRecord record)
 {
+    record.resize(lengthWithoutGaps());
     for (const Field& f : kFields) f.write(f, setup, record.data());
     return record;
 }
@@ -256,16 +274,15 @@ Setup LoadSetup(Platform& platform)
     setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
     const std::vector<std::uint8_t> record = recordOf(path);
     readFields(setup, record);
-    if (record.size() < kSetupBytes) SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
+    if (record.size() < lengthWithoutGaps())
+        SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
     return setup;
 }
 
 bool SaveSetup(Platform& platform, const Setup& setup)
 {
     const QString path = setupPath(platform);
-    SetupRecord before{};
-    std::ranges::copy(recordOf(path), before.begin());
-    return overwriteFile(path, setupBytes(setup, before));
+    return overwriteFile(path, setupBytes(setup, recordOf(path)));
 }
 
 void AddRecent(Setup& setup, const QString& path)
