@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize monkey fuzz reference reference-diff mutate screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize monkey fuzz reference reference-diff new-filter pictures mutate screenshots bench gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -54,6 +54,14 @@ bench: all
 gallery: all
 	cmake --build --preset release --target velara-gallery
 	$(RELEASE)/bin/velara-gallery docs/gallery
+
+# The rows of a filter with a dialog, as docs/architecture.md has them: make new-filter NAME=Posterize
+new-filter:
+	@scripts/ways.py --new-filter "$(NAME)"
+
+# The pictures of docs/architecture.md, drawn from their text.
+pictures:
+	@for text in docs/pictures/*.dot; do dot -Tsvg "$$text" -o "$${text%.dot}.svg" || exit 1; done
 
 # What the definitions of tools/reference give, written where the tests read it; and where the fast code differs from them:
 # make reference-diff NAMES="EMBOSS Brush"

@@ -27,6 +27,24 @@ QString meaningOf(const SizeWord& word)
     }
 }
 
+/// The words that change the picture and are in no other table.
+constexpr struct Step {
+    std::string_view word;
+    const char* meaning;
+    void (*run)(Session&);
+    GoesBack goesBack = GoesBack::Never;
+} kSteps[] = {
+    {"CROP", "cuts to the box of the selection", [](Session& s) { s.crop(); }},
+    {"UNDO", "one step back", [](Session& s) { s.undo(); }, GoesBack::Always},
+    {"REDO", "one step forward again", [](Session& s) { s.redo(); }, GoesBack::Always},
+};
+static_assert(std::ranges::all_of(kCommandWords,
+                                  [](const CommandWord& w) {
+                                      return std::ranges::count(kSteps, w.word, &Step::word) ==
+                                             (w.kind == WordKind::Step);
+                                  }),
+              "a word of the kind Step is velara-batch's, too: add its row to kSteps in src/batch/words.cpp");
+
 std::vector<Word> makeWords()
 {
     std::vector<Word> list;
@@ -35,9 +53,8 @@ std::vector<Word> makeWords()
     for (const SizeWord& word : sizeWords())
         list.push_back({word.word, meaningOf(word), [&word](Session& s) { s.change(sizeJob(word), afterOf(word)); },
                         word.kind == SizeWord::Rotate ? GoesBack::Never : GoesBack::WhenRepeated});
-    list.push_back({"CROP", QStringLiteral("cuts to the box of the selection"), [](Session& s) { s.crop(); }});
-    list.push_back({"UNDO", QStringLiteral("one step back"), [](Session& s) { s.undo(); }, GoesBack::Always});
-    list.push_back({"REDO", QStringLiteral("one step forward again"), [](Session& s) { s.redo(); }, GoesBack::Always});
+    for (const Step& step : kSteps)
+        list.push_back({step.word, QString::fromUtf8(step.meaning), step.run, step.goesBack});
     for (const CommandWord& word : kCommandWords)
         if (word.kind == WordKind::View || word.kind == WordKind::Nothing)
             list.push_back({word.word, {}, [](Session&) {}});

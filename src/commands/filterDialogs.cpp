@@ -43,7 +43,7 @@ constexpr std::array<std::string_view, 2> opens(std::string_view word = "", std:
 }
 
 // clang-format off
-constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, extras, call, words
+constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, extras, call, words {, place in the menus}
     { 0, "Color [Colorize]", "COLORIZE", {{free("Hue", 0, 100, 0), free("Saturation", 0, 100, 50), free("Luminosity", 0, 100, 100)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.COLORIZE(HueFromScale(roundEven(a.value[0] * 2.4)) / 40.0f, static_cast<float>(a.value[1] / 100.0), static_cast<float>(a.value[2] / 100.0)); }, opens("COLORIZE")},
     { 1, "Adjust [Brightness]", "BRIGHTNESS", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
@@ -53,7 +53,7 @@ constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, ex
     { 3, "Adjust [Saturation]", "SATURATION", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.SATURATION(a.value[0]); }, opens("CUSTOMSATURATION")},
     { 4, "Adjust [Gamma correction]", "GammaCorrection", {{{"Gamma", "Level", 0, 2, 1, 0.01, 2, true}}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.GammaCorrection(a.value[0]); }, opens("GAMMA")},
+      [](F& f, const A& a) { return f.GammaCorrection(a.value[0]); }, opens("GAMMA"), {"EFFECTS", "Gamma Correction", "adjustcurves"}},
     { 5, "Definition [Diffuse]", "DIFFUSE", {{of("Horizontal range", "HorizontalRange"), of("Vertical range", "VerticalRange")}}, nullptr, E::None,
       [](F& f, const A& a) { return f.DIFFUSE(a.value[0], a.value[1]); }, opens("CUSTOMDIFFUSE")},
     { 6, "Adjust [Blur]", "Blurs", {{of("Level", "Radius", 0)}}, nullptr, E::None,
@@ -77,11 +77,11 @@ constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, ex
     {15, "Color [Reduction]", "Reduction", {{within("Level", "Level", 0, 255, 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.Reduction(a.value[0]); }, opens()},
     {16, "Color [Replace]", "REPLACE", {{of("Tolerance", "Tolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.REPLACE(a.colour[0], a.colour[1], a.value[0]); }, opens("REPLACE")},
+      [](F& f, const A& a) { return f.REPLACE(a.colour[0], a.colour[1], a.value[0]); }, opens("REPLACE"), {"REPLACE", "Colors"}},
     {17, "Color [Replace Hue/Sat.]", "ReplaceHS", {{within("Hue Tolerance", "HueTolerance", 0, 100, 50), of("Sat. Tolerance", "SatTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.ReplaceHS(a.colour[0], a.colour[1], a.value[0], a.value[1], a.value[2]); }, opens("REPLACEHUESAT")},
+      [](F& f, const A& a) { return f.ReplaceHS(a.colour[0], a.colour[1], a.value[0], a.value[1], a.value[2]); }, opens("REPLACEHUESAT"), {"REPLACE", "Hue && Saturation"}},
     {18, "Color [Replace Lum.]", "ReplaceL", {{of("Lum. Tolerance", "LumTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.ReplaceL(a.colour[0], a.colour[1], a.value[0], a.value[1]); }, opens("REPLACELUMINOUS")},
+      [](F& f, const A& a) { return f.ReplaceL(a.colour[0], a.colour[1], a.value[0], a.value[1]); }, opens("REPLACELUMINOUS"), {"REPLACE", "Luminous"}},
     {19, "Adjust [Sharpen]", "SHARPEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.SHARPEN(a.value[0]); }, opens("CUSTOMSHARPEN")},
     {20, "Adjust [Soften]", "SOFTEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
@@ -89,9 +89,9 @@ constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, ex
     {21, "Color [Shift]", "Shift", {{of("Shift", "Amount", 0), of("Tolerance", "Tolerance")}}, nullptr, E::SourceWell | E::PickColour,
       [](F& f, const A& a) { return f.Shift(a.colour[0], a.value[0], a.value[1]); }, opens("SHIFT")},
     {22, "Color [Hue rotation]", "RotateH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.RotateH(a.value[0], a.value[1]); }, opens("HUEROTATION")},
+      [](F& f, const A& a) { return f.RotateH(a.value[0], a.value[1]); }, opens("HUEROTATION"), {"COLORS", "Hue Rotation"}},
     {23, "Color [Grey rotation]", "RotateL", {{of("Offset", "Offset", 0), of("Steps", "Steps")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.RotateL(a.value[0], a.value[1]); }, opens("GREYROTATION")},
+      [](F& f, const A& a) { return f.RotateL(a.value[0], a.value[1]); }, opens("GREYROTATION"), {"COLORS", "Grey Rotation"}},
     {24, "Color [Hue stretch]", "StretchH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation"), of("Stretch factor", "Stretch", 0)}}, nullptr, E::None,
       [](F& f, const A& a) { return f.StretchH(a.value[0], a.value[1], a.value[2]); }, opens("HUESTRETCH")},
     {25, "Color [RGB levels]", "ShiftRGB", {{within("Red", "Red", -255, 255, 0), within("Green", "Green", -255, 255, 0), within("Blue", "Blue", -255, 255, 0)}}, nullptr, E::None,
@@ -99,29 +99,29 @@ constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, ex
     {26, "Color [RGB banks]", "SwapRGB", {}, nullptr, E::Banks,
       [](F& f, const A& a) { return f.SwapRGB(a.channel[0], a.channel[1], a.channel[2], a.invert[0], a.invert[1], a.invert[2], a.kill[0] * 255, a.kill[1] * 255, a.kill[2] * 255); }, opens("RGBBANKS")},
     {27, "Deformation [Lens]", "LENS", {{free("Diameter", 1, 100, 50), within("Magnify factor", "Magnify", 0, 100, 50)}}, nullptr, E::PickCentre,
-      [](F& f, const A& a) { return f.LENS(a.centerX, a.centerY, fractionOfSide(a), a.value[1]); }, opens("LENS")},
+      [](F& f, const A& a) { return f.LENS(a.centerX, a.centerY, fractionOfSide(a), a.value[1]); }, opens("LENS"), {"SHAPES", "Lens", "lensdistortion"}},
     {28, "Deformation [Waves]", "WAVES", {{of("Frequency", "Frequency"), of("Amplitude", "Amplitude"), of("Start degree", "StartDegree")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.WAVES(a.value[0], a.value[1], a.value[2]); }, opens("WAVES")},
+      [](F& f, const A& a) { return f.WAVES(a.value[0], a.value[1], a.value[2]); }, opens("WAVES"), {"SHAPES", "Waves", ":waves"}},
     {29, "Deformation [Bend]", "BEND", {{of("Radius factor", "RadiusFactor", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.BEND(a.value[0], a.option); }, opens("BEND")},
+      [](F& f, const A& a) { return f.BEND(a.value[0], a.option); }, opens("BEND"), {"SHAPES", "Bend"}},
     {30, "Deformation [Fold]", "FOLD", {{of("Horizontal factor", "Horizontal", 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.FOLD(a.value[0], a.value[1], a.option); }, opens("FOLD")},
+      [](F& f, const A& a) { return f.FOLD(a.value[0], a.value[1], a.option); }, opens("FOLD"), {"SHAPES", "Fold"}},
     {31, "Deformation [Rotate]", "ROTATE", {{within("Degrees", "Degrees", -180, 180, 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.ROTATE(a.value[0], a.option); }, opens("ROTATE")},
+      [](F& f, const A& a) { return f.ROTATE(a.value[0], a.option); }, opens("ROTATE"), {"SHAPES", "Rotate"}},
     {32, "Deformation [Stretch]", "STRETCH", {{within("Horizontal factor", "Horizontal", -100, 100, 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.STRETCH(a.value[0], a.value[1], a.option); }, opens("STRETCH")},
+      [](F& f, const A& a) { return f.STRETCH(a.value[0], a.value[1], a.option); }, opens("STRETCH"), {"SHAPES", "Stretch"}},
     {33, "Deformation [Tile]", "TILE", {{within("Factor", "Factor", 2, 50, 2)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.TILE(a.value[0]); }, opens("TILE")},
+      [](F& f, const A& a) { return f.TILE(a.value[0]); }, opens("TILE"), {"SHAPES", "Tile"}},
     {34, "Deformation [Twirl]", "TWIRL", {{of("Level", "Level", 0), of("Offset degrees", "OffsetDegrees", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.TWIRL(a.value[0], a.value[1], a.option); }, opens("TWIRL")},
+      [](F& f, const A& a) { return f.TWIRL(a.value[0], a.value[1], a.option); }, opens("TWIRL"), {"SHAPES", "Twirl"}},
     {35, "Special [Grid]", "Grid", {{within("Horizontal step", "HorizontalStep", 1, 250, 25), within("Vertical step", "VerticalStep", 1, 250, 25), of("Opacity", "Opacity")}}, "Force margins", E::TargetWell,
-      [](F& f, const A& a) { return f.Grid(a.value[0], a.value[1], a.option, a.colour[1], a.value[2]); }, opens("ADDGRID")},
+      [](F& f, const A& a) { return f.Grid(a.value[0], a.value[1], a.option, a.colour[1], a.value[2]); }, opens("ADDGRID"), {"ADD", "Grid", "view-grid"}},
     {36, "Special [Light]", "Light", {{free("Extension", 1, 100, 50), of("Intensity", "Intensity"), of("Definition", "Definition", 0)}}, nullptr, E::PickCentre,
-      [](F& f, const A& a) { return f.Light(a.centerX, a.centerY, fractionOfSide(a), a.value[1], a.value[2]); }, opens("LENSFLARE")},
+      [](F& f, const A& a) { return f.Light(a.centerX, a.centerY, fractionOfSide(a), a.value[1], a.value[2]); }, opens("LENSFLARE"), {"ADD", "Flare", "lensautofix"}},
     {37, "Special [Noise]", "NOISE", {{of("Intensity", "Amount")}}, "Equalized", E::None,
-      [](F& f, const A& a) { return f.NOISE(a.value[0], a.option); }, opens("CUSTOMNOISE", "ADDNOISE")},
+      [](F& f, const A& a) { return f.NOISE(a.value[0], a.option); }, opens("CUSTOMNOISE", "ADDNOISE"), {"ADD", "Noise", ":noise"}},
     {38, "Special [Scanlines]", "Scanlines", {{of("Opacity", "Level")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Scanlines(a.value[0]); }, opens("ADDSCANLINES")},
+      [](F& f, const A& a) { return f.Scanlines(a.value[0]); }, opens("ADDSCANLINES"), {"ADD", "Scanlines", ":scanlines"}},
     {39, "Behind Glass", "GLASS", {}, nullptr, E::Glass,
       [](F& f, const A& a) { return f.GLASS(a.style, a.mode); }, opens("CUSTOMGLASS")},
     {40, "Behind Curtain", "GLASS", {}, nullptr, E::Curtain,
@@ -129,16 +129,25 @@ constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, ex
 };
 // clang-format on
 
+constexpr const Operation* operationOf(const FilterRow& row)
+{
+    return std::ranges::find(kOperationRows<Operation>, row.operation, &Operation::name);
+}
+constexpr bool hasOperation(const FilterRow& row) { return operationOf(row) != std::end(kOperationRows<Operation>); }
+static_assert(std::ranges::all_of(kTold, hasOperation),
+              "a filter's dialog without its operation: add the row to kOperationRows in src/engine/cBitFilter.h");
+
 /// What the rows leave to the operation's row is filled in; a slider that leaves its parameter's range does not
 /// compile.
 consteval auto filled(std::array<FilterRow, std::size(kTold)> all)
 {
     for (FilterRow& row : all) {
-        const auto* op = std::ranges::find(kOperationRows<Operation>, row.operation, &Operation::name);
-        if (op == std::end(kOperationRows<Operation>)) throw std::invalid_argument("no such operation");
+        const ParameterList& parameters = operationOf(row)->parameters;
         for (FilterSlider& s : row.sliders) {
             if (s.parameter.empty()) continue;
-            const Parameter& p = *std::ranges::find(op->parameters, s.parameter, &Parameter::name);
+            const Parameter& p = *std::ranges::find(parameters, s.parameter, &Parameter::name);
+            if (&p == parameters.end())
+                throw std::invalid_argument("a slider without a parameter in src/engine/cBitFilter.h");
             const auto take = [](double& value, double otherwise) { value = value == value ? value : otherwise; };
             take(s.least, p.least);
             take(s.most, p.most);
@@ -167,9 +176,11 @@ consteval bool isSound()
             for (const FilterRow& other : kRows)
                 if (!word.empty() && &other != &row && std::ranges::count(other.words, word) > 0) return false;
     }
-    return number == 41;
+    return true;
 }
-static_assert(isSound(), "numbers in order, sliders in range and used from the first on, a word opens one row");
+static_assert(isSound(),
+              "src/commands/filterDialogs.cpp: numbers in order, sliders in range and used from the first on, "
+              "a word opens one row");
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // The filters that have a dialog, as data: what the dialog shows for each and which operation it calls. Adding one is a
 // row of filterDialogs.cpp.
 #pragma once
+#include "commands/vocabulary.h"
 #include "engine/cBitFilter.h"
 #include <array>
 #include <span>
@@ -69,7 +70,9 @@ struct FilterRow {
     FilterExtra extras;
     Bits (*call)(cBitFilter& filter, const FilterArgs& args);
     std::array<std::string_view, 2> words; // that open it; empty ones open nothing
+    MenuPlace place = {};                  // of the last word
 
+    constexpr std::string_view lastWord() const { return words[1].empty() ? words[0] : words[1]; }
     FilterArgs defaults() const;
 };
 

@@ -24,11 +24,35 @@ enum class WordKind {
     Drop,    // a button that only opens its drop-down
 };
 
+/// The parts of the menus whose items come from the rows of their words, those of this table first and then those of
+/// filterDialogs.cpp. app/menus/menus.cpp says where each part is.
+inline constexpr std::string_view kMenuParts[] = {"SELECT",  "IMAGE",  "COLORS",  "REPLACE",   "ADD",
+                                                  "EFFECTS", "SHAPES", "CAPTURE", "WALLPAPER", "VIEWS"};
+
+/// Where a word stands in the menus; a part that isn't in kMenuParts does not compile. Words without a place are named
+/// by menus.cpp, or are in no menu.
+struct MenuPlace {
+    std::string_view part = {};
+    std::string_view caption = {};
+    std::string_view picture = {};   // as pictureOf() gives it (app/menus/menus.h)
+    std::string_view shortcuts = {}; // split by blanks; the first is shown
+
+    constexpr MenuPlace() = default;
+    consteval MenuPlace(std::string_view inPart, std::string_view caption, std::string_view picture = {},
+                        std::string_view shortcuts = {})
+        : part(inPart), caption(caption), picture(picture), shortcuts(shortcuts)
+    {
+        if (std::ranges::find(kMenuParts, inPart) == std::end(kMenuParts))
+            throw "no such part: the parts are in kMenuParts of src/commands/vocabulary.h";
+    }
+};
+
 /// Words that begin with "@" are the frame's own, without a word of the command language.
 struct CommandWord {
     std::string_view word;
     Stage stage;
     WordKind kind;
+    MenuPlace place = {};
     int count = 1; // more: the word stands for that many items, told apart by their index
 
     constexpr bool ofFrame() const { return word.starts_with('@'); }
@@ -43,9 +67,9 @@ inline constexpr CommandWord kCommandWords[] = {
     {"PRINTERSETUP",         Stage::Free,       WordKind::Window},
     {"SELECTSOURCE",         Stage::Free,       WordKind::Window},
     {"ACQUIRETWAIN",         Stage::Free,       WordKind::Window},
-    {"CAPTUREDESKTOP",       Stage::Free,       WordKind::Window},
-    {"CAPTUREFOREGROUND",    Stage::Free,       WordKind::Window},
-    {"CAPTUREBACKGROUND",    Stage::Free,       WordKind::Window},
+    {"CAPTUREDESKTOP",       Stage::Free,       WordKind::Window, {"CAPTURE", "Desktop"}},
+    {"CAPTUREFOREGROUND",    Stage::Free,       WordKind::Window, {"CAPTURE", "Foreground"}},
+    {"CAPTUREBACKGROUND",    Stage::Free,       WordKind::Window, {"CAPTURE", "Background"}},
     {"CUSTOMCAPTURE",        Stage::Free,       WordKind::Window},
 
     // The active document is asked for; one of them runs without
@@ -54,10 +78,10 @@ inline constexpr CommandWord kCommandWords[] = {
     {"CREATENEWCOPY",        Stage::NeedsImage, WordKind::Window},
     {"COPYIMAGETOCLIPBOARD", Stage::NeedsImage, WordKind::Window},
     {"CREATEFROMCLIPBOARD",  Stage::MaybeImage, WordKind::Window},
-    {"IMAGESIZE",            Stage::NeedsImage, WordKind::Window},
-    {"CANVASSIZE",           Stage::NeedsImage, WordKind::Window},
-    {"IMAGEORIENTATION",     Stage::NeedsImage, WordKind::Window},
-    {"IMAGEROTATE",          Stage::NeedsImage, WordKind::Window},
+    {"IMAGESIZE",            Stage::NeedsImage, WordKind::Window, {"IMAGE", "Image Size ...", "transform-scale"}},
+    {"CANVASSIZE",           Stage::NeedsImage, WordKind::Window, {"IMAGE", "Canvas Size ...", "transform-crop-and-resize"}},
+    {"IMAGEORIENTATION",     Stage::NeedsImage, WordKind::Window, {"IMAGE", "Orientation ...", "transform-rotate"}},
+    {"IMAGEROTATE",          Stage::NeedsImage, WordKind::Window, {"IMAGE", "Rotate ...", "object-rotate-right"}},
 
     // Only with a document
     {"CLOSE",                Stage::NeedsImage, WordKind::Window},
@@ -82,12 +106,12 @@ inline constexpr CommandWord kCommandWords[] = {
     {"IMAGESAVEOPTIONS",     Stage::NeedsImage, WordKind::Window},
     {"IMAGECOLORDEPTH",      Stage::NeedsImage, WordKind::Window},
     {"TEXTTOOLS",            Stage::NeedsImage, WordKind::Window},
-    {"WTILE",                Stage::NeedsImage, WordKind::Window},
-    {"WCENTER",              Stage::NeedsImage, WordKind::Window},
-    {"WSTRETCH",             Stage::NeedsImage, WordKind::Window},
-    {"TILEHORIZONTALLY",     Stage::NeedsImage, WordKind::Window},
-    {"TILEVERTICALLY",       Stage::NeedsImage, WordKind::Window},
-    {"CASCADE",              Stage::NeedsImage, WordKind::Window},
+    {"WTILE",                Stage::NeedsImage, WordKind::Window, {"WALLPAPER", "Tile"}},
+    {"WCENTER",              Stage::NeedsImage, WordKind::Window, {"WALLPAPER", "Center"}},
+    {"WSTRETCH",             Stage::NeedsImage, WordKind::Window, {"WALLPAPER", "Stretch"}},
+    {"TILEHORIZONTALLY",     Stage::NeedsImage, WordKind::Window, {"VIEWS", "Tile Horizontally", "view-split-top-bottom"}},
+    {"TILEVERTICALLY",       Stage::NeedsImage, WordKind::Window, {"VIEWS", "Tile Vertically", "view-split-left-right"}},
+    {"CASCADE",              Stage::NeedsImage, WordKind::Window, {"VIEWS", "Cascade", "window-duplicate"}},
     {"RESET",                Stage::NeedsImage, WordKind::Window},
 
     // Known words that do nothing
@@ -144,12 +168,12 @@ inline constexpr CommandWord kCommandWords[] = {
     {"@ASSOCIATION",         Stage::Free,       WordKind::Window},
     {"@EXIT",                Stage::Free,       WordKind::Window},
     {"@ABOUT",               Stage::Free,       WordKind::Window},
-    {"@SELECTALL",           Stage::NeedsImage, WordKind::View},
-    {"@SELECTNONE",          Stage::NeedsImage, WordKind::View},
-    {"@SELECTINVERTED",      Stage::NeedsImage, WordKind::View},
+    {"@SELECTALL",           Stage::NeedsImage, WordKind::View, {"SELECT", "Select &All", "edit-select-all", "Ctrl+A"}},
+    {"@SELECTNONE",          Stage::NeedsImage, WordKind::View, {"SELECT", "Select Non&e", "edit-select-none", "Ctrl+Shift+A"}},
+    {"@SELECTINVERTED",      Stage::NeedsImage, WordKind::View, {"SELECT", "In&vert Selection", "edit-select-invert", "Ctrl+I"}},
     {"@RESET",               Stage::Free,       WordKind::Window},
-    {"@RECENT",              Stage::Free,       WordKind::Window, 8},
-    {"@BAR",                 Stage::Free,       WordKind::Window, 7},
+    {"@RECENT",              Stage::Free,       WordKind::Window, {}, 8},
+    {"@BAR",                 Stage::Free,       WordKind::Window, {}, 7},
     {"@COLORBOX",            Stage::Free,       WordKind::Window},
     {"@TEXTURESBOX",         Stage::Free,       WordKind::Window},
     {"@CLIPBOARDBOX",        Stage::Free,       WordKind::Window},

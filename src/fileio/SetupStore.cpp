@@ -173,17 +173,30 @@ constexpr Field kFields[] = { // offset, width of an element
 };
 // clang-format on
 
-/// The length of the fields when each begins where the one before ends; -1 when one doesn't.
-consteval int lengthWithoutGaps()
+/// The length of the fields when each begins where the one before ends; 0 when one doesn't.
+consteval std::size_t lengthWithoutGaps()
 {
     int end = 0;
     for (const Field& f : kFields) {
-        if (f.offset != end) return -1;
+        if (f.offset != end) return 0;
         end += f.width * f.count;
     }
-    return end;
+    return static_cast<std::size_t>(end);
 }
-static_assert(lengthWithoutGaps() == kSetupBytes);
+static_assert(lengthWithoutGaps() > 0, "src/fileio/SetupStore.cpp: a row of kFields begins where the one before ends");
+
+/// Stands for a value of any member.
+struct AnyValue {
+    template <class T> operator T() const;
+};
+template <std::size_t... I> consteval bool hasMembers(std::index_sequence<I...>)
+{
+    return requires { Setup{(void(I), AnyValue{})...}; };
+}
+/// Setup takes as many values as there are rows, and not one more.
+static_assert(hasMembers(std::make_index_sequence<std::size(kFields)>()) &&
+                  !hasMembers(std::make_index_sequence<std::size(kFields) + 1>()),
+              "a member of src/seams/Setup.h has no row in kFields of src/fileio/SetupStore.cpp, or a row no member");
 
 QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
 
@@ -206,8 +219,11 @@ void readFields(Setup& setup, std::span<const std::uint8_t> bytes)
 
 } // namespace
 
+const int kSetupBytes = int(lengthWithoutGaps());
+
 SetupRecord setupBytes(const Setup& setup, SetupRecord record)
 {
+    record.resize(lengthWithoutGaps());
     for (const Field& f : kFields) f.write(f, setup, record.data());
     return record;
 }
@@ -231,16 +247,15 @@ Setup LoadSetup(Platform& platform)
     setup.ImagesPath = platform.programFolder() + QStringLiteral("/Images/");
     const std::vector<std::uint8_t> record = recordOf(path);
     readFields(setup, record);
-    if (record.size() < kSetupBytes) SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
+    if (record.size() < lengthWithoutGaps())
+        SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
     return setup;
 }
 
 bool SaveSetup(Platform& platform, const Setup& setup)
 {
     const QString path = setupPath(platform);
-    SetupRecord before{};
-    std::ranges::copy(recordOf(path), before.begin());
-    return overwriteFile(path, setupBytes(setup, before));
+    return overwriteFile(path, setupBytes(setup, recordOf(path)));
 }
 
 void AddRecent(Setup& setup, const QString& path)

@@ -2,16 +2,16 @@
 // the frame closes.
 #pragma once
 #include "seams/Setup.h"
-#include <array>
 #include <cstdint>
 #include <span>
+#include <vector>
 
 namespace velara {
 
 class Platform;
 
-constexpr int kSetupBytes = 3081;
-using SetupRecord = std::array<std::uint8_t, kSetupBytes>;
+extern const int kSetupBytes; // 3081: what the rows of SetupStore.cpp come to
+using SetupRecord = std::vector<std::uint8_t>;
 
 /// The record of the file; what a short one lacks, or there is none, has its default, and the whole is written at once.
 /// Any content is safe.

@@ -9,7 +9,7 @@ namespace velara {
 
 namespace {
 
-/// How often the extension stands in the list: as a kind of its own, and in the first line, which has them all.
+/// How often the extension stands in the list.
 constexpr int countOf(std::string_view extension, std::span<const Kinds> kinds)
 {
     int count = 0;
@@ -18,10 +18,12 @@ constexpr int countOf(std::string_view extension, std::span<const Kinds> kinds)
             if (std::ranges::equal(part, extension)) ++count;
     return count;
 }
-static_assert(std::ranges::all_of(kFormats, [](const Format& f) {
-    return countOf(f.extension, kOpened) == (f.extension == "cur" ? 0 : 2) &&
-           countOf(f.extension, kSaved) == (f.saved() ? 2 : 0);
-}));
+static_assert(std::ranges::all_of(kFormats,
+                                  [](const Format& f) { return countOf(f.extension, kOpened) == hasFamily(f); }),
+              "a format that opens has one line of the file dialog: add it to kOpened in src/fileio/formats.h");
+static_assert(std::ranges::all_of(kFormats,
+                                  [](const Format& f) { return countOf(f.extension, kSaved) == (f.saved() ? 2 : 0); }),
+              "a format that is saved stands in the first line and in its own: see kSaved in src/fileio/formats.h");
 
 QString filterOf(std::span<const Kinds> kinds)
 {
@@ -43,11 +45,24 @@ QString withExtension(const QString& path, const QString& extension)
     return path + (path.endsWith('.') ? "" : ".") + extension;
 }
 
+const Family* familyOf(const QString& path)
+{
+    const std::string extension = extensionOf(path).toStdString();
+    const auto* found = std::ranges::find_if(kFamilies, [&](const Family& each) { return each.holds(extension); });
+    return extension.empty() || found == std::end(kFamilies) ? nullptr : found;
+}
+
 const Format* formatOf(const QString& path) { return findFormat(extensionOf(path).toStdString()); }
 
 const QString& openFilter()
 {
-    static const QString filter = filterOf(kOpened);
+    static const QString filter = [] {
+        std::string all;
+        for (const Format& format : kFormats)
+            if (hasFamily(format)) all.append(all.empty() ? "" : " ").append(format.extension);
+        const Kinds first[] = {{"All Supported Picture Formats", all}};
+        return filterOf(first) + u'|' + filterOf(kOpened);
+    }();
     return filter;
 }
 

@@ -1,6 +1,6 @@
 // The picture formats in one table: what a file of each is called, how it opens and how it is saved. The readers of the
-// child process (fileio/decode/decode.cpp) and the writers (savePicture.cpp) are bound to its rows; file dialogs, what
-// may be dropped on the frame, and the targets of the batch program are made from it.
+// child process (fileio/decode/decode.cpp) and the writers (savePicture.cpp) are bound to its rows; file dialogs, the
+// browser, what may be dropped on the frame, and the targets of the batch program are made from it.
 #pragma once
 #include <QString>
 #include <algorithm>
@@ -81,9 +81,7 @@ struct Kinds {
 };
 
 // clang-format off
-inline constexpr Kinds kOpened[] = {
-    {"All Supported Picture Formats", "bmp wbmp dib wmf emf gif jpg png pcx pbm pgm ppm ico psd jng mng tif koa pcd ras "
-                                      "tga cut iff lbm"},
+inline constexpr Kinds kOpened[] = { // below a line with all formats that are browsed for
     {"Bitmap Files (*.BMP;*.DIB)",              "bmp dib"},
     {"Meta Files (*.WMF;*.EMF)",                "wmf emf"},
     {"Graphical Interface Format(*.GIF)",       "gif"},
@@ -134,6 +132,61 @@ const Format* formatOf(const QString& path);
 QString extensionOf(const QString& path);
 /// The path; where its name has no extension, with the one given.
 QString withExtension(const QString& path, const QString& extension);
+
+/// What a person browses for, by the names they know: what the browser shows as a picture, what a preview calls it, and
+/// the list of file types.
+struct Family {
+    std::string_view patterns; // "*.bmp; *.dib"
+    std::string_view name;
+
+    constexpr bool holds(std::string_view extension) const
+    {
+        for (std::size_t from = 0; from < patterns.size();) {
+            const std::size_t end = std::min(patterns.find(';', from), patterns.size());
+            if (patterns.substr(from + 2, end - from - 2) == extension) return true;
+            from = end + 2;
+        }
+        return false;
+    }
+};
+
+// clang-format off
+inline constexpr Family kFamilies[] = {
+    {"*.bmp; *.dib",  "Windows Bitmap"},
+    {"*.emf; *.wmf",  "Meta Files"},
+    {"*.gif",         "Graphical Interface Format"},
+    {"*.jpg; *.jpeg", "Independent JPEG group"},
+    {"*.png",         "Portable Network Group"},
+    {"*.pcx",         "ZSoft Paintbrush Format"},
+    {"*.wbmp",        "Wireless Bitmap"},
+    {"*.pbm",         "Portable Bitmap"},
+    {"*.pgm",         "Portable Graymap"},
+    {"*.ppm",         "Portable Pixelmap"},
+    {"*.ico",         "Windows Icon"},
+    {"*.psd",         "Photoshop"},
+    {"*.jng",         "JPEG Network Graphics"},
+    {"*.mng",         "Multiple Network Graphics"},
+    {"*.tif",         "Tagged Image File Format"},
+    {"*.koa",         "Commodore 64 Koala format"},
+    {"*.pcd",         "Kodak PhotoCD"},
+    {"*.ras",         "Sun Rasterfile"},
+    {"*.tga",         "Targa files"},
+    {"*.cut",         "Dr.Halo bitmap"},
+    {"*.iff",         "Interchanged File Format"},
+    {"*.lbm",         "Deluxe Paint package"},
+};
+// clang-format on
+
+/// Of the path's extension in any case; null where that is no picture's.
+const Family* familyOf(const QString& path);
+
+constexpr bool hasFamily(const Format& format)
+{
+    return std::ranges::any_of(kFamilies, [&](const Family& each) { return each.holds(format.extension); });
+}
+// A format is browsed for under some name; cursors alone are not.
+static_assert(std::ranges::all_of(kFormats, [](const Format& f) { return hasFamily(f) == (f.extension != "cur"); }),
+              "a format that the browser doesn't know: add its row to kFamilies in src/fileio/formats.h");
 
 /// What the file dialogs show, as seams/Dialogs.h takes it.
 const QString& openFilter();

@@ -96,9 +96,12 @@ constexpr const Writer* writerOf(std::string_view extension)
     const auto* writer = std::ranges::find(kWriters, extension, &Writer::extension);
     return writer == std::end(kWriters) ? nullptr : writer;
 }
-static_assert(std::ranges::all_of(kFormats, [](const Format& f) {
-    return (f.saving == Saving::Directly || f.saving == Saving::Refused) == (writerOf(f.extension) != nullptr);
-}));
+static_assert(std::ranges::all_of(kFormats,
+                                  [](const Format& f) {
+                                      return (f.saving == Saving::Directly || f.saving == Saving::Refused) ==
+                                             (writerOf(f.extension) != nullptr);
+                                  }),
+              "a format that is saved without its writer: add the row to kWriters in src/fileio/savePicture.cpp");
 
 } // namespace
 

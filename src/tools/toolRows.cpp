@@ -88,7 +88,9 @@ consteval bool isSound()
             if (&other != &row && (other.key == row.key || std::string_view(other.name) == row.name)) return false;
     return true;
 }
-static_assert(isSound(), "a name and a key choose one tool");
+static_assert(isSound(), "src/tools/toolRows.cpp: a name and a key choose one tool");
+static_assert(std::size(kTools) <= kMostTools,
+              "more tools than the strip has room for: see kStrip in src/app/menus/menus.cpp");
 
 } // namespace
 

@@ -20,6 +20,9 @@ struct ToolRow {
     const char *side = "", *popup = ""; // names of the pane in the frame's side and of the one that pops up
 };
 
+/// The buttons of the strip that tools may have; those of menus.cpp come behind them.
+inline constexpr int kMostTools = 13;
+
 /// In the order of the strip's buttons, the first of which is 1.
 std::span<const ToolRow> toolRows();
 /// Blanks at the end don't count; null when there is none.

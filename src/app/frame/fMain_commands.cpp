@@ -108,14 +108,21 @@ constexpr Handler kHandlers[] = {
     {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
 };
 // clang-format on
-static_assert(std::ranges::all_of(kHandlers, isCommandWord, &Handler::word));
 
-const Handler* findHandler(std::string_view word) { return findRow(kHandlers, word, &Handler::word); }
-
-bool needsHandler(WordKind kind)
+constexpr bool needsHandler(WordKind kind)
 {
     return kind == WordKind::Window || kind == WordKind::View || kind == WordKind::Step;
 }
+static_assert(std::ranges::all_of(kHandlers, isCommandWord, &Handler::word),
+              "a handler without its word: add the row to kCommandWords in src/commands/vocabulary.h");
+static_assert(std::ranges::all_of(kCommandWords,
+                                  [](const CommandWord& w) {
+                                      return std::ranges::count(kHandlers, w.word, &Handler::word) ==
+                                             needsHandler(w.kind);
+                                  }),
+              "a word without its handler: add one row to kHandlers in src/app/frame/fMain_commands.cpp");
+
+const Handler* findHandler(std::string_view word) { return findRow(kHandlers, word, &Handler::word); }
 
 } // namespace
 

@@ -84,6 +84,7 @@ void Bars::buildMenus()
             addItem(*open.back(), row);
             break;
         case MenuKind::Items:
+        case MenuKind::Words:
         case MenuKind::Strengths:
             break; // menuRows() has none
         }

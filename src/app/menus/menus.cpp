@@ -1,5 +1,7 @@
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
+#include "tools/toolRows.h"
+#include <algorithm>
 #include <string>
 
 namespace velara {
@@ -44,9 +46,7 @@ constexpr MenuRow kMenus[] = {
         {Item, "EDIT", 4, "&Copy", "COPY", "Ctrl+C"},
         {Item, "EDIT", 5, "&Paste", "PASTE", "Ctrl+V"},
         {Separator},
-        {Item, "SELECT", 0, "Select &All", "@SELECTALL", "Ctrl+A"},
-        {Item, "SELECT", 1, "Select Non&e", "@SELECTNONE", "Ctrl+Shift+A"},
-        {Item, "SELECT", 2, "In&vert Selection", "@SELECTINVERTED", "Ctrl+I"},
+        {Words, "SELECT"},
         {Separator},
         {Item, "EDIT", 7, "Create &New Copy", "CREATENEWCOPY"},
         {Item, "EDIT", 8, "Copy Image to Clip&board", "COPYIMAGETOCLIPBOARD"},
@@ -58,10 +58,7 @@ constexpr MenuRow kMenus[] = {
         {Item, "EDIT", 14, "Opt&ions ...", "OPTIONS"},
     {End},
     {Menu, "mnuImage", 0, "&Image"},
-        {Item, "IMAGE", 0, "Image Size ...", "IMAGESIZE"},
-        {Item, "IMAGE", 1, "Canvas Size ...", "CANVASSIZE"},
-        {Item, "IMAGE", 2, "Orientation ...", "IMAGEORIENTATION"},
-        {Item, "IMAGE", 3, "Rotate ...", "IMAGEROTATE"},
+        {Words, "IMAGE"},
         {Separator},
         {Item, "IMAGE", 5, "Restore Original", "RESTOREORIGINAL"},
         {Separator},
@@ -102,13 +99,10 @@ constexpr MenuRow kMenus[] = {
         {Item, "COLORS", 5, "Shift", "SHIFT"},
         {Item, "COLORS", 6, "Sepia Tone", "SEPIATONE"},
         {Item, "COLORS", 7, "Hue Stretch", "HUESTRETCH"},
-        {Item, "COLORS", 8, "Hue Rotation", "HUEROTATION"},
-        {Item, "COLORS", 9, "Grey Rotation", "GREYROTATION"},
+        {Words, "COLORS"},
         {Separator},
         {SubMenu, "mnuReplace", 0, "Replace"},
-            {Item, "REPLACE", 0, "Colors", "REPLACE"},
-            {Item, "REPLACE", 1, "Hue && Saturation", "REPLACEHUESAT"},
-            {Item, "REPLACE", 2, "Luminous", "REPLACELUMINOUS"},
+            {Words, "REPLACE"},
         {End},
         {SubMenu, "mnuSwap", 0, "Swap"},
             {Item, "SWAP", 0, "RGB To BRG", "RGB2BRG"}, {Item, "SWAP", 1, "RGB To GBR", "RGB2GBR"},
@@ -158,10 +152,7 @@ constexpr MenuRow kMenus[] = {
         {Strengths, "SATURATION", 0, "Saturation"},
         {Separator},
         {SubMenu, "mnuAdd", 0, "Add"},
-            {Item, "ADD", 0, "Grid", "ADDGRID"},
-            {Item, "ADD", 1, "Flare", "LENSFLARE"},
-            {Item, "ADD", 2, "Noise", "ADDNOISE"},
-            {Item, "ADD", 3, "Scanlines", "ADDSCANLINES"},
+            {Words, "ADD"},
         {End},
     {End},
     {Menu, "mnuEffects", 0, "Effect&s"},
@@ -170,17 +161,14 @@ constexpr MenuRow kMenus[] = {
         {Item, "EFFECTS", 2, "Mosaic", "MOSAIC"},
         {Item, "EFFECTS", 3, "Contrast", "CONTRAST"},
         {Item, "EFFECTS", 4, "Brightness", "BRIGHTNESS"},
-        {Item, "EFFECTS", 5, "Gamma Correction", "GAMMA"},
+        {Words, "EFFECTS"},
         {Separator},
         {Item, "EFFECTS", 7, "Thermique", "THERMIQUE"},
         {Item, "EFFECTS", 8, "X-Black", "XBLACK"},
         {Item, "EFFECTS", 9, "Photo Cop", "PHOTOCOP"},
         {Separator},
         {SubMenu, "mnuShapes", 0, "Shapes"},
-            {Item, "SHAPES", 0, "Lens", "LENS"}, {Item, "SHAPES", 1, "Waves", "WAVES"},
-            {Item, "SHAPES", 2, "Bend", "BEND"}, {Item, "SHAPES", 3, "Fold", "FOLD"},
-            {Item, "SHAPES", 4, "Rotate", "ROTATE"}, {Item, "SHAPES", 5, "Stretch", "STRETCH"},
-            {Item, "SHAPES", 6, "Tile", "TILE"}, {Item, "SHAPES", 7, "Twirl", "TWIRL"},
+            {Words, "SHAPES"},
         {End},
         {SubMenu, "mnuGlass", 0, "Glass"},
             {Item, "GLASS", 0, "Slanting", "SLANTING"}, {Item, "GLASS", 1, "Horizontal", "HORIZONTAL"},
@@ -209,20 +197,14 @@ constexpr MenuRow kMenus[] = {
         {Item, "TOOLS", 10, "File Associations ...", "@ASSOCIATION"},
         {Separator},
         {SubMenu, "mnuCapture", 0, "Quick Capture"},
-            {Item, "CAPTURE", 0, "Desktop", "CAPTUREDESKTOP"},
-            {Item, "CAPTURE", 1, "Foreground", "CAPTUREFOREGROUND"},
-            {Item, "CAPTURE", 2, "Background", "CAPTUREBACKGROUND"},
+            {Words, "CAPTURE"},
         {End},
         {SubMenu, "mnuWallpaper", 0, "Set as Wallpaper"},
-            {Item, "WALLPAPER", 0, "Tile", "WTILE"},
-            {Item, "WALLPAPER", 1, "Center", "WCENTER"},
-            {Item, "WALLPAPER", 2, "Stretch", "WSTRETCH"},
+            {Words, "WALLPAPER"},
         {End},
     {End},
     {Menu, "mnuViews", 0, "&Views"},
-        {Item, "VIEWS", 0, "Tile Horizontally", "TILEHORIZONTALLY"},
-        {Item, "VIEWS", 1, "Tile Vertically", "TILEVERTICALLY"},
-        {Item, "VIEWS", 2, "Cascade", "CASCADE"},
+        {Words, "VIEWS"},
         {Separator},
         {Item, "VIEWS", 4, "Color Box", "@COLORBOX", "", true},
         {Item, "VIEWS", 5, "Textures Box", "@TEXTURESBOX", "", true},
@@ -307,6 +289,15 @@ constexpr StripRow kStrip[] = {
     {16, "ZoomOut",     "Zoom out (Ctrl+-)",        false, "Ctrl+-"},
 };
 // clang-format on
+static_assert(kStrip[0].number > kMostTools,
+              "src/app/menus/menus.cpp: the buttons below the tools need numbers of their own");
+static_assert(std::ranges::all_of(kMenuParts,
+                                  [](std::string_view part) {
+                                      return std::ranges::count_if(kMenus, [part](const MenuRow& row) {
+                                                 return row.kind == Words && row.array == part;
+                                             }) == 1;
+                                  }),
+              "a part of kMenuParts has no place: add a row {Words, part} to kMenus in src/app/menus/menus.cpp");
 
 /// LIGHT, HEAVY or CUSTOM and the name of the menu, as the vocabulary has it.
 std::string_view strengthWord(const char* strength, std::string_view menu)
@@ -322,6 +313,23 @@ void appendStrengths(std::vector<MenuRow>& all, const MenuRow& row)
                            {Separator},
                            {Item, row.array, 3, "Custom ...", strengthWord("CUSTOM", row.array)},
                            {End}});
+}
+
+/// The words that say themselves that they stand in this part, on numbers that no row of the table has.
+void appendWords(std::vector<MenuRow>& all, MenuRow row)
+{
+    row.kind = Item;
+    const auto isTaken = [&row](const MenuRow& other) {
+        return other.kind == Item && other.array == row.array && other.index == row.index;
+    };
+    for (const CommandWord& word : vocabulary()) {
+        if (word.place.part != row.array) continue;
+        while (std::ranges::any_of(kMenus, isTaken) || std::ranges::any_of(all, isTaken)) ++row.index;
+        row.caption = word.place.caption;
+        row.word = word.word;
+        row.shortcuts = word.place.shortcuts;
+        all.push_back(row);
+    }
 }
 
 void appendItems(std::vector<MenuRow>& all, MenuRow row)
@@ -343,6 +351,8 @@ std::span<const MenuRow> menuRows()
         for (const MenuRow& row : kMenus) {
             if (row.kind == Strengths)
                 appendStrengths(all, row);
+            else if (row.kind == Words)
+                appendWords(all, row);
             else if (row.kind == Items)
                 appendItems(all, row);
             else

@@ -15,6 +15,7 @@ enum class MenuKind {
     End,
     // In the table alone; menuRows() has what they stand for.
     Items,     // as many as the word has
+    Words,     // the words whose place is this part (commands/vocabulary.h)
     Strengths, // a submenu of Light, Heavy and Custom
 };
 

@@ -1,4 +1,5 @@
 #include "app/menus/menus.h"
+#include "commands/vocabulary.h"
 #include "tools/toolRows.h"
 #include <algorithm>
 
@@ -17,12 +18,10 @@ constexpr PictureRow kPictures[] = {
     {"ACQUIRETWAIN", "document-scan"}, {"SELECTSOURCE", "configure"}, {"PRINTPREVIEW", "document-print-preview"},
     {"PRINTERSETUP", "document-properties"}, {"PRINT", "document-print"}, {"@EXIT", "application-exit"},
     {"UNDO", "edit-undo"}, {"REDO", "edit-redo"}, {"CUT", "edit-cut"}, {"COPY", "edit-copy"}, {"PASTE", "edit-paste"},
-    {"@SELECTALL", "edit-select-all"},
-    {"@SELECTNONE", "edit-select-none"}, {"@SELECTINVERTED", "edit-select-invert"}, {"CREATENEWCOPY", "window-duplicate"}, {"COPYIMAGETOCLIPBOARD", "insert-image"},
+    {"CREATENEWCOPY", "window-duplicate"}, {"COPYIMAGETOCLIPBOARD", "insert-image"},
     {"CREATEFROMCLIPBOARD", "edit-paste-in-place"}, {"CROP", "transform-crop"}, {"IMAGEPROPERTIES", "documentinfo"},
     {"OPTIONS", "configure"},
-    {"IMAGESIZE", "transform-scale"}, {"CANVASSIZE", "transform-crop-and-resize"},
-    {"IMAGEORIENTATION", "transform-rotate"}, {"IMAGEROTATE", "object-rotate-right"},
+
     {"RESTOREORIGINAL", "document-revert"}, {"ORIGINAL", "zoom-original"}, {"@ZOOMP", "zoom-in"},
     {"@ZOOMM", "zoom-out"}, {"@QUICKROTATE", "object-rotate-right"}, {"@QUALITYROTATE", "transform-rotate"},
     {"@QUALITYSIZE", "transform-scale"}, {"FLIPH", "object-flip-horizontal"}, {"FLIPV", "object-flip-vertical"},
@@ -30,8 +29,7 @@ constexpr PictureRow kPictures[] = {
     {"IMAGETEXTURES", "texture"}, {"IMAGERESOLUTION", "measure"}, {"IMAGECOLORDEPTH", "color-management"},
     {"TEXTTOOLS", "insert-text-frame"}, {"@ICON", "shapes"}, {"@ASSOCIATION", "document-open-data"},
     {"@WALLPAPER", "viewimage"}, {"@ABOUT", "help-about"}, {"@RESET", "document-save-as-template"},
-    {"TILEHORIZONTALLY", "view-split-top-bottom"}, {"TILEVERTICALLY", "view-split-left-right"},
-    {"CASCADE", "window-duplicate"},
+
     {"INVERT", "invertimage"}, {"GRAYSCALE", ":greyscale"}, {"HAFTONE", ":halftone"}, {"XBLACK", ":xblack"},
     {"PHOTOCOP", ":photocop"}, {"PIXELIZE", ":pixelize"}, {"HORIZONTAL", ":glass"}, {"WWAVES", ":waves"},
     {"LUMPLUS", ":sun_light"}, {"LUMMINUS", ":sun_heavy"}, {"BRIGHTNESS", ":sun_level"},
@@ -40,9 +38,8 @@ constexpr PictureRow kPictures[] = {
     {"LIGHTCONTOUR", ":contour"}, {"LIGHTDIFFUSE", ":diffuse"}, {"LIGHTENGRAVE", ":engrave"},
     {"HEAVYSOFTEN", ":soften"}, {"LIGHTNOISE", ":noise"}, {"HEAVYSATURATION", ":saturation"},
     {"LIGHTSHARPEN", "sharpenimage"}, {"PAINTING", "oilpaint"}, {"SKETCH", "draw-freehand"},
-    {"RGBLEVELS", "adjustrgb"}, {"COLORIZE", "adjusthsl"}, {"GAMMA", "adjustcurves"},
-    {"LENS", "lensdistortion"}, {"WAVES", ":waves"}, {"LENSFLARE", "lensautofix"}, {"ADDGRID", "view-grid"},
-    {"ADDSCANLINES", ":scanlines"}, {"ADDNOISE", ":noise"},
+    {"RGBLEVELS", "adjustrgb"}, {"COLORIZE", "adjusthsl"},
+
     {"MouseScroll", "hand"}, {"ZoomIn", ":zoom_in"}, {"ZoomOut", ":zoom_out"},
 };
 // clang-format on
@@ -53,6 +50,8 @@ std::string_view pictureOf(std::string_view word)
 {
     for (const ToolRow& tool : toolRows())
         if (tool.name == word) return tool.icon;
+    if (const CommandWord* command = findCommandWord(word); command && !command->place.picture.empty())
+        return command->place.picture;
     const auto row = std::ranges::find(kPictures, word, &PictureRow::word);
     return row == std::end(kPictures) ? std::string_view() : row->picture;
 }

@@ -9,6 +9,11 @@
 
 namespace velara::decode {
 
+// The readers in files of their own, read*.cpp; metafiles come at their natural size, 96 dots an inch, drawn on white.
+Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+// What they take from the disk, fetched before the cage closes.
+Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
+
 namespace {
 
 using Mend = void (*)(FileBytes&);
@@ -83,12 +88,16 @@ constexpr const Reader* readerOf(std::string_view extension)
     return reader == std::end(kReaders) ? nullptr : reader;
 }
 // Counted, and not looked for: under the sanitizers a pointer's null is no constant.
-static_assert(std::ranges::all_of(kFormats, [](const Format& format) {
-    return std::ranges::count(kReaders, format.extension, &Reader::extension) == 1;
-}));
-static_assert(std::ranges::all_of(kReaders, [](const Reader& reader) {
-    return std::ranges::count(kFormats, reader.extension, &Format::extension) == 1;
-}));
+static_assert(std::ranges::all_of(kFormats,
+                                  [](const Format& format) {
+                                      return std::ranges::count(kReaders, format.extension, &Reader::extension) == 1;
+                                  }),
+              "a format without its reader: add one row to kReaders in src/fileio/decode/decode.cpp");
+static_assert(std::ranges::all_of(kReaders,
+                                  [](const Reader& reader) {
+                                      return std::ranges::count(kFormats, reader.extension, &Format::extension) == 1;
+                                  }),
+              "a reader without its format: add the row to kFormats in src/fileio/formats.h");
 
 } // namespace
 

@@ -1,5 +1,5 @@
 #include "ui/browse/fAssociation.h"
-#include "fileio/families.h"
+#include "fileio/formats.h"
 #include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>

@@ -1,5 +1,5 @@
 #include "ui/browse/fBrowse.h"
-#include "fileio/families.h"
+#include "fileio/formats.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/Platform.h"

@@ -1,5 +1,5 @@
 #include "ui/widgets/FolderModel.h"
-#include "fileio/families.h"
+#include "fileio/formats.h"
 #include "fileio/nameOrder.h"
 #include "seams/printable.h"
 #include "ui/widgets/ThumbnailIcons.h"
