@@ -1,6 +1,5 @@
 // Takes pictures of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
 // QT_SCALE_FACTOR. Works without a display.
-#include "app/fStartup.h"
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/fMenuStyle.h"
@@ -8,6 +7,7 @@
 #include "app/settings/fPreferences.h"
 #include "app/start/fSplash.h"
 #include "support/RecordingPlatform.h"
+#include "support/ui/startedEditor.h"
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
@@ -243,9 +243,8 @@ int main(int argc, char** argv)
 
     RecordingPlatform platform;
     platform.printers().printers = {{"Office", "Photo"}, "Photo"};
-    platform.onYield = [] { QCoreApplication::processEvents(); };
     Setup setup;
-    const auto frame = startEditor(platform, setup);
+    const auto frame = startedEditor(platform, setup);
     frame->resize(1100, 760);
     settle();
     save(frame->grab(), "frame_empty");

@@ -11,8 +11,8 @@
 #include <QBuffer>
 #include <QDir>
 #include <QIcon>
-#include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <functional>
 
@@ -88,34 +88,62 @@ void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
     if (setup.FrameMaximized) frame.setWindowState(frame.windowState() | Qt::WindowMaximized);
 }
 
-std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
+Startup::Startup(Platform& platform, Setup& setup) : platform_(platform), setup_(setup)
 {
     useResources();
     useIconTheme();
     QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // of boxes that come before the frame, too
-    const QPointer<fSplash> splash = new fSplash(platform);
-    splash->show();
-    platform.yield();
+    splash_ = new fSplash(platform);
+    splash_->show();
+    QTimer::singleShot(0, this, &Startup::step);
+}
 
-    setup = LoadSetup(platform);
-    auto frame = std::make_unique<fMain>(platform, setup);
-    setup.CurrentTool.clear();
-    if (platform.previousInstance()) platform.tell("Velara Studio is already running!");
-    placeFrame(*frame, setup, QByteArray::fromBase64(platform.setting("VeStu", "Place", "").toLatin1()));
-    if (!makeFolders(platform))
-        platform.tell(
-            "The folder \"" + platform.programFolder() +
+Startup::~Startup() { delete splash_; }
+
+void Startup::step()
+try {
+    static constexpr void (Startup::*kSteps[])() = {&Startup::makeFrame, &Startup::placeFrameOnScreen,
+                                                    &Startup::fillFrame, &Startup::showFrame};
+    (this->*kSteps[next_])();
+    if (++next_ == std::size(kSteps)) return emit done();
+    QTimer::singleShot(0, this, &Startup::step);
+} catch (...) {
+    QCoreApplication::exit(EXIT_FAILURE);
+    throw;
+}
+
+void Startup::makeFrame()
+{
+    setup_ = LoadSetup(platform_);
+    frame_ = std::make_unique<fMain>(platform_, setup_);
+    setup_.CurrentTool.clear();
+    if (platform_.previousInstance()) platform_.tell("Velara Studio is already running!");
+}
+
+void Startup::placeFrameOnScreen()
+{
+    placeFrame(*frame_, setup_, QByteArray::fromBase64(platform_.setting("VeStu", "Place", "").toLatin1()));
+    if (!makeFolders(platform_))
+        platform_.tell(
+            "The folder \"" + platform_.programFolder() +
                 "\" can't be written to.\nSteps back stay in memory, as many as fit, and settings will not be kept.",
             Icon::Exclamation);
-    frame->setDialogFolder(setup.ImagesPath.trimmed());
-    frame->FillRecent();
-    frame->bars().loadLayout();
-    frame->applyBars();
-    frame->initToolPanes();
-    frame->show();
-    frame->boxes().showAll();
-    delete splash;
-    return frame;
+}
+
+void Startup::fillFrame()
+{
+    frame_->setDialogFolder(setup_.ImagesPath.trimmed());
+    frame_->FillRecent();
+    frame_->bars().loadLayout();
+    frame_->applyBars();
+    frame_->initToolPanes();
+}
+
+void Startup::showFrame()
+{
+    frame_->show();
+    frame_->boxes().showAll();
+    delete splash_;
 }
 
 } // namespace velara

@@ -1,11 +1,14 @@
-// The entry procedure: everything between the start of the program and its message loop.
+// The entry procedure: everything from the start of the program until its frame is shown.
 #pragma once
 #include "app/frame/fMain.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include <QPointer>
 #include <memory>
 
 namespace velara {
+
+class fSplash;
 
 /// Makes the folders under the program folder that are missing, with their first contents: "Stamps", "Temp", "Images".
 /// False when one of them can't be made or filled.
@@ -15,8 +18,32 @@ bool makeFolders(Platform& platform);
 /// screen the first time. Whatever those say, the frame can be found on a screen.
 void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place = {});
 
-/// Splash, configuration, frame, folders, bars, in that order; the frame stands shown at the end. setup must outlive
-/// it.
-std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup);
+/// The start: splash, configuration, frame, folders, bars, in that order. Each step comes from the event loop, so that
+/// the splash is painted and takes a click meanwhile. A step that throws ends the program.
+class Startup final : public QObject {
+    Q_OBJECT
+  public:
+    /// Shows the splash. platform and setup must outlive the frame.
+    Startup(Platform& platform, Setup& setup);
+    ~Startup() override;
+    /// After done(); it stands shown.
+    std::unique_ptr<fMain> takeFrame() { return std::move(frame_); }
+
+  signals:
+    void done();
+
+  private:
+    void step();
+    void makeFrame();
+    void placeFrameOnScreen();
+    void fillFrame();
+    void showFrame();
+
+    Platform& platform_;
+    Setup& setup_;
+    QPointer<fSplash> splash_;
+    std::unique_ptr<fMain> frame_;
+    std::size_t next_ = 0;
+};
 
 } // namespace velara

@@ -6,6 +6,7 @@
 #include "platform/desktop/QtPlatform.h"
 #include <QApplication>
 #include <QLoggingCategory>
+#include <optional>
 
 namespace {
 
@@ -36,8 +37,14 @@ int main(int argc, char** argv)
     application.setStyle(new velara::fMenuStyle);
     velara::QtPlatform platform;
     velara::Setup setup;
-    const auto frame = velara::startEditor(platform, setup);
-    const velara::SessionEnd sessionEnd(*frame);
-    QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+    velara::Startup startup(platform, setup);
+    std::unique_ptr<velara::fMain> frame;
+    std::optional<velara::SessionEnd> sessionEnd;
+    QObject::connect(&startup, &velara::Startup::done, &application, [&] {
+        frame = startup.takeFrame();
+        sessionEnd.emplace(*frame);
+        QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit,
+                         Qt::QueuedConnection);
+    });
     return application.exec();
 }

@@ -18,7 +18,7 @@ BackgroundQueue::~BackgroundQueue()
     for (std::thread& thread : threads_) thread.join();
 }
 
-BackgroundQueue::Request BackgroundQueue::addTask(std::function<void(const GoOn&)> work, std::function<void()> done)
+BackgroundQueue::Request BackgroundQueue::add(std::function<void(const GoOn&)> work, std::function<void()> done)
 {
     auto task = std::make_shared<Task>();
     task->work = std::move(work);
@@ -48,7 +48,11 @@ void BackgroundQueue::run()
             tasks_.pop_back();
         }
         if (!task->wanted) continue;
-        task->work([&](auto) { return task->wanted && !ends_; });
+        try {
+            task->work([&](auto) { return task->wanted && !ends_; });
+        } catch (const std::exception& failure) { // the answer comes, without a result
+            qWarning("velara-studio: %s", failure.what());
+        }
         const auto tell = [task] {
             if (const std::function<void()> done = task->done) done(); // which may let go of the request
         };

@@ -1,7 +1,8 @@
 // BackgroundQueue: threads for work that takes its time, what was asked for last first.
 #pragma once
-#include "fileio/load/PictureLoader.h"
+#include "seams/GoOn.h"
 #include <QObject>
+#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -13,7 +14,7 @@ namespace velara {
 
 class BackgroundQueue {
   public:
-    /// Runs in a thread of the queue; is to end soon once goOn says no.
+    /// Runs in a thread of the queue; is to end soon once goOn says no. Where it throws the answer is a default Result.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
     /// Whoever lets go of it gives the work up: no answer comes then.
     using Request = std::shared_ptr<void>;
@@ -26,16 +27,16 @@ class BackgroundQueue {
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
     /// done comes in the thread that made the queue, never during the call.
+    Request add(std::function<void(const GoOn&)> work, std::function<void()> done);
     template <class Result> Request add(Work<Result> work, std::function<void(const Result&)> done)
     {
         auto result = std::make_shared<Result>();
-        return addTask([work = std::move(work), result](const GoOn& goOn) { *result = work(goOn); },
+        return add([work = std::move(work), result](const GoOn& goOn) { *result = work(goOn); },
                        [done = std::move(done), result] { done(*result); });
     }
 
   private:
     struct Task;
-    Request addTask(std::function<void(const GoOn&)> work, std::function<void()> done);
     void run();
 
     QObject answers_; // they come in the thread that made this

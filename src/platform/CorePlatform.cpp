@@ -1,4 +1,5 @@
 #include "platform/CorePlatform.h"
+#include "fileio/load/PictureLoader.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

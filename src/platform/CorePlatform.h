@@ -1,7 +1,7 @@
 // The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
 // picture files. QtPlatform and WindowlessPlatform add the rest.
 #pragma once
-#include "fileio/load/PictureLoader.h"
+#include "platform/BackgroundQueue.h"
 #include "seams/Platform.h"
 #include <random>
 
@@ -20,6 +20,10 @@ class CorePlatform : public Platform {
     bool previousInstance() override;
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
+    Request inBackground(std::function<void(const GoOn&)> work, std::function<void()> done) override
+    {
+        return background_.add(std::move(work), std::move(done));
+    }
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
@@ -32,6 +36,7 @@ class CorePlatform : public Platform {
     std::mt19937_64 random_;
     QString programFolder_, decoder_;
     int instance_ = -1; // the locked file of the session
+    BackgroundQueue background_; // last: its work may read pictures until it has ended
 };
 
 /// executableFolder where files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio

@@ -1,5 +1,6 @@
 #include "platform/FilePreviews.h"
 #include "fileio/formats.h"
+#include "fileio/load/PictureLoader.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include <QFileInfo>
 

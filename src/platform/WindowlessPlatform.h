@@ -1,5 +1,5 @@
-// WindowlessPlatform: the machine without a window. Dialogs are cancelled, nothing yields, and there is no clipboard;
-// what becomes of messages is the program's own affair.
+// WindowlessPlatform: the machine without a window. Dialogs are cancelled, and there is no clipboard; what
+// becomes of messages is the program's own affair.
 #pragma once
 #include "platform/CorePlatform.h"
 #include "platform/NoDesktop.h"
@@ -9,7 +9,6 @@ namespace velara {
 
 class WindowlessPlatform : public CorePlatform {
   public:
-    void yield() override {}
     Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
     std::optional<QString> openFileName(const FileDialog&) override { return {}; }
     std::optional<QString> saveFileName(const FileDialog&) override { return {}; }

@@ -1,7 +1,9 @@
-// Machine: what the program asks of the computer that it runs on and of its message loop.
+// Machine: what the program asks of the computer that it runs on.
 #pragma once
+#include "seams/GoOn.h"
 #include <QString>
 #include <cstdint>
+#include <memory>
 
 namespace velara {
 
@@ -21,8 +23,12 @@ class Machine {
     /// Per-user value under (executable name, section, key).
     virtual QString setting(const QString& section, const QString& key, const QString& otherwise) = 0;
     virtual void setSetting(const QString& section, const QString& key, const QString& value) = 0;
-    /// Handles what waits in the message loop. Re-entry is legal: any command may run inside.
-    virtual void yield() = 0;
+
+    /// Whoever lets go of it gives the work up: goOn says no, and no answer comes.
+    using Request = std::shared_ptr<void>;
+    /// Does work in a thread beside the window's, one after the other; then done comes from the event loop, never during
+    /// the call. work knows no window, and is to end soon once goOn says no.
+    virtual Request inBackground(std::function<void(const GoOn& goOn)> work, std::function<void()> done) = 0;
 };
 
 } // namespace velara

@@ -1,9 +1,8 @@
 // PictureReader: picture files, read where they can do no harm.
 #pragma once
 #include "pixels/Bits.h"
+#include "seams/GoOn.h"
 #include <QString>
-#include <chrono>
-#include <functional>
 
 namespace velara {
 
@@ -14,9 +13,6 @@ struct LoadedPicture {
     QString reason;
     bool ok() const { return !bits.isNull(); }
 };
-
-/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
-using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
 class PictureReader {
   public:

@@ -1,6 +1,8 @@
 #include "support/RecordingPlatform.h"
 #include "pixels/images.h"
+#include <QCoreApplication>
 #include <QImage>
+#include <QThread>
 
 namespace velara {
 
@@ -23,12 +25,6 @@ QString RecordingPlatform::setting(const QString& section, const QString& key, c
 void RecordingPlatform::setSetting(const QString& section, const QString& key, const QString& value)
 {
     settings[section + "/" + key] = value;
-}
-
-void RecordingPlatform::yield()
-{
-    ++yields;
-    if (onYield) onYield();
 }
 
 void RecordingPlatform::message(const QString& title, const QString& text, Icon icon)
@@ -64,7 +60,7 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
 
 LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {
-    log.push_back(("load: " + path).toStdString());
+    if (QThread::currentThread() == qApp->thread()) log.push_back(("load: " + path).toStdString());
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
     return {bitsOf(image), loadNote};

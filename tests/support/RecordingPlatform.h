@@ -1,6 +1,7 @@
 // RecordingPlatform: the outside world of tests. Writes down what the program asks and answers from a queue, so that
 // every message, dialog and path of a command can be tested without a window.
 #pragma once
+#include "platform/BackgroundQueue.h"
 #include "seams/Platform.h"
 #include "support/RecordingDesktop.h"
 #include "support/RecordingFonts.h"
@@ -20,11 +21,10 @@ class RecordingPlatform : public Platform {
     /// "yes" and "no".
     std::deque<std::optional<QString>> answers;
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
+    /// "load: PATH" (on the window's thread), "clipboard: set", "clipboard: clear".
     std::vector<std::string> log;
-    int yields = 0;
-    std::function<void()> onYield, onAsk; // onAsk: a dialog stands
-    QString loadNote;                     // of every picture that is read
+    std::function<void()> onAsk; // a dialog stands
+    QString loadNote;            // of every picture that is read
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
@@ -41,7 +41,10 @@ class RecordingPlatform : public Platform {
     bool previousInstance() override { return false; }
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
-    void yield() override;
+    Request inBackground(std::function<void(const GoOn&)> work, std::function<void()> done) override
+    {
+        return background_.add(std::move(work), std::move(done));
+    }
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;
@@ -66,6 +69,7 @@ class RecordingPlatform : public Platform {
     RecordingPrinters printers_;
     /// Writes the line down. \returns the next answer
     std::optional<QString> ask(const QString& line);
+    BackgroundQueue background_; // last: its work may ask for pictures
 };
 
 } // namespace velara

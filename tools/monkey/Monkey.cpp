@@ -1,5 +1,5 @@
 #include "tools/monkey/Monkey.h"
-#include "app/fStartup.h"
+#include "support/ui/startedEditor.h"
 #include <QApplication>
 #include <QThread>
 #include <QTimerEvent>
@@ -96,7 +96,7 @@ int Monkey::run()
 void Monkey::begin()
 {
     journal_.add("\nthe editor starts");
-    frame_ = startEditor(platform_, setup_);
+    frame_ = startedEditor(platform_, setup_);
     frame_->workspace().engine().clock = [this] { return clock_ += 7; }; // from all threads
     QObject::connect(frame_.get(), &fMain::closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     blocks_.next();

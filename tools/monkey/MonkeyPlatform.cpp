@@ -1,7 +1,6 @@
 #include "tools/monkey/MonkeyPlatform.h"
 #include "platform/desktop/dialogs/boxes.h"
 #include "support/pictures.h"
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -77,8 +76,6 @@ void MonkeyPlatform::change(Dice& dice)
     scanner().range = {{"Color", "Gray"}, "Color", {75, 150}, false, 75, {210, 297}};
     scanner().write = [](const QString& path) { drawn({80, 60}).save(path, "BMP"); };
 }
-
-void MonkeyPlatform::yield() { QCoreApplication::processEvents(); }
 
 void MonkeyPlatform::stand(const QString& title)
 {

@@ -22,7 +22,6 @@ class MonkeyPlatform final : public RecordingPlatform {
     void change(Dice& dice);
 
     std::uint32_t milliseconds() override { return now += 3; }
-    void yield() override;
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;

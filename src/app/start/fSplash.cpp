@@ -6,24 +6,22 @@
 #include <QBuffer>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPointer>
 
 namespace velara {
 
 fSplash::fSplash(Platform& platform, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), platform_(platform)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), platform_(platform), ripples_(splashPicture())
 {
     setObjectName("fSplash");
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
-    const QImage picture = splashPicture();
+    const QImage& picture = ripples_.picture();
     const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");
     // Not read back: what stands there by then may be somebody else's, and the picture is at hand.
     overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
-    ripples_ = std::make_shared<Ripples>(picture);
     setFixedSize(picture.size());
     Timer1.setInterval(1);
     connect(&Timer1, &QTimer::timeout, this, &fSplash::tick);
@@ -33,7 +31,7 @@ void fSplash::showFacts()
 {
     auto* facts = new fAboutFacts(this);
     connect(facts, &fAboutFacts::closed, this, &fSplash::close);
-    const QSize picture = ripples_->picture().size();
+    const QSize picture = ripples_.picture().size();
     const int room = facts->heightForWidth(picture.width());
     facts->setGeometry(0, picture.height(), picture.width(), room);
     setFixedSize(picture + QSize(0, room));
@@ -41,28 +39,29 @@ void fSplash::showFacts()
 
 void fSplash::paintEvent(QPaintEvent*)
 {
-    const QImage& picture = ripples_->picture();
+    const QImage& picture = ripples_.picture();
     QPainter(this).drawImage(picture.rect(), picture);
 }
 
+/// Many ripples take several ticks, so that presses keep coming.
 void fSplash::tick()
 {
-    const QPointer<fSplash> self = this;
-    const std::shared_ptr<Ripples> ripples = ripples_;
-    Platform& platform = platform_;
-    ripples->tick([&] { return platform.random(); }, [&] { platform.yield(); });
-    if (self) update();
+    constexpr std::uint32_t kAtMost = 8; // milliseconds
+    const std::uint32_t begin = platform_.milliseconds();
+    while (!ripples_.drawNext([this] { return platform_.random(); }))
+        if (platform_.milliseconds() - begin >= kAtMost) return;
+    update();
 }
 
 void fSplash::mousePressEvent(QMouseEvent* event)
 {
-    ripples_->add(event->pos().x(), event->pos().y());
+    ripples_.add(event->pos().x(), event->pos().y());
     Timer1.start();
 }
 
 void fSplash::mouseMoveEvent(QMouseEvent* event)
 {
-    if (event->buttons() & Qt::LeftButton) ripples_->add(event->pos().x(), event->pos().y());
+    if (event->buttons() & Qt::LeftButton) ripples_.add(event->pos().x(), event->pos().y());
 }
 
 void fSplash::mouseReleaseEvent(QMouseEvent*) { close(); }

@@ -3,7 +3,6 @@
 #include "app/start/ripples.h"
 #include <QDialog>
 #include <QTimer>
-#include <memory>
 
 namespace velara {
 
@@ -27,7 +26,7 @@ class fSplash final : public QDialog {
     void tick();
 
     Platform& platform_;
-    std::shared_ptr<Ripples> ripples_; // shared with a tick that yields while the window may go
+    Ripples ripples_;
     QTimer Timer1;
 };
 

@@ -33,24 +33,26 @@ void Ripples::draw(const Ripple& ripple, int size)
     constexpr double kPi = 3.14159265358979;
     for (int degree = 0; degree <= 360; ++degree) {
         const double angle = degree * kPi / 180;
-        copyShifted(source_, shown_, roundEven(ripple.radius * std::cos(angle) + ripple.x),
+        copyShifted(source_, drawn_, roundEven(ripple.radius * std::cos(angle) + ripple.x),
                     roundEven(ripple.radius * std::sin(angle) + ripple.y), size);
     }
 }
 
-void Ripples::tick(const std::function<double()>& random, const std::function<void()>& yield)
+bool Ripples::drawNext(const std::function<double()>& random)
 {
-    shown_ = source_;
-    for (std::size_t i = std::size_t(first_); i < list_.size(); ++i) { // by index: a yield may add some
-        const int size = roundEven(2 * random()) + list_[i].size;
-        draw(list_[i], size);
-        yield();
-        Ripple& ripple = list_[i];
+    if (next_ == first_) drawn_ = source_;
+    if (next_ < count()) {
+        Ripple& ripple = list_[next_++];
+        draw(ripple, roundEven(2 * random()) + ripple.size);
         ripple.radius = static_cast<std::int16_t>(ripple.radius + 3);
         if (ripple.size > 1) --ripple.size;
     }
-    for (int i = first_; i < count(); ++i)
-        if (list_[std::size_t(i)].radius >= limit_) first_ = i + 1;
+    if (next_ < count()) return false;
+    shown_ = drawn_;
+    for (std::size_t i = first_; i < count(); ++i)
+        if (list_[i].radius >= limit_) first_ = i + 1;
+    next_ = first_;
+    return true;
 }
 
 } // namespace velara

@@ -12,13 +12,14 @@ class Ripples {
     explicit Ripples(const QImage& picture);
 
     void add(int x, int y) { list_.push_back({x, y}); }
-    /// One step of all live ripples, into picture(). random gives [0, 1); yield runs once a ripple and may add ripples.
-    void tick(const std::function<double()>& random, const std::function<void()>& yield);
+    /// Draws one live ripple more of a step, by size from 0 to 2 larger than it is (random gives [0, 1)), and lets it
+    /// grow. Ripples that are added meanwhile belong to the step. True: that was the last, and picture() has them all.
+    bool drawNext(const std::function<double()>& random);
 
     const QImage& picture() const { return shown_; }
     /// Index of the first ripple that still grows.
-    int firstLive() const { return first_; }
-    int count() const { return static_cast<int>(list_.size()); }
+    std::size_t firstLive() const { return first_; }
+    std::size_t count() const { return list_.size(); }
 
   private:
     struct Ripple {
@@ -28,9 +29,10 @@ class Ripples {
 
     void draw(const Ripple& ripple, int size);
 
-    QImage source_, shown_;
+    QImage source_, drawn_, shown_; // drawn_: the step under way
     std::vector<Ripple> list_;
-    int first_ = 0, limit_;
+    std::size_t first_ = 0, next_ = 0;
+    int limit_;
 };
 
 } // namespace velara

@@ -108,10 +108,11 @@ QRect Capture::areaOf(int mode, const ScreenPicture& picture) const
 
 void Capture::capturePic(int mode)
 {
-    frame_.platform().yield();
-    if (mode == Rectangle) return makeDocument(picker_->picRectangle());
-    grab([this, mode](const ScreenPicture& picture) {
-        makeDocument(partOf(picture.bits, areaOf(mode, picture)), picture.reason);
+    QTimer::singleShot(0, this, [this, mode, picked = picker_->picRectangle()] {
+        if (mode == Rectangle) return makeDocument(picked);
+        grab([this, mode](const ScreenPicture& picture) {
+            makeDocument(partOf(picture.bits, areaOf(mode, picture)), picture.reason);
+        });
     });
 }
 

@@ -26,7 +26,7 @@ class Capture final : public QObject {
     // --- The command words
     void desktop();
     void background();
-    /// At once.
+    /// As soon as the menu that the word came from has closed.
     void capturePic(int mode);
 
     /// The dialog, once.

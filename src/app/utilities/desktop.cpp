@@ -7,6 +7,7 @@
 #include "ui/utilities/fSource.h"
 #include <QFile>
 #include <QPointer>
+#include <QTimer>
 
 namespace velara {
 
@@ -55,13 +56,14 @@ void acquire(fMain& frame)
     const QString path = frame.platform().programFolder() + "/temp.bmp";
     auto* dialog = new fAcquire(frame.platform(), path, &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &fAcquire::acquired, &frame, [&frame, path] {
-        frame.platform().yield();
+    const auto take = [&frame, path] {
         const LoadedPicture loaded = frame.platform().loadPicture(path, "bmp");
         QFile::remove(path);
         if (!loaded.ok()) return showScannerFailure(frame.platform());
         frame.adopt(loaded.bits, "Scan.bmp");
-    });
+    };
+    // Once the dialog's place is painted.
+    QObject::connect(dialog, &fAcquire::acquired, &frame, [&frame, take] { QTimer::singleShot(0, &frame, take); });
     dialog->open();
 }
 

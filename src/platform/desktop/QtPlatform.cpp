@@ -11,8 +11,6 @@ GoOn QtPlatform::whileReading(const QString& name)
     return [box = std::make_shared<ReadingBox>(name, parentOfDialogs())](auto waited) { return box->goOn(waited); };
 }
 
-void QtPlatform::yield() { QCoreApplication::processEvents(); }
-
 void QtPlatform::message(const QString& title, const QString& text, Icon icon)
 {
     showBox(title, text, icon, QMessageBox::Ok);

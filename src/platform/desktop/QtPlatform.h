@@ -14,8 +14,6 @@ namespace velara {
 
 class QtPlatform : public CorePlatform {
   public:
-    void yield() override;
-
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;

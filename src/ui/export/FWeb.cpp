@@ -27,7 +27,6 @@ namespace velara {
 namespace {
 
 constexpr int kBothTab = 2;
-constexpr std::uint32_t kBetweenYields = 15; // milliseconds
 constexpr int kMostQuality = 32767;
 
 /// A combo box takes an entry without telling.
@@ -61,9 +60,11 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
     isrc_->setBits(picture_);
     oSrc_->setBits(optimizedBits_);
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &FWeb::run);
+    connect(&timer_, &QTimer::timeout, this, &FWeb::next);
     resize(900, 620);
 }
+
+FWeb::~FWeb() { end(); }
 
 QString FWeb::temporaryName() const
 {
@@ -117,115 +118,139 @@ void FWeb::customQuality()
 
 // --- Files
 
+/// What becomes of a file, and the picture as a reader sees it.
+struct FWeb::Written {
+    WebSettings settings;
+    QString name;
+    bool isFinal = false;
+    WebFile file = {};
+    Bits shown = {};
+    double decibels = 0; // of a picture that kept its size
+};
+
+namespace {
+
+ReduceProgress untilGivenUp(const GoOn& goOn)
+{
+    return [&goOn](int) {
+        if (!goOn({})) throw Cancelled();
+    };
+}
+
+bool keptItsSize(const Bits& picture, const Bits& shown)
+{
+    return picture.width() == shown.width() && picture.height() == shown.height();
+}
+
+} // namespace
+
 /// All changes until the message loop is idle are one.
 void FWeb::changed()
 {
-    again_ = stop_ = true;
+    again_ = true;
+    request_.reset();
     note_.clear();
     setStale(true);
-    if (!running_) timer_.start(0);
+    timer_.start(0);
 }
 
 /// A button was pressed. It doesn't wait for a preview, but "Save As" for the quality that "Fit" looks for.
 void FWeb::ask(Work work)
 {
-    timer_.stop();
     next_ = work;
-    stop_ |= !(work == Work::Save && now_ == Work::Fit);
-    run(); // at once, or when what is under way has ended
-}
-
-/// Yields now and then, and ends the work when it is not wanted any more.
-ReduceProgress FWeb::yielding()
-{
-    return [this, alive = QPointer<FWeb>(this)](int) {
-        if (const std::uint32_t now = platform_.milliseconds(); now - lastYield_ >= kBetweenYields) {
-            platform_.yield();
-            if (alive) lastYield_ = platform_.milliseconds();
-        }
-        if (!alive || stop_) throw Cancelled();
-    };
+    if (work != Work::Save || now_ != Work::Fit) request_.reset();
+    next();
 }
 
 /// One work after the other, until there is none.
-void FWeb::run()
+void FWeb::next()
 {
-    if (running_) return;
-    const QPointer<FWeb> alive = this;
-    running_ = true;
-    while (alive && !closing_ && (next_ != Work::Preview || again_)) {
-        stop_ = false;
-        switch (now_ = std::exchange(next_, Work::Preview)) {
-        case Work::Preview:
-            write();
-            break;
-        case Work::Fit:
-            fitSize();
-            break;
-        case Work::Save:
-            saveAs();
-        }
+    if (request_) return;
+    timer_.stop();
+    switch (std::exchange(next_, Work::Preview)) {
+    case Work::Preview:
+        if (again_) write();
+        break;
+    case Work::Fit:
+        fitSize();
+        break;
+    case Work::Save:
+        saveAs();
     }
-    if (!alive) return;
-    running_ = false;
-    if (closing_) QDialog::reject();
+}
+
+void FWeb::begin(Work work, std::function<void(const GoOn&)> does, std::function<void()> done)
+{
+    now_ = work;
+    showWaiting(true);
+    request_ = platform_.inBackground(std::move(does), [this, done = std::move(done)] {
+        end();
+        done();
+    });
+}
+
+/// Gives up what is under way.
+void FWeb::end()
+{
+    request_.reset();
+    showWaiting(false);
 }
 
 void FWeb::write(const QString& finalName)
 {
+    const bool isFinal = !finalName.isEmpty();
+    const auto file = std::make_shared<Written>(Written{settings_, isFinal ? finalName : temporaryName(), isFinal});
+    const auto does = [file, picture = picture_, palettes = palettes_, &reader = platform_](const GoOn& goOn) {
+        file->file =
+            writeWebFile(picture, file->settings, file->name,
+                         file->isFinal ? OutputFile::Links::Follow : OutputFile::Links::Replace, untilGivenUp(goOn),
+                         palettes.get());
+        if (file->file.outcome != WebFile::Outcome::Written) return;
+        file->shown = reader.loadPicture(file->name, file->settings.extension(), goOn).bits;
+        if (keptItsSize(file->file.source, file->shown))
+            file->decibels = peakSignalToNoise(file->file.source, file->shown);
+    };
+    begin(isFinal ? Work::Save : Work::Preview, does, [this, file] { written(*file); });
+}
+
+void FWeb::written(const Written& written)
+{
     const QPointer<FWeb> alive = this;
-    const QString name = finalName.isEmpty() ? temporaryName() : finalName;
-    const WebSettings settings = settings_; // a change meanwhile is for the next one
-    const bool wanted = std::exchange(again_, false);
-    showWaiting(true);
-    const WebFile file = writeWebFile(picture_, settings, name,
-                                      finalName.isEmpty() ? OutputFile::Links::Replace : OutputFile::Links::Follow,
-                                      yielding(), &palettes_);
-    LoadedPicture shown; // the file as a reader sees it
-    if (alive && file.outcome == WebFile::Outcome::Written)
-        shown = platform_.loadPicture(name, settings.extension(), [go = yielding()](auto) {
-            try {
-                go(100);
-                return true;
-            } catch (const Cancelled&) {
-                return false;
-            }
-        });
-    if (!alive) {
-        QGuiApplication::restoreOverrideCursor();
-        return;
-    }
-    showWaiting(false);
-    if (shown.ok() && !again_)
-        showFile(settings, file, shown.bits);
-    else if (stop_ || !finalName.isEmpty())
-        again_ |= wanted; // what was shown stays until the next
+    const WebFile& file = written.file;
+    if (!written.shown.isNull()) showFile(written);
+    if (!written.shown.isNull() || !written.isFinal) again_ = false; // what was shown stays until the next
     if (file.outcome == WebFile::Outcome::NoBitmap)
         platform_.message(QStringLiteral("Please Choose a higher image format!"),
                           QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
-    if (file.outcome != WebFile::Outcome::Failed) return;
-    const QString why = file.reason.isEmpty() ? QString() : QStringLiteral(": ") + file.reason;
-    const QString fault = tr("%1 can't be written%2.").arg(printable(QFileInfo(name).fileName()), why);
-    finalName.isEmpty() ? say(fault) : platform_.tell(fault, Icon::Exclamation);
+    if (alive && file.outcome == WebFile::Outcome::Failed) {
+        const QString why = file.reason.isEmpty() ? QString() : QStringLiteral(": ") + file.reason;
+        const QString fault = tr("%1 can't be written%2.").arg(printable(QFileInfo(written.name).fileName()), why);
+        written.isFinal ? platform_.tell(fault, Icon::Exclamation) : say(fault);
+    }
+    if (!alive) return;
+    if (written.isFinal) {
+        choices_->setEnabled(true);
+        CmdSave_->setFocus();
+    }
+    next();
 }
 
-void FWeb::showFile(const WebSettings& settings, const WebFile& file, const Bits& shown)
+void FWeb::showFile(const Written& written)
 {
-    optimizedBits_ = shown;
+    const WebSettings& settings = written.settings;
+    optimizedBits_ = written.shown;
     oSrc_->setBits(optimizedBits_);
     if (sT_->currentIndex() == kBothTab) optimized_->setBits(optimizedBits_);
     for (QLabel* label : {FileType2_, FileType4_}) label->setText(settings.typeText());
     for (QLabel* label : {Depth2_, Depth4_}) label->setText(settings.depthText());
-    if (const auto size = settings.sizeText(file.bytes))
+    if (const auto size = settings.sizeText(written.file.bytes))
         for (QLabel* label : {FileSize2_, FileSize4_}) label->setText(*size);
     setStale(false);
-    QStringList parts{tr("%L1 bytes").arg(file.bytes)};
+    QStringList parts{tr("%L1 bytes").arg(written.file.bytes)};
     if (const qint64 before = path_.isEmpty() ? 0 : QFileInfo(path_).size(); before > 0)
-        parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(file.bytes) / double(before)));
-    if (file.source.width() == optimizedBits_.width() && file.source.height() == optimizedBits_.height()) {
-        const double decibels = peakSignalToNoise(file.source, optimizedBits_);
-        parts += std::isinf(decibels) ? tr("no loss") : tr("%1 dB").arg(decibels, 0, 'f', 1);
-    }
+        parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
+    if (keptItsSize(written.file.source, optimizedBits_))
+        parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
@@ -244,6 +269,7 @@ void FWeb::say(const QString& text)
 
 void FWeb::showWaiting(bool waiting)
 {
+    if (waiting != busy_->isHidden()) return;
     busy_->setVisible(waiting);
     if (waiting)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -253,37 +279,41 @@ void FWeb::showWaiting(bool waiting)
 
 void FWeb::fitSize()
 {
-    const QPointer<FWeb> alive = this;
-    const std::int64_t most = std::int64_t{fit_->value()} * 1024;
     note_.clear();
-    showWaiting(true);
-    const std::optional<int> quality = bestJpegQuality(picture_, most, yielding());
-    if (!alive) return QGuiApplication::restoreOverrideCursor();
-    showWaiting(false);
-    if (stop_) return;
-    if (!quality) {
+    const std::int64_t most = std::int64_t{fit_->value()} * 1024;
+    const auto quality = std::make_shared<std::optional<int>>();
+    const auto does = [quality, most, picture = picture_](const GoOn& goOn) {
+        *quality = bestJpegQuality(picture, most, untilGivenUp(goOn));
+    };
+    begin(Work::Fit, does, [this, quality] { fitted(*quality); });
+}
+
+void FWeb::fitted(std::optional<int> quality)
+{
+    if (quality) {
+        TxtJPG_->setText(QString::number(*quality));
+        customQuality();
+    } else {
         next_ = Work::Preview; // a file that is too large is not what was to be saved
         note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
-        return say(note_);
+        say(note_);
     }
-    TxtJPG_->setText(QString::number(*quality));
-    customQuality();
+    next();
 }
 
 void FWeb::saveAs()
 {
     const QPointer<FWeb> alive = this;
+    showWaiting(false);
     FileDialog dialog{QStringLiteral("Save Optimized As"), settings_.saveFilter()};
     dialog.extension = settings_.extension();
     const auto fileOf = [extension = dialog.extension](const QString& name) { return withExtension(name, extension); };
     dialog.writtenAs = fileOf;
     const auto name = platform_.saveFileName(dialog);
-    if (!alive || !name || closing_) return;
+    if (!alive || !isVisible()) return;
+    if (!name) return next();
     choices_->setEnabled(false); // what is being written is what was asked for
     write(fileOf(*name));
-    if (!alive) return;
-    choices_->setEnabled(true);
-    CmdSave_->setFocus();
 }
 
 void FWeb::pageChosen(int page)
@@ -296,9 +326,9 @@ void FWeb::pageChosen(int page)
 
 void FWeb::reject()
 {
-    closing_ = stop_ = true;
+    end();
     timer_.stop();
-    if (!running_) QDialog::reject();
+    QDialog::reject();
 }
 
 } // namespace velara

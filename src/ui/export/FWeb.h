@@ -1,9 +1,10 @@
 // FWeb: the dialog "Customized Save Options ": what the picture looks like in a file of a preset, beside the original,
-// and how large that file is. Each change writes the file, reads it back and shows it; one file at a time: a change,
-// "Save As" or "Fit" while one is written ends that one. What is told of an older file is grey until the new one
-// stands.
+// and how large that file is. Each change writes the file and reads it back, in the background, and shows it; one file
+// at a time: a change, "Save As" or "Fit" while one is written gives that one up. What is told of an older file is grey
+// until the new one stands.
 #pragma once
 #include "fileio/web/webFile.h"
+#include "seams/Machine.h"
 #include "ui/widgets/fPicturePage.h"
 #include <QDialog>
 #include <QTimer>
@@ -28,9 +29,11 @@ class FWeb final : public QDialog {
     /// name is what the document is called; path its own file, if there is one.
     FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent = nullptr);
 
+    ~FWeb() override;
+
     const WebSettings& settings() const { return settings_; }
-    bool isRunning() const { return running_ || timer_.isActive(); }
-    /// Exit, Esc and the window's cross: ends what is under way.
+    bool isRunning() const { return request_ || timer_.isActive(); }
+    /// Exit, Esc and the window's cross: gives up what is under way.
     void reject() override;
 
   private:
@@ -48,33 +51,34 @@ class FWeb final : public QDialog {
     void pageChosen(int page);
 
     enum class Work { Preview, Fit, Save };
+    struct Written;
     void changed();
     void ask(Work work);
-    void run();
+    void next();
+    void end();
+    void begin(Work work, std::function<void(const GoOn&)> does, std::function<void()> done);
     void fitSize();
+    void fitted(std::optional<int> quality);
     void saveAs();
     /// Writes to a temporary file, or under the chosen name, and shows it.
     void write(const QString& finalName = {});
-    void showFile(const WebSettings& settings, const WebFile& file, const Bits& shown);
+    void written(const Written& written);
+    void showFile(const Written& written);
     void showWaiting(bool waiting);
     void setStale(bool stale);
     void say(const QString& text);
-    ReduceProgress yielding();
     QString temporaryName() const;
 
     Platform& platform_;
     Bits picture_, optimizedBits_;
     QString path_;
     WebSettings settings_;
-    BestPalettes palettes_;
+    std::shared_ptr<BestPalettes> palettes_ = std::make_shared<BestPalettes>(); // of the work in the background
     QTimer timer_;
+    Machine::Request request_; // what is under way
     Work now_ = Work::Preview, next_ = Work::Preview;
-    bool running_ = false;
-    bool again_ = false;   // a preview is wanted
-    bool stop_ = false;    // what is under way is not wanted any more
-    bool closing_ = false; // the dialog goes when it has ended
-    QString note_;         // said in place of the exact size
-    std::uint32_t lastYield_ = 0;
+    bool again_ = false; // a preview is wanted
+    QString note_;       // said in place of the exact size
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;
     QTabWidget* sT_ = nullptr;

@@ -1,11 +1,11 @@
 // Opening, saving, the recent list, drops, clipboard, and the end of the frame.
-#include "app/fStartup.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
 #include "support/files.h"
 #include "support/freeMemory.h"
 #include "support/fullDisk.h"
+#include "support/ui/startedEditor.h"
 #include <QtTest>
 #include <QtWidgets>
 
@@ -391,15 +391,22 @@ TEST(StartTest, TheFrameComesBackWhereItStood)
 TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
 {
     struct ReadOnly : RecordingPlatform {
+        QStringList shown; // before the frame
         QString programFolder() override { return "/proc/velara"; }
         bool previousInstance() override
         {
             EXPECT_FALSE(QGuiApplication::windowIcon().isNull()) << "the box of that comes before the frame";
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (window->isVisible()) {
+                    shown += window->objectName();
+                    QTest::mouseClick(window, Qt::LeftButton); // closes the splash
+                }
             return false;
         }
     } platform;
     velara::Setup setup;
-    const auto frame = startEditor(platform, setup);
+    const auto frame = startedEditor(platform, setup);
+    EXPECT_EQ(platform.shown, QStringList("fSplash"));
     EXPECT_TRUE(frame->isVisible());
     EXPECT_TRUE(std::ranges::any_of(platform.log, [](const std::string& line) {
         return line.starts_with("message: Velara Studio: The folder \"/proc/velara\" can't be written to.");

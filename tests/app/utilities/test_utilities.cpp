@@ -163,6 +163,27 @@ TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
     EXPECT_EQ(frame->documents().size(), 1);
 }
 
+TEST_F(UtilitiesTest, WhateverComesBetweenAWordAndItsGrabIsHarmless)
+{
+    showScreen();
+    platform.screen().silent = true;
+    const QPointer<fImage> image = open(flatBits(20, 10, 1, 2, 3));
+    const std::function<void()> between[] = {[&] { command("CAPTUREFOREGROUND"); },
+                                             [&] { image->parentWidget()->close(); }, [&] { frame.reset(); }};
+    for (const auto& comes : between) {
+        platform.screen().log.clear();
+        command("CAPTUREFOREGROUND");
+        EXPECT_TRUE(platform.screen().log.empty()) << "the menu closes first";
+        comes();
+        if (frame) EXPECT_TRUE(velara::comes([&] { return platform.screen().waiting(); }));
+        QCoreApplication::processEvents();
+        platform.screen().answer();
+        if (frame) EXPECT_EQ(frame->GetActiveImage()->PictureWidth(), 800);
+    }
+    EXPECT_TRUE(platform.screen().log.empty()) << "no frame, no grab";
+    EXPECT_FALSE(QFile::exists(path("New.bmp")));
+}
+
 TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)
 {
     platform.screen().picture = {randomBits(400, 300, 8),

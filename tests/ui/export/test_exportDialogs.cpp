@@ -15,13 +15,35 @@
 namespace velara {
 namespace {
 
+/// Whatever the background asks holds it until the window's thread has done what the test has laid out.
 struct RealFiles final : RecordingPlatform {
-    std::uint32_t milliseconds() override { return now += 20; } // a yield falls due at each report
-    std::function<void()> onRead;                               // the file is written
+    int works = 0;
+    std::atomic<int> reads = 0;
+    std::atomic<bool> holds = false, holdsReading = false;
+    std::function<void()> onAsked; // work asks whether to go on, on the window's thread
+    Request inBackground(std::function<void(const GoOn&)> work, std::function<void()> done) override
+    {
+        ++works;
+        const auto held = [this, work = std::move(work)](const GoOn& goOn) {
+            work([&](auto waited) {
+                if (holds) QMetaObject::invokeMethod(qApp, [this] { onAsked(); }, Qt::BlockingQueuedConnection);
+                return goOn(waited);
+            });
+        };
+        return RecordingPlatform::inBackground(held, std::move(done));
+    }
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override
     {
-        if (onRead) onRead();
+        ++reads;
+        if (holdsReading) holds = true;
         return loadThroughDecoder(path, extension, builtPath("velara-decode"), {}, goOn);
+    }
+    /// All that was begun has ended, wanted or not.
+    void settle()
+    {
+        bool ended = false;
+        const Request last = RecordingPlatform::inBackground([](auto) {}, [&] { ended = true; });
+        EXPECT_TRUE(comes([&] { return ended; }));
     }
 };
 
@@ -29,6 +51,11 @@ struct ExportDialogs : WindowTest {
     RealFiles world;
     Bits picture = randomBits(90, 70, 4);
 
+    ~ExportDialogs() override
+    {
+        web.reset();
+        world.settle();
+    }
     void open(const Bits& shown)
     {
         web = std::make_unique<FWeb>(world, shown, "Photo", QString());
@@ -169,6 +196,7 @@ TEST_F(ExportDialogs, JpegQualityAndFit)
     EXPECT_GT(QFileInfo(temporary("J0001.jpg")).size(), 20 * 1024);
     find<QSpinBox>("spnFit")->setValue(1);
     click("cmdFit");
+    idle();
     EXPECT_TRUE(text("lblExact").contains("No quality"));
 }
 
@@ -176,24 +204,32 @@ TEST_F(ExportDialogs, OneRunAfterTheLastChangeAndEscEndsIt)
 {
     open(randomBits(800, 600, 3));
     for (const char* preset : {"GIF-8 Colors", "GIF-64 Colors", "BMP-24 bit"}) choose("CboFiles", preset);
-    EXPECT_EQ(0, world.yields) << "nothing ran between";
+    EXPECT_EQ(0, world.works);
     idle();
+    EXPECT_EQ(1, world.works);
     EXPECT_EQ("BMP", text("FileType2"));
-    bool changed = false;
-    world.onYield = [&] {
-        if (!std::exchange(changed, true)) choose("CboFiles", "BMP-16 Colors");
+    world.onAsked = [&] {
+        world.holds = false;
+        choose("CboFiles", "BMP-16 Colors");
     };
+    world.holds = true;
     choose("CboFiles", "GIF-256 Colors");
     idle();
     EXPECT_EQ("BMP", text("FileType2")) << "the later change stands";
     EXPECT_EQ("16 Colors", text("Depth2"));
-    for (const bool whileReading : {false, true}) {
+    EXPECT_EQ(2, world.reads) << "what was given up is not read back";
+    world.onAsked = [&] {
+        world.holds = world.holdsReading = false;
+        QTest::keyClick(used, Qt::Key_Escape);
+        EXPECT_FALSE(used->isVisible()) << "at once, whatever the thread does";
+        EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
+    };
+    for (std::atomic<bool>* when : {&world.holds, &world.holdsReading}) {
         open(randomBits(800, 600, 3));
-        const auto escape = [&] { QTest::keyClick(used, Qt::Key_Escape); };
-        world.onYield = whileReading ? std::function<void()>() : escape;
-        world.onRead = [&] { world.onYield = escape; };
+        *when = true;
         choose("CboFiles", "PNG-24 bit");
         ASSERT_TRUE(comes([&] { return !used->isVisible(); }));
+        world.settle();
         EXPECT_EQ("", text("FileType2")) << "nothing came of it";
     }
 }
@@ -202,20 +238,20 @@ TEST_F(ExportDialogs, WhatIsPressedWhileAPreviewIsWrittenIsDone)
 {
     const Bits big = randomBits(400, 300, 3);
     const QString name = world.folder.filePath("out");
-    int reads = 0;
-    world.onRead = [&] { ++reads; };
-    const auto pressIn = [&](const char* preset, QStringList buttons) { // one at each yield
-        reads = 0;
-        world.onYield = [&, buttons]() mutable {
+    const auto pressIn = [&](const char* preset, QStringList buttons) { // one at each question of the work
+        world.reads = 0;
+        world.onAsked = [&, buttons]() mutable {
             EXPECT_TRUE(find("pbBusy")->isVisible());
-            if (!buttons.isEmpty()) click(buttons.takeFirst());
+            world.holds = buttons.size() > 1;
+            click(buttons.takeFirst());
         };
+        world.holds = !buttons.isEmpty();
         choose("CboFiles", preset);
         EXPECT_FALSE(find("FileSize2")->isEnabled()) << "of the file before";
         idle();
         EXPECT_TRUE(find("FileSize2")->isEnabled());
         EXPECT_FALSE(find("pbBusy")->isVisible());
-        return reads;
+        return world.reads.load();
     };
     open(big);
     world.answers = {name};
@@ -254,6 +290,7 @@ TEST_F(ExportDialogs, AFailedSaveIsToldWithItsReason)
         const FullDisk disk(1000);
         world.answers = {world.folder.filePath(name)};
         click("CmdSave");
+        idle();
         EXPECT_EQ(std::string("message: Velara Studio: ") + told, world.log.back());
         EXPECT_TRUE(find("FileSize2")->isEnabled() && find("CmdSave")->isEnabled()) << "the preview stands";
     }
@@ -267,6 +304,8 @@ TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
     const QString name = world.folder.filePath("out.gif");
     world.answers = {name};
     click("CmdSave");
+    EXPECT_FALSE(find("CmdSave")->isEnabled()) << "one at a time";
+    idle();
     EXPECT_TRUE(world.logged("save: Save Optimized As"));
     EXPECT_EQ("Graphical Interface Format (*.gif)|*.gif", world.lastDialog.filter);
     EXPECT_EQ(fileBytes(temporary("G0001.gif"), "missing"), fileBytes(name));
