@@ -32,7 +32,7 @@ class BackgroundQueue {
     {
         auto result = std::make_shared<Result>();
         return add([work = std::move(work), result](const GoOn& goOn) { *result = work(goOn); },
-                       [done = std::move(done), result] { done(*result); });
+                   [done = std::move(done), result] { done(*result); });
     }
 
   private:

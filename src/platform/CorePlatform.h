@@ -35,7 +35,7 @@ class CorePlatform : public Platform {
   private:
     std::mt19937_64 random_;
     QString programFolder_, decoder_;
-    int instance_ = -1; // the locked file of the session
+    int instance_ = -1;          // the locked file of the session
     BackgroundQueue background_; // last: its work may read pictures until it has ended
 };
 

@@ -26,8 +26,8 @@ class Machine {
 
     /// Whoever lets go of it gives the work up: goOn says no, and no answer comes.
     using Request = std::shared_ptr<void>;
-    /// Does work in a thread beside the window's, one after the other; then done comes from the event loop, never during
-    /// the call. work knows no window, and is to end soon once goOn says no.
+    /// Does work in a thread beside the window's, one after the other; then done comes from the event loop, never
+    /// during the call. work knows no window, and is to end soon once goOn says no.
     virtual Request inBackground(std::function<void(const GoOn& goOn)> work, std::function<void()> done) = 0;
 };
 

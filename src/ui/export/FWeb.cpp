@@ -201,10 +201,9 @@ void FWeb::write(const QString& finalName)
     const bool isFinal = !finalName.isEmpty();
     const auto file = std::make_shared<Written>(Written{settings_, isFinal ? finalName : temporaryName(), isFinal});
     const auto does = [file, picture = picture_, palettes = palettes_, &reader = platform_](const GoOn& goOn) {
-        file->file =
-            writeWebFile(picture, file->settings, file->name,
-                         file->isFinal ? OutputFile::Links::Follow : OutputFile::Links::Replace, untilGivenUp(goOn),
-                         palettes.get());
+        file->file = writeWebFile(picture, file->settings, file->name,
+                                  file->isFinal ? OutputFile::Links::Follow : OutputFile::Links::Replace,
+                                  untilGivenUp(goOn), palettes.get());
         if (file->file.outcome != WebFile::Outcome::Written) return;
         file->shown = reader.loadPicture(file->name, file->settings.extension(), goOn).bits;
         if (keptItsSize(file->file.source, file->shown))

@@ -26,7 +26,9 @@ struct RealFiles final : RecordingPlatform {
         ++works;
         const auto held = [this, work = std::move(work)](const GoOn& goOn) {
             work([&](auto waited) {
-                if (holds) QMetaObject::invokeMethod(qApp, [this] { onAsked(); }, Qt::BlockingQueuedConnection);
+                if (holds)
+                    QMetaObject::invokeMethod(
+                        qApp, [this] { onAsked(); }, Qt::BlockingQueuedConnection);
                 return goOn(waited);
             });
         };
