@@ -1,8 +1,6 @@
 #include "support/RecordingPlatform.h"
 #include "pixels/images.h"
-#include <QCoreApplication>
 #include <QImage>
-#include <QThread>
 
 namespace velara {
 
@@ -60,7 +58,7 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
 
 LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {
-    if (QThread::currentThread() == qApp->thread()) log.push_back(("load: " + path).toStdString());
+    if (std::this_thread::get_id() == home_) log.push_back(("load: " + path).toStdString());
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
     return {bitsOf(image), loadNote};

@@ -69,6 +69,7 @@ class RecordingPlatform : public Platform {
     RecordingPrinters printers_;
     /// Writes the line down. \returns the next answer
     std::optional<QString> ask(const QString& line);
+    const std::thread::id home_ = std::this_thread::get_id();
     BackgroundQueue background_; // last: its work may ask for pictures
 };
 

@@ -1,6 +1,7 @@
 // The pop-up of a tool: beside the buttons, with no tool tip on it.
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
+#include "app/start/defaultPictures.h"
 #include "app/start/fSplash.h"
 #include "tools/toolRows.h"
 #include <QtTest>
@@ -85,6 +86,23 @@ TEST(PicturesTest, NoTwoButtonsShowTheSame)
     for (const ButtonRow& row : buttonRows()) add(row.word);
     for (const ToolRow& row : toolRows()) add(row.name);
     for (const StripRow& row : stripRows()) add(row.key);
+}
+
+TEST(RipplesTest, AStepIsShownWhenItIsWholeAndTakesNewcomersAlong)
+{
+    const QImage calm = splashPicture().scaled(60, 40);
+    Ripples ripples(calm);
+    const auto drawNext = [&] { return ripples.drawNext([] { return 0.5; }); };
+    EXPECT_TRUE(drawNext());
+    ripples.add(30, 20);
+    ripples.add(10, 10);
+    EXPECT_FALSE(drawNext() || ripples.picture() != calm);
+    ripples.add(50, 30);
+    EXPECT_FALSE(drawNext());
+    EXPECT_TRUE(drawNext() && ripples.picture() != calm);
+    for (int steps = 1; steps < 60 / 3; steps += drawNext()) EXPECT_EQ(ripples.firstLive(), 0u);
+    EXPECT_EQ(ripples.firstLive(), 3u) << "each grows by 3 a step, to the longer side";
+    EXPECT_TRUE(drawNext() && ripples.picture() == calm);
 }
 
 TEST_F(FrameTest, AboutTellsVersionLicenceAndLibraries)
