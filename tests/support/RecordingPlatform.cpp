@@ -58,7 +58,6 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
 
 LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
 {
-    if (std::this_thread::get_id() == home_) log.push_back(("load: " + path).toStdString());
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
     return {bitsOf(image), loadNote};

@@ -21,7 +21,7 @@ class RecordingPlatform : public Platform {
     /// "yes" and "no".
     std::deque<std::optional<QString>> answers;
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "load: PATH" (on the window's thread), "clipboard: set", "clipboard: clear".
+    /// "clipboard: set", "clipboard: clear".
     std::vector<std::string> log;
     std::function<void()> onAsk; // a dialog stands
     QString loadNote;            // of every picture that is read
@@ -51,7 +51,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int) override { return path; }
-    /// Reads in this process, by what Qt reads.
+    /// Reads in this process, by what Qt reads. For any thread.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }
@@ -69,7 +69,6 @@ class RecordingPlatform : public Platform {
     RecordingPrinters printers_;
     /// Writes the line down. \returns the next answer
     std::optional<QString> ask(const QString& line);
-    const std::thread::id home_ = std::this_thread::get_id();
     BackgroundQueue background_; // last: its work may ask for pictures
 };
 
