@@ -1,6 +1,7 @@
 // The editor as it stands after its start.
 #pragma once
 #include "app/fStartup.h"
+#include <QCoreApplication>
 
 namespace velara {
 
