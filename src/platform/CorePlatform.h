@@ -24,6 +24,7 @@ class CorePlatform : public Platform {
     {
         return background_.add(std::move(work), std::move(done));
     }
+    /// For any thread, with a goOn.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
@@ -34,7 +35,7 @@ class CorePlatform : public Platform {
 
   private:
     std::mt19937_64 random_;
-    QString programFolder_, decoder_;
+    QString programFolder_;
     int instance_ = -1;          // the locked file of the session
     BackgroundQueue background_; // last: its work may read pictures until it has ended
 };

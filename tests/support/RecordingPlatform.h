@@ -23,8 +23,9 @@ class RecordingPlatform : public Platform {
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
     /// "clipboard: set", "clipboard: clear".
     std::vector<std::string> log;
-    std::function<void()> onAsk; // a dialog stands
-    QString loadNote;            // of every picture that is read
+    std::function<void()> onAsk;                  // a dialog stands
+    QString loadNote;                             // of every picture that is read
+    std::function<void(const GoOn& goOn)> onLoad; // by the thread that reads
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
