@@ -14,7 +14,7 @@ class cBitFilter;
 
 class Document {
   public:
-    /// Number: an int, or what gives numbers until one is free, as for UndoStore.
+    /// number: an int, or a callable that yields candidates until one is free, as for UndoStore.
     template <class Number> Document(const QString& tempFolder, Number number) : undo(tempFolder, number) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
@@ -24,14 +24,14 @@ class Document {
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
     const Bits& bits() const { return bits_; }
-    /// The picture itself, for the paint primitives. Never to be held over a yield.
+    /// The picture itself, for the paint primitives. Never keep the reference over a call that may run events.
     Bits& edit() { return bits_; }
-    /// Ignored without a picture, as is a buffer that is empty.
+    /// Ignored without a picture; an empty buffer is ignored, too.
     void setBits(const Bits& bits);
-    /// Takes the buffer as the picture, whatever there was, and wipes the selection.
+    /// Takes the buffer as the picture, also where there was none, and clears the selection.
     void takePicture(const Bits& bits);
     void Clear();
-    /// Takes what the engine holds; another size wipes the selection.
+    /// Takes the engine's picture; a change of size clears the selection.
     void takeFrom(const cBitFilter& filter);
 
     /// Names this document until it is closed.
@@ -42,7 +42,7 @@ class Document {
     /// Gives the engine this document's picture and working region.
     void handTo(cBitFilter& filter) const;
 
-    /// Snapshot of the present picture, written out of sight.
+    /// Snapshot of the present picture, written in the background.
     void SaveUndoBits()
     {
         ++commits_;
@@ -50,21 +50,21 @@ class Document {
     }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
     void commit();
-    /// Closing it now would lose something: what window marks and questions go by.
+    /// Closing it now would lose something; decides the marks of windows and the question at closing.
     bool wouldBeLost() const
     {
         return PictureExists() && (waitingWork || isBrought || (Changed && undo.mayHaveChanged()));
     }
-    /// The picture stands in the file that Tag names.
+    /// The picture is saved in the file that Tag names.
     void saved()
     {
         Changed = isBrought = false;
         hasFile = true;
     }
-    /// Rises with each snapshot and step: while it stands, the committed picture is the same.
+    /// Rises with each snapshot and step: while it is unchanged, so is the committed picture.
     int commits() const { return commits_; }
-    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
-    /// run of sizing. False and nothing changed when there is no such step.
+    /// Step back or forward: the picture goes to the engine and to the document; a change of size clears the selection.
+    /// Ends a run of sizing words. False, with nothing changed, when there is no such step.
     bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
     bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
 
@@ -75,10 +75,10 @@ class Document {
     QString Tag;          // the full path, unique among the open documents
     bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
     bool Changed = false;
-    bool isBrought = false; // it came from outside of any file, and was never saved
-    bool Zoomed = false;    // a sizing command was the last change
-    /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
-    /// failed, and then the window still has it.
+    bool isBrought = false; // came from outside of any file and was never saved
+    bool Zoomed = false;    // the last change was a sizing word
+    /// Set while a window holds work on this picture that is not yet in it, such as texts. Puts the work in; false when
+    /// that failed: the window still has it then.
     std::function<bool()> waitingWork;
 
   private:
@@ -86,7 +86,7 @@ class Document {
 
     Bits bits_;
     int commits_ = 0;
-    std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles watch it
+    std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles refer to it
 };
 
 } // namespace velara

@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// What waits in a document's queue: a change, or a call.
+/// An entry of a document's queue: a change or a call.
 struct Workspace::Item {
     Step step;
     Then then;
@@ -27,7 +27,7 @@ struct Workspace::Run {
     std::atomic<bool> cancelled{false};
 };
 
-/// An open document and what is to be done to it.
+/// An open document and its queue.
 struct Workspace::Place {
     std::shared_ptr<Document> document;
     std::deque<Item> waiting;
@@ -49,7 +49,7 @@ Workspace::~Workspace()
     threads_.waitForDone();
 }
 
-/// From any thread; runs in the window's, from the event loop.
+/// Callable from any thread; the call runs on the window's thread, from the event loop.
 void Workspace::later(std::function<void()> call)
 {
     ++posted_;
@@ -57,7 +57,7 @@ void Workspace::later(std::function<void()> call)
         this,
         [this, call = std::move(call)] {
             --posted_;
-            QAbstractEventDispatcher::instance()->wakeUp(); // wait() looks again, however many events came at once
+            QAbstractEventDispatcher::instance()->wakeUp(); // wait() checks again, however many events came at once
             call();
         },
         Qt::QueuedConnection);
@@ -76,7 +76,7 @@ DocumentHandle Workspace::add(const Bits& picture, const QString& path, Arrival 
 {
     auto document = std::make_shared<Document>(folder_, [this] { return nextNumber_++; });
     const DocumentHandle handle = document->handle();
-    document->undo.onFailure([this, handle](const QString& reason) { // from the writing thread
+    document->undo.onFailure([this, handle](const QString& reason) { // called on the writing thread
         later([this, handle, reason] { emit stepLost(handle, reason); });
     });
     document->hasFile = arrival == Arrival::File;
@@ -161,7 +161,7 @@ void Workspace::inTurn(const DocumentHandle& document, std::function<void()> cal
     place->waiting.push_back({{}, {}, std::move(call)});
 }
 
-/// Not from inside of a call, which can't be waited for there.
+/// Not from inside such a call: it can't be waited for there.
 bool Workspace::awaitsCall(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
@@ -169,7 +169,7 @@ bool Workspace::awaitsCall(const DocumentHandle& document) const
            std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); });
 }
 
-/// A call that waits is no change, and comes all the same.
+/// Calls in the queue are no changes: they still run.
 bool Workspace::cancel(const DocumentHandle& document, int change)
 {
     Place* place = placeOf(document);
@@ -195,7 +195,8 @@ void Workspace::goOn(const DocumentHandle& document)
     if (Place* place = placeOf(document)) begin(*place);
 }
 
-/// The next in the queue, unless something is under way. May end the place: a call may close its document.
+/// Starts the next entry of the queue, unless something is under way. May destroy the place: a call may close its
+/// document.
 void Workspace::begin(Place& place)
 {
     if (place.running || place.calling || place.waiting.empty()) return;
@@ -218,7 +219,7 @@ void Workspace::begin(Place& place)
             goOn(document);
         });
     }
-    // What a tool shows for the time being is no part of the picture: the engine has that.
+    // What a tool shows temporarily is not part of the picture: the engine has the committed one.
     const bool committed = engineHolds(*document) && engine_.BitsWidth() == document->PictureWidth() &&
                            engine_.BitsHeight() == document->PictureHeight();
     place.running = std::shared_ptr<Run>(
@@ -241,7 +242,7 @@ void Workspace::start(const std::shared_ptr<Run>& run)
     });
 }
 
-/// A document that was changed meanwhile all the same has its job done again, on what it is now.
+/// If the document was changed meanwhile after all, the job is run again on its present state.
 void Workspace::finished(const std::shared_ptr<Run>& run, Outcome outcome)
 {
     const DocumentHandle document = run->document;

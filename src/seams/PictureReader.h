@@ -1,4 +1,4 @@
-// PictureReader: picture files, read where they can do no harm.
+// PictureReader: reads picture files in a sandbox.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
@@ -7,23 +7,23 @@
 
 namespace velara {
 
-/// A picture read from a file, or the reason why it can't be read, in words for a person. A picture may have a reason
-/// too: why it is not all there.
+/// A picture read from a file, or the reason why it can't be read, for the user. A picture may have a reason, too: why
+/// it is incomplete.
 struct LoadedPicture {
     Bits bits;
     QString reason;
     bool ok() const { return !bits.isNull(); }
 };
 
-/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
+/// Called about twenty times a second while a picture is read, with the time since the start; false gives up.
 using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
 class PictureReader {
   public:
     virtual ~PictureReader() = default;
 
-    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
-    /// goOn stands in for what the platform shows meanwhile.
+    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process with limits. goOn
+    /// replaces what the platform shows meanwhile.
     virtual LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) = 0;
 };
 
