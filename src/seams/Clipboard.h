@@ -12,7 +12,7 @@ class Clipboard {
     /// bytes arrive, with a box in which the user can give up. Neither picture nor reason: the clipboard has no
     /// picture.
     virtual LoadedPicture bitmap() = 0;
-    /// False where the desktop doesn't take it.
+    /// False when the desktop refuses it.
     virtual bool setBitmap(const Bits& bits) = 0;
     /// A part of a picture with a mask: pixels with a fourth byte of 255 are transparent, all others opaque.
     virtual bool setPart(const Bits& part) = 0;
