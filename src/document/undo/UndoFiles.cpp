@@ -70,9 +70,7 @@ std::optional<Bits> UndoFiles::read(int index) const
     Header header{};
     if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return {};
     const std::int64_t size = pixelBytes(header);
-    if (size == 0 || file.size() - std::int64_t(sizeof header) < size)
-        return {}; // longer: an older step's tail may
-                   // follow
+    if (size == 0 || file.size() - std::int64_t(sizeof header) < size) return {}; // longer: an older step's tail
     Bits bits = Bits::uninitialized(header.width - 2 * Bits::kMargin, -header.height - 2 * Bits::kMargin);
     if (!file.read({bits.data(), bits.sizeInBytes()})) return {};
     return bits;

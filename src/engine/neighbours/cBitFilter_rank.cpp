@@ -24,9 +24,7 @@ Bits cBitFilter::ERODE() { return eachSpan(0, ranked(false, RankWindow::Square, 
 
 Bits cBitFilter::rankFilter(int Mode, RankWindow window)
 {
-    if (Mode != 0 && Mode != 1)
-        return eachSpan(marginOf(Mode), blacken); // neither comparison is ever made: the result
-                                                  // is 0
+    if (Mode != 0 && Mode != 1) return eachSpan(marginOf(Mode), blacken); // neither comparison is made: all is 0
     return eachSpan(marginOf(Mode), ranked(Mode == 1, window, bits_.stride()));
 }
 
