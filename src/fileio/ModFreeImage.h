@@ -7,7 +7,7 @@ struct FIBITMAP;
 
 namespace velara {
 
-/// FreeImage is open while an object lives; its messages become the last error, which is empty at first.
+/// FreeImage is initialised while an object lives; its messages become the last error, which starts empty.
 class FreeImageStart {
   public:
     FreeImageStart();
@@ -16,7 +16,7 @@ class FreeImageStart {
     FreeImageStart& operator=(const FreeImageStart&) = delete;
 };
 
-/// Nothing shows it; it serves a debugger.
+/// Not shown anywhere; for debugging.
 const QString& FreeImageLastError();
 /// Stores text, unless one is already stored and keepFirst is true.
 void FreeImageSetError(const QString& text, bool keepFirst);

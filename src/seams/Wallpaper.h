@@ -7,12 +7,7 @@ namespace velara {
 
 enum class WallpaperMode { Centre = 0, Tile = 1, Stretch = 2 };
 
-enum class WallpaperResult {
-    Done,
-    CantRead,
-    CantWrite
-}; // reading the desktop's present settings, writing the new
-   // ones
+enum class WallpaperResult { Done, CantRead, CantWrite }; // the desktop's present settings, the new ones
 
 class Wallpaper {
   public:

@@ -16,7 +16,8 @@ namespace {
 
 using Outcome = WebFile::Outcome;
 
-/// Tells progress where nothing may be thrown; false once it has thrown Cancelled. Keeps why a file was not written.
+/// Reports progress from places where exceptions are not allowed; false once progress has thrown Cancelled. Keeps why a
+/// file was not written.
 class Teller {
   public:
     explicit Teller(const ReduceProgress& progress) : progress_(progress) {}
@@ -136,7 +137,8 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
         const int middle = (good + bad) / 2;
         (fits(middle) ? good : bad) = middle;
     }
-    for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes may waver a little
+    for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes are not strictly
+                                                                                      // monotonic
         if (fits(quality)) good = quality;
     return good > 0 && !teller.stopped() ? std::optional(good) : std::nullopt;
 }
