@@ -1,4 +1,4 @@
-// BackgroundQueue: threads for work that takes its time, what was asked for last first.
+// BackgroundQueue: threads for slow work; the last request is served first.
 #pragma once
 #include "fileio/load/PictureLoader.h"
 #include <QObject>
@@ -13,19 +13,19 @@ namespace velara {
 
 class BackgroundQueue {
   public:
-    /// Runs in a thread of the queue; is to end soon once goOn says no.
+    /// Runs in a thread of the queue; should end soon after goOn returns false.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
-    /// Whoever lets go of it gives the work up: no answer comes then.
+    /// Releasing it cancels the work: no answer comes then.
     using Request = std::shared_ptr<void>;
 
-    /// So many pieces of work at a time, at least one.
+    /// threads: pieces of work done at the same time, at least one.
     explicit BackgroundQueue(std::size_t threads = 1) : most_(threads) {}
-    /// Gives up what is under way.
+    /// Cancels work under way.
     ~BackgroundQueue();
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
-    /// done comes in the thread that made the queue, never during the call.
+    /// done is called in the thread that made the queue, never during this call.
     template <class Result> Request add(Work<Result> work, std::function<void(const Result&)> done)
     {
         auto result = std::make_shared<Result>();
@@ -38,7 +38,7 @@ class BackgroundQueue {
     Request addTask(std::function<void(const GoOn&)> work, std::function<void()> done);
     void run();
 
-    QObject answers_; // they come in the thread that made this
+    QObject answers_; // delivered in the thread that made this
     std::mutex guard_;
     std::condition_variable changed_;
     std::vector<std::shared_ptr<Task>> tasks_;

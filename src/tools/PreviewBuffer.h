@@ -1,7 +1,6 @@
-// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal but for
-// the tiles that were painted since the last commit. So a drag step restores, and a commit hands over, only what was
-// touched; the result is that of copying the whole picture. Only the first stroke after another command pays one whole
-// copy.
+// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal except
+// for the tiles painted since the last commit. So a drag step restores, and a commit transfers, only what was touched;
+// the result is the same as copying the whole picture. Only the first stroke after another command costs one full copy.
 #pragma once
 #include "document/Document.h"
 
@@ -11,22 +10,22 @@ class cBitFilter;
 
 class PreviewBuffer {
   public:
-    /// Both outlive this object. What is written into the document is marked in Document::touched; a picture that
-    /// another command replaces is noticed.
+    /// Both must outlive this object. Writes to the document must be marked in Document::touched; a picture replaced by
+    /// another command is noticed.
     PreviewBuffer(Document& document, cBitFilter& filter) : document_(document), filter_(filter) {}
 
-    /// Before the first write of a drag: gives the document a block of its own. An engine that holds a picture of
-    /// another size is given the document's.
+    /// Call before the first write of a drag: gives the document a block of its own. An engine whose picture has
+    /// another size gets the document's.
     void begin();
-    /// begin() ahead of time, where the engine's picture is known to be the document's.
+    /// begin() in advance, if the engine's picture is known to be the document's.
     void prepare();
-    /// False when the engine holds the picture of another document, or may.
+    /// False when the engine holds, or may hold, the picture of another document.
     bool isOurs() const;
     /// document := committed picture.
     void restore();
     /// committed picture := document.
     void commit();
-    /// Around all that was restored since the last call.
+    /// The bounding rectangle of everything restored since the last call.
     Rect takeRestored() { return std::exchange(restored_, {}); }
 
   private:
@@ -37,9 +36,9 @@ class PreviewBuffer {
 
     Document& document_;
     cBitFilter& filter_;
-    bool whole_ = false; // nothing is known of how the two differ
+    bool whole_ = false; // it is unknown how the two differ
     Rect restored_;
-    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last known to be in step
+    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last in step
 };
 
 } // namespace velara

@@ -64,7 +64,7 @@ bool limitResources(Needs needs, unsigned long long memory)
 bool dropCapabilities()
 {
     for (int i = 0; prctl(PR_CAPBSET_READ, i, 0, 0, 0) >= 0; ++i)
-        if (prctl(PR_CAPBSET_DROP, i, 0, 0, 0) != 0 && errno != EPERM) return false; // nothing to drop then
+        if (prctl(PR_CAPBSET_DROP, i, 0, 0, 0) != 0 && errno != EPERM) return false; // EPERM: it can't gain any either
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     const std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> none{};
     return syscall(SYS_capset, &header, none.data()) == 0;
