@@ -1,4 +1,4 @@
-// Session: the one picture that a run of velara-batch works on: a workspace with one document, each step waited for.
+// Session: the one picture of a run of velara-batch: a workspace with one document; each step is waited for.
 #pragma once
 #include "batch/Failure.h"
 #include "commands/jobs.h"
@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// Whether a step needs the pictures before; sizing words in a row go back to the one before the first of them.
+/// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
 enum class GoesBack { Never, WhenRepeated, Always };
 
 class Session {
@@ -18,23 +18,23 @@ class Session {
 
     /// Takes the picture; with keepSteps every change is kept in a private folder so that it can be undone.
     void open(const Bits& bits, bool keepSteps);
-    /// No step to come goes back.
+    /// No later step goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }
 
-    // Each throws Failure and leaves the picture as it was.
+    // Each throws Failure and leaves the picture unchanged then.
     void change(const Job& job, After after = After::Step);
     void crop();
     void undo() { workspace_->step(document_, true); }
     void redo() { workspace_->step(document_, false); }
-    /// change works on the selection; what it leaves is the working region of the steps to come.
+    /// change modifies the selection; its result is the working region of later steps.
     template <class Change> void select(Change change)
     {
         change(document_->Region);
         workspace_->handOver(*document_);
     }
 
-    /// Percent of the step that runs.
+    /// Called with the percentage of the current step.
     void setProgress(std::function<void(int)> progress);
 
   private:

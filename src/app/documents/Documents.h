@@ -1,5 +1,4 @@
-// Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
-// are closed.
+// Documents: the frame's open pictures: the area that contains them, the active one, and the removal of closed ones.
 #pragma once
 #include "document/road/DocumentHandle.h"
 #include "ui/view/fImage.h"
@@ -31,23 +30,23 @@ class Documents final : public QObject {
     /// The window of an open document; null when it is closed.
     fImage* of(const DocumentHandle& document) const;
 
-    /// In a window that shows it whole, or that takes the area where the picture is too large for it.
+    /// Shows it in a window that fits the whole picture, or that fills the area if the picture is too large for it.
     void show(std::unique_ptr<fImage> image, bool maximized);
-    /// The same for the active one, which may have been zoomed since.
+    /// The same for the active one, whose zoom may have changed.
     void fitActive();
-    /// Puts the open pictures at the end of the menu, the active one with a mark, in place of what stood there.
+    /// Appends the open pictures to the menu, the active one checked, replacing the previous list.
     void list(QMenu& menu);
-    /// The focus goes from a picture by the Tab key; false when there is nowhere to go.
+    /// Moves the focus away from a picture at the Tab key; false when there is nowhere to go.
     std::function<bool(bool forward)> leaveByTab;
     /// Side by side or one below the other.
     enum class Arrangement { Cascade, Rows, Columns };
     void arrange(Arrangement arrangement);
 
-    /// Closes all, the last one first. One that refuses ends it: false.
+    /// Closes all, the last one first. Stops at one that refuses: false.
     bool closeAll();
     /// Ends all without a question.
     void clear();
-    /// Takes a closed document's window away; it is deleted from the event loop.
+    /// Removes a closed document's window; it is deleted from the event loop.
     void bury(fDocumentWindow* window);
 
   signals:

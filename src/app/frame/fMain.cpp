@@ -1,4 +1,4 @@
-// What the frame is made of, the start page and the status bar.
+// The parts of the frame, the start page and the status bar.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
@@ -61,13 +61,13 @@ fMain::fMain(Platform& platform, Setup& setup)
     makeBoxes();
     showColors();
     refreshUndoState();
-    qApp->installEventFilter(this); // moves of the pointer, for the side pane
+    qApp->installEventFilter(this); // pointer moves, for the side pane
 }
 
 fMain::~fMain()
 {
     closing_ = true;
-    capture_.reset(); // which brings back what it has put aside
+    capture_.reset(); // restores the hidden windows
     documents_->clear();
 }
 

@@ -1,11 +1,11 @@
-// fMain: the frame around the documents: a switchboard over what it owns, which don't know each other. The open
-// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the
-// status bar, the side pane and the road from a command to its document are its own.
+// fMain: the frame around the documents: a switchboard over its parts, which don't know each other. The open pictures
+// are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the status bar, the side
+// pane and the way from a command to its document are its own.
 //
-// Cut by topic: fMain.cpp (what it is made of, the start page, the status bar), _commands (the command language,
-// options, about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document),
-// _pixels (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the
-// web), _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
+// Split by topic: fMain.cpp (its parts, the start page, the status bar), _commands (the command language, options,
+// about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document), _pixels
+// (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the web),
+// _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
@@ -29,7 +29,7 @@ struct FilterRow;
 class fStatus;
 class fToolPane;
 
-/// What becomes of a file that no reader makes anything of.
+/// What happens with a file that no reader can read.
 enum class Unreadable { OpensEmpty, Refused };
 
 class fMain final : public QMainWindow, public Frame {
@@ -54,9 +54,9 @@ class fMain final : public QMainWindow, public Frame {
     std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) override;
 
     // --- Commands
-    /// True for a word of the vocabulary that does what it says, even if that is nothing.
+    /// True for a word of the vocabulary with a handler, even one that does nothing.
     static bool available(std::string_view word);
-    /// Runs a command word, or one of the frame's own; index tells the items of such a one apart.
+    /// Runs a command word, or one of the frame's own; index distinguishes the items of such a word.
     void run(std::string_view word, int index = 0);
 
     void open();
@@ -96,13 +96,13 @@ class fMain final : public QMainWindow, public Frame {
     void capturePic(int mode);
 
     // --- Files
-    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
-    /// that it can't be loaded.
+    /// Opens a picture file as OPEN does after its dialog: updates the recent list, applies OpenZoom, keeps the folder.
+    /// False after the message that it can't be loaded.
     bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
-    /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
+    /// Opens the files of a drop, in order; files of other kinds are skipped.
     void dropFiles(const QStringList& paths);
-    /// Where the file dialogs start.
+    /// The start folder of the file dialogs.
     void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
 
     // --- Bars, boxes, panes
@@ -111,36 +111,36 @@ class fMain final : public QMainWindow, public Frame {
     void applyBars(); // visibility and check marks from Setup
     void toggleStatusBar();
     void toggleSideBar();
-    /// Fills the panes of the tools that have one.
+    /// Makes the panes of the tools that have one.
     void initToolPanes();
     void Tool_Frame();
     void DisableTools();
     void toolClicked(const QString& key);
-    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
+    /// Updates the undo and redo buttons for the active document, and the changed marks of all.
     void refreshUndoState();
-    /// Hand scrolling ends: a drag is the hand's or the tool's.
+    /// Ends hand scrolling: a drag is either the hand's or the tool's.
     void releaseHand();
     fToolPane& toolPane() { return *toolPane_; }
     fStatus& status() { return *status_; }
     Documents& openPictures() { return *documents_; }
     QMdiArea& area() { return documents_->area(); }
-    /// A menu's item or a button, by its object name.
+    /// A menu item or a button, by its object name.
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
     /// The active document's window, or null.
     fImage* GetActiveImage() { return documents_->active(); }
     /// The open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
-    /// The configuration and where the frame stands, for the next start.
+    /// Saves the configuration and the frame's position for the next start.
     void saveState();
-    /// All documents are being closed, or are.
+    /// All documents are being closed, or are closed.
     bool isClosing() const { return closesAll_ || closing_; }
     bool isClosed() const { return closing_; }
 
   signals:
     void closed();
-    /// It was to be closed, and a document refused.
+    /// Closing was cancelled because a document refused.
     void stays();
-    /// Of any document: see there.
+    /// Of any document; see fImage.
     void asking(fImage::Question question);
 
   protected:
@@ -154,13 +154,13 @@ class fMain final : public QMainWindow, public Frame {
     QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
   private:
-    /// Failures go to the status bar.
+    /// Reports failures in the status bar.
     void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
     void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
-    /// The pictures in the cut that fits the palette.
+    /// Reloads the icons in the variant that fits the palette.
     void refreshIcons();
     void frameResized();
     void placeSidePane();
@@ -171,7 +171,7 @@ class fMain final : public QMainWindow, public Frame {
     bool findsItsDocument(const CommandWord& command);
     void showStartPage();
     void saveAs(fImage& image);
-    /// name is what the document is called afterwards.
+    /// name becomes the document's.
     void saveTo(fImage& image, const QString& name);
     enum class Opening { Done, Failed, Gone };
     Opening openPath(const QString& path, Unreadable unreadable);

@@ -1,4 +1,4 @@
-// What the words of the vocabulary do in the frame, and the two that only show a dialog of the program.
+// The handlers of the vocabulary's words in the frame, and the two that only show a dialog of the program.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/settings/fPreferences.h"
@@ -21,7 +21,7 @@ namespace velara {
 
 namespace {
 
-/// What a word does; for a word of many items with the index of the one.
+/// The handler of a word; for a word with many items it gets the item's index.
 struct Handler {
     std::string_view word;
     void (*run)(fMain&) = nullptr;
@@ -46,7 +46,7 @@ constexpr Handler kHandlers[] = {
     {"CAPTUREBACKGROUND",    [](fMain& f) { f.capture().background(); }},
     {"CUSTOMCAPTURE",        [](fMain& f) { f.capturePic(Capture::Rectangle); }},
 
-    // The active document is asked for; one of them runs without
+    // The active document is looked at; one of them runs without
     {"UNDO",                 [](fMain& f) { f.stepUndo(true); }},
     {"REDO",                 [](fMain& f) { f.stepUndo(false); }},
     {"CREATENEWCOPY",        [](fMain& f) { f.copyToNew(); }},
@@ -88,7 +88,7 @@ constexpr Handler kHandlers[] = {
     {"CASCADE",              [](fMain& f) { f.openPictures().arrange(Documents::Arrangement::Cascade); }},
     {"RESET",                [](fMain& f) { f.reset(); }},
 
-    // What the frame does by itself
+    // The frame's own words
     {"@BROWSE",              browsePictures},
     {"@ASSOCIATION",         showAssociation},
     {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
@@ -150,12 +150,12 @@ void fMain::Mmenu(const QString& word)
         default:
             if (const Handler* handler = findHandler(name)) (*handler)(*this, 0);
         }
-    } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun
+    } catch (const std::exception& failure) { // a command fails here: changes that it did not complete were not made
         showFailure(word, failure);
     }
 }
 
-/// False, with a word in the status bar, when there is no document and the word needs one.
+/// False, with a message in the status bar, when there is no document and the word needs one.
 bool fMain::findsItsDocument(const CommandWord& command)
 {
     if (command.stage != Stage::NeedsImage || GetActiveImage()) return true;

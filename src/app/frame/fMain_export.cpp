@@ -19,7 +19,7 @@ void fMain::colorDepth()
     };
     const QPointer<fColorDepth> dialog = new fColorDepth(image->bits(), {ok, save}, this);
     dialog->exec();
-    delete dialog; // unless the frame went, and it with it
+    delete dialog; // unless it was destroyed with the frame
 }
 
 void fMain::saveForWeb()
@@ -31,7 +31,7 @@ void fMain::saveForWeb()
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)
 {
-    const QString file = image.Tag().mid(std::max<qsizetype>(image.Tag().indexOf('/'), 0)); // without a mark before it
+    const QString file = image.Tag().mid(std::max<qsizetype>(image.Tag().indexOf('/'), 0)); // without a prefix
     const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), file, this);
     dialog->exec();
     delete dialog;

@@ -19,7 +19,7 @@ namespace velara {
 
 namespace {
 
-/// What follows the last separator, right-trimmed.
+/// The part after the last separator, right-trimmed.
 QString FileNameOf(const QString& path)
 {
     QString name = path.mid(path.lastIndexOf('/') + 1);
@@ -34,7 +34,7 @@ bool isDropped(const QString& path)
     });
 }
 
-/// Two windows of one file tell themselves apart by the mark in front of the second one's name.
+/// Two windows of one file are distinguished by the prefix of the second one's name.
 void showName(fImage& image, const QString& path)
 {
     image.setCaption(image.Tag().chopped(path.size()) + FileNameOf(path));
@@ -70,7 +70,7 @@ void fMain::applyOpenOptions()
 
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
 
-/// Once for all of them; the recent list leaves them out from now on.
+/// One message for all; the recent list omits them from now on.
 void fMain::showGone(const QStringList& paths)
 {
     constexpr qsizetype kMostShown = 10;
@@ -84,8 +84,8 @@ void fMain::showGone(const QStringList& paths)
         Icon::Exclamation);
 }
 
-/// Unless the file was opened there is no document of it, and nothing was said. A file that a reader of the platform
-/// (gif, wmf, emf, ico, cur, dib) refuses fails aloud; any other that can't be read gives an empty window.
+/// Unless the result is Done, no document was made, and no message shown. With gif, wmf, emf, ico, cur and dib an
+/// unreadable file is an error; any other format opens an empty window.
 fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
 {
     if (closing_) return Opening::Done;
@@ -102,13 +102,13 @@ fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
     const bool aloud = unreadable == Unreadable::Refused || (format && format->has(FailsAloud));
     if (!loaded.ok() && aloud) return Opening::Failed;
     if (!loaded.ok()) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
-    // What has lost its end doesn't replace its file without a question.
+    // A truncated picture doesn't replace its file without a question.
     adopt(loaded.bits, path, loaded.ok() && loaded.reason.isEmpty() ? Arrival::File : Arrival::Made);
     if (loaded.ok() && !loaded.reason.isEmpty()) status_->say(loaded.reason);
     return Opening::Done;
 }
 
-/// Opens it or says why not; false then.
+/// Opens it or shows why not; false then.
 bool fMain::openOrTell(const QString& path, Unreadable unreadable)
 {
     const Opening opening = openPath(path, unreadable);
@@ -153,7 +153,8 @@ void fMain::FillRecent()
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
-        item->setVisible(found || i == 0); // a lost file keeps its place in the list, but no empty line in the menu
+        item->setVisible(found || i == 0); // a lost file keeps its place in the list, but gets no empty line in the
+                                           // menu
     }
     showStartPage();
 }
@@ -168,7 +169,7 @@ void fMain::save()
 void fMain::saveNow(fImage& image)
 {
     const Format* format = formatOf(image.Caption());
-    // A new document, a second window of the same file and any other format get their name by asking.
+    // A new document, a second window of the same file and any other format ask for a name.
     const bool own = image.document().hasFile && image.Tag().startsWith('/');
     if (!own || !format || format->saving != Saving::Directly) return saveAs(image);
     saveTo(image, image.Tag());
@@ -205,12 +206,12 @@ void fMain::saveTo(fImage& image, const QString& name)
         result = image.Save(target.name, target.extension);
     } catch (const std::exception&) {
     }
-    if (result != SaveResult::Written) { // the document stays as it was, unsaved
+    if (result != SaveResult::Written) { // the document stays unsaved
         const bool told = result == SaveResult::FailedAndTold || result == SaveResult::Refused;
         if (!told) platform_.tell("Unexpected error saving image", Icon::Exclamation);
         return;
     }
-    if (!watched) return; // closed while a notice of the save stood open
+    if (!watched) return; // closed while a message of the save was open
     const bool changedMeanwhile = image.document().commits() != commits;
     image.document().saved();
     image.document().Changed = changedMeanwhile;
@@ -227,7 +228,7 @@ void fMain::closeActive()
     if (fImage* image = GetActiveImage()) image->parentWidget()->close();
 }
 
-/// What is there is told where it can't be taken; null then.
+/// Reports why what is there can't be used; null then.
 Bits fMain::clipboardPicture()
 {
     const LoadedPicture picture = platform_.clipboard().bitmap();
@@ -270,7 +271,7 @@ void fMain::dropEvent(QDropEvent* event)
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile()) paths << url.toLocalFile();
     event->acceptProposedAction();
-    // After the drop has ended: the program it came from waits for us meanwhile.
+    // After the drop has ended: the source program is waiting for us until then.
     QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
 }
 
@@ -284,7 +285,7 @@ void fMain::dropFiles(const QStringList& paths)
         failed |= opening == Opening::Failed;
         if (opening == Opening::Gone) gone << path;
     }
-    if (failed && !closing_) showLoadError(); // once, however many
+    if (failed && !closing_) showLoadError(); // one message for all
     if (!gone.isEmpty() && !closing_) showGone(gone);
 }
 

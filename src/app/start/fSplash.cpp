@@ -17,11 +17,11 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
     const QImage picture = splashPicture();
-    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
+    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and kept
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");
-    // Not read back: what stands there by then may be somebody else's, and the picture is at hand.
+    // Don't reread the file: another process may have replaced it, and the picture is in memory.
     overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
     ripples_ = std::make_shared<Ripples>(picture);
     setFixedSize(picture.size());

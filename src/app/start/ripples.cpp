@@ -14,10 +14,10 @@ Ripples::Ripples(const QImage& picture)
 
 namespace {
 
-/// Copies a square of the source at (x + 2, y + 2) to (x, y), as far as both lie in the pictures.
+/// Copies a square of the source at (x + 2, y + 2) to (x, y), clipped to both pictures.
 void copyShifted(const QImage& from, QImage& to, int x, int y, int size)
 {
-    constexpr int kShift = 2; // along both axes: this is what looks like water
+    constexpr int kShift = 2; // along both axes: this looks like water
     const int left = std::max(x, 0), right = std::min(x + size, from.width() - kShift);
     const int top = std::max(y, 0), bottom = std::min(y + size, from.height() - kShift);
     if (left >= right) return;
@@ -41,7 +41,7 @@ void Ripples::draw(const Ripple& ripple, int size)
 void Ripples::tick(const std::function<double()>& random, const std::function<void()>& yield)
 {
     shown_ = source_;
-    for (std::size_t i = std::size_t(first_); i < list_.size(); ++i) { // by index: a yield may add some
+    for (std::size_t i = std::size_t(first_); i < list_.size(); ++i) { // by index: yield() may add some
         const int size = roundEven(2 * random()) + list_[i].size;
         draw(list_[i], size);
         yield();
