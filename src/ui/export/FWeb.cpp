@@ -1,4 +1,4 @@
-// FWeb: what the dialog does. Its controls are made in FWeb_controls.cpp.
+// FWeb: the dialog's behaviour. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
 #include "fileio/formats.h"
@@ -30,7 +30,7 @@ constexpr int kBothTab = 2;
 constexpr std::uint32_t kBetweenYields = 15; // milliseconds
 constexpr int kMostQuality = 32767;
 
-/// A combo box takes an entry without telling.
+/// Selects an entry of a combo box without a signal.
 void setQuietly(QComboBox* box, int index)
 {
     const QSignalBlocker quiet(box);
@@ -68,7 +68,7 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
 QString FWeb::temporaryName() const
 {
     const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
-    makePrivateFolder(folder); // it may have been swept away meanwhile
+    makePrivateFolder(folder); // it may have been removed meanwhile
     return folder + (settings_.isJpeg() ? QStringLiteral("/J0001.jpg") : QStringLiteral("/G0001.gif"));
 }
 
@@ -111,13 +111,13 @@ void FWeb::qualityChosen(int quality)
 void FWeb::customQuality()
 {
     if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
-    setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be chosen again
+    setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be selected again
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
 
 // --- Files
 
-/// All changes until the message loop is idle are one.
+/// All changes until the message loop is idle count as one.
 void FWeb::changed()
 {
     again_ = stop_ = true;
@@ -126,16 +126,16 @@ void FWeb::changed()
     if (!running_) timer_.start(0);
 }
 
-/// A button was pressed. It doesn't wait for a preview, but "Save As" for the quality that "Fit" looks for.
+/// A button was pressed. It doesn't wait for a preview; only "Save As" waits for the quality that "Fit" looks for.
 void FWeb::ask(Work work)
 {
     timer_.stop();
     next_ = work;
     stop_ |= !(work == Work::Save && now_ == Work::Fit);
-    run(); // at once, or when what is under way has ended
+    run(); // immediately, or when the current work has ended
 }
 
-/// Yields now and then, and ends the work when it is not wanted any more.
+/// Runs events now and then, and ends work that is no longer wanted.
 ReduceProgress FWeb::yielding()
 {
     return [this, alive = QPointer<FWeb>(this)](int) {
@@ -147,7 +147,7 @@ ReduceProgress FWeb::yielding()
     };
 }
 
-/// One work after the other, until there is none.
+/// Does one piece of work after the other, until there is none.
 void FWeb::run()
 {
     if (running_) return;
@@ -175,7 +175,7 @@ void FWeb::write(const QString& finalName)
 {
     const QPointer<FWeb> alive = this;
     const QString name = finalName.isEmpty() ? temporaryName() : finalName;
-    const WebSettings settings = settings_; // a change meanwhile is for the next one
+    const WebSettings settings = settings_; // later changes are for the next one
     const bool wanted = std::exchange(again_, false);
     showWaiting(true);
     const WebFile file = writeWebFile(picture_, settings, name,
@@ -229,7 +229,7 @@ void FWeb::showFile(const WebSettings& settings, const WebFile& file, const Bits
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
-/// What is told of the file is grey while it is not that of the settings.
+/// The file's properties are grey while they aren't those of the settings.
 void FWeb::setStale(bool stale)
 {
     for (QLabel* label : {FileType2_, Depth2_, FileSize2_, FileType4_, Depth4_, FileSize4_, exact_})
@@ -262,7 +262,7 @@ void FWeb::fitSize()
     showWaiting(false);
     if (stop_) return;
     if (!quality) {
-        next_ = Work::Preview; // a file that is too large is not what was to be saved
+        next_ = Work::Preview; // a file that is too large isn't what was to be saved
         note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
         return say(note_);
     }
@@ -279,7 +279,7 @@ void FWeb::saveAs()
     dialog.writtenAs = fileOf;
     const auto name = platform_.saveFileName(dialog);
     if (!alive || !name || closing_) return;
-    choices_->setEnabled(false); // what is being written is what was asked for
+    choices_->setEnabled(false); // the file being written must match the choices
     write(fileOf(*name));
     if (!alive) return;
     choices_->setEnabled(true);

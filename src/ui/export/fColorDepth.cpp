@@ -67,8 +67,8 @@ QWidget* fColorDepth::makePages()
     auto* tabs = named(new QTabWidget, "SSTab1", tr("Pictures"));
     tabs->addTab(original_, QStringLiteral("Original"));
     tabs->addTab(optimized_, QStringLiteral("Optimized"));
-    tabs->setUsesScrollButtons(false); // both names can be read at every width
-    tabs->setCurrentIndex(1);          // what the choice of a depth changes
+    tabs->setUsesScrollButtons(false); // both names are legible at every width
+    tabs->setCurrentIndex(1);          // the page that a choice of depth changes
     return tabs;
 }
 
@@ -142,10 +142,10 @@ void fColorDepth::showDepth()
     Lbloptimized_->setText(cmbDepth_->currentText());
 }
 
-/// The dialog is closed before what follows, which may open another.
+/// Closes the dialog before the action, which may open another.
 void fColorDepth::finish(const std::function<void(const Bits&)>& action)
 {
-    const auto next = action; // lives on whatever becomes of this
+    const auto next = action; // outlives this dialog
     const Bits result = bitsAtDepth(picture_, depth());
     accept();
     if (next) next(result);

@@ -1,4 +1,4 @@
-// fPaste: the clip history, a floating box. Shows the parts that were cut and copied; a click on one pastes it.
+// fPaste: the clip history, a floating box. Shows the cut and copied parts; a click on one pastes it.
 #pragma once
 #include "tools/ClipHistory.h"
 #include <QWidget>
@@ -23,11 +23,11 @@ class fPaste final : public QWidget {
   public:
     fPaste(Frame& frame, QWidget* parent);
 
-    /// Puts the selected part of the document into the list, makes it what the next paste lays down, and gives it. Null
-    /// after a message when the selection is too small. The caller clears what is cut.
+    /// Adds the selected part of the document to the list, makes it the next paste, and returns it. Null, after a
+    /// message, when the selection is too small. Clearing what is cut is up to the caller.
     Bits CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
     Bits CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
-    /// The scroll control follows the list: the newest clip is in view.
+    /// Updates the scroll control for the list: the newest clip is in view.
     void Update_V();
     bool isEmpty() const { return history_.clips().empty(); }
 
@@ -55,7 +55,7 @@ class fPaste final : public QWidget {
     ClipHistory history_;
     QScrollArea* area_;
     std::array<Slot, ClipHistory::kSlots> slots_;
-    std::map<int, Bits> thumbnails_; // by the number of the clip
+    std::map<int, Bits> thumbnails_; // by clip number
     QListWidget* lstImages_ = nullptr;
     QSlider* BrSelectionMovePressure_;
 };
