@@ -305,9 +305,7 @@ void fLayerCanvas::drag(QMouseEvent& event)
 
 void fLayerCanvas::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
-        return fPicture::mousePressEvent(event); // the middle one drags it
-                                                 // picture
+    if (event->button() != Qt::LeftButton) return fPicture::mousePressEvent(event); // the middle one drags the picture
     setFocus(Qt::MouseFocusReason);
     select(0);
     stored_ = pixelAt(event->position());
