@@ -1,5 +1,5 @@
-// RecordingPlatform: the outside world of tests. Writes down what the program asks and answers from a queue, so that
-// every message, dialog and path of a command can be tested without a window.
+// RecordingPlatform: the outside world of tests. Records the program's requests and answers from a queue, so that every
+// message, dialog and path of a command can be tested without a window.
 #pragma once
 #include "seams/Platform.h"
 #include "support/RecordingDesktop.h"
@@ -16,15 +16,15 @@ namespace velara {
 
 class RecordingPlatform : public Platform {
   public:
-    /// Answers of the dialogs to come, first one first. An empty one, and an empty queue, cancel. A question takes
-    /// "yes" and "no".
+    /// Answers for the next dialogs, in order. An empty one, and an empty queue, cancel. A question takes "yes" and
+    /// "no".
     std::deque<std::optional<QString>> answers;
-    /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
+    /// One line per call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
+    /// "load: PATH", "clipboard: set", "clipboard: clear". Calls of yield() are only counted.
     std::vector<std::string> log;
     int yields = 0;
-    std::function<void()> onYield, onAsk; // onAsk: a dialog stands
-    QString loadNote;                     // of every picture that is read
+    std::function<void()> onYield, onAsk; // onAsk: called while a dialog is open
+    QString loadNote;                     // the reason of every picture that is read
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
@@ -48,7 +48,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int) override { return path; }
-    /// Reads in this process, by what Qt reads.
+    /// Reads in this process, with Qt's readers.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }
@@ -64,7 +64,7 @@ class RecordingPlatform : public Platform {
     RecordingWallpaper wallpaper_;
     RecordingScanner scanner_;
     RecordingPrinters printers_;
-    /// Writes the line down. \returns the next answer
+    /// Records the line. \returns the next answer
     std::optional<QString> ask(const QString& line);
 };
 

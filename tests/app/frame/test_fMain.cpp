@@ -1,4 +1,4 @@
-// The frame: the command language, what each command asks and says, and what it leaves behind.
+// The frame: the command language, the questions and messages of each command, and its results.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
@@ -25,7 +25,7 @@ TEST_F(FrameTest, WithoutADocumentOnlyTheFreeCommandsDoAnything)
     std::vector<std::string> words;
     for (const CommandWord& command : vocabulary())
         if (command.stage == Stage::NeedsImage) words.emplace_back(command.word);
-    words.emplace_back("CREATEFROMCLIPBOARD"); // which finds nothing there
+    words.emplace_back("CREATEFROMCLIPBOARD"); // finds nothing there
     for (const std::string& word : words) command(QString::fromStdString(word));
     EXPECT_TRUE(platform.log.empty()) << last();
     EXPECT_EQ(platform.yields, 0);
@@ -49,7 +49,8 @@ TEST_F(FrameTest, EveryItemAndButtonGivesAKnownWordAndIsEnabledWhenItIsThere)
         names << name;
         const QAction* action = frame->action(name);
         ASSERT_NE(action, nullptr) << name.toStdString();
-        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // by their own state
+        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // enabled by their own
+                                                                                             // state
         EXPECT_TRUE(follows || action->isEnabled() == fMain::available(word)) << name.toStdString();
     };
     int items = 0;
@@ -183,7 +184,7 @@ TEST_F(FrameTest, BarsFollowTheConfiguration)
     EXPECT_FALSE(frame->action("BAR_1")->isChecked());
     frame->bars().saveLayout();
     frame->action("BAR_1")->trigger();
-    frame->bars().loadLayout(); // the stored layout had it hidden; the configuration has the say
+    frame->bars().loadLayout(); // the stored layout had it hidden; the configuration decides
     EXPECT_FALSE(effects->isHidden());
     frame->action("VIEWS_8")->trigger();
     EXPECT_FALSE(setup.StatusBarVisible);
@@ -226,7 +227,7 @@ TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
 
 TEST_F(FrameTest, IconsFollowThePalette)
 {
-    const auto shade = [&] { // of the darkest-to-lightest drawing of an icon without colours
+    const auto shade = [&] { // the range of lightness of an icon drawn without colours
         const QImage image = frame->action("FILE_1")->icon().pixmap(22).toImage();
         int sum = 0, count = 0;
         for (int y = 0; y < image.height(); ++y)
