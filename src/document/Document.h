@@ -14,7 +14,7 @@ class cBitFilter;
 
 class Document {
   public:
-    /// number: an int, or a callable that yields candidates until one is free, as for UndoStore.
+    /// number: an int, or a callable that returns candidates until one is free, as for UndoStore.
     template <class Number> Document(const QString& tempFolder, Number number) : undo(tempFolder, number) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
