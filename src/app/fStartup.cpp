@@ -92,7 +92,7 @@ std::unique_ptr<fMain> startEditor(Platform& platform, Setup& setup)
 {
     useResources();
     useIconTheme();
-    QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // also of boxes that come before the frame
+    QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // of boxes that come before the frame, too
     const QPointer<fSplash> splash = new fSplash(platform);
     splash->show();
     platform.yield();

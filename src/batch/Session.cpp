@@ -27,7 +27,7 @@ void Session::open(const Bits& bits, bool keepSteps)
     workspace_.emplace(folder_ ? folder_->path() : QString());
     document_ = workspace_->add(bits);
     workspace_->handOver(*document_);
-    workspace_->engine().clock = [] { return 0U; }; // no progress report ever falls due
+    workspace_->engine().clock = [] { return 0U; }; // no report ever falls due
     QObject::connect(&*workspace_, &Workspace::progress, &*workspace_, [this](const DocumentHandle&, int percent) {
         if (progress_) progress_(percent);
     });

@@ -18,16 +18,16 @@ class Session {
 
     /// Takes the picture; with keepSteps every change is kept in a private folder so that it can be undone.
     void open(const Bits& bits, bool keepSteps);
-    /// No later step goes back.
+    /// No step to come goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }
 
-    // Each throws Failure and leaves the picture unchanged then.
+    // Each throws Failure and leaves the picture as it was.
     void change(const Job& job, After after = After::Step);
     void crop();
     void undo() { workspace_->step(document_, true); }
     void redo() { workspace_->step(document_, false); }
-    /// change modifies the selection; its result is the working region of later steps.
+    /// change works on the selection; what it leaves is the working region of the steps to come.
     template <class Change> void select(Change change)
     {
         change(document_->Region);

@@ -24,7 +24,7 @@ class Document {
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
     const Bits& bits() const { return bits_; }
-    /// The picture itself, for the paint primitives. Never keep the reference over a call that may run events.
+    /// The picture itself, for the paint primitives. Never to be held over a yield.
     Bits& edit() { return bits_; }
     /// Ignored without a picture; an empty buffer is ignored, too.
     void setBits(const Bits& bits);
@@ -55,16 +55,16 @@ class Document {
     {
         return PictureExists() && (waitingWork || isBrought || (Changed && undo.mayHaveChanged()));
     }
-    /// The picture is saved in the file that Tag names.
+    /// The picture stands in the file that Tag names.
     void saved()
     {
         Changed = isBrought = false;
         hasFile = true;
     }
-    /// Rises with each snapshot and step: while it is unchanged, so is the committed picture.
+    /// Rises with each snapshot and step: while it stands, the committed picture is the same.
     int commits() const { return commits_; }
-    /// Step back or forward: the picture goes to the engine and to the document; a change of size clears the selection.
-    /// Ends a run of sizing words. False, with nothing changed, when there is no such step.
+    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
+    /// run of sizing. False and nothing changed when there is no such step.
     bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
     bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
 
@@ -75,10 +75,10 @@ class Document {
     QString Tag;          // the full path, unique among the open documents
     bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
     bool Changed = false;
-    bool isBrought = false; // came from outside of any file and was never saved
-    bool Zoomed = false;    // the last change was a sizing word
-    /// Set while a window holds work on this picture that is not yet in it, such as texts. Puts the work in; false when
-    /// that failed: the window still has it then.
+    bool isBrought = false; // it came from outside of any file, and was never saved
+    bool Zoomed = false;    // a sizing command was the last change
+    /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
+    /// failed, and then the window still has it.
     std::function<bool()> waitingWork;
 
   private:

@@ -9,14 +9,14 @@ namespace velara {
 
 class Draft {
   public:
-    /// A draft of the document's committed picture and selection; for a sizing word after another, of the picture
-    /// before the first of them. like: the engine whose clock, progress callback and random state are copied.
+    /// A draft of the committed picture of the document and its selection, or, for a sizing word after another, of the
+    /// picture before the first of them. like: the engine whose clock, progress and random numbers go on.
     Draft(Document& document, const Bits& committed, const cBitFilter& like, After after);
 
     /// The engine that the job gets, e.g. to set its Progress.
     cBitFilter& filter() { return filter_; }
-    /// Runs the job, on any thread; exceptions are reported in the outcome. NotEnoughMemory when it needs more than
-    /// half of the free memory.
+    /// Runs the job, on whichever thread; what it throws is told by the outcome. NotEnoughMemory when it needs more
+    /// than half of the memory that is free.
     Outcome attempt(const Job& job);
     /// The document still exists and is at the step at which the draft began.
     bool wanted() const;
@@ -34,7 +34,7 @@ class Draft {
     cBitFilter filter_;
     std::function<std::optional<Bits>()> before_; // the picture before a run of sizing words
     Bits start_;                                  // the picture at the start
-    Region limit_, selection_;                    // of the draft, at the start
+    Region limit_, selection_;                    // of the draft at the start
     int commits_;
     bool sizing_, fromBefore_ = false;
 };

@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// An entry of a document's queue: a change or a call.
+/// What waits in a document's queue: a change, or a call.
 struct Workspace::Item {
     Step step;
     Then then;
@@ -27,7 +27,7 @@ struct Workspace::Run {
     std::atomic<bool> cancelled{false};
 };
 
-/// An open document and its queue.
+/// An open document and what is to be done to it.
 struct Workspace::Place {
     std::shared_ptr<Document> document;
     std::deque<Item> waiting;
@@ -57,7 +57,7 @@ void Workspace::later(std::function<void()> call)
         this,
         [this, call = std::move(call)] {
             --posted_;
-            QAbstractEventDispatcher::instance()->wakeUp(); // wait() checks again, however many events came at once
+            QAbstractEventDispatcher::instance()->wakeUp(); // wait() looks again, however many events came at once
             call();
         },
         Qt::QueuedConnection);
@@ -242,7 +242,7 @@ void Workspace::start(const std::shared_ptr<Run>& run)
     });
 }
 
-/// If the document was changed meanwhile after all, the job is run again on its present state.
+/// A document that was changed meanwhile all the same has its job done again, on what it is now.
 void Workspace::finished(const std::shared_ptr<Run>& run, Outcome outcome)
 {
     const DocumentHandle document = run->document;

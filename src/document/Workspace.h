@@ -8,9 +8,9 @@
 // made in the order in which they were given, each on the result of the one before; different documents change in
 // parallel.
 //
-// To be called from the window's thread only. then(...) and signals arrive there too, always from the event loop and
-// never from inside a call, so that no caller has to check in its middle whether it still exists. A then(...) that
-// refers to a window holds it by a QPointer.
+// Called from the window's thread only. then(...) and signals come there too, always from the event loop and never from
+// inside of a call, so that nobody has to ask in his middle whether he still stands. Who holds a window in then(...)
+// holds it by a QPointer.
 #pragma once
 #include "document/Document.h"
 #include "document/road/Arrival.h"
@@ -37,14 +37,14 @@ class Workspace final : public QObject {
   public:
     using Then = std::function<void(const Outcome& outcome)>;
 
-    /// folder: for the undo series, made if its parent exists; empty: no steps are kept.
+    /// folder: where the undo series lie, made when its parent stands; empty: no step is kept.
     explicit Workspace(QString folder, QObject* parent = nullptr);
-    /// Stops what is under way, without calling anybody back.
+    /// Ends what is under way, and calls nobody.
     ~Workspace() override;
 
     // --- Documents
-    /// A new document, the last in order; a null picture makes an empty one. Its path is made unique among the open
-    /// ones by a prefix ("[n]", n counts clashes and is never reused).
+    /// A new document, the last in order. A null picture: an empty one. Its path is made unique among the open ones by
+    /// a mark in front ("[n]", n counts clashes and is never reused).
     DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
@@ -52,7 +52,7 @@ class Workspace final : public QObject {
     void close(const DocumentHandle& document);
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
-    /// Sets another path, with the prefix if an open document has it already.
+    /// Another path, with a mark where an open document has it.
     void rename(const DocumentHandle& document, const QString& path);
 
     // --- Changes
@@ -61,13 +61,13 @@ class Workspace final : public QObject {
     int change(const DocumentHandle& document, Step step, Then then = {});
     /// Ends a change that a tool painted directly into the document: snapshot and changed mark.
     void finish(const DocumentHandle& document);
-    /// One step back or forward. False when there is none.
+    /// One step back or forward. False where there is none.
     bool step(const DocumentHandle& document, bool back);
-    /// Calls in turn, once the changes queued before it are done; at once when there are none.
+    /// In its turn among the changes: what a command does once those before it are done. At once where none is.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
-    /// A queued call, such as a save, waits for its turn: closing the document now would lose it.
+    /// A call waits for its turn, such as a save: closing the document now would lose it.
     bool awaitsCall(const DocumentHandle& document) const;
-    /// Ends the running and the queued changes, or only the given one, as Cancelled. False when there is none.
+    /// The change under way and those that wait end as Cancelled, or the one alone. False where there is none.
     bool cancel(const DocumentHandle& document, int change = kAll);
     static constexpr int kAll = 0;
     bool isBusy(const DocumentHandle& document) const;
@@ -87,7 +87,7 @@ class Workspace final : public QObject {
     void handOver(const Document& document);
 
   signals:
-    /// A change was put in: pixels, size, selection, steps.
+    /// A change was taken: pixels, size, selection, steps.
     void changed(const DocumentHandle& document);
     /// Its changes are all done.
     void idle(const DocumentHandle& document);
@@ -112,7 +112,7 @@ class Workspace final : public QObject {
     DocumentHandle held_;
     std::vector<std::unique_ptr<Place>> places_;
     QThreadPool threads_;
-    std::atomic<int> posted_{0}; // to the event loop, and not yet run
+    std::atomic<int> posted_{0}; // to the event loop, and not come yet
     int nextNumber_ = 1, clashes_ = 0, changes_ = kAll;
 };
 

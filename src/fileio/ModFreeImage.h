@@ -7,7 +7,7 @@ struct FIBITMAP;
 
 namespace velara {
 
-/// FreeImage is initialised while an object lives; its messages become the last error, which starts empty.
+/// FreeImage is open while an object lives; its messages become the last error, which is empty at first.
 class FreeImageStart {
   public:
     FreeImageStart();

@@ -13,7 +13,7 @@ namespace velara {
 
 class BackgroundQueue {
   public:
-    /// Runs in a thread of the queue; should end soon after goOn returns false.
+    /// Runs in a thread of the queue; is to end soon once goOn says no.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
     /// Releasing it cancels the work: no answer comes then.
     using Request = std::shared_ptr<void>;
@@ -25,7 +25,7 @@ class BackgroundQueue {
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
-    /// done is called in the thread that made the queue, never during this call.
+    /// done comes in the thread that made the queue, never during the call.
     template <class Result> Request add(Work<Result> work, std::function<void(const Result&)> done)
     {
         auto result = std::make_shared<Result>();

@@ -31,7 +31,7 @@ class CorePlatform : public Platform {
   private:
     std::mt19937_64 random_;
     QString programFolder_, decoder_;
-    int instance_ = -1; // the session's locked file
+    int instance_ = -1; // the locked file of the session
 };
 
 /// executableFolder if files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio (dataHome

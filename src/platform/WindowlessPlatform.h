@@ -1,5 +1,5 @@
-// WindowlessPlatform: the machine without a window. Dialogs are cancelled, yield() does nothing, and there is no
-// clipboard; messages are left to the program.
+// WindowlessPlatform: the machine without a window. Dialogs are cancelled, nothing yields, and there is no clipboard;
+// what becomes of messages is the program's own affair.
 #pragma once
 #include "platform/CorePlatform.h"
 #include "platform/NoDesktop.h"

@@ -1,4 +1,4 @@
-// Machine: services of the computer and of its message loop.
+// Machine: what the program asks of the computer that it runs on and of its message loop.
 #pragma once
 #include <QString>
 #include <cstdint>
@@ -21,7 +21,7 @@ class Machine {
     /// A per-user value under (executable name, section, key).
     virtual QString setting(const QString& section, const QString& key, const QString& otherwise) = 0;
     virtual void setSetting(const QString& section, const QString& key, const QString& value) = 0;
-    /// Processes pending events. Re-entrant: any command may run inside.
+    /// Handles what waits in the message loop. Re-entry is legal: any command may run inside.
     virtual void yield() = 0;
 };
 

@@ -15,15 +15,15 @@ struct LoadedPicture {
     bool ok() const { return !bits.isNull(); }
 };
 
-/// Called about twenty times a second while a picture is read, with the time since the start; false gives up.
+/// Asked some twenty times a second while a picture is read, with the time since the start; false gives it up.
 using GoOn = std::function<bool(std::chrono::milliseconds)>;
 
 class PictureReader {
   public:
     virtual ~PictureReader() = default;
 
-    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process with limits. goOn
-    /// replaces what the platform shows meanwhile.
+    /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
+    /// goOn stands in for what the platform shows meanwhile.
     virtual LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) = 0;
 };
 

@@ -19,7 +19,7 @@ Bits selectedPart(const Document& document)
 {
     const Rect box = document.Region.Region().bounds().intersected(document.Region.RegionMain().bounds());
     if (!document.PictureExists() || box.width() < 2 || box.height() < 2) return {};
-    cBitFilter cutter; // a separate engine: the frame's keeps the picture
+    cBitFilter cutter; // of its own: the frame's keeps the picture
     cutter.setBitsRegion(document.Region.Region());
     cutter.BitsCropMasked(document.bits(), box.left, box.top, box.right, box.bottom);
     return cutter.bits();

@@ -1,6 +1,7 @@
-// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal except
-// for the tiles painted since the last commit. So a drag step restores, and a commit transfers, only what was touched;
-// the result is the same as copying the whole picture. Only the first stroke after another command costs one full copy.
+// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal but for
+// the tiles that were painted since the last commit. So a drag step restores, and a commit hands over, only what was
+// touched; the result is that of copying the whole picture. Only the first stroke after another command pays one whole
+// copy.
 #pragma once
 #include "document/Document.h"
 
@@ -36,9 +37,9 @@ class PreviewBuffer {
 
     Document& document_;
     cBitFilter& filter_;
-    bool whole_ = false; // it is unknown how the two differ
+    bool whole_ = false; // nothing is known of how the two differ
     Rect restored_;
-    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last in step
+    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last known to be in step
 };
 
 } // namespace velara

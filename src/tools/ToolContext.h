@@ -15,7 +15,7 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-/// The tool state of one document and the access to everything else. Positions are picture pixels.
+/// The tool state of one document and the ways to the rest. Positions are picture pixels.
 struct ToolContext {
     ToolContext(Document& document, Frame& frame, ToolSurface& surface)
         : document(document), frame(frame), surface(surface), preview(document, frame.workspace().engine())
@@ -41,8 +41,7 @@ struct ToolContext {
     Region before, wiped;                   // the selection before the gesture, and after its press
     std::int32_t colourBefore = 0;          // the colour before the pipette
 
-    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a call that runs events may close
-                                                          // the document
+    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
 
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores(); }

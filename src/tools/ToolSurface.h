@@ -1,5 +1,5 @@
-// ToolSurface: the services of the document's window to the mouse tools. fImage is the real one; tests bring their own.
-// All coordinates are picture pixels.
+// ToolSurface: what the mouse tools ask of the window that shows the document. fImage is the real one; tests bring
+// their own. All coordinates are picture pixels.
 #pragma once
 #include "region/Region.h"
 

@@ -1,9 +1,9 @@
 // Tools: the mouse and key events of a document's display, handed to the tool that Setup.CurrentTool names. The tools
 // themselves are small classes in tools_*.cpp and rows of toolRows.cpp.
 //
-// A preview is painted on the document and undone by restoring the engine's committed picture; a commit transfers it to
-// the engine with one undo step. A drag belongs to the tool that began it, whatever is chosen meanwhile. Arithmetic
-// faults end the event and nothing else. A call within a tool that runs events may destroy this object.
+// A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
+// back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
+// arithmetic end the event and nothing else. A yield within a tool may destroy this object.
 #pragma once
 #include "tools/ToolContext.h"
 #include "tools/toolRows.h"
@@ -44,7 +44,7 @@ class Tools {
     void toolChosen();
     /// The picture's size has changed: the corners of an unfinished polygon are invalid.
     void pictureReplaced();
-    /// Changes the selection by command; drops a gesture under way.
+    /// The selection by command; a gesture under way is dropped.
     void select(Selecting what);
     /// Shows in the status bar which keys end the current gesture; nothing without one.
     void showHint();

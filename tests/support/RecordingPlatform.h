@@ -19,12 +19,12 @@ class RecordingPlatform : public Platform {
     /// Answers for the next dialogs, in order. An empty one, and an empty queue, cancel. A question takes "yes" and
     /// "no".
     std::deque<std::optional<QString>> answers;
-    /// One line per call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "load: PATH", "clipboard: set", "clipboard: clear". Calls of yield() are only counted.
+    /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
+    /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
     std::vector<std::string> log;
     int yields = 0;
-    std::function<void()> onYield, onAsk; // onAsk: called while a dialog is open
-    QString loadNote;                     // the reason of every picture that is read
+    std::function<void()> onYield, onAsk; // onAsk: a dialog stands
+    QString loadNote;                     // of every picture that is read
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;
@@ -48,7 +48,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int) override { return path; }
-    /// Reads in this process, with Qt's readers.
+    /// Reads in this process, by what Qt reads.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }

@@ -130,7 +130,7 @@ void Monkey::warmUp()
     begin();
     QApplication::processEvents();
     frame_->openPicture(plan_.scratch + "/pictures/picture1.bmp");
-    finished_ = true; // no actions from now on
+    finished_ = true; // no action yet
     checkHome();
     end();
     finished_ = false;

@@ -1,4 +1,5 @@
-// Documents: the frame's open pictures: the area that contains them, the active one, and the removal of closed ones.
+// Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
+// are closed.
 #pragma once
 #include "document/road/DocumentHandle.h"
 #include "ui/view/fImage.h"
@@ -34,7 +35,7 @@ class Documents final : public QObject {
     void show(std::unique_ptr<fImage> image, bool maximized);
     /// The same for the active one, whose zoom may have changed.
     void fitActive();
-    /// Appends the open pictures to the menu, the active one checked, replacing the previous list.
+    /// Puts the open pictures at the end of the menu, the active one with a mark, in place of what stood there.
     void list(QMenu& menu);
     /// Moves the focus away from a picture at the Tab key; false when there is nowhere to go.
     std::function<bool(bool forward)> leaveByTab;
@@ -46,7 +47,7 @@ class Documents final : public QObject {
     bool closeAll();
     /// Ends all without a question.
     void clear();
-    /// Removes a closed document's window; it is deleted from the event loop.
+    /// Takes a closed document's window away; it is deleted from the event loop.
     void bury(fDocumentWindow* window);
 
   signals:

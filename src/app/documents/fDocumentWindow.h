@@ -1,5 +1,5 @@
-// fDocumentWindow: the child window that contains one document in the frame's area. Closing asks the document; a closed
-// window goes back to Documents, which deletes it when no work is under way.
+// fDocumentWindow: the child window that holds one document in the frame's area. Closing asks the document; a closed
+// one goes back to the documents, which delete it when no work is under way.
 #pragma once
 #include "ui/view/fImage.h"
 #include <QMdiSubWindow>

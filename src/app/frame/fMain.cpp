@@ -1,4 +1,4 @@
-// The parts of the frame, the start page and the status bar.
+// What the frame is made of, the start page and the status bar.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"

@@ -1,11 +1,11 @@
-// fMain: the frame around the documents: a switchboard over its parts, which don't know each other. The open pictures
-// are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the status bar, the side
-// pane and the way from a command to its document are its own.
+// fMain: the frame around the documents: a switchboard over what it owns, which don't know each other. The open
+// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the
+// status bar, the side pane and the road from a command to its document are its own.
 //
-// Split by topic: fMain.cpp (its parts, the start page, the status bar), _commands (the command language, options,
-// about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document), _pixels
-// (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the web),
-// _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
+// Cut by topic: fMain.cpp (what it is made of, the start page, the status bar), _commands (the command language,
+// options, about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document),
+// _pixels (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the
+// web), _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
@@ -29,7 +29,7 @@ struct FilterRow;
 class fStatus;
 class fToolPane;
 
-/// What happens with a file that no reader can read.
+/// What becomes of a file that no reader makes anything of.
 enum class Unreadable { OpensEmpty, Refused };
 
 class fMain final : public QMainWindow, public Frame {
@@ -96,8 +96,8 @@ class fMain final : public QMainWindow, public Frame {
     void capturePic(int mode);
 
     // --- Files
-    /// Opens a picture file as OPEN does after its dialog: updates the recent list, applies OpenZoom, keeps the folder.
-    /// False after the message that it can't be loaded.
+    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
+    /// that it can't be loaded.
     bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
     /// Opens the files of a drop, in order; files of other kinds are skipped.
@@ -111,14 +111,14 @@ class fMain final : public QMainWindow, public Frame {
     void applyBars(); // visibility and check marks from Setup
     void toggleStatusBar();
     void toggleSideBar();
-    /// Makes the panes of the tools that have one.
+    /// Fills the panes of the tools that have one.
     void initToolPanes();
     void Tool_Frame();
     void DisableTools();
     void toolClicked(const QString& key);
-    /// Updates the undo and redo buttons for the active document, and the changed marks of all.
+    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
     void refreshUndoState();
-    /// Ends hand scrolling: a drag is either the hand's or the tool's.
+    /// Hand scrolling ends: a drag is the hand's or the tool's.
     void releaseHand();
     fToolPane& toolPane() { return *toolPane_; }
     fStatus& status() { return *status_; }
@@ -154,13 +154,13 @@ class fMain final : public QMainWindow, public Frame {
     QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
   private:
-    /// Reports failures in the status bar.
+    /// Failures go to the status bar.
     void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
     void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
-    /// Reloads the icons in the variant that fits the palette.
+    /// The pictures in the cut that fits the palette.
     void refreshIcons();
     void frameResized();
     void placeSidePane();
@@ -171,7 +171,7 @@ class fMain final : public QMainWindow, public Frame {
     bool findsItsDocument(const CommandWord& command);
     void showStartPage();
     void saveAs(fImage& image);
-    /// name becomes the document's.
+    /// name is what the document is called afterwards.
     void saveTo(fImage& image, const QString& name);
     enum class Opening { Done, Failed, Gone };
     Opening openPath(const QString& path, Unreadable unreadable);

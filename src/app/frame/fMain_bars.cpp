@@ -187,7 +187,7 @@ void fMain::toolClicked(const QString& key)
         clips_->letGo();
         setup_.CurrentTool = key;
         Tool_Frame();
-        releaseHand(); // choosing a tool ends hand scrolling
+        releaseHand(); // who takes a tool puts the hand away
     }
 }
 

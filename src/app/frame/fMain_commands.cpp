@@ -1,4 +1,4 @@
-// The handlers of the vocabulary's words in the frame, and the two that only show a dialog of the program.
+// What the words of the vocabulary do in the frame, and the two that only show a dialog of the program.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/settings/fPreferences.h"
@@ -46,7 +46,7 @@ constexpr Handler kHandlers[] = {
     {"CAPTUREBACKGROUND",    [](fMain& f) { f.capture().background(); }},
     {"CUSTOMCAPTURE",        [](fMain& f) { f.capturePic(Capture::Rectangle); }},
 
-    // The active document is looked at; one of them runs without
+    // The active document is asked for; one of them runs without
     {"UNDO",                 [](fMain& f) { f.stepUndo(true); }},
     {"REDO",                 [](fMain& f) { f.stepUndo(false); }},
     {"CREATENEWCOPY",        [](fMain& f) { f.copyToNew(); }},
@@ -88,7 +88,7 @@ constexpr Handler kHandlers[] = {
     {"CASCADE",              [](fMain& f) { f.openPictures().arrange(Documents::Arrangement::Cascade); }},
     {"RESET",                [](fMain& f) { f.reset(); }},
 
-    // The frame's own words
+    // What the frame does by itself
     {"@BROWSE",              browsePictures},
     {"@ASSOCIATION",         showAssociation},
     {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},

@@ -34,7 +34,7 @@ bool isDropped(const QString& path)
     });
 }
 
-/// Two windows of one file are distinguished by the prefix of the second one's name.
+/// Two windows of one file tell themselves apart by the mark in front of the second one's name.
 void showName(fImage& image, const QString& path)
 {
     image.setCaption(image.Tag().chopped(path.size()) + FileNameOf(path));
@@ -84,8 +84,8 @@ void fMain::showGone(const QStringList& paths)
         Icon::Exclamation);
 }
 
-/// Unless the result is Done, no document was made, and no message shown. With gif, wmf, emf, ico, cur and dib an
-/// unreadable file is an error; any other format opens an empty window.
+/// Unless the file was opened there is no document of it, and nothing was said. A file that a reader of the platform
+/// (gif, wmf, emf, ico, cur, dib) refuses fails aloud; any other that can't be read gives an empty window.
 fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
 {
     if (closing_) return Opening::Done;
@@ -102,13 +102,13 @@ fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
     const bool aloud = unreadable == Unreadable::Refused || (format && format->has(FailsAloud));
     if (!loaded.ok() && aloud) return Opening::Failed;
     if (!loaded.ok()) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
-    // A truncated picture doesn't replace its file without a question.
+    // What has lost its end doesn't replace its file without a question.
     adopt(loaded.bits, path, loaded.ok() && loaded.reason.isEmpty() ? Arrival::File : Arrival::Made);
     if (loaded.ok() && !loaded.reason.isEmpty()) status_->say(loaded.reason);
     return Opening::Done;
 }
 
-/// Opens it or shows why not; false then.
+/// Opens it or says why not; false then.
 bool fMain::openOrTell(const QString& path, Unreadable unreadable)
 {
     const Opening opening = openPath(path, unreadable);
@@ -169,7 +169,7 @@ void fMain::save()
 void fMain::saveNow(fImage& image)
 {
     const Format* format = formatOf(image.Caption());
-    // A new document, a second window of the same file and any other format ask for a name.
+    // A new document, a second window of the same file and any other format get their name by asking.
     const bool own = image.document().hasFile && image.Tag().startsWith('/');
     if (!own || !format || format->saving != Saving::Directly) return saveAs(image);
     saveTo(image, image.Tag());
@@ -206,12 +206,12 @@ void fMain::saveTo(fImage& image, const QString& name)
         result = image.Save(target.name, target.extension);
     } catch (const std::exception&) {
     }
-    if (result != SaveResult::Written) { // the document stays unsaved
+    if (result != SaveResult::Written) { // the document stays as it was, unsaved
         const bool told = result == SaveResult::FailedAndTold || result == SaveResult::Refused;
         if (!told) platform_.tell("Unexpected error saving image", Icon::Exclamation);
         return;
     }
-    if (!watched) return; // closed while a message of the save was open
+    if (!watched) return; // closed while a notice of the save stood open
     const bool changedMeanwhile = image.document().commits() != commits;
     image.document().saved();
     image.document().Changed = changedMeanwhile;
@@ -285,7 +285,7 @@ void fMain::dropFiles(const QStringList& paths)
         failed |= opening == Opening::Failed;
         if (opening == Opening::Gone) gone << path;
     }
-    if (failed && !closing_) showLoadError(); // one message for all
+    if (failed && !closing_) showLoadError(); // once, however many
     if (!gone.isEmpty() && !closing_) showGone(gone);
 }
 

@@ -66,7 +66,7 @@ void fMain::textTools()
 void fMain::stepUndo(bool back)
 {
     const DocumentHandle document = active();
-    if (workspace_.isBusy(document)) { // then the change under way is what is undone
+    if (workspace_.isBusy(document)) { // what is under way is what is taken back
         if (back) workspace_.cancel(document);
         return;
     }

@@ -1,4 +1,4 @@
-// What the frame shows of the workspace: progress, the end of a change, lost steps.
+// What the frame shows of the workspace: progress, the end of a change, the steps that are lost.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "seams/Platform.h"

@@ -17,7 +17,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
     const QImage picture = splashPicture();
-    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and kept
+    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");

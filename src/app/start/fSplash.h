@@ -27,7 +27,7 @@ class fSplash final : public QDialog {
     void tick();
 
     Platform& platform_;
-    std::shared_ptr<Ripples> ripples_; // shared with a tick, which runs events in which the window may be destroyed
+    std::shared_ptr<Ripples> ripples_; // shared with a tick that yields while the window may go
     QTimer Timer1;
 };
 

@@ -41,7 +41,7 @@ void Ripples::draw(const Ripple& ripple, int size)
 void Ripples::tick(const std::function<double()>& random, const std::function<void()>& yield)
 {
     shown_ = source_;
-    for (std::size_t i = std::size_t(first_); i < list_.size(); ++i) { // by index: yield() may add some
+    for (std::size_t i = std::size_t(first_); i < list_.size(); ++i) { // by index: a yield may add some
         const int size = roundEven(2 * random()) + list_[i].size;
         draw(list_[i], size);
         yield();

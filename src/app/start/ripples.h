@@ -12,12 +12,11 @@ class Ripples {
     explicit Ripples(const QImage& picture);
 
     void add(int x, int y) { list_.push_back({x, y}); }
-    /// One step of all live ripples, drawn into picture(). random gives [0, 1); yield is called once per ripple and may
-    /// add ripples.
+    /// One step of all live ripples, into picture(). random gives [0, 1); yield runs once a ripple and may add ripples.
     void tick(const std::function<double()>& random, const std::function<void()>& yield);
 
     const QImage& picture() const { return shown_; }
-    /// Index of the first ripple that is still growing.
+    /// Index of the first ripple that still grows.
     int firstLive() const { return first_; }
     int count() const { return static_cast<int>(list_.size()); }
 

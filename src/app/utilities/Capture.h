@@ -26,7 +26,7 @@ class Capture final : public QObject {
     // --- The command words
     void desktop();
     void background();
-    /// Immediately.
+    /// At once.
     void capturePic(int mode);
 
     /// Shows the dialog; there is only one.

@@ -1,4 +1,4 @@
-// The windows that show files on disk.
+// The windows that show what is on the disk.
 #pragma once
 
 namespace velara {

@@ -15,7 +15,7 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode)
     Platform& platform = frame.platform();
     const QString path = platform.wallpaper().folder() + "/ClearPane_Wallpaper.bmp";
     const QPointer<fImage> image = frame.GetActiveImage();
-    if (!image->PictureExists() || image->Save(path, "bmp") != SaveResult::Written) return; // the save has reported it
+    if (!image->PictureExists() || image->Save(path, "bmp") != SaveResult::Written) return; // the save has told of it
     platform.wallpaper().set(path, mode, [&platform](WallpaperResult result) {
         if (result == WallpaperResult::CantRead) platform.tell("Error getting subkey value.", Icon::Exclamation);
         if (result == WallpaperResult::CantWrite) platform.tell("Error Setting subkey value.", Icon::Exclamation);

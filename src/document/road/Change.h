@@ -21,7 +21,7 @@ enum class After {
     Sizing, // one undo step of a run of sizing words; each of them starts from the picture before the first
 };
 
-/// How a change ended. In all cases but Done the document, its selection and its undo series are unchanged.
+/// What became of a change. In all cases but Done the document, its selection and its undo series are as they were.
 struct Outcome {
     enum Kind {
         Done,

@@ -53,8 +53,8 @@ class Frame {
     /// Runs a command word. Unknown words do nothing.
     virtual void Mmenu(const QString& word) = 0;
     virtual void setStatus(Panel panel, const QString& text) = 0;
-    /// Hand scrolling. The first activation of a document switches it on; documents adopt the current state when they
-    /// are activated.
+    /// Hand scrolling. The first activation of a document switches it on; documents take its state as they are
+    /// activated.
     virtual void EnableMouseScrolling() = 0;
     virtual bool mouseScrolling() const = 0;
     /// Updates the colour wells from Setup.

@@ -12,8 +12,8 @@
 
 namespace velara {
 
-/// Shared by the owner and the writing thread. While snapshots are queued, files, mark and states belong to the thread;
-/// otherwise to the owner. The counters may be read under the guard at any time.
+/// Between the owner and the writing thread. While snapshots wait the files, the mark and the states are the thread's;
+/// else they are the owner's. The counters are read under the guard at any time.
 struct UndoStore::Series {
     Series(QString folder, int number) : files(std::move(folder), number) {}
 
@@ -30,7 +30,7 @@ struct UndoStore::Series {
 
     mutable std::mutex guard;
     mutable std::condition_variable written;
-    int waiting = 0; // queued snapshots
+    int waiting = 0; // snapshots on their way
     int step = 0, top = 0;
     std::atomic<bool> everFailed{false};
     bool passedOver = false;
@@ -45,7 +45,7 @@ struct UndoStore::Series {
     State& of(int index) { return states[static_cast<std::size_t>(index)]; }
     std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
 
-    // --- On the writing thread; count is the number of states.
+    // --- On the writing thread; count is how many states there are.
     bool ready();
     int write(const Bits& bits);
     int hold(const Bits& bits, int index);
@@ -54,7 +54,7 @@ struct UndoStore::Series {
     void tell(int reason) const;
 };
 
-/// The folder may have been removed since the last step.
+/// The folder may have been swept away since the last step.
 bool UndoStore::Series::ready()
 {
     if (files.folder().isEmpty()) return errno = ENOENT, false;
@@ -212,7 +212,7 @@ std::function<std::optional<Bits>()> UndoStore::previousLater() const
 {
     return [series = series_]() -> std::optional<Bits> {
         Series& s = *series;
-        const int step = [&] { // the counters can be read while the file is being read
+        const int step = [&] { // the counters can be read while the file is
             const auto lock = s.settled();
             return s.step;
         }();

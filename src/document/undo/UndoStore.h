@@ -38,7 +38,7 @@ class UndoStore {
     /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. Returns at
     /// once unless the snapshot before the last one is still being written.
     void save(const Bits& bits);
-    /// Waits for the writing. True when the state shown is on disk, or none was ever saved.
+    /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture shown before this one; counters are unchanged. Nothing when it is lost.
     std::optional<Bits> previous() const { return previousLater()(); }
@@ -46,11 +46,11 @@ class UndoStore {
     std::function<std::optional<Bits>()> previousLater() const;
     /// Moves the counters like undo(), for a picture obtained from previous().
     void stepBack();
-    /// The picture one step back or forward, and the counters moved. Lost steps are skipped; nothing, with the counters
-    /// unchanged, when no readable step is left.
+    /// The picture one step back or forward, and the counters moved. Steps that are lost are passed over; nothing, and
+    /// nothing moved, when there is none that can be read.
     std::optional<Bits> undo();
     std::optional<Bits> redo();
-    /// Whether the last undo or redo left or skipped a step that couldn't be written or read.
+    /// Whether the last undo or redo left or passed over a step that couldn't be written or read.
     bool passedOver() const;
     /// Removes every file of the document; queued snapshots are not written.
     void deleteSeries();
@@ -63,7 +63,7 @@ class UndoStore {
 
   private:
     struct Series;
-    std::shared_ptr<Series> series_; // shared with the queued jobs
+    std::shared_ptr<Series> series_; // shared with the jobs that wait
 };
 
 } // namespace velara

@@ -117,7 +117,7 @@ void FWeb::customQuality()
 
 // --- Files
 
-/// All changes until the message loop is idle count as one.
+/// All changes until the message loop is idle are one.
 void FWeb::changed()
 {
     again_ = stop_ = true;
@@ -132,10 +132,10 @@ void FWeb::ask(Work work)
     timer_.stop();
     next_ = work;
     stop_ |= !(work == Work::Save && now_ == Work::Fit);
-    run(); // immediately, or when the current work has ended
+    run(); // at once, or when what is under way has ended
 }
 
-/// Runs events now and then, and ends work that is no longer wanted.
+/// Yields now and then, and ends the work when it is not wanted any more.
 ReduceProgress FWeb::yielding()
 {
     return [this, alive = QPointer<FWeb>(this)](int) {
@@ -147,7 +147,7 @@ ReduceProgress FWeb::yielding()
     };
 }
 
-/// Does one piece of work after the other, until there is none.
+/// One work after the other, until there is none.
 void FWeb::run()
 {
     if (running_) return;
@@ -175,7 +175,7 @@ void FWeb::write(const QString& finalName)
 {
     const QPointer<FWeb> alive = this;
     const QString name = finalName.isEmpty() ? temporaryName() : finalName;
-    const WebSettings settings = settings_; // later changes are for the next one
+    const WebSettings settings = settings_; // a change meanwhile is for the next one
     const bool wanted = std::exchange(again_, false);
     showWaiting(true);
     const WebFile file = writeWebFile(picture_, settings, name,
@@ -262,7 +262,7 @@ void FWeb::fitSize()
     showWaiting(false);
     if (stop_) return;
     if (!quality) {
-        next_ = Work::Preview; // a file that is too large isn't what was to be saved
+        next_ = Work::Preview; // a file that is too large is not what was to be saved
         note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
         return say(note_);
     }
@@ -279,7 +279,7 @@ void FWeb::saveAs()
     dialog.writtenAs = fileOf;
     const auto name = platform_.saveFileName(dialog);
     if (!alive || !name || closing_) return;
-    choices_->setEnabled(false); // the file being written must match the choices
+    choices_->setEnabled(false); // what is being written is what was asked for
     write(fileOf(*name));
     if (!alive) return;
     choices_->setEnabled(true);

@@ -1,6 +1,7 @@
-// FWeb: the dialog "Customized Save Options ": shows the picture as a file of a preset, beside the original, and the
-// file's size. Each change writes the file, reads it back and shows it; one file at a time: a change, "Save As" or
-// "Fit" ends one being written. The properties of an older file are grey until the new one is complete.
+// FWeb: the dialog "Customized Save Options ": what the picture looks like in a file of a preset, beside the original,
+// and how large that file is. Each change writes the file, reads it back and shows it; one file at a time: a change,
+// "Save As" or "Fit" while one is written ends that one. What is told of an older file is grey until the new one
+// stands.
 #pragma once
 #include "fileio/web/webFile.h"
 #include "ui/widgets/fPicturePage.h"
@@ -29,7 +30,7 @@ class FWeb final : public QDialog {
 
     const WebSettings& settings() const { return settings_; }
     bool isRunning() const { return running_ || timer_.isActive(); }
-    /// Exit, Esc and the close button: ends work under way.
+    /// Exit, Esc and the window's cross: ends what is under way.
     void reject() override;
 
   private:
@@ -70,9 +71,9 @@ class FWeb final : public QDialog {
     Work now_ = Work::Preview, next_ = Work::Preview;
     bool running_ = false;
     bool again_ = false;   // a preview is wanted
-    bool stop_ = false;    // the current work is no longer wanted
-    bool closing_ = false; // the dialog closes when it has ended
-    QString note_;         // shown instead of the exact size
+    bool stop_ = false;    // what is under way is not wanted any more
+    bool closing_ = false; // the dialog goes when it has ended
+    QString note_;         // said in place of the exact size
     std::uint32_t lastYield_ = 0;
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;

@@ -142,10 +142,10 @@ void fColorDepth::showDepth()
     Lbloptimized_->setText(cmbDepth_->currentText());
 }
 
-/// Closes the dialog before the action, which may open another.
+/// The dialog is closed before what follows, which may open another.
 void fColorDepth::finish(const std::function<void(const Bits&)>& action)
 {
-    const auto next = action; // outlives this dialog
+    const auto next = action; // lives on whatever becomes of this
     const Bits result = bitsAtDepth(picture_, depth());
     accept();
     if (next) next(result);

@@ -14,8 +14,8 @@ namespace velara {
 class fColorDepth final : public QDialog {
     Q_OBJECT
   public:
-    /// What happens to the reduced picture at full size: ok puts it into the document, save passes it to the dialog
-    /// that saves, after this one has closed.
+    /// What happens to the reduced picture of full size: ok puts it into the document, save shows it to the dialog that
+    /// saves, after this one has closed.
     struct Actions {
         std::function<void(const Bits&)> ok, save;
     };

@@ -23,11 +23,11 @@ class fPaste final : public QWidget {
   public:
     fPaste(Frame& frame, QWidget* parent);
 
-    /// Adds the selected part of the document to the list, makes it the next paste, and returns it. Null, after a
-    /// message, when the selection is too small. Clearing what is cut is up to the caller.
+    /// Puts the selected part of the document into the list, makes it what the next paste lays down, and gives it. Null
+    /// after a message when the selection is too small. The caller clears what is cut.
     Bits CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
     Bits CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
-    /// Updates the scroll control for the list: the newest clip is in view.
+    /// The scroll control follows the list: the newest clip is in view.
     void Update_V();
     bool isEmpty() const { return history_.clips().empty(); }
 

@@ -1,5 +1,5 @@
-// fDisplay: the surface iDst of a document's window. Paints the visible pixels and the outline; passes mouse and key
-// events to the window.
+// fDisplay: the surface iDst of a document's window. Paints the visible pixels and the outline; what it is told with
+// the mouse and the keys goes to the window.
 #pragma once
 #include "tools/ToolContext.h"
 #include "ui/widgets/viewRender.h"

@@ -60,7 +60,7 @@ fImage::~fImage() { forget(); }
 
 SaveResult fImage::Save(const QString& path, const QString& ext)
 {
-    // A slow one shows no notice, which might outlive this window.
+    // One that is slow shows no notice, which might outlive this window.
     const Format* format = findFormat(ext.toLower().toStdString());
     const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -169,7 +169,7 @@ bool fImage::mayClose()
     if (!self) return false;
     bringToFront(); // the question and the save are about this one
     frame_.Mmenu("SAVE");
-    return self && !document_.wouldBeLost(); // stays open after a save that was cancelled or failed
+    return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
 }
 
 void fImage::closeEvent(QCloseEvent* event)
@@ -190,7 +190,7 @@ void fImage::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-/// The end of the document: removes its undo files.
+/// The end of the document: its undo files go.
 void fImage::forget()
 {
     if (forgotten_) return;

@@ -1,9 +1,9 @@
-// fImage: a view of an open picture. The state is in its Document; this is its window: the display iDst, the scroll
-// bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the marching outline, and the question
-// before it closes.
+// fImage: a view of an open picture. The state lies in its Document; this is what is seen of it: the display iDst,
+// the scroll bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the marching outline, and the
+// question before it closes.
 //
-// Split by topic: fImage.cpp (picture, names, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
-// fImage_mouse.cpp (mouse and keys).
+// Cut by topic: fImage.cpp (picture, names, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
+// fImage_mouse.cpp (what mouse and keys do).
 #pragma once
 #include "document/Workspace.h"
 #include "fileio/savePicture.h"
@@ -47,7 +47,7 @@ class fImage final : public QWidget, public ToolSurface {
     // --- Names
     QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
-    /// Marks the window, as usual on the platform, when closing it would ask.
+    /// The window carries the platform's mark when closing it would ask.
     void showChanged();
     /// The user is being asked whether it may close; it can't be closed then.
     bool isAsking() const { return asks_; }
@@ -109,7 +109,7 @@ class fImage final : public QWidget, public ToolSurface {
     void repaint(const Rect& part) override;
     void colourPicked() override;
 
-    // --- Events passed on by the display
+    // --- What the display hands on
     void displayPressed(const QMouseEvent& event);
     void displayDoubleClicked(const QMouseEvent& event);
     void displayMoved(const QMouseEvent& event);

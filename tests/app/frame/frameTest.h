@@ -45,7 +45,7 @@ struct FrameTest : ::testing::Test {
         QCoreApplication::processEvents();
         return frame->GetActiveImage();
     }
-    /// Runs a word and waits for everything that it begins.
+    /// A word, and what it begins, to their end.
     void command(const QString& word)
     {
         frame->Mmenu(word);

@@ -1,4 +1,4 @@
-// Opening, saving, the recent list, drops, clipboard, and closing the frame.
+// Opening, saving, the recent list, drops, clipboard, and the end of the frame.
 #include "app/fStartup.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
@@ -255,7 +255,7 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_EQ(frame->documents()[0]->Caption(), "b & c.bmp");
 
     QFile::remove(a);
-    frame->action("RF_0")->trigger(); // deleted since the list was filled
+    frame->action("RF_0")->trigger(); // gone since the list was filled
     EXPECT_EQ(last(), "message: Velara Studio: This file is not there any more:\n" + a.toStdString());
     EXPECT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->action("RF_0")->text(), "Empty");

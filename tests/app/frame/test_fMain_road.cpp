@@ -17,10 +17,10 @@ namespace velara {
 
 namespace {
 
-/// Words whose windows change pixels.
+/// Words of the windows that change pixels.
 constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",    "IMAGEORIENTATION", "IMAGEROTATE",
                                              "IMAGERESOLUTION", "IMAGETEXTURES", "IMAGECOLORDEPTH",  "CUT"};
-/// Words that are completed synchronously.
+/// Words that are done in one go.
 const std::set<std::string_view> kAtOnce{"REDO", "UNDO"};
 
 /// Sets a dialog to the size that it shows initially.
@@ -295,7 +295,7 @@ TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
             atOnce.insert(command.word);
             continue;
         }
-        const bool sizing = isSizing(command.word); // consecutive ones share a step
+        const bool sizing = isSizing(command.word); // one after another: they take the same step
         expectState({usual.once.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.once);
         if (usual.once.picture == start) asBefore.insert(command.word);
         const bool listed = command.kind == WordKind::Dialog || command.kind == WordKind::Preset;

@@ -75,7 +75,7 @@ void QtClipboard::offer(const QImage& picture)
 
 bool QtClipboard::setBitmap(const Bits& bits)
 {
-    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // sets the fourth byte to 255
+    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // which makes the fourth byte 255
     if (image.isNull()) return false;
     image.reinterpretAsFormat(QImage::Format_RGB32);
     offer(image);
