@@ -24,7 +24,7 @@ class Document {
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
     const Bits& bits() const { return bits_; }
-    /// The picture itself, for the paint primitives. Never to be held over a yield.
+    /// The picture itself, for the paint primitives. Never to be held over a call that runs events.
     Bits& edit() { return bits_; }
     /// Ignored without a picture; an empty buffer is ignored, too.
     void setBits(const Bits& bits);

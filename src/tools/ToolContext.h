@@ -41,7 +41,8 @@ struct ToolContext {
     Region before, wiped;                   // the selection before the gesture, and after its press
     std::int32_t colourBefore = 0;          // the colour before the pipette
 
-    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
+    std::shared_ptr<int> life =
+        std::make_shared<int>(0); // expires with this object: what a tool calls may close the view
 
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores(); }

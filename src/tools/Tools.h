@@ -3,7 +3,7 @@
 //
 // A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
 // back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
-// arithmetic end the event and nothing else. A yield within a tool may destroy this object.
+// arithmetic end the event and nothing else. A call that leaves a tool may destroy this object.
 #pragma once
 #include "tools/ToolContext.h"
 #include "tools/toolRows.h"
