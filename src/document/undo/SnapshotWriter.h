@@ -1,4 +1,4 @@
-// SnapshotWriter: the one thread that writes undo snapshots in the background.
+// SnapshotWriter: the one thread that writes undo snapshots while the user goes on.
 #pragma once
 #include <condition_variable>
 #include <deque>
@@ -12,7 +12,7 @@ class SnapshotWriter {
   public:
     static SnapshotWriter& instance();
 
-    /// Runs the jobs one after the other, in the order of the calls; before this returns when no thread can be started.
+    /// Runs the jobs one after the other, in the order of the calls. Where no thread can be had, before this returns.
     void add(std::function<void()> job);
 
   private:
