@@ -22,8 +22,7 @@ unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_h
 /// throwing text, which is what FreeImage itself throws and catches.
 unsigned DLL_CALLCONV writeOrThrow(void* bytes, unsigned size, unsigned count, fi_handle handle)
 {
-    constexpr std::size_t kHeader = 8; // written while the file is opened, where failures are noticed, and where an
-                                       // exception would leak TIFF's memory
+    constexpr std::size_t kHeader = 8; // written at opening, where failures are noticed and TIFF would leak
     if (writeProc(bytes, size, count, handle) == count) return count;
     if (std::size_t{size} * count > kHeader) throw "the file can't be written";
     return 0;

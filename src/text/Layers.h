@@ -8,8 +8,7 @@
 namespace velara {
 
 struct Layer {
-    QString text; // "\r
-                  // " forces a line break
+    QString text; // "\r\n" forces a line break
     TextStyle style;
     Colour colour = 0;
     Rect place; // picture pixels; may extend beyond the picture

@@ -15,8 +15,7 @@ constexpr int kNoShadow = 4;
 constexpr int kSmallestText = 6, kLargestText = 72;
 
 struct TextBox {
-    QString text; // "\r
-                  // " forces a line break
+    QString text; // "\r\n" forces a line break
     int width = 0, height = 0;
     float margin = 4; // pixels on each side
     int align = LeftJustify;
@@ -45,9 +44,8 @@ using MeasureRun = std::function<RunSize(const QString& run, int size)>;
 /// requested size, unless it fits at a smaller one. Without text there are no lines.
 std::optional<TextLayout> layOutText(const TextBox& box, const MeasureRun& measure);
 
-/// The text wrapped to a width in pixels, after " ", after "-" and at "\r
-/// "; the break and the blanks before it belong to no line. At most `most` lines are made. width is that of the lines,
-/// at least 0 pixels.
+/// The text wrapped to a width in pixels, after " ", after "-" and at "\r\n"; the break and the blanks before it belong
+/// to no line. At most `most` lines are made. width is that of the lines, at least 0 pixels.
 std::vector<TextLine> breakLines(const QString& text, int width, int size, const MeasureRun& measure, int most);
 
 /// How often Needle occurs, overlapping matches included. An empty Needle never does.

@@ -117,8 +117,7 @@ TEST_F(WebFileTest, AWriterEndsWithItsFirstWriteThatFails)
 {
     const FreeImageStart library;
     for (const int format : {FIF_PNG, FIF_JPEG, FIF_TIFF}) {
-        const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // for its small
-                                                                                                     // strips
+        const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // its small strips
         OutputFile file(path("web"));
         int asked = 0;
         file.setGoOn([&asked] { return ++asked == 0; });

@@ -107,8 +107,7 @@ TEST(DesktopWallpaper, PlasmaGetsAScriptAndThePortalAFile)
         Desktop desktop("KDE");
         DesktopWallpaper wallpaper(desktop.platform, bus.connection());
         EXPECT_EQ(desktop.set(wallpaper, WallpaperMode::Stretch, file), WallpaperResult::Done);
-        const QByteArray address = "file://" + folder.path().toUtf8() + "/it%27s.bmp"; // a quote can't end the argument
-                                                                                       // early
+        const QByteArray address = "file://" + folder.path().toUtf8() + "/it%27s.bmp"; // no quote ends the word early
         EXPECT_TRUE(fileBytes(log).contains("d.writeConfig('Image', '" + address + "');"))
             << fileBytes(log).constData();
         EXPECT_TRUE(fileBytes(log).contains("d.writeConfig('FillMode', '0');"));

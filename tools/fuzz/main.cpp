@@ -112,8 +112,7 @@ int run(const Plan& plan)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    QLoggingCategory::setFilterRules("default.warning=false"); // otherwise every decompression of damaged data is
-                                                               // reported
+    QLoggingCategory::setFilterRules("default.warning=false"); // else each damaged unpacking is reported
     QCommandLineParser line;
     line.addHelpOption();
     line.addOptions({{"seconds", "how long", "N", "60"},

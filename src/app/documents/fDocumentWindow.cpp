@@ -24,8 +24,7 @@ void fDocumentWindow::fit(const QRect& area)
     const QSize picture = QSize(image_->PictureWidth(), image_->PictureHeight()) * image_->ZoomFactor();
     const QSize whole = (picture + around).expandedTo(minimumSizeHint());
     if (whole.width() > area.width() || whole.height() > area.height()) return setGeometry(area);
-    const QPoint last(area.width() - whole.width(), area.height() - whole.height()); // the last position inside the
-                                                                                     // area
+    const QPoint last(area.width() - whole.width(), area.height() - whole.height()); // the last position inside
     setGeometry({{std::clamp(x(), 0, last.x()), std::clamp(y(), 0, last.y())}, whole});
 }
 

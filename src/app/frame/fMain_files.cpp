@@ -153,8 +153,7 @@ void fMain::FillRecent()
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
-        item->setVisible(found || i == 0); // a lost file keeps its place in the list, but gets no empty line in the
-                                           // menu
+        item->setVisible(found || i == 0); // a lost file stays in the list, but has no line in the menu
     }
     showStartPage();
 }

@@ -11,8 +11,7 @@ namespace velara {
 namespace {
 
 constexpr const char* kSection = "VeStu";
-constexpr int kLayoutVersion = 1; // raised when toolbars are added or removed, so that an old layout is not forced on
-                                  // new bars
+constexpr int kLayoutVersion = 1; // raised when toolbars are added or removed: an old layout is not for new bars
 
 } // namespace
 

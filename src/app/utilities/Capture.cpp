@@ -116,7 +116,7 @@ void Capture::capturePic(int mode)
     });
 }
 
-/// By way of the file, if there is room for it; otherwise the capture is still kept.
+/// By way of the file, if there is room for it; otherwise directly.
 void Capture::makeDocument(const Bits& captured, const QString& reason)
 {
     bringBack();

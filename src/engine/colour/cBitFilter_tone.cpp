@@ -47,8 +47,7 @@ Wide balanced(Wide v)
 /// The histogram of round(brightnessOf) over all pixels.
 std::array<std::int64_t, 256> histogram(const Bits& bits)
 {
-    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // four tables: with one, runs of equal pixels would wait
-                                                            // for each other
+    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
     std::vector<Pixel> greys(std::size_t(bits.width()));
     for (int y = 0; y < bits.height(); ++y) {
         colourKernels().brightness(bits.row(y), bits.width(), greys.data());

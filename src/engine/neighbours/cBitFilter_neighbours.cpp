@@ -33,8 +33,7 @@ Bits cBitFilter::SOFTEN(int Level)
     const std::ptrdiff_t stride = bits_.stride();
     if (divisor == 0) return eachSpan(1, divideByZero);
     if (k >= 0) return eachSpan(1, weighted(Neighbours::Cross, 1, divisor, stride));
-    return eachSpan(1, [=](const Pixel* from, Pixel* to, int x0, int x1) { // a negative centre weight may leave the
-                                                                           // byte range
+    return eachSpan(1, [=](const Pixel* from, Pixel* to, int x0, int x1) { // a negative weight may leave the byte range
         for (int x = x0; x < x1; ++x) {
             for (int c = 0; c < 3; ++c) {
                 const auto at = [&](std::ptrdiff_t offset) { return from[x + offset].c[c]; };

@@ -220,8 +220,7 @@ Dib simplified(const Dib& dib)
     case FIT_RGBA16:
         return owned(FreeImage_ConvertTo24Bits(dib.get()));
     default:
-        return owned(FreeImage_ConvertToStandardType(dib.get(), TRUE)); // measurements: scaled from darkest to
-                                                                        // brightest
+        return owned(FreeImage_ConvertToStandardType(dib.get(), TRUE)); // measurements: darkest to brightest
     }
 }
 

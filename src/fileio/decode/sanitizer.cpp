@@ -11,8 +11,7 @@ namespace velara::decode {
 namespace {
 
 constexpr int kLibraryFault = 97;
-constexpr std::array<std::string_view, 4> kBelow = {"libasan", "libc.so", "libstdc++", "libgcc"}; // called by ours and
-                                                                                                  // by theirs
+constexpr std::array<std::string_view, 4> kBelow = {"libasan", "libc.so", "libstdc++", "libgcc"}; // called by both
 
 /// The program or library in a line of a stack, "#1 0x... in f (/usr/lib/libx.so.3+0x12)"; empty for other lines.
 std::string_view moduleOf(std::string_view line)

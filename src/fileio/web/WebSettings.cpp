@@ -50,8 +50,7 @@ struct KindRow {
 };
 constexpr KindRow kKinds[] = { // by FileKind
     {"BMP", "Windows Bitmap Format (*.bmp)|*.bmp"}, {"PNG", "Portable Network Graphics (*.png)|*.png"},
-    {"TGA", "Targa Format (*.tga)|*.tga"},          {"TIF", "Tagged Image Format (*.tif)|*.tif)"}, // the surplus
-                                                                                                   // bracket is kept
+    {"TGA", "Targa Format (*.tga)|*.tga"},          {"TIF", "Tagged Image Format (*.tif)|*.tif)"}, // extra bracket: kept
     {"PCX", "PCX Format (*.pcx)|*.pcx"},
 };
 // clang-format on

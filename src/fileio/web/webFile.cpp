@@ -137,8 +137,7 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
         const int middle = (good + bad) / 2;
         (fits(middle) ? good : bad) = middle;
     }
-    for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes are not strictly
-                                                                                      // monotonic
+    for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes may waver a little
         if (fits(quality)) good = quality;
     return good > 0 && !teller.stopped() ? std::optional(good) : std::nullopt;
 }

@@ -92,8 +92,7 @@ QSize x11RootSize()
 {
     xcb_connection_t* x = ours();
     if (!x) return {};
-    const auto cookie = xcb_get_geometry(x, screenOf(x)->root); // the screens may have changed since the connection was
-                                                                // made
+    const auto cookie = xcb_get_geometry(x, screenOf(x)->root); // the screens may have changed since the connection
     const Owned<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(x, cookie, nullptr), &std::free);
     return reply ? QSize(reply->width, reply->height) : QSize();
 }

@@ -49,8 +49,7 @@ TEST_F(FrameTest, EveryItemAndButtonGivesAKnownWordAndIsEnabledWhenItIsThere)
         names << name;
         const QAction* action = frame->action(name);
         ASSERT_NE(action, nullptr) << name.toStdString();
-        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // enabled by their own
-                                                                                             // state
+        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // by their own state
         EXPECT_TRUE(follows || action->isEnabled() == fMain::available(word)) << name.toStdString();
     };
     int items = 0;

@@ -281,8 +281,7 @@ TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
 {
     int number = 3;
     const auto next = [&] { return number++; };
-    UndoStore second(folder.path(), next); // a lock belongs to the open file, so another store acts like another
-                                           // program
+    UndoStore second(folder.path(), next); // the lock is the open file's: this acts like another program
     EXPECT_EQ(4, second.number());
     saveMany(0, 2);
     second.save(picture(5));

@@ -62,8 +62,7 @@ TEST_F(IconFile, ReadersGetBackEveryPixelAndTheMask)
 
 TEST_F(IconFile, WhatIsMaskedGivesNoColourToItsNeighbours)
 {
-    const Bits bits = drawnBits(90, 90, [](int x, int y) { // a square of one colour on a background of the mask's
-                                                           // colour
+    const Bits bits = drawnBits(90, 90, [](int x, int y) { // a square of one colour on the mask's colour
         return QRect(20, 20, 50, 50).contains(x, y) ? Pixel{{10, 20, 30, 0}} : Pixel{{100, 0, 200, 0}};
     });
     const QImage icon = iconOf(bits, {32, 16}, kMask);

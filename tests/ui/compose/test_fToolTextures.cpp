@@ -43,8 +43,7 @@ struct TexturesBoxTest : WindowTest {
     void textures(const char* name, const Bits& bits)
     {
         QDir(frame.platform_.programFolder()).mkpath("Textures");
-        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // the reader goes by the
-                                                                                            // contents
+        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by its contents
     }
 };
 

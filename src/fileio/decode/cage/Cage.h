@@ -12,11 +12,10 @@ enum class Needs { Nothing, Fonts, Drawing };
 /// The layers; each works without the others.
 enum CageLayer : unsigned {
     NoNewPrivileges = 1, // set-user-id programs give no rights
-    Limits = 2,          // no new process, no new descriptor, no byte in a file; memory and processor time; first to be
-                         // killed
-    Capabilities = 4,    // root has no privileges
-    Landlock = 8,        // no path, no port, no signal to others
-    Seccomp = 16,        // only memory, the open descriptors and exit; any other call ends the process
+    Limits = 2,       // no new process or descriptor, no byte in a file; memory and processor time; first to be killed
+    Capabilities = 4, // root has no privileges
+    Landlock = 8,     // no path, no port, no signal to others
+    Seccomp = 16,     // only memory, the open descriptors and exit; any other call ends the process
 };
 constexpr unsigned kAllLayers = NoNewPrivileges | Limits | Capabilities | Landlock | Seccomp;
 

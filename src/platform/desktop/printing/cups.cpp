@@ -74,8 +74,7 @@ std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& ot
     std::vector<Paper> papers;
     const auto add = [&papers](const cups_size_t& size) {
         const QString name = QString::fromUtf8(size.media);
-        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some are also listed
-                                                                                          // without margins
+        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some without margins, too
         if (known || name.startsWith("custom_") || size.width <= 0 || size.length <= 0) return;
         papers.push_back({name, QSizeF(size.width, size.length) / kUnitsAMillimetre,
                           QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre});
