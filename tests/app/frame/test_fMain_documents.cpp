@@ -49,7 +49,7 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
     fImage* large = open(randomBits(area.width() + 1, 20, 1));
     EXPECT_EQ(windowOf(large)->geometry(), area);
     setup.OpenZoom = 3;
-    ASSERT_TRUE(frame->openPicture(file("zoomed.png", 120, 90)));
+    openFile(file("zoomed.png", 120, 90));
     fImage* zoomed = frame->GetActiveImage();
     EXPECT_EQ(zoomed->ZoomFactor(), 3);
     EXPECT_EQ(zoomed->GetSBM(), QPoint(0, 0)) << "as it is shown, at three to one";
@@ -59,8 +59,8 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
 TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
 {
     const QString path = file("a[*].png");
-    frame->openPicture(path);
-    frame->openPicture(path);
+    openFile(path);
+    openFile(path);
     fImage *first = frame->documents()[0], *second = frame->documents()[1];
     EXPECT_EQ(first->Caption(), "a[*].png");
     EXPECT_EQ(second->Caption(), "[1]a[*].png");
@@ -94,6 +94,7 @@ TEST_F(FrameDocuments, MarksThatTurnTheTextAreShownByTheirNumbers)
     EXPECT_EQ(frame->findChild<QListWidget*>("lstRecent")->item(0)->text(), shown);
     EXPECT_TRUE(frame->action("RF_0")->text().endsWith(shown));
     frame->action("RF_0")->trigger();
+    frame->workspace().wait();
     EXPECT_EQ(windowOf(frame->GetActiveImage())->windowTitle(), shown);
     EXPECT_EQ(frame->status().panel(Panel::Name), shown);
     EXPECT_EQ(listed(), QStringList({">&1 " + shown}));
@@ -247,6 +248,7 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
     frame->run("@SELECTALL");
 
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    frame->workspace().wait();
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "a.png");
     EXPECT_FALSE(page->isVisible());
