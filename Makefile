@@ -1,4 +1,4 @@
-# Everything a person needs: make run, make test. Set-up installs what is missing by itself.
+# The main targets: make run, make test. Missing packages are installed automatically.
 JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
@@ -18,7 +18,7 @@ run: all
 test: all check-format
 	ctest --test-dir $(RELEASE) --output-on-failure -j $(JOBS)
 
-# make test on a Debian that has nothing but make: a scratch root with a clone of HEAD. Ten minutes; whenever packages.txt changes.
+# make test on a Debian that has nothing but make: a scratch root with a clone of HEAD. Takes ten minutes; run it when packages.txt changes.
 test-fresh:
 	@scripts/test_fresh.sh
 
@@ -59,11 +59,11 @@ gallery: all
 new-filter:
 	@scripts/ways.py --new-filter "$(NAME)"
 
-# The pictures of docs/architecture.md, drawn from their text.
+# Draws the diagrams of docs/architecture.md from their text.
 pictures:
 	@for text in docs/pictures/*.dot; do dot -Tsvg "$$text" -o "$${text%.dot}.svg" || exit 1; done
 
-# What the definitions of tools/reference give, written where the tests read it; and where the fast code differs from them:
+# Writes the checksums of the definitions of tools/reference for the tests; and shows where the fast code differs:
 # make reference-diff NAMES="EMBOSS Brush"
 reference:
 	cmake --build --preset release --target velara-reference
@@ -73,7 +73,7 @@ reference-diff:
 	cmake --build --preset release --target velara-reference
 	$(RELEASE)/bin/velara-reference --diff $(NAMES)
 
-# One-line faults (tests/mutations.txt) that the tests have to catch: all of them take half an hour; make mutate NAMES="undo jpeg"
+# One-line faults (tests/mutations.txt) that the tests must catch: all of them take half an hour; make mutate NAMES="undo jpeg"
 mutate: setup
 	@scripts/mutate.py $(NAMES)
 

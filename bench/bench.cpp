@@ -32,7 +32,7 @@ Bits drawPicture(Size size)
     return bits;
 }
 
-/// The operation on a filter of its own, always on the same picture.
+/// Runs the operation on an engine of its own, always on the same picture.
 std::function<void()> calling(const std::string& name, const Arguments& arguments, const Bits& bits,
                               const Region& region)
 {
@@ -43,7 +43,7 @@ std::function<void()> calling(const std::string& name, const Arguments& argument
     return [=] {
         filter->setBits(bits);
         found->call(*filter, arguments);
-        filter->setBits(bits); // the result goes back to the pool
+        filter->setBits(bits); // recycles the result's buffer
     };
 }
 

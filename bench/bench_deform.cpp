@@ -4,7 +4,7 @@
 namespace velara::bench {
 namespace {
 
-/// A row of a filter that works on a disc: the ratio is that of the disc's part of the picture, besides one copy.
+/// A row of a filter that works on a disc: the ratio is scaled by the disc's share of the picture, plus one copy.
 Row onDisc(std::string family, double must, double goal, std::string name, Arguments arguments, double part)
 {
     return operation(std::move(family), must * part + 1, goal * part + 1, std::move(name), std::move(arguments));
@@ -27,7 +27,7 @@ const Rows rows{ // family, must, goal, operation, arguments
     operation("tangents",        18, 0,    "GLASS",        {"curtain", 3}),
     operation("trigonometric",   35, 13,   "TWIRL",        {20, 0, true}),
     operation("trigonometric",   35, 13,   "BEND",         {0, true}),
-    onDisc("trigonometric",      35, 13,   "LENS",         {0.5, 0.5, 0.33, 50}, 0.291), // pixels inside by all
+    onDisc("trigonometric",      35, 13,   "LENS",         {0.5, 0.5, 0.33, 50}, 0.291), // pixels inside, of all
     operation("bilinear warp",   35, 15,   "RotateSmooth", {30}),
     inEllipse("selection shape", 1.5, 1.1, "ROTATE",       {30, true}),
     inEllipse("selection shape", 1.5, 1.1, "TWIRL",        {20, 0, true}),

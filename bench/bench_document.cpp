@@ -1,5 +1,5 @@
-// The document: flood fill, the steps of a drag, and selections of thousands of bands. A drag step is what a mouse move
-// costs without the repaint of the window.
+// The document: flood fill, the steps of a drag, and selections of thousands of bands. A drag step is the cost of a
+// mouse move without the repaint of the window.
 #include "bench.h"
 #include "engine/cBitFilter.h"
 #include "tools/PreviewBuffer.h"
@@ -27,7 +27,7 @@ struct Bench {
     int height() const { return document.PictureHeight(); }
 };
 
-/// body works on a document of its own, again and again.
+/// Calls body repeatedly on a document of its own.
 template <class Body>
 Row row(std::string family, std::string name, double must, double goal, std::string unit, Body body)
 {

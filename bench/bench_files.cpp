@@ -1,5 +1,5 @@
-// Opening and saving against FreeImage's own calls in this process: what the child, the hand-over and the change
-// between 24 and 32 bits cost. The files lie in the page cache.
+// Opening and saving relative to FreeImage's own calls in this process: the cost of the child, of the transfer and of
+// the conversion between 24 and 32 bits. The files are in the page cache.
 #include "bench.h"
 #include "fileio/ModFreeImage.h"
 #include "fileio/savePicture.h"
@@ -83,7 +83,7 @@ Timing jpegToBitmap(Size size)
     return {[=] { save(load(from, "jpg"), to, "bmp"); }, {}};
 }
 
-// A bitmap takes FreeImage about seven copies of the picture to open and five to save, a JPEG some twenty.
+// Opening a bitmap takes FreeImage as long as about seven copies of the picture, saving it five, a JPEG about twenty.
 // clang-format off
 const Rows rows{
     opening("bmp", FIF_BMP, 1.7, 1.35),

@@ -26,7 +26,7 @@ const Rows rows{ // family, must, goal, operation, arguments
     {"cells", "TileMask, 256x256", 10, 2.5, [](Size size) {
          return operation("", 0, 0, "TileMask", {tile(), 0, 0, true, 40, -1}).prepare(size);
      }, "memcpy", "TileMask"},
-    operation("light of the disc", 25 * 0.524 + 1, 6 * 0.524 + 1, "Light", {0.5, 0.5, 0.33, 200, 30}), // and one copy
+    operation("light of the disc", 25 * 0.524 + 1, 6 * 0.524 + 1, "Light", {0.5, 0.5, 0.33, 200, 30}), // plus one copy
 };
 // clang-format on
 

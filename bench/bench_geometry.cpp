@@ -1,4 +1,4 @@
-// The operations that cut, turn and size.
+// The operations that crop, rotate and resize.
 #include "bench.h"
 
 namespace velara::bench {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kTexts = 10, kWidth = 1920, kHeight = 1080;
 
-/// Windows need an application; it lives to the end of the program.
+/// Windows need an application object; it lives until the end of the program.
 void needApplication()
 {
     static int count = 1;
@@ -57,7 +57,7 @@ struct Dialog {
     {
         at += step++ % 40 < 20 ? QPoint(7, 5) : QPoint(-7, -5);
         send(QEvent::MouseMove);
-        QCoreApplication::processEvents(); // what it asked to be painted
+        QCoreApplication::processEvents(); // paints what was requested
     }
 };
 

@@ -13,7 +13,7 @@ const Rows rows{
     operation("3x3 and ring", 8.0, 2.5, "EDGEENHANCE", {10}),
     operation("3x3 and ring", 8.0, 2.5, "CONTOUR",     {200, 0x36E2D7}),
     operation("3x3 and ring", 8.0, 2.5, "EMBOSS",      {10}),
-    operation("3x3 and ring", 8.0, 2.5, "EMBOSS",      {15}),               // ties to the even neighbour
+    operation("3x3 and ring", 8.0, 2.5, "EMBOSS",      {15}),               // ties to even
     operation("3x3 and ring", 8.0, 2.5, "ENGRAVE",     {30}),
     operation("3x3 and ring", 8.0, 2.5, "RELIEF",      {}),
     operation("3x3 and ring", 8.0, 2.5, "Blurs",       {2}),

@@ -27,8 +27,8 @@ Row row(std::string name, double must, double goal, int snapshots, void (*body)(
             }};
 }
 
-/// What the release of the button costs: the stroke goes to the engine and its snapshot on its way. The one before has
-/// long been written, as when a person paints.
+/// The cost of releasing the button: the stroke goes to the engine and its snapshot is queued. The previous one has
+/// been written long before, as in real use.
 Row release()
 {
     struct Stroke {

@@ -1,5 +1,4 @@
-// A repaint of a document's window, from the picture's memory into the window's image; and what a dialog shows of the
-// picture while it is set.
+// A repaint of a document's window, from the picture's memory to the window's image; and the previews in dialogs.
 #include "bench.h"
 #include "document/merging.h"
 #include "ui/widgets/viewRender.h"
@@ -36,7 +35,7 @@ Row repaint(std::string name, int zoom, double ratio = 1)
             "ms"};
 }
 
-/// The picture over itself in the merging dialog's box: within one frame as a slider moves.
+/// The picture over itself in the merging dialog's box: must take less than a frame while a slider moves.
 Row mergingPreview(std::string name, bool tiled)
 {
     return {"preview",

@@ -21,8 +21,8 @@ namespace {
 constexpr int kPairs = 7;
 constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %s\n";
 
-/// Of the processor for ratios, so that other programs at work do not count; of the wall clock for rows in ms, which
-/// may wait for the disk.
+/// Processor time for ratios, so that other running programs don't count; wall-clock time for rows in ms, which may
+/// wait for the disk.
 double milliseconds(const std::function<void()>& work, clockid_t clock)
 {
     const auto now = [clock] {
@@ -107,7 +107,7 @@ class TableReporter : public benchmark::BenchmarkReporter {
     }
 };
 
-/// Operations that no row measures, with their typical arguments.
+/// Adds operations without a row, with their typical arguments.
 void addTheOthers()
 {
     for (const Operation& op : operations()) {

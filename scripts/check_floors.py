@@ -27,7 +27,7 @@ faults = []
 
 
 def faultOf(folder, target):
-    """What is wrong with an include from one folder to another, or None."""
+    """Why an include from one folder to another is wrong, or None."""
     here, there = folder.split("/")[0], target.split("/")[0]
     if there not in FLOOR:
         return "not a room"
@@ -63,7 +63,7 @@ def roomOf(file):
 
 
 def statements(file):
-    """What stands in the first column, to its end: (line, namespace, text). What is in an anonymous namespace is left out."""
+    """Each statement that begins in the first column: (line, namespace, text). Anonymous namespaces are skipped."""
     anonymous, space, lines = False, "", file.read_text().splitlines()
     for number, text in enumerate(lines, 1):
         if text in ("namespace {", "} // namespace"):
@@ -78,7 +78,7 @@ def statements(file):
 
 
 def functionOf(text):
-    """The class (or ""), the name and whether there is a body, of a statement that declares a function; or None."""
+    """Class (or ""), name and whether there is a body, for a statement that declares a function; or None."""
     named = re.match(r"(?!using |namespace |template |static |static_assert|return |else |case )[\w:<>,&* ]*?(?:(\w+)::)?(~?\w+)\(", text)
     if not named:
         return None

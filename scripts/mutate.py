@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Puts one fault at a time into a copy of the source and tells which of them the tests let live.
+"""Puts one fault at a time into a copy of the source and reports which of them survive the tests.
 
     scripts/mutate.py [--check] [--tree DIR] [NAME...]
 
-tests/mutations.txt has the faults: "[name] file", "tests: program or program=Filter or e2e/script, ...", then the text that
-is there now after "- " and what takes its place after "+ ". A NAME picks the faults that have it in their name or file.
---check only looks whether each text is there, exactly once. Exit 1 when a text is not, when a fault does not build, or when
+tests/mutations.txt has the faults: "[name] file", "tests: program or program=Filter or e2e/script, ...", then the present
+text after "- " and its replacement after "+ ". A NAME selects the faults that have it in their name or file.
+--check only checks that each text is there, exactly once. Exit 1 when one isn't, when a fault does not build, or when
 more than one in ten survives."""
 import argparse
 import filecmp
@@ -53,7 +53,7 @@ def faults():
 
 
 def run(command, limit, **more):
-    """Exit status and output; a status of None when the time ran out."""
+    """Exit status and output; the status is None after a timeout."""
     try:
         done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=limit, **more)
         return done.returncode, done.stdout.decode(errors="replace")
@@ -62,7 +62,7 @@ def run(command, limit, **more):
 
 
 class Copy:
-    """The source beside the real one, with a build of its own."""
+    """A copy of the source, with a build of its own."""
 
     def __init__(self, tree):
         self.tree, self.build = tree, os.path.join(tree, "build", "release")
@@ -110,7 +110,7 @@ def targets_of(tests):
 
 
 def judge(copy, fault):
-    """What becomes of it: caught by a test, by the compiler, not built, or alive."""
+    """The fate of a fault: caught by a test, by the compiler, not built, or alive."""
     path = os.path.join(copy.tree, fault.path)
     sound, faulty = open(path, encoding="utf-8").read(), fault.place(copy.tree)
     open(path, "w", encoding="utf-8").write(faulty)

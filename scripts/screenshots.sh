@@ -1,5 +1,5 @@
 #!/bin/sh
-# Takes the pictures of docs/screenshots anew: every window, light and dark, at one and at two times the size.
+# Retakes the pictures of docs/screenshots: every window, light and dark, at single and double size.
 set -eu
 bin=$1
 out=$2

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs the Debian packages of packages.txt that are missing; says nothing when all are there.
+# Installs the Debian packages of packages.txt that are missing; prints nothing when all are there.
 set -eu
 cd "$(dirname "$0")/.."
 missing=""

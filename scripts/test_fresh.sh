@@ -1,14 +1,14 @@
 #!/bin/sh
-# make test as on a Debian that has nothing but make: a minimal root in a scratch folder, a clone of what is committed here,
-# "make test" (or the command given) in it. Needs root or sudo, mmdebstrap, some 5 GB below $TMPDIR (/var/tmp).
+# make test as on a Debian that has nothing but make: a minimal root in a scratch folder, a clone of HEAD, and
+# "make test" (or the given command) in it. Needs root or sudo, mmdebstrap, about 5 GB below $TMPDIR (/var/tmp).
 #
-# The mounts are of a namespace of their own: they and every process inside end with it, however this script ends.
+# The mounts are in a namespace of their own: they and every process inside end with it, however this script ends.
 set -eu
 cd "$(dirname "$0")/.."
 if [ "$(id -u)" = 0 ]; then as_root=""; else as_root=sudo; fi
 command -v mmdebstrap >/dev/null || $as_root apt-get install -y -q --no-install-recommends mmdebstrap
 
-# The archives that this machine takes Debian from
+# The archives from which this machine installs Debian packages
 sources=$(apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian')
 [ -n "$sources" ] || { echo "apt knows no archive of Debian: apt-get update" >&2; exit 1; }
 suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
@@ -19,7 +19,7 @@ trap '$as_root rm -rf --one-file-system "$scratch"' EXIT
 trap 'exit 130' INT TERM HUP
 root=$scratch/root
 git clone -q --no-hardlinks . "$scratch/velara-studio"
-# Services are not started in there: they would answer on this machine's ports.
+# Services are not started inside: they would listen on this machine's ports.
 echo "$sources" | $as_root mmdebstrap --variant=minbase --include=make,git,ca-certificates \
     --customize-hook="copy-in '$scratch/velara-studio' /root" \
     --customize-hook='chown -R 0:0 "$1/root"' \

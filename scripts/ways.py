@@ -16,7 +16,7 @@ import sys
 import tempfile
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-# A file with blocks that may be forgotten, and the one whose compiler says so.
+# A block that may be forgotten, and the file whose compilation fails then.
 TELLERS = {
     "src/engine/cBitFilter.h: at the end of `kOperationRows`": "src/commands/filterDialogs.cpp",
     "src/commands/vocabulary.h: at the end of `kCommandWords`": "src/app/frame/fMain_commands.cpp",
@@ -30,7 +30,7 @@ TELLERS = {
 
 
 def blocks(name):
-    """(first line, file, where, code) of each, in the order of the document; the filter under another name."""
+    """(first line, file, where, code) of each block, in document order; the filter with another name."""
     text = open(os.path.join(ROOT, "docs/architecture.md"), encoding="utf-8").read()
     found = re.findall(r"```cpp\n// ((\S+): ([^\n]*))\n(.*?)```", text, re.S)
     if len(found) != text.count("```cpp"):
@@ -73,7 +73,7 @@ def copyWith(chosen):
 
 
 def compiled(tree, commands, file):
-    """What the compiler says of the file in the copy; empty when nothing. A new file takes the flags of a neighbour."""
+    """The compiler's output for the file in the copy; empty on success. A new file takes the flags of a neighbour."""
     own = os.path.join(ROOT, file)
     flagged = own if own in commands else next(c for c in commands if os.path.dirname(c) == os.path.dirname(own))
     command = re.sub(r" -o \S+ -c \S+", "", commands[flagged]["command"]).replace(ROOT + "/src", tree + "/src")

@@ -21,7 +21,7 @@ QFont fontOf(int pixels, bool bold)
     return font;
 }
 
-/// Walks down a page; without a painter it only measures.
+/// Lays out a page from top to bottom; without a painter it only measures.
 class Page {
   public:
     explicit Page(QPainter* painter) : painter_(painter) {}
@@ -44,7 +44,7 @@ class Page {
     }
 
   private:
-    /// Gives the height of the detail text.
+    /// Returns the height of the detail text.
     int tile(const Tile& tile, int x)
     {
         const QRect place(x, y_, kTileWidth, kTileHeight), line(x, place.bottom() + 2, kTileWidth, kCaptionHeight);
@@ -121,7 +121,7 @@ bool writeSheet(const QImage& sheet, const QString& path)
     }
     for (int y = 0; y < reduced.height; ++y)
         std::copy_n(reduced.indices.begin() + std::ptrdiff_t(y) * reduced.width, reduced.width, indexed.scanLine(y));
-    return indexed.save(path, "PNG", 0); // 0 asks for the smallest file
+    return indexed.save(path, "PNG", 0); // 0 requests the smallest file
 }
 
 } // namespace velara

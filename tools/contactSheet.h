@@ -13,16 +13,16 @@ struct Tile {
     std::vector<QColor> swatches = {}; // small squares beside the caption
 };
 
-/// Begins a row of its own under its title; an empty title takes no room.
+/// Starts a new row, under its title; an empty title takes no space.
 struct Section {
     QString title;
     std::vector<Tile> tiles;
 };
 
-/// Five tiles a row, every picture fitted into 180 by 120 pixels.
+/// Five tiles per row, every picture fitted into 180 by 120 pixels.
 QImage contactSheet(const QString& title, const std::vector<Section>& sections);
 
-/// As a PNG of 256 colours, which is a third of the size. False when it could not be written.
+/// Writes a PNG of 256 colours, which is a third of the size. False when it could not be written.
 bool writeSheet(const QImage& sheet, const QString& path);
 
 } // namespace velara

@@ -1,5 +1,5 @@
-// velara-gallery FOLDER: runs every preset and every filter dialog on the sample picture and writes one contact sheet a
-// menu. What stands in no menu comes on the last sheet, so that nothing is missing.
+// velara-gallery FOLDER: runs every preset and every filter dialog on the sample picture and writes one contact sheet
+// per menu. Those in no menu are on the last sheet, so that none is missing.
 #include "app/menus/menus.h"
 #include "commands/presets.h"
 #include "pixels/images.h"
@@ -22,7 +22,7 @@ struct SheetRow {
     const char* file;
     const char* title;
     std::vector<std::string_view> menus; // arrays of the menu tree; several become sections
-    bool closeUp = false;                // a part in its own size instead of the whole: what is done to fine detail
+    bool closeUp = false;                // a part at its own size instead of the whole: for effects on fine detail
 };
 
 // clang-format off
@@ -41,7 +41,7 @@ const SheetRow kSheets[] = {
 };
 // clang-format on
 
-/// The sample picture after run, everything selected; the whole of it, or the house alone.
+/// The sample picture after run, everything selected; the whole of it, or only the house.
 template <class Function> QImage after(bool closeUp, Function run)
 {
     cBitFilter filter;
@@ -97,7 +97,7 @@ QString glass(const FilterArgs& args)
     return text(style->caption) + u' ' + text(kGlassModes[args.mode]);
 }
 
-/// What the controls of the dialog show.
+/// The dialog's settings as text.
 QString describe(const FilterRow& row, const FilterArgs& args)
 {
     QStringList parts;
@@ -143,7 +143,7 @@ class Gallery {
         return section;
     }
 
-    /// Every preset and dialog that no menu has shown.
+    /// All presets and dialogs that no menu has shown.
     Section rest()
     {
         closeUp_ = false;

@@ -12,7 +12,7 @@ struct Rgb8 {
     int r, g, b;
 };
 
-/// 0..255, the same for the same place.
+/// 0..255, a function of the position.
 int noise(int x, int y)
 {
     std::uint32_t h = static_cast<std::uint32_t>(x) * 374761393u + static_cast<std::uint32_t>(y) * 668265263u;
@@ -20,7 +20,7 @@ int noise(int x, int y)
     return static_cast<int>((h ^ (h >> 16)) & 255);
 }
 
-/// noise on a grid of size cells, blended between its corners.
+/// noise on a grid of size cells, interpolated between its corners.
 int softNoise(int x, int y, int size)
 {
     const int gx = x / size, gy = y / size, fx = x % size, fy = y % size;

@@ -1,5 +1,5 @@
-// The picture that the gallery, the golden results and the first look at the program use: made by whole-number
-// arithmetic, so that it is the same on every machine.
+// The picture used by the gallery, the golden results and the first start: made by integer arithmetic, so that it is
+// the same on every machine.
 #pragma once
 #include "pixels/Bits.h"
 

@@ -1,4 +1,4 @@
-// Takes pictures of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
+// Takes screenshots of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
 // QT_SCALE_FACTOR. Works without a display.
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
@@ -86,11 +86,11 @@ void shootMenu(QWidget& frame, QMenu& menu)
     save(all.copy(QRect(part.topLeft(), part.size() * all.devicePixelRatio())), "menu_" + menu.objectName());
 }
 
-/// The dialogs by the words that open them; large: at two times the size as well.
+/// The dialogs by the words that open them; large: at double size as well.
 struct DialogRow {
     const char* word;
     bool large;
-    const char* list = nullptr; // where an entry is chosen first
+    const char* list = nullptr; // where an entry is selected first
     int entry = 0;
 };
 // clang-format off
@@ -103,7 +103,7 @@ constexpr DialogRow kDialogs[] = {
 };
 // clang-format on
 
-/// What opens a dialog, and the picture of that once it is prepared.
+/// Opens a dialog, and takes its picture once it is prepared.
 void shootDialog(const QString& name, const std::function<void()>& open,
                  const std::function<void(QWidget&)>& prepare = {})
 {
@@ -117,7 +117,7 @@ void shootDialog(const QString& name, const std::function<void()>& open,
         shot = true;
     });
     open();
-    while (!shot) settle(); // some windows are waited for in there, others are not
+    while (!shot) settle(); // some windows run a loop of their own in there, others don't
 }
 
 void shootDialog(fMain& frame, const DialogRow& row)
@@ -131,7 +131,7 @@ void shootDialog(fMain& frame, const DialogRow& row)
         });
 }
 
-/// A window that leaves the frame free.
+/// A modeless window.
 void shootFreeWindow(fMain& frame, const QString& word, const QString& objectName)
 {
     frame.run(word.toStdString());
@@ -143,11 +143,11 @@ void shootFreeWindow(fMain& frame, const QString& word, const QString& objectNam
     }
 }
 
-/// The browser on the program's own folder: the tree of the machine is nobody's business.
+/// The browser on the program's own folder: this machine's tree is private.
 void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& picture)
 {
     platform.settings["Browse/Last"] = picture;
-    QFile file(picture); // the same date in every picture of it
+    QFile file(picture); // the same date in every picture
     if (file.open(QIODevice::ReadWrite))
         file.setFileTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
     file.close();
@@ -169,10 +169,10 @@ void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& pict
         });
 }
 
-/// The floating boxes; the one of textures with each of its pages.
+/// The floating boxes; the textures box with each of its pages.
 void shootBoxes()
 {
-    settle(300); // they stand since the start
+    settle(300); // they are open since the start
     for (QWidget* window : QApplication::topLevelWidgets()) {
         const QString name = window->objectName();
         if (!window->isVisible() || !QStringList{"fPalette", "fToolTextures", "fPaste"}.contains(name)) continue;
@@ -237,7 +237,7 @@ int main(int argc, char** argv)
     application.setStyle(style);
     if (dark) {
         QPalette palette = darkPalette();
-        style->polish(palette); // as that of a desktop is
+        style->polish(palette); // as a desktop's style does
         application.setPalette(palette);
     }
 
@@ -259,9 +259,9 @@ int main(int argc, char** argv)
     settle();
     save(frame->grab(), "frame_two_pictures");
 
-    setup.Recent = {}; // no path of the machine that took the pictures
+    setup.Recent = {}; // no paths of this machine
     frame->FillRecent();
-    const bool few = qApp->devicePixelRatio() > 1; // twice the size: a few windows tell enough
+    const bool few = qApp->devicePixelRatio() > 1; // double size: a few windows are enough
     const auto menus = frame->menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
     for (QMenu* menu : menus) {
         if (few && menu->objectName() != "mnuFilters") continue;
@@ -300,7 +300,7 @@ int main(int argc, char** argv)
     save(about.grab(), "about");
     about.hide();
 
-    frame->area().setActiveSubWindow(windows[0]); // the one in colours
+    frame->area().setActiveSubWindow(windows[0]); // the coloured one
     for (const DialogRow& row : kDialogs)
         if (!few || row.large) shootDialog(*frame, row);
     if (!few) {

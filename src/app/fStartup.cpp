@@ -20,7 +20,7 @@ namespace velara {
 
 namespace {
 
-/// Whole, or not at all.
+/// Written completely, or not at all.
 bool writeBmp(const QImage& picture, const QString& path)
 {
     QByteArray bytes;
@@ -30,8 +30,8 @@ bool writeBmp(const QImage& picture, const QString& path)
            file.commit();
 }
 
-/// Fills a folder that is missing, and replaces pictures of it that a full disk left empty; others that are gone were
-/// deleted. A folder that can't be filled goes again, so that the next start tries anew.
+/// Fills a missing folder, and replaces pictures that a full disk left empty; missing ones were deleted on purpose. A
+/// folder that can't be filled is removed again, so that the next start retries.
 bool makePictures(const QDir& folder, const std::function<QString(int)>& nameOf, QList<QImage> (*draw)())
 {
     const bool isNew = !folder.exists();
@@ -68,19 +68,19 @@ bool makeFolders(Platform& platform)
 void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
 {
     constexpr int kMostTwips = 32767;
-    constexpr QSize kSmallest(400, 300); // smaller ones come from a damaged configuration only
+    constexpr QSize kSmallest(400, 300); // smaller ones come only from a damaged configuration
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize wanted = QSize(setup.FrameWidth / kTwips, setup.FrameHeight / kTwips).expandedTo(kSmallest);
     const bool known = !place.isEmpty() && frame.restoreGeometry(place);
     const QRect normal = frame.normalGeometry();
     frame.setWindowState(frame.windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized));
     if (known && normal.isValid()) frame.setGeometry(normal);
-    // The configuration has the last word on the size, as far as its fields reach.
+    // The configuration determines the size, within the range of its fields.
     const QSize size(known && setup.FrameWidth == kMostTwips ? frame.width() : wanted.width(),
                      known && setup.FrameHeight == kMostTwips ? frame.height() : wanted.height());
     frame.resize(size.boundedTo(screen.size()));
     if (!known) frame.move(screen.center() - frame.rect().center());
-    // Where it has grown over the edge it comes in; on another screen it stays as it was.
+    // A window that has grown over the edge moves inside; on another screen it stays where it was.
     const QRect at = frame.geometry();
     const QPoint inside(std::max(screen.x(), std::min(at.x(), screen.x() + screen.width() - at.width())),
                         std::max(screen.y(), std::min(at.y(), screen.y() + screen.height() - at.height())));

@@ -14,8 +14,8 @@ class fSplash;
 /// False when one of them can't be made or filled.
 bool makeFolders(Platform& platform);
 
-/// Sizes the frame from the configuration and puts it where it stood at the end of the last run, in the middle of the
-/// screen the first time. Whatever those say, the frame can be found on a screen.
+/// Sizes the frame from the configuration and puts it where it was at the end of the last run, or, the first time, in
+/// the centre of the screen. Whatever those say, the frame is visible on a screen.
 void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place = {});
 
 /// The start: splash, configuration, frame, folders, bars, in that order. Each step comes from the event loop, so that

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Failures that no command has caught end here: the event is dropped and the program goes on.
+/// Failures that no command has caught end here: the event is dropped and the program continues.
 class Application final : public QApplication {
   public:
     using QApplication::QApplication;
@@ -31,9 +31,9 @@ int main(int argc, char** argv)
 {
     velara::leaveFormatPluginsOut();
     Application application(argc, argv);
-    // Each move of a stroke counts. The platform switches this on when it starts.
+    // Each move of a stroke counts. The platform plug-in switches this on when it starts.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-    application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes still stand
+    application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes are still open
     application.setStyle(new velara::fMenuStyle);
     velara::QtPlatform platform;
     velara::Setup setup;

@@ -1,4 +1,4 @@
-// BatchPlatform: messages of a program without a window go to the error output.
+// BatchPlatform: sends the messages of a program without a window to standard error.
 #pragma once
 #include "platform/WindowlessPlatform.h"
 
@@ -9,7 +9,7 @@ class BatchPlatform : public WindowlessPlatform {
     void message(const QString& title, const QString& text, Icon icon) override;
 };
 
-/// A line on the error output, behind the program's name.
+/// A line on standard error, after the program's name.
 void complain(const QString& text);
 
 } // namespace velara

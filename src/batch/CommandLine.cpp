@@ -17,7 +17,7 @@ constexpr Option kOptions[] = {
     {"--partial", &CommandLine::partial},
 };
 
-/// Sets the flag of an option without a value; false when text is none.
+/// Sets the flag of an option without a value; false when text isn't one.
 bool takeOption(CommandLine& line, const QString& text)
 {
     const auto* option = std::ranges::find_if(kOptions, [&](const Option& o) { return text == QLatin1String(o.name); });

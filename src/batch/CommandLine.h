@@ -1,4 +1,4 @@
-// The command line of velara-batch, taken apart: INPUT, steps in their order, OUTPUT.
+// The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT.
 #pragma once
 #include "batch/Session.h"
 #include "batch/icon.h"
@@ -13,7 +13,7 @@ namespace velara {
 using ReadPicture = std::function<Bits(const QString& path)>;
 
 struct LineStep {
-    QString text;                                         // as it was written
+    QString text;                                         // as written
     std::function<void(Session&)> run;                    // throws Failure
     std::function<void(const ReadPicture&)> prepare = {}; // reads the pictures among its arguments
     GoesBack goesBack = GoesBack::Never;
@@ -26,20 +26,20 @@ struct CommandLine {
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     bool verbose = false, help = false, list = false, partial = false;
 
-    /// Throws Failure that names the argument that is of no use.
+    /// Throws a Failure that names the unusable argument.
     static CommandLine parse(const QStringList& arguments);
-    /// Up to this step the pictures before have to be at hand; -1 when no step goes back.
+    /// Up to this step earlier pictures must be kept; -1 when no step goes back.
     int lastGoingBack() const;
 };
 
-/// A step of its text; throws Failure.
+/// Parses a step; throws Failure.
 LineStep parseStep(const QString& text);
-/// "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
+/// Parses "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
 LineStep parseSelection(const QString& shape);
-/// The argument's text as a value of the parameter's type; pictures are file names until they are read. Throws Failure.
+/// Parses an argument as a value of the parameter's type; pictures stay file names until they are read. Throws Failure.
 Argument parseArgument(const QString& given, const Parameter& parameter);
 
-/// What --help and --list print.
+/// The output of --help and --list.
 QString helpText();
 QString listText();
 

@@ -1,4 +1,4 @@
-// How a run of velara-batch ends when it doesn't end well: the exit status and what a person reads.
+// How a run of velara-batch fails: the exit status and the message for the user.
 #pragma once
 #include <QString>
 
@@ -11,7 +11,7 @@ struct Failure {
     QString text;
 };
 
-/// Does the work; a failure's text gets the name of what failed in front.
+/// Runs work; prefixes a failure's text with what.
 template <class Work> auto naming(const QString& what, Work work)
 {
     try {

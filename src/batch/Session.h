@@ -1,4 +1,4 @@
-// Session: the one picture that a run of velara-batch works on: a workspace with one document, each step waited for.
+// Session: the one picture of a run of velara-batch: a workspace with one document; each step is waited for.
 #pragma once
 #include "batch/Failure.h"
 #include "commands/jobs.h"
@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// Whether a step needs the pictures before; sizing words in a row go back to the one before the first of them.
+/// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
 enum class GoesBack { Never, WhenRepeated, Always };
 
 /// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
@@ -43,7 +43,7 @@ class Session {
         workspace_->handOver(*document_);
     }
 
-    /// Percent of the step that runs.
+    /// Called with the percentage of the current step.
     void setProgress(std::function<void(int)> progress);
 
   private:

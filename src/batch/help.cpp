@@ -8,7 +8,7 @@ namespace {
 
 QString column(const QString& text, int width) { return QStringLiteral("  ") + text.leftJustified(width) + u' '; }
 
-/// "  Level    -300..300 (20)    levels added; 0 changes nothing". The usual value stands in brackets.
+/// "  Level    -300..300 (20)    levels added; 0 changes nothing", with the usual value in brackets.
 QString described(const Parameter& p, bool optional)
 {
     QString values = text(p.values);
@@ -20,7 +20,7 @@ QString described(const Parameter& p, bool optional)
            u'\n';
 }
 
-/// Words split by blanks, in indented lines of at most 80 characters.
+/// Words separated by blanks, in indented lines of at most 80 characters.
 QString wrapped(const QStringList& words)
 {
     QString text, line;

@@ -1,4 +1,4 @@
-// --icon: OUTPUT is one Windows icon.
+// --icon: OUTPUT is a Windows icon.
 #pragma once
 #include "pixels/Bits.h"
 #include <QSize>
@@ -12,9 +12,9 @@ struct IconOrder {
     std::optional<Colour> mask = {};
 };
 
-/// Of "WIDTHxHEIGHT" or "WIDTHxHEIGHT,mask:0x00BBGGRR"; throws Failure that says what may be given.
+/// Parses "WIDTHxHEIGHT" or "WIDTHxHEIGHT,mask:0x00BBGGRR"; throws a Failure that says what is allowed.
 IconOrder iconOrder(const QString& text);
-/// Throws Failure; what stood under the name is whole then.
+/// Throws Failure; an existing file is intact then.
 void writeIcon(const Bits& picture, const IconOrder& order, const QString& output);
 
 } // namespace velara

@@ -29,7 +29,8 @@ Failure cannotBeWritten(const QString& output, const QString& reason = {})
                      (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
 }
 
-/// The file that a target comes to, behind links. What can't become a picture is refused before any work.
+/// The file that a target stands for, with links resolved. A name that can't become a picture is refused before any
+/// work.
 QString fileOf(const QString& output)
 {
     const QString file = behindLinks(saveTargetOf(output).file);
@@ -59,12 +60,12 @@ void write(Session& session, const QString& output)
         throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
     case SaveResult::Failed:
     case SaveResult::FailedAndTold:
-        if (isNew) QFile::remove(file); // a half-written JPEG
+        if (isNew) QFile::remove(file); // an incomplete JPEG
         throw cannotBeWritten(output);
     }
 }
 
-/// Tells each ten percent of a step.
+/// Reports every ten percent of a step.
 std::function<void(int)> progressOf(const QString& step)
 {
     return [step, told = -1](int percent) mutable {
@@ -111,8 +112,8 @@ void run(const QStringList& arguments)
         write(session, line.output);
 }
 
-/// More than the machine has makes an allocation fail, so that it is reported, instead of the system ending the
-/// program. The address sanitizer reserves far more than that for itself.
+/// Allocating more than the machine has then fails and is reported, instead of the system killing the program. The
+/// address sanitizer reserves far more than that for itself.
 void limitMemory()
 {
 #ifndef __SANITIZE_ADDRESS__

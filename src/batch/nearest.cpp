@@ -6,7 +6,7 @@ namespace velara {
 
 int editDistance(std::string_view a, std::string_view b)
 {
-    // Three rows of the table of distances between the beginnings of a and b.
+    // Three rows of the table of distances between prefixes of a and b.
     std::vector<int> before(b.size() + 1), last(b.size() + 1), row(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j) row[j] = static_cast<int>(j);
     for (std::size_t i = 1; i <= a.size(); ++i) {

@@ -1,4 +1,4 @@
-// The known name that was perhaps meant.
+// The known name that was probably meant.
 #pragma once
 #include <string>
 #include <string_view>
@@ -6,10 +6,10 @@
 
 namespace velara {
 
-/// Insertions, removals, changes and swaps of neighbours that make one of the other.
+/// The number of insertions, deletions, substitutions and transpositions of neighbours that turn a into b.
 int editDistance(std::string_view a, std::string_view b);
 
-/// The known name that is nearest to name, letter case aside; empty when none is close enough to be meant.
+/// The known name nearest to name, ignoring case; empty when none is close enough.
 std::string nearestName(std::string_view name, const std::vector<std::string_view>& known);
 
 } // namespace velara

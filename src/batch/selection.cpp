@@ -1,4 +1,4 @@
-// --select: shapes and how they are combined with the selection so far.
+// --select: shapes and how they are combined with the previous selection.
 #include "batch/CommandLine.h"
 #include "batch/nearest.h"
 #include <algorithm>
@@ -58,7 +58,7 @@ bool isOutside(const Region& shape, const Bits& picture)
     return shape.combined(Region::rectangle(0, 0, picture.width(), picture.height()), Combine::And).isEmpty();
 }
 
-/// As the editor combines: a first shape is the selection whatever the prefix, but there is nothing to take it from.
+/// As in the editor: a first shape becomes the selection whatever the prefix, but there is nothing to subtract it from.
 void combine(cBitRegion& region, const Region& shape, Combine mode)
 {
     const bool first = region.IsEmptyRegion();

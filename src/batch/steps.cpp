@@ -14,7 +14,7 @@ namespace {
 
 QString quoted(const QString& text) { return u'"' + text + u'"'; }
 
-/// The whole text as a number of type T; hexadecimal whole numbers begin with 0x and may use all 32 bits.
+/// The whole text as a number of type T; hexadecimal integers begin with 0x and may use all 32 bits.
 template <class T> std::optional<T> parseNumber(std::string_view text)
 {
     T value{};
@@ -34,7 +34,7 @@ template <class T> std::optional<T> parseNumber(std::string_view text)
     }
 }
 
-/// Split at commas; those between double quotes belong to the text, and the quotes are taken away.
+/// Splits at commas, except between double quotes, which are removed.
 QStringList splitArguments(const QString& text)
 {
     if (text.isEmpty()) return {};

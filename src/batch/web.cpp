@@ -12,7 +12,7 @@ template <class Row> QString entriesOf(std::span<const Row> rows)
     return list.join(QStringLiteral(", "));
 }
 
-/// The place of an entry by its text, letter case aside.
+/// The index of an entry by its text, ignoring case.
 template <class Row> int entryAt(const QString& option, const QString& text, std::span<const Row> rows)
 {
     for (std::size_t i = 0; i < rows.size(); ++i)
@@ -52,7 +52,7 @@ struct OptionRow {
     bool takesValue;
     void (*take)(WebOrder& order, const QString& option, const QString& value);
 };
-/// In the order in which they are taken, whatever the order of the command line: a palette decides about dithers.
+/// In the order of evaluation, whatever the order on the command line: a palette decides about dithers.
 constexpr OptionRow kOptions[] = {
     {"--web", true,
      [](WebOrder& o, const QString& name, const QString& v) {

@@ -1,4 +1,4 @@
-// --web: OUTPUT is what "Save for Web" writes.
+// --web: OUTPUT is written as "Save for Web" does.
 #pragma once
 #include "batch/Failure.h"
 #include "fileio/web/WebSettings.h"
@@ -11,14 +11,14 @@ struct WebOrder {
     std::optional<std::int64_t> maxBytes;
 };
 
-/// The options of a web file as they came on the command line, each with its value (empty where it takes none).
+/// The options of a web file as given on the command line, each with its value (empty if it takes none).
 using WebOptions = std::vector<std::pair<QString, QString>>;
 
-/// Whether an option is one of a web file, and whether a value has to follow.
+/// Whether an option is one of a web file, and whether it takes a value.
 std::optional<bool> webOptionTakesValue(const QString& name);
-/// Nothing when there is no --web among them; throws Failure that names what is of no use and lists what there is.
+/// Nothing when there is no --web among them; throws a Failure that names the unusable one and lists the choices.
 std::optional<WebOrder> webOrder(const WebOptions& options);
-/// Writes the file; "TYPE, DEPTH, SIZE". Throws Failure; what stood under the name is whole then.
+/// Writes the file; returns "TYPE, DEPTH, SIZE". Throws Failure; an existing file is intact then.
 QString writeWeb(const Bits& picture, const WebOrder& order, const QString& output);
 
 } // namespace velara

@@ -27,7 +27,7 @@ QString meaningOf(const SizeWord& word)
     }
 }
 
-/// The words that change the picture and are in no other table.
+/// The words that change the picture and aren't in another table.
 constexpr struct Step {
     std::string_view word;
     const char* meaning;

@@ -51,7 +51,7 @@ void DetailRun::work()
         lock.unlock();
         try {
             run(args);
-        } catch (const RuntimeError&) { // the small copy says why
+        } catch (const RuntimeError&) { // the preview of the small copy reports it
         } catch (const Cancelled&) {
         } catch (const std::bad_alloc&) {
         }

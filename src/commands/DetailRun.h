@@ -1,4 +1,4 @@
-// DetailRun: a filter on the whole picture by a thread of its own, for what a small copy can't show.
+// DetailRun: runs a filter on the whole picture in a thread, for details that a small copy can't show.
 #pragma once
 #include "commands/filterDialogs.h"
 #include <atomic>
@@ -11,16 +11,15 @@ namespace velara {
 
 class DetailRun {
   public:
-    /// done is called by the thread, with the picture as the filter leaves it; a run that fails or is ended says
-    /// nothing.
+    /// done is called on the thread, with the filter's result; a run that fails or is stopped doesn't call it.
     DetailRun(const FilterRow& row, const Bits& picture, const Region& selection,
               std::function<void(const Bits&)> done);
-    /// Ends what runs, and waits for it: no call of done comes later.
+    /// Stops the current run and waits for it: done is not called afterwards.
     ~DetailRun();
 
-    /// A run that works goes on to its end; of the arguments that come meanwhile the last are run next.
+    /// A current run continues to its end; of the arguments that arrive meanwhile the last are run next.
     void start(const FilterArgs& args);
-    /// Ends what runs, at its next report of progress, and forgets what waits.
+    /// Stops the current run at its next progress report, and drops the waiting arguments.
     void stop();
 
   private:
@@ -35,8 +34,8 @@ class DetailRun {
     std::condition_variable changed_;
     std::optional<FilterArgs> waiting_;
     bool ends_ = false;
-    std::atomic<bool> stopped_ = false; // what runs is not wanted any more
-    std::thread thread_;                // last: starts when all else is there
+    std::atomic<bool> stopped_ = false; // the current run is no longer wanted
+    std::thread thread_;                // last: starts when all other members exist
 };
 
 } // namespace velara

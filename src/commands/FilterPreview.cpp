@@ -6,7 +6,7 @@ namespace velara {
 
 namespace {
 
-/// An engine that reports nothing: with a clock that stands still no report falls due.
+/// An engine without progress reports: with a stopped clock none falls due.
 cBitFilter silentFilter(const Bits& bits)
 {
     cBitFilter filter;

@@ -1,5 +1,5 @@
-// The live preview of a filter: a copy of the picture that fits a box, the region in its scale, and the rule that keeps
-// runs apart. Needs no window.
+// The live preview of a filter: a copy of the picture that fits a box, the region at its scale, and the pacing of runs.
+// Needs no window.
 #pragma once
 #include "commands/filterDialogs.h"
 #include <QSize>
@@ -8,19 +8,19 @@
 
 namespace velara {
 
-/// A copy of picture that fits the box; the picture itself where it fits. Pictures are never enlarged.
+/// A copy of picture scaled down to fit the box; the picture itself if it fits. Pictures are never enlarged.
 Bits fittedCopy(const Bits& picture, QSize box);
 
 class FilterPreview {
   public:
-    /// selection: where the filter works; an empty one means the whole picture.
+    /// selection: the filter's region; an empty one means the whole picture.
     FilterPreview(const Bits& picture, const Region& selection, QSize box);
 
     const Bits& source() const { return source_; }
     const Region& region() const { return region_; }
     int longerSide() const;
 
-    /// What the filter makes of the copy. RuntimeError passes.
+    /// The filter's result for the copy. RuntimeError is passed on.
     Bits run(const FilterRow& row, FilterArgs args) const;
 
   private:
@@ -28,12 +28,13 @@ class FilterPreview {
     Region region_;
 };
 
-/// Brings a burst of changes down to one run a frame; the last change is always followed by a run.
+/// Reduces a burst of changes to one run per frame; the last change is always followed by a run.
 class RunPacer {
   public:
     static constexpr std::uint32_t kFrame = 16; // milliseconds from the start of a run to the next
 
-    /// A change at the time now: milliseconds until the run that shows it, or nothing when one is waited for already.
+    /// Call at a change, at the time now: milliseconds until the run that shows it, or nothing when a run is already
+    /// pending.
     std::optional<std::uint32_t> change(std::uint32_t now);
     void runStarts(std::uint32_t now);
 

@@ -4,8 +4,8 @@
 
 namespace velara {
 
-/// SetDepth(Depth): the whole picture, whatever is selected, in the colours of 1, 4, 8, 15, 16, 24 or 32 bits; other
-/// depths are std::invalid_argument.
+/// SetDepth(Depth): reduces the whole picture, whatever is selected, to 1, 4, 8, 15, 16, 24 or 32 bits; other depths
+/// raise std::invalid_argument.
 const Operation& setDepthOperation();
 
 } // namespace velara

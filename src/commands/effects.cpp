@@ -47,7 +47,7 @@ static_assert(std::size(kEffectRows) == kEffects && kEffectRows[kEmbossEffect - 
 
 constexpr int kThread = 8; // pixels across a thread of the weave
 
-/// A thread is lightest along its middle and dives under the next one at its ends.
+/// A thread is lightest along its middle and passes under the next one at its ends.
 int weaveAt(int x, int y)
 {
     const bool across = (x / kThread + y / kThread) % 2 == 0;
@@ -84,7 +84,7 @@ const Operation& applyTextureOperation()
          {"Texture", ArgumentType::Picture, {}, {}, "laid over in place of the effect"}},
         1,
         [](const Operation&, cBitFilter& filter, const Arguments& arguments) {
-            constexpr Colour kWhite = 0xFFFFFF; // the current colour of a program that has been started once
+            constexpr Colour kWhite = 0xFFFFFF; // the current colour of a freshly started program
             if (arguments.size() == 3)
                 applyTexturePicture(filter, std::get<Bits>(arguments[2]));
             else

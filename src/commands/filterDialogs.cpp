@@ -20,18 +20,18 @@ float fractionOfSide(const A& a) { return static_cast<float>(quotient(a.value[0]
 
 constexpr double kAsInRow = std::numeric_limits<double>::quiet_NaN();
 
-/// Over all that the row of the operation allows for the parameter, at its usual value unless told otherwise.
+/// A slider over the whole range of the operation's parameter, initially at its usual value unless given.
 constexpr FilterSlider of(const char* caption, std::string_view parameter, double byDefault = kAsInRow)
 {
     return {caption, parameter, kAsInRow, kAsInRow, byDefault};
 }
-/// Over a part of it.
+/// A slider over a part of the range.
 constexpr FilterSlider within(const char* caption, std::string_view parameter, double least, double most,
                               double byDefault)
 {
     return {caption, parameter, least, most, byDefault};
 }
-/// In a measure of its own.
+/// A slider in units of its own.
 constexpr FilterSlider free(const char* caption, double least, double most, double byDefault)
 {
     return {caption, "", least, most, byDefault};
@@ -137,8 +137,7 @@ constexpr bool hasOperation(const FilterRow& row) { return operationOf(row) != s
 static_assert(std::ranges::all_of(kTold, hasOperation),
               "a filter's dialog without its operation: add the row to kOperationRows in src/engine/cBitFilter.h");
 
-/// What the rows leave to the operation's row is filled in; a slider that leaves its parameter's range does not
-/// compile.
+/// Fills in what the rows take from the operation's row; a slider beyond its parameter's range does not compile.
 consteval auto filled(std::array<FilterRow, std::size(kTold)> all)
 {
     for (FilterRow& row : all) {

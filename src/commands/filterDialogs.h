@@ -1,4 +1,4 @@
-// The filters that have a dialog, as data: what the dialog shows for each and which operation it calls. Adding one is a
+// The filters that have a dialog, as data: the dialog's contents for each, and the operation it calls. Adding one is a
 // row of filterDialogs.cpp.
 #pragma once
 #include "commands/vocabulary.h"
@@ -10,10 +10,10 @@
 
 namespace velara {
 
-/// A slider that stands on whole numbers: value * step is what is shown, in the format.
+/// A slider on integers: value * step is displayed, in the format.
 struct FilterSlider {
     const char* caption = nullptr;   // null: there is no such slider
-    std::string_view parameter = {}; // of the operation, which limits the slider; empty: in a measure of its own
+    std::string_view parameter = {}; // of the operation, which limits the slider; empty: in units of its own
     double least = 0, most = 0, byDefault = 0;
     double step = 1;
     int decimals = 0;
@@ -23,12 +23,12 @@ struct FilterSlider {
     int minimum() const;
     int maximum() const;
     int initial() const;
-    /// What is taken from the slider's position: round(most / step * 0.5) when centred, else 0.
+    /// Subtracted from the slider's position: round(most / step * 0.5) when centred, else 0.
     int centre() const;
     QString text(int position) const;
 };
 
-/// What the dialog offers beside sliders.
+/// What the dialog offers besides sliders.
 enum class FilterExtra : unsigned {
     None = 0,
     SourceWell = 1, // colour 0
@@ -48,7 +48,7 @@ constexpr bool has(FilterExtra all, FilterExtra one)
     return (static_cast<unsigned>(all) & static_cast<unsigned>(one)) != 0;
 }
 
-/// What the dialog hands to a filter.
+/// What the dialog passes to a filter.
 struct FilterArgs {
     std::array<int, 3> value{};
     std::array<Colour, 2> colour{};
@@ -69,19 +69,19 @@ struct FilterRow {
     const char* option; // caption, null without one
     FilterExtra extras;
     Bits (*call)(cBitFilter& filter, const FilterArgs& args);
-    std::array<std::string_view, 2> words; // that open it; empty ones open nothing
+    std::array<std::string_view, 2> words; // the words that open it; empty ones open nothing
     MenuPlace place = {};                  // of the last word
 
     constexpr std::string_view lastWord() const { return words[1].empty() ? words[0] : words[1]; }
     FilterArgs defaults() const;
 };
 
-/// By number, without a gap.
+/// By number, without gaps.
 std::span<const FilterRow> filterRows();
 /// The row that a command word opens; null when it opens none.
 const FilterRow* findFilterRow(std::string_view word);
 
-/// The panes behind glass, by the index of their button, and how many strengths each has.
+/// The kinds of glass, by the index of their button, and how many strengths each has.
 struct GlassStyle {
     const char* caption;
     const char* style;

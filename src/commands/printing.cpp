@@ -7,7 +7,7 @@ namespace {
 
 constexpr double kMillimetresAnInch = 25.4, kPixelsAnInch = 96, kTwipsAnInch = 1440;
 
-/// The gap before a picture in the middle: whole twips, which printers count in, halved toward zero.
+/// The offset that centres a picture: in whole twips, the printers' unit, halved toward zero.
 double gap(double millimetres)
 {
     return divide(roundEven(millimetres * kTwipsAnInch / kMillimetresAnInch), 2) * kMillimetresAnInch / kTwipsAnInch;

@@ -10,7 +10,7 @@ constexpr SizeWord kSizeWords[] = {
     {SizeWord::Reduce,  "33",       3, false},
     {SizeWord::Reduce,  "25",       4, false},
     {SizeWord::Reduce,  "20",       5, false},
-    {SizeWord::Reduce,  "15",       7, false}, // a seventh and a ninth: odd, and they stay
+    {SizeWord::Reduce,  "15",       7, false}, // a seventh and a ninth: odd, and kept
     {SizeWord::Reduce,  "10",       9, false},
     {SizeWord::Reduce,  "ORIGINAL", 1, false},
     {SizeWord::Enlarge, "2x",       2, true},

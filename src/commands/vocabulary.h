@@ -1,7 +1,6 @@
-// The command language in one table: which words there are, what each needs of the documents, and what sort of thing it
-// is. The frame binds handlers to the words (app/frame/fMain_commands.cpp), menus and buttons name them, the batch
-// program takes those that need no window. Presets, filter dialogs and sizes are tables of their own, and their words
-// come in by themselves.
+// The command language in one table: the words, what each needs of the documents, and its kind. The frame binds
+// handlers to the words (app/frame/fMain_commands.cpp), menus and buttons name them, the batch program takes those that
+// need no window. Presets, filter dialogs and sizes have tables of their own, whose words are included automatically.
 #pragma once
 #include <algorithm>
 #include <span>
@@ -9,33 +8,33 @@
 
 namespace velara {
 
-/// What a word needs of the documents: the active one is not asked for; asked for, and it runs either way; only with
-/// one.
+/// What a word needs of the documents: Free doesn't look at the active one; MaybeImage does, and runs with or without;
+/// NeedsImage runs only with one.
 enum class Stage { Free, MaybeImage, NeedsImage };
 
 enum class WordKind {
     Window,  // opens a window, or belongs to one
-    View,    // how the picture is shown, not what it is
-    Step,    // changes the picture, or goes back
+    View,    // changes how the picture is shown, not the picture
+    Step,    // changes the picture, or undoes
     Preset,  // a row of presets.cpp
     Dialog,  // a row of filterDialogs.cpp
     Size,    // a row of sizeWords.cpp
-    Nothing, // known, and nothing answers
+    Nothing, // known, without a handler
     Drop,    // a button that only opens its drop-down
 };
 
-/// The parts of the menus whose items come from the rows of their words, those of this table first and then those of
-/// filterDialogs.cpp. app/menus/menus.cpp says where each part is.
+/// The parts of the menus whose items come from the rows of their words, first those of this table, then those of
+/// filterDialogs.cpp. app/menus/menus.cpp has the position of each part.
 inline constexpr std::string_view kMenuParts[] = {"SELECT",  "IMAGE",  "COLORS",  "REPLACE",   "ADD",
                                                   "EFFECTS", "SHAPES", "CAPTURE", "WALLPAPER", "VIEWS"};
 
-/// Where a word stands in the menus; a part that isn't in kMenuParts does not compile. Words without a place are named
-/// by menus.cpp, or are in no menu.
+/// A word's place in the menus; a part that isn't in kMenuParts does not compile. Words without a place are named by
+/// menus.cpp, or are in no menu.
 struct MenuPlace {
     std::string_view part = {};
     std::string_view caption = {};
-    std::string_view picture = {};   // as pictureOf() gives it (app/menus/menus.h)
-    std::string_view shortcuts = {}; // split by blanks; the first is shown
+    std::string_view picture = {};   // a name for pictureOf() (app/menus/menus.h)
+    std::string_view shortcuts = {}; // separated by blanks; the first is shown
 
     constexpr MenuPlace() = default;
     consteval MenuPlace(std::string_view inPart, std::string_view caption, std::string_view picture = {},
@@ -47,13 +46,13 @@ struct MenuPlace {
     }
 };
 
-/// Words that begin with "@" are the frame's own, without a word of the command language.
+/// Words that begin with "@" are the frame's own and not part of the command language.
 struct CommandWord {
     std::string_view word;
     Stage stage;
     WordKind kind;
     MenuPlace place = {};
-    int count = 1; // more: the word stands for that many items, told apart by their index
+    int count = 1; // more: the word has that many items, distinguished by their index
 
     constexpr bool ofFrame() const { return word.starts_with('@'); }
 };
@@ -72,7 +71,7 @@ inline constexpr CommandWord kCommandWords[] = {
     {"CAPTUREBACKGROUND",    Stage::Free,       WordKind::Window, {"CAPTURE", "Background"}},
     {"CUSTOMCAPTURE",        Stage::Free,       WordKind::Window},
 
-    // The active document is asked for; one of them runs without
+    // The active document is looked at; one of them runs without
     {"UNDO",                 Stage::NeedsImage, WordKind::Step},
     {"REDO",                 Stage::NeedsImage, WordKind::Step},
     {"CREATENEWCOPY",        Stage::NeedsImage, WordKind::Window},
@@ -156,7 +155,7 @@ inline constexpr CommandWord kCommandWords[] = {
     {"SUPPORT",              Stage::NeedsImage, WordKind::Nothing},
     {"HOMEPAGE",             Stage::NeedsImage, WordKind::Nothing},
     {"ABOUT",                Stage::NeedsImage, WordKind::Nothing},
-    // Items and buttons give these, and nothing answers: odd, and it stays
+    // Sent by items and buttons, without a handler: odd, and kept
     {"RESTOREORIGINAL",      Stage::NeedsImage, WordKind::Nothing},
     {"N360",                 Stage::NeedsImage, WordKind::Nothing},
     {"A360",                 Stage::NeedsImage, WordKind::Nothing},
@@ -189,12 +188,12 @@ inline constexpr CommandWord kCommandWords[] = {
 };
 // clang-format on
 
-/// Every word: those above, and those of the three tables; each once.
+/// All words: those above and those of the three other tables, each once.
 std::span<const CommandWord> vocabulary();
-/// Exact; null when there is no such word.
+/// Exact match; null when there is no such word.
 const CommandWord* findCommandWord(std::string_view word);
 
-/// True for a word of kCommandWords, for checks while compiling.
+/// True for a word of kCommandWords, for checks at compile time.
 constexpr bool isCommandWord(std::string_view word)
 {
     return std::ranges::find(kCommandWords, word, &CommandWord::word) != std::end(kCommandWords);

@@ -15,7 +15,7 @@ class cBitFilter;
 
 class Document {
   public:
-    /// Number: an int, or what gives numbers until one is free, as for UndoStore.
+    /// number: an int, or a callable that returns candidates until one is free, as for UndoStore.
     template <class Number> Document(const QString& tempFolder, Number number) : undo(tempFolder, number) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
@@ -25,14 +25,14 @@ class Document {
     int PictureWidth() const { return bits_.width(); }
     int PictureHeight() const { return bits_.height(); }
     const Bits& bits() const { return bits_; }
-    /// The picture itself, for the paint primitives. Never to be held over a yield.
+    /// The picture itself, for the paint primitives. Never to be held over a call that runs events.
     Bits& edit() { return bits_; }
-    /// Ignored without a picture, as is a buffer that is empty.
+    /// Ignored without a picture; an empty buffer is ignored, too.
     void setBits(const Bits& bits);
-    /// Takes the buffer as the picture, whatever there was, and wipes the selection.
+    /// Takes the buffer as the picture, also where there was none, and clears the selection.
     void takePicture(const Bits& bits);
     void Clear();
-    /// Takes what the engine holds; another size wipes the selection.
+    /// Takes the engine's picture; a change of size clears the selection.
     void takeFrom(const cBitFilter& filter);
 
     /// Names this document until it is closed.
@@ -43,7 +43,7 @@ class Document {
     /// Gives the engine this document's picture and working region.
     void handTo(cBitFilter& filter) const;
 
-    /// Snapshot of the present picture, written out of sight.
+    /// Snapshot of the present picture, written in the background.
     void SaveUndoBits()
     {
         ++commits_;
@@ -51,7 +51,7 @@ class Document {
     }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
     void commit();
-    /// Closing it now would lose something: what window marks and questions go by.
+    /// Closing it now would lose something; decides the marks of windows and the question at closing.
     bool wouldBeLost() const
     {
         return PictureExists() && (waitingWork || file.isBrought || (Changed && undo.mayHaveChanged()));
@@ -86,7 +86,7 @@ class Document {
 
     Bits bits_;
     int commits_ = 0;
-    std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles watch it
+    std::shared_ptr<Document> life_{std::make_shared<char>(), this}; // owns nothing; handles refer to it
 };
 
 } // namespace velara

@@ -13,7 +13,7 @@ Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, 
     if (sizing_ && document.Zoomed) before_ = document.undo.previousLater();
 }
 
-/// The picture that the job starts from; reading the one before may take its time.
+/// Sets up the picture that the job starts from; reading the one before a sizing run may take time.
 void Draft::prepare()
 {
     if (const auto before = before_ ? before_() : std::nullopt) {
@@ -52,7 +52,7 @@ void Draft::take()
     const bool sameSize =
         draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
     const bool sameRegion = draft_.Region.RegionMain() == limit_ && draft_.Region.Region() == selection_;
-    if (sameSize && sameRegion) { // what the user selected meanwhile stays
+    if (sameSize && sameRegion) { // keep what the user selected meanwhile
         document.setBits(draft_.bits());
     } else {
         document.takePicture(draft_.bits());

@@ -1,5 +1,5 @@
-// Draft: one change of a document from its beginning to its end, without a window. Until take() the document is not
-// touched; pictures are shared until they are written to, so that a draft costs nothing.
+// Draft: one change of a document from start to end, without a window. The document is untouched until take(); pictures
+// are shared until they are written to, so making a draft costs nothing.
 #pragma once
 #include "document/Document.h"
 #include "document/road/Change.h"
@@ -13,17 +13,17 @@ class Draft {
     /// picture before the first of them. like: the engine whose clock, progress and random numbers go on.
     Draft(Document& document, const Bits& committed, const cBitFilter& like, After after);
 
-    /// The engine that the job gets; for its Progress.
+    /// The engine that the job gets, e.g. to set its Progress.
     cBitFilter& filter() { return filter_; }
     /// Runs the job, on whichever thread; what it throws is told by the outcome. NotEnoughMemory when it needs more
     /// than half of the memory that is free.
     Outcome attempt(const Job& job);
-    /// The document is there and at the step that the draft began with.
+    /// The document still exists and is at the step at which the draft began.
     bool wanted() const;
-    /// The result goes into the document, which must be wanted, with an undo step. A sizing word that left the picture
-    /// alone makes none.
+    /// Puts the result into the document, which must be wanted(), with an undo step. A sizing word that left the
+    /// picture unchanged makes no step.
     void take();
-    /// What follows in `engine`: the random numbers, and, where it holds this document, the result and its region.
+    /// Updates `engine` after the change: its random state and, when it holds this document, the result and its region.
     void handTo(cBitFilter& engine, bool holds) const;
 
   private:

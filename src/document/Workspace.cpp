@@ -23,7 +23,7 @@ Workspace::~Workspace()
     for (QThreadPool* pool : {&threads_, &reading_, &writing_}) pool->waitForDone();
 }
 
-/// From any thread; runs in the window's, from the event loop.
+/// Callable from any thread; the call runs on the window's thread, from the event loop.
 void Workspace::later(std::function<void()> call)
 {
     ++posted_;
@@ -50,7 +50,7 @@ DocumentHandle Workspace::add(const Bits& picture, const QString& path, Arrival 
 {
     auto document = std::make_shared<Document>(folder_, [this] { return nextNumber_++; });
     const DocumentHandle handle = document->handle();
-    document->undo.onFailure([this, handle](const QString& reason) { // from the writing thread
+    document->undo.onFailure([this, handle](const QString& reason) { // called on the writing thread
         later([this, handle, reason] { emit stepLost(handle, reason); });
     });
     document->file.isFile = arrival == Arrival::File;
@@ -133,7 +133,7 @@ void Workspace::inTurn(const DocumentHandle& document, std::function<void()> cal
     place->waiting.push_back({{}, {}, std::move(call)});
 }
 
-/// Not from inside of a call, which can't be waited for there.
+/// Not from inside such a call: it can't be waited for there.
 bool Workspace::awaitsCall(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
@@ -141,7 +141,7 @@ bool Workspace::awaitsCall(const DocumentHandle& document) const
            (place->saves > 0 || std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); }));
 }
 
-/// A call that waits is no change, and comes all the same.
+/// Calls in the queue are no changes: they still run.
 bool Workspace::cancel(const DocumentHandle& document, int change)
 {
     Place* place = placeOf(document);
@@ -167,7 +167,8 @@ void Workspace::goOn(const DocumentHandle& document)
     if (Place* place = placeOf(document)) begin(*place);
 }
 
-/// The next in the queue, unless something is under way. May end the place: a call may close its document.
+/// Starts the next entry of the queue, unless something is under way. May destroy the place: a call may close its
+/// document.
 void Workspace::begin(Place& place)
 {
     if (place.running || place.calling || place.waiting.empty()) return;
@@ -193,7 +194,7 @@ void Workspace::begin(Place& place)
             goOn(document);
         });
     }
-    // What a tool shows for the time being is no part of the picture: the engine has that.
+    // What a tool shows temporarily is not part of the picture: the engine has the committed one.
     const bool committed = engineHolds(*document) && engine_.BitsWidth() == document->PictureWidth() &&
                            engine_.BitsHeight() == document->PictureHeight();
     place.running = std::shared_ptr<Run>(

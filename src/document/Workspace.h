@@ -1,11 +1,12 @@
-// Workspace: the open documents and the one road by which they change. Knows no window: the editor, velara-batch and
-// the tests use the same one.
+// Workspace: the open documents and the one way in which they change. Knows no window: the editor, velara-batch and the
+// tests use the same one.
 //
 //     workspace.change(document, {job}, [](const Outcome& outcome) { ... });
 //
-// The job is computed by a thread on a draft; the window's thread never waits for it. When it is done, its result goes
-// into the document on the window's thread, in one place, and then(outcome) is called. Changes of one document are done
-// in the order in which they came, each on the result of the one before; different documents change side by side.
+// A worker thread computes the job on a draft; the window's thread never waits for it. When it is done, the result is
+// put into the document on the window's thread, in one place, and then(outcome) is called. Changes of one document are
+// made in the order in which they were given, each on the result of the one before; different documents change in
+// parallel.
 //
 // Called from the window's thread only. then(...) and signals come there too, always from the event loop and never from
 // inside of a call, so that nobody has to ask in his middle whether he still stands. Who holds a window in then(...)
@@ -67,7 +68,7 @@ class Workspace final : public QObject {
     DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
-    /// No handle finds it from now on; its undo files go, and its changes end as Gone.
+    /// Its handles become null, its undo files are removed, and its changes end as Gone.
     void close(const DocumentHandle& document);
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
@@ -78,10 +79,10 @@ class Workspace final : public QObject {
     void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then);
 
     // --- Changes
-    /// The one road from a command to a document. The outcome is Gone where there is no picture. The answer names the
-    /// change for cancel().
+    /// The one way from a command to a document. The outcome is Gone when there is no picture. Returns the number of
+    /// the change, for cancel().
     int change(const DocumentHandle& document, Step step, Then then = {});
-    /// The end of a change that a tool painted right into the document: snapshot and changed mark.
+    /// Ends a change that a tool painted directly into the document: snapshot and changed mark.
     void finish(const DocumentHandle& document);
     /// One step back or forward. False where there is none.
     bool step(const DocumentHandle& document, bool back);
@@ -94,16 +95,16 @@ class Workspace final : public QObject {
     static constexpr int kAll = 0;
     bool isBusy(const DocumentHandle& document) const;
     /// A stroke under way holds its document's queue: asked before each change begins. Whoever answered true calls
-    /// goOn() when that is over.
+    /// goOn() when the stroke is over.
     std::function<bool(const Document& document)> held;
     void goOn(const DocumentHandle& document);
-    /// Runs events until nothing is under way, in one document or in all. For programs without a window, tests, and
-    /// where a question must know what became of it.
+    /// Runs events until nothing is under way, in one document or in all. For programs without a window, for tests, and
+    /// where a question needs the outcome.
     void wait(const DocumentHandle& document);
     void wait();
 
     // --- The engine
-    /// It has the committed picture and the working region of the document that was handed over last.
+    /// Holds the committed picture and the working region of the document that was handed over last.
     cBitFilter& engine() { return engine_; }
     bool engineHolds(const Document& document) const { return held_ == document.handle(); }
     void handOver(const Document& document);
@@ -117,9 +118,9 @@ class Workspace final : public QObject {
     void changed(const DocumentHandle& document);
     /// Its changes are all done.
     void idle(const DocumentHandle& document);
-    /// Of the change under way, as the engine reports it.
+    /// Progress of the running change, as the engine reports it.
     void progress(const DocumentHandle& document, int percent);
-    /// What was before a change can't be kept; the reason is for a person.
+    /// The state before a change can't be kept; the reason is for the user.
     void stepLost(const DocumentHandle& document, const QString& reason);
 
   private:

@@ -11,7 +11,7 @@ namespace velara {
 
 namespace {
 
-/// What of a rectangle of the source has a place in the target, both at their own coordinates.
+/// The part of a rectangle of the source that falls on the target, each in its own coordinates.
 struct Overlap {
     QRect source;
     QPoint target;
@@ -24,7 +24,7 @@ Overlap overlap(QSize sourceSize, QPoint from, QSize targetSize, QPoint to, QSiz
     return {source, source.topLeft() + to - from};
 }
 
-/// The two neighbours of a position between the pixels of a row or column, and the weight of the second.
+/// The two pixels of a row or column next to a position between them, and the weight of the second.
 struct Between {
     int first, second;
     double weight;
@@ -118,7 +118,7 @@ std::optional<cDIBSection> cDIBSection::Resample(int newHeight, int newWidth) co
     if (bytes_.empty() || !made.Create(newWidth, newHeight)) return std::nullopt;
     if (newWidth == width_ && newHeight == height_) return *this;
     const std::vector<Between> columns = positions(width_, newWidth), rows = positions(height_, newHeight);
-    const auto line = [](auto& section, int y) { // counted as they lie, from the bottom
+    const auto line = [](auto& section, int y) { // in storage order, from the bottom
         return section.DIBSectionBitsPtr() + static_cast<std::ptrdiff_t>(y) * section.BytesPerScanLine();
     };
     for (int y = 0; y < newHeight; ++y) {

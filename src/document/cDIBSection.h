@@ -28,21 +28,21 @@ class cDIBSection {
     std::uint8_t* row(int y) { return bytes_.data() + rowAt(y); }
     const std::uint8_t* row(int y) const { return bytes_.data() + rowAt(y); }
 
-    /// Copies from x, y of source to 0, 0; a negative width or height is the section's own. Only what both have.
+    /// Copies from x, y of source to 0, 0; a negative width or height means the section's own. Clipped to both.
     void LoadPictureBlt(const Bits& source, int x = 0, int y = 0, int width = -1, int height = -1);
     void LoadPictureBlt(const cDIBSection& source, int x = 0, int y = 0, int width = -1, int height = -1);
-    /// Copies from sourceX, sourceY to x, y of target, likewise. The target's fourth bytes stay.
+    /// Copies from sourceX, sourceY to x, y of target, clipped likewise. The target's fourth bytes are kept.
     void PaintPicture(Bits& target, int x = 0, int y = 0, int width = -1, int height = -1, int sourceX = 0,
                       int sourceY = 0) const;
     /// The section as a picture.
     Bits toBits() const;
 
-    /// Random pixels: one value for all three channels, or blue 0 with green and red of their own.
+    /// Random pixels: one value for all three channels, or blue 0 and independent green and red.
     void RandomiseBits(Machine& machine, bool grey);
-    /// Bilinear, corner pixel to corner pixel; the same size is a copy. Nothing when empty or for a size below 1;
-    /// DivisionByZero when one side shall become 1.
+    /// Bilinear, corner pixels onto corner pixels; the same size gives a copy. Nothing when the section is empty or a
+    /// size is below 1; otherwise DivisionByZero when a new side is 1.
     std::optional<cDIBSection> Resample(int newHeight, int newWidth) const;
-    /// False when asDib, after a message, and when the clipboard doesn't take it.
+    /// False when asDib, after a message, and when the clipboard refuses it.
     bool CopyToClipboard(Platform& platform, bool asDib) const;
 
   private:

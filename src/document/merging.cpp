@@ -11,7 +11,7 @@ Bits merged(cBitFilter& filter, const Merging& m)
 
 namespace {
 
-/// The overlay's column (or row) over a place of the picture, or -1: it goes right and down from its corner.
+/// The overlay's column (or row) at a coordinate of the picture, or -1; it extends right and down from its corner.
 int overlaid(std::int64_t place, int corner, int size, bool tiled)
 {
     const std::int64_t at = place - corner;
@@ -26,7 +26,7 @@ Bits mergedView(const Bits& picture, const Region& region, const Merging& m, QSi
     if (picture.isNull()) return picture;
     const QSize size = fitSize({picture.width(), picture.height()}, box).expandedTo({1, 1});
     const auto placed = [](int at, int of, int shown) { return static_cast<int>(std::int64_t(at) * of / shown); };
-    // Both pictures on the view's pixels. Where no overlay falls the picture lies over itself, which changes nothing.
+    // Both pictures at the view's size. Outside the overlay the picture lies over itself, which changes nothing.
     Bits below(size.width(), size.height());
     for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)

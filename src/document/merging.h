@@ -13,10 +13,10 @@ struct Merging {
     Colour key = -1;       // overlay pixels of this colour are left out; -1: none
 };
 
-/// The filter's picture with the overlay, within its region; the picture itself without one.
+/// The filter's picture with the overlay, within its region; unchanged without an overlay.
 Bits merged(cBitFilter& filter, const Merging& merging);
 
-/// What merged() makes of the picture, seen in a box: every so many pixels of it, in the time that the box takes.
+/// A preview of merged() that fits a box, from subsampled pixels: its cost depends on the box only.
 Bits mergedView(const Bits& picture, const Region& region, const Merging& merging, QSize box);
 
 } // namespace velara

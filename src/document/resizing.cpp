@@ -7,7 +7,8 @@ namespace velara {
 
 namespace {
 
-/// An engine for the steps in between: the same reports, another picture. Only the end result reaches the real one.
+/// An engine for intermediate steps: the same progress reports, another picture. Only the final result reaches the real
+/// one.
 cBitFilter workshop(const cBitFilter& filter, const Bits& bits)
 {
     cBitFilter work;
@@ -23,7 +24,7 @@ void finish(Document& document, cBitFilter& filter, const Bits& result)
     document.handTo(filter);
 }
 
-/// The picture laid on a black one of width by height, the whole of which is the working region.
+/// The picture on a black canvas of width by height, all of which is the working region.
 cBitFilter onCanvas(const cBitFilter& filter, const Bits& picture, int width, int height, int left, int top)
 {
     checkSize(width, height);
@@ -51,7 +52,7 @@ std::int32_t times(int size, int factor)
 
 void zoomImage(Document& document, cBitFilter& filter, int factor, bool enlarge, bool quality)
 {
-    if (factor == 1) return; // a run of sizings ends where it began, which the draft holds
+    if (factor == 1) return; // a run of sizing words ends at its start, which the draft has
     const auto sized = [&](int size) { return enlarge ? times(size, factor) : roundEven(quotient(size, factor)); };
     resizeImage(document, filter, sized(document.PictureWidth()), sized(document.PictureHeight()), quality);
 }
@@ -66,8 +67,8 @@ void rotateImage(Document& document, cBitFilter& filter, int degrees, bool quali
     const int width = roundEven(h * s + c * w), height = roundEven(c * h + s * w);
     const int side = static_cast<int>(std::trunc(std::sqrt(h * h + w * w)));
 
-    // The target lies about the centre of the square that the picture turns in. Halves are truncated toward zero, so a
-    // target one wider than the square loses that column.
+    // The target is centred in the square in which the picture turns. The division truncates toward zero, so a target
+    // one wider than the square loses that column.
     const int left = (side - width) / 2, top = (side - height) / 2;
     turn(document, filter, degrees, quality, side,
          Rect{left, top, left + width, top + height}.intersected({0, 0, side, side}));

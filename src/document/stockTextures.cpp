@@ -14,10 +14,10 @@ namespace {
 constexpr double kTurn = 6.283185307179586;
 
 struct Tint {
-    double r, g, b; // of 255, at full light
+    double r, g, b; // 0 to 255, at full light
 };
 
-/// A texture of one tint a pixel in a light, 1 being full.
+/// A texture from a function that gives each pixel's tint and light, 1 being full.
 template <class PixelAt> Bits drawn(PixelAt pixelAt)
 {
     Bits bits(kTextureSide, kTextureSide);
@@ -48,7 +48,7 @@ double smooth(double from, double to, double v)
     return t * t * (3 - 2 * t);
 }
 
-/// The light on a thread of so many pixels width, at a place across it.
+/// The light across a thread of the given width in pixels, at a position across it.
 double roundThread(double place, double width)
 {
     const double t = std::fmod(place, width) / width * 2 - 1;
@@ -63,7 +63,7 @@ Bits paper()
     });
 }
 
-/// Threads over and under each other by turns.
+/// A plain weave: threads alternately over and under each other.
 Bits woven(const Tint& tint, int thread, double unevenness, std::uint32_t seed)
 {
     return drawn([=](int x, int y) -> Lit {
@@ -71,7 +71,7 @@ Bits woven(const Tint& tint, int thread, double unevenness, std::uint32_t seed)
         const bool warp = (column + row) % 2 == 0;
         const double across = warp ? roundThread(x, thread) : roundThread(y, thread);
         const double along = warp ? roundThread(y, thread) : roundThread(x, thread);
-        // A thread keeps its own thickness all along.
+        // A thread keeps its thickness along its whole length.
         const double own = randomAt(warp ? column : 0, warp ? 0 : row, seed);
         const double light = 0.45 + 0.55 * across * (0.55 + 0.45 * along);
         return {tint, light * (1 - unevenness * own) + 0.06 * (valueNoise(x, y, 128, seed + 1) - 0.5)};
@@ -83,7 +83,7 @@ Bits canvas() { return woven({238, 226, 200}, 8, 0.08, 21); }
 Bits linen()
 {
     return drawn([](int x, int y) -> Lit {
-        // Fine threads, each with thick and thin places along its way.
+        // Fine threads, each with thick and thin stretches.
         const double warp = stretchedNoise(x, y, 128, 8, 31), weft = stretchedNoise(x, y, 8, 128, 32);
         const bool over = (x / 2 + y / 2) % 2 == 0;
         return {{222, 210, 184}, 0.62 + 0.38 * (over ? 0.75 * warp + 0.25 * weft : 0.25 * warp + 0.75 * weft)};
@@ -95,7 +95,7 @@ Bits brick()
     constexpr int kHigh = 32, kWide = 64, kJoint = 4;
     return drawn([](int x, int y) -> Lit {
         const int row = y / kHigh, shifted = (x + row % 2 * kWide / 2) % kTextureSide, column = shifted / kWide;
-        // Edges that are a little ragged.
+        // Slightly ragged edges.
         const double ragged = 2.5 * (layers(x, y, 32, 3, 41) - 0.5);
         const double edge =
             std::min({shifted % kWide, kWide - 1 - shifted % kWide, y % kHigh, kHigh - 1 - y % kHigh}) + ragged;
@@ -106,7 +106,7 @@ Bits brick()
     });
 }
 
-/// Stones of all sizes with joints between them.
+/// Stones of varied sizes with joints between them.
 Bits stone()
 {
     return drawn([](int x, int y) -> Lit {
@@ -132,7 +132,7 @@ Bits wood()
 {
     return drawn([](int x, int y) -> Lit {
         const double v = double(y) / kTextureSide;
-        // Year rings that run along the picture and swerve; fibres along them.
+        // Growth rings that run along the picture and waver; fibres along them.
         const double swerve = 1.4 * layers2(x, y, 2, 4, 4, 71) + 0.25 * layers2(x, y, 4, 16, 3, 72);
         const double ring = std::fmod(9 * v + swerve + 16, 1.0);
         const double late = smooth(0.35, 0.95, ring) * (1 - smooth(0.95, 1.0, ring));
@@ -143,7 +143,7 @@ Bits wood()
 
 Bits weave()
 {
-    constexpr int kBand = 32, kGap = 3; // broad bands, two by two
+    constexpr int kBand = 32, kGap = 3; // broad bands in pairs
     return drawn([](int x, int y) -> Lit {
         const bool across = (x / kBand + y / kBand) % 2 == 0;
         const int along = across ? x % kBand : y % kBand, over = across ? y % (kBand / 2) : x % (kBand / 2);
@@ -157,7 +157,7 @@ Bits weave()
 Bits ripple()
 {
     struct Wave {
-        int x, y; // whole waves across and down the picture
+        int x, y; // whole periods across and down the picture
         double weight, phase;
     };
     static constexpr Wave kWaves[] = {
@@ -196,7 +196,7 @@ Bits grid()
         const int u = x % kStep, v = y % kStep;
         const int edge = std::min({u, v, kStep - 1 - u, kStep - 1 - v});
         if (edge < 2) return {{96, 100, 106}, 1};
-        // Tiles with a slope around: light from the upper left.
+        // Bevelled tiles: light from the upper left.
         const double slope = edge < 5 ? (std::min(u, v) == edge ? 1.12 : 0.8) : 1;
         return {{204, 208, 212}, slope};
     });
@@ -229,7 +229,7 @@ bool writeStockTextures(Platform& platform)
     int n = 0;
     for (const StockTexture& texture : kTextures) {
         const QString path = program.filePath(QStringLiteral("Textures/Velara%1.bmp").arg(++n));
-        const QFileInfo there(path); // a link that leads nowhere has the name too
+        const QFileInfo there(path); // a dangling link occupies the name, too
         if (!there.exists() && !there.isSymLink())
             written &= savePicture(platform, texture.draw(), path, QStringLiteral("bmp")) == SaveResult::Written;
     }

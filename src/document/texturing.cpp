@@ -9,7 +9,7 @@ namespace {
 
 Region whole(const Bits& bits) { return Region::rectangle(0, 0, bits.width(), bits.height()); }
 
-/// Grey around 128. A picture of its own is full of edges: it gets the deeper relief by the smaller divisor.
+/// Grey around 128. The picture itself is full of edges: it gets the deeper relief by the smaller divisor.
 Bits reliefOf(cBitFilter helper, const Bits& texture, const Texturing& texturing)
 {
     if (!reliefFits(texture.width(), texture.height())) throw RuntimeError(Fault::OutOfRange);
@@ -38,7 +38,7 @@ Bits texturized(cBitFilter& filter, const Texturing& texturing)
 Bits texturizedPart(const Bits& picture, const Region& region, const Texturing& texturing, const Rect& part)
 {
     cBitFilter filter;
-    filter.clock = [] { return 0u; }; // reports nothing
+    filter.clock = [] { return 0u; }; // no progress reports
     if (part.width() >= picture.width() && part.height() >= picture.height()) {
         filter.setBits(picture);
         filter.setBitsRegion(region);
@@ -48,8 +48,8 @@ Bits texturizedPart(const Bits& picture, const Region& region, const Texturing& 
     filter.setBits(piece);
     filter.setBitsRegion(region.translated(-part.left, -part.top));
     if (!texturing.texture.isNull())
-        return texturized(filter, texturing); // tiles begin at the region's corner all the same
-    // Of its own relief only what falls on the part: it begins at the region's corner, like a tile.
+        return texturized(filter, texturing); // tiles start at the region's corner either way
+    // Of the picture's own relief, only what falls on the part: it starts at the region's corner, like a tile.
     const Region shown = filter.BitsRegion().combined(whole(piece), Combine::And);
     if (shown.isEmpty()) return piece;
     const Rect box = shown.bounds(), from = region.bounds();

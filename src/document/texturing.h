@@ -1,4 +1,4 @@
-// A relief laid into a picture, out of a texture or out of the picture itself.
+// A relief laid into a picture, made from a texture or from the picture itself.
 #pragma once
 #include "engine/cBitFilter.h"
 #include "engine/operations.h"
@@ -12,17 +12,17 @@ struct Texturing {
 };
 
 constexpr int kMostIntensity = 100;
-/// A relief needs two pixels each way.
+/// A relief needs at least two pixels each way.
 constexpr bool reliefFits(int width, int height) { return width >= 2 && height >= 2; }
 
-/// The filter's picture with the relief, within its region. OutOfRange where the relief does not fit.
+/// The filter's picture with the relief, within its region. OutOfRange when reliefFits() is false.
 Bits texturized(cBitFilter& filter, const Texturing& texturing);
 
-/// Those pixels of part that texturized(picture) has there, without the work for the others. Only where the picture is
-/// its own texture may its last column and row differ, where the relief begins anew.
+/// The pixels of texturized(picture) in part, without computing the others. They may differ only when the picture is
+/// its own texture, in the last column and row, where the relief repeats.
 Bits texturizedPart(const Bits& picture, const Region& region, const Texturing& texturing, const Rect& part);
 
-/// By its name: "fTexturize", with Texture, Weight and Depth (0 emboss, 1 engrave).
+/// The operation named "fTexturize", with Texture, Weight and Depth (0 emboss, 1 engrave).
 const Operation& texturizeOperation();
 
 } // namespace velara

@@ -1,10 +1,10 @@
-// What a vector kernel works on: a span of one row.
+// The argument of a vector kernel: a span of one row.
 #pragma once
 #include "pixels/Bits.h"
 
 namespace velara {
 
-/// By value, so that a kernel's stores cannot touch it. A kernel writes the pixels x0..x1-1 of the row at to.
+/// Passed by value, so that a kernel's stores cannot alias it. A kernel writes the pixels x0..x1-1 of the row at to.
 /// Both pointers are to x = 0; the source's rows above and below lie stride pixels away and may be margin. The fourth
 /// byte comes from the source unless the kernel says otherwise.
 struct SpanOf {
@@ -14,7 +14,7 @@ struct SpanOf {
     int x0, x1;
 };
 
-/// A colour 0x00BBGGRR as a pixel's four bytes: blue in the lowest, the fourth zero.
+/// A colour 0x00BBGGRR as a pixel's four bytes 0x00RRGGBB: blue in the lowest, the fourth zero.
 constexpr std::uint32_t pixelOf(std::int32_t colour)
 {
     const auto c = static_cast<std::uint32_t>(colour);

@@ -32,7 +32,7 @@ float cBitFilter::Angle(int X, int Y)
     return static_cast<float>(X < 0 ? a + kPi : a);
 }
 
-/// The progress rule: row `done` of a run whose last row is `of`. A run of one row is at its end then.
+/// The progress rule: reports row `done` of a run whose last row is `of`. A run of a single row is 100 percent done.
 void cBitFilter::progressDue(std::int64_t done, std::int64_t of)
 {
     if (clock() - lastProgress_ <= kReportEvery) return;

@@ -2,10 +2,10 @@
 // filter never changes the object: it returns a new buffer, and only `filter.setBits(filter.NAME(...))` changes the
 // picture.
 //
-// Below the class stands the table of what presets, dialogs, the batch program, tests and benchmarks call by name.
+// Below the class is the table of what presets, dialogs, the batch program, tests and benchmarks call by name.
 //
-// Colours are 0x00BBGGRR. Channels of a pixel: 0 blue, 1 green, 2 red. Without a region nothing is changed. Every
-// filter raises Progress 100 at its end and a percentage at most every 10 ms before; a RuntimeError passes to the
+// Colours are 0x00BBGGRR. Channels of a pixel: 0 blue, 1 green, 2 red. An empty region changes nothing. Every filter
+// raises Progress 100 at its end and a percentage at most every 10 ms before; a RuntimeError is passed on to the
 // caller.
 #pragma once
 #include "pixels/Bits.h"
@@ -24,9 +24,10 @@ struct Disc;
 
 class cBitFilter {
   public:
-    /// Percent done, raised at most once a row. May yield, and may throw Cancelled to end the filter.
+    /// Percent done, raised at most once a row, on the thread that runs the filter. May throw Cancelled to end the
+    /// filter.
     std::function<void(int)> Progress;
-    /// Milliseconds that wrap; steady_clock unless replaced.
+    /// Milliseconds of a clock that wraps around; steady_clock unless replaced.
     std::function<std::uint32_t()> clock;
 
     cBitFilter();
@@ -38,18 +39,17 @@ class cBitFilter {
     const Region& BitsRegion() const { return region_; }
     void setBitsRegion(Region region) { region_ = std::move(region); }
     static constexpr std::uint64_t kRandomSeed = 0x9E3779B97F4A7C15u;
-    /// Restarts the random numbers of NOISE and DIFFUSE; a new object starts at kRandomSeed. Each use takes the next
-    /// seed.
+    /// Seeds the random numbers of NOISE and DIFFUSE; a new object starts at kRandomSeed. Each use takes the next seed.
     void setRandomSeed(std::uint64_t seed) { randomSeed_ = seed; }
     std::uint64_t randomSeed() const { return randomSeed_; }
 
-    // --- In place (cBitFilter_geometry.cpp, _resize.cpp). Source is usually bits() itself. Sizes that are below 1,
-    // above 32767 a side or above 256 Mi pixels raise OutOfRange.
+    // --- In place (cBitFilter_geometry.cpp, _resize.cpp). Source is usually bits() itself. Sizes below 1, above 32767
+    // a side or above 256 Mi pixels raise OutOfRange.
     /// All four bytes of the region's pixels become 0.
     void BitsBlack();
-    /// The rectangle, cut to this object's present size, out of Source. Empty or not within Source: OutOfRange.
+    /// Crops to the rectangle of Source, clipped to this object's present size. Empty or not within Source: OutOfRange.
     void BitsCrop(const Bits& Source, int Left, int Top, int Right, int Bottom);
-    /// The same, cut to Source's size; pixels outside of the region become 0, 0, 0 with a fourth byte of 255.
+    /// The same, clipped to Source's size; pixels outside of the region become 0, 0, 0 with a fourth byte of 255.
     void BitsCropMasked(const Bits& Source, int Left, int Top, int Right, int Bottom);
     /// Bilinear resize. The last column and row blend with the margin.
     void BitsResample(const Bits& Source, int NewWidth, int NewHeight);
@@ -57,35 +57,35 @@ class cBitFilter {
     void BitsResize(const Bits& Source, int NewWidth, int NewHeight);
     /// A quarter turn: the pixel (x, y) goes to (y, maxX-x).
     void BitsRotate90(const Bits& Source);
-    /// A picture turned in the middle of a black square of Side, at least its diagonal: what TileMask, ROTATE without
-    /// Clean (Smooth: RotateSmooth) and BitsCrop to Part of the square give, in the memory of Part and without the
-    /// square.
+    /// Rotates a picture centred in a black square of Side, at least its diagonal: the result of TileMask, ROTATE
+    /// without Clean (Smooth: RotateSmooth) and BitsCrop to Part of the square, using the memory of Part only and never
+    /// making the square.
     void turnOnSquare(const Bits& Source, int Degrees, bool Smooth, int Side, const Rect& Part);
     /// The upper left Width by Height pixels of Picture, black where it is smaller. A null Picture changes nothing.
     void BitsTakeFromPicture(const QImage& Picture, int Width, int Height);
 
-    // What the arguments are (unit, range, usual value) stands in their rows below. Here is what a filter makes of
-    // them. c is a channel's value, a and b are other values of 0..255; results are limited to 0..255 and rounded half
-    // to even unless the text says otherwise. "Mean" of a pixel is (blue + green + red) \ 3, \ being division that
-    // truncates toward zero. Formulas and constants are this program's own unless a source is named.
+    // Unit, range and usual value of each argument are in the rows below; here is what a filter does with them. c is a
+    // channel's value; results are clamped to 0..255 and rounded half to even unless noted. The "mean" of a pixel is
+    // (blue + green + red) \ 3, \ being division that truncates toward zero. Formulas and constants are this program's
+    // own unless a source is named.
 
     // --- Colour filters (cBitFilter_colour.cpp, _tone.cpp, _distance.cpp, _hsl.cpp, _palette.cpp). Each pixel by
-    // itself. Tolerances: the squared distance d2 of two colours, over blue, green and red, is held against T =
-    // (Tolerance*1.275)^2 + 1; 0 takes the exact colour alone, 100 half of a channel's range.
+    // itself. Tolerances: the squared distance d2 of two colours, over blue, green and red, is compared with T =
+    // (Tolerance*1.275)^2 + 1; 0 matches the exact colour only, 100 half of a channel's range.
     /// c + Level; 0 changes nothing.
     Bits BRIGHTNESS(int Level);
-    /// (c-M)*(Level+100)/100 + M, M being the mean of the whole picture. A channel that runs over gives half of the
-    /// excess to each of the others, which keeps the hue. 0 changes nothing, -100 gives M, lower ones invert.
+    /// (c-M)*(Level+100)/100 + M, M being the mean of the whole picture. A channel that overflows passes half of the
+    /// excess to each of the others, which preserves the hue. 0 changes nothing, -100 gives M, lower levels invert.
     Bits CONTRAST(int Level);
-    /// c + (c-mean)*Level/100. 0 changes nothing, -100 gives grey, lower ones the opposite hue.
+    /// c + (c-mean)*Level/100. 0 changes nothing, -100 gives grey, lower levels the opposite hue.
     Bits SATURATION(int Level);
     /// 255*(c/255)^(1/g), g = (Level+100)/100. 0 changes nothing; -100 and below give black.
     Bits GammaCorrection(int Level);
-    /// The pixel's brightness in one hue and saturation (mHSLRGB.h): lightness = brightness*Luminosity.
+    /// The pixel's brightness at a fixed hue and saturation (mHSLRGB.h): lightness = mean/255*Luminosity, unrounded.
     Bits COLORIZE(float Hue, float Saturation, float Luminosity);
-    /// 0.707 green + 0.071 blue + 0.222 red, which gives green more than the 0.587 of television (ITU-R BT.601).
+    /// 0.707 green + 0.071 blue + 0.222 red, which weights green more than the 0.587 of television (ITU-R BT.601).
     Bits GreyScale();
-    /// Green and red become the grey of GreyScale, blue stays: blue against yellow.
+    /// Green and red become the grey of GreyScale, blue is kept: blue against yellow.
     Bits OLDPHOTO();
     /// 255 - c.
     Bits Invert();
@@ -99,25 +99,26 @@ class cBitFilter {
     Bits Reduction(int Level);
     /// c + the amount of its channel.
     Bits ShiftRGB(int Red, int Green, int Blue);
-    /// Fill where d2 to Color is T or more: what is near Color survives. No blend.
+    /// Fill where d2 to Color is T or more: colours near Color are kept. No blending.
     Bits ISOLATE(Colour Color, Colour Fill, int Tolerance);
-    /// Up to T from From: blended toward To by 1 - d2/T.
+    /// Where d2 to From is at most T: blended toward To by 1 - d2/T.
     Bits REPLACE(Colour From, Colour To, int Tolerance);
-    /// REPLACE where hue and saturation are near enough, too. Hue is no circle here: -0.9 and 4.9 are far apart.
+    /// REPLACE where hue and saturation are within their tolerances, too. Hue is not treated as circular: -0.9 and 4.9
+    /// are far apart.
     Bits ReplaceHS(Colour From, Colour To, int HueTolerance, int SatTolerance, int ApplyTolerance);
     /// REPLACE where the means differ by at most 2.55*LumTolerance, too.
     Bits ReplaceL(Colour From, Colour To, int LumTolerance, int ApplyTolerance);
-    /// Nearer than T to Color: c + Amount, blended by 1 - d2/T.
+    /// Where d2 to Color is below T: c + Amount, blended by 1 - d2/T.
     Bits Shift(Colour Color, int Amount, int Tolerance);
-    /// The hue turned, the saturation scaled. Offset 0 and 100 with Saturation 100 change nothing but by rounding.
+    /// Rotates the hue, scales the saturation. Offset 0 or 100 with Saturation 100 changes nothing but rounding.
     Bits RotateH(int Offset, int Saturation);
     /// Grey by a sine of brightness: 127.5*sin(v*Steps/2.5 + Offset/10) + 127.5, v the grey of GreyScale in 0..1.
     Bits RotateL(int Offset, int Steps);
-    /// False colours: brightness L of 0..1 gives the hue 3*sin(L*Stretch/10) + Offset/16.67; the picture's own plays no
-    /// part.
+    /// False colours: the mean L in 0..1 gives the hue 3*sin(L*Stretch/10) + Offset/16.67; the picture's own hue is
+    /// ignored.
     Bits StretchH(int Offset, int Saturation, int Stretch);
     /// Each channel of the result from a channel of the pixel (0 blue, 1 green, 2 red, 3 the fourth byte), complemented
-    /// if asked for, then without the bits of Kill. Sources above 3 raise OutOfRange.
+    /// if Invert is set, then with the bits of Kill cleared. Sources above 3 raise OutOfRange.
     Bits SwapRGB(int SourceRed, int SourceGreen, int SourceBlue, bool InvertRed, bool InvertGreen, bool InvertBlue,
                  int KillRed, int KillGreen, int KillBlue);
     /// Blue, green, red become: 1 green, red, blue; 2 red, blue, green; 3 green, blue, red; 4 red, green, blue; 5 blue,
@@ -125,13 +126,13 @@ class cBitFilter {
     Bits SwapBanks(int Mode);
     /// One of the colour recipes 0..3, 6..8, 10 and 11 (cBitFilter_classy.cpp); other modes change nothing.
     Bits ClassyColors(int Mode);
-    /// The nearest colours of the palette box, with 11/16 of the error diffused to the right and below. The error is
-    /// written into this object's own picture.
+    /// Nearest colours of the palette box, with 11/16 of the error diffused to the right and below. The diffused error
+    /// is stored in this object's own picture.
     Bits PaletteApply();
-    /// The median of the whole picture's luminance (ITU-R BT.601, nearly) goes to 128 by two straight lines.
+    /// Two straight lines that move the median of the whole picture's luminance (nearly ITU-R BT.601) to 128.
     /// DivisionByZero for a median of 1 or 255.
     Bits Equalize();
-    /// The greatest, least and truncated mean of the means of all pixels; 0, 255 and 0 without a picture.
+    /// Maximum, minimum and truncated average of the means of all pixels; 0, 255 and 0 without a picture.
     int GetLMax() const;
     int GetLMin() const;
     int GetLMed() const;
@@ -139,128 +140,129 @@ class cBitFilter {
     // --- Neighbourhood filters (cBitFilter_neighbours.cpp, _mask.cpp, _rank.cpp, _diffuse.cpp). They read the margin
     // at the picture's edge. S8 is the sum of the eight neighbours; integer arithmetic.
     /// (c*(124-Level) - 2*S8) \ (108-Level): 0 weak, 100 strong; 108 raises DivisionByZero. The outermost pixels of the
-    /// region's box stay.
+    /// region's box are kept.
     Bits SHARPEN(int Level);
-    /// (c*k + the four at the sides) \ (k+4), k = 101-Level: 0 weak, 100 strong; 105 raises DivisionByZero. The
-    /// outermost pixels of the region's box stay.
+    /// (c*k + the four side neighbours) \ (k+4), k = 101-Level: 0 weak, 100 strong; 105 raises DivisionByZero. The
+    /// outermost pixels of the region's box are kept.
     Bits SOFTEN(int Level);
     /// (c*(Level+9) - S8) \ (Level+1): 0 strong, 100 weak; -1 raises DivisionByZero.
     Bits EDGEENHANCE(int Level);
-    /// The mean of eight pixels at that distance, straight and aslant, the middle left out. 0 changes nothing. A ring
-    /// that passes the two pixels of margin raises OutOfRange.
+    /// The mean of the eight pixels at that distance, horizontally, vertically and diagonally, without the centre. 0
+    /// changes nothing. A ring beyond the two pixels of margin raises OutOfRange.
     Bits Blurs(int Radius);
-    /// The greatest value of 3 by 3 pixels.
+    /// The maximum of 3 by 3 pixels.
     Bits DILATE();
-    /// The least value of 3 by 3 pixels.
+    /// The minimum of 3 by 3 pixels.
     Bits ERODE();
-    /// 8*c - S8 + 255 where its mean is below Level, else Background. 0 paints all of it; 255 all that is flat.
+    /// 8*c - S8 + 255 where its mean is below Level, else Background. 0 gives Background everywhere; 255 wherever it is
+    /// flat.
     Bits CONTOUR(int Level, Colour Background);
-    /// Grey: |(c - the one below to the right)*Weight/10 + 128|, the mean of the three. 0 gives flat 128. The last
-    /// column and row repeat the ones before.
+    /// Grey: the mean of |(c - its lower right neighbour)*Weight/10 + 128| over the channels. 0 gives flat 128. The
+    /// last column and row repeat the ones before.
     Bits EMBOSS(int Weight);
-    /// EMBOSS with the difference the other way round.
+    /// EMBOSS with the sign of the difference reversed.
     Bits ENGRAVE(int Weight);
-    /// The kernel 2 1 0 / 1 1 -1 / 0 -1 -2, \ 2, + 50, on green, red and the fourth byte; blue stays.
+    /// The kernel 2 1 0 / 1 1 -1 / 0 -1 -2, \ 2, + 50, on green, red and the fourth byte; blue is kept.
     Bits RELIEF();
-    /// The least (0) or greatest (1) value of the pixel and the four at its sides; with 0 the outermost pixels of the
-    /// region's box stay. Other modes give black.
+    /// The minimum (0) or maximum (1) of the pixel and its four side neighbours; with 0 the outermost pixels of the
+    /// region's box are kept. Other modes give black.
     Bits RankFilterN4(int Mode);
-    /// The same with the four at its corners.
+    /// The same with the four diagonal neighbours.
     Bits RankFilterND(int Mode);
-    /// Each pixel of the region's box takes one at random around it, if that one lies in the region. 0, 0 changes
+    /// Each pixel of the region's box takes a random one around it, if that one lies in the region. 0, 0 changes
     /// nothing.
     Bits DIFFUSE(int HorizontalRange, int VerticalRange);
-    /// Convolution: the sum \ Divisor + the channel's addend. Mask is square, Mask[i][j] with i along y, its middle
-    /// over the pixel. Clip leaves out pixels whose mask would pass the picture's edge. Divisor 0 raises
-    /// DivisionByZero.
+    /// Convolution: the sum \ Divisor + the channel's addend. Mask is square, Mask[i][j] with i along y, centred on the
+    /// pixel. Clip skips pixels whose mask would extend beyond the picture. Divisor 0 raises DivisionByZero.
     Bits MaskFilter(const std::vector<std::vector<int>>& Mask, double Divisor, int AddRed, int AddGreen, int AddBlue,
                     bool Clip);
 
     // --- Deformations (cBitFilter_deform.cpp, _warp.cpp, _glass.cpp, _crossing.cpp). Each target pixel of the region's
-    // box takes the nearest pixel to a source position. A source outside of the region: with Clean the target becomes
-    // black, else it stays. dx, dy count from the middle (maxX \ 2, maxY \ 2).
-    /// Turned about the middle, to the left for positive degrees. 0 changes nothing.
+    // box takes the pixel nearest to a source position. If the source is outside of the region the target becomes black
+    // with Clean, else it is kept. dx, dy are relative to the centre (maxX \ 2, maxY \ 2).
+    /// Rotated about the centre, counterclockwise for positive degrees. 0 changes nothing.
     Bits ROTATE(int Degrees, bool Clean);
-    /// ROTATE with bilinear blending; black outside of the picture, whatever the region.
+    /// ROTATE with bilinear interpolation; black outside of the picture, whatever the region.
     Bits RotateSmooth(int Degrees);
-    /// Mirrored, the whole picture and not the region alone.
+    /// Mirrors the whole picture, not only the region.
     Bits Flip(bool Horizontal, bool Vertical);
-    /// Source = middle + (dx, dy)*(percent/100 + 1): positive ones shrink the picture, negative ones enlarge it, below
-    /// -100 it is mirrored. 0 changes nothing.
+    /// Source = centre + (dx, dy)*(percent/100 + 1): positive values shrink the picture, negative ones enlarge it,
+    /// below -100 it is mirrored. 0 changes nothing.
     Bits STRETCH(int Horizontal, int Vertical, bool Clean);
-    /// Each axis is scaled by the position on the other one, like a sheet seen from aslant. 0 changes nothing. A
-    /// picture of one column or row raises DivisionByZero.
+    /// Each axis is scaled by the position on the other one, like a sheet in perspective. 0 changes nothing. A picture
+    /// of one column or row raises DivisionByZero.
     Bits FOLD(int Horizontal, int Vertical, bool Clean);
-    /// The bottom row becomes the middle, the columns become rays. The radius is scaled by RadiusFactor/100 + 2; at
-    /// -200 all of it is the bottom row.
+    /// Polar coordinates: the bottom row becomes the centre, the columns become rays. The radius is scaled by
+    /// RadiusFactor/100 + 2; at -200 everything is the bottom row.
     Bits BEND(int RadiusFactor, bool Clean);
-    /// Turned by OffsetDegrees, and by Level/10 radians more at the distance of half a width. 0, 0 changes nothing but
-    /// by rounding.
+    /// Rotated by OffsetDegrees, plus Level/10 radians per half width of distance from the centre. 0, 0 changes nothing
+    /// but rounding.
     Bits TWIRL(int Level, int OffsetDegrees, bool Clean);
-    /// Rows moved by a sine of Amplitude/4 pixels; the region is tested at the target. 0 degrees a row move all rows
-    /// alike.
+    /// Rows displaced by a sine of Amplitude/4 pixels, Frequency degrees a row; the region is tested at the target.
+    /// Frequency 0 moves all rows alike.
     Bits WAVES(int Frequency, int Amplitude, int StartDegree);
-    /// A sphere of that radius seen from the distance (150-Magnify)/150 of it: the middle is enlarged. 0 changes
-    /// nothing, from 150 on the middle is one pixel.
+    /// A sphere of that radius viewed from (150-Magnify)/150 of the radius: its middle is enlarged. 0 changes nothing,
+    /// from 150 on the middle is one pixel. A source beyond the margin raises OutOfRange.
     Bits LENS(float CenterX, float CenterY, float Radius, int Magnify);
-    /// Factor by Factor small copies of the whole picture; the region is tested at the target.
+    /// Factor by Factor small copies of the whole picture; the region is tested at the target. 0 raises DivisionByZero.
     Bits TILE(int Factor);
-    /// Sources displaced by sines, cosines and tangents of the column, the row or the pixel's number, taken as radians
-    /// (cBitFilter_glass.cpp has the styles and modes). An unknown style or mode takes the pixel (0, 0) for all.
+    /// Sources displaced by sines, cosines and tangents of the column, the row or the pixel's index, taken as radians
+    /// (cBitFilter_glass.cpp has the styles and modes). With an unknown style or mode every source is (0, 0).
     Bits GLASS(const std::string& Style, int Mode);
 
     // --- Stylising filters and generators (cBitFilter_stylise.cpp, _quadrants.cpp, _cells.cpp, _stucki.cpp,
     // _generate.cpp, _gradient.cpp, _overlay.cpp)
-    /// Smoothing that keeps edges (Kuwahara, 1976): a channel takes the mean of that one of four 3 by 3 windows at the
-    /// pixel's corners that deviates least from its mean; the first of equals.
+    /// Edge-preserving smoothing (Kuwahara, 1976): a channel takes the mean of the one of the four 3 by 3 windows at
+    /// the pixel's corners that deviates least from its mean; ties go to the first.
     Bits Dissolve();
-    /// The same without the window at the lower right, which looks smeared by a brush.
+    /// The same without the lower right window, which looks like brush strokes.
     Bits PAINTING();
-    /// Squares of their mean colour, counted from the picture's corner. 1 changes nothing, 0 raises DivisionByZero.
+    /// Squares of their mean colour, aligned to the picture's corner. 1 changes nothing, 0 raises DivisionByZero.
     Bits PIXELIZE(int Size);
-    /// Coloured dots on black, each of its cell's mean times (Intensity+100)/100, darker toward the rim. Definition
-    /// widens the dots. Radius 0 raises DivisionByZero.
+    /// Coloured dots on black, each its cell's mean times (Intensity+100)/100, darker toward the rim. Definition widens
+    /// the dots. Radius 0 raises DivisionByZero.
     Bits Halftone(int Radius, int Definition, int Intensity);
     /// Where (8*c - S8, summed over the channels, + 765) \ 3 is above Level: white on black with Mono, else Color on
     /// the picture.
     Bits SKETCH(int Level, bool Mono, Colour Color);
-    /// Black and white about the whole picture's mean, by error diffusion with the kernel of P. Stucki (1981). What
-    /// comes back of the error is 10/Divisor of it; 0 raises DivisionByZero.
+    /// Black and white, thresholded at the whole picture's mean, by error diffusion with the kernel of P. Stucki
+    /// (1981). 10/Divisor of the error is diffused; 0 raises DivisionByZero.
     Bits StuckiBW(int Divisor);
-    /// The strongest channel alone; a tie for the top stays as it is.
+    /// The strongest channel alone; a tie for the strongest leaves the pixel unchanged.
     Bits THERMIQUE();
-    /// All channels above 127: black; all below 128: white; mixed ones stay.
+    /// All channels above 127: black; all below 128: white; mixed pixels are kept.
     Bits XBLACK();
     /// XBLACK with white and black exchanged.
     Bits PHOTOCOP();
     /// A disc of light: c + (1 - (1-Definition/100)*distance/radius)*Intensity. Definition 0 fades to the rim, 100 has
-    /// a hard edge.
+    /// a hard edge. A radius of 0 changes nothing.
     Bits Light(float CenterX, float CenterY, float Radius, int Intensity, int Definition);
-    /// c + a random number of -Amount..Amount+1, one for all channels with Equalized, else one each. 0 may still add 1.
+    /// c + a random number of -Amount..Amount+1, the same for all channels if Equalized, else one each. 0 may still add
+    /// 1.
     Bits NOISE(int Amount, bool Equalized);
     /// c - Level on every second row of the region's box.
     Bits Scanlines(int Level);
-    /// Lines across the region's box; with ForceMargins the picture's last row and column, too.
+    /// Lines across the region's box; with ForceMargins on the picture's last row and column, too. Steps below 1:
+    /// OutOfRange.
     Bits Grid(int HorizontalStep, int VerticalStep, bool ForceMargins, Colour Color, int Opacity);
     /// A ramp from Color1 at the first point to Color2 at the second and beyond; -1 is the pixel's own colour. Repeat
     /// above 1 gives bands by a squared sine. Two equal points change nothing.
     Bits GradientLinear(int X1, int Y1, int X2, int Y2, Colour Color1, Colour Color2, int Opacity, int Repeat);
     /// The same by the distance from the first point.
     Bits GradientCircular(int X1, int Y1, int X2, int Y2, Colour Color1, Colour Color2, int Opacity, int Repeat);
-    /// c * texture/128, tiled over the region's box; its blue channel counts. OutOfRange for a texture of one row or
-    /// column.
+    /// c * texture/128, tiled over the region's box; the texture's blue channel is used. OutOfRange for a texture of
+    /// one row or column.
     Bits Texturize(const Bits& Texture);
-    /// Overlay from (Left, Top) on, once or tiled, blended by Transparency; pixels of KeyColor are left out, -1 leaves
-    /// out none.
+    /// Overlay at (Left, Top), once or tiled, blended by Transparency; pixels of KeyColor are skipped, -1: none are.
     Bits TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, int Transparency, Colour KeyColor);
 
-    /// The region's bounding box moved inward by Margin. Not cut to the picture.
+    /// The region's bounding box moved inward by Margin, not clipped to the picture.
     Box GetBounds(int Margin) const;
-    /// Direction of (X, Y) in (-pi/2, 3 pi/2); for X = 0 it is pi/2 when Y > 0, else -pi/2.
+    /// Angle of (X, Y) in radians, in (-pi/2, 3 pi/2); for X = 0 it is pi/2 when Y > 0, else -pi/2.
     static float Angle(int X, int Y);
 
   private:
-    // The calling patterns; passes.h has their bodies.
+    // The calling patterns; their bodies are in passes.h.
     template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel);
     template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
     Bits rankFilter(int Mode, RankWindow window);
@@ -272,7 +274,7 @@ class cBitFilter {
     void crop(const Bits& Source, const Rect& rectangle, bool masked);
     void progressDue(std::int64_t done, std::int64_t of);
     void report(int percent);
-    /// The numbers of one run of a filter.
+    /// The generator for one run of a filter.
     Random nextRandom();
 
     Bits bits_;
@@ -286,11 +288,10 @@ template <auto Method> struct Does {
 };
 
 /// The operations by name. Each argument is "name:values:usual = meaning". values are "least..most" (with decimals for
-/// singles), texts split by "|", or a word: colour (0x00BBGGRR; colour|-1 has none, too), column and row of the
-/// picture, side (a width or height in pixels). Values beyond those of the dialogs are tried, too. Booleans and
-/// pictures have no values; the usual one of texts is the first. The meaning names the unit and what the ends do; it
-/// has no comma. A template, so that only the reader of the table compiles its calls; Row is Operation
-/// (operationRows.h).
+/// singles), texts separated by "|", or a word: colour (0x00BBGGRR; colour|-1 allows none, too), column and row of the
+/// picture, side (a width or height in pixels). They may go beyond those of the dialogs, to be tested, too. Booleans
+/// and pictures have no values; the usual text is the first. The meaning names the unit and what the ends do, without
+/// commas. A template, so that its calls are compiled only where the table is read; Row is Operation (operationRows.h).
 // clang-format off
 template <class Row> inline constexpr Row kOperationRows[] = {
     {"BitsBlack",           "",                                                         Does<&cBitFilter::BitsBlack>()},

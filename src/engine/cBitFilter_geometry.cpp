@@ -1,4 +1,4 @@
-// The operations in place that cut, turn and take over the picture.
+// The in-place operations that crop, rotate and take over the picture.
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
 #include "pixels/images.h"
@@ -9,7 +9,7 @@ namespace velara {
 namespace {
 
 constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
-constexpr int kTurnTile = 32; // its columns of the target and rows of the source stay in the first cache
+constexpr int kTurnTile = 32; // this many target columns and source rows stay in the first-level cache
 
 } // namespace
 

@@ -7,10 +7,10 @@ namespace velara {
 
 namespace {
 
-/// The ratio of a source extent to a target extent, kept in single.
+/// The ratio of a source extent to a target extent, rounded to single.
 float ratio(int from, int to) { return static_cast<float>(static_cast<double>(from) / to); }
 
-/// Where the targets of one axis take their source: the pixel and the fraction beyond it.
+/// The source positions of the targets along one axis: the pixel and the fraction beyond it.
 struct Axis {
     std::vector<std::int32_t> at; // padded to whole vectors
     std::vector<double> beyond;

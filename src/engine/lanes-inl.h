@@ -1,4 +1,4 @@
-// Lanes one by one: masks as bits and loads from scattered places. For kernel files only: included once a target.
+// Single lanes: masks as bits, and loads from scattered addresses. For kernel files only: included once per target.
 #if defined(VELARA_LANES_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_LANES_INL
 #undef VELARA_LANES_INL

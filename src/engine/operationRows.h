@@ -1,5 +1,5 @@
-// How a row of the operation table becomes an Operation while compiling: its text is read, and the method's own
-// parameter types unpack the arguments. A row that is written wrongly does not compile.
+// Turns a row of the operation table into an Operation at compile time: its text is parsed, and the method's own
+// parameter types unpack the arguments. A malformed row does not compile.
 #pragma once
 #include "engine/operations.h"
 #include "pixels/images.h"
@@ -28,11 +28,10 @@ template <class T> constexpr ArgumentType typeOf()
         return ArgumentType::Text;
 }
 
-/// "0 1 0/1 4 1/0 1 0": whole numbers, rows split by slashes, as many as each row has numbers.
+/// "0 1 0/1 4 1/0 1 0": integers, rows separated by slashes, as many rows as columns.
 Mask maskOf(const std::string& text);
 
-/// A whole number serves where a number is wanted, a buffer where a picture is, a text for a mask; nothing else
-/// converts.
+/// An integer converts to a number, a buffer to a picture, a text to a mask; nothing else converts.
 template <class T> std::remove_cvref_t<T> unpack(const Argument& argument, const Parameter& parameter)
 {
     using V = std::remove_cvref_t<T>;
@@ -51,7 +50,7 @@ template <class T> std::remove_cvref_t<T> unpack(const Argument& argument, const
 
 void checkCount(std::string_view operation, std::size_t wanted, std::size_t got);
 
-/// What stands before the separator; text keeps what stands behind it.
+/// Returns the text before the separator; text keeps what follows it.
 constexpr std::string_view takeUpTo(std::string_view separator, std::string_view& text)
 {
     const auto at = text.find(separator);
@@ -83,7 +82,7 @@ constexpr double numberOf(std::string_view text)
     return (negative ? -value : value) / scale;
 }
 
-/// The words for values, with the numbers that trials on small pictures take.
+/// The words for values, with the ranges used by tests on small pictures.
 struct ValueWord {
     std::string_view word;
     double least, most;
@@ -134,7 +133,7 @@ template <class... A, class Function> void unpacked(const Operation& op, const A
     (std::index_sequence_for<A...>());
 }
 
-/// What a method of a signature takes beside the filter, and how it is called.
+/// The arguments of a method beside the filter, and how it is called.
 template <auto Method, class Signature> struct Caller;
 
 /// A filter: its result becomes the object's picture.
@@ -145,7 +144,7 @@ template <auto Method, class... A> struct Caller<Method, Bits (cBitFilter::*)(A.
         unpacked<A...>(op, arguments, [&](const auto&... a) { filter.setBits((filter.*Method)(a...)); });
     }
 };
-/// An operation in place.
+/// An in-place operation.
 template <auto Method, class... A> struct Caller<Method, void (cBitFilter::*)(A...)> {
     static constexpr std::initializer_list<ArgumentType> types{typeOf<A>()...};
     static void call(const Operation& op, cBitFilter& filter, const Arguments& arguments)

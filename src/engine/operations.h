@@ -11,20 +11,20 @@
 
 namespace velara {
 
-/// Booleans, whole numbers (colours too), singles, texts and pictures.
+/// Booleans, integers (colours too), singles, texts and pictures.
 using Argument = std::variant<bool, int, double, std::string, Bits>;
 using Arguments = std::vector<Argument>;
 
 enum class ArgumentType { Boolean, Integer, Number, Text, Picture };
 
-/// An argument as its row has it.
+/// An argument as described in its row.
 struct Parameter {
     std::string_view name;
     ArgumentType type{};
     std::string_view values{};               // "-200..200", "colour", "slanting|squary"; empty: any
     std::string_view usual{};                // as written; empty: none
-    std::string_view meaning{};              // unit and what the ends do
-    double least = 0, most = 0, typical = 0; // of numbers; positions and sizes as they are in a small picture
+    std::string_view meaning{};              // its unit and what the ends do
+    double least = 0, most = 0, typical = 0; // of numbers; positions and sizes as in a small picture
 };
 
 class ParameterList {
@@ -44,12 +44,12 @@ class ParameterList {
 struct Operation {
     std::string_view name;
     ParameterList parameters;
-    std::size_t optional = 0; // so many of the last parameters may be left out
-    bool takesSelf = false;   // a null picture among the arguments stands for the filter's own
+    std::size_t optional = 0; // how many trailing parameters may be omitted
+    bool takesSelf = false;   // a null picture among the arguments means the filter's own
 
     /// A row of the table.
     template <auto Method> constexpr Operation(std::string_view name, std::string_view arguments, Does<Method>);
-    /// One that is no method of the filter.
+    /// An operation that isn't a method of the filter.
     constexpr Operation(std::string_view name, std::initializer_list<Parameter> all, std::size_t optional,
                         void (*call)(const Operation&, cBitFilter&, const Arguments&), bool takesSelf = false)
         : name(name), optional(optional), takesSelf(takesSelf), call_(call)
@@ -57,7 +57,7 @@ struct Operation {
         for (const Parameter& p : all) parameters.add(p);
     }
     /// Runs it on the filter and leaves the result in the filter's picture. A wrong argument count or type raises
-    /// std::invalid_argument that names the argument, arithmetic faults are RuntimeError.
+    /// std::invalid_argument naming the argument; arithmetic faults raise RuntimeError.
     void call(cBitFilter& filter, const Arguments& arguments) const { call_(*this, filter, arguments); }
 
   private:
@@ -65,9 +65,9 @@ struct Operation {
 };
 
 std::span<const Operation> operations();
-/// The texts that an argument may be.
+/// The texts that an argument accepts.
 std::vector<std::string> choicesOf(const Parameter& text);
-/// Exact, case-sensitive; null when there is none.
+/// Exact, case-sensitive match; null when there is none.
 const Operation* findOperation(std::string_view name);
 
 } // namespace velara

@@ -17,17 +17,17 @@ inline Box insidePicture(const Box& box, const Bits& bits)
             std::min(box.ymax, bits.maxY())};
 }
 
-/// Pictures of this many bytes do not fit into the cache.
+/// Pictures of at least this many bytes do not fit into the cache.
 constexpr std::size_t kPastTheCache = 16 << 20;
 
-/// Copies the columns x0 up to but not including x1.
+/// Copies the columns x0 to x1-1.
 inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
 {
     if (x1 > x0) std::memcpy(to + x0, from + x0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
 }
 
-/// The same past the cache, in whole cache lines: for pictures that do not fit into it, whose other pixels are written
-/// so too.
+/// The same by non-temporal stores, in whole cache lines: for pictures that do not fit into the cache and whose other
+/// pixels are written the same way.
 inline void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
 {
     constexpr int kLine = 16; // pixels
@@ -42,7 +42,7 @@ inline void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
     copyPixels(from, to, x0, x1);
 }
 
-/// Copies the rows y0 up to but not including y1, margin columns included.
+/// Copies the rows y0 to y1-1, margin columns included.
 inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
 {
     if (y1 > y0)
@@ -62,22 +62,22 @@ inline void clearMargin(Bits& bits)
     }
 }
 
-/// A kernel for arguments that divide by zero: the first pixel raises it, an empty selection does not.
+/// A kernel for arguments that divide by zero: it faults at the first pixel, so an empty selection doesn't.
 [[noreturn]] inline void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
 
-/// A kernel that leaves the fourth byte alone.
+/// Paints black, keeping the fourth byte.
 inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
 {
     for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
 }
 
-/// Every selected pixel by itself, spans of the region row by row. kernel(source row, target row, x0, x1), or with the
-/// row's y as a fifth, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0, and the rows above
-/// and below lie bits().stride() pixels away. What lies outside of the box and of the region is copied. margin moves
-/// the box inward.
+/// Each selected pixel by itself, the region's spans row by row. kernel(source row, target row, x0, x1), optionally
+/// with the row's y as a fifth argument, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0,
+/// and the rows above and below are bits().stride() pixels away. Pixels outside of the box or of the region are copied.
+/// margin shrinks the box.
 template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
 {
-    const Bits in = bits_; // alive and unwritten, whatever a yield lets in
+    const Bits in = bits_; // keeps the source, even if Progress calls setBits
     const Region region = region_;
     const Box box = insidePicture(GetBounds(margin), in);
     if (box.isEmpty()) {
@@ -109,7 +109,8 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
     return out;
 }
 
-/// A pass over the whole picture that writes nothing: row(source row) once a row, with progress and the final report.
+/// A pass over the whole picture that writes nothing: calls row(source row) for each row, with progress and the final
+/// report.
 template <class RowFunction> void cBitFilter::eachRow(const Bits& in, RowFunction&& row)
 {
     for (int y = 0; y < in.height(); ++y) {

@@ -1,4 +1,4 @@
-// Pixels as vectors, and the loop over the pixels of a span. For kernel files only: included once a target.
+// Pixels as vectors, and the loop over the pixels of a span. For kernel files only: included once per target.
 #if defined(VELARA_PIXELS_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_PIXELS_INL
 #undef VELARA_PIXELS_INL
@@ -9,8 +9,8 @@
 #include "engine/SpanOf.h"
 #include <hwy/highway.h>
 
-/// After the parameters of a large body of forPixels: it is inlined whatever its size, as one that is called sets all
-/// its constants anew for each vector.
+/// After the parameters of a large body of forPixels: forces inlining, since a called body would set up all its
+/// constants for each vector.
 #define VELARA_INLINED __attribute__((always_inline)) HWY_ATTR
 
 HWY_BEFORE_NAMESPACE();
@@ -18,7 +18,7 @@ namespace velara::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// The byte tag of as many lanes as d has.
+/// The byte tag with as many lanes as d.
 template <class D> using Bytes = hn::Rebind<std::uint8_t, D>;
 
 template <class D> HWY_INLINE hn::Vec<D> loadBytes(D d, const Pixel* p)
@@ -26,13 +26,13 @@ template <class D> HWY_INLINE hn::Vec<D> loadBytes(D d, const Pixel* p)
     return hn::LoadU(d, reinterpret_cast<const std::uint8_t*>(p));
 }
 
-/// The channels of the pixels from p on, one a lane of d.
+/// The channels of the pixels from p on, one per lane of d.
 template <class D> HWY_INLINE hn::Vec<D> channels(D d, const Pixel* p)
 {
     return hn::PromoteTo(d, loadBytes(Bytes<D>(), p));
 }
 
-/// The channels of pixels in signed 16-bit lanes: even has blue and red, odd has green and the fourth byte of each.
+/// The channels of pixels in signed 16-bit lanes: even holds blue and red, odd green and the fourth byte of each.
 template <class V> struct Halves {
     V even, odd;
 };
@@ -44,7 +44,7 @@ template <class V, class F> HWY_INLINE Halves<V> each(const Halves<V>& a, const 
     return {f(a.even, b.even), f(a.odd, b.odd)};
 }
 
-/// A weighted sum of pixels, its lanes still in one: whole = even + 256 * odd, modulo 2^16.
+/// A weighted sum of pixels, not yet split into lanes: whole = even + 256 * odd, modulo 2^16.
 template <class V> struct Taps {
     V whole, odd;
     friend HWY_INLINE Taps operator+(const Taps& a, const Taps& b)
@@ -62,7 +62,7 @@ template <class V> struct Taps {
     HWY_INLINE Halves<V> split() const { return {hn::Sub(whole, hn::ShiftLeft<8>(odd)), odd}; }
 };
 
-/// The pixels from p on; d has signed 16-bit lanes, two a pixel.
+/// The pixels from p on; d has signed 16-bit lanes, two per pixel.
 template <class D> HWY_INLINE Taps<hn::Vec<D>> tap(D d, const Pixel* p)
 {
     const hn::RebindToUnsigned<D> du;
@@ -76,7 +76,7 @@ template <class D8, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, const Halves<V
     return hn::BitCast(d8, hn::Or(h.even, hn::ShiftLeft<8>(h.odd)));
 }
 
-/// Back to bytes, limited to 0..255.
+/// Back to bytes, clamped to 0..255.
 template <class D8, class V> HWY_INLINE hn::Vec<D8> clampedToBytes(D8 d8, const Halves<V>& h)
 {
     const hn::Repartition<std::int16_t, D8> d;
@@ -84,7 +84,7 @@ template <class D8, class V> HWY_INLINE hn::Vec<D8> clampedToBytes(D8 d8, const 
         d8, each(h, [&](V v) HWY_ATTR { return hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, std::int16_t{255})); }));
 }
 
-/// The sum of the three channels of each pixel, a 32-bit lane a pixel. On x86 the pairs are neighbours.
+/// The sum of the three channels of each pixel, a 32-bit lane per pixel. On x86 the pairs are adjacent.
 template <class D, class V> HWY_INLINE auto sumOfChannels(D d, const Halves<V>& h)
 {
     const hn::Repartition<std::int32_t, D> d32;
@@ -100,14 +100,14 @@ template <class D, class V = hn::Vec<D>> HWY_INLINE V withFourthOf(D d, V source
     return hn::Or(hn::And(three, colour), hn::AndNot(three, source));
 }
 
-/// Spans of this many pixels are written past the cache: such pictures do not fit into it. Whole cache lines alone, as
-/// parts of a line cost more than they save.
+/// Spans of at least this many pixels use non-temporal stores: such pictures do not fit into the cache. Whole cache
+/// lines only, as partial lines cost more than they save.
 constexpr int kStreamFrom = 1024;
 constexpr std::uintptr_t kCacheLine = 64;
 constexpr int kLinePixels = 16;
 
-/// Writes the pixels of the span. body(d, x) gives the bytes of the pixels from x on, four lanes of d a pixel; d has
-/// lanes of type T, as many as a vector has or, at the ends of the span, those of one pixel.
+/// Writes the pixels of the span. body(d, x) returns the bytes of the pixels from x on, four lanes of d per pixel; d
+/// has lanes of type T, a full vector or, at the ends of the span, one pixel.
 template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
 {
     const hn::ScalableTag<T> many;
@@ -117,7 +117,7 @@ template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
     const auto single = [&](int x) HWY_ATTR { hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x)); };
     int x = s.x0;
     if (s.x1 - s.x0 >= kStreamFrom) {
-        const Pixel* ahead = s.from + 2 * s.stride; // the row after the one that the kernels are about to read first
+        const Pixel* ahead = s.from + 2 * s.stride; // the row after the one that the kernels read first
         while (reinterpret_cast<std::uintptr_t>(at(x)) % kCacheLine != 0) single(x++);
         for (; x + kLinePixels <= s.x1; x += kLinePixels) {
             __builtin_prefetch(ahead + x);

@@ -1,4 +1,4 @@
-// The random numbers of random.h in vectors. For kernel files only: included once a target.
+// The random numbers of random.h in vectors. For kernel files only: included once per target.
 #if defined(VELARA_RANDOM_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_RANDOM_INL
 #undef VELARA_RANDOM_INL
@@ -14,7 +14,7 @@ namespace velara::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// Random::bits of each lane's number; D is a tag of 32-bit unsigned lanes.
+/// Random::bits of each lane's index; D is a tag of 32-bit unsigned lanes.
 template <class D, class V = hn::Vec<D>> HWY_INLINE V randomBits(D d, const Random& random, V i)
 {
     i = hn::Xor(i, hn::Set(d, random.firstKey()));

@@ -18,11 +18,11 @@ unsigned DLL_CALLCONV writeProc(void* bytes, unsigned size, unsigned count, fi_h
     return fileOf(handle).write(bytes, std::size_t{size} * count) ? count : 0;
 }
 
-/// The writers of PNG and TIFF never ask what became of a write and would pack all the rest of the picture. They are
-/// ended by text, which is what FreeImage throws and catches itself.
+/// The writers of PNG and TIFF ignore failed writes and would encode the rest of the picture. They are aborted by
+/// throwing text, which is what FreeImage itself throws and catches.
 unsigned DLL_CALLCONV writeOrThrow(void* bytes, unsigned size, unsigned count, fi_handle handle)
 {
-    constexpr std::size_t kHeader = 8; // written as the file is opened, where they mind, and where TIFF's would leak
+    constexpr std::size_t kHeader = 8; // written at opening, where failures are noticed and TIFF would leak
     if (writeProc(bytes, size, count, handle) == count) return count;
     if (std::size_t{size} * count > kHeader) throw "the file can't be written";
     return 0;

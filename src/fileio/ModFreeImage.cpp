@@ -56,8 +56,8 @@ void packRow24(const Pixel* row, std::uint8_t* to, int width)
     std::memcpy(to, row + x, 3);
 }
 
-// FreeImage's own allocation faults its pages in one by one and clears them; a block of the picture's size is likely to
-// wait in the pool.
+// FreeImage's own allocation clears its pages and faults them in one by one; a block of the picture's size is probably
+// in the pool.
 Dib24::Dib24(const Bits& bits)
 try {
     if (bits.isNull()) {
@@ -71,7 +71,7 @@ try {
     for (int y = 0; y < height; ++y) { // bottom row first
         std::uint8_t* const row = bytes + pitch * static_cast<std::size_t>(height - 1 - y);
         packRow24(bits.row(y), row, width);
-        std::memset(row + bytesARow, 0, pitch - bytesARow); // the padding goes into bmp files
+        std::memset(row + bytesARow, 0, pitch - bytesARow); // the padding is written to bmp files
     }
     dib_ = FreeImage_ConvertFromRawBitsEx(FALSE, bytes, FIT_BITMAP, width, height, static_cast<int>(pitch), 24,
                                           FI_RGBA_RED_MASK, FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE);

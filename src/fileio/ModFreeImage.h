@@ -17,7 +17,7 @@ class FreeImageStart {
     FreeImageStart& operator=(const FreeImageStart&) = delete;
 };
 
-/// Nothing shows it; it serves a debugger.
+/// Not shown anywhere; for debugging.
 const QString& FreeImageLastError();
 /// Stores text, unless one is already stored and keepFirst is true.
 void FreeImageSetError(const QString& text, bool keepFirst);

@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::size_t kBuffer = 64 << 10, kDirect = 8 << 10;
 
-constexpr const char kPart[] = ".velara-"; // the beginning of the names of files that are not whole yet
+constexpr const char kPart[] = ".velara-"; // prefix of the names of incomplete files
 constexpr const char kPartEnd[] = ".part";
 
 QByteArray folderOf(const QByteArray& path)
@@ -34,7 +34,8 @@ QByteArray folderOf(const QByteArray& path)
     return slash < 0 ? QByteArray("./") : path.left(slash + 1);
 }
 
-/// In a folder where anybody may leave links (/tmp) only the user's own ones count, and those of the folder's owner.
+/// In a folder where anybody may create links (/tmp), only the user's own links and those of the folder's owner are
+/// followed.
 bool mayFollow(const struct stat& link, const QByteArray& folder)
 {
     struct stat place {};
@@ -42,14 +43,14 @@ bool mayFollow(const struct stat& link, const QByteArray& folder)
     return (place.st_mode & (S_ISVTX | S_IWOTH)) != (S_ISVTX | S_IWOTH) || link.st_uid == place.st_uid;
 }
 
-/// The lock tells a file that is being written from one that a dead program left; the system releases it.
+/// The lock distinguishes a file being written from one left by a dead program; the system releases it.
 bool isMine(int file)
 {
     struct stat status {};
     return flock(file, LOCK_EX | LOCK_NB) == 0 && fstat(file, &status) == 0 && status.st_nlink > 0;
 }
 
-/// Removes what programs of this user that died while they saved left in the folder.
+/// Removes the files that programs of this user left in the folder when they died while saving.
 void removeStrays(const QByteArray& folder)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
@@ -66,7 +67,7 @@ void removeStrays(const QByteArray& folder)
     }
 }
 
-/// What is written is on the disk, as far as the file system can tell.
+/// The data is on the disk, as far as the file system can tell.
 bool synced(int file) { return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
 
 bool writeAll(int file, const std::uint8_t* bytes, std::size_t size)
@@ -81,13 +82,13 @@ bool writeAll(int file, const std::uint8_t* bytes, std::size_t size)
     return true;
 }
 
-/// The disk has the space for a file that grows to so many bytes, and keeps it for that; true where it can't be asked.
+/// Reserves disk space for a file that grows to the given bytes; true where that can't be asked for.
 bool hasRoom(int file, off_t size)
 {
     return size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, size) == 0 || errno == EOPNOTSUPP || errno == ENOSYS;
 }
 
-/// All bytes of one file over the first ones of another.
+/// Copies all bytes of one file over the start of another.
 bool copied(int from, int to, off_t size)
 {
     off_t at = 0;
@@ -99,7 +100,7 @@ bool copied(int from, int to, off_t size)
     return true;
 }
 
-/// Write bits that are all off mean "leave it", to the system's administrator too.
+/// No write bit at all means "don't touch", for root, too.
 bool isProtected(const QByteArray& path, mode_t mode)
 {
     return (mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(path.constData(), W_OK) != 0;
@@ -153,7 +154,7 @@ void OutputFile::openBeside(mode_t mode)
         if (file_ < 0 && errno != EEXIST) break;
         struct stat status {};
         if (file_ >= 0 && !isMine(file_) && fstat(file_, &status) == 0 && status.st_nlink == 0)
-            close(std::exchange(file_, -1)); // taken for a stray between the two calls
+            close(std::exchange(file_, -1)); // another program removed it as a stray between the two calls
     }
     if (file_ < 0) temporary_.clear();
 }
@@ -164,7 +165,7 @@ OutputFile::~OutputFile()
     if (!temporary_.isEmpty()) unlink(temporary_.constData());
 }
 
-/// After a call of the system that failed.
+/// Records errno after a failed system call.
 bool OutputFile::fail()
 {
     failed_ = true;
@@ -183,9 +184,9 @@ bool OutputFile::flush()
 bool OutputFile::write(const void* bytes, std::size_t size)
 {
     if (file_ < 0 || failed_) return false;
-    if (size == 0) return true; // whose bytes may be nowhere
+    if (size == 0) return true; // bytes may be null then
     const auto* from = static_cast<const std::uint8_t*>(bytes);
-    if (size >= kDirect) { // nothing to gain from a copy
+    if (size >= kDirect) { // a copy gains nothing
         if (flush() && !writeAll(file_, from, size)) fail();
         return !failed_;
     }
@@ -222,14 +223,13 @@ bool OutputFile::publish()
 {
     const bool onDisk = !lasting_ || synced(file_);
     if (inPlace_) return onDisk && copyOver();
-    if (close(std::exchange(file_, -1)) != 0 || !onDisk)
-        return false; // a file server may tell only now that it is full
+    if (close(std::exchange(file_, -1)) != 0 || !onDisk) return false; // a file server may report a full disk only now
     if (std::rename(temporary_.constData(), target_.constData()) == 0) {
         temporary_.clear();
         return true;
     }
     if (replaces_) file_ = open(temporary_.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
-    return file_ >= 0 && copyOver(); // a file that is mounted by itself can't be replaced
+    return file_ >= 0 && copyOver(); // a file that is a mount point can't be replaced
 }
 
 bool OutputFile::copyOver()
@@ -242,7 +242,7 @@ bool OutputFile::copyOver()
     if (isFile && !hasRoom(target, size)) {
         close(target);
         errno = ENOSPC;
-        return false; // and nothing has changed
+        return false; // nothing has changed
     }
     bool whole = copied(file_, target, size);
     if (isFile) whole = whole && ftruncate(target, size) == 0 && synced(target);

@@ -25,7 +25,7 @@ void get(bool& value, const std::uint8_t* from, int)
     value = flag != 0;
 }
 
-/// The bytes of text up to width, without a character that is cut in two.
+/// The bytes of text up to width, without splitting a character.
 QByteArray wholeCharacters(QByteArray text, int width)
 {
     if (text.size() <= width) return text;
@@ -34,7 +34,7 @@ QByteArray wholeCharacters(QByteArray text, int width)
     return text.left(width);
 }
 
-/// Up to the first zero, without the trailing blanks.
+/// Up to the first zero, without trailing blanks.
 void get(QString& value, const std::uint8_t* from, int width)
 {
     const auto* text = reinterpret_cast<const char*>(from);
@@ -43,7 +43,7 @@ void get(QString& value, const std::uint8_t* from, int width)
     value = QString::fromUtf8(text, length);
 }
 
-/// A text that reads as before keeps its bytes: they may be of a code page that is not ours.
+/// A text that wasn't changed keeps its bytes: they may be in a foreign code page.
 void put(const QString& value, std::uint8_t* to, int width)
 {
     QString before;
@@ -66,7 +66,7 @@ template <class T, std::size_t N> struct ElementOf<std::array<T, N>> {
     using type = T;
 };
 
-/// body(element, index) for the field itself, or for each of its elements.
+/// Calls body(element, index) for the field itself, or for each of its elements.
 template <class T, class Body> void eachElement(T& field, Body body)
 {
     if constexpr (countOf<std::remove_const_t<T>> == 1)
@@ -173,7 +173,7 @@ constexpr Field kFields[] = { // offset, width of an element
 };
 // clang-format on
 
-/// The length of the fields when each begins where the one before ends; 0 when one doesn't.
+/// The length of the fields when each begins where the previous one ends; 0 otherwise.
 consteval std::size_t lengthWithoutGaps()
 {
     int end = 0;
@@ -185,7 +185,7 @@ consteval std::size_t lengthWithoutGaps()
 }
 static_assert(lengthWithoutGaps() > 0, "src/fileio/SetupStore.cpp: a row of kFields begins where the one before ends");
 
-/// Stands for a value of any member.
+/// Converts to a value of any member type.
 struct AnyValue {
     template <class T> operator T() const;
 };
@@ -193,15 +193,15 @@ template <std::size_t... I> consteval bool hasMembers(std::index_sequence<I...>)
 {
     return requires { Setup{(void(I), AnyValue{})...}; };
 }
-/// Setup takes as many values as there are rows, and not one more.
+/// Setup takes exactly as many values as there are rows.
 static_assert(hasMembers(std::make_index_sequence<std::size(kFields)>()) &&
                   !hasMembers(std::make_index_sequence<std::size(kFields) + 1>()),
               "a member of src/seams/Setup.h has no row in kFields of src/fileio/SetupStore.cpp, or a row no member");
 
 QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
 
-/// What the file has of the record; nothing when it can't be read, or holds no more than zeros: no run wrote that, but
-/// a machine that lost its power may leave it.
+/// The record in the file; nothing when it can't be read or is all zeros: no run writes that, but a power failure may
+/// leave it.
 std::vector<std::uint8_t> recordOf(const QString& path)
 {
     FileReader file(path);
@@ -211,7 +211,7 @@ std::vector<std::uint8_t> recordOf(const QString& path)
     return isWritten ? record : std::vector<std::uint8_t>();
 }
 
-/// The fields that lie in the bytes as a whole; the others stay.
+/// Reads the fields that lie completely in the bytes; the others are unchanged.
 void readFields(Setup& setup, std::span<const std::uint8_t> bytes)
 {
     for (const Field& f : kFields) f.read(f, setup, bytes);
@@ -238,7 +238,7 @@ Setup setupFromBytes(std::span<const std::uint8_t> bytes)
 Setup LoadSetup(Platform& platform)
 {
     const QString path = setupPath(platform);
-    if (FileFound(path) && path.isEmpty()) { // odd, and it stays: the path is looked at and not the file, so never
+    if (FileFound(path) && path.isEmpty()) { // odd, and kept: the path is tested instead of the file, so never
         platform.tell(QStringLiteral("Configuration data file is corrupted\r\nValues will be initilized"),
                       Icon::Exclamation);
         QFile::remove(path);
@@ -248,7 +248,7 @@ Setup LoadSetup(Platform& platform)
     const std::vector<std::uint8_t> record = recordOf(path);
     readFields(setup, record);
     if (record.size() < lengthWithoutGaps())
-        SaveSetup(platform, setup); // at once: a run that is killed leaves a good one
+        SaveSetup(platform, setup); // at once: a run that is killed leaves a valid file
     return setup;
 }
 

@@ -1,5 +1,5 @@
-// The configuration file "Vlaera.dat" in the program folder: one Setup as 3081 bytes, read at the start and written as
-// the frame closes.
+// The configuration file "Vlaera.dat" in the program folder: one Setup as 3081 bytes, read at the start and written
+// when the frame closes.
 #pragma once
 #include "seams/Setup.h"
 #include <cstdint>
@@ -10,23 +10,23 @@ namespace velara {
 
 class Platform;
 
-extern const int kSetupBytes; // 3081: what the rows of SetupStore.cpp come to
+extern const int kSetupBytes; // 3081: the total of the rows of SetupStore.cpp
 using SetupRecord = std::vector<std::uint8_t>;
 
-/// The record of the file; what a short one lacks, or there is none, has its default, and the whole is written at once.
-/// Any content is safe.
+/// The record of the file; fields missing from a short or absent file get their defaults, and then the whole record is
+/// written at once. Any content is safe.
 Setup LoadSetup(Platform& platform);
-/// Over the first bytes of the file, for the user alone; what a longer file holds behind them stays, and so do the
-/// bytes of a text that isn't UTF-8 and was not edited. On failure false, and the old file is whole.
+/// Overwrites the start of the file, readable by the user only; the tail of a longer file is kept, and so are the bytes
+/// of a text that isn't UTF-8 and wasn't edited. On failure false, and the old file is intact.
 bool SaveSetup(Platform& platform, const Setup& setup);
 
-/// The record as it lies in the file, over the one that is there, and back; a field of which bytes are missing has its
-/// default, further ones are not looked at.
+/// Converts the record to the bytes of the file, over those already there, and back; a field with missing bytes gets
+/// its default, excess bytes are ignored.
 SetupRecord setupBytes(const Setup& setup, SetupRecord before = {});
 Setup setupFromBytes(std::span<const std::uint8_t> bytes);
 
-/// Puts path into the first empty entry of the recent list. One that is there keeps its place; in a full list all move
-/// down by one and the last falls off.
+/// Puts path into the first empty entry of the recent list. A path already there keeps its place; in a full list all
+/// entries move down by one and the last is dropped.
 void AddRecent(Setup& setup, const QString& path);
 
 } // namespace velara

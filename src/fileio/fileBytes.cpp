@@ -23,7 +23,7 @@ std::int64_t regularFileSize(int file)
 
 iovec blockOf(ByteView bytes) { return {const_cast<std::uint8_t*>(bytes.data()), bytes.size()}; }
 
-/// A call may take less than it was given (2 GB are its limit), so the rest follows.
+/// A call may write less than given (2 GB are its limit), so the rest follows.
 bool writeAll(int file, ByteView head, ByteView body)
 {
     while (!head.empty() || !body.empty()) {
@@ -38,7 +38,7 @@ bool writeAll(int file, ByteView head, ByteView body)
     return true;
 }
 
-/// Room for what grows is taken first: once it is there, writing over an older file can't run out of disk half-way.
+/// Space for growth is reserved first: then overwriting an older file can't run out of disk midway.
 bool takeRoom(int file, std::int64_t present, std::int64_t wanted)
 {
     if (wanted <= present) return true;
@@ -48,18 +48,18 @@ bool takeRoom(int file, std::int64_t present, std::int64_t wanted)
 
 constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
 
-/// A file with a second name is somebody else's too.
+/// A file with a second name belongs to somebody else, too.
 bool hasOneName(int file)
 {
     struct stat info {};
     if (fstat(file, &info) != 0) return false;
-    if (!S_ISREG(info.st_mode)) return true; // not written to either
+    if (!S_ISREG(info.st_mode)) return true; // isn't written to either
     if (info.st_nlink > 1) return false;
     if (info.st_uid == geteuid() && (info.st_mode & 0077) != 0) fchmod(file, 0600);
     return true;
 }
 
-/// The file of the name, or a new one in the place of a link that was set there. For its owner alone. -1: none.
+/// Opens the file of the name; a link there is replaced by a new file. Accessible to its owner only. -1: failed.
 int openPrivate(const QByteArray& name)
 {
     const int found = open(name.constData(), O_WRONLY | kFlags);
@@ -118,7 +118,7 @@ bool FileFound(const QString& path)
     const QString name = info.fileName();
     if (!name.contains(u'*') && !name.contains(u'?')) return info.exists();
     QString pattern = QRegularExpression::escape(name);
-    pattern.replace(QStringLiteral("\\*\\.\\*"), QStringLiteral(".*")); // *.* is everything, as ever
+    pattern.replace(QStringLiteral("\\*\\.\\*"), QStringLiteral(".*")); // *.* matches everything, as traditional
     pattern.replace(QStringLiteral("\\*"), QStringLiteral(".*")).replace(QStringLiteral("\\?"), QStringLiteral("."));
     const QRegularExpression matches(QRegularExpression::anchoredPattern(pattern));
     const QStringList names = info.dir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System);

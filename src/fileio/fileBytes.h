@@ -1,4 +1,4 @@
-// Whole blocks of bytes to and from files: how undo steps and the configuration record reach the disk.
+// Reads and writes whole blocks of bytes: how undo steps and the configuration record reach the disk.
 #pragma once
 #include <QString>
 #include <cstddef>
@@ -10,13 +10,13 @@ namespace velara {
 
 using ByteView = std::span<const std::uint8_t>;
 
-/// Writes head and body from offset 0 in one call, creating the file if need be, for its owner alone. It is not
-/// truncated: a longer file keeps its tail. A link that stands there is not followed: a new file takes its place. On
-/// failure false, with errno; what stood there before is whole, save after a device error, when it is removed.
+/// Writes head and body from offset 0 in one call, creating the file if need be, accessible to its owner only. It is
+/// not truncated: a longer file keeps its tail. A symbolic link is not followed: a new file replaces it. On failure
+/// false, with errno; the previous file is intact, except after a device error, when it is removed.
 bool overwriteFile(const QString& path, ByteView head, ByteView body = {});
 
-/// A regular file opened for reading; size() is -1 when there is none. Never waits on pipes and devices, and follows no
-/// link.
+/// A regular file opened for reading; size() is -1 when there is none. Never blocks on pipes and devices, and follows
+/// no links.
 class FileReader {
   public:
     explicit FileReader(const QString& path);
@@ -25,7 +25,7 @@ class FileReader {
     FileReader& operator=(const FileReader&) = delete;
 
     std::int64_t size() const { return size_; }
-    /// Reads the next bytes into target. False when there are fewer.
+    /// Reads the next bytes into target. False when fewer are left.
     bool read(std::span<std::uint8_t> target);
 
   private:
@@ -33,7 +33,7 @@ class FileReader {
     std::int64_t size_ = -1;
 };
 
-/// True when something has this path. The wildcards * and ? in its last part match as many and one character.
+/// True when the path exists. The wildcards * and ? in its last part match any number of characters and one character.
 bool FileFound(const QString& path);
 
 } // namespace velara

@@ -15,7 +15,7 @@ constexpr std::array kOfTheBytes = {"security.capability", "security.ima", "secu
 
 bool isUnknownHere(int error) { return error == ENOTSUP || error == ENOSYS; }
 
-/// What one of the calls for attributes gives, whatever its length. False on an error.
+/// The result of a system call that reads attributes, whatever its length. False on an error.
 template <class Call> bool readWhole(QByteArray& value, Call call)
 {
     const ssize_t size = call(nullptr, 0);
@@ -31,7 +31,7 @@ bool giveAttributes(int file, const char* path)
         return isUnknownHere(errno);
     QByteArrayList list = names.split('\0');
     list.removeAll({});
-    // One that the folder gives to its new files is not the old file's.
+    // A list that the folder gives to its new files was not the old file's.
     if (!list.contains(kAccessList) && fremovexattr(file, kAccessList) != 0 && errno != ENODATA &&
         !isUnknownHere(errno))
         return false;
@@ -48,7 +48,7 @@ bool giveAttributes(int file, const char* path)
 
 bool giveRights(int file, const QByteArray& path, const struct stat& old)
 {
-    // The mode last: a new owner takes its set-id bits away, and nobody may read the file before it is his.
+    // The mode last: a change of owner clears the set-id bits, and nobody may read the file before it has its owner.
     if (fchown(file, old.st_uid, old.st_gid) == 0 && giveAttributes(file, path.constData()) &&
         fchmod(file, old.st_mode & 07777) == 0)
         return true;

@@ -9,7 +9,7 @@ namespace velara {
 
 namespace {
 
-/// How often the extension stands in the list.
+/// How often the extension occurs in the list.
 constexpr int countOf(std::string_view extension, std::span<const Kinds> kinds)
 {
     int count = 0;

@@ -1,6 +1,6 @@
-// The picture formats in one table: what a file of each is called, how it opens and how it is saved. The readers of the
-// child process (fileio/decode/decode.cpp) and the writers (savePicture.cpp) are bound to its rows; file dialogs, the
-// browser, what may be dropped on the frame, and the targets of the batch program are made from it.
+// The picture formats in one table: their names, how they open and how they are saved. The readers of the child process
+// (fileio/decode/decode.cpp) and the writers (savePicture.cpp) are bound to its rows; file dialogs, the browser, what
+// may be dropped on the frame, and the targets of the batch program are derived from it.
 #pragma once
 #include <QString>
 #include <algorithm>
@@ -12,32 +12,32 @@ enum class Saving {
     No,
     Directly, // under its own name
     AsAnymap, // by the name of its family: the colours decide which of the three it becomes
-    Refused,  // with a word to the user
+    Refused,  // with a message to the user
 };
 
 enum FormatTraits : unsigned {
     Plain = 0,
-    FailsAloud = 1, // a file that can't be made out is refused; of all other formats it opens empty
+    FailsAloud = 1, // an unreadable file is refused; with all other formats it opens empty
     SavesSlowly = 2,
-    Dropped = 4, // taken when it is dropped on the frame
+    Dropped = 4, // accepted when dropped on the frame
 };
 
-/// Bytes of pixels that one byte of a file stands for at most, in a picture of a single colour.
+/// Upper bound of bytes of pixels per byte of a file, for a picture of a single colour.
 enum Packing : int {
     Flat = 1,
-    Runs = 128,      // two bytes for 255 or less
-    Blocks = 1024,   // half a bit for 64: blocks of 8 by 8, with half of the colours left out
+    Runs = 128,      // two bytes encode up to 255
+    Blocks = 1024,   // half a bit encodes 64: blocks of 8 by 8, with half of the chroma omitted
     Deflated = 1032, // the limit of the method
-    Codes = 2731,    // 12 bits for 4096
-    Lines = 32768,   // a bit for a line as fax machines send them
-    Drawn = 65536,   // a few words fill all of a drawing
+    Codes = 2731,    // 12 bits encode 4096
+    Lines = 32768,   // one bit per line, as in fax encoding
+    Drawn = 65536,   // a few words fill a whole drawing
 };
 
 struct Format {
     std::string_view extension; // lower case
     std::string_view name;      // as in "it is damaged or not a PNG picture"
     Saving saving;
-    Packing packing; // the best that a file of the extension may use
+    Packing packing; // the best one that a file of the extension may use
     unsigned traits;
 
     constexpr bool has(FormatTraits trait) const { return (traits & trait) != 0; }
@@ -61,7 +61,7 @@ inline constexpr Format kFormats[] = {
     {"ico",  "an icon",              Saving::Refused,  Deflated, FailsAloud},
     {"cur",  "a cursor",             Saving::No,       Deflated, FailsAloud},
     {"psd",  "a Photoshop",          Saving::No,       Runs,     Plain},
-    {"jng",  "a BMP",                Saving::No,       Runs,     Plain}, // odd, and it stays: .jng goes to the BMP reader
+    {"jng",  "a BMP",                Saving::No,       Runs,     Plain}, // odd, and kept: .jng goes to the BMP reader
     {"mng",  "an MNG",               Saving::No,       Deflated, Plain},
     {"tif",  "a TIFF",               Saving::Directly, Lines,    Plain},
     {"koa",  "a Koala",              Saving::No,       Flat,     Plain},
@@ -74,14 +74,14 @@ inline constexpr Format kFormats[] = {
 };
 // clang-format on
 
-/// A line of a file dialog's list of kinds.
+/// A line of a file dialog's list of file types.
 struct Kinds {
     std::string_view caption;
-    std::string_view extensions; // split by blanks
+    std::string_view extensions; // separated by blanks
 };
 
 // clang-format off
-inline constexpr Kinds kOpened[] = { // below a line with all formats that are browsed for
+inline constexpr Kinds kOpened[] = { // follow a line for all formats that are browsed for
     {"Bitmap Files (*.BMP;*.DIB)",              "bmp dib"},
     {"Meta Files (*.WMF;*.EMF)",                "wmf emf"},
     {"Graphical Interface Format(*.GIF)",       "gif"},
@@ -119,21 +119,21 @@ inline constexpr Kinds kSaved[] = {
 };
 // clang-format on
 
-/// By its extension in lower case; null when there is no such format.
+/// Finds a format by its extension in lower case; null when there is none.
 constexpr const Format* findFormat(std::string_view extension)
 {
     const auto* found = std::ranges::find(kFormats, extension, &Format::extension);
     return found == std::end(kFormats) ? nullptr : found;
 }
-/// By the extension of a path.
+/// Finds it by the extension of a path.
 const Format* formatOf(const QString& path);
 
-/// What lies behind the last dot of the file's name, in lower case.
+/// The part of the file's name after the last dot, in lower case.
 QString extensionOf(const QString& path);
-/// The path; where its name has no extension, with the one given.
+/// The path, with the extension added if its name has none.
 QString withExtension(const QString& path, const QString& extension);
 
-/// What a person browses for, by the names they know: what the browser shows as a picture, what a preview calls it, and
+/// The kinds of picture by the names that users know: what the browser shows as a picture, what a preview calls it, and
 /// the list of file types.
 struct Family {
     std::string_view patterns; // "*.bmp; *.dib"
@@ -177,22 +177,22 @@ inline constexpr Family kFamilies[] = {
 };
 // clang-format on
 
-/// Of the path's extension in any case; null where that is no picture's.
+/// The family of the path's extension in any case; null when it isn't a picture's.
 const Family* familyOf(const QString& path);
 
 constexpr bool hasFamily(const Format& format)
 {
     return std::ranges::any_of(kFamilies, [&](const Family& each) { return each.holds(format.extension); });
 }
-// A format is browsed for under some name; cursors alone are not.
+// Every format belongs to a family, except cursors.
 static_assert(std::ranges::all_of(kFormats, [](const Format& f) { return hasFamily(f) == (f.extension != "cur"); }),
               "a format that the browser doesn't know: add its row to kFamilies in src/fileio/formats.h");
 
-/// What the file dialogs show, as seams/Dialogs.h takes it.
+/// The filters of the file dialogs, in the form of seams/Dialogs.h.
 const QString& openFilter();
 const QString& saveFilter();
 
-/// Where a picture goes and as what, as savePicture wants it, and the file that comes of it.
+/// The name and extension to pass to savePicture, and the file that it will write.
 struct SaveTarget {
     QString name, extension, file;
 };

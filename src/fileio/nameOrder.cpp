@@ -6,7 +6,7 @@ namespace velara {
 const QCollator& nameOrder()
 {
     static const QCollator collator = [] {
-        const QLocale own; // of a system without a language compares bytes alone
+        const QLocale own; // in a system without a language it compares bytes
         QCollator byName(own.language() == QLocale::C ? QLocale(QLocale::English) : own);
         byName.setNumericMode(true);
         byName.setCaseSensitivity(Qt::CaseInsensitive);

@@ -1,10 +1,10 @@
-// The order in which a person looks for file names.
+// The order of file names for people.
 #pragma once
 #include <QCollator>
 
 namespace velara {
 
-/// By the letters of the system's language, capitals and small ones alike, and by numbers: Velara2 before Velara10.
+/// By the system's language, ignoring case, with numbers by value: Velara2 before Velara10.
 const QCollator& nameOrder();
 
 } // namespace velara

@@ -4,7 +4,7 @@ namespace velara {
 
 struct BackgroundQueue::Task {
     std::function<void(const GoOn&)> work;
-    std::function<void()> done; // only the asking thread touches it
+    std::function<void()> done; // used by the asking thread only
     std::atomic<bool> wanted = true;
 };
 
@@ -54,7 +54,7 @@ void BackgroundQueue::run()
             qWarning("velara-studio: %s", failure.what());
         }
         const auto tell = [task] {
-            if (const std::function<void()> done = task->done) done(); // which may let go of the request
+            if (const std::function<void()> done = task->done) done(); // may release the request
         };
         QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
     }

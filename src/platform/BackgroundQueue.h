@@ -1,4 +1,4 @@
-// BackgroundQueue: threads for work that takes its time, what was asked for last first.
+// BackgroundQueue: threads for slow work; the last request is served first.
 #pragma once
 #include "seams/GoOn.h"
 #include <QObject>
@@ -16,12 +16,12 @@ class BackgroundQueue {
   public:
     /// Runs in a thread of the queue; is to end soon once goOn says no. Where it throws the answer is a default Result.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
-    /// Whoever lets go of it gives the work up: no answer comes then.
+    /// Releasing it cancels the work: no answer comes then.
     using Request = std::shared_ptr<void>;
 
-    /// So many pieces of work at a time, at least one.
+    /// threads: pieces of work done at the same time, at least one.
     explicit BackgroundQueue(std::size_t threads = 1) : most_(threads) {}
-    /// Gives up what is under way.
+    /// Cancels work under way.
     ~BackgroundQueue();
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
@@ -39,7 +39,7 @@ class BackgroundQueue {
     struct Task;
     void run();
 
-    QObject answers_; // they come in the thread that made this
+    QObject answers_; // delivered in the thread that made this
     std::mutex guard_;
     std::condition_variable changed_;
     std::vector<std::shared_ptr<Task>> tasks_;

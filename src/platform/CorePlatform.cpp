@@ -21,7 +21,7 @@ QFileInfo executable() { return QFileInfo(QFile::symLinkTarget("/proc/self/exe")
 
 QSettings settings() { return QSettings(QSettings::IniFormat, QSettings::UserScope, executable().fileName()); }
 
-/// A folder that nobody else can write to: the system's for the time of a session, else one at home. Empty: there is
+/// A folder writable by this user only: the system's for the session, else one in the home folder. Empty: there is
 /// none.
 QString lockFolder()
 {
@@ -37,8 +37,8 @@ QString lockFolder()
     return {};
 }
 
-/// A locked file that one process a session can hold; the kernel releases it with the process. -1: there is none, or
-/// another process has it, which taken says.
+/// Locks a file that one process per session can hold; the kernel releases it with the process. -1: impossible, or
+/// another process holds it, which sets taken.
 int claimSession(bool& taken)
 {
     const QString folder = lockFolder();
@@ -119,7 +119,7 @@ LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& 
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)
 {
-    const bool isOurs = !executableFolder.startsWith("/usr/"); // there root too keeps its files elsewhere
+    const bool isOurs = !executableFolder.startsWith("/usr/"); // in /usr even root keeps its files elsewhere
     if (isOurs && access(QFile::encodeName(executableFolder).constData(), W_OK) == 0) return executableFolder;
     const QString home = QDir::isAbsolutePath(dataHome) ? dataHome : QDir::homePath() + "/.local/share";
     const QString folder = home + "/velara-studio";

@@ -1,5 +1,5 @@
-// The machine side of Platform, the same with and without a window: clock, random source, program folder, settings,
-// picture files. QtPlatform and WindowlessPlatform add the rest.
+// The machine side of Platform, common to programs with and without windows: clock, random source, program folder,
+// settings, picture files. QtPlatform and WindowlessPlatform add the rest.
 #pragma once
 #include "platform/BackgroundQueue.h"
 #include "seams/Platform.h"
@@ -14,9 +14,9 @@ class CorePlatform : public Platform {
 
     std::uint32_t milliseconds() override;
     double random() override;
-    /// Decided at the first call; the folder exists then, unless it can't be made.
+    /// Determined at the first call; the folder exists then, unless it can't be made.
     QString programFolder() override;
-    /// The first call claims the name of the session's editor.
+    /// The first call registers this process as the session's editor.
     bool previousInstance() override;
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
@@ -28,9 +28,9 @@ class CorePlatform : public Platform {
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
-    /// Asked while the picture of that name is read, see PictureLoader.h.
+    /// The callback while the picture of that name is read, see PictureLoader.h.
     virtual GoOn whileReading(const QString& /*name*/) { return {}; }
-    /// The same for bytes that are no file; name is what the reason calls them.
+    /// The same for bytes that aren't a file; name is used in the reason.
     LoadedPicture decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension, const GoOn& goOn);
 
   private:
@@ -40,8 +40,8 @@ class CorePlatform : public Platform {
     BackgroundQueue background_; // last: its work may read pictures until it has ended
 };
 
-/// executableFolder where files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio
-/// (dataHome empty: ~/.local/share), which is made.
+/// executableFolder if files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio (dataHome
+/// empty: ~/.local/share), which is created.
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome);
 
 } // namespace velara

@@ -20,8 +20,8 @@ SmallPicture read(const QString& path, const QString& extension, QSize box, Deco
 
 Preview preview(const SmallPicture& small) { return {small.image, small.size, small.reason}; }
 
-/// The time is that of the clock, in all. What takes most of it from the processor alone is noted as unreadable; what
-/// waited for a slow disk or a busy machine is not, and will be tried again.
+/// time is wall-clock time, in total. A picture that uses most of it as processor time is recorded as unreadable; one
+/// that waited for a slow disk or a busy machine is not, and will be tried again.
 Preview readThumbnail(const QString& path, std::chrono::seconds time, const GoOn& goOn)
 {
     constexpr QSize kBox(Previews::kThumbnailSide, Previews::kThumbnailSide);

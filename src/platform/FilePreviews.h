@@ -1,4 +1,4 @@
-// FilePreviews: the real Previews. Every file, the shared thumbnails too, is parsed by velara-decode.
+// FilePreviews: the real Previews. Every file, shared thumbnails included, is parsed by velara-decode.
 #pragma once
 #include "platform/BackgroundQueue.h"
 #include "seams/Previews.h"
@@ -8,7 +8,7 @@ namespace velara {
 
 class FilePreviews final : public Previews {
   public:
-    /// A thumbnail may take so long in all.
+    /// thumbnailTime: the total time limit of a thumbnail.
     explicit FilePreviews(std::chrono::seconds thumbnailTime = std::chrono::seconds(5)) : thumbnailTime_(thumbnailTime)
     {
     }
@@ -18,8 +18,8 @@ class FilePreviews final : public Previews {
 
   private:
     std::chrono::seconds thumbnailTime_;
-    BackgroundQueue pictures_;      // one doesn't wait for rows of thumbnails
-    BackgroundQueue thumbnails_{2}; // nor those for one that takes all its time
+    BackgroundQueue pictures_;      // doesn't wait for rows of thumbnails
+    BackgroundQueue thumbnails_{2}; // two threads: one slow thumbnail doesn't block the others
 };
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// The services of the desktop where there is none: nothing to be seen, nothing to be changed, no device.
+// Null implementations of the desktop's services: nothing to see, nothing to change, no devices.
 #pragma once
 #include "seams/Clipboard.h"
 #include "seams/Previews.h"

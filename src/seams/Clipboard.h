@@ -8,12 +8,13 @@ class Clipboard {
   public:
     virtual ~Clipboard() = default;
 
-    /// What another program put there is read as a file would be; its owner has a second for its answers, and longer
-    /// only while bytes come, with a box that gives them up. Neither picture nor reason: there is none.
+    /// What another program put there, decoded like a file. Its owner has a second to answer, and longer only while
+    /// bytes arrive, with a box in which the user can give up. Neither picture nor reason: the clipboard has no
+    /// picture.
     virtual LoadedPicture bitmap() = 0;
-    /// False where the desktop doesn't take it.
+    /// False when the desktop refuses it.
     virtual bool setBitmap(const Bits& bits) = 0;
-    /// A part of a picture, by alpha: pixels with a fourth byte of 255 are transparent, all others opaque.
+    /// A part of a picture with a mask: pixels with a fourth byte of 255 are transparent, all others opaque.
     virtual bool setPart(const Bits& part) = 0;
     virtual void clear() = 0;
 };

@@ -6,21 +6,21 @@
 
 namespace velara {
 
-/// What messages and windows without a title of their own are titled.
+/// The title of messages and of windows without a title of their own.
 inline const QString kProgramName = QStringLiteral("Velara Studio");
 
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Answer { Yes, No, Cancel };
 
-/// What a file dialog shows. filter is "caption|patterns|caption|patterns|...", patterns split by semicolons.
+/// What a file dialog shows. filter is "caption|patterns|caption|patterns|...", patterns separated by semicolons.
 struct FileDialog {
     QString title;
     QString filter;
     QString folder = {};
     QString defaultPattern = {};
-    /// For a save dialog: the extension of a name without one, where the chosen filter stands for several.
+    /// For a save dialog: the extension added to a name without one when the chosen filter has several.
     QString extension = {};
-    /// The file that a save under this name makes: whether that one may be replaced is asked.
+    /// The file that saving under this name writes: the dialog asks before replacing that one.
     std::function<QString(const QString&)> writtenAs = {};
 };
 
@@ -36,7 +36,7 @@ class Dialogs {
     virtual std::optional<QString> openFileName(const FileDialog& dialog) = 0;
     virtual std::optional<QString> saveFileName(const FileDialog& dialog) = 0;
     virtual std::optional<QString> pickFolder(const QString& title, const QString& start) = 0;
-    /// path shortened with an ellipsis so that it takes at most so many pixels in the menu font.
+    /// path shortened with an ellipsis so that it takes at most the given pixels in the menu font.
     virtual QString compactPath(const QString& path, int pixels) = 0;
 };
 

@@ -1,9 +1,9 @@
-// Fonts: text as the system sets it. QtFonts (platform/desktop) is the real one; NoFonts serves programs without a
-// window; RecordingFonts (tests/support) has one fixed-width font.
+// Fonts: text layout and drawing by the system. QtFonts (platform/desktop) is the real one; NoFonts serves programs
+// without a window; RecordingFonts (tests/support) has one fixed-width font.
 //
-// A run is always set as a whole, so that scripts that join, stack or turn their letters come out right, and what a
-// font lacks is taken from another one. Sizes are points at 96 to the inch on every screen: a text is as large in the
-// picture wherever it is made.
+// A run is always shaped as a whole, so that scripts that join, stack or reorder their letters come out right; glyphs
+// that a font lacks are taken from another one. Sizes are points at 96 dpi on every screen, so a text has the same size
+// in the picture wherever it is made.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
@@ -15,7 +15,7 @@ namespace velara {
 
 struct FontFamily {
     QString name;
-    QStringList writingSystems; // as the system calls them; empty for symbols
+    QStringList writingSystems; // by the system's names; empty for symbol fonts
     friend bool operator==(const FontFamily&, const FontFamily&) = default;
 };
 
@@ -26,15 +26,15 @@ struct TextStyle {
     friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
 
-/// One line without breaks in it.
+/// One line without line breaks.
 struct TextRun {
     QString text;
-    bool rightToLeft = false; // where its paragraph begins
-    int spread = 0;           // pixels more than its own width, given evenly to the blanks within
+    bool rightToLeft = false; // the base direction of its paragraph
+    int spread = 0;           // extra pixels for justification, distributed evenly over the blanks
     friend bool operator==(const TextRun&, const TextRun&) = default;
 };
 
-/// In pixels: how far a run reaches, and the height of its line. The height depends on the style alone.
+/// The advance of a run and the height of its line, in pixels. The height depends on the style alone.
 struct RunSize {
     int width = 0, height = 0;
     friend bool operator==(const RunSize&, const RunSize&) = default;
@@ -44,15 +44,15 @@ class Fonts {
   public:
     virtual ~Fonts() = default;
 
-    /// The installed families by name; nothing when the system doesn't tell.
+    /// The installed families by name; no value when the system can't list them.
     virtual std::optional<std::vector<FontFamily>> list() = 0;
-    /// The family that is used where this one is asked for: itself, or what stands in for a missing one.
+    /// The family that is used when this one is asked for: itself, or the substitute of a missing one.
     virtual QString standIn(const QString& family) = 0;
     virtual RunSize measure(const QString& text, const TextStyle& style) = 0;
-    /// Where the caret stands before this character of the run: pixels from the left edge of its line.
+    /// The caret's position before this character of the run: pixels from the left edge of its line.
     virtual int caret(const TextRun& run, const TextStyle& style, int character) = 0;
-    /// Blends the run over the target, cut to it; (x, y) is the upper left corner of its line. Fourth bytes become 255
-    /// where it is drawn.
+    /// Blends the run over the target, clipped to it; (x, y) is the upper left corner of its line. Fourth bytes become
+    /// 255 where it is drawn.
     virtual void draw(Bits& target, int x, int y, const TextRun& run, const TextStyle& style, Colour colour) = 0;
 };
 

@@ -1,4 +1,4 @@
-// PictureReader: picture files, read where they can do no harm.
+// PictureReader: reads picture files in a sandbox.
 #pragma once
 #include "pixels/Bits.h"
 #include "seams/GoOn.h"
@@ -6,8 +6,8 @@
 
 namespace velara {
 
-/// A picture read from a file, or the reason why it can't be read, in words for a person. A picture may have a reason
-/// too: why it is not all there.
+/// A picture read from a file, or the reason why it can't be read, for the user. A picture may have a reason, too: why
+/// it is incomplete.
 struct LoadedPicture {
     Bits bits;
     QString reason;

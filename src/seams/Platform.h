@@ -1,9 +1,10 @@
-// Platform: the outside world of the program, by subject. What nearly every window needs (machine, dialogs, picture
-// files) it is itself; the services of the desktop have an interface each. Who needs one subject alone takes that one.
+// Platform: the outside world of the program, by subject. It is itself what nearly every window needs (machine,
+// dialogs, picture files); each service of the desktop has an interface of its own. Code that needs one subject alone
+// takes that interface.
 //
-// QtPlatform is the real one of the editor, WindowlessPlatform that of the others, RecordingPlatform (tests/support)
-// the scripted one. To add an operation: one pure virtual in its subject, one body in each of the three; a service: its
-// interface here, with the real one in platform/desktop and the null one in platform/NoDesktop.h.
+// QtPlatform is the real one of the editor, WindowlessPlatform that of the other programs, RecordingPlatform
+// (tests/support) the scripted one. To add an operation: a pure virtual in its subject and a body in each of the three;
+// a service: its interface here, its real implementation in platform/desktop and its null one in platform/NoDesktop.h.
 #pragma once
 #include "seams/Dialogs.h"
 #include "seams/Machine.h"

@@ -1,5 +1,5 @@
-// Printers: the printers of this machine, and PDF files in their place. Answers come from the message loop, each once;
-// whoever lets go of a request gets none. No call waits, and what is asked of a print server is answered within ten
+// Printers: the printers of this machine, and PDF files as an alternative. Answers arrive from the message loop, each
+// once; a released request gets none. No call blocks, and every question to a print server is answered within ten
 // seconds, whatever the server does.
 #pragma once
 #include "pixels/Bits.h"
@@ -17,22 +17,21 @@ enum class PageOrientation { Portrait = 1, Landscape = 2 };
 
 enum class PrintQuality { Draft = -1, Low = -2, Medium = -3, High = -4 };
 
-/// A sheet as it comes out of the tray, upright; millimetres.
+/// A sheet as it comes out of the tray, in portrait; millimetres.
 struct Paper {
-    QString name; // as the printer calls it; empty: as it stands
+    QString name; // the printer's name for it; empty: the printer's default
     QSizeF size{210, 297};
-    QMarginsF margins{5, 5, 5, 5}; // what the printer can't reach
+    QMarginsF margins{5, 5, 5, 5}; // the unprintable margins
 
     QSizeF sheet(PageOrientation orientation) const;
-    /// What can be printed on, from the upper left corner of the sheet as it is looked at: turned to the right for a
-    /// landscape.
+    /// The printable area, from the upper left corner of the sheet as viewed: turned to the right for landscape.
     QRectF printable(PageOrientation orientation) const;
 };
 
 /// One page with one picture.
 struct PrintPage {
     Bits picture;
-    QRectF place; // of the picture on the sheet as it is looked at, millimetres
+    QRectF place; // of the picture on the sheet as viewed, millimetres
     Paper paper;
     PageOrientation orientation = PageOrientation::Portrait;
     PrintQuality quality = PrintQuality::Medium;
@@ -40,7 +39,7 @@ struct PrintPage {
     QString title;
 };
 
-/// What is chosen for the pages to come, until the program ends.
+/// The choice for the following pages, until the program ends.
 struct PrinterChoice {
     QString printer; // empty: PDF files
     std::optional<Paper> paper;
@@ -53,28 +52,28 @@ class Printers {
     struct List {
         QStringList names;
         QString current;     // one of them; empty when there is none, or when PDF files were chosen
-        QString reason = {}; // why nothing is known of them, in words for a person; empty when all is
+        QString reason = {}; // why the printers aren't known, for the user; empty when they are
     };
     struct Options {
-        std::vector<Paper> papers; // that a page gets first, at least one
+        std::vector<Paper> papers; // the default first; at least one
         bool gray = false;         // chosen before
     };
-    /// In words for a person; empty when all went well.
+    /// For the user; empty on success.
     using Done = std::function<void(const QString& reason)>;
 
     virtual ~Printers() = default;
     [[nodiscard]] virtual Request list(std::function<void(const List&)> done) = 0;
-    /// Kept for the sessions to come.
+    /// Remembered for later sessions.
     virtual void setCurrent(const QString& name) = 0;
-    /// What lies in the tray of a printer, or what is usual in this country where that can't be found out.
+    /// The paper in a printer's tray, or the usual one of this country when that is unknown.
     [[nodiscard]] virtual Request paper(const QString& printer, std::function<void(const Paper&)> done) = 0;
-    /// What a PDF file takes.
+    /// The paper of a PDF file.
     virtual Paper usualPaper() = 0;
-    /// What there is to choose from for a printer, empty: for PDF files. The usual papers where it can't be found out.
+    /// The choices for a printer (empty: for PDF files). The usual papers when they are unknown.
     [[nodiscard]] virtual Request options(const QString& printer, std::function<void(const Options&)> done) = 0;
     virtual void choose(const PrinterChoice& choice) = 0;
     [[nodiscard]] virtual Request print(const QString& printer, const PrintPage& page, Done done) = 0;
-    /// The page as a PDF; the file is whole, or as it was.
+    /// The page as a PDF; the file is written whole or left unchanged.
     [[nodiscard]] virtual Request printToFile(const QString& path, const PrintPage& page, Done done) = 0;
 };
 

@@ -1,5 +1,5 @@
-// Scanner: the scanners of this machine. All answers come later, from the message loop, each once and none after
-// cancel(); one call at a time, a new one cancels the one before.
+// Scanner: the scanners of this machine. All answers arrive later, from the message loop, each once and none after
+// cancel(). One call at a time: a new one cancels the one before.
 #pragma once
 #include <QList>
 #include <QRectF>
@@ -10,34 +10,33 @@
 namespace velara {
 
 struct ScanSource {
-    QString device; // how the system calls it
-    QString title;  // maker, model and kind, for a person
+    QString device; // the system's name
+    QString title;  // maker, model and kind, for the user
 };
 
-/// What a source can be asked for.
+/// The choices that a source offers.
 struct ScanRange {
     QStringList modes;      // in the source's own words ("Gray", "Color"); may be empty
-    QString mode;           // as it stands
-    QList<int> resolutions; // dots an inch, ascending; one a choice, or the first and the last of a range
+    QString mode;           // the current one
+    QList<int> resolutions; // dots per inch, ascending; each a choice, or the ends of a range
     bool anyBetween = false;
-    int resolution = 0; // as it stands; 0: it has none
+    int resolution = 0; // the current one; 0: it has none
     QSizeF bed;         // millimetres; empty: the area can't be chosen
 };
 
 struct ScanJob {
-    QString device, mode; // mode empty: as it stands
-    int resolution = 0;   // 0: as it stands
-    QRectF area;          // millimetres; empty: all of it
+    QString device, mode; // mode empty: the current one
+    int resolution = 0;   // 0: the current one
+    QRectF area;          // millimetres; empty: the whole bed
 };
 
 class Scanner {
   public:
     virtual ~Scanner() = default;
-    /// reason, here and below: in words for a person; empty when all went well.
+    /// reason, here and below: for the user; empty on success.
     virtual void list(std::function<void(const QList<ScanSource>&, const QString& reason)> done) = 0;
     virtual void describe(const QString& device, std::function<void(const ScanRange&, const QString& reason)> done) = 0;
-    /// Scans one picture into a bmp file. progress is silent while it can't be told.
-    /// Nothing is written when it fails.
+    /// Scans one picture into a bmp file. progress is not called while it is unknown. Nothing is written on failure.
     virtual void acquire(const ScanJob& job, const QString& path, std::function<void(int percent)> progress,
                          std::function<void(const QString& reason)> done) = 0;
     virtual void cancel() = 0;

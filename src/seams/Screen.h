@@ -1,4 +1,4 @@
-// Screen: what is seen on the screens of the desktop, as pixels.
+// Screen: captures the screens of the desktop as pixels.
 #pragma once
 #include "pixels/Bits.h"
 #include <QRect>
@@ -11,12 +11,12 @@ namespace velara {
 /// All screens of the desktop in one picture, in device pixels; black where there is no screen.
 struct ScreenPicture {
     struct Part {
-        QRect logical; // a screen's place on the desktop, as windows and the pointer are placed
+        QRect logical; // a screen's rectangle on the desktop, in the units of windows and the pointer
         QRect device;  // the same in bits
     };
-    Bits bits; // null: there is nothing to be had
+    Bits bits; // null: no capture
     std::vector<Part> parts;
-    QString reason = {}; // why the picture is missing or black, in words for a person; empty when nothing is to be told
+    QString reason = {}; // why the picture is missing or black, for the user; empty when there is nothing to report
 };
 
 class Screen {
@@ -24,11 +24,11 @@ class Screen {
     using Done = std::function<void(const ScreenPicture&)>;
 
     virtual ~Screen() = default;
-    /// Takes the picture of all screens. done is called once: before this returns, or much later, as a desktop may ask
-    /// its user first; not after cancel(). One at a time: a new grab cancels the one before.
+    /// Captures all screens. done is called once: before this returns, or much later, as a desktop may ask its user
+    /// first; not after cancel(). One at a time: a new grab cancels the one before.
     virtual void grab(Done done) = 0;
     virtual void cancel() = 0;
-    /// Puts all windows of the desktop aside, or brings them back. False: this desktop can't.
+    /// Hides all windows of the desktop, or brings them back. False: this desktop can't.
     virtual bool showDesktop(bool on) = 0;
 };
 

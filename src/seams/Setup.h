@@ -1,7 +1,7 @@
 // Setup: the configuration record. Plain fields with their defaults, read and written directly by every window;
-// ImagesPath, which depends on the program folder, is empty by default. SetupStore, which has where each field lies,
-// writes it to the file. Flags are booleans here and 16-bit -1 and 0 in the file; fields that stand for one of several
-// things have their values in SetupValues.h.
+// ImagesPath, which depends on the program folder, is empty by default. SetupStore, which knows each field's offset,
+// writes it to the file. Flags are booleans here and 16-bit -1 and 0 in the file; the values of fields that are
+// enumerations are in SetupValues.h.
 #pragma once
 #include "pixels/twips.h"
 #include "seams/SetupValues.h"

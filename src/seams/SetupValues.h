@@ -1,6 +1,6 @@
-// What the numbers of those fields of Setup mean that stand for one of several things; each enum has its field's name;
-// TextMode is a TextAlign of text/mText.h.
-// They are as in the configuration file. A field may hold any other number, from a file of somebody else's.
+// The values of those fields of Setup that are enumerations; each enum has its field's name. TextMode is a TextAlign of
+// text/mText.h. The numbers are those of the configuration file, and a field may hold any other one from a foreign
+// file.
 #pragma once
 #include <cstdint>
 

@@ -1,12 +1,12 @@
-// How names that come from outside are shown.
+// How names from outside are shown.
 #pragma once
 #include <QString>
 
 namespace velara {
 
-/// The text as it can be shown: marks that turn the direction of what stands around them, ends of lines and what else
-/// steers a terminal are told by their numbers ("\x202e"). With them a file could look as if it had another name, or
-/// say what the program didn't. Joiners, which many scripts are written with, stay.
+/// The text made safe to show: bidirectional controls, line ends and other control characters are shown by their codes
+/// ("\x202e"). With them a file could pretend to have another name, or output what the program didn't say. Joiners,
+/// which many scripts need, are kept.
 inline QString printable(const QString& text)
 {
     QString shown;

@@ -1,4 +1,4 @@
-// Sizes as people read them and as settings keep them.
+// Sizes as text, for people and for settings.
 #pragma once
 #include <QSize>
 #include <QStringList>
@@ -11,7 +11,7 @@ inline QString sizeText(QSize size, const QString& by = QStringLiteral(" x "))
     return QString::number(size.width()) + by + QString::number(size.height());
 }
 
-/// The size that such a text tells; another one gives an empty size.
+/// Parses such a text; any other gives an empty size.
 inline QSize sizeOf(const QString& text, const QString& by = QStringLiteral(" x "))
 {
     const QStringList sides = text.split(by);

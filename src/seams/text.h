@@ -1,4 +1,4 @@
-// The texts of tables, which are string views, as Qt wants them.
+// The string views of tables as QStrings.
 #pragma once
 #include <QString>
 #include <string_view>

@@ -5,7 +5,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kOverhang = 2; // slanted letters reach beyond their width
+constexpr int kOverhang = 2; // slanted letters extend beyond their advance
 
 Rect pictureOf(const Bits& canvas) { return {0, 0, canvas.width(), canvas.height()}; }
 
@@ -77,7 +77,7 @@ MeasureRun Layers::measureIn(const TextStyle& style) const
     return [this, style](const QString& run, int) { return fonts_.measure(run, style); };
 }
 
-/// Only as many lines as the place has room for, the cut one included.
+/// Only as many lines as the place can show, including a partly visible one.
 void Layers::breakText(Entry& entry)
 {
     const Layer& layer = entry.layer;
@@ -126,7 +126,7 @@ void Layers::print(Entry& entry)
         if (top + entry.lineHeight <= 0 || top >= part.height()) continue;
         const TextRun& run = entry.lines[i].run;
         const int rest = layer.place.width() - entry.lines[i].width;
-        const int left = run.rightToLeft ? rest : 0; // each paragraph begins at its own side
+        const int left = run.rightToLeft ? rest : 0; // each paragraph is aligned to its own side
         fonts_.draw(entry.surface, layer.place.left - part.left + left, top, run, layer.style, layer.colour);
     }
 }
@@ -143,7 +143,7 @@ Rect Layers::caret(int index, qsizetype character) const
         if (line.start > character) break;
         const qsizetype end = i + 1 < entry.lines.size() ? entry.lines[i + 1].start : layer.text.size();
         TextRun run = line.run;
-        run.text = layer.text.mid(line.start, end - line.start); // with the blanks at its end
+        run.text = layer.text.mid(line.start, end - line.start); // with trailing blanks
         while (run.text.endsWith(u'\n') || run.text.endsWith(u'\r')) run.text.chop(1);
         const int width = fonts_.measure(run.text, layer.style).width;
         const int left = run.rightToLeft ? layer.place.width() - width : 0;
@@ -163,7 +163,7 @@ Bits Layers::Blend() const
         for (int y = 0; y < part.height(); ++y) {
             const Pixel* from = entry.surface.row(y);
             Pixel* to = out.row(part.top + y) + part.left;
-            for (int x = 0; x < part.width(); ++x) std::copy_n(from[x].c, 3, to[x].c); // fourth bytes stay
+            for (int x = 0; x < part.width(); ++x) std::copy_n(from[x].c, 3, to[x].c); // fourth bytes are kept
         }
     }
     return out;

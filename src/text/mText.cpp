@@ -6,9 +6,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kLongestRun = 4096; // characters; more never reach into a picture
+constexpr int kLongestRun = 4096; // characters; more never fit into a picture
 
-/// Where the part of the text that begins here may end: after its first hyphen, or blanks in a row.
+/// Where the part of the text beginning here may end: after its first hyphen or run of blanks.
 qsizetype breakAfter(const QString& text, qsizetype from)
 {
     qsizetype i = from;
@@ -25,7 +25,7 @@ QString withoutEnd(QString line)
     return line;
 }
 
-/// Breaks one paragraph, whose first character is the whole text's at offset.
+/// Wraps one paragraph, whose first character is at offset in the whole text.
 class Paragraph {
   public:
     using Width = std::function<int(const QString&)>;
@@ -62,8 +62,8 @@ class Paragraph {
     {
         return ends_[part] - start <= kLongestRun && widthOf_(lineTo(part, start)) <= width_;
     }
-    /// The last part that the line from start on takes in; the first one in any case. By steps that double, then halve:
-    /// a long line is measured a few times and not at each word.
+    /// The last part that fits on the line from start; at least the first one. By galloping search (doubling, then
+    /// halving): a long line is measured a few times and not at each word.
     std::size_t lastOnLine(std::size_t first, qsizetype start) const
     {
         std::size_t last = first, step = 1;
@@ -80,7 +80,7 @@ class Paragraph {
     qsizetype offset_;
     int width_;
     const Width& widthOf_;
-    std::vector<qsizetype> ends_; // where a line may end
+    std::vector<qsizetype> ends_; // permitted line ends
 };
 
 class Search {
@@ -90,12 +90,12 @@ class Search {
     {
     }
 
-    /// The greatest size at which the text fits, by height alone or by both sides.
+    /// Finds the greatest size at which the text fits, by height alone or by both sides.
     bool find(bool wordsToo)
     {
         const int wanted = std::clamp(box_.size, 1, kLargestText);
         int low = std::min(kSmallestText, wanted), high = wanted;
-        // The size asked for first: as a rule it is the answer.
+        // The requested size first: usually it fits.
         if (tryOut(high, wordsToo)) return true;
         --high;
         bool found = false;
@@ -135,7 +135,7 @@ class Search {
     const MeasureRun& measure_;
 };
 
-/// rest: what the line leaves of the width; below 0 for a word that is too wide, which shows its beginning.
+/// rest: the unused width of the line; negative for a word that is too wide, whose beginning is shown.
 void align(TextLine& line, int align, int rest, bool last)
 {
     if (rest < 0)

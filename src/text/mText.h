@@ -1,5 +1,5 @@
-// mText: a text laid out in a box: broken into lines, aligned, with a shadow, at the size that was asked for or the
-// greatest below it at which it fits. Knows no font: it is told how far a run reaches.
+// mText: lays out a text in a box: wrapped, aligned, with a shadow, at the requested size or the greatest one below it
+// that fits. Knows no fonts: a callback measures runs.
 #pragma once
 #include "seams/Fonts.h"
 #include <functional>
@@ -9,18 +9,18 @@
 namespace velara {
 
 enum TextAlign { LeftJustify, CentreJustify, RightJustify, FullJustify };
-/// A place in a grid of three by three; this one is its middle.
+/// A place in a grid of three by three; 4 is its centre.
 constexpr int kNoShadow = 4;
-/// Points. What doesn't fit at the smallest has no suitable size; the largest is the routine's limit.
+/// Points. A text that doesn't fit at the smallest has no suitable size; the largest is the routine's limit.
 constexpr int kSmallestText = 6, kLargestText = 72;
 
 struct TextBox {
-    QString text; // lines are forced by "\r\n"
+    QString text; // "\r\n" forces a line break
     int width = 0, height = 0;
     float margin = 4; // pixels on each side
     int align = LeftJustify;
     int shadow = kNoShadow;
-    int size = 10; // wanted, 1 to kLargestText
+    int size = 10; // requested, 1 to kLargestText
 };
 
 struct TextLine {
@@ -37,21 +37,21 @@ struct TextLayout {
     int trials = 0;               // sizes tried, at most 16
 };
 
-/// The size of a run at a size in points.
+/// The extent of a run at a size in points.
 using MeasureRun = std::function<RunSize(const QString& run, int size)>;
 
-/// Nothing when the margin leaves no room or no size fits. A word wider than the box stands on a line of its own at the
-/// size wanted, unless a smaller one takes it in. Without text there are no lines.
+/// Nothing when the margin leaves no room or no size fits. A word wider than the box gets a line of its own at the
+/// requested size, unless it fits at a smaller one. Without text there are no lines.
 std::optional<TextLayout> layOutText(const TextBox& box, const MeasureRun& measure);
 
-/// The text broken into lines for a width in pixels, after " ", after "-" and at "\r\n"; the break and the blanks
-/// before it belong to no line. More lines than most are not made. width is that of the lines, at least 0 pixels.
+/// The text wrapped to a width in pixels, after " ", after "-" and at "\r\n"; the break and the blanks before it belong
+/// to no line. At most `most` lines are made. width is that of the lines, at least 0 pixels.
 std::vector<TextLine> breakLines(const QString& text, int width, int size, const MeasureRun& measure, int most);
 
-/// How often Needle occurs; hits may overlap. An empty one never does.
+/// How often Needle occurs, overlapping matches included. An empty Needle never does.
 int CountOf(const QString& Needle, const QString& Text);
 
-/// The layout on a picture: the shadow first, the face over it. style.size is the layout's own.
+/// Draws the layout on a picture: first the shadow, then the face. style.size is ignored for the layout's own.
 void drawText(Bits& target, const TextLayout& layout, TextStyle style, Fonts& fonts, Colour face, Colour shadow);
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// ClipHistory: the selected parts that were cut and copied in this run, oldest first.
+// ClipHistory: the selected parts that were cut or copied in this run, oldest first.
 #pragma once
 #include "pixels/Bits.h"
 #include <vector>
@@ -7,7 +7,7 @@ namespace velara {
 
 class Document;
 
-/// A part's pixels in the box of its selection; a fourth byte of 255 marks what was not selected.
+/// The pixels in the bounding box of a selection; a fourth byte of 255 marks those that were not selected.
 struct Clip {
     int number = 0; // counts all clips of the run, from 1
     Bits bits;
@@ -16,7 +16,7 @@ struct Clip {
 class ClipHistory {
   public:
     static constexpr int kSlots = 10; // on display
-    static constexpr int kLimit = 9;  // one more clip and the oldest goes: odd beside ten slots, and it stays
+    static constexpr int kLimit = 9;  // beyond it the oldest clip is dropped: odd beside ten slots, and kept
 
     void add(const Bits& bits);
     const std::vector<Clip>& clips() const { return clips_; }

@@ -1,4 +1,4 @@
-// PaneRow: a setting of a tool as its panes show it. ui/panes makes the controls.
+// PaneRow: a tool's setting as shown in its panes. ui/panes makes the controls.
 #pragma once
 #include "seams/Setup.h"
 #include "seams/ToolStores.h"
@@ -8,19 +8,19 @@ namespace velara {
 
 enum class PaneKind { Slider, Combo, List, Check, Well };
 
-/// A control with its range or entries, and the setting behind it.
+/// A control with its range or entries, and the setting it edits.
 struct PaneRow {
     PaneKind kind;
     const char* name;    // of the control; the number beside a slider is "lbl" + name
-    const char* caption; // "&" marks the key; of lists and wells only the accessible name
+    const char* caption; // "&" marks the shortcut key; for lists and wells only the accessible name
     int low = 0, high = 0;
-    const char* entries = ""; // of lists, split by "|"
-    const char* numbers = ""; // a digit for each entry: the value it stands for; empty: its place
+    const char* entries = ""; // of lists, separated by "|"
+    const char* numbers = ""; // a digit per entry: its value; empty: its index
     const char* hint = "";
-    const char* unit = ""; // of a slider, behind its number
+    const char* unit = ""; // of a slider, after its number
     int (*get)(const Setup&, const ToolStores&) = nullptr;
     void (*set)(Setup&, ToolStores&, int) = nullptr;
-    bool (*applies)(const Setup&) = nullptr; // else the control is disabled; null: always
+    bool (*applies)(const Setup&) = nullptr; // else the control is disabled; null: always applies
 
     constexpr PaneRow onlyWhen(bool (*condition)(const Setup&)) const
     {
@@ -30,7 +30,7 @@ struct PaneRow {
     }
 };
 
-/// The row with the field of Setup or of ToolStores behind it.
+/// Binds the row to a field of Setup or of ToolStores.
 template <auto Field> constexpr PaneRow bound(PaneRow row)
 {
     constexpr bool inSetup = std::is_invocable_v<decltype(Field), Setup&>;

@@ -13,7 +13,7 @@ bool isSame(const std::weak_ptr<const std::uint8_t[]>& a, const std::weak_ptr<co
 
 } // namespace
 
-/// True while both pictures are the blocks that this object left behind, so that they differ in the touched tiles only.
+/// True while both pictures are the blocks that this object left, so that they differ at most in the touched tiles.
 bool PreviewBuffer::inStep() const
 {
     return isSame(document_.bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
@@ -32,7 +32,7 @@ void PreviewBuffer::remember()
     committed_ = filter_.bits().block();
 }
 
-/// Finds out what is known of the difference of the two, after whatever may have replaced either.
+/// Determines how the two differ, whatever may have replaced either.
 void PreviewBuffer::compare()
 {
     if (inStep()) return;
@@ -48,11 +48,11 @@ void PreviewBuffer::begin()
     if (!document_.PictureExists()) return;
     compare();
     if (!document_.bits().isShared()) return;
-    document_.edit().row(0); // the whole copy
+    document_.edit().row(0); // copies the whole picture
     remember();
 }
 
-/// target := source, of which target differs in the touched tiles at most.
+/// target := source, where they differ at most in the touched tiles.
 void PreviewBuffer::settle(Bits& target, const Bits& source)
 {
     document_.touched.forEach([&](const Rect& tile) {
@@ -90,7 +90,7 @@ void PreviewBuffer::commit()
         return remember();
     }
     Bits committed = filter_.bits();
-    filter_.setBits(Bits()); // so that the write stays in place
+    filter_.setBits(Bits()); // so that the write is in place
     settle(committed, document_.bits());
     filter_.setBits(std::move(committed));
     remember();

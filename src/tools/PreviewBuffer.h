@@ -11,22 +11,22 @@ class cBitFilter;
 
 class PreviewBuffer {
   public:
-    /// Both outlive this object. What is written into the document is marked in Document::touched; a picture that
-    /// another command replaces is noticed.
+    /// Both must outlive this object. Writes to the document must be marked in Document::touched; a picture replaced by
+    /// another command is noticed.
     PreviewBuffer(Document& document, cBitFilter& filter) : document_(document), filter_(filter) {}
 
-    /// Before the first write of a drag: gives the document a block of its own. An engine that holds a picture of
-    /// another size is given the document's.
+    /// Call before the first write of a drag: gives the document a block of its own. An engine whose picture has
+    /// another size gets the document's.
     void begin();
-    /// begin() ahead of time, where the engine's picture is known to be the document's.
+    /// begin() in advance, if the engine's picture is known to be the document's.
     void prepare();
-    /// False when the engine holds the picture of another document, or may.
+    /// False when the engine holds, or may hold, the picture of another document.
     bool isOurs() const;
     /// document := committed picture.
     void restore();
     /// committed picture := document.
     void commit();
-    /// Around all that was restored since the last call.
+    /// The bounding rectangle of everything restored since the last call.
     Rect takeRestored() { return std::exchange(restored_, {}); }
 
   private:

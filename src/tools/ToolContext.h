@@ -1,4 +1,4 @@
-// What a mouse tool works on, and what a tool is.
+// The state that a mouse tool works on, and the interface of a tool.
 #pragma once
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -31,30 +31,31 @@ struct ToolContext {
     Point start; // ToolStart: the last left press, or the last corner of a polygon
     Point press; // ToolPress: the last press of any button
     Point last;  // ToolLast: the last position seen
-    Point hot;   // ToolHot: the held spot within a stamp, text or moved content
+    Point hot;   // ToolHot: the point of a stamp, text or moved content at which it is held
     bool moving = false, moved = false, down = false;
     bool connect = false;                   // the stroke has placed its first dab
-    bool corner = false;                    // Space has set a corner in this drag
-    bool polygon = false;                   // a polygon selection is half made, under the button or not
-    int computed = Workspace::kAll;         // the change that the last release began and that is not done yet
+    bool corner = false;                    // Space has set a corner during this drag
+    bool polygon = false;                   // a polygon selection is unfinished, with or without the button down
+    int computed = Workspace::kAll;         // the change begun by the last release, while it isn't done
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
-    Region before, wiped;                   // the selection as a gesture found it, and as its press left it
-    std::int32_t colourBefore = 0;          // the colour that the pipette found
+    Region before, wiped;                   // the selection before the gesture, and after its press
+    std::int32_t colourBefore = 0;          // the colour before the pipette
 
-    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
+    std::shared_ptr<int> life =
+        std::make_shared<int>(0); // expires with this object: what a tool calls may close the view
 
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores(); }
     Workspace& workspace() const { return frame.workspace(); }
     cBitFilter& filter() const { return workspace().engine(); }
     Painter& paint() const { return document.paint; }
-    /// Shows what was restored and painted since the last call.
+    /// Repaints what was restored and painted since the last call.
     void repaint()
     {
         const Rect changed = preview.takeRestored().united(document.paint.takeTouched());
         if (!changed.isEmpty()) surface.repaint(changed);
     }
-    /// The document's picture becomes the committed one, with one undo step.
+    /// Makes the document's picture the committed one, with one undo step.
     void commit()
     {
         if (workspace().engineHolds(document)) preview.commit();
@@ -62,41 +63,41 @@ struct ToolContext {
     }
 };
 
-/// What a tool changes when it is held at a pixel, in pixels from there; None for tools without a size.
+/// The pixels that a tool would change at a position, relative to it; None for tools without a size.
 struct Footprint {
     enum Kind { None, Disc, Box } kind = None;
-    Rect box; // of a disc: as far to the right and down as to the left and up, the pixel itself between
+    Rect box; // of a disc: symmetric, with the pixel itself in the middle
     friend bool operator==(const Footprint&, const Footprint&) = default;
 };
 
-/// The tools have no state of their own: one object of each serves all documents. Each file of tools ends with a
-/// function for each class that gives its object; toolRows.cpp calls them.
+/// Tools are stateless: one object of each serves all documents. Each file of tools ends with one function per class
+/// that returns its object; toolRows.cpp calls them.
 class Tool {
   public:
     virtual ~Tool() = default;
-    /// False: the press is refused, and the drag is nobody's.
+    /// False: the press is refused, and the drag belongs to no tool.
     virtual bool press(ToolContext&) const { return true; }
     virtual void drag(ToolContext&) const {}
     virtual void release(ToolContext&) const {}
     /// A move without a button.
     virtual void hover(ToolContext&) const {}
-    /// The right button went up, or Esc down: what hangs on the screen goes away, and what else the gesture changed
-    /// comes back. The committed picture is restored after it.
+    /// The right button was released or Esc pressed: removes temporary displays and undoes what else the gesture
+    /// changed. The committed picture is restored afterwards.
     virtual void cancel(ToolContext&) const {}
     virtual void space(ToolContext&) const {}
     virtual void ctrlReleased(ToolContext&) const {}
-    /// The gesture goes on after the release.
+    /// The gesture continues after the release.
     virtual bool unfinished(const ToolContext&) const { return false; }
-    /// Enter ends a gesture that only its user can end. False: there is none, the key is somebody else's.
+    /// Enter ends a gesture that only the user can end. False: there is none, the key is not used.
     virtual bool finish(ToolContext&) const { return false; }
-    /// The second press of a double click. False: a press like any other.
+    /// The second press of a double click. False: treat it as a normal press.
     virtual bool doubleClick(ToolContext&) const { return false; }
-    /// Which keys do what while the gesture is on, for the status bar.
+    /// The keys that work during the gesture, for the status bar.
     virtual const char* hint(const ToolContext&) const { return "Esc or right button: drop"; }
     virtual Footprint footprint(const ToolContext&) const { return {}; }
 
   protected:
-    /// The Space key of the tools that place pixels: what stands is committed; what is held goes on from there.
+    /// The Space key of the tools that place pixels: commits them where they are and continues the placing.
     void fix(ToolContext& c) const;
     static constexpr const char* kFixHint = "Space: fix and go on · Esc: drop";
 };

@@ -26,20 +26,20 @@ const Tool* Tools::underWay() const
     return context_.stores().pastePending ? &pasteRow().tool() : nullptr;
 }
 
-/// Runs a part of an event. False when the object is gone afterwards.
+/// Runs a part of an event. False when this object was destroyed by it.
 template <class Action> bool Tools::guarded(Action action)
 {
     const std::weak_ptr<int> life = context_.life;
     try {
         action();
-    } catch (const RuntimeError&) { // the event ends here, the program goes on
+    } catch (const RuntimeError&) { // the event ends here, the program continues
     } catch (const Cancelled&) {
     } catch (const std::bad_alloc&) {
     }
     return !life.expired();
 }
 
-/// The document is being worked on: no tool may begin anything.
+/// A change of the document is under way: no tool may begin anything.
 bool Tools::isWaiting() const { return !context_.down && context_.workspace().isBusy(context_.document.handle()); }
 
 void Tools::showPointer()
@@ -65,7 +65,7 @@ void Tools::press(int button, int x, int y)
     }
     c.at = c.press = {x, y};
     if (button == Left) {
-        if (c.down && active_) drop(); // the release of the drag before went elsewhere
+        if (c.down && active_) drop(); // the release of the previous drag went elsewhere
         c.start = c.at;
         c.last = c.at;
         c.down = true;
@@ -111,7 +111,7 @@ void Tools::release(int button, int x, int y)
     c.at = {x, y};
     if (button == Left && c.down && active_) {
         const Tool* const holder = active_;
-        c.down = false; // a second release ends the drag and commits nothing
+        c.down = false; // a second release ends the drag without a commit
         if (!guarded([&] { holder->release(c); })) return;
         open_ = holder->unfinished(c) ? holder : nullptr;
     } else if (button == Right) {
@@ -121,7 +121,7 @@ void Tools::release(int button, int x, int y)
     endRelease();
 }
 
-/// What hangs on the screen goes away, and the picture is the committed one again.
+/// Removes temporary displays and restores the committed picture.
 void Tools::cancel()
 {
     ToolContext& c = context_;
@@ -176,7 +176,7 @@ void Tools::showHint()
     context_.frame.setStatus(Panel::Hint, gesture ? QString::fromUtf8(gesture->hint(context_)) : QString());
 }
 
-/// The end of every release: the outline runs again and the engine knows the working region.
+/// The end of every release: the outline runs again and the engine gets the working region.
 void Tools::endRelease()
 {
     ToolContext& c = context_;
@@ -187,9 +187,9 @@ void Tools::endRelease()
     if (c.workspace().engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
     c.down = c.moving = false;
     active_ = nullptr;
-    toolChosen(); // one that came during the drag
+    toolChosen(); // one chosen during the drag
     showHint();
-    c.workspace().goOn(c.document.handle()); // what waited for the end of the stroke
+    c.workspace().goOn(c.document.handle()); // starts what waited for the end of the stroke
 }
 
 void Tools::deactivated()
@@ -241,7 +241,7 @@ bool Tools::doubleClick(int x, int y)
     return context_.document.PictureExists() && !active_ && tool() && end(&Tool::doubleClick);
 }
 
-/// What ends a gesture. False: nothing was ended.
+/// Ends a gesture in the given way. False: there was none to end.
 bool Tools::end(bool (Tool::*how)(ToolContext&) const)
 {
     bool ended = false;

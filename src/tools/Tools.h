@@ -3,7 +3,7 @@
 //
 // A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
 // back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
-// arithmetic end the event and nothing else. A yield within a tool may destroy this object.
+// arithmetic end the event and nothing else. A call that leaves a tool may destroy this object.
 #pragma once
 #include "tools/ToolContext.h"
 #include "tools/toolRows.h"
@@ -25,31 +25,31 @@ class Tools {
         ArrowDown = 40
     };
 
-    /// All three outlive this object.
+    /// All three must outlive this object.
     Tools(Document& document, Frame& frame, ToolSurface& surface);
 
-    /// x, y in picture pixels, as the display converts them; they may lie outside of the picture. The caller drops
-    /// moves within one picture pixel and those that scroll by hand. button is the one pressed, held or released.
+    /// x, y in picture pixels, as converted by the display; they may lie outside of the picture. The caller drops moves
+    /// within one picture pixel and those of hand scrolling. button is the one pressed, held or released.
     void press(int button, int x, int y);
     void move(int button, int x, int y);
     void release(int button, int x, int y);
-    /// The second press of a double click; the caller gives it to press() when this is false.
+    /// The second press of a double click; if this is false the caller passes it to press().
     bool doubleClick(int x, int y);
-    /// Numbers as in Key. False: the key has no use here.
+    /// Codes as in Key. False: the key is not used.
     bool keyDown(int key);
     bool keyUp(int key);
-    /// A drag, a half-made polygon and a pending paste end without a trace. False: there was none.
+    /// Drops a drag, an unfinished polygon or a pending paste without a trace. False: there was none.
     bool drop();
-    /// Another tool was chosen, or another setting of one: what the tool before has begun is dropped, but for a drag.
+    /// Another tool, or another setting of one, was chosen: drops what the previous tool has begun, except a drag.
     void toolChosen();
-    /// The picture has another size: the corners of a half-made polygon mean nothing any more.
+    /// The picture's size has changed: the corners of an unfinished polygon are invalid.
     void pictureReplaced();
     /// The selection by command; a gesture under way is dropped.
     void select(Selecting what);
-    /// The status bar says which keys end what is under way; nothing when nothing is.
+    /// Shows in the status bar which keys end the current gesture; nothing without one.
     void showHint();
-    /// Another document is about to become the active one, and the engine its: a drag ends without a commit, and what
-    /// hangs on the pointer leaves the picture.
+    /// Another document is about to become active, and to use the engine: a drag ends without a commit, and a pending
+    /// paste is removed from the picture.
     void deactivated();
     /// Shows the pointer of the chosen tool.
     void showPointer();
@@ -63,9 +63,9 @@ class Tools {
 
   private:
     const ToolRow* chosen() const; // null for none
-    /// The one that holds the drag, else the chosen one.
+    /// The tool that holds the drag, else the chosen one.
     const Tool* tool() const;
-    /// The one with a gesture under way; null for none.
+    /// The tool with a gesture under way; null for none.
     const Tool* underWay() const;
     bool isWaiting() const;
     template <class Action> bool guarded(Action action);
@@ -76,7 +76,7 @@ class Tools {
 
     ToolContext context_;
     const Tool* active_ = nullptr; // from a left press to its release
-    const Tool* open_ = nullptr;   // its gesture goes on after the release; the chosen one
+    const Tool* open_ = nullptr;   // its gesture continues after the release; the chosen one
 };
 
 } // namespace velara

@@ -9,9 +9,9 @@ namespace velara {
 class Machine;
 class Platform;
 
-/// The names of the "*.bmp" files, by name without regard to case; nothing when the folder is missing.
+/// The names of the "*.bmp" files, sorted without regard to case; nothing when the folder is missing.
 std::optional<QStringList> stampFiles(Machine& machine);
-/// The picture of one of them; empty when it can't be read.
+/// The picture of a stamp; empty when it can't be read.
 Bits loadStamp(Platform& platform, const QString& fileName);
 
 } // namespace velara

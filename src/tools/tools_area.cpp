@@ -1,4 +1,4 @@
-// The tools whose work is done at the release, and the pipette.
+// The tools that work at the release, and the pipette.
 #include "engine/cBitFilter.h"
 #include "pixels/numbers.h"
 #include "tools/ToolContext.h"

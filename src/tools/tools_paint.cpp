@@ -1,4 +1,4 @@
-// The tools that paint along the way of the pointer, and those that preview a shape of the present position.
+// The tools that paint along the pointer's path, and those that preview a shape at the current position.
 #include "pixels/numbers.h"
 #include "tools/ToolContext.h"
 #include <cstdlib>
@@ -7,14 +7,14 @@ namespace velara {
 
 namespace {
 
-/// A stroke: each move paints, the release commits. Refused when what it paints with is not there.
+/// A stroke: each move paints, the release commits. Refused when there is nothing to paint with.
 class StrokeTool : public Tool {
     bool press(ToolContext& c) const final
     {
         if (!isReady(c)) return false;
         c.surface.StopTimer();
         c.preview.begin();
-        c.repaint(); // what another command has left to be shown
+        c.repaint(); // shows what another command has left unpainted
         c.paint().CreateDoneBitsTable();
         c.connect = false;
         hold(c);
@@ -28,7 +28,7 @@ class StrokeTool : public Tool {
         c.repaint();
     }
     void release(ToolContext& c) const final { c.commit(); }
-    /// The whole copy of the first stroke is made while nothing waits for it.
+    /// Makes the first stroke's full copy in advance, while nothing waits for it.
     void hover(ToolContext& c) const final { c.preview.prepare(); }
 
   protected:
@@ -37,7 +37,7 @@ class StrokeTool : public Tool {
     virtual void paint(ToolContext&) const = 0;
 };
 
-/// The middle of what is placed hangs on the pointer.
+/// The placed pixels are held by their centre.
 Point middleOf(const Bits& bits) { return {(bits.width() + 1) / 2 + 1, (bits.height() + 1) / 2 + 1}; }
 
 Footprint placed(const Bits& bits)
@@ -47,7 +47,7 @@ Footprint placed(const Bits& bits)
     return {Footprint::Box, {-x, -y, bits.width() - x, bits.height() - y}};
 }
 
-/// A round dab, by its diameter as the painter reads it.
+/// A round dab, by its diameter as the painter interprets it.
 Footprint disc(int size)
 {
     const int r = roundEven(size * 0.5);
@@ -160,7 +160,7 @@ class TextTool final : public StrokeTool {
     const char* hint(const ToolContext&) const override { return kFixHint; }
 };
 
-/// The pixels hang on the pointer from the command on; a click lays them down, the right button lets go of them.
+/// The pixels follow the pointer from the command on; a click puts them down, the right button drops them.
 class PasteTool final : public Tool {
     bool press(ToolContext& c) const override
     {

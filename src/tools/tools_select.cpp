@@ -8,15 +8,15 @@ namespace velara {
 
 namespace {
 
-constexpr int kNearFirstCorner = 3;      // pixels within which a release meets the first corner of a polygon
-constexpr std::size_t kLeastCorners = 6; // numbers of a polygon that encloses something
+constexpr int kNearFirstCorner = 3;      // pixels within which a release hits the first corner of a polygon
+constexpr std::size_t kLeastCorners = 6; // coordinates of the smallest polygon with an area
 
 Combine combineOf(const ToolContext& c)
 {
     return c.setup().SelectionMode == SelectionMode::Subtract ? Combine::Diff : Combine::Or;
 }
 
-/// The band of this drag as left, top, right, bottom.
+/// The rubber band of this drag as left, top, right, bottom.
 Rect bandOf(const ToolContext& c)
 {
     return {std::min(c.start.x, c.at.x), std::min(c.start.y, c.at.y), std::max(c.start.x, c.at.x),
@@ -46,15 +46,15 @@ void closePolygon(ToolContext& c)
     dropCorners(c);
 }
 
-/// The selection as it was before the gesture.
+/// Restores the selection from before the gesture.
 void giveBackSelection(ToolContext& c)
 {
     c.document.Region.setRegion(c.before.isNull() ? Region::rectangle(0, 0, 0, 0) : c.before);
 }
 
-/// A polygon is made of drags or clicks from corner to corner: a release sets a corner, and so does Space while the
-/// button stays down. It closes by Enter, by a double click, at the end of a drag with corners set by Space, or where a
-/// release meets the first corner.
+/// A polygon is made by dragging or clicking from corner to corner: a release sets a corner, and so does Space while
+/// the button is down. It is closed by Enter, by a double click, at the end of a drag with corners set by Space, or
+/// when a release hits the first corner.
 class SelectTool final : public Tool {
     bool press(ToolContext& c) const override
     {
@@ -74,7 +74,7 @@ class SelectTool final : public Tool {
         if (shape == SelectionShape::Pixel) {
             c.surface.SetAutoRedraw(true);
             c.surface.StopTimer();
-            drag(c); // a click takes its pixel
+            drag(c); // a click selects its pixel
         }
         return true;
     }
@@ -96,7 +96,7 @@ class SelectTool final : public Tool {
         }
     }
 
-    /// Between two corners the line to the next one follows the pointer.
+    /// Between two corners a line follows the pointer.
     void hover(ToolContext& c) const override
     {
         if (!c.polygon) return;
@@ -136,7 +136,7 @@ class SelectTool final : public Tool {
 
     void cancel(ToolContext& c) const override
     {
-        // A command that came meanwhile has made a selection of its own.
+        // A command may have made a selection of its own meanwhile.
         if (c.setup().SelectionShape == SelectionShape::Pixel || c.document.Region.Region() == c.wiped)
             giveBackSelection(c);
         dropCorners(c);
@@ -167,7 +167,7 @@ class SelectTool final : public Tool {
         return true;
     }
 
-    /// The first click of the two has set the last corner. One that closed the polygon begins no other.
+    /// The first click of the two has set the last corner. A double click that closed the polygon begins no new one.
     bool doubleClick(ToolContext& c) const override
     {
         finish(c);
@@ -182,7 +182,7 @@ class SelectTool final : public Tool {
     }
 };
 
-/// Moves the outline alone, or a copy of the content. moving: the press lay in the selection.
+/// Moves the outline alone, or a copy of the content. moving: the press was inside the selection.
 class SelectionMoveTool final : public Tool {
     bool press(ToolContext& c) const override
     {
@@ -195,15 +195,15 @@ class SelectionMoveTool final : public Tool {
         return true;
     }
 
-    /// The selected pixels go into the frame's store. False when none of them lie in the picture.
+    /// Puts the selected pixels into the frame's store. False when none of them are in the picture.
     static bool takeContent(ToolContext& c)
     {
         const Rect box = c.document.Region.Region().bounds().intersected(c.document.Region.RegionMain().bounds());
         if (box.isEmpty()) return false;
         c.surface.UpdateImage();
         c.surface.setWaiting(true);
-        c.preview.commit(); // the engine works on what is seen
-        cBitFilter cutter;  // of its own, so that the engine keeps the committed picture
+        c.preview.commit(); // the engine works on what is visible
+        cBitFilter cutter;  // a separate engine, so that the frame's keeps the committed picture
         cutter.setBits(c.document.bits());
         cutter.setBitsRegion(c.document.Region.Region());
         cutter.BitsCropMasked(c.document.bits(), box.left, box.top, box.right, box.bottom);

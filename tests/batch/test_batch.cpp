@@ -1,4 +1,4 @@
-// The real program on real files: what it writes, what it says and how it ends.
+// The real program on real files: its output, its messages and its exit status.
 #include "region/Region.h"
 #include "support/files.h"
 #include "support/places.h"
@@ -15,14 +15,14 @@ struct Outcome {
 };
 
 constexpr int kWidth = 12, kHeight = 9;
-const char* const kFullDisk = "trap '' XFSZ && ulimit -f 40000"; // 20 MB: room for the child that reads
+const char* const kFullDisk = "trap '' XFSZ && ulimit -f 40000"; // 20 MB: enough for the decoder child
 
 struct BatchTest : FolderTest {
     QTemporaryDir temporary;
 
     void SetUp() override { ASSERT_TRUE(input().save(path("in.ppm"))); }
 
-    /// Runs it in the folder; arguments are split at blanks. before is shell text that runs first.
+    /// Runs it in the folder; arguments are separated by blanks. before is a shell command to run first.
     Outcome run(const QString& arguments, const QString& before = "true") const
     {
         QProcess process;
@@ -37,7 +37,7 @@ struct BatchTest : FolderTest {
         const bool ended = process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit;
         return {ended ? process.exitCode() : -1, process.readAllStandardError(), process.readAllStandardOutput()};
     }
-    /// Whether a run has that exit status and says that among its errors.
+    /// Whether a run has that exit status and that text on standard error.
     ::testing::AssertionResult ends(int status, const QString& arguments, const QString& said = {},
                                     const QString& before = "true") const
     {
@@ -46,7 +46,7 @@ struct BatchTest : FolderTest {
         return ::testing::AssertionFailure() << arguments.toStdString() << ": " << outcome.status << ", not " << status
                                              << "; " << outcome.errors.toStdString();
     }
-    /// What steps make of a picture, the input.
+    /// The result of steps on the input picture.
     QImage result(const QString& steps, QSize size = {kWidth, kHeight}, const QString& of = "in.ppm") const
     {
         EXPECT_TRUE(ends(0, of + ' ' + steps + " out.ppm"));
@@ -206,7 +206,7 @@ TEST_F(BatchTest, SelectionsLimitTheStepsAfterThem)
     };
     const auto a = rect(2, 1, 8, 6), b = rect(5, 3, 12, 9);
     const std::pair<const char*, std::function<bool(int, int)>> kCases[] = {
-        // steps, what they invert
+        // steps, the pixels they invert
         {"INVERT", [](int, int) { return true; }},
         {"--select rect:2,1,8,6 INVERT", a},
         {"--select=rect:2,1,8,6 INVERT", a},
@@ -237,7 +237,7 @@ TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
     EXPECT_EQ(inverted, result("INVERT FLIPH UNDO UNDO REDO"));
     EXPECT_EQ(original, result("UNDO REDO"));
     EXPECT_EQ(original, result("2x ORIGINAL"));
-    result("50 50", {6, 4}); // a run of sizings starts from its beginning
+    result("50 50", {6, 4}); // a run of sizing words starts from the picture before the first
     result("20", {2, 2});
     EXPECT_EQ(result("BitsResize(6,4) INVERT BitsResize(3,2)", {3, 2}), result("50 INVERT 50", {3, 2}));
     const std::pair<const char*, QSize> kReduced[] = {{"50", {63, 42}}, {"33", {42, 28}}, {"25", {32, 21}},
@@ -254,13 +254,13 @@ TEST_F(BatchTest, EveryWordOfTheListRuns)
 {
     put("large.ppm", "P6 60 50 255\n" + QByteArray(3 * 60 * 50, '7'));
     const QString list = run("--list").output.section("\nOperations", 0, 0);
-    QStringList words; // one with its meaning a line, then those that do nothing, several a line
+    QStringList words; // one with its meaning per line, then those that do nothing, several per line
     for (const QString& line : list.split(u'\n').mid(1))
         if (line.startsWith("    "))
             words << line.split(u' ', Qt::SkipEmptyParts);
         else if (!line.endsWith(u':'))
             words << line.simplified().section(u' ', 0, 0);
-    words.removeAll("CROP"); // it needs a selection, which sizing words wipe
+    words.removeAll("CROP"); // it needs a selection, which sizing words clear
     ASSERT_GT(words.size(), 130);
     for (qsizetype i = 0; i < words.size(); i += 12) {
         const QString steps = words.mid(i, 12).join(u' ');

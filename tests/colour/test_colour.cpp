@@ -103,7 +103,7 @@ TEST(Cells, UserListIsReadAsFarAsItGoesAndWrittenToTheByte)
     for (const auto& [line, value] : kLines) text += QByteArray(line) + "\r\n";
     UserColours list;
     list.fill(5);
-    readUserColours(text + " 8", list); // the last one without an end
+    readUserColours(text + " 8", list); // the last one without a terminator
     for (std::size_t i = 0; i < std::size(kLines); ++i) EXPECT_EQ(kLines[i].second, list[i]) << kLines[i].first;
     EXPECT_EQ(8, list[std::size(kLines)]);
     EXPECT_EQ(5, list[std::size(kLines) + 1]) << "no line, no change";

@@ -1,4 +1,4 @@
-// The filter on the whole picture beside the thread of the windows.
+// The filter on the whole picture in a thread beside that of the windows.
 #include "commands/DetailRun.h"
 #include "pixels/RuntimeError.h"
 #include "support/filterOf.h"
@@ -43,7 +43,7 @@ TEST_F(DetailRunTest, TheLastArgumentsAreAlwaysRunAndFewOfThoseBetween)
     for (int value = 1; value <= 200; ++value) run.start(level(value));
     EXPECT_TRUE(lastIs(wanted(200)));
     EXPECT_LT(results.size(), 100U);
-    run.stop(); // which is not for good
+    run.stop(); // doesn't prevent a later start
     run.start(level(-30));
     EXPECT_TRUE(lastIs(wanted(-30)));
 }
@@ -79,7 +79,7 @@ TEST_F(DetailRunTest, StoppingEndsARunThatWorksAndTheRestIsSilence)
         DetailRun run(endless, picture, selection, keep());
         run.start({});
         while (!works) std::this_thread::yield();
-    } // which waits
+    } // waits for the thread
     EXPECT_TRUE(ended);
     EXPECT_TRUE(results.empty());
 }

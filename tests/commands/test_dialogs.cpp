@@ -1,4 +1,4 @@
-// What each filter dialog shows, as text, against the row beside the definition of its operation.
+// The contents of each filter dialog, as text, compared with the row beside the definition of its operation.
 #include "tools/reference/dialogTrials.h"
 #include <QString>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The effects of the textures box against the operations that they come to.
+// The effects of the textures box compared with the operations that they call.
 #include "commands/effects.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"

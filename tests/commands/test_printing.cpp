@@ -1,4 +1,4 @@
-// Where pictures go on pages.
+// The placement of pictures on pages.
 #include "commands/printing.h"
 #include "pixels/RuntimeError.h"
 #include "support/pictures.h"

@@ -85,7 +85,7 @@ TEST_F(DraftTest, AJobThatNeedsTooMuchMemoryFailsWithBothNumbersAndChangesNothin
     EXPECT_EQ(Outcome::Failed, outcome.kind);
     EXPECT_EQ("it needs 16 MB of memory, more than half of the 20 MB that are free", outcome.reason.toStdString());
     EXPECT_TRUE(sameBits(before, document.bits()));
-    const Bits afterIt(2002, 1998); // the budget was the job's
+    const Bits afterIt(2002, 1998); // the budget ended with the job
 }
 
 TEST_F(DraftTest, RandomNumbersGoOnFromJobToJob)

@@ -8,7 +8,7 @@ namespace velara {
 
 namespace {
 
-/// A picture of one channel's values, row by row; the other channels follow it.
+/// A picture from one channel's values, row by row; the other channels are derived from it.
 Bits picture(int width, int height, const std::vector<int>& blues)
 {
     return drawnBits(width, height, [&](int x, int y) {
@@ -68,12 +68,12 @@ TEST(cDIBSection, ResamplesFromCornerToCorner)
 {
     const cDIBSection section = sectionOf(picture(2, 2, {0, 100, 50, 250}));
     EXPECT_TRUE(sameBits(section.toBits(), section.Resample(2, 2)->toBits()));
-    // Halves to even: 12.5 in the first row gives 12.
+    // Half to even: 12.5 in the first row gives 12.
     const Bits wanted = picture(3, 3, {0, 50, 100, 25, 100, 175, 50, 150, 250});
     EXPECT_TRUE(sameBits(wanted, section.Resample(3, 3)->toBits()));
     EXPECT_EQ(section.Resample(2, 5)->toBits().at(1, 0).c[0], 25);
     EXPECT_EQ(section.Resample(2, 9)->toBits().at(1, 0).c[0], 12);
-    EXPECT_EQ(section.Resample(2, 3)->Height(), 2); // the height comes first
+    EXPECT_EQ(section.Resample(2, 3)->Height(), 2); // height is the first argument
     EXPECT_THROW(section.Resample(1, 5), RuntimeError);
     EXPECT_FALSE(section.Resample(0, 5));
     EXPECT_FALSE(cDIBSection().Resample(3, 3));

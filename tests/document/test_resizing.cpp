@@ -1,4 +1,4 @@
-// A document's steps back and the commands that change its size.
+// A document's undo steps and the commands that change its size.
 #include "commands/sizeWords.h"
 #include "document/Draft.h"
 #include "document/resizing.h"
@@ -30,7 +30,7 @@ struct ResizingTest : ::testing::Test {
         document.Region.setRegion(Region::rectangle(left, top, right, bottom));
         document.handTo(filter);
     }
-    /// A sizing word, as the frame and the batch program run it.
+    /// Runs a sizing word as the frame and the batch program do.
     void zoom(int factor, bool enlarge = false)
     {
         Draft draft(document, document.bits(), filter, After::Sizing);
@@ -72,7 +72,7 @@ TEST_F(ResizingTest, AStepBackKeepsTheSelectionUnlessTheSizeChanges)
         document.setBits(bits);
         document.SaveUndoBits();
     }
-    for (const int height : {3, 6}) { // of one side alone, then of the other
+    for (const int height : {3, 6}) { // changes of one side only, then of the other
         select(1, 1, 3, 3);
         ASSERT_TRUE(document.UndoBits(filter));
         EXPECT_TRUE(document.Region.IsEmptyRegion()) << height;
@@ -101,7 +101,7 @@ TEST_F(ResizingTest, ARunOfSizingsStartsFromThePictureBeforeTheFirst)
     const Bits bits = randomBits(21, 10, 4);
     open(bits);
     select(0, 0, 4, 4);
-    zoom(2); // 10.5 and 5: halves go to the even neighbour
+    zoom(2); // 10.5 and 5: half to even
     expectSize(10, 5);
     EXPECT_TRUE(document.Region.IsEmptyRegion());
     zoom(2);
@@ -112,7 +112,7 @@ TEST_F(ResizingTest, ARunOfSizingsStartsFromThePictureBeforeTheFirst)
     expectSize(21, 10);
     EXPECT_EQ(colours(bits), colours(document.bits()));
     EXPECT_TRUE(document.Zoomed);
-    document.Zoomed = false; // another change came between
+    document.Zoomed = false; // as after another change
     zoom(2);
     zoom(2);
     expectSize(10, 5);
@@ -144,7 +144,7 @@ TEST_F(ResizingTest, SizingThrowsNoEditAway)
         document.undo.stands();
     };
     open(bits);
-    { // the edit can't be written, and the smaller picture can
+    { // the edit can't be written, but the smaller picture can
         const FullDisk full(1000);
         edit();
         for (const auto& [factor, size] : {std::pair{2, 10}, {3, 7}, {1, 20}}) {
@@ -171,7 +171,7 @@ TEST_F(ResizingTest, SizingThrowsNoEditAway)
     open(bits);
     edit();
     zoom(2);
-    document.UndoBits(filter); // by hand: the run is over
+    document.UndoBits(filter); // by the user: the run is over
     zoom(1);
     EXPECT_EQ(colours(edited), colours(document.bits()));
     zoom(2);
@@ -208,14 +208,14 @@ TEST_F(ResizingTest, QuarterTurnsMoveEveryPixel)
         {"N180", {25, 24, 23, 22, 21, 15, 14, 13, 12, 11, 5, 4, 3, 2, 1}, 5},
     };
     for (const auto& c : kCases) {
-        open(numbered(5, 3)); // the square to turn in has a side of 5
+        open(numbered(5, 3)); // the square to rotate in has a side of 5
         rotateImage(document, filter, findRow(sizeWords(), c.word, &SizeWord::word)->value, false);
         expectSize(c.width, 15 / c.width);
         EXPECT_EQ(c.wanted, colours(document.bits())) << c.word;
     }
 }
 
-/// The definition: the picture laid in the middle of a black square, and all of that turned.
+/// The definition: the picture centred in a black square, and the whole square rotated.
 cBitFilter turnedSquare(const Bits& picture, int side, int degrees, bool smooth)
 {
     cBitFilter square = filterOf(Bits(side, side));
@@ -226,8 +226,8 @@ cBitFilter turnedSquare(const Bits& picture, int side, int degrees, bool smooth)
     return square;
 }
 
-/// Of the square only what is shown is ever worked out; halves of one pixel, the square's edge and what stays there
-/// because its source lies outside of it come out all the same.
+/// Only the visible part of the square is computed; halves of a pixel, the square's edge, and pixels kept because their
+/// source lies outside of it come out the same.
 TEST_F(ResizingTest, TurningGivesWhatTheTurnedSquareHas)
 {
     const std::pair<int, int> kSizes[] = {{1, 1}, {2, 1}, {7, 2}, {2, 9}, {8, 5}, {9, 6}, {90, 1}, {30, 31}, {70, 67}};

@@ -17,7 +17,7 @@ TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
 {
     const Bits picture = randomBits(60, 40, 1), texture = randomBits(13, 9, 2);
     const Region selection = Region::ellipse(5, 3, 55, 38);
-    constexpr int kRows[][4] = {// of itself, engraved, intensity, weight: halves to the even neighbour
+    constexpr int kRows[][4] = {// of itself, engraved, intensity, weight: half to even
                                 {false, false, 25, 2},
                                 {false, true, 100, 10},
                                 {false, false, 35, 4},
@@ -31,7 +31,7 @@ TEST(Texturing, TheReliefOfAFileAndOfThePictureItself)
         const Texturing texturing{own ? Bits() : texture, intensity, engrave == 1};
         EXPECT_TRUE(sameBits(wanted, texturized(filter, texturing))) << intensity;
 
-        // The piece that the dialog shows.
+        // The part shown in the dialog.
         for (const Rect part : {Rect{20, 10, 50, 30}, Rect{0, 0, 30, 20}, Rect{30, 20, 60, 40}}) {
             const Bits shown = texturizedPart(picture, selection, texturing, part);
             int wrong = 0;
@@ -67,7 +67,7 @@ TEST(StockTextures, JoinOnToThemselves)
     for (const StockTexture& texture : stockTextures()) {
         const Bits bits = texture.draw();
         ASSERT_EQ(kTextureSide, bits.width());
-        // What lies between two columns (rows), over the seam as anywhere.
+        // Positions between columns (rows), across the seam as elsewhere.
         const auto step = [&](bool across, int at) {
             double sum = 0;
             for (int k = 0; k < kTextureSide; ++k)

@@ -1,4 +1,4 @@
-// A clipboard owner that behaves badly, in the way of its first argument:
+// A misbehaving clipboard owner; its first argument selects how:
 //   many FILE        image/png, among a million types
 //   late MS          ten kinds of picture, junk each, handed over so many milliseconds after it was asked
 //   drip FILE BYTES  image/bmp, in pieces of so many bytes, twenty a second
@@ -61,7 +61,7 @@ int main(int, char** argv)
     xcb_get_selection_owner_reply(x, xcb_get_selection_owner(x, clipboard), nullptr);
     std::puts("the clipboard is ours");
     std::fflush(stdout);
-    qsizetype at = 0; // of the piece that is next
+    qsizetype at = 0; // start of the next piece
     while (xcb_generic_event_t* event = xcb_wait_for_event(x)) {
         const auto* gone = reinterpret_cast<xcb_property_notify_event_t*>(event);
         if (event->response_type == XCB_PROPERTY_NOTIFY && gone->state == XCB_PROPERTY_DELETE && at <= bytes.size()) {

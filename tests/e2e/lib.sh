@@ -1,4 +1,4 @@
-# The end-to-end tests' person: a virtual screen with a window manager, a scratch copy of the programs, keys and eyes.
+# The user of the end-to-end tests: a virtual screen with a window manager, a scratch copy of the programs, input, screenshots.
 # Sourced with the folder of the built programs as $1. Everything started here ends with the script.
 set -eu
 bin=$1
@@ -33,7 +33,7 @@ fail() {
     exit 1
 }
 
-# until WHAT COMMAND...: waits for the command to succeed, as long as a loaded machine may need
+# until WHAT COMMAND...: waits for the command to succeed, with a generous limit for loaded machines
 until_true() {
     what=$1
     patience=$(($(date +%s) + 120))
@@ -43,12 +43,12 @@ until_true() {
         sleep 0.05
     done
 }
-# The window manager and the editor have handled what was sent to them so far.
+# Waits until the window manager and the editor have processed everything sent to them so far.
 settled() { "$bin/settled" "$main" || fail "the editor doesn't answer"; }
-# noise BYTES: random ones, of the seed
+# noise BYTES: seeded random bytes
 noise() { python3 -c 'import random as r, sys; r.seed(int(sys.argv[1])); sys.stdout.buffer.write(r.randbytes(int(sys.argv[2])))' "$seed" "$1"; }
 
-# -noreset: a server that resets when its last client leaves takes the window manager that is just connecting with it.
+# -noreset: a server that resets when its last client leaves disconnects a window manager that is just connecting.
 Xvfb -noreset -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
 pids="$pids $!"
 until_true "a display" test -s "$scratch/display"
@@ -62,21 +62,21 @@ running() { kill -0 "$editor" 2>/dev/null; }
 gone() { ! running; }
 has_window() { xdotool search --onlyvisible --name "$1"; }
 no_window() { ! has_window "$1"; }
-# The window with that title has the keys
+# Whether the window with that title has the focus
 has_keys() { xdotool getactivewindow getwindowname | grep -q "$1"; }
 frame_has_keys() { [ "$(xdotool getactivewindow)" = "$main" ]; }
 box_has_keys() { has_keys '^Velara Studio' && ! frame_has_keys; }
 
-# The editor's windows that are titled like the frame: the frame and its boxes
+# The editor's windows with the frame's title: the frame and its boxes
 titled() { xdotool search --all --onlyvisible --pid "$editor" --name '^Velara Studio' 2>/dev/null; }
 count_titled() { [ "$(titled | wc -l)" = "$1" ]; }
-# The frame's window, while no box stands
+# The frame's window, while no box is open
 frame() { titled | head -1; }
-# So many undo files, of so many documents
+# Whether there are so many undo files, of so many documents
 undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
 documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
 
-# The frame has the keys; it stays, as the picture of the start doesn't.
+# Whether the frame has the focus; unlike the splash picture it stays open.
 started() { main=$(frame) && [ -n "$main" ] && settled && frame_has_keys && [ "$(titled)" = "$main" ]; }
 start() {
     (cd "$folder" && exec ./velara-studio) >"$scratch/log" 2>&1 &
@@ -85,7 +85,7 @@ start() {
     until_true "the frame" started
 }
 
-# A frame of 900 by 700 pixels without boxes and bars, which asks no questions: strip and picture lie still.
+# A frame of 900 by 700 pixels without boxes and bars, which asks no questions: strip and picture have fixed positions.
 start_plain() {
     start
     quit
@@ -103,7 +103,7 @@ tool() {
     settled
 }
 
-# offer TYPE FILE: another program's clipboard
+# offer TYPE FILE: puts it on the clipboard as another program
 offer() {
     xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
     owner=$!
@@ -118,7 +118,7 @@ keys() {
     done
 }
 
-# brings TITLE KEYS...: the window that the keys open
+# brings TITLE KEYS...: opens the window by the keys
 brings() {
     title=$1
     shift
@@ -128,7 +128,7 @@ brings() {
     settled
 }
 
-# enter TEXT: in place of what stands in the line, and Return
+# enter TEXT: replaces the text in the field, then Return
 enter() {
     xdotool key ctrl+a
     xdotool type --delay 4 "$1"
@@ -136,7 +136,7 @@ enter() {
     keys Return
 }
 
-# told WHAT: a message box beside the frame, which Return takes away
+# told WHAT: waits for a message box and closes it by Return
 told() {
     until_true "the message about $1" count_titled 2
     until_true "its keys" box_has_keys
@@ -144,7 +144,7 @@ told() {
     until_true "the message about $1 to go" count_titled 1
 }
 
-# stroke X Y X Y...: the left button held from the first place of the screen to the last
+# stroke X Y X Y...: drags with the left button from the first screen position to the last
 stroke() {
     xdotool mousemove "$1" "$2" mousedown 1
     while [ $# -gt 2 ]; do
@@ -157,7 +157,7 @@ stroke() {
     settled
 }
 
-# open FILE: by the file dialog; it stands, or there is a message about it
+# open FILE: by the file dialog; waits for its window or for a message
 opened() { [ -n "$(find "$folder/Temp" -name 'b*00.dat' -size +0 -newer "$scratch/asked")" ] || ! count_titled 1; }
 open_file() {
     brings 'Open file' ctrl+o
@@ -182,9 +182,9 @@ quit() {
     wait "$editor" || fail "the editor ended with $?"
 }
 
-# same FILE FILE: the same pixels
+# same FILE FILE: whether they have the same pixels
 same() { [ "$(compare -metric AE "$1" "$2" null: 2>&1)" = 0 ]; }
-# saves FILE WANTED WHAT: the picture, and it is the wanted one
+# saves FILE WANTED WHAT: saves the picture and compares it with the wanted one
 saves() {
     save_as "$1"
     same "$1" "$2" || fail "$3"

@@ -1,6 +1,6 @@
-// settled WINDOW: waits until the window manager and the window's program have handled what was sent to them so far.
-// Both are asked something that they answer in its turn, twice: what the first round has set going is done by the
-// second. Ends well too when the window goes meanwhile; with 1 when there is no answer for a minute.
+// settled WINDOW: waits until the window manager and the window's program have processed everything sent to them so
+// far. Both are sent a request that they answer in order, twice: the second round covers what the first has triggered.
+// Succeeds, too, if the window disappears meanwhile; exits with 1 without an answer for a minute.
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -34,7 +34,7 @@ void send(xcb_window_t to, std::uint32_t mask, xcb_window_t about, xcb_atom_t ty
     xcb_flush(display);
 }
 
-/// Until an event is the wanted one; the program ends when the window has gone.
+/// Waits for the wanted event; the program ends when the window has disappeared.
 template <class Wanted> void wait(Wanted wanted)
 {
     while (auto* event = xcb_wait_for_event(display)) {

@@ -1,8 +1,8 @@
 #!/bin/sh
-# Bad moments: broken files, the Temp folder swept away, a frame closed while a filter runs, a configuration of nonsense.
+# Bad moments: broken files, the Temp folder deleted, the frame closed while a filter runs, a garbage configuration.
 . "$(dirname "$0")/lib.sh"
 
-# A configuration of zeros, then of noise: the frame is there, of a size to work with.
+# A configuration of zeros, then of noise: the frame appears, in a usable size.
 zeros() { head -c "$1" /dev/zero; }
 for source in zeros noise; do
     $source 3081 >"$folder/Vlaera.dat"
@@ -13,13 +13,13 @@ for source in zeros noise; do
 done
 rm "$folder/Vlaera.dat"
 
-# A file that is no picture
+# A file that isn't a picture
 start
 echo "no picture" >"$scratch/bad.gif"
 open_file "$scratch/bad.gif"
 told "the file"
 
-# Temp swept away: the filter still works, and undo has what came after
+# Temp deleted: the filter still works, and undo has the later steps
 convert -size 60x40 plasma:red-blue -type truecolor "$scratch/in.bmp"
 convert "$scratch/in.bmp" -negate "$scratch/negative.bmp"
 open_file "$scratch/in.bmp"
@@ -30,11 +30,11 @@ saves "$scratch/out.bmp" "$scratch/negative.bmp" "the filter without its Temp fo
 keys alt+l i ctrl+z
 saves "$scratch/undone.bmp" "$scratch/negative.bmp" "undo after the folder came back"
 
-# The frame closed while a filter is at work
+# The frame closed while a filter runs
 convert -size 4000x3000 gradient:red-blue "$scratch/large.bmp"
 open_file "$scratch/large.bmp"
 until_true "the large picture" sh -c "[ \$(find '$folder/Temp' -name 'b*.dat' -size +40000k | wc -l) = 1 ]"
-# had it ended before, the changed picture would be asked about
+# if it had ended before, the changed picture would cause a question
 for key in alt+l p alt+F4; do xdotool key $key; done
 until_true "the editor to end" gone
 wait "$editor" || fail "the editor ended with $?"

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Pictures found by browsing: type ahead, look at the preview, open by a double click and by Enter; a folder chosen for
-# the textures box; the preview in the open dialog. What is on the screen is told by colours that nothing else has.
+# the textures box; the preview in the open dialog. Screen contents are recognised by colours that nothing else has.
 . "$(dirname "$0")/lib.sh"
 export XDG_CACHE_HOME=$scratch/home/.cache
 
@@ -10,13 +10,13 @@ convert -size 300x200 'xc:#12fe34' "$pictures/green.PNG"
 convert -size 300x200 'xc:#fe12ab' "$pictures/pink.bmp"
 for i in $(seq 60); do echo note >"$pictures/note$i.txt"; done
 
-# place COLOUR [LEAST WIDTH]: the box of what has it on the screen, as WxH+X+Y
+# place COLOUR [LEAST WIDTH]: the bounding box of the colour on the screen, as WxH+X+Y
 place() {
     import -window root "$scratch/screen.png"
     convert "$scratch/screen.png" -fill black +opaque "$1" -fill white -opaque "$1" -define connected-components:verbose=true \
         -connected-components 4 null: | awk '/gray\(255\)|white|srgb\(255,255,255\)/ {print $2}'
 }
-# shows COLOUR COUNT: so many areas of it
+# shows COLOUR COUNT: whether there are so many areas of it
 areas() { place "$1" | grep -vc '^[0-4]x' || true; }
 shows() { [ "$(areas "$1")" = "$2" ]; }
 middle_of() { echo "$1" | tr 'x+' '  ' | awk '{print int($3 + $1 / 2), int($4 + $2 / 2)}'; }
@@ -31,7 +31,7 @@ xdotool type --delay 30 gree
 until_true "preview and thumbnail of the green one" shows '#12fe34' 2
 until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/normal/*.png"
 
-# The thumbnail stands at the left of its row: a double click on it
+# The thumbnail is at the left of its row: a double click on it
 thumb_at() { place '#12fe34' | sort -t+ -k2n | head -1; }
 still() { # rows move while pictures come in
     thumb=$(thumb_at)
@@ -52,7 +52,7 @@ until_true "the browser to close after a double click" double_clicked
 until_true "the open document" documents 1
 until_true "the open picture" shows '#12fe34' 1
 
-# It comes back where it was.
+# It reopens where it was.
 browse alt+f b
 until_true "its place again" shows '#12fe34' 2
 xdotool type --delay 30 pin
@@ -68,7 +68,7 @@ until_true "the preview in the dialog" shows '#fe12ab' $((pinks + 1))
 keys Escape Escape
 until_true "the dialog to close" no_window '^Open file$'
 
-# A folder for the textures box, by keys alone; its one file, applied, leaves nothing of a plain picture.
+# A folder for the textures box, by keys only; applying its one file changes every pixel of a plain picture.
 box=$(xdotool search --onlyvisible --name '^Textures: Emboss$')
 xdotool windowmove --sync "$box" 20 20
 xdotool windowactivate --sync "$box"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Pictures that other programs put on the clipboard: whole, in a large one's pieces, and from one that is silent.
+# Pictures that other programs put on the clipboard: complete, large ones in pieces, and from an owner that doesn't answer.
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert -size 1500x1200 plasma:red-blue -type truecolor "$scratch/in.bmp" # comes in pieces
@@ -23,7 +23,7 @@ kill -CONT "$owner"
 wait "$editor" || fail "the editor ended with $?"
 [ "$took" -lt 20000 ] || fail "a silent owner cost $took ms"
 
-# owner HOW...: one that behaves badly
+# owner HOW...: a misbehaving owner
 owner() {
     kill "$owner" 2>/dev/null || true
     rm -f "$scratch/owns"
@@ -32,7 +32,7 @@ owner() {
     pids="$pids $owner"
     until_true "the owner" test -s "$scratch/owns"
 }
-# pastes TITLED: how long it takes until so many windows stand, in milliseconds
+# pastes TITLED: how long it takes until so many windows are open, in milliseconds
 pastes() {
     before=$(date +%s%N)
     keys alt+e f

@@ -6,11 +6,11 @@
 convert -size ${W}x$H 'xc:#ff00ff' -fill '#00ff00' -draw 'rectangle 10,10 13,13' "BMP3:$scratch/in.bmp"
 open_large "$scratch/in.bmp" '#ff00ff' '#00ff00'
 
-# Nothing is selected: a message, and no clip.
+# Nothing selected: a message, and no clip.
 keys ctrl+c
 told "the selection"
 
-# A bitmap of another program, with nothing in the history: it hangs on the pointer, and a click lays it down.
+# A bitmap of another program, with an empty history: it follows the pointer, and a click places it.
 convert -size 6x6 'xc:#0000ff' PNG32:- | xclip -selection clipboard -t image/png -i
 keys ctrl+v
 xdotool mousemove $(over 40 30)
@@ -20,7 +20,7 @@ saved 1
 is 1 39 28 '255 0 0'
 is 1 50 30 "$plain"
 
-# An ellipse copied: the clipboard of the desktop has it with what is around transparent.
+# An ellipse copied: the desktop's clipboard has it with transparent surroundings.
 tool 2 0 # Select
 drag 8 8 18 18
 keys ctrl+c
@@ -28,7 +28,7 @@ xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
 [ "$(identify -format '%wx%h' "$scratch/clip.png")" = 10x10 ] || fail "the clip is $(identify "$scratch/clip.png")"
 [ "$(convert "$scratch/clip.png" -format '%[hex:p{3,3}]' info:)" = 00FF00FF ] || fail "the clip's pixel"
 
-# It follows the pointer, Space fixes it, another place by Space, Esc drops it: one step each.
+# It follows the pointer, Space places a copy, then another one, Esc drops it: one step each.
 keys ctrl+v
 xdotool mousemove $(over 30 20)
 settled

@@ -1,6 +1,6 @@
 #!/bin/sh
-# The question before a changed picture goes: cancel keeps everything, no lets go, yes saves. Signals ask it too, and a
-# question that nobody answers ends the program with the undo files still there.
+# The question before a changed picture is closed: cancel keeps everything, no discards, yes saves. Signals ask it, too, and
+# if nobody answers the program ends and keeps the undo files.
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 gradient:red-blue "$scratch/in.bmp"
 convert "$scratch/in.bmp" -negate "$scratch/negative.bmp"

@@ -29,19 +29,19 @@ until_true "the stretched picture" root_pixel 1205 800 0000ff
 keys alt+t e c
 until_true "the ground of the centred picture" root_pixel 1225 800 000000
 
-# captured N: as the Nth document, with the frame back
+# captured N: waits for the Nth document, with the frame visible again
 captured() {
     until_true "document $1" test -s "$folder/Temp/b000${1}00.dat"
     until_true "the frame back" frame_has_keys
     settled
 }
-# quick KEY N FILE: what an item of the menu of quick captures gives
+# quick KEY N FILE: saves the capture of an item of the quick capture menu
 quick() {
     keys alt+t q "$1"
     captured "$2"
     save_as "$3"
 }
-# pick KEY: the picker, on what the dialog's list has under that key
+# pick KEY: opens the picker for the entry of the dialog's list with that key
 pick() {
     brings 'Capture Screen' alt+t s
     brings 'Capture Rectangle' "$1" alt+u
@@ -68,7 +68,7 @@ saved_size "$scratch/rectangle.bmp" 60x20
 pixel_is "$scratch/rectangle.bmp" 20 10 FF0000
 pixel_is "$scratch/rectangle.bmp" 40 10 0000FF
 
-# Another program's window: it is behind the frame, and no part of the desktop.
+# Another program's window: it is behind the frame, and not part of the desktop.
 known=12AB34
 convert -size 120x90 "xc:#$known" "$scratch/known.png"
 display -geometry +1000+720 "$scratch/known.png" >/dev/null 2>&1 &
@@ -95,7 +95,7 @@ keys Escape
 until_true "the frame back" has_window '^Velara Studio'
 [ ! -e "$folder/Temp/b000800.dat" ] || fail "Esc has captured"
 
-# The scanner gives what another program gets from it.
+# The scanner delivers the same picture as to another program.
 xdotool windowactivate --sync "$(frame)"
 brings Acquire alt+f e a
 scanned() {
@@ -110,7 +110,7 @@ same "$scratch/scan.bmp" "$scratch/wanted.pnm" || fail "another picture than the
 [ ! -e "$folder/temp.bmp" ] || fail "temp.bmp is left"
 quit
 
-# Where windows are drawn twice as large it is still the screen's own pixels that count.
+# With windows at double scale captures are still in the screen's own pixels.
 export QT_SCALE_FACTOR=2
 start
 holds() { [ "$(stat -c %s "$folder/Temp/b000$1.dat")" = $((40 + ($2 + 4) * ($3 + 4) * 4)) ]; }

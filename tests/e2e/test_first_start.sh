@@ -1,5 +1,5 @@
 #!/bin/sh
-# A first start in an empty folder, which is killed; the second has everything all the same. And the road of one picture:
+# A first start in an empty folder, which is killed; the second has everything nevertheless. And the life of one picture:
 # open, filter, undo, redo, save.
 . "$(dirname "$0")/lib.sh"
 start

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Nothing foreign is parsed in the editor: pictures come in by every way, whole and broken, and after each the editor
-# has none of the system's plug-ins for picture formats in its memory. Names of files are texts, not pages.
+# Nothing foreign is parsed in the editor: pictures come in by every way, intact and broken, and after each the editor
+# has none of the system's plug-ins for picture formats in its memory. File names are shown literally, not as HTML.
 . "$(dirname "$0")/lib.sh"
 
 convert -size 60x40 plasma:red-blue -type truecolor "$scratch/in.bmp"
@@ -46,7 +46,7 @@ told "the screen, which is black all over"
 until_true "the frame back" frame_has_keys
 pure "New.bmp"
 
-# The first stamp of the folder is a GIF of another name; the folder's textures are drawn small.
+# The first stamp of the folder is a GIF with another extension; the folder's textures are shown as thumbnails.
 tool 2 1
 until_true "no reader" readers_gone
 pure "a stamp"

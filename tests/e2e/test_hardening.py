@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the compiler and the linker do against faults of memory is in the built programs: read from their bytes."""
+"""Checks in the built programs that the compiler's and linker's hardening is on."""
 import pathlib
 import struct
 import sys
@@ -13,7 +13,7 @@ PROBE = b"\x48\x83\x0c\x24\x00"  # orq $0, (%rsp): each page of a large frame is
 
 
 def faults(path):
-    """What the program lacks."""
+    """The hardening features that the program lacks."""
     data = path.read_bytes()
     kind, = struct.unpack_from("<H", data, 16)
     start, = struct.unpack_from("<Q", data, 32)

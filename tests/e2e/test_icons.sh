@@ -9,7 +9,7 @@ until_true "the other program's window" has_window 'gradient.png'
 start
 other=$(xdotool search --onlyvisible --name 'gradient.png' | head -1)
 
-# No document: the lower half works. What stands behind the frame is captured.
+# No document: the lower half works. The window behind the frame is captured.
 brings 'Extract Icon' alt+t o
 brings 'Icon Maker' b alt+g
 no_window '^Velara Studio' || fail "the frame stands in the way"

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The editor killed at random moments while it filters, saves and writes undo steps: the saved file is always a whole one,
-# the next start works, and the next save takes away what the killed one left. KILLS=200 for the long run.
+# The editor killed at random moments while it filters, saves and writes undo steps: the saved file is always complete,
+# the next start works, and the next save removes leftovers. KILLS=200 for the long run.
 . "$(dirname "$0")/lib.sh"
 kills=${KILLS:-5}
 RANDOM=$seed

@@ -1,5 +1,5 @@
 #!/bin/sh
-# What a document of 24 megapixels costs in memory: at rest, and at the worst moment of a filter.
+# The memory needed by a document of 24 megapixels: idle, and at the peak of a filter.
 . "$(dirname "$0")/lib.sh"
 if grep -q __asan_init "$bin/velara-studio"; then
     echo "Skipped: the sanitizer's own memory would be counted"

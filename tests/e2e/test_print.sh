@@ -1,5 +1,5 @@
 #!/bin/sh
-# A picture printed into a PDF file with a real mouse; what another program makes of it is compared with the picture.
+# A picture printed to a PDF file with a real mouse; another program's rendering of it is compared with the picture.
 . "$(dirname "$0")/lib.sh"
 
 convert -size 384x192 'xc:#0000ff' -fill '#ff0000' -draw 'rectangle 0,0 191,191' "BMP3:$scratch/in.bmp"
@@ -14,7 +14,7 @@ enter "$scratch/page"
 until_true "the page" test -s "$scratch/page.pdf"
 until_true "the dialog to close" no_window '^Print$'
 
-# At 96 dots an inch a picture of 384 by 192 is just as large on a landscape.
+# At 96 dpi a picture of 384 by 192 has its natural size on a landscape page.
 pdftoppm -r 96 -png -singlefile "$scratch/page.pdf" "$scratch/page"
 size=$(convert "$scratch/page.png" -format '%wx%h' info:)
 case $size in 1123x794 | 1056x816) ;; *) fail "the page is $size" ;; esac
@@ -23,7 +23,7 @@ case $box in 38[3-6]x19[1-4]+*) ;; *) fail "the picture is $box on the page" ;; 
 colours=$(convert "$scratch/page.png" -trim +repage -format '%[hex:p{90,90}] %[hex:p{290,90}]' info:)
 [ "$colours" = 'FF0000 0000FF' ] || fail "colours $colours"
 
-# The picture was printed, not changed: nobody asks on the way out; the clipboard keeps it.
+# The picture was printed, not changed: closing doesn't ask; the clipboard keeps it.
 xclip -selection clipboard -t image/png -o >"$scratch/clip.png"
 same "$scratch/clip.png" "$scratch/in.bmp" || fail "the clipboard has something else"
 quit

@@ -1,6 +1,6 @@
 #!/bin/sh
-# A picture whose reader never comes to an end: a box shows that it is being read, Esc and the box's own close give it up
-# at once, and left alone it ends by itself. The editor lives on in each case.
+# A picture whose reader never finishes: a box shows that it is being read, Esc and the box's close button cancel
+# at once, and otherwise a time limit ends it. The editor survives each case.
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 plasma:red-blue -type truecolor "$scratch/good.bmp"
 convert "$scratch/good.bmp" "$scratch/endless.gif"

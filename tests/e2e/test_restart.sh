@@ -1,5 +1,5 @@
 #!/bin/sh
-# What a second start remembers: place, size, bars, the recent list, the configuration; and a second instance beside the first.
+# What a second start remembers: position, size, bars, the recent list, the configuration; and a second instance beside the first.
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 gradient:red-blue "$scratch/in.bmp"
 start

@@ -1,11 +1,11 @@
 #!/bin/sh
-# Tools taken from the strip and dragged over the real window: what the undo file holds afterwards.
+# Tools chosen from the strip and dragged over the real window, and the resulting undo files.
 . "$(dirname "$0")/lib.sh"
 . "$(dirname "$0")/painting.sh"
 convert -size ${W}x$H 'xc:#ff00ff' "BMP3:$scratch/in.bmp"
 open_large "$scratch/in.bmp" '#ff00ff'
 
-# What is common to all: one step more, and one undo takes it away again.
+# Common to all: one more step, and one undo removes it again.
 back() {
     undo_files 2 || fail "more than a step: $(ls "$folder/Temp")"
     keys ctrl+z
@@ -28,7 +28,7 @@ for at in '0 2' '1 1' '0 1' '3 1' '2 1'; do # Pencil, Airbrush, Shape, Gradient,
     back
 done
 
-# Moves that wait while the editor has no time for them are not merged: the corner of the stroke stays.
+# Moves queued while the editor is busy are not merged: the corner of the stroke is kept.
 tool 0 2
 xdotool mousemove $(over 5 40) mousedown 1
 settled
@@ -58,7 +58,7 @@ is 1 30 20 "$white"
 is 1 15 15 "$plain"
 back
 
-# The right button takes a drag back, and no step is taken.
+# The right button undoes a drag, without a step.
 tool 0 1
 xdotool mousemove $(over 4 4) mousedown 1 mousemove $(over 40 30)
 settled

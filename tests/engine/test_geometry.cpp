@@ -1,4 +1,4 @@
-// The operations that cut, turn and size, where their rules are easy to miss.
+// The operations that crop, rotate and resize, where their rules are easy to miss.
 #include "support/faults.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
@@ -83,7 +83,7 @@ TEST(Geometry, ARunOfOneRowIsAtItsEndWhenAReportFallsDue)
     }
 }
 
-/// Pictures past the cache are copied in another way beside and between the selected pixels.
+/// Large pictures are copied by non-temporal stores beside and between the selected pixels.
 TEST(Geometry, WhatIsNotSelectedStaysInALargePicture)
 {
     const Bits before = randomBits(2049, 2047, 5);

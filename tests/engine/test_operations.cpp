@@ -1,4 +1,5 @@
-// Every operation of the table against what its definition gave, over random pictures, selections and arguments.
+// Every operation of the table compared with the results of its definition, for random pictures, selections and
+// arguments.
 #include "support/sums.h"
 
 namespace velara {

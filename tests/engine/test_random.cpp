@@ -18,7 +18,7 @@ TEST(Random, ValuesFillTheUnitIntervalEvenly)
         neighbours += (v - 0.5) * (last - 0.5);
         last = v;
     }
-    EXPECT_NEAR(neighbours / kDraws, 0, 0.0005); // no correlation of one value with the next
+    EXPECT_NEAR(neighbours / kDraws, 0, 0.0005); // no correlation between successive values
     for (const int n : bins) EXPECT_NEAR(n, kDraws / kBins, 5 * 128);
 }
 

@@ -1,4 +1,4 @@
-// The vector kernels of every target the processor has give the same bytes.
+// The vector kernels give the same bytes for every instruction set that the processor supports.
 #include "engine/colour/mPalette.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"

@@ -66,7 +66,7 @@ TEST_F(SetupStore, WhatAFileLacksHasItsDefault)
     changed.ImagesPath = "/pictures/";
     changed.FrameWidth = 300;
     const QByteArray bytes = bytesOf(changed);
-    const std::pair<int, int> kCases[] = {// cut to so many bytes, of which so many count
+    const std::pair<int, int> kCases[] = {// truncated to so many bytes, of which so many are used
                                           {0, 0},       {1, 0},       {263, 8},     {264, 264},
                                           {2325, 2324}, {2326, 2326}, {2337, 2336}, {3080, 3079}};
     for (const auto& [length, counted] : kCases) {
@@ -76,7 +76,7 @@ TEST_F(SetupStore, WhatAFileLacksHasItsDefault)
         EXPECT_EQ(bytes.left(counted) + defaults.mid(counted), bytesOf(read)) << length;
         EXPECT_EQ(bytesOf(read), fileBytes(file)) << length;
     }
-    putFile(file, QByteArray(kSetupBytes, '\0')); // left by a machine that lost its power
+    putFile(file, QByteArray(kSetupBytes, '\0')); // left by a power failure
     EXPECT_EQ(defaults, bytesOf(LoadSetup(platform)));
     EXPECT_TRUE(platform.log.empty());
 }

@@ -1,4 +1,4 @@
-// Saving: what comes back from the files, what the user is told, and what becomes of the old file when it fails.
+// Saving: reading the files back, the messages to the user, and the state of the old file when saving fails.
 #include "fileio/ModFreeImage.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
@@ -28,7 +28,7 @@ const std::string kAnymapNotice =
     "depth of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you requested is saved "
     "as 24-bit True Color (.ppm) format.";
 
-/// Random pixels in at most so many colours.
+/// Random pixels in at most the given number of colours.
 Bits fewColours(int width, int height, int colours)
 {
     const Bits palette = randomBits(colours, 1, 5), pick = randomBits(width, height, 6);
@@ -43,7 +43,7 @@ struct SavePicture : FolderTest {
     {
         return loadThroughDecoder(name, QFileInfo(name).suffix(), builtPath("velara-decode"));
     }
-    /// Saves it under the name, as its extension says.
+    /// Saves it under the name, with the writer of its extension.
     SaveResult save(const Bits& bits, const QString& name)
     {
         return savePicture(platform, bits, path(name), QFileInfo(name).suffix());
@@ -143,7 +143,7 @@ TEST_F(SavePicture, WritesNothingWithoutAPictureOrAWriter)
 
 TEST_F(SavePicture, AFullDiskCostsNothing)
 {
-    const Bits bits = randomBits(300, 300, 3); // far more than the disk takes in any format
+    const Bits bits = randomBits(300, 300, 3); // more than fits on the disk in any format
     for (const QString name : {"a.png", "a.bmp", "a.tif", "a.tga", "a.jpg", "a.pcx", "a.gif"})
         for (const bool old : {true, false}) {
             const bool tells = name != "a.pcx" && name != "a.gif";
@@ -164,7 +164,7 @@ TEST_F(SavePicture, AFullDiskCostsNothing)
     EXPECT_EQ(platform.lastIcon, Icon::Critical);
 }
 
-// What fits the disk but for the bytes that wait in a buffer is no success either.
+// A file that fits on the disk except for buffered bytes isn't a success either.
 TEST_F(SavePicture, ADeviceThatIsFullIsAFailure)
 {
     for (const char* extension : {"png", "bmp", "tif", "tga", "jpg"})
@@ -190,7 +190,7 @@ TEST_F(SavePicture, RespectsLinksPermissionsAndProtection)
     put("locked.png", "old");
     setMode("locked.png", 0444);
     QDir(folder.path()).mkdir("folder.png");
-    mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600); // with no one who reads
+    mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600); // without a reader
     for (const char* name : {"locked.png", "folder.png", "none/a.png", "pipe.png"})
         EXPECT_EQ(save(name), SaveResult::FailedAndTold) << name;
     EXPECT_EQ(content("locked.png"), "old");
@@ -255,7 +255,7 @@ TEST_F(SavePicture, LinksOfOthersAreFollowedWhereOthersCanMakeNone)
 
 namespace {
 
-/// An access list in the kernel's form: another user may read and write.
+/// An access list in the kernel's format: another user may read and write.
 const QByteArray kAccessList = QByteArray::fromHex("02000000"
                                                    "01000600ffffffff"
                                                    "0200060039300000"
@@ -274,7 +274,7 @@ TEST_F(SavePicture, WhoMayDoWhatWithAFileStays)
     setMode(".", 0777);
     const auto make = [&](const QString& name, uid_t owner, mode_t mode) {
         put(name, "old");
-        removexattr(at(name).constData(), "system.posix_acl_access"); // the folder's
+        removexattr(at(name).constData(), "system.posix_acl_access"); // inherited from the folder
         EXPECT_EQ(0, geteuid() == 0 ? chown(at(name).constData(), owner, owner) : 0);
         setMode(name, mode);
     };
@@ -301,7 +301,7 @@ TEST_F(SavePicture, WhoMayDoWhatWithAFileStays)
     EXPECT_EQ(content("second.png"), content("linked.png"));
 
     if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make files of others";
-    make("shared.png", kOther, 0666); // may be written, and given to nobody
+    make("shared.png", kOther, 0666); // writable, but can't be given to anybody
     make("program.png", kOther, 04777);
     asAnOrdinaryUser([&] {
         savedOver("shared.png", true, rightsOf("shared.png"));
@@ -320,9 +320,9 @@ TEST_F(SavePicture, WhatTheDiskRefusesLosesNothing)
         bool written;
         QStringList left;
     } kRows[] = {{SYS_fsync, EIO, Beside, false, {"a.png"}},
-                 {SYS_fsync, EINVAL, Beside, true, {"a.png"}}, // a file system that has no such thing
+                 {SYS_fsync, EINVAL, Beside, true, {"a.png"}}, // a file system without fsync
                  {SYS_fsync, EIO, InPlace, false, {"a.png", "b.png"}},
-                 {SYS_rename, EBUSY, Beside, true, {"a.png"}}, // a file that is mounted
+                 {SYS_rename, EBUSY, Beside, true, {"a.png"}}, // a mount point
                  {SYS_fallocate, ENOSPC, InPlace, false, {"a.png", "b.png"}},
                  {SYS_fallocate, EOPNOTSUPP, InPlace, true, {"a.png", "b.png"}},
                  {SYS_sendfile, EIO, InPlace, false, {"a.png", "a.rescued.png", "b.png"}}};

@@ -1,4 +1,4 @@
-// Every preset of "Save for Web" with every palette and dither: the written file, read back by others than wrote it.
+// Every preset of "Save for Web" with every palette and dither: the written file is read back by other libraries.
 #include "fileio/FreeImageSaver.h"
 #include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
@@ -19,7 +19,7 @@ Bits sample()
 
 using WebFileTest = FolderTest;
 
-/// GIF by its library: palette, bits, rows put in order, interlace.
+/// GIF by its library: palette, bits, rows reordered, interlace.
 void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wanted)
 {
     int error = 0;
@@ -39,7 +39,7 @@ void holdGif(const QString& name, const WebSettings& s, const IndexedPicture& wa
     DGifCloseFile(gif, &error);
 }
 
-/// BMP and PNG by Qt; the bit count stands in the header.
+/// BMP and PNG by Qt; the bit count is in the header.
 void holdBitmap(const QString& name, const WebSettings& s, const ReducedPicture& wanted)
 {
     const QByteArray head = fileBytes(name);
@@ -49,7 +49,7 @@ void holdBitmap(const QString& name, const WebSettings& s, const ReducedPicture&
     const QImage image = QImage(name, isPng ? "png" : "bmp").convertToFormat(QImage::Format_RGB32);
     const Bits full = pictureOf(wanted);
     ASSERT_EQ(QSize(full.width(), full.height()), image.size());
-    const QRgb known = bits == 16 ? 0xF8F8F8 : 0xFFFFFF; // readers fill the lower bits each in their way
+    const QRgb known = bits == 16 ? 0xF8F8F8 : 0xFFFFFF; // readers fill the lower bits differently
     int wrong = 0;
     for (int y = 0; y < full.height(); ++y)
         for (int x = 0; x < full.width(); ++x) {
@@ -75,7 +75,7 @@ TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
     for (int preset = 0; preset < int(webPresets().size()); ++preset) {
         WebSettings s;
         s.choosePreset(preset, false);
-        if (s.isJpeg() || (!s.isGif() && s.FileKind != kBmp && s.FileKind != kPng)) continue; // of 24 bits all
+        if (s.isJpeg() || (!s.isGif() && s.FileKind != kBmp && s.FileKind != kPng)) continue; // all of 24 bits
         for (const int map : s.maps())
             for (int dither = 0; dither < int(webDithers().size()); ++dither) {
                 SCOPED_TRACE(std::string(s.row().entry) + ", " + webMaps()[std::size_t(map)].entry + ", " +
@@ -99,7 +99,7 @@ TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
     }
     s.choosePreset(14, false);
     s.flipH = s.flipV = s.invert = true;
-    const Bits row = randomBits(9, 1, 3); // no filter takes it
+    const Bits row = randomBits(9, 1, 3); // incompressible
     writeWebFile(row, s, name, OutputFile::Links::Follow);
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
 }

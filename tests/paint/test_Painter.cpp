@@ -28,7 +28,7 @@ struct PainterCases : ::testing::Test {
 TEST_F(PainterCases, AStrokeThatStandsStillIsADab)
 {
     painter.CreateDoneBitsTable();
-    painter.BitsBrush(15, 5, 2, 0, 0); // marks a cross as done without a change
+    painter.BitsBrush(15, 5, 2, 0, 0); // marks a cross as done without changing it
     painter.BitsBrush(15, 5, 2, 100, 0);
     EXPECT_EQ(changed(), 0);
     painter.CreateDoneBitsTable();
@@ -74,7 +74,7 @@ TEST_F(PainterCases, FaultsAreRaisedAndFarAwayIsHarmless)
     EXPECT_THROW(painter.BitsAirbrush(3, 3, 1, 50, 50, 50, 0), RuntimeError);
     EXPECT_THROW(painter.BitsBrush(3, 3, 5, 300, 0xFFFFFF), RuntimeError);
     EXPECT_THROW(painter.BitsSoften(3, 3, 5, 140, true), RuntimeError);
-    for (int i = 0; i < 2; ++i) // half a table is no table
+    for (int i = 0; i < 2; ++i) // an incomplete table has no effect
         EXPECT_THROW(painter.BitsPaint(3, 3, randomBits(9, 9, 1), -1, 300, true), RuntimeError);
     EXPECT_THROW(painter.BitsBrushLine(0, 0, 40000, 0, 5, 50, 0, 0), RuntimeError);
     EXPECT_THROW(painter.BitsBrushLine(0, 0, 40, 0, 0, 50, 0, 0), RuntimeError);

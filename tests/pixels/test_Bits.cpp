@@ -42,7 +42,7 @@ TEST(Bits, AreEqualInEveryByte)
 {
     Bits a(3, 2), b(3, 2);
     EXPECT_TRUE(a == b);
-    b.at(4, 3).c[3] = 1; // the last one of the margin
+    b.at(4, 3).c[3] = 1; // the last pixel of the margin
     EXPECT_FALSE(a == b);
 }
 

@@ -1,4 +1,4 @@
-// What a command may take, and how much is free.
+// A command's share of the memory, and how much is free.
 #include "pixels/Bits.h"
 #include "pixels/BlockPool.h"
 #include "pixels/memory/freeMemory.h"
@@ -24,7 +24,7 @@ TEST(MemoryBudget, HalfOfWhatIsFreeIsForAllBlocksOfACommandTogether)
 {
     BlockPool::instance().clear();
     const FreeMemory free(20'000'000);
-    const auto take = [](int width) { return Bits(width, 996); }; // 4000 bytes a column, margin included
+    const auto take = [](int width) { return Bits(width, 996); }; // 4000 bytes per column, margin included
     EXPECT_EQ("", refusalOf([&] { take(2496); }));
     EXPECT_EQ("it needs 11 MB of memory, more than half of the 20 MB that are free", refusalOf([&] { take(2746); }));
     EXPECT_EQ("it needs 12 MB of memory, more than half of the 20 MB that are free", refusalOf([&] {

@@ -1,4 +1,4 @@
-// A message bus of the test's own, with the services that it puts there.
+// A private message bus, with mock services on it.
 #pragma once
 #include "support/places.h"
 #include <QDBusConnection>
@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// Handles events until it is so; false after a while.
+/// Runs events until the condition holds; false after a time limit.
 inline bool waitUntil(const std::function<bool()>& so, int patience = 20000)
 {
     QElapsedTimer timer;
@@ -18,10 +18,10 @@ inline bool waitUntil(const std::function<bool()>& so, int patience = 20000)
     return true;
 }
 
-/// What ask's callback is called with, once it is; nothing, and a failure, after a while.
+/// The argument of ask's callback, once it is called; nothing, and a test failure, after a time limit.
 template <class Answer> Answer answerTo(const std::function<void(std::function<void(const Answer&)> done)>& ask)
 {
-    const auto got = std::make_shared<std::optional<Answer>>(); // an answer may come when nobody waits any more
+    const auto got = std::make_shared<std::optional<Answer>>(); // an answer may arrive after the wait
     ask([got](const Answer& answer) { *got = answer; });
     EXPECT_TRUE(waitUntil([&] { return got->has_value(); }));
     return got->value_or(Answer());
@@ -45,7 +45,7 @@ class PrivateBus {
     }
     QDBusConnection connection() { return QDBusConnection::connectToBus(address_, address_); }
 
-    /// The mock service of a template beside this file; true when it is there.
+    /// Starts the mock service of a template beside this file; true when it is available.
     bool serve(const QString& name, const QString& script, const QJsonObject& parameters)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// The rest of Platform, which doesn't matter here.
+/// The rest of Platform, irrelevant here.
 class HomePlatform : public WindowlessPlatform {
     void message(const QString&, const QString&, Icon) override {}
 };
@@ -26,7 +26,7 @@ TEST(CorePlatform, ProgramFolderIsWhereFilesCanBeMade)
     EXPECT_TRUE(QDir(data + "/velara-studio").exists());
     EXPECT_EQ(chooseProgramFolder("/proc/self", data), data + "/velara-studio");
     qputenv("HOME", QFile::encodeName(home.path()));
-    for (const char* bad : {"", "relative"}) // no place to rely on
+    for (const char* bad : {"", "relative"}) // unusable values
         EXPECT_EQ(chooseProgramFolder("/usr/bin", bad), home.path() + "/.local/share/velara-studio");
     EXPECT_EQ(HomePlatform().programFolder() + "/", builtPath(""));
 }
@@ -45,7 +45,7 @@ TEST(CorePlatform, KnowsAnEarlierInstance)
 {
     const QTemporaryDir home, run, open;
     QFile::setPermissions(open.path(),
-                          QFile::Permissions(0x7777)); // where others can take the lock it is not looked for
+                          QFile::Permissions(0x7777)); // a folder where others could take the lock is not used
     qputenv("XDG_SESSION_ID", "../one/session");
     qputenv("HOME", QFile::encodeName(home.path()));
     for (const QString& folder : {run.path(), open.path(), QString("relative"), QString()}) {
@@ -54,7 +54,7 @@ TEST(CorePlatform, KnowsAnEarlierInstance)
         {
             HomePlatform first;
             EXPECT_FALSE(first.previousInstance());
-            EXPECT_FALSE(first.previousInstance()); // it is no one's predecessor
+            EXPECT_FALSE(first.previousInstance()); // it doesn't count as its own predecessor
             EXPECT_TRUE(second.previousInstance()) << qPrintable(folder);
         }
         EXPECT_FALSE(second.previousInstance()) << qPrintable(folder);
@@ -62,7 +62,7 @@ TEST(CorePlatform, KnowsAnEarlierInstance)
     EXPECT_EQ(QDir(run.path()).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(QDir(home.path() + "/.cache/velara-studio").entryList(QDir::Files).size(), 1);
     EXPECT_TRUE(QDir(open.path()).isEmpty());
-    qputenv("HOME", "/proc/none"); // nobody can tell
+    qputenv("HOME", "/proc/none"); // not found
     HomePlatform first, second;
     EXPECT_FALSE(first.previousInstance() || second.previousInstance());
 }

@@ -1,4 +1,4 @@
-// Pages as PDF files, rendered by another program, and given to a print server of this test's own.
+// Pages as PDF files, rendered by another program, and sent to a private print server.
 #include "PrivateBus.h"
 #include "commands/printing.h"
 #include "platform/desktop/printing/CupsPrinters.h"
@@ -14,7 +14,7 @@ namespace velara {
 
 namespace {
 
-/// cupsd in a folder of its own, with its queues pending: what it got lies in the spool.
+/// cupsd in a folder of its own, with its queues held: received jobs stay in the spool.
 class PrintServer {
   public:
     PrintServer()
@@ -54,7 +54,7 @@ class PrintServer {
     QProcess server_;
 };
 
-/// Takes connections and sends a byte now and then, so that no single step ever takes long.
+/// Accepts connections and sends a byte now and then, so that no single step ever takes long.
 class DrippingServer {
   public:
     DrippingServer()
@@ -95,7 +95,7 @@ struct CupsPrintersTest : FolderTest {
         PrintPictureToFitPage(page, orientation, true, fit);
         return page;
     }
-    /// What becomes of a page; empty: it is printed.
+    /// The result of printing a page; empty: it is printed.
     QString toFile(const PrintPage& page, const QString& path)
     {
         return answerTo<QString>([&](auto done) { request = printers.printToFile(path, page, done); });
@@ -108,13 +108,13 @@ struct CupsPrintersTest : FolderTest {
     {
         return answerTo<Printers::List>([&](auto done) { request = printers.list(done); });
     }
-    /// The first page at ten dots a millimetre.
+    /// The first page at ten dots per millimetre.
     static QImage rendered(const QString& pdf)
     {
         QProcess::execute("pdftoppm", {"-r", "254", "-png", "-singlefile", pdf, pdf});
         return QImage(pdf + ".png");
     }
-    /// Where it isn't white, in millimetres.
+    /// The bounding box of non-white pixels, in millimetres.
     static QRectF inked(const QImage& image)
     {
         QRect box;
@@ -153,7 +153,7 @@ TEST_F(CupsPrintersTest, AFileShowsThePictureInItsPlace)
 TEST_F(CupsPrintersTest, QualitySaysHowFineAPictureIsStored)
 {
     const QString pdf = path("page.pdf");
-    PrintPage fine = page(PageOrientation::Portrait, true, {3000, 3000}); // 200 mm wide: 381 dots an inch
+    PrintPage fine = page(PageOrientation::Portrait, true, {3000, 3000}); // 200 mm wide: 381 dpi
     fine.picture = randomBits(3000, 3000, 1);
     qint64 last = 0;
     for (const PrintQuality quality : {PrintQuality::Draft, PrintQuality::Low, PrintQuality::Medium}) {
@@ -170,7 +170,7 @@ TEST_F(CupsPrintersTest, AFileThatCantBeWrittenStaysAsItWas)
     request = printers.printToFile(path("out.pdf"), page(PageOrientation::Portrait, true),
                                    [](const QString&) { ADD_FAILURE() << "nobody waits for it"; });
     request.reset();
-    list(); // behind it
+    list(); // waits until it is processed
     EXPECT_TRUE(list().names.isEmpty() || !list().current.isEmpty());
 }
 
@@ -183,11 +183,11 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     ASSERT_TRUE(server.admin({"-p", "Attic", "-E", "-v", "file:///dev/null"}));
     ASSERT_TRUE(server.admin({"-p", "Lab", "-E", "-v", "file:///dev/null"}));
     EXPECT_EQ(list().names, (QStringList{"Attic", "Lab"}));
-    EXPECT_EQ(list().current, "Attic"); // nobody has chosen one
+    EXPECT_EQ(list().current, "Attic"); // none has been chosen
     ASSERT_TRUE(server.admin({"-d", "Lab"}));
     EXPECT_EQ(list().current, "Lab");
     printers.setCurrent("Attic");
-    EXPECT_EQ(list().current, "Attic"); // ours goes before the system's
+    EXPECT_EQ(list().current, "Attic"); // ours takes precedence over the system's
     printers.setCurrent("gone");
     EXPECT_EQ(list().current, "Lab");
     const auto options = [&](const QString& printer) {
@@ -207,7 +207,7 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     wanted.quality = PrintQuality::High;
     EXPECT_EQ(toPrinter("Lab", wanted), "");
     expectNear(inked(rendered(put("spooled.pdf", server.spooled("d00001-001")))), wanted.place);
-    QByteArray job; // written when the server has the time
+    QByteArray job; // written when the server gets round to it
     EXPECT_TRUE(waitUntil([&] { return (job = server.spooled("c00001")).contains("a picture"); }));
     EXPECT_TRUE(job.contains(QByteArray("copies\0\4\0\0\0\3", 12)));
     EXPECT_TRUE(job.contains(QByteArray("print-quality\0\4\0\0\0\5", 19)));

@@ -1,4 +1,4 @@
-// The wallpaper of each desktop: what its programs and services are told.
+// The wallpaper of each desktop: the calls to its programs and services.
 #include "PrivateBus.h"
 #include "platform/desktop/DesktopWallpaper.h"
 #include "platform/desktop/rootPicture.h"
@@ -11,7 +11,7 @@ namespace velara {
 
 namespace {
 
-/// The desktop's programs are scripts that write down how they are called; no other program is found.
+/// The desktop's programs are scripts that record how they are called; no other program is found.
 struct Desktop {
     QTemporaryDir folder;
     QByteArray path = qgetenv("PATH");
@@ -84,7 +84,7 @@ TEST(DesktopWallpaper, WhatCantBeReadOrWrittenIsTold)
         WallpaperResult result;
     } rows[] = {
         {"GNOME", "gsettings", "exit 1", WallpaperResult::CantWrite},
-        {"LXQt", "another", "", WallpaperResult::CantWrite}, // there is no such program
+        {"LXQt", "another", "", WallpaperResult::CantWrite}, // the program doesn't exist
         {"XFCE", "xfconf-query", "exit 1", WallpaperResult::CantRead},
         {"XFCE", "xfconf-query", "[ \"$3\" = -l ] && echo /a/last-image || exit 1", WallpaperResult::CantWrite},
     };
@@ -146,7 +146,7 @@ TEST(RootPicture, TilesFromTheCornerAndLaysOutTheOthersOnEachScreen)
     const QImage stretched = rootPicture(flatBits(3, 3, 10, 20, 30), WallpaperMode::Stretch, {10, 4}, screens);
     for (int x = 0; x < 10; ++x) {
         EXPECT_EQ(stretched.pixel(x, 2), qRgb(30, 20, 10)) << x;
-        EXPECT_EQ(stretched.pixel(x, 3), qRgb(0, 0, 0)) << x; // no screen reaches there
+        EXPECT_EQ(stretched.pixel(x, 3), qRgb(0, 0, 0)) << x; // not covered by a screen
     }
 }
 

@@ -70,7 +70,7 @@ TEST_F(FilePreviewsTest, AnswersComeLaterAndOnlyToWhoStillWaits)
     EXPECT_EQ(answers.size(), 2u);
 }
 
-// A request may be let go of in its own answer, and with it the whole service while a reader is at work.
+// A request may be released in its own answer, and with it the whole service while a reader is running.
 TEST_F(FilePreviewsTest, EndsInTheMiddle)
 {
     auto service = std::make_unique<FilePreviews>();
@@ -91,7 +91,7 @@ TEST_F(FilePreviewsTest, EndsInTheMiddle)
     EXPECT_EQ(answers.size(), 1u);
 }
 
-// A picture that takes all the time that it can get, and claims more.
+// A picture that uses up all its time, and claims more.
 TEST_F(FilePreviewsTest, ABombDoesntHoldUpTheOtherThumbnails)
 {
     koaReader("import socket, struct, time\ns = socket.socket(fileno=3)\n"
@@ -114,7 +114,7 @@ TEST_F(FilePreviewsTest, APictureThatNobodyWaitsForAnyMoreIsNotNotedAsBroken)
     auto request = service->thumbnail(slow, keep);
     ASSERT_TRUE(comes([&] { return QFile::exists(path("begun")); }));
     request.reset();
-    service.reset(); // which waits for its threads
+    service.reset(); // waits for its threads
     EXPECT_FALSE(QFile::exists(SharedThumbnail(slow).failure()));
 }
 
@@ -126,7 +126,7 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     EXPECT_EQ(answers[0].image.size(), QSize(128, 128));
     ASSERT_EQ(SharedThumbnail(grey).entries().size(), 1);
 
-    // Another program's entry, where it is of the picture as it is now
+    // Another program's entry is used if it matches the picture's present state
     QImage blue(128, 128, QImage::Format_RGB32);
     blue.fill(Qt::blue);
     SharedThumbnail(grey).write(blue, {600, 600});
@@ -139,7 +139,7 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     ASSERT_TRUE(answered(3));
     EXPECT_EQ(answers[2].image.pixel(0, 0), 0xFF808080u);
 
-    // What can't be read is remembered as such, until it changes
+    // An unreadable picture is recorded as such, until it changes
     for (int i = 0; i < 2; ++i) {
         const auto bad = previews.thumbnail(broken, keep);
         ASSERT_TRUE(answered(std::size_t(4 + i)));

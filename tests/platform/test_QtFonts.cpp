@@ -1,4 +1,4 @@
-// The desktop's own fonts, whichever they are.
+// The desktop's own fonts, whatever they are.
 #include "platform/desktop/QtFonts.h"
 #include "region/Region.h"
 #include "support/pictures.h"
@@ -11,7 +11,7 @@ struct QtFontsTest : ::testing::Test {
     QtFonts fonts;
     TextStyle style{QGuiApplication::font().family(), 20};
 
-    /// Around all that a run blackens of a white paper.
+    /// The bounding box of what a run paints on white.
     Rect drawn(const TextRun& run, const TextStyle& as, int x = 40, int y = 30)
     {
         Bits paper = flatBits(600, 120, 255, 255, 255);
@@ -41,7 +41,7 @@ TEST_F(QtFontsTest, DrawsWithinWhatItMeasures)
 {
     for (const int size : {7, 20, 69}) {
         style.size = size;
-        // The stroke that is laid over a letter reaches beyond it.
+        // A stroke placed over a letter extends beyond it.
         for (const QString& text :
              {QStringLiteral("Hamburg"), QString::fromUtf8("a\xCC\x81\xCC\xB8 \xD9\x85\xD8\xB1")}) {
             const RunSize box = fonts.measure(text, style);
@@ -87,7 +87,7 @@ TEST_F(QtFontsTest, SpreadsTheBlanksWithin)
 TEST_F(QtFontsTest, InkHasItsColourAndGreyEdges)
 {
     Bits paper = flatBits(200, 60, 255, 255, 255);
-    fonts.draw(paper, -20, -5, {"MWMWMWMWMWMWMWMWMWMW"}, style, 0x0000FF); // cut on three sides
+    fonts.draw(paper, -20, -5, {"MWMWMWMWMWMWMWMWMWMW"}, style, 0x0000FF); // clipped on three sides
     bool full = false, edges = false;
     for (int y = 0; y < paper.height(); ++y)
         for (int x = 0; x < paper.width(); ++x) {

@@ -1,4 +1,4 @@
-// The real platform with its boxes and dialogs on an offscreen desktop: a timer plays the person.
+// The real platform with its boxes and dialogs on an offscreen desktop: a timer plays the user.
 #include "platform/desktop/QtPlatform.h"
 #include "platform/desktop/ReadingBox.h"
 #include "platform/nameFilters.h"
@@ -16,7 +16,7 @@ struct QtPlatformTest : FolderTest {
     QtPlatform platform;
 };
 
-/// Does it to the dialog that comes up next.
+/// Runs an action on the dialog that opens next.
 template <class Dialog> void whenShown(const std::function<void(Dialog&)>& act)
 {
     auto* timer = new QTimer(qApp);
@@ -92,7 +92,7 @@ TEST_F(QtPlatformTest, ABoxSurvivesTheEndOfItsParent)
     platform.message("t", "m", Icon::None);
 }
 
-// Nothing for half a second, then a box whose Esc ends the wait.
+// Nothing for half a second, then a box in which Esc ends the wait.
 TEST_F(QtPlatformTest, ALongReadCanBeGivenUp)
 {
     using namespace std::chrono_literals;
@@ -139,14 +139,14 @@ TEST_F(QtPlatformTest, TheQuestionIsAboutTheFileThatIsWritten)
                 box.button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
             });
             static_cast<QDialog&>(dialog).accept();
-            if (!yes) dialog.reject(); // it still stands
+            if (!yes) dialog.reject(); // it is still open
         });
         EXPECT_EQ(platform.saveFileName(request).has_value(), yes);
         EXPECT_EQ(asked, "x.ppm already exists.\nDo you want to replace it?");
     }
 }
 
-// It comes back as large as it was left, in the folder that is asked for, with what is selected or typed shown.
+// It reopens with its last size, in the requested folder, and previews what is selected or typed.
 TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
 {
     const QTemporaryDir other;

@@ -1,4 +1,4 @@
-// The screens by way of the portal, which a mock plays on a bus of the test's own.
+// Screen capture through the portal, played by a mock on a private bus.
 #include "PrivateBus.h"
 #include "platform/desktop/QtScreen.h"
 #include "support/RecordingPlatform.h"
@@ -44,7 +44,7 @@ TEST(QtScreen, ThePortalsPictureComesAndItsFileGoes)
     ASSERT_TRUE(waitUntil([&] { return got.has_value(); }));
     ASSERT_EQ(got->bits.width(), 40);
     EXPECT_EQ(got->bits.at(7, 5).c[2], 200);
-    ASSERT_EQ(got->parts.size(), 1u); // the one screen is all of the picture
+    ASSERT_EQ(got->parts.size(), 1u); // the one screen is the whole picture
     EXPECT_EQ(got->parts[0].device, QRect(0, 0, 40, 30));
     EXPECT_FALSE(QFile::exists(portal.shot));
 }
@@ -63,7 +63,7 @@ TEST(QtScreen, ARefusalAndAMissingPortalGiveNoPicture)
     }
 }
 
-// Whatever the windows come over: X has a black picture there.
+// Even if the windows use X: a capture by X is black there.
 TEST(QtScreen, ThePortalIsAskedInASessionOfWaylandAloneAndBlackIsTold)
 {
     RecordingPlatform platform;

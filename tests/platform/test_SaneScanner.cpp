@@ -1,4 +1,4 @@
-// Scanners through the helper, on the library's own test device.
+// Scanners through the helper, with the library's own test device.
 #include "PrivateBus.h"
 #include "platform/desktop/SaneScanner.h"
 #include "platform/scan/Cage.h"
@@ -26,7 +26,7 @@ struct SaneScannerTest : FolderTest {
         put("dll.conf", "test\n");
         put("test.conf", "number_of_devices 1\ntest-picture \"Color pattern\"\nmode Color\nresolution 50\n" + device);
     }
-    /// The picture of a scan; null and reason when it fails.
+    /// The picture of a scan; null, with reason, when it fails.
     QImage scan(const QString& mode, QString* reason = nullptr, const QString& device = "test:0")
     {
         const QString why = answerTo<QString>([&](auto done) {
@@ -83,9 +83,9 @@ TEST_F(SaneScannerTest, TheWaysInWhichDevicesSendGiveTheSamePicture)
     EXPECT_EQ(percents.last(), 100);
     configure("depth 8\nthree-pass true\nthree-pass-order BRG\n");
     EXPECT_EQ(scan("Color"), colour);
-    configure("depth 8\nread-limit true\nread-limit-size 7\n"); // pieces that end within a pixel
+    configure("depth 8\nread-limit true\nread-limit-size 7\n"); // pieces that end inside a pixel
     EXPECT_EQ(scan("Color"), colour);
-    configure("depth 8\nhand-scanner true\n"); // its height is not known beforehand
+    configure("depth 8\nhand-scanner true\n"); // its height is not known in advance
     percents.clear();
     const QImage byHand = scan("Color");
     ASSERT_GT(byHand.height(), 78);
@@ -135,7 +135,7 @@ TEST_F(SaneScannerTest, AScannerThatHangsIsLeft)
     EXPECT_FALSE(answered);
 }
 
-// A driver that something took over: what is left to it, and what is not.
+// A compromised driver: what it can still do, and what not.
 TEST_F(SaneScannerTest, TheHelpersCageKeepsTheDeviceAndTheNet)
 {
     qputenv("SANE_CONFIG_DIR", path("config").toUtf8());
@@ -147,7 +147,7 @@ TEST_F(SaneScannerTest, TheHelpersCageKeepsTheDeviceAndTheNet)
     const auto opened = [](const QByteArray& name, int flags) { return open(name.constData(), flags, 0600) >= 0; };
     inAChild("in the cage", [&] {
         ASSERT_TRUE(enterScanCage());
-        signal(SIGXFSZ, SIG_IGN); // which ends a helper that writes without end
+        signal(SIGXFSZ, SIG_IGN); // stops a helper that writes endlessly
         const int line = socket(AF_INET, SOCK_STREAM, 0);
         const sockaddr_in port{AF_INET, htons(9), {htonl(INADDR_LOOPBACK)}, {}};
         const struct {

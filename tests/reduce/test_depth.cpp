@@ -1,4 +1,4 @@
-// Colour depth: the tables and the nearest colours against measured facts and against the plain definition.
+// Colour depth: the tables and the nearest colours compared with measured facts and with the plain definition.
 #include "pixels/IndexedPicture.h"
 #include "pixels/NearestColours.h"
 #include "reduce/EuroDepth.h"
@@ -18,7 +18,7 @@ std::vector<Pixel> pixelsOf(const Palette& palette)
     return pixels;
 }
 
-/// The definition: the first of the entries at the least distance.
+/// The definition: the first entry with the least distance.
 int literalNearest(const std::vector<Pixel>& colours, Pixel p, Distance distance)
 {
     int best = 0, least = 1 << 30;
@@ -99,7 +99,7 @@ TEST(Depth, EveryMethodIsThePlainDefinition)
 TEST(NearestColours, AnyPaletteByBothDistances)
 {
     std::mt19937 random(seedOf(3));
-    for (const int spread : {256, 40, 3, 0}) // far apart, close, nearly all alike, greys
+    for (const int spread : {256, 40, 3, 0}) // far apart, close, nearly equal, greys
         for (const std::size_t count : {1, 2, 7, 256, 1500}) {
             std::vector<Pixel> colours(count);
             for (Pixel& p : colours)

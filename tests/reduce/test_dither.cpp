@@ -1,4 +1,4 @@
-// What each dither does to even areas, to a ramp, and where its error goes.
+// The effect of each dither on flat areas and on a ramp, and where its error goes.
 #include "reduce/bestColours.h"
 #include "reduce/dither.h"
 #include "reduce/reduceColours.h"
@@ -73,7 +73,7 @@ TEST(Dither, EachDiffersFromEachOnARamp)
         }
 }
 
-/// Where the result changes when one pixel of an even area gets lighter by a little.
+/// The pixels that change when one pixel of a flat area gets slightly lighter.
 std::vector<std::array<int, 2>> reachOf(Dither dither, int x, int y)
 {
     Bits area = flatBits(48, 48, 100, 100, 100);
@@ -107,7 +107,7 @@ TEST(Dither, TheErrorGoesWhereItsNameSays)
         }
 }
 
-/// Up to the edges, where no line of errors begins.
+/// Up to the edges, where no error comes in.
 TEST(Dither, TheTwoOfAPairMirrorEachOther)
 {
     Bits picture = randomBits(40, 40, 3), mirror(40, 40);

@@ -12,7 +12,7 @@ namespace {
 using Words = std::vector<std::int32_t>;
 constexpr int kLeast = std::numeric_limits<int>::min(), kMost = std::numeric_limits<int>::max();
 
-/// A region as a table of 40 by 40 pixels: what the bands are held against.
+/// A region as a table of 40 by 40 pixels, to compare the bands with.
 struct Mask {
     static constexpr int kSide = 40;
     bool at[kSide][kSide] = {};
@@ -24,7 +24,7 @@ struct Mask {
     }
 };
 
-/// Equal pixel by pixel, by point test and by span, and canonical: no touching spans, no equal touching bands.
+/// Equal pixel by pixel, by point test and by span, and canonical: no touching spans, no equal adjacent bands.
 ::testing::AssertionResult covers(const Region& region, const Mask& mask)
 {
     Mask bySpan;
@@ -101,7 +101,7 @@ TEST(Region, WordsThatClaimWhatIsNotThereMakeNone)
 {
     const Words words = wordsOf({1, 1, 4, 4, 6, 1, 9, 4, 11, 1, 14, 4});
     const auto regionOf = [&](std::size_t given, std::size_t changed, std::int32_t to) {
-        Words claiming = words; // what lies behind the words given is there, and is no part of them
+        Words claiming = words; // data after the given words exists, but isn't part of them
         claiming[changed] = to;
         return Region::fromWords(std::span(claiming).first(given));
     };
@@ -120,7 +120,7 @@ TEST(Region, IsScaledByWholeRectangles)
     EXPECT_EQ(rectanglesOf(two.scaled(0.5)), (Words{0, 0, 2, 2, 2, 2, 5, 4})); // 2.5 to 2, 3.5 to 4
     EXPECT_TRUE(two.scaled(0).isEmpty());
     EXPECT_FALSE(two.scaled(0).isNull());
-    const Region rows = Region::fromWords(wordsOf({0, 0, 4, 1, 0, 1, 5, 2, 1, 2, 4, 3})); // some rows fall out
+    const Region rows = Region::fromWords(wordsOf({0, 0, 4, 1, 0, 1, 5, 2, 1, 2, 4, 3})); // some rows vanish
     EXPECT_EQ(rectanglesOf(rows.scaled(0.4)), (Words{0, 0, 2, 1}));
     EXPECT_EQ(rectanglesOf(Region::rectangle(0, 0, kMost, 9).scaled(15)), (Words{0, 0, kMost, 135}));
 }
@@ -141,7 +141,7 @@ TEST(Region, ExtremeCoordinatesAreSafe)
 TEST(Region, HostileWordsGiveARegionOrNone)
 {
     EXPECT_TRUE(Region::fromWords({}).isNull());
-    EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0}).isNull()); // no whole header
+    EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0}).isNull()); // incomplete header
     EXPECT_TRUE(Region::fromWords(Words{31, 1, 0, 0, 0, 0, 0, 0}).isNull());
     EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0, 0}).isEmpty());
     for (const int lie : {2, 1 << 28, kMost, -1, kLeast}) {
@@ -153,7 +153,7 @@ TEST(Region, HostileWordsGiveARegionOrNone)
                   Region::fromWords(wordsOf({kLeast, kLeast, kMost, kMost, 3, 3, 4, 4, kMost, kMost, kLeast, kLeast}))),
               (Words{kLeast, kLeast, kMost, kMost}));
 
-    // Every band of n nested columns would have up to n spans: refused, and soon.
+    // Every band of n nested columns would have up to n spans: refused, and quickly.
     Words comb;
     for (int i = 0; i < 60000; ++i) comb.insert(comb.end(), {2 * i, i, 2 * i + 1, kMost - i});
     const std::clock_t start = std::clock();
@@ -172,7 +172,7 @@ TEST(Region, HostileWordsGiveARegionOrNone)
     }
 }
 
-/// The rule for ellipses as it reads: for every row the largest U of each kind by search.
+/// The rule for ellipses, literally: for every row the largest U of each kind by search.
 Words ellipseRows(int w, int h)
 {
     const std::int64_t A = w - 2, B = h - 2, full = A * A * B * B;
@@ -207,10 +207,10 @@ TEST(RegionShapes, EllipsesOfEverySmallSizeFollowTheRule)
 
 TEST(RegionShapes, LargeEllipsesAreExactBeyond64BitsAndFast)
 {
-    constexpr int r = 196095; // the products of its sides come to lie where 64 bits wrap round to negative ones
+    constexpr int r = 196095; // products of its sides wrap around to negative in 64 bits
     const Region large = Region::ellipse(-r, -r, r, r);
     EXPECT_EQ(large.bounds(), (Rect{-r, -r, r - 1, r - 1}));
-    for (int y = -r; y < r - 1; ++y) { // the mirror of each row is itself
+    for (int y = -r; y < r - 1; ++y) { // each row equals its mirror
         ASSERT_EQ(large.spans(y).size(), 1u);
         EXPECT_EQ(large.spans(y)[0], large.spans(-2 - y - 0)[0]) << y;
         const Span s = large.spans(y)[0];
@@ -225,7 +225,7 @@ TEST(RegionShapes, MeasuredEllipses)
 {
     const auto rows = gdiFacts("ellipse.jsonl", {"ell", "ellswap", "elloff"});
     if (rows.empty()) GTEST_SKIP() << "no measured facts";
-    // Box widths 3.. and the heights from which the measured system leaves tip rows out, which is its own fault.
+    // Box widths 3.. and the heights from which the measured system omits tip rows, which is its own fault.
     constexpr int kNarrowFrom[] = {4, 9, 8, 33, 21, 73, 41, 129, 66, 201, 98, 289, 137, 393, 181, 513, 233, 649};
     int held = 0;
     for (const QJsonObject& row : rows) {
@@ -253,7 +253,7 @@ TEST(RegionShapes, MeasuredPolygons)
 
 TEST(RegionShapes, PolygonsAreJudgedAtTheUpperLeftCornerOfEachPixel)
 {
-    const auto inside = [](const Words& p, int x, int y) { // the winding number by the rule's own words
+    const auto inside = [](const Words& p, int x, int y) { // the winding number, literally
         int winding = 0;
         const std::size_t n = p.size() / 2;
         for (std::size_t i = 0; i < n; ++i) {

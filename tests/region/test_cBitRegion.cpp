@@ -117,7 +117,7 @@ TEST_F(Selection, FilesAreTheWordsAndNothingElse)
     other.Init(0, 0, 20, 20);
     other.setZoomFactor(2);
     EXPECT_TRUE(other.LoadFromFile(path));
-    EXPECT_EQ(other.Region(), s.Region()); // not cut to the limit
+    EXPECT_EQ(other.Region(), s.Region()); // not clipped to the limit
     EXPECT_EQ(other.GetData(), words);
     EXPECT_EQ(other.RegionScaled(), s.Region().scaled(2));
     EXPECT_FALSE(other.SaveToFile("/nowhere/at/all.rgn"));
@@ -126,14 +126,14 @@ TEST_F(Selection, FilesAreTheWordsAndNothingElse)
     for (const QByteArray& bytes : {QByteArray(), QByteArray("abc"), whole.left(70), QByteArray(5000, '\xff')}) {
         putFile(path, bytes);
         EXPECT_FALSE(other.LoadFromFile(path));
-        EXPECT_EQ(other.Region(), s.Region()); // a bad file loses nothing
+        EXPECT_EQ(other.Region(), s.Region()); // a bad file changes nothing
     }
-    putFile(path, whole + "xy"); // odd length: the whole words count
+    putFile(path, whole + "xy"); // odd length: only whole words count
     EXPECT_TRUE(other.LoadFromFile(path));
     EXPECT_EQ(other.GetData(), words);
 }
 
-/// Pixel by pixel: covered, and one of the four at that distance is not.
+/// Pixel by pixel: covered, while one of the four at that distance is not.
 bool isFrame(const Region& region, int x, int y, int w, int h)
 {
     return region.contains(x, y) && !(region.contains(x - w, y) && region.contains(x + w, y) &&

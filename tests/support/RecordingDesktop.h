@@ -1,5 +1,4 @@
-// The desktop of tests: writes down what is asked of it and answers with what the test has laid out, at once or when
-// the test says so.
+// The desktop of tests: records requests and answers with what the test has prepared, at once or when the test says so.
 #pragma once
 #include "seams/Clipboard.h"
 #include "seams/Previews.h"
@@ -21,7 +20,7 @@ class RecordingPreviews final : public Previews {
 
     Request picture(const QString& path, QSize, Done done) override { return ask(path, std::move(done)); }
     Request thumbnail(const QString& path, Done done) override { return ask("thumbnail " + path, std::move(done)); }
-    /// False: nobody waits for it any more.
+    /// False: the request was released.
     bool answer(const QString& what, const Preview& preview)
     {
         const auto waiting = waiting_[what].lock();
@@ -119,7 +118,7 @@ class RecordingScanner final : public Scanner {
     bool silent = false; // no answer ever comes
     int cancelled = 0;
     std::vector<ScanJob> jobs;
-    std::function<void(const QString& path)> write; // what a scan leaves
+    std::function<void(const QString& path)> write; // writes a scan's file
 
     void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override
     {
@@ -146,7 +145,7 @@ class RecordingPrinters final : public Printers {
   public:
     List printers;
     Paper tray;
-    QString reason; // of the next page
+    QString reason; // the result of the next page
     bool silent = false;
     std::vector<std::pair<QString, PrintPage>> pages; // the printer or the file
     std::vector<QString> log;                         // "current NAME", "choose NAME PAPER"
@@ -178,7 +177,7 @@ class RecordingPrinters final : public Printers {
     {
         return print(path, page, std::move(done));
     }
-    /// The last question, to be answered by calling it; null: nobody waits for it any more.
+    /// The last request, answered by calling it; null: it was released.
     std::shared_ptr<std::function<void()>> held() const { return waiting_.lock(); }
     bool answer()
     {

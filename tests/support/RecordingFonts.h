@@ -1,6 +1,6 @@
-// RecordingFonts: two families of one fixed-width font, so that texts are laid out to the pixel. A character is half
-// its size wide (bold: one pixel more), a line is its size and two pixels high. Every character but the blank is drawn
-// as a block that leaves one pixel free at its right and one above and below.
+// RecordingFonts: two families of one fixed-width font, so that layouts are predictable to the pixel. A character is
+// half its size wide (bold: one pixel more), a line is its size plus two pixels high. Every character but the blank is
+// drawn as a block that leaves one pixel free at its right and one above and below.
 #pragma once
 #include "seams/Fonts.h"
 

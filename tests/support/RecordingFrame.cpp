@@ -6,13 +6,13 @@ namespace velara {
 
 namespace {
 
-/// Rooms without windows have no event loop of their own, and what a workspace says comes through one.
+/// Test programs without windows have no event loop of their own, which a workspace's callbacks need.
 void bringEvents()
 {
     static int count = 1;
     static char name[] = "test";
     static char* words[] = {name, nullptr};
-    if (!QCoreApplication::instance()) new QCoreApplication(count, words); // to the end of the program
+    if (!QCoreApplication::instance()) new QCoreApplication(count, words); // kept until the end of the program
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// RecordingFrame: the frame of tests of tools, views and dialogs. Changes go the real road of a workspace; everything
-// else is written down.
+// RecordingFrame: the frame in tests of tools, views and dialogs. Changes go through a real workspace; everything else
+// is recorded.
 #pragma once
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -15,21 +15,21 @@ struct RecordingFrame final : Frame {
     Workspace workspace_{platform_.programFolder() + "/Temp", platform_};
     cBitFilter& filter_ = workspace_.engine();
     ToolStores toolStores_;
-    /// One line a call: "step" at the end of a change, "word: WORD", "report: WHAT: REASON", "adopted: PATH",
+    /// One line per call: "step" at the end of a change, "word: WORD", "report: WHAT: REASON", "adopted: PATH",
     /// "colours".
     std::vector<std::string> log;
     std::map<Panel, std::string> status;
     std::vector<int> progress;
     Document* document = nullptr; // the active one
-    std::optional<Colour> colour; // that the user picks
+    std::optional<Colour> colour; // the user's choice
     int snapshots = 0;
     std::function<void(const std::string& line)> onCall; // after each line of the log
 
     RecordingFrame();
     int logged(const std::string& line) const { return int(std::count(log.begin(), log.end(), line)); }
-    /// A document with the picture, the active one; its number is the count of those before.
+    /// Makes a document with the picture, and makes it active; its number is the count of those before.
     Document& open(const Bits& picture);
-    /// The word of a test for the end of all that is under way.
+    /// Tests wait by it for the end of everything under way.
     void settle() { workspace_.wait(); }
 
     Platform& platform() override { return platform_; }

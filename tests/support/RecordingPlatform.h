@@ -1,5 +1,5 @@
-// RecordingPlatform: the outside world of tests. Writes down what the program asks and answers from a queue, so that
-// every message, dialog and path of a command can be tested without a window.
+// RecordingPlatform: the outside world of tests. Records the program's requests and answers from a queue, so that every
+// message, dialog and path of a command can be tested without a window.
 #pragma once
 #include "platform/BackgroundQueue.h"
 #include "seams/Platform.h"
@@ -17,8 +17,8 @@ namespace velara {
 
 class RecordingPlatform : public Platform {
   public:
-    /// Answers of the dialogs to come, first one first. An empty one, and an empty queue, cancel. A question takes
-    /// "yes" and "no".
+    /// Answers for the next dialogs, in order. An empty one, and an empty queue, cancel. A question takes "yes" and
+    /// "no".
     std::deque<std::optional<QString>> answers;
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
     /// "clipboard: set", "clipboard: clear".
@@ -68,7 +68,7 @@ class RecordingPlatform : public Platform {
     RecordingWallpaper wallpaper_;
     RecordingScanner scanner_;
     RecordingPrinters printers_;
-    /// Writes the line down. \returns the next answer
+    /// Records the line. \returns the next answer
     std::optional<QString> ask(const QString& line);
     BackgroundQueue background_; // last: its work may ask for pictures
 };

@@ -1,4 +1,4 @@
-// What a test does in a process of its own: as another user, or with a system call that fails.
+// Runs parts of a test in a process of its own: as another user, or with a failing system call.
 #pragma once
 #include <cstddef>
 #include <grp.h>
@@ -13,7 +13,7 @@ namespace velara {
 
 constexpr uid_t kNobody = 65534;
 
-/// Failures in there are printed there, and are one here.
+/// Failures are printed in the child, and count as one failure here.
 template <class Body> void inAChild(const std::string& what, Body body)
 {
     const pid_t child = fork();
@@ -26,7 +26,7 @@ template <class Body> void inAChild(const std::string& what, Body body)
     EXPECT_EQ(status, 0) << what;
 }
 
-/// As an ordinary user; as whoever runs the tests when that is not root.
+/// As an ordinary user; as the user who runs the tests if that isn't root.
 template <class Body> void asAnOrdinaryUser(Body body)
 {
     inAChild("as an ordinary user", [&body] {
@@ -35,7 +35,7 @@ template <class Body> void asAnOrdinaryUser(Body body)
     });
 }
 
-/// From here on the system call fails, in this process and its children, for good.
+/// From now on the system call fails permanently, in this process and its children.
 inline void refuseCall(long call, unsigned error)
 {
     sock_filter rules[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),

@@ -1,4 +1,4 @@
-// Small files of tests, written and read back whole, and a folder for them.
+// Small files for tests, written and read back whole, and a folder for them.
 #pragma once
 #include <QByteArray>
 #include <QDateTime>
@@ -9,40 +9,40 @@
 
 namespace velara {
 
-/// Makes the file anew; the test fails when that can't be done.
+/// Writes the file; the test fails if that isn't possible.
 inline void putFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) << path.toStdString();
 }
 
-/// What is in the file; the other, when it is not there.
+/// The contents of the file; `otherwise` when it doesn't exist.
 inline QByteArray fileBytes(const QString& path, const QByteArray& otherwise = {})
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : otherwise;
 }
 
-/// The file as if it was changed then; a new one where there is none.
+/// Sets the time of the file; creates it if there is none.
 inline void touchFile(const QString& path, const QDateTime& when)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(when, QFile::FileModificationTime));
 }
 
-/// Base of tests with a folder of their own. A name is that of a file in it.
+/// Base of tests with a folder of their own. Names are those of files in it.
 struct FolderTest : ::testing::Test {
     QTemporaryDir folder;
 
     QString path(const QString& name) const { return folder.filePath(name); }
-    /// Makes the file anew. \returns where it is.
+    /// Writes the file. \returns its path.
     QString put(const QString& name, const QByteArray& bytes) const
     {
         putFile(path(name), bytes);
         return path(name);
     }
     QByteArray content(const QString& name) const { return fileBytes(path(name), "missing"); }
-    /// Names of all that is there, in their order.
+    /// The names of all entries, sorted.
     QStringList files() const
     {
         const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;

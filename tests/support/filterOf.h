@@ -1,4 +1,4 @@
-// A filter object over a picture, with a clock that stands, and an operation run on it by name.
+// An engine with a picture and a stopped clock, and an operation run on it by name.
 #pragma once
 #include "engine/operations.h"
 
@@ -19,7 +19,7 @@ inline cBitFilter filterOf(const Bits& bits)
     return filterOf(bits, Region::rectangle(0, 0, bits.width(), bits.height()));
 }
 
-/// The object's picture after the operation.
+/// The engine's picture after the operation.
 inline Bits run(std::string_view name, const Arguments& arguments, const Bits& bits, const Region& region)
 {
     cBitFilter filter = filterOf(bits, region);

@@ -1,11 +1,11 @@
-// A full disk, as far as this process can tell.
+// Simulates a full disk for this process.
 #pragma once
 #include <csignal>
 #include <sys/resource.h>
 
 namespace velara {
 
-/// While it lives no file grows beyond so many bytes: the disk is full.
+/// While it lives, no file can grow beyond the given bytes.
 struct FullDisk {
     rlimit before{};
     explicit FullDisk(rlim_t bytes)

@@ -1,5 +1,4 @@
-// The measured region and frame facts, as rows of JSON. Not part of the source tree: a test skips when they are not
-// there.
+// The measured region and frame facts, as rows of JSON. Not part of the source tree: tests skip when they are missing.
 #pragma once
 #include "region/Region.h"
 #include "support/places.h"
@@ -41,7 +40,7 @@ inline std::vector<std::int32_t> wordsOf(const std::vector<std::int32_t>& rectan
     return words;
 }
 
-/// The measured region in canonical form, and only its rectangles, to compare with.
+/// The measured region in canonical form, reduced to its rectangles, for comparison.
 inline std::vector<std::int32_t> wantedRectangles(const QJsonObject& row)
 {
     return numbersOf(row.contains("canon") ? row["canon"] : row["r"]);

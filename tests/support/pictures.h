@@ -6,11 +6,11 @@
 
 namespace velara {
 
-/// Every byte of the buffer random, margin and fourth byte included.
+/// Fills the whole buffer with random bytes, margin and fourth byte included.
 Bits randomBits(int width, int height, std::uint32_t seed);
 /// One colour 0xFFBBGGRR-like: fourth byte, blue, green, red from the high byte down; the margin stays 0.
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth = 0);
-/// The pixel at x, y is what the function gives for them; the margin stays 0.
+/// Each pixel is the function's value at x, y; the margin is 0.
 template <class PixelAt> Bits drawnBits(int width, int height, PixelAt pixelAt)
 {
     Bits bits(width, height);
@@ -18,18 +18,18 @@ template <class PixelAt> Bits drawnBits(int width, int height, PixelAt pixelAt)
         for (int x = 0; x < width; ++x) bits.at(x, y) = pixelAt(x, y);
     return bits;
 }
-/// What files and the clipboard give back of a picture: no margin, no fourth byte.
+/// The picture as returned by files and the clipboard: no margin, no fourth byte.
 Bits plain(const Bits& bits);
 
-/// The pixel as a screen shows it, 0xRRGGBB.
+/// The pixel's colour on the screen, 0xRRGGBB.
 inline std::uint32_t colourAt(const Bits& bits, int x, int y)
 {
     const Pixel p = bits.at(x, y);
     return std::uint32_t(p.c[2] << 16 | p.c[1] << 8 | p.c[0]);
 }
 
-/// Equal in size and in every byte, margin included; the failure names the first differing pixel: x, y, channel,
-/// wanted, got.
+/// Equal in size and in every byte, margin included; a failure names the first differing pixel: x, y, channel,
+/// expected, actual.
 ::testing::AssertionResult sameBits(const Bits& wanted, const Bits& got);
 
 } // namespace velara

@@ -1,5 +1,5 @@
-// Where the tests find things: the built programs, the files beside the tests, and what lies outside of the source tree
-// and may be missing.
+// Paths for the tests: the built programs, the files beside the tests, and data outside of the source tree that may be
+// missing.
 #pragma once
 #include <QString>
 
@@ -9,9 +9,9 @@ namespace velara {
 QString builtPath(const QString& name);
 /// A file below tests/.
 QString testsPath(const QString& name);
-/// A sample picture; tests skip what is not there.
+/// A sample picture; tests skip if it is missing.
 QString corpusPath(const QString& name);
-/// A file of the measured region shapes and colour tables; tests skip what is not there.
+/// A file of the measured region shapes and colour tables; tests skip if it is missing.
 QString factsPath(const QString& name);
 
 } // namespace velara

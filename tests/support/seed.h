@@ -6,7 +6,7 @@
 
 namespace velara {
 
-/// VELARA_SEED where that is set, else the usual one. It is printed, so that trials which failed can be repeated.
+/// VELARA_SEED if it is set, else the usual one. It is printed, so that failed trials can be repeated.
 inline std::uint32_t seedOf(std::uint32_t usual)
 {
     const char* given = std::getenv("VELARA_SEED");

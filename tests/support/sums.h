@@ -5,9 +5,9 @@
 
 namespace velara {
 
-/// Runs every trial of the family through the program's own code and holds it against the family's committed checksums,
-/// which the definitions made: `make reference` writes them anew, `make reference-diff` shows pixels and values. A
-/// subject without a row and a row without a subject fail.
+/// Runs every trial of the family through the program's own code and compares the result with the family's committed
+/// checksums, which come from the definitions: `make reference` recomputes them, `make reference-diff` shows pixels and
+/// values. A subject without a row and a row without a subject fail.
 void expectCommittedSums(const TrialFamily& family);
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// Arguments of the engine's operations for benchmarks and comparisons, out of what their rows say.
+// Arguments of the engine's operations for benchmarks and comparisons, from their rows.
 #pragma once
 #include "engine/operations.h"
 

@@ -1,5 +1,4 @@
-// Layers of fixed-width text on a picture: what each shows, how it grows, and what becomes of them when they are
-// merged.
+// Layers of fixed-width text on a picture: what each shows, how it grows, and the result of merging.
 #include "support/RecordingFonts.h"
 #include "support/pictures.h"
 #include "text/Layers.h"
@@ -23,7 +22,7 @@ struct LayersTest : ::testing::Test {
         layers.setText(index, text);
         return index;
     }
-    /// What the font draws for one line, on these pixels.
+    /// The font's drawing of one line, on these pixels.
     Bits printed(Bits on, int x, int y, const QString& text)
     {
         fonts.draw(on, x, y, {text}, style, kInk);
@@ -38,14 +37,14 @@ TEST_F(LayersTest, NewOnesHaveTheirSizeAndGrowWithTheText)
     const int first = layers.add(10, 20, style, kInk);
     EXPECT_EQ(2, first);
     EXPECT_EQ((Rect{10, 20, 143, 40}), layers.layer(first).place);
-    layers.setText(first, QString(30, u'x')); // 150 and two for slanted letters
+    layers.setText(first, QString(30, u'x')); // 150 plus two for slanted letters
     EXPECT_EQ((Rect{10, 20, 162, 40}), layers.layer(first).place);
     layers.setText(first, QString(30, u'x') + "\r\ny\r\nz");
     EXPECT_EQ((Rect{10, 20, 162, 56}), layers.layer(first).place);
-    layers.setText(first, QStringLiteral("word ").repeated(20)); // breaks at the picture's right edge
+    layers.setText(first, QStringLiteral("word ").repeated(20)); // wraps at the picture's right edge
     EXPECT_EQ(182, layers.layer(first).place.right);
     EXPECT_EQ(56, layers.layer(first).place.bottom);
-    layers.setText(first, QStringLiteral("word ").repeated(20000)); // no further than the picture's bottom
+    layers.setText(first, QStringLiteral("word ").repeated(20000)); // not beyond the picture's bottom
     EXPECT_EQ(kHeight, layers.layer(first).place.bottom);
     layers.setText(first, {});
     EXPECT_EQ(kHeight, layers.layer(first).place.bottom) << "never smaller by itself";
@@ -62,7 +61,7 @@ TEST_F(LayersTest, AWidthThatWasSetStays)
     const int index = add(10, 10, "ab cd");
     layers.setPlace(index, {10, 10, 22, 50});
     EXPECT_EQ((Rect{10, 10, 22, 50}), layers.layer(index).place);
-    layers.setPlace(index, {10, 10, 22, 40}); // another height is no other width
+    layers.setPlace(index, {10, 10, 22, 40}); // a different height doesn't change the width
     layers.setText(index, "ab cd ef gh ij");
     EXPECT_EQ((Rect{10, 10, 22, 70}), layers.layer(index).place) << "five lines of 12";
     layers.setPlace(index, {10, 10, 9, 9});
@@ -99,7 +98,7 @@ TEST_F(LayersTest, LaterOnesShowThePictureAndNotTheOnesBelow)
     wanted = printed(wanted, 30, 14, "b");
     EXPECT_TRUE(sameBits(wanted, layers.Blend()));
 
-    layers.setText(lower, "aaaaaaaaaaaaa"); // printed later, and yet below
+    layers.setText(lower, "aaaaaaaaaaaaa"); // drawn later, but still below
     layers.setText(lower, "aaaaaaaaaaaa");
     EXPECT_TRUE(sameBits(wanted, layers.Blend()));
     layers.setShown(lower, false);
@@ -111,7 +110,7 @@ TEST_F(LayersTest, LaterOnesShowThePictureAndNotTheOnesBelow)
 TEST_F(LayersTest, AnotherPictureBelowIsTaken)
 {
     add(10, 10, "abc");
-    picture = randomBits(60, 15, 8); // smaller than the layer reaches
+    picture = randomBits(60, 15, 8); // smaller than the layer's extent
     layers.setCanvas(picture);
     EXPECT_TRUE(sameBits(printed(picture, 10, 10, "abc"), layers.Blend()));
 }

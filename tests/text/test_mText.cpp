@@ -1,4 +1,4 @@
-// Texts laid out with a font whose characters are all of one width.
+// Texts laid out with a font whose characters all have one width.
 #include "support/RecordingFonts.h"
 #include "support/pictures.h"
 #include "text/mText.h"
@@ -19,7 +19,7 @@ struct TextTest : ::testing::Test {
             return fonts.measure(run, style);
         });
     }
-    /// "x,y[+spread]:text" of each line, or "refused".
+    /// "x,y[+spread]:text" for each line, or "refused".
     std::string lines(const TextBox& box)
     {
         const auto layout = layOut(box);
@@ -39,18 +39,18 @@ TEST_F(TextTest, LinesBreakAndAreAligned)
     const std::tuple<const char*, int, int, const char*> cases[] = {
         // text, width, alignment, lines
         {"", 58, LeftJustify, ""},
-        {"ab cd ef", 48, LeftJustify, "4,4:ab cd ef"}, // 40 wide: exactly the room
+        {"ab cd ef", 48, LeftJustify, "4,4:ab cd ef"}, // 40 wide: fits exactly
         {"ab cd ef", 47, LeftJustify, "4,4:ab cd | 4,16:ef"},
         {"ab cd ef", 47, CentreJustify, "11,4:ab cd | 18,16:ef"},
         {"ab cd ef", 47, RightJustify, "18,4:ab cd | 33,16:ef"},
         {"ab cd ef", 47, FullJustify, "4,4+14:ab cd | 4,16:ef"},
-        {"abc   ef", 33, RightJustify, "14,4:abc | 19,16:ef"}, // the blanks of the break reach nowhere
+        {"abc   ef", 33, RightJustify, "14,4:abc | 19,16:ef"}, // the blanks at the break take no space
         {"ab-cd-ef", 38, LeftJustify, "4,4:ab-cd- | 4,16:ef"},
         {"a\r\nb", 100, LeftJustify, "4,4:a | 4,16:b"},
         {"a\r\n\r\nb c", 30, FullJustify, "4,4:a | 4,16: | 4,28:b c"},
         {"a b\r\nc d", 38, FullJustify, "4,4+15:a b | 4,16:c d"}, // every line but the last
         {"abc\r\nc", 38, FullJustify, "4,4:abc | 4,16:c"},        // without a gap
-        {"ab\nc", 100, LeftJustify, "4,4:ab\nc"},                 // only the pair forces a line
+        {"ab\nc", 100, LeftJustify, "4,4:ab\nc"},                 // only the pair forces a line break
         {"\xD7\x90\xD7\x91 \xD7\x92", 23, LeftJustify, "4,4:\xD7\x90\xD7\x91 | 4,16:\xD7\x92"},
     };
     for (const auto& [text, width, alignment, wanted] : cases)
@@ -62,7 +62,7 @@ TEST_F(TextTest, LinesBreakAndAreAligned)
 TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
 {
     const std::tuple<const char*, int, int, int, int> cases[] = {
-        // text, width, height, size wanted and got; 0: refused
+        // text, width, height, requested and resulting size; 0: refused
         {kPangram, 400, 200, 20, 20},
         {kPangram, 400, 200, 99, 72},         // above the limit
         {kPangram, 400, 22, 20, 12},          // one line of 14
@@ -70,9 +70,9 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
         {"a\r\nb\r\nc\r\nd", 100, 40, 20, 6}, // four lines of 8 in 32
         {"a\r\nb\r\nc\r\nd\r\ne", 100, 40, 20, 0},
         {"wide-words fit", 48, 100, 20, 17}, // five times 8
-        {"unbreakable", 28, 100, 20, 20},    // no size takes it in: it stands on its line as it is
+        {"unbreakable", 28, 100, 20, 20},    // it fits at no size: it keeps the requested one on a line of its own
         {"a unbreakable", 28, 100, 20, 20},
-        {"a", 100, 100, 1, 1}, // asked for, however small
+        {"a", 100, 100, 1, 1}, // requested, however small
         {"a", 100, 100, 0, 1},
         {"", 100, 100, 20, 20},
         {"", 8, 100, 20, 0}, // nothing is left between the margins

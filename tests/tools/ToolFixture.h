@@ -1,4 +1,4 @@
-// A document with its tools, a frame and a display that write down what the tools ask.
+// A document with its tools, a frame and a display that record the tools' calls.
 #pragma once
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
@@ -62,7 +62,7 @@ struct ToolFixture : ::testing::Test {
         tools = std::make_unique<Tools>(document, frame, surface);
     }
     void choose(const char* tool) { frame.setup_.CurrentTool = tool; }
-    /// A press at the first point, moves over all points, a release at the last.
+    /// Presses at the first point, moves over all points, releases at the last.
     void drag(const std::vector<Point>& points)
     {
         press(points.front());
@@ -73,7 +73,7 @@ struct ToolFixture : ::testing::Test {
     void move(Point p) { tools->move(Tools::Left, p.x, p.y); }
     void release(Point p) { tools->release(Tools::Left, p.x, p.y); }
     const Region& selection() const { return document.Region.Region(); }
-    /// What the display was asked since the last call, joined by semicolons.
+    /// The calls to the display since the last call of this, separated by semicolons.
     std::string asked()
     {
         std::string all;

@@ -9,7 +9,7 @@
 namespace velara {
 namespace {
 
-/// What a tool paints with, and the definition of what it should paint.
+/// How a tool is set up, and the definition of what it should paint.
 struct Stroke {
     PaintTwin paint;
     Setup setup;
@@ -27,7 +27,7 @@ struct PaintTools : ToolFixture {
         frame.toolStores_.stamp = randomBits(12, 9, 8);
         start();
     }
-    /// The first picture again, an ellipse of it selected.
+    /// The first picture again, with an ellipse selected.
     void start()
     {
         open(before);
@@ -79,7 +79,7 @@ void freeHand(Stroke& s)
     }
 }
 
-/// Where a stamp of 12 by 9 goes.
+/// The position of a stamp of 12 by 9.
 Point stampAt(Point at) { return {at.x - (13 / 2 + 1), at.y - (10 / 2 + 1)}; }
 
 void stampTrack(Stroke& s)
@@ -143,7 +143,7 @@ const struct {
 TEST_F(PaintTools, StrokesPaintWhatTheirPrimitivesDo)
 {
     const auto defaults = frame.setup_;
-    frame.toolStores_.stamp.at(3, 3) = {}; // in the colour of a mask
+    frame.toolStores_.stamp.at(3, 3) = {}; // in the mask's colour
     for (const auto& row : kStrokes) {
         SCOPED_TRACE(std::string(row.tool) + ", row " + std::to_string(&row - kStrokes));
         start();
@@ -184,7 +184,7 @@ TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
         drag({{20, 20}, {25, 25}});
         EXPECT_EQ(asked(), "activate; start") << tool;
     }
-    frame.setup_.AirbrushSize = 1; // out of a damaged configuration
+    frame.setup_.AirbrushSize = 1; // from a damaged configuration
     choose("Airbrush");
     drag({{20, 20}, {22, 21}});
     EXPECT_EQ(frame.snapshots, 0);
@@ -239,7 +239,7 @@ TEST_F(PaintTools, GradientsRunFromPressToRelease)
     EXPECT_EQ(frame.snapshots, 2);
 }
 
-/// The gradient of a release is computed while the user goes on: nothing begins in its document before it is done.
+/// The gradient of a release is computed while the user continues: nothing begins in its document before it is done.
 TEST_F(PaintTools, TheUserGoesOnWhileAGradientIsComputed)
 {
     choose("Gradient");
@@ -296,7 +296,7 @@ TEST_F(PaintTools, TheUserGoesOnWhileAGradientIsComputed)
     }
 }
 
-/// A change that comes in the middle of a stroke waits for its end, and works on it.
+/// A change that arrives in the middle of a stroke waits for its end, and works on its result.
 TEST_F(PaintTools, AStrokeHoldsTheChangesThatComeMeanwhile)
 {
     frame.workspace_.held = [&](const Document&) { return tools->ToolDown(); };
@@ -342,7 +342,7 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
     wanted(20, 20);
     EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_TRUE(sameBits(before, frame.filter_.bits()));
-    tools->keyDown(Tools::Space); // a copy stays
+    tools->keyDown(Tools::Space); // a copy stays there
     drag({{50, 40}});
     wanted(50, 40);
     EXPECT_TRUE(sameBits(twin.bits, document.bits()));
@@ -353,7 +353,7 @@ TEST_F(PaintTools, APasteHangsOnThePointerUntilAClick)
 
     frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 10, 10);
-    tools->release(Tools::Right, 10, 10); // let go
+    tools->release(Tools::Right, 10, 10); // dropped
     EXPECT_TRUE(sameBits(twin.bits, document.bits()));
     EXPECT_FALSE(frame.toolStores_.pastePending);
     EXPECT_EQ(frame.snapshots, 2);
@@ -395,7 +395,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
     EXPECT_EQ(frame.snapshots, 0);
 
-    tools->move(Tools::NoButton, 12, 12); // passing over it leaves the engine to the active one
+    tools->move(Tools::NoButton, 12, 12); // moving over it leaves the engine to the active one
     frame.toolStores_.paste = randomBits(8, 6, 5);
     frame.toolStores_.pastePending = true;
     tools->move(Tools::NoButton, 20, 20);
@@ -403,7 +403,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
 
-    document.handTo(frame.filter_); // active again: the paste hangs on the pointer, and leaves with it
+    document.handTo(frame.filter_); // active again: the paste follows the pointer, and leaves with it
     tools->move(Tools::NoButton, 21, 20);
     EXPECT_FALSE(sameBits(before, document.bits()));
     tools->deactivated();
@@ -411,7 +411,7 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_TRUE(frame.toolStores_.pastePending);
 }
 
-/// Any order of events, settings out of a damaged configuration, and commands in between: a right click always shows
+/// Any order of events, settings from a damaged configuration, and commands in between: a right click always restores
 /// the committed picture.
 TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
 {
@@ -427,7 +427,7 @@ TEST_F(PaintTools, NoOrderOfEventsBreaksTheTools)
     auto& s = frame.setup_;
     int x = 0, y = 0, button = 0;
     const std::pair<int, std::function<void()>> kinds[] = {
-        // how often, and what happens
+        // weight, and the event
         {2, [&] { choose(names[within(0, 12)]); }},
         {1,
          [&] {

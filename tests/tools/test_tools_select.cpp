@@ -7,7 +7,7 @@ namespace {
 using Words = std::vector<std::int32_t>;
 
 struct SelectTool : ToolFixture {
-    SelectTool() { choose("Select   "); } // the name comes out of a fixed-length field
+    SelectTool() { choose("Select   "); } // the name comes from a fixed-length field
     Words rects() const { return rectanglesOf(selection()); }
 };
 
@@ -19,7 +19,7 @@ TEST_F(SelectTool, ABandSelectsWhicheverWayItIsDragged)
     EXPECT_EQ(surface.pointer, Pointer::Cross);
     EXPECT_EQ(frame.filter_.BitsRegion(), selection());
     drag({{30, 35}, {10, 20}});
-    EXPECT_EQ(rects(), (Words{10, 20, 30, 35})); // "New" wiped the first
+    EXPECT_EQ(rects(), (Words{10, 20, 30, 35})); // "New" cleared the first
     EXPECT_EQ(frame.status[Panel::Pos], "X:10 Y:20");
     EXPECT_EQ(frame.status[Panel::Ext], "20,15");
     drag({{5, 5}, {5, 5}}); // a click with "New" selects nothing: the whole picture is the working region again
@@ -58,7 +58,7 @@ TEST_F(SelectTool, SpaceSetsCornersOfAPolygonUnderTheButton)
     frame.setup_.SelectionShape = SelectionShape::Polygon;
     document.Region.CreateRect(0, 0, 5, 5, Combine::Or, true);
     press({10, 10});
-    EXPECT_TRUE(selection().isEmpty()); // "New" wipes at the first corner
+    EXPECT_TRUE(selection().isEmpty()); // "New" clears at the first corner
     move({30, 10});
     EXPECT_TRUE(tools->keyDown(Tools::Space));
     move({30, 40});
@@ -80,15 +80,15 @@ TEST_F(SelectTool, APolygonMayBeMadeOfSeveralDrags)
     release({30, 10});
     EXPECT_EQ(tools->ToolPoints(), (Words{10, 10, 30, 10})) << "two corners enclose nothing: it stays open";
     frame.setup_.SelectionMode = SelectionMode::New;
-    drag({{0, 0}, {30, 40}}); // goes on from the last corner, wherever the press is
+    drag({{0, 0}, {30, 40}}); // continues from the last corner, wherever the press is
     EXPECT_EQ(tools->ToolPoints().size(), 6u);
-    drag({{30, 40}, {14, 10}}); // four pixels away from the first corner: one more
+    drag({{30, 40}, {14, 10}}); // four pixels from the first corner: adds a corner
     EXPECT_EQ(tools->ToolPoints().size(), 8u);
-    drag({{14, 10}, {13, 7}}); // three away: meets it
+    drag({{14, 10}, {13, 7}}); // three pixels: closes the polygon
     EXPECT_EQ(selection(), Region::polygon(Words{10, 10, 30, 10, 30, 40, 14, 10}));
     EXPECT_EQ(tools->ToolPoints(), (Words{0, 0}));
 
-    drag({{1, 1}, {5, 1}}); // an open one goes away by another shape
+    drag({{1, 1}, {5, 1}}); // an open one is dropped by another shape
     frame.setup_.SelectionShape = SelectionShape::Rectangle;
     drag({{2, 2}, {4, 4}});
     EXPECT_EQ(rects(), (Words{2, 2, 4, 4}));
@@ -115,7 +115,7 @@ TEST_F(SelectTool, ClicksSetCornersAndEnterOrADoubleClickClosesThePolygon)
         EXPECT_TRUE(tools->doubleClick(30, 40)) << "the second click of one that closed it begins no other";
         EXPECT_EQ(selection(), Region::polygon(corners));
     }
-    press({10, 10}); // the button is still down: its place is the last corner
+    press({10, 10}); // the button is still down: its position is the last corner
     move({30, 10});
     tools->keyDown(Tools::Space);
     move({30, 40});
@@ -168,7 +168,7 @@ TEST_F(SelectTool, AnyGestureCanBeDroppedWithWhatItChanged)
     const Bits before = document.bits();
     for (const auto& row : rows)
         for (const auto& [name, drop] : ways) {
-            if (row.released && name == "another document") continue; // a polygon waits for it to come back
+            if (row.released && name == "another document") continue; // a polygon waits until it is active again
             SCOPED_TRACE(row.tool + std::to_string(row.shape) + " by " + name);
             choose(row.tool);
             frame.setup_.SelectionShape = row.shape;
@@ -209,7 +209,7 @@ TEST_F(MoveTool, OnlyTheOutlineMovesAndIsCutAtTheRelease)
     EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
     EXPECT_EQ(frame.snapshots, 0);
     EXPECT_TRUE(frame.filter_.bits() == document.bits());
-    drag({{30, 30}, {40, 40}}); // not within the selection
+    drag({{30, 30}, {40, 40}}); // outside of the selection
     EXPECT_EQ(rectanglesOf(selection()), (Words{0, 13, 4, 23}));
     EXPECT_EQ(surface.pointer, Pointer::Sizing);
 }
@@ -218,7 +218,7 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
 {
     frame.setup_.MoveSelection = false;
     frame.setup_.SelectionPressure = 100;
-    document.Region.CreateEllipse(8, 8, 24, 22, Combine::Or, true); // no rectangle: the mask counts
+    document.Region.CreateEllipse(8, 8, 24, 22, Combine::Or, true); // not a rectangle: the mask matters
     const Bits before = document.bits();
     const Region shape = selection();
     press({15, 15});
@@ -233,7 +233,7 @@ TEST_F(MoveTool, ContentIsCopiedAlongAndCommittedAtTheRelease)
                     for (int c = 0; c < 3; ++c) bits.at(x, y).c[c] = before.at(x - dx, y - dy).c[c];
         return bits;
     };
-    EXPECT_TRUE(sameBits(wanted(25, 15), document.bits())); // the selection does not limit the paste, the picture does
+    EXPECT_TRUE(sameBits(wanted(25, 15), document.bits())); // the selection doesn't limit the paste, the picture does
     move({-2, 10});
     EXPECT_TRUE(sameBits(wanted(-17, -5), document.bits()));
     frame.toolStores_.useMovePressure = true;
@@ -253,7 +253,7 @@ TEST_F(MoveTool, SpaceFixesTheContentAndGoesOnUnderTheButton)
     frame.setup_.MoveSelection = false;
     frame.setup_.SelectionPressure = 100;
     const Bits before = document.bits();
-    EXPECT_TRUE(tools->keyDown(Tools::Space)); // without the button: what stands is fixed, and nothing goes on
+    EXPECT_TRUE(tools->keyDown(Tools::Space)); // without the button: the paste is fixed where it is, and ends
     EXPECT_EQ(frame.snapshots, 1);
     EXPECT_TRUE(sameBits(before, frame.filter_.bits()));
     press({15, 15});
@@ -272,7 +272,7 @@ TEST_F(MoveTool, ASelectionFarOutsideHasNoContent)
     document.Region.Offset(1000, 0);
     drag({{1015, 15}, {20, 20}});
     EXPECT_EQ(frame.snapshots, 0);
-    document.Region.Offset(-1005, 0); // half outside: the spot under the pointer stays under it
+    document.Region.Offset(-1005, 0); // half outside: the point under the pointer is kept
     frame.setup_.SelectionPressure = 100;
     const Bits before = document.bits();
     drag({{8, 15}, {28, 15}});
@@ -289,7 +289,7 @@ TEST_F(MoveTool, ADragBelongsToTheToolThatBeganIt)
     EXPECT_EQ(rectanglesOf(selection()), (Words{11, 10, 21, 20}));
 }
 
-/// The release went elsewhere, as to another window.
+/// The release went elsewhere, such as to another window.
 TEST_F(MoveTool, APressEndsADragWhoseReleaseNeverCame)
 {
     const Bits before = document.bits();
@@ -330,7 +330,7 @@ TEST_F(MoveTool, ADocumentThatClosesInAPressIsLetGo)
 TEST_F(MoveTool, WithoutAPictureNothingHappens)
 {
     surface.onActivate = [this] { document.Clear(); };
-    press({15, 15}); // it goes away just now
+    press({15, 15}); // it has just been cleared
     EXPECT_FALSE(tools->ToolDown());
     surface.onActivate = nullptr;
     open(randomBits(60, 50, 3));

@@ -1,5 +1,5 @@
-// While one lives, pictures are read by copies of one reader that has its libraries loaded already: a tenth of the time
-// of a start. All that the loader does to its reader is the same.
+// While an object lives, pictures are read by forks of one reader that has already loaded its libraries: a tenth of the
+// time of a start. The loader treats its reader in the same way.
 #pragma once
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/startReader.h"

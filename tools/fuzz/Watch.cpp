@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr milliseconds kHang = 150s; // beyond every limit of the loader
+constexpr milliseconds kHang = 150s; // beyond all limits of the loader
 constexpr int kFaultsBeforeGivingUp = 100;
 
 std::int64_t now() { return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count(); }
@@ -34,7 +34,7 @@ class Watch {
         place_.tally = &at_->tally;
     }
     Progress& progress() { return *at_; }
-    /// One worker after the other, until one comes to the end of the plan.
+    /// Runs one worker after the other, until one reaches the end of the plan.
     void run()
     {
         while (at_->faults < kFaultsBeforeGivingUp) {
@@ -56,7 +56,7 @@ class Watch {
     {
         return plan_.brief ? static_cast<std::uint64_t>(plan_.subjects[s]->brief) : plan_.runs;
     }
-    /// The subject that had least of its share; none when the plan is done.
+    /// The subject that is furthest below its share; none when the plan is done.
     std::optional<std::size_t> next() const
     {
         std::optional<std::size_t> best;
@@ -90,7 +90,7 @@ class Watch {
             if (at_->faults >= kFaultsBeforeGivingUp) return;
         }
     }
-    /// True when the worker came to the end of the plan by itself.
+    /// True when the worker reached the end of the plan by itself.
     bool watched(pid_t worker)
     {
         int status = 0;
@@ -112,7 +112,7 @@ class Watch {
         tell(s, plan_.seed + at_->begun[s] - 1, how);
         return false;
     }
-    /// The input stays under the name of subject and number.
+    /// Keeps the input under the name of subject and number.
     void tell(std::size_t subject, std::uint64_t number, const QString& fault)
     {
         ++at_->faults;
@@ -136,7 +136,7 @@ class Watch {
 
 const Progress& carryOut(const Plan& plan, const Place& place)
 {
-    static Watch* watch = new Watch(plan, place); // what is shared stays
+    static Watch* watch = new Watch(plan, place); // never deleted: it is shared
     watch->run();
     return watch->progress();
 }

@@ -30,7 +30,7 @@ QByteArray big(std::uint32_t value)
     return bytes;
 }
 
-/// Changes numbers where they stand; the length stays.
+/// Changes numbers in place; the length is kept.
 void poke(QByteArray& bytes, Dice& dice)
 {
     constexpr std::uint32_t kTelling[] = {0,    1,      2,      3,      4,       7,          8,          16,        255,
@@ -45,7 +45,7 @@ template <class List> qsizetype anyOf(const List& list, Dice& dice)
     return dice.within(0, static_cast<int>(list.size()) - 1);
 }
 
-/// Parts doubled, lost, moved, or taken from the other; the first, without which nothing is looked at, stays.
+/// Parts are duplicated, dropped, moved, or taken from the other; the first, without which nothing is parsed, is kept.
 template <class Part> void shuffle(QList<Part>& parts, const QList<Part>& other, Dice& dice)
 {
     if (parts.size() < 2) return;
@@ -63,7 +63,7 @@ template <class Part> void shuffle(QList<Part>& parts, const QList<Part>& other,
     }
 }
 
-// --- Packed by deflate; the sums of the packing come right by themselves
+// --- Compressed by deflate; its checksums are recomputed automatically
 
 QByteArray unpacked(const QByteArray& bytes)
 {
@@ -73,7 +73,7 @@ QByteArray unpacked(const QByteArray& bytes)
 
 QByteArray packed(const QByteArray& bytes) { return qCompress(bytes).mid(4); }
 
-/// False when it isn't packed so, or says so only.
+/// False when it isn't compressed that way, or only claims to be.
 bool mutatePacked(QByteArray& bytes, const QByteArray& other, Dice& dice)
 {
     QByteArray plain = bytes.size() > 6 ? unpacked(bytes) : QByteArray();
@@ -83,7 +83,7 @@ bool mutatePacked(QByteArray& bytes, const QByteArray& other, Dice& dice)
     return true;
 }
 
-// --- PNG and MNG: a signature, then chunks of length, name, contents and sum
+// --- PNG and MNG: a signature, then chunks of length, name, contents and checksum
 
 constexpr qsizetype kSignature = 8;
 
@@ -136,7 +136,7 @@ void mutatePixels(QList<Chunk>& chunks, const QByteArray& other, Dice& dice)
     chunks.erase(first + 1, end);
 }
 
-/// One that carries something packed, or tables that the pixels are held against.
+/// A chunk with compressed contents, or with tables that are checked against the pixels.
 Chunk strangeChunk(Dice& dice)
 {
     constexpr const char* kNames[] = {"PLTE", "tRNS", "gAMA", "cHRM", "sBIT", "bKGD", "hIST", "pHYs", "sPLT", "eXIf",
@@ -190,12 +190,12 @@ qsizetype paletteBytes(const QByteArray& head, qsizetype flagsAt)
 constexpr qsizetype kScreen = 13, kScreenFlags = 10, kImage = 10, kImageFlags = 9;
 constexpr char kExtension = 0x21, kImageMark = 0x2c, kEnd = 0x3b;
 
-/// The first has the screen and no contents.
+/// The first block is the screen, without contents.
 QList<Block> blocksOf(const QByteArray& file)
 {
     QList<Block> blocks{{file.left(kScreen + paletteBytes(file, kScreenFlags)), {}}};
     for (qsizetype at = blocks[0].head.size(); at < file.size() && file[at] != kEnd;) {
-        const qsizetype image = kImage + paletteBytes(file, at + kImageFlags) + 1; // the size of the codes comes last
+        const qsizetype image = kImage + paletteBytes(file, at + kImageFlags) + 1; // the code size comes last
         Block block{file.mid(at, file[at] == kImageMark ? image : 2), {}};
         at += block.head.size();
         for (qsizetype length; (length = number(file, at, 1)) > 0; at += 1 + length)
@@ -220,7 +220,7 @@ QByteArray fileOf(const QList<Block>& blocks)
     return file + kEnd;
 }
 
-/// Numbers of a head; its palette grows or shrinks to what it then announces, and its mark stays.
+/// Changes numbers of a head; its palette is resized to what it then announces, and its marker is kept.
 void pokeHead(QByteArray& head, Dice& dice)
 {
     const bool isScreen = head.startsWith("GIF8"), isImage = head.startsWith(kImageMark);
@@ -254,7 +254,7 @@ void mutateBlocks(QByteArray& file, const QByteArray& other, Dice& dice)
     file = fileOf(blocks);
 }
 
-// --- TIFF: a header, then a directory of entries with tag, type, count, and the value or where it is
+// --- TIFF: a header, then a directory of entries with tag, type, count, and the value or its offset
 
 class Directory {
   public:
@@ -273,7 +273,7 @@ class Directory {
         const qsizetype at = valueAt(tag);
         return at > 0 ? get(at, get(find(tag) + 2, 2) == kShort ? 2 : 4) : 0;
     }
-    /// Of the first number of a tag: in its entry, or where that points to. 0: there is none.
+    /// The offset of the first number of a tag: in its entry, or where that points to. 0: there is none.
     qsizetype valueAt(int tag) const
     {
         const qsizetype at = find(tag);
@@ -304,7 +304,7 @@ class Directory {
 
 enum Tag { Compression = 259, StripOffsets = 273, StripBytes = 279, TileOffsets = 324, TileBytes = 325 };
 
-/// The first strip or tile, damaged, goes behind all else.
+/// Damages the first strip or tile and moves it to the end.
 void mutateStrip(QByteArray& file, const QByteArray& other, Dice& dice)
 {
     constexpr std::uint32_t kDeflate = 8, kOldDeflate = 32946;
@@ -320,7 +320,7 @@ void mutateStrip(QByteArray& file, const QByteArray& other, Dice& dice)
     file += strip;
 }
 
-/// A tag's value becomes another that means something, or any number; what is a place stays inside of the file.
+/// Sets a tag to another meaningful value, or to any number; offsets stay inside the file.
 void mutateEntry(QByteArray& file, Dice& dice)
 {
     constexpr struct {

@@ -1,18 +1,18 @@
-// Damage behind what a reader looks at first: chunks keep their lengths and sums, packed pixels are damaged before they
-// are packed, blocks and directories stay in order.
+// Damage beyond a reader's first checks: chunks keep valid lengths and checksums, pixels are damaged before they are
+// compressed, blocks and directories stay in order.
 #pragma once
 #include "tools/fuzz/Subject.h"
 
 namespace velara::fuzz {
 
-/// The formats that can be damaged so, by their extension.
+/// The formats that support this, by their extension.
 constexpr const char* kInside[] = {"png", "mng", "gif", "tif"};
 
-/// A picture of the format with one to four changes inside; other is one to take parts from. What doesn't have the
-/// format's frame is damaged as mutate does it.
+/// Makes one to four changes inside a picture of the format; other is one to take parts from. Data without the format's
+/// structure is damaged as by mutate.
 void mutateInside(QByteArray& bytes, const QString& format, const QByteArray& other, Dice& dice);
 
-/// The PNG file as the one frame of an MNG file.
+/// The PNG file as the single frame of an MNG file.
 QByteArray asMng(const QByteArray& png);
 
 } // namespace velara::fuzz

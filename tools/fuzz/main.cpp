@@ -1,5 +1,5 @@
-// velara-fuzz: damaged pictures, sequences of operations, configuration records and region words, for as long as it is
-// told. A fault is told with its number, its input is kept, and the program ends with 1.
+// velara-fuzz: damaged pictures, sequences of operations, configuration records and region words, for a given time or
+// number of runs. A fault is reported with its number, its input is kept, and the exit status is 1.
 //
 //   velara-fuzz [--seconds N | --runs N | --brief] [--seed N] [--warm] [--samples FOLDER] [--keep FOLDER] [SUBJECT...]
 #include "tools/fuzz/Watch.h"
@@ -23,7 +23,7 @@ constexpr Subject kSubjects[] = {{"pictures", 45, 125, tryPicture},
                                  {"operations", 30, 60, tryOperations},
                                  {"configuration", 5, 300, tryConfiguration},
                                  {"regions", 5, 300, tryRegion}};
-constexpr long kReaderMemory = 4L << 20; // kB, what the loader allows
+constexpr long kReaderMemory = 4L << 20; // kB, the loader's limit
 
 Plan planOf(const QCommandLineParser& line)
 {
@@ -78,7 +78,7 @@ void print(const Plan& plan, const Progress& progress)
         progress.readerPeak / 1024, own.ru_maxrss / 1024);
 }
 
-/// Files and processes that nobody took away.
+/// Counts files and processes left behind.
 int remains(const QTemporaryDir& scratch)
 {
     int count = 0;
@@ -112,7 +112,7 @@ int run(const Plan& plan)
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    QLoggingCategory::setFilterRules("default.warning=false"); // unpacking what is damaged is told each time
+    QLoggingCategory::setFilterRules("default.warning=false"); // else each damaged unpacking is reported
     QCommandLineParser line;
     line.addHelpOption();
     line.addOptions({{"seconds", "how long", "N", "60"},

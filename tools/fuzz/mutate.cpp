@@ -9,7 +9,7 @@ constexpr std::uint32_t kTelling[] = {
     0,      1,      2,      3,       8,          16,         32,         255,        256,        0x7F,  0x80,
     0x7FFF, 0x8000, 0xFFFF, 0x10000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0xFFFFFFFC, 0x40000000, 65500, 30000};
 
-/// Headers decide more than pixels do: half of the places lie there.
+/// Headers matter more than pixels: half of the positions are there.
 qsizetype somewhere(const QByteArray& bytes, Dice& dice)
 {
     constexpr qsizetype kHead = 96;

@@ -1,5 +1,5 @@
-// Sequences of operations, sizes, selections, undo and redo through the classes of the batch program. Beside them goes
-// the plainest model of an undo series; every state that comes back is compared with it byte by byte.
+// Sequences of operations, sizes, selections, undo and redo through the classes of the batch program. In parallel runs
+// the simplest model of an undo series; every restored state is compared with it byte by byte.
 #include "engine/operations.h"
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
@@ -15,7 +15,7 @@ namespace velara::fuzz {
 
 namespace {
 
-constexpr int kMostASide = 400; // larger pictures would only take time
+constexpr int kMostASide = 400; // larger pictures would only take longer
 
 QString numberText(const Parameter& p, Dice& dice)
 {
@@ -55,7 +55,7 @@ QString shapeText(Dice& dice)
     return QStringList{"", "+", "-", "&", "^"}[dice.within(0, 4)] + kShapes[shape] + ':' + numbers.join(',');
 }
 
-/// What a series of ten steps has to give.
+/// The expected behaviour of a series of ten steps.
 struct Model {
     std::vector<Bits> states;
     std::size_t shown = 0;
@@ -85,7 +85,7 @@ struct Model {
     }
 };
 
-/// Whether a step that went well leaves an undo step, and of which kind.
+/// Whether a successful step makes an undo step, and of which kind.
 std::optional<After> afterOf(const QString& text, bool sameBlock)
 {
     const std::string word = text.toStdString();
@@ -126,7 +126,7 @@ class Sequence {
             model_.change(session_.picture(), *after);
         return same(model_.states[model_.shown], "not the state that it has to be");
     }
-    /// All the way back and forth again.
+    /// All the way back and forward again.
     QString walk()
     {
         for (const char* word : {"UNDO", "REDO"})

@@ -1,4 +1,4 @@
-// Damaged pictures through the loader of the programs.
+// Damaged pictures through the programs' loader.
 #include "platform/WindowlessPlatform.h"
 #include "tools/fuzz/inside.h"
 #include <QFile>
@@ -17,7 +17,7 @@ struct Meaning {
 };
 constexpr Meaning kMeanings[] = {
     {"its reader gave up", ReaderDied}, {"took too long", TookTooLong}, {"wanted what no picture needs", Caged}};
-/// A reader that says such things of any picture is broken.
+/// A reader that reports one of these for any picture is broken.
 constexpr const char* kFaults[] = {"velara-decode", "no reader for", "no permission", "the system says", "sanitizer"};
 
 PictureOutcome outcomeOf(const LoadedPicture& picture)
@@ -45,7 +45,7 @@ QString faultOf(const LoadedPicture& picture)
     return {};
 }
 
-/// Reads a picture that damage has made of a seed of the format and another one.
+/// Reads a picture made by damaging a seed of the format, with another one for parts.
 template <class Damage> QString tryOne(const Place& place, std::size_t format, Dice& dice, const Damage& damage)
 {
     static Loader loader;

@@ -1,4 +1,4 @@
-// Whole pictures to begin from.
+// Intact pictures to start from.
 #include "fileio/savePicture.h"
 #include "platform/WindowlessPlatform.h"
 #include "tools/fuzz/inside.h"
@@ -15,7 +15,7 @@ struct Silent final : WindowlessPlatform {
     void message(const QString&, const QString&, velara::Icon) override {}
 };
 
-/// What the saver of an extension writes of a small picture.
+/// The file that the writer of an extension makes of a small picture.
 QByteArray saved(const QString& extension)
 {
     const QTemporaryDir folder;
@@ -29,7 +29,7 @@ QByteArray saved(const QString& extension)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// A bitmap as icons hold it: no file header, twice the height, a mask behind the pixels.
+/// A bitmap as inside an icon: no file header, double height, a mask after the pixels.
 QByteArray asIcon(char type)
 {
     QByteArray bitmap = QByteArray::fromHex("28000000 10000000 20000000 0100 1800") + QByteArray(24, '\0');
@@ -44,7 +44,7 @@ QByteArray asIcon(char type)
 
 QByteArray hex(const char* head, int rest, char fill) { return QByteArray::fromHex(head) + QByteArray(rest, fill); }
 
-/// The smallest of each kind that its reader takes to be one.
+/// The smallest file of each format that its reader recognises.
 QByteArray made(const QString& format)
 {
     static const QStringList kSaved = {"gif", "jpg", "bmp", "tif", "pcx", "tga", "png"};

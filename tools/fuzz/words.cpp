@@ -1,4 +1,4 @@
-// Words that come from outside: the configuration record, and the flat form of regions.
+// Data from outside: the configuration record, and the flat form of regions.
 #include "fileio/SetupStore.h"
 #include "platform/WindowlessPlatform.h"
 #include "region/cBitRegion.h"
@@ -32,7 +32,7 @@ QByteArray noise(Dice& dice, int size)
     return bytes;
 }
 
-/// Coordinates in and around a small square, with some that nothing should be made of.
+/// Coordinates in and around a small square, with some that are invalid.
 std::int32_t coordinate(Dice& dice)
 {
     static constexpr std::int32_t kOdd[] = {INT_MIN, INT_MAX, INT_MIN + 1, INT_MAX - 1, 1 << 30, -(1 << 30)};
@@ -49,7 +49,7 @@ std::vector<std::int32_t> regionWords(Dice& dice)
     return words;
 }
 
-/// Whether a point lies in one of the rectangles, by looking at each.
+/// Whether a point lies in one of the rectangles, by testing each.
 bool isIn(const std::vector<std::int32_t>& words, int x, int y)
 {
     for (std::size_t i = 8; i + 4 <= 8 + 4 * static_cast<std::size_t>(words[2]); i += 4)
@@ -88,7 +88,7 @@ QString tryConfiguration(const Place& place, std::uint64_t number)
     const QByteArray once = contents(path);
     if (once.size() != std::max<qsizetype>(bytes.size(), kSetupBytes)) return "a file of another length";
     if (once.mid(kSetupBytes) != bytes.mid(kSetupBytes)) return "what stood behind the record has changed";
-    constexpr qsizetype kFont = 2755, kFontBytes = 256; // a text that nobody edits
+    constexpr qsizetype kFont = 2755, kFontBytes = 256; // a text that is never edited
     const QByteArray font = bytes.mid(kFont, kFontBytes);
     const bool isForeign = QString::fromUtf8(font.constData()).contains(QChar::ReplacementCharacter);
     if (font.size() == kFontBytes && isForeign && once.mid(kFont, kFontBytes) != font)

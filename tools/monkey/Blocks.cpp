@@ -26,7 +26,7 @@ Blocks::~Blocks()
     close(schedule_);
 }
 
-/// A clock that stands still while the thread is ready and no processor is free.
+/// A clock that stops while the thread is runnable but no processor is free.
 Blocks::Milliseconds Blocks::now() const
 {
     char text[96] = {};

@@ -1,5 +1,5 @@
-// Blocks: how long the window's thread goes without looking at its events. The time that it waits for a processor while
-// others have them all is not counted: a loaded machine makes no block.
+// Blocks: measures how long the window's thread doesn't process events. Time spent waiting for a processor is not
+// counted: a loaded machine doesn't count as blocking.
 #pragma once
 #include <QString>
 #include <atomic>
@@ -13,24 +13,24 @@ class Blocks {
   public:
     using Milliseconds = std::chrono::milliseconds;
 
-    /// Of the calling thread. Where there is no beat for so long the process ends itself: it hangs.
+    /// For the calling thread. Without a beat for `patience` the process ends itself: it hangs.
     explicit Blocks(Milliseconds patience);
     ~Blocks();
     Blocks(const Blocks&) = delete;
 
-    /// The thread looks at its events; since the last beat it did this.
+    /// Call when the thread processes events; doing is what it did since the last beat.
     void beat(const QString& doing);
-    /// What the thread does from here to next() is the monkey's own.
+    /// Excludes the monkey's own work from the last beat() to here.
     void next();
     Milliseconds longest() const { return longest_; }
-    /// Those above half a second: the longest of each doing.
+    /// Those above half a second: the longest per `doing`.
     const std::map<QString, Milliseconds>& noted() const { return noted_; }
 
   private:
     void watch(Milliseconds patience);
     Milliseconds now() const;
 
-    const int schedule_; // the system's account of the thread
+    const int schedule_; // the kernel's scheduling statistics of the thread
     std::atomic<Milliseconds> last_;
     std::atomic<bool> over_ = false;
     Milliseconds longest_{0};

@@ -39,7 +39,7 @@ void Hands::releaseAll()
 
 void Hands::send(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers keys)
 {
-    if (!window_ || !window_->handle()) return; // it has gone meanwhile
+    if (!window_ || !window_->handle()) return; // it was destroyed meanwhile
     time_ += 30;
     qt_handleMouseEvent(window_, window_->mapFromGlobal(global_), global_, held_, button, type, keys, time_);
 }

@@ -1,5 +1,5 @@
-// Hands: mouse and keys as the window system hands them on. Who gets them is Qt's own choice: modal windows, popups and
-// the widget that was pressed have their say as they have with a person.
+// Hands: mouse and key events as sent by the window system. Qt itself chooses their receiver: modal windows, popups and
+// the pressed widget intervene as with a real user.
 #pragma once
 #include <QKeySequence>
 #include <QPointer>
@@ -10,7 +10,7 @@ namespace velara::monkey {
 
 class Hands {
   public:
-    /// The pointer over a place of the widget; with a button held it stays the pressed window's.
+    /// Moves the pointer over a position of the widget; while a button is held, events go to the pressed window.
     void point(const QWidget& widget, QPoint at);
     void press(Qt::MouseButton button, Qt::KeyboardModifiers keys = {});
     void release(Qt::MouseButton button, Qt::KeyboardModifiers keys = {});

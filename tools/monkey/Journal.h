@@ -1,4 +1,4 @@
-// Journal: what the monkey did, a line an action, in a file that outlives its process.
+// Journal: what the monkey did, one line per action, in a file that outlives its process.
 #pragma once
 #include <QString>
 #include <cstdint>
@@ -11,12 +11,12 @@ class Journal {
     ~Journal();
     Journal(const Journal&) = delete;
 
-    /// Begins the line of an action; depth is how many actions are still under way, this one included.
+    /// Begins the line of an action; depth is the number of actions under way, including this one.
     void begin(std::uint64_t action, int depth);
-    /// Goes on with the line.
+    /// Continues the line.
     void add(const QString& text);
 
-    /// The last so many lines of a journal.
+    /// The last lines of a journal.
     static QString tail(const QString& path, int lines);
 
   private:

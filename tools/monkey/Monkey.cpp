@@ -9,19 +9,19 @@ namespace velara::monkey {
 
 namespace {
 
-constexpr int kDeepest = 5;                   // actions within one another; from there on windows are only left
+constexpr int kDeepest = 5;                   // nested actions; beyond that it only leaves windows
 constexpr int kBetweenChecks = 250;           // actions
-constexpr int kMostLeaving = 5000;            // tries until the end of a run
-constexpr int kBetweenHomes = 2000;           // until all is closed
-constexpr std::uint64_t kOthers = 1ULL << 32; // numbers of dice that are not of an action
+constexpr int kMostLeaving = 5000;            // attempts until the end of a run
+constexpr int kBetweenHomes = 2000;           // until all documents are closed
+constexpr std::uint64_t kOthers = 1ULL << 32; // numbers of dice that belong to no action
 #ifdef __SANITIZE_ADDRESS__
-constexpr int kSlow = 5; // times what the sanitizers cost
+constexpr int kSlow = 5; // slowdown by the sanitizers
 #else
 constexpr int kSlow = 1;
 #endif
 constexpr std::chrono::seconds kLongestBlock{2 * kSlow}, kHang{60 * kSlow};
 
-/// What is in the way of the rest: a popup, else the modal window.
+/// What blocks the rest: a popup, else the modal window.
 QWidget* inFront()
 {
     QWidget* const popup = QApplication::activePopupWidget();
@@ -111,7 +111,7 @@ void Monkey::end()
     if (!left.isEmpty()) fault("files are left in Temp: " + left.join(' '));
 }
 
-/// A timer of its own for each action: one that is being handled doesn't fire in an inner loop.
+/// A timer of its own for each action: one that is being handled doesn't fire in a nested loop.
 void Monkey::timerEvent(QTimerEvent* event)
 {
     killTimer(event->timerId());
@@ -133,13 +133,13 @@ void Monkey::step()
         if (faults_ > 0) return windUp();
     }
     Dice any(plan_.seed, 0);
-    if (!anyWindow(any)) // all are hidden: the screen is captured in a moment
+    if (!anyWindow(any)) // all are hidden: the screen is about to be captured
         QThread::msleep(5);
     else if (wantsToAct())
         act();
 }
 
-/// At rest and in a window that waits always; in a report of progress now and then, and the less the deeper.
+/// Always when idle and in a window that waits; in a progress report sometimes, and more rarely the deeper.
 bool Monkey::wantsToAct()
 {
     if (depth_ == 1) return true;
@@ -181,7 +181,7 @@ void Monkey::goOnWithStroke()
     hands_.point(*stroked_, at);
 }
 
-/// Out of whatever stands, then the last look; from then on the loops end.
+/// Leaves everything open, then makes the last check; from then on the loops end.
 void Monkey::windUp()
 {
     if (finished_) return;
@@ -197,7 +197,7 @@ void Monkey::windUp()
     if (faults_ == 0) check();
     if (faults_ == 0) checkHome();
     finished_ = true;
-    QCoreApplication::exit(); // quit() would ask the windows, which may stay
+    QCoreApplication::exit(); // quit() would ask the windows, which may refuse
 }
 
 } // namespace velara::monkey

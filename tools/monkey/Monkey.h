@@ -1,8 +1,8 @@
-// Monkey: hits the editor at random and looks at what it leaves.
+// Monkey: operates the editor at random and checks the resulting state.
 //
-// An action is a choice out of a table (actions.cpp) by the dice of its number. Each begins as the event loop comes
-// round, whatever is under way: in a dialog's own loop, between two moves of a stroke, in a report of progress. From
-// time to time everything is brought to rest and compared (Monkey_checks.cpp).
+// An action is a random choice from a table (actions.cpp), seeded by its number. Each begins in the event loop,
+// whatever is under way: in a dialog's own loop, between two moves of a stroke, in a progress report. From time to time
+// everything is brought to rest and compared (Monkey_checks.cpp).
 #pragma once
 #include "app/frame/fMain.h"
 #include "tools/monkey/Blocks.h"
@@ -19,8 +19,8 @@ struct Plan {
     std::uint64_t seed = 1;
     std::uint64_t actions = 0; // 0: until the time is over
     int seconds = 120;
-    QString journal; // a copy of what was done; empty: none
-    QString scratch; // the folder that everything lies in
+    QString journal; // a copy of the journal; empty: none
+    QString scratch; // the folder that contains everything
 };
 
 class Monkey final : public QObject {
@@ -28,7 +28,7 @@ class Monkey final : public QObject {
     Monkey(const Plan& plan, Journal& journal);
     ~Monkey() override;
 
-    /// The whole run. \returns the number of faults; those that end the process are told by whoever started it.
+    /// The whole run. Returns the number of faults; those that end the process are reported by the parent.
     int run();
 
     // --- For the actions
@@ -37,11 +37,11 @@ class Monkey final : public QObject {
     fMain& frame() { return *frame_; }
     /// The active document's display; null without one.
     QWidget* display() const;
-    /// A window that a person could get at: the popup, the modal one, else any. Null: there is none.
+    /// A window that a user could reach: the popup, the modal one, else any. Null: there is none.
     QWidget* anyWindow(Dice& dice) const;
-    /// A stroke goes on with the next actions, so that others come in between.
+    /// A stroke continues during the next actions, so that others happen in between.
     void beginStroke(QWidget& widget, int moves);
-    /// Says more of the action under way.
+    /// Adds to the journal line of the current action.
     void say(const QString& text);
 
   protected:
@@ -63,7 +63,7 @@ class Monkey final : public QObject {
     void checkDocument(fImage& image);
     void checkScreen(fImage& image);
     void checkHome();
-    /// An editor that does next to nothing, so that what is made once is there; the memory from then on counts.
+    /// Runs an editor with a few actions, so that one-time allocations are made; memory is measured from then on.
     void warmUp();
     void checkMemory();
     void fault(const QString& what);
@@ -88,13 +88,13 @@ class Monkey final : public QObject {
     int faults_ = 0;
 };
 
-/// One of the table's.
+/// Runs one action of the table.
 void actAtRandom(Monkey& monkey, Dice& dice);
-/// On a control of a window, or by a key.
+/// Uses a control of a window, or a key.
 void actInWindow(Monkey& monkey, Dice& dice, QWidget& window);
-/// What may happen in the middle of a report of progress.
+/// Something that may happen during a progress report.
 void actInBetween(Monkey& monkey, Dice& dice);
-/// Esc, OK, Cancel or the cross.
+/// Esc, OK, Cancel or the close button.
 void leaveWindow(Monkey& monkey, Dice& dice, QWidget& window);
 
 } // namespace velara::monkey

@@ -1,5 +1,5 @@
-// MonkeyPlatform: the outside world of the monkey. Messages and dialogs are answered by the dice, some only after they
-// have stood for a while; files lie in the scratch folder; clipboard, screen, scanner and printers are the tests' own.
+// MonkeyPlatform: the monkey's outside world. Messages and dialogs get random answers, some only after being open for a
+// while; files are in the scratch folder; clipboard, screen, scanner and printers are the tests' doubles.
 #pragma once
 #include "support/RecordingPlatform.h"
 #include "tools/monkey/Dice.h"
@@ -9,16 +9,16 @@ namespace velara::monkey {
 
 class MonkeyPlatform final : public RecordingPlatform {
   public:
-    /// files is the folder of the pictures that open dialogs give; what is saved goes there too.
+    /// files is the folder of the pictures returned by open dialogs; saved files go there, too.
     MonkeyPlatform(const QString& files, std::function<Dice()> dice);
 
-    /// Pictures of all sorts, and some that are none, for the dialogs to give.
+    /// Makes pictures of all kinds, and some invalid ones, for the dialogs to return.
     void makeFiles();
-    /// Any of them; some are missing.
+    /// A random one of them; some don't exist.
     QString anyFile(Dice& dice) const;
-    /// Forgets what the doubles wrote down, and gives answers that are waited for.
+    /// Clears the doubles' logs and delivers pending answers.
     void tidy(Dice& dice);
-    /// What the desktop has from now on: a clipboard, a screen, printers and a scanner that answer or don't.
+    /// Changes the desktop: a clipboard, a screen, printers and a scanner that answer or don't.
     void change(Dice& dice);
 
     std::uint32_t milliseconds() override { return now += 3; }
@@ -29,7 +29,7 @@ class MonkeyPlatform final : public RecordingPlatform {
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
 
   private:
-    /// A modal window stands for some actions, or none does.
+    /// Keeps a modal window open for some actions, or not at all.
     void stand(const QString& title);
 
     QString files_;

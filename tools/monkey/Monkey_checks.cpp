@@ -1,5 +1,5 @@
-// What has to hold once everything is at rest: each document's picture is the snapshot of its step, the engine has the
-// active one, the screen shows it; with all closed Temp is empty and the memory back.
+// What must hold once everything is at rest: each document's picture equals the snapshot of its step, the engine has
+// the active one, the screen shows it; with all documents closed Temp is empty and the memory is released.
 #include "document/undo/UndoFiles.h"
 #include "pixels/BlockPool.h"
 #include "tools/monkey/Monkey.h"
@@ -16,9 +16,9 @@ namespace velara::monkey {
 
 namespace {
 
-constexpr std::size_t kMoreMemory = 48 << 20; // bytes by which caches and histories may grow
+constexpr std::size_t kMoreMemory = 48 << 20; // permitted growth of caches and histories, bytes
 
-/// Bytes that the program has taken and not given back.
+/// Bytes allocated and not freed by the program.
 std::size_t memoryInUse()
 {
     BlockPool::instance().clear();
@@ -27,7 +27,7 @@ std::size_t memoryInUse()
     return info.uordblks + info.hblkhd;
 }
 
-/// The visible pixels alike, whatever the fourth byte.
+/// Whether the visible pixels are equal, whatever the fourth byte.
 bool samePicture(const Bits& a, const Bits& b)
 {
     if (a.width() != b.width() || a.height() != b.height()) return false;
@@ -46,7 +46,7 @@ QString nameOf(const fImage& image)
 
 } // namespace
 
-/// Windows and gestures end, and what waits in the event loop is done.
+/// Ends windows and gestures and processes pending events.
 void Monkey::rest()
 {
     const bool before = std::exchange(resting_, true);
@@ -56,7 +56,7 @@ void Monkey::rest()
     for (fImage* image : frame_->documents()) {
         for (int i = 0; i < 3 && image->dropGesture(); ++i) {
         }
-        QEvent leave(QEvent::Leave); // the line round the pointer goes
+        QEvent leave(QEvent::Leave); // removes the outline around the pointer
         if (auto* display = image->findChild<QWidget*>("iDst")) QCoreApplication::sendEvent(display, &leave);
     }
     for (int i = 0; i < 4; ++i) {
@@ -93,7 +93,7 @@ void Monkey::checkScreen(fImage& image)
 {
     auto* const display = image.findChild<fDisplay*>("iDst");
     if (!display || !display->isVisible() || !image.PictureExists() || frame_->isMinimized()) return;
-    if (display->outlineShown() && !image.document().Region.IsEmptyRegion()) return; // the outline lies over it
+    if (display->outlineShown() && !image.document().Region.IsEmptyRegion()) return; // the outline covers it
     const QRect place(display->mapTo(frame_.get(), QPoint()), display->size());
     const QImage shown = frame_->screen()->grabWindow(frame_->winId()).toImage().convertToFormat(QImage::Format_RGB32);
     QImage wanted(display->size(), QImage::Format_RGB32);
@@ -107,7 +107,7 @@ void Monkey::checkScreen(fImage& image)
             }
 }
 
-/// Everything closed without a question.
+/// Closes everything without questions.
 void Monkey::checkHome()
 {
     const bool asks = std::exchange(setup_.AskToSave, false);
@@ -115,7 +115,7 @@ void Monkey::checkHome()
         const QList<fImage*> images = frame_->documents();
         for (fImage* image : images) image->parentWidget()->close();
         rest();
-        if (!frame_->isVisible()) QThread::msleep(20); // a capture that is under way brings another one
+        if (!frame_->isVisible()) QThread::msleep(20); // a capture under way will show it again
     }
     setup_.AskToSave = asks;
     if (!frame_->documents().isEmpty()) fault("a document stays open");

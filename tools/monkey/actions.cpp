@@ -1,4 +1,4 @@
-// The monkey's actions, a row each, and what it does in windows.
+// The monkey's actions, one row each, and what it does in windows.
 #include "app/frame/fToolPane.h"
 #include "app/menus/Bars.h"
 #include "commands/vocabulary.h"
@@ -55,7 +55,7 @@ QPoint somewhere(Dice& dice, const QWidget& widget, int outside = 0)
     return {dice.within(room.left(), room.right()), dice.within(room.top(), room.bottom())};
 }
 
-/// Items that can be chosen, in the order of the menus.
+/// Items that can be chosen, in menu order.
 void collect(const QList<QAction*>& actions, QList<QAction*>& found)
 {
     for (QAction* action : actions) {
@@ -104,7 +104,7 @@ void chooseTool(Monkey& monkey, Dice& dice)
     if (QAbstractButton* button = monkey.frame().toolPane().button(tool.name)) button->click();
 }
 
-/// A press; moves and the release are actions of their own. One in four is a click at once.
+/// A press; moves and the release are actions of their own. One in four is a complete click.
 void press(Monkey& monkey, Dice& dice)
 {
     QWidget* const display = monkey.display();
@@ -142,7 +142,7 @@ void useWindow(Monkey& monkey, Dice& dice)
     if (QWidget* window = monkey.anyWindow(dice)) actInWindow(monkey, dice, *window);
 }
 
-/// Pictures come in, and the longest open goes where there are many or one is large.
+/// Opens a picture, and closes the oldest if there are many or one is large.
 void openAnother(Monkey& monkey, Dice& dice)
 {
     const QList<fImage*> images = monkey.frame().documents();
@@ -206,7 +206,7 @@ void closeSomething(Monkey& monkey, Dice& dice)
     image->parentWidget()->close();
 }
 
-/// So that timers come to it: outline, pop-ups, previews that wait.
+/// Lets timers fire: outline, pop-ups, pending previews.
 void waitAWhile(Monkey& monkey, Dice& dice)
 {
     monkey.say("waits");
@@ -215,7 +215,7 @@ void waitAWhile(Monkey& monkey, Dice& dice)
 
 struct ActionRow {
     void (*act)(Monkey&, Dice&);
-    int weight, between; // at rest, and in a report of progress
+    int weight, between; // at rest, and in a progress report
 };
 // clang-format off
 constexpr ActionRow kActions[] = {
@@ -245,7 +245,7 @@ void actBy(int ActionRow::*weight, Monkey& monkey, Dice& dice)
         if ((left -= row.*weight) < 0) return row.act(monkey, dice);
 }
 
-/// Controls of the window that can be used, in the order in which they were made.
+/// The window's usable controls, in order of creation.
 QWidgetList controlsOf(const QWidget& window)
 {
     QWidgetList found;

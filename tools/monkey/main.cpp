@@ -1,9 +1,10 @@
-// velara-monkey: random actions on the whole editor, without a display, and a look at what they leave. A fault is told
-// with the seed and the number of its action, which repeat it as far as threads let them; the program ends with 1.
+// velara-monkey: random actions on the whole editor, without a display, and checks of the resulting state. A fault is
+// reported with the seed and the number of its action, which reproduce it as far as threads permit; the exit status is
+// then 1.
 //
 //   velara-monkey [--seconds N | --actions N] [--seed N] [--journal FILE]
 //
-// The editor runs in a child of its own with a home, a program folder and a working folder in a scratch folder, and can
+// The editor runs in a child process with home, program folder and working folder inside a scratch folder, and can
 // write nowhere else.
 #include "app/menus/fMenuStyle.h"
 #include "tools/monkey/Monkey.h"
@@ -23,9 +24,9 @@ namespace velara::monkey {
 
 namespace {
 
-constexpr int kLastActions = 25; // told with a fault
+constexpr int kLastActions = 25; // reported with a fault
 
-/// What no command has caught ends here, as in the editor.
+/// Exceptions that no command has caught end here, as in the editor.
 class Application final : public QApplication {
   public:
     using QApplication::QApplication;
@@ -40,7 +41,7 @@ class Application final : public QApplication {
     }
 };
 
-/// Nothing of the person's own is reached: no home, no desktop, no programs.
+/// Nothing of the user's own is accessible: no home, no desktop, no programs.
 void moveInto(const QString& scratch)
 {
     for (const char* folder : {"home", "run", "temporary", "here"}) QDir(scratch).mkdir(folder);
@@ -57,8 +58,8 @@ void moveInto(const QString& scratch)
     set("PATH", "no-programs");
     qputenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + scratch + "/no-bus").toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_NO_GLIB", "1");   // timers and events in one order
-    qputenv("QT_HASH_SEED", "0"); // sets too
+    qputenv("QT_NO_GLIB", "1");   // timers and events in a fixed order
+    qputenv("QT_HASH_SEED", "0"); // and sets
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_CURRENT_DESKTOP", "QT_SCALE_FACTOR"}) qunsetenv(name);
     QDir::setCurrent(scratch + "/here");
 }
@@ -66,7 +67,7 @@ void moveInto(const QString& scratch)
 int runChild(int argc, char** argv, const Plan& plan)
 {
     moveInto(plan.scratch);
-    mallopt(M_PERTURB, 0xA5); // what is freed is gone, without the sanitizers too
+    mallopt(M_PERTURB, 0xA5); // fills freed memory, without sanitizers, too
     if (!writeOnlyBelow(plan.scratch.toLocal8Bit().constData()))
         std::fprintf(stderr, "no Landlock here: only the folders keep the monkey in\n");
     Application application(argc, argv);
@@ -102,7 +103,7 @@ int run(int argc, char** argv, Plan plan)
         std::fflush(stdout);
         _exit(faults);
     }
-    std::signal(SIGINT, SIG_IGN); // the child's
+    std::signal(SIGINT, SIG_IGN); // it is for the child
     int status = 0;
     if (child < 0 || waitpid(child, &status, 0) != child) return 2;
     if (!plan.journal.isEmpty()) {

@@ -1,4 +1,4 @@
-// What the trials are drawn from: numbers that a name decides, the same on every machine and with every library.
+// The random numbers of the trials: determined by a name, the same on every machine and with every library.
 #pragma once
 #include "pixels/Bits.h"
 #include "pixels/random.h"
@@ -16,13 +16,13 @@ class Dice {
     double between(double low, double high) { return low + (high - low) * next() / (1 << 24); }
     bool oneIn(int n) { return within(1, n) == 1; }
 
-    /// Every byte of the buffer random, margin and fourth byte included.
+    /// Fills the whole buffer with random bytes, margin and fourth byte included.
     Bits bits(int width, int height);
-    /// Sides from 1 to most.
+    /// With sides of 1 to most.
     Bits smallBits(int most);
-    /// Flat patches of a few colours with some noise, for floods to run through.
+    /// Flat patches of a few colours with some noise, for flood fills.
     Bits patches(int width, int height, int noise);
-    /// A union of rectangles and ellipses that may stick out of the picture a little.
+    /// A union of rectangles and ellipses that may extend slightly beyond the picture.
     Region region(int width, int height);
 
   private:
@@ -30,7 +30,7 @@ class Dice {
     std::uint32_t drawn_ = 0;
 };
 
-/// FNV-1a in 64 bits, to be gone on with.
+/// FNV-1a in 64 bits; can be continued from `before`.
 std::uint64_t checksum(const void* bytes, std::size_t count, std::uint64_t before = 0xCBF29CE484222325u);
 
 } // namespace velara

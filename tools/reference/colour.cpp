@@ -9,7 +9,7 @@
 namespace velara {
 namespace {
 
-const std::string kChannels[] = {"Blue", "Green", "Red"}; // as arguments are named
+const std::string kChannels[] = {"Blue", "Green", "Red"}; // as in argument names
 
 int third(const Pixel& p) { return (p.c[0] + p.c[1] + p.c[2]) / 3; }
 std::uint8_t limited(std::int64_t v) { return static_cast<std::uint8_t>(v < 0 ? 0 : v > 255 ? 255 : v); }

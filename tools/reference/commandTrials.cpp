@@ -1,5 +1,5 @@
-// Trials of the command words: every preset, and every filter dialog as it opens and with telling values, on the sample
-// picture.
+// Trials of the command words: every preset, and every filter dialog with its initial and with distinctive settings, on
+// the sample picture.
 #include "commands/presets.h"
 #include "tools/reference/definitions.h"
 #include "tools/reference/dialogTrials.h"

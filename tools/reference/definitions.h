@@ -1,16 +1,16 @@
-// The published definition of every operation: each written literally, pixel by pixel with a point test, and meant to
-// be read. The engine's fast one has to give the same bytes. One file a family, in the rows of definitions.cpp.
+// The published definition of every operation: each written literally, pixel by pixel with a point test, to be
+// readable. The engine's fast version must give the same bytes. One file per family, collected in definitions.cpp.
 #pragma once
 #include "engine/operations.h"
 #include <map>
 
 namespace velara {
 
-/// The arguments of a call by the names that the operation's row gives them. A name that it has not, or another type,
-/// throws std::invalid_argument or std::bad_variant_access.
+/// The arguments of a call by the names in the operation's row. An unknown name or a wrong type throws
+/// std::invalid_argument or std::bad_variant_access.
 class Given {
   public:
-    /// Both outlive this object.
+    /// Both must outlive this object.
     Given(const Operation& operation, const Arguments& arguments) : operation_(operation), arguments_(arguments) {}
 
     int whole(std::string_view name) const { return std::get<int>(named(name)); }
@@ -37,7 +37,7 @@ Definitions neighbourDefinitions();
 Definitions deformDefinitions();
 Definitions styliseDefinitions();
 Definitions generateDefinitions();
-/// What an operation is defined to give. std::invalid_argument for one without a definition.
+/// The result of an operation by its definition. std::invalid_argument for one without a definition.
 Bits definedResult(std::string_view operation, const Bits& bits, const Region& region, const Arguments& arguments);
 
 /// The common loop: every pixel of the region's box, moved inward by margin, that lies in the region and in the

@@ -11,7 +11,7 @@ constexpr double kDegree = 0.017453288659453392;
 void take(Pixel& to, const Pixel& from) { std::copy(from.c, from.c + 3, to.c); }
 void black(Pixel& to) { std::fill(to.c, to.c + 3, std::uint8_t(0)); }
 
-/// Every pixel of the box, whether selected or not; body(to, x, y).
+/// Every pixel of the box, selected or not; body(to, x, y).
 template <class Body> Bits eachOfBox(const Bits& bits, const Region& region, Body body)
 {
     Bits out = bits;
@@ -21,7 +21,7 @@ template <class Body> Bits eachOfBox(const Bits& bits, const Region& region, Bod
     return out;
 }
 
-/// The common rule: source(x, y, sx, sy) says where the pixel comes from, and the region is asked there.
+/// The common rule: source(x, y, sx, sy) sets the source position, and the region is tested there.
 template <class Source> Bits eachSource(const Bits& bits, const Region& region, bool clean, Source source)
 {
     return eachOfBox(bits, region, [&](Pixel& to, int x, int y) {

@@ -1,5 +1,5 @@
-// What each filter dialog shows, and what trials and the gallery run it with: as it opens, and once with telling
-// values. The rows stand beside the definitions of the operations, one list a family.
+// The expected contents of each filter dialog, and the settings that trials and the gallery run it with: its initial
+// ones, and distinctive ones. The rows are beside the definitions of the operations, one list per family.
 #pragma once
 #include "commands/filterDialogs.h"
 #include "engine/operations.h"
@@ -8,10 +8,10 @@ namespace velara {
 
 inline constexpr Colour kBlack = colourOf(0, 0, 0), kWhite = colourOf(255, 255, 255);
 inline constexpr std::array kBlackWhite{kBlack, kWhite};
-// Colours that the sample picture has.
+// Colours of the sample picture.
 inline constexpr Colour kRoof = colourOf(150, 58, 48), kMeadow = colourOf(60, 116, 42), kSky = colourOf(90, 128, 190);
 
-/// What a dialog has beside sliders and colours.
+/// Controls besides sliders and colours.
 struct MoreControls {
     bool option = false;
     float centerX = 0.5f, centerY = 0.5f;
@@ -22,19 +22,19 @@ struct MoreControls {
 };
 inline constexpr MoreControls kOption{.option = true};
 
-/// One dialog. The arguments are written out, so that a dialog that mixes its controls up is found.
+/// One dialog. The arguments are written out, so that mixed-up controls are detected.
 struct DialogTrial {
     int number;        // of the dialog
     std::string shows; // title, then sliders with range and default, option, wells and the rest
     std::string_view operation;
-    Arguments asItOpens, telling; // that the operation is to get
-    // The telling ones come of these:
-    std::array<int, 3> value{}; // as the filter gets them: a centred slider's from its middle
+    Arguments asItOpens, telling; // that the operation must receive
+    // The distinctive ones result from these settings:
+    std::array<int, 3> value{}; // as passed to the filter: a centred slider's relative to its middle
     std::array<Colour, 2> colour = kBlackWhite;
     MoreControls more = {};
 
-    /// What the dialog hands to its filter. Discs are measured against a preview of 300 pixels, the wells are white and
-    /// black when the dialog opens.
+    /// What the dialog passes to its filter. Discs are relative to a preview of 300 pixels, the wells are white and
+    /// black initially.
     FilterArgs openingArgs() const, tellingArgs() const;
 };
 
@@ -47,7 +47,7 @@ DialogTrials styliseDialogs();
 DialogTrials generateDialogs();
 /// All of them, by number.
 const DialogTrials& dialogTrials();
-/// Throws std::invalid_argument where a row of filterRows() has none.
+/// std::invalid_argument when a row of filterRows() has none.
 const DialogTrial& dialogTrial(const FilterRow& row);
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// Definitions of the operations that cut, turn and size.
+// Definitions of the operations that crop, rotate and resize.
 #include "pixels/numbers.h"
 #include "tools/reference/definitions.h"
 

@@ -1,4 +1,4 @@
-// velara-reference: the checksums that the definitions give for every trial, and where the fast code differs from them.
+// velara-reference: computes the checksums of every trial by the definitions, and shows where the fast code differs.
 #include "tools/reference/trials.h"
 #include <cstdio>
 #include <fstream>
@@ -40,7 +40,7 @@ std::string text(const TrialResult& outcome)
     return std::to_string(outcome.bits.width()) + "x" + std::to_string(outcome.bits.height());
 }
 
-/// One line a differing trial: the first pixel with both values, and how many pixels differ.
+/// One line per differing trial: the first pixel with both values, and how many pixels differ.
 void tellDifference(const Trial& trial, const TrialResult& literal, const TrialResult& fast)
 {
     std::printf("  %s: ", trial.where.c_str());
@@ -60,7 +60,7 @@ void tellDifference(const Trial& trial, const TrialResult& literal, const TrialR
     std::printf("; %d pixels differ\n", count);
 }
 
-/// Whether the subject's trials all agree. At most ten differing ones are told.
+/// Whether all of the subject's trials agree. Reports at most ten that differ.
 bool agrees(const TrialFamily& family, const std::string& subject)
 {
     int differing = 0;

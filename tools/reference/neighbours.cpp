@@ -83,7 +83,7 @@ Bits blurs(const Bits& bits, const Region& region, const Given& a)
     });
 }
 
-/// Over the neighbours for which counts(dx, dy) is true, and the centre.
+/// Over the centre and the neighbours for which counts(dx, dy) is true.
 template <class Counts> Bits ranked(const Bits& bits, const Region& region, int margin, int mode, Counts counts)
 {
     return perChannel(bits, region, margin, [&](const Source& s, int x, int y, int c) {
@@ -228,7 +228,7 @@ Bits maskFilter(const Bits& bits, const Region& region, const Given& a)
     return out;
 }
 
-/// The first run of a new object: the number of a pixel's column is twice the pixel's, that of its row the next.
+/// The first run of a new object: a pixel's column uses the random number at twice its index, its row the next.
 Bits diffuse(const Bits& bits, const Region& region, const Given& a)
 {
     const int h = a.whole("HorizontalRange"), v = a.whole("VerticalRange");

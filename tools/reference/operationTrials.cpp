@@ -1,5 +1,5 @@
-// Trials of the operation table: random ones by picture size, arguments a little beyond their ranges, and what needs a
-// picture or an argument of its own.
+// Trials of the operation table: random ones by picture size, arguments slightly beyond their ranges, and special
+// cases.
 #include "engine/colour/mPalette.h"
 #include "tools/reference/definitions.h"
 #include "tools/reference/trials.h"
@@ -8,8 +8,8 @@
 namespace velara {
 namespace {
 
-/// Sizes around the vectors' and the margin's; one row is wider than what is written past the cache, and one picture
-/// holds blocks of pixels that an ellipse covers, crosses and leaves out.
+/// Sizes around those of the vectors and the margin; one row is wide enough for non-temporal stores, and one picture
+/// contains blocks of pixels that an ellipse covers, crosses and misses.
 constexpr int kSizes[][2] = {{1, 1},  {1, 7},   {9, 1},    {2, 2},    {3, 5},
                              {17, 9}, {64, 40}, {131, 33}, {1100, 3}, {230, 170}};
 const char* const kSelections[] = {"no region", "empty", "everything", "random", "random", "outside", "ellipse"};
@@ -31,7 +31,7 @@ Argument numeric(ArgumentType type, double v)
     return v;
 }
 
-/// The ends of a range and what lies near the usual come up more often than the rest.
+/// The ends of a range and values near the usual one are chosen more often.
 Arguments drawArguments(const Operation& op, Dice& dice)
 {
     Arguments arguments;
@@ -58,7 +58,7 @@ Arguments drawArguments(const Operation& op, Dice& dice)
     return arguments;
 }
 
-/// Each number in turn beyond the ends of its range, the others drawn.
+/// Each number in turn beyond the ends of its range, the others random.
 std::vector<Arguments> beyondRanges(const Operation& op, Dice& dice)
 {
     std::vector<Arguments> all;
@@ -79,7 +79,7 @@ struct Edge {
     Arguments arguments;
 };
 
-/// Pictures large enough that approximated lanes are worked out again, and what is too wide for them.
+/// Pictures large enough for approximated lanes to be recomputed, and too wide for them.
 constexpr int kLargeWidth = 451, kLargeHeight = 333;
 const Edge kLarge[] = {
     {"TWIRL", {100, 180, true}},
@@ -93,7 +93,7 @@ const Edge kLarge[] = {
     {"FOLD", {100, -100, true}},
     {"GLASS", {std::string("slanting"), 1}},
     {"Light", {0.4, 0.6, 0.5, 500, 0}},
-    {"Light", {0.4, 0.6, 0.5, 300, -100}}, // darker than black at the rim
+    {"Light", {0.4, 0.6, 0.5, 300, -100}}, // below 0 at the rim
     {"GradientLinear", {10, 20, 300, 250, 0x4060A0, -1, 37, 30}},
     {"GradientCircular", {100, 90, 180, 120, -1, 0xFFFFFF, 99, 9}},
     {"NOISE", {127, false}},
@@ -111,7 +111,7 @@ Arguments mask(std::string text, double divisor, int add, bool clip)
     return {std::move(text), divisor, add, add, add, clip};
 }
 
-/// Levels at which divisors change their sign, and far beyond what a dialog offers.
+/// Levels at which divisors change their sign, and far beyond the dialogs' ranges.
 std::vector<Edge> extremes()
 {
     std::vector<Edge> rows;
@@ -130,11 +130,11 @@ std::vector<Edge> extremes()
             rows.push_back({"Halftone", {3, other, level}});
         }
     }
-    for (int i = 0; i < 24; ++i) rows.push_back({"Blurs", {2 + i % 4}}); // some reach beyond the margin
+    for (int i = 0; i < 24; ++i) rows.push_back({"Blurs", {2 + i % 4}}); // some exceed the margin
     for (int weight = 0; weight <= 50; ++weight)
         for (const std::string_view name : {"EMBOSS", "ENGRAVE"}) rows.push_back({name, {weight}});
     const std::string wide = "1 2 3 4 5 6 7/0 0 0 0 0 0 0/1 1 1 1 1 1 1/0 0 9 0 0 0 0/1 1 1 1 1 1 1/0 0 0 0 0 0 0/"
-                             "7 6 5 4 3 2 1"; // reaches beyond the margin
+                             "7 6 5 4 3 2 1"; // exceeds the margin
     for (const bool clip : {false, true}) {
         for (const double divisor : {-3.0, 0.4, 0.0, 0.5, 1e12, 123456789.0})
             rows.push_back({"MaskFilter", mask("-1 -1/-1 8", divisor, INT_MIN + 1, clip)});
@@ -144,7 +144,7 @@ std::vector<Edge> extremes()
         rows.push_back({"MaskFilter", mask("5", 2, 5, clip)});
         rows.push_back({"MaskFilter", mask("1 2 3 4/5 6 7 8/-9 -8 -7 -6/0 0 0 1", 7, 5, clip)});
     }
-    for (const int source : {-1, 0, 2, 3}) // only a pixel that is taken from a channel that is not there fails
+    for (const int source : {-1, 0, 2, 3}) // only a pixel read from a nonexistent channel fails
         for (int place = 0; place < 3; ++place) {
             Arguments arguments{0, 1, 2, false, true, false, 0, 0, 0};
             arguments[static_cast<std::size_t>(place)] = source;
@@ -168,7 +168,8 @@ std::string written(const Arguments& arguments)
     return text.empty() ? "()" : text + ")";
 }
 
-/// What PaletteApply looks colours up in: a few, or many that are scattered, crowded with equal ones, or in a few cells
+/// The palettes for PaletteApply: few colours, or many that are scattered, crowded with duplicates, or in a few cells
+/// of its search.
 /// of its search.
 void drawPalette(Dice& dice)
 {

@@ -10,7 +10,7 @@ struct Point {
     int x, y;
 };
 
-/// A picture under a Painter or a PaintTwin, and what its strokes are drawn from.
+/// A picture under a Painter or a PaintTwin, and the random numbers of its strokes.
 template <class P> struct Stage {
     P& painter;
     Dice& dice;
@@ -69,7 +69,7 @@ const PaintRow kRows[] = {
          const int size = s.dice.within(0, 40), strength = s.percent();
          const bool repeat = s.dice.oneIn(2);
          s.painter.BitsSoften(x, y, size, strength, repeat);
-         s.painter.BitsSoften(x + 2, y + 2, size, strength, !repeat); // after a repeating one all are still fresh
+         s.painter.BitsSoften(x + 2, y + 2, size, strength, !repeat); // after a repeating one none are marked as done
          s.painter.BitsBrush(x, y, size, strength, 0);
      }},
     {"Sharpen",
@@ -159,10 +159,10 @@ const PaintRow kRows[] = {
      [](auto& s) {
          for (int i = 0; i < 2; ++i) {
              const auto [x, y] = s.inside();
-             s.painter.BitsBrush(x + 3, y, s.dice.within(0, 5), 50, 0); // done already: a wall
+             s.painter.BitsBrush(x + 3, y, s.dice.within(0, 5), 50, 0); // already done: a wall
              const int tolerance = s.dice.oneIn(4) ? 765 : s.dice.within(0, 60), opacity = s.percent();
              s.painter.BitsFill(x, y, s.colour(), tolerance, opacity);
-             if (s.dice.oneIn(2)) s.painter.CreateDoneBitsTable(); // else what was met is a wall for the next
+             if (s.dice.oneIn(2)) s.painter.CreateDoneBitsTable(); // else painted pixels are a wall for the next
          }
      }},
     {"FillTexture",
@@ -171,11 +171,11 @@ const PaintRow kRows[] = {
          const Bits source = s.dice.smallBits(30);
          const int tolerance = s.dice.oneIn(4) ? 765 : s.dice.within(0, 60);
          s.painter.BitsFillTexture(x, y, source, tolerance, s.percent());
-         s.painter.BitsBrush(x, y, 40, 50, 0); // leaves out what was met
+         s.painter.BitsBrush(x, y, 40, 50, 0); // skips pixels already painted
      }},
 };
 
-/// What a window shows that repaints only what the painter says it has touched, by rectangle and by tiles.
+/// What a window shows that repaints only what the painter reports as touched, by rectangle and by tiles.
 Bits repainted(const Bits& before, const Bits& painted, const Rect& touched, const TouchedTiles& tiles)
 {
     Bits shown = before;

@@ -17,7 +17,7 @@ void PaintTwin::CreateDoneBitsTable()
                 std::vector<bool>(static_cast<std::size_t>(bits.height() + 2), false));
 }
 
-/// Every pixel of the dab in order, whether in the region or not.
+/// Every pixel of the dab in order, in the region or not.
 template <class Body> void PaintTwin::disc(int x, int y, int size, Body body)
 {
     const int r = roundEven(size * 0.5);

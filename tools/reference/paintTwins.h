@@ -1,5 +1,4 @@
-// The paint primitives once more, written literally, pixel by pixel with a point test: what the fast ones are held
-// against.
+// The paint primitives once more, written literally, pixel by pixel with a point test, to compare the fast ones with.
 #pragma once
 #include "pixels/Bits.h"
 #include "pixels/random.h"

@@ -1,5 +1,5 @@
-// The seeded trials that hold the fast code against the definitions: for every operation, paint primitive, preset and
-// dialog the same pictures, selections and arguments through both, and checksums of what came out.
+// The seeded trials that compare the fast code with the definitions: for every operation, paint primitive, preset and
+// dialog the same pictures, selections and arguments through both, and checksums of the results.
 #pragma once
 #include "pixels/RuntimeError.h"
 #include "tools/reference/Dice.h"
@@ -10,10 +10,10 @@
 
 namespace velara {
 
-/// One call, done by the program and by the definition. Both may throw RuntimeError.
+/// One call, made by the program and by the definition. Both may throw RuntimeError.
 struct Trial {
     std::string where;  // picture, selection and arguments, for a person
-    std::size_t column; // of the checksum that it is folded into
+    std::size_t column; // of the checksum that includes it
     std::function<Bits()> fast, literal;
 };
 
@@ -27,7 +27,7 @@ TrialFamily operationTrials();
 TrialFamily paintTrials();
 TrialFamily commandTrials();
 
-/// The picture that a trial leaves, or the fault that was raised.
+/// The picture that a trial leaves, or the fault that it raised.
 struct TrialResult {
     Bits bits;
     std::optional<Fault> fault;
@@ -35,10 +35,10 @@ struct TrialResult {
 };
 TrialResult resultOf(const std::function<Bits()>& run);
 
-/// A checksum a column, over size and every byte, margin included.
+/// One checksum per column, over size and every byte, margin included.
 using Sums = std::vector<std::uint32_t>;
 Sums sumsOf(const TrialFamily& family, const std::string& subject, std::function<Bits()> Trial::*side);
-/// "NAME: 0123ABCD 4567CDEF ...", a line a subject; # begins a comment.
+/// "NAME: 0123ABCD 4567CDEF ...", one line per subject; # begins a comment.
 std::string sumsLine(const std::string& subject, const Sums& sums);
 
 } // namespace velara

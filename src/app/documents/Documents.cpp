@@ -24,14 +24,14 @@ Documents::Documents(QWidget* parent) : QObject(parent), area_(new QMdiArea(pare
 
 void Documents::clear()
 {
-    delete area_; // the documents speak to the frame to their end
+    delete area_; // the documents use the frame until they are destroyed
     for (const QPointer<QWidget>& widget : std::exchange(buried_, {})) delete widget;
 }
 
 QList<fImage*> Documents::images() const
 {
     QList<fImage*> list;
-    if (!area_) return list; // on its way out
+    if (!area_) return list; // being destroyed
     for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder))
         if (auto* document = qobject_cast<fDocumentWindow*>(window); document && document->image())
             list << document->image();

@@ -31,19 +31,19 @@ class Documents final : public QObject {
     /// The window of an open document; null when it is closed.
     fImage* of(const DocumentHandle& document) const;
 
-    /// In a window that shows it whole, or that takes the area where the picture is too large for it.
+    /// Shows it in a window that fits the whole picture, or that fills the area if the picture is too large for it.
     void show(std::unique_ptr<fImage> image, bool maximized);
-    /// The same for the active one, which may have been zoomed since.
+    /// The same for the active one, whose zoom may have changed.
     void fitActive();
     /// Puts the open pictures at the end of the menu, the active one with a mark, in place of what stood there.
     void list(QMenu& menu);
-    /// The focus goes from a picture by the Tab key; false when there is nowhere to go.
+    /// Moves the focus away from a picture at the Tab key; false when there is nowhere to go.
     std::function<bool(bool forward)> leaveByTab;
     /// Side by side or one below the other.
     enum class Arrangement { Cascade, Rows, Columns };
     void arrange(Arrangement arrangement);
 
-    /// Closes all, the last one first. One that refuses ends it: false.
+    /// Closes all, the last one first. Stops at one that refuses: false.
     bool closeAll();
     /// Ends all without a question.
     void clear();

@@ -10,7 +10,7 @@ fDocumentWindow::fDocumentWindow(Documents& documents, fImage* image) : document
 {
     setWidget(image);
     setWindowIcon(QIcon::fromTheme("viewimage"));
-    // Its own shortcut would make the menu's Ctrl+W ambiguous, so that neither worked.
+    // Its own shortcut would make the menu's Ctrl+W ambiguous, so that neither would work.
     for (QAction* item : systemMenu()->actions())
         if (!item->shortcut().isEmpty()) item->setShortcut(QKeySequence("Ctrl+F4"));
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -24,11 +24,11 @@ void fDocumentWindow::fit(const QRect& area)
     const QSize picture = QSize(image_->PictureWidth(), image_->PictureHeight()) * image_->ZoomFactor();
     const QSize whole = (picture + around).expandedTo(minimumSizeHint());
     if (whole.width() > area.width() || whole.height() > area.height()) return setGeometry(area);
-    const QPoint last(area.width() - whole.width(), area.height() - whole.height()); // where it still lies inside
+    const QPoint last(area.width() - whole.width(), area.height() - whole.height()); // the last position inside
     setGeometry({{std::clamp(x(), 0, last.x()), std::clamp(y(), 0, last.y())}, whole});
 }
 
-/// Within a child window the focus would go round by itself for ever.
+/// Otherwise the focus would circle within a child window.
 bool fDocumentWindow::focusNextPrevChild(bool next)
 {
     return (documents_.leaveByTab && documents_.leaveByTab(next)) || QMdiSubWindow::focusNextPrevChild(next);

@@ -16,8 +16,7 @@ class fDocumentWindow final : public QMdiSubWindow {
 
     /// The document, or null after it closed.
     fImage* image() const { return image_; }
-    /// Takes the size that shows the picture whole, within the area it belongs to; all of the area where that is too
-    /// small for it.
+    /// Takes the size that shows the whole picture, within the given area; fills the area if it is too small for that.
     void fit(const QRect& area);
 
   protected:

@@ -62,7 +62,7 @@ void fHover::show()
     look_.start();
 }
 
-/// Near is the button, the pane, and the way from one to the other.
+/// The pointer counts as near on the button, on the pane, and between them.
 void fHover::closeIfLeft()
 {
     constexpr int kNear = 16;

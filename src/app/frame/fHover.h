@@ -1,5 +1,5 @@
-// fHover: shows a floating pane beside the buttons when the pointer rests on one of them, and takes it away when the
-// pointer leaves both. The pane says the button's name itself: a tool tip would lie on it.
+// fHover: shows a floating pane beside the buttons when the pointer rests on one of them, and closes it when the
+// pointer leaves both. The pane shows the button's name itself: a tool tip would cover it.
 #pragma once
 #include <QPointer>
 #include <QTimer>
@@ -11,7 +11,7 @@ namespace velara {
 class fHover final : public QObject {
     Q_OBJECT
   public:
-    /// Owned by the button, which stands among others in its parent. make gives a new pane, a window that is deleted
+    /// Owned by the button, which is one of several in its parent. make returns a new pane, a window that is deleted
     /// when it closes.
     fHover(QWidget* button, std::function<QWidget*()> make);
 
@@ -25,7 +25,7 @@ class fHover final : public QObject {
 
     QWidget* button_;
     std::function<QWidget*()> make_;
-    QTimer t_t_, t_p_; // the pointer rests: first a short wait, so that passing by costs nothing, then the long one
+    QTimer t_t_, t_p_; // the pointer rests: first a short wait, so that passing over is free, then the long one
     QTimer look_;      // whether the pointer has left the pane
     QPointer<QWidget> pane_;
 };

@@ -61,13 +61,13 @@ fMain::fMain(Platform& platform, Setup& setup)
     makeBoxes();
     showColors();
     refreshUndoState();
-    qApp->installEventFilter(this); // moves of the pointer, for the side pane
+    qApp->installEventFilter(this); // pointer moves, for the side pane
 }
 
 fMain::~fMain()
 {
     closing_ = true;
-    capture_.reset(); // which brings back what it has put aside
+    capture_.reset(); // restores the hidden windows
     documents_->clear();
 }
 

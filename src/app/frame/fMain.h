@@ -53,9 +53,9 @@ class fMain final : public QMainWindow, public Frame {
     std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) override;
 
     // --- Commands
-    /// True for a word of the vocabulary that does what it says, even if that is nothing.
+    /// True for a word of the vocabulary with a handler, even one that does nothing.
     static bool available(std::string_view word);
-    /// Runs a command word, or one of the frame's own; index tells the items of such a one apart.
+    /// Runs a command word, or one of the frame's own; index distinguishes the items of such a word.
     void run(std::string_view word, int index = 0);
 
     void open();
@@ -98,9 +98,9 @@ class fMain final : public QMainWindow, public Frame {
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
     void openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
-    /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
+    /// Opens the files of a drop, in order; files of other kinds are skipped.
     void dropFiles(const QStringList& paths);
-    /// Where the file dialogs start.
+    /// The start folder of the file dialogs.
     void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
 
     // --- Bars, boxes, panes
@@ -122,23 +122,23 @@ class fMain final : public QMainWindow, public Frame {
     fStatus& status() { return *status_; }
     Documents& openPictures() { return *documents_; }
     QMdiArea& area() { return documents_->area(); }
-    /// A menu's item or a button, by its object name.
+    /// A menu item or a button, by its object name.
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
     /// The active document's window, or null.
     fImage* GetActiveImage() { return documents_->active(); }
     /// The open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
-    /// The configuration and where the frame stands, for the next start.
+    /// Saves the configuration and the frame's position for the next start.
     void saveState();
-    /// All documents are being closed, or are.
+    /// All documents are being closed, or are closed.
     bool isClosing() const { return closesAll_ || closing_; }
     bool isClosed() const { return closing_; }
 
   signals:
     void closed();
-    /// It was to be closed, and a document refused.
+    /// Closing was cancelled because a document refused.
     void stays();
-    /// Of any document: see there.
+    /// Of any document; see fImage.
     void asking(fImage::Question question);
 
   protected:

@@ -91,7 +91,7 @@ void fMain::seekSidePane(QPoint at)
     const QWidget* middle = centralWidget();
     const QPoint inside = middle->mapFromGlobal(at);
     const bool over = inside.y() >= 0 && inside.y() < middle->height() && inside.x() >= 0;
-    // Out of hiding at the frame's left side; away again right of the pane.
+    // It appears at the frame's left edge and disappears right of the pane.
     const int edge = toolPane_->isVisible() ? toolPane_->width() : 8;
     const bool show = over && inside.x() < edge;
     if (show == toolPane_->isVisible()) return;
@@ -107,14 +107,14 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
     if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide)
         if (boxes_ && (watched == this || boxes_->has(watched))) startPage_->place();
     if (watched->parent() == this && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow()) {
-        // What is dropped on a pop-up is meant for the frame under it.
+        // A drop on a pop-up is meant for the frame below.
         if (type == QEvent::DragEnter) dragEnterEvent(static_cast<QDragEnterEvent*>(event));
         if (type == QEvent::Drop) dropEvent(static_cast<QDropEvent*>(event));
     }
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);
-        // Never during a drag: the pane would jump into a stroke.
+        // Never during a drag: the pane would disturb a stroke.
         if (widget && widget->window() == this && move->buttons() == Qt::NoButton)
             seekSidePane(move->globalPosition().toPoint());
     }
@@ -123,7 +123,7 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
 
 // --- Tools
 
-/// The keys of the tool strip. A text field that has the focus keeps its letters.
+/// The keys of the tool strip. A focused text field keeps its letters.
 void fMain::bindToolKeys()
 {
     const auto bind = [this](const QString& key, const QString& shortcuts, auto run) {
@@ -158,7 +158,7 @@ void fMain::Tool_Frame()
     for (fImage* image : documents()) image->toolChosen();
 }
 
-/// Keys that no control has taken: what a tool has begun ends wherever the focus is.
+/// Keys that no control has used: they end a tool's gesture wherever the focus is.
 void fMain::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && readingBox_ && readingBox_->isVisible()) {
@@ -213,7 +213,7 @@ std::optional<Colour> fMain::pickColour(Colour start, const QString& what, QWidg
     picker->setAccessibleDescription(what);
     picker->LoadColorDialog(start);
     const bool taken = picker->exec() == QDialog::Accepted;
-    if (!picker) return std::nullopt; // the window below went, and it with it
+    if (!picker) return std::nullopt; // the window below was destroyed with it
     const Colour colour = picker->colour();
     delete picker;
     return taken ? std::optional(colour) : std::nullopt;

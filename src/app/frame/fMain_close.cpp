@@ -17,7 +17,7 @@ std::int16_t twips(int pixels) { return static_cast<std::int16_t>(std::clamp(pix
 void fMain::frameResized()
 {
     if (!isMinimized()) {
-        // The size to come back to is the one that isn't maximised.
+        // Stores the size of the restored window.
         const QSize size = isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : this->size();
         setup_.FrameWidth = twips(size.width());
         setup_.FrameHeight = twips(size.height());
@@ -26,7 +26,7 @@ void fMain::frameResized()
     if (isMinimized()) return;
     if (!resizedOnce_) {
         resizedOnce_ = true;
-        if (platform_.setting("VeStu", "RunOnce", "0").toInt() == 0) { // no layout was ever stored for this user
+        if (platform_.setting("VeStu", "RunOnce", "0").toInt() == 0) { // no layout has been stored for this user
             bars_->saveLayout();
             platform_.setSetting("VeStu", "RunOnce", "1");
         }
@@ -44,13 +44,13 @@ void fMain::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isVisible()) frameResized();
-    if (event->type() == QEvent::PaletteChange && bars_) refreshIcons(); // the desktop went dark or light
+    if (event->type() == QEvent::PaletteChange && bars_) refreshIcons(); // the desktop switched between dark and light
 }
 
 void fMain::closeEvent(QCloseEvent* event)
 {
     if (closing_) return event->accept();
-    if (closesAll_) return event->ignore(); // its documents are being asked about
+    if (closesAll_) return event->ignore(); // its documents are being asked
     closesAll_ = true;
     bars_->saveLayout();
     closing_ = documents_->closeAll();
@@ -60,7 +60,7 @@ void fMain::closeEvent(QCloseEvent* event)
     closing_ ? emit closed() : emit stays();
 }
 
-/// On failure the old file stays.
+/// On failure the old file is kept.
 void fMain::saveState()
 {
     platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64()));

@@ -21,7 +21,7 @@ namespace velara {
 
 namespace {
 
-/// What a word does; for a word of many items with the index of the one.
+/// The handler of a word; for a word with many items it gets the item's index.
 struct Handler {
     std::string_view word;
     void (*run)(fMain&) = nullptr;
@@ -150,12 +150,12 @@ void fMain::Mmenu(const QString& word)
         default:
             if (const Handler* handler = findHandler(name)) (*handler)(*this, 0);
         }
-    } catch (const std::exception& failure) { // a command stops here; what it did not finish it has not begun
+    } catch (const std::exception& failure) { // a command fails here: changes that it did not complete were not made
         showFailure(word, failure);
     }
 }
 
-/// False, with a word in the status bar, when there is no document and the word needs one.
+/// False, with a message in the status bar, when there is no document and the word needs one.
 bool fMain::findsItsDocument(const CommandWord& command)
 {
     if (command.stage != Stage::NeedsImage || GetActiveImage()) return true;

@@ -19,7 +19,7 @@ void fMain::colorDepth()
     };
     const QPointer<fColorDepth> dialog = new fColorDepth(image->bits(), {ok, save}, this);
     dialog->exec();
-    delete dialog; // unless the frame went, and it with it
+    delete dialog; // unless it was destroyed with the frame
 }
 
 void fMain::saveForWeb()

@@ -19,7 +19,7 @@ namespace velara {
 
 namespace {
 
-/// What follows the last separator, right-trimmed.
+/// The part after the last separator, right-trimmed.
 QString FileNameOf(const QString& path)
 {
     QString name = path.mid(path.lastIndexOf('/') + 1);
@@ -80,7 +80,7 @@ void fMain::applyOpenOptions()
 
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
 
-/// Once for all of them; the recent list leaves them out from now on.
+/// One message for all; the recent list omits them from now on.
 void fMain::showGone(const QStringList& paths)
 {
     constexpr qsizetype kMostShown = 10;
@@ -168,7 +168,7 @@ void fMain::FillRecent()
         const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
         item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
-        item->setVisible(found || i == 0); // a lost file keeps its place in the list, but no empty line in the menu
+        item->setVisible(found || i == 0); // a lost file stays in the list, but has no line in the menu
     }
     showStartPage();
 }
@@ -229,7 +229,7 @@ void fMain::closeActive()
     if (fImage* image = GetActiveImage()) image->parentWidget()->close();
 }
 
-/// What is there is told where it can't be taken; null then.
+/// Reports why what is there can't be used; null then.
 Bits fMain::clipboardPicture()
 {
     const LoadedPicture picture = platform_.clipboard().bitmap();
@@ -272,7 +272,7 @@ void fMain::dropEvent(QDropEvent* event)
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile()) paths << url.toLocalFile();
     event->acceptProposedAction();
-    // After the drop has ended: the program it came from waits for us meanwhile.
+    // After the drop has ended: the source program is waiting for us until then.
     QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
 }
 

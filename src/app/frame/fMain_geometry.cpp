@@ -61,7 +61,7 @@ void fMain::imageTextures()
            [texturing](Document& draft, cBitFilter& filter) { draft.setBits(texturized(filter, texturing)); });
 }
 
-/// Asked for again, the open one goes over the picture that is active now.
+/// Called again, it moves the open dialog to the picture that is active now.
 void fMain::imageMerging()
 {
     const DocumentHandle document = active();

@@ -24,10 +24,10 @@ void fMain::showFilter(const FilterRow& row)
     if (!document || !document->PictureExists()) return;
     const QPointer<fFilter> dialog = new fFilter(*this, row, document, this);
     dialog->exec();
-    delete dialog; // unless the frame went, and it with it
+    delete dialog; // unless it was destroyed with the frame
 }
 
-/// Whether it can be done is known once the changes before it are.
+/// Whether cropping is possible is known only after the changes queued before it.
 void fMain::crop()
 {
     const DocumentHandle document = active();
@@ -44,7 +44,7 @@ void fMain::crop()
     });
 }
 
-/// Who asks again finds the texts that wait there; those of another picture are not thrown away either.
+/// Called again it shows the texts that wait there; those of another picture are not discarded either.
 void fMain::textTools()
 {
     const DocumentHandle document = active();

@@ -10,7 +10,7 @@ struct PanelRow {
     Panel panel;
     const char* key;
     const char* meaning;
-    const char* widest; // what it must have room for; the name takes what is left
+    const char* widest; // the text it must have room for; the name takes the remaining width
 };
 
 // clang-format off
@@ -62,7 +62,7 @@ void fStatus::setPanel(Panel panel, const QString& text)
     panels_[static_cast<int>(panel)]->setText(printable(text));
     if (panel != Panel::Hint) return;
     panels_[static_cast<int>(Panel::Hint)]->setVisible(!text.isEmpty());
-    for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // what no gesture changes
+    for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // those that no gesture replaces
         panels_[static_cast<int>(still)]->setVisible(text.isEmpty());
 }
 
@@ -72,7 +72,7 @@ void fStatus::setProgress(int percent)
 {
     if (percent < 0) return;
     progress_->setValue(percent);
-    progress_->setVisible(percent > 0 && percent < progress_->maximum()); // at rest there is nothing to see
+    progress_->setVisible(percent > 0 && percent < progress_->maximum()); // hidden when idle
 }
 
 } // namespace velara

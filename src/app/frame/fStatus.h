@@ -1,5 +1,5 @@
-// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, and what the keys do while a tool is at
-// work) and the progress bar of the filters.
+// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, and the keys of the tool at work) and the
+// filters' progress bar.
 #pragma once
 #include "document/road/Frame.h"
 #include "seams/printable.h"
@@ -17,9 +17,9 @@ class fStatus final : public QStatusBar {
 
     void setPanel(Panel panel, const QString& text);
     QString panel(Panel panel) const;
-    /// A word to the user, which stands for some seconds.
+    /// A message to the user, shown for eight seconds.
     void say(const QString& text) { showMessage(printable(text), 8000); }
-    /// Percent; values below 0 are dropped.
+    /// Percent; negative values are ignored.
     void setProgress(int percent);
 
   private:

@@ -17,7 +17,7 @@ namespace {
 constexpr int kColumns = 5;
 constexpr int kWidth = 184;
 
-/// A well: the colour with a thin frame that stands out on it.
+/// A well: the colour with a thin contrasting frame.
 QIcon wellIcon(int colour, qreal ratio)
 {
     const QColor fill(colour & 255, colour >> 8 & 255, colour >> 16 & 255);
@@ -36,7 +36,7 @@ fToolPane::fToolPane(QWidget* parent) : QFrame(parent), stack_(new QStackedWidge
     setObjectName("cTools");
     setAccessibleName(tr("Tools"));
     setFrameStyle(QFrame::StyledPanel);
-    setAutoFillBackground(true); // floats over the documents while it hides and seeks
+    setAutoFillBackground(true); // it floats over the documents when it is auto-hidden
     setFixedWidth(kWidth);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
@@ -110,7 +110,7 @@ QWidget* fToolPane::makeWells()
     return box;
 }
 
-/// What the Tab key stops at, from top to bottom.
+/// The tab stops, from top to bottom.
 QList<QWidget*> fToolPane::stops() const
 {
     auto* current = qobject_cast<QToolButton*>(focusWidget());

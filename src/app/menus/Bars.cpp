@@ -11,7 +11,7 @@ namespace velara {
 namespace {
 
 constexpr const char* kSection = "VeStu";
-constexpr int kLayoutVersion = 1; // raised when toolbars come or go, so that an old layout is not forced on new bars
+constexpr int kLayoutVersion = 1; // raised when toolbars are added or removed: an old layout is not for new bars
 
 } // namespace
 
@@ -75,7 +75,7 @@ void Bars::loadLayout()
 {
     const QString stored = machine_.setting(kSection, "Layout", "");
     if (!stored.isEmpty()) window_.restoreState(QByteArray::fromBase64(stored.toLatin1()), kLayoutVersion);
-    showBars(); // which bars are shown is the configuration's to say
+    showBars(); // the configuration determines which bars are shown
 }
 
 void Bars::saveLayout()

@@ -1,5 +1,5 @@
-// Bars: the menus and toolbars of the frame, made out of the tables of menus.h, and what is shown of them: marks,
-// pictures, which toolbars there are and where.
+// Bars: the menus and toolbars of the frame, made from the tables of menus.h, and their state: check marks, icons,
+// which toolbars are shown and where.
 #pragma once
 #include <QMainWindow>
 #include <QObject>
@@ -23,30 +23,30 @@ struct Setup;
 class Bars final : public QObject {
     Q_OBJECT
   public:
-    /// What choosing an item does: its word, and its index where the word stands for several.
+    /// Called when an item is chosen, with its word, and its index if the word has several.
     using Run = std::function<void(std::string_view word, int index)>;
     using Available = bool (*)(std::string_view word);
 
-    /// Makes them all; those of words that are not available are disabled.
+    /// Makes all of them; items whose words are not available are disabled.
     Bars(QMainWindow& window, Machine& machine, Setup& setup, Run run, Available available);
 
     /// By its object name (menus.h); null when there is none.
     QAction* action(const QString& objectName) const;
-    /// The menu's item of a word; null when it stands in no menu.
+    /// The menu's item of a word; null when it is in no menu.
     QAction* item(std::string_view word, int index = 0) const { return find(word, index, true); }
     /// The toolbar's button of a word.
     QAction* button(std::string_view word) const { return find(word, 0, false); }
     void mark(std::string_view word, int index, bool on);
 
-    /// The pictures in the cut that fits the palette.
+    /// Reloads the icons in the variant that fits the palette.
     void refreshIcons();
-    /// Toolbars and their marks as Setup has them.
+    /// Shows toolbars and their check marks as in Setup.
     void showBars();
     void toggleBar(int index);
-    /// Where the toolbars stand, kept for this user.
+    /// The positions of the toolbars, kept per user.
     void loadLayout();
     void saveLayout();
-    /// A menu of the toolbars; the caller's.
+    /// A menu of the toolbars; owned by the caller.
     QMenu* makePopup();
 
   private:

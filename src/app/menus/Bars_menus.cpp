@@ -1,4 +1,4 @@
-// How menus and toolbars are made out of their tables.
+// How menus and toolbars are made from their tables.
 #include "app/menus/Bars.h"
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
@@ -14,7 +14,7 @@ namespace velara {
 
 namespace {
 
-/// Every item that has no access key gets the first letter of its caption that is free in its menu.
+/// Gives every item without an access key the first letter of its caption that is free in its menu.
 void giveAccessKeys(QMenu& menu)
 {
     QSet<QChar> taken;
@@ -61,7 +61,7 @@ void Bars::addItem(QMenu& menu, const MenuRow& row)
 
 void Bars::buildMenus()
 {
-    std::vector<QMenu*> open; // the menus around the row, the outermost first
+    std::vector<QMenu*> open; // the menus containing the row, outermost first
     for (const MenuRow& row : menuRows()) {
         switch (row.kind) {
         case MenuKind::Menu:
@@ -86,7 +86,7 @@ void Bars::buildMenus()
         case MenuKind::Items:
         case MenuKind::Words:
         case MenuKind::Strengths:
-            break; // menuRows() has none
+            break; // menuRows() contains none
         }
     }
 }
@@ -100,7 +100,7 @@ void Bars::buildToolbars()
         fillToolbar(bar, row.buttons);
         bars_[index++] = bar;
     }
-    // Three lines that fit the smallest usual frame whole: Standard, Tools, Help; Effects, Image; Filters, Utilities.
+    // Three lines that fit into the smallest usual frame: Standard, Tools, Help; Effects, Image; Filters, Utilities.
     constexpr int kNewLine = -1;
     for (const int place : {0, 5, 4, kNewLine, 1, 2, kNewLine, 6, 3}) {
         if (place == kNewLine)

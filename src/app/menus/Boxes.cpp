@@ -13,9 +13,9 @@ namespace velara {
 namespace {
 
 struct BoxRow {
-    std::string_view word; // of its item in the menu
+    std::string_view word; // of its menu item
     bool Setup::*visible;
-    int down; // pixels from the top of the documents to its first place
+    int down; // pixels from the top of the documents to its first position
 };
 
 constexpr BoxRow kBoxes[] = {
@@ -24,21 +24,21 @@ constexpr BoxRow kBoxes[] = {
     {"@CLIPBOARDBOX", &Setup::ClipboardBoxVisible, 0},
 };
 
-/// What the window manager adds to a window, as long as it has not said so.
+/// The window manager's frame around a window, estimated until it is known.
 QSize decoration(const QWidget& window)
 {
     constexpr int kBorder = 2;
     return {2 * kBorder, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBorder};
 }
 
-/// What a window covers on the screen, its title bar too when it has only just been shown.
+/// The area that a window covers on the screen, including its title bar even if it was shown just now.
 QRect covered(const QWidget& window)
 {
     const QRect rect = window.frameGeometry();
     return rect | QRect(rect.topLeft(), window.size() + decoration(window));
 }
 
-/// Gives a window the size that it is shown with: one that grows only then loses its place by the height of its title.
+/// Gives a window its final size: one that grows only when shown would be displaced by the height of its title bar.
 void settle(QWidget& window)
 {
     window.ensurePolished();
@@ -63,7 +63,7 @@ void Boxes::show(Box which)
         settle(*box);
         const int left = frame_.width() - box->width() - sidePane_.width() * 12 / 5;
         const int top = sidePane_.parentWidget()->y() + kBoxes[which].down;
-        // In a narrow frame that place is over the tools.
+        // In a narrow frame that position is over the tools.
         const bool clear = left >= (sidePane_.isVisible() ? sidePane_.width() : 0);
         box->move(clear ? frame_.mapToGlobal(QPoint(left, top)) : beside(*box));
         placed_[which] = true;
@@ -75,14 +75,14 @@ void Boxes::show(Box which)
 QPoint Boxes::beside(const QWidget& box) const
 {
     const QRect frame = covered(frame_), screen = frame_.screen()->availableGeometry();
-    const QSize size = box.size() + decoration(box); // as it will be when it is shown
+    const QSize size = box.size() + decoration(box); // its size when shown
     std::vector<QRect> taken = places();
     std::vector<int> tops = {frame.top()};
     for (const QRect& other : taken) tops.insert(tops.end(), {other.bottom() + 1, other.top() - size.height()});
     tops.push_back(screen.bottom() + 1 - size.height());
     taken.push_back(frame);
     QRect best;
-    int leastCovered = INT_MAX; // a place further on has to be clearly better: what is used together stays together
+    int leastCovered = INT_MAX; // a farther position must be clearly better: boxes used together stay together
     for (const int left : {frame.right() + 1, frame.left() - size.width()})
         for (const int top : tops) {
             QRect place({left, top}, size);
@@ -113,9 +113,9 @@ void Boxes::toggle(Box which)
     QWidget* box = boxes_[which];
     if (visible) {
         show(which);
-        if (box) box->activateWindow(); // who asks for it wants to use it
+        if (box) box->activateWindow(); // it was asked for in order to be used
     } else if (box) {
-        const QPoint place = box->pos(); // a window manager may place it anew otherwise
+        const QPoint place = box->pos(); // otherwise a window manager may move it
         box->hide();
         box->move(place);
     }
@@ -124,7 +124,7 @@ void Boxes::toggle(Box which)
 
 void Boxes::showAll()
 {
-    // The large ones first, as they fit in fewest places; the colours last: they end up in front.
+    // The large ones first, as they fit in the fewest places; the colours last: they end up in front.
     for (const Box which : {Textures, Clips, Colours})
         if (setup_.*kBoxes[which].visible) show(which);
     if (boxes_[Colours]) boxes_[Colours]->raise();

@@ -1,4 +1,4 @@
-// Boxes: the floating boxes of the frame: shown, hidden and remembered in Setup.
+// Boxes: the floating boxes of the frame: shows and hides them and keeps that in Setup.
 #pragma once
 #include <QPointer>
 #include <QWidget>
@@ -15,26 +15,26 @@ class Boxes final {
   public:
     enum Box { Colours, Textures, Clips, kCount };
 
-    /// A box stands at the frame's right at first, and clear of the side pane's width; where that is over the side
-    /// pane, beside the frame, as far as the screen has room.
+    /// Initially a box is at the frame's right, clear of the side pane's width; if that would be over the side pane,
+    /// beside the frame, as far as the screen has room.
     Boxes(QWidget& frame, const QWidget& sidePane, Setup& setup, Bars& bars);
 
     void set(Box which, QWidget* box) { boxes_[which] = box; }
     QWidget* box(Box which) const { return boxes_[which]; }
-    /// Shows a box; it keeps the place that the user gave it.
+    /// Shows a box, where the user last put it.
     void show(Box which);
     void toggle(Box which);
-    /// What is to be seen when the frame comes up.
+    /// Shows the boxes that Setup says, when the frame appears.
     void showAll();
     /// Shows it, or brings it to the front.
     void bring(Box which);
-    /// Where they are on the screen, those that are shown.
+    /// The screen rectangles of the visible ones.
     std::vector<QRect> places() const;
     bool has(const QObject* box) const
     {
         return std::ranges::any_of(boxes_, [box](const auto& own) { return own == box; });
     }
-    /// The user has closed a box by its own cross, if it is one: the menu's mark goes too.
+    /// The user has closed this window by its own close button: if it is a box, its menu item is unchecked.
     void crossed(const QObject* box);
 
   private:

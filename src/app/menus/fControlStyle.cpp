@@ -15,7 +15,7 @@ QColor mixed(const QColor& one, const QColor& other, double part)
                   channel(one.blue(), other.blue()));
 }
 
-/// The line round a control: seen on the ground, but weaker than the text.
+/// The outline of a control: visible on the background, but weaker than the text.
 QColor edgeOf(const QStyleOption& option)
 {
     const double strength = option.state & QStyle::State_Enabled ? 0.55 : 0.25;
@@ -23,7 +23,7 @@ QColor edgeOf(const QStyleOption& option)
                  option.palette.color(QPalette::Active, QPalette::Window), strength);
 }
 
-/// The signs of the buttons of a title bar, in its text's colour.
+/// The symbols of a title bar's buttons, in its text's colour.
 void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget)
 {
     const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
@@ -67,7 +67,7 @@ bool fControlStyle::isPlain() const { return baseStyle()->name() == QLatin1Strin
 
 bool fControlStyle::mends(const QPalette& palette) const { return isDark(palette) && isPlain(); }
 
-/// Plain palettes leave what is disabled nearly as the ground, and a dark workspace black.
+/// Plain palettes make disabled text nearly invisible, and a dark workspace black.
 void fControlStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
@@ -124,7 +124,7 @@ void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     painter->restore();
 }
 
-/// A caption keeps clear of the arrow of its menu, which the plain style draws on it, like a comma.
+/// Keeps a caption clear of its menu arrow, which the plain style draws over it, like a comma.
 QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                       const QWidget* widget) const
 {
@@ -134,7 +134,7 @@ QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         button->text.isEmpty() || !(button->features & QStyleOptionToolButton::HasMenu) ||
         button->features & QStyleOptionToolButton::MenuButtonPopup)
         return whole;
-    return whole + QSize(2 * pixelMetric(PM_MenuButtonIndicator, option, widget), 0); // it stands in the middle
+    return whole + QSize(2 * pixelMetric(PM_MenuButtonIndicator, option, widget), 0); // it is centred
 }
 
 QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const

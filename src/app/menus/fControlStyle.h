@@ -1,5 +1,5 @@
-// fControlStyle: mends what can't be told apart in the plain style: unchecked boxes, sliders and title bars on a dark
-// ground, buttons that are checked or disabled. Where the desktop has a style of its own that style stands.
+// fControlStyle: corrects what is indistinguishable in the plain style: unchecked boxes, sliders and title bars on a
+// dark background, checked or disabled buttons. A desktop's own style is left unchanged.
 #pragma once
 #include <QProxyStyle>
 
@@ -19,12 +19,12 @@ class fControlStyle : public QProxyStyle {
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
 
   protected:
-    /// Half way between text and ground: not every palette's own colour for what is disabled can be read.
+    /// Half way between text and background: not every palette's own disabled colour is readable.
     static QColor paleText(const QPalette& palette);
 
   private:
     bool isPlain() const;
-    bool mends(const QPalette& palette) const; // a dark ground under the plain style
+    bool mends(const QPalette& palette) const; // a dark background in the plain style
 };
 
 } // namespace velara

@@ -14,7 +14,7 @@ void useResources() { initResources(); }
 void useIconTheme()
 {
     const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    // Without a desktop around us Qt looks nowhere.
+    // Without a desktop environment Qt searches nowhere.
     QStringList paths = QIcon::themeSearchPaths();
     for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
         if (!paths.contains(folder + "/icons")) paths << folder + "/icons";

@@ -9,11 +9,11 @@ namespace {
 
 constexpr int kItemHeight = 20, kSeparatorHeight = 5, kSmallestWidth = 120;
 constexpr int kPicture = 16;
-constexpr int kPictureColumn = 23; // the highlight leaves it free when there is a picture
+constexpr int kPictureColumn = 23; // the highlight leaves it free when there is an icon
 constexpr int kTextLeft = 25;
 constexpr int kArrow = 16;
 
-/// A frame of one pixel that looks sunken or raised. right and bottom are the last pixels.
+/// A sunken or raised frame of one pixel. right and bottom are the last pixels.
 void frame3d(QPainter& painter, const QPalette& palette, int left, int top, int right, int bottom, bool sunken)
 {
     const QColor dark = palette.color(QPalette::Dark), light = palette.color(QPalette::Light);

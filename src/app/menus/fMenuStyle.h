@@ -1,5 +1,5 @@
-// fMenuStyle: the look of all menus: a small picture beside each text, items of 20 and separators of 5, a raised frame
-// round the picture of the selected item. And texts are shown as they are. All else is that of the controls.
+// fMenuStyle: the look of all menus: a small icon beside each text, items of 20 pixels and separators of 5, a raised
+// frame around the icon of the selected item. It also shows texts literally. Everything else is that of the controls.
 #pragma once
 #include "app/menus/fControlStyle.h"
 
@@ -9,8 +9,8 @@ class fMenuStyle final : public fControlStyle {
     Q_OBJECT
   public:
     using fControlStyle::polish;
-    /// Labels, and the boxes of hints, would take a text with angle brackets for a page, and load the pictures that it
-    /// names: the name of a file or a folder could be such a text.
+    /// Labels and tool tips would interpret a text with angle brackets as HTML and load the images that it names: a
+    /// file or folder name could be such a text.
     void polish(QWidget* widget) override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;

@@ -270,7 +270,7 @@ constexpr DropRow kDrops[] = {
     {"tbi", 3, 1, "50 %", "50"}, {"tbi", 3, 2, "33 %", "33"}, {"tbi", 3, 3, "25 %", "25"},
     {"tbi", 3, 4, "20 %", "20"}, {"tbi", 3, 5, "15 %", "15"}, {"tbi", 3, 6, "10 %", "10"},
     {"tbi", 5, 1, "90°", "N90"}, {"tbi", 5, 2, "180°", "N180"}, {"tbi", 5, 3, "270°", "N270"},
-    {"tbi", 5, 4, "360°", "N360"},      // turns nothing, and it stays
+    {"tbi", 5, 4, "360°", "N360"},      // turns nothing: odd, and kept
     {"tbi", 6, 1, "90°", "A90"}, {"tbi", 6, 2, "180°", "A180"}, {"tbi", 6, 3, "270°", "A270"},
     {"tbi", 6, 4, "360°", "A360"},
     {"tbi", 8, 1, "2 x larger", "2x"}, {"tbi", 8, 2, "3 x larger", "3x"},
@@ -299,7 +299,7 @@ static_assert(std::ranges::all_of(kMenuParts,
                                   }),
               "a part of kMenuParts has no place: add a row {Words, part} to kMenus in src/app/menus/menus.cpp");
 
-/// LIGHT, HEAVY or CUSTOM and the name of the menu, as the vocabulary has it.
+/// LIGHT, HEAVY or CUSTOM plus the name of the menu, as in the vocabulary.
 std::string_view strengthWord(const char* strength, std::string_view menu)
 {
     return findCommandWord(std::string(strength).append(menu))->word;
@@ -315,7 +315,7 @@ void appendStrengths(std::vector<MenuRow>& all, const MenuRow& row)
                            {End}});
 }
 
-/// The words that say themselves that they stand in this part, on numbers that no row of the table has.
+/// Appends the words whose own place is in this part, with numbers that no row of the table uses.
 void appendWords(std::vector<MenuRow>& all, MenuRow row)
 {
     row.kind = Item;

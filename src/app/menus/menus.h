@@ -1,5 +1,5 @@
-// The menus and toolbars as data: which item stands where, what it is called and which word of commands/vocabulary.h it
-// gives.
+// The menus and toolbars as data: the position and caption of each item, and the word of commands/vocabulary.h that it
+// sends.
 #pragma once
 #include <span>
 #include <string_view>
@@ -13,8 +13,8 @@ enum class MenuKind {
     Item,
     Separator,
     End,
-    // In the table alone; menuRows() has what they stand for.
-    Items,     // as many as the word has
+    // In the table only; menuRows() has them expanded.
+    Items,     // one per item of the word
     Words,     // the words whose place is this part (commands/vocabulary.h)
     Strengths, // a submenu of Light, Heavy and Custom
 };
@@ -27,14 +27,14 @@ struct MenuRow {
     int index = 0;
     std::string_view caption = {};
     std::string_view word = {};
-    std::string_view shortcuts = {}; // split by blanks; the first is shown
+    std::string_view shortcuts = {}; // separated by blanks; the first is shown
     bool checkable = false;
 };
 
 /// The whole tree, top down.
 std::span<const MenuRow> menuRows();
 
-/// A button of a toolbar; numbers left out are separators. A button without a word only opens its drop-down.
+/// A button of a toolbar; missing numbers are separators. A button without a word only opens its drop-down.
 struct ButtonRow {
     std::string_view bar; // "tb_0", "tbi", ...; the object name is bar + "_" + number
     int number;
@@ -42,7 +42,7 @@ struct ButtonRow {
     std::string_view word;
 };
 
-/// An entry of a button's drop-down; numbers left out are separators.
+/// An entry of a button's drop-down; missing numbers are separators.
 struct DropRow {
     std::string_view bar;
     int button;
@@ -62,18 +62,18 @@ struct BarRow {
 };
 std::span<const BarRow> barRows();
 
-/// The buttons of the tool strip tb_tools below those of the tools; key is what a click gives.
+/// The buttons of the tool strip tb_tools below those of the tools; key is what a click sends.
 struct StripRow {
     int number;
     std::string_view key;
     std::string_view caption;
     bool checkable;
-    std::string_view shortcuts; // split by blanks
+    std::string_view shortcuts; // separated by blanks
 };
 std::span<const StripRow> stripRows();
 
-/// Name of the picture of a word, an "@" action or a button of the strip: an icon of the theme, or one of our own
-/// (":name"). Empty when it has none.
+/// Icon name of a word, an "@" action or a button of the strip: from the theme, or our own (":name"). Empty when it has
+/// none.
 std::string_view pictureOf(std::string_view word);
 
 } // namespace velara

@@ -100,7 +100,7 @@ void fPreferences::browse()
 void fPreferences::accept()
 {
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
-    setup_ = copy_; // whole: what changed elsewhere while the dialog stood open is undone
+    setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }
 

@@ -1,4 +1,4 @@
-// fPreferences: the options. Works on a private copy of the whole record, which OK puts back.
+// fPreferences: the options dialog. Works on a private copy of the whole record, which OK writes back.
 #pragma once
 #include "seams/Setup.h"
 #include <QDialog>

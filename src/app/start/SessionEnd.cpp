@@ -17,14 +17,14 @@ namespace velara {
 namespace {
 
 constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
-constexpr unsigned kFrozen = 11; // seconds until the system ends a program whose event loop stands still
+constexpr unsigned kFrozen = 11; // seconds after which the system ends a program whose event loop is blocked
 
 std::array<struct sigaction, kSignals.size()> before;
 std::atomic<int> wakeUp{-1}; // an event counter that the event loop watches
 std::atomic<bool> pending{false};
 static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
-/// In the middle of anything, on any thread: only what is safe there.
+/// May interrupt anything, on any thread: async-signal-safe calls only.
 void onSignal(int)
 {
     const int reason = errno;
@@ -79,7 +79,7 @@ SessionEnd::SessionEnd(fMain& frame, std::chrono::milliseconds patience, std::fu
         if (!frame_.isClosed()) session.cancel();
         session.release();
     });
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { // by others than the frame
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { // not by the frame
         const auto isLost = [](const DocumentHandle& document) { return document->wouldBeLost(); };
         if (!frame_.isClosed() && std::ranges::any_of(frame_.workspace().documents(), isLost)) this->leave();
     });
@@ -102,7 +102,7 @@ void SessionEnd::begin()
     close();
 }
 
-/// A question that stands already goes on with what its answer brings.
+/// An open question continues with what its answer causes.
 void SessionEnd::close()
 {
     if (frame_.isClosing() || isAsking()) return;
@@ -116,8 +116,8 @@ void SessionEnd::asked(fImage::Question question)
 {
     if (!ends_) return;
     if (question == fImage::Question::Stands) patience_.start();
-    if (question == fImage::Question::Answered) patience_.stop(); // somebody is there
-    // It was about that document alone: now the frame's turn comes.
+    if (question == fImage::Question::Answered) patience_.stop(); // the user is there
+    // The question was about that document alone: now it is the frame's turn.
     if (question == fImage::Question::Done && !frame_.isClosing()) QTimer::singleShot(0, this, &SessionEnd::close);
 }
 

@@ -1,6 +1,6 @@
-// SessionEnd: the ends of the program that its user didn't choose: SIGTERM, SIGINT, SIGHUP, and the end of the session.
-// They run the ordinary close, so that unsaved pictures are asked about. Where nobody answers the program ends all the
-// same; the undo files stay then, and the pictures can be recovered from them.
+// SessionEnd: ends of the program that its user didn't choose: SIGTERM, SIGINT, SIGHUP, and the end of the session.
+// They run the ordinary close, so that the user is asked about unsaved pictures. If nobody answers, the program ends
+// anyway; the undo files are kept then, and the pictures can be recovered from them.
 #pragma once
 #include "ui/view/fImage.h"
 #include <QTimer>
@@ -13,8 +13,9 @@ class fMain;
 
 class SessionEnd final : public QObject {
   public:
-    /// Takes the signals over while it lives, but for those that the program was told to ignore (nohup). There is one
-    /// at a time; the frame outlives it. patience: how long a question may stand; leave ends the program on the spot.
+    /// Handles the signals while it lives, except those that the program was started to ignore (nohup). Only one may
+    /// exist at a time; the frame must outlive it. patience: how long a question may stay open; leave ends the program
+    /// immediately.
     explicit SessionEnd(fMain& frame, std::chrono::milliseconds patience = std::chrono::seconds(10),
                         std::function<void()> leave = {});
     ~SessionEnd() override;

@@ -1,4 +1,4 @@
-// The pictures that the program brings along: splash, stamps and the first image. Drawn from the program's resources.
+// The pictures that come with the program: splash, stamps and the first image. Drawn from the program's resources.
 #pragma once
 #include <QImage>
 #include <QList>

@@ -39,7 +39,7 @@ QString libraries()
 fAboutFacts::fAboutFacts(QWidget* parent) : QFrame(parent)
 {
     setAutoFillBackground(true);
-    setAttribute(Qt::WA_NoMousePropagation); // the picture above closes at a click
+    setAttribute(Qt::WA_NoMousePropagation); // a click on the picture above closes the window
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 12, 16, 12);
     auto* facts = new QLabel(tr("<b>Velara Studio %1</b>"

@@ -1,4 +1,4 @@
-// fAboutFacts: what About tells below the picture: version, licence, libraries.
+// fAboutFacts: the text of About below the picture: version, licence, libraries.
 #pragma once
 #include <QFrame>
 

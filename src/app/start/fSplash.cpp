@@ -20,7 +20,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");
-    // Not read back: what stands there by then may be somebody else's, and the picture is at hand.
+    // Don't reread the file: another process may have replaced it, and the picture is in memory.
     overwriteFile(path, {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
     setFixedSize(picture.size());
     Timer1.setInterval(1);

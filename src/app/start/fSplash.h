@@ -1,4 +1,4 @@
-// fSplash: the picture of the start, and of About. A press sets ripples going on it; a click or Esc closes it.
+// fSplash: the picture of the start, and of About. A press starts ripples on it; a click or Esc closes it.
 #pragma once
 #include "app/start/ripples.h"
 #include <QDialog>
@@ -11,9 +11,9 @@ class Platform;
 class fSplash final : public QDialog {
     Q_OBJECT
   public:
-    /// Writes the picture beside the program folder and shows it from there; from memory where it can't be written.
+    /// Writes the picture to a file beside the program folder, and shows it.
     explicit fSplash(Platform& platform, QWidget* parent = nullptr);
-    /// As About: version, licence and libraries below the picture.
+    /// For About: version, licence and libraries below the picture.
     void showFacts();
 
   protected:

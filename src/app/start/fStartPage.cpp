@@ -30,7 +30,7 @@ constexpr StartRow kStarts[] = {
 constexpr int kMargin = 24;
 constexpr int kIndex = Qt::UserRole; // of the recent list
 
-/// All entries take the same room, whatever the shape of their pictures.
+/// All icons have the same size, whatever the shape of their pictures.
 QIcon framed(const QImage& picture, qreal ratio)
 {
     constexpr int kSide = Previews::kThumbnailSide;
@@ -81,7 +81,7 @@ void fStartPage::place()
             covered |= area & QRect(parentWidget()->mapFromGlobal(rect.topLeft()), rect.size());
     layout()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     const QSize least = layout()->minimumSize();
-    QRect best; // of the strips beside, above and below what is covered
+    QRect best; // of the strips beside, above and below the covered rectangles
     const auto strip = [&](int left, int top, int right, int bottom) {
         const QRect room(QPoint(left, top), QPoint(right, bottom));
         const QSize size = room.size(), found = best.size();
@@ -132,7 +132,7 @@ void fStartPage::makeList()
     QPalette colours = list_->palette();
     colours.setColor(QPalette::Base, Qt::transparent);
     list_->setPalette(colours);
-    // One click opens, as anywhere on such a page; Enter does so by the keyboard.
+    // One click opens, as usual on such a page; so does Enter.
     const auto choose = [this](const QListWidgetItem* item) { emit recentChosen(item->data(kIndex).toInt()); };
     connect(list_, &QListWidget::itemClicked, this, choose);
     connect(list_, &QListWidget::itemActivated, this, choose);
@@ -175,7 +175,7 @@ void fStartPage::askThumbnail(int row, const QString& path)
 
 void fStartPage::hideEvent(QHideEvent* event)
 {
-    requests_.clear(); // nobody looks
+    requests_.clear(); // nobody is looking
     shown_.clear();
     QWidget::hideEvent(event);
 }

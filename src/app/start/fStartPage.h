@@ -1,4 +1,4 @@
-// fStartPage: what the area of the documents shows while there is none: how to start, and the recent pictures.
+// fStartPage: shown in the documents' area while there is none: ways to start, and the recent pictures.
 #pragma once
 #include "seams/Previews.h"
 #include <QWidget>
@@ -17,11 +17,11 @@ class fStartPage final : public QWidget {
     Q_OBJECT
   public:
     fStartPage(Platform& platform, QWidget* parent);
-    /// What stands over the page, on the screen.
+    /// The screen rectangles of windows over the page.
     std::function<std::vector<QRect>()> taken;
-    /// Covers its parent; what it shows keeps to the largest part that nothing stands over and that holds it.
+    /// Covers its parent; its contents use the largest uncovered part that holds them.
     void place();
-    /// Paths, blank ones and those of lost files left out; their thumbnails come by and by.
+    /// Shows the paths, skipping blank ones and lost files; their thumbnails appear as they are read.
     void showRecent(const std::array<QString, 8>& recent);
 
   signals:

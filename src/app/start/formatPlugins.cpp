@@ -7,8 +7,8 @@ namespace velara {
 
 void leaveFormatPluginsOut()
 {
-    QLibraryInfo::path(QLibraryInfo::PluginsPath); // reads its configuration, once
-    // The folder of the plug-ins is listed once too, the first time that one is wanted: now, while nothing can be
+    QLibraryInfo::path(QLibraryInfo::PluginsPath); // makes Qt read its configuration, once
+    // The plug-in folder is listed only once, too, when a plug-in is first needed: done now, while no file can be
     // opened.
     rlimit before{};
     if (getrlimit(RLIMIT_NOFILE, &before) != 0) return;

@@ -1,11 +1,10 @@
-// The system's plug-ins for picture formats stay out of the editor: pictures are read by velara-decode, and what isn't
-// there can't be reached by a file that a dialog, an icon or a page of text leads to.
+// Keeps the system's plug-ins for picture formats out of the editor: pictures are read by velara-decode, and a plug-in
+// that isn't loaded can't be attacked by a file that a dialog, an icon or a page of text refers to.
 #pragma once
 
 namespace velara {
 
-/// To be called before the application object is made. The formats that are part of the toolkit itself stay, for its
-/// own icons.
+/// Call before the application object is made. The formats built into Qt remain, for its own icons.
 void leaveFormatPluginsOut();
 
 } // namespace velara

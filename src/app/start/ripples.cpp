@@ -14,10 +14,10 @@ Ripples::Ripples(const QImage& picture)
 
 namespace {
 
-/// Copies a square of the source at (x + 2, y + 2) to (x, y), as far as both lie in the pictures.
+/// Copies a square of the source at (x + 2, y + 2) to (x, y), clipped to both pictures.
 void copyShifted(const QImage& from, QImage& to, int x, int y, int size)
 {
-    constexpr int kShift = 2; // along both axes: this is what looks like water
+    constexpr int kShift = 2; // along both axes: this looks like water
     const int left = std::max(x, 0), right = std::min(x + size, from.width() - kShift);
     const int top = std::max(y, 0), bottom = std::min(y + size, from.height() - kShift);
     if (left >= right) return;

@@ -11,9 +11,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kDelay = 500;                 // ms for windows to go
+constexpr int kDelay = 500;                 // ms for windows to disappear
 constexpr int kPatience = 10000;            // ms; a desktop may be asking its user meanwhile
-constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, and it stays
+constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, and kept
 
 } // namespace
 
@@ -59,14 +59,15 @@ void Capture::takeScreens(bool showsDesktop, const Screen::Done& done)
     QTimer::singleShot(kDelay, this, [this, done] { grab(done); });
 }
 
-/// Where the desktop can't be shown the program at least is out of the way.
+/// If the desktop can't be shown, at least the program is hidden.
 void Capture::putAside(bool hides, bool showsDesktop)
 {
     if (showsDesktop && !desktopShown_) desktopShown_ = frame_.platform().screen().showDesktop(true);
     if ((hides || (showsDesktop && !desktopShown_)) && !hidden_) hidden_ = std::make_unique<HiddenWindows>();
 }
 
-/// The windows of others. Not later: one of ours that is shown meanwhile would make the window manager keep them away.
+/// Brings back others' windows. Not later: a window of ours shown meanwhile would make the window manager keep them
+/// hidden.
 void Capture::endDesktop()
 {
     if (std::exchange(desktopShown_, false)) frame_.platform().screen().showDesktop(false);
@@ -116,13 +117,13 @@ void Capture::capturePic(int mode)
     });
 }
 
-/// By way of the file, if there is room for it; what was captured is not lost over it.
+/// By way of the file, if there is room for it; otherwise directly.
 void Capture::makeDocument(const Bits& captured, const QString& reason)
 {
     bringBack();
     const QString path = frame_.platform().programFolder() + "/New.bmp";
     Bits bits = captured;
-    QFile::remove(path); // what stands there may be a link, or open to others
+    QFile::remove(path); // an existing file may be a link, or readable by others
     if (!bits.isNull() &&
         savePicture(frame_.platform(), bits, path, "bmp", OutputFile::Links::Replace) == SaveResult::Written) {
         const LoadedPicture loaded = frame_.platform().loadPicture(path, "bmp");

@@ -1,5 +1,5 @@
-// Capture: the screen, or a part of it, as a new document. Puts away what stands in the way, waits half a second, takes
-// the picture, brings everything back, whatever became of it.
+// Capture: the screen, or a part of it, as a new document. Hides what is in the way, waits half a second, captures, and
+// always brings everything back.
 #pragma once
 #include "seams/Screen.h"
 #include "ui/utilities/fCapture.h"
@@ -29,13 +29,13 @@ class Capture final : public QObject {
     /// As soon as the menu that the word came from has closed.
     void capturePic(int mode);
 
-    /// The dialog, once.
+    /// Shows the dialog; there is only one.
     void showDialog();
-    /// The screens, without a document, once what stands in the way has gone. The program's windows stay away until
-    /// bringBack(); where the user gives up waiting for the desktop they come back, and done is not called.
+    /// Captures the screens, without a document, once what is in the way is hidden. The program's windows stay hidden
+    /// until bringBack(); if the user gives up waiting for the desktop they come back, and done is not called.
     void takeScreens(bool showsDesktop, const Screen::Done& done);
     void bringBack();
-    /// How long a desktop may take until a small window offers to leave it; milliseconds.
+    /// How long a desktop may take before a small window offers to give up; milliseconds.
     void setPatience(int patience) { patience_.setInterval(patience); }
 
   private:
@@ -46,7 +46,7 @@ class Capture final : public QObject {
     void customChosen(fCapture::Where where);
     void customDue();
     QRect areaOf(int mode, const ScreenPicture& picture) const;
-    /// reason: what there is to tell of the picture, as in ScreenPicture.
+    /// reason: what to report about the picture, as in ScreenPicture.
     void makeDocument(const Bits& bits, const QString& reason = {});
 
     fMain& frame_;

@@ -39,7 +39,7 @@ void Clips::paste()
         stores.paste = picture.bits;
         reason = picture.reason;
     }
-    if (!image) return; // closed while the clipboard's owner was waited for
+    if (!image) return; // closed while waiting for the clipboard's owner
     if (stores.paste.isNull() || !image->PictureExists())
         return frame_.report("PASTE",
                              {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});

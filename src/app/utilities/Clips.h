@@ -9,16 +9,16 @@ class fMain;
 
 class Clips {
   public:
-    /// Makes the box, hidden. The frame outlives this.
+    /// Makes the box, hidden. The frame must outlive this.
     explicit Clips(fMain& frame);
 
-    /// All with an active document.
+    /// All need an active document.
     void cut();
     void copy();
-    /// What was cut or copied last, or chosen in the box, hangs on the pointer from now on. With nothing in the history
-    /// it is the bitmap of the desktop's clipboard.
+    /// What was last cut, copied or chosen in the box follows the pointer from now on. With an empty history it is the
+    /// bitmap of the desktop's clipboard.
     void paste();
-    /// The tools' paste is let go of: a tool was chosen in its place.
+    /// Drops the tools' pending paste: a tool was chosen instead.
     void letGo();
 
     fPaste* box() const { return box_; }

@@ -35,7 +35,7 @@ void browseTextureFolder(fMain& frame, fToolTextures& box)
 {
     fBrowse* browser = makeBrowser(frame, BrowseMode::TextureFolder, box.textureFolder(), &box);
     QObject::connect(browser, &fBrowse::opened, &box, &fToolTextures::setTextureFolder);
-    QObject::connect(browser, &fBrowse::finished, &box, &QWidget::activateWindow); // who asked goes on there
+    QObject::connect(browser, &fBrowse::finished, &box, &QWidget::activateWindow); // back to the window that asked
     browser->show();
 }
 

@@ -6,11 +6,11 @@ namespace velara {
 class fMain;
 class fToolTextures;
 
-/// The picture browser, in the folder of the last time.
+/// The picture browser, in its last folder.
 void browsePictures(fMain& frame);
-/// The same window, choosing the folder of the textures box.
+/// The same window, to choose the folder of the textures box.
 void browseTextureFolder(fMain& frame, fToolTextures& box);
-/// The list of formats, once.
+/// The list of formats; there is only one.
 void showAssociation(fMain& frame);
 
 } // namespace velara

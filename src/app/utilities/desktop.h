@@ -6,15 +6,15 @@ namespace velara {
 
 class fMain;
 
-/// The active picture becomes the wallpaper.
+/// Makes the active picture the wallpaper.
 void setAsWallpaper(fMain& frame, WallpaperMode mode);
-/// The choice of the scanner for the scans to come.
+/// Chooses the scanner for later scans.
 void selectSource(fMain& frame);
 /// The dialog that prints the active picture.
 void print(fMain& frame);
-/// The choice of printer and paper for the pages to come.
+/// Chooses printer and paper for later pages.
 void setUpPrinter(fMain& frame);
-/// One picture from the scanner as a new document.
+/// Scans one picture as a new document.
 void acquire(fMain& frame);
 
 } // namespace velara

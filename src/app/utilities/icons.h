@@ -5,7 +5,7 @@ namespace velara {
 
 class fMain;
 
-/// Shows it; the cut-outs of the last time are still there.
+/// Shows it; its last cut-outs are still there.
 void extractIcons(fMain& frame);
 
 } // namespace velara

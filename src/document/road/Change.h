@@ -1,5 +1,5 @@
-// What a change of a document's pixels is made of: the job, what follows it, and what became of it. Workspace puts
-// them together.
+// The parts of a change of a document's pixels: the job, what follows it, and its outcome. Workspace puts them
+// together.
 #pragma once
 #include <QString>
 #include <exception>
@@ -10,14 +10,14 @@ namespace velara {
 class Document;
 class cBitFilter;
 
-/// Work on a document that knows no window. It gets a draft: a document of its own with the committed picture and the
-/// selection, and an engine that holds both. What it leaves in the draft is the result: pixels, size, selection. It
-/// runs on a thread of its own, may paint by draft.paint, and ends early by an exception: RuntimeError is a failure,
-/// Cancelled is the user's wish. It holds no window, no Setup and no handle: what it needs it has been given as values.
+/// Work on a document, without a window. It gets a draft (a document of its own with the committed picture and the
+/// selection) and an engine that holds both. What it leaves in the draft is the result: pixels, size, selection. It
+/// runs on a worker thread, may paint by draft.paint, and ends early by an exception: RuntimeError is a failure,
+/// Cancelled the user's wish. It refers to no window, Setup or handle: all it needs is captured by value.
 using Job = std::function<void(Document& draft, cBitFilter& filter)>;
 
 enum class After {
-    Step,   // one undo step, the document counts as changed, and a run of sizing words is over
+    Step,   // one undo step, the document is marked as changed, and a run of sizing words ends
     Sizing, // one undo step of a run of sizing words; each of them starts from the picture before the first
 };
 
@@ -25,12 +25,12 @@ enum class After {
 struct Outcome {
     enum Kind {
         Done,
-        Failed,    // the job threw; reason says what
+        Failed,    // the job threw; reason says why
         Cancelled, // the job threw Cancelled
-        Gone,      // no such document any more, no picture in it, or the frame closes: nobody to tell
+        Gone,      // no such document any more, no picture in it, or the frame closes: nothing to report
     };
     Kind kind = Done;
-    QString reason = {};           // in words for a person; empty where there is nothing to say
+    QString reason = {};           // for the user; empty where there is nothing to say
     std::exception_ptr fault = {}; // what the job threw
 
     explicit operator bool() const { return kind == Done; }

@@ -1,6 +1,6 @@
-// DocumentHandle: names one document without keeping it. A dialog, a box or a job that lasts longer than one event
-// holds this and asks for the document each time; once the document is closed the answer is null, even while its window
-// waits to be deleted.
+// DocumentHandle: names a document without keeping it alive. A dialog, a box or a job that outlives one event holds
+// this and asks for the document each time; once the document is closed the answer is null, even while its window waits
+// to be deleted.
 #pragma once
 #include <memory>
 
@@ -13,7 +13,7 @@ class DocumentHandle {
     DocumentHandle() = default; // names none
     explicit DocumentHandle(const std::shared_ptr<Document>& life) : life_(life) {}
 
-    /// The document, or null when it is gone. Never to be kept over a yield.
+    /// The document, or null when it is gone. Never to be kept over a call that runs events.
     Document* get() const { return life_.lock().get(); }
     Document& operator*() const { return *get(); }
     Document* operator->() const { return get(); }

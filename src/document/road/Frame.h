@@ -6,8 +6,8 @@
 //     frame.workspace().change(document, {job}, [&frame](const Outcome& outcome) { frame.report("MERGE", outcome); });
 //
 // document is the handle taken when the command began. A modal dialog takes frame.active() as it opens, shows that it
-// is at work, and closes in then(...) unless outcome.kind is Failed; it holds itself by a QPointer there. A tool that
-// paints right into its document calls workspace().finish() at the end of the stroke instead.
+// is busy, and closes in then(...) unless outcome.kind is Failed; there it refers to itself by a QPointer. A tool that
+// paints directly into its document calls workspace().finish() at the end of the stroke instead.
 #pragma once
 #include "document/road/Arrival.h"
 #include "document/road/Change.h"
@@ -24,8 +24,7 @@ class Platform;
 class Workspace;
 struct Setup;
 
-/// The panels of the status bar, by their keys. Hint takes the place of size, name and zoom while it
-/// says something.
+/// The panels of the status bar, by their keys. Hint replaces size, name and zoom while it has a text.
 enum class Panel { Pos, Ext, Size, Name, Zoom, Hint };
 
 class Frame {
@@ -34,20 +33,20 @@ class Frame {
 
     virtual Platform& platform() = 0;
     virtual Setup& setup() = 0;
-    /// The documents and the road by which they change.
+    /// The documents and the way in which they change.
     virtual Workspace& workspace() = 0;
     /// What the mouse tools of all documents share.
     virtual ToolStores& toolStores() = 0;
 
     // --- Documents
-    /// The active document; names none without one.
+    /// The active document; a null handle when there is none.
     virtual DocumentHandle active() = 0;
-    /// A new document with the picture (a null one: an empty window), whole-picture limit, first snapshot, shown and
-    /// active. path becomes its Tag, unique among the open ones, and what follows the last separator its caption; a
-    /// name without a folder is put into the folder of the file dialogs. Names none while the frame closes.
+    /// A new document with the picture (null: an empty window), whole-picture limit and first snapshot, shown and
+    /// active. path becomes its Tag, unique among the open ones, and the part after the last separator its caption; a
+    /// name without a folder goes into the folder of the file dialogs. A null handle while the frame closes.
     virtual DocumentHandle adopt(const Bits& bits, const QString& path, Arrival arrival = Arrival::Brought) = 0;
 
-    /// Says in the status bar why a change was not made: "what: reason". Nothing where there is nothing to say.
+    /// Says in the status bar why a change was not made: "what: reason". Does nothing when there is no reason to give.
     virtual void report(const QString& what, const Outcome& outcome) = 0;
 
     // --- Commands and displays
@@ -58,10 +57,10 @@ class Frame {
     /// activated.
     virtual void EnableMouseScrolling() = 0;
     virtual bool mouseScrolling() const = 0;
-    /// The colour wells show the colours of Setup.
+    /// Updates the colour wells from Setup.
     virtual void showColors() = 0;
-    /// Asks the user for a colour by the picker, over a window; what says what it is for. No value: cancelled. Anything
-    /// may be closed meanwhile.
+    /// Asks the user for a colour by the picker, above a window; what names the purpose. No value: cancelled. Any
+    /// window may be closed meanwhile.
     virtual std::optional<Colour> pickColour(Colour start, const QString& what, QWidget* over) = 0;
 };
 

@@ -8,8 +8,8 @@ namespace velara {
 
 namespace {
 
-/// What stands before the pixels: the header of a top-down 32-bit bitmap that is four wider and higher than the
-/// picture. Little-endian, as the machines are that this runs on.
+/// What precedes the pixels: the header of a top-down 32-bit bitmap, four wider and higher than the picture.
+/// Little-endian, as are the machines that this runs on.
 struct Header {
     std::int32_t size, width, height;
     std::int16_t planes, bitCount;
@@ -24,7 +24,7 @@ Header headerOf(const Bits& bits)
 
 bool isOurs(const Header& h) { return h.size == sizeof(Header) && h.planes == 1 && h.bitCount == 32; }
 
-/// Bytes of the pixels that the header tells of; 0 when there is no such picture.
+/// Bytes of the pixels that the header describes; 0 when it is invalid.
 std::int64_t pixelBytes(const Header& h)
 {
     const std::int64_t width = h.width, height = -std::int64_t(h.height);
@@ -70,7 +70,7 @@ std::optional<Bits> UndoFiles::read(int index) const
     Header header{};
     if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return {};
     const std::int64_t size = pixelBytes(header);
-    if (size == 0 || file.size() - std::int64_t(sizeof header) < size) return {}; // longer: the tail of an older step
+    if (size == 0 || file.size() - std::int64_t(sizeof header) < size) return {}; // longer: an older step's tail
     Bits bits = Bits::uninitialized(header.width - 2 * Bits::kMargin, -header.height - 2 * Bits::kMargin);
     if (!file.read({bits.data(), bits.sizeInBytes()})) return {};
     return bits;
@@ -86,7 +86,7 @@ void UndoFiles::drop(int index, int last) const
 
 void UndoFiles::removeAll() const
 {
-    for (int i = 0; i < 100; ++i) remove(i); // a wildcard would take document 10000's for 1000's
+    for (int i = 0; i < 100; ++i) remove(i); // a wildcard would match document 10000's files for 1000's
 }
 
 } // namespace velara

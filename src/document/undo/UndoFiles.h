@@ -15,16 +15,17 @@ class UndoFiles {
     int number() const { return number_; }
     QString name(int index) const;
 
-    /// Over the file of the index, or a new one. False: an index that was there is whole or gone, others are as they
-    /// were.
+    /// Overwrites the file of the index, or creates it. False: a previous file of the index is intact or gone; others
+    /// are unchanged.
     bool write(int index, const Bits& bits) const;
-    /// The same over the pages of the oldest, index 0, which is about to go: half the time of a new file.
+    /// The same, reusing the pages of the oldest file, index 0, which is about to be dropped: half the time of a new
+    /// file.
     bool writeOverOldest(int index, const Bits& bits) const;
     /// Nothing when the file is missing, short or damaged.
     std::optional<Bits> read(int index) const;
     void remove(int index) const;
-    /// Drops the index and moves those above it, up to last, down by one. Upward, so that no file is overwritten; one
-    /// that fails does not stop the rest.
+    /// Removes the index and moves those above it, up to last, down by one. In ascending order, so that no file is
+    /// overwritten; a failure does not stop the rest.
     void drop(int index, int last) const;
     void removeAll() const;
 

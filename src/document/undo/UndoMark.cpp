@@ -11,7 +11,7 @@ namespace velara {
 
 namespace {
 
-/// Whether the path still leads to the open file.
+/// Whether the path still refers to the open file.
 bool isAt(int file, const QByteArray& path)
 {
     struct stat open {
@@ -20,7 +20,7 @@ bool isAt(int file, const QByteArray& path)
            open.st_ino == named.st_ino;
 }
 
-/// A file system without locks has one user: there it counts as locked.
+/// A file system without locks is taken to have one user: counts as locked.
 bool lockFile(int file) { return flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
 
 } // namespace
@@ -52,7 +52,7 @@ UndoMark::Answer UndoMark::take(const QString& folder, int number)
             path_ = path;
             return Answer::Ours;
         }
-        close(file); // its owner took it away between the two calls
+        close(file); // its owner removed it between the two calls
     }
     return Answer::Taken;
 }

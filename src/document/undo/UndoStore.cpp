@@ -17,10 +17,10 @@ namespace velara {
 struct UndoStore::Series {
     Series(QString folder, int number) : files(std::move(folder), number) {}
 
-    /// One state of the series; without a picture its file has it.
+    /// One state of the series; without a picture it is in its file.
     struct State {
-        std::optional<Bits> picture; // which the disk could not take
-        bool gap = false;            // what was shown before it is not in the series
+        std::optional<Bits> picture; // could not be written to disk
+        bool gap = false;            // the state before it is not in the series
     };
     UndoFiles files;
     UndoMark mark;
@@ -63,7 +63,7 @@ bool UndoStore::Series::ready()
     return mark.take(files.folder(), files.number()) == UndoMark::Answer::Ours;
 }
 
-/// A state goes for good, and those above it move down. The one that follows it, be it the one to come, has a gap
+/// Removes a state for good and moves those above it down. The one that follows it, even one still to come, has a gap
 /// before it.
 int UndoStore::Series::drop(int index, int count, bool ours)
 {
@@ -74,8 +74,8 @@ int UndoStore::Series::drop(int index, int count, bool ours)
     return count - 1;
 }
 
-/// What only memory has goes to the disk as soon as that has room. The rest may take as much memory as it leaves free;
-/// beyond that the oldest goes.
+/// States held only in memory go to disk as soon as it has room. The rest may take as much memory as it leaves free;
+/// beyond that the oldest is dropped.
 int UndoStore::Series::keepOlder(int count, bool ours)
 {
     std::int64_t kept = 0;
@@ -96,7 +96,7 @@ int UndoStore::Series::keepOlder(int count, bool ours)
     return count;
 }
 
-/// One snapshot. What could be redone goes first: the disk may need its room.
+/// Writes one snapshot. The redo steps go first: the disk may need their room.
 int UndoStore::Series::write(const Bits& bits)
 {
     const bool ours = ready();
@@ -105,7 +105,7 @@ int UndoStore::Series::write(const Bits& bits)
     int count = keepOlder(step, ours);
     if (of(count).gap) tell(errno);
     bool done = false;
-    if (count == kLimit) { // ten states stand, the one on screen is one of them
+    if (count == kLimit) { // ten states exist, the one on screen is one of them
         done = ours && files.writeOverOldest(count, bits);
         if (ours) files.drop(0, count);
         std::shift_left(states.begin(), states.end(), 1);
@@ -113,11 +113,11 @@ int UndoStore::Series::write(const Bits& bits)
     }
     done = done || (ours && files.write(count, bits));
     if (done) return count + 1;
-    if (ours) files.remove(count); // what could be redone
+    if (ours) files.remove(count); // the redo steps
     return hold(bits, count);
 }
 
-/// The newest state as one that only memory has.
+/// Keeps the newest state in memory only.
 int UndoStore::Series::hold(const Bits& bits, int index)
 {
     of(index).picture = bits;
@@ -151,7 +151,7 @@ UndoStore::~UndoStore()
 {
     series_->abandoned = true;
     const auto lock = series_->settled();
-    series_->mark.release(); // here and now: the last job may hold the series a moment longer
+    series_->mark.release(); // now: the last job may keep the series alive a moment longer
 }
 
 int UndoStore::number() const { return series_->files.number(); }
@@ -194,7 +194,7 @@ void UndoStore::save(const Bits& bits)
         } catch (const std::exception&) { // no memory for a path
             count = series->hold(picture, std::min(series->step, kLimit - 1));
         }
-        picture = Bits(); // before anybody hears of it: the next edit need not copy it then
+        picture = Bits(); // before anybody is notified: then the next edit need not copy it
         const std::lock_guard lock(series->guard);
         if (wanted) series->step = series->top = count;
         --series->waiting;

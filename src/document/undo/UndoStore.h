@@ -1,10 +1,10 @@
 // UndoStore: the undo and redo series of one document, whole-picture snapshots on disk. Knows two counters and a
 // folder, and no window.
 //
-// Snapshots are written by a thread, in order, from the shared value that they are, so that an edit doesn't wait for
-// the disk. Counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be
-// written stays in memory, as a step like the others: the one on screen always, older ones as long as they leave as
-// much memory free as they take. What goes then is passed over.
+// Snapshots are written by a thread, in order, from shared picture values, so that an edit doesn't wait for the disk.
+// The counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be written
+// stays in memory as a normal step: the one on screen always, older ones as long as they leave as much memory free as
+// they take. Those dropped then are skipped.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
@@ -16,12 +16,12 @@ namespace velara {
 
 class UndoStore {
   public:
-    static constexpr int kLimit = 10; // snapshots that stand after a save
+    static constexpr int kLimit = 10; // snapshots kept after a save
 
-    /// folder is where the files lie ("Temp" under the program folder; empty: no step is kept). A number that another
-    /// program uses is passed over: next is asked again. The folder is made if its parent stands.
+    /// folder is where the files go ("Temp" under the program folder; empty: no steps are kept). It is made if its
+    /// parent exists. A number that another program uses is skipped: next is asked again.
     UndoStore(QString folder, const std::function<int()>& next);
-    /// A number of which the caller knows that it is free; where it isn't, no step is kept.
+    /// A number that the caller knows to be free; if it isn't, no steps are kept.
     UndoStore(QString folder, int documentNumber);
     ~UndoStore();
     UndoStore(const UndoStore&) = delete;
@@ -35,16 +35,16 @@ class UndoStore {
     /// True from the second snapshot on, and when one couldn't be written: there may be something to lose.
     bool mayHaveChanged() const;
 
-    /// The picture becomes the next step, what could be redone is cut, and the oldest goes from a full series. Returns
-    /// at once unless the snapshot before the last one is still being written.
+    /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. Returns at
+    /// once unless the snapshot before the last one is still being written.
     void save(const Bits& bits);
     /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
     bool stands() const;
-    /// Waits. The picture that was shown before this one, the counters as they were; nothing when it is lost.
+    /// Waits. The picture shown before this one; counters are unchanged. Nothing when it is lost.
     std::optional<Bits> previous() const { return previousLater()(); }
-    /// previous() for another thread, while nobody saves or steps.
+    /// previous() for another thread; no save or step may happen meanwhile.
     std::function<std::optional<Bits>()> previousLater() const;
-    /// The counters of undo(), for a picture that previous() gave.
+    /// Moves the counters like undo(), for a picture obtained from previous().
     void stepBack();
     /// The picture one step back or forward, and the counters moved. Steps that are lost are passed over; nothing, and
     /// nothing moved, when there is none that can be read.
@@ -52,11 +52,11 @@ class UndoStore {
     std::optional<Bits> redo();
     /// Whether the last undo or redo left or passed over a step that couldn't be written or read.
     bool passedOver() const;
-    /// Removes every file of the document; snapshots that wait are not written any more.
+    /// Removes every file of the document; queued snapshots are not written.
     void deleteSeries();
 
-    /// Called from the writing thread when the state before a snapshot can be kept neither on the disk nor in memory,
-    /// so that the step can't be undone, with the reason for a person. To be set before the first save.
+    /// Called on the writing thread when the state before a snapshot can be kept neither on disk nor in memory, so that
+    /// the step can't be undone; the reason is for the user. Set it before the first save.
     void onFailure(std::function<void(const QString& reason)> told);
 
     QString fileName(int index) const;

@@ -34,13 +34,13 @@ constexpr Recipe kRecipes[] = {
 };
 // clang-format on
 
-/// A recipe with its outcomes for all pairs.
+/// A recipe with its results for all pairs.
 struct Mixture {
     int target, a, b;
     std::vector<std::uint8_t> table;
 };
 
-/// Mode 7: what is left of each channel's neighbour over t, of which only the low byte is kept.
+/// Mode 7: the low byte of each channel's neighbour minus t, complemented.
 auto wrapped()
 {
     return [shares = pairTable<std::int16_t>([](int c0, int c2) {

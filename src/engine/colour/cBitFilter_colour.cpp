@@ -17,7 +17,7 @@ auto mapped(const ChannelMap& map)
     return [=](const Pixel* from, Pixel* to, int x0, int x1) { colourKernels().channels({from, 0, to, x0, x1}, map); };
 }
 
-/// The amounts, by channel, as bytes to add and bytes to take away.
+/// The amounts, by channel, split into bytes to add and bytes to subtract.
 auto added(const std::array<int, 3>& amounts)
 {
     std::uint32_t plus = 0, minus = 0;

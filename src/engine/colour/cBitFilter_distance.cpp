@@ -1,4 +1,4 @@
-// Filters that go by the distance from a reference colour: isolate, replace, shift.
+// Filters by the distance from a reference colour: isolate, replace, shift.
 #include "engine/colour/kernels_colour.h"
 #include "engine/colour/kernels_distance.h"
 #include "engine/passes.h"
@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// The squared distance that a tolerance of 0..200 percent of 127.5 reaches, and one more.
+/// The squared distance of a tolerance of 0..200 percent of 127.5, plus one.
 std::int32_t toleranceLimit(int tolerance)
 {
     const double reach = tolerance * 127.5 / 100;

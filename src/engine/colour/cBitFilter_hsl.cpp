@@ -1,4 +1,4 @@
-// Filters by hue, saturation and lightness, and the greys and false colours that are a function of brightness.
+// Filters by hue, saturation and lightness, and the greys and false colours that depend on brightness alone.
 #include "engine/colour/kernels_colour.h"
 #include "engine/colour/kernels_hsl.h"
 #include "engine/colour/lookUps.h"
@@ -10,12 +10,13 @@ namespace velara {
 
 namespace {
 
-/// A full turn of six hue units over the hundred steps of a slider.
+/// The hundred steps of a slider as a full turn of six hue units.
 float hueOffset(int percent) { return static_cast<float>(percent / 16.67); }
 
 std::uint32_t bytesOf(const Rgb& c) { return toByte(c.b) | toByte(c.g) << 8 | std::uint32_t(toByte(c.r)) << 16; }
 
-/// The colours of the 766 sums of three channels. A sum whose colour is no bytes raises Overflow when a pixel has it.
+/// The colours for the 766 sums of three channels. A sum whose colour is out of byte range raises Overflow when a pixel
+/// has it.
 class SumColours {
   public:
     template <class Function> explicit SumColours(Function colour)
@@ -44,14 +45,14 @@ class SumColours {
     std::vector<bool> fails_;
 };
 
-/// round(sin(sum/1000/255*frequency + phase)*127.5 + 127.5) of the weighted sums 0..255000. kGreyInDoubt where it
-/// depends on the last bits: nearer than 1e-4 to a half or to the ends.
+/// round(sin(sum/1000/255*frequency + phase)*127.5 + 127.5) of the weighted sums 0..255000. kGreyInDoubt where the
+/// rounding depends on the last bits: within 1e-4 of a half or of the ends.
 std::vector<std::uint16_t> greysOfSums(float phase, float frequency)
 {
     constexpr std::size_t kSums = 255001, kRun = 64;
     constexpr double kNear = 1e-4;
     const double step = double(frequency) / 255000;
-    double cosOf[kRun], sinOf[kRun]; // of the steps within a run; angles are added
+    double cosOf[kRun], sinOf[kRun]; // of the steps within a run; combined by the addition theorem
     for (std::size_t i = 0; i < kRun; ++i) cosOf[i] = std::cos(double(i) * step), sinOf[i] = std::sin(double(i) * step);
     std::vector<std::uint16_t> greys((kSums / kRun + 1) * kRun);
     for (std::size_t run = 0; run < greys.size(); run += kRun) {
@@ -92,7 +93,7 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
             hslKernels().turn({from, 0, to, x0, x1}, turn, ends.data());
         });
     }
-    if (Saturation == 0) { // L alone is left: the half of the greatest and the least channel
+    if (Saturation == 0) { // only L remains: half the sum of the greatest and the least channel
         const auto greys = pairTable<std::uint8_t>([&](int most, int least) {
             const auto high = static_cast<std::uint8_t>(std::max(most, least)),
                        low = static_cast<std::uint8_t>(std::min(most, least));

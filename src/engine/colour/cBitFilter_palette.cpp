@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// NearestColor of a pixel in the lowest bytes of a register, faster where all entries are bytes.
+/// NearestColor of a pixel in the low bytes of a register, faster when all entries are bytes.
 class Nearest {
   public:
     Nearest()
@@ -23,7 +23,7 @@ class Nearest {
         nearest_ = std::make_unique<NearestColours>(pixels, Distance::Sum);
         colours_ = std::move(pixels);
     }
-    /// The palette's colour, its fourth byte 0. Overflow if it is none of bytes; OutOfRange without a palette.
+    /// The palette's colour, its fourth byte 0. Overflow if it isn't made of bytes; OutOfRange without a palette.
     __m128i operator()(__m128i p)
     {
         return inRegister(nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(_mm_cvtsi128_si32(p)));
@@ -41,23 +41,23 @@ class Nearest {
     std::unique_ptr<NearestColours> nearest_; // null unless all are bytes, and few enough
 };
 
-constexpr int kUnseen = 3; // an error of all channels that is not spread
+constexpr int kUnseen = 3; // a total error over the channels that is not diffused
 
 struct Columns {
     int begin, end;
 };
 
-/// The loop over the pixels, with the errors that they pass on.
+/// The loop over the pixels, with error diffusion.
 class Diffusion {
   public:
     Diffusion(Bits& source, Bits& out) : source_(source), out_(out) {}
 
-    /// Rows from y on, with the columns of each, abreast: each pixel waits for the one before it, so four rows go
-    /// together, each so far behind the one above that this has passed on its errors.
+    /// Rows from y on, each with its columns. Every pixel depends on the one before it, so four rows are interleaved,
+    /// each far enough behind the one above that its errors have arrived.
     static constexpr int kAbreast = 4;
     void rows(int y, const std::array<Columns, kAbreast>& columns)
     {
-        Columns step = {kLag * kAbreast, source_.maxX()}; // past the left column, before the last one
+        Columns step = {kLag * kAbreast, source_.maxX()}; // after the left column, before the last one
         for (int i = 0; i < kAbreast; ++i) {
             step.begin = std::max(step.begin, columns[std::size_t(i)].begin + kLag * i);
             step.end = std::min(step.end, columns[std::size_t(i)].end + kLag * i);
@@ -83,7 +83,7 @@ class Diffusion {
     }
 
   private:
-    static constexpr int kLag = 2; // with 1 a row would still be right, but wait for the one above in every step
+    static constexpr int kLag = 2; // 1 would be correct, but each step would wait for the row above
 
     void abreast(int y, Columns step)
     {
@@ -97,7 +97,7 @@ class Diffusion {
                 p[i] = pixel(p[i], from + x + i * stride, to + x + i * stride, true, true);
     }
 
-    /// p: what stands at from. Gives what then stands after it, which is at hand for the next one.
+    /// p: the pixel at from. Returns the one after it, errors added, which is in a register for the next step.
     [[gnu::always_inline]] __m128i pixel(__m128i p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
     {
         const __m128i found = nearest_(p);
@@ -113,8 +113,8 @@ class Diffusion {
         return both;
     }
 
-    /// The pixels to the right and below, with seven and four sixteenths of the error, cut towards zero, and clamped to
-    /// bytes.
+    /// The pixels to the right and below, plus seven and four sixteenths of the error, truncated toward zero, clamped
+    /// to bytes.
     static __m128i plusError(__m128i both, __m128i p, __m128i found)
     {
         const __m128i twice = _mm_set_epi8(-1, 3, -1, 2, -1, 1, -1, 0, -1, 3, -1, 2, -1, 1, -1, 0);
@@ -157,7 +157,7 @@ Bits cBitFilter::PaletteApply()
         for (const int end = y + (rows == Diffusion::kAbreast ? rows : 1); y < end; ++y) progressDue(y, source.maxY());
     }
     report(100);
-    if (bits_.sharesWith(before)) bits_ = source; // unless a yield has brought another picture
+    if (bits_.sharesWith(before)) bits_ = source; // unless Progress has set another picture
     return out;
 }
 

@@ -15,14 +15,14 @@ template <class Function> ByteTable byteTable(Function f)
     return table;
 }
 
-/// The blue, green and red of one pixel while they may lie outside of 0..255.
+/// Blue, green and red of one pixel, which may be outside of 0..255.
 struct Wide {
     std::int64_t b, g, r;
     bool isByte() const { return ((b | g | r) & ~std::int64_t{255}) == 0; }
 };
 
-/// Hands half of what a channel has below 0 or above 255 to both others, until all are in range: the hue lasts longer
-/// than under a clamp.
+/// Passes half of a channel's excess below 0 or above 255 to each of the others, until all are in range: this preserves
+/// the hue longer than clamping.
 Wide balanced(Wide v)
 {
     auto& [b, g, r] = v;
@@ -44,10 +44,10 @@ Wide balanced(Wide v)
     return v;
 }
 
-/// round(brightnessOf) of all pixels, counted.
+/// The histogram of round(brightnessOf) over all pixels.
 std::array<std::int64_t, 256> histogram(const Bits& bits)
 {
-    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // runs of equal pixels would wait for each other in one
+    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
     std::vector<Pixel> greys(std::size_t(bits.width()));
     for (int y = 0; y < bits.height(); ++y) {
         colourKernels().brightness(bits.row(y), bits.width(), greys.data());
@@ -117,8 +117,8 @@ Bits cBitFilter::SATURATION(int Level)
     };
     constexpr int kMostForSingles = 1000;
     if (Level < -kMostForSingles || Level > kMostForSingles) return eachSpan(0, literal);
-    // (c - grey)*Level/100 has two decimals: only its halves are in doubt. Where k is Level/100 exactly, singles are
-    // exact too; elsewhere k lies to one side of it and every half goes to that side, so k is moved on a little.
+    // (c - grey)*Level/100 has two decimals: only exact halves are critical. Where k equals Level/100 exactly, so are
+    // singles; elsewhere k is off to one side and every half rounds to that side, so k is moved a little further.
     const double beyond = 100.0 * k - Level;
     constexpr float kStep = 0x1p-20f;
     const float moved = beyond == 0 ? k : (beyond > 0) == (k > 0) ? k * (1 + kStep) : k * (1 - kStep);

@@ -1,4 +1,4 @@
-// Channels of pixels as 32-bit lanes, one pixel a lane. For kernel files only: included once a target.
+// Channels of pixels as 32-bit lanes, one pixel a lane. For kernel files only: included once per target.
 #if defined(VELARA_COLOURS_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_COLOURS_INL
 #undef VELARA_COLOURS_INL
@@ -38,7 +38,7 @@ template <class D8, class D, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, D, V 
     return hn::BitCast(d8, hn::Or(hn::Or(c0, hn::ShiftLeft<8>(c1)), hn::ShiftLeft<16>(c2)));
 }
 
-/// The hue of mHSLRGB in single arithmetic: off by less than 1e-4. most and range: of the three channels.
+/// The hue of mHSLRGB in single precision: the error is less than 1e-4. most and range are those of the three channels.
 template <class D, class V> HWY_INLINE auto hueOf(D d32, V r, V g, V b, V most, V range)
 {
     const hn::Rebind<float, D> df;
@@ -46,11 +46,12 @@ template <class D, class V> HWY_INLINE auto hueOf(D d32, V r, V g, V b, V most, 
     const auto lead = hn::IfThenElse(isRed, hn::Sub(g, b), hn::IfThenElse(isGreen, hn::Sub(b, r), hn::Sub(r, g)));
     const auto base = hn::IfThenZeroElse(isRed, hn::IfThenElse(isGreen, hn::Set(d32, 2), hn::Set(d32, 4)));
     const auto wide = hn::ConvertTo(df, hn::Max(range, hn::Set(d32, 1)));
-    // a grey has no lead, and red comes first
+    // grey has no leading channel; red takes precedence
     return hn::Add(hn::Div(hn::ConvertTo(df, lead), wide), hn::ConvertTo(df, base));
 }
 
-/// The pixels of bytes, those under the mask by pixel(lane) instead: for the few whose vector arithmetic is in doubt.
+/// The pixels of bytes, with those under the mask replaced by pixel(lane): for the few whose vector result is
+/// uncertain.
 template <class D8, class Mask, class Function>
 HWY_INLINE hn::Vec<D8> redone(D8 d8, hn::Vec<D8> bytes, Mask mask, Function pixel)
 {

@@ -32,7 +32,7 @@ void add(const SpanOf& s, std::uint32_t plus, std::uint32_t minus)
     });
 }
 
-/// Sixteen look-ups of sixteen entries by the low half of a byte; its high half then chooses among them bit by bit.
+/// Sixteen look-ups in sixteen entries by the low half of a byte; its high half then selects among them bit by bit.
 void table(const SpanOf& s, const std::uint8_t* entries)
 {
     forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
@@ -66,7 +66,7 @@ void threshold(const SpanOf& s, int bound)
     });
 }
 
-/// floor((sum + 500) / 1000) for sums of 0..255000: an eighth of it over 125, exact in 16 bits.
+/// floor((sum + 500) / 1000) for sums of 0..255000: an eighth of it divided by 125, exact in 16 bits.
 template <class D32, class V> HWY_INLINE V thousandths(D32 d32, V sum)
 {
     const hn::Repartition<std::uint16_t, D32> d16;
@@ -75,7 +75,8 @@ template <class D32, class V> HWY_INLINE V thousandths(D32 d32, V sum)
     return hn::BitCast(d32, hn::ShiftRight<6>(high));
 }
 
-/// round(value(pixel)) in the bytes that keep leaves open; weights are value's. Exact halves are redone in double.
+/// round(value(pixel)) in the bytes that keep doesn't cover; weights are those of value. Exact halves are redone in
+/// double.
 template <class Value> HWY_INLINE void greyBy(const SpanOf& s, std::uint32_t keep, const Weights& weights, Value value)
 {
     forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
@@ -104,7 +105,7 @@ void grey(const SpanOf& s, std::uint32_t keep)
 
 void brightness(const Pixel* from, int n, Pixel* out)
 {
-    // in runs too short to be written past the cache, since they are read at once
+    // in runs too short for non-temporal stores, since they are read at once
     for (int x = 0; x < n; x += kStreamFrom / 2)
         greyBy({from, 0, out, x, std::min(n, x + kStreamFrom / 2)}, kFourthByte, kBrightnessWeights,
                [](const Pixel& p) { return brightnessOf(p); });

@@ -5,18 +5,18 @@
 
 namespace velara {
 
-/// Byte c of the result is byte `from` (bits 8c..8c+7, 0 to 3) of the pixel, and keep, xor flip.
+/// Byte c of the result is byte `from` (bits 8c..8c+7, 0 to 3) of the pixel, AND keep, XOR flip.
 struct ChannelMap {
     std::uint32_t from, keep, flip;
 };
 constexpr std::uint32_t kChannelsInPlace = 0x03020100, kFourthByte = 0xFF000000;
 
-/// The grey of this system: green counts most. In doubles, in this order.
+/// The grey of this system: green counts most. Computed in doubles, in this order.
 inline double greyOf(const Pixel& p) { return 0.707 * p.c[1] + 0.071 * p.c[0] + 0.222 * p.c[2]; }
-/// The brightness whose median Equalize looks for.
+/// The brightness whose median Equalize uses.
 inline double brightnessOf(const Pixel& p) { return 0.586 * p.c[1] + 0.113 * p.c[0] + 0.301 * p.c[2]; }
 
-/// Thousandths by channel; they add up to 1000.
+/// Thousandths by channel; their sum is 1000.
 struct Weights {
     int c0, c1, c2;
 };
@@ -26,26 +26,26 @@ constexpr std::uint16_t kGreyInDoubt = 256;
 
 struct ColourKernels {
     void (*channels)(const SpanOf&, const ChannelMap&);
-    /// Adds plus, then takes minus away, bytes that saturate.
+    /// Adds plus, then subtracts minus, with saturation, byte by byte.
     void (*add)(const SpanOf&, std::uint32_t plus, std::uint32_t minus);
     /// table[c] of each of the three channels, 256 bytes.
     void (*table)(const SpanOf&, const std::uint8_t* table);
     /// Black where c0+c1+c2 <= bound, white elsewhere.
     void (*threshold)(const SpanOf&, int bound);
-    /// round(greyOf) in the bytes that keep leaves open.
+    /// round(greyOf) in the bytes that keep doesn't cover.
     void (*grey)(const SpanOf&, std::uint32_t keep);
     /// table[c0+c1+c2], 766 colours with a fourth byte of 0.
     void (*bySum)(const SpanOf&, const std::uint32_t* table);
     /// clamp(c + round((c - grey)*k)) or, roundsSum, clamp(round(c + (c - grey)*k)); grey = (c0+c1+c2) \ 3.
     void (*saturate)(const SpanOf&, float k, bool roundsSum);
-    /// The grey greys[sum] of the grey weights' sum in thousandths, 0..255000; where that is kGreyInDoubt, redo(pixel).
-    /// One entry more is read.
+    /// The grey greys[sum] of the weighted sum in thousandths, 0..255000; where that is kGreyInDoubt, redo(pixel). One
+    /// more entry is read.
     void (*byGreySum)(const SpanOf&, const std::uint16_t* greys, const std::function<std::uint8_t(const Pixel&)>& redo);
     /// round(brightnessOf) of n pixels, in the three channels of out.
     void (*brightness)(const Pixel* from, int n, Pixel* out);
     /// The sum of (c0+c1+c2) \ 3 over n pixels; n < 2^21.
     std::uint32_t (*sumOfThirds)(const Pixel* from, int n);
-    /// n pixels, written past the cache.
+    /// Copies n pixels by non-temporal stores.
     void (*copyPast)(const Pixel* from, Pixel* to, int n);
 };
 const ColourKernels& colourKernels();

@@ -10,7 +10,7 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-/// d2 of each pixel. The squares fill 16 bits.
+/// d2 of each pixel. The squares need all of 16 bits.
 template <class D, class V = hn::Vec<D>> HWY_INLINE V distance(D d32, V pixels, std::uint32_t reference)
 {
     const hn::Repartition<std::uint16_t, D> d16;
@@ -46,8 +46,7 @@ void isolate(const SpanOf& s, const Near& near, std::uint32_t fill)
     });
 }
 
-/// Whether the hue and saturation are within reach: lanes that are, and lanes nearer to the border than the singles
-/// here are to the definition.
+/// Whether hue and saturation are within reach, and the lanes too close to the border for single precision to decide.
 template <class M> struct Reach {
     M within, inDoubt;
 };
@@ -72,8 +71,8 @@ template <class D, class V = hn::Vec<D>> HWY_INLINE auto reachOf(D d32, V pixels
 
 void blend(const SpanOf& s, const Blend& b)
 {
-    // The singles are off by less than 6.2e-5: k by 1.5e-7, times 255, a rounding of the product and of the sum by
-    // 2^-17 each, and k as a single. What is nearer than 1e-4 to a half is redone.
+    // Singles are off by less than 6.2e-5: k by 1.5e-7, times 255, a rounding of the product and of the sum by 2^-17
+    // each, and k as a single. Results within 1e-4 of a half are redone.
     constexpr float kInDoubt = 0.4999f;
     const float perDistance = 1.0f / static_cast<float>(b.range);
     forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {

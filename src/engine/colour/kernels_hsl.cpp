@@ -11,16 +11,16 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-/// A channel of the result: the rounded value, and what is known of it. Masks are lanes of all ones.
+/// A channel of the result: the rounded value, and its properties. Masks are lanes of all ones.
 template <class V> struct Part {
     V rounded, isHigh, isLow, inDoubt;
 };
 
 void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
 {
-    // Over the bytes instead of their singles, and without the detour over S: the difference stays below a thousandth,
-    // and what is nearer than two to a half is looked up or redone. A hue nearer than kSeam to a corner of the circle
-    // counts as neither end.
+    // Computed from the bytes, not from their singles, and without going through S: the difference is below a
+    // thousandth, and values within two thousandths of a half are looked up or redone. A hue within kSeam of a corner
+    // of the circle counts as neither end.
     constexpr float kInDoubt = 0.498f, kSeam = 1e-3f;
     forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
         const hn::Repartition<std::int32_t, decltype(d)> d32;

@@ -1,4 +1,4 @@
-// Point filters by table: the spans in blocks, and the three channels through one table.
+// Point filters by table: spans in blocks, and one table for all three channels.
 #pragma once
 #include "engine/colour/kernels_colour.h"
 #include "pixels/Bits.h"
@@ -10,11 +10,11 @@ namespace velara {
 
 using ByteTable = std::array<std::uint8_t, 256>;
 
-/// Calls body(from, to, n) for blocks of the columns x0..x1-1. The blocks of a long span are staged, so that they are
-/// written past the cache as whole lines.
+/// Calls body(from, to, n) for blocks of the columns x0..x1-1. Blocks of a long span are staged in a buffer and written
+/// as whole cache lines by non-temporal stores.
 template <class Body> void inBlocks(const Pixel* from, Pixel* to, int x0, int x1, Body body)
 {
-    constexpr int kBlock = 1024; // as many as are written past the cache
+    constexpr int kBlock = 1024; // the span length from which non-temporal stores are used
     constexpr std::uintptr_t kCacheLine = 64;
     Pixel staged[kBlock];
     if (x1 - x0 >= 2 * kBlock) {
@@ -30,17 +30,17 @@ template <class Body> void inBlocks(const Pixel* from, Pixel* to, int x0, int x1
     if (x1 > x0) body(from + x0, to + x0, x1 - x0);
 }
 
-/// A pixel's four bytes as one word, and back: assembled in a register, a pixel is one store.
+/// A pixel's four bytes as one word, and back: assembled in a register, a pixel needs a single store.
 inline std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
 inline Pixel pixelFrom(std::uint32_t word) { return std::bit_cast<Pixel>(word); }
 
-/// One grey, with the fourth byte of p.
+/// A grey, with the fourth byte of p.
 inline Pixel greyPixel(std::uint8_t grey, const Pixel& p)
 {
     return pixelFrom(grey * 0x00010101u | (wordOf(p) & kFourthByte));
 }
 
-/// The three channels through one table.
+/// All three channels through one table.
 class ThroughTable {
   public:
     explicit ThroughTable(const ByteTable& table) : table_(table) {}

@@ -9,11 +9,11 @@ struct PaletteColor {
     std::int32_t red, green, blue;
 };
 
-/// The palette of the colour window. Empty until something fills it.
+/// The palette of the colour window. Empty until it is filled.
 std::vector<PaletteColor>& PaletteColors();
 
-/// The entry nearest to the colour by the sum of the absolute differences; ties keep the earlier entry, and nothing
-/// beats entry 0 but what is nearer than 765. OutOfRange when the palette is empty.
+/// The entry nearest to the colour by the sum of absolute differences, ties to the first. Distances of 765 or more
+/// never replace entry 0. OutOfRange when the palette is empty.
 PaletteColor NearestColor(std::int32_t red, std::int32_t green, std::int32_t blue);
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// The calling pattern of the warps whose columns and rows move by themselves: row by row, written past the cache.
+// The calling pattern of the warps whose columns and rows move independently: row by row, with non-temporal stores.
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
 

@@ -1,4 +1,4 @@
-// The deformations whose rows and columns move along straight lines.
+// The deformations that move rows and columns along straight lines.
 #include "engine/deform/passes_warp.h"
 #include "pixels/numbers.h"
 
@@ -71,7 +71,7 @@ Bits cBitFilter::STRETCH(int Horizontal, int Vertical, bool Clean)
 Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
 {
     const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
-    // How much an axis is scaled at a place on the other one.
+    // The scale of an axis at a position on the other one.
     const auto scale = [](int d, int percent, int maximum) { return quotient(d / 100.0 * percent, maximum) + 1; };
     std::vector<double> columns;
     const Box box = insidePicture(GetBounds(0), bits_);
@@ -79,7 +79,7 @@ Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
     const bool isSafe = std::max(std::abs(double(Horizontal)), std::abs(double(Vertical))) < 1e4;
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
         const double row = scale(y - cy, Vertical, maxY);
-        if (isSafe) { // neither scale can lead out of 32 bits
+        if (isSafe) { // neither scale can exceed 32 bits
             lineOfPlaces(x0 - cx, row, 0, cx, n, sx);
             productsToPlaces(columns.data() + x0, y - cy, cy, n, sy);
             return;
@@ -105,7 +105,7 @@ Bits cBitFilter::WAVES(int Frequency, int Amplitude, int StartDegree)
 Bits cBitFilter::TILE(int Factor)
 {
     const Bits in = bits_;
-    // Tiles overlap, and the later one lies on top: each pixel belongs to the last tile that begins at or before it.
+    // Tiles overlap, later ones on top: each pixel belongs to the last tile that begins at or before it.
     struct Axis {
         int step;
         float ratio;

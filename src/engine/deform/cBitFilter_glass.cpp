@@ -1,4 +1,4 @@
-// The glass deformations: sources displaced by sine, cosine and tangent of the pixel's number or position in radians.
+// The glass deformations: sources displaced by sine, cosine and tangent of the pixel's index or position in radians.
 #include "engine/deform/passes_warp.h"
 #include "pixels/numbers.h"
 
@@ -6,10 +6,10 @@ namespace velara {
 
 namespace {
 
-/// The sources that depend on more than their own coordinate.
+/// The sources that depend on more than one coordinate.
 enum class Mixed { None, NumberX, NumberY, RowX, ProductX, SumY };
 
-/// Where the sources of a column and of a row lie, as a function of x or y; null leaves them where they are.
+/// The sources of a column and of a row as a function of x or y; null leaves them in place.
 struct GlassRow {
     std::string_view style;
     int mode;
@@ -44,7 +44,7 @@ constexpr GlassRow kGlass[] = {
 constexpr int kWeightX = 3, kWeightY = 10; // of the sine of the pixel's number
 // clang-format on
 
-/// The sources of first..last along one axis, and 0 before.
+/// The sources of first..last along one axis; 0 for positions before first.
 std::vector<std::int32_t> sources(int first, int last, double (*function)(double))
 {
     std::vector<std::int32_t> table(static_cast<std::size_t>(std::max(last + 1, 0)));
@@ -52,7 +52,7 @@ std::vector<std::int32_t> sources(int first, int last, double (*function)(double
     return table;
 }
 
-/// Moves places by the waves of the n pixel numbers from number on.
+/// Displaces the positions by the waves of n pixel indices, beginning with number.
 void addWaves(const WaveTables& waves, double number, int weight, int n, std::int32_t* places)
 {
     std::int32_t offsets[kPlaces];
@@ -69,7 +69,7 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     const Box box = GetBounds(0), inside = insidePicture(box, bits_);
     const auto glass = std::find_if(std::begin(kGlass), std::end(kGlass),
                                     [&](const GlassRow& r) { return r.style == Style && r.mode == Mode; });
-    if (glass == std::end(kGlass)) // then the source stays where it began, at (0, 0)
+    if (glass == std::end(kGlass)) // then every source is (0, 0)
         return eachSource(false, [](int, int, int n, std::int32_t* sx, std::int32_t* sy) {
             std::fill_n(sx, n, 0);
             std::fill_n(sy, n, 0);

@@ -1,5 +1,5 @@
-// A picture turned in the middle of a black square. The square may have a hundred times the pixels of the picture, so
-// it is never made: its pixels are the picture's, and black elsewhere.
+// Rotates a picture centred in a black square. The square may have a hundred times the picture's pixels, so it is never
+// made: its pixels are the picture's, and black elsewhere.
 #include "engine/deform/passes_warp.h"
 
 namespace velara {
@@ -15,18 +15,18 @@ class Square {
           left_((side - picture.width()) / 2), top_((side - picture.height()) / 2), turn_(side - 1, side - 1, degrees)
     {
     }
-    /// The n targets from (x0, y) of the square by the nearest pixel. What comes from outside of the square stays.
+    /// The n targets from (x0, y) of the square, nearest pixel. Targets whose source is outside of the square are kept.
     void takeNearest(int x0, int y, int n, Pixel* to) const
     {
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         turn_.nearest(x0, y, n, sx, sy);
-        const bool leaves = !holds(sx[0], sy[0]) || !holds(sx[n - 1], sy[n - 1]); // sources of a run lie on a line
+        const bool leaves = !holds(sx[0], sy[0]) || !holds(sx[n - 1], sy[n - 1]); // sources of a run are collinear
         moveToPicture(sx, sy, n);
         source_.take(sx, sy, n, kBlack, true, to);
         for (int i = 0; leaves && i < n; ++i)
             if (!holds(sx[i] + left_, sy[i] + top_)) to[i] = at(x0 + i - left_, y - top_);
     }
-    /// The same blended. What comes from outside of the square is black.
+    /// The same, bilinear. Sources outside of the square are black.
     void takeBlended(int x0, int y, int n, Pixel* to) const
     {
         std::int32_t ix[kPlaces], iy[kPlaces];
@@ -40,7 +40,7 @@ class Square {
         eachPlace(blendPixels(picture_, ix, iy, fx, fy, n, nullptr, to), n,
                   [&](int i) { blend(ix[i], iy[i], fx[i], fy[i], to[i]); });
         if (x1 >= 0 && y1 >= 0 && x2 < picture_.maxX() && y2 < picture_.maxY()) return;
-        for (int i = 0; i < n; ++i) // at the picture's edge its black surroundings count, and not its margin
+        for (int i = 0; i < n; ++i) // the picture's edge blends with its black surroundings, not with its margin
             if (isEdge(ix[i], picture_.maxX()) || isEdge(iy[i], picture_.maxY()))
                 blend(ix[i], iy[i], fx[i], fy[i], to[i]);
     }
@@ -55,7 +55,7 @@ class Square {
             y[i] -= top_;
         }
     }
-    /// The square's pixel at a place of the picture.
+    /// The square's pixel at a position relative to the picture.
     Pixel at(int x, int y) const
     {
         const bool isInside = x >= 0 && y >= 0 && x < picture_.width() && y < picture_.height();

@@ -8,7 +8,7 @@ namespace velara {
 
 namespace {
 
-/// The distance from the centre to the corner that is farthest from it.
+/// The distance from the centre to the farthest corner.
 double longestRadius(const Bits& bits) { return std::hypot(bits.width() / 2 + 1, bits.height() / 2 + 1); }
 
 double radiusOf(int dx, int dy) { return std::sqrt(static_cast<double>(dx) * dx + static_cast<double>(dy) * dy); }
@@ -20,7 +20,7 @@ Bits cBitFilter::BEND(int RadiusFactor, bool Clean)
     const int maxX = bits_.maxX(), maxY = bits_.maxY(), cx = maxX / 2, cy = maxY / 2;
     const float k = static_cast<float>(RadiusFactor / 100.0 + 2);
     const double longest = std::abs(k) * longestRadius(bits_);
-    // The steps of singles: four of an angle of two pi at most, four of a radius.
+    // The rounding steps of singles: four of an angle of up to two pi, four of a radius.
     const Bend bend{cx,
                     cy,
                     maxX,
@@ -55,7 +55,7 @@ Bits cBitFilter::TWIRL(int Level, int OffsetDegrees, bool Clean)
         turns.push_back(static_cast<float>(std::cos(offset - r * static_cast<double>(k))));
         turns.push_back(static_cast<float>(std::sin(offset - r * static_cast<double>(k))));
     }
-    // The steps of singles: that of the angle, and about nine of values near 1.
+    // The rounding steps of singles: that of the angle, and about nine of values near 1.
     const Twirl twirl{cx, cy, turns.data(), static_cast<float>(8.5e-7 + 6.5e-8 * widest)};
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
         const int dy = y - cy;

@@ -19,7 +19,7 @@ using Words = hn::ScalableTag<std::int32_t>;
 using Doubles = hn::ScalableTag<double>;
 using HalfWords = hn::Rebind<std::int32_t, Doubles>; // as many words as there are doubles
 
-/// Where v lies nearer than tolerance to a half, so that rounding might go either way.
+/// Where v is within tolerance of a half, so that rounding might go either way.
 template <class V> auto nearHalf(V v, V rounded, V half, V tolerance)
 {
     return hn::Gt(hn::Abs(hn::Sub(v, rounded)), hn::Sub(half, tolerance));
@@ -87,7 +87,7 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
         hn::Store(radius, d, radii + i);
         hn::Store(hn::NearestInt(radius), words, wholes + i);
     }
-    // All before the first use: a vector cannot be had from stores that are still under way.
+    // All stores before the first use: a vector load can't be forwarded from several pending stores.
     const int whole = (n + lanes - 1) / lanes * lanes;
     for (int i = 0; i < whole; ++i) std::memcpy(turns + 2 * i, twirl.turns + 2 * wholes[i], 2 * sizeof(float));
     std::uint64_t doubtful = 0;
@@ -115,7 +115,7 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
 /// atan of 0..1, within 2e-7.
 template <class D, class V> V arcTangent(D d, V v)
 {
-    // atan(v) = pi/8 + atan((v - t) / (1 + t v)) with t = tan(pi/8): the argument of the series stays within 0.4143.
+    // atan(v) = pi/8 + atan((v - t) / (1 + t v)) with t = tan(pi/8): the argument of the series stays below 0.4143.
     const auto t = hn::Set(d, 0.41421356f);
     const auto a = hn::Div(hn::Sub(v, t), hn::MulAdd(t, v, hn::Set(d, 1.0f)));
     const auto a2 = hn::Mul(a, a);
@@ -196,13 +196,13 @@ bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, st
     const auto fits = hn::Set(d, 2147483647.0);
     auto safe = hn::Le(hn::Abs(pulledY), fits);
     for (int i = 0; i < n; i += lanes) {
-        // The last vector repeats the last pixel, as its neighbours may lie outside of the disc.
+        // The last vector repeats the last pixel, as positions beyond it may lie outside of the disc.
         const auto at = hn::Min(hn::Add(hn::Iota(d, 0.0), hn::Set(d, static_cast<double>(x0 + i))),
                                 hn::Set(d, static_cast<double>(x0 + n - 1)));
         const auto ox = hn::Sub(at, cx);
         const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));
         const auto pulledX = hn::Round(hn::Mul(depth, ox));
-        // The quotient of whole numbers of 32 bits in double never rounds up to a whole number.
+        // A quotient of 32-bit integers in double never rounds up to an integer.
         const auto fromX = hn::Add(hn::Trunc(hn::Div(pulledX, z)), cx);
         const auto fromY = hn::Add(hn::Trunc(hn::Div(pulledY, z)), cy);
         safe = hn::And(safe, hn::And(hn::Ge(z, hn::Set(d, 1.0)), hn::Le(hn::Abs(pulledX), fits)));

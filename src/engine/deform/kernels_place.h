@@ -1,13 +1,12 @@
-// Vector kernels that work out source positions. Results are those of the plain double arithmetic in the comments,
-// bit for bit; kernels that approximate return the lanes that lie too near to a rounding boundary, to be worked out
-// again.
+// Vector kernels that compute source positions. Results equal those of the plain double arithmetic in the comments, bit
+// for bit; kernels that approximate return the lanes too close to a rounding boundary, which the caller recomputes.
 #pragma once
 #include "region/Region.h"
 #include <cstdint>
 
 namespace velara {
 
-/// Positions are worked out for at most this many targets of a row at a time, into arrays of whole vectors.
+/// Positions are computed for at most this many targets of a row at a time, into arrays padded to whole vectors.
 constexpr int kPlaces = 64;
 
 /// round((d + i) * factor + shift + centre) for i = 0..n-1. All results must fit in 32 bits.
@@ -16,41 +15,41 @@ void lineOfPlaces(double d, double factor, double shift, double centre, int n, s
 /// round(factors[i] * d + centre) for i = 0..n-1. All results must fit in 32 bits.
 void productsToPlaces(const double* factors, double d, double centre, int n, std::int32_t* places);
 
-/// The same, split: places is the floor, beyond the rest in single.
+/// The same, split: places is the floor, beyond the fraction in single.
 void lineOfSplitPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places,
                        float* beyond);
 
-/// A twirl: by whole radius the cosine and then the sine of the angle that it adds.
+/// A twirl: for each integer radius the cosine and then the sine of the added angle.
 struct Twirl {
     int cx, cy;
     const float* turns;
-    float tolerance; // of the result, by pixel of the radius
+    float tolerance; // of the result, per pixel of the radius
 };
 
-/// Each (dx, dy) set on its rounded radius and turned, for the n targets from (x0, y). Returns a bit for each target
-/// that is to be worked out again.
+/// Moves each (dx, dy) to its rounded radius and rotates it, for the n targets from (x0, y). Returns a bit for each
+/// target to be recomputed.
 std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
 
-/// A bend: k is pixels of height by pixel of radius.
+/// A bend: k is pixels of height per pixel of radius.
 struct Bend {
     int cx, cy, maxX, maxY;
     float k;
     float toleranceX, toleranceY;
 };
 
-/// The angle as a part of the width and the radius counted from the bottom, for the n targets from (x0, y). Returns a
-/// bit for each target that is to be worked out again.
+/// The angle as a fraction of the width and the radius measured from the bottom, for the n targets from (x0, y).
+/// Returns a bit for each target to be recomputed.
 std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
 
-/// A lens: sources are depth times the distance from the centre, over the height of the sphere of radius.
+/// A lens: sources are depth times the distance from the centre, divided by the height of the sphere of radius.
 struct Lens {
     std::int32_t cx, cy;
     double radius, depth;
-    Rect within; // what can be read
+    Rect within; // the readable pixels
 };
 
 /// round(depth * ox) \ z and round(depth * oy) \ z from the centre, z = round(sqrt(radius^2 - ox^2 - oy^2)), for the n
-/// targets from (x0, y), all within the sphere. False when one is to raise a fault: then nothing is said of any.
+/// targets from (x0, y), all within the sphere. False when one of them faults: the results are undefined then.
 bool lensPlaces(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
 
 /// Sines and cosines of 0, 1, 2, ... radians.
@@ -59,8 +58,7 @@ struct WaveTables {
     WaveTables();
 };
 
-/// round(-weight * sin(number + i)) for i = 0..n-1, by the sum of angles. Returns a bit for each that is to be worked
-/// out again.
+/// round(-weight * sin(number + i)) for i = 0..n-1, by the addition theorem. Returns a bit for each to be recomputed.
 std::uint64_t waveOffsets(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets);
 
 } // namespace velara

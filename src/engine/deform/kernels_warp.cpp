@@ -46,8 +46,8 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// The words at the n indices, a multiple of two, in pairs: half as many stores, and no gather instruction, which takes
-/// longer than scalar loads on the machines measured.
+/// The words at the n indices (n even), in pairs: half as many stores, and no gather instruction, which is slower than
+/// scalar loads on the machines measured.
 HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
 {
     for (int i = 0; i < n; i += 2) {
@@ -80,7 +80,8 @@ template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pix
     }
 }
 
-/// The words at places that may lie outside of the selection: those read the pixel (left, top), and inside tells them.
+/// The words at positions that may be outside of the selection: those read the pixel (left, top), and inside marks
+/// them.
 HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n,
                                std::int32_t* found, std::int32_t* inside)
 {
@@ -105,7 +106,7 @@ HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const
         for (int i = 0; i < n; ++i) inside[i] &= job.mask->at(xs[i], ys[i]);
 }
 
-/// Whole runs are told apart by the box around their sources: selected, not selected, or to be asked one by one.
+/// Classifies whole runs by the bounding box of their sources: selected, not selected, or to be tested one by one.
 void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
 {
     using Holds = SourceMask::Holds;
@@ -135,7 +136,7 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         if (within != Holds::All) holds = within;
     }
     const auto whole = (n + lanes - 1) / lanes * lanes;
-    if (n == kPlaces) { // what the run to the right is about to read and write, were its sources on the same line
+    if (n == kPlaces) { // prefetches what the run to the right will read and write, assuming its sources are collinear
         const std::ptrdiff_t onward = std::ptrdiff_t(indices[n - 1]) - indices[0];
         for (int i = 0; i < kPlaces; i += kLinePixels) {
             __builtin_prefetch(kept + kPlaces + i);
@@ -202,7 +203,7 @@ void takeRowMirroredImpl(const SpanOf& s, const Pixel* source, int last)
     });
 }
 
-/// Blends of three channels of four pixels each; see blendPixels.
+/// Bilinear blends of three channels of four pixels each; see blendPixels.
 std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
                        const float* fy, int n, const Pixel* kept, Pixel* to)
 {
@@ -252,7 +253,7 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
     return doubtful;
 }
 
-/// Four by four pixels: from and to are to the first one, in pixels from row to row; the target's rows run upward.
+/// Four by four pixels: from and to point to the first one, strides in pixels; the target's rows run upward.
 void turnFours(const TurnJob& job, int columns, int rows)
 {
     const hn::FixedTag<std::uint32_t, 4> d;
@@ -309,7 +310,7 @@ SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int he
                 counts[x >> kCellBits] += std::min(x1, (x | (kCell - 1)) + 1) - x;
         }
     }
-    for (std::size_t i = columns_; i < sums_.size(); ++i) // the first column stays 0, as nothing is to its left
+    for (std::size_t i = columns_; i < sums_.size(); ++i) // the first column stays 0: nothing is to its left
         if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
 }
 

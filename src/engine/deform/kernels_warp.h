@@ -8,7 +8,7 @@
 
 namespace velara {
 
-/// Which pixels of a region lie inside a picture: a bit each, and sums that tell it of a box of them at once.
+/// The pixels of a region inside a picture: a bit each, and sums that classify a box of them at once.
 class SourceMask {
   public:
     enum class Holds { None, Some, All };
@@ -17,7 +17,7 @@ class SourceMask {
     /// rect is the part of the region's bounds inside a picture that is width by height.
     SourceMask(const Region& region, const Rect& rect, int width, int height);
 
-    /// Whether the box, which lies inside the picture, may hold selected pixels and others; Some when not sure.
+    /// Whether the pixels of the box, which lies inside the picture, are selected; Some when unsure.
     Holds holds(int left, int top, int right, int bottom) const; // both ends inclusive
 
     /// -1 for a selected pixel, 0 for another.
@@ -33,20 +33,20 @@ class SourceMask {
     std::size_t words_ = 0, columns_ = 0;
     int width_ = 0, height_ = 0;
     std::vector<std::uint32_t> bits_;
-    std::vector<std::int32_t> sums_; // selected pixels in the cells above and to the left of a cell's corner
+    std::vector<std::int32_t> sums_; // counts of selected pixels in the cells above and to the left of a cell's corner
 };
 
-/// The selected pixels of a picture, to be read in any order by position.
+/// The selected pixels of a picture, readable in any order by position.
 class SourcePixels {
   public:
     /// Region pixels outside of the picture count as not selected.
     SourcePixels(const Bits& bits, const Region& region);
 
-    /// The n <= kPlaces pixels at (sx, sy) where those are selected; elsewhere black with clean, and kept without. The
-    /// fourth byte is always that of kept. The arrays are filled up to whole vectors.
+    /// The n <= kPlaces pixels at (sx, sy) where those are selected; elsewhere black if clean, else kept. The fourth
+    /// byte is always that of kept. The arrays are padded in place to whole vectors.
     void take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const;
 
-    /// The selection inside the picture is all of rect().
+    /// The selection inside the picture is exactly rect().
     bool isRectangle() const { return !marked_; }
     const Rect& rect() const { return rect_; }
 
@@ -57,31 +57,32 @@ class SourcePixels {
     SourceMask mask_; // with marked_
 };
 
-/// The n <= kPlaces pixels at (sx, sy), which lie in the picture or its margin, with the fourth bytes of kept. The
-/// arrays are filled up to whole vectors.
+/// The n <= kPlaces pixels at (sx, sy), inside the picture or its margin, with the fourth bytes of kept. The arrays are
+/// padded in place to whole vectors.
 void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to);
 
-/// For x0..x1-1 the pixels of source at columns[x] where inside[x] is -1, black or kept (clean, or not) where it is 0.
-/// The span's from gives what is kept and the fourth bytes.
+/// For x0..x1-1 the pixels of source at columns[x] where inside[x] is -1; where it is 0, black if clean, else kept. The
+/// span's from holds the kept pixels and the fourth bytes.
 void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
                  bool clean);
 
 /// For x0..x1-1 the colour of source[x] with the span's fourth bytes.
 void takeRow(const SpanOf& span, const Pixel* source);
 
-/// The same from right to left: x takes the colour of source[last - x].
+/// The same mirrored: x takes the colour of source[last - x].
 void takeRowMirrored(const SpanOf& span, const Pixel* source, int last);
 
-/// The n <= 64 targets of a bilinear warp: columns are blended first and rounded. ix, iy and fx, fy are the floor of a
-/// position and what lies beyond. The fourth byte is that of kept, or 0 where kept is null. Positions outside of the
-/// picture give black. Returns a bit for each target that is to be worked out again.
+/// The n <= 64 targets of a bilinear warp: blended along columns first, and rounded. ix, iy and fx, fy are the floor
+/// and the fraction of a position. The fourth byte is that of kept, or 0 when kept is null. Positions outside of the
+/// picture give black. Returns a bit for each target to be recomputed.
 std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
                           const float* fy, int n, const Pixel* kept, Pixel* to);
 
-/// The same blend of one target, exactly; the fourth byte stays.
+/// The same blend of one target, exactly; the fourth byte is kept.
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to);
 
-/// The columns x0..x1-1 and rows y0..y1-1 of in, a quarter turned: (x, y) goes to (y, maxX-x) with a fourth byte of 0.
+/// The columns x0..x1-1 and rows y0..y1-1 of in, rotated a quarter turn: (x, y) goes to (y, maxX-x) with a fourth byte
+/// of 0.
 void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1);
 
 } // namespace velara

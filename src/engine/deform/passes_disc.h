@@ -5,7 +5,7 @@
 
 namespace velara {
 
-/// A disc in pixels, of a centre given in parts of the picture's size and a radius in parts of its longer side.
+/// A disc in pixels, from a centre in fractions of the picture's size and a radius in fractions of its longer side.
 struct Disc {
     std::int32_t x, y, radius;
 
@@ -17,8 +17,8 @@ struct Disc {
     }
 };
 
-/// The selected pixels inside the picture whose squared distance from the disc's centre is below limit, in the square
-/// of the disc's radius. kernel(source row, target row, x0, x1, y) as in eachSpan. A radius of 0 or less changes
+/// The selected pixels inside the picture whose squared distance from the disc's centre is below limit, within the
+/// square of the disc's radius. kernel(source row, target row, x0, x1, y) as in eachSpan. A radius of 0 or less changes
 /// nothing.
 template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double limit, Kernel&& kernel)
 {
@@ -31,9 +31,9 @@ template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double lim
     if (R > 0)
         for (int y = ymin; y <= ymax; ++y) {
             const double oy = static_cast<double>(y) - disc.y;
-            const double room = limit - oy * oy; // for the square across
+            const double room = limit - oy * oy; // the limit of ox * ox
             if (room > 0) {
-                // The widest |ox| whose square is below room.
+                // The largest |ox| whose square is below room.
                 double reach = std::min(std::ceil(std::sqrt(room)), static_cast<double>(R));
                 while (reach >= 0 && !(reach * reach + oy * oy < limit)) --reach;
                 const auto xmin = std::max<std::int64_t>(disc.x - static_cast<std::int64_t>(reach), 0);

@@ -12,7 +12,7 @@ namespace velara {
 /// The three channels of colour with the fourth byte of kept.
 inline Pixel withColour(Pixel colour, Pixel kept)
 {
-    constexpr std::uint32_t kColour = 0xFFFFFF; // as one word, which the compiler turns into vectors
+    constexpr std::uint32_t kColour = 0xFFFFFF; // as one word, so that the compiler vectorises it
     const auto word = std::bit_cast<std::uint32_t>(colour) & kColour;
     return std::bit_cast<Pixel>(word | (std::bit_cast<std::uint32_t>(kept) & ~kColour));
 }
@@ -26,13 +26,13 @@ template <class Place> void eachPlace(std::uint64_t places, int n, Place&& place
         if (const int i = std::countr_zero(places); i < n) place(i);
 }
 
-/// Cuts x0..x1-1 into runs: run(first, n) with n <= kPlaces.
+/// Splits x0..x1-1 into runs: run(first, n) with n <= kPlaces.
 template <class Run> void eachRun(int x0, int x1, Run&& run)
 {
     for (int x = x0; x < x1; x += kPlaces) run(x, std::min(kPlaces, x1 - x));
 }
 
-/// A turn about the centre of a picture, cosine and sine kept in single.
+/// A rotation about the centre of a picture, cosine and sine rounded to single.
 struct Turn {
     int cx, cy;
     float cs, sn;
@@ -42,14 +42,14 @@ struct Turn {
           sn(static_cast<float>(std::sin(degrees * kDegreesToRadians)))
     {
     }
-    /// The sources of the n <= kPlaces targets from (x0, y), rounded.
+    /// The rounded sources of the n <= kPlaces targets from (x0, y).
     void nearest(int x0, int y, int n, std::int32_t* sx, std::int32_t* sy) const
     {
         const double dx = x0 - cx, dy = y - cy;
         lineOfPlaces(dx, cs, -(dy * sn), cx, n, sx);
         lineOfPlaces(dx, sn, dy * cs, cy, n, sy);
     }
-    /// The same as floor and rest.
+    /// The same as floor and fraction.
     void split(int x0, int y, int n, std::int32_t* ix, std::int32_t* iy, float* fx, float* fy) const
     {
         const double dx = x0 - cx, dy = y - cy;
@@ -58,8 +58,8 @@ struct Turn {
     }
 };
 
-/// A box in tiles of so many rows: tile(x0, x1, y0, y1) for its columns x0..x1-1 and rows y0..y1-1, and rowDone(y) for
-/// each row whose tiles are done.
+/// A box in tiles of the given number of rows: tile(x0, x1, y0, y1) for its columns x0..x1-1 and rows y0..y1-1, and
+/// rowDone(y) for each row whose tiles are done.
 template <class Tile, class RowDone> void inTiles(const Box& box, int rows, Tile&& tile, RowDone&& rowDone)
 {
     for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
@@ -69,8 +69,8 @@ template <class Tile, class RowDone> void inTiles(const Box& box, int rows, Tile
     }
 }
 
-/// The targets of the box inside the picture, in tiles of so many rows. tile(out, x0, x1, y0, y1) writes all four bytes
-/// of each pixel of its columns x0..x1-1 and rows y0..y1-1; what lies outside of the box is copied.
+/// The targets of the box inside the picture, in tiles of the given number of rows. tile(out, x0, x1, y0, y1) writes
+/// all four bytes of each pixel of its columns x0..x1-1 and rows y0..y1-1; pixels outside of the box are copied.
 template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
 {
     const Bits in = bits_;
@@ -93,9 +93,9 @@ template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
     return out;
 }
 
-/// Each target of the box takes the pixel at the source position of map, if the region contains that position; else it
-/// becomes black with Clean and stays without. map(y, x0, n, sx, sy) fills in the sources of the n <= kPlaces targets
-/// from (x0, y). Tiles of one row suit sources that lie near to their targets.
+/// Each target of the box takes the pixel at the source position of map, if the region contains that position;
+/// otherwise it becomes black with Clean and is kept without. map(y, x0, n, sx, sy) computes the sources of the n <=
+/// kPlaces targets from (x0, y). Tiles of one row suit sources close to their targets.
 template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows)
 {
     const Bits in = bits_;

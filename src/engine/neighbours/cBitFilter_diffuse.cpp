@@ -1,4 +1,4 @@
-// Random displacement of the pixels. The region is asked about where a pixel comes from, not about where it goes.
+// Random displacement of pixels. The region is tested at the source, not at the target.
 #include "engine/neighbours/kernels_diffuse.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
@@ -8,7 +8,7 @@ namespace velara {
 
 namespace {
 
-/// The part of the region inside the picture, as bits.
+/// The part of the region inside the picture, as a bit mask.
 PixelMask maskOf(const Region& region, const Bits& bits)
 {
     PixelMask mask{{}, (bits.width() + 31) / 32};
@@ -39,7 +39,7 @@ class WidestSpans {
         }
     }
 
-    /// True when the region covers all of the rectangle that lies in the box. False may be wrong.
+    /// True when the region covers all of the part of the rectangle inside the box. False negatives are possible.
     bool cover(const Box& part) const
     {
         const int x0 = std::max(part.xmin, box_.xmin), x1 = std::min(part.xmax, box_.xmax) + 1;
@@ -55,7 +55,7 @@ class WidestSpans {
     std::vector<Span> rows_;
 };
 
-/// The same by definition, for ranges of any size and what is left of a vector.
+/// The same in plain arithmetic, for ranges of any size and the remainder of a vector.
 void diffuseLiterally(SpanOf s, int y, int horizontal, int vertical, Random random, std::uint32_t first,
                       const Sources& among)
 {
@@ -73,7 +73,7 @@ void diffuseLiterally(SpanOf s, int y, int horizontal, int vertical, Random rand
 
 bool isSmall(int range) { return std::abs(std::int64_t{range}) <= Displacement::kMostRange; }
 
-// The sources of a pixel are many rows apart: blocks of pixels this large keep them in the nearest cache.
+// The sources of a pixel are many rows apart: blocks of this size keep them in the first-level cache.
 constexpr int kBlockRows = 64, kBlockColumns = 128;
 
 } // namespace

@@ -7,7 +7,7 @@ namespace velara {
 
 bool MaskSum::isSmall() const
 {
-    constexpr std::int64_t kExactSums = 4'000'000, kMostAdded = 1 << 30; // below 2^22; a sum of both stays in 32 bits
+    constexpr std::int64_t kExactSums = 4'000'000, kMostAdded = 1 << 30; // below 2^22; a sum of both fits into 32 bits
     std::int64_t weight = 0;
     for (const MaskTap& tap : taps) {
         if (std::abs(std::int64_t{tap.factor}) > 32767) return false;
@@ -29,13 +29,13 @@ Pixel MaskSum::at(const Pixel* p) const
 
 namespace {
 
-/// The mask's window about a pixel, in pixels: `before` to the left of it and above, `side` wide and high.
+/// The mask's window around a pixel, in pixels: `before` to the left and above, `side` wide and high.
 struct Window {
     int before, side;
     int after() const { return side - 1 - before; }
 };
 
-/// The columns of the span whose windows lie inside the picture; none where the row's window does not.
+/// The columns of the span whose windows lie inside the picture; empty where the row's window doesn't.
 Span insideOnly(Span s, int y, Window w, const Bits& bits)
 {
     if (y < w.before || y + w.after() > bits.maxY()) return {s.x0, s.x0};
@@ -49,7 +49,7 @@ bool reachesOut(Span s, int y, Window w, const Bits& bits)
            y + w.after() >= bits.height() + Bits::kMargin;
 }
 
-constexpr std::size_t kMostSide = 1 << 12; // keeps 64-bit sums from overflowing; a wider mask fits in no margin
+constexpr std::size_t kMostSide = 1 << 12; // keeps 64-bit sums from overflowing; a wider mask exceeds the margin anyway
 
 } // namespace
 
@@ -71,7 +71,7 @@ Bits cBitFilter::MaskFilter(const std::vector<std::vector<int>>& Mask, double Di
         const Span done = Clip ? insideOnly({x0, x1}, y, window, in) : Span{x0, x1};
         copyPixels(from, to, x0, std::min(done.x0, x1));
         if (done.x0 >= done.x1) return copyPixels(from, to, x0, x1);
-        if (sum.divisor == 0) sum.divisor = roundEven(Divisor); // integer division takes whole numbers
+        if (sum.divisor == 0) sum.divisor = roundEven(Divisor); // integer division needs an integer divisor
         if (sum.divisor == 0) throw RuntimeError(Fault::DivisionByZero);
         if (reachesOut(done, y, window, in)) throw RuntimeError(Fault::OutOfRange);
         int x = done.x0;

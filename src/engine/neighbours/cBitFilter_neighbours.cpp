@@ -33,7 +33,7 @@ Bits cBitFilter::SOFTEN(int Level)
     const std::ptrdiff_t stride = bits_.stride();
     if (divisor == 0) return eachSpan(1, divideByZero);
     if (k >= 0) return eachSpan(1, weighted(Neighbours::Cross, 1, divisor, stride));
-    return eachSpan(1, [=](const Pixel* from, Pixel* to, int x0, int x1) { // a negative centre may leave the byte range
+    return eachSpan(1, [=](const Pixel* from, Pixel* to, int x0, int x1) { // a negative weight may leave the byte range
         for (int x = x0; x < x1; ++x) {
             for (int c = 0; c < 3; ++c) {
                 const auto at = [&](std::ptrdiff_t offset) { return from[x + offset].c[c]; };
@@ -54,7 +54,7 @@ Bits cBitFilter::EDGEENHANCE(int Level)
 
 Bits cBitFilter::Blurs(int Radius)
 {
-    const std::int64_t radius = std::abs(std::int64_t{Radius}); // the ring is the same both ways
+    const std::int64_t radius = std::abs(std::int64_t{Radius}); // the ring is symmetric
     const std::int64_t width = bits_.width(), height = bits_.height();
     return eachSpan(0, [=, stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         if (std::min(x0, y) - radius < -Bits::kMargin || x1 - 1 + radius >= width + Bits::kMargin ||
@@ -66,7 +66,7 @@ Bits cBitFilter::Blurs(int Radius)
 
 Bits cBitFilter::CONTOUR(int Level, Colour Background)
 {
-    const int level = std::clamp(Level, -1, 256); // the mean of three bytes is below all or none beyond these
+    const int level = std::clamp(Level, -1, 256); // beyond these the mean of three bytes is below for all or for none
     return eachSpan(0, [=, stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
         neighbourKernels().contour({from, stride, to, x0, x1}, 3 * level, pixelOf(Background));
     });
@@ -83,17 +83,17 @@ Bits cBitFilter::RELIEF()
 
 namespace {
 
-constexpr int kMostWeight = 50; // of the dialogs; the kernel's integers hold as much
+constexpr int kMostWeight = 50; // of the dialogs; the kernel's integers are large enough for it
 
-/// The rounding of d * w in integers. w is a stored single: where it is a little above or below Weight/10 the ties go
-/// up or down with it, where it is exact they go to the even neighbour.
+/// The rounding of d * w in integers. w is rounded to a single: where it is slightly above or below Weight/10 all ties
+/// go up or down accordingly, where it is exact they go to even.
 Relieved relieved(int sign, int weight)
 {
     const double tenfold = static_cast<float>(weight / 10.0) * 10.0;
     return {sign, weight, tenfold < weight ? 4 : 5, tenfold == weight && weight % 10 == 5};
 }
 
-/// The same by definition, for weights of any size.
+/// The same in plain arithmetic, for weights of any size.
 void embossLiterally(const SpanOf& s, int sign, float w)
 {
     for (int x = s.x0; x < s.x1; ++x) {
@@ -109,7 +109,7 @@ void embossLiterally(const SpanOf& s, int sign, float w)
 
 void copyThree(const Pixel& from, Pixel& to) { std::memcpy(to.c, from.c, 3); }
 
-/// The kernel of both. The last column and row repeat what their neighbour has become.
+/// The kernel of both. The last column and row repeat the results of their neighbours.
 auto embossed(int sign, int weight, const Bits& bits)
 {
     const bool small = weight >= 0 && weight <= kMostWeight;

@@ -1,4 +1,4 @@
-// Filters that take the least or the greatest of a pixel and its neighbours, channel by channel.
+// Filters that take the minimum or maximum of a pixel and its neighbours, channel by channel.
 #include "engine/neighbours/kernels_rank.h"
 #include "engine/passes.h"
 
@@ -14,7 +14,7 @@ auto ranked(bool greatest, RankWindow window, std::ptrdiff_t stride)
     };
 }
 
-/// 1 - mode, kept small enough for the box's arithmetic: no picture is as wide.
+/// 1 - mode, limited for the box's arithmetic: no picture is as wide.
 int marginOf(int mode) { return 1 - std::clamp(mode, -(1 << 20), 1); }
 
 } // namespace
@@ -24,7 +24,7 @@ Bits cBitFilter::ERODE() { return eachSpan(0, ranked(false, RankWindow::Square, 
 
 Bits cBitFilter::rankFilter(int Mode, RankWindow window)
 {
-    if (Mode != 0 && Mode != 1) return eachSpan(marginOf(Mode), blacken); // neither comparison is ever made: 0 stays
+    if (Mode != 0 && Mode != 1) return eachSpan(marginOf(Mode), blacken); // neither comparison is made: all is 0
     return eachSpan(marginOf(Mode), ranked(Mode == 1, window, bits_.stride()));
 }
 

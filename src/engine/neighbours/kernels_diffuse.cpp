@@ -12,8 +12,8 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-/// round(bits / 2^24 * range + position - range / 2), halves to the even neighbour: with t in units of 2^-24, 2^23 - 1
-/// and the parity of the whole part are added before the fraction is dropped.
+/// round(bits / 2^24 * range + position - range / 2), half to even: with t in units of 2^-24, 2^23 - 1 and the parity
+/// of the integer part are added before the fraction is dropped.
 template <class D> HWY_INLINE hn::Vec<D> displaced(D d, hn::Vec<D> bits, int range, hn::Vec<D> position)
 {
     const auto t = hn::Sub(hn::Mul(bits, hn::Set(d, range)), hn::Set(d, range * (1 << 23)));
@@ -53,7 +53,7 @@ int diffusePixels(SpanOf s, int y, const Displacement& displacement, const Sourc
             taken = hn::And(taken, hn::Ne(hn::And(found, bit), hn::Zero(d)));
         }
         const auto away = hn::Add(hn::Mul(hn::Sub(sy, hn::Set(d, y)), hn::Set(d, stride)), sx);
-        // One load after another: twice as fast as a gather, which is slow on many processors.
+        // Scalar loads: twice as fast as a gather, which is slow on many processors.
         alignas(64) std::int32_t from[hn::MaxLanes(hn::ScalableTag<std::int32_t>())];
         hn::Store(hn::IfThenElse(taken, away, columns), d, from);
         for (int i = 0; i < n; ++i) {

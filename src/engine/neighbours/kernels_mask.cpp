@@ -17,8 +17,8 @@ using FloatTag = hn::RebindToFloat<IntTag>;
 using Shorts = hn::Vec<ShortTag>;
 using Ints = hn::Vec<IntTag>;
 
-/// The sums of one half of the channels. On x86 interleaving, pairwise sums and demoting stay within 128 bits each and
-/// undo each other.
+/// The sums of one half of the channels. On x86 interleaving, pairwise sums and demotion work within 128 bits each, so
+/// their orders cancel.
 struct Sums {
     Ints lower, upper;
     HWY_INLINE void add(Shorts a, Shorts b, Shorts factors)
@@ -29,8 +29,7 @@ struct Sums {
     }
 };
 
-/// sum \ divisor: a half away from zero added, no quotient comes nearer to a whole number than the rounding errors
-/// reach.
+/// sum \ divisor: with a half added away from zero, no quotient is closer to an integer than the rounding error.
 HWY_INLINE Ints divided(Ints sum, hn::Vec<FloatTag> reciprocal)
 {
     const FloatTag d;

@@ -5,25 +5,25 @@
 
 namespace velara {
 
-/// One factor of a mask: the pixel `offset` pixels away times `factor`.
+/// One element of a mask: the pixel `offset` pixels away times `factor`.
 struct MaskTap {
     std::ptrdiff_t offset;
     int factor;
 };
 
-/// clamp(sum \ divisor + add) per channel, with the taps that are not 0.
+/// clamp(sum \ divisor + add) per channel, over the nonzero taps.
 struct MaskSum {
     std::vector<MaskTap> taps;
     std::int64_t divisor;
     int add[3]; // to blue, green, red
 
-    /// The kernel's bounds: the factors fit in 16 bits, the sums and the divisor are exact in a single.
+    /// The kernel's limits: the factors fit in 16 bits, the sums and the divisor are exact in a single.
     bool isSmall() const;
     /// One pixel, any sizes. p points to the pixel.
     Pixel at(const Pixel* p) const;
 };
 
-/// Writes as many pixels of the span as fill whole vectors and returns the first x that is left. sum.isSmall().
+/// Writes as many pixels of the span as fill whole vectors and returns the first x not written. Requires sum.isSmall().
 int maskPixels(SpanOf s, const MaskSum& sum);
 
 } // namespace velara

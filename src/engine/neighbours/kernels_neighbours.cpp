@@ -78,7 +78,7 @@ void contour(SpanOf s, int thriceLevel, std::uint32_t background)
         using V = hn::Vec<decltype(d)>;
         const Pixel* p = s.from + x;
         const auto white = hn::Set(d, std::int16_t{255});
-        const auto v = each(ringDifference(d, p, s.stride), [&](V e) HWY_ATTR { // at most 255 where e is not above 0
+        const auto v = each(ringDifference(d, p, s.stride), [&](V e) HWY_ATTR { // at most 255 where e <= 0
             return hn::Max(hn::Add(hn::Min(e, hn::Zero(d)), white), hn::Zero(d));
         });
         const auto edge = hn::Lt(sumOfChannels(d, v), hn::Set(d32, thriceLevel));

@@ -4,7 +4,7 @@
 
 namespace velara {
 
-/// The pixel itself with its eight neighbours, with its four side neighbours, with its four diagonal neighbours.
+/// The pixel itself with its eight neighbours, its four side neighbours, or its four diagonal neighbours.
 enum class RankWindow { Square, Sides, Diagonals };
 
 struct RankKernels {

@@ -6,7 +6,7 @@
 
 namespace velara {
 
-/// Cells of `side` columns, a new one every `step` columns from `origin` on; they may overlap.
+/// Cells `side` columns wide, starting every `step` columns from `origin`; they may overlap.
 class CellSums {
   public:
     CellSums(int width, std::int64_t origin, std::int64_t step, std::int64_t side)
@@ -16,22 +16,22 @@ class CellSums {
     }
 
     void clear() { std::ranges::fill(cells_, CellSum()); }
-    /// The pixels x0..x1-1 of the row at from, inside the picture.
+    /// Adds the pixels x0..x1-1 of the row at from, inside the picture.
     void add(const Pixel* from, int x0, int x1)
     {
         cellKernels().addColumns(from + x0, columns_.data() + 4 * static_cast<std::size_t>(x0), x1 - x0);
     }
-    /// Once after each row, so that the columns' 16 bits never overflow.
+    /// To be called after each row, so that the columns' 16 bits never overflow.
     void rowDone()
     {
         if (++rows_ == kMostRows) finish();
     }
-    /// Makes the cells complete.
+    /// Brings the cells up to date.
     void finish()
     {
         if (rows_ == 0) return;
         std::size_t k = 0;
-        const auto cut = [&](std::size_t end) { // the cells that stick out of the picture
+        const auto cut = [&](std::size_t end) { // the cells partly outside of the picture
             for (; k < end; ++k) {
                 const std::int64_t start = startOf(k), x0 = std::max<std::int64_t>(start, 0);
                 const std::int64_t x1 = std::min<std::int64_t>(start + side_, width_);

@@ -11,9 +11,8 @@ namespace {
 constexpr Pixel kBlack = {{0, 0, 0, 0}};
 constexpr std::uint64_t kExactSums = 1 << 23; // quotients of smaller sums are safe in singles
 
-/// The colours of a row of blocks, and the colour that is held from pixel to pixel: it is renewed at the start of a
-/// block alone, so a span that begins inside a block goes on with the colour of the block before, in the row or in the
-/// last.
+/// The colours of a row of blocks, and the colour carried from pixel to pixel: it changes only at the start of a block,
+/// so a span that begins inside a block continues with the colour of the previous block, in this row or the last one.
 class Blocks {
   public:
     Blocks(const Bits& in, const Region& region, int size)
@@ -33,7 +32,7 @@ class Blocks {
     }
 
   private:
-    /// The means of the blocks that selected pixels of the band may ask for, the region being ignored in them.
+    /// The means of those blocks that selected pixels of the band may use, region ignored.
     void mix(int band)
     {
         band_ = band;
@@ -63,7 +62,7 @@ class Blocks {
                 line_[static_cast<std::size_t>(x0)] = means_[k];
     }
 
-    /// The means of the blocks first to last-1, all of the same number of pixels.
+    /// The means of the blocks first to last-1, which all have the same number of pixels.
     void average(std::size_t first, std::size_t last)
     {
         if (first == last) return;
@@ -90,7 +89,7 @@ class Blocks {
 Bits cBitFilter::PIXELIZE(int Size)
 {
     if (Size == 0) return eachSpan(0, divideByZero);
-    if (Size < 0) return eachSpan(0, blacken); // the blocks have no pixels
+    if (Size < 0) return eachSpan(0, blacken); // the blocks contain no pixels
     if (Size == 1) return eachSpan(0, copyPixels);
     return eachSpan(0, [blocks = Blocks(bits_, region_, Size)](const Pixel* from, Pixel* to, int x0, int x1,
                                                                int y) mutable { blocks.span(from, to, x0, x1, y); });
@@ -98,12 +97,12 @@ Bits cBitFilter::PIXELIZE(int Size)
 
 namespace {
 
-/// How bright a spot is at an offset from its centre.
+/// The brightness of a dot at an offset from its centre.
 class Spot {
   public:
     Spot(int radius, int limit) : radius_(radius), limit_(limit)
     {
-        if (radius > kMostTabled || limit <= 0) return; // beyond the dialogs, and too large for tables
+        if (radius > kMostTabled || limit <= 0) return; // outside the dialogs' range and too large for tables
         std::vector<float> factors(2 * static_cast<std::size_t>(radius * radius) + 1, kNone);
         for (int oy = -radius; oy < radius; ++oy)
             for (int ox = -radius; ox < radius; ++ox) {
@@ -116,10 +115,10 @@ class Spot {
 
     /// True when round(s * factor) in singles gives the byte of each sum s from 0 to 255.
     bool isTabled() const { return !rows_.empty(); }
-    /// The factors at the offsets -radius to radius-1 in the row oy.
+    /// The factors at the offsets -radius to radius-1 in row oy.
     const float* factors(std::int64_t oy) const { return rows_.data() + (oy + radius_) * 2 * radius_; }
 
-    /// The byte by definition. Overflow where a byte does not hold it.
+    /// The byte in plain arithmetic. Overflow where it is out of byte range.
     std::uint8_t at(std::int64_t ox, std::int64_t oy, double sum) const
     {
         const std::int64_t distance = ox * ox + oy * oy;
@@ -135,8 +134,8 @@ class Spot {
         return static_cast<float>(1 - quotient(static_cast<double>(distance), limit_));
     }
 
-    /// Products in singles may round a value beside a half onto it. A neighbour of the brightness that gives all 256
-    /// bytes serves as well.
+    /// Products in singles may round a value next to a half onto it. An adjacent float that gives all 256 bytes
+    /// correctly is used instead.
     float exactFactor(int ox, int oy) const
     {
         const std::int64_t distance = ox * ox + oy * oy;
@@ -154,8 +153,8 @@ class Spot {
     std::vector<float> rows_;
 };
 
-/// Cells of 2*radius+1 pixels a side, 2*radius apart, from the corner of the box on. A later cell paints over the
-/// shared row and column of an earlier one, so each pixel gets its byte from the last cell that has it.
+/// Cells of 2*radius+1 pixels a side, 2*radius apart, from the corner of the box. A later cell overwrites the shared
+/// row and column of an earlier one, so each pixel gets its byte from the last cell that contains it.
 class Dots {
   public:
     Dots(const Bits& in, const Region& region, const Box& box, int radius, int limit, float gain)
@@ -204,7 +203,7 @@ class Dots {
 
     std::int32_t partsOf(std::uint64_t count) const { return roundEven(quotient(static_cast<double>(count), gain_)); }
 
-    /// The colours of a row of cells. plain_ tells whether the line of them can be painted in singles.
+    /// The colours of a row of cells. plain_ says whether its line can be painted in singles.
     void mix(std::int64_t band)
     {
         band_ = band;
@@ -220,7 +219,7 @@ class Dots {
         sums_.finish();
         plain_ = spot_.isTabled();
         const auto& cells = sums_.cells();
-        for (std::size_t i = 0; i < cells.size();) { // runs of cells with equally many pixels
+        for (std::size_t i = 0; i < cells.size();) { // runs of cells with equal pixel counts
             std::size_t next = i;
             while (next < cells.size() && cells[next].count() == cells[i].count()) ++next;
             mixRun(i, next, top);
@@ -233,7 +232,7 @@ class Dots {
                 line_[static_cast<std::size_t>(x)] = means_[cell];
     }
 
-    /// The cells first to last-1, all of the same number of pixels.
+    /// The cells first to last-1, which all have the same number of pixels.
     void mixRun(std::size_t first, std::size_t last, std::int64_t top)
     {
         const auto& cells = sums_.cells();
@@ -244,7 +243,7 @@ class Dots {
             if (plain_) cellKernels().meansOf(&cells[first], parts, false, &means_[first], last - first);
             return;
         }
-        // Too few pixels for one part: the sums stay as they are.
+        // Too few pixels to divide by: the sums are used unchanged.
         for (; first < last; ++first) {
             const std::uint64_t* c = cells[first].c;
             for (int i = 0; i < 3; ++i) means_[first].c[i] = static_cast<std::uint8_t>(c[i]);
@@ -254,7 +253,7 @@ class Dots {
         }
     }
 
-    /// A sum that no byte holds raises its fault even where the next cell paints over it.
+    /// An overflowing sum raises its fault even where the next cell overwrites it.
     void checkSharedEdges(std::size_t cell, std::int64_t left, std::int64_t top) const
     {
         for (std::int64_t i = 0; i <= step_; ++i)
@@ -264,7 +263,7 @@ class Dots {
                     spotPixel(cell, x - left - radius_, y - top - radius_);
     }
 
-    /// The spot's row, repeated over the columns of the box.
+    /// The dot's row, repeated over the columns of the box.
     void spread(std::int64_t oy)
     {
         const float* row = spot_.factors(oy);
@@ -299,7 +298,7 @@ Bits cBitFilter::Halftone(int Radius, int Definition, int Intensity)
     const auto gain = static_cast<float>((Intensity + 100.0) / 100);
     const Box box = GetBounds(0);
     if (Radius < 0 || insidePicture(box, bits_).isEmpty()) return eachSpan(0, copyPixels);
-    if (gain == 0) throw RuntimeError(Fault::DivisionByZero); // each cell divides, those without a pixel too
+    if (gain == 0) throw RuntimeError(Fault::DivisionByZero); // every cell divides, also one without pixels
     return eachSpan(
         0, [dots = Dots(bits_, region_, box, Radius, limit, gain)](const Pixel* from, Pixel* to, int x0, int x1,
                                                                    int y) mutable { dots.span(from, to, x0, x1, y); });

@@ -10,7 +10,7 @@ namespace velara {
 
 namespace {
 
-/// Each value of a channel blended with a colour; -1 where the blend is no byte.
+/// Each channel value blended with a colour; -1 where the result is out of byte range.
 using BlendTables = std::array<std::array<std::int16_t, 256>, 3>;
 
 BlendTables blendTables(Colour colour, float part, float rest)
@@ -35,7 +35,7 @@ Pixel blended(const BlendTables& tables, Pixel pixel)
     return pixel;
 }
 
-/// The first position from x on that is a whole number of steps from origin.
+/// The first position at or after x that is a multiple of step from origin.
 std::int64_t nextLine(std::int64_t origin, std::int64_t step, std::int64_t x)
 {
     return x <= origin ? origin : origin + (x - origin + step - 1) / step * step;
@@ -61,7 +61,7 @@ Bits cBitFilter::Light(float CenterX, float CenterY, float Radius, int Intensity
                 const int x = first + i;
                 const double ox = static_cast<double>(x) - disc.x;
                 const std::int64_t k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * Intensity);
-                for (int c = 0; c < 3; ++c) // darker than black wraps around, and it stays
+                for (int c = 0; c < 3; ++c) // below 0 the value wraps around: kept on purpose
                     to[x].c[c] = static_cast<std::uint8_t>(std::min<std::int64_t>(from[x].c[c] + k, 255));
             });
         }
@@ -81,7 +81,7 @@ Bits cBitFilter::NOISE(int Amount, bool Equalized)
         for (int x = x0; x < x1; ++x) {
             const std::uint32_t pixel = number + static_cast<std::uint32_t>(x);
             to[x] = from[x];
-            for (const int c : {2, 1, 0}) { // drawn for red first
+            for (const int c : {2, 1, 0}) { // red is drawn first
                 const double rnd = random.single(Equalized ? pixel : 3 * pixel + static_cast<std::uint32_t>(2 - c));
                 to[x].c[c] = clamp(roundEven(from[x].c[c] + (rnd * span - Amount)));
             }
@@ -120,11 +120,11 @@ Bits cBitFilter::Grid(int HorizontalStep, int VerticalStep, bool ForceMargins, C
 
 Bits cBitFilter::Texturize(const Bits& Texture)
 {
-    // Tiles overlap by a row and a column, and the later one lies on top: the last row and column never show.
+    // Tiles overlap by a row and a column, later ones on top: the last row and column never show.
     const Bits texture = Texture;
     const int columns = texture.maxX(), rows = texture.maxY();
     if (columns < 1 || rows < 1) throw RuntimeError(Fault::OutOfRange);
-    // Rows of factors for all four bytes, the fourth of which stays, repeated to make runs that are worth a vector.
+    // Rows of factors for all four bytes (128 keeps the fourth), repeated to form runs long enough for vectors.
     constexpr int kShortRun = 512;
     const int repeats = columns < kShortRun ? kShortRun / columns + 1 : 1;
     Bits factors = Bits::uninitialized(columns * repeats, rows);

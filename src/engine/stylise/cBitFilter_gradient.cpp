@@ -7,9 +7,9 @@ namespace velara {
 
 namespace {
 
-constexpr Colour kOwnColour = -1; // an end of the ramp that takes each pixel's own colour
+constexpr Colour kOwnColour = -1; // an end of the ramp that uses each pixel's own colour
 
-/// What both gradients have in common: the distance between the points, the bands and the blend.
+/// Common to both gradients: the distance between the points, the bands and the blend.
 struct Ramp {
     std::int32_t R;
     float frequency;
@@ -27,7 +27,7 @@ struct Ramp {
         if (R < frequency) frequency = static_cast<float>(R);
     }
 
-    /// Blends n <= kPlaces pixels at their places t on the ramp, which it changes.
+    /// Blends n <= kPlaces pixels by their positions t on the ramp; t is modified.
     void blend(float* t, const Pixel* from, int n, Pixel* to) const
     {
         if (frequency > 0)
@@ -47,7 +47,7 @@ double distance(int X1, int Y1, int X2, int Y2)
     return std::sqrt(dx * dx + dy * dy);
 }
 
-/// The direction of the line, from -pi/2 to two turns.
+/// The direction of the line in radians, from -pi/2 to two turns.
 double direction(double dx, double dy)
 {
     double a = dx != 0 ? std::atan(dy / dx) : (dy > 0 ? 1 : -1) * 90 * kDegreesToRadians;

@@ -1,4 +1,4 @@
-// A picture laid over the picture, tiled or once.
+// Lays a picture over the picture, once or tiled.
 #include "engine/passes.h"
 #include "engine/stylise/kernels_generate.h"
 
@@ -21,7 +21,7 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
     if (overlay.isNull()) throw RuntimeError(Fault::OutOfRange);
     const float a = static_cast<float>(Transparency / 100.0), b = static_cast<float>(1.0 - a);
     const std::int32_t key = keyWord(KeyColor);
-    // Without Tiled the step leads past the picture, which makes one pass.
+    // Without Tiled the step leaves the picture, so that there is one pass.
     const std::int64_t stepX = Tiled ? overlay.width() : std::int64_t(in.maxX()) - Left + 1;
     const std::int64_t stepY = Tiled ? overlay.height() : std::int64_t(in.maxY()) - Top + 1;
     const auto firstFrom = [](std::int64_t origin, std::int64_t step) { // skips the tiles before the picture

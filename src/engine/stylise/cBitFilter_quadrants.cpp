@@ -1,4 +1,4 @@
-// Painting: each channel takes the mean of the calmest of the 3 by 3 windows that have the pixel at a corner.
+// Painting: each channel takes the mean of the least varying of the 3 by 3 windows that have the pixel at a corner.
 #include "engine/passes.h"
 #include "engine/stylise/kernels_quadrants.h"
 
@@ -6,7 +6,7 @@ namespace velara {
 
 namespace {
 
-/// The windows of three rows of centres, computed as the rows of pixels come.
+/// The windows of three rows of centres, computed as rows of pixels arrive.
 class SlidingWindows {
   public:
     SlidingWindows(const Bits& in, const Region& region)
@@ -14,7 +14,7 @@ class SlidingWindows {
     {
     }
 
-    /// Makes the rows above and below y ready; y grows from call to call.
+    /// Prepares the rows above and below y; y increases from call to call.
     void moveTo(int y)
     {
         for (int centre = std::max(y - 1, next_); centre <= y + 1; ++centre) compute(centre);
@@ -25,7 +25,7 @@ class SlidingWindows {
   private:
     static std::size_t slot(int centre) { return static_cast<std::size_t>(centre + 3) % 3; }
 
-    /// Only where a pixel of the row above or below asks for it.
+    /// Only where a pixel of the row above or below needs it.
     void compute(int centre)
     {
         wanted_.clear();
@@ -35,7 +35,7 @@ class SlidingWindows {
                 if (inside.x1 - inside.x0 > 2) wanted_.push_back(inside);
             }
         std::ranges::sort(wanted_, {}, &Span::x0);
-        for (std::size_t i = 0; i < wanted_.size();) { // what touches is one run
+        for (std::size_t i = 0; i < wanted_.size();) { // adjacent spans are merged
             Span run = wanted_[i];
             while (++i < wanted_.size() && wanted_[i].x0 <= run.x1) run.x1 = std::max(run.x1, wanted_[i].x1);
             quadrantKernels().windows(in_.row(centre), in_.stride(), run.x0, run.x1, rows_[slot(centre)]);

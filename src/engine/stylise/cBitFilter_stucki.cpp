@@ -1,4 +1,4 @@
-// Black and white by error diffusion: the kernel of Stucki, and the picture's own mean as the threshold.
+// Black and white by error diffusion with Stucki's kernel, thresholded at the picture's own mean.
 #include "engine/passes.h"
 #include "engine/stylise/kernels_stucki.h"
 #include "pixels/numbers.h"
@@ -8,7 +8,7 @@ namespace velara {
 
 namespace {
 
-/// What a value before clamping hands on to its right: e*8 \ 42 to the next pixel, e*4 \ 42 to the one after.
+/// What a value before clamping passes to the right: e*8 \ 42 to the next pixel, e*4 \ 42 to the one after.
 class Shares {
   public:
     explicit Shares(int mean) : next_(kCount), after_(kCount)
@@ -23,12 +23,12 @@ class Shares {
     const std::int16_t* after() const { return after_.data() - kLeast; }
 
   private:
-    // Errors sum up to 255 at most, so they come back as 2550 at most (divisor 1), beside a grey of 0 to 255.
+    // Errors sum up to 255 at most, so at most 2550 is passed on (divisor 1), added to a grey of 0 to 255.
     static constexpr int kLeast = -2560, kCount = 2560 + 2560 + 256;
     std::vector<std::int16_t> next_, after_;
 };
 
-/// (10 * error) \ divisor for every sum of errors. divisor is not 0.
+/// (10 * error) \ divisor for every sum of errors. divisor must not be 0.
 class Scale {
   public:
     explicit Scale(int divisor)
@@ -43,8 +43,8 @@ class Scale {
     std::int16_t scaled_[2 * kMost + 1];
 };
 
-/// Diffuses row by row; rows come in order, spans from left to right. A pixel's error goes right at once, down when
-/// its row is left: sums of whole numbers do not depend on the order.
+/// Diffuses row by row; rows come in order, spans from left to right. A pixel's error goes right at once, and down at
+/// the end of its row: sums of integers do not depend on the order.
 class Stucki {
   public:
     Stucki(const Bits& in, int mean, int divisor)
@@ -64,7 +64,7 @@ class Stucki {
             diffuse(x0, inner, [](int error) { return error; });
         else
             diffuse(x0, inner, [this](int error) { return scale_[error]; });
-        if (x1 == width_) // the last column takes nothing from its left
+        if (x1 == width_) // the last column receives nothing from its left
             values[inner] = static_cast<std::int16_t>(values[inner] + scale_[incoming(y)[inner]]);
         stuckiKernels().output({from, stride_, to, x0, x1}, values, mean_, errors_.data());
     }
@@ -72,7 +72,7 @@ class Stucki {
   private:
     std::int16_t* incoming(int y) { return incoming_[static_cast<std::size_t>(y) % 3].data(); }
 
-    /// Turns the greys of x0..x1-1 into the values before clamping.
+    /// Turns the greys of x0..x1-1 into values before clamping.
     template <class Scaled> void diffuse(int x0, int x1, Scaled scaled)
     {
         const std::int16_t *const next = shares_.next(), *const after = shares_.after(), *const above = incoming(y_);
@@ -92,7 +92,7 @@ class Stucki {
     {
         if (y_ < 0) y_ = y;
         for (; y_ < y; ++y_) {
-            // Nothing comes down into the last row, nor from the last two.
+            // The last row receives nothing from above, and the last two pass nothing down.
             if (y_ < maxY_ - 1) stuckiKernels().spread(errors_.data(), incoming(y_ + 1), incoming(y_ + 2), width_);
             if (y_ == maxY_ - 2 || y_ == maxY_ - 1) incoming_[static_cast<std::size_t>(maxY_) % 3].clear();
             errors_.clear();
@@ -119,7 +119,7 @@ Bits cBitFilter::StuckiBW(int Divisor)
         sum = std::accumulate(greys.begin(), greys.end(), sum);
         progressDue(y, in.maxY());
     }
-    if (in.isNull()) return eachSpan(0, divideByZero); // no pixel is there to raise it
+    if (in.isNull()) return eachSpan(0, divideByZero); // no pixel exists that could raise it
     const auto count = static_cast<std::uint64_t>(in.width()) * static_cast<std::uint64_t>(in.height());
     if (Divisor == 0) return eachSpan(0, divideByZero);
     return eachSpan(0, [stucki = Stucki(in, static_cast<int>(sum / count), Divisor)](const Pixel* from, Pixel* to,

@@ -4,7 +4,7 @@
 
 namespace velara {
 
-/// The sums of the three channels, and the number of the pixels as the fourth.
+/// The sums of the three channels, and the pixel count as the fourth.
 struct CellSum {
     std::uint64_t c[4] = {};
     std::uint64_t count() const { return c[3]; }
@@ -13,13 +13,13 @@ struct CellSum {
 struct CellKernels {
     /// Adds the three channels of each pixel, and 1 as the fourth, to the four sums of its column.
     void (*addColumns)(const Pixel* from, std::uint16_t* sums, int count);
-    /// Adds up `side` columns for each cell, a new one every `step` columns. 32 bits hold what one call adds to a cell.
+    /// Adds `side` columns to each cell, a new cell every `step` columns. What one call adds to a cell fits in 32 bits.
     void (*addCells)(const std::uint16_t* columns, std::int64_t step, std::int64_t side, CellSum* cells,
                      std::size_t count);
-    /// round(c / parts) of the sums, halves to the even neighbour, or c \ parts if whole; at most 255. All sums below
-    /// 2^23, so that quotients in singles lie on the right side of each half and each whole number.
+    /// round(c / parts) of the sums, half to even, or c \ parts if whole; at most 255. All sums must be below 2^23, so
+    /// that quotients in singles are on the right side of each half and each integer.
     void (*meansOf)(const CellSum* cells, std::int32_t parts, bool whole, Pixel* means, std::size_t count);
-    /// round(c * factors[x]) of the line's colours, halves to the even neighbour; at most 255.
+    /// round(c * factors[x]) of the line's colours, half to even; at most 255.
     void (*paintScaled)(SpanOf, const Pixel* line, const float* factors);
     /// The colours of the line at to's columns, with the source's fourth bytes.
     void (*paintLine)(SpanOf, const Pixel* line);

@@ -23,7 +23,7 @@ using HalfSingles = hn::Rebind<float, Doubles>;
 using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
 
-/// body(from, to, i) for whole vectors of `lanes` pixels; the last ones in buffers of their own.
+/// Calls body(from, to, i) for whole vectors of `lanes` pixels; the remainder goes through a buffer.
 template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
 {
     int i = 0;
@@ -60,8 +60,8 @@ void multiplyImpl(const Pixel* from, const Pixel* factors, int n, Pixel* to)
     std::memcpy(to + i, a, rest);
 }
 
-/// Blends the three channels of n pixels in doubles: blend(channels, c, i) gives those of channel c of the pixels from
-/// i on. The fourth byte stays. False when a result is no byte.
+/// Blends the three channels of n pixels in doubles: blend(channels, c, i) returns those of channel c of the pixels
+/// from i on. The fourth byte is kept. False when a result is out of byte range.
 template <class Blend> bool blendChannels(const Pixel* from, int n, Pixel* to, Blend&& blend)
 {
     const Doubles d;
@@ -153,7 +153,7 @@ std::uint64_t squareSinesImpl(double frequency, int n, float* t)
         const auto sine = hn::Sin(d, angle);
         const auto low = hn::Sub(sine, error), high = hn::Add(sine, error);
         const auto one = hn::DemoteTo(singles, hn::Mul(low, low)), other = hn::DemoteTo(singles, hn::Mul(high, high));
-        // The caller still needs the t of doubtful pixels.
+        // The caller still needs the t of uncertain pixels.
         const auto doubt =
             hn::Or(hn::Ne(hn::PromoteTo(d, one), hn::PromoteTo(d, other)), hn::Gt(hn::Abs(angle), farthest));
         alignas(64) float squares[HWY_MAX_BYTES / sizeof(float)];

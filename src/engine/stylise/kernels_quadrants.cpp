@@ -15,7 +15,7 @@ template <class D8> HWY_INLINE void storeAt(D8 d8, hn::Vec<D8> v, Pixel* p)
     hn::StoreU(v, d8, reinterpret_cast<std::uint8_t*>(p));
 }
 
-/// f(pixel) summed over the window around p. f gives bytes; the sums are 16 bits wide.
+/// The sum of f(pixel) over the window around p. f returns bytes; the sums are 16 bits wide.
 template <class D8, class F> HWY_INLINE auto windowSum(D8 d8, const Pixel* p, std::ptrdiff_t stride, F f)
 {
     const hn::Repartition<std::int16_t, D8> d;
@@ -38,7 +38,7 @@ template <class D8> HWY_INLINE void windowAt(D8 d8, const Pixel* p, std::ptrdiff
         return hn::BitCast(d, hn::MulHigh(hn::BitCast(du, v), hn::Set(du, std::uint16_t{7282})));
     });
     const auto bytes = joined(d8, mean);
-    // What lies above the mean outweighs what lies below it by the remainder of its division.
+    // The sum above the mean exceeds the sum below it by the remainder of the mean's division.
     const auto above = windowSum(d8, p, stride, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); });
     const auto remainder =
         each(sum, mean, [&](V s, V m) HWY_ATTR { return hn::Sub(s, hn::Add(hn::ShiftLeft<3>(m), m)); });

@@ -6,7 +6,7 @@
 namespace velara {
 
 /// The 3 by 3 windows of one row of centres, from x = -1 to the picture's width, per channel: the mean (sum \ 9) and
-/// the sum of the distances from it. Each window is at the corner of four pixels and is computed once.
+/// the sum of absolute deviations. Each window is at the corner of four pixels and is computed once.
 class WindowRow {
   public:
     explicit WindowRow(int width)
@@ -26,9 +26,9 @@ class WindowRow {
 };
 
 struct QuadrantKernels {
-    /// The windows around the centres x0..x1-1 of the row at from.
+    /// Computes the windows around the centres x0..x1-1 of the row at from.
     void (*windows)(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& to);
-    /// Each channel takes the mean of the window with the least distances, the earliest of equals: upper left, upper
+    /// Each channel takes the mean of the window with the smallest deviation, ties to the first: upper left, upper
     /// right, lower left and, if four, lower right. above and below hold the centres of the rows above and below.
     void (*choose)(SpanOf, const WindowRow& above, const WindowRow& below, bool four);
 };

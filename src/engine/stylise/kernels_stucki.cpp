@@ -80,7 +80,7 @@ void spread(const std::int16_t* errors, std::int16_t* below, std::int16_t* below
     const Numbers d;
     const int n = static_cast<int>(hn::Lanes(d)), last = width - 1;
     const std::int16_t keptBelow = below[last];
-    for (int x = 0; x < width; x += n) { // beyond the width lies the pad, where all errors are 0
+    for (int x = 0; x < width; x += n) { // beyond the width is padding, where all errors are 0
         const auto partsAt = [&](int offset) HWY_ATTR { return partsOf(hn::LoadU(d, errors + x + offset)); };
         const Parts a = partsAt(-2), b = partsAt(-1), c = partsAt(0), e = partsAt(1), f = partsAt(2);
         const auto toBelow = hn::Add(hn::Add(hn::Add(a.two, f.two), hn::Add(b.four, e.four)), c.eight);
@@ -88,7 +88,7 @@ void spread(const std::int16_t* errors, std::int16_t* below, std::int16_t* below
         hn::StoreU(hn::Add(hn::LoadU(d, below + x), toBelow), d, below + x);
         hn::StoreU(toThat, d, belowThat + x);
     }
-    // The last column takes nothing from its left.
+    // The last column receives nothing from its left.
     below[last] = static_cast<std::int16_t>(keptBelow + errors[last] * 8 / 42);
     belowThat[last] = static_cast<std::int16_t>(errors[last] * 4 / 42);
 }

@@ -16,7 +16,7 @@ void strongest(SpanOf s)
         const hn::Repartition<std::uint32_t, decltype(d)> d32;
         const auto three = hn::Set(d32, 0x00FFFFFFu);
         const auto source = hn::BitCast(d32, loadBytes(d, s.from + x)), colour = hn::And(source, three);
-        // the channels turned by one and by two, in bytes 0 to 2: each channel beside both others
+        // the channels rotated by one and by two, in bytes 0 to 2: each channel faces both others
         const auto next = hn::And(hn::Or(hn::ShiftRight<8>(colour), hn::ShiftLeft<16>(colour)), three);
         const auto last = hn::And(hn::Or(hn::ShiftRight<16>(colour), hn::ShiftLeft<8>(colour)), three);
         const auto others = hn::BitCast(d32, hn::Max(hn::BitCast(d, next), hn::BitCast(d, last)));

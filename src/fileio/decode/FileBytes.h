@@ -1,4 +1,4 @@
-// A file's bytes in memory that may be mended before a reader sees them; the file itself never changes.
+// A file's bytes in memory, which may be repaired before a reader sees them; the file itself is never changed.
 #pragma once
 #include <QString>
 #include <cstdint>
@@ -10,7 +10,7 @@ namespace velara::decode {
 
 class FileBytes {
   public:
-    /// Maps the file privately: reading is by page, and a mended byte costs a page.
+    /// Maps the file privately: it is read page by page, and changing a byte copies its page.
     explicit FileBytes(const QString& path);
     /// The file behind a descriptor, which stays open.
     explicit FileBytes(int descriptor);
@@ -22,7 +22,7 @@ class FileBytes {
     /// Empty when the file can't be read.
     std::span<std::uint8_t> bytes() const { return bytes_; }
     std::size_t size() const { return bytes_.size(); }
-    /// Other contents altogether.
+    /// Replaces the contents.
     void replace(std::vector<std::uint8_t> bytes)
     {
         owned_ = std::move(bytes);

@@ -14,7 +14,7 @@ namespace velara::decode {
 
 namespace {
 
-/// Tells the size that a header gives, so that the parent allows the time that so many pixels may take, or refuses
+/// Sends the size given by the header, so that the parent allows the time that so many pixels may take, or refuses
 /// them.
 void claimSize(std::int64_t width, std::int64_t height, int bits)
 {
@@ -55,8 +55,8 @@ bool tellRows(const Decoded& picture, std::uint8_t* memory)
 
 void answer(const QString& extension)
 {
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader that loops doesn't outlive the program that waits for it
-    std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; a font cache that can't be written is no reason to end
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader in an endless loop doesn't outlive the waiting program
+    std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; failing to write a font cache is no reason to end
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
     if (memory == MAP_FAILED) return;
     sizeFound = claimSize;
@@ -65,12 +65,12 @@ void answer(const QString& extension)
     FileBytes file(kPicture);
     close(kPicture);
     if (needs != Needs::Nothing) handOverFonts();
-    const CageState cage = enterCage(needs); // nothing of the file has been looked at yet
+    const CageState cage = enterCage(needs); // nothing of the file has been read yet
     const Decoded picture =
         cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
                   : decodePicture(std::move(file), extension);
     const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
-    _exit(done ? 0 : 1); // no tidying: the process is thrown away
+    _exit(done ? 0 : 1); // no cleanup: the process is disposable
 }
 
 } // namespace velara::decode

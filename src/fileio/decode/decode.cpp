@@ -9,9 +9,9 @@
 
 namespace velara::decode {
 
-// The readers in files of their own, read*.cpp; metafiles come at their natural size, 96 dots an inch, drawn on white.
+// The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
-// What they take from the disk, fetched before the cage closes.
+// What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
 namespace {
@@ -26,7 +26,7 @@ template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
     return readByFreeImage(file, fif);
 }
 
-/// A window of one column or row is read as one of two, then cut.
+/// A window of one column or row is read as one of two, then cropped.
 Decoded readPcx(FileBytes& file)
 {
     const bool isColumn = file.little16(4) == file.little16(8), isRow = file.little16(6) == file.little16(10);
@@ -87,7 +87,7 @@ constexpr const Reader* readerOf(std::string_view extension)
     const auto* reader = std::ranges::find(kReaders, extension, &Reader::extension);
     return reader == std::end(kReaders) ? nullptr : reader;
 }
-// Counted, and not looked for: under the sanitizers a pointer's null is no constant.
+// Counted instead of searched: under the sanitizers a pointer's null is not a constant expression.
 static_assert(std::ranges::all_of(kFormats,
                                   [](const Format& format) {
                                       return std::ranges::count(kReaders, format.extension, &Reader::extension) == 1;

@@ -1,4 +1,4 @@
-// velara-decode EXTENSION: started by the editor and the batch program, one run a file; see DecodeProtocol.h.
+// velara-decode EXTENSION: started by the editor and the batch program, one run per file; see DecodeProtocol.h.
 #include "fileio/decode/answer.h"
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/load/DecodeProtocol.h"
@@ -15,8 +15,8 @@ using namespace velara::decode;
 
 namespace {
 
-/// The layers that hold here, found out by a process of its own: inside, nothing can be written to a file any more.
-/// 1: one is missing.
+/// Prints the active layers, determined in a child process: inside the cage nothing can be written to a file. 1: one is
+/// missing.
 int printCage()
 {
     void* shared = mmap(nullptr, sizeof(CageState), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
@@ -32,7 +32,7 @@ int printCage()
     return state->holding == kAllLayers ? 0 : 1;
 }
 
-/// A program that has a picture to read is at the other end of the line.
+/// A program that wants a picture read is at the other end of the socket.
 bool isCalled()
 {
     int kind = 0;

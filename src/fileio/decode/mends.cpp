@@ -30,7 +30,7 @@ void mendBmp(FileBytes& file)
     if (!file.startsWith("BM") || !isLong || file.size() < kFileHeader + header) return;
 
     if (file.little32(Compression) == kAlphaBitFields) putLittle32(file.bytes(), Compression, kBitFields);
-    putLittle32(file.bytes(), HeaderSize, kShort); // the three colour masks stand where a short header has them
+    putLittle32(file.bytes(), HeaderSize, kShort); // the three colour masks lie where a short header has them
     const std::uint32_t bits = file.little16(BitCount);
     if (bits > 8) return;
     const std::uint32_t used = file.little32(ColoursUsed);
@@ -59,7 +59,7 @@ void mendJpeg(FileBytes& file)
     const std::span<std::uint8_t> bytes = file.bytes();
     for (std::size_t at = 2; at + 4 <= bytes.size() && bytes[at] == 0xff;) {
         std::uint8_t& marker = bytes[at + 1];
-        if (marker == 0xff) { // padding before the marker
+        if (marker == 0xff) { // fill bytes before the marker
             ++at;
             continue;
         }
@@ -101,7 +101,7 @@ void mendPnm(FileBytes& file)
         std::uint8_t* row = raw.data() + header.size() + bytesARow * static_cast<std::size_t>(y);
         for (std::int64_t x = 0; x < width; ++x) {
             skipToDigit();
-            if (at >= file.size()) return; // too short: the reader says so
+            if (at >= file.size()) return; // too short: the reader reports that
             if (file.byte(at++) == '1') row[x / 8] |= static_cast<std::uint8_t>(128 >> x % 8);
         }
     }
@@ -150,7 +150,7 @@ void mendPcx(FileBytes& file)
         std::fill_n(flat.data() + to, run, static_cast<std::uint8_t>(isRun ? file.byte(at++) : first));
         to += run;
     }
-    if (to < end) return; // the reader finds it cut off
+    if (to < end) return; // the reader will find it truncated
     file.replace(std::move(flat));
 }
 
@@ -203,7 +203,7 @@ void mendRas(FileBytes& file)
             for (std::size_t part = 0; part < 3; ++part) to[part] = reds[colours * (2 - part) + index]; // blue first
         }
         if (width % 2) next();
-        if (at > file.size()) { // the rest is black, and the reader finds the end missing
+        if (at > file.size()) { // the rest is black, and the reader will find the end missing
             std::fill_n(to - 3 * width, bytesARow, std::uint8_t{0});
             flat.pop_back();
             break;
@@ -222,7 +222,7 @@ void mendIff(FileBytes& file)
         const std::uint32_t length = file.big32(at + 4);
         if (length >= kBackward) putBig32(file.bytes(), at + 4, 0);
         const std::size_t end = at + kChunkHeader + length + length % 2;
-        at = end <= file.size() ? end : at + kChunkHeader; // where the reader goes on
+        at = end <= file.size() ? end : at + kChunkHeader; // where the reader continues
     }
     putBig32(file.bytes(), 0, 0);
 }

@@ -1,23 +1,24 @@
-// Valid files that FreeImage refuses or dies of, made into ones that it reads, and those that it reads for ever, made
-// into ones that it refuses, in memory. Each mend leaves alone what is not its case.
+// In memory, turns valid files that FreeImage refuses or crashes on into ones that it reads, and files on which it
+// loops endlessly into ones that it refuses. Each mend leaves other files unchanged.
 #pragma once
 #include "fileio/decode/FileBytes.h"
 
 namespace velara::decode {
 
-/// A 52- to 124-byte header becomes the 40-byte one that it begins with; the palette moves to follow it.
+/// A 52- to 124-byte header becomes the 40-byte one that it begins with; the palette is moved to follow it.
 void mendBmp(FileBytes& file);
-/// Metadata segments, whose parser reads beyond them, become segments that nobody parses. The mark of
-/// the end, which some cameras forget, is added: without it a picture would pass for cut off.
+/// Metadata segments, whose parser reads beyond them, become segments that are not parsed. A missing end marker, which
+/// some cameras omit, is added: without it a picture would count as truncated.
 void mendJpeg(FileBytes& file);
-/// Plain bit maps, which may come without blanks between the pixels, become raw ones.
+/// Plain bitmaps, which may have no blanks between the pixels, become raw ones.
 void mendPnm(FileBytes& file);
-/// Run-length encoded true colour pictures become flat ones: the reader loses runs that go on into the next row. A
-/// window of one column or row, which is refused, becomes one of two; the second holds nothing of the picture.
+/// Run-length encoded true colour pictures become uncompressed: the reader loses runs that continue into the next row.
+/// A window of one column or row, which is refused, becomes one of two; the second holds no pixels of the picture.
 void mendPcx(FileBytes& file);
 /// Palette pictures become true colour ones: a full palette of 256 is refused.
 void mendRas(FileBytes& file);
-/// Without a body its reader looks for one for ever, and a chunk of more than two gigabytes leads it back.
+/// Without a BODY chunk the reader searches for one endlessly, and a chunk of more than two gigabytes makes it go
+/// backwards.
 void mendIff(FileBytes& file);
 
 } // namespace velara::decode

@@ -17,7 +17,7 @@ using RowMaker = std::function<void(const std::uint8_t* from, Pixel* row)>;
 
 Dib owned(FIBITMAP* dib) { return dib ? Dib(dib, FreeImage_Unload) : Dib(); }
 
-/// FreeImage, open while an object lives; keeps what it says.
+/// FreeImage, initialised while an object lives; keeps its messages.
 class Library {
   public:
     Library()
@@ -36,7 +36,7 @@ class Library {
     }
 };
 
-/// Reads from memory by routines that are quicker than FreeImage's own, which some readers call for every pixel.
+/// Reads from memory, faster than FreeImage's own routines, which some readers call for every pixel.
 class Stream {
   public:
     explicit Stream(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
@@ -47,8 +47,8 @@ class Stream {
         FreeImageIO io{read, write, seek, tell};
         return owned(FreeImage_LoadFromHandle(static_cast<FREE_IMAGE_FORMAT>(fif), &io, this, flags));
     }
-    /// True when the last load wanted more than there is. A reader that reads ahead, block by block, may meet the end
-    /// of a file that is whole, but asks for no more then.
+    /// True when the last load asked for more than there is. A reader with read-ahead may meet the end of an intact
+    /// file, but asks for nothing after that.
     bool ranDry(bool readsAhead) const { return timesEmpty_ > 0 || (timesShort_ > 0 && !readsAhead); }
 
   private:
@@ -61,7 +61,7 @@ class Stream {
             count = static_cast<unsigned>(left / size);
             ++(left == 0 ? stream.timesEmpty_ : stream.timesShort_);
         }
-        const std::size_t bytes = wanted > left ? left : wanted; // as fread: a part of the last item may come
+        const std::size_t bytes = wanted > left ? left : wanted; // as fread: the last item may be partial
         std::memcpy(to, stream.bytes_.data() + stream.at_, bytes);
         stream.at_ += bytes;
         return count;
@@ -83,11 +83,11 @@ class Stream {
     int timesShort_ = 0, timesEmpty_ = 0;
 };
 
-// --- Sizes out of headers, for the readers that can't give them without the pixels
+// --- Sizes from headers, for the readers that can't give them without the pixels
 
 struct Size {
     std::int64_t width = 0, height = 0;
-    int bits = 0; // of a pixel; 0: not known
+    int bits = 0; // per pixel; 0: unknown
 };
 
 Size sizeOfIff(const FileBytes& file) // FORM, length, type, then chunks: name, length, contents padded to even
@@ -142,7 +142,7 @@ Size sizeOf(const FileBytes& file, Stream& stream, int fif)
             static_cast<int>(FreeImage_GetBPP(header.get()))};
 }
 
-// --- Rows of every depth as blue, green, red, 0
+// --- Rows of every depth converted to blue, green, red, 0
 
 std::array<Pixel, 256> paletteOf(FIBITMAP* dib)
 {
@@ -167,7 +167,7 @@ RowMaker palettedRows(FIBITMAP* dib, int width, int bits)
 void expand24(const std::uint8_t* from, Pixel* row, int width)
 {
     int x = 0;
-    for (; x < width - 1; ++x, from += 3) { // four bytes at once, as long as the fourth is in the row
+    for (; x < width - 1; ++x, from += 3) { // four bytes at a time, while the fourth is inside the row
         std::uint32_t four;
         std::memcpy(&four, from, 4);
         four &= 0xffffff;
@@ -189,15 +189,15 @@ RowMaker trueColourRows(FIBITMAP* dib, int width, int bits)
             FreeImage_ConvertLine16To32_565(to, source, width);
         else
             FreeImage_ConvertLine16To32_555(to, source, width);
-        for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour under a transparent pixel shows
+        for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour of transparent pixels is shown
     };
 }
 
-/// Light of 0 to 1; what is brighter is white.
+/// Light of 0 to 1; brighter values become white.
 template <class Colour> RowMaker floatRows(int width)
 {
     return [=](const std::uint8_t* from, Pixel* row) {
-        const auto byte = [](float light) { // what is no number is black
+        const auto byte = [](float light) { // not-a-number becomes black
             return static_cast<std::uint8_t>(light > 0 ? std::min(light, 1.0F) * 255 + 0.5F : 0.0F);
         };
         const auto* colours = reinterpret_cast<const Colour*>(from);
@@ -206,7 +206,7 @@ template <class Colour> RowMaker floatRows(int width)
     };
 }
 
-/// Depths that have no rows of their own become one that has.
+/// Converts depths without a row reader of their own to one that has it.
 Dib simplified(const Dib& dib)
 {
     switch (FreeImage_GetImageType(dib.get())) {
@@ -215,7 +215,7 @@ Dib simplified(const Dib& dib)
     case FIT_RGBAF:
         return dib;
     case FIT_UINT16:
-        return owned(FreeImage_ConvertTo8Bits(dib.get())); // the high byte, as for colours of 16 bits
+        return owned(FreeImage_ConvertTo8Bits(dib.get())); // the high byte, as for 16-bit colours
     case FIT_RGB16:
     case FIT_RGBA16:
         return owned(FreeImage_ConvertTo24Bits(dib.get()));
@@ -233,7 +233,7 @@ RowMaker rowsOf(FIBITMAP* dib, int width)
     return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
 }
 
-/// A number among the texts of a PNG file; 0: there is none.
+/// A number in a text entry of a PNG file; 0: there is none.
 long long numberIn(FIBITMAP* dib, const char* key)
 {
     FITAG* tag = nullptr;
@@ -251,7 +251,7 @@ Origin originOf(FIBITMAP* dib)
     return {numberIn(dib, "Thumb::MTime"), side("Thumb::Image::Width"), side("Thumb::Image::Height")};
 }
 
-/// A file whose end is missing; most readers give black or grey for the rest and say nothing.
+/// A file whose end is missing; most readers fill the rest with black or grey and report nothing.
 bool isCutOff(const Stream& stream, int fif)
 {
     if (fif == FIF_JPEG) return Library::said().find("premature end of data segment") != std::string::npos;
@@ -270,7 +270,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
 
     sizeFound(size.width, size.height, size.bits);
     Dib dib = stream.load(fif, 0);
-    const QString note = isCutOff(stream, fif) ? kCutOff : ""; // what there is can be shown
+    const QString note = isCutOff(stream, fif) ? kCutOff : ""; // the available part can be shown
     const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};

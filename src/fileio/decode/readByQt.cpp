@@ -30,7 +30,7 @@ Needs loadQtReaders()
 
 Needs loadIconReaders()
 {
-    // A picture inside an icon may be a PNG, which Qt finds by asking all readers in turn.
+    // An icon may contain a PNG, which Qt finds by trying all readers in turn.
     QByteArray unknown(8, '\0');
     QBuffer buffer(&unknown);
     buffer.open(QIODevice::ReadOnly);
@@ -58,7 +58,7 @@ Decoded onWhite(const QImage& image)
 
 namespace {
 
-/// Qt takes no notice of the mask below a picture of 24 bits in an icon: what it masks becomes transparent here.
+/// Qt ignores the mask of a 24-bit picture in an icon: masked pixels become transparent here.
 QImage masked(const QImage& image, const FileBytes& file)
 {
     constexpr std::size_t kFirstOffset = 6 + 12, kHeader = 40, kBits = 14;
@@ -72,7 +72,7 @@ QImage masked(const QImage& image, const FileBytes& file)
         auto* to = reinterpret_cast<QRgb*>(out.scanLine(static_cast<int>(y)));
         const std::size_t mask = at + kHeader + lineOf(24 * width) * height + lineOf(width) * (height - 1 - y);
         for (std::size_t x = 0; x < width; ++x)
-            to[x] = file.byte(mask + x / 8) << x % 8 & 0x80 ? 0 : from[x]; // the file has the lowest row first
+            to[x] = file.byte(mask + x / 8) << x % 8 & 0x80 ? 0 : from[x]; // the file has the bottom row first
     }
     return out;
 }
@@ -87,7 +87,7 @@ Decoded readByQt(FileBytes& file, const char* format, int bits)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
-    QImageReader::setAllocationLimit(0); // the limits here are ours
+    QImageReader::setAllocationLimit(0); // we have limits of our own
     const QSize size = reader.size();
     if (size.isValid() && !Bits::sizeAllowed(size.width(), size.height()))
         return size.isEmpty() ? Decoded{} : refused(kTooBig);
@@ -98,20 +98,20 @@ Decoded readByQt(FileBytes& file, const char* format, int bits)
     return onWhite(reader.format() == "ico" || reader.format() == "cur" ? masked(image, file) : image);
 }
 
-// Qt's readers of both give what there is of a file without its end and say nothing.
+// Qt's readers of both return the available part of a truncated file and report nothing.
 namespace {
 
 bool isGifCutOff(const FileBytes& file)
 {
     constexpr std::size_t kHeader = 13, kImageHeader = 10;
     enum Block : std::uint32_t { Extension = 0x21, Image = 0x2c };
-    const auto colours = [&](std::size_t flagsAt) { // bytes of the palette that the flags announce
+    const auto colours = [&](std::size_t flagsAt) { // bytes of the palette announced by the flags
         const std::uint32_t flags = file.byte(flagsAt);
         return flags & 0x80 ? std::size_t{3} << ((flags & 7) + 1) : 0;
     };
     for (std::size_t at = kHeader + colours(kHeader - 3); at < file.size();) {
         const std::uint32_t block = file.byte(at);
-        if (block != Extension && block != Image) return false; // damaged, but not cut off
+        if (block != Extension && block != Image) return false; // damaged, but not truncated
         at += block == Extension ? 2 : kImageHeader + colours(at + kImageHeader - 1) + 1;
         while (at < file.size() && file.byte(at) != 0) at += 1 + file.byte(at);
         if (at++ >= file.size()) return true;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kDotsAnInch = 96, kHundredthsAnInch = 2540; // hundredths of a millimetre
 
-/// The header's rectangles: bounds in pixels of the device that it was made for, frame in hundredths of a millimetre.
+/// The header's rectangles: bounds in pixels of the original device, frame in hundredths of a millimetre.
 struct Header {
     QRectF bounds, frame;
     double pixelsAHundredthX = 0, pixelsAHundredthY = 0;
@@ -67,9 +67,9 @@ QByteArray svgOf(FileBytes& file)
 Needs prepareEmf()
 {
     needFonts();
-    iconv_open("UTF-8", "UTF-16LE"); // stays open: the converter asks for it again
+    iconv_open("UTF-8", "UTF-16LE"); // stays open: the converter uses it again
     QImage dot(1, 1, QImage::Format_RGB32);
-    QPainter(&dot).drawText(0, 0, "a"); // the list of fonts, and the plug-ins that draw them
+    QPainter(&dot).drawText(0, 0, "a"); // loads the list of fonts and the plug-ins that draw them
     return Needs::Drawing;
 }
 
@@ -80,7 +80,7 @@ Decoded readEmf(FileBytes& file)
     QSizeF size = header.frame.size() * (kDotsAnInch / kHundredthsAnInch);
     QRectF shown(header.frame.x() * header.pixelsAHundredthX, header.frame.y() * header.pixelsAHundredthY,
                  header.frame.width() * header.pixelsAHundredthX, header.frame.height() * header.pixelsAHundredthY);
-    if (shown.isEmpty()) { // no frame: a pixel is a pixel
+    if (shown.isEmpty()) { // no frame: one unit per pixel
         shown = header.bounds;
         size = shown.size();
     }

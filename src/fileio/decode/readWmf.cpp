@@ -13,7 +13,7 @@ namespace {
 constexpr double kDotsAnInch = 96;
 constexpr double kTwipsAnInch = 1440;
 
-/// The window that the records before the first drawing lay out, in the file's own units; 0 by 0 when there is none.
+/// The window set by the records before the first drawing, in the file's own units; 0 by 0 when there is none.
 struct Window {
     double width = 0, height = 0;
     bool isPlaceable = false; // the header gives a size in inches
@@ -39,15 +39,15 @@ Window windowOf(const FileBytes& file)
     return window;
 }
 
-/// libwmf lays the window out on 1024 by 1024 and its scan finds what is drawn of it. A drawing inside its window keeps
-/// its place there; one that goes beyond is shown whole.
+/// libwmf maps the window to 1024 by 1024, and its scan finds the drawing's extent. A drawing inside its window keeps
+/// its position there; one that exceeds it is shown whole.
 bool isInsideWindow(const wmfD_Rect& drawn)
 {
     constexpr float kSide = 1024, kPen = 1;
     return drawn.TL.x >= -kPen && drawn.TL.y >= -kPen && drawn.BR.x <= kSide + kPen && drawn.BR.y <= kSide + kPen;
 }
 
-/// Pixels of a window that has no size in inches: one a unit, or twips when that is more than a screen.
+/// Pixels of a window without a size in inches: one per unit, or as twips if that is more than a screen.
 double pixelsOf(double units) { return units <= 2048 ? units : units * kDotsAnInch / kTwipsAnInch; }
 
 struct Player {
@@ -69,7 +69,7 @@ struct Player {
     wmfAPI* api = nullptr;
 };
 
-std::shared_ptr<Player> prepared; // with its lists of fonts; inside the cage they are out of reach
+std::shared_ptr<Player> prepared; // with its font lists, which are inaccessible inside the cage
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// What the readers of the formats share. Each reads bytes that are in memory; decode.cpp names them in its table.
+// Shared by the readers of the formats. Each reads bytes in memory; decode.cpp lists them in its table.
 #pragma once
 #include "fileio/decode/FileBytes.h"
 #include "fileio/decode/decode.h"
@@ -12,7 +12,7 @@ Decoded onWhite(const QImage& image);
 
 /// fif is FreeImage's format number.
 Decoded readByFreeImage(FileBytes& file, int fif);
-/// format is the name of Qt's reader; drawn on white. bits of a pixel in the file, 0: they differ.
+/// format is the name of Qt's reader; drawn on white. bits per pixel in the file; 0: they differ.
 Decoded readByQt(FileBytes& file, const char* format, int bits = 0);
 const char* const kCutOff = "it is cut off: its end is missing";
 const char* const kTooBig = "it is wider or higher than 32767 pixels, or has more than 268 million pixels";

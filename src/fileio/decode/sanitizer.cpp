@@ -11,9 +11,9 @@ namespace velara::decode {
 namespace {
 
 constexpr int kLibraryFault = 97;
-constexpr std::array<std::string_view, 4> kBelow = {"libasan", "libc.so", "libstdc++", "libgcc"}; // called by either
+constexpr std::array<std::string_view, 4> kBelow = {"libasan", "libc.so", "libstdc++", "libgcc"}; // called by both
 
-/// The program or library of a line of a stack, "#1 0x... in f (/usr/lib/libx.so.3+0x12)"; empty for other lines.
+/// The program or library in a line of a stack, "#1 0x... in f (/usr/lib/libx.so.3+0x12)"; empty for other lines.
 std::string_view moduleOf(std::string_view line)
 {
     const auto frame = line.find_first_not_of(' ');
@@ -22,8 +22,8 @@ std::string_view moduleOf(std::string_view line)
     return begin == line.npos || end == line.npos ? std::string_view() : line.substr(begin + 1, end - begin - 1);
 }
 
-/// Whose the memory is that was touched wrongly, by the first stack of the report: the library's too when it called us
-/// back to write into a buffer of its own.
+/// Whether the first stack of the report blames a library: also when it called back into our code, writing to a buffer
+/// of its own.
 bool isTheLibrarys(std::string_view text)
 {
     const bool isWrite = text.find("WRITE of size") != text.npos;

@@ -1,11 +1,10 @@
-// Builds with the address sanitizer: what it finds inside the libraries that read pictures is what the process is
-// thrown away for; what it finds in our own code ends the process with the sanitizer's exit code, and no test passes
-// over that.
+// Builds with the address sanitizer: faults inside the libraries that read pictures are expected, the process being
+// disposable; faults in our own code end the process with the sanitizer's exit code, which no test tolerates.
 #pragma once
 
 namespace velara::decode {
 
-/// Nothing in other builds.
+/// Does nothing in other builds.
 void tellOurFaultsFromTheLibraries();
 
 } // namespace velara::decode

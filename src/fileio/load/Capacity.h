@@ -1,5 +1,5 @@
-// Capacity: how much of a picture a file can hold, by its bytes and the best packing of its format. A header costs
-// nothing to write, so what it claims is believed no further than this.
+// Capacity: an upper bound of the pixels in a file, from its bytes and the best packing of its format. A header costs
+// nothing to write, so its claims are believed only up to this.
 #pragma once
 #include <QString>
 #include <cstdint>
@@ -8,17 +8,17 @@ namespace velara {
 
 class Capacity {
   public:
-    /// extension in lower case; one that no format has holds anything.
+    /// extension in lower case; an unknown one has no bound.
     Capacity(const QString& extension, std::int64_t bytes);
 
-    /// Pixels of so many bits (1 to 128; others count as 1) that the file can hold at most.
+    /// The most pixels of the given bits (1 to 128; others count as 1) that the file can hold.
     std::int64_t pixels(int bits) const;
-    /// False when less than a thousandth of so many pixels can be there. Of a file that is cut off, more than that is
+    /// False when the file can hold less than a thousandth of the pixels. A truncated file with more than that is
     /// shown.
     bool mayClaim(std::int64_t pixels, int bits) const;
 
   private:
-    std::int64_t bytes_; // of pixels
+    std::int64_t bytes_; // available for pixels
 };
 
 } // namespace velara

@@ -1,12 +1,12 @@
-// What velara-decode and the program that started it say to each other.
+// The protocol between velara-decode and the program that started it.
 //
 //   velara-decode EXTENSION, with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4 and the
 //   picture file, open for reading, at descriptor 5
 //
-// The child may send a claim, which is the size and the depth that the header gives. Then it sends an Opening: size, or
-// the reason why the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows
-// as fit, and sends the number of the first row of each. The parent copies the rows and gives every slot back with one
-// byte. So the picture never exists twice, and the memory between them stays in the cache.
+// The child may send a claim: the size and depth given by the header. Then it sends an Opening: size, or the reason why
+// the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and
+// sends the number of the first row of each. The parent copies the rows and returns every slot with one byte. So the
+// picture is never in memory twice, and the shared memory stays in the cache.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
@@ -23,18 +23,18 @@ constexpr std::size_t kSlots = 4;
 constexpr std::size_t kSlotBytes = 256 << 10; // a row of the widest picture takes half of it
 constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 
-/// First message of the child. Width and height 0: reason says in UTF-8, zero-terminated, why there is no picture.
+/// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {
     std::uint32_t magic;
     std::int32_t width, height;
     char reason[224];
-    std::int32_t bits = 0; // of a pixel, in a claim; 0: not known
+    std::int32_t bits = 0; // per pixel, in a claim; 0: unknown
     Origin origin = {};
 };
 constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"
 constexpr std::uint32_t kClaim = 0x31434c56; // "VLC1"
 
-/// Rows of W pixels, without margin, that a slot holds.
+/// The number of rows of W pixels, without margin, that fit into a slot.
 constexpr int rowsInSlot(int width) { return static_cast<int>(kSlotBytes / (sizeof(Pixel) * width)); }
 static_assert(rowsInSlot(Bits::kMostASide) > 0);
 

@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kBetweenLooks = 50ms;
-constexpr int kFirstFree = 10; // our ends stay clear of the numbers that the child expects
+constexpr int kFirstFree = 10; // keeps our ends clear of the numbers that the child uses
 
 Descriptor movedUp(int fd)
 {
@@ -34,7 +34,7 @@ Descriptor movedUp(int fd)
     return Descriptor(fcntl(fd, F_DUPFD_CLOEXEC, kFirstFree));
 }
 
-/// Shared memory that neither side can shrink under the other.
+/// Shared memory that neither side can shrink.
 Descriptor sharedMemory()
 {
     Descriptor memory = movedUp(memfd_create("velara-decode", MFD_CLOEXEC | MFD_ALLOW_SEALING));
@@ -56,7 +56,7 @@ void limit(pid_t pid, const DecoderLimits& limits)
     limit(pid, RLIMIT_AS, limits.memory, limits.memory);
     limit(pid, RLIMIT_FSIZE, 0, 0);
 #endif
-    limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.mostSeconds + 1); // the hard limit can't be raised for a claim
+    limit(pid, RLIMIT_CPU, limits.cpuSeconds, limits.mostSeconds + 1); // the hard limit can't be raised after a claim
     limit(pid, RLIMIT_CORE, 0, 0);
 }
 
@@ -112,11 +112,11 @@ void DecoderProcess::claim(std::int64_t pixels)
 namespace {
 
 struct Doing {
-    bool idle = false; // asleep or stopped, and not just waiting for a processor or for the disk
+    bool idle = false; // asleep or stopped, not just waiting for a processor or the disk
     long seconds = 0;  // of processor time
 };
 
-/// Of all its threads: while one draws for it, the first may sleep.
+/// Of all its threads: while one draws, the main thread may sleep.
 Doing doingOf(pid_t pid)
 {
     const QString tasks = QString("/proc/%1/task").arg(pid);
@@ -142,8 +142,8 @@ std::optional<DecoderProcess::Wait> DecoderProcess::look(bool silent)
     using namespace std::chrono;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
     const Doing doing = doingOf(pid_);
-    if (doing.idle && silent) ++idleLooks_; // a child that has sent something may wait for us
-    if (doing.seconds > limits_.cpuSeconds + 1) return Wait::TimedOut; // it turns the soft limit's signal away
+    if (doing.idle && silent) ++idleLooks_; // a child that has sent something may be waiting for us
+    if (doing.seconds > limits_.cpuSeconds + 1) return Wait::TimedOut; // the child is ignoring the soft limit's signal
     if (waited >= limits_.wallClock || idleLooks_ * kBetweenLooks >= limits_.idle) return Wait::TimedOut;
     if (goOn_ && !goOn_(waited)) return Wait::Stopped;
     nextLook_ = steady_clock::now() + kBetweenLooks;
@@ -161,7 +161,8 @@ DecoderProcess::Wait DecoderProcess::receive(void* message, std::size_t size)
             if (const auto end = look(ready == 0)) return *end;
         if (ready == 0 || (ready < 0 && errno == EINTR)) continue;
         const ssize_t got = ready < 0 ? -1 : recv(socket_.get(), message, size, MSG_DONTWAIT | MSG_TRUNC);
-        // A child that ended without reading all our bytes resets the line once; its messages still wait behind that.
+        // A child that ended without reading all our bytes resets the connection once; its messages are still readable
+        // afterwards.
         if (got < 0 && (errno == EINTR || errno == EAGAIN || errno == ECONNRESET)) continue;
         if (got <= 0) return Wait::Ended;
         return got == static_cast<ssize_t>(size) ? Wait::Message : Wait::Nonsense;
@@ -171,7 +172,7 @@ DecoderProcess::Wait DecoderProcess::receive(void* message, std::size_t size)
 void DecoderProcess::releaseSlot()
 {
     const char token = 0;
-    send(socket_.get(), &token, 1, MSG_DONTWAIT | MSG_NOSIGNAL); // a child that doesn't listen ends in the time limit
+    send(socket_.get(), &token, 1, MSG_DONTWAIT | MSG_NOSIGNAL); // a child that doesn't read hits the time limit
 }
 
 int DecoderProcess::end(std::chrono::milliseconds patience)

@@ -1,4 +1,4 @@
-// One run of velara-decode: descriptors, limits, and an end in any case.
+// One run of velara-decode: descriptors, limits, and guaranteed termination.
 #pragma once
 #include "fileio/load/PictureLoader.h"
 #include <optional>
@@ -7,8 +7,8 @@
 
 namespace velara {
 
-/// While one lives no other process can look into the memory of this one, a child that a picture took over least of
-/// all.
+/// While an object lives, no other process can read the memory of this one, in particular no child that a picture has
+/// taken over.
 class UnreadableByOthers {
   public:
     UnreadableByOthers();
@@ -32,25 +32,26 @@ class DecoderProcess {
     bool started() const { return pid_ > 0; }
     /// The shared memory, decode::kMemoryBytes long.
     const std::uint8_t* memory() const { return memory_; }
-    /// Allows the processor time that a picture of so many pixels may take.
+    /// Allows the processor time for a picture of the given pixels.
     void claim(std::int64_t pixels);
-    /// Waits for the next message until a limit; one of another size is nonsense. Stopped: goOn said so. The limits are
-    /// looked at and goOn is asked twenty times a second, at the first call and however many messages come.
+    /// Waits for the next message until a limit; one of another size is Nonsense. Stopped: goOn returned false. The
+    /// limits are checked and goOn is called twenty times a second, from the first call on and however many messages
+    /// come.
     Wait receive(void* message, std::size_t size);
     /// Gives the oldest slot back.
     void releaseSlot();
-    /// Gives the child a moment to end by itself, then kills it. How it ended, as of waitpid; -1 when unknown.
+    /// Gives the child a moment to end by itself, then kills it. Returns its status as of waitpid; -1 when unknown.
     int end(std::chrono::milliseconds patience = {});
 
   private:
-    /// Looks at the limits and asks the caller; how it ends, if it does. silent: no message is waiting.
+    /// Checks the limits and asks the caller; the result if the wait is over. silent: no message is pending.
     std::optional<Wait> look(bool silent);
 
     UnreadableByOthers unreadable_;
     const GoOn& goOn_;
     DecoderLimits limits_;
     std::chrono::steady_clock::time_point started_, nextLook_;
-    int idleLooks_ = 0; // at which the child did nothing
+    int idleLooks_ = 0; // checks at which the child was idle
     Descriptor socket_;
     std::uint8_t* memory_ = nullptr;
     pid_t pid_ = -1;

@@ -1,10 +1,10 @@
-// What a thumbnail, which is a PNG file, says of the picture that it was made of.
+// The information in a thumbnail, which is a PNG file, about its original.
 #pragma once
 #include <cstdint>
 
 namespace velara {
 
-/// Zeros: it says nothing.
+/// Zeros: unknown.
 struct Origin {
     std::int64_t modified = 0; // seconds since 1970
     std::int32_t width = 0, height = 0;

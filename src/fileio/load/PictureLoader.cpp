@@ -26,10 +26,10 @@ using Wait = DecoderProcess::Wait;
 
 constexpr const char* kGivenUp = "reading it was given up";
 constexpr const char* kTooLong = "reading it took too long and was stopped";
-constexpr int kSanitizerSpoke = 99; // the exit code that make test-sanitize asks for
+constexpr int kSanitizerSpoke = 99; // the exit code set by make test-sanitize
 constexpr const char* kNonsense = "the program that reads pictures (velara-decode) gave a false answer";
 
-/// The file, open for reading; reason tells why it makes no sense to start a reader.
+/// Opens the file for reading; reason says why starting a reader would be pointless.
 Descriptor openPicture(const QString& path, QString& reason)
 {
     Descriptor file(open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -43,7 +43,7 @@ Descriptor openPicture(const QString& path, QString& reason)
     return file;
 }
 
-/// Its size in bytes, and why it makes no sense to start a reader.
+/// Its size in bytes; returns why starting a reader would be pointless.
 QString faultOfFile(const Descriptor& file, std::int64_t& size)
 {
     struct stat status;
@@ -55,7 +55,7 @@ QString faultOfFile(const Descriptor& file, std::int64_t& size)
     return {};
 }
 
-/// What the end of a child that gave no picture means.
+/// The reason for a child that ended without a picture.
 QString faultOfEnd(int status)
 {
     if (status >= 0 && WIFEXITED(status) && WEXITSTATUS(status) == 127)
@@ -100,17 +100,17 @@ void clearMarginRow(Bits& bits, int y)
     std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * static_cast<std::size_t>(bits.stride()));
 }
 
-/// Takes so many rows of the picture's width, top first.
+/// Takes `count` rows of the picture's width, top down.
 using RowTaker = std::function<void(const Pixel* rows, int first, int count)>;
 /// Called once the size is known.
 using Begin = std::function<RowTaker(const decode::Opening& opening)>;
 
 struct Ending {
-    bool whole;     // all rows have been taken
-    QString reason; // why not, or why the picture is not all there
+    bool whole;     // all rows have arrived
+    QString reason; // why not, or why the picture is incomplete
 };
 
-/// The rows out of the slots, as the child fills them.
+/// Receives the rows from the slots as the child fills them.
 Ending receiveRows(DecoderProcess& child, int width, int height, const RowTaker& take)
 {
     const int most = decode::rowsInSlot(width);
@@ -127,7 +127,7 @@ Ending receiveRows(DecoderProcess& child, int width, int height, const RowTaker&
     return {true, {}};
 }
 
-/// Why a picture of that size, or the claim of one, is not taken.
+/// Why a picture of that size, or a claim of it, is refused.
 QString faultOfSize(const decode::Opening& opening, const Capacity& capacity)
 {
     const std::int64_t width = opening.width, height = opening.height;

@@ -1,5 +1,5 @@
-// Reads picture files through velara-decode: one disposable child a file, under limits, so that a damaged file can cost
-// nothing but the child.
+// Reads picture files through velara-decode: one disposable child per file, with limits, so that a damaged file can
+// ruin nothing but the child.
 #pragma once
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/Origin.h"
@@ -13,19 +13,19 @@ constexpr unsigned kMostSeconds = 60; // of processor time, for any picture
 
 struct DecoderLimits {
     std::size_t memory = std::size_t{4} << 30;  // bytes of address space
-    unsigned cpuSeconds = 2;                    // processor time; some readers loop for ever on damaged files
-    unsigned mostSeconds = kMostSeconds;        // of it, for a picture that claims many pixels
-    std::chrono::milliseconds idle{2000};       // asleep or stopped, in all
+    unsigned cpuSeconds = 2;                    // processor time; some readers loop endlessly on damaged files
+    unsigned mostSeconds = kMostSeconds;        // the most of it, for a picture that claims many pixels
+    std::chrono::milliseconds idle{2000};       // asleep or stopped, in total
     std::chrono::milliseconds wallClock{90000}; // from start to the last row
 };
 
-/// What a file of so many bytes may take: 2 seconds of processor time below a megabyte; else 15 and one more for each
-/// megabyte, up to a minute.
+/// The limits for a file of the given bytes: 2 seconds of processor time below a megabyte; otherwise 15 plus one for
+/// each megabyte, up to a minute.
 DecoderLimits limitsFor(std::int64_t fileSize);
-/// Processor time that a picture of so many pixels may take, whatever its file's size: 2 to 60 seconds.
+/// Processor time for a picture of the given pixels, whatever its file's size: 2 to 60 seconds.
 unsigned secondsFor(std::int64_t pixels);
 
-/// A helper program's path: beside the running executable, or where an installation puts it. Empty when it is nowhere.
+/// A helper program's path: beside the running executable, or where an installation puts it. Empty when not found.
 QString findHelper(const QString& name);
 inline QString findDecoder() { return findHelper("velara-decode"); }
 
@@ -33,19 +33,19 @@ inline QString findDecoder() { return findHelper("velara-decode"); }
 /// reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
                                  const DecoderLimits& limits = {}, const GoOn& goOn = {});
-/// The same for what is open for reading already; name is what the reason calls it.
+/// The same for a file already open for reading; name is used in the reason.
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {});
 
-/// A picture scaled down into a box, and what else is to be known of it.
+/// A picture scaled down to fit a box, with its properties.
 struct SmallPicture {
     QImage image; // 32 bits without alpha; null: it can't be read
     QSize size;   // of the picture itself
     Origin origin;
-    QString reason; // as of loadThroughDecoder
+    QString reason; // as for loadThroughDecoder
 };
 
-/// The picture is scaled down as it comes in and never exists at its full size. For any thread.
+/// Scales the picture down while it is read, so that it never exists at full size. Callable from any thread.
 SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
                        const DecoderLimits& limits = {}, const GoOn& goOn = {});
 

@@ -6,7 +6,7 @@ namespace velara {
 
 namespace {
 
-/// Blocks that still leave a picture at least as large as the target.
+/// The largest block that still leaves the picture at least as large as the target.
 int blockFor(QSize picture, QSize target)
 {
     return std::max(1, std::min(picture.width() / target.width(), picture.height() / target.height()));

@@ -8,7 +8,7 @@ namespace velara {
 
 class Shrinker {
   public:
-    /// The picture of this size becomes one that fits the box; none is enlarged.
+    /// Scales a picture of this size to fit the box; never enlarges.
     Shrinker(QSize picture, QSize box);
     /// The next row, from the top.
     void take(const Pixel* row);
@@ -19,9 +19,9 @@ class Shrinker {
     void putOut();
 
     QSize picture_, target_;
-    int block_;                       // so many pixels across and down become one, before the finer scaling
-    std::vector<std::uint64_t> sums_; // blue, green and red of the blocks under way
-    int rows_ = 0, done_ = 0;         // in the blocks under way; block rows put out
+    int block_;                       // block_ by block_ pixels are averaged before the finer scaling
+    std::vector<std::uint64_t> sums_; // blue, green and red of the current blocks
+    int rows_ = 0, done_ = 0;         // rows in the current blocks; finished block rows
     QImage image_;
 };
 

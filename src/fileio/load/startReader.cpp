@@ -12,11 +12,11 @@ namespace velara {
 
 namespace {
 
-/// The child learns nothing of the session. It needs no screen, and big pictures cost it fewer page faults in huge
-/// pages.
+/// The child gets no information about the session. It needs no screen, and huge pages save it page faults with large
+/// pictures.
 std::vector<std::string> childEnvironment()
 {
-    // Its toolkit wants a folder for the run, which it makes where temporary files go: there it can't.
+    // Qt wants a runtime folder, which it makes where temporary files go: there it can't.
     std::vector<std::string> environment = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen",
                                             "TMPDIR=/proc/none"};
 #ifdef __SANITIZE_ADDRESS__
@@ -45,8 +45,8 @@ pid_t spawn(const ReaderStart& start)
     posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-#ifndef __SANITIZE_ADDRESS__                                                 // its reports are heard
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // libraries chatter about odd tags
+#ifndef __SANITIZE_ADDRESS__                                                 // its reports are wanted
+    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0); // libraries print messages about odd tags
 #endif
     posix_spawn_file_actions_adddup2(&actions, start.socket, decode::kSocket);
     posix_spawn_file_actions_adddup2(&actions, start.memory, decode::kMemory);
@@ -58,7 +58,7 @@ pid_t spawn(const ReaderStart& start)
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETPGROUP);
     posix_spawnattr_setsigdefault(&attributes, &all);
     posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setpgroup(&attributes, 0); // a group of its own, killed whole
+    posix_spawnattr_setpgroup(&attributes, 0); // a process group of its own, to be killed as a whole
     pid_t pid = -1;
     if (posix_spawn(&pid, arguments[0].c_str(), &actions, &attributes, pointersTo(arguments).data(),
                     pointersTo(environment).data()) != 0)

@@ -1,5 +1,4 @@
-// How a velara-decode comes to life: with its three descriptors, an environment that tells nothing, and no other thing
-// of ours.
+// Starts a velara-decode with its three descriptors, an environment without information, and nothing else of ours.
 #pragma once
 #include <QString>
 #include <sys/types.h>
@@ -8,11 +7,11 @@ namespace velara {
 
 struct ReaderStart {
     QString decoder, extension;
-    int socket, memory, file; // become decode::kSocket, kMemory, kPicture; all above those numbers
+    int socket, memory, file; // become decode::kSocket, kMemory, kPicture; all must be above those numbers
 };
 
-/// The process, a child of this one and a group of its own; -1 when none can be started. Who reads very many pictures
-/// may put another way in.
+/// The process, a child of this one and leader of its own group; -1 when none can be started. Replaceable by programs
+/// that read very many pictures.
 extern pid_t (*startReader)(const ReaderStart& start);
 
 } // namespace velara

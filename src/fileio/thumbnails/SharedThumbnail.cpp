@@ -15,9 +15,9 @@ namespace {
 
 constexpr const char* kSizes[] = {"normal", "large", "x-large", "xx-large"};
 constexpr const char* kOurFailures = "fail/velara-studio";
-constexpr int kSettleSeconds = 2; // times are told in seconds: what changes within one looks unchanged
+constexpr int kSettleSeconds = 2; // times are whole seconds: a change within one is not noticed
 
-/// Of the user alone, as all of the cache.
+/// Accessible to the user only, like the whole cache.
 bool makeFolder(const QString& path)
 {
     if (QFileInfo(path).isDir()) return true;

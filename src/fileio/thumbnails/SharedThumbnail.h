@@ -1,5 +1,5 @@
-// SharedThumbnail: a picture's entries in the cache of thumbnails that the programs of a desktop share, by the
-// freedesktop standard. Entries are PNG files, and others may have made them: they are read as any picture is.
+// SharedThumbnail: a picture's entries in the desktop's shared thumbnail cache, by the freedesktop standard. Entries
+// are PNG files that may come from others: they are read like any picture.
 #pragma once
 #include "fileio/load/Origin.h"
 #include <QImage>
@@ -13,15 +13,15 @@ class SharedThumbnail {
     /// picture: the path of a file.
     explicit SharedThumbnail(const QString& picture);
 
-    /// The files that may hold one, least first; those that exist.
+    /// The existing files that may hold one, smallest first.
     QStringList entries() const;
-    /// The note that this program couldn't read the picture; may not exist.
+    /// The file that records that this program couldn't read the picture; may not exist.
     QString failure() const;
-    /// Whether an entry that says this was made of the picture as it is now.
+    /// Whether an entry with this origin was made from the present state of the picture.
     bool isMadeOf(const Origin& origin) const { return origin.modified == modified_; }
 
-    /// image fits Previews::kThumbnailSide; size is that of the picture. Nothing happens where it can't be written, nor
-    /// for a file that is only just being written, or is an entry itself.
+    /// image fits Previews::kThumbnailSide; size is that of the picture. Does nothing where the cache isn't writable,
+    /// for a file modified just now, and for an entry of the cache itself.
     void write(const QImage& image, QSize size) const;
     void writeFailure() const;
 
@@ -32,7 +32,7 @@ class SharedThumbnail {
     qint64 modified_, bytes_;
 };
 
-/// "file:///..." with all that isn't plain in percent signs, as the desktop's programs write it.
+/// "file:///...", percent-encoded as the desktop's programs do it.
 QString fileUri(const QString& path);
 
 } // namespace velara

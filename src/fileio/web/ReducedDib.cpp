@@ -10,13 +10,13 @@ namespace {
 void fillPalette(FIBITMAP* dib, const std::vector<Colour>& colours)
 {
     RGBQUAD* palette = FreeImage_GetPalette(dib);
-    for (unsigned i = 0; i < FreeImage_GetColorsUsed(dib); ++i) { // black behind the colours
+    for (unsigned i = 0; i < FreeImage_GetColorsUsed(dib); ++i) { // black after the colours
         const Colour c = i < colours.size() ? colours[i] : 0;
         palette[i] = {std::uint8_t(blueOf(c)), std::uint8_t(greenOf(c)), std::uint8_t(redOf(c)), 0};
     }
 }
 
-/// Indices of so many bits each, the first one in the highest.
+/// Packs indices of the given bits, the first one in the highest bits.
 void packRow(const std::uint8_t* from, std::uint8_t* to, int width, int bits)
 {
     if (bits == 8) {

@@ -6,8 +6,7 @@
 
 namespace velara {
 
-/// Of 1, 4, 8, 16 (five bits a channel) or 24 bits a pixel; get() is null for other bit counts and when memory is
-/// short.
+/// 1, 4, 8, 16 (five bits a channel) or 24 bits per pixel; get() is null for other bit counts and when memory is short.
 class ReducedDib {
   public:
     explicit ReducedDib(const ReducedPicture& picture);
@@ -21,7 +20,7 @@ class ReducedDib {
     std::optional<Dib24> full_;
 };
 
-/// The reduced picture in full colours.
+/// The reduced picture in true colour.
 Bits pictureOf(const ReducedPicture& picture);
 
 } // namespace velara

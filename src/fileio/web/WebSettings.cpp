@@ -12,7 +12,7 @@ constexpr WebEntry kMaps[] = {
 };
 constexpr unsigned kMsMap = 1, kBest = 2, kFixed = 4, kVga = 8, kINet = 16, kMs256 = 32, kGrey = 64;
 constexpr unsigned kFew = kBest | kFixed | kGrey, kMany = kMsMap | kFew | kINet | kMs256;
-constexpr int kCompressed = 16; // the preset in which a choice of palette changes nothing
+constexpr int kCompressed = 16; // the preset in which the choice of palette has no effect
 
 constexpr WebPreset kPresets[] = {
     {"GIF-2 Colors",                1, kCounted, kGifOutput,    kBmp, kMsMap | kFixed,      "2 Colors"},
@@ -50,7 +50,7 @@ struct KindRow {
 };
 constexpr KindRow kKinds[] = { // by FileKind
     {"BMP", "Windows Bitmap Format (*.bmp)|*.bmp"}, {"PNG", "Portable Network Graphics (*.png)|*.png"},
-    {"TGA", "Targa Format (*.tga)|*.tga"},          {"TIF", "Tagged Image Format (*.tif)|*.tif)"}, // its bracket too many stays
+    {"TGA", "Targa Format (*.tga)|*.tga"},          {"TIF", "Tagged Image Format (*.tif)|*.tif)"}, // extra bracket: kept
     {"PCX", "PCX Format (*.pcx)|*.pcx"},
 };
 // clang-format on

@@ -1,5 +1,5 @@
-// What "Save for Web" offers and what is chosen: presets, palettes, dithers, colour modes and JPEG qualities by their
-// texts. The dialog and velara-batch choose by the same rules.
+// The choices of "Save for Web": presets, palettes, dithers, colour modes and JPEG qualities by their texts. The dialog
+// and velara-batch follow the same rules.
 #pragma once
 #include "fileio/web/ColorReducer.h"
 #include <optional>
@@ -8,7 +8,7 @@
 
 namespace velara {
 
-/// What a reduced bitmap becomes afterwards.
+/// The format to which a reduced bitmap is converted.
 enum FileKind { kBmp, kPng, kTga, kTif, kPcx };
 
 struct WebPreset {
@@ -19,12 +19,12 @@ struct WebPreset {
     const char* depthText;
 };
 
-/// An entry of a list and the word that it stands for.
+/// An entry of a list and its word.
 struct WebEntry {
     const char* entry;
     int word;
 };
-constexpr int kUnchanged = -1; // an entry that leaves the word as it was
+constexpr int kUnchanged = -1; // an entry that leaves the word unchanged
 
 std::span<const WebPreset> webPresets();
 std::span<const WebEntry> webMaps();
@@ -36,7 +36,7 @@ constexpr int kGoodQuality = 3; // of webJpegQualities()
 struct WebSettings {
     int preset = 0;
     int OutputKind = kGifOutput, ColorMode = 0, BitCount = 1, PaletteWord = kCounted, DitherWord = 0, FileKind = kBmp;
-    int JpegQuality = 0x100; // a quality class or a percentage, as FreeImage takes it
+    int JpegQuality = 0x100; // a quality class or a percentage, in FreeImage's form
     bool flipH = false, flipV = false, invert = false;
     bool takesDither = true;
 
@@ -44,15 +44,15 @@ struct WebSettings {
     bool isJpeg() const { return row().bitCount == 0; }
     bool isGif() const { return !isJpeg() && row().outputKind == kGifOutput; }
 
-    /// Everything back to what the preset begins with, but for the turns and the inversion.
+    /// Resets everything to the preset, except flips and inversion.
     void choosePreset(int index, bool interlaced);
-    /// The entries of webMaps() that the preset has.
+    /// The entries of webMaps() offered by the preset.
     std::vector<int> maps() const;
-    /// index of webMaps(). Mapped colours take no dither.
+    /// index into webMaps(). Mapped colours take no dither.
     void chooseMap(int index);
-    /// The entry of webMaps() that is in force, or -1.
+    /// The selected entry of webMaps(), or -1.
     int map() const;
-    /// index of webDithers().
+    /// index into webDithers().
     void chooseDither(int index);
     void setInterlaced(bool on);
     int transformFlags() const;
@@ -60,11 +60,11 @@ struct WebSettings {
     /// "GIF", "BMP", "PNG", "TGA", "TIF", "PCX" or "JPG".
     QString typeText() const;
     QString depthText() const { return QLatin1String(row().depthText); }
-    /// The extension by which a reader knows the file.
+    /// The extension that selects the file's reader.
     QString extension() const { return typeText().toLower(); }
-    /// " KB", for JPEG " Kb"; nothing from 32 megabytes on, which a 16-bit number can't count.
+    /// " KB", for JPEG " Kb"; nothing from 32 megabytes on, which a 16-bit number can't hold.
     std::optional<QString> sizeText(std::int64_t bytes) const;
-    /// Of the dialog that asks for a name; empty for an interlaced GIF.
+    /// The filter of the dialog that asks for a name; empty for an interlaced GIF.
     QString saveFilter() const;
 };
 

@@ -16,7 +16,8 @@ namespace {
 
 using Outcome = WebFile::Outcome;
 
-/// Tells progress where nothing may be thrown; false once it has thrown Cancelled. Keeps why a file was not written.
+/// Reports progress from places where exceptions are not allowed; false once progress has thrown Cancelled. Keeps why a
+/// file was not written.
 class Teller {
   public:
     explicit Teller(const ReduceProgress& progress) : progress_(progress) {}

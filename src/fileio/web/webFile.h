@@ -1,4 +1,4 @@
-// Writes what "Save for Web" makes of a picture.
+// Writes the file of "Save for Web".
 #pragma once
 #include "fileio/web/WebSettings.h"
 
@@ -7,25 +7,25 @@ namespace velara {
 struct WebFile {
     enum class Outcome {
         Written,
-        Failed,   // what stood under the name is whole
+        Failed,   // the previous file is intact
         NoBitmap, // the format can't hold the picture
-        Stopped,  // progress threw Cancelled; what stood under the name is whole
+        Stopped,  // progress threw Cancelled; the previous file is intact
     } outcome = Outcome::Failed;
     QString reason = {}; // of a failure, in the system's words; empty where it has none
     std::int64_t bytes = 0;
-    Bits source; // the picture as it was turned and inverted, which the file is to be held against
+    Bits source; // the picture after flips and inversion, to compare the file with
 };
 
-/// progress is told while colours are reduced and while the file is written.
-/// known: palettes that were made for this picture before, so that a change of the dither alone is shown at once.
+/// progress is called while colours are reduced and while the file is written. known: palettes made earlier for this
+/// picture, so that a change of the dither alone is shown at once.
 WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
                      const ReduceProgress& progress = {}, BestPalettes* known = nullptr);
 
-/// The best JPEG percentage, 1 to 100, whose file has at most so many bytes; nothing when none has, or when progress
+/// The best JPEG percentage, 1 to 100, whose file has at most the given bytes; nothing when none has, or when progress
 /// threw Cancelled.
 std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress = {});
 
-/// How near two pictures of one size are, in decibels; infinite when their colours are equal.
+/// The similarity of two pictures of one size, in decibels; infinite when their colours are equal.
 double peakSignalToNoise(const Bits& a, const Bits& b);
 
 } // namespace velara

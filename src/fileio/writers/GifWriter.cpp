@@ -17,7 +17,7 @@ struct FreeMap {
 };
 using ColourMap = std::unique_ptr<ColorMapObject, FreeMap>;
 
-/// The palette, filled up with black to a power of two that is at least that of least.
+/// The palette, padded with black to a power of two that is at least that of least.
 ColourMap mapOf(const std::vector<Colour>& palette, int least)
 {
     std::array<GifColorType, 256> colours{};
@@ -42,7 +42,7 @@ bool writeRows(GifFileType* gif, const IndexedPicture& picture, bool interlaced)
     };
     static constexpr Pass kInterlaced[] = {{0, 8}, {4, 8}, {2, 4}, {1, 2}};
     static constexpr Pass kPlain[] = {{0, 1}};
-    std::vector<GifByteType> row(static_cast<std::size_t>(picture.width)); // giflib masks the row that it is given
+    std::vector<GifByteType> row(static_cast<std::size_t>(picture.width)); // giflib masks the row passed to it
     for (const Pass pass : interlaced ? std::span<const Pass>(kInterlaced) : std::span<const Pass>(kPlain))
         for (int y = pass.first; y < picture.height; y += pass.step) {
             const auto from = picture.indices.begin() + std::ptrdiff_t{y} * picture.width;

@@ -22,7 +22,7 @@ std::array<std::uint8_t, kHeader> headerOf(const Bits& bits, bool compressed)
     // clang-format off
     const Field bytes[] = {{0, 10},                 // manufacturer
                            {1, 5},                  // version
-                           {2, compressed ? 1 : 0}, // encoding
+                           {2, compressed ? 1 : 0}, // bits per pixel and plane
                            {3, 8},                  // bits a pixel and plane
                            {65, 3}};                // planes
     const Field words[] = {{4, 1}, {6, 1},          // the window counts from 1
@@ -39,8 +39,8 @@ std::array<std::uint8_t, kHeader> headerOf(const Bits& bits, bool compressed)
     return header;
 }
 
-/// What an odd row holds in the place of one more pixel: the padding of a row of 24-bit pixels to a multiple of four
-/// bytes, and where that is one byte, the start of the next row. Nobody sees it.
+/// The extra pixel of an odd row: the padding of a row of 24-bit pixels to a multiple of four bytes, and where that is
+/// one byte, the start of the next row. It is never shown.
 Pixel pixelBeyond(const Bits& bits, int y)
 {
     const bool oneByteOfPadding = bits.width() * 3 % 4 == 3;
@@ -49,7 +49,7 @@ Pixel pixelBeyond(const Bits& bits, int y)
     return {{0, next.c[0], next.c[1], 0}};
 }
 
-/// A row: red, green and blue, each of an even number of bytes.
+/// A row: red, green and blue, each an even number of bytes.
 void putPlanes(const Bits& bits, int y, std::vector<std::uint8_t>& planes)
 {
     const std::size_t even = evenWidth(bits);
@@ -62,7 +62,7 @@ void putPlanes(const Bits& bits, int y, std::vector<std::uint8_t>& planes)
     if (bits.width() % 2) put(even - 1, pixelBeyond(bits, y));
 }
 
-/// Encodes piece by piece; a run goes on from one piece to the next.
+/// Encodes piece by piece; a run continues from one piece to the next.
 class RunEncoder {
   public:
     void add(const std::vector<std::uint8_t>& data, std::vector<std::uint8_t>& encoded)
@@ -88,7 +88,7 @@ class RunEncoder {
     int run_ = 0;
 };
 
-/// What an older, longer file has behind so many bytes: it stays there.
+/// The bytes of an older, longer file after length: they are kept.
 QByteArray tailOf(const QString& path, qint64 length)
 {
     QFile old(path);

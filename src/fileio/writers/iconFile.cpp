@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kDirectory = 6 + 16, kHeader = 40, kBits = 24;
 
-/// As pictures that scale by what shows: transparent pixels weigh nothing.
+/// Premultiplied, so that scaling ignores transparent pixels.
 QImage withMask(const Bits& picture, std::optional<Colour> mask)
 {
     QImage image(picture.width(), picture.height(), QImage::Format_ARGB32_Premultiplied);
@@ -41,21 +41,21 @@ QImage iconOf(const Bits& picture, QSize size, std::optional<Colour> mask)
     return image;
 }
 
-/// Not Qt's writer: that leaves whatever the memory held in the padding of the mask.
+/// Not by Qt's writer: that leaves the mask's padding uninitialised.
 QByteArray iconBytes(const QImage& icon)
 {
     const int width = icon.width(), height = icon.height();
-    const int colourRow = (width * 3 + 3) / 4 * 4, maskRow = (width + 31) / 32 * 4; // both of whole double words
+    const int colourRow = (width * 3 + 3) / 4 * 4, maskRow = (width + 31) / 32 * 4; // both padded to whole double words
     const auto pixels = quint32(height * (colourRow + maskRow));
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
     out << quint16(0) << quint16(1) << quint16(1);                   // an icon file with one picture
-    out << quint8(width) << quint8(height) << quint8(0) << quint8(0) // 256 is told as 0; no palette
+    out << quint8(width) << quint8(height) << quint8(0) << quint8(0) // 256 is stored as 0; no palette
         << quint16(1) << quint16(kBits) << kHeader + pixels << quint32(kDirectory);
-    out << quint32(kHeader) << qint32(width) << qint32(2 * height) // both halves count
+    out << quint32(kHeader) << qint32(width) << qint32(2 * height) // colours and mask count
         << quint16(1) << quint16(kBits) << quint32(0) << pixels << quint32(0) << quint32(0) << quint32(0) << quint32(0);
-    const auto rows = [&](int length, auto put) { // the lowest first
+    const auto rows = [&](int length, auto put) { // bottom row first
         for (int y = height - 1; y >= 0; --y) {
             QByteArray row(length, '\0');
             const auto* from = reinterpret_cast<const QRgb*>(icon.constScanLine(y));

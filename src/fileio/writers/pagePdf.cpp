@@ -12,16 +12,16 @@ namespace velara {
 namespace {
 
 constexpr double kMillimetresAnInch = 25.4;
-constexpr int kResolution = 1200; // of the page's own coordinates, dots an inch
+constexpr int kResolution = 1200; // of the page's own coordinates, dots per inch
 
-/// The most dots an inch that a picture is stored with.
+/// The maximum resolution at which a picture is stored, in dots per inch.
 double finest(PrintQuality quality)
 {
     constexpr double kFinest[] = {150, 300, 600, 1200};
     return kFinest[-static_cast<int>(quality) - 1];
 }
 
-/// What QPdfWriter writes to.
+/// The device that QPdfWriter writes to.
 class IntoFile final : public QIODevice {
   public:
     explicit IntoFile(OutputFile& file) : file_(file) { open(WriteOnly); }
@@ -41,7 +41,7 @@ class IntoFile final : public QIODevice {
     bool failed_ = false;
 };
 
-/// The picture in no more dots than its quality asks for on that place.
+/// The picture, downsampled to the resolution of its quality at that size.
 QImage fineEnough(const PrintPage& page)
 {
     const QImage image = imageOver(page.picture);

@@ -4,10 +4,10 @@
 
 namespace velara {
 
-/// Writes it to the file at path, which is whole afterwards or as it was; reads nothing but its arguments, so that any
-/// thread may call it. goOn is asked now and then. A picture that is finer on paper than its quality asks for is
-/// resampled to that; a draft is stored with loss, the others as they are. The reason why not, in words for a person;
-/// empty when it is written.
+/// Writes it to the file at path, which is complete afterwards or unchanged; uses nothing but its arguments, so it may
+/// be called on any thread. goOn is called now and then. A picture whose resolution on paper exceeds its quality is
+/// downsampled; a draft is stored with lossy compression, the others lossless. Returns the reason of a failure, for the
+/// user; empty when it is written.
 QString writePagePdf(const QString& path, const PrintPage& page, const std::function<bool()>& goOn);
 
 } // namespace velara

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kPatience = 10000; // ms for a program or a shell to answer
 
-/// The desktop's own word for a mode.
+/// The desktop's own word for each mode.
 struct ModeWords {
     const char *centre, *tile, *stretch;
     const char* of(WallpaperMode mode) const
@@ -36,7 +36,7 @@ struct SettingsRow {
     const char *desktop, *schema; // desktop: a word of XDG_CURRENT_DESKTOP
     QStringList pictureKeys;
     const char* optionKey;
-    bool isAddress; // the picture is a file: address, else a path
+    bool isAddress; // the picture is a file: URL, else a path
     ModeWords words;
 };
 
@@ -125,7 +125,7 @@ void DesktopWallpaper::runAll(Commands commands)
     });
 }
 
-/// Xfce keeps a picture for each screen and workspace, under names that only it knows.
+/// Xfce has a picture for each screen and workspace, under names that only it knows.
 void DesktopWallpaper::setByXfce(const QString& path, WallpaperMode mode)
 {
     const QStringList query{"xfconf-query", "-c", "xfce4-desktop"};
@@ -136,7 +136,7 @@ void DesktopWallpaper::setByXfce(const QString& path, WallpaperMode mode)
             if (!property.trimmed().endsWith(last)) continue;
             const QString place = property.trimmed().chopped(last.size());
             commands << query + QStringList{"-p", place + "/image-style", "--create", "-t", "int", "-s", kXfce.of(mode)}
-                     // The same name again is no change to it, though the file is another.
+                     // Setting the same name again has no effect, even if the file differs.
                      << query + QStringList{"-p", place + last, "-s", ""}
                      << query + QStringList{"-p", place + last, "-s", path};
         }
@@ -150,7 +150,7 @@ void DesktopWallpaper::setByPlasma(const QString& path, WallpaperMode mode)
     const QString script = QStringLiteral("for (const d of desktops()) {"
                                           " d.wallpaperPlugin = 'org.kde.image';"
                                           " d.currentConfigGroup = ['Wallpaper', 'org.kde.image', 'General'];"
-                                          " d.writeConfig('Image', '');" // the same name again is no change to it
+                                          " d.writeConfig('Image', '');" // the same name again has no effect
                                           " d.writeConfig('Image', '%1');"
                                           " d.writeConfig('FillMode', '%2'); }");
     const QString escaped = address(path).replace('\'', "%27");
@@ -163,7 +163,7 @@ void DesktopWallpaper::setByPlasma(const QString& path, WallpaperMode mode)
     });
 }
 
-/// Takes an open file and no address, and knows no modes. Where there is no such portal the root window is ours.
+/// Passes an open file instead of a URL, and has no modes. Without such a portal, draws on the root window.
 void DesktopWallpaper::setByPortal(const QString& path, WallpaperMode mode)
 {
     QFile file(path);

@@ -1,5 +1,5 @@
-// DesktopWallpaper: the wallpaper by whatever way the desktop that runs has for it: its settings program, a script for
-// its shell, the portal, or the X root window where nothing else draws on it. A row of the table says which.
+// DesktopWallpaper: sets the wallpaper in the running desktop's own way: its settings program, a script for its shell,
+// the portal, or the X root window where nothing else draws on it. A row of the table selects it.
 #pragma once
 #include "seams/Platform.h"
 #include "seams/Wallpaper.h"
@@ -15,10 +15,10 @@ class PortalRequest;
 class DesktopWallpaper final : public QObject, public Wallpaper {
     Q_OBJECT
   public:
-    /// platform reads the file where this draws it itself. Without a bus the session's own is used.
+    /// platform reads the file where this class draws it itself. Without a bus the session's own is used.
     explicit DesktopWallpaper(Platform& platform, std::optional<QDBusConnection> bus = {});
 
-    /// Per user, below $XDG_DATA_HOME; made when it is not there.
+    /// Per user, below $XDG_DATA_HOME; created if missing.
     QString folder() override;
     void set(const QString& path, WallpaperMode mode, Done done) override;
 
@@ -27,9 +27,9 @@ class DesktopWallpaper final : public QObject, public Wallpaper {
     using Answer = std::function<void(bool ok, const QString& output)>;
 
     void finish(WallpaperResult result);
-    /// One program, whose output is handed on; given up after a while.
+    /// Runs one program and passes on its output; gives up after kPatience.
     void run(const QStringList& command, const Answer& answer);
-    /// One after the other; the first that fails is the end.
+    /// One after the other; the first failure ends the sequence.
     void runAll(Commands commands);
     void setByXfce(const QString& path, WallpaperMode mode);
     void setByPlasma(const QString& path, WallpaperMode mode);
@@ -40,7 +40,7 @@ class DesktopWallpaper final : public QObject, public Wallpaper {
     Platform& platform_;
     std::optional<QDBusConnection> bus_;
     Done done_;
-    QPointer<QObject> work_; // what is under way; all of it ends with this
+    QPointer<QObject> work_; // the work under way; all of it ends with this object
     QPointer<PortalRequest> request_;
 };
 

@@ -13,7 +13,7 @@ namespace {
 
 const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
-constexpr int kCallLimit = 25000; // ms for the portal to take the question; the answer has all the time it wants
+constexpr int kCallLimit = 25000; // ms for the portal to accept the request; the answer has no time limit
 
 QString nextToken()
 {
@@ -21,7 +21,7 @@ QString nextToken()
     return QStringLiteral("velara%1").arg(++count);
 }
 
-/// No bus, no portal on it, or one that lacks the service that was asked for.
+/// No bus, no portal on it, or one that lacks the requested service.
 bool isMissing(QDBusError::ErrorType error)
 {
     constexpr QDBusError::ErrorType kMissing[] = {QDBusError::Disconnected,  QDBusError::ServiceUnknown,
@@ -36,13 +36,13 @@ PortalRequest::PortalRequest(const QDBusConnection& bus, const QString& interfac
                              const QVariantList& arguments, QVariantMap options, Done done, QObject* parent)
     : QObject(parent), bus_(bus), done_(std::move(done))
 {
-    if (!bus_.isConnected()) { // a call never ends there
+    if (!bus_.isConnected()) { // a call never returns then
         QTimer::singleShot(0, this, [this] { finish(Missing, {}); });
         return;
     }
     const QString token = nextToken();
     options["handle_token"] = token;
-    // The answer may come before the call returns: its place is known beforehand, from our name on the bus.
+    // The answer may arrive before the call returns, so its path is derived in advance, from our name on the bus.
     listenTo("/org/freedesktop/portal/desktop/request/" + bus_.baseService().mid(1).replace('.', '_') + '/' + token);
     QDBusMessage call = QDBusMessage::createMethodCall(kService, "/org/freedesktop/portal/desktop",
                                                        "org.freedesktop.portal." + interface, method);

@@ -1,5 +1,4 @@
-// PortalRequest: one question to the desktop's portal, whose answer comes by a signal, perhaps after the user was
-// asked.
+// PortalRequest: one request to the desktop's portal, which answers by a signal, perhaps after asking the user.
 #pragma once
 #include <QDBusConnection>
 #include <QObject>
@@ -16,8 +15,8 @@ class PortalRequest final : public QObject {
     enum Code { Granted = 0, Refused = 1, Failed = 2, Missing = 3 }; // of the portal; Missing: there is none
     using Done = std::function<void(Code, const QVariantMap& results)>;
 
-    /// interface is the last word of its name ("Screenshot"). done is called once, from the message loop, and not after
-    /// this object's end, which withdraws the question.
+    /// interface is the last part of its name ("Screenshot"). done is called once, from the message loop, and not after
+    /// this object's destruction, which withdraws the request.
     PortalRequest(const QDBusConnection& bus, const QString& interface, const QString& method,
                   const QVariantList& arguments, QVariantMap options, Done done, QObject* parent);
     ~PortalRequest() override;
@@ -31,7 +30,7 @@ class PortalRequest final : public QObject {
     void finish(Code code, const QVariantMap& results);
 
     QDBusConnection bus_;
-    QString path_; // of the question, an object of the portal
+    QString path_; // of the request, an object of the portal
     Done done_;
 };
 

@@ -11,9 +11,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kDotsPerMetre = 3780; // 96 to the inch
+constexpr int kDotsPerMetre = 3780; // 96 dpi
 
-/// What text is measured for: an image whose points are 96 to the inch, whatever the screen's are.
+/// The device that text is measured for: an image of 96 dpi, whatever the screen has.
 QImage& device()
 {
     static QImage image = [] {
@@ -32,7 +32,7 @@ QFont fontOf(const TextStyle& style)
     font.setItalic(style.italic);
     font.setUnderline(style.underline);
     font.setStrikeOut(style.strikeOut);
-    // Grey edges: a picture is seen on any screen, and a mask has one channel.
+    // Grey antialiasing: a picture is seen on any screen, and a mask has one channel.
     font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return font;
 }
@@ -43,7 +43,7 @@ int heightOf(const QFont& font)
     return static_cast<int>(std::ceil(metrics.ascent()) + std::ceil(metrics.descent()));
 }
 
-/// The run on one line with its corner at 0, 0; its blanks wider by as much as the spread asks for.
+/// The run on one line with its corner at 0, 0; its blanks widened by the spread.
 class OneLine {
   public:
     OneLine(const TextRun& run, QFont font) : layout_(run.text, spaced(font, run), &device())
@@ -58,7 +58,7 @@ class OneLine {
         line_ = layout_.createLine();
         if (line_.isValid()) {
             line_.setLineWidth(line_.naturalTextWidth() + 1);
-            // Where another font fills in, its line may be higher: the base line stays where the style's own is.
+            // A substituted font may have a taller line: the baseline stays that of the style's own font.
             line_.setPosition({0, std::ceil(QFontMetricsF(font, &device()).ascent()) - line_.ascent()});
         }
         layout_.endLayout();

@@ -41,7 +41,7 @@ QString QtPlatform::compactPath(const QString& path, int pixels)
 {
     const QFontMetrics metrics(QApplication::font("QMenu"));
     if (metrics.horizontalAdvance(path) <= pixels) return path;
-    // The file name stays whole as long as it fits: it is what a person looks for.
+    // The file name is kept whole as long as it fits: users look for it.
     const QString name = path.mid(path.lastIndexOf('/'));
     const int left = pixels - metrics.horizontalAdvance(name);
     if (left <= 0) return metrics.elidedText(path, Qt::ElideMiddle, pixels);

@@ -16,9 +16,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kSettle = 120; // ms: a menu has gone and what was below it is painted
+constexpr int kSettle = 120; // ms: a menu has closed and what was below it is repainted
 
-/// Every screen by itself, at its place: positions are device pixels on X whatever the scale, sizes are not.
+/// Each screen separately, at its position: on X positions are device pixels whatever the scale, sizes are not.
 ScreenPicture grabByQt()
 {
     ScreenPicture picture;
@@ -62,7 +62,7 @@ constexpr const char* kNoPortal =
     "desktop (xdg-desktop-portal-gnome, -kde, -wlr ...) bring it.";
 constexpr const char* kBlack = "The picture of the screen is all black.";
 
-/// An X server within a session of Wayland may have a picture of its own.
+/// On Wayland, the session's X server may have a picture of its own.
 ScreenPicture grabWithoutPortal()
 {
     ScreenPicture picture = QGuiApplication::platformName() == "xcb" ? grabByQt() : ScreenPicture();
@@ -70,7 +70,7 @@ ScreenPicture grabWithoutPortal()
     return picture;
 }
 
-/// Where the portal's picture lies on this machine; empty for any other address.
+/// The path of the portal's picture on this machine; empty for any other URL.
 QString localFile(const QVariantMap& results) { return QUrl(results.value("uri").toString()).toLocalFile(); }
 
 } // namespace

@@ -1,5 +1,5 @@
-// QtScreen: the screens by Qt on X; by the desktop's portal in a session of Wayland, where no program may look for
-// itself, whether its windows come over X or not. There X has a black picture.
+// QtScreen: captures screens by Qt on X; by the desktop's portal in a Wayland session, where no program may look by
+// itself, even if its windows use X: a capture through X is black there.
 #pragma once
 #include "seams/Platform.h"
 #include "seams/Screen.h"
@@ -14,7 +14,7 @@ class PortalRequest;
 class QtScreen final : public QObject, public Screen {
     Q_OBJECT
   public:
-    /// platform reads the portal's file. The portal is on the bus; without one it's on that of the session.
+    /// platform reads the portal's file. bus has the portal; without one the session's is used.
     explicit QtScreen(Platform& platform, std::optional<QDBusConnection> bus = {});
     ~QtScreen() override;
 
@@ -34,7 +34,7 @@ class QtScreen final : public QObject, public Screen {
     Done done_;
 };
 
-/// The picture, which shows all of the desktop at some scale, with the places of its screens.
+/// The picture, which shows the whole desktop at some scale, with the positions of its screens.
 ScreenPicture wholeDesktop(const Bits& bits, const QList<QRect>& screens);
 
 } // namespace velara

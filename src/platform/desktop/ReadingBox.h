@@ -1,4 +1,4 @@
-// ReadingBox: what stands before the person while a picture takes long to read.
+// ReadingBox: shown while reading a picture takes long.
 #pragma once
 #include <QPointer>
 #include <QProgressDialog>
@@ -6,7 +6,7 @@
 
 namespace velara {
 
-/// Shows itself over the parent after half a second, and takes the input then: nothing else of the program can be used.
+/// Shows itself over the parent after half a second, and is modal then: nothing else in the program can be used.
 class ReadingBox {
   public:
     ReadingBox(const QString& name, QWidget* parent) : name_(name), parent_(parent) {}
@@ -14,7 +14,7 @@ class ReadingBox {
     ReadingBox(const ReadingBox&) = delete;
     ReadingBox& operator=(const ReadingBox&) = delete;
 
-    /// A moment of waiting has passed: false once the person gave up, by Esc, the button or closing the box.
+    /// To be called while waiting: false once the user gave up, by Esc, the button or closing the box.
     bool goOn(std::chrono::milliseconds waited);
 
   private:

@@ -10,8 +10,8 @@ namespace velara {
 
 namespace {
 
-constexpr int kGrace = 3000;              // ms for a scan to end in good order
-constexpr const char* kTarget = "target"; // a child's property: the file that it makes
+constexpr int kGrace = 3000;              // ms for a scan to end cleanly
+constexpr const char* kTarget = "target"; // a property of the child: the file that it writes
 
 void describeLine(ScanRange& range, const QStringList& words)
 {
@@ -28,7 +28,7 @@ void describeLine(ScanRange& range, const QStringList& words)
     std::sort(range.resolutions.begin(), range.resolutions.end());
 }
 
-/// What a scan that came to nothing leaves; inside its cage the helper can't remove it.
+/// Removes what a failed scan leaves; the helper can't remove it inside its cage.
 void removeRest(const QProcess* child)
 {
     if (const QString rest = child->property(kTarget).toString(); !rest.isEmpty()) QFile::remove(rest);
@@ -44,7 +44,7 @@ SaneScanner::~SaneScanner()
     child_->disconnect();
     child_->kill();
     removeRest(child_);
-    delete child_; // which waits for its end
+    delete child_; // waits for its end
 }
 
 void SaneScanner::start(const QStringList& arguments, const Line& line, std::function<void(const QString&)> done)
@@ -82,7 +82,7 @@ void SaneScanner::start(const QStringList& arguments, const Line& line, std::fun
         finish();
     });
     child->setProcessChannelMode(QProcess::SeparateChannels);
-    child->setStandardErrorFile(QProcess::nullDevice()); // drivers chat
+    child->setStandardErrorFile(QProcess::nullDevice()); // drivers print messages
     child->start(helper_, arguments, QIODevice::ReadOnly);
 }
 

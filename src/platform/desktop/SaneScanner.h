@@ -1,4 +1,4 @@
-// SaneScanner: scanners through velara-scan, one child a question, so that no driver can hold up the editor.
+// SaneScanner: scanners through velara-scan, one child per call, so that no driver can block the editor.
 #pragma once
 #include "seams/Scanner.h"
 #include <QObject>
@@ -19,12 +19,12 @@ class SaneScanner final : public QObject, public Scanner {
     void describe(const QString& device, std::function<void(const ScanRange&, const QString&)> done) override;
     void acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
                  std::function<void(const QString&)> done) override;
-    /// The child is told to end its scan in good order, and killed when it does not.
+    /// Asks the child to end its scan cleanly, and kills it if it doesn't.
     void cancel() override;
 
   private:
     using Line = std::function<void(const QStringList& words)>;
-    /// Starts the helper; every line of it goes to line, its end to done.
+    /// Starts the helper; each line it prints goes to line, its end to done.
     void start(const QStringList& arguments, const Line& line, std::function<void(const QString& reason)> done);
 
     QString helper_;

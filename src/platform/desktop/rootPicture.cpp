@@ -19,7 +19,7 @@ QImage rootPicture(const Bits& bits, WallpaperMode mode, QSize root, const QList
         QRect place(QPoint(), mode == WallpaperMode::Stretch ? screen.size() : picture.size());
         place.moveTopLeft(screen.topLeft() +
                           QPoint((screen.width() - place.width()) / 2, (screen.height() - place.height()) / 2));
-        // Scaled beforehand: by the painter the rim would come out blended with the black around it.
+        // Scaled beforehand: the painter would blend the edge with the black around it.
         painter.drawImage(place.topLeft(),
                           picture.size() == place.size()
                               ? picture

@@ -7,8 +7,8 @@
 
 namespace velara {
 
-/// Tiles begin at the upper left; the other modes lay the picture out on each screen, black around it. Sizes are device
-/// pixels.
+/// Tiles begin at the upper left; the other modes place the picture on each screen, with black around it. Sizes are
+/// device pixels.
 QImage rootPicture(const Bits& bits, WallpaperMode mode, QSize root, const QList<QRect>& screens);
 
 } // namespace velara

@@ -12,7 +12,7 @@ namespace {
 
 template <class Reply> using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
-/// The connection of the program's windows; null elsewhere than on X.
+/// The connection of the program's windows; null when they aren't on X.
 xcb_connection_t* ours()
 {
     const auto* x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
@@ -39,7 +39,7 @@ std::vector<std::uint32_t> rootProperty(xcb_connection_t* x, xcb_atom_t property
     return {values, values + xcb_get_property_value_length(reply.get()) / 4};
 }
 
-/// The pixels in pieces that fit a request each.
+/// Sends the pixels in pieces that fit into a request.
 void putRows(xcb_connection_t* x, xcb_pixmap_t pixmap, const QImage& picture, std::uint8_t depth)
 {
     const xcb_gcontext_t gc = xcb_generate_id(x);
@@ -56,7 +56,7 @@ void putRows(xcb_connection_t* x, xcb_pixmap_t pixmap, const QImage& picture, st
     xcb_free_gc(x, gc);
 }
 
-/// Four bytes a pixel in this machine's order: what QImage holds.
+/// Four bytes per pixel in this machine's byte order: the layout of QImage.
 bool takesOurPixels(xcb_connection_t* x)
 {
     const xcb_setup_t* setup = xcb_get_setup(x);
@@ -100,7 +100,7 @@ QSize x11RootSize()
 bool x11SetRootPicture(const QImage& picture)
 {
     if (!ours()) return false;
-    // A connection of its own, whose pixmap outlives it; whoever sets the next picture frees it by its number.
+    // A connection of its own, whose pixmap outlives it; whoever sets the next picture frees it by its id.
     const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> own(xcb_connect(nullptr, nullptr),
                                                                            &xcb_disconnect);
     xcb_connection_t* x = own.get();
@@ -119,7 +119,7 @@ bool x11SetRootPicture(const QImage& picture)
     xcb_change_window_attributes(x, screen->root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(x, 0, screen->root, 0, 0, 0, 0);
     xcb_set_close_down_mode(x, XCB_CLOSE_DOWN_RETAIN_PERMANENT);
-    const auto cookie = xcb_get_input_focus(x); // its answer comes when all of it is done
+    const auto cookie = xcb_get_input_focus(x); // a round trip: its answer arrives when everything before is done
     const Owned<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(x, cookie, nullptr), &std::free);
     return reply != nullptr;
 }

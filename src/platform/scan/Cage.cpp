@@ -20,7 +20,7 @@ namespace {
 using decode::OpenPath;
 
 // clang-format off
-/// What drivers read, speak with and write; * as in a shell. HOME stands for the user's folder.
+/// Paths that drivers read, communicate through or write; * as in a shell. HOME stands for the user's folder.
 constexpr struct { const char* path; OpenPath::Use use; } kOpen[] = {
     {"/usr", OpenPath::Reading}, {"/lib*", OpenPath::Reading}, {"/etc", OpenPath::Reading},
     {"/opt", OpenPath::Reading}, {"/var/lib", OpenPath::Reading}, {"/run/udev", OpenPath::Reading},
@@ -31,18 +31,18 @@ constexpr struct { const char* path; OpenPath::Use use; } kOpen[] = {
     {"/run/lock/sane", OpenPath::Writing}, {"HOME/.sane", OpenPath::Writing}, // locks; calibrations
 };
 
-/// Of the environment; the others tell where display, session and keys are.
+/// The environment variables that are kept; the others reveal display, session and keys.
 constexpr std::string_view kVariables[] = {"HOME=", "LANG=", "LC_", "PATH=", "TZ=", "SANE_"};
 
 constexpr rlim_t kGigabyte = 1 << 30;
 constexpr struct { __rlimit_resource resource; rlim_t most; } kLimits[] = {
 #ifndef __SANITIZE_ADDRESS__ // its shadow memory alone takes terabytes of address space
-    {RLIMIT_AS, 6 * kGigabyte}, // the largest picture while it grows, and once more as it is saved
+    {RLIMIT_AS, 6 * kGigabyte}, // the largest picture while it grows, and a copy while it is saved
 #endif
     {RLIMIT_FSIZE, kGigabyte}, {RLIMIT_CORE, 0}, {RLIMIT_NOFILE, 256}, {RLIMIT_CPU, 900},
 };
 
-/// What no driver needs, and what has been a way into kernels and other processes.
+/// Calls that no driver needs, and that have been used to attack kernels and other processes.
 constexpr int kRefused[] = {
     SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(ptrace), SCMP_SYS(process_vm_readv), SCMP_SYS(process_vm_writev),
     SCMP_SYS(pidfd_getfd), SCMP_SYS(add_key), SCMP_SYS(request_key), SCMP_SYS(keyctl), SCMP_SYS(bpf),
@@ -61,7 +61,7 @@ void forgetTheSession()
         if (stays)
             ++variable;
         else
-            unsetenv(std::string(text.substr(0, text.find('='))).c_str()); // the next one takes its place
+            unsetenv(std::string(text.substr(0, text.find('='))).c_str()); // the next one moves to its place
     }
 }
 
@@ -91,7 +91,7 @@ bool limitResources()
     bool done = true;
     for (const auto& row : kLimits) {
         const rlimit value{row.most, row.most};
-        done &= setrlimit(row.resource, &value) == 0 || errno == EPERM; // a lower one stands already
+        done &= setrlimit(row.resource, &value) == 0 || errno == EPERM; // a lower limit is already set
     }
     return done;
 }
@@ -115,7 +115,7 @@ bool enterScanCage()
 
 } // namespace velara
 
-// Drivers put pages into files that have no name. These stand before the library's: in memory, for no folder is open.
+// Drivers store pages in files without a name. This replaces the library's: in memory, since no folder is writable.
 extern "C" FILE* tmpfile()
 {
     const int file = memfd_create("scan", MFD_CLOEXEC);

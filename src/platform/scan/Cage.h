@@ -1,10 +1,11 @@
-// The cage of velara-scan. Drivers of scanners come from many hands, and speak with devices and with the net: they keep
-// that, and lose the user's files and programs.
+// The cage of velara-scan. Scanner drivers come from many sources and access devices and the network: they keep that,
+// and lose access to the user's files and programs.
 #pragma once
 
 namespace velara {
 
-/// Before any driver is loaded. What is open stays open. False: a layer that the kernel has could not be closed.
+/// To be called before any driver is loaded. Open descriptors stay open. False: a layer that the kernel supports
+/// failed.
 bool enterScanCage();
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// Device: one scanner as the library speaks of it, opened. All calls may take as long as the device likes.
+// Device: one opened scanner, through the library. Any call may take as long as the device likes.
 #pragma once
 #include <QList>
 #include <QSizeF>
@@ -9,7 +9,7 @@
 
 namespace velara {
 
-/// What the library answers in place of success, in its words.
+/// The library's error, in its words.
 struct ScanFailure : std::runtime_error {
     explicit ScanFailure(SANE_Status status) : std::runtime_error(sane_strstatus(status)) {}
     explicit ScanFailure(const char* reason) : std::runtime_error(reason) {}
@@ -26,12 +26,12 @@ class Device {
     Device(const Device&) = delete;
     SANE_Handle handle() const { return handle_; }
 
-    /// The option by its well-known name, when it is there and can be used now. 0: none.
+    /// The option by its well-known name, if it exists and is active. 0: none.
     SANE_Int option(const char* name) const;
     const SANE_Option_Descriptor* descriptor(SANE_Int option) const;
     QString text(SANE_Int option) const;
     void setText(SANE_Int option, const QString& value) const;
-    /// Of a whole or a fixed-point option.
+    /// Of an integer or a fixed-point option.
     double number(SANE_Int option) const;
     void setNumber(SANE_Int option, double value) const;
 

@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-/// Sample number i of a line, in eight bits.
+/// Sample i of a line, converted to eight bits.
 int sampleAt(const std::uint8_t* line, const FrameFormat& format, int i)
 {
     if (format.depth == 8) return line[i];
@@ -61,7 +61,7 @@ bool Frames::grow()
 void Frames::putLine(const std::uint8_t* line)
 {
     auto* to = reinterpret_cast<QRgb*>(picture_.scanLine(row_));
-    const int shift = 16 - 8 * format_.channel; // of the channel in a pixel
+    const int shift = 16 - 8 * format_.channel; // position of the channel in a pixel
     for (int x = 0; x < format_.width; ++x) {
         if (format_.channel >= 0) {
             to[x] = (to[x] & ~(0xFFu << shift)) | unsigned(sampleAt(line, format_, x)) << shift | 0xFF000000u;

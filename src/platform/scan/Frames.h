@@ -1,4 +1,4 @@
-// Frames: the bytes that a scanner gives, put together to a picture. No library, no device.
+// Frames: assembles the bytes of a scanner into a picture. Uses no library and no device.
 #pragma once
 #include <QImage>
 #include <cstdint>
@@ -6,22 +6,22 @@
 
 namespace velara {
 
-/// One frame: what its bytes are.
+/// The format of one frame.
 struct FrameFormat {
-    int channel = -1; // 0 red, 1 green, 2 blue: a pass of three; -1: all of the pixel
-    int samples = 1;  // a pixel: 1 grey, 3 red, green, blue
-    int depth = 8;    // bits a sample: 1 (set is black), 8, 16 in this machine's order
+    int channel = -1; // 0 red, 1 green, 2 blue: one pass of three; -1: whole pixels
+    int samples = 1;  // per pixel: 1 grey, 3 red, green, blue
+    int depth = 8;    // bits per sample: 1 (set is black), 8, or 16 in this machine's byte order
     int bytesPerLine = 0;
     int width = 0;
 };
 
 class Frames {
   public:
-    /// A new frame begins at the upper left. False for a format or a size that is not taken.
+    /// Begins a new frame at the upper left. False for an unsupported format or size.
     bool begin(const FrameFormat& format);
-    /// The next bytes of it, in pieces of any length. False when the picture becomes too large.
+    /// The next bytes of the frame, in pieces of any length. False when the picture becomes too large.
     bool add(std::span<const std::uint8_t> bytes);
-    /// All whole lines so far, 32 bits; null when there are none.
+    /// All complete lines so far, 32 bits; null when there are none.
     QImage picture() const { return picture_.copy(0, 0, picture_.width(), lines_); }
 
   private:
@@ -30,7 +30,7 @@ class Frames {
 
     FrameFormat format_;
     QImage picture_;
-    QByteArray line_; // begun and not whole
+    QByteArray line_; // an incomplete line
     int row_ = 0, lines_ = 0;
 };
 

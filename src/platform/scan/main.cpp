@@ -1,12 +1,12 @@
-// velara-scan: speaks with the scanners, so that a device or a driver that hangs or crashes costs nothing but this
-// process. Started by SaneScanner, which reads the lines it prints:
+// velara-scan: accesses the scanners, so that a device or a driver that hangs or crashes affects only this process.
+// Started by SaneScanner, which reads the lines it prints:
 //
-//   velara-scan list                          source<TAB>device<TAB>title, one a scanner
+//   velara-scan list                          source<TAB>device<TAB>title, one per scanner
 //   velara-scan describe DEVICE               key<TAB>value..., see describe()
 //   velara-scan acquire DEVICE MODE RESOLUTION LEFT TOP RIGHT BOTTOM FILE
-//                                             percent<TAB>n as it goes; FILE is a bmp. Empty MODE, 0: as it stands.
+//                                             percent<TAB>n meanwhile; FILE is a bmp. Empty MODE, 0: the current one.
 //
-// Status 0: done. 1: the last line is failed<TAB>reason; an empty FILE may be left. SIGTERM ends a scan in good order.
+// Status 0: done. 1: the last line is failed<TAB>reason; an empty FILE may be left. SIGTERM ends a scan cleanly.
 #include "platform/scan/Cage.h"
 #include "platform/scan/Device.h"
 #include "platform/scan/Frames.h"
@@ -24,7 +24,7 @@ namespace velara {
 
 namespace {
 
-SANE_Handle scanning = nullptr; // what SIGTERM cancels
+SANE_Handle scanning = nullptr; // cancelled by SIGTERM
 
 void print(const QStringList& words)
 {
@@ -46,8 +46,8 @@ void list()
     }
 }
 
-/// modes<TAB>each, mode<TAB>present, resolutions<TAB>each or range<TAB>least<TAB>most, resolution<TAB>present,
-/// bed<TAB>width<TAB>height in millimetres; of each what the device has.
+/// Prints modes<TAB>each, mode<TAB>present, resolutions<TAB>each or range<TAB>least<TAB>most, resolution<TAB>present,
+/// bed<TAB>width<TAB>height in millimetres; each only if the device has it.
 void describe(const Device& device)
 {
     if (const SANE_Int mode = device.option(SANE_NAME_SCAN_MODE)) {
@@ -90,7 +90,7 @@ FrameFormat formatOf(const SANE_Parameters& p)
     return format;
 }
 
-/// One frame into the picture. True when it was the last.
+/// Reads one frame into the picture. True when it was the last.
 bool readFrame(const Device& device, Frames& frames, int pass)
 {
     check(sane_start(device.handle()));
@@ -112,7 +112,7 @@ bool readFrame(const Device& device, Frames& frames, int pass)
     }
 }
 
-/// A new file that the user alone can read: a link that was set there is not followed. -1: it can't be made.
+/// Creates a file readable by the user only; an existing link is not followed. -1: it can't be made.
 int newFile(const QString& path)
 {
     QFile::remove(path);
@@ -133,7 +133,7 @@ void acquire(const Device& device, const QStringList& arguments, int file)
         device.setText(option, mode);
     if (const SANE_Int option = device.option(SANE_NAME_SCAN_RESOLUTION); option && arguments[1].toInt() > 0)
         device.setNumber(option, arguments[1].toInt());
-    // The far corner first: the near one may lie beyond where it stood.
+    // The far corner first: the near one may lie beyond its previous position.
     constexpr struct {
         const char* name;
         int argument;
@@ -169,7 +169,7 @@ constexpr Order kOrders[] = {
     {"acquire", 8, [](const QStringList& a, int file) { acquire(Device(a[0].toUtf8().constData()), a.mid(1), file); }},
 };
 
-/// The exit status. The file is opened before the cage closes, the library comes after.
+/// Returns the exit status. The file is opened before the cage closes, the library is loaded afterwards.
 int run(const QStringList& arguments)
 try {
     const auto* order = std::ranges::find_if(kOrders, [&](const Order& row) {

@@ -1,4 +1,4 @@
-// fAssociation: the list of the picture formats. It registers nothing: which program opens a file is the desktop's.
+// fAssociation: the list of the picture formats. It registers nothing: the desktop decides which program opens a file.
 #pragma once
 #include <QDialog>
 

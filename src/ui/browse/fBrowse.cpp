@@ -17,7 +17,7 @@ namespace {
 
 const QString kSection = QStringLiteral("Browse");
 
-/// The size of the last time, as far as the screen holds it.
+/// The last size, limited to the screen.
 QSize rememberedSize(Platform& platform)
 {
     const QSize size = sizeOf(platform.setting(kSection, "Size", {}), "x");

@@ -1,4 +1,4 @@
-// fBrowse: the folders of the machine with the pictures in them, and what is selected beside the tree. The same window
+// fBrowse: the machine's folders with the pictures in them as a tree, and the selected item beside it. The same window
 // chooses a folder for the textures box.
 #pragma once
 #include <QDialog>
@@ -12,18 +12,18 @@ class fPathLabel;
 class Platform;
 class PreviewPane;
 
-/// What the window is to choose.
+/// What the window chooses.
 enum class BrowseMode : short { Pictures = 0, TextureFolder = 43 };
 
 class fBrowse final : public QDialog {
     Q_OBJECT
   public:
-    /// start: the folder, or the file, that is selected at first.
+    /// start: the folder or file that is initially selected.
     fBrowse(Platform& platform, BrowseMode mode, const QString& start, QWidget* parent);
     ~fBrowse() override;
 
   signals:
-    /// A picture file, or a folder; the window is closed.
+    /// A picture file, or a folder, was chosen; the window is closed.
     void opened(const QString& path);
 
   private:

@@ -1,4 +1,4 @@
-// mBrowseFolder: the system's dialog that chooses a folder.
+// mBrowseFolder: the system's folder dialog.
 #pragma once
 #include <QString>
 
@@ -8,7 +8,7 @@ namespace velara {
 
 class Dialogs;
 
-/// The folder's path, or an empty text when the dialog was cancelled or its owner has gone meanwhile.
+/// The folder's path, or an empty text when the dialog was cancelled or its owner was destroyed meanwhile.
 QString BrowseForFolder(Dialogs& dialogs, const QString& title, QWidget* owner, const QString& start);
 
 } // namespace velara

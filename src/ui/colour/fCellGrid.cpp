@@ -88,7 +88,7 @@ void fCellGrid::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// The surrounding of a cell: its sunken edge, or the frame of the selected one.
+/// Draws a cell's border: its sunken edge, or the frame of the selected one.
 void fCellGrid::DrawSafePicker(QPainter& painter, int Index, bool Selected)
 {
     const Rect r = cellRect(Index);

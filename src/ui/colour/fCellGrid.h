@@ -10,7 +10,7 @@ class fCellGrid final : public QWidget {
   public:
     explicit fCellGrid(QWidget* parent);
 
-    /// Nothing: the cell stays empty, in the window's own colour.
+    /// No colour: the cell stays empty, in the window's own colour.
     void setColour(int cell, std::optional<Colour> colour);
     std::optional<Colour> colour(int cell) const { return colours_[static_cast<std::size_t>(cell)]; }
     int selected() const { return selected_; }

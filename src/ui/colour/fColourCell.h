@@ -1,4 +1,4 @@
-// fColourCell: a small field of one colour, to be clicked and double clicked, by Space and Enter too.
+// fColourCell: a small field of one colour that can be clicked and double clicked, also by Space and Enter.
 #pragma once
 #include "pixels/Bits.h"
 #include <QWidget>

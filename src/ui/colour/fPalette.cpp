@@ -26,14 +26,14 @@ namespace velara {
 namespace {
 
 constexpr int kShown = 90;     // of the plane's 101 columns and rows; the pointer reaches the rest from outside
-constexpr double kHueRow = 14; // twips that a row of the strip takes; the marker's 560 twips are forty of them
+constexpr double kHueRow = 14; // height of a row of the strip in twips; the marker's 560 twips are forty of them
 constexpr int kMarkerRoom = 4; // above and below the strip
 constexpr QSize kCell{18, 18}, kPick{58, 26};
 constexpr int kCellGap = 4, kCellColumns = 8, kFrameOffset = 23; // twips from a cell to its frame
 
 QString numbered(const char* name, int index) { return QLatin1String(name) + u'_' + QString::number(index); }
 
-/// An arrow at the strip that points to the chosen hue.
+/// An arrow beside the strip at the chosen hue.
 class HueMarker final : public QWidget {
   public:
     explicit HueMarker(QWidget* parent) : QWidget(parent)
@@ -88,7 +88,7 @@ QWidget* fPalette::makePlane()
     iPal_ = new fPickSurface(QStringLiteral("iPal"), tr("Saturation and lightness"),
                              {{1, 1}, {kShown, kShown}, fPickSurface::Mark::Ring}, box);
     iPal_->setToolTip(tr("Click to pick and to store in the cell; double click for the large picker"));
-    auto* room = new QWidget(box); // the marker runs beside the strip
+    auto* room = new QWidget(box); // the marker moves beside the strip
     room->setFixedWidth(9);
     iHuePos_ = new HueMarker(room);
     iHue_ = new fPickSurface(QStringLiteral("iHue"), tr("Hue"),
@@ -218,7 +218,7 @@ void fPalette::pickHue(int row)
 
 void fPalette::drawPlane()
 {
-    // A damaged configuration may hold anything.
+    // A damaged configuration may contain anything.
     const float hue = std::clamp(std::isfinite(frame_.setup().PaletteHue) ? frame_.setup().PaletteHue : 0, -1.0f, 5.0f);
     PlaneBits_ = colourPlane(hue);
     iPal_->setImage(PlaneBits_);
@@ -234,7 +234,7 @@ void fPalette::pickOnPlane(QPoint place)
 {
     const QRgb pixel = PlaneBits_.pixel(place);
     setCurrent(colourOf(qRed(pixel), qGreen(pixel), qBlue(pixel)));
-    iPal_->setPlace(place); // several places have this colour; it is this one
+    iPal_->setPlace(place); // several positions have this colour; it is this one
 }
 
 // --- The pick and the two colours
@@ -265,7 +265,7 @@ void fPalette::setFirst(Colour colour)
 {
     frame_.setup().ForeColor = colour;
     frame_.showColors();
-    showColors(); // a frame may have none that it tells
+    showColors(); // a frame without displays doesn't report the change
 }
 
 void fPalette::showColors()

@@ -1,5 +1,5 @@
 // fPalette: the floating colour box. A strip of hues, a plane of saturation and lightness, boxes for red, green and
-// blue, cells, preset sets, and the first and second colour of the program, which live in Setup.
+// blue, cells, preset sets, and the program's first and second colour, which are stored in Setup.
 #pragma once
 #include "pixels/Bits.h"
 #include <QWidget>
@@ -25,16 +25,16 @@ class fPalette final : public QWidget {
 
     /// Hides the preset wells and closes their lists.
     void CPVisible();
-    /// The pick becomes the first colour.
+    /// Makes the current pick the first colour.
     void RefreshCurrent();
-    /// The pick; linked, it becomes the first colour.
+    /// Sets the current pick; if linked, it becomes the first colour.
     void setCurrent(Colour colour);
     Colour current() const;
-    /// The colours of Setup were changed somewhere: shows them. A linked pick follows the first.
+    /// Shows the colours of Setup after a change. A linked pick follows the first.
     void showColors();
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override; // Esc gives the keys back to the frame
+    void keyPressEvent(QKeyEvent* event) override; // Esc returns the focus to the frame
 
   private:
     QWidget* makePlane();

@@ -136,7 +136,7 @@ void fPickSurface::paintEvent(QPaintEvent*)
         qDrawShadePanel(&painter, framed, palette(), true, 1);
         painter.fillRect(framed.adjusted(1, 1, -1, -1), palette().mid());
     }
-    // The displays of few colours get what they can show.
+    // Displays with few colours get what they can show.
     const QImage shown = screen()->depth() < 15 ? image_.convertToFormat(QImage::Format_RGB444) : image_;
     painter.save();
     painter.setClipRect(inside);
@@ -159,7 +159,7 @@ void fPickSurface::drawMark(QPainter& painter) const
                            std::clamp(at.y(), double(inside.top()), double(inside.bottom())));
         painter.setClipRect(inside);
         painter.setBrush(Qt::NoBrush);
-        // Black within white can be seen on any colour.
+        // Black inside white is visible on any colour.
         painter.setPen(QPen(Qt::white, 3));
         painter.drawEllipse(ring, 5, 5);
         painter.setPen(QPen(Qt::black, 1));

@@ -1,5 +1,5 @@
 // fPickSurface: a picture of colours to pick from, by mouse and by keys: the plane and the strip of the colour box, the
-// field and the strip of the picker. Knows no colour; it tells places.
+// field and the strip of the picker. Knows no colours; it reports positions.
 #pragma once
 #include <QImage>
 #include <QWidget>
@@ -11,9 +11,9 @@ class fPickSurface final : public QWidget {
   public:
     enum class Mark { None, Ring, Arrows };
     struct Look {
-        QSizeF cell; // screen pixels that a pixel of the picture takes
+        QSizeF cell; // screen pixels per pixel of the picture
         QSize shown; // how many of them are shown; the pointer reaches the others from outside
-        Mark mark;   // arrows stand in a margin of kArrow at both sides
+        Mark mark;   // arrows are in a margin of kArrow on both sides
     };
     static constexpr int kArrow = 8, kEdge = 2; // kEdge: the sunken frame
 
@@ -21,15 +21,15 @@ class fPickSurface final : public QWidget {
 
     void setImage(const QImage& image);
     const QImage& image() const { return image_; }
-    /// Where the mark stands, and where the keys start from.
+    /// The position of the mark, from which arrow keys start.
     void setPlace(QPoint place);
     QPoint place() const { return place_; }
-    /// What is picked, in words for screen readers.
+    /// The picked colour as a text for screen readers.
     void describe(const QString& text);
 
   signals:
     void picked(QPoint place); // pressed, dragged to, or reached by arrow keys; within the picture
-    void clicked();            // the button went up again; Space
+    void clicked();            // the button was released; Space
     void doubleClicked();
     void entered();             // Enter
     void hovered(QPoint place); // the pointer is over it

@@ -1,4 +1,4 @@
-// fPicker: what the picker does. Its controls are made in fPicker_controls.cpp.
+// fPicker: the picker's behaviour. Its controls are made in fPicker_controls.cpp.
 #include "ui/colour/fPicker.h"
 #include "seams/Platform.h"
 #include "ui/colour/fCellGrid.h"
@@ -19,8 +19,8 @@ namespace velara {
 
 namespace {
 
-/// A way to count a colour in three numbers: letters and what they stand for, units, and the parts that stand behind
-/// them. Of the inverted ones 255 less the number is shown.
+/// A colour model of three numbers: letters and meanings, units, and how to get and set each part. Inverted ones show
+/// 255 minus the number.
 struct Model {
     const char* letters[3];
     const char* names[3];
@@ -36,7 +36,7 @@ constexpr Model kModels[] = {
 
 Part partOf(const Model& model, int row) { return static_cast<Part>(static_cast<int>(model.first) + row); }
 
-/// A box that was just reached by Tab stays selected, so that what is typed replaces its number.
+/// A box that was just reached by Tab stays selected, so that typing replaces its number.
 void setNumber(QLineEdit& edit, const QString& number)
 {
     const bool selected = edit.hasSelectedText();
@@ -64,7 +64,7 @@ void fPicker::LoadColorDialog(Colour color)
     DrawPicker();
 }
 
-/// Field, strip, boxes and wells show the colour.
+/// Updates field, strip, boxes and wells from the colour.
 void fPicker::DrawPicker()
 {
     const Hsb& hsb = picked_.hsb();
@@ -118,7 +118,7 @@ void fPicker::takeModelPart(int row, int value)
 void fPicker::showModel()
 {
     const Model& model = kModels[model_->currentIndex()];
-    constexpr int kFirst = 3; // of the boxes behind those for hue, saturation and brightness
+    constexpr int kFirst = 3; // of the boxes after those for hue, saturation and brightness
     for (int row = 0; row < 3; ++row) {
         const auto at = static_cast<std::size_t>(row);
         letters_[at]->setText(QLatin1String(model.letters[row]));
@@ -129,7 +129,7 @@ void fPicker::showModel()
     DrawPicker();
 }
 
-/// The user is done with a box. What is no number of its range is refused, and the box keeps the keys: false.
+/// The user leaves a box. Anything but a number in its range is refused, and the box keeps the focus: false.
 bool fPicker::leaveBox(std::size_t index)
 {
     const Box& box = boxes_[index];
@@ -152,7 +152,7 @@ bool fPicker::leaveBox(std::size_t index)
     return false;
 }
 
-/// OK takes what stands in the boxes, too; Exit and Esc ask nothing.
+/// OK also accepts what is in the boxes; Exit and Esc ask nothing.
 void fPicker::takeAndClose()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i)
@@ -169,10 +169,10 @@ bool fPicker::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             leaveBox(index);
-            return true; // the dialog stays
+            return true; // the dialog stays open
         }
     }
-    // Once the keys have gone where they go: a message while they are on their way would catch them.
+    // Once the focus has moved: a message during the move would catch it.
     if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
         QTimer::singleShot(0, this, [this, index] {

@@ -25,16 +25,16 @@ class fPicker final : public QDialog {
   public:
     fPicker(Platform& platform, QWidget* parent = nullptr);
 
-    /// Begins with a colour.
+    /// Sets the initial colour.
     void LoadColorDialog(Colour color);
     Colour colour() const { return picked_.colour(); }
 
-    /// Which view is shown.
+    /// The current view.
     enum View { Picker = 0, UserList = 1, SafePalette = 4 };
     View view() const { return view_; }
 
   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override; // of the boxes: Enter, and the keys that go elsewhere
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the boxes: Enter, and loss of focus
 
   private:
     struct Box {

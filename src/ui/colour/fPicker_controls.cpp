@@ -1,4 +1,4 @@
-// fPicker: how its controls are made and laid out.
+// fPicker: making and laying out its controls.
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"

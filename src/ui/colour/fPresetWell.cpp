@@ -65,7 +65,7 @@ void fPresetWell::changeEvent(QEvent* event)
 
 void fPresetWell::showColour()
 {
-    // The colour, and an arrow that says that there is more.
+    // The colour, and an arrow that indicates a list.
     const double ratio = devicePixelRatioF();
     QPixmap pixmap((QSizeF(kIcon) * ratio).toSize());
     pixmap.setDevicePixelRatio(ratio);

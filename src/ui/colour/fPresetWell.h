@@ -1,4 +1,4 @@
-// fPresetWell: a colour well whose press opens a grid of preset colours below it.
+// fPresetWell: a colour well that opens a grid of preset colours below it when pressed.
 #pragma once
 #include "pixels/Bits.h"
 #include <QPointer>
@@ -12,7 +12,7 @@ class fColourCell;
 class fPresetWell final : public QToolButton {
     Q_OBJECT
   public:
-    /// Without colours: those of the desktop's palette, by their names.
+    /// Without colours: those of the desktop's palette, by name.
     fPresetWell(const QString& name, const QString& accessibleName, std::vector<Colour> colours, int columns,
                 QWidget* parent);
 

@@ -5,7 +5,7 @@ namespace velara {
 
 namespace {
 
-/// The number that a text begins with; anything else counts as 0.
+/// The number at the beginning of a text; anything else counts as 0.
 int leadingNumber(const QString& text)
 {
     const QString trimmed = text.trimmed();
@@ -65,7 +65,7 @@ void fRgbBox::mousePressEvent(QMouseEvent* event)
 void fRgbBox::mouseMoveEvent(QMouseEvent* event)
 {
     if (!(event->buttons() & Qt::LeftButton)) return QLineEdit::mouseMoveEvent(event);
-    // A move along the row counts as one downward: odd, and it stays.
+    // A move along the row counts as one downward: odd, and kept.
     const int y = event->position().toPoint().y(), step = event->modifiers() & Qt::ControlModifier ? 10 : 1;
     setText(QString::number(value() + (y < lastY_ ? step : -step)));
     lastY_ = y;

@@ -1,4 +1,4 @@
-// fRgbBox: a box for a whole number from 0 to 255 that can be dragged up and down like a spin control.
+// fRgbBox: a box for an integer from 0 to 255 that can be dragged up and down like a spin control.
 #pragma once
 #include <QLineEdit>
 
@@ -15,7 +15,7 @@ class fRgbBox final : public QLineEdit {
     void setValue(int value);
 
   signals:
-    /// The box was edited; it holds a number of its range.
+    /// The box was edited; it contains a number in its range.
     void edited();
 
   protected:

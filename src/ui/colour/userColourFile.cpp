@@ -9,11 +9,11 @@ namespace velara {
 
 namespace {
 
-constexpr std::int64_t kMostBytes = 64 << 10; // several times the longest list; what follows has no element
+constexpr std::int64_t kMostBytes = 64 << 10; // several times the longest list; the rest is ignored
 
 QString pathIn(const QString& programFolder) { return programFolder + QStringLiteral("/usercolors.cps"); }
 
-/// An empty file, unless something has the name: not through a link that leads nowhere yet.
+/// Creates an empty file, unless the name is taken, even by a dangling link.
 bool made(const QString& path)
 {
     const int file = open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

@@ -134,7 +134,7 @@ QWidget* fEffectsPage::makeFiles()
     return box;
 }
 
-/// Each is the effect itself, run on a small scene; not before the page is seen.
+/// Each is made by the effect itself, from a small scene; not before the page is visible.
 void fEffectsPage::drawThumbnails()
 {
     if (std::exchange(drawn_, true)) return;
@@ -151,7 +151,7 @@ void fEffectsPage::drawThumbnails()
 void fEffectsPage::showEvent(QShowEvent* event)
 {
     drawThumbnails();
-    if (!QFileInfo::exists(folder_)) writeStockTextures(frame_.platform()); // at the first time
+    if (!QFileInfo::exists(folder_)) writeStockTextures(frame_.platform()); // the first time
     CheckImagesFile();
     QWidget::showEvent(event);
 }
@@ -168,7 +168,7 @@ bool fEffectsPage::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// As many buttons side by side as there is room for.
+/// As many buttons side by side as fit.
 void fEffectsPage::flow()
 {
     const int columns = std::max(1, container_->width() / kCell);
@@ -215,7 +215,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) {
         if (!ListFile_->currentItem()) return;
         const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
-        reading_ = true; // which yields
+        reading_ = true; // reading runs events
         const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
         if (!alive) return;
         reading_ = false;

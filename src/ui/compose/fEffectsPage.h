@@ -30,7 +30,7 @@ class fEffectsPage final : public QWidget {
     /// The textures folder.
     const QString& folder() const { return folder_; }
     void setFolder(const QString& folder);
-    /// Keeps V in step with the toolbar's height.
+    /// Updates V for the toolbar's height.
     void UppdateScroll();
 
   signals:
@@ -40,7 +40,7 @@ class fEffectsPage final : public QWidget {
 
   protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override; // the toolbar's container
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the toolbar's container
 
   private:
     QWidget* makeToolbar();

@@ -12,9 +12,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kGrip = 9; // side of one, screen pixels
+constexpr int kGrip = 9; // side of a grip, screen pixels
 
-/// Of a grip: which sides it moves, -1 left or top, 1 right or bottom.
+/// The sides that each grip moves: -1 left or top, 1 right or bottom.
 constexpr struct {
     int across, down;
     Qt::CursorShape pointer;
@@ -22,7 +22,7 @@ constexpr struct {
               {1, 0, Qt::SizeHorCursor},     {1, 1, Qt::SizeFDiagCursor}, {0, 1, Qt::SizeVerCursor},
               {-1, 1, Qt::SizeBDiagCursor},  {-1, 0, Qt::SizeHorCursor}};
 
-/// MskText: what is printed for a layer, straight from its memory, within its outline.
+/// MskText: shows a layer's surface, directly from its memory, within its outline.
 class Surface final : public QWidget {
   public:
     Surface(const Layers& layers, int index, const fLayerCanvas& canvas, QWidget* parent)
@@ -45,7 +45,7 @@ class Surface final : public QWidget {
                                     QSize(part.width(), part.height()) * zoom),
                               imageOver(bits));
         }
-        const bool chosen = canvas_.selected() == index_; // seen on light and on dark
+        const bool chosen = canvas_.selected() == index_; // visible on light and on dark
         painter.setPen(chosen ? Qt::white : QColor(255, 255, 255, 150));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setPen(QPen(chosen ? Qt::black : QColor(0, 0, 0, 150), 1, Qt::DashLine));
@@ -89,7 +89,7 @@ fLayerCanvas::fLayerCanvas(Layers& layers)
     }
 }
 
-// --- Layers and what shows them
+// --- Layers and the widgets that show them
 
 int fLayerCanvas::addLayer()
 {
@@ -179,7 +179,7 @@ void fLayerCanvas::ShowG()
     cursor_->raise();
 }
 
-/// At the corners and the middles of the sides; where those lie outside of the canvas, at its edge.
+/// At the corners and side centres; if those lie outside of the canvas, at its edge.
 void fLayerCanvas::placeGrips()
 {
     const QRect shape = outlines_.at(selected_)->geometry();
@@ -242,7 +242,7 @@ Rect fLayerCanvas::resized(const Rect& place, int grip, QPoint by)
 {
     const auto [across, down, pointer] = kGrips[grip];
     Rect to = place;
-    // The side that stands still stays where it is, however far the other is pushed.
+    // The opposite side stays where it is, however far this one is pushed.
     if (across < 0) to.left = std::min(to.left + by.x(), to.right - Layers::kLeastSide);
     if (across > 0) to.right = std::max(to.right + by.x(), to.left + Layers::kLeastSide);
     if (down < 0) to.top = std::min(to.top + by.y(), to.bottom - Layers::kLeastSide);

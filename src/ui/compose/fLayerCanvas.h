@@ -1,10 +1,10 @@
 // fLayerCanvas: the canvas of the layers dialog. Shows the picture; every layer is a child widget lblShape_i in the
-// picture's coordinates with its surface MskText_i, and eight grips stand around the selected one. A press beside the
-// layers stores the place of the next.
+// picture's coordinates with its surface MskText_i, and eight grips surround the selected one. A press beside the
+// layers stores the position of the next.
 //
-// Keys: what is typed goes into the selected layer, or begins one at the stored place. While a text is edited the
-// arrows move the caret and Delete takes the character behind it; else arrows move the layer by a pixel (ten with
-// Shift) and Delete removes it. Esc ends editing, then the selection. Tab does nothing while a text is edited.
+// Keys: typing goes into the selected layer, or begins one at the stored position. While a text is edited the arrows
+// move the caret and Delete removes the character after it; otherwise arrows move the layer by a pixel (ten with Shift)
+// and Delete removes it. Esc ends editing, then the selection. Tab does nothing while a text is edited.
 #pragma once
 #include "text/Layers.h"
 #include "ui/widgets/fPicture.h"
@@ -24,17 +24,17 @@ class fLayerCanvas final : public fPicture {
     void select(int index);
     bool editing() const { return editing_; }
     void edit(bool on);
-    /// A layer at the stored place, in the style of the next one; selected and edited.
+    /// Adds a layer at the stored position, in the style for the next one, selected and in editing.
     int addLayer();
     void removeSelected();
-    /// The outline, surface and grips follow the model; index 0: all layers.
+    /// Updates outline, surface and grips from the model; index 0: all layers.
     void refresh(int index);
-    /// Of the next layer.
+    /// For the next layer.
     TextStyle nextStyle;
     Colour nextColour = 0;
-    /// The eight grips are there whenever a layer is selected and shown.
+    /// Shows the eight grips if a layer is selected and visible.
     void ShowG();
-    /// Where the eight directions take the sides of a place; by is in pixels.
+    /// Moves a place's sides in the direction of one of the eight grips; by is in pixels.
     static Rect resized(const Rect& place, int grip, QPoint by);
 
   signals:
@@ -61,7 +61,7 @@ class fLayerCanvas final : public fPicture {
     struct Drag {
         Rect place; // at the press
         QPoint from;
-        int grip = -1; // none: the layer moves
+        int grip = -1; // -1: the layer moves
     };
     void makeOutline(int index);
     void place(int index);
@@ -79,7 +79,7 @@ class fLayerCanvas final : public fPicture {
 
     Layers& layers_;
     std::map<int, QWidget*> outlines_; // lblShape_i
-    std::array<QWidget*, 8> grips_{};  // lblGrip_0 from the upper left corner on, as the clock goes
+    std::array<QWidget*, 8> grips_{};  // lblGrip_0 is the upper left corner, then clockwise
     QWidget* cursor_;                  // the caret, or the stored place
     QPoint stored_{8, 8};
     int selected_ = 0;

@@ -1,4 +1,4 @@
-// The canvas of the layers dialog: what keys and input methods do to the selected layer and its text.
+// The canvas of the layers dialog: keys and input methods for the selected layer and its text.
 #include "ui/compose/fLayerCanvas.h"
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,7 +9,7 @@ namespace velara {
 
 namespace {
 
-/// The next place of the caret, over whole characters as a person sees them.
+/// The next caret position, by grapheme clusters.
 qsizetype step(const QString& text, qsizetype from, bool forward)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -59,7 +59,7 @@ void fLayerCanvas::moveCaret(int key)
     } else if (key == Qt::Key_End) {
         const qsizetype end = text.indexOf(u'\r', caret_);
         caret_ = end < 0 ? text.size() : end;
-    } else { // the same place of the line above or below
+    } else { // the same column of the line above or below
         const qsizetype start = caret_ > 0 ? text.lastIndexOf(u'\n', caret_ - 1) + 1 : 0,
                         end = text.indexOf(u'\n', caret_);
         const qsizetype column = caret_ - start;
@@ -105,7 +105,7 @@ bool fLayerCanvas::editKey(QKeyEvent& event)
     }
 }
 
-/// Whoever types on after a Tab means the text: a Space must not press the button that has the focus by then.
+/// A user who types on after a Tab means the text: a Space must not press the button that would have the focus.
 bool fLayerCanvas::focusNextPrevChild(bool next) { return !editing_ && fPicture::focusNextPrevChild(next); }
 
 /// Keys while a layer is selected and not edited.
@@ -157,10 +157,10 @@ void fLayerCanvas::keyPressEvent(QKeyEvent* event)
     const bool isText = !typed.isEmpty() && typed[0].isPrint();
     if (isText && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
         return insert(typed);
-    fPicture::keyPressEvent(event); // the page scrolls, the dialog closes
+    fPicture::keyPressEvent(event); // scrolls the page, closes the dialog
 }
 
-/// What an input method is still composing stands in the text, behind the caret, until it is committed or dropped.
+/// Text that an input method is still composing is in the text, after the caret, until it is committed or dropped.
 void fLayerCanvas::dropPreedit()
 {
     if (preedit_.isEmpty() || selected_ == 0) return preedit_.clear();

@@ -1,5 +1,5 @@
 // fLayerList: the list of the layers dialog, picL in the container picLC with the bar VV: a check box BT_i and a
-// thumbnail pT_i a layer.
+// thumbnail pT_i per layer.
 #pragma once
 #include "text/Layers.h"
 #include <QWidget>
@@ -21,7 +21,7 @@ class fLayerList final : public QWidget {
     void remove(int index);
     void select(int index); // 0: none
     void refresh(int index);
-    /// The bar reaches as far as the list does.
+    /// Sets the bar's range to the list's height.
     void UpdateLayerScroll();
 
   signals:

@@ -32,7 +32,7 @@ constexpr int kUsualEntry = 4;                // size 15
 constexpr struct {
     int number;
     const char *caption, *icon;
-    bool TextStyle::*flag; // none: takes all of them away
+    bool TextStyle::*flag; // null: clears all of them
 } kStyles[] = {{1, "Regular", "edit-clear", nullptr},
                {3, "Bold", "format-text-bold", &TextStyle::bold},
                {4, "Italic", "format-text-italic", &TextStyle::italic},
@@ -94,7 +94,7 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     canvas_->setFocus();
 }
 
-/// What shows the layers goes before them.
+/// The widgets that show the layers are deleted before them.
 fLayers::~fLayers()
 {
     if (Document* document = document_.get(); document && waiting_) document->waitingWork = nullptr;
@@ -179,7 +179,7 @@ void fLayers::connectAll()
     });
     connect(list_, &fLayerList::chosen, this, [this](int index) {
         canvas_->select(index);
-        list_->select(index); // the button may have let go of its own mark
+        list_->select(index); // the button may have unchecked itself
         canvas_->setFocus();
     });
     connect(list_, &fLayerList::shown, this, [this](int index, bool on) {
@@ -204,7 +204,7 @@ void fLayers::connectAll()
     showStyle(0);
 }
 
-/// What the controls say goes to the selected layer, and to those to come.
+/// Applies the controls' settings to the selected layer, and to later ones.
 void fLayers::takeStyle()
 {
     if (showing_) return;
@@ -219,7 +219,7 @@ void fLayers::takeStyle()
     }
 }
 
-/// The controls take the layer's settings.
+/// Shows the layer's settings in the controls.
 void fLayers::showStyle(int index)
 {
     delete_->setEnabled(index != 0);
@@ -236,7 +236,7 @@ void fLayers::showStyle(int index)
     canvas_->nextColour = layer.colour;
 }
 
-/// The canvas is the document's picture as it is now.
+/// Updates the canvas to the document's present picture.
 void fLayers::followDocument()
 {
     const Document* document = document_.get();
@@ -253,7 +253,7 @@ void fLayers::changeEvent(QEvent* event)
     QDialog::changeEvent(event);
 }
 
-/// Esc belongs to the canvas; a slip of it must not cost the texts.
+/// Esc belongs to the canvas; pressing it by mistake must not lose the texts.
 void fLayers::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Escape) QDialog::keyPressEvent(event);
@@ -261,12 +261,12 @@ void fLayers::keyPressEvent(QKeyEvent* event)
 
 const Layers& fLayers::asTyped()
 {
-    canvas_->edit(false); // what an input method is still composing is not part of the text
+    canvas_->edit(false); // text that an input method is still composing isn't committed
     followDocument();
     return layers_;
 }
 
-/// The document asks for the texts before it closes.
+/// Tells the document about waiting texts, for which it asks before it closes.
 void fLayers::tellDocument()
 {
     Document* document = document_.get();
@@ -275,7 +275,7 @@ void fLayers::tellDocument()
     document->waitingWork = nullptr;
     if (waiting_)
         document->waitingWork = [alive = QPointer(this)] {
-            return !alive || (alive->applyNow() && (!alive || alive->close())); // a change lets anything happen
+            return !alive || (alive->applyNow() && (!alive || alive->close())); // anything may happen during a change
         };
     emit waitingChanged();
 }
@@ -302,7 +302,7 @@ bool fLayers::mayClose()
     return alive && (answer == Answer::No || (answer == Answer::Yes && applyNow()));
 }
 
-/// then(true) when the document has the texts; nobody is told when this window goes before.
+/// Calls then(true) once the document has the texts; not called if this window is destroyed first.
 void fLayers::apply(std::function<void(bool done)> then)
 {
     if (!document_ || done_) return then(true);
@@ -318,7 +318,7 @@ void fLayers::apply(std::function<void(bool done)> then)
     });
 }
 
-/// For a question, which can't be answered before.
+/// Synchronously, for a question that needs the result.
 bool fLayers::applyNow()
 {
     const auto has = std::make_shared<bool>(false);

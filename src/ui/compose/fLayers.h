@@ -1,6 +1,6 @@
 // fLayers: "Apply Text". Texts are put on a picture of the document, moved and restyled; OK merges them into it. Not
-// modal: the document stays open behind it, and what is changed there shows here as soon as this window is used again.
-// While texts wait the document counts as changed, and this window asks before it closes without them.
+// modal: the document stays usable, and its changes are shown here as soon as this window is active again. While texts
+// are waiting the document counts as changed, and this window asks before it closes without them.
 #pragma once
 #include "document/road/DocumentHandle.h"
 #include "text/Layers.h"
@@ -27,13 +27,13 @@ class fLayers final : public QDialog {
     ~fLayers() override;
 
     const DocumentHandle& document() const { return document_; }
-    /// Whether something was typed that is neither merged nor let go of.
+    /// Whether there are texts that are neither merged nor discarded.
     bool hasTexts() const { return !done_ && layers_.hasText(); }
-    /// The layers over the document's present picture, with what is still being typed.
+    /// The layers over the document's present picture, including text still being composed.
     const Layers& asTyped();
 
   signals:
-    /// There are texts now, or none any more; the document's waitingWork has been set.
+    /// There are texts now, or no longer; the document's waitingWork has been set.
     void waitingChanged();
 
   protected:
@@ -66,8 +66,8 @@ class fLayers final : public QDialog {
     QToolButton* delete_ = nullptr;
     QTimer watch_;
     bool showing_ = false;
-    bool waiting_ = false; // the document knows of texts here
-    bool done_ = false;    // the texts are merged, or may go
+    bool waiting_ = false; // the document has been told of texts here
+    bool done_ = false;    // the texts are merged or may be discarded
 };
 
 } // namespace velara

@@ -23,12 +23,12 @@ namespace velara {
 namespace {
 
 constexpr float kMargin = 60.f / kTwips;
-constexpr int kUsualSize = 10; // where the configuration has none
+constexpr int kUsualSize = 10; // if the configuration has none
 constexpr Colour kPaper = 0xFFFFFF, kFace = 0;
-/// As a mask it lets through a third of the colour, as a picture it is the grey of a button's edge.
+/// As a mask it passes a third of the colour, as a picture it is the grey of a button's edge.
 constexpr Colour kShadow = 0x7F7F7F;
 
-/// Named, with the name for people shown as a hint too.
+/// Named, with the accessible name as tool tip.
 template <class Control> Control* hinted(Control* control, const char* name, const QString& accessibleName)
 {
     control->setToolTip(accessibleName);
@@ -62,7 +62,7 @@ Bits paper(QSize size)
     return bits;
 }
 
-/// What is not paper: the text's own size, so that the pointer holds it by its middle. Null where all is paper.
+/// The text cropped to its ink, so that the pointer holds it by its centre. Null when there is no ink.
 Bits inkOf(const Bits& bits)
 {
     const auto isInk = [](const Pixel& pixel) { return pixel.c[0] != blueOf(kPaper); };
@@ -96,7 +96,7 @@ fTextPage::fTextPage(Frame& frame, QWidget* parent)
         connect(list, &QComboBox::currentIndexChanged, this, &fTextPage::takeStyle);
     connect(cboSize_, &QComboBox::currentTextChanged, this, &fTextPage::takeSize);
     connect(cboSize_->lineEdit(), &QLineEdit::editingFinished, this, [this] {
-        cboSize_->setCurrentText(QString::number(style_.size)); // whatever was typed: this is what holds
+        cboSize_->setCurrentText(QString::number(style_.size)); // whatever was typed: this is the valid one
     });
     for (QToolButton* button : {CmdB_, CmdI_, CmdU_})
         connect(button, &QToolButton::toggled, this, &fTextPage::takeStyle);
@@ -115,7 +115,7 @@ void fTextPage::makeControls()
     cboSize_->lineEdit()->setMaxLength(3);
     for (const int size : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 32, 36, 40, 48, 56, 64, 72})
         cboSize_->addItem(QString::number(size));
-    lblCustom_->setObjectName(QStringLiteral("lblCustom")); // what is measured, never seen
+    lblCustom_->setObjectName(QStringLiteral("lblCustom")); // used for measuring, never shown
     lblCustom_->hide();
     lblRefused_->setObjectName(QStringLiteral("lblRefused"));
     lblRefused_->setWordWrap(true);
@@ -143,7 +143,7 @@ void fTextPage::makeControls()
     column->addWidget(place);
 }
 
-/// The controls as the configuration has them. Not before the page is seen: to list the fonts takes its time.
+/// Fills the controls from the configuration. Not before the page is visible: listing the fonts is slow.
 void fTextPage::fill()
 {
     if (std::exchange(filled_, true)) return;
@@ -175,7 +175,7 @@ void fTextPage::showEvent(QShowEvent* event)
 
 bool fTextPage::eventFilter(QObject* watched, QEvent* event)
 {
-    // No message here: the window would ask while it is being pulled.
+    // No message here: it would pop up while the window is being resized.
     if (watched == picCustom_ && event->type() == QEvent::Resize && filled_) layOut();
     return QWidget::eventFilter(watched, event);
 }
@@ -192,7 +192,7 @@ void fTextPage::takeStyle()
     UpdateText();
 }
 
-/// Numbers from 1 to the limit; anything else leaves the size as it is.
+/// Accepts 1 to the limit; anything else leaves the size unchanged.
 void fTextPage::takeSize(const QString& typed)
 {
     bool isNumber = false;

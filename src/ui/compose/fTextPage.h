@@ -1,4 +1,4 @@
-// fTextPage: the page of the textures box on which a text is laid out, as the mouse tool "Text" will stamp it.
+// fTextPage: the page of the textures box that lays out a text for the mouse tool "Text".
 #pragma once
 #include "text/mText.h"
 #include <QWidget>
@@ -18,8 +18,8 @@ class fTextPage final : public QWidget {
   public:
     explicit fTextPage(Frame& frame, QWidget* parent = nullptr);
 
-    /// Lays the text out in the work picture and hands it to the mouse tool. Says so when no size fits: once, until one
-    /// has fitted again.
+    /// Lays the text out in the work picture and passes it to the mouse tool. Reports when no size fits: once, until
+    /// one fits again.
     void UpdateText();
 
   signals:

@@ -1,5 +1,5 @@
-// fToolTextures: the textures box, which floats over the frame. On one page a text is laid out for the mouse tool
-// "Text", on the other an effect or a texture file is run on the active picture.
+// fToolTextures: the textures box, which floats over the frame. One page lays out a text for the mouse tool "Text", the
+// other runs an effect or a texture file on the active picture.
 #pragma once
 #include <QWidget>
 
@@ -24,7 +24,7 @@ class fToolTextures final : public QWidget {
   signals:
     /// The user wants the mouse tool "Text".
     void placing();
-    /// And another folder of textures.
+    /// The user wants another folder of textures.
     void folderWanted();
 
   private:

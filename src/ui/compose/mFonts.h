@@ -1,4 +1,4 @@
-// mFonts: the lists of fonts and sizes of the windows that set text.
+// mFonts: fills the lists of fonts and sizes in windows that set text.
 #pragma once
 #include <QComboBox>
 
@@ -6,10 +6,10 @@ namespace velara {
 
 class Platform;
 
-/// The installed families, each with the writing systems that it serves as its tip. False after the message that they
-/// can't be had.
+/// The installed families, each with its writing systems as tool tip. False after the message that they aren't
+/// available.
 bool fillFonts(QComboBox& list, Platform& platform);
-/// Chooses the family, or the one that stands in for it.
+/// Selects the family, or its substitute.
 void selectFont(QComboBox& list, Platform& platform, const QString& family);
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// A small scene with edges, colours and soft areas, on which thumbnails show what an effect does.
+// A small scene with edges, colours and soft areas for thumbnails of effects.
 #pragma once
 #include "pixels/Bits.h"
 

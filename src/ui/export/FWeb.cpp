@@ -1,4 +1,4 @@
-// FWeb: what the dialog does. Its controls are made in FWeb_controls.cpp.
+// FWeb: the dialog's behaviour. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
 #include "fileio/formats.h"
@@ -29,7 +29,7 @@ namespace {
 constexpr int kBothTab = 2;
 constexpr int kMostQuality = 32767;
 
-/// A combo box takes an entry without telling.
+/// Selects an entry of a combo box without a signal.
 void setQuietly(QComboBox* box, int index)
 {
     const QSignalBlocker quiet(box);
@@ -69,7 +69,7 @@ FWeb::~FWeb() { end(); }
 QString FWeb::temporaryName() const
 {
     const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
-    makePrivateFolder(folder); // it may have been swept away meanwhile
+    makePrivateFolder(folder); // it may have been removed meanwhile
     return folder + (settings_.isJpeg() ? QStringLiteral("/J0001.jpg") : QStringLiteral("/G0001.gif"));
 }
 
@@ -112,7 +112,7 @@ void FWeb::qualityChosen(int quality)
 void FWeb::customQuality()
 {
     if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
-    setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be chosen again
+    setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be selected again
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
 
@@ -154,7 +154,7 @@ void FWeb::changed()
     timer_.start(0);
 }
 
-/// A button was pressed. It doesn't wait for a preview, but "Save As" for the quality that "Fit" looks for.
+/// A button was pressed. It doesn't wait for a preview; only "Save As" waits for the quality that "Fit" looks for.
 void FWeb::ask(Work work)
 {
     next_ = work;
@@ -253,7 +253,7 @@ void FWeb::showFile(const Written& written)
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
-/// What is told of the file is grey while it is not that of the settings.
+/// The file's properties are grey while they aren't those of the settings.
 void FWeb::setStale(bool stale)
 {
     for (QLabel* label : {FileType2_, Depth2_, FileSize2_, FileType4_, Depth4_, FileSize4_, exact_})

@@ -26,7 +26,7 @@ class Platform;
 class FWeb final : public QDialog {
     Q_OBJECT
   public:
-    /// name is what the document is called; path its own file, if there is one.
+    /// name is the document's; path its own file, if there is one.
     FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent = nullptr);
 
     ~FWeb() override;

@@ -1,4 +1,4 @@
-// FWeb: how its controls are made and laid out.
+// FWeb: making and laying out its controls.
 #include "ui/export/FWeb.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
@@ -19,7 +19,7 @@ namespace velara {
 namespace {
 
 constexpr int kBusyHeight = 4;       // pixels
-constexpr auto kEmptyQuality = "50"; // what a quality that was left empty becomes
+constexpr auto kEmptyQuality = "50"; // the value of a quality left empty
 
 QPushButton* button(const char* name, const QString& text)
 {
@@ -35,7 +35,7 @@ template <class Row> QComboBox* list(const char* name, const QString& accessible
     return box;
 }
 
-/// A field whose text is 50, and selected, when it is left empty.
+/// A field that becomes 50, selected, when it is left empty.
 class QualityField final : public QLineEdit {
   protected:
     void focusOutEvent(QFocusEvent* event) override
@@ -141,7 +141,7 @@ QWidget* FWeb::makeJpegFrame()
     TxtJPG_->setMaxLength(5);
     TxtJPG_->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), TxtJPG_));
     auto* update = button("jpgUpdate", tr("Update"));
-    update->setFocusPolicy(Qt::TabFocus); // a click leaves the field as it is
+    update->setFocusPolicy(Qt::TabFocus); // a click doesn't make the field lose the focus
     fit_ = named(new QSpinBox, "spnFit", tr("Fit to so many KB"));
     fit_->setRange(1, 999999);
     fit_->setValue(100);
@@ -211,7 +211,7 @@ QWidget* FWeb::makePages()
     lines->addWidget(makePage(original_, {label("FileType3", tr("Document"))}), 1);
     lines->addWidget(makePage(optimized_, {FileType4_, Depth4_, FileSize4_}), 1);
     sT_->addTab(both, QStringLiteral("Both"));
-    sT_->setCurrentIndex(1); // what every choice changes
+    sT_->setCurrentIndex(1); // the page that every choice changes
     connect(sT_, &QTabWidget::currentChanged, this, &FWeb::pageChosen);
 
     auto* column = new QWidget;
@@ -220,10 +220,10 @@ QWidget* FWeb::makePages()
     exact_ = label("lblExact", tr("Exact size and loss"));
     exact_->setForegroundRole(QPalette::PlaceholderText);
     busy_ = named(new QProgressBar, "pbBusy", tr("The file is being written"));
-    busy_->setRange(0, 0); // nobody knows how long
+    busy_->setRange(0, 0); // indeterminate
     busy_->setTextVisible(false);
     busy_->setFixedHeight(kBusyHeight);
-    QSizePolicy kept = busy_->sizePolicy(); // the pictures stay as they are when it goes
+    QSizePolicy kept = busy_->sizePolicy(); // the pictures keep their size when it is hidden
     kept.setRetainSizeWhenHidden(true);
     busy_->setSizePolicy(kept);
     busy_->hide();

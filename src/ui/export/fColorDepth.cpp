@@ -67,8 +67,8 @@ QWidget* fColorDepth::makePages()
     auto* tabs = named(new QTabWidget, "SSTab1", tr("Pictures"));
     tabs->addTab(original_, QStringLiteral("Original"));
     tabs->addTab(optimized_, QStringLiteral("Optimized"));
-    tabs->setUsesScrollButtons(false); // both names can be read at every width
-    tabs->setCurrentIndex(1);          // what the choice of a depth changes
+    tabs->setUsesScrollButtons(false); // both names are legible at every width
+    tabs->setCurrentIndex(1);          // the page that a choice of depth changes
     return tabs;
 }
 

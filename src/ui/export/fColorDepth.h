@@ -1,5 +1,5 @@
-// fColorDepth: the dialog "Image Color Depth": the picture before and after a reduction of its colours, at a size that
-// can be chosen. It hands the reduced picture to the document, or on to the dialog that saves it.
+// fColorDepth: the dialog "Image Color Depth": the picture before and after colour reduction, at a selectable size. It
+// passes the reduced picture to the document, or to the dialog that saves it.
 #pragma once
 #include "ui/widgets/fPicturePage.h"
 #include <QDialog>
@@ -21,7 +21,7 @@ class fColorDepth final : public QDialog {
     };
     fColorDepth(const Bits& picture, Actions actions, QWidget* parent = nullptr);
 
-    /// Both pictures at 1 / Level of their size, reduced afresh.
+    /// Shows both pictures at 1 / Level of their size, reduced again.
     void zoomlevel(int Level);
 
   private:

@@ -1,4 +1,4 @@
-// fFilter: what the dialog does. Its controls are made in fFilter_controls.cpp.
+// fFilter: the dialog's behaviour. Its controls are made in fFilter_controls.cpp.
 #include "ui/filter/fFilter.h"
 #include "commands/jobs.h"
 #include "document/Draft.h"
@@ -79,7 +79,7 @@ void fFilter::changed()
         previewTimer_.start(static_cast<int>(*delay));
 }
 
-/// Strengths of the glass; the choice stays where the style has it.
+/// The strengths of the glass; the choice is kept if the style has it.
 void fFilter::fillModes()
 {
     const int mode = cbo_->currentIndex(), modes = kGlassStyles[oo_->checkedId()].modes;

@@ -1,5 +1,5 @@
-// fFilter: the one dialog behind all filters that have settings. The row of the filter says what it shows; a small copy
-// of the picture shows what the filter does, and the buttons run it on the whole picture.
+// fFilter: the one dialog for all filters with settings. The filter's row determines its contents; a small copy of the
+// picture previews the filter, and the buttons run it on the whole picture.
 #pragma once
 #include "commands/DetailRun.h"
 #include "commands/FilterPreview.h"
@@ -28,19 +28,19 @@ class fPicturePage;
 class fFilter final : public QDialog {
     Q_OBJECT
   public:
-    /// document has a picture.
+    /// document must have a picture.
     fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& document, QWidget* parent = nullptr);
 
-    /// What the controls stand on.
+    /// The settings of the controls.
     FilterArgs arguments() const;
 
-    /// OK and Real Time: runs the filter on the document and closes; stays open, after a message, where that fails.
+    /// OK and Real Time: runs the filter on the document and closes; stays open, after a message, if that fails.
     void accept() override;
-    /// Exit, Esc and the window's cross: ends a running filter, else closes with the picture as it was.
+    /// Exit, Esc and the close button: ends a running filter, otherwise closes with the picture unchanged.
     void reject() override;
 
   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override; // a press on lblOption is one on chkOption
+    bool eventFilter(QObject* watched, QEvent* event) override; // a press on lblOption counts as one on chkOption
     void showEvent(QShowEvent* event) override;
 
   private:
@@ -59,7 +59,7 @@ class fFilter final : public QDialog {
     void fillModes();
     void runPreview();
     void runDetail();
-    double previewScale() const; // preview pixels a pixel of the picture
+    double previewScale() const; // preview pixels per pixel of the picture
     void showDetail(QPoint previewPixel);
     void frameDetail();
     void picked(QPoint pixel);
@@ -67,19 +67,19 @@ class fFilter final : public QDialog {
     void showRunning(bool running);
     void ended(const Outcome& outcome);
 
-    static constexpr QSize kPreviewBox{300, 260}; // that the small copies fit
-    static constexpr QSize kDetailBox{280, 262};  // of the 1:1 view with its bars
+    static constexpr QSize kPreviewBox{300, 260}; // the box of the small copies
+    static constexpr QSize kDetailBox{280, 262};  // of the 1:1 view with its scroll bars
 
     Frame& frame_;
     const FilterRow& row_;
     DocumentHandle document_;
-    const Bits picture_; // the document may go before the dialog does
+    const Bits picture_; // the document may be closed before the dialog
     FilterPreview preview_;
     RunPacer pacer_;
     QTimer previewTimer_, tmrSelect_;
 
     fPicture *iSrc_ = nullptr, *iDst_ = nullptr;
-    fPicturePage* detail_ = nullptr; // null where the small copies are the picture itself
+    fPicturePage* detail_ = nullptr; // null when the small copies are the picture itself
     QWidget* controls_ = nullptr;
     std::array<QSlider*, 3> sbFilter_{};
     std::array<fColorButton*, 2> Col_{};
@@ -94,7 +94,7 @@ class fFilter final : public QDialog {
     QPointF centre_{0.5, 0.5};
     int activeWell_ = 0;
     bool running_ = false;
-    int change_ = 0; // that runs, for Workspace::cancel
+    int change_ = 0; // the running one, for Workspace::cancel
     std::unique_ptr<DetailRun> detailRun_;
 };
 

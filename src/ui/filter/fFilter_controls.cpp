@@ -1,4 +1,4 @@
-// fFilter: how its controls are made and laid out. Members of control arrays are named name_index.
+// fFilter: making and laying out its controls. Members of control arrays are named name_index.
 #include "document/road/Frame.h"
 #include "seams/Setup.h"
 #include "ui/filter/fFilter.h"
@@ -170,7 +170,7 @@ QWidget* fFilter::makeCurtain()
     auto* box = named(new QGroupBox(tr("Curtain Effects"), controls_), QStringLiteral("FrmCurtain"));
     auto* line = new QHBoxLayout(box);
     Curt_ = new QButtonGroup(box);
-    for (std::size_t i = std::size(kCurtains); i-- > 0;) { // the last stands first
+    for (std::size_t i = std::size(kCurtains); i-- > 0;) { // the last one comes first
         const QString caption = tr(kCurtains[i]);
         auto* button = named(new QRadioButton(caption, box), numbered("Curt", i), caption + tr(" curtain"));
         button->setChecked(i == 0);

@@ -1,4 +1,4 @@
-// fFilter: the pictures before and after, and the detail that shows the result pixel for pixel.
+// fFilter: the pictures before and after, and the detail that shows the result at 1:1.
 #include "document/Document.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fPicture.h"
@@ -67,7 +67,7 @@ void fFilter::addDetail(QGridLayout* grid)
     detailRun_ = std::make_unique<DetailRun>(row_, picture_, document_->Region.working(), done);
 }
 
-/// The detail begins in the middle of what the filter works on.
+/// The detail starts at the centre of the filter's region.
 void fFilter::showEvent(QShowEvent* event)
 {
     const Rect all = preview_.region().bounds();

@@ -48,7 +48,7 @@ void fCanvasView::show(QSize canvas, QPoint place)
     layOut();
 }
 
-/// The scale is that of the canvas and the picture side by side at their largest, so that it rests during a drag.
+/// The scale fits the canvas and the picture side by side at their largest, so that it is constant during a drag.
 void fCanvasView::layOut()
 {
     const double wide = std::max({canvas_.width(), size_.width(), 1}),
@@ -81,7 +81,7 @@ bool fCanvasView::eventFilter(QObject* watched, QEvent* event)
         QPainter painter(image_);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(image_->rect(), imageOver(small_));
-        // What sticks out of the canvas will be cut: shown pale.
+        // Parts outside of the canvas will be cropped: shown pale.
         QRegion outside(image_->rect());
         outside -= canvasOnScreen().translated(-image_->pos());
         for (const QRect& part : outside) painter.fillRect(part, QColor(128, 128, 128, 190));
@@ -130,7 +130,7 @@ fCanvas::fCanvas(Platform& platform, const Bits& picture, QWidget* parent)
     connect(anchors_, &QButtonGroup::idClicked, this, &fCanvas::placeByAnchor);
     connect(view_, &fCanvasView::dragged, this, [this](QPoint place) {
         place_ = place;
-        anchors_->setExclusive(false); // none of them holds now
+        anchors_->setExclusive(false); // none of them applies now
         if (anchors_->checkedButton()) anchors_->checkedButton()->setChecked(false);
         anchors_->setExclusive(true);
     });

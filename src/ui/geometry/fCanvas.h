@@ -1,5 +1,5 @@
-// fCanvas: the dialog "Canvas size": room around the picture, or less of it. The picture is placed by dragging or by
-// one of nine anchors.
+// fCanvas: the dialog "Canvas size": enlarges or crops the area around the picture. The picture is placed by dragging
+// or by one of nine anchors.
 #pragma once
 #include "ui/geometry/fGeometry.h"
 #include <QButtonGroup>
@@ -11,7 +11,7 @@ class fCanvasView final : public QWidget {
     Q_OBJECT
   public:
     explicit fCanvasView(const Bits& picture);
-    /// The canvas size and the place of the picture's upper left pixel on it, in pixels of the picture.
+    /// The canvas size and the position of the picture's upper left pixel on it, in pixels of the picture.
     void show(QSize canvas, QPoint place);
 
   signals:
@@ -31,7 +31,7 @@ class fCanvasView final : public QWidget {
     QWidget* image_;
     QPointF grabbed_;
     QPoint grabbedPlace_;
-    double scale_ = 1; // screen pixels a picture pixel
+    double scale_ = 1; // screen pixels per picture pixel
 };
 
 class fCanvas final : public fGeometry {
@@ -47,7 +47,7 @@ class fCanvas final : public fGeometry {
     QWidget* makeAnchors();
     QWidget* makeHelp();
     void defined(int index);
-    /// Puts the picture at the anchor that is down; where none is, it stays.
+    /// Puts the picture at the selected anchor; without one it stays.
     void placeByAnchor();
 
     QSize size_; // of the picture

@@ -12,7 +12,7 @@ namespace velara {
 
 namespace {
 
-/// value as a 16-bit integer, halves to even; what does not fit is cut.
+/// value as a 16-bit integer, half to even, clamped to 0..32767.
 int sixteenBit(double value) { return static_cast<int>(std::clamp(roundToEven(value), 0.0, double(Bits::kMostASide))); }
 
 } // namespace

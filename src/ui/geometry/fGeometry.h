@@ -1,5 +1,5 @@
-// fGeometry: what the dialogs that make or reshape a picture have in common: a grid of controls, a preview made by the
-// very command on a small copy, OK and Cancel. A dialog changes nothing itself; after OK the frame runs its job.
+// fGeometry: the common part of the dialogs that make or reshape a picture: a grid of controls, a preview made by the
+// command itself on a small copy, OK and Cancel. A dialog changes nothing itself; after OK the frame runs its job.
 #pragma once
 #include "document/Document.h"
 #include "document/road/Change.h"
@@ -23,19 +23,19 @@ class fGeometry : public QDialog {
     static constexpr QSize kPreview{200, 160};
 
     fGeometry(const QString& name, const QString& title, Platform& platform, QWidget* parent);
-    /// What to do after OK.
+    /// The job to run after OK.
     virtual Job job() const = 0;
 
   protected:
-    /// OK and Cancel below everything else. The last thing that a constructor adds.
+    /// Adds OK and Cancel below everything else; to be called last by a constructor.
     void addButtons(const QString& okName, const QString& cancelName, const QString& okText = {},
                     const QString& cancelText = {});
     /// False keeps the dialog open.
     virtual bool valid() const { return true; }
     void accept() override;
-    /// "Minimum size: 2 x 2" when either is less; no picture has more than 256 megapixels.
+    /// Shows "Minimum size: 2 x 2" when either is less; no picture has more than 256 megapixels.
     bool sizeAllowed(int width, int height) const;
-    /// The job done on a copy of the picture.
+    /// The result of the job on a copy of the picture.
     static Bits tried(const Bits& picture, const Job& job);
 
     QGridLayout& grid() { return *grid_; }
@@ -46,7 +46,7 @@ class fGeometry : public QDialog {
     QGridLayout* grid_;
 };
 
-/// Two fields for a width and a height that may follow each other.
+/// Fields for width and height that can be linked.
 class fSizeFields : public QWidget {
     Q_OBJECT
   public:
@@ -54,7 +54,7 @@ class fSizeFields : public QWidget {
     fSizeFields(const QString& proportionsCaption, int width, int height, double ratio, QWidget* parent = nullptr);
     int widthValue() const { return width_->text().toInt(); }
     int heightValue() const { return height_->text().toInt(); }
-    /// Writes both; neither follows the other.
+    /// Writes both, without linking.
     void set(int width, int height);
 
   signals:

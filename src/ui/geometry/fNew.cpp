@@ -12,7 +12,7 @@ constexpr const char* kCustom = "<Custom>";
 constexpr const char* kSizes[] = {kCustom,     "240 x 320", "320 x 240",  "480 x 640", "640 x 480",
                                   "600 x 800", "800 x 600", "768 x 1024", "1024 x 768"};
 
-/// The list of this run, with the sizes that were typed.
+/// The list of sizes in this run, including typed ones.
 QStringList& sizeList()
 {
     static QStringList list(std::begin(kSizes), std::end(kSizes));

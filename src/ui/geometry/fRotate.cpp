@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kBox = 200, kLimit = 180;
 
-/// The box in which a picture of that shape has room to turn.
+/// A box in which a picture of that shape can turn.
 QSize turningBox(const Bits& picture)
 {
     const double diagonal = std::hypot(picture.width(), picture.height());
@@ -63,7 +63,7 @@ fRotate::fRotate(Platform& platform, const Bits& picture, QWidget* parent)
     showPreview();
 }
 
-/// Past the half turn it goes on from the other side.
+/// Wraps around at the half turn.
 void fRotate::turnBy(int degrees)
 {
     const int sum = degrees_->value() + degrees;

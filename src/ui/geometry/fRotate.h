@@ -1,4 +1,4 @@
-// fRotate: the dialog "Rotate": any whole angle.
+// fRotate: the dialog "Rotate": any integer angle.
 #pragma once
 #include "ui/geometry/fGeometry.h"
 #include <QSlider>

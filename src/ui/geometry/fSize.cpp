@@ -58,7 +58,7 @@ Job fSize::job() const
                Document& document, cBitFilter& filter) { resizeImage(document, filter, w, h, smooth); };
 }
 
-/// The new shape in the box, as large as it gets; the resize itself is shown by the small copy.
+/// Shows the new shape as large as the box permits; the small copy itself is resized by the command.
 void fSize::showPreview()
 {
     const int w = fields_->widthValue(), h = fields_->heightValue();

@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-constexpr Colour kUsualMask = 0xC0C0C0; // light grey, as icons have been drawn on for long
+constexpr Colour kUsualMask = 0xC0C0C0; // light grey, a traditional background of icons
 
 } // namespace
 

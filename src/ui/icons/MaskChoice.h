@@ -14,12 +14,12 @@ class fColorButton;
 class MaskChoice final : public QWidget {
     Q_OBJECT
   public:
-    /// check: the name of the check box; the well has "Color" behind it.
+    /// check: the name of the check box; the well's is that plus "Color".
     MaskChoice(Frame& frame, const QString& check, const QString& caption);
 
-    /// Nothing while it is not checked.
+    /// Nothing while it is unchecked.
     std::optional<Colour> mask() const;
-    /// Checks it, too.
+    /// Checks the box, too.
     void setMask(Colour colour);
 
   signals:

@@ -1,5 +1,5 @@
 // fIcon: the icon extractor. Its upper half makes one icon of the picture that it is opened on, the lower one a series
-// of cut-outs of captures, which stay as long as the window lives, open or not.
+// of cut-outs of captures, which are kept as long as the window exists, open or not.
 #pragma once
 #include "ui/icons/fIconSeries.h"
 #include <QDialog>

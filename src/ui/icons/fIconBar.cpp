@@ -17,7 +17,7 @@ namespace velara {
 namespace {
 
 constexpr int kSides[] = {16, 32, 48, 64};
-constexpr int kPreview = 128; // pixels a side
+constexpr int kPreview = 128; // pixels per side
 constexpr int kMargin = 12;   // from the corner of the screen
 
 } // namespace
@@ -61,7 +61,7 @@ QWidget* fIconBar::makeToolbar(fIconMaker& maker)
         action->setToolTip(tip);
         QWidget* button = bar->widgetForAction(action);
         named(button, QString("tb_%1").arg(number), tip);
-        button->setFocusPolicy(Qt::NoFocus); // the keys are the frame's
+        button->setFocusPolicy(Qt::NoFocus); // the focus stays with the frame
         return action;
     };
     size_ = add(1, "transform-scale", {}, tr("Size of the icon: + and -"));

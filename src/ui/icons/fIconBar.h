@@ -1,4 +1,4 @@
-// fIconBar: the bar of fIconMaker, on the picture and dragged out of the way by its ground.
+// fIconBar: the bar of fIconMaker, over the picture; dragging its background moves it.
 #pragma once
 #include <QFrame>
 #include <QList>
@@ -19,7 +19,7 @@ class fIconBar final : public QFrame {
 
     void showCutOut(const Bits& cutOut);
     void showCount(int count);
-    /// The entry of the present size is disabled.
+    /// Disables the entry of the present size.
     void showSide(int side);
 
   protected:

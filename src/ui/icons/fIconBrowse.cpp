@@ -13,7 +13,7 @@ namespace {
 
 constexpr QSize kTree{360, 320};
 
-/// A path in the room that there is, its beginning left out where it is too long.
+/// A path in the available width, elided at its beginning.
 class PathLabel final : public QLabel {
   public:
     PathLabel() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }

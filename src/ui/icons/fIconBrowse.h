@@ -1,4 +1,4 @@
-// fIconBrowse: the choice of the folder that a series of icons goes to.
+// fIconBrowse: chooses the folder for a series of icons.
 #pragma once
 #include <QDialog>
 
@@ -12,7 +12,7 @@ class fFolderTree;
 class fIconBrowse final : public QDialog {
     Q_OBJECT
   public:
-    /// start: where the tree is open; the nearest folder above it that there is.
+    /// start: the folder initially shown; the nearest existing folder above it.
     fIconBrowse(const QString& start, QWidget* parent);
 
   signals:

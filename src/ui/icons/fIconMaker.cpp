@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kFarStep = 10; // pixels of an arrow key with Shift
+constexpr int kFarStep = 10; // pixels per arrow key with Shift
 
 struct KeyRow {
     int key;
@@ -84,14 +84,14 @@ bool fIconMaker::key(const QKeyEvent& event)
     return true;
 }
 
-/// As far as the picture reaches.
+/// Limited to the picture.
 void fIconMaker::moveFrame(QPoint corner)
 {
     const QSize room = whole().size() - frame_.size();
     frame_.moveTo(std::clamp(corner.x(), 0, std::max(room.width(), 0)),
                   std::clamp(corner.y(), 0, std::max(room.height(), 0)));
     showRectangle();
-    bar_->raise(); // over the frame
+    bar_->raise(); // above the frame
     bar_->showCutOut(partOf(picture().bits, frame_));
 }
 

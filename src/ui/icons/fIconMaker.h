@@ -1,5 +1,5 @@
-// fIconMaker: cuts icons out of a picture of the screens. A frame of the chosen size is dragged over the picture, or
-// moved by the arrow keys; a small bar on it shows what is in the frame, takes it, and closes.
+// fIconMaker: cuts icons out of a picture of the screens. A frame of the chosen size is dragged over the picture or
+// moved by the arrow keys; a small bar shows the frame's contents, takes them, and closes.
 #pragma once
 #include "ui/widgets/marks/ScreenCover.h"
 #include <functional>
@@ -37,7 +37,7 @@ class fIconMaker final : public ScreenCover {
 
     fIconBar* bar_ = nullptr; // of the first window
     QRect frame_{0, 0, 32, 32};
-    QPoint hold_; // where in the frame it is held
+    QPoint hold_; // where the frame is held
     bool dragging_ = false;
     int count_ = 0;
 };

@@ -27,11 +27,11 @@ struct SizeRow {
 constexpr SizeRow kSizes[] = {
     {"o16", "16 x 16", 16}, {"o32", "32 x 32", 32}, {"o64", "64 x 64", 64}, {"ocustom", "Custom", 0}};
 constexpr int kUsual = 1;           // of kSizes
-constexpr QSize kPreview{256, 256}; // the largest icon as it is
-constexpr int kCheck = 8;           // side of the squares below what is transparent, in the preview
+constexpr QSize kPreview{256, 256}; // the largest icon at its own size
+constexpr int kCheck = 8;           // side of the squares behind transparent pixels, in the preview
 constexpr std::uint8_t kChecks[] = {255, 208};
 
-/// As it is shown: over squares of white and grey. zoom: of the preview.
+/// The icon over squares of white and grey. zoom: of the preview.
 Bits overChecks(const QImage& icon, int zoom)
 {
     Bits shown(icon.width(), icon.height());
@@ -128,7 +128,7 @@ void fIconPicture::setPicture(const Bits& picture)
 void fIconPicture::chooseSide(int side)
 {
     for (QLineEdit* box : {Iw_, Ih_}) {
-        const QSignalBlocker quiet(box); // both, then the icon
+        const QSignalBlocker quiet(box); // set both, then make the icon
         box->setText(side ? QString::number(side) : QString());
         box->setReadOnly(side != 0);
     }
@@ -136,7 +136,7 @@ void fIconPicture::chooseSide(int side)
     makeIcon();
 }
 
-/// The colour of the picture itself, and not one that the scaling has mixed.
+/// Picks the picture's own colour, not one mixed by scaling.
 void fIconPicture::pickMask(QPoint pixel)
 {
     const int x = (2 * pixel.x() + 1) * picture_.width() / (2 * icon_.width());

@@ -20,20 +20,20 @@ class fIconPicture final : public QGroupBox {
   public:
     explicit fIconPicture(Frame& frame);
 
-    /// Begins anew with a picture at 32 by 32; a null one disables all.
+    /// Starts with a picture at 32 by 32; a null one disables everything.
     void setPicture(const Bits& picture);
 
   private:
     QWidget* makeChoices();
     QWidget* makePreview();
-    void chooseSide(int side); // 0: the user says
+    void chooseSide(int side); // 0: the user enters it
     void pickMask(QPoint pixel);
     void makeIcon();
     void save();
 
     Frame& frame_;
     Bits picture_;
-    QImage icon_; // null while the numbers make none
+    QImage icon_; // null while the numbers are invalid
     QList<QRadioButton*> sizes_;
     QLineEdit *Iw_, *Ih_;
     MaskChoice* mask_;

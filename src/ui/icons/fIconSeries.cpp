@@ -23,7 +23,7 @@ namespace velara {
 namespace {
 
 constexpr QSize kThumbnail{32, 32};
-constexpr int kMostNames = 5; // of the files that a message tells
+constexpr int kMostNames = 5; // the most file names in a message
 
 QPushButton* button(const char* name, const QString& caption)
 {

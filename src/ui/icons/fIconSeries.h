@@ -1,4 +1,4 @@
-// fIconSeries: the lower half of fIcon: cut-outs of captures, and the folder that those which are checked go to as a
+// fIconSeries: the lower half of fIcon: cut-outs of captures, and the folder in which the checked ones are saved as a
 // series of icons.
 #pragma once
 #include "pixels/Bits.h"
@@ -25,7 +25,7 @@ class fIconSeries final : public QGroupBox {
 
     void add(const Bits& cutOut) { ilCustom_.push_back(cutOut); }
     int count() const { return int(ilCustom_.size()); }
-    /// The list anew, all of it checked.
+    /// Rebuilds the list, everything checked.
     void ListIcons();
 
   signals:

@@ -27,7 +27,7 @@ namespace velara {
 namespace {
 
 constexpr QSize kPreview{380, 300};
-constexpr int kWatch = 150; // milliseconds between two looks at the open pictures
+constexpr int kWatch = 150; // milliseconds between two checks of the open pictures
 
 bool hasPicture(const DocumentHandle& document) { return document && document->PictureExists(); }
 
@@ -46,7 +46,7 @@ fOverlay::fOverlay(Frame& frame, const DocumentHandle& below, QWidget* parent)
     line->addWidget(makeControls());
     previewTimer_.setSingleShot(true);
     connect(&previewTimer_, &QTimer::timeout, this, &fOverlay::showPreview);
-    // Documents don't tell who looks at them; a look costs a few comparisons.
+    // Documents don't notify their viewers; a check costs a few comparisons.
     connect(&watch_, &QTimer::timeout, this, &fOverlay::follow);
     watch_.start(kWatch);
     follow();
@@ -132,7 +132,7 @@ QWidget* fOverlay::makeControls()
     return box;
 }
 
-/// A slider, and a box for the exact pixel.
+/// A slider, and a box for the exact pixel value.
 fOverlay::Offset fOverlay::makeOffset(QGridLayout* grid, int row, const QString& caption, const char* name)
 {
     QWidget* box = grid->parentWidget();
@@ -182,7 +182,7 @@ void fOverlay::follow()
     changed();
 }
 
-/// The one that was chosen stays; at first it is another than the one below.
+/// Keeps the selected one; initially another than the one below.
 void fOverlay::fillList()
 {
     const QSignalBlocker quiet(cbOverlay_);
@@ -200,7 +200,7 @@ void fOverlay::fillList()
     cbOverlay_->setCurrentIndex(at == offered_.end() ? 0 : int(at - offered_.begin()));
 }
 
-/// From where the overlay is just out of the picture on one side to where it is on the other.
+/// From just outside of the picture on one side to just outside on the other.
 void fOverlay::setRanges()
 {
     const DocumentHandle over = chosen();
@@ -240,10 +240,10 @@ void fOverlay::changed()
     cmdOK_->setEnabled(ready && !working_);
     state_->setText(ready ? tr("Over %1").arg(printable(QFileInfo(below_->file.path).fileName()))
                           : tr("No picture is open."));
-    if (!previewTimer_.isActive()) previewTimer_.start(0); // once for all changes that wait
+    if (!previewTimer_.isActive()) previewTimer_.start(0); // one preview for all pending changes
 }
 
-/// A new picture has nothing selected.
+/// A new picture has no selection.
 void fOverlay::showPreview()
 {
     if (!hasPicture(below_)) return iSrc_->setBits({});
@@ -256,7 +256,7 @@ void fOverlay::showPreview()
 void fOverlay::accept()
 {
     const std::pair asked{below_, chosen()};
-    follow(); // what happened since the last look
+    follow(); // what happened since the last check
     if (working_ || !cmdOK_->isEnabled() || asked != std::pair{below_, chosen()}) return;
     working_ = true;
     cmdOK_->setEnabled(false);

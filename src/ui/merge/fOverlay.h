@@ -1,5 +1,5 @@
-// fOverlay: lays one open picture over another. Shows what OK will make of the picture while it is set. Not modal:
-// pictures may be changed, opened and closed meanwhile; what it shows and offers follows them.
+// fOverlay: lays one open picture over another. Previews the result of OK while settings change. Not modal: pictures
+// may be changed, opened and closed meanwhile; the dialog follows them.
 #pragma once
 #include "document/merging.h"
 #include "document/road/Change.h"
@@ -28,13 +28,13 @@ class fOverlay final : public QDialog {
     /// Over this document. Deletes itself when it is closed.
     fOverlay(Frame& frame, const DocumentHandle& below, QWidget* parent = nullptr);
 
-    /// Goes over another document from now on.
+    /// Changes to another document below.
     void setBelow(const DocumentHandle& below);
 
     void accept() override;
 
   private:
-    /// What is shown of an open document, as far as it can change.
+    /// The state of an open document that affects this dialog.
     struct Seen {
         DocumentHandle document;
         QString tag;

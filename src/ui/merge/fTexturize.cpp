@@ -35,14 +35,14 @@ QIcon iconOf(const Bits& bits)
     QPixmap pixmap(kThumbnail);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    // The fourth byte of a picture would be taken for its opacity.
+    // Otherwise the fourth byte would be taken as alpha.
     painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
                       imageOver(small).convertToFormat(QImage::Format_ARGB32));
     painter.end();
     return QIcon(pixmap);
 }
 
-/// An empty frame, crossed out where the file can't be read.
+/// An empty frame, crossed out if the file can't be read.
 QIcon frameIcon(const QPalette& palette, bool crossed)
 {
     QPixmap pixmap(kThumbnail);
@@ -176,10 +176,10 @@ void fTexturize::fillList()
     if (flTextures_->count() > 0) thumbnailTimer_.start(0);
 }
 
-/// One after the other, between the user's events.
+/// One at a time, between the user's events.
 void fTexturize::nextThumbnail()
 {
-    thumbnailTimer_.stop(); // reading may handle events
+    thumbnailTimer_.stop(); // reading may run events
     if (thumbnails_ >= flTextures_->count()) return;
     QListWidgetItem* item = flTextures_->item(thumbnails_++);
     const QString path = item->data(Qt::UserRole).toString();
@@ -188,7 +188,7 @@ void fTexturize::nextThumbnail()
     if (!alive) return;
     item->setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
     if (!loaded.ok()) {
-        item->setText(item->text() + u'\n' + tr("(can't be read)")); // beside the icon there is room for two lines
+        item->setText(item->text() + u'\n' + tr("(can't be read)")); // there is room for two lines beside the icon
         item->setToolTip(loaded.reason);
         item->setForeground(palette().color(QPalette::PlaceholderText));
     }
@@ -203,7 +203,7 @@ void fTexturize::choose()
     txtTexture_->setText(printable(QFileInfo(path).fileName()));
     const QPointer<fTexturize> alive = this;
     const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
-    if (!alive || flTextures_->currentItem() != item) return; // the user went on meanwhile
+    if (!alive || flTextures_->currentItem() != item) return; // another was selected meanwhile
     texture_ = loaded.bits;
     unreadable_ = loaded.ok() ? QString() : tr("This file can't be read as a picture.");
     iTexture_->showWhole(texture_);
@@ -233,10 +233,10 @@ void fTexturize::changed()
         state_->setText(unreadable_);
     else if (!texture_.isNull())
         state_->setText(tr("A texture needs at least 2 x 2 pixels."));
-    if (!previewTimer_.isActive()) previewTimer_.start(0); // once for all changes that wait
+    if (!previewTimer_.isActive()) previewTimer_.start(0); // one preview for all pending changes
 }
 
-/// The middle of what the relief is for.
+/// Shows the centre of the relief's region.
 void fTexturize::showPreview()
 {
     const Rect all = selection_.bounds();
@@ -249,7 +249,7 @@ void fTexturize::showPreview()
                     std::min(top + kPreview.height(), picture_.height())};
     try {
         if (ready()) return iBack_->setBits(texturizedPart(picture_, selection_, texturing_, part));
-    } catch (const RuntimeError&) { // the picture as it is, then
+    } catch (const RuntimeError&) { // then the picture is unchanged
     }
     cBitFilter crop;
     crop.setBits(picture_);

@@ -1,5 +1,5 @@
-// fTexturize: gives the picture the relief of a texture file, or of itself. Shows a piece of the picture, pixel for
-// pixel, as OK will leave it. Changes nothing itself; after OK the frame does it.
+// fTexturize: gives the picture the relief of a texture file, or of itself. Shows a part of the result at 1:1. Changes
+// nothing itself; after OK the frame does it.
 #pragma once
 #include "document/texturing.h"
 #include <QDialog>
@@ -23,7 +23,7 @@ class fTexturize final : public QDialog {
   public:
     fTexturize(Platform& platform, const Bits& picture, const Region& selection, QWidget* parent = nullptr);
 
-    /// What to do after OK.
+    /// The settings after OK.
     const Texturing& texturing() const { return texturing_; }
 
   private:
@@ -43,7 +43,7 @@ class fTexturize final : public QDialog {
     Texturing texturing_;
     Bits texture_; // of the chosen file
     QString unreadable_;
-    int thumbnails_ = 0; // so many entries of the list have theirs
+    int thumbnails_ = 0; // number of list entries that have theirs
     QTimer thumbnailTimer_, previewTimer_;
 
     QListWidget* flTextures_ = nullptr;

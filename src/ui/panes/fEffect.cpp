@@ -15,7 +15,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kShownEffects = 7; // rows of the list that are seen at once
+constexpr int kShownEffects = 7; // visible rows of the list
 
 } // namespace
 

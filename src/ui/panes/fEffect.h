@@ -1,4 +1,4 @@
-// FEffect: the pane of the text tool: its opacity, and the effects of the textures box at a small amount.
+// FEffect: the pane of the text tool: its opacity, and the effects of the textures box at a small strength.
 #pragma once
 #include "ui/panes/fPane.h"
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kWidth = 150, kHeight = 48; // of the preview
 
-/// Squares that show through where the gradient lets them.
+/// A checkerboard that shows through transparent parts of the gradient.
 Bits squares()
 {
     Bits bits(kWidth, kHeight);

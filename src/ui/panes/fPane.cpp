@@ -26,7 +26,7 @@ QStringList entriesOf(const PaneRow& row) { return QString::fromUtf8(row.entries
 
 int numberOf(const PaneRow& row, int place) { return *row.numbers ? row.numbers[place] - '0' : place; }
 
-/// The entry that stands for the number; the first one for a number that none stands for.
+/// The index of the entry with that value; the first one if there is none.
 int placeOf(const PaneRow& row, int number)
 {
     const int count = static_cast<int>(entriesOf(row).size());
@@ -49,7 +49,7 @@ fPane::fPane(Frame& frame, const QString& name, std::span<const PaneRow> rows, Q
 
 void fPane::showEvent(QShowEvent* event)
 {
-    refresh(); // the other pane of the tool may have changed something
+    refresh(); // the tool's other pane may have changed something
     QFrame::showEvent(event);
 }
 

@@ -1,5 +1,5 @@
-// fPane: a pane of tool settings, built from rows. It writes straight into what the documents read at their next event.
-// The same rows make the pane in the frame's side and the one that pops up from the tool strip.
+// fPane: a pane of tool settings, built from rows. It writes directly to the settings, which documents read at their
+// next event. The same rows make the pane in the side bar and the one that pops up from the tool strip.
 #pragma once
 #include "tools/PaneRow.h"
 #include <QFrame>
@@ -16,15 +16,15 @@ class Frame;
 class fPane : public QFrame {
     Q_OBJECT
   public:
-    /// Values out of range are brought into it.
+    /// Clamps values out of range.
     fPane(Frame& frame, const QString& name, std::span<const PaneRow> rows, QWidget* parent = nullptr);
 
-    /// The controls show the settings.
+    /// Updates the controls from the settings.
     void refresh();
 
   protected:
     void showEvent(QShowEvent* event) override;
-    /// A setting was changed here, or all were shown anew.
+    /// A setting was changed here, or all controls were updated.
     virtual void edited() {}
     Frame& frame() const { return frame_; }
     QVBoxLayout* column() const { return column_; }
@@ -42,7 +42,7 @@ class fPane : public QFrame {
     Frame& frame_;
     QVBoxLayout* column_;
     std::span<const PaneRow> rows_;
-    std::vector<std::function<void()>> shows_; // each shows one setting in its control
+    std::vector<std::function<void()>> shows_; // each updates one control from its setting
     bool refreshing_ = false;
 };
 

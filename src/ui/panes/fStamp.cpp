@@ -25,7 +25,7 @@ FStamp::FStamp(Frame& frame, const QString& name, std::span<const PaneRow> rows)
       missing_(new QLabel(tr("Stamp sub-Folder Not Found!"), this))
 {
     named(cbStamps_, "cbStamps", tr("Stamp"));
-    cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is down
+    cbStamps_->view()->setObjectName("flStamps"); // the files of the folder, when the list is open
     cbStamps_->view()->setAccessibleName(tr("Stamp files"));
     auto* back = named(new QFrame(this), "iStampBk");
     back->setFrameShape(QFrame::StyledPanel);
@@ -51,7 +51,7 @@ void FStamp::readFolder()
     const auto files = stampFiles(platform);
     found_ = files.has_value();
     missing_->setVisible(!found_);
-    // The program's folder is watched too: that of the stamps may come back.
+    // The program's folder is watched, too: a missing stamps folder may be created.
     for (const QString& folder : {platform.programFolder(), platform.programFolder() + "/Stamps"})
         if (QDir(folder).exists() && !watcher_.directories().contains(folder)) watcher_.addPath(folder);
 
@@ -62,9 +62,9 @@ void FStamp::readFolder()
     cbStamps_->setEnabled(cbStamps_->count() > 0);
     const int place = cbStamps_->findText(before);
     cbStamps_->setCurrentIndex(std::max(place, 0));
-    quiet.unblock(); // not later: the list may go while a stamp is read
+    quiet.unblock(); // not later: the list may be destroyed while a stamp is read
     if (place < 0 || before.isEmpty())
-        choose(cbStamps_->currentText()); // none yet, or gone
+        choose(cbStamps_->currentText()); // none yet, or it no longer exists
     else
         showStamp();
 }

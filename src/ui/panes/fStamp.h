@@ -1,5 +1,5 @@
-// FStamp: the stamps pane: the files of the folder "Stamps", the chosen one with its preview, and how it is laid down.
-// The list follows the folder.
+// FStamp: the stamps pane: the files of the folder "Stamps", the chosen one with its preview, and the settings for
+// placing it. The list follows the folder.
 #pragma once
 #include "ui/panes/fPane.h"
 #include <QFileSystemWatcher>

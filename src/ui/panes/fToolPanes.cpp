@@ -13,7 +13,7 @@ namespace velara {
 
 namespace {
 
-/// The panes that show more than settings, by tool.
+/// The panes with more than settings, by tool.
 struct OwnPane {
     std::string_view tool;
     fPane* (*make)(Frame&, const QString& name, std::span<const PaneRow> rows);
@@ -39,7 +39,7 @@ QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent)
     fPane* pane = make(tool, frame, tool.side);
     if (!pane) return nullptr;
     static_cast<QVBoxLayout*>(pane->layout())->addStretch();
-    auto* area = new QScrollArea(parent); // a frame of little height keeps its height
+    auto* area = new QScrollArea(parent); // a low frame can stay low
     area->setObjectName(pane->objectName());
     pane->setObjectName(pane->objectName() + "Rows");
     area->setFrameShape(QFrame::NoFrame);
@@ -60,7 +60,7 @@ QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent)
     pane->setAttribute(Qt::WA_ShowWithoutActivating);
     pane->setFrameShape(QFrame::StyledPanel);
     pane->setAttribute(Qt::WA_DeleteOnClose);
-    pane->setAcceptDrops(true); // it lies over the frame, which takes them
+    pane->setAcceptDrops(true); // it lies over the frame, which accepts them
     pane->setMinimumWidth(190);
     auto* heading = named(
         new QLabel(QObject::tr(tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane), "lblTool");

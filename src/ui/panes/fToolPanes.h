@@ -1,4 +1,4 @@
-// The panes of the mouse tools, for the frame's side and as pop-ups of the tool strip, out of the tools' rows.
+// The panes of the mouse tools, for the side bar and as pop-ups of the tool strip, made from the tools' rows.
 #pragma once
 #include "tools/toolRows.h"
 
@@ -8,8 +8,7 @@ namespace velara {
 
 class Frame;
 
-/// The tool's pane in the frame's side; null for a tool without one. That of the stamps says so when their folder is
-/// missing.
+/// The tool's pane in the side bar; null for a tool without one. The stamps pane says so when their folder is missing.
 QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent = nullptr);
 /// The pane that floats beside the tool strip, a window that is deleted when it closes; null for a tool without one.
 QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent);

@@ -49,7 +49,7 @@ void fPagePreview::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(sheet().translated(3, 3), QColor(0, 0, 0, 70));
-    painter.fillRect(sheet(), Qt::white); // paper is white in the dark too
+    painter.fillRect(sheet(), Qt::white); // paper is white with dark palettes, too
     painter.setPen(QPen(QColor(0xc8, 0xc8, 0xc8), 1, Qt::DotLine));
     painter.drawRect(onSurface(page_.paper.printable(page_.orientation)));
     if (!bits_.isNull()) painter.drawImage(picture(), imageOver(bits_));

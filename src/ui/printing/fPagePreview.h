@@ -1,5 +1,5 @@
-// fPagePreview: a sheet of paper as it will come out of the printer, with the picture in its place and a fine line
-// around what the printer reaches.
+// fPagePreview: a preview of the printed sheet, with the picture in its place and a thin line around the printable
+// area.
 #pragma once
 #include "seams/Printers.h"
 #include <QImage>
@@ -11,11 +11,11 @@ class fPagePreview final : public QWidget {
     Q_OBJECT
   public:
     fPagePreview(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent = nullptr);
-    /// A small copy of the picture serves.
+    /// A small copy of the picture is sufficient.
     void setPicture(const Bits& picture);
-    /// Its picture is left out of account.
+    /// Ignores the page's picture.
     void setPage(const PrintPage& page);
-    /// Where the sheet and the picture stand on the surface.
+    /// The rectangles of the sheet and the picture on this widget.
     QRectF sheet() const;
     QRectF picture() const;
 
@@ -23,7 +23,7 @@ class fPagePreview final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    double scale() const; // pixels a millimetre
+    double scale() const; // pixels per millimetre
     QRectF onSurface(const QRectF& millimetres) const;
 
     Bits bits_;

@@ -20,7 +20,7 @@ namespace velara {
 namespace {
 
 constexpr QSize kPreview{200, 200};
-constexpr int kMostCopies = 9999; // what print servers take
+constexpr int kMostCopies = 9999; // the limit of print servers
 constexpr PageOrientation kOrientations[] = {PageOrientation::Portrait, PageOrientation::Landscape};
 
 } // namespace
@@ -66,7 +66,7 @@ fPrint::fPrint(Platform& platform, const Bits& picture, const QString& name, std
     cbPrinters_->setFocus();
     connect(cbPrinters_, &fPrinterBox::chosen, this, &fPrint::choosePrinter);
     connect(cbPrinters_, &fPrinterBox::told, this, [this](const QString& state) {
-        if (controls_->isEnabled()) lblState_->setText(state); // nothing is printed yet
+        if (controls_->isEnabled()) lblState_->setText(state); // nothing is being printed yet
     });
     cbPrinters_->look();
 }

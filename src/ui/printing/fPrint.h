@@ -1,6 +1,5 @@
-// fPrint: how the active picture is to be printed, with the page as it will be. Finding the printers and printing take
-// their time outside of the program; a PDF file can be chosen meanwhile, and Esc, Cancel and closing the window give
-// them up.
+// fPrint: the print dialog of the active picture, with a page preview. Finding the printers and printing run outside of
+// the program; a PDF file can be chosen meanwhile, and Esc, Cancel and closing the window cancel them.
 #pragma once
 #include "seams/Printers.h"
 #include <QDialog>
@@ -22,7 +21,7 @@ class fPrinterBox;
 class fPrint final : public QDialog {
     Q_OBJECT
   public:
-    /// name is what the print job is called. toClipboard puts the picture on the clipboard, where it stays.
+    /// name is the print job's. toClipboard copies the picture to the clipboard, where it stays.
     fPrint(Platform& platform, const Bits& picture, const QString& name, std::function<void()> toClipboard,
            QWidget* parent);
 

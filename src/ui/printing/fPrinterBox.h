@@ -1,5 +1,5 @@
-// fPrinterBox: the list of printers. They are looked for while the person goes on; a PDF file can be chosen at once,
-// and stays chosen when the printers come.
+// fPrinterBox: the list of printers. They are searched for in the background; a PDF file can be chosen at once, and
+// stays chosen when the printers arrive.
 #pragma once
 #include "seams/Printers.h"
 #include <QComboBox>
@@ -11,16 +11,16 @@ class fPrinterBox final : public QComboBox {
   public:
     explicit fPrinterBox(Printers& printers);
 
-    /// Begins, once the signals are connected.
+    /// Starts the search; call it after connecting the signals.
     void look();
     bool isFile() const { return currentData().toBool(); }
-    /// Empty for a file, and as long as nothing is chosen.
+    /// Empty for a file, and while nothing is chosen.
     QString printer() const { return isFile() ? QString() : currentText(); }
 
   signals:
-    /// By the person, or the current one when the printers are known.
+    /// By the user, or the current one when the printers are known.
     void chosen();
-    /// How the search stands, in words for a person; empty when all printers are there.
+    /// The state of the search, for the user; empty when all printers are listed.
     void told(const QString& state);
 
   private:

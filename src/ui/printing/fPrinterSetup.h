@@ -1,5 +1,5 @@
-// fPrinterSetup: printer, paper and colours of the pages to come. The printers and what they can do are asked for in
-// the background; a PDF file can be chosen at once.
+// fPrinterSetup: chooses printer, paper and colours for later pages. The printers and their options are queried in the
+// background; a PDF file can be chosen at once.
 #pragma once
 #include "seams/Printers.h"
 #include <QDialog>
@@ -26,7 +26,7 @@ class fPrinterSetup final : public QDialog {
 
     Printers& printers_;
     Printers::Request asked_;
-    std::vector<Paper> papers_; // as they stand in the list
+    std::vector<Paper> papers_; // in the order of the list
     fPrinterBox* cbPrinters_;
     QComboBox* cbPaper_;
     QCheckBox* chkGray_;

@@ -17,7 +17,7 @@ int depthOf(const QWidget* window)
 
 } // namespace
 
-/// A window that comes back before the one that it belongs to is lost behind it; the active one comes last.
+/// Restores parents first: a window shown before its owner would be lost behind it; the active one comes last.
 HiddenWindows::HiddenWindows() : active_(QApplication::activeWindow())
 {
     QWidgetList windows = QApplication::topLevelWidgets();
@@ -33,8 +33,8 @@ HiddenWindows::~HiddenWindows()
     for (const Hidden& hidden : hidden_) {
         if (!hidden.window) continue;
         hidden.window->show();
-        // The window manager has looked for a new place; by the widget a move to where it thinks it stands goes
-        // nowhere.
+        // The window manager has chosen a new position, but the widget still believes in the old one: moving the widget
+        // there would do nothing.
         if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
             hidden.window->windowHandle()->setFramePosition(hidden.place);
     }

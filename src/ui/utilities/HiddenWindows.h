@@ -1,4 +1,4 @@
-// HiddenWindows: the program's windows out of the way, as long as this lives; then they are back where they were.
+// HiddenWindows: hides the program's windows while it lives, then puts them back where they were.
 #pragma once
 #include <QList>
 #include <QPointer>

@@ -6,9 +6,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kAround = 7, kScale = 8;            // pixels on each side of the pointer's, and their size
+constexpr int kAround = 7, kScale = 8;            // pixels on each side of the pointer's, and their magnification
 constexpr int kLens = (2 * kAround + 1) * kScale; // side of the magnified square
-constexpr int kBeside = 24;                       // from the pointer to the magnifier
+constexpr int kBeside = 24;                       // distance from the pointer to the magnifier
 
 } // namespace
 

@@ -1,4 +1,5 @@
-// Magnifier: the pixels around the pointer, eight times as large, with the place and the size of what is picked below.
+// Magnifier: the pixels around the pointer, magnified eight times, with its position and the size of the picked
+// rectangle below.
 #pragma once
 #include <QWidget>
 
@@ -11,7 +12,7 @@ class Magnifier final : public QWidget {
   public:
     Magnifier(const fCaptureRectangle& picker, CoverWindow& window);
 
-    /// Goes to the pointer; hidden where that is on another screen.
+    /// Moves to the pointer; hides if that is on another screen.
     void follow();
 
   protected:

@@ -40,7 +40,7 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     column->addWidget(controls_ = makeControls());
     lblState_ = named(new QLabel, "lblState");
     progress_ = named(new QProgressBar, "pbScan", tr("Progress of the scan"));
-    QSizePolicy kept = progress_->sizePolicy(); // the window stays as it is when the bar goes
+    QSizePolicy kept = progress_->sizePolicy(); // the window keeps its size when the bar is hidden
     kept.setRetainSizeWhenHidden(true);
     progress_->setSizePolicy(kept);
     column->addWidget(lblState_);
@@ -99,7 +99,7 @@ QWidget* fAcquire::makeControls()
     cmdWhole_->setAutoDefault(false);
     grid->addWidget(cmdWhole_, 3, 3);
     connect(cmdWhole_, &QPushButton::clicked, this, &fAcquire::wholeBed);
-    // What begins further in can't be as wide.
+    // The farther in it begins, the smaller it must be.
     for (const int edge : {Left, Top})
         connect(area_[std::size_t(edge)], &QDoubleSpinBox::valueChanged, this, [this, edge](double from) {
             const double bed = edge == Left ? range_.bed.width() : range_.bed.height();
@@ -112,7 +112,7 @@ void fAcquire::setBusy(const QString& what)
 {
     const bool busy = !what.isEmpty();
     lblState_->setText(what);
-    progress_->setRange(0, busy ? 0 : 100); // to and fro until a percentage comes
+    progress_->setRange(0, busy ? 0 : 100); // indeterminate until a percentage arrives
     progress_->setValue(0);
     progress_->setTextVisible(false);
     controls_->setEnabled(!busy && !source_.device.isEmpty());
@@ -130,7 +130,7 @@ void fAcquire::begin()
     useSource(last, true);
 }
 
-/// No source was chosen, or the chosen one is gone: the first that there is.
+/// No source was chosen, or it no longer exists: uses the first one found.
 void fAcquire::lookForSource()
 {
     source_ = {};
@@ -168,7 +168,7 @@ void fAcquire::describe(bool isRemembered)
     platform_.scanner().describe(source_.device, [this, isRemembered](const ScanRange& range, const QString& reason) {
         setBusy({});
         if (reason.isEmpty()) return showRange(range);
-        if (isRemembered) return lookForSource(); // it is away today
+        if (isRemembered) return lookForSource(); // not connected now
         source_ = {};
         failed(reason);
     });
@@ -245,7 +245,7 @@ void fAcquire::scan()
         });
 }
 
-/// The window stays: a lid can be closed, a cable plugged in.
+/// The window stays open: a lid can be closed, a cable plugged in.
 void fAcquire::failed(const QString& reason)
 {
     const QPointer<fAcquire> self = this;

@@ -1,5 +1,5 @@
-// fAcquire: what the scanner is to scan and how, and its progress. Everything that the device is asked takes its time
-// outside of the program; Esc, Cancel and closing the window end it.
+// fAcquire: the settings of a scan, and its progress. All device access runs outside of the program; Esc, Cancel and
+// closing the window end it.
 #pragma once
 #include "seams/Scanner.h"
 #include <QDialog>
@@ -18,12 +18,12 @@ class Platform;
 class fAcquire final : public QDialog {
     Q_OBJECT
   public:
-    /// Scans into the file at path. The source, the mode and the resolution of the last time are kept as settings.
+    /// Scans into the file at path. The last source, mode and resolution are kept as settings.
     fAcquire(Platform& platform, const QString& path, QWidget* parent);
     ~fAcquire() override;
 
   signals:
-    /// The file holds the picture; the window is closed.
+    /// The file contains the picture; the window is closed.
     void acquired();
 
   private:
@@ -37,7 +37,7 @@ class fAcquire final : public QDialog {
     void wholeBed();
     void scan();
     void failed(const QString& reason);
-    void setBusy(const QString& what); // empty: not any more
+    void setBusy(const QString& what); // empty: no longer busy
     ScanJob job() const;
 
     Platform& platform_;

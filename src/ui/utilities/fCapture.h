@@ -1,4 +1,4 @@
-// fCapture: what of the screen is to be captured. Asks and waits; the frame does the rest.
+// fCapture: chooses what to capture of the screen. Asks and waits; the frame does the rest.
 #pragma once
 #include <QDialog>
 #include <QTimer>
@@ -17,7 +17,8 @@ class fCapture final : public QDialog {
   signals:
     /// "Capture": the whole screen, by its command word. The dialog is hidden.
     void captureChosen(const QString& word);
-    /// "Custom": a rectangle of it. The dialog is hidden; what stands in the way has half a second to go.
+    /// "Custom": a rectangle. The dialog is hidden; customDue() follows half a second later, when other windows are
+    /// gone.
     void customChosen(Where where);
     void customDue();
 

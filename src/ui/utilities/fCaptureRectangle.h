@@ -1,5 +1,5 @@
-// fCaptureRectangle: the picker of a rectangle on the picture of the screens: a drag picks. Beside the pointer a
-// magnifier shows the pixels around it and what is picked so far.
+// fCaptureRectangle: picks a rectangle of the picture of the screens by dragging. Beside the pointer a magnifier shows
+// the pixels around it and the size picked so far.
 #pragma once
 #include "ui/widgets/marks/ScreenCover.h"
 #include <optional>
@@ -14,7 +14,7 @@ class fCaptureRectangle final : public ScreenCover {
     explicit fCaptureRectangle(QObject* parent);
 
     void ShowPicture(const ScreenPicture& picture);
-    /// What was picked; null before.
+    /// The picked part; null before.
     const Bits& picRectangle() const { return picRectangle_; }
 
     void press(QPointF global) override;
@@ -33,7 +33,7 @@ class fCaptureRectangle final : public ScreenCover {
     void showAll();
 
     Bits picRectangle_;
-    std::vector<Magnifier*> magnifiers_; // of the windows, in their order
+    std::vector<Magnifier*> magnifiers_; // one per window, in their order
     QPoint at_;
     std::optional<QPoint> start_;
 };

@@ -25,7 +25,7 @@ constexpr int kSlotsInView = 5;
 
 QString sizeOfClip(const Bits& bits) { return sizeText({bits.width(), bits.height()}); }
 
-/// What was not selected in the colour of the ground: in the clip it is black.
+/// Shows unselected pixels in the background colour: in the clip they are black.
 Bits overGround(const Bits& clip, const QColor& ground)
 {
     const Pixel colour = {{std::uint8_t(ground.blue()), std::uint8_t(ground.green()), std::uint8_t(ground.red()), 0}};
@@ -139,7 +139,7 @@ Bits fPaste::take(const Document& document, const char* tooSmall)
     return part;
 }
 
-/// Drawn once; only the clips that are left keep theirs.
+/// Made once per clip; those of dropped clips are discarded.
 Bits fPaste::thumbnail(const Clip& clip)
 {
     std::erase_if(thumbnails_, [this](const auto& entry) { return entry.first < history_.at(0)->number; });
@@ -193,7 +193,7 @@ void fPaste::changeEvent(QEvent* event)
 void fPaste::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    BrSelectionMovePressure_->setValue(frame_.setup().ClipOpacity); // the options may have changed it
+    BrSelectionMovePressure_->setValue(frame_.setup().ClipOpacity); // it may have been changed in the options
 }
 
 } // namespace velara

@@ -1,4 +1,4 @@
-// fPaste: the clip history, a floating box. Shows the parts that were cut and copied; a click on one pastes it.
+// fPaste: the clip history, a floating box. Shows the cut and copied parts; a click on one pastes it.
 #pragma once
 #include "tools/ClipHistory.h"
 #include <QWidget>
@@ -55,7 +55,7 @@ class fPaste final : public QWidget {
     ClipHistory history_;
     QScrollArea* area_;
     std::array<Slot, ClipHistory::kSlots> slots_;
-    std::map<int, Bits> thumbnails_; // by the number of the clip
+    std::map<int, Bits> thumbnails_; // by clip number
     QListWidget* lstImages_ = nullptr;
     QSlider* BrSelectionMovePressure_;
 };

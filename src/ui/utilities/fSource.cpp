@@ -21,7 +21,7 @@ fSource::fSource(Platform& platform, const QString& present, QWidget* parent)
     lstSources_->setMinimumSize(360, 140);
     busy_ = named(new QProgressBar, "pbLooking");
     busy_->setRange(0, 0);
-    QSizePolicy kept = busy_->sizePolicy(); // the window stays as it is when the bar goes
+    QSizePolicy kept = busy_->sizePolicy(); // the window keeps its size when the bar is hidden
     kept.setRetainSizeWhenHidden(true);
     busy_->setSizePolicy(kept);
     auto* buttons = new QHBoxLayout;

@@ -1,4 +1,4 @@
-// fSource: the choice of a scanner. Looks for those that there are, which may take long and can be left at any time.
+// fSource: chooses a scanner. Searches for scanners, which may take long and can be cancelled at any time.
 #pragma once
 #include "seams/Scanner.h"
 #include <QDialog>
@@ -17,7 +17,7 @@ class Platform;
 class fSource final : public QDialog {
     Q_OBJECT
   public:
-    /// present: the device chosen before; it is the one marked when it is still there.
+    /// present: the device chosen before; it is preselected if it still exists.
     fSource(Platform& platform, const QString& present, QWidget* parent);
     ~fSource() override;
 
@@ -39,11 +39,11 @@ class fSource final : public QDialog {
     bool looking_ = false;
 };
 
-/// The source of the last time; an empty device: none yet.
+/// The last source; an empty device: none yet.
 ScanSource rememberedSource(Machine& machine);
 void rememberSource(Machine& machine, const ScanSource& source);
 
-/// The message when a scanner can't do what it was asked for.
+/// The message when a scanner can't do what was requested.
 void showScannerFailure(Dialogs& dialogs);
 
 } // namespace velara

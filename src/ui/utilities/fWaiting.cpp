@@ -15,7 +15,7 @@ fWaiting::fWaiting(const QString& title, const QString& text, QWidget* parent) :
     auto* column = new QVBoxLayout(this);
     auto* label = new QLabel(text);
     auto* bar = named(new QProgressBar, "pbWaiting", text);
-    bar->setRange(0, 0); // nobody knows how long
+    bar->setRange(0, 0); // indeterminate
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

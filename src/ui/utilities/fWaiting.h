@@ -1,5 +1,5 @@
-// fWaiting: a small window while something outside of the program takes its time. Esc, Cancel and closing it are the
-// same: rejected().
+// fWaiting: a small window shown while waiting for something outside of the program. Esc, Cancel and closing it all
+// emit rejected().
 #pragma once
 #include <QDialog>
 

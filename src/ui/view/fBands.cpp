@@ -24,7 +24,7 @@ void fBand::place(QPoint scroll, int zoom)
     const Rect ends =
         viewRect({pictureFrom_.x(), pictureFrom_.y(), pictureTo_.x(), pictureTo_.y()}, scroll.x(), scroll.y(), zoom);
     const QPoint from(ends.left, ends.top), to(ends.right, ends.bottom);
-    constexpr int kPen = 1; // an ellipse touches its box from inside, a line covers both ends
+    constexpr int kPen = 1; // an ellipse touches its box from inside, a line includes both ends
     const QPoint corner(std::min(from.x(), to.x()), std::min(from.y(), to.y()));
     const QPoint far(std::max(from.x(), to.x()), std::max(from.y(), to.y()));
     setGeometry(QRect(corner, QSize(far.x() - corner.x() + kPen, far.y() - corner.y() + kPen)));
@@ -37,7 +37,7 @@ void fBand::place(QPoint scroll, int zoom)
 void fBand::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    // Dashes of black on white are seen on every picture.
+    // Dashes of black on white are visible on every picture.
     const QRect frame = rect().adjusted(0, 0, -1, -1);
     for (const QPen& pen : {QPen(Qt::white, 1, Qt::SolidLine), QPen(Qt::black, 1, Qt::DashLine)}) {
         painter.setPen(pen);

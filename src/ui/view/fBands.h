@@ -1,5 +1,5 @@
-// fBands: the rubber bands of the tools, live shapes above a document's display: shpRect, shpEllp and any number of
-// lines shpLine_0, shpLine_1, ... They keep their places in the picture when it is zoomed or scrolled.
+// fBands: the rubber bands of the tools, drawn live above a document's display: shpRect, shpEllp and any number of
+// lines shpLine_0, shpLine_1, ... They keep their positions in the picture when it is zoomed or scrolled.
 #pragma once
 #include "tools/ToolSurface.h"
 #include <QWidget>
@@ -7,14 +7,14 @@
 
 namespace velara {
 
-/// One shape. It takes no part in mouse events.
+/// One shape. It ignores mouse events.
 class fBand final : public QWidget {
     Q_OBJECT
   public:
     fBand(QWidget* display, BandShape shape, const QString& name);
-    /// From one corner or end to the other, in picture pixels; at least one pixel of the screen is drawn.
+    /// From one corner or end to the other, in picture pixels; at least one screen pixel is drawn.
     void setEnds(QPoint from, QPoint to);
-    /// Shows it where its ends are on a display with this scroll position and zoom.
+    /// Positions it on a display with this scroll position and zoom.
     void place(QPoint scroll, int zoom);
 
   protected:
@@ -32,7 +32,7 @@ class fBands {
     /// In picture pixels; see ToolSurface::ShowShape.
     void show(BandShape shape, QPoint from, QPoint to, bool keep);
     void hide(BandShape shape);
-    /// Where the display stands now.
+    /// The present scroll position and zoom of the display.
     void setSpot(QPoint scroll, int zoom);
 
   private:

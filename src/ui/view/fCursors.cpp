@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSide = 24;
 
-/// A cursor's drawing on a grid of 24 by 24: black inside a white rim, so that it is seen on every picture.
+/// A cursor's drawing on a grid of 24 by 24: black with a white outline, visible on every picture.
 struct Holder {
     Pointer pointer;
     int hotX, hotY;

@@ -67,7 +67,7 @@ void fDisplay::paintEvent(QPaintEvent* event)
     spot_.ratio = devicePixelRatioF();
     drawPicture(painter, event->region());
     const QPolygon line = footprintLine_.translated(footprintPlace());
-    for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) { // seen on every picture
+    for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) { // visible on every picture
         painter.setPen(pen);
         painter.drawPolygon(line);
     }

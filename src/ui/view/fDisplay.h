@@ -16,16 +16,16 @@ class fDisplay final : public QWidget {
   public:
     fDisplay(fImage& image, const Document& document);
 
-    /// Where the picture is looked at, in logical pixels. Repaints nothing.
+    /// The scroll position in logical pixels, and the zoom. Doesn't repaint.
     void setSpot(int scrollX, int scrollY, int zoom);
     const ViewSpot& spot() const { return spot_; }
 
     /// Whether paint events draw the outline.
     void setOutlineShown(bool on) { outlineShown_ = on; }
     bool outlineShown() const { return outlineShown_; }
-    /// Asks for the pixels under the outline's frame alone, where these are few pieces, else for its box.
+    /// Requests a repaint of the pixels under the outline only, if these are few pieces, else of its bounding box.
     void updateOutline();
-    /// The line round what a tool would change at a pixel; none for an empty footprint. Repaints along the line alone.
+    /// The outline of what a tool would change at a pixel; none for an empty footprint. Repaints along the line only.
     void showFootprint(const Footprint& footprint, QPoint pixel);
 
   protected:

@@ -119,7 +119,7 @@ void fImage::deactivate()
 
 bool fImage::event(QEvent* event)
 {
-    // Within the frame's area the child window that holds this one tells which document is the active one.
+    // Inside the frame, the child window that contains this one signals which document is active.
     if (event->type() == QEvent::ParentChange)
         if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()))
             connect(window, &QMdiSubWindow::windowStateChanged, this,
@@ -135,7 +135,7 @@ void fImage::bringToFront()
         window->mdiArea()->setActiveSubWindow(window);
 }
 
-/// Anything may happen while the question stands; once this window is gone the answer means nothing.
+/// Anything may happen while the question is open; if this window is gone the answer means nothing.
 bool fImage::mayClose()
 {
     const QPointer<fImage> self = this;
@@ -154,9 +154,9 @@ bool fImage::mayClose()
     if (!self || answer != Answer::Yes) return answer == Answer::No;
     if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
     if (!self) return false;
-    frame_.workspace().wait(document_.handle()); // what runs is saved, too
+    frame_.workspace().wait(document_.handle()); // include the running change in the save
     if (!self) return false;
-    bringToFront(); // what was asked about is what is saved
+    bringToFront(); // the question and the save are about this one
     frame_.Mmenu("SAVE");
     frame_.workspace().wait(document_.handle());
     return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
@@ -164,7 +164,7 @@ bool fImage::mayClose()
 
 void fImage::closeEvent(QCloseEvent* event)
 {
-    if (asks_) return event->ignore(); // the question stands already
+    if (asks_) return event->ignore(); // the question is already open
     const QPointer<fImage> self = this;
     asks_ = true;
     const bool closes = mayClose();

@@ -24,7 +24,7 @@ class fImage final : public QWidget, public ToolSurface {
   public:
     enum class Question { Stands, Answered, Done };
 
-    /// Of an open document of the frame's workspace. The frame outlives it.
+    /// Shows an open document of the frame's workspace. The frame must outlive it.
     fImage(Frame& frame, const DocumentHandle& document, QWidget* parent = nullptr);
     ~fImage() override;
 
@@ -46,7 +46,7 @@ class fImage final : public QWidget, public ToolSurface {
     void setCaption(const QString& caption);
     /// The window carries the platform's mark when closing it would ask.
     void showChanged();
-    /// Somebody is being asked whether it may close; it can't be closed then.
+    /// The user is being asked whether it may close; it can't be closed then.
     bool isAsking() const { return asks_; }
     QString Tag() const { return document_.Tag(); }
 
@@ -78,21 +78,21 @@ class fImage final : public QWidget, public ToolSurface {
 
     /// Brings the frame up to date with this document: engine, status bar, hand scrolling, outline.
     void activate() override;
-    /// The outline rests and is taken off.
+    /// Stops and removes the outline.
     void deactivate();
-    /// A key was let go, by its number (17 is Ctrl); ends what the tools were doing with it.
+    /// A key was released, by its code (17 is Ctrl); ends what the tools were doing with it.
     void idst_KeyUp(int key, int shift);
     /// True while a tool is held down: changes of the document wait.
     bool strokeUnderWay() const { return tools_->ToolDown(); }
-    /// A paste is pending: shows it at the pointer, or in the middle of what is seen, and takes the keys.
+    /// A paste is pending: shows it at the pointer, or at the centre of the view, and takes the focus.
     void showPaste();
-    /// A command comes: what hangs on the pointer leaves the picture until the pointer moves again.
+    /// A command is about to run: removes a pending paste from the picture until the pointer moves again.
     void restPaste();
-    /// A drag, a half-made polygon or a pending paste is let go of. False: there was none.
+    /// Drops a drag, an unfinished polygon or a pending paste. False: there was none.
     bool dropGesture();
-    /// All, nothing, or the rest of the picture is selected from now on.
+    /// Selects everything, nothing, or the inverse.
     void select(Tools::Selecting what) { tools_->select(what); }
-    /// Another tool was chosen: what the one before has begun goes.
+    /// Another tool was chosen: drops what the previous one has begun.
     void toolChosen();
     /// The pointer of the chosen tool.
     void showToolPointer();
@@ -116,7 +116,7 @@ class fImage final : public QWidget, public ToolSurface {
     QSize sizeHint() const override;
 
   signals:
-    /// The question before it closes: it stands, was answered, and what followed from the answer is done.
+    /// The question before it closes: it is open, it was answered, and the consequences of the answer are done.
     void asking(Question question);
 
   protected:
@@ -156,13 +156,13 @@ class fImage final : public QWidget, public ToolSurface {
     int zoom_ = kLeastZoom;
     int barsWidth_;
     bool mouseScroll_ = false;
-    Qt::MouseButton grabButton_ = Qt::NoButton; // that holds the picture for scrolling
+    Qt::MouseButton grabButton_ = Qt::NoButton; // the one that drags the picture
     QPoint grabLast_;
     bool scrollGuard_ = false;
     bool laidOut_ = false;
     QSize laidOutSize_; // the picture's size at the last layout
     float lastHValue_ = 0, lastVValue_ = 0, lastHMax_ = 0, lastVMax_ = 0;
-    QPoint lastPixel_{-1, -1}; // where the mouse was at the last event
+    QPoint lastPixel_{-1, -1}; // the mouse position at the last event
     bool forgotten_ = false, asks_ = false;
     int wheelRest_ = 0;
 };

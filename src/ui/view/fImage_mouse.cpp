@@ -1,4 +1,4 @@
-// What mouse and keys do on the display of a document: hand scrolling, the wheel, and everything else for the tools.
+// Mouse and keys on the display of a document: hand scrolling, the wheel, and everything else for the tools.
 #include "document/road/Frame.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
@@ -12,7 +12,7 @@ namespace velara {
 namespace {
 
 constexpr int kWheelNotch = 120;
-constexpr int kWheelPixels = 48; // logical pixels a notch
+constexpr int kWheelPixels = 48; // logical pixels per notch
 
 int buttonNumber(Qt::MouseButton button)
 {
@@ -44,10 +44,10 @@ QPoint fImage::pixelAt(QPointF at) const
     return {pictureAt(at.x(), hSB_->value(), zoom_), pictureAt(at.y(), vSB_->value(), zoom_)};
 }
 
-/// What the tool would change where the pointer was last; the hand and a pending paste change nothing.
+/// Shows what the tool would change at the last pointer position; nothing for the hand and a pending paste.
 void fImage::showFootprint() { iDst_->showFootprint(handScrolls() ? Footprint() : tools_->footprint(), lastPixel_); }
 
-/// The button that is held during a move.
+/// The button held during a move.
 int fImage::buttonOf(const QMouseEvent& event) const
 {
     if (event.buttons() & Qt::LeftButton) return Tools::Left;
@@ -57,7 +57,7 @@ int fImage::buttonOf(const QMouseEvent& event) const
 void fImage::displayPressed(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
-    bringToFront(); // a press in a frame that isn't the active window comes before the frame hears of it
+    bringToFront(); // a press in an inactive frame arrives before the frame's activation
     if (!(event.buttons() & grabButton_)) grabButton_ = Qt::NoButton; // its release went to another window
     if (grabButton_ != Qt::NoButton) return;
     // The middle button moves the picture whatever tool is chosen.

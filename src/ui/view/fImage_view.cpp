@@ -116,7 +116,7 @@ void fImage::UpdateImage()
 void fImage::repaint(const Rect& part)
 {
     if (!PictureExists()) return;
-    if (iDst_->outlineShown() && !tmrSelection_.isActive()) { // an outline that rests goes with the next repaint
+    if (iDst_->outlineShown() && !tmrSelection_.isActive()) { // a stopped outline disappears with the next repaint
         iDst_->setOutlineShown(false);
         return iDst_->update();
     }
@@ -187,7 +187,7 @@ void fImage::scrollByHand(QPoint screen)
 {
     const QPoint step = screen - grabLast_;
     grabLast_ = screen;
-    Scroll(hSB_->value() - step.x(), vSB_->value() - step.y()); // the bars limit
+    Scroll(hSB_->value() - step.x(), vSB_->value() - step.y()); // limited by the bars
 }
 
 void fImage::StartTimer()

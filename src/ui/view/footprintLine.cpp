@@ -9,7 +9,7 @@ namespace {
 constexpr int kSmallest = 5; // screen pixels
 constexpr int kPieces = 32;  // rectangles along a line
 
-/// From the top down the right side, then the same mirrored up the left.
+/// Down the right side, then mirrored up the left.
 QPolygon roundDisc(int r, int zoom)
 {
     const auto right = [&](int dy) {

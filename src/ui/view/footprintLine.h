@@ -1,4 +1,4 @@
-// The line that shows on the screen what a tool of some size would change.
+// The line on the screen around the pixels that a tool would change.
 #pragma once
 #include "tools/ToolContext.h"
 #include <QPolygon>
@@ -6,11 +6,11 @@
 
 namespace velara {
 
-/// The line just outside of what is changed, step by step along its pixels. In screen pixels from the upper left corner
-/// of the pixel that the tool is held at. Empty where nothing is changed, or too little for a line to be of use.
+/// The line just outside of those pixels, following their edges. In screen pixels from the upper left corner of the
+/// pixel at the tool's position. Empty when there are none, or when the line would be too small to be useful.
 QPolygon footprintLine(const Footprint& footprint, int zoom);
 
-/// Where the closed line is drawn, as a few thin rectangles along it.
+/// The pixels of the closed line, as a few thin rectangles along it.
 QRegion underLine(const QPolygon& line);
 
 } // namespace velara

@@ -1,5 +1,5 @@
-// Which of the dialogs that compose a picture is open. They are never open together: whoever opens one closes the
-// other, which may ask first and stay.
+// The open dialog of those that compose a picture. Only one is open at a time: opening one closes the other, which may
+// ask first and stay open.
 #pragma once
 
 class QWidget;
@@ -10,10 +10,10 @@ enum class Composer : short { None = 0, Layers = 1, ColorDepth = 2 };
 
 class ActiveComposer {
   public:
-    /// Marks this one until it is closed or deleted. What is open is closed by then: see unload().
+    /// Registers this one until it is closed or deleted. The previous one must be closed by then: see unload().
     static void take(Composer which, QWidget* dialog);
-    /// Closes the one that is open, before another is made. False: it holds work and the user keeps it. It may ask, so
-    /// that anything may be gone afterwards.
+    /// Closes the open one, before another is made. False: it has unsaved work and the user keeps it open. It may ask,
+    /// so anything may be destroyed afterwards.
     static bool unload();
     static Composer current();
 };

@@ -43,7 +43,7 @@ QIcon themed(const char* name, QStyle::StandardPixmap otherwise)
     return QIcon::fromTheme(name, QApplication::style()->standardIcon(otherwise));
 }
 
-/// The directory knows; only links are looked behind.
+/// The directory entry has the type; only links are resolved.
 bool isFolderEntry(const dirent& entry, const QString& path)
 {
     if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) return QFileInfo(path).isDir();
@@ -68,7 +68,7 @@ FolderModel::FolderModel(bool withFiles, QObject* parent)
 
 FolderModel::~FolderModel() = default;
 
-// --- The model's own way of asking
+// --- Access to the model's items
 
 FolderModel::Item* FolderModel::itemOf(const QModelIndex& index) const
 {
@@ -155,7 +155,7 @@ QModelIndex FolderModel::indexOf(const QString& path)
     return indexOf(*item);
 }
 
-/// What is open under this path, or null.
+/// The loaded item of this path, or null.
 FolderModel::Item* FolderModel::find(const QString& path) const
 {
     Item* item = root_.get();
@@ -184,7 +184,7 @@ FolderModel::Item* FolderModel::child(Item& folder, const QString& name)
 
 // --- The disk
 
-/// The names of a folder, sorted; none where it can't be read.
+/// The names in a folder, sorted; none if it can't be read.
 FolderModel::Items FolderModel::read(const QString& folder) const
 {
     Items items;
@@ -199,7 +199,7 @@ FolderModel::Items FolderModel::read(const QString& folder) const
     return items;
 }
 
-/// Sorted ones in among those of a folder, each run of them that stays together at once.
+/// Merges sorted items into those of a folder, each consecutive run at once.
 void FolderModel::take(Item& folder, Items items)
 {
     Items& all = folder.items;
@@ -239,7 +239,7 @@ void FolderModel::followDisk()
             const auto at = std::ranges::lower_bound(now, item, [](const auto& a, const auto& b) { return *a < *b; });
             if (at != now.end() && same(*at, item))
                 now.erase(at);
-            else if (!QFileInfo::exists(item->path())) // a hidden one that was asked for stays
+            else if (!QFileInfo::exists(item->path())) // a hidden one shown on request stays
                 drop(*folder, row, row);
         }
         take(*folder, std::move(now));

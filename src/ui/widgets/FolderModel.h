@@ -1,6 +1,6 @@
-// FolderModel: folders, and files where asked for, as a tree model. Each folder is read once it is opened, in one go:
-// five thousand names take a few hundredths of a second. Folders come first, then by name, numbers by their value;
-// hidden ones are left out. The folders that are open follow the disk.
+// FolderModel: folders, and optionally files, as a tree model. Each folder is read when it is opened, in one go: five
+// thousand names take a few hundredths of a second. Folders come first, then by name, numbers by value; hidden ones are
+// omitted. Open folders follow changes on disk.
 #pragma once
 #include <QAbstractItemModel>
 #include <QFileSystemWatcher>
@@ -19,13 +19,13 @@ class FolderModel : public QAbstractItemModel {
     explicit FolderModel(bool withFiles, QObject* parent = nullptr);
     ~FolderModel() override;
 
-    /// The item of a path; reads the folders on the way, and shows a hidden one that is asked for. Where it isn't on
-    /// the disk, the nearest folder above it.
+    /// The item of a path; reads the folders on the way, and shows a hidden one on request. If it doesn't exist, the
+    /// nearest folder above it.
     QModelIndex indexOf(const QString& path);
     QString path(const QModelIndex& index) const;
     bool isFolder(const QModelIndex& index) const;
 
-    /// Files that are pictures get these in place of the plain icon. icons lives as long as the model.
+    /// Picture files get these instead of the plain icon. icons must live as long as the model.
     void setThumbnails(ThumbnailIcons& icons);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -55,8 +55,8 @@ class FolderModel : public QAbstractItemModel {
     QIcon folderIcon_, fileIcon_;
     std::unique_ptr<Item> root_;
     QFileSystemWatcher watcher_;
-    QSet<QString> changed_; // folders to be read again
-    QTimer pause_;          // many changes are one
+    QSet<QString> changed_; // folders to be reread
+    QTimer pause_;          // merges many changes into one
 };
 
 } // namespace velara

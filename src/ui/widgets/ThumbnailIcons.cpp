@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kKept = 1000;      // icons: a few megabytes
 constexpr int kMostWaiting = 64; // more than a screen shows
-constexpr int kSharpness = 2;    // device pixels a logical one, at most
+constexpr int kSharpness = 2;    // device pixels per logical pixel, at most
 
 QPixmap surface(int side)
 {
@@ -33,7 +33,7 @@ QIcon framed(const QImage& image, int side)
     painter.setPen(QPen(QColor(128, 128, 128, 160), 0.5));
     painter.drawRect(place);
     QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected); // its colours stay its own
+    icon.addPixmap(pixmap, QIcon::Selected); // keeps its colours when selected
     return icon;
 }
 

@@ -1,5 +1,5 @@
-// ThumbnailIcons: the icons of picture files in a list or tree. What has been asked for lately is kept, and what has
-// been scrolled away is not waited for.
+// ThumbnailIcons: the icons of picture files in a list or tree. Recently requested ones are cached; requests that have
+// been scrolled out of view are dropped.
 #pragma once
 #include "seams/Previews.h"
 #include <QCache>
@@ -12,10 +12,10 @@ namespace velara {
 class ThumbnailIcons final : public QObject {
     Q_OBJECT
   public:
-    /// side: of the icons, in pixels; they are square, with the picture in the middle.
+    /// side: of the icons, in pixels; they are square, with the picture centred.
     ThumbnailIcons(Previews& previews, int side, QObject* parent);
 
-    /// The thumbnail, a broken picture where it can't be read, or an empty frame as long as it is being read.
+    /// The thumbnail; a broken picture if it can't be read; an empty frame while it is being read.
     QIcon icon(const QString& path);
 
   signals:

@@ -1,5 +1,5 @@
-// fColorButton: a colour well. Shows its colour, opens the choice of colours on a click; the active well of a pair has
-// a frame.
+// fColorButton: a colour well. Shows its colour and opens the colour picker on a click; the active well of a pair has a
+// frame.
 #pragma once
 #include "pixels/Bits.h"
 #include <QAbstractButton>
@@ -15,7 +15,7 @@ class fColorButton final : public QAbstractButton {
     fColorButton(Frame& frame, const QString& name, const QString& accessibleName, QWidget* parent);
 
     Colour colour() const { return colour_; }
-    void setColour(Colour colour); // colourChanged when it is another
+    void setColour(Colour colour); // emits colourChanged if it differs
     void setActive(bool active);
     QSize sizeHint() const override { return {56, 26}; }
 

@@ -12,7 +12,7 @@ fFolderTree::fFolderTree(Shows shows, const QString& objectName, const QString& 
     setAccessibleName(accessibleName);
     setModel(model_);
     setHeaderHidden(true);
-    setUniformRowHeights(true); // no row of thousands is measured
+    setUniformRowHeights(true); // avoids measuring thousands of rows
     setExpandsOnDoubleClick(false);
     connect(this, &QTreeView::doubleClicked, this, &fFolderTree::choose);
 }
@@ -55,7 +55,7 @@ void fFolderTree::currentChanged(const QModelIndex& current, const QModelIndex& 
     emit selection(path());
 }
 
-/// Only now is it known how much of the tree can be seen.
+/// Only now is the visible part of the tree known.
 void fFolderTree::showEvent(QShowEvent* event)
 {
     QTreeView::showEvent(event);

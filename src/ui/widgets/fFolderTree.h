@@ -1,5 +1,5 @@
-// fFolderTree: the folders of the machine as a tree, with or without the files in them. Typing goes to the next item
-// whose name begins so.
+// fFolderTree: the machine's folders as a tree, with or without files. Typing selects the next item whose name begins
+// with the text.
 #pragma once
 #include <QTreeView>
 
@@ -15,18 +15,18 @@ class fFolderTree : public QTreeView {
 
     fFolderTree(Shows shows, const QString& objectName, const QString& accessibleName, QWidget* parent = nullptr);
 
-    /// Pictures are shown by small copies of them.
+    /// Shows pictures by thumbnails.
     void showThumbnails(Previews& previews);
-    /// Of the current item; empty without one.
+    /// The path of the current item; empty without one.
     QString path() const;
-    /// Opens the tree down to the path, and a folder itself, and makes it current. Where it doesn't exist, the nearest
-    /// folder above it that does.
+    /// Expands the tree down to the path, and a folder itself, and makes it current. If it doesn't exist, the nearest
+    /// existing folder above it.
     void select(const QString& path);
 
   signals:
-    /// Another item is current.
+    /// Another item became current.
     void selection(const QString& path);
-    /// By a double click or Enter: a folder where only folders are shown, else a file (a folder opens or closes then).
+    /// By a double click or Enter: a folder if only folders are shown, else a file (folders then expand or collapse).
     void chosen(const QString& path);
 
   protected:

@@ -166,7 +166,7 @@ Bits fittingCopy(const Bits& bits, QSize box)
     const QSize size = fitSize({bits.width(), bits.height()}, box).expandedTo({1, 1});
     if (size == QSize(bits.width(), bits.height())) return bits;
     cBitFilter filter;
-    filter.clock = [] { return 0U; }; // no report, which a single row can't make
+    filter.clock = [] { return 0U; }; // no progress reports for a single row
     filter.BitsResample(bits, size.width(), size.height());
     return filter.bits();
 }

@@ -1,10 +1,9 @@
-// fPicture: the surface that shows a picture in a dialog. As large as it is made; the picture stands in the middle, in
-// whole magnifications, and is painted straight from its memory. It can be picked from, marked, and dragged about by
-// whoever listens to panned (fPicturePage does).
+// fPicture: the surface that shows a picture in a dialog. The picture is centred, at an integer zoom, and painted
+// directly from its memory. It can be picked from, marked, and dragged by a receiver of panned (fPicturePage).
 //
-// A canvas with things of its own on it derives from this: paintOver draws on top, the mouse handlers come first and
-// leave to these what they don't want, child widgets stand in the picture's coordinates where the surface has the
-// picture's size. What changes a few pixels asks for them alone by updatePixels.
+// A canvas with items of its own derives from this: paintOver draws on top, mouse handlers run first and pass on what
+// they don't use, child widgets use the picture's coordinates if the surface has the picture's size. Changes of a few
+// pixels request their repaint alone, by updatePixels.
 #pragma once
 #include "pixels/Bits.h"
 #include "region/Region.h"
@@ -23,38 +22,38 @@ class fPicture : public QWidget {
 
     const Bits& bits() const { return bits_; }
     void setBits(const Bits& bits);
-    /// The picture as far scaled down as the surface needs.
+    /// Shows the picture, scaled down as far as the surface needs.
     void showWhole(const Bits& bits);
-    /// Screen pixels a picture pixel, from 1.
+    /// Screen pixels per picture pixel, from 1.
     int zoom() const { return zoom_; }
     void setZoom(int zoom);
     QSize zoomedSize() const { return {bits_.width() * zoom_, bits_.height() * zoom_}; }
 
-    /// Where the picture stands on the surface.
+    /// The picture's rectangle on the surface.
     QRect place() const;
-    /// The pixel under a place of the surface; may lie outside of the picture.
+    /// The pixel at a position on the surface; may lie outside of the picture.
     QPoint pixelAt(QPointF at) const;
-    /// The place that shows the upper left corner of a pixel.
+    /// The position of a pixel's upper left corner.
     QPointF placeOf(QPointF pixel) const { return pixel * zoom_ + place().topLeft(); }
-    /// Asks for a repaint of these pixels.
+    /// Requests a repaint of these pixels.
     void updatePixels(const Rect& pixels);
 
-    /// A place in the picture, or none; a cross that is white or black.
+    /// A cross, white or black, at a position in the picture; none to remove it.
     void setMarker(std::optional<QPointF> place);
     void flipMarker();
-    /// A dashed frame round these pixels, or none.
+    /// A dashed frame around these pixels; none to remove it.
     void setFrame(std::optional<QRectF> pixels);
-    /// The left button tells pixels instead of dragging the picture.
+    /// The left button picks pixels instead of dragging the picture.
     void setPickable(bool pickable);
-    /// The pointer is an open hand over a picture that can be dragged.
+    /// The pointer is an open hand over a draggable picture.
     void setPannable(bool pannable);
 
   signals:
     void pressed(QPoint pixel); // inside the picture
-    void panned(QPoint by);     // how far the pointer is from the place of the surface that it took hold of
+    void panned(QPoint by);     // the pointer's distance from where it took hold of the surface
 
   protected:
-    /// Draws over the picture; part is what is being repainted. The painter has the surface's coordinates.
+    /// Draws over the picture; part is being repainted. The painter has the surface's coordinates.
     virtual void paintOver(QPainter& painter, const QRect& part);
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -74,7 +73,7 @@ class fPicture : public QWidget {
     bool white_ = true, pickable_ = false, pannable_ = false;
 };
 
-/// The picture scaled down so that it fits the box, by BitsResample; itself when it fits.
+/// The picture scaled down to fit the box, by BitsResample; unchanged if it fits.
 Bits fittingCopy(const Bits& bits, QSize box);
 
 } // namespace velara

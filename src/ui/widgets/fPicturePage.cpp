@@ -12,7 +12,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kStep = 16; // screen pixels of an arrow key
+constexpr int kStep = 16; // screen pixels per arrow key
 
 QScrollBar* barNamed(const char* name, Qt::Orientation direction, const QString& accessibleName)
 {

@@ -1,5 +1,5 @@
-// fPicturePage: a picture in a container with two scroll bars: in the middle when it is smaller, else moved by the
-// bars, the wheel, the arrow keys and by dragging it. A partner shows the same place of its own picture.
+// fPicturePage: a picture in a container with two scroll bars: centred if it is smaller, else moved by the bars, the
+// wheel, the arrow keys and by dragging. A partner shows the same part of its own picture.
 #pragma once
 #include "ui/widgets/fPicture.h"
 #include <QPointer>
@@ -15,24 +15,24 @@ class fPicturePage : public QWidget {
     struct Names {
         const char *container, *picture, *horizontal, *vertical;
     };
-    /// canvas, when given, is shown in place of a plain fPicture; the page owns it and names it.
+    /// canvas, if given, is used instead of a plain fPicture; the page owns and names it.
     fPicturePage(const Names& names, const QString& accessibleName, fPicture* canvas = nullptr,
                  QWidget* parent = nullptr);
 
     fPicture& picture() { return *picture_; }
-    /// The place stays, as far as the picture reaches.
+    /// Keeps the position, as far as the picture reaches.
     void setBits(const Bits& bits);
-    /// Whole magnifications, limited to what fits; the same relative place is shown. The partner follows.
+    /// Integer zooms, limited to what fits; keeps the same relative position. The partner follows.
     void setZoom(int zoom);
-    /// Each follows the other from here on. One partner a page.
+    /// Both follow each other from now on. One partner per page.
     void setPartner(fPicturePage& partner);
 
-    /// The part of the picture that the container shows, in screen pixels of the zoomed picture.
+    /// The upper left corner of the visible part, in screen pixels of the zoomed picture.
     QPoint scroll() const;
     void setScroll(QPoint place); // limited to the picture
-    /// The part that the container shows, in picture pixels.
+    /// The visible part, in picture pixels.
     QRectF shown() const;
-    /// As near as the picture's edges let it come.
+    /// Centres the pixel, as near as the picture's edges permit.
     void showInMiddle(QPointF pixel);
 
   signals:
@@ -52,7 +52,7 @@ class fPicturePage : public QWidget {
     fPicture* picture_;
     QScrollBar *horizontal_, *vertical_;
     QPointer<fPicturePage> partner_;
-    bool follows_ = false; // the partner is telling its place
+    bool follows_ = false; // the partner is passing its position
 };
 
 } // namespace velara

@@ -16,7 +16,7 @@ ViewLayout layOut(const ViewSpace& s)
     const int width = std::max(s.clientWidth, 2 * bar), height = std::max(s.clientHeight, 2 * bar);
     const int zoomedWidth = s.pictureWidth * s.zoom, zoomedHeight = s.pictureHeight * s.zoom;
     ViewLayout l;
-    // The thickness of one bar may make the other necessary, so twice.
+    // One bar's thickness may make the other necessary, so twice.
     for (int pass = 0; pass < 2; ++pass) {
         l.needH = l.needH || zoomedWidth > width - (l.needV ? bar : 0);
         l.needV = l.needV || zoomedHeight > height - (l.needH ? bar : 0);

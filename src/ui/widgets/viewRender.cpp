@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t kOpaque = 0xFF000000;
 
-/// The picture column or row of each device pixel from 0: exact for whole ratios, the one under the middle of the
+/// The picture column or row of each device pixel from 0: exact for integer ratios, the one under the centre of the
 /// device pixel for others.
 class Axis {
   public:
@@ -56,7 +56,7 @@ void ViewRenderer::render(const Bits& bits, const ViewSpot& spot, int left, int 
     const auto lineOf = [&, first = target.bits()](int y) {
         return reinterpret_cast<std::uint32_t*>(first + y * target.bytesPerLine());
     };
-    int shown = -1; // the picture row that the line above holds
+    int shown = -1; // the picture row in the line above
     for (int y = 0; y < target.height(); ++y) {
         std::uint32_t* const line = lineOf(y);
         const int row = down.at(top + y);

@@ -1,6 +1,6 @@
-// What the display shows: the visible part of a picture in whole magnifications, nearest pixel, straight from the
+// What the display shows: the visible part of a picture at an integer zoom, nearest neighbour, directly from the
 // picture's memory. No zoomed copy exists: a strip of rows at a time goes through a small buffer that stays in the
-// processor's cache, which takes half the time of a buffer for the whole view.
+// cache, which takes half the time of a buffer for the whole view.
 #pragma once
 #include "pixels/Bits.h"
 #include "region/Region.h"
@@ -12,8 +12,8 @@ class QPainter;
 
 namespace velara {
 
-/// How the display looks at the picture: the scroll place and the zoom in logical pixels, and how many device pixels a
-/// logical one has.
+/// The view of the picture: the scroll position and the zoom in logical pixels, and the device pixels per logical
+/// pixel.
 struct ViewSpot {
     int scrollX = 0, scrollY = 0, zoom = 1;
     double ratio = 1;
@@ -21,15 +21,15 @@ struct ViewSpot {
 
 class ViewRenderer {
   public:
-    /// Draws over a strip before it is shown: the strip, and the place of its corner in the view.
+    /// Draws over a strip before it is shown; gets the strip and its corner's position in the view.
     using Overlay = std::function<void(QImage& strip, int left, int top)>;
 
-    /// Paints part of the view, in device pixels; the painter's coordinates are logical. The corners that overlay is
-    /// given are multiples of 8.
+    /// Paints part of the view, in device pixels; the painter's coordinates are logical. The corners passed to overlay
+    /// are multiples of 8.
     void paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part, const Overlay& overlay);
 
-    /// Writes the view's pixels from (left, top) on into all of the target, a 32-bit image; the fourth byte is 255
-    /// throughout. Places outside of the picture show its nearest pixel.
+    /// Renders the view from (left, top) to the whole target, a 32-bit image; the fourth byte is always 255. Positions
+    /// outside of the picture show its nearest pixel.
     void render(const Bits& bits, const ViewSpot& spot, int left, int top, QImage& target);
 
   private:

@@ -30,7 +30,7 @@ struct FrameTest : ::testing::Test {
     }
 
     QString path(const QString& name) { return platform.folder.filePath(name); }
-    /// A picture file with no two pixels alike in a row.
+    /// A picture file in which no two adjacent pixels of a row are equal.
     QString file(const QString& name, int width = 12, int height = 8)
     {
         QImage image(width, height, QImage::Format_RGB32);

@@ -1,4 +1,4 @@
-// The pop-up of a tool: beside the buttons, with no tool tip on it.
+// The pop-up of a tool: it appears beside the buttons, without a tool tip on it.
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
 #include "app/start/defaultPictures.h"
@@ -18,7 +18,7 @@ struct HoverTest : FrameTest {
             if (window->isVisible() && window->findChild<QLabel*>("lblTool", Qt::FindDirectChildrenOnly)) all << window;
         return all;
     }
-    /// The one pop-up that stands, after the pointer has rested on the tool's button.
+    /// The open pop-up, after the pointer has rested on the tool's button.
     QWidget* popupOf(const char* tool)
     {
         QEvent enter(QEvent::Enter);

@@ -1,4 +1,4 @@
-// The frame: the command language, what each command asks and says, and what it leaves behind.
+// The frame: the command language, the questions and messages of each command, and its results.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/menus.h"
@@ -25,7 +25,7 @@ TEST_F(FrameTest, WithoutADocumentOnlyTheFreeCommandsDoAnything)
     std::vector<std::string> words;
     for (const CommandWord& command : vocabulary())
         if (command.stage == Stage::NeedsImage) words.emplace_back(command.word);
-    words.emplace_back("CREATEFROMCLIPBOARD"); // which finds nothing there
+    words.emplace_back("CREATEFROMCLIPBOARD"); // finds nothing there
     for (const std::string& word : words) command(QString::fromStdString(word));
     EXPECT_TRUE(platform.log.empty()) << last();
     EXPECT_TRUE(frame->documents().isEmpty());
@@ -182,7 +182,7 @@ TEST_F(FrameTest, BarsFollowTheConfiguration)
     EXPECT_FALSE(frame->action("BAR_1")->isChecked());
     frame->bars().saveLayout();
     frame->action("BAR_1")->trigger();
-    frame->bars().loadLayout(); // the stored layout had it hidden; the configuration has the say
+    frame->bars().loadLayout(); // the stored layout had it hidden; the configuration decides
     EXPECT_FALSE(effects->isHidden());
     frame->action("VIEWS_8")->trigger();
     EXPECT_FALSE(setup.StatusBarVisible);
@@ -225,7 +225,7 @@ TEST_F(FrameTest, TheSidePaneComesOutAtTheLeftEdgeAndHidesAgain)
 
 TEST_F(FrameTest, IconsFollowThePalette)
 {
-    const auto shade = [&] { // of the darkest-to-lightest drawing of an icon without colours
+    const auto shade = [&] { // the range of lightness of an icon drawn without colours
         const QImage image = frame->action("FILE_1")->icon().pixmap(22).toImage();
         int sum = 0, count = 0;
         for (int y = 0; y < image.height(); ++y)

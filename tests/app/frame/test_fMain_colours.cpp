@@ -35,7 +35,7 @@ struct ColourBox : FrameTest {
                           {x + fPickSurface::kEdge, y + fPickSurface::kEdge});
     }
     void link(bool on) { find<QCheckBox>("chkLink")->setChecked(on); }
-    /// What a person does in the picker that opens next.
+    /// Schedules the user's actions in the picker that opens next.
     void inPicker(std::function<void(fPicker&)> work)
     {
         QTimer::singleShot(0, [this, work] {
@@ -60,7 +60,7 @@ TEST_F(ColourBox, HueAndPlanePickAndStoreInTheCell)
     QTest::mouseClick(find<QWidget>("lblCol_5"), Qt::LeftButton);
     auto* plane = find<QWidget>("iPal");
     QTest::mousePress(plane, Qt::LeftButton, {}, {30, 30});
-    // dragged out: the columns that are not shown can be reached
+    // dragged out: columns that aren't shown can be reached
     sendMouse(plane, QEvent::MouseMove, {500, 40}, Qt::NoButton, Qt::LeftButton);
     QTest::mouseRelease(plane, Qt::LeftButton, {}, {500, 40});
     const Colour grey = box->current();
@@ -78,7 +78,7 @@ TEST_F(ColourBox, HueAndPlanePickAndStoreInTheCell)
 TEST_F(ColourBox, NumbersAreRuledTypedPastedAndDragged)
 {
     EXPECT_EQ("48 32 16", numbers());
-    using Row = std::pair<const char*, const char*>; // what is given, what is shown
+    using Row = std::pair<const char*, const char*>; // input, displayed text
     auto* red = find<fRgbBox>("txtRGB_0");
     for (const auto& [keys, shown] : {Row{"300", "255"}, {"7x8", "78"}, {"-5", "5"}, {"0", "0"}}) {
         red->selectAll();

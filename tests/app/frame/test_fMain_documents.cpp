@@ -1,4 +1,4 @@
-// The windows of the documents: size, name, mark, focus, and what stands where there is none.
+// The windows of the documents: size, name, mark, focus, and what is shown without documents.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/menus/Boxes.h"
@@ -11,7 +11,7 @@ namespace velara {
 struct FrameDocuments : FrameTest {
     QMdiSubWindow* windowOf(fImage* image) { return qobject_cast<QMdiSubWindow*>(image->parentWidget()); }
     QRect areaRect() { return frame->area().viewport()->rect(); }
-    /// What is listed after the last fixed item of Views, with a mark at the active one.
+    /// The list after the last fixed item of Views, with the active one checked.
     QStringList listed()
     {
         auto* views = frame->findChild<QMenu*>("mnuViews");
@@ -30,7 +30,7 @@ TEST_F(FrameDocuments, TheFrameClosesTheLastOpenedFirst)
         open(randomBits(8, 8, 1), name);
         command("INVERT");
     }
-    platform.answers = {"no", "no"}; // then it is cancelled
+    platform.answers = {"no", "no"}; // then an empty queue cancels
     frame->close();
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");

@@ -116,8 +116,7 @@ TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
         EXPECT_EQ(platform.logged("save: Save as"), asks) << name;
         EXPECT_EQ(frame->documents().last()->document().Changed, asks) << name;
     }
-    // A new document has no file yet, whatever it is called, and one of which only a part was read keeps the rest
-    // there.
+    // A new document has no file yet, whatever its name, and one that was read only partly must not overwrite the rest.
     const auto asksForAName = [&] {
         platform.log.clear();
         command("SAVE");
@@ -235,7 +234,7 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
     const Bits before = image->bits();
     {
         const FullDisk full(1000);
-        const FreeMemory none(0); // for steps back
+        const FreeMemory none(0); // for undo steps
         command("INVERT");
         EXPECT_FALSE(image->document().undo.stands());
         QCoreApplication::processEvents();
@@ -259,7 +258,7 @@ TEST_F(FrameTest, ALostSnapshotIsToldAndCountsAsAChange)
 TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
 {
     velara::Setup otherSetup;
-    fMain other(platform, otherSetup); // a lock is the open file's: as good as another program
+    fMain other(platform, otherSetup); // a lock belongs to the open file, so this acts like another program
     const Bits mine = randomBits(20, 20, 1);
     fImage* image = open(mine);
     const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"), Arrival::Made);
@@ -327,10 +326,10 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->action("RF_0")->text(), "Empty");
     EXPECT_TRUE(frame->action("RF_0")->isEnabled());
-    EXPECT_EQ(setup.Recent[0], a); // it keeps its place
+    EXPECT_EQ(setup.Recent[0], a); // it keeps its position
     QFile::remove(b);
     file("a.bmp");
-    emit frame->findChild<QMenu*>("mnuRecent")->aboutToShow(); // the files are looked for whenever it opens
+    emit frame->findChild<QMenu*>("mnuRecent")->aboutToShow(); // the files are checked whenever the menu opens
     EXPECT_EQ(frame->action("RF_0")->text(), a);
     const QAction* lost = frame->action("RF_2");
     EXPECT_EQ(lost->text(), "");
@@ -406,10 +405,10 @@ TEST(StartTest, AFullDiskLeavesNothingEmptyBehind)
     EXPECT_FALSE(folder.exists("Images"));
     ASSERT_TRUE(makeFolders(platform));
     for (const char* name : {"Stamps/Velara3.bmp", "Images/Velara.bmp"}) {
-        putFile(folder.filePath(name), {}); // as an earlier version left it
+        putFile(folder.filePath(name), {}); // as left by an earlier version
     }
     QFile::remove(folder.filePath("Stamps/Velara4.bmp"));
-    QFile::setPermissions(folder.filePath("Temp"), QFile::Permissions(0x7777)); // open to all
+    QFile::setPermissions(folder.filePath("Temp"), QFile::Permissions(0x7777)); // accessible to all
     ASSERT_TRUE(makeFolders(platform));
     EXPECT_FALSE(QImage(folder.filePath("Stamps/Velara3.bmp")).isNull());
     EXPECT_FALSE(QImage(folder.filePath("Images/Velara.bmp")).isNull());

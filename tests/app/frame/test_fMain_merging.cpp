@@ -1,4 +1,5 @@
-// Image merging in the frame: the window that lays one open picture over another, and what happens around it.
+// Image merging in the frame: the window that lays one open picture over another, and its reactions to events around
+// it.
 #include "app/frame/frameTest.h"
 #include "document/merging.h"
 #include "ui/merge/fOverlay.h"
@@ -34,7 +35,7 @@ struct FrameMerging : FrameTest {
         filter.setBitsRegion(region);
         return merged(filter, merging);
     }
-    bool shows(const Bits& wanted) // whatever margins and fourth bytes
+    bool shows(const Bits& wanted) // ignores margins and fourth bytes
     {
         const Bits& shown = find<fPicture>("iSrc")->bits();
         bool same = shown.width() == wanted.width() && shown.height() == wanted.height();
@@ -117,7 +118,7 @@ TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
 
     const Bits before = lower->bits();
     upper->parentWidget()->close();
-    QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has seen it
+    QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has noticed the change
     ASSERT_TRUE(comes([&] { return !dialog || find<QComboBox>("cbOverlay")->currentText() == "third.bmp"; }) && dialog);
     EXPECT_TRUE(sameBits(before, lower->bits())) << "another picture than the chosen one is not merged";
     for (fImage* image : frame->documents()) image->parentWidget()->close();

@@ -1,5 +1,5 @@
-// Pictures in the frame, worked on with the mouse: which document a stroke belongs to, and what engine, undo and screen
-// make of it.
+// Pictures in the frame, edited with the mouse: which document a stroke belongs to, and the resulting engine, undo and
+// screen contents.
 #include "app/frame/frameTest.h"
 #include <QTest>
 
@@ -34,7 +34,7 @@ TEST_F(FramePicture, APressInAnotherPictureLeavesTheOneThatADragHungOn)
     mouse(image, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
     mouse(image, QEvent::MouseMove, {30, 30}, Qt::LeftButton);
     ASSERT_FALSE(image->bits() == before);
-    mouse(other, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton); // as where the frame isn't the active window
+    mouse(other, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton); // as when the frame isn't the active window
     EXPECT_EQ(frame->GetActiveImage(), other);
     EXPECT_TRUE(image->bits() == before);
 }

@@ -1,5 +1,5 @@
-// The road from a command to its document: every word that changes pixels, and everything that can happen while it is
-// computed. Afterwards each document shows its own picture, has its own steps, and no file stays behind.
+// The way from a command to its document: every word that changes pixels, and everything that can happen while it is
+// computed. Afterwards each document shows its own picture and has its own steps, and no file is left over.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "commands/sizeWords.h"
@@ -23,10 +23,10 @@ constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",   
 /// Words that are done in one go.
 const std::set<std::string_view> kAtOnce{"REDO", "UNDO"};
 
-/// A dialog that is filled with the size that is seen as it opens.
+/// Sets a dialog to the size that it shows initially.
 constexpr std::string_view kOfWhatIsSeen = "CANVASSIZE";
 
-/// Words that leave this small picture as it is; the first is a half of the same picture once more.
+/// Words that leave this small picture unchanged; in the first, half of it equals the other half.
 const std::set<std::string_view> kAsBefore{"50", "CURTAINWHITY", "CUSTOMCURTAIN", "FISHEYE"};
 
 bool changesPixels(const CommandWord& word)
@@ -42,13 +42,13 @@ bool isSizing(std::string_view word)
     return size && size->kind != SizeWord::Rotate;
 }
 
-/// How far a document's series goes.
+/// The extent of a document's undo series.
 struct State {
-    Bits picture, before; // the present one, and the one a step back
+    Bits picture, before; // the present one, and the previous step's
     int step = 1, top = 1;
 };
 
-/// Holds the threads that compute while it is shut.
+/// Blocks the computing threads while closed.
 class Gate {
   public:
     void shut() { set(false); }
@@ -76,20 +76,20 @@ struct Road : FrameTest {
     Gate gate;
     const Bits first = randomBits(48, 36, 1), second = randomBits(20, 15, 2);
     QPointer<fImage> own, other;
-    Bits start; // own's picture as the word comes
+    Bits start; // the active document's picture when the word begins
     std::atomic<std::uint32_t> clock{0};
 
     cBitFilter& engine() { return frame->workspace().engine(); }
 
-    /// Two documents. The active one has a run of sizing words behind it, and a part of it is selected.
+    /// Two documents. The active one has just had a run of sizing words, and a part of it is selected.
     void begin()
     {
         if (!frame) SetUp();
-        frame->setUpdatesEnabled(false); // nobody looks, and painting would take most of the time
+        frame->setUpdatesEnabled(false); // painting would take most of the time
         setup.AskToSave = false;
         engine().clock = [this] {
             gate.pass();
-            return clock += 20; // a report falls due in every row
+            return clock += 20; // a progress report falls due in every row
         };
         own = open(first, "a.bmp");
         other = open(second, "b.bmp");
@@ -123,8 +123,8 @@ struct Road : FrameTest {
                 document.undo.UndoTop()};
     }
 
-    /// Runs the word; in the dialog that it opens everything is moved, then OK is clicked. meanwhile comes while the
-    /// picture is computed. False: nothing was.
+    /// Runs the word; in a dialog that it opens changes every control, then clicks OK. Calls meanwhile while the
+    /// picture is computed. False: nothing was computed.
     bool run(
         const CommandWord& word, const std::function<void()>& meanwhile = [] {})
     {
@@ -165,7 +165,7 @@ struct Road : FrameTest {
     }
 };
 
-/// What can happen, and what it leaves.
+/// The events, and their results.
 struct Meanwhile {
     enum Own { Result, Twice, AsBefore, Closed };
     const char* what;
@@ -174,7 +174,7 @@ struct Meanwhile {
     enum Other { Same, DrawnOn, Turned, Gone } other = Same;
     int documents = 2;
 };
-constexpr int kOfFile = 13; // pixels that the file is wide, and nothing else is
+constexpr int kOfFile = 13; // pixels: the width of the file and of nothing else
 
 // clang-format off
 const Meanwhile kMeanwhile[] = {
@@ -199,7 +199,7 @@ void expectState(const State& wanted, const State& got)
     EXPECT_EQ(std::pair(wanted.step, wanted.top), std::pair(got.step, got.top));
 }
 
-/// The engine and the status bar show the active document; the files are those of the steps of all.
+/// The engine and the status bar show the active document; the files on disk are those of all steps.
 void expectOneFrame(Road& r)
 {
     int steps = 0;
@@ -240,7 +240,7 @@ Undisturbed undisturbed(Road& r, const CommandWord& word)
     return result;
 }
 
-/// The document one step further, by a line or by INVERT.
+/// Changes the document by one step, by a line or by INVERT.
 State changedFrom(const Bits& before, fImage* image)
 {
     const State state = Road::stateOf(image);
@@ -249,7 +249,7 @@ State changedFrom(const Bits& before, fImage* image)
     return state;
 }
 
-/// The word, and what happens while it is computed.
+/// Runs the word with an event while it is computed.
 void disturbed(Road& r, const CommandWord& word, const Undisturbed& usual, const Meanwhile& meanwhile)
 {
     SCOPED_TRACE(testing::Message() << word.word << ", " << meanwhile.what);
@@ -300,7 +300,7 @@ TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
         if (usual.once.picture == start) asBefore.insert(command.word);
         const bool listed = command.kind == WordKind::Dialog || command.kind == WordKind::Preset;
         for (const Meanwhile& meanwhile : kMeanwhile) {
-            if (meanwhile.documents == 0 && listed && words % 8 != 0) continue; // a new frame takes its time
+            if (meanwhile.documents == 0 && listed && words % 8 != 0) continue; // a new frame is slow
             if (meanwhile.own == Meanwhile::Twice && command.word == kOfWhatIsSeen) continue;
             disturbed(*this, command, usual, meanwhile);
         }
@@ -322,7 +322,7 @@ TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
     EXPECT_FALSE(fileBytes(path("a.bmp")) == before);
 }
 
-/// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
+/// Two files, one rotated at high quality; the other is drawn on meanwhile, and once more afterwards.
 TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
 {
     openFile(file("a.bmp", 60, 45));

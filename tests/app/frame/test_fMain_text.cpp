@@ -1,5 +1,5 @@
-// Text and effects in the frame: the box and the mouse tool, the layers dialog, and what the document and its undo
-// files make of them.
+// Text and effects in the frame: the box and the mouse tool, the layers dialog, and their results in the document and
+// its undo files.
 #include "app/frame/frameTest.h"
 #include "pixels/images.h"
 #include "ui/compose/fLayers.h"
@@ -33,7 +33,7 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     Document twin({}, 0);
     twin.takePicture(before);
     twin.Region = image->document().Region;
-    const auto held = [](int size) { return (size + 1) / 2 + 1; }; // the upper bound counts the margin
+    const auto held = [](int size) { return (size + 1) / 2 + 1; }; // the upper bound includes the margin
     twin.paint.BitsBWMask(55 - held(text.width()), 45 - held(text.height()), text, 0x2040FF, 60);
     EXPECT_FALSE(before == twin.bits());
     EXPECT_TRUE(sameBits(twin.bits(), image->bits()));

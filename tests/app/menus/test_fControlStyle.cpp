@@ -1,4 +1,4 @@
-// What must be told apart on a dark ground, looked at pixel by pixel.
+// What must be distinguishable on a dark background, checked pixel by pixel.
 #include "app/menus/fControlStyle.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ struct ControlStyle : ::testing::Test {
         style.setBaseStyle(QStyleFactory::create("fusion"));
         style.polish(dark);
     }
-    /// The largest distance in lightness from the ground, of what draw leaves on it.
+    /// The largest difference in lightness from the background in what draw paints.
     int contrast(const std::function<void(QPainter&)>& draw) const
     {
         QImage image(40, 24, QImage::Format_ARGB32_Premultiplied);

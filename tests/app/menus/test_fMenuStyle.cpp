@@ -1,4 +1,4 @@
-// The look of the menus, measured and looked at pixel by pixel.
+// The look of the menus, measured and checked pixel by pixel.
 #include "app/menus/fMenuStyle.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ struct MenuStyleTest : ::testing::Test {
         menu.sizeHint();
         return menu.actionGeometry(item);
     }
-    /// What an item of 140 by 20 shows at these places: Window, Highlight, Light, Dark, or the picture.
+    /// The colours of an item of 140 by 20 at these positions: Window, Highlight, Light, Dark, or the picture.
     std::string painted(const QIcon& icon, bool selected, QStyleOptionMenuItem::MenuItemType type,
                         std::initializer_list<QPoint> places)
     {
@@ -54,7 +54,7 @@ struct MenuStyleTest : ::testing::Test {
 
 } // namespace
 
-// The name of a file, in a label or as a hint, is no page that names pictures to load.
+// A file name in a label or tool tip is not interpreted as HTML that loads pictures.
 TEST_F(MenuStyleTest, TextsAreShownAsTheyAre)
 {
     const QString name = "<img src='picture.gif'>";

@@ -1,5 +1,4 @@
-// Ends that the user didn't choose: the signals run the ordinary close, and a question that nobody answers has its
-// time.
+// Ends that the user didn't choose: the signals run the ordinary close, and an unanswered question has a time limit.
 #include "app/frame/frameTest.h"
 #include "app/start/SessionEnd.h"
 #include <QtTest>
@@ -65,7 +64,7 @@ TEST_F(SessionEndTest, WhileTheQuestionStandsNothingAsksASecondTime)
     EXPECT_EQ(questions(), 1);
     EXPECT_TRUE(frame->isVisible());
 
-    // The question about one document alone is answered first; then the frame goes.
+    // The question about one document alone is answered first; then the frame closes.
     const DocumentHandle other = frame->adopt(randomBits(8, 8, 2), "Other.bmp");
     platform.onAsk = [&] { send(SIGTERM); };
     platform.answers = {"no", "no"};

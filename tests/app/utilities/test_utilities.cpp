@@ -1,4 +1,4 @@
-// Clips, capture, wallpaper and scanner as commands of the frame, on a desktop that writes down what it is asked for.
+// Clips, capture, wallpaper and scanner as commands of the frame, with a desktop that records what it is asked.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/utilities/Capture.h"
@@ -26,7 +26,7 @@ struct UtilitiesTest : FrameTest {
                                      {{QGuiApplication::primaryScreen()->geometry(), {0, 0, 40, 30}}}};
         platform.screen().picture.bits.at(7, 5) = {{9, 9, 9, 0}};
     }
-    /// A control of a window that is still to come.
+    /// A control of a window that doesn't exist yet.
     template <class T> T* awaited(const char* window, const char* name)
     {
         EXPECT_TRUE(comes([&] { return control<T>(window, name) != nullptr; })) << window;
@@ -66,7 +66,7 @@ TEST_F(UtilitiesTest, CutBlackensTheSelectionInOneStepAndPublishesThePart)
     command("CUT");
     EXPECT_EQ(image->document().undo.UndoStep(), 2);
     EXPECT_EQ(image->bits().at(5, 5), (Pixel{{0, 0, 0, 0}}));
-    EXPECT_EQ(image->bits().at(2, 2).c[0], 1); // the corner of the box is not selected
+    EXPECT_EQ(image->bits().at(2, 2).c[0], 1); // the corner of the bounding box is not selected
     EXPECT_TRUE(platform.logged("clipboard: part"));
     EXPECT_EQ(platform.recordingClipboard.bits.width(), image->document().Region.Region().bounds().width());
     EXPECT_EQ(platform.recordingClipboard.bits.at(0, 0).c[3], 255);
@@ -105,11 +105,11 @@ TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
     EXPECT_FALSE(frame->toolStores().pastePending) << "there is nothing to paste";
     EXPECT_EQ(frame->status().currentMessage(), "PASTE: nothing was cut or copied");
     EXPECT_EQ(setup.CurrentTool, "Pencil");
-    platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // of another program
+    platform.recordingClipboard.bits = flatBits(6, 6, 200, 100, 50); // from another program
     command("PASTE");
     ASSERT_TRUE(frame->toolStores().pastePending);
     EXPECT_FALSE(sameBits(flatBits(40, 30, 10, 10, 10), image->bits())) << "it is seen at once";
-    command("COPYIMAGETOCLIPBOARD"); // a command sees the picture without it
+    command("COPYIMAGETOCLIPBOARD"); // a command works without the pending paste
     EXPECT_TRUE(sameBits(flatBits(40, 30, 10, 10, 10), platform.recordingClipboard.bits));
 
     command("PASTE");
@@ -136,7 +136,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     setup.AskToSave = false;
     image->parentWidget()->close();
 
-    platform.screen().canShowDesktop = false; // then the program at least goes
+    platform.screen().canShowDesktop = false; // then at least the program is hidden
     command("CAPTUREDESKTOP");
     waitForDocument()->parentWidget()->close();
     EXPECT_FALSE(shownAtTheGrab);
@@ -146,7 +146,7 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
 TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
 {
     platform.screen().picture.reason = "no portal";
-    command("CAPTUREBACKGROUND"); // there is no picture of the screen
+    command("CAPTUREBACKGROUND"); // the screen can't be captured
     EXPECT_FALSE(frame->isVisible());
     fImage* image = waitForDocument();
     EXPECT_TRUE(frame->isVisible());
@@ -154,7 +154,7 @@ TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)
     EXPECT_FALSE(image->PictureExists());
     EXPECT_FALSE(QFile::exists(path("New.bmp")));
 
-    platform.screen().silent = true; // nor does a desktop ever answer
+    platform.screen().silent = true; // nor does the desktop ever answer
     frame->capture().setPatience(50);
     command("CAPTUREBACKGROUND");
     QTest::keyClick(awaited<QPushButton>("fWaiting", "cmdCancel")->window(), Qt::Key_Escape);
@@ -212,7 +212,7 @@ TEST_F(UtilitiesTest, IconsAreCutOutOfACapture)
     picC->findChild<QAction*>("tb_1_4")->trigger();
     EXPECT_FALSE(picC->findChild<QAction*>("tb_1_4")->isEnabled());
     EXPECT_TRUE(picC->findChild<QAction*>("tb_1_2")->isEnabled());
-    drag({399, 299}, {399, 299}); // no further than the picture
+    drag({399, 299}, {399, 299}); // limited to the picture
     take();
     EXPECT_EQ(control<QLabel>("picC", "lblcount")->text(), "3");
     control<QAbstractButton>("picC", "tb_5")->click();
@@ -232,7 +232,7 @@ TEST_F(UtilitiesTest, TheIconExtractorComesBackWithoutAPictureOfTheScreen)
 {
     frame->action("TOOLS_8")->trigger();
     control<QComboBox>("fIcon", "cboIcon")->setCurrentIndex(2);
-    control<QPushButton>("fIcon", "CmdGo")->click(); // there is no picture of the screen
+    control<QPushButton>("fIcon", "CmdGo")->click(); // the screen can't be captured
     EXPECT_FALSE(control<QPushButton>("fIcon", "CmdGo"));
     awaited<QPushButton>("fIcon", "CmdGo");
     EXPECT_TRUE(frame->isVisible());
@@ -295,7 +295,7 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
 TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
 {
     const char* told = "message: Velara Studio: Please Verify that the system is connected to Scanner!";
-    command("ACQUIRETWAIN"); // there is none
+    command("ACQUIRETWAIN"); // there is no scanner
     EXPECT_EQ(last(), told);
     EXPECT_EQ(platform.lastIcon, Icon::Critical);
     QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);

@@ -75,7 +75,7 @@ TEST_F(UndoStoreTest, StepsBackAndForward)
     expectCounters(1, 3);
     expectRedo(picture(1));
     expectCounters(2, 3);
-    saveMany(7, 1); // an edit here cuts what could be redone
+    saveMany(7, 1); // an edit here drops the redo steps
     expectCounters(3, 3);
     EXPECT_FALSE(store.redo());
     expectUndo(picture(1));
@@ -91,7 +91,7 @@ TEST_F(UndoStoreTest, TenSnapshotsStand)
     expectCounters(10, 10);
     ASSERT_EQ(10, files().size());
     EXPECT_EQ("b000309.dat", files().last().toStdString());
-    for (const QString& name : files()) // those of a full series are written over, and still have their own lengths
+    for (const QString& name : files()) // files of a full series are overwritten, and still have their own lengths
         EXPECT_TRUE(QSet<qint64>({40 + 4 * 9 * 8, 40 + 4 * 10 * 8, 40 + 4 * 11 * 8})
                         .contains(QFileInfo(folder.filePath(name)).size()))
             << name.toStdString();
@@ -105,7 +105,7 @@ TEST_F(UndoStoreTest, TenSnapshotsStand)
 TEST_F(UndoStoreTest, AnOlderLongerFileKeepsItsTail)
 {
     const Bits large = randomBits(20, 20, 1), small = randomBits(2, 2, 2);
-    put("b000300.dat", QByteArray(5000, 'x')); // of an earlier run
+    put("b000300.dat", QByteArray(5000, 'x')); // from an earlier run
     ASSERT_TRUE(save(small));
     EXPECT_EQ(5000, content("b000300.dat").size());
     ASSERT_TRUE(save(large));
@@ -169,7 +169,7 @@ TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
     std::string told;
     store.onFailure([&](const QString& reason) { told = reason.toStdString(); });
     saveMany(0, 3);
-    ASSERT_TRUE(store.undo()); // the edit cuts what could be redone, written or not
+    ASSERT_TRUE(store.undo()); // the edit drops the redo steps, written or not
     const Bits first = randomBits(40, 40, 9), second = randomBits(40, 40, 10);
     {
         const FullDisk full(500);
@@ -180,7 +180,7 @@ TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
         EXPECT_TRUE(sameBits(picture(1), store.previous().value_or(Bits())));
         expectUndo(picture(1));
         expectRedo(first);
-        saveMany(3, 1); // what fits on the disk goes there, over one that doesn't
+        saveMany(3, 1); // a snapshot that fits is written to disk, above one that doesn't
         EXPECT_FALSE(save(second));
         expectUndo(picture(3));
         expectUndo(first);
@@ -188,7 +188,7 @@ TEST_F(UndoStoreTest, AStepThatCannotBeWrittenStaysInMemory)
         for (const Bits& bits : {first, picture(3), second}) expectRedo(bits);
         EXPECT_EQ("", told) << "each step can be undone";
     }
-    saveMany(4, 1); // there is room again, for those in memory too
+    saveMany(4, 1); // there is room again, also for those in memory
     EXPECT_EQ(6, files().size());
     expectUndo(second);
     EXPECT_TRUE(store.mayHaveChanged());
@@ -210,7 +210,7 @@ TEST_F(UndoStoreTest, WhatMemoryCannotKeepEitherIsToldAndPassedOver)
     }
     expectCounters(5, 5);
     const FreeMemory one(std::int64_t(last.sizeInBytes()));
-    EXPECT_FALSE(save(large)); // the oldest two go
+    EXPECT_FALSE(save(large)); // the oldest two are dropped
     EXPECT_TRUE(told.empty()) << "what was shown before stays";
     expectUndo(last);
     expectUndo(picture(1), true);
@@ -281,7 +281,7 @@ TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
 {
     int number = 3;
     const auto next = [&] { return number++; };
-    UndoStore second(folder.path(), next); // a lock is the open file's, so another store is as good as another program
+    UndoStore second(folder.path(), next); // the lock is the open file's: this acts like another program
     EXPECT_EQ(4, second.number());
     saveMany(0, 2);
     second.save(picture(5));
@@ -296,7 +296,7 @@ TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
     EXPECT_EQ(QStringList({QStringLiteral("b000300.dat"), QStringLiteral("b000301.dat")}), files());
     expectUndo(picture(0));
 
-    QFile::remove(path("b0003.lock")); // swept away: another program can have the number now, and then it is not ours
+    QFile::remove(path("b0003.lock")); // removed: another program can take the number now, and then it is not ours
     UndoStore heir(folder.path(), 3);
     store.save(picture(8));
     EXPECT_FALSE(store.stands());

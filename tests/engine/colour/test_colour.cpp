@@ -1,4 +1,5 @@
-// The colour filters by worked examples, their measurements and faults, reports, hue and the nearest palette colour.
+// The colour filters by worked examples, their measurements and faults, progress reports, hue and the nearest palette
+// colour.
 #include "engine/colour/mPalette.h"
 #include "pixels/mHSLRGB.h"
 #include "support/faults.h"
@@ -15,20 +16,20 @@ Bits row(std::initializer_list<Pixel> pixels)
     return bits;
 }
 
-/// By hand, so that the definitions are held too; and what random pictures don't come to: the very colour that is
-/// looked for and one beside it, blends on a tie or at the edge of their reach.
+/// Computed by hand, so that the definitions are checked, too; and cases that random pictures miss: exactly the
+/// reference colour and one beside it, blends on a tie or at the limit of the tolerance.
 TEST(ColourFilters, WorkedExamples)
 {
     constexpr Colour kWhite = 0xFFFFFF, kReference = colourOf(30, 20, 10), kGrey = 0x646464, kBlue = 0xEC6464;
     const struct {
         const char* operation;
         Arguments arguments;
-        Pixel before, after; // of a picture of this one colour: blue, green, red, fourth
+        Pixel before, after; // of a picture of this single colour: blue, green, red, fourth
     } rows[] = {
         {"BRIGHTNESS", {-15}, {{10, 20, 250, 9}}, {{0, 5, 235, 9}}},
         {"CONTRAST", {0}, {{7, 99, 201, 9}}, {{7, 99, 201, 9}}},
         {"CONTRAST", {100}, {{10, 20, 30, 9}}, {{0, 20, 40, 9}}},
-        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}}, // blue is 60 too low: both others give 30
+        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}}, // blue is 60 too low: both others lose 30
         {"CONTRAST", {250}, {{255, 0, 0, 9}}, {{255, 0, 0, 9}}},
         {"SATURATION", {-100}, {{10, 20, 31, 9}}, {{20, 20, 20, 9}}},
         {"SATURATION", {100}, {{10, 20, 31, 9}}, {{0, 20, 42, 9}}},
@@ -64,7 +65,7 @@ TEST(ColourFilters, WorkedExamples)
         {"SwapBanks", {5}, {{10, 20, 30, 9}}, {{10, 30, 20, 9}}},
         {"SwapBanks", {6}, {{10, 20, 30, 9}}, {{10, 20, 30, 9}}},
         {"ClassyColors", {7}, {{10, 20, 30, 9}}, {{17, 27, 7, 9}}},
-        {"ClassyColors", {7}, {{0, 255, 0, 9}}, {{0, 1, 1, 9}}}, // 256 wraps
+        {"ClassyColors", {7}, {{0, 255, 0, 9}}, {{0, 1, 1, 9}}}, // 256 wraps around
         {"ClassyColors", {11}, {{10, 20, 30, 9}}, {{20, 10, 170, 9}}},
         {"Equalize", {}, {{64, 64, 64, 9}}, {{129, 129, 129, 9}}}, // the median is one less than the only grey
     };
@@ -119,7 +120,7 @@ TEST(Hsl, HuesRunFromMinusOneToFive)
     EXPECT_EQ(HueFromScale(201), -39);
 }
 
-/// Every colour once, through the vector kernel and, in an order that suits no vector, through the conversions.
+/// Every colour once, through the vector kernel and, in an order that suits no vector, through the scalar conversions.
 TEST(Hsl, EveryColourComesBackFromAHueRotationByNothing)
 {
     Bits all(4096, 4096);
@@ -158,7 +159,7 @@ TEST(Progress, IsReportedEveryTenMillisecondsByPictureRow)
     now += 5;
     filter.setBitsRegion({});
     filter.Invert();
-    EXPECT_EQ(percents, std::vector<int>{100}); // nothing selected: the end is told all the same
+    EXPECT_EQ(percents, std::vector<int>{100}); // nothing selected: 100 is reported anyway
 }
 
 TEST(Progress, CancellingLeavesThePicture)

@@ -1,4 +1,4 @@
-// Deformations and generators: what changes nothing, faults, reports, odd cases.
+// Deformations and generators: arguments that change nothing, faults, progress reports, odd cases.
 #include "support/faults.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"

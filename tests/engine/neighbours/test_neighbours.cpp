@@ -1,4 +1,4 @@
-// Neighbourhood filters: values worked out by hand, masks that can't be read, the division.
+// Neighbourhood filters: values computed by hand, masks that can't be parsed, the division.
 #include "engine/ShortDivider.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
@@ -37,7 +37,7 @@ TEST(Neighbours, TheCentreOfNineValues)
         {"CONTOUR", {0, 0x010203}, {{1, 2, 3, 7}}},
         {"EMBOSS", {10}, {{17, 17, 17, 7}}}, // abs(55 - 200 + 128)
         {"ENGRAVE", {10}, {{255, 255, 255, 7}}},
-        {"EMBOSS", {5}, {{56, 56, 56, 7}}}, // 55.5: to the even neighbour
+        {"EMBOSS", {5}, {{56, 56, 56, 7}}}, // 55.5: half to even
         {"EMBOSS", {0}, {{128, 128, 128, 7}}},
         {"MaskFilter", {cross, 8.0, 1, 2, 3, false}, {{55, 54, 53, 7}}},
         {"MaskFilter", {above, 1.0, 0, 0, 0, false}, {{20, 20, 20, 7}}},

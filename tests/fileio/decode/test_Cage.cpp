@@ -1,4 +1,4 @@
-// What the cage costs each picture, and what the system says of a process in it. What it refuses is tried in
+// The cost of the cage per picture, and the kernel's view of a process inside it. What it refuses is tested in
 // fileio/load/test_cage.cpp.
 #include "fileio/decode/cage/Cage.h"
 #include <algorithm>
@@ -28,7 +28,7 @@ constexpr double kMost = 2; // ms
 
 double costOf(Needs needs, volatile double& shared)
 {
-    double least = 1e9; // what other programs of the machine add is not the cage's
+    double least = 1e9; // the minimum excludes what other programs add
     for (int i = 0; i < 25 || (i < 400 && least >= kMost); ++i) {
         const pid_t inside = fork();
         if (inside == 0) {
@@ -57,7 +57,7 @@ TEST(CageCost, EnteringItTakesLessThanTwoMilliseconds)
     }
 }
 
-#ifndef __SANITIZE_ADDRESS__ // limits and filter are open there
+#ifndef __SANITIZE_ADDRESS__ // limits and filter are off there
 
 TEST(Cage, TheSystemSaysThatItIsClosed)
 {

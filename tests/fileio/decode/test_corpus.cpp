@@ -9,7 +9,7 @@ namespace {
 
 struct Sample {
     const char* path;
-    int width, height; // 0 by 0: it is refused
+    int width, height; // 0 by 0: refused
     bool cutOff = false;
 };
 
@@ -28,7 +28,7 @@ constexpr Sample kSamples[] = {
     {"koa/blocks.koa", 320, 200},
     {"lbm/serenity.lbm", 640, 480},
     {"malformed/bomb.gif", 0, 0}, {"malformed/negative_size.ppm", 0, 0}, {"malformed/reallybig.bmp", 0, 0},
-    {"malformed/jpg_exif.jpg", 320, 240, true}, // damaged metadata, which no longer crashes, and cut off
+    {"malformed/jpg_exif.jpg", 320, 240, true}, // damaged metadata that must not crash, and truncated
     {"mng/input.mng", 48, 48},
     {"pbm/hopper_1bit.pbm", 128, 128}, {"pbm/hopper_1bit_plain.pbm", 128, 128},
     {"pcd/hopper.pcd", 768, 512},
@@ -75,7 +75,7 @@ TEST(Corpus, EveryFileHasItsSizeOrAReason)
     }
 }
 
-// The same portrait in formats that lose nothing: what a reader or a mend gets wrong differs from the others.
+// The same portrait in lossless formats: errors of a reader or a mend show as differences.
 TEST(Corpus, LosslessCopiesOfAPictureAreEqual)
 {
     if (!haveSamples()) GTEST_SKIP();

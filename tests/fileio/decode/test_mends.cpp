@@ -1,4 +1,4 @@
-// Valid files that the readers refuse or die of unless they are mended first, built here byte by byte.
+// Valid files that the readers refuse or crash on unless they are mended first, built here byte by byte.
 #include "fileio/decode/decode.h"
 #include "fileio/decode/mends.h"
 #include "support/files.h"
@@ -28,7 +28,7 @@ Decoded decodeBytes(const std::string& contents, const QString& extension)
     return decodePicture(FileBytes(std::vector<std::uint8_t>(contents.begin(), contents.end())), extension);
 }
 
-/// What the library writes of a picture that fill has painted.
+/// The file that the library writes for a picture painted by fill.
 std::string written(FREE_IMAGE_FORMAT format, FREE_IMAGE_TYPE type, int width, int height, int bits,
                     const std::function<void(FIBITMAP*)>& fill)
 {
@@ -45,7 +45,7 @@ std::string written(FREE_IMAGE_FORMAT format, FREE_IMAGE_TYPE type, int width, i
 
 using Colours = std::vector<std::uint32_t>; // 0xRRGGBB
 
-/// Those of all pixels, row by row; empty when there is no picture.
+/// The colours of all pixels, row by row; empty when there is no picture.
 Colours coloursOf(const Decoded& picture)
 {
     Colours colours;
@@ -65,7 +65,8 @@ Colours coloursIn(const std::string& contents, const QString& extension)
     return coloursOf(decodeBytes(contents, extension));
 }
 
-/// A bitmap with a header of so many bytes; masks (for compression 3) and what else a long header has are in it.
+/// A bitmap with a header of the given size; masks (for compression 3) and the other fields of a long header are part
+/// of it.
 std::string bmp(std::uint32_t header, int width, int height, std::uint32_t bits, const std::string& palette,
                 const std::string& pixels, std::uint32_t compression = 0, const std::string& masks = {},
                 std::uint32_t coloursUsed = 0)
@@ -86,7 +87,7 @@ const std::string kPalette("\x10\x20\x30\0\x40\x50\x60\0\x70\x80\x90\0\xa0\xb0\x
 
 TEST(Mends, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
 {
-    // two by two, the lowest row first: the mask takes the right pixel above and the left one below
+    // two by two, bottom row first: the mask removes the right pixel above and the left one below
     const std::string mask = std::string("\x80\0\0\0\x40\0\0\0", 8);
     const Colours masked = {0x405060, 0xFFFFFF, 0xFFFFFF, 0x102030};
     const struct {
@@ -96,7 +97,7 @@ TEST(Mends, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
     } rows[] = {
         {24, "", std::string("\0\0\0\x30\x20\x10\0\0\x60\x50\x40\0\0\0\0\0", 16), masked},
         {8, std::string("\0\0\0\0\x30\x20\x10\0\x60\x50\x40\0", 12), std::string("\0\1\0\0\2\0\0\0", 8), masked},
-        // pixels that say themselves how much of them shows: the mask is for readers that don't know of it
+        // pixels with alpha of their own: the mask is for readers that ignore it
         {32, "", "\1\1\1\xff\2\2\2\xff\3\3\3\xff\4\4\4\xff", {0x030303, 0x040404, 0x010101, 0x020202}}};
     for (const auto& r : rows)
         for (const char* extension : {"ico", "cur"}) {
@@ -129,7 +130,7 @@ TEST(Mends, BitmapsOfEveryHeader)
             (Colours{0x030201}))
             << header;
     }
-    // With and without the file header under the extension of the one without; .jng goes to the reader of .bmp.
+    // With and without the file header, under the extension of the one without; .jng goes to the reader of .bmp.
     EXPECT_EQ(coloursIn(bmp(40, 2, 2, 24, "", true24), "dib"), wanted24);
     EXPECT_EQ(coloursIn(bmp(40, 2, 2, 24, "", true24).substr(14), "dib"), wanted24);
     EXPECT_EQ(coloursIn(bmp(124, 2, 2, 24, "", true24), "jng"), wanted24);
@@ -176,7 +177,7 @@ TEST(Mends, FloatingPointTiff)
     EXPECT_EQ(coloursIn(tiff, "tif"), (Colours{0x80ff00, 0x0000ff}));
 }
 
-// Metadata is made into segments that nobody parses; what the colours need and what follows the scan stays.
+// Metadata becomes segments that nobody parses; what the colours need and what follows the scan is kept.
 TEST(Mends, JpegMetadata)
 {
     const auto segment = [](int marker, const std::string& body) {
@@ -234,7 +235,7 @@ TEST(Mends, TrueColourPcx)
         header.resize(128);
         return header + data;
     };
-    EXPECT_EQ(coloursIn(pcx(2, 2, "\xcc\7"), "pcx"), Colours(4, 0x070707)); // one run through both rows
+    EXPECT_EQ(coloursIn(pcx(2, 2, "\xcc\7"), "pcx"), Colours(4, 0x070707)); // one run across both rows
     EXPECT_EQ(coloursIn(pcx(1, 1, "\1\1\2\2\3\3"), "pcx"), Colours{0x010203});
     EXPECT_EQ(coloursIn(pcx(2, 1, "\1\2\3\4\5\6"), "pcx"), (Colours{0x010305, 0x020406}));
     EXPECT_EQ(coloursIn(pcx(1, 2, "\1\1\2\2\3\3\4\4\5\5\6\6"), "pcx"), (Colours{0x010203, 0x040506}));
@@ -253,13 +254,13 @@ TEST(Mends, IffWithoutABodyEnds)
                   chunk == "BODY");
 }
 
-// Most readers fill up with black and say nothing.
+// Most readers fill with black and report nothing.
 TEST(CutOff, IsToldInEveryFormatThatTells)
 {
     const struct {
         FREE_IMAGE_FORMAT format;
         const char* extension;
-        bool shown; // what is there
+        bool shown; // the available part
     } kFormats[] = {{FIF_BMP, "bmp", true},    {FIF_JPEG, "jpg", true},  {FIF_PNG, "png", false},
                     {FIF_PPMRAW, "ppm", true}, {FIF_TARGA, "tga", true}, {FIF_TIFF, "tif", false},
                     {FIF_WBMP, "wbmp", false}};
@@ -293,7 +294,7 @@ TEST(CutOff, IsToldWhereQtReads)
                                         "\2\2\x44\x0a\0;",
                                         43);
     EXPECT_EQ(coloursIn(gif, "gif"), (Colours{0x616263, 0x646566}));
-    EXPECT_EQ(coloursIn(gif.substr(0, 42), "gif").size(), 2U); // without the mark of the end
+    EXPECT_EQ(coloursIn(gif.substr(0, 42), "gif").size(), 2U); // without the end marker
     EXPECT_EQ(decodeBytes(gif.substr(0, 41), "gif").reason, "it is cut off: its end is missing");
     const std::string dib = bmp(40, 2, 2, 8, kPalette, std::string("\1\0\0\0\2\3\0\0", 8), 0, "", 4);
     EXPECT_EQ(coloursIn(dib.substr(14), "dib"), (Colours{0x908070, 0xc0b0a0, 0x605040, 0x302010}));

@@ -1,4 +1,4 @@
-// Reading pictures through the child: what it says about bad files, and what becomes of children that misbehave.
+// Reading pictures through the child: the reasons for bad files, and the handling of misbehaving children.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/writers/GifWriter.h"
 #include "support/files.h"
@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 const QString kDecoder = builtPath("velara-decode");
 
 struct PictureLoader : FolderTest {
-    /// A program in the helper's place that runs the script.
+    /// A program that runs the script in place of the helper.
     QString fakeDecoder(const QByteArray& script) const
     {
         const QString fake = put("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
@@ -41,7 +41,7 @@ const QByteArray kPicture = "P6\n3 2\n255\n"
 
 } // namespace
 
-// More rows than all slots together hold, of a width that leaves a rest in each slot.
+// More rows than all slots together hold, of a width that leaves a remainder in each slot.
 TEST_F(PictureLoader, HandsOverMoreThanTheSharedMemoryHolds)
 {
     constexpr int kWidth = 1237, kHeight = 2003;
@@ -124,9 +124,9 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         {"opening(9, 9999); [s.send(struct.pack('<i', 0)) for _ in range(99)]" + rest, "false answer"},
         {"opening(10, 10); os.ftruncate(4, 0)" + rest, "gave up"}, // the seal makes it an error
         {"opening(10, 10)" + rest, "too long"},
-#ifndef __SANITIZE_ADDRESS__ // whose reports go to files
+#ifndef __SANITIZE_ADDRESS__ // its reports go to files
         {"try: os.write(os.open(sys.argv[0], os.O_WRONLY), b'x')\nexcept OSError: opening(0, 0, b'full')",
-         "full"}, // no byte goes into a file
+         "full"}, // writing a byte to a file fails
 #endif
         {"opening(10, 10); sys.exit(0)", "gave up"},
     };
@@ -145,7 +145,7 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
     }
 }
 
-// A child that does nothing is at its end after two seconds, and at once when the person gives up.
+// A child that does nothing is killed after two seconds, and at once when the user cancels.
 TEST_F(PictureLoader, WaitsNoLongerThanAPersonWould)
 {
     const QString file = put("x.ppm", kPicture);
@@ -160,7 +160,7 @@ TEST_F(PictureLoader, WaitsNoLongerThanAPersonWould)
     EXPECT_EQ(asked, 2);
 }
 
-// Its answers come every few milliseconds: the limits and the person's patience go by the clock all the same.
+// Its messages arrive every few milliseconds: time limits and cancelling must work nevertheless.
 TEST_F(PictureLoader, LooksUpFromRowsThatKeepComing)
 {
     const QString file = put("x.ppm", QByteArray(100000, 'x')), child = fakeDecoder(R"(
@@ -176,7 +176,7 @@ for y in range(0, 8000, 2):
     EXPECT_TRUE(loadSmall(file, "ppm", child, {9, 9}, {}, patience).reason.contains("given up"));
 }
 
-// What is packed as tightly as its format allows has all the bytes that it needs.
+// A file packed as tightly as its format permits has all the bytes it needs.
 TEST_F(PictureLoader, ReadsPicturesOfOneColourHoweverSmall)
 {
     constexpr int kSide = 8000;
@@ -193,13 +193,13 @@ TEST_F(PictureLoader, ReadsPicturesOfOneColourHoweverSmall)
     put("flat.tif", QByteArray::fromHex("4d4d 002a 00000008 0008") + field(256, kSide) + field(257, kSide) +
                         field(258, 1) + field(259, 4) + field(262, 0) + field(273, 110) + field(278, kSide) +
                         field(279, kSide / 8) + QByteArray(4, '\0') +
-                        QByteArray(kSide / 8, '\xff')); // a line that is as the one above takes a bit
+                        QByteArray(kSide / 8, '\xff')); // a line equal to the one above takes a bit
     for (const char* extension : {"png", "gif", "tif"}) {
         const SmallPicture small = loadSmall(path(QString("flat.") + extension), extension, kDecoder, {9, 9});
         EXPECT_EQ(small.size, QSize(kSide, kSide)) << extension << small.reason.toStdString();
         EXPECT_EQ(small.reason, "");
     }
-    // What has lost most of its bytes shows the rest.
+    // A file that has lost most of its bytes shows the rest.
     const QString cut = put("cut.ppm", "P6\n100 100\n255\n" + QByteArray(100, 'c'));
     EXPECT_TRUE(loadThroughDecoder(cut, "ppm", kDecoder).reason.contains("cut off"));
 }
@@ -230,13 +230,13 @@ TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", fakeDecoder(drawing), alert).reason.contains("done"))
         << "its other thread works";
 
-#ifndef __SANITIZE_ADDRESS__ // it goes without this limit
+#ifndef __SANITIZE_ADDRESS__ // it runs without this limit
     DecoderLimits tight;     // the program itself starts within it
     tight.memory = 400 << 20;
     const QString big = put("big.ppm", "P6\n16000 16000\n255\n" + QByteArray(1 << 20, 'x'));
     const QString reason = loadThroughDecoder(big, "ppm", kDecoder, tight).reason;
     EXPECT_FALSE(reason.isEmpty());
-    EXPECT_FALSE(reason.contains("cut off")) << reason.toStdString(); // it didn't come as far as the missing pixels
+    EXPECT_FALSE(reason.contains("cut off")) << reason.toStdString(); // it failed before the missing pixels
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", kDecoder, tight).ok());
 #endif
 }

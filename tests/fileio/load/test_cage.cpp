@@ -1,6 +1,6 @@
-// A picture that takes its reader over: each thing that it could do to the user is tried from inside the cage, by a
-// build of velara-decode whose reader does what the file says; as whoever runs the tests and, for root, as an ordinary
-// user.
+// A picture that takes over its reader: everything that it could do to the user is tried from inside the cage, by a
+// build of velara-decode whose reader does what the file says; as the user who runs the tests and, if that is root, as
+// an ordinary user.
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/load/PictureLoader.h"
 #include "support/childProcess.h"
@@ -24,7 +24,7 @@ struct Cage : FolderTest {
         putFile(victim, "precious");
         chmod(QFile::encodeName(victim).constData(), 0666);
     }
-    /// What the payload says of an attempt from inside the cage that the extension names.
+    /// The payload's report of an attempt inside the cage selected by the extension.
     QString attempt(const char* name, const QString& on, const char* cage)
     {
         return loadThroughDecoder(put("attempt", QByteArray(name) + '\n' + on.toUtf8()), cage, payload).reason;
@@ -44,7 +44,7 @@ struct Cage : FolderTest {
         return fileBytes(victim) == "precious" && target == 't' && !QFile::exists(victim + ".new") &&
                !QFile::exists(victim + ".link") && !QFile::exists(path("outlived"));
     }
-    /// Runs the body in a process of an ordinary user too, when this one is root's; it fails by its exit code.
+    /// Runs the body in a process of an ordinary user, too, if this one is root's; its exit status reports failures.
     template <class Body> void asEveryUser(Body body)
     {
         body();
@@ -66,7 +66,7 @@ constexpr const char* kAttempts[] = {"read",  "create",  "write",   "truncate", 
 
 } // namespace
 
-#ifndef __SANITIZE_ADDRESS__ // the filter of system calls is open there
+#ifndef __SANITIZE_ADDRESS__ // the filter of system calls is off there
 
 TEST_F(Cage, RefusesEverythingThatAPictureNeverNeeds)
 {
@@ -75,7 +75,7 @@ TEST_F(Cage, RefusesEverythingThatAPictureNeverNeeds)
         for (const char* name : kAttempts)
             EXPECT_TRUE(answerTo(name, "plain").endsWith("wanted what no picture needs"))
                 << name << ": " << answerTo(name, "plain").toStdString();
-        for (const char* name : kAttempts) // reading fonts is a little wider: some of it comes back as an error
+        for (const char* name : kAttempts) // the cage for fonts is a little wider: some calls return an error instead
             EXPECT_FALSE(answerTo(name, "fonts").endsWith("it worked")) << name;
         for (const char* name : {"list", "outlive", "connect", "direct", "thread", "requeue", "advice", "code"})
             EXPECT_TRUE(answerTo(name, "fonts").endsWith("no picture needs") || std::string_view(name) == "list")
@@ -94,7 +94,7 @@ TEST_F(Cage, RefusesEverythingThatAPictureNeverNeeds)
 
 #endif
 
-// The layers hold one by one: without the filter the kernel's own rules for paths, ports and processes are left.
+// The layers work one by one: without the filter the kernel's own rules for paths, ports and processes remain.
 TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
 {
     QProcess cage;
@@ -111,7 +111,7 @@ TEST_F(Cage, HoldsWithoutTheFilterOfSystemCalls)
     });
 }
 
-// A layer that the kernel has and doesn't close: nothing is read. A kernel without Landlock reads.
+// If a layer that the kernel supports can't be activated, nothing is read. A kernel without Landlock reads.
 TEST(CageOfTheReader, ReadsNothingWhenALayerStaysOpen)
 {
     const QTemporaryDir folder;

@@ -1,4 +1,4 @@
-// Pictures scaled down as they come in.
+// Pictures scaled down while they are read.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/load/Shrinker.h"
 #include "support/files.h"
@@ -32,7 +32,7 @@ TEST(Shrinker, FitsTheBoxAndKeepsTheShape)
             << row.picture.width() << 'x' << row.picture.height();
 }
 
-// Blocks are averaged in each channel, the ones cut off at the edges too.
+// Blocks are averaged in each channel, including incomplete ones at the edges.
 TEST(Shrinker, EachPixelIsTheMeanOfItsBlock)
 {
     const Bits bits = drawnBits(6, 4, [](int x, int y) {

@@ -1,4 +1,4 @@
-// The cache of thumbnails that the programs of a desktop share.
+// The desktop's shared thumbnail cache.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
 #include "support/files.h"
@@ -35,7 +35,7 @@ TEST_F(SharedThumbnails, NamesAreThoseOfTheDesktop)
     EXPECT_EQ(fileUri("/a b/ä(1)[2]#;%'~.png"), "file:///a%20b/%C3%A4(1)%5B2%5D%23%3B%25'~.png");
 }
 
-// What is written is what the child reads back, with what it says of its picture.
+// Entries written here are read back by the child, including their origin.
 TEST_F(SharedThumbnails, AnEntryHoldsUntilThePictureChanges)
 {
     EXPECT_EQ(SharedThumbnail(picture).entries(), QStringList());

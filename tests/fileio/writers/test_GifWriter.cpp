@@ -42,7 +42,7 @@ TEST_F(GifWriter, WritesEveryPaletteSizePlainAndInterlaced)
 
 TEST(IndexedPicture, KeepsFewColoursAndLimitsMany)
 {
-    const Bits few = drawnBits(3, 1, [](int x, int) { // the fourth byte is no colour
+    const Bits few = drawnBits(3, 1, [](int x, int) { // the fourth byte is not a colour
         return x == 1 ? Pixel{{6, 5, 4, 8}} : Pixel{{3, 2, 1, std::uint8_t(9 - x)}};
     });
     const IndexedPicture kept = reduceToBestColours(few, 2);

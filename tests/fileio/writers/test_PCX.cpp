@@ -57,14 +57,14 @@ TEST(PCX, LaysTheFileOut)
                           33, 34, 35, 0, 23, 24, 25, 0, 13, 14, 15, 0};
     EXPECT_EQ(written(bits, false), header(0, 3, 2, 4) + planes);
     EXPECT_EQ(written(bits, true), header(1, 3, 2, 4) + planes);
-    // One byte of padding in a row of 24-bit pixels: it and the next row's start stand in the place of one more pixel.
+    // One byte of padding in a row of 24-bit pixels: it and the start of the next row form one more pixel.
     const Bytes column = {6, 5, 5, 200, 200, 0, 6, 0, 5, 0, 200, 0};
     EXPECT_EQ(written(flatBits(1, 2, 200, 5, 6, 9), false), header(0, 1, 2, 2) + column);
-    const Bytes oneRun = {0xe4, 9}; // it goes on into the next row and plane
+    const Bytes oneRun = {0xe4, 9}; // it continues into the next row and plane
     EXPECT_EQ(written(flatBits(4, 3, 9, 9, 9), true), header(1, 4, 3, 4) + oneRun);
 }
 
-// The margin of a picture is nobody's affair, whatever stands in it.
+// The margin of a picture has no effect, whatever it contains.
 TEST(PCX, TakesNothingFromBeyondThePicture)
 {
     for (int width = 1; width < 9; ++width) {

@@ -1,4 +1,4 @@
-// Icons: the bytes of their files, and what readers make of them.
+// Icons: the bytes of their files, and the results of reading them.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/writers/iconFile.h"
 #include "support/files.h"
@@ -14,9 +14,9 @@ using IconFile = FolderTest;
 
 constexpr Colour kMask = colourOf(200, 0, 100);
 constexpr Pixel kWhite{{255, 255, 255, 0}};
-constexpr std::uint8_t kMasked = 9; // the fourth byte of what has the mask's colour
+constexpr std::uint8_t kMasked = 9; // the fourth byte of pixels in the mask's colour
 
-/// Every third pixel has the mask's colour, all others another one each.
+/// Every third pixel has the mask's colour, all others have distinct ones.
 Bits dotted(int width, int height)
 {
     return drawnBits(width, height, [i = -1](int, int) mutable {
@@ -62,7 +62,7 @@ TEST_F(IconFile, ReadersGetBackEveryPixelAndTheMask)
 
 TEST_F(IconFile, WhatIsMaskedGivesNoColourToItsNeighbours)
 {
-    const Bits bits = drawnBits(90, 90, [](int x, int y) { // a square of one colour on the mask's ground
+    const Bits bits = drawnBits(90, 90, [](int x, int y) { // a square of one colour on the mask's colour
         return QRect(20, 20, 50, 50).contains(x, y) ? Pixel{{10, 20, 30, 0}} : Pixel{{100, 0, 200, 0}};
     });
     const QImage icon = iconOf(bits, {32, 16}, kMask);

@@ -1,4 +1,4 @@
-// Tests of one window at a time, whose controls are found by their names and used as a person does.
+// Base of tests of one window at a time, whose controls are found by name and used as a user does.
 #pragma once
 #include "support/ui/controls.h"
 #include <QtTest>
@@ -7,16 +7,16 @@
 namespace velara {
 
 struct WindowTest : ::testing::Test {
-    QPointer<QWidget> used; // the window that the names below are of
+    QPointer<QWidget> used; // the window that the names below refer to
 
     template <class Control = QWidget> Control* find(const QString& name) { return controlOf<Control>(*used, name); }
-    /// What a label, a field, a button or a list shows.
+    /// The text shown by a label, a field, a button or a list.
     QString text(const QString& name)
     {
         const auto* list = used->findChild<QComboBox*>(name);
         return list ? list->currentText() : find(name)->property("text").toString();
     }
-    /// A click where boxes and radio buttons have their mark.
+    /// Clicks on the indicator of a check box or radio button.
     void click(const QString& name)
     {
         auto* control = find(name);

@@ -1,4 +1,4 @@
-// The controls of a window under test, by their names, and a mouse whose buttons are told.
+// The controls of a window under test, by name, and a mouse with explicit buttons.
 #pragma once
 #include <QtTest>
 #include <QtWidgets>
@@ -6,7 +6,7 @@
 
 namespace velara {
 
-/// The control of that name in the window; where there is none the test ends and tells it.
+/// The control of that name in the window; without one the test ends with a message.
 template <class Control = QWidget> Control* controlOf(const QObject& window, const QString& name)
 {
     auto* found = window.findChild<Control*>(name);
@@ -14,10 +14,10 @@ template <class Control = QWidget> Control* controlOf(const QObject& window, con
     return found;
 }
 
-/// Runs the event loop until the condition holds, for as long as a loaded machine may need. False: it never did.
+/// Runs the event loop until the condition holds, with a generous time limit for loaded machines. False: it never did.
 template <class Condition> bool comes(Condition condition) { return QTest::qWaitFor(condition, 60000); }
 
-/// Mouse event at a place of the widget, as the system sends it. \returns whether it was taken.
+/// Sends a mouse event at a position of the widget, as the system does. \returns whether it was accepted.
 inline bool sendMouse(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held,
                       Qt::KeyboardModifiers keys = {})
 {
@@ -25,7 +25,7 @@ inline bool sendMouse(QWidget* widget, QEvent::Type type, QPointF at, Qt::MouseB
     return QCoreApplication::sendEvent(widget, &event);
 }
 
-/// Turn of the wheel, in eighths of a degree.
+/// Turns the wheel, in eighths of a degree.
 inline void sendWheel(QWidget* widget, QPointF at, QPoint angle, Qt::KeyboardModifiers keys = {})
 {
     QWheelEvent event(at, widget->mapToGlobal(at), {}, angle, Qt::NoButton, keys, Qt::NoScrollPhase, false);

@@ -1,10 +1,10 @@
-// Entry of the test programs that need windows.
+// main() of the test programs that need windows.
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
 {
-    const QTemporaryDir settings; // not the person's own
+    const QTemporaryDir settings; // instead of the user's own
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     QApplication application(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);

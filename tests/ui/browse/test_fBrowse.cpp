@@ -1,4 +1,4 @@
-// The browser, its preview and its thumbnails, over real folders and with previews that come when the test says so.
+// The browser, its preview and its thumbnails, with real folders and previews that arrive when the test says so.
 #include "support/RecordingPlatform.h"
 #include "support/ui/WindowTest.h"
 #include "ui/browse/fAssociation.h"
@@ -111,7 +111,7 @@ TEST_F(Browser, ShowsWhatIsSelectedAndForgetsWhatWas)
     tree().select(at("notes.txt"));
     EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1}))) << "nor shown beside another's name";
     tree().select(at("a.png"));
-    window.reset(); // with the answer on its way
+    window.reset(); // with an answer pending
     EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));
 }
 
@@ -140,7 +140,7 @@ TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
     EXPECT_FALSE(previews.answer("thumbnail 0.png", red({4, 4})));
     EXPECT_TRUE(previews.answer("thumbnail 499.png", red({4, 4})));
     icons.icon("499.png");
-    icons.icon("0.png"); // seen again, asked again
+    icons.icon("0.png"); // visible again, requested again
     EXPECT_TRUE(previews.answer("thumbnail 0.png", {{}, {}, "broken"}));
     EXPECT_EQ(ready, QStringList({"499.png", "0.png"}));
     EXPECT_EQ(previews.asked.size(), 501u);

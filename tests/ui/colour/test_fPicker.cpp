@@ -1,4 +1,4 @@
-// The picker with real controls, used as a person does.
+// The picker with real controls, used as a user does.
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/ui/WindowTest.h"
@@ -50,7 +50,7 @@ TEST_F(Picker, BoxesConvertBothWaysAndRefuseWhatIsNoNumberOfTheirRange)
     enter("txtB", "50");
     EXPECT_EQ("60 100 50 128 128 0", all());
     find<QLineEdit>("txtH")->setFocus(Qt::TabFocusReason);
-    for (const char* typed : {"60", "40", "100"}) { // each replaces what stands in its box
+    for (const char* typed : {"60", "40", "100"}) { // each replaces the text in its box
         QTest::keyClicks(picker.focusWidget(), typed);
         QTest::keyClick(picker.focusWidget(), Qt::Key_Tab);
         QCoreApplication::processEvents();
@@ -194,7 +194,7 @@ TEST_F(Picker, NoListFileHarms)
     EXPECT_EQ(9, cells->colour(1)) << "a folder: what was there stays";
     click("cmdADD");
     EXPECT_TRUE(QFileInfo(file()).isDir());
-    // A link that leads nowhere yet is not followed to make a file.
+    // A dangling link is not followed to create a file.
     QDir(platform.folder.path()).rmdir("usercolors.cps");
     const QString elsewhere = platform.folder.filePath("elsewhere");
     ASSERT_EQ(0, symlink(qPrintable(elsewhere), qPrintable(file())));

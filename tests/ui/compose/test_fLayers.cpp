@@ -1,4 +1,4 @@
-// The layers dialog, used as a person does: real presses, drags and keys on the canvas, then what the document gets.
+// The layers dialog, used as a user does: real presses, drags and keys on the canvas, then the result in the document.
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "support/ui/WindowTest.h"
@@ -50,7 +50,7 @@ struct LayersDialogTest : WindowTest {
         send(QEvent::MouseMove, start + by, Qt::LeftButton);
         send(QEvent::MouseButtonRelease, start + by, {});
     }
-    /// These pixels with a text printed on them.
+    /// These pixels with a text drawn on them.
     Bits printed(Bits on, QPoint at, const QString& text, TextStyle style = {"Other", 11}, Colour ink = 0x0000FF)
     {
         Bits out = on;

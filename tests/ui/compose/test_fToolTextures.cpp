@@ -1,4 +1,4 @@
-// The textures box, used as a person does: the text that goes to the mouse tool, the effects on the active document.
+// The textures box, used as a user does: the text for the mouse tool, the effects on the active document.
 #include "commands/effects.h"
 #include "engine/operations.h"
 #include "pixels/images.h"
@@ -43,7 +43,7 @@ struct TexturesBoxTest : WindowTest {
     void textures(const char* name, const Bits& bits)
     {
         QDir(frame.platform_.programFolder()).mkpath("Textures");
-        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by what it holds
+        imageOver(bits).save(frame.platform_.programFolder() + "/Textures/" + name, "PNG"); // read by its contents
     }
 };
 
@@ -58,7 +58,7 @@ TEST_F(TexturesBoxTest, TextIsLaidOutForTheMouseAndItsStyleKept)
     EXPECT_EQ("Fixed", text("cboFont")) << "what stands in for it";
     EXPECT_EQ("Missing", frame.setup_.TextFont) << "until another one is chosen";
     QTest::keyClicks(find<QPlainTextEdit>("txtText"), "ab");
-    ASSERT_EQ(19, stamp().width()); // two of 10, less the free column
+    ASSERT_EQ(19, stamp().width()); // two of 10, minus the free column
     EXPECT_EQ(20, stamp().height());
     EXPECT_EQ(0, stamp().at(0, 0).c[0]);
     EXPECT_EQ(255, stamp().at(9, 0).c[0]);

@@ -1,5 +1,5 @@
-// The dialogs of colour depth and of saving for the web, with real controls, used as a person does. The files that the
-// second one writes are read by velara-decode.
+// The dialogs for colour depth and for saving for the web, with real controls, used as a user does. The files written
+// by the second one are read by velara-decode.
 #include "fileio/load/PictureLoader.h"
 #include "reduce/EuroDepth.h"
 #include "support/RecordingPlatform.h"

@@ -1,4 +1,4 @@
-// The filter dialog with real controls, used as a person does.
+// The filter dialog with real controls, used as a user does.
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "support/ui/WindowTest.h"
@@ -22,7 +22,7 @@ struct FilterDialog : WindowTest {
         document->Region.setRegion(selection);
         frame.workspace_.handOver(*document);
         frame.log.clear();
-        frame.filter_.clock = [this] { return frame.platform_.now += 20; }; // a report falls due in every row
+        frame.filter_.clock = [this] { return frame.platform_.now += 20; }; // a progress report falls due in every row
         dialog = std::make_unique<fFilter>(frame, *findFilterRow(word), document->handle());
         used = dialog.get();
         dialog->show();
@@ -35,7 +35,7 @@ struct FilterDialog : WindowTest {
     int steps() const { return frame.logged("step"); }
     const Bits& taken() const { return document->bits(); }
     Bits shown() { return find<fPicture>("iDst")->bits(); }
-    /// What the filter makes of the whole picture with the dialog's settings.
+    /// The filter's result for the whole picture with the dialog's settings.
     Bits wanted(std::string_view word)
     {
         cBitFilter filter = frame.filter_;
@@ -63,7 +63,7 @@ TEST_F(FilterDialog, EveryFilterShowsItsControlsAndRuns)
                 EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << row.title << " is clipped";
             }
         const Bits full = wanted(row.words[0]);
-        click(row.number % 2 ? "cmdOK" : "cmdPreview"); // "Real Time" is another OK
+        click(row.number % 2 ? "cmdOK" : "cmdPreview"); // "Real Time" acts like OK
         frame.settle();
         EXPECT_EQ(1, steps()) << row.title;
         EXPECT_TRUE(sameBits(full, taken())) << row.title;
@@ -130,7 +130,7 @@ TEST_F(FilterDialog, EscapeEndsARunThatWorks)
     find<QSlider>("sbFilter_0")->setValue(30);
     click("cmdOK");
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
-    dialog->accept(); // once more, which is not run beside the first
+    dialog->accept(); // a second time, which must not run beside the first
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     frame.settle();
     EXPECT_TRUE(dialog->isVisible());
@@ -152,7 +152,7 @@ TEST_F(FilterDialog, SurvivesThatItIsDestroyedWhileItRuns)
 
 TEST_F(FilterDialog, AFailureIsToldAndChangesNothing)
 {
-    picture = randomBits(1, 50, 2); // too narrow to be folded
+    picture = randomBits(1, 50, 2); // too narrow for FOLD
     selection = Region::rectangle(0, 0, 1, 50);
     open("FOLD");
     EXPECT_EQ("Division by zero", text("lblState"));
@@ -197,7 +197,7 @@ TEST_F(FilterDialog, GlassOffersTheStrengthsThatItsStyleHas)
     EXPECT_EQ(0, dialog->arguments().mode) << "slanting has no such strength";
 
     open("CUSTOMCURTAIN");
-    QMap<int, QString> shown; // by place
+    QMap<int, QString> shown; // by position
     for (int mode = 0; mode < 4; ++mode) {
         const QString name = QString("Curt_%1").arg(mode);
         shown[find(name)->x()] = text(name);

@@ -1,4 +1,4 @@
-// The dialogs that make or reshape a picture, used as a person does, and then their job.
+// The dialogs that make or reshape a picture, used as a user does, and then their jobs.
 #include "document/resizing.h"
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
@@ -90,7 +90,7 @@ TEST_F(Geometry, SizeRunsTheChosenResize)
     check("chkInterpolate", false);
     filter.BitsResize(picture, 30, 15);
     EXPECT_TRUE(sameBits(filter.bits(), done()));
-    for (const bool keep : {false, true}) { // the ratio stays the picture's, whatever the boxes came to
+    for (const bool keep : {false, true}) { // the ratio stays the picture's, whatever the boxes contain
         check("chkKeepProportions", keep);
         type("txtW", "100");
     }
@@ -129,7 +129,7 @@ TEST_F(Geometry, CanvasAddsTenthsAndPlacesThePictureByAnchorAndByDragging)
         });
         return sameBits(wanted, done());
     };
-    EXPECT_TRUE(placed(5, -5)); // in the middle
+    EXPECT_TRUE(placed(5, -5)); // centred
     for (const auto& [anchor, left, top] :
          {std::tuple("anchor_0", 0, 0), {"anchor_8", 10, -10}, {"anchor_5", 10, -5}}) {
         click(anchor);

@@ -1,4 +1,4 @@
-// The icon extractor with real controls, used as a person does.
+// The icon extractor with real controls, used as a user does.
 #include "fileio/writers/iconFile.h"
 #include "support/RecordingFrame.h"
 #include "support/files.h"
@@ -163,7 +163,7 @@ TEST_F(IconTest, TheFolderIsChosenInATree)
     auto* tree = browse->findChild<fFolderTree*>("BF");
     EXPECT_EQ(path("in"), browse->findChild<QLabel*>("FileName")->text());
     tree->select(path("in/side"));
-    QDir().rmdir(path("in/side")); // vanished before the choice
+    QDir().rmdir(path("in/side")); // removed before the choice
     tree->select(path("in"));
     EXPECT_TRUE(browse->findChild<QPushButton*>("CmdOpen")->isEnabled());
     QTest::keyClick(tree, Qt::Key_Return);

@@ -1,4 +1,4 @@
-// The texture dialog with real controls, used as a person does.
+// The texture dialog with real controls, used as a user does.
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/filterOf.h"

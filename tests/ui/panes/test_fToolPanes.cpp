@@ -1,4 +1,4 @@
-// The panes of the mouse tools: what a hand does to a control is in the settings, and the other way.
+// The panes of the mouse tools: changes of controls appear in the settings, and vice versa.
 #include "commands/effects.h"
 #include "support/RecordingFrame.h"
 #include "support/filterOf.h"
@@ -72,7 +72,7 @@ TEST_F(Panes, SlidersWriteTheirSetting)
 }
 
 struct ListCase {
-    const char *tool, *name, *entries, *numbers; // the value that each entry stands for
+    const char *tool, *name, *entries, *numbers; // the value of each entry
     std::function<int(const Setup&)> field;
 };
 

@@ -1,4 +1,4 @@
-// The dialogs of printing, used as a person does, over printers that write down what they get.
+// The printing dialogs, used as a user does, with printers that record what they get.
 #include "support/RecordingPlatform.h"
 #include "support/pictures.h"
 #include "support/ui/WindowTest.h"
@@ -95,7 +95,7 @@ TEST_F(fPrintTest, WithoutAPrinterThereIsAFile)
     open();
     EXPECT_EQ(text("lblState"), "No printer was found");
     EXPECT_EQ(find<QComboBox>("cbPrinters")->count(), 1);
-    click("cmdOK"); // and no name is given
+    click("cmdOK"); // without a file name
     EXPECT_TRUE(used->isVisible());
     EXPECT_TRUE(printers.pages.empty());
     platform.answers = {"/somewhere/page.pdf"};
@@ -122,7 +122,7 @@ TEST_F(fPrintTest, ASilentServerIsLeft)
     EXPECT_FALSE(printers.answer()) << "nobody waits any more";
 }
 
-// A PDF file needs no server: it can be chosen at once, and is not taken away when the printers come.
+// A PDF file needs no server: it can be chosen at once, and stays chosen when the printers arrive.
 TEST_F(fPrintTest, AFileIsChosenWhilePrintersAreLookedFor)
 {
     printers.silent = true;
@@ -134,7 +134,7 @@ TEST_F(fPrintTest, AFileIsChosenWhilePrintersAreLookedFor)
         }
         const auto listed = printers.held();
         choose("cbPrinters", "PDF file ...");
-        if (setUp) printers.answer(); // the usual papers are no matter of the server
+        if (setUp) printers.answer(); // the usual papers don't come from the server
         EXPECT_TRUE(find<QPushButton>("cmdOK")->isEnabled());
         (*listed)();
         EXPECT_EQ(find<QComboBox>("cbPrinters")->count(), 3);

@@ -1,4 +1,4 @@
-// A document window in a frame that writes down what it is asked.
+// A document window in a frame that records its requests.
 #pragma once
 #include "support/RecordingFrame.h"
 #include "support/pictures.h"
@@ -26,7 +26,7 @@ struct ImageFixture : ::testing::Test {
         image->activate();
         return *image;
     }
-    /// Another picture of the document, as a change leaves it.
+    /// Replaces the document's picture, as a change does.
     void take(const Bits& bits)
     {
         image->document().takePicture(bits);
@@ -35,7 +35,7 @@ struct ImageFixture : ::testing::Test {
     QWidget* control(const char* name) const { return controlOf(*image, name); }
     QWidget* iDst() const { return control("iDst"); }
     void hover(QPoint at) { sendMouse(iDst(), QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton); }
-    /// Colour 0xRRGGBB on the screen at a place of the display.
+    /// The colour 0xRRGGBB on the screen at a position of the display.
     std::uint32_t shown(int x, int y) const { return iDst()->grab().toImage().pixel(x, y) & 0xFFFFFF; }
 };
 

@@ -1,4 +1,4 @@
-// A document window as a person uses it.
+// A document window as used by a user.
 #include "ui/view/ImageFixture.h"
 #include <QtWidgets>
 

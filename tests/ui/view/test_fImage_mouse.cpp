@@ -122,7 +122,7 @@ TEST_F(Mouse, TheHandScrollsAndPaintsNothing)
     EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
     EXPECT_TRUE(w.bits() == bits);
     EXPECT_EQ(frame.snapshots, 0);
-    w.resize(400, 300); // now all of it is seen: nothing to scroll, the tool works
+    w.resize(400, 300); // now all of it is visible: nothing to scroll, the tool works
     press({5, 5});
     release({5, 5});
     EXPECT_EQ(frame.snapshots, 1);
@@ -191,14 +191,14 @@ TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
     release({50, 53}, Qt::MiddleButton);
     EXPECT_NE(iDst()->cursor().shape(), Qt::ClosedHandCursor);
     EXPECT_TRUE(w.bits() == bits);
-    press({5, 5}); // within a stroke it is nobody's
+    press({5, 5}); // within a stroke it is ignored
     press({60, 50}, Qt::MiddleButton);
     pan({20, 20});
     EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
     release({20, 20}, Qt::MiddleButton);
     release({6, 6});
     EXPECT_EQ(frame.snapshots, 1);
-    press({60, 50}, Qt::BackButton); // a button that nobody has a use for
+    press({60, 50}, Qt::BackButton); // an unused button
     release({60, 50}, Qt::BackButton);
     EXPECT_EQ(frame.snapshots, 1);
 }

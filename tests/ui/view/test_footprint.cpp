@@ -1,11 +1,11 @@
-// The line that shows what a tool would change, under the pointer.
+// The line at the pointer that shows what a tool would change.
 #include "tools/Tools.h"
 #include "ui/view/ImageFixture.h"
 #include "ui/view/footprintLine.h"
 
 namespace velara {
 
-/// Sums up what a widget repaints.
+/// Accumulates a widget's repainted region.
 struct Repaints : QObject {
     qint64 area = 0;
     bool eventFilter(QObject*, QEvent* event) override
@@ -66,7 +66,7 @@ TEST_F(FootprintTest, TheLineFollowsThePointerAndRepaintsLittle)
     hover({200, 200});
     EXPECT_TRUE(lineIsSeen());
     EXPECT_NE(shown(200 - 76, 200), 0x404040u);
-    QApplication::processEvents(); // what the first line asked for
+    QApplication::processEvents(); // the repaint requested by the first line
     Repaints repaints;
     iDst()->installEventFilter(&repaints);
     hover({203, 201});
@@ -76,7 +76,7 @@ TEST_F(FootprintTest, TheLineFollowsThePointerAndRepaintsLittle)
     QApplication::sendEvent(iDst(), &leave);
     EXPECT_FALSE(lineIsSeen());
     hover({100, 100});
-    window.setMouseScroll(true); // fits: nothing to scroll, the tool goes on
+    window.setMouseScroll(true); // fits: nothing to scroll, the tool continues
     EXPECT_TRUE(lineIsSeen());
     frame.setup_.CurrentTool = "Pencil";
     hover({101, 100});

@@ -1,4 +1,4 @@
-// The tree of folders over real ones, used by mouse and keys.
+// The tree of folders with real ones, used by mouse and keys.
 #include "support/ui/controls.h"
 #include "ui/widgets/FolderModel.h"
 #include "ui/widgets/fFolderTree.h"
@@ -41,7 +41,7 @@ struct Shown {
         auto* model = static_cast<FolderModel*>(tree.model());
         return model->rowCount(model->indexOf(folder));
     }
-    /// The tree shows so many items in the folder, perhaps after a while.
+    /// Waits until the tree shows so many items in the folder.
     bool holds(const QString& folder, int count) const
     {
         return comes([&] { return rows(folder) == count; });
@@ -63,7 +63,7 @@ TEST_F(FolderTree, ShowsFoldersAloneOrTheirFilesToo)
     Shown folders(Shows::Folders), all(Shows::FoldersAndFiles);
     for (Shown* shown : {&folders, &all}) shown->tree.select(at("alpha"));
     EXPECT_TRUE(all.holds(at("alpha"), 3));
-    EXPECT_TRUE(folders.holds(top.path(), 4)); // the link too
+    EXPECT_TRUE(folders.holds(top.path(), 4)); // including the link
     EXPECT_EQ(folders.rows(at("alpha")), 0);
     EXPECT_EQ(folders.selections, QStringList(at("alpha")));
     for (const char* name : {"p10.png", "p2.png", "P3.png", "zeta"}) file(QString("beta/") + name);
@@ -86,7 +86,7 @@ TEST_F(FolderTree, DoubleClickAndEnterChooseWhatIsAskedFor)
 
     all.tree.select(at("alpha"));
     ASSERT_TRUE(all.holds(at("alpha"), 3));
-    all.doubleClick(); // a folder closes, and is not chosen
+    all.doubleClick(); // a folder collapses, and is not chosen
     EXPECT_FALSE(all.tree.isExpanded(all.tree.currentIndex()));
     QTest::keyClick(&all.tree, Qt::Key_Enter);
     EXPECT_TRUE(all.tree.isExpanded(all.tree.currentIndex()));
@@ -100,7 +100,7 @@ TEST_F(FolderTree, DoubleClickAndEnterChooseWhatIsAskedFor)
 TEST_F(FolderTree, TakesLoopsLocksAndWhatIsNotThere)
 {
     Shown shown(Shows::FoldersAndFiles);
-    shown.tree.select(at("loop/loop/loop/alpha/anna.png")); // its path stays as it was walked
+    shown.tree.select(at("loop/loop/loop/alpha/anna.png")); // keeps the path as given, through links
     EXPECT_EQ(shown.tree.path(), at("loop/loop/loop/alpha/anna.png"));
     EXPECT_TRUE(shown.holds(at("loop/loop/loop/alpha"), 3));
     shown.tree.select(at("locked"));

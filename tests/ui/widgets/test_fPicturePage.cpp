@@ -6,7 +6,7 @@
 namespace velara {
 namespace {
 
-/// Marks what it is asked to paint.
+/// Marks the parts that it paints.
 struct Canvas final : fPicture {
     QRect last;
     Canvas() : fPicture("c", "c") {}
@@ -45,7 +45,7 @@ struct PicturePages : WindowTest {
     QPoint at(fPicturePage& page) { return page.picture().pos(); }
 };
 
-/// What a grab of the container shows at a place.
+/// The colour in a grab of the container at a position.
 QRgb shownAt(fPicturePage& page, QPoint place) { return page.grab().toImage().pixel(place) & 0xFFFFFF; }
 
 TEST_F(PicturePages, ThePartnerShowsTheSamePlace)
@@ -69,7 +69,7 @@ TEST_F(PicturePages, SmallerPicturesStandInTheMiddleAndBarsAreOff)
     EXPECT_EQ(QPoint((container->width() - 40) / 2, (container->height() - 30) / 2), at(left));
     EXPECT_FALSE(find("HLeft")->isEnabled());
     EXPECT_FALSE(find("VRight")->isEnabled());
-    show(randomBits(900, 10, 1)); // one direction only
+    show(randomBits(900, 10, 1)); // scrolls in one direction only
     EXPECT_TRUE(find("HLeft")->isEnabled());
     EXPECT_FALSE(find("VLeft")->isEnabled());
     show({});

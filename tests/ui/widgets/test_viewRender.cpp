@@ -8,7 +8,7 @@ namespace {
 
 std::uint32_t opaque(const Bits& bits, int x, int y) { return 0xFF000000u | colourAt(bits, x, y); }
 
-/// A part of the view, painted onto a window full of red.
+/// Paints a part of the view onto a red window.
 QImage painted(const Bits& bits, const ViewSpot& spot, QSize size, const Rect& part)
 {
     QImage window(size, QImage::Format_ARGB32_Premultiplied);
@@ -46,7 +46,7 @@ TEST(ViewRender, BrokenRatiosKeepWholePixels)
 {
     const Bits bits = randomBits(40, 30, 9);
     const QImage window = painted(bits, {0, 0, 1, 1.5}, {60, 45}, {0, 0, 60, 45});
-    // Three device pixels for two of the picture.
+    // Three device pixels per two pixels of the picture.
     const int columns[] = {0, 1, 1};
     for (int y = 0; y < 45; ++y)
         for (int x = 0; x < 60; ++x)

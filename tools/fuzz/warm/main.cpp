@@ -1,6 +1,6 @@
-// velara-decode with its libraries loaded, for who reads very many pictures: each message at descriptor 3 is an
-// extension and the three descriptors of a reader. Answers with the process of a copy of itself that reads the one
-// picture as velara-decode does; its parent is the program that asked.
+// velara-decode with its libraries loaded, for programs that read very many pictures: each message at descriptor 3 is
+// an extension and the three descriptors of a reader. Answers with the pid of a fork of itself that reads the one
+// picture as velara-decode does; its parent is the requesting program.
 #include "fileio/decode/answer.h"
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
@@ -19,7 +19,7 @@ using namespace velara::decode;
 namespace {
 
 struct Order {
-    QString extension; // empty: nobody orders any more
+    QString extension; // empty: no more requests
     std::array<int, 3> descriptors{};
 };
 

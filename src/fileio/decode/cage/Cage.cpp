@@ -14,8 +14,8 @@ Closing done(bool holds) { return holds ? Closing::Holds : Closing::Failed; }
 
 Closing noNewPrivileges() { return done(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0); }
 
-/// Drawing shares large fills among threads. Here it is one, which stands in the cage from its start and lives as long
-/// as the process; from the filter on none can be made.
+/// Drawing distributes large fills over threads. Here it gets a single one, started before the cage closes and living
+/// as long as the process; the filter forbids new threads.
 [[maybe_unused]] void startTheOneThread()
 {
     constexpr int kPatience = 2000; // ms
@@ -47,11 +47,11 @@ CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
         if (closing == Closing::Holds) state.holding |= layer;
         if (closing == Closing::Failed) state.open |= layer;
     };
-    [[maybe_unused]] const unsigned long long memory = settleDown(); // while there are paths
+    [[maybe_unused]] const unsigned long long memory = settleDown(); // while paths can still be opened
     close(NoNewPrivileges, noNewPrivileges);
     close(Capabilities, [] { return done(dropCapabilities()); });
     close(Landlock, [] { return closePaths({}, Ports::Shut); });
-#ifndef __SANITIZE_ADDRESS__ // the sanitizers look at memory through pipes, and report into files
+#ifndef __SANITIZE_ADDRESS__ // the sanitizers inspect memory through pipes and report into files
     if (needs == Needs::Drawing) startTheOneThread();
     close(Limits, [&] { return done(limitResources(needs, memory)); });
     close(Seccomp, [&] { return done(filterSystemCalls(needs)); });

@@ -17,7 +17,7 @@ namespace velara::decode {
 
 namespace {
 
-/// Where fontconfig and the metafile readers find fonts.
+/// The folders in which fontconfig and the metafile readers look for fonts.
 constexpr const char* kFontFolders[] = {"/usr/share/fonts", "/usr/local/share/fonts", "/usr/share/libwmf"};
 constexpr std::size_t kMostFonts = 16384;
 
@@ -45,7 +45,7 @@ int fontAt(const char* path) // -1: none
     return font != fonts.end() && font->path == path ? font->descriptor : -1;
 }
 
-/// The font once more, from its beginning. All copies read on at one place; who draws maps the file.
+/// Another descriptor of the font, at its beginning. All copies share one file offset; drawing code maps the file.
 long opened(int font, greg_t flags)
 {
     if (flags & (O_ACCMODE | O_CREAT | O_TRUNC)) return -EACCES;
@@ -55,7 +55,7 @@ long opened(int font, greg_t flags)
     return copy;
 }
 
-/// What the kernel would answer if there was nothing but fonts. Runs in a signal handler: no memory, no lock.
+/// What the kernel would answer if nothing but fonts existed. Runs in a signal handler: no allocation, no lock.
 long answerTo(long call, const greg_t* registers)
 {
     const auto text = [&](int which) { return reinterpret_cast<const char*>(registers[which]); };
@@ -115,7 +115,7 @@ void handOverFonts()
         std::error_code failed, ignored;
         for (fs::recursive_directory_iterator entry(folder, kHow, failed), end; !failed && entry != end;
              entry.increment(failed)) {
-            if (entry.depth() > 8) entry.disable_recursion_pending(); // links that go round
+            if (entry.depth() > 8) entry.disable_recursion_pending(); // cyclic links
             if (fonts.size() < kMostFonts && !entry->is_directory(ignored)) openFont(entry->path());
         }
     }

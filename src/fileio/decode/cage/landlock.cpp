@@ -10,13 +10,13 @@ namespace velara::decode {
 
 namespace {
 
-// What newer kernels have and Debian 12's header lacks.
+// Constants of newer kernels that Debian 12's header lacks.
 constexpr std::uint64_t kTruncate = 1ULL << 14, kDeviceCalls = 1ULL << 15; // versions 3 and 5
 constexpr std::uint64_t kTcp = 3;                                          // version 4: bind and connect
 constexpr std::uint64_t kScopes = 3;                                       // version 6: abstract sockets and signals
 
 constexpr std::uint64_t kOfFiles = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate |
-                                   kDeviceCalls; // the others are rights over a folder
+                                   kDeviceCalls; // the others are rights on folders
 constexpr std::uint64_t kRead = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr std::uint64_t kRights[] = {
     LANDLOCK_ACCESS_FS_READ_DIR, kRead, kRead | LANDLOCK_ACCESS_FS_WRITE_FILE | kDeviceCalls,
@@ -26,7 +26,7 @@ struct Ruleset {
     std::uint64_t files, ports, scopes;
 };
 
-/// The rights over files that the kernel's version knows.
+/// The rights on files known to the kernel's version.
 std::uint64_t fileRights(long version)
 {
     std::uint64_t rights = (LANDLOCK_ACCESS_FS_MAKE_SYM << 1) - 1; // version 1
@@ -58,7 +58,7 @@ Closing closePaths(const std::vector<OpenPath>& but, Ports ports)
     if (version < 1) return errno == ENOSYS || errno == EOPNOTSUPP ? Closing::Unknown : Closing::Failed;
     const std::uint64_t files = fileRights(version);
     const Ruleset rules{files, version >= 4 && ports == Ports::Shut ? kTcp : 0, version >= 6 ? kScopes : 0};
-    const std::size_t size = version >= 6 ? 24 : version >= 4 ? 16 : 8; // the fields that the version knows
+    const std::size_t size = version >= 6 ? 24 : version >= 4 ? 16 : 8; // the fields known to the version
     const int ruleset = static_cast<int>(syscall(SYS_landlock_create_ruleset, &rules, size, 0));
     if (ruleset < 0) return Closing::Failed;
     bool holds = true;

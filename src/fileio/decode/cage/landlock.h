@@ -1,4 +1,4 @@
-// Landlock, the kernel's rules that a program sets for itself: paths, ports, other processes.
+// Landlock, a kernel sandbox that a program applies to itself: paths, ports, other processes.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -6,18 +6,18 @@
 
 namespace velara::decode {
 
-enum class Closing { Holds, Failed, Unknown }; // the last: the kernel has no such layer
+enum class Closing { Holds, Failed, Unknown }; // Unknown: the kernel doesn't support the layer
 
-/// A file or a folder with all below it that stays open, and for what.
+/// A file or a folder with everything below it that remains accessible, and its use.
 struct OpenPath {
-    /// Listing: the names in it; Device: an existing one, both ways; Writing: with making and removing files.
+    /// Listing: its names; Device: an existing one, reading and writing; Writing: includes creating and removing files.
     enum Use { Listing, Reading, Device, Writing };
     std::string path;
     Use use = Reading;
 };
 
-/// From here on this thread and what it starts reach no other paths, run no program, and send no signal to processes
-/// outside; with Ports::Shut they reach no TCP port. Paths that are not there are left out. Needs "no new privileges".
+/// From now on this thread and its children reach no other paths, run no programs, and send no signals to processes
+/// outside; with Ports::Shut they reach no TCP port. Nonexistent paths are skipped. Needs "no new privileges".
 enum class Ports { Open, Shut };
 Closing closePaths(const std::vector<OpenPath>& but, Ports ports);
 

@@ -25,7 +25,7 @@ bool limit(__rlimit_resource resource, rlim_t most)
     return setrlimit(resource, &value) == 0;
 }
 
-/// The number behind the word in a file of /proc; 0 when it is not there.
+/// The number after the word in a file of /proc; 0 when it is missing.
 unsigned long long numberIn(const char* path, const char* word)
 {
     std::array<char, 4096> text{};
@@ -43,7 +43,7 @@ unsigned long long settleDown()
 {
     if (chdir("/") != 0) return 0;
     const int file = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC);
-    [[maybe_unused]] const ssize_t done = write(file, "1000", 4); // a courtesy, not a lock
+    [[maybe_unused]] const ssize_t done = write(file, "1000", 4); // best effort: not part of the protection
     close(file);
     constexpr unsigned long long kLeast = 256ULL << 10; // KB: enough for most pictures
     const auto free = numberIn("/proc/meminfo", "MemAvailable:"), taken = numberIn("/proc/self/status", "VmSize:");
@@ -64,7 +64,7 @@ bool limitResources(Needs needs, unsigned long long memory)
 bool dropCapabilities()
 {
     for (int i = 0; prctl(PR_CAPBSET_READ, i, 0, 0, 0) >= 0; ++i)
-        if (prctl(PR_CAPBSET_DROP, i, 0, 0, 0) != 0 && errno != EPERM) return false; // who can't gain any can't drop it
+        if (prctl(PR_CAPBSET_DROP, i, 0, 0, 0) != 0 && errno != EPERM) return false; // EPERM: it can't gain any either
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     const std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> none{};
     return syscall(SYS_capset, &header, none.data()) == 0;

@@ -1,18 +1,18 @@
-// What a reader may take of the machine.
+// The resource limits of a reader.
 #pragma once
 #include "fileio/decode/cage/Cage.h"
 
 namespace velara::decode {
 
-/// Moves to the root folder, and to the head of those that go when memory runs out. Returns what this process may take
-/// of the memory that is free, as bytes of address space.
+/// Changes to the root folder, and makes this process the first to be killed when memory runs out. Returns its share of
+/// the free memory, as bytes of address space.
 unsigned long long settleDown();
 
-/// Sets the limits, never above those that stand: memory, the processor time of the slowest picture, no file, no
-/// process, no further descriptor (but a few for fonts). False when one could not be set.
+/// Sets the limits, never above the present ones: memory, the processor time of the slowest picture, no file, no
+/// process, no new descriptor (except a few for fonts). False when one could not be set.
 bool limitResources(Needs needs, unsigned long long memory);
 
-/// Takes every capability away, those that a program could get back too.
+/// Drops all capabilities, including those that a program could regain.
 bool dropCapabilities();
 
 } // namespace velara::decode

@@ -12,7 +12,7 @@ namespace velara::decode {
 namespace {
 
 // clang-format off
-/// Memory, clocks, and what the C library does by itself.
+/// Memory, clocks, and the C library's own needs.
 constexpr int kAlways[] = {
     SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(sysinfo), SCMP_SYS(sched_yield),
     SCMP_SYS(sched_getaffinity), SCMP_SYS(getrandom), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
@@ -20,14 +20,14 @@ constexpr int kAlways[] = {
     SCMP_SYS(exit), SCMP_SYS(exit_group),
 };
 
-/// Of the descriptors at hand, which are fonts.
+/// On the open descriptors, which are fonts.
 constexpr int kForFonts[] = {
     SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(lseek), SCMP_SYS(close), SCMP_SYS(fstat), SCMP_SYS(fstatfs),
     SCMP_SYS(fadvise64), SCMP_SYS(getuid), SCMP_SYS(geteuid), SCMP_SYS(getpid), SCMP_SYS(gettid),
     SCMP_SYS(rt_sigprocmask),
 };
 
-/// Calls by path, which OpenFonts answers.
+/// Calls by path, answered by OpenFonts.
 constexpr int kAnswered[] = {
     SCMP_SYS(open), SCMP_SYS(openat), SCMP_SYS(stat), SCMP_SYS(lstat), SCMP_SYS(newfstatat), SCMP_SYS(access),
     SCMP_SYS(faccessat), SCMP_SYS(readlink), SCMP_SYS(readlinkat), SCMP_SYS(statfs), SCMP_SYS(chmod), SCMP_SYS(mkdir),
@@ -35,16 +35,16 @@ constexpr int kAnswered[] = {
 };
 // clang-format on
 
-/// Giving memory back and asking for huge pages; what else there is changes how memory is shared, locked or poisoned.
+/// Freeing memory and asking for huge pages; the other advices change how memory is shared, locked or poisoned.
 constexpr unsigned kAdvices[] = {MADV_DONTNEED, MADV_FREE, MADV_HUGEPAGE};
-/// Waiting and waking. Moving waiters and lending priorities have been ways into kernels.
+/// Waiting and waking. Requeueing and priority inheritance have been used to attack kernels.
 constexpr unsigned kWaits[] = {FUTEX_WAIT, FUTEX_WAKE, FUTEX_WAIT_BITSET, FUTEX_WAKE_BITSET};
 constexpr unsigned kHowToWait = FUTEX_PRIVATE_FLAG | FUTEX_CLOCK_REALTIME;
 constexpr unsigned kOfDescriptors[] = {F_DUPFD_CLOEXEC, F_GETFD, F_SETFD, F_GETFL};
 
 using Filter = std::unique_ptr<void, decltype(&seccomp_release)>;
 
-/// Nothing that would make memory run as code.
+/// Forbids executable memory.
 bool allowPlainMemory(scmp_filter_ctx filter)
 {
     const auto notCode = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
@@ -52,12 +52,12 @@ bool allowPlainMemory(scmp_filter_ctx filter)
            seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(mprotect), 1, notCode) == 0;
 }
 
-/// The line to the parent, and the chatter of libraries on the standard descriptors.
+/// The socket to the parent, and messages of libraries on the standard descriptors.
 bool allowTalk(scmp_filter_ctx filter)
 {
     const auto onSocket = SCMP_A0(SCMP_CMP_EQ, kSocket);
     const auto onStandard = SCMP_A0(SCMP_CMP_LE, 2);
-    // No destination: only to the other end.
+    // No destination address: only to the other end.
     return seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(sendto), 2, onSocket, SCMP_A4(SCMP_CMP_EQ, 0)) == 0 &&
            seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(recvfrom), 1, onSocket) == 0 &&
            seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(write), 1, onStandard) == 0 &&

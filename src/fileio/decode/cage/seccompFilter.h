@@ -1,11 +1,11 @@
-// Which system calls a reader may make inside the cage.
+// The system calls permitted to a reader inside the cage.
 #pragma once
 #include "fileio/decode/cage/Cage.h"
 
 namespace velara::decode {
 
-/// From here on any call that is not in the tables ends the process; calls for paths come back as a signal where fonts
-/// are needed (OpenFonts). False when the filter could not be set.
+/// From now on any call that is not in the tables ends the process; where fonts are needed, calls by path raise a
+/// signal instead (OpenFonts). False when the filter could not be set.
 bool filterSystemCalls(Needs needs);
 
 } // namespace velara::decode

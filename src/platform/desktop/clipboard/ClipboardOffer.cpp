@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-/// By the toolkit: on desktops that have their own limits of time, and for what this program itself put there.
+/// Through Qt: on desktops with time limits of their own, and for what this program itself put there.
 class ToolkitOffer final : public ClipboardOffer {
   public:
     QStringList types() override { return data() ? data()->formats() : QStringList(); }

@@ -16,7 +16,7 @@ struct ClipboardType {
 };
 
 // clang-format off
-constexpr ClipboardType kClipboardTypes[] = { // the exact ones first
+constexpr ClipboardType kClipboardTypes[] = { // lossless ones first
     {"image/png",      "png"},
     {"image/bmp",      "bmp"},
     {"image/x-bmp",    "bmp"},
@@ -39,7 +39,7 @@ LoadedPicture QtClipboard::bitmap()
     return received();
 }
 
-/// One clock and one box for all that is tried, so that one Esc ends it.
+/// One time limit and one box for all attempts, so that one Esc ends them.
 LoadedPicture QtClipboard::received()
 {
     const auto offer = clipboardOffer();

@@ -1,5 +1,5 @@
-// QtClipboard: the real Clipboard. Our own pictures go out and come back as they are; what other programs offer comes
-// as bytes (ClipboardOffer) and is read where files are.
+// QtClipboard: the real Clipboard. Our own pictures are exchanged unchanged; what other programs offer comes as bytes
+// (ClipboardOffer) and is decoded like a file.
 #pragma once
 #include "seams/Clipboard.h"
 #include <QMimeData>
@@ -12,10 +12,10 @@ namespace velara {
 
 class QtClipboard final : public Clipboard {
   public:
-    /// Makes a picture of bytes by the reader of an extension; name is what the reason calls them.
+    /// Decodes bytes with the reader of an extension; name is used in the reason.
     using Read = std::function<LoadedPicture(const QByteArray& bytes, const QString& name, const QString& extension,
                                              const GoOn& goOn)>;
-    /// What stands before the person while the picture comes and is read; name is what it is called.
+    /// Shown to the user while the picture arrives and is decoded; name is the picture's.
     using Waiting = std::function<GoOn(const QString& name)>;
     QtClipboard(Read read, Waiting waiting) : read_(std::move(read)), waiting_(std::move(waiting)) {}
 

@@ -13,10 +13,10 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 900ms; // for all answers together; each of the pieces that some come in has as much again
-constexpr auto kMoment = 50ms;    // between two questions whether to go on
+constexpr auto kPatience = 900ms; // for all answers together; each piece of an incremental transfer has as much again
+constexpr auto kMoment = 50ms;    // between two calls of goOn
 constexpr std::size_t kMostTypes = 256;
-constexpr qsizetype kMostAtoms = qsizetype{1} << 16; // bytes of them that are looked at
+constexpr qsizetype kMostAtoms = qsizetype{1} << 16; // bytes of the list of types that are evaluated
 constexpr qsizetype kMostBytes = qsizetype{1} << 30;
 constexpr qsizetype kRead = qsizetype{1} << 22; // bytes at once
 
@@ -65,7 +65,7 @@ class XClipboardOffer final : public ClipboardOffer {
             xcb_intern_atom_reply(x_, xcb_intern_atom(x_, 0, length, name.constData()), nullptr));
         return reply ? reply->atom : xcb_atom_t{XCB_NONE};
     }
-    /// Those that are looked at, each once.
+    /// The atoms that are evaluated, without duplicates.
     static std::vector<xcb_atom_t> atomsOf(const QByteArray& bytes)
     {
         std::vector<xcb_atom_t> atoms;
@@ -76,7 +76,7 @@ class XClipboardOffer final : public ClipboardOffer {
         }
         return atoms;
     }
-    /// All are asked for before the first answer is waited for.
+    /// All are requested before waiting for the first answer.
     QStringList namesOf(const std::vector<xcb_atom_t>& atoms) const
     {
         std::vector<xcb_get_atom_name_cookie_t> asked;
@@ -97,8 +97,8 @@ class XClipboardOffer final : public ClipboardOffer {
         return goOn_({});
     }
 
-    /// The next event of the kind that suits; null when the time is over or the bytes are given up. What came while
-    /// goOn took its time counts.
+    /// The next event of the kind that matches; null when the time is over or goOn gave up. Events that arrived while
+    /// goOn took its time count.
     template <class Event, class Suits> Reply<Event> await(std::uint8_t kind, Clock::time_point end, Suits suits)
     {
         for (;;) {
@@ -111,7 +111,7 @@ class XClipboardOffer final : public ClipboardOffer {
         }
     }
 
-    /// True when the owner has put something down for us, out of the time that is left for all its answers.
+    /// True when the owner has delivered to our property, within the time left for all its answers.
     bool ask(xcb_atom_t type)
     {
         if (left_ <= 0ms) return false;
@@ -128,7 +128,7 @@ class XClipboardOffer final : public ClipboardOffer {
         xcb_atom_t kind = XCB_NONE;
         QByteArray bytes;
     };
-    /// What the owner has put down, up to so many bytes; by its end the owner knows that it may go on.
+    /// What the owner delivered, up to most bytes; deleting the property tells the owner to continue.
     Property take(qsizetype most)
     {
         Property whole;
@@ -148,7 +148,8 @@ class XClipboardOffer final : public ClipboardOffer {
         return whole;
     }
 
-    /// Piece by piece, until an empty one. Without its end nothing more is asked: pieces may still be under way.
+    /// Piece by piece, until an empty one. If that doesn't come, nothing more is requested: pieces may still be on
+    /// their way.
     std::optional<QByteArray> pieces()
     {
         QByteArray bytes;

@@ -1,4 +1,4 @@
-// Lists of files show their names by it: as they can be shown, while the items keep the real ones.
+// Shows file names in lists in printable form, while the items keep the real ones.
 #pragma once
 #include "seams/printable.h"
 #include <QStyledItemDelegate>

@@ -79,7 +79,7 @@ void PreviewPane::showFile(const QString& path)
     if (path.isEmpty()) return say(tr("No picture is selected."));
     if (file.isDir()) return say(folderWords(file));
     if (!family) return say(tr("Not a picture."));
-    slow_.start(); // the picture before stays so long: no flicker while walking through a folder
+    slow_.start(); // the previous picture stays that long: no flicker while browsing a folder
     ask();
 }
 

@@ -1,5 +1,5 @@
-// PreviewPane: what a file is, beside the tree or list in which it is selected: the picture, its name, kind and size.
-// The picture is read in the background; choosing another file gives the one before up.
+// PreviewPane: shows a file beside the tree or list in which it is selected: its picture, name, kind and size. The
+// picture is read in the background; selecting another file cancels the reading.
 #pragma once
 #include "seams/Previews.h"
 #include <QTimer>
@@ -25,7 +25,7 @@ class PreviewPane final : public QWidget {
   private:
     void ask();
     void answered(const Preview& preview);
-    void say(const QString& instead); // in place of a picture
+    void say(const QString& instead); // shown in place of a picture
     void paintSurface();
 
     Previews& previews_;
@@ -36,8 +36,8 @@ class PreviewPane final : public QWidget {
     QImage image_;
     QSize pictureSize_;
     Previews::Request request_;
-    QTimer slow_;    // until it is said that the picture is being read
-    QTimer resized_; // until a picture of another size is asked for
+    QTimer slow_;    // until the message that the picture is being read
+    QTimer resized_; // until a picture of another size is requested
 };
 
 } // namespace velara

@@ -30,12 +30,12 @@ QWidget* parentOfDialogs()
 int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)
 {
     QStringList lines = text.split('\n');
-    for (QString& line : lines) line = printable(line); // there may be names of files in them
-    // On the heap and watched: its parent may go while the box stands.
+    for (QString& line : lines) line = printable(line); // may contain file names
+    // On the heap and watched: its parent may be deleted while the box is open.
     const QPointer<QMessageBox> box =
         new QMessageBox(boxIcon(icon), title, lines.join('\n'), buttons, parentOfDialogs());
     box->setObjectName("messageBox");
-    box->setTextFormat(Qt::PlainText); // a path may hold anything
+    box->setTextFormat(Qt::PlainText); // a path may contain anything
     const int answer = box->exec();
     delete box;
     return answer;

@@ -1,4 +1,4 @@
-// Message boxes, and what dialogs of the program stand over.
+// Message boxes, and the parent of the program's dialogs.
 #pragma once
 #include "seams/Dialogs.h"
 #include <QMessageBox>

@@ -8,7 +8,7 @@ namespace velara {
 fPathLabel::fPathLabel(const QString& objectName, QWidget* parent) : QLabel(parent)
 {
     setObjectName(objectName);
-    setTextFormat(Qt::PlainText); // a path may hold anything
+    setTextFormat(Qt::PlainText); // a path may contain anything
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 

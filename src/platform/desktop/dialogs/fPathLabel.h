@@ -1,4 +1,4 @@
-// fPathLabel: a path in one line, shortened in its middle where there is no room for it.
+// fPathLabel: a path in one line, elided in its middle when it doesn't fit.
 #pragma once
 #include <QLabel>
 
@@ -8,7 +8,7 @@ class fPathLabel final : public QLabel {
     Q_OBJECT
   public:
     explicit fPathLabel(const QString& objectName, QWidget* parent = nullptr);
-    /// What is shortened is whole in the tip.
+    /// The tool tip has the full path.
     void setPath(const QString& path);
     QSize minimumSizeHint() const override;
 

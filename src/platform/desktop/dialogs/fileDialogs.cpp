@@ -23,7 +23,7 @@ const QString kSection = QStringLiteral("FileDialogs");
 constexpr QSize kUsualSize(1020, 580);
 constexpr int kPreviewWidth = 240;
 
-/// The toolkit's own dialog: the one of a desktop has no room for a preview.
+/// Qt's own dialog: a desktop's native one has no room for a preview.
 class RememberedDialog : public QFileDialog {
   public:
     RememberedDialog(Platform& platform, const QString& name, const QString& title, const QString& folder)
@@ -48,9 +48,9 @@ class RememberedDialog : public QFileDialog {
         const QSize size = sizeOf(parts[0], "x");
         resize(size.isEmpty() ? kUsualSize : size);
         if (!restoreState(QByteArray::fromBase64(parts.value(1).toLatin1()))) layOutColumns();
-        if (!folder.isEmpty()) setDirectory(folder); // and not that of the last time
+        if (!folder.isEmpty()) setDirectory(folder); // instead of the last one's
     }
-    /// The toolkit's own widths cut most dates and kinds off.
+    /// Qt's default widths truncate most dates and kinds.
     void layOutColumns()
     {
         constexpr int kColumns[] = {210, 80, 120, 160}; // name, size, kind, date
@@ -60,7 +60,7 @@ class RememberedDialog : public QFileDialog {
     }
     static QList<QUrl> places()
     {
-        QList<QUrl> urls = {QUrl("file:")}; // the machine
+        QList<QUrl> urls = {QUrl("file:")}; // this computer
         for (const auto place : {QStandardPaths::HomeLocation, QStandardPaths::DesktopLocation,
                                  QStandardPaths::PicturesLocation, QStandardPaths::DownloadLocation})
             if (const QString path = QStandardPaths::writableLocation(place); QFileInfo(path).isDir())
@@ -93,7 +93,7 @@ class PictureDialog : public RememberedDialog {
     }
 };
 
-/// Asks about the file that will really be written, which may have another name than the one that was chosen.
+/// Asks about the file that will really be written, whose name may differ from the chosen one.
 class SaveDialog final : public PictureDialog {
   public:
     SaveDialog(Platform& platform, const FileDialog& request)
@@ -118,7 +118,7 @@ class SaveDialog final : public PictureDialog {
 
 std::optional<QString> run(QFileDialog* dialog)
 {
-    const QPointer<QFileDialog> watched = dialog; // its parent may go while it stands
+    const QPointer<QFileDialog> watched = dialog; // its parent may be deleted while it is open
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!watched) return std::nullopt;
     const QStringList files = dialog->selectedFiles();

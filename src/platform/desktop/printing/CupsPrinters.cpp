@@ -26,7 +26,7 @@ constexpr struct {
 };
 // clang-format on
 
-/// That of this country first.
+/// This country's first.
 std::vector<Paper> usualPapers()
 {
     std::vector<Paper> papers;
@@ -36,7 +36,7 @@ std::vector<Paper> usualPapers()
     return papers;
 }
 
-/// The papers with one of them in front.
+/// The papers with `first` in front.
 std::vector<Paper> led(const Paper& first, std::vector<Paper> papers)
 {
     std::erase_if(papers, [&](const Paper& paper) { return paper.name == first.name; });
@@ -44,7 +44,7 @@ std::vector<Paper> led(const Paper& first, std::vector<Paper> papers)
     return papers;
 }
 
-/// What the server is to do with a page: as it is, in so many copies, as well as it should.
+/// The server's options for a page: unscaled, with its number of copies and its quality.
 JobOptions optionsOf(const PrintPage& page)
 {
     constexpr const char* kQualities[] = {"3", "4", "4", "5"}; // the server knows draft, normal and high
@@ -57,7 +57,7 @@ JobOptions optionsOf(const PrintPage& page)
 
 QString printBy(const QString& printer, const PrintPage& page, const JobOptions& options, Patience& patience)
 {
-    const QTemporaryDir folder; // for its owner alone
+    const QTemporaryDir folder; // accessible to its owner only
     const QString pdf = folder.filePath("page.pdf");
     const auto wanted = [&patience] { return patience.lasts(); };
     const QString reason = writePagePdf(pdf, page, wanted);
@@ -123,7 +123,7 @@ void CupsPrinters::choose(const PrinterChoice& choice)
 
 Printers::Request CupsPrinters::print(const QString& printer, const PrintPage& page, Done done)
 {
-    constexpr std::chrono::hours kWriting{24}; // the page takes what it takes; then the server's time begins
+    constexpr std::chrono::hours kWriting{24}; // writing the page has no real limit; then the server's time begins
     JobOptions options = optionsOf(page);
     if (chosenFor(printer).gray) options.emplace_back("print-color-mode", "monochrome");
     return talks_.ask<QString>([=](Patience& patience) { return printBy(printer, page, options, patience); }, kSilent,

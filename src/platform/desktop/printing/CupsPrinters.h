@@ -1,5 +1,5 @@
-// CupsPrinters: the real Printers. Each question to the print server has a thread of its own; nothing of the toolkit's
-// printing is used, as it asks the server in the window's thread.
+// CupsPrinters: the real Printers. Each request to the print server has a thread of its own; Qt's printing isn't used,
+// as it asks the server in the window's thread.
 #pragma once
 #include "platform/BackgroundQueue.h"
 #include "platform/desktop/printing/Talks.h"
@@ -23,12 +23,12 @@ class CupsPrinters final : public Printers {
     Request printToFile(const QString& path, const PrintPage& page, Done done) override;
 
   private:
-    /// What is chosen for a printer, which may be nothing.
+    /// The choice for a printer, if any.
     PrinterChoice chosenFor(const QString& printer) const;
 
     Platform& platform_;
     PrinterChoice chosen_;
-    bool toFile_ = false; // by choice
+    bool toFile_ = false; // chosen by the user
     Talks talks_;
     BackgroundQueue files_;
 };

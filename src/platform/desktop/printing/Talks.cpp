@@ -10,9 +10,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPoll = 20ms;     // the thread can't call back: whoever asked may be gone before it
-constexpr auto kEnding = 1000ms; // for threads that are given up, at the end of the program
-constexpr int kMostOpen = 8;     // threads that hang
+constexpr auto kPoll = 20ms;     // the thread can't call back: the asking object may be gone first
+constexpr auto kEnding = 1000ms; // for abandoned threads, at the end of the program
+constexpr int kMostOpen = 8;     // hanging threads
 
 } // namespace
 
@@ -53,7 +53,7 @@ Talks::Request Talks::poll(const std::shared_ptr<Patience>& patience, std::funct
         const std::function<void()> give = answer();
         if (!give) return;
         timer->stop();
-        give(); // which may let go of the request
+        give(); // may release the request
     });
     timer->start(kPoll);
     return {timer, [patience](QTimer* polling) {

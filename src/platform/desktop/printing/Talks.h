@@ -1,5 +1,5 @@
-// Talks: questions to a library that may hang for as long as it likes, each in a thread of its own. The answer comes in
-// the asking thread within the patience, whatever the library does; a thread that hangs is left to end by itself.
+// Talks: calls to a library that may hang, each in a thread of its own. The answer arrives in the asking thread within
+// the time limit (Patience), whatever the library does; a thread that hangs is left to end by itself.
 #pragma once
 #include <atomic>
 #include <chrono>
@@ -8,7 +8,7 @@
 
 namespace velara {
 
-/// How long an answer is waited for; for any thread.
+/// The time limit of an answer; thread-safe.
 class Patience {
   public:
     explicit Patience(std::chrono::milliseconds most) { startAnew(most); }
@@ -25,17 +25,17 @@ class Patience {
 class Talks {
   public:
     using Request = std::shared_ptr<void>;
-    /// Runs in the thread, and is to end soon once the patience doesn't last.
+    /// Runs in the thread, and should end soon after the patience is over.
     template <class Result> using Work = std::function<Result(Patience&)>;
 
     Talks();
-    /// Gives those that are under way a second to end.
+    /// Gives threads under way a second to end.
     ~Talks();
     Talks(const Talks&) = delete;
     Talks& operator=(const Talks&) = delete;
 
-    /// done comes from the message loop, with what the work gave or, when the patience is over, with otherwise. Whoever
-    /// lets go of the request gives the work up: no answer comes then.
+    /// done is called from the message loop, with the result of the work or, when the patience is over, with otherwise.
+    /// Releasing the request cancels the work: no answer comes then.
     template <class Result>
     [[nodiscard]] Request ask(Work<Result> work, const Result& otherwise, std::chrono::milliseconds patience,
                               std::function<void(const Result&)> done)
@@ -60,7 +60,7 @@ class Talks {
   private:
     struct Open;
     void start(const std::shared_ptr<Patience>& patience, std::function<void()> work);
-    /// Asks again and again until there is an answer to give.
+    /// Polls until there is an answer to deliver.
     static Request poll(const std::shared_ptr<Patience>& patience, std::function<std::function<void()>()> answer);
 
     std::shared_ptr<Open> open_; // a thread may outlive this object

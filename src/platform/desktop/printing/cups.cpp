@@ -6,11 +6,11 @@ namespace velara {
 
 namespace {
 
-constexpr double kSilence = 0.25; // seconds until the patience is looked at
-constexpr qint64 kSlowest = 100;  // bytes of a job a millisecond
+constexpr double kSilence = 0.25; // seconds between checks of the patience
+constexpr qint64 kSlowest = 100;  // bytes of a job per millisecond
 constexpr double kUnitsAMillimetre = 100;
 
-/// A connection to the print server, which may be none.
+/// A connection to the print server; may be null.
 class Server {
   public:
     explicit Server(const Patience& patience)
@@ -29,7 +29,7 @@ class Server {
     http_t* http_;
 };
 
-/// A queue of the server, which may be none.
+/// A queue of the server; may be null.
 class Queue {
   public:
     Queue(const Server& server, const QString& name)
@@ -58,7 +58,7 @@ Printers::List cupsQueues(const Patience& patience)
     cups_dest_t* dests = nullptr;
     const int count = cupsGetDests2(server.get(), &dests);
     for (int i = 0; i < count; ++i) {
-        if (dests[i].instance) continue; // the same printer again, with options of a user's own
+        if (dests[i].instance) continue; // the same printer again, with a user's own options
         list.names << QString::fromUtf8(dests[i].name);
         if (dests[i].is_default) list.current = list.names.back();
     }
@@ -74,7 +74,7 @@ std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& ot
     std::vector<Paper> papers;
     const auto add = [&papers](const cups_size_t& size) {
         const QString name = QString::fromUtf8(size.media);
-        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some without margins too
+        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some without margins, too
         if (known || name.startsWith("custom_") || size.width <= 0 || size.length <= 0) return;
         papers.push_back({name, QSizeF(size.width, size.length) / kUnitsAMillimetre,
                           QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre});

@@ -1,5 +1,5 @@
-// What is asked of the print server; any thread may call. Looked for every quarter of a second of silence, the patience
-// ends a call; names and neighbours of the network are asked by libraries that don't know of it.
+// Calls to the print server; thread-safe. The patience is checked every quarter of a second of silence and ends a call;
+// host name look-ups and network discovery are done by libraries that can't be interrupted.
 #pragma once
 #include "platform/desktop/printing/Talks.h"
 #include "seams/Printers.h"
@@ -7,19 +7,18 @@
 
 namespace velara {
 
-/// How long the server may take to answer, in all.
+/// The server's total time to answer.
 constexpr std::chrono::milliseconds kServerPatience{10000};
 
-/// Options of a print job: name and value, as the server calls them.
+/// Options of a print job: the server's names and values.
 using JobOptions = std::vector<std::pair<QByteArray, QByteArray>>;
 
 /// The queues in the server's order; the current one is the server's default. Empty without a server.
 Printers::List cupsQueues(const Patience& patience);
-/// The sheets that a queue takes, first the one that it takes unless it is told otherwise; otherwise when it doesn't
-/// say.
+/// The papers of a queue, its default first; `otherwise` when it doesn't tell.
 std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& otherwise, const Patience& patience);
-/// Gives a PDF to a queue. The reason why not, in words for a person; empty when it is taken. Once the server has
-/// answered, the patience starts anew, with the time that the bytes may take at 100 kB a second.
+/// Sends a PDF to a queue. Returns the reason of a failure, for the user; empty when it is accepted. Once the server
+/// has answered, the patience restarts, with the time for the bytes at 100 kB a second.
 QString cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options,
                   Patience& patience);
 

@@ -18,7 +18,7 @@ fNumberBox::fNumberBox(QSlider& slider, const QString& objectName, const Measure
     connect(&slider, &QSlider::rangeChanged, this, &QSpinBox::setRange);
     connect(this, &QSpinBox::valueChanged, &slider, &QSlider::setValue);
     connect(&slider, &QSlider::valueChanged, this, [this](int now) {
-        if (now != value()) setValue(now); // else what is being typed would be written anew
+        if (now != value()) setValue(now); // otherwise the text being typed would be rewritten
     });
 }
 

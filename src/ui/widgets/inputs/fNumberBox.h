@@ -1,5 +1,5 @@
-// fNumberBox: the number beside a slider, which each sets in the other. It takes the slider's range, and shows the
-// slider's position in a measure of its own. Letters go past it, so that keys of the window act while it has the focus.
+// fNumberBox: the number box beside a slider; each sets the other. It takes the slider's range, and shows the slider's
+// position in units of its own. It ignores letters, so that the window's shortcut keys work while it has the focus.
 #pragma once
 #include <QSpinBox>
 #include <optional>
@@ -12,11 +12,11 @@ class fNumberBox final : public QSpinBox {
     Q_OBJECT
   public:
     struct Measure {
-        double step = 1; // what is shown is position * step
+        double step = 1; // displayed value per slider position
         int decimals = 0;
-        const char* unit = ""; // behind the number
+        const char* unit = ""; // after the number
     };
-    /// Takes the place in the slider's parent and its accessible name, both as they are now.
+    /// Takes the slider's present parent and accessible name.
     fNumberBox(QSlider& slider, const QString& objectName, const Measure& measure);
     fNumberBox(QSlider& slider, const QString& objectName) : fNumberBox(slider, objectName, Measure()) {}
 
@@ -27,7 +27,7 @@ class fNumberBox final : public QSpinBox {
     bool event(QEvent* event) override;
 
   private:
-    /// The number in a text, with a point or a comma; none for what is no number.
+    /// The number in a text, with a point or a comma; no value if it isn't a number.
     std::optional<double> numberOf(QString text) const;
 
     Measure measure_;

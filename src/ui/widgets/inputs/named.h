@@ -1,10 +1,10 @@
-// Controls are found by tests and scripts under their fixed names, and told by screen readers under names for people.
+// Names for controls: fixed ones, by which tests and scripts find them, and accessible ones for screen readers.
 #pragma once
 #include <QString>
 
 namespace velara {
 
-/// The control itself, with its name and, unless it is empty, the one that a person is told.
+/// Sets a control's object name and, unless it is empty, its accessible name; returns the control.
 template <class Control> Control* named(Control* control, const QString& name, const QString& accessibleName = {})
 {
     control->setObjectName(name);

@@ -1,4 +1,4 @@
-// A small mark laid over a picture: grips, carets, the lines of a rectangle.
+// A small mark over a picture: grips, carets, the lines of a rectangle.
 #pragma once
 #include <QPainter>
 #include <QWidget>
@@ -7,7 +7,7 @@ namespace velara {
 
 class Mark final : public QWidget {
   public:
-    /// Fills the rectangle, which is all of the mark.
+    /// Fills the rectangle, which is the whole mark.
     using Paint = void (*)(QPainter& painter, const QRect& rect);
 
     Mark(Paint paint, const QString& name, QWidget* parent) : QWidget(parent), paint_(paint) { setObjectName(name); }

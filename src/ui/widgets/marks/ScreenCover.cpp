@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kLineWidth = 2;
 
-/// A line of the rectangle: dashes of black and white, so that it is seen on everything.
+/// A line of the rectangle: dashes of black and white, visible on everything.
 void paintLine(QPainter& painter, const QRect& rect)
 {
     painter.fillRect(rect, Qt::white);
@@ -124,7 +124,7 @@ bool ScreenCover::show(const ScreenPicture& picture)
         furnish(*windows_.back());
     }
     for (CoverWindow* window : windows_) window->showFullScreen();
-    windows_.front()->activateWindow(); // the keys go there
+    windows_.front()->activateWindow(); // to receive the keys
     return true;
 }
 
@@ -132,7 +132,7 @@ QImage ScreenCover::image() const { return imageOver(picture_.bits); }
 
 QPoint ScreenCover::pixelAt(QPointF global) const
 {
-    // A drag may leave its screen: the nearest one has the measure.
+    // A drag may leave its screen: then the nearest one's scale applies.
     const ScreenPicture::Part* nearest = &picture_.parts.front();
     double least = 1e9;
     for (const ScreenPicture::Part& part : picture_.parts) {
@@ -162,7 +162,7 @@ void ScreenCover::showRectangle()
     for (CoverWindow* window : windows_) window->showRectangle(rectangle());
 }
 
-/// The windows end after the event that one of them is in.
+/// Deletes the windows after the event that one of them is handling.
 void ScreenCover::close()
 {
     for (CoverWindow* window : std::exchange(windows_, {})) {

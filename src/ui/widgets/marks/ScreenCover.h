@@ -1,5 +1,5 @@
-// ScreenCover: a picture of the screens on every screen, one borderless window each, with a rectangle of four lines on
-// it. What the mouse does with the rectangle is for who derives from this. Esc, the right button or closing one of the
+// ScreenCover: covers every screen with a borderless window that shows a picture of it, with a rectangle of four lines
+// on top. Derived classes define what the mouse does with the rectangle. Esc, the right button or closing one of the
 // windows leaves.
 #pragma once
 #include "seams/Screen.h"
@@ -21,7 +21,7 @@ class CoverWindow final : public QWidget {
     CoverWindow(ScreenCover& cover, const ScreenPicture::Part& part);
 
     const ScreenPicture::Part& part() const { return part_; }
-    /// The place of a pixel of the picture in this window.
+    /// The position of a picture's pixel in this window.
     QPointF toWindow(QPoint pixel) const;
     void showRectangle(const QRect& rectangle);
 
@@ -57,10 +57,10 @@ class ScreenCover : public QObject {
     /// The picture without a copy; valid as long as picture().
     QImage image() const;
     QRect whole() const { return {0, 0, picture_.bits.width(), picture_.bits.height()}; }
-    /// The pixel under a place of the desktop, or the nearest one's; at the far ends of a screen one beyond it.
+    /// The pixel at a desktop position, or the nearest one; at the far ends of a screen one beyond it.
     QPoint pixelAt(QPointF global) const;
 
-    // --- Of the mouse and the keys
+    // --- Mouse and keys
     virtual void press(QPointF global) = 0;
     virtual void move(QPointF global) = 0;
     virtual void release(QPointF global) = 0;
@@ -72,7 +72,7 @@ class ScreenCover : public QObject {
     void left();
 
   protected:
-    /// What else stands on a window that was made; the window owns it.
+    /// Adds other widgets to a new window, which owns them.
     virtual void furnish(CoverWindow&) {}
     virtual QRect rectangle() const = 0;
     const std::vector<CoverWindow*>& windows() const { return windows_; }
@@ -85,7 +85,7 @@ class ScreenCover : public QObject {
     std::vector<CoverWindow*> windows_;
 };
 
-/// The picture's pixels within the rectangle; black where it reaches out of it. Null for an empty one.
+/// The picture's pixels within the rectangle; black where that exceeds it. Null for an empty one.
 Bits partOf(const Bits& bits, const QRect& rectangle);
 
 } // namespace velara

@@ -1,9 +1,8 @@
-// A reader that has been taken over: what stands in the file is tried, and the reason says whether it worked. It takes
-// the readers' place in a build of velara-decode that only the tests have.
+// A compromised reader: it tries what the file says, and reports as the reason whether it worked. It replaces the
+// readers in a build of velara-decode that only the tests have.
 //
-// The file: the name of an attempt, a line end, what it is tried on. The extension says which cage is closed: "plain",
-// "fonts", or "nofilter" for the second without the filter of system calls, so that the other layers show what they
-// hold.
+// The file: the name of an attempt, a line end, its target. The extension selects the cage: "plain", "fonts", or
+// "nofilter" for the second without the filter of system calls, so that the other layers are tested.
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <arpa/inet.h>
@@ -32,7 +31,7 @@ void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::i
 
 namespace {
 
-// Each gives 0 or more when it worked, else -1 with errno.
+// Each returns 0 or more when it worked, else -1 with errno.
 using Attempt = long (*)(const char* on);
 
 long writeParent(const char* on)
@@ -58,7 +57,7 @@ long throughSharedMapping(const char* on)
     return 0;
 }
 
-/// Whether the way is open: nobody need answer.
+/// Whether connecting is possible: no answer is needed.
 template <class Address> long reach(const Address& address, std::size_t size)
 {
     const int line = socket(reinterpret_cast<const sockaddr&>(address).sa_family, SOCK_STREAM, 0);
@@ -154,7 +153,7 @@ constexpr struct {
          const bool known = stat(on, &byPath) == 0 && fstat(second, &byFile) == 0 && byPath.st_size == byFile.st_size;
          return same && known && close(first) == 0 && access(on, R_OK) == 0 ? 0 : -1;
      }},
-    {"nothing", [](const char*) -> long { return 0; }}, // proves that what works is told
+    {"nothing", [](const char*) -> long { return 0; }}, // proves that success is reported
 };
 
 Decoded tryIt(const FileBytes& file)

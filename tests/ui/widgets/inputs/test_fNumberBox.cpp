@@ -1,4 +1,4 @@
-// The number beside a slider, typed into as a person does.
+// The number box beside a slider, used by typing.
 #include "support/ui/controls.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include <QtTest>
@@ -27,15 +27,15 @@ struct NumberBox : ::testing::Test {
 TEST_F(NumberBox, SliderAndNumberFollowEachOther)
 {
     const std::tuple<int, int, fNumberBox::Measure, const char*, int, const char*> cases[] = {
-        // lowest, highest, measure, what is typed, where the slider goes, what is shown after Enter
+        // lowest, highest, measure, typed text, resulting position, text after Enter
         {0, 100, {}, "42", 42, "42"},
         {0, 100, {1, 0, "%"}, "42", 42, "42%"},
-        {0, 100, {}, "999", 99, "99"}, // the third figure is refused
+        {0, 100, {}, "999", 99, "99"}, // the third digit is refused
         {-255, 255, {}, "-31", -31, "-31"},
-        {3, 24, {}, "12", 12, "12"}, // by way of a 1 that is too small
+        {3, 24, {}, "12", 12, "12"}, // through a 1 that is too small
         {0, 200, {0.01, 2}, "1.25", 125, "1.25"},
         {0, 200, {0.01, 2}, "0,5", 50, "0.50"},
-        {0, 200, {0.01, 2}, "7", 60, "0.60"}, // too large: what stood before
+        {0, 200, {0.01, 2}, "7", 60, "0.60"}, // too large: restores the previous value
     };
     for (const auto& [low, high, measure, typed, position, text] : cases) {
         auto* box = make(low, high, measure);

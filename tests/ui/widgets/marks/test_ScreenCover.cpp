@@ -1,4 +1,4 @@
-// The picture of several screens, picked from on screens of different density.
+// Picking from a picture of several screens, on screens of different density.
 #include "support/pictures.h"
 #include "ui/utilities/fCaptureRectangle.h"
 #include <QApplication>
@@ -7,7 +7,7 @@ namespace velara {
 
 TEST(ScreenCover, ADragCountsThePixelsOfTheScreensThatItIsOn)
 {
-    // 100 by 80 at one pixel a place; right of it, lower, 100 by 80 at two; nothing above that one.
+    // 100 by 80 at one pixel per unit; right of it, lower, 100 by 80 at two; nothing above that one.
     const ScreenPicture picture{randomBits(300, 200, 4),
                                 {{{0, 0, 100, 80}, {0, 0, 100, 80}}, {{100, 20, 100, 80}, {100, 40, 200, 160}}}};
     fCaptureRectangle picker(nullptr);
@@ -16,8 +16,8 @@ TEST(ScreenCover, ADragCountsThePixelsOfTheScreensThatItIsOn)
     QObject::connect(&picker, &ScreenCover::left, [&] { ++leaves; });
     const std::tuple<QPointF, QPointF, QRect> drags[] = {
         {{10, 10}, {40, 30}, {10, 10, 30, 20}},
-        {{110, 30}, {150.5, 70}, {120, 60, 81, 80}},    // half a place is a pixel
-        {{190, 90}, {20, 5}, {20, 5, 260, 175}},        // from one to the other
+        {{110, 30}, {150.5, 70}, {120, 60, 81, 80}},    // half a unit is a pixel
+        {{190, 90}, {20, 5}, {20, 5, 260, 175}},        // from one screen to the other
         {{110, 30}, {5000, 5000}, {120, 60, 180, 140}}, // beyond all of them
     };
     for (const auto& [from, to, wanted] : drags) {
@@ -37,7 +37,7 @@ TEST(ScreenCover, ADragCountsThePixelsOfTheScreensThatItIsOn)
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->objectName() == "fCaptureRectangle" && window->isVisible()) windows << window;
     ASSERT_EQ(windows.size(), 2);
-    windows[1]->close(); // one goes, both go
+    windows[1]->close(); // closing one closes both
     EXPECT_FALSE(windows[0]->isVisible());
     EXPECT_EQ(leaves, 1);
 }
