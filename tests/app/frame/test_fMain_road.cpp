@@ -3,10 +3,10 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "commands/sizeWords.h"
-#include "commands/vocabulary.h"
 #include "document/resizing.h"
 #include "seams/findRow.h"
 #include "support/files.h"
+#include "support/ui/pixelWords.h"
 #include <QtTest>
 #include <QtWidgets>
 #include <condition_variable>
@@ -17,9 +17,6 @@ namespace velara {
 
 namespace {
 
-/// Words of the windows that change pixels.
-constexpr std::string_view kWindowWords[] = {"IMAGESIZE",       "CANVASSIZE",    "IMAGEORIENTATION", "IMAGEROTATE",
-                                             "IMAGERESOLUTION", "IMAGETEXTURES", "IMAGECOLORDEPTH",  "CUT"};
 /// Words that are done in one go.
 const std::set<std::string_view> kAtOnce{"REDO", "UNDO"};
 
@@ -28,13 +25,6 @@ constexpr std::string_view kOfWhatIsSeen = "CANVASSIZE";
 
 /// Words that leave this small picture as it is; the first is a half of the same picture once more.
 const std::set<std::string_view> kAsBefore{"50", "CURTAINWHITY", "CUSTOMCURTAIN", "FISHEYE"};
-
-bool changesPixels(const CommandWord& word)
-{
-    const auto is = [&](auto... kinds) { return ((word.kind == kinds) || ...); };
-    return is(WordKind::Step, WordKind::Preset, WordKind::Dialog, WordKind::Size) ||
-           std::ranges::find(kWindowWords, word.word) != std::end(kWindowWords);
-}
 
 bool isSizing(std::string_view word)
 {
@@ -143,8 +133,7 @@ struct Road : FrameTest {
             if (!dialog || dialog == below) return;
             user.stop();
             moveEverything(*dialog);
-            for (const char* name : {"cmdOK", "CmdOK"})
-                if (auto* ok = dialog ? dialog->findChild<QAbstractButton*>(name) : nullptr) ok->click();
+            clickOk(*dialog);
             if (inDialog) finish();
             if (dialog) dialog->close();
         });
@@ -153,15 +142,6 @@ struct Road : FrameTest {
         frame->Mmenu(QString::fromUtf8(word.word.data(), qsizetype(word.word.size())));
         if (!inDialog) finish();
         return computed;
-    }
-    static void moveEverything(QWidget& dialog)
-    {
-        for (auto* slider : dialog.findChildren<QSlider*>())
-            slider->setValue((slider->minimum() + 3 * slider->maximum()) / 4);
-        for (auto* box : dialog.findChildren<QCheckBox*>()) box->toggle();
-        for (auto* list : dialog.findChildren<QComboBox*>()) list->setCurrentIndex(1);
-        if (auto* width = dialog.findChild<QLineEdit*>("txtW")) width->setText("31");
-        if (auto* smallest = dialog.findChild<QRadioButton*>("o340")) smallest->click();
     }
 };
 
