@@ -20,18 +20,53 @@ Failure stepsFault()
 
 } // namespace
 
-void Session::open(const Bits& bits, bool keepSteps)
+void checkRead(bool hasPicture, const QString& reason, bool partial)
+{
+    if (!hasPicture) throw fileFault(reason);
+    if (!reason.isEmpty() && !partial) throw fileFault(reason + QStringLiteral("; --partial takes what is there"));
+}
+
+void Session::open(const QString& path, bool partial, bool keepSteps)
+{
+    begin(keepSteps);
+    Opened opened;
+    workspace_->open(path, Unreadable::Refused, [&](const Opened& became) { opened = became; });
+    workspace_->wait();
+    checkRead(bool(opened.document), opened.reason, partial);
+    take(opened.document);
+}
+
+void Session::adopt(const Bits& bits, bool keepSteps)
+{
+    begin(keepSteps);
+    take(workspace_->add(bits));
+}
+
+void Session::begin(bool keepSteps)
 {
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
         throw stepsFault();
-    workspace_.emplace(folder_ ? folder_->path() : QString());
-    document_ = workspace_->add(bits);
-    workspace_->handOver(*document_);
+    workspace_.emplace(folder_ ? folder_->path() : QString(), platform_);
     workspace_->engine().clock = [] { return 0U; }; // no report ever falls due
     QObject::connect(&*workspace_, &Workspace::progress, &*workspace_, [this](const DocumentHandle&, int percent) {
         if (progress_) progress_(percent);
     });
+}
+
+void Session::take(const DocumentHandle& document)
+{
+    document_ = document;
+    workspace_->handOver(*document);
     checkSteps();
+}
+
+SaveResult Session::save(const QString& path)
+{
+    SaveReport report;
+    workspace_->save(document_, path, [&](const SaveReport& became) { report = became; });
+    workspace_->wait();
+    report.tell(platform_);
+    return report.result;
 }
 
 void Session::checkSteps()
@@ -42,7 +77,7 @@ void Session::checkSteps()
 void Session::setProgress(std::function<void(int)> progress)
 {
     progress_ = std::move(progress);
-    workspace_->engine().clock = [this] { return machine_.milliseconds(); };
+    workspace_->engine().clock = [this] { return platform_.milliseconds(); };
 }
 
 void Session::change(const Job& job, After after)

@@ -3,7 +3,7 @@
 #include "batch/Failure.h"
 #include "commands/jobs.h"
 #include "document/Workspace.h"
-#include "seams/Machine.h"
+#include "seams/Platform.h"
 #include <QTemporaryDir>
 #include <optional>
 
@@ -12,17 +12,26 @@ namespace velara {
 /// Whether a step needs the pictures before; sizing words in a row go back to the one before the first of them.
 enum class GoesBack { Never, WhenRepeated, Always };
 
+/// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
+void checkRead(bool hasPicture, const QString& reason, bool partial);
+
 class Session {
   public:
-    explicit Session(Machine& machine) : machine_(machine) {}
+    explicit Session(Platform& platform) : platform_(platform) {}
 
-    /// Takes the picture; with keepSteps every change is kept in a private folder so that it can be undone.
-    void open(const Bits& bits, bool keepSteps);
+    // Each throws Failure; after that of a change the picture is as it was.
+
+    /// Reads the picture, one of which a part is missing only with partial. With keepSteps every change is kept in a
+    /// private folder so that it can be undone.
+    void open(const QString& path, bool partial, bool keepSteps);
+    /// The same with a picture that is there.
+    void adopt(const Bits& bits, bool keepSteps);
+    /// Writes the picture; notices go to the platform.
+    SaveResult save(const QString& path);
     /// No step to come goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }
 
-    // Each throws Failure and leaves the picture as it was.
     void change(const Job& job, After after = After::Step);
     void crop();
     void undo() { workspace_->step(document_, true); }
@@ -38,9 +47,11 @@ class Session {
     void setProgress(std::function<void(int)> progress);
 
   private:
+    void begin(bool keepSteps);
+    void take(const DocumentHandle& document);
     void checkSteps();
 
-    Machine& machine_;
+    Platform& platform_;
     std::optional<QTemporaryDir> folder_; // of the undo series
     std::optional<Workspace> workspace_;
     DocumentHandle document_;

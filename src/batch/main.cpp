@@ -19,9 +19,7 @@ namespace {
 Bits read(Platform& platform, const QString& path, bool partial)
 {
     const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
-    if (!picture.ok()) throw fileFault(picture.reason);
-    if (!picture.reason.isEmpty() && !partial)
-        throw fileFault(picture.reason + QStringLiteral("; --partial takes what is there"));
+    checkRead(picture.ok(), picture.reason, partial);
     return picture.bits;
 }
 
@@ -49,12 +47,11 @@ QString savedExtensions()
     return saved.join(QStringLiteral(", "));
 }
 
-void write(Platform& platform, const Bits& bits, const QString& output)
+void write(Session& session, const QString& output)
 {
-    const SaveTarget target = saveTargetOf(output);
     const QString file = fileOf(output);
     const bool isNew = !QFileInfo::exists(file);
-    switch (savePicture(platform, bits, target.name, target.extension)) {
+    switch (session.save(output)) {
     case SaveResult::Written:
         return;
     case SaveResult::NotWritten:
@@ -101,18 +98,17 @@ void run(const QStringList& arguments)
     BatchPlatform platform;
     fileOf(line.output);
     const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
-    const Bits input = readPicture(line.input);
+    Session session(platform);
+    session.open(line.input, line.partial, line.lastGoingBack() >= 0);
     for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare(readPicture);
-    Session session(platform);
-    session.open(input, line.lastGoingBack() >= 0);
     takeSteps(session, line);
     if (line.web)
         std::printf("%s\n", writeWeb(session.picture(), *line.web, line.output).toUtf8().constData());
     else if (line.icon)
         writeIcon(session.picture(), *line.icon, line.output);
     else
-        write(platform, session.picture(), line.output);
+        write(session, line.output);
 }
 
 /// More than the machine has makes an allocation fail, so that it is reported, instead of the system ending the

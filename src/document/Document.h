@@ -2,6 +2,7 @@
 // its window; the batch program uses it alone.
 #pragma once
 #include "document/road/DocumentHandle.h"
+#include "document/road/FileFacts.h"
 #include "document/undo/UndoStore.h"
 #include "paint/Painter.h"
 #include "pixels/Bits.h"
@@ -53,14 +54,15 @@ class Document {
     /// Closing it now would lose something: what window marks and questions go by.
     bool wouldBeLost() const
     {
-        return PictureExists() && (waitingWork || isBrought || (Changed && undo.mayHaveChanged()));
+        return PictureExists() && (waitingWork || file.isBrought || (Changed && undo.mayHaveChanged()));
     }
-    /// The picture stands in the file that Tag names.
+    /// The picture stands in its file.
     void saved()
     {
-        Changed = isBrought = false;
-        hasFile = true;
+        Changed = file.isBrought = file.isCutOff = false;
+        file.isFile = true;
     }
+    QString Tag() const { return file.Tag(); }
     /// Rises with each snapshot and step: while it stands, the committed picture is the same.
     int commits() const { return commits_; }
     /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
@@ -72,11 +74,9 @@ class Document {
     TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
     Painter paint{bits_, Region, touched};
     UndoStore undo;
-    QString Tag;          // the full path, unique among the open documents
-    bool hasFile = false; // Tag is its own file, which SAVE may write to without asking
+    FileFacts file;
     bool Changed = false;
-    bool isBrought = false; // it came from outside of any file, and was never saved
-    bool Zoomed = false;    // a sizing command was the last change
+    bool Zoomed = false; // a sizing command was the last change
     /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
     /// failed, and then the window still has it.
     std::function<bool()> waitingWork;

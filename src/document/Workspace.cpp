@@ -1,44 +1,17 @@
 #include "document/Workspace.h"
-#include "document/Draft.h"
+#include "document/WorkspacePlaces.h"
 #include "pixels/RuntimeError.h"
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QThread>
 #include <algorithm>
-#include <deque>
 
 namespace velara {
 
-/// What waits in a document's queue: a change, or a call.
-struct Workspace::Item {
-    Step step;
-    Then then;
-    std::function<void()> call;
-    int number = kAll; // of a change
-
-    bool isMeant(int change) const { return !call && (change == kAll || change == number); }
-};
-
-/// A change under way.
-struct Workspace::Run {
-    DocumentHandle document;
-    Item item;
-    Draft draft;
-    std::atomic<bool> cancelled{false};
-};
-
-/// An open document and what is to be done to it.
-struct Workspace::Place {
-    std::shared_ptr<Document> document;
-    std::deque<Item> waiting;
-    std::shared_ptr<Run> running;
-    bool calling = false;
-
-    bool isBusy() const { return running || calling || !waiting.empty(); }
-};
-
-Workspace::Workspace(QString folder, QObject* parent) : QObject(parent), folder_(std::move(folder))
+Workspace::Workspace(QString folder, PictureReader& reader, QObject* parent)
+    : QObject(parent), folder_(std::move(folder)), reader_(reader)
 {
+    for (QThreadPool* pool : {&reading_, &writing_}) pool->setMaxThreadCount(1);
     threads_.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
 }
 
@@ -46,7 +19,8 @@ Workspace::~Workspace()
 {
     for (const auto& place : places_)
         if (place->running) place->running->cancelled = true;
-    threads_.waitForDone();
+    cancelOpening();
+    for (QThreadPool* pool : {&threads_, &reading_, &writing_}) pool->waitForDone();
 }
 
 /// From any thread; runs in the window's, from the event loop.
@@ -79,9 +53,9 @@ DocumentHandle Workspace::add(const Bits& picture, const QString& path, Arrival 
     document->undo.onFailure([this, handle](const QString& reason) { // from the writing thread
         later([this, handle, reason] { emit stepLost(handle, reason); });
     });
-    document->hasFile = arrival == Arrival::File;
-    document->isBrought = arrival == Arrival::Brought;
-    document->Tag = unique(path);
+    document->file.isFile = arrival == Arrival::File;
+    document->file.isBrought = arrival == Arrival::Brought;
+    name(*document, path);
     if (!picture.isNull()) document->takePicture(picture);
     document->SaveUndoBits();
     places_.push_back(std::make_unique<Place>());
@@ -114,14 +88,12 @@ std::vector<DocumentHandle> Workspace::documents() const
     return handles;
 }
 
-QString Workspace::unique(const QString& path)
+void Workspace::name(Document& document, const QString& path)
 {
-    const auto has = [&](const auto& place) { return place->document->Tag == path; };
-    if (path.isEmpty() || std::ranges::none_of(places_, has)) return path;
-    return QStringLiteral("[%1]").arg(++clashes_) + path;
+    const auto has = [&](const auto& place) { return place->document->Tag() == path; };
+    document.file.path = path;
+    document.file.mark = path.isEmpty() || std::ranges::none_of(places_, has) ? 0 : ++clashes_;
 }
-
-void Workspace::rename(const DocumentHandle& document, const QString& path) { document->Tag = unique(path); }
 
 // --- Changes
 
@@ -166,7 +138,7 @@ bool Workspace::awaitsCall(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
     return place && !place->calling &&
-           std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); });
+           (place->saves > 0 || std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); }));
 }
 
 /// A call that waits is no change, and comes all the same.
@@ -210,10 +182,13 @@ void Workspace::begin(Place& place)
     if (item.call) {
         place.calling = true;
         return later([this, document, call = std::move(item.call)] {
-            if (placeOf(document)) call();
+            if (Place* mine = placeOf(document)) {
+                mine->inCall = true;
+                call();
+            }
             Place* still = placeOf(document);
             if (!still) return;
-            still->calling = false;
+            still->calling = still->inCall = false;
             if (still->waiting.empty()) emit idle(document);
             goOn(document);
         });
@@ -267,13 +242,18 @@ void Workspace::finished(const std::shared_ptr<Run>& run, Outcome outcome)
 
 void Workspace::wait(const DocumentHandle& document)
 {
-    while (isBusy(document)) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const auto isUnderWay = [&] {
+        const Place* place = placeOf(document);
+        return place && !place->inCall && (place->isBusy() || place->saves > 0);
+    };
+    while (isUnderWay()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void Workspace::wait()
 {
     const auto isUnderWay = [this] {
-        return posted_ > 0 || std::ranges::any_of(places_, [](const auto& place) { return place->isBusy(); });
+        return posted_ > 0 || writes_ > 0 || !openings_.empty() ||
+               std::ranges::any_of(places_, [](const auto& place) { return place->isBusy(); });
     };
     while (isUnderWay()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

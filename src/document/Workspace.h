@@ -16,14 +16,29 @@
 #include "document/road/Change.h"
 #include "document/road/DocumentHandle.h"
 #include "engine/cBitFilter.h"
+#include "fileio/savePicture.h"
 #include <QObject>
 #include <QThreadPool>
 #include <atomic>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <vector>
 
 namespace velara {
+
+class PictureReader;
+
+/// What becomes of a file that no reader makes anything of.
+enum class Unreadable { OpensEmpty, Refused };
+
+/// What became of a file that was to be opened.
+struct Opened {
+    enum Kind { Open, Gone, Refused, Cancelled }; // Gone: there is no such file
+    Kind kind = Refused;
+    DocumentHandle document = {}; // names none unless it is Open
+    QString reason = {};          // why it, or a part of it, can't be read
+};
 
 /// What is done to a document.
 struct Step {
@@ -36,14 +51,19 @@ class Workspace final : public QObject {
   public:
     using Then = std::function<void(const Outcome& outcome)>;
 
-    /// folder: where the undo series lie, made when its parent stands; empty: no step is kept.
-    explicit Workspace(QString folder, QObject* parent = nullptr);
-    /// Ends what is under way, and calls nobody.
+    /// folder: where the undo series lie, made when its parent stands; empty: no step is kept. reader is asked from
+    /// another thread.
+    Workspace(QString folder, PictureReader& reader, QObject* parent = nullptr);
+    /// Ends what is under way, but for what is being written, and calls nobody.
     ~Workspace() override;
 
     // --- Documents
-    /// A new document, the last in order. A null picture: an empty one. Its path is made unique among the open ones by
-    /// a mark in front ("[n]", n counts clashes and is never reused).
+    /// Reads a file, after those before it, into a new document.
+    void open(const QString& path, Unreadable unreadable, std::function<void(const Opened& opened)> then);
+    /// The file that is being read and those that wait are given up. False where there is none.
+    bool cancelOpening();
+    /// A new document, the last in order. A null picture: an empty one. Where an open document has the path it gets a
+    /// mark (n counts clashes and is never reused).
     DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
@@ -51,8 +71,11 @@ class Workspace final : public QObject {
     void close(const DocumentHandle& document);
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
-    /// Another path, with a mark where an open document has it.
-    void rename(const DocumentHandle& document, const QString& path);
+    /// Writes the picture, in its turn among the changes, in the format of the path's extension; those to come don't
+    /// wait for it. Once it is written the path is the document's own, with a mark where another one has it.
+    void save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then = {});
+    /// The same for a picture of no document.
+    void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then);
 
     // --- Changes
     /// The one road from a command to a document. The outcome is Gone where there is no picture. The answer names the
@@ -64,7 +87,7 @@ class Workspace final : public QObject {
     bool step(const DocumentHandle& document, bool back);
     /// In its turn among the changes: what a command does once those before it are done. At once where none is.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
-    /// A call waits for its turn, such as a save: closing the document now would lose it.
+    /// A call waits for its turn, or a save is being written: closing the document now would lose it.
     bool awaitsCall(const DocumentHandle& document) const;
     /// The change under way and those that wait end as Cancelled, or the one alone. False where there is none.
     bool cancel(const DocumentHandle& document, int change = kAll);
@@ -86,6 +109,10 @@ class Workspace final : public QObject {
     void handOver(const Document& document);
 
   signals:
+    /// The file that is being read; empty: none is any more.
+    void reading(const QString& path);
+    /// It was saved, maybe under another name.
+    void renamed(const DocumentHandle& document);
     /// A change was taken: pixels, size, selection, steps.
     void changed(const DocumentHandle& document);
     /// Its changes are all done.
@@ -99,20 +126,26 @@ class Workspace final : public QObject {
     struct Run;
     struct Item;
     struct Place;
+    struct FileRead;
     Place* placeOf(const DocumentHandle& document) const;
     void later(std::function<void()> call);
     void begin(Place& place);
     void start(const std::shared_ptr<Run>& run);
     void finished(const std::shared_ptr<Run>& run, Outcome outcome);
-    QString unique(const QString& path);
+    void name(Document& document, const QString& path);
+    void readNext();
+    void opened(FileRead& opening);
+    void saved(const DocumentHandle& document, const QString& path, int commits);
 
     QString folder_;
+    PictureReader& reader_;
     cBitFilter engine_;
     DocumentHandle held_;
     std::vector<std::unique_ptr<Place>> places_;
-    QThreadPool threads_;
+    std::deque<std::shared_ptr<FileRead>> openings_; // the first is being read
+    QThreadPool threads_, reading_, writing_;
     std::atomic<int> posted_{0}; // to the event loop, and not come yet
-    int nextNumber_ = 1, clashes_ = 0, changes_ = kAll;
+    int nextNumber_ = 1, clashes_ = 0, changes_ = kAll, writes_ = 0;
 };
 
 } // namespace velara

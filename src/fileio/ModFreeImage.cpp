@@ -1,6 +1,7 @@
 #include "fileio/ModFreeImage.h"
 #include <FreeImage.h>
 #include <cstring>
+#include <mutex>
 #include <new>
 
 namespace velara {
@@ -9,8 +10,15 @@ namespace {
 
 QString& lastError()
 {
-    static QString text;
+    static thread_local QString text;
     return text;
+}
+
+/// FreeImage counts those who have opened it without a lock.
+std::mutex& opening()
+{
+    static std::mutex mutex;
+    return mutex;
 }
 
 void FreeImageMessage(FREE_IMAGE_FORMAT, const char* message)
@@ -22,12 +30,17 @@ void FreeImageMessage(FREE_IMAGE_FORMAT, const char* message)
 
 FreeImageStart::FreeImageStart()
 {
+    const std::lock_guard one(opening());
     lastError().clear();
     FreeImage_Initialise(0);
     FreeImage_SetOutputMessage(FreeImageMessage);
 }
 
-FreeImageStart::~FreeImageStart() { FreeImage_DeInitialise(); }
+FreeImageStart::~FreeImageStart()
+{
+    const std::lock_guard one(opening());
+    FreeImage_DeInitialise();
+}
 
 const QString& FreeImageLastError() { return lastError(); }
 

@@ -7,7 +7,8 @@ struct FIBITMAP;
 
 namespace velara {
 
-/// FreeImage is open while an object lives; its messages become the last error, which is empty at first.
+/// FreeImage is open while an object lives; its messages become the last error of the thread, which is empty at
+/// first. For any thread.
 class FreeImageStart {
   public:
     FreeImageStart();

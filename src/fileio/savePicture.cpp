@@ -5,7 +5,6 @@
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/PCX.h"
 #include "reduce/bestColours.h"
-#include "seams/Dialogs.h"
 #include <FreeImage.h>
 #include <algorithm>
 #include <iterator>
@@ -16,13 +15,12 @@ namespace velara {
 namespace {
 
 struct Job {
-    Dialogs& dialogs;
     const Bits& bits;
     QString fileName;
     OutputFile::Links links;
 };
 
-SaveResult resultOf(bool written) { return written ? SaveResult::Written : SaveResult::Failed; }
+SaveReport reportOf(bool written) { return {written ? SaveResult::Written : SaveResult::Failed}; }
 
 // --- FreeImage's writers
 
@@ -37,44 +35,42 @@ bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool k
     return false;
 }
 
-template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveResult byFreeImage(const Job& job)
+template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveReport byFreeImage(const Job& job)
 {
-    if (saveByFreeImage(job, format, flags, keepsRemains)) return SaveResult::Written;
-    job.dialogs.message("Internal Error", "There was an error while saving! Please Restart Velara's Studio",
-                        Icon::Critical);
-    return SaveResult::FailedAndTold;
+    if (saveByFreeImage(job, format, flags, keepsRemains)) return {SaveResult::Written};
+    return {SaveResult::FailedAndTold, "Internal Error",
+            "There was an error while saving! Please Restart Velara's Studio", Icon::Critical};
 }
 
 // --- The others
 
 /// Pictures always have 24 bits here, so the portable anymap is always the one of true colour, whatever was typed.
-SaveResult saveAnymap(const Job& job)
+SaveReport saveAnymap(const Job& job)
 {
     Job real = job;
     real.fileName += "ppm";
-    if (!saveByFreeImage(real, FIF_PPMRAW, 0, false)) return SaveResult::Failed;
-    job.dialogs.message("Collection of ASCII based bitmap",
-                        "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the "
-                        "bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth "
-                        "of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you "
-                        "requested is saved as 24-bit True Color (.ppm) format.",
-                        Icon::Information);
-    return SaveResult::Written;
+    if (!saveByFreeImage(real, FIF_PPMRAW, 0, false)) return {SaveResult::Failed};
+    return {
+        SaveResult::Written, "Collection of ASCII based bitmap",
+        "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a "
+        "bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth of 24, the file is saved as "
+        "a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) "
+        "format.",
+        Icon::Information};
 }
 
-SaveResult saveGif(const Job& job) { return resultOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
+SaveReport saveGif(const Job& job) { return reportOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
 
-SaveResult savePcx(const Job& job) { return resultOf(PCX().SavePCXinFile(job.fileName, job.bits, true)); }
+SaveReport savePcx(const Job& job) { return reportOf(PCX().SavePCXinFile(job.fileName, job.bits, true)); }
 
-SaveResult refuseIcon(const Job& job)
+SaveReport refuseIcon(const Job&)
 {
-    job.dialogs.tell("This facility is currently turned Off!");
-    return SaveResult::Refused;
+    return {SaveResult::Refused, kProgramName, "This facility is currently turned Off!", Icon::Information};
 }
 
 struct Writer {
     std::string_view extension; // "pnm": the family of the portable anymaps
-    SaveResult (*save)(const Job& job);
+    SaveReport (*save)(const Job& job);
 };
 
 // clang-format off
@@ -105,14 +101,21 @@ static_assert(std::ranges::all_of(kFormats,
 
 } // namespace
 
+SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext, OutputFile::Links links)
+try {
+    if (bits.isNull()) return {SaveResult::NotWritten};
+    const Writer* writer = writerOf(Ext.toLower().toStdString());
+    return writer ? writer->save({bits, FileName, links}) : SaveReport{SaveResult::NotWritten};
+} catch (const std::bad_alloc&) {
+    return {SaveResult::Failed};
+}
+
 SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
                        OutputFile::Links links)
-try {
-    if (bits.isNull()) return SaveResult::NotWritten;
-    const Writer* writer = writerOf(Ext.toLower().toStdString());
-    return writer ? writer->save({dialogs, bits, FileName, links}) : SaveResult::NotWritten;
-} catch (const std::bad_alloc&) {
-    return SaveResult::Failed;
+{
+    const SaveReport report = writePicture(bits, FileName, Ext, links);
+    report.tell(dialogs);
+    return report.result;
 }
 
 } // namespace velara

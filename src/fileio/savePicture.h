@@ -2,24 +2,38 @@
 #pragma once
 #include "fileio/OutputFile.h"
 #include "pixels/Bits.h"
+#include "seams/Dialogs.h"
 #include <QString>
 
 namespace velara {
 
-class Dialogs;
-
 enum class SaveResult {
     Written,
     Failed,        // what stood under the name is whole
-    FailedAndTold, // the same, and the user has read it
+    FailedAndTold, // the same, with a notice
     NotWritten,    // nothing to write, or no writer for the extension
-    Refused,       // an icon; the user has read it
+    Refused,       // an icon, with a notice
+};
+
+/// What became of a save, and the notice that the user gets of it; without a text there is none.
+struct SaveReport {
+    SaveResult result = SaveResult::NotWritten;
+    QString title = {}, text = {};
+    Icon icon = Icon::None;
+
+    void tell(Dialogs& dialogs) const
+    {
+        if (!text.isEmpty()) dialogs.message(title, text, icon);
+    }
 };
 
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
-/// added. Notices and failures are shown by dialogs: a failed png, jpg, bmp, tif or tga, the depth of a portable
-/// anymap, and that icons are not written. Every writer gets 24 bits a pixel, without the margin.
-/// A work file of the program (png, jpg, bmp, tif, tga) replaces links.
+/// added. There is a notice of a failed png, jpg, bmp, tif or tga, of the depth of a portable anymap, and that icons
+/// are not written. Every writer gets 24 bits a pixel, without the margin. A work file of the program (png, jpg, bmp,
+/// tif, tga) replaces links. For any thread.
+SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext,
+                        OutputFile::Links links = OutputFile::Links::Follow);
+/// The same, and dialogs shows the notice.
 SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
                        OutputFile::Links links = OutputFile::Links::Follow);
 

@@ -52,6 +52,12 @@ int claimSession(bool& taken)
     return -1;
 }
 
+const QString& decoder()
+{
+    static const QString path = findDecoder();
+    return path;
+}
+
 } // namespace
 
 CorePlatform::CorePlatform() : random_(std::random_device{}()) {}
@@ -96,20 +102,18 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
 
 LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn)
 {
-    if (decoder_.isEmpty()) decoder_ = findDecoder();
     const QFileInfo file(path);
-    return loadThroughDecoder(path, extension, decoder_, limitsFor(file.size()),
+    return loadThroughDecoder(path, extension, decoder(), limitsFor(file.size()),
                               goOn ? goOn : whileReading(file.fileName()));
 }
 
 LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension,
                                         const GoOn& goOn)
 {
-    if (decoder_.isEmpty()) decoder_ = findDecoder();
     const Descriptor file(memfd_create("picture", MFD_CLOEXEC));
     if (write(file.get(), bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size())
         return {{}, name + QStringLiteral(" can't be read: there is not enough memory for it")};
-    return loadThroughDecoder(file, name, extension, decoder_, limitsFor(bytes.size()), goOn);
+    return loadThroughDecoder(file, name, extension, decoder(), limitsFor(bytes.size()), goOn);
 }
 
 QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)

@@ -20,6 +20,7 @@ class CorePlatform : public Platform {
     bool previousInstance() override;
     QString setting(const QString& section, const QString& key, const QString& otherwise) override;
     void setSetting(const QString& section, const QString& key, const QString& value) override;
+    /// For any thread, with a goOn.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
@@ -30,7 +31,7 @@ class CorePlatform : public Platform {
 
   private:
     std::mt19937_64 random_;
-    QString programFolder_, decoder_;
+    QString programFolder_;
     int instance_ = -1; // the locked file of the session
 };
 

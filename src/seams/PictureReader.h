@@ -23,7 +23,7 @@ class PictureReader {
     virtual ~PictureReader() = default;
 
     /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
-    /// goOn stands in for what the platform shows meanwhile.
+    /// goOn stands in for what the platform shows meanwhile; with one this is for any thread.
     virtual LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) = 0;
 };
 

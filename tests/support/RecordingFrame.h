@@ -12,7 +12,7 @@ namespace velara {
 struct RecordingFrame final : Frame {
     RecordingPlatform platform_;
     Setup setup_;
-    Workspace workspace_{platform_.programFolder() + "/Temp"};
+    Workspace workspace_{platform_.programFolder() + "/Temp", platform_};
     cBitFilter& filter_ = workspace_.engine();
     ToolStores toolStores_;
     /// One line a call: "step" at the end of a change, "word: WORD", "report: WHAT: REASON", "adopted: PATH",

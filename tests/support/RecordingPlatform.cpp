@@ -62,9 +62,9 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
     return ask("folder: " + title);
 }
 
-LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn&)
+LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn& goOn)
 {
-    log.push_back(("load: " + path).toStdString());
+    if (onLoad) onLoad(goOn);
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
     return {bitsOf(image), loadNote};

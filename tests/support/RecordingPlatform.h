@@ -20,11 +20,12 @@ class RecordingPlatform : public Platform {
     /// "yes" and "no".
     std::deque<std::optional<QString>> answers;
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "load: PATH", "clipboard: set", "clipboard: clear". Yields are only counted.
+    /// "clipboard: set", "clipboard: clear". Yields are only counted.
     std::vector<std::string> log;
     int yields = 0;
-    std::function<void()> onYield, onAsk; // onAsk: a dialog stands
-    QString loadNote;                     // of every picture that is read
+    std::function<void()> onYield, onAsk;         // onAsk: a dialog stands
+    QString loadNote;                             // of every picture that is read
+    std::function<void(const GoOn& goOn)> onLoad; // by the thread that reads
     std::uint32_t now = 0;
     FileDialog lastDialog;
     Icon lastIcon = Icon::None;

@@ -102,7 +102,7 @@ class Sequence {
     {
         const int kind = dice.within(0, 9);
         const int width = kind == 0 ? 1 : dice.within(2, 60), height = kind == 1 ? 1 : dice.within(2, 60);
-        session_.open(dice.bits(width, height), true);
+        session_.adopt(dice.bits(width, height), true);
         model_.states.push_back(session_.picture());
     }
     QString step()

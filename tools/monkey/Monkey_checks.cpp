@@ -130,6 +130,7 @@ void Monkey::warmUp()
     begin();
     QApplication::processEvents();
     frame_->openPicture(plan_.scratch + "/pictures/picture1.bmp");
+    frame_->workspace().wait();
     finished_ = true; // no action yet
     checkHome();
     end();

@@ -13,7 +13,7 @@
 namespace velara {
 
 fMain::fMain(Platform& platform, Setup& setup)
-    : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp")
+    : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp", platform)
 {
     setObjectName("fMain");
     setWindowTitle(kProgramName);

@@ -15,6 +15,8 @@
 #include "seams/Setup.h"
 #include "ui/view/fImage.h"
 #include <QMainWindow>
+#include <QPointer>
+#include <QProgressDialog>
 #include <string_view>
 
 namespace velara {
@@ -28,9 +30,6 @@ struct Preset;
 struct FilterRow;
 class fStatus;
 class fToolPane;
-
-/// What becomes of a file that no reader makes anything of.
-enum class Unreadable { OpensEmpty, Refused };
 
 class fMain final : public QMainWindow, public Frame {
     Q_OBJECT
@@ -96,9 +95,8 @@ class fMain final : public QMainWindow, public Frame {
     void capturePic(int mode);
 
     // --- Files
-    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept. False after the message
-    /// that it can't be loaded.
-    bool openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
+    /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
+    void openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
     /// The files of a drop, in order; the ones that aren't pictures of the kinds taken are skipped.
     void dropFiles(const QStringList& paths);
@@ -171,11 +169,12 @@ class fMain final : public QMainWindow, public Frame {
     bool findsItsDocument(const CommandWord& command);
     void showStartPage();
     void saveAs(fImage& image);
-    /// name is what the document is called afterwards.
-    void saveTo(fImage& image, const QString& name);
-    enum class Opening { Done, Failed, Gone };
-    Opening openPath(const QString& path, Unreadable unreadable);
-    bool openOrTell(const QString& path, Unreadable unreadable);
+    void saveTo(fImage& image, const QString& path);
+    void openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then);
+    void tellUnopened(const QString& path, const Opened& opened);
+    void showView(const DocumentHandle& document);
+    void showReading(const QString& path);
+    void showName(const DocumentHandle& document);
     QString inDialogFolder(const QString& name) const;
     void showLoadError();
     void showGone(const QStringList& paths);
@@ -195,6 +194,7 @@ class fMain final : public QMainWindow, public Frame {
     fStartPage* startPage_;
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
+    QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
     bool closing_ = false, closesAll_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };

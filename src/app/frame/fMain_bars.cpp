@@ -161,6 +161,10 @@ void fMain::Tool_Frame()
 /// Keys that no control has taken: what a tool has begun ends wherever the focus is.
 void fMain::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Escape && readingBox_ && readingBox_->isVisible()) {
+        workspace_.cancelOpening();
+        return;
+    }
     const bool ends = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     fImage* image = ends ? GetActiveImage() : nullptr;
     if (!image || !image->displayKey(*event, true)) QMainWindow::keyPressEvent(event);

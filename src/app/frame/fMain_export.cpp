@@ -31,8 +31,7 @@ void fMain::saveForWeb()
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)
 {
-    const QString file = image.Tag().mid(std::max<qsizetype>(image.Tag().indexOf('/'), 0)); // without a mark before it
-    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), file, this);
+    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), image.document().file.path, this);
     dialog->exec();
     delete dialog;
 }

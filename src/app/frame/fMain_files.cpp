@@ -27,17 +27,14 @@ QString FileNameOf(const QString& path)
     return name;
 }
 
+/// Two documents of one file tell themselves apart by the mark in front of the second one's name.
+QString captionOf(const Document& document) { return document.file.markText() + FileNameOf(document.file.path); }
+
 bool isDropped(const QString& path)
 {
     return std::ranges::any_of(kFormats, [&](const Format& f) {
         return f.has(Dropped) && path.endsWith(text(f.extension), Qt::CaseInsensitive);
     });
-}
-
-/// Two windows of one file tell themselves apart by the mark in front of the second one's name.
-void showName(fImage& image, const QString& path)
-{
-    image.setCaption(image.Tag().chopped(path.size()) + FileNameOf(path));
 }
 
 } // namespace
@@ -50,15 +47,28 @@ QString fMain::inDialogFolder(const QString& name) const
 DocumentHandle fMain::adopt(const Bits& bits, const QString& name, Arrival arrival)
 {
     if (closing_) return {};
-    const QString path = inDialogFolder(name);
-    const DocumentHandle document = workspace_.add(bits, path, arrival);
+    const DocumentHandle document = workspace_.add(bits, inDialogFolder(name), arrival);
+    showView(document);
+    return document;
+}
+
+void fMain::showView(const DocumentHandle& document)
+{
     auto image = std::make_unique<fImage>(*this, document);
-    showName(*image, path);
+    image->setCaption(captionOf(*document));
     connect(image.get(), &fImage::asking, this, &fMain::asking);
     documents_->show(std::move(image), setup_.ImagesMaximized);
     refreshUndoState();
     showStartPage();
-    return document;
+}
+
+/// It was saved: the name may be another one, and the mark of the changed ones is gone.
+void fMain::showName(const DocumentHandle& document)
+{
+    fImage* image = documents_->of(document);
+    if (!image) return;
+    image->setCaption(captionOf(*document));
+    if (document == active()) setStatus(Panel::Name, image->Caption());
 }
 
 void fMain::applyOpenOptions()
@@ -84,50 +94,52 @@ void fMain::showGone(const QStringList& paths)
         Icon::Exclamation);
 }
 
-/// Unless the file was opened there is no document of it, and nothing was said. A file that a reader of the platform
-/// (gif, wmf, emf, ico, cur, dib) refuses fails aloud; any other that can't be read gives an empty window.
-fMain::Opening fMain::openPath(const QString& path, Unreadable unreadable)
+/// What stands in the status bar while a large file is read would be overlooked.
+void fMain::showReading(const QString& path)
 {
-    if (closing_) return Opening::Done;
-    if (!QFileInfo::exists(path)) return Opening::Gone;
-    const QString extension = extensionOf(path);
-    const Format* format = findFormat(extension.toStdString());
-    LoadedPicture loaded;
-    try {
-        loaded = platform_.loadPicture(path, extension);
-    } catch (const std::exception&) { // a picture too large for this machine's memory
-        return Opening::Failed;
+    if (path.isEmpty()) return delete readingBox_;
+    if (!readingBox_) {
+        readingBox_ = new QProgressDialog(QString(), tr("Cancel"), 0, 0, this);
+        readingBox_->setObjectName("readingBox");
+        readingBox_->setWindowTitle(kProgramName);
+        readingBox_->setAttribute(Qt::WA_ShowWithoutActivating);
+        readingBox_->setMinimumDuration(500);
+        connect(readingBox_, &QProgressDialog::canceled, &workspace_, &Workspace::cancelOpening);
     }
-    if (closing_) return Opening::Done;
-    const bool aloud = unreadable == Unreadable::Refused || (format && format->has(FailsAloud));
-    if (!loaded.ok() && aloud) return Opening::Failed;
-    if (!loaded.ok()) status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
-    // What has lost its end doesn't replace its file without a question.
-    adopt(loaded.bits, path, loaded.ok() && loaded.reason.isEmpty() ? Arrival::File : Arrival::Made);
-    if (loaded.ok() && !loaded.reason.isEmpty()) status_->say(loaded.reason);
-    return Opening::Done;
+    readingBox_->setLabelText(tr("Reading %1 ...").arg(printable(FileNameOf(path))));
 }
 
-/// Opens it or says why not; false then.
-bool fMain::openOrTell(const QString& path, Unreadable unreadable)
+/// then is not called while the frame closes.
+void fMain::openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then)
 {
-    const Opening opening = openPath(path, unreadable);
-    if (opening == Opening::Gone) showGone({path});
-    if (opening == Opening::Failed) showLoadError();
-    return opening == Opening::Done;
+    workspace_.open(path, unreadable, [this, path, then = std::move(then)](const Opened& opened) {
+        if (closing_) return;
+        if (opened.document) showView(opened.document);
+        if (opened.document && !opened.document->PictureExists())
+            status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
+        else if (opened.document && !opened.reason.isEmpty())
+            status_->say(opened.reason);
+        then(opened);
+    });
 }
 
-bool fMain::openPicture(const QString& path, Unreadable unreadable)
+void fMain::tellUnopened(const QString& path, const Opened& opened)
 {
-    if (!openOrTell(path, unreadable)) return false;
-    AddRecent(setup_, path);
-    FillRecent();
-    applyOpenOptions();
-    if (setup_.PreserveLastFolder) {
+    if (opened.kind == Opened::Gone) showGone({path});
+    if (opened.kind == Opened::Refused) showLoadError();
+}
+
+void fMain::openPicture(const QString& path, Unreadable unreadable)
+{
+    openPath(path, unreadable, [this, path](const Opened& opened) {
+        if (!opened.document) return tellUnopened(path, opened);
+        AddRecent(setup_, path);
+        FillRecent();
+        applyOpenOptions();
+        if (!setup_.PreserveLastFolder) return;
         dialogFolder_ = path.left(path.lastIndexOf('/') + 1);
         setup_.ImagesPath = dialogFolder_;
-    }
-    return true;
+    });
 }
 
 void fMain::open()
@@ -140,8 +152,11 @@ void fMain::openRecent(int index)
 {
     const QString path = setup_.Recent[std::size_t(index)].trimmed();
     if (path.isEmpty()) return;
-    if (!openOrTell(path, Unreadable::OpensEmpty)) return FillRecent();
-    applyOpenOptions();
+    openPath(path, Unreadable::OpensEmpty, [this, path](const Opened& opened) {
+        if (opened.document) return applyOpenOptions();
+        tellUnopened(path, opened);
+        FillRecent();
+    });
 }
 
 void fMain::FillRecent()
@@ -167,11 +182,11 @@ void fMain::save()
 
 void fMain::saveNow(fImage& image)
 {
-    const Format* format = formatOf(image.Caption());
-    // A new document, a second window of the same file and any other format get their name by asking.
-    const bool own = image.document().hasFile && image.Tag().startsWith('/');
-    if (!own || !format || format->saving != Saving::Directly) return saveAs(image);
-    saveTo(image, image.Tag());
+    const FileFacts& file = image.document().file;
+    const Format* format = formatOf(file.path);
+    // A new document, a second one of the same file and any other format get their name by asking.
+    if (!file.isOwn() || !format || format->saving != Saving::Directly) return saveAs(image);
+    saveTo(image, file.path);
 }
 
 void fMain::saveAs()
@@ -195,31 +210,18 @@ void fMain::saveAs(fImage& asked)
     saveTo(*image, withExtension(*path, usual));
 }
 
-void fMain::saveTo(fImage& image, const QString& name)
+/// The document stays as it was, unsaved, when that fails.
+void fMain::saveTo(fImage& image, const QString& path)
 {
-    const SaveTarget target = saveTargetOf(name);
-    const QPointer<fImage> watched = &image;
-    const int commits = image.document().commits();
-    SaveResult result = SaveResult::Failed;
-    try {
-        result = image.Save(target.name, target.extension);
-    } catch (const std::exception&) {
-    }
-    if (result != SaveResult::Written) { // the document stays as it was, unsaved
-        const bool told = result == SaveResult::FailedAndTold || result == SaveResult::Refused;
-        if (!told) platform_.tell("Unexpected error saving image", Icon::Exclamation);
-        return;
-    }
-    if (!watched) return; // closed while a notice of the save stood open
-    const bool changedMeanwhile = image.document().commits() != commits;
-    image.document().saved();
-    image.document().Changed = changedMeanwhile;
-    if (image.Tag() != name) {
-        workspace_.rename(image.document().handle(), name);
-        showName(image, name);
-    }
-    image.showChanged();
-    setStatus(Panel::Name, image.Caption());
+    const Format* format = formatOf(path);
+    const bool slow = format && format->has(SavesSlowly);
+    if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    workspace_.save(image.document().handle(), path, [this, slow](const SaveReport& report) {
+        if (slow) QGuiApplication::restoreOverrideCursor();
+        report.tell(platform_);
+        if (report.result != SaveResult::Written && report.text.isEmpty())
+            platform_.tell("Unexpected error saving image", Icon::Exclamation);
+    });
 }
 
 void fMain::closeActive()
@@ -245,7 +247,7 @@ void fMain::copyToNew()
     platform_.clipboard().clear();
     if (!from || picture.isNull()) return;
     const Region selection = from->Region.Region();
-    const DocumentHandle copy = adopt(picture, from->Tag, Arrival::Brought);
+    const DocumentHandle copy = adopt(picture, from->file.path, Arrival::Brought);
     if (!copy || selection.isEmpty()) return;
     copy->Region.setRegion(selection);
     workspace_.handOver(*copy);
@@ -274,18 +276,26 @@ void fMain::dropEvent(QDropEvent* event)
     QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
 }
 
+/// Said once, however many: what can't be loaded, and what is gone.
 void fMain::dropFiles(const QStringList& paths)
 {
-    bool failed = false;
-    QStringList gone;
-    for (const QString& dropped : paths) {
-        const QString path = dropped.trimmed();
-        const Opening opening = isDropped(path) ? openPath(path, Unreadable::OpensEmpty) : Opening::Done;
-        failed |= opening == Opening::Failed;
-        if (opening == Opening::Gone) gone << path;
-    }
-    if (failed && !closing_) showLoadError(); // once, however many
-    if (!gone.isEmpty() && !closing_) showGone(gone);
+    struct Drop {
+        qsizetype left = 0;
+        bool failed = false;
+        QStringList gone{};
+    };
+    QStringList pictures;
+    for (const QString& path : paths)
+        if (isDropped(path.trimmed())) pictures << path.trimmed();
+    const auto drop = std::make_shared<Drop>(Drop{pictures.size()});
+    for (const QString& path : pictures)
+        openPath(path, Unreadable::OpensEmpty, [this, path, drop](const Opened& opened) {
+            drop->failed |= opened.kind == Opened::Refused;
+            if (opened.kind == Opened::Gone) drop->gone << path;
+            if (--drop->left > 0) return;
+            if (drop->failed) showLoadError();
+            if (!drop->gone.isEmpty() && !closing_) showGone(drop->gone);
+        });
 }
 
 } // namespace velara

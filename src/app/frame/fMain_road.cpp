@@ -22,6 +22,8 @@ void fMain::bindWorkspace()
         status_->setProgress(0);
         GetActiveImage()->showToolPointer();
     });
+    connect(&workspace_, &Workspace::reading, this, &fMain::showReading);
+    connect(&workspace_, &Workspace::renamed, this, &fMain::showName);
     connect(&workspace_, &Workspace::stepLost, this, [this](const DocumentHandle&, const QString& reason) {
         status_->say(tr("This step can't be undone: %1.").arg(reason)); // known only some time after the change
         refreshUndoState();

@@ -14,11 +14,15 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode)
 {
     Platform& platform = frame.platform();
     const QString path = platform.wallpaper().folder() + "/ClearPane_Wallpaper.bmp";
-    const QPointer<fImage> image = frame.GetActiveImage();
-    if (!image->PictureExists() || image->Save(path, "bmp") != SaveResult::Written) return; // the save has told of it
-    platform.wallpaper().set(path, mode, [&platform](WallpaperResult result) {
+    const fImage* image = frame.GetActiveImage();
+    if (!image->PictureExists()) return;
+    const auto tell = [&platform](WallpaperResult result) {
         if (result == WallpaperResult::CantRead) platform.tell("Error getting subkey value.", Icon::Exclamation);
         if (result == WallpaperResult::CantWrite) platform.tell("Error Setting subkey value.", Icon::Exclamation);
+    };
+    frame.workspace().write(image->bits(), path, [&platform, path, mode, tell](const SaveReport& report) {
+        report.tell(platform);
+        if (report.result == SaveResult::Written) platform.wallpaper().set(path, mode, tell);
     });
 }
 

@@ -296,7 +296,7 @@ bool fLayers::mayClose()
     if (!document_ || !hasTexts()) return true;
     Platform& platform = frame_.platform();
     const QPointer<fLayers> alive = this;
-    const QString text = platform.compactPath(printable(document_->Tag), kPathPixels) +
+    const QString text = platform.compactPath(printable(document_->Tag()), kPathPixels) +
                          tr("\nThe texts are not in the image yet.\nDo you want to merge them ?");
     const Answer answer = platform.askYesNoCancel(kProgramName, text, Icon::Information);
     return alive && (answer == Answer::No || (answer == Answer::Yes && applyNow()));

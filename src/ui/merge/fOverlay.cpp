@@ -167,7 +167,7 @@ std::vector<fOverlay::Seen> fOverlay::look() const
     std::vector<Seen> seen;
     for (const DocumentHandle& document : frame_.workspace().documents())
         if (hasPicture(document))
-            seen.push_back({document, document->Tag, document->commits(), document->Region.working()});
+            seen.push_back({document, document->Tag(), document->commits(), document->Region.working()});
     return seen;
 }
 
@@ -238,7 +238,7 @@ void fOverlay::changed()
     lblMaskColor_->setEnabled(chkMaskColor_->isChecked());
     const bool ready = hasPicture(below_) && hasPicture(chosen());
     cmdOK_->setEnabled(ready && !working_);
-    state_->setText(ready ? tr("Over %1").arg(printable(QFileInfo(below_->Tag).fileName()))
+    state_->setText(ready ? tr("Over %1").arg(printable(QFileInfo(below_->file.path).fileName()))
                           : tr("No picture is open."));
     if (!previewTimer_.isActive()) previewTimer_.start(0); // once for all changes that wait
 }
@@ -263,8 +263,8 @@ void fOverlay::accept()
     const Job job = [merging = merging()](Document& draft, cBitFilter& filter) {
         draft.setBits(merged(filter, merging));
     };
-    const DocumentHandle onto =
-        chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->Tag) : below_; // the copy becomes active
+    const DocumentHandle onto = chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->file.path)
+                                                           : below_; // the copy becomes active
     frame_.workspace().change(onto, {job}, [alive = QPointer(this)](const Outcome& outcome) {
         if (alive) alive->ended(outcome);
     });

@@ -58,17 +58,6 @@ fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
 
 fImage::~fImage() { forget(); }
 
-SaveResult fImage::Save(const QString& path, const QString& ext)
-{
-    // One that is slow shows no notice, which might outlive this window.
-    const Format* format = findFormat(ext.toLower().toStdString());
-    const bool slow = format && format->has(SavesSlowly);
-    if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const SaveResult result = savePicture(frame_.platform(), document_.bits(), path, ext);
-    if (slow) QGuiApplication::restoreOverrideCursor();
-    return result;
-}
-
 /// The display has the focus while there is one.
 void fImage::takeFocus()
 {
@@ -169,6 +158,7 @@ bool fImage::mayClose()
     if (!self) return false;
     bringToFront(); // what was asked about is what is saved
     frame_.Mmenu("SAVE");
+    frame_.workspace().wait(document_.handle());
     return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
 }
 

@@ -6,7 +6,6 @@
 // fImage_mouse.cpp (what mouse and keys do).
 #pragma once
 #include "document/Workspace.h"
-#include "fileio/savePicture.h"
 #include "tools/Tools.h"
 #include "ui/view/fBands.h"
 #include "ui/widgets/viewLayout.h"
@@ -34,8 +33,6 @@ class fImage final : public QWidget, public ToolSurface {
     int DocNumber() const { return document_.DocNumber(); }
 
     // --- Picture
-    /// Writes the picture in the format of the extension; its notices are shown here.
-    SaveResult Save(const QString& path, const QString& ext);
     /// "640x480", for the status bar.
     QString SizeText() const;
     void BitsCopyToClipboard();
@@ -51,8 +48,7 @@ class fImage final : public QWidget, public ToolSurface {
     void showChanged();
     /// Somebody is being asked whether it may close; it can't be closed then.
     bool isAsking() const { return asks_; }
-    QString Tag() const { return document_.Tag; }
-    void setTag(const QString& tag) { document_.Tag = tag; }
+    QString Tag() const { return document_.Tag(); }
 
     // --- View
     struct Dimensions {

@@ -45,6 +45,11 @@ struct FrameTest : ::testing::Test {
         QCoreApplication::processEvents();
         return frame->GetActiveImage();
     }
+    void openFile(const QString& path)
+    {
+        frame->openPicture(path);
+        frame->workspace().wait();
+    }
     /// A word, and what it begins, to their end.
     void command(const QString& word)
     {

@@ -49,7 +49,7 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
     fImage* large = open(randomBits(area.width() + 1, 20, 1));
     EXPECT_EQ(windowOf(large)->geometry(), area);
     setup.OpenZoom = 3;
-    ASSERT_TRUE(frame->openPicture(file("zoomed.png", 120, 90)));
+    openFile(file("zoomed.png", 120, 90));
     fImage* zoomed = frame->GetActiveImage();
     EXPECT_EQ(zoomed->ZoomFactor(), 3);
     EXPECT_EQ(zoomed->GetSBM(), QPoint(0, 0)) << "as it is shown, at three to one";
@@ -59,8 +59,8 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
 TEST_F(FrameDocuments, NamesTellTwoWindowsApartAndAChangeIsMarked)
 {
     const QString path = file("a[*].png");
-    frame->openPicture(path);
-    frame->openPicture(path);
+    openFile(path);
+    openFile(path);
     fImage *first = frame->documents()[0], *second = frame->documents()[1];
     EXPECT_EQ(first->Caption(), "a[*].png");
     EXPECT_EQ(second->Caption(), "[1]a[*].png");

@@ -3,11 +3,13 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
+#include "pixels/images.h"
 #include "support/files.h"
 #include "support/freeMemory.h"
 #include "support/fullDisk.h"
 #include <QtTest>
 #include <QtWidgets>
+#include <atomic>
 
 namespace velara {
 
@@ -41,6 +43,68 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
     EXPECT_TRUE(platform.lastDialog.filter.contains("|*.koa|"));
 }
 
+TEST_F(FrameTest, FilesAreReadInOrderWhileThePersonGoesOn)
+{
+    std::atomic<bool> held{true};
+    platform.onLoad = [&](const GoOn& goOn) {
+        while (held && goOn({})) QThread::msleep(1);
+    };
+    fImage* image = open(randomBits(8, 8, 1));
+    const auto begin = [&] {
+        frame->openPicture(file("slow.bmp"));
+        frame->openPicture(file("next.png"));
+        frame->Mmenu("INVERT");
+        frame->workspace().wait(image->document().handle());
+    };
+    begin();
+    EXPECT_EQ(image->document().undo.UndoStep(), 2);
+    auto* box = frame->findChild<QProgressDialog*>("readingBox");
+    ASSERT_TRUE(comes([&] { return box->isVisible(); }));
+    EXPECT_EQ(box->labelText(), "Reading slow.bmp ...");
+    EXPECT_FALSE(box->isModal());
+    QTest::keyClick(display(image), Qt::Key_Escape);
+    frame->workspace().wait();
+    EXPECT_EQ(frame->documents().size(), 1);
+    EXPECT_TRUE(platform.log.empty()) << "it was the person's wish: " << last();
+    EXPECT_FALSE(frame->findChild<QProgressDialog*>("readingBox"));
+
+    begin();
+    held = false;
+    frame->workspace().wait();
+    ASSERT_EQ(frame->documents().size(), 3);
+    EXPECT_EQ(frame->documents()[1]->Caption(), "slow.bmp");
+    EXPECT_EQ(frame->documents()[2]->Caption(), "next.png");
+
+    held = true;
+    frame->openPicture(path("slow.bmp"));
+    frame->close();
+    frame.reset(); // waits for nobody
+}
+
+TEST_F(FrameTest, ASaveIsWrittenAsideAndHasThePictureOfItsMoment)
+{
+    for (const char* name : {"a.png", "b.bmp"}) {
+        openFile(file(name));
+        fImage* image = frame->GetActiveImage();
+        command("INVERT");
+        const Bits asked = image->bits();
+        frame->Mmenu("SAVE");
+        command("FLIPH");
+        EXPECT_TRUE(sameBits(asked, bitsOf(QImage(path(name))))) << name;
+        EXPECT_TRUE(image->document().Changed) << "it went on";
+        frame->Mmenu("SAVE");
+        platform.log.clear();
+        EXPECT_TRUE(image->parentWidget()->close());
+        EXPECT_TRUE(platform.log.empty()) << "closing waits for the save: " << last();
+    }
+    open(randomBits(8, 8, 1));
+    platform.answers = {path("slow.gif")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_TRUE(QGuiApplication::overrideCursor());
+    frame->workspace().wait();
+    EXPECT_FALSE(QGuiApplication::overrideCursor());
+}
+
 TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
 {
     for (const auto& [name, asks] : {std::pair{"a.bmp", false}, {"a.png", false}, {"a.ppm", true}}) {
@@ -66,7 +130,7 @@ TEST_F(FrameTest, SaveGoesToItsFileOrAsksForAName)
     command("SAVEAS");
     EXPECT_FALSE(asksForAName()) << "it has one now";
     platform.loadNote = "The file is cut off.";
-    frame->openPicture(file("c.bmp"));
+    openFile(file("c.bmp"));
     EXPECT_EQ(frame->status().currentMessage(), platform.loadNote);
     EXPECT_TRUE(asksForAName());
 }
@@ -79,13 +143,13 @@ TEST_F(FrameTest, WhateverWouldBeLostIsAskedAbout)
         bool asks;
     } rows[] = {
         {"a new one", [&] { open(randomBits(8, 8, 1)); }, false},
-        {"a file", [&] { frame->openPicture(file("a.bmp")); }, false},
-        {"a copy of it", [&] { frame->openPicture(file("b.bmp")), command("CREATENEWCOPY"); }, true},
-        {"it in another size", [&] { frame->openPicture(file("c.bmp")), command("x2"); }, true},
+        {"a file", [&] { openFile(file("a.bmp")); }, false},
+        {"a copy of it", [&] { openFile(file("b.bmp")), command("CREATENEWCOPY"); }, true},
+        {"it in another size", [&] { openFile(file("c.bmp")), command("x2"); }, true},
         {"the clipboard's", [&] { command("CREATEFROMCLIPBOARD"); }, true},
         {"any other that is brought", [&] { frame->adopt(randomBits(8, 8, 1), "Scan.bmp"); }, true},
         {"a window without a picture", [&] { frame->adopt({}, "New.bmp"); }, false},
-        {"a part of a file", [&] { platform.loadNote = "cut off", frame->openPicture(file("d.bmp")); }, false},
+        {"a part of a file", [&] { platform.loadNote = "cut off", openFile(file("d.bmp")); }, false},
     };
     for (const auto& row : rows) {
         platform.recordingClipboard.bits = randomBits(8, 8, 1);
@@ -119,7 +183,7 @@ TEST_F(FrameTest, YesClosesWhatWasSavedAndNothingElse)
     EXPECT_EQ(QImage(path("b.png")).size(), QSize(8, 8));
     EXPECT_EQ(files(), 0);
 
-    frame->openPicture(file("a.bmp"));
+    openFile(file("a.bmp"));
     command("x2");
     EXPECT_TRUE(closes({"yes"}));
     EXPECT_FALSE(platform.logged("save: Save as"));
@@ -252,11 +316,13 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_TRUE(frame->action("RF_2")->text().endsWith("b && c.bmp"));
 
     frame->action("RF_2")->trigger();
+    frame->workspace().wait();
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->documents()[0]->Caption(), "b & c.bmp");
 
     QFile::remove(a);
     frame->action("RF_0")->trigger(); // gone since the list was filled
+    frame->workspace().wait();
     EXPECT_EQ(last(), "message: Velara Studio: This file is not there any more:\n" + a.toStdString());
     EXPECT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->action("RF_0")->text(), "Empty");
@@ -277,6 +343,7 @@ TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
     const QString gone[] = {path("gone.bmp"), path("gone.gif")};
     frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), gone[0], file("c.JPG"), path("bad.gif"),
                       path("d.txt"), gone[1]});
+    frame->workspace().wait();
     ASSERT_EQ(frame->documents().size(), 2);
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
     EXPECT_EQ(frame->documents()[1]->Caption(), "c.JPG");

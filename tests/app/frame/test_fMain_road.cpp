@@ -292,7 +292,7 @@ TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
 
 TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
 {
-    ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)));
+    openFile(file("a.bmp", 60, 45));
     const QPointer<fImage> image = frame->GetActiveImage();
     const QByteArray before = fileBytes(path("a.bmp"));
     frame->Mmenu("INVERT");
@@ -305,7 +305,8 @@ TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
 /// Two files, one turned by the slow way; the other is drawn on while that lasts, and once more after it.
 TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
 {
-    ASSERT_TRUE(frame->openPicture(file("a.bmp", 60, 45)) && frame->openPicture(file("b.bmp", 50, 40)));
+    openFile(file("a.bmp", 60, 45));
+    openFile(file("b.bmp", 50, 40));
     fImage *a = frame->documents()[0], *b = frame->documents()[1];
     engine().clock = [this] {
         gate.pass();

@@ -223,7 +223,7 @@ TEST_F(LayersDialogTest, AsksBeforeItClosesWithTextsThatAreNotMerged)
 {
     const std::string question = "ask: Velara Studio: /a.png\nThe texts are not in the image yet.\n"
                                  "Do you want to merge them ?";
-    document->Tag = "/a.png";
+    document->file.path = "/a.png";
     frame.setup_.AskToSave = false; // which is about documents
     find<QAbstractButton>("tbOthers_1")->click();
     EXPECT_FALSE(document->waitingWork) << "nothing was typed";

@@ -56,12 +56,6 @@ TEST_F(Window, BarsAreAtLeastThirteenWide)
     }
 }
 
-TEST_F(Window, ASlowSaveDoesNotWaitForEver)
-{
-    EXPECT_EQ(open(randomBits(7, 5, 3)).Save(frame.platform_.folder.filePath("a.gif"), "GIF"), SaveResult::Written);
-    EXPECT_FALSE(QGuiApplication::overrideCursor());
-}
-
 TEST_F(Window, ActivationHandsThePictureToTheEngineOnce)
 {
     fImage& a = open(randomBits(20, 10, 1));
@@ -110,10 +104,10 @@ TEST_F(Window, AsksBeforeAChangedDocumentCloses)
     for (const auto& row : rows) {
         frame.onCall = nullptr;
         fImage& w = open(randomBits(5, 5, 1));
-        w.setTag("/pictures/x.png");
+        w.document().file.path = "/pictures/x.png";
         frame.setup_.AskToSave = row.option;
         w.document().Changed = row.changed;
-        w.document().isBrought = row.brought;
+        w.document().file.isBrought = row.brought;
         if (row.secondStep) w.document().SaveUndoBits();
         frame.onCall = [&](const std::string& line) {
             if (line == "word: SAVE" && row.closes) w.document().saved();
@@ -154,7 +148,7 @@ TEST_F(Window, MayBeDestroyedWhileItAsks)
     for (const bool beforeTheAnswer : {false, true}) {
         fImage& w = open(randomBits(5, 5, 1));
         frame.setup_.AskToSave = true;
-        w.document().isBrought = true;
+        w.document().file.isBrought = true;
         frame.platform_.answers = {QString("yes")};
         if (beforeTheAnswer) frame.platform_.onAsk = [&] { image.reset(); };
         frame.onCall = [&](const std::string&) { image.reset(); };

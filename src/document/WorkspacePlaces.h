@@ -1,0 +1,39 @@
+// What a workspace knows of an open document, for its own files alone.
+#pragma once
+#include "document/Draft.h"
+#include "document/Workspace.h"
+#include <deque>
+
+namespace velara {
+
+/// What waits in a document's queue: a change, or a call.
+struct Workspace::Item {
+    Step step;
+    Then then;
+    std::function<void()> call;
+    int number = kAll; // of a change
+
+    bool isMeant(int change) const { return !call && (change == kAll || change == number); }
+};
+
+/// A change under way.
+struct Workspace::Run {
+    DocumentHandle document;
+    Item item;
+    Draft draft;
+    std::atomic<bool> cancelled{false};
+};
+
+/// An open document and what is to be done to it.
+struct Workspace::Place {
+    std::shared_ptr<Document> document;
+    std::deque<Item> waiting;
+    std::shared_ptr<Run> running;
+    bool calling = false; // a call has its turn
+    bool inCall = false;  // and is being made
+    int saves = 0;        // that are being written
+
+    bool isBusy() const { return running || calling || !waiting.empty(); }
+};
+
+} // namespace velara

@@ -1,0 +1,119 @@
+// FileRead and saving: files are read and written by threads, one after the other.
+#include "document/Workspace.h"
+#include "document/WorkspacePlaces.h"
+#include "fileio/formats.h"
+#include "seams/PictureReader.h"
+#include <QFileInfo>
+#include <new>
+
+namespace velara {
+
+/// A file that is being read, or waits for that.
+struct Workspace::FileRead {
+    QString path;
+    Unreadable unreadable;
+    std::function<void(const Opened&)> then;
+    std::atomic<bool> cancelled{false};
+    bool isThere = true;
+    LoadedPicture loaded{}; // by the reading thread
+
+    void read(PictureReader& reader);
+    Opened::Kind kind() const;
+};
+
+void Workspace::FileRead::read(PictureReader& reader)
+try {
+    isThere = QFileInfo::exists(path);
+    loaded = reader.loadPicture(path, extensionOf(path), [this](auto) { return !cancelled; });
+} catch (const std::bad_alloc&) {
+    unreadable = Unreadable::Refused;
+    loaded.reason = QStringLiteral("there is not enough memory");
+}
+
+/// A file that a reader of the desktop (gif, wmf, emf, ico, cur, dib) refuses never opens empty.
+Opened::Kind Workspace::FileRead::kind() const
+{
+    if (cancelled) return Opened::Cancelled;
+    if (loaded.ok()) return Opened::Open;
+    if (!isThere) return Opened::Gone;
+    const Format* format = findFormat(extensionOf(path).toStdString());
+    return unreadable == Unreadable::Refused || (format && format->has(FailsAloud)) ? Opened::Refused : Opened::Open;
+}
+
+void Workspace::open(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then)
+{
+    openings_.push_back(std::shared_ptr<FileRead>(new FileRead{path, unreadable, std::move(then)}));
+    if (openings_.size() == 1) readNext();
+}
+
+void Workspace::readNext()
+{
+    later([this] { emit reading(openings_.empty() ? QString() : openings_.front()->path); });
+    if (openings_.empty()) return;
+    reading_.start([this, opening = openings_.front()] {
+        opening->read(reader_);
+        later([this, opening] { opened(*opening); });
+    });
+}
+
+void Workspace::opened(FileRead& opening)
+{
+    const auto keep = openings_.front();
+    openings_.pop_front();
+    Opened opened{opening.kind(), {}, opening.loaded.reason};
+    if (opened.kind == Opened::Open) {
+        opened.document = add(opening.loaded.bits, opening.path, opening.loaded.ok() ? Arrival::File : Arrival::Made);
+        opened.document->file.isCutOff = opening.loaded.ok() && !opened.reason.isEmpty();
+    }
+    readNext();
+    if (opening.then) opening.then(opened);
+}
+
+bool Workspace::cancelOpening()
+{
+    if (openings_.empty()) return false;
+    openings_.front()->cancelled = true;
+    for (auto waiting = openings_.begin() + 1; waiting != openings_.end(); ++waiting)
+        if ((*waiting)->then) later([then = (*waiting)->then] { then({Opened::Cancelled, {}, {}}); });
+    openings_.resize(1);
+    return true;
+}
+
+void Workspace::save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then)
+{
+    Place* place = placeOf(document);
+    if (place && place->isBusy() && !place->inCall)
+        return inTurn(document, [this, document, path, then] { save(document, path, then); });
+    if (place) ++place->saves;
+    write(place ? document->bits() : Bits(), path,
+          [this, document, path, commits = place ? document->commits() : 0, then](const SaveReport& report) {
+              if (Place* still = placeOf(document)) {
+                  --still->saves;
+                  if (report.result == SaveResult::Written) saved(document, path, commits);
+              }
+              if (then) then(report);
+          });
+}
+
+void Workspace::saved(const DocumentHandle& document, const QString& path, int commits)
+{
+    document->saved();
+    document->Changed = document->commits() != commits; // it went on meanwhile
+    if (document->Tag() != path) name(*document, path);
+    emit renamed(document);
+}
+
+void Workspace::write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then)
+{
+    ++writes_;
+    writing_.start([this, picture, path, then] {
+        const SaveTarget target = saveTargetOf(path);
+        const SaveReport report = writePicture(picture, target.name, target.extension);
+        later([this, report, then] {
+            --writes_;
+            then(report);
+        });
+    });
+}
+
+} // namespace velara

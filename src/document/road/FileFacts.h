@@ -1,0 +1,21 @@
+// What is known of the file of a document.
+#pragma once
+#include <QString>
+
+namespace velara {
+
+struct FileFacts {
+    QString path;           // full; of a picture that never was in a file: what the first save is called
+    int mark = 0;           // n of the "[n]" before the names of a document whose path an open one had already; 0: none
+    bool isFile = false;    // the picture was read from the path or saved to it
+    bool isCutOff = false;  // the end of the file was missing when it was read
+    bool isBrought = false; // the picture came from outside of any file and was never saved
+
+    QString markText() const { return mark ? QStringLiteral("[%1]").arg(mark) : QString(); }
+    /// Unique among the open documents.
+    QString Tag() const { return markText() + path; }
+    /// SAVE writes to the path without asking.
+    bool isOwn() const { return isFile && !isCutOff && mark == 0; }
+};
+
+} // namespace velara
