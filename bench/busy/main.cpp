@@ -31,15 +31,16 @@ QString textOf(std::string_view word) { return QString::fromUtf8(word.data(), qs
 struct Result {
     QString word;
     Stretch longest = {};
-    double whole = 0;            // from the command to idle
-    double esc = -1;             // from Esc to idle; below 0: it was done before
-    Stretch escLongest = {};     // from Esc on
+    double whole = 0;        // from the command to idle
+    double esc = -1;         // from Esc to idle; below 0: it was done before
+    Stretch escLongest = {}; // from Esc on
     double worst() const { return std::max(longest.busy, escLongest.busy); }
 };
 
 class Desk {
   public:
-    Desk(Stretches& stretches, Size size, bool ellipse) : stretches_(stretches), picture_(picture(size)), ellipse_(ellipse)
+    Desk(Stretches& stretches, Size size, bool ellipse)
+        : stretches_(stretches), picture_(picture(size)), ellipse_(ellipse)
     {
         QDir(platform_.programFolder()).mkpath("Temp");
         setup_.AskToSave = false;
@@ -145,7 +146,7 @@ class Desk {
             user.stop();
             moveEverything(*dialog);
             pass(300); // the previews are drawn
-            QTimer::singleShot(0, dialog, [&] {
+            QTimer::singleShot(0, dialog, [begins, dialog] {
                 begins();
                 clickOk(*dialog);
             });
@@ -175,7 +176,10 @@ class Desk {
     Moment began_, idleAt_;
 };
 
-const char* met(double figure, double must, double goal) { return figure > must ? "no" : figure > goal ? "must" : "goal"; }
+const char* met(double figure, double must, double goal)
+{
+    return figure > must ? "no" : figure > goal ? "must" : "goal";
+}
 
 void print(const Result& r)
 {
@@ -191,9 +195,10 @@ void print(const Result& r)
 int run(Stretches& stretches, Size size, bool ellipse, const std::vector<std::string>& words)
 {
     Desk desk(stretches, size, ellipse);
-    std::printf("Milliseconds at %dx%d. Longest stretch of the window's thread: busy (wall less the wait for a "
-                "processor), wall, processor.\nmust %.0f, goal %.0f; Esc to idle must %.0f\n%-18s %8s %8s %8s %-5s %9s %8s\n",
-                size.width, size.height, kMust, kGoal, kEscMust, "word", "busy", "wall", "cpu", "met", "whole", "esc");
+    std::printf(
+        "Milliseconds at %dx%d. Longest stretch of the window's thread: busy (wall less the wait for a "
+        "processor), wall, processor.\nmust %.0f, goal %.0f; Esc to idle must %.0f\n%-18s %8s %8s %8s %-5s %9s %8s\n",
+        size.width, size.height, kMust, kGoal, kEscMust, "word", "busy", "wall", "cpu", "met", "whole", "esc");
     std::vector<Result> results;
     for (const CommandWord& word : vocabulary()) {
         if (!changesPixels(word)) continue;
