@@ -53,9 +53,12 @@ int colourAfter(int colour, int by) { return (3 * colour + by) & 255; }
 void recolour(Bits& bits, int by)
 {
     const Bits before = bits;
-    for (int y = 0; y < bits.height(); ++y)
+    for (int y = 0; y < bits.height(); ++y) {
+        const Pixel* from = before.row(y);
+        Pixel* to = bits.row(y);
         for (int x = 0; x < bits.width(); ++x)
-            for (int c = 0; c < 4; ++c) bits.row(y)[x].c[c] = std::uint8_t(colourAfter(before.row(y)[x].c[c], by));
+            for (int c = 0; c < 4; ++c) to[x].c[c] = std::uint8_t(colourAfter(from[x].c[c], by));
+    }
 }
 
 TEST(WorkspaceTest, WhateverComesTogetherEachDocumentHasItsOwnSteps)
