@@ -104,8 +104,8 @@ std::vector<DocumentHandle> Workspace::documents() const
 void Workspace::name(Document& document, const QString& path)
 {
     const auto has = [&](const auto& place) { return place->document->Tag() == path; };
-    document.file.path = path;
     document.file.mark = path.isEmpty() || std::ranges::none_of(places_, has) ? 0 : ++clashes_;
+    document.file.path = path;
 }
 
 // --- Changes

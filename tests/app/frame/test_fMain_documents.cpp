@@ -94,6 +94,7 @@ TEST_F(FrameDocuments, MarksThatTurnTheTextAreShownByTheirNumbers)
     EXPECT_EQ(frame->findChild<QListWidget*>("lstRecent")->item(0)->text(), shown);
     EXPECT_TRUE(frame->action("RF_0")->text().endsWith(shown));
     frame->action("RF_0")->trigger();
+    frame->workspace().wait();
     EXPECT_EQ(windowOf(frame->GetActiveImage())->windowTitle(), shown);
     EXPECT_EQ(frame->status().panel(Panel::Name), shown);
     EXPECT_EQ(listed(), QStringList({">&1 " + shown}));
@@ -247,6 +248,7 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
     frame->run("@SELECTALL");
 
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    frame->workspace().wait();
     ASSERT_EQ(frame->documents().size(), 1);
     EXPECT_EQ(frame->GetActiveImage()->Caption(), "a.png");
     EXPECT_FALSE(page->isVisible());

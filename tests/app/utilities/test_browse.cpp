@@ -25,6 +25,7 @@ struct BrowseTest : FrameTest {
         ASSERT_NE(browser(), nullptr);
         browser()->findChild<fFolderTree*>("BF")->select(path);
         browser()->findChild<QPushButton*>("CmdOpen")->click();
+        frame->workspace().wait();
         EXPECT_EQ(browser(), nullptr);
     }
 };
