@@ -99,6 +99,12 @@ void Session::change(const Job& job, After after)
     checkSteps();
 }
 
+void Session::step(bool back)
+{
+    workspace_->step(document_, back);
+    workspace_->wait();
+}
+
 void Session::crop()
 {
     const CropAnswer answer = cropAnswer(*document_);

@@ -34,8 +34,8 @@ class Session {
 
     void change(const Job& job, After after = After::Step);
     void crop();
-    void undo() { workspace_->step(document_, true); }
-    void redo() { workspace_->step(document_, false); }
+    void undo() { step(true); }
+    void redo() { step(false); }
     /// change works on the selection; what it leaves is the working region of the steps to come.
     template <class Change> void select(Change change)
     {
@@ -47,6 +47,7 @@ class Session {
     void setProgress(std::function<void(int)> progress);
 
   private:
+    void step(bool back);
     void begin(bool keepSteps);
     void take(const DocumentHandle& document);
     void checkSteps();

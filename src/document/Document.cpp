@@ -38,16 +38,23 @@ void Document::commit()
     SaveUndoBits();
 }
 
-bool Document::step(const std::optional<Bits>& picture, cBitFilter& filter)
+void Document::moveTo(const UndoStore::Found& found)
 {
-    if (!picture) return false;
+    undo.moveTo(found);
     ++commits_;
-    if (picture->width() != PictureWidth() || picture->height() != PictureHeight())
-        takePicture(*picture);
+    if (found.picture.width() != PictureWidth() || found.picture.height() != PictureHeight())
+        takePicture(found.picture);
     else
-        bits_ = *picture;
-    handTo(filter);
+        bits_ = found.picture;
     Zoomed = false;
+}
+
+bool Document::step(bool back, cBitFilter& filter)
+{
+    const auto found = undo.stepLater(back)();
+    if (!found) return false;
+    moveTo(*found);
+    handTo(filter);
     return true;
 }
 

@@ -67,8 +67,10 @@ class Document {
     int commits() const { return commits_; }
     /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
     /// run of sizing. False and nothing changed when there is no such step.
-    bool UndoBits(cBitFilter& filter) { return step(undo.undo(), filter); }
-    bool RedoBits(cBitFilter& filter) { return step(undo.redo(), filter); }
+    bool UndoBits(cBitFilter& filter) { return step(true, filter); }
+    bool RedoBits(cBitFilter& filter) { return step(false, filter); }
+    /// The same, of a step that was found by another thread.
+    void moveTo(const UndoStore::Found& found);
 
     cBitRegion Region;
     TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
@@ -82,7 +84,7 @@ class Document {
     std::function<bool()> waitingWork;
 
   private:
-    bool step(const std::optional<Bits>& picture, cBitFilter& filter);
+    bool step(bool back, cBitFilter& filter);
 
     Bits bits_;
     int commits_ = 0;

@@ -5,9 +5,10 @@
 namespace velara {
 
 Draft::Draft(Document& document, const Bits& committed, const cBitFilter& like, After after)
-    : document_(document.handle()), draft_({}, document.DocNumber()), filter_(like), commits_(document.commits()),
-      sizing_(after == After::Sizing)
+    : document_(document.handle()), draft_({}, document.DocNumber()), filter_(like), room_(document.undo.roomLater()),
+      commits_(document.commits()), after_(after), sizing_(after == After::Sizing)
 {
+    if (isStep(after)) step_ = document.undo.stepLater(after == After::Back);
     draft_.takePicture(committed);
     draft_.Region = document.Region;
     if (sizing_ && document.Zoomed) before_ = document.undo.previousLater();
@@ -29,12 +30,21 @@ void Draft::prepare()
     selection_ = draft_.Region.Region();
 }
 
+/// Without a budget: what was shown once can be shown again.
+Outcome Draft::found()
+{
+    found_ = step_();
+    return {found_ ? Outcome::Done : Outcome::Failed};
+}
+
 Outcome Draft::attempt(const Job& job)
 {
     try {
+        if (isStep(after_)) return found();
         const MemoryBudget budget;
         prepare();
         job(draft_, filter_);
+        room_();
         return {};
     } catch (const Cancelled&) {
         return {Outcome::Cancelled};
@@ -48,6 +58,7 @@ bool Draft::wanted() const { return document_ && document_->commits() == commits
 void Draft::take()
 {
     Document& document = *document_;
+    if (found_) return document.moveTo(*found_);
     if (sizing_ && !fromBefore_ && draft_.bits().sharesWith(start_)) return;
     const bool sameSize =
         draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
@@ -66,7 +77,7 @@ void Draft::take()
 
 void Draft::handTo(cBitFilter& engine, bool holds) const
 {
-    engine.setRandomSeed(filter_.randomSeed());
+    if (!isStep(after_)) engine.setRandomSeed(filter_.randomSeed());
     if (holds && document_) document_->handTo(engine);
 }
 

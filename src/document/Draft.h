@@ -10,13 +10,14 @@ namespace velara {
 class Draft {
   public:
     /// A draft of the committed picture of the document and its selection, or, for a sizing word after another, of the
-    /// picture before the first of them. like: the engine whose clock, progress and random numbers go on.
+    /// picture before the first of them. like: the engine whose clock, progress and random numbers go on. For a step
+    /// back or forward nothing is drafted: its picture is read.
     Draft(Document& document, const Bits& committed, const cBitFilter& like, After after);
 
     /// The engine that the job gets, e.g. to set its Progress.
     cBitFilter& filter() { return filter_; }
     /// Runs the job, on whichever thread; what it throws is told by the outcome. NotEnoughMemory when it needs more
-    /// than half of the memory that is free.
+    /// than half of the memory that is free. Waits until take() need not wait for the disk.
     Outcome attempt(const Job& job);
     /// The document still exists and is at the step at which the draft began.
     bool wanted() const;
@@ -28,14 +29,19 @@ class Draft {
 
   private:
     void prepare();
+    Outcome found();
 
     DocumentHandle document_;
     Document draft_;
     cBitFilter filter_;
     std::function<std::optional<Bits>()> before_; // the picture before a run of sizing words
-    Bits start_;                                  // the picture at the start
-    Region limit_, selection_;                    // of the draft at the start
+    std::function<std::optional<UndoStore::Found>()> step_;
+    std::optional<UndoStore::Found> found_;
+    std::function<void()> room_; // waits until one more snapshot can be taken
+    Bits start_;                 // the picture at the start
+    Region limit_, selection_;   // of the draft at the start
     int commits_;
+    After after_;
     bool sizing_, fromBefore_ = false;
 };
 

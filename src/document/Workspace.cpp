@@ -3,16 +3,15 @@
 #include "pixels/RuntimeError.h"
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QThread>
+#include <QEvent>
 #include <algorithm>
 
 namespace velara {
 
 Workspace::Workspace(QString folder, PictureReader& reader, QObject* parent)
-    : QObject(parent), folder_(std::move(folder)), reader_(reader)
+    : QObject(parent), folder_(std::move(folder)), reader_(reader),
+      threads_(std::max(2U, std::thread::hardware_concurrency()))
 {
-    for (QThreadPool* pool : {&reading_, &writing_}) pool->setMaxThreadCount(1);
-    threads_.setMaxThreadCount(std::max(2, QThread::idealThreadCount()));
 }
 
 Workspace::~Workspace()
@@ -20,21 +19,35 @@ Workspace::~Workspace()
     for (const auto& place : places_)
         if (place->running) place->running->cancelled = true;
     cancelOpening();
-    for (QThreadPool* pool : {&threads_, &reading_, &writing_}) pool->waitForDone();
+    for (Workers* workers : {&threads_, &reading_, &writing_, &freeing_}) workers->finish();
 }
 
 /// Callable from any thread; the call runs on the window's thread, from the event loop.
 void Workspace::later(std::function<void()> call)
 {
-    ++posted_;
-    QMetaObject::invokeMethod(
-        this,
-        [this, call = std::move(call)] {
-            --posted_;
-            QAbstractEventDispatcher::instance()->wakeUp(); // wait() looks again, however many events came at once
-            call();
-        },
-        Qt::QueuedConnection);
+    {
+        const std::lock_guard lock(callsGuard_);
+        calls_.push_back(std::move(call));
+    }
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void Workspace::customEvent(QEvent*)
+{
+    std::function<void()> call;
+    {
+        const std::lock_guard lock(callsGuard_);
+        call = std::move(calls_.front());
+        calls_.pop_front();
+    }
+    QAbstractEventDispatcher::instance()->wakeUp(); // wait() looks again, however many events came at once
+    call();
+}
+
+bool Workspace::hasCalls()
+{
+    const std::lock_guard lock(callsGuard_);
+    return !calls_.empty();
 }
 
 Workspace::Place* Workspace::placeOf(const DocumentHandle& document) const
@@ -117,12 +130,12 @@ void Workspace::finish(const DocumentHandle& document)
     emit changed(document);
 }
 
-bool Workspace::step(const DocumentHandle& document, bool back)
+void Workspace::step(const DocumentHandle& document, bool back, Then then)
 {
-    if (!placeOf(document) || !(back ? document->UndoBits(engine_) : document->RedoBits(engine_))) return false;
-    handOver(*document);
-    emit changed(document);
-    return true;
+    Place* place = placeOf(document);
+    if (!place || !place->hasChange()) return void(change(document, {{}, back ? After::Back : After::Forward}, then));
+    if (back) end(*place, [](const Item& item) { return item.isChange(); });
+    if (then) later([then = std::move(then)] { then({Outcome::Cancelled}); });
 }
 
 void Workspace::inTurn(const DocumentHandle& document, std::function<void()> call)
@@ -145,15 +158,21 @@ bool Workspace::awaitsCall(const DocumentHandle& document) const
 bool Workspace::cancel(const DocumentHandle& document, int change)
 {
     Place* place = placeOf(document);
-    if (!place) return false;
-    const bool running = place->running && place->running->item.isMeant(change);
-    if (running) place->running->cancelled = true;
-    const auto end = [&](Item& item) {
-        if (!item.isMeant(change)) return false;
+    return place && end(*place, [change](const Item& item) { return item.isMeant(change); });
+}
+
+/// Of the one that runs the outcome is told without its thread, which may be in the middle of a long row.
+template <class Meant> bool Workspace::end(Place& place, Meant meant)
+{
+    const bool running = place.running && meant(place.running->item);
+    if (running && !place.running->cancelled.exchange(true))
+        later([this, run = place.running]() mutable { finished(std::move(run), {Outcome::Cancelled}); });
+    const auto ends = [&](Item& item) {
+        if (!meant(item)) return false;
         if (item.then) later([then = std::move(item.then)] { then({Outcome::Cancelled}); });
         return true;
     };
-    return std::erase_if(place->waiting, end) > 0 || running;
+    return std::erase_if(place.waiting, ends) > 0 || running;
 }
 
 bool Workspace::isBusy(const DocumentHandle& document) const
@@ -207,38 +226,46 @@ void Workspace::start(const std::shared_ptr<Run>& run)
 {
     run->draft.filter().Progress = [this, of = run.get()](int percent) {
         if (of->cancelled) throw Cancelled();
-        later([this, document = of->document, percent] {
-            if (document) emit progress(document, percent);
+        later([this, of, document = of->document, percent] {
+            const Place* place = placeOf(document);
+            if (place && place->running.get() == of) emit progress(document, percent);
         });
     };
     threads_.start([this, run] {
         const Outcome outcome = run->document ? run->draft.attempt(run->item.step.job) : Outcome{Outcome::Gone};
-        later([this, run, outcome] { finished(run, outcome); });
+        later([this, run, outcome]() mutable { finished(std::move(run), outcome); });
     });
 }
 
 /// A document that was changed meanwhile all the same has its job done again, on what it is now.
-void Workspace::finished(const std::shared_ptr<Run>& run, Outcome outcome)
+void Workspace::finished(std::shared_ptr<Run> run, Outcome outcome)
 {
     const DocumentHandle document = run->document;
-    Place* place = placeOf(document);
-    if (!place) outcome = {Outcome::Gone};
-    if (place && run->cancelled) outcome = {Outcome::Cancelled};
-    if (place) {
-        place->running.reset();
-        if (outcome && !run->draft.wanted()) {
-            place->waiting.push_front(std::move(run->item));
-            return begin(*place);
+    Then then;
+    if (!std::exchange(run->isOver, true)) {
+        Place* place = placeOf(document);
+        if (!place) outcome = {Outcome::Gone};
+        if (place && run->cancelled) outcome = {Outcome::Cancelled};
+        if (place) {
+            place->running.reset();
+            if (outcome && !run->draft.wanted()) {
+                place->waiting.push_front(std::move(run->item));
+                begin(*place);
+                return freeing_.start([run = std::move(run)] {});
+            }
+            if (outcome) {
+                run->replaced = {document->bits(), engine_.bits()};
+                run->draft.take();
+                run->draft.handTo(engine_, engineHolds(*document));
+                emit changed(document);
+            }
         }
-        if (outcome) {
-            run->draft.take();
-            run->draft.handTo(engine_, engineHolds(*document));
-            emit changed(document);
-        }
+        then = std::move(run->item.then);
+        goOn(document);
+        if (place && !isBusy(document)) emit idle(document);
     }
-    goOn(document);
-    if (place && !isBusy(document)) emit idle(document);
-    if (run->item.then) run->item.then(outcome);
+    freeing_.start([run = std::move(run)] {});
+    if (then) then(outcome);
 }
 
 void Workspace::wait(const DocumentHandle& document)
@@ -253,7 +280,7 @@ void Workspace::wait(const DocumentHandle& document)
 void Workspace::wait()
 {
     const auto isUnderWay = [this] {
-        return posted_ > 0 || writes_ > 0 || !openings_.empty() ||
+        return hasCalls() || writes_ > 0 || !openings_.empty() ||
                std::ranges::any_of(places_, [](const auto& place) { return place->isBusy(); });
     };
     while (isUnderWay()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -16,11 +16,10 @@
 #include "document/road/Arrival.h"
 #include "document/road/Change.h"
 #include "document/road/DocumentHandle.h"
+#include "document/road/Workers.h"
 #include "engine/cBitFilter.h"
 #include "fileio/savePicture.h"
 #include <QObject>
-#include <QThreadPool>
-#include <atomic>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -84,13 +83,15 @@ class Workspace final : public QObject {
     int change(const DocumentHandle& document, Step step, Then then = {});
     /// Ends a change that a tool painted directly into the document: snapshot and changed mark.
     void finish(const DocumentHandle& document);
-    /// One step back or forward. False where there is none.
-    bool step(const DocumentHandle& document, bool back);
+    /// One step back or forward, in its turn. Where changes are under way, nothing steps: a step back ends them as
+    /// Cancelled, which is what the user wants back. The outcome is Failed, for no reason, where there is no such step.
+    void step(const DocumentHandle& document, bool back, Then then = {});
     /// In its turn among the changes: what a command does once those before it are done. At once where none is.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
     /// A call waits for its turn, or a save is being written: closing the document now would lose it.
     bool awaitsCall(const DocumentHandle& document) const;
-    /// The change under way and those that wait end as Cancelled, or the one alone. False where there is none.
+    /// The changes and steps under way and those that wait end as Cancelled, or the one alone: at once, though the
+    /// thread may go on until it hears of it. False where there is none.
     bool cancel(const DocumentHandle& document, int change = kAll);
     static constexpr int kAll = 0;
     bool isBusy(const DocumentHandle& document) const;
@@ -130,9 +131,12 @@ class Workspace final : public QObject {
     struct FileRead;
     Place* placeOf(const DocumentHandle& document) const;
     void later(std::function<void()> call);
+    void customEvent(QEvent* event) override;
+    bool hasCalls();
     void begin(Place& place);
     void start(const std::shared_ptr<Run>& run);
-    void finished(const std::shared_ptr<Run>& run, Outcome outcome);
+    void finished(std::shared_ptr<Run> run, Outcome outcome);
+    template <class Meant> bool end(Place& place, Meant meant);
     void name(Document& document, const QString& path);
     void readNext();
     void opened(FileRead& opening);
@@ -144,9 +148,10 @@ class Workspace final : public QObject {
     DocumentHandle held_;
     std::vector<std::unique_ptr<Place>> places_;
     std::deque<std::shared_ptr<FileRead>> openings_; // the first is being read
-    QThreadPool threads_, reading_, writing_;
-    std::atomic<int> posted_{0}; // to the event loop, and not come yet
     int nextNumber_ = 1, clashes_ = 0, changes_ = kAll, writes_ = 0;
+    std::mutex callsGuard_;
+    std::deque<std::function<void()>> calls_; // an event is on its way for each
+    Workers threads_, reading_, writing_, freeing_;
 };
 
 } // namespace velara

@@ -2,6 +2,7 @@
 #pragma once
 #include "document/Draft.h"
 #include "document/Workspace.h"
+#include <algorithm>
 #include <deque>
 
 namespace velara {
@@ -14,6 +15,7 @@ struct Workspace::Item {
     int number = kAll; // of a change
 
     bool isMeant(int change) const { return !call && (change == kAll || change == number); }
+    bool isChange() const { return !call && !isStep(step.after); }
 };
 
 /// A change under way.
@@ -22,6 +24,8 @@ struct Workspace::Run {
     Item item;
     Draft draft;
     std::atomic<bool> cancelled{false};
+    bool isOver = false;             // it has been told what became of it
+    std::vector<Bits> replaced = {}; // pictures to be freed by another thread
 };
 
 /// An open document and what is to be done to it.
@@ -34,6 +38,10 @@ struct Workspace::Place {
     int saves = 0;        // that are being written
 
     bool isBusy() const { return running || calling || !waiting.empty(); }
+    bool hasChange() const
+    {
+        return (running && running->item.isChange()) || std::ranges::any_of(waiting, &Item::isChange);
+    }
 };
 
 } // namespace velara

@@ -1,5 +1,13 @@
 // Bits: the pixel buffer that documents, filters, tools and dialogs share. An implicitly shared value: copying is O(1),
 // the first write to a shared buffer detaches it.
+//
+// Between threads a picture goes as a copy of its value. A value belongs to one thread at a time, as does all that
+// holds one: a Document, a cBitFilter. The block behind it may belong to several:
+// - It may be read by every thread whose value shares it.
+// - It is written by who holds it alone. Each write asks the counter first; the acquire after that is the partner of
+//   the release with which other values let go of the block, so that their threads have read it to the end.
+// - Who doesn't hold it alone writes into a copy. So a draft shares the document's block until its first write.
+// - BlockPool, which blocks come from and go back to, is locked.
 #pragma once
 #include <atomic>
 #include <cstddef>
@@ -68,9 +76,10 @@ class Bits {
         return reinterpret_cast<std::uint8_t*>(first());
     }
 
-    /// True when another value shares the block, so that the next write copies it.
+    /// True when another value shares the block, so that the next write copies it. Another thread may let go of it at
+    /// any time: an answer to save time by, nothing to write on.
     bool isShared() const { return block_.use_count() > 1; }
-    /// Identifies the block without keeping it alive.
+    /// Identifies the block without keeping it alive. To compare with, never to lock: a write asks who holds it.
     std::weak_ptr<const std::uint8_t[]> block() const { return block_; }
     /// True when both share one block, hence are equal without comparing pixels.
     bool sharesWith(const Bits& other) const { return block_ == other.block_; }
@@ -82,7 +91,11 @@ class Bits {
     void detach()
     {
         if (block_.use_count() > 1) return copyBlock();
-        std::atomic_thread_fence(std::memory_order_acquire); // a thread that shared it has read it to the end
+#ifdef __SANITIZE_THREAD__ // it knows no fences, but what a counter does
+        const std::shared_ptr<std::uint8_t[]> acquired(block_);
+#else
+        std::atomic_thread_fence(std::memory_order_acquire); // use_count() alone is relaxed
+#endif
     }
     void copyBlock();
 

@@ -15,14 +15,18 @@ BlockPool& BlockPool::instance()
 std::uint8_t* BlockPool::take(std::size_t size)
 {
     if (size < kSmallest) return static_cast<std::uint8_t*>(::operator new(size));
-    const std::lock_guard lock(guard_);
-    const auto kept = std::find_if(kept_.begin(), kept_.end(), [size](const Kept& k) { return k.size == size; });
-    if (kept != kept_.end()) {
-        std::uint8_t* block = kept->block;
-        kept_.erase(kept);
-        return block;
+    std::vector<Kept> dropped;
+    {
+        const std::lock_guard lock(guard_);
+        const auto kept = std::find_if(kept_.begin(), kept_.end(), [size](const Kept& k) { return k.size == size; });
+        if (kept != kept_.end()) {
+            std::uint8_t* block = kept->block;
+            kept_.erase(kept);
+            return block;
+        }
+        dropped.swap(kept_); // another size is in use now
     }
-    drop(); // another size is in use now
+    unmap(dropped);
     MemoryBudget::take(size);
     void* block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (block == MAP_FAILED) throw std::bad_alloc();
@@ -33,31 +37,34 @@ std::uint8_t* BlockPool::take(std::size_t size)
 void BlockPool::give(std::uint8_t* block, std::size_t size) noexcept
 {
     if (size < kSmallest) return ::operator delete(block);
-    const std::lock_guard lock(guard_);
-    if (kept_.size() >= kKeptBlocks) {
-        unmap(kept_.front());
-        kept_.erase(kept_.begin());
+    Kept kept{block, size};
+    {
+        const std::lock_guard lock(guard_);
+        if (kept_.capacity() == 0) kept_.reserve(kKeptBlocks);
+        if (kept_.size() < kKeptBlocks) return kept_.push_back(kept);
+        std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
+        std::swap(kept_.back(), kept);
     }
-    if (kept_.capacity() == 0) kept_.reserve(kKeptBlocks);
-    kept_.push_back({block, size});
+    unmap({&kept, 1});
 }
 
 void BlockPool::clear() noexcept
 {
-    const std::lock_guard lock(guard_);
-    drop();
+    std::vector<Kept> dropped;
+    {
+        const std::lock_guard lock(guard_);
+        dropped.swap(kept_);
+    }
+    unmap(dropped);
 }
 
-void BlockPool::unmap(const Kept& kept) noexcept
+/// Without the lock: it may take as long as a repaint.
+void BlockPool::unmap(std::span<const Kept> blocks) noexcept
 {
-    munmap(kept.block, kept.size);
-    MemoryBudget::give(kept.size);
-}
-
-void BlockPool::drop() noexcept
-{
-    for (const Kept& k : kept_) unmap(k);
-    kept_.clear();
+    for (const Kept& kept : blocks) {
+        munmap(kept.block, kept.size);
+        MemoryBudget::give(kept.size);
+    }
 }
 
 } // namespace velara

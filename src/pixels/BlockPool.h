@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <mutex>
+#include <span>
 #include <vector>
 
 namespace velara {
@@ -27,8 +28,7 @@ class BlockPool {
         std::uint8_t* block;
         std::size_t size;
     };
-    void drop() noexcept;
-    static void unmap(const Kept& kept) noexcept;
+    static void unmap(std::span<const Kept> blocks) noexcept;
 
     std::mutex guard_;
     std::vector<Kept> kept_;

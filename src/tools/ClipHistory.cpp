@@ -15,10 +15,21 @@ const Clip* ClipHistory::at(int slot) const
     return slot >= 0 && std::size_t(slot) < clips_.size() ? &clips_[std::size_t(slot)] : nullptr;
 }
 
+static Rect boxOfSelection(const Document& document)
+{
+    return document.Region.Region().bounds().intersected(document.Region.RegionMain().bounds());
+}
+
+bool hasSelectedPart(const Document& document)
+{
+    const Rect box = boxOfSelection(document);
+    return document.PictureExists() && box.width() >= 2 && box.height() >= 2;
+}
+
 Bits selectedPart(const Document& document)
 {
-    const Rect box = document.Region.Region().bounds().intersected(document.Region.RegionMain().bounds());
-    if (!document.PictureExists() || box.width() < 2 || box.height() < 2) return {};
+    if (!hasSelectedPart(document)) return {};
+    const Rect box = boxOfSelection(document);
     cBitFilter cutter; // of its own: the frame's keeps the picture
     cutter.setBitsRegion(document.Region.Region());
     cutter.BitsCropMasked(document.bits(), box.left, box.top, box.right, box.bottom);

@@ -28,6 +28,7 @@ class ClipHistory {
     int count_ = 0;
 };
 
+bool hasSelectedPart(const Document& document);
 /// The selected part of the picture as a clip holds it. Null when it is less than 2 by 2 or nothing is selected.
 Bits selectedPart(const Document& document);
 

@@ -1,5 +1,6 @@
 // The dialogs that reduce the colours of a picture and save it for the web.
 #include "app/frame/fMain.h"
+#include "reduce/EuroDepth.h"
 #include "ui/export/FWeb.h"
 #include "ui/export/fColorDepth.h"
 #include "ui/widgets/ActiveComposer.h"
@@ -11,8 +12,9 @@ void fMain::colorDepth()
     if (!ActiveComposer::unload()) return;
     const QPointer<fImage> image = GetActiveImage();
     if (!image || !image->PictureExists()) return;
-    const auto ok = [this, document = active()](const Bits& bits) {
-        change("IMAGECOLORDEPTH", document, [bits](Document& draft, cBitFilter&) { draft.setBits(bits); });
+    const auto ok = [this, document = active()](int depth) {
+        change("IMAGECOLORDEPTH", document,
+               [depth](Document& draft, cBitFilter&) { draft.setBits(bitsAtDepth(draft.bits(), depth)); });
     };
     const auto save = [this, image](const Bits& bits) {
         if (!closing_ && image) saveForWeb(*image, bits);

@@ -66,15 +66,13 @@ void fMain::textTools()
 void fMain::stepUndo(bool back)
 {
     const DocumentHandle document = active();
-    if (workspace_.isBusy(document)) { // what is under way is what is taken back
-        if (back) workspace_.cancel(document);
-        return;
-    }
-    const bool moved = workspace_.step(document, back);
-    const UndoStore& steps = document->undo;
-    if (moved && steps.passedOver())
-        status_->say(steps.canRedo() && back ? tr("A step could not be kept: this is the last one that stands.")
-                                             : tr("A step that could not be kept was passed over."));
+    workspace_.step(document, back, [this, document, back](const Outcome& outcome) {
+        report(back ? tr("Undo") : tr("Redo"), outcome);
+        if (!outcome || !document || !document->undo.passedOver()) return;
+        status_->say(document->undo.canRedo() && back
+                         ? tr("A step could not be kept: this is the last one that stands.")
+                         : tr("A step that could not be kept was passed over."));
+    });
 }
 
 void fMain::setZoom(int factor)

@@ -1,6 +1,7 @@
 #include "app/utilities/Clips.h"
 #include "app/frame/fMain.h"
-#include "commands/jobs.h"
+#include "document/Workspace.h"
+#include "pixels/RuntimeError.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "tools/Tools.h"
@@ -9,28 +10,54 @@ namespace velara {
 
 Clips::Clips(fMain& frame) : frame_(frame), box_(new fPaste(frame, &frame)) {}
 
+/// The part is taken by the thread that blackens it.
 void Clips::cut()
 {
     const DocumentHandle document = frame_.active();
     frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
-    const Bits part = document ? box_->CutBits(*document) : Bits();
-    if (part.isNull()) return;
-    frame_.platform().clipboard().setPart(part);
-    frame_.workspace().change(document, {engineJob([](cBitFilter& filter) { filter.BitsBlack(); })},
-                              [this](const Outcome& outcome) { frame_.report("CUT", outcome); });
+    const fPaste::Take taken = document ? box_->CutBits(*document) : fPaste::Take();
+    if (!taken) return;
+    const auto part = std::make_shared<fPaste::Part>();
+    const auto job = [part, taken](Document& draft, cBitFilter& filter) {
+        *part = taken(draft);
+        if (part->bits.isNull()) throw Cancelled(); // nothing is selected any more
+        filter.BitsBlack();
+        draft.takeFrom(filter);
+    };
+    beingCut_ = document;
+    frame_.workspace().change(document, {job}, [this, part](const Outcome& outcome) {
+        frame_.report("CUT", outcome);
+        if (outcome) add(*part);
+    });
 }
 
 void Clips::copy()
 {
     const DocumentHandle document = frame_.active();
     frame_.GetActiveImage()->idst_KeyUp(Tools::Ctrl, 0);
-    const Bits part = document ? box_->CopyBits(*document) : Bits();
-    if (!part.isNull()) frame_.platform().clipboard().setPart(part);
+    const fPaste::Take taken = document ? box_->CopyBits(*document) : fPaste::Take();
+    if (taken) add(taken(*document));
 }
 
+void Clips::add(const fPaste::Part& part)
+{
+    if (box_) box_->add(part);
+    frame_.platform().clipboard().setPart(part.bits);
+}
+
+/// After the cut that it may be meant for.
 void Clips::paste()
 {
+    if (beingCut_ && frame_.workspace().isBusy(beingCut_))
+        frame_.workspace().inTurn(beingCut_, [this] { layDown(); });
+    else
+        layDown();
+}
+
+void Clips::layDown()
+{
     const QPointer<fImage> image = frame_.GetActiveImage();
+    if (!image) return;
     image->idst_KeyUp(Tools::Ctrl, 0);
     ToolStores& stores = frame_.toolStores();
     QString reason;

@@ -24,7 +24,11 @@ class Clips {
     fPaste* box() const { return box_; }
 
   private:
+    void add(const fPaste::Part& part);
+    void layDown();
+
     fMain& frame_;
+    DocumentHandle beingCut_; // last
     QPointer<fPaste> box_;
 };
 

@@ -19,7 +19,11 @@ using Job = std::function<void(Document& draft, cBitFilter& filter)>;
 enum class After {
     Step,   // one undo step, the document is marked as changed, and a run of sizing words ends
     Sizing, // one undo step of a run of sizing words; each of them starts from the picture before the first
+    Back,   // no job: the document goes one step back or
+    Forward // forward; where there is none that is Failed, for no reason
 };
+
+constexpr bool isStep(After after) { return after == After::Back || after == After::Forward; }
 
 /// What became of a change. In all cases but Done the document, its selection and its undo series are as they were.
 struct Outcome {

@@ -1,5 +1,5 @@
 #include "document/undo/UndoStore.h"
-#include "document/undo/SnapshotWriter.h"
+#include "document/road/Workers.h"
 #include "document/undo/UndoFiles.h"
 #include "document/undo/UndoMark.h"
 #include "pixels/memory/MemoryBudget.h"
@@ -12,8 +12,16 @@
 
 namespace velara {
 
-/// Between the owner and the writing thread. While snapshots wait the files, the mark and the states are the thread's;
-/// else they are the owner's. The counters are read under the guard at any time.
+/// One thread for all documents: it writes snapshots while the user goes on.
+static Workers& snapshotWriter()
+{
+    static Workers writer;
+    return writer;
+}
+
+/// Between the owner, the writing thread and threads that read steps. While snapshots wait, the files, the mark and the
+/// states are the writing thread's, but not before those that read have ended; else they are to be read by all. The
+/// counters are read under the guard at any time.
 struct UndoStore::Series {
     Series(QString folder, int number) : files(std::move(folder), number) {}
 
@@ -30,7 +38,8 @@ struct UndoStore::Series {
 
     mutable std::mutex guard;
     mutable std::condition_variable written;
-    int waiting = 0; // snapshots on their way
+    int waiting = 0;         // snapshots on their way
+    mutable int reading = 0; // threads that read steps
     int step = 0, top = 0;
     std::atomic<bool> everFailed{false};
     bool passedOver = false;
@@ -41,9 +50,16 @@ struct UndoStore::Series {
         written.wait(lock, [this] { return waiting == 0; });
         return lock;
     }
+    void awaitReaders() const
+    {
+        std::unique_lock lock(guard);
+        written.wait(lock, [this] { return reading == 0; });
+    }
     int shownStep() const { return std::min(step + waiting, kLimit); }
     State& of(int index) { return states[static_cast<std::size_t>(index)]; }
     std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
+
+    std::optional<Found> find(int shown, bool back);
 
     // --- On the writing thread; count is how many states there are.
     bool ready();
@@ -52,6 +68,27 @@ struct UndoStore::Series {
     int keepOlder(int count, bool ours);
     int drop(int index, int count, bool ours);
     void tell(int reason) const;
+};
+
+/// Reads steps on any thread; the guard is free meanwhile, so that the counters can be read.
+class UndoStore::Reading {
+  public:
+    explicit Reading(const Series& series) : series_(series)
+    {
+        const auto lock = series.settled();
+        ++series.reading;
+        step = series.step;
+    }
+    ~Reading()
+    {
+        const std::lock_guard lock(series_.guard);
+        --series_.reading;
+        series_.written.notify_all();
+    }
+    int step = 0;
+
+  private:
+    const Series& series_;
 };
 
 /// The folder may have been swept away since the last step.
@@ -186,7 +223,8 @@ void UndoStore::save(const Bits& bits)
         series_->written.wait(lock, [this] { return series_->waiting < 2; });
         ++series_->waiting;
     }
-    SnapshotWriter::instance().add([series = series_, picture = bits]() mutable {
+    snapshotWriter().start([series = series_, picture = bits]() mutable {
+        series->awaitReaders();
         const bool wanted = !series->abandoned;
         int count = 0;
         try {
@@ -208,15 +246,20 @@ bool UndoStore::stands() const
     return series_->step == 0 || !series_->of(series_->step - 1).picture;
 }
 
+std::function<void()> UndoStore::roomLater() const
+{
+    return [series = series_] {
+        std::unique_lock lock(series->guard);
+        series->written.wait(lock, [&] { return series->waiting < 2; });
+    };
+}
+
 std::function<std::optional<Bits>()> UndoStore::previousLater() const
 {
     return [series = series_]() -> std::optional<Bits> {
-        Series& s = *series;
-        const int step = [&] { // the counters can be read while the file is
-            const auto lock = s.settled();
-            return s.step;
-        }();
-        return step < 2 || s.of(step - 1).gap ? std::nullopt : s.pictureOf(step - 2);
+        const Reading reading(*series);
+        const int step = reading.step;
+        return step < 2 || series->of(step - 1).gap ? std::nullopt : series->pictureOf(step - 2);
     };
 }
 
@@ -226,32 +269,35 @@ void UndoStore::stepBack()
     if (series_->step > 1) --series_->step;
 }
 
-std::optional<Bits> UndoStore::undo()
+std::optional<UndoStore::Found> UndoStore::Series::find(int shown, bool back)
 {
-    const auto lock = series_->settled();
-    Series& s = *series_;
-    const int shown = s.step - 1;
-    for (int i = shown - 1; i >= 0; --i)
-        if (auto bits = s.pictureOf(i)) {
-            s.step = i + 1;
-            s.passedOver = s.of(shown).gap || i < shown - 1;
-            return bits;
-        }
+    const int way = back ? -1 : 1, nearest = shown + way;
+    for (int i = nearest; i >= 0 && i < top; i += way)
+        if (auto bits = pictureOf(i)) return Found{*bits, i + 1, i != nearest || of(back ? shown : i).gap};
     return {};
 }
 
-std::optional<Bits> UndoStore::redo()
+std::function<std::optional<UndoStore::Found>()> UndoStore::stepLater(bool back) const
+{
+    return [series = series_, back] {
+        const Reading reading(*series);
+        return series->find(reading.step - 1, back);
+    };
+}
+
+void UndoStore::moveTo(const Found& found)
 {
     const auto lock = series_->settled();
-    Series& s = *series_;
-    const int nearest = s.step;
-    for (int i = nearest; i < s.top; ++i)
-        if (auto bits = s.pictureOf(i)) {
-            s.step = i + 1;
-            s.passedOver = i > nearest || s.of(i).gap;
-            return bits;
-        }
-    return {};
+    series_->step = found.step;
+    series_->passedOver = found.passedOver;
+}
+
+std::optional<Bits> UndoStore::step(bool back)
+{
+    const auto found = stepLater(back)();
+    if (!found) return {};
+    moveTo(*found);
+    return found->picture;
 }
 
 bool UndoStore::passedOver() const { return series_->passedOver; }

@@ -38,6 +38,8 @@ class UndoStore {
     /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. Returns at
     /// once unless the snapshot before the last one is still being written.
     void save(const Bits& bits);
+    /// For another thread: waits until save() returns at once.
+    std::function<void()> roomLater() const;
     /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture shown before this one; counters are unchanged. Nothing when it is lost.
@@ -46,10 +48,20 @@ class UndoStore {
     std::function<std::optional<Bits>()> previousLater() const;
     /// Moves the counters like undo(), for a picture obtained from previous().
     void stepBack();
-    /// The picture one step back or forward, and the counters moved. Steps that are lost are passed over; nothing, and
-    /// nothing moved, when there is none that can be read.
-    std::optional<Bits> undo();
-    std::optional<Bits> redo();
+    /// A step back or forward: its picture, and the counters as they are then. Steps that are lost are passed over;
+    /// nothing when there is none that can be read.
+    struct Found {
+        Bits picture;
+        int step;
+        bool passedOver;
+    };
+    /// Waits and reads. For another thread, as previousLater().
+    std::function<std::optional<Found>()> stepLater(bool back) const;
+    /// What was found is shown now.
+    void moveTo(const Found& found);
+    /// Both in one.
+    std::optional<Bits> undo() { return step(true); }
+    std::optional<Bits> redo() { return step(false); }
     /// Whether the last undo or redo left or passed over a step that couldn't be written or read.
     bool passedOver() const;
     /// Removes every file of the document; queued snapshots are not written.
@@ -62,7 +74,10 @@ class UndoStore {
     QString fileName(int index) const;
 
   private:
+    std::optional<Bits> step(bool back);
+
     struct Series;
+    class Reading;
     std::shared_ptr<Series> series_; // shared with the jobs that wait
 };
 

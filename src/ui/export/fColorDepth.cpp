@@ -117,8 +117,8 @@ QWidget* fColorDepth::makeControls()
     layout->addWidget(ok);
     layout->addWidget(exit);
     connect(cmbDepth_, &QComboBox::currentIndexChanged, this, &fColorDepth::showDepth);
-    connect(ok, &QPushButton::clicked, this, [this] { finish(actions_.ok); });
-    connect(save, &QPushButton::clicked, this, [this] { finish(actions_.save); });
+    connect(ok, &QPushButton::clicked, this, &fColorDepth::finish);
+    connect(save, &QPushButton::clicked, this, &fColorDepth::save);
     connect(exit, &QPushButton::clicked, this, &QDialog::reject);
     return column;
 }
@@ -143,9 +143,17 @@ void fColorDepth::showDepth()
 }
 
 /// The dialog is closed before what follows, which may open another.
-void fColorDepth::finish(const std::function<void(const Bits&)>& action)
+void fColorDepth::finish()
 {
-    const auto next = action; // lives on whatever becomes of this
+    const auto next = actions_.ok; // lives on whatever becomes of this
+    const int wanted = depth();
+    accept();
+    if (next) next(wanted);
+}
+
+void fColorDepth::save()
+{
+    const auto next = actions_.save;
     const Bits result = bitsAtDepth(picture_, depth());
     accept();
     if (next) next(result);

@@ -14,10 +14,11 @@ namespace velara {
 class fColorDepth final : public QDialog {
     Q_OBJECT
   public:
-    /// What happens to the reduced picture of full size: ok puts it into the document, save shows it to the dialog that
-    /// saves, after this one has closed.
+    /// What follows after this has closed: ok reduces the document to the depth, save shows the reduced picture of full
+    /// size to the dialog that saves.
     struct Actions {
-        std::function<void(const Bits&)> ok, save;
+        std::function<void(int depth)> ok;
+        std::function<void(const Bits&)> save;
     };
     fColorDepth(const Bits& picture, Actions actions, QWidget* parent = nullptr);
 
@@ -29,7 +30,8 @@ class fColorDepth final : public QDialog {
     QWidget* makeControls();
     void showDepth();
     int depth() const;
-    void finish(const std::function<void(const Bits&)>& action);
+    void finish();
+    void save();
 
     Bits picture_;
     Actions actions_;

@@ -38,6 +38,8 @@ Bits overGround(const Bits& clip, const QColor& ground)
     return shown;
 }
 
+Bits thumbnailOf(const Bits& clip, const QColor& ground) { return fittingCopy(overGround(clip, ground), kThumbnail); }
+
 } // namespace
 
 fPaste::fPaste(Frame& frame, QWidget* parent) : QWidget(parent, Qt::Tool), frame_(frame)
@@ -124,19 +126,26 @@ QWidget* fPaste::makeOpacity()
     return panel;
 }
 
-Bits fPaste::take(const Document& document, const char* tooSmall)
+fPaste::Take fPaste::take(const Document& document, const char* tooSmall)
 {
     frame_.setup().PasteMode = PasteMode::Waiting;
-    const Bits part = selectedPart(document);
-    if (part.isNull()) {
+    if (!hasSelectedPart(document)) {
         frame_.platform().tell(tooSmall);
         return {};
     }
-    frame_.toolStores().paste = part;
-    history_.add(part);
+    return [ground = palette().color(QPalette::Mid)](const Document& of) {
+        const Bits bits = selectedPart(of);
+        return Part{bits, thumbnailOf(bits, ground)};
+    };
+}
+
+void fPaste::add(const Part& part)
+{
+    frame_.toolStores().paste = part.bits;
+    history_.add(part.bits);
+    thumbnails_[history_.clips().back().number] = part.thumbnail;
     showClips();
     Update_V();
-    return part;
 }
 
 /// Made once per clip; those of dropped clips are discarded.
@@ -144,7 +153,7 @@ Bits fPaste::thumbnail(const Clip& clip)
 {
     std::erase_if(thumbnails_, [this](const auto& entry) { return entry.first < history_.at(0)->number; });
     Bits& drawn = thumbnails_[clip.number];
-    if (drawn.isNull()) drawn = fittingCopy(overGround(clip.bits, palette().color(QPalette::Mid)), kThumbnail);
+    if (drawn.isNull()) drawn = thumbnailOf(clip.bits, palette().color(QPalette::Mid));
     return drawn;
 }
 

@@ -3,6 +3,7 @@
 #include "tools/ClipHistory.h"
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <map>
 
 class QLabel;
@@ -23,10 +24,17 @@ class fPaste final : public QWidget {
   public:
     fPaste(Frame& frame, QWidget* parent);
 
-    /// Puts the selected part of the document into the list, makes it what the next paste lays down, and gives it. Null
-    /// after a message when the selection is too small. The caller clears what is cut.
-    Bits CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
-    Bits CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
+    /// A selected part with its thumbnail.
+    struct Part {
+        Bits bits, thumbnail;
+    };
+    /// What takes the selected part of a document, on any thread; null after a message when the selection is too small.
+    /// The caller clears what is cut, and adds the part.
+    using Take = std::function<Part(const Document& document)>;
+    Take CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
+    Take CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
+    /// Puts it into the list, and makes it what the next paste lays down.
+    void add(const Part& part);
     /// The scroll control follows the list: the newest clip is in view.
     void Update_V();
     bool isEmpty() const { return history_.clips().empty(); }
@@ -43,7 +51,7 @@ class fPaste final : public QWidget {
         QLabel* size;
     };
 
-    Bits take(const Document& document, const char* tooSmall);
+    Take take(const Document& document, const char* tooSmall);
     QWidget* makeSlots();
     QWidget* makeOpacity();
     Slot makeSlot(int index);

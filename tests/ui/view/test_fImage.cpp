@@ -74,12 +74,18 @@ TEST_F(Window, AStepIsShown)
 {
     const DocumentHandle document = open(randomBits(20, 10, 1)).document().handle();
     take(Bits(30, 15));
-    EXPECT_TRUE(frame.workspace_.step(document, true));
+    const auto step = [&](bool back) {
+        Outcome became;
+        frame.workspace_.step(document, back, [&](const Outcome& outcome) { became = outcome; });
+        frame.settle();
+        return became.kind;
+    };
+    EXPECT_EQ(step(true), Outcome::Done);
     EXPECT_EQ(iDst()->size(), QSize(20, 10));
     EXPECT_TRUE(frame.filter_.bits() == document->bits());
-    EXPECT_TRUE(frame.workspace_.step(document, false));
+    EXPECT_EQ(step(false), Outcome::Done);
     EXPECT_EQ(iDst()->size(), QSize(30, 15));
-    EXPECT_FALSE(frame.workspace_.step(document, false));
+    EXPECT_EQ(step(false), Outcome::Failed);
 }
 
 TEST_F(Window, AsksBeforeAChangedDocumentCloses)

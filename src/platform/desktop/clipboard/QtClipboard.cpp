@@ -30,6 +30,47 @@ constexpr ClipboardType kClipboardTypes[] = { // lossless ones first
 };
 // clang-format on
 
+/// A picture that takes its form when somebody asks for it: most are never asked for.
+class PictureData final : public QMimeData {
+  public:
+    explicit PictureData(std::function<QImage()> make) : make_(std::move(make)) {}
+
+    QStringList formats() const override { return {kImage}; }
+    bool hasFormat(const QString& type) const override { return type == kImage; }
+
+  protected:
+    QVariant retrieveData(const QString& type, QMetaType) const override
+    {
+        if (type != kImage) return {};
+        if (made_.isNull()) made_ = make_();
+        return made_;
+    }
+
+  private:
+    inline static const QString kImage = QStringLiteral("application/x-qt-image");
+    std::function<QImage()> make_;
+    mutable QImage made_;
+};
+
+QImage imageOfPart(const Bits& part)
+{
+    QImage image(part.width(), part.height(), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        const Pixel* from = part.row(y);
+        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            to[x] = from[x].c[3] == 255 ? 0 : qRgb(from[x].c[2], from[x].c[1], from[x].c[0]);
+    }
+    return image;
+}
+
+QImage imageOfPicture(const Bits& bits)
+{
+    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // which makes the fourth byte 255
+    image.reinterpretAsFormat(QImage::Format_RGB32);
+    return image;
+}
+
 } // namespace
 
 LoadedPicture QtClipboard::bitmap()
@@ -65,36 +106,18 @@ LoadedPicture QtClipboard::received()
     return picture;
 }
 
-void QtClipboard::offer(const QImage& picture)
+bool QtClipboard::offer(const Bits& bits, QImage (*make)(const Bits&))
 {
-    auto* data = new QMimeData;
-    data->setImageData(picture);
+    if (bits.isNull()) return false;
+    auto* data = new PictureData([bits, make] { return make(bits); });
     QGuiApplication::clipboard()->setMimeData(data);
     ours_ = data;
-}
-
-bool QtClipboard::setBitmap(const Bits& bits)
-{
-    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // which makes the fourth byte 255
-    if (image.isNull()) return false;
-    image.reinterpretAsFormat(QImage::Format_RGB32);
-    offer(image);
     return true;
 }
 
-bool QtClipboard::setPart(const Bits& part)
-{
-    QImage image(part.width(), part.height(), QImage::Format_ARGB32);
-    if (image.isNull()) return false;
-    for (int y = 0; y < image.height(); ++y) {
-        const Pixel* from = part.row(y);
-        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            to[x] = from[x].c[3] == 255 ? 0 : qRgb(from[x].c[2], from[x].c[1], from[x].c[0]);
-    }
-    offer(image);
-    return true;
-}
+bool QtClipboard::setBitmap(const Bits& bits) { return offer(bits, imageOfPicture); }
+
+bool QtClipboard::setPart(const Bits& part) { return offer(part, imageOfPart); }
 
 void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }
 

@@ -25,7 +25,7 @@ class QtClipboard final : public Clipboard {
     void clear() override;
 
   private:
-    void offer(const QImage& picture);
+    bool offer(const Bits& bits, QImage (*make)(const Bits&));
     LoadedPicture received();
 
     Read read_;
