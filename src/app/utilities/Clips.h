@@ -1,5 +1,6 @@
 // Clips: CUT, COPY and PASTE of selected parts, with the box of the clip history.
 #pragma once
+#include "document/road/DocumentHandle.h"
 #include "ui/utilities/fPaste.h"
 #include <QPointer>
 

@@ -200,6 +200,7 @@ TEST_F(FrameDocuments, TheSelectionHasItsCommands)
     command("UNDO");
     const Bits before = image->bits();
     key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    frame->workspace().wait();
     EXPECT_FALSE(image->bits() == before) << "the other key of redo";
 }
 

@@ -484,6 +484,7 @@ TEST(StartTest, AProgramFolderThatCannotBeWrittenIsSaidAndTheEditorStarts)
     frame->workspace().wait();
     EXPECT_FALSE(image->bits() == before);
     frame->Mmenu("UNDO");
+    frame->workspace().wait();
     EXPECT_TRUE(image->bits() == before) << "the step was in memory";
     setup.AskToSave = false;
     frame->close();
