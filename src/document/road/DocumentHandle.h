@@ -13,7 +13,7 @@ class DocumentHandle {
     DocumentHandle() = default; // names none
     explicit DocumentHandle(const std::shared_ptr<Document>& life) : life_(life) {}
 
-    /// The document, or null when it is gone. Never to be kept over a yield.
+    /// The document, or null when it is gone. Never to be kept over a call that runs events.
     Document* get() const { return life_.lock().get(); }
     Document& operator*() const { return *get(); }
     Document* operator->() const { return get(); }
