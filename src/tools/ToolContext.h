@@ -15,7 +15,7 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-/// The tool state of one document and the ways to the rest. Positions are picture pixels.
+/// The tool state of one view and the ways to the rest. Positions are picture pixels.
 struct ToolContext {
     ToolContext(Document& document, Frame& frame, ToolSurface& surface)
         : document(document), frame(frame), surface(surface), preview(document, frame.workspace().engine())
@@ -41,7 +41,8 @@ struct ToolContext {
     Region before, wiped;                   // the selection as a gesture found it, and as its press left it
     std::int32_t colourBefore = 0;          // the colour that the pipette found
 
-    std::shared_ptr<int> life = std::make_shared<int>(0); // expires with this object: a yield may close the document
+    std::shared_ptr<int> life =
+        std::make_shared<int>(0); // expires with this object: what a tool calls may close the view
 
     Setup& setup() const { return frame.setup(); }
     ToolStores& stores() const { return frame.toolStores(); }

@@ -1,9 +1,9 @@
-// Tools: the mouse and key events of a document's display, handed to the tool that Setup.CurrentTool names. The tools
+// Tools: the mouse and key events of a view's display, handed to the tool that Setup.CurrentTool names. The tools
 // themselves are small classes in tools_*.cpp and rows of toolRows.cpp.
 //
 // A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
 // back and one undo step. A drag belongs to the tool that it began with, whatever is chosen meanwhile. Failures of the
-// arithmetic end the event and nothing else. A yield within a tool may destroy this object.
+// arithmetic end the event and nothing else. A call that leaves a tool may destroy this object.
 #pragma once
 #include "tools/ToolContext.h"
 #include "tools/toolRows.h"
@@ -44,6 +44,9 @@ class Tools {
     void toolChosen();
     /// The picture has another size: the corners of a half-made polygon mean nothing any more.
     void pictureReplaced();
+    /// Another view of the document is used from now on, or this one closes while the document stays: nothing of what
+    /// it has begun remains. A pending paste goes on.
+    void giveWay();
     /// The selection by command; a gesture under way is dropped.
     void select(Selecting what);
     /// The status bar says which keys end what is under way; nothing when nothing is.
@@ -54,7 +57,7 @@ class Tools {
     /// Shows the pointer of the chosen tool.
     void showPointer();
 
-    /// Of the tool that holds the drag, else of the chosen one.
+    /// Of the tool that holds the drag, else of the chosen one. None while the document is being worked on.
     Footprint footprint() const;
 
     bool ToolDown() const { return context_.down; }
