@@ -166,6 +166,7 @@ inline constexpr CommandWord kCommandWords[] = {
     {"@ICON",                Stage::Free,       WordKind::Window},
     {"@ASSOCIATION",         Stage::Free,       WordKind::Window},
     {"@EXIT",                Stage::Free,       WordKind::Window},
+    {"@NEWVIEW",             Stage::NeedsImage, WordKind::View, {"VIEWS", "New View", "window-new"}},
     {"@ABOUT",               Stage::Free,       WordKind::Window},
     {"@SELECTALL",           Stage::NeedsImage, WordKind::View, {"SELECT", "Select &All", "edit-select-all", "Ctrl+A"}},
     {"@SELECTNONE",          Stage::NeedsImage, WordKind::View, {"SELECT", "Select Non&e", "edit-select-none", "Ctrl+Shift+A"}},

@@ -1,5 +1,5 @@
 // Document: everything of an open picture that needs no window: pixels, selection, undo series, changed mark. fImage is
-// its window; the batch program uses it alone.
+// a view of it; the batch program uses it alone.
 #pragma once
 #include "document/road/DocumentHandle.h"
 #include "document/road/FileFacts.h"
@@ -74,11 +74,17 @@ class Document {
 
     cBitRegion Region;
     TouchedTiles touched; // what was painted since the last commit, for PreviewBuffer
+    /// What PreviewBuffer knows of the picture and the committed one, the same for all views.
+    struct {
+        bool whole = false;                                   // nothing is known of how the two differ
+        std::weak_ptr<const std::uint8_t[]> shown, committed; // the two blocks when they were last known to be in step
+    } preview;
     Painter paint{bits_, Region, touched};
     UndoStore undo;
     FileFacts file;
     bool Changed = false;
     bool Zoomed = false; // a sizing command was the last change
+    int views = 0;       // windows that show it; the last one to close asks, and closes it
     /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
     /// failed, and then the window still has it.
     std::function<bool()> waitingWork;

@@ -220,6 +220,9 @@ void Workspace::begin(Place& place)
         new Run{document, std::move(item),
                 Draft(*document, committed ? engine_.bits() : document->bits(), engine_, item.step.after)});
     start(place.running);
+    later([this, document] {
+        if (isBusy(document)) emit busy(document);
+    });
 }
 
 void Workspace::start(const std::shared_ptr<Run>& run)

@@ -9,8 +9,8 @@
 // parallel.
 //
 // Called from the window's thread only. then(...) and signals come there too, always from the event loop and never from
-// inside of a call, so that nobody has to ask in his middle whether he still stands. Who holds a window in then(...)
-// holds it by a QPointer.
+// inside of a call, so that nobody has to ask in his middle whether he still stands; only changed() comes before
+// finish() and step() return. Who holds a window in then(...) holds it by a QPointer.
 #pragma once
 #include "document/Document.h"
 #include "document/road/Arrival.h"
@@ -117,6 +117,8 @@ class Workspace final : public QObject {
     void renamed(const DocumentHandle& document);
     /// A change was taken: pixels, size, selection, steps.
     void changed(const DocumentHandle& document);
+    /// A change is computed from now on.
+    void busy(const DocumentHandle& document);
     /// Its changes are all done.
     void idle(const DocumentHandle& document);
     /// Progress of the running change, as the engine reports it.

@@ -191,7 +191,7 @@ Region Region::scaled(double factor) const
 bool operator==(const Region& a, const Region& b)
 {
     if (a.isNull() || b.isNull()) return a.isNull() == b.isNull();
-    return a.data_->spans == b.data_->spans && a.data_->bands == b.data_->bands;
+    return a.data_ == b.data_ || (a.data_->spans == b.data_->spans && a.data_->bands == b.data_->bands);
 }
 
 } // namespace velara

@@ -16,7 +16,8 @@ bool isSame(const std::weak_ptr<const std::uint8_t[]>& a, const std::weak_ptr<co
 /// True while both pictures are the blocks that this object left, so that they differ at most in the touched tiles.
 bool PreviewBuffer::inStep() const
 {
-    return isSame(document_.bits().block(), shown_) && isSame(filter_.bits().block(), committed_);
+    return isSame(document_.bits().block(), document_.preview.shown) &&
+           isSame(filter_.bits().block(), document_.preview.committed);
 }
 
 bool PreviewBuffer::isOurs() const { return inStep() || document_.bits().sharesWith(filter_.bits()); }
@@ -28,8 +29,8 @@ void PreviewBuffer::prepare()
 
 void PreviewBuffer::remember()
 {
-    shown_ = document_.bits().block();
-    committed_ = filter_.bits().block();
+    document_.preview.shown = document_.bits().block();
+    document_.preview.committed = filter_.bits().block();
 }
 
 /// Determines how the two differ, whatever may have replaced either.
@@ -39,7 +40,7 @@ void PreviewBuffer::compare()
     const Bits& shown = document_.bits();
     if (shown.width() != filter_.bits().width() || shown.height() != filter_.bits().height()) document_.handTo(filter_);
     document_.touched.reset(shown.width(), shown.height());
-    whole_ = !shown.sharesWith(filter_.bits());
+    document_.preview.whole = !shown.sharesWith(filter_.bits());
     remember();
 }
 
@@ -67,11 +68,11 @@ void PreviewBuffer::restore()
 {
     if (!document_.PictureExists()) return;
     compare();
-    if (whole_) {
+    if (document_.preview.whole) {
         restored_ = {0, 0, document_.PictureWidth(), document_.PictureHeight()};
         document_.setBits(filter_.bits());
         document_.touched.reset(document_.PictureWidth(), document_.PictureHeight());
-        whole_ = false;
+        document_.preview.whole = false;
         return remember();
     }
     restored_ = restored_.united(document_.touched.bounds());
@@ -83,10 +84,10 @@ void PreviewBuffer::commit()
 {
     if (!document_.PictureExists()) return;
     compare();
-    if (whole_ || document_.touched.isMost() || filter_.bits().isShared()) {
+    if (document_.preview.whole || document_.touched.isMost() || filter_.bits().isShared()) {
         filter_.setBits(document_.bits()); // shared; the next begin() makes the second block
         document_.touched.reset(document_.PictureWidth(), document_.PictureHeight());
-        whole_ = false;
+        document_.preview.whole = false;
         return remember();
     }
     Bits committed = filter_.bits();

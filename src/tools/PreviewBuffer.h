@@ -1,7 +1,7 @@
 // PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal but for
 // the tiles that were painted since the last commit. So a drag step restores, and a commit hands over, only what was
 // touched; the result is that of copying the whole picture. Only the first stroke after another command pays one whole
-// copy.
+// copy. What it knows of the two is kept in the document: each view has a buffer.
 #pragma once
 #include "document/Document.h"
 
@@ -37,9 +37,7 @@ class PreviewBuffer {
 
     Document& document_;
     cBitFilter& filter_;
-    bool whole_ = false; // nothing is known of how the two differ
     Rect restored_;
-    std::weak_ptr<const std::uint8_t[]> shown_, committed_; // the two blocks when they were last known to be in step
 };
 
 } // namespace velara

@@ -15,7 +15,7 @@ struct Point {
     friend bool operator==(const Point&, const Point&) = default;
 };
 
-/// The tool state of one document and the ways to the rest. Positions are picture pixels.
+/// The tool state of one view and the ways to the rest. Positions are picture pixels.
 struct ToolContext {
     ToolContext(Document& document, Frame& frame, ToolSurface& surface)
         : document(document), frame(frame), surface(surface), preview(document, frame.workspace().engine())

@@ -1,4 +1,4 @@
-// ToolSurface: what the mouse tools ask of the window that shows the document. fImage is the real one; tests bring
+// ToolSurface: what the mouse tools ask of the view that they are used in. fImage is the real one; tests bring
 // their own. All coordinates are picture pixels.
 #pragma once
 #include "region/Region.h"

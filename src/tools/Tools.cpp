@@ -51,7 +51,7 @@ void Tools::showPointer()
 Footprint Tools::footprint() const
 {
     const Tool* const holder = tool();
-    return holder && context_.document.PictureExists() ? holder->footprint(context_) : Footprint();
+    return holder && context_.document.PictureExists() && !isWaiting() ? holder->footprint(context_) : Footprint();
 }
 
 void Tools::press(int button, int x, int y)
@@ -139,6 +139,11 @@ bool Tools::drop()
     endRelease();
     showPointer();
     return true;
+}
+
+void Tools::giveWay()
+{
+    if (active_ || open_) drop();
 }
 
 void Tools::toolChosen()

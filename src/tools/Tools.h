@@ -1,4 +1,4 @@
-// Tools: the mouse and key events of a document's display, handed to the tool that Setup.CurrentTool names. The tools
+// Tools: the mouse and key events of a view's display, handed to the tool that Setup.CurrentTool names. The tools
 // themselves are small classes in tools_*.cpp and rows of toolRows.cpp.
 //
 // A preview is made on the document and undone by restoring it from the engine's committed picture; a commit is the way
@@ -44,6 +44,9 @@ class Tools {
     void toolChosen();
     /// The picture's size has changed: the corners of an unfinished polygon are invalid.
     void pictureReplaced();
+    /// Another view of the document is used from now on, or this one closes while the document stays: nothing of what
+    /// it has begun remains. A pending paste goes on.
+    void giveWay();
     /// The selection by command; a gesture under way is dropped.
     void select(Selecting what);
     /// Shows in the status bar which keys end the current gesture; nothing without one.
@@ -54,7 +57,7 @@ class Tools {
     /// Shows the pointer of the chosen tool.
     void showPointer();
 
-    /// Of the tool that holds the drag, else of the chosen one.
+    /// Of the tool that holds the drag, else of the chosen one. None while the document is being worked on.
     Footprint footprint() const;
 
     bool ToolDown() const { return context_.down; }

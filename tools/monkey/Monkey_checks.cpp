@@ -41,7 +41,7 @@ bool samePicture(const Bits& a, const Bits& b)
 
 QString nameOf(const fImage& image)
 {
-    return QStringLiteral("document %1 (%2, %3)").arg(image.DocNumber()).arg(image.Caption(), image.SizeText());
+    return QStringLiteral("document %1 (%2, %3)").arg(image.document().DocNumber()).arg(image.name(), image.SizeText());
 }
 
 } // namespace
@@ -64,6 +64,9 @@ void Monkey::rest()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     frame_->workspace().wait();
+    for (fImage* image : frame_->documents()) // which show what was done in another view soon after it
+        while (image->findChild<QTimer*>("tmrFollow")->isActive())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     resting_ = before;
 }
 

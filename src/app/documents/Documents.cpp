@@ -17,7 +17,11 @@ Documents::Documents(QWidget* parent) : QObject(parent), area_(new QMdiArea(pare
     area_->setActivationOrder(QMdiArea::ActivationHistoryOrder); // after a close comes the one that was used before
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         fImage* image = active();
-        if (image && window == image->parentWidget()) image->activate();
+        if (image && window == image->parentWidget()) {
+            for (fImage* other : viewsOf(image->document().handle()))
+                if (other != image) other->giveWay();
+            image->activate();
+        }
         emit activated();
     });
 }
@@ -38,21 +42,40 @@ QList<fImage*> Documents::images() const
     return list;
 }
 
-fImage* Documents::active()
+fImage* Documents::active() const
 {
     auto* window = area_ ? qobject_cast<fDocumentWindow*>(area_->currentSubWindow()) : nullptr;
     return window ? window->image() : nullptr;
 }
 
+QList<fImage*> Documents::viewsOf(const DocumentHandle& document) const
+{
+    QList<fImage*> views = images();
+    views.removeIf([&](fImage* image) { return !document || image->document().handle() != document; });
+    return views;
+}
+
 fImage* Documents::of(const DocumentHandle& document) const
 {
-    for (fImage* image : images())
-        if (document && image->document().handle() == document) return image;
-    return nullptr;
+    const QList<fImage*> views = viewsOf(document);
+    return views.isEmpty() ? nullptr : views.contains(active()) ? active() : views.first();
+}
+
+/// Those of one document tell themselves apart by numbers, the only one has none.
+void Documents::numberViews()
+{
+    for (fImage* image : images()) {
+        const QList<fImage*> views = viewsOf(image->document().handle());
+        image->setViewNumber(views.size() > 1 ? int(views.indexOf(image)) + 1 : 0);
+    }
 }
 
 void Documents::show(std::unique_ptr<fImage> image, bool maximized)
 {
+    connect(image.get(), &fImage::shows, this, [this, from = image.get()](const Rect& part, bool outline) {
+        for (fImage* view : viewsOf(from->document().handle()))
+            if (view != from) view->follow(part, outline);
+    });
     auto* window = new fDocumentWindow(*this, image.release());
     area_->addSubWindow(window);
     window->fit(area_->viewport()->rect());
@@ -60,6 +83,7 @@ void Documents::show(std::unique_ptr<fImage> image, bool maximized)
         window->showMaximized();
     else
         window->show();
+    numberViews();
 }
 
 void Documents::fitActive()
@@ -76,7 +100,7 @@ void Documents::list(QMenu& menu)
     int number = 0;
     for (fImage* image : images()) {
         if (number == 0) menu.addSeparator()->setObjectName(prefix + "line");
-        const QString name = printable(image->Caption()).replace('&', "&&") + (image->isWindowModified() ? "*" : "");
+        const QString name = printable(image->name()).replace('&', "&&") + (image->isWindowModified() ? "*" : "");
         ++number;
         QAction* item = menu.addAction((number < 10 ? "&" : "") + QString::number(number) + " " + name);
         item->setObjectName(prefix + QString::number(number));
@@ -134,6 +158,7 @@ void Documents::bury(fDocumentWindow* window)
     buried_ << window;
     if (image) buried_ << image;
     QTimer::singleShot(0, this, &Documents::deleteBuried);
+    numberViews();
     emit buried();
 }
 

@@ -1,5 +1,5 @@
-// Documents: the open pictures of the frame: the area they stand in, which of them is active, and the end of those that
-// are closed.
+// Documents: the windows of the open pictures, one or more for each: the area they stand in, which of them is active,
+// their numbers, and the end of those that are closed.
 #pragma once
 #include "document/road/DocumentHandle.h"
 #include "ui/view/fImage.h"
@@ -24,18 +24,20 @@ class Documents final : public QObject {
     ~Documents() override { clear(); }
 
     QMdiArea& area() { return *area_; }
-    /// In order of opening.
+    /// All views, in order of opening.
     QList<fImage*> images() const;
     /// Null without one.
-    fImage* active();
-    /// The window of an open document; null when it is closed.
+    fImage* active() const;
+    /// The windows of an open document, in order of opening; none when it is closed.
+    QList<fImage*> viewsOf(const DocumentHandle& document) const;
+    /// The active one of them, else the first; null when it is closed.
     fImage* of(const DocumentHandle& document) const;
 
     /// Shows it in a window that fits the whole picture, or that fills the area if the picture is too large for it.
     void show(std::unique_ptr<fImage> image, bool maximized);
     /// The same for the active one, whose zoom may have changed.
     void fitActive();
-    /// Puts the open pictures at the end of the menu, the active one with a mark, in place of what stood there.
+    /// Puts the open views at the end of the menu, the active one with a mark, in place of what stood there.
     void list(QMenu& menu);
     /// Moves the focus away from a picture at the Tab key; false when there is nowhere to go.
     std::function<bool(bool forward)> leaveByTab;
@@ -47,7 +49,7 @@ class Documents final : public QObject {
     bool closeAll();
     /// Ends all without a question.
     void clear();
-    /// Takes a closed document's window away; it is deleted from the event loop.
+    /// Takes a closed window away; it is deleted from the event loop.
     void bury(fDocumentWindow* window);
 
   signals:
@@ -56,6 +58,7 @@ class Documents final : public QObject {
 
   private:
     void deleteBuried();
+    void numberViews();
     void activate(fImage& image);
 
     QPointer<QMdiArea> area_;

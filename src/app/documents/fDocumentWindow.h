@@ -1,5 +1,5 @@
-// fDocumentWindow: the child window that holds one document in the frame's area. Closing asks the document; a closed
-// one goes back to the documents, which delete it when no work is under way.
+// fDocumentWindow: the child window that holds one view in the frame's area. Closing asks the view; a closed one goes
+// back to Documents, which deletes it from the event loop.
 #pragma once
 #include "ui/view/fImage.h"
 #include <QMdiSubWindow>
@@ -14,7 +14,7 @@ class fDocumentWindow final : public QMdiSubWindow {
   public:
     fDocumentWindow(Documents& documents, fImage* image);
 
-    /// The document, or null after it closed.
+    /// The view, or null after it closed.
     fImage* image() const { return image_; }
     /// Takes the size that shows the whole picture, within the given area; fills the area if it is too small for that.
     void fit(const QRect& area);

@@ -1,4 +1,4 @@
-// What the frame is made of, the start page and the status bar.
+// What the frame is made of, the start page, the buttons of undo and redo, and words in the status bar.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
@@ -84,8 +84,6 @@ void fMain::showStartPage()
     startPage_->setVisible(empty);
     startPage_->place();
 }
-
-void fMain::capturePic(int mode) { capture_->capturePic(mode); }
 
 void fMain::refreshUndoState()
 {

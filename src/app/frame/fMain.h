@@ -1,11 +1,13 @@
-// fMain: the frame around the documents: a switchboard over what it owns, which don't know each other. The open
-// pictures are in Documents, menus and toolbars in Bars, the floating boxes in Boxes; the workspace, the
-// status bar, the side pane and the road from a command to its document are its own.
+// fMain: the frame around the documents: it makes its parts, which don't know each other, and lets the words of the
+// vocabulary act on them. The documents are the workspace's; their windows are in Documents, menus and toolbars in
+// Bars, the floating boxes in Boxes, the side pane in fToolPane, the status bar in fStatus, what shows while nothing is
+// open in fStartPage, cutting and pasting in Clips, pictures of the screen in Capture.
 //
-// Cut by topic: fMain.cpp (what it is made of, the start page, the status bar), _commands (the command language,
-// options, about), _files (open, save, recent, drop, clipboard), _road (a change, from a command to its document),
-// _pixels (commands that change a picture), _geometry (dialogs that make or reshape one), _export (fewer colours, the
-// web), _bars (bars, boxes, side pane, tools, colours), _close (the frame's size and its end).
+// Cut by topic: fMain.cpp (its parts, the start page, the buttons of undo), _commands (what each word does, options,
+// about), _files (open, save, close, recent, drop, clipboard), _road (what is shown of the workspace's changes),
+// _pixels (commands that change a picture, zoom, another view), _geometry (dialogs that make or reshape one, or lay
+// something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours), _close (the
+// frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
@@ -58,41 +60,12 @@ class fMain final : public QMainWindow, public Frame {
     /// Runs a command word, or one of the frame's own; index distinguishes the items of such a word.
     void run(std::string_view word, int index = 0);
 
-    void open();
-    void save();
-    void saveAs();
-    void openRecent(int index);
-    void stepUndo(bool back);
-    void copyToNew();
-    void fromClipboard();
-    void crop();
-    void closeActive();
-    void runSizeWord(const SizeWord& size);
-    void newPicture();
-    void imageSize();
-    void canvasSize();
-    void imageOrientation();
-    void imageRotate();
-    void imageResolution();
-    void imageTextures();
-    void imageMerging();
-    void colorDepth();
-    /// The dialog that saves for the web, on the active document, or on a picture made of a document.
-    void saveForWeb();
-    void saveForWeb(fImage& image, const Bits& bits);
-    void textTools();
+    /// Of the active view; see there.
     void setZoom(int factor);
-    void runPreset(const Preset& preset);
-    /// The dialog of a filter, on the active document.
-    void showFilter(const FilterRow& row);
-    void options();
-    void about();
-    void reset();
 
     // --- Utilities
     Clips& clips() { return *clips_; }
     Capture& capture() { return *capture_; }
-    void capturePic(int mode);
 
     // --- Files
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
@@ -107,26 +80,20 @@ class fMain final : public QMainWindow, public Frame {
     Bars& bars() { return *bars_; }
     Boxes& boxes() { return *boxes_; }
     void applyBars(); // visibility and check marks from Setup
-    void toggleStatusBar();
-    void toggleSideBar();
     /// Fills the panes of the tools that have one.
     void initToolPanes();
-    void Tool_Frame();
-    void DisableTools();
+    /// A button of the tool strip, by its name, or a tool's key.
     void toolClicked(const QString& key);
-    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
-    void refreshUndoState();
-    /// Hand scrolling ends: a drag is the hand's or the tool's.
-    void releaseHand();
+    /// No tool is chosen any more, and the hand is put away.
+    void takeNoTool();
     fToolPane& toolPane() { return *toolPane_; }
     fStatus& status() { return *status_; }
-    Documents& openPictures() { return *documents_; }
     QMdiArea& area() { return documents_->area(); }
     /// A menu item or a button, by its object name.
     QAction* action(const QString& objectName) const { return bars_->action(objectName); }
-    /// The active document's window, or null.
+    /// The active view, or null.
     fImage* GetActiveImage() { return documents_->active(); }
-    /// The open documents, in order of opening.
+    /// The views of the open documents, in order of opening.
     QList<fImage*> documents() const { return documents_->images(); }
     /// Saves the configuration and the frame's position for the next start.
     void saveState();
@@ -152,12 +119,53 @@ class fMain final : public QMainWindow, public Frame {
     QMenu* createPopupMenu() override { return bars_->makePopup(); }
 
   private:
+    struct Commands; // the table of what the words do, in fMain_commands.cpp
+
+    // What the words of the vocabulary do; those of the bars, the boxes and the utilities are with these.
+    void open();
+    void save();
+    void saveAs();
+    void openRecent(int index);
+    void closeActive();
+    void copyToNew();
+    void fromClipboard();
+    void stepUndo(bool back);
+    void crop();
+    void runPreset(const Preset& preset);
+    void runSizeWord(const SizeWord& size);
+    void showFilter(const FilterRow& row);
+    void textTools();
+    /// Another window of the active document, with a zoom and a place of its own.
+    void newView();
+    void newPicture();
+    void imageSize();
+    void canvasSize();
+    void imageOrientation();
+    void imageRotate();
+    void imageResolution();
+    void imageTextures();
+    void imageMerging();
+    void colorDepth();
+    /// The dialog that saves for the web, on the active document, or on a picture made of a document.
+    void saveForWeb();
+    void saveForWeb(fImage& image, const Bits& bits);
+    void options();
+    void about();
+    void toggleStatusBar();
+    void toggleSideBar();
+    void storeLayout();
+
     /// Failures go to the status bar.
     void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
     void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
+    void showChosenTool();
+    /// Hand scrolling ends: a drag is the hand's or the tool's.
+    void releaseHand();
+    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
+    void refreshUndoState();
     /// The pictures in the cut that fits the palette.
     void refreshIcons();
     void frameResized();

@@ -38,7 +38,7 @@ void fMain::refreshIcons()
     toolPane_->refreshIcons();
 }
 
-void fMain::reset()
+void fMain::storeLayout()
 {
     bars_->saveLayout();
     frameResized();
@@ -148,10 +148,10 @@ void fMain::initToolPanes()
         toolPane_->setPane(tool.name, makeSidePane(tool, *this));
         new fHover(toolPane_->button(tool.name), [this, &tool] { return makePopup(tool, *this, this); });
     }
-    Tool_Frame();
+    showChosenTool();
 }
 
-void fMain::Tool_Frame()
+void fMain::showChosenTool()
 {
     toolPane_->setTool(setup_.CurrentTool);
     toolPane_->showPane(setup_.CurrentTool);
@@ -170,7 +170,13 @@ void fMain::keyPressEvent(QKeyEvent* event)
     if (!image || !image->displayKey(*event, true)) QMainWindow::keyPressEvent(event);
 }
 
-void fMain::DisableTools() { toolPane_->releaseTools(); }
+void fMain::takeNoTool()
+{
+    setup_.CurrentTool.clear();
+    toolPane_->releaseTools();
+    showChosenTool();
+    releaseHand();
+}
 
 void fMain::EnableMouseScrolling()
 {
@@ -190,7 +196,7 @@ void fMain::toolClicked(const QString& key)
     } else {
         clips_->letGo();
         setup_.CurrentTool = key;
-        Tool_Frame();
+        showChosenTool();
         releaseHand(); // who takes a tool puts the hand away
     }
 }

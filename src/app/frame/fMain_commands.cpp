@@ -1,4 +1,5 @@
-// What the words of the vocabulary do in the frame, and the two that only show a dialog of the program.
+// What the words of the vocabulary do in the frame, how one is run, and the two dialogs of the program itself: options
+// and about.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/settings/fPreferences.h"
@@ -32,104 +33,108 @@ struct Handler {
     void operator()(fMain& frame, int index) const { run ? run(frame) : runOne(frame, index); }
 };
 
-// clang-format off
-constexpr Handler kHandlers[] = {
-    // No document needed
-    {"NEW",                  [](fMain& f) { f.newPicture(); }},
-    {"OPEN",                 [](fMain& f) { f.open(); }},
-    {"FILEASSOCIATION",      showAssociation},
-    {"PRINTERSETUP",         setUpPrinter},
-    {"SELECTSOURCE",         selectSource},
-    {"ACQUIRETWAIN",         acquire},
-    {"CAPTUREDESKTOP",       [](fMain& f) { f.capture().desktop(); }},
-    {"CAPTUREFOREGROUND",    [](fMain& f) { f.capturePic(Capture::FixedArea); }},
-    {"CAPTUREBACKGROUND",    [](fMain& f) { f.capture().background(); }},
-    {"CUSTOMCAPTURE",        [](fMain& f) { f.capturePic(Capture::Rectangle); }},
-
-    // The active document is asked for; one of them runs without
-    {"UNDO",                 [](fMain& f) { f.stepUndo(true); }},
-    {"REDO",                 [](fMain& f) { f.stepUndo(false); }},
-    {"CREATENEWCOPY",        [](fMain& f) { f.copyToNew(); }},
-    {"COPYIMAGETOCLIPBOARD", [](fMain& f) { f.GetActiveImage()->BitsCopyToClipboard(); }},
-    {"CREATEFROMCLIPBOARD",  [](fMain& f) { f.fromClipboard(); }},
-    {"IMAGESIZE",            [](fMain& f) { f.imageSize(); }},
-    {"CANVASSIZE",           [](fMain& f) { f.canvasSize(); }},
-    {"IMAGEORIENTATION",     [](fMain& f) { f.imageOrientation(); }},
-    {"IMAGEROTATE",          [](fMain& f) { f.imageRotate(); }},
-
-    // Only with a document
-    {"CLOSE",                [](fMain& f) { f.closeActive(); }},
-    {"SAVE",                 [](fMain& f) { f.save(); }},
-    {"SAVEAS",               [](fMain& f) { f.saveAs(); }},
-    {"PRINT",                print},
-    {"CUT",                  [](fMain& f) { f.clips().cut(); }},
-    {"COPY",                 [](fMain& f) { f.clips().copy(); }},
-    {"PASTE",                [](fMain& f) { f.clips().paste(); }},
-    {"CROP",                 [](fMain& f) { f.crop(); }},
-    {"OPTIONS",              [](fMain& f) { f.options(); }},
-    {"200",                  [](fMain& f) { f.setZoom(2); }},
-    {"300",                  [](fMain& f) { f.setZoom(3); }},
-    {"400",                  [](fMain& f) { f.setZoom(4); }},
-    {"500",                  [](fMain& f) { f.setZoom(5); }},
-    {"600",                  [](fMain& f) { f.setZoom(6); }},
-    {"700",                  [](fMain& f) { f.setZoom(7); }},
-    {"PASTELAYERSBOX",       [](fMain& f) { f.boxes().bring(Boxes::Clips); }},
-    {"IMAGETEXTURES",        [](fMain& f) { f.imageTextures(); }},
-    {"IMAGEMERGING",         [](fMain& f) { f.imageMerging(); }},
-    {"IMAGERESOLUTION",      [](fMain& f) { f.imageResolution(); }},
-    {"IMAGESAVEOPTIONS",     [](fMain& f) { f.saveForWeb(); }},
-    {"IMAGECOLORDEPTH",      [](fMain& f) { f.colorDepth(); }},
-    {"TEXTTOOLS",            [](fMain& f) { f.textTools(); }},
-    {"WTILE",                [](fMain& f) { setAsWallpaper(f, WallpaperMode::Tile); }},
-    {"WCENTER",              [](fMain& f) { setAsWallpaper(f, WallpaperMode::Centre); }},
-    {"WSTRETCH",             [](fMain& f) { setAsWallpaper(f, WallpaperMode::Stretch); }},
-    {"TILEHORIZONTALLY",     [](fMain& f) { f.openPictures().arrange(Documents::Arrangement::Rows); }},
-    {"TILEVERTICALLY",       [](fMain& f) { f.openPictures().arrange(Documents::Arrangement::Columns); }},
-    {"CASCADE",              [](fMain& f) { f.openPictures().arrange(Documents::Arrangement::Cascade); }},
-    {"RESET",                [](fMain& f) { f.reset(); }},
-
-    // What the frame does by itself
-    {"@BROWSE",              browsePictures},
-    {"@ASSOCIATION",         showAssociation},
-    {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
-    {"@ICON",                extractIcons},
-    {"@EXIT",                [](fMain& f) { f.close(); }},
-    {"@SELECTALL",           [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::All); }},
-    {"@SELECTNONE",          [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::None); }},
-    {"@SELECTINVERTED",      [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::Inverted); }},
-    {"@ABOUT",               [](fMain& f) { f.about(); }},
-    {"@RESET",               [](fMain& f) { f.reset(); }},
-    {"@RECENT",              [](fMain& f, int index) { f.openRecent(index); }},
-    {"@BAR",                 [](fMain& f, int index) { f.bars().toggleBar(index); }},
-    {"@COLORBOX",            [](fMain& f) { f.boxes().toggle(Boxes::Colours); }},
-    {"@TEXTURESBOX",         [](fMain& f) { f.boxes().toggle(Boxes::Textures); }},
-    {"@CLIPBOARDBOX",        [](fMain& f) { f.boxes().toggle(Boxes::Clips); }},
-    {"@STATUSBAR",           [](fMain& f) { f.toggleStatusBar(); }},
-    {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
-};
-// clang-format on
-
 constexpr bool needsHandler(WordKind kind)
 {
     return kind == WordKind::Window || kind == WordKind::View || kind == WordKind::Step;
 }
-static_assert(std::ranges::all_of(kHandlers, isCommandWord, &Handler::word),
-              "a handler without its word: add the row to kCommandWords in src/commands/vocabulary.h");
-static_assert(std::ranges::all_of(kCommandWords,
-                                  [](const CommandWord& w) {
-                                      return std::ranges::count(kHandlers, w.word, &Handler::word) ==
-                                             needsHandler(w.kind);
-                                  }),
-              "a word without its handler: add one row to kHandlers in src/app/frame/fMain_commands.cpp");
-
-const Handler* findHandler(std::string_view word) { return findRow(kHandlers, word, &Handler::word); }
 
 } // namespace
+
+struct fMain::Commands {
+    // clang-format off
+    static constexpr Handler kHandlers[] = {
+        // No document needed
+        {"NEW",                  [](fMain& f) { f.newPicture(); }},
+        {"OPEN",                 [](fMain& f) { f.open(); }},
+        {"FILEASSOCIATION",      showAssociation},
+        {"PRINTERSETUP",         setUpPrinter},
+        {"SELECTSOURCE",         selectSource},
+        {"ACQUIRETWAIN",         acquire},
+        {"CAPTUREDESKTOP",       [](fMain& f) { f.capture().desktop(); }},
+        {"CAPTUREFOREGROUND",    [](fMain& f) { f.capture().capturePic(Capture::FixedArea); }},
+        {"CAPTUREBACKGROUND",    [](fMain& f) { f.capture().background(); }},
+        {"CUSTOMCAPTURE",        [](fMain& f) { f.capture().capturePic(Capture::Rectangle); }},
+
+        // The active document is asked for; one of them runs without
+        {"UNDO",                 [](fMain& f) { f.stepUndo(true); }},
+        {"REDO",                 [](fMain& f) { f.stepUndo(false); }},
+        {"CREATENEWCOPY",        [](fMain& f) { f.copyToNew(); }},
+        {"COPYIMAGETOCLIPBOARD", [](fMain& f) { f.GetActiveImage()->BitsCopyToClipboard(); }},
+        {"CREATEFROMCLIPBOARD",  [](fMain& f) { f.fromClipboard(); }},
+        {"IMAGESIZE",            [](fMain& f) { f.imageSize(); }},
+        {"CANVASSIZE",           [](fMain& f) { f.canvasSize(); }},
+        {"IMAGEORIENTATION",     [](fMain& f) { f.imageOrientation(); }},
+        {"IMAGEROTATE",          [](fMain& f) { f.imageRotate(); }},
+
+        // Only with a document
+        {"CLOSE",                [](fMain& f) { f.closeActive(); }},
+        {"SAVE",                 [](fMain& f) { f.save(); }},
+        {"SAVEAS",               [](fMain& f) { f.saveAs(); }},
+        {"PRINT",                print},
+        {"CUT",                  [](fMain& f) { f.clips().cut(); }},
+        {"COPY",                 [](fMain& f) { f.clips().copy(); }},
+        {"PASTE",                [](fMain& f) { f.clips().paste(); }},
+        {"CROP",                 [](fMain& f) { f.crop(); }},
+        {"OPTIONS",              [](fMain& f) { f.options(); }},
+        {"200",                  [](fMain& f) { f.setZoom(2); }},
+        {"300",                  [](fMain& f) { f.setZoom(3); }},
+        {"400",                  [](fMain& f) { f.setZoom(4); }},
+        {"500",                  [](fMain& f) { f.setZoom(5); }},
+        {"600",                  [](fMain& f) { f.setZoom(6); }},
+        {"700",                  [](fMain& f) { f.setZoom(7); }},
+        {"PASTELAYERSBOX",       [](fMain& f) { f.boxes().bring(Boxes::Clips); }},
+        {"IMAGETEXTURES",        [](fMain& f) { f.imageTextures(); }},
+        {"IMAGEMERGING",         [](fMain& f) { f.imageMerging(); }},
+        {"IMAGERESOLUTION",      [](fMain& f) { f.imageResolution(); }},
+        {"IMAGESAVEOPTIONS",     [](fMain& f) { f.saveForWeb(); }},
+        {"IMAGECOLORDEPTH",      [](fMain& f) { f.colorDepth(); }},
+        {"TEXTTOOLS",            [](fMain& f) { f.textTools(); }},
+        {"WTILE",                [](fMain& f) { setAsWallpaper(f, WallpaperMode::Tile); }},
+        {"WCENTER",              [](fMain& f) { setAsWallpaper(f, WallpaperMode::Centre); }},
+        {"WSTRETCH",             [](fMain& f) { setAsWallpaper(f, WallpaperMode::Stretch); }},
+        {"TILEHORIZONTALLY",     [](fMain& f) { f.documents_->arrange(Documents::Arrangement::Rows); }},
+        {"TILEVERTICALLY",       [](fMain& f) { f.documents_->arrange(Documents::Arrangement::Columns); }},
+        {"CASCADE",              [](fMain& f) { f.documents_->arrange(Documents::Arrangement::Cascade); }},
+        {"RESET",                [](fMain& f) { f.storeLayout(); }},
+
+        // What the frame does by itself
+        {"@BROWSE",              browsePictures},
+        {"@ASSOCIATION",         showAssociation},
+        {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
+        {"@ICON",                extractIcons},
+        {"@EXIT",                [](fMain& f) { f.close(); }},
+        {"@SELECTALL",           [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::All); }},
+        {"@SELECTNONE",          [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::None); }},
+        {"@SELECTINVERTED",      [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::Inverted); }},
+        {"@NEWVIEW",             [](fMain& f) { f.newView(); }},
+        {"@ABOUT",               [](fMain& f) { f.about(); }},
+        {"@RESET",               [](fMain& f) { f.storeLayout(); }},
+        {"@RECENT",              [](fMain& f, int index) { f.openRecent(index); }},
+        {"@BAR",                 [](fMain& f, int index) { f.bars().toggleBar(index); }},
+        {"@COLORBOX",            [](fMain& f) { f.boxes().toggle(Boxes::Colours); }},
+        {"@TEXTURESBOX",         [](fMain& f) { f.boxes().toggle(Boxes::Textures); }},
+        {"@CLIPBOARDBOX",        [](fMain& f) { f.boxes().toggle(Boxes::Clips); }},
+        {"@STATUSBAR",           [](fMain& f) { f.toggleStatusBar(); }},
+        {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
+    };
+    // clang-format on
+
+    static_assert(std::ranges::all_of(kHandlers, isCommandWord, &Handler::word),
+                  "a handler without its word: add the row to kCommandWords in src/commands/vocabulary.h");
+    static_assert(std::ranges::all_of(kCommandWords,
+                                      [](const CommandWord& w) {
+                                          return std::ranges::count(kHandlers, w.word, &Handler::word) ==
+                                                 needsHandler(w.kind);
+                                      }),
+                  "a word without its handler: add one row to kHandlers in src/app/frame/fMain_commands.cpp");
+
+    static const Handler* find(std::string_view word) { return findRow(kHandlers, word, &Handler::word); }
+};
 
 bool fMain::available(std::string_view word)
 {
     const CommandWord* row = findCommandWord(word);
-    return row && (!needsHandler(row->kind) || findHandler(word));
+    return row && (!needsHandler(row->kind) || Commands::find(word));
 }
 
 void fMain::Mmenu(const QString& word)
@@ -148,7 +153,7 @@ void fMain::Mmenu(const QString& word)
         case WordKind::Size:
             return runSizeWord(*findRow(sizeWords(), name, &SizeWord::word));
         default:
-            if (const Handler* handler = findHandler(name)) (*handler)(*this, 0);
+            if (const auto* handler = Commands::find(name)) (*handler)(*this, 0);
         }
     } catch (const std::exception& failure) { // a command fails here: changes that it did not complete were not made
         showFailure(word, failure);
@@ -169,7 +174,7 @@ void fMain::run(std::string_view word, int index)
     if (!word.starts_with('@')) return Mmenu(text(word));
     const CommandWord* command = findCommandWord(word);
     if (!command || !findsItsDocument(*command)) return;
-    if (const Handler* handler = findHandler(word)) (*handler)(*this, index);
+    if (const auto* handler = Commands::find(word)) (*handler)(*this, index);
 }
 
 void fMain::options()

@@ -1,4 +1,4 @@
-// Opening, saving, the recent list, files dropped on the frame, and new documents by way of the clipboard.
+// Opening, saving, closing, the recent list, files dropped on the frame, and new documents by way of the clipboard.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "fileio/SetupStore.h"
@@ -65,10 +65,8 @@ void fMain::showView(const DocumentHandle& document)
 /// It was saved: the name may be another one, and the mark of the changed ones is gone.
 void fMain::showName(const DocumentHandle& document)
 {
-    fImage* image = documents_->of(document);
-    if (!image) return;
-    image->setCaption(captionOf(*document));
-    if (document == active()) setStatus(Panel::Name, image->Caption());
+    for (fImage* view : documents_->viewsOf(document)) view->setCaption(captionOf(*document));
+    if (fImage* image = GetActiveImage(); image && document == active()) setStatus(Panel::Name, image->Caption());
 }
 
 void fMain::applyOpenOptions()

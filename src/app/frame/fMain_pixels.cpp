@@ -1,4 +1,5 @@
-// Commands that change a picture: presets, filter dialogs, sizing and turning, crop, texts, steps; and its zoom.
+// Commands that change a picture: presets, filter dialogs, sizing and turning, crop, texts, steps; and how it is
+// viewed: zoom, another view.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "commands/jobs.h"
@@ -73,6 +74,18 @@ void fMain::stepUndo(bool back)
                          ? tr("A step could not be kept: this is the last one that stands.")
                          : tr("A step that could not be kept was passed over."));
     });
+}
+
+/// It begins as the view that is there.
+void fMain::newView()
+{
+    const fImage& from = *GetActiveImage();
+    const int zoom = from.ZoomFactor();
+    const QPoint scroll = from.GetSBV();
+    showView(active());
+    setZoom(zoom);
+    documents_->fitActive();
+    GetActiveImage()->Scroll(scroll.x(), scroll.y());
 }
 
 void fMain::setZoom(int factor)

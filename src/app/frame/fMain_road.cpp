@@ -1,8 +1,10 @@
-// What the frame shows of the workspace: progress, the end of a change, the steps that are lost.
+// What the frame shows of the workspace: that it is at work, progress, what became of a change, the steps that are
+// lost.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "seams/Platform.h"
 #include "seams/text.h"
+#include <algorithm>
 
 namespace velara {
 
@@ -10,17 +12,18 @@ void fMain::bindWorkspace()
 {
     workspace_.engine().clock = [this] { return platform_.milliseconds(); };
     workspace_.held = [this](const Document& document) {
-        const fImage* image = documents_->of(document.handle());
-        return image && image->strokeUnderWay();
+        return std::ranges::any_of(documents_->viewsOf(document.handle()), &fImage::strokeUnderWay);
     };
     connect(&workspace_, &Workspace::changed, this, &fMain::changed);
     connect(&workspace_, &Workspace::progress, this, [this](const DocumentHandle& document, int percent) {
         if (document == active()) status_->setProgress(percent);
     });
     connect(&workspace_, &Workspace::idle, this, [this](const DocumentHandle& document) {
-        if (document != active()) return;
-        status_->setProgress(0);
-        GetActiveImage()->showToolPointer();
+        if (document == active()) status_->setProgress(0);
+        for (fImage* view : documents_->viewsOf(document)) view->showTool();
+    });
+    connect(&workspace_, &Workspace::busy, this, [this](const DocumentHandle& document) {
+        for (fImage* view : documents_->viewsOf(document)) view->showTool();
     });
     connect(&workspace_, &Workspace::reading, this, &fMain::showReading);
     connect(&workspace_, &Workspace::renamed, this, &fMain::showName);
@@ -34,7 +37,7 @@ void fMain::changed(const DocumentHandle& document)
 {
     fImage* image = documents_->of(document);
     if (!image) return;
-    image->UpdateImage();
+    image->UpdateImage(); // the other views follow
     if (workspace_.engineHolds(*document)) setStatus(Panel::Size, image->SizeText());
     refreshUndoState();
 }

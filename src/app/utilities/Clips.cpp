@@ -71,10 +71,7 @@ void Clips::layDown()
         return frame_.report("PASTE",
                              {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
     frame_.setup().PasteMode = PasteMode::Waiting;
-    frame_.setup().CurrentTool.clear();
-    frame_.DisableTools();
-    frame_.Tool_Frame();
-    frame_.releaseHand();
+    frame_.takeNoTool();
     image->StopTimer();
     stores.pastePending = true;
     image->showPaste();

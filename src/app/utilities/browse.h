@@ -1,4 +1,4 @@
-// The windows that show what is on the disk.
+// The browser of picture files, for opening and for choosing a folder, and the list of the formats that can be opened.
 #pragma once
 
 namespace velara {

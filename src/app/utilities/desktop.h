@@ -1,4 +1,4 @@
-// The words that speak with the desktop and the scanner.
+// The words that speak with the desktop, the printer and the scanner.
 #pragma once
 #include "seams/Wallpaper.h"
 

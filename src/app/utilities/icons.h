@@ -1,4 +1,4 @@
-// The icon extractor and its captures.
+// The icon extractor, which captures from the screen.
 #pragma once
 
 namespace velara {

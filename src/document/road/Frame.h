@@ -1,4 +1,4 @@
-// Frame: what documents, tools and dialogs may ask of the frame around them. fMain is the real one, RecordingFrame
+// Frame: what views, tools and dialogs may ask of the frame around them. fMain is the real one, RecordingFrame
 // (tests/support) the scripted one.
 //
 // Whoever changes a document's pixels does it by workspace().change():
@@ -53,8 +53,8 @@ class Frame {
     /// Runs a command word. Unknown words do nothing.
     virtual void Mmenu(const QString& word) = 0;
     virtual void setStatus(Panel panel, const QString& text) = 0;
-    /// Hand scrolling. The first activation of a document switches it on; documents take its state as they are
-    /// activated.
+    /// Hand scrolling. The first activation of a view switches it on; views take its state as they are activated.
+    /// Both are asked by views alone.
     virtual void EnableMouseScrolling() = 0;
     virtual bool mouseScrolling() const = 0;
     /// Updates the colour wells from Setup.

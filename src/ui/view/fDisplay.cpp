@@ -1,6 +1,5 @@
 #include "ui/view/fDisplay.h"
 #include "document/Document.h"
-#include "ui/view/fImage.h"
 #include "ui/view/footprintLine.h"
 #include <QPaintEvent>
 #include <QPainter>
@@ -16,7 +15,7 @@ QRect qrectOf(const Rect& r) { return {r.left, r.top, r.width(), r.height()}; }
 
 } // namespace
 
-fDisplay::fDisplay(fImage& image, const Document& document) : QWidget(&image), image_(image), document_(document)
+fDisplay::fDisplay(QWidget* view, const Document& document) : QWidget(view), document_(document)
 {
     setObjectName("iDst");
     setAccessibleName(tr("Picture"));
@@ -30,7 +29,18 @@ void fDisplay::setSpot(int scrollX, int scrollY, int zoom)
 {
     spot_.scrollX = scrollX;
     spot_.scrollY = scrollY;
-    if (std::exchange(spot_.zoom, zoom) != zoom) footprintLine_ = footprintLine(footprint_, zoom);
+    if (std::exchange(spot_.zoom, zoom) == zoom) return;
+    footprintLine_ = footprintLine(footprint_, zoom);
+    selection_.setZoomFactor(static_cast<float>(zoom));
+}
+
+const cBitRegion& fDisplay::selection()
+{
+    if (const Region& now = document_.Region.Region(); !(now == selection_.Region())) {
+        selection_.Clear();
+        selection_.setRegion(now);
+    }
+    return selection_;
 }
 
 QPoint fDisplay::footprintPlace() const { return footprintAt_ * spot_.zoom - QPoint(spot_.scrollX, spot_.scrollY); }
@@ -48,7 +58,7 @@ void fDisplay::showFootprint(const Footprint& footprint, QPoint pixel)
 void fDisplay::updateOutline()
 {
     constexpr std::size_t kMostPieces = 32;
-    const Region& scaled = document_.Region.RegionScaled();
+    const Region& scaled = selection().RegionScaled();
     const QRect view = rect();
     if (scaled.rectangleCount() > kMostPieces)
         return update(qrectOf(scaled.bounds()).translated(-spot_.scrollX, -spot_.scrollY) & view);
@@ -90,8 +100,7 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
                       static_cast<int>(std::ceil((part.left() + part.width()) * k)),
                       static_cast<int>(std::ceil((part.top() + part.height()) * k))};
     const auto drawOutline = [this](QImage& strip, int left, int top) {
-        document_.Region.DrawToDC(strip, -spot_.scrollX - left, -spot_.scrollY - top,
-                                  {0, 0, strip.width(), strip.height()});
+        selection().DrawToDC(strip, -spot_.scrollX - left, -spot_.scrollY - top, {0, 0, strip.width(), strip.height()});
     };
     const bool inStrips = outline && k == 1;
     renderer_.paint(painter, document_.bits(), spot_, device,
@@ -99,24 +108,11 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
     if (!outline || inStrips) return;
     if (outline_.size() != size()) outline_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);
     outline_.fill(Qt::transparent);
-    document_.Region.DrawToDC(outline_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
+    selection().DrawToDC(outline_, -spot_.scrollX, -spot_.scrollY, rectOf(part));
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.drawImage(part, outline_, part);
 }
 
-void fDisplay::mousePressEvent(QMouseEvent* event) { image_.displayPressed(*event); }
-void fDisplay::mouseDoubleClickEvent(QMouseEvent* event) { image_.displayDoubleClicked(*event); }
-void fDisplay::mouseMoveEvent(QMouseEvent* event) { image_.displayMoved(*event); }
-void fDisplay::mouseReleaseEvent(QMouseEvent* event) { image_.displayReleased(*event); }
-void fDisplay::wheelEvent(QWheelEvent* event) { image_.displayWheel(*event); }
-void fDisplay::keyPressEvent(QKeyEvent* event)
-{
-    if (!image_.displayKey(*event, true)) QWidget::keyPressEvent(event);
-}
-void fDisplay::keyReleaseEvent(QKeyEvent* event)
-{
-    if (!image_.displayKey(*event, false)) QWidget::keyReleaseEvent(event);
-}
 void fDisplay::leaveEvent(QEvent*) { showFootprint({}, footprintAt_); }
 
 } // namespace velara

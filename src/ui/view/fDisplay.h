@@ -1,6 +1,7 @@
-// fDisplay: the surface iDst of a document's window. Paints the visible pixels and the outline; what it is told with
-// the mouse and the keys goes to the window.
+// fDisplay: the surface iDst of a view. Paints the visible pixels, the outline and the line round the pointer; the view
+// takes the events of mouse and keys from it.
 #pragma once
+#include "region/cBitRegion.h"
 #include "tools/ToolContext.h"
 #include "ui/widgets/viewRender.h"
 #include <QPolygon>
@@ -9,16 +10,19 @@
 namespace velara {
 
 class Document;
-class fImage;
 
 class fDisplay final : public QWidget {
     Q_OBJECT
   public:
-    fDisplay(fImage& image, const Document& document);
+    fDisplay(QWidget* view, const Document& document);
 
     /// The scroll position in logical pixels, and the zoom. Doesn't repaint.
     void setSpot(int scrollX, int scrollY, int zoom);
     const ViewSpot& spot() const { return spot_; }
+    /// The selection as this display draws it: with a zoom and a pattern of its own.
+    const cBitRegion& selection();
+    /// The pattern moves on by one pixel. Repaints nothing.
+    void march() { selection_.RotateBrush(); }
 
     /// Whether paint events draw the outline.
     void setOutlineShown(bool on) { outlineShown_ = on; }
@@ -30,13 +34,6 @@ class fDisplay final : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
   private:
@@ -44,10 +41,10 @@ class fDisplay final : public QWidget {
     void drawPicture(QPainter& painter, const QRegion& region);
     QPoint footprintPlace() const;
 
-    fImage& image_;
     const Document& document_;
     ViewSpot spot_;
     ViewRenderer renderer_;
+    cBitRegion selection_;
     QImage outline_; // logical pixels, for displays with several device pixels in each
     bool outlineShown_ = false;
     Footprint footprint_;

@@ -22,14 +22,15 @@ namespace velara {
 namespace {
 
 constexpr int kPathPixels = 400;
+constexpr std::chrono::milliseconds kFollows{50}; // the time between repaints by which a view follows another
 
 } // namespace
 
 fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
     : QWidget(parent), frame_(frame), shared_(frame.workspace().share(document)), document_(*shared_),
-      iDst_(new fDisplay(*this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
+      iDst_(new fDisplay(this, document_)), hSB_(new QScrollBar(Qt::Horizontal, this)),
       vSB_(new QScrollBar(Qt::Vertical, this)), shp_(new QWidget(this)), bands_(iDst_), tmrSelection_(this),
-      tools_(std::make_unique<Tools>(document_, frame, *this)),
+      tmrFollow_(this), tools_(std::make_unique<Tools>(document_, frame, *this)),
       barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
 {
     setObjectName("fImage");
@@ -50,9 +51,15 @@ fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
     }
     shp_->hide();
     iDst_->hide();
+    iDst_->installEventFilter(this);
     tmrSelection_.setObjectName("tmrSelection");
     tmrSelection_.setInterval(500);
     connect(&tmrSelection_, &QTimer::timeout, this, &fImage::tick);
+    tmrFollow_.setObjectName("tmrFollow");
+    tmrFollow_.setSingleShot(true);
+    tmrFollow_.setInterval(kFollows);
+    connect(&tmrFollow_, &QTimer::timeout, this, [this] { iDst_->update(onDisplay(std::exchange(followed_, {}))); });
+    ++document_.views;
     if (PictureExists()) pictureChanged();
 }
 
@@ -81,10 +88,16 @@ void fImage::setCaption(const QString& caption)
     showChanged();
 }
 
+void fImage::setViewNumber(int number)
+{
+    viewNumber_ = number;
+    showChanged();
+}
+
 void fImage::showChanged()
 {
     const bool changed = document_.wouldBeLost();
-    const QString title = printable(caption_).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
+    const QString title = printable(name()).replace("[*]", "[*][*]") + (changed ? "[*]" : ""); // the mark's place
     for (QWidget* window : {static_cast<QWidget*>(this), parentWidget()}) {
         if (!window || (window != this && !qobject_cast<QMdiSubWindow*>(window))) continue;
         window->setWindowTitle(title);
@@ -96,8 +109,10 @@ void fImage::activate()
 {
     frame_.EnableMouseScrolling();
     Workspace& workspace = frame_.workspace();
-    if (!workspace.engineHolds(document_)) {
-        workspace.handOver(document_);
+    const bool comesIn = !workspace.engineHolds(document_);
+    if (comesIn) workspace.handOver(document_);
+    if (comesIn || !speaks_) {
+        speaks_ = true;
         frame_.setStatus(Panel::Name, Caption());
         for (const Panel stale : {Panel::Pos, Panel::Ext, Panel::Size}) frame_.setStatus(stale, {});
         if (PictureExists()) showSize();
@@ -117,6 +132,12 @@ void fImage::deactivate()
     UpdateImage();
 }
 
+void fImage::giveWay()
+{
+    speaks_ = false;
+    tools_->giveWay();
+}
+
 bool fImage::event(QEvent* event)
 {
     // Inside the frame, the child window that contains this one signals which document is active.
@@ -129,6 +150,13 @@ bool fImage::event(QEvent* event)
     return QWidget::event(event);
 }
 
+/// Outside of the frame's area every one is.
+bool fImage::isFront() const
+{
+    const auto* window = qobject_cast<QMdiSubWindow*>(parentWidget());
+    return !window || !window->mdiArea() || window->mdiArea()->currentSubWindow() == window;
+}
+
 void fImage::bringToFront()
 {
     if (auto* window = qobject_cast<QMdiSubWindow*>(parentWidget()); window && window->mdiArea())
@@ -138,6 +166,7 @@ void fImage::bringToFront()
 /// Anything may happen while the question is open; if this window is gone the answer means nothing.
 bool fImage::mayClose()
 {
+    if (document_.views > 1) return true; // nothing is lost: the document stays
     const QPointer<fImage> self = this;
     if (frame_.workspace().awaitsCall(document_.handle()))
         frame_.workspace().wait(document_.handle()); // a save comes first
@@ -173,6 +202,10 @@ void fImage::closeEvent(QCloseEvent* event)
     emit asking(Question::Done);
     if (!self) return;
     if (!closes) return event->ignore();
+    if (document_.views > 1) {
+        giveWay();
+        deactivate();
+    }
     forget();
     if (frame_.workspace().documents().empty())
         for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
@@ -180,13 +213,14 @@ void fImage::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
-/// The end of the document: its undo files go.
+/// The end of the view; of the document, too, with the last one: its undo files go.
 void fImage::forget()
 {
     if (forgotten_) return;
     forgotten_ = true;
     tmrSelection_.stop();
-    frame_.workspace().close(document_.handle());
+    tmrFollow_.stop();
+    if (--document_.views == 0) frame_.workspace().close(document_.handle());
 }
 
 } // namespace velara

@@ -1,8 +1,8 @@
-// fImage: a view of an open picture. The state lies in its Document; this is what is seen of it: the display iDst,
-// the scroll bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the marching outline, and the
-// question before it closes.
+// fImage: a view of an open picture, of which there may be several. The state lies in its Document; this is what is
+// seen of it: the display iDst, the scroll bars hSB and vSB with the corner shp between them, zoom, hand scrolling, the
+// marching outline, and the question before the last view closes.
 //
-// Cut by topic: fImage.cpp (picture, names, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
+// Cut by topic: fImage.cpp (picture, names, activation, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
 // fImage_mouse.cpp (what mouse and keys do).
 #pragma once
 #include "document/Workspace.h"
@@ -30,7 +30,6 @@ class fImage final : public QWidget, public ToolSurface {
 
     Document& document() { return document_; }
     const Document& document() const { return document_; }
-    int DocNumber() const { return document_.DocNumber(); }
 
     // --- Picture
     /// "640x480", for the status bar.
@@ -44,36 +43,25 @@ class fImage final : public QWidget, public ToolSurface {
     // --- Names
     QString Caption() const { return caption_; }
     void setCaption(const QString& caption);
-    /// The window carries the platform's mark when closing it would ask.
+    /// The caption, with the number of the view where the document has several: "photo.png:2".
+    QString name() const { return viewNumber_ ? caption_ + ':' + QString::number(viewNumber_) : caption_; }
+    /// 0 for the only view of its document.
+    void setViewNumber(int number);
+    /// The window carries the platform's mark while something would be lost with the document.
     void showChanged();
     /// The user is being asked whether it may close; it can't be closed then.
     bool isAsking() const { return asks_; }
     QString Tag() const { return document_.Tag(); }
 
     // --- View
-    struct Dimensions {
-        int width, height, shownWidth, shownHeight;
-    };
-    Dimensions GetDimensions() const;
     QPoint GetSBV() const { return {hSB_->value(), vSB_->value()}; }
-    QPoint GetSBM() const { return {hSB_->maximum(), vSB_->maximum()}; }
     /// Sets both bars, then repaints once.
     void Scroll(int x, int y);
     void UpdateImage() override;
-    void UpdateRegion() override;
-    void SetAutoRedraw(bool on) override;
-    /// After the document got another picture from outside: lays out and repaints.
-    void pictureChanged();
-    void ZoomIn();
-    void ZoomOut();
     int ZoomFactor() const { return zoom_; }
-    QString zoomText() const { return QString::number(zoom_) + " : 1"; }
     void setZoomFactor(int factor); // limited to 1..15
-    int BarsWidth() const { return barsWidth_; }
-    void setBarsWidth(int width); // below 14 gives 13
-    bool MouseScroll() const { return mouseScroll_; }
+    void setBarsWidth(int width);   // below 14 gives 13
     void setMouseScroll(bool on);
-    void StartTimer() override;
     void StopTimer() override;
 
     /// Brings the frame up to date with this document: engine, status bar, hand scrolling, outline.
@@ -94,46 +82,66 @@ class fImage final : public QWidget, public ToolSurface {
     void select(Tools::Selecting what) { tools_->select(what); }
     /// Another tool was chosen: drops what the previous one has begun.
     void toolChosen();
-    /// The pointer of the chosen tool.
-    void showToolPointer();
+    /// Pointer and line round it are the chosen tool's; while the document is being worked on it is the waiting one
+    /// alone.
+    void showTool();
+    /// Another view of the document is used from now on.
+    void giveWay();
+    /// Another view shows something else in part of the picture, and the outline or not: so does this one, soon.
+    void follow(const Rect& part, bool outline);
 
-    // --- ToolSurface
-    void ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep) override;
-    void HideShape(BandShape shape) override;
-    void setPointer(Pointer pointer) override;
-    void setWaiting(bool on) override;
-    void repaint(const Rect& part) override;
-    void colourPicked() override;
-
-    // --- What the display hands on
-    void displayPressed(const QMouseEvent& event);
-    void displayDoubleClicked(const QMouseEvent& event);
-    void displayMoved(const QMouseEvent& event);
-    void displayReleased(const QMouseEvent& event);
-    void displayWheel(QWheelEvent& event);
-    bool displayKey(const QKeyEvent& event, bool down); // false: not used
+    /// A key goes down or up. False: it has no use here.
+    bool displayKey(const QKeyEvent& event, bool down);
 
     QSize sizeHint() const override;
 
   signals:
     /// The question before it closes: it is open, it was answered, and the consequences of the answer are done.
     void asking(Question question);
+    /// Something else is to be seen in part of the picture, in picture pixels, and the outline or not. Only where the
+    /// document has other views.
+    void shows(const Rect& part, bool outline);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
+    /// What the display gets with the mouse and the keys.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // --- What only the tools ask, as a ToolSurface
+    void ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep) override;
+    void HideShape(BandShape shape) override;
+    void setPointer(Pointer pointer) override;
+    void setWaiting(bool on) override;
+    void repaint(const Rect& part) override;
+    void UpdateRegion() override;
+    void SetAutoRedraw(bool on) override;
+    void StartTimer() override;
+    void colourPicked() override;
+
+    void pressed(const QMouseEvent& event);
+    void doubleClicked(const QMouseEvent& event);
+    void moved(const QMouseEvent& event);
+    void released(const QMouseEvent& event);
+    void wheelTurned(QWheelEvent& event);
     bool mayClose();
     void bringToFront();
     void takeFocus();
     void forget();
     void showSize();
     void layOutView();
+    /// The document has a picture of another size, or its first one.
+    void pictureChanged();
+    QString zoomText() const;
     void barChanged();
     void spotChanged();
     void tick();
+    void tellViews(const Rect& part);
+    Rect whole() const { return {0, 0, PictureWidth(), PictureHeight()}; }
+    QRect onDisplay(const Rect& part) const;
+    bool isFront() const;
     bool canScroll() const;
     bool handScrolls() const;
     void scrollByHand(QPoint screen);
@@ -150,7 +158,8 @@ class fImage final : public QWidget, public ToolSurface {
     QScrollBar *hSB_, *vSB_;
     QWidget* shp_;
     fBands bands_;
-    QTimer tmrSelection_;
+    QTimer tmrSelection_, tmrFollow_;
+    Rect followed_; // what other views have changed since this one was repainted
     std::unique_ptr<Tools> tools_;
 
     int zoom_ = kLeastZoom;
@@ -164,6 +173,8 @@ class fImage final : public QWidget, public ToolSurface {
     float lastHValue_ = 0, lastVValue_ = 0, lastHMax_ = 0, lastVMax_ = 0;
     QPoint lastPixel_{-1, -1}; // the mouse position at the last event
     bool forgotten_ = false, asks_ = false;
+    bool speaks_ = false; // the status bar tells of this one among the document's views
+    int viewNumber_ = 0;
     int wheelRest_ = 0;
 };
 

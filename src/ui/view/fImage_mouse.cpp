@@ -54,7 +54,35 @@ int fImage::buttonOf(const QMouseEvent& event) const
     return event.buttons() & Qt::RightButton ? Tools::Right : Tools::NoButton;
 }
 
-void fImage::displayPressed(const QMouseEvent& event)
+bool fImage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != iDst_) return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        pressed(static_cast<QMouseEvent&>(*event));
+        return true;
+    case QEvent::MouseButtonDblClick:
+        doubleClicked(static_cast<QMouseEvent&>(*event));
+        return true;
+    case QEvent::MouseMove:
+        moved(static_cast<QMouseEvent&>(*event));
+        return true;
+    case QEvent::MouseButtonRelease:
+        released(static_cast<QMouseEvent&>(*event));
+        return true;
+    case QEvent::Wheel:
+        wheelTurned(static_cast<QWheelEvent&>(*event));
+        return true;
+    case QEvent::KeyPress:
+        return displayKey(static_cast<QKeyEvent&>(*event), true);
+    case QEvent::KeyRelease:
+        return displayKey(static_cast<QKeyEvent&>(*event), false);
+    default:
+        return false;
+    }
+}
+
+void fImage::pressed(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
     bringToFront(); // a press in an inactive frame arrives before the frame's activation
@@ -76,14 +104,14 @@ void fImage::displayPressed(const QMouseEvent& event)
     tools_->press(button, pixel.x(), pixel.y());
 }
 
-void fImage::displayDoubleClicked(const QMouseEvent& event)
+void fImage::doubleClicked(const QMouseEvent& event)
 {
     const QPoint pixel = pixelAt(event.position());
     const bool isTools = event.button() == Qt::LeftButton && !handScrolls();
-    if (!isTools || !tools_->doubleClick(pixel.x(), pixel.y())) displayPressed(event);
+    if (!isTools || !tools_->doubleClick(pixel.x(), pixel.y())) pressed(event);
 }
 
-void fImage::displayMoved(const QMouseEvent& event)
+void fImage::moved(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
     if (grabButton_ != Qt::NoButton) {
@@ -97,7 +125,7 @@ void fImage::displayMoved(const QMouseEvent& event)
     tools_->move(buttonOf(event), pixel.x(), pixel.y());
 }
 
-void fImage::displayReleased(const QMouseEvent& event)
+void fImage::released(const QMouseEvent& event)
 {
     if (grabButton_ != Qt::NoButton) {
         if (event.button() != grabButton_) return;
@@ -105,7 +133,7 @@ void fImage::displayReleased(const QMouseEvent& event)
         if (handScrolls())
             iDst_->setCursor(cRelease());
         else
-            showToolPointer();
+            showTool();
         return;
     }
     const int button = buttonNumber(event.button());
@@ -114,7 +142,7 @@ void fImage::displayReleased(const QMouseEvent& event)
     tools_->release(button, pixel.x(), pixel.y());
 }
 
-void fImage::displayWheel(QWheelEvent& event)
+void fImage::wheelTurned(QWheelEvent& event)
 {
     if (!PictureExists()) return event.ignore();
     event.accept();

@@ -1,4 +1,4 @@
-// The view of a document's window: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
+// How a view shows its document: layout, repaint, zoom, scrolling, the marching outline and the rubber bands.
 #include "document/road/Frame.h"
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
@@ -93,14 +93,8 @@ void fImage::Scroll(int x, int y)
     barChanged();
 }
 
-fImage::Dimensions fImage::GetDimensions() const
-{
-    return {PictureWidth(), PictureHeight(), iDst_->width(), iDst_->height()};
-}
-
 void fImage::pictureChanged()
 {
-    document_.Region.setZoomFactor(static_cast<float>(zoom_));
     layOutView();
     tools_->pictureReplaced();
 }
@@ -111,6 +105,27 @@ void fImage::UpdateImage()
     if (laidOutSize_ != QSize(PictureWidth(), PictureHeight())) pictureChanged();
     iDst_->setOutlineShown(tmrSelection_.isActive());
     iDst_->repaint();
+    tellViews(whole());
+}
+
+void fImage::tellViews(const Rect& part)
+{
+    if (document_.views > 1) emit shows(part, iDst_->outlineShown());
+}
+
+/// Of many steps in a row one repaint comes: a stroke in the other view is not held up.
+void fImage::follow(const Rect& part, bool outline)
+{
+    if (laidOutSize_ != QSize(PictureWidth(), PictureHeight())) pictureChanged();
+    if (!tmrSelection_.isActive()) iDst_->setOutlineShown(outline);
+    followed_ = followed_.united(part);
+    if (!tmrFollow_.isActive()) tmrFollow_.start();
+}
+
+QRect fImage::onDisplay(const Rect& part) const
+{
+    const QPoint scroll = GetSBV();
+    return qrectOf(viewRect(part, scroll.x(), scroll.y(), zoom_)) & iDst_->rect();
 }
 
 void fImage::repaint(const Rect& part)
@@ -118,16 +133,18 @@ void fImage::repaint(const Rect& part)
     if (!PictureExists()) return;
     if (iDst_->outlineShown() && !tmrSelection_.isActive()) { // a stopped outline disappears with the next repaint
         iDst_->setOutlineShown(false);
-        return iDst_->update();
+        iDst_->update();
+        return tellViews(whole());
     }
-    const QPoint scroll = GetSBV();
-    iDst_->update(qrectOf(viewRect(part, scroll.x(), scroll.y(), zoom_)) & iDst_->rect());
+    iDst_->update(onDisplay(part));
+    tellViews(part);
 }
 
 void fImage::UpdateRegion()
 {
     iDst_->setOutlineShown(true);
     iDst_->updateOutline();
+    tellViews(whole());
 }
 
 void fImage::SetAutoRedraw(bool on)
@@ -135,21 +152,12 @@ void fImage::SetAutoRedraw(bool on)
     if (on) UpdateImage();
 }
 
-void fImage::ZoomIn()
-{
-    if (PictureExists() && zoom_ < kMostZoom) setZoomFactor(zoom_ + 1);
-}
-
-void fImage::ZoomOut()
-{
-    if (PictureExists() && zoom_ > kLeastZoom) setZoomFactor(zoom_ - 1);
-}
+QString fImage::zoomText() const { return QString::number(zoom_) + " : 1"; }
 
 void fImage::setZoomFactor(int factor)
 {
     zoom_ = std::clamp(factor, kLeastZoom, kMostZoom);
-    document_.Region.setZoomFactor(static_cast<float>(zoom_));
-    if (frame_.workspace().engineHolds(document_)) frame_.setStatus(Panel::Zoom, zoomText());
+    if (speaks_ && frame_.workspace().engineHolds(document_)) frame_.setStatus(Panel::Zoom, zoomText());
     layOutView();
 }
 
@@ -176,11 +184,8 @@ bool fImage::handScrolls() const { return mouseScroll_ && canScroll(); }
 void fImage::setMouseScroll(bool on)
 {
     mouseScroll_ = on;
-    if (handScrolls())
-        iDst_->setCursor(cRelease());
-    else
-        showToolPointer();
-    if (iDst_->underMouse()) showFootprint();
+    if (handScrolls()) iDst_->setCursor(cRelease());
+    showTool();
 }
 
 void fImage::scrollByHand(QPoint screen)
@@ -190,11 +195,14 @@ void fImage::scrollByHand(QPoint screen)
     Scroll(hSB_->value() - step.x(), vSB_->value() - step.y()); // limited by the bars
 }
 
+/// It marches in the active view alone; the others of the same document show it at rest.
 void fImage::StartTimer()
 {
+    if (!isFront()) return;
     iDst_->setOutlineShown(true);
     tick();
     tmrSelection_.start();
+    tellViews(whole());
 }
 
 void fImage::StopTimer() { tmrSelection_.stop(); }
@@ -202,7 +210,7 @@ void fImage::StopTimer() { tmrSelection_.stop(); }
 void fImage::tick()
 {
     if (document_.Region.IsEmptyRegion()) return;
-    document_.Region.RotateBrush();
+    iDst_->march();
     iDst_->updateOutline();
 }
 
@@ -218,7 +226,11 @@ void fImage::setPointer(Pointer pointer)
     if (!handScrolls()) iDst_->setCursor(cursorOf(pointer));
 }
 
-void fImage::showToolPointer() { tools_->showPointer(); }
+void fImage::showTool()
+{
+    tools_->showPointer();
+    if (iDst_->underMouse()) showFootprint();
+}
 
 void fImage::setWaiting(bool on)
 {

@@ -3,6 +3,7 @@
 #include "app/frame/frameTest.h"
 #include "app/menus/Boxes.h"
 #include "app/start/fStartPage.h"
+#include "ui/view/fDisplay.h"
 #include <QtTest>
 #include <QtWidgets>
 
@@ -10,6 +11,11 @@ namespace velara {
 
 struct FrameDocuments : FrameTest {
     QMdiSubWindow* windowOf(fImage* image) { return qobject_cast<QMdiSubWindow*>(image->parentWidget()); }
+    static bool scrolls(fImage* image)
+    {
+        const auto most = [&](const char* bar) { return image->findChild<QScrollBar*>(bar)->maximum(); };
+        return most("hSB") > 0 || most("vSB") > 0;
+    }
     QRect areaRect() { return frame->area().viewport()->rect(); }
     /// The list after the last fixed item of Views, with the active one checked.
     QStringList listed()
@@ -43,7 +49,7 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
     const QRect area = areaRect();
     for (const QSize size : {QSize(40, 30), QSize(300, 200), QSize(area.width() * 19 / 20, area.height() * 9 / 10)}) {
         fImage* image = open(randomBits(size.width(), size.height(), 1));
-        EXPECT_EQ(image->GetSBM(), QPoint(0, 0)) << size.width();
+        EXPECT_FALSE(scrolls(image)) << size.width();
         EXPECT_TRUE(area.contains(windowOf(image)->geometry())) << size.width();
     }
     fImage* large = open(randomBits(area.width() + 1, 20, 1));
@@ -52,7 +58,7 @@ TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
     openFile(file("zoomed.png", 120, 90));
     fImage* zoomed = frame->GetActiveImage();
     EXPECT_EQ(zoomed->ZoomFactor(), 3);
-    EXPECT_EQ(zoomed->GetSBM(), QPoint(0, 0)) << "as it is shown, at three to one";
+    EXPECT_FALSE(scrolls(zoomed)) << "as it is shown, at three to one";
     EXPECT_TRUE(area.contains(windowOf(zoomed)->geometry()));
 }
 
@@ -256,6 +262,159 @@ TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)
     command("CLOSE");
     EXPECT_TRUE(page->isVisible());
     EXPECT_EQ(page->size(), areaRect().size());
+}
+
+/// Where the display of a view was painted since.
+struct Painted : QObject {
+    QRegion region;
+    explicit Painted(QWidget* display) { display->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+struct FrameViews : FrameDocuments {
+    const Bits start = randomBits(40, 30, 1);
+    fImage *first = nullptr, *second = nullptr; // the second is the active one, twice as large
+
+    void openTwo()
+    {
+        setup.ForeColor = 0xFFFFFF;
+        first = open(start, "a.bmp");
+        frame->run("@NEWVIEW");
+        second = frame->GetActiveImage();
+        frame->setZoom(2);
+        click("Pencil");
+        QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(FrameViews, OneShowsWhatIsDoneInAnother)
+{
+    openTwo();
+    ASSERT_EQ(&first->document(), &second->document());
+    EXPECT_EQ(std::pair(first->ZoomFactor(), second->ZoomFactor()), std::pair(1, 2));
+    struct Row {
+        const char* what;
+        std::function<void()> act;
+        QRect changed; // of the picture, as it is then
+    };
+    const QRect all(0, 0, 40, 30);
+    const Row rows[] = {
+        {"a stroke under way",
+         [&] {
+             mouse(second, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
+             mouse(second, QEvent::MouseMove, {40, 20}, Qt::LeftButton);
+         },
+         {10, 10, 10, 1}},
+        {"is dropped", [&] { QTest::keyClick(display(second), Qt::Key_Escape); }, {10, 10, 10, 1}},
+        {"a stroke",
+         [&] {
+             drag(second, {20, 20}, {40, 20});
+         },
+         {10, 10, 10, 1}},
+        {"a filter", [&] { command("INVERT"); }, all},
+        {"a selection", [&] { frame->run("@SELECTALL"); }, all},
+        {"another size", [&] { command("x2"); }, {0, 0, 20, 15}},
+        {"a step back", [&] { command("UNDO"); }, all},
+    };
+    for (const Row& row : rows) {
+        Painted painted(display(first));
+        row.act();
+        EXPECT_TRUE(comes([&] { return (QRegion(row.changed) - painted.region).isEmpty(); })) << row.what;
+        EXPECT_EQ(display(first)->size(), QSize(first->PictureWidth(), first->PictureHeight())) << row.what;
+    }
+    const auto outlines = [&] {
+        return first->findChild<fDisplay*>()->outlineShown() + second->findChild<fDisplay*>()->outlineShown();
+    };
+    frame->run("@SELECTALL");
+    EXPECT_EQ(outlines(), 2);
+    activate(second);
+    EXPECT_EQ(outlines(), 2) << "whichever is the active one";
+    open(randomBits(5, 5, 1), "b.bmp");
+    EXPECT_EQ(outlines(), 0);
+}
+
+TEST_F(FrameViews, AGestureEndsWhereAnotherViewIsUsedOrItsOwnCloses)
+{
+    openTwo();
+    const auto& selection = [&]() -> const Region& { return first->document().Region.Region(); };
+    mouse(second, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
+    mouse(second, QEvent::MouseMove, {40, 20}, Qt::LeftButton);
+    activate(first);
+    EXPECT_EQ(frame->status().panel(Panel::Zoom), "1 : 1");
+    mouse(second, QEvent::MouseButtonRelease, {40, 20}, Qt::NoButton);
+    EXPECT_TRUE(sameBits(start, first->bits())) << "nothing is committed";
+
+    click("Select");
+    setup.SelectionShape = SelectionShape::Polygon;
+    for (const QPoint at : {QPoint(4, 4), QPoint(30, 4)}) drag(first, at, at);
+    activate(second);
+    frame->run("@SELECTALL");
+    activate(first);
+    QTest::keyClick(display(first), Qt::Key_Escape);
+    EXPECT_EQ(selection().bounds(), (Rect{0, 0, 40, 30})) << "what a half-made polygon found is forgotten";
+
+    click("Pencil");
+    mouse(first, QEvent::MouseButtonPress, {20, 20}, Qt::LeftButton);
+    mouse(first, QEvent::MouseMove, {25, 20}, Qt::LeftButton);
+    command("CLOSE");
+    EXPECT_EQ(frame->documents(), QList{second});
+    EXPECT_TRUE(sameBits(start, second->bits()));
+    activate(second);
+    command("INVERT");
+    EXPECT_FALSE(sameBits(start, second->bits())) << "no stroke holds it up";
+}
+
+TEST_F(FrameViews, TheLastOneAsksAndClosesThePicture)
+{
+    openTwo();
+    command("INVERT");
+    EXPECT_EQ(listed(), QStringList({"&1 a.bmp:1*", ">&2 a.bmp:2*"}));
+    EXPECT_EQ(windowOf(first)->windowTitle(), "a.bmp:1[*]");
+    EXPECT_EQ(frame->status().panel(Panel::Name), "a.bmp");
+    platform.answers = {path("b.png")};
+    command("SAVEAS");
+    EXPECT_EQ(listed(), QStringList({"&1 b.png:1", ">&2 b.png:2"}));
+    EXPECT_EQ(first->Caption(), "b.png");
+    command("INVERT");
+    platform.log.clear();
+    windowOf(first)->close();
+    EXPECT_TRUE(platform.log.empty()) << "the picture stays";
+    EXPECT_EQ(listed(), QStringList({">&1 b.png*"}));
+    frame->close(); // the question is cancelled
+    ASSERT_EQ(frame->documents(), QList{second});
+    EXPECT_EQ(frame->workspace().documents().size(), 1u);
+    frame->run("@NEWVIEW");
+    platform.answers = {"no"};
+    frame->close();
+    EXPECT_EQ(std::ranges::count_if(platform.log, [](auto& line) { return line.starts_with("ask:"); }), 2);
+    EXPECT_TRUE(frame->workspace().documents().empty());
+}
+
+TEST_F(FrameDocuments, TheLineRoundABrushGoesWhileItsPictureIsWorkedOn)
+{
+    fImage* image = open(flatBits(200, 150, 64, 64, 64));
+    click("Brush");
+    setup.BrushSize = 50;
+    display(image)->setAttribute(Qt::WA_UnderMouse);
+    mouse(image, QEvent::MouseMove, {100, 75}, Qt::NoButton);
+    const auto hasLine = [&] {
+        const QImage seen = display(image)->grab().toImage(); // in one colour, but for the line
+        return seen.copy(100, 0, 1, 150) != seen.copy(0, 0, 1, 150);
+    };
+    EXPECT_TRUE(hasLine());
+    QSemaphore end;
+    frame->workspace().change(image->document().handle(), {[&](Document&, cBitFilter&) { end.acquire(); }});
+    EXPECT_TRUE(comes([&] { return !hasLine() && display(image)->cursor().shape() == Qt::BusyCursor; }));
+    mouse(image, QEvent::MouseMove, {101, 75}, Qt::NoButton);
+    EXPECT_FALSE(hasLine());
+    end.release();
+    frame->workspace().wait();
+    EXPECT_TRUE(hasLine());
+    EXPECT_NE(display(image)->cursor().shape(), Qt::BusyCursor);
 }
 
 } // namespace velara

@@ -262,7 +262,7 @@ TEST_F(FrameTest, TwoFramesInOneFolderKeepTheirStepsApart)
     const Bits mine = randomBits(20, 20, 1);
     fImage* image = open(mine);
     const DocumentHandle theirs = other.adopt(randomBits(30, 30, 2), path("b.bmp"), Arrival::Made);
-    ASSERT_NE(theirs->DocNumber(), image->DocNumber());
+    ASSERT_NE(theirs->DocNumber(), image->document().DocNumber());
     command("INVERT");
     command("UNDO");
     EXPECT_TRUE(sameBits(mine, image->bits()));

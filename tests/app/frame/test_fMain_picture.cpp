@@ -42,13 +42,12 @@ TEST_F(FramePicture, APressInAnotherPictureLeavesTheOneThatADragHungOn)
 TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
 {
     fImage* image = open(randomBits(2000, 1500, 1));
-    ASSERT_TRUE(image->MouseScroll()) << "on with the first document";
+    ASSERT_TRUE(frame->mouseScrolling()) << "on with the first document";
     const Bits before = image->bits();
     const QPoint place = image->GetSBV();
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
     click("Pencil");
-    EXPECT_FALSE(image->MouseScroll());
     EXPECT_FALSE(frame->toolPane().button("MouseScroll")->isChecked());
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));

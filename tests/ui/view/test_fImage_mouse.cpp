@@ -1,6 +1,7 @@
 // Mouse, wheel and keys on the display of a document, with the real tools.
 #include "region/outline.h"
 #include "ui/view/ImageFixture.h"
+#include "ui/view/fDisplay.h"
 
 namespace velara {
 
@@ -79,8 +80,9 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     EXPECT_EQ(frame.filter_.BitsRegion().bounds(), (Rect{2, 2, 10, 7}));
     ASSERT_TRUE(w.findChild<QTimer*>("tmrSelection")->isActive());
 
+    const auto pattern = [&] { return w.findChild<fDisplay*>()->selection().brushIndex(); };
     const auto expectOutline = [&](bool on) {
-        const int n = w.document().Region.brushIndex();
+        const int n = pattern();
         const QImage screen = iDst()->grab().toImage();
         for (int y = 0; y < screen.height(); ++y)
             for (int x = 0; x < screen.width(); ++x) {
@@ -93,14 +95,15 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
             }
     };
     expectOutline(true);
-    const int before = w.document().Region.brushIndex();
-    EXPECT_TRUE(comes([&] { return w.document().Region.brushIndex() != before; })) << "it marches";
+    const int before = pattern();
+    EXPECT_TRUE(comes([&] { return pattern() != before; })) << "it marches";
     expectOutline(true);
     w.deactivate();
     expectOutline(false);
-    w.UpdateRegion();
+    ToolSurface& surface = w;
+    surface.UpdateRegion();
     expectOutline(true);
-    w.repaint({50, 40, 51, 41});
+    surface.repaint({50, 40, 51, 41});
     expectOutline(false);
 }
 
