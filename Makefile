@@ -28,7 +28,7 @@ test-sanitize: setup
 	ASAN_OPTIONS=detect_leaks=0:exitcode=99 UBSAN_OPTIONS=print_stacktrace=1:exitcode=99 ctest --test-dir build/sanitize --output-on-failure -j $(JOBS)
 
 # The rooms without windows, and the frame with its road, under the thread sanitizer; builds just those. No finding in our own
-# code is suppressed. An hour on two cores.
+# code is suppressed. Long: an hour on two busy cores.
 test-tsan: setup
 	cmake --preset tsan >/dev/null
 	nice -n 10 cmake --build --preset tsan --parallel 2 --target tests_of_threads
