@@ -121,7 +121,7 @@ class Desk {
         else if (ellipse_)
             document_->Region.CreateEllipse(0, 0, w, h, Combine::Or, true);
         frame_->workspace().handOver(*document_);
-        if (!document_->Region.IsEmptyRegion()) frame_->GetActiveImage()->StartTimer();
+        if (!document_->Region.IsEmptyRegion()) frame_->GetActiveImage()->activate();
         rest();
         document_->undo.stands();
     }

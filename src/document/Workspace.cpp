@@ -150,8 +150,10 @@ void Workspace::inTurn(const DocumentHandle& document, std::function<void()> cal
 bool Workspace::awaitsCall(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
-    return place && !place->calling &&
-           (place->saves > 0 || std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); }));
+    if (!place || place->calling) return false;
+    const bool onlySteps = place->isBusy() && !place->hasChange();
+    return onlySteps || place->saves > 0 ||
+           std::ranges::any_of(place->waiting, [](const Item& item) { return bool(item.call); });
 }
 
 /// Calls in the queue are no changes: they still run.

@@ -88,7 +88,7 @@ class Workspace final : public QObject {
     void step(const DocumentHandle& document, bool back, Then then = {});
     /// In its turn among the changes: what a command does once those before it are done. At once where none is.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
-    /// A call waits for its turn, or a save is being written: closing the document now would lose it.
+    /// A call or a step waits for its turn, or a save is being written: closing the document now would lose it.
     bool awaitsCall(const DocumentHandle& document) const;
     /// The changes and steps under way and those that wait end as Cancelled, or the one alone: at once, though the
     /// thread may go on until it hears of it. False where there is none.

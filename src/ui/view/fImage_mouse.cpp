@@ -99,7 +99,7 @@ void fImage::pressed(const QMouseEvent& event)
         iDst_->setCursor(cGrab());
         return;
     }
-    if (button == Tools::NoButton) return;
+    if (button == Tools::NoButton || asks_) return; // what is being closed takes no stroke
     const QPoint pixel = lastPixel_ = pixelAt(event.position());
     tools_->press(button, pixel.x(), pixel.y());
 }
