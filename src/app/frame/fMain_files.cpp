@@ -102,6 +102,7 @@ void fMain::showReading(const QString& path)
         readingBox_->setWindowTitle(kProgramName);
         readingBox_->setAttribute(Qt::WA_ShowWithoutActivating);
         readingBox_->setMinimumDuration(500);
+        readingBox_->setValue(0); // from now on
         connect(readingBox_, &QProgressDialog::canceled, &workspace_, &Workspace::cancelOpening);
     }
     readingBox_->setLabelText(tr("Reading %1 ...").arg(printable(FileNameOf(path))));
