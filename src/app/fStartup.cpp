@@ -92,7 +92,7 @@ Startup::Startup(Platform& platform, Setup& setup) : platform_(platform), setup_
 {
     useResources();
     useIconTheme();
-    QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // of boxes that come before the frame, too
+    QGuiApplication::setWindowIcon(QIcon(":/velara.svg")); // also of boxes that come before the frame
     splash_ = new fSplash(platform);
     splash_->show();
     QTimer::singleShot(0, this, &Startup::step);
@@ -102,9 +102,10 @@ Startup::~Startup() { delete splash_; }
 
 void Startup::step()
 try {
-    static constexpr void (Startup::*kSteps[])() = {&Startup::makeFrame, &Startup::placeFrameOnScreen,
-                                                    &Startup::fillFrame, &Startup::showFrame};
-    (this->*kSteps[next_])();
+    static constexpr void (*kSteps[])(Startup&) = {
+        [](Startup& s) { s.makeFrame(); }, [](Startup& s) { s.placeFrameOnScreen(); },
+        [](Startup& s) { s.fillFrame(); }, [](Startup& s) { s.showFrame(); }};
+    kSteps[next_](*this);
     if (++next_ == std::size(kSteps)) return emit done();
     QTimer::singleShot(0, this, &Startup::step);
 } catch (...) {

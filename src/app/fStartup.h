@@ -10,8 +10,8 @@ namespace velara {
 
 class fSplash;
 
-/// Makes the folders under the program folder that are missing, with their first contents: "Stamps", "Temp", "Images".
-/// False when one of them can't be made or filled.
+/// Makes missing folders under the program folder, with their first contents: "Stamps", "Temp", "Images". False when
+/// one of them can't be made or filled.
 bool makeFolders(Platform& platform);
 
 /// Sizes the frame from the configuration and puts it where it was at the end of the last run, or, the first time, in

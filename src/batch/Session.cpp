@@ -47,7 +47,7 @@ void Session::begin(bool keepSteps)
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
         throw stepsFault();
     workspace_.emplace(folder_ ? folder_->path() : QString(), platform_);
-    workspace_->engine().clock = [] { return 0U; }; // no report ever falls due
+    workspace_->engine().clock = [] { return 0U; }; // no progress report ever falls due
     QObject::connect(&*workspace_, &Workspace::progress, &*workspace_, [this](const DocumentHandle&, int percent) {
         if (progress_) progress_(percent);
     });

@@ -28,7 +28,7 @@ class Session {
     void adopt(const Bits& bits, bool keepSteps);
     /// Writes the picture; notices go to the platform.
     SaveResult save(const QString& path);
-    /// No step to come goes back.
+    /// No later step goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }
 
@@ -36,7 +36,7 @@ class Session {
     void crop();
     void undo() { step(true); }
     void redo() { step(false); }
-    /// change works on the selection; what it leaves is the working region of the steps to come.
+    /// change modifies the selection; its result is the working region of later steps.
     template <class Change> void select(Change change)
     {
         change(document_->Region);

@@ -56,17 +56,17 @@ class Document {
     {
         return PictureExists() && (waitingWork || file.isBrought || (Changed && undo.mayHaveChanged()));
     }
-    /// The picture stands in its file.
+    /// The picture has been saved in its file.
     void saved()
     {
         Changed = file.isBrought = file.isCutOff = false;
         file.isFile = true;
     }
     QString Tag() const { return file.Tag(); }
-    /// Rises with each snapshot and step: while it stands, the committed picture is the same.
+    /// Rises with each snapshot and step: while it is unchanged, so is the committed picture.
     int commits() const { return commits_; }
-    /// Step back or forward: the picture goes to the engine and here; a change of size wipes the selection. It ends a
-    /// run of sizing. False and nothing changed when there is no such step.
+    /// Step back or forward: the picture goes to the engine and to the document; a change of size clears the selection.
+    /// Ends a run of sizing words. False, with nothing changed, when there is no such step.
     bool UndoBits(cBitFilter& filter) { return step(true, filter); }
     bool RedoBits(cBitFilter& filter) { return step(false, filter); }
     /// The same, of a step that was found by another thread.
@@ -83,7 +83,7 @@ class Document {
     UndoStore undo;
     FileFacts file;
     bool Changed = false;
-    bool Zoomed = false; // a sizing command was the last change
+    bool Zoomed = false; // the last change was a sizing word
     int views = 0;       // windows that show it; the last one to close asks, and closes it
     /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
     /// failed, and then the window still has it.

@@ -9,15 +9,15 @@ namespace velara {
 
 class Draft {
   public:
-    /// A draft of the committed picture of the document and its selection, or, for a sizing word after another, of the
-    /// picture before the first of them. like: the engine whose clock, progress and random numbers go on. For a step
-    /// back or forward nothing is drafted: its picture is read.
+    /// A draft of the document's committed picture and selection; for a sizing word after another, of the picture
+    /// before the first of them. like: the engine whose clock, progress callback and random state are copied. For a
+    /// step back or forward nothing is drafted: its picture is read.
     Draft(Document& document, const Bits& committed, const cBitFilter& like, After after);
 
     /// The engine that the job gets, e.g. to set its Progress.
     cBitFilter& filter() { return filter_; }
-    /// Runs the job, on whichever thread; what it throws is told by the outcome. NotEnoughMemory when it needs more
-    /// than half of the memory that is free. Waits until take() need not wait for the disk.
+    /// Runs the job, on any thread; exceptions are reported in the outcome. NotEnoughMemory when it needs more than
+    /// half of the free memory. Waits until take() need not wait for the disk.
     Outcome attempt(const Job& job);
     /// The document still exists and is at the step at which the draft began.
     bool wanted() const;

@@ -242,7 +242,7 @@ void Workspace::start(const std::shared_ptr<Run>& run)
     });
 }
 
-/// A document that was changed meanwhile all the same has its job done again, on what it is now.
+/// If the document was changed meanwhile after all, the job is run again on its present state.
 void Workspace::finished(std::shared_ptr<Run> run, Outcome outcome)
 {
     const DocumentHandle document = run->document;

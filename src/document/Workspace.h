@@ -9,8 +9,8 @@
 // parallel.
 //
 // Called from the window's thread only. then(...) and signals come there too, always from the event loop and never from
-// inside of a call, so that nobody has to ask in his middle whether he still stands; only changed() comes before
-// finish() and step() return. Who holds a window in then(...) holds it by a QPointer.
+// inside of a call, so that no function has to check in its middle whether its object still exists; only changed()
+// comes before finish() returns. A then(...) that refers to a window does so by a QPointer.
 #pragma once
 #include "document/Document.h"
 #include "document/road/Arrival.h"
@@ -29,7 +29,7 @@ namespace velara {
 
 class PictureReader;
 
-/// What becomes of a file that no reader makes anything of.
+/// What happens with a file that no reader can read.
 enum class Unreadable { OpensEmpty, Refused };
 
 /// What became of a file that was to be opened.
@@ -37,7 +37,7 @@ struct Opened {
     enum Kind { Open, Gone, Refused, Cancelled }; // Gone: there is no such file
     Kind kind = Refused;
     DocumentHandle document = {}; // names none unless it is Open
-    QString reason = {};          // why it, or a part of it, can't be read
+    QString reason = {};          // why it, or part of it, can't be read
 };
 
 /// What is done to a document.
@@ -51,19 +51,19 @@ class Workspace final : public QObject {
   public:
     using Then = std::function<void(const Outcome& outcome)>;
 
-    /// folder: where the undo series lie, made when its parent stands; empty: no step is kept. reader is asked from
+    /// folder: for the undo series, made if its parent exists; empty: no steps are kept. reader is asked from
     /// another thread.
     Workspace(QString folder, PictureReader& reader, QObject* parent = nullptr);
-    /// Ends what is under way, but for what is being written, and calls nobody.
+    /// Cancels what is under way, finishes what is being written, and calls nobody back.
     ~Workspace() override;
 
     // --- Documents
-    /// Reads a file, after those before it, into a new document.
+    /// Reads a file into a new document, after the files asked for before.
     void open(const QString& path, Unreadable unreadable, std::function<void(const Opened& opened)> then);
-    /// The file that is being read and those that wait are given up. False where there is none.
+    /// Cancels the file that is being read and the queued ones. False when there is none.
     bool cancelOpening();
-    /// A new document, the last in order. A null picture: an empty one. Where an open document has the path it gets a
-    /// mark (n counts clashes and is never reused).
+    /// A new document, the last in order; a null picture makes an empty one. If an open document has the path already,
+    /// the new one gets a mark (n counts clashes and is never reused).
     DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
@@ -71,10 +71,10 @@ class Workspace final : public QObject {
     void close(const DocumentHandle& document);
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
-    /// Writes the picture, in its turn among the changes, in the format of the path's extension; those to come don't
-    /// wait for it. Once it is written the path is the document's own, with a mark where another one has it.
+    /// Writes the picture in the format of the path's extension, in its turn in the queue; later changes don't wait
+    /// until it is written. Then the path becomes the document's own, with a mark if another one has it.
     void save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then = {});
-    /// The same for a picture of no document.
+    /// Writes a picture that belongs to no document.
     void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then);
 
     // --- Changes
@@ -86,7 +86,7 @@ class Workspace final : public QObject {
     /// One step back or forward, in its turn. Where changes are under way, nothing steps: a step back ends them as
     /// Cancelled, which is what the user wants back. The outcome is Failed, for no reason, where there is no such step.
     void step(const DocumentHandle& document, bool back, Then then = {});
-    /// In its turn among the changes: what a command does once those before it are done. At once where none is.
+    /// Calls in turn, once the changes queued before it are done; at once when there are none.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
     /// A call or a step waits for its turn, or a save is being written: closing the document now would lose it.
     bool awaitsCall(const DocumentHandle& document) const;
@@ -113,13 +113,13 @@ class Workspace final : public QObject {
   signals:
     /// The file that is being read; empty: none is any more.
     void reading(const QString& path);
-    /// It was saved, maybe under another name.
+    /// It was saved, possibly under another name.
     void renamed(const DocumentHandle& document);
-    /// A change was taken: pixels, size, selection, steps.
+    /// A change was put in: pixels, size, selection, steps.
     void changed(const DocumentHandle& document);
-    /// A change is computed from now on.
+    /// A change has begun.
     void busy(const DocumentHandle& document);
-    /// Its changes are all done.
+    /// All its changes are done.
     void idle(const DocumentHandle& document);
     /// Progress of the running change, as the engine reports it.
     void progress(const DocumentHandle& document, int percent);

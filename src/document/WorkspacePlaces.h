@@ -1,4 +1,4 @@
-// What a workspace knows of an open document, for its own files alone.
+// What a workspace knows of an open document; private to its source files.
 #pragma once
 #include "document/Draft.h"
 #include "document/Workspace.h"
@@ -7,7 +7,7 @@
 
 namespace velara {
 
-/// What waits in a document's queue: a change, or a call.
+/// An entry of a document's queue: a change or a call.
 struct Workspace::Item {
     Step step;
     Then then;
@@ -33,8 +33,8 @@ struct Workspace::Place {
     std::shared_ptr<Document> document;
     std::deque<Item> waiting;
     std::shared_ptr<Run> running;
-    bool calling = false; // a call has its turn
-    bool inCall = false;  // and is being made
+    bool calling = false; // it is the turn of a call
+    bool inCall = false;  // which is running
     int saves = 0;        // that are being written
 
     bool isBusy() const { return running || calling || !waiting.empty(); }

@@ -30,7 +30,7 @@ try {
     loaded.reason = QStringLiteral("there is not enough memory");
 }
 
-/// A file that a reader of the desktop (gif, wmf, emf, ico, cur, dib) refuses never opens empty.
+/// With gif, wmf, emf, ico, cur and dib an unreadable file is an error; any other format opens an empty document.
 Opened::Kind Workspace::FileRead::kind() const
 {
     if (cancelled) return Opened::Cancelled;
@@ -98,7 +98,7 @@ void Workspace::save(const DocumentHandle& document, const QString& path, std::f
 void Workspace::saved(const DocumentHandle& document, const QString& path, int commits)
 {
     document->saved();
-    document->Changed = document->commits() != commits; // it went on meanwhile
+    document->Changed = document->commits() != commits; // changed since
     if (document->Tag() != path) name(*document, path);
     emit renamed(document);
 }

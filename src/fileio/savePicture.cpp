@@ -44,7 +44,7 @@ template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveRe
 
 // --- The others
 
-/// Pictures always have 24 bits here, so the portable anymap is always the one of true colour, whatever was typed.
+/// Pictures always have 24 bits here, so a portable anymap is always a pixmap, whatever was typed.
 SaveReport saveAnymap(const Job& job)
 {
     Job real = job;

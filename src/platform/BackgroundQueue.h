@@ -14,7 +14,8 @@ namespace velara {
 
 class BackgroundQueue {
   public:
-    /// Runs in a thread of the queue; is to end soon once goOn says no. Where it throws the answer is a default Result.
+    /// Runs in a thread of the queue; should end soon after goOn returns false. Where it throws the answer is a default
+    /// Result.
     template <class Result> using Work = std::function<Result(const GoOn& goOn)>;
     /// Releasing it cancels the work: no answer comes then.
     using Request = std::shared_ptr<void>;
@@ -26,7 +27,7 @@ class BackgroundQueue {
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
-    /// done comes in the thread that made the queue, never during the call.
+    /// done is called in the thread that made the queue, never during this call.
     Request add(std::function<void(const GoOn&)> work, std::function<void()> done);
     template <class Result> Request add(Work<Result> work, std::function<void(const Result&)> done)
     {

@@ -30,7 +30,7 @@ Bits selectedPart(const Document& document)
 {
     if (!hasSelectedPart(document)) return {};
     const Rect box = boxOfSelection(document);
-    cBitFilter cutter; // of its own: the frame's keeps the picture
+    cBitFilter cutter; // a separate engine: the frame's keeps the picture
     cutter.setBitsRegion(document.Region.Region());
     cutter.BitsCropMasked(document.bits(), box.left, box.top, box.right, box.bottom);
     return cutter.bits();

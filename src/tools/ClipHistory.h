@@ -29,7 +29,7 @@ class ClipHistory {
 };
 
 bool hasSelectedPart(const Document& document);
-/// The selected part of the picture as a clip holds it. Null when it is less than 2 by 2 or nothing is selected.
+/// The selected part of the picture as a clip's pixels. Null when it is smaller than 2 by 2 or nothing is selected.
 Bits selectedPart(const Document& document);
 
 } // namespace velara

@@ -1,7 +1,7 @@
-// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal but for
-// the tiles that were painted since the last commit. So a drag step restores, and a commit hands over, only what was
-// touched; the result is that of copying the whole picture. Only the first stroke after another command pays one whole
-// copy. What it knows of the two is kept in the document: each view has a buffer.
+// PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal except
+// for the tiles painted since the last commit. So a drag step restores, and a commit transfers, only what was touched;
+// the result is the same as copying the whole picture. Only the first stroke after another command costs one full copy.
+// What it knows of the two is kept in the document: each view has a buffer.
 #pragma once
 #include "document/Document.h"
 

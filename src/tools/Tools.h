@@ -47,7 +47,7 @@ class Tools {
     /// Another view of the document is used from now on, or this one closes while the document stays: nothing of what
     /// it has begun remains. A pending paste goes on.
     void giveWay();
-    /// The selection by command; a gesture under way is dropped.
+    /// Changes the selection by command; drops a gesture under way.
     void select(Selecting what);
     /// Shows in the status bar which keys end the current gesture; nothing without one.
     void showHint();

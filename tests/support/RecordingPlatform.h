@@ -52,7 +52,7 @@ class RecordingPlatform : public Platform {
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int) override { return path; }
-    /// Reads in this process, by what Qt reads. For any thread.
+    /// Reads in this process, with Qt's readers. For any thread.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }

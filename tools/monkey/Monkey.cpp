@@ -97,7 +97,7 @@ void Monkey::begin()
 {
     journal_.add("\nthe editor starts");
     frame_ = startedEditor(platform_, setup_);
-    frame_->workspace().engine().clock = [this] { return clock_ += 7; }; // from all threads
+    frame_->workspace().engine().clock = [this] { return clock_ += 7; }; // called from all threads
     QObject::connect(frame_.get(), &fMain::closed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     blocks_.next();
     startTimer(0);

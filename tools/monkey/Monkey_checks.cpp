@@ -134,7 +134,7 @@ void Monkey::warmUp()
     QApplication::processEvents();
     frame_->openPicture(plan_.scratch + "/pictures/picture1.bmp");
     frame_->workspace().wait();
-    finished_ = true; // no action yet
+    finished_ = true; // no actions from now on
     checkHome();
     end();
     finished_ = false;

@@ -80,7 +80,7 @@ class fMain final : public QMainWindow, public Frame {
     Bars& bars() { return *bars_; }
     Boxes& boxes() { return *boxes_; }
     void applyBars(); // visibility and check marks from Setup
-    /// Fills the panes of the tools that have one.
+    /// Makes the panes of the tools that have one.
     void initToolPanes();
     /// A button of the tool strip, by its name, or a tool's key.
     void toolClicked(const QString& key);
@@ -155,18 +155,18 @@ class fMain final : public QMainWindow, public Frame {
     void toggleSideBar();
     void storeLayout();
 
-    /// Failures go to the status bar.
+    /// Reports failures in the status bar.
     void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
     void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
     void showChosenTool();
-    /// Hand scrolling ends: a drag is the hand's or the tool's.
+    /// Ends hand scrolling: a drag is either the hand's or the tool's.
     void releaseHand();
-    /// Keeps the undo and redo buttons in step with the active document, and the marks of the changed ones.
+    /// Updates the undo and redo buttons for the active document, and the changed marks of all.
     void refreshUndoState();
-    /// The pictures in the cut that fits the palette.
+    /// Reloads the icons in the variant that fits the palette.
     void refreshIcons();
     void frameResized();
     void placeSidePane();

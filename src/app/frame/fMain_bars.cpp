@@ -197,7 +197,7 @@ void fMain::toolClicked(const QString& key)
         clips_->letGo();
         setup_.CurrentTool = key;
         showChosenTool();
-        releaseHand(); // who takes a tool puts the hand away
+        releaseHand(); // choosing a tool ends hand scrolling
     }
 }
 

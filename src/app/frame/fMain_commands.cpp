@@ -55,7 +55,7 @@ struct fMain::Commands {
         {"CAPTUREBACKGROUND",    [](fMain& f) { f.capture().background(); }},
         {"CUSTOMCAPTURE",        [](fMain& f) { f.capture().capturePic(Capture::Rectangle); }},
 
-        // The active document is asked for; one of them runs without
+        // The active document is looked at; one of them runs without
         {"UNDO",                 [](fMain& f) { f.stepUndo(true); }},
         {"REDO",                 [](fMain& f) { f.stepUndo(false); }},
         {"CREATENEWCOPY",        [](fMain& f) { f.copyToNew(); }},
@@ -97,7 +97,7 @@ struct fMain::Commands {
         {"CASCADE",              [](fMain& f) { f.documents_->arrange(Documents::Arrangement::Cascade); }},
         {"RESET",                [](fMain& f) { f.storeLayout(); }},
 
-        // What the frame does by itself
+        // The frame's own words
         {"@BROWSE",              browsePictures},
         {"@ASSOCIATION",         showAssociation},
         {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},

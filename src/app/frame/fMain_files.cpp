@@ -27,7 +27,7 @@ QString FileNameOf(const QString& path)
     return name;
 }
 
-/// Two documents of one file tell themselves apart by the mark in front of the second one's name.
+/// Two documents of one file are distinguished by the mark in front of the second one's name.
 QString captionOf(const Document& document) { return document.file.markText() + FileNameOf(document.file.path); }
 
 bool isDropped(const QString& path)
@@ -62,7 +62,7 @@ void fMain::showView(const DocumentHandle& document)
     showStartPage();
 }
 
-/// It was saved: the name may be another one, and the mark of the changed ones is gone.
+/// After a save: the name may have changed, and the changed mark is gone.
 void fMain::showName(const DocumentHandle& document)
 {
     for (fImage* view : documents_->viewsOf(document)) view->setCaption(captionOf(*document));
@@ -92,7 +92,7 @@ void fMain::showGone(const QStringList& paths)
         Icon::Exclamation);
 }
 
-/// What stands in the status bar while a large file is read would be overlooked.
+/// A box, as a text in the status bar would be overlooked while a large file is read.
 void fMain::showReading(const QString& path)
 {
     if (path.isEmpty()) return delete readingBox_;
@@ -183,7 +183,7 @@ void fMain::saveNow(fImage& image)
 {
     const FileFacts& file = image.document().file;
     const Format* format = formatOf(file.path);
-    // A new document, a second one of the same file and any other format get their name by asking.
+    // A new document, a second one of the same file and any other format ask for a name.
     if (!file.isOwn() || !format || format->saving != Saving::Directly) return saveAs(image);
     saveTo(image, file.path);
 }
@@ -209,7 +209,7 @@ void fMain::saveAs(fImage& asked)
     saveTo(*image, withExtension(*path, usual));
 }
 
-/// The document stays as it was, unsaved, when that fails.
+/// The document stays unsaved when that fails.
 void fMain::saveTo(fImage& image, const QString& path)
 {
     const Format* format = formatOf(path);
@@ -275,7 +275,7 @@ void fMain::dropEvent(QDropEvent* event)
     QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
 }
 
-/// Said once, however many: what can't be loaded, and what is gone.
+/// One message for all that can't be loaded, and one for all that are gone.
 void fMain::dropFiles(const QStringList& paths)
 {
     struct Drop {

@@ -16,7 +16,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
     const QImage& picture = ripples_.picture();
-    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and it stays
+    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and kept
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");

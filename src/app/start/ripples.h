@@ -17,7 +17,7 @@ class Ripples {
     bool drawNext(const std::function<double()>& random);
 
     const QImage& picture() const { return shown_; }
-    /// Index of the first ripple that still grows.
+    /// Index of the first ripple that is still growing.
     std::size_t firstLive() const { return first_; }
     std::size_t count() const { return list_.size(); }
 

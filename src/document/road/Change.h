@@ -25,7 +25,7 @@ enum class After {
 
 constexpr bool isStep(After after) { return after == After::Back || after == After::Forward; }
 
-/// What became of a change. In all cases but Done the document, its selection and its undo series are as they were.
+/// How a change ended. In all cases but Done the document, its selection and its undo series are unchanged.
 struct Outcome {
     enum Kind {
         Done,

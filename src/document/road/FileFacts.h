@@ -5,7 +5,7 @@
 namespace velara {
 
 struct FileFacts {
-    QString path;           // full; of a picture that never was in a file: what the first save is called
+    QString path;           // full; for a picture that never was in a file, the name that the first save offers
     int mark = 0;           // n of the "[n]" before the names of a document whose path an open one had already; 0: none
     bool isFile = false;    // the picture was read from the path or saved to it
     bool isCutOff = false;  // the end of the file was missing when it was read

@@ -61,7 +61,7 @@ struct UndoStore::Series {
 
     std::optional<Found> find(int shown, bool back);
 
-    // --- On the writing thread; count is how many states there are.
+    // --- On the writing thread; count is the number of states.
     bool ready();
     int write(const Bits& bits);
     int hold(const Bits& bits, int index);
@@ -91,7 +91,7 @@ class UndoStore::Reading {
     const Series& series_;
 };
 
-/// The folder may have been swept away since the last step.
+/// The folder may have been removed since the last step.
 bool UndoStore::Series::ready()
 {
     if (files.folder().isEmpty()) return errno = ENOENT, false;

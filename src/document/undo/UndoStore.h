@@ -40,7 +40,7 @@ class UndoStore {
     void save(const Bits& bits);
     /// For another thread: waits until save() returns at once.
     std::function<void()> roomLater() const;
-    /// Waits for the writing. True when the state shown is on the disk, or none was ever saved.
+    /// Waits for the writing. True when the state shown is on disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture shown before this one; counters are unchanged. Nothing when it is lost.
     std::optional<Bits> previous() const { return previousLater()(); }
@@ -62,7 +62,7 @@ class UndoStore {
     /// Both in one.
     std::optional<Bits> undo() { return step(true); }
     std::optional<Bits> redo() { return step(false); }
-    /// Whether the last undo or redo left or passed over a step that couldn't be written or read.
+    /// Whether the last undo or redo left or skipped a step that couldn't be written or read.
     bool passedOver() const;
     /// Removes every file of the document; queued snapshots are not written.
     void deleteSeries();
@@ -78,7 +78,7 @@ class UndoStore {
 
     struct Series;
     class Reading;
-    std::shared_ptr<Series> series_; // shared with the jobs that wait
+    std::shared_ptr<Series> series_; // shared with the queued jobs
 };
 
 } // namespace velara

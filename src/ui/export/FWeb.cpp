@@ -144,7 +144,7 @@ bool keptItsSize(const Bits& picture, const Bits& shown)
 
 } // namespace
 
-/// All changes until the message loop is idle are one.
+/// All changes until the message loop is idle count as one.
 void FWeb::changed()
 {
     again_ = true;
@@ -162,7 +162,7 @@ void FWeb::ask(Work work)
     next();
 }
 
-/// One work after the other, until there is none.
+/// Does one piece of work after the other, until there is none.
 void FWeb::next()
 {
     if (request_) return;
@@ -293,7 +293,7 @@ void FWeb::fitted(std::optional<int> quality)
         TxtJPG_->setText(QString::number(*quality));
         customQuality();
     } else {
-        next_ = Work::Preview; // a file that is too large is not what was to be saved
+        next_ = Work::Preview; // a file that is too large isn't what was to be saved
         note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
         say(note_);
     }
@@ -311,7 +311,7 @@ void FWeb::saveAs()
     const auto name = platform_.saveFileName(dialog);
     if (!alive || !isVisible()) return;
     if (!name) return next();
-    choices_->setEnabled(false); // what is being written is what was asked for
+    choices_->setEnabled(false); // the file being written must match the choices
     write(fileOf(*name));
 }
 

@@ -142,7 +142,7 @@ void fColorDepth::showDepth()
     Lbloptimized_->setText(cmbDepth_->currentText());
 }
 
-/// The dialog is closed before what follows, which may open another.
+/// Closes the dialog before the action, which may open another.
 void fColorDepth::finish()
 {
     const auto next = actions_.ok; // lives on whatever becomes of this

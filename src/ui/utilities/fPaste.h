@@ -35,7 +35,7 @@ class fPaste final : public QWidget {
     Take CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
     /// Puts it into the list, and makes it what the next paste lays down.
     void add(const Part& part);
-    /// The scroll control follows the list: the newest clip is in view.
+    /// Updates the scroll control for the list: the newest clip is in view.
     void Update_V();
     bool isEmpty() const { return history_.clips().empty(); }
 

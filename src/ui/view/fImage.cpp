@@ -188,7 +188,7 @@ bool fImage::mayClose()
     bringToFront(); // the question and the save are about this one
     frame_.Mmenu("SAVE");
     frame_.workspace().wait(document_.handle());
-    return self && !document_.wouldBeLost(); // it stays after a save that was cancelled or failed
+    return self && !document_.wouldBeLost(); // stays open after a save that was cancelled or failed
 }
 
 void fImage::closeEvent(QCloseEvent* event)

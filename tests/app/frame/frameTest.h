@@ -50,7 +50,7 @@ struct FrameTest : ::testing::Test {
         frame->openPicture(path);
         frame->workspace().wait();
     }
-    /// A word, and what it begins, to their end.
+    /// Runs a word and waits for everything that it begins.
     void command(const QString& word)
     {
         frame->Mmenu(word);

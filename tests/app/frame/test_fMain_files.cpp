@@ -1,4 +1,4 @@
-// Opening, saving, the recent list, drops, clipboard, and the end of the frame.
+// Opening, saving, the recent list, drops, clipboard, and closing the frame.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
@@ -320,7 +320,7 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_EQ(frame->documents()[0]->Caption(), "b & c.bmp");
 
     QFile::remove(a);
-    frame->action("RF_0")->trigger(); // gone since the list was filled
+    frame->action("RF_0")->trigger(); // deleted since the list was filled
     frame->workspace().wait();
     EXPECT_EQ(last(), "message: Velara Studio: This file is not there any more:\n" + a.toStdString());
     EXPECT_EQ(frame->documents().size(), 1);

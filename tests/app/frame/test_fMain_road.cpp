@@ -279,7 +279,7 @@ TEST_F(Road, WhateverHappensWhileAWordIsComputedEachDocumentKeepsItsOwn)
         SCOPED_TRACE(command.word);
         const Undisturbed usual = undisturbed(*this, command);
         EXPECT_TRUE(usual.computed);
-        const bool sizing = isSizing(command.word); // one after another: they take the same step
+        const bool sizing = isSizing(command.word); // consecutive ones share a step
         expectState({usual.once.picture, sizing ? first : start, sizing ? 2 : 3, sizing ? 2 : 3}, usual.once);
         if (usual.once.picture == start) asBefore.insert(command.word);
         const bool listed = command.kind == WordKind::Dialog || command.kind == WordKind::Preset;

@@ -224,7 +224,7 @@ TEST_F(LayersDialogTest, AsksBeforeItClosesWithTextsThatAreNotMerged)
     const std::string question = "ask: Velara Studio: /a.png\nThe texts are not in the image yet.\n"
                                  "Do you want to merge them ?";
     document->file.path = "/a.png";
-    frame.setup_.AskToSave = false; // which is about documents
+    frame.setup_.AskToSave = false; // concerns documents only
     find<QAbstractButton>("tbOthers_1")->click();
     EXPECT_FALSE(document->waitingWork) << "nothing was typed";
     const auto close = [&](std::optional<QString> answer) {

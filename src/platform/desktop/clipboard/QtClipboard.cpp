@@ -66,7 +66,7 @@ QImage imageOfPart(const Bits& part)
 
 QImage imageOfPicture(const Bits& bits)
 {
-    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // which makes the fourth byte 255
+    QImage image = imageOver(bits).convertToFormat(QImage::Format_ARGB32); // sets the fourth byte to 255
     image.reinterpretAsFormat(QImage::Format_RGB32);
     return image;
 }
