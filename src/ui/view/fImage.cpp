@@ -168,9 +168,12 @@ bool fImage::mayClose()
 {
     if (document_.views > 1) return true; // nothing is lost: the document stays
     const QPointer<fImage> self = this;
-    if (frame_.workspace().awaitsCall(document_.handle()))
-        frame_.workspace().wait(document_.handle()); // a save comes first
-    if (!self) return false;
+    const auto settles = [&] {
+        tools_->giveWay(); // a gesture holds back what waits
+        frame_.workspace().wait(document_.handle());
+        return bool(self);
+    };
+    if (frame_.workspace().awaitsCall(document_.handle()) && !settles()) return false; // a save comes first
     if (!frame_.setup().AskToSave || !document_.wouldBeLost()) return true;
     bringToFront();
     const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +
@@ -182,13 +185,10 @@ bool fImage::mayClose()
     emit asking(Question::Answered);
     if (!self || answer != Answer::Yes) return answer == Answer::No;
     if (const auto putIn = document_.waitingWork; putIn && !putIn()) return false;
-    if (!self) return false;
-    frame_.workspace().wait(document_.handle()); // include the running change in the save
-    if (!self) return false;
-    bringToFront(); // the question and the save are about this one
+    if (!self || !settles()) return false; // the save includes the running change
+    bringToFront();                        // the question and the save are about this one
     frame_.Mmenu("SAVE");
-    frame_.workspace().wait(document_.handle());
-    return self && !document_.wouldBeLost(); // stays open after a save that was cancelled or failed
+    return self && settles() && !document_.wouldBeLost(); // stays open after a save that was cancelled or failed
 }
 
 void fImage::closeEvent(QCloseEvent* event)

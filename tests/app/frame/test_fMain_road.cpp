@@ -344,6 +344,9 @@ TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
     openFile(file("a.bmp", 60, 45));
     const QPointer<fImage> image = frame->GetActiveImage();
     const QByteArray before = fileBytes(path("a.bmp"));
+    click("Pencil");
+    mouse(image, QEvent::MouseButtonPress, {3, 3},
+          Qt::LeftButton); // the stroke holds both back until the close ends it
     frame->Mmenu("INVERT");
     frame->Mmenu("SAVE");
     image->parentWidget()->close();
