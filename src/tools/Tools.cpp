@@ -59,13 +59,13 @@ void Tools::press(int button, int x, int y)
     ToolContext& c = context_;
     if (!c.document.PictureExists()) return;
     if (!guarded([&] { c.surface.activate(); }) || !c.document.PictureExists()) return;
+    if (button == Left && c.down && active_) drop(); // the release of the previous drag went elsewhere
     if (isWaiting()) {
         if (button == Right && c.computed) c.workspace().cancel(c.document.handle(), c.computed);
         return;
     }
     c.at = c.press = {x, y};
     if (button == Left) {
-        if (c.down && active_) drop(); // the release of the previous drag went elsewhere
         c.start = c.at;
         c.last = c.at;
         c.down = true;

@@ -304,6 +304,21 @@ TEST_F(MoveTool, APressEndsADragWhoseReleaseNeverCame)
     EXPECT_EQ(frame.snapshots, 0);
 }
 
+TEST_F(MoveTool, WhatWaitedForALostDragRunsBeforeTheNextPress)
+{
+    frame.workspace_.held = [this](const Document&) { return tools->ToolDown(); };
+    choose("Shape");
+    press({10, 10});
+    move({40, 30});
+    frame.workspace_.change(document.handle(), {[](Document& draft, cBitFilter&) { draft.edit().at(0, 0) = {}; }});
+    press({20, 20});
+    EXPECT_FALSE(tools->ToolDown()) << "the change is under way";
+    frame.settle();
+    EXPECT_EQ(document.bits().at(0, 0), Pixel());
+    EXPECT_TRUE(sameBits(document.bits(), frame.filter_.bits()));
+    EXPECT_EQ(frame.snapshots, 1);
+}
+
 TEST_F(MoveTool, ArrowKeysMoveThePositionOnly)
 {
     const Bits before = document.bits();

@@ -117,8 +117,8 @@ void Monkey::timerEvent(QTimerEvent* event)
     killTimer(event->timerId());
     if (finished_ || !frame_) return;
     startTimer(0);
-    if (resting_) return;
     blocks_.beat(std::exchange(doing_, {}));
+    if (resting_) return leaveAll();
     ++depth_;
     step();
     --depth_;
@@ -133,10 +133,12 @@ void Monkey::step()
         if (faults_ > 0) return windUp();
     }
     Dice any(plan_.seed, 0);
-    if (!anyWindow(any)) // all are hidden: the screen is about to be captured
-        QThread::msleep(5);
-    else if (wantsToAct())
-        act();
+    if (anyWindow(any)) {
+        if (wantsToAct()) act();
+        return;
+    }
+    QThread::msleep(5); // all are hidden: the screen is about to be captured
+    if (Dice(plan_.seed, kOthers + ++rolls_).oneIn(40)) platform_.screen().answer();
 }
 
 /// Always when idle and in a window that waits; in a progress report sometimes, and more rarely the deeper.
@@ -181,6 +183,25 @@ void Monkey::goOnWithStroke()
     hands_.point(*stroked_, at);
 }
 
+/// Such as a message about a file, which comes when it is read.
+void Monkey::leaveFront()
+{
+    QWidget* const front = inFront();
+    if (!front) return;
+    Dice dice(plan_.seed, kOthers + ++rolls_);
+    journal_.begin(done_, depth_);
+    leaveWindow(*this, dice, *front);
+}
+
+/// A gesture holds the queue of its document back; one may be begun by a change that was waiting, such as a paste.
+void Monkey::leaveAll()
+{
+    leaveFront();
+    for (fImage* image : frame_->documents())
+        for (int i = 0; i < 3 && image->dropGesture(); ++i) {
+        }
+}
+
 /// Leaves everything open, then makes the last check; from then on the loops end.
 void Monkey::windUp()
 {
@@ -191,10 +212,7 @@ void Monkey::windUp()
         QApplication::activeModalWidget() || QApplication::activePopupWidget(); // else a save is awaited
     if (isOpen && ++leaving_ == kMostLeaving) fault("a window can't be left");
     if (leaving_ > kMostLeaving) std::_Exit(1);
-    if (QWidget* front = inFront()) {
-        journal_.begin(done_, depth_);
-        return leaveWindow(*this, dice, *front);
-    }
+    if (inFront()) return leaveFront();
     if (depth_ > 1) return;
     if (faults_ == 0) check();
     if (faults_ == 0) checkHome();

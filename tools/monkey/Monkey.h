@@ -54,16 +54,18 @@ class Monkey final : public QObject {
     void act();
     bool wantsToAct();
     void goOnWithStroke();
-    void leave();
+    void leaveFront();
     bool isOver() const;
     void windUp();
 
     void rest();
+    void leaveAll();
+    bool isAtWork(const fImage& image);
     void check();
     void checkDocument(fImage& image);
     void checkScreen(fImage& image);
     void checkHome();
-    /// Runs an editor with a few actions, so that one-time allocations are made; memory is measured from then on.
+    /// Opens and closes a picture, so that one-time allocations are made; memory is measured from then on.
     void warmUp();
     void checkMemory();
     void fault(const QString& what);
@@ -82,7 +84,7 @@ class Monkey final : public QObject {
     int depth_ = 0; // actions under way
     int leaving_ = 0;
     std::atomic<std::uint32_t> clock_{0}; // of the engine, milliseconds
-    bool resting_ = false, windingUp_ = false, finished_ = false;
+    bool resting_ = false, finished_ = false;
     QString doing_;
     std::size_t memoryBefore_ = 0;
     int faults_ = 0;

@@ -27,21 +27,31 @@ std::size_t memoryInUse()
     return info.uordblks + info.hblkhd;
 }
 
-/// Whether the visible pixels are equal, whatever the fourth byte.
-bool samePicture(const Bits& a, const Bits& b)
+/// How the visible pixels differ, whatever the fourth byte; empty: they are equal.
+QString difference(const Bits& a, const Bits& b)
 {
-    if (a.width() != b.width() || a.height() != b.height()) return false;
-    const auto colours = [](const Pixel& p) { return p.c[0] | p.c[1] << 8 | p.c[2] << 16; };
+    if (a.width() != b.width() || a.height() != b.height())
+        return QStringLiteral(" (%1x%2, not %3x%4)").arg(a.width()).arg(a.height()).arg(b.width()).arg(b.height());
+    QRect different;
     for (int y = 0; y < a.height(); ++y)
-        if (!std::equal(a.row(y), a.row(y) + a.width(), b.row(y), b.row(y) + a.width(),
-                        [&](const Pixel& p, const Pixel& q) { return colours(p) == colours(q); }))
-            return false;
-    return true;
+        for (int x = 0; x < a.width(); ++x)
+            if (!std::equal(a.at(x, y).c, a.at(x, y).c + 3, b.at(x, y).c)) different |= QRect(x, y, 1, 1);
+    const QRect& d = different;
+    if (d.isEmpty()) return {};
+    return QStringLiteral(" (%1x%2 from %3,%4)").arg(d.width()).arg(d.height()).arg(d.x()).arg(d.y());
 }
 
 QString nameOf(const fImage& image)
 {
     return QStringLiteral("document %1 (%2, %3)").arg(image.document().DocNumber()).arg(image.name(), image.SizeText());
+}
+
+void processPending()
+{
+    for (int i = 0; i < 4; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 } // namespace
@@ -52,22 +62,22 @@ void Monkey::rest()
     const bool before = std::exchange(resting_, true);
     movesLeft_ = 0;
     hands_.releaseAll();
-    while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-    for (fImage* image : frame_->documents()) {
-        for (int i = 0; i < 3 && image->dropGesture(); ++i) {
+    do {
+        leaveAll();
+        frame_->workspace().wait(); // the timer leaves windows and gestures meanwhile
+        for (fImage* image : frame_->documents()) {
+            QEvent leave(QEvent::Leave); // removes the outline around the pointer
+            if (auto* display = image->findChild<QWidget*>("iDst")) QCoreApplication::sendEvent(display, &leave);
         }
-        QEvent leave(QEvent::Leave); // removes the outline around the pointer
-        if (auto* display = image->findChild<QWidget*>("iDst")) QCoreApplication::sendEvent(display, &leave);
-    }
-    for (int i = 0; i < 4; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    frame_->workspace().wait();
-    for (fImage* image : frame_->documents()) // which show what was done in another view soon after it
-        while (image->findChild<QTimer*>("tmrFollow")->isActive())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        processPending();
+    } while (std::ranges::any_of(frame_->documents(), [this](const fImage* image) { return isAtWork(*image); }));
     resting_ = before;
+}
+
+/// A change is under way or waits, or the view is about to show what was done in another one.
+bool Monkey::isAtWork(const fImage& image)
+{
+    return frame_->workspace().isBusy(image.document().handle()) || image.findChild<QTimer*>("tmrFollow")->isActive();
 }
 
 void Monkey::check()
@@ -86,10 +96,13 @@ void Monkey::checkDocument(fImage& image)
     const bool stands = document.undo.stands();
     const UndoFiles files(platform_.folder.filePath("Temp"), document.DocNumber());
     const auto snapshot = stands ? files.read(document.undo.UndoStep() - 1) : std::nullopt;
-    if (snapshot && !samePicture(*snapshot, document.bits())) fault(nameOf(image) + " is not its snapshot");
+    const auto compare = [&](const Bits& picture, const QString& told) {
+        if (const QString how = difference(picture, document.bits()); !how.isEmpty()) fault(nameOf(image) + told + how);
+    };
     if (!snapshot) fault(nameOf(image) + " has no snapshot");
-    if (&image == frame_->GetActiveImage() && !samePicture(frame_->workspace().engine().bits(), document.bits()))
-        fault(nameOf(image) + " is not what the engine holds");
+    if (snapshot) compare(*snapshot, QStringLiteral(" is not its snapshot %1").arg(document.undo.UndoStep()));
+    if (&image == frame_->GetActiveImage())
+        compare(frame_->workspace().engine().bits(), " is not what the engine holds");
 }
 
 void Monkey::checkScreen(fImage& image)
@@ -130,14 +143,14 @@ void Monkey::checkHome()
 
 void Monkey::warmUp()
 {
+    resting_ = true; // no actions
     begin();
     QApplication::processEvents();
     frame_->openPicture(plan_.scratch + "/pictures/picture1.bmp");
     frame_->workspace().wait();
-    finished_ = true; // no actions from now on
     checkHome();
     end();
-    finished_ = false;
+    resting_ = false;
     memoryBefore_ = memoryInUse();
 }
 

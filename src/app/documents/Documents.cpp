@@ -138,14 +138,14 @@ void Documents::arrange(Arrangement arrangement)
     }
 }
 
+/// The newest first. Each close may run events: others may close and open meanwhile.
 bool Documents::closeAll()
 {
-    auto windows = area_->subWindowList(QMdiArea::CreationOrder);
-    std::reverse(windows.begin(), windows.end());
-    for (const QPointer<QMdiSubWindow> window : windows) {
-        if (!window) continue;
+    for (auto left = area_->subWindowList(); !left.isEmpty(); left = area_->subWindowList()) {
+        const QPointer<QMdiSubWindow> window = left.last();
         area_->setActiveSubWindow(window); // the question and a save are about this one
-        if (window && !window->close()) return false;
+        if (window && (!window->close() || area_->subWindowList().contains(window))) // or its own close is under way
+            return false;
     }
     return true;
 }

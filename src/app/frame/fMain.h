@@ -179,7 +179,8 @@ class fMain final : public QMainWindow, public Frame {
     void saveAs(fImage& image);
     void saveTo(fImage& image, const QString& path);
     void openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then);
-    void tellUnopened(const QString& path, const Opened& opened);
+    void noteUnopened(const QString& path, const Opened& opened);
+    void tellUnopened();
     void showView(const DocumentHandle& document);
     void showReading(const QString& path);
     void showName(const DocumentHandle& document);
@@ -204,6 +205,8 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Boxes> boxes_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
+    QStringList gone_; // files not opened and not told of yet
+    bool refused_ = false, tells_ = false;
     bool closing_ = false, closesAll_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };
 

@@ -55,6 +55,7 @@ void fMain::closeEvent(QCloseEvent* event)
     bars_->saveLayout();
     closing_ = documents_->closeAll();
     closesAll_ = false;
+    if (closing_) workspace_.cancelOpening(); // nobody would close what comes now
     saveState();
     event->setAccepted(closing_);
     closing_ ? emit closed() : emit stays();

@@ -95,7 +95,10 @@ void fMain::showGone(const QStringList& paths)
 /// A box, as a text in the status bar would be overlooked while a large file is read.
 void fMain::showReading(const QString& path)
 {
-    if (path.isEmpty()) return delete readingBox_;
+    if (path.isEmpty()) {
+        delete readingBox_;
+        return tellUnopened();
+    }
     if (!readingBox_) {
         readingBox_ = new QProgressDialog(QString(), tr("Cancel"), 0, 0, this);
         readingBox_->setObjectName("readingBox");
@@ -122,16 +125,27 @@ void fMain::openPath(const QString& path, Unreadable unreadable, std::function<v
     });
 }
 
-void fMain::tellUnopened(const QString& path, const Opened& opened)
+/// Told once all files are read, instead of one box on top of the other.
+void fMain::noteUnopened(const QString& path, const Opened& opened)
 {
-    if (opened.kind == Opened::Gone) showGone({path});
-    if (opened.kind == Opened::Refused) showLoadError();
+    if (opened.kind == Opened::Gone) gone_ << path;
+    refused_ |= opened.kind == Opened::Refused;
+}
+
+/// One message for all that can't be loaded, and one for all that are gone; what fails meanwhile is told next.
+void fMain::tellUnopened()
+{
+    if (closing_ || std::exchange(tells_, true)) return;
+    const QPointer<fMain> stands = this;
+    while (stands && !closing_ && (refused_ || !gone_.isEmpty()))
+        std::exchange(refused_, false) ? showLoadError() : showGone(std::exchange(gone_, {}));
+    if (stands) tells_ = false;
 }
 
 void fMain::openPicture(const QString& path, Unreadable unreadable)
 {
     openPath(path, unreadable, [this, path](const Opened& opened) {
-        if (!opened.document) return tellUnopened(path, opened);
+        if (!opened.document) return noteUnopened(path, opened);
         AddRecent(setup_, path);
         FillRecent();
         applyOpenOptions();
@@ -153,7 +167,7 @@ void fMain::openRecent(int index)
     if (path.isEmpty()) return;
     openPath(path, Unreadable::OpensEmpty, [this, path](const Opened& opened) {
         if (opened.document) return applyOpenOptions();
-        tellUnopened(path, opened);
+        noteUnopened(path, opened);
         FillRecent();
     });
 }
@@ -275,26 +289,12 @@ void fMain::dropEvent(QDropEvent* event)
     QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
 }
 
-/// One message for all that can't be loaded, and one for all that are gone.
 void fMain::dropFiles(const QStringList& paths)
 {
-    struct Drop {
-        qsizetype left = 0;
-        bool failed = false;
-        QStringList gone{};
-    };
-    QStringList pictures;
     for (const QString& path : paths)
-        if (isDropped(path.trimmed())) pictures << path.trimmed();
-    const auto drop = std::make_shared<Drop>(Drop{pictures.size()});
-    for (const QString& path : pictures)
-        openPath(path, Unreadable::OpensEmpty, [this, path, drop](const Opened& opened) {
-            drop->failed |= opened.kind == Opened::Refused;
-            if (opened.kind == Opened::Gone) drop->gone << path;
-            if (--drop->left > 0) return;
-            if (drop->failed) showLoadError();
-            if (!drop->gone.isEmpty() && !closing_) showGone(drop->gone);
-        });
+        if (const QString picture = path.trimmed(); isDropped(picture))
+            openPath(picture, Unreadable::OpensEmpty,
+                     [this, picture](const Opened& opened) { noteUnopened(picture, opened); });
 }
 
 } // namespace velara

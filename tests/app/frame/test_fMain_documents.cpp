@@ -42,6 +42,20 @@ TEST_F(FrameDocuments, TheFrameClosesTheLastOpenedFirst)
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
 }
 
+TEST_F(FrameDocuments, OthersMayCloseAndOpenWhileTheFrameAsks)
+{
+    fImage* first = open(randomBits(8, 8, 1), "a.bmp");
+    open(randomBits(8, 8, 2), "b.bmp");
+    command("INVERT");
+    platform.answers = {"no"};
+    platform.onAsk = [&] {
+        delete windowOf(first);
+        frame->adopt(randomBits(8, 8, 3), "c.bmp", Arrival::Made);
+    };
+    EXPECT_TRUE(frame->close());
+    EXPECT_TRUE(frame->documents().isEmpty());
+}
+
 TEST_F(FrameDocuments, AWindowShowsThePictureWholeOrTakesTheArea)
 {
     frame->resize(1000, 800);

@@ -353,6 +353,17 @@ TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
     EXPECT_TRUE(setup.Recent[0].isEmpty());
 }
 
+TEST_F(FrameTest, WhatIsReadWhenTheFrameClosesIsNotOpened)
+{
+    frame->openPicture(file("a.bmp"));
+    frame->openPicture(path("gone.bmp"));
+    EXPECT_TRUE(frame->close());
+    frame->workspace().wait();
+    EXPECT_TRUE(frame->workspace().documents().empty());
+    EXPECT_TRUE(QDir(path("Temp")).entryList({"b*.dat"}, QDir::Files).isEmpty());
+    EXPECT_EQ(std::ranges::count_if(platform.log, [](const auto& line) { return line.starts_with("message"); }), 0);
+}
+
 TEST_F(FrameTest, ACopyGoesThroughTheClipboardAndLeavesItEmpty)
 {
     fImage* image = open(randomBits(9, 7, 2));
