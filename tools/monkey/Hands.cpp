@@ -60,6 +60,8 @@ void Hands::key(Qt::Key key, Qt::KeyboardModifiers keys, const QString& text)
     if (qt_sendShortcutOverrideEvent(window, 0, key, keys, text) || !window) return;
     qt_handleKeyEvent(window, QEvent::KeyPress, key, keys, text);
     if (window) qt_handleKeyEvent(window, QEvent::KeyRelease, key, keys, text);
+    if (window && keys & Qt::ControlModifier) // ends the choice of a window by Ctrl+Tab
+        qt_handleKeyEvent(window, QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier, {});
 }
 
 } // namespace velara::monkey
