@@ -147,7 +147,7 @@ void Workspace::inTurn(const DocumentHandle& document, std::function<void()> cal
 }
 
 /// Not from inside such a call: it can't be waited for there.
-bool Workspace::awaitsCall(const DocumentHandle& document) const
+bool Workspace::closeAwaits(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
     if (!place || place->calling) return false;

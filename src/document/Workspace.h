@@ -16,7 +16,7 @@
 #include "document/road/Arrival.h"
 #include "document/road/Change.h"
 #include "document/road/DocumentHandle.h"
-#include "document/road/Workers.h"
+#include "pixels/threads/Workers.h"
 #include "engine/cBitFilter.h"
 #include "fileio/savePicture.h"
 #include <QObject>
@@ -89,7 +89,7 @@ class Workspace final : public QObject {
     /// Calls in turn, once the changes queued before it are done; at once when there are none.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
     /// A call or a step waits for its turn, or a save is being written: closing the document now would lose it.
-    bool awaitsCall(const DocumentHandle& document) const;
+    bool closeAwaits(const DocumentHandle& document) const;
     /// The changes and steps under way and those that wait end as Cancelled, or the one alone: at once, though the
     /// thread may go on until it hears of it. False where there is none.
     bool cancel(const DocumentHandle& document, int change = kAll);

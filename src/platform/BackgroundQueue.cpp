@@ -8,16 +8,6 @@ struct BackgroundQueue::Task {
     std::atomic<bool> wanted = true;
 };
 
-BackgroundQueue::~BackgroundQueue()
-{
-    {
-        const std::lock_guard guard(guard_);
-        ends_ = true;
-    }
-    changed_.notify_all();
-    for (std::thread& thread : threads_) thread.join();
-}
-
 BackgroundQueue::Request BackgroundQueue::add(std::function<void(const GoOn&)> work, std::function<void()> done)
 {
     auto task = std::make_shared<Task>();
@@ -27,37 +17,34 @@ BackgroundQueue::Request BackgroundQueue::add(std::function<void(const GoOn&)> w
         const std::lock_guard guard(guard_);
         std::erase_if(tasks_, [](const auto& each) { return !each->wanted; });
         tasks_.push_back(task);
-        if (threads_.size() < most_) threads_.emplace_back(&BackgroundQueue::run, this);
     }
-    changed_.notify_one();
+    workers_.start([this] { doNewest(); });
     return {task.get(), [task](void*) {
                 task->wanted = false;
                 task->done = nullptr;
             }};
 }
 
-void BackgroundQueue::run()
+/// There is nothing to do when those that wait were released meanwhile.
+void BackgroundQueue::doNewest()
 {
-    for (;;) {
-        std::shared_ptr<Task> task;
-        {
-            std::unique_lock guard(guard_);
-            changed_.wait(guard, [this] { return ends_ || !tasks_.empty(); });
-            if (ends_) return;
-            task = std::move(tasks_.back());
-            tasks_.pop_back();
-        }
-        if (!task->wanted) continue;
-        try {
-            task->work([&](auto) { return task->wanted && !ends_; });
-        } catch (const std::exception& failure) { // the answer comes, without a result
-            qWarning("velara-studio: %s", failure.what());
-        }
-        const auto tell = [task] {
-            if (const std::function<void()> done = task->done) done(); // may release the request
-        };
-        QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
+    std::shared_ptr<Task> task;
+    {
+        const std::lock_guard guard(guard_);
+        if (ends_ || tasks_.empty()) return;
+        task = std::move(tasks_.back());
+        tasks_.pop_back();
     }
+    if (!task->wanted) return;
+    try {
+        task->work([&](auto) { return task->wanted && !ends_; });
+    } catch (const std::exception& failure) { // the answer comes, without a result
+        qWarning("velara-studio: %s", failure.what());
+    }
+    const auto tell = [task] {
+        if (const std::function<void()> done = task->done) done(); // may release the request
+    };
+    QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
 }
 
 } // namespace velara

@@ -1,13 +1,12 @@
 // BackgroundQueue: threads for slow work; the last request is served first.
 #pragma once
+#include "pixels/threads/Workers.h"
 #include "seams/GoOn.h"
 #include <QObject>
 #include <atomic>
-#include <condition_variable>
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <thread>
 #include <vector>
 
 namespace velara {
@@ -21,9 +20,9 @@ class BackgroundQueue {
     using Request = std::shared_ptr<void>;
 
     /// threads: pieces of work done at the same time, at least one.
-    explicit BackgroundQueue(std::size_t threads = 1) : most_(threads) {}
+    explicit BackgroundQueue(std::size_t threads = 1) : workers_(threads) {}
     /// Cancels work under way.
-    ~BackgroundQueue();
+    ~BackgroundQueue() { ends_ = true; }
     BackgroundQueue(const BackgroundQueue&) = delete;
     BackgroundQueue& operator=(const BackgroundQueue&) = delete;
 
@@ -38,15 +37,13 @@ class BackgroundQueue {
 
   private:
     struct Task;
-    void run();
+    void doNewest();
 
     QObject answers_; // delivered in the thread that made this
     std::mutex guard_;
-    std::condition_variable changed_;
-    std::vector<std::shared_ptr<Task>> tasks_;
+    std::vector<std::shared_ptr<Task>> tasks_; // that wait
     std::atomic<bool> ends_ = false;
-    const std::size_t most_;
-    std::vector<std::thread> threads_;
+    Workers workers_;
 };
 
 } // namespace velara

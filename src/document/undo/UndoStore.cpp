@@ -1,5 +1,5 @@
 #include "document/undo/UndoStore.h"
-#include "document/road/Workers.h"
+#include "pixels/threads/Workers.h"
 #include "document/undo/UndoFiles.h"
 #include "document/undo/UndoMark.h"
 #include "pixels/memory/MemoryBudget.h"

@@ -173,7 +173,7 @@ bool fImage::mayClose()
         frame_.workspace().wait(document_.handle());
         return bool(self);
     };
-    if (frame_.workspace().awaitsCall(document_.handle()) && !settles()) return false; // a save comes first
+    if (frame_.workspace().closeAwaits(document_.handle()) && !settles()) return false; // a save comes first
     if (!frame_.setup().AskToSave || !document_.wouldBeLost()) return true;
     bringToFront();
     const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +

@@ -1,4 +1,4 @@
-#include "document/road/Workers.h"
+#include "pixels/threads/Workers.h"
 #include <system_error>
 
 namespace velara {
