@@ -16,9 +16,9 @@
 #include "document/road/Arrival.h"
 #include "document/road/Change.h"
 #include "document/road/DocumentHandle.h"
-#include "pixels/threads/Workers.h"
 #include "engine/cBitFilter.h"
 #include "fileio/savePicture.h"
+#include "pixels/threads/Workers.h"
 #include <QObject>
 #include <deque>
 #include <functional>

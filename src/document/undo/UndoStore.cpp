@@ -1,8 +1,8 @@
 #include "document/undo/UndoStore.h"
-#include "pixels/threads/Workers.h"
 #include "document/undo/UndoFiles.h"
 #include "document/undo/UndoMark.h"
 #include "pixels/memory/MemoryBudget.h"
+#include "pixels/threads/Workers.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
