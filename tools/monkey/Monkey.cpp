@@ -208,11 +208,10 @@ void Monkey::windUp()
     if (finished_) return;
     Dice dice(plan_.seed, kOthers + ++rolls_);
     platform_.tidy(dice);
-    const bool isOpen =
-        QApplication::activeModalWidget() || QApplication::activePopupWidget(); // else a save is awaited
-    if (isOpen && ++leaving_ == kMostLeaving) fault("a window can't be left");
+    QWidget* const front = inFront(); // without one it is a save that is awaited
+    if (front && ++leaving_ == kMostLeaving) fault("a window can't be left");
     if (leaving_ > kMostLeaving) std::_Exit(1);
-    if (inFront()) return leaveFront();
+    if (front) return leaveFront();
     if (depth_ > 1) return;
     if (faults_ == 0) check();
     if (faults_ == 0) checkHome();

@@ -144,8 +144,8 @@ bool Documents::closeAll()
     for (auto left = area_->subWindowList(); !left.isEmpty(); left = area_->subWindowList()) {
         const QPointer<QMdiSubWindow> window = left.last();
         area_->setActiveSubWindow(window); // the question and a save are about this one
-        if (window && (!window->close() || area_->subWindowList().contains(window))) // or its own close is under way
-            return false;
+        if (window && !window->close()) return false;
+        if (window && area_->subWindowList().contains(window)) return false; // is being closed already
     }
     return true;
 }

@@ -205,8 +205,9 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Boxes> boxes_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
-    QStringList gone_; // files not opened and not told of yet
-    bool refused_ = false, tells_ = false;
+    QStringList gone_;     // missing files that no message has named yet
+    bool refused_ = false; // a file could not be loaded, and no message has said so yet
+    bool tells_ = false;   // such a message is open
     bool closing_ = false, closesAll_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };
 
