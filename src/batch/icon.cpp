@@ -25,7 +25,7 @@ IconOrder iconOrder(const QString& text)
 
 void writeIcon(const Bits& picture, const IconOrder& order, const QString& output)
 {
-    if (!writeIcon(iconOf(picture, order.size, order.mask), output))
+    if (!writeIcon(iconBytes(iconOf(picture, order.size, order.mask)), output))
         throw fileFault(output + QStringLiteral(" can't be written"));
 }
 

@@ -17,6 +17,7 @@ class NoPreviews final : public Previews {
 
 class NoClipboard final : public Clipboard {
   public:
+    int changesByOthers() const override { return 0; }
     LoadedPicture bitmap() override { return {}; }
     bool setBitmap(const Bits&) override { return false; }
     bool setPart(const Bits&) override { return false; }

@@ -10,6 +10,7 @@ namespace velara {
 class WindowlessPlatform : public CorePlatform {
   public:
     Answer askYesNoCancel(const QString&, const QString&, Icon) override { return Answer::Cancel; }
+    int choose(const QString&, const QString&, const QStringList&) override { return -1; }
     std::optional<QString> openFileName(const FileDialog&) override { return {}; }
     std::optional<QString> saveFileName(const FileDialog&) override { return {}; }
     std::optional<QString> pickFolder(const QString&, const QString&) override { return {}; }

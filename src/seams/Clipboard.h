@@ -12,6 +12,8 @@ class Clipboard {
     /// bytes arrive, with a box in which the user can give up. Neither picture nor reason: the clipboard has no
     /// picture.
     virtual LoadedPicture bitmap() = 0;
+    /// How often other programs have put something there since the start.
+    virtual int changesByOthers() const = 0;
     /// False when the desktop refuses it.
     virtual bool setBitmap(const Bits& bits) = 0;
     /// A part of a picture with a mask: pixels with a fourth byte of 255 are transparent, all others opaque.

@@ -1,6 +1,7 @@
 // Dialogs: messages, questions and the common dialogs for files.
 #pragma once
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -32,6 +33,9 @@ class Dialogs {
     /// A message under the program's name.
     void tell(const QString& text, Icon icon = Icon::Information) { message(kProgramName, text, icon); }
     virtual Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) = 0;
+    /// A question with a button for each choice, the first the default, and Cancel. \returns the choice's index, -1:
+    /// cancelled
+    virtual int choose(const QString& title, const QString& text, const QStringList& choices) = 0;
     /// No value: the user cancelled.
     virtual std::optional<QString> openFileName(const FileDialog& dialog) = 0;
     virtual std::optional<QString> saveFileName(const FileDialog& dialog) = 0;

@@ -1,6 +1,7 @@
 // Screen: captures the screens of the desktop as pixels.
 #pragma once
 #include "pixels/Bits.h"
+#include <QImage>
 #include <QRect>
 #include <QString>
 #include <functional>
@@ -14,8 +15,14 @@ struct ScreenPicture {
         QRect logical; // a screen's rectangle on the desktop, in the units of windows and the pointer
         QRect device;  // the same in bits
     };
+    struct Pointer {
+        QImage image; // null where the desktop doesn't show it to programs
+        QPoint at;    // its upper left corner in bits
+    };
     Bits bits; // null: no capture
     std::vector<Part> parts;
+    std::vector<QRect> windows = {}; // in bits, with their frames, topmost first; none where the desktop doesn't tell
+    Pointer pointer = {};            // not in bits
     QString reason = {}; // why the picture is missing or black, for the user; empty when there is nothing to report
 };
 

@@ -15,6 +15,12 @@ const Clip* ClipHistory::at(int slot) const
     return slot >= 0 && std::size_t(slot) < clips_.size() ? &clips_[std::size_t(slot)] : nullptr;
 }
 
+int ClipHistory::numberAt(int slot) const
+{
+    const Clip* clip = at(slot);
+    return clip ? clip->number : count_ + 1 + slot - static_cast<int>(clips_.size());
+}
+
 static Rect boxOfSelection(const Document& document)
 {
     return document.Region.Region().bounds().intersected(document.Region.RegionMain().bounds());

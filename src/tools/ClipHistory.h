@@ -22,6 +22,8 @@ class ClipHistory {
     const std::vector<Clip>& clips() const { return clips_; }
     /// Null when there is no such clip.
     const Clip* at(int slot) const;
+    /// Of the clip in a slot, or of the one that would come there next.
+    int numberAt(int slot) const;
 
   private:
     std::vector<Clip> clips_;

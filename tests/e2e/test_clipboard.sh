@@ -3,13 +3,28 @@
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert -size 1500x1200 plasma:red-blue -type truecolor "$scratch/in.bmp" # comes in pieces
+# arrives N: the picture of the clipboard becomes the Nth document; it is asked for again where load kept its owner from
+# answering in time. took: milliseconds of the last attempt
+arrives() {
+    before=$(date +%s%N)
+    keys alt+e f
+    until_true "document $1 from the clipboard" here_or_asked "$1"
+    took=$((($(date +%s%N) - before) / 1000000))
+}
+here_or_asked() {
+    if documents "$1"; then return 0; fi
+    box_has_keys || return 1
+    keys Return
+    before=$(date +%s%N)
+    keys alt+e f
+    return 1
+}
 start
 count=0
 for kind in png bmp; do
     offer image/$kind "$scratch/in.$kind"
-    keys alt+e f
     count=$((count + 1))
-    until_true "the picture as $kind" documents $count
+    arrives $count
     saves "$scratch/out_$kind.bmp" "$scratch/in.$kind" "a picture of the clipboard as $kind"
 done
 
@@ -41,7 +56,7 @@ pastes() {
 }
 start
 owner many "$scratch/in.png"
-pastes documents 1
+arrives 1
 [ "$took" -lt 15000 ] || fail "a million types cost $took ms"
 saves "$scratch/out_many.bmp" "$scratch/in.png" "a picture among a million types"
 owner late 850

@@ -49,12 +49,12 @@ is 3 10 10 "$black"
 is 3 28 17 "$green"
 is 3 20 8 "$plain"
 
-# The box: its first slot pastes the ellipse again, by the button "Clip 1".
+# The box: its second slot pastes the ellipse again, by the button "Clip 2"; the first has the other program's picture.
 keys alt+v
 brings 'Clip History' l
 box=$(xdotool search --onlyvisible --name '^Clip History$')
 xdotool windowmove --sync "$box" 920 100
-xdotool mousemove --window "$box" 100 25 click 1
+xdotool mousemove --window "$box" 100 66 click 1
 settled
 xdotool mousemove $(over 50 12)
 settled
@@ -62,4 +62,14 @@ xdotool mousemove $(over 51 12) click 1
 saved 4
 is 4 48 9 "$green"
 xdotool windowactivate --sync "$(frame)"
+
+# What another program copies after our clips is what is pasted next.
+convert -size 4x4 'xc:#ffff00' PNG32:- | xclip -selection clipboard -t image/png -i
+settled
+keys ctrl+v
+xdotool mousemove $(over 20 40)
+settled
+xdotool mousemove $(over 21 40) click 1
+saved 5
+is 5 19 38 '0 255 255'
 quit

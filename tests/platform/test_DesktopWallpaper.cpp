@@ -66,7 +66,7 @@ TEST(DesktopWallpaper, EveryDesktopIsToldInItsOwnWords)
          "xfconf-query -c xfce4-desktop -p /backdrop/s0/m0/w0/last-image -s \n"
          "xfconf-query -c xfce4-desktop -p /backdrop/s0/m0/w0/last-image -s /data/a b.bmp\n"},
         {"LXQt", "pcmanfm-qt", WallpaperMode::Stretch,
-         "pcmanfm-qt --set-wallpaper=/data/a b.bmp --wallpaper-mode=stretch\n"},
+         "pcmanfm-qt --wallpaper-mode=none\npcmanfm-qt --set-wallpaper=/data/a b.bmp --wallpaper-mode=stretch\n"},
     };
     for (const auto& row : rows) {
         Desktop desktop(row.desktop);
@@ -83,7 +83,7 @@ TEST(DesktopWallpaper, WhatCantBeReadOrWrittenIsTold)
         const char *desktop, *program, *then;
         WallpaperResult result;
     } rows[] = {
-        {"GNOME", "gsettings", "exit 1", WallpaperResult::CantWrite},
+        {"GNOME", "gsettings", "[ $3 != picture-options ]", WallpaperResult::CantWrite},
         {"LXQt", "another", "", WallpaperResult::CantWrite}, // the program doesn't exist
         {"XFCE", "xfconf-query", "exit 1", WallpaperResult::CantRead},
         {"XFCE", "xfconf-query", "[ \"$3\" = -l ] && echo /a/last-image || exit 1", WallpaperResult::CantWrite},
@@ -93,6 +93,8 @@ TEST(DesktopWallpaper, WhatCantBeReadOrWrittenIsTold)
         desktop.program(row.program, row.then);
         DesktopWallpaper wallpaper(desktop.platform);
         EXPECT_EQ(desktop.set(wallpaper, WallpaperMode::Tile), row.result) << row.desktop << row.then;
+        EXPECT_TRUE(row.desktop != QByteArray("GNOME") || desktop.log().contains("picture-uri-dark"))
+            << "the steps after the failed one";
     }
 }
 

@@ -44,10 +44,12 @@ class RecordingPreviews final : public Previews {
 class RecordingClipboard final : public Clipboard {
   public:
     Bits bits;
-    QString fault; // why it can't be read
+    QString fault;  // why it can't be read
+    int others = 0; // see changesByOthers
 
     explicit RecordingClipboard(std::vector<std::string>& log) : log_(log) {}
     LoadedPicture bitmap() override { return {bits, fault}; }
+    int changesByOthers() const override { return others; }
     bool setBitmap(const Bits& picture) override { return put("clipboard: set", picture); }
     bool setPart(const Bits& part) override { return put("clipboard: part", part); }
     void clear() override { put("clipboard: clear", {}); }

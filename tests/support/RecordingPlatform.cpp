@@ -39,6 +39,12 @@ Answer RecordingPlatform::askYesNoCancel(const QString& title, const QString& te
     return *next == "yes" ? Answer::Yes : Answer::No;
 }
 
+int RecordingPlatform::choose(const QString& title, const QString& text, const QStringList& choices)
+{
+    const auto next = ask("ask: " + title + ": " + text);
+    return next ? static_cast<int>(choices.indexOf(*next)) : -1;
+}
+
 std::optional<QString> RecordingPlatform::openFileName(const FileDialog& dialog)
 {
     lastDialog = dialog;

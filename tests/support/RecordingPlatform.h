@@ -18,10 +18,10 @@ namespace velara {
 class RecordingPlatform : public Platform {
   public:
     /// Answers for the next dialogs, in order. An empty one, and an empty queue, cancel. A question takes "yes" and
-    /// "no".
+    /// "no", a choice its text.
     std::deque<std::optional<QString>> answers;
-    /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT", "open: TITLE", "save: TITLE", "folder: TITLE",
-    /// "clipboard: set", "clipboard: clear".
+    /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT" (choices, too), "open: TITLE", "save: TITLE",
+    /// "folder: TITLE", "clipboard: set", "clipboard: clear".
     std::vector<std::string> log;
     std::function<void()> onAsk;                  // a dialog stands
     QString loadNote;                             // of every picture that is read
@@ -48,6 +48,7 @@ class RecordingPlatform : public Platform {
     }
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
+    int choose(const QString& title, const QString& text, const QStringList& choices) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;

@@ -91,6 +91,13 @@ Answer MonkeyPlatform::askYesNoCancel(const QString& title, const QString&, Icon
     return dice_().of(kAnswers);
 }
 
+int MonkeyPlatform::choose(const QString& title, const QString&, const QStringList& choices)
+{
+    stand(title);
+    Dice dice = dice_();
+    return dice.below(static_cast<int>(choices.size()) + 1) - 1;
+}
+
 std::optional<QString> MonkeyPlatform::openFileName(const FileDialog& dialog)
 {
     stand(dialog.title);

@@ -24,6 +24,7 @@ class MonkeyPlatform final : public RecordingPlatform {
     std::uint32_t milliseconds() override { return now += 3; }
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
+    int choose(const QString& title, const QString& text, const QStringList& choices) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;

@@ -2,11 +2,15 @@
 #include "app/frame/fMain.h"
 #include "fileio/readInBackground.h"
 #include "fileio/savePicture.h"
+#include "pixels/images.h"
 #include "seams/Platform.h"
 #include "ui/utilities/HiddenWindows.h"
 #include "ui/utilities/fCaptureRectangle.h"
 #include "ui/utilities/fWaiting.h"
 #include <QFile>
+#include <QPainter>
+#include <cstring>
+#include <utility>
 
 namespace velara {
 
@@ -15,6 +19,21 @@ namespace {
 constexpr int kDelay = 500;                 // ms for windows to disappear
 constexpr int kPatience = 10000;            // ms; a desktop may be asking its user meanwhile
 constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, and kept
+
+/// With the pointer drawn in.
+ScreenPicture overlaid(ScreenPicture picture)
+{
+    const QImage& pointer = picture.pointer.image;
+    const QRect whole(0, 0, picture.bits.width(), picture.bits.height());
+    const QRect place = QRect(picture.pointer.at, pointer.size()) & whole;
+    if (place.isEmpty()) return picture;
+    QImage below = imageOver(picture.bits).copy(place);
+    QPainter(&below).drawImage(picture.pointer.at - place.topLeft(), pointer);
+    for (int y = 0; y < place.height(); ++y)
+        std::memcpy(picture.bits.row(place.top() + y) + place.left(), below.constScanLine(y),
+                    std::size_t(place.width()) * sizeof(Pixel));
+    return picture;
+}
 
 /// A capture on its way through a file.
 struct Through {
@@ -40,7 +59,6 @@ Capture::Capture(fMain& frame) : frame_(frame), picker_(new fCaptureRectangle(th
 {
     Timer2_.setObjectName("Timer2");
     for (QTimer* timer : {&Timer2_, &patience_}) timer->setSingleShot(true);
-    Timer2_.setInterval(kDelay);
     patience_.setInterval(kPatience);
     connect(&Timer2_, &QTimer::timeout, this, [this] { capturePic(WholeScreen); });
     connect(&patience_, &QTimer::timeout, this, [this] {
@@ -63,13 +81,13 @@ Capture::~Capture()
 void Capture::desktop()
 {
     putAside(false, true);
-    Timer2_.start();
+    Timer2_.start(kDelay + std::exchange(delay_, 0));
 }
 
 void Capture::background()
 {
     putAside(true, false);
-    Timer2_.start();
+    Timer2_.start(kDelay + std::exchange(delay_, 0));
 }
 
 void Capture::takeScreens(bool showsDesktop, const Screen::Done& done)
@@ -105,7 +123,7 @@ void Capture::grab(const Screen::Done& done)
         patience_.stop();
         delete waiting_;
         endDesktop();
-        done(picture);
+        done(std::exchange(withPointer_, false) ? overlaid(picture) : picture);
     });
 }
 
@@ -128,7 +146,7 @@ QRect Capture::areaOf(int mode, const ScreenPicture& picture) const
 
 void Capture::capturePic(int mode)
 {
-    QTimer::singleShot(0, this, [this, mode, picked = picker_->picRectangle()] {
+    QTimer::singleShot(std::exchange(delay_, 0), this, [this, mode, picked = picker_->picRectangle()] {
         if (mode == Rectangle) return makeDocument(picked);
         grab([this, mode](const ScreenPicture& picture) {
             makeDocument(partOf(picture.bits, areaOf(mode, picture)), picture.reason);
@@ -162,15 +180,23 @@ void Capture::showDialog()
 {
     if (!dialog_) {
         dialog_ = new fCapture(&frame_);
-        connect(dialog_, &fCapture::captureChosen, &frame_, &fMain::Mmenu);
+        connect(dialog_, &fCapture::captureChosen, this, &Capture::chosen);
         connect(dialog_, &fCapture::customChosen, this, &Capture::customChosen);
         connect(dialog_, &fCapture::customDue, this, &Capture::customDue);
     }
     dialog_->open();
 }
 
+void Capture::chosen(const QString& word)
+{
+    delay_ = dialog_->delay();
+    withPointer_ = dialog_->withPointer();
+    frame_.Mmenu(word);
+}
+
 void Capture::customChosen(fCapture::Where where)
 {
+    withPointer_ = dialog_->withPointer();
     putAside(where != fCapture::Foreground, where == fCapture::Desktop);
 }
 

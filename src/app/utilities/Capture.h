@@ -43,6 +43,7 @@ class Capture final : public QObject {
     void endDesktop();
     void grab(const Screen::Done& done);
     void giveUp();
+    void chosen(const QString& word);
     void customChosen(fCapture::Where where);
     void customDue();
     QRect areaOf(int mode, const ScreenPicture& picture) const;
@@ -54,6 +55,8 @@ class Capture final : public QObject {
     QTimer Timer2_, patience_;
     std::unique_ptr<HiddenWindows> hidden_;
     bool desktopShown_ = false;
+    int delay_ = 0;            // ms, before the next capture
+    bool withPointer_ = false; // in the next capture
     QPointer<fCapture> dialog_;
     QPointer<fWaiting> waiting_;
     fCaptureRectangle* picker_;

@@ -1,14 +1,19 @@
 #include "app/utilities/Clips.h"
 #include "app/frame/fMain.h"
 #include "document/Workspace.h"
+#include "document/resizing.h"
 #include "pixels/RuntimeError.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
 #include "tools/Tools.h"
+#include <algorithm>
 
 namespace velara {
 
-Clips::Clips(fMain& frame) : frame_(frame), box_(new fPaste(frame, &frame)) {}
+Clips::Clips(fMain& frame) : frame_(frame), box_(new fPaste(frame, &frame))
+{
+    QObject::connect(box_, &fPaste::chosen, box_, [this] { seen_ = frame_.platform().clipboard().changesByOthers(); });
+}
 
 /// The part is taken by the thread that blackens it.
 void Clips::cut()
@@ -42,7 +47,9 @@ void Clips::copy()
 void Clips::add(const fPaste::Part& part)
 {
     if (box_) box_->add(part);
-    frame_.platform().clipboard().setPart(part.bits);
+    Clipboard& clipboard = frame_.platform().clipboard();
+    clipboard.setPart(part.bits);
+    seen_ = clipboard.changesByOthers();
 }
 
 /// After the cut that it may be meant for.
@@ -59,21 +66,64 @@ void Clips::layDown()
     const QPointer<fImage> image = frame_.GetActiveImage();
     if (!image) return;
     image->idst_KeyUp(Tools::Ctrl, 0);
-    ToolStores& stores = frame_.toolStores();
-    QString reason;
-    if (box_->isEmpty()) {
-        const LoadedPicture picture = frame_.platform().clipboard().bitmap();
-        stores.paste = picture.bits;
-        reason = picture.reason;
-    }
+    letGo(); // of a paste that still waits
+    const LoadedPicture foreign = fetched();
     if (!image) return; // closed while waiting for the clipboard's owner
-    if (stores.paste.isNull() || !image->PictureExists())
-        return frame_.report("PASTE",
-                             {Outcome::Failed, reason.isEmpty() ? QObject::tr("nothing was cut or copied") : reason});
+    ToolStores& stores = frame_.toolStores();
+    if (foreign.ok()) box_->add({foreign.bits, {}});
+    const bool isThere = (foreign.ok() || foreign.reason.isEmpty()) && !stores.paste.isNull() && image->PictureExists();
+    if (!isThere)
+        return frame_.report(
+            "PASTE",
+            {Outcome::Failed, foreign.reason.isEmpty() ? QObject::tr("nothing was cut or copied") : foreign.reason});
+    if (!needsRoom(image->document())) return hover();
+    const DocumentHandle document = image->document().handle();
+    switch (frame_.platform().choose(QObject::tr("Paste"), QObject::tr("What is pasted is larger than the picture."),
+                                     {QObject::tr("&Enlarge the picture"), QObject::tr("&Keep its size")})) {
+    case 0:
+        return makeRoom(document);
+    case 1:
+        if (frame_.active() == document) hover();
+    }
+}
+
+/// What another program has put on the clipboard since our last clip. Its owner is asked only once.
+LoadedPicture Clips::fetched()
+{
+    Clipboard& clipboard = frame_.platform().clipboard();
+    const int changes = clipboard.changesByOthers();
+    if (!box_->isEmpty() && changes == seen_) return {};
+    seen_ = changes;
+    return clipboard.bitmap();
+}
+
+bool Clips::needsRoom(const Document& document) const
+{
+    const Bits& part = frame_.toolStores().paste;
+    return part.width() > document.PictureWidth() || part.height() > document.PictureHeight();
+}
+
+/// A step of its own, before the paste.
+void Clips::makeRoom(const DocumentHandle& document)
+{
+    const QSize part(frame_.toolStores().paste.width(), frame_.toolStores().paste.height());
+    const auto job = [part](Document& draft, cBitFilter& filter) {
+        resizeCanvas(draft, filter, std::max(part.width(), draft.PictureWidth()),
+                     std::max(part.height(), draft.PictureHeight()), 0, 0);
+    };
+    frame_.workspace().change(document, {job}, [this, document](const Outcome& outcome) {
+        frame_.report("PASTE", outcome);
+        if (outcome && frame_.active() == document) hover();
+    });
+}
+
+void Clips::hover()
+{
+    fImage* image = frame_.GetActiveImage();
     frame_.setup().PasteMode = PasteMode::Waiting;
     frame_.takeNoTool();
     image->StopTimer();
-    stores.pastePending = true;
+    frame_.toolStores().pastePending = true;
     image->showPaste();
 }
 

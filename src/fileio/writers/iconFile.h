@@ -1,4 +1,5 @@
-// Windows icons of a single picture: 24 bits per pixel, uncompressed, and a mask of the transparent pixels.
+// Windows icons, uncompressed: a single picture of 24 bits per pixel with a mask of the transparent pixels, or the
+// usual sizes together with 32, whose edges are soft.
 #pragma once
 #include "pixels/Bits.h"
 #include <QByteArray>
@@ -18,9 +19,14 @@ constexpr bool iconSizeAllowed(int width, int height)
 /// for a null picture, a size that is not allowed, and when memory is short.
 QImage iconOf(const Bits& picture, QSize size, std::optional<Colour> mask);
 
-/// The file contents for an icon made by iconOf.
+/// The largest of the sizes that stand together in one file.
+QImage largestIconOf(const Bits& picture, std::optional<Colour> mask);
+
+/// The file contents for an icon made by iconOf; empty for a null one.
 QByteArray iconBytes(const QImage& icon);
-/// False when it can't be written or is null; an existing file is intact then.
-bool writeIcon(const QImage& icon, const QString& fileName);
+/// The same for squares of 16 to 256 pixels a side, each with the whole picture in its proportions.
+QByteArray iconSetBytes(const Bits& picture, std::optional<Colour> mask);
+/// False when it can't be written or there are no bytes; an existing file is intact then.
+bool writeIcon(const QByteArray& bytes, const QString& fileName);
 
 } // namespace velara

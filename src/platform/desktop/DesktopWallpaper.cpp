@@ -88,7 +88,8 @@ void DesktopWallpaper::set(const QString& path, WallpaperMode mode, Done done)
     if (desktops.contains("XFCE", Qt::CaseInsensitive)) return setByXfce(path, mode);
     if (desktops.contains("KDE", Qt::CaseInsensitive)) return setByPlasma(path, mode);
     if (desktops.contains("LXQt", Qt::CaseInsensitive))
-        return runAll({{"pcmanfm-qt", "--set-wallpaper=" + path, QString("--wallpaper-mode=") + kLxqt.of(mode)}});
+        return runAll({{"pcmanfm-qt", "--wallpaper-mode=none"}, // the same name again has no effect
+                       {"pcmanfm-qt", "--set-wallpaper=" + path, QString("--wallpaper-mode=") + kLxqt.of(mode)}});
     setByPortal(path, mode);
 }
 
@@ -114,16 +115,11 @@ void DesktopWallpaper::run(const QStringList& command, const Answer& answer)
     process->start(QIODevice::ReadOnly);
 }
 
-void DesktopWallpaper::runAll(Commands commands)
+void DesktopWallpaper::runAll(Commands commands, WallpaperResult soFar)
 {
-    if (commands.isEmpty()) return finish(WallpaperResult::Done);
+    if (commands.isEmpty()) return finish(soFar);
     const QStringList first = commands.takeFirst();
-    run(first, [this, commands](bool ok, const QString&) {
-        if (ok)
-            runAll(commands);
-        else
-            finish(WallpaperResult::CantWrite);
-    });
+    run(first, [=, this](bool ok, const QString&) { runAll(commands, ok ? soFar : WallpaperResult::CantWrite); });
 }
 
 /// Xfce has a picture for each screen and workspace, under names that only it knows.

@@ -29,8 +29,8 @@ class DesktopWallpaper final : public QObject, public Wallpaper {
     void finish(WallpaperResult result);
     /// Runs one program and passes on its output; gives up after kPatience.
     void run(const QStringList& command, const Answer& answer);
-    /// One after the other; the first failure ends the sequence.
-    void runAll(Commands commands);
+    /// One after the other, even after a failure: a desktop of another version may lack one of the settings.
+    void runAll(Commands commands, WallpaperResult soFar = WallpaperResult::Done);
     void setByXfce(const QString& path, WallpaperMode mode);
     void setByPlasma(const QString& path, WallpaperMode mode);
     void setByPortal(const QString& path, WallpaperMode mode);

@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -49,6 +50,8 @@ PortalRequest::PortalRequest(const QDBusConnection& bus, const QString& interfac
     call.setArguments(arguments + QVariantList{options});
     auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, kCallLimit), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalRequest::called);
+    auto* life = new QDBusServiceWatcher(kService, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(life, &QDBusServiceWatcher::serviceUnregistered, this, [this] { finish(Failed, {}); });
 }
 
 PortalRequest::~PortalRequest()

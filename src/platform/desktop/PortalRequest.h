@@ -16,7 +16,7 @@ class PortalRequest final : public QObject {
     using Done = std::function<void(Code, const QVariantMap& results)>;
 
     /// interface is the last part of its name ("Screenshot"). done is called once, from the message loop, and not after
-    /// this object's destruction, which withdraws the request.
+    /// this object's destruction, which withdraws the request. A portal that ends meanwhile is Failed.
     PortalRequest(const QDBusConnection& bus, const QString& interface, const QString& method,
                   const QVariantList& arguments, QVariantMap options, Done done, QObject* parent);
     ~PortalRequest() override;

@@ -28,6 +28,11 @@ Answer QtPlatform::askYesNoCancel(const QString& title, const QString& text, Ico
     }
 }
 
+int QtPlatform::choose(const QString& title, const QString& text, const QStringList& choices)
+{
+    return showChoices(title, text, choices);
+}
+
 std::optional<QString> QtPlatform::openFileName(const FileDialog& request) { return askOpenName(*this, request); }
 
 std::optional<QString> QtPlatform::saveFileName(const FileDialog& request) { return askSaveName(*this, request); }

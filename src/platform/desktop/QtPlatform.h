@@ -16,6 +16,7 @@ class QtPlatform : public CorePlatform {
   public:
     void message(const QString& title, const QString& text, Icon icon) override;
     Answer askYesNoCancel(const QString& title, const QString& text, Icon icon) override;
+    int choose(const QString& title, const QString& text, const QStringList& choices) override;
     std::optional<QString> openFileName(const FileDialog& dialog) override;
     std::optional<QString> saveFileName(const FileDialog& dialog) override;
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;

@@ -39,6 +39,10 @@ ScreenPicture grabByQt()
             std::memcpy(picture.bits.row(place.top() + y) + place.left(), images[i].constScanLine(y),
                         std::size_t(place.width()) * sizeof(Pixel));
     }
+    picture.windows = x11Windows();
+    for (QRect& window : picture.windows) window = window.translated(-all.topLeft());
+    picture.pointer.image = x11Pointer(picture.pointer.at);
+    picture.pointer.at -= all.topLeft();
     return picture;
 }
 
@@ -66,8 +70,10 @@ constexpr const char* kBlack = "The picture of the screen is all black.";
 ScreenPicture grabWithoutPortal()
 {
     ScreenPicture picture = QGuiApplication::platformName() == "xcb" ? grabByQt() : ScreenPicture();
-    if (picture.bits.isNull() || isBlack(picture.bits)) picture = {{}, {}, kNoPortal};
-    return picture;
+    if (!picture.bits.isNull() && !isBlack(picture.bits)) return picture;
+    ScreenPicture none;
+    none.reason = kNoPortal;
+    return none;
 }
 
 /// The path of the portal's picture on this machine; empty for any other URL.

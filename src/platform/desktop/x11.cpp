@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 #include <xcb/xcb.h>
+#include <xcb/xfixes.h>
 
 namespace velara {
 
@@ -28,15 +29,38 @@ xcb_atom_t atom(xcb_connection_t* x, const char* name)
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-/// The 32-bit values of a property of the root window.
-std::vector<std::uint32_t> rootProperty(xcb_connection_t* x, xcb_atom_t property)
+/// The 32-bit values of a window's property.
+std::vector<std::uint32_t> valuesOf(xcb_connection_t* x, xcb_window_t window, xcb_atom_t property)
 {
     constexpr std::uint32_t kMostValues = 1024;
-    const auto cookie = xcb_get_property(x, 0, screenOf(x)->root, property, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostValues);
+    const auto cookie = xcb_get_property(x, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostValues);
     const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(x, cookie, nullptr), &std::free);
     if (!reply || reply->format != 32) return {};
     const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
     return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+}
+
+std::vector<std::uint32_t> rootProperty(xcb_connection_t* x, xcb_atom_t property)
+{
+    return valuesOf(x, screenOf(x)->root, property);
+}
+
+bool isViewable(xcb_connection_t* x, xcb_window_t window)
+{
+    const auto cookie = xcb_get_window_attributes(x, window);
+    const Owned<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(x, cookie, nullptr),
+                                                         &std::free);
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+/// On the root window, without its frame; empty when the window has gone.
+QRect placeOf(xcb_connection_t* x, xcb_window_t window)
+{
+    const auto size = xcb_get_geometry(x, window);
+    const auto corner = xcb_translate_coordinates(x, window, screenOf(x)->root, 0, 0);
+    const Owned<xcb_get_geometry_reply_t> box(xcb_get_geometry_reply(x, size, nullptr), &std::free);
+    const Owned<xcb_translate_coordinates_reply_t> at(xcb_translate_coordinates_reply(x, corner, nullptr), &std::free);
+    return box && at ? QRect(at->dst_x, at->dst_y, box->width, box->height) : QRect();
 }
 
 /// Sends the pixels in pieces that fit into a request.
@@ -86,6 +110,38 @@ bool x11ShowDesktop(bool on)
                    reinterpret_cast<const char*>(&event));
     xcb_flush(x);
     return true;
+}
+
+std::vector<QRect> x11Windows()
+{
+    xcb_connection_t* x = ours();
+    if (!x) return {};
+    std::vector<QRect> places;
+    const xcb_atom_t frame = atom(x, "_NET_FRAME_EXTENTS");
+    auto windows = rootProperty(x, atom(x, "_NET_CLIENT_LIST_STACKING")); // the lowest first
+    std::ranges::reverse(windows);
+    for (const xcb_window_t window : windows) {
+        QRect place = isViewable(x, window) ? placeOf(x, window) : QRect();
+        if (place.isEmpty()) continue;
+        const auto widths = valuesOf(x, window, frame); // left, right, top, bottom
+        if (widths.size() == 4) place.adjust(-int(widths[0]), -int(widths[2]), int(widths[1]), int(widths[3]));
+        places.push_back(place);
+    }
+    return places;
+}
+
+QImage x11Pointer(QPoint& at)
+{
+    xcb_connection_t* x = ours();
+    if (!x) return {};
+    xcb_discard_reply(x, xcb_xfixes_query_version(x, 4, 0).sequence); // must come before any other request
+    const auto cookie = xcb_xfixes_get_cursor_image(x);
+    const Owned<xcb_xfixes_get_cursor_image_reply_t> reply(xcb_xfixes_get_cursor_image_reply(x, cookie, nullptr),
+                                                           &std::free);
+    if (!reply) return {};
+    at = {reply->x - reply->xhot, reply->y - reply->yhot};
+    const auto* pixels = reinterpret_cast<const uchar*>(xcb_xfixes_get_cursor_image_cursor_image(reply.get()));
+    return QImage(pixels, reply->width, reply->height, QImage::Format_ARGB32_Premultiplied).copy();
 }
 
 QSize x11RootSize()

@@ -32,7 +32,10 @@ fIconBar::fIconBar(fIconMaker& maker, QWidget* parent)
     setFrameStyle(QFrame::Panel | QFrame::Raised);
     setAutoFillBackground(true);
     setCursor(Qt::SizeAllCursor);
-    auto* title = new QLabel("<b>" + windowTitle() + "</b>");
+    auto* title = new QLabel(windowTitle());
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
     auto* help = new QLabel(tr("Drag the frame over the picture.\nArrow keys move it by a pixel."));
     named(lblcount_, "lblcount", tr("Icons taken"));
     auto* counter = new QHBoxLayout;

@@ -24,8 +24,12 @@ struct SizeRow {
     const char *name, *caption;
     int side;
 };
-constexpr SizeRow kSizes[] = {
-    {"o16", "16 x 16", 16}, {"o32", "32 x 32", 32}, {"o64", "64 x 64", 64}, {"ocustom", "Custom", 0}};
+constexpr int kEntered = 0, kTogether = -1; // instead of a side
+constexpr SizeRow kSizes[] = {{"o16", "16 x 16", 16},
+                              {"o32", "32 x 32", 32},
+                              {"o64", "64 x 64", 64},
+                              {"ocustom", "Custom", kEntered},
+                              {"oall", "16 to 256 in one &file", kTogether}};
 constexpr int kUsual = 1;           // of kSizes
 constexpr QSize kPreview{256, 256}; // the largest icon at its own size
 constexpr int kCheck = 8;           // side of the squares behind transparent pixels, in the preview
@@ -38,11 +42,9 @@ Bits overChecks(const QImage& icon, int zoom)
     for (int y = 0; y < icon.height(); ++y)
         for (int x = 0; x < icon.width(); ++x) {
             const QRgb pixel = icon.pixel(x, y);
-            const std::uint8_t ground = kChecks[(x * zoom / kCheck + y * zoom / kCheck) % 2];
-            shown.at(x, y) =
-                qAlpha(pixel)
-                    ? Pixel{{std::uint8_t(qBlue(pixel)), std::uint8_t(qGreen(pixel)), std::uint8_t(qRed(pixel)), 0}}
-                    : Pixel{{ground, ground, ground, 0}};
+            const int ground = kChecks[(x * zoom / kCheck + y * zoom / kCheck) % 2], opacity = qAlpha(pixel);
+            const auto over = [=](int part) { return std::uint8_t(ground + (part - ground) * opacity / 255); };
+            shown.at(x, y) = {{over(qBlue(pixel)), over(qGreen(pixel)), over(qRed(pixel)), 0}};
         }
     return shown;
 }
@@ -127,20 +129,27 @@ void fIconPicture::setPicture(const Bits& picture)
 
 void fIconPicture::chooseSide(int side)
 {
+    together_ = side == kTogether;
+    if (together_) side = kMostIconSide;
     for (QLineEdit* box : {Iw_, Ih_}) {
         const QSignalBlocker quiet(box); // set both, then make the icon
-        box->setText(side ? QString::number(side) : QString());
-        box->setReadOnly(side != 0);
+        box->setText(side == kEntered ? QString() : QString::number(side));
+        box->setReadOnly(side != kEntered);
     }
-    if (!side) Iw_->setFocus();
+    if (side == kEntered) Iw_->setFocus();
     makeIcon();
 }
 
 /// Picks the picture's own colour, not one mixed by scaling.
 void fIconPicture::pickMask(QPoint pixel)
 {
-    const int x = (2 * pixel.x() + 1) * picture_.width() / (2 * icon_.width());
-    const int y = (2 * pixel.y() + 1) * picture_.height() / (2 * icon_.height());
+    QSize shown(picture_.width(), picture_.height());
+    shown.scale(icon_.size(), together_ ? Qt::KeepAspectRatio : Qt::IgnoreAspectRatio);
+    const QRect place(QPoint(icon_.width() - shown.width(), icon_.height() - shown.height()) / 2, shown);
+    if (!place.contains(pixel)) return;
+    const QPoint at = pixel - place.topLeft();
+    const int x = (2 * at.x() + 1) * picture_.width() / (2 * place.width());
+    const int y = (2 * at.y() + 1) * picture_.height() / (2 * place.height());
     const Pixel& picked = picture_.at(x, y);
     mask_->setMask(colourOf(picked.c[2], picked.c[1], picked.c[0]));
 }
@@ -148,7 +157,7 @@ void fIconPicture::pickMask(QPoint pixel)
 void fIconPicture::makeIcon()
 {
     const QSize size(Iw_->text().toInt(), Ih_->text().toInt());
-    icon_ = iconOf(picture_, size, mask_->mask());
+    icon_ = together_ ? largestIconOf(picture_, mask_->mask()) : iconOf(picture_, size, mask_->mask());
     const int zoom = icon_.isNull() ? 1 : std::max(1, kPreview.width() / std::max(size.width(), size.height()));
     Ipic_->setZoom(zoom);
     Ipic_->setBits(icon_.isNull() ? Bits() : overChecks(icon_, zoom));
@@ -164,14 +173,14 @@ void fIconPicture::makeIcon()
 void fIconPicture::save()
 {
     const QPointer<fIconPicture> alive = this;
-    const QImage icon = icon_;
+    const QByteArray bytes = together_ ? iconSetBytes(picture_, mask_->mask()) : iconBytes(icon_);
     Platform& platform = frame_.platform();
     FileDialog dialog{QStringLiteral("Save Icon as"), QStringLiteral("Icon File|*.ico"), {}};
     dialog.defaultPattern = QStringLiteral("*.ico");
     const std::optional<QString> path = platform.saveFileName(dialog);
     if (!path) return;
     const QString name = QFileInfo(*path).fileName();
-    if (!writeIcon(icon, *path)) return platform.tell(tr("%1 can't be written.").arg(name), Icon::Exclamation);
+    if (!writeIcon(bytes, *path)) return platform.tell(tr("%1 can't be written.").arg(name), Icon::Exclamation);
     if (alive) state_->setText(tr("Saved: %1").arg(printable(name)));
 }
 

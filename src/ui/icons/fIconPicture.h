@@ -26,14 +26,15 @@ class fIconPicture final : public QGroupBox {
   private:
     QWidget* makeChoices();
     QWidget* makePreview();
-    void chooseSide(int side); // 0: the user enters it
+    void chooseSide(int side); // or one of the choices that have none
     void pickMask(QPoint pixel);
     void makeIcon();
     void save();
 
     Frame& frame_;
     Bits picture_;
-    QImage icon_; // null while the numbers are invalid
+    QImage icon_;           // null while the numbers are invalid
+    bool together_ = false; // all usual sizes in one file
     QList<QRadioButton*> sizes_;
     QLineEdit *Iw_, *Ih_;
     MaskChoice* mask_;

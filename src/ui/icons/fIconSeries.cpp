@@ -159,7 +159,7 @@ void fIconSeries::save()
     for (int i = 0; i < count(); ++i) {
         if (lv_->topLevelItem(i)->checkState(0) != Qt::Checked) continue;
         const QString name = lv_->topLevelItem(i)->text(0) + QStringLiteral(".ico");
-        if (writeIcon(iconAt(i), folder + u'/' + name))
+        if (writeIcon(iconBytes(iconAt(i)), folder + u'/' + name))
             ++saved;
         else
             failed << name;

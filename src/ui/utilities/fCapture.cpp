@@ -1,6 +1,7 @@
 #include "ui/utilities/fCapture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -10,7 +11,8 @@ namespace velara {
 
 namespace {
 
-constexpr int kDelay = 500; // ms
+constexpr int kDelay = 500;              // ms
+constexpr int kDelays[] = {0, 3, 5, 10}; // s, that the user may choose
 
 struct WhereRow {
     const char *caption, *word, *explanation;
@@ -54,7 +56,6 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
 
     Timer2_.setObjectName("Timer2");
     Timer2_.setSingleShot(true);
-    Timer2_.setInterval(kDelay);
     connect(&Timer2_, &QTimer::timeout, this, &fCapture::customDue);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(capture, &QPushButton::clicked, this, [this] {
@@ -64,9 +65,13 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
     connect(custom, &QPushButton::clicked, this, [this] {
         hide();
         emit customChosen(static_cast<Where>(cb_->currentIndex()));
-        Timer2_.start();
+        Timer2_.start(kDelay + delay());
     });
 }
+
+int fCapture::delay() const { return kDelays[cbDelay_->currentIndex()] * 1000; }
+
+bool fCapture::withPointer() const { return chkPointer_->isChecked(); }
 
 QWidget* fCapture::makeCustom()
 {
@@ -81,6 +86,18 @@ QWidget* fCapture::makeCustom()
         label->setMinimumWidth(380);
         column->addWidget(label);
     }
+    cbDelay_ = named(new QComboBox, "cbDelay");
+    for (const int seconds : kDelays) cbDelay_->addItem(seconds ? tr("%1 seconds").arg(seconds) : tr("At once"));
+    auto* delay = new QLabel(tr("&Delay"));
+    delay->setBuddy(cbDelay_);
+    chkPointer_ = named(new QCheckBox(tr("With the &pointer")), "chkPointer");
+    auto* row = new QHBoxLayout;
+    row->addWidget(delay);
+    row->addWidget(cbDelay_);
+    row->addSpacing(12);
+    row->addWidget(chkPointer_);
+    row->addStretch();
+    column->addLayout(row);
     column->setSpacing(10);
     return page;
 }

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QTimer>
 
+class QCheckBox;
 class QComboBox;
 
 namespace velara {
@@ -14,18 +15,23 @@ class fCapture final : public QDialog {
 
     explicit fCapture(QWidget* parent);
 
+    /// Milliseconds between the choice and the capture, besides the time that windows need to disappear.
+    int delay() const;
+    bool withPointer() const;
+
   signals:
     /// "Capture": the whole screen, by its command word. The dialog is hidden.
     void captureChosen(const QString& word);
-    /// "Custom": a rectangle. The dialog is hidden; customDue() follows half a second later, when other windows are
-    /// gone.
+    /// "Custom": a rectangle. The dialog is hidden; customDue() follows half a second and the delay later, when other
+    /// windows are gone.
     void customChosen(Where where);
     void customDue();
 
   private:
     QWidget* makeCustom();
 
-    QComboBox* cb_;
+    QComboBox *cb_, *cbDelay_;
+    QCheckBox* chkPointer_;
     QTimer Timer2_;
 };
 

@@ -163,7 +163,7 @@ void fPaste::showClips()
     for (int i = 0; i < ClipHistory::kSlots; ++i) {
         const Slot& slot = slots_[std::size_t(i)];
         const Clip* clip = history_.at(i);
-        const QString caption = QString("Clip %1").arg(clip ? clip->number : i + 1);
+        const QString caption = QString("Clip %1").arg(history_.numberAt(i));
         slot.BT->setText("    " + caption);
         slot.BT->setEnabled(clip);
         slot.size->setText(clip ? sizeOfClip(clip->bits) : QString());
@@ -188,6 +188,7 @@ void fPaste::paste(int slot)
     const Clip* clip = history_.at(slot);
     if (!clip || clip->bits.isNull()) return;
     frame_.toolStores().paste = clip->bits;
+    emit chosen();
     frame_.Mmenu("PASTE");
 }
 

@@ -39,6 +39,10 @@ class fPaste final : public QWidget {
     void Update_V();
     bool isEmpty() const { return history_.clips().empty(); }
 
+  signals:
+    /// A clip of the list is what the next paste lays down.
+    void chosen();
+
   protected:
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

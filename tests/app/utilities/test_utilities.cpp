@@ -89,12 +89,47 @@ TEST_F(UtilitiesTest, TheListForgetsTheOldestAndAnySlotPastes)
     EXPECT_EQ(list->item(0)->text(), "Clip 3");
     EXPECT_EQ(box->findChild<QLabel*>("lblSize_8")->text(), "20 x 5");
     EXPECT_FALSE(box->findChild<QPushButton*>("BT_9")->isEnabled());
+    EXPECT_EQ(box->findChild<QPushButton*>("BT_9")->text(), "    Clip 12") << "no number twice";
     box->findChild<QPushButton*>("BT_0")->click();
     EXPECT_TRUE(frame->toolStores().pastePending);
     EXPECT_EQ(frame->toolStores().paste.width(), 12);
     EXPECT_EQ(setup.CurrentTool, "");
     box->findChild<QSlider*>("BrSelectionMovePressure")->setValue(40);
     EXPECT_EQ(setup.ClipOpacity, 40);
+}
+
+TEST_F(UtilitiesTest, WhatAnotherProgramCopiedSinceIsPastedAndBecomesAClip)
+{
+    fImage* image = open(flatBits(40, 30, 10, 10, 10));
+    const auto pasted = [&] { return frame->toolStores().paste.width(); };
+    select(image, 0, 0, 5, 5);
+    command("COPY");
+    const int own = pasted();
+    platform.recordingClipboard.others = 1;
+    platform.recordingClipboard.bits = {}; // a text
+    command("PASTE");
+    EXPECT_EQ(pasted(), own);
+
+    platform.recordingClipboard.others = 2;
+    platform.recordingClipboard.bits = flatBits(50, 20, 200, 100, 50);
+    command("PASTE"); // larger than the picture; cancelled
+    EXPECT_EQ(last(), "ask: Paste: What is pasted is larger than the picture.");
+    EXPECT_FALSE(frame->toolStores().pastePending);
+    EXPECT_EQ(frame->clips().box()->findChild<QListWidget*>("lstImages")->count(), 2);
+    platform.answers = {"&Keep its size"};
+    command("PASTE");
+    EXPECT_TRUE(frame->toolStores().pastePending);
+    EXPECT_EQ(image->PictureWidth(), 40);
+    platform.answers = {"&Enlarge the picture"};
+    command("PASTE");
+    ASSERT_TRUE(comes([&] { return frame->toolStores().pastePending && image->PictureWidth() == 50; }));
+    EXPECT_EQ(image->PictureHeight(), 30);
+    EXPECT_EQ(image->bits().at(39, 29).c[0], 10);
+    EXPECT_EQ(frame->clips().box()->findChild<QListWidget*>("lstImages")->count(), 2) << "taken in once";
+
+    platform.recordingClipboard.others = 3;
+    frame->clips().box()->findChild<QPushButton*>("BT_0")->click();
+    EXPECT_EQ(pasted(), own) << "the chosen one is newer";
 }
 
 TEST_F(UtilitiesTest, APendingPasteIsNoPartOfThePictureUntilItIsFixed)
@@ -141,6 +176,24 @@ TEST_F(UtilitiesTest, TheDesktopIsCapturedAfterItsWindowsHaveGone)
     waitForDocument()->parentWidget()->close();
     EXPECT_FALSE(shownAtTheGrab);
     EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(UtilitiesTest, ACaptureMayHaveThePointerInIt)
+{
+    showScreen();
+    ScreenPicture& screen = platform.screen().picture;
+    screen.pointer = {QImage(3, 3, QImage::Format_ARGB32_Premultiplied), {38, 28}}; // half beyond the edge
+    screen.pointer.image.fill(qRgba(250, 0, 0, 255));
+    for (const bool shown : {true, false}) {
+        frame->run("@CAPTURE");
+        control<QCheckBox>("fCapture", "chkPointer")->setChecked(shown);
+        control<QPushButton>("fCapture", "cmdCapture")->click();
+        fImage* image = waitForDocument();
+        EXPECT_EQ(image->bits().at(39, 29).c[2] == 250, shown);
+        EXPECT_NE(image->bits().at(37, 28).c[2], 250);
+        setup.AskToSave = false;
+        image->parentWidget()->close();
+    }
 }
 
 TEST_F(UtilitiesTest, TheFrameComesBackWhateverBecomesOfTheGrab)

@@ -5,6 +5,7 @@
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include "support/places.h"
+#include <QImageReader>
 
 namespace velara {
 
@@ -50,7 +51,7 @@ TEST_F(IconFile, ReadersGetBackEveryPixelAndTheMask)
     const QString name = path("a.ico");
     for (const QSize size : {QSize(1, 1), {3, 2}, {16, 16}, {31, 33}, {33, 7}, {64, 48}, {255, 5}, {256, 256}}) {
         const Bits picture = dotted(size.width(), size.height());
-        ASSERT_TRUE(writeIcon(iconOf(picture, size, kMask), name));
+        ASSERT_TRUE(writeIcon(iconBytes(iconOf(picture, size, kMask)), name));
         const LoadedPicture ours = loadThroughDecoder(name, "ico", builtPath("velara-decode"));
         const Bits wanted = drawnBits(size.width(), size.height(), [&](int x, int y) {
             const Pixel& p = picture.at(x, y);
@@ -76,18 +77,49 @@ TEST_F(IconFile, WhatIsMaskedGivesNoColourToItsNeighbours)
     EXPECT_NEAR(32 * 16 * 25 / 81, opaque, 16);
 }
 
+// Read by Qt's reader, which knows nothing of ours.
+TEST_F(IconFile, AllSizesStandTogetherWithSoftEdges)
+{
+    const Bits dot = drawnBits(200, 100, [](int x, int y) { // red on the mask's colour
+        return QPoint::dotProduct({x - 100, y - 50}, {x - 100, y - 50}) < 2000 ? Pixel{{0, 0, 255, 0}}
+                                                                               : Pixel{{100, 0, 200, 0}};
+    });
+    ASSERT_TRUE(writeIcon(iconSetBytes(dot, kMask), path("set.ico")));
+    QImageReader reader(path("set.ico"));
+    QList<int> sides;
+    for (int i = 0; i < reader.imageCount() && reader.jumpToImage(i); ++i) {
+        const QImage icon = reader.read().convertToFormat(QImage::Format_ARGB32);
+        sides << icon.width();
+        const int side = icon.width();
+        EXPECT_EQ(icon.pixel(side / 2, side / 2), qRgb(255, 0, 0)) << side;
+        EXPECT_EQ(qAlpha(icon.pixel(side / 2, 0)), 0) << "in its proportions: " << side;
+        int soft = 0;
+        for (int p = 0; p < side * side; ++p) {
+            const QRgb pixel = icon.pixel(p % side, p / side);
+            soft += qAlpha(pixel) > 0 && qAlpha(pixel) < 255;
+            EXPECT_TRUE(qAlpha(pixel) < 16 || (qRed(pixel) > 230 && qBlue(pixel) < 20)) << "the mask's colour shines";
+        }
+        EXPECT_GT(soft, 3) << side;
+    }
+    EXPECT_EQ(sides, (QList<int>{256, 128, 64, 48, 32, 24, 16}));
+    ASSERT_TRUE(reader.jumpToImage(0));
+    EXPECT_EQ(largestIconOf(dot, kMask).convertToFormat(QImage::Format_ARGB32_Premultiplied),
+              reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied));
+}
+
 TEST_F(IconFile, WhatIsNoIconIsNotMadeAndAFailedWriteLeavesTheOldOne)
 {
     const Bits picture = dotted(300, 4);
     for (const QSize size : {QSize(0, 0), {16, 0}, {-1, 16}, {257, 16}, {20000, 20000}})
         EXPECT_TRUE(iconOf(picture, size, {}).isNull()) << size.width();
     EXPECT_TRUE(iconOf({}, {16, 16}, {}).isNull());
-    EXPECT_FALSE(writeIcon({}, path("none.ico")));
+    EXPECT_FALSE(writeIcon(iconBytes({}), path("none.ico")));
+    EXPECT_FALSE(writeIcon(iconSetBytes({}, {}), path("none.ico")));
     const QString name = path("a.ico");
-    ASSERT_TRUE(writeIcon(iconOf(picture, {16, 16}, {}), name));
+    ASSERT_TRUE(writeIcon(iconBytes(iconOf(picture, {16, 16}, {})), name));
     {
         const FullDisk disk(500);
-        EXPECT_FALSE(writeIcon(iconOf(picture, {64, 64}, {}), name));
+        EXPECT_FALSE(writeIcon(iconBytes(iconOf(picture, {64, 64}, {})), name));
     }
     EXPECT_EQ(iconBytes(iconOf(picture, {16, 16}, {})), content("a.ico"));
     EXPECT_EQ(QStringList("a.ico"), files());

@@ -58,6 +58,10 @@ TEST_F(IconTest, TheChosenSizeOfThePictureIsShownAndSaved)
         click("CmdSave");
         EXPECT_EQ(iconBytes(iconOf(picture, size, {})), content("a.ico")) << option;
     }
+    click("oall");
+    frame.platform_.answers = {path("a.ico")};
+    click("CmdSave");
+    EXPECT_EQ(iconSetBytes(picture, {}), content("a.ico"));
     EXPECT_EQ("Save Icon as", frame.platform_.lastDialog.title);
     EXPECT_EQ("Icon File|*.ico", frame.platform_.lastDialog.filter);
     QFile::remove(path("a.ico"));
@@ -107,6 +111,11 @@ TEST_F(IconTest, TheMaskColourIsTransparentAndComesFromTheWellOrThePreview)
     EXPECT_TRUE(saved(colourOf(3, 2, 1)));
     QTest::mouseClick(find<fPicture>("Ipic"), Qt::LeftButton, {}, QPoint(252, 252)); // eight times as large
     EXPECT_TRUE(saved(colourOf(9, 8, 7)));
+    click("oall");
+    EXPECT_EQ(0u, qAlpha(iconOf(picture, {32, 32}, colourOf(9, 8, 7)).pixel(31, 31)));
+    frame.platform_.answers = {path("a.ico")};
+    click("CmdSave");
+    EXPECT_EQ(iconSetBytes(picture, colourOf(9, 8, 7)), content("a.ico"));
 }
 
 TEST_F(IconTest, TheCheckedCutOutsBecomeASeriesOfFiles)

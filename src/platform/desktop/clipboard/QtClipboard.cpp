@@ -73,6 +73,12 @@ QImage imageOfPicture(const Bits& bits)
 
 } // namespace
 
+QtClipboard::QtClipboard(Read read, Waiting waiting) : read_(std::move(read)), waiting_(std::move(waiting))
+{
+    QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &watch_,
+                     [this] { others_ += !QGuiApplication::clipboard()->ownsClipboard(); });
+}
+
 LoadedPicture QtClipboard::bitmap()
 {
     if (ours_ && QGuiApplication::clipboard()->mimeData() == ours_)

@@ -3,6 +3,7 @@
 #pragma once
 #include "seams/Clipboard.h"
 #include <QMimeData>
+#include <QObject>
 #include <QPointer>
 #include <functional>
 
@@ -17,9 +18,10 @@ class QtClipboard final : public Clipboard {
                                              const GoOn& goOn)>;
     /// Shown to the user while the picture arrives and is decoded; name is the picture's.
     using Waiting = std::function<GoOn(const QString& name)>;
-    QtClipboard(Read read, Waiting waiting) : read_(std::move(read)), waiting_(std::move(waiting)) {}
+    QtClipboard(Read read, Waiting waiting);
 
     LoadedPicture bitmap() override;
+    int changesByOthers() const override { return others_; }
     bool setBitmap(const Bits& bits) override;
     bool setPart(const Bits& part) override;
     void clear() override;
@@ -30,6 +32,8 @@ class QtClipboard final : public Clipboard {
 
     Read read_;
     Waiting waiting_;
+    QObject watch_; // of the desktop's clipboard
+    int others_ = 0;
     QPointer<QMimeData> ours_; // what this program last put there, while it is there
 };
 

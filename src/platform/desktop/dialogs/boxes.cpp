@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QPointer>
+#include <QPushButton>
 
 namespace velara {
 
@@ -27,18 +28,40 @@ QWidget* parentOfDialogs()
     return nullptr;
 }
 
-int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)
+namespace {
+
+/// On the heap and watched: its parent may be deleted while the box is open.
+QPointer<QMessageBox> makeBox(const QString& title, const QString& text, Icon icon,
+                              QMessageBox::StandardButtons buttons)
 {
     QStringList lines = text.split('\n');
     for (QString& line : lines) line = printable(line); // may contain file names
-    // On the heap and watched: its parent may be deleted while the box is open.
-    const QPointer<QMessageBox> box =
-        new QMessageBox(boxIcon(icon), title, lines.join('\n'), buttons, parentOfDialogs());
+    auto* box = new QMessageBox(boxIcon(icon), title, lines.join('\n'), buttons, parentOfDialogs());
     box->setObjectName("messageBox");
     box->setTextFormat(Qt::PlainText); // a path may contain anything
+    return box;
+}
+
+} // namespace
+
+int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons)
+{
+    const auto box = makeBox(title, text, icon, buttons);
     const int answer = box->exec();
     delete box;
     return answer;
+}
+
+int showChoices(const QString& title, const QString& text, const QStringList& choices)
+{
+    const auto box = makeBox(title, text, Icon::None, QMessageBox::Cancel);
+    QList<QAbstractButton*> buttons;
+    for (const QString& choice : choices) buttons << box->addButton(choice, QMessageBox::AcceptRole);
+    box->setDefaultButton(qobject_cast<QPushButton*>(buttons.value(0)));
+    box->exec();
+    const qsizetype chosen = box ? buttons.indexOf(box->clickedButton()) : -1;
+    delete box;
+    return static_cast<int>(chosen);
 }
 
 } // namespace velara

@@ -10,5 +10,7 @@ QWidget* parentOfDialogs();
 
 /// The button that ended the box.
 int showBox(const QString& title, const QString& text, Icon icon, QMessageBox::StandardButtons buttons);
+/// A box with a button for each choice, and Cancel. \returns the choice's index, -1: cancelled
+int showChoices(const QString& title, const QString& text, const QStringList& choices);
 
 } // namespace velara

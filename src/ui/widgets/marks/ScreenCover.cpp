@@ -15,13 +15,45 @@ namespace velara {
 
 namespace {
 
-constexpr int kLineWidth = 2;
+constexpr int kLineWidth = 2, kGrip = 9;
+constexpr QColor kShade(0, 0, 0, 110); // over what is outside
+constexpr std::array<ScreenCover::Sides, 8> kGripSides{ScreenCover::Left | ScreenCover::Top,     ScreenCover::Top,
+                                                       ScreenCover::Right | ScreenCover::Top,    ScreenCover::Right,
+                                                       ScreenCover::Right | ScreenCover::Bottom, ScreenCover::Bottom,
+                                                       ScreenCover::Left | ScreenCover::Bottom,  ScreenCover::Left};
+
+Qt::CursorShape shapeOf(ScreenCover::Sides sides)
+{
+    switch (sides) {
+    case ScreenCover::None:
+        return Qt::CrossCursor;
+    case ScreenCover::Inside:
+        return Qt::SizeAllCursor;
+    case ScreenCover::Left:
+    case ScreenCover::Right:
+        return Qt::SizeHorCursor;
+    case ScreenCover::Top:
+    case ScreenCover::Bottom:
+        return Qt::SizeVerCursor;
+    case ScreenCover::Left | ScreenCover::Top:
+    case ScreenCover::Right | ScreenCover::Bottom:
+        return Qt::SizeFDiagCursor;
+    default:
+        return Qt::SizeBDiagCursor;
+    }
+}
 
 /// A line of the rectangle: dashes of black and white, visible on everything.
 void paintLine(QPainter& painter, const QRect& rect)
 {
     painter.fillRect(rect, Qt::white);
     painter.fillRect(rect, QBrush(Qt::black, Qt::Dense4Pattern));
+}
+
+void paintGrip(QPainter& painter, const QRect& rect)
+{
+    painter.fillRect(rect, Qt::black);
+    painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
 }
 
 } // namespace
@@ -37,11 +69,14 @@ CoverWindow::CoverWindow(ScreenCover& cover, const ScreenPicture::Part& part)
     setCursor(Qt::CrossCursor);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    for (std::size_t i = 0; i < lines_.size(); ++i) {
-        lines_[i] = new Mark(paintLine, QString("Line%1").arg(i + 1), this);
-        lines_[i]->setAttribute(Qt::WA_TransparentForMouseEvents);
-        lines_[i]->hide();
-    }
+    const auto mark = [this](Mark::Paint paint, const char* name, std::size_t number) {
+        auto* made = new Mark(paint, QString(name + QString::number(number)), this);
+        made->setAttribute(Qt::WA_TransparentForMouseEvents);
+        made->hide();
+        return made;
+    };
+    for (std::size_t i = 0; i < lines_.size(); ++i) lines_[i] = mark(paintLine, "Line", i + 1);
+    for (std::size_t i = 0; i < grips_.size(); ++i) grips_[i] = mark(paintGrip, "Grip", i + 1);
     setGeometry(part.logical);
     create();
     for (QScreen* screen : QGuiApplication::screens())
@@ -68,6 +103,20 @@ void CoverWindow::showRectangle(const QRect& rectangle)
         lines_[i]->setGeometry(places[i]);
         lines_[i]->setVisible(!rectangle.isEmpty());
     }
+    for (std::size_t i = 0; i < grips_.size(); ++i) {
+        const auto across = [&](int low, int high, int from, int to) {
+            return kGripSides[i] & low ? from : kGripSides[i] & high ? to : (from + to) / 2;
+        };
+        grips_[i]->setGeometry(across(ScreenCover::Left, ScreenCover::Right, left, right) - kGrip / 2,
+                               across(ScreenCover::Top, ScreenCover::Bottom, top, bottom) - kGrip / 2, kGrip, kGrip);
+        grips_[i]->setVisible(cover_.hasGrips());
+    }
+    const QRect present = rectangle.isEmpty() ? QRect() : QRect(left, top, right - left, bottom - top);
+    if (cover_.dims() && present.isEmpty() != box_.isEmpty())
+        update();
+    else if (cover_.dims())
+        update(QRegion(present) ^ QRegion(box_));
+    box_ = present;
 }
 
 void CoverWindow::paintEvent(QPaintEvent* event)
@@ -76,6 +125,9 @@ void CoverWindow::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     painter.drawImage(QRectF(rect()), cover_.image(),
                       QRectF(part_.device)); // one device pixel for each of the picture's
+    if (!cover_.dims() || box_.isEmpty()) return;
+    painter.setClipRegion(event->region() - box_);
+    painter.fillRect(rect(), kShade);
 }
 
 void CoverWindow::mousePressEvent(QMouseEvent* event)
@@ -84,7 +136,11 @@ void CoverWindow::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::RightButton) cover_.leave();
 }
 
-void CoverWindow::mouseMoveEvent(QMouseEvent* event) { cover_.move(event->globalPosition()); }
+void CoverWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    cover_.move(event->globalPosition());
+    if (event->buttons() == Qt::NoButton) setCursor(shapeOf(cover_.hold(cover_.pixelAt(event->globalPosition()))));
+}
 
 void CoverWindow::mouseReleaseEvent(QMouseEvent* event)
 {

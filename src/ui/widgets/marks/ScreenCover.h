@@ -37,11 +37,17 @@ class CoverWindow final : public QWidget {
     ScreenCover& cover_;
     ScreenPicture::Part part_;
     std::array<QWidget*, 4> lines_; // left, top, right, bottom
+    std::array<QWidget*, 8> grips_; // as in kGripSides
+    QRect box_;                     // of the rectangle
 };
 
 class ScreenCover : public QObject {
     Q_OBJECT
   public:
+    /// Sides of the rectangle: one, or two that meet; or its inside.
+    enum Side { None = 0, Left = 1, Top = 2, Right = 4, Bottom = 8, Inside = 16 };
+    using Sides = int;
+
     /// The names of its windows.
     struct Names {
         QString object, title, accessible;
@@ -67,6 +73,8 @@ class ScreenCover : public QObject {
     /// A key that doesn't leave; false: not used.
     virtual bool key(const QKeyEvent&) { return false; }
     void leave();
+    /// The part of the rectangle at a pixel that the mouse takes hold of.
+    virtual Sides hold(QPoint) const { return None; }
 
   signals:
     void left();
@@ -75,11 +83,15 @@ class ScreenCover : public QObject {
     /// Adds other widgets to a new window, which owns them.
     virtual void furnish(CoverWindow&) {}
     virtual QRect rectangle() const = 0;
+    /// Whether what is outside of the rectangle is darker, and whether that has grips.
+    virtual bool dims() const { return false; }
+    virtual bool hasGrips() const { return false; }
     const std::vector<CoverWindow*>& windows() const { return windows_; }
     void showRectangle();
     void close();
 
   private:
+    friend class CoverWindow;
     const Names names_;
     ScreenPicture picture_;
     std::vector<CoverWindow*> windows_;

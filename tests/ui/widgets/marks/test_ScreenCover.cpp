@@ -2,6 +2,7 @@
 #include "support/pictures.h"
 #include "ui/utilities/fCaptureRectangle.h"
 #include <QApplication>
+#include <QKeyEvent>
 
 namespace velara {
 
@@ -40,6 +41,43 @@ TEST(ScreenCover, ADragCountsThePixelsOfTheScreensThatItIsOn)
     windows[1]->close(); // closing one closes both
     EXPECT_FALSE(windows[0]->isVisible());
     EXPECT_EQ(leaves, 1);
+}
+
+// Shift leaves the rectangle with grips, W places that of a window, Enter picks it, or everything.
+TEST(ScreenCover, ARectangleThatStaysIsPulledByItsGripsAndPickedByEnter)
+{
+    const QRect window(30, 20, 60, 50), hidden(0, 0, 100, 90);
+    const ScreenPicture picture{
+        randomBits(200, 150, 5), {{{0, 0, 200, 150}, {0, 0, 200, 150}}}, {window, hidden, {0, 0, 200, 150}}};
+    fCaptureRectangle picker(nullptr);
+    const auto press = [&](Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, {});
+        EXPECT_TRUE(picker.key(event));
+    };
+    const auto drag = [&](QPointF from, QPointF to) {
+        picker.press(from);
+        picker.move(to);
+        picker.release(to);
+    };
+    const std::tuple<QPointF, QPointF, QRect> pulls[] = {
+        {{30, 45}, {10, 99}, {10, 20, 80, 50}},     // the left side
+        {{90, 70}, {100, 80}, {30, 20, 70, 60}},    // the lower right corner
+        {{60, 40}, {500, 500}, {140, 100, 60, 50}}, // all of it, as far as the picture goes
+        {{60, 20}, {60, 140}, {30, 69, 60, 1}},     // the upper side, not past the lower one
+    };
+    for (const auto& [from, to, wanted] : pulls) {
+        picker.ShowPicture(picture);
+        picker.move({40, 30});
+        press(Qt::Key_W);
+        EXPECT_EQ(picker.rectangle(), window) << "the topmost one";
+        drag(from, to);
+        EXPECT_EQ(picker.rectangle(), wanted) << to.x();
+        press(Qt::Key_Return);
+        EXPECT_TRUE(sameBits(partOf(picture.bits, wanted), picker.picRectangle()));
+    }
+    picker.ShowPicture(picture);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(sameBits(partOf(picture.bits, {0, 0, 200, 150}), picker.picRectangle())) << "without one, all";
 }
 
 } // namespace velara
