@@ -2,6 +2,7 @@
 #include "fileio/fileBytes.h"
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
+#include "support/fullDisk.h"
 #include "support/seed.h"
 #include <random>
 
@@ -137,6 +138,17 @@ TEST_F(SetupStore, TheFileIsTheUsersAloneAndNoLink)
     ASSERT_TRUE(SaveSetup(platform, setup));
     EXPECT_EQ("victim", fileBytes(victim));
     EXPECT_EQ(bytesOf(setup), fileBytes(file));
+}
+
+TEST_F(SetupStore, NoHalfAFileStaysOnAFullDisk)
+{
+    const std::vector<std::uint8_t> bytes(5000, 1);
+    const QString path = platform.folder.filePath("work");
+    {
+        const FullDisk full(1000);
+        EXPECT_FALSE(overwriteFile(path, bytes));
+    }
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(SetupStore, TextsAreCutAtAWholeCharacter)
