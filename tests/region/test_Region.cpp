@@ -140,6 +140,7 @@ TEST(Region, ExtremeCoordinatesAreSafe)
 
 TEST(Region, HostileRectanglesGiveARegionOrNone)
 {
+    EXPECT_TRUE(Region::fromWords(Words{31, 1, 0, 0, 0, 0, 0, 0}).isNull());
     EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0, 0}).isEmpty());
     EXPECT_EQ(rectanglesOf(
                   Region::fromWords(wordsOf({kLeast, kLeast, kMost, kMost, 3, 3, 4, 4, kMost, kMost, kLeast, kLeast}))),
