@@ -1,7 +1,10 @@
-// The effects of the textures box compared with the operations that they call.
+// The presets and the effects of the textures box compared with what they stand for.
 #include "commands/effects.h"
+#include "commands/presets.h"
+#include "seams/findRow.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
+#include "support/sums.h"
 #include <set>
 
 namespace velara {
@@ -15,6 +18,13 @@ Bits effect(int index, int value, const Bits& bits, const Region& region)
     cBitFilter filter = filterOf(bits, region);
     ApplyTexture(filter, index, value, kColour);
     return filter.bits();
+}
+
+TEST(Presets, AndDialogsGiveWhatTheirDefinitionsGive) { expectCommittedSums(commandTrials()); }
+
+TEST(Presets, LumMinusIsBrighterThanLumPlus)
+{
+    EXPECT_EQ(80, std::get<int>(findRow(presets(), "LUMMINUS", &Preset::word)->arguments[0])) << "whatever its name";
 }
 
 TEST(EffectsTest, EachEqualsItsOperation)

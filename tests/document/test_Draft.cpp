@@ -43,6 +43,9 @@ TEST_F(DraftTest, TheDocumentIsUntouchedUntilTheResultIsTaken)
     EXPECT_FALSE(document.Zoomed);
     change.handTo(engine, false);
     EXPECT_TRUE(engine.bits().isNull()) << "it holds another document";
+    EXPECT_TRUE(document.wouldBeLost());
+    document.UndoBits(engine);
+    EXPECT_FALSE(document.wouldBeLost()) << "the first state is not a change";
 }
 
 TEST_F(DraftTest, WhatTheUserSelectsMeanwhileStaysUnlessTheJobTouchesTheSelection)

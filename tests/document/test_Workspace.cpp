@@ -1,29 +1,14 @@
 // What a workspace promises, whatever comes in whichever order: each document's changes are done in the order in which
 // they came, each on the result of the one before; a thread never sees a picture half written. Under make test-tsan
 // this is what holds the rules of pixels/Bits.h against the code.
-#include "document/Workspace.h"
-#include "seams/PictureReader.h"
+#include "support/RecordingFrame.h"
 #include "support/pictures.h"
 #include "support/seed.h"
 #include <QCoreApplication>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace velara {
 namespace {
-
-struct NoReader final : PictureReader {
-    LoadedPicture loadPicture(const QString&, const QString&, const GoOn&) override { return {}; }
-};
-
-void bringEvents()
-{
-    static int count = 1;
-    static char name[] = "test";
-    static char* words[] = {name, nullptr};
-    if (!QCoreApplication::instance()) new QCoreApplication(count, words); // to the end of the program
-}
 
 /// A document of one colour, and the colours of its series.
 struct Model {
@@ -63,12 +48,10 @@ void recolour(Bits& bits, int by)
 
 TEST(WorkspaceTest, WhateverComesTogetherEachDocumentHasItsOwnSteps)
 {
-    bringEvents();
-    const QTemporaryDir folder;
-    NoReader reader;
+    RecordingFrame frame;
+    Workspace& workspace = frame.workspace_;
     std::mt19937 random(seedOf(21));
     const auto below = [&](int most) { return int(random() % unsigned(most)); };
-    Workspace workspace(folder.path(), reader);
     std::vector<std::shared_ptr<Model>> models(3);
     int done = 0, cancelled = 0, steps = 0;
     for (int action = 0; action < 3000 && !testing::Test::HasFailure(); ++action) {

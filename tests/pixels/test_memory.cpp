@@ -46,34 +46,21 @@ TEST(MemoryBudget, HalfOfWhatIsFreeIsForAllBlocksOfACommandTogether)
 TEST(MemoryBudget, FreeIsWhatTheMachineHasAndTheTightestGroupLeaves)
 {
     const struct {
-        const char *what, *groups;
-        std::map<QString, QByteArray> files;
+        const char *what, *groups, *files; // "NAME=CONTENT;NAME=CONTENT..."
         std::int64_t wanted;
     } kCases[] = {
-        {"no groups", "", {}, 8192000},
-        {"no limit", "0::/a/b\n", {{"a/b/memory.max", "max\n"}, {"a/b/memory.current", "70\n"}}, 8192000},
-        {"a group's", "0::/a/b\n", {{"a/b/memory.max", "900\n"}, {"a/b/memory.current", "700\n"}}, 200},
-        {"less what is cached",
-         "0::/a\n",
-         {{"a/memory.max", "900\n"},
-          {"a/memory.current", "700\n"},
-          {"a/memory.stat", "anon 1\ninactive_file 50\nactive_file 7\n"}},
-         257},
-        {"one further up",
-         "0::/a/b\n",
-         {{"a/b/memory.max", "900"},
-          {"a/b/memory.current", "100"},
-          {"a/memory.max", "300"},
-          {"a/memory.current", "250"}},
-         50},
-        {"a container's", "0::/elsewhere\n", {{"memory.max", "400"}, {"memory.current", "500"}}, 0},
-        {"by kind",
-         "7:cpu,memory:/a\n0::/\n",
-         {{"memory/a/memory.limit_in_bytes", "600"},
-          {"memory/a/memory.usage_in_bytes", "500"},
-          {"memory/a/memory.stat", "inactive_file 9\ntotal_inactive_file 30\n"}},
+        {"no limit", "0::/a/b\n", "a/b/memory.max=max\n;a/b/memory.current=70\n", 8192000},
+        {"a group's", "0::/a/b\n", "a/b/memory.max=900\n;a/b/memory.current=700\n", 200},
+        {"less what is cached", "0::/a\n",
+         "a/memory.max=900\n;a/memory.current=700\n;a/memory.stat=anon 1\ninactive_file 50\nactive_file 7\n", 257},
+        {"one further up", "0::/a/b\n",
+         "a/b/memory.max=900;a/b/memory.current=100;a/memory.max=300;a/memory.current=250", 50},
+        {"a container's", "0::/elsewhere\n", "memory.max=400;memory.current=500", 0},
+        {"by kind", "7:cpu,memory:/a\n0::/\n",
+         "memory/a/memory.limit_in_bytes=600;memory/a/memory.usage_in_bytes=500;"
+         "memory/a/memory.stat=inactive_file 9\ntotal_inactive_file 30\n",
          130},
-        {"nonsense", "::\nx\n0::a\n", {}, 8192000},
+        {"nonsense", "::\nx\n0::a\n", "a/memory.max=9", 8192000},
     };
     for (const auto& c : kCases) {
         QTemporaryDir root;
@@ -83,7 +70,8 @@ TEST(MemoryBudget, FreeIsWhatTheMachineHasAndTheTightestGroupLeaves)
         };
         put("proc/meminfo", "MemTotal: 99999 kB\nMemFree:  11 kB\nMemAvailable:    8000 kB\n");
         put("proc/self/cgroup", c.groups);
-        for (const auto& [name, content] : c.files) put("sys/fs/cgroup/" + name, content);
+        for (const QByteArray& file : QByteArray(c.files).split(';'))
+            put("sys/fs/cgroup/" + file.split('=')[0], file.split('=')[1]);
         EXPECT_EQ(c.wanted, freeMemory(root.path().toStdString())) << c.what;
     }
     EXPECT_EQ(INT64_MAX, freeMemory("/nowhere"));

@@ -1,6 +1,7 @@
 // A private message bus, with mock services on it.
 #pragma once
 #include "support/places.h"
+#include "support/ui/controls.h"
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QtCore>
@@ -9,21 +10,12 @@
 
 namespace velara {
 
-/// Runs events until the condition holds; false after a time limit.
-inline bool waitUntil(const std::function<bool()>& so, int patience = 20000)
-{
-    QElapsedTimer timer;
-    for (timer.start(); !so(); QCoreApplication::processEvents(QEventLoop::AllEvents, 20))
-        if (timer.elapsed() > patience) return false;
-    return true;
-}
-
 /// The argument of ask's callback, once it is called; nothing, and a test failure, after a time limit.
 template <class Answer> Answer answerTo(const std::function<void(std::function<void(const Answer&)> done)>& ask)
 {
     const auto got = std::make_shared<std::optional<Answer>>(); // an answer may arrive after the wait
     ask([got](const Answer& answer) { *got = answer; });
-    EXPECT_TRUE(waitUntil([&] { return got->has_value(); }));
+    EXPECT_TRUE(comes([&] { return got->has_value(); }));
     return got->value_or(Answer());
 }
 
@@ -56,7 +48,7 @@ class PrivateBus {
         service_.start("/usr/bin/python3",
                        {"-m", "dbusmock", "--template", testsPath("platform/") + script, "--parameters",
                         QString::fromUtf8(QJsonDocument(parameters).toJson(QJsonDocument::Compact))});
-        return waitUntil([&] { return connection().interface()->isServiceRegistered(name).value(); });
+        return comes([&] { return connection().interface()->isServiceRegistered(name).value(); });
     }
 
   private:

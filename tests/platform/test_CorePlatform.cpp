@@ -1,7 +1,5 @@
 #include "platform/WindowlessPlatform.h"
 #include "support/RecordingPlatform.h"
-#include "support/files.h"
-#include "support/pictures.h"
 #include "support/places.h"
 #include <QtCore>
 #include <thread>
@@ -83,14 +81,6 @@ TEST(CorePlatform, ClockAndChance)
     }
     EXPECT_NEAR(sum / 10000, 0.5, 0.03);
     EXPECT_NE(machine.random(), HomePlatform().random());
-}
-
-TEST(CorePlatform, LoadsThroughTheHelperBesideTheProgram)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("a.ppm");
-    putFile(path, "P6\n1 1\n255\n\1\2\3");
-    EXPECT_TRUE(sameBits(flatBits(1, 1, 3, 2, 1), HomePlatform().loadPicture(path, "PPM").bits));
 }
 
 } // namespace velara

@@ -37,7 +37,7 @@ class PrintServer {
     }
     bool runs()
     {
-        return waitUntil([this] { return QFile::exists(path() + "/run/sock"); });
+        return comes([this] { return QFile::exists(path() + "/run/sock"); });
     }
     void kill()
     {
@@ -208,7 +208,7 @@ TEST_F(CupsPrintersTest, AServerGetsThePageWithItsOptions)
     EXPECT_EQ(toPrinter("Lab", wanted), "");
     expectNear(inked(rendered(put("spooled.pdf", server.spooled("d00001-001")))), wanted.place);
     QByteArray job; // written when the server gets round to it
-    EXPECT_TRUE(waitUntil([&] { return (job = server.spooled("c00001")).contains("a picture"); }));
+    EXPECT_TRUE(comes([&] { return (job = server.spooled("c00001")).contains("a picture"); }));
     EXPECT_TRUE(job.contains(QByteArray("copies\0\4\0\0\0\3", 12)));
     EXPECT_TRUE(job.contains(QByteArray("print-quality\0\4\0\0\0\5", 19)));
 
@@ -233,7 +233,7 @@ TEST_F(CupsPrintersTest, ADrippingServerCostsTenSecondsInAllAndNeverTheWindow)
         printers.printToFile(path("out.pdf"), page(PageOrientation::Portrait, true),
                              [&](const QString&) { inFile = timer.elapsed(); })};
     qint64 last = 0, longest = 0;
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(comes([&] {
         longest = std::max(longest, timer.elapsed() - std::exchange(last, timer.elapsed()));
         return listed && known;
     }));

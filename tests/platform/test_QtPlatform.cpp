@@ -46,7 +46,7 @@ TEST(NameFilters, BecomeWhatTheDialogTakes)
     EXPECT_EQ(suffixFor(filter, "Any", "png"), "");
 }
 
-TEST_F(QtPlatformTest, ADialogAfterAnotherOneStandsOverTheFrame)
+TEST_F(QtPlatformTest, AMessageStandsAsItIsGivenOverTheFrameAlsoAfterAnotherDialog)
 {
     QMainWindow frame;
     frame.setAttribute(Qt::WA_ShowWithoutActivating);
@@ -54,14 +54,6 @@ TEST_F(QtPlatformTest, ADialogAfterAnotherOneStandsOverTheFrame)
     ASSERT_EQ(QApplication::activeWindow(), nullptr) << "as between two dialogs";
     whenShown<QMessageBox>([&](QMessageBox& box) {
         EXPECT_EQ(box.parentWidget(), &frame);
-        box.accept();
-    });
-    platform.message("Crop", "Nothing selected", Icon::Information);
-}
-
-TEST_F(QtPlatformTest, MessagesStandAsTheyAreGiven)
-{
-    whenShown<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Crop");
         EXPECT_EQ(box.text(), "<b>Nothing</b> selected\nin a\\x2066b");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);

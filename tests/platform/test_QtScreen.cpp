@@ -41,7 +41,7 @@ TEST(QtScreen, ThePortalsPictureComesAndItsFileGoes)
     std::optional<ScreenPicture> got;
     screen.grab([&](const ScreenPicture& picture) { got = picture; });
     EXPECT_FALSE(got) << "nothing may wait for the portal";
-    ASSERT_TRUE(waitUntil([&] { return got.has_value(); }));
+    ASSERT_TRUE(comes([&] { return got.has_value(); }));
     ASSERT_EQ(got->bits.width(), 40);
     EXPECT_EQ(got->bits.at(7, 5).c[2], 200);
     ASSERT_EQ(got->parts.size(), 1u); // the one screen is the whole picture
@@ -88,9 +88,9 @@ TEST(QtScreen, APortalThatNeverAnswersIsTakenBackItsQuestion)
     QtScreen screen(platform, portal.bus.connection());
     bool answered = false;
     screen.grab([&](const ScreenPicture&) { answered = true; });
-    ASSERT_TRUE(waitUntil([&] { return portal.calls() == "Screenshot\n"; }));
+    ASSERT_TRUE(comes([&] { return portal.calls() == "Screenshot\n"; }));
     screen.cancel();
-    EXPECT_TRUE(waitUntil([&] { return portal.calls() == "Screenshot\nClose\n"; }));
+    EXPECT_TRUE(comes([&] { return portal.calls() == "Screenshot\nClose\n"; }));
     EXPECT_FALSE(answered);
 }
 
@@ -107,12 +107,12 @@ TEST(QtScreen, TheFileOfAGrabThatIsGivenUpIsNotTheAnswerToTheNext)
     };
     bool first = false;
     screen.grab([&](const ScreenPicture&) { first = true; });
-    ASSERT_TRUE(waitUntil([&] { return reads.tryAcquire(); }));
+    ASSERT_TRUE(comes([&] { return reads.tryAcquire(); }));
     qunsetenv("XDG_SESSION_TYPE"); // the next one is X's, of another size
     std::optional<ScreenPicture> second;
     screen.grab([&](const ScreenPicture& picture) { second = picture; });
     goesOn.release();
-    ASSERT_TRUE(waitUntil([&] { return second.has_value(); }));
+    ASSERT_TRUE(comes([&] { return second.has_value(); }));
     EXPECT_NE(second->bits.width(), 40);
     EXPECT_FALSE(first);
     EXPECT_FALSE(QFile::exists(portal.shot));

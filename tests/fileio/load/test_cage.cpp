@@ -144,13 +144,4 @@ TEST(CageOfTheReader, ReadsNothingWhenALayerStaysOpen)
         });
 }
 
-// The name of the option is an extension when a picture is to be read.
-TEST(CageOfTheReader, AFileCalledLikeTheOption)
-{
-    const QTemporaryDir folder;
-    putFile(folder.filePath("x.--cage"), "text");
-    EXPECT_EQ(loadThroughDecoder(folder.filePath("x.--cage"), "--cage", builtPath("velara-decode")).reason,
-              "x.--cage can't be read: there is no reader for .--cage files");
-}
-
 } // namespace velara

@@ -1,15 +1,10 @@
 // Pictures scaled down while they are read.
-#include "fileio/load/PictureLoader.h"
 #include "fileio/load/Shrinker.h"
-#include "support/files.h"
 #include "support/pictures.h"
-#include "support/places.h"
 
 namespace velara {
 
 namespace {
-
-using LoadSmall = FolderTest;
 
 QImage shrunk(const Bits& bits, QSize box)
 {
@@ -46,23 +41,6 @@ TEST(Shrinker, EachPixelIsTheMeanOfItsBlock)
     const Pixel& last = bits.at(5, 3);
     EXPECT_EQ(shrunk(bits, {9, 9}).pixel(5, 3), qRgb(last.c[2], last.c[1], last.c[0])) << "it fits as it is";
     EXPECT_EQ(shrunk(flatBits(65, 33, 255, 255, 255), {8, 8}).pixel(7, 3), 0xFFFFFFFFu);
-}
-
-TEST_F(LoadSmall, TellsTheSizeAndTheReason)
-{
-    const QString decoder = builtPath("velara-decode");
-    const QString wide = put("wide.ppm", "P6\n600 300\n255\n" + QByteArray(600 * 300 * 3, '\x80'));
-    const SmallPicture small = loadSmall(wide, "PPM", decoder, {100, 100});
-    EXPECT_EQ(small.size, QSize(600, 300));
-    ASSERT_EQ(small.image.size(), QSize(100, 50)) << small.reason.toStdString();
-    EXPECT_EQ(small.image.pixel(99, 49), 0xFF808080u);
-    EXPECT_EQ(small.origin.modified, 0);
-    EXPECT_EQ(loadSmall(wide, "png", decoder, {100, 100}).reason,
-              "wide.ppm can't be read: it is damaged or not a PNG picture");
-    EXPECT_EQ(loadSmall(path("no.png"), "png", decoder, {9, 9}).reason, "no.png can't be read: there is no such file");
-    const SmallPicture left = loadSmall(wide, "ppm", decoder, {9, 9}, {}, [](auto) { return false; });
-    EXPECT_TRUE(left.image.isNull());
-    EXPECT_EQ(left.reason, "wide.ppm can't be read: reading it was given up");
 }
 
 } // namespace velara

@@ -107,24 +107,29 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     expectOutline(false);
 }
 
-TEST_F(Mouse, TheHandScrollsAndPaintsNothing)
+TEST_F(Mouse, TheHandAndTheMiddleButtonScrollAndPaintNothing)
 {
     const Bits bits = randomBits(300, 200, 1);
     fImage& w = open(bits, 120, 100);
     choose("Pencil");
-    w.setMouseScroll(true);
-    EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
-    w.Scroll(50, 40);
-    press({60, 50});
-    EXPECT_EQ(iDst()->cursor().shape(), Qt::ClosedHandCursor);
-    drag({50, 53});
-    EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
-    drag({500, 500});
-    EXPECT_EQ(w.GetSBV(), QPoint(0, 0)) << "no further than the edge";
-    release({500, 500});
-    EXPECT_EQ(iDst()->cursor().shape(), Qt::OpenHandCursor);
-    EXPECT_TRUE(w.bits() == bits);
-    EXPECT_EQ(frame.snapshots, 0);
+    for (const auto button : {Qt::MiddleButton, Qt::LeftButton}) { // the left one by the hand
+        const bool hand = button == Qt::LeftButton;
+        w.setMouseScroll(hand);
+        EXPECT_EQ(iDst()->cursor().shape() == Qt::OpenHandCursor, hand);
+        const auto pan = [&](QPoint to) { send(QEvent::MouseMove, to, Qt::NoButton, button); };
+        w.Scroll(50, 40);
+        press({60, 50}, button);
+        EXPECT_EQ(iDst()->cursor().shape(), Qt::ClosedHandCursor);
+        pan({50, 53});
+        EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
+        pan({500, 500});
+        EXPECT_EQ(w.GetSBV(), QPoint(0, 0)) << "no further than the edge";
+        release({500, 500}, button);
+        EXPECT_EQ(iDst()->cursor().shape() == Qt::OpenHandCursor, hand);
+        EXPECT_NE(iDst()->cursor().shape(), Qt::ClosedHandCursor);
+        EXPECT_TRUE(w.bits() == bits);
+        EXPECT_EQ(frame.snapshots, 0);
+    }
     w.resize(400, 300); // now all of it is visible: nothing to scroll, the tool works
     press({5, 5});
     release({5, 5});
@@ -180,23 +185,14 @@ TEST_F(Mouse, AHalfMadePolygonKeepsItsPlaceInThePicture)
     EXPECT_TRUE(w.document().Region.Region().contains(18, 10));
 }
 
-TEST_F(Mouse, TheMiddleButtonMovesThePictureWithAnyTool)
+TEST_F(Mouse, WithinAStrokeTheMiddleButtonIsIgnored)
 {
-    const Bits bits = randomBits(300, 200, 1);
-    fImage& w = open(bits, 120, 100);
+    fImage& w = open(randomBits(300, 200, 1), 120, 100);
     choose("Pencil");
-    w.Scroll(50, 40);
-    const auto pan = [&](QPoint to) { send(QEvent::MouseMove, to, Qt::NoButton, Qt::MiddleButton); };
+    w.Scroll(60, 37);
+    press({5, 5});
     press({60, 50}, Qt::MiddleButton);
-    EXPECT_EQ(iDst()->cursor().shape(), Qt::ClosedHandCursor);
-    pan({50, 53});
-    EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
-    release({50, 53}, Qt::MiddleButton);
-    EXPECT_NE(iDst()->cursor().shape(), Qt::ClosedHandCursor);
-    EXPECT_TRUE(w.bits() == bits);
-    press({5, 5}); // within a stroke it is ignored
-    press({60, 50}, Qt::MiddleButton);
-    pan({20, 20});
+    send(QEvent::MouseMove, {20, 20}, Qt::NoButton, Qt::MiddleButton);
     EXPECT_EQ(w.GetSBV(), QPoint(60, 37));
     release({20, 20}, Qt::MiddleButton);
     release({6, 6});

@@ -40,14 +40,6 @@ TEST(ViewLayout, Table)
     EXPECT_EQ(both.shp, (Rect{180, 80, 200, 100}));
 }
 
-TEST(ViewLayout, ZoomedSidesAreBounded)
-{
-    EXPECT_FALSE(zoomFits(2185, 1, 15)); // 32775
-    EXPECT_FALSE(zoomFits(1, 2185, 15));
-    EXPECT_TRUE(zoomFits(2184, 2184, 15));
-    EXPECT_TRUE(zoomFits(32767, 1, 1));
-}
-
 TEST(ViewLayout, ScrollPlaceIsKeptRelatively)
 {
     EXPECT_EQ(restoredValue(300, true, 50, 100), 150);
