@@ -198,7 +198,15 @@ void fMain::toolClicked(const QString& key)
         setup_.CurrentTool = key;
         showChosenTool();
         releaseHand(); // choosing a tool ends hand scrolling
+        if (key == "Text" && toolStores_.text.isNull()) wantText();
     }
+}
+
+/// The text tool has nothing to place yet.
+void fMain::wantText()
+{
+    boxes_->bring(Boxes::Textures);
+    static_cast<fToolTextures*>(boxes_->box(Boxes::Textures))->beginText();
 }
 
 void fMain::releaseHand()

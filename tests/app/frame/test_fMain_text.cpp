@@ -43,6 +43,14 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
     EXPECT_TRUE(sameBits(twin.bits(), image->bits()));
 }
 
+TEST_F(FrameText, TheTextToolWithoutATextBringsTheBox)
+{
+    if (setup.TexturesBoxVisible) frame->action("VIEWS_5")->trigger();
+    frame->toolPane().button("Text")->click();
+    ASSERT_TRUE(find("fToolTextures")->isVisible());
+    EXPECT_EQ(find("txtText"), find("fToolTextures")->focusWidget());
+}
+
 TEST_F(FrameText, TheBoxIsShownAndHiddenByItsMenuItem)
 {
     QAction* item = frame->action("VIEWS_5");
