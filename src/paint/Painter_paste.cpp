@@ -2,6 +2,7 @@
 #include "paint/Painter.h"
 #include "pixels/numbers.h"
 #include "region/spanWalk.h"
+#include "seams/mask.h"
 
 namespace velara {
 
@@ -54,7 +55,6 @@ void Painter::BitsPaintPreMasked(int x, int y, const Bits& source, int opacity, 
 
 void Painter::BitsBWMask(int x, int y, const Bits& mask, Colour colour, int opacity)
 {
-    constexpr int kPaper = 190; // from this value on the source counts as paper: nothing is painted
     if (bits_.isNull() || mask.isNull()) return;
     const Bits held = mask;
     const double op = opacity / 100.0;
@@ -62,8 +62,8 @@ void Painter::BitsBWMask(int x, int y, const Bits& mask, Colour colour, int opac
     paste(x, y, held, working(), [&](const Pixel* from, Pixel* to, int count) {
         for (int i = 0; i < count; ++i) {
             const int m = from[i].c[0];
-            if (m >= kPaper) continue;
-            const double a = (1 - double(m) / kPaper) * op;
+            if (m >= kMaskPaper) continue;
+            const double a = (1 - double(m) / kMaskPaper) * op;
             for (int c = 0; c < 3; ++c) to[i].c[c] = toByte(to[i].c[c] * (1 - a) + components[c] * a);
         }
     });

@@ -40,6 +40,12 @@ struct RunSize {
     friend bool operator==(const RunSize&, const RunSize&) = default;
 };
 
+/// From left to right - 1.
+struct PixelSpan {
+    int left = 0, right = 0;
+    friend bool operator==(const PixelSpan&, const PixelSpan&) = default;
+};
+
 class Fonts {
   public:
     virtual ~Fonts() = default;
@@ -51,6 +57,12 @@ class Fonts {
     virtual RunSize measure(const QString& text, const TextStyle& style) = 0;
     /// The caret's position before this character of the run: pixels from the left edge of its line.
     virtual int caret(const TextRun& run, const TextStyle& style, int character) = 0;
+    /// The caret's place nearest to x pixels from that edge: before which character, 0 to the run's length.
+    virtual int characterAt(const TextRun& run, const TextStyle& style, int x) = 0;
+    /// The caret's next place to the right or left, as a reader sees it; the same one at the edge of the line.
+    virtual int beside(const TextRun& run, const TextStyle& style, int character, bool right) = 0;
+    /// Where the characters from..to-1 lie, as pixels from the line's left edge; several where directions mix.
+    virtual std::vector<PixelSpan> spans(const TextRun& run, const TextStyle& style, int from, int to) = 0;
     /// Blends the run over the target, clipped to it; (x, y) is the upper left corner of its line. Fourth bytes become
     /// 255 where it is drawn.
     virtual void draw(Bits& target, int x, int y, const TextRun& run, const TextStyle& style, Colour colour) = 0;

@@ -9,6 +9,20 @@ constexpr int kOverhang = 2; // slanted letters extend beyond their advance
 
 Rect pictureOf(const Bits& canvas) { return {0, 0, canvas.width(), canvas.height()}; }
 
+/// The bounds of the pixels that belong to the layer, where part is what was drawn of the picture.
+Rect covered(const Bits& drawn, const Rect& part)
+{
+    Rect all;
+    for (int y = 0; y < drawn.height(); ++y) {
+        const Pixel* row = drawn.row(y);
+        int left = 0, right = drawn.width();
+        while (left < right && row[left].c[3] == 0) ++left;
+        while (left < right && row[right - 1].c[3] == 0) --right;
+        if (left < right) all = all.united({part.left + left, part.top + y, part.left + right, part.top + y + 1});
+    }
+    return all;
+}
+
 } // namespace
 
 void Layers::setCanvas(const Bits& canvas)
@@ -22,7 +36,8 @@ int Layers::add(int left, int top, const TextStyle& style, Colour colour)
     const int index = next_++;
     Entry& entry = layers_[index];
     entry.layer = {{}, style, colour, {left, top, left + kWidth, top + kHeight}, true};
-    grow(entry);
+    breakText(entry);
+    print(entry);
     return index;
 }
 
@@ -96,7 +111,7 @@ void Layers::grow(Entry& entry)
     const auto lines = breakLines(layer.text, across, layer.style.size, measureIn(layer.style), down / lineHeight + 1);
     int width = 0;
     for (const TextLine& line : lines) width = std::max(width, line.width + kOverhang);
-    const int height = static_cast<int>(lines.size()) * lineHeight;
+    const int height = layer.text.isEmpty() ? 0 : static_cast<int>(lines.size()) * lineHeight;
     place.right = place.left + std::max(place.width(), std::min(width, across));
     place.bottom = place.top + std::max(place.height(), std::min(height, down));
     entry.lines = lines;
@@ -104,54 +119,62 @@ void Layers::grow(Entry& entry)
     print(entry);
 }
 
-Rect Layers::visible(int index) const { return layer(index).place.intersected(pictureOf(canvas_)); }
-
 void Layers::print(Entry& entry)
 {
-    const Layer& layer = entry.layer;
-    const Rect part = layer.place.intersected(pictureOf(canvas_));
-    if (part.isEmpty()) {
-        entry.surface = {};
-        return;
+    const Rect &place = entry.layer.place, outline = place.intersected(pictureOf(canvas_));
+    entry.visible = {};
+    entry.surface = {};
+    if (outline.isEmpty()) return;
+    // Accents and slanted letters extend beyond their line, by less than its height.
+    const int room = entry.lineHeight;
+    const Rect part = Rect{place.left - room, place.top - room, place.right + room, place.bottom + room}.intersected(
+        pictureOf(canvas_));
+    Bits drawn(part.width(), part.height());
+    for (int y = 0; y < part.height(); ++y) {
+        const Pixel* from = canvas_.row(part.top + y) + part.left;
+        for (int x = 0; x < part.width(); ++x) {
+            const bool within = outline.contains(part.left + x, part.top + y);
+            drawn.row(y)[x] = {{from[x].c[0], from[x].c[1], from[x].c[2], std::uint8_t(within ? 255 : 0)}};
+        }
     }
-    if (entry.surface.width() != part.width() || entry.surface.height() != part.height())
-        entry.surface = Bits(part.width(), part.height());
-    for (int y = 0; y < part.height(); ++y)
-        std::transform(canvas_.row(part.top + y) + part.left, canvas_.row(part.top + y) + part.right,
-                       entry.surface.row(y), [](Pixel p) {
-                           return Pixel{{p.c[0], p.c[1], p.c[2], 255}};
-                       });
     for (std::size_t i = 0; i < entry.lines.size(); ++i) {
-        const int top = layer.place.top - part.top + static_cast<int>(i) * entry.lineHeight;
-        if (top + entry.lineHeight <= 0 || top >= part.height()) continue;
-        const TextRun& run = entry.lines[i].run;
-        const int rest = layer.place.width() - entry.lines[i].width;
-        const int left = run.rightToLeft ? rest : 0; // each paragraph is aligned to its own side
-        fonts_.draw(entry.surface, layer.place.left - part.left + left, top, run, layer.style, layer.colour);
+        const int top = place.top + static_cast<int>(i) * entry.lineHeight;
+        if (top >= place.bottom) break;
+        fonts_.draw(drawn, place.left - part.left + leftOf(entry, entry.lines[i].run), top - part.top,
+                    entry.lines[i].run, entry.layer.style, entry.layer.colour);
+    }
+    entry.visible = covered(drawn, part).united(outline);
+    entry.surface = Bits(entry.visible.width(), entry.visible.height());
+    for (int y = 0; y < entry.surface.height(); ++y)
+        std::copy_n(drawn.row(entry.visible.top - part.top + y) + entry.visible.left - part.left, entry.surface.width(),
+                    entry.surface.row(y));
+}
+
+Layers::State Layers::state() const
+{
+    State state;
+    for (const auto& [index, entry] : layers_) state[index] = {entry.layer, entry.sized};
+    return state;
+}
+
+void Layers::restore(const State& state)
+{
+    std::erase_if(layers_, [&](const auto& each) { return !state.contains(each.first); });
+    for (const auto& [index, kept] : state) {
+        Entry& entry = layers_[index];
+        if (!entry.lines.empty() && kept == Kept{entry.layer, entry.sized}) continue;
+        entry.layer = kept.layer;
+        entry.sized = kept.sized;
+        breakText(entry);
+        print(entry);
     }
 }
 
-Rect Layers::caret(int index, qsizetype character) const
+/// Each paragraph is aligned to its own side.
+int Layers::leftOf(const Entry& entry, const TextRun& run) const
 {
-    const Entry& entry = layers_.at(index);
-    const Layer& layer = entry.layer;
-    const int right = layer.text.isRightToLeft() ? layer.place.width() - 1 : 0;
-    Rect at{layer.place.left + right, layer.place.top, layer.place.left + right + 1,
-            layer.place.top + entry.lineHeight};
-    for (std::size_t i = 0; i < entry.lines.size(); ++i) {
-        const TextLine& line = entry.lines[i];
-        if (line.start > character) break;
-        const qsizetype end = i + 1 < entry.lines.size() ? entry.lines[i + 1].start : layer.text.size();
-        TextRun run = line.run;
-        run.text = layer.text.mid(line.start, end - line.start); // with trailing blanks
-        while (run.text.endsWith(u'\n') || run.text.endsWith(u'\r')) run.text.chop(1);
-        const int width = fonts_.measure(run.text, layer.style).width;
-        const int left = run.rightToLeft ? layer.place.width() - width : 0;
-        const auto inRun = static_cast<int>(std::min(character - line.start, run.text.size()));
-        at.left = layer.place.left + left + fonts_.caret(run, layer.style, inRun);
-        at.top = layer.place.top + static_cast<int>(i) * entry.lineHeight;
-    }
-    return {at.left, at.top, at.left + 1, at.top + entry.lineHeight};
+    if (!run.rightToLeft) return 0;
+    return entry.layer.place.width() - (run.text.isEmpty() ? 1 : fonts_.measure(run.text, entry.layer.style).width);
 }
 
 Bits Layers::Blend() const
@@ -159,11 +182,11 @@ Bits Layers::Blend() const
     Bits out = canvas_;
     for (const auto& [index, entry] : layers_) {
         if (!entry.layer.shown || entry.surface.isNull()) continue;
-        const Rect part = visible(index);
-        for (int y = 0; y < part.height(); ++y) {
+        for (int y = 0; y < entry.surface.height(); ++y) {
             const Pixel* from = entry.surface.row(y);
-            Pixel* to = out.row(part.top + y) + part.left;
-            for (int x = 0; x < part.width(); ++x) std::copy_n(from[x].c, 3, to[x].c); // fourth bytes are kept
+            Pixel* to = out.row(entry.visible.top + y) + entry.visible.left;
+            for (int x = 0; x < entry.surface.width(); ++x)
+                if (from[x].c[3]) std::copy_n(from[x].c, 3, to[x].c); // the picture's fourth bytes are kept
         }
     }
     return out;

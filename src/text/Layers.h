@@ -13,6 +13,7 @@ struct Layer {
     Colour colour = 0;
     Rect place; // picture pixels; may extend beyond the picture
     bool shown = true;
+    friend bool operator==(const Layer&, const Layer&) = default;
 };
 
 class Layers {
@@ -45,11 +46,32 @@ class Layers {
     /// Sides below kLeastSide are enlarged to it.
     void setPlace(int index, const Rect& place);
 
-    /// What the layer shows (fourth bytes 255), and that part's rectangle in the picture; empty when it lies outside.
+    /// What the layer shows, and that part's rectangle in the picture; empty when its place lies outside. Fourth bytes
+    /// are 255 within its place and where ink extends beyond it, otherwise 0.
     const Bits& surface(int index) const { return layers_.at(index).surface; }
-    Rect visible(int index) const;
-    /// The caret before this character of the text: its rectangle in the picture.
+    Rect visible(int index) const { return layers_.at(index).visible; }
+
+    // Places in the text, as its lines show them. Characters count from 0 to the text's length.
+    /// The caret before this character: its rectangle in the picture.
     Rect caret(int index, qsizetype character) const;
+    /// The character before which a click on this pixel of the picture puts the caret.
+    qsizetype characterAt(int index, int x, int y) const;
+    /// The caret's next place to the right or left as a reader sees it; over the ends of lines, in reading order.
+    qsizetype beside(int index, qsizetype character, bool right) const;
+    /// First and last place of the caret on its line.
+    std::pair<qsizetype, qsizetype> lineOf(int index, qsizetype character) const;
+    /// The rectangles in the picture that mark the characters from..to-1.
+    std::vector<Rect> spans(int index, qsizetype from, qsizetype to) const;
+
+    /// All layers without their drawings, to come back to; indices stay.
+    struct Kept {
+        Layer layer;
+        bool sized = false;
+        friend bool operator==(const Kept&, const Kept&) = default;
+    };
+    using State = std::map<int, Kept>;
+    State state() const;
+    void restore(const State& state);
 
     /// The picture with all shown layers, later ones on top.
     Bits Blend() const;
@@ -58,6 +80,7 @@ class Layers {
     struct Entry {
         Layer layer;
         Bits surface;
+        Rect visible;                // the surface's
         std::vector<TextLine> lines; // wrapped to the layer's width
         int lineHeight = 0;
         bool sized = false; // the user has set the width: text wraps at it
@@ -66,6 +89,9 @@ class Layers {
     void grow(Entry& entry);
     void print(Entry& entry);
     MeasureRun measureIn(const TextStyle& style) const;
+    std::size_t lineAt(const Entry& entry, qsizetype character) const;
+    TextRun wholeRun(const Entry& entry, std::size_t line) const;
+    int leftOf(const Entry& entry, const TextRun& run) const;
 
     Fonts& fonts_;
     Bits canvas_;

@@ -1,5 +1,8 @@
 #include "text/mText.h"
 #include "pixels/numbers.h"
+#include "region/Region.h"
+#include "seams/mask.h"
+#include <QTextBoundaryFinder>
 #include <algorithm>
 
 namespace velara {
@@ -8,14 +11,71 @@ namespace {
 
 constexpr int kLongestRun = 4096; // characters; more never fit into a picture
 
-/// Where the part of the text beginning here may end: after its first hyphen or run of blanks.
-qsizetype breakAfter(const QString& text, qsizetype from)
+/// Scripts that are written without blanks and may be broken between any two letters.
+bool isIdeographic(char32_t c)
 {
-    qsizetype i = from;
-    while (i < text.size() && text[i] != u' ' && text[i] != u'-') ++i;
-    if (i < text.size() && text[i] == u'-') return i + 1;
-    while (i < text.size() && text[i] == u' ') ++i;
-    return i;
+    switch (QChar::script(c)) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Bopomofo:
+    case QChar::Script_Yi:
+        return true;
+    default: // their punctuation, and full-width forms
+        return (c >= 0x3000 && c < 0x3040) || (c >= 0xFF00 && c < 0xFFF0);
+    }
+}
+
+/// The character that holds this code unit.
+char32_t characterAt(const QString& text, qsizetype i)
+{
+    if (text[i].isLowSurrogate() && i > 0) --i;
+    const bool pair = text[i].isHighSurrogate() && i + 1 < text.size();
+    return pair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
+}
+
+/// Where lines may end: after a hyphen, after blanks, between ideographs, and at the end.
+std::vector<qsizetype> permittedEnds(const QString& text)
+{
+    std::vector<qsizetype> ends;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    const auto isPermitted = [&](qsizetype i) {
+        const QChar before = text[i - 1];
+        if (before == u'-') return true;
+        if (before == u' ') return text[i] != u' ';
+        if (text[i] == u' ' || !(isIdeographic(characterAt(text, i - 1)) || isIdeographic(characterAt(text, i))))
+            return false;
+        finder.setPosition(i);
+        return finder.isAtBoundary();
+    };
+    for (qsizetype i = 1; i < text.size(); ++i)
+        if (isPermitted(i)) ends.push_back(i);
+    if (!text.isEmpty()) ends.push_back(text.size());
+    return ends;
+}
+
+/// Where a word may end if it must: between the letters that a reader sees, at most kLongestRun of them.
+std::vector<qsizetype> letterEnds(const QString& text, qsizetype from, qsizetype to)
+{
+    std::vector<qsizetype> ends;
+    const QString word = text.mid(from, std::min<qsizetype>(to - from, kLongestRun));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, word);
+    for (qsizetype at = finder.toNextBoundary(); at >= 0; at = finder.toNextBoundary()) ends.push_back(from + at);
+    return ends;
+}
+
+/// The last index from `first` on that holds; at least the first one, which isn't asked. By galloping search (doubling,
+/// then halving): a long line is measured a few times and not at each word.
+template <class Holds> std::size_t lastThatHolds(std::size_t first, std::size_t count, Holds holds)
+{
+    std::size_t last = first, step = 1;
+    while (last + step < count && holds(last + step)) {
+        last += step;
+        step *= 2;
+    }
+    for (step /= 2; step > 0; step /= 2)
+        if (last + step < count && holds(last + step)) last += step;
+    return last;
 }
 
 QString withoutEnd(QString line)
@@ -30,9 +90,8 @@ class Paragraph {
   public:
     using Width = std::function<int(const QString&)>;
     Paragraph(const QString& text, qsizetype offset, int width, const Width& widthOf)
-        : text_(text), offset_(offset), width_(width), widthOf_(widthOf)
+        : text_(text), offset_(offset), width_(width), widthOf_(widthOf), ends_(permittedEnds(text))
     {
-        for (qsizetype at = 0; at < text.size();) ends_.push_back(at = breakAfter(text, at));
     }
 
     void addTo(std::vector<TextLine>& lines, int most) const
@@ -40,40 +99,45 @@ class Paragraph {
         std::size_t part = 0;
         qsizetype start = 0;
         do {
-            TextLine line;
-            line.run.rightToLeft = text_.isRightToLeft();
-            line.start = offset_ + start;
-            if (!ends_.empty()) {
-                part = lastOnLine(part, start);
-                line.run.text = lineTo(part, start);
-                line.width = widthOf_(line.run.text);
-                start = ends_[part++];
+            if (ends_.empty()) {
+                add(lines, 0, 0);
+            } else if (fits(start, ends_[part])) {
+                part = lastThatHolds(part, ends_.size(), [&](std::size_t i) { return fits(start, ends_[i]); });
+                add(lines, start, ends_[part]);
+            } else {
+                addWord(lines, start, ends_[part], most);
             }
-            lines.push_back(std::move(line));
+            if (!ends_.empty()) start = ends_[part++];
         } while (part < ends_.size() && int(lines.size()) < most);
     }
 
   private:
-    QString lineTo(std::size_t part, qsizetype start) const
+    QString lineTo(qsizetype start, qsizetype end) const { return withoutEnd(text_.mid(start, end - start)); }
+    bool fits(qsizetype start, qsizetype end) const
     {
-        return withoutEnd(text_.mid(start, ends_[part] - start));
+        return end - start <= kLongestRun && widthOf_(lineTo(start, end)) <= width_;
     }
-    bool fits(std::size_t part, qsizetype start) const
+    void add(std::vector<TextLine>& lines, qsizetype start, qsizetype end) const
     {
-        return ends_[part] - start <= kLongestRun && widthOf_(lineTo(part, start)) <= width_;
+        TextLine line;
+        line.run.rightToLeft = text_.isRightToLeft();
+        line.start = offset_ + start;
+        line.run.text = lineTo(start, end);
+        line.width = widthOf_(line.run.text);
+        lines.push_back(std::move(line));
     }
-    /// The last part that fits on the line from start; at least the first one. By galloping search (doubling, then
-    /// halving): a long line is measured a few times and not at each word.
-    std::size_t lastOnLine(std::size_t first, qsizetype start) const
+    void addWord(std::vector<TextLine>& lines, qsizetype start, qsizetype end, int most) const
     {
-        std::size_t last = first, step = 1;
-        while (last + step < ends_.size() && fits(last + step, start)) {
-            last += step;
-            step *= 2;
+        while (start < end && int(lines.size()) < most) {
+            const auto letters = letterEnds(text_, start, end);
+            const auto to =
+                fits(start, end)
+                    ? end
+                    : letters[lastThatHolds(0, letters.size(), [&](std::size_t i) { return fits(start, letters[i]); })];
+            add(lines, start, to);
+            start = to;
+            while (start < end && text_[start] == u' ') ++start; // the blanks after the word take no line
         }
-        for (step /= 2; step > 0; step /= 2)
-            if (last + step < ends_.size() && fits(last + step, start)) last += step;
-        return last;
     }
 
     const QString& text_;
@@ -90,18 +154,18 @@ class Search {
     {
     }
 
-    /// Finds the greatest size at which the text fits, by height alone or by both sides.
-    bool find(bool wordsToo)
+    /// Finds the greatest size at which the lines fit the height.
+    bool find()
     {
         const int wanted = std::clamp(box_.size, 1, kLargestText);
         int low = std::min(kSmallestText, wanted), high = wanted;
         // The requested size first: usually it fits.
-        if (tryOut(high, wordsToo)) return true;
+        if (tryOut(high)) return true;
         --high;
         bool found = false;
         while (low <= high) {
             const int middle = (low + high) / 2;
-            if (tryOut(middle, wordsToo)) {
+            if (tryOut(middle)) {
                 found = true;
                 low = middle + 1;
             } else {
@@ -114,7 +178,7 @@ class Search {
     TextLayout result;
 
   private:
-    bool tryOut(int size, bool wordsToo)
+    bool tryOut(int size)
     {
         ++result.trials;
         const int lineHeight = std::max(1, measure_(QStringLiteral(" "), size).height);
@@ -122,8 +186,6 @@ class Search {
         if (CountOf(QStringLiteral("\r\n"), box_.text) + 1 > room) return false;
         std::vector<TextLine> lines = breakLines(box_.text, width_, size, measure_, room + 1);
         if (int(lines.size()) > room) return false;
-        if (wordsToo && std::ranges::any_of(lines, [&](const TextLine& line) { return line.width > width_; }))
-            return false;
         for (std::size_t i = 0; i < lines.size(); ++i) lines[i].y = int(i) * lineHeight;
         result.size = size;
         result.lines = std::move(lines);
@@ -135,7 +197,7 @@ class Search {
     const MeasureRun& measure_;
 };
 
-/// rest: the unused width of the line; negative for a word that is too wide, whose beginning is shown.
+/// rest: the unused width of the line; negative for a letter wider than the box.
 void align(TextLine& line, int align, int rest, bool last)
 {
     if (rest < 0)
@@ -146,6 +208,28 @@ void align(TextLine& line, int align, int rest, bool last)
         line.x = rest;
     else if (align == FullJustify && !last && line.run.text.trimmed().contains(u' '))
         line.run.spread = rest;
+}
+
+constexpr Pixel kPaper{{255, 255, 255, 255}};
+
+Rect inkBounds(const Bits& drawing)
+{
+    const auto isInk = [](const Pixel& pixel) { return pixel.c[0] != kPaper.c[0]; };
+    Rect ink;
+    for (int y = 0; y < drawing.height(); ++y) {
+        const Pixel *row = drawing.row(y), *end = row + drawing.width(), *first = std::find_if(row, end, isInk);
+        if (first == end) continue;
+        while (!isInk(end[-1])) --end;
+        ink = ink.united({static_cast<int>(first - row), y, static_cast<int>(end - row), y + 1});
+    }
+    return ink;
+}
+
+Bits cropped(const Bits& drawing, const Rect& part)
+{
+    Bits cut(part.width(), part.height());
+    for (int y = 0; y < cut.height(); ++y) std::copy_n(drawing.row(part.top + y) + part.left, cut.width(), cut.row(y));
+    return cut;
 }
 
 } // namespace
@@ -174,7 +258,7 @@ std::optional<TextLayout> layOutText(const TextBox& box, const MeasureRun& measu
         layout.size = std::clamp(box.size, 1, kLargestText);
     } else {
         Search search(box, width, height, measure);
-        if (!search.find(true) && !search.find(false)) return std::nullopt;
+        if (!search.find()) return std::nullopt;
         layout = std::move(search.result);
     }
     for (TextLine& line : layout.lines) {
@@ -204,6 +288,32 @@ void drawText(Bits& target, const TextLayout& layout, TextStyle style, Fonts& fo
     };
     if (layout.shadowX || layout.shadowY) drawAll(layout.shadowX, layout.shadowY, shadow);
     drawAll(0, 0, face);
+}
+
+Bits drawOnPaper(const TextBox& box, TextLayout layout, const TextStyle& style, Fonts& fonts)
+{
+    constexpr Colour kFace = 0, kShadow = 0x7F7F7F;
+    TextStyle drawn = style;
+    drawn.size = layout.size;
+    // Accents, swashes and slanted letters stay within a line's height of their line.
+    const int room = fonts.measure(QStringLiteral(" "), drawn).height;
+    for (TextLine& line : layout.lines) {
+        line.x += room;
+        line.y += room;
+    }
+    Bits paper(box.width + 2 * room, box.height + 2 * room);
+    for (int y = 0; y < paper.height(); ++y) std::fill_n(paper.row(y), paper.width(), kPaper);
+    drawText(paper, layout, style, fonts, kFace, kShadow);
+    return cropped(paper, inkBounds(paper).united({room, room, room + box.width, room + box.height}));
+}
+
+Bits maskOf(const Bits& drawing)
+{
+    Bits mask = cropped(drawing, inkBounds(drawing));
+    for (int y = 0; y < mask.height(); ++y)
+        for (Pixel* p = mask.row(y); p != mask.row(y) + mask.width(); ++p)
+            for (int c = 0; c < 3; ++c) p->c[c] = toByte(p->c[c] * double(kMaskPaper) / 255);
+    return mask;
 }
 
 } // namespace velara

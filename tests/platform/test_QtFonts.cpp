@@ -1,7 +1,9 @@
 // The desktop's own fonts, whatever they are.
+#include "document/Document.h"
 #include "platform/desktop/QtFonts.h"
 #include "region/Region.h"
 #include "support/pictures.h"
+#include "text/Layers.h"
 #include <QtWidgets>
 
 namespace velara {
@@ -61,6 +63,48 @@ TEST_F(QtFontsTest, DrawsWithinWhatItMeasures)
     EXPECT_GT(fonts.measure("x", style).height, 0);
 }
 
+TEST_F(QtFontsTest, StampedTextIsAsDarkAsItsPictureAndWhole)
+{
+    for (const int size : {8, 12, 20, 40}) {
+        style.size = size;
+        style.italic = true;
+        const TextBox box{QString::fromUtf8("just \xE1\xBA\xA4\xE1\xBB\x86"), 500, 100, 0};
+        TextLayout layout{size, {{{box.text}}}};
+        const Bits drawing = drawOnPaper(box, layout, style, fonts);
+        Document stamped({}, 0);
+        stamped.takePicture(flatBits(500, 100, 255, 255, 255));
+        stamped.paint.BitsBWMask(20, 20, maskOf(drawing), 0, 100);
+        const auto ink = [](const Bits& bits) {
+            double sum = 0;
+            for (int y = 0; y < bits.height(); ++y)
+                for (int x = 0; x < bits.width(); ++x) sum += 255 - bits.at(x, y).c[0];
+            return sum;
+        };
+        Bits large = flatBits(800, 300, 255, 255, 255);
+        fonts.draw(large, 200, 100, {box.text}, style, 0);
+        EXPECT_EQ(ink(large), ink(drawing)) << size;
+        EXPECT_NEAR(1, ink(stamped.bits()) / ink(large), 0.01) << size;
+
+        Layers layers(fonts);
+        layers.setCanvas(flatBits(800, 300, 255, 255, 255));
+        layers.setText(layers.add(200, 100, style, 0), box.text);
+        EXPECT_EQ(ink(large), ink(layers.Blend())) << size;
+    }
+}
+
+TEST_F(QtFontsTest, ASlantedLineFallsBackToUprightBeforeItShowsBoxes)
+{
+    style.family = QStringLiteral("DejaVu Sans"); // its slanted face has no Arabic
+    style.italic = true;
+    TextStyle upright = style;
+    upright.italic = false;
+    const QString arabic = QString::fromUtf8("\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7");
+    if (drawn({arabic}, upright).isEmpty()) GTEST_SKIP() << "no such font";
+    EXPECT_EQ(fonts.measure(arabic, upright), fonts.measure(arabic, style));
+    EXPECT_EQ(drawn({arabic}, upright), drawn({arabic}, style));
+    EXPECT_FALSE(drawn({"hill"}, upright) == drawn({"hill"}, style)) << "where there is one, it is taken";
+}
+
 TEST_F(QtFontsTest, StylesShow)
 {
     const Rect plain = drawn({"mono line"}, style);
@@ -107,6 +151,15 @@ TEST_F(QtFontsTest, CaretGoesFromEdgeToEdge)
     EXPECT_LT(fonts.caret({"word"}, style, 1), fonts.caret({"word"}, style, 2));
     const TextRun hebrew{QString::fromUtf8("\xD7\x90\xD7\x91"), true};
     EXPECT_GT(fonts.caret(hebrew, style, 0), fonts.caret(hebrew, style, 2));
+    EXPECT_EQ(1, fonts.beside(hebrew, style, 0, false));
+    EXPECT_EQ(0, fonts.beside(hebrew, style, 0, true)) << "the edge";
+    for (const TextRun& run : {hebrew, TextRun{"word"}})
+        for (int i = 0; i <= int(run.text.size()); ++i)
+            EXPECT_EQ(i, fonts.characterAt(run, style, fonts.caret(run, style, i)));
+    const TextRun mixed{QString::fromUtf8("ab\xD7\x90\xD7\x91")}; // the second letter of each is marked
+    EXPECT_EQ(2u, fonts.spans(mixed, style, 1, 3).size());
+    EXPECT_EQ(1u, fonts.spans(mixed, style, 0, 4).size());
+    EXPECT_EQ(2, fonts.beside({QString::fromUtf8("a\xCC\x81")}, style, 0, true)) << "an accent is no place";
 }
 
 } // namespace

@@ -27,8 +27,9 @@ void RecordingFonts::draw(Bits& target, int x, int y, const TextRun& run, const 
             x += advance(style) + run.spread / blanks + (blank++ < run.spread % blanks);
             continue;
         }
-        for (int row = std::max(0, y + 1); row < std::min(target.height(), y + style.size + 1); ++row)
-            for (int column = std::max(0, x); column < std::min(target.width(), x + advance(style) - 1); ++column)
+        for (int row = std::max(0, y + 1 - overhang); row < std::min(target.height(), y + style.size + 1); ++row)
+            for (int column = std::max(0, x - overhang); column < std::min(target.width(), x + advance(style) - 1);
+                 ++column)
                 target.at(column, row) = ink;
         x += advance(style);
     }

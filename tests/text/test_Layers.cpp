@@ -107,6 +107,24 @@ TEST_F(LayersTest, LaterOnesShowThePictureAndNotTheOnesBelow)
     EXPECT_TRUE(sameBits(picture, layers.Blend()));
 }
 
+TEST_F(LayersTest, InkBeyondThePlaceIsShownAndMerged)
+{
+    const int lower = add(10, 10, "aaaaaaaaaaaa");
+    fonts.overhang = 3;
+    const int upper = add(30, 24, "b");
+    Bits wanted = picture;
+    fonts.overhang = 0;
+    wanted = printed(wanted, 10, 10, "aaaaaaaaaaaa");
+    for (int y = 24; y < 44; ++y)
+        for (int x = 30; x < 163; ++x) wanted.at(x, y) = picture.at(x, y);
+    fonts.overhang = 3;
+    EXPECT_TRUE(sameBits(printed(wanted, 30, 24, "b"), layers.Blend()));
+    EXPECT_EQ((Rect{30, 24, 163, 44}), layers.layer(upper).place) << "the outline stays";
+    EXPECT_EQ((Rect{27, 22, 163, 44}), layers.visible(upper));
+    layers.setShown(lower, false);
+    EXPECT_TRUE(sameBits(printed(picture, 30, 24, "b"), layers.Blend()));
+}
+
 TEST_F(LayersTest, AnotherPictureBelowIsTaken)
 {
     add(10, 10, "abc");
@@ -120,7 +138,17 @@ TEST_F(LayersTest, TheCaretFollowsTheText)
     const int index = add(10, 10, "ab  \r\ncd ");
     constexpr int kCases[][3] = {{0, 10, 10}, {2, 20, 10}, {4, 30, 10}, {6, 10, 22}, {9, 25, 22}};
     for (const auto& [character, x, y] : kCases)
-        EXPECT_EQ((Rect{x, y, x + 1, y + 12}), layers.caret(index, character)) << character;
+        EXPECT_TRUE(layers.caret(index, character) == (Rect{x, y, x + 1, y + 12}) &&
+                    layers.characterAt(index, x + 1, y + 5) == character)
+            << character;
+    EXPECT_EQ((std::vector<Rect>{{20, 10, 30, 22}, {10, 22, 15, 34}}), layers.spans(index, 2, 7));
+    EXPECT_EQ(std::pair(qsizetype{0}, qsizetype{4}), layers.lineOf(index, 1));
+    EXPECT_EQ(6, layers.beside(index, 4, true)) << "over the line break";
+    EXPECT_EQ(4, layers.beside(index, 6, false));
+    layers.setPlace(index, {10, 10, 22, 50}); // wrapped after "ab  "
+    layers.setText(index, "ab  cd");
+    EXPECT_EQ(3, layers.characterAt(index, 90, 15)) << "the end of the line that was clicked";
+    EXPECT_EQ(std::pair(qsizetype{4}, qsizetype{6}), layers.lineOf(index, 4));
     EXPECT_EQ((Rect{50, 60, 51, 72}), layers.caret(layers.add(50, 60, style, kInk), 0));
 }
 

@@ -51,10 +51,19 @@ TEST_F(TextTest, LinesBreakAndAreAligned)
         {"a b\r\nc d", 38, FullJustify, "4,4+15:a b | 4,16:c d"}, // every line but the last
         {"abc\r\nc", 38, FullJustify, "4,4:abc | 4,16:c"},        // without a gap
         {"ab\nc", 100, LeftJustify, "4,4:ab\nc"},                 // only the pair forces a line break
+        {"a abcdefgh b", 28, LeftJustify, "4,4:a | 4,16:abcd | 4,28:efgh | 4,40:b"}, // a long word on lines of its own
+        {"abcdx\xCC\x81y", 33, LeftJustify, "4,4:abcd | 4,16:x\xCC\x81y"},           // letters stay whole
+        {"日本語です。よ", 33, LeftJustify, "4,4:日本語で | 4,16:す。よ"},           // the full stop begins no line
+        {"ab日本語", 23, LeftJustify, "4,4:ab日 | 4,16:本語"},
         {"\xD7\x90\xD7\x91 \xD7\x92", 23, LeftJustify, "4,4:\xD7\x90\xD7\x91 | 4,16:\xD7\x92"},
     };
     for (const auto& [text, width, alignment, wanted] : cases)
         EXPECT_EQ(wanted, lines({QString::fromUtf8(text), width, 60, 4, alignment})) << text << " " << alignment;
+    fonts.overhang = 6; // past the margin of 4: the picture grows, the lines stay
+    const TextBox box{"a", 30, 20};
+    const Bits drawing = drawOnPaper(box, *layOut(box), style, fonts);
+    EXPECT_TRUE(drawing.width() == 32 && drawing.height() == 21) << drawing.height();
+    EXPECT_EQ(0, drawing.at(0, 0).c[0]);
     const auto hebrew = layOut({QString::fromUtf8("\xD7\x90 a"), 100, 60});
     EXPECT_TRUE(hebrew->lines[0].run.rightToLeft);
 }
@@ -69,10 +78,10 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
         {kPangram, 20, 20, 20, 0},            // not even at the smallest
         {"a\r\nb\r\nc\r\nd", 100, 40, 20, 6}, // four lines of 8 in 32
         {"a\r\nb\r\nc\r\nd\r\ne", 100, 40, 20, 0},
-        {"wide-words fit", 48, 100, 20, 17}, // five times 8
-        {"unbreakable", 28, 100, 20, 20},    // it fits at no size: it keeps the requested one on a line of its own
-        {"a unbreakable", 28, 100, 20, 20},
-        {"a", 100, 100, 1, 1}, // requested, however small
+        {"wide-words fit", 48, 100, 20, 17}, // three lines of 19; at 18 five of 20 exceed 92
+        {"unbreakable", 28, 100, 20, 13},    // three letters a line; at 14 six lines of 16 exceed 92
+        {"unbreakable", 28, 150, 20, 20},    // the height alone decides
+        {"a", 100, 100, 1, 1},               // requested, however small
         {"a", 100, 100, 0, 1},
         {"", 100, 100, 20, 20},
         {"", 8, 100, 20, 0}, // nothing is left between the margins
@@ -83,9 +92,8 @@ TEST_F(TextTest, SizeIsTheOneWantedOrTheGreatestThatFits)
     for (const auto& [text, width, height, wanted, got] : cases) {
         const auto layout = layOut({text, width, height, 4, LeftJustify, kNoShadow, wanted});
         EXPECT_EQ(got, layout ? layout->size : 0) << text << " " << wanted;
-        EXPECT_LE(layout ? layout->trials : 0, 20) << text;
+        EXPECT_LE(layout ? layout->trials : 0, 8) << text;
     }
-    EXPECT_EQ("14,4:a | 4,26:unbreakable", lines({"a unbreakable", 28, 100, 4, RightJustify, kNoShadow, 20}));
 }
 
 TEST_F(TextTest, LongTextsEndSoon)
@@ -94,7 +102,7 @@ TEST_F(TextTest, LongTextsEndSoon)
                                 QStringLiteral("\r\n")}) {
         fonts.measures = 0;
         const auto layout = layOut({part.repeated(100000), 300, 160, 4, FullJustify, kNoShadow, 20});
-        EXPECT_EQ(part == u"a" || part == u" ", layout.has_value()) << part.toStdString();
+        EXPECT_EQ(part == u" ", layout.has_value()) << part.toStdString();
         EXPECT_LT(fonts.measures, 20000) << part.toStdString();
     }
 }
@@ -125,6 +133,21 @@ TEST_F(TextTest, DrawsTheFaceOverItsShadow)
         block(x + 1, y + 1, shadow); // the right one ends at 27
     for (const auto& [x, y] : {std::pair{2, 3}, {25, 3}, {2, 11}}) block(x, y, face);
     EXPECT_TRUE(sameBits(wanted, got));
+}
+
+TEST_F(TextTest, MasksPassTheCoverageOfTheirDrawing)
+{
+    Bits drawing = flatBits(9, 7, 255, 255, 255);
+    drawing.at(3, 2).c[0] = 0;
+    drawing.at(5, 4).c[0] = 127;
+    drawing.at(4, 3).c[0] = 254;
+    const Bits mask = maskOf(drawing);
+    ASSERT_TRUE(mask.width() == 3 && mask.height() == 3);
+    EXPECT_EQ(0, mask.at(0, 0).c[0]);
+    EXPECT_EQ(95, mask.at(2, 2).c[0]); // half of 190
+    EXPECT_EQ(189, mask.at(1, 1).c[0]) << "the palest ink is some";
+    EXPECT_EQ(190, mask.at(2, 0).c[0]) << "paper";
+    EXPECT_TRUE(maskOf(flatBits(9, 7, 255, 255, 255)).isNull());
 }
 
 TEST(CountOfTest, CountsOverlappingHits)

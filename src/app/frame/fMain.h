@@ -84,6 +84,8 @@ class fMain final : public QMainWindow, public Frame {
     void initToolPanes();
     /// A button of the tool strip, by its name, or a tool's key.
     void toolClicked(const QString& key);
+    bool placesNoText() const;
+    void wantText();
     /// No tool is chosen any more, and the hand is put away.
     void takeNoTool();
     fToolPane& toolPane() { return *toolPane_; }

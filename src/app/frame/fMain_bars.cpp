@@ -111,6 +111,9 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
         if (type == QEvent::DragEnter) dragEnterEvent(static_cast<QDragEnterEvent*>(event));
         if (type == QEvent::Drop) dropEvent(static_cast<QDropEvent*>(event));
     }
+    if (type == QEvent::MouseButtonPress && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton &&
+        qobject_cast<fImage*>(watched) && placesNoText())
+        QMetaObject::invokeMethod(this, &fMain::wantText, Qt::QueuedConnection); // after the press
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);
         const auto* move = static_cast<QMouseEvent*>(event);
@@ -198,7 +201,21 @@ void fMain::toolClicked(const QString& key)
         setup_.CurrentTool = key;
         showChosenTool();
         releaseHand(); // choosing a tool ends hand scrolling
+        if (placesNoText()) wantText();
     }
+}
+
+/// Whether a press on a picture would place a text, and there is none.
+bool fMain::placesNoText() const
+{
+    return setup_.CurrentTool.trimmed() == "Text" && toolStores_.text.isNull() && !toolStores_.pastePending &&
+           !mouseScrolling();
+}
+
+void fMain::wantText()
+{
+    boxes_->bring(Boxes::Textures);
+    static_cast<fToolTextures*>(boxes_->box(Boxes::Textures))->beginText();
 }
 
 void fMain::releaseHand()

@@ -1,5 +1,7 @@
 #include "ui/compose/fLayerCanvas.h"
 #include "pixels/images.h"
+#include "text/visibleColour.h"
+#include "ui/compose/layerGrips.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/Mark.h"
 #include <QGuiApplication>
@@ -12,21 +14,13 @@ namespace velara {
 
 namespace {
 
-constexpr int kGrip = 9; // side of a grip, screen pixels
+constexpr int kGrip = kGripSide;
 
-/// The sides that each grip moves: -1 left or top, 1 right or bottom.
-constexpr struct {
-    int across, down;
-    Qt::CursorShape pointer;
-} kGrips[] = {{-1, -1, Qt::SizeFDiagCursor}, {0, -1, Qt::SizeVerCursor},  {1, -1, Qt::SizeBDiagCursor},
-              {1, 0, Qt::SizeHorCursor},     {1, 1, Qt::SizeFDiagCursor}, {0, 1, Qt::SizeVerCursor},
-              {-1, 1, Qt::SizeBDiagCursor},  {-1, 0, Qt::SizeHorCursor}};
-
-/// MskText: shows a layer's surface, directly from its memory, within its outline.
+/// MskText: shows a layer's surface, directly from its memory, and its outline. Ink may extend beyond the outline.
 class Surface final : public QWidget {
   public:
-    Surface(const Layers& layers, int index, const fLayerCanvas& canvas, QWidget* parent)
-        : QWidget(parent), layers_(layers), canvas_(canvas), index_(index)
+    Surface(const Layers& layers, int index, fLayerCanvas& canvas)
+        : QWidget(&canvas), layers_(layers), canvas_(canvas), index_(index)
     {
         setObjectName(QStringLiteral("MskText_%1").arg(index));
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -38,21 +32,38 @@ class Surface final : public QWidget {
         if (!layers_.has(index_)) return;
         QPainter painter(this);
         const Bits& bits = layers_.surface(index_);
-        if (!bits.isNull()) {
-            const Rect part = layers_.visible(index_), place = layers_.layer(index_).place;
-            const int zoom = canvas_.zoom();
-            painter.drawImage(QRect(QPoint(part.left - place.left, part.top - place.top) * zoom,
-                                    QSize(part.width(), part.height()) * zoom),
-                              imageOver(bits));
-        }
+        const QImage whole = imageOver(bits); // its fourth bytes tell what belongs to the layer
+        if (!bits.isNull())
+            painter.drawImage(
+                onSurface(layers_.visible(index_)),
+                QImage(whole.constBits(), whole.width(), whole.height(), whole.bytesPerLine(), QImage::Format_ARGB32));
         const bool chosen = canvas_.selected() == index_; // visible on light and on dark
+        if (chosen) paintMarks(painter);
+        const QRect outline = onSurface(layers_.layer(index_).place).adjusted(0, 0, -1, -1);
         painter.setPen(chosen ? Qt::white : QColor(255, 255, 255, 150));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(outline);
         painter.setPen(QPen(chosen ? Qt::black : QColor(0, 0, 0, 150), 1, Qt::DashLine));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(outline);
     }
 
   private:
+    QRect onSurface(const Rect& pixels) const
+    {
+        return QRect(canvas_.placeOf(QPointF(pixels.left, pixels.top)).toPoint() - pos(),
+                     QSize(pixels.width(), pixels.height()) * canvas_.zoom());
+    }
+    void paintMarks(QPainter& painter) const
+    {
+        QColor mark = palette().color(QPalette::Active, QPalette::Highlight);
+        mark.setAlpha(120);
+        for (const Rect& each : canvas_.marked()) painter.fillRect(onSurface(each), mark);
+        for (const Rect& each : canvas_.composed()) {
+            const QRect line = onSurface(each);
+            painter.fillRect(line.left(), line.bottom() - 2, line.width(), 1, Qt::white);
+            painter.fillRect(line.left(), line.bottom() - 1, line.width(), 1, Qt::black);
+        }
+    }
+
     const Layers& layers_;
     const fLayerCanvas& canvas_;
     int index_;
@@ -68,6 +79,18 @@ void paintCaret(QPainter& painter, const QRect& rect)
 {
     painter.fillRect(rect, Qt::white);
     painter.fillRect(rect.adjusted(0, 0, -1, 0), Qt::black);
+}
+
+/// Where three grips begin along one side of an outline: at its ends and its middle, always apart and within the room
+/// of the canvas, and outside of an outline that they would cover.
+std::array<int, 3> gripPlaces(int from, int length, int room)
+{
+    const int out = length < 4 * kGrip ? kGrip - kGrip / 2 : 0;
+    std::array<int, 3> at{from - kGrip / 2 - out, from + length / 2 - kGrip / 2, from + length - kGrip / 2 + out};
+    at[2] = std::clamp(std::max(at[2], at[1] + kGrip), 2 * kGrip, std::max(2 * kGrip, room - kGrip));
+    at[1] = std::clamp(at[1], kGrip, at[2] - kGrip);
+    at[0] = std::clamp(at[0], 0, at[1] - kGrip);
+    return at;
 }
 
 } // namespace
@@ -93,8 +116,11 @@ fLayerCanvas::fLayerCanvas(Layers& layers)
 
 int fLayerCanvas::addLayer()
 {
-    const int index = layers_.add(stored_.x(), stored_.y(), nextStyle, nextColour);
-    makeOutline(index);
+    remember({});
+    const Rect place{stored_.x(), stored_.y(), stored_.x() + Layers::kWidth, stored_.y() + Layers::kHeight};
+    const Colour colour = keepColour ? nextColour : visibleColour(nextColour, layers_.canvas(), place);
+    const int index = layers_.add(stored_.x(), stored_.y(), nextStyle, colour);
+    makeWidgets(index);
     emit added(index);
     select(index);
     edit(true);
@@ -105,37 +131,50 @@ void fLayerCanvas::removeSelected()
 {
     const int index = selected_;
     if (index == 0) return;
+    remember({});
     select(0);
     layers_.remove(index);
-    delete outlines_[index];
-    outlines_.erase(index);
+    dropWidgets(index);
     emit removed(index);
 }
 
-void fLayerCanvas::makeOutline(int index)
+void fLayerCanvas::makeWidgets(int index)
 {
+    auto* surface = new Surface(layers_, index, *this);
     auto* outline = named(new QWidget(this), QStringLiteral("lblShape_%1").arg(index), tr("Text %1").arg(index - 1));
+    outline->setMouseTracking(true);
     outline->setCursor(Qt::SizeAllCursor);
     outline->installEventFilter(this);
-    new Surface(layers_, index, *this, outline);
-    outlines_[index] = outline;
+    widgets_[index] = {surface, outline};
     place(index);
+}
+
+void fLayerCanvas::dropWidgets(int index)
+{
+    const Widgets gone = widgets_.at(index);
+    widgets_.erase(index);
+    delete gone.surface;
+    delete gone.outline;
 }
 
 void fLayerCanvas::place(int index)
 {
-    QWidget* outline = outlines_.at(index);
+    const auto [surface, outline] = widgets_.at(index);
     const Layer& layer = layers_.layer(index);
-    outline->setGeometry(QRect(placeOf(QPointF(layer.place.left, layer.place.top)).toPoint(),
-                               QSize(layer.place.width(), layer.place.height()) * zoom()));
-    for (QObject* surface : outline->children()) static_cast<QWidget*>(surface)->resize(outline->size());
+    const auto onCanvas = [this](const Rect& pixels) {
+        return QRect(placeOf(QPointF(pixels.left, pixels.top)).toPoint(),
+                     QSize(pixels.width(), pixels.height()) * zoom());
+    };
+    outline->setGeometry(onCanvas(layer.place));
+    surface->setGeometry(onCanvas(layer.place.united(layers_.visible(index))));
     outline->setVisible(layer.shown);
-    outline->update();
+    surface->setVisible(layer.shown);
+    surface->update();
 }
 
 void fLayerCanvas::refresh(int index)
 {
-    for (const auto& [each, outline] : outlines_)
+    for (const auto& [each, widgets] : widgets_)
         if (index == 0 || each == index) {
             place(each);
             emit layerChanged(each);
@@ -150,21 +189,93 @@ void fLayerCanvas::select(int index)
     edit(false);
     const int before = std::exchange(selected_, index);
     for (const int each : {before, index})
-        if (outlines_.contains(each)) outlines_[each]->update();
-    caret_ = index ? layers_.layer(index).text.size() : 0;
+        if (widgets_.contains(each)) widgets_[each].surface->update();
+    caret_ = anchor_ = index ? text().size() : 0;
     ShowG();
     placeCursor();
     emit selectionChanged(index);
+    emit stateChanged();
 }
 
 void fLayerCanvas::edit(bool on)
 {
-    editing_ = on && selected_ != 0;
     if (!preedit_.isEmpty()) {
         dropPreedit();
         QGuiApplication::inputMethod()->reset();
     }
-    if (editing_) caret_ = std::min(caret_, layers_.layer(selected_).text.size());
+    editing_ = on && selected_ != 0;
+    history_.close();
+    if (editing_) caret_ = std::min(caret_, text().size());
+    anchor_ = caret_;
+    showMarks();
+    emit stateChanged();
+}
+
+// --- Undo
+
+void fLayerCanvas::remember() { remember({}); }
+
+void fLayerCanvas::remember(const QString& kind)
+{
+    if (!preedit_.isEmpty()) dropPreedit();
+    history_.before(layers_, spot(), kind);
+    emit stateChanged();
+}
+
+void fLayerCanvas::step(bool back)
+{
+    if (!canStep(back)) return;
+    const bool wasEditing = editing_;
+    edit(false);
+    LayerSpot to = spot();
+    if (!(back ? history_.undo(layers_, to) : history_.redo(layers_, to))) return;
+    const std::vector<int> now = layers_.indices();
+    std::vector<int> gone;
+    for (const auto& [index, widgets] : widgets_)
+        if (!layers_.has(index)) gone.push_back(index);
+    if (!layers_.has(to.selected)) to.selected = 0;
+    if (!layers_.has(selected_)) selected_ = 0;
+    for (const int index : gone) {
+        dropWidgets(index);
+        emit removed(index);
+    }
+    for (const int index : now)
+        if (!widgets_.contains(index)) {
+            makeWidgets(index);
+            emit added(index);
+        }
+    for (const auto& [index, widgets] : widgets_) { // later ones over earlier ones
+        widgets.surface->raise();
+        widgets.outline->raise();
+    }
+    select(to.selected);
+    edit(wasEditing);
+    if (selected_) {
+        caret_ = std::min(to.caret, text().size());
+        anchor_ = std::min(to.anchor, text().size());
+    }
+    refresh(0);
+    emit selectionChanged(selected_); // its style may be another one
+    emit stateChanged();
+}
+
+// --- Marks over the layers
+
+std::vector<Rect> fLayerCanvas::marked() const
+{
+    if (!editing_ || caret_ == anchor_) return {};
+    return layers_.spans(selected_, std::min(caret_, anchor_), std::max(caret_, anchor_));
+}
+
+std::vector<Rect> fLayerCanvas::composed() const
+{
+    if (preedit_.isEmpty() || selected_ == 0) return {};
+    return layers_.spans(selected_, caret_, caret_ + preedit_.size());
+}
+
+void fLayerCanvas::showMarks()
+{
+    if (const auto found = widgets_.find(selected_); found != widgets_.end()) found->second.surface->update();
     placeCursor();
 }
 
@@ -179,24 +290,18 @@ void fLayerCanvas::ShowG()
     cursor_->raise();
 }
 
-/// At the corners and side centres; if those lie outside of the canvas, at its edge.
 void fLayerCanvas::placeGrips()
 {
-    const QRect shape = outlines_.at(selected_)->geometry();
-    for (std::size_t i = 0; i < grips_.size(); ++i) {
-        const auto at = [](int direction, int from, int length, int room) {
-            const int place = from + (direction + 1) * length / 2 - kGrip / 2;
-            return std::clamp(place, 0, std::max(0, room - kGrip));
-        };
-        grips_[i]->move(at(kGrips[i].across, shape.x(), shape.width(), width()),
-                        at(kGrips[i].down, shape.y(), shape.height(), height()));
-    }
+    const QRect shape = widgets_.at(selected_).outline->geometry();
+    const auto x = gripPlaces(shape.x(), shape.width(), width()), y = gripPlaces(shape.y(), shape.height(), height());
+    for (std::size_t i = 0; i < grips_.size(); ++i)
+        grips_[i]->move(x[std::size_t(kGrips[i].across + 1)], y[std::size_t(kGrips[i].down + 1)]);
 }
 
 void fLayerCanvas::placeCursor()
 {
     Rect at{stored_.x(), stored_.y(), stored_.x() + 1, stored_.y() + Layers::kHeight};
-    if (editing_) at = layers_.caret(selected_, caret_);
+    if (editing_) at = layers_.caret(selected_, caret_ + (preedit_.isEmpty() ? 0 : preeditCaret_));
     cursor_->setGeometry(
         QRect(placeOf(QPointF(at.left, at.top)).toPoint(), QSize(2, std::max(1, at.height()) * zoom())));
     const bool wanted = editing_ || selected_ == 0;
@@ -207,6 +312,7 @@ void fLayerCanvas::placeCursor()
     else
         blink_.stop();
     updateMicroFocus();
+    if (editing_ && hasFocus() && !drag_) emit caretMoved(at);
 }
 
 void fLayerCanvas::timerEvent(QTimerEvent* event)
@@ -228,93 +334,12 @@ void fLayerCanvas::focusOutEvent(QFocusEvent* event)
 
 void fLayerCanvas::resizeEvent(QResizeEvent* event)
 {
-    for (const auto& [index, outline] : outlines_) place(index);
+    for (const auto& [index, widgets] : widgets_) place(index);
     ShowG();
     placeCursor();
     fPicture::resizeEvent(event);
 }
 
 void fLayerCanvas::paintOver(QPainter&, const QRect&) {} // the layers are widgets
-
-// --- Mouse
-
-Rect fLayerCanvas::resized(const Rect& place, int grip, QPoint by)
-{
-    const auto [across, down, pointer] = kGrips[grip];
-    Rect to = place;
-    // The opposite side stays where it is, however far this one is pushed.
-    if (across < 0) to.left = std::min(to.left + by.x(), to.right - Layers::kLeastSide);
-    if (across > 0) to.right = std::max(to.right + by.x(), to.left + Layers::kLeastSide);
-    if (down < 0) to.top = std::min(to.top + by.y(), to.bottom - Layers::kLeastSide);
-    if (down > 0) to.bottom = std::max(to.bottom + by.y(), to.top + Layers::kLeastSide);
-    return to;
-}
-
-bool fLayerCanvas::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* widget = static_cast<QWidget*>(watched);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-        press(widget, *static_cast<QMouseEvent*>(event));
-        return true;
-    case QEvent::MouseMove:
-        drag(*static_cast<QMouseEvent*>(event));
-        return true;
-    case QEvent::MouseButtonRelease:
-        if (std::exchange(drag_, {}) && selected_) emit layerChanged(selected_);
-        return true;
-    case QEvent::MouseButtonDblClick:
-        if (selected_) edit(true);
-        return true;
-    default:
-        return fPicture::eventFilter(watched, event);
-    }
-}
-
-void fLayerCanvas::press(QWidget* widget, QMouseEvent& event)
-{
-    if (event.button() != Qt::LeftButton) return;
-    setFocus(Qt::MouseFocusReason);
-    const auto grip = std::ranges::find(grips_, widget);
-    if (grip == grips_.end())
-        for (const auto& [index, outline] : outlines_)
-            if (outline == widget) {
-                edit(false);
-                select(index);
-                break;
-            }
-    if (selected_ == 0) return;
-    drag_ = {layers_.layer(selected_).place, event.globalPosition().toPoint(),
-             grip == grips_.end() ? -1 : static_cast<int>(grip - grips_.begin())};
-}
-
-void fLayerCanvas::drag(QMouseEvent& event)
-{
-    if (!drag_ || selected_ == 0 || !(event.buttons() & Qt::LeftButton)) return;
-    const QPoint by = (event.globalPosition().toPoint() - drag_->from) / zoom();
-    const Rect& from = drag_->place;
-    const Rect to = drag_->grip < 0
-                        ? Rect{from.left + by.x(), from.top + by.y(), from.right + by.x(), from.bottom + by.y()}
-                        : resized(from, drag_->grip, by);
-    if (to == layers_.layer(selected_).place) return;
-    layers_.setPlace(selected_, to);
-    place(selected_);
-    placeGrips();
-    placeCursor();
-}
-
-void fLayerCanvas::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton) return fPicture::mousePressEvent(event); // the middle one drags the picture
-    setFocus(Qt::MouseFocusReason);
-    select(0);
-    stored_ = pixelAt(event->position());
-    placeCursor();
-}
-
-void fLayerCanvas::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton) addLayer();
-}
 
 } // namespace velara

@@ -9,86 +9,136 @@ namespace velara {
 
 namespace {
 
-/// The next caret position, by grapheme clusters.
-qsizetype step(const QString& text, qsizetype from, bool forward)
+/// The next letter or word boundary. Words end where the next one begins.
+qsizetype boundary(const QString& text, qsizetype from, bool forward, bool word)
 {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    QTextBoundaryFinder finder(word ? QTextBoundaryFinder::Word : QTextBoundaryFinder::Grapheme, text);
     finder.setPosition(from);
-    const qsizetype to = forward ? finder.toNextBoundary() : finder.toPreviousBoundary();
-    return to < 0 ? from : to;
+    for (;;) {
+        const qsizetype to = forward ? finder.toNextBoundary() : finder.toPreviousBoundary();
+        if (to < 0) return forward ? text.size() : 0;
+        const bool begins = to == 0 || to == text.size() || finder.boundaryReasons() & QTextBoundaryFinder::StartOfItem;
+        if (!word || begins) return to;
+    }
+}
+
+/// With the line breaks of a text; other kinds become them.
+QString withLineBreaks(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (const char16_t other : {u'\r', u'\u2028', u'\u2029'}) text.replace(QChar(other), QChar(u'\n'));
+    return text.replace(QChar(u'\n'), QStringLiteral("\r\n"));
 }
 
 } // namespace
 
+// --- Changing the text
+
 void fLayerCanvas::setText(const QString& text, qsizetype caret)
 {
-    caret_ = caret;
+    caret_ = anchor_ = caret;
     layers_.setText(selected_, text);
     refresh(selected_);
 }
 
-void fLayerCanvas::insert(const QString& text)
+void fLayerCanvas::setCaret(qsizetype to, bool marks)
 {
-    if (text.isEmpty()) return;
+    if (!preedit_.isEmpty()) edit(true); // ends the composition
+    history_.close();
+    caret_ = std::clamp(to, qsizetype(0), text().size());
+    if (!marks) anchor_ = caret_;
+    showMarks();
+}
+
+void fLayerCanvas::insert(const QString& typed)
+{
+    if (typed.isEmpty()) return;
     if (selected_ == 0)
         addLayer();
     else if (!editing_)
         edit(true);
-    QString lines = text;
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    for (const char16_t other : {u'\r', u'\u2028', u'\u2029'}) lines.replace(QChar(other), QChar(u'\n'));
-    lines.replace(QChar(u'\n'), QStringLiteral("\r\n"));
-    QString whole = layers_.layer(selected_).text;
-    setText(whole.insert(caret_, lines), caret_ + lines.size());
+    const QString lines = withLineBreaks(typed);
+    const bool letter = typed.size() <= 2 && typed[0].isLetterOrNumber() && caret_ == anchor_;
+    remember(letter ? QStringLiteral("typing") : QString());
+    const qsizetype from = std::min(caret_, anchor_);
+    QString whole = text();
+    setText(whole.replace(from, std::max(caret_, anchor_) - from, lines), from + lines.size());
 }
 
-void fLayerCanvas::erase(bool back)
+void fLayerCanvas::removeMarked()
 {
-    QString text = layers_.layer(selected_).text;
-    const qsizetype other = step(text, caret_, !back), from = std::min(caret_, other);
-    setText(text.remove(from, std::max(caret_, other) - from), from);
+    const qsizetype from = std::min(caret_, anchor_), to = std::max(caret_, anchor_);
+    QString whole = text();
+    if (from < to) setText(whole.remove(from, to - from), from);
 }
 
-void fLayerCanvas::moveCaret(int key)
+void fLayerCanvas::erase(bool back, bool word)
 {
-    const QString& text = layers_.layer(selected_).text;
-    if (key == Qt::Key_Left || key == Qt::Key_Right) {
-        caret_ = step(text, caret_, (key == Qt::Key_Right) != text.isRightToLeft());
-    } else if (key == Qt::Key_Home) {
-        caret_ = caret_ > 0 ? text.lastIndexOf(u'\n', caret_ - 1) + 1 : 0;
-    } else if (key == Qt::Key_End) {
-        const qsizetype end = text.indexOf(u'\r', caret_);
-        caret_ = end < 0 ? text.size() : end;
-    } else { // the same column of the line above or below
-        const qsizetype start = caret_ > 0 ? text.lastIndexOf(u'\n', caret_ - 1) + 1 : 0,
-                        end = text.indexOf(u'\n', caret_);
-        const qsizetype column = caret_ - start;
-        if (key == Qt::Key_Up && start > 0) {
-            const qsizetype above = start > 2 ? text.lastIndexOf(u'\n', start - 3) + 1 : 0;
-            caret_ = std::min(above + column, start - 2);
-        } else if (key == Qt::Key_Down && end >= 0) {
-            const qsizetype below = text.indexOf(u'\r', end + 1);
-            caret_ = std::min(end + 1 + column, below < 0 ? text.size() : below);
-        }
+    const bool marked = caret_ != anchor_;
+    if (!marked) anchor_ = boundary(text(), caret_, !back, word);
+    if (anchor_ == caret_) return;
+    const qsizetype to = std::exchange(anchor_, marked ? anchor_ : caret_); // what undo comes back to
+    remember(marked || word ? QString() : back ? QStringLiteral("back") : QStringLiteral("delete"));
+    anchor_ = to;
+    removeMarked();
+}
+
+// --- Moving the caret
+
+/// The end of what is marked, as a reader sees it.
+qsizetype fLayerCanvas::beyond(bool right) const
+{
+    const Rect a = layers_.caret(selected_, caret_), b = layers_.caret(selected_, anchor_);
+    const bool caretIsRight = a.top == b.top ? a.left > b.left : a.top > b.top;
+    return caretIsRight == right ? caret_ : anchor_;
+}
+
+qsizetype fLayerCanvas::lineBeside(bool up) const
+{
+    const Rect at = layers_.caret(selected_, caret_);
+    const int y = up ? at.top - 1 : at.bottom;
+    if (y < layers_.layer(selected_).place.top) return caret_;
+    const qsizetype to = layers_.characterAt(selected_, at.left, y);
+    return layers_.caret(selected_, to).top == at.top ? caret_ : to; // there is no other line
+}
+
+/// Where a key takes the caret; -1 for keys that don't move it.
+qsizetype fLayerCanvas::caretFor(const QKeyEvent& event) const
+{
+    const bool word = event.modifiers() & Qt::ControlModifier, marks = event.modifiers() & Qt::ShiftModifier;
+    const auto [lineStart, lineEnd] = layers_.lineOf(selected_, caret_);
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+        const bool right = event.key() == Qt::Key_Right;
+        if (word) return boundary(text(), caret_, right != text().isRightToLeft(), true);
+        return caret_ != anchor_ && !marks ? beyond(right) : layers_.beside(selected_, caret_, right);
     }
-    placeCursor();
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return lineBeside(event.key() == Qt::Key_Up);
+    case Qt::Key_Home:
+        return word ? 0 : lineStart;
+    case Qt::Key_End:
+        return word ? text().size() : lineEnd;
+    default:
+        return -1;
+    }
 }
+
+// --- Keys
 
 /// Keys while a text is edited.
 bool fLayerCanvas::editKey(QKeyEvent& event)
 {
-    switch (event.key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        moveCaret(event.key());
+    if (const qsizetype to = caretFor(event); to >= 0) {
+        setCaret(to, event.modifiers() & Qt::ShiftModifier);
         return true;
+    }
+    switch (event.key()) {
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
-        erase(event.key() == Qt::Key_Backspace);
+        erase(event.key() == Qt::Key_Backspace, event.modifiers() & Qt::ControlModifier);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -120,8 +170,9 @@ bool fLayerCanvas::layerKey(QKeyEvent& event)
     for (const auto& move : moves) {
         if (event.key() != move.key) continue;
         const Rect p = layers_.layer(selected_).place;
-        layers_.setPlace(selected_,
-                         {p.left + move.by.x(), p.top + move.by.y(), p.right + move.by.x(), p.bottom + move.by.y()});
+        remember(QStringLiteral("moving"));
+        layers_.setPlace(selected_, keptInSight({p.left + move.by.x(), p.top + move.by.y(), p.right + move.by.x(),
+                                                 p.bottom + move.by.y()}));
         refresh(selected_);
         return true;
     }
@@ -131,7 +182,7 @@ bool fLayerCanvas::layerKey(QKeyEvent& event)
         return true;
     case Qt::Key_Backspace:
         edit(true);
-        erase(true);
+        erase(true, false);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -146,12 +197,60 @@ bool fLayerCanvas::layerKey(QKeyEvent& event)
     }
 }
 
+/// What is marked; the whole text of a layer that isn't edited.
+void fLayerCanvas::copyMarked()
+{
+    const qsizetype from = editing_ ? std::min(caret_, anchor_) : 0,
+                    to = editing_ ? std::max(caret_, anchor_) : text().size();
+    if (from < to) QGuiApplication::clipboard()->setText(text().mid(from, to - from).remove(u'\r'));
+}
+
+bool fLayerCanvas::clipboardKey(QKeyEvent& event)
+{
+    if (event.matches(QKeySequence::Paste)) {
+        insert(QGuiApplication::clipboard()->text());
+    } else if (selected_ == 0) {
+        return false;
+    } else if (event.matches(QKeySequence::Copy)) {
+        copyMarked();
+    } else if (event.matches(QKeySequence::Cut)) {
+        copyMarked();
+        if (!editing_) {
+            removeSelected();
+        } else if (caret_ != anchor_) {
+            remember({});
+            removeMarked();
+        }
+    } else if (event.matches(QKeySequence::SelectAll)) {
+        edit(true);
+        setCaret(0, false);
+        setCaret(text().size(), true);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool fLayerCanvas::stepKey(QKeyEvent& event)
+{
+    const bool back = event.matches(QKeySequence::Undo);
+    const bool forth = event.matches(QKeySequence::Redo) || event.keyCombination() == (Qt::CTRL | Qt::Key_Y);
+    if (back || forth) step(back);
+    return back || forth;
+}
+
+bool fLayerCanvas::zoomKey(QKeyEvent& event)
+{
+    if (!(event.modifiers() & Qt::ControlModifier)) return false;
+    const bool in = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal, out = event.key() == Qt::Key_Minus;
+    if (!in && !out && event.key() != Qt::Key_0) return false;
+    emit zoomWanted(in ? 1 : out ? -1 : 0);
+    return true;
+}
+
 void fLayerCanvas::keyPressEvent(QKeyEvent* event)
 {
-    const auto paste = [] { return QGuiApplication::clipboard()->text(); };
-    if (event->matches(QKeySequence::Paste)) return insert(paste());
-    if (selected_ && event->matches(QKeySequence::Copy))
-        return QGuiApplication::clipboard()->setText(QString(layers_.layer(selected_).text).remove(u'\r'));
+    if (clipboardKey(*event) || stepKey(*event) || zoomKey(*event)) return;
     if (selected_ && (editing_ ? editKey(*event) : layerKey(*event))) return;
     const QString typed = event->text();
     const bool isText = !typed.isEmpty() && typed[0].isPrint();
@@ -160,40 +259,58 @@ void fLayerCanvas::keyPressEvent(QKeyEvent* event)
     fPicture::keyPressEvent(event); // scrolls the page, closes the dialog
 }
 
-/// Text that an input method is still composing is in the text, after the caret, until it is committed or dropped.
+// --- Input methods: what is still being composed is in the text, after the caret, until it is committed or dropped
+
 void fLayerCanvas::dropPreedit()
 {
     if (preedit_.isEmpty() || selected_ == 0) return preedit_.clear();
-    QString text = layers_.layer(selected_).text;
-    text.remove(caret_, std::exchange(preedit_, {}).size());
-    setText(text, caret_);
+    QString whole = text();
+    whole.remove(caret_, std::exchange(preedit_, {}).size());
+    setText(whole, caret_);
 }
 
 void fLayerCanvas::inputMethodEvent(QInputMethodEvent* event)
 {
     dropPreedit();
+    if (event->replacementLength() > 0 && selected_) {
+        const qsizetype from = std::clamp(caret_ + event->replacementStart(), qsizetype(0), text().size());
+        remember({});
+        anchor_ = from;
+        caret_ = std::min(from + event->replacementLength(), text().size());
+        removeMarked();
+    }
     insert(event->commitString());
     if (!event->preeditString().isEmpty()) {
         if (selected_ == 0) addLayer();
-        edit(true);
+        if (!editing_) edit(true);
+        if (caret_ != anchor_) remember({});
+        removeMarked();
         preedit_ = event->preeditString();
-        QString text = layers_.layer(selected_).text;
-        setText(text.insert(caret_, preedit_), caret_);
+        preeditCaret_ = static_cast<int>(preedit_.size());
+        for (const auto& each : event->attributes())
+            if (each.type == QInputMethodEvent::Cursor) preeditCaret_ = std::clamp(each.start, 0, preeditCaret_);
+        QString whole = text();
+        setText(whole.insert(caret_, preedit_), caret_);
     }
     event->accept();
 }
 
 QVariant fLayerCanvas::inputMethodQuery(Qt::InputMethodQuery query) const
 {
+    const qsizetype from = std::min(caret_, anchor_), to = std::max(caret_, anchor_);
     switch (query) {
     case Qt::ImEnabled:
         return true;
     case Qt::ImCursorRectangle:
         return cursor_->geometry();
-    case Qt::ImSurroundingText:
-        return selected_ ? layers_.layer(selected_).text : QString();
+    case Qt::ImSurroundingText: // without what is being composed
+        return selected_ ? QString(text()).remove(caret_, preedit_.size()) : QString();
     case Qt::ImCursorPosition:
         return static_cast<int>(caret_);
+    case Qt::ImAnchorPosition:
+        return static_cast<int>(anchor_);
+    case Qt::ImCurrentSelection:
+        return selected_ ? text().mid(from, to - from) : QString();
     default:
         return fPicture::inputMethodQuery(query);
     }

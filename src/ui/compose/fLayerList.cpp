@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -53,12 +54,12 @@ void fLayerList::add(int index)
     row->setSpacing(2);
     row->addWidget(BT);
     row->addWidget(pT, 1);
-    column_->addWidget(box);
+    column_->insertWidget(static_cast<int>(std::distance(rows_.begin(), rows_.lower_bound(index))), box);
     box->show();
     rows_[index] = {box, BT, pT};
     refresh(index);
     UpdateLayerScroll();
-    VV_->setValue(VV_->maximum());
+    if (index == rows_.rbegin()->first) VV_->setValue(VV_->maximum());
 }
 
 void fLayerList::remove(int index)
@@ -83,6 +84,8 @@ void fLayerList::refresh(int index)
 {
     const Row& row = rows_.at(index);
     const QString text = layers_.layer(index).text.simplified().left(60);
+    const QSignalBlocker quiet(row.BT);
+    row.BT->setChecked(layers_.layer(index).shown);
     row.pT->setAccessibleName(text.isEmpty() ? tr("Empty text") : text);
     row.pT->setToolTip(row.pT->accessibleName());
     row.BT->setAccessibleName(tr("Show %1").arg(row.pT->accessibleName()));

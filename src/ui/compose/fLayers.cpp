@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -60,7 +61,7 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
       canvas_(new fLayerCanvas(layers_)),
       page_(new fPicturePage({"PicFrame", "picImage", "H", "V"}, tr("Picture with its texts"), canvas_)),
       list_(new fLayerList(layers_)), cFonts_(new QComboBox), Cs_(new QComboBox),
-      cp_(new fColorButton(frame, QStringLiteral("cp"), tr("Color of the text"), this))
+      cp_(new fColorButton(frame, QStringLiteral("cp"), tr("Color of the text"), this)), hint_(new QLabel)
 {
     setObjectName(QStringLiteral("fLayers"));
     setWindowTitle(QStringLiteral("Apply Text"));
@@ -76,7 +77,8 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     auto* ok = named(new QPushButton(QStringLiteral("OK")), "CmdOK");
     auto* exit = named(new QPushButton(QStringLiteral("Exit")), "CmdCancel");
     auto* last = new QHBoxLayout;
-    last->addStretch();
+    named(hint_, "lblHint")->setWordWrap(true);
+    last->addWidget(hint_, 1);
     for (QPushButton* each : {ok, exit}) {
         each->setAutoDefault(false); // Return belongs to the text
         last->addWidget(each);
@@ -114,7 +116,7 @@ QWidget* fLayers::makeFontBar()
     named(Cs_, "Cs", tr("Size"));
     fillFonts(*cFonts_, frame_.platform());
     for (int size = kFirstSize; size <= kLastSize; size += 2) Cs_->addItem(QString::number(size));
-    cFonts_->setCurrentIndex(std::min(1, cFonts_->count() - 1));
+    cFonts_->setCurrentIndex(std::min(firstFont(*cFonts_) + 1, cFonts_->count() - 1));
     Cs_->setCurrentIndex(kUsualEntry);
     row->addWidget(cFonts_);
     row->addWidget(Cs_);
@@ -149,11 +151,24 @@ QWidget* fLayers::makeLayerBar()
     }
     send->setMenu(menu);
     send->setPopupMode(QToolButton::InstantPopup);
+    undo_ = button(QStringLiteral("tbOthers_5"), tr("Undo"), "edit-undo");
+    redo_ = button(QStringLiteral("tbOthers_6"), tr("Redo"), "edit-redo");
+    QToolButton* fit = button(QStringLiteral("tbOthers_7"), tr("Zoom to fit"), "zoom-fit-best");
     for (QToolButton* each : {add, delete_, send}) {
         each->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         row->addWidget(each);
     }
     row->addStretch();
+    for (const auto& [each, keys] : {std::pair{undo_, "Ctrl+Z"}, {redo_, "Ctrl+Y"}, {fit, "Ctrl+0"}}) {
+        each->setToolTip(QStringLiteral("%1 (%2)").arg(each->text(), QLatin1String(keys)));
+        row->addWidget(each);
+    }
+    for (const bool back : {true, false})
+        connect(back ? undo_ : redo_, &QToolButton::clicked, this, [this, back] {
+            canvas_->step(back);
+            canvas_->setFocus();
+        });
+    connect(fit, &QToolButton::clicked, this, [this] { changeZoom(0); });
     connect(add, &QToolButton::clicked, this, [this] {
         canvas_->select(0);
         canvas_->addLayer();
@@ -177,18 +192,25 @@ void fLayers::connectAll()
         list_->select(index);
         showStyle(index);
     });
+    connect(canvas_, &fLayerCanvas::stateChanged, this, &fLayers::showState);
+    connect(canvas_, &fLayerCanvas::caretMoved, page_, &fPicturePage::follow);
+    connect(canvas_, &fLayerCanvas::zoomWanted, this, &fLayers::changeZoom);
     connect(list_, &fLayerList::chosen, this, [this](int index) {
         canvas_->select(index);
         list_->select(index); // the button may have unchecked itself
         canvas_->setFocus();
     });
     connect(list_, &fLayerList::shown, this, [this](int index, bool on) {
+        canvas_->remember();
         layers_.setShown(index, on);
         canvas_->refresh(index);
     });
     connect(cFonts_, &QComboBox::currentIndexChanged, this, &fLayers::takeStyle);
     connect(Cs_, &QComboBox::currentIndexChanged, this, &fLayers::takeStyle);
-    connect(cp_, &fColorButton::colourChanged, this, &fLayers::takeStyle);
+    connect(cp_, &fColorButton::colourChanged, this, [this] {
+        if (!showing_) canvas_->keepColour = true;
+        takeStyle();
+    });
     for (const auto& style : kStyles)
         connect(style_[std::size_t(style.number)], &QToolButton::clicked, this, [this, regular = !style.flag] {
             if (regular)
@@ -202,6 +224,7 @@ void fLayers::connectAll()
     watch_.start(200);
     takeStyle();
     showStyle(0);
+    showState();
 }
 
 /// Applies the controls' settings to the selected layer, and to later ones.
@@ -213,10 +236,31 @@ void fLayers::takeStyle()
         if (row.flag) style.*row.flag = style_[std::size_t(row.number)]->isChecked();
     canvas_->nextStyle = style;
     canvas_->nextColour = cp_->colour();
-    if (const int index = canvas_->selected()) {
-        layers_.setStyle(index, style, cp_->colour());
-        canvas_->refresh(index);
-    }
+    const int index = canvas_->selected();
+    if (index == 0) return;
+    const Layer& layer = layers_.layer(index);
+    if (layer.style == style && layer.colour == cp_->colour()) return;
+    canvas_->remember();
+    layers_.setStyle(index, style, cp_->colour());
+    canvas_->refresh(index);
+}
+
+/// What can be undone, and how to go on.
+void fLayers::showState()
+{
+    undo_->setEnabled(canvas_->canStep(true));
+    redo_->setEnabled(canvas_->canStep(false));
+    hint_->setText(canvas_->editing()
+                       ? tr("Type. A drag marks letters, at the frame it moves the text. Esc ends typing.")
+                   : canvas_->selected() ? tr("Drag the text or its grips. A click or Enter puts the caret into it.")
+                                         : tr("Click on the picture where a text shall stand, and type."));
+}
+
+/// 1 or -1; 0 shows the whole picture, as large as possible.
+void fLayers::changeZoom(int by)
+{
+    by == 0 ? page_->zoomToFit() : page_->setZoom(page_->picture().zoom() + by);
+    canvas_->setFocus();
 }
 
 /// Shows the layer's settings in the controls.
@@ -313,6 +357,9 @@ void fLayers::apply(std::function<void(bool done)> then)
         setEnabled(true);
         frame_.report(windowTitle(), outcome);
         done_ = outcome || outcome.kind == Outcome::Gone;
+        for (const int index : layers_.indices())
+            if (outcome && layers_.layer(index).shown && !layers_.layer(index).text.isEmpty())
+                keepFont(frame_.platform(), layers_.layer(index).style.family);
         tellDocument();
         then(done_);
     });

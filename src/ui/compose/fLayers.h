@@ -9,6 +9,7 @@
 #include <array>
 
 class QComboBox;
+class QLabel;
 class QToolButton;
 
 namespace velara {
@@ -48,6 +49,8 @@ class fLayers final : public QDialog {
     void followDocument();
     void takeStyle();
     void showStyle(int index);
+    void showState();
+    void changeZoom(int by);
     void tellDocument();
     bool mayClose();
     void apply(std::function<void(bool done)> then);
@@ -63,7 +66,8 @@ class fLayers final : public QDialog {
     QComboBox *cFonts_, *Cs_;
     fColorButton* cp_;
     std::array<QToolButton*, 7> style_{}; // of tb_Font, by number
-    QToolButton* delete_ = nullptr;
+    QToolButton *delete_ = nullptr, *undo_ = nullptr, *redo_ = nullptr;
+    QLabel* hint_;
     QTimer watch_;
     bool showing_ = false;
     bool waiting_ = false; // the document has been told of texts here

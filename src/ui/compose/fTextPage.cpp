@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -24,9 +25,6 @@ namespace {
 
 constexpr float kMargin = 60.f / kTwips;
 constexpr int kUsualSize = 10; // if the configuration has none
-constexpr Colour kPaper = 0xFFFFFF, kFace = 0;
-/// As a mask it passes a third of the colour, as a picture it is the grey of a button's edge.
-constexpr Colour kShadow = 0x7F7F7F;
 
 /// Named, with the accessible name as tool tip.
 template <class Control> Control* hinted(Control* control, const char* name, const QString& accessibleName)
@@ -53,29 +51,6 @@ QToolButton* toggle(const char* name, const QString& accessibleName, const QStri
     font.setUnderline(letter == u"U");
     button->setFont(font);
     return button;
-}
-
-Bits paper(QSize size)
-{
-    Bits bits(size.width(), size.height());
-    for (int y = 0; y < bits.height(); ++y) std::fill_n(bits.row(y), bits.width(), Pixel{{255, 255, 255, 255}});
-    return bits;
-}
-
-/// The text cropped to its ink, so that the pointer holds it by its centre. Null when there is no ink.
-Bits inkOf(const Bits& bits)
-{
-    const auto isInk = [](const Pixel& pixel) { return pixel.c[0] != blueOf(kPaper); };
-    Rect ink;
-    for (int y = 0; y < bits.height(); ++y) {
-        const Pixel *row = bits.row(y), *end = row + bits.width(), *first = std::find_if(row, end, isInk);
-        if (first == end) continue;
-        while (!isInk(end[-1])) --end;
-        ink = ink.united({static_cast<int>(first - row), y, static_cast<int>(end - row), y + 1});
-    }
-    Bits cut(ink.width(), ink.height());
-    for (int y = 0; y < cut.height(); ++y) std::copy_n(bits.row(ink.top + y) + ink.left, cut.width(), cut.row(y));
-    return cut;
 }
 
 } // namespace
@@ -125,7 +100,11 @@ void fTextPage::makeControls()
     picCustom_->installEventFilter(this);
     auto* place = hinted(new QPushButton(tr("&Place with the mouse")), "cmdPlace", tr("Place with the mouse"));
     place->setToolTip(tr("Takes the text tool: press on the picture, drag, and let go where the text shall stand"));
-    connect(place, &QPushButton::clicked, this, &fTextPage::placing);
+    connect(place, &QPushButton::clicked, this, [this] {
+        keepFont(frame_.platform(), style_.family);
+        showRecentFonts(*cboFont_, frame_.platform());
+        emit placing();
+    });
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(txtText_);
@@ -209,8 +188,16 @@ void fTextPage::UpdateText()
     if (layOut()) {
         told_ = false;
     } else if (!std::exchange(told_, true)) {
+        const QPointer<fTextPage> alive = this;
         frame_.platform().tell(QStringLiteral("Unable to find suitable font size for text"), Icon::None);
+        if (alive) beginText(); // the next letters are text, and not the keys of tools
     }
+}
+
+void fTextPage::beginText()
+{
+    activateWindow();
+    txtText_->setFocus();
 }
 
 /// False when no size fits; the work picture is blank then, and there is no text to stamp.
@@ -225,11 +212,10 @@ bool fTextPage::layOut()
     lblCustom_->setText(text.left(1000));
     if (cboAlign_->currentIndex() < 0 || cboShadow_->currentIndex() < 0) return true;
 
-    Bits work = paper(picCustom_->size());
     Fonts& fonts = frame_.platform().fonts();
     const TextBox box{text.replace(u'\n', QStringLiteral("\r\n")),
-                      work.width(),
-                      work.height(),
+                      picCustom_->width(),
+                      picCustom_->height(),
                       kMargin,
                       cboAlign_->currentIndex(),
                       cboShadow_->currentIndex(),
@@ -239,10 +225,10 @@ bool fTextPage::layOut()
         sized.size = size;
         return fonts.measure(run, sized);
     });
-    if (layout) drawText(work, *layout, style_, fonts, kFace, kShadow);
-    picCustom_->setBits(work);
+    const Bits drawing = drawOnPaper(box, layout.value_or(TextLayout()), style_, fonts);
+    picCustom_->showWhole(drawing);
     lblRefused_->setVisible(!layout);
-    frame_.toolStores().text = inkOf(work);
+    frame_.toolStores().text = maskOf(drawing);
     return layout.has_value();
 }
 

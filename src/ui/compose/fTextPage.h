@@ -21,6 +21,8 @@ class fTextPage final : public QWidget {
     /// Lays the text out in the work picture and passes it to the mouse tool. Reports when no size fits: once, until
     /// one fits again.
     void UpdateText();
+    /// Puts the caret into the text.
+    void beginText();
 
   signals:
     /// The user wants to place the text with the mouse.

@@ -24,6 +24,12 @@ fToolTextures::fToolTextures(Frame& frame, QWidget* parent)
     resize(330, 420);
 }
 
+void fToolTextures::beginText()
+{
+    SSTab1_->setCurrentWidget(text_);
+    text_->beginText();
+}
+
 const QString& fToolTextures::textureFolder() const { return effects_->folder(); }
 
 void fToolTextures::setTextureFolder(const QString& folder) { effects_->setFolder(folder); }

@@ -18,6 +18,8 @@ class fToolTextures final : public QWidget {
 
     fTextPage& textPage() { return *text_; }
     fEffectsPage& effectsPage() { return *effects_; }
+    /// Shows the page of the text, with the caret in it. The box must be visible.
+    void beginText();
     const QString& textureFolder() const;
     void setTextureFolder(const QString& folder);
 

@@ -102,6 +102,23 @@ void fPicturePage::showInMiddle(QPointF pixel)
     setScroll((pixel * picture_->zoom()).toPoint() - QPoint(half.width(), half.height()));
 }
 
+void fPicturePage::follow(const Rect& pixels)
+{
+    const int zoom = picture_->zoom();
+    const auto to = [&](const QScrollBar* bar, int page, int from, int end) {
+        return std::min(std::max(bar->value(), end * zoom + kStep - page), from * zoom - kStep);
+    };
+    setScroll({to(horizontal_, container_->width(), pixels.left, pixels.right),
+               to(vertical_, container_->height(), pixels.top, pixels.bottom)});
+}
+
+void fPicturePage::zoomToFit()
+{
+    const Bits& bits = picture_->bits();
+    if (bits.isNull()) return;
+    setZoom(std::max(1, std::min(container_->width() / bits.width(), container_->height() / bits.height())));
+}
+
 void fPicturePage::layOut()
 {
     const QSize shown = picture_->zoomedSize();

@@ -32,6 +32,10 @@ class fPicturePage : public QWidget {
     void setScroll(QPoint place); // limited to the picture
     /// The visible part, in picture pixels.
     QRectF shown() const;
+    /// Scrolls no further than these pixels and a little around them need.
+    void follow(const Rect& pixels);
+    /// The largest zoom at which the whole picture is visible; at least 1.
+    void zoomToFit();
     /// Centres the pixel, as near as the picture's edges permit.
     void showInMiddle(QPointF pixel);
 

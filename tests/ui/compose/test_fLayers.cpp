@@ -154,6 +154,128 @@ TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
     EXPECT_TRUE(dialog->isVisible()) << "Esc cost nothing";
 }
 
+TEST_F(LayersDialogTest, TextIsMarkedCopiedAndReplacedAsInAnyEditor)
+{
+    const int index = layer({20, 30}, "one two three");
+    auto* clipboard = QGuiApplication::clipboard();
+    const auto merged = [&](const char* text) {
+        return sameBits(printed(picture, {20, 30}, text), dialog->asTyped().Blend());
+    };
+    QWidget* outline = find(QString("lblShape_%1").arg(index));
+    const auto press = [&](int key, Qt::KeyboardModifiers with = {}) { QTest::keyClick(canvas(), Qt::Key(key), with); };
+    QTest::mouseDClick(outline, Qt::LeftButton, {}, {28, 8}); // "two": a character is 5 wide
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("two", clipboard->text());
+    QTest::keyClicks(canvas(), "2");
+    EXPECT_TRUE(merged("one 2 three"));
+    QTest::mouseClick(outline, Qt::LeftButton, {}, {21, 8}); // puts the caret before the 2
+    press(Qt::Key_End, Qt::ShiftModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ("2 three", clipboard->text());
+    press(Qt::Key_Home);
+    press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(merged("2 three"));
+    QTest::mouseClick(outline, Qt::LeftButton, {}, {12, 8});
+    drag(outline, {12, 8}, {15, 0}); // marks "thr"
+    press(Qt::Key_Delete);
+    press(Qt::Key_Backspace, Qt::ControlModifier);
+    EXPECT_TRUE(merged("ee"));
+    press(Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(canvas(), "all");
+    EXPECT_TRUE(merged("all"));
+}
+
+TEST_F(LayersDialogTest, EveryStepIsUndoneAndRedone)
+{
+    std::vector<Bits> states{picture};
+    const auto stand = [&] { states.push_back(dialog->asTyped().Blend()); };
+    const int index = layer({20, 30}, "ab");
+    stand();
+    find<QAbstractButton>("tb_Font_3")->click();
+    stand();
+    drag(find(QString("lblShape_%1").arg(index)), {2, 2}, {9, 5});
+    stand();
+    drag(find("lblGrip_3"), {4, 4}, {-125, 0});
+    stand();
+    canvas()->setFocus();
+    QTest::keyClick(canvas(), Qt::Key_Delete);
+    stand();
+    EXPECT_TRUE(sameBits(picture, states.back()));
+    for (std::size_t i = states.size() - 1; i-- > 1;) {
+        click("tbOthers_5");
+        EXPECT_TRUE(sameBits(states[i], dialog->asTyped().Blend())) << i;
+    }
+    EXPECT_TRUE(find<QAbstractButton>("pT_2") && !find<QAbstractButton>("tb_Font_3")->isChecked());
+    QTest::keyClick(canvas(), Qt::Key_Z, Qt::ControlModifier); // the letters, then the layer
+    QTest::keyClick(canvas(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(dialog->findChild<QWidget*>("lblShape_2") || find("tbOthers_5")->isEnabled());
+    QTest::keyClick(canvas(), Qt::Key_Y, Qt::ControlModifier);
+    for (std::size_t i = 1; i < states.size(); ++i) {
+        QTest::keyClick(canvas(), Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_TRUE(sameBits(states[i], dialog->asTyped().Blend())) << i;
+    }
+}
+
+TEST_F(LayersDialogTest, WhatIsComposedIsShownInPlaceAndIsNoStep)
+{
+    layer({20, 30}, "ab");
+    QTest::keyClick(canvas(), Qt::Key_Left);
+    const auto compose = [&](const char* text, const char* commit = "") {
+        QInputMethodEvent event(text, {{QInputMethodEvent::Cursor, 1, 1, {}}});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(canvas(), &event);
+    };
+    auto* area = static_cast<fLayerCanvas*>(canvas());
+    compose("xyz");
+    EXPECT_EQ((std::vector<Rect>{{25, 30, 40, 43}}), area->composed());
+    EXPECT_EQ("ab", area->inputMethodQuery(Qt::ImSurroundingText).toString());
+    EXPECT_EQ(QPoint(30, 30), find("Cursor")->pos()) << "within the composition";
+    compose("", "q");
+    EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "aqb"), dialog->asTyped().Blend()));
+    area->step(true);
+    EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "ab"), dialog->asTyped().Blend()));
+}
+
+TEST_F(LayersDialogTest, ANewTextCanBeSeenAndEveryLayerCaught)
+{
+    fLayers dark(frame, document);
+    document->setBits(flatBits(kWidth, kHeight, 0, 0, 250)); // nearly the red that texts have
+    frame.workspace_.handOver(*document);
+    used = &dark;
+    dark.asTyped();
+    auto* area = static_cast<fLayerCanvas*>(canvas());
+    layer({290, 100}, "");
+    const int index = area->addLayer();
+    EXPECT_EQ(0, dark.asTyped().layer(index).colour);
+    EXPECT_EQ(QRect(290, 100, 133, 20), shape(index));
+    drag(find("lblGrip_3"), {4, 4}, {-500, 0});
+    drag(find("lblGrip_5"), {4, 4}, {0, -500}); // 4 x 4 pixels in a corner
+    for (int i = 0; i < 8; ++i) {
+        const QRect grip = find(QString("lblGrip_%1").arg(i))->geometry();
+        EXPECT_TRUE(area->rect().contains(grip)) << i;
+        EXPECT_FALSE(i != 4 && grip.intersects(find("lblGrip_4")->geometry())) << i;
+    }
+    drag(find(QString("lblShape_%1").arg(index)), {0, 0}, {900, 900});
+    EXPECT_EQ(QPoint(kWidth - 4, kHeight - 4), shape(index).topLeft()) << "in sight";
+}
+
+TEST_F(LayersDialogTest, TheFontsUsedLastAreOnTopOfTheList)
+{
+    EXPECT_EQ(2, find<QComboBox>("cFonts")->count());
+    layer({10, 10}, "one");
+    find<QComboBox>("cFonts")->setCurrentText("Fixed");
+    click("CmdOK");
+    frame.settle();
+    fLayers again(frame, document);
+    used = &again;
+    auto* fonts = find<QComboBox>("cFonts");
+    EXPECT_EQ("Fixed,,Fixed,Other",
+              QStringList({fonts->itemText(0), fonts->itemText(1), fonts->itemText(2), fonts->itemText(3)}).join(u','));
+    EXPECT_EQ("Other", text("cFonts"));
+    EXPECT_EQ("Other", qvariant_cast<QFont>(fonts->itemData(3, Qt::FontRole)).family());
+}
+
 TEST_F(LayersDialogTest, ALongTextPastedIsNoHang)
 {
     QGuiApplication::clipboard()->setText(QString("word ").repeated(20000));
