@@ -269,7 +269,8 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
 
     sizeFound(size.width, size.height, size.bits);
-    Dib dib = stream.load(fif, 0);
+    // The exact transform and smooth chroma: the fast ones lose up to 3 dB against what a browser shows.
+    Dib dib = stream.load(fif, fif == FIF_JPEG ? JPEG_ACCURATE : 0);
     const QString note = isCutOff(stream, fif) ? kCutOff : ""; // the available part can be shown
     const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();
     if (dib) dib = simplified(dib);

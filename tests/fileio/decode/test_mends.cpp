@@ -3,6 +3,7 @@
 #include "fileio/decode/mends.h"
 #include "support/files.h"
 #include <FreeImage.h>
+#include <QImage>
 #include <cmath>
 #include <functional>
 
@@ -280,6 +281,10 @@ TEST(CutOff, IsToldInEveryFormatThatTells)
                 << f.extension << percent;
         }
         if (f.format == FIF_JPEG) {
+            const QImage elsewhere = QImage::fromData(QByteArray::fromStdString(whole));
+            Colours wanted;
+            for (int i = 0; i < 9000; ++i) wanted.push_back(elsewhere.pixel(i % 100, i / 100) & 0xFFFFFF);
+            EXPECT_TRUE(coloursIn(whole, "jpg") == wanted) << "as exact as other programs";
             EXPECT_EQ(decodeBytes(whole.substr(0, whole.size() - 2), f.extension).reason, "") << "but for its end mark";
         }
     }
