@@ -233,7 +233,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
         draft.setBits(filter.bits());
     };
     const QString what = FromFile ? tr("Texture") : text(effects()[std::size_t(Index - 1)].name);
-    frame_.workspace().change(document, {job},
+    frame_.workspace().change(document, {job, After::Step, what},
                               [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }
 
