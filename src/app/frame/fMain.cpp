@@ -108,7 +108,7 @@ void fMain::showTitle()
     const fImage* image = GetActiveImage();
     const QString title = image ? QString("%1 - [%2]").arg(kProgramName, image->windowTitle()) : kProgramName;
     if (windowTitle() != title) setWindowTitle(title);
-    setWindowModified(image && image->isWindowModified());
+    setWindowModified(image && image->isWindowModified() && title.contains("[*]")); // its place comes and goes first
 }
 
 void fMain::setStatus(Panel panel, const QString& text)

@@ -42,9 +42,9 @@ bool isRead(const QString& path) { return formatOf(path.trimmed()) != nullptr; }
 QString whyNotWritten(bool hasPicture, const QString& path)
 {
     if (!hasPicture) return QStringLiteral("\nThere is no picture in it.");
-    const QString extension = extensionOf(path);
-    return formatOf(path) ? QString()
-                          : QStringLiteral("\n\".%1\" is no format that is written.").arg(printable(extension));
+    const Format* format = formatOf(path);
+    if (format && format->saving != Saving::No) return {};
+    return QStringLiteral("\n\".%1\" is no format that is written.").arg(printable(extensionOf(path)));
 }
 
 } // namespace

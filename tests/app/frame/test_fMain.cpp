@@ -137,7 +137,7 @@ TEST_F(FrameTest, ACommandIsFoundByWhatItIsFor)
     frame->saveState();
     EXPECT_EQ(platform.settings["VeStu/LastUsed"], "FLIPV OLDPHOTO");
     frame->toolClicked("Pencil");
-    EXPECT_EQ(found("size ctrl"), "Nothing has this name.||");
+    EXPECT_EQ(found("size ctrl", 0, Qt::Key_Escape), "Nothing has this name.||");
     platform.answers = {std::nullopt};
     EXPECT_EQ(found("load file"), "Open|File|Ctrl+O");
     EXPECT_EQ(last(), "open: Open file");

@@ -288,9 +288,11 @@ TEST_F(FrameTest, ASaveThatFailsSaysSoAndLeavesTheDocument)
     command("SAVEAS");
     EXPECT_TRUE(platform.logged(kWriterError));
     EXPECT_FALSE(platform.logged(kSaveError)) << "one box is enough";
-    platform.answers = {path("b.xyz")};
-    command("SAVEAS");
-    EXPECT_EQ(last(), kSaveError + "\n\".xyz\" is no format that is written.");
+    for (const QString ending : {"xyz", "psd"}) {
+        platform.answers = {path("b." + ending)};
+        command("SAVEAS");
+        EXPECT_EQ(last(), kSaveError + "\n\"." + ending.toStdString() + "\" is no format that is written.");
+    }
     platform.log.clear();
     fImage* empty = open({}, "empty.bmp");
     ASSERT_EQ(empty, frame->GetActiveImage());
@@ -355,6 +357,7 @@ TEST_F(FrameTest, WhatComesFromOutsideOpensAsTheOptionsSayAndNewPicturesDoNot)
 {
     setup.OpenZoom = 3;
     setup.ImagesMaximized = true;
+    setup.PreserveLastFolder = setup.AskToSave = false;
     setup.ImagesPath = "/home/images"; // typed without its last separator
     frame->setDialogFolder("/home/pictures");
     const QString a = file("a.bmp"), b = file("b.png");
