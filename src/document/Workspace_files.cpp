@@ -1,4 +1,4 @@
-// FileRead and saving: files are read and written by threads, one after the other.
+// Opening and saving: files are read and written by threads, one after the other.
 #include "document/Workspace.h"
 #include "document/WorkspacePlaces.h"
 #include "fileio/formats.h"

@@ -103,9 +103,7 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
 
 LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn)
 {
-    const QFileInfo file(path);
-    return loadThroughDecoder(path, extension, decoder(), limitsFor(file.size()),
-                              goOn ? goOn : whileReading(file.fileName()));
+    return loadThroughDecoder(path, extension, decoder(), limitsFor(QFileInfo(path).size()), goOn);
 }
 
 LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension,

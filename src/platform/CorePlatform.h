@@ -24,12 +24,9 @@ class CorePlatform : public Platform {
     {
         return background_.add(std::move(work), std::move(done));
     }
-    /// For any thread, with a goOn.
     LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
 
   protected:
-    /// The callback while the picture of that name is read, see PictureLoader.h.
-    virtual GoOn whileReading(const QString& /*name*/) { return {}; }
     /// The same for bytes that aren't a file; name is used in the reason.
     LoadedPicture decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension, const GoOn& goOn);
 

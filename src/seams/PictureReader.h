@@ -19,7 +19,7 @@ class PictureReader {
     virtual ~PictureReader() = default;
 
     /// Reads a picture with the reader of the extension (lower case, no dot), in a child process under limits.
-    /// goOn stands in for what the platform shows meanwhile; with one this is for any thread.
+    /// For any thread; the window's reads in another one, see readInBackground. goOn is asked while it waits.
     virtual LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) = 0;
 };
 

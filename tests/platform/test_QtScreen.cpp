@@ -94,6 +94,30 @@ TEST(QtScreen, APortalThatNeverAnswersIsTakenBackItsQuestion)
     EXPECT_FALSE(answered);
 }
 
+TEST(QtScreen, TheFileOfAGrabThatIsGivenUpIsNotTheAnswerToTheNext)
+{
+    Portal portal;
+    ASSERT_TRUE(portal.start(0));
+    RecordingPlatform platform;
+    QtScreen screen(platform, portal.bus.connection());
+    QSemaphore reads, goesOn;
+    platform.onLoad = [&](const GoOn&) {
+        reads.release();
+        goesOn.acquire();
+    };
+    bool first = false;
+    screen.grab([&](const ScreenPicture&) { first = true; });
+    ASSERT_TRUE(waitUntil([&] { return reads.tryAcquire(); }));
+    qunsetenv("XDG_SESSION_TYPE"); // the next one is X's, of another size
+    std::optional<ScreenPicture> second;
+    screen.grab([&](const ScreenPicture& picture) { second = picture; });
+    goesOn.release();
+    ASSERT_TRUE(waitUntil([&] { return second.has_value(); }));
+    EXPECT_NE(second->bits.width(), 40);
+    EXPECT_FALSE(first);
+    EXPECT_FALSE(QFile::exists(portal.shot));
+}
+
 TEST(QtScreen, ThePlacesOfTheScreensFollowTheScaleOfThePicture)
 {
     // Two screens of 100 by 80 and 60 by 40, side by side, in a picture of twice the size.

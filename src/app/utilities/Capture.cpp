@@ -1,5 +1,6 @@
 #include "app/utilities/Capture.h"
 #include "app/frame/fMain.h"
+#include "fileio/readInBackground.h"
 #include "fileio/savePicture.h"
 #include "seams/Platform.h"
 #include "ui/utilities/HiddenWindows.h"
@@ -14,6 +15,24 @@ namespace {
 constexpr int kDelay = 500;                 // ms for windows to disappear
 constexpr int kPatience = 10000;            // ms; a desktop may be asking its user meanwhile
 constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, and kept
+
+/// A capture on its way through a file.
+struct Through {
+    QString path;
+    Bits bits;
+    SaveReport saved;
+
+    void go(PictureReader& reader, const GoOn& goOn)
+    {
+        if (bits.isNull()) return;
+        QFile::remove(path); // an existing file may be a link, or readable by others
+        saved = writePicture(bits, path, "bmp", OutputFile::Links::Replace);
+        const LoadedPicture loaded =
+            saved.result == SaveResult::Written ? reader.loadPicture(path, "bmp", goOn) : LoadedPicture();
+        if (loaded.ok()) bits = loaded.bits;
+        QFile::remove(path);
+    }
+};
 
 } // namespace
 
@@ -121,16 +140,19 @@ void Capture::capturePic(int mode)
 void Capture::makeDocument(const Bits& captured, const QString& reason)
 {
     bringBack();
-    const QString path = frame_.platform().programFolder() + "/New.bmp";
-    Bits bits = captured;
-    QFile::remove(path); // an existing file may be a link, or readable by others
-    if (!bits.isNull() &&
-        savePicture(frame_.platform(), bits, path, "bmp", OutputFile::Links::Replace) == SaveResult::Written) {
-        const LoadedPicture loaded = frame_.platform().loadPicture(path, "bmp");
-        if (loaded.ok()) bits = loaded.bits;
-    }
+    Platform& platform = frame_.platform();
+    const auto through = std::make_shared<Through>(Through{platform.programFolder() + "/New.bmp", captured, {}});
+    inBackground(
+        platform, this, [through, &platform](const GoOn& goOn) { through->go(platform, goOn); },
+        [this, through, reason] {
+            through->saved.tell(frame_.platform());
+            show(through->bits, through->path, reason);
+        });
+}
+
+void Capture::show(const Bits& bits, const QString& path, const QString& reason)
+{
     frame_.adopt(bits, path);
-    QFile::remove(path);
     if (bits.isNull()) frame_.report(tr("Capture"), {Outcome::Failed, tr("the screen gave no picture")});
     if (!reason.isEmpty()) frame_.platform().tell(reason, Icon::Exclamation);
 }

@@ -48,6 +48,7 @@ class Capture final : public QObject {
     QRect areaOf(int mode, const ScreenPicture& picture) const;
     /// reason: what to report about the picture, as in ScreenPicture.
     void makeDocument(const Bits& bits, const QString& reason = {});
+    void show(const Bits& bits, const QString& path, const QString& reason);
 
     fMain& frame_;
     QTimer Timer2_, patience_;

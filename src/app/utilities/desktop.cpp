@@ -1,5 +1,6 @@
 #include "app/utilities/desktop.h"
 #include "app/frame/fMain.h"
+#include "fileio/readInBackground.h"
 #include "seams/Platform.h"
 #include "ui/printing/fPrint.h"
 #include "ui/printing/fPrinterSetup.h"
@@ -7,7 +8,6 @@
 #include "ui/utilities/fSource.h"
 #include <QFile>
 #include <QPointer>
-#include <QTimer>
 
 namespace velara {
 
@@ -61,13 +61,13 @@ void acquire(fMain& frame)
     auto* dialog = new fAcquire(frame.platform(), path, &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     const auto take = [&frame, path] {
-        const LoadedPicture loaded = frame.platform().loadPicture(path, "bmp");
-        QFile::remove(path);
-        if (!loaded.ok()) return showScannerFailure(frame.platform());
-        frame.adopt(loaded.bits, "Scan.bmp");
+        readInBackground(frame.platform(), &frame, path, [&frame, path](const LoadedPicture& scan) {
+            QFile::remove(path);
+            if (!scan.ok()) return showScannerFailure(frame.platform());
+            frame.adopt(scan.bits, "Scan.bmp");
+        });
     };
-    // Once the dialog's place is painted.
-    QObject::connect(dialog, &fAcquire::acquired, &frame, [&frame, take] { QTimer::singleShot(0, &frame, take); });
+    QObject::connect(dialog, &fAcquire::acquired, &frame, take);
     dialog->open();
 }
 

@@ -1,4 +1,5 @@
 #include "platform/desktop/DesktopWallpaper.h"
+#include "fileio/readInBackground.h"
 #include "platform/desktop/PortalRequest.h"
 #include "platform/desktop/rootPicture.h"
 #include "platform/desktop/x11.h"
@@ -184,9 +185,11 @@ void DesktopWallpaper::setRoot(const QString& path, WallpaperMode mode)
     for (const QScreen* screen : QGuiApplication::screens())
         screens << QRect(screen->geometry().topLeft(), screen->geometry().size() * screen->devicePixelRatio());
     const QSize root = x11RootSize();
-    const Bits bits = root.isEmpty() ? Bits() : platform_.loadPicture(path, "bmp").bits;
-    const bool shown = !bits.isNull() && x11SetRootPicture(rootPicture(bits, mode, root, screens));
-    finish(shown ? WallpaperResult::Done : WallpaperResult::CantWrite);
+    if (root.isEmpty()) return finish(WallpaperResult::CantWrite);
+    readInBackground(platform_, work_, path, [this, mode, root, screens](const LoadedPicture& read) {
+        const bool shown = read.ok() && x11SetRootPicture(rootPicture(read.bits, mode, root, screens));
+        finish(shown ? WallpaperResult::Done : WallpaperResult::CantWrite);
+    });
 }
 
 } // namespace velara

@@ -6,7 +6,7 @@
 
 namespace velara {
 
-GoOn QtPlatform::whileReading(const QString& name)
+GoOn QtPlatform::whilePasting(const QString& name)
 {
     return [box = std::make_shared<ReadingBox>(name, parentOfDialogs())](auto waited) { return box->goOn(waited); };
 }

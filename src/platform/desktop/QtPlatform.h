@@ -29,12 +29,11 @@ class QtPlatform : public CorePlatform {
     Scanner& scanner() override { return scanner_; }
     Printers& printers() override { return printers_; }
 
-  protected:
-    GoOn whileReading(const QString& name) override;
-
   private:
+    static GoOn whilePasting(const QString& name);
+
     QtClipboard clipboard_{[this](const auto&... what) { return decodeBytes(what...); },
-                           [this](const QString& name) { return whileReading(name); }};
+                           [this](const QString& name) { return whilePasting(name); }};
     QtFonts fonts_;
     FilePreviews previews_;
     QtScreen screen_{*this};

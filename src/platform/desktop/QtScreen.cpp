@@ -1,5 +1,5 @@
 #include "platform/desktop/QtScreen.h"
-#include "fileio/formats.h"
+#include "fileio/readInBackground.h"
 #include "pixels/numbers.h"
 #include "platform/desktop/PortalRequest.h"
 #include "platform/desktop/x11.h"
@@ -118,6 +118,7 @@ void QtScreen::cancel()
     done_ = nullptr;
     settle_.stop();
     delete request_;
+    delete reading_;
 }
 
 void QtScreen::answer(ScreenPicture picture)
@@ -140,11 +141,15 @@ void QtScreen::received(int code, const QVariantMap& results)
     if (code == PortalRequest::Missing) return answer(grabWithoutPortal());
     const QString file = localFile(results);
     if (code != PortalRequest::Granted || file.isEmpty()) return answer({});
-    const LoadedPicture loaded = platform_.loadPicture(file, extensionOf(file));
-    QFile::remove(file); // the desktop made it for us, among the user's own pictures
-    QList<QRect> screens;
-    for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();
-    answer(wholeDesktop(loaded.bits, screens));
+    reading_ = new QObject(this);
+    // The desktop made the file for us, among the user's own pictures; it goes even if nobody wants it any more.
+    connect(reading_, &QObject::destroyed, [file] { QFile::remove(file); });
+    readInBackground(platform_, reading_, file, [this](const LoadedPicture& loaded) {
+        delete reading_;
+        QList<QRect> screens;
+        for (const QScreen* screen : QGuiApplication::screens()) screens << screen->geometry();
+        answer(wholeDesktop(loaded.bits, screens));
+    });
 }
 
 bool QtScreen::showDesktop(bool on) { return x11ShowDesktop(on); }

@@ -30,6 +30,7 @@ class QtScreen final : public QObject, public Screen {
     Platform& platform_;
     std::optional<QDBusConnection> bus_;
     QPointer<PortalRequest> request_;
+    QPointer<QObject> reading_; // while the portal's file is read
     QTimer settle_;
     Done done_;
 };

@@ -1,4 +1,4 @@
-// ReadingBox: shown while reading a picture takes long.
+// ReadingBox: shown while the picture of a paste takes long to arrive.
 #pragma once
 #include <QPointer>
 #include <QProgressDialog>

@@ -6,6 +6,7 @@
 #include "document/stockTextures.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
+#include "fileio/readInBackground.h"
 #include "pixels/images.h"
 #include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
@@ -19,7 +20,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
@@ -206,33 +206,35 @@ void fEffectsPage::setFolder(const QString& folder)
 
 void fEffectsPage::ApplyTexture(int Index, bool FromFile)
 {
-    if (reading_) return;
     Platform& platform = frame_.platform();
-    const QPointer<fEffectsPage> alive = this;
     const DocumentHandle document = frame_.active();
     if (!document) return platform.tell(tr("There is no picture open."));
-    Bits texture;
-    if (FromFile) {
-        if (!ListFile_->currentItem()) return;
-        const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
-        reading_ = true; // reading runs events
-        const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
-        if (!alive) return;
-        reading_ = false;
-        if (!picture.ok())
-            return platform.tell(tr("%1 can't be used as a texture: %2").arg(path, picture.reason), Icon::Exclamation);
-        texture = picture.bits;
-    }
+    if (FromFile) return applyFile(document);
     const Colour colour = frame_.setup().ForeColor;
     const int value = br_->value();
-    const Job job = [=](Document& draft, cBitFilter& filter) {
-        if (FromFile)
-            applyTexturePicture(filter, texture);
-        else
-            velara::ApplyTexture(filter, Index, value, colour);
+    apply(document, text(effects()[std::size_t(Index - 1)].name),
+          [=](cBitFilter& filter) { velara::ApplyTexture(filter, Index, value, colour); });
+}
+
+void fEffectsPage::applyFile(const DocumentHandle& document)
+{
+    if (!ListFile_->currentItem()) return;
+    const QString path = QDir(folder_).filePath(ListFile_->currentItem()->text());
+    readInBackground(frame_.platform(), this, path, [this, document, path](const LoadedPicture& read) {
+        if (read.ok())
+            return apply(document, tr("Texture"),
+                         [texture = read.bits](cBitFilter& filter) { applyTexturePicture(filter, texture); });
+        frame_.platform().tell(tr("%1 can't be used as a texture: %2").arg(path, read.reason), Icon::Exclamation);
+    });
+}
+
+void fEffectsPage::apply(const DocumentHandle& document, const QString& what,
+                         const std::function<void(cBitFilter&)>& texture)
+{
+    const Job job = [texture](Document& draft, cBitFilter& filter) {
+        texture(filter);
         draft.setBits(filter.bits());
     };
-    const QString what = FromFile ? tr("Texture") : text(effects()[std::size_t(Index - 1)].name);
     frame_.workspace().change(document, {job, After::Step, what},
                               [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }

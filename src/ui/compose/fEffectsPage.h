@@ -1,9 +1,11 @@
 // fEffectsPage: the page of the textures box that runs an effect, or a picture file as a texture, on the active
 // picture.
 #pragma once
+#include "document/road/DocumentHandle.h"
 #include "pixels/Bits.h"
 #include <QButtonGroup>
 #include <QWidget>
+#include <functional>
 
 class QLabel;
 class QListWidget;
@@ -14,6 +16,7 @@ class QSlider;
 namespace velara {
 
 class Frame;
+class cBitFilter;
 class fPathLabel;
 
 class fEffectsPage final : public QWidget {
@@ -47,6 +50,8 @@ class fEffectsPage final : public QWidget {
     QWidget* makeAmount();
     QWidget* makeFiles();
     void drawThumbnails();
+    void applyFile(const DocumentHandle& document);
+    void apply(const DocumentHandle& document, const QString& what, const std::function<void(cBitFilter&)>& texture);
     void flow();
 
     Frame& frame_;
@@ -58,7 +63,7 @@ class fEffectsPage final : public QWidget {
     QListWidget* ListFile_;
     QPushButton *CmdApply_, *CmdFileApply_;
     QString folder_;
-    bool drawn_ = false, reading_ = false;
+    bool drawn_ = false;
 };
 
 } // namespace velara

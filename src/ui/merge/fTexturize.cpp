@@ -1,7 +1,7 @@
 #include "ui/merge/fTexturize.h"
 #include "document/stockTextures.h"
-#include "fileio/formats.h"
 #include "fileio/nameOrder.h"
+#include "fileio/readInBackground.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/images.h"
 #include "seams/Platform.h"
@@ -18,7 +18,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
-#include <QPointer>
 #include <QPushButton>
 #include <QSlider>
 
@@ -76,7 +75,6 @@ fTexturize::fTexturize(Platform& platform, const Bits& picture, const Region& se
     grid->addWidget(makeControls(), 1, 1);
     previewTimer_.setSingleShot(true);
     connect(&previewTimer_, &QTimer::timeout, this, &fTexturize::showPreview);
-    connect(&thumbnailTimer_, &QTimer::timeout, this, &fTexturize::nextThumbnail);
     const bool written = writeStockTextures(platform_);
     fillList();
     if (!written && flTextures_->count() == 0) state_->setText(tr("The folder \"Textures\" can't be written to."));
@@ -173,26 +171,28 @@ void fTexturize::fillList()
         item->setData(Qt::UserRole, folder.filePath(file));
     }
     flTextures_->setCurrentRow(0);
-    if (flTextures_->count() > 0) thumbnailTimer_.start(0);
+    nextThumbnail();
 }
 
-/// One at a time, between the user's events.
+/// One at a time, so that a chosen file is read before the rest.
 void fTexturize::nextThumbnail()
 {
-    thumbnailTimer_.stop(); // reading may run events
     if (thumbnails_ >= flTextures_->count()) return;
     QListWidgetItem* item = flTextures_->item(thumbnails_++);
-    const QString path = item->data(Qt::UserRole).toString();
-    const QPointer<fTexturize> alive = this;
-    const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
-    if (!alive) return;
-    item->setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
+    readInBackground(platform_, this, item->data(Qt::UserRole).toString(), [this, item](const auto& loaded) {
+        showThumbnail(*item, loaded);
+        nextThumbnail();
+    });
+}
+
+void fTexturize::showThumbnail(QListWidgetItem& item, const LoadedPicture& loaded)
+{
+    item.setIcon(loaded.ok() ? iconOf(loaded.bits) : frameIcon(palette(), true));
     if (!loaded.ok()) {
-        item->setText(item->text() + u'\n' + tr("(can't be read)")); // there is room for two lines beside the icon
-        item->setToolTip(loaded.reason);
-        item->setForeground(palette().color(QPalette::PlaceholderText));
+        item.setText(item.text() + u'\n' + tr("(can't be read)")); // there is room for two lines beside the icon
+        item.setToolTip(loaded.reason);
+        item.setForeground(palette().color(QPalette::PlaceholderText));
     }
-    thumbnailTimer_.start(0);
 }
 
 void fTexturize::choose()
@@ -201,13 +201,14 @@ void fTexturize::choose()
     if (!item) return;
     const QString path = item->data(Qt::UserRole).toString();
     txtTexture_->setText(printable(QFileInfo(path).fileName()));
-    const QPointer<fTexturize> alive = this;
-    const LoadedPicture loaded = platform_.loadPicture(path, extensionOf(path));
-    if (!alive || flTextures_->currentItem() != item) return; // another was selected meanwhile
-    texture_ = loaded.bits;
-    unreadable_ = loaded.ok() ? QString() : tr("This file can't be read as a picture.");
-    iTexture_->showWhole(texture_);
-    changed();
+    delete choice_; // what is still read was chosen before
+    choice_ = new QObject(this);
+    readInBackground(platform_, choice_, path, [this](const LoadedPicture& loaded) {
+        texture_ = loaded.bits;
+        unreadable_ = loaded.ok() ? QString() : tr("This file can't be read as a picture.");
+        iTexture_->showWhole(texture_);
+        changed();
+    });
 }
 
 // --- The relief

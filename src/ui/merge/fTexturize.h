@@ -3,6 +3,7 @@
 #pragma once
 #include "document/texturing.h"
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 class QCheckBox;
@@ -10,6 +11,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 class QSlider;
 
@@ -17,6 +19,7 @@ namespace velara {
 
 class Platform;
 class fPicture;
+struct LoadedPicture;
 
 class fTexturize final : public QDialog {
     Q_OBJECT
@@ -32,6 +35,7 @@ class fTexturize final : public QDialog {
     QWidget* makeControls();
     void fillList();
     void nextThumbnail();
+    void showThumbnail(QListWidgetItem& item, const LoadedPicture& loaded);
     void choose();
     void changed();
     void showPreview();
@@ -41,10 +45,11 @@ class fTexturize final : public QDialog {
     const Bits picture_;
     const Region selection_;
     Texturing texturing_;
-    Bits texture_; // of the chosen file
+    Bits texture_;             // of the chosen file
+    QPointer<QObject> choice_; // the file that is read
     QString unreadable_;
     int thumbnails_ = 0; // number of list entries that have theirs
-    QTimer thumbnailTimer_, previewTimer_;
+    QTimer previewTimer_;
 
     QListWidget* flTextures_ = nullptr;
     QLineEdit* txtTexture_ = nullptr;

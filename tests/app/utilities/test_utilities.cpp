@@ -174,8 +174,8 @@ TEST_F(UtilitiesTest, WhateverComesBetweenAWordAndItsGrabIsHarmless)
     image->parentWidget()->close();
     EXPECT_TRUE(comes([&] { return platform.screen().log.size() == 2; }));
     platform.screen().answer();
-    ASSERT_EQ(frame->documents().size(), 1) << "of the later word";
-    EXPECT_EQ(frame->GetActiveImage()->PictureWidth(), 800);
+    EXPECT_EQ(waitForDocument()->PictureWidth(), 800);
+    EXPECT_EQ(frame->documents().size(), 1) << "of the later word";
     command("CAPTUREFOREGROUND");
     frame.reset();
     QCoreApplication::processEvents();

@@ -29,16 +29,21 @@ TEST_F(Texturize, ShowsWhatOkWillDoAndABrokenFileHarmsNothing)
     EXPECT_FALSE(ok->isEnabled()) << "the first one is broken";
     ASSERT_TRUE(comes([&] { return list->item(0)->text().contains("can't be read"); }));
     EXPECT_EQ("Velara2.bmp", list->item(2)->text());
-    const auto thumbnail = [&] { return list->item(2)->icon().pixmap(64, 64).toImage().pixelColor(32, 32); };
-    EXPECT_TRUE(comes([&] { return thumbnail().alpha() == 255; })) << "its thumbnail";
+    const auto hasThumbnail = [&](int row) {
+        return list->item(row)->icon().pixmap(64, 64).toImage().pixelColor(32, 32).alpha() == 255;
+    };
+    EXPECT_TRUE(comes([&] { return hasThumbnail(2); }));
     const auto shownIsDone = [&] {
         cBitFilter filter = filterOf(picture, selection);
         return sameBits(texturized(filter, dialog.texturing()), find<fPicture>("iBack")->bits());
     };
+    for (const int passed : {4, 3}) list->setCurrentRow(passed);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
+    ASSERT_TRUE(comes([&] { return hasThumbnail(12); })) << "all that was asked for is read";
     EXPECT_TRUE(comes([&] { return ok->isEnabled() && shownIsDone(); }));
     EXPECT_EQ("Velara2.bmp", text("txtTexture"));
-    EXPECT_EQ(256, dialog.texturing().texture.width());
+    const QString second = platform.folder.filePath("Textures/Velara2.bmp");
+    EXPECT_TRUE(sameBits(platform.loadPicture(second, "bmp").bits, dialog.texturing().texture));
     EXPECT_EQ(25, dialog.texturing().intensity);
     QTest::keyClick(find<QSlider>("sbWeight"), Qt::Key_End);
     find<QComboBox>("cbDepth")->setCurrentIndex(1);
