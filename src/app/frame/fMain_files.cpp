@@ -290,7 +290,9 @@ void fMain::fromClipboard()
 /// What can't be opened is refused before it is dropped: the pointer says so.
 void fMain::dragEnterEvent(QDragEnterEvent* event)
 {
-    event->setAccepted(std::ranges::any_of(pathsOf(*event->mimeData()), isRead));
+    const QMimeData& data = *event->mimeData();
+    const bool isSlow = data.hasUrls() && data.urls().isEmpty(); // the other program has not given them in time
+    event->setAccepted(isSlow || std::ranges::any_of(pathsOf(data), isRead));
     if (event->isAccepted()) event->acceptProposedAction();
 }
 
