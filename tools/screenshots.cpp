@@ -308,6 +308,8 @@ int main(int argc, char** argv)
         shootFreeWindow(*frame, "TEXTTOOLS", "fLayers");
         shootFreeWindow(*frame, "IMAGEMERGING", "fOverlay");
         shootFreeWindow(*frame, "@ASSOCIATION", "fAssociation");
+        shootFreeWindow(*frame, "@SEARCH", "fSearch");
+        shootFreeWindow(*frame, "@HELP", "fHelp");
         shootBrowser(*frame, platform, picture);
         shootBoxes();
     }

@@ -31,11 +31,11 @@ void Document::takeFrom(const cBitFilter& filter)
         takePicture(bits);
 }
 
-void Document::commit()
+void Document::commit(const QString& name)
 {
     Changed = true;
     Zoomed = false;
-    SaveUndoBits();
+    SaveUndoBits(name);
 }
 
 void Document::moveTo(const UndoStore::Found& found)

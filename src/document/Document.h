@@ -43,14 +43,14 @@ class Document {
     /// Gives the engine this document's picture and working region.
     void handTo(cBitFilter& filter) const;
 
-    /// Snapshot of the present picture, written in the background.
-    void SaveUndoBits()
+    /// Snapshot of the present picture, written in the background. name: of the change, for the user.
+    void SaveUndoBits(const QString& name = {})
     {
         ++commits_;
-        undo.save(bits_);
+        undo.save(bits_, name);
     }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
-    void commit();
+    void commit(const QString& name = {});
     /// Closing it now would lose something; decides the marks of windows and the question at closing.
     bool wouldBeLost() const
     {

@@ -55,7 +55,7 @@ Outcome Draft::attempt(const Job& job)
 
 bool Draft::wanted() const { return document_ && document_->commits() == commits_; }
 
-void Draft::take()
+void Draft::take(const QString& name)
 {
     Document& document = *document_;
     if (found_) return document.moveTo(*found_);
@@ -70,9 +70,9 @@ void Draft::take()
         if (!draft_.Region.IsEmptyRegion()) document.Region.setRegion(draft_.Region.Region());
     }
     if (fromBefore_) document.undo.stepBack();
-    if (!sizing_) return document.commit();
+    if (!sizing_) return document.commit(name);
     document.Changed = document.Zoomed = true;
-    document.SaveUndoBits();
+    document.SaveUndoBits(name);
 }
 
 void Draft::handTo(cBitFilter& engine, bool holds) const

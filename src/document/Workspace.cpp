@@ -103,7 +103,13 @@ std::vector<DocumentHandle> Workspace::documents() const
 
 void Workspace::name(Document& document, const QString& path)
 {
-    const auto has = [&](const auto& place) { return place->document->Tag() == path; };
+    // A picture without a file has only its name by which it can be told apart.
+    const bool isFile = document.file.isFile;
+    const FileFacts wanted{.path = path};
+    const auto has = [&](const auto& place) {
+        const FileFacts& file = place->document->file;
+        return file.Tag() == path || (!isFile && file.caption() == wanted.caption());
+    };
     document.file.mark = path.isEmpty() || std::ranges::none_of(places_, has) ? 0 : ++clashes_;
     document.file.path = path;
 }
@@ -123,10 +129,10 @@ int Workspace::change(const DocumentHandle& document, Step step, Then then)
     return number;
 }
 
-void Workspace::finish(const DocumentHandle& document)
+void Workspace::finish(const DocumentHandle& document, const QString& name)
 {
     if (!placeOf(document)) return;
-    document->commit();
+    document->commit(name);
     emit changed(document);
 }
 
@@ -181,6 +187,15 @@ bool Workspace::isBusy(const DocumentHandle& document) const
 {
     const Place* place = placeOf(document);
     return place && place->isBusy();
+}
+
+std::optional<QString> Workspace::underWay(const DocumentHandle& document) const
+{
+    const Place* place = placeOf(document);
+    const bool any = place && place->hasChange();
+    if (!any) return {};
+    const auto newest = std::ranges::find_if(place->waiting.rbegin(), place->waiting.rend(), &Item::isChange);
+    return newest != place->waiting.rend() ? newest->step.name : place->running->item.step.name;
 }
 
 void Workspace::goOn(const DocumentHandle& document)
@@ -260,7 +275,7 @@ void Workspace::finished(std::shared_ptr<Run> run, Outcome outcome)
             }
             if (outcome) {
                 run->replaced = {document->bits(), engine_.bits()};
-                run->draft.take();
+                run->draft.take(run->item.step.name);
                 run->draft.handTo(engine_, engineHolds(*document));
                 emit changed(document);
             }

@@ -23,6 +23,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velara {
@@ -44,6 +45,7 @@ struct Opened {
 struct Step {
     Job job;
     After after = After::Step;
+    QString name = {}; // for the user, in "Undo Blur"
 };
 
 class Workspace final : public QObject {
@@ -81,8 +83,8 @@ class Workspace final : public QObject {
     /// The one way from a command to a document. The outcome is Gone when there is no picture. Returns the number of
     /// the change, for cancel().
     int change(const DocumentHandle& document, Step step, Then then = {});
-    /// Ends a change that a tool painted directly into the document: snapshot and changed mark.
-    void finish(const DocumentHandle& document);
+    /// Ends a change that a tool painted directly into the document: snapshot, under that name, and changed mark.
+    void finish(const DocumentHandle& document, const QString& name = {});
     /// One step back or forward, in its turn. Where changes are under way, nothing steps: a step back ends them as
     /// Cancelled, which is what the user wants back. The outcome is Failed, for no reason, where there is no such step.
     void step(const DocumentHandle& document, bool back, Then then = {});
@@ -95,6 +97,8 @@ class Workspace final : public QObject {
     bool cancel(const DocumentHandle& document, int change = kAll);
     static constexpr int kAll = 0;
     bool isBusy(const DocumentHandle& document) const;
+    /// The name of the change that a step back would end now, the newest of several; no value where none is under way.
+    std::optional<QString> underWay(const DocumentHandle& document) const;
     /// A stroke under way holds its document's queue: asked before each change begins. Whoever answered true calls
     /// goOn() when the stroke is over.
     std::function<bool(const Document& document)> held;

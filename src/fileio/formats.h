@@ -19,7 +19,6 @@ enum FormatTraits : unsigned {
     Plain = 0,
     FailsAloud = 1, // an unreadable file is refused; with all other formats it opens empty
     SavesSlowly = 2,
-    Dropped = 4, // accepted when dropped on the frame
 };
 
 /// Upper bound of bytes of pixels per byte of a file, for a picture of a single colour.
@@ -46,13 +45,13 @@ struct Format {
 
 // clang-format off
 inline constexpr Format kFormats[] = {
-    {"bmp",  "a BMP",                Saving::Directly, Runs,     Dropped},
+    {"bmp",  "a BMP",                Saving::Directly, Runs,     Plain},
     {"wbmp", "a WBMP",               Saving::No,       Flat,     Plain},
-    {"dib",  "a bitmap",             Saving::No,       Runs,     FailsAloud | Dropped},
+    {"dib",  "a bitmap",             Saving::No,       Runs,     FailsAloud},
     {"wmf",  "a Windows metafile",   Saving::No,       Drawn,    FailsAloud},
     {"emf",  "an enhanced metafile", Saving::No,       Drawn,    FailsAloud},
-    {"gif",  "a GIF",                Saving::Directly, Codes,    FailsAloud | Dropped | SavesSlowly},
-    {"jpg",  "a JPEG",               Saving::Directly, Blocks,   Dropped},
+    {"gif",  "a GIF",                Saving::Directly, Codes,    FailsAloud | SavesSlowly},
+    {"jpg",  "a JPEG",               Saving::Directly, Blocks,   Plain},
     {"png",  "a PNG",                Saving::Directly, Deflated, Plain},
     {"pcx",  "a PCX",                Saving::Directly, Runs,     Plain},
     {"pbm",  "a portable anymap",    Saving::AsAnymap, Flat,     Plain},

@@ -80,6 +80,21 @@ void PreviewBuffer::restore()
     remember();
 }
 
+bool PreviewBuffer::hasChanges()
+{
+    if (!document_.PictureExists()) return false;
+    compare();
+    const Bits &shown = document_.bits(), &committed = filter_.bits();
+    if (document_.preview.whole) return !(shown == committed);
+    bool differs = false;
+    document_.touched.forEach([&](const Rect& tile) {
+        for (int y = tile.top; y < tile.bottom && !differs; ++y)
+            differs = std::memcmp(shown.row(y) + tile.left, committed.row(y) + tile.left,
+                                  sizeof(Pixel) * static_cast<std::size_t>(tile.width())) != 0;
+    });
+    return differs;
+}
+
 void PreviewBuffer::commit()
 {
     if (!document_.PictureExists()) return;

@@ -24,6 +24,8 @@ class PreviewBuffer {
     bool isOurs() const;
     /// document := committed picture.
     void restore();
+    /// True where a pixel of the two differs.
+    bool hasChanges();
     /// committed picture := document.
     void commit();
     /// The bounding rectangle of everything restored since the last call.

@@ -35,6 +35,7 @@ struct ToolContext {
     bool moving = false, moved = false, down = false;
     bool connect = false;                   // the stroke has placed its first dab
     bool corner = false;                    // Space has set a corner during this drag
+    const char* name = "";                  // of the tool in use, for the user
     bool polygon = false;                   // a polygon selection is unfinished, with or without the button down
     int computed = Workspace::kAll;         // the change begun by the last release, while it isn't done
     std::vector<std::int32_t> points{0, 0}; // ToolPoints: the corners of a polygon selection, x0, y0, x1, y1, ...
@@ -55,11 +56,14 @@ struct ToolContext {
         const Rect changed = preview.takeRestored().united(document.paint.takeTouched());
         if (!changed.isEmpty()) surface.repaint(changed);
     }
-    /// Makes the document's picture the committed one, with one undo step.
+    /// Makes the document's picture the committed one, with one undo step; without one where no pixel has changed.
     void commit()
     {
-        if (workspace().engineHolds(document)) preview.commit();
-        workspace().finish(document.handle());
+        if (workspace().engineHolds(document)) {
+            if (!preview.hasChanges()) return;
+            preview.commit();
+        }
+        workspace().finish(document.handle(), QString::fromUtf8(name));
     }
 };
 

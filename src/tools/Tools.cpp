@@ -1,6 +1,7 @@
 #include "tools/Tools.h"
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
@@ -73,6 +74,7 @@ void Tools::press(int button, int x, int y)
         active_ = nullptr;
         if (const ToolRow* row = chosen()) {
             active_ = &row->tool();
+            c.name = row->caption;
             c.surface.setPointer(row->pointer);
             bool taken = false;
             if (!guarded([&] { taken = active_->press(c); })) return;
@@ -215,7 +217,8 @@ void Tools::deactivated()
 void Tools::showPosition(int button)
 {
     const ToolContext& c = context_;
-    c.frame.setStatus(Panel::Pos, QStringLiteral("X:%1 Y:%2").arg(c.at.x).arg(c.at.y));
+    const int x = std::max(c.at.x, 0), y = std::max(c.at.y, 0); // a drag may go on beyond the edge
+    c.frame.setStatus(Panel::Pos, QStringLiteral("X:%1 Y:%2").arg(x).arg(y));
     if (button == Left)
         c.frame.setStatus(Panel::Ext,
                           QStringLiteral("%1,%2").arg(std::abs(c.at.x - c.start.x)).arg(std::abs(c.at.y - c.start.y)));
@@ -236,6 +239,7 @@ bool Tools::keyDown(int key)
     if (!holder) return false;
     if (key == Enter) return end(&Tool::finish);
     if (key != Space) return false;
+    if (const ToolRow* row = chosen(); row && !active_) c.name = row->caption;
     if (guarded([&] { holder->space(c); })) showHint();
     return true;
 }

@@ -46,6 +46,7 @@ class GradientTool final : public Tool {
     void release(ToolContext& c) const override
     {
         hideBand(c);
+        c.surface.SetAutoRedraw(false);
         const Setup& s = c.setup();
         const Colour first = s.GradientTransparent1 ? -1 : s.GradientColor1;
         const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
@@ -53,10 +54,11 @@ class GradientTool final : public Tool {
             s.GradientMode == GradientMode::Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
         const Job job = [=, from = c.start, to = c.at, opacity = s.GradientPressure,
                          repeat = s.GradientFrequency](Document& draft, cBitFilter& filter) {
-            draft.setBits((filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat));
+            const Bits painted = (filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat);
+            if (painted == draft.bits()) throw Cancelled(); // no step where nothing changes
+            draft.setBits(painted);
         };
-        c.surface.SetAutoRedraw(false);
-        c.computed = c.workspace().change(c.document.handle(), {job},
+        c.computed = c.workspace().change(c.document.handle(), {job, After::Step, QStringLiteral("Gradient")},
                                           [&frame = c.frame, life = std::weak_ptr(c.life), &c](const Outcome& outcome) {
                                               frame.report(QStringLiteral("Gradient"), outcome);
                                               if (!life.expired()) c.computed = Workspace::kAll;

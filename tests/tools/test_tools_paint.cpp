@@ -191,6 +191,25 @@ TEST_F(PaintTools, WithoutWhatItPaintsWithAToolDoesNothing)
     EXPECT_TRUE(sameBits(before, document.bits()));
 }
 
+TEST_F(PaintTools, WhereNoPixelChangesThereIsNoStep)
+{
+    document.SaveUndoBits();
+    choose("Pencil");
+    drag({{20, 20}, {25, 25}});
+    frame.workspace_.step(document.handle(), true);
+    frame.settle();
+    frame.snapshots = 0;
+    for (const char* tool : {"Gradient", "Fill", "Brush", "Shape"}) {
+        choose(tool);
+        drag(tool == std::string("Gradient") ? std::vector<Point>{{20, 20}}
+                                             : std::vector<Point>{{-400, -400}, {-380, -390}});
+        frame.settle();
+        EXPECT_EQ(frame.snapshots, 0) << tool;
+    }
+    EXPECT_TRUE(document.undo.canRedo()) << "and what was taken back can still be had";
+    EXPECT_FALSE(document.wouldBeLost());
+}
+
 TEST_F(PaintTools, TextFollowsThePointerAndSpaceFixesACopy)
 {
     choose("Text");

@@ -59,6 +59,7 @@ fMain::fMain(Platform& platform, Setup& setup)
     clips_ = std::make_unique<Clips>(*this);
     capture_ = std::make_unique<Capture>(*this);
     makeBoxes();
+    bars_->loadLastUsed();
     showColors();
     refreshUndoState();
     qApp->installEventFilter(this); // pointer moves, for the side pane
@@ -88,12 +89,35 @@ void fMain::showStartPage()
 void fMain::refreshUndoState()
 {
     const fImage* image = GetActiveImage();
-    bars_->button("UNDO")->setEnabled(image && image->document().undo.canUndo());
-    bars_->button("REDO")->setEnabled(image && image->document().undo.canRedo());
+    // A step back ends a change under way.
+    const auto underWay = workspace_.underWay(active());
+    const UndoStore* undo = image ? &image->document().undo : nullptr;
+    bars_->nameStep("UNDO",
+                    underWay ? *underWay
+                    : undo   ? undo->undoName()
+                             : QString(),
+                    undo && (underWay || undo->canUndo()));
+    bars_->nameStep("REDO", undo ? undo->redoName() : QString(), undo && undo->canRedo());
     for (fImage* open : documents()) open->showChanged();
+    showTitle();
 }
 
-void fMain::setStatus(Panel panel, const QString& text) { status_->setPanel(panel, text); }
+/// In the form that a picture which fills the area gives it, too.
+void fMain::showTitle()
+{
+    const fImage* image = GetActiveImage();
+    const QString title = image ? QString("%1 - [%2]").arg(kProgramName, image->windowTitle()) : kProgramName;
+    if (windowTitle() != title) setWindowTitle(title);
+    setWindowModified(image && image->isWindowModified() && title.contains("[*]")); // its place comes and goes first
+}
+
+void fMain::setStatus(Panel panel, const QString& text)
+{
+    status_->setPanel(panel, text);
+    if (panel != Panel::Name) return;
+    const fImage* image = GetActiveImage();
+    status_->setPath(image && !text.isEmpty() ? image->Tag() : QString());
+}
 
 void fMain::showFailure(const QString& what, const std::exception& failure)
 {

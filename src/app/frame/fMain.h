@@ -71,7 +71,7 @@ class fMain final : public QMainWindow, public Frame {
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
     void openPicture(const QString& path, Unreadable unreadable = Unreadable::OpensEmpty);
     void FillRecent();
-    /// Opens the files of a drop, in order; files of other kinds are skipped.
+    /// Opens the files of a drop, in order; those that are no pictures are named in the status bar.
     void dropFiles(const QStringList& paths);
     /// The start folder of the file dialogs.
     void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
@@ -135,7 +135,7 @@ class fMain final : public QMainWindow, public Frame {
     void crop();
     void runPreset(const Preset& preset);
     void runSizeWord(const SizeWord& size);
-    void showFilter(const FilterRow& row);
+    void showFilter(const FilterRow& row, const QString& name);
     void textTools();
     /// Another window of the active document, with a zoom and a place of its own.
     void newView();
@@ -153,6 +153,10 @@ class fMain final : public QMainWindow, public Frame {
     void saveForWeb(fImage& image, const Bits& bits);
     void options();
     void about();
+    void help();
+    /// Finds a command by a few letters.
+    void search();
+    void toggleFullScreen();
     void toggleStatusBar();
     void toggleSideBar();
     void storeLayout();
@@ -166,7 +170,7 @@ class fMain final : public QMainWindow, public Frame {
     void showChosenTool();
     /// Ends hand scrolling: a drag is either the hand's or the tool's.
     void releaseHand();
-    /// Updates the undo and redo buttons for the active document, and the changed marks of all.
+    /// Updates undo and redo for the active document, and the changed marks of all.
     void refreshUndoState();
     /// Reloads the icons in the variant that fits the palette.
     void refreshIcons();
@@ -178,12 +182,15 @@ class fMain final : public QMainWindow, public Frame {
     void showFailure(const QString& what, const std::exception& failure);
     bool findsItsDocument(const CommandWord& command);
     void showStartPage();
+    /// The frame's title names the active document.
+    void showTitle();
     void saveAs(fImage& image);
     void saveTo(fImage& image, const QString& path);
     void openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then);
     void noteUnopened(const QString& path, const Opened& opened);
     void tellUnopened();
-    void showView(const DocumentHandle& document);
+    void showView(const DocumentHandle& document, bool maximized);
+    void showArrival(const DocumentHandle& document);
     void showReading(const QString& path);
     void showName(const DocumentHandle& document);
     QString inDialogFolder(const QString& name) const;
@@ -191,7 +198,6 @@ class fMain final : public QMainWindow, public Frame {
     void showGone(const QStringList& paths);
     void saveNow(fImage& image);
     Bits clipboardPicture();
-    void applyOpenOptions();
 
     Platform& platform_;
     Setup& setup_;

@@ -156,7 +156,7 @@ void fMain::initToolPanes()
 
 void fMain::showChosenTool()
 {
-    toolPane_->setTool(setup_.CurrentTool);
+    toolPane_->setTool(mouseScrolling() ? QString() : setup_.CurrentTool); // the hand or a tool, never both
     toolPane_->showPane(setup_.CurrentTool);
     for (fImage* image : documents()) image->toolChosen();
 }
@@ -170,21 +170,23 @@ void fMain::keyPressEvent(QKeyEvent* event)
     }
     const bool ends = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     fImage* image = ends ? GetActiveImage() : nullptr;
-    if (!image || !image->displayKey(*event, true)) QMainWindow::keyPressEvent(event);
+    if (image && image->displayKey(*event, true)) return;
+    if (event->key() == Qt::Key_Escape && isFullScreen()) return toggleFullScreen();
+    QMainWindow::keyPressEvent(event);
 }
 
 void fMain::takeNoTool()
 {
     setup_.CurrentTool.clear();
-    toolPane_->releaseTools();
-    showChosenTool();
     releaseHand();
+    showChosenTool();
 }
 
 void fMain::EnableMouseScrolling()
 {
     if (std::exchange(scrollingOffered_, true)) return; // once, at the first document
     toolPane_->button("MouseScroll")->setChecked(true);
+    toolPane_->releaseTools();
 }
 
 bool fMain::mouseScrolling() const { return toolPane_->button("MouseScroll")->isChecked(); }
@@ -195,12 +197,13 @@ void fMain::toolClicked(const QString& key)
     if (key == "ZoomIn" || key == "ZoomOut") {
         if (image) setZoom(image->ZoomFactor() + (key == "ZoomIn" ? 1 : -1));
     } else if (key == "MouseScroll") {
-        if (image) image->setMouseScroll(toolPane_->button(key)->isChecked());
+        if (image) image->setMouseScroll(mouseScrolling());
+        showChosenTool();
     } else {
         clips_->letGo();
         setup_.CurrentTool = key;
-        showChosenTool();
         releaseHand(); // choosing a tool ends hand scrolling
+        showChosenTool();
         if (placesNoText()) wantText();
     }
 }

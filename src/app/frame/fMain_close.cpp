@@ -16,13 +16,13 @@ std::int16_t twips(int pixels) { return static_cast<std::int16_t>(std::clamp(pix
 
 void fMain::frameResized()
 {
-    if (!isMinimized()) {
+    if (!isMinimized() && !isFullScreen()) {
         // Stores the size of the restored window.
         const QSize size = isMaximized() && normalGeometry().isValid() ? normalGeometry().size() : this->size();
         setup_.FrameWidth = twips(size.width());
         setup_.FrameHeight = twips(size.height());
     }
-    setup_.FrameMaximized = isMaximized();
+    if (!isFullScreen()) setup_.FrameMaximized = isMaximized();
     if (isMinimized()) return;
     if (!resizedOnce_) {
         resizedOnce_ = true;
@@ -34,6 +34,9 @@ void fMain::frameResized()
     placeSidePane();
 }
 
+/// The size to come back to, and whether it is maximised, stay as they are.
+void fMain::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
+
 void fMain::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
@@ -44,6 +47,9 @@ void fMain::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isVisible()) frameResized();
+    if (event->type() == QEvent::WindowStateChange && bars_) bars_->mark("@FULLSCREEN", 0, isFullScreen());
+    if (event->type() == QEvent::WindowTitleChange && bars_)
+        showTitle();                                                     // a window of the area has given it an old one
     if (event->type() == QEvent::PaletteChange && bars_) refreshIcons(); // the desktop switched between dark and light
 }
 
@@ -65,6 +71,7 @@ void fMain::closeEvent(QCloseEvent* event)
 void fMain::saveState()
 {
     platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64()));
+    bars_->saveLastUsed();
     SaveSetup(platform_, setup_);
 }
 

@@ -1,7 +1,10 @@
-// What the words of the vocabulary do in the frame, how one is run, and the two dialogs of the program itself: options
-// and about.
+// What the words of the vocabulary do in the frame, how one is run, and the windows of the program itself: options,
+// about, help, and the search for commands.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
+#include "app/menus/fHelp.h"
+#include "app/menus/fSearch.h"
+#include "app/menus/menus.h"
 #include "app/settings/fPreferences.h"
 #include "app/start/fSplash.h"
 #include "app/utilities/Capture.h"
@@ -16,6 +19,7 @@
 #include "seams/Platform.h"
 #include "seams/findRow.h"
 #include "seams/text.h"
+#include "tools/toolRows.h"
 #include <algorithm>
 
 namespace velara {
@@ -116,6 +120,9 @@ struct fMain::Commands {
         {"@CLIPBOARDBOX",        [](fMain& f) { f.boxes().toggle(Boxes::Clips); }},
         {"@STATUSBAR",           [](fMain& f) { f.toggleStatusBar(); }},
         {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
+        {"@FULLSCREEN",          [](fMain& f) { f.toggleFullScreen(); }},
+        {"@HELP",                [](fMain& f) { f.help(); }},
+        {"@SEARCH",              [](fMain& f) { f.search(); }},
     };
     // clang-format on
 
@@ -142,6 +149,7 @@ void fMain::Mmenu(const QString& word)
     const std::string name = word.toStdString();
     const CommandWord* command = findCommandWord(name);
     if (!command || command->ofFrame() || !available(name)) return;
+    status_->clearMessage(); // what was said before gives way
     if (!findsItsDocument(*command)) return;
     if (fImage* image = GetActiveImage()) image->restPaste();
     try {
@@ -149,7 +157,7 @@ void fMain::Mmenu(const QString& word)
         case WordKind::Preset:
             return runPreset(*findRow(presets(), name, &Preset::word));
         case WordKind::Dialog:
-            return showFilter(*findFilterRow(name));
+            return showFilter(*findFilterRow(name), nameOf(name));
         case WordKind::Size:
             return runSizeWord(*findRow(sizeWords(), name, &SizeWord::word));
         default:
@@ -173,6 +181,7 @@ void fMain::run(std::string_view word, int index)
 {
     if (!word.starts_with('@')) return Mmenu(text(word));
     const CommandWord* command = findCommandWord(word);
+    status_->clearMessage();
     if (!command || !findsItsDocument(*command)) return;
     if (const auto* handler = Commands::find(word)) (*handler)(*this, index);
 }
@@ -188,6 +197,25 @@ void fMain::about()
     fSplash splash(platform_, this);
     splash.showFacts();
     splash.exec();
+}
+
+void fMain::help()
+{
+    auto* window = findChild<fHelp*>();
+    if (!window) window = new fHelp(this);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void fMain::search()
+{
+    std::vector<SearchRow> rows = bars_->searchRows();
+    for (const ToolRow& tool : toolRows())
+        rows.push_back({findChild<QAction*>(tool.name), tr(tool.caption), tr("Tool")});
+    auto* window = new fSearch(std::move(rows), this);
+    window->show();
+    window->activateWindow();
 }
 
 } // namespace velara

@@ -19,61 +19,74 @@ namespace velara {
 
 namespace {
 
-/// The part after the last separator, right-trimmed.
-QString FileNameOf(const QString& path)
+QString FileNameOf(const QString& path) { return FileFacts{.path = path}.caption(); }
+
+/// A folder may be typed with or without its last separator.
+QString inFolder(const QString& folder, const QString& name)
 {
-    QString name = path.mid(path.lastIndexOf('/') + 1);
-    while (name.endsWith(' ')) name.chop(1);
-    return name;
+    return folder + (folder.isEmpty() || folder.endsWith('/') ? "" : "/") + name;
 }
 
-/// Two documents of one file are distinguished by the mark in front of the second one's name.
-QString captionOf(const Document& document) { return document.file.markText() + FileNameOf(document.file.path); }
-
-bool isDropped(const QString& path)
+/// The files of a drag, in its order.
+QStringList pathsOf(const QMimeData& data)
 {
-    return std::ranges::any_of(kFormats, [&](const Format& f) {
-        return f.has(Dropped) && path.endsWith(text(f.extension), Qt::CaseInsensitive);
-    });
+    QStringList paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    return paths;
+}
+
+bool isRead(const QString& path) { return formatOf(path.trimmed()) != nullptr; }
+
+/// Why a save that wrote nothing, and told nothing, didn't; a line of its own, or nothing.
+QString whyNotWritten(bool hasPicture, const QString& path)
+{
+    if (!hasPicture) return QStringLiteral("\nThere is no picture in it.");
+    const Format* format = formatOf(path);
+    if (format && format->saving != Saving::No) return {};
+    return QStringLiteral("\n\".%1\" is no format that is written.").arg(printable(extensionOf(path)));
 }
 
 } // namespace
 
 QString fMain::inDialogFolder(const QString& name) const
 {
-    return name.contains('/') ? name : dialogFolder_ + (dialogFolder_.endsWith('/') ? "" : "/") + name;
+    return name.contains('/') ? name : inFolder(dialogFolder_, name);
 }
 
 DocumentHandle fMain::adopt(const Bits& bits, const QString& name, Arrival arrival)
 {
     if (closing_) return {};
     const DocumentHandle document = workspace_.add(bits, inDialogFolder(name), arrival);
-    showView(document);
+    arrival == Arrival::Made ? showView(document, false) : showArrival(document);
     return document;
 }
 
-void fMain::showView(const DocumentHandle& document)
+void fMain::showView(const DocumentHandle& document, bool maximized)
 {
     auto image = std::make_unique<fImage>(*this, document);
-    image->setCaption(captionOf(*document));
+    image->setCaption(document->file.caption());
     connect(image.get(), &fImage::asking, this, &fMain::asking);
-    documents_->show(std::move(image), setup_.ImagesMaximized);
+    documents_->show(std::move(image), maximized);
     refreshUndoState();
     showStartPage();
+}
+
+/// The options are for all pictures that come from somewhere, and not for new ones.
+void fMain::showArrival(const DocumentHandle& document)
+{
+    showView(document, setup_.ImagesMaximized);
+    if (setup_.OpenZoom <= 1 || !document->PictureExists()) return;
+    setZoom(setup_.OpenZoom);
+    documents_->fitActive();
 }
 
 /// After a save: the name may have changed, and the changed mark is gone.
 void fMain::showName(const DocumentHandle& document)
 {
-    for (fImage* view : documents_->viewsOf(document)) view->setCaption(captionOf(*document));
+    for (fImage* view : documents_->viewsOf(document)) view->setCaption(document->file.caption());
     if (fImage* image = GetActiveImage(); image && document == active()) setStatus(Panel::Name, image->Caption());
-}
-
-void fMain::applyOpenOptions()
-{
-    if (setup_.OpenZoom <= 1) return;
-    setZoom(setup_.OpenZoom);
-    documents_->fitActive();
+    showTitle();
 }
 
 void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
@@ -116,7 +129,7 @@ void fMain::openPath(const QString& path, Unreadable unreadable, std::function<v
 {
     workspace_.open(path, unreadable, [this, path, then = std::move(then)](const Opened& opened) {
         if (closing_) return;
-        if (opened.document) showView(opened.document);
+        if (opened.document) showArrival(opened.document);
         if (opened.document && !opened.document->PictureExists())
             status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
         else if (opened.document && !opened.reason.isEmpty())
@@ -148,7 +161,6 @@ void fMain::openPicture(const QString& path, Unreadable unreadable)
         if (!opened.document) return noteUnopened(path, opened);
         AddRecent(setup_, path);
         FillRecent();
-        applyOpenOptions();
         if (!setup_.PreserveLastFolder) return;
         dialogFolder_ = path.left(path.lastIndexOf('/') + 1);
         setup_.ImagesPath = dialogFolder_;
@@ -166,7 +178,7 @@ void fMain::openRecent(int index)
     const QString path = setup_.Recent[std::size_t(index)].trimmed();
     if (path.isEmpty()) return;
     openPath(path, Unreadable::OpensEmpty, [this, path](const Opened& opened) {
-        if (opened.document) return applyOpenOptions();
+        if (opened.document) return;
         noteUnopened(path, opened);
         FillRecent();
     });
@@ -229,11 +241,12 @@ void fMain::saveTo(fImage& image, const QString& path)
     const Format* format = formatOf(path);
     const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    workspace_.save(image.document().handle(), path, [this, slow](const SaveReport& report) {
+    const bool hasPicture = image.PictureExists();
+    workspace_.save(image.document().handle(), path, [this, slow, hasPicture, path](const SaveReport& report) {
         if (slow) QGuiApplication::restoreOverrideCursor();
         report.tell(platform_);
         if (report.result != SaveResult::Written && report.text.isEmpty())
-            platform_.tell("Unexpected error saving image", Icon::Exclamation);
+            platform_.tell("Unexpected error saving image" + whyNotWritten(hasPicture, path), Icon::Exclamation);
     });
 }
 
@@ -271,30 +284,37 @@ void fMain::fromClipboard()
 {
     const MemoryBudget budget;
     const Bits picture = clipboardPicture();
-    if (!picture.isNull()) adopt(picture, setup_.ImagesPath.trimmed() + "New.bmp", Arrival::Brought);
+    if (!picture.isNull()) adopt(picture, inFolder(setup_.ImagesPath.trimmed(), "New.bmp"), Arrival::Brought);
 }
 
+/// What can't be opened is refused before it is dropped: the pointer says so.
 void fMain::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    const QMimeData& data = *event->mimeData();
+    const bool isSlow = data.hasUrls() && data.urls().isEmpty(); // the other program has not given them in time
+    event->setAccepted(isSlow || std::ranges::any_of(pathsOf(data), isRead));
+    if (event->isAccepted()) event->acceptProposedAction();
 }
 
 void fMain::dropEvent(QDropEvent* event)
 {
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile()) paths << url.toLocalFile();
     event->acceptProposedAction();
     // After the drop has ended: the source program is waiting for us until then.
-    QTimer::singleShot(0, this, [this, paths] { dropFiles(paths); });
+    QTimer::singleShot(0, this, [this, paths = pathsOf(*event->mimeData())] { dropFiles(paths); });
 }
 
 void fMain::dropFiles(const QStringList& paths)
 {
-    for (const QString& path : paths)
-        if (const QString picture = path.trimmed(); isDropped(picture))
+    QStringList others;
+    for (const QString& path : paths) {
+        const QString picture = path.trimmed();
+        if (!isRead(picture))
+            others << printable(FileNameOf(picture));
+        else
             openPath(picture, Unreadable::OpensEmpty,
                      [this, picture](const Opened& opened) { noteUnopened(picture, opened); });
+    }
+    if (!others.isEmpty()) status_->say(tr("Of a kind that is not read: %1").arg(others.join(", ")));
 }
 
 } // namespace velara

@@ -19,11 +19,12 @@ void fMain::runSizeWord(const SizeWord& size)
     change(size.word, active(), sizeJob(size), afterOf(size));
 }
 
-void fMain::showFilter(const FilterRow& row)
+void fMain::showFilter(const FilterRow& row, const QString& name)
 {
     const DocumentHandle document = active();
     if (!document || !document->PictureExists()) return;
     const QPointer<fFilter> dialog = new fFilter(*this, row, document, this);
+    dialog->setStepName(name);
     dialog->exec();
     delete dialog; // unless it was destroyed with the frame
 }
@@ -82,7 +83,7 @@ void fMain::newView()
     const fImage& from = *GetActiveImage();
     const int zoom = from.ZoomFactor();
     const QPoint scroll = from.GetSBV();
-    showView(active());
+    showView(active(), false);
     setZoom(zoom);
     documents_->fitActive();
     GetActiveImage()->Scroll(scroll.x(), scroll.y());

@@ -2,6 +2,7 @@
 // lost.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
+#include "app/menus/menus.h"
 #include "seams/Platform.h"
 #include "seams/text.h"
 #include <algorithm>
@@ -21,9 +22,11 @@ void fMain::bindWorkspace()
     connect(&workspace_, &Workspace::idle, this, [this](const DocumentHandle& document) {
         if (document == active()) status_->setProgress(0);
         for (fImage* view : documents_->viewsOf(document)) view->showTool();
+        refreshUndoState();
     });
     connect(&workspace_, &Workspace::busy, this, [this](const DocumentHandle& document) {
         for (fImage* view : documents_->viewsOf(document)) view->showTool();
+        refreshUndoState();
     });
     connect(&workspace_, &Workspace::reading, this, &fMain::showReading);
     connect(&workspace_, &Workspace::renamed, this, &fMain::showName);
@@ -44,7 +47,7 @@ void fMain::changed(const DocumentHandle& document)
 
 void fMain::change(std::string_view word, const DocumentHandle& document, const Job& job, After after)
 {
-    workspace_.change(document, {job, after},
+    workspace_.change(document, {job, after, nameOf(word)},
                       [this, what = text(word)](const Outcome& outcome) { report(what, outcome); });
 }
 

@@ -1,6 +1,8 @@
 #include "app/frame/fStatus.h"
 #include "ui/widgets/inputs/named.h"
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QStyle>
 
 namespace velara {
 
@@ -24,6 +26,23 @@ constexpr PanelRow kPanels[] = {
 };
 // clang-format on
 
+/// Shortens its text in the middle where there is no room: the beginning and the ending of a name tell most.
+class fShortened final : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        const QString whole = text(), shown = fontMetrics().elidedText(whole, Qt::ElideMiddle, contentsRect().width());
+        if (shown == whole) return QLabel::paintEvent(event);
+        QPainter painter(this);
+        drawFrame(&painter);
+        style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(), shown,
+                              foregroundRole());
+    }
+};
+
 } // namespace
 
 fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
@@ -33,7 +52,7 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
     auto* row = new QHBoxLayout(info);
     row->setContentsMargins(4, 0, 4, 0);
     for (const PanelRow& p : kPanels) {
-        auto* label = named(new QLabel(info), QString("sbInfo_") + p.key, p.meaning);
+        auto* label = named(*p.widest ? new QLabel(info) : new fShortened(info), QString("sbInfo_") + p.key, p.meaning);
         label->setToolTip(p.meaning);
         label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         label->setTextFormat(Qt::PlainText);
@@ -48,10 +67,7 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
     progress_ = named(new QProgressBar(this), "cFilterProgress", tr("Progress of the filter"));
     progress_->setRange(0, 100);
     progress_->setTextVisible(false);
-    progress_->setFixedWidth(140);
-    QSizePolicy policy = progress_->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // the panels stay where they are
-    progress_->setSizePolicy(policy);
+    progress_->setFixedWidth(140); // taken from the name, while it is shown
     progress_->hide();
     addWidget(info, 1);
     addPermanentWidget(progress_);
@@ -60,10 +76,17 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
 void fStatus::setPanel(Panel panel, const QString& text)
 {
     panels_[static_cast<int>(panel)]->setText(printable(text));
+    if (panel == Panel::Hint && !text.isEmpty()) clearMessage(); // the keys are needed now
     if (panel != Panel::Hint) return;
     panels_[static_cast<int>(Panel::Hint)]->setVisible(!text.isEmpty());
     for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // those that no gesture replaces
         panels_[static_cast<int>(still)]->setVisible(text.isEmpty());
+}
+
+void fStatus::setPath(const QString& path)
+{
+    QLabel* label = panels_[static_cast<int>(Panel::Name)];
+    label->setToolTip(path.isEmpty() ? QString("Name of the picture") : printable(path));
 }
 
 QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(panel)]->text(); }
@@ -71,6 +94,7 @@ QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(pane
 void fStatus::setProgress(int percent)
 {
     if (percent < 0) return;
+    if (percent > 0) clearMessage();
     progress_->setValue(percent);
     progress_->setVisible(percent > 0 && percent < progress_->maximum()); // hidden when idle
 }

@@ -17,7 +17,9 @@ class fStatus final : public QStatusBar {
 
     void setPanel(Panel panel, const QString& text);
     QString panel(Panel panel) const;
-    /// A message to the user, shown for eight seconds.
+    /// The whole path of the named picture, as its hover text.
+    void setPath(const QString& path);
+    /// A message to the user, shown for eight seconds, or until something else begins.
     void say(const QString& text) { showMessage(printable(text), 8000); }
     /// Percent; negative values are ignored.
     void setProgress(int percent);

@@ -1,7 +1,11 @@
 #include "app/menus/Bars.h"
 #include "app/menus/fIcons.h"
+#include "app/menus/fSearch.h"
+#include "app/menus/menus.h"
+#include "commands/vocabulary.h"
 #include "seams/Machine.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include <QMenu>
 #include <QToolBar>
 #include <algorithm>
@@ -14,6 +18,12 @@ constexpr const char* kSection = "VeStu";
 constexpr int kLayoutVersion = 1; // raised when toolbars are added or removed: an old layout is not for new bars
 
 } // namespace
+
+QString withKey(const QString& text, const QAction& action)
+{
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    return key.isEmpty() ? text : QString("%1 (%2)").arg(text, key);
+}
 
 Bars::Bars(QMainWindow& window, Machine& machine, Setup& setup, Run run, Available available)
     : QObject(&window), window_(window), machine_(machine), setup_(setup), run_(std::move(run)), available_(available)
@@ -41,11 +51,52 @@ void Bars::mark(std::string_view word, int index, bool on)
     if (QAction* marked = item(word, index)) marked->setChecked(on);
 }
 
+void Bars::nameStep(std::string_view word, const QString& step, bool exists)
+{
+    const QString what = nameOf(word), whole = step.isEmpty() ? what : what + ' ' + step;
+    QAction *inMenu = item(word), *onBar = button(word);
+    inMenu->setText('&' + what + whole.mid(what.size()).replace('&', "&&"));
+    onBar->setToolTip(withKey(whole, *inMenu));
+    for (QAction* action : {inMenu, onBar}) action->setEnabled(exists);
+}
+
+std::vector<SearchRow> Bars::searchRows() const
+{
+    std::vector<SearchRow> rows;
+    for (const NamedItem& named : namedItems()) {
+        const MenuRow& row = *named.row;
+        QAction* action = item(row.word, findCommandWord(row.word)->count > 1 ? row.index : 0);
+        const bool isFile = row.word == "@RECENT";
+        if (row.word == "@SEARCH" || (isFile && !action->isVisible())) continue;
+        if (std::ranges::any_of(rows, [action](const SearchRow& other) { return other.action == action; })) continue;
+        const bool isStep = row.word == "UNDO" || row.word == "REDO";
+        rows.push_back({action, isFile || isStep ? plainCaption(action->text()) : named.name, named.path,
+                        text(helpOf(row.word).finds), int(lastUsed_.indexOf(text(row.word)))});
+    }
+    std::ranges::stable_sort(rows, {}, [](const SearchRow& row) { return unsigned(row.lastUsed); }); // -1: never
+    return rows;
+}
+
+void Bars::used(std::string_view word)
+{
+    constexpr qsizetype kMost = 8;
+    if (word == "@SEARCH" || findCommandWord(word)->count > 1 || nameOf(word).isEmpty()) return;
+    lastUsed_.removeAll(text(word));
+    lastUsed_.prepend(text(word));
+    lastUsed_ = lastUsed_.mid(0, kMost);
+}
+
+void Bars::loadLastUsed() { lastUsed_ = machine_.setting(kSection, "LastUsed", "").split(' ', Qt::SkipEmptyParts); }
+void Bars::saveLastUsed() { machine_.setSetting(kSection, "LastUsed", lastUsed_.join(' ')); }
+
 void Bars::makeTrigger(QAction* action, std::string_view word, int index, bool ofMenu)
 {
     action->setIcon(iconOf(word));
     action->setEnabled(available_(word));
-    connect(action, &QAction::triggered, this, [this, word, index] { run_(word, index); });
+    connect(action, &QAction::triggered, this, [this, word, index] {
+        used(word);
+        run_(word, index);
+    });
     items_.push_back({action, word, index, ofMenu});
 }
 

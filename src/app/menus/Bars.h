@@ -3,6 +3,7 @@
 #pragma once
 #include <QMainWindow>
 #include <QObject>
+#include <QStringList>
 #include <array>
 #include <functional>
 #include <string_view>
@@ -18,7 +19,11 @@ namespace velara {
 class Machine;
 struct ButtonRow;
 struct MenuRow;
+struct SearchRow;
 struct Setup;
+
+/// A hover text with the first key of an action: "Copy (Ctrl+C)".
+QString withKey(const QString& text, const QAction& action);
 
 class Bars final : public QObject {
     Q_OBJECT
@@ -37,6 +42,14 @@ class Bars final : public QObject {
     /// The toolbar's button of a word.
     QAction* button(std::string_view word) const { return find(word, 0, false); }
     void mark(std::string_view word, int index, bool on);
+    /// The menu item and the button of UNDO or REDO: with the name of the step that it goes, empty if it has none, and
+    /// whether there is one.
+    void nameStep(std::string_view word, const QString& step, bool exists);
+    /// What fSearch lists: the items of the menus, those last used on top.
+    std::vector<SearchRow> searchRows() const;
+    /// The words of the items last used, the newest first; kept per user.
+    void loadLastUsed();
+    void saveLastUsed();
 
     /// Reloads the icons in the variant that fits the palette.
     void refreshIcons();
@@ -57,6 +70,7 @@ class Bars final : public QObject {
         bool ofMenu;
     };
 
+    void used(std::string_view word);
     QAction* find(std::string_view word, int index, bool ofMenu) const;
     void makeTrigger(QAction* action, std::string_view word, int index, bool ofMenu);
     void buildMenus();
@@ -72,6 +86,7 @@ class Bars final : public QObject {
     Available available_;
     std::vector<Item> items_;
     std::array<QToolBar*, 7> bars_{}; // the order of Setup::BarVisible
+    QStringList lastUsed_;
 };
 
 } // namespace velara

@@ -55,7 +55,9 @@ void Bars::addItem(QMenu& menu, const MenuRow& row)
     item->setObjectName(text(row.array) + "_" + QString::number(row.index));
     item->setShortcuts(sequencesOf(text(row.shortcuts)));
     makeTrigger(item, row.word, findCommandWord(row.word)->count > 1 ? row.index : 0, true);
+    const QString about = text(helpOf(row.word).about);
     if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
+    if (item->isEnabled() && !about.isEmpty()) item->setToolTip(about);
     item->setCheckable(row.checkable);
 }
 
@@ -120,7 +122,9 @@ void Bars::fillToolbar(QToolBar* bar, std::string_view buttons)
         QAction* action = bar->addAction(text(row.caption));
         action->setObjectName(text(row.bar) + "_" + QString::number(row.number));
         makeTrigger(action, row.word, 0, false);
-        action->setToolTip(action->isEnabled() ? text(row.caption) : text(row.caption) + tr(" (not available yet)"));
+        const QAction* inMenu = item(row.word);
+        const QString hover = inMenu ? withKey(text(row.caption), *inMenu) : text(row.caption);
+        action->setToolTip(action->isEnabled() ? hover : hover + tr(" (not available yet)"));
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
         named(button, action->objectName(), text(row.caption));
         addDrops(action, button, row);

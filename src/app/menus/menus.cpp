@@ -1,6 +1,8 @@
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
+#include "seams/text.h"
 #include "tools/toolRows.h"
+#include <QStringList>
 #include <algorithm>
 #include <string>
 
@@ -29,6 +31,8 @@ constexpr MenuRow kMenus[] = {
         {SubMenu, "mnuTwain", 0, "Scann&er"},
             {Item, "TWAIN", 0, "Acquire ...", "ACQUIRETWAIN"},
             {Item, "TWAIN", 1, "Select Source ...", "SELECTSOURCE"},
+            {Separator},
+            {Item, "Camera", 0, "Digital Camera", "@CAMERA"},
         {End},
         {SubMenu, "mnuPrinter", 0, "&Print"},
             {Item, "PRINTER", 0, "Print Preview", "PRINTPREVIEW"},
@@ -52,7 +56,7 @@ constexpr MenuRow kMenus[] = {
         {Item, "EDIT", 8, "Copy Image to Clip&board", "COPYIMAGETOCLIPBOARD"},
         {Item, "EDIT", 9, "Create &from Clipboard", "CREATEFROMCLIPBOARD"},
         {Separator},
-        {Item, "EDIT", 11, "Cr&op", "CROP"},
+        {Item, "EDIT", 11, "Cr&op", "CROP", "Ctrl+Shift+X"},
         {Separator},
         {Item, "EDIT", 13, "I&mage Properties", "IMAGEPROPERTIES"},
         {Item, "EDIT", 14, "Opt&ions ...", "OPTIONS"},
@@ -80,8 +84,8 @@ constexpr MenuRow kMenus[] = {
         {End},
         {Separator},
         {SubMenu, "mnuQuickRotate", 0, "Quick Rotate"},
-            {Item, "QUICKROTATE", 0, "45°", "N45"}, {Item, "QUICKROTATE", 1, "90°", "N90"},
-            {Item, "QUICKROTATE", 2, "180°", "N180"}, {Item, "QUICKROTATE", 3, "270°", "N270"},
+            {Item, "QUICKROTATE", 0, "45°", "N45"}, {Item, "QUICKROTATE", 1, "90°", "N90", "Ctrl+R"},
+            {Item, "QUICKROTATE", 2, "180°", "N180", "Ctrl+Shift+R"}, {Item, "QUICKROTATE", 3, "270°", "N270", "Ctrl+L"},
         {End},
         {SubMenu, "mnuQualityRotate", 0, "Quality Rotate"},
             {Item, "QUALITYROTATE", 0, "45°", "A45"}, {Item, "QUALITYROTATE", 1, "90°", "A90"},
@@ -212,6 +216,7 @@ constexpr MenuRow kMenus[] = {
         {Separator},
         {Item, "VIEWS", 8, "Status Bar", "@STATUSBAR", "", true},
         {Item, "VIEWS", 9, "Side Tools  Bar : Hide n Seek", "@SIDEBAR", "", true},
+        {Item, "VIEWS", 10, "Full Screen", "@FULLSCREEN", "F11", true},
         {Separator},
         {SubMenu, "mnuBars", 0, "Toolbars"},
             {Items, "BAR", 0, "", "@BAR", "", true},
@@ -219,6 +224,9 @@ constexpr MenuRow kMenus[] = {
         {Item, "RESET", 0, "Store Toolbar Layout", "@RESET"},
     {End},
     {Menu, "mnuHelp", 0, "&Help"},
+        {Item, "HELP", 0, "&Help ...", "@HELP", "F1"},
+        {Item, "HELP", 1, "&Find a Command ...", "@SEARCH", "Ctrl+Shift+P"},
+        {Separator},
         {Item, "ABOUT", 10, "&About Velara Studio", "@ABOUT"},
     {End},
 };
@@ -361,6 +369,42 @@ std::span<const MenuRow> menuRows()
         return all;
     }();
     return rows;
+}
+
+QString plainCaption(QString caption)
+{
+    if (caption.endsWith(" ...")) caption.chop(4);
+    return caption.replace("&&", "\1").remove('&').replace('\1', '&');
+}
+
+const std::vector<NamedItem>& namedItems()
+{
+    static const std::vector<NamedItem> items = [] {
+        std::vector<NamedItem> all;
+        QStringList menus;
+        for (const MenuRow& row : menuRows()) {
+            const QString caption = plainCaption(text(row.caption));
+            if (row.kind == Menu || row.kind == SubMenu) menus << caption;
+            if (row.kind == End) menus.removeLast();
+            if (row.kind != Item) continue;
+            const bool isInner = menus.size() > 1;
+            all.push_back({&row,
+                           isInner && caption == "Custom" ? menus.back()
+                           : isInner                      ? menus.back() + ": " + caption
+                                                          : caption,
+                           menus.join(QStringLiteral(" › "))});
+        }
+        return all;
+    }();
+    return items;
+}
+
+QString nameOf(std::string_view word)
+{
+    for (const NamedItem& item : namedItems())
+        if (item.row->word == word) return item.name;
+    const auto button = std::ranges::find(kButtons, word, &ButtonRow::word);
+    return button == std::end(kButtons) ? QString() : text(button->caption);
 }
 
 std::span<const ButtonRow> buttonRows() { return kButtons; }

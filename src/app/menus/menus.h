@@ -1,6 +1,7 @@
 // The menus and toolbars as data: the position and caption of each item, and the word of commands/vocabulary.h that it
 // sends.
 #pragma once
+#include <QString>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,28 @@ struct MenuRow {
 
 /// The whole tree, top down.
 std::span<const MenuRow> menuRows();
+
+/// A caption without its access key and the dots of a dialog.
+QString plainCaption(QString caption);
+
+/// An item by a name that is clear outside of its menu, such as "Emboss: Light", and its menus, as "Filters › Emboss".
+struct NamedItem {
+    const MenuRow* row;
+    QString name, path;
+};
+/// All items, top down.
+const std::vector<NamedItem>& namedItems();
+/// The name of a word's first item, or the caption of its button; empty without one.
+QString nameOf(std::string_view word);
+
+/// What a user may want to know, or look for, beyond the caption.
+struct WordHelp {
+    std::string_view word;
+    std::string_view about; // one line for the hover text of the item
+    std::string_view finds; // other words for it, separated by blanks
+};
+/// Empty texts for a word without any.
+WordHelp helpOf(std::string_view word);
 
 /// A button of a toolbar; missing numbers are separators. A button without a word only opens its drop-down.
 struct ButtonRow {

@@ -54,7 +54,7 @@ fStartPage::fStartPage(Platform& platform, QWidget* parent)
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     title->setFont(large);
-    auto* drop = new QLabel(tr("BMP, DIB, JPG and GIF files may also be dropped here."));
+    auto* drop = new QLabel(tr("Pictures may also be dropped here."));
     drop->setWordWrap(true);
     makeList();
     auto* column = new QVBoxLayout(this);

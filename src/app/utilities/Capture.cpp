@@ -172,7 +172,6 @@ void Capture::show(const Bits& bits, const QString& path, const QString& reason)
 {
     frame_.adopt(bits, path);
     if (bits.isNull()) frame_.report(tr("Capture"), {Outcome::Failed, tr("the screen gave no picture")});
-    if (!bits.isNull() && frame_.setup().OpenZoom > 1) frame_.setZoom(frame_.setup().OpenZoom);
     if (!reason.isEmpty()) frame_.platform().tell(reason, Icon::Exclamation);
 }
 

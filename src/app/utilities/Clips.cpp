@@ -30,7 +30,7 @@ void Clips::cut()
         draft.takeFrom(filter);
     };
     beingCut_ = document;
-    frame_.workspace().change(document, {job}, [this, part](const Outcome& outcome) {
+    frame_.workspace().change(document, {job, After::Step, fMain::tr("Cut")}, [this, part](const Outcome& outcome) {
         frame_.report("CUT", outcome);
         if (outcome) add(*part);
     });

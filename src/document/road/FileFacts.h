@@ -12,6 +12,13 @@ struct FileFacts {
     bool isBrought = false; // the picture came from outside of any file and was never saved
 
     QString markText() const { return mark ? QStringLiteral("[%1]").arg(mark) : QString(); }
+    /// What follows the last separator, right-trimmed, with the mark.
+    QString caption() const
+    {
+        QString name = path.mid(path.lastIndexOf('/') + 1);
+        while (name.endsWith(' ')) name.chop(1);
+        return markText() + name;
+    }
     /// Unique among the open documents.
     QString Tag() const { return markText() + path; }
     /// SAVE writes to the path without asking.

@@ -29,6 +29,7 @@ struct UndoStore::Series {
     struct State {
         std::optional<Bits> picture; // could not be written to disk
         bool gap = false;            // the state before it is not in the series
+        QString name = {};           // of the change that led to it
     };
     UndoFiles files;
     UndoMark mark;
@@ -41,6 +42,7 @@ struct UndoStore::Series {
     int waiting = 0;         // snapshots on their way
     mutable int reading = 0; // threads that read steps
     int step = 0, top = 0;
+    QString newest; // the name of the last snapshot given
     std::atomic<bool> everFailed{false};
     bool passedOver = false;
 
@@ -56,6 +58,7 @@ struct UndoStore::Series {
         written.wait(lock, [this] { return reading == 0; });
     }
     int shownStep() const { return std::min(step + waiting, kLimit); }
+    const State& of(int index) const { return states[static_cast<std::size_t>(index)]; }
     State& of(int index) { return states[static_cast<std::size_t>(index)]; }
     std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
 
@@ -213,17 +216,31 @@ bool UndoStore::canRedo() const
     return series_->waiting == 0 && series_->step < series_->top;
 }
 
+QString UndoStore::undoName() const
+{
+    const std::lock_guard lock(series_->guard);
+    if (series_->shownStep() <= 1) return {};
+    return series_->waiting > 0 ? series_->newest : series_->of(series_->step - 1).name;
+}
+
+QString UndoStore::redoName() const
+{
+    const std::lock_guard lock(series_->guard);
+    return series_->waiting == 0 && series_->step < series_->top ? series_->of(series_->step).name : QString();
+}
+
 bool UndoStore::mayHaveChanged() const { return series_->everFailed || UndoStep() >= 2; }
 
-void UndoStore::save(const Bits& bits)
+void UndoStore::save(const Bits& bits, const QString& name)
 {
     if (bits.isNull()) return;
     {
         std::unique_lock lock(series_->guard);
         series_->written.wait(lock, [this] { return series_->waiting < 2; });
         ++series_->waiting;
+        series_->newest = name;
     }
-    snapshotWriter().start([series = series_, picture = bits]() mutable {
+    snapshotWriter().start([series = series_, picture = bits, name]() mutable {
         series->awaitReaders();
         const bool wanted = !series->abandoned;
         int count = 0;
@@ -232,6 +249,7 @@ void UndoStore::save(const Bits& bits)
         } catch (const std::exception&) { // no memory for a path
             count = series->hold(picture, std::min(series->step, kLimit - 1));
         }
+        if (count > 0) series->of(count - 1).name = std::move(name);
         picture = Bits(); // before anybody is notified: then the next edit need not copy it
         const std::lock_guard lock(series->guard);
         if (wanted) series->step = series->top = count;

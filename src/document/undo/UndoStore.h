@@ -32,12 +32,17 @@ class UndoStore {
     int UndoTop() const;  // snapshots in the series
     bool canUndo() const;
     bool canRedo() const;
+    /// The names, as given to save(), of the changes that a step back or forward takes away or brings; empty without
+    /// one.
+    QString undoName() const;
+    QString redoName() const;
     /// True from the second snapshot on, and when one couldn't be written: there may be something to lose.
     bool mayHaveChanged() const;
 
-    /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. Returns at
-    /// once unless the snapshot before the last one is still being written.
-    void save(const Bits& bits);
+    /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. name: of the
+    /// change that led to it, for the user. Returns at once unless the snapshot before the last one is still being
+    /// written.
+    void save(const Bits& bits, const QString& name = {});
     /// For another thread: waits until save() returns at once.
     std::function<void()> roomLater() const;
     /// Waits for the writing. True when the state shown is on disk, or none was ever saved.

@@ -235,7 +235,7 @@ void fEffectsPage::apply(const DocumentHandle& document, const QString& what,
         texture(filter);
         draft.setBits(filter.bits());
     };
-    frame_.workspace().change(document, {job},
+    frame_.workspace().change(document, {job, After::Step, what},
                               [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }
 

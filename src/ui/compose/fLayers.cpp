@@ -352,17 +352,15 @@ void fLayers::apply(std::function<void(bool done)> then)
     if (!document_ || done_) return then(true);
     setEnabled(false);
     const Job job = [layers = asTyped()](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); };
-    frame_.workspace().change(document_, {job}, [this, alive = QPointer(this), then](const Outcome& outcome) {
-        if (!alive) return;
-        setEnabled(true);
-        frame_.report(windowTitle(), outcome);
-        done_ = outcome || outcome.kind == Outcome::Gone;
-        for (const int index : layers_.indices())
-            if (outcome && layers_.layer(index).shown && !layers_.layer(index).text.isEmpty())
-                keepFont(frame_.platform(), layers_.layer(index).style.family);
-        tellDocument();
-        then(done_);
-    });
+    frame_.workspace().change(document_, {job, After::Step, tr("Text")},
+                              [this, alive = QPointer(this), then](const Outcome& outcome) {
+                                  if (!alive) return;
+                                  setEnabled(true);
+                                  frame_.report(windowTitle(), outcome);
+                                  done_ = outcome || outcome.kind == Outcome::Gone;
+                                  tellDocument();
+                                  then(done_);
+                              });
 }
 
 /// Synchronously, for a question that needs the result.

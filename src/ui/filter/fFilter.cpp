@@ -140,7 +140,7 @@ void fFilter::accept()
     if (running_) return;
     if (detailRun_) detailRun_->stop();
     showRunning(true);
-    change_ = frame_.workspace().change(document_, {filterJob(row_, arguments())},
+    change_ = frame_.workspace().change(document_, {filterJob(row_, arguments()), After::Step, stepName_},
                                         [alive = QPointer(this)](const Outcome& outcome) {
                                             if (alive) alive->ended(outcome);
                                         });

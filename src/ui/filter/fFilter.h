@@ -33,6 +33,8 @@ class fFilter final : public QDialog {
 
     /// The settings of the controls.
     FilterArgs arguments() const;
+    /// What the undo step is called, for the user.
+    void setStepName(const QString& name) { stepName_ = name; }
 
     /// OK and Real Time: runs the filter on the document and closes; stays open, after a message, if that fails.
     void accept() override;
@@ -73,6 +75,7 @@ class fFilter final : public QDialog {
     Frame& frame_;
     const FilterRow& row_;
     DocumentHandle document_;
+    QString stepName_;
     const Bits picture_; // the document may be closed before the dialog
     FilterPreview preview_;
     RunPacer pacer_;

@@ -1,6 +1,8 @@
 // fFilter: making and laying out its controls. Members of control arrays are named name_index.
 #include "document/road/Frame.h"
+#include "engine/operations.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "ui/filter/fFilter.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/inputs/fNumberBox.h"
@@ -16,6 +18,7 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace velara {
 
@@ -44,6 +47,16 @@ QWidget* fFilter::makeControls()
     return controls_;
 }
 
+/// The unit of a slider's numbers, such as how far a blur reaches, and what its ends do; empty for one in units of its
+/// own.
+static QString meaningOf(const FilterRow& row, const FilterSlider& slider)
+{
+    if (slider.step != 1 || slider.centred) return {};
+    const auto operation = std::ranges::find(operations(), row.operation, &Operation::name);
+    const auto parameter = std::ranges::find(operation->parameters, slider.parameter, &Parameter::name);
+    return parameter == operation->parameters.end() ? QString() : text(parameter->meaning);
+}
+
 void fFilter::addSliders(QBoxLayout* layout)
 {
     for (std::size_t i = 0; i < row_.sliders.size(); ++i) {
@@ -51,6 +64,8 @@ void fFilter::addSliders(QBoxLayout* layout)
         if (!slider.used()) continue;
         const QString caption = QString::fromLatin1(slider.caption);
         auto* frame = named(new QFrame(controls_), numbered("frFilter", i));
+        const QString meaning = meaningOf(row_, slider);
+        if (!meaning.isEmpty()) frame->setToolTip(caption + QStringLiteral(": ") + meaning);
         auto* line = new QHBoxLayout(frame);
         line->setContentsMargins(0, 0, 0, 0);
         auto* label = named(new QLabel(caption, frame), numbered("lblFInfo", i));
@@ -59,6 +74,7 @@ void fFilter::addSliders(QBoxLayout* layout)
         bar->setRange(slider.minimum(), slider.maximum());
         bar->setPageStep(std::max(1, (slider.maximum() - slider.minimum()) / 10));
         bar->setValue(slider.initial());
+        bar->setAccessibleDescription(meaning);
         label->setBuddy(bar);
         auto* value = new fNumberBox(*bar, numbered("lblFilterV", i), {slider.step, slider.decimals});
         for (QWidget* widget : std::initializer_list<QWidget*>{label, bar, value}) line->addWidget(widget);

@@ -114,6 +114,7 @@ fCanvas::fCanvas(Platform& platform, const Bits& picture, QWidget* parent)
     auto* list = named(new QComboBox, "cbPreDef", "Defined");
     for (const Defined& d : kDefined) list->addItem(d.entry);
     list->setCurrentIndex(-1);
+    list->setPlaceholderText(tr("Choose a step"));
     auto* label = new QLabel("Defined");
     label->setBuddy(list);
 

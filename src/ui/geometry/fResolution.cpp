@@ -11,8 +11,8 @@ constexpr struct Resolution {
     int width, height;
 } kResolutions[] = {
     // clang-format off
-    {"o340",  "340 x 220",   340, 220},
     {"o480",  "480 x 340",   480, 340},
+    {"o340",  "340 x 220",   340, 220},
     {"o640",  "640 x 480",   640, 480},
     {"o720a", "720 x 480",   720, 480},
     {"o720b", "720 x 576",   720, 576},

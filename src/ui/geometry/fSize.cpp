@@ -3,7 +3,9 @@
 #include "pixels/mBitmap.h"
 #include "pixels/numbers.h"
 #include "ui/widgets/fPicture.h"
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <algorithm>
 
 namespace velara {
@@ -15,6 +17,8 @@ constexpr struct Quick {
     double factor;
 } kQuick[] = {{"1.5 *", 1.5}, {"2.0 *", 2.0}, {"1.5 /", 1 / 1.5}, {"2.0 /", 1 / 2.0}};
 
+int part(int length, double percent) { return roundEven(length * percent / 100); }
+
 } // namespace
 
 fSize::fSize(Platform& platform, const Bits& picture, QWidget* parent)
@@ -22,25 +26,38 @@ fSize::fSize(Platform& platform, const Bits& picture, QWidget* parent)
       size_(picture.width(), picture.height()),
       fields_(new fSizeFields("&Keep proportions", picture.width(), picture.height(),
                               double(picture.width()) / picture.height())),
+      percent_(named(new QDoubleSpinBox, "txtPercent", "Percent")),
       smooth_(named(new QCheckBox("&Anti-Alias"), "chkInterpolate", "Anti-Alias")),
       preview_(new fPicture("iSrc", "Preview", kPreview))
 {
     auto* quickList = named(new QComboBox, "cbPreDef", "Quick");
     for (const Quick& q : kQuick) quickList->addItem(q.entry);
     quickList->setCurrentIndex(-1);
+    quickList->setPlaceholderText(tr("Choose a factor"));
     auto* label = new QLabel("Quick");
     label->setBuddy(quickList);
+    percent_->setRange(0.1, 10000);
+    percent_->setDecimals(1);
+    percent_->setSuffix(" %");
+    percent_->setValue(100);
+    auto* percentLabel = new QLabel(tr("&Percent"));
+    percentLabel->setBuddy(percent_);
 
-    grid().addWidget(preview_, 0, 0, 4, 1);
+    grid().addWidget(preview_, 0, 0, 5, 1);
     grid().addWidget(fields_, 0, 1, 1, 2);
-    grid().addWidget(label, 1, 1);
-    grid().addWidget(quickList, 1, 2);
-    grid().addWidget(smooth_, 2, 1, 1, 2);
-    grid().setRowStretch(3, 1);
+    grid().addWidget(percentLabel, 1, 1);
+    grid().addWidget(percent_, 1, 2);
+    grid().addWidget(label, 2, 1);
+    grid().addWidget(quickList, 2, 2);
+    grid().addWidget(smooth_, 3, 1, 1, 2);
+    grid().setRowStretch(4, 1);
     smooth_->setChecked(true);
     addButtons("cmdOK", "cmdCancel");
 
     connect(quickList, &QComboBox::textActivated, this, &fSize::quick);
+    connect(percent_, &QDoubleSpinBox::valueChanged, this,
+            [this](double percent) { fields_->set(part(size_.width(), percent), part(size_.height(), percent)); });
+    connect(fields_, &fSizeFields::changed, this, &fSize::showPercent);
     connect(fields_, &fSizeFields::changed, this, &fSize::showPreview);
     connect(smooth_, &QCheckBox::toggled, this, &fSize::showPreview);
     showPreview();
@@ -50,6 +67,14 @@ void fSize::quick(const QString& entry)
 {
     const auto* q = std::ranges::find_if(kQuick, [&](const Quick& row) { return entry == row.entry; });
     fields_->set(roundEven(fields_->widthValue() * q->factor), roundEven(fields_->heightValue() * q->factor));
+}
+
+/// Of the width. One that is being typed stands: the size was made from it.
+void fSize::showPercent()
+{
+    if (part(size_.width(), percent_->value()) == fields_->widthValue()) return;
+    const QSignalBlocker quiet(percent_);
+    percent_->setValue(100.0 * fields_->widthValue() / size_.width());
 }
 
 Job fSize::job() const

@@ -2,6 +2,8 @@
 #pragma once
 #include "ui/geometry/fGeometry.h"
 
+class QDoubleSpinBox;
+
 namespace velara {
 
 class fSize final : public fGeometry {
@@ -15,11 +17,13 @@ class fSize final : public fGeometry {
 
   private:
     void quick(const QString& entry);
+    void showPercent();
     void showPreview();
 
     Bits picture_; // scaled to the preview
     QSize size_;   // of the real one
     fSizeFields* fields_;
+    QDoubleSpinBox* percent_;
     QCheckBox* smooth_;
     fPicture* preview_;
 };

@@ -265,9 +265,10 @@ void fOverlay::accept()
     };
     const DocumentHandle onto = chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->file.path)
                                                            : below_; // the copy becomes active
-    frame_.workspace().change(onto, {job}, [alive = QPointer(this)](const Outcome& outcome) {
-        if (alive) alive->ended(outcome);
-    });
+    frame_.workspace().change(onto, {job, After::Step, tr("Image Merging")},
+                              [alive = QPointer(this)](const Outcome& outcome) {
+                                  if (alive) alive->ended(outcome);
+                              });
 }
 
 void fOverlay::ended(const Outcome& outcome)

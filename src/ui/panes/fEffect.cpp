@@ -50,9 +50,9 @@ void FEffect::apply()
         ApplyTexture(filter, index, amount, colour);
         draft.setBits(filter.bits());
     };
-    owner.workspace().change(document, {job}, [&owner, index](const Outcome& outcome) {
-        owner.report(text(effects()[std::size_t(index - 1)].name), outcome);
-    });
+    const QString what = text(effects()[std::size_t(index - 1)].name);
+    owner.workspace().change(document, {job, After::Step, what},
+                             [&owner, what](const Outcome& outcome) { owner.report(what, outcome); });
 }
 
 } // namespace velara

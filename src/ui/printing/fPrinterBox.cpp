@@ -9,6 +9,7 @@ fPrinterBox::fPrinterBox(Printers& printers) : printers_(printers)
     setMinimumContentsLength(24);
     addItem(tr("PDF file ..."), true);
     setCurrentIndex(-1);
+    setPlaceholderText(tr("Choose a printer"));
     connect(this, &QComboBox::activated, this, &fPrinterBox::chosen);
 }
 

@@ -24,10 +24,10 @@ void fBand::place(QPoint scroll, int zoom)
     const Rect ends =
         viewRect({pictureFrom_.x(), pictureFrom_.y(), pictureTo_.x(), pictureTo_.y()}, scroll.x(), scroll.y(), zoom);
     const QPoint from(ends.left, ends.top), to(ends.right, ends.bottom);
-    constexpr int kPen = 1; // an ellipse touches its box from inside, a line includes both ends
+    const int pen = shape_ == BandShape::Line ? 1 : 0; // a line includes both ends; the others lie inside their box
     const QPoint corner(std::min(from.x(), to.x()), std::min(from.y(), to.y()));
     const QPoint far(std::max(from.x(), to.x()), std::max(from.y(), to.y()));
-    setGeometry(QRect(corner, QSize(far.x() - corner.x() + kPen, far.y() - corner.y() + kPen)));
+    setGeometry(QRect(corner, QSize(far.x() - corner.x() + pen, far.y() - corner.y() + pen)));
     from_ = from - corner;
     to_ = to - corner;
     update();

@@ -45,7 +45,7 @@ QPoint fImage::pixelAt(QPointF at) const
 }
 
 /// Shows what the tool would change at the last pointer position; nothing for the hand and a pending paste.
-void fImage::showFootprint() { iDst_->showFootprint(handScrolls() ? Footprint() : tools_->footprint(), lastPixel_); }
+void fImage::showFootprint() { iDst_->showFootprint(mouseScroll_ ? Footprint() : tools_->footprint(), lastPixel_); }
 
 /// The button held during a move.
 int fImage::buttonOf(const QMouseEvent& event) const
@@ -88,15 +88,16 @@ void fImage::pressed(const QMouseEvent& event)
     bringToFront(); // a press in an inactive frame arrives before the frame's activation
     if (!(event.buttons() & grabButton_)) grabButton_ = Qt::NoButton; // its release went to another window
     if (grabButton_ != Qt::NoButton) return;
-    // The middle button moves the picture whatever tool is chosen.
+    // The middle button moves the picture whatever tool is chosen. The hand keeps a press even where there is nothing
+    // to move: it never paints.
     const bool grabs =
-        event.button() == Qt::LeftButton ? handScrolls() : event.button() == Qt::MiddleButton && canScroll();
+        event.button() == Qt::LeftButton ? mouseScroll_ : event.button() == Qt::MiddleButton && canScroll();
     const int button = buttonNumber(event.button());
     if (grabs && !tools_->ToolDown()) {
         activate();
         grabButton_ = event.button();
         grabLast_ = event.globalPosition().toPoint();
-        iDst_->setCursor(cGrab());
+        if (canScroll()) iDst_->setCursor(cGrab());
         return;
     }
     if (button == Tools::NoButton || asks_) return; // what is being closed takes no stroke
@@ -107,7 +108,7 @@ void fImage::pressed(const QMouseEvent& event)
 void fImage::doubleClicked(const QMouseEvent& event)
 {
     const QPoint pixel = pixelAt(event.position());
-    const bool isTools = event.button() == Qt::LeftButton && !handScrolls();
+    const bool isTools = event.button() == Qt::LeftButton && !mouseScroll_;
     if (!isTools || !tools_->doubleClick(pixel.x(), pixel.y())) pressed(event);
 }
 

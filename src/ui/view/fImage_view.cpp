@@ -223,7 +223,9 @@ void fImage::HideShape(BandShape shape) { bands_.hide(shape); }
 
 void fImage::setPointer(Pointer pointer)
 {
-    if (!handScrolls()) iDst_->setCursor(cursorOf(pointer));
+    if (handScrolls()) return;
+    const bool rests = mouseScroll_ && pointer != Pointer::Waiting; // the hand has nothing to move
+    iDst_->setCursor(cursorOf(rests ? Pointer::Default : pointer));
 }
 
 void fImage::showTool()

@@ -48,7 +48,7 @@ TEST_F(FrameTest, EveryItemAndButtonGivesAKnownWordAndIsEnabledWhenItIsThere)
         names << name;
         const QAction* action = frame->action(name);
         ASSERT_NE(action, nullptr) << name.toStdString();
-        const bool follows = name == "tb_0_7" || name == "tb_0_8" || name.startsWith("RF_"); // by their own state
+        const bool follows = word == "UNDO" || word == "REDO" || name.startsWith("RF_"); // by their own state
         EXPECT_TRUE(follows || action->isEnabled() == fMain::available(word)) << name.toStdString();
     };
     int items = 0;
@@ -85,6 +85,108 @@ TEST_F(FrameTest, NoMenuHasAnAccessKeyTwiceAndItemsGoWithoutOnlyWhenNoneIsLeft)
             EXPECT_TRUE(!letter.isLetterOrNumber() || taken.contains(letter.toUpper()))
                 << menu->objectName().toStdString() << ": " << without.toStdString();
     }
+}
+
+TEST_F(FrameTest, UndoAndRedoAreGreyOrNameTheirStep)
+{
+    const auto texts = [&] {
+        QStringList all;
+        for (const char* name : {"EDIT_0", "EDIT_1"})
+            all << frame->action(name)->text() + (frame->action(name)->isEnabled() ? "" : " (grey)");
+        return all.join(", ").toStdString();
+    };
+    EXPECT_EQ(texts(), "&Undo (grey), &Redo (grey)");
+    fImage* image = open(randomBits(60, 50, 4));
+    EXPECT_EQ(texts(), "&Undo (grey), &Redo (grey)");
+    frame->Mmenu("LIGHTEMBOSS");
+    EXPECT_TRUE(comes([&] { return texts() == "&Undo Emboss: Light, &Redo (grey)"; }));
+    frame->workspace().wait();
+    EXPECT_EQ(frame->action("tb_0_7")->toolTip(), "Undo Emboss: Light (Ctrl+Z)");
+    click("Pencil");
+    drag(image, {10, 10}, {30, 25});
+    EXPECT_EQ(texts(), "&Undo Pencil, &Redo (grey)");
+    frame->action("EDIT_0")->trigger();
+    frame->workspace().wait();
+    EXPECT_EQ(texts(), "&Undo Emboss: Light, &Redo Pencil");
+}
+
+TEST_F(FrameTest, ACommandIsFoundByWhatItIsFor)
+{
+    const auto found = [&](const QString& typed, int row = 0, Qt::Key key = Qt::Key_Return) {
+        frame->run("@SEARCH");
+        const QPointer<QDialog> window = frame->findChild<QDialog*>("fSearch");
+        auto* field = window->findChild<QLineEdit*>("txtSearch");
+        field->setText(typed);
+        const auto* list = window->findChild<QTreeWidget*>("lstFound");
+        const QString line = list->topLevelItem(row)->text(0) + '|' + list->topLevelItem(row)->text(1) + '|' +
+                             list->topLevelItem(row)->text(2);
+        for (int i = 0; i < row; ++i) QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, key);
+        EXPECT_TRUE(comes([&] { return !window; }));
+        QCoreApplication::processEvents();
+        frame->workspace().wait();
+        return line.toStdString();
+    };
+    fImage* image = open(randomBits(9, 9, 4));
+    EXPECT_EQ(found("flip vert"), "Flip Vertical|Image|");
+    EXPECT_EQ(image->document().undo.UndoStep(), 2) << "it was run";
+    EXPECT_EQ(found("brush"), "Brush|Tool|B");
+    EXPECT_EQ(setup.CurrentTool, "Brush");
+    frame->action("COLORS_1")->trigger();
+    EXPECT_EQ(found("", 1), "Flip Vertical|Image · used lately|") << "the one before the last used";
+    frame->saveState();
+    EXPECT_EQ(platform.settings["VeStu/LastUsed"], "FLIPV OLDPHOTO");
+    frame->toolClicked("Pencil");
+    EXPECT_EQ(found("size ctrl", 0, Qt::Key_Escape), "Nothing has this name.||");
+    platform.answers = {std::nullopt};
+    EXPECT_EQ(found("load file"), "Open|File|Ctrl+O");
+    EXPECT_EQ(last(), "open: Open file");
+    EXPECT_EQ(found("hide a face", 0, Qt::Key_Escape), "Pixelize|Effects|");
+}
+
+TEST_F(FrameTest, TheFullScreenIsLeftAsItWasEntered)
+{
+    frame->resize(700, 500);
+    frame->run("@FULLSCREEN");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(frame->isFullScreen() && frame->action("VIEWS_10")->isChecked());
+    EXPECT_EQ(setup.FrameWidth, 700 * 15);
+    EXPECT_FALSE(setup.FrameMaximized);
+    QTest::keyClick(frame.get(), Qt::Key_Escape);
+    EXPECT_FALSE(frame->isFullScreen() || frame->action("VIEWS_10")->isChecked());
+}
+
+TEST_F(FrameTest, HoverTextsAndHelpTellTheKeys)
+{
+    EXPECT_EQ(frame->action("tb_0_11")->toolTip(), "Copy (Ctrl+C)");
+    EXPECT_TRUE(frame->action("BLUR_1")->toolTip().contains("two pixels"));
+    frame->run("@HELP");
+    const auto* list = frame->findChild<QTreeWidget*>("lstKeys");
+    QSet<QString> keys;
+    for (const QAction* action : frame->findChildren<QAction*>())
+        for (const QKeySequence& key : action->shortcuts()) {
+            EXPECT_FALSE(keys.contains(key.toString())) << "does nothing: " << key.toString().toStdString();
+            keys << key.toString();
+        }
+    for (const char* key : {"Ctrl+Shift+P", "Ctrl+Alt+I", "F11", "K"})
+        EXPECT_EQ(list->findItems(key, Qt::MatchExactly | Qt::MatchRecursive, 1).size(), 1) << key;
+}
+
+TEST_F(FrameTest, WordsInTheStatusBarGiveWayAndTheNameHasRoom)
+{
+    frame->resize(640, 480);
+    open(randomBits(20, 20, 5), "a rather long name of a picture that nobody can read whole here, at all.bmp");
+    auto* name = frame->findChild<QLabel*>("sbInfo_Name");
+    EXPECT_GT(name->width(), 160);
+    EXPECT_EQ(name->toolTip(), frame->GetActiveImage()->Tag());
+    frame->status().say("words");
+    frame->setStatus(Panel::Pos, "X:1 Y:1");
+    EXPECT_EQ(frame->status().currentMessage(), "words");
+    command("FLIPH");
+    EXPECT_EQ(frame->status().currentMessage(), "");
+    frame->status().say("words");
+    frame->setStatus(Panel::Hint, "Esc: drop");
+    EXPECT_EQ(frame->status().currentMessage(), "");
 }
 
 TEST_F(FrameTest, ViewZoomLeavesThePixels)

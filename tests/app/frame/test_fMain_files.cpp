@@ -288,15 +288,17 @@ TEST_F(FrameTest, ASaveThatFailsSaysSoAndLeavesTheDocument)
     command("SAVEAS");
     EXPECT_TRUE(platform.logged(kWriterError));
     EXPECT_FALSE(platform.logged(kSaveError)) << "one box is enough";
-    platform.answers = {path("b.xyz")};
-    command("SAVEAS");
-    EXPECT_EQ(last(), kSaveError) << "no writer for it";
+    for (const QString ending : {"xyz", "psd"}) {
+        platform.answers = {path("b." + ending)};
+        command("SAVEAS");
+        EXPECT_EQ(last(), kSaveError + "\n\"." + ending.toStdString() + "\" is no format that is written.");
+    }
     platform.log.clear();
     fImage* empty = open({}, "empty.bmp");
     ASSERT_EQ(empty, frame->GetActiveImage());
     platform.answers = {path("e.bmp")};
     command("SAVEAS");
-    EXPECT_EQ(last(), kSaveError) << "no picture";
+    EXPECT_EQ(last(), kSaveError + "\nThere is no picture in it.");
     empty->parentWidget()->close();
     QCoreApplication::processEvents();
     EXPECT_TRUE(image->document().Changed);
@@ -336,16 +338,69 @@ TEST_F(FrameTest, RecentItemsFollowTheFiles)
     EXPECT_FALSE(lost->isVisible() || lost->isEnabled()) << "an empty line";
 }
 
-TEST_F(FrameTest, ADropTakesFourKindsInOrderAndComplainsOnce)
+TEST_F(FrameTest, ADragShowsWhetherItCanBeDropped)
+{
+    for (const auto& [url, taken] : {std::pair("file:///p/a.png", true),
+                                     {"file:///p/a.PSD", true},
+                                     {"file:///p/a.txt", false},
+                                     {"http://x/a.png", false},
+                                     {"file:///p", false}}) {
+        QMimeData data;
+        data.setUrls({QUrl("file:///p/notes"), QUrl(url)});
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(frame.get(), &enter);
+        EXPECT_EQ(enter.isAccepted(), taken) << url;
+    }
+}
+
+TEST_F(FrameTest, WhatComesFromOutsideOpensAsTheOptionsSayAndNewPicturesDoNot)
+{
+    setup.OpenZoom = 3;
+    setup.ImagesMaximized = true;
+    setup.PreserveLastFolder = setup.AskToSave = false;
+    setup.ImagesPath = "/home/images"; // typed without its last separator
+    frame->setDialogFolder("/home/pictures");
+    const QString a = file("a.bmp"), b = file("b.png");
+    const auto shown = [&] {
+        frame->workspace().wait();
+        const fImage* image = frame->GetActiveImage();
+        const auto* window = qobject_cast<QMdiSubWindow*>(image->parentWidget());
+        const auto result = std::tuple(image->Tag(), image->ZoomFactor(), window->isMaximized());
+        image->parentWidget()->close();
+        QCoreApplication::processEvents();
+        return result;
+    };
+    frame->openPicture(a);
+    EXPECT_EQ(shown(), std::tuple(a, 3, true));
+    frame->action("RF_0")->trigger();
+    EXPECT_EQ(shown(), std::tuple(a, 3, true));
+    frame->dropFiles({b});
+    EXPECT_EQ(shown(), std::tuple(b, 3, true));
+    platform.recordingClipboard.bits = randomBits(5, 4, 1);
+    command("CREATEFROMCLIPBOARD");
+    EXPECT_EQ(shown(), std::tuple(QString("/home/images/New.bmp"), 3, true));
+    frame->adopt(randomBits(5, 4, 1), "New.bmp", Arrival::Made);
+    EXPECT_EQ(frame->windowTitle(), "Velara Studio - [New.bmp]");
+    command("CREATEFROMCLIPBOARD");
+    EXPECT_EQ(frame->windowTitle(), "Velara Studio - [[1]New.bmp[*]]") << "one name for two";
+    EXPECT_TRUE(frame->isWindowModified());
+    shown();
+    EXPECT_EQ(shown(), std::tuple(QString("/home/pictures/New.bmp"), 1, false));
+    EXPECT_EQ(frame->windowTitle(), "Velara Studio");
+}
+
+TEST_F(FrameTest, ADropTakesAllKindsInOrderAndComplainsOnce)
 {
     putFile(path("bad.gif"), "nothing");
     const QString gone[] = {path("gone.bmp"), path("gone.gif")};
     frame->dropFiles({file("a.bmp"), file("b.png"), path("bad.gif"), gone[0], file("c.JPG"), path("bad.gif"),
                       path("d.txt"), gone[1]});
     frame->workspace().wait();
-    ASSERT_EQ(frame->documents().size(), 2);
+    ASSERT_EQ(frame->documents().size(), 3);
     EXPECT_EQ(frame->documents()[0]->Caption(), "a.bmp");
-    EXPECT_EQ(frame->documents()[1]->Caption(), "c.JPG");
+    EXPECT_EQ(frame->documents()[1]->Caption(), "b.png");
+    EXPECT_EQ(frame->documents()[2]->Caption(), "c.JPG");
+    EXPECT_EQ(frame->status().currentMessage(), "Of a kind that is not read: d.txt");
     EXPECT_EQ(std::count(platform.log.begin(), platform.log.end(), kLoadError), 1);
     EXPECT_EQ(
         last(),

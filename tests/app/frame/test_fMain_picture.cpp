@@ -49,6 +49,10 @@ TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
     click("Pencil");
     EXPECT_FALSE(frame->toolPane().button("MouseScroll")->isChecked());
+    click("MouseScroll");
+    EXPECT_EQ(frame->toolPane().tool(), "") << "one of them looks pressed";
+    click("MouseScroll");
+    EXPECT_EQ(frame->toolPane().tool(), "Pencil");
     drag(image, {50, 50}, {40, 45});
     EXPECT_EQ(image->GetSBV(), place + QPoint(10, 5));
     EXPECT_FALSE(image->bits() == before);

@@ -200,8 +200,10 @@ void expectOneFrame(Road& r)
         EXPECT_EQ(document.Region.working(), r.engine().BitsRegion());
         EXPECT_EQ(r.frame->status().panel(Panel::Size), image->SizeText());
         EXPECT_EQ(r.frame->status().panel(Panel::Name), image->Caption());
-        EXPECT_EQ(r.frame->action("tb_0_7")->isEnabled(), document.undo.canUndo());
-        EXPECT_EQ(r.frame->action("tb_0_8")->isEnabled(), document.undo.canRedo());
+        for (const char* undo : {"tb_0_7", "EDIT_0"})
+            EXPECT_EQ(r.frame->action(undo)->isEnabled(), document.undo.canUndo()) << undo;
+        for (const char* redo : {"tb_0_8", "EDIT_1"})
+            EXPECT_EQ(r.frame->action(redo)->isEnabled(), document.undo.canRedo()) << redo;
     }
     EXPECT_EQ(r.files().filter(".dat").size(), steps) << r.files().join(' ').toStdString();
     EXPECT_EQ(r.files().filter(".lock").size(), r.frame->documents().size());

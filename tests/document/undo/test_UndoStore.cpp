@@ -73,6 +73,21 @@ TEST_F(UndoStoreTest, StepsBackAndForward)
     expectRedo(picture(7));
 }
 
+TEST_F(UndoStoreTest, StepsHaveTheNamesOfTheirChangesWhereverTheyMove)
+{
+    const auto names = [&] { return (store.undoName() + '|' + store.redoName()).toStdString(); };
+    store.save(picture(0), "first");
+    EXPECT_EQ(names(), "|") << "there is no way back";
+    for (int i = 1; i < 14; ++i) {
+        store.save(picture(i), QString::number(i));
+        EXPECT_EQ(names(), std::to_string(i) + "|") << "at once";
+    }
+    for (int i = 13; i > 4; --i) ASSERT_TRUE(store.undo()) << i;
+    EXPECT_EQ(names(), "|5") << "the oldest ones are gone";
+    store.redo();
+    EXPECT_EQ(names(), "5|6");
+}
+
 TEST_F(UndoStoreTest, TenSnapshotsStand)
 {
     saveMany(0, 10);

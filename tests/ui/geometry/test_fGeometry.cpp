@@ -95,6 +95,11 @@ TEST_F(Geometry, SizeRunsTheChosenResize)
         type("txtW", "100");
     }
     EXPECT_EQ(text("txtH"), "50");
+    auto* percent = dialog.findChild<QDoubleSpinBox*>("txtPercent");
+    EXPECT_EQ(percent->value(), 250) << "of the width";
+    percent->setValue(33.3);
+    EXPECT_EQ(size(), "13 x 7");
+    EXPECT_EQ(percent->value(), 33.3) << "not rounded to the pixels";
 }
 
 TEST_F(Geometry, ResolutionOffersItsSizes)

@@ -58,6 +58,8 @@ TEST_F(Mouse, MovesWithinAPixelAreDropped)
     QTest::keyClick(iDst(), Qt::Key_Up);
     QTest::keyClick(iDst(), Qt::Key_Left);
     EXPECT_EQ(frame.status[Panel::Pos], "X:2 Y:1") << "arrows go on from there";
+    send(QEvent::MouseMove, {-30, 10}, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(frame.status[Panel::Pos], "X:0 Y:2") << "a drag beyond the edge";
     EXPECT_EQ(frame.snapshots, 0);
 }
 
@@ -73,7 +75,7 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     drag({41, 29});
     QWidget* band = control("shpRect");
     ASSERT_TRUE(band->isVisible());
-    EXPECT_EQ(band->geometry(), QRect(8, 8, 33, 21));
+    EXPECT_EQ(band->geometry(), QRect(8, 8, 32, 20));
     release({41, 29});
     EXPECT_FALSE(band->isVisible());
     EXPECT_EQ(w.document().Region.Region().bounds(), (Rect{2, 2, 10, 7}));
@@ -130,7 +132,13 @@ TEST_F(Mouse, TheHandAndTheMiddleButtonScrollAndPaintNothing)
         EXPECT_TRUE(w.bits() == bits);
         EXPECT_EQ(frame.snapshots, 0);
     }
-    w.resize(400, 300); // now all of it is visible: nothing to scroll, the tool works
+    w.resize(400, 300); // now all of it is visible: nothing to scroll
+    EXPECT_EQ(iDst()->cursor().shape(), Qt::ArrowCursor);
+    press({5, 5});
+    drag({9, 9});
+    release({9, 9});
+    EXPECT_TRUE(w.bits() == bits);
+    w.setMouseScroll(false);
     press({5, 5});
     release({5, 5});
     EXPECT_EQ(frame.snapshots, 1);
