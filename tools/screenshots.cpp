@@ -250,9 +250,10 @@ int main(int argc, char** argv)
     save(frame->grab(), "frame_empty");
     const QString picture = platform.folder.filePath("Images/Velara.bmp");
     platform.answers = {picture, picture};
-    frame->Mmenu("OPEN");
-    frame->Mmenu("OPEN");
-    frame->Mmenu("LIGHTEMBOSS");
+    for (const char* word : {"OPEN", "OPEN", "LIGHTEMBOSS"}) {
+        frame->Mmenu(word);
+        frame->workspace().wait();
+    }
     const auto windows = frame->area().subWindowList();
     windows[0]->setGeometry(20, 20, 560, 420);
     windows[1]->setGeometry(260, 120, 600, 420);

@@ -67,7 +67,7 @@ std::vector<SearchRow> Bars::searchRows() const
         const MenuRow& row = *named.row;
         QAction* action = item(row.word, findCommandWord(row.word)->count > 1 ? row.index : 0);
         const bool isFile = row.word == "@RECENT";
-        if (row.word == "@SEARCH" || (isFile && !action->isVisible())) continue;
+        if (row.word == "@SEARCH" || (isFile && (!action->isVisible() || action->text() == "Empty"))) continue;
         if (std::ranges::any_of(rows, [action](const SearchRow& other) { return other.action == action; })) continue;
         const bool isStep = row.word == "UNDO" || row.word == "REDO";
         rows.push_back({action, isFile || isStep ? plainCaption(action->text()) : named.name, named.path,
