@@ -115,6 +115,21 @@ TEST_F(Browser, ShowsWhatIsSelectedAndForgetsWhatWas)
     EXPECT_FALSE(previews().answer(at("a.png"), red({1, 1})));
 }
 
+TEST_F(Browser, ThumbnailsStandBeforeTheNames)
+{
+    show(BrowseMode::Pictures, at("a.png"));
+    window->grab();
+    const auto icon = [&] {
+        const auto shown = tree().currentIndex().data(Qt::DecorationRole).value<QIcon>();
+        return shown.pixmap(32, 32).toImage().pixelColor(16, 16);
+    };
+    EXPECT_NE(icon(), QColor(Qt::red));
+    EXPECT_TRUE(previews().answer("thumbnail " + at("a.png"), red({400, 300})));
+    EXPECT_EQ(icon(), QColor(Qt::red));
+    EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("a.png")), 1);
+    EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("notes.txt")), 0);
+}
+
 TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
 {
     RecordingPreviews previews;
