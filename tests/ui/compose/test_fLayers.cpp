@@ -229,7 +229,9 @@ TEST_F(LayersDialogTest, WhatIsComposedIsShownInPlaceAndIsNoStep)
     auto* area = static_cast<fLayerCanvas*>(canvas());
     compose("xyz");
     EXPECT_EQ((std::vector<Rect>{{25, 30, 40, 43}}), area->composed());
-    EXPECT_EQ("ab", area->inputMethodQuery(Qt::ImSurroundingText).toString());
+    QInputMethodQueryEvent around(Qt::ImSurroundingText);
+    QCoreApplication::sendEvent(area, &around);
+    EXPECT_EQ("ab", around.value(Qt::ImSurroundingText).toString());
     EXPECT_EQ(QPoint(30, 30), find("Cursor")->pos()) << "within the composition";
     compose("", "q");
     EXPECT_TRUE(sameBits(printed(picture, {20, 30}, "aqb"), dialog->asTyped().Blend()));
@@ -239,15 +241,13 @@ TEST_F(LayersDialogTest, WhatIsComposedIsShownInPlaceAndIsNoStep)
 
 TEST_F(LayersDialogTest, ANewTextCanBeSeenAndEveryLayerCaught)
 {
-    fLayers dark(frame, document);
     document->setBits(flatBits(kWidth, kHeight, 0, 0, 250)); // nearly the red that texts have
     frame.workspace_.handOver(*document);
-    used = &dark;
-    dark.asTyped();
+    dialog->asTyped();
     auto* area = static_cast<fLayerCanvas*>(canvas());
     layer({290, 100}, "");
     const int index = area->addLayer();
-    EXPECT_EQ(0, dark.asTyped().layer(index).colour);
+    EXPECT_EQ(0, dialog->asTyped().layer(index).colour);
     EXPECT_EQ(QRect(290, 100, 133, 20), shape(index));
     drag(find("lblGrip_3"), {4, 4}, {-500, 0});
     drag(find("lblGrip_5"), {4, 4}, {0, -500}); // 4 x 4 pixels in a corner
