@@ -13,6 +13,7 @@
 #include "ui/colour/fPicker.h"
 #include "ui/compose/fToolTextures.h"
 #include "ui/panes/fToolPanes.h"
+#include "ui/view/fDisplay.h"
 #include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -112,7 +113,7 @@ bool fMain::eventFilter(QObject* watched, QEvent* event)
         if (type == QEvent::Drop) dropEvent(static_cast<QDropEvent*>(event));
     }
     if (type == QEvent::MouseButtonPress && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton &&
-        qobject_cast<fImage*>(watched) && placesNoText())
+        qobject_cast<fDisplay*>(watched) && placesNoText())
         QMetaObject::invokeMethod(this, &fMain::wantText, Qt::QueuedConnection); // after the press
     if (event->type() == QEvent::MouseMove && setup_.SideBarHidden) {
         const auto* widget = qobject_cast<QWidget*>(watched);

@@ -46,12 +46,12 @@ TEST_F(FrameText, ATypedTextIsStampedInsideTheSelectionWithTheToolsOpacity)
 TEST_F(FrameText, TheTextToolWithoutATextBringsTheBox)
 {
     if (setup.TexturesBoxVisible) frame->action("VIEWS_5")->trigger();
+    const Bits before = flatBits(120, 90, 200, 180, 160);
+    fImage* image = open(before);
     frame->toolPane().button("Text")->click();
     ASSERT_TRUE(find("fToolTextures")->isVisible());
     EXPECT_EQ(find("txtText"), find("fToolTextures")->focusWidget());
     frame->action("VIEWS_5")->trigger();
-    const Bits before = flatBits(120, 90, 200, 180, 160);
-    fImage* image = open(before);
     drag(image, {20, 20}, {55, 45});
     EXPECT_TRUE(QTest::qWaitFor([&] { return find("fToolTextures")->isVisible(); })) << "a press brings it, too";
     EXPECT_TRUE(before == image->bits());
