@@ -346,6 +346,15 @@ bool fLayers::mayClose()
     return alive && (answer == Answer::No || (answer == Answer::Yes && applyNow()));
 }
 
+/// The fonts of what was merged stand on top of the lists from now on.
+void fLayers::keepFonts()
+{
+    for (const int index : layers_.indices()) {
+        const auto& layer = layers_.layer(index);
+        if (layer.shown && !layer.text.isEmpty()) keepFont(frame_.platform(), layer.style.family);
+    }
+}
+
 /// Calls then(true) once the document has the texts; not called if this window is destroyed first.
 void fLayers::apply(std::function<void(bool done)> then)
 {
@@ -358,6 +367,7 @@ void fLayers::apply(std::function<void(bool done)> then)
                                   setEnabled(true);
                                   frame_.report(windowTitle(), outcome);
                                   done_ = outcome || outcome.kind == Outcome::Gone;
+                                  if (outcome) keepFonts();
                                   tellDocument();
                                   then(done_);
                               });

@@ -51,6 +51,7 @@ class fLayers final : public QDialog {
     void showStyle(int index);
     void showState();
     void changeZoom(int by);
+    void keepFonts();
     void tellDocument();
     bool mayClose();
     void apply(std::function<void(bool done)> then);
