@@ -130,6 +130,7 @@ void Capture::grab(const Screen::Done& done)
 void Capture::giveUp()
 {
     patience_.stop();
+    withPointer_ = false;
     frame_.platform().screen().cancel();
     bringBack();
 }

@@ -83,7 +83,7 @@ void Clips::layDown()
     case 0:
         return makeRoom(document);
     case 1:
-        if (frame_.active() == document) hover();
+        if (document && frame_.active() == document) hover(); // it may have been closed while the question was open
     }
 }
 
@@ -111,10 +111,11 @@ void Clips::makeRoom(const DocumentHandle& document)
         resizeCanvas(draft, filter, std::max(part.width(), draft.PictureWidth()),
                      std::max(part.height(), draft.PictureHeight()), 0, 0);
     };
-    frame_.workspace().change(document, {job}, [this, document](const Outcome& outcome) {
-        frame_.report("PASTE", outcome);
-        if (outcome && frame_.active() == document) hover();
-    });
+    frame_.workspace().change(document, {job, After::Step, fMain::tr("Canvas Size")},
+                              [this, document](const Outcome& outcome) {
+                                  frame_.report("PASTE", outcome);
+                                  if (outcome && document && frame_.active() == document) hover();
+                              });
 }
 
 void Clips::hover()
