@@ -15,10 +15,12 @@ double gap(double millimetres)
 
 } // namespace
 
-QRectF printPlace(QSize picture, QSizeF printable, bool center, bool fit)
+QSizeF naturalSize(QSize picture) { return QSizeF(picture) * (kMillimetresAnInch / kPixelsAnInch); }
+
+QRectF printPlace(QSize picture, QSizeF printable, bool center, bool fit, double scale)
 {
     if (picture.isEmpty() || printable.isEmpty()) throw RuntimeError(Fault::DivisionByZero);
-    const QSizeF own = QSizeF(picture) * (kMillimetresAnInch / kPixelsAnInch);
+    const QSizeF own = naturalSize(picture) * (scale > 0 ? scale : 1);
     QSizeF printed = own;
     if (fit || own.width() >= printable.width() || own.height() >= printable.height()) {
         const double ratio = double(picture.width()) / picture.height();
@@ -32,11 +34,11 @@ QRectF printPlace(QSize picture, QSizeF printable, bool center, bool fit)
     return {at, printed};
 }
 
-void PrintPictureToFitPage(PrintPage& page, PageOrientation orientation, bool center, bool fit)
+void PrintPictureToFitPage(PrintPage& page, PageOrientation orientation, bool center, bool fit, double scale)
 {
     const QRectF printable = page.paper.printable(orientation);
     page.orientation = orientation;
-    page.place = printPlace({page.picture.width(), page.picture.height()}, printable.size(), center, fit)
+    page.place = printPlace({page.picture.width(), page.picture.height()}, printable.size(), center, fit, scale)
                      .translated(printable.topLeft());
 }
 

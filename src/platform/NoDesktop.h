@@ -56,8 +56,8 @@ class NoPrinters final : public Printers {
   public:
     Request list(std::function<void(const List&)>) override { return {}; }
     void setCurrent(const QString&) override {}
-    Request paper(const QString&, std::function<void(const Paper&)>) override { return {}; }
-    Paper usualPaper() override { return {}; }
+    Request facts(const QString&, std::function<void(const PrinterFacts&)>) override { return {}; }
+    PrinterFacts fileFacts() override { return {}; }
     Request print(const QString&, const PrintPage&, Done) override { return {}; }
     Request printToFile(const QString&, const PrintPage&, Done) override { return {}; }
     Request options(const QString&, std::function<void(const Options&)>) override { return {}; }

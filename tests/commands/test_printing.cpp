@@ -47,6 +47,9 @@ TEST(Printing, ALandscapeTurnsTheSheetAndWhatThePrinterCantReach)
     EXPECT_EQ(page.place, QRectF(4, 1, 291, 97));
     PrintPictureToFitPage(page, PageOrientation::Portrait, false, true);
     EXPECT_EQ(page.place, QRectF(1, 2, 206, 206.0 / 3));
+    page.paper.size = {90, 40}; // a label
+    PrintPictureToFitPage(page, PageOrientation::Landscape, false, true);
+    EXPECT_EQ(page.place, QRectF(1, 2, 86, 86.0 / 3));
 }
 
 } // namespace velara

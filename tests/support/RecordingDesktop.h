@@ -147,7 +147,8 @@ class RecordingPrinters final : public Printers {
   public:
     List printers;
     Paper tray;
-    QString reason; // the result of the next page
+    int mostCopies = kMostCopies;
+    QString reason, notice; // the result of the next page
     bool silent = false;
     std::vector<std::pair<QString, PrintPage>> pages; // the printer or the file
     std::vector<QString> log;                         // "current NAME", "choose NAME PAPER"
@@ -157,11 +158,11 @@ class RecordingPrinters final : public Printers {
         return ask([=, this] { done(printers); });
     }
     void setCurrent(const QString& name) override { log.push_back("current " + name); }
-    Request paper(const QString&, std::function<void(const Paper&)> done) override
+    Request facts(const QString&, std::function<void(const PrinterFacts&)> done) override
     {
-        return ask([=, this] { done(tray); });
+        return ask([=, this] { done({tray, false, mostCopies}); });
     }
-    Paper usualPaper() override { return {}; }
+    PrinterFacts fileFacts() override { return {}; }
     Request options(const QString& printer, std::function<void(const Options&)> done) override
     {
         return ask([=, this] { done({{tray, {"iso_a4_210x297mm"}}, printer == "Lab"}); });
@@ -173,7 +174,7 @@ class RecordingPrinters final : public Printers {
     Request print(const QString& printer, const PrintPage& page, Done done) override
     {
         pages.emplace_back(printer, page);
-        return ask([=, this] { done(reason); });
+        return ask([=, this] { done({reason, notice}); });
     }
     Request printToFile(const QString& path, const PrintPage& page, Done done) override
     {

@@ -41,41 +41,46 @@ class IntoFile final : public QIODevice {
     bool failed_ = false;
 };
 
-/// The picture, downsampled to the resolution of its quality at that size.
+/// The picture in its colours, downsampled to the resolution of its quality at that size.
 QImage fineEnough(const PrintPage& page)
 {
-    const QImage image = imageOver(page.picture);
+    QImage image = imageOver(page.picture);
     const QSizeF dots = page.place.size() * (finest(page.quality) / kMillimetresAnInch);
-    if (image.width() <= dots.width() && image.height() <= dots.height()) return image;
-    return image.scaled(dots.toSize().expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (image.width() > dots.width() || image.height() > dots.height())
+        image = image.scaled(dots.toSize().expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return page.gray ? image.convertToFormat(QImage::Format_Grayscale8) : image;
 }
 
-bool draw(QIODevice& device, const PrintPage& page)
+bool draw(QIODevice& device, const PrintPage& page, PageTurn turn)
 {
     QPdfWriter writer(&device);
     writer.setCreator(kProgramName);
     writer.setTitle(page.title);
     writer.setResolution(kResolution);
     const QPageSize sheet(page.paper.size, QPageSize::Millimeter, {}, QPageSize::ExactMatch);
-    const bool landscape = page.orientation == PageOrientation::Landscape;
-    if (!writer.setPageLayout({sheet, landscape ? QPageLayout::Landscape : QPageLayout::Portrait, {}})) return false;
+    const bool turned = page.paper.turned(page.orientation), wide = turned && turn == PageTurn::AsViewed;
+    if (!writer.setPageLayout({sheet, wide ? QPageLayout::Landscape : QPageLayout::Portrait, {}})) return false;
     QPainter painter;
     if (!painter.begin(&writer)) return false;
     painter.setRenderHint(QPainter::LosslessImageRendering, page.quality != PrintQuality::Draft);
     constexpr double kDots = kResolution / kMillimetresAnInch;
+    if (turned && !wide) {
+        painter.translate(0, page.paper.size.height() * kDots);
+        painter.rotate(-90);
+    }
     painter.drawImage(QRectF(page.place.topLeft() * kDots, page.place.size() * kDots), fineEnough(page));
     return painter.end();
 }
 
 } // namespace
 
-QString writePagePdf(const QString& path, const PrintPage& page, const std::function<bool()>& goOn)
+QString writePagePdf(const QString& path, const PrintPage& page, const std::function<bool()>& goOn, PageTurn turn)
 {
     OutputFile file(path);
     if (!file.isOpen()) return "the file can't be written";
     file.setGoOn(goOn);
     IntoFile device(file);
-    if (!draw(device, page) || device.failed() || !file.commit()) return "the page can't be written";
+    if (!draw(device, page, turn) || device.failed() || !file.commit()) return "the page can't be written";
     return {};
 }
 

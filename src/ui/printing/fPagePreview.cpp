@@ -52,7 +52,8 @@ void fPagePreview::paintEvent(QPaintEvent*)
     painter.fillRect(sheet(), Qt::white); // paper is white with dark palettes, too
     painter.setPen(QPen(QColor(0xc8, 0xc8, 0xc8), 1, Qt::DotLine));
     painter.drawRect(onSurface(page_.paper.printable(page_.orientation)));
-    if (!bits_.isNull()) painter.drawImage(picture(), imageOver(bits_));
+    const QImage image = bits_.isNull() ? QImage() : imageOver(bits_);
+    painter.drawImage(picture(), page_.gray ? image.convertToFormat(QImage::Format_Grayscale8) : image);
     painter.setPen(QColor(0x80, 0x80, 0x80));
     painter.drawRect(sheet());
 }

@@ -1,6 +1,7 @@
 #include "ui/printing/fPrint.h"
 #include "commands/printing.h"
 #include "seams/Platform.h"
+#include "ui/printing/fOwnSize.h"
 #include "ui/printing/fPagePreview.h"
 #include "ui/printing/fPrinterBox.h"
 #include "ui/widgets/fPicture.h"
@@ -20,7 +21,6 @@ namespace velara {
 namespace {
 
 constexpr QSize kPreview{200, 200};
-constexpr int kMostCopies = 9999; // the limit of print servers
 constexpr PageOrientation kOrientations[] = {PageOrientation::Portrait, PageOrientation::Landscape};
 
 } // namespace
@@ -28,14 +28,14 @@ constexpr PageOrientation kOrientations[] = {PageOrientation::Portrait, PageOrie
 fPrint::fPrint(Platform& platform, const Bits& picture, const QString& name, std::function<void()> toClipboard,
                QWidget* parent)
     : QDialog(parent), platform_(platform), picture_(picture), name_(name), toClipboard_(std::move(toClipboard)),
-      paper_(platform.printers().usualPaper()),
+      facts_(platform.printers().fileFacts()),
       iOut_(new fPagePreview("iOut", tr("The page"), kPreview + QSize(20, 20))), lblSize_(named(new QLabel, "lblSize")),
       lblState_(named(new QLabel, "lblState"))
 {
     setObjectName("fPrint");
     setWindowTitle(tr("Print"));
     setModal(true);
-    iOut_->setPicture(fittingCopy(picture, kPreview));
+    iOut_->setPicture(fittingCopy(picture, kPreview * devicePixelRatioF()));
     lblSize_->setAlignment(Qt::AlignCenter);
     auto* left = new QVBoxLayout;
     left->addWidget(iOut_);
@@ -93,16 +93,25 @@ QWidget* fPrint::makeControls()
     add(tr("Printer"), cbPrinters_, cbPrinters_);
     cbOrientation_ = choice("cbOrientation", tr("Orientation"), {tr("Portrait"), tr("Landscape")});
     cbQuality_ = choice("cbQuality", tr("Quality"), {tr("Draft"), tr("Low"), tr("Medium"), tr("High")});
-    QWidget* copies = makeCopies();
-    add(tr("Copies"), copies, txtCopies_);
+    copies_ = makeCopies();
+    add(tr("Copies"), copies_, txtCopies_);
     chkFit_ = named(new QCheckBox(tr("&Fit to page")), "chkFit");
     chkCenter_ = named(new QCheckBox(tr("&Center image")), "chkCenter");
     chkCenter_->setChecked(true);
     add(tr("Adjustment"), chkFit_, chkFit_);
     grid->addWidget(chkCenter_, grid->rowCount(), 1);
+    ownSize_ = new fOwnSize({picture_.width(), picture_.height()});
+    grid->addWidget(ownSize_, grid->rowCount(), 1);
     grid->setRowStretch(grid->rowCount(), 1);
     connect(cbOrientation_, &QComboBox::currentIndexChanged, this, &fPrint::showPage);
-    connect(chkFit_, &QCheckBox::toggled, this, &fPrint::showPage);
+    connect(chkFit_, &QCheckBox::toggled, this, [this](bool fit) {
+        if (fit) ownSize_->turnOff();
+        showPage();
+    });
+    connect(ownSize_, &fOwnSize::changed, this, [this] {
+        if (ownSize_->scale() > 0) chkFit_->setChecked(false);
+        showPage();
+    });
     connect(chkCenter_, &QCheckBox::toggled, this, &fPrint::showPage);
     return panel;
 }
@@ -125,6 +134,8 @@ QWidget* fPrint::makeCopies()
     sbCopies_->setFixedHeight(txtCopies_->sizeHint().height());
     row->addWidget(txtCopies_);
     row->addWidget(sbCopies_);
+    row->addSpacing(8);
+    row->addWidget(lblCopies_ = named(new QLabel, "lblCopies"));
     row->addStretch();
     connect(sbCopies_, &QScrollBar::valueChanged, this, [this](int copies) {
         if (txtCopies_->text().toInt() != copies) txtCopies_->setText(QString::number(copies));
@@ -146,30 +157,39 @@ void fPrint::showPrinting()
 
 void fPrint::choosePrinter()
 {
-    if (!cmdOK_->isEnabled()) {
-        cmdOK_->setEnabled(true);
-        cmdOK_->setFocus();
-    }
-    paper_ = platform_.printers().usualPaper();
-    paperAsked_.reset();
-    showPage();
-    if (cbPrinters_->isFile()) return;
+    if (std::exchange(factsAsked_, nullptr)) lblState_->clear();
+    copies_->setEnabled(!cbPrinters_->isFile());
+    if (cbPrinters_->isFile()) return showFacts(platform_.printers().fileFacts());
+    cmdOK_->setEnabled(false);
+    lblState_->setText(tr("Asking the printer ..."));
     platform_.printers().setCurrent(cbPrinters_->printer());
-    paperAsked_ = platform_.printers().paper(cbPrinters_->printer(), [this](const Paper& paper) {
-        paper_ = paper;
-        showPage();
+    factsAsked_ = platform_.printers().facts(cbPrinters_->printer(), [this](const PrinterFacts& facts) {
+        lblState_->clear();
+        showFacts(facts);
     });
+}
+
+/// A page can be printed from now on.
+void fPrint::showFacts(const PrinterFacts& facts)
+{
+    facts_ = facts;
+    cmdOK_->setEnabled(true);
+    if (cbPrinters_->hasFocus() && !std::exchange(ready_, true)) cmdOK_->setFocus();
+    sbCopies_->setMaximum(facts.mostCopies);
+    lblCopies_->setText(facts.mostCopies < kMostCopies ? tr("at most %1").arg(facts.mostCopies) : QString());
+    showPage();
 }
 
 PrintPage fPrint::page() const
 {
     PrintPage page;
     page.picture = picture_;
-    page.paper = paper_;
+    page.paper = facts_.paper;
+    page.gray = facts_.gray;
     page.quality = PrintQuality{-(cbQuality_->currentIndex() + 1)};
     page.title = name_;
     PrintPictureToFitPage(page, kOrientations[cbOrientation_->currentIndex()], chkCenter_->isChecked(),
-                          chkFit_->isChecked());
+                          chkFit_->isChecked(), ownSize_->scale());
     return page;
 }
 
@@ -177,6 +197,10 @@ void fPrint::showPage()
 {
     const PrintPage shown = page();
     iOut_->setPage(shown);
+    const double natural = naturalSize({picture_.width(), picture_.height()}).width();
+    const QRectF largest =
+        printPlace({picture_.width(), picture_.height()}, shown.paper.printable(shown.orientation).size(), false, true);
+    ownSize_->showScale(shown.place.width() / natural, largest.width() / natural);
     lblSize_->setText(tr("%1 x %2 mm").arg(shown.place.width(), 0, 'f', 0).arg(shown.place.height(), 0, 'f', 0));
 }
 
@@ -185,7 +209,8 @@ void fPrint::print()
     const QPointer<fPrint> self = this;
     bool isNumber = false;
     const int copies = txtCopies_->text().toInt(&isNumber);
-    if (!isNumber || copies < 1 || copies > kMostCopies) return finished(tr("%1 copies").arg(txtCopies_->text()));
+    if (!cbPrinters_->isFile() && (!isNumber || copies < 1 || copies > facts_.mostCopies))
+        return finished({tr("%1 copies").arg(txtCopies_->text())});
     toClipboard_();
     if (!self) return;
     PrintPage wanted = page();
@@ -195,7 +220,7 @@ void fPrint::print()
 
 void fPrint::send(const PrintPage& page)
 {
-    const auto done = [this](const QString& reason) { finished(reason); };
+    const auto done = [this](const PrintResult& result) { finished(result); };
     Printers& printers = platform_.printers();
     if (!cbPrinters_->isFile()) {
         showPrinting();
@@ -210,12 +235,15 @@ void fPrint::send(const PrintPage& page)
     printing_ = printers.printToFile(*path, page, done);
 }
 
-void fPrint::finished(const QString& reason)
+void fPrint::finished(const PrintResult& result)
 {
     const QPointer<fPrint> self = this;
-    if (!reason.isEmpty()) {
-        lblState_->setText(reason);
+    if (!result.fault.isEmpty()) {
+        lblState_->setText(result.fault);
         platform_.tell("Unable to print", Icon::Exclamation);
+    } else if (!result.notice.isEmpty()) {
+        lblState_->setText(tr("It is waiting"));
+        platform_.tell(result.notice);
     }
     if (self) accept();
 }

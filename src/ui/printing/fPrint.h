@@ -14,6 +14,7 @@ class QScrollBar;
 
 namespace velara {
 
+class fOwnSize;
 class fPagePreview;
 class Platform;
 class fPrinterBox;
@@ -29,26 +30,30 @@ class fPrint final : public QDialog {
     QWidget* makeControls();
     QWidget* makeCopies();
     void choosePrinter();
+    void showFacts(const PrinterFacts& facts);
     void showPage();
     void showPrinting();
     PrintPage page() const;
     void print();
     void send(const PrintPage& page);
-    void finished(const QString& reason);
+    void finished(const PrintResult& result);
 
     Platform& platform_;
     Bits picture_;
     QString name_;
     std::function<void()> toClipboard_;
-    Paper paper_;
-    Printers::Request paperAsked_, printing_;
+    PrinterFacts facts_; // of the chosen printer or file
+    bool ready_ = false; // once they were known
+    Printers::Request factsAsked_, printing_;
     fPrinterBox* cbPrinters_;
     QComboBox *cbOrientation_, *cbQuality_;
     QCheckBox *chkFit_, *chkCenter_;
+    fOwnSize* ownSize_;
+    QWidget* copies_;
     QLineEdit* txtCopies_;
     QScrollBar* sbCopies_;
     fPagePreview* iOut_;
-    QLabel *lblSize_, *lblState_;
+    QLabel *lblCopies_, *lblSize_, *lblState_;
     QWidget* controls_;
     QPushButton* cmdOK_;
 };

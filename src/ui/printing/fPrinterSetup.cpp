@@ -59,7 +59,7 @@ fPrinterSetup::fPrinterSetup(Printers& printers, QWidget* parent)
 void fPrinterSetup::enable(bool known)
 {
     cbPaper_->setEnabled(known);
-    chkGray_->setEnabled(known && !cbPrinters_->isFile());
+    chkGray_->setEnabled(known);
     cmdOK_->setEnabled(known);
 }
 
@@ -83,8 +83,8 @@ void fPrinterSetup::showOptions(const Printers::Options& options)
 
 void fPrinterSetup::choose()
 {
-    printers_.choose({cbPrinters_->printer(), papers_[static_cast<std::size_t>(cbPaper_->currentIndex())],
-                      chkGray_->isEnabled() && chkGray_->isChecked()});
+    printers_.choose(
+        {cbPrinters_->printer(), papers_[static_cast<std::size_t>(cbPaper_->currentIndex())], chkGray_->isChecked()});
     accept();
 }
 

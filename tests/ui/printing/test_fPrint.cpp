@@ -35,8 +35,12 @@ TEST_F(fPrintTest, PrintsAsItIsSet)
 {
     open();
     EXPECT_EQ(text("cbPrinters") + text("cbQuality") + text("txtCopies"), "LabMedium1");
+    EXPECT_EQ(text("lblCopies"), "");
+    find<QScrollBar>("sbCopies")->setValue(8);
+    printers.mostCopies = 5;
     choose("cbPrinters", "Attic");
     EXPECT_EQ(printers.log.back(), "current Attic");
+    EXPECT_EQ(text("txtCopies") + text("lblCopies"), "5at most 5");
     choose("cbOrientation", "Portrait");
     choose("cbQuality", "High");
     click("chkFit");
@@ -87,6 +91,36 @@ TEST_F(fPrintTest, WhatFailsIsToldOnceAndEndsTheDialog)
     open();
     click("cmdOK");
     EXPECT_TRUE(platform.logged("message: Velara Studio: Unable to print"));
+    platform.log.clear();
+    printers.reason.clear();
+    printers.notice = "The printer Lab is paused.";
+    open();
+    click("cmdOK");
+    EXPECT_EQ(platform.log, std::vector<std::string>{"message: Velara Studio: The printer Lab is paused."});
+    EXPECT_FALSE(used->isVisible());
+}
+
+TEST_F(fPrintTest, AnOwnSizeKeepsProportionsAndStaysOnThePage)
+{
+    open(960, 480); // 254 x 127 mm; the page has 280 x 180
+    const auto shown = [&] { return text("sbWidth") + ' ' + text("sbHeight") + ' ' + text("sbPercent"); };
+    EXPECT_EQ(shown(), "254.0 mm 127.0 mm 100.0 %");
+    EXPECT_FALSE(find<QDoubleSpinBox>("sbWidth")->isEnabled());
+    click("chkFit");
+    EXPECT_EQ(shown(), "280.0 mm 140.0 mm 110.2 %");
+    click("chkOwnSize");
+    EXPECT_FALSE(find<QCheckBox>("chkFit")->isChecked());
+    find<QDoubleSpinBox>("sbPercent")->setValue(90);
+    EXPECT_EQ(shown(), "228.6 mm 114.3 mm 90.0 %");
+    find<QDoubleSpinBox>("sbHeight")->setValue(999);
+    EXPECT_EQ(shown(), "280.0 mm 140.0 mm 110.2 %");
+    find<QDoubleSpinBox>("sbWidth")->setValue(200);
+    choose("cbOrientation", "Portrait");
+    EXPECT_EQ(shown(), "180.0 mm 90.0 mm 70.9 %");
+    choose("cbOrientation", "Landscape");
+    EXPECT_EQ(shown(), "200.0 mm 100.0 mm 78.7 %") << "the wish is kept";
+    click("cmdOK");
+    EXPECT_EQ(printers.pages.front().second.place.size(), QSizeF(200, 100));
 }
 
 TEST_F(fPrintTest, WithoutAPrinterThereIsAFile)
@@ -112,8 +146,14 @@ TEST_F(fPrintTest, ASilentServerIsLeft)
     EXPECT_EQ(text("lblState") + text("cbPrinters"), "Looking for printers ...");
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
     EXPECT_TRUE(printers.answer());
-    EXPECT_EQ(text("lblState") + text("cbPrinters"), "Lab");
-    EXPECT_TRUE(printers.answer()); // the paper
+    EXPECT_EQ(text("lblState") + text("cbPrinters"), "Asking the printer ...Lab");
+    EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled()) << "its paper isn't known";
+    choose("cbPrinters", "PDF file ...");
+    EXPECT_EQ(text("lblState"), "");
+    EXPECT_FALSE(printers.answer()) << "of a printer that isn't chosen any more";
+    choose("cbPrinters", "Lab");
+    EXPECT_TRUE(printers.answer());
+    EXPECT_EQ(text("lblState"), "");
     click("cmdOK");
     EXPECT_FALSE(find<QPushButton>("cmdOK")->isEnabled());
     QTest::keyClick(used, Qt::Key_Escape);
@@ -156,7 +196,9 @@ TEST_F(fPrintTest, TheSetupChoosesPrinterPaperAndShades)
     delete used;
     used = new fPrinterSetup(printers, nullptr);
     EXPECT_EQ(text("lblState"), "No printer was found: the print server does not answer");
-    EXPECT_FALSE(find<QCheckBox>("chkGray")->isEnabled());
+    click("chkGray");
+    click("cmdOK");
+    EXPECT_EQ(printers.log.back(), "choose  letter gray") << "a file, too";
 }
 
 } // namespace velara

@@ -44,24 +44,26 @@ std::vector<Paper> led(const Paper& first, std::vector<Paper> papers)
     return papers;
 }
 
-/// The server's options for a page: unscaled, with its number of copies and its quality.
+/// The server's options for a page: upright and unscaled, with its number of copies and its quality.
 JobOptions optionsOf(const PrintPage& page)
 {
     constexpr const char* kQualities[] = {"3", "4", "4", "5"}; // the server knows draft, normal and high
     JobOptions options{{"copies", QByteArray::number(page.copies)},
                        {"print-quality", kQualities[-static_cast<int>(page.quality) - 1]},
+                       {"orientation-requested", "3"},
                        {"print-scaling", "none"}};
+    if (page.gray) options.emplace_back("print-color-mode", "monochrome"); // the grey inks, if it has them
     if (!page.paper.name.isEmpty()) options.emplace_back("media", page.paper.name.toUtf8());
     return options;
 }
 
-QString printBy(const QString& printer, const PrintPage& page, const JobOptions& options, Patience& patience)
+PrintResult printBy(const QString& printer, const PrintPage& page, const JobOptions& options, Patience& patience)
 {
     const QTemporaryDir folder; // accessible to its owner only
     const QString pdf = folder.filePath("page.pdf");
     const auto wanted = [&patience] { return patience.lasts(); };
-    const QString reason = writePagePdf(pdf, page, wanted);
-    if (!reason.isEmpty() || !wanted()) return reason;
+    const QString fault = writePagePdf(pdf, page, wanted, PageTurn::AsFed);
+    if (!fault.isEmpty() || !wanted()) return {fault};
     patience.startAnew(kServerPatience);
     return cupsPrint(printer, pdf, page.title, options, patience);
 }
@@ -89,17 +91,24 @@ void CupsPrinters::setCurrent(const QString& name)
 
 PrinterChoice CupsPrinters::chosenFor(const QString& printer) const
 {
-    return chosen_.printer == printer ? chosen_ : PrinterChoice{printer, {}, false};
+    const auto found = chosen_.find(printer);
+    return found != chosen_.end() ? found->second : PrinterChoice{printer, {}, false};
 }
 
-Paper CupsPrinters::usualPaper() { return chosenFor({}).paper.value_or(usualPapers().front()); }
-
-Printers::Request CupsPrinters::paper(const QString& printer, std::function<void(const Paper&)> done)
+PrinterFacts CupsPrinters::fileFacts()
 {
-    const auto chosen = chosenFor(printer).paper;
-    return talks_.ask<Paper>(
-        [=](Patience& patience) { return chosen ? *chosen : cupsPapers(printer, usualPapers(), patience).front(); },
-        usualPapers().front(), kServerPatience, std::move(done));
+    const PrinterChoice chosen = chosenFor({});
+    return {chosen.paper.value_or(usualPapers().front()), chosen.gray};
+}
+
+Printers::Request CupsPrinters::facts(const QString& printer, std::function<void(const PrinterFacts&)> done)
+{
+    const auto factsOf = [chosen = chosenFor(printer)](const QueueFacts& queue) {
+        return PrinterFacts{chosen.paper.value_or(queue.papers.front()), chosen.gray, queue.mostCopies};
+    };
+    return talks_.ask<PrinterFacts>(
+        [=](Patience& patience) { return factsOf(cupsFacts(printer, usualPapers(), patience)); },
+        factsOf({usualPapers()}), kServerPatience, std::move(done));
 }
 
 Printers::Request CupsPrinters::options(const QString& printer, std::function<void(const Options&)> done)
@@ -109,7 +118,7 @@ Printers::Request CupsPrinters::options(const QString& printer, std::function<vo
     };
     return talks_.ask<Options>(
         [=](Patience& patience) {
-            return optionsWith(printer.isEmpty() ? usualPapers() : cupsPapers(printer, usualPapers(), patience));
+            return optionsWith(printer.isEmpty() ? usualPapers() : cupsFacts(printer, usualPapers(), patience).papers);
         },
         optionsWith(usualPapers()), kServerPatience, std::move(done));
 }
@@ -118,22 +127,25 @@ void CupsPrinters::choose(const PrinterChoice& choice)
 {
     if (!choice.printer.isEmpty()) setCurrent(choice.printer);
     toFile_ = choice.printer.isEmpty();
-    chosen_ = choice;
+    chosen_[choice.printer] = choice;
 }
 
 Printers::Request CupsPrinters::print(const QString& printer, const PrintPage& page, Done done)
 {
     constexpr std::chrono::hours kWriting{24}; // writing the page has no real limit; then the server's time begins
-    JobOptions options = optionsOf(page);
-    if (chosenFor(printer).gray) options.emplace_back("print-color-mode", "monochrome");
-    return talks_.ask<QString>([=](Patience& patience) { return printBy(printer, page, options, patience); }, kSilent,
-                               kWriting, std::move(done));
+    return talks_.ask<PrintResult>(
+        [=, options = optionsOf(page)](Patience& patience) { return printBy(printer, page, options, patience); },
+        {kSilent}, kWriting, std::move(done));
 }
 
 Printers::Request CupsPrinters::printToFile(const QString& path, const PrintPage& page, Done done)
 {
-    return files_.add<QString>([=](const GoOn& goOn) { return writePagePdf(path, page, [&goOn] { return goOn({}); }); },
-                               std::move(done));
+    return files_.add<PrintResult>(
+        [=](const GoOn& goOn) {
+            return PrintResult{writePagePdf(
+                path, page, [&goOn] { return goOn({}); }, PageTurn::AsViewed)};
+        },
+        std::move(done));
 }
 
 } // namespace velara

@@ -4,6 +4,7 @@
 #include "platform/BackgroundQueue.h"
 #include "platform/desktop/printing/Talks.h"
 #include "seams/Printers.h"
+#include <map>
 
 namespace velara {
 
@@ -15,8 +16,8 @@ class CupsPrinters final : public Printers {
 
     Request list(std::function<void(const List&)> done) override;
     void setCurrent(const QString& name) override;
-    Request paper(const QString& printer, std::function<void(const Paper&)> done) override;
-    Paper usualPaper() override;
+    Request facts(const QString& printer, std::function<void(const PrinterFacts&)> done) override;
+    PrinterFacts fileFacts() override;
     Request options(const QString& printer, std::function<void(const Options&)> done) override;
     void choose(const PrinterChoice& choice) override;
     Request print(const QString& printer, const PrintPage& page, Done done) override;
@@ -27,7 +28,7 @@ class CupsPrinters final : public Printers {
     PrinterChoice chosenFor(const QString& printer) const;
 
     Platform& platform_;
-    PrinterChoice chosen_;
+    std::map<QString, PrinterChoice> chosen_;
     bool toFile_ = false; // chosen by the user
     Talks talks_;
     BackgroundQueue files_;

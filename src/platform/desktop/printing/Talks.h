@@ -11,15 +11,20 @@ namespace velara {
 /// The time limit of an answer; thread-safe.
 class Patience {
   public:
-    explicit Patience(std::chrono::milliseconds most) { startAnew(most); }
+    /// Within another one it ends with that at the latest.
+    explicit Patience(std::chrono::milliseconds most, const Patience* within = nullptr) : within_(within)
+    {
+        startAnew(most);
+    }
     void startAnew(std::chrono::milliseconds most) { end_ = Clock::now() + most; }
     void giveUp() { wanted_ = false; }
-    bool lasts() const { return wanted_ && Clock::now() < end_.load(); }
+    bool lasts() const { return wanted_ && Clock::now() < end_.load() && (!within_ || within_->lasts()); }
 
   private:
     using Clock = std::chrono::steady_clock;
     std::atomic<Clock::time_point> end_;
     std::atomic<bool> wanted_ = true;
+    const Patience* within_;
 };
 
 class Talks {

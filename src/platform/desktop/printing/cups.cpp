@@ -1,52 +1,28 @@
-#include "platform/desktop/printing/cups.h"
-#include <QFileInfo>
-#include <cups/cups.h>
+#include "platform/desktop/printing/cupsServer.h"
+#include <algorithm>
 
 namespace velara {
 
 namespace {
 
-constexpr double kSilence = 0.25; // seconds between checks of the patience
-constexpr qint64 kSlowest = 100;  // bytes of a job per millisecond
 constexpr double kUnitsAMillimetre = 100;
 
-/// A connection to the print server; may be null.
-class Server {
-  public:
-    explicit Server(const Patience& patience)
-        : http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kServerPatience.count(),
-                             nullptr))
-    {
-        const auto goOn = [](http_t*, void* lasting) { return int(static_cast<const Patience*>(lasting)->lasts()); };
-        if (http_) httpSetTimeout(http_, kSilence, goOn, const_cast<Patience*>(&patience));
-    }
-    ~Server() { httpClose(http_); }
-    Server(const Server&) = delete;
-    Server& operator=(const Server&) = delete;
-    http_t* get() const { return http_; }
+/// The user's default, or the printer's own. The library's call for it goes on with Letter instead of the latter.
+bool defaultMedia(const Server& server, const Queue& dest, cups_dinfo_t* info, cups_size_t& size)
+{
+    const char* media = cupsGetOption("media", dest.get()->num_options, dest.get()->options);
+    ipp_attribute_t* own = cupsFindDestDefault(server.get(), dest.get(), info, CUPS_MEDIA);
+    if (!media && own) media = ippGetString(own, 0, nullptr);
+    return media && cupsGetDestMediaByName(server.get(), dest.get(), info, media, 0, &size);
+}
 
-  private:
-    http_t* http_;
-};
-
-/// A queue of the server; may be null.
-class Queue {
-  public:
-    Queue(const Server& server, const QString& name)
-        : dest_(server.get() ? cupsGetNamedDest(server.get(), name.toUtf8().constData(), nullptr) : nullptr)
-    {
-    }
-    ~Queue()
-    {
-        if (dest_) cupsFreeDests(1, dest_);
-    }
-    Queue(const Queue&) = delete;
-    Queue& operator=(const Queue&) = delete;
-    cups_dest_t* get() const { return dest_; }
-
-  private:
-    cups_dest_t* dest_;
-};
+int mostCopiesOf(const Server& server, const Queue& dest, cups_dinfo_t* info)
+{
+    ipp_attribute_t* range = cupsFindDestSupported(server.get(), dest.get(), info, CUPS_COPIES);
+    int most = 0;
+    if (range && ippGetValueTag(range) == IPP_TAG_RANGE) ippGetRange(range, 0, &most);
+    return most > 0 ? std::min(most, kMostCopies) : kMostCopies;
+}
 
 } // namespace
 
@@ -66,45 +42,28 @@ Printers::List cupsQueues(const Patience& patience)
     return list;
 }
 
-std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& otherwise, const Patience& patience)
+QueueFacts cupsFacts(const QString& queue, const std::vector<Paper>& papers, const Patience& patience)
 {
     const Server server(patience);
     const Queue dest(server, queue);
-    if (!dest.get()) return otherwise;
-    std::vector<Paper> papers;
-    const auto add = [&papers](const cups_size_t& size) {
+    QueueFacts facts;
+    const auto add = [&facts](const cups_size_t& size) {
         const QString name = QString::fromUtf8(size.media);
-        const bool known = std::ranges::find(papers, name, &Paper::name) != papers.end(); // some without margins, too
+        const bool known = std::ranges::find(facts.papers, name, &Paper::name) != facts.papers.end(); // without margins
         if (known || name.startsWith("custom_") || size.width <= 0 || size.length <= 0) return;
-        papers.push_back({name, QSizeF(size.width, size.length) / kUnitsAMillimetre,
-                          QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre});
+        facts.papers.push_back({name, QSizeF(size.width, size.length) / kUnitsAMillimetre,
+                                QMarginsF(size.left, size.top, size.right, size.bottom) / kUnitsAMillimetre});
     };
-    if (cups_dinfo_t* info = cupsCopyDestInfo(server.get(), dest.get())) {
+    if (cups_dinfo_t* info = dest.get() ? cupsCopyDestInfo(server.get(), dest.get()) : nullptr) {
         cups_size_t size{};
-        if (cupsGetDestMediaDefault(server.get(), dest.get(), info, 0, &size)) add(size);
+        if (defaultMedia(server, dest, info, size)) add(size);
         for (int i = 0; i < cupsGetDestMediaCount(server.get(), dest.get(), info, 0); ++i)
             if (cupsGetDestMediaByIndex(server.get(), dest.get(), info, i, 0, &size)) add(size);
+        facts.mostCopies = mostCopiesOf(server, dest, info);
         cupsFreeDestInfo(info);
     }
-    return papers.empty() ? otherwise : papers;
-}
-
-QString cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options,
-                  Patience& patience)
-{
-    const Server server(patience);
-    if (!server.get()) return "the print server does not answer";
-    const Queue dest(server, queue);
-    if (!dest.get()) return "there is no printer " + queue + " any more";
-    patience.startAnew(kServerPatience + std::chrono::milliseconds(QFileInfo(pdf).size() / kSlowest));
-    cups_option_t* list = nullptr;
-    int count = 0;
-    for (const auto& [name, value] : options) count = cupsAddOption(name.constData(), value.constData(), count, &list);
-    const int job = cupsPrintFile2(server.get(), dest.get()->name, pdf.toUtf8().constData(), title.toUtf8().constData(),
-                                   count, list);
-    const QString reason = job ? QString() : QString::fromUtf8(cupsLastErrorString());
-    cupsFreeOptions(count, list);
-    return reason;
+    if (facts.papers.empty()) facts.papers = papers;
+    return facts;
 }
 
 } // namespace velara

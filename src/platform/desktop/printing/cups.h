@@ -15,11 +15,16 @@ using JobOptions = std::vector<std::pair<QByteArray, QByteArray>>;
 
 /// The queues in the server's order; the current one is the server's default. Empty without a server.
 Printers::List cupsQueues(const Patience& patience);
-/// The papers of a queue, its default first; `otherwise` when it doesn't tell.
-std::vector<Paper> cupsPapers(const QString& queue, const std::vector<Paper>& otherwise, const Patience& patience);
-/// Sends a PDF to a queue. Returns the reason of a failure, for the user; empty when it is accepted. Once the server
-/// has answered, the patience restarts, with the time for the bytes at 100 kB a second.
-QString cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options,
-                  Patience& patience);
+struct QueueFacts {
+    std::vector<Paper> papers; // the default first; at least one
+    int mostCopies = kMostCopies;
+};
+/// `papers` when it doesn't tell.
+QueueFacts cupsFacts(const QString& queue, const std::vector<Paper>& papers, const Patience& patience);
+/// Sends a PDF to a queue and follows the job, for three seconds at most, until it is printed or refused. Once the
+/// server has answered, the patience restarts, with the time for the bytes at 100 kB a second. When the patience ends
+/// or is given up, and whenever an error is returned, the job is cancelled.
+PrintResult cupsPrint(const QString& queue, const QString& pdf, const QString& title, const JobOptions& options,
+                      Patience& patience);
 
 } // namespace velara
