@@ -99,7 +99,7 @@ constexpr DialogRow kDialogs[] = {
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
     {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"IMAGETEXTURES", false},
     {"IMAGECOLORDEPTH", false, "cmbDepth", 1}, {"IMAGESAVEOPTIONS", true, "CboFiles", 4}, {"@ICON", false},
-    {"PRINT", false},
+    {"PRINT", false}, {"ACQUIRETWAIN", false},
 };
 // clang-format on
 
@@ -243,6 +243,10 @@ int main(int argc, char** argv)
 
     RecordingPlatform platform;
     platform.printers().printers = {{"Office", "Photo"}, "Photo"};
+    platform.printers().mostCopies = 99;
+    platform.scanner().sources = {{"flat:0", "Flatbed scanner"}};
+    platform.scanner().range.choices = {{"Flatbed", "Color", false, {50, 1200}, 1, 300, {216, 297}},
+                                        {"Document feeder", "Color", true, {100, 300}, 0, 300, {216, 356}}};
     Setup setup;
     const auto frame = startedEditor(platform, setup);
     frame->resize(1100, 760);

@@ -44,11 +44,8 @@ class NoScanner final : public Scanner {
     {
         done({}, "no scanner");
     }
-    void acquire(const ScanJob&, const QString&, std::function<void(int)>,
-                 std::function<void(const QString&)> done) override
-    {
-        done("no scanner");
-    }
+    void acquire(const ScanJob&, const QString&, ScanCalls calls) override { calls.done("no scanner"); }
+    void next() override {}
     void cancel() override {}
 };
 

@@ -17,6 +17,7 @@ namespace {
 struct SaneScannerTest : FolderTest {
     SaneScanner scanner{builtPath("velara-scan")};
     QList<int> percents;
+    bool others = false;
 
     SaneScannerTest() { qputenv("SANE_CONFIG_DIR", folder.path().toUtf8()); }
     ~SaneScannerTest() override { qunsetenv("SANE_CONFIG_DIR"); }
@@ -26,15 +27,26 @@ struct SaneScannerTest : FolderTest {
         put("dll.conf", "test\n");
         put("test.conf", "number_of_devices 1\ntest-picture \"Color pattern\"\nmode Color\nresolution 50\n" + device);
     }
+    /// The pages of a scan, and why it ends.
+    QList<QImage> scan(const ScanJob& job, QString* reason = nullptr)
+    {
+        QList<QImage> pages;
+        const auto take = [&] {
+            others = others || QFile::permissions(path("scan.bmp")) & (QFile::ReadGroup | QFile::ReadOther);
+            pages << QImage(path("scan.bmp"));
+            scanner.next();
+        };
+        const QString why = answerTo<QString>([&](auto done) {
+            scanner.acquire(job, path("scan.bmp"), {[this](int percent) { percents << percent; }, take, done});
+        });
+        if (reason) *reason = why;
+        EXPECT_FALSE(QFile::exists(path("scan.bmp")));
+        return pages;
+    }
     /// The picture of a scan; null, with reason, when it fails.
     QImage scan(const QString& mode, QString* reason = nullptr, const QString& device = "test:0")
     {
-        const QString why = answerTo<QString>([&](auto done) {
-            scanner.acquire(
-                {device, mode, 50, {10, 20, 60, 40}}, path("scan.bmp"), [this](int p) { percents << p; }, done);
-        });
-        if (reason) *reason = why;
-        return QImage(path("scan.bmp"));
+        return scan({device, "", mode, 50, {10, 20, 60, 40}}, reason).value(0);
     }
 };
 
@@ -47,7 +59,7 @@ TEST_F(SaneScannerTest, AScanIsTheUsersAloneAndFollowsNoLink)
     QFile::link(path("precious"), path("scan.bmp"));
     EXPECT_FALSE(scan("Gray").isNull());
     EXPECT_EQ(QFileInfo(path("precious")).size(), 4);
-    EXPECT_FALSE(QFile::permissions(path("scan.bmp")) & (QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_FALSE(others) << "may read it";
 }
 
 TEST_F(SaneScannerTest, SourcesAndWhatTheyCanDo)
@@ -61,17 +73,37 @@ TEST_F(SaneScannerTest, SourcesAndWhatTheyCanDo)
     });
     ASSERT_EQ(sources.size(), 2);
     EXPECT_EQ(sources[1].device, "test:1");
-    EXPECT_EQ(sources[1].title, "Noname frontend-tester (virtual device)");
+    EXPECT_EQ(sources[1].title, "Noname frontend-tester (virtual device) [test:1]") << "alike";
 
     const auto range = answerTo<ScanRange>([&](auto done) {
         scanner.describe("test:0", [done](const ScanRange& found, const QString&) { done(found); });
     });
-    EXPECT_EQ(range.modes, QStringList({"Gray", "Color"}));
-    EXPECT_EQ(range.mode, "Color");
-    EXPECT_TRUE(range.anyBetween);
-    EXPECT_EQ(range.resolutions, QList<int>({1, 1200}));
-    EXPECT_EQ(range.resolution, 50);
-    EXPECT_EQ(range.bed, QSizeF(200, 200));
+    QStringList choices;
+    for (const ScanChoice& each : range.choices) choices << each.feed + ' ' + each.mode + (each.isFeeder ? "!" : "");
+    EXPECT_EQ(choices, QStringList({"Flatbed Gray", "Flatbed Color", "Automatic Document Feeder Gray!",
+                                    "Automatic Document Feeder Color!"}));
+    ASSERT_EQ(range.current, 1);
+    const ScanChoice& usual = range.choices[1];
+    EXPECT_EQ(usual.resolutions, QList<int>({1, 1200}));
+    EXPECT_EQ(std::pair(usual.step, usual.resolution), std::pair(1, 50));
+    EXPECT_EQ(usual.bed, QSizeF(200, 200));
+}
+
+TEST_F(SaneScannerTest, AFeederIsEmptiedPageByPage)
+{
+    configure("depth 8\n");
+    QString reason = "none";
+    const ScanJob job{"test:0", "Automatic Document Feeder", "Gray", 25, {0, 0, 50, 50}, ScanJob::Pages};
+    EXPECT_EQ(scan(job, &reason).size(), 10) << "as many as the device pretends to have";
+    EXPECT_EQ(reason, "");
+    for (const auto what : {ScanJob::Page, ScanJob::Preview}) {
+        ScanJob one = job;
+        one.what = what;
+        EXPECT_EQ(scan(one).size(), 1);
+    }
+    configure("read-status-code \"SANE_STATUS_NO_DOCS\"\n");
+    EXPECT_TRUE(scan(job, &reason).isEmpty());
+    EXPECT_EQ(reason, "Document feeder out of documents") << "an empty one is an error";
 }
 
 TEST_F(SaneScannerTest, TheWaysInWhichDevicesSendGiveTheSamePicture)
@@ -105,7 +137,6 @@ TEST_F(SaneScannerTest, WhatFailsSaysWhyAndLeavesNoFile)
     configure("read-status-code \"SANE_STATUS_COVER_OPEN\"\n");
     EXPECT_TRUE(scan("Color", &reason).isNull());
     EXPECT_EQ(reason, "Scanner cover is open");
-    EXPECT_FALSE(QFile::exists(path("scan.bmp")));
     EXPECT_TRUE(scan("Color", &reason, "test:7").isNull());
     EXPECT_EQ(reason, "Invalid argument");
 
@@ -124,9 +155,8 @@ TEST_F(SaneScannerTest, AScannerThatHangsIsLeft)
     timer.start();
     {
         SaneScanner hanging(path("hanging"));
-        hanging.acquire(
-            {"test:0", "", 0, {}}, path("scan.bmp"), [&](int p) { percents << p; },
-            [&](const QString&) { answered = true; });
+        hanging.acquire({"test:0", "", "", 0}, path("scan.bmp"),
+                        {[&](int p) { percents << p; }, [] {}, [&](const QString&) { answered = true; }});
         ASSERT_TRUE(comes([&] { return !percents.isEmpty(); }));
         hanging.cancel();
         QCoreApplication::processEvents();

@@ -120,7 +120,8 @@ class RecordingScanner final : public Scanner {
     bool silent = false; // no answer ever comes
     int cancelled = 0;
     std::vector<ScanJob> jobs;
-    std::function<void(const QString& path)> write; // writes a scan's file
+    std::function<void(const QString& path)> write; // writes a page's file
+    int pages = 1;                                  // that come before the reason of a failure
 
     void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override
     {
@@ -128,18 +129,45 @@ class RecordingScanner final : public Scanner {
     }
     void describe(const QString&, std::function<void(const ScanRange&, const QString&)> done) override
     {
-        if (!silent) done(range, reason);
+        described_ = [this, done] { done(range, std::exchange(reason, {})); };
+        if (!silent) answer();
     }
-    void acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
-                 std::function<void(const QString&)> done) override
+    /// To what was described while it was silent.
+    bool answer()
+    {
+        const auto waiting = std::exchange(described_, nullptr);
+        if (waiting) waiting();
+        return waiting != nullptr;
+    }
+    void acquire(const ScanJob& job, const QString& path, ScanCalls calls) override
     {
         jobs.push_back(job);
         if (silent) return;
-        progress(50);
-        if (write && reason.isEmpty()) write(path);
-        done(reason);
+        calls_ = std::move(calls);
+        path_ = path;
+        left_ = pages;
+        calls_.progress(50);
+        next();
     }
-    void cancel() override { ++cancelled; }
+    void next() override
+    {
+        if (!calls_.done) return;
+        if (left_-- <= 0) return std::exchange(calls_, {}).done(reason);
+        if (write) write(path_);
+        calls_.page();
+    }
+    void cancel() override
+    {
+        ++cancelled;
+        calls_ = {};
+        described_ = nullptr;
+    }
+
+  private:
+    std::function<void()> described_;
+    ScanCalls calls_;
+    QString path_;
+    int left_ = 0;
 };
 
 /// Answers at once, unless it is silent: then when the test says so.

@@ -73,7 +73,9 @@ void MonkeyPlatform::change(Dice& dice)
     scanner().silent = dice.oneIn(4);
     scanner().reason = dice.oneIn(4) ? "it is away" : "";
     scanner().sources = dice.oneIn(3) ? QList<ScanSource>{} : QList<ScanSource>{{"flat", "A flatbed"}};
-    scanner().range = {{"Color", "Gray"}, "Color", {75, 150}, false, 75, {210, 297}};
+    const ScanChoice bed{"Flatbed", "Color", false, {75, 150}, 0, 75, {210, 297}};
+    scanner().range = {{bed, {"ADF", "Gray", true, {50, 600}, 5, 0, {210, 350}}}};
+    scanner().pages = dice.below(4);
     scanner().write = [](const QString& path) { drawn({80, 60}).save(path, "BMP"); };
 }
 

@@ -6,7 +6,6 @@
 #include "ui/printing/fPrinterSetup.h"
 #include "ui/utilities/fAcquire.h"
 #include "ui/utilities/fSource.h"
-#include <QFile>
 #include <QPointer>
 
 namespace velara {
@@ -60,11 +59,13 @@ void acquire(fMain& frame)
     const QString path = frame.platform().programFolder() + "/temp.bmp";
     auto* dialog = new fAcquire(frame.platform(), path, &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    const auto take = [&frame, path] {
-        readInBackground(frame.platform(), &frame, path, [&frame, path](const LoadedPicture& scan) {
-            QFile::remove(path);
-            if (!scan.ok()) return showScannerFailure(frame.platform());
-            frame.adopt(scan.bits, "Scan.bmp");
+    const auto take = [&frame, path, dialog = QPointer(dialog)] {
+        readInBackground(frame.platform(), &frame, path, [&frame, dialog](const LoadedPicture& scan) {
+            if (scan.ok())
+                frame.adopt(scan.bits, "Scan.bmp");
+            else
+                showScannerFailure(frame.platform());
+            if (dialog) dialog->pageTaken();
         });
     };
     QObject::connect(dialog, &fAcquire::acquired, &frame, take);

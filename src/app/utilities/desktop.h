@@ -14,7 +14,7 @@ void selectSource(fMain& frame);
 void print(fMain& frame);
 /// Chooses printer and paper for later pages.
 void setUpPrinter(fMain& frame);
-/// Scans one picture as a new document.
+/// Scans a picture, or all pages in a feeder, as new documents.
 void acquire(fMain& frame);
 
 } // namespace velara

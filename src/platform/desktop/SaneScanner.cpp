@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QTimer>
 #include <QVariant>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -16,19 +17,34 @@ constexpr const char* kTarget = "target"; // a property of the child: the file t
 void describeLine(ScanRange& range, const QStringList& words)
 {
     const QString& key = words.front();
-    const auto number = [&words](int i) { return words.value(i).toDouble(); };
-    if (key == "modes") range.modes = words.mid(1);
-    if (key == "mode") range.mode = words.value(1);
-    if (key == "resolution") range.resolution = int(std::lround(number(1)));
-    if (key == "bed") range.bed = {number(1), number(2)};
-    if (key != "resolutions" && key != "range") return;
-    range.anyBetween = key == "range";
-    range.resolutions.clear();
-    for (int i = 1; i < words.size(); ++i) range.resolutions << int(std::lround(number(i)));
-    std::sort(range.resolutions.begin(), range.resolutions.end());
+    const auto number = [&words](int i) { return int(std::lround(words.value(i).toDouble())); };
+    if (key == "choice") {
+        if (words.value(4) == "1") range.current = int(range.choices.size());
+        range.choices << ScanChoice{words.value(1), words.value(2), words.value(3) == "1"};
+    }
+    if (range.choices.isEmpty()) return;
+    ScanChoice& choice = range.choices.last();
+    if (key == "resolution") choice.resolution = number(1);
+    if (key == "bed") choice.bed = {words.value(1).toDouble(), words.value(2).toDouble()};
+    if (key == "range") {
+        choice.resolutions = {std::max(1, number(1)), std::max(1, number(2))};
+        choice.step = std::max(1, number(3));
+    }
+    if (key != "resolutions") return;
+    for (int i = 1; i < words.size(); ++i) choice.resolutions << number(i);
+    std::ranges::sort(choice.resolutions);
 }
 
-/// Removes what a failed scan leaves; the helper can't remove it inside its cage.
+/// Two devices of one model are told apart by their names.
+void tellApart(QList<ScanSource>& sources)
+{
+    QStringList titles;
+    for (const ScanSource& source : sources) titles << source.title;
+    for (ScanSource& source : sources)
+        if (titles.count(source.title) > 1) source.title += " [" + source.device + "]";
+}
+
+/// Removes what a scan leaves; the helper can't remove it inside its cage.
 void removeRest(const QProcess* child)
 {
     if (const QString rest = child->property(kTarget).toString(); !rest.isEmpty()) QFile::remove(rest);
@@ -66,7 +82,7 @@ void SaneScanner::start(const QStringList& arguments, const Line& line, std::fun
         child->disconnect();
         child->deleteLater();
         child_ = nullptr;
-        if (!reason->isEmpty()) removeRest(child);
+        removeRest(child);
         done(*reason);
     };
     connect(child, &QProcess::readyReadStandardOutput, this, readLines);
@@ -83,7 +99,7 @@ void SaneScanner::start(const QStringList& arguments, const Line& line, std::fun
     });
     child->setProcessChannelMode(QProcess::SeparateChannels);
     child->setStandardErrorFile(QProcess::nullDevice()); // drivers print messages
-    child->start(helper_, arguments, QIODevice::ReadOnly);
+    child->start(helper_, arguments);
 }
 
 void SaneScanner::cancel()
@@ -94,6 +110,7 @@ void SaneScanner::cancel()
     child->disconnect();
     removeRest(child); // at once: later the name may be the next scan's
     connect(child, &QProcess::finished, child, &QObject::deleteLater);
+    child->closeWriteChannel(); // it may wait for next()
     child->terminate();
     QTimer::singleShot(kGrace, child, &QProcess::kill);
 }
@@ -106,7 +123,10 @@ void SaneScanner::list(std::function<void(const QList<ScanSource>&, const QStrin
         [sources](const QStringList& words) {
             if (words.front() == "source") *sources << ScanSource{words.value(1), words.value(2)};
         },
-        [sources, done](const QString& reason) { done(*sources, reason); });
+        [sources, done](const QString& reason) {
+            tellApart(*sources);
+            done(*sources, reason);
+        });
 }
 
 void SaneScanner::describe(const QString& device, std::function<void(const ScanRange&, const QString&)> done)
@@ -117,19 +137,23 @@ void SaneScanner::describe(const QString& device, std::function<void(const ScanR
         [range, done](const QString& reason) { done(*range, reason); });
 }
 
-void SaneScanner::acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
-                          std::function<void(const QString&)> done)
+void SaneScanner::acquire(const ScanJob& job, const QString& path, ScanCalls calls)
 {
-    QStringList arguments{"acquire", job.device, job.mode, QString::number(job.resolution)};
+    constexpr const char* kWhat[] = {"page", "pages", "preview"};
+    QStringList arguments{"acquire", job.device, job.feed, job.mode, QString::number(job.resolution)};
     for (const double edge : {job.area.left(), job.area.top(), job.area.right(), job.area.bottom()})
         arguments << QString::number(edge);
-    start(
-        arguments << path,
-        [progress](const QStringList& words) {
-            if (words.front() == "percent") progress(words.value(1).toInt());
-        },
-        std::move(done));
+    const auto line = [calls](const QStringList& words) {
+        if (words.front() == "percent") calls.progress(words.value(1).toInt());
+        if (words.front() == "page") calls.page();
+    };
+    start(arguments << kWhat[job.what] << path, line, calls.done);
     if (child_) child_->setProperty(kTarget, path);
+}
+
+void SaneScanner::next()
+{
+    if (child_) child_->write("next\n");
 }
 
 } // namespace velara

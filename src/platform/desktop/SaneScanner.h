@@ -17,8 +17,8 @@ class SaneScanner final : public QObject, public Scanner {
 
     void list(std::function<void(const QList<ScanSource>&, const QString&)> done) override;
     void describe(const QString& device, std::function<void(const ScanRange&, const QString&)> done) override;
-    void acquire(const ScanJob& job, const QString& path, std::function<void(int)> progress,
-                 std::function<void(const QString&)> done) override;
+    void acquire(const ScanJob& job, const QString& path, ScanCalls calls) override;
+    void next() override;
     /// Asks the child to end its scan cleanly, and kills it if it doesn't.
     void cancel() override;
 

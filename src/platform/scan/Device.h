@@ -11,8 +11,9 @@ namespace velara {
 
 /// The library's error, in its words.
 struct ScanFailure : std::runtime_error {
-    explicit ScanFailure(SANE_Status status) : std::runtime_error(sane_strstatus(status)) {}
+    explicit ScanFailure(SANE_Status status) : std::runtime_error(sane_strstatus(status)), status(status) {}
     explicit ScanFailure(const char* reason) : std::runtime_error(reason) {}
+    SANE_Status status = SANE_STATUS_INVAL;
 };
 inline void check(SANE_Status status)
 {

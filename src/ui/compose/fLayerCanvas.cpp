@@ -1,9 +1,9 @@
 #include "ui/compose/fLayerCanvas.h"
 #include "pixels/images.h"
 #include "text/visibleColour.h"
-#include "ui/compose/layerGrips.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/Mark.h"
+#include "ui/widgets/marks/grips.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>

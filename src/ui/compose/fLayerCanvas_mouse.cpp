@@ -1,6 +1,6 @@
 // The canvas of the layers dialog: the mouse, which moves and sizes layers and marks letters.
 #include "ui/compose/fLayerCanvas.h"
-#include "ui/compose/layerGrips.h"
+#include "ui/widgets/marks/grips.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QStyleHints>

@@ -1,12 +1,10 @@
 #include "ui/utilities/fAcquire.h"
+#include "fileio/readInBackground.h"
 #include "seams/Platform.h"
+#include "ui/utilities/fScanSettings.h"
 #include "ui/utilities/fSource.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QGridLayout>
-#include <QIntValidator>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
@@ -17,8 +15,6 @@ namespace velara {
 namespace {
 
 constexpr const char* kSection = "Scanner"; // of the settings
-constexpr int kUsual[] = {75, 100, 150, 200, 300, 400, 600, 1200, 2400};
-enum Area { Left, Top, Width, Height };
 
 } // namespace
 
@@ -37,7 +33,7 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     sourceRow->addWidget(lblSource_, 1);
     sourceRow->addWidget(cmdSource_);
     column->addLayout(sourceRow);
-    column->addWidget(controls_ = makeControls());
+    column->addWidget(settings_ = new fScanSettings);
     lblState_ = named(new QLabel, "lblState");
     progress_ = named(new QProgressBar, "pbScan", tr("Progress of the scan"));
     QSizePolicy kept = progress_->sizePolicy(); // the window keeps its size when the bar is hidden
@@ -57,55 +53,14 @@ fAcquire::fAcquire(Platform& platform, const QString& path, QWidget* parent)
     column->setSizeConstraint(QLayout::SetFixedSize);
     connect(cmdSource_, &QPushButton::clicked, this, &fAcquire::selectSource);
     connect(cmdScan_, &QPushButton::clicked, this, &fAcquire::scan);
+    connect(settings_, &fScanSettings::previewWanted, this, &fAcquire::preview);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    showRange({});
     begin();
 }
 
 fAcquire::~fAcquire()
 {
     if (asking_) platform_.scanner().cancel();
-}
-
-QWidget* fAcquire::makeControls()
-{
-    auto* panel = new QWidget;
-    auto* grid = new QGridLayout(panel);
-    grid->setContentsMargins(0, 6, 0, 6);
-    const auto add = [grid](QWidget* field, const char* name, const QString& caption, int row, int at) {
-        field->setObjectName(name);
-        auto* label = new QLabel(caption);
-        label->setBuddy(field);
-        grid->addWidget(label, row, at);
-        grid->addWidget(field, row, at + 1);
-    };
-    cbMode_ = new QComboBox;
-    cbResolution_ = new QComboBox;
-    add(cbMode_, "cbMode", tr("&Mode"), 0, 0);
-    add(cbResolution_, "cbResolution", tr("&Resolution (dpi)"), 0, 2);
-    struct AreaRow {
-        const char *name, *caption;
-        int row, at;
-    };
-    constexpr AreaRow kArea[] = {
-        {"sbLeft", "&Left", 1, 0}, {"sbTop", "&Top", 1, 2}, {"sbWidth", "&Width", 2, 0}, {"sbHeight", "&Height", 2, 2}};
-    for (std::size_t i = 0; i < area_.size(); ++i) {
-        area_[i] = new QDoubleSpinBox;
-        area_[i]->setDecimals(1);
-        area_[i]->setSuffix(tr(" mm"));
-        add(area_[i], kArea[i].name, tr(kArea[i].caption), kArea[i].row, kArea[i].at);
-    }
-    cmdWhole_ = named(new QPushButton(tr("Whole &bed")), "cmdWhole");
-    cmdWhole_->setAutoDefault(false);
-    grid->addWidget(cmdWhole_, 3, 3);
-    connect(cmdWhole_, &QPushButton::clicked, this, &fAcquire::wholeBed);
-    // The farther in it begins, the smaller it must be.
-    for (const int edge : {Left, Top})
-        connect(area_[std::size_t(edge)], &QDoubleSpinBox::valueChanged, this, [this, edge](double from) {
-            const double bed = edge == Left ? range_.bed.width() : range_.bed.height();
-            area_[std::size_t(edge + 2)]->setMaximum(bed - from);
-        });
-    return panel;
 }
 
 void fAcquire::setBusy(const QString& what)
@@ -115,7 +70,7 @@ void fAcquire::setBusy(const QString& what)
     progress_->setRange(0, busy ? 0 : 100); // indeterminate until a percentage arrives
     progress_->setValue(0);
     progress_->setTextVisible(false);
-    controls_->setEnabled(!busy && !source_.device.isEmpty());
+    settings_->setEnabled(!busy && !source_.device.isEmpty());
     cmdSource_->setEnabled(!busy);
     cmdScan_->setEnabled(!busy && !source_.device.isEmpty());
     progress_->setVisible(busy);
@@ -130,7 +85,8 @@ void fAcquire::begin()
     useSource(last, true);
 }
 
-/// No source was chosen, or it no longer exists: uses the first one found.
+/// No source was chosen, or it no longer exists: uses one with the same title, which may have another name after it was
+/// plugged in again, or the first one found.
 void fAcquire::lookForSource()
 {
     source_ = {};
@@ -139,7 +95,9 @@ void fAcquire::lookForSource()
     platform_.scanner().list([this](const QList<ScanSource>& sources, const QString& reason) {
         setBusy({});
         if (sources.isEmpty()) return failed(reason.isEmpty() ? tr("no scanner was found") : reason);
-        useSource(sources.front());
+        const QString last = rememberedSource(platform_).title;
+        const auto same = std::ranges::find(sources, last, &ScanSource::title);
+        useSource(same != sources.end() ? *same : sources.front());
     });
 }
 
@@ -167,82 +125,79 @@ void fAcquire::describe(bool isRemembered)
     setBusy(tr("Asking the scanner ..."));
     platform_.scanner().describe(source_.device, [this, isRemembered](const ScanRange& range, const QString& reason) {
         setBusy({});
-        if (reason.isEmpty()) return showRange(range);
+        if (reason.isEmpty()) return settings_->setRange(range, lastJob());
         if (isRemembered) return lookForSource(); // not connected now
         source_ = {};
         failed(reason);
     });
 }
 
-void fAcquire::showRange(const ScanRange& range)
+ScanJob fAcquire::lastJob() const
 {
-    range_ = range;
-    cbMode_->clear();
-    cbMode_->addItems(range.modes);
-    const QString mode = platform_.setting(kSection, "Mode", range.mode);
-    cbMode_->setCurrentText(range.modes.contains(mode) ? mode : range.mode);
-    cbMode_->setEnabled(!range.modes.isEmpty());
-
-    cbResolution_->clear();
-    cbResolution_->setEnabled(range.resolution > 0);
-    cbResolution_->setEditable(range.anyBetween);
-    QList<int> offered = range.resolutions;
-    if (range.anyBetween && offered.size() == 2) {
-        const int least = offered.front(), most = offered.back();
-        offered = {range.resolution};
-        for (const int usual : kUsual)
-            if (usual >= least && usual <= most && !offered.contains(usual)) offered << usual;
-        std::sort(offered.begin(), offered.end());
-        cbResolution_->setValidator(new QIntValidator(std::max(1, least), most, cbResolution_));
-    }
-    for (const int dpi : offered) cbResolution_->addItem(QString::number(dpi));
-    const int last = platform_.setting(kSection, "Resolution", "0").toInt();
-    cbResolution_->setCurrentText(QString::number(offered.contains(last) ? last : range.resolution));
-
-    for (QDoubleSpinBox* field : area_) field->setEnabled(!range.bed.isEmpty());
-    cmdWhole_->setEnabled(!range.bed.isEmpty());
-    wholeBed();
+    return {{},
+            platform_.setting(kSection, "Feed", ""),
+            platform_.setting(kSection, "Mode", ""),
+            platform_.setting(kSection, "Resolution", "0").toInt()};
 }
 
-void fAcquire::wholeBed()
+void fAcquire::preview()
 {
-    const double sizes[] = {range_.bed.width(), range_.bed.height()};
-    for (std::size_t i = 0; i < 2; ++i) {
-        area_[i]->setRange(0, std::max(0.0, sizes[i] - 1));
-        area_[i]->setValue(0);
-        area_[i + 2]->setRange(1, std::max(1.0, sizes[i]));
-        area_[i + 2]->setValue(sizes[i]);
-    }
-}
-
-ScanJob fAcquire::job() const
-{
-    ScanJob job{source_.device, cbMode_->currentText(), cbResolution_->currentText().toInt(), {}};
-    if (!range_.bed.isEmpty())
-        job.area = {area_[Left]->value(), area_[Top]->value(), area_[Width]->value(), area_[Height]->value()};
-    return job;
+    const auto show = [this] {
+        readInBackground(platform_, this, path_, [this](const LoadedPicture& picture) {
+            settings_->setPreview(picture.bits);
+            platform_.scanner().next();
+        });
+    };
+    start(settings_->previewJob(), show, [] {});
 }
 
 void fAcquire::scan()
 {
-    const ScanJob wanted = job();
+    const ScanJob wanted = settings_->job();
+    platform_.setSetting(kSection, "Feed", wanted.feed);
     platform_.setSetting(kSection, "Mode", wanted.mode);
     platform_.setSetting(kSection, "Resolution", QString::number(wanted.resolution));
     rememberSource(platform_, source_);
+    pages_ = 0;
+    const auto give = [this] {
+        taking_ = true;
+        ++pages_;
+        emit acquired();
+    };
+    start(wanted, give, [this] { accept(); });
+}
+
+/// then follows when all is scanned.
+void fAcquire::start(ScanJob job, std::function<void()> page, std::function<void()> then)
+{
+    job.device = source_.device;
     setBusy(tr("Scanning ..."));
-    platform_.scanner().acquire(
-        wanted, path_,
-        [this](int percent) {
-            progress_->setRange(0, 100);
-            progress_->setValue(percent);
-            progress_->setTextVisible(true);
-        },
-        [this](const QString& reason) {
-            setBusy({});
-            if (!reason.isEmpty()) return failed(reason);
-            accept();
-            emit acquired();
-        });
+    const auto progress = [this](int percent) {
+        progress_->setRange(0, 100);
+        progress_->setValue(percent);
+        progress_->setTextVisible(true);
+    };
+    const auto done = [this, then = std::move(then)](const QString& reason) {
+        setBusy({});
+        if (reason.isEmpty()) return then();
+        failed(reason);
+    };
+    platform_.scanner().acquire(job, path_, {progress, std::move(page), done});
+}
+
+void fAcquire::pageTaken()
+{
+    taking_ = false;
+    if (leaving_) return QDialog::reject();
+    if (settings_->job().what == ScanJob::Pages) setBusy(tr("Scanning page %1 ...").arg(pages_ + 1));
+    platform_.scanner().next();
+}
+
+/// A page that is being read becomes a document all the same.
+void fAcquire::reject()
+{
+    leaving_ = taking_;
+    if (!leaving_) QDialog::reject();
 }
 
 /// The window stays open: a lid can be closed, a cable plugged in.
@@ -251,7 +206,7 @@ void fAcquire::failed(const QString& reason)
     const QPointer<fAcquire> self = this;
     lblState_->setText(tr("The scanner says: ") + reason);
     showScannerFailure(platform_);
-    if (self) controls_->setEnabled(!source_.device.isEmpty());
+    if (self) settings_->setEnabled(!source_.device.isEmpty());
 }
 
 } // namespace velara

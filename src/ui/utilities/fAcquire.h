@@ -3,10 +3,8 @@
 #pragma once
 #include "seams/Scanner.h"
 #include <QDialog>
-#include <array>
+#include <functional>
 
-class QComboBox;
-class QDoubleSpinBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -14,43 +12,45 @@ class QPushButton;
 namespace velara {
 
 class Platform;
+class fScanSettings;
 
 class fAcquire final : public QDialog {
     Q_OBJECT
   public:
-    /// Scans into the file at path. The last source, mode and resolution are kept as settings.
+    /// Scans into the file at path. The last source, feed, mode and resolution are kept as settings.
     fAcquire(Platform& platform, const QString& path, QWidget* parent);
     ~fAcquire() override;
+    /// The file that was acquired isn't needed any more.
+    void pageTaken();
+    void reject() override;
 
   signals:
-    /// The file contains the picture; the window is closed.
+    /// The file contains a page; nothing more is scanned until pageTaken().
     void acquired();
 
   private:
-    QWidget* makeControls();
     void begin();
     void lookForSource();
     void useSource(const ScanSource& source, bool isRemembered = false);
     void selectSource();
     void describe(bool isRemembered);
-    void showRange(const ScanRange& range);
-    void wholeBed();
+    void preview();
     void scan();
+    void start(ScanJob job, std::function<void()> page, std::function<void()> then);
     void failed(const QString& reason);
     void setBusy(const QString& what); // empty: no longer busy
-    ScanJob job() const;
+    ScanJob lastJob() const;
 
     Platform& platform_;
     QString path_;
     ScanSource source_;
-    ScanRange range_;
-    bool asking_ = false; // the scanner has yet to answer
+    bool asking_ = false;  // the scanner has yet to answer
+    bool taking_ = false;  // a page is being read
+    bool leaving_ = false; // once it is read
+    int pages_ = 0;        // of this scan
     QLabel *lblSource_, *lblState_;
     QPushButton *cmdSource_, *cmdScan_;
-    QWidget* controls_;
-    QComboBox *cbMode_, *cbResolution_;
-    std::array<QDoubleSpinBox*, 4> area_; // left, top, width, height
-    QPushButton* cmdWhole_;
+    fScanSettings* settings_;
     QProgressBar* progress_;
 };
 

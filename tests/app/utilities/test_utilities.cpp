@@ -5,12 +5,15 @@
 #include "app/utilities/Clips.h"
 #include "fileio/writers/iconFile.h"
 #include "support/files.h"
+#include "ui/utilities/fBed.h"
 #include "ui/widgets/marks/ScreenCover.h"
 #include <QtTest>
 
 namespace velara {
 
 namespace {
+
+constexpr const char* kNoScanner = "message: Velara Studio: Please Verify that the system is connected to Scanner!";
 
 struct UtilitiesTest : FrameTest {
     template <class T> T* control(const char* window, const char* name)
@@ -36,6 +39,12 @@ struct UtilitiesTest : FrameTest {
     {
         EXPECT_TRUE(comes([this] { return frame->GetActiveImage() != nullptr; }));
         return frame->GetActiveImage();
+    }
+    static void writeScan(const QString& file)
+    {
+        QImage picture(6, 5, QImage::Format_RGB32);
+        picture.fill(qRgb(7, 8, 9));
+        EXPECT_TRUE(picture.save(file));
     }
     void select(fImage* image, int left, int top, int right, int bottom)
     {
@@ -319,12 +328,9 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
 {
     RecordingScanner& scanner = platform.scanner();
     scanner.sources = {{"a:0", "First"}, {"b:1", "Second"}};
-    scanner.range = {{"Gray", "Color"}, "Gray", {75, 300}, false, 75, {200, 100}};
-    scanner.write = [](const QString& file) {
-        QImage picture(6, 5, QImage::Format_RGB32);
-        picture.fill(qRgb(7, 8, 9));
-        EXPECT_TRUE(picture.save(file));
-    };
+    scanner.range.choices = {{"", "Gray", false, {75, 300}, 0, 75, {200, 100}},
+                             {"", "Color", false, {75, 300}, 0, 75, {200, 100}}};
+    scanner.write = writeScan;
     command("SELECTSOURCE");
     control<QListWidget>("fSource", "lstSources")->setCurrentRow(1);
     control<QPushButton>("fSource", "cmdSelect")->click();
@@ -336,20 +342,77 @@ TEST_F(UtilitiesTest, AScanBecomesADocumentAndItsSourceIsRemembered)
     control<QComboBox>("fAcquire", "cbResolution")->setCurrentText("300");
     control<QPushButton>("fAcquire", "cmdScan")->click();
     ASSERT_EQ(scanner.jobs.size(), 1u);
-    const auto& [device, mode, resolution, area] = scanner.jobs[0];
-    EXPECT_EQ(QString("%1 %2 %3").arg(device, mode).arg(resolution), "b:1 Color 300");
+    const auto& [device, feed, mode, resolution, area, what] = scanner.jobs[0];
+    EXPECT_EQ(QString("%1 %2%3 %4").arg(device, feed, mode).arg(resolution), "b:1 Color 300");
     EXPECT_EQ(area, QRectF(0, 0, 200, 100));
     fImage* image = waitForDocument();
     EXPECT_EQ(image->bits().at(5, 4), (Pixel{{9, 8, 7, 0}}));
     EXPECT_TRUE(image->isWindowModified()) << "it is nowhere else";
-    EXPECT_FALSE(QFile::exists(path("temp.bmp")));
+    scanner.sources = {{"a:0", "First"}, {"b:2", "Second"}}; // plugged in again
+    scanner.silent = true;
+    command("ACQUIRETWAIN");
+    scanner.reason = "Invalid argument";
+    scanner.silent = false;
+    EXPECT_TRUE(scanner.answer());
+    EXPECT_EQ(control<QLabel>("fAcquire", "lblSource")->toolTip(), "b:2");
+}
+
+TEST_F(UtilitiesTest, OnAPreviewTheAreaIsDrawnAndAFeederGivesADocumentAPage)
+{
+    RecordingScanner& scanner = platform.scanner();
+    scanner.sources = {{"a:0", "First"}};
+    scanner.range.choices = {{"Flatbed", "Gray", false, {50, 600}, 50, 0, {200, 300}},
+                             {"ADF", "Gray", true, {100, 240}, 0, 100, {210, 350}}};
+    scanner.write = writeScan;
+    command("ACQUIRETWAIN");
+    control<QPushButton>("fAcquire", "cmdPreview")->click();
+    EXPECT_EQ(std::pair(scanner.jobs[0].what, scanner.jobs[0].resolution), std::pair(ScanJob::Preview, 100));
+    EXPECT_TRUE(comes([&] { return control<QLabel>("fAcquire", "lblState")->text().isEmpty(); }));
+    auto* bed = control<fBed>("fAcquire", "fBed");
+    EXPECT_EQ(bed->grab().toImage().pixelColor(bed->onSurface(QPointF(100, 150)).toPoint()).blue(), 9);
+    const auto drag = [bed](QPointF from, QPointF to) {
+        for (const auto& [type, at] : {std::pair(QEvent::MouseButtonPress, from), std::pair(QEvent::MouseMove, to),
+                                       std::pair(QEvent::MouseButtonRelease, to)}) {
+            const QPointF place = bed->onSurface(at);
+            QMouseEvent event(type, place, bed->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
+            QApplication::sendEvent(bed, &event);
+        }
+    };
+    drag({20, 30}, {120, 80});
+    drag({60, 50}, {70, 400});  // inside: it moves, and stays on the bed
+    drag({30, 250}, {10, 250}); // its corner
+    QString area;
+    for (const char* name : {"sbLeft", "sbTop", "sbWidth", "sbHeight"})
+        area += control<QDoubleSpinBox>("fAcquire", name)->text();
+    EXPECT_EQ(area, "10.0 mm250.0 mm120.0 mm50.0 mm");
+    drag({5, 5}, {5, 5}); // a click loses nothing
+    control<QComboBox>("fAcquire", "cbResolution")->setCurrentText("137");
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    EXPECT_EQ(std::pair(scanner.jobs[1].what, scanner.jobs[1].resolution), std::pair(ScanJob::Page, 150));
+    EXPECT_EQ(scanner.jobs[1].area, QRectF(10, 250, 120, 50));
+    EXPECT_TRUE(comes([&] { return frame->documents().size() == 1 && !control<QLabel>("fAcquire", "lblState"); }));
+
+    command("ACQUIRETWAIN");
+    control<QComboBox>("fAcquire", "cbFeed")->setCurrentText("ADF");
+    EXPECT_EQ(control<QComboBox>("fAcquire", "cbResolution")->currentText(), "100") << "the nearest to 150";
+    EXPECT_FALSE(control<QPushButton>("fAcquire", "cmdPreview")->isEnabled());
+    scanner.pages = 2;
+    scanner.reason = "Document feeder jammed";
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    EXPECT_TRUE(comes([&] { return platform.logged(kNoScanner); }));
+    EXPECT_EQ(frame->documents().size(), 3) << "what came before stays";
+    scanner.pages = 9;
+    control<QPushButton>("fAcquire", "cmdScan")->click();
+    QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);
+    EXPECT_TRUE(control<QLabel>("fAcquire", "lblState")) << "a page is being read";
+    EXPECT_TRUE(comes([&] { return !control<QLabel>("fAcquire", "lblState"); }));
+    EXPECT_EQ(frame->documents().size(), 4);
 }
 
 TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
 {
-    const char* told = "message: Velara Studio: Please Verify that the system is connected to Scanner!";
     command("ACQUIRETWAIN"); // there is no scanner
-    EXPECT_EQ(last(), told);
+    EXPECT_EQ(last(), kNoScanner);
     EXPECT_EQ(platform.lastIcon, Icon::Critical);
     QTest::keyClick(control<QPushButton>("fAcquire", "cmdScan")->window(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -357,9 +420,10 @@ TEST_F(UtilitiesTest, AScannerThatFailsIsToldAndOneThatHangsIsLeft)
     RecordingScanner& scanner = platform.scanner();
     scanner.sources = {{"a:0", "First"}};
     command("ACQUIRETWAIN");
+    scanner.pages = 0;
     scanner.reason = "Scanner cover is open";
     control<QPushButton>("fAcquire", "cmdScan")->click();
-    EXPECT_EQ(last(), told);
+    EXPECT_EQ(last(), kNoScanner);
     EXPECT_EQ(control<QLabel>("fAcquire", "lblState")->text(), "The scanner says: Scanner cover is open");
     EXPECT_TRUE(frame->documents().isEmpty());
 

@@ -1,4 +1,4 @@
-// The eight grips around a layer: which sides each moves, and its pointer.
+// The eight grips around a layer or an area: which sides each moves, and its pointer.
 #pragma once
 #include <Qt>
 
