@@ -99,7 +99,7 @@ constexpr DialogRow kDialogs[] = {
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
     {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"IMAGETEXTURES", false},
     {"IMAGECOLORDEPTH", false, "cmbDepth", 1}, {"IMAGESAVEOPTIONS", true, "CboFiles", 4}, {"@ICON", false},
-    {"PRINT", false}, {"ACQUIRETWAIN", false},
+    {"PRINT", true}, {"ACQUIRETWAIN", true},
 };
 // clang-format on
 
