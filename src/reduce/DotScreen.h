@@ -1,63 +1,63 @@
-// Ordered dithering for any palette: each colour is approximated by 64 palette entries with its mean, sorted dark to
-// light, and an 8x8 threshold matrix picks the entry of a pixel. The lists are cached: a picture needs few of them.
+// Ordered dithering for any palette: each colour is approximated by a mixture of palette entries, sorted dark to light,
+// and an 8x8 threshold matrix picks the entry of a pixel. Recent mixtures are cached.
 #pragma once
 #include "pixels/NearestColours.h"
-#include "pixels/PixelLanes.h"
-#include <algorithm>
-#include <array>
-#include <memory>
-#include <vector>
+#include "reduce/ColourMixer.h"
 
 namespace velara {
 
-/// Thresholds 0 to 63 of an 8x8 square, row by row.
-using ScreenMatrix = std::array<std::uint8_t, 64>;
-extern const ScreenMatrix kDispersedDots, kClusteredDots;
+/// Thresholds 0 to 63 of an 8x8 square, row by row, and the contrast of its dots.
+struct DotMatrix {
+    std::array<std::uint8_t, 64> thresholds;
+    Contrast contrast;
+};
+extern const DotMatrix kDispersedDots, kClusteredDots;
 
 class DotScreen {
   public:
-    /// colours: those that nearest knows, at most 256.
-    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest);
+    /// colours: those that nearest knows, at most 256. For a picture of very many colours, mixtures are made for every
+    /// fourth level of a channel; those of a pixel between two of them are alternated, so that the mean is kept.
+    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, bool hasManyColours);
 
-    /// The palette entry for a colour at a threshold of the matrix, in a numbered square of the picture. Colours of the
-    /// palette map to themselves. Channels are quantised to 32 levels; the rounding direction varies over eight
-    /// successive squares, so that the mean is kept.
-    int operator()(Pixel p, int place, int square)
+    /// The palette entry of a pixel. Colours of the palette map to themselves.
+    int operator()(Pixel p, int x, int y)
     {
-        const std::size_t cell = cellOf(p, std::size_t(place + square) % kRanks);
-        if (state_[cell] != kMixed) [[unlikely]]
-            return lookCloser(p, cell, place);
-        return mixtures_[cell][std::size_t(place)];
+        if (alternates_ && !isOwn(p)) p = alternated(p, x, y);
+        const std::uint32_t colour = std::bit_cast<std::uint32_t>(p) & 0xFFFFFF;
+        Recent& recent = recent_[colour * 2654435769U >> (32 - kSlotBits)]; // golden ratio
+        if (recent.colour != colour) [[unlikely]]
+            mix(p, recent);
+        const std::uint8_t threshold = matrix_.thresholds[std::size_t(y % 8 * 8 + x % 8)];
+        std::size_t i = 0;
+        while (threshold >= recent.ends[i]) ++i;
+        return recent.entries[i];
     }
 
   private:
-    using Mixture = std::array<std::uint8_t, 64>;
-    enum State : std::uint8_t { kMixed = 1, kHoldsEntry = 2 };
-    static constexpr int kBits = 5, kMostLevel = (1 << kBits) - 1;
-    static constexpr std::size_t kCells = std::size_t{1} << 3 * kBits, kRanks = 8;
-    static constexpr auto kLevel = [] { // by rank and channel value
-        std::array<std::array<std::uint8_t, 256>, kRanks> level{};
-        for (std::size_t rank = 0; rank < kRanks; ++rank)
-            for (std::size_t v = 0; v < 256; ++v)
-                level[rank][v] = static_cast<std::uint8_t>((v * kMostLevel * 2 * kRanks + (2 * rank + 1) * 255) /
-                                                           (255 * 2 * kRanks));
-        return level;
-    }();
-    static std::size_t cellOf(Pixel p, std::size_t rank)
+    static constexpr int kSlotBits = 16;
+    struct Recent {
+        std::uint32_t colour = 0xFF000000;                               // of none
+        std::array<std::uint8_t, ColourMixer::kMostMixed> entries, ends; // the threshold at which each one ends
+    };
+    void mix(Pixel p, Recent& recent);
+    bool isOwn(Pixel p)
     {
-        const auto& level = kLevel[rank];
-        return std::size_t(level[p.c[0]] | level[p.c[1]] << kBits | level[p.c[2]] << 2 * kBits);
+        const Pixel q = colours_[std::size_t(nearest_(p))];
+        return ((std::bit_cast<std::uint32_t>(p) ^ std::bit_cast<std::uint32_t>(q)) & 0xFFFFFF) == 0;
+    }
+    static Pixel alternated(Pixel p, int x, int y)
+    {
+        // The two fractions of a sequence that fills the plane evenly and has no common period with the thresholds.
+        const int up = static_cast<int>((unsigned(x) * 3242174889U + unsigned(y) * 2447445414U) >> 30);
+        return narrow(limited((wide(p) + up) & ~3, 0, 255));
     }
 
-    int lookCloser(Pixel p, std::size_t cell, int place);
-    void mix(std::size_t cell);
-
+    const DotMatrix& matrix_;
+    const bool alternates_;
     NearestColours& nearest_;
     const std::vector<Pixel>& colours_;
-    std::vector<Lanes> lanes_;
-    std::vector<int> brightness_;
-    std::vector<std::uint8_t> state_ = std::vector<std::uint8_t>(kCells);
-    std::unique_ptr<Mixture[]> mixtures_ = std::make_unique_for_overwrite<Mixture[]>(kCells);
+    ColourMixer mixer_;
+    std::vector<Recent> recent_ = std::vector<Recent>(std::size_t{1} << kSlotBits);
 };
 
 } // namespace velara

@@ -89,7 +89,7 @@ TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
     }
     EXPECT_GT(files, 400);
 
-    for (auto& [key, palette] : known) palette = {0x0000FF};
+    for (auto& [key, palette] : known) palette.plain = {0x0000FF};
     WebSettings s;
     s.choosePreset(3, false);
     for (const bool invert : {false, true}) {
