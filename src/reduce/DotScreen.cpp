@@ -31,13 +31,13 @@ constexpr DotMatrix kClusteredDots{{
     34, 46, 48, 36, 25, 11, 13, 27,
     44, 58, 60, 50,  9,  1,  3, 15,
     42, 56, 62, 52, 23,  7,  5, 17,
-    32, 40, 54, 38, 31, 21, 19, 29}, {0.1F, 200}};
+    32, 40, 54, 38, 31, 21, 19, 29}, {0.1F, 500}};
 // clang-format on
 
 DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix,
-                     bool hasManyColours)
+                     PaletteOf origin, bool hasManyColours)
     : matrix_(matrix), alternates_(hasManyColours), nearest_(nearest), colours_(colours),
-      mixer_(colours, matrix.contrast)
+      mixer_(colours, {matrix.contrast.seen, origin == PaletteOf::Any ? 0 : matrix.contrast.close})
 {
 }
 

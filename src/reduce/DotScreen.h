@@ -13,11 +13,16 @@ struct DotMatrix {
 };
 extern const DotMatrix kDispersedDots, kClusteredDots;
 
+/// Where a palette comes from: one made for the picture has all its colours near, and contrast costs more than it
+/// brings; with any other, the mean is all there is.
+enum class PaletteOf { Any, ThePicture };
+
 class DotScreen {
   public:
     /// colours: those that nearest knows, at most 256. For a picture of very many colours, mixtures are made for every
     /// fourth level of a channel; those of a pixel between two of them are alternated, so that the mean is kept.
-    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, bool hasManyColours);
+    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, PaletteOf origin,
+              bool hasManyColours);
 
     /// The palette entry of a pixel. Colours of the palette map to themselves.
     int operator()(Pixel p, int x, int y)

@@ -35,9 +35,9 @@ class Work {
     }
     int nearest(Pixel p) { return nearest_(p); }
 
-    void screened(const DotMatrix& matrix)
+    void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        DotScreen screen(colours_, nearest_, matrix, hasManyColours());
+        DotScreen screen(colours_, nearest_, matrix, origin, hasManyColours());
         eachPixel([&](Pixel p, int x, int y) { return screen(p, x, y); });
     }
 
@@ -215,7 +215,8 @@ bool mixesColours(Dither dither)
     return std::ranges::find(kMixing, dither) != std::end(kMixing);
 }
 
-IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress)
+IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress,
+                        PaletteOf origin)
 {
     Work work(bits, palette, progress);
     switch (dither) {
@@ -223,10 +224,10 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
         work.eachPixel([&](Pixel p, int, int) { return work.nearest(blackOrWhite(p)); });
         break;
     case Dither::Ordered:
-        work.screened(kDispersedDots);
+        work.screened(kDispersedDots, origin);
         break;
     case Dither::Haftone:
-        work.screened(kClusteredDots);
+        work.screened(kClusteredDots, origin);
         break;
     case Dither::ForwardDiag:
         work.downwards(1);

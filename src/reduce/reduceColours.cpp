@@ -63,7 +63,10 @@ ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const R
     palette.resize(std::min<std::size_t>(palette.size(), std::size_t{1} << count));
     if (isGrey) std::ranges::transform(palette, palette.begin(), greyColour);
     const auto dither = words.paletteWord == kMapped ? Dither::None : static_cast<Dither>(words.ditherWord);
-    return {count, dithered(source, palette, dither, progress), {}};
+    return {count,
+            dithered(source, palette, dither, progress,
+                     words.paletteWord == kOptimal ? PaletteOf::ThePicture : PaletteOf::Any),
+            {}};
 }
 
 } // namespace velara

@@ -76,7 +76,7 @@ void WebSettings::choosePreset(int index, bool interlaced)
     OutputKind = row().outputKind;
     setInterlaced(interlaced);
     ColorMode = DitherWord = 0;
-    takesDither = true;
+    takesDither = PaletteWord != kMapped;
 }
 
 std::vector<int> WebSettings::maps() const
@@ -94,6 +94,8 @@ void WebSettings::chooseMap(int index)
     takesDither = PaletteWord != kMapped;
     if (!takesDither) DitherWord = 0;
 }
+
+bool WebSettings::choosesMap() const { return preset != kCompressed && maps().size() > 1; }
 
 int WebSettings::map() const
 {

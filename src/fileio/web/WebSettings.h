@@ -48,6 +48,8 @@ struct WebSettings {
     void choosePreset(int index, bool interlaced);
     /// The entries of webMaps() offered by the preset.
     std::vector<int> maps() const;
+    /// False where there is no choice, or where it has no effect.
+    bool choosesMap() const;
     /// index into webMaps(). Mapped colours take no dither.
     void chooseMap(int index);
     /// The selected entry of webMaps(), or -1.

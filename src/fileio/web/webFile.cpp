@@ -63,6 +63,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
                         Teller& teller)
 {
     static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
+    static constexpr int kFlags[] = {0, PNG_Z_BEST_COMPRESSION, 0, 0};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
         PCX pcx;
@@ -74,7 +75,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     const bool inFull = kind == kTga || kind == kTif;
     const ReducedDib dib(inFull ? ReducedPicture{24, {}, pictureOf(reduced)} : reduced);
     if (!dib.get()) return Outcome::NoBitmap;
-    return outcomeOf(saveAs(dib.get(), kFormats[kind], 0, name, links, teller), teller);
+    return outcomeOf(saveAs(dib.get(), kFormats[kind], kFlags[kind], name, links, teller), teller);
 }
 
 Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& picture, const QString& name,

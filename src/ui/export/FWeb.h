@@ -45,6 +45,7 @@ class FWeb final : public QDialog {
     QLabel* label(const char* name, const QString& accessibleName);
 
     void presetChosen(int index);
+    void chooseFromTable();
     void mapChosen(int entry);
     void qualityChosen(int quality);
     void customQuality();
@@ -52,6 +53,8 @@ class FWeb final : public QDialog {
 
     enum class Work { Preview, Fit, Save };
     struct Written;
+    void remember();
+    void recall();
     void changed();
     void ask(Work work);
     void next();
@@ -71,7 +74,7 @@ class FWeb final : public QDialog {
 
     Platform& platform_;
     Bits picture_, optimizedBits_;
-    QString path_;
+    QString name_, path_;
     WebSettings settings_;
     std::shared_ptr<BestPalettes> palettes_ = std::make_shared<BestPalettes>(); // of the work in the background
     QTimer timer_;

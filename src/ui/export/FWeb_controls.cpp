@@ -70,6 +70,10 @@ QWidget* FWeb::makeChoices()
     formats->setBuddy(CboFiles_);
     layout->addWidget(formats);
     layout->addWidget(CboFiles_);
+    auto* all = button("cmdTable", tr("&All formats ..."));
+    all->setToolTip(tr("Size and loss of this picture in every format"));
+    layout->addWidget(all);
+    connect(all, &QPushButton::clicked, this, &FWeb::chooseFromTable);
     layout->addWidget(FrmAPI_);
     layout->addStretch();
     layout->addWidget(CmdSave_);
@@ -78,11 +82,11 @@ QWidget* FWeb::makeChoices()
 
     auto* column = new QWidget;
     column->setFixedWidth(250);
-    auto* all = new QVBoxLayout(column);
-    all->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
     auto* exit = button("CmdCancel", QStringLiteral("Exit"));
-    all->addWidget(choices_, 1);
-    all->addWidget(exit);
+    rows->addWidget(choices_, 1);
+    rows->addWidget(exit);
     connect(exit, &QPushButton::clicked, this, &FWeb::reject);
     return column;
 }
@@ -168,6 +172,7 @@ QWidget* FWeb::makeJpegFrame()
             [this](int entry) { qualityChosen(webJpegQualities()[std::size_t(entry)].word); });
     connect(update, &QPushButton::clicked, this, &FWeb::customQuality);
     connect(TxtJPG_, &QLineEdit::returnPressed, this, &FWeb::customQuality);
+    connect(fit_->findChild<QLineEdit*>(), &QLineEdit::returnPressed, fit, &QPushButton::click);
     connect(fit, &QPushButton::clicked, this, [this] { ask(Work::Fit); });
     return Fjpg_;
 }
