@@ -1,4 +1,6 @@
 #include "reduce/DotScreen.h"
+#include <algorithm>
+#include <bit>
 
 namespace velara {
 
@@ -39,15 +41,60 @@ DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest,
     : matrix_(matrix), alternates_(hasManyColours), nearest_(nearest), colours_(colours),
       mixer_(colours, {matrix.contrast.seen, origin == PaletteOf::Any ? 0 : matrix.contrast.close})
 {
+    for (const Pixel& p : colours) hasOwn_[cellOf(p)] = true;
+    if (alternates_) coarse_.resize(kLevels * kLevels * kLevels);
 }
 
-void DotScreen::mix(Pixel p, Recent& recent)
+void DotScreen::row(const Pixel* from, std::uint8_t* to, int width, int y)
+{
+    std::array<std::uint8_t, 8> thresholds;
+    std::copy_n(&matrix_.thresholds[std::size_t(y % 8 * 8)], 8, thresholds.begin());
+    if (!alternates_) {
+        for (int x = 0; x < width; ++x) to[x] = recent(from[x]).at(thresholds[std::size_t(x % 8)]);
+        return;
+    }
+    // The two fractions of a sequence that fills the plane evenly and has no common period with the thresholds.
+    unsigned sequence = unsigned(y) * 2447445414U;
+    for (int x = 0; x < width; ++x, sequence += 3242174889U) {
+        const Pixel p = from[x];
+        if (hasOwn_[cellOf(p)])
+            if (const int own = nearest_(p); bytesOf(colours_[std::size_t(own)]) == bytesOf(p)) {
+                to[x] = static_cast<std::uint8_t>(own);
+                continue;
+            }
+        to[x] = between(p, sequence >> 30).at(thresholds[std::size_t(x % 8)]);
+    }
+}
+
+/// The dots of the level below or above each channel; up: 0 to 3.
+inline const DotScreen::Dots& DotScreen::between(Pixel p, unsigned up)
+{
+    const auto level = [&](int c) { return (p.c[c] + up) >> 2; };
+    Dots& dots = coarse_[(level(2) * kLevels + level(1)) * kLevels + level(0)];
+    if (dots.ends[0] == 0) [[unlikely]] {
+        const auto channel = [&](int c) { return static_cast<std::uint8_t>(std::min(level(c) << 2, 255U)); };
+        dots = mix({channel(0), channel(1), channel(2), 0});
+    }
+    return dots;
+}
+
+inline const DotScreen::Dots& DotScreen::recent(Pixel p)
+{
+    const std::uint32_t colour = bytesOf(p);
+    Recent& recent = recent_[colour * 2654435769U >> (32 - kSlotBits)]; // golden ratio
+    if (recent.colour != colour) [[unlikely]]
+        recent = {colour, mix(p)};
+    return recent.dots;
+}
+
+DotScreen::Dots DotScreen::mix(Pixel p)
 {
     const ColourMixer::Mixture mixture = mixer_(p);
-    recent.colour = std::bit_cast<std::uint32_t>(p) & 0xFFFFFF;
-    recent.entries = mixture.entries;
+    Dots dots{.entries = mixture.entries};
+    dots.ends.fill(ColourMixer::kParts);
     int end = 0;
-    for (std::size_t i = 0; i < mixture.count; ++i) recent.ends[i] = static_cast<std::uint8_t>(end += mixture.parts[i]);
+    for (std::size_t i = 0; i < mixture.count; ++i) dots.ends[i] = static_cast<std::uint8_t>(end += mixture.parts[i]);
+    return dots;
 }
 
 } // namespace velara

@@ -1,5 +1,5 @@
 // Ordered dithering for any palette: each colour is approximated by a mixture of palette entries, sorted dark to light,
-// and an 8x8 threshold matrix picks the entry of a pixel. Recent mixtures are cached.
+// and an 8x8 threshold matrix picks the entry of a pixel. Mixtures are kept.
 #pragma once
 #include "pixels/NearestColours.h"
 #include "reduce/ColourMixer.h"
@@ -24,45 +24,40 @@ class DotScreen {
     DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, PaletteOf origin,
               bool hasManyColours);
 
-    /// The palette entry of a pixel. Colours of the palette map to themselves.
-    int operator()(Pixel p, int x, int y)
-    {
-        if (alternates_ && !isOwn(p)) p = alternated(p, x, y);
-        const std::uint32_t colour = std::bit_cast<std::uint32_t>(p) & 0xFFFFFF;
-        Recent& recent = recent_[colour * 2654435769U >> (32 - kSlotBits)]; // golden ratio
-        if (recent.colour != colour) [[unlikely]]
-            mix(p, recent);
-        const std::uint8_t threshold = matrix_.thresholds[std::size_t(y % 8 * 8 + x % 8)];
-        std::size_t i = 0;
-        while (threshold >= recent.ends[i]) ++i;
-        return recent.entries[i];
-    }
+    /// The palette entries of row y, width pixels. Colours of the palette map to themselves.
+    void row(const Pixel* from, std::uint8_t* to, int width, int y);
 
   private:
     static constexpr int kSlotBits = 16;
-    struct Recent {
-        std::uint32_t colour = 0xFF000000;                               // of none
-        std::array<std::uint8_t, ColourMixer::kMostMixed> entries, ends; // the threshold at which each one ends
+    static constexpr std::size_t kLevels = 65; // 0, 4, ... 252, 255
+    struct alignas(16) Dots {
+        std::array<std::uint8_t, ColourMixer::kMostMixed> entries{}, ends{}; // the threshold at which each one ends
+        /// Counts the ends up to the threshold all at once: the high bit of a byte is kept where nothing is borrowed.
+        std::uint8_t at(std::uint8_t threshold) const
+        {
+            constexpr std::uint64_t kOnes = 0x0101010101010101, kHigh = 0x80 * kOnes;
+            const std::uint64_t kept = ((threshold * kOnes | kHigh) - std::bit_cast<std::uint64_t>(ends)) & kHigh;
+            return entries[std::size_t(std::popcount(kept))];
+        }
     };
-    void mix(Pixel p, Recent& recent);
-    bool isOwn(Pixel p)
-    {
-        const Pixel q = colours_[std::size_t(nearest_(p))];
-        return ((std::bit_cast<std::uint32_t>(p) ^ std::bit_cast<std::uint32_t>(q)) & 0xFFFFFF) == 0;
-    }
-    static Pixel alternated(Pixel p, int x, int y)
-    {
-        // The two fractions of a sequence that fills the plane evenly and has no common period with the thresholds.
-        const int up = static_cast<int>((unsigned(x) * 3242174889U + unsigned(y) * 2447445414U) >> 30);
-        return narrow(limited((wide(p) + up) & ~3, 0, 255));
-    }
+    struct Recent {
+        std::uint32_t colour = 0xFF000000; // of none
+        Dots dots;
+    };
+    Dots mix(Pixel p);
+    const Dots& recent(Pixel p);
+    const Dots& between(Pixel p, unsigned up);
+    static std::uint32_t bytesOf(Pixel p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
+    static std::size_t cellOf(Pixel p) { return std::size_t(p.c[0] >> 2 | (p.c[1] >> 2) << 6 | (p.c[2] >> 2) << 12); }
 
     const DotMatrix& matrix_;
     const bool alternates_;
     NearestColours& nearest_;
     const std::vector<Pixel>& colours_;
     ColourMixer mixer_;
+    std::vector<bool> hasOwn_ = std::vector<bool>(std::size_t{1} << 18); // colours of the palette, by cells
     std::vector<Recent> recent_ = std::vector<Recent>(std::size_t{1} << kSlotBits);
+    std::vector<Dots> coarse_; // for every fourth level
 };
 
 } // namespace velara

@@ -38,7 +38,10 @@ class Work {
     void screened(const DotMatrix& matrix, PaletteOf origin)
     {
         DotScreen screen(colours_, nearest_, matrix, origin, hasManyColours());
-        eachPixel([&](Pixel p, int x, int y) { return screen(p, x, y); });
+        for (int y = 0; y < bits_.height(); ++y) {
+            screen.row(bits_.row(y), rowOf(y), bits_.width(), y);
+            told(y);
+        }
     }
 
     /// All of the error goes to the next row, shift columns to the right.

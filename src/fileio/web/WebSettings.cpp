@@ -76,7 +76,7 @@ void WebSettings::choosePreset(int index, bool interlaced)
     OutputKind = row().outputKind;
     setInterlaced(interlaced);
     ColorMode = DitherWord = 0;
-    takesDither = PaletteWord != kMapped;
+    takesDither = true;
 }
 
 std::vector<int> WebSettings::maps() const
