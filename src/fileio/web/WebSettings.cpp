@@ -76,7 +76,7 @@ void WebSettings::choosePreset(int index, bool interlaced)
     OutputKind = row().outputKind;
     setInterlaced(interlaced);
     ColorMode = DitherWord = 0;
-    takesDither = true;
+    takesDither = PaletteWord != kMapped;
 }
 
 std::vector<int> WebSettings::maps() const
