@@ -57,6 +57,10 @@ struct WebSettings {
     /// index into webDithers().
     void chooseDither(int index);
     void setInterlaced(bool on);
+    /// Whether the size of the file can be chosen: JPEG by its quality, GIF and 8-bit PNG by colours and dither.
+    bool fitsASize() const { return isJpeg() || isGif() || (FileKind == kPng && row().bitCount == 8); }
+    /// For GIF and 8-bit PNG: from 256 colours down to 2, each with the dither and without.
+    std::vector<WebSettings> bySize() const;
     int transformFlags() const;
 
     /// "GIF", "BMP", "PNG", "TGA", "TIF", "PCX" or "JPG".

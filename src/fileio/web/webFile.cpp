@@ -124,6 +124,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     return file;
 }
 
+namespace {
+
 std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
 {
     const FreeImageStart library;
@@ -141,6 +143,26 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
     for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes may waver a little
         if (fits(quality)) good = quality;
     return good > 0 && !teller.stopped() ? std::optional(good) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
+                                          const QString& scratch, const ReduceProgress& progress, BestPalettes* known)
+{
+    if (settings.isJpeg()) {
+        const auto quality = bestJpegQuality(picture, mostBytes, progress);
+        if (!quality) return {};
+        WebSettings best = settings;
+        best.JpegQuality = *quality;
+        return best;
+    }
+    for (const WebSettings& tried : settings.bySize()) {
+        const WebFile file = writeWebFile(picture, tried, scratch, OutputFile::Links::Replace, progress, known);
+        if (file.outcome != WebFile::Outcome::Written) return {};
+        if (file.bytes <= mostBytes) return tried;
+    }
+    return {};
 }
 
 double peakSignalToNoise(const Bits& a, const Bits& b)

@@ -84,6 +84,7 @@ void FWeb::presetChosen(int index)
     settings_.choosePreset(index, ChkInterlaced_->isChecked());
     fgif_->setVisible(!settings_.isJpeg());
     Fjpg_->setVisible(settings_.isJpeg());
+    FrmFit_->setVisible(settings_.fitsASize());
     ChkInterlaced_->setVisible(settings_.isGif());
     for (QWidget* widget : std::initializer_list<QWidget*>{FrmAPI_, cboColorMode_, CmdSave_}) widget->setEnabled(true);
     cboMap_->setEnabled(settings_.choosesMap());
@@ -302,6 +303,7 @@ void FWeb::showFile(const Written& written)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
     if (keptItsSize(written.file.source, optimizedBits_))
         parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);
+    if (settings.BitCount < settings.row().bitCount) parts.prepend(tr("%1 colors").arg(1 << settings.BitCount));
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
@@ -332,24 +334,42 @@ void FWeb::fitSize()
 {
     note_.clear();
     const std::int64_t most = std::int64_t{fit_->value()} * 1024;
-    const auto quality = std::make_shared<std::optional<int>>();
-    const auto does = [quality, most, picture = picture_](const GoOn& goOn) {
-        *quality = bestJpegQuality(picture, most, untilGivenUp(goOn));
+    const auto found = std::make_shared<std::optional<WebSettings>>();
+    const auto does = [found, most, picture = picture_, settings = settings_, name = temporaryName(),
+                       palettes = palettes_](const GoOn& goOn) {
+        *found = fittedSettings(picture, settings, most, name, untilGivenUp(goOn), palettes.get());
     };
-    begin(Work::Fit, does, [this, quality] { fitted(*quality); });
+    begin(Work::Fit, does, [this, found] { fitted(*found); });
 }
 
-void FWeb::fitted(std::optional<int> quality)
+void FWeb::fitted(const std::optional<WebSettings>& settings)
 {
-    if (quality) {
-        TxtJPG_->setText(QString::number(*quality));
-        customQuality();
+    if (settings) {
+        adopt(*settings);
     } else {
         next_ = Work::Preview; // a file that is too large isn't what was to be saved
-        note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
+        note_ = (settings_.isJpeg() ? tr("No quality makes it as small as %1 KB.")
+                                    : tr("No number of colors makes it as small as %1 KB."))
+                    .arg(fit_->value());
         say(note_);
     }
     next();
+}
+
+void FWeb::adopt(const WebSettings& settings)
+{
+    if (settings.isJpeg()) {
+        TxtJPG_->setText(QString::number(settings.JpegQuality));
+        return customQuality();
+    }
+    CboFiles_->setCurrentIndex(settings.preset); // fills the list of palettes
+    const auto isIt = [&](const WebEntry& entry) { return entry.word == settings.DitherWord; };
+    setQuietly(cboMap_, cboMap_->findData(settings.map()));
+    setQuietly(cboDither_, int(std::ranges::find_if(webDithers(), isIt) - webDithers().begin()));
+    setQuietly(cboColorMode_, settings.ColorMode == 0 ? 0 : 1);
+    cboDither_->setEnabled(settings.takesDither);
+    settings_ = settings;
+    changed();
 }
 
 void FWeb::saveAs()

@@ -61,7 +61,9 @@ class FWeb final : public QDialog {
     void end();
     void begin(Work work, std::function<void(const GoOn&)> does, std::function<void()> done);
     void fitSize();
-    void fitted(std::optional<int> quality);
+    void fitted(const std::optional<WebSettings>& settings);
+    void adopt(const WebSettings& settings);
+    QWidget* makeFitFrame();
     void saveAs();
     /// Writes to a temporary file, or under the chosen name, and shows it.
     void write(const QString& finalName = {});
@@ -85,7 +87,7 @@ class FWeb final : public QDialog {
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;
     QTabWidget* sT_ = nullptr;
-    QWidget *choices_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr;
+    QWidget *choices_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr, *FrmFit_ = nullptr;
     QGroupBox* FrmAPI_ = nullptr;
     QComboBox *CboFiles_ = nullptr, *cboMap_ = nullptr, *cboDither_ = nullptr, *cboColorMode_ = nullptr,
               *cboJpg_ = nullptr;

@@ -206,6 +206,13 @@ TEST_F(ExportDialogs, JpegQualityAndFit)
     QTest::keyClick(find("spnFit"), Qt::Key_Return);
     idle();
     EXPECT_TRUE(text("lblExact").contains("No quality"));
+    choose("CboFiles", "GIF-256 Colors");
+    find<QSpinBox>("spnFit")->setValue(40);
+    click("cmdFit");
+    idle();
+    EXPECT_LE(QFileInfo(temporary("G0001.gif")).size(), 40 * 1024);
+    EXPECT_EQ(QString("%1 Colors").arg(1 << settings().BitCount), text("Depth2"));
+    EXPECT_EQ("GIF-" + text("Depth2"), find<QComboBox>("CboFiles")->currentText());
 }
 
 TEST_F(ExportDialogs, TheTableOfAllFormatsIsSortedAndChoosesOne)
