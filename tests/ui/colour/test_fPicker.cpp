@@ -168,7 +168,7 @@ TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
     EXPECT_EQ(fPicker::SafePalette, picker.view());
     EXPECT_FALSE(find("cmdADD")->isVisible());
     QTest::keyClick(cells, Qt::Key_End);
-    EXPECT_EQ(18000, picker.colour()) << "an empty cell picks nothing";
+    EXPECT_EQ(0x123456, picker.colour()) << "an empty cell picks nothing";
     QTest::mouseDClick(cells, Qt::LeftButton, {}, {10 + 7 * 18 + 5, 10 + 13 * 18 + 5}); // 216
     EXPECT_EQ(QDialog::Accepted, picker.result());
     EXPECT_EQ(0xFFFFFF, picker.colour());

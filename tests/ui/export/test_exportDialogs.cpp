@@ -151,9 +151,9 @@ TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)
     open(picture);
     choose("CboFiles", "GIF-4 Colors");
     EXPECT_EQ(0x8004, settings().PaletteWord);
+    choose("CboFiles", "GIF-16 Colors");
     choose("cboMap", "Fixed Color");
     EXPECT_EQ(0, settings().PaletteWord);
-    choose("CboFiles", "GIF-16 Colors");
     choose("cboDither", "Forward Diag");
     choose("cboDither", "Equal");
     EXPECT_EQ(8, settings().DitherWord);
