@@ -29,7 +29,7 @@ closed() { no_window '^Browse For Graphic Filles$'; }
 browse alt+f b
 xdotool type --delay 30 gree
 until_true "preview and thumbnail of the green one" shows '#12fe34' 2
-until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/normal/*.png"
+until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/large/*.png"
 
 # The thumbnail is at the left of its row: a double click on it
 thumb_at() { place '#12fe34' | sort -t+ -k2n | head -1; }

@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
@@ -154,6 +155,16 @@ QString withoutFoundry(const QString& family)
     return at > 0 && family.endsWith(u']') ? family.left(at) : family;
 }
 
+/// By what the font says of itself: pictures in place of letters. Several claim to have Latin letters, because they
+/// have the places of the keyboard.
+bool isOfSymbols(const QString& family)
+{
+    constexpr int kClass = 30, kSymbolicClass = 12, kPanose = 32,
+                  kPictorial = 5; // bytes of the table, and their values
+    const QByteArray facts = QRawFont::fromFont(QFont(family)).fontTable("OS/2");
+    return facts.size() > kPanose && (facts[kClass] == kSymbolicClass || facts[kPanose] == kPictorial);
+}
+
 } // namespace
 
 std::optional<std::vector<FontFamily>> QtFonts::list()
@@ -165,8 +176,11 @@ std::optional<std::vector<FontFamily>> QtFonts::list()
         if (QFontDatabase::isPrivateFamily(family)) continue;
         FontFamily entry{withoutFoundry(family), {}};
         if (std::ranges::find(found, entry.name, &FontFamily::name) != found.end()) continue;
-        for (const QFontDatabase::WritingSystem system : QFontDatabase::writingSystems(family))
-            if (system != QFontDatabase::Symbol) entry.writingSystems << QFontDatabase::writingSystemName(system);
+        const auto systems = QFontDatabase::writingSystems(family);
+        if (systems.size() <= 1 && !symbols_.contains(family)) symbols_[family] = isOfSymbols(family); // reads its file
+        for (const QFontDatabase::WritingSystem system : systems)
+            if (!symbols_.value(family) && system != QFontDatabase::Symbol)
+                entry.writingSystems << QFontDatabase::writingSystemName(system);
         found.push_back(std::move(entry));
     }
     return found;

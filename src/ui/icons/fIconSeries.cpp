@@ -5,6 +5,7 @@
 #include "seams/sizeText.h"
 #include "ui/icons/MaskChoice.h"
 #include "ui/icons/fIconBrowse.h"
+#include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -125,7 +126,8 @@ void fIconSeries::ListIcons()
 
 void fIconSeries::showIcons()
 {
-    for (int i = 0; i < lv_->topLevelItemCount(); ++i) lv_->topLevelItem(i)->setIcon(0, QPixmap::fromImage(iconAt(i)));
+    for (int i = 0; i < lv_->topLevelItemCount(); ++i)
+        lv_->topLevelItem(i)->setIcon(0, untinted(QPixmap::fromImage(iconAt(i))));
 }
 
 void fIconSeries::checkAll(bool checked)

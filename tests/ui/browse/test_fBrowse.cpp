@@ -146,6 +146,16 @@ TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
     EXPECT_EQ(previews.asked.size(), 501u);
 }
 
+TEST(ThumbnailIcons, AreSharpAtDoubleSizeAndKeepTheirColoursInAChosenRow)
+{
+    QImage stripes(124, 124, QImage::Format_RGB32); // as many as the box has pixels then, within its frame
+    for (int i = 0; i < 124 * 124; ++i) stripes.setPixel(i % 124, i / 124, i % 2 ? 0xFFFFFF : 0);
+    const QIcon icon = thumbnailIcon(stripes, {64, 64});
+    const QImage twice = icon.pixmap(QSize(64, 64), 2).toImage();
+    for (int x = 20; x < 100; ++x) EXPECT_EQ(twice.pixel(x, 60) & 1, x % 2);
+    EXPECT_EQ(icon.pixmap(QSize(64, 64), 2, QIcon::Selected).toImage(), twice);
+}
+
 TEST_F(Browser, FolderDialogAnswersWithTextAndAssociationsDoNothing)
 {
     auto* owner = new QWidget;

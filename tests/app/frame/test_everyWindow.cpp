@@ -1,0 +1,117 @@
+// Every window that the menus open, the panes and the boxes: controls have names for screen readers, nothing shows raw
+// markup, and every item of a menu has an access key.
+#include "app/frame/frameTest.h"
+#include "app/menus/Boxes.h"
+#include <QRegularExpression>
+#include <QtWidgets>
+
+namespace velara {
+
+namespace {
+
+struct EveryWindow : FrameTest {
+    QSet<QString> seen; // the windows looked at
+    QStringList unnamed, marked;
+
+    static bool isOurs(const QWidget& control)
+    {
+        const QWidget* owner = control.parentWidget();
+        return !control.objectName().startsWith("qt_") && !qobject_cast<const QAbstractSpinBox*>(owner) &&
+               !qobject_cast<const QComboBox*>(owner) && !qobject_cast<const QTabBar*>(owner) &&
+               !(owner && owner->objectName().startsWith("qt_")) && !qobject_cast<const QHeaderView*>(&control) &&
+               !control.inherits("QComboBoxPrivateContainer") && !control.inherits("QMdi::ControlLabel") &&
+               !control.inherits("QComboBoxListView");
+    }
+    static bool isControl(const QWidget& widget)
+    {
+        return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QAbstractSlider*>(&widget) ||
+               qobject_cast<const QAbstractItemView*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget) ||
+               qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+               qobject_cast<const QPlainTextEdit*>(&widget) || (widget.focusPolicy() & Qt::TabFocus);
+    }
+    static bool isNamed(const QWidget& control)
+    {
+        const auto labels = control.window()->findChildren<QLabel*>();
+        return !control.accessibleName().isEmpty() || !control.property("text").toString().isEmpty() ||
+               std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &control; });
+    }
+    void read(const QObject& object)
+    {
+        static const QRegularExpression markup("</?[a-zA-Z][^<>]*>|&(amp|lt|gt|nbsp);");
+        const auto* label = qobject_cast<const QLabel*>(&object);
+        if (label && label->textFormat() == Qt::RichText) return;
+        for (const char* property : {"windowTitle", "text", "title", "toolTip", "placeholderText", "statusTip"})
+            if (const QString shown = object.property(property).toString(); markup.match(shown).hasMatch())
+                marked << object.objectName() + ": " + shown;
+    }
+    void look(QWidget& window)
+    {
+        seen << window.objectName() + window.windowTitle();
+        QList<QWidget*> all = window.findChildren<QWidget*>();
+        all << &window;
+        for (const QWidget* widget : all) {
+            read(*widget);
+            for (const QAction* action : widget->actions()) read(*action);
+            if (isControl(*widget) && isOurs(*widget) && !isNamed(*widget))
+                unnamed << window.objectName() + ": " + widget->metaObject()->className() + ' ' + widget->objectName();
+        }
+    }
+    /// Looks at the windows over the frame and closes them. \returns whether there was one
+    bool lookAndClose()
+    {
+        bool any = false;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window == frame.get() || !window->isVisible() || qobject_cast<QMenu*>(window)) continue;
+            look(*window);
+            window->close();
+            any = true;
+        }
+        return any;
+    }
+};
+
+} // namespace
+
+TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
+{
+    frame->initToolPanes();
+    open(randomBits(60, 40, 1));
+    frame->boxes().showAll();
+    look(*frame);
+    for (const QToolButton* strip : frame->toolPane().findChildren<QToolButton*>())
+        if (strip->isCheckable()) const_cast<QToolButton*>(strip)->click(), look(*frame);
+    QTimer timer; // comes in the middle of a modal window, too
+    QObject::connect(&timer, &QTimer::timeout, [this] { lookAndClose(); });
+    timer.start(1);
+    for (QAction* item : frame->findChildren<QAction*>()) {
+        if (!item->text().endsWith("...") && item->objectName() != "ABOUT_10") continue;
+        const auto before = seen.size();
+        item->trigger();
+        frame->workspace().wait();
+        (void)before;
+        comes([&] { return !lookAndClose(); });
+    }
+    timer.stop();
+    EXPECT_GE(seen.size(), 50) << seen.values().join('\n').toStdString();
+    EXPECT_EQ(unnamed.join('\n'), "");
+    EXPECT_EQ(marked.join('\n'), "");
+    for (const std::string& line : platform.log) EXPECT_EQ(line.find("</"), std::string::npos) << line;
+}
+
+TEST_F(EveryWindow, MenusHaveAKeyForEachItem)
+{
+    for (const QMenu* menu : frame->findChildren<QMenu*>()) {
+        QSet<QKeySequence> keys;
+        qsizetype items = 0;
+        for (const QAction* item : menu->actions()) {
+            if (item->isSeparator() || item->objectName().startsWith("RF_") || !menu->menuAction()->isVisible())
+                continue;
+            ++items;
+            keys << QKeySequence::mnemonic(item->text());
+        }
+        keys.remove({});
+        EXPECT_EQ(keys.size(), items) << menu->objectName().toStdString();
+    }
+}
+
+} // namespace velara
