@@ -1,9 +1,9 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include "seams/text.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/inputs/named.h"
 #include <QEvent>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "ui/compose/fLayerList.h"
 #include "pixels/images.h"
-#include "ui/widgets/ThumbnailIcons.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>

@@ -1,11 +1,11 @@
 #include "ui/icons/fIconSeries.h"
 #include "document/road/Frame.h"
 #include "fileio/writers/iconFile.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/sizeText.h"
 #include "ui/icons/MaskChoice.h"
 #include "ui/icons/fIconBrowse.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
 #include <QCheckBox>

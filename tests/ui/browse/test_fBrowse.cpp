@@ -1,10 +1,10 @@
 // The browser, its preview and its thumbnails, with real folders and previews that arrive when the test says so.
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "support/RecordingPlatform.h"
 #include "support/ui/WindowTest.h"
 #include "ui/browse/fAssociation.h"
 #include "ui/browse/fBrowse.h"
 #include "ui/browse/mBrowseFolder.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/fFolderTree.h"
 
 namespace velara {
@@ -128,6 +128,34 @@ TEST_F(Browser, ThumbnailsStandBeforeTheNames)
     EXPECT_EQ(icon(), QColor(Qt::red));
     EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("a.png")), 1);
     EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("notes.txt")), 0);
+}
+
+TEST_F(Browser, TheGridShowsTheFolderAndLastFoldersAreKept)
+{
+    QFile(at("folder.png/inner.gif")).open(QFile::WriteOnly);
+    show(BrowseMode::Pictures, at("a.png"));
+    auto* grid = find<QListView>("grid");
+    EXPECT_EQ(grid->rootIndex().data(), QFileInfo(top.path()).fileName());
+    EXPECT_EQ(grid->currentIndex().data(), "a.png");
+    QTest::keyClick(grid, Qt::Key_End);
+    EXPECT_EQ(tree().path(), at("notes.txt")) << "the tree and the preview follow";
+    tree().select(at("folder.png"));
+    EXPECT_EQ(grid->rootIndex().data(), "folder.png");
+    tree().select(at("a.png"));
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Home);
+    EXPECT_EQ(tree().path(), at("folder.png"));
+    EXPECT_EQ(grid->rootIndex().data(), QFileInfo(top.path()).fileName()) << "arrows stay in the folder";
+    emit grid->activated(grid->currentIndex());
+    EXPECT_EQ(grid->rootIndex().data(), "folder.png");
+    emit grid->activated(grid->model()->index(0, 0, grid->rootIndex()));
+    EXPECT_EQ(opened, QStringList(at("folder.png/inner.gif")));
+
+    show(BrowseMode::Pictures, at("a.png"));
+    choose("cboLast", at("folder.png"));
+    EXPECT_EQ(tree().path(), at("folder.png"));
+    click("CmdHome");
+    EXPECT_EQ(tree().path(), QDir::homePath());
 }
 
 TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)

@@ -1,4 +1,4 @@
-#include "ui/widgets/ThumbnailIcons.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kKept = 1000;      // icons: a few megabytes
+constexpr int kKept = 24 << 10;  // kilobytes of icons
 constexpr int kMostWaiting = 64; // more than a screen shows
 constexpr int kSharpness = 2;    // device pixels per logical pixel, at most
 
@@ -62,7 +62,9 @@ QIcon ThumbnailIcons::icon(const QString& path)
 
 void ThumbnailIcons::answered(const QString& path, const Preview& preview)
 {
-    icons_.insert(path, new QIcon(preview.image.isNull() ? broken_ : thumbnailIcon(preview.image, {side_, side_})));
+    const int kilobytes = 1 + side_ * side_ * kSharpness * kSharpness * 4 / 1024;
+    icons_.insert(path, new QIcon(preview.image.isNull() ? broken_ : thumbnailIcon(preview.image, {side_, side_})),
+                  kilobytes);
     waiting_.remove_if([&](const Waiting& each) { return each.path == path; });
     emit ready(path);
 }
