@@ -58,6 +58,7 @@ class Dock final : public QDockWidget {
         setObjectName("dock_" + box->objectName());
         setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
         setWidget(new Room(box));
+        widget()->setWindowFlags(Qt::SubWindow); // its access keys are its own: those of the menus stay the menus'
         connect(box, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
         connect(this, &QDockWidget::topLevelChanged, this, [this, frame](bool floats) {
             if (floats && frame->isVisible() && !std::exchange(hasFloated_, true)) beginToFloat(*frame);

@@ -238,7 +238,7 @@ TEST_F(FrameDocuments, BoxesAreDockedBehindTabsAndComeBackWhereTheyWereLeft)
     EXPECT_TRUE(comes([&] { return !textures->visibleRegion().isEmpty() && colours->visibleRegion().isEmpty(); }));
 
     textures->setFloating(true);
-    textures->setGeometry(120, 130, 340, 430);
+    textures->setGeometry(120, 130, 400, 430);
     EXPECT_EQ(frame->boxes().places(), std::vector{textures->frameGeometry()});
     frame->addDockWidget(Qt::LeftDockWidgetArea, colours);
     frame->bars().saveLayout();
@@ -246,7 +246,7 @@ TEST_F(FrameDocuments, BoxesAreDockedBehindTabsAndComeBackWhereTheyWereLeft)
     again.resize(900, 600);
     ASSERT_TRUE(again.bars().loadLayout());
     again.boxes().showAll();
-    EXPECT_EQ(again.boxes().dock(Boxes::Textures)->geometry(), QRect(120, 130, 340, 430));
+    EXPECT_EQ(again.boxes().dock(Boxes::Textures)->geometry(), QRect(120, 130, 400, 430));
     EXPECT_TRUE(again.boxes().dock(Boxes::Textures)->isFloating());
     EXPECT_EQ(again.dockWidgetArea(again.boxes().dock(Boxes::Colours)), Qt::LeftDockWidgetArea);
 }

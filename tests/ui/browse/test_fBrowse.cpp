@@ -139,6 +139,7 @@ TEST_F(Browser, TheGridShowsTheFolderAndLastFoldersAreKept)
     EXPECT_EQ(grid->currentIndex().data(), "a.png");
     QTest::keyClick(grid, Qt::Key_End);
     EXPECT_EQ(tree().path(), at("notes.txt")) << "the tree and the preview follow";
+    tree().setFocus();
     tree().select(at("folder.png"));
     EXPECT_EQ(grid->rootIndex().data(), "folder.png");
     tree().select(at("a.png"));
