@@ -57,7 +57,8 @@ fBrowse::fBrowse(Platform& platform, BrowseMode mode, const QString& start, QWid
       BF_(new fFolderTree(mode == BrowseMode::Pictures ? fFolderTree::Shows::FoldersAndFiles
                                                        : fFolderTree::Shows::Folders,
                           "BF", tr("Folders"))),
-      grid_(named(new QListView, "grid", tr("Pictures of the folder"))), preview_(new PreviewPane(platform.previews())), FileName_(new fPathLabel("FileName"))
+      grid_(named(new QListView, "grid", tr("Pictures of the folder"))), preview_(new PreviewPane(platform.previews())),
+      FileName_(new fPathLabel("FileName"))
 {
     setObjectName("fBrowse");
     setWindowTitle("Browse For Graphic Filles");
