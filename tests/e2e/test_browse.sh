@@ -71,20 +71,21 @@ until_true "the preview in the dialog" large '#fe12ab' $((pinks + 1))
 keys Escape Escape
 until_true "the dialog to close" no_window '^Open file$'
 
-# A folder for the textures box, by keys only; applying its one file changes every pixel of a plain picture.
+# A folder for the textures box; applying its one file changes every pixel of a plain picture.
 press() { xdotool mousemove --window "$main" "$@"; settled; }
 press 775 144 click 1 # its tab in the frame
 press 699 193 click 1 # the page of effects
 mkdir -p "$folder/Textures/Cloth"
 convert -size 64x64 plasma:red-blue -colorspace gray "BMP3:$folder/Textures/Cloth/linen.bmp"
-browse alt+d
+press 668 623 click 1 # the button of the folder
+until_true "the choice of a folder" has_keys '^Browse For Graphic Filles$'
 xdotool type --delay 30 clo
 settled
 keys Return
 until_true "the choice to close" closed
 settled
 [ "$(areas '#fe12ab')" = 1 ] || fail "the pink picture is seen $(areas '#fe12ab') times"
-press 671 480 click --repeat 2 --delay 60 1 # the first file of the list
+press 670 508 click --repeat 2 --delay 60 1 # the first file of the list
 until_true "the picture with the texture" shows '#fe12ab' 0
 keys ctrl+z
 until_true "the picture as it was" shows '#fe12ab' 1
