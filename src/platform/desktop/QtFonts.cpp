@@ -5,7 +5,6 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
-#include <QRawFont>
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
@@ -155,14 +154,12 @@ QString withoutFoundry(const QString& family)
     return at > 0 && family.endsWith(u']') ? family.left(at) : family;
 }
 
-/// By what the font says of itself: pictures in place of letters. Several claim to have Latin letters, because they
-/// have the places of the keyboard.
-bool isOfSymbols(const QString& family)
+/// Several fonts of symbols claim to have Latin letters as well, because they have the places of the keyboard.
+bool isOfSymbols(const QList<QFontDatabase::WritingSystem>& systems)
 {
-    constexpr int kClass = 30, kSymbolicClass = 12, kPanose = 32,
-                  kPictorial = 5; // bytes of the table, and their values
-    const QByteArray facts = QRawFont::fromFont(QFont(family)).fontTable("OS/2");
-    return facts.size() > kPanose && (facts[kClass] == kSymbolicClass || facts[kPanose] == kPictorial);
+    return systems.contains(QFontDatabase::Symbol) && std::ranges::all_of(systems, [](auto system) {
+               return system == QFontDatabase::Symbol || system == QFontDatabase::Latin;
+           });
 }
 
 } // namespace
@@ -177,9 +174,9 @@ std::optional<std::vector<FontFamily>> QtFonts::list()
         FontFamily entry{withoutFoundry(family), {}};
         if (std::ranges::find(found, entry.name, &FontFamily::name) != found.end()) continue;
         const auto systems = QFontDatabase::writingSystems(family);
-        if (systems.size() <= 1 && !symbols_.contains(family)) symbols_[family] = isOfSymbols(family); // reads its file
+        const bool ofSymbols = isOfSymbols(systems);
         for (const QFontDatabase::WritingSystem system : systems)
-            if (!symbols_.value(family) && system != QFontDatabase::Symbol)
+            if (!ofSymbols && system != QFontDatabase::Symbol)
                 entry.writingSystems << QFontDatabase::writingSystemName(system);
         found.push_back(std::move(entry));
     }

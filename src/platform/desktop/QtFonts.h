@@ -1,7 +1,6 @@
 // QtFonts: the fonts of the desktop, through Qt's text layout.
 #pragma once
 #include "seams/Fonts.h"
-#include <QHash>
 
 namespace velara {
 
@@ -15,9 +14,6 @@ class QtFonts final : public Fonts {
     int beside(const TextRun& run, const TextStyle& style, int character, bool right) override;
     std::vector<PixelSpan> spans(const TextRun& run, const TextStyle& style, int from, int to) override;
     void draw(Bits& target, int x, int y, const TextRun& run, const TextStyle& style, Colour colour) override;
-
-  private:
-    QHash<QString, bool> symbols_; // the families that have been asked whether they are of symbols
 };
 
 } // namespace velara

@@ -13,22 +13,18 @@ struct EveryWindow : FrameTest {
     QSet<QString> seen; // the windows looked at
     QStringList unnamed, marked;
 
-    static bool isOurs(const QWidget& control) // and not a part of one of Qt's
+    static bool isA(const QWidget* widget, std::initializer_list<const char*> classes)
     {
-        const QWidget* owner = control.parentWidget();
-        const auto isA = [](const QWidget* widget, std::initializer_list<const char*> classes) {
-            return widget && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
-        };
-        return !control.objectName().startsWith("qt_") && !(owner && owner->objectName().startsWith("qt_")) &&
-               !isA(owner, {"QAbstractSpinBox", "QComboBox", "QLineEdit", "QTabBar", "QComboBoxPrivateContainer"}) &&
-               !isA(&control, {"QHeaderView", "QTabBar", "QComboBoxPrivateContainer"});
+        return widget && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
     }
-    static bool isControl(const QWidget& widget)
+    static bool isControl(const QWidget& widget) // of our own, and not a part of one of Qt's
     {
-        return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QAbstractSlider*>(&widget) ||
-               qobject_cast<const QAbstractItemView*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget) ||
-               qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
-               qobject_cast<const QPlainTextEdit*>(&widget) || (widget.focusPolicy() & Qt::TabFocus);
+        const QWidget* owner = widget.parentWidget();
+        return (isA(&widget, {"QAbstractButton", "QAbstractSlider", "QAbstractItemView"}) ||
+                (widget.focusPolicy() & Qt::TabFocus)) &&
+               !widget.objectName().startsWith("qt_") && !(owner && owner->objectName().startsWith("qt_")) &&
+               !isA(owner, {"QAbstractSpinBox", "QComboBox", "QLineEdit", "QTabBar", "QComboBoxPrivateContainer"}) &&
+               !isA(&widget, {"QHeaderView", "QTabBar", "QComboBoxPrivateContainer"});
     }
     static bool isNamed(const QWidget& control)
     {
@@ -55,7 +51,7 @@ struct EveryWindow : FrameTest {
         for (const QWidget* widget : all) {
             read(*widget);
             for (const QAction* action : widget->actions()) read(*action);
-            if (isControl(*widget) && isOurs(*widget) && !isNamed(*widget))
+            if (isControl(*widget) && !isNamed(*widget))
                 unnamed << window.objectName() + ": " + widget->metaObject()->className() + ' ' + widget->objectName();
         }
     }
