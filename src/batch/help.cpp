@@ -77,7 +77,8 @@ dialog's lists; one that there is not prints those that there are:
   --flip-h --flip-v --invert   not for JPEG
   --interlaced           for GIF
   --quality NUMBER|ENTRY for JPEG: 1 to 100, or such as Good
-  --max-bytes N          for JPEG: the best quality that is not larger
+  --max-bytes N          the best that is not larger: for JPEG its quality, for
+                         GIF and 8-bit PNG the number of colors and the dither
 
 --icon WxH makes OUTPUT, whatever its name, a Windows icon of that size, each
 side from 1 to 256; --icon WxH,mask:0x00BBGGRR one in which what has that colour

@@ -1,5 +1,6 @@
 #include "batch/web.h"
 #include "fileio/web/webFile.h"
+#include <QTemporaryDir>
 
 namespace velara {
 
@@ -74,7 +75,8 @@ constexpr OptionRow kOptions[] = {
     {"--quality", true, chooseQuality},
     {"--max-bytes", true,
      [](WebOrder& o, const QString& name, const QString& v) {
-         if (!o.settings.isJpeg()) throw badArgument(name + QStringLiteral(": only JPEG has a quality to fit a size"));
+         if (!o.settings.fitsASize())
+             throw badArgument(name + QStringLiteral(": only JPEG, GIF and 8-bit PNG can be fitted to a size"));
          o.maxBytes = numberOf(name, v, std::int64_t{1} << 40);
      }},
 };
@@ -103,12 +105,13 @@ QString writeWeb(const Bits& picture, const WebOrder& order, const QString& outp
 {
     WebSettings settings = order.settings;
     if (order.maxBytes) {
-        const std::optional<int> quality = bestJpegQuality(picture, *order.maxBytes);
-        if (!quality)
-            throw fileFault(QStringLiteral("%1 can't be written: no quality makes it as small as %2 bytes")
-                                .arg(output)
+        const QTemporaryDir folder;
+        const auto fitted = fittedSettings(picture, settings, *order.maxBytes, folder.filePath("tried"));
+        if (!fitted)
+            throw fileFault(QStringLiteral("%1 can't be written: no %2 makes it as small as %3 bytes")
+                                .arg(output, settings.isJpeg() ? "quality" : "number of colors")
                                 .arg(*order.maxBytes));
-        settings.JpegQuality = *quality;
+        settings = *fitted;
     }
     const WebFile file = writeWebFile(picture, settings, output, OutputFile::Links::Follow);
     if (file.outcome == WebFile::Outcome::NoBitmap)

@@ -35,17 +35,17 @@ std::vector<Colour> fortyEight()
     return list;
 }
 
-constexpr int kShades = 48;
+constexpr int kShades = 48, kPure = 7; // the place of the full colour in its row
 
 /// From black through the full colour to nearly white; the second and third row are shifted a little towards the two
 /// neighbouring hues.
 std::vector<Colour> shadesOf(double hue)
 {
-    constexpr int kRow = kShades / 3;
+    constexpr int kRow = kShades / 3, kFull = kPure + 1;
     std::vector<Colour> list;
     for (const double lean : {0.0, -18.0, 18.0})
         for (int i = 1; i <= kRow; ++i) {
-            const double share = 2.0 * i / (kRow + 1); // 1: the full colour
+            const double share = i <= kFull ? double(i) / kFull : 1 + double(i - kFull) / (kRow - kFull + 1);
             const double h = hue + lean < 0 ? hue + lean + 360 : hue + lean;
             list.push_back(colourOf(toRgb({h, share <= 1 ? 1 : 2 - share, std::min(share, 1.0)})));
         }
@@ -64,13 +64,13 @@ std::vector<Colour> greys()
 
 const PresetSet kSets[] = {
     // clang-format off
-    {"16 Colors",      8,  sixteen},
-    {"48 Colors",      8,  fortyEight},
-    {"Red Pallete",    16, [] { return shadesOf(0); }},
-    {"Green Pallete",  16, [] { return shadesOf(120); }},
-    {"Blue Pallete",   16, [] { return shadesOf(240); }},
-    {"Grey Pallete",   16, greys},
-    {"System Pallete", 6,  [] { return std::vector<Colour>(); }},
+    {"16 Colors",      8,  15,    sixteen},
+    {"48 Colors",      8,  9,     fortyEight},
+    {"Red Pallete",    16, kPure, [] { return shadesOf(0); }},
+    {"Green Pallete",  16, kPure, [] { return shadesOf(120); }},
+    {"Blue Pallete",   16, kPure, [] { return shadesOf(240); }},
+    {"Grey Pallete",   16, 24,    greys},
+    {"System Pallete", 6,  0,     [] { return std::vector<Colour>(); }},
     // clang-format on
 };
 static_assert(std::size(kSets) == kPresetSets);

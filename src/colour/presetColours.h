@@ -8,6 +8,7 @@ namespace velara {
 struct PresetSet {
     const char* name;
     int columns; // of the grid that shows it
+    int shown;   // the colour by which its well is known
     /// Empty: the desktop's own colours.
     std::vector<Colour> (*colours)();
 };

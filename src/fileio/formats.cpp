@@ -45,6 +45,16 @@ QString withExtension(const QString& path, const QString& extension)
     return path + (path.endsWith('.') ? "" : ".") + extension;
 }
 
+QString withEnding(const QString& path, const QString& extension)
+{
+    const QString ending = extensionOf(path);
+    if (ending == extension || (ending == "jpeg" && extension == "jpg") || (ending == "tiff" && extension == "tif"))
+        return path;
+    const bool isOther = formatOf(path) != nullptr || ending == "jpeg" || ending == "tiff";
+    const QString stem = isOther ? path.chopped(ending.size() + 1) : path;
+    return stem + (stem.endsWith(u'.') ? "" : ".") + extension;
+}
+
 const Family* familyOf(const QString& path)
 {
     const std::string extension = extensionOf(path).toStdString();

@@ -132,6 +132,10 @@ QString extensionOf(const QString& path);
 /// The path, with the extension added if its name has none.
 QString withExtension(const QString& path, const QString& extension);
 
+/// The path under the ending of a format: "a.jpg" becomes "a.png", "a" and "a.2" become "a.png" and "a.2.png". "jpeg"
+/// and "tiff" are as good as the shorter forms.
+QString withEnding(const QString& path, const QString& extension);
+
 /// The kinds of picture by the names that users know: what the browser shows as a picture, what a preview calls it, and
 /// the list of file types.
 struct Family {

@@ -2,13 +2,25 @@
 
 namespace velara {
 
+namespace {
+
+/// A bracket too many would end the list, and show a line without its name.
+QStringList patternsOf(QString part)
+{
+    QStringList patterns;
+    for (const QString& pattern : part.remove(u'(').remove(u')').split(';', Qt::SkipEmptyParts))
+        patterns << pattern.trimmed();
+    return patterns;
+}
+
+} // namespace
+
 QStringList nameFilters(const QString& filter)
 {
     QStringList list;
     const QStringList parts = filter.split('|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        QStringList patterns;
-        for (const QString& pattern : parts[i + 1].split(';', Qt::SkipEmptyParts)) patterns << pattern.trimmed();
+        QStringList patterns = patternsOf(parts[i + 1]);
         if (patterns.isEmpty()) patterns << "*";
         list << parts[i].trimmed() + " (" + patterns.join(' ') + ")";
     }
@@ -21,8 +33,8 @@ QString suffixFor(const QString& filter, const QString& chosen, const QString& p
     for (qsizetype i = 0; i < names.size(); ++i) {
         if (names[i] != chosen && parts[2 * i].trimmed() != chosen) continue;
         QStringList suffixes;
-        for (const QString& pattern : parts[2 * i + 1].split(';', Qt::SkipEmptyParts))
-            if (pattern.trimmed().startsWith("*.")) suffixes << pattern.trimmed().mid(2).toLower();
+        for (const QString& pattern : patternsOf(parts[2 * i + 1]))
+            if (pattern.startsWith("*.")) suffixes << pattern.mid(2).toLower();
         return suffixes.contains(preferred) ? preferred : suffixes.value(0);
     }
     return {};

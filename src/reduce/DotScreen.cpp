@@ -1,18 +1,15 @@
 #include "reduce/DotScreen.h"
-#include "reduce/palettes.h"
 #include <algorithm>
+#include <bit>
 
 namespace velara {
 
 namespace {
 
-constexpr int kMostError =
-    64 * 255; // summed over all entries; for colours outside the palette's gamut it would grow without end
-
 /// Bayer's matrix: each doubling inserts 0, 2 / 3, 1 between the thresholds there are.
-constexpr ScreenMatrix dispersed()
+constexpr auto dispersed()
 {
-    ScreenMatrix matrix{};
+    std::array<std::uint8_t, 64> matrix{};
     for (std::size_t y = 0; y < 8; ++y)
         for (std::size_t x = 0; x < 8; ++x)
             for (std::size_t bit = 0; bit < 3; ++bit) {
@@ -24,11 +21,11 @@ constexpr ScreenMatrix dispersed()
 
 } // namespace
 
-constexpr ScreenMatrix kDispersedDots = dispersed();
+constexpr DotMatrix kDispersedDots{dispersed(), {0.05F, 40}};
 
 // Clustered dots: two a square, each growing outwards from its centre; the second lags the first by one step.
 // clang-format off
-constexpr ScreenMatrix kClusteredDots{
+constexpr DotMatrix kClusteredDots{{
     24, 10, 12, 26, 35, 47, 49, 37,
      8,  0,  2, 14, 45, 59, 61, 51,
     22,  6,  4, 16, 43, 57, 63, 53,
@@ -36,52 +33,68 @@ constexpr ScreenMatrix kClusteredDots{
     34, 46, 48, 36, 25, 11, 13, 27,
     44, 58, 60, 50,  9,  1,  3, 15,
     42, 56, 62, 52, 23,  7,  5, 17,
-    32, 40, 54, 38, 31, 21, 19, 29};
+    32, 40, 54, 38, 31, 21, 19, 29}, {0.1F, 500}};
 // clang-format on
 
-DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest) : nearest_(nearest), colours_(colours)
+DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix,
+                     PaletteOf origin, bool hasManyColours)
+    : matrix_(matrix), alternates_(hasManyColours), nearest_(nearest), colours_(colours),
+      mixer_(colours, {matrix.contrast.seen, origin == PaletteOf::Any ? 0 : matrix.contrast.close})
 {
-    for (const Pixel& p : colours) {
-        lanes_.push_back(wide(p));
-        brightness_.push_back(greyOf(p.c[2], p.c[1], p.c[0]));
-        for (std::size_t rank = 0; rank < kRanks; ++rank) state_[cellOf(p, rank)] = kHoldsEntry;
+    for (const Pixel& p : colours) hasOwn_[cellOf(p)] = true;
+    if (alternates_) coarse_.resize(kLevels * kLevels * kLevels);
+}
+
+void DotScreen::row(const Pixel* from, std::uint8_t* to, int width, int y)
+{
+    std::array<std::uint8_t, 8> thresholds;
+    std::copy_n(&matrix_.thresholds[std::size_t(y % 8 * 8)], 8, thresholds.begin());
+    if (!alternates_) {
+        for (int x = 0; x < width; ++x) to[x] = recent(from[x]).at(thresholds[std::size_t(x % 8)]);
+        return;
+    }
+    // The two fractions of a sequence that fills the plane evenly and has no common period with the thresholds.
+    unsigned sequence = unsigned(y) * 2447445414U;
+    for (int x = 0; x < width; ++x, sequence += 3242174889U) {
+        const Pixel p = from[x];
+        if (hasOwn_[cellOf(p)])
+            if (const int own = nearest_(p); bytesOf(colours_[std::size_t(own)]) == bytesOf(p)) {
+                to[x] = static_cast<std::uint8_t>(own);
+                continue;
+            }
+        to[x] = between(p, sequence >> 30).at(thresholds[std::size_t(x % 8)]);
     }
 }
 
-int DotScreen::lookCloser(Pixel p, std::size_t cell, int place)
+/// The dots of the level below or above each channel; up: 0 to 3.
+inline const DotScreen::Dots& DotScreen::between(Pixel p, unsigned up)
 {
-    if (state_[cell] & kHoldsEntry) {
-        const int own = nearest_(p);
-        const Pixel& q = colours_[std::size_t(own)];
-        if (p.c[0] == q.c[0] && p.c[1] == q.c[1] && p.c[2] == q.c[2]) return own;
+    const auto level = [&](int c) { return (p.c[c] + up) >> 2; };
+    Dots& dots = coarse_[(level(2) * kLevels + level(1)) * kLevels + level(0)];
+    if (dots.ends[0] == 0) [[unlikely]] {
+        const auto channel = [&](int c) { return static_cast<std::uint8_t>(std::min(level(c) << 2, 255U)); };
+        dots = mix({channel(0), channel(1), channel(2), 0});
     }
-    if (!(state_[cell] & kMixed)) mix(cell);
-    return mixtures_[cell][std::size_t(place)];
+    return dots;
 }
 
-/// Each entry is the nearest to the colour plus the error that the entries before it have left.
-void DotScreen::mix(std::size_t cell)
+inline const DotScreen::Dots& DotScreen::recent(Pixel p)
 {
-    const auto value = [&](int channel) {
-        return (static_cast<int>(cell >> kBits * channel & kMostLevel) * 255 + kMostLevel / 2) / kMostLevel;
-    };
-    const Lanes colour{value(0), value(1), value(2), 0};
-    std::array<std::uint8_t, 256> times{};
-    std::array<std::uint8_t, 64> used;
-    std::size_t count = 0;
-    Lanes error{};
-    for (int i = 0; i < 64; ++i) {
-        const auto entry = static_cast<std::size_t>(nearest_(narrow(limited(colour + error, 0, 255))));
-        if (times[entry]++ == 0) used[count++] = static_cast<std::uint8_t>(entry);
-        error = limited(error + colour - lanes_[entry], -kMostError, kMostError);
-    }
-    std::sort(used.begin(), used.begin() + count, [&](int a, int b) {
-        const int byBrightness = brightness_[std::size_t(a)] - brightness_[std::size_t(b)];
-        return byBrightness != 0 ? byBrightness < 0 : a < b;
-    });
-    auto to = mixtures_[cell].begin();
-    for (std::size_t i = 0; i < count; ++i) to = std::fill_n(to, times[used[i]], used[i]);
-    state_[cell] |= kMixed;
+    const std::uint32_t colour = bytesOf(p);
+    Recent& recent = recent_[colour * 2654435769U >> (32 - kSlotBits)]; // golden ratio
+    if (recent.colour != colour) [[unlikely]]
+        recent = {colour, mix(p)};
+    return recent.dots;
+}
+
+DotScreen::Dots DotScreen::mix(Pixel p)
+{
+    const ColourMixer::Mixture mixture = mixer_(p);
+    Dots dots{.entries = mixture.entries};
+    dots.ends.fill(ColourMixer::kParts);
+    int end = 0;
+    for (std::size_t i = 0; i < mixture.count; ++i) dots.ends[i] = static_cast<std::uint8_t>(end += mixture.parts[i]);
+    return dots;
 }
 
 } // namespace velara

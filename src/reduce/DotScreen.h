@@ -1,63 +1,63 @@
-// Ordered dithering for any palette: each colour is approximated by 64 palette entries with its mean, sorted dark to
-// light, and an 8x8 threshold matrix picks the entry of a pixel. The lists are cached: a picture needs few of them.
+// Ordered dithering for any palette: each colour is approximated by a mixture of palette entries, sorted dark to light,
+// and an 8x8 threshold matrix picks the entry of a pixel. Mixtures are kept.
 #pragma once
 #include "pixels/NearestColours.h"
-#include "pixels/PixelLanes.h"
-#include <algorithm>
-#include <array>
-#include <memory>
-#include <vector>
+#include "reduce/ColourMixer.h"
 
 namespace velara {
 
-/// Thresholds 0 to 63 of an 8x8 square, row by row.
-using ScreenMatrix = std::array<std::uint8_t, 64>;
-extern const ScreenMatrix kDispersedDots, kClusteredDots;
+/// Thresholds 0 to 63 of an 8x8 square, row by row, and the contrast of its dots.
+struct DotMatrix {
+    std::array<std::uint8_t, 64> thresholds;
+    Contrast contrast;
+};
+extern const DotMatrix kDispersedDots, kClusteredDots;
+
+/// Where a palette comes from: one made for the picture has all its colours near, and contrast costs more than it
+/// brings; with any other, the mean is all there is.
+enum class PaletteOf { Any, ThePicture };
 
 class DotScreen {
   public:
-    /// colours: those that nearest knows, at most 256.
-    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest);
+    /// colours: those that nearest knows, at most 256. For a picture of very many colours, mixtures are made for every
+    /// fourth level of a channel; those of a pixel between two of them are alternated, so that the mean is kept.
+    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, PaletteOf origin,
+              bool hasManyColours);
 
-    /// The palette entry for a colour at a threshold of the matrix, in a numbered square of the picture. Colours of the
-    /// palette map to themselves. Channels are quantised to 32 levels; the rounding direction varies over eight
-    /// successive squares, so that the mean is kept.
-    int operator()(Pixel p, int place, int square)
-    {
-        const std::size_t cell = cellOf(p, std::size_t(place + square) % kRanks);
-        if (state_[cell] != kMixed) [[unlikely]]
-            return lookCloser(p, cell, place);
-        return mixtures_[cell][std::size_t(place)];
-    }
+    /// The palette entries of row y, width pixels. Colours of the palette map to themselves.
+    void row(const Pixel* from, std::uint8_t* to, int width, int y);
 
   private:
-    using Mixture = std::array<std::uint8_t, 64>;
-    enum State : std::uint8_t { kMixed = 1, kHoldsEntry = 2 };
-    static constexpr int kBits = 5, kMostLevel = (1 << kBits) - 1;
-    static constexpr std::size_t kCells = std::size_t{1} << 3 * kBits, kRanks = 8;
-    static constexpr auto kLevel = [] { // by rank and channel value
-        std::array<std::array<std::uint8_t, 256>, kRanks> level{};
-        for (std::size_t rank = 0; rank < kRanks; ++rank)
-            for (std::size_t v = 0; v < 256; ++v)
-                level[rank][v] = static_cast<std::uint8_t>((v * kMostLevel * 2 * kRanks + (2 * rank + 1) * 255) /
-                                                           (255 * 2 * kRanks));
-        return level;
-    }();
-    static std::size_t cellOf(Pixel p, std::size_t rank)
-    {
-        const auto& level = kLevel[rank];
-        return std::size_t(level[p.c[0]] | level[p.c[1]] << kBits | level[p.c[2]] << 2 * kBits);
-    }
+    static constexpr int kSlotBits = 16;
+    static constexpr std::size_t kLevels = 65; // 0, 4, ... 252, 255
+    struct alignas(16) Dots {
+        std::array<std::uint8_t, ColourMixer::kMostMixed> entries{}, ends{}; // the threshold at which each one ends
+        /// Counts the ends up to the threshold all at once: the high bit of a byte is kept where nothing is borrowed.
+        std::uint8_t at(std::uint8_t threshold) const
+        {
+            constexpr std::uint64_t kOnes = 0x0101010101010101, kHigh = 0x80 * kOnes;
+            const std::uint64_t kept = ((threshold * kOnes | kHigh) - std::bit_cast<std::uint64_t>(ends)) & kHigh;
+            return entries[std::size_t(std::popcount(kept))];
+        }
+    };
+    struct Recent {
+        std::uint32_t colour = 0xFF000000; // of none
+        Dots dots;
+    };
+    Dots mix(Pixel p);
+    const Dots& recent(Pixel p);
+    const Dots& between(Pixel p, unsigned up);
+    static std::uint32_t bytesOf(Pixel p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
+    static std::size_t cellOf(Pixel p) { return std::size_t(p.c[0] >> 2 | (p.c[1] >> 2) << 6 | (p.c[2] >> 2) << 12); }
 
-    int lookCloser(Pixel p, std::size_t cell, int place);
-    void mix(std::size_t cell);
-
+    const DotMatrix& matrix_;
+    const bool alternates_;
     NearestColours& nearest_;
     const std::vector<Pixel>& colours_;
-    std::vector<Lanes> lanes_;
-    std::vector<int> brightness_;
-    std::vector<std::uint8_t> state_ = std::vector<std::uint8_t>(kCells);
-    std::unique_ptr<Mixture[]> mixtures_ = std::make_unique_for_overwrite<Mixture[]>(kCells);
+    ColourMixer mixer_;
+    std::vector<bool> hasOwn_ = std::vector<bool>(std::size_t{1} << 18); // colours of the palette, by cells
+    std::vector<Recent> recent_ = std::vector<Recent>(std::size_t{1} << kSlotBits);
+    std::vector<Dots> coarse_; // for every fourth level
 };
 
 } // namespace velara

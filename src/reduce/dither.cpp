@@ -35,12 +35,13 @@ class Work {
     }
     int nearest(Pixel p) { return nearest_(p); }
 
-    void screened(const ScreenMatrix& matrix)
+    void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        DotScreen screen(colours_, nearest_);
-        eachPixel([&](Pixel p, int x, int y) {
-            return screen(p, matrix[std::size_t(y % 8 * 8 + x % 8)], x / 8 + y / 8 * 3);
-        });
+        DotScreen screen(colours_, nearest_, matrix, origin, hasManyColours());
+        for (int y = 0; y < bits_.height(); ++y) {
+            screen.row(bits_.row(y), rowOf(y), bits_.width(), y);
+            told(y);
+        }
     }
 
     /// All of the error goes to the next row, shift columns to the right.
@@ -55,7 +56,7 @@ class Work {
             for (int x = 0; y == 0 && x < width; ++x) seedAt(x);
             if (y > 0 && shift != 0) seedAt(shift > 0 ? 0 : width - 1); // where a diagonal begins
             for (int x = 0; x < width; ++x) {
-                const Lanes error = put(to[x], from[x], errors[std::size_t(x)]);
+                const Lanes error = put(to[x], x, y, errors[std::size_t(x)]);
                 if (unsigned(x + shift) < unsigned(width)) next[std::size_t(x + shift)] = error;
             }
             std::swap(errors, next);
@@ -74,7 +75,7 @@ class Work {
             const auto along = [&](int count) {
                 for (int x = 0; x < bits_.width(); ++x)
                     for (int i = 0; i < count; ++i)
-                        errors[std::size_t(i)] = put(rowOf(y + i)[x], bits_.row(y + i)[x], errors[std::size_t(i)]);
+                        errors[std::size_t(i)] = put(rowOf(y + i)[x], x, y + i, errors[std::size_t(i)]);
             };
             rows == kAbreast ? along(kAbreast) : along(rows);
             told(y + kAbreast - 1);
@@ -90,13 +91,12 @@ class Work {
         for (int y = 0; y < bits_.height(); ++y) {
             const bool back = y % 2 == parity;
             const int step = back ? -1 : 1, first = back ? width - 1 : 0;
-            const Pixel* from = bits_.row(y) + first;
             std::uint8_t* to = rowOf(y) + first;
             const Lanes* here = errors.data() + 1 + first;
             Lanes* below = next.data() + 1 + first;
             Lanes ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
-            for (int i = 0; i < width; ++i, from += step, to += step, here += step, below += step) {
-                const Lanes error = put(*to, *from, *here + ahead);
+            for (int i = 0; i < width; ++i, to += step, here += step, below += step) {
+                const Lanes error = put(*to, first + i * step, y, *here + ahead);
                 const Lanes right = error * 7 >> 4, back3 = error * 3 >> 4, middle = error * 5 >> 4;
                 below[-step] = under + back3;
                 under = corner + middle;
@@ -110,6 +110,20 @@ class Work {
     }
 
   private:
+    /// So many that a mixture for each of them would take longer than it is worth.
+    bool hasManyColours() const
+    {
+        constexpr int kMany = 1 << 14;
+        std::vector<bool> known(1 << 24);
+        int count = 0;
+        for (int y = 0; y < bits_.height() && count < kMany; ++y)
+            for (int x = 0; x < bits_.width(); ++x) {
+                auto seen = known[std::bit_cast<std::uint32_t>(bits_.row(y)[x]) & 0xFFFFFF];
+                count += !seen;
+                seen = true;
+            }
+        return count >= kMany;
+    }
     static std::vector<Pixel> pixelsOf(const Palette& palette)
     {
         std::vector<Pixel> pixels;
@@ -129,14 +143,38 @@ class Work {
         return ((std::bit_cast<std::uint32_t>(a) ^ std::bit_cast<std::uint32_t>(b)) & 0xFFFFFF) == 0;
     }
     /// The entry nearest to pixel plus error, and the new error. With an error, lookups are quantised to cubes of four
-    /// levels: the loss is diffused with the rest, and the table stays in the cache.
-    Lanes put(std::uint8_t& to, Pixel p, Lanes error)
+    /// levels: the loss is diffused with the rest, and the table stays in the cache. A plain place whose entry can't be
+    /// told from it stays plain: no error comes in or goes out.
+    Lanes put(std::uint8_t& to, int x, int y, Lanes error)
     {
+        constexpr int kUnseen = 3; // squared distance: one level a channel
+        const Pixel p = bits_.row(y)[x];
+        if (isPlain(x, y)) {
+            const int entry = nearest_(p);
+            const Lanes off = wide(p) - lanes_[std::size_t(entry)], squares = off * off;
+            if (squares[0] + squares[1] + squares[2] <= kUnseen) {
+                to = static_cast<std::uint8_t>(entry);
+                return Lanes{};
+            }
+        }
         const Lanes wanted = wide(p) + error;
         const Pixel shown = narrow(limited(wanted, 0, 255));
         const int entry = isSame(shown, p) ? nearest_(shown) : nearly(shown);
         to = static_cast<std::uint8_t>(entry);
         return limited(wanted - lanes_[std::size_t(entry)], -kMostError, kMostError);
+    }
+    /// The same colour all around, wider than the steps of a smooth ramp.
+    bool isPlain(int x, int y) const
+    {
+        const Pixel p = bits_.row(y)[x];
+        for (const int reach : {1, 6}) {
+            const int left = std::max(x - reach, 0), right = std::min(x + reach, bits_.width() - 1);
+            const int above = std::max(y - reach, 0), below = std::min(y + reach, bits_.height() - 1);
+            if (!isSame(p, bits_.row(y)[left]) || !isSame(p, bits_.row(y)[right]) || !isSame(p, bits_.row(above)[x]) ||
+                !isSame(p, bits_.row(below)[x]))
+                return false;
+        }
+        return true;
     }
     int nearly(Pixel p)
     {
@@ -172,7 +210,16 @@ Pixel blackOrWhite(Pixel p)
 
 } // namespace
 
-IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress)
+bool mixesColours(Dither dither)
+{
+    static constexpr Dither kMixing[] = {Dither::Ordered,      Dither::Haftone,    Dither::ForwardDiag,
+                                         Dither::BackwardDiag, Dither::Horizontal, Dither::Vertical,
+                                         Dither::Odd,          Dither::Even};
+    return std::ranges::find(kMixing, dither) != std::end(kMixing);
+}
+
+IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress,
+                        PaletteOf origin)
 {
     Work work(bits, palette, progress);
     switch (dither) {
@@ -180,10 +227,10 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
         work.eachPixel([&](Pixel p, int, int) { return work.nearest(blackOrWhite(p)); });
         break;
     case Dither::Ordered:
-        work.screened(kDispersedDots);
+        work.screened(kDispersedDots, origin);
         break;
     case Dither::Haftone:
-        work.screened(kClusteredDots);
+        work.screened(kClusteredDots, origin);
         break;
     case Dither::ForwardDiag:
         work.downwards(1);

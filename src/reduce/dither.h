@@ -1,6 +1,7 @@
 // Maps a picture to a palette, with the choice of how the quantisation error is spread.
 #pragma once
 #include "pixels/IndexedPicture.h"
+#include "reduce/DotScreen.h"
 #include "reduce/EuroDepth.h"
 
 namespace velara {
@@ -19,9 +20,14 @@ enum class Dither {
     Even = 0x200,        // the same, even rows from right to left
 };
 
+/// True for those that show a colour as a mixture of others; false for None, Binary and unknown ones.
+bool mixesColours(Dither dither);
+
 /// Squared distance, ties to the lowest index; with diffused error the match may be approximate. Colours of the palette
 /// map to themselves. All but Binary keep the mean of a flat area whose colour lies in the palette's gamut. An unknown
-/// dither counts as None. palette: 1 to 256 colours.
-IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress = {});
+/// dither counts as None. Diffused error spares plain places that the palette has to within a level. palette: 1 to 256
+/// colours.
+IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither, const ReduceProgress& progress = {},
+                        PaletteOf origin = PaletteOf::Any);
 
 } // namespace velara

@@ -1,6 +1,7 @@
 #include "reduce/reduceColours.h"
 #include "reduce/bestColours.h"
 #include "reduce/dither.h"
+#include "reduce/stretchPalette.h"
 #include <algorithm>
 
 namespace velara {
@@ -20,14 +21,15 @@ Bits greyPicture(const Bits& bits)
 
 Colour greyColour(Colour c) { return greyOf(redOf(c), greenOf(c), blueOf(c)) * colourOf(1, 1, 1); }
 
-Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgress& progress, Palette* best)
+Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgress& progress, BestPalette& best)
 {
     const int most = 1 << words.bitCount, counted = words.paletteWord & ~kCounted;
     switch (words.paletteWord) {
     case kOptimal:
-        if (best && !best->empty()) return *best;
-        if (best) return *best = bestPalette(bits, most, progress);
-        return bestPalette(bits, most, progress);
+        if (best.plain.empty()) best.plain = bestPalette(bits, most, progress);
+        if (!mixesColours(static_cast<Dither>(words.ditherWord))) return best.plain;
+        if (best.stretched.empty()) best.stretched = stretchedPalette(bits, best.plain, progress);
+        return best.stretched;
     case kVgaPalette:
         return vgaColours();
     case kWebPalette:
@@ -46,7 +48,8 @@ Palette paletteOf(const ReduceWords& words, const Bits& bits, const ReduceProgre
 
 } // namespace
 
-ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress, Palette* best)
+ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress,
+                             BestPalette* best)
 {
     const int count = words.bitCount;
     const bool isIndexed = count >= 1 && count <= 8;
@@ -55,11 +58,15 @@ ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const R
     const Bits source = isGrey ? greyPicture(bits) : bits;
     if (!isIndexed) return {std::min(count, 24), {}, bitsAtDepth(source, count, progress)};
 
-    Palette palette = paletteOf(words, source, progress, best);
+    BestPalette own;
+    Palette palette = paletteOf(words, source, progress, best ? *best : own);
     palette.resize(std::min<std::size_t>(palette.size(), std::size_t{1} << count));
     if (isGrey) std::ranges::transform(palette, palette.begin(), greyColour);
     const auto dither = words.paletteWord == kMapped ? Dither::None : static_cast<Dither>(words.ditherWord);
-    return {count, dithered(source, palette, dither, progress), {}};
+    return {count,
+            dithered(source, palette, dither, progress,
+                     words.paletteWord == kOptimal ? PaletteOf::ThePicture : PaletteOf::Any),
+            {}};
 }
 
 } // namespace velara

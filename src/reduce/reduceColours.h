@@ -11,6 +11,11 @@ constexpr int kVgaPalette = 0x8210, kWebPalette = 0x84D8, kHalftonePalette = 0x8
 
 constexpr int kGreyscale = 2; // the colour mode in which every colour becomes a grey; any other keeps colours
 
+/// The best palette of a picture, and the one for mixtures of colours; empty while unknown.
+struct BestPalette {
+    Palette plain, stretched;
+};
+
 struct ReduceWords {
     int colorMode = 0;
     int bitCount = 8;
@@ -30,7 +35,8 @@ struct ReducedPicture {
 /// dithered; at 2, 3, 5, 6 and 7 bits, which have no table, it uses a uniform palette. Palettes with more colours than
 /// the bits allow are truncated; unknown palettes count as kFixedColour. In greyscale both picture and palette become
 /// grey. best: cache of the palette for kOptimal, the slowest part; filled when empty.
+/// A dither that mixes colours gets it stretched.
 ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const ReduceProgress& progress = {},
-                             Palette* best = nullptr);
+                             BestPalette* best = nullptr);
 
 } // namespace velara

@@ -21,6 +21,8 @@ struct FileDialog {
     QString defaultPattern = {};
     /// For a save dialog: the extension added to a name without one when the chosen filter has several.
     QString extension = {};
+    /// For a save dialog: the name that is proposed; what comes before its extension is selected.
+    QString name = {};
     /// The file that saving under this name writes: the dialog asks before replacing that one.
     std::function<QString(const QString&)> writtenAs = {};
 };

@@ -128,6 +128,9 @@ TEST(Presets, SetsHoldTheColoursOfTheirNames)
     for (int i = 0; i < kPresetSets; ++i) {
         const auto colours = presetSet(i).colours();
         EXPECT_EQ(sizes[i], colours.size());
+        if (i >= 2 && i <= 4) {
+            EXPECT_EQ(0xFF << 8 * (i - 2), colours[std::size_t(presetSet(i).shown)]);
+        }
         EXPECT_EQ(colours.size(), std::set(colours.begin(), colours.end()).size()) << presetSet(i).name;
         for (const Colour c : colours) {
             const int own[] = {redOf(c), greenOf(c), blueOf(c)};

@@ -89,7 +89,7 @@ TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
     }
     EXPECT_GT(files, 400);
 
-    for (auto& [key, palette] : known) palette = {0x0000FF};
+    for (auto& [key, palette] : known) palette.plain = {0x0000FF};
     WebSettings s;
     s.choosePreset(3, false);
     for (const bool invert : {false, true}) {
@@ -104,13 +104,28 @@ TEST_F(WebFileTest, EveryPresetPaletteAndDitherReadBack)
     for (int c = 0; c < 3; ++c) EXPECT_EQ(255 - row.at(2, 0).c[c], QImage(name, "png").pixel(6, 0) >> (8 * c) & 0xFF);
 }
 
-TEST_F(WebFileTest, TheBestJpegMayHaveJustSoManyBytes)
+TEST_F(WebFileTest, TheBestThatMayHaveJustSoManyBytes)
 {
     WebSettings s;
     s.choosePreset(15, false);
     s.JpegQuality = 60;
-    const std::int64_t bytes = writeWebFile(sample(), s, path("web"), OutputFile::Links::Follow).bytes;
-    EXPECT_GE(bestJpegQuality(sample(), bytes), 60);
+    const auto bytesOf = [&](const WebSettings& w) {
+        return writeWebFile(sample(), w, path("web"), OutputFile::Links::Follow).bytes;
+    };
+    const std::int64_t bytes = bytesOf(s);
+    EXPECT_GE(fittedSettings(sample(), s, bytes, path("tried"))->JpegQuality, 60);
+    for (const int preset : {7, 13}) { // GIF, PNG
+        s.choosePreset(preset, false);
+        s.chooseDither(2);
+        const std::int64_t full = bytesOf(s);
+        EXPECT_EQ(s.DitherWord, fittedSettings(sample(), s, full, path("tried"))->DitherWord) << preset;
+        const auto small = fittedSettings(sample(), s, full / 2, path("tried"));
+        ASSERT_TRUE(small) << preset;
+        EXPECT_LT(small->BitCount, 8);
+        EXPECT_LE(bytesOf(*small), full / 2);
+        EXPECT_EQ(8, fittedSettings(sample(), *small, full, path("tried"))->BitCount) << "and back";
+        EXPECT_FALSE(fittedSettings(sample(), s, 40, path("tried"))) << preset;
+    }
 }
 
 TEST_F(WebFileTest, AWriterEndsWithItsFirstWriteThatFails)

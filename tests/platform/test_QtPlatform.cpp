@@ -36,6 +36,8 @@ TEST(NameFilters, BecomeWhatTheDialogTakes)
 {
     EXPECT_EQ(nameFilters("Bitmap Files (*.BMP;*.DIB)|*.bmp;*.dib|Koala (*.KOA)| *.koa"),
               QStringList({"Bitmap Files (*.BMP;*.DIB) (*.bmp *.dib)", "Koala (*.KOA) (*.koa)"}));
+    EXPECT_EQ(nameFilters("Tagged (*.tif)|*.tif)"), QStringList("Tagged (*.tif) (*.tif)"));
+    EXPECT_EQ(suffixFor("Tagged (*.tif)|*.tif)", "Tagged (*.tif)", {}), "tif");
     EXPECT_EQ(nameFilters("Odd|"), QStringList({"Odd (*)"}));
     EXPECT_EQ(nameFilters("cut off"), QStringList());
     const QString filter = "All |*.bmp;*.png|Png (*.PNG)|*.PNG|ASCII (*.ppm)(*.pgm)|*.ppm;*.pgm|Any|*";

@@ -4,7 +4,9 @@
 #include "reduce/reduceColours.h"
 #include "support/pictures.h"
 #include <array>
+#include <cmath>
 #include <map>
+#include <random>
 #include <set>
 #include <span>
 
@@ -130,6 +132,69 @@ TEST(Dither, TheSmallestAndTheThinnest)
     for (const Dither dither : {Dither::Odd, Dither::Even}) { // the last pixel of a row has one below it, too
         const auto column = dithered(flatBits(1, 50, 100, 100, 100), blackAndWhite(), dither).indices;
         EXPECT_EQ(2U, std::set(column.begin(), column.end()).size()) << int(dither);
+    }
+}
+
+/// The squared error that is left from afar: a binomial blur of 9 pixels, a sigma of 1.4.
+double seenFromAfar(const Bits& picture, const IndexedPicture& reduced)
+{
+    const int w = picture.width(), h = picture.height();
+    double sum = 0;
+    for (int c = 0; c < 3; ++c) {
+        std::vector<double> off(std::size_t(w * h));
+        for (int i = 0; i < w * h; ++i)
+            off[std::size_t(i)] =
+                picture.at(i % w, i / w).c[c] - pixelFor(reduced.palette[reduced.indices[std::size_t(i)]]).c[c];
+        for (const int step : {1, w})
+            for (int pass = 0; pass < 8; ++pass)
+                for (int i = w * h - 1; i >= step; --i)
+                    off[std::size_t(i)] = (off[std::size_t(i)] + off[std::size_t(i - step)]) / 2;
+        for (int i = 8 * w; i < w * h; ++i) sum += i % w < 8 ? 0 : off[std::size_t(i)] * off[std::size_t(i)];
+    }
+    return sum;
+}
+
+TEST(Dither, WithBestColoursItIsNeverWorseFromAfarThanNone)
+{
+    std::mt19937 random(7);
+    const auto noise = [&](int most) { return int(random() % unsigned(2 * most + 1)) - most; };
+    const Bits pictures[] = {
+        drawnBits(320, 200,
+                  [](int x, int) { return pixelFor(colourOf(20 + x / 8, 90 + x * 100 / 319, 100 + x * 90 / 319)); }),
+        drawnBits(320, 200,
+                  [](int x, int y) { return pixelFor(colourOf(120 + (x + y) / 6, 160 + x / 6, 200 + y / 4)); }),
+        drawnBits(320, 200, [&](int x, int y) { // of more than 2^14 colours
+            const auto wave = [](double at, int height) { return 128 + int(height * std::sin(at)); };
+            return pixelFor(colourOf(wave(x / 37.0, 90) + noise(2), wave(y / 31.0 + x / 90.0, 70) + noise(2),
+                                     wave((x + y) / 43.0, 50) + noise(2)));
+        })};
+    for (const Bits& picture : pictures)
+        for (const int bits : {4, 6, 8}) {
+            BestPalette best;
+            const auto error = [&](Dither dither) {
+                return seenFromAfar(picture,
+                                    reduceColours(picture, {0, bits, kOptimal, int(dither)}, {}, &best).indexed);
+            };
+            const double none = error(Dither::None);
+            for (const Dither dither : {Dither::Ordered, Dither::Haftone, Dither::Odd})
+                EXPECT_LE(error(dither), none * 1.005)
+                    << bits << " bits, " << int(dither) << ", picture " << &picture - pictures;
+            if (&picture == pictures + 1) { // its outermost colours are reached as well
+                EXPECT_LT(error(Dither::Odd), seenFromAfar(picture, dithered(picture, best.plain, Dither::Odd)) / 1.5)
+                    << bits;
+            }
+        }
+}
+
+TEST(Dither, DiffusedErrorSparesPlainPlaces)
+{
+    const Bits half = drawnBits(64, 64, [](int x, int) { return pixelFor(x < 32 ? 0x101010 : colourOf(90, 91, 90)); });
+    for (const Dither dither : kSpreading.subspan(2)) {
+        const auto indices = dithered(half, {0x101013, 0x5A5A5A, 0x646464}, dither).indices;
+        for (int i = 0; i < 64 * 64; ++i)
+            if (i % 64 > 40 && i % 64 < 58 && i / 64 > 6 && i / 64 < 57) {
+                ASSERT_EQ(1, indices[std::size_t(i)]) << int(dither) << " at " << i % 64 << ',' << i / 64;
+            }
     }
 }
 

@@ -406,12 +406,15 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     move({40, 30});
     tools->deactivated();
     EXPECT_TRUE(sameBits(before, document.bits()));
-    const Bits other = randomBits(33, 22, 5); // the other one hands its picture to the engine
-    frame.filter_.setBits(other);
+    const Bits other = randomBits(33, 22, 5);
+    Document& second = frame.open(other);
+    second.Region.setRegion(Region::rectangle(1, 2, 3, 4));
+    frame.workspace_.handOver(second);
     move({45, 35});
     release({45, 35});
     EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
+    EXPECT_EQ(second.Region.working(), frame.filter_.BitsRegion());
     EXPECT_EQ(frame.snapshots, 0);
 
     tools->move(Tools::NoButton, 12, 12); // moving over it leaves the engine to the active one
@@ -422,7 +425,8 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     EXPECT_TRUE(sameBits(before, document.bits()));
     EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
 
-    document.handTo(frame.filter_); // active again: the paste follows the pointer, and leaves with it
+    frame.document = &document; // active again: the paste follows the pointer, and leaves with it
+    frame.workspace_.handOver(document);
     tools->move(Tools::NoButton, 21, 20);
     EXPECT_FALSE(sameBits(before, document.bits()));
     tools->deactivated();

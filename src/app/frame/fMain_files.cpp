@@ -228,6 +228,7 @@ void fMain::saveAs(fImage& asked)
     const QString usual = own && own->saved() ? extensionOf(image->Caption()) : QStringLiteral("png");
     FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
     dialog.extension = usual;
+    dialog.name = withEnding(FileNameOf(image->document().file.path), usual);
     dialog.writtenAs = [usual](const QString& name) { return saveTargetOf(withExtension(name, usual)).file; };
     const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;

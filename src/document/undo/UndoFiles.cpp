@@ -56,10 +56,7 @@ bool UndoFiles::write(int index, const Bits& bits) const
 bool UndoFiles::writeOverOldest(int index, const Bits& bits) const
 {
     const bool recycled = replaceFile(name(0), name(index));
-    if (!write(index, bits)) {
-        if (recycled) replaceFile(name(index), name(0));
-        return false;
-    }
+    if (!write(index, bits)) return false;
     if (recycled) QFile::resize(name(index), static_cast<qint64>(sizeof(Header) + bits.sizeInBytes()));
     return true;
 }

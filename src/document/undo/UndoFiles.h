@@ -18,8 +18,8 @@ class UndoFiles {
     /// Overwrites the file of the index, or creates it. False: a previous file of the index is intact or gone; others
     /// are unchanged.
     bool write(int index, const Bits& bits) const;
-    /// The same, reusing the pages of the oldest file, index 0, which is about to be dropped: half the time of a new
-    /// file.
+    /// The same, reusing the pages of the oldest file, index 0, which is about to be dropped and is gone either way:
+    /// half the time of a new file.
     bool writeOverOldest(int index, const Bits& bits) const;
     /// Nothing when the file is missing, short or damaged.
     std::optional<Bits> read(int index) const;

@@ -65,7 +65,7 @@ bool ColorReducer::Transform(int Flags, int, int)
 
 bool ColorReducer::Reduce()
 {
-    Palette* known = Palettes ? &(*Palettes)[{turns_, words_.colorMode, words_.bitCount}] : nullptr;
+    BestPalette* known = Palettes ? &(*Palettes)[{turns_, words_.colorMode, words_.bitCount}] : nullptr;
     reduced_ = reduceColours(picture_, words_, Progress, known);
     return reduced_.bitCount > 0;
 }

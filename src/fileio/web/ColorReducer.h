@@ -13,7 +13,7 @@ namespace velara {
 enum OutputKind { kBitmapOutput = 0, kGifOutput = 1, kInterlacedGifOutput = 2 };
 
 /// The best palettes of one picture, by the flags of its transforms, the colour mode and the bits per pixel.
-using BestPalettes = std::map<std::tuple<int, int, int>, Palette>;
+using BestPalettes = std::map<std::tuple<int, int, int>, BestPalette>;
 
 class ColorReducer {
   public:

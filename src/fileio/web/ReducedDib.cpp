@@ -60,8 +60,8 @@ FIBITMAP* dibOf15Bits(const Bits& picture)
 ReducedDib::ReducedDib(const ReducedPicture& picture)
 {
     const int bits = picture.bitCount;
-    if (bits == 1 || bits == 4 || bits == 8)
-        dib_ = indexedDib(picture.indexed, bits);
+    if (bits >= 1 && bits <= 8)
+        dib_ = indexedDib(picture.indexed, bits == 1 ? 1 : bits <= 4 ? 4 : 8);
     else if (bits == 16)
         dib_ = dibOf15Bits(picture.full);
     else if (bits == 24)

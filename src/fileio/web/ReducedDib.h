@@ -6,7 +6,8 @@
 
 namespace velara {
 
-/// 1, 4, 8, 16 (five bits a channel) or 24 bits per pixel; get() is null for other bit counts and when memory is short.
+/// 1, 4, 8, 16 (five bits a channel) or 24 bits per pixel, the next that holds a palette's colours; get() is null for
+/// other bit counts and when memory is short.
 class ReducedDib {
   public:
     explicit ReducedDib(const ReducedPicture& picture);

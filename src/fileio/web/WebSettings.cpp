@@ -1,5 +1,6 @@
 #include "fileio/web/WebSettings.h"
 #include "pixels/numbers.h"
+#include <utility>
 
 namespace velara {
 
@@ -76,7 +77,7 @@ void WebSettings::choosePreset(int index, bool interlaced)
     OutputKind = row().outputKind;
     setInterlaced(interlaced);
     ColorMode = DitherWord = 0;
-    takesDither = true;
+    takesDither = PaletteWord != kMapped;
 }
 
 std::vector<int> WebSettings::maps() const
@@ -90,10 +91,13 @@ std::vector<int> WebSettings::maps() const
 void WebSettings::chooseMap(int index)
 {
     if (preset == kCompressed) return;
+    BitCount = row().bitCount; // which a fit to a size may have lowered
     PaletteWord = kMaps[index].word;
     takesDither = PaletteWord != kMapped;
     if (!takesDither) DitherWord = 0;
 }
+
+bool WebSettings::choosesMap() const { return preset != kCompressed && maps().size() > 1; }
 
 int WebSettings::map() const
 {
@@ -105,6 +109,25 @@ int WebSettings::map() const
 void WebSettings::chooseDither(int index)
 {
     if (takesDither && kDithers[index].word != kUnchanged) DitherWord = kDithers[index].word;
+}
+
+std::vector<WebSettings> WebSettings::bySize() const
+{
+    std::vector<WebSettings> list;
+    for (int bits = 8; bits > 0; --bits) {
+        WebSettings s = *this;
+        if (bits != BitCount) {
+            s.choosePreset(isGif() ? bits - 1 : preset, OutputKind == kInterlacedGifOutput);
+            s.ColorMode = ColorMode;
+            s.BitCount = bits;
+            if (isGif() && map() >= 0 && (s.row().maps >> map() & 1)) s.PaletteWord = PaletteWord;
+            s.takesDither = s.PaletteWord != kMapped;
+            s.DitherWord = s.takesDither ? DitherWord : 0;
+        }
+        list.push_back(s);
+        if (std::exchange(s.DitherWord, 0) != 0) list.push_back(s);
+    }
+    return list;
 }
 
 void WebSettings::setInterlaced(bool on)

@@ -48,6 +48,8 @@ struct WebSettings {
     void choosePreset(int index, bool interlaced);
     /// The entries of webMaps() offered by the preset.
     std::vector<int> maps() const;
+    /// False where there is no choice, or where it has no effect.
+    bool choosesMap() const;
     /// index into webMaps(). Mapped colours take no dither.
     void chooseMap(int index);
     /// The selected entry of webMaps(), or -1.
@@ -55,6 +57,10 @@ struct WebSettings {
     /// index into webDithers().
     void chooseDither(int index);
     void setInterlaced(bool on);
+    /// Whether the size of the file can be chosen: JPEG by its quality, GIF and 8-bit PNG by colours and dither.
+    bool fitsASize() const { return isJpeg() || isGif() || (FileKind == kPng && row().bitCount == 8); }
+    /// For GIF and 8-bit PNG: from 256 colours down to 2, each with the dither and without.
+    std::vector<WebSettings> bySize() const;
     int transformFlags() const;
 
     /// "GIF", "BMP", "PNG", "TGA", "TIF", "PCX" or "JPG".

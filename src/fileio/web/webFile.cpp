@@ -63,6 +63,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
                         Teller& teller)
 {
     static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
+    static constexpr int kFlags[] = {0, PNG_Z_BEST_COMPRESSION, 0, 0};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
         PCX pcx;
@@ -74,7 +75,7 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     const bool inFull = kind == kTga || kind == kTif;
     const ReducedDib dib(inFull ? ReducedPicture{24, {}, pictureOf(reduced)} : reduced);
     if (!dib.get()) return Outcome::NoBitmap;
-    return outcomeOf(saveAs(dib.get(), kFormats[kind], 0, name, links, teller), teller);
+    return outcomeOf(saveAs(dib.get(), kFormats[kind], kFlags[kind], name, links, teller), teller);
 }
 
 Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& picture, const QString& name,
@@ -123,6 +124,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     return file;
 }
 
+namespace {
+
 std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
 {
     const FreeImageStart library;
@@ -140,6 +143,26 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
     for (int quality = bad; quality <= std::min(bad + 2, 100) && good > 0; ++quality) // sizes may waver a little
         if (fits(quality)) good = quality;
     return good > 0 && !teller.stopped() ? std::optional(good) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
+                                          const QString& scratch, const ReduceProgress& progress, BestPalettes* known)
+{
+    if (settings.isJpeg()) {
+        const auto quality = bestJpegQuality(picture, mostBytes, progress);
+        if (!quality) return {};
+        WebSettings best = settings;
+        best.JpegQuality = *quality;
+        return best;
+    }
+    for (const WebSettings& tried : settings.bySize()) {
+        const WebFile file = writeWebFile(picture, tried, scratch, OutputFile::Links::Replace, progress, known);
+        if (file.outcome != WebFile::Outcome::Written) return {};
+        if (file.bytes <= mostBytes) return tried;
+    }
+    return {};
 }
 
 double peakSignalToNoise(const Bits& a, const Bits& b)

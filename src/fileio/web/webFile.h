@@ -21,9 +21,12 @@ struct WebFile {
 WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
                      const ReduceProgress& progress = {}, BestPalettes* known = nullptr);
 
-/// The best JPEG percentage, 1 to 100, whose file has at most the given bytes; nothing when none has, or when progress
-/// threw Cancelled.
-std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress = {});
+/// The settings nearest to the given ones, of those that fitsASize(), whose file has at most the given bytes: the best
+/// quality, 1 to 100, of a JPEG; otherwise the most colours, with the dither where that fits. Nothing when none has, or
+/// when progress threw Cancelled. Leaves a file of the name scratch.
+std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
+                                          const QString& scratch, const ReduceProgress& progress = {},
+                                          BestPalettes* known = nullptr);
 
 /// The similarity of two pictures of one size, in decibels; infinite when their colours are equal.
 double peakSignalToNoise(const Bits& a, const Bits& b);

@@ -3,8 +3,10 @@
 #include "colour/presetColours.h"
 #include "document/road/Frame.h"
 #include "pixels/twips.h"
+#include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "ui/colour/fColourCell.h"
+#include "ui/colour/fHexBox.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPresetWell.h"
 #include "ui/colour/fRgbBox.h"
@@ -72,7 +74,7 @@ fPalette::fPalette(Frame& frame, QWidget* parent) : QWidget(parent, Qt::Tool), f
     grid->addWidget(makeCells(), 2, 0, 1, 2);
     grid->addWidget(makePresets(), 3, 0, 1, 2);
     drawPlane();
-    showCurrent(frame_.setup().ForeColor);
+    showCurrent(frame_.setup().ForeColor, HueOf::Strip); // the hue is the one that was kept
     showColors();
     chkLink_->setChecked(frame_.setup().PaletteFlag);
     selectCell(0);
@@ -128,6 +130,10 @@ QWidget* fPalette::makeNumbers()
     lblCur_ = new fColourCell(QStringLiteral("lblCur"), tr("Current pick"), kPick, box);
     connect(lblCur_, &fColourCell::doubleClicked, this, &fPalette::RefreshCurrent);
     grid->addWidget(lblCur_, 3, 0, 1, 2, Qt::AlignRight);
+    txtHex_ = new fHexBox(QStringLiteral("txtHex"), box);
+    grid->addWidget(txtHex_, 4, 0, 1, 2, Qt::AlignRight);
+    connect(txtHex_, &fHexBox::picked, this, &fPalette::setCurrent);
+    connect(txtHex_, &fHexBox::refused, this, [this](const QString& why) { frame_.platform().tell(why); });
     return box;
 }
 
@@ -195,7 +201,7 @@ QWidget* fPalette::makePresets()
     for (int i = 0; i < kPresetSets; ++i) {
         const PresetSet& set = presetSet(i);
         CPL_->addItem(QLatin1String(set.name));
-        auto* well = new fPresetWell(numbered("cp", i), QLatin1String(set.name), set.colours(), set.columns, box);
+        auto* well = new fPresetWell(numbered("cp", i), set, box);
         connect(well, &fPresetWell::picked, this, [this](Colour colour) {
             showCurrent(colour);
             setFirst(colour);
@@ -233,7 +239,7 @@ void fPalette::drawPlane()
 void fPalette::pickOnPlane(QPoint place)
 {
     const QRgb pixel = PlaneBits_.pixel(place);
-    setCurrent(colourOf(qRed(pixel), qGreen(pixel), qBlue(pixel)));
+    take(colourOf(qRed(pixel), qGreen(pixel), qBlue(pixel)), HueOf::Strip);
     iPal_->setPlace(place); // several positions have this colour; it is this one
 }
 
@@ -241,19 +247,27 @@ void fPalette::pickOnPlane(QPoint place)
 
 Colour fPalette::current() const { return lblCur_->colour(); }
 
-void fPalette::showCurrent(Colour colour)
+/// The hue of the strip follows, so that the ring stands on the colour; greys have none, and keep it.
+void fPalette::showCurrent(Colour colour, HueOf hue)
 {
     lblCur_->setColour(colour);
     const int parts[] = {redOf(colour), greenOf(colour), blueOf(colour)};
     for (std::size_t i = 0; i < 3; ++i) txtRGB_[i]->setValue(parts[i]);
     const Hsl hsl = RGBToHSL(parts[0], parts[1], parts[2]);
+    txtHex_->setColour(colour);
+    if (hue == HueOf::Colour && hsl.s > 0) {
+        frame_.setup().PaletteHue = float(hsl.h);
+        drawPlane();
+    }
     iPal_->setPlace({qRound(100 - 100 * hsl.s), qRound(100 - 100 * hsl.l)});
     iPal_->describe(colourText(colour));
 }
 
-void fPalette::setCurrent(Colour colour)
+void fPalette::setCurrent(Colour colour) { take(colour, HueOf::Colour); }
+
+void fPalette::take(Colour colour, HueOf hue)
 {
-    showCurrent(colour);
+    showCurrent(colour, hue);
     if (chkLink_->isChecked()) RefreshCurrent();
 }
 

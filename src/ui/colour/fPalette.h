@@ -14,6 +14,7 @@ namespace velara {
 class Frame;
 class fColorButton;
 class fColourCell;
+class fHexBox;
 class fPickSurface;
 class fPresetWell;
 class fRgbBox;
@@ -46,7 +47,9 @@ class fPalette final : public QWidget {
     void pickHue(int row);
     void pickOnPlane(QPoint place);
     void drawPlane();
-    void showCurrent(Colour colour);
+    enum class HueOf { Strip, Colour };
+    void showCurrent(Colour colour, HueOf hue = HueOf::Colour);
+    void take(Colour colour, HueOf hue);
     void numbersEdited();
     void choosePreset(int index);
     void selectCell(int cell);
@@ -58,6 +61,7 @@ class fPalette final : public QWidget {
     fPickSurface *iPal_ = nullptr, *iHue_ = nullptr;
     QWidget* iHuePos_ = nullptr;
     std::array<fRgbBox*, 3> txtRGB_{};
+    fHexBox* txtHex_ = nullptr;
     fColourCell* lblCur_ = nullptr;
     fColorButton *lblColF_ = nullptr, *lblColB_ = nullptr;
     QCheckBox* chkLink_ = nullptr;

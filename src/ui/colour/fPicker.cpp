@@ -1,8 +1,10 @@
 // fPicker: the picker's behaviour. Its controls are made in fPicker_controls.cpp.
 #include "ui/colour/fPicker.h"
+#include "colour/colourCode.h"
 #include "seams/Platform.h"
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
+#include "ui/colour/fHexBox.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/userColourFile.h"
 #include <QButtonGroup>
@@ -73,6 +75,7 @@ void fPicker::DrawPicker()
     stripBar_->setImage(pickerStrip(strip_, hsb));
     stripBar_->setPlace({0, rowOnStrip(strip_, hsb)});
     lblSelColor_->setColour(colour());
+    hex_->setColour(colour());
     field_->describe(colourText(colour()));
     stripBar_->describe(colourText(colour()));
     for (const Box& box : boxes_) setNumber(*box.edit, QString::number(box.shown()));
@@ -157,7 +160,18 @@ void fPicker::takeAndClose()
 {
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         if (boxes_[i].edit->isModified() && !leaveBox(i)) return;
+    if (hex_->isModified() && !hex_->take()) return;
     accept();
+}
+
+void fPicker::accept()
+{
+    QStringList codes{colourCode(colour())};
+    for (const fColourCell* cell : recent_)
+        if (!cell->isHidden()) codes += colourCode(cell->colour());
+    codes.removeDuplicates();
+    platform_.setSetting(kRecentSection, kRecentKey, codes.mid(0, qsizetype(recent_.size())).join(u' '));
+    QDialog::accept();
 }
 
 bool fPicker::eventFilter(QObject* watched, QEvent* event)
@@ -221,6 +235,7 @@ void fPicker::addToList()
     UserColors_[static_cast<std::size_t>(cell)] = lblADDColor_->colour();
     cells_->setColour(cell, lblADDColor_->colour());
     cells_->select(cell);
+    setColour(lblADDColor_->colour()); // OK gives what was kept
     saveUserColours(platform_.programFolder(), UserColors_);
 }
 

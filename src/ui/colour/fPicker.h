@@ -17,6 +17,7 @@ namespace velara {
 
 class Platform;
 class fCellGrid;
+class fHexBox;
 class fColourCell;
 class fPickSurface;
 
@@ -30,8 +31,12 @@ class fPicker final : public QDialog {
     Colour colour() const { return picked_.colour(); }
 
     /// The current view.
+    static constexpr auto kRecentSection = "Colors", kRecentKey = "Recent"; // of the user's settings
     enum View { Picker = 0, UserList = 1, SafePalette = 4 };
     View view() const { return view_; }
+
+    /// Remembers the colour among the recent ones.
+    void accept() override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override; // of the boxes: Enter, and loss of focus
@@ -50,6 +55,7 @@ class fPicker final : public QDialog {
     QWidget* makePresetPanel();
     QWidget* makeWells();
     QWidget* makeButtons();
+    QWidget* makeRecent();
     QLineEdit* addBox(const char* name, const QString& accessibleName, int most, std::function<int()> shown,
                       std::function<void(int)> take);
 
@@ -76,6 +82,8 @@ class fPicker final : public QDialog {
     bool refusing_ = false;
 
     fPickSurface *field_ = nullptr, *stripBar_ = nullptr;
+    fHexBox* hex_ = nullptr;
+    std::vector<fColourCell*> recent_; // the last chosen first
     QStackedWidget *views_ = nullptr, *sides_ = nullptr;
     fCellGrid* cells_ = nullptr;
     QButtonGroup* strips_ = nullptr;

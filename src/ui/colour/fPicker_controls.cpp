@@ -1,6 +1,9 @@
 // fPicker: making and laying out its controls.
+#include "colour/colourCode.h"
+#include "seams/Platform.h"
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
+#include "ui/colour/fHexBox.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPicker.h"
 #include "ui/widgets/inputs/named.h"
@@ -18,7 +21,8 @@ namespace velara {
 namespace {
 
 constexpr int kStripWidth = 20;
-constexpr QSize kWell{64, 26};
+constexpr QSize kWell{64, 26}, kRecentCell{22, 18};
+constexpr int kRecent = 12;
 
 } // namespace
 
@@ -37,6 +41,7 @@ void fPicker::makeControls()
     grid->addWidget(sides_, 0, 1);
     grid->addWidget(makeWells(), 1, 0);
     grid->addWidget(makeButtons(), 1, 1, Qt::AlignBottom);
+    grid->addWidget(makeRecent(), 2, 0, 1, 2);
 }
 
 QWidget* fPicker::makeField()
@@ -144,6 +149,14 @@ QWidget* fPicker::makeFrame2()
         grid->addWidget(parts_[at], 5 + i, 1);
         grid->addWidget(units_[at], 5 + i, 2);
     }
+    hex_ = new fHexBox(QStringLiteral("txtHex"), frame);
+    auto* code = new QLabel(tr("He&x"), frame);
+    code->setBuddy(hex_);
+    grid->setRowMinimumHeight(8, 8);
+    grid->addWidget(code, 9, 0, Qt::AlignRight);
+    grid->addWidget(hex_, 9, 1, 1, 2);
+    connect(hex_, &fHexBox::picked, this, &fPicker::setColour);
+    connect(hex_, &fHexBox::refused, this, [this](const QString& why) { platform_.tell(why); });
     grid->setColumnStretch(3, 1);
     connect(model_, &QComboBox::currentIndexChanged, this, &fPicker::showModel);
     return frame;
@@ -202,6 +215,36 @@ QWidget* fPicker::makeWells()
     grid->addWidget(status_, 0, 3, 3, 1, Qt::AlignTop);
     grid->setRowStretch(2, 1);
     grid->setColumnStretch(4, 1);
+    return box;
+}
+
+QWidget* fPicker::makeRecent()
+{
+    auto* box = named(new QWidget(this), "recent", tr("Recent colors"));
+    auto* line = new QHBoxLayout(box);
+    line->setContentsMargins(0, 4, 0, 0);
+    line->setSpacing(3);
+    auto* title = new QLabel(tr("Recent"), box);
+    title->setForegroundRole(QPalette::PlaceholderText);
+    line->addWidget(title);
+    const QStringList codes =
+        platform_.setting(kRecentSection, kRecentKey, {}).split(u' ', Qt::SkipEmptyParts).mid(0, kRecent);
+    for (int i = 0; i < kRecent; ++i) {
+        auto* cell =
+            new fColourCell(QStringLiteral("recent_%1").arg(i), tr("Recent color %1").arg(i + 1), kRecentCell, box);
+        QSizePolicy kept = cell->sizePolicy();
+        kept.setRetainSizeWhenHidden(true);
+        cell->setSizePolicy(kept);
+        const auto colour = i < codes.size() ? colourOfCode(codes[i]) : std::nullopt;
+        cell->setVisible(colour.has_value());
+        if (colour) cell->setColour(*colour);
+        connect(cell, &fColourCell::clicked, this, [this, cell] { setColour(cell->colour()); });
+        connect(cell, &fColourCell::doubleClicked, this, &fPicker::accept);
+        line->addWidget(cell);
+        recent_.push_back(cell);
+    }
+    line->addStretch();
+    box->setVisible(!codes.isEmpty());
     return box;
 }
 

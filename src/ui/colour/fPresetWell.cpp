@@ -42,18 +42,17 @@ Colour valueOf(const QColor& colour) { return colourOf(colour.red(), colour.gree
 
 } // namespace
 
-fPresetWell::fPresetWell(const QString& name, const QString& accessibleName, std::vector<Colour> colours, int columns,
-                         QWidget* parent)
-    : QToolButton(parent), colours_(std::move(colours)), columns_(columns)
+fPresetWell::fPresetWell(const QString& name, const PresetSet& set, QWidget* parent)
+    : QToolButton(parent), colours_(set.colours()), columns_(set.columns)
 {
     setObjectName(name);
-    setAccessibleName(accessibleName);
+    setAccessibleName(QLatin1String(set.name));
     setIconSize(kIcon);
     setFocusPolicy(Qt::StrongFocus);
     setArrowType(Qt::NoArrow);
     setToolTip(tr("Choose one of the set"));
     connect(this, &QToolButton::clicked, this, &fPresetWell::openList);
-    colour_ = colours_.empty() ? valueOf(palette().color(kDesktop[0].role)) : colours_.front();
+    colour_ = colours_.empty() ? valueOf(palette().color(kDesktop[0].role)) : colours_[std::size_t(set.shown)];
     showColour();
 }
 

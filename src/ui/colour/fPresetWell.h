@@ -1,9 +1,8 @@
 // fPresetWell: a colour well that opens a grid of preset colours below it when pressed.
 #pragma once
-#include "pixels/Bits.h"
+#include "colour/presetColours.h"
 #include <QPointer>
 #include <QToolButton>
-#include <vector>
 
 namespace velara {
 
@@ -12,9 +11,8 @@ class fColourCell;
 class fPresetWell final : public QToolButton {
     Q_OBJECT
   public:
-    /// Without colours: those of the desktop's palette, by name.
-    fPresetWell(const QString& name, const QString& accessibleName, std::vector<Colour> colours, int columns,
-                QWidget* parent);
+    /// A set without colours: those of the desktop's palette, by name.
+    fPresetWell(const QString& name, const PresetSet& set, QWidget* parent);
 
     Colour colour() const { return colour_; }
     bool isOpen() const { return popup_; }

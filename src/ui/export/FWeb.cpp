@@ -5,6 +5,7 @@
 #include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
+#include "ui/export/fWebTable.h"
 #include "ui/widgets/ActiveComposer.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,6 +29,7 @@ namespace {
 
 constexpr int kBothTab = 2;
 constexpr int kMostQuality = 32767;
+constexpr auto kSection = "SaveForWeb", kLast = "Last"; // of the user's settings
 
 /// Selects an entry of a combo box without a signal.
 void setQuietly(QComboBox* box, int index)
@@ -39,7 +41,7 @@ void setQuietly(QComboBox* box, int index)
 } // namespace
 
 FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent)
-    : QDialog(parent), platform_(platform), picture_(picture), optimizedBits_(picture), path_(path),
+    : QDialog(parent), platform_(platform), picture_(picture), optimizedBits_(picture), name_(name), path_(path),
       isrc_(new fPicturePage({"CiSrc", "isrc", "H", "V"}, tr("Original"))),
       oSrc_(new fPicturePage({"CoSrc", "oSrc", "Hop", "Vop"}, tr("Optimized"))),
       original_(new fPicturePage({"COriginalP", "OriginalP", "HHor", "VVor"}, tr("Original, above the optimized"))),
@@ -62,6 +64,7 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &FWeb::next);
     resize(900, 620);
+    recall();
 }
 
 FWeb::~FWeb() { end(); }
@@ -81,9 +84,11 @@ void FWeb::presetChosen(int index)
     settings_.choosePreset(index, ChkInterlaced_->isChecked());
     fgif_->setVisible(!settings_.isJpeg());
     Fjpg_->setVisible(settings_.isJpeg());
+    FrmFit_->setVisible(settings_.fitsASize());
     ChkInterlaced_->setVisible(settings_.isGif());
-    for (QWidget* widget : std::initializer_list<QWidget*>{FrmAPI_, cboMap_, cboDither_, cboColorMode_, CmdSave_})
-        widget->setEnabled(true);
+    for (QWidget* widget : std::initializer_list<QWidget*>{FrmAPI_, cboColorMode_, CmdSave_}) widget->setEnabled(true);
+    cboMap_->setEnabled(settings_.choosesMap());
+    cboDither_->setEnabled(settings_.takesDither);
     const QSignalBlocker quiet(cboMap_);
     cboMap_->clear();
     for (const int map : settings_.maps()) cboMap_->addItem(QLatin1String(webMaps()[std::size_t(map)].entry), map);
@@ -93,6 +98,21 @@ void FWeb::presetChosen(int index)
     if (!settings_.isJpeg()) return changed();
     setQuietly(cboJpg_, kGoodQuality);
     qualityChosen(webJpegQualities()[kGoodQuality].word);
+}
+
+void FWeb::chooseFromTable()
+{
+    const QPointer<FWeb> alive = this;
+    end(); // a preview under way begins again afterwards
+    const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
+    makePrivateFolder(folder);
+    const QPointer<fWebTable> table = new fWebTable(platform_, picture_, folder + QStringLiteral("/T0001"), this);
+    table->exec();
+    if (!alive || !table) return;
+    const int preset = table->preset();
+    delete table;
+    if (preset >= 0) CboFiles_->setCurrentIndex(preset);
+    next();
 }
 
 void FWeb::mapChosen(int entry)
@@ -114,6 +134,39 @@ void FWeb::customQuality()
     if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
     setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be selected again
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
+}
+
+/// The choices by their texts, so that they may be looked up in any version's lists.
+void FWeb::remember()
+{
+    if (CboFiles_->currentIndex() < 0) return;
+    const QStringList parts{CboFiles_->currentText(),
+                            cboMap_->currentText(),
+                            cboDither_->currentText(),
+                            cboColorMode_->currentText(),
+                            QString::number(settings_.JpegQuality),
+                            ChkInterlaced_->isChecked() ? "1" : "0",
+                            QString::number(fit_->value())};
+    platform_.setSetting(kSection, kLast, parts.join(u'|'));
+}
+
+void FWeb::recall()
+{
+    const QStringList parts = platform_.setting(kSection, kLast, {}).split(u'|');
+    if (parts.size() != 7 || CboFiles_->findText(parts[0]) < 0) return;
+    ChkInterlaced_->setChecked(parts[5] == "1");
+    CboFiles_->setCurrentIndex(CboFiles_->findText(parts[0]));
+    int i = 0;
+    for (QComboBox* list : {cboMap_, cboDither_, cboColorMode_})
+        if (const int entry = list->findText(parts[++i]); entry >= 0 && list->isEnabled()) list->setCurrentIndex(entry);
+    fit_->setValue(parts[6].toInt());
+    if (!settings_.isJpeg()) return;
+    const int quality = std::clamp(parts[4].toInt(), 0, kMostQuality);
+    const auto isIt = [quality](const WebEntry& entry) { return entry.word == quality; };
+    const auto known = std::ranges::find_if(webJpegQualities(), isIt) - webJpegQualities().begin();
+    setQuietly(cboJpg_, known < cboJpg_->count() ? int(known) : -1);
+    if (known == cboJpg_->count()) TxtJPG_->setText(QString::number(quality));
+    qualityChosen(quality);
 }
 
 // --- Files
@@ -250,6 +303,7 @@ void FWeb::showFile(const Written& written)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
     if (keptItsSize(written.file.source, optimizedBits_))
         parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);
+    if (settings.BitCount < settings.row().bitCount) parts.prepend(tr("%1 colors").arg(1 << settings.BitCount));
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
@@ -280,24 +334,42 @@ void FWeb::fitSize()
 {
     note_.clear();
     const std::int64_t most = std::int64_t{fit_->value()} * 1024;
-    const auto quality = std::make_shared<std::optional<int>>();
-    const auto does = [quality, most, picture = picture_](const GoOn& goOn) {
-        *quality = bestJpegQuality(picture, most, untilGivenUp(goOn));
+    const auto found = std::make_shared<std::optional<WebSettings>>();
+    const auto does = [found, most, picture = picture_, settings = settings_, name = temporaryName(),
+                       palettes = palettes_](const GoOn& goOn) {
+        *found = fittedSettings(picture, settings, most, name, untilGivenUp(goOn), palettes.get());
     };
-    begin(Work::Fit, does, [this, quality] { fitted(*quality); });
+    begin(Work::Fit, does, [this, found] { fitted(*found); });
 }
 
-void FWeb::fitted(std::optional<int> quality)
+void FWeb::fitted(const std::optional<WebSettings>& settings)
 {
-    if (quality) {
-        TxtJPG_->setText(QString::number(*quality));
-        customQuality();
+    if (settings) {
+        adopt(*settings);
     } else {
         next_ = Work::Preview; // a file that is too large isn't what was to be saved
-        note_ = tr("No quality makes it as small as %1 KB.").arg(fit_->value());
+        note_ = (settings_.isJpeg() ? tr("No quality makes it as small as %1 KB.")
+                                    : tr("No number of colors makes it as small as %1 KB."))
+                    .arg(fit_->value());
         say(note_);
     }
     next();
+}
+
+void FWeb::adopt(const WebSettings& settings)
+{
+    if (settings.isJpeg()) {
+        TxtJPG_->setText(QString::number(settings.JpegQuality));
+        return customQuality();
+    }
+    CboFiles_->setCurrentIndex(settings.preset); // fills the list of palettes
+    const auto isIt = [&](const WebEntry& entry) { return entry.word == settings.DitherWord; };
+    setQuietly(cboMap_, cboMap_->findData(settings.map()));
+    setQuietly(cboDither_, int(std::ranges::find_if(webDithers(), isIt) - webDithers().begin()));
+    setQuietly(cboColorMode_, settings.ColorMode == 0 ? 0 : 1);
+    cboDither_->setEnabled(settings.takesDither);
+    settings_ = settings;
+    changed();
 }
 
 void FWeb::saveAs()
@@ -306,7 +378,8 @@ void FWeb::saveAs()
     showWaiting(false);
     FileDialog dialog{QStringLiteral("Save Optimized As"), settings_.saveFilter()};
     dialog.extension = settings_.extension();
-    const auto fileOf = [extension = dialog.extension](const QString& name) { return withExtension(name, extension); };
+    dialog.name = withEnding(name_, dialog.extension);
+    const auto fileOf = [extension = dialog.extension](const QString& name) { return withEnding(name, extension); };
     dialog.writtenAs = fileOf;
     const auto name = platform_.saveFileName(dialog);
     if (!alive || !isVisible()) return;
@@ -327,6 +400,7 @@ void FWeb::reject()
 {
     end();
     timer_.stop();
+    remember();
     QDialog::reject();
 }
 

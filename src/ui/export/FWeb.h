@@ -45,6 +45,7 @@ class FWeb final : public QDialog {
     QLabel* label(const char* name, const QString& accessibleName);
 
     void presetChosen(int index);
+    void chooseFromTable();
     void mapChosen(int entry);
     void qualityChosen(int quality);
     void customQuality();
@@ -52,13 +53,17 @@ class FWeb final : public QDialog {
 
     enum class Work { Preview, Fit, Save };
     struct Written;
+    void remember();
+    void recall();
     void changed();
     void ask(Work work);
     void next();
     void end();
     void begin(Work work, std::function<void(const GoOn&)> does, std::function<void()> done);
     void fitSize();
-    void fitted(std::optional<int> quality);
+    void fitted(const std::optional<WebSettings>& settings);
+    void adopt(const WebSettings& settings);
+    QWidget* makeFitFrame();
     void saveAs();
     /// Writes to a temporary file, or under the chosen name, and shows it.
     void write(const QString& finalName = {});
@@ -71,7 +76,7 @@ class FWeb final : public QDialog {
 
     Platform& platform_;
     Bits picture_, optimizedBits_;
-    QString path_;
+    QString name_, path_;
     WebSettings settings_;
     std::shared_ptr<BestPalettes> palettes_ = std::make_shared<BestPalettes>(); // of the work in the background
     QTimer timer_;
@@ -82,7 +87,7 @@ class FWeb final : public QDialog {
 
     fPicturePage *isrc_, *oSrc_, *original_, *optimized_;
     QTabWidget* sT_ = nullptr;
-    QWidget *choices_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr;
+    QWidget *choices_ = nullptr, *fgif_ = nullptr, *Fjpg_ = nullptr, *FrmFit_ = nullptr;
     QGroupBox* FrmAPI_ = nullptr;
     QComboBox *CboFiles_ = nullptr, *cboMap_ = nullptr, *cboDither_ = nullptr, *cboColorMode_ = nullptr,
               *cboJpg_ = nullptr;

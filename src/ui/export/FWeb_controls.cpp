@@ -47,6 +47,14 @@ class QualityField final : public QLineEdit {
     }
 };
 
+QHBoxLayout* withButton(QWidget* field, QWidget* press)
+{
+    auto* line = new QHBoxLayout;
+    line->addWidget(field, 1);
+    line->addWidget(press);
+    return line;
+}
+
 } // namespace
 
 QWidget* FWeb::makeChoices()
@@ -63,6 +71,7 @@ QWidget* FWeb::makeChoices()
     auto* frames = new QVBoxLayout(FrmAPI_);
     frames->addWidget(makeGifFrame());
     frames->addWidget(makeJpegFrame());
+    frames->addWidget(makeFitFrame());
     CmdSave_ = button("CmdSave", QStringLiteral("Save As"));
     CmdSave_->setEnabled(false);
 
@@ -70,6 +79,10 @@ QWidget* FWeb::makeChoices()
     formats->setBuddy(CboFiles_);
     layout->addWidget(formats);
     layout->addWidget(CboFiles_);
+    auto* all = button("cmdTable", tr("&All formats ..."));
+    all->setToolTip(tr("Size and loss of this picture in every format"));
+    layout->addWidget(all);
+    connect(all, &QPushButton::clicked, this, &FWeb::chooseFromTable);
     layout->addWidget(FrmAPI_);
     layout->addStretch();
     layout->addWidget(CmdSave_);
@@ -78,11 +91,11 @@ QWidget* FWeb::makeChoices()
 
     auto* column = new QWidget;
     column->setFixedWidth(250);
-    auto* all = new QVBoxLayout(column);
-    all->setContentsMargins(0, 0, 0, 0);
+    auto* rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
     auto* exit = button("CmdCancel", QStringLiteral("Exit"));
-    all->addWidget(choices_, 1);
-    all->addWidget(exit);
+    rows->addWidget(choices_, 1);
+    rows->addWidget(exit);
     connect(exit, &QPushButton::clicked, this, &FWeb::reject);
     return column;
 }
@@ -142,34 +155,37 @@ QWidget* FWeb::makeJpegFrame()
     TxtJPG_->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), TxtJPG_));
     auto* update = button("jpgUpdate", tr("Update"));
     update->setFocusPolicy(Qt::TabFocus); // a click doesn't make the field lose the focus
-    fit_ = named(new QSpinBox, "spnFit", tr("Fit to so many KB"));
-    fit_->setRange(1, 999999);
-    fit_->setValue(100);
-    fit_->setSuffix(tr(" KB"));
-    auto* fit = button("cmdFit", tr("Fit"));
-
-    const auto withButton = [](QWidget* field, QWidget* press) {
-        auto* line = new QHBoxLayout;
-        line->addWidget(field, 1);
-        line->addWidget(press);
-        return line;
-    };
     form->addRow(tr("&Quality"), cboJpg_);
     auto* custom = new QLabel(QStringLiteral("Custom  1 To 99"));
     custom->setBuddy(TxtJPG_);
     form->addRow(custom);
     form->addRow(withButton(TxtJPG_, update));
-    auto* fitTo = new QLabel(tr("Fit &to"));
-    fitTo->setBuddy(fit_);
-    form->addRow(fitTo);
-    form->addRow(withButton(fit_, fit));
     Fjpg_->hide();
     connect(cboJpg_, &QComboBox::currentIndexChanged, this,
             [this](int entry) { qualityChosen(webJpegQualities()[std::size_t(entry)].word); });
     connect(update, &QPushButton::clicked, this, &FWeb::customQuality);
     connect(TxtJPG_, &QLineEdit::returnPressed, this, &FWeb::customQuality);
-    connect(fit, &QPushButton::clicked, this, [this] { ask(Work::Fit); });
     return Fjpg_;
+}
+
+QWidget* FWeb::makeFitFrame()
+{
+    FrmFit_ = named(new QWidget, "FrmFit", tr("File size"));
+    fit_ = named(new QSpinBox, "spnFit", tr("Fit to so many KB"));
+    fit_->setRange(1, 999999);
+    fit_->setValue(100);
+    fit_->setSuffix(tr(" KB"));
+    auto* fit = button("cmdFit", tr("Fit"));
+    auto* fitTo = new QLabel(tr("Fit &to"));
+    fitTo->setBuddy(fit_);
+    auto* form = new QFormLayout(FrmFit_);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->addRow(fitTo);
+    form->addRow(withButton(fit_, fit));
+    FrmFit_->hide();
+    connect(fit_->findChild<QLineEdit*>(), &QLineEdit::returnPressed, fit, &QPushButton::click);
+    connect(fit, &QPushButton::clicked, this, [this] { ask(Work::Fit); });
+    return FrmFit_;
 }
 
 QLabel* FWeb::label(const char* name, const QString& accessibleName)

@@ -126,6 +126,10 @@ TEST_F(ColourBox, PresetsSwapAndChangesElsewhere)
         EXPECT_EQ(second, setup.ForeColor) << i;
         EXPECT_EQ(second, box->current());
     }
+    find<QLineEdit>("txtHex")->setText("#08f");
+    QTest::keyClick(find<QWidget>("txtHex"), Qt::Key_Return);
+    EXPECT_EQ(0xFF8800, setup.ForeColor);
+    EXPECT_NEAR(3.4667, setup.PaletteHue, 1e-3) << "the plane of its hue, so that the ring stands on the colour";
     setup.ForeColor = 1;
     setup.BackColor = 2;
     frame->showColors(); // as the pipette does

@@ -159,6 +159,7 @@ TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
     EXPECT_EQ(18, cells->selected());
     click("cmdADD");
     EXPECT_EQ(0x123456, cells->colour(18));
+    EXPECT_EQ(0x123456, picker.colour()) << "OK gives what was kept";
     const QByteArray written = fileText();
     EXPECT_EQ(225, written.count("\r\n"));
     EXPECT_EQ(" 1193046", written.split('\r').at(18).trimmed().prepend(' '));
@@ -167,10 +168,39 @@ TEST_F(Picker, CellsShowTheSafePaletteAndTheUsersList)
     EXPECT_EQ(fPicker::SafePalette, picker.view());
     EXPECT_FALSE(find("cmdADD")->isVisible());
     QTest::keyClick(cells, Qt::Key_End);
-    EXPECT_EQ(18000, picker.colour()) << "an empty cell picks nothing";
+    EXPECT_EQ(0x123456, picker.colour()) << "an empty cell picks nothing";
     QTest::mouseDClick(cells, Qt::LeftButton, {}, {10 + 7 * 18 + 5, 10 + 13 * 18 + 5}); // 216
     EXPECT_EQ(QDialog::Accepted, picker.result());
     EXPECT_EQ(0xFFFFFF, picker.colour());
+}
+
+TEST_F(Picker, CodesNamesAndRecentColours)
+{
+    const std::pair<const char*, Colour> rows[] = {
+        {"#123", 0x332211}, {"C0ffEE", 0xEEFFC0}, {" teal ", 0x808000}, {"#00ff7f", 0x7FFF00}};
+    for (const auto& [typed, colour] : rows) {
+        enter("txtHex", typed);
+        EXPECT_EQ(colour, picker.colour()) << typed;
+    }
+    EXPECT_EQ("#00ff7f", text("txtHex"));
+    for (const char* typed : {"#12345", "#12345678", "tael", "transparent", ""}) {
+        platform.log.clear();
+        enter("txtHex", typed);
+        ASSERT_EQ(1U, platform.log.size()) << typed;
+        EXPECT_EQ(0x7FFF00, picker.colour());
+    }
+    type("txtHex", "navy");
+    click("Command1");
+    EXPECT_EQ(0x800000, picker.colour());
+    for (const Colour colour : {0x000000, 0x800000, 0x0000FF}) {
+        fPicker next(platform);
+        next.LoadColorDialog(colour);
+        next.accept();
+    }
+    fPicker last(platform);
+    for (const auto& [cell, colour] : {std::pair{"recent_0", 0x0000FF}, {"recent_1", 0x800000}, {"recent_2", 0}})
+        EXPECT_EQ(colour, last.findChild<fColourCell*>(cell)->colour()) << cell;
+    EXPECT_TRUE(last.findChild<fColourCell*>("recent_3")->isHidden());
 }
 
 TEST_F(Picker, NoListFileHarms)

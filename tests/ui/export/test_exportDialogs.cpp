@@ -137,7 +137,8 @@ TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
         for (int m = 0; m < maps->count() && !s.isJpeg(); ++m) {
             maps->setCurrentIndex(m);
             EXPECT_EQ(s.takesDither, find<QComboBox>("cboDither")->isEnabled()) << name;
-            EXPECT_EQ(s.takesDither, maps->currentText() != "MS Map" || s.BitCount > 8) << name;
+            EXPECT_EQ(s.takesDither, maps->currentText() != "MS Map") << name;
+            EXPECT_EQ(maps->isEnabled(), maps->count() > 1) << name;
         }
         idle();
         const QString file = temporary(s.isJpeg() ? "J0001.jpg" : "G0001.gif");
@@ -150,9 +151,9 @@ TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)
     open(picture);
     choose("CboFiles", "GIF-4 Colors");
     EXPECT_EQ(0x8004, settings().PaletteWord);
+    choose("CboFiles", "GIF-16 Colors");
     choose("cboMap", "Fixed Color");
     EXPECT_EQ(0, settings().PaletteWord);
-    choose("CboFiles", "GIF-16 Colors");
     choose("cboDither", "Forward Diag");
     choose("cboDither", "Equal");
     EXPECT_EQ(8, settings().DitherWord);
@@ -197,10 +198,41 @@ TEST_F(ExportDialogs, JpegQualityAndFit)
     idle();
     EXPECT_LE(QFileInfo(temporary("J0001.jpg")).size(), 30 * 1024);
     EXPECT_GT(QFileInfo(temporary("J0001.jpg")).size(), 20 * 1024);
+    const int quality = settings().JpegQuality;
+    QTest::keyClick(used, Qt::Key_Escape);
+    open(randomBits(300, 200, 4));
+    EXPECT_EQ(quality, settings().JpegQuality) << "as it was left";
     find<QSpinBox>("spnFit")->setValue(1);
-    click("cmdFit");
+    QTest::keyClick(find("spnFit"), Qt::Key_Return);
     idle();
     EXPECT_TRUE(text("lblExact").contains("No quality"));
+    choose("CboFiles", "GIF-256 Colors");
+    find<QSpinBox>("spnFit")->setValue(40);
+    click("cmdFit");
+    idle();
+    EXPECT_LE(QFileInfo(temporary("G0001.gif")).size(), 40 * 1024);
+    EXPECT_EQ(QString("%1 Colors").arg(1 << settings().BitCount), text("Depth2"));
+    EXPECT_EQ("GIF-" + text("Depth2"), find<QComboBox>("CboFiles")->currentText());
+}
+
+TEST_F(ExportDialogs, TheTableOfAllFormatsIsSortedAndChoosesOne)
+{
+    open(picture);
+    QTimer::singleShot(0, used, [&] {
+        auto* table = find<QTableWidget>("tblFormats");
+        ASSERT_TRUE(comes([&] { return table->rowCount() == 21; }));
+        const auto bytes = [&](int row) { return QLocale().toLongLong(table->item(row, 1)->text()); };
+        for (int row = 1; row < 21; ++row) EXPECT_LE(bytes(row - 1), bytes(row));
+        const auto rows = table->findItems("PNG-24 bit", Qt::MatchExactly);
+        ASSERT_EQ(1, rows.size());
+        EXPECT_EQ("no loss", table->item(rows[0]->row(), 2)->text());
+        table->selectRow(rows[0]->row());
+        click("cmdChoose");
+    });
+    click("cmdTable");
+    idle();
+    EXPECT_EQ("PNG", text("FileType2"));
+    EXPECT_TRUE(text("lblExact").contains("no loss"));
 }
 
 TEST_F(ExportDialogs, OneRunAfterTheLastChangeAndEscEndsIt)
@@ -317,7 +349,10 @@ TEST_F(ExportDialogs, SaveAsWritesTheSameAndFailuresLeaveTheLastPreview)
     world.answers = {std::nullopt};
     click("CmdSave");
     EXPECT_EQ("", world.lastDialog.filter) << "an interlaced one has none";
-    EXPECT_EQ("/a/out.gif", world.lastDialog.writtenAs("/a/out"));
+    EXPECT_EQ("Photo.gif", world.lastDialog.name);
+    for (const char* typed : {"/a/out", "/a/out.gif", "/a/out.png", "/a/out.jpeg"})
+        EXPECT_EQ("/a/out.gif", world.lastDialog.writtenAs(typed));
+    EXPECT_EQ("/a/out.2.gif", world.lastDialog.writtenAs("/a/out.2"));
 
     const Bits before = bits("oSrc");
     QDir(world.folder.filePath("Temp")).removeRecursively();

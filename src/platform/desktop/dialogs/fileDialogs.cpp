@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QSplitter>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QTreeView>
 #include <QUrl>
 
@@ -112,6 +113,16 @@ class SaveDialog final : public PictureDialog {
     {
         setOption(DontConfirmOverwrite);
     }
+    void propose(const QString& name)
+    {
+        selectFile(directory().filePath(name));
+        auto* field = findChild<QLineEdit*>("fileNameEdit");
+        if (!field) return;
+        field->setFocus();
+        // The dialog selects everything as it shows.
+        QTimer::singleShot(
+            0, field, [field, stem = int(QFileInfo(name).completeBaseName().size())] { field->setSelection(0, stem); });
+    }
     void accept() override
     {
         const QString name = selectedFiles().value(0);
@@ -157,6 +168,7 @@ std::optional<QString> askSaveName(Platform& platform, const FileDialog& request
     };
     giveSuffix(dialog->selectedNameFilter());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, giveSuffix);
+    if (!request.name.isEmpty()) dialog->propose(request.name);
     return run(dialog);
 }
 
