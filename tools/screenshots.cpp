@@ -169,19 +169,17 @@ void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& pict
         });
 }
 
-/// The floating boxes; the textures box with each of its pages.
-void shootBoxes()
+/// The boxes; the textures box with each of its pages.
+void shootBoxes(fMain& frame)
 {
-    settle(300); // they are open since the start
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        const QString name = window->objectName();
-        if (!window->isVisible() || !QStringList{"fPalette", "fToolTextures", "fPaste"}.contains(name)) continue;
-        auto* pages = window->findChild<QTabWidget*>();
+    for (const char* name : {"fPalette", "fToolTextures", "fPaste"}) {
+        auto* box = frame.findChild<QWidget*>(name);
+        auto* pages = box->findChild<QTabWidget*>();
         for (int page = 0; page < (pages ? pages->count() : 1); ++page) {
             if (pages) pages->setCurrentIndex(page);
             settle(300);
-            if (auto* label = window->findChild<QLabel*>("lblFolder")) label->setText("Texture files of Textures");
-            save(window->grab(), "box_" + name + (page ? "_" + QString::number(page) : QString()));
+            if (auto* label = box->findChild<QLabel*>("lblFolder")) label->setText("Texture files of Textures");
+            save(box->grab(), "box_" + QString(name) + (page ? "_" + QString::number(page) : QString()));
         }
     }
 }
@@ -316,7 +314,7 @@ int main(int argc, char** argv)
         shootFreeWindow(*frame, "@SEARCH", "fSearch");
         shootFreeWindow(*frame, "@HELP", "fHelp");
         shootBrowser(*frame, platform, picture);
-        shootBoxes();
+        shootBoxes(*frame);
     }
     if (!few) shootPanes(*frame);
     setup.AskToSave = false;

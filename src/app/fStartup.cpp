@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <algorithm>
 #include <functional>
@@ -19,6 +20,8 @@
 namespace velara {
 
 namespace {
+
+constexpr QSize kSmallest(400, 300); // smaller frames come only from a damaged configuration
 
 /// Written completely, or not at all.
 bool writeBmp(const QImage& picture, const QString& path)
@@ -51,6 +54,16 @@ bool makePictures(const QDir& folder, const std::function<QString(int)>& nameOf,
     return made;
 }
 
+/// Off the place where another instance's frame is likely to stand, so that its title bar can be reached: to the lower
+/// right as far as the screen goes, or where that leaves too little, to the screen's other corner.
+void moveAside(QWidget& frame, const QRect& screen)
+{
+    const int step = 2 * frame.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect aside = frame.geometry().translated(step, step) & screen;
+    const bool fits = aside.size().expandedTo(kSmallest) == aside.size();
+    frame.setGeometry(fits ? aside : QRect(screen.topLeft(), frame.size()));
+}
+
 } // namespace
 
 bool makeFolders(Platform& platform)
@@ -65,27 +78,31 @@ bool makeFolders(Platform& platform)
     return made && QFileInfo(temp).isWritable();
 }
 
-void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place)
+void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place, bool beside)
 {
     constexpr int kMostTwips = 32767;
-    constexpr QSize kSmallest(400, 300); // smaller ones come only from a damaged configuration
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const QSize wanted = QSize(setup.FrameWidth / kTwips, setup.FrameHeight / kTwips).expandedTo(kSmallest);
     const bool known = !place.isEmpty() && frame.restoreGeometry(place);
     const QRect normal = frame.normalGeometry();
     frame.setWindowState(frame.windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized));
     if (known && normal.isValid()) frame.setGeometry(normal);
+    const QScreen* stoodOn = known ? QGuiApplication::screenAt(frame.geometry().center()) : nullptr;
+    const QRect screen = (stoodOn ? stoodOn : QGuiApplication::primaryScreen())->availableGeometry();
+    const Setup none;
+    const bool isFirst = !known && setup.FrameWidth == none.FrameWidth && setup.FrameHeight == none.FrameHeight;
+    const QSize wanted = isFirst ? screen.size() * 3 / 4
+                                 : QSize(setup.FrameWidth / kTwips, setup.FrameHeight / kTwips).expandedTo(kSmallest);
     // The configuration determines the size, within the range of its fields.
     const QSize size(known && setup.FrameWidth == kMostTwips ? frame.width() : wanted.width(),
                      known && setup.FrameHeight == kMostTwips ? frame.height() : wanted.height());
     frame.resize(size.boundedTo(screen.size()));
     if (!known) frame.move(screen.center() - frame.rect().center());
-    // A window that has grown over the edge moves inside; on another screen it stays where it was.
+    if (beside) moveAside(frame, screen);
+    // A window that has grown over the edge moves inside; on a screen that is gone it doesn't stay.
     const QRect at = frame.geometry();
     const QPoint inside(std::max(screen.x(), std::min(at.x(), screen.x() + screen.width() - at.width())),
                         std::max(screen.y(), std::min(at.y(), screen.y() + screen.height() - at.height())));
-    if (known && screen.contains(at.center()) && inside != at.topLeft()) frame.setGeometry({inside, at.size()});
-    if (setup.FrameMaximized) frame.setWindowState(frame.windowState() | Qt::WindowMaximized);
+    if (known && inside != at.topLeft()) frame.setGeometry({inside, at.size()});
+    if (setup.FrameMaximized && !beside) frame.setWindowState(frame.windowState() | Qt::WindowMaximized);
 }
 
 Startup::Startup(Platform& platform, Setup& setup) : platform_(platform), setup_(setup)
@@ -118,12 +135,13 @@ void Startup::makeFrame()
     setup_ = LoadSetup(platform_);
     frame_ = std::make_unique<fMain>(platform_, setup_);
     setup_.CurrentTool.clear();
-    if (platform_.previousInstance()) platform_.tell("Velara Studio is already running!");
+    second_ = platform_.previousInstance();
+    if (second_) platform_.tell("Velara Studio is already running!");
 }
 
 void Startup::placeFrameOnScreen()
 {
-    placeFrame(*frame_, setup_, QByteArray::fromBase64(platform_.setting("VeStu", "Place", "").toLatin1()));
+    placeFrame(*frame_, setup_, QByteArray::fromBase64(platform_.setting("VeStu", "Place", "").toLatin1()), second_);
     if (!makeFolders(platform_))
         platform_.tell(
             "The folder \"" + platform_.programFolder() +
@@ -135,7 +153,7 @@ void Startup::fillFrame()
 {
     frame_->setDialogFolder(setup_.ImagesPath.trimmed());
     frame_->FillRecent();
-    frame_->bars().loadLayout();
+    if (!frame_->bars().loadLayout()) frame_->boxes().dockAll();
     frame_->applyBars();
     frame_->initToolPanes();
 }

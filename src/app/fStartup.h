@@ -14,9 +14,11 @@ class fSplash;
 /// one of them can't be made or filled.
 bool makeFolders(Platform& platform);
 
-/// Sizes the frame from the configuration and puts it where it was at the end of the last run, or, the first time, in
-/// the centre of the screen. Whatever those say, the frame is visible on a screen.
-void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place = {});
+/// Sizes the frame from the configuration and puts it where it was at the end of the last run, on the same screen. The
+/// first time it takes three quarters of the primary screen's width and height, in its centre. Whatever those say, the
+/// frame is visible on a screen.
+/// \param beside another instance runs: the frame doesn't cover it, and is not maximised
+void placeFrame(QWidget& frame, const Setup& setup, const QByteArray& place = {}, bool beside = false);
 
 /// The start: splash, configuration, frame, folders, bars, in that order. Each step comes from the event loop, so that
 /// the splash is painted and takes a click meanwhile. A step that throws ends the program.
@@ -44,6 +46,7 @@ class Startup final : public QObject {
     QPointer<fSplash> splash_;
     std::unique_ptr<fMain> frame_;
     std::size_t next_ = 0;
+    bool second_ = false; // another instance runs already
 };
 
 } // namespace velara

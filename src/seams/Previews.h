@@ -16,7 +16,7 @@ struct Preview {
 
 class Previews {
   public:
-    static constexpr int kThumbnailSide = 128;
+    static constexpr int kThumbnailSide = 256;
     using Done = std::function<void(const Preview&)>;
     /// Releasing it cancels the reading: no answer comes then.
     using Request = std::shared_ptr<void>;

@@ -28,8 +28,8 @@ browse() { brings 'Browse For Graphic Filles' "$@"; }
 closed() { no_window '^Browse For Graphic Filles$'; }
 browse alt+f b
 xdotool type --delay 30 gree
-until_true "preview and thumbnail of the green one" shows '#12fe34' 2
-until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/normal/*.png"
+until_true "preview and thumbnails of the green one, in the tree and in the grid" shows '#12fe34' 3
+until_true "the thumbnail in the shared cache" sh -c "ls $XDG_CACHE_HOME/thumbnails/large/*.png"
 
 # The thumbnail is at the left of its row: a double click on it
 thumb_at() { place '#12fe34' | sort -t+ -k2n | head -1; }
@@ -54,37 +54,39 @@ until_true "the open picture" shows '#12fe34' 1
 
 # It reopens where it was.
 browse alt+f b
-until_true "its place again" shows '#12fe34' 2
+until_true "its place again" shows '#12fe34' 3
 xdotool type --delay 30 pin
-until_true "the other preview" shows '#fe12ab' 2
+until_true "the other preview" shows '#fe12ab' 3
 keys Return
 until_true "the browser to close" closed
 
-# The open dialog shows what is typed or selected in it.
+# The open dialog has small pictures, and shows what is typed or selected in it.
+small() { place "$1" | grep -q '^[23][0-9]x'; }
+large() { [ "$(place "$1" | grep -c '^[1-9][0-9][0-9]x')" = "$2" ]; }
 brings 'Open file' ctrl+o
-pinks=$(areas '#fe12ab')
+until_true "the small picture in the dialog" small '#fe12ab'
+pinks=$(place '#fe12ab' | grep -c '^[1-9][0-9][0-9]x' || true)
 xdotool type --delay 30 pink.bmp
-until_true "the preview in the dialog" shows '#fe12ab' $((pinks + 1))
+until_true "the preview in the dialog" large '#fe12ab' $((pinks + 1))
 keys Escape Escape
 until_true "the dialog to close" no_window '^Open file$'
 
-# A folder for the textures box, by keys only; applying its one file changes every pixel of a plain picture.
-box=$(xdotool search --onlyvisible --name '^Textures: Emboss$')
-xdotool windowmove --sync "$box" 20 20
-xdotool windowactivate --sync "$box"
-keys alt+e
+# A folder for the textures box; applying its one file changes every pixel of a plain picture.
+press() { xdotool mousemove --window "$main" "$@"; settled; }
+press 775 144 click 1 # its tab in the frame
+press 699 193 click 1 # the page of effects
 mkdir -p "$folder/Textures/Cloth"
 convert -size 64x64 plasma:red-blue -colorspace gray "BMP3:$folder/Textures/Cloth/linen.bmp"
-browse alt+d
+press 668 623 click 1 # the button of the folder
+until_true "the choice of a folder" has_keys '^Browse For Graphic Filles$'
 xdotool type --delay 30 clo
 settled
 keys Return
 until_true "the choice to close" closed
 settled
 [ "$(areas '#fe12ab')" = 1 ] || fail "the pink picture is seen $(areas '#fe12ab') times"
-xdotool mousemove --window "$box" 55 302 click --repeat 2 --delay 60 1 # the first file of the list
+press 670 508 click --repeat 2 --delay 60 1 # the first file of the list
 until_true "the picture with the texture" shows '#fe12ab' 0
-xdotool windowactivate --sync "$(frame)"
 keys ctrl+z
 until_true "the picture as it was" shows '#fe12ab' 1
 quit

@@ -51,17 +51,15 @@ is 3 20 8 "$plain"
 
 # The box: its second slot pastes the ellipse again, by the button "Clip 2"; the first has the other program's picture.
 keys alt+v
-brings 'Clip History' l
-box=$(xdotool search --onlyvisible --name '^Clip History$')
-xdotool windowmove --sync "$box" 920 100
-xdotool mousemove --window "$box" 100 66 click 1
+keys l
+xdotool mousemove --window "$main" 694 105 click 1 # docked at the right, where it narrows the pictures' area
 settled
+keys alt+v l
 xdotool mousemove $(over 50 12)
 settled
 xdotool mousemove $(over 51 12) click 1
 saved 4
 is 4 48 9 "$green"
-xdotool windowactivate --sync "$(frame)"
 
 # What another program copies after our clips is what is pasted next.
 convert -size 4x4 'xc:#ffff00' PNG32:- | xclip -selection clipboard -t image/png -i

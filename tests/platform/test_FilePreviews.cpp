@@ -123,11 +123,11 @@ TEST_F(FilePreviewsTest, ThumbnailsComeFromTheSharedCacheAndGoThere)
     const QString grey = file("grey.ppm", ppm(600, '\x80')), broken = file("broken.png", "no picture");
     const auto first = previews.thumbnail(grey, keep);
     ASSERT_TRUE(answered(1));
-    EXPECT_EQ(answers[0].image.size(), QSize(128, 128));
+    EXPECT_EQ(answers[0].image.size(), QSize(256, 256));
     ASSERT_EQ(SharedThumbnail(grey).entries().size(), 1);
 
     // Another program's entry is used if it matches the picture's present state
-    QImage blue(128, 128, QImage::Format_RGB32);
+    QImage blue(256, 256, QImage::Format_RGB32);
     blue.fill(Qt::blue);
     SharedThumbnail(grey).write(blue, {600, 600});
     const auto second = previews.thumbnail(grey, keep);

@@ -37,6 +37,11 @@ TEST_F(QtFontsTest, ListsWhatIsInstalled)
     };
     EXPECT_TRUE(has(fonts.standIn("No Such Font At All")));
     EXPECT_EQ(families->back().name, fonts.standIn(families->back().name));
+    // They claim Latin letters, too.
+    for (const FontFamily& family : *families)
+        if (family.name == "D050000L" || family.name == "Standard Symbols PS") {
+            EXPECT_TRUE(family.writingSystems.isEmpty()) << family.name.toStdString();
+        }
 }
 
 TEST_F(QtFontsTest, DrawsWithinWhatItMeasures)

@@ -59,13 +59,16 @@ void fMain::toggleSideBar()
 
 void fMain::makeBoxes()
 {
-    boxes_ = std::make_unique<Boxes>(*this, *toolPane_, setup_, *bars_);
+    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    setTabPosition(Qt::LeftDockWidgetArea, QTabWidget::North);
+    boxes_ = std::make_unique<Boxes>(*this, setup_, *bars_);
     boxes_->set(Boxes::Colours, new fPalette(*this, this));
-    boxes_->set(Boxes::Clips, clips_->box());
     auto* textures = new fToolTextures(*this, this);
     connect(textures, &fToolTextures::placing, this, [this] { toolClicked(QStringLiteral("Text")); });
     connect(textures, &fToolTextures::folderWanted, this, [=, this] { browseTextureFolder(*this, *textures); });
     boxes_->set(Boxes::Textures, textures);
+    boxes_->set(Boxes::Clips, clips_->box());
+    boxes_->dockAll();
     startPage_->taken = [this] { return boxes_->places(); };
 }
 
@@ -103,7 +106,6 @@ void fMain::seekSidePane(QPoint at)
 
 bool fMain::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Close && event->spontaneous() && boxes_) boxes_->crossed(watched);
     const auto type = event->type();
     if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide)
         if (boxes_ && (watched == this || boxes_->has(watched))) startPage_->place();

@@ -51,7 +51,7 @@ fToolPane::fToolPane(QWidget* parent) : QFrame(parent), stack_(new QStackedWidge
 void fToolPane::refreshIcons()
 {
     for (const auto& [key, button] : buttons_.asKeyValueRange()) button->setIcon(iconOf(key.toStdString()));
-    swap_->setIcon(QIcon::fromTheme("document-swap"));
+    swap_->setIcon(themeIcon("document-swap"));
 }
 
 QWidget* fToolPane::makeStrip()

@@ -15,7 +15,8 @@ namespace velara {
 namespace {
 
 constexpr const char* kSection = "VeStu";
-constexpr int kLayoutVersion = 1; // raised when toolbars are added or removed: an old layout is not for new bars
+constexpr int kLayoutVersion = 2; // raised when toolbars or boxes are added or removed
+constexpr int kWithoutBoxes = 1;  // the version of layouts that know toolbars alone
 
 } // namespace
 
@@ -122,11 +123,13 @@ void Bars::toggleBar(int index)
     mark("@BAR", index, visible);
 }
 
-void Bars::loadLayout()
+bool Bars::loadLayout()
 {
-    const QString stored = machine_.setting(kSection, "Layout", "");
-    if (!stored.isEmpty()) window_.restoreState(QByteArray::fromBase64(stored.toLatin1()), kLayoutVersion);
+    const QByteArray stored = QByteArray::fromBase64(machine_.setting(kSection, "Layout", "").toLatin1());
+    const bool isWhole = window_.restoreState(stored, kLayoutVersion);
+    if (!isWhole) window_.restoreState(stored, kWithoutBoxes);
     showBars(); // the configuration determines which bars are shown
+    return isWhole;
 }
 
 void Bars::saveLayout()

@@ -56,8 +56,8 @@ class Bars final : public QObject {
     /// Shows toolbars and their check marks as in Setup.
     void showBars();
     void toggleBar(int index);
-    /// The positions of the toolbars, kept per user.
-    void loadLayout();
+    /// The positions of the toolbars and the boxes, kept per user. False: those of the boxes aren't known.
+    bool loadLayout();
     void saveLayout();
     /// A menu of the toolbars; owned by the caller.
     QMenu* makePopup();

@@ -4,40 +4,65 @@
 #include "commands/vocabulary.h"
 #include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
+#include <QHash>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 
 namespace velara {
 
 namespace {
 
-/// Gives every item without an access key the first letter of its caption that is free in its menu.
+/// The access key that a caption names by an ampersand; null without one.
+QChar keyIn(const QString& caption)
+{
+    for (qsizetype i = 0; i + 1 < caption.size(); ++i)
+        if (caption[i] == '&') {
+            if (caption[i + 1] != '&') return caption[i + 1].toUpper();
+            ++i;
+        }
+    return {};
+}
+
+/// The items of a menu by access key; those that name their own keep it.
+struct AccessKeys {
+    QHash<QChar, QAction*> owner;
+
+    bool isFree(QChar key) const { return (key.isLetterOrNumber() || key == u'%') && !owner.contains(key); }
+    /// Gives the item the first letter of its caption that is free; if none is, that of another one which can take
+    /// another letter of its own. tried: letters that have been looked at on the way.
+    bool give(QAction* item, QSet<QChar>& tried)
+    {
+        const QString letters = item->text().toUpper();
+        const auto yields = [&](QChar key) {
+            QAction* other = owner.value(key);
+            if (!other || tried.contains(key) || !keyIn(other->text()).isNull()) return false;
+            tried << key;
+            return give(other, tried);
+        };
+        auto key = std::ranges::find_if(letters, [this](QChar letter) { return isFree(letter); });
+        if (key == letters.end()) key = std::ranges::find_if(letters, yields);
+        if (key == letters.end()) return false;
+        owner[*key] = item;
+        return true;
+    }
+};
+
 void giveAccessKeys(QMenu& menu)
 {
-    QSet<QChar> taken;
-    const auto keyOf = [](const QString& caption) {
-        for (qsizetype i = 0; i + 1 < caption.size(); ++i)
-            if (caption[i] == '&') {
-                if (caption[i + 1] != '&') return caption[i + 1].toUpper();
-                ++i;
-            }
-        return QChar();
-    };
-    for (const QAction* item : menu.actions())
-        if (const QChar key = keyOf(item->text()); !key.isNull()) taken << key;
+    AccessKeys keys;
+    for (QAction* item : menu.actions())
+        if (const QChar key = keyIn(item->text()); !key.isNull()) keys.owner[key] = item;
     for (QAction* item : menu.actions()) {
-        if (item->isSeparator() || !keyOf(item->text()).isNull()) continue;
-        const QString caption = item->text();
-        for (qsizetype i = 0; i < caption.size(); ++i) {
-            if (!caption[i].isLetterOrNumber() || taken.contains(caption[i].toUpper())) continue;
-            taken << caption[i].toUpper();
-            item->setText(caption.left(i) + "&" + caption.mid(i));
-            break;
-        }
+        QSet<QChar> tried;
+        if (!item->isSeparator() && keyIn(item->text()).isNull()) keys.give(item, tried);
     }
+    for (const auto& [key, item] : keys.owner.asKeyValueRange())
+        if (const QString caption = item->text(); keyIn(caption).isNull())
+            item->setText(QString(caption).insert(caption.toUpper().indexOf(key), '&'));
 }
 
 QList<QKeySequence> sequencesOf(const QString& shortcuts)

@@ -1,12 +1,14 @@
 #include "app/menus/Boxes.h"
 #include "app/menus/Bars.h"
 #include "seams/Setup.h"
-#include <QLayout>
-#include <QScreen>
-#include <QStyle>
-#include <algorithm>
-#include <climits>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <functional>
 #include <string_view>
+#include <utility>
 
 namespace velara {
 
@@ -15,7 +17,7 @@ namespace {
 struct BoxRow {
     std::string_view word; // of its menu item
     bool Setup::*visible;
-    int down; // pixels from the top of the documents to its first position
+    int down; // pixels from the top of the documents to the place where it begins to float
 };
 
 constexpr BoxRow kBoxes[] = {
@@ -24,85 +26,101 @@ constexpr BoxRow kBoxes[] = {
     {"@CLIPBOARDBOX", &Setup::ClipboardBoxVisible, 0},
 };
 
-/// The window manager's frame around a window, estimated until it is known.
-QSize decoration(const QWidget& window)
-{
-    constexpr int kBorder = 2;
-    return {2 * kBorder, window.style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBorder};
-}
+/// As wide as the box at least; only its height may be too small for it.
+class Room final : public QScrollArea {
+  public:
+    explicit Room(QWidget* box)
+    {
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        setWidget(box);
+    }
+    /// The documents get the rest.
+    QSize sizeHint() const override
+    {
+        return {minimumSizeHint().width(), widget()->sizeHint().expandedTo(widget()->minimumSize()).height()};
+    }
+    QSize minimumSizeHint() const override
+    {
+        constexpr int kLeastHeight = 80;
+        const int least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize()).width();
+        return {least + verticalScrollBar()->sizeHint().width(), kLeastHeight};
+    }
+};
 
-/// The area that a window covers on the screen, including its title bar even if it was shown just now.
-QRect covered(const QWidget& window)
-{
-    const QRect rect = window.frameGeometry();
-    return rect | QRect(rect.topLeft(), window.size() + decoration(window));
-}
+class Dock final : public QDockWidget {
+  public:
+    Dock(QWidget* box, QMainWindow* frame, int down, std::function<void()> crossed)
+        : QDockWidget(box->windowTitle(), frame), down_(down), crossed_(std::move(crossed))
+    {
+        setObjectName("dock_" + box->objectName());
+        setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+        setWidget(new Room(box));
+        widget()->setWindowFlags(Qt::SubWindow); // its access keys are its own: those of the menus stay the menus'
+        connect(box, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
+        connect(this, &QDockWidget::topLevelChanged, this, [this, frame](bool floats) {
+            if (floats && frame->isVisible() && !std::exchange(hasFloated_, true)) beginToFloat(*frame);
+        });
+    }
 
-/// Gives a window its final size: one that grows only when shown would be displaced by the height of its title bar.
-void settle(QWidget& window)
-{
-    window.ensurePolished();
-    for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
-    if (window.layout()) window.layout()->activate();
-}
+  protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        QDockWidget::closeEvent(event);
+        crossed_();
+    }
 
-int areaOf(const QRect& rect) { return rect.isEmpty() ? 0 : rect.width() * rect.height(); }
+  private:
+    /// By its button, and not in the user's hand: at the frame's right, clear of the side pane's width.
+    void beginToFloat(const QMainWindow& frame)
+    {
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+        adjustSize();
+        const int pane = frame.findChild<QWidget*>("cTools")->width();
+        const int left = frame.width() - width() - pane * 12 / 5;
+        move(frame.mapToGlobal(QPoint(std::max(left, pane), frame.centralWidget()->y() + down_)));
+    }
+
+    int down_;
+    bool hasFloated_ = false;
+    std::function<void()> crossed_;
+};
+
+/// On Wayland a window stands where the desktop puts it, and a box would lie over the frame's tools.
+bool windowsCanBePlaced() { return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland")); }
 
 } // namespace
 
-Boxes::Boxes(QWidget& frame, const QWidget& sidePane, Setup& setup, Bars& bars)
-    : frame_(frame), sidePane_(sidePane), setup_(setup), bars_(bars)
+void Boxes::set(Box which, QWidget* box)
 {
+    boxes_[which] = box;
+    docks_[which] = new Dock(box, &frame_, kBoxes[which].down, [this, which] { crossed(which); });
+    docks_[which]->hide();
+    frame_.addDockWidget(Qt::RightDockWidgetArea, docks_[which]);
+}
+
+void Boxes::dockAll()
+{
+    for (QDockWidget* dock : docks_) {
+        dock->setFloating(false);
+        frame_.addDockWidget(Qt::RightDockWidgetArea, dock);
+        if (dock != docks_[Colours]) frame_.tabifyDockWidget(docks_[Colours], dock);
+    }
 }
 
 void Boxes::show(Box which)
 {
-    QWidget* box = boxes_[which];
-    if (!box) return;
-    if (!placed_[which]) {
-        settle(*box);
-        const int left = frame_.width() - box->width() - sidePane_.width() * 12 / 5;
-        const int top = sidePane_.parentWidget()->y() + kBoxes[which].down;
-        // In a narrow frame that position is over the tools.
-        const bool clear = left >= (sidePane_.isVisible() ? sidePane_.width() : 0);
-        box->move(clear ? frame_.mapToGlobal(QPoint(left, top)) : beside(*box));
-        placed_[which] = true;
-    }
-    box->show();
+    docks_[which]->show();
     bars_.mark(kBoxes[which].word, 0, true);
-}
-
-QPoint Boxes::beside(const QWidget& box) const
-{
-    const QRect frame = covered(frame_), screen = frame_.screen()->availableGeometry();
-    const QSize size = box.size() + decoration(box); // its size when shown
-    std::vector<QRect> taken = places();
-    std::vector<int> tops = {frame.top()};
-    for (const QRect& other : taken) tops.insert(tops.end(), {other.bottom() + 1, other.top() - size.height()});
-    tops.push_back(screen.bottom() + 1 - size.height());
-    taken.push_back(frame);
-    QRect best;
-    int leastCovered = INT_MAX; // a farther position must be clearly better: boxes used together stay together
-    for (const int left : {frame.right() + 1, frame.left() - size.width()})
-        for (const int top : tops) {
-            QRect place({left, top}, size);
-            place.moveRight(std::min(place.right(), screen.right()));
-            place.moveBottom(std::min(place.bottom(), screen.bottom()));
-            place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
-            int area = 0;
-            for (const QRect& other : taken) area += areaOf(place & other);
-            if (area >= leastCovered / 4 * 3) continue;
-            leastCovered = area;
-            best = place;
-        }
-    return best.topLeft();
 }
 
 std::vector<QRect> Boxes::places() const
 {
     std::vector<QRect> places;
-    for (const QWidget* box : boxes_)
-        if (box && box->isVisible()) places.push_back(covered(*box));
+    for (const QDockWidget* dock : docks_)
+        if (dock && dock->isFloating() && dock->isVisible()) places.push_back(dock->frameGeometry());
     return places;
 }
 
@@ -110,37 +128,35 @@ void Boxes::toggle(Box which)
 {
     bool& visible = setup_.*kBoxes[which].visible;
     visible = !visible;
-    QWidget* box = boxes_[which];
     if (visible) {
-        show(which);
-        if (box) box->activateWindow(); // it was asked for in order to be used
-    } else if (box) {
-        const QPoint place = box->pos(); // otherwise a window manager may move it
-        box->hide();
-        box->move(place);
+        bring(which);
+        if (docks_[which]->isFloating()) docks_[which]->activateWindow(); // it was asked for in order to be used
+    } else {
+        docks_[which]->hide();
     }
     bars_.mark(kBoxes[which].word, 0, visible);
 }
 
 void Boxes::showAll()
 {
-    // The large ones first, as they fit in the fewest places; the colours last: they end up in front.
-    for (const Box which : {Textures, Clips, Colours})
-        if (setup_.*kBoxes[which].visible) show(which);
-    if (boxes_[Colours]) boxes_[Colours]->raise();
+    for (const Box which : {Textures, Clips, Colours}) {
+        if (!windowsCanBePlaced()) docks_[which]->setFloating(false);
+        setup_.*kBoxes[which].visible ? show(which) : docks_[which]->hide();
+    }
+    docks_[Colours]->raise();
 }
 
 void Boxes::bring(Box which)
 {
     if (!(setup_.*kBoxes[which].visible)) return toggle(which);
     show(which);
-    boxes_[which]->raise();
+    docks_[which]->raise();
 }
 
-void Boxes::crossed(const QObject* box)
+void Boxes::crossed(Box which)
 {
-    for (int i = 0; i < kCount; ++i)
-        if (box == boxes_[std::size_t(i)] && setup_.*kBoxes[i].visible) toggle(Box(i));
+    setup_.*kBoxes[which].visible = false;
+    bars_.mark(kBoxes[which].word, 0, false);
 }
 
 } // namespace velara

@@ -1,10 +1,12 @@
-// Boxes: the floating boxes of the frame: shows and hides them and keeps that in Setup.
+// Boxes: the boxes of the frame, docked at its side or floating over it: shows and hides them, and keeps that in Setup.
 #pragma once
+#include <QDockWidget>
 #include <QPointer>
-#include <QWidget>
 #include <algorithm>
 #include <array>
 #include <vector>
+
+class QMainWindow;
 
 namespace velara {
 
@@ -15,37 +17,38 @@ class Boxes final {
   public:
     enum Box { Colours, Textures, Clips, kCount };
 
-    /// Initially a box is at the frame's right, clear of the side pane's width; if that would be over the side pane,
-    /// beside the frame, as far as the screen has room.
-    Boxes(QWidget& frame, const QWidget& sidePane, Setup& setup, Bars& bars);
+    Boxes(QMainWindow& frame, Setup& setup, Bars& bars) : frame_(frame), setup_(setup), bars_(bars) {}
 
-    void set(Box which, QWidget* box) { boxes_[which] = box; }
+    /// Gives the box a place, hidden at first. It scrolls where the place is smaller than the box.
+    void set(Box which, QWidget* box);
     QWidget* box(Box which) const { return boxes_[which]; }
+    QDockWidget* dock(Box which) const { return docks_[which]; }
+    /// Puts all of them at the frame's right, in one place with tabs: how they stand when no layout is kept.
+    void dockAll();
     /// Shows a box, where the user last put it.
     void show(Box which);
     void toggle(Box which);
-    /// Shows the boxes that Setup says, when the frame appears.
+    /// Shows the boxes that Setup says, and hides the others; the colours in front. Where the desktop lets no program
+    /// place its windows, those that floated are docked.
     void showAll();
     /// Shows it, or brings it to the front.
     void bring(Box which);
-    /// The screen rectangles of the visible ones.
+    /// The screen rectangles of those that float.
     std::vector<QRect> places() const;
-    bool has(const QObject* box) const
+    bool has(const QObject* dock) const
     {
-        return std::ranges::any_of(boxes_, [box](const auto& own) { return own == box; });
+        return std::ranges::any_of(docks_, [dock](const auto& own) { return own == dock; });
     }
-    /// The user has closed this window by its own close button: if it is a box, its menu item is unchecked.
-    void crossed(const QObject* box);
 
   private:
-    QPoint beside(const QWidget& box) const;
+    /// The user has closed it by its own button: its menu item is unchecked.
+    void crossed(Box which);
 
-    QWidget& frame_;
-    const QWidget& sidePane_;
+    QMainWindow& frame_;
     Setup& setup_;
     Bars& bars_;
     std::array<QPointer<QWidget>, kCount> boxes_;
-    std::array<bool, kCount> placed_{};
+    std::array<QPointer<QDockWidget>, kCount> docks_;
 };
 
 } // namespace velara

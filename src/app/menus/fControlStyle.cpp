@@ -1,10 +1,14 @@
 #include "app/menus/fControlStyle.h"
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
+#include <cmath>
 
 namespace velara {
 
 namespace {
+
+constexpr double kReadable = 4.5; // contrast of text
 
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
@@ -13,6 +17,13 @@ QColor mixed(const QColor& one, const QColor& other, double part)
     const auto channel = [part](int a, int b) { return qRound(a * part + b * (1 - part)); };
     return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
                   channel(one.blue(), other.blue()));
+}
+
+/// The relative luminance by which the web's rules of contrast go: 0 black, 1 white.
+double luminance(const QColor& colour)
+{
+    const auto linear = [](float v) { return v <= 0.04045F ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
 }
 
 /// The outline of a control: visible on the background, but weaker than the text.
@@ -58,6 +69,12 @@ void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QP
 
 } // namespace
 
+double fControlStyle::contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
 QColor fControlStyle::paleText(const QPalette& palette)
 {
     return mixed(palette.color(QPalette::Active, QPalette::WindowText), palette.color(QPalette::Window), 0.5);
@@ -67,16 +84,25 @@ bool fControlStyle::isPlain() const { return baseStyle()->name() == QLatin1Strin
 
 bool fControlStyle::mends(const QPalette& palette) const { return isDark(palette) && isPlain(); }
 
-/// Plain palettes make disabled text nearly invisible, and a dark workspace black.
+/// Plain palettes make disabled text and chosen rows hard to read, and a dark workspace black. Hints are too pale in
+/// most.
 void fControlStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
+    const QColor hint = mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.65);
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::PlaceholderText, hint);
     if (!isPlain()) return;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor text = palette.color(group, QPalette::HighlightedText);
+        QColor ground = palette.color(group, QPalette::Highlight);
+        for (int i = 0; i < 40 && contrast(text, ground) < kReadable; ++i)
+            ground = luminance(text) > 0.5 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
+        palette.setColor(group, QPalette::Highlight, ground);
+    }
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, paleText(palette));
     if (!isDark(palette)) return;
-    palette.setColor(QPalette::PlaceholderText,
-                     mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.65));
     palette.setColor(QPalette::Dark, palette.color(QPalette::Window).darker(135));
 }
 
@@ -94,6 +120,12 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         painter->restore();
         return;
     }
+    if (element == PE_PanelLineEdit && option->state & State_ReadOnly && isPlain())
+        if (const auto* panel = qstyleoption_cast<const QStyleOptionFrame*>(option)) { // it can't be typed in
+            QStyleOptionFrame locked = *panel;
+            locked.palette.setBrush(QPalette::Base, panel->palette.window());
+            return QProxyStyle::drawPrimitive(element, &locked, painter, widget);
+        }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (!mends(option->palette) || (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) return;
     painter->save();
@@ -122,6 +154,13 @@ void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         drawTitleButtons(*proxy(), option, painter, widget);
     }
     painter->restore();
+}
+
+/// Most buttons of the dialogs are no standard ones, which have no icon: with icons in some, pairs would look unlike.
+int fControlStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* returned) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 /// Keeps a caption clear of its menu arrow, which the plain style draws over it, like a comma.

@@ -1,5 +1,6 @@
 // fControlStyle: corrects what is indistinguishable in the plain style: unchecked boxes, sliders and title bars on a
-// dark background, checked or disabled buttons. A desktop's own style is left unchanged.
+// dark background, checked or disabled buttons, boxes that are only read, chosen rows and hints of too little contrast.
+// A desktop's own style is left unchanged, but for hints and icons in the buttons of dialogs.
 #pragma once
 #include <QProxyStyle>
 
@@ -17,6 +18,12 @@ class fControlStyle : public QProxyStyle {
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
+
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* returned = nullptr) const override;
+
+    /// Of two opaque colours, 1 to 21, as the web's rules count it; text needs 4.5, signs 3.
+    static double contrast(const QColor& one, const QColor& other);
 
   protected:
     /// Half way between text and background: not every palette's own disabled colour is readable.

@@ -12,6 +12,9 @@ void useResources();
 /// Selects the theme variant that fits the palette: our menus stay legible with and without a desktop environment.
 void useIconTheme();
 
+/// An icon of the theme, in one drawing for menus and one for bars at any scale of the screen.
+QIcon themeIcon(const QString& name);
+
 /// The icon of a word, an "@" action or a tool key; null when it has none.
 QIcon iconOf(std::string_view word);
 

@@ -13,7 +13,8 @@ constexpr int kPictureColumn = 23; // the highlight leaves it free when there is
 constexpr int kTextLeft = 25;
 constexpr int kArrow = 16;
 
-/// A sunken or raised frame of one pixel. right and bottom are the last pixels.
+/// A sunken or raised frame of one pixel. right and bottom are the last pixels. At the lower left the first pen's
+/// colour stays, at the upper right the second's.
 void frame3d(QPainter& painter, const QPalette& palette, int left, int top, int right, int bottom, bool sunken)
 {
     const QColor dark = palette.color(QPalette::Dark), light = palette.color(QPalette::Light);
@@ -22,7 +23,7 @@ void frame3d(QPainter& painter, const QPalette& palette, int left, int top, int 
     painter.drawLine(left, top, right, top);
     painter.setPen(sunken ? light : dark);
     painter.drawLine(right, top, right, bottom);
-    painter.drawLine(right, bottom, left, bottom);
+    painter.drawLine(right, bottom, left + 1, bottom);
 }
 
 struct ItemText {
@@ -88,7 +89,7 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
 
     if (item->menuItemType == QStyleOptionMenuItem::Separator) {
         painter->fillRect(box, palette.window());
-        frame3d(*painter, palette, box.left(), box.top() + 2, box.right() - 1, box.top() + 3, true);
+        frame3d(*painter, palette, box.left(), box.top() + 2, box.right(), box.top() + 3, true);
         painter->restore();
         return;
     }
@@ -124,7 +125,7 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
         item->icon.paint(painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
     }
     if (selected && picture)
-        frame3d(*painter, palette, box.left() + 1, box.top(), box.left() + 21, box.bottom() - 1, false);
+        frame3d(*painter, palette, box.left() + 1, box.top(), box.left() + 21, box.bottom(), false);
 
     if (item->menuItemType == QStyleOptionMenuItem::SubMenu) {
         QStyleOption arrow;

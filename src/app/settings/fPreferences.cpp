@@ -77,7 +77,7 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     for (const FlagRow& row : kFlagsBelow) addFlag(column, row, copy_);
     column->addStretch();
 
-    auto* tabs = new QTabWidget;
+    auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
     tabs->addTab(page, tr("General"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setObjectName("CmdOK");

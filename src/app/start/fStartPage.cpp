@@ -1,5 +1,6 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include "seams/text.h"
@@ -9,8 +10,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPainter>
-#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -28,19 +27,8 @@ constexpr StartRow kStarts[] = {
     {"CREATEFROMCLIPBOARD", QT_TRANSLATE_NOOP("fStartPage", "From the &clipboard"), "cmdStartPaste"},
 };
 constexpr int kMargin = 24;
+constexpr int kSide = 128;           // of the recent pictures
 constexpr int kIndex = Qt::UserRole; // of the recent list
-
-/// All icons have the same size, whatever the shape of their pictures.
-QIcon framed(const QImage& picture, qreal ratio)
-{
-    constexpr int kSide = Previews::kThumbnailSide;
-    QPixmap pixmap(QSize(kSide, kSide) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    const QSize size = picture.size().boundedTo({kSide, kSide});
-    QPainter(&pixmap).drawImage(QRect(QPoint((kSide - size.width()) / 2, (kSide - size.height()) / 2), size), picture);
-    return QIcon(pixmap);
-}
 
 } // namespace
 
@@ -118,7 +106,6 @@ QWidget* fStartPage::makeButtons()
 
 void fStartPage::makeList()
 {
-    constexpr int kSide = Previews::kThumbnailSide;
     heading_->setBuddy(list_);
     named(list_, "lstRecent", heading_->text());
     list_->setViewMode(QListView::IconMode);
@@ -149,12 +136,11 @@ void fStartPage::showRecent(const std::array<QString, 8>& recent)
     shown_ = found;
     requests_.clear();
     list_->clear();
-    QImage blank(Previews::kThumbnailSide, Previews::kThumbnailSide, QImage::Format_ARGB32_Premultiplied);
-    blank.fill(Qt::transparent);
     for (int i = 0; i < int(recent.size()); ++i) {
         const QString path = recent[std::size_t(i)].trimmed();
         if (std::ranges::find(found, path) == found.end()) continue;
-        auto* item = new QListWidgetItem(framed(blank, 1), printable(QFileInfo(path).fileName()), list_);
+        auto* item =
+            new QListWidgetItem(thumbnailIcon({}, {kSide, kSide}), printable(QFileInfo(path).fileName()), list_);
         item->setToolTip(printable(path));
         item->setData(kIndex, i);
         askThumbnail(list_->row(item), path);
@@ -169,7 +155,7 @@ void fStartPage::askThumbnail(int row, const QString& path)
         if (preview.image.isNull())
             item->setIcon(QIcon::fromTheme("image-missing"));
         else
-            item->setIcon(framed(preview.image, devicePixelRatioF()));
+            item->setIcon(thumbnailIcon(preview.image, {kSide, kSide}));
     }));
 }
 

@@ -154,6 +154,14 @@ QString withoutFoundry(const QString& family)
     return at > 0 && family.endsWith(u']') ? family.left(at) : family;
 }
 
+/// Several fonts of symbols claim to have Latin letters as well, because they have the places of the keyboard.
+bool isOfSymbols(const QList<QFontDatabase::WritingSystem>& systems)
+{
+    return systems.contains(QFontDatabase::Symbol) && std::ranges::all_of(systems, [](auto system) {
+               return system == QFontDatabase::Symbol || system == QFontDatabase::Latin;
+           });
+}
+
 } // namespace
 
 std::optional<std::vector<FontFamily>> QtFonts::list()
@@ -165,8 +173,11 @@ std::optional<std::vector<FontFamily>> QtFonts::list()
         if (QFontDatabase::isPrivateFamily(family)) continue;
         FontFamily entry{withoutFoundry(family), {}};
         if (std::ranges::find(found, entry.name, &FontFamily::name) != found.end()) continue;
-        for (const QFontDatabase::WritingSystem system : QFontDatabase::writingSystems(family))
-            if (system != QFontDatabase::Symbol) entry.writingSystems << QFontDatabase::writingSystemName(system);
+        const auto systems = QFontDatabase::writingSystems(family);
+        const bool ofSymbols = isOfSymbols(systems);
+        for (const QFontDatabase::WritingSystem system : systems)
+            if (!ofSymbols && system != QFontDatabase::Symbol)
+                entry.writingSystems << QFontDatabase::writingSystemName(system);
         found.push_back(std::move(entry));
     }
     return found;

@@ -48,7 +48,7 @@ QWidget* fAssociation::makeRows()
         grid->addWidget(cT, row, 0);
         grid->addWidget(new QLabel(text(family.name)), row++, 1);
     }
-    auto* area = new QScrollArea;
+    auto* area = named(new QScrollArea, "areaA", tr("Formats"));
     area->setWidget(picA);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,8 +1,11 @@
-// fBrowse: the machine's folders with the pictures in them as a tree, and the selected item beside it. The same window
-// chooses a folder for the textures box.
+// fBrowse: the machine's folders with the pictures in them as a tree, the chosen folder's pictures as a grid, and the
+// selected item beside them. Home and the folders used last are a click away. The same window chooses a folder for the
+// textures box.
 #pragma once
 #include <QDialog>
 
+class QComboBox;
+class QListView;
 class QPushButton;
 
 namespace velara {
@@ -27,13 +30,19 @@ class fBrowse final : public QDialog {
     void opened(const QString& path);
 
   private:
+    QWidget* makePlaces();
+    void makeGrid();
     QWidget* makeButtons();
+    /// The grid shows the contents of the folder of the tree's current item, or of that itself.
+    void follow();
+    void enter(const QModelIndex& item);
     void selected(const QString& path);
     void open();
 
     Platform& platform_;
     BrowseMode mode_;
     fFolderTree* BF_;
+    QListView* grid_;
     PreviewPane* preview_;
     fPathLabel* FileName_;
     QPushButton* CmdOpen_;

@@ -330,8 +330,9 @@ void fPalette::choosePreset(int index)
 
 void fPalette::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && parentWidget())
-        parentWidget()->activateWindow();
+    QWidget* place = window(); // floating over its owner, or the owner's own
+    if (event->key() == Qt::Key_Escape && place->parentWidget())
+        place->parentWidget()->activateWindow();
     else
         QWidget::keyPressEvent(event);
 }

@@ -1,5 +1,6 @@
 #include "ui/compose/fLayerList.h"
 #include "pixels/images.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
@@ -89,8 +90,8 @@ void fLayerList::refresh(int index)
     row.pT->setAccessibleName(text.isEmpty() ? tr("Empty text") : text);
     row.pT->setToolTip(row.pT->accessibleName());
     row.BT->setAccessibleName(tr("Show %1").arg(row.pT->accessibleName()));
-    const Bits small = fittingCopy(layers_.surface(index), kThumbnail);
-    row.pT->setIcon(QPixmap::fromImage(imageOver(small).copy()));
+    const Bits small = fittingCopy(layers_.surface(index), 2 * kThumbnail);
+    row.pT->setIcon(thumbnailIcon(imageOver(small), kThumbnail));
 }
 
 void fLayerList::UpdateLayerScroll()

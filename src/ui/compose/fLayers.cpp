@@ -34,7 +34,7 @@ constexpr struct {
     int number;
     const char *caption, *icon;
     bool TextStyle::*flag; // null: clears all of them
-} kStyles[] = {{1, "Regular", "edit-clear", nullptr},
+} kStyles[] = {{1, "Regular", "draw-text", nullptr},
                {3, "Bold", "format-text-bold", &TextStyle::bold},
                {4, "Italic", "format-text-italic", &TextStyle::italic},
                {5, "Underline", "format-text-underline", &TextStyle::underline},

@@ -37,7 +37,9 @@ bool fillFonts(QComboBox& list, Platform& platform)
         return false;
     }
     list.clear();
-    for (const FontFamily& family : *families) addFont(list, family);
+    for (const bool ofSymbols : {false, true}) // nobody begins a text with those
+        for (const FontFamily& family : *families)
+            if (family.writingSystems.isEmpty() == ofSymbols) addFont(list, family);
     showRecentFonts(list, platform);
     return true;
 }

@@ -7,8 +7,8 @@ namespace velara {
 
 class Platform;
 
-/// The installed families, each with its writing systems as tool tip. False after the message that they aren't
-/// available.
+/// The installed families, each with its writing systems as tool tip; those of symbols come last. False after the
+/// message that they aren't available.
 bool fillFonts(QComboBox& list, Platform& platform);
 /// The index of the first of all families, below those used last.
 int firstFont(const QComboBox& list);

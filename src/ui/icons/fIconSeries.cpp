@@ -1,6 +1,7 @@
 #include "ui/icons/fIconSeries.h"
 #include "document/road/Frame.h"
 #include "fileio/writers/iconFile.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/sizeText.h"
 #include "ui/icons/MaskChoice.h"
@@ -125,7 +126,8 @@ void fIconSeries::ListIcons()
 
 void fIconSeries::showIcons()
 {
-    for (int i = 0; i < lv_->topLevelItemCount(); ++i) lv_->topLevelItem(i)->setIcon(0, QPixmap::fromImage(iconAt(i)));
+    for (int i = 0; i < lv_->topLevelItemCount(); ++i)
+        lv_->topLevelItem(i)->setIcon(0, untinted(QPixmap::fromImage(iconAt(i))));
 }
 
 void fIconSeries::checkAll(bool checked)

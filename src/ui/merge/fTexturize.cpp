@@ -4,6 +4,7 @@
 #include "fileio/readInBackground.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/images.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include "ui/widgets/fPicture.h"
@@ -30,15 +31,9 @@ const QStringList kPattern{QStringLiteral("*.bmp"), QStringLiteral("*.jpg"), QSt
 
 QIcon iconOf(const Bits& bits)
 {
-    const Bits small = fittingCopy(bits, kThumbnail);
-    QPixmap pixmap(kThumbnail);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+    const Bits small = fittingCopy(bits, 2 * kThumbnail);
     // Otherwise the fourth byte would be taken as alpha.
-    painter.drawImage((kThumbnail.width() - small.width()) / 2, (kThumbnail.height() - small.height()) / 2,
-                      imageOver(small).convertToFormat(QImage::Format_ARGB32));
-    painter.end();
-    return QIcon(pixmap);
+    return thumbnailIcon(imageOver(small).convertToFormat(QImage::Format_RGB32), kThumbnail);
 }
 
 /// An empty frame, crossed out if the file can't be read.
@@ -56,7 +51,7 @@ QIcon frameIcon(const QPalette& palette, bool crossed)
         painter.drawLine(frame.topRight(), frame.bottomLeft());
     }
     painter.end();
-    return QIcon(pixmap);
+    return untinted(pixmap);
 }
 
 } // namespace

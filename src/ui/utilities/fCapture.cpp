@@ -34,7 +34,7 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
     setWindowTitle(tr("Capture Screen"));
     setModal(true);
     auto* column = new QVBoxLayout(this);
-    auto* tabs = named(new QTabWidget, "tabs");
+    auto* tabs = named(new QTabWidget, "tabs", tr("How to capture"));
     tabs->addTab(makeCustom(), tr("Custom"));
     column->addWidget(tabs);
 

@@ -1,8 +1,8 @@
 #include "ui/widgets/FolderModel.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/printable.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include <QApplication>
 #include <QCollator>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "ui/widgets/fFolderTree.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "ui/widgets/FolderModel.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include <QKeyEvent>
 
 namespace velara {
@@ -19,9 +19,8 @@ fFolderTree::fFolderTree(Shows shows, const QString& objectName, const QString& 
 
 void fFolderTree::showThumbnails(Previews& previews)
 {
-    constexpr int kSide = 32;
-    setIconSize({kSide, kSide});
-    model_->setThumbnails(*new ThumbnailIcons(previews, kSide, model_));
+    setIconSize({32, 32});
+    model_->setThumbnails(*new ThumbnailIcons(previews, kThumbnailSide, model_));
 }
 
 QString fFolderTree::path() const { return model_->path(currentIndex()); }

@@ -15,6 +15,7 @@ class fFolderTree : public QTreeView {
 
     fFolderTree(Shows shows, const QString& objectName, const QString& accessibleName, QWidget* parent = nullptr);
 
+    static constexpr int kThumbnailSide = 96; // of the model's icons; the tree shows them smaller
     /// Shows pictures by thumbnails.
     void showThumbnails(Previews& previews);
     /// The path of the current item; empty without one.

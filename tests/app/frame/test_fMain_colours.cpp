@@ -145,15 +145,16 @@ TEST_F(ColourBox, TheMenuItemAndTheCrossShowAndHideItWhereItWasPut)
 {
     QAction* item = frame->action("VIEWS_4");
     EXPECT_TRUE(item->isChecked() && item->isEnabled() && box->isVisible());
-    box->move(77, 88);
+    QDockWidget* dock = frame->boxes().dock(Boxes::Colours);
+    dock->setFloating(true);
+    dock->move(77, 88);
     item->trigger();
     EXPECT_TRUE(!item->isChecked() && !box->isVisible() && !setup.ColorBoxVisible);
     item->trigger();
     EXPECT_TRUE(item->isChecked() && box->isVisible() && setup.ColorBoxVisible);
-    EXPECT_EQ(QPoint(77, 88), box->pos());
-    QCloseEvent cross;
-    QSpontaneKeyEvent::setSpontaneous(&cross);
-    qApp->notify(box, &cross);
+    EXPECT_EQ(QPoint(77, 88), dock->pos());
+    dock->findChild<QAbstractButton*>("qt_dockwidget_closebutton")->click();
+    EXPECT_FALSE(box->isVisible());
     EXPECT_FALSE(setup.ColorBoxVisible || item->isChecked());
     setup.PaletteHue = std::numeric_limits<float>::quiet_NaN(); // a damaged configuration
     fPalette other(*frame, nullptr);

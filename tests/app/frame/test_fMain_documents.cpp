@@ -224,18 +224,31 @@ TEST_F(FrameDocuments, TheSelectionHasItsCommands)
     EXPECT_FALSE(image->bits() == before) << "the other key of redo";
 }
 
-TEST_F(FrameDocuments, BoxesStandClearOfANarrowFrameAndOfEachOther)
+TEST_F(FrameDocuments, BoxesAreDockedBehindTabsAndComeBackWhereTheyWereLeft)
 {
-    frame->setGeometry(0, 0, 450, 300);
-    setup.ClipboardBoxVisible = false;
+    frame->resize(900, 600);
     frame->boxes().showAll();
-    const QWidget *colours = frame->boxes().box(Boxes::Colours), *textures = frame->boxes().box(Boxes::Textures);
-    const int title = frame->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    EXPECT_GT(std::min(colours->x(), textures->x()), 450);
-    EXPECT_GE(
-        std::max(colours->y() - textures->height() - textures->y(), textures->y() - colours->height() - colours->y()),
-        title)
-        << "a title bar is still to come";
+    QDockWidget *colours = frame->boxes().dock(Boxes::Colours), *textures = frame->boxes().dock(Boxes::Textures);
+    EXPECT_EQ(frame->tabifiedDockWidgets(colours).size(), 2);
+    EXPECT_EQ(frame->dockWidgetArea(colours), Qt::RightDockWidgetArea);
+    EXPECT_FALSE(colours->visibleRegion().isEmpty());
+    EXPECT_TRUE(textures->visibleRegion().isEmpty());
+    EXPECT_TRUE(frame->boxes().places().empty());
+    frame->boxes().bring(Boxes::Textures);
+    EXPECT_TRUE(comes([&] { return !textures->visibleRegion().isEmpty() && colours->visibleRegion().isEmpty(); }));
+
+    textures->setFloating(true);
+    textures->setGeometry(120, 130, 400, 430);
+    EXPECT_EQ(frame->boxes().places(), std::vector{textures->frameGeometry()});
+    frame->addDockWidget(Qt::LeftDockWidgetArea, colours);
+    frame->bars().saveLayout();
+    fMain again(platform, setup);
+    again.resize(900, 600);
+    ASSERT_TRUE(again.bars().loadLayout());
+    again.boxes().showAll();
+    EXPECT_EQ(again.boxes().dock(Boxes::Textures)->geometry(), QRect(120, 130, 400, 430));
+    EXPECT_TRUE(again.boxes().dock(Boxes::Textures)->isFloating());
+    EXPECT_EQ(again.dockWidgetArea(again.boxes().dock(Boxes::Colours)), Qt::LeftDockWidgetArea);
 }
 
 TEST_F(FrameDocuments, WithoutAnyTheAreaSaysHowToStart)

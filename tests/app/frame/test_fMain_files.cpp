@@ -500,11 +500,13 @@ TEST(StartTest, WhateverTheConfigurationSaysTheFrameIsOnTheScreen)
 TEST(StartTest, TheFrameComesBackWhereItStood)
 {
     velara::Setup setup;
+    QWidget first, again, changed, second;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    placeFrame(first, setup);
+    EXPECT_EQ(first.size(), screen.size() * 3 / 4);
     setup.FrameWidth = 480 * 15;
     setup.FrameHeight = 360 * 15;
-    QWidget first, again, changed;
     placeFrame(first, setup);
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_LE((first.geometry().center() - screen.center()).manhattanLength(), 2) << "in the middle the first time";
     first.move(37, 52);
     placeFrame(again, setup, first.saveGeometry());
@@ -514,6 +516,10 @@ TEST(StartTest, TheFrameComesBackWhereItStood)
     placeFrame(changed, setup, first.saveGeometry());
     EXPECT_TRUE(changed.isMaximized());
     EXPECT_EQ(changed.normalGeometry(), QRect(37, 52, 500, 360)) << "the size is the configuration's to say";
+    placeFrame(second, setup, first.saveGeometry(), true);
+    EXPECT_FALSE(second.isMaximized());
+    EXPECT_GE(second.y(), 52 + second.style()->pixelMetric(QStyle::PM_TitleBarHeight)) << "below the other's title";
+    EXPECT_TRUE(screen.contains(second.geometry()));
     first.move(screen.right() - 420, 52);
     QWidget large;
     placeFrame(large, setup, first.saveGeometry());

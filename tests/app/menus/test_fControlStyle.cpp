@@ -1,5 +1,7 @@
 // What must be distinguishable on a dark background, checked pixel by pixel.
 #include "app/menus/fControlStyle.h"
+#include "app/menus/fIcons.h"
+#include "app/menus/menus.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
@@ -96,6 +98,70 @@ TEST_F(ControlStyle, ACheckedToolButtonIsTintedAndOneThatIsDisabledIsNot)
     const int plain = width();
     button.features = QStyleOptionToolButton::HasMenu;
     EXPECT_GT(width(), plain + 12) << "the arrow of a menu stands beside the caption";
+}
+
+TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
+{
+    QPalette light(QColor(239, 239, 239));
+    light.setColor(QPalette::Highlight, QColor(48, 140, 198));
+    light.setColor(QPalette::HighlightedText, Qt::white);
+    light.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    dark.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    for (QPalette* palette : {&light, &dark}) {
+        style.polish(*palette);
+        const auto read = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
+            return fControlStyle::contrast(palette->color(text), palette->color(ground));
+        };
+        EXPECT_GE(read(QPalette::HighlightedText, QPalette::Highlight), 4.5);
+        EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Window), 4.5);
+        EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Base), 4.5);
+        QStyleOptionFrame box;
+        box.rect = QRect(0, 0, 30, 20);
+        box.palette = *palette;
+        const auto inside = [&](QStyle::State state) {
+            QImage image(30, 20, QImage::Format_RGB32);
+            QPainter painter(&image);
+            box.state = QStyle::State_Enabled | state;
+            style.drawPrimitive(QStyle::PE_PanelLineEdit, &box, &painter, nullptr);
+            return image.pixelColor(15, 10);
+        };
+        EXPECT_EQ(inside(QStyle::State_None), palette->color(QPalette::Base));
+        EXPECT_EQ(inside(QStyle::State_ReadOnly), palette->color(QPalette::Window));
+    }
+    EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, nullptr, nullptr), 0);
+}
+
+TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
+{
+    useResources();
+    useIconTheme();
+    for (const QColor& ground : {QColor(239, 239, 239), QColor(49, 54, 59)})
+        for (const NamedItem& item : namedItems())
+            for (const int side : {16, 22}) {
+                const QIcon icon = iconOf(item.row->word);
+                if (icon.isNull() || !pictureOf(item.row->word).starts_with(':'))
+                    continue; // the theme has two variants
+                QImage shown(side, side, QImage::Format_RGB32);
+                shown.fill(ground);
+                QPainter painter(&shown);
+                icon.paint(&painter, shown.rect());
+                painter.end();
+                double most = 1;
+                for (int i = 0; i < side * side; ++i)
+                    most = std::max(most, fControlStyle::contrast(shown.pixelColor(i % side, i / side), ground));
+                EXPECT_GE(most, 3) << item.name.toStdString() << ", " << side << " pixels";
+            }
+}
+
+// At one and a half, the theme's own choice would be the drawing for half the pixels.
+TEST_F(ControlStyle, AnIconIsTheSameDrawingAtEveryScale)
+{
+    useIconTheme();
+    const QIcon icon = themeIcon("document-save");
+    const QImage larger = icon.pixmap(QSize(22, 22), 1.5).toImage();
+    EXPECT_EQ(larger.size(), QSize(33, 33));
+    EXPECT_EQ(icon.pixmap(QSize(22, 22), 3).toImage(), icon.pixmap(QSize(66, 66), 1).toImage());
+    EXPECT_NE(icon.pixmap(QSize(16, 16), 1.5).toImage(), icon.pixmap(QSize(24, 24), 1).toImage()) << "that of menus";
 }
 
 } // namespace velara

@@ -88,7 +88,9 @@ TEST_F(MenuStyleTest, ASelectedItemRaisesAFrameAroundItsPictureAndASeparatorIsOn
     EXPECT_EQ("H", painted({}, true, kNormal, {{0, 10}}));
     EXPECT_EQ("WLpDWH", painted(picture(), true, kNormal, {{0, 10}, {1, 10}, {12, 10}, {21, 10}, {22, 10}, {23, 10}}));
     EXPECT_EQ("WW", painted(picture(), false, kNormal, {{1, 10}, {60, 10}}));
+    EXPECT_EQ("LDDW", painted(picture(), true, kNormal, {{1, 19}, {2, 19}, {21, 19}, {22, 19}})) << "to the last row";
     EXPECT_EQ("WDLW", painted({}, false, kLine, {{70, 1}, {70, 2}, {70, 3}, {70, 4}}));
+    EXPECT_EQ("DDDLL", painted({}, false, kLine, {{0, 2}, {0, 3}, {138, 2}, {139, 2}, {1, 3}})) << "from edge to edge";
 }
 
 } // namespace velara

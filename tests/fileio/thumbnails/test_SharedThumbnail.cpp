@@ -71,7 +71,7 @@ TEST_F(SharedThumbnails, NothingIsWrittenForFilesInTheMakingEntriesAndLockedCach
     touchFile(entry, QDateTime::fromSecsSinceEpoch(1'700'000'000));
     SharedThumbnail(entry).write(red(), {128, 64});
     EXPECT_EQ(SharedThumbnail(entry).entries(), QStringList());
-    EXPECT_EQ(QDir(path("cache/thumbnails/normal")).entryList(QDir::Files).size(), 1) << "no strays";
+    EXPECT_EQ(QDir(path("cache/thumbnails/large")).entryList(QDir::Files).size(), 1) << "no strays";
 }
 
 } // namespace velara

@@ -1,10 +1,10 @@
 // The browser, its preview and its thumbnails, with real folders and previews that arrive when the test says so.
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "support/RecordingPlatform.h"
 #include "support/ui/WindowTest.h"
 #include "ui/browse/fAssociation.h"
 #include "ui/browse/fBrowse.h"
 #include "ui/browse/mBrowseFolder.h"
-#include "ui/widgets/ThumbnailIcons.h"
 #include "ui/widgets/fFolderTree.h"
 
 namespace velara {
@@ -130,6 +130,35 @@ TEST_F(Browser, ThumbnailsStandBeforeTheNames)
     EXPECT_EQ(std::ranges::count(previews().asked, "thumbnail " + at("notes.txt")), 0);
 }
 
+TEST_F(Browser, TheGridShowsTheFolderAndLastFoldersAreKept)
+{
+    QFile(at("folder.png/inner.gif")).open(QFile::WriteOnly);
+    show(BrowseMode::Pictures, at("a.png"));
+    auto* grid = find<QListView>("grid");
+    EXPECT_EQ(grid->rootIndex().data(), QFileInfo(top.path()).fileName());
+    EXPECT_EQ(grid->currentIndex().data(), "a.png");
+    QTest::keyClick(grid, Qt::Key_End);
+    EXPECT_EQ(tree().path(), at("notes.txt")) << "the tree and the preview follow";
+    tree().setFocus();
+    tree().select(at("folder.png"));
+    EXPECT_EQ(grid->rootIndex().data(), "folder.png");
+    tree().select(at("a.png"));
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Home);
+    EXPECT_EQ(tree().path(), at("folder.png"));
+    EXPECT_EQ(grid->rootIndex().data(), QFileInfo(top.path()).fileName()) << "arrows stay in the folder";
+    emit grid->activated(grid->currentIndex());
+    EXPECT_EQ(grid->rootIndex().data(), "folder.png");
+    emit grid->activated(grid->model()->index(0, 0, grid->rootIndex()));
+    EXPECT_EQ(opened, QStringList(at("folder.png/inner.gif")));
+
+    show(BrowseMode::Pictures, at("a.png"));
+    choose("cboLast", at("folder.png"));
+    EXPECT_EQ(tree().path(), at("folder.png"));
+    click("CmdHome");
+    EXPECT_EQ(tree().path(), QDir::homePath());
+}
+
 TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
 {
     RecordingPreviews previews;
@@ -144,6 +173,16 @@ TEST(ThumbnailIcons, WaitForNoMoreThanAScreenful)
     EXPECT_TRUE(previews.answer("thumbnail 0.png", {{}, {}, "broken"}));
     EXPECT_EQ(ready, QStringList({"499.png", "0.png"}));
     EXPECT_EQ(previews.asked.size(), 501u);
+}
+
+TEST(ThumbnailIcons, AreSharpAtDoubleSizeAndKeepTheirColoursInAChosenRow)
+{
+    QImage stripes(124, 124, QImage::Format_RGB32); // as many as the box has pixels then, within its frame
+    for (int i = 0; i < 124 * 124; ++i) stripes.setPixel(i % 124, i / 124, i % 2 ? 0xFFFFFF : 0);
+    const QIcon icon = thumbnailIcon(stripes, {64, 64});
+    const QImage twice = icon.pixmap(QSize(64, 64), 2).toImage();
+    for (int x = 20; x < 100; ++x) EXPECT_EQ(twice.pixel(x, 60) & 1, x % 2);
+    EXPECT_EQ(icon.pixmap(QSize(64, 64), 2, QIcon::Selected).toImage(), twice);
 }
 
 TEST_F(Browser, FolderDialogAnswersWithTextAndAssociationsDoNothing)

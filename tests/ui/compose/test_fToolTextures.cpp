@@ -124,6 +124,15 @@ TEST_F(TexturesBoxTest, WhatFitsAtNoSizeIsSaidOnce)
     EXPECT_EQ(2, told());
 }
 
+TEST_F(TexturesBoxTest, FontsOfSymbolsComeLast)
+{
+    frame.platform_.recordingFonts.families = {{"Dingbats", {}}, {"Fixed", {"Latin"}}, {"Other", {"Thai"}}};
+    show(0);
+    const auto* list = find<QComboBox>("cboFont");
+    EXPECT_EQ(list->findText("Dingbats"), list->count() - 1);
+    EXPECT_EQ(list->itemText(list->count() - 2), "Other");
+}
+
 TEST_F(TexturesBoxTest, WithoutFontInformationItSaysSo)
 {
     frame.platform_.recordingFonts.families.reset();

@@ -32,7 +32,7 @@ class RememberedDialog : public QFileDialog {
     {
         setObjectName(name == "Folder" ? "folderDialog" : "fileDialog");
         setOption(DontUseNativeDialog);
-        setItemDelegate(new NameDelegate(this));
+        showThumbnails();
         setSidebarUrls(places());
         restore(folder.trimmed());
     }
@@ -43,6 +43,17 @@ class RememberedDialog : public QFileDialog {
     }
 
   private:
+    void showThumbnails()
+    {
+        constexpr int kSide = 32;
+        auto* icons = new ThumbnailIcons(platform_.previews(), kSide, this);
+        setItemDelegate(new NameDelegate(this, icons));
+        for (const char* name : {"listView", "treeView"})
+            if (auto* list = findChild<QAbstractItemView*>(QLatin1String(name))) {
+                list->setIconSize({kSide, kSide});
+                connect(icons, &ThumbnailIcons::ready, list->viewport(), qOverload<>(&QWidget::update));
+            }
+    }
     void restore(const QString& folder)
     {
         const QStringList parts = platform_.setting(kSection, name_, {}).split(' ');

@@ -1,4 +1,4 @@
-#include "ui/widgets/ThumbnailIcons.h"
+#include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
@@ -7,37 +7,39 @@ namespace velara {
 
 namespace {
 
-constexpr int kKept = 1000;      // icons: a few megabytes
+constexpr int kKept = 24 << 10;  // kilobytes of icons
 constexpr int kMostWaiting = 64; // more than a screen shows
 constexpr int kSharpness = 2;    // device pixels per logical pixel, at most
 
-QPixmap surface(int side)
+} // namespace
+
+QIcon thumbnailIcon(const QImage& image, QSize box)
 {
-    QPixmap pixmap(side * kSharpness, side * kSharpness);
+    QPixmap pixmap(box * kSharpness);
     pixmap.setDevicePixelRatio(kSharpness);
     pixmap.fill(Qt::transparent);
-    return pixmap;
-}
-
-QIcon framed(const QImage& image, int side)
-{
-    QPixmap pixmap = surface(side);
     QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QSize room(side - 2, side - 2);
+    const QSize room = box - QSize(2, 2);
     QSizeF size = image.size();
     if (size.width() > room.width() || size.height() > room.height()) size.scale(room, Qt::KeepAspectRatio);
     size = size.expandedTo({1, 1});
-    const QRectF place({(side - size.width()) / 2, (side - size.height()) / 2}, size);
-    painter.drawImage(place, image);
+    const QRectF place({(box.width() - size.width()) / 2, (box.height() - size.height()) / 2}, size);
+    const QSize pixels = (size * kSharpness).toSize();
+    const bool shrinks = image.width() > pixels.width();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, shrinks ? image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image);
     painter.setPen(QPen(QColor(128, 128, 128, 160), 0.5));
-    painter.drawRect(place);
-    QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected); // keeps its colours when selected
-    return icon;
+    if (!image.isNull()) painter.drawRect(place);
+    painter.end();
+    return untinted(pixmap);
 }
 
-} // namespace
+QIcon untinted(const QPixmap& pixmap)
+{
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
+}
 
 ThumbnailIcons::ThumbnailIcons(Previews& previews, int side, QObject* parent)
     : QObject(parent), previews_(previews), side_(side),
@@ -60,7 +62,9 @@ QIcon ThumbnailIcons::icon(const QString& path)
 
 void ThumbnailIcons::answered(const QString& path, const Preview& preview)
 {
-    icons_.insert(path, new QIcon(preview.image.isNull() ? broken_ : framed(preview.image, side_)));
+    const int kilobytes = 1 + side_ * side_ * kSharpness * kSharpness * 4 / 1024;
+    icons_.insert(path, new QIcon(preview.image.isNull() ? broken_ : thumbnailIcon(preview.image, {side_, side_})),
+                  kilobytes);
     waiting_.remove_if([&](const Waiting& each) { return each.path == path; });
     emit ready(path);
 }

@@ -9,6 +9,12 @@
 
 namespace velara {
 
+/// A picture in the middle of a box of this size in a list, thinly framed, never enlarged; null: an empty box. Sharp on
+/// screens of double size, where the image has the pixels.
+QIcon thumbnailIcon(const QImage& image, QSize box);
+/// An icon that keeps its colours in a chosen row.
+QIcon untinted(const QPixmap& pixmap);
+
 class ThumbnailIcons final : public QObject {
     Q_OBJECT
   public:

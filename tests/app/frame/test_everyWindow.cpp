@@ -1,0 +1,114 @@
+// Every window that the menus open, the panes and the boxes: controls have names for screen readers, nothing shows raw
+// markup, and every item of a menu has an access key.
+#include "app/frame/frameTest.h"
+#include "app/menus/Boxes.h"
+#include <QRegularExpression>
+#include <QtWidgets>
+
+namespace velara {
+
+namespace {
+
+struct EveryWindow : FrameTest {
+    QSet<QString> seen; // the windows looked at
+    QStringList unnamed, marked;
+
+    static bool isA(const QWidget* widget, std::initializer_list<const char*> classes)
+    {
+        return widget && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
+    }
+    static bool isControl(const QWidget& widget) // of our own, and not a part of one of Qt's
+    {
+        const QWidget* owner = widget.parentWidget();
+        return (isA(&widget, {"QAbstractButton", "QAbstractSlider", "QAbstractItemView"}) ||
+                (widget.focusPolicy() & Qt::TabFocus)) &&
+               !widget.objectName().startsWith("qt_") && !(owner && owner->objectName().startsWith("qt_")) &&
+               !isA(owner, {"QAbstractSpinBox", "QComboBox", "QLineEdit", "QTabBar", "QComboBoxPrivateContainer"}) &&
+               !isA(&widget, {"QHeaderView", "QTabBar", "QComboBoxPrivateContainer"});
+    }
+    static bool isNamed(const QWidget& control)
+    {
+        const auto labels = control.window()->findChildren<QLabel*>();
+        const bool isButton = qobject_cast<const QAbstractButton*>(&control);
+        return !control.accessibleName().isEmpty() || !control.windowTitle().isEmpty() ||
+               (isButton && !control.property("text").toString().isEmpty()) ||
+               std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &control; });
+    }
+    void read(const QObject& object)
+    {
+        static const QRegularExpression markup("</?[a-zA-Z][^<>]*>|&(amp|lt|gt|nbsp);");
+        const auto* label = qobject_cast<const QLabel*>(&object);
+        if (label && label->textFormat() == Qt::RichText) return;
+        for (const char* property : {"windowTitle", "text", "title", "toolTip", "placeholderText", "statusTip"})
+            if (const QString shown = object.property(property).toString(); markup.match(shown).hasMatch())
+                marked << object.objectName() + ": " + shown;
+    }
+    void look(QWidget& window)
+    {
+        seen << window.objectName() + window.windowTitle();
+        QList<QWidget*> all = window.findChildren<QWidget*>();
+        all << &window;
+        for (const QWidget* widget : all) {
+            read(*widget);
+            for (const QAction* action : widget->actions()) read(*action);
+            if (isControl(*widget) && !isNamed(*widget))
+                unnamed << window.objectName() + ": " + widget->metaObject()->className() + ' ' + widget->objectName();
+        }
+    }
+    /// Looks at the windows over the frame and closes them. \returns whether there was one
+    bool lookAndClose()
+    {
+        bool any = false;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window == frame.get() || !window->isVisible() || qobject_cast<QMenu*>(window)) continue;
+            look(*window);
+            window->close();
+            any = true;
+        }
+        return any;
+    }
+};
+
+} // namespace
+
+TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
+{
+    frame->initToolPanes();
+    open(randomBits(60, 40, 1));
+    frame->boxes().showAll();
+    for (QToolButton* strip : frame->toolPane().findChildren<QToolButton*>())
+        if (strip->isCheckable()) strip->click();
+    look(*frame);
+    QTimer timer; // comes in the middle of a modal window, too
+    QObject::connect(&timer, &QTimer::timeout, [this] { lookAndClose(); });
+    timer.start(1);
+    for (QAction* item : frame->findChildren<QAction*>()) {
+        if (!item->text().endsWith("...") && item->objectName() != "ABOUT_10") continue;
+        item->trigger();
+        frame->workspace().wait();
+        comes([&] { return !lookAndClose(); });
+    }
+    timer.stop();
+    EXPECT_GE(seen.size(), 35) << seen.values().join('\n').toStdString();
+    EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
+    EXPECT_TRUE(marked.isEmpty()) << marked.join('\n').toStdString();
+    for (const std::string& line : platform.log) EXPECT_EQ(line.find("</"), std::string::npos) << line;
+}
+
+TEST_F(EveryWindow, MenusHaveAKeyForEachItem)
+{
+    for (const QMenu* menu : frame->findChildren<QMenu*>()) {
+        QSet<QKeySequence> keys;
+        qsizetype items = 0;
+        for (const QAction* item : menu->actions()) {
+            if (item->isSeparator() || item->objectName().startsWith("RF_") || !menu->menuAction()->isVisible())
+                continue;
+            ++items;
+            keys << QKeySequence::mnemonic(item->text());
+        }
+        keys.remove({});
+        EXPECT_EQ(keys.size(), items) << menu->objectName().toStdString();
+    }
+}
+
+} // namespace velara
