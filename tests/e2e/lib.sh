@@ -160,6 +160,7 @@ stroke() {
 # open FILE: by the file dialog; waits for its window or for a message
 opened() { [ -n "$(find "$folder/Temp" -name 'b*00.dat' -size +0 -newer "$scratch/asked")" ] || ! count_titled 1; }
 open_file() {
+    until_true "the frame's keys" frame_has_keys
     brings 'Open file' ctrl+o
     touch "$scratch/asked"
     enter "$1"
@@ -169,6 +170,7 @@ open_file() {
 }
 
 save_as() {
+    until_true "the frame's keys" frame_has_keys # a box may have just closed
     brings 'Save as' ctrl+shift+s
     enter "$1"
     until_true "the saved file" test -s "$1"
