@@ -166,7 +166,7 @@ TEST_F(PictureLoader, LooksUpFromRowsThatKeepComing)
     const QString file = put("x.ppm", QByteArray(100000, 'x'));
     const QByteArray script = R"(
 opening(30000, 8000)
-for y in range(0, 8000, 2):
+for y in range(0, 4000, 2):
     s.send(struct.pack('<i', y))
     time.sleep(.004))";
     DecoderLimits shortTime, littleSleep;
