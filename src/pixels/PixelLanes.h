@@ -19,6 +19,8 @@ namespace detail {
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
 }
 
+/// The three channels as one number, without the fourth byte.
+inline std::uint32_t channelBits(const Pixel& p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
 inline __m128i inRegister(const Pixel& p) { return _mm_cvtsi32_si128(std::bit_cast<int>(p)); }
 inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(inRegister(p))); }
 /// Low byte of each lane.

@@ -58,7 +58,7 @@ void DotScreen::row(const Pixel* from, std::uint8_t* to, int width, int y)
     for (int x = 0; x < width; ++x, sequence += 3242174889U) {
         const Pixel p = from[x];
         if (hasOwn_[cellOf(p)])
-            if (const int own = nearest_(p); bytesOf(colours_[std::size_t(own)]) == bytesOf(p)) {
+            if (const int own = nearest_(p); channelBits(colours_[std::size_t(own)]) == channelBits(p)) {
                 to[x] = static_cast<std::uint8_t>(own);
                 continue;
             }
@@ -80,7 +80,7 @@ inline const DotScreen::Dots& DotScreen::between(Pixel p, unsigned up)
 
 inline const DotScreen::Dots& DotScreen::recent(Pixel p)
 {
-    const std::uint32_t colour = bytesOf(p);
+    const std::uint32_t colour = channelBits(p);
     Recent& recent = recent_[colour * 2654435769U >> (32 - kSlotBits)]; // golden ratio
     if (recent.colour != colour) [[unlikely]]
         recent = {colour, mix(p)};

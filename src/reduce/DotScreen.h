@@ -47,7 +47,6 @@ class DotScreen {
     Dots mix(Pixel p);
     const Dots& recent(Pixel p);
     const Dots& between(Pixel p, unsigned up);
-    static std::uint32_t bytesOf(Pixel p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
     static std::size_t cellOf(Pixel p) { return std::size_t(p.c[0] >> 2 | (p.c[1] >> 2) << 6 | (p.c[2] >> 2) << 12); }
 
     const DotMatrix& matrix_;

@@ -118,7 +118,7 @@ class Work {
         int count = 0;
         for (int y = 0; y < bits_.height() && count < kMany; ++y)
             for (int x = 0; x < bits_.width(); ++x) {
-                auto seen = known[std::bit_cast<std::uint32_t>(bits_.row(y)[x]) & 0xFFFFFF];
+                auto seen = known[channelBits(bits_.row(y)[x])];
                 count += !seen;
                 seen = true;
             }
@@ -138,10 +138,7 @@ class Work {
     {
         if (progress_ && y % 16 == 15) progress_(100 * y / bits_.height());
     }
-    static bool isSame(Pixel a, Pixel b)
-    {
-        return ((std::bit_cast<std::uint32_t>(a) ^ std::bit_cast<std::uint32_t>(b)) & 0xFFFFFF) == 0;
-    }
+    static bool isSame(Pixel a, Pixel b) { return channelBits(a) == channelBits(b); }
     /// The entry nearest to pixel plus error, and the new error. With an error, lookups are quantised to cubes of four
     /// levels: the loss is diffused with the rest, and the table stays in the cache. A plain place whose entry can't be
     /// told from it stays plain: no error comes in or goes out.

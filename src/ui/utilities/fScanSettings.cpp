@@ -35,12 +35,10 @@ fScanSettings::fScanSettings() : bed_(new fBed)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 6, 0, 6);
-    auto* left = new QVBoxLayout;
     cmdPreview_ = named(new QPushButton(tr("Pre&view")), "cmdPreview");
     cmdWhole_ = named(new QPushButton(tr("Whole &bed")), "cmdWhole");
     for (QPushButton* button : {cmdPreview_, cmdWhole_}) button->setAutoDefault(false);
-    left->addWidget(bed_);
-    row->addLayout(left);
+    row->addWidget(bed_);
     auto* right = new QVBoxLayout;
     auto* grid = new QGridLayout;
     addControls(*grid);
