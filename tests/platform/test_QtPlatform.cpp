@@ -140,6 +140,32 @@ TEST_F(QtPlatformTest, TheQuestionIsAboutTheFileThatIsWritten)
     }
 }
 
+// The name follows the chosen kind; another ending typed after that is asked about.
+TEST_F(QtPlatformTest, ANameOfAnotherKindIsMendedOrAskedAbout)
+{
+    FileDialog request{"Save as", "All|*.bmp;*.gif;*.png|Bmp|*.bmp|Png|*.png", folder.path(), {}, "png", "x.gif"};
+    for (const int choice : {0, 1, -1}) {
+        whenShown<QFileDialog>([&](QFileDialog& dialog) {
+            auto* field = dialog.findChild<QLineEdit*>("fileNameEdit");
+            EXPECT_EQ(field->text(), "x.gif");
+            dialog.selectNameFilter("Bmp (*.bmp)");
+            emit dialog.filterSelected("Bmp (*.bmp)");
+            EXPECT_EQ(field->text(), "x.bmp");
+            EXPECT_EQ(field->selectedText(), "x");
+            field->setText("y.png");
+            whenShown<QMessageBox>([&](QMessageBox& box) {
+                EXPECT_EQ(box.text(), "\"y.png\" has the ending of another kind of file.");
+                if (choice < 0) return box.reject();
+                box.buttons().at(choice)->click();
+            });
+            static_cast<QDialog&>(dialog).accept();
+            if (choice < 0) dialog.reject(); // it is still open
+        });
+        const auto name = platform.saveFileName(request);
+        EXPECT_EQ(name.value_or("").section('/', -1), choice == 0 ? "y.bmp" : choice == 1 ? "y.png" : "");
+    }
+}
+
 // It reopens with its last size, in the requested folder, and previews what is selected or typed.
 TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
 {

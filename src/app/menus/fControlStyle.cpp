@@ -67,6 +67,26 @@ void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QP
     }
 }
 
+/// The sign of a docked box's button: a cross, or two windows.
+QIcon dockSign(bool closes, const QColor& colour)
+{
+    constexpr int kSide = 10, kSharpness = 2;
+    QPixmap sign(QSize(kSide, kSide) * kSharpness);
+    sign.setDevicePixelRatio(kSharpness);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    painter.setPen(QPen(colour, 1.5));
+    if (closes) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawLine(QPointF(1.5, 1.5), QPointF(8.5, 8.5));
+        painter.drawLine(QPointF(8.5, 1.5), QPointF(1.5, 8.5));
+    } else {
+        painter.drawRect(QRectF(1, 4, 5, 5));
+        painter.drawPolyline(QPolygonF({{4, 1.5}, {8.5, 1.5}, {8.5, 6}}));
+    }
+    return QIcon(sign);
+}
+
 } // namespace
 
 double fControlStyle::contrast(const QColor& one, const QColor& other)
@@ -174,6 +194,14 @@ QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         button->features & QStyleOptionToolButton::MenuButtonPopup)
         return whole;
     return whole + QSize(2 * pixelMetric(PM_MenuButtonIndicator, option, widget), 0); // it is centred
+}
+
+QIcon fControlStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    const bool floats = icon == SP_TitleBarNormalButton, closes = icon == SP_TitleBarCloseButton;
+    if (!(floats || closes) || !widget || !mends(widget->palette()))
+        return QProxyStyle::standardIcon(icon, option, widget);
+    return dockSign(closes, widget->palette().color(QPalette::WindowText));
 }
 
 QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const

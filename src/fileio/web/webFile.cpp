@@ -96,6 +96,13 @@ Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& pi
 
 } // namespace
 
+ReduceProgress untilGivenUp(const GoOn& goOn)
+{
+    return [&goOn](int) {
+        if (!goOn({})) throw Cancelled();
+    };
+}
+
 WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QString& name, OutputFile::Links links,
                      const ReduceProgress& progress, BestPalettes* known)
 {

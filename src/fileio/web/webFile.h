@@ -1,6 +1,7 @@
 // Writes the file of "Save for Web".
 #pragma once
 #include "fileio/web/WebSettings.h"
+#include "seams/GoOn.h"
 
 namespace velara {
 
@@ -15,6 +16,9 @@ struct WebFile {
     std::int64_t bytes = 0;
     Bits source; // the picture after flips and inversion, to compare the file with
 };
+
+/// Progress that throws Cancelled when work in the background is given up; for as long as goOn stands.
+ReduceProgress untilGivenUp(const GoOn& goOn);
 
 /// progress is called while colours are reduced and while the file is written. known: palettes made earlier for this
 /// picture, so that a change of the dither alone is shown at once.

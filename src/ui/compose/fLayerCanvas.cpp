@@ -69,12 +69,6 @@ class Surface final : public QWidget {
     int index_;
 };
 
-void paintGrip(QPainter& painter, const QRect& rect)
-{
-    painter.fillRect(rect, Qt::black);
-    painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
-}
-
 void paintCaret(QPainter& painter, const QRect& rect)
 {
     painter.fillRect(rect, Qt::white);

@@ -2,7 +2,6 @@
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
 #include "fileio/formats.h"
-#include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include "ui/export/fWebTable.h"
@@ -182,13 +181,6 @@ struct FWeb::Written {
 };
 
 namespace {
-
-ReduceProgress untilGivenUp(const GoOn& goOn)
-{
-    return [&goOn](int) {
-        if (!goOn({})) throw Cancelled();
-    };
-}
 
 bool keptItsSize(const Bits& picture, const Bits& shown)
 {

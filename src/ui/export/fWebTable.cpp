@@ -1,5 +1,4 @@
 #include "ui/export/fWebTable.h"
-#include "pixels/RuntimeError.h"
 #include "seams/Platform.h"
 #include "ui/widgets/inputs/named.h"
 #include <QDialogButtonBox>
@@ -86,11 +85,8 @@ void fWebTable::next()
     row->settings.choosePreset(done_, false);
     row->name = temporaryName_ + u'.' + row->settings.extension();
     const auto does = [row, picture = picture_, palettes = palettes_, &reader = platform_](const GoOn& goOn) {
-        const ReduceProgress untilGivenUp = [&goOn](int) {
-            if (!goOn({})) throw Cancelled();
-        };
-        row->file =
-            writeWebFile(picture, row->settings, row->name, OutputFile::Links::Replace, untilGivenUp, palettes.get());
+        row->file = writeWebFile(picture, row->settings, row->name, OutputFile::Links::Replace, untilGivenUp(goOn),
+                                 palettes.get());
         if (row->file.outcome == WebFile::Outcome::Written) {
             const Bits shown = reader.loadPicture(row->name, row->settings.extension(), goOn).bits;
             row->isComplete = shown.width() == picture.width() && shown.height() == picture.height();

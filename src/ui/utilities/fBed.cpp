@@ -69,8 +69,7 @@ int fBed::holdAt(QPointF position) const
 {
     const QRectF box = onSurface(area_);
     for (int i = 0; i < int(std::size(kGrips)); ++i) {
-        const QPointF grip = box.center() + QPointF(kGrips[i].across * box.width(), kGrips[i].down * box.height()) / 2;
-        if ((grip - position).manhattanLength() <= kGripSide) return i;
+        if ((gripBox(box, kGrips[i]).center() - position).manhattanLength() <= kGripSide) return i;
     }
     return box.contains(position) && area_.size() != bed_ ? kInside : kNew;
 }
@@ -90,7 +89,7 @@ QRectF fBed::dragged(QPointF to) const
                     between(0, area.top(), bed.height() - area.height()));
         return area;
     }
-    const auto& grip = kGrips[hold_];
+    const Grip& grip = kGrips[hold_];
     if (grip.across < 0) area.setLeft(between(0, area.left() + by.x(), area.right() - kLeast));
     if (grip.across > 0) area.setRight(between(area.left() + kLeast, area.right() + by.x(), bed.width()));
     if (grip.down < 0) area.setTop(between(0, area.top() + by.y(), area.bottom() - kLeast));
@@ -145,12 +144,7 @@ void fBed::paintEvent(QPaintEvent*)
         painter.setPen(QPen(colour, 1, style));
         painter.drawRect(box.adjusted(0, 0, -1, -1));
     }
-    for (const auto& grip : kGrips) {
-        QRectF square(0, 0, kGripSide, kGripSide);
-        square.moveCenter(box.center() + QPointF(grip.across * box.width(), grip.down * box.height()) / 2);
-        painter.fillRect(square.toRect(), Qt::black);
-        painter.fillRect(square.toRect().adjusted(1, 1, -1, -1), Qt::white);
-    }
+    for (const Grip& grip : kGrips) paintGrip(painter, gripBox(box, grip));
 }
 
 } // namespace velara

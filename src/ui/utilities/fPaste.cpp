@@ -1,6 +1,8 @@
 #include "ui/utilities/fPaste.h"
 #include "document/Document.h"
 #include "document/road/Frame.h"
+#include "pixels/fitSize.h"
+#include "pixels/images.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
 #include "seams/sizeText.h"
@@ -11,34 +13,68 @@
 #include <QEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
+#include <algorithm>
 
 namespace velara {
 
 namespace {
 
 constexpr QSize kThumbnail{39, 31};
+constexpr int kSharpness = 2; // pixels of a thumbnail per logical pixel, at most
+constexpr int kSamples = 4;   // pixels of a clip that are averaged, in each direction
 constexpr int kSlotsInView = 5;
 
 QString sizeOfClip(const Bits& bits) { return sizeText({bits.width(), bits.height()}); }
 
-/// Shows unselected pixels in the background colour: in the clip they are black.
-Bits overGround(const Bits& clip, const QColor& ground)
+/// Unselected pixels, black in the clip, are of the background colour.
+Bits thumbnailOf(const Bits& clip, const QColor& ground)
 {
+    const QSize box = kThumbnail * kSharpness, dense = box * kSamples;
+    const int step = std::max(1, std::min(clip.width() / dense.width(), clip.height() / dense.height()));
     const Pixel colour = {{std::uint8_t(ground.blue()), std::uint8_t(ground.green()), std::uint8_t(ground.red()), 0}};
-    Bits shown = clip;
-    for (int y = 0; y < shown.height(); ++y) {
-        Pixel* row = shown.row(y);
-        for (int x = 0; x < shown.width(); ++x)
-            if (row[x].c[3] == 255) row[x] = colour;
+    Bits thinned((clip.width() + step - 1) / step, (clip.height() + step - 1) / step);
+    for (int y = 0; y < thinned.height(); ++y) {
+        const Pixel* from = clip.row(y * step);
+        Pixel* to = thinned.row(y);
+        for (int x = 0; x < thinned.width(); ++x) to[x] = from[x * step].c[3] == 255 ? colour : from[x * step];
     }
-    return shown;
+    return fittingCopy(thinned, box);
 }
 
-Bits thumbnailOf(const Bits& clip, const QColor& ground) { return fittingCopy(overGround(clip, ground), kThumbnail); }
+/// A thumbnail, centred, with a screen pixel for each of its own where the screen has so many.
+class ClipPicture final : public QWidget {
+  public:
+    explicit ClipPicture(const QString& name)
+    {
+        named(this, name, fPaste::tr("Picture of the clip"));
+        setFixedSize(kThumbnail);
+    }
+    void setBits(const Bits& bits)
+    {
+        bits_ = bits;
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().color(QPalette::Mid));
+        if (bits_.isNull()) return;
+        QRect place({}, fitSize({bits_.width(), bits_.height()}, kThumbnail).expandedTo({1, 1}));
+        place.moveCenter(rect().center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(place, imageOver(bits_));
+    }
+
+  private:
+    Bits bits_;
+};
 
 } // namespace
 
@@ -95,7 +131,7 @@ fPaste::Slot fPaste::makeSlot(int index)
     panel->setFrameShape(QFrame::StyledPanel);
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(3, 3, 3, 3);
-    auto* picture = new fPicture("pT" + number, tr("Picture of the clip"), kThumbnail);
+    auto* picture = new ClipPicture("pT" + number);
     auto* button = named(new QPushButton, "BT" + number);
     button->setMinimumWidth(button->fontMetrics().horizontalAdvance("    Clip 0000  "));
     auto* size = named(new QLabel, "lblSize" + number);
@@ -104,7 +140,7 @@ fPaste::Slot fPaste::makeSlot(int index)
     row->addWidget(button, 1);
     row->addWidget(size);
     connect(button, &QPushButton::clicked, this, [this, index] { paste(index); });
-    return {panel, picture, button, size};
+    return {panel, [picture](const Bits& bits) { picture->setBits(bits); }, button, size};
 }
 
 QWidget* fPaste::makeOpacity()
@@ -169,7 +205,7 @@ void fPaste::showClips()
         slot.size->setText(clip ? sizeOfClip(clip->bits) : QString());
         slot.BT->setToolTip(clip ? "Clip History: \n" + sizeOfClip(clip->bits) : QString());
         slot.BT->setAccessibleDescription(slot.size->text());
-        slot.pT->setBits(clip ? thumbnail(*clip) : Bits());
+        slot.setThumbnail(clip ? thumbnail(*clip) : Bits());
         if (clip) lstImages_->addItem(caption);
     }
 }

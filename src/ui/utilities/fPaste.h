@@ -16,7 +16,6 @@ class QSlider;
 namespace velara {
 
 class Document;
-class fPicture;
 class Frame;
 
 class fPaste final : public QWidget {
@@ -50,7 +49,7 @@ class fPaste final : public QWidget {
   private:
     struct Slot {
         QWidget* pc;
-        fPicture* pT;
+        std::function<void(const Bits&)> setThumbnail;
         QPushButton* BT;
         QLabel* size;
     };

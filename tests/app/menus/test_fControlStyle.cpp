@@ -41,6 +41,16 @@ struct ControlStyle : ::testing::Test {
     }
 };
 
+TEST_F(ControlStyle, ButtonsOfDockedBoxesAreSeenOnADarkGround)
+{
+    QDockWidget box;
+    box.setPalette(dark);
+    for (const auto icon : {QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton}) {
+        const QPixmap sign = style.standardIcon(icon, nullptr, &box).pixmap(10, 10);
+        EXPECT_GT(contrast([&](QPainter& p) { p.drawPixmap(4, 4, sign); }), 120) << icon;
+    }
+}
+
 TEST_F(ControlStyle, UncheckedBoxesAndHandlesAreSeenOnADarkGround)
 {
     for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton})

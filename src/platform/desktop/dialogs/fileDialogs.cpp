@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/fileDialogs.h"
+#include "fileio/formats.h"
 #include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/boxes.h"
@@ -105,37 +106,83 @@ class PictureDialog : public RememberedDialog {
     }
 };
 
-/// Asks about the file that will really be written, whose name may differ from the chosen one.
+/// A name follows the chosen kind of file, and is asked about where it has the ending of another. Asks before replacing
+/// the file that will really be written, whose name may differ from the chosen one.
 class SaveDialog final : public PictureDialog {
   public:
     SaveDialog(Platform& platform, const FileDialog& request)
-        : PictureDialog(platform, "Save", request), writtenAs_(request.writtenAs)
+        : PictureDialog(platform, "Save", request), request_(request)
     {
         setOption(DontConfirmOverwrite);
-    }
-    void propose(const QString& name)
-    {
-        selectFile(directory().filePath(name));
-        auto* field = findChild<QLineEdit*>("fileNameEdit");
-        if (!field) return;
-        field->setFocus();
-        // The dialog selects everything as it shows.
-        QTimer::singleShot(
-            0, field, [field, stem = int(QFileInfo(name).completeBaseName().size())] { field->setSelection(0, stem); });
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setDefaultSuffix(suffix());
+        connect(this, &QFileDialog::filterSelected, this, &SaveDialog::followKind);
+        if (!request.name.isEmpty()) propose(request.name);
     }
     void accept() override
     {
+        const QPointer<SaveDialog> alive = this; // its parent may be deleted during a question
         const QString name = selectedFiles().value(0);
-        const QFileInfo written(writtenAs_ ? writtenAs_(name) : name);
-        const bool replaces = !name.isEmpty() && !QFileInfo(name).isDir() && written.exists();
-        if (replaces && showBox(windowTitle(), written.fileName() + tr(" already exists.\nDo you want to replace it?"),
-                                Icon::Exclamation, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
-            return;
+        const bool isFile = !name.isEmpty() && !QFileInfo(name).isDir();
+        if (isFile && !(endingIsRight(name) && mayBeReplaced())) return;
+        if (!alive) return;
         QFileDialog::accept();
     }
 
   private:
-    std::function<QString(const QString&)> writtenAs_;
+    QLineEdit* field() const { return findChild<QLineEdit*>("fileNameEdit"); }
+    QString suffix(const QString& preferred) const
+    {
+        return suffixFor(request_.filter, selectedNameFilter(), preferred);
+    }
+    QString suffix() const { return suffix(request_.extension); }
+    /// The name under the ending of the chosen kind; itself where it has one of its endings, or none that is known.
+    QString fitting(const QString& name) const
+    {
+        const QString ending = extensionOf(name);
+        const bool fits = !formatOf(name) || suffix().isEmpty() || suffix(ending) == ending;
+        return fits ? name : withEnding(name, suffix());
+    }
+    void selectStem(const QString& name) { field()->setSelection(0, int(QFileInfo(name).completeBaseName().size())); }
+    void propose(const QString& name)
+    {
+        selectFile(directory().filePath(name));
+        if (!field()) return;
+        field()->setFocus();
+        QTimer::singleShot(0, this, [this, name] { selectStem(name); }); // the dialog selects everything as it shows
+    }
+    void followKind()
+    {
+        setDefaultSuffix(suffix());
+        if (!field()) return;
+        const QString name = fitting(field()->text());
+        if (name == field()->text()) return;
+        field()->setText(name);
+        selectStem(name);
+    }
+    QString writtenAs(const QString& name) const { return request_.writtenAs ? request_.writtenAs(name) : name; }
+    /// Asks where the file would be of another kind than the chosen one.
+    bool endingIsRight(const QString& name)
+    {
+        const QString other = QFileInfo(fitting(name)).fileName(), own = QFileInfo(name).fileName();
+        if (other == own || extensionOf(writtenAs(name)) != extensionOf(name)) return true;
+        const QPointer<SaveDialog> alive = this;
+        const int choice = showChoices(
+            windowTitle(), tr("\"%1\" has the ending of another kind of file.").arg(own),
+            {tr("Save as \"%1\"").arg(other).replace(u'&', "&&"), tr("Keep \"%1\"").arg(own).replace(u'&', "&&")});
+        if (alive && choice == 0) selectFile(other);
+        return alive && choice >= 0;
+    }
+    bool mayBeReplaced()
+    {
+        const QFileInfo written(writtenAs(selectedFiles().value(0)));
+        return !written.exists() ||
+               showBox(windowTitle(), written.fileName() + tr(" already exists.\nDo you want to replace it?"),
+                       Icon::Exclamation, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    }
+
+    const FileDialog request_;
 };
 
 std::optional<QString> run(QFileDialog* dialog)
@@ -160,16 +207,7 @@ std::optional<QString> askOpenName(Platform& platform, const FileDialog& request
 
 std::optional<QString> askSaveName(Platform& platform, const FileDialog& request)
 {
-    auto* dialog = new SaveDialog(platform, request);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    const auto giveSuffix = [dialog, request](const QString& filter) {
-        dialog->setDefaultSuffix(suffixFor(request.filter, filter, request.extension));
-    };
-    giveSuffix(dialog->selectedNameFilter());
-    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, giveSuffix);
-    if (!request.name.isEmpty()) dialog->propose(request.name);
-    return run(dialog);
+    return run(new SaveDialog(platform, request));
 }
 
 std::optional<QString> askFolder(Platform& platform, const QString& title, const QString& start)

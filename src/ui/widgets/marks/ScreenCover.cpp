@@ -1,6 +1,7 @@
 #include "ui/widgets/marks/ScreenCover.h"
 #include "pixels/images.h"
 #include "ui/widgets/marks/Mark.h"
+#include "ui/widgets/marks/grips.h"
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,32 +16,21 @@ namespace velara {
 
 namespace {
 
-constexpr int kLineWidth = 2, kGrip = 9;
+constexpr int kLineWidth = 2;
 constexpr QColor kShade(0, 0, 0, 110); // over what is outside
-constexpr std::array<ScreenCover::Sides, 8> kGripSides{ScreenCover::Left | ScreenCover::Top,     ScreenCover::Top,
-                                                       ScreenCover::Right | ScreenCover::Top,    ScreenCover::Right,
-                                                       ScreenCover::Right | ScreenCover::Bottom, ScreenCover::Bottom,
-                                                       ScreenCover::Left | ScreenCover::Bottom,  ScreenCover::Left};
+
+ScreenCover::Sides sidesOf(const Grip& grip)
+{
+    constexpr ScreenCover::Side across[] = {ScreenCover::Left, ScreenCover::None, ScreenCover::Right},
+                                down[] = {ScreenCover::Top, ScreenCover::None, ScreenCover::Bottom};
+    return across[grip.across + 1] | down[grip.down + 1];
+}
 
 Qt::CursorShape shapeOf(ScreenCover::Sides sides)
 {
-    switch (sides) {
-    case ScreenCover::None:
-        return Qt::CrossCursor;
-    case ScreenCover::Inside:
-        return Qt::SizeAllCursor;
-    case ScreenCover::Left:
-    case ScreenCover::Right:
-        return Qt::SizeHorCursor;
-    case ScreenCover::Top:
-    case ScreenCover::Bottom:
-        return Qt::SizeVerCursor;
-    case ScreenCover::Left | ScreenCover::Top:
-    case ScreenCover::Right | ScreenCover::Bottom:
-        return Qt::SizeFDiagCursor;
-    default:
-        return Qt::SizeBDiagCursor;
-    }
+    if (sides == ScreenCover::Inside) return Qt::SizeAllCursor;
+    const Grip* grip = std::ranges::find(kGrips, sides, sidesOf);
+    return grip == std::end(kGrips) ? Qt::CrossCursor : grip->pointer;
 }
 
 /// A line of the rectangle: dashes of black and white, visible on everything.
@@ -48,12 +38,6 @@ void paintLine(QPainter& painter, const QRect& rect)
 {
     painter.fillRect(rect, Qt::white);
     painter.fillRect(rect, QBrush(Qt::black, Qt::Dense4Pattern));
-}
-
-void paintGrip(QPainter& painter, const QRect& rect)
-{
-    painter.fillRect(rect, Qt::black);
-    painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
 }
 
 } // namespace
@@ -104,11 +88,7 @@ void CoverWindow::showRectangle(const QRect& rectangle)
         lines_[i]->setVisible(!rectangle.isEmpty());
     }
     for (std::size_t i = 0; i < grips_.size(); ++i) {
-        const auto across = [&](int low, int high, int from, int to) {
-            return kGripSides[i] & low ? from : kGripSides[i] & high ? to : (from + to) / 2;
-        };
-        grips_[i]->setGeometry(across(ScreenCover::Left, ScreenCover::Right, left, right) - kGrip / 2,
-                               across(ScreenCover::Top, ScreenCover::Bottom, top, bottom) - kGrip / 2, kGrip, kGrip);
+        grips_[i]->setGeometry(gripBox(QRect(left, top, right - left, bottom - top), kGrips[i]));
         grips_[i]->setVisible(cover_.hasGrips());
     }
     const QRect present = rectangle.isEmpty() ? QRect() : QRect(left, top, right - left, bottom - top);

@@ -37,7 +37,7 @@ class CoverWindow final : public QWidget {
     ScreenCover& cover_;
     ScreenPicture::Part part_;
     std::array<QWidget*, 4> lines_; // left, top, right, bottom
-    std::array<QWidget*, 8> grips_; // as in kGripSides
+    std::array<QWidget*, 8> grips_; // as in kGrips
     QRect box_;                     // of the rectangle
 };
 
