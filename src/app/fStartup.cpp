@@ -4,8 +4,8 @@
 #include "app/start/defaultPictures.h"
 #include "app/start/fSplash.h"
 #include "document/undo/UndoMark.h"
-#include "fileio/OutputFile.h"
 #include "fileio/SetupStore.h"
+#include "fileio/disk/OutputFile.h"
 #include "pixels/twips.h"
 #include <QApplication>
 #include <QBuffer>

@@ -1,7 +1,8 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/savePicture.h"
 #include <QCoreApplication>
@@ -35,8 +36,7 @@ QString fileOf(const QString& output)
 {
     const QString file = behindLinks(saveTargetOf(output).file);
     if (file.isEmpty()) throw cannotBeWritten(output, QStringLiteral("it is a link in a circle, or somebody else's"));
-    if (output.endsWith(u'/') || QFileInfo(file).isDir())
-        throw cannotBeWritten(output, QStringLiteral("it is a folder"));
+    if (output.endsWith(u'/') || isFolder(file)) throw cannotBeWritten(output, QStringLiteral("it is a folder"));
     return file;
 }
 
@@ -51,7 +51,7 @@ QString savedExtensions()
 void write(Session& session, const QString& output)
 {
     const QString file = fileOf(output);
-    const bool isNew = !QFileInfo::exists(file);
+    const bool isNew = !isThere(file);
     switch (session.save(output)) {
     case SaveResult::Written:
         return;
@@ -135,7 +135,9 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     limitMemory();
     try {
-        run(QCoreApplication::arguments().mid(1));
+        QStringList arguments;
+        for (int i = 1; i < argc; ++i) arguments << nameFrom(argv[i]);
+        run(arguments);
         return 0;
     } catch (const Failure& failure) {
         complain(failure.text);

@@ -1,6 +1,7 @@
 // Opening and saving: files are read and written by threads, one after the other.
 #include "document/Workspace.h"
 #include "document/WorkspacePlaces.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "seams/PictureReader.h"
 #include <QFileInfo>
@@ -23,7 +24,7 @@ struct Workspace::FileRead {
 
 void Workspace::FileRead::read(PictureReader& reader)
 try {
-    isThere = QFileInfo::exists(path);
+    isThere = velara::isThere(path);
     loaded = reader.loadPicture(path, extensionOf(path), [this](auto) { return !cancelled; });
 } catch (const std::bad_alloc&) {
     unreadable = Unreadable::Refused;

@@ -1,6 +1,6 @@
 // FreeImage's writers on our own files, which notice a full disk when the last bytes are flushed.
 #pragma once
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include <optional>
 
 struct FIBITMAP;

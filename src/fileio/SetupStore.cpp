@@ -1,5 +1,6 @@
 #include "fileio/SetupStore.h"
-#include "fileio/fileBytes.h"
+#include "fileio/disk/fileBytes.h"
+#include "fileio/disk/nativeName.h"
 #include "seams/Platform.h"
 #include <QFile>
 #include <algorithm>
@@ -40,7 +41,7 @@ void get(QString& value, const std::uint8_t* from, int width)
     const auto* text = reinterpret_cast<const char*>(from);
     auto length = static_cast<int>(strnlen(text, static_cast<std::size_t>(width)));
     while (length > 0 && text[length - 1] == ' ') --length;
-    value = QString::fromUtf8(text, length);
+    value = nameFrom({text, length});
 }
 
 /// A text that wasn't changed keeps its bytes: they may be in a foreign code page.
@@ -49,7 +50,7 @@ void put(const QString& value, std::uint8_t* to, int width)
     QString before;
     get(before, to, width);
     if (value == before && before.contains(QChar::ReplacementCharacter)) return;
-    const QByteArray text = wholeCharacters(value.toUtf8(), width);
+    const QByteArray text = wholeCharacters(nativeName(value), width);
     std::memset(to, ' ', static_cast<std::size_t>(width));
     std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));
 }

@@ -1,6 +1,6 @@
 // Writes a picture in the format of an extension, as the editor's save does.
 #pragma once
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include "pixels/Bits.h"
 #include "seams/Dialogs.h"
 #include <QString>

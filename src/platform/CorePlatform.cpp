@@ -1,4 +1,5 @@
 #include "platform/CorePlatform.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/load/PictureLoader.h"
 #include <QDir>
 #include <QFile>
@@ -103,7 +104,7 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
 
 LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn)
 {
-    return loadThroughDecoder(path, extension, decoder(), limitsFor(QFileInfo(path).size()), goOn);
+    return loadThroughDecoder(path, extension, decoder(), limitsFor(sizeOfFile(path)), goOn);
 }
 
 LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension,

@@ -1,4 +1,5 @@
 #include "platform/FilePreviews.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/thumbnails/SharedThumbnail.h"
@@ -14,7 +15,7 @@ using Clock = std::chrono::steady_clock;
 SmallPicture read(const QString& path, const QString& extension, QSize box, DecoderLimits limits, const GoOn& goOn)
 {
     static const QString decoder = findDecoder();
-    limits.cpuSeconds = std::min(limitsFor(QFileInfo(path).size()).cpuSeconds, limits.mostSeconds);
+    limits.cpuSeconds = std::min(limitsFor(sizeOfFile(path)).cpuSeconds, limits.mostSeconds);
     return loadSmall(path, extension, decoder, box, limits, goOn);
 }
 
@@ -44,7 +45,7 @@ Preview readThumbnail(const QString& path, std::chrono::seconds time, const GoOn
     const SmallPicture made = readInTime(path, extensionOf(path));
     if (made.reason.isEmpty())
         shared.write(made.image, made.size);
-    else if (made.image.isNull() && goOn({}) && Clock::now() < end && file.isReadable())
+    else if (made.image.isNull() && goOn({}) && Clock::now() < end && access(nativeName(path).constData(), R_OK) == 0)
         shared.writeFailure();
     return preview(made);
 }

@@ -1,5 +1,5 @@
 #include "fileio/SetupStore.h"
-#include "fileio/fileBytes.h"
+#include "fileio/disk/fileBytes.h"
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/fullDisk.h"

@@ -2,6 +2,7 @@
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "fileio/SetupStore.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Clipboard.h"
@@ -32,7 +33,8 @@ QStringList pathsOf(const QMimeData& data)
 {
     QStringList paths;
     for (const QUrl& url : data.urls())
-        if (url.isLocalFile()) paths << url.toLocalFile();
+        if (url.isLocalFile())
+            paths << nameFrom(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
     return paths;
 }
 
@@ -190,7 +192,7 @@ void fMain::FillRecent()
         QString& entry = setup_.Recent[std::size_t(i)];
         while (entry.endsWith(' ')) entry.chop(1);
         QAction* item = bars_->item("@RECENT", i);
-        const bool found = !entry.isEmpty() && QFileInfo::exists(entry);
+        const bool found = !entry.isEmpty() && isThere(entry);
         item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
         item->setEnabled(found || i == 0);
         item->setVisible(found || i == 0); // a lost file stays in the list, but has no line in the menu

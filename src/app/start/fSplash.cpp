@@ -1,7 +1,7 @@
 #include "app/start/fSplash.h"
 #include "app/start/defaultPictures.h"
 #include "app/start/fAboutFacts.h"
-#include "fileio/fileBytes.h"
+#include "fileio/disk/fileBytes.h"
 #include "seams/Platform.h"
 #include <QBuffer>
 #include <QMouseEvent>

@@ -1,5 +1,6 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
+#include "fileio/disk/nativeName.h"
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
@@ -129,7 +130,7 @@ void fStartPage::showRecent(const std::array<QString, 8>& recent)
 {
     std::vector<QString> found;
     for (const QString& path : recent)
-        if (!path.trimmed().isEmpty() && QFileInfo::exists(path.trimmed())) found.push_back(path.trimmed());
+        if (!path.trimmed().isEmpty() && isThere(path.trimmed())) found.push_back(path.trimmed());
     heading_->setVisible(!found.empty());
     list_->setVisible(!found.empty());
     if (found == shown_ && isVisible()) return;

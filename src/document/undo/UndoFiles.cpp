@@ -1,5 +1,5 @@
 #include "document/undo/UndoFiles.h"
-#include "fileio/fileBytes.h"
+#include "fileio/disk/fileBytes.h"
 #include <QFile>
 #include <array>
 #include <cstdio>

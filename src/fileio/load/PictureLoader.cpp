@@ -1,4 +1,5 @@
 #include "fileio/load/PictureLoader.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/load/Capacity.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
@@ -32,7 +33,7 @@ constexpr const char* kNonsense = "the program that reads pictures (velara-decod
 /// Opens the file for reading; reason says why starting a reader would be pointless.
 Descriptor openPicture(const QString& path, QString& reason)
 {
-    Descriptor file(open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    Descriptor file(open(nativeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (file.isOpen()) return file;
     if (errno == ENOENT || errno == ENOTDIR)
         reason = "there is no such file";

@@ -1,4 +1,5 @@
 #include "fileio/thumbnails/SharedThumbnail.h"
+#include "fileio/disk/nativeName.h"
 #include "seams/Dialogs.h"
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -30,7 +31,7 @@ bool makeFolder(const QString& path)
 
 QString fileUri(const QString& path)
 {
-    return QStringLiteral("file://") + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("!$&'()*+,/:=@"));
+    return QStringLiteral("file://") + QString::fromLatin1(nativeName(path).toPercentEncoding("!$&'()*+,/:=@"));
 }
 
 SharedThumbnail::SharedThumbnail(const QString& picture)
@@ -40,8 +41,9 @@ SharedThumbnail::SharedThumbnail(const QString& picture)
     picture_ = QDir::cleanPath(file.absoluteFilePath());
     uri_ = fileUri(picture_);
     name_ = QCryptographicHash::hash(uri_.toLatin1(), QCryptographicHash::Md5).toHex() + ".png";
-    modified_ = file.lastModified().toSecsSinceEpoch();
-    bytes_ = file.size();
+    const auto status = statusOf(picture);
+    modified_ = status ? std::int64_t{status->st_mtim.tv_sec} : 0;
+    bytes_ = status ? std::int64_t{status->st_size} : 0;
 }
 
 QStringList SharedThumbnail::entries() const

@@ -1,7 +1,7 @@
 // ColorReducer: takes a picture, flips or inverts it, reduces its colours and writes a bitmap or a GIF file. It is
 // above the folders that reduce and that write, since it does both.
 #pragma once
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include "reduce/reduceColours.h"
 #include <QString>
 #include <map>

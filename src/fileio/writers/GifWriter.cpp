@@ -1,5 +1,5 @@
 #include "fileio/writers/GifWriter.h"
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include <algorithm>
 #include <array>
 #include <gif_lib.h>

@@ -1,5 +1,5 @@
 #include "fileio/writers/PCX.h"
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include <QFile>
 #include <QFileInfo>
 #include <array>

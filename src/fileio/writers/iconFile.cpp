@@ -1,5 +1,5 @@
 #include "fileio/writers/iconFile.h"
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include <QDataStream>
 #include <QIODevice>
 #include <QPainter>

@@ -1,5 +1,5 @@
 #include "fileio/writers/pagePdf.h"
-#include "fileio/OutputFile.h"
+#include "fileio/disk/OutputFile.h"
 #include "pixels/images.h"
 #include "seams/Dialogs.h"
 #include <QIODevice>

@@ -1,4 +1,5 @@
 #include "ui/browse/fBrowse.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
@@ -125,7 +126,7 @@ void fBrowse::makeGrid()
 void fBrowse::follow()
 {
     const QModelIndex item = BF_->currentIndex();
-    const bool isFolder = QFileInfo(BF_->path()).isDir();
+    const bool isFolder = velara::isFolder(BF_->path());
     const bool isShown = item.parent() == grid_->rootIndex() && (!isFolder || focusWidget() == grid_);
     if (!isShown) showFolder(*grid_, isFolder ? item : item.parent());
     grid_->setCurrentIndex(item.parent() == grid_->rootIndex() ? item : QModelIndex());
@@ -135,7 +136,7 @@ void fBrowse::follow()
 void fBrowse::enter(const QModelIndex& item)
 {
     BF_->setCurrentIndex(item);
-    if (!QFileInfo(BF_->path()).isDir()) return CmdOpen_->click();
+    if (!isFolder(BF_->path())) return CmdOpen_->click();
     BF_->expand(item);
     showFolder(*grid_, item);
 }
@@ -162,7 +163,7 @@ QWidget* fBrowse::makeButtons()
 
 void fBrowse::selected(const QString& path)
 {
-    const bool isFolder = QFileInfo(path).isDir();
+    const bool isFolder = velara::isFolder(path);
     const bool fits = mode_ == BrowseMode::TextureFolder ? isFolder : !isFolder && familyOf(path);
     FileName_->setPath(fits ? path : QString());
     CmdOpen_->setEnabled(fits);

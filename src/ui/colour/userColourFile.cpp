@@ -1,6 +1,6 @@
 #include "ui/colour/userColourFile.h"
-#include "fileio/OutputFile.h"
-#include "fileio/fileBytes.h"
+#include "fileio/disk/OutputFile.h"
+#include "fileio/disk/fileBytes.h"
 #include <QFile>
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,6 +1,7 @@
 // FWeb: the dialog's behaviour. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
@@ -291,7 +292,7 @@ void FWeb::showFile(const Written& written)
         for (QLabel* label : {FileSize2_, FileSize4_}) label->setText(*size);
     setStale(false);
     QStringList parts{tr("%L1 bytes").arg(written.file.bytes)};
-    if (const qint64 before = path_.isEmpty() ? 0 : QFileInfo(path_).size(); before > 0)
+    if (const qint64 before = path_.isEmpty() ? 0 : sizeOfFile(path_); before > 0)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
     if (keptItsSize(written.file.source, optimizedBits_))
         parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);

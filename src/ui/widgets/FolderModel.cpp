@@ -1,4 +1,5 @@
 #include "ui/widgets/FolderModel.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/nameOrder.h"
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
@@ -46,7 +47,7 @@ QIcon themed(const char* name, QStyle::StandardPixmap otherwise)
 /// The directory entry has the type; only links are resolved.
 bool isFolderEntry(const dirent& entry, const QString& path)
 {
-    if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) return QFileInfo(path).isDir();
+    if (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) return velara::isFolder(path);
     return entry.d_type == DT_DIR;
 }
 
@@ -174,10 +175,10 @@ FolderModel::Item* FolderModel::child(Item& folder, const QString& name)
         return std::ranges::find(folder.items, name, [](const auto& each) { return each->name; });
     };
     if (const auto found = named(); found != folder.items.end()) return found->get();
-    const QFileInfo info(folder.path() + '/' + name);
-    if (!info.exists() || !(withFiles_ || info.isDir())) return nullptr;
+    const auto status = statusOf(folder.path() + '/' + name);
+    if (!status || !(withFiles_ || S_ISDIR(status->st_mode))) return nullptr;
     Items one;
-    one.emplace_back(new Item{name, nameOrder().sortKey(name), info.isDir()});
+    one.emplace_back(new Item{name, nameOrder().sortKey(name), bool(S_ISDIR(status->st_mode))});
     take(folder, std::move(one));
     return named()->get();
 }
@@ -188,10 +189,10 @@ FolderModel::Item* FolderModel::child(Item& folder, const QString& name)
 FolderModel::Items FolderModel::read(const QString& folder) const
 {
     Items items;
-    const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(QFile::encodeName(folder).constData()), closedir);
+    const std::unique_ptr<DIR, int (*)(DIR*)> directory(opendir(nativeName(folder).constData()), closedir);
     while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
         if (entry->d_name[0] == '.') continue;
-        const QString name = QFile::decodeName(entry->d_name);
+        const QString name = nameFrom(entry->d_name);
         const bool isFolder = isFolderEntry(*entry, folder + '/' + name);
         if (isFolder || withFiles_) items.emplace_back(new Item{name, nameOrder().sortKey(name), isFolder});
     }
@@ -239,7 +240,7 @@ void FolderModel::followDisk()
             const auto at = std::ranges::lower_bound(now, item, [](const auto& a, const auto& b) { return *a < *b; });
             if (at != now.end() && same(*at, item))
                 now.erase(at);
-            else if (!QFileInfo::exists(item->path())) // a hidden one shown on request stays
+            else if (!isThere(item->path())) // a hidden one shown on request stays
                 drop(*folder, row, row);
         }
         take(*folder, std::move(now));

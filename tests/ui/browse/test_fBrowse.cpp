@@ -1,4 +1,5 @@
 // The browser, its preview and its thumbnails, with real folders and previews that arrive when the test says so.
+#include "fileio/disk/nativeName.h"
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "support/RecordingPlatform.h"
 #include "support/ui/WindowTest.h"
@@ -6,6 +7,8 @@
 #include "ui/browse/fBrowse.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/fFolderTree.h"
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace velara {
 
@@ -64,6 +67,18 @@ TEST_F(Browser, OpensPicturesOrFoldersAlone)
         EXPECT_EQ(text("FileName"), can ? at(name) : QString());
     }
     EXPECT_EQ(window->windowTitle(), "Browse For Graphic Filles");
+}
+
+TEST_F(Browser, OpensNamesThatAreNotUtf8)
+{
+    const QString name = at(nameFrom("b\xe9.png"));
+    ASSERT_GE(close(creat(nativeName(name).constData(), 0600)), 0);
+    show(BrowseMode::Pictures, name);
+    EXPECT_EQ(tree().path(), name);
+    EXPECT_EQ(tree().currentIndex().data().toString(), "b\\xe9.png");
+    ASSERT_TRUE(find("CmdOpen")->isEnabled());
+    click("CmdOpen");
+    EXPECT_EQ(opened, QStringList{name});
 }
 
 TEST_F(Browser, DoubleClickEnterAndTheButtonOpenOnceAndClose)

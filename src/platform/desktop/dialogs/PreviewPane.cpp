@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/PreviewPane.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "platform/desktop/dialogs/fPathLabel.h"
 #include "seams/text.h"
@@ -68,16 +69,19 @@ void PreviewPane::showFile(const QString& path)
     slow_.stop();
     pictureSize_ = {};
     const QFileInfo file(path);
-    const Family* family = file.isDir() ? nullptr : familyOf(path);
+    const auto status = statusOf(path);
+    const bool isFolder = status && S_ISDIR(status->st_mode), isFile = status && S_ISREG(status->st_mode);
+    const Family* family = isFolder ? nullptr : familyOf(path);
     path_ = family ? path : QString();
     name_->setPath(file.fileName().isEmpty() ? path : file.fileName());
     kind_->setText(family ? text(family->name) : QString());
     size_->clear();
-    file_->setText(file.isFile() ? QLocale().formattedDataSize(file.size()) + "\n" +
-                                       QLocale().toString(file.lastModified(), QLocale::ShortFormat)
-                                 : QString());
+    file_->setText(
+        isFile ? QLocale().formattedDataSize(status->st_size) + "\n" +
+                     QLocale().toString(QDateTime::fromSecsSinceEpoch(status->st_mtim.tv_sec), QLocale::ShortFormat)
+               : QString());
     if (path.isEmpty()) return say(tr("No picture is selected."));
-    if (file.isDir()) return say(folderWords(file));
+    if (isFolder) return say(folderWords(file));
     if (!family) return say(tr("Not a picture."));
     slow_.start(); // the previous picture stays that long: no flicker while browsing a folder
     ask();

@@ -1,5 +1,6 @@
-#include "fileio/OutputFile.h"
-#include "fileio/fileRights.h"
+#include "fileio/disk/OutputFile.h"
+#include "fileio/disk/fileRights.h"
+#include "fileio/disk/nativeName.h"
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -111,10 +112,10 @@ bool isProtected(const QByteArray& path, mode_t mode)
 QString behindLinks(const QString& path)
 {
     constexpr int kMostLinks = 40;
-    QByteArray name = QFile::encodeName(path);
+    QByteArray name = nativeName(path);
     for (int i = 0; i < kMostLinks; ++i) {
         struct stat status {};
-        if (lstat(name.constData(), &status) != 0 || !S_ISLNK(status.st_mode)) return QFile::decodeName(name);
+        if (lstat(name.constData(), &status) != 0 || !S_ISLNK(status.st_mode)) return nameFrom(name);
         const QByteArray folder = folderOf(name);
         std::array<char, PATH_MAX> to{};
         const ssize_t length = readlink(name.constData(), to.data(), to.size());
@@ -126,7 +127,7 @@ QString behindLinks(const QString& path)
 }
 
 OutputFile::OutputFile(const QString& path, Links links)
-    : target_(QFile::encodeName(links == Links::Follow ? behindLinks(path) : path))
+    : target_(nativeName(links == Links::Follow ? behindLinks(path) : path))
 {
     buffer_.resize(kBuffer);
     if (target_.isEmpty()) error_ = ELOOP;
@@ -254,12 +255,12 @@ bool OutputFile::copyOver()
 void OutputFile::keepBeside()
 {
     if (temporary_.isEmpty()) return;
-    const QFileInfo target(QFile::decodeName(target_));
+    const QFileInfo target(nameFrom(target_));
     const QString ending = target.suffix().isEmpty() ? QString() : '.' + target.suffix();
     for (int i = 1; i < 100; ++i) {
         const QString name = target.path() + '/' + target.completeBaseName() +
                              (i == 1 ? QString(".rescued") : QString(".rescued-%1").arg(i)) + ending;
-        const QByteArray path = QFile::encodeName(name);
+        const QByteArray path = nativeName(name);
         if (access(path.constData(), F_OK) == 0 || std::rename(temporary_.constData(), path.constData()) != 0) continue;
         temporary_.clear();
         return;

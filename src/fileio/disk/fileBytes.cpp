@@ -1,4 +1,4 @@
-#include "fileio/fileBytes.h"
+#include "fileio/disk/fileBytes.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "fileio/fileRights.h"
+#include "fileio/disk/fileRights.h"
 #include <QByteArrayList>
 #include <algorithm>
 #include <array>

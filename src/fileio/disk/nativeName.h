@@ -1,0 +1,25 @@
+// Names of files that are not UTF-8, as old archives leave them. In a QString each byte that belongs to no character is
+// a lone surrogate, U+DC80 to U+DCFF, and so is a byte again on the way back; Qt itself would replace it for good.
+#pragma once
+#include <QByteArray>
+#include <QString>
+#include <optional>
+#include <sys/stat.h>
+
+namespace velara {
+
+/// The bytes of a path for the system.
+QByteArray nativeName(const QString& path);
+QString nameFrom(const QByteArray& bytes);
+/// The path of a file that Qt has named, whose name may have lost bytes: the entry of the folder with the same look, or
+/// the path itself. An absolute one.
+QString withItsBytes(const QString& path);
+
+/// Of what the path leads to, behind links; none when there is nothing.
+std::optional<struct stat> statusOf(const QString& path);
+bool isThere(const QString& path);
+bool isFolder(const QString& path);
+/// 0 when there is nothing.
+std::int64_t sizeOfFile(const QString& path);
+
+} // namespace velara
