@@ -262,9 +262,18 @@ class cBitFilter {
     static float Angle(int X, int Y);
 
   private:
-    // The calling patterns; their bodies are in passes.h.
-    template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel);
-    template <class RowFunction> void eachRow(const Bits& in, RowFunction&& row);
+    /// Rows that one thread works on at once: so many, counted from origin. Alone: in order, on the caller's thread.
+    struct Cut {
+        std::int64_t rows = 1, origin = 0;
+        bool alone = false;
+    };
+    // The calling patterns; their bodies are in passes.h. All cores work in them. A kernel is shared by the threads, so
+    // it writes nothing that it has captured.
+    template <class Kernel> Bits eachSpan(int margin, Kernel&& kernel, Cut cut = {});
+    template <class Make> Bits eachSpanOf(int margin, Cut cut, Make&& make);
+    template <class Row> std::int64_t sumOfRows(const Bits& in, Row&& row);
+    /// piece(a, b) for the rows a to b-1, of the rows y0 to y1-1 of a picture; then, in order, progress of its rows.
+    void eachPiece(int y0, int y1, Cut cut, const Bits& picture, const std::function<void(int a, int b)>& piece);
     Bits rankFilter(int Mode, RankWindow window);
     template <class Tile> Bits eachTile(int rows, Tile&& tile);
     template <class Map> Bits eachSource(bool Clean, Map&& map, int rows = 64);

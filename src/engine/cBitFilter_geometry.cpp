@@ -3,6 +3,7 @@
 #include "engine/passes.h"
 #include "pixels/images.h"
 #include "pixels/numbers.h"
+#include "pixels/threads/parallelFor.h"
 
 namespace velara {
 
@@ -30,17 +31,15 @@ void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)
     if (r.isEmpty() || r.right > in.width() || r.bottom > in.height()) throw RuntimeError(Fault::OutOfRange);
     Bits out = Bits::uninitialized(r.width(), r.height());
     clearMargin(out);
-    for (int y = 0; y < r.height(); ++y) {
+    const WrittenRows rows(out);
+    parallelFor(r.height(), turnsTogether(r.width()), [&](int y) {
         const Pixel* from = in.row(y + r.top) + r.left;
-        Pixel* to = out.row(y);
-        if (!masked) {
-            copyPixels(from, to, 0, r.width());
-            continue;
-        }
+        Pixel* to = rows.row(y);
+        if (!masked) return copyPixels(from, to, 0, r.width());
         std::fill(to, to + r.width(), kMaskedOut);
         for (const Span s : region_.spans(y + r.top))
             copyPixels(from, to, std::max(s.x0 - r.left, 0), std::min(s.x1 - r.left, r.width()));
-    }
+    });
     bits_ = out;
     report(100);
 }
@@ -61,12 +60,11 @@ void cBitFilter::BitsRotate90(const Bits& Source)
     if (in.isNull()) throw RuntimeError(Fault::OutOfRange);
     Bits out = Bits::uninitialized(in.height(), in.width());
     clearMargin(out);
-    for (int y0 = 0; y0 < in.height(); y0 += kTurnTile) {
-        const int y1 = std::min(y0 + kTurnTile, in.height());
+    const WrittenRows rows(out);
+    eachPiece(0, in.height(), {kTurnTile}, in, [&](int y0, int y1) {
         for (int x0 = 0; x0 < in.width(); x0 += kTurnTile)
-            turnPixels(in, out, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
-        for (int y = y0; y < y1; ++y) progressDue(y, in.maxY());
-    }
+            turnPixels(in, rows, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
+    });
     bits_ = out;
     report(100);
 }

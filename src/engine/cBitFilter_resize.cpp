@@ -37,22 +37,22 @@ void cBitFilter::BitsResample(const Bits& Source, int NewWidth, int NewHeight)
     const Axis columns(NewWidth, ratio(in.maxX(), NewWidth)), rows(NewHeight, ratio(in.maxY(), NewHeight));
     Bits out = Bits::uninitialized(NewWidth, NewHeight);
     clearMargin(out);
-    for (int y = 0; y < NewHeight; ++y) {
+    const WrittenRows targets(out);
+    eachPiece(0, NewHeight, {}, out, [&](int y, int) {
         std::int32_t iy[kPlaces];
         float fy[kPlaces];
         std::fill_n(iy, kPlaces, rows.at[y]);
         std::fill_n(fy, kPlaces, static_cast<float>(rows.beyond[y]));
         const Pixel *upper = in.row(rows.at[y]), *lower = in.row(rows.at[y] + 1);
         for (int x0 = 0; x0 < NewWidth; x0 += kPlaces) {
-            Pixel* to = out.row(y) + x0;
+            Pixel* to = targets.row(y) + x0;
             const int n = std::min(kPlaces, NewWidth - x0);
             const std::int32_t* ix = columns.at.data() + x0;
             eachPlace(blendPixels(in, ix, iy, columns.single.data() + x0, fy, n, nullptr, to), n, [&](int i) {
                 blendPixel(upper + ix[i], lower + ix[i], columns.beyond[x0 + i], rows.beyond[y], to[i]);
             });
         }
-        progressDue(y, NewHeight - 1);
-    }
+    });
     bits_ = out;
     report(100);
 }
@@ -65,15 +65,15 @@ void cBitFilter::BitsResize(const Bits& Source, int NewWidth, int NewHeight)
     const Axis columns(NewWidth, ratio(in.width(), NewWidth)), rows(NewHeight, ratio(in.height(), NewHeight));
     Bits out = Bits::uninitialized(NewWidth, NewHeight);
     clearMargin(out);
-    for (int y = 0; y < NewHeight; ++y) {
+    const WrittenRows targets(out);
+    eachPiece(0, NewHeight, {}, out, [&](int y, int) {
         const Pixel* from = in.row(rows.at[y]);
-        Pixel* to = out.row(y);
+        Pixel* to = targets.row(y);
         for (int x = 0; x < NewWidth; ++x) {
             to[x] = from[columns.at[x]];
             to[x].c[3] = 0;
         }
-        progressDue(y, NewHeight - 1);
-    }
+    });
     bits_ = out;
     report(100);
 }

@@ -2,8 +2,10 @@
 #pragma once
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/WrittenRows.h"
 #include "pixels/memory/checkSize.h"
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <emmintrin.h>
 #include <type_traits>
@@ -74,8 +76,21 @@ inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
 /// Each selected pixel by itself, the region's spans row by row. kernel(source row, target row, x0, x1), optionally
 /// with the row's y as a fifth argument, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0,
 /// and the rows above and below are bits().stride() pixels away. Pixels outside of the box or of the region are copied.
-/// margin shrinks the box.
-template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
+/// margin shrinks the box. A kernel that changes from call to call gets its rows in order.
+template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel, Cut cut)
+{
+    using Shared = const std::remove_reference_t<Kernel>&;
+    if constexpr (std::is_invocable_v<Shared, const Pixel*, Pixel*, int, int> ||
+                  std::is_invocable_v<Shared, const Pixel*, Pixel*, int, int, int>) {
+        return eachSpanOf(margin, cut, [&]() -> Shared { return kernel; });
+    } else {
+        cut.alone = true;
+        return eachSpanOf(margin, cut, [&]() -> Kernel& { return kernel; });
+    }
+}
+
+/// The same with a kernel for each piece: make() gives it.
+template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& make)
 {
     const Bits in = bits_; // keeps the source, even if Progress calls setBits
     const Region region = region_;
@@ -85,39 +100,42 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel)
         return in;
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
+    const WrittenRows rows(out);
     const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    for (int y = box.ymin; y <= box.ymax; ++y) {
-        const Pixel* from = in.row(y);
-        Pixel* to = out.row(y);
-        int copied = -Bits::kMargin;
-        for (const Span s : region.spans(y)) {
-            const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
-            if (x0 >= x1) continue;
-            copy(from, to, copied, x0);
-            if constexpr (std::is_invocable_v<Kernel&, const Pixel*, Pixel*, int, int, int>)
-                kernel(from, to, x0, x1, y);
-            else
-                kernel(from, to, x0, x1);
-            copied = x1;
+    eachPiece(box.ymin, box.ymax + 1, cut, in, [&](int y0, int y1) {
+        decltype(auto) kernel = make();
+        for (int y = y0; y < y1; ++y) {
+            const Pixel* from = in.row(y);
+            Pixel* to = rows.row(y);
+            int copied = -Bits::kMargin;
+            for (const Span s : region.spans(y)) {
+                const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
+                if (x0 >= x1) continue;
+                copy(from, to, copied, x0);
+                if constexpr (std::is_invocable_v<decltype(kernel), const Pixel*, Pixel*, int, int, int>)
+                    kernel(from, to, x0, x1, y);
+                else
+                    kernel(from, to, x0, x1);
+                copied = x1;
+            }
+            copy(from, to, copied, in.width() + Bits::kMargin);
         }
-        copy(from, to, copied, in.width() + Bits::kMargin);
-        progressDue(y, in.maxY());
-    }
+    });
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;
 }
 
-/// A pass over the whole picture that writes nothing: calls row(source row) for each row, with progress and the final
-/// report.
-template <class RowFunction> void cBitFilter::eachRow(const Bits& in, RowFunction&& row)
+/// A pass over the whole picture that writes nothing: the sum of row(source row), with progress and the final report.
+template <class Row> std::int64_t cBitFilter::sumOfRows(const Bits& in, Row&& row)
 {
-    for (int y = 0; y < in.height(); ++y) {
-        row(in.row(y));
-        progressDue(y, in.maxY());
-    }
+    std::atomic<std::int64_t> sum = 0;
+    eachPiece(0, in.height(), {}, in, [&](int y0, int y1) {
+        for (int y = y0; y < y1; ++y) sum.fetch_add(row(in.row(y)), std::memory_order_relaxed);
+    });
     report(100);
+    return sum;
 }
 
 } // namespace velara

@@ -3,6 +3,8 @@
 #include "engine/colour/lookUps.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
+#include "pixels/threads/parallelFor.h"
+#include <mutex>
 
 namespace velara {
 
@@ -47,15 +49,20 @@ Wide balanced(Wide v)
 /// The histogram of round(brightnessOf) over all pixels.
 std::array<std::int64_t, 256> histogram(const Bits& bits)
 {
-    std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
-    std::vector<Pixel> greys(std::size_t(bits.width()));
-    for (int y = 0; y < bits.height(); ++y) {
-        colourKernels().brightness(bits.row(y), bits.width(), greys.data());
-        for (std::size_t x = 0; x < greys.size(); ++x) ++counts[x & 3][greys[x].c[0]];
-    }
+    constexpr int kRows = 64;
     std::array<std::int64_t, 256> all{};
-    for (const auto& part : counts)
-        for (std::size_t i = 0; i < 256; ++i) all[i] += part[i];
+    std::mutex guard;
+    parallelFor((bits.height() + kRows - 1) / kRows, 1, [&](int piece) {
+        std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
+        std::vector<Pixel> greys(std::size_t(bits.width()));
+        for (int y = piece * kRows; y < std::min((piece + 1) * kRows, bits.height()); ++y) {
+            colourKernels().brightness(bits.row(y), bits.width(), greys.data());
+            for (std::size_t x = 0; x < greys.size(); ++x) ++counts[x & 3][greys[x].c[0]];
+        }
+        const std::lock_guard lock(guard);
+        for (const auto& part : counts)
+            for (std::size_t i = 0; i < 256; ++i) all[i] += part[i];
+    });
     return all;
 }
 
@@ -73,8 +80,8 @@ template <class Function> void eachThird(const Bits& bits, Function f)
 Bits cBitFilter::CONTRAST(int Level)
 {
     const Bits in = bits_;
-    std::int64_t sum = 0;
-    eachRow(in, [&](const Pixel* row) { sum += colourKernels().sumOfThirds(row, in.width()); });
+    const std::int64_t sum =
+        sumOfRows(in, [&](const Pixel* row) { return colourKernels().sumOfThirds(row, in.width()); });
     if (in.isNull()) throw RuntimeError(Fault::DivisionByZero);
     const auto mean = static_cast<int>(sum / (std::int64_t(in.width()) * in.height()));
     const float f = static_cast<float>((Level + 100.0) / 100);

@@ -15,7 +15,7 @@ Bits cBitFilter::RotateSmooth(int Degrees)
 {
     const Bits in = bits_;
     const Turn turn(in.maxX(), in.maxY(), Degrees);
-    return eachTile(kPlaces, [&](Bits& out, int x0, int x1, int y0, int y1) {
+    return eachTile(kPlaces, [&](const WrittenRows& out, int x0, int x1, int y0, int y1) {
         std::int32_t ix[kPlaces], iy[kPlaces];
         float fx[kPlaces], fy[kPlaces];
         for (int y = y0; y < y1; ++y) {
@@ -38,9 +38,10 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, 0);
-    for (int y = 0; y < in.height(); ++y) {
+    const WrittenRows rows(out);
+    eachPiece(0, in.height(), {}, in, [&](int y, int) {
         const Pixel *kept = in.row(y), *from = in.row(Vertical ? in.maxY() - y : y);
-        Pixel* to = out.row(y);
+        Pixel* to = rows.row(y);
         copyPixels(kept, to, -Bits::kMargin, 0);
         copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
         const SpanOf row{kept, in.stride(), to, 0, in.width()};
@@ -48,8 +49,7 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
             takeRowMirrored(row, from, in.maxX());
         else
             takeRow(row, from);
-        progressDue(y, in.maxY());
-    }
+    });
     copyRows(in, out, in.height(), in.height() + Bits::kMargin);
     report(100);
     return out;

@@ -84,16 +84,16 @@ void cBitFilter::turnOnSquare(const Bits& Source, int Degrees, bool Smooth, int 
     const Square square(in, Degrees, Side);
     Bits out = Bits::uninitialized(Part.width(), Part.height());
     clearMargin(out);
-    inTiles(
-        {0, out.maxX(), 0, out.maxY()}, kPlaces,
-        [&](int x0, int x1, int y0, int y1) {
+    const WrittenRows rows(out);
+    eachPiece(0, out.height(), {kPlaces}, out, [&](int top, int bottom) {
+        inTiles({0, out.maxX(), 0, out.maxY()}, top, bottom, [&](int x0, int x1, int y0, int y1) {
             for (int y = y0; y < y1; ++y) {
-                Pixel* to = out.row(y) + x0;
+                Pixel* to = rows.row(y) + x0;
                 Smooth ? square.takeBlended(Part.left + x0, Part.top + y, x1 - x0, to)
                        : square.takeNearest(Part.left + x0, Part.top + y, x1 - x0, to);
             }
-        },
-        [&](int y) { progressDue(y, out.maxY()); });
+        });
+    });
     bits_ = out;
     report(100);
 }

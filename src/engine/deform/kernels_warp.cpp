@@ -389,7 +389,7 @@ std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::i
 
 HWY_EXPORT(turnFours);
 
-void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1)
+void turnPixels(const Bits& in, const WrittenRows& out, int x0, int x1, int y0, int y1)
 {
     const int columns = (x1 - x0) / 4 * 4, rows = (y1 - y0) / 4 * 4;
     const TurnJob job{reinterpret_cast<const std::uint32_t*>(in.row(y0) + x0), in.stride(),
@@ -397,7 +397,7 @@ void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1)
     HWY_DYNAMIC_DISPATCH(turnFours)(job, columns, rows);
     for (int y = y0; y < y1; ++y)
         for (int x = y < y0 + rows ? x0 + columns : x0; x < x1; ++x)
-            out.at(y, in.maxX() - x) = withColour(in.at(x, y), Pixel{});
+            out.row(in.maxX() - x)[y] = withColour(in.at(x, y), Pixel{});
 }
 
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)

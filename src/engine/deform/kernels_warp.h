@@ -2,6 +2,7 @@
 #pragma once
 #include "engine/SpanOf.h"
 #include "pixels/Bits.h"
+#include "pixels/WrittenRows.h"
 #include "region/Region.h"
 #include <cstdint>
 #include <vector>
@@ -83,6 +84,6 @@ void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pi
 
 /// The columns x0..x1-1 and rows y0..y1-1 of in, rotated a quarter turn: (x, y) goes to (y, maxX-x) with a fourth byte
 /// of 0.
-void turnPixels(const Bits& in, Bits& out, int x0, int x1, int y0, int y1);
+void turnPixels(const Bits& in, const WrittenRows& out, int x0, int x1, int y0, int y1);
 
 } // namespace velara

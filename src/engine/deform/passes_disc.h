@@ -2,6 +2,7 @@
 #pragma once
 #include "engine/passes.h"
 #include "pixels/numbers.h"
+#include "pixels/threads/parallelFor.h"
 
 namespace velara {
 
@@ -28,24 +29,26 @@ template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double lim
     const std::int64_t R = disc.radius;
     const int ymin = static_cast<int>(std::max<std::int64_t>(disc.y - R, 0));
     const int ymax = static_cast<int>(std::min<std::int64_t>(disc.y + R, in.maxY()));
-    if (R > 0)
-        for (int y = ymin; y <= ymax; ++y) {
-            const double oy = static_cast<double>(y) - disc.y;
-            const double room = limit - oy * oy; // the limit of ox * ox
-            if (room > 0) {
-                // The largest |ox| whose square is below room.
-                double reach = std::min(std::ceil(std::sqrt(room)), static_cast<double>(R));
-                while (reach >= 0 && !(reach * reach + oy * oy < limit)) --reach;
-                const auto xmin = std::max<std::int64_t>(disc.x - static_cast<std::int64_t>(reach), 0);
-                const auto xmax = std::min<std::int64_t>(disc.x + static_cast<std::int64_t>(reach), in.maxX());
-                for (const Span s : region.spans(y)) {
-                    const int x0 = static_cast<int>(std::max<std::int64_t>(s.x0, xmin));
-                    const int x1 = static_cast<int>(std::min<std::int64_t>(s.x1, xmax + 1));
-                    if (x0 < x1) kernel(in.row(y), out.row(y), x0, x1, y);
-                }
-            }
-            progressDue(y - disc.y + R, 2 * R);
+    const WrittenRows rows(out);
+    const auto row = [&](int y) {
+        const double oy = static_cast<double>(y) - disc.y;
+        const double room = limit - oy * oy; // the limit of ox * ox
+        if (room <= 0) return;
+        // The largest |ox| whose square is below room.
+        double reach = std::min(std::ceil(std::sqrt(room)), static_cast<double>(R));
+        while (reach >= 0 && !(reach * reach + oy * oy < limit)) --reach;
+        const auto xmin = std::max<std::int64_t>(disc.x - static_cast<std::int64_t>(reach), 0);
+        const auto xmax = std::min<std::int64_t>(disc.x + static_cast<std::int64_t>(reach), in.maxX());
+        for (const Span s : region.spans(y)) {
+            const int x0 = static_cast<int>(std::max<std::int64_t>(s.x0, xmin));
+            const int x1 = static_cast<int>(std::min<std::int64_t>(s.x1, xmax + 1));
+            if (x0 < x1) kernel(in.row(y), rows.row(y), x0, x1, y);
         }
+    };
+    if (R > 0 && ymin <= ymax)
+        parallelFor(
+            ymax - ymin + 1, turnsTogether(2 * R), [&](int i) { row(ymin + i); },
+            [&](int i) { progressDue(ymin + i - disc.y + R, 2 * R); });
     report(100);
     return out;
 }

@@ -58,19 +58,14 @@ struct Turn {
     }
 };
 
-/// A box in tiles of the given number of rows: tile(x0, x1, y0, y1) for its columns x0..x1-1 and rows y0..y1-1, and
-/// rowDone(y) for each row whose tiles are done.
-template <class Tile, class RowDone> void inTiles(const Box& box, int rows, Tile&& tile, RowDone&& rowDone)
+/// Some rows of a box in tiles: tile(x0, x1, y0, y1) for the columns x0..x1-1 and rows y0..y1-1.
+template <class Tile> void inTiles(const Box& box, int y0, int y1, Tile&& tile)
 {
-    for (int y0 = box.ymin; y0 <= box.ymax; y0 += rows) {
-        const int y1 = std::min(y0 + rows, box.ymax + 1);
-        for (int x0 = box.xmin; x0 <= box.xmax; x0 += kPlaces) tile(x0, std::min(x0 + kPlaces, box.xmax + 1), y0, y1);
-        for (int y = y0; y < y1; ++y) rowDone(y);
-    }
+    for (int x0 = box.xmin; x0 <= box.xmax; x0 += kPlaces) tile(x0, std::min(x0 + kPlaces, box.xmax + 1), y0, y1);
 }
 
-/// The targets of the box inside the picture, in tiles of the given number of rows. tile(out, x0, x1, y0, y1) writes
-/// all four bytes of each pixel of its columns x0..x1-1 and rows y0..y1-1; pixels outside of the box are copied.
+/// The targets of the box inside the picture, in tiles of the given number of rows. tile(target rows, x0, x1, y0, y1)
+/// writes all four bytes of each pixel of its columns x0..x1-1 and rows y0..y1-1; pixels outside of the box are copied.
 template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
 {
     const Bits in = bits_;
@@ -81,13 +76,14 @@ template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    inTiles(
-        box, rows, [&](int x0, int x1, int y0, int y1) { tile(out, x0, x1, y0, y1); },
-        [&](int y) {
-            copyPixels(in.row(y), out.row(y), -Bits::kMargin, box.xmin);
-            copyPixels(in.row(y), out.row(y), box.xmax + 1, in.width() + Bits::kMargin);
-            progressDue(y, in.maxY());
-        });
+    const WrittenRows to(out);
+    eachPiece(box.ymin, box.ymax + 1, {rows, box.ymin}, in, [&](int y0, int y1) {
+        inTiles(box, y0, y1, [&](int x0, int x1, int top, int bottom) { tile(to, x0, x1, top, bottom); });
+        for (int y = y0; y < y1; ++y) {
+            copyPixels(in.row(y), to.row(y), -Bits::kMargin, box.xmin);
+            copyPixels(in.row(y), to.row(y), box.xmax + 1, in.width() + Bits::kMargin);
+        }
+    });
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;
@@ -100,7 +96,7 @@ template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows
 {
     const Bits in = bits_;
     const SourcePixels source(in, region_);
-    return eachTile(rows, [&](Bits& out, int x0, int x1, int y0, int y1) {
+    return eachTile(rows, [&](const WrittenRows& out, int x0, int x1, int y0, int y1) {
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         for (int y = y0; y < y1; ++y) {
             map(y, x0, x1 - x0, sx, sy);

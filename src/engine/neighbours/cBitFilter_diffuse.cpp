@@ -2,6 +2,7 @@
 #include "engine/neighbours/kernels_diffuse.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
+#include "pixels/threads/parallelFor.h"
 #include <bit>
 
 namespace velara {
@@ -88,30 +89,34 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
     const bool small = isSmall(HorizontalRange) && isSmall(VerticalRange);
     const WidestSpans widest(region, box);
     const PixelMask mask = widest.cover(box) ? PixelMask() : maskOf(region, in);
-    Sources among{box.xmin, box.xmax + 1, box.ymin, box.ymax + 1, nullptr};
+    const Sources whole{box.xmin, box.xmax + 1, box.ymin, box.ymax + 1, nullptr};
 
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
     constexpr int reach = Displacement::kMostRange / 2 + 1;
-    const auto run = [&](SpanOf span, int y) {
+    const WrittenRows rows(out);
+    const auto run = [&](SpanOf span, int y, const Sources& among) {
         const std::uint32_t first = 2 * static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(in.width());
         if (small) span.x0 = diffusePixels(span, y, {HorizontalRange, VerticalRange, random, first}, among);
         diffuseLiterally(span, y, HorizontalRange, VerticalRange, random, first, among);
     };
-    for (int top = box.ymin; top <= box.ymax; top += kBlockRows) {
-        const int bottom = std::min(top + kBlockRows - 1, box.ymax);
+    const auto block = [&](int top, int bottom) {
+        Sources among = whole;
         for (int x = among.x0; x < among.x1; x += kBlockColumns) {
             const int end = std::min(x + kBlockColumns, among.x1);
             const Box reached{x - reach, end + reach, top - reach, bottom + reach};
             among.mask = mask.words.empty() || (small && widest.cover(reached)) ? nullptr : &mask;
-            for (int y = top; y <= bottom; ++y) run({in.row(y), in.stride(), out.row(y), x, end}, y);
+            for (int y = top; y <= bottom; ++y) run({in.row(y), in.stride(), rows.row(y), x, end}, y, among);
         }
         for (int y = top; y <= bottom; ++y) {
-            copyPixels(in.row(y), out.row(y), -Bits::kMargin, among.x0);
-            copyPixels(in.row(y), out.row(y), among.x1, in.width() + Bits::kMargin);
+            copyPixels(in.row(y), rows.row(y), -Bits::kMargin, among.x0);
+            copyPixels(in.row(y), rows.row(y), among.x1, in.width() + Bits::kMargin);
         }
-        progressDue(bottom, in.maxY());
-    }
+    };
+    const auto bottomOf = [&](int i) { return std::min(box.ymin + (i + 1) * kBlockRows - 1, box.ymax); };
+    parallelFor((box.ymax - box.ymin) / kBlockRows + 1, 1,
+                [&](int i) { block(box.ymin + i * kBlockRows, bottomOf(i)); },
+                [&](int i) { progressDue(bottomOf(i), in.maxY()); });
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;

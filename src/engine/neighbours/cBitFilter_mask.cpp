@@ -2,6 +2,7 @@
 #include "engine/neighbours/kernels_mask.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
+#include <optional>
 
 namespace velara {
 
@@ -67,12 +68,19 @@ Bits cBitFilter::MaskFilter(const std::vector<std::vector<int>>& Mask, double Di
             if (Mask[j][i] != 0)
                 sum.taps.push_back({(j - window.before) * in.stride() + i - window.before, Mask[j][i]});
 
+    // Integer division needs an integer divisor; its faults are those of the first pixel that needs it.
+    std::optional<Fault> fault;
+    try {
+        sum.divisor = roundEven(Divisor);
+        if (sum.divisor == 0) fault = Fault::DivisionByZero;
+    } catch (const RuntimeError& error) {
+        fault = error.fault();
+    }
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const Span done = Clip ? insideOnly({x0, x1}, y, window, in) : Span{x0, x1};
         copyPixels(from, to, x0, std::min(done.x0, x1));
         if (done.x0 >= done.x1) return copyPixels(from, to, x0, x1);
-        if (sum.divisor == 0) sum.divisor = roundEven(Divisor); // integer division needs an integer divisor
-        if (sum.divisor == 0) throw RuntimeError(Fault::DivisionByZero);
+        if (fault) throw RuntimeError(*fault);
         if (reachesOut(done, y, window, in)) throw RuntimeError(Fault::OutOfRange);
         int x = done.x0;
         if (sum.isSmall()) x = maskPixels({from, in.stride(), to, done.x0, done.x1}, sum);

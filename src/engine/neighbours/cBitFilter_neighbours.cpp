@@ -132,7 +132,8 @@ auto embossed(int sign, int weight, const Bits& bits)
 
 } // namespace
 
-Bits cBitFilter::EMBOSS(int Weight) { return eachSpan(0, embossed(1, Weight, bits_)); }
-Bits cBitFilter::ENGRAVE(int Weight) { return eachSpan(0, embossed(-1, Weight, bits_)); }
+// The last row comes after the one before it.
+Bits cBitFilter::EMBOSS(int Weight) { return eachSpan(0, embossed(1, Weight, bits_), {2, bits_.height()}); }
+Bits cBitFilter::ENGRAVE(int Weight) { return eachSpan(0, embossed(-1, Weight, bits_), {2, bits_.height()}); }
 
 } // namespace velara

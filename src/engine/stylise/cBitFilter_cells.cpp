@@ -84,6 +84,22 @@ class Blocks {
     int band_ = -1;
 };
 
+/// Whether no span needs the colour that one before it has left.
+bool beginsWithBlocks(const Region& region, const Box& box, int size)
+{
+    for (int y = box.ymin; y <= box.ymax; ++y)
+        for (const Span s : region.spans(y))
+            if (std::max(s.x0, 0) % size != 0) return false;
+    return true;
+}
+
+/// Rows of a piece: whole rows of cells, enough that its own tables are worth it.
+std::int64_t wholeCells(std::int64_t step)
+{
+    constexpr std::int64_t kRows = 64;
+    return (kRows + step - 1) / step * step;
+}
+
 } // namespace
 
 Bits cBitFilter::PIXELIZE(int Size)
@@ -91,8 +107,15 @@ Bits cBitFilter::PIXELIZE(int Size)
     if (Size == 0) return eachSpan(0, divideByZero);
     if (Size < 0) return eachSpan(0, blacken); // the blocks contain no pixels
     if (Size == 1) return eachSpan(0, copyPixels);
-    return eachSpan(0, [blocks = Blocks(bits_, region_, Size)](const Pixel* from, Pixel* to, int x0, int x1,
-                                                               int y) mutable { blocks.span(from, to, x0, x1, y); });
+    const Bits in = bits_;
+    const Region region = region_;
+    const auto blocks = [&] {
+        return [blocks = Blocks(in, region, Size)](const Pixel* from, Pixel* to, int x0, int x1, int y) mutable {
+            blocks.span(from, to, x0, x1, y);
+        };
+    };
+    if (!beginsWithBlocks(region, insidePicture(GetBounds(0), in), Size)) return eachSpan(0, blocks());
+    return eachSpanOf(0, {wholeCells(Size)}, blocks);
 }
 
 namespace {
@@ -157,9 +180,9 @@ class Spot {
 /// row and column of an earlier one, so each pixel gets its byte from the last cell that contains it.
 class Dots {
   public:
-    Dots(const Bits& in, const Region& region, const Box& box, int radius, int limit, float gain)
+    Dots(const Bits& in, const Region& region, const Box& box, int radius, const Spot& spot, float gain)
         : in_(in), region_(region), box_(box), radius_(radius), step_(2 * std::int64_t{radius}), gain_(gain),
-          spot_(radius, limit), sums_(in.width(), box.xmin, step_, step_ + 1), means_(sums_.cells().size()),
+          spot_(spot), sums_(in.width(), box.xmin, step_, step_ + 1), means_(sums_.cells().size()),
           line_(static_cast<std::size_t>(in.width())), factors_(line_.size())
     {
     }
@@ -280,7 +303,7 @@ class Dots {
     const Box box_;
     const std::int64_t radius_, step_;
     const double gain_;
-    const Spot spot_;
+    const Spot& spot_;
     CellSums sums_;
     std::vector<Pixel> means_, line_; // of the cells, and of the pixels of a row
     std::vector<float> factors_;
@@ -299,9 +322,13 @@ Bits cBitFilter::Halftone(int Radius, int Definition, int Intensity)
     const Box box = GetBounds(0);
     if (Radius < 0 || insidePicture(box, bits_).isEmpty()) return eachSpan(0, copyPixels);
     if (gain == 0) throw RuntimeError(Fault::DivisionByZero); // every cell divides, also one without pixels
-    return eachSpan(
-        0, [dots = Dots(bits_, region_, box, Radius, limit, gain)](const Pixel* from, Pixel* to, int x0, int x1,
-                                                                   int y) mutable { dots.span(from, to, x0, x1, y); });
+    const Bits in = bits_;
+    const Region region = region_;
+    const Spot spot(Radius, limit);
+    return eachSpanOf(0, {wholeCells(2 * std::int64_t{Radius}), box.ymin}, [&] {
+        return [dots = Dots(in, region, box, Radius, spot, gain)](const Pixel* from, Pixel* to, int x0, int x1,
+                                                                  int y) mutable { dots.span(from, to, x0, x1, y); };
+    });
 }
 
 } // namespace velara

@@ -1,6 +1,7 @@
 // Lays a picture over the picture, once or tiled.
 #include "engine/passes.h"
 #include "engine/stylise/kernels_generate.h"
+#include "pixels/threads/parallelFor.h"
 
 namespace velara {
 
@@ -28,11 +29,13 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
         return origin < 0 && step > 0 ? origin + -origin / step * step : origin;
     };
     Bits out = in;
+    const WrittenRows rows(out);
     for (std::int64_t Y = Tiled ? firstFrom(Top, stepY) : Top; Y <= in.maxY(); Y += stepY) {
         const int y0 = static_cast<int>(std::max<std::int64_t>(Y, 0));
         const int y1 = static_cast<int>(std::min<std::int64_t>(Y + overlay.height(), in.height()));
-        for (int y = y0; y < y1; ++y) {
-            Pixel* to = out.row(y);
+        parallelFor(std::max(y1 - y0, 0), turnsTogether(in.width()), [&](int i) {
+            const int y = y0 + i;
+            Pixel* to = rows.row(y);
             for (const Span s : region.spans(y))
                 for (std::int64_t X = Tiled ? firstFrom(Left, stepX) : Left; X <= in.maxX(); X += stepX) {
                     const int x0 = static_cast<int>(std::max<std::int64_t>({X, s.x0, 0}));
@@ -41,7 +44,7 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
                     if (x0 < x1 && !overlayPixels(in.row(y) + x0, over + (x0 - X), a, b, key, x1 - x0, to + x0))
                         throw RuntimeError(Fault::Overflow);
                 }
-        }
+        });
         progressDue(Y - Top, std::int64_t(in.maxY()) - Top);
     }
     report(100);

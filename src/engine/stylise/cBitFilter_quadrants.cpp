@@ -58,9 +58,18 @@ auto painted(const Bits& bits, const Region& region, bool four)
     };
 }
 
+constexpr int kRows = 64; // of a piece, which begins with two rows of windows that the one before had, too
+
 } // namespace
 
-Bits cBitFilter::Dissolve() { return eachSpan(0, painted(bits_, region_, true)); }
-Bits cBitFilter::PAINTING() { return eachSpan(0, painted(bits_, region_, false)); }
+Bits cBitFilter::Dissolve()
+{
+    return eachSpanOf(0, {kRows}, [in = bits_, region = region_] { return painted(in, region, true); });
+}
+
+Bits cBitFilter::PAINTING()
+{
+    return eachSpanOf(0, {kRows}, [in = bits_, region = region_] { return painted(in, region, false); });
+}
 
 } // namespace velara
