@@ -36,7 +36,7 @@ constexpr DotMatrix kClusteredDots{{
     32, 40, 54, 38, 31, 21, 19, 29}, {0.1F, 500}};
 // clang-format on
 
-DotScreen::DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix,
+DotScreen::DotScreen(const std::vector<Pixel>& colours, const NearestColours& nearest, const DotMatrix& matrix,
                      PaletteOf origin, bool hasManyColours)
     : matrix_(matrix), alternates_(hasManyColours), nearest_(nearest), colours_(colours),
       mixer_(colours, {matrix.contrast.seen, origin == PaletteOf::Any ? 0 : matrix.contrast.close})

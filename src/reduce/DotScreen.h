@@ -21,8 +21,8 @@ class DotScreen {
   public:
     /// colours: those that nearest knows, at most 256. For a picture of very many colours, mixtures are made for every
     /// fourth level of a channel; those of a pixel between two of them are alternated, so that the mean is kept.
-    DotScreen(const std::vector<Pixel>& colours, NearestColours& nearest, const DotMatrix& matrix, PaletteOf origin,
-              bool hasManyColours);
+    DotScreen(const std::vector<Pixel>& colours, const NearestColours& nearest, const DotMatrix& matrix,
+              PaletteOf origin, bool hasManyColours);
 
     /// The palette entries of row y, width pixels. Colours of the palette map to themselves.
     void row(const Pixel* from, std::uint8_t* to, int width, int y);
@@ -51,7 +51,7 @@ class DotScreen {
 
     const DotMatrix& matrix_;
     const bool alternates_;
-    NearestColours& nearest_;
+    NearestColours nearest_;
     const std::vector<Pixel>& colours_;
     ColourMixer mixer_;
     std::vector<bool> hasOwn_ = std::vector<bool>(std::size_t{1} << 18); // colours of the palette, by cells

@@ -1,6 +1,9 @@
 #include "reduce/EuroDepth.h"
 #include "pixels/IndexedPicture.h"
 #include "pixels/NearestColours.h"
+#include "pixels/WrittenRows.h"
+#include "pixels/threads/Copies.h"
+#include "pixels/threads/parallelFor.h"
 #include <algorithm>
 #include <cstring>
 
@@ -12,7 +15,9 @@ constexpr std::uint32_t kColour = 0x00FFFFFF;
 
 std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
 
-/// Calls body(from, to, width) for each row; margin and fourth bytes are kept.
+constexpr int kRows = 64; // of a piece of work, and from one report to the next
+
+/// Calls body(from, to, width) for each row, by all threads; margin and fourth bytes are kept.
 template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progress, Body body)
 {
     if (bits.isNull()) return bits;
@@ -20,13 +25,19 @@ template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progr
     const auto rowBytes = sizeof(Pixel) * static_cast<std::size_t>(bits.stride());
     for (const int y : {-2, -1, bits.height(), bits.height() + 1})
         std::memcpy(out.row(y) - Bits::kMargin, bits.row(y) - Bits::kMargin, rowBytes);
-    for (int y = 0; y < bits.height(); ++y) {
-        const Pixel* from = bits.row(y);
-        Pixel* to = out.row(y);
-        for (const int x : {-2, -1, bits.width(), bits.width() + 1}) to[x] = from[x];
-        body(from, to, bits.width());
-        if (progress && y % 64 == 63) progress(100 * y / bits.height());
-    }
+    const WrittenRows rows(out);
+    const auto piece = [&](int i) {
+        for (int y = i * kRows; y < std::min((i + 1) * kRows, bits.height()); ++y) {
+            const Pixel* from = bits.row(y);
+            Pixel* to = rows.row(y);
+            for (const int x : {-2, -1, bits.width(), bits.width() + 1}) to[x] = from[x];
+            body(from, to, bits.width());
+        }
+    };
+    parallelFor((bits.height() + kRows - 1) / kRows, 1, piece, [&](int i) {
+        const int last = (i + 1) * kRows - 1;
+        if (progress && last < bits.height()) progress(100 * last / bits.height());
+    });
     return out;
 }
 
@@ -52,8 +63,10 @@ Bits nearestOf(const Palette& palette, const Bits& bits, const ReduceProgress& p
 {
     std::vector<Pixel> colours;
     std::ranges::transform(palette, std::back_inserter(colours), pixelFor);
-    NearestColours nearest(colours, Distance::Squares);
-    return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) { nearest.colour(from, to, width); });
+    Copies<NearestColours> nearest(NearestColours(colours, Distance::Squares));
+    return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) {
+        nearest.lend([&](NearestColours& own) { own.colour(from, to, width); });
+    });
 }
 
 } // namespace

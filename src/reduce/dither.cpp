@@ -1,6 +1,8 @@
 #include "reduce/dither.h"
 #include "pixels/NearestColours.h"
 #include "pixels/PixelLanes.h"
+#include "pixels/threads/Copies.h"
+#include "pixels/threads/parallelFor.h"
 #include "reduce/DotScreen.h"
 #include <algorithm>
 #include <span>
@@ -23,25 +25,27 @@ class Work {
     }
     IndexedPicture take() { return std::move(picture_); }
 
-    /// Pixels are independent: index = body(pixel, x, y).
-    template <class Body> void eachPixel(Body body)
+    /// The entry nearest to what of(pixel) gives; pixels are independent.
+    template <class Of> void eachPixel(Of of)
     {
-        for (int y = 0; y < bits_.height(); ++y) {
+        Copies<NearestColours> nearest(nearest_);
+        const auto row = [&](int y) {
             const Pixel* from = bits_.row(y);
             std::uint8_t* to = rowOf(y);
-            for (int x = 0; x < bits_.width(); ++x) to[x] = static_cast<std::uint8_t>(body(from[x], x, y));
-            told(y);
-        }
+            nearest.lend([&](NearestColours& own) {
+                for (int x = 0; x < bits_.width(); ++x) to[x] = static_cast<std::uint8_t>(own(of(from[x])));
+            });
+        };
+        parallelFor(bits_.height(), turnsTogether(bits_.width()), row, [this](int y) { told(y); });
     }
-    int nearest(Pixel p) { return nearest_(p); }
 
     void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        DotScreen screen(colours_, nearest_, matrix, origin, hasManyColours());
-        for (int y = 0; y < bits_.height(); ++y) {
-            screen.row(bits_.row(y), rowOf(y), bits_.width(), y);
-            told(y);
-        }
+        Copies<DotScreen> screens(DotScreen(colours_, nearest_, matrix, origin, hasManyColours()));
+        const auto row = [&](int y) {
+            screens.lend([&](DotScreen& own) { own.row(bits_.row(y), rowOf(y), bits_.width(), y); });
+        };
+        parallelFor(bits_.height(), turnsTogether(bits_.width()), row, [this](int y) { told(y); });
     }
 
     /// All of the error goes to the next row, shift columns to the right.
@@ -221,7 +225,7 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
     Work work(bits, palette, progress);
     switch (dither) {
     case Dither::Binary:
-        work.eachPixel([&](Pixel p, int, int) { return work.nearest(blackOrWhite(p)); });
+        work.eachPixel(blackOrWhite);
         break;
     case Dither::Ordered:
         work.screened(kDispersedDots, origin);
@@ -249,7 +253,7 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
         break;
     case Dither::None:
     default:
-        work.eachPixel([&](Pixel p, int, int) { return work.nearest(p); });
+        work.eachPixel([](Pixel p) { return p; });
     }
     return work.take();
 }
