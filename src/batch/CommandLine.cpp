@@ -1,4 +1,5 @@
 #include "batch/CommandLine.h"
+#include "pixels/threads/parallelFor.h"
 #include <algorithm>
 #include <span>
 
@@ -26,6 +27,15 @@ bool takeOption(CommandLine& line, const QString& text)
     return true;
 }
 
+int threadsFrom(const QString& text)
+{
+    bool isNumber = false;
+    const int threads = text.toInt(&isNumber);
+    if (!isNumber || threads < 1 || threads > kMostThreads)
+        throw badArgument(QStringLiteral("--threads: a number from 1 to %1 has to follow").arg(kMostThreads));
+    return threads;
+}
+
 constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ... | --icon WxH] OUTPUT";
 
 } // namespace
@@ -48,6 +58,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
         } else if (text == select) {
             if (++i == arguments.size()) throw badArgument(QStringLiteral("--select: a shape has to follow"));
             middle.emplace_back(true, arguments[i]);
+        } else if (text == QStringLiteral("--threads")) {
+            line.threads = threadsFrom(arguments.value(++i));
         } else if (text == QStringLiteral("--icon")) {
             if (++i == arguments.size())
                 throw badArgument(QStringLiteral("--icon: a size has to follow, such as 32x32"));

@@ -24,6 +24,7 @@ struct CommandLine {
     std::vector<LineStep> steps;
     std::optional<WebOrder> web;   // OUTPUT is a web file
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
+    std::optional<int> threads;    // all cores without it
     bool verbose = false, help = false, list = false, partial = false;
 
     /// Throws a Failure that names the unusable argument.

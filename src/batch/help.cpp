@@ -86,6 +86,7 @@ is transparent.
 
 --list     prints every word and every operation with its arguments
 --partial  takes what is there of a picture file whose end is missing
+--threads N  1 to 64 threads for an operation; all cores without it
 --verbose  tells on the error output what is done, and how far it is
 --help     prints this
 --         what follows are no options

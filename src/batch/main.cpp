@@ -5,6 +5,7 @@
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/savePicture.h"
+#include "pixels/threads/parallelFor.h"
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -96,6 +97,7 @@ void run(const QStringList& arguments)
         std::fputs((line.help ? helpText() : listText()).toUtf8().constData(), stdout);
         return;
     }
+    if (line.threads) setThreadCount(*line.threads);
     BatchPlatform platform;
     fileOf(line.output);
     const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };

@@ -34,7 +34,7 @@ template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progr
             body(from, to, bits.width());
         }
     };
-    parallelFor((bits.height() + kRows - 1) / kRows, 1, piece, [&](int i) {
+    parallelFor((bits.height() + kRows - 1) / kRows, turnsTogether(kRows * bits.width()), piece, [&](int i) {
         const int last = (i + 1) * kRows - 1;
         if (progress && last < bits.height()) progress(100 * last / bits.height());
     });

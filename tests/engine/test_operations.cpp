@@ -1,11 +1,13 @@
 // Every operation of the table compared with its definition, for random pictures, selections and arguments; and its
 // vector kernels, which give the same bytes for every instruction set that the processor supports.
 #include "engine/colour/mPalette.h"
+#include "pixels/threads/parallelFor.h"
 #include "support/filterOf.h"
 #include "support/pictures.h"
 #include "support/sums.h"
 #include "support/typicalArguments.h"
 #include <hwy/targets.h>
+#include <thread>
 
 namespace velara {
 namespace {
@@ -31,6 +33,51 @@ TEST(Operations, TheBaselineGivesWhatTheBestGives)
         EXPECT_TRUE(sameBits(best, run(op.name, arguments, bits, region))) << op.name;
     }
     use(0);
+}
+
+// Results, faults, percentages and where a report ends the filter: small pieces spread even a small picture.
+TEST(Operations, AnyNumberOfThreadsGivesTheSame)
+{
+    struct Run {
+        Bits bits;
+        std::vector<int> percents;
+        bool operator==(const Run&) const = default;
+    };
+    const auto runOf = [](const Operation& op, const Region& region, int lastReport) {
+        cBitFilter filter = filterOf(randomBits(161, 301, 4), region);
+        Run run;
+        filter.clock = [now = 0U]() mutable { return now += 11; };
+        filter.Progress = [&](int percent) {
+            run.percents.push_back(percent);
+            if (int(run.percents.size()) == lastReport) throw Cancelled();
+        };
+        try {
+            op.call(filter, typicalArguments(op));
+            run.bits = filter.bits();
+        } catch (const Cancelled&) {
+        }
+        return run;
+    };
+    PaletteColors() = {{0, 0, 0}, {255, 255, 255}, {200, 30, 40}};
+    const Region regions[] = {Region::rectangle(0, 0, 161, 301), Region::ellipse(-20, 3, 150, 290)};
+    for (const Operation& op : operations())
+        for (const Region& region : regions)
+            for (const int lastReport : {0, 40}) {
+                setThreadCount(1);
+                const Run one = runOf(op, region, lastReport);
+                for (const int threads : {2, 3, 8}) {
+                    setThreadCount(threads, 1);
+                    EXPECT_TRUE(runOf(op, region, lastReport) == one) << op.name << " by " << threads;
+                }
+            }
+    const TrialFamily family = operationTrials();
+    for (const std::string& subject : family.subjects) {
+        setThreadCount(1);
+        const Sums one = sumsOf(family, subject, &Trial::fast);
+        setThreadCount(3, 1);
+        EXPECT_EQ(sumsOf(family, subject, &Trial::fast), one) << subject;
+    }
+    setThreadCount(int(std::thread::hardware_concurrency()));
 }
 
 } // namespace

@@ -52,7 +52,7 @@ std::array<std::int64_t, 256> histogram(const Bits& bits)
     constexpr int kRows = 64;
     std::array<std::int64_t, 256> all{};
     std::mutex guard;
-    parallelFor((bits.height() + kRows - 1) / kRows, 1, [&](int piece) {
+    parallelFor((bits.height() + kRows - 1) / kRows, turnsTogether(kRows * bits.width()), [&](int piece) {
         std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
         std::vector<Pixel> greys(std::size_t(bits.width()));
         for (int y = piece * kRows; y < std::min((piece + 1) * kRows, bits.height()); ++y) {

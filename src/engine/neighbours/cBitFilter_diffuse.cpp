@@ -114,7 +114,7 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
         }
     };
     const auto bottomOf = [&](int i) { return std::min(box.ymin + (i + 1) * kBlockRows - 1, box.ymax); };
-    parallelFor((box.ymax - box.ymin) / kBlockRows + 1, 1,
+    parallelFor((box.ymax - box.ymin) / kBlockRows + 1, turnsTogether(kBlockRows * in.width()),
                 [&](int i) { block(box.ymin + i * kBlockRows, bottomOf(i)); },
                 [&](int i) { progressDue(bottomOf(i), in.maxY()); });
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);

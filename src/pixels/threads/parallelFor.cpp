@@ -1,5 +1,6 @@
 #include "pixels/threads/parallelFor.h"
 #include "pixels/threads/Workers.h"
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <limits>
@@ -10,10 +11,9 @@ namespace velara {
 
 namespace {
 
-constexpr int kMostThreads = 64;
-constexpr int kWorthHelp = 4; // a loop of fewer pieces is over before a helper has woken
+constexpr int kWorthHelp = 3; // a loop of fewer pieces is over before a helper has woken
 
-std::atomic<int> wanted{0}; // 0: all cores
+std::atomic<int> wanted{0}, pieceOfPixels{kPixelsAPiece}; // 0: all cores
 
 /// One loop. A helper may come late, when the loop has ended: then it touches nothing of the caller's.
 class Loop {
@@ -122,7 +122,16 @@ int threadCount()
     return set > 0 ? set : cores;
 }
 
-void setThreadCount(int threads) { wanted = std::clamp(threads, 1, kMostThreads); }
+void setThreadCount(int threads, int pixelsAPiece)
+{
+    wanted = std::clamp(threads, 1, kMostThreads);
+    pieceOfPixels = std::max(pixelsAPiece, 1);
+}
+
+int turnsTogether(std::int64_t pixelsATurn)
+{
+    return static_cast<int>(std::max<std::int64_t>(1, pieceOfPixels / std::max<std::int64_t>(1, pixelsATurn)));
+}
 
 void parallelFor(int count, int together, const std::function<void(int)>& turn, const std::function<void(int)>& done)
 {
