@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate screenshots bench gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate screenshots bench bench-check gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -56,6 +56,10 @@ screenshots: all
 
 bench: all
 	$(RELEASE)/bin/velara-bench
+
+# Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
+bench-check: all
+	@scripts/bench_check.py $(RELEASE)/bin/velara-bench
 
 # For how long the window's thread is busy at a time, a row a command word: make bench-window SIZE=16000x8000 WORDS="UNDO 50"
 SIZE ?= 6000x4000

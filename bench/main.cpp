@@ -1,12 +1,17 @@
-// velara-bench [--size WxH] [NAME]...: times the rows whose family or name contains one of the NAMEs, or all of them,
-// and prints one table.
+// velara-bench [--size WxH] [--cores] [--json FILE] [NAME]...: times the rows whose family or name contains one of the
+// NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with all cores, as a part
+// of that with one thread. --json writes the figures by name, to compare runs with.
 #include "bench.h"
+#include "pixels/threads/parallelFor.h"
 #include "support/typicalArguments.h"
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <ctime>
+#include <fstream>
 #include <iostream>
+#include <map>
+#include <thread>
 
 namespace velara::bench {
 
@@ -19,7 +24,9 @@ std::vector<Row>& rows()
 namespace {
 
 constexpr int kPairs = 7;
-constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %s\n";
+constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %6s  %s\n";
+
+bool withCores = false;
 
 /// Processor time for ratios, so that other running programs don't count; wall-clock time for rows in ms, which may
 /// wait for the disk.
@@ -69,6 +76,20 @@ try {
         figures.push_back(bodies.back() / (reference * timing.share));
         state.SetIterationTime(bodies.back() / 1000);
     }
+    if (withCores) {
+        std::vector<double> parts;
+        for (int i = 0; i < kPairs; ++i) {
+            const auto by = [&](int threads) {
+                setThreadCount(threads);
+                timing.before();
+                return milliseconds(timing.body, CLOCK_MONOTONIC);
+            };
+            const double one = by(1);
+            parts.push_back(by(static_cast<int>(std::thread::hardware_concurrency())) / one);
+        }
+        setThreadCount(1);
+        state.counters["cores"] = median(parts);
+    }
     state.counters["ms"] = median(bodies);
     state.counters["figure"] = median(figures);
 } catch (const std::exception& e) {
@@ -80,7 +101,7 @@ class TableReporter : public benchmark::BenchmarkReporter {
   public:
     bool ReportContext(const Context&) override
     {
-        std::printf(kLine, "family", "operation", "ms", "ratio", "must", "goal", "met", "counted in");
+        std::printf(kLine, "family", "operation", "ms", "ratio", "must", "goal", "met", "cores", "counted in");
         return true;
     }
     void ReportRuns(const std::vector<Run>& runs) override
@@ -93,19 +114,36 @@ class TableReporter : public benchmark::BenchmarkReporter {
                 return std::string(v == 0 ? "-" : text);
             };
             if (run.error_occurred) {
-                std::printf(kLine, row.family.c_str(), row.name.c_str(), "-", "-", "-", "-", "no",
+                std::printf(kLine, row.family.c_str(), row.name.c_str(), "-", "-", "-", "-", "no", "-",
                             run.error_message.c_str());
                 continue;
             }
             const double figure = run.counters.at("figure");
             const char* met = !row.must ? "-" : figure > row.must ? "no" : figure > row.goal ? "must" : "goal";
+            const auto cores = run.counters.find("cores");
             std::printf(kLine, row.family.c_str(), row.name.c_str(), number(run.counters.at("ms")).c_str(),
                         number(figure).c_str(), number(row.must).c_str(), number(row.goal).c_str(), met,
-                        row.unit.c_str());
+                        number(cores == run.counters.end() ? 0 : double(cores->second)).c_str(), row.unit.c_str());
+            figures_[row.family + ": " + row.name] = figure;
         }
         std::fflush(stdout);
     }
+    const std::map<std::string, double>& figures() const { return figures_; }
+
+  private:
+    std::map<std::string, double> figures_;
 };
+
+void write(const std::map<std::string, double>& figures, const std::string& path)
+{
+    std::ofstream file(path);
+    const char* between = "{\n";
+    for (const auto& [name, figure] : figures) {
+        file << between << "  \"" << name << "\": " << figure;
+        between = ",\n";
+    }
+    file << "\n}\n";
+}
 
 /// Adds operations without a row, with their typical arguments.
 void addTheOthers()
@@ -131,10 +169,15 @@ int main(int argc, char** argv)
     using namespace velara::bench;
     Size size{6000, 4000};
     std::vector<std::string> names;
+    std::string json;
     benchmark::Initialize(&argc, argv);
     for (int i = 1; i < argc; ++i) {
         const std::string word = argv[i];
-        if (word != "--size")
+        if (word == "--cores")
+            withCores = true;
+        else if (word == "--json" && i + 1 < argc)
+            json = argv[++i];
+        else if (word != "--size")
             names.push_back(word);
         else if (++i == argc || std::sscanf(argv[i], "%dx%d", &size.width, &size.height) != 2 || size.width < 1 ||
                  size.height < 1) {
@@ -142,6 +185,7 @@ int main(int argc, char** argv)
             return 2;
         }
     }
+    velara::setThreadCount(1);
     addTheOthers();
     std::erase_if(rows(), [&](const Row& row) { return !asked(row, names); });
     if (rows().empty()) {
@@ -156,4 +200,5 @@ int main(int argc, char** argv)
             ->UseManualTime();
     TableReporter table;
     benchmark::RunSpecifiedBenchmarks(&table);
+    if (!json.empty()) write(table.figures(), json);
 }
