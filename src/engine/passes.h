@@ -2,8 +2,8 @@
 #pragma once
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
-#include "pixels/WrittenRows.h"
 #include "pixels/memory/checkSize.h"
+#include "pixels/threads/WrittenRows.h"
 #include <algorithm>
 #include <atomic>
 #include <cstring>

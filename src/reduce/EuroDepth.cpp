@@ -1,8 +1,8 @@
 #include "reduce/EuroDepth.h"
 #include "pixels/IndexedPicture.h"
 #include "pixels/NearestColours.h"
-#include "pixels/WrittenRows.h"
 #include "pixels/threads/Copies.h"
+#include "pixels/threads/WrittenRows.h"
 #include "pixels/threads/parallelFor.h"
 #include <algorithm>
 #include <cstring>

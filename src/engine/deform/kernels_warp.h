@@ -2,7 +2,7 @@
 #pragma once
 #include "engine/SpanOf.h"
 #include "pixels/Bits.h"
-#include "pixels/WrittenRows.h"
+#include "pixels/threads/WrittenRows.h"
 #include "region/Region.h"
 #include <cstdint>
 #include <vector>
