@@ -63,7 +63,7 @@ Bits nearestOf(const Palette& palette, const Bits& bits, const ReduceProgress& p
 {
     std::vector<Pixel> colours;
     std::ranges::transform(palette, std::back_inserter(colours), pixelFor);
-    Copies<NearestColours> nearest(NearestColours(colours, Distance::Squares));
+    Copies<NearestColours> nearest([&] { return NearestColours(colours, Distance::Squares); });
     return eachRow(bits, progress, [&](const Pixel* from, Pixel* to, int width) {
         nearest.lend([&](NearestColours& own) { own.colour(from, to, width); });
     });

@@ -28,7 +28,7 @@ class Work {
     /// The entry nearest to what of(pixel) gives; pixels are independent.
     template <class Of> void eachPixel(Of of)
     {
-        Copies<NearestColours> nearest(nearest_);
+        Copies<NearestColours> nearest([&] { return nearest_; });
         const auto row = [&](int y) {
             const Pixel* from = bits_.row(y);
             std::uint8_t* to = rowOf(y);
@@ -41,7 +41,8 @@ class Work {
 
     void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        Copies<DotScreen> screens(DotScreen(colours_, nearest_, matrix, origin, hasManyColours()));
+        Copies<DotScreen> screens(
+            [&, many = hasManyColours()] { return DotScreen(colours_, nearest_, matrix, origin, many); });
         const auto row = [&](int y) {
             screens.lend([&](DotScreen& own) { own.row(bits_.row(y), rowOf(y), bits_.width(), y); });
         };

@@ -3,21 +3,34 @@
 . "$(dirname "$0")/lib.sh"
 convert -size 60x40 plasma:red-blue -depth 8 -type truecolor "$scratch/in.png"
 convert -size 1500x1200 plasma:red-blue -type truecolor "$scratch/in.bmp" # comes in pieces
-# arrives N: the picture of the clipboard becomes the Nth document; it is asked for again where load kept its owner from
-# answering in time. took: milliseconds of the last attempt
+# arrives N: the picture of the clipboard becomes the Nth document, at least; it is asked for again where load kept its owner
+# from answering in time, or the keys from the menu. took: milliseconds of the last attempt
 arrives() {
-    before=$(date +%s%N)
-    keys alt+e f
+    wants
     until_true "document $1 from the clipboard" here_or_asked "$1"
     took=$((($(date +%s%N) - before) / 1000000))
 }
-here_or_asked() {
-    if documents "$1"; then return 0; fi
-    box_has_keys || return 1
-    keys Return
+wants() {
     before=$(date +%s%N)
-    keys alt+e f
+    keys Escape alt+e f
+}
+there() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" -ge "$1" ]; }
+here_or_asked() {
+    if there "$1"; then return 0; fi
+    if box_has_keys; then
+        xdotool key Return
+    elif frame_has_keys; then
+        settled # it answers once it waits for no owner any more, or has a box
+        if there "$1"; then return 0; fi
+        if frame_has_keys; then wants; fi
+    fi
     return 1
+}
+# The keys go to the frame, or, where load has kept it from them, to the message about the owner, or to the question about a
+# document of an attempt that was thought to be lost.
+ends() {
+    if box_has_keys; then xdotool key alt+n key Return; elif running; then xdotool key ctrl+q; fi
+    gone
 }
 start
 count=0
@@ -32,11 +45,6 @@ offer image/png "$scratch/in.png"
 kill -STOP "$owner"
 before=$(date +%s%N)
 keys alt+e f
-# The keys go to the frame, or, where load has kept it from them until the owner was given up, to the message about that.
-ends() {
-    if box_has_keys; then xdotool key Return; elif running; then xdotool key ctrl+q; fi
-    gone
-}
 until_true "the editor to end" ends
 took=$((($(date +%s%N) - before) / 1000000))
 kill -CONT "$owner"
@@ -77,4 +85,5 @@ told "the bytes that were given up"
 owner drip "$scratch/in.bmp" 130000
 pastes documents 2 # after more than two seconds
 saves "$scratch/out_drip.bmp" "$scratch/in.bmp" "a picture in slow pieces"
-quit
+until_true "the editor to end" ends
+wait "$editor" || fail "the editor ended with $?"

@@ -1,5 +1,6 @@
 // What the turns of a loop need for themselves, such as a table that is filled as it is used: each thread borrows one.
 #pragma once
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -8,8 +9,7 @@ namespace velara {
 
 template <class T> class Copies {
   public:
-    /// All are copies of the first.
-    explicit Copies(T first) : first_(std::move(first)) {}
+    explicit Copies(std::function<T()> make) : make_(std::move(make)) {}
 
     /// use(T&) with one that no other thread has meanwhile. Where use throws it is not used again.
     template <class Use> void lend(Use&& use)
@@ -31,10 +31,10 @@ template <class T> class Copies {
                 return last;
             }
         }
-        return std::make_unique<T>(first_);
+        return std::unique_ptr<T>(new T(make_())); // T need not be movable
     }
 
-    const T first_;
+    const std::function<T()> make_;
     std::mutex guard_;
     std::vector<std::unique_ptr<T>> free_;
 };
