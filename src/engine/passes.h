@@ -1,13 +1,12 @@
 // The calling patterns of the filters. A filter is the body of a loop that is written here.
 #pragma once
 #include "engine/cBitFilter.h"
+#include "engine/copyPixels.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/checkSize.h"
 #include "pixels/threads/WrittenRows.h"
 #include <algorithm>
 #include <atomic>
-#include <cstring>
-#include <emmintrin.h>
 #include <type_traits>
 
 namespace velara {
@@ -21,48 +20,6 @@ inline Box insidePicture(const Box& box, const Bits& bits)
 
 /// Pictures of at least this many bytes do not fit into the cache.
 constexpr std::size_t kPastTheCache = 16 << 20;
-
-/// Copies the columns x0 to x1-1.
-inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
-{
-    if (x1 > x0) std::memcpy(to + x0, from + x0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
-}
-
-/// The same by non-temporal stores, in whole cache lines: for pictures that do not fit into the cache and whose other
-/// pixels are written the same way.
-inline void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
-{
-    constexpr int kLine = 16; // pixels
-    while (x0 < x1 && reinterpret_cast<std::uintptr_t>(to + x0) % (kLine * sizeof(Pixel)) != 0) {
-        to[x0] = from[x0];
-        ++x0;
-    }
-    for (; x0 + kLine <= x1; x0 += kLine)
-        for (int i = 0; i < kLine; i += 4)
-            _mm_stream_si128(reinterpret_cast<__m128i*>(to + x0 + i),
-                             _mm_loadu_si128(reinterpret_cast<const __m128i*>(from + x0 + i)));
-    copyPixels(from, to, x0, x1);
-}
-
-/// Copies the rows y0 to y1-1, margin columns included.
-inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
-{
-    if (y1 > y0)
-        std::memcpy(to.row(y0) - Bits::kMargin, from.row(y0) - Bits::kMargin,
-                    sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
-}
-
-/// Zeroes the margin of two pixels around the picture.
-inline void clearMargin(Bits& bits)
-{
-    const auto columns = static_cast<std::size_t>(bits.stride());
-    for (const int y : {-2, -1, bits.height(), bits.height() + 1})
-        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * columns);
-    for (int y = 0; y < bits.height(); ++y) {
-        std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
-        std::memset(bits.row(y) + bits.width(), 0, sizeof(Pixel) * Bits::kMargin);
-    }
-}
 
 /// A kernel for arguments that divide by zero: it faults at the first pixel, so an empty selection doesn't.
 [[noreturn]] inline void divideByZero(const Pixel*, Pixel*, int, int) { throw RuntimeError(Fault::DivisionByZero); }
