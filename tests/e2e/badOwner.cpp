@@ -1,4 +1,4 @@
-// A misbehaving clipboard owner; its first argument selects how:
+// A misbehaving clipboard owner that tells what it is asked for; its first argument selects how:
 //   many FILE        image/png, among a million types
 //   late MS          ten kinds of picture, junk each, handed over so many milliseconds after it was asked
 //   drip FILE BYTES  image/bmp, in pieces of so many bytes, twenty a second
@@ -72,6 +72,8 @@ int main(int, char** argv)
         }
         if (event->response_type != XCB_SELECTION_REQUEST) continue;
         const auto* asked = reinterpret_cast<xcb_selection_request_event_t*>(event);
+        if (asked->target != targets) std::puts("asked for a picture");
+        std::fflush(stdout);
         if (how == "late") usleep(static_cast<unsigned>(std::atoi(argv[2])) * 1000);
         if (asked->target == targets) {
             put(asked->requestor, asked->property, XCB_ATOM_ATOM, 32, types.size(), types.data());
