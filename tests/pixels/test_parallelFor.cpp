@@ -19,8 +19,8 @@ struct ParallelFor : ::testing::TestWithParam<int> {
 TEST_P(ParallelFor, TakesEachTurnOnceAndReportsInOrderOnTheCallersThread)
 {
     for (const int count : {0, 1, 7, 1000}) {
-        std::vector<std::atomic<int>> taken(std::size_t(count));
-        std::vector<int> told, wanted(std::size_t(count));
+        std::vector<std::atomic<int>> taken(static_cast<std::size_t>(count));
+        std::vector<int> told, wanted(taken.size());
         std::iota(wanted.begin(), wanted.end(), 0);
         const auto caller = std::this_thread::get_id();
         parallelFor(
