@@ -94,13 +94,16 @@ TEST_F(FilePreviewsTest, EndsInTheMiddle)
 // A picture that uses up all its time, and claims more.
 TEST_F(FilePreviewsTest, ABombDoesntHoldUpTheOtherThumbnails)
 {
-    koaReader("import socket, struct, time\ns = socket.socket(fileno=3)\n"
+    koaReader("import socket, struct, time\nopen('" + path("begun").toUtf8() +
+              "', 'w')\ns = socket.socket(fileno=3)\n"
               "s.send(struct.pack('<Iii244s', 0x31434c56, 9000, 9000, b''))\n"
               "while time.process_time() < 3: pass\n"
               "s.send(struct.pack('<Iii244s', 0x31444c56, 0, 0, b'it had too much time'))\n");
     FilePreviews service(std::chrono::seconds(2));
     const QString bomb = file("bomb.koa", QByteArray(2 << 20, 'b')), grey = file("grey.ppm", ppm(30, '\x80'));
-    const auto first = service.thumbnail(bomb, keep), second = service.thumbnail(grey, keep);
+    const auto first = service.thumbnail(bomb, keep);
+    ASSERT_TRUE(comes([&] { return QFile::exists(path("begun")); })); // the last request is served first
+    const auto second = service.thumbnail(grey, keep);
     ASSERT_TRUE(answered(2));
     EXPECT_EQ(answers[0].size, QSize(30, 30));
     EXPECT_EQ(answers[1].reason, "bomb.koa can't be read: reading it took too long and was stopped");

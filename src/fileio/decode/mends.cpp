@@ -124,14 +124,14 @@ void mendPcx(FileBytes& file)
     const std::int64_t width = std::int64_t{file.little16(Right)} - file.little16(Left) + 1;
     const std::int64_t height = std::int64_t{file.little16(Bottom)} - file.little16(Top) + 1;
     const std::size_t bytesARow = std::size_t{file.byte(Planes)} * file.little16(BytesALine);
-    constexpr std::size_t kMostFromAByte = 32; // a run of 63 takes two
+    constexpr std::size_t kMostFromAByte = 32, kLongestRun = 63; // which takes two
     const bool isTrueColour = file.byte(BitsAPixel) == 8 && file.byte(Planes) == 3;
     if (file.byte(0) != 10 || file.byte(Encoding) != 1 || !isTrueColour || !Bits::sizeAllowed(width, height) ||
         bytesARow == 0 || bytesARow * static_cast<std::size_t>(height) > kMostFromAByte * file.size())
         return;
 
     const std::size_t rows = static_cast<std::size_t>(height) + (height == 1 ? 1 : 0);
-    std::vector<std::uint8_t> flat(kHeader + rows * bytesARow);
+    std::vector<std::uint8_t> flat(kHeader + rows * bytesARow + kLongestRun); // the last one may go beyond the end
     std::copy_n(file.bytes().data(), kHeader, flat.data());
     const auto put16 = [&](Field field, std::uint32_t value) {
         flat[field] = static_cast<std::uint8_t>(value);
@@ -146,11 +146,13 @@ void mendPcx(FileBytes& file)
     for (std::size_t at = kHeader; to < end && at < file.size();) {
         const std::uint32_t first = file.byte(at++);
         const bool isRun = first >= 0xc0;
-        const std::size_t run = std::min<std::size_t>(isRun ? first & 0x3f : 1, end - to);
+        const std::size_t run = isRun ? first & kLongestRun : 1;
         std::fill_n(flat.data() + to, run, static_cast<std::uint8_t>(isRun ? file.byte(at++) : first));
         to += run;
     }
     if (to < end) return; // the reader will find it truncated
+    std::fill(flat.begin() + static_cast<std::ptrdiff_t>(end), flat.end(), std::uint8_t{0});
+    flat.resize(kHeader + rows * bytesARow);
     file.replace(std::move(flat));
 }
 
