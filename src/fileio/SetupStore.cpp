@@ -49,7 +49,7 @@ void put(const QString& value, std::uint8_t* to, int width)
 {
     QString before;
     get(before, to, width);
-    if (value == before && before.contains(QChar::ReplacementCharacter)) return;
+    if (value == before && std::ranges::any_of(before, [](QChar c) { return c.isSurrogate(); })) return;
     const QByteArray text = wholeCharacters(nativeName(value), width);
     std::memset(to, ' ', static_cast<std::size_t>(width));
     std::memcpy(to, text.constData(), static_cast<std::size_t>(text.size()));

@@ -66,6 +66,7 @@ TEST_P(ParallelFor, AReportThatThrowsEndsItWithNobodyInATurn)
             [&](int) {
                 ++inside;
                 ++taken;
+                std::this_thread::sleep_for(std::chrono::microseconds(10));
                 --inside;
             },
             [](int i) {

@@ -175,10 +175,8 @@ class SaveDialog final : public PictureDialog {
     {
         setDefaultSuffix(suffix());
         if (!field()) return;
-        const QString name = fitting(field()->text());
-        if (name == field()->text()) return;
-        field()->setText(name);
-        selectStem(name);
+        field()->setText(fitting(field()->text())); // Qt has changed the ending where the chosen kind has one
+        selectStem(field()->text());
     }
     QString writtenAs(const QString& name) const { return request_.writtenAs ? request_.writtenAs(name) : name; }
     /// Asks where the file would be of another kind than the chosen one.
