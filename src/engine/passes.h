@@ -4,6 +4,7 @@
 #include "engine/copyPixels.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/checkSize.h"
+#include "pixels/threads/Copies.h"
 #include "pixels/threads/WrittenRows.h"
 #include <algorithm>
 #include <atomic>
@@ -46,7 +47,8 @@ template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel, C
     }
 }
 
-/// The same with a kernel for each piece: make() gives it.
+/// The same with a kernel for each thread: make() gives it. It goes from piece to piece, in any order; where make()
+/// gives a reference, all have the same one.
 template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& make)
 {
     const Bits in = bits_; // keeps the source, even if Progress calls setBits
@@ -60,8 +62,8 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
     const WrittenRows rows(out);
     const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    eachPiece(box.ymin, box.ymax + 1, cut, in, [&](int y0, int y1) {
-        decltype(auto) kernel = make();
+    using Kernel = decltype(make());
+    const auto rowsBy = [&](int y0, int y1, auto& kernel) {
         for (int y = y0; y < y1; ++y) {
             const Pixel* from = in.row(y);
             Pixel* to = rows.row(y);
@@ -78,7 +80,14 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
             }
             copy(from, to, copied, in.width() + Bits::kMargin);
         }
-    });
+    };
+    if constexpr (std::is_reference_v<Kernel>) {
+        eachPiece(box.ymin, box.ymax + 1, cut, in, [&](int y0, int y1) { rowsBy(y0, y1, make()); });
+    } else {
+        Copies<Kernel> kernels(make);
+        eachPiece(box.ymin, box.ymax + 1, cut, in,
+                  [&](int y0, int y1) { kernels.lend([&](Kernel& own) { rowsBy(y0, y1, own); }); });
+    }
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;

@@ -14,9 +14,10 @@ class SlidingWindows {
     {
     }
 
-    /// Prepares the rows above and below y; y increases from call to call.
+    /// Prepares the rows above and below y, which is best the one after the last.
     void moveTo(int y)
     {
+        if (y + 2 < next_) next_ = y - 1;
         for (int centre = std::max(y - 1, next_); centre <= y + 1; ++centre) compute(centre);
         next_ = std::max(next_, y + 2);
     }
