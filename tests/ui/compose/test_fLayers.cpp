@@ -120,6 +120,21 @@ TEST_F(LayersDialogTest, DraggingMovesAndEveryGripResizes)
     EXPECT_EQ(QRect(199, 113, 4, 4), shape(index)) << "the other corner stands";
 }
 
+TEST_F(LayersDialogTest, GripsStayApartAndInReachWhereverTheLayerGoes)
+{
+    layer({50, 50}, "a");
+    QTest::keyClick(canvas(), Qt::Key_Escape);
+    for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Up}) {
+        for (int i = 0; i < 60; ++i) QTest::keyClick(canvas(), Qt::Key(key), Qt::ShiftModifier);
+        for (int i = 0; i < 8; ++i) {
+            const QRect grip = find(QString("lblGrip_%1").arg(i))->geometry();
+            EXPECT_TRUE(canvas()->rect().contains(grip)) << i;
+            for (int j = 0; j < i; ++j)
+                EXPECT_FALSE(grip.intersects(find(QString("lblGrip_%1").arg(j))->geometry())) << i << " and " << j;
+        }
+    }
+}
+
 TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
 {
     const int index = layer({50, 50}, "abc");
@@ -127,8 +142,10 @@ TEST_F(LayersDialogTest, KeysEditTheTextOrMoveTheLayer)
         for (const int key : list) QTest::keyClick(canvas(), Qt::Key(key), with);
     };
     keys({Qt::Key_Left, Qt::Key_Backspace}); // "ac", the caret behind the a
-    keys({Qt::Key_Tab, Qt::Key_Backtab});
-    EXPECT_EQ(canvas(), dialog->focusWidget()) << "a Space would press what had the focus";
+    for (const int key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        keys({key});
+        EXPECT_EQ(canvas(), dialog->focusWidget()) << "a Space would press what had the focus";
+    }
     QTest::keyClicks(canvas(), "xy");
     keys({Qt::Key_End, Qt::Key_Return});
     QTest::keyClicks(canvas(), "d");
