@@ -205,6 +205,7 @@ TEST_F(Mouse, WithinAStrokeTheMiddleButtonIsIgnored)
     release({20, 20}, Qt::MiddleButton);
     release({6, 6});
     EXPECT_EQ(frame.snapshots, 1);
+    frame.workspace_.finish(w.document().handle());
     press({60, 50}, Qt::BackButton); // an unused button
     release({60, 50}, Qt::BackButton);
     EXPECT_EQ(frame.snapshots, 1);
