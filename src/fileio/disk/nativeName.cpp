@@ -1,9 +1,5 @@
 #include "fileio/disk/nativeName.h"
 #include <QFile>
-#include <QFileInfo>
-#include <algorithm>
-#include <dirent.h>
-#include <memory>
 
 namespace velara {
 
@@ -53,17 +49,6 @@ QString nameFrom(const QByteArray& bytes)
         i += length;
     }
     return kept;
-}
-
-QString withItsBytes(const QString& path)
-{
-    const qsizetype slash = path.lastIndexOf(u'/');
-    if (slash < 0 || !path.contains(QChar::ReplacementCharacter) || isThere(path)) return path;
-    const QString folder = withItsBytes(path.left(slash)) + u'/', name = path.mid(slash + 1);
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(nativeName(folder).constData()), closedir);
-    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
-        if (QFile::decodeName(entry->d_name) == name) return folder + nameFrom(entry->d_name);
-    return path;
 }
 
 std::optional<struct stat> statusOf(const QString& path)

@@ -11,10 +11,6 @@ namespace velara {
 /// The bytes of a path for the system.
 QByteArray nativeName(const QString& path);
 QString nameFrom(const QByteArray& bytes);
-/// The path of a file that Qt has named, whose name may have lost bytes: the entry of the folder with the same look, or
-/// the path itself. An absolute one.
-QString withItsBytes(const QString& path);
-
 /// Of what the path leads to, behind links; none when there is nothing.
 std::optional<struct stat> statusOf(const QString& path);
 bool isThere(const QString& path);

@@ -1,5 +1,4 @@
 #include "platform/desktop/dialogs/fileDialogs.h"
-#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "platform/desktop/dialogs/NameDelegate.h"
 #include "platform/desktop/dialogs/PreviewPane.h"
@@ -97,31 +96,13 @@ class PictureDialog : public RememberedDialog {
         preview->setFixedWidth(kPreviewWidth);
         if (auto* grid = qobject_cast<QGridLayout*>(layout()))
             grid->addWidget(preview, 0, grid->columnCount(), grid->rowCount(), 1);
-        connect(this, &QFileDialog::currentChanged, preview,
-                [preview](const QString& path) { preview->showFile(withItsBytes(path)); });
+        connect(this, &QFileDialog::currentChanged, preview, &PreviewPane::showFile);
         connect(this, &QFileDialog::directoryEntered, preview, [preview] { preview->showFile({}); });
         if (const auto* name = findChild<QLineEdit*>("fileNameEdit"))
             connect(name, &QLineEdit::textChanged, preview, [this, preview](const QString& text) {
                 const QFileInfo typed(directory(), text);
                 if (typed.isFile()) preview->showFile(typed.filePath());
             });
-    }
-};
-
-/// Qt finds no file whose name is not UTF-8.
-class OpenDialog final : public PictureDialog {
-  public:
-    OpenDialog(Platform& platform, const FileDialog& request) : PictureDialog(platform, "Open", request)
-    {
-        setFileMode(ExistingFile);
-    }
-    void accept() override
-    {
-        const QString name = selectedFiles().value(0), found = withItsBytes(name);
-        if (found != name)
-            QDialog::accept();
-        else
-            QFileDialog::accept();
     }
 };
 
@@ -210,14 +191,16 @@ std::optional<QString> run(QFileDialog* dialog)
     const QStringList files = dialog->selectedFiles();
     delete dialog;
     if (!accepted || files.isEmpty()) return std::nullopt;
-    return withItsBytes(files.front());
+    return files.front();
 }
 
 } // namespace
 
 std::optional<QString> askOpenName(Platform& platform, const FileDialog& request)
 {
-    return run(new OpenDialog(platform, request));
+    auto* dialog = new PictureDialog(platform, "Open", request);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return run(dialog);
 }
 
 std::optional<QString> askSaveName(Platform& platform, const FileDialog& request)
