@@ -29,8 +29,13 @@ QString filterOf(std::span<const Kinds> kinds)
 {
     QStringList parts;
     for (const Kinds& line : kinds) {
-        const QString extensions = text(line.extensions);
-        parts << text(line.caption) << QStringLiteral("*.") + extensions.split(u' ').join(QStringLiteral(";*."));
+        QStringList patterns;
+        for (const QString& usual : text(line.extensions).split(u' ')) {
+            patterns << "*." + usual;
+            for (const OtherName& other : kOtherNames)
+                if (text(other.usual) == usual) patterns << "*." + text(other.extension);
+        }
+        parts << text(line.caption) << patterns.join(u';');
     }
     return parts.join(u'|');
 }
@@ -48,16 +53,15 @@ QString withExtension(const QString& path, const QString& extension)
 QString withEnding(const QString& path, const QString& extension)
 {
     const QString ending = extensionOf(path);
-    if (ending == extension || (ending == "jpeg" && extension == "jpg") || (ending == "tiff" && extension == "tif"))
-        return path;
-    const bool isOther = formatOf(path) != nullptr || ending == "jpeg" || ending == "tiff";
-    const QString stem = isOther ? path.chopped(ending.size() + 1) : path;
+    if (usualExtension(ending.toStdString()) == usualExtension(extension.toStdString())) return path;
+    const QString stem = formatOf(path) ? path.chopped(ending.size() + 1) : path;
     return stem + (stem.endsWith(u'.') ? "" : ".") + extension;
 }
 
 const Family* familyOf(const QString& path)
 {
-    const std::string extension = extensionOf(path).toStdString();
+    const std::string given = extensionOf(path).toStdString();
+    const std::string_view extension = usualExtension(given);
     const auto* found = std::ranges::find_if(kFamilies, [&](const Family& each) { return each.holds(extension); });
     return extension.empty() || found == std::end(kFamilies) ? nullptr : found;
 }

@@ -118,10 +118,24 @@ inline constexpr Kinds kSaved[] = {
 };
 // clang-format on
 
-/// Finds a format by its extension in lower case; null when there is none.
+/// Other extensions by which files of a format go.
+struct OtherName {
+    std::string_view extension, usual;
+};
+inline constexpr OtherName kOtherNames[] = {
+    {"jpeg", "jpg"}, {"jpe", "jpg"}, {"jfif", "jpg"}, {"tiff", "tif"}}; // and dialogs list them with it
+
+/// The extension, in lower case, of the format's row.
+constexpr std::string_view usualExtension(std::string_view extension)
+{
+    const auto* found = std::ranges::find(kOtherNames, extension, &OtherName::extension);
+    return found == std::end(kOtherNames) ? extension : found->usual;
+}
+
+/// Finds a format by an extension in lower case; null when there is none.
 constexpr const Format* findFormat(std::string_view extension)
 {
-    const auto* found = std::ranges::find(kFormats, extension, &Format::extension);
+    const auto* found = std::ranges::find(kFormats, usualExtension(extension), &Format::extension);
     return found == std::end(kFormats) ? nullptr : found;
 }
 /// Finds it by the extension of a path.
@@ -132,8 +146,8 @@ QString extensionOf(const QString& path);
 /// The path, with the extension added if its name has none.
 QString withExtension(const QString& path, const QString& extension);
 
-/// The path under the ending of a format: "a.jpg" becomes "a.png", "a" and "a.2" become "a.png" and "a.2.png". "jpeg"
-/// and "tiff" are as good as the shorter forms.
+/// The path under the ending of a format: "a.jpg" becomes "a.png", "a" and "a.2" become "a.png" and "a.2.png". Another
+/// name of the format is as good.
 QString withEnding(const QString& path, const QString& extension);
 
 /// The kinds of picture by the names that users know: what the browser shows as a picture, what a preview calls it, and

@@ -89,7 +89,7 @@ constexpr Writer kWriters[] = {
 
 constexpr const Writer* writerOf(std::string_view extension)
 {
-    const auto* writer = std::ranges::find(kWriters, extension, &Writer::extension);
+    const auto* writer = std::ranges::find(kWriters, usualExtension(extension), &Writer::extension);
     return writer == std::end(kWriters) ? nullptr : writer;
 }
 static_assert(std::ranges::all_of(kFormats,

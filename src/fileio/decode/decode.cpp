@@ -84,7 +84,7 @@ constexpr Reader kReaders[] = {
 
 constexpr const Reader* readerOf(std::string_view extension)
 {
-    const auto* reader = std::ranges::find(kReaders, extension, &Reader::extension);
+    const auto* reader = std::ranges::find(kReaders, usualExtension(extension), &Reader::extension);
     return reader == std::end(kReaders) ? nullptr : reader;
 }
 // Counted instead of searched: under the sanitizers a pointer's null is not a constant expression.

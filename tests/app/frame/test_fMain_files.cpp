@@ -40,6 +40,7 @@ TEST_F(FrameTest, OpenGivesNamesRecentEntryAndOptions)
     EXPECT_EQ(setup.ImagesPath, platform.folder.path() + "/");
     EXPECT_EQ(platform.lastDialog.title, "Open file");
     EXPECT_TRUE(platform.lastDialog.filter.startsWith("All Supported Picture Formats|*.bmp;*.wbmp;*.dib;*.wmf;"));
+    EXPECT_TRUE(platform.lastDialog.filter.contains("Independent JPEG Group (*.JPG)|*.jpg;*.jpeg;*.jpe;*.jfif|"));
     EXPECT_TRUE(platform.lastDialog.filter.contains("|*.koa|"));
 }
 
