@@ -93,14 +93,13 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
     return out;
 }
 
-/// A pass over the whole picture that writes nothing: the sum of row(source row), with progress and the final report.
+/// A pass over the whole picture that writes nothing: the sum of row(source row), with progress.
 template <class Row> std::int64_t cBitFilter::sumOfRows(const Bits& in, Row&& row)
 {
     std::atomic<std::int64_t> sum = 0;
     eachPiece(0, in.height(), {}, in, [&](int y0, int y1) {
         for (int y = y0; y < y1; ++y) sum.fetch_add(row(in.row(y)), std::memory_order_relaxed);
     });
-    report(100);
     return sum;
 }
 

@@ -10,6 +10,7 @@
 #include "support/pictures.h"
 #include "support/places.h"
 #include <QFileInfo>
+#include <QImage>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -118,8 +119,7 @@ TEST_F(SavePicture, AnymapGetsItsExtensionAndANotice)
 TEST_F(SavePicture, WritesNothingWithoutAPictureOrAWriter)
 {
     EXPECT_EQ(save(Bits(), "a.png"), SaveResult::NotWritten);
-    for (const char* name : {"a.ppm", "a", "a.xyz"})
-        EXPECT_EQ(save(name), SaveResult::NotWritten) << name;
+    for (const char* name : {"a.ppm", "a", "a.xyz"}) EXPECT_EQ(save(name), SaveResult::NotWritten) << name;
     EXPECT_TRUE(platform.log.empty());
     EXPECT_EQ(save("a.ico"), SaveResult::Refused);
     EXPECT_EQ(platform.log, std::vector<std::string>{"message: Velara Studio: This facility is currently turned Off!"});
@@ -262,7 +262,7 @@ TEST_F(SavePicture, WhoMayDoWhatWithAFileStays)
     const auto savedOver = [&](const QString& name, bool inPlace, const QString& rights) {
         const ino_t before = statusOf(name).st_ino;
         EXPECT_EQ(save(name), SaveResult::Written) << qPrintable(name);
-        EXPECT_TRUE(load(path(name)).ok()) << qPrintable(name);
+        EXPECT_FALSE(QImage(path(name)).isNull()) << qPrintable(name); // another user may not run what reads
         EXPECT_EQ(rightsOf(name), rights) << qPrintable(name);
         EXPECT_EQ(statusOf(name).st_ino == before, inPlace) << qPrintable(name);
     };

@@ -82,6 +82,7 @@ Bits cBitFilter::CONTRAST(int Level)
     const Bits in = bits_;
     const std::int64_t sum =
         sumOfRows(in, [&](const Pixel* row) { return colourKernels().sumOfThirds(row, in.width()); });
+    report(100);
     if (in.isNull()) throw RuntimeError(Fault::DivisionByZero);
     const auto mean = static_cast<int>(sum / (std::int64_t(in.width()) * in.height()));
     const float f = static_cast<float>((Level + 100.0) / 100);

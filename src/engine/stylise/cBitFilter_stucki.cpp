@@ -1,8 +1,8 @@
 // Black and white by error diffusion with Stucki's kernel, thresholded at the picture's own mean.
+#include "engine/colour/kernels_colour.h"
 #include "engine/passes.h"
 #include "engine/stylise/kernels_stucki.h"
 #include "pixels/numbers.h"
-#include <numeric>
 
 namespace velara {
 
@@ -112,15 +112,10 @@ class Stucki {
 Bits cBitFilter::StuckiBW(int Divisor)
 {
     const Bits in = bits_;
-    std::uint64_t sum = 0;
-    std::vector<std::int16_t> greys(static_cast<std::size_t>(in.width()));
-    for (int y = 0; y < in.height(); ++y) {
-        stuckiKernels().greys(in.row(y), greys.data(), 0, in.width());
-        sum = std::accumulate(greys.begin(), greys.end(), sum);
-        progressDue(y, in.maxY());
-    }
+    const std::int64_t sum =
+        sumOfRows(in, [&](const Pixel* row) { return colourKernels().sumOfThirds(row, in.width()); });
     if (in.isNull()) return eachSpan(0, divideByZero); // no pixel exists that could raise it
-    const auto count = static_cast<std::uint64_t>(in.width()) * static_cast<std::uint64_t>(in.height());
+    const std::int64_t count = std::int64_t{in.width()} * in.height();
     if (Divisor == 0) return eachSpan(0, divideByZero);
     return eachSpan(0, [stucki = Stucki(in, static_cast<int>(sum / count), Divisor)](const Pixel* from, Pixel* to,
                                                                                      int x0, int x1, int y) mutable {
