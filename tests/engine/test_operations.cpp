@@ -70,6 +70,12 @@ TEST(Operations, AnyNumberOfThreadsGivesTheSame)
                     EXPECT_TRUE(runOf(op, region, lastReport) == one) << op.name << " by " << threads;
                 }
             }
+    const Bits wide = randomBits(32000, 8, 5); // its last row is copied faster than the one before it is made
+    const Region all = Region::rectangle(0, 0, 32000, 8);
+    setThreadCount(1);
+    const Bits embossed = run("EMBOSS", {10}, wide, all);
+    setThreadCount(2, 1);
+    for (int i = 0; i < 50; ++i) EXPECT_TRUE(sameBits(embossed, run("EMBOSS", {10}, wide, all)));
     const TrialFamily family = operationTrials();
     for (const std::string& subject : family.subjects) {
         setThreadCount(1);

@@ -39,16 +39,16 @@ TEST_P(ParallelFor, EndsAtTheFirstTurnThatThrows)
 {
     for (const int together : {1, 16}) {
         std::vector<int> told;
-        const auto loop = [&] {
-            parallelFor(
-                500, together,
-                [](int i) {
-                    if (i == 211 || i == 213 || i > 400) throw std::runtime_error(std::to_string(i));
-                },
-                [&](int i) { told.push_back(i); });
+        std::atomic<bool> isFirst = true; // that has not thrown yet
+        const auto turn = [&](int i) {
+            if (i != 211 && i != 213 && i < 400) return;
+            while (i == 213 && isFirst) std::this_thread::yield(); // another thread is in turn 211
+            if (i == 211) isFirst = false;
+            if (i == 213) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            throw std::runtime_error(std::to_string(i));
         };
         try {
-            loop();
+            parallelFor(500, together, turn, [&](int i) { told.push_back(i); });
             FAIL();
         } catch (const std::runtime_error& error) {
             EXPECT_STREQ(error.what(), "211");

@@ -14,7 +14,7 @@ struct SessionEndTest : FrameTest {
 
     void begin(std::chrono::milliseconds patience)
     {
-        std::signal(SIGHUP, SIG_DFL); // nohup ignores it
+        for (const int signal : {SIGTERM, SIGHUP, SIGINT}) std::signal(signal, SIG_DFL); // ignored in the background
         end = std::make_unique<SessionEnd>(*frame, patience, [this] { ++left; });
         frame->adopt(randomBits(8, 8, 1), "Scan.bmp");
     }
