@@ -356,6 +356,23 @@ TEST_F(Road, ASaveThatWaitsComesBeforeItsDocumentCloses)
     EXPECT_FALSE(fileBytes(path("a.bmp")) == before);
 }
 
+TEST_F(Road, AStrokeUnderWayHoldsTheChangesOfItsDocument)
+{
+    openFile(file("a.bmp", 60, 45));
+    openFile(file("b.bmp", 50, 40));
+    fImage *a = frame->documents()[0], *b = frame->documents()[1];
+    activate(a);
+    click("Pencil");
+    mouse(a, QEvent::MouseButtonPress, {3, 3}, Qt::LeftButton);
+    std::atomic<bool> began = false, other = false;
+    frame->workspace().change(a->document().handle(), {[&](Document&, cBitFilter&) { began = true; }});
+    frame->workspace().change(b->document().handle(), {[&](Document&, cBitFilter&) { other = true; }});
+    ASSERT_TRUE(comes([&] { return other && !frame->workspace().isBusy(b->document().handle()); }));
+    EXPECT_FALSE(began);
+    mouse(a, QEvent::MouseButtonRelease, {3, 3}, {});
+    EXPECT_TRUE(comes([&] { return began.load(); }));
+}
+
 /// Two files, one rotated at high quality; the other is drawn on meanwhile, and once more afterwards.
 TEST_F(Road, AStrokeOnAnotherDocumentWhileOneTurnsIsThatDocuments)
 {
