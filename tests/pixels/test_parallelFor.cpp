@@ -39,11 +39,14 @@ TEST_P(ParallelFor, EndsAtTheFirstTurnThatThrows)
 {
     for (const int together : {1, 16}) {
         std::vector<int> told;
-        std::atomic<bool> isFirst = true; // that has not thrown yet
+        std::atomic<bool> firstThrows = false, otherBegan = false;
+        const bool both = GetParam() > 1 && together == 1; // then another thread is in turn 213, and throws after 211
         const auto turn = [&](int i) {
             if (i != 211 && i != 213 && i < 400) return;
-            while (i == 213 && isFirst) std::this_thread::yield(); // another thread is in turn 211
-            if (i == 211) isFirst = false;
+            if (i == 213) otherBegan = true;
+            while (both && i == 211 && !otherBegan) std::this_thread::yield();
+            if (i == 211) firstThrows = true;
+            while (i == 213 && !firstThrows) std::this_thread::yield();
             if (i == 213) std::this_thread::sleep_for(std::chrono::milliseconds(5));
             throw std::runtime_error(std::to_string(i));
         };
