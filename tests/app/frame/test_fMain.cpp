@@ -302,6 +302,8 @@ TEST_F(FrameTest, TheFirstResizeStoresALayoutOnceForTheUser)
     EXPECT_EQ(setup.FrameWidth, 700 * 15);
     EXPECT_EQ(setup.FrameHeight, 500 * 15);
     frame->showMaximized();
+    QCoreApplication::processEvents();
+    EXPECT_GT(frame->width(), 700);
     EXPECT_TRUE(setup.FrameMaximized);
     EXPECT_EQ(setup.FrameWidth, 700 * 15) << "the size to come back to";
 }
