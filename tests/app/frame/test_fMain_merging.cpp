@@ -119,7 +119,7 @@ TEST_F(FrameMerging, PicturesThatOpenChangeAndCloseMeanwhile)
     const Bits before = lower->bits();
     upper->parentWidget()->close();
     QTest::mouseClick(find<QPushButton>("cmdOK"), Qt::LeftButton); // before the window has noticed the change
-    frame->workspace().wait(); // for what may have been begun
+    frame->workspace().wait();                                     // for what may have been begun
     ASSERT_TRUE(comes([&] { return !dialog || find<QComboBox>("cbOverlay")->currentText() == "third.bmp"; }) && dialog);
     EXPECT_TRUE(sameBits(before, lower->bits())) << "another picture than the chosen one is not merged";
     for (fImage* image : frame->documents()) image->parentWidget()->close();
