@@ -5,6 +5,7 @@
 #include <exception>
 #include <limits>
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace velara {
@@ -144,7 +145,10 @@ void parallelFor(int count, int together, const std::function<void(int)>& turn, 
         return;
     }
     const auto loop = std::make_shared<Loop>(count, together, turn, done);
-    for (int i = 1; i < threads; ++i) helpers().start([loop] { loop->help(); });
+    try {
+        for (int i = 1; i < threads; ++i) helpers().start([loop] { loop->help(); });
+    } catch (const std::bad_alloc&) { // those that have begun are waited for by run()
+    }
     loop->run();
 }
 
