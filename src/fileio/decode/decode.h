@@ -6,9 +6,34 @@
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
 #include <QString>
+#include <array>
+#include <cstdint>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace velara::decode {
+
+/// What a file carries beside its pixels. The bytes are the file's own, not looked into by the reader.
+struct Carried {
+    int orientation = 0;               // 1 to 8, as EXIF counts, where the container says it; 0: only exif may know
+    std::vector<std::uint8_t> profile; // ICC
+    double gamma = 0;                  // of a PNG, as its chunk has it (0.45455 is usual); 0: none
+    std::array<double, 8> chromaticities{}; // of a PNG: x and y of white, red, green and blue; zeros: none
+    std::vector<std::uint8_t> exif;         // from the byte order mark ("II", "MM") on
+    std::vector<std::uint8_t> xmp, iptc;    // the packet; the records from the first 0x1c on
+    std::string comment;                    // UTF-8 or Latin-1
+    double dotsAcross = 0, dotsDown = 0;    // per inch, where the container says it; 0: unknown
+    int pages = 1;                          // pages or frames in the file
+};
+
+/// The samples of a file that `row` has lost some of: for the conversion into true colours.
+struct Samples {
+    int channels = 0; // 3: red, green, blue; 4: cyan, magenta, yellow, black, where 0 is no ink
+    int bytes = 0;    // per sample; two are in the machine's order
+    /// Writes the W times `channels` samples of row y (0 is the top one).
+    std::function<void(int y, void* row)> row;
+};
 
 /// A picture whose rows are produced on demand, so that it isn't in memory twice.
 struct Decoded {
@@ -17,6 +42,8 @@ struct Decoded {
     std::function<void(int y, Pixel* row)> row;
     QString reason; // why there is no picture, or why it is incomplete
     Origin origin = {};
+    Carried carried = {};
+    Samples samples = {}; // empty where row has them all
     bool ok() const { return static_cast<bool>(row); }
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
