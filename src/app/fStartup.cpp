@@ -154,6 +154,7 @@ void Startup::fillFrame()
     frame_->setDialogFolder(setup_.ImagesPath.trimmed());
     frame_->FillRecent();
     if (!frame_->bars().loadLayout()) frame_->boxes().dockAll();
+    if (second_) frame_->boxes().moveAside();
     frame_->applyBars();
     frame_->initToolPanes();
 }

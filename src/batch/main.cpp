@@ -115,10 +115,10 @@ void run(const QStringList& arguments)
 }
 
 /// Allocating more than the machine has then fails and is reported, instead of the system killing the program. The
-/// address sanitizer reserves far more than that for itself.
+/// sanitizers reserve far more than that for themselves.
 void limitMemory()
 {
-#ifndef __SANITIZE_ADDRESS__
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     const rlim_t bytes = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES)) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
     rlimit limit{};
     if (getrlimit(RLIMIT_DATA, &limit) != 0) return;

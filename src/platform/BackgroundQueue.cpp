@@ -1,4 +1,6 @@
 #include "platform/BackgroundQueue.h"
+#include <QCoreApplication>
+#include <QEvent>
 
 namespace velara {
 
@@ -41,10 +43,29 @@ void BackgroundQueue::doNewest()
     } catch (const std::exception& failure) { // the answer comes, without a result
         qWarning("velara-studio: %s", failure.what());
     }
-    const auto tell = [task] {
-        if (const std::function<void()> done = task->done) done(); // may release the request
-    };
-    QMetaObject::invokeMethod(&answers_, tell, Qt::QueuedConnection);
+    {
+        const std::lock_guard guard(guard_);
+        told_.push_back(std::move(task));
+    }
+    QCoreApplication::postEvent(&answers_, new QEvent(QEvent::User));
+}
+
+bool BackgroundQueue::Answers::event(QEvent* event)
+{
+    if (event->type() != QEvent::User) return QObject::event(event);
+    queue_.tellOldest(); // may end the queue
+    return true;
+}
+
+void BackgroundQueue::tellOldest()
+{
+    std::shared_ptr<Task> task;
+    {
+        const std::lock_guard guard(guard_);
+        task = std::move(told_.front());
+        told_.pop_front();
+    }
+    if (const std::function<void()> done = task->done) done(); // may release the request
 }
 
 } // namespace velara

@@ -4,6 +4,7 @@
 #include "seams/GoOn.h"
 #include <QObject>
 #include <atomic>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -37,11 +38,19 @@ class BackgroundQueue {
 
   private:
     struct Task;
+    /// Lives in the thread that made the queue; each event delivers one answer.
+    struct Answers final : QObject {
+        explicit Answers(BackgroundQueue& queue) : queue_(queue) {}
+        bool event(QEvent* event) override;
+        BackgroundQueue& queue_;
+    };
     void doNewest();
+    void tellOldest();
 
-    QObject answers_; // delivered in the thread that made this
-    std::mutex guard_;
+    Answers answers_{*this};
+    std::mutex guard_;                         // also what the work has written goes over by it
     std::vector<std::shared_ptr<Task>> tasks_; // that wait
+    std::deque<std::shared_ptr<Task>> told_;   // done, to be told
     std::atomic<bool> ends_ = false;
     Workers workers_;
 };

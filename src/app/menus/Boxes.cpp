@@ -110,6 +110,18 @@ void Boxes::dockAll()
     }
 }
 
+void Boxes::moveAside()
+{
+    const int step = 2 * frame_.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    for (QDockWidget* dock : docks_) {
+        if (!dock->isFloating()) continue;
+        const QRect screen = dock->screen()->availableGeometry();
+        const auto along = [step](int at, int least, int most) { return at + step <= most ? at + step : least; };
+        dock->move(along(dock->x(), screen.left(), screen.right() - dock->width()),
+                   along(dock->y(), screen.top(), screen.bottom() - dock->height()));
+    }
+}
+
 void Boxes::show(Box which)
 {
     docks_[which]->show();

@@ -25,6 +25,8 @@ class Boxes final {
     QDockWidget* dock(Box which) const { return docks_[which]; }
     /// Puts all of them at the frame's right, in one place with tabs: how they stand when no layout is kept.
     void dockAll();
+    /// Moves those that float off the places where another instance's boxes are likely to stand, within their screen.
+    void moveAside();
     /// Shows a box, where the user last put it.
     void show(Box which);
     void toggle(Box which);

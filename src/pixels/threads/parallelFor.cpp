@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
 namespace velara {
@@ -48,7 +49,8 @@ class Loop {
             end();
             throw;
         }
-        if (failure_) std::rethrow_exception(failure_);
+        // Not left here: a late helper may be the last to let go of this.
+        if (std::exception_ptr failure = std::exchange(failure_, nullptr)) std::rethrow_exception(std::move(failure));
     }
 
   private:

@@ -248,6 +248,8 @@ TEST_F(FrameDocuments, BoxesAreDockedBehindTabsAndComeBackWhereTheyWereLeft)
     again.boxes().showAll();
     EXPECT_EQ(again.boxes().dock(Boxes::Textures)->geometry(), QRect(120, 130, 400, 430));
     EXPECT_TRUE(again.boxes().dock(Boxes::Textures)->isFloating());
+    again.boxes().moveAside();
+    EXPECT_TRUE(QRect(140, 150, 80, 80).contains(again.boxes().dock(Boxes::Textures)->pos()));
     EXPECT_EQ(again.dockWidgetArea(again.boxes().dock(Boxes::Colours)), Qt::LeftDockWidgetArea);
 }
 
