@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate screenshots bench bench-check gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -92,6 +92,11 @@ reference-diff:
 # One-line faults (tests/mutations.txt) that the tests must catch: all of them take half an hour; make mutate NAMES="undo jpeg"
 mutate: setup
 	@scripts/mutate.py $(NAMES)
+
+# What the programs are linked with, by version, as an SPDX document: build/velara-studio.spdx.json
+sbom: all
+	@scripts/sbom.py $(RELEASE)/bin velara-studio velara-batch velara-decode velara-scan > build/velara-studio.spdx.json
+	@echo build/velara-studio.spdx.json
 
 SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'tools/*.cpp' 'tools/*.h')
 format:

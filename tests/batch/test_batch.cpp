@@ -145,6 +145,32 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
     EXPECT_EQ("precious", content("out.ppm"));
 }
 
+TEST_F(BatchTest, LimitsOfUserAndSystemHold)
+{
+    QDir(folder.path()).mkpath("own/velara-studio");
+    QDir(folder.path()).mkpath("system/velara-studio");
+    const struct {
+        const char *own, *system;
+        int status;
+        const char* said;
+    } kCases[] = {
+        {"formats-off = png PBM .ppm", "", 1, "in.ppm can't be read: limits.conf has turned .ppm files off"},
+        {"# pixels = 1\n\nPixels=1k # enough\nseconds = 2\nmemory = 2G", "pixels = 2000", 0, ""},
+        {"pixels = 107", "", 1, "it has more than the 107 pixels that limits.conf allows"},
+        {"pixels = 1G", "pixels = 107", 1, "it has more than the 107 pixels"},
+        {"pixels = 107", "pixels = 1G", 1, "it has more than the 107 pixels"},
+        {"memory = 64K", "", 1, "in.ppm can't be read"},
+        {"seconds = 2\npixels = none", "", 0, "limits.conf:2: \"pixels = none\" is no limit"},
+    };
+    for (const auto& row : kCases) {
+        put("own/velara-studio/limits.conf", row.own);
+        put("system/velara-studio/limits.conf", row.system);
+        EXPECT_TRUE(ends(row.status, "in.ppm out.png", row.said,
+                         "export XDG_CONFIG_HOME=$PWD/own XDG_CONFIG_DIRS=/none:$PWD/system"))
+            << row.own;
+    }
+}
+
 TEST_F(BatchTest, ACutOffPictureIsTakenWhenAskedFor)
 {
     put("short.ppm", content("in.ppm").chopped(100));

@@ -1,8 +1,10 @@
 #include "fileio/load/PictureLoader.h"
 #include "fileio/disk/nativeName.h"
+#include "fileio/formats.h"
 #include "fileio/load/Capacity.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
+#include "fileio/load/ReadPolicy.h"
 #include "fileio/load/Shrinker.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/printable.h"
@@ -133,6 +135,8 @@ QString faultOfSize(const decode::Opening& opening, const Capacity& capacity)
 {
     const std::int64_t width = opening.width, height = opening.height;
     if (!Bits::sizeAllowed(width, height)) return kNonsense;
+    if (width * height > readPolicy().pixels)
+        return QString("it has more than the %1 pixels that limits.conf allows").arg(readPolicy().pixels);
     if (capacity.mayClaim(width * height, opening.bits)) return {};
     return QString("it is damaged: it has hardly any bytes for its %1 x %2 pixels").arg(width).arg(height);
 }
@@ -158,6 +162,23 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
     return ending;
 }
 
+bool isOff(const QString& format)
+{
+    const std::string known = format.toStdString();
+    return std::ranges::any_of(readPolicy().off, [&](const QString& off) {
+        const std::string each = off.toStdString();
+        return usualExtension(each) == usualExtension(known);
+    });
+}
+
+DecoderLimits limitsWithin(DecoderLimits limits, const ReadPolicy& policy)
+{
+    limits.memory = std::min<std::uint64_t>(limits.memory, policy.memory);
+    limits.mostSeconds = std::min(limits.mostSeconds, policy.seconds);
+    limits.cpuSeconds = std::min(limits.cpuSeconds, policy.seconds);
+    return limits;
+}
+
 Ending load(const Descriptor& file, const QString& extension, const QString& decoder, const DecoderLimits& limits,
             const GoOn& goOn, const Begin& begin)
 try {
@@ -165,7 +186,8 @@ try {
     if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
     if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
     const QString format = extension.toLower();
-    DecoderProcess child(decoder, file, format, limits, goOn);
+    if (isOff(format)) return {false, QString("limits.conf has turned .%1 files off").arg(format)};
+    DecoderProcess child(decoder, file, format, limitsWithin(limits, readPolicy()), goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
     return receivePicture(child, Capacity(format, size), begin);
 } catch (const NotEnoughMemory& refusal) {

@@ -31,6 +31,7 @@ class Surface final : public QWidget {
     {
         if (!layers_.has(index_)) return;
         QPainter painter(this);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, canvas_.zoom() < 1);
         const Bits& bits = layers_.surface(index_);
         const QImage whole = imageOver(bits); // its fourth bytes tell what belongs to the layer
         if (!bits.isNull())
@@ -47,11 +48,7 @@ class Surface final : public QWidget {
     }
 
   private:
-    QRect onSurface(const Rect& pixels) const
-    {
-        return QRect(canvas_.placeOf(QPointF(pixels.left, pixels.top)).toPoint() - pos(),
-                     QSize(pixels.width(), pixels.height()) * canvas_.zoom());
-    }
+    QRect onSurface(const Rect& pixels) const { return canvas_.placeOf(pixels).translated(-pos()); }
     void paintMarks(QPainter& painter) const
     {
         QColor mark = palette().color(QPalette::Active, QPalette::Highlight);
@@ -155,12 +152,8 @@ void fLayerCanvas::place(int index)
 {
     const auto [surface, outline] = widgets_.at(index);
     const Layer& layer = layers_.layer(index);
-    const auto onCanvas = [this](const Rect& pixels) {
-        return QRect(placeOf(QPointF(pixels.left, pixels.top)).toPoint(),
-                     QSize(pixels.width(), pixels.height()) * zoom());
-    };
-    outline->setGeometry(onCanvas(layer.place));
-    surface->setGeometry(onCanvas(layer.place.united(layers_.visible(index))));
+    outline->setGeometry(placeOf(layer.place));
+    surface->setGeometry(placeOf(layer.place.united(layers_.visible(index))));
     outline->setVisible(layer.shown);
     surface->setVisible(layer.shown);
     surface->update();
@@ -296,8 +289,8 @@ void fLayerCanvas::placeCursor()
 {
     Rect at{stored_.x(), stored_.y(), stored_.x() + 1, stored_.y() + Layers::kHeight};
     if (editing_) at = layers_.caret(selected_, caret_ + (preedit_.isEmpty() ? 0 : preeditCaret_));
-    cursor_->setGeometry(
-        QRect(placeOf(QPointF(at.left, at.top)).toPoint(), QSize(2, std::max(1, at.height()) * zoom())));
+    const QRect place = placeOf(at);
+    cursor_->setGeometry({place.topLeft(), QSize(2, std::max(place.height(), 1))});
     const bool wanted = editing_ || selected_ == 0;
     cursor_->setVisible(wanted);
     const int flash = QGuiApplication::styleHints()->cursorFlashTime();

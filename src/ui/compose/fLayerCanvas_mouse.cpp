@@ -93,7 +93,7 @@ void fLayerCanvas::press(QWidget* widget, QMouseEvent& event)
 void fLayerCanvas::drag(QMouseEvent& event)
 {
     if (!drag_ || selected_ == 0 || !(event.buttons() & Qt::LeftButton)) return;
-    const QPoint at = event.globalPosition().toPoint(), by = (at - drag_->from) / zoom();
+    const QPoint at = event.globalPosition().toPoint(), by = (at - drag_->from) / scale();
     if (drag_->what == Holds::Letters) return setCaret(characterAt(at), true);
     const Rect& from = drag_->place;
     const Rect to =

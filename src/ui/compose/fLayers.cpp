@@ -27,6 +27,7 @@ namespace velara {
 namespace {
 
 constexpr int kPathPixels = 400;
+constexpr int kLeastLayersZoom = -62;         // a 64th of the size
 constexpr int kFirstSize = 7, kLastSize = 69; // the odd ones
 constexpr int kUsualEntry = 4;                // size 15
 
@@ -194,6 +195,7 @@ void fLayers::connectAll()
     });
     connect(canvas_, &fLayerCanvas::stateChanged, this, &fLayers::showState);
     connect(canvas_, &fLayerCanvas::caretMoved, page_, &fPicturePage::follow);
+    page_->setLeastZoom(kLeastLayersZoom);
     connect(canvas_, &fLayerCanvas::zoomWanted, this, &fLayers::changeZoom);
     connect(list_, &fLayerList::chosen, this, [this](int index) {
         canvas_->select(index);

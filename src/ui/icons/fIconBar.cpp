@@ -90,7 +90,7 @@ QWidget* fIconBar::makeToolbar(fIconMaker& maker)
 void fIconBar::showCutOut(const Bits& cutOut)
 {
     picD_->setBits(cutOut);
-    picD_->setZoom(kPreview / std::max(cutOut.width(), 1));
+    picD_->setZoom(std::max(1, kPreview / std::max(cutOut.width(), 1)));
 }
 
 void fIconBar::showCount(int count) { lblcount_->setText(QString::number(count)); }

@@ -30,8 +30,14 @@ void fPicture::showWhole(const Bits& bits) { setBits(fittingCopy(bits, size()));
 
 void fPicture::setZoom(int zoom)
 {
-    zoom_ = std::max(zoom, 1);
+    zoom_ = zoom;
     update();
+}
+
+QSize fPicture::zoomedSize() const
+{
+    const auto side = [this](int pixels) { return static_cast<int>(std::ceil(pixels * scale())); };
+    return {side(bits_.width()), side(bits_.height())};
 }
 
 QRect fPicture::place() const
@@ -42,14 +48,21 @@ QRect fPicture::place() const
 
 QPoint fPicture::pixelAt(QPointF at) const
 {
-    const QPointF pixel = (at - place().topLeft()) / zoom_;
+    const QPointF pixel = (at - place().topLeft()) / scale();
     return {static_cast<int>(std::floor(pixel.x())), static_cast<int>(std::floor(pixel.y()))};
 }
 
 void fPicture::updatePixels(const Rect& pixels)
 {
     const QPointF from = placeOf(QPointF(pixels.left, pixels.top)), to = placeOf(QPointF(pixels.right, pixels.bottom));
-    update(QRectF(from, to).toRect() & rect());
+    update(QRectF(from, to).toAlignedRect() & rect());
+}
+
+QRect fPicture::placeOf(const Rect& pixels) const
+{
+    const QPoint from = placeOf(QPointF(pixels.left, pixels.top)).toPoint();
+    const QPoint to = placeOf(QPointF(pixels.right, pixels.bottom)).toPoint();
+    return {from, QSize(to.x() - from.x(), to.y() - from.y())};
 }
 
 void fPicture::setMarker(std::optional<QPointF> place)
@@ -102,12 +115,17 @@ void fPicture::paintEvent(QPaintEvent* event)
     if (const QRect shown = (part & picture).translated(-picture.topLeft()); !bits_.isNull() && !shown.isEmpty()) {
         const double k = devicePixelRatioF();
         const auto whole = [](double v) { return static_cast<int>(v); };
+        const Rect device{whole(std::floor(shown.left() * k)), whole(std::floor(shown.top() * k)),
+                          whole(std::ceil((shown.left() + shown.width()) * k)),
+                          whole(std::ceil((shown.top() + shown.height()) * k))};
         painter.translate(picture.topLeft());
-        renderer_.paint(painter, bits_, {0, 0, zoom_, k},
-                        {whole(std::floor(shown.left() * k)), whole(std::floor(shown.top() * k)),
-                         whole(std::ceil((shown.left() + shown.width()) * k)),
-                         whole(std::ceil((shown.top() + shown.height()) * k))},
-                        {});
+        if (zoom_ > 0) {
+            renderer_.paint(painter, bits_, {0, 0, zoom_, k}, device, {});
+        } else {
+            QImage small = reducedView(bits_, 1 / (scale() * k), device);
+            small.setDevicePixelRatio(k);
+            painter.drawImage(QPointF(device.left / k, device.top / k), small);
+        }
         painter.translate(-picture.topLeft());
     }
     paintOver(painter, part);

@@ -1,5 +1,6 @@
-// fPicture: the surface that shows a picture in a dialog. The picture is centred, at an integer zoom, and painted
-// directly from its memory. It can be picked from, marked, and dragged by a receiver of panned (fPicturePage).
+// fPicture: the surface that shows a picture in a dialog. The picture is centred, at an integer zoom or a whole
+// fraction of its size, and painted directly from its memory. It can be picked from, marked, and dragged by a receiver
+// of panned (fPicturePage).
 //
 // A canvas with items of its own derives from this: paintOver draws on top, mouse handlers run first and pass on what
 // they don't use, child widgets use the picture's coordinates if the surface has the picture's size. Changes of a few
@@ -24,17 +25,21 @@ class fPicture : public QWidget {
     void setBits(const Bits& bits);
     /// Shows the picture, scaled down as far as the surface needs.
     void showWhole(const Bits& bits);
-    /// Screen pixels per picture pixel, from 1.
+    /// From 1: screen pixels per picture pixel. Below: 0 is half of the size, -1 a third, and so on.
     int zoom() const { return zoom_; }
     void setZoom(int zoom);
-    QSize zoomedSize() const { return {bits_.width() * zoom_, bits_.height() * zoom_}; }
+    /// Screen pixels per picture pixel.
+    double scale() const { return zoom_ > 0 ? zoom_ : 1.0 / (2 - zoom_); }
+    QSize zoomedSize() const;
 
     /// The picture's rectangle on the surface.
     QRect place() const;
     /// The pixel at a position on the surface; may lie outside of the picture.
     QPoint pixelAt(QPointF at) const;
     /// The position of a pixel's upper left corner.
-    QPointF placeOf(QPointF pixel) const { return pixel * zoom_ + place().topLeft(); }
+    QPointF placeOf(QPointF pixel) const { return pixel * scale() + place().topLeft(); }
+    /// The place of these pixels on the surface, to the nearest screen pixels.
+    QRect placeOf(const Rect& pixels) const;
     /// Requests a repaint of these pixels.
     void updatePixels(const Rect& pixels);
 

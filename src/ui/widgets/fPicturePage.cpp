@@ -64,7 +64,7 @@ void fPicturePage::setBits(const Bits& bits)
 void fPicturePage::setZoom(int zoom)
 {
     const Bits& bits = picture_->bits();
-    zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
+    zoom = std::clamp(zoom, leastZoom_, kMostZoom);
     if (bits.isNull() || zoom == picture_->zoom() || !zoomFits(bits.width(), bits.height(), zoom)) return;
     const QPoint value = scroll(), most(horizontal_->maximum(), vertical_->maximum());
     picture_->setZoom(zoom);
@@ -93,20 +93,19 @@ QRectF fPicturePage::shown() const
 {
     const QRect all(-picture_->pos(), container_->size());
     const QRect part = all & QRect(QPoint(), picture_->zoomedSize());
-    return {QPointF(part.topLeft()) / picture_->zoom(), QSizeF(part.size()) / picture_->zoom()};
+    return {QPointF(part.topLeft()) / picture_->scale(), QSizeF(part.size()) / picture_->scale()};
 }
 
 void fPicturePage::showInMiddle(QPointF pixel)
 {
     const QSize half = container_->size() / 2;
-    setScroll((pixel * picture_->zoom()).toPoint() - QPoint(half.width(), half.height()));
+    setScroll((pixel * picture_->scale()).toPoint() - QPoint(half.width(), half.height()));
 }
 
 void fPicturePage::follow(const Rect& pixels)
 {
-    const int zoom = picture_->zoom();
-    const auto to = [&](const QScrollBar* bar, int page, int from, int end) {
-        return std::min(std::max(bar->value(), end * zoom + kStep - page), from * zoom - kStep);
+    const auto to = [scale = picture_->scale()](const QScrollBar* bar, int page, int from, int end) {
+        return std::min(std::max(bar->value(), int(end * scale) + kStep - page), int(from * scale) - kStep);
     };
     setScroll({to(horizontal_, container_->width(), pixels.left, pixels.right),
                to(vertical_, container_->height(), pixels.top, pixels.bottom)});
@@ -116,7 +115,10 @@ void fPicturePage::zoomToFit()
 {
     const Bits& bits = picture_->bits();
     if (bits.isNull()) return;
-    setZoom(std::max(1, std::min(container_->width() / bits.width(), container_->height() / bits.height())));
+    const int times = std::min(container_->width() / bits.width(), container_->height() / bits.height());
+    const auto parts = [](int pixels, int room) { return (pixels + room - 1) / std::max(room, 1); };
+    const int part = std::max(parts(bits.width(), container_->width()), parts(bits.height(), container_->height()));
+    setZoom(times > 0 ? times : 2 - part);
 }
 
 void fPicturePage::layOut()

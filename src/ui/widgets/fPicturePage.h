@@ -22,8 +22,10 @@ class fPicturePage : public QWidget {
     fPicture& picture() { return *picture_; }
     /// Keeps the position, as far as the picture reaches.
     void setBits(const Bits& bits);
-    /// Integer zooms, limited to what fits; keeps the same relative position. The partner follows.
+    /// As fPicture's, limited to what fits; keeps the same relative position. The partner follows.
     void setZoom(int zoom);
+    /// Below 1, pictures may be shown smaller than they are; 1 at first.
+    void setLeastZoom(int zoom) { leastZoom_ = zoom; }
     /// Both follow each other from now on. One partner per page.
     void setPartner(fPicturePage& partner);
 
@@ -34,7 +36,7 @@ class fPicturePage : public QWidget {
     QRectF shown() const;
     /// Scrolls no further than these pixels and a little around them need.
     void follow(const Rect& pixels);
-    /// The largest zoom at which the whole picture is visible; at least 1.
+    /// The largest zoom at which the whole picture is visible, or the least.
     void zoomToFit();
     /// Centres the pixel, as near as the picture's edges permit.
     void showInMiddle(QPointF pixel);
@@ -56,6 +58,7 @@ class fPicturePage : public QWidget {
     fPicture* picture_;
     QScrollBar *horizontal_, *vertical_;
     QPointer<fPicturePage> partner_;
+    int leastZoom_ = 1;
     bool follows_ = false; // the partner is passing its position
 };
 

@@ -1,6 +1,7 @@
 #include "ui/widgets/viewRender.h"
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -90,6 +91,40 @@ void ViewRenderer::paint(QPainter& painter, const Bits& bits, const ViewSpot& sp
         painter.drawImage(left, top, strip);
     }
     painter.restore();
+}
+
+QImage reducedView(const Bits& bits, double step, const Rect& part)
+{
+    struct Run {
+        int from, end;
+    };
+    const auto runsOf = [step](int first, int end, int side) {
+        std::vector<Run> runs;
+        for (int i = first; i < end; ++i) {
+            const int from = std::min(static_cast<int>(i * step), side - 1);
+            runs.push_back({from, std::clamp(static_cast<int>((i + 1) * step), from + 1, side)});
+        }
+        return runs;
+    };
+    const std::vector<Run> columns = runsOf(part.left, part.right, bits.width());
+    const std::vector<Run> rows = runsOf(part.top, part.bottom, bits.height());
+    QImage small(part.width(), part.height(), QImage::Format_RGB32);
+    std::vector<std::array<std::uint32_t, 3>> sums(columns.size());
+    for (std::size_t y = 0; y < rows.size(); ++y) {
+        std::ranges::fill(sums, std::array<std::uint32_t, 3>{});
+        for (int row = rows[y].from; row < rows[y].end; ++row)
+            for (std::size_t x = 0; x < columns.size(); ++x)
+                for (const Pixel* pixel = bits.row(row) + columns[x].from; pixel < bits.row(row) + columns[x].end;
+                     ++pixel)
+                    for (std::size_t c = 0; c < 3; ++c) sums[x][c] += pixel->c[c];
+        auto* to = reinterpret_cast<QRgb*>(small.scanLine(static_cast<int>(y)));
+        for (std::size_t x = 0; x < columns.size(); ++x) {
+            const auto count = std::uint32_t((rows[y].end - rows[y].from) * (columns[x].end - columns[x].from));
+            const auto mean = [&](std::size_t c) { return static_cast<int>((sums[x][c] + count / 2) / count); };
+            to[x] = qRgb(mean(2), mean(1), mean(0));
+        }
+    }
+    return small;
 }
 
 } // namespace velara

@@ -37,4 +37,8 @@ class ViewRenderer {
     std::vector<std::uint32_t> strip_;
 };
 
+/// A part of the picture made smaller: each device pixel is the mean of the `step` by `step` picture pixels under it,
+/// step at least 1. part is in device pixels; what lies outside of the picture shows its last pixel.
+QImage reducedView(const Bits& bits, double step, const Rect& part);
+
 } // namespace velara

@@ -115,6 +115,29 @@ TEST_F(PicturePages, WheelAndKeysMoveAndZoomBoth)
     EXPECT_EQ(15, left.picture().zoom()) << "the most";
 }
 
+TEST_F(PicturePages, AWholePictureIsShownSmallerWhereThatIsAllowed)
+{
+    left.zoomToFit();
+    EXPECT_EQ(1, left.picture().zoom());
+    left.setLeastZoom(-5);
+    left.zoomToFit();
+    const QSize room = left.findChild<QWidget*>("CLeft")->size(), shown = canvas->size();
+    EXPECT_EQ(shown, canvas->zoomedSize());
+    EXPECT_TRUE(room.width() >= shown.width() && room.height() >= shown.height()) << shown.width();
+    const int part = 2 - canvas->zoom();
+    EXPECT_GT((900 + part - 2) / (part - 1), room.width()) << "the largest that fits";
+    const QPoint pixel(7 * part, 5 * part);
+    EXPECT_EQ(pixel, canvas->pixelAt(canvas->placeOf(pixel)));
+    for (const std::size_t channel : {0, 1, 2}) {
+        int sum = 0;
+        for (int i = 0; i < part * part; ++i) sum += picture.at(pixel.x() + i % part, pixel.y() + i / part).c[channel];
+        const int mean = (sum + part * part / 2) / (part * part);
+        EXPECT_EQ(mean, shownAt(left, canvas->pos() + canvas->placeOf(pixel).toPoint()) >> 8 * channel & 255);
+    }
+    left.setZoom(-99);
+    EXPECT_EQ(-5, canvas->zoom()) << "the least";
+}
+
 TEST_F(PicturePages, ACanvasRepaintsOnlyWhatChanges)
 {
     left.setScroll({100, 100});
