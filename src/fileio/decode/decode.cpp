@@ -1,5 +1,6 @@
 #include "fileio/decode/decode.h"
 #include "fileio/decode/mends.h"
+#include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
 #include "fileio/formats.h"
 #include <FreeImage.h>
@@ -26,24 +27,6 @@ template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
     return readByFreeImage(file, fif);
 }
 
-/// A window of one column or row is read as one of two, then cropped.
-Decoded readPcx(FileBytes& file)
-{
-    const bool isColumn = file.little16(4) == file.little16(8), isRow = file.little16(6) == file.little16(10);
-    mendPcx(file);
-    Decoded picture = readByFreeImage(file, FIF_PCX);
-    if (picture.ok() && isRow) picture.height = 1;
-    if (picture.ok() && isColumn) {
-        picture.width = 1;
-        picture.row = [wide = std::move(picture.row)](int y, Pixel* row) {
-            Pixel both[2];
-            wide(y, both);
-            *row = both[0];
-        };
-    }
-    return picture;
-}
-
 Needs prepareNothing() { return Needs::Nothing; }
 
 struct Reader {
@@ -60,25 +43,25 @@ constexpr Reader kReaders[] = {
     {"ico",   [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
     {"cur",   [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
     {"dib",   readDib, loadQtReaders},
-    {"bmp",   byFreeImage<FIF_BMP, mendBmp>},
-    {"cut",   byFreeImage<FIF_CUT>},
-    {"iff",   byFreeImage<FIF_IFF, mendIff>},
+    {"bmp",   readBmp},
+    {"cut",   readCut},
+    {"iff",   readIff},
     {"jpg",   byFreeImage<FIF_JPEG, mendJpeg>},
-    {"koa",   byFreeImage<FIF_KOALA>},
-    {"lbm",   byFreeImage<FIF_LBM, mendIff>},
+    {"koa",   readKoala},
+    {"lbm",   readIff},
     {"mng",   byFreeImage<FIF_MNG>},
     {"pcd",   byFreeImage<FIF_PCD>},
     {"pcx",   readPcx},
     {"png",   byFreeImage<FIF_PNG>},
     {"psd",   byFreeImage<FIF_PSD>},
-    {"ras",   byFreeImage<FIF_RAS, mendRas>},
-    {"tga",   byFreeImage<FIF_TARGA>},
+    {"ras",   readRas},
+    {"tga",   readTga},
     {"tif",   byFreeImage<FIF_TIFF>},
-    {"wbmp",  byFreeImage<FIF_WBMP>},
-    {"pbm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"pgm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"ppm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"jng",   byFreeImage<FIF_BMP, mendBmp>},
+    {"wbmp",  readWbmp},
+    {"pbm",   readPnm},
+    {"pgm",   readPnm},
+    {"ppm",   readPnm},
+    {"jng",   readBmp},
 };
 // clang-format on
 
