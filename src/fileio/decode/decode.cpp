@@ -3,7 +3,9 @@
 #include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
 #include "fileio/formats.h"
+#ifdef VELARA_FREEIMAGE
 #include <FreeImage.h>
+#endif
 #include <algorithm>
 #include <iterator>
 #include <new>
@@ -17,6 +19,7 @@ Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
 namespace {
 
+#ifdef VELARA_FREEIMAGE
 using Mend = void (*)(FileBytes&);
 
 void mendNothing(FileBytes&) {}
@@ -26,12 +29,16 @@ template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
     mend(file);
     return readByFreeImage(file, fif);
 }
+#else
+enum : int { FIF_JPEG, FIF_MNG, FIF_PCD, FIF_PNG, FIF_PSD, FIF_TIFF };
+template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
+#endif
 
 Needs prepareNothing() { return Needs::Nothing; }
 
 struct Reader {
     std::string_view extension;
-    Decoded (*read)(FileBytes& file);
+    Decoded (*read)(FileBytes& file); // null: the build has no library for it
     Needs (*prepare)() = prepareNothing;
 };
 
@@ -99,10 +106,11 @@ try {
     if (!reader) return refused(QString("there is no reader for .%1 files").arg(extension));
     if (file.size() == 0) return refused("it is empty or can't be opened");
     if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
+    const QLatin1String name(findFormat(reader->extension)->name);
+    if (!reader->read) return refused(QString("this build lacks the library that reads %1 picture").arg(name));
     Decoded decoded = reader->read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
-        decoded.reason =
-            QString("it is damaged or not %1 picture").arg(QLatin1String(findFormat(reader->extension)->name));
+        decoded.reason = QString("it is damaged or not %1 picture").arg(name);
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

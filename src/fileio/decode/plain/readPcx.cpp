@@ -37,8 +37,9 @@ Palette paletteOf(const FileBytes& file, std::uint32_t bits)
 /// of length 0 counts as 256.
 std::vector<std::uint8_t> unpack(Cursor& from, std::size_t line, std::size_t height, bool crossesLines)
 {
-    std::vector<std::uint8_t> to(line * height);
-    for (std::size_t at = 0; at < to.size() && !from.ranDry();) {
+    std::vector<std::uint8_t> to;
+    const std::size_t end = line * height;
+    while (to.size() < end) {
         std::uint8_t value = from.byte();
         std::size_t run = 1;
         if (value >= 0xc0) {
@@ -47,9 +48,8 @@ std::vector<std::uint8_t> unpack(Cursor& from, std::size_t line, std::size_t hei
             if (run == 0 && !crossesLines) run = 256;
         }
         if (from.ranDry()) break;
-        run = std::min(run, (crossesLines ? to.size() : (at / line + 1) * line) - at);
-        std::fill_n(to.begin() + static_cast<std::ptrdiff_t>(at), run, value);
-        at += run;
+        const std::size_t room = crossesLines ? end - to.size() : line - to.size() % line;
+        to.insert(to.end(), std::min(run, room), value);
     }
     return to;
 }
@@ -85,14 +85,16 @@ Decoded readPcx(FileBytes& file)
     const std::size_t needed = bytesOf(layout, raster.width);
     Cursor from(file.bytes(), kHeader);
     std::vector<std::uint8_t> lines;
-    if (file.byte(Encoding) == 1)
+    if (file.byte(Encoding) == 1) {
         lines = unpack(from, line, rows, isTrueColour);
-    else {
-        lines.resize(line * rows);
+    } else {
+        lines.resize(std::min(line * rows, from.left()));
         from.read(lines.data(), lines.size());
     }
-    std::vector<std::uint8_t> joined(needed * rows);
-    for (std::size_t y = 0; y < rows; ++y) {
+    const std::size_t there = line > 0 ? std::min(rows, (lines.size() + line - 1) / line) : 0;
+    lines.resize(there * line);
+    std::vector<std::uint8_t> joined(needed * there);
+    for (std::size_t y = 0; y < there; ++y) {
         const std::uint8_t* source = lines.data() + y * line;
         if (isIndexed)
             std::copy_n(source, std::min(needed, line), joined.data() + y * needed);

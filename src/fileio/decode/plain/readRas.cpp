@@ -6,24 +6,26 @@ namespace velara::decode {
 
 namespace {
 
-constexpr std::size_t kHeader = 32;
+constexpr std::size_t kHeader = 32, kFullMap = 768;
 constexpr std::uint32_t kMagic = 0x59a66a95;
 enum Field : std::size_t { Width = 4, Height = 8, Depth = 12, Type = 20, MapType = 24, MapLength = 28 };
 enum Types : std::uint32_t { Standard = 1, ByteEncoded = 2, FormatRgb = 3, FormatTiff = 4, FormatIff = 5 };
 enum MapTypes : std::uint32_t { NoMap, EqualRgb, RawMap };
 
-/// 128 0 is a byte of 128, 128 n v are n+1 bytes of v. Beyond the end the last byte goes on.
-std::vector<std::uint8_t> unpack(Cursor& from, std::size_t count)
+/// 128 0 is a byte of 128, 128 n v are n+1 bytes of v. Beyond the end the last byte goes on; there is where that
+/// begins.
+std::vector<std::uint8_t> unpack(Cursor& from, std::size_t count, std::size_t& there)
 {
     std::vector<std::uint8_t> to(count);
     std::uint8_t value = 0, left = 0;
-    for (std::uint8_t& byte : to) {
+    for (there = 0; std::uint8_t & byte : to) {
         if (left > 0) {
             --left;
         } else if (from.read(value), value == 128 && (from.read(left), left > 0)) {
             from.read(value);
         }
         byte = value;
+        if (!from.ranDry()) ++there;
     }
     return to;
 }
@@ -68,20 +70,31 @@ Decoded readRas(FileBytes& file)
     Raster raster{static_cast<int>(file.big32(Width)), static_cast<int>(file.big32(Height)), *layout};
     Cursor from(file.bytes(), kHeader);
     const std::size_t mapLength = file.big32(MapLength);
-    if (map == NoMap && depth < 24) raster.palette = greys(1 << depth);
+    if ((map == NoMap && depth < 24) || depth == 8) raster.palette = greys(1 << depth);
     if (map == EqualRgb && depth < 24) raster.palette = readMap(from, depth, mapLength);
     from.seek(kHeader);
     if (map == EqualRgb || map == RawMap) from.skip(mapLength);
     // Rows are padded to an even length; those of 32 bits as if a pixel were a byte.
     const std::size_t count = bytesOf(*layout, raster.width);
     const std::size_t stride = count + (depth == 32 ? std::size_t(raster.width) : count) % 2;
+    std::size_t there = from.left();
+    Decoded picture;
     if (type == ByteEncoded) {
-        std::vector<std::uint8_t> lines = unpack(from, stride * static_cast<std::size_t>(raster.height));
-        return fromMemory(std::move(lines), raster, {0, stride}, from.ranDry());
+        std::vector<std::uint8_t> lines = unpack(from, stride * static_cast<std::size_t>(raster.height), there);
+        picture = fromMemory(std::move(lines), raster, {0, stride}, from.ranDry());
+    } else {
+        Lines lines{from.at(), stride};
+        if (depth >= 24) lines.missing.reset();
+        picture =
+            fromFile(file, raster, lines, from.ranDry() || stride * static_cast<std::size_t>(raster.height) > there);
     }
-    Lines lines{from.at(), stride};
-    if (depth >= 24) lines.missing.reset();
-    return fromFile(file, raster, lines, from.ranDry());
+    const bool isFullMap = depth == 8 && map == EqualRgb && mapLength == kFullMap;
+    if (isFullMap && there < stride * static_cast<std::size_t>(raster.height)) // a line that isn't whole is black
+        picture.row = [row = std::move(picture.row), width = raster.width, whole = there / stride](int y, Pixel* to) {
+            if (static_cast<std::size_t>(y) < whole) return row(y, to);
+            std::fill_n(to, width, Pixel{});
+        };
+    return picture;
 }
 
 } // namespace velara::decode

@@ -85,10 +85,10 @@ Decoded readTga(FileBytes& file)
     Cursor from(file.bytes(), HeaderEnd);
     const std::size_t comment = file.byte(IdLength);
     from.seek(HeaderEnd + comment);
-    if (*layout == Layout::Index8) {
-        if (file.byte(MapType)) raster.palette = readMap(from, file);
-    } else {
-        const std::size_t map = file.byte(MapType) ? (file.byte(MapBits) + 7U) / 8 * file.little16(MapLength) : 0;
+    const bool hasMap = file.byte(MapType) != 0; // in pictures of 24 and 32 bits, it is taken for pixels
+    if (hasMap && *layout == Layout::Index8) raster.palette = readMap(from, file);
+    if (*layout == Layout::Rgb555) {
+        const std::size_t map = hasMap ? (file.byte(MapBits) + 7U) / 8 * file.little16(MapLength) : 0;
         from.seek(0);
         from.seek(HeaderEnd + comment + map);
     }
