@@ -2,22 +2,6 @@
 
 namespace velara {
 
-std::uint64_t checksum(const void* bytes, std::size_t count, std::uint64_t before)
-{
-    const auto* byte = static_cast<const std::uint8_t*>(bytes);
-    for (std::size_t i = 0; i < count; ++i) before = (before ^ byte[i]) * 0x100000001B3u;
-    return before;
-}
-
-Dice::Dice(std::string_view name) : random_(checksum(name.data(), name.size())) {}
-
-int Dice::within(int low, int high)
-{
-    const auto count = static_cast<std::uint64_t>(std::int64_t{high} - low + 1);
-    const std::uint64_t draw = count >> 24 ? next() * std::uint64_t{1 << 24} + next() : next();
-    return static_cast<int>(low + static_cast<std::int64_t>(draw % count));
-}
-
 Bits Dice::bits(int width, int height)
 {
     Bits bits(width, height);

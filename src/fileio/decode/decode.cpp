@@ -1,8 +1,11 @@
 #include "fileio/decode/decode.h"
 #include "fileio/decode/mends.h"
+#include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
 #include "fileio/formats.h"
+#ifdef VELARA_FREEIMAGE
 #include <FreeImage.h>
+#endif
 #include <algorithm>
 #include <iterator>
 #include <new>
@@ -16,6 +19,7 @@ Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
 namespace {
 
+#ifdef VELARA_FREEIMAGE
 using Mend = void (*)(FileBytes&);
 
 void mendNothing(FileBytes&) {}
@@ -25,30 +29,16 @@ template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
     mend(file);
     return readByFreeImage(file, fif);
 }
-
-/// A window of one column or row is read as one of two, then cropped.
-Decoded readPcx(FileBytes& file)
-{
-    const bool isColumn = file.little16(4) == file.little16(8), isRow = file.little16(6) == file.little16(10);
-    mendPcx(file);
-    Decoded picture = readByFreeImage(file, FIF_PCX);
-    if (picture.ok() && isRow) picture.height = 1;
-    if (picture.ok() && isColumn) {
-        picture.width = 1;
-        picture.row = [wide = std::move(picture.row)](int y, Pixel* row) {
-            Pixel both[2];
-            wide(y, both);
-            *row = both[0];
-        };
-    }
-    return picture;
-}
+#else
+enum : int { FIF_JPEG, FIF_MNG, FIF_PCD, FIF_PNG, FIF_PSD, FIF_TIFF };
+template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
+#endif
 
 Needs prepareNothing() { return Needs::Nothing; }
 
 struct Reader {
     std::string_view extension;
-    Decoded (*read)(FileBytes& file);
+    Decoded (*read)(FileBytes& file); // null: the build has no library for it
     Needs (*prepare)() = prepareNothing;
 };
 
@@ -60,25 +50,25 @@ constexpr Reader kReaders[] = {
     {"ico",   [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
     {"cur",   [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
     {"dib",   readDib, loadQtReaders},
-    {"bmp",   byFreeImage<FIF_BMP, mendBmp>},
-    {"cut",   byFreeImage<FIF_CUT>},
-    {"iff",   byFreeImage<FIF_IFF, mendIff>},
+    {"bmp",   readBmp},
+    {"cut",   readCut},
+    {"iff",   readIff},
     {"jpg",   byFreeImage<FIF_JPEG, mendJpeg>},
-    {"koa",   byFreeImage<FIF_KOALA>},
-    {"lbm",   byFreeImage<FIF_LBM, mendIff>},
+    {"koa",   readKoala},
+    {"lbm",   readIff},
     {"mng",   byFreeImage<FIF_MNG>},
     {"pcd",   byFreeImage<FIF_PCD>},
     {"pcx",   readPcx},
     {"png",   byFreeImage<FIF_PNG>},
     {"psd",   byFreeImage<FIF_PSD>},
-    {"ras",   byFreeImage<FIF_RAS, mendRas>},
-    {"tga",   byFreeImage<FIF_TARGA>},
+    {"ras",   readRas},
+    {"tga",   readTga},
     {"tif",   byFreeImage<FIF_TIFF>},
-    {"wbmp",  byFreeImage<FIF_WBMP>},
-    {"pbm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"pgm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"ppm",   byFreeImage<FIF_PPM, mendPnm>},
-    {"jng",   byFreeImage<FIF_BMP, mendBmp>},
+    {"wbmp",  readWbmp},
+    {"pbm",   readPnm},
+    {"pgm",   readPnm},
+    {"ppm",   readPnm},
+    {"jng",   readBmp},
 };
 // clang-format on
 
@@ -116,10 +106,11 @@ try {
     if (!reader) return refused(QString("there is no reader for .%1 files").arg(extension));
     if (file.size() == 0) return refused("it is empty or can't be opened");
     if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
+    const QLatin1String name(findFormat(reader->extension)->name);
+    if (!reader->read) return refused(QString("this build lacks the library that reads %1 picture").arg(name));
     Decoded decoded = reader->read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
-        decoded.reason =
-            QString("it is damaged or not %1 picture").arg(QLatin1String(findFormat(reader->extension)->name));
+        decoded.reason = QString("it is damaged or not %1 picture").arg(name);
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

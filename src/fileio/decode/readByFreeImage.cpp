@@ -43,13 +43,12 @@ class Stream {
     Dib load(int fif, int flags)
     {
         at_ = 0;
-        timesShort_ = timesEmpty_ = 0;
+        timesShort_ = 0;
         FreeImageIO io{read, write, seek, tell};
         return owned(FreeImage_LoadFromHandle(static_cast<FREE_IMAGE_FORMAT>(fif), &io, this, flags));
     }
-    /// True when the last load asked for more than there is. A reader with read-ahead may meet the end of an intact
-    /// file, but asks for nothing after that.
-    bool ranDry(bool readsAhead) const { return timesEmpty_ > 0 || (timesShort_ > 0 && !readsAhead); }
+    /// True when the last load asked for more than there is.
+    bool ranDry() const { return timesShort_ > 0; }
 
   private:
     static unsigned DLL_CALLCONV read(void* to, unsigned size, unsigned count, fi_handle handle)
@@ -59,7 +58,7 @@ class Stream {
         const std::size_t wanted = std::size_t{size} * count;
         if (wanted > left) {
             count = static_cast<unsigned>(left / size);
-            ++(left == 0 ? stream.timesEmpty_ : stream.timesShort_);
+            ++stream.timesShort_;
         }
         const std::size_t bytes = wanted > left ? left : wanted; // as fread: the last item may be partial
         std::memcpy(to, stream.bytes_.data() + stream.at_, bytes);
@@ -80,7 +79,7 @@ class Stream {
 
     std::span<const std::uint8_t> bytes_;
     std::size_t at_ = 0;
-    int timesShort_ = 0, timesEmpty_ = 0;
+    int timesShort_ = 0;
 };
 
 // --- Sizes from headers, for the readers that can't give them without the pixels
@@ -90,52 +89,14 @@ struct Size {
     int bits = 0; // per pixel; 0: unknown
 };
 
-Size sizeOfIff(const FileBytes& file) // FORM, length, type, then chunks: name, length, contents padded to even
-{
-    for (std::size_t at = 12; at + 8 <= file.size();) {
-        const std::size_t length = file.big32(at + 4);
-        if (std::memcmp(&file.bytes()[at], "BMHD", 4) == 0)
-            return {file.big16(at + 8), file.big16(at + 10), static_cast<int>(file.byte(at + 16))}; // planes
-        at += 8 + length + length % 2;
-    }
-    return {};
-}
-
 Size sizeOfMng(const FileBytes& file) // signature, length, "MHDR", width, height
 {
     return {file.big32(16), file.big32(20)};
 }
 
-Size sizeOfWbmp(const FileBytes& file) // type 0, fixed header byte, width and height in groups of 7 bits
-{
-    std::size_t at = 2;
-    const auto number = [&] {
-        std::int64_t value = 0;
-        for (int groups = 0; groups < 5; ++groups) {
-            const std::uint32_t byte = file.byte(at++);
-            value = value << 7 | (byte & 127);
-            if (byte < 128) break;
-        }
-        return value;
-    };
-    const std::int64_t width = number();
-    return {width, number()};
-}
-
 Size sizeOf(const FileBytes& file, Stream& stream, int fif)
 {
-    switch (fif) {
-    case FIF_KOALA:
-        return {320, 200};
-    case FIF_IFF:
-        return sizeOfIff(file);
-    case FIF_MNG:
-        return sizeOfMng(file);
-    case FIF_WBMP:
-        return sizeOfWbmp(file);
-    default:
-        break;
-    }
+    if (fif == FIF_MNG) return sizeOfMng(file);
     const Dib header = stream.load(fif, FIF_LOAD_NOPIXELS);
     if (!header) return {};
     return {FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get()),
@@ -255,7 +216,7 @@ Origin originOf(FIBITMAP* dib)
 bool isCutOff(const Stream& stream, int fif)
 {
     if (fif == FIF_JPEG) return Library::said().find("premature end of data segment") != std::string::npos;
-    return stream.ranDry(fif == FIF_PCX);
+    return stream.ranDry();
 }
 
 } // namespace

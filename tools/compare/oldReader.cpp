@@ -1,0 +1,292 @@
+#include "fileio/decode/readers.h"
+#include "fileio/load/DecodeProtocol.h"
+#include <FreeImage.h>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <string>
+
+namespace velara::compare {
+
+using namespace decode;
+
+Decoded readByOldLibrary(FileBytes& file, int fif);
+
+namespace {
+
+using Dib = std::shared_ptr<FIBITMAP>;
+using RowMaker = std::function<void(const std::uint8_t* from, Pixel* row)>;
+
+Dib owned(FIBITMAP* dib) { return dib ? Dib(dib, FreeImage_Unload) : Dib(); }
+
+/// FreeImage, initialised while an object lives; keeps its messages.
+class Library {
+  public:
+    Library()
+    {
+        said().clear();
+        FreeImage_Initialise(0);
+        FreeImage_SetOutputMessage([](FREE_IMAGE_FORMAT, const char* message) { said() += message; });
+    }
+    ~Library() { FreeImage_DeInitialise(); }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+    static std::string& said()
+    {
+        static std::string text;
+        return text;
+    }
+};
+
+/// Reads from memory, faster than FreeImage's own routines, which some readers call for every pixel.
+class Stream {
+  public:
+    explicit Stream(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+    Dib load(int fif, int flags)
+    {
+        at_ = 0;
+        timesShort_ = timesEmpty_ = 0;
+        FreeImageIO io{read, write, seek, tell};
+        return owned(FreeImage_LoadFromHandle(static_cast<FREE_IMAGE_FORMAT>(fif), &io, this, flags));
+    }
+    /// True when the last load asked for more than there is. A reader with read-ahead may meet the end of an intact
+    /// file, but asks for nothing after that.
+    bool ranDry(bool readsAhead) const { return timesEmpty_ > 0 || (timesShort_ > 0 && !readsAhead); }
+
+  private:
+    static unsigned DLL_CALLCONV read(void* to, unsigned size, unsigned count, fi_handle handle)
+    {
+        auto& stream = *static_cast<Stream*>(handle);
+        const std::size_t left = stream.bytes_.size() - stream.at_;
+        const std::size_t wanted = std::size_t{size} * count;
+        if (wanted > left) {
+            count = static_cast<unsigned>(left / size);
+            ++(left == 0 ? stream.timesEmpty_ : stream.timesShort_);
+        }
+        const std::size_t bytes = wanted > left ? left : wanted; // as fread: the last item may be partial
+        std::memcpy(to, stream.bytes_.data() + stream.at_, bytes);
+        stream.at_ += bytes;
+        return count;
+    }
+    static unsigned DLL_CALLCONV write(void*, unsigned, unsigned, fi_handle) { return 0; }
+    static int DLL_CALLCONV seek(fi_handle handle, long offset, int origin)
+    {
+        auto& stream = *static_cast<Stream*>(handle);
+        const auto size = static_cast<long>(stream.bytes_.size());
+        const long from = origin == SEEK_SET ? 0 : origin == SEEK_CUR ? static_cast<long>(stream.at_) : size;
+        if (offset < -from || offset > size - from) return -1;
+        stream.at_ = static_cast<std::size_t>(from + offset);
+        return 0;
+    }
+    static long DLL_CALLCONV tell(fi_handle handle) { return static_cast<long>(static_cast<Stream*>(handle)->at_); }
+
+    std::span<const std::uint8_t> bytes_;
+    std::size_t at_ = 0;
+    int timesShort_ = 0, timesEmpty_ = 0;
+};
+
+// --- Sizes from headers, for the readers that can't give them without the pixels
+
+struct Size {
+    std::int64_t width = 0, height = 0;
+    int bits = 0; // per pixel; 0: unknown
+};
+
+Size sizeOfIff(const FileBytes& file) // FORM, length, type, then chunks: name, length, contents padded to even
+{
+    for (std::size_t at = 12; at + 8 <= file.size();) {
+        const std::size_t length = file.big32(at + 4);
+        if (std::memcmp(&file.bytes()[at], "BMHD", 4) == 0)
+            return {file.big16(at + 8), file.big16(at + 10), static_cast<int>(file.byte(at + 16))}; // planes
+        at += 8 + length + length % 2;
+    }
+    return {};
+}
+
+Size sizeOfMng(const FileBytes& file) // signature, length, "MHDR", width, height
+{
+    return {file.big32(16), file.big32(20)};
+}
+
+Size sizeOfWbmp(const FileBytes& file) // type 0, fixed header byte, width and height in groups of 7 bits
+{
+    std::size_t at = 2;
+    const auto number = [&] {
+        std::int64_t value = 0;
+        for (int groups = 0; groups < 5; ++groups) {
+            const std::uint32_t byte = file.byte(at++);
+            value = value << 7 | (byte & 127);
+            if (byte < 128) break;
+        }
+        return value;
+    };
+    const std::int64_t width = number();
+    return {width, number()};
+}
+
+Size sizeOf(const FileBytes& file, Stream& stream, int fif)
+{
+    switch (fif) {
+    case FIF_KOALA:
+        return {320, 200};
+    case FIF_IFF:
+        return sizeOfIff(file);
+    case FIF_MNG:
+        return sizeOfMng(file);
+    case FIF_WBMP:
+        return sizeOfWbmp(file);
+    default:
+        break;
+    }
+    const Dib header = stream.load(fif, FIF_LOAD_NOPIXELS);
+    if (!header) return {};
+    return {FreeImage_GetWidth(header.get()), FreeImage_GetHeight(header.get()),
+            static_cast<int>(FreeImage_GetBPP(header.get()))};
+}
+
+// --- Rows of every depth converted to blue, green, red, 0
+
+std::array<Pixel, 256> paletteOf(FIBITMAP* dib)
+{
+    std::array<Pixel, 256> palette{};
+    const RGBQUAD* colours = FreeImage_GetPalette(dib);
+    const unsigned count = colours ? std::min(FreeImage_GetColorsUsed(dib), 256U) : 0;
+    for (unsigned i = 0; i < count; ++i) palette[i] = {{colours[i].rgbBlue, colours[i].rgbGreen, colours[i].rgbRed, 0}};
+    return palette;
+}
+
+RowMaker palettedRows(FIBITMAP* dib, int width, int bits)
+{
+    const int perByte = 8 / bits, mask = (1 << bits) - 1;
+    return [=, palette = paletteOf(dib)](const std::uint8_t* from, Pixel* row) {
+        for (int x = 0; x < width; ++x) {
+            const int shift = 8 - bits * (x % perByte + 1); // the leftmost pixel is in the high bits
+            row[x] = palette[static_cast<std::size_t>(from[x / perByte] >> shift & mask)];
+        }
+    };
+}
+
+void expand24(const std::uint8_t* from, Pixel* row, int width)
+{
+    int x = 0;
+    for (; x < width - 1; ++x, from += 3) { // four bytes at a time, while the fourth is inside the row
+        std::uint32_t four;
+        std::memcpy(&four, from, 4);
+        four &= 0xffffff;
+        std::memcpy(row + x, &four, 4);
+    }
+    row[x] = {{from[0], from[1], from[2], 0}};
+}
+
+RowMaker trueColourRows(FIBITMAP* dib, int width, int bits)
+{
+    if (bits == 24) return [=](const std::uint8_t* from, Pixel* row) { expand24(from, row, width); };
+    const bool is565 = FreeImage_GetGreenMask(dib) == FI16_565_GREEN_MASK;
+    return [=](const std::uint8_t* from, Pixel* row) {
+        auto* to = reinterpret_cast<BYTE*>(row);
+        auto* source = const_cast<BYTE*>(from);
+        if (bits == 32)
+            std::memcpy(row, from, sizeof(Pixel) * static_cast<std::size_t>(width));
+        else if (is565)
+            FreeImage_ConvertLine16To32_565(to, source, width);
+        else
+            FreeImage_ConvertLine16To32_555(to, source, width);
+        for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour of transparent pixels is shown
+    };
+}
+
+/// Light of 0 to 1; brighter values become white.
+template <class Colour> RowMaker floatRows(int width)
+{
+    return [=](const std::uint8_t* from, Pixel* row) {
+        const auto byte = [](float light) { // not-a-number becomes black
+            return static_cast<std::uint8_t>(light > 0 ? std::min(light, 1.0F) * 255 + 0.5F : 0.0F);
+        };
+        const auto* colours = reinterpret_cast<const Colour*>(from);
+        for (int x = 0; x < width; ++x)
+            row[x] = {{byte(colours[x].blue), byte(colours[x].green), byte(colours[x].red), 0}};
+    };
+}
+
+/// Converts depths without a row reader of their own to one that has it.
+Dib simplified(const Dib& dib)
+{
+    switch (FreeImage_GetImageType(dib.get())) {
+    case FIT_BITMAP:
+    case FIT_RGBF:
+    case FIT_RGBAF:
+        return dib;
+    case FIT_UINT16:
+        return owned(FreeImage_ConvertTo8Bits(dib.get())); // the high byte, as for 16-bit colours
+    case FIT_RGB16:
+    case FIT_RGBA16:
+        return owned(FreeImage_ConvertTo24Bits(dib.get()));
+    default:
+        return owned(FreeImage_ConvertToStandardType(dib.get(), TRUE)); // measurements: darkest to brightest
+    }
+}
+
+RowMaker rowsOf(FIBITMAP* dib, int width)
+{
+    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(dib);
+    if (type == FIT_RGBF) return floatRows<FIRGBF>(width);
+    if (type == FIT_RGBAF) return floatRows<FIRGBAF>(width);
+    const int bits = static_cast<int>(FreeImage_GetBPP(dib));
+    return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
+}
+
+/// A number in a text entry of a PNG file; 0: there is none.
+long long numberIn(FIBITMAP* dib, const char* key)
+{
+    FITAG* tag = nullptr;
+    if (!FreeImage_GetMetadata(FIMD_COMMENTS, dib, key, &tag) || !tag || FreeImage_GetTagType(tag) != FIDT_ASCII)
+        return 0;
+    const std::string text(static_cast<const char*>(FreeImage_GetTagValue(tag)), FreeImage_GetTagLength(tag));
+    return std::strtoll(text.c_str(), nullptr, 10);
+}
+
+Origin originOf(FIBITMAP* dib)
+{
+    const auto side = [&](const char* key) {
+        return static_cast<std::int32_t>(std::clamp(numberIn(dib, key), 0LL, 1LL << 30));
+    };
+    return {numberIn(dib, "Thumb::MTime"), side("Thumb::Image::Width"), side("Thumb::Image::Height")};
+}
+
+/// A file whose end is missing; most readers fill the rest with black or grey and report nothing.
+bool isCutOff(const Stream& stream, int fif)
+{
+    if (fif == FIF_JPEG) return Library::said().find("premature end of data segment") != std::string::npos;
+    return stream.ranDry(fif == FIF_PCX);
+}
+
+} // namespace
+
+Decoded readByOldLibrary(FileBytes& file, int fif)
+{
+    const Library library;
+    Stream stream(file.bytes());
+    const Size size = sizeOf(file, stream, fif);
+    if (size.width < 1 || size.height < 1) return {};
+    if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
+
+    sizeFound(size.width, size.height, size.bits);
+    // The exact transform and smooth chroma: the fast ones lose up to 3 dB against what a browser shows.
+    Dib dib = stream.load(fif, fif == FIF_JPEG ? JPEG_ACCURATE : 0);
+    const QString note = isCutOff(stream, fif) ? kCutOff : ""; // the available part can be shown
+    const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();
+    if (dib) dib = simplified(dib);
+    if (!dib || !FreeImage_HasPixels(dib.get())) return {};
+    const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
+    const int height = static_cast<int>(FreeImage_GetHeight(dib.get()));
+    if (!Bits::sizeAllowed(width, height)) return refused(kTooBig);
+    return {width, height,
+            [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {
+                maker(FreeImage_GetScanLine(dib.get(), height - 1 - y), row);
+            },
+            note, origin};
+}
+
+} // namespace velara::compare
