@@ -1,4 +1,7 @@
 #include "fileio/decode/decode.h"
+#include "fileio/decode/facts/carry.h"
+#include "fileio/decode/facts/colours.h"
+#include "fileio/decode/facts/upright.h"
 #include "fileio/decode/mends.h"
 #include "fileio/decode/readers.h"
 #include "fileio/formats.h"
@@ -105,11 +108,12 @@ void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::i
 
 Needs prepareReader(const QString& extension)
 {
+    prepareColours();
     const Reader* reader = readerOf(extension.toStdString());
     return reader ? reader->prepare() : Needs::Nothing;
 }
 
-Decoded decodePicture(FileBytes&& file, const QString& extension)
+Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted)
 try {
     const Reader* reader = readerOf(extension.toStdString());
     if (extension.isEmpty()) return refused("its name has no extension to tell what it is");
@@ -120,6 +124,11 @@ try {
     if (!decoded.ok() && decoded.reason.isEmpty())
         decoded.reason =
             QString("it is damaged or not %1 picture").arg(QLatin1String(findFormat(reader->extension)->name));
+    if (wanted.facts) decoded.properties = propertiesOf(decoded);
+    if (wanted.srgb) convertToSrgb(decoded);
+    decoded = upright(std::move(decoded));
+    if (wanted.facts) decoded.camera = cameraOf(decoded);
+    decoded.carried = {};
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);
