@@ -57,11 +57,14 @@ QByteArray fittedExif(const QByteArray& bytes, int width, int height)
     return exif.bytes();
 }
 
+/// The place's own directory is cleared with its values before its link goes. EXIF has one link; more are suspect.
 QByteArray exifWithoutPlace(const QByteArray& bytes)
 {
+    constexpr int kMostLinks = 4;
     ExifBytes exif(bytes);
     const Directory first = exif.first();
-    while (const auto link = exif.find(first, ExifTag::Place)) {
+    for (int links = 0; const auto link = exif.find(first, ExifTag::Place); ++links) {
+        if (links == kMostLinks) return {};
         const Directory place = exif.number(*link);
         if (place != first && place != exif.directoryOf(first, ExifTag::Details)) {
             const std::vector<ExifBytes::Entry> entries = exif.entries(place);
@@ -79,11 +82,13 @@ QByteArray exifWithoutPlace(const QByteArray& bytes)
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
-/// Sets a property of whole numbers, as an attribute or an element, wherever it stands.
+/// Sets a property of whole numbers, as an attribute or an element, where it stands the first few times.
 void setXmp(QByteArray& xmp, std::string_view name, int value)
 {
     const auto key = QByteArrayView(name.data(), static_cast<qsizetype>(name.size()));
-    for (qsizetype at = 0; (at = xmp.indexOf(key, at)) >= 0;) {
+    constexpr int kMostTimes = 16;
+    qsizetype at = 0;
+    for (int times = 0; times < kMostTimes && (at = xmp.indexOf(key, at)) >= 0; ++times) {
         at += key.size();
         const bool isAttribute = xmp.mid(at, 2) == "=\"" || xmp.mid(at, 2) == "='";
         if (!isAttribute && xmp.mid(at, 1) != ">") continue;
@@ -118,16 +123,18 @@ qsizetype endOfProperty(const QByteArray& xmp, qsizetype at)
 }
 
 /// Without the properties whose names begin so; empty where one of them can't be told from the rest.
-QByteArray xmpWithout(QByteArray xmp, const char* beginning)
+QByteArray xmpWithout(const QByteArray& xmp, const char* beginning)
 {
-    for (qsizetype at = 0; (at = xmp.indexOf(beginning, at)) >= 0;) {
+    QByteArray kept;
+    qsizetype from = 0;
+    for (qsizetype at = 0; (at = xmp.indexOf(beginning, from)) >= 0;) {
         const qsizetype end = endOfProperty(xmp, at);
         if (end == at) return {};
-        const qsizetype from = xmp[at - 1] == '<' ? at - 1 : at;
-        xmp.remove(from, end - from);
-        at = from;
+        const bool isElement = at > 0 && xmp[at - 1] == '<';
+        kept += xmp.mid(from, at - from - (isElement ? 1 : 0));
+        from = end;
     }
-    return xmp;
+    return kept + xmp.mid(from);
 }
 
 constexpr const char* kPlacesInXmp[] = {"exif:GPS",

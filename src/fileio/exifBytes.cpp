@@ -8,6 +8,8 @@ namespace {
 
 constexpr std::size_t kEntryBytes = 12, kInEntry = 4; // a value of up to four bytes stands in the entry itself
 
+constexpr std::uint32_t kMostEntries = 500; // a directory of more is none: cameras write some sixty
+
 enum Type : std::uint16_t { Byte = 1, Text, Short, Long, Fraction, SignedFraction = 10 };
 
 /// Bytes of a value by its type; 0: unknown.
@@ -43,7 +45,7 @@ std::uint32_t ExifBytes::first() const
 std::uint32_t ExifBytes::entryCount(std::uint32_t directory) const
 {
     const std::uint32_t count = directory ? get(directory, 2) : 0;
-    return holds(directory, 2 + count * kEntryBytes) ? count : 0;
+    return count <= kMostEntries && holds(directory, 2 + count * kEntryBytes) ? count : 0;
 }
 
 std::uint32_t ExifBytes::next(std::uint32_t directory) const

@@ -52,7 +52,7 @@ class ExifBytes {
     std::uint32_t first() const;
     /// The offset of the directory that a directory links to; 0: none.
     std::uint32_t next(std::uint32_t directory) const;
-    /// The entries of the directory at an offset; those of an unknown type are left out.
+    /// The entries of the directory at an offset, none if it has more than 500; those of an unknown type are left out.
     std::vector<Entry> entries(std::uint32_t directory) const;
     std::optional<Entry> find(std::uint32_t directory, std::uint16_t tag) const;
     /// The directory that an entry of another one points to; 0: none.

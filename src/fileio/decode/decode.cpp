@@ -128,7 +128,6 @@ try {
     if (wanted.srgb) convertToSrgb(decoded);
     decoded = upright(std::move(decoded));
     if (wanted.facts) decoded.camera = cameraOf(decoded);
-    decoded.carried = {};
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

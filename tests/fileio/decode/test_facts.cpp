@@ -110,9 +110,16 @@ using Matrix = std::array<Triple, 3>;
 struct Space {
     std::array<double, 6> primaries; // x and y of red, green and blue
     double gamma;                    // 0: sRGB's curve
+    Matrix toSrgb;                   // of light; by the primaries, in double precision
 };
-constexpr Space kAdobe{{0.64, 0.33, 0.21, 0.71, 0.15, 0.06}, 563.0 / 256},
-    kP3{{0.68, 0.32, 0.265, 0.69, 0.15, 0.06}, 0}, kSrgb{{0.64, 0.33, 0.30, 0.60, 0.15, 0.06}, 0};
+constexpr Matrix kSame{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+constexpr Space kSrgb{{0.64, 0.33, 0.30, 0.60, 0.15, 0.06}, 0, kSame}, kMac{kSrgb.primaries, 1.8, kSame};
+constexpr Space kAdobe{{0.64, 0.33, 0.21, 0.71, 0.15, 0.06},
+                       563.0 / 256,
+                       {{{1.3983557, -0.3983557, 0}, {0, 1, 0}, {0, -0.042929, 1.042929}}}};
+constexpr Space kP3{{0.68, 0.32, 0.265, 0.69, 0.15, 0.06},
+                    0,
+                    {{{1.2249402, -0.2249402, 0}, {-0.042057, 1.042057, 0}, {-0.0196376, -0.078636, 1.0982736}}}};
 constexpr cmsCIExyY kWhite{0.3127, 0.3290, 1};
 constexpr std::array<double, 5> kSrgbCurve{2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
 
@@ -138,47 +145,6 @@ std::vector<std::uint8_t> profileOf(const Space& space)
     return bytes;
 }
 
-Triple times(const Matrix& m, const Triple& v)
-{
-    Triple out{};
-    for (std::size_t r = 0; r < 3; ++r)
-        for (std::size_t c = 0; c < 3; ++c) out[r] += m[r][c] * v[c];
-    return out;
-}
-
-double determinant(const Matrix& m)
-{
-    return m[0][0] * (m[1][1] * m[2][2] - m[1][2] * m[2][1]) - m[0][1] * (m[1][0] * m[2][2] - m[1][2] * m[2][0]) +
-           m[0][2] * (m[1][0] * m[2][1] - m[1][1] * m[2][0]);
-}
-
-/// Solves m x = v by Cramer's rule.
-Triple solved(const Matrix& m, const Triple& v)
-{
-    Triple out{};
-    for (std::size_t c = 0; c < 3; ++c) {
-        Matrix replaced = m;
-        for (std::size_t r = 0; r < 3; ++r) replaced[r][c] = v[r];
-        out[c] = determinant(replaced) / determinant(m);
-    }
-    return out;
-}
-
-/// From the light of three primaries to XYZ, where all together are the white.
-Matrix toXyz(const Space& space)
-{
-    const auto& p = space.primaries;
-    Matrix m{};
-    for (std::size_t c = 0; c < 3; ++c) {
-        const double x = p[2 * c], y = p[2 * c + 1];
-        m[0][c] = x / y, m[1][c] = 1, m[2][c] = (1 - x - y) / y;
-    }
-    const Triple parts = solved(m, {kWhite.x / kWhite.y, 1, (1 - kWhite.x - kWhite.y) / kWhite.y});
-    for (auto& row : m)
-        for (std::size_t c = 0; c < 3; ++c) row[c] *= parts[c];
-    return m;
-}
-
 /// The levels, not rounded, that samples of 0 to 1 have in sRGB.
 Triple wantedOf(const Space& space, const Triple& samples)
 {
@@ -189,12 +155,13 @@ Triple wantedOf(const Space& space, const Triple& samples)
                    : v <= 0.04045  ? v / 12.92
                                    : std::pow((v + 0.055) / 1.055, 2.4);
     }
-    light = solved(toXyz(kSrgb), times(toXyz(space), light));
-    for (double& v : light) {
-        v = std::clamp(v, 0.0, 1.0);
-        v = 255 * (v <= 0.0031308 ? 12.92 * v : 1.055 * std::pow(v, 1 / 2.4) - 0.055);
+    Triple levels{};
+    for (std::size_t r = 0; r < 3; ++r) {
+        for (std::size_t c = 0; c < 3; ++c) levels[r] += space.toSrgb[r][c] * light[c];
+        const double v = std::clamp(levels[r], 0.0, 1.0);
+        levels[r] = 255 * (v <= 0.0031308 ? 12.92 * v : 1.055 * std::pow(v, 1 / 2.4) - 0.055);
     }
-    return light;
+    return levels;
 }
 
 constexpr int kSide = 64;
@@ -297,7 +264,7 @@ TEST(facts, APictureIsInItsColours)
     Decoded mac = levels(1);
     mac.carried.gamma = 1 / 1.8;
     convertToSrgb(mac);
-    expectNear(mac, {kSrgb.primaries, 1.8}, 1, "gAMA");
+    expectNear(mac, kMac, 1, "gAMA");
 }
 
 TEST(facts, InksAndGreysHaveProfilesToo)
@@ -327,7 +294,7 @@ TEST(facts, InksAndGreysHaveProfilesToo)
     for (int x = 0; x < 256; ++x)
         for (int c = 0; c < 3; ++c)
             EXPECT_NEAR(grey[std::size_t(x)].c[c],
-                        x == 7 ? 7 + c : wantedOf({kSrgb.primaries, 1.8}, {x / 255.0, x / 255.0, x / 255.0})[0], 1.01)
+                        x == 7 ? 7 + c : wantedOf(kMac, {x / 255.0, x / 255.0, x / 255.0})[0], 1.01)
                 << x;
 }
 
