@@ -90,11 +90,14 @@ void MatrixColours::convert(const Pixel* from, Pixel* to, int count) const
         put(r * red[from[x].c[2]] + g * green[from[x].c[1]] + b * blue[from[x].c[0]], to[x]);
 }
 
-void MatrixColours::convert(const std::uint16_t* from, Pixel* to, int count) const
+template <class Sample> void MatrixColours::convertSamples(const Sample* from, Pixel* to, int count) const
 {
     const float *red = linear_[0].data(), *green = linear_[1].data(), *blue = linear_[2].data();
     const Light r = columns_[0], g = columns_[1], b = columns_[2];
     for (int x = 0; x < count; ++x, from += 3) put(r * red[from[0]] + g * green[from[1]] + b * blue[from[2]], to[x]);
 }
+
+template void MatrixColours::convertSamples(const std::uint8_t* from, Pixel* to, int count) const;
+template void MatrixColours::convertSamples(const std::uint16_t* from, Pixel* to, int count) const;
 
 } // namespace velara::decode

@@ -16,13 +16,15 @@ class MatrixColours {
 
     /// For 1 byte; may be in place. The fourth byte stays.
     void convert(const Pixel* from, Pixel* to, int count) const;
-    /// For 2 bytes: red, green, blue, in the machine's order.
-    void convert(const std::uint16_t* from, Pixel* to, int count) const;
+    /// For 1 or 2 bytes: red, green, blue, in the machine's order.
+    void convert(const std::uint8_t* from, Pixel* to, int count) const { convertSamples(from, to, count); }
+    void convert(const std::uint16_t* from, Pixel* to, int count) const { convertSamples(from, to, count); }
 
   private:
     using Light = float __attribute__((vector_size(16))); // red, green, blue and nothing, in steps of the table below
 
     MatrixColours() = default;
+    template <class Sample> void convertSamples(const Sample* from, Pixel* to, int count) const;
     void put(Light light, Pixel& to) const;
 
     static constexpr int kSteps = 1 << 14;          // an eighth of a level where sRGB is steepest

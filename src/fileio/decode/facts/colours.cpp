@@ -93,17 +93,19 @@ Convert byLibrary(cmsHPROFILE profile, cmsUInt32Number form, cmsUInt32Number fla
     };
 }
 
-/// For red, green and blue of 1 byte (as pixels, which may be converted in place) or 2.
-Convert ofColours(cmsHPROFILE profile, int bytes)
+/// What a row of red, green and blue is made of: pixels, which may be converted in place, or samples.
+enum class Form { Pixels, Bytes, Words };
+
+Convert ofColours(cmsHPROFILE profile, Form form)
 {
-    if (auto matrix = MatrixColours::of(profile, srgb(), bytes))
-        return [matrix = std::move(matrix), bytes](const void* from, Pixel* to, int count) {
-            if (bytes == 1)
-                matrix->convert(static_cast<const Pixel*>(from), to, count);
-            else
-                matrix->convert(static_cast<const std::uint16_t*>(from), to, count);
-        };
-    return byLibrary(profile, bytes == 1 ? TYPE_BGRA_8 : TYPE_RGB_16);
+    constexpr cmsUInt32Number kForms[] = {TYPE_BGRA_8, TYPE_RGB_8, TYPE_RGB_16};
+    const auto matrix = MatrixColours::of(profile, srgb(), form == Form::Words ? 2 : 1);
+    if (!matrix) return byLibrary(profile, kForms[static_cast<int>(form)]);
+    return [matrix, form](const void* from, Pixel* to, int count) {
+        if (form == Form::Pixels) matrix->convert(static_cast<const Pixel*>(from), to, count);
+        if (form == Form::Bytes) matrix->convert(static_cast<const std::uint8_t*>(from), to, count);
+        if (form == Form::Words) matrix->convert(static_cast<const std::uint16_t*>(from), to, count);
+    };
 }
 
 /// No more than a level off at any of 17 steps of each colour.
@@ -124,39 +126,34 @@ bool changesNothing(const Convert& convert)
 
 // --- Pictures by what they are made of
 
-/// Red, green and blue.
-void convertColours(Decoded& picture, cmsHPROFILE profile)
+/// The picture's rows are made of its samples from now on.
+void convertSamples(Decoded& picture, const Convert& convert)
 {
-    const Convert small = ofColours(profile, 1);
-    if (!small || changesNothing(small)) return;
-    if (picture.samples.row && picture.samples.bytes == 2) {
-        const Convert fine = ofColours(profile, 2);
-        if (!fine) return;
-        picture.row = [fine, width = picture.width, samples = picture.samples,
-                       line = std::vector<std::uint16_t>(std::size_t(3) * picture.width)](int y, Pixel* row) mutable {
-            samples.row(y, line.data());
-            std::fill_n(row, width, Pixel{});
-            fine(line.data(), row, width);
-        };
-        return;
-    }
-    picture.row = [small, width = picture.width, stored = std::move(picture.row)](int y, Pixel* row) {
-        stored(y, row);
-        small(row, row, width);
-    };
-}
-
-void convertInks(Decoded& picture, cmsHPROFILE profile)
-{
-    const Convert convert = byLibrary(profile, picture.samples.bytes == 2 ? TYPE_CMYK_16 : TYPE_CMYK_8);
     if (!convert) return;
-    const std::size_t bytes = std::size_t(4) * picture.samples.bytes * picture.width;
+    const std::size_t bytes = std::size_t(picture.samples.channels) * picture.samples.bytes * picture.width;
     picture.row = [convert, width = picture.width, samples = picture.samples,
                    line = std::vector<std::uint16_t>((bytes + 1) / 2)](int y, Pixel* row) mutable {
         samples.row(y, line.data());
         std::fill_n(row, width, Pixel{});
         convert(line.data(), row, width);
     };
+}
+
+void convertColours(Decoded& picture, cmsHPROFILE profile)
+{
+    const Convert convert = ofColours(profile, Form::Pixels);
+    if (!convert || changesNothing(convert)) return;
+    if (picture.samples.row)
+        return convertSamples(picture, ofColours(profile, picture.samples.bytes == 2 ? Form::Words : Form::Bytes));
+    picture.row = [convert, width = picture.width, stored = std::move(picture.row)](int y, Pixel* row) {
+        stored(y, row);
+        convert(row, row, width);
+    };
+}
+
+void convertInks(Decoded& picture, cmsHPROFILE profile)
+{
+    convertSamples(picture, byLibrary(profile, picture.samples.bytes == 2 ? TYPE_CMYK_16 : TYPE_CMYK_8));
 }
 
 /// A profile of greys speaks of grey pixels alone.
