@@ -26,16 +26,10 @@ void FileBytes::map(int fd)
         const auto size = static_cast<std::size_t>(status.st_size);
         void* mapped = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE, fd, 0);
         if (mapped != MAP_FAILED) {
-            mapped_ = mapped;
-            mappedSize_ = size;
+            owner_ = {mapped, [size](void* memory) { munmap(memory, size); }};
             bytes_ = {static_cast<std::uint8_t*>(mapped), size};
         }
     }
-}
-
-FileBytes::~FileBytes()
-{
-    if (mapped_) munmap(mapped_, mappedSize_);
 }
 
 bool FileBytes::startsWith(std::string_view magic) const

@@ -2,22 +2,21 @@
 #pragma once
 #include <QString>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
 
 namespace velara::decode {
 
+/// Copies share the bytes: readers that produce rows on demand keep one.
 class FileBytes {
   public:
     /// Maps the file privately: it is read page by page, and changing a byte copies its page.
     explicit FileBytes(const QString& path);
     /// The file behind a descriptor, which stays open.
     explicit FileBytes(int descriptor);
-    explicit FileBytes(std::vector<std::uint8_t> bytes) : owned_(std::move(bytes)), bytes_(owned_) {}
-    ~FileBytes();
-    FileBytes(const FileBytes&) = delete;
-    FileBytes& operator=(const FileBytes&) = delete;
+    explicit FileBytes(std::vector<std::uint8_t> bytes) { replace(std::move(bytes)); }
 
     /// Empty when the file can't be read.
     std::span<std::uint8_t> bytes() const { return bytes_; }
@@ -25,8 +24,9 @@ class FileBytes {
     /// Replaces the contents.
     void replace(std::vector<std::uint8_t> bytes)
     {
-        owned_ = std::move(bytes);
-        bytes_ = owned_;
+        const auto owned = std::make_shared<std::vector<std::uint8_t>>(std::move(bytes));
+        bytes_ = *owned;
+        owner_ = owned;
     }
 
     bool startsWith(std::string_view magic) const;
@@ -40,9 +40,7 @@ class FileBytes {
   private:
     void map(int fd);
 
-    void* mapped_ = nullptr;
-    std::size_t mappedSize_ = 0;
-    std::vector<std::uint8_t> owned_;
+    std::shared_ptr<void> owner_;
     std::span<std::uint8_t> bytes_;
 };
 

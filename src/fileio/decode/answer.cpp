@@ -70,7 +70,7 @@ bool tellOpening(const Decoded& picture)
 
 /// Fills the slots in turn; waits for the parent when all are full.
 bool tellRows(const Decoded& picture, std::uint8_t* memory)
-{
+try {
     const int most = rowsInSlot(picture.width);
     std::size_t slot = 0, free = kSlots;
     for (std::int32_t y = 0; y < picture.height; y += most, slot = (slot + 1) % kSlots) {
@@ -82,6 +82,8 @@ bool tellRows(const Decoded& picture, std::uint8_t* memory)
         if (!tell(y)) return false;
     }
     return true;
+} catch (const std::exception&) { // damage between the pixels, or too little memory: the parent says so
+    return false;
 }
 
 } // namespace

@@ -14,6 +14,7 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+Decoded readJpeg(FileBytes&file), readPng(FileBytes&file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
@@ -66,13 +67,13 @@ constexpr Reader kReaders[] = {
     {"bmp",   byFreeImage<FIF_BMP, mendBmp>},
     {"cut",   byFreeImage<FIF_CUT>},
     {"iff",   byFreeImage<FIF_IFF, mendIff>},
-    {"jpg",   byFreeImage<FIF_JPEG, mendJpeg>},
+    {"jpg",   readJpeg},
     {"koa",   byFreeImage<FIF_KOALA>},
     {"lbm",   byFreeImage<FIF_LBM, mendIff>},
     {"mng",   byFreeImage<FIF_MNG>},
     {"pcd",   byFreeImage<FIF_PCD>},
     {"pcx",   readPcx},
-    {"png",   byFreeImage<FIF_PNG>},
+    {"png",   readPng},
     {"psd",   byFreeImage<FIF_PSD>},
     {"ras",   byFreeImage<FIF_RAS, mendRas>},
     {"tga",   byFreeImage<FIF_TARGA>},
@@ -131,6 +132,8 @@ try {
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);
+} catch (const Damage&) { // between the pixels, where a picture is turned
+    return refused("it is damaged, and its reader gave up");
 }
 
 } // namespace velara::decode

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -36,10 +37,15 @@ struct Samples {
     std::function<void(int y, void* row)> row;
 };
 
+/// Damage that a reader can't go on after.
+struct Damage : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 /// A picture whose rows are produced on demand, so that it isn't in memory twice.
 struct Decoded {
     int width = 0, height = 0;
-    /// Writes the W pixels of row y (0 is the top one), fourth byte 0.
+    /// Writes the W pixels of row y (0 is the top one), fourth byte 0. Throws Damage where the pixels can't be read.
     std::function<void(int y, Pixel* row)> row;
     QString reason = {}; // why there is no picture, or why it is incomplete
     Origin origin = {};

@@ -7,9 +7,6 @@ namespace velara::decode {
 
 /// A 52- to 124-byte header becomes the 40-byte one that it begins with; the palette is moved to follow it.
 void mendBmp(FileBytes& file);
-/// Metadata segments, whose parser reads beyond them, become segments that are not parsed. A missing end marker, which
-/// some cameras omit, is added: without it a picture would count as truncated.
-void mendJpeg(FileBytes& file);
 /// Plain bitmaps, which may have no blanks between the pixels, become raw ones.
 void mendPnm(FileBytes& file);
 /// Run-length encoded true colour pictures become uncompressed: the reader loses runs that continue into the next row.

@@ -179,27 +179,6 @@ TEST(Mends, FloatingPointTiff)
     EXPECT_EQ(coloursIn(tiff, "tif"), (Colours{0x80ff00, 0x0000ff}));
 }
 
-// Metadata becomes segments that nobody parses; what the colours need and what follows the scan is kept.
-TEST(Mends, JpegMetadata)
-{
-    const auto segment = [](int marker, const std::string& body) {
-        return std::string("\xff") + static_cast<char>(marker) + big(body.size() + 2, 2) + body;
-    };
-    const auto file = [&](const std::vector<int>& markers) {
-        std::string text = "\xff\xd8";
-        for (const int marker : markers) text += segment(marker, "some \xff\xe1 text");
-        return text + "\xff" + segment(0xdb, "table") + segment(0xda, "scan") + "data \xff\xe1\0\4\xff\xfe";
-    };
-    const auto mended = [](const std::string& text) {
-        FileBytes bytes(std::vector<std::uint8_t>(text.begin(), text.end()));
-        mendJpeg(bytes);
-        return std::string(bytes.bytes().begin(), bytes.bytes().end());
-    };
-    EXPECT_EQ(mended(file({0xe0, 0xe1, 0xe2, 0xed, 0xee, 0xef, 0xfe})),
-              file({0xe0, 0xe9, 0xe9, 0xe9, 0xee, 0xe9, 0xe9}) + "\xff\xd9");
-    for (const char* cut : {"", "\xff", "\xff\xd8\xff", "\xff\xd8\xff\xe1", "\xff\xd8\xff\xff\xff"}) mended(cut);
-}
-
 TEST(Mends, PlainBitMaps)
 {
     const Colours wanted = {0, 0xffffff, 0, 0xffffff, 0xffffff, 0};
