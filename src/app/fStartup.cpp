@@ -1,11 +1,13 @@
 #include "app/fStartup.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/settings/pictureSettings.h"
 #include "app/start/defaultPictures.h"
 #include "app/start/fSplash.h"
 #include "document/undo/UndoMark.h"
 #include "fileio/SetupStore.h"
 #include "fileio/disk/OutputFile.h"
+#include "fileio/load/PictureLoader.h"
 #include "pixels/twips.h"
 #include <QApplication>
 #include <QBuffer>
@@ -133,6 +135,7 @@ try {
 void Startup::makeFrame()
 {
     setup_ = LoadSetup(platform_);
+    readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
     frame_ = std::make_unique<fMain>(platform_, setup_);
     setup_.CurrentTool.clear();
     second_ = platform_.previousInstance();

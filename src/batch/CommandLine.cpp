@@ -36,6 +36,23 @@ int threadsFrom(const QString& text)
     return threads;
 }
 
+constexpr std::pair<const char*, CameraKept> kKept[] = {
+    {"keep", CameraKept::All}, {"no-place", CameraKept::NoPlace}, {"none", CameraKept::None}};
+constexpr std::pair<const char*, bool> kColours[] = {{"srgb", false}, {"stored", true}};
+
+/// The value of an option that has one of a few words; throws a Failure that lists them.
+template <class Value, std::size_t N>
+Value wordOf(const QString& option, const QString& text, const std::pair<const char*, Value> (&words)[N])
+{
+    QStringList all;
+    for (const auto& [word, value] : words) {
+        if (text == QLatin1String(word)) return value;
+        all << QLatin1String(word);
+    }
+    throw badArgument(option + QStringLiteral(": one of ") + all.join(QStringLiteral(", ")) +
+                      QStringLiteral(" has to follow"));
+}
+
 constexpr auto kUsage = "velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ... | --icon WxH] OUTPUT";
 
 } // namespace
@@ -60,6 +77,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             middle.emplace_back(true, arguments[i]);
         } else if (text == QStringLiteral("--threads")) {
             line.threads = threadsFrom(arguments.value(++i));
+        } else if (text == QStringLiteral("--colours")) {
+            line.stored = wordOf(text, arguments.value(++i), kColours);
+        } else if (text == QStringLiteral("--metadata")) {
+            line.camera = wordOf(text, arguments.value(++i), kKept);
         } else if (text == QStringLiteral("--icon")) {
             if (++i == arguments.size())
                 throw badArgument(QStringLiteral("--icon: a size has to follow, such as 32x32"));

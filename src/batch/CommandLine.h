@@ -25,6 +25,8 @@ struct CommandLine {
     std::optional<WebOrder> web;   // OUTPUT is a web file
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     std::optional<int> threads;    // all cores without it
+    CameraKept camera = CameraKept::All;
+    bool stored = false; // colours as the file has them
     bool verbose = false, help = false, list = false, partial = false;
 
     /// Throws a Failure that names the unusable argument.

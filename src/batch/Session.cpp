@@ -60,8 +60,9 @@ void Session::take(const DocumentHandle& document)
     checkSteps();
 }
 
-SaveResult Session::save(const QString& path)
+SaveResult Session::save(const QString& path, CameraKept kept)
 {
+    document_->file.kept = kept;
     SaveReport report;
     workspace_->save(document_, path, [&](const SaveReport& became) { report = became; });
     workspace_->wait();

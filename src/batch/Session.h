@@ -26,8 +26,8 @@ class Session {
     void open(const QString& path, bool partial, bool keepSteps);
     /// The same with a picture that is there.
     void adopt(const Bits& bits, bool keepSteps);
-    /// Writes the picture; notices go to the platform.
-    SaveResult save(const QString& path);
+    /// Writes the picture with as much of the camera's data; notices go to the platform.
+    SaveResult save(const QString& path, CameraKept kept = CameraKept::All);
     /// No later step goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }

@@ -84,6 +84,14 @@ dialog's lists; one that there is not prints those that there are:
 side from 1 to 256; --icon WxH,mask:0x00BBGGRR one in which what has that colour
 is transparent.
 
+--colours srgb|stored
+           pictures that say what their colours are become sRGB, or are read as
+           they are stored; srgb without it
+--metadata keep|no-place|none
+           what the camera wrote, date, exposure and place, goes into OUTPUT,
+           or all but the place, or nothing; keep without it. Not with --web
+           and --icon, whose files have none
+
 --list     prints every word and every operation with its arguments
 --partial  takes what is there of a picture file whose end is missing
 --threads N  1 to 64 threads for an operation; all cores without it

@@ -4,6 +4,7 @@
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
+#include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "pixels/threads/parallelFor.h"
 #include <QCoreApplication>
@@ -49,11 +50,11 @@ QString savedExtensions()
     return saved.join(QStringLiteral(", "));
 }
 
-void write(Session& session, const QString& output)
+void write(Session& session, const QString& output, CameraKept kept)
 {
     const QString file = fileOf(output);
     const bool isNew = !isThere(file);
-    switch (session.save(output)) {
+    switch (session.save(output, kept)) {
     case SaveResult::Written:
         return;
     case SaveResult::NotWritten:
@@ -98,6 +99,7 @@ void run(const QStringList& arguments)
         return;
     }
     if (line.threads) setThreadCount(*line.threads);
+    readInSrgb(!line.stored);
     BatchPlatform platform;
     fileOf(line.output);
     const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
@@ -111,7 +113,7 @@ void run(const QStringList& arguments)
     else if (line.icon)
         writeIcon(session.picture(), *line.icon, line.output);
     else
-        write(session, line.output);
+        write(session, line.output, line.camera);
 }
 
 /// Allocating more than the machine has then fails and is reported, instead of the system killing the program. The

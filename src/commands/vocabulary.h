@@ -167,6 +167,7 @@ inline constexpr CommandWord kCommandWords[] = {
     {"@ASSOCIATION",         Stage::Free,       WordKind::Window},
     {"@EXIT",                Stage::Free,       WordKind::Window},
     {"@NEWVIEW",             Stage::NeedsImage, WordKind::View, {"VIEWS", "New View", "window-new"}},
+    {"@PROPERTIES",          Stage::NeedsImage, WordKind::Window},
     {"@ABOUT",               Stage::Free,       WordKind::Window},
     {"@SELECTALL",           Stage::NeedsImage, WordKind::View, {"SELECT", "Select &All", "edit-select-all", "Ctrl+A"}},
     {"@SELECTNONE",          Stage::NeedsImage, WordKind::View, {"SELECT", "Select Non&e", "edit-select-none", "Ctrl+Shift+A"}},

@@ -74,10 +74,12 @@ class Workspace final : public QObject {
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
     /// Writes the picture in the format of the path's extension, in its turn in the queue; later changes don't wait
-    /// until it is written. Then the path becomes the document's own, with a mark if another one has it.
+    /// until it is written. Then the path becomes the document's own, with a mark if another one has it. The file gets
+    /// as much of the camera's data as file.kept says.
     void save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then = {});
     /// Writes a picture that belongs to no document.
-    void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then);
+    void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then,
+               const CameraData& camera = {});
 
     // --- Changes
     /// The one way from a command to a document. The outcome is Gone when there is no picture. Returns the number of

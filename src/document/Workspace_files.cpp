@@ -1,6 +1,7 @@
 // Opening and saving: files are read and written by threads, one after the other.
 #include "document/Workspace.h"
 #include "document/WorkspacePlaces.h"
+#include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "seams/PictureReader.h"
@@ -64,7 +65,10 @@ void Workspace::opened(FileRead& opening)
     Opened opened{opening.kind(), {}, opening.loaded.reason};
     if (opened.kind == Opened::Open) {
         opened.document = add(opening.loaded.bits, opening.path, opening.loaded.ok() ? Arrival::File : Arrival::Made);
-        opened.document->file.isCutOff = opening.loaded.ok() && !opened.reason.isEmpty();
+        FileFacts& file = opened.document->file;
+        file.camera = opening.loaded.camera;
+        file.properties = opening.loaded.properties;
+        file.isCutOff = opening.loaded.ok() && !opened.reason.isEmpty();
     }
     readNext();
     if (opening.then) opening.then(opened);
@@ -86,14 +90,18 @@ void Workspace::save(const DocumentHandle& document, const QString& path, std::f
     if (place && place->isBusy() && !place->inCall)
         return inTurn(document, [this, document, path, then] { save(document, path, then); });
     if (place) ++place->saves;
-    write(place ? document->bits() : Bits(), path,
-          [this, document, path, commits = place ? document->commits() : 0, then](const SaveReport& report) {
-              if (Place* still = placeOf(document)) {
-                  --still->saves;
-                  if (report.result == SaveResult::Written) saved(document, path, commits);
-              }
-              if (then) then(report);
-          });
+    const Bits bits = place ? document->bits() : Bits();
+    const FileFacts facts = place ? document->file : FileFacts();
+    write(
+        bits, path,
+        [this, document, path, commits = place ? document->commits() : 0, then](const SaveReport& report) {
+            if (Place* still = placeOf(document)) {
+                --still->saves;
+                if (report.result == SaveResult::Written) saved(document, path, commits);
+            }
+            if (then) then(report);
+        },
+        keptFor(facts.camera, facts.kept, bits.width(), bits.height()));
 }
 
 void Workspace::saved(const DocumentHandle& document, const QString& path, int commits)
@@ -104,12 +112,14 @@ void Workspace::saved(const DocumentHandle& document, const QString& path, int c
     emit renamed(document);
 }
 
-void Workspace::write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then)
+void Workspace::write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then,
+                      const CameraData& camera)
 {
     ++writes_;
-    writing_.start([this, picture, path, then] {
+    writing_.start([this, picture, path, then, camera] {
         const SaveTarget target = saveTargetOf(path);
-        const SaveReport report = writePicture(picture, target.name, target.extension);
+        const SaveReport report =
+            writePicture(picture, target.name, target.extension, OutputFile::Links::Follow, camera);
         later([this, report, then] {
             --writes_;
             then(report);

@@ -2,7 +2,7 @@
 #include "paint/Painter.h"
 #include "pixels/numbers.h"
 #include "region/spanWalk.h"
-#include "seams/mask.h"
+#include "seams/ToolStores.h"
 
 namespace velara {
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace velara {
 
@@ -12,6 +13,14 @@ inline const QString kProgramName = QStringLiteral("Velara Studio");
 
 enum class Icon { None, Information, Exclamation, Critical };
 enum class Answer { Yes, No, Cancel };
+
+/// A check box of a save dialog. on is read as it opens and set where the user accepts; one that needs another is
+/// unavailable while that is off.
+struct FileChoice {
+    QString name, caption;
+    bool* on = nullptr;
+    const bool* needs = nullptr;
+};
 
 /// What a file dialog shows. filter is "caption|patterns|caption|patterns|...", patterns separated by semicolons.
 struct FileDialog {
@@ -25,6 +34,8 @@ struct FileDialog {
     QString name = {};
     /// The file that saving under this name writes: the dialog asks before replacing that one.
     std::function<QString(const QString&)> writtenAs = {};
+    /// For a save dialog.
+    std::vector<FileChoice> choices = {};
 };
 
 class Dialogs {

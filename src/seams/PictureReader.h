@@ -1,6 +1,7 @@
 // PictureReader: reads picture files in a sandbox.
 #pragma once
 #include "pixels/Bits.h"
+#include "seams/CameraData.h"
 #include "seams/GoOn.h"
 #include <QString>
 
@@ -11,6 +12,8 @@ namespace velara {
 struct LoadedPicture {
     Bits bits;
     QString reason;
+    CameraData camera = {};
+    QString properties = {}; // for the user: lines of a name, a tab and a value
     bool ok() const { return !bits.isNull(); }
 };
 

@@ -5,6 +5,10 @@
 
 namespace velara {
 
+/// Channel 0 of a shape that the stamp and the text tool paint by: 0 is full ink, and from this value on it is paper,
+/// where nothing is painted.
+constexpr int kMaskPaper = 190;
+
 struct ToolStores {
     Bits stamp;        // the chosen stamp; empty: the stamp tools do nothing
     QString stampFile; // its name in the folder of the stamps

@@ -1,7 +1,7 @@
 #include "text/mText.h"
 #include "pixels/numbers.h"
 #include "region/Region.h"
-#include "seams/mask.h"
+#include "seams/ToolStores.h"
 #include <QTextBoundaryFinder>
 #include <algorithm>
 

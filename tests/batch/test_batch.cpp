@@ -120,6 +120,8 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm --icon 16x16,mask:red out.png", 2, "is no icon"},
         {"in.ppm --icon 16x16,mask:0x1000000 out.png", 2, "is no icon"},
         {"in.ppm out.png --icon", 2, "--icon: a size has to follow"},
+        {"in.ppm out.png --colours", 2, "--colours: one of srgb, stored has to follow"},
+        {"in.ppm --metadata some out.png", 2, "--metadata: one of keep, no-place, none has to follow"},
         {"in.ppm --icon 16x16 --web Optimal out.png", 2, "--web, --icon: OUTPUT can be one"},
         {"in.ppm --icon 16x16 none/out.ico", 1, "none/out.ico can't be written"},
         {"in.ppm --select rect:1,2,3 INVERT out.png", 2, "rect:1,2,3"},

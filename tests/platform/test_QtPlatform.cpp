@@ -167,6 +167,26 @@ TEST_F(QtPlatformTest, ANameOfAnotherKindIsMendedOrAskedAbout)
     }
 }
 
+TEST_F(QtPlatformTest, ASaveDialogHasChoicesThatCountWhereItIsAccepted)
+{
+    bool keep = true, leaveOut = true;
+    FileDialog request{"Save as", "Bmp|*.bmp", folder.path()};
+    request.name = "x.bmp";
+    request.choices = {{"chkA", "&A", &keep}, {"chkB", "B", &leaveOut, &keep}};
+    for (const bool accepted : {false, true}) {
+        whenShown<QFileDialog>([&](QFileDialog& dialog) {
+            auto *a = dialog.findChild<QCheckBox*>("chkA"), *b = dialog.findChild<QCheckBox*>("chkB");
+            EXPECT_TRUE(a->isChecked() && b->isChecked() && b->isEnabled());
+            a->setChecked(false);
+            EXPECT_FALSE(b->isEnabled());
+            accepted ? static_cast<QDialog&>(dialog).accept() : dialog.reject();
+        });
+        EXPECT_EQ(platform.saveFileName(request).has_value(), accepted);
+        EXPECT_EQ(keep, !accepted);
+        EXPECT_TRUE(leaveOut);
+    }
+}
+
 // It reopens with its last size, in the requested folder, and previews what is selected or typed.
 TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
 {

@@ -67,7 +67,7 @@ LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&
     if (onLoad) onLoad(goOn);
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
-    return {bitsOf(image), loadNote};
+    return {bitsOf(image), loadNote, camera, properties};
 }
 
 } // namespace velara

@@ -23,8 +23,10 @@ class RecordingPlatform : public Platform {
     /// One line a call: "message: TITLE: TEXT", "ask: TITLE: TEXT" (choices, too), "open: TITLE", "save: TITLE",
     /// "folder: TITLE", "clipboard: set", "clipboard: clear".
     std::vector<std::string> log;
-    std::function<void()> onAsk;                  // a dialog stands
-    QString loadNote;                             // of every picture that is read
+    std::function<void()> onAsk; // a dialog stands
+    QString loadNote;            // of every picture that is read
+    CameraData camera = {};      // of every picture that is read
+    QString properties = {};
     std::function<void(const GoOn& goOn)> onLoad; // by the thread that reads
     std::uint32_t now = 0;
     FileDialog lastDialog;

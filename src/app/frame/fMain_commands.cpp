@@ -6,6 +6,7 @@
 #include "app/menus/fSearch.h"
 #include "app/menus/menus.h"
 #include "app/settings/fPreferences.h"
+#include "app/settings/pictureSettings.h"
 #include "app/start/fSplash.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -16,6 +17,7 @@
 #include "commands/presets.h"
 #include "commands/sizeWords.h"
 #include "commands/vocabulary.h"
+#include "fileio/load/PictureLoader.h"
 #include "seams/Platform.h"
 #include "seams/findRow.h"
 #include "seams/text.h"
@@ -107,6 +109,7 @@ struct fMain::Commands {
         {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
         {"@ICON",                extractIcons},
         {"@EXIT",                [](fMain& f) { f.close(); }},
+        {"@PROPERTIES",          showProperties},
         {"@SELECTALL",           [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::All); }},
         {"@SELECTNONE",          [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::None); }},
         {"@SELECTINVERTED",      [](fMain& f) { f.GetActiveImage()->select(Tools::Selecting::Inverted); }},
@@ -189,7 +192,9 @@ void fMain::run(std::string_view word, int index)
 void fMain::options()
 {
     fPreferences dialog(platform_, setup_, this);
-    if (dialog.exec() == QDialog::Accepted) dialogFolder_ = setup_.ImagesPath;
+    if (dialog.exec() != QDialog::Accepted) return;
+    dialogFolder_ = setup_.ImagesPath;
+    readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
 }
 
 void fMain::about()

@@ -1,7 +1,9 @@
 // Opening, saving, closing, the recent list, files dropped on the frame, and new documents by way of the clipboard.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
+#include "app/settings/pictureSettings.h"
 #include "fileio/SetupStore.h"
+#include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "pixels/memory/MemoryBudget.h"
@@ -232,8 +234,19 @@ void fMain::saveAs(fImage& asked)
     dialog.extension = usual;
     dialog.name = withEnding(FileNameOf(image->document().file.path), usual);
     dialog.writtenAs = [usual](const QString& name) { return saveTargetOf(withExtension(name, usual)).file; };
+    bool keep = pictureSetting(platform_, PictureSetting::KeepCameraData);
+    bool leaveOut = pictureSetting(platform_, PictureSetting::LeaveOutPlace);
+    const bool hasCamera = !isEmpty(image->document().file.camera);
+    if (hasCamera)
+        dialog.choices = {{"chkKeepCamera", tr("&Keep camera data"), &keep},
+                          {"chkWithoutPlace", tr("without the &place"), &leaveOut, &keep}};
     const auto path = platform_.saveFileName(dialog);
     if (!path || !image) return;
+    if (hasCamera) {
+        setPictureSetting(platform_, PictureSetting::KeepCameraData, keep);
+        setPictureSetting(platform_, PictureSetting::LeaveOutPlace, leaveOut);
+        image->document().file.kept = !keep ? CameraKept::None : leaveOut ? CameraKept::NoPlace : CameraKept::All;
+    }
     if (setup_.PreserveLastFolder) dialogFolder_ = path->left(path->lastIndexOf('/') + 1);
     saveTo(*image, withExtension(*path, usual));
 }
@@ -277,7 +290,11 @@ void fMain::copyToNew()
     if (!from || picture.isNull()) return;
     const Region selection = from->Region.Region();
     const DocumentHandle copy = adopt(picture, from->file.path, Arrival::Brought);
-    if (!copy || selection.isEmpty()) return;
+    if (!copy) return;
+    copy->file.camera = from->file.camera;
+    copy->file.kept = from->file.kept;
+    copy->file.properties = from->file.properties;
+    if (selection.isEmpty()) return;
     copy->Region.setRegion(selection);
     workspace_.handOver(*copy);
     documents_->of(copy)->UpdateImage();

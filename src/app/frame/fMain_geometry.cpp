@@ -1,5 +1,6 @@
 // The dialogs that make or reshape a picture, or lay a texture or another picture over it.
 #include "app/frame/fMain.h"
+#include "fileio/cameraData.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Platform.h"
 #include "seams/text.h"
@@ -45,7 +46,15 @@ void fMain::imageSize() { askAndReshape<fSize>("IMAGESIZE"); }
 void fMain::canvasSize() { askAndReshape<fCanvas>("CANVASSIZE"); }
 void fMain::imageOrientation() { askAndReshape<fOrientation>("IMAGEORIENTATION"); }
 void fMain::imageRotate() { askAndReshape<fRotate>("IMAGEROTATE"); }
-void fMain::imageResolution() { askAndReshape<fResolution>("IMAGERESOLUTION"); }
+
+void fMain::imageResolution()
+{
+    const DocumentHandle document = active();
+    if (!document || !document->PictureExists()) return;
+    const CameraData& camera = document->file.camera;
+    fResolution dialog(platform_, resolutionText(camera.dotsAcross, camera.dotsDown), this);
+    if (dialog.exec() == QDialog::Accepted) change("IMAGERESOLUTION", document, dialog.job());
+}
 
 void fMain::imageTextures()
 {

@@ -93,6 +93,8 @@ constexpr MenuRow kMenus[] = {
         {End},
         {Item, "FLIPH", 0, "Flip &Horizontal", "FLIPH"},
         {Item, "FLIPV", 0, "Flip &Vertical", "FLIPV"},
+        {Separator},
+        {Item, "mnuProperties", 0, "&Properties ...", "@PROPERTIES", "Alt+Return"},
     {End},
     {Menu, "mnuColors", 0, "&Colors"},
         {Item, "COLORS", 0, "Tweak RGB", "RGBLEVELS"},

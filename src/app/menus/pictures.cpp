@@ -25,6 +25,7 @@ constexpr PictureRow kPictures[] = {
     {"RESTOREORIGINAL", "document-revert"}, {"ORIGINAL", "zoom-original"}, {"@ZOOMP", "zoom-in"},
     {"@ZOOMM", "zoom-out"}, {"@QUICKROTATE", "object-rotate-right"}, {"@QUALITYROTATE", "transform-rotate"},
     {"@QUALITYSIZE", "transform-scale"}, {"FLIPH", "object-flip-horizontal"}, {"FLIPV", "object-flip-vertical"},
+    {"@PROPERTIES", "documentinfo"},
     {"IMAGEMERGING", "merge"}, {"@CAPTURE", "camera-photo"}, {"@QUICKCAPTURE", "flash"},
     {"IMAGETEXTURES", "texture"}, {"IMAGERESOLUTION", "measure"}, {"IMAGECOLORDEPTH", "color-management"},
     {"TEXTTOOLS", "insert-text-frame"}, {"@ICON", "shapes"}, {"@ASSOCIATION", "document-open-data"},

@@ -25,6 +25,7 @@ constexpr WordHelp kHelp[] = {
     {"IMAGESIZE",           "", "resize scale percent width height pixels larger smaller"},
     {"CANVASSIZE",          "", "border margin room enlarge"},
     {"IMAGERESOLUTION",     "", "resize"},
+    {"@PROPERTIES",         "", "exif camera date place gps profile metadata information facts"},
     {"ORIGINAL",            "", "zoom 100 % actual pixels"},
     {"N90",                 "", "turn right clockwise"},
     {"N270",                "", "turn left counterclockwise"},

@@ -1,4 +1,5 @@
 #include "app/settings/fPreferences.h"
+#include "app/settings/pictureSettings.h"
 #include "seams/Platform.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/inputs/named.h"
@@ -75,6 +76,8 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     column->addLayout(line);
     column->addSpacing(6);
     for (const FlagRow& row : kFlagsBelow) addFlag(column, row, copy_);
+    column->addWidget(convert_ = named(new QCheckBox(tr("&Convert pictures to sRGB")), "chkConvertToSrgb"));
+    convert_->setChecked(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -100,6 +103,7 @@ void fPreferences::browse()
 void fPreferences::accept()
 {
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
+    setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

@@ -3,6 +3,7 @@
 #include "seams/Setup.h"
 #include <QDialog>
 
+class QCheckBox;
 class QLineEdit;
 
 namespace velara {
@@ -23,6 +24,7 @@ class fPreferences final : public QDialog {
     Setup& setup_;
     Setup copy_;
     QLineEdit* path_;
+    QCheckBox* convert_; // kept in the user's settings, not in the record
 };
 
 } // namespace velara

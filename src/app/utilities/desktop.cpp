@@ -1,11 +1,13 @@
 #include "app/utilities/desktop.h"
 #include "app/frame/fMain.h"
+#include "fileio/cameraData.h"
 #include "fileio/readInBackground.h"
 #include "seams/Platform.h"
 #include "ui/printing/fPrint.h"
 #include "ui/printing/fPrinterSetup.h"
 #include "ui/utilities/fAcquire.h"
 #include "ui/utilities/fSource.h"
+#include "ui/view/fProperties.h"
 #include <QPointer>
 
 namespace velara {
@@ -43,6 +45,16 @@ void print(fMain& frame)
         if (image) image->BitsCopyToClipboard();
     };
     auto* dialog = new fPrint(frame.platform(), image->bits(), image->Caption(), toClipboard, &frame);
+    const CameraData& camera = image->document().file.camera;
+    dialog->showResolution(resolutionText(camera.dotsAcross, camera.dotsDown));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void showProperties(fMain& frame)
+{
+    const fImage* image = frame.GetActiveImage();
+    auto* dialog = new fProperties(propertiesOf(image->document()), &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

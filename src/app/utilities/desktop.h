@@ -12,6 +12,8 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode);
 void selectSource(fMain& frame);
 /// The dialog that prints the active picture.
 void print(fMain& frame);
+/// What is known of the active picture and its file.
+void showProperties(fMain& frame);
 /// Chooses printer and paper for later pages.
 void setUpPrinter(fMain& frame);
 /// Scans a picture, or all pages in a feeder, as new documents.

@@ -1,5 +1,6 @@
 // What is known of the file of a document.
 #pragma once
+#include "seams/CameraData.h"
 #include <QString>
 
 namespace velara {
@@ -10,6 +11,9 @@ struct FileFacts {
     bool isFile = false;    // the picture was read from the path or saved to it
     bool isCutOff = false;  // the end of the file was missing when it was read
     bool isBrought = false; // the picture came from outside of any file and was never saved
+    CameraData camera = {}; // what the file carried beside its pixels, for those that are saved
+    CameraKept kept = CameraKept::All; // as the last "Save as" chose
+    QString properties = {};           // for the user: lines of a name, a tab and a value
 
     QString markText() const { return mark ? QStringLiteral("[%1]").arg(mark) : QString(); }
     /// What follows the last separator, right-trimmed, with the mark.

@@ -3,6 +3,8 @@
 #include "fileio/decode/decode.h"
 #include "fileio/decode/sanitizer.h"
 #include "fileio/load/DecodeProtocol.h"
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <cstring>
 #include <sys/mman.h>
@@ -18,7 +20,7 @@ namespace {
 /// them.
 void claimSize(std::int64_t width, std::int64_t height, int bits)
 {
-    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, bits, {}};
+    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, bits};
     send(kSocket, &claim, sizeof claim, MSG_NOSIGNAL);
 }
 
@@ -27,17 +29,48 @@ template <class Message> bool tell(const Message& message)
     return send(kSocket, &message, sizeof message, MSG_NOSIGNAL) == static_cast<ssize_t>(sizeof message);
 }
 
+using Parts = std::array<QByteArray, kParts>;
+
+/// Those of a length that may be sent.
+Parts partsOf(const Decoded& picture)
+{
+    const CameraData& camera = picture.camera;
+    Parts parts{camera.exif, camera.xmp, camera.iptc, camera.comment.toUtf8(), picture.properties.toUtf8()};
+    for (QByteArray& part : parts)
+        if (!picture.ok() || part.size() > static_cast<qsizetype>(kMostInPart)) part.clear();
+    return parts;
+}
+
+bool tellPart(const QByteArray& part)
+{
+    const auto size = static_cast<std::size_t>(part.size());
+    for (std::size_t at = 0; at < size; at += kPartMessage) {
+        const std::size_t count = std::min(kPartMessage, size - at);
+        if (send(kSocket, part.constData() + at, count, MSG_NOSIGNAL) != static_cast<ssize_t>(count)) return false;
+    }
+    return true;
+}
+
 bool tellOpening(const Decoded& picture)
 {
-    Opening opening{kMagic, picture.width, picture.height, {}, 0, picture.origin};
+    const Parts parts = partsOf(picture);
+    Opening opening{kMagic,
+                    picture.width,
+                    picture.height,
+                    {},
+                    0,
+                    picture.origin,
+                    picture.camera.dotsAcross,
+                    picture.camera.dotsDown};
+    for (std::size_t i = 0; i < kParts; ++i) opening.parts[i] = static_cast<std::uint32_t>(parts[i].size());
     const QByteArray reason = picture.reason.toUtf8().left(sizeof opening.reason - 1);
     std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
-    return tell(opening);
+    return tell(opening) && std::ranges::all_of(parts, tellPart);
 }
 
 /// Fills the slots in turn; waits for the parent when all are full.
 bool tellRows(const Decoded& picture, std::uint8_t* memory)
-{
+try {
     const int most = rowsInSlot(picture.width);
     std::size_t slot = 0, free = kSlots;
     for (std::int32_t y = 0; y < picture.height; y += most, slot = (slot + 1) % kSlots) {
@@ -49,11 +82,13 @@ bool tellRows(const Decoded& picture, std::uint8_t* memory)
         if (!tell(y)) return false;
     }
     return true;
+} catch (const std::exception&) { // damage between the pixels, or too little memory: the parent says so
+    return false;
 }
 
 } // namespace
 
-void answer(const QString& extension)
+void answer(const QString& extension, const QStringList& wishes)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // a reader in an endless loop doesn't outlive the waiting program
     std::signal(SIGXFSZ, SIG_IGN);    // no file may grow here; failing to write a font cache is no reason to end
@@ -67,8 +102,9 @@ void answer(const QString& extension)
     if (needs != Needs::Nothing) handOverFonts();
     const CageState cage = enterCage(needs); // nothing of the file has been read yet
     const Decoded picture =
-        cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
-                  : decodePicture(std::move(file), extension);
+        cage.open
+            ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
+            : decodePicture(std::move(file), extension, {!wishes.contains(kStoredWish), !wishes.contains(kBareWish)});
     const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
     _exit(done ? 0 : 1); // no cleanup: the process is disposable
 }

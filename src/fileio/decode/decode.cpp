@@ -1,5 +1,7 @@
 #include "fileio/decode/decode.h"
-#include "fileio/decode/mends.h"
+#include "fileio/decode/facts/carry.h"
+#include "fileio/decode/facts/colours.h"
+#include "fileio/decode/facts/upright.h"
 #include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
 #include "fileio/formats.h"
@@ -14,23 +16,16 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+Decoded readJpeg(FileBytes&file), readPng(FileBytes&file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
 namespace {
 
 #ifdef VELARA_FREEIMAGE
-using Mend = void (*)(FileBytes&);
-
-void mendNothing(FileBytes&) {}
-
-template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
-{
-    mend(file);
-    return readByFreeImage(file, fif);
-}
+template <int fif> Decoded byFreeImage(FileBytes& file) { return readByFreeImage(file, fif); }
 #else
-enum : int { FIF_JPEG, FIF_MNG, FIF_PCD, FIF_PNG, FIF_PSD, FIF_TIFF };
+enum : int { FIF_MNG, FIF_PCD, FIF_PSD, FIF_TIFF };
 template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
 #endif
 
@@ -53,13 +48,13 @@ constexpr Reader kReaders[] = {
     {"bmp",   readBmp},
     {"cut",   readCut},
     {"iff",   readIff},
-    {"jpg",   byFreeImage<FIF_JPEG, mendJpeg>},
+    {"jpg",   readJpeg},
     {"koa",   readKoala},
     {"lbm",   readIff},
     {"mng",   byFreeImage<FIF_MNG>},
     {"pcd",   byFreeImage<FIF_PCD>},
     {"pcx",   readPcx},
-    {"png",   byFreeImage<FIF_PNG>},
+    {"png",   readPng},
     {"psd",   byFreeImage<FIF_PSD>},
     {"ras",   readRas},
     {"tga",   readTga},
@@ -95,11 +90,12 @@ void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::i
 
 Needs prepareReader(const QString& extension)
 {
+    prepareColours();
     const Reader* reader = readerOf(extension.toStdString());
     return reader ? reader->prepare() : Needs::Nothing;
 }
 
-Decoded decodePicture(FileBytes&& file, const QString& extension)
+Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted)
 try {
     const Reader* reader = readerOf(extension.toStdString());
     if (extension.isEmpty()) return refused("its name has no extension to tell what it is");
@@ -111,9 +107,15 @@ try {
     Decoded decoded = reader->read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
         decoded.reason = QString("it is damaged or not %1 picture").arg(name);
+    if (wanted.facts) decoded.properties = propertiesOf(decoded);
+    if (wanted.srgb) convertToSrgb(decoded);
+    decoded = upright(std::move(decoded));
+    if (wanted.facts) decoded.camera = cameraOf(decoded);
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);
+} catch (const Damage&) { // between the pixels, where a picture is turned
+    return refused("it is damaged, and its reader gave up");
 }
 
 } // namespace velara::decode

@@ -5,10 +5,12 @@
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
+#include "seams/CameraData.h"
 #include <QString>
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,15 +18,15 @@ namespace velara::decode {
 
 /// What a file carries beside its pixels. The bytes are the file's own, not looked into by the reader.
 struct Carried {
-    int orientation = 0;               // 1 to 8, as EXIF counts, where the container says it; 0: only exif may know
-    std::vector<std::uint8_t> profile; // ICC
-    double gamma = 0;                  // of a PNG, as its chunk has it (0.45455 is usual); 0: none
-    std::array<double, 8> chromaticities{}; // of a PNG: x and y of white, red, green and blue; zeros: none
-    std::vector<std::uint8_t> exif;         // from the byte order mark ("II", "MM") on
-    std::vector<std::uint8_t> xmp, iptc;    // the packet; the records from the first 0x1c on
-    std::string comment;                    // UTF-8 or Latin-1
-    double dotsAcross = 0, dotsDown = 0;    // per inch, where the container says it; 0: unknown
-    int pages = 1;                          // pages or frames in the file
+    int orientation = 0;                 // 1 to 8, as EXIF counts, where the container says it; 0: only exif may know
+    std::vector<std::uint8_t> profile{}; // ICC
+    double gamma = 0;                    // of a PNG, as its chunk has it (0.45455 is usual); 0: none
+    std::array<double, 8> chromaticities{};  // of a PNG: x and y of white, red, green and blue; zeros: none
+    std::vector<std::uint8_t> exif{};        // from the byte order mark ("II", "MM") on
+    std::vector<std::uint8_t> xmp{}, iptc{}; // the packet; the records from the first 0x1c on
+    std::string comment{};                   // UTF-8 or Latin-1
+    double dotsAcross = 0, dotsDown = 0;     // per inch, where the container says it; 0: unknown
+    int pages = 1;                           // pages or frames in the file
 };
 
 /// The samples of a file that `row` has lost some of: for the conversion into true colours.
@@ -35,15 +37,22 @@ struct Samples {
     std::function<void(int y, void* row)> row;
 };
 
+/// Damage that a reader can't go on after.
+struct Damage : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 /// A picture whose rows are produced on demand, so that it isn't in memory twice.
 struct Decoded {
     int width = 0, height = 0;
-    /// Writes the W pixels of row y (0 is the top one), fourth byte 0.
+    /// Writes the W pixels of row y (0 is the top one), fourth byte 0. Throws Damage where the pixels can't be read.
     std::function<void(int y, Pixel* row)> row;
-    QString reason; // why there is no picture, or why it is incomplete
+    QString reason = {}; // why there is no picture, or why it is incomplete
     Origin origin = {};
     Carried carried = {};
-    Samples samples = {}; // empty where row has them all
+    Samples samples = {};    // empty where row has them all
+    CameraData camera = {};  // carried, made fit for the upright picture
+    QString properties = {}; // for the user: lines of a name, a tab and a value
     bool ok() const { return static_cast<bool>(row); }
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
@@ -55,7 +64,14 @@ extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 /// Loads what the reader of the extension (lower case, no dot) needs from the disk, before the cage closes.
 Needs prepareReader(const QString& extension);
 
-/// The reader is chosen by the extension, never by the contents. Empty bytes: the file can't be opened.
-Decoded decodePicture(FileBytes&& file, const QString& extension);
+/// What the one who asks for a picture wants of it.
+struct Wanted {
+    bool srgb = true;  // true colours, else those that the file stores
+    bool facts = true; // camera and properties
+};
+
+/// The reader is chosen by the extension, never by the contents. Empty bytes: the file can't be opened. The picture is
+/// upright.
+Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted = {});
 
 } // namespace velara::decode

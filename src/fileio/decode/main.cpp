@@ -44,7 +44,11 @@ bool isCalled()
 
 int main(int argc, char** argv)
 {
-    if (argc == 2 && isCalled()) answer(QString::fromUtf8(argv[1])); // "--cage" is an extension here
+    if (argc >= 2 && isCalled()) { // "--cage" is an extension here
+        QStringList wishes;
+        for (int i = 2; i < argc; ++i) wishes << QString::fromUtf8(argv[i]);
+        answer(QString::fromUtf8(argv[1]), wishes);
+    }
     if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();
     std::fprintf(stderr, "velara-decode is started by velara-studio and velara-batch to read one picture file.\n"
                          "velara-decode --cage tells which layers of its cage hold on this machine.\n");

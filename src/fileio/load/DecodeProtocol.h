@@ -1,12 +1,15 @@
 // The protocol between velara-decode and the program that started it.
 //
-//   velara-decode EXTENSION, with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4 and the
-//   picture file, open for reading, at descriptor 5
+//   velara-decode EXTENSION [WISH ...], with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4
+//   and the picture file, open for reading, at descriptor 5
+//
+// A wish is "stored" (colours as the file has them, not sRGB) or "bare" (nothing beside the pixels).
 //
 // The child may send a claim: the size and depth given by the header. Then it sends an Opening: size, or the reason why
-// the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and
-// sends the number of the first row of each. The parent copies the rows and returns every slot with one byte. So the
-// picture is never in memory twice, and the shared memory stays in the cache.
+// the file can't be read. Then come the parts that it announces, one after the other, in messages of kPartMessage bytes
+// but for the last of each part. Then it fills the slots of the shared memory in turn, each with as many rows as fit,
+// and sends the number of the first row of each. The parent copies the rows and returns every slot with one byte. So
+// the picture is never in memory twice, and the shared memory stays in the cache.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
@@ -23,6 +26,14 @@ constexpr std::size_t kSlots = 4;
 constexpr std::size_t kSlotBytes = 256 << 10; // a row of the widest picture takes half of it
 constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 
+/// What a picture carries beside its pixels. Comment and properties are UTF-8.
+enum Part { Exif, Xmp, Iptc, Comment, Properties, kParts };
+constexpr std::size_t kMostInPart = std::size_t{1} << 20; // bytes; a part of more is left out by the child
+constexpr std::size_t kPartMessage = std::size_t{16} << 10;
+
+constexpr const char* kStoredWish = "stored";
+constexpr const char* kBareWish = "bare";
+
 /// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {
     std::uint32_t magic;
@@ -30,6 +41,8 @@ struct Opening {
     char reason[224];
     std::int32_t bits = 0; // per pixel, in a claim; 0: unknown
     Origin origin = {};
+    double dotsAcross = 0, dotsDown = 0; // per inch; 0: unknown
+    std::uint32_t parts[kParts] = {};    // bytes of each
 };
 constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"
 constexpr std::uint32_t kClaim = 0x31434c56; // "VLC1"

@@ -80,7 +80,7 @@ UnreadableByOthers::~UnreadableByOthers()
 }
 
 DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension,
-                               const DecoderLimits& limits, const GoOn& goOn)
+                               const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn)
     : goOn_(goOn), limits_(limits), started_(std::chrono::steady_clock::now()), nextLook_(started_)
 {
     std::array<int, 2> ends{};
@@ -93,7 +93,7 @@ DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, c
     if (mapped == MAP_FAILED) return;
     memory_ = static_cast<std::uint8_t*>(mapped);
     const Descriptor picture(fcntl(file.get(), F_DUPFD_CLOEXEC, kFirstFree));
-    pid_ = startReader({decoder, extension, theirs.get(), memory.get(), picture.get()});
+    pid_ = startReader({decoder, extension, theirs.get(), memory.get(), picture.get(), wishes});
     if (started()) limit(pid_, limits);
 }
 

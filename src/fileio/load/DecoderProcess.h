@@ -22,8 +22,8 @@ class DecoderProcess {
   public:
     enum class Wait { Message, Nonsense, Ended, TimedOut, Stopped };
 
-    /// file is open for reading; the child inherits it.
-    DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension,
+    /// file is open for reading; the child inherits it. wishes: see DecodeProtocol.h.
+    DecoderProcess(const QString& decoder, const Descriptor& file, const QString& extension, const QStringList& wishes,
                    const DecoderLimits& limits, const GoOn& goOn);
     ~DecoderProcess();
     DecoderProcess(const DecoderProcess&) = delete;

@@ -10,6 +10,8 @@
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
+#include <array>
+#include <atomic>
 #include <bit>
 #include <csignal>
 #include <cstring>
@@ -105,8 +107,9 @@ void clearMarginRow(Bits& bits, int y)
 
 /// Takes `count` rows of the picture's width, top down.
 using RowTaker = std::function<void(const Pixel* rows, int first, int count)>;
+using Parts = std::array<QByteArray, decode::kParts>;
 /// Called once the size is known.
-using Begin = std::function<RowTaker(const decode::Opening& opening)>;
+using Begin = std::function<RowTaker(const decode::Opening& opening, const Parts& parts)>;
 
 struct Ending {
     bool whole;     // all rows have arrived
@@ -141,14 +144,31 @@ QString faultOfSize(const decode::Opening& opening, const Capacity& capacity)
     return QString("it is damaged: it has hardly any bytes for its %1 x %2 pixels").arg(width).arg(height);
 }
 
+/// What comes after an Opening; the reason why it is of no use.
+QString receiveParts(DecoderProcess& child, const decode::Opening& opening, Parts& parts)
+{
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const std::size_t size = opening.parts[i];
+        if (size > decode::kMostInPart) return kNonsense;
+        parts[i].resize(static_cast<qsizetype>(size));
+        for (std::size_t at = 0; at < size; at += decode::kPartMessage) {
+            const Wait wait = child.receive(parts[i].data() + at, std::min(decode::kPartMessage, size - at));
+            if (wait != Wait::Message) return faultOf(wait, child);
+        }
+    }
+    return {};
+}
+
 Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Begin& begin)
 {
     decode::Opening opening;
+    int bits = 0;
     Wait wait = child.receive(&opening, sizeof opening);
     if (wait == Wait::Message && opening.magic == decode::kClaim) {
         if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
         const std::int64_t pixels = std::int64_t{opening.width} * opening.height;
         child.claim(std::min(pixels, capacity.pixels(opening.bits)));
+        bits = opening.bits;
         wait = child.receive(&opening, sizeof opening);
     }
     if (wait != Wait::Message) return {false, faultOf(wait, child)};
@@ -157,7 +177,10 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
     const QString reason = QString::fromUtf8(opening.reason, length).simplified();
     if (opening.width == 0 && opening.height == 0) return {false, reason.isEmpty() ? QString(kNonsense) : reason};
     if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
-    Ending ending = receiveRows(child, opening.width, opening.height, begin(opening));
+    opening.bits = bits;
+    Parts parts;
+    if (const QString fault = receiveParts(child, opening, parts); !fault.isEmpty()) return {false, fault};
+    Ending ending = receiveRows(child, opening.width, opening.height, begin(opening, parts));
     if (ending.whole) ending.reason = reason;
     return ending;
 }
@@ -179,21 +202,45 @@ DecoderLimits limitsWithin(DecoderLimits limits, const ReadPolicy& policy)
     return limits;
 }
 
-Ending load(const Descriptor& file, const QString& extension, const QString& decoder, const DecoderLimits& limits,
-            const GoOn& goOn, const Begin& begin)
+std::atomic<bool> inSrgb{true};
+
+Ending load(const Descriptor& file, const QString& extension, const QString& decoder, QStringList wishes,
+            const DecoderLimits& limits, const GoOn& goOn, const Begin& begin)
 try {
     std::int64_t size = 0;
     if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
     if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
     const QString format = extension.toLower();
     if (isOff(format)) return {false, QString("limits.conf has turned .%1 files off").arg(format)};
-    DecoderProcess child(decoder, file, format, limitsWithin(limits, readPolicy()), goOn);
+    if (!inSrgb) wishes << decode::kStoredWish;
+    DecoderProcess child(decoder, file, format, wishes, limitsWithin(limits, readPolicy()), goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
     return receivePicture(child, Capacity(format, size), begin);
 } catch (const NotEnoughMemory& refusal) {
     return {false, refusal.what()};
 } catch (const std::bad_alloc&) {
     return {false, "there is not enough memory for it"};
+}
+
+/// Dots per inch as they may be; else 0.
+double dotsOf(double claimed) { return claimed >= 1 && claimed <= 1e5 ? claimed : 0; }
+
+CameraData cameraOf(const decode::Opening& opening, const Parts& parts)
+{
+    const double across = dotsOf(opening.dotsAcross), down = dotsOf(opening.dotsDown);
+    CameraData camera{parts[decode::Exif], parts[decode::Xmp], parts[decode::Iptc],
+                      QString::fromUtf8(parts[decode::Comment])};
+    if (across > 0 && down > 0) camera.dotsAcross = across, camera.dotsDown = down;
+    return camera;
+}
+
+/// The child's lines after ours.
+QString propertiesOf(const decode::Opening& opening, const Parts& parts)
+{
+    const QString depth = opening.bits > 0 && opening.bits <= 128
+                              ? QStringLiteral("Depth\t%1 bits a pixel in the file\n").arg(opening.bits)
+                              : QString();
+    return depth + QString::fromUtf8(parts[decode::Properties]);
 }
 
 QString named(const Ending& ending, const QString& name)
@@ -203,6 +250,8 @@ QString named(const Ending& ending, const QString& name)
 }
 
 } // namespace
+
+void readInSrgb(bool on) { inSrgb = on; }
 
 DecoderLimits limitsFor(std::int64_t fileSize)
 {
@@ -245,17 +294,23 @@ LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits, const GoOn& goOn)
 {
-    Bits bits;
-    const Ending ending = load(file, extension, decoder, limits, goOn, [&](const decode::Opening& opening) {
-        const int height = opening.height;
-        {
-            const MemoryBudget budget;
-            bits = Bits::uninitialized(opening.width, height);
-        }
-        for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
-        return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
-    });
-    return {ending.whole ? bits : Bits(), named(ending, name)};
+    LoadedPicture picture;
+    Bits& bits = picture.bits;
+    const Ending ending =
+        load(file, extension, decoder, {}, limits, goOn, [&](const auto& opening, const Parts& parts) {
+            picture.camera = cameraOf(opening, parts);
+            picture.properties = propertiesOf(opening, parts);
+            const int height = opening.height;
+            {
+                const MemoryBudget budget;
+                bits = Bits::uninitialized(opening.width, height);
+            }
+            for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
+            return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
+        });
+    if (!ending.whole) picture = {};
+    picture.reason = named(ending, name);
+    return picture;
 }
 
 SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
@@ -267,7 +322,8 @@ SmallPicture loadSmall(const QString& path, const QString& extension, const QStr
     if (!file.isOpen()) return {{}, {}, {}, named({false, reason}, name)};
     std::optional<Shrinker> shrinker;
     SmallPicture small;
-    const Ending ending = load(file, extension, decoder, limits, goOn, [&](const decode::Opening& opening) {
+    const QStringList wishes{decode::kBareWish};
+    const Ending ending = load(file, extension, decoder, wishes, limits, goOn, [&](const auto& opening, const Parts&) {
         small.size = {opening.width, opening.height};
         small.origin = opening.origin;
         shrinker.emplace(small.size, box);

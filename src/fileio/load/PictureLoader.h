@@ -29,6 +29,10 @@ unsigned secondsFor(std::int64_t pixels);
 QString findHelper(const QString& name);
 inline QString findDecoder() { return findHelper("velara-decode"); }
 
+/// Whether pictures are read in true colours or in those that their files store, from now on; true ones at first. For
+/// any thread.
+void readInSrgb(bool on);
+
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
 /// reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,

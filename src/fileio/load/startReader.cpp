@@ -38,6 +38,7 @@ pid_t spawn(const ReaderStart& start)
 {
     std::vector<std::string> arguments = {QFile::encodeName(start.decoder).toStdString(),
                                           start.extension.toStdString()};
+    for (const QString& wish : start.wishes) arguments.push_back(wish.toStdString());
     std::vector<std::string> environment = childEnvironment();
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;

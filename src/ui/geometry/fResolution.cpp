@@ -1,5 +1,6 @@
 #include "ui/geometry/fResolution.h"
 #include "document/resizing.h"
+#include <QLabel>
 #include <QRadioButton>
 
 namespace velara {
@@ -23,7 +24,7 @@ constexpr struct Resolution {
 
 } // namespace
 
-fResolution::fResolution(Platform& platform, QWidget* parent)
+fResolution::fResolution(Platform& platform, const QString& ofFile, QWidget* parent)
     : fGeometry("fResolution", "Resolution", platform, parent), sizes_(new QButtonGroup(this)),
       smooth_(named(new QCheckBox("Anti-Alias"), "chkAnti", "Anti-Alias"))
 {
@@ -37,6 +38,7 @@ fResolution::fResolution(Platform& platform, QWidget* parent)
     sizes_->button(2)->setChecked(true);
     smooth_->setChecked(true);
     grid().addWidget(smooth_, 4, 0, 1, 2);
+    if (!ofFile.isEmpty()) grid().addWidget(named(new QLabel(tr("File: ") + ofFile), "lblOfFile"), 5, 0, 1, 2);
     addButtons("CmdOK", "Command2", "OK", "Exit");
 }
 

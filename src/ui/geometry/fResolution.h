@@ -8,7 +8,8 @@ namespace velara {
 class fResolution final : public fGeometry {
     Q_OBJECT
   public:
-    explicit fResolution(Platform& platform, QWidget* parent = nullptr);
+    /// ofFile: the picture's own resolution as text; empty: unknown.
+    explicit fResolution(Platform& platform, const QString& ofFile = {}, QWidget* parent = nullptr);
     Job job() const override;
 
   private:

@@ -30,16 +30,19 @@ fPrint::fPrint(Platform& platform, const Bits& picture, const QString& name, std
     : QDialog(parent), platform_(platform), picture_(picture), name_(name), toClipboard_(std::move(toClipboard)),
       facts_(platform.printers().fileFacts()),
       iOut_(new fPagePreview("iOut", tr("The page"), kPreview + QSize(20, 20))), lblSize_(named(new QLabel, "lblSize")),
-      lblState_(named(new QLabel, "lblState"))
+      lblResolution_(named(new QLabel, "lblResolution")), lblState_(named(new QLabel, "lblState"))
 {
     setObjectName("fPrint");
     setWindowTitle(tr("Print"));
     setModal(true);
     iOut_->setPicture(fittingCopy(picture, kPreview * devicePixelRatioF()));
     lblSize_->setAlignment(Qt::AlignCenter);
+    lblResolution_->setAlignment(Qt::AlignCenter);
+    lblResolution_->hide();
     auto* left = new QVBoxLayout;
     left->addWidget(iOut_);
     left->addWidget(lblSize_);
+    left->addWidget(lblResolution_);
     left->addStretch();
     auto* top = new QHBoxLayout;
     top->addLayout(left);
@@ -202,6 +205,12 @@ void fPrint::showPage()
         printPlace({picture_.width(), picture_.height()}, shown.paper.printable(shown.orientation).size(), false, true);
     ownSize_->showScale(shown.place.width() / natural, largest.width() / natural);
     lblSize_->setText(tr("%1 x %2 mm").arg(shown.place.width(), 0, 'f', 0).arg(shown.place.height(), 0, 'f', 0));
+}
+
+void fPrint::showResolution(const QString& ofFile)
+{
+    lblResolution_->setText(tr("File: ") + ofFile);
+    lblResolution_->setVisible(!ofFile.isEmpty());
 }
 
 void fPrint::print()

@@ -25,6 +25,8 @@ class fPrint final : public QDialog {
     /// name is the print job's. toClipboard copies the picture to the clipboard, where it stays.
     fPrint(Platform& platform, const Bits& picture, const QString& name, std::function<void()> toClipboard,
            QWidget* parent);
+    /// Tells the resolution that the picture's file has, as text; empty: unknown.
+    void showResolution(const QString& ofFile);
 
   private:
     QWidget* makeControls();
@@ -53,7 +55,7 @@ class fPrint final : public QDialog {
     QLineEdit* txtCopies_;
     QScrollBar* sbCopies_;
     fPagePreview* iOut_;
-    QLabel *lblCopies_, *lblSize_, *lblState_;
+    QLabel *lblCopies_, *lblSize_, *lblResolution_, *lblState_;
     QWidget* controls_;
     QPushButton* cmdOK_;
 };

@@ -2,6 +2,7 @@
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
 #include "app/settings/fPreferences.h"
+#include "app/settings/pictureSettings.h"
 #include "pixels/images.h"
 #include "support/files.h"
 #include "support/freeMemory.h"
@@ -205,6 +206,62 @@ TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
     command("SAVEAS");
     EXPECT_TRUE(QFile::exists(path("c.ppm")));
     EXPECT_FALSE(QFile::exists(path("c.pgm")));
+}
+
+// What a file carries goes with the document, as far as "Save as" was told.
+TEST_F(FrameTest, TheCamerasDataGoesWithTheDocument)
+{
+    platform.camera = {.comment = "by hand", .dotsAcross = 300, .dotsDown = 300};
+    platform.properties = "Camera\tX\nDate\tnow\n";
+    openFile(file("b.bmp"));
+    fImage* image = frame->GetActiveImage();
+    EXPECT_EQ(image->document().file.camera.comment, "by hand");
+    command("INVERT");
+    command("CREATENEWCOPY");
+    EXPECT_EQ(frame->documents()[1]->document().file.camera.comment, "by hand");
+    EXPECT_EQ(frame->documents()[1]->document().file.properties, platform.properties);
+    activate(image);
+
+    const struct {
+        bool keep, leaveOut;
+        CameraKept kept;
+    } kCases[] = {{true, true, CameraKept::NoPlace}, {false, true, CameraKept::None}, {true, false, CameraKept::All}};
+    for (const auto& c : kCases) {
+        const bool before[] = {pictureSetting(platform, PictureSetting::KeepCameraData),
+                               pictureSetting(platform, PictureSetting::LeaveOutPlace)};
+        platform.onAsk = [&] {
+            ASSERT_EQ(platform.lastDialog.choices.size(), 2U);
+            EXPECT_EQ(*platform.lastDialog.choices[0].on, before[0]);
+            EXPECT_EQ(*platform.lastDialog.choices[1].on, before[1]);
+            *platform.lastDialog.choices[0].on = c.keep;
+            *platform.lastDialog.choices[1].on = c.leaveOut;
+        };
+        platform.answers = {path("kept.png")};
+        command("SAVEAS");
+        EXPECT_EQ(image->document().file.kept, c.kept);
+        EXPECT_EQ(pictureSetting(platform, PictureSetting::KeepCameraData), c.keep);
+        EXPECT_EQ(pictureSetting(platform, PictureSetting::LeaveOutPlace), c.leaveOut);
+    }
+    platform.onAsk = nullptr;
+
+    frame->action("mnuProperties")->trigger();
+    auto* dialog = frame->findChild<QDialog*>("fProperties");
+    ASSERT_TRUE(dialog);
+    auto* list = dialog->findChild<QTreeWidget*>("lstProperties");
+    dialog->findChild<QPushButton*>("cmdCopy")->click();
+    const QStringList all = QGuiApplication::clipboard()->text().split('\n');
+    EXPECT_EQ(all[0], "File: " + path("kept.png"));
+    EXPECT_EQ(all.mid(4), QStringList({"Camera: X", "Date: now"}));
+    list->topLevelItem(4)->setSelected(true);
+    dialog->findChild<QPushButton*>("cmdCopy")->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Camera: X");
+    dialog->close();
+
+    platform.camera = {};
+    openFile(file("none.bmp"));
+    platform.answers = {path("none.png")};
+    command("SAVEAS");
+    EXPECT_TRUE(platform.lastDialog.choices.empty()) << "there is nothing to keep";
 }
 
 TEST_F(FrameTest, ANameWithoutAnExtensionGetsOne)

@@ -5,9 +5,11 @@
 #include "platform/desktop/dialogs/boxes.h"
 #include "platform/nameFilters.h"
 #include "seams/sizeText.h"
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPointer>
@@ -118,6 +120,7 @@ class SaveDialog final : public PictureDialog {
         setFileMode(AnyFile);
         setDefaultSuffix(suffix());
         connect(this, &QFileDialog::filterSelected, this, &SaveDialog::followKind);
+        addChoices();
         if (!request.name.isEmpty()) propose(request.name);
     }
     void accept() override
@@ -127,10 +130,32 @@ class SaveDialog final : public PictureDialog {
         const bool isFile = !name.isEmpty() && !QFileInfo(name).isDir();
         if (isFile && !(endingIsRight(name) && mayBeReplaced())) return;
         if (!alive) return;
+        for (std::size_t i = 0; i < boxes_.size(); ++i) *request_.choices[i].on = boxes_[i]->isChecked();
         QFileDialog::accept();
     }
 
   private:
+    /// In a row below everything else.
+    void addChoices()
+    {
+        auto* grid = qobject_cast<QGridLayout*>(layout());
+        if (!grid || request_.choices.empty()) return;
+        auto* row = new QHBoxLayout;
+        for (const FileChoice& choice : request_.choices) {
+            auto* box = new QCheckBox(choice.caption);
+            box->setObjectName(choice.name);
+            box->setChecked(*choice.on);
+            row->addWidget(box);
+            for (std::size_t i = 0; i < boxes_.size(); ++i)
+                if (request_.choices[i].on == choice.needs) {
+                    box->setEnabled(boxes_[i]->isChecked());
+                    connect(boxes_[i], &QCheckBox::toggled, box, &QWidget::setEnabled);
+                }
+            boxes_.push_back(box);
+        }
+        row->addStretch();
+        grid->addLayout(row, grid->rowCount(), 0, 1, grid->columnCount());
+    }
     QLineEdit* field() const { return findChild<QLineEdit*>("fileNameEdit"); }
     QString suffix(const QString& preferred) const
     {
@@ -181,6 +206,7 @@ class SaveDialog final : public PictureDialog {
     }
 
     const FileDialog request_;
+    std::vector<QCheckBox*> boxes_; // of its choices
 };
 
 std::optional<QString> run(QFileDialog* dialog)

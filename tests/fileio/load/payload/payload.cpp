@@ -183,6 +183,6 @@ Needs prepareReader(const QString& extension)
     return extension == "fonts" ? Needs::Drawing : Needs::Nothing;
 }
 
-Decoded decodePicture(FileBytes&& file, const QString&) { return tryIt(file); }
+Decoded decodePicture(FileBytes&& file, const QString&, Wanted) { return tryIt(file); }
 
 } // namespace velara::decode

@@ -1,6 +1,5 @@
 // Valid files that the readers refuse or crash on unless they are mended first, built here byte by byte.
 #include "fileio/decode/decode.h"
-#include "fileio/decode/mends.h"
 #include "support/files.h"
 #include <FreeImage.h>
 #include <QImage>
@@ -87,7 +86,7 @@ const std::string kPalette("\x10\x20\x30\0\x40\x50\x60\0\x70\x80\x90\0\xa0\xb0\x
 
 } // namespace
 
-TEST(Mends, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
+TEST(Readers, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
 {
     // two by two, bottom row first: the mask removes the right pixel above and the left one below
     const std::string mask = std::string("\x80\0\0\0\x40\0\0\0", 8);
@@ -113,7 +112,7 @@ TEST(Mends, MaskedPixelsOfAnIconAreWhiteAtEveryDepth)
         }
 }
 
-TEST(Mends, BitmapsOfEveryHeader)
+TEST(Readers, BitmapsOfEveryHeader)
 {
     const std::string true24 = std::string("\1\2\3\4\5\6\0\0", 8) + std::string("\7\x8\x9\xa\xb\xc\0\0", 8);
     const Colours wanted24 = {0x090807, 0x0c0b0a, 0x030201, 0x060504};
@@ -138,7 +137,7 @@ TEST(Mends, BitmapsOfEveryHeader)
     EXPECT_EQ(coloursIn(bmp(124, 2, 2, 24, "", true24), "jng"), wanted24);
 }
 
-TEST(Mends, RunLengthBitmaps)
+TEST(Readers, RunLengthBitmaps)
 {
     // A run, literals padded to even, end of line, a jump, end of picture; bottom row first.
     const std::string rle8("\2\1\0\3\2\3\1\0\0\0\5\2\0\1", 14);
@@ -148,13 +147,13 @@ TEST(Mends, RunLengthBitmaps)
         EXPECT_EQ(coloursIn(bmp(header, 5, 2, 8, kPalette, rle8, 1, "", 4), "bmp"), wanted) << header;
 }
 
-TEST(Mends, GreyOf16Bits)
+TEST(Readers, GreyOf16Bits)
 {
     const std::string pgm = "P5\n4 1\n65535\n" + big(0, 2) + big(0x12ff, 2) + big(0x8000, 2) + big(0xffff, 2);
     EXPECT_EQ(coloursIn(pgm, "pgm"), (Colours{0, 0x121212, 0x808080, 0xffffff}));
 }
 
-TEST(Mends, HighDepthsOfPng)
+TEST(Readers, HighDepthsOfPng)
 {
     const struct {
         FREE_IMAGE_TYPE type;
@@ -169,7 +168,7 @@ TEST(Mends, HighDepthsOfPng)
     }
 }
 
-TEST(Mends, FloatingPointTiff)
+TEST(Readers, FloatingPointTiff)
 {
     const std::string tiff = written(FIF_TIFF, FIT_RGBF, 2, 1, 0, [](FIBITMAP* dib) {
         auto* colours = reinterpret_cast<FIRGBF*>(FreeImage_GetScanLine(dib, 0));
@@ -179,28 +178,7 @@ TEST(Mends, FloatingPointTiff)
     EXPECT_EQ(coloursIn(tiff, "tif"), (Colours{0x80ff00, 0x0000ff}));
 }
 
-// Metadata becomes segments that nobody parses; what the colours need and what follows the scan is kept.
-TEST(Mends, JpegMetadata)
-{
-    const auto segment = [](int marker, const std::string& body) {
-        return std::string("\xff") + static_cast<char>(marker) + big(body.size() + 2, 2) + body;
-    };
-    const auto file = [&](const std::vector<int>& markers) {
-        std::string text = "\xff\xd8";
-        for (const int marker : markers) text += segment(marker, "some \xff\xe1 text");
-        return text + "\xff" + segment(0xdb, "table") + segment(0xda, "scan") + "data \xff\xe1\0\4\xff\xfe";
-    };
-    const auto mended = [](const std::string& text) {
-        FileBytes bytes(std::vector<std::uint8_t>(text.begin(), text.end()));
-        mendJpeg(bytes);
-        return std::string(bytes.bytes().begin(), bytes.bytes().end());
-    };
-    EXPECT_EQ(mended(file({0xe0, 0xe1, 0xe2, 0xed, 0xee, 0xef, 0xfe})),
-              file({0xe0, 0xe9, 0xe9, 0xe9, 0xee, 0xe9, 0xe9}) + "\xff\xd9");
-    for (const char* cut : {"", "\xff", "\xff\xd8\xff", "\xff\xd8\xff\xe1", "\xff\xd8\xff\xff\xff"}) mended(cut);
-}
-
-TEST(Mends, PlainBitMaps)
+TEST(Readers, PlainBitMaps)
 {
     const Colours wanted = {0, 0xffffff, 0, 0xffffff, 0xffffff, 0};
     for (const char* text : {"P1 3 2 101 001", "P1\n# note 7\n3 2\n1 0 1\n0 0 1\n", "P1\n3\n2\n1010#1\n01"})
@@ -208,7 +186,7 @@ TEST(Mends, PlainBitMaps)
     EXPECT_FALSE(decodeBytes("P1 3 2 1010", "pbm").ok());
 }
 
-TEST(Mends, SunRastersWithAFullPalette)
+TEST(Readers, SunRastersWithAFullPalette)
 {
     std::string palette(768, '\0'); // index i: red i, green 255 - i, blue i / 2
     for (std::size_t i = 0; i < 256; ++i) {
@@ -228,7 +206,7 @@ TEST(Mends, SunRastersWithAFullPalette)
     EXPECT_EQ(coloursOf(cut), (Colours{0x807f40, 0x807f40, 0x807f40, 0, 0, 0})) << "the rows that are whole";
 }
 
-TEST(Mends, TrueColourPcx)
+TEST(Readers, TrueColourPcx)
 {
     const auto pcx = [](int width, int height, const std::string& data) {
         std::string header = std::string("\12\5\1\10", 4) + little(1, 2) + little(1, 2) +
@@ -253,7 +231,7 @@ TEST(Mends, TrueColourPcx)
     EXPECT_LT(peak() - before, 100 << 10) << "a claim alone takes no memory";
 }
 
-TEST(Mends, IffWithoutABodyEnds)
+TEST(Readers, IffWithoutABodyEnds)
 {
     const std::string head = "BMHD" + big(20, 4) + std::string("\0\2\0\1\0\0\0\0\x18\0\0\0\0\0\1\1\0\2\0\1", 20);
     for (const std::string& chunk : {std::string("BODY"), "CRNG" + big(0xfffffff0, 4), std::string("CRNG")})
