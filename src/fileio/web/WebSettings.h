@@ -36,7 +36,7 @@ constexpr int kGoodQuality = 3; // of webJpegQualities()
 struct WebSettings {
     int preset = 0;
     int OutputKind = kGifOutput, ColorMode = 0, BitCount = 1, PaletteWord = kCounted, DitherWord = 0, FileKind = kBmp;
-    int JpegQuality = 0x100; // a quality class or a percentage, in FreeImage's form
+    int JpegQuality = 0x100; // a quality class or a percentage, as writeJpeg takes it
     bool flipH = false, flipV = false, invert = false;
     bool takesDither = true;
 

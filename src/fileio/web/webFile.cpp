@@ -1,9 +1,7 @@
 #include "fileio/web/webFile.h"
-#include "fileio/FreeImageSaver.h"
-#include "fileio/web/ReducedDib.h"
 #include "fileio/writers/PCX.h"
+#include "fileio/writers/pictureFiles.h"
 #include "pixels/RuntimeError.h"
-#include <FreeImage.h>
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -37,11 +35,11 @@ class Teller {
     bool stopped_ = false;
 };
 
-bool saveAs(FIBITMAP* dib, int format, int flags, const QString& name, OutputFile::Links links, Teller& teller)
+template <class Write> bool saveAs(const QString& name, OutputFile::Links links, Teller& teller, const Write& write)
 {
     OutputFile file(name, links);
     file.setGoOn(std::ref(teller));
-    const bool written = saveDib(dib, format, flags, file) && file.commit();
+    const bool written = file.isOpen() && write(file) && file.commit();
     teller.error = file.error();
     return written;
 }
@@ -51,19 +49,16 @@ Outcome outcomeOf(bool written, const Teller& teller)
     return written ? Outcome::Written : teller.stopped() ? Outcome::Stopped : Outcome::Failed;
 }
 
-Outcome writeJpeg(const Bits& picture, int quality, const QString& name, OutputFile::Links links, Teller& teller)
+bool writePngKind(const ReducedPicture& reduced, OutputFile& file)
 {
-    const FreeImageStart library;
-    const Dib24 dib(picture);
-    return outcomeOf(dib.get() && saveAs(dib.get(), FIF_JPEG, quality, name, links, teller), teller);
+    return reduced.bitCount <= 8 ? writePng(reduced.indexed, kBestEffort, file)
+                                 : writePng(reduced.full, kBestEffort, file);
 }
 
 /// Targa and TIFF always get 24 bits.
 Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& name, OutputFile::Links links,
                         Teller& teller)
 {
-    static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
-    static constexpr int kFlags[] = {0, PNG_Z_BEST_COMPRESSION, 0, 0};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
         PCX pcx;
@@ -71,11 +66,19 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
         teller.error = pcx.error;
         return outcomeOf(written, teller);
     }
-    const FreeImageStart library;
-    const bool inFull = kind == kTga || kind == kTif;
-    const ReducedDib dib(inFull ? ReducedPicture{24, {}, pictureOf(reduced)} : reduced);
-    if (!dib.get()) return Outcome::NoBitmap;
-    return outcomeOf(saveAs(dib.get(), kFormats[kind], kFlags[kind], name, links, teller), teller);
+    const auto write = [&](OutputFile& file) {
+        switch (kind) {
+        case kPng:
+            return writePngKind(reduced, file);
+        case kTga:
+            return writeTga(pictureOf(reduced), file);
+        case kTif:
+            return writeTiff(pictureOf(reduced), file);
+        default:
+            return writeBmp(reduced, file);
+        }
+    };
+    return outcomeOf(saveAs(name, links, teller, write), teller);
 }
 
 Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& picture, const QString& name,
@@ -111,7 +114,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     try {
         if (picture.isNull()) return file;
         if (settings.isJpeg()) {
-            file.outcome = writeJpeg(picture, settings.JpegQuality, name, links, teller);
+            const auto write = [&](OutputFile& to) { return writeJpeg(picture, settings.JpegQuality, to); };
+            file.outcome = outcomeOf(saveAs(name, links, teller, write), teller);
         } else {
             ColorReducer reducer;
             reducer.Progress = progress;
@@ -135,12 +139,10 @@ namespace {
 
 std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
 {
-    const FreeImageStart library;
-    const Dib24 dib(picture);
     Teller teller(progress);
     const auto fits = [&](int quality) {
-        const auto bytes = teller() ? savedBytes(dib.get(), FIF_JPEG, quality, std::ref(teller)) : std::nullopt;
-        return bytes && *bytes <= mostBytes;
+        ByteCounter counter(std::ref(teller));
+        return teller() && writeJpeg(picture, quality, counter) && counter.bytes <= mostBytes;
     };
     int good = 0, bad = 101;
     while (bad - good > 1) {
