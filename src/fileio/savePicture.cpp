@@ -16,6 +16,7 @@ struct Job {
     const Bits& bits;
     QString fileName;
     OutputFile::Links links;
+    const CameraData& camera;
 };
 
 SaveReport reportOf(bool written) { return {written ? SaveResult::Written : SaveResult::Failed}; }
@@ -103,11 +104,12 @@ static_assert(std::ranges::all_of(kFormats,
 
 } // namespace
 
-SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext, OutputFile::Links links)
+SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext, OutputFile::Links links,
+                        const CameraData& camera)
 try {
     if (bits.isNull()) return {SaveResult::NotWritten};
     const Writer* writer = writerOf(Ext.toLower().toStdString());
-    return writer ? writer->save({bits, FileName, links}) : SaveReport{SaveResult::NotWritten};
+    return writer ? writer->save({bits, FileName, links, camera}) : SaveReport{SaveResult::NotWritten};
 } catch (const std::bad_alloc&) {
     return {SaveResult::Failed};
 }
