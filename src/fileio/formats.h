@@ -29,7 +29,7 @@ enum Packing : int {
     Deflated = 1032, // the limit of the method
     Codes = 2731,    // 12 bits encode 4096
     Lines = 32768,   // one bit per line, as in fax encoding
-    Drawn = 65536,   // a few words fill a whole drawing
+    Drawn = 65536,   // a few words fill a whole drawing; a code that is certain, as of a single colour, takes no bits
 };
 
 struct Format {
@@ -70,6 +70,7 @@ inline constexpr Format kFormats[] = {
     {"cut",  "a Dr. Halo",           Saving::No,       Runs,     Plain},
     {"iff",  "an IFF",               Saving::No,       Runs,     Plain},
     {"lbm",  "an IFF",               Saving::No,       Runs,     Plain},
+    {"webp", "a WebP",               Saving::No,       Drawn,    Plain},
 };
 // clang-format on
 
@@ -103,6 +104,7 @@ inline constexpr Kinds kOpened[] = { // follow a line for all formats that are b
     {"Dr.Halo bitmap (*.CUT)",                  "cut"},
     {"Interchanged File Format (*.IFF)",        "iff"},
     {"Deluxe Paint package (*.LBM)",            "lbm"},
+    {"WebP (*.WEBP)",                           "webp"},
 };
 
 inline constexpr Kinds kSaved[] = {
@@ -191,6 +193,7 @@ inline constexpr Family kFamilies[] = {
     {"*.cut",         "Dr.Halo bitmap"},
     {"*.iff",         "Interchanged File Format"},
     {"*.lbm",         "Deluxe Paint package"},
+    {"*.webp",        "WebP"},
 };
 // clang-format on
 

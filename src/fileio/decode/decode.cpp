@@ -11,6 +11,7 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+Decoded readWebp(FileBytes& file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
@@ -79,6 +80,7 @@ constexpr Reader kReaders[] = {
     {"pgm",   byFreeImage<FIF_PPM, mendPnm>},
     {"ppm",   byFreeImage<FIF_PPM, mendPnm>},
     {"jng",   byFreeImage<FIF_BMP, mendBmp>},
+    {"webp",  readWebp},
 };
 // clang-format on
 
