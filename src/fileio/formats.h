@@ -70,7 +70,7 @@ inline constexpr Format kFormats[] = {
     {"cut",  "a Dr. Halo",           Saving::No,       Runs,     Plain},
     {"iff",  "an IFF",               Saving::No,       Runs,     Plain},
     {"lbm",  "an IFF",               Saving::No,       Runs,     Plain},
-    {"webp", "a WebP",               Saving::No,       Drawn,    Plain},
+    {"webp", "a WebP",               Saving::Directly, Drawn,    SavesSlowly},
 };
 // clang-format on
 
@@ -108,7 +108,7 @@ inline constexpr Kinds kOpened[] = { // follow a line for all formats that are b
 };
 
 inline constexpr Kinds kSaved[] = {
-    {"All Supported graphic formats ",          "bmp gif jpg png tga pcx tif pbm pgm ppm"},
+    {"All Supported graphic formats ",          "bmp gif jpg png tga pcx tif pbm pgm ppm webp"},
     {"Windows Bitmap Files (*.bmp)",            "bmp"},
     {"Graphical Interface Format (*.GIF)",      "gif"},
     {"Independent JPEG Group (*.JPG)",          "jpg"},
@@ -117,6 +117,7 @@ inline constexpr Kinds kSaved[] = {
     {"Zsoft Paintbrush (*.PCX)",                "pcx"},
     {"Tagged Image File Format (*.TIF)",        "tif"},
     {"ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)", "ppm pgm pbm"},
+    {"WebP (*.WEBP)",                           "webp"},
 };
 // clang-format on
 

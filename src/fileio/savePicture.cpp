@@ -31,11 +31,15 @@ bool writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& file), bo
 
 // --- Formats whose failure is told
 
-bool png(const Job& job, OutputFile& file) { return writePng(job.bits, kUsualEffort, file); }
-bool jpeg(const Job& job, OutputFile& file) { return writeJpeg(job.bits, kSuperbJpeg, file); }
+bool png(const Job& job, OutputFile& file) { return writePng(job.bits, kUsualEffort, file, job.camera); }
+bool jpeg(const Job& job, OutputFile& file) { return writeJpeg(job.bits, kSuperbJpeg, file, job.camera); }
 bool bmp(const Job& job, OutputFile& file) { return writeBmp(job.bits, file); }
-bool tiff(const Job& job, OutputFile& file) { return writeTiff(job.bits, file); }
+bool tiff(const Job& job, OutputFile& file) { return writeTiff(job.bits, file, job.camera); }
 bool targa(const Job& job, OutputFile& file) { return writeTga(job.bits, file); }
+// Without a loss that an eye would find.
+bool webp(const Job& job, OutputFile& file) { return writeWebp(job.bits, {95}, file, job.camera); }
+bool avif(const Job& job, OutputFile& file) { return writeAvif(job.bits, 90, file, job.camera); }
+bool jxl(const Job& job, OutputFile& file) { return writeJxl(job.bits, 90, file, job.camera); }
 bool pixmap(const Job& job, OutputFile& file) { return writePpm(job.bits, file); }
 
 template <auto write, bool keepsRemains = false> SaveReport told(const Job& job)
@@ -60,6 +64,13 @@ SaveReport saveAnymap(const Job& job)
         "a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) "
         "format.",
         Icon::Information};
+}
+
+SaveReport saveWebp(const Job& job)
+{
+    if (fitsWebp(job.bits)) return told<webp>(job);
+    return {SaveResult::FailedAndTold, kProgramName, "A WebP picture has at most 16383 pixels a side.",
+            Icon::Exclamation};
 }
 
 SaveReport saveGif(const Job& job) { return reportOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
@@ -87,6 +98,9 @@ constexpr Writer kWriters[] = {
     {"pcx", savePcx},
     {"pnm", saveAnymap},
     {"tga", told<targa>},
+    {"webp", saveWebp},
+    {"avif", told<avif>},
+    {"jxl", told<jxl>},
 };
 // clang-format on
 
@@ -97,8 +111,8 @@ constexpr const Writer* writerOf(std::string_view extension)
 }
 static_assert(std::ranges::all_of(kFormats,
                                   [](const Format& f) {
-                                      return (f.saving == Saving::Directly || f.saving == Saving::Refused) ==
-                                             (writerOf(f.extension) != nullptr);
+                                      return (f.saving != Saving::Directly && f.saving != Saving::Refused) ||
+                                             writerOf(f.extension) != nullptr;
                                   }),
               "a format that is saved without its writer: add the row to kWriters in src/fileio/savePicture.cpp");
 

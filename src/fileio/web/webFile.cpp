@@ -55,6 +55,24 @@ bool writePngKind(const ReducedPicture& reduced, OutputFile& file)
                                  : writePng(reduced.full, kBestEffort, file);
 }
 
+/// The formats that have a quality.
+bool writeOfQuality(const Bits& picture, const WebSettings& settings, ByteSink& to)
+{
+    const int percent = percentOf(settings.JpegQuality);
+    switch (settings.FileKind) {
+    case kWebp:
+        return writeWebp(picture, {percent}, to);
+    case kAvif:
+        return writeAvif(picture, percent, to);
+    case kJxl:
+        return writeJxl(picture, percent, to);
+    default:
+        return writeJpeg(picture, settings.JpegQuality, to);
+    }
+}
+
+constexpr WebpForm kLosslessWebp{75, true};
+
 /// Targa and TIFF always get 24 bits.
 Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& name, OutputFile::Links links,
                         Teller& teller)
@@ -74,6 +92,8 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
             return writeTga(pictureOf(reduced), file);
         case kTif:
             return writeTiff(pictureOf(reduced), file);
+        case kWebp:
+            return writeWebp(reduced.full, kLosslessWebp, file);
         default:
             return writeBmp(reduced, file);
         }
@@ -113,8 +133,10 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     Teller teller(progress);
     try {
         if (picture.isNull()) return file;
-        if (settings.isJpeg()) {
-            const auto write = [&](OutputFile& to) { return writeJpeg(picture, settings.JpegQuality, to); };
+        if (settings.FileKind == kWebp && !fitsWebp(picture)) {
+            file.outcome = Outcome::NoBitmap;
+        } else if (settings.hasQuality()) {
+            const auto write = [&](OutputFile& to) { return writeOfQuality(picture, settings, to); };
             file.outcome = outcomeOf(saveAs(name, links, teller, write), teller);
         } else {
             ColorReducer reducer;
@@ -128,7 +150,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     } catch (const Cancelled&) {
         file.outcome = Outcome::Stopped;
     } catch (const std::bad_alloc&) {
-        file.outcome = settings.OutputKind == kBitmapOutput && !settings.isJpeg() ? Outcome::NoBitmap : Outcome::Failed;
+        file.outcome =
+            settings.OutputKind == kBitmapOutput && !settings.hasQuality() ? Outcome::NoBitmap : Outcome::Failed;
     }
     if (file.outcome == Outcome::Failed && teller.error != 0) file.reason = qt_error_string(teller.error);
     if (file.outcome == Outcome::Written) file.bytes = QFileInfo(name).size();
@@ -137,12 +160,14 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
 
 namespace {
 
-std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
+std::optional<int> bestQuality(const Bits& picture, WebSettings settings, std::int64_t mostBytes,
+                               const ReduceProgress& progress)
 {
     Teller teller(progress);
     const auto fits = [&](int quality) {
         ByteCounter counter(std::ref(teller));
-        return teller() && writeJpeg(picture, quality, counter) && counter.bytes <= mostBytes;
+        settings.JpegQuality = quality;
+        return teller() && writeOfQuality(picture, settings, counter) && counter.bytes <= mostBytes;
     };
     int good = 0, bad = 101;
     while (bad - good > 1) {
@@ -159,8 +184,8 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
 std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
                                           const QString& scratch, const ReduceProgress& progress, BestPalettes* known)
 {
-    if (settings.isJpeg()) {
-        const auto quality = bestJpegQuality(picture, mostBytes, progress);
+    if (settings.hasQuality()) {
+        const auto quality = bestQuality(picture, settings, mostBytes, progress);
         if (!quality) return {};
         WebSettings best = settings;
         best.JpegQuality = *quality;

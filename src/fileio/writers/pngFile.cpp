@@ -1,5 +1,6 @@
 // PNG by libpng.
 #include "fileio/writers/pictureFiles.h"
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <csetjmp>
@@ -13,9 +14,10 @@ namespace {
 /// The library's objects, which outlive its jumps out of the middle of a call.
 class PngEncoder {
   public:
-    explicit PngEncoder(ByteSink& to)
+    PngEncoder(ByteSink& to, const CameraData& camera = {})
         : png_(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, [](png_structp, png_const_charp) {})),
-          info_(png_ ? png_create_info_struct(png_) : nullptr), to_(to)
+          info_(png_ ? png_create_info_struct(png_) : nullptr), to_(to), camera_(camera),
+          comment_(camera.comment.toUtf8())
     {
     }
     ~PngEncoder() { png_destroy_write_struct(&png_, &info_); }
@@ -27,8 +29,7 @@ class PngEncoder {
         if (!info_ || setjmp(png_jmpbuf(png_)) != 0) return false; // nothing below has a destructor
         begin(effort);
         indexed ? headOf(*indexed) : headInFull(width, height);
-        const auto dots = static_cast<png_uint_32>(std::lround(kUsualDots / 0.0254));
-        png_set_pHYs(png_, info_, dots, dots, PNG_RESOLUTION_METER);
+        carry();
         png_write_info(png_, info_);
         if (!indexed) {
             png_set_bgr(png_);
@@ -54,6 +55,33 @@ class PngEncoder {
         png_set_compression_level(png_, effort);
         png_set_compression_buffer_size(png_, 64 << 10);
         png_set_user_limits(png_, Bits::kMostASide, Bits::kMostASide);
+    }
+    static png_uint_32 dotsAMetre(double dots)
+    {
+        return static_cast<png_uint_32>(
+            std::lround(dots > 0 ? std::clamp(dots, 1.0, 1e6) / 0.0254 : kUsualDots / 0.0254));
+    }
+    /// What the camera wrote, before the pixels.
+    void carry()
+    {
+        png_set_pHYs(png_, info_, dotsAMetre(camera_.dotsAcross), dotsAMetre(camera_.dotsDown), PNG_RESOLUTION_METER);
+        if (!camera_.exif.isEmpty()) {
+            auto* bytes = reinterpret_cast<png_bytep>(const_cast<char*>(camera_.exif.constData()));
+            png_set_eXIf_1(png_, info_, static_cast<png_uint_32>(camera_.exif.size()), bytes);
+        }
+        text("XML:com.adobe.xmp", camera_.xmp);
+        text("Comment", comment_);
+    }
+    void text(const char* key, const QByteArray& of)
+    {
+        if (of.isEmpty()) return;
+        png_text text{};
+        text.compression = PNG_ITXT_COMPRESSION_NONE; // UTF-8
+        text.key = const_cast<char*>(key);
+        text.text = const_cast<char*>(of.constData());
+        text.itxt_length = static_cast<std::size_t>(of.size());
+        text.lang = text.lang_key = const_cast<char*>("");
+        png_set_text(png_, info_, &text, 1);
     }
     void headInFull(int width, int height)
     {
@@ -84,14 +112,17 @@ class PngEncoder {
     png_structp png_;
     png_infop info_;
     ByteSink& to_;
+    const CameraData camera_;
+    const QByteArray comment_;
 };
 
 } // namespace
 
-bool writePng(const Bits& picture, int effort, ByteSink& to)
+bool writePng(const Bits& picture, int effort, ByteSink& to, const CameraData& camera)
 {
-    return PngEncoder(to).encode(picture.width(), picture.height(), nullptr, effort,
-                                 [&](int y) { return picture.row(y)->c; });
+    return PngEncoder(to, camera).encode(picture.width(), picture.height(), nullptr, effort, [&](int y) {
+        return picture.row(y)->c;
+    });
 }
 
 bool writePng(const IndexedPicture& picture, int effort, ByteSink& to)

@@ -1,4 +1,5 @@
 // TIFF by libtiff.
+#include "fileio/writers/iptcResource.h"
 #include "fileio/writers/packRows.h"
 #include "fileio/writers/pictureFiles.h"
 #include <memory>
@@ -45,7 +46,7 @@ std::unique_ptr<TIFF, Close> opened(OutputFile& to)
         "", "w", &to, read, write, seek, [](thandle_t) { return 0; }, size, nullptr, nullptr, options.get()));
 }
 
-void setUp(TIFF* tiff, const Bits& picture, int rowsAStrip)
+void setUp(TIFF* tiff, const Bits& picture, int rowsAStrip, const CameraData& camera)
 {
     TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, picture.width());
     TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, picture.height());
@@ -58,13 +59,19 @@ void setUp(TIFF* tiff, const Bits& picture, int rowsAStrip)
     TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
     TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, rowsAStrip);
     TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, kUsualDots);
-    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, kUsualDots);
+    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, camera.dotsAcross > 0 ? camera.dotsAcross : kUsualDots);
+    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, camera.dotsDown > 0 ? camera.dotsDown : kUsualDots);
+    const auto bytes = [&](std::uint32_t tag, const QByteArray& of) {
+        if (!of.isEmpty()) TIFFSetField(tiff, tag, static_cast<std::uint32_t>(of.size()), of.constData());
+    };
+    bytes(TIFFTAG_XMLPACKET, camera.xmp);
+    bytes(TIFFTAG_PHOTOSHOP, iptcResource(camera.iptc));
+    if (!camera.comment.isEmpty()) TIFFSetField(tiff, TIFFTAG_IMAGEDESCRIPTION, camera.comment.toUtf8().constData());
 }
 
 } // namespace
 
-bool writeTiff(const Bits& picture, OutputFile& to)
+bool writeTiff(const Bits& picture, OutputFile& to, const CameraData& camera)
 {
     const int width = picture.width(), height = picture.height();
     const std::size_t bytes = std::size_t(width) * 3;
@@ -72,7 +79,7 @@ bool writeTiff(const Bits& picture, OutputFile& to)
     std::vector<std::uint8_t> strip(bytes * std::size_t(together));
     const auto tiff = opened(to);
     if (!tiff) return false;
-    setUp(tiff.get(), picture, together);
+    setUp(tiff.get(), picture, together, camera);
     std::uint32_t number = 0;
     for (int y = 0; y < height; y += together) {
         const int rows = std::min(together, height - y);

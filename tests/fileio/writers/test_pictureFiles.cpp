@@ -3,6 +3,8 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include <QCryptographicHash>
+#include <QProcess>
+#include <QStandardPaths>
 
 namespace velara {
 namespace {
@@ -20,6 +22,13 @@ const Row kRows[] = {
     {"tif", [](const Bits& bits, OutputFile& to) { return writeTiff(bits, to); }},
     {"jpg", [](const Bits& bits, OutputFile& to) { return writeJpeg(bits, kSuperbJpeg, to); }},
     {"progressive jpg", [](const Bits& bits, OutputFile& to) { return writeJpeg(bits, 0x2000 | 90, to); }},
+    {"webp", [](const Bits& bits, OutputFile& to) { return writeWebp(bits, {75}, to); }},
+    {"lossless webp",
+     [](const Bits& bits, OutputFile& to) {
+         return writeWebp(bits, {75, true}, to);
+     }},
+    {"avif", [](const Bits& bits, OutputFile& to) { return writeAvif(bits, 75, to); }},
+    {"jxl", [](const Bits& bits, OutputFile& to) { return writeJxl(bits, 75, to); }},
 };
 
 using PictureFiles = FolderTest;
@@ -87,6 +96,55 @@ TEST_F(PictureFiles, EndWhenNobodyWantsThem)
             EXPECT_TRUE(asked > 1) << row.name;
         }
     EXPECT_FALSE(QFile::exists(path("a")));
+}
+
+// As a stranger reads it. A dash: the format has no place for it.
+TEST_F(PictureFiles, WhatTheCameraWroteIsReadBack)
+{
+    if (QStandardPaths::findExecutable("exiftool").isEmpty()) GTEST_SKIP() << "there is no exiftool";
+    const CameraData camera{QByteArray("II*\0\10\0\0\0\1\0\17\1\2\0\4\0\0\0Vel\0\0\0\0\0", 26),
+                            "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                            "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
+                            "xmlns:dc='http://purl.org/dc/elements/1.1/'><dc:format>told</dc:format></rdf:Description>"
+                            "</rdf:RDF></x:xmpmeta>",
+                            QByteArray("\x1c\2\x19\0\5Dunes", 10),
+                            QString::fromUtf8("Düne"),
+                            300,
+                            150};
+    const Bits bits = randomBits(40, 30, 1);
+    const struct {
+        const char* name;
+        std::function<bool(OutputFile&)> write;
+        const char* facts;
+    } rows[] = {
+        {"a.jpg", [&](auto& to) { return writeJpeg(bits, 90, to, camera); }, "Vel told Dunes Düne - 300 150 - -"},
+        {"a.png", [&](auto& to) { return writePng(bits, 6, to, camera); }, "Vel told - Düne - - - 11811 5906"},
+        {"a.tif", [&](auto& to) { return writeTiff(bits, to, camera); }, "- told Dunes - Düne 300 150 - -"},
+        {"a.webp", [&](auto& to) { return writeWebp(bits, {75}, to, camera); }, "Vel told - - - - - - -"},
+        {"a.avif", [&](auto& to) { return writeAvif(bits, 75, to, camera); }, "Vel told - - - - - - -"},
+        {"a.jxl", [&](auto& to) { return writeJxl(bits, 75, to, camera); }, "Vel told - - - - - - -"},
+    };
+    for (const auto& row : rows) {
+        OutputFile file(path(row.name));
+        ASSERT_TRUE(row.write(file) && file.commit()) << row.name;
+        QProcess reader;
+        reader.start("exiftool",
+                     QString("-s3 -n -f -Make -XMP:Format -IPTC:Keywords -Comment -ImageDescription -XResolution "
+                             "-YResolution -PixelsPerUnitX -PixelsPerUnitY")
+                             .split(' ')
+                         << path(row.name));
+        ASSERT_TRUE(reader.waitForFinished());
+        EXPECT_EQ(row.facts, reader.readAll().trimmed().replace('\n', ' ').toStdString()) << row.name;
+    }
+    // Too long for a segment with its padding, and without it.
+    CameraData padded = camera;
+    for (const int marks : {100, 70000}) {
+        padded.xmp = camera.xmp + QByteArray(marks, 'x') + QByteArray(70000, ' ') + "<?xpacket end='w'?>";
+        OutputFile file(path("b.jpg"));
+        ASSERT_TRUE(writeJpeg(bits, 90, file, padded) && file.commit());
+        EXPECT_EQ(marks == 100, fileBytes(path("b.jpg")).contains("told"));
+        EXPECT_TRUE(fileBytes(path("b.jpg")).contains("Dunes"));
+    }
 }
 
 } // namespace
