@@ -111,8 +111,8 @@ constexpr const Writer* writerOf(std::string_view extension)
 }
 static_assert(std::ranges::all_of(kFormats,
                                   [](const Format& f) {
-                                      return (f.saving != Saving::Directly && f.saving != Saving::Refused) ||
-                                             writerOf(f.extension) != nullptr;
+                                      return (f.saving == Saving::Directly || f.saving == Saving::Refused) ==
+                                             (writerOf(f.extension) != nullptr);
                                   }),
               "a format that is saved without its writer: add the row to kWriters in src/fileio/savePicture.cpp");
 

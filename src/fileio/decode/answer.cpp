@@ -64,7 +64,7 @@ void answer(const QString& extension)
     const Needs needs = prepareReader(extension);
     FileBytes file(kPicture);
     close(kPicture);
-    if (needs != Needs::Nothing) handOverFonts();
+    if (include(needs, Needs::Fonts)) handOverFonts();
     const CageState cage = enterCage(needs); // nothing of the file has been read yet
     const Decoded picture =
         cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))

@@ -31,4 +31,19 @@ inline std::vector<std::uint8_t> carriedBytes(const void* from, std::size_t size
 /// EXIF from its byte order mark on: some writers put "Exif", two zeros or an offset before it.
 std::vector<std::uint8_t> exifFrom(std::vector<std::uint8_t> bytes, std::size_t from = 0);
 
+/// The ICC profile of colours by the numbers of ITU-T H.273; empty for sRGB and for those that have none.
+std::vector<std::uint8_t> profileOf(int primaries, int transfer);
+
+/// Gives a picture 16-bit samples, which `row` writes from red to blue, and rows made of their high bytes.
+template <class Row> void giveDeepRows(Decoded& picture, Row row)
+{
+    picture.samples = {3, 2, [row](int y, void* to) { row(y, static_cast<std::uint16_t*>(to)); }};
+    picture.row = [row = std::move(row),
+                   line = std::vector<std::uint16_t>(3 * std::size_t(picture.width))](int y, Pixel* to) mutable {
+        row(y, line.data());
+        const auto high = [&](std::size_t i) { return static_cast<std::uint8_t>(line[i] >> 8); };
+        for (std::size_t x = 0; x < line.size(); x += 3) *to++ = {{high(x + 2), high(x + 1), high(x), 0}};
+    };
+}
+
 } // namespace velara::decode
