@@ -1,5 +1,5 @@
-// What a save does to the camera's data before a writer gets it. Pure functions over bytes that may be hostile: bounded,
-// and they never throw but for memory.
+// What a save does to the camera's data before a writer gets it. Pure functions over bytes that may be hostile:
+// bounded, and they never throw but for memory.
 #pragma once
 #include "seams/CameraData.h"
 

@@ -55,9 +55,8 @@ bool fitsWebp(const Bits& picture);
 /// the rest of what the camera wrote.
 bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& camera = {});
 
-/// By a velara-encode, which is ended when goesOn() says no; quality 1 to 100. It gets a copy of the pixels, three bytes
-/// each. EXIF and XMP are kept.
-/// AVIF: from 90 on the chroma has all pixels, below that half the width and height.
+/// By a velara-encode, which is ended when goesOn() says no; quality 1 to 100. It gets a copy of the pixels, three
+/// bytes each. EXIF and XMP are kept. AVIF: from 90 on the chroma has all pixels, below that half the width and height.
 bool writeAvif(const Bits& picture, int quality, ByteSink& to, const CameraData& camera = {});
 /// JPEG XL: 90 is a distance of 1, the smallest that an eye may notice; 100 is without loss.
 bool writeJxl(const Bits& picture, int quality, ByteSink& to, const CameraData& camera = {});
