@@ -33,7 +33,9 @@ void chooseMap(WebOrder& order, const QString& option, const QString& text)
 {
     std::vector<WebEntry> offered;
     for (const int i : order.settings.maps()) offered.push_back(webMaps()[std::size_t(i)]);
-    if (offered.empty()) throw badArgument(QStringLiteral("%1: JPEG has no palette").arg(option));
+    if (offered.empty())
+        throw badArgument(
+            QStringLiteral("%1: %2 has no palette").arg(option, QLatin1String(order.settings.row().entry)));
     const int at = entryAt(option, text, std::span<const WebEntry>(offered));
     order.settings.chooseMap(order.settings.maps()[std::size_t(at)]);
 }
@@ -76,7 +78,8 @@ constexpr OptionRow kOptions[] = {
     {"--max-bytes", true,
      [](WebOrder& o, const QString& name, const QString& v) {
          if (!o.settings.fitsASize())
-             throw badArgument(name + QStringLiteral(": only JPEG, GIF and 8-bit PNG can be fitted to a size"));
+             throw badArgument(
+                 name + QStringLiteral(": only GIF, 8-bit PNG and formats with a quality can be fitted to a size"));
          o.maxBytes = numberOf(name, v, std::int64_t{1} << 40);
      }},
 };
@@ -109,7 +112,7 @@ QString writeWeb(const Bits& picture, const WebOrder& order, const QString& outp
         const auto fitted = fittedSettings(picture, settings, *order.maxBytes, folder.filePath("tried"));
         if (!fitted)
             throw fileFault(QStringLiteral("%1 can't be written: no %2 makes it as small as %3 bytes")
-                                .arg(output, settings.isJpeg() ? "quality" : "number of colors")
+                                .arg(output, settings.hasQuality() ? "quality" : "number of colors")
                                 .arg(*order.maxBytes));
         settings = *fitted;
     }

@@ -29,7 +29,7 @@ enum Packing : int {
     Deflated = 1032, // the limit of the method
     Codes = 2731,    // 12 bits encode 4096
     Lines = 32768,   // one bit per line, as in fax encoding
-    Drawn = 65536,   // a few words fill a whole drawing
+    Drawn = 65536,   // a few words fill a whole drawing; a code that is certain, as of a single colour, takes no bits
 };
 
 struct Format {
@@ -70,6 +70,18 @@ inline constexpr Format kFormats[] = {
     {"cut",  "a Dr. Halo",           Saving::No,       Runs,     Plain},
     {"iff",  "an IFF",               Saving::No,       Runs,     Plain},
     {"lbm",  "an IFF",               Saving::No,       Runs,     Plain},
+    {"webp", "a WebP",               Saving::Directly, Drawn,    SavesSlowly},
+    {"heic", "a HEIF",               Saving::No,       Drawn,    Plain},
+    {"avif", "an AVIF",              Saving::Directly, Drawn,    SavesSlowly},
+    {"jxl",  "a JPEG XL",            Saving::Directly, Drawn,    SavesSlowly},
+    {"svg",  "an SVG",               Saving::No,       Drawn,    Plain},
+    {"dng",  "a camera's",           Saving::No,       Deflated, Plain},
+    {"cr2",  "a camera's",           Saving::No,       Runs,     Plain},
+    {"nef",  "a camera's",           Saving::No,       Runs,     Plain},
+    {"arw",  "a camera's",           Saving::No,       Runs,     Plain},
+    {"raf",  "a camera's",           Saving::No,       Runs,     Plain},
+    {"orf",  "a camera's",           Saving::No,       Runs,     Plain},
+    {"rw2",  "a camera's",           Saving::No,       Runs,     Plain},
 };
 // clang-format on
 
@@ -103,10 +115,16 @@ inline constexpr Kinds kOpened[] = { // follow a line for all formats that are b
     {"Dr.Halo bitmap (*.CUT)",                  "cut"},
     {"Interchanged File Format (*.IFF)",        "iff"},
     {"Deluxe Paint package (*.LBM)",            "lbm"},
+    {"WebP (*.WEBP)",                           "webp"},
+    {"High Efficiency Image File (*.HEIC)",     "heic"},
+    {"AV1 Image File (*.AVIF)",                 "avif"},
+    {"JPEG XL (*.JXL)",                         "jxl"},
+    {"Scalable Vector Graphics (*.SVG)",        "svg"},
+    {"Camera Files (*.DNG;*.CR2;*.NEF;*.ARW;*.RAF;*.ORF;*.RW2)", "dng cr2 nef arw raf orf rw2"},
 };
 
 inline constexpr Kinds kSaved[] = {
-    {"All Supported graphic formats ",          "bmp gif jpg png tga pcx tif pbm pgm ppm"},
+    {"All Supported graphic formats ",          "bmp gif jpg png tga pcx tif pbm pgm ppm webp avif jxl"},
     {"Windows Bitmap Files (*.bmp)",            "bmp"},
     {"Graphical Interface Format (*.GIF)",      "gif"},
     {"Independent JPEG Group (*.JPG)",          "jpg"},
@@ -115,6 +133,9 @@ inline constexpr Kinds kSaved[] = {
     {"Zsoft Paintbrush (*.PCX)",                "pcx"},
     {"Tagged Image File Format (*.TIF)",        "tif"},
     {"ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)", "ppm pgm pbm"},
+    {"WebP (*.WEBP)",                           "webp"},
+    {"AV1 Image File (*.AVIF)",                 "avif"},
+    {"JPEG XL (*.JXL)",                         "jxl"},
 };
 // clang-format on
 
@@ -122,8 +143,8 @@ inline constexpr Kinds kSaved[] = {
 struct OtherName {
     std::string_view extension, usual;
 };
-inline constexpr OtherName kOtherNames[] = {
-    {"jpeg", "jpg"}, {"jpe", "jpg"}, {"jfif", "jpg"}, {"tiff", "tif"}}; // and dialogs list them with it
+inline constexpr OtherName kOtherNames[] = {{"jpeg", "jpg"},  {"jpe", "jpg"}, {"jfif", "jpg"}, {"tiff", "tif"},
+                                            {"heif", "heic"}, {"svgz", "svg"}}; // and dialogs list them with it
 
 /// The extension, in lower case, of the format's row.
 constexpr std::string_view usualExtension(std::string_view extension)
@@ -191,6 +212,12 @@ inline constexpr Family kFamilies[] = {
     {"*.cut",         "Dr.Halo bitmap"},
     {"*.iff",         "Interchanged File Format"},
     {"*.lbm",         "Deluxe Paint package"},
+    {"*.webp",        "WebP"},
+    {"*.heic; *.heif", "High Efficiency Image File"},
+    {"*.avif",        "AV1 Image File"},
+    {"*.jxl",         "JPEG XL"},
+    {"*.svg",         "Scalable Vector Graphics"},
+    {"*.dng; *.cr2; *.nef; *.arw; *.raf; *.orf; *.rw2", "Camera Files"},
 };
 // clang-format on
 

@@ -1,11 +1,9 @@
 #include "fileio/savePicture.h"
-#include "fileio/FreeImageSaver.h"
-#include "fileio/ModFreeImage.h"
 #include "fileio/formats.h"
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/PCX.h"
+#include "fileio/writers/pictureFiles.h"
 #include "reduce/bestColours.h"
-#include <FreeImage.h>
 #include <algorithm>
 #include <iterator>
 #include <new>
@@ -23,22 +21,30 @@ struct Job {
 
 SaveReport reportOf(bool written) { return {written ? SaveResult::Written : SaveResult::Failed}; }
 
-// --- FreeImage's writers
-
-bool saveByFreeImage(const Job& job, FREE_IMAGE_FORMAT format, int flags, bool keepsRemains)
+bool writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& file), bool keepsRemains = false)
 {
-    const FreeImageStart library;
-    const Dib24 dib(job.bits);
-    if (!dib.get()) return false;
     OutputFile file(job.fileName, job.links);
-    if (saveDib(dib.get(), format, flags, file) && file.commit()) return true;
+    if (file.isOpen() && write(job, file) && file.commit()) return true;
     if (keepsRemains) file.keepRemains();
     return false;
 }
 
-template <FREE_IMAGE_FORMAT format, int flags, bool keepsRemains = false> SaveReport byFreeImage(const Job& job)
+// --- Formats whose failure is told
+
+bool png(const Job& job, OutputFile& file) { return writePng(job.bits, kUsualEffort, file, job.camera); }
+bool jpeg(const Job& job, OutputFile& file) { return writeJpeg(job.bits, kSuperbJpeg, file, job.camera); }
+bool bmp(const Job& job, OutputFile& file) { return writeBmp(job.bits, file); }
+bool tiff(const Job& job, OutputFile& file) { return writeTiff(job.bits, file, job.camera); }
+bool targa(const Job& job, OutputFile& file) { return writeTga(job.bits, file); }
+// Without a loss that an eye would find.
+bool webp(const Job& job, OutputFile& file) { return writeWebp(job.bits, {95}, file, job.camera); }
+bool avif(const Job& job, OutputFile& file) { return writeAvif(job.bits, 90, file, job.camera); }
+bool jxl(const Job& job, OutputFile& file) { return writeJxl(job.bits, 90, file, job.camera); }
+bool pixmap(const Job& job, OutputFile& file) { return writePpm(job.bits, file); }
+
+template <auto write, bool keepsRemains = false> SaveReport told(const Job& job)
 {
-    if (saveByFreeImage(job, format, flags, keepsRemains)) return {SaveResult::Written};
+    if (writeAs(job, write, keepsRemains)) return {SaveResult::Written};
     return {SaveResult::FailedAndTold, "Internal Error",
             "There was an error while saving! Please Restart Velara's Studio", Icon::Critical};
 }
@@ -50,7 +56,7 @@ SaveReport saveAnymap(const Job& job)
 {
     Job real = job;
     real.fileName += "ppm";
-    if (!saveByFreeImage(real, FIF_PPMRAW, 0, false)) return {SaveResult::Failed};
+    if (!writeAs(real, pixmap)) return {SaveResult::Failed};
     return {
         SaveResult::Written, "Collection of ASCII based bitmap",
         "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a "
@@ -58,6 +64,13 @@ SaveReport saveAnymap(const Job& job)
         "a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) "
         "format.",
         Icon::Information};
+}
+
+SaveReport saveWebp(const Job& job)
+{
+    if (fitsWebp(job.bits)) return told<webp>(job);
+    return {SaveResult::FailedAndTold, kProgramName, "A WebP picture has at most 16383 pixels a side.",
+            Icon::Exclamation};
 }
 
 SaveReport saveGif(const Job& job) { return reportOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
@@ -76,15 +89,18 @@ struct Writer {
 
 // clang-format off
 constexpr Writer kWriters[] = {
-    {"png", byFreeImage<FIF_PNG, 0>},
+    {"png", told<png>},
     {"gif", saveGif},
-    {"jpg", byFreeImage<FIF_JPEG, JPEG_QUALITYSUPERB, true>},
+    {"jpg", told<jpeg, true>},
     {"ico", refuseIcon},
-    {"bmp", byFreeImage<FIF_BMP, 0>},
-    {"tif", byFreeImage<FIF_TIFF, 0>},
+    {"bmp", told<bmp>},
+    {"tif", told<tiff>},
     {"pcx", savePcx},
     {"pnm", saveAnymap},
-    {"tga", byFreeImage<FIF_TARGA, 0>},
+    {"tga", told<targa>},
+    {"webp", saveWebp},
+    {"avif", told<avif>},
+    {"jxl", told<jxl>},
 };
 // clang-format on
 

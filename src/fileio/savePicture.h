@@ -29,9 +29,9 @@ struct SaveReport {
 };
 
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
-/// added. There is a notice of a failed png, jpg, bmp, tif or tga, of the depth of a portable anymap, and that icons
-/// are not written. Every writer gets 24 bits a pixel, without the margin. A work file of the program (png, jpg, bmp,
-/// tif, tga) replaces links. camera is written by the formats that can hold it. For any thread.
+/// added. There is a notice of a failed png, jpg, bmp, tif, tga, webp, avif or jxl, of the depth of a portable anymap,
+/// and that icons are not written. Every writer gets 24 bits a pixel, without the margin. A work file of the program
+/// (png, jpg, bmp, tif, tga) replaces links. camera is written by the formats that can hold it. For any thread.
 SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext,
                         OutputFile::Links links = OutputFile::Links::Follow, const CameraData& camera = {});
 /// The same, and dialogs shows the notice.

@@ -69,4 +69,16 @@ ReducedPicture reduceColours(const Bits& bits, const ReduceWords& words, const R
             {}};
 }
 
+Bits pictureOf(const ReducedPicture& picture)
+{
+    if (picture.bitCount > 8) return picture.full;
+    const IndexedPicture& indexed = picture.indexed;
+    Bits bits(indexed.width, indexed.height);
+    const std::uint8_t* from = indexed.indices.data();
+    for (int y = 0; y < indexed.height; ++y, from += indexed.width)
+        std::transform(from, from + indexed.width, bits.row(y),
+                       [&](std::uint8_t i) { return pixelFor(indexed.palette[i]); });
+    return bits;
+}
+
 } // namespace velara

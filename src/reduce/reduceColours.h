@@ -31,6 +31,9 @@ struct ReducedPicture {
     Bits full;
 };
 
+/// The reduced picture in true colour.
+Bits pictureOf(const ReducedPicture& picture);
+
 /// bitCount: 1 to 8, 16, 24 (32 counts as 24); an empty result for others and for an empty picture. kMapped is never
 /// dithered; at 2, 3, 5, 6 and 7 bits, which have no table, it uses a uniform palette. Palettes with more colours than
 /// the bits allow are truncated; unknown palettes count as kFixedColour. In greyscale both picture and palette become

@@ -1,5 +1,4 @@
 // Saving: reading the files back, the messages to the user, and the state of the old file when saving fails.
-#include "fileio/ModFreeImage.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "fileio/web/webFile.h"
@@ -330,17 +329,6 @@ TEST_F(SavePicture, APcxKeepsTheTailAndTheModeOfALongerFile)
     EXPECT_EQ(content("a.pcx").mid(200), QByteArray(4800, 'x'));
     EXPECT_TRUE(load(path("a.pcx")).ok());
     EXPECT_EQ(mode("a.pcx"), 0640U);
-}
-
-TEST(ModFreeImage, KeepsTheFirstErrorOfAnOperation)
-{
-    const FreeImageStart library;
-    EXPECT_EQ(FreeImageLastError(), "");
-    EXPECT_EQ(Dib24(Bits()).get(), nullptr);
-    FreeImageSetError("later", true);
-    EXPECT_EQ(FreeImageLastError(), "[FreeImage_DIB_From_BMP] No bitmap specified to convert");
-    FreeImageSetError("other", false);
-    EXPECT_EQ(FreeImageLastError(), "other");
 }
 
 } // namespace velara

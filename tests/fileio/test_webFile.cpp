@@ -1,10 +1,7 @@
 // Every preset of "Save for Web" with every palette and dither: the written file is read back by other libraries.
-#include "fileio/FreeImageSaver.h"
-#include "fileio/web/ReducedDib.h"
 #include "fileio/web/webFile.h"
 #include "support/files.h"
 #include "support/pictures.h"
-#include <FreeImage.h>
 #include <QImage>
 #include <bit>
 #include <gif_lib.h>
@@ -125,20 +122,6 @@ TEST_F(WebFileTest, TheBestThatMayHaveJustSoManyBytes)
         EXPECT_LE(bytesOf(*small), full / 2);
         EXPECT_EQ(8, fittedSettings(sample(), *small, full, path("tried"))->BitCount) << "and back";
         EXPECT_FALSE(fittedSettings(sample(), s, 40, path("tried"))) << preset;
-    }
-}
-
-TEST_F(WebFileTest, AWriterEndsWithItsFirstWriteThatFails)
-{
-    const FreeImageStart library;
-    for (const int format : {FIF_PNG, FIF_JPEG, FIF_TIFF}) {
-        const Dib24 dib(format == FIF_TIFF ? flatBits(4000, 90, 1, 2, 3) : randomBits(900, 900, 5)); // its small strips
-        OutputFile file(path("web"));
-        int asked = 0;
-        file.setGoOn([&asked] { return ++asked == 0; });
-        saveDib(dib.get(), format, 0, file);
-        EXPECT_FALSE(file.commit());
-        EXPECT_LE(asked, 10) << format << " packs the rest of the picture";
     }
 }
 

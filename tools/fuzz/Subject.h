@@ -15,7 +15,7 @@ namespace velara::fuzz {
 /// The outcomes for damaged pictures, counted per format in the order of kFormats.
 enum PictureOutcome { Read, CutOff, Refused, ReaderDied, TookTooLong, Caged, Outcomes };
 constexpr const char* kOutcomeNames[Outcomes] = {"read", "in part", "refused", "reader died", "too long", "caged"};
-constexpr std::size_t kMostFormats = 32;
+constexpr std::size_t kMostFormats = 64;
 using Tally = std::array<std::array<std::uint32_t, Outcomes>, kMostFormats>;
 
 /// The folders of a trial. Files that it leaves outside of input are a fault.

@@ -14,7 +14,7 @@ struct Library {
 
 constexpr Library kLibraries[] = {
     // clang-format off
-    {"FreeImage",            "picture files"},
+    {"libjpeg-turbo, libpng, libtiff, FreeImage", "picture files"},
     {"giflib, libimagequant", "GIF and palettes"},
     {"libwmf, libemf2svg",   "metafiles"},
     {"SANE",                 "scanners"},

@@ -99,7 +99,7 @@ void answer(const QString& extension, const QStringList& wishes)
     const Needs needs = prepareReader(extension);
     FileBytes file(kPicture);
     close(kPicture);
-    if (needs != Needs::Nothing) handOverFonts();
+    if (include(needs, Needs::Fonts)) handOverFonts();
     const CageState cage = enterCage(needs); // nothing of the file has been read yet
     const Decoded picture =
         cage.open

@@ -17,8 +17,10 @@ namespace velara::decode {
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
 Decoded readJpeg(FileBytes&file), readPng(FileBytes&file);
+Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&file), readSvg(FileBytes&file);
+Decoded readRaw(FileBytes& file);
 // What they load from the disk before the cage closes.
-Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
+Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf(), prepareHeif(), prepareJxl(), prepareSvg();
 
 namespace {
 
@@ -64,6 +66,18 @@ constexpr Reader kReaders[] = {
     {"pgm",   readPnm},
     {"ppm",   readPnm},
     {"jng",   readBmp},
+    {"webp",  readWebp},
+    {"heic",  readHeif, prepareHeif},
+    {"avif",  readHeif, prepareHeif},
+    {"jxl",   readJxl, prepareJxl},
+    {"svg",   readSvg, prepareSvg},
+    {"dng",   readRaw},
+    {"cr2",   readRaw},
+    {"nef",   readRaw},
+    {"arw",   readRaw},
+    {"raf",   readRaw},
+    {"orf",   readRaw},
+    {"rw2",   readRaw},
 };
 // clang-format on
 
@@ -87,6 +101,7 @@ static_assert(std::ranges::all_of(kReaders,
 } // namespace
 
 void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
+int wantedPage = 0;
 
 Needs prepareReader(const QString& extension)
 {

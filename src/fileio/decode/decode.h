@@ -61,6 +61,10 @@ inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
 /// at most once per picture.
 extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 
+/// The page or frame that is read, from 0; decodePicture sets it. A reader of a format that has pages looks at it, and
+/// refuses those beyond the last with kNoSuchPage.
+extern int wantedPage;
+
 /// Loads what the reader of the extension (lower case, no dot) needs from the disk, before the cage closes.
 Needs prepareReader(const QString& extension);
 

@@ -15,6 +15,7 @@ Decoded readByFreeImage(FileBytes& file, int fif);
 /// format is the name of Qt's reader; drawn on white. bits per pixel in the file; 0: they differ.
 Decoded readByQt(FileBytes& file, const char* format, int bits = 0);
 const char* const kCutOff = "it is cut off: its end is missing";
+const char* const kNoSuchPage = "it has fewer pages";
 const char* const kTooBig = "it is wider or higher than 32767 pixels, or has more than 268 million pixels";
 const char* const kTooMuchMemory = "it needs more memory than reading a picture may take";
 

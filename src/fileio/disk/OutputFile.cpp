@@ -174,10 +174,15 @@ bool OutputFile::fail()
     return false;
 }
 
+bool OutputFile::goesOn()
+{
+    if (!failed_ && goOn_ && !goOn_()) failed_ = true;
+    return !failed_;
+}
+
 bool OutputFile::flush()
 {
-    if (goOn_ && !goOn_()) failed_ = true;
-    if (!failed_ && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) fail();
+    if (goesOn() && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) fail();
     used_ = 0;
     return !failed_;
 }

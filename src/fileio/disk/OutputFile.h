@@ -1,5 +1,6 @@
 // A file that is being written and takes its name only when it is complete.
 #pragma once
+#include "fileio/disk/ByteSink.h"
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
@@ -21,16 +22,14 @@ QString behindLinks(const QString& path);
 /// commit(): once the complete copy beside it is on the disk and disk space is reserved. If that still fails midway,
 /// the copy stays as "name.rescued.ext". Where no copy can be made (a device, a folder that takes no files) it is
 /// overwritten in place from a memory buffer. Without commit() nothing has changed.
-class OutputFile {
+class OutputFile final : public ByteSink {
   public:
     enum class Links {
         Follow,
         Replace, // for work files of the program, which are private to the user and need not survive a power cut
     };
     explicit OutputFile(const QString& path, Links links = Links::Follow);
-    ~OutputFile();
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
+    ~OutputFile() override;
 
     bool isOpen() const { return file_ >= 0; }
     /// The errno of the first failure; 0: none, or none of the system.
@@ -41,7 +40,8 @@ class OutputFile {
     /// Called now and then while the file is written; when it returns false, the write fails.
     void setGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
-    bool write(const void* bytes, std::size_t size);
+    bool write(const void* bytes, std::size_t size) override;
+    bool goesOn() override;
     /// Returns less than size at the end or on an error.
     std::size_t read(void* bytes, std::size_t size);
     /// whence as for lseek.

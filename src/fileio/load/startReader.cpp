@@ -18,7 +18,7 @@ std::vector<std::string> childEnvironment()
 {
     // Qt wants a runtime folder, which it makes where temporary files go: there it can't.
     std::vector<std::string> environment = {"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", "QT_QPA_PLATFORM=offscreen",
-                                            "TMPDIR=/proc/none"};
+                                            "TMPDIR=/proc/none", "OMP_NUM_THREADS=1"};
 #ifdef __SANITIZE_ADDRESS__
     for (const char* name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
         if (const char* value = std::getenv(name)) environment.push_back(std::string(name) + '=' + value);

@@ -1,9 +1,7 @@
 #include "fileio/web/ColorReducer.h"
 #include "engine/cBitFilter.h"
-#include "fileio/FreeImageSaver.h"
-#include "fileio/web/ReducedDib.h"
 #include "fileio/writers/GifWriter.h"
-#include <FreeImage.h>
+#include "fileio/writers/pictureFiles.h"
 #include <algorithm>
 
 namespace velara {
@@ -72,12 +70,10 @@ bool ColorReducer::Reduce()
 
 bool ColorReducer::WriteBitmap(const QString& FileName)
 {
-    const FreeImageStart library;
-    const ReducedDib dib(reduced_);
-    if (!dib.get()) return false;
+    if (reduced_.bitCount == 0) return false;
     OutputFile file(FileName, links);
     file.setGoOn(GoOn);
-    const bool written = saveDib(dib.get(), FIF_BMP, 0, file) && file.commit();
+    const bool written = file.isOpen() && writeBmp(reduced_, file) && file.commit();
     error = file.error();
     return written;
 }

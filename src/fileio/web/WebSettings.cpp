@@ -37,6 +37,10 @@ constexpr WebPreset kPresets[] = {
     {"TGA-24 bit (Compressed)",    16, kMapped,  kBitmapOutput, kTga, kMsMap,               "24 bit"},
     {"TGA-24 bit (Uncompressed)",  24, kMapped,  kBitmapOutput, kTga, kMsMap,               "24 bit"},
     {"TIFF-24 bit (Uncompressed)", 24, kMapped,  kBitmapOutput, kTif, kMsMap,               "24 bit"},
+    {"WebP",                        0, 0,        kBitmapOutput, kWebp, 0,                   "24 bit"},
+    {"WebP (Lossless)",            24, kMapped,  kBitmapOutput, kWebp, kMsMap,              "24 bit"},
+    {"AVIF",                        0, 0,        kBitmapOutput, kAvif, 0,                   "24 bit"},
+    {"JPEG XL",                     0, 0,        kBitmapOutput, kJxl, 0,                    "24 bit"},
 };
 constexpr WebEntry kDithers[] = {
     {"None", 0}, {"Binary", 1}, {"Ordered", 2}, {"Haftone", 4}, {"Forward Diag", 8}, {"Backward Diag", 0x10},
@@ -52,7 +56,8 @@ struct KindRow {
 constexpr KindRow kKinds[] = { // by FileKind
     {"BMP", "Windows Bitmap Format (*.bmp)|*.bmp"}, {"PNG", "Portable Network Graphics (*.png)|*.png"},
     {"TGA", "Targa Format (*.tga)|*.tga"},          {"TIF", "Tagged Image Format (*.tif)|*.tif)"}, // extra bracket: kept
-    {"PCX", "PCX Format (*.pcx)|*.pcx"},
+    {"PCX", "PCX Format (*.pcx)|*.pcx"},            {"WEBP", "WebP (*.webp)|*.webp"},
+    {"AVIF", "AVIF (*.avif)|*.avif"},               {"JXL", "JPEG XL (*.jxl)|*.jxl"},
 };
 // clang-format on
 constexpr KindRow kGif{"GIF", "Graphical Interface Format (*.gif)|*.gif"};

@@ -9,11 +9,11 @@
 namespace velara {
 
 /// The format to which a reduced bitmap is converted.
-enum FileKind { kBmp, kPng, kTga, kTif, kPcx };
+enum FileKind { kBmp, kPng, kTga, kTif, kPcx, kWebp, kAvif, kJxl };
 
 struct WebPreset {
     const char* entry;
-    int bitCount, paletteWord; // bitCount 0: JPEG
+    int bitCount, paletteWord; // bitCount 0: the file has a quality, and no reduction
     int outputKind, fileKind;
     unsigned maps; // bit i: entry i of webMaps()
     const char* depthText;
@@ -36,13 +36,14 @@ constexpr int kGoodQuality = 3; // of webJpegQualities()
 struct WebSettings {
     int preset = 0;
     int OutputKind = kGifOutput, ColorMode = 0, BitCount = 1, PaletteWord = kCounted, DitherWord = 0, FileKind = kBmp;
-    int JpegQuality = 0x100; // a quality class or a percentage, in FreeImage's form
+    int JpegQuality = 0x100; // or of another format: a class or a percentage, as percentOf takes it
     bool flipH = false, flipV = false, invert = false;
     bool takesDither = true;
 
     const WebPreset& row() const { return webPresets()[std::size_t(preset)]; }
-    bool isJpeg() const { return row().bitCount == 0; }
-    bool isGif() const { return !isJpeg() && row().outputKind == kGifOutput; }
+    bool hasQuality() const { return row().bitCount == 0; }
+    bool isJpeg() const { return hasQuality() && row().fileKind == kBmp; }
+    bool isGif() const { return row().outputKind == kGifOutput; }
 
     /// Resets everything to the preset, except flips and inversion.
     void choosePreset(int index, bool interlaced);
@@ -57,13 +58,13 @@ struct WebSettings {
     /// index into webDithers().
     void chooseDither(int index);
     void setInterlaced(bool on);
-    /// Whether the size of the file can be chosen: JPEG by its quality, GIF and 8-bit PNG by colours and dither.
-    bool fitsASize() const { return isJpeg() || isGif() || (FileKind == kPng && row().bitCount == 8); }
+    /// Whether the size of the file can be chosen: by its quality, or of GIF and 8-bit PNG by colours and dither.
+    bool fitsASize() const { return hasQuality() || isGif() || (FileKind == kPng && row().bitCount == 8); }
     /// For GIF and 8-bit PNG: from 256 colours down to 2, each with the dither and without.
     std::vector<WebSettings> bySize() const;
     int transformFlags() const;
 
-    /// "GIF", "BMP", "PNG", "TGA", "TIF", "PCX" or "JPG".
+    /// "GIF", "BMP", "PNG", "TGA", "TIF", "PCX", "WEBP", "AVIF", "JXL" or "JPG".
     QString typeText() const;
     QString depthText() const { return QLatin1String(row().depthText); }
     /// The extension that selects the file's reader.

@@ -1,9 +1,7 @@
 #include "fileio/web/webFile.h"
-#include "fileio/FreeImageSaver.h"
-#include "fileio/web/ReducedDib.h"
 #include "fileio/writers/PCX.h"
+#include "fileio/writers/pictureFiles.h"
 #include "pixels/RuntimeError.h"
-#include <FreeImage.h>
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -37,11 +35,11 @@ class Teller {
     bool stopped_ = false;
 };
 
-bool saveAs(FIBITMAP* dib, int format, int flags, const QString& name, OutputFile::Links links, Teller& teller)
+template <class Write> bool saveAs(const QString& name, OutputFile::Links links, Teller& teller, const Write& write)
 {
     OutputFile file(name, links);
     file.setGoOn(std::ref(teller));
-    const bool written = saveDib(dib, format, flags, file) && file.commit();
+    const bool written = file.isOpen() && write(file) && file.commit();
     teller.error = file.error();
     return written;
 }
@@ -51,19 +49,34 @@ Outcome outcomeOf(bool written, const Teller& teller)
     return written ? Outcome::Written : teller.stopped() ? Outcome::Stopped : Outcome::Failed;
 }
 
-Outcome writeJpeg(const Bits& picture, int quality, const QString& name, OutputFile::Links links, Teller& teller)
+bool writePngKind(const ReducedPicture& reduced, OutputFile& file)
 {
-    const FreeImageStart library;
-    const Dib24 dib(picture);
-    return outcomeOf(dib.get() && saveAs(dib.get(), FIF_JPEG, quality, name, links, teller), teller);
+    return reduced.bitCount <= 8 ? writePng(reduced.indexed, kBestEffort, file)
+                                 : writePng(reduced.full, kBestEffort, file);
 }
+
+/// The formats that have a quality.
+bool writeOfQuality(const Bits& picture, const WebSettings& settings, ByteSink& to)
+{
+    const int percent = percentOf(settings.JpegQuality);
+    switch (settings.FileKind) {
+    case kWebp:
+        return writeWebp(picture, {percent}, to);
+    case kAvif:
+        return writeAvif(picture, percent, to);
+    case kJxl:
+        return writeJxl(picture, percent, to);
+    default:
+        return writeJpeg(picture, settings.JpegQuality, to);
+    }
+}
+
+constexpr WebpForm kLosslessWebp{75, true};
 
 /// Targa and TIFF always get 24 bits.
 Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& name, OutputFile::Links links,
                         Teller& teller)
 {
-    static constexpr int kFormats[] = {FIF_BMP, FIF_PNG, FIF_TARGA, FIF_TIFF};
-    static constexpr int kFlags[] = {0, PNG_Z_BEST_COMPRESSION, 0, 0};
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
         PCX pcx;
@@ -71,11 +84,21 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
         teller.error = pcx.error;
         return outcomeOf(written, teller);
     }
-    const FreeImageStart library;
-    const bool inFull = kind == kTga || kind == kTif;
-    const ReducedDib dib(inFull ? ReducedPicture{24, {}, pictureOf(reduced)} : reduced);
-    if (!dib.get()) return Outcome::NoBitmap;
-    return outcomeOf(saveAs(dib.get(), kFormats[kind], kFlags[kind], name, links, teller), teller);
+    const auto write = [&](OutputFile& file) {
+        switch (kind) {
+        case kPng:
+            return writePngKind(reduced, file);
+        case kTga:
+            return writeTga(pictureOf(reduced), file);
+        case kTif:
+            return writeTiff(pictureOf(reduced), file);
+        case kWebp:
+            return writeWebp(reduced.full, kLosslessWebp, file);
+        default:
+            return writeBmp(reduced, file);
+        }
+    };
+    return outcomeOf(saveAs(name, links, teller, write), teller);
 }
 
 Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& picture, const QString& name,
@@ -110,8 +133,11 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     Teller teller(progress);
     try {
         if (picture.isNull()) return file;
-        if (settings.isJpeg()) {
-            file.outcome = writeJpeg(picture, settings.JpegQuality, name, links, teller);
+        if (settings.FileKind == kWebp && !fitsWebp(picture)) {
+            file.outcome = Outcome::NoBitmap;
+        } else if (settings.hasQuality()) {
+            const auto write = [&](OutputFile& to) { return writeOfQuality(picture, settings, to); };
+            file.outcome = outcomeOf(saveAs(name, links, teller, write), teller);
         } else {
             ColorReducer reducer;
             reducer.Progress = progress;
@@ -124,7 +150,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
     } catch (const Cancelled&) {
         file.outcome = Outcome::Stopped;
     } catch (const std::bad_alloc&) {
-        file.outcome = settings.OutputKind == kBitmapOutput && !settings.isJpeg() ? Outcome::NoBitmap : Outcome::Failed;
+        file.outcome =
+            settings.OutputKind == kBitmapOutput && !settings.hasQuality() ? Outcome::NoBitmap : Outcome::Failed;
     }
     if (file.outcome == Outcome::Failed && teller.error != 0) file.reason = qt_error_string(teller.error);
     if (file.outcome == Outcome::Written) file.bytes = QFileInfo(name).size();
@@ -133,14 +160,14 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
 
 namespace {
 
-std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, const ReduceProgress& progress)
+std::optional<int> bestQuality(const Bits& picture, WebSettings settings, std::int64_t mostBytes,
+                               const ReduceProgress& progress)
 {
-    const FreeImageStart library;
-    const Dib24 dib(picture);
     Teller teller(progress);
     const auto fits = [&](int quality) {
-        const auto bytes = teller() ? savedBytes(dib.get(), FIF_JPEG, quality, std::ref(teller)) : std::nullopt;
-        return bytes && *bytes <= mostBytes;
+        ByteCounter counter(std::ref(teller));
+        settings.JpegQuality = quality;
+        return teller() && writeOfQuality(picture, settings, counter) && counter.bytes <= mostBytes;
     };
     int good = 0, bad = 101;
     while (bad - good > 1) {
@@ -157,8 +184,8 @@ std::optional<int> bestJpegQuality(const Bits& picture, std::int64_t mostBytes, 
 std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
                                           const QString& scratch, const ReduceProgress& progress, BestPalettes* known)
 {
-    if (settings.isJpeg()) {
-        const auto quality = bestJpegQuality(picture, mostBytes, progress);
+    if (settings.hasQuality()) {
+        const auto quality = bestQuality(picture, settings, mostBytes, progress);
         if (!quality) return {};
         WebSettings best = settings;
         best.JpegQuality = *quality;

@@ -26,8 +26,8 @@ WebFile writeWebFile(const Bits& picture, const WebSettings& settings, const QSt
                      const ReduceProgress& progress = {}, BestPalettes* known = nullptr);
 
 /// The settings nearest to the given ones, of those that fitsASize(), whose file has at most the given bytes: the best
-/// quality, 1 to 100, of a JPEG; otherwise the most colours, with the dither where that fits. Nothing when none has, or
-/// when progress threw Cancelled. Leaves a file of the name scratch.
+/// quality, 1 to 100, of a format that has one; otherwise the most colours, with the dither where that fits. Nothing
+/// when none has, or when progress threw Cancelled. Leaves a file of the name scratch.
 std::optional<WebSettings> fittedSettings(const Bits& picture, const WebSettings& settings, std::int64_t mostBytes,
                                           const QString& scratch, const ReduceProgress& progress = {},
                                           BestPalettes* known = nullptr);

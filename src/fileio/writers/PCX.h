@@ -1,4 +1,4 @@
-// Writes 24-bit ZSoft PCX files. They are read by FreeImage, not here.
+// Writes 24-bit ZSoft PCX files. They are read in the child, not here.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>

@@ -82,8 +82,8 @@ void FWeb::presetChosen(int index)
 {
     if (index < 0) return;
     settings_.choosePreset(index, ChkInterlaced_->isChecked());
-    fgif_->setVisible(!settings_.isJpeg());
-    Fjpg_->setVisible(settings_.isJpeg());
+    fgif_->setVisible(!settings_.hasQuality());
+    Fjpg_->setVisible(settings_.hasQuality());
     FrmFit_->setVisible(settings_.fitsASize());
     ChkInterlaced_->setVisible(settings_.isGif());
     for (QWidget* widget : std::initializer_list<QWidget*>{FrmAPI_, cboColorMode_, CmdSave_}) widget->setEnabled(true);
@@ -95,7 +95,7 @@ void FWeb::presetChosen(int index)
     cboMap_->setCurrentIndex(cboMap_->findData(settings_.map()));
     setQuietly(cboDither_, 0);
     setQuietly(cboColorMode_, 0);
-    if (!settings_.isJpeg()) return changed();
+    if (!settings_.hasQuality()) return changed();
     setQuietly(cboJpg_, kGoodQuality);
     qualityChosen(webJpegQualities()[kGoodQuality].word);
 }
@@ -160,7 +160,7 @@ void FWeb::recall()
     for (QComboBox* list : {cboMap_, cboDither_, cboColorMode_})
         if (const int entry = list->findText(parts[++i]); entry >= 0 && list->isEnabled()) list->setCurrentIndex(entry);
     fit_->setValue(parts[6].toInt());
-    if (!settings_.isJpeg()) return;
+    if (!settings_.hasQuality()) return;
     const int quality = std::clamp(parts[4].toInt(), 0, kMostQuality);
     const auto isIt = [quality](const WebEntry& entry) { return entry.word == quality; };
     const auto known = std::ranges::find_if(webJpegQualities(), isIt) - webJpegQualities().begin();
@@ -341,8 +341,8 @@ void FWeb::fitted(const std::optional<WebSettings>& settings)
         adopt(*settings);
     } else {
         next_ = Work::Preview; // a file that is too large isn't what was to be saved
-        note_ = (settings_.isJpeg() ? tr("No quality makes it as small as %1 KB.")
-                                    : tr("No number of colors makes it as small as %1 KB."))
+        note_ = (settings_.hasQuality() ? tr("No quality makes it as small as %1 KB.")
+                                        : tr("No number of colors makes it as small as %1 KB."))
                     .arg(fit_->value());
         say(note_);
     }
@@ -351,7 +351,7 @@ void FWeb::fitted(const std::optional<WebSettings>& settings)
 
 void FWeb::adopt(const WebSettings& settings)
 {
-    if (settings.isJpeg()) {
+    if (settings.hasQuality()) {
         TxtJPG_->setText(QString::number(settings.JpegQuality));
         return customQuality();
     }

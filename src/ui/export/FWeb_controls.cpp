@@ -65,7 +65,7 @@ QWidget* FWeb::makeChoices()
     CboFiles_ = list("CboFiles", tr("File format"), webPresets());
     CboFiles_->setCurrentIndex(-1);
     CboFiles_->setPlaceholderText(tr("Choose a format"));
-    CboFiles_->setMaxVisibleItems(21);
+    CboFiles_->setMaxVisibleItems(int(webPresets().size()));
     FrmAPI_ = named(new QGroupBox(tr("Settings")), "FrmAPI", tr("Settings"));
     FrmAPI_->setEnabled(false);
     auto* frames = new QVBoxLayout(FrmAPI_);

@@ -52,7 +52,7 @@ CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
     close(Capabilities, [] { return done(dropCapabilities()); });
     close(Landlock, [] { return closePaths({}, Ports::Shut); });
 #ifndef __SANITIZE_ADDRESS__ // the sanitizers inspect memory through pipes and report into files
-    if (needs == Needs::Drawing) startTheOneThread();
+    if (include(needs, Needs::Drawing)) startTheOneThread();
     close(Limits, [&] { return done(limitResources(needs, memory)); });
     close(Seccomp, [&] { return done(filterSystemCalls(needs)); });
 #endif

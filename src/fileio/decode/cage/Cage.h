@@ -5,9 +5,11 @@
 
 namespace velara::decode {
 
-/// What a reader still needs inside: nothing; the system's fonts, which are opened beforehand; or these and the one
-/// thread that drawing uses.
-enum class Needs { Nothing, Fonts, Drawing };
+/// What a reader still needs inside: nothing; the system's fonts, which are opened beforehand; these and the one thread
+/// that drawing uses; or not to learn of several processors, for a library that would start a thread for each.
+enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4 };
+constexpr Needs operator|(Needs a, Needs b) { return Needs(unsigned(a) | unsigned(b)); }
+constexpr bool include(Needs all, Needs part) { return (unsigned(all) & unsigned(part)) == unsigned(part); }
 
 /// The layers; each works without the others.
 enum CageLayer : unsigned {

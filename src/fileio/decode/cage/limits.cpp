@@ -56,7 +56,7 @@ bool limitResources(Needs needs, unsigned long long memory)
     if (next >= 0) close(next);
     constexpr int kFontsAtATime = 16;
     const auto descriptors =
-        needs == Needs::Nothing ? 0 : static_cast<rlim_t>(std::max(next, highestFont() + 1) + kFontsAtATime);
+        include(needs, Needs::Fonts) ? static_cast<rlim_t>(std::max(next, highestFont() + 1) + kFontsAtATime) : 0;
     return limit(RLIMIT_AS, memory) && limit(RLIMIT_CPU, kMostProcessorTime) && limit(RLIMIT_CORE, 0) &&
            limit(RLIMIT_FSIZE, 0) && limit(RLIMIT_NOFILE, descriptors) && limit(RLIMIT_NPROC, 0);
 }

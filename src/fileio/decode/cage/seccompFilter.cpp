@@ -15,7 +15,7 @@ namespace {
 /// Memory, clocks, and the C library's own needs.
 constexpr int kAlways[] = {
     SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(sysinfo), SCMP_SYS(sched_yield),
-    SCMP_SYS(sched_getaffinity), SCMP_SYS(getrandom), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
+    SCMP_SYS(getrandom), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
     SCMP_SYS(nanosleep), SCMP_SYS(clock_nanosleep), SCMP_SYS(rt_sigreturn), SCMP_SYS(restart_syscall),
     SCMP_SYS(exit), SCMP_SYS(exit_group),
 };
@@ -94,7 +94,9 @@ bool filterSystemCalls(Needs needs)
     bool ok = seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 && allowPlainMemory(filter.get()) &&
               allowTalk(filter.get()) && allowWords(filter.get());
     for (const int call : kAlways) ok &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0) == 0;
-    if (needs != Needs::Nothing) ok &= allowFonts(filter.get());
+    if (include(needs, Needs::Fonts)) ok &= allowFonts(filter.get());
+    const unsigned processors = include(needs, Needs::Solitude) ? SCMP_ACT_ERRNO(EPERM) : SCMP_ACT_ALLOW;
+    ok &= seccomp_rule_add(filter.get(), processors, SCMP_SYS(sched_getaffinity), 0) == 0;
     return ok && seccomp_load(filter.get()) == 0;
 }
 

@@ -1,0 +1,94 @@
+// TIFF by libtiff.
+#include "fileio/writers/iptcResource.h"
+#include "fileio/writers/packRows.h"
+#include "fileio/writers/pictureFiles.h"
+#include <memory>
+#include <tiffio.h>
+
+namespace velara {
+
+namespace {
+
+constexpr std::size_t kStrip = 64 << 10; // bytes before compression, at least one row
+
+OutputFile& fileOf(thandle_t handle) { return *static_cast<OutputFile*>(handle); }
+
+struct Close {
+    void operator()(TIFF* tiff) const { TIFFClose(tiff); }
+    void operator()(TIFFOpenOptions* options) const { TIFFOpenOptionsFree(options); }
+};
+
+std::unique_ptr<TIFF, Close> opened(OutputFile& to)
+{
+    const std::unique_ptr<TIFFOpenOptions, Close> options(TIFFOpenOptionsAlloc());
+    if (!options) return nullptr;
+    const TIFFErrorHandlerExtR silent = [](TIFF*, void*, const char*, const char*, va_list) { return 1; };
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), silent, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), silent, nullptr);
+    const auto read = [](thandle_t handle, void* bytes, tmsize_t size) {
+        return static_cast<tmsize_t>(fileOf(handle).read(bytes, static_cast<std::size_t>(size)));
+    };
+    const auto write = [](thandle_t handle, void* bytes, tmsize_t size) -> tmsize_t {
+        return fileOf(handle).write(bytes, static_cast<std::size_t>(size)) ? size : 0;
+    };
+    const auto seek = [](thandle_t handle, toff_t offset, int whence) -> toff_t {
+        OutputFile& file = fileOf(handle);
+        return file.seek(static_cast<std::int64_t>(offset), whence) ? static_cast<toff_t>(file.tell()) : toff_t(-1);
+    };
+    const auto size = [](thandle_t handle) -> toff_t {
+        OutputFile& file = fileOf(handle);
+        const std::int64_t at = file.tell();
+        const std::int64_t end = file.seek(0, SEEK_END) ? file.tell() : 0;
+        file.seek(at, SEEK_SET);
+        return static_cast<toff_t>(end);
+    };
+    return std::unique_ptr<TIFF, Close>(TIFFClientOpenExt(
+        "", "w", &to, read, write, seek, [](thandle_t) { return 0; }, size, nullptr, nullptr, options.get()));
+}
+
+void setUp(TIFF* tiff, const Bits& picture, int rowsAStrip, const CameraData& camera)
+{
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, picture.width());
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, picture.height());
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 3);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
+    TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_LZW);
+    TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
+    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, rowsAStrip);
+    TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+    TIFFSetField(tiff, TIFFTAG_XRESOLUTION, camera.dotsAcross > 0 ? camera.dotsAcross : kUsualDots);
+    TIFFSetField(tiff, TIFFTAG_YRESOLUTION, camera.dotsDown > 0 ? camera.dotsDown : kUsualDots);
+    const auto bytes = [&](std::uint32_t tag, const QByteArray& of) {
+        if (!of.isEmpty()) TIFFSetField(tiff, tag, static_cast<std::uint32_t>(of.size()), of.constData());
+    };
+    bytes(TIFFTAG_XMLPACKET, camera.xmp);
+    bytes(TIFFTAG_PHOTOSHOP, iptcResource(camera.iptc));
+    if (!camera.comment.isEmpty()) TIFFSetField(tiff, TIFFTAG_IMAGEDESCRIPTION, camera.comment.toUtf8().constData());
+}
+
+} // namespace
+
+bool writeTiff(const Bits& picture, OutputFile& to, const CameraData& camera)
+{
+    const int width = picture.width(), height = picture.height();
+    const std::size_t bytes = std::size_t(width) * 3;
+    const int together = static_cast<int>(std::clamp<std::size_t>(kStrip / bytes, 1, std::size_t(height)));
+    std::vector<std::uint8_t> strip(bytes * std::size_t(together));
+    const auto tiff = opened(to);
+    if (!tiff) return false;
+    setUp(tiff.get(), picture, together, camera);
+    std::uint32_t number = 0;
+    for (int y = 0; y < height; y += together) {
+        const int rows = std::min(together, height - y);
+        for (int i = 0; i < rows; ++i)
+            packRow24(picture.row(y + i), strip.data() + bytes * std::size_t(i), width, Order::RedFirst);
+        const auto size = static_cast<tmsize_t>(bytes * std::size_t(rows));
+        if (!to.goesOn() || TIFFWriteEncodedStrip(tiff.get(), number++, strip.data(), size) != size) return false;
+    }
+    return TIFFWriteDirectory(tiff.get()) == 1;
+}
+
+} // namespace velara
