@@ -140,8 +140,8 @@ inline constexpr Kinds kSaved[] = {
 struct OtherName {
     std::string_view extension, usual;
 };
-inline constexpr OtherName kOtherNames[] = {
-    {"jpeg", "jpg"}, {"jpe", "jpg"}, {"jfif", "jpg"}, {"tiff", "tif"}, {"heif", "heic"}, {"svgz", "svg"}}; // and dialogs list them with it
+inline constexpr OtherName kOtherNames[] = {{"jpeg", "jpg"},  {"jpe", "jpg"}, {"jfif", "jpg"}, {"tiff", "tif"},
+                                            {"heif", "heic"}, {"svgz", "svg"}}; // and dialogs list them with it
 
 /// The extension, in lower case, of the format's row.
 constexpr std::string_view usualExtension(std::string_view extension)

@@ -3,10 +3,11 @@
 //   velara-decode EXTENSION, with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4 and the
 //   picture file, open for reading, at descriptor 5
 //
-// The child may send a claim: the size and depth given by the header. Then it sends an Opening: size, or the reason why
-// the file can't be read. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and
-// sends the number of the first row of each. The parent copies the rows and returns every slot with one byte. So the
-// picture is never in memory twice, and the shared memory stays in the cache.
+// The child may send a claim: the size and depth given by the header, and another when the reader of the extension
+// leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
+// Then it fills the slots of the shared memory in turn, each with as many rows as fit, and sends the number of the
+// first row of each. The parent copies the rows and returns every slot with one byte. So the picture is never in memory
+// twice, and the shared memory stays in the cache.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"

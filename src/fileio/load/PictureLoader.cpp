@@ -4,10 +4,12 @@
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/Shrinker.h"
+#include "fileio/marks.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
+#include <array>
 #include <bit>
 #include <csignal>
 #include <cstring>
@@ -141,7 +143,8 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
 {
     decode::Opening opening;
     Wait wait = child.receive(&opening, sizeof opening);
-    if (wait == Wait::Message && opening.magic == decode::kClaim) {
+    constexpr int kReaders = 2; // by the name and by the mark
+    for (int i = 0; i < kReaders && wait == Wait::Message && opening.magic == decode::kClaim; ++i) {
         if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
         const std::int64_t pixels = std::int64_t{opening.width} * opening.height;
         child.claim(std::min(pixels, capacity.pixels(opening.bits)));
@@ -158,6 +161,18 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
     return ending;
 }
 
+/// The bound of the format by its name or of that by its mark, whichever is wider.
+Capacity capacityOf(const Descriptor& file, const QString& format, std::int64_t size)
+{
+    std::array<std::uint8_t, kMarkedBytes> head{};
+    const ssize_t got = pread(file.get(), head.data(), head.size(), 0);
+    const std::string_view mark = markOf(std::span(head).first(static_cast<std::size_t>(std::max<ssize_t>(got, 0))));
+    const Capacity byName(format, size);
+    if (mark.empty()) return byName;
+    const Capacity byMark(QLatin1String(mark), size);
+    return byMark.pixels(1) > byName.pixels(1) ? byMark : byName;
+}
+
 Ending load(const Descriptor& file, const QString& extension, const QString& decoder, const DecoderLimits& limits,
             const GoOn& goOn, const Begin& begin)
 try {
@@ -167,7 +182,7 @@ try {
     const QString format = extension.toLower();
     DecoderProcess child(decoder, file, format, limits, goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
-    return receivePicture(child, Capacity(format, size), begin);
+    return receivePicture(child, capacityOf(file, format, size), begin);
 } catch (const NotEnoughMemory& refusal) {
     return {false, refusal.what()};
 } catch (const std::bad_alloc&) {
