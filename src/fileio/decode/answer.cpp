@@ -96,11 +96,11 @@ void answer(const QString& extension, const QStringList& wishes)
     if (memory == MAP_FAILED) return;
     sizeFound = claimSize;
     tellOurFaultsFromTheLibraries();
-    const Needs needs = prepareReader(extension);
     FileBytes file(kPicture);
     close(kPicture);
+    const Needs needs = prepareReaders(extension, file.bytes());
     if (include(needs, Needs::Fonts)) handOverFonts();
-    const CageState cage = enterCage(needs); // nothing of the file has been read yet
+    const CageState cage = enterCage(needs); // nothing of the file has been looked at yet but its mark
     const Decoded picture =
         cage.open
             ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))

@@ -4,7 +4,7 @@
 #include "fileio/decode/facts/upright.h"
 #include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
-#include "fileio/formats.h"
+#include "fileio/marks.h"
 #ifdef VELARA_FREEIMAGE
 #include <FreeImage.h>
 #endif
@@ -103,25 +103,54 @@ static_assert(std::ranges::all_of(kReaders,
 void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
 int wantedPage = 0;
 
-Needs prepareReader(const QString& extension)
+Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes)
 {
     prepareColours();
-    const Reader* reader = readerOf(extension.toStdString());
-    return reader ? reader->prepare() : Needs::Nothing;
+    const Reader *reader = readerOf(extension.toStdString()), *other = readerOf(markOf(bytes));
+    const Needs needs = reader ? reader->prepare() : Needs::Nothing;
+    return other && other != reader ? needs | other->prepare() : needs;
 }
+
+namespace {
+
+QString kindOf(const Reader& reader) { return QLatin1String(findFormat(reader.extension)->name); }
+
+Decoded readBy(const Reader& reader, FileBytes& file)
+{
+    if (!reader.read) return refused(QString("this build lacks the library that reads %1 picture").arg(kindOf(reader)));
+    Decoded decoded = reader.read(file);
+    if (!decoded.ok() && decoded.reason.isEmpty())
+        decoded.reason = QString("it is damaged or not %1 picture").arg(kindOf(reader));
+    return decoded;
+}
+
+/// Nothing when the file bears no mark of another reader or isn't what its mark says.
+Decoded readByMark(FileBytes& file, const Reader* first, std::string_view mark)
+{
+    const Reader* reader = readerOf(mark);
+    return reader && reader->read && !(first && reader->read == first->read) ? reader->read(file) : Decoded{};
+}
+
+Decoded readByNameOrMark(FileBytes& file, const QString& extension)
+{
+    const Reader* reader = readerOf(extension.toStdString());
+    if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
+    if (file.size() == 0 && reader) return refused("it is empty or can't be opened");
+    const std::string_view mark = markOf(file.bytes()); // a reader may mend the bytes
+    Decoded decoded = reader                ? readBy(*reader, file)
+                      : extension.isEmpty() ? refused("its name has no extension to tell what it is")
+                                            : refused(QString("there is no reader for .%1 files").arg(extension));
+    if (decoded.ok()) return decoded;
+    Decoded other = readByMark(file, reader, mark);
+    return other.ok() ? other : decoded;
+}
+
+} // namespace
 
 Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted)
 try {
-    const Reader* reader = readerOf(extension.toStdString());
-    if (extension.isEmpty()) return refused("its name has no extension to tell what it is");
-    if (!reader) return refused(QString("there is no reader for .%1 files").arg(extension));
-    if (file.size() == 0) return refused("it is empty or can't be opened");
-    if (file.size() > (std::size_t{1} << 31) - 1) return refused("it has more than two gigabytes");
-    const QLatin1String name(findFormat(reader->extension)->name);
-    if (!reader->read) return refused(QString("this build lacks the library that reads %1 picture").arg(name));
-    Decoded decoded = reader->read(file);
-    if (!decoded.ok() && decoded.reason.isEmpty())
-        decoded.reason = QString("it is damaged or not %1 picture").arg(name);
+    Decoded decoded = readByNameOrMark(file, extension);
+    if (!decoded.ok()) return decoded;
     if (wanted.facts) decoded.properties = propertiesOf(decoded);
     if (wanted.srgb) convertToSrgb(decoded);
     decoded = upright(std::move(decoded));

@@ -58,15 +58,16 @@ struct Decoded {
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
 
 /// Called by readers with the size given by the header and the bits per pixel (0: unknown), before the pixels are read;
-/// at most once per picture.
+/// at most once per reader.
 extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 
-/// The page or frame that is read, from 0; decodePicture sets it. A reader of a format that has pages looks at it, and
-/// refuses those beyond the last with kNoSuchPage.
+/// The page or frame that is read, from 0; set before decodePicture. A reader of a format that has pages looks at it,
+/// and refuses those beyond the last with kNoSuchPage.
 extern int wantedPage;
 
-/// Loads what the reader of the extension (lower case, no dot) needs from the disk, before the cage closes.
-Needs prepareReader(const QString& extension);
+/// Loads what the readers of the extension (lower case, no dot) and of the mark that the bytes bear need from the disk,
+/// before the cage closes. The bytes are only compared with the marks.
+Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes);
 
 /// What the one who asks for a picture wants of it.
 struct Wanted {
@@ -74,8 +75,8 @@ struct Wanted {
     bool facts = true; // camera and properties
 };
 
-/// The reader is chosen by the extension, never by the contents. Empty bytes: the file can't be opened. The picture is
-/// upright.
+/// The reader is chosen by the extension. One that finds no picture, or none for the extension, leaves the file to the
+/// reader of the mark that it bears. Empty bytes: the file can't be opened. The picture is upright.
 Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted = {});
 
 } // namespace velara::decode

@@ -5,11 +5,12 @@
 //
 // A wish is "stored" (colours as the file has them, not sRGB) or "bare" (nothing beside the pixels).
 //
-// The child may send a claim: the size and depth given by the header. Then it sends an Opening: size, or the reason why
-// the file can't be read. Then come the parts that it announces, one after the other, in messages of kPartMessage bytes
-// but for the last of each part. Then it fills the slots of the shared memory in turn, each with as many rows as fit,
-// and sends the number of the first row of each. The parent copies the rows and returns every slot with one byte. So
-// the picture is never in memory twice, and the shared memory stays in the cache.
+// The child may send a claim: the size and depth given by the header, and another when the reader of the extension
+// leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
+// Then come the parts that it announces, one after the other, in messages of kPartMessage bytes but for the last of
+// each part. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and sends the number
+// of the first row of each. The parent copies the rows and returns every slot with one byte. So the picture is never in
+// memory twice, and the shared memory stays in the cache.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"

@@ -6,6 +6,7 @@
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/ReadPolicy.h"
 #include "fileio/load/Shrinker.h"
+#include "fileio/marks.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/printable.h"
 #include <QFile>
@@ -164,7 +165,8 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
     decode::Opening opening;
     int bits = 0;
     Wait wait = child.receive(&opening, sizeof opening);
-    if (wait == Wait::Message && opening.magic == decode::kClaim) {
+    constexpr int kReaders = 2; // by the name and by the mark
+    for (int i = 0; i < kReaders && wait == Wait::Message && opening.magic == decode::kClaim; ++i) {
         if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
         const std::int64_t pixels = std::int64_t{opening.width} * opening.height;
         child.claim(std::min(pixels, capacity.pixels(opening.bits)));
@@ -202,6 +204,23 @@ DecoderLimits limitsWithin(DecoderLimits limits, const ReadPolicy& policy)
     return limits;
 }
 
+/// The extension of the mark that the file bears; empty when it bears none.
+QString markedFormat(const Descriptor& file)
+{
+    std::array<std::uint8_t, kMarkedBytes> head{};
+    const ssize_t got = pread(file.get(), head.data(), head.size(), 0);
+    return QLatin1String(markOf(std::span(head).first(static_cast<std::size_t>(std::max<ssize_t>(got, 0)))));
+}
+
+/// The bound of the format by its name or of that by its mark, whichever is wider.
+Capacity capacityOf(const QString& format, const QString& mark, std::int64_t size)
+{
+    const Capacity byName(format, size);
+    if (mark.isEmpty()) return byName;
+    const Capacity byMark(mark, size);
+    return byMark.pixels(1) > byName.pixels(1) ? byMark : byName;
+}
+
 std::atomic<bool> inSrgb{true};
 
 Ending load(const Descriptor& file, const QString& extension, const QString& decoder, QStringList wishes,
@@ -211,11 +230,13 @@ try {
     if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
     if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
     const QString format = extension.toLower();
-    if (isOff(format)) return {false, QString("limits.conf has turned .%1 files off").arg(format)};
+    const QString mark = markedFormat(file);
+    for (const QString& each : {format, mark})
+        if (isOff(each)) return {false, QString("limits.conf has turned .%1 files off").arg(each)};
     if (!inSrgb) wishes << decode::kStoredWish;
     DecoderProcess child(decoder, file, format, wishes, limitsWithin(limits, readPolicy()), goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
-    return receivePicture(child, Capacity(format, size), begin);
+    return receivePicture(child, capacityOf(format, mark, size), begin);
 } catch (const NotEnoughMemory& refusal) {
     return {false, refusal.what()};
 } catch (const std::bad_alloc&) {

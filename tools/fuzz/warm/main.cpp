@@ -58,7 +58,8 @@ Order receive()
 int main()
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    for (const char* extension : {"gif", "ico"}) prepareReader(extension); // readers of metafiles may start threads
+    for (const char* extension : {"gif", "ico"})
+        prepareReaders(extension, {}); // readers of metafiles may start threads
     for (Order order = receive(); !order.extension.isEmpty(); order = receive()) {
         const auto pid = static_cast<pid_t>(syscall(SYS_clone, CLONE_PARENT | SIGCHLD, 0, 0, 0, 0));
         if (pid == 0) read(order);

@@ -75,7 +75,9 @@ Decoded readFrame(const WebPData& data, int width, int height, Carried carried)
     const Animation animation(WebPAnimDecoderNew(&data, &options), WebPAnimDecoderDelete);
     std::uint8_t* canvas = nullptr;
     int when = 0;
-    if (!animation || !WebPAnimDecoderGetNext(animation.get(), &canvas, &when)) return {};
+    if (!animation) return {};
+    for (int i = 0; i <= wantedPage; ++i)
+        if (!WebPAnimDecoderGetNext(animation.get(), &canvas, &when)) return i == 0 ? Decoded{} : refused(kNoSuchPage);
     return pixelsOf({animation, canvas}, width, height, std::move(carried));
 }
 

@@ -170,12 +170,12 @@ Decoded tryIt(const FileBytes& file)
 
 } // namespace
 
-Needs prepareReader(const QString& extension)
+Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes)
 {
     if (extension == "nofilter") {
         enterCage(Needs::Drawing, kAllLayers & ~Seccomp);
         Opening opening{kMagic, 0, 0, {}};
-        const QByteArray reason = tryIt(FileBytes(kPicture)).reason.toUtf8();
+        const QByteArray reason = tryIt(FileBytes(std::vector(bytes.begin(), bytes.end()))).reason.toUtf8();
         std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
         send(kSocket, &opening, sizeof opening, MSG_NOSIGNAL);
         _exit(1);
