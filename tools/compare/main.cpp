@@ -227,7 +227,7 @@ int main(int count, char** words)
         std::fprintf(stderr, "velara-compare [--runs N] [--seed S] [--list N] [--keep FOLDER] FILE|FOLDER ...\n");
         return 2;
     }
-    for (const auto& [extension, list] : samples) decode::prepareReader(extension);
+    for (const auto& [extension, list] : samples) decode::prepareReaders(extension, {});
     Comparer comparer;
     Table table(options);
     if (options.runs)
