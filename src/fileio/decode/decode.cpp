@@ -11,7 +11,7 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
-Decoded readJpeg(FileBytes&file), readPng(FileBytes&file);
+Decoded readJpeg(FileBytes&file), readPng(FileBytes&file), readTiff(FileBytes&file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf();
 
@@ -74,7 +74,7 @@ constexpr Reader kReaders[] = {
     {"psd",   byFreeImage<FIF_PSD>},
     {"ras",   byFreeImage<FIF_RAS, mendRas>},
     {"tga",   byFreeImage<FIF_TARGA>},
-    {"tif",   byFreeImage<FIF_TIFF>},
+    {"tif",   readTiff},
     {"wbmp",  byFreeImage<FIF_WBMP>},
     {"pbm",   byFreeImage<FIF_PPM, mendPnm>},
     {"pgm",   byFreeImage<FIF_PPM, mendPnm>},
