@@ -99,9 +99,12 @@ template <class Sample> Convert measuredOf(const FileBytes& file, const TiffKind
         high = 255;
         low = 0;
     }
-    const double scale = 255 / static_cast<double>(high - low);
+    using Fraction = std::conditional_t<sizeof(Sample) == 2, float, Sample>;
+    using Wide = std::conditional_t<std::is_integral_v<Sample>, std::int64_t, Fraction>; // differences fit
+    const Wide from = low;
+    const double scale = 255 / static_cast<double>(high - from);
     return coloursOf<Sample>(kind, [=](Sample value) {
-        const double shown = scale * static_cast<double>(value - low) + 0.5;
+        const double shown = scale * static_cast<double>(value - from) + 0.5;
         return static_cast<std::uint8_t>(shown > 0 ? std::min(shown, 255.0) : 0);
     });
 }
@@ -162,7 +165,9 @@ Convert converterOf(const FileBytes& file, const Tiff& tiff, const TiffKind& kin
         return kind.photometric == PHOTOMETRIC_SEPARATED && kind.samples > 3 ? inksOf(kind)
                                                                              : coloursOf<std::uint16_t>(kind, highByte);
     if (kind.bits == 32 && isFloat && kind.samples >= 3) return coloursOf<float>(kind, lightByte);
+    if (kind.bits == 16 && isFloat && kind.samples >= 3) return coloursOf<_Float16>(kind, lightByte);
     if (kind.samples > 1) return {};
+    if (kind.bits == 16 && isFloat) return measuredOf<_Float16>(file, kind);
     if (kind.bits == 16 && isSigned) return measuredOf<std::int16_t>(file, kind);
     if (kind.bits == 32 && isFloat) return measuredOf<float>(file, kind);
     if (kind.bits == 32) return isSigned ? measuredOf<std::int32_t>(file, kind) : measuredOf<std::uint32_t>(file, kind);
