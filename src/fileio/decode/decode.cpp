@@ -16,7 +16,7 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
-Decoded readJpeg(FileBytes&file), readPng(FileBytes&file);
+Decoded readJpeg(FileBytes&file), readPng(FileBytes&file), readTiff(FileBytes&file);
 Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&file), readSvg(FileBytes&file);
 Decoded readRaw(FileBytes& file);
 // What they load from the disk before the cage closes.
@@ -27,7 +27,7 @@ namespace {
 #ifdef VELARA_FREEIMAGE
 template <int fif> Decoded byFreeImage(FileBytes& file) { return readByFreeImage(file, fif); }
 #else
-enum : int { FIF_MNG, FIF_PCD, FIF_PSD, FIF_TIFF };
+enum : int { FIF_MNG, FIF_PCD, FIF_PSD };
 template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
 #endif
 
@@ -60,7 +60,7 @@ constexpr Reader kReaders[] = {
     {"psd",   byFreeImage<FIF_PSD>},
     {"ras",   readRas},
     {"tga",   readTga},
-    {"tif",   byFreeImage<FIF_TIFF>},
+    {"tif",   readTiff},
     {"wbmp",  readWbmp},
     {"pbm",   readPnm},
     {"pgm",   readPnm},

@@ -1,0 +1,54 @@
+// The rows of a TIFF as the file has them or as the library colours them, from the top downwards.
+#pragma once
+#include "fileio/decode/libraries/Tiff.h"
+
+namespace velara::decode {
+
+/// What a TIFF says of its pixels.
+struct TiffKind {
+    explicit TiffKind(const Tiff& tiff);
+
+    std::uint32_t width = 0, height = 0;
+    std::uint16_t bits, samples, photometric, planes, format;
+    bool isTiled;
+};
+
+/// Lines of samples, side by side in each pixel, whole bytes or bits in a byte; 16 and more are in the machine's order.
+/// Strips that are damaged give what could be read; a damaged tile throws Damage.
+class TiffLines {
+  public:
+    explicit TiffLines(const FileBytes& file);
+    const TiffKind& kind() const { return kind_; }
+    const std::uint8_t* next();
+    void skip() { next(); }
+
+  private:
+    void readStrip(std::uint32_t plane);
+    void readTiles(std::uint32_t plane);
+
+    Tiff tiff_;
+    const TiffKind kind_;
+    std::uint32_t y_ = 0, rowsInBand_ = 0;         // a band is a row of tiles, or a strip
+    std::size_t stride_ = 0;                       // of a band's line, in bytes
+    std::vector<std::vector<std::uint8_t>> bands_; // one, or one of each plane
+    std::vector<std::uint8_t> tile_, line_;
+};
+
+/// Pixels that the library makes of colour spaces of its own, and of eight bits with alpha.
+class TiffColours {
+  public:
+    explicit TiffColours(const FileBytes& file);
+    ~TiffColours() { TIFFRGBAImageEnd(&image_); }
+    TiffColours(const TiffColours&) = delete;
+    TiffColours& operator=(const TiffColours&) = delete;
+    void read(Pixel* row);
+    void skip();
+
+  private:
+    Tiff tiff_;
+    TIFFRGBAImage image_{};
+    std::uint32_t y_ = 0, rowsInBand_ = 0;
+    std::vector<std::uint32_t> band_;
+};
+
+} // namespace velara::decode
