@@ -6,7 +6,7 @@ namespace velara::decode {
 
 namespace {
 
-constexpr std::size_t kFormHeader = 12, kChunkHeader = 8;
+constexpr std::size_t kFormHeader = 12, kChunkHeader = 8, kBitmapHeader = 20;
 constexpr std::uint32_t name(const char (&text)[5])
 {
     std::uint32_t value = 0;
@@ -41,7 +41,6 @@ void unpackRow(Cursor& from, std::span<std::uint8_t> to)
             std::fill_n(&to[at], room, from.byte());
         at += run;
     }
-    // an empty rest is told by the next read
 }
 
 /// Bits of planes, each padded to 16, as indices or as three bytes a pixel.
@@ -87,13 +86,17 @@ Decoded readIff(FileBytes& file)
     for (std::size_t at = kFormHeader; at + kChunkHeader <= file.size();) {
         const std::uint32_t chunk = file.big32(at), length = file.big32(at + 4);
         const std::size_t contents = at + kChunkHeader;
+        std::size_t used = contents;
         if (chunk == name("BMHD")) {
             bitmap = bitmapOf(file, contents);
             palette = greys();
+            used += kBitmapHeader;
             if (bitmap.planes > 8 && bitmap.planes != 24) return {};
         } else if (chunk == name("CMAP")) {
             if (bitmap.planes == 0 && bitmap.width == 0) return {};
-            for (std::size_t i = 0; i < std::min<std::size_t>(length / 3, 256); ++i)
+            const std::size_t colours = bitmap.isTrueColour() ? 0 : std::min<std::size_t>(length / 3, 256);
+            used += 3 * colours;
+            for (std::size_t i = 0; i < colours; ++i)
                 palette[i] = pixelOf(static_cast<int>(file.byte(contents + 3 * i)),
                                      static_cast<int>(file.byte(contents + 3 * i + 1)),
                                      static_cast<int>(file.byte(contents + 3 * i + 2)));
@@ -105,7 +108,7 @@ Decoded readIff(FileBytes& file)
             return readBody(Cursor(file.bytes(), contents), bitmap, raster, kind == name("ILBM"));
         }
         const std::size_t end = contents + length + length % 2;
-        at = end <= file.size() ? end : contents;
+        at = end <= file.size() && end >= used ? end : used; // a false length: goes on behind what was read
     }
     return {};
 }
