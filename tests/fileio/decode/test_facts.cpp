@@ -220,11 +220,10 @@ std::vector<std::uint8_t> profileOfInks()
 {
     cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr), lab = cmsCreateLab4Profile(nullptr);
     cmsHPROFILE srgb = cmsCreate_sRGBProfile();
-    cmsSetProfileVersion(profile, 4.3); // with the encoding of Lab that the table has
     cmsSetDeviceClass(profile, cmsSigOutputClass);
     cmsSetColorSpace(profile, cmsSigCmykData);
     cmsSetPCS(profile, cmsSigLabData);
-    cmsHTRANSFORM toLab = cmsCreateTransform(srgb, TYPE_RGB_16, lab, TYPE_Lab_16, INTENT_RELATIVE_COLORIMETRIC, 0);
+    cmsHTRANSFORM toLab = cmsCreateTransform(srgb, TYPE_RGB_16, lab, TYPE_LabV2_16, INTENT_RELATIVE_COLORIMETRIC, 0);
     cmsPipeline* pipeline = cmsPipelineAlloc(nullptr, 4, 3);
     cmsStage* table = cmsStageAllocCLut16bit(nullptr, 5, 4, 3, nullptr);
     cmsStageSampleCLut16bit(
