@@ -154,8 +154,10 @@ void OutputFile::openBeside(mode_t mode)
         file_ = open(temporary_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
         if (file_ < 0 && errno != EEXIST) break;
         struct stat status {};
-        if (file_ >= 0 && !isMine(file_) && fstat(file_, &status) == 0 && status.st_nlink == 0)
-            close(std::exchange(file_, -1)); // another program removed it as a stray between the two calls
+        errno = 0;
+        if (file_ >= 0 && !isMine(file_) &&
+            (errno == EWOULDBLOCK || (fstat(file_, &status) == 0 && status.st_nlink == 0)))
+            close(std::exchange(file_, -1)); // between the two calls another program took it for a stray
     }
     if (file_ < 0) temporary_.clear();
 }

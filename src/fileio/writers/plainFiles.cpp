@@ -17,7 +17,7 @@ constexpr std::uint32_t kMasks = 3; // "compression" of a bitmap whose channels 
 /// Bytes of a header, numbers little-endian.
 class Header {
   public:
-    Header& put(std::uint32_t value, int bytes)
+    Header& put(std::uint64_t value, int bytes)
     {
         for (int i = 0; i < bytes; ++i) bytes_.push_back(static_cast<std::uint8_t>(value >> 8 * i));
         return *this;

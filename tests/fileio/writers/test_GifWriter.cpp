@@ -1,7 +1,7 @@
 #include "fileio/load/PictureLoader.h"
-#include "fileio/web/ReducedDib.h"
 #include "fileio/writers/GifWriter.h"
 #include "reduce/bestColours.h"
+#include "reduce/reduceColours.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"

@@ -70,7 +70,7 @@ TEST_F(PictureFiles, AreTheSameToTheByte)
         ReducedPicture picture{row.bits, {row.width, 3, {}, {}}, {}};
         if (row.bits == 16)
             picture.full = drawnBits(row.width, 2, [](int x, int y) {
-                const int word = x * 1000 + y * 7;
+                const int word = x * 1000 + (1 - y) * 7;
                 return Pixel{{std::uint8_t(word << 3), std::uint8_t(word >> 5 << 3), std::uint8_t(word >> 10 << 3), 9}};
             });
         for (int i = 0; row.bits <= 8 && i < 1 << row.bits; ++i)
