@@ -31,7 +31,7 @@ template <int fif, Mend mend = mendNothing> Decoded byFreeImage(FileBytes& file)
 }
 #else
 enum : int { FIF_JPEG, FIF_MNG, FIF_PCD, FIF_PNG, FIF_PSD, FIF_TIFF };
-template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
+template <int, void (*)(FileBytes&) = nullptr> constexpr std::nullptr_t byFreeImage = nullptr;
 #endif
 
 Needs prepareNothing() { return Needs::Nothing; }
