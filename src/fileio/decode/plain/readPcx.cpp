@@ -62,7 +62,7 @@ void joinPlanes(const std::uint8_t* from, std::uint8_t* to, std::size_t width, s
             for (std::size_t part = 0; part < 3; ++part) to[3 * x + part] = from[part * plane + x];
         return;
     }
-    for (std::size_t x = 0; x < width / 2 * 2; ++x) // the last pixel of an odd width has index 0
+    for (std::size_t x = 0; x < std::min(width / 2 * 2, 8 * plane); ++x) // the last pixel of an odd width has index 0
         for (std::size_t bit = 0; bit < 4; ++bit)
             if (from[bit * plane + x / 8] & 128 >> x % 8) to[x] |= static_cast<std::uint8_t>(1 << bit);
 }
