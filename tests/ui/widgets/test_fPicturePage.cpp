@@ -145,7 +145,7 @@ TEST_F(PicturePages, ACanvasRepaintsOnlyWhatChanges)
     canvas->last = {};
     canvas->updatePixels({120, 130, 140, 135});
     EXPECT_TRUE(comes([&] { return canvas->last == QRect(120, 130, 20, 5); }));
-    EXPECT_EQ(QPoint(120, 130), canvas->pixelAt(canvas->placeOf({120, 130})));
+    EXPECT_EQ(QPoint(120, 130), canvas->pixelAt(canvas->placeOf(QPointF(120, 130))));
 }
 
 } // namespace
