@@ -68,7 +68,7 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
 {
     put("zip.png", "PK\x03\x04" + QByteArray(400, 'z'));
     put("short.ppm", content("in.ppm").chopped(100));
-    put("in.xyz", content("in.ppm"));
+    put("in.xyz", "neither by its name nor by its mark");
     put("out.png", "precious");
     put("out.ppm", "precious");
     QDir(folder.path()).mkdir("folder.png");

@@ -244,7 +244,7 @@ TEST_F(FrameTest, TheCamerasDataGoesWithTheDocument)
     }
     platform.onAsk = nullptr;
 
-    frame->action("mnuProperties")->trigger();
+    frame->action("mnuProperties_0")->trigger();
     auto* dialog = frame->findChild<QDialog*>("fProperties");
     ASSERT_TRUE(dialog);
     auto* list = dialog->findChild<QTreeWidget*>("lstProperties");

@@ -23,7 +23,8 @@ std::string big(std::size_t value, int bytes)
 
 Decoded decodeBytes(const std::string& contents, const QString& extension)
 {
-    return decodePicture(FileBytes(std::vector<std::uint8_t>(contents.begin(), contents.end())), extension);
+    return decodePicture(FileBytes(std::vector<std::uint8_t>(contents.begin(), contents.end())), extension,
+                         {.srgb = false});
 }
 
 template <class Bytes> std::string textOf(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }

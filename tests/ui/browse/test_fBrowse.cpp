@@ -212,7 +212,7 @@ TEST_F(Browser, FolderDialogAnswersWithTextAndAssociationsDoNothing)
     fAssociation list(nullptr);
     list.show();
     used = &list;
-    EXPECT_EQ(find("picA")->findChildren<QCheckBox*>().size(), 22);
+    EXPECT_EQ(find("picA")->findChildren<QCheckBox*>().size(), 28);
     EXPECT_EQ(text("cT_0"), "*.bmp; *.dib");
     click("Command1");
     EXPECT_TRUE(list.isVisible());

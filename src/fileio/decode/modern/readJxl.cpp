@@ -2,6 +2,7 @@
 #include "fileio/decode/modern/LateLibrary.h"
 #include "fileio/decode/modern/modern.h"
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <jxl/decode.h>
 
@@ -120,6 +121,8 @@ Carried carriedBy(const FileBytes& file)
     return carried;
 }
 
+constexpr double kUsualGamma = 0.45455; // what a PNG without colours of its own says, and means sRGB by it
+
 /// Asks for sRGB, which the library gives where the file has its own colours (XYB) or sRGB; elsewhere the samples are
 /// as stored, and this is their profile. Empty: sRGB.
 std::vector<std::uint8_t> chooseColours(JxlDecoder* decoder, const JxlPixelFormat& format, const JxlBasicInfo& info)
@@ -134,7 +137,9 @@ std::vector<std::uint8_t> chooseColours(JxlDecoder* decoder, const JxlPixelForma
     JxlColorEncoding given{};
     if (jxl().JxlDecoderGetColorAsEncodedProfile(decoder, &format, JXL_COLOR_PROFILE_TARGET_DATA, &given) ==
             JXL_DEC_SUCCESS &&
-        given.white_point == wanted.white_point && given.transfer_function == wanted.transfer_function &&
+        given.white_point == wanted.white_point &&
+        (given.transfer_function == wanted.transfer_function ||
+         (given.transfer_function == JXL_TRANSFER_FUNCTION_GAMMA && std::abs(given.gamma - kUsualGamma) < 0.002)) &&
         (given.primaries == wanted.primaries || given.color_space == JXL_COLOR_SPACE_GRAY))
         return {};
     std::size_t size = 0;
