@@ -51,6 +51,12 @@ bool tellPart(const QByteArray& part)
     return true;
 }
 
+void setReason(Opening& opening, const QString& text)
+{
+    const QByteArray reason = text.toUtf8().left(sizeof opening.reason - 1);
+    std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
+}
+
 bool tellOpening(const Decoded& picture)
 {
     const Parts parts = partsOf(picture);
@@ -63,9 +69,17 @@ bool tellOpening(const Decoded& picture)
                     picture.camera.dotsAcross,
                     picture.camera.dotsDown};
     for (std::size_t i = 0; i < kParts; ++i) opening.parts[i] = static_cast<std::uint32_t>(parts[i].size());
-    const QByteArray reason = picture.reason.toUtf8().left(sizeof opening.reason - 1);
-    std::memcpy(opening.reason, reason.constData(), static_cast<std::size_t>(reason.size()));
+    opening.hasLastWord = picture.lastWord ? 1 : 0;
+    setReason(opening, picture.reason);
     return tell(opening) && std::ranges::all_of(parts, tellPart);
+}
+
+bool tellLastWord(const Decoded& picture)
+{
+    if (!picture.lastWord) return true;
+    Opening closing{kMagic, picture.width, picture.height, {}};
+    setReason(closing, picture.lastWord());
+    return tell(closing);
 }
 
 /// Fills the slots in turn; waits for the parent when all are full.
@@ -105,7 +119,8 @@ void answer(const QString& extension, const QStringList& wishes)
         cage.open
             ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
             : decodePicture(std::move(file), extension, {!wishes.contains(kStoredWish), !wishes.contains(kBareWish)});
-    const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory));
+    const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory)) &&
+                      tellLastWord(picture);
     _exit(done ? 0 : 1); // no cleanup: the process is disposable
 }
 

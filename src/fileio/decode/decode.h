@@ -53,6 +53,8 @@ struct Decoded {
     Samples samples = {};    // empty where row has them all
     CameraData camera = {};  // carried, made fit for the upright picture
     QString properties = {}; // for the user: lines of a name, a tab and a value
+    /// Asked after all rows: why they are incomplete, where that shows itself between them; empty when they are whole.
+    std::function<QString()> lastWord = {};
     bool ok() const { return static_cast<bool>(row); }
 };
 inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }

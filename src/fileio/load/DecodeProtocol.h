@@ -10,7 +10,8 @@
 // Then come the parts that it announces, one after the other, in messages of kPartMessage bytes but for the last of
 // each part. Then it fills the slots of the shared memory in turn, each with as many rows as fit, and sends the number
 // of the first row of each. The parent copies the rows and returns every slot with one byte. So the picture is never in
-// memory twice, and the shared memory stays in the cache.
+// memory twice, and the shared memory stays in the cache. Where the Opening says so a second one follows the rows, with
+// the reason why they are incomplete, if they are.
 #pragma once
 #include "fileio/load/Origin.h"
 #include "pixels/Bits.h"
@@ -44,6 +45,7 @@ struct Opening {
     Origin origin = {};
     double dotsAcross = 0, dotsDown = 0; // per inch; 0: unknown
     std::uint32_t parts[kParts] = {};    // bytes of each
+    std::uint32_t hasLastWord = 0;       // 1: an Opening follows the rows
 };
 constexpr std::uint32_t kMagic = 0x31444c56; // "VLD1"
 constexpr std::uint32_t kClaim = 0x31434c56; // "VLC1"

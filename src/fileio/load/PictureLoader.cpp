@@ -160,6 +160,12 @@ QString receiveParts(DecoderProcess& child, const decode::Opening& opening, Part
     return {};
 }
 
+QString reasonIn(const decode::Opening& opening)
+{
+    const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
+    return QString::fromUtf8(opening.reason, length).simplified();
+}
+
 Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Begin& begin)
 {
     decode::Opening opening;
@@ -175,15 +181,19 @@ Ending receivePicture(DecoderProcess& child, const Capacity& capacity, const Beg
     }
     if (wait != Wait::Message) return {false, faultOf(wait, child)};
     if (opening.magic != decode::kMagic) return {false, kNonsense};
-    const auto length = static_cast<qsizetype>(strnlen(opening.reason, sizeof opening.reason));
-    const QString reason = QString::fromUtf8(opening.reason, length).simplified();
+    const QString reason = reasonIn(opening);
     if (opening.width == 0 && opening.height == 0) return {false, reason.isEmpty() ? QString(kNonsense) : reason};
     if (const QString fault = faultOfSize(opening, capacity); !fault.isEmpty()) return {false, fault};
     opening.bits = bits;
     Parts parts;
     if (const QString fault = receiveParts(child, opening, parts); !fault.isEmpty()) return {false, fault};
     Ending ending = receiveRows(child, opening.width, opening.height, begin(opening, parts));
-    if (ending.whole) ending.reason = reason;
+    if (!ending.whole) return ending;
+    ending.reason = reason;
+    if (!opening.hasLastWord) return ending;
+    wait = child.receive(&opening, sizeof opening);
+    if (wait != Wait::Message) return {false, faultOf(wait, child)};
+    if (reason.isEmpty()) ending.reason = reasonIn(opening);
     return ending;
 }
 

@@ -235,6 +235,17 @@ TEST_F(PictureLoader, ReadsPicturesOfOneColourHoweverSmall)
     // A file that has lost most of its bytes shows the rest.
     const QString cut = put("cut.ppm", "P6\n100 100\n255\n" + QByteArray(100, 'c'));
     EXPECT_TRUE(loadThroughDecoder(cut, "ppm", kDecoder).reason.contains("cut off"));
+    // One whose end is there and whose middle is not says so after its rows.
+    QImage busy(200, 200, QImage::Format_RGB32);
+    for (int i = 0; i < 200 * 200; ++i) busy.setPixel(i % 200, i / 200, qRgb(i * i, 7 * i, i / 3));
+    ASSERT_TRUE(busy.save(path("hole.jpg")));
+    QByteArray hole = fileBytes(path("hole.jpg"));
+    for (const bool isThere : {true, false}) {
+        const LoadedPicture picture = loadThroughDecoder(put("hole.jpg", hole), "jpg", kDecoder);
+        EXPECT_TRUE(picture.ok());
+        EXPECT_EQ(picture.reason.contains("cut off"), !isThere) << picture.reason.toStdString();
+        hole.remove(hole.size() / 2, hole.size() / 4);
+    }
 }
 
 TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)

@@ -12,9 +12,9 @@ namespace {
 
 /// The library's error manager: throws Damage where the library would end the program.
 struct Errors : jpeg_error_mgr {
-    bool isCutOff = false; // the first warning was of data that ended too early
+    std::shared_ptr<bool> isCutOff; // the first warning was of data that ended too early
 
-    Errors()
+    explicit Errors(std::shared_ptr<bool> cutOff) : isCutOff(std::move(cutOff))
     {
         jpeg_std_error(this);
         error_exit = [](j_common_ptr info) { // a mark that nobody knows is passed over
@@ -23,7 +23,7 @@ struct Errors : jpeg_error_mgr {
         emit_message = [](j_common_ptr info, int level) {
             if (level >= 0) return; // not a warning
             auto* self = static_cast<Errors*>(info->err);
-            if (self->num_warnings++ == 0) self->isCutOff = self->msg_code == JWRN_HIT_MARKER;
+            if (self->num_warnings++ == 0) *self->isCutOff = self->msg_code == JWRN_HIT_MARKER;
         };
     }
     static std::string messageOf(j_common_ptr info)
@@ -67,8 +67,9 @@ struct Source : jpeg_source_mgr {
 
 class JpegRows {
   public:
-    /// Reads the header; throws Damage.
-    explicit JpegRows(const FileBytes& file) : file_(file), source_(file.bytes())
+    /// Reads the header; throws Damage. cutOff becomes true when the data end too early.
+    JpegRows(const FileBytes& file, std::shared_ptr<bool> cutOff)
+        : file_(file), errors_(std::move(cutOff)), source_(file.bytes())
     {
         info_.err = &errors_;
         jpeg_create_decompress(&info_);
@@ -90,7 +91,6 @@ class JpegRows {
     bool hasScans() { return jpeg_has_multiple_scans(&info_); }
     /// Cyan, magenta, yellow and black, each 255 for no ink.
     bool isInked() const { return isInked_; }
-    bool isCutOff() const { return errors_.isCutOff; }
     /// Before start: the end mark follows the data of the first scan.
     bool endsPlainly() const
     {
@@ -161,12 +161,13 @@ std::function<void(int, Pixel*)> keptRows(JpegRows& rows, std::size_t width, std
 
 Decoded readJpeg(FileBytes& file)
 try {
-    const auto begin = [file] {
-        auto rows = std::make_unique<JpegRows>(file);
+    const auto cutOff = std::make_shared<bool>(false);
+    const auto begin = [file, cutOff] {
+        auto rows = std::make_unique<JpegRows>(file, cutOff);
         rows->start();
         return rows;
     };
-    auto rows = std::make_unique<JpegRows>(file);
+    auto rows = std::make_unique<JpegRows>(file, cutOff);
     const std::int64_t width = rows->info().image_width, height = rows->info().image_height;
     if (!Bits::sizeAllowed(width, height)) return width > 0 && height > 0 ? refused(kTooBig) : Decoded{};
     if (rows->info().jpeg_color_space == JCS_UNKNOWN) return {};
@@ -179,8 +180,11 @@ try {
     rows->start();
     if (!isToldAtStart)
         picture.row = keptRows(*rows, static_cast<std::size_t>(width), static_cast<std::size_t>(height));
-    if (rows->isCutOff()) picture.reason = kCutOff; // the available part is shown
-    if (!picture.row) picture.row = rowsInOrder(&JpegRows::read, begin, std::move(rows));
+    if (*cutOff) picture.reason = kCutOff; // the available part is shown
+    if (!picture.row) {
+        picture.row = rowsInOrder(&JpegRows::read, begin, std::move(rows));
+        picture.lastWord = [cutOff] { return *cutOff ? QString(kCutOff) : QString(); };
+    }
     return picture;
 } catch (const Damage&) {
     return {};
