@@ -61,7 +61,7 @@ std::span<const std::uint8_t> spanOf(const QByteArray& bytes)
 
 decode::Decoded decodeNew(decode::FileBytes&& file, const QString& extension)
 {
-    return decode::decodePicture(std::move(file), extension);
+    return decode::decodePicture(std::move(file), extension, {.srgb = false, .facts = false});
 }
 
 class Comparer {
