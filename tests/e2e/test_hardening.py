@@ -35,7 +35,7 @@ def faults(path):
         "stack protector": b"__stack_chk_fail" in data,
         "checked copies": checked or small,
         "stack clash probes": PROBE in code or small,
-        "marked starts of functions": code.count(START_OF_FUNCTION) > (20 if small else 50),
+        "marked starts of functions": code.count(START_OF_FUNCTION) > (10 if small else 50),
     }
     return [name for name, there in found.items() if not there]
 
