@@ -3,10 +3,8 @@
 #include <FreeImage.h>
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <string>
 
 namespace velara::decode {
 
@@ -17,23 +15,13 @@ using RowMaker = std::function<void(const std::uint8_t* from, Pixel* row)>;
 
 Dib owned(FIBITMAP* dib) { return dib ? Dib(dib, FreeImage_Unload) : Dib(); }
 
-/// FreeImage, initialised while an object lives; keeps its messages.
+/// FreeImage, initialised while an object lives.
 class Library {
   public:
-    Library()
-    {
-        said().clear();
-        FreeImage_Initialise(0);
-        FreeImage_SetOutputMessage([](FREE_IMAGE_FORMAT, const char* message) { said() += message; });
-    }
+    Library() { FreeImage_Initialise(0); }
     ~Library() { FreeImage_DeInitialise(); }
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
-    static std::string& said()
-    {
-        static std::string text;
-        return text;
-    }
 };
 
 /// Reads from memory, faster than FreeImage's own routines, which some readers call for every pixel.
@@ -43,12 +31,12 @@ class Stream {
     Dib load(int fif, int flags)
     {
         at_ = 0;
-        timesShort_ = 0;
+        ranDry_ = false;
         FreeImageIO io{read, write, seek, tell};
         return owned(FreeImage_LoadFromHandle(static_cast<FREE_IMAGE_FORMAT>(fif), &io, this, flags));
     }
     /// True when the last load asked for more than there is.
-    bool ranDry() const { return timesShort_ > 0; }
+    bool ranDry() const { return ranDry_; }
 
   private:
     static unsigned DLL_CALLCONV read(void* to, unsigned size, unsigned count, fi_handle handle)
@@ -58,7 +46,7 @@ class Stream {
         const std::size_t wanted = std::size_t{size} * count;
         if (wanted > left) {
             count = static_cast<unsigned>(left / size);
-            ++stream.timesShort_;
+            stream.ranDry_ = true;
         }
         const std::size_t bytes = wanted > left ? left : wanted; // as fread: the last item may be partial
         std::memcpy(to, stream.bytes_.data() + stream.at_, bytes);
@@ -79,16 +67,17 @@ class Stream {
 
     std::span<const std::uint8_t> bytes_;
     std::size_t at_ = 0;
-    int timesShort_ = 0;
+    bool ranDry_ = false;
 };
 
-// --- Sizes from headers, for the readers that can't give them without the pixels
+// --- Sizes from headers
 
 struct Size {
     std::int64_t width = 0, height = 0;
     int bits = 0; // per pixel; 0: unknown
 };
 
+/// The library can't give it without the pixels.
 Size sizeOfMng(const FileBytes& file) // signature, length, "MHDR", width, height
 {
     return {file.big32(16), file.big32(20)};
@@ -137,19 +126,11 @@ void expand24(const std::uint8_t* from, Pixel* row, int width)
     row[x] = {{from[0], from[1], from[2], 0}};
 }
 
-RowMaker trueColourRows(FIBITMAP* dib, int width, int bits)
+RowMaker trueColourRows(int width, int bits)
 {
     if (bits == 24) return [=](const std::uint8_t* from, Pixel* row) { expand24(from, row, width); };
-    const bool is565 = FreeImage_GetGreenMask(dib) == FI16_565_GREEN_MASK;
     return [=](const std::uint8_t* from, Pixel* row) {
-        auto* to = reinterpret_cast<BYTE*>(row);
-        auto* source = const_cast<BYTE*>(from);
-        if (bits == 32)
-            std::memcpy(row, from, sizeof(Pixel) * static_cast<std::size_t>(width));
-        else if (is565)
-            FreeImage_ConvertLine16To32_565(to, source, width);
-        else
-            FreeImage_ConvertLine16To32_555(to, source, width);
+        std::memcpy(row, from, sizeof(Pixel) * static_cast<std::size_t>(width));
         for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour of transparent pixels is shown
     };
 }
@@ -172,6 +153,7 @@ Dib simplified(const Dib& dib)
 {
     switch (FreeImage_GetImageType(dib.get())) {
     case FIT_BITMAP:
+        return FreeImage_GetBPP(dib.get()) == 16 ? owned(FreeImage_ConvertTo24Bits(dib.get())) : dib;
     case FIT_RGBF:
     case FIT_RGBAF:
         return dib;
@@ -191,32 +173,7 @@ RowMaker rowsOf(FIBITMAP* dib, int width)
     if (type == FIT_RGBF) return floatRows<FIRGBF>(width);
     if (type == FIT_RGBAF) return floatRows<FIRGBAF>(width);
     const int bits = static_cast<int>(FreeImage_GetBPP(dib));
-    return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(dib, width, bits);
-}
-
-/// A number in a text entry of a PNG file; 0: there is none.
-long long numberIn(FIBITMAP* dib, const char* key)
-{
-    FITAG* tag = nullptr;
-    if (!FreeImage_GetMetadata(FIMD_COMMENTS, dib, key, &tag) || !tag || FreeImage_GetTagType(tag) != FIDT_ASCII)
-        return 0;
-    const std::string text(static_cast<const char*>(FreeImage_GetTagValue(tag)), FreeImage_GetTagLength(tag));
-    return std::strtoll(text.c_str(), nullptr, 10);
-}
-
-Origin originOf(FIBITMAP* dib)
-{
-    const auto side = [&](const char* key) {
-        return static_cast<std::int32_t>(std::clamp(numberIn(dib, key), 0LL, 1LL << 30));
-    };
-    return {numberIn(dib, "Thumb::MTime"), side("Thumb::Image::Width"), side("Thumb::Image::Height")};
-}
-
-/// A file whose end is missing; most readers fill the rest with black or grey and report nothing.
-bool isCutOff(const Stream& stream, int fif)
-{
-    if (fif == FIF_JPEG) return Library::said().find("premature end of data segment") != std::string::npos;
-    return stream.ranDry();
+    return bits <= 8 ? palettedRows(dib, width, bits) : trueColourRows(width, bits);
 }
 
 } // namespace
@@ -230,10 +187,8 @@ Decoded readByFreeImage(FileBytes& file, int fif)
     if (!Bits::sizeAllowed(size.width, size.height)) return refused(kTooBig);
 
     sizeFound(size.width, size.height, size.bits);
-    // The exact transform and smooth chroma: the fast ones lose up to 3 dB against what a browser shows.
-    Dib dib = stream.load(fif, fif == FIF_JPEG ? JPEG_ACCURATE : 0);
-    const QString note = isCutOff(stream, fif) ? kCutOff : ""; // the available part can be shown
-    const Origin origin = dib && fif == FIF_PNG ? originOf(dib.get()) : Origin();
+    Dib dib = stream.load(fif, 0);
+    const QString note = stream.ranDry() ? kCutOff : ""; // the available part can be shown
     if (dib) dib = simplified(dib);
     if (!dib || !FreeImage_HasPixels(dib.get())) return {};
     const int width = static_cast<int>(FreeImage_GetWidth(dib.get()));
@@ -243,7 +198,7 @@ Decoded readByFreeImage(FileBytes& file, int fif)
             [dib, height, maker = rowsOf(dib.get(), width)](int y, Pixel* row) {
                 maker(FreeImage_GetScanLine(dib.get(), height - 1 - y), row);
             },
-            note, origin};
+            note};
 }
 
 } // namespace velara::decode
