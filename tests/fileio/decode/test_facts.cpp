@@ -17,7 +17,7 @@ std::vector<std::uint8_t> bytesOf(const QByteArray& bytes) { return {bytes.begin
 QByteArray exif(bool little, int tag, int type, int value, int directory = 8)
 {
     QByteArray bytes(little ? "II" : "MM");
-    const auto put = [&](int number, int count) {
+    const auto put = [&](qint64 number, int count) {
         for (int i = 0; i < count; ++i) bytes.append(char(number >> 8 * (little ? i : count - 1 - i)));
     };
     put(42, 2), put(directory, 4), put(1, 2), put(tag, 2), put(type, 2), put(1, 4);
