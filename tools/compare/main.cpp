@@ -7,16 +7,14 @@
 // arguments with --seed NUMBER --runs 1. Of each kind of difference the first ones are listed, and kept in the folder.
 //
 // Known to differ:
-// - Only today's reader reads: bmp run-length encoded in a 124-byte header; pcx windows of one row or column in other
-// than
-//   true colour; ras with a full map in other than the plain 8-bit form, and true colour with a map; wbmp with
+// - Only today's reader reads: run-length encoded bmp with a 124-byte header; pcx windows of one row or column in other
+//   than true colour; ras with a full map in other than the plain 8-bit form, and true colour with a map; wbmp with
 //   extensions.
-// - Today's reader is right: uncompressed pcx of one or four planes (skipped bytes); tga run-length encoded up to the
-// end
-//   of the file (called cut off).
+// - Today's reader is right: uncompressed pcx of one or four planes (skipped bytes); run-length encoded tga up to the
+//   end of the file (called cut off).
 // - Behind a cut: run-length encoded tga and pcx, koa and PBM in iff repeat or show old memory; today's are black.
 // - Only the old one reads: bmp of a negative width, or with runs of another depth; anymap numbers beyond 2^31
-// (wrapped).
+//   (wrapped).
 #include "fileio/formats.h"
 #include "tools/compare/Reading.h"
 #include "tools/compare/oldReaders.h"

@@ -1,3 +1,4 @@
+#include "fileio/decode/plain/rows.h"
 #include "fileio/decode/readers.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <FreeImage.h>
@@ -94,9 +95,9 @@ Size sizeOf(const FileBytes& file, Stream& stream, int fif)
 
 // --- Rows of every depth converted to blue, green, red, 0
 
-std::array<Pixel, 256> paletteOf(FIBITMAP* dib)
+Palette paletteOf(FIBITMAP* dib)
 {
-    std::array<Pixel, 256> palette{};
+    Palette palette{};
     const RGBQUAD* colours = FreeImage_GetPalette(dib);
     const unsigned count = colours ? std::min(FreeImage_GetColorsUsed(dib), 256U) : 0;
     for (unsigned i = 0; i < count; ++i) palette[i] = {{colours[i].rgbBlue, colours[i].rgbGreen, colours[i].rgbRed, 0}};
@@ -105,30 +106,14 @@ std::array<Pixel, 256> paletteOf(FIBITMAP* dib)
 
 RowMaker palettedRows(FIBITMAP* dib, int width, int bits)
 {
-    const int perByte = 8 / bits, mask = (1 << bits) - 1;
     return [=, palette = paletteOf(dib)](const std::uint8_t* from, Pixel* row) {
-        for (int x = 0; x < width; ++x) {
-            const int shift = 8 - bits * (x % perByte + 1); // the leftmost pixel is in the high bits
-            row[x] = palette[static_cast<std::size_t>(from[x / perByte] >> shift & mask)];
-        }
+        expandIndices(from, row, width, bits, palette);
     };
-}
-
-void expand24(const std::uint8_t* from, Pixel* row, int width)
-{
-    int x = 0;
-    for (; x < width - 1; ++x, from += 3) { // four bytes at a time, while the fourth is inside the row
-        std::uint32_t four;
-        std::memcpy(&four, from, 4);
-        four &= 0xffffff;
-        std::memcpy(row + x, &four, 4);
-    }
-    row[x] = {{from[0], from[1], from[2], 0}};
 }
 
 RowMaker trueColourRows(int width, int bits)
 {
-    if (bits == 24) return [=](const std::uint8_t* from, Pixel* row) { expand24(from, row, width); };
+    if (bits == 24) return [=](const std::uint8_t* from, Pixel* row) { expandBgr(from, row, width); };
     return [=](const std::uint8_t* from, Pixel* row) {
         std::memcpy(row, from, sizeof(Pixel) * static_cast<std::size_t>(width));
         for (int x = 0; x < width; ++x) row[x].c[3] = 0; // the colour of transparent pixels is shown

@@ -26,5 +26,5 @@ class LateLibrary {
 
 } // namespace velara::decode
 
-/// A member that calls the function of the same name in the member `library`.
-#define VELARA_LATE(name) decltype(&::name) name = library.function<decltype(&::name)>(#name)
+/// A member that calls the function of the same name in the member `late`.
+#define VELARA_LATE(name) decltype(&::name) name = late.function<decltype(&::name)>(#name)

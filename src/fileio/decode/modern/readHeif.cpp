@@ -15,7 +15,7 @@ namespace velara::decode {
 namespace {
 
 struct Heif {
-    LateLibrary library{VELARA_LIBHEIF};
+    LateLibrary late{VELARA_LIBHEIF};
     VELARA_LATE(heif_init);
     VELARA_LATE(heif_context_alloc);
     VELARA_LATE(heif_context_free);
@@ -173,14 +173,13 @@ Decoded decoded(const heif_image_handle* handle)
 
 Needs prepareHeif()
 {
-    if (heif().library.complete()) heif().heif_init(nullptr); // loads its decoders
+    if (heif().late.complete()) heif().heif_init(nullptr); // loads its decoders
     return Needs::Solitude;
 }
 
 Decoded readHeif(FileBytes& file)
 {
-    if (!heif().library.complete())
-        return refused("the library that reads HEIF and AVIF pictures (libheif) is missing");
+    if (!heif().late.complete()) return refused("the library that reads HEIF and AVIF pictures (libheif) is missing");
     const Context context(heif().heif_context_alloc(), heif().heif_context_free);
     if (!context) return refused(kTooMuchMemory);
     heif().heif_context_set_max_decoding_threads(context.get(), 0);

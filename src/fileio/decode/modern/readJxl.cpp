@@ -11,7 +11,7 @@ namespace velara::decode {
 namespace {
 
 struct Jxl {
-    LateLibrary library{VELARA_LIBJXL};
+    LateLibrary late{VELARA_LIBJXL};
     VELARA_LATE(JxlDecoderCreate);
     VELARA_LATE(JxlDecoderDestroy);
     VELARA_LATE(JxlDecoderSubscribeEvents);
@@ -226,7 +226,7 @@ Needs prepareJxl()
 
 Decoded readJxl(FileBytes& file)
 {
-    if (!jxl().library.complete()) return refused("the library that reads JPEG XL pictures (libjxl) is missing");
+    if (!jxl().late.complete()) return refused("the library that reads JPEG XL pictures (libjxl) is missing");
     Decoded picture = pixelsOf(file);
     if (!picture.ok()) return picture;
     std::vector<std::uint8_t> profile = std::move(picture.carried.profile);

@@ -4,8 +4,6 @@
 
 namespace velara::decode {
 
-namespace {
-
 void expandIndices(const std::uint8_t* from, Pixel* row, int width, int bits, const Palette& palette)
 {
     const int perByte = 8 / bits, mask = (1 << bits) - 1;
@@ -14,6 +12,20 @@ void expandIndices(const std::uint8_t* from, Pixel* row, int width, int bits, co
         row[x] = palette[static_cast<std::size_t>(from[x / perByte] >> shift & mask)];
     }
 }
+
+void expandBgr(const std::uint8_t* from, Pixel* row, int width)
+{
+    int x = 0;
+    for (; x < width - 1; ++x, from += 3) { // four bytes at a time, while the fourth is inside the row
+        std::uint32_t four;
+        std::memcpy(&four, from, 4);
+        four &= 0xffffff;
+        std::memcpy(row + x, &four, 4);
+    }
+    row[x] = pixelOf(from[2], from[1], from[0]);
+}
+
+namespace {
 
 void expand16(const std::uint8_t* from, Pixel* row, int width, int greenBits)
 {
@@ -28,18 +40,6 @@ void expand16(const std::uint8_t* from, Pixel* row, int width, int greenBits)
 template <int bytes, int red, int green, int blue> void expandColours(const std::uint8_t* from, Pixel* row, int width)
 {
     for (int x = 0; x < width; ++x, from += bytes) row[x] = pixelOf(from[red], from[green], from[blue]);
-}
-
-void expandBgr(const std::uint8_t* from, Pixel* row, int width)
-{
-    int x = 0;
-    for (; x < width - 1; ++x, from += 3) { // four bytes at a time, while the fourth is inside the row
-        std::uint32_t four;
-        std::memcpy(&four, from, 4);
-        four &= 0xffffff;
-        std::memcpy(row + x, &four, 4);
-    }
-    row[x] = pixelOf(from[2], from[1], from[0]);
 }
 
 void expand(const Raster& raster, const std::uint8_t* from, Pixel* row)

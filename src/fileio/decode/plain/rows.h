@@ -14,6 +14,11 @@ constexpr Pixel pixelOf(int red, int green, int blue)
 /// From black to white in `levels` steps (2 to 256); the rest is black.
 Palette greys(int levels = 256);
 
+/// A row of indices of 1, 2, 4 or 8 bits, the leftmost pixel in the high ones; each must have its colour.
+void expandIndices(const std::uint8_t* from, Pixel* row, int width, int bits, const Palette& palette);
+/// A row of blue, green and red bytes. width is at least 1.
+void expandBgr(const std::uint8_t* from, Pixel* row, int width);
+
 /// How a row's samples lie: indices with the leftmost pixel in the high bits, 16 bits in little order, or bytes of
 /// colours in the order of the name (A is skipped).
 enum class Layout { Index1, Index4, Index8, Rgb555, Rgb565, Bgr, Rgb, Bgra, Abgr, Argb };
