@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -56,6 +56,11 @@ screenshots: all
 
 bench: all
 	$(RELEASE)/bin/velara-bench
+
+# Reading and writing whole files beside the plain programs of the same libraries, those that are installed.
+SAMPLE ?= docs/gallery/filters.png
+bench-formats: all
+	@scripts/bench_formats.py $(RELEASE)/bin --sample $(SAMPLE)
 
 # Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
 bench-check: all

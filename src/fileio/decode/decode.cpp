@@ -16,6 +16,7 @@ namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
 Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+Decoded readIcon(FileBytes&file), readCursor(FileBytes&file);
 Decoded readJpeg(FileBytes&file), readPng(FileBytes&file), readTiff(FileBytes&file);
 Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&file), readSvg(FileBytes&file);
 Decoded readRaw(FileBytes& file);
@@ -31,6 +32,15 @@ enum : int { FIF_MNG, FIF_PCD, FIF_PSD };
 template <int...> constexpr std::nullptr_t byFreeImage = nullptr;
 #endif
 
+// What most files don't need and takes long to load is left out of the small velara-decode; see main.cpp.
+#ifdef VELARA_COMMON_READERS
+template <auto read> constexpr std::nullptr_t rare = nullptr;
+constexpr auto kLacking = "velara-decode-all, which reads %1 picture, can't be started";
+#else
+template <auto read> constexpr auto rare = read;
+constexpr auto kLacking = "this build lacks the library that reads %1 picture";
+#endif
+
 Needs prepareNothing() { return Needs::Nothing; }
 
 struct Reader {
@@ -41,23 +51,23 @@ struct Reader {
 
 // clang-format off
 constexpr Reader kReaders[] = {
-    {"gif",   readGif, loadQtReaders},
-    {"wmf",   readWmf, prepareWmf},
-    {"emf",   readEmf, prepareEmf},
-    {"ico",   [](FileBytes& f) { return readByQt(f, "ico"); }, loadIconReaders},
-    {"cur",   [](FileBytes& f) { return readByQt(f, "cur"); }, loadIconReaders},
-    {"dib",   readDib, loadQtReaders},
+    {"gif",   rare<readGif>, rare<loadQtReaders>},
+    {"wmf",   rare<readWmf>, rare<prepareWmf>},
+    {"emf",   rare<readEmf>, rare<prepareEmf>},
+    {"ico",   rare<readIcon>, rare<loadIconReaders>},
+    {"cur",   rare<readCursor>, rare<loadIconReaders>},
+    {"dib",   rare<readDib>, rare<loadQtReaders>},
     {"bmp",   readBmp},
     {"cut",   readCut},
     {"iff",   readIff},
     {"jpg",   readJpeg},
     {"koa",   readKoala},
     {"lbm",   readIff},
-    {"mng",   byFreeImage<FIF_MNG>},
-    {"pcd",   byFreeImage<FIF_PCD>},
+    {"mng",   rare<byFreeImage<FIF_MNG>>},
+    {"pcd",   rare<byFreeImage<FIF_PCD>>},
     {"pcx",   readPcx},
     {"png",   readPng},
-    {"psd",   byFreeImage<FIF_PSD>},
+    {"psd",   rare<byFreeImage<FIF_PSD>>},
     {"ras",   readRas},
     {"tga",   readTga},
     {"tif",   readTiff},
@@ -70,14 +80,14 @@ constexpr Reader kReaders[] = {
     {"heic",  readHeif, prepareHeif},
     {"avif",  readHeif, prepareHeif},
     {"jxl",   readJxl, prepareJxl},
-    {"svg",   readSvg, prepareSvg},
-    {"dng",   readRaw},
-    {"cr2",   readRaw},
-    {"nef",   readRaw},
-    {"arw",   readRaw},
-    {"raf",   readRaw},
-    {"orf",   readRaw},
-    {"rw2",   readRaw},
+    {"svg",   rare<readSvg>, rare<prepareSvg>},
+    {"dng",   rare<readRaw>},
+    {"cr2",   rare<readRaw>},
+    {"nef",   rare<readRaw>},
+    {"arw",   rare<readRaw>},
+    {"raf",   rare<readRaw>},
+    {"orf",   rare<readRaw>},
+    {"rw2",   rare<readRaw>},
 };
 // clang-format on
 
@@ -103,12 +113,18 @@ static_assert(std::ranges::all_of(kReaders,
 void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
 int wantedPage = 0;
 
+bool readsHere(std::string_view extension, std::span<const std::uint8_t> bytes)
+{
+    const auto isHere = [](const Reader* reader) { return !reader || reader->read; };
+    return isHere(readerOf(extension)) && isHere(readerOf(markOf(bytes)));
+}
+
 Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes)
 {
     prepareColours();
     const Reader *reader = readerOf(extension.toStdString()), *other = readerOf(markOf(bytes));
-    const Needs needs = reader ? reader->prepare() : Needs::Nothing;
-    return other && other != reader ? needs | other->prepare() : needs;
+    const Needs needs = reader && reader->prepare ? reader->prepare() : Needs::Nothing;
+    return other && other != reader && other->prepare ? needs | other->prepare() : needs;
 }
 
 namespace {
@@ -117,7 +133,7 @@ QString kindOf(const Reader& reader) { return QLatin1String(findFormat(reader.ex
 
 Decoded readBy(const Reader& reader, FileBytes& file)
 {
-    if (!reader.read) return refused(QString("this build lacks the library that reads %1 picture").arg(kindOf(reader)));
+    if (!reader.read) return refused(QString(kLacking).arg(kindOf(reader)));
     Decoded decoded = reader.read(file);
     if (!decoded.ok() && decoded.reason.isEmpty())
         decoded.reason = QString("it is damaged or not %1 picture").arg(kindOf(reader));

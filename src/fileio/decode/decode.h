@@ -10,8 +10,10 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velara::decode {
@@ -66,6 +68,10 @@ extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 /// The page or frame that is read, from 0; set before decodePicture. A reader of a format that has pages looks at it,
 /// and refuses those beyond the last with kNoSuchPage.
 extern int wantedPage;
+
+/// Whether this program has the readers of the extension (lower case, no dot) and of the mark of the first bytes, where
+/// there are such readers.
+bool readsHere(std::string_view extension, std::span<const std::uint8_t> bytes);
 
 /// Loads what the readers of the extension (lower case, no dot) and of the mark that the bytes bear need from the disk,
 /// before the cage closes. The bytes are only compared with the marks.

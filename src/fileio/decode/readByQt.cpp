@@ -153,6 +153,9 @@ Decoded readGif(FileBytes& file)
     return noted(readByQt(file, "gif", 8), file.startsWith("GIF8") && isGifCutOff(file));
 }
 
+Decoded readIcon(FileBytes& file) { return readByQt(file, "ico"); }
+Decoded readCursor(FileBytes& file) { return readByQt(file, "cur"); }
+
 Decoded readDib(FileBytes& file)
 {
     return noted(readByQt(file, file.startsWith("BM") ? "bmp" : "dib"), isDibCutOff(file));

@@ -1,6 +1,7 @@
 // Reading pictures through the child: the reasons for bad files, and the handling of misbehaving children.
 #include "fileio/load/PictureLoader.h"
 #include "fileio/writers/GifWriter.h"
+#include "fileio/writers/iconFile.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
@@ -173,6 +174,22 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         const LoadedPicture picture = loadThroughDecoder(file, "ppm", decoder);
         EXPECT_TRUE(picture.reason.startsWith("x.ppm can't be read: the program that reads pictures"));
     }
+}
+
+// By its name or by its mark alone.
+TEST_F(PictureLoader, TheProgramOfTheCommonReadersLeavesOthersToTheOneThatHasAll)
+{
+    const QByteArray icon = iconBytes(iconOf(flatBits(16, 16, 1, 2, 3), {16, 16}, {}));
+    const QString alone = path("velara-decode");
+    ASSERT_TRUE(QFile::copy(kDecoder, alone));
+    for (const char* name : {"a.ico", "a.png", "a.unheard"}) {
+        const QString file = put(name, icon), extension = QString(name).mid(2);
+        EXPECT_EQ(16, loadThroughDecoder(file, extension, kDecoder).bits.width()) << name;
+        const QString reason = loadThroughDecoder(file, extension, alone).reason;
+        EXPECT_EQ(extension == "ico", reason.contains("velara-decode-all")) << reason.toStdString();
+        EXPECT_FALSE(reason.isEmpty());
+    }
+    EXPECT_EQ(3, loadThroughDecoder(put("a.ppm", kPicture), "ppm", alone).bits.width());
 }
 
 // A child that does nothing is killed after two seconds, and at once when the user cancels.
