@@ -122,6 +122,7 @@ bool Canvas::draw(Gif& gif, const GifPlace& place)
     }
     gif.goTo(place.end);
     before_ = frame;
+    if (isFirst_ && frame.disposal == DISPOSE_PREVIOUS) before_->disposal = DISPOSE_BACKGROUND; // there is nothing else
     isFirst_ = false;
     return isWhole;
 }
