@@ -20,7 +20,7 @@ Decoded page(int number, const Bytes& bytes, const QString& extension)
     return picture;
 }
 
-Bytes little16(int value) { return {{char(value & 255), char(value >> 8)}}; }
+Bytes little16(int value) { return Bytes(1, char(value & 255)) + char(value >> 8); }
 
 /// Red, green, blue, white, black and, for others, "?", row by row.
 std::string lettersOf(const Decoded& picture)
