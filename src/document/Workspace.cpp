@@ -109,6 +109,7 @@ void Workspace::name(Document& document, const QString& path)
     const FileFacts wanted{.path = path, .page = document.file.page, .pages = document.file.pages};
     const auto has = [&](const auto& place) {
         const FileFacts& file = place->document->file;
+        if (place->document.get() == &document) return false;
         return file.Tag() == wanted.Tag() || (!isFile && file.caption() == wanted.caption());
     };
     document.file.mark = path.isEmpty() || std::ranges::none_of(places_, has) ? 0 : ++clashes_;

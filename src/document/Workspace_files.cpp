@@ -115,9 +115,10 @@ void Workspace::saved(const DocumentHandle& document, const QString& path, int c
     document->saved();
     document->Changed = document->commits() != commits; // changed since
     FileFacts& file = document->file;
+    const bool isRenamed = file.Tag() != path;
     file.page = file.pages = 1;
     file.format = QString::fromLatin1(usualExtension(extensionOf(path).toStdString())); // pnm: the colours decide
-    if (document->Tag() != path) name(*document, path);
+    if (isRenamed) name(*document, path);
     emit renamed(document);
 }
 

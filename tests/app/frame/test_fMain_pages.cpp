@@ -86,6 +86,12 @@ TEST_F(PagesTest, OtherPagesAreLostAfterAQuestionOnly)
     EXPECT_EQ(shown(), "");
 
     activate(frame->documents()[0]);
+    step(true);
+    platform.answers = {a, "&Overwrite"};
+    command("SAVE");
+    EXPECT_EQ(frame->GetActiveImage()->Caption(), "[1]a.bmp") << "beside the first page";
+    putFile(a, whole);
+    activate(frame->documents()[0]);
     platform.answers = {"&Overwrite"};
     command("SAVE");
     EXPECT_NE(fileBytes(a), whole);
@@ -98,7 +104,7 @@ TEST_F(PagesTest, AFileOfAnotherKindIsNamedAndNotConvertedUnasked)
     platform.format = "png";
     const QString a = file("a.jpg");
     openFile(a);
-    EXPECT_EQ(frame->status().currentMessage(), "a.jpg is a PNG picture");
+    EXPECT_EQ(frame->status().currentMessage(), "a.jpg is a PNG picture.");
     const QByteArray before = fileBytes(a);
     command("FLIPH");
     platform.answers = {"Save &As ...", {}};

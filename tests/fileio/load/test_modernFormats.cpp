@@ -101,10 +101,11 @@ QByteArray tiledHeic(int rows, int columns, int side = 64)
     return head + meta(head.size() + meta(0).size() + 8) + box("mdat", grid + tile);
 }
 
-/// The head of a square JPEG XL, whose length of a side takes 30 bits, and the rest of a small one.
+/// The head of a square JPEG XL, whose length of a side takes 30 bits, with all else as usual, and pixels of another.
 QByteArray squareJxl(unsigned side)
 {
-    const std::uint64_t size = 0b110 | std::uint64_t{side - 1} << 3 | std::uint64_t{1} << 33; // 33: as wide as high
+    constexpr std::uint64_t kAsWideAsHigh = 1ULL << 33, kUsual = 3ULL << 36;
+    const std::uint64_t size = 0b110 | std::uint64_t{side - 1} << 3 | kAsWideAsHigh | kUsual;
     QByteArray bytes = QByteArray::fromHex("ff0a");
     for (int i = 0; i < 5; ++i) bytes += char(size >> 8 * i);
     return bytes + kFlat[1].bytes.mid(4);
