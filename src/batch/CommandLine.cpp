@@ -36,6 +36,13 @@ int threadsFrom(const QString& text)
     return threads;
 }
 
+int pageFrom(const QString& text)
+{
+    const int page = text.toInt();
+    if (page < 1) throw badArgument(QStringLiteral("--page: a number from 1 on has to follow"));
+    return page;
+}
+
 constexpr std::pair<const char*, CameraKept> kKept[] = {
     {"keep", CameraKept::All}, {"no-place", CameraKept::NoPlace}, {"none", CameraKept::None}};
 constexpr std::pair<const char*, bool> kColours[] = {{"srgb", false}, {"stored", true}};
@@ -77,6 +84,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
             middle.emplace_back(true, arguments[i]);
         } else if (text == QStringLiteral("--threads")) {
             line.threads = threadsFrom(arguments.value(++i));
+        } else if (text == QStringLiteral("--page")) {
+            line.page = pageFrom(arguments.value(++i));
         } else if (text == QStringLiteral("--colours")) {
             line.stored = wordOf(text, arguments.value(++i), kColours);
         } else if (text == QStringLiteral("--metadata")) {

@@ -25,6 +25,7 @@ struct CommandLine {
     std::optional<WebOrder> web;   // OUTPUT is a web file
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     std::optional<int> threads;    // all cores without it
+    int page = 1;                  // of INPUT
     CameraKept camera = CameraKept::All;
     bool stored = false; // colours as the file has them
     bool verbose = false, help = false, list = false, partial = false;

@@ -1,5 +1,6 @@
 #include "batch/Session.h"
 #include "document/resizing.h"
+#include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/MemoryBudget.h"
 #include <new>
@@ -26,15 +27,18 @@ void checkRead(bool hasPicture, const QString& reason, bool partial)
     if (!reason.isEmpty() && !partial) throw fileFault(reason + QStringLiteral("; --partial takes what is there"));
 }
 
-void Session::open(const QString& path, bool partial, bool keepSteps)
+void Session::open(const QString& path, bool partial, bool keepSteps, int page)
 {
     begin(keepSteps);
     Opened opened;
-    workspace_->open(path, Unreadable::Refused, [&](const Opened& became) { opened = became; });
+    workspace_->open(
+        path, Unreadable::Refused, [&](const Opened& became) { opened = became; }, page);
     workspace_->wait();
     checkRead(bool(opened.document), opened.reason, partial);
     take(opened.document);
 }
+
+QString Session::otherKind() const { return velara::otherKind(document_->file.name(), document_->file.format); }
 
 void Session::adopt(const Bits& bits, bool keepSteps)
 {

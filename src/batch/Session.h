@@ -21,9 +21,11 @@ class Session {
 
     // Each throws Failure; after that of a change the picture is as it was.
 
-    /// Reads the picture, one of which a part is missing only with partial. With keepSteps every change is kept in a
-    /// private folder so that it can be undone.
-    void open(const QString& path, bool partial, bool keepSteps);
+    /// Reads the picture, or a page of it (from 1), one of which a part is missing only with partial. With keepSteps
+    /// every change is kept in a private folder so that it can be undone.
+    void open(const QString& path, bool partial, bool keepSteps, int page = 1);
+    /// "photo.jpg is a PNG picture"; empty where the name of the file that was opened says so.
+    QString otherKind() const;
     /// The same with a picture that is there.
     void adopt(const Bits& bits, bool keepSteps);
     /// Writes the picture with as much of the camera's data; notices go to the platform.

@@ -92,6 +92,8 @@ is transparent.
            or all but the place, or nothing; keep without it. Not with --web
            and --icon, whose files have none
 
+--page N   the N-th page or frame of INPUT, from 1, where it has several; the
+           first without it
 --list     prints every word and every operation with its arguments
 --partial  takes what is there of a picture file whose end is missing
 --threads N  1 to 64 threads for an operation; all cores without it

@@ -104,7 +104,9 @@ void run(const QStringList& arguments)
     fileOf(line.output);
     const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
     Session session(platform);
-    session.open(line.input, line.partial, line.lastGoingBack() >= 0);
+    session.open(line.input, line.partial, line.lastGoingBack() >= 0, line.page);
+    if (const QString kind = session.otherKind(); line.verbose && !kind.isEmpty())
+        std::fprintf(stderr, "%s\n", kind.toUtf8().constData());
     for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare(readPicture);
     takeSteps(session, line);

@@ -164,6 +164,8 @@ inline constexpr CommandWord kCommandWords[] = {
     {"@BROWSE",              Stage::Free,       WordKind::Window},
     {"@CAPTURE",             Stage::Free,       WordKind::Window},
     {"@ICON",                Stage::Free,       WordKind::Window},
+    {"@NEXTPAGE",            Stage::NeedsImage, WordKind::Window},
+    {"@PREVIOUSPAGE",        Stage::NeedsImage, WordKind::Window},
     {"@ASSOCIATION",         Stage::Free,       WordKind::Window},
     {"@EXIT",                Stage::Free,       WordKind::Window},
     {"@NEWVIEW",             Stage::NeedsImage, WordKind::View, {"VIEWS", "New View", "window-new"}},

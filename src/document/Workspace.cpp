@@ -59,16 +59,17 @@ Workspace::Place* Workspace::placeOf(const DocumentHandle& document) const
 
 // --- Documents
 
-DocumentHandle Workspace::add(const Bits& picture, const QString& path, Arrival arrival)
+DocumentHandle Workspace::add(const Bits& picture, const FileFacts& file, Arrival arrival)
 {
     auto document = std::make_shared<Document>(folder_, [this] { return nextNumber_++; });
     const DocumentHandle handle = document->handle();
     document->undo.onFailure([this, handle](const QString& reason) { // called on the writing thread
         later([this, handle, reason] { emit stepLost(handle, reason); });
     });
+    document->file = file;
     document->file.isFile = arrival == Arrival::File;
     document->file.isBrought = arrival == Arrival::Brought;
-    name(*document, path);
+    name(*document, file.path);
     if (!picture.isNull()) document->takePicture(picture);
     document->SaveUndoBits();
     places_.push_back(std::make_unique<Place>());
@@ -105,10 +106,11 @@ void Workspace::name(Document& document, const QString& path)
 {
     // A picture without a file has only its name by which it can be told apart.
     const bool isFile = document.file.isFile;
-    const FileFacts wanted{.path = path};
+    const FileFacts wanted{.path = path, .page = document.file.page, .pages = document.file.pages};
     const auto has = [&](const auto& place) {
         const FileFacts& file = place->document->file;
-        return file.Tag() == path || (!isFile && file.caption() == wanted.caption());
+        if (place->document.get() == &document) return false;
+        return file.Tag() == wanted.Tag() || (!isFile && file.caption() == wanted.caption());
     };
     document.file.mark = path.isEmpty() || std::ranges::none_of(places_, has) ? 0 : ++clashes_;
     document.file.path = path;

@@ -60,13 +60,16 @@ class Workspace final : public QObject {
     ~Workspace() override;
 
     // --- Documents
-    /// Reads a file into a new document, after the files asked for before.
-    void open(const QString& path, Unreadable unreadable, std::function<void(const Opened& opened)> then);
+    /// Reads a file, or a page of it (from 1), into a new document, after the files asked for before.
+    void open(const QString& path, Unreadable unreadable, std::function<void(const Opened& opened)> then, int page = 1);
     /// Cancels the file that is being read and the queued ones. False when there is none.
     bool cancelOpening();
     /// A new document, the last in order; a null picture makes an empty one. If an open document has the path already,
     /// the new one gets a mark (n counts clashes and is never reused).
-    DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made);
+    DocumentHandle add(const Bits& picture, const QString& path = {}, Arrival arrival = Arrival::Made)
+    {
+        return add(picture, FileFacts{.path = path}, arrival);
+    }
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
     /// Its handles become null, its undo files are removed, and its changes end as Gone.
@@ -145,6 +148,7 @@ class Workspace final : public QObject {
     void start(const std::shared_ptr<Run>& run);
     void finished(std::shared_ptr<Run> run, Outcome outcome);
     template <class Meant> bool end(Place& place, Meant meant);
+    DocumentHandle add(const Bits& picture, const FileFacts& file, Arrival arrival);
     void name(Document& document, const QString& path);
     void readNext();
     void opened(FileRead& opening);

@@ -15,6 +15,7 @@ struct Workspace::FileRead {
     QString path;
     Unreadable unreadable;
     std::function<void(const Opened&)> then;
+    int page;
     std::atomic<bool> cancelled{false};
     bool isThere = true;
     LoadedPicture loaded{}; // by the reading thread
@@ -26,7 +27,8 @@ struct Workspace::FileRead {
 void Workspace::FileRead::read(PictureReader& reader)
 try {
     isThere = velara::isThere(path);
-    loaded = reader.loadPicture(path, extensionOf(path), [this](auto) { return !cancelled; });
+    loaded = reader.loadPicture(
+        path, extensionOf(path), [this](auto) { return !cancelled; }, page);
 } catch (const std::bad_alloc&) {
     unreadable = Unreadable::Refused;
     loaded.reason = QStringLiteral("there is not enough memory");
@@ -42,9 +44,9 @@ Opened::Kind Workspace::FileRead::kind() const
     return unreadable == Unreadable::Refused || (format && format->has(FailsAloud)) ? Opened::Refused : Opened::Open;
 }
 
-void Workspace::open(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then)
+void Workspace::open(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then, int page)
 {
-    openings_.push_back(std::shared_ptr<FileRead>(new FileRead{path, unreadable, std::move(then)}));
+    openings_.push_back(std::shared_ptr<FileRead>(new FileRead{path, unreadable, std::move(then), page}));
     if (openings_.size() == 1) readNext();
 }
 
@@ -64,11 +66,15 @@ void Workspace::opened(FileRead& opening)
     openings_.pop_front();
     Opened opened{opening.kind(), {}, opening.loaded.reason};
     if (opened.kind == Opened::Open) {
-        opened.document = add(opening.loaded.bits, opening.path, opening.loaded.ok() ? Arrival::File : Arrival::Made);
-        FileFacts& file = opened.document->file;
-        file.camera = opening.loaded.camera;
-        file.properties = opening.loaded.properties;
-        file.isCutOff = opening.loaded.ok() && !opened.reason.isEmpty();
+        const LoadedPicture& loaded = opening.loaded;
+        const FileFacts file{.path = opening.path,
+                             .isCutOff = loaded.ok() && !opened.reason.isEmpty(),
+                             .camera = loaded.camera,
+                             .properties = loaded.properties,
+                             .format = loaded.format,
+                             .page = opening.page,
+                             .pages = loaded.pages};
+        opened.document = add(loaded.bits, file, loaded.ok() ? Arrival::File : Arrival::Made);
     }
     readNext();
     if (opening.then) opening.then(opened);
@@ -108,7 +114,11 @@ void Workspace::saved(const DocumentHandle& document, const QString& path, int c
 {
     document->saved();
     document->Changed = document->commits() != commits; // changed since
-    if (document->Tag() != path) name(*document, path);
+    FileFacts& file = document->file;
+    const bool isRenamed = file.Tag() != path;
+    file.page = file.pages = 1;
+    file.format = QString::fromLatin1(usualExtension(extensionOf(path).toStdString())); // pnm: the colours decide
+    if (isRenamed) name(*document, path);
     emit renamed(document);
 }
 

@@ -68,6 +68,13 @@ const Family* familyOf(const QString& path)
 
 const Format* formatOf(const QString& path) { return findFormat(extensionOf(path).toStdString()); }
 
+QString otherKind(const QString& name, const QString& format)
+{
+    const Format *has = findFormat(format.toStdString()), *says = formatOf(name);
+    if (!has || (says && says->name == has->name)) return {};
+    return QStringLiteral("%1 is %2 picture").arg(name, text(has->name));
+}
+
 const QString& openFilter()
 {
     static const QString filter = [] {

@@ -232,6 +232,10 @@ constexpr bool hasFamily(const Format& format)
 static_assert(std::ranges::all_of(kFormats, [](const Format& f) { return hasFamily(f) == (f.extension != "cur"); }),
               "a format that the browser doesn't know: add its row to kFamilies in src/fileio/formats.h");
 
+/// "photo.jpg is a PNG picture"; empty where the name says so, too. format: the extension of the format that the file
+/// has, or empty where that is unknown.
+QString otherKind(const QString& name, const QString& format);
+
 /// The filters of the file dialogs, in the form of seams/Dialogs.h.
 const QString& openFilter();
 const QString& saveFilter();

@@ -102,9 +102,9 @@ void CorePlatform::setSetting(const QString& section, const QString& key, const 
     settings().setValue(section + '/' + key, value);
 }
 
-LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn)
+LoadedPicture CorePlatform::loadPicture(const QString& path, const QString& extension, const GoOn& goOn, int page)
 {
-    return loadThroughDecoder(path, extension, decoder(), limitsFor(sizeOfFile(path)), goOn);
+    return loadThroughDecoder(path, extension, decoder(), limitsFor(sizeOfFile(path)), goOn, page);
 }
 
 LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& name, const QString& extension,

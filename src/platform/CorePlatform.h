@@ -24,7 +24,8 @@ class CorePlatform : public Platform {
     {
         return background_.add(std::move(work), std::move(done));
     }
-    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {},
+                              int page = 1) override;
 
   protected:
     /// The same for bytes that aren't a file; name is used in the reason.

@@ -2,6 +2,7 @@
 #include "region/Region.h"
 #include "support/files.h"
 #include "support/places.h"
+#include "support/twoFrames.h"
 #include <QImage>
 #include <QProcess>
 #include <functional>
@@ -121,6 +122,9 @@ TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
         {"in.ppm --icon 16x16,mask:0x1000000 out.png", 2, "is no icon"},
         {"in.ppm out.png --icon", 2, "--icon: a size has to follow"},
         {"in.ppm out.png --colours", 2, "--colours: one of srgb, stored has to follow"},
+        {"in.ppm out.png --page", 2, "--page: a number from 1 on has to follow"},
+        {"in.ppm --page 0 out.png", 2, "--page: a number from 1 on has to follow"},
+        {"in.ppm --page 2 out.png", 1, "in.ppm can't be read: it has only one page"},
         {"in.ppm --metadata some out.png", 2, "--metadata: one of keep, no-place, none has to follow"},
         {"in.ppm --icon 16x16 --web Optimal out.png", 2, "--web, --icon: OUTPUT can be one"},
         {"in.ppm --icon 16x16 none/out.ico", 1, "none/out.ico can't be written"},
@@ -180,6 +184,19 @@ TEST_F(BatchTest, ACutOffPictureIsTakenWhenAskedFor)
     put("short.ppm", content("in.ppm").chopped(100));
     EXPECT_TRUE(ends(0, "--partial short.ppm out.ppm"));
     EXPECT_EQ(content("in.ppm").left(200), content("out.ppm").left(200));
+}
+
+TEST_F(BatchTest, APageIsReadAndAnotherKindIsToldWhenAskedFor)
+{
+    put("two.webp", kTwoFrames);
+    EXPECT_EQ(result("--page 2", {16, 16}, "two.webp").pixel(8, 8), qRgb(10, 40, 200));
+    EXPECT_EQ(result("", {16, 16}, "two.webp").pixel(8, 8), qRgb(200, 40, 10));
+    EXPECT_TRUE(ends(1, "two.webp --page 3 out.png", "two.webp can't be read: it has only 2 pages"));
+
+    ASSERT_TRUE(input().save(path("in.jpg"), "png"));
+    const Outcome told = run("in.jpg --verbose out.png"), silent = run("in.jpg out.png");
+    EXPECT_EQ(told.errors, "in.jpg is a PNG picture\n");
+    EXPECT_EQ(told.output + silent.output + silent.errors, "");
 }
 
 TEST_F(BatchTest, ReadingMakesNoFolder)

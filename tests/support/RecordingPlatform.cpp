@@ -62,12 +62,13 @@ std::optional<QString> RecordingPlatform::pickFolder(const QString& title, const
     return ask("folder: " + title);
 }
 
-LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn& goOn)
+LoadedPicture RecordingPlatform::loadPicture(const QString& path, const QString&, const GoOn& goOn, int page)
 {
     if (onLoad) onLoad(goOn);
     const QImage image(path);
     if (image.isNull()) return {{}, "can't be read"};
-    return {bitsOf(image), loadNote, camera, properties};
+    if (page > pages) return {{}, "it has fewer pages"};
+    return {bitsOf(image), loadNote, camera, properties, format, pages};
 }
 
 } // namespace velara

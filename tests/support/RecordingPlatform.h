@@ -26,7 +26,8 @@ class RecordingPlatform : public Platform {
     std::function<void()> onAsk; // a dialog stands
     QString loadNote;            // of every picture that is read
     CameraData camera = {};      // of every picture that is read
-    QString properties = {};
+    QString properties = {}, format = {};
+    int pages = 1;                                // of every file
     std::function<void(const GoOn& goOn)> onLoad; // by the thread that reads
     std::uint32_t now = 0;
     FileDialog lastDialog;
@@ -56,7 +57,8 @@ class RecordingPlatform : public Platform {
     std::optional<QString> pickFolder(const QString& title, const QString& start) override;
     QString compactPath(const QString& path, int) override { return path; }
     /// Reads in this process, with Qt's readers. For any thread.
-    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override;
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {},
+                              int page = 1) override;
     RecordingClipboard& clipboard() override { return recordingClipboard; }
     RecordingFonts& fonts() override { return recordingFonts; }
     RecordingPreviews& previews() override { return previews_; }

@@ -15,6 +15,11 @@
 // - Behind a cut: run-length encoded tga and pcx, koa and PBM in iff repeat or show old memory; today's are black.
 // - Only the old one reads: bmp of a negative width, or with runs of another depth; anymap numbers beyond 2^31
 //   (wrapped).
+// - gif: today's reader is right where an interlaced frame has fewer than five rows or reaches beyond the screen, and
+//   where there are more pixels than the frame has (drawn below it). At a code that is in no table it ends, the old one
+//   invents pixels; it says where pixels are missing. Only today's reads: screens out of all proportion to the first
+//   frame, files cut in a frame's head, damage behind the first four kilobytes. Only the old one reads: files without
+//   the mark, indices of more than eight bits.
 #include "fileio/formats.h"
 #include "tools/compare/Reading.h"
 #include "tools/compare/oldReaders.h"

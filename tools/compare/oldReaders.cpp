@@ -65,7 +65,7 @@ bool isGifCutOff(const FileBytes& file)
 
 Decoded readGif(FileBytes& file)
 {
-    Decoded picture = decode::readByQt(file, "gif", 8);
+    Decoded picture = decode::readByQt(file, "gif");
     if (picture.reason.isEmpty() && file.startsWith("GIF8") && isGifCutOff(file)) picture.reason = decode::kCutOff;
     return picture;
 }

@@ -37,6 +37,8 @@ class Documents final : public QObject {
     void show(std::unique_ptr<fImage> image, bool maximized);
     /// The same for the active one, whose zoom may have changed.
     void fitActive();
+    /// Brings it to the front.
+    void activate(fImage& image);
     /// Puts the open views at the end of the menu, the active one with a mark, in place of what stood there.
     void list(QMenu& menu);
     /// Moves the focus away from a picture at the Tab key; false when there is nowhere to go.
@@ -59,7 +61,6 @@ class Documents final : public QObject {
   private:
     void deleteBuried();
     void numberViews();
-    void activate(fImage& image);
 
     QPointer<QMdiArea> area_;
     QList<QPointer<QWidget>> buried_;

@@ -99,6 +99,7 @@ void fMain::refreshUndoState()
                     undo && (underWay || undo->canUndo()));
     bars_->nameStep("REDO", undo ? undo->redoName() : QString(), undo && undo->canRedo());
     for (fImage* open : documents()) open->showChanged();
+    showPage();
     showTitle();
 }
 

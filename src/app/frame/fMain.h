@@ -4,7 +4,8 @@
 // open in fStartPage, cutting and pasting in Clips, pictures of the screen in Capture.
 //
 // Cut by topic: fMain.cpp (its parts, the start page, the buttons of undo), _commands (what each word does, options,
-// about), _files (open, save, close, recent, drop, clipboard), _road (what is shown of the workspace's changes),
+// about), _files (open, save, close, recent, drop, clipboard), _pages (files of several pages, and of another kind than
+// their names say), _road (what is shown of the workspace's changes),
 // _pixels (commands that change a picture, zoom, another view), _geometry (dialogs that make or reshape one, or lay
 // something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours), _close (the
 // frame's size and its end).
@@ -128,6 +129,8 @@ class fMain final : public QMainWindow, public Frame {
     void save();
     void saveAs();
     void openRecent(int index);
+    /// The page so many behind the active one in its file, which is in front afterwards.
+    void openPage(int step);
     void closeActive();
     void copyToNew();
     void fromClipboard();
@@ -186,7 +189,12 @@ class fMain final : public QMainWindow, public Frame {
     void showTitle();
     void saveAs(fImage& image);
     void saveTo(fImage& image, const QString& path);
-    void openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then);
+    void openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then, int page = 1);
+    void showPage();
+    /// Asks the user where saving over the document's own file would do more than that; what to do then.
+    enum class Over { Overwrites, AsksForName, SavesNot };
+    Over askOver(const FileFacts& file);
+    bool mayLosePages(const FileFacts& file, const QString& target);
     void noteUnopened(const QString& path, const Opened& opened);
     void tellUnopened();
     void showView(const DocumentHandle& document, bool maximized);
@@ -196,7 +204,7 @@ class fMain final : public QMainWindow, public Frame {
     QString inDialogFolder(const QString& name) const;
     void showLoadError();
     void showGone(const QStringList& paths);
-    void saveNow(fImage& image);
+    void saveNow(fImage& asked);
     Bits clipboardPicture();
 
     Platform& platform_;
@@ -213,9 +221,10 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Boxes> boxes_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
-    QStringList gone_;     // missing files that no message has named yet
-    bool refused_ = false; // a file could not be loaded, and no message has said so yet
-    bool tells_ = false;   // such a message is open
+    QStringList gone_;       // missing files that no message has named yet
+    bool refused_ = false;   // a file could not be loaded, and no message has said so yet
+    bool tells_ = false;     // such a message is open
+    bool pageComes_ = false; // another page is being read
     bool closing_ = false, closesAll_ = false, resizedOnce_ = false, scrollingOffered_ = false;
 };
 

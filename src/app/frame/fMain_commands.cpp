@@ -105,6 +105,8 @@ struct fMain::Commands {
 
         // The frame's own words
         {"@BROWSE",              browsePictures},
+        {"@NEXTPAGE",            [](fMain& f) { f.openPage(1); }},
+        {"@PREVIOUSPAGE",        [](fMain& f) { f.openPage(-1); }},
         {"@ASSOCIATION",         showAssociation},
         {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
         {"@ICON",                extractIcons},

@@ -42,6 +42,15 @@ QStringList pathsOf(const QMimeData& data)
 
 bool isRead(const QString& path) { return formatOf(path.trimmed()) != nullptr; }
 
+/// The name that is proposed for a picture: "scan-2.tif" for the second page of scan.tif.
+QString nameOfPage(const FileFacts& file)
+{
+    QString name = FileNameOf(file.path);
+    const qsizetype dot = name.lastIndexOf('.');
+    if (file.page > 1) name.insert(dot > 0 ? dot : name.size(), "-" + QString::number(file.page));
+    return name;
+}
+
 /// Why a save that wrote nothing, and told nothing, didn't; a line of its own, or nothing.
 QString whyNotWritten(bool hasPicture, const QString& path)
 {
@@ -90,6 +99,7 @@ void fMain::showName(const DocumentHandle& document)
 {
     for (fImage* view : documents_->viewsOf(document)) view->setCaption(document->file.caption());
     if (fImage* image = GetActiveImage(); image && document == active()) setStatus(Panel::Name, image->Caption());
+    showPage();
     showTitle();
 }
 
@@ -129,17 +139,22 @@ void fMain::showReading(const QString& path)
 }
 
 /// then is not called while the frame closes.
-void fMain::openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then)
+void fMain::openPath(const QString& path, Unreadable unreadable, std::function<void(const Opened&)> then, int page)
 {
-    workspace_.open(path, unreadable, [this, path, then = std::move(then)](const Opened& opened) {
+    const auto arrived = [this, path, then = std::move(then)](const Opened& opened) {
         if (closing_) return;
-        if (opened.document) showArrival(opened.document);
-        if (opened.document && !opened.document->PictureExists())
-            status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
-        else if (opened.document && !opened.reason.isEmpty())
-            status_->say(opened.reason);
+        if (opened.document) {
+            showArrival(opened.document);
+            const QString kind = otherKind(FileNameOf(path), opened.document->file.format);
+            const QString remarks = (kind + (kind.isEmpty() ? "" : ". ") + opened.reason).trimmed();
+            if (!opened.document->PictureExists())
+                status_->say(FileNameOf(path) + tr(" can't be read as a picture."));
+            else if (!remarks.isEmpty())
+                status_->say(remarks);
+        }
         then(opened);
-    });
+    };
+    workspace_.open(path, unreadable, arrived, page);
 }
 
 /// Told once all files are read, instead of one box on top of the other.
@@ -209,13 +224,16 @@ void fMain::save()
     });
 }
 
-void fMain::saveNow(fImage& image)
+void fMain::saveNow(fImage& asked)
 {
-    const FileFacts& file = image.document().file;
+    const QPointer<fImage> image = &asked;
+    const FileFacts file = image->document().file;
     const Format* format = formatOf(file.path);
     // A new document, a second one of the same file and any other format ask for a name.
-    if (!file.isOwn() || !format || format->saving != Saving::Directly) return saveAs(image);
-    saveTo(image, file.path);
+    const bool isDirect = file.isOwn() && format && format->saving == Saving::Directly;
+    const Over over = isDirect ? askOver(file) : Over::AsksForName;
+    if (!image || over == Over::SavesNot) return;
+    over == Over::Overwrites ? saveTo(*image, file.path) : saveAs(*image);
 }
 
 void fMain::saveAs()
@@ -228,20 +246,23 @@ void fMain::saveAs()
 void fMain::saveAs(fImage& asked)
 {
     const QPointer<fImage> image = &asked;
-    const Format* own = formatOf(image->Caption());
-    const QString usual = own && own->saved() ? extensionOf(image->Caption()) : QStringLiteral("png");
+    const FileFacts file = image->document().file;
+    const Format* own = formatOf(file.path);
+    const Format* has = findFormat(file.format.toStdString());
+    const bool isOther = has && has->saved() && !otherKind(file.name(), file.format).isEmpty();
+    const QString usual = isOther ? file.format : own && own->saved() ? extensionOf(file.path) : QStringLiteral("png");
     FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
     dialog.extension = usual;
-    dialog.name = withEnding(FileNameOf(image->document().file.path), usual);
+    dialog.name = withEnding(nameOfPage(file), usual);
     dialog.writtenAs = [usual](const QString& name) { return saveTargetOf(withExtension(name, usual)).file; };
     bool keep = pictureSetting(platform_, PictureSetting::KeepCameraData);
     bool leaveOut = pictureSetting(platform_, PictureSetting::LeaveOutPlace);
-    const bool hasCamera = !isEmpty(image->document().file.camera);
+    const bool hasCamera = !isEmpty(file.camera);
     if (hasCamera)
         dialog.choices = {{"chkKeepCamera", tr("&Keep camera data"), &keep},
                           {"chkWithoutPlace", tr("without the &place"), &leaveOut, &keep}};
     const auto path = platform_.saveFileName(dialog);
-    if (!path || !image) return;
+    if (!path || !image || !mayLosePages(file, withExtension(*path, usual)) || !image) return;
     if (hasCamera) {
         setPictureSetting(platform_, PictureSetting::KeepCameraData, keep);
         setPictureSetting(platform_, PictureSetting::LeaveOutPlace, leaveOut);

@@ -20,6 +20,7 @@ constexpr PanelRow kPanels[] = {
     {Panel::Pos,  "Pos",  "Position of the pointer",   "X:00000 Y:00000"},
     {Panel::Ext,  "Ext",  "Extent of the drag",        "00000,00000"},
     {Panel::Size, "Size", "Size of the picture",       "00000x00000"},
+    {Panel::Page, "Page", "Page of the file",          "00 of 00"},
     {Panel::Name, "Name", "Name of the picture",       ""},
     {Panel::Hint, "Hint", "Keys of what is under way", ""},
     {Panel::Zoom, "Zoom", "Zoom",                      "00 : 1"},
@@ -63,7 +64,7 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
         row->addWidget(label, *p.widest ? 0 : 1);
         panels_[static_cast<int>(p.panel)] = label;
     }
-    setPanel(Panel::Hint, {});
+    for (const Panel passing : {Panel::Hint, Panel::Page}) setPanel(passing, {});
     progress_ = named(new QProgressBar(this), "cFilterProgress", tr("Progress of the filter"));
     progress_->setRange(0, 100);
     progress_->setTextVisible(false);
@@ -75,10 +76,11 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
 
 void fStatus::setPanel(Panel panel, const QString& text)
 {
-    panels_[static_cast<int>(panel)]->setText(printable(text));
+    QLabel* label = panels_[static_cast<int>(panel)];
+    label->setText(printable(text));
+    if (panel == Panel::Hint || panel == Panel::Page) label->setVisible(!text.isEmpty());
     if (panel == Panel::Hint && !text.isEmpty()) clearMessage(); // the keys are needed now
     if (panel != Panel::Hint) return;
-    panels_[static_cast<int>(Panel::Hint)]->setVisible(!text.isEmpty());
     for (const Panel still : {Panel::Size, Panel::Name, Panel::Zoom}) // those that no gesture replaces
         panels_[static_cast<int>(still)]->setVisible(text.isEmpty());
 }

@@ -1,4 +1,5 @@
-// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, and the keys of the tool at work) and the
+// fStatus: the bottom pane PicStatus with the status bar sbInfo (five panels, the page of a file
+// that has several, and the keys of the tool at work) and the
 // filters' progress bar.
 #pragma once
 #include "document/road/Frame.h"
@@ -25,7 +26,7 @@ class fStatus final : public QStatusBar {
     void setProgress(int percent);
 
   private:
-    std::array<QLabel*, 6> panels_{};
+    std::array<QLabel*, 7> panels_{};
     QProgressBar* progress_;
 };
 

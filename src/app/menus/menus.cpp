@@ -21,6 +21,8 @@ constexpr MenuRow kMenus[] = {
         {SubMenu, "mnuRecent", 0, "Open &Recent"},
             {Items, "RF", 0, "", "@RECENT"},
         {End},
+        {Item, "PAGE", 0, "Next Pa&ge", "@NEXTPAGE", "Ctrl+PgDown"},
+        {Item, "PAGE", 1, "Pre&vious Page", "@PREVIOUSPAGE", "Ctrl+PgUp"},
         {Separator},
         {Item, "FILE", 4, "&Close", "CLOSE", "Ctrl+W"},
         {Separator},

@@ -11,6 +11,8 @@ constexpr WordHelp kHelp[] = {
     {"NEW",                 "", "blank empty create"},
     {"OPEN",                "", "load import file"},
     {"@BROWSE",             "", "thumbnails folder gallery"},
+    {"@NEXTPAGE",           "The next page or frame of the file, in a window of its own", "tiff gif animation icon"},
+    {"@PREVIOUSPAGE",       "The page or frame of the file before this one", "tiff gif animation icon"},
     {"SAVEAS",              "", "export rename convert format"},
     {"IMAGESAVEOPTIONS",    "", "export gif jpeg png small kilobytes compress quality"},
     {"ACQUIRETWAIN",        "", "scan paper"},

@@ -14,19 +14,30 @@ struct FileFacts {
     CameraData camera = {}; // what the file carried beside its pixels, for those that are saved
     CameraKept kept = CameraKept::All; // as the last "Save as" chose
     QString properties = {};           // for the user: lines of a name, a tab and a value
+    QString format = {};               // the extension of the format that the file has; empty: unknown
+    int page = 1, pages = 1;           // which one of the file's pages or frames the picture is
 
     QString markText() const { return mark ? QStringLiteral("[%1]").arg(mark) : QString(); }
-    /// What follows the last separator, right-trimmed, with the mark.
-    QString caption() const
+    /// "2 of 12"; empty for the only one.
+    QString pageText() const { return pages > 1 ? QStringLiteral("%1 of %2").arg(page).arg(pages) : QString(); }
+    /// What follows the last separator, right-trimmed.
+    QString name() const
     {
         QString name = path.mid(path.lastIndexOf('/') + 1);
         while (name.endsWith(' ')) name.chop(1);
-        return markText() + name;
+        return name;
     }
+    /// The name, with the mark, and with the page if it isn't the first.
+    QString caption() const { return markText() + name() + laterPage(); }
     /// Unique among the open documents.
-    QString Tag() const { return markText() + path; }
-    /// SAVE writes to the path without asking.
-    bool isOwn() const { return isFile && !isCutOff && mark == 0; }
+    QString Tag() const { return markText() + path + laterPage(); }
+    /// The path is its own: SAVE writes there, after a question where that would lose something.
+    bool isOwn() const { return isFile && !isCutOff && mark == 0 && page == 1; }
+    /// The picture is a page of that file.
+    bool isPageOf(const QString& file, int wanted) const { return isFile && path == file && page == wanted; }
+
+  private:
+    QString laterPage() const { return page > 1 ? " [" + pageText() + ']' : QString(); }
 };
 
 } // namespace velara

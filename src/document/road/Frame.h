@@ -24,8 +24,9 @@ class Platform;
 class Workspace;
 struct Setup;
 
-/// The panels of the status bar, by their keys. Hint replaces size, name and zoom while it has a text.
-enum class Panel { Pos, Ext, Size, Name, Zoom, Hint };
+/// The panels of the status bar, by their keys. Hint replaces size, name and zoom while it has a text; Page shows while
+/// it has one.
+enum class Panel { Pos, Ext, Size, Name, Zoom, Hint, Page };
 
 class Frame {
   public:

@@ -20,7 +20,7 @@ namespace {
 /// them.
 void claimSize(std::int64_t width, std::int64_t height, int bits)
 {
-    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, bits};
+    const Opening claim{kClaim, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), {}, 0, {}, bits};
     send(kSocket, &claim, sizeof claim, MSG_NOSIGNAL);
 }
 
@@ -64,12 +64,15 @@ bool tellOpening(const Decoded& picture)
                     picture.width,
                     picture.height,
                     {},
+                    picture.carried.pages,
+                    {},
                     0,
                     picture.origin,
                     picture.camera.dotsAcross,
                     picture.camera.dotsDown};
     for (std::size_t i = 0; i < kParts; ++i) opening.parts[i] = static_cast<std::uint32_t>(parts[i].size());
     opening.hasLastWord = picture.lastWord ? 1 : 0;
+    picture.format.copy(opening.format, sizeof opening.format - 1);
     setReason(opening, picture.reason);
     return tell(opening) && std::ranges::all_of(parts, tellPart);
 }
@@ -80,6 +83,14 @@ bool tellLastWord(const Decoded& picture)
     Opening closing{kMagic, picture.width, picture.height, {}};
     setReason(closing, picture.lastWord());
     return tell(closing);
+}
+
+/// Notes which page is wanted.
+void takePage(const QStringList& wishes)
+{
+    for (const QString& wish : wishes)
+        if (wish.startsWith(kPageWish))
+            wantedPage = std::max(wish.mid(static_cast<qsizetype>(std::strlen(kPageWish))).toInt(), 1) - 1;
 }
 
 /// Fills the slots in turn; waits for the parent when all are full.
@@ -109,6 +120,7 @@ void answer(const QString& extension, const QStringList& wishes)
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
     if (memory == MAP_FAILED) return;
     sizeFound = claimSize;
+    takePage(wishes);
     tellOurFaultsFromTheLibraries();
     FileBytes file(kPicture);
     close(kPicture);

@@ -15,9 +15,9 @@
 namespace velara::decode {
 
 // The readers in files of their own, read*.cpp; metafiles get their natural size at 96 dpi, drawn on white.
-Decoded readGif(FileBytes&file), readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
+Decoded readDib(FileBytes&file), readWmf(FileBytes&file), readEmf(FileBytes&file);
 Decoded readIcon(FileBytes&file), readCursor(FileBytes&file);
-Decoded readJpeg(FileBytes&file), readPng(FileBytes&file), readTiff(FileBytes&file);
+Decoded readGif(FileBytes&file), readJpeg(FileBytes&file), readPng(FileBytes&file), readTiff(FileBytes&file);
 Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&file), readSvg(FileBytes&file);
 Decoded readRaw(FileBytes& file);
 // What they load from the disk before the cage closes.
@@ -51,7 +51,7 @@ struct Reader {
 
 // clang-format off
 constexpr Reader kReaders[] = {
-    {"gif",   rare<readGif>, rare<loadQtReaders>},
+    {"gif",   readGif},
     {"wmf",   rare<readWmf>, rare<prepareWmf>},
     {"emf",   rare<readEmf>, rare<prepareEmf>},
     {"ico",   rare<readIcon>, rare<loadIconReaders>},
@@ -119,6 +119,11 @@ bool readsHere(std::string_view extension, std::span<const std::uint8_t> bytes)
     return isHere(readerOf(extension)) && isHere(readerOf(markOf(bytes)));
 }
 
+Decoded noSuchPage(int pages)
+{
+    return refused(pages > 1 ? QString("it has only %1 pages").arg(pages) : QString("it has only one page"));
+}
+
 Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes)
 {
     prepareColours();
@@ -128,6 +133,8 @@ Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> byt
 }
 
 namespace {
+
+constexpr bool areSame(const Reader* one, const Reader* other) { return one && other && one->read == other->read; }
 
 QString kindOf(const Reader& reader) { return QLatin1String(findFormat(reader.extension)->name); }
 
@@ -144,7 +151,9 @@ Decoded readBy(const Reader& reader, FileBytes& file)
 Decoded readByMark(FileBytes& file, const Reader* first, std::string_view mark)
 {
     const Reader* reader = readerOf(mark);
-    return reader && reader->read && !(first && reader->read == first->read) ? reader->read(file) : Decoded{};
+    Decoded decoded = reader && reader->read && !areSame(reader, first) ? reader->read(file) : Decoded{};
+    decoded.format = mark;
+    return decoded;
 }
 
 Decoded readByNameOrMark(FileBytes& file, const QString& extension)
@@ -156,7 +165,10 @@ Decoded readByNameOrMark(FileBytes& file, const QString& extension)
     Decoded decoded = reader                ? readBy(*reader, file)
                       : extension.isEmpty() ? refused("its name has no extension to tell what it is")
                                             : refused(QString("there is no reader for .%1 files").arg(extension));
-    if (decoded.ok()) return decoded;
+    if (decoded.ok()) {
+        decoded.format = areSame(reader, readerOf(mark)) ? mark : reader->extension; // several formats may share one
+        return decoded;
+    }
     Decoded other = readByMark(file, reader, mark);
     return other.ok() ? other : decoded;
 }
@@ -167,6 +179,7 @@ Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted)
 try {
     Decoded decoded = readByNameOrMark(file, extension);
     if (!decoded.ok()) return decoded;
+    if (wantedPage >= decoded.carried.pages) return noSuchPage(decoded.carried.pages);
     if (wanted.facts) decoded.properties = propertiesOf(decoded);
     if (wanted.srgb) convertToSrgb(decoded);
     decoded = upright(std::move(decoded));

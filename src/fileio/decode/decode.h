@@ -52,9 +52,10 @@ struct Decoded {
     QString reason = {}; // why there is no picture, or why it is incomplete
     Origin origin = {};
     Carried carried = {};
-    Samples samples = {};    // empty where row has them all
-    CameraData camera = {};  // carried, made fit for the upright picture
-    QString properties = {}; // for the user: lines of a name, a tab and a value
+    Samples samples = {};         // empty where row has them all
+    CameraData camera = {};       // carried, made fit for the upright picture
+    QString properties = {};      // for the user: lines of a name, a tab and a value
+    std::string_view format = {}; // the extension of the format that the bytes are of, whatever the name says
     /// Asked after all rows: why they are incomplete, where that shows itself between them; empty when they are whole.
     std::function<QString()> lastWord = {};
     bool ok() const { return static_cast<bool>(row); }
@@ -66,7 +67,7 @@ inline Decoded refused(const QString& reason) { return {0, 0, {}, reason}; }
 extern void (*sizeFound)(std::int64_t width, std::int64_t height, int bits);
 
 /// The page or frame that is read, from 0; set before decodePicture. A reader of a format that has pages looks at it,
-/// and refuses those beyond the last with kNoSuchPage.
+/// and those beyond the last are refused.
 extern int wantedPage;
 
 /// Whether this program has the readers of the extension (lower case, no dot) and of the mark of the first bytes, where

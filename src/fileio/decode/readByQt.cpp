@@ -19,12 +19,10 @@ QImage withColours(QImage row, const QImage& picture)
 
 Needs loadQtReaders()
 {
-    for (const char* format : {"gif", "ico"}) {
-        QBuffer nothing;
-        QImageReader reader(&nothing, format);
-        reader.setAutoDetectImageFormat(false);
-        reader.canRead();
-    }
+    QBuffer nothing;
+    QImageReader reader(&nothing, "ico");
+    reader.setAutoDetectImageFormat(false);
+    reader.canRead();
     return Needs::Nothing;
 }
 
@@ -61,8 +59,8 @@ namespace {
 /// Qt ignores the mask of a 24-bit picture in an icon: masked pixels become transparent here.
 QImage masked(const QImage& image, const FileBytes& file)
 {
-    constexpr std::size_t kFirstOffset = 6 + 12, kHeader = 40, kBits = 14;
-    const std::size_t at = file.little32(kFirstOffset);
+    constexpr std::size_t kDirectory = 6, kEntry = 16, kOffset = 12, kHeader = 40, kBits = 14;
+    const std::size_t at = file.little32(kDirectory + kEntry * static_cast<std::size_t>(wantedPage) + kOffset);
     if (file.little32(at) != kHeader || file.little16(at + kBits) != 24 || image.depth() != 32) return image;
     const auto lineOf = [](std::size_t bits) { return (bits + 31) / 32 * 4; };
     const auto width = static_cast<std::size_t>(image.width()), height = static_cast<std::size_t>(image.height());
@@ -79,7 +77,7 @@ QImage masked(const QImage& image, const FileBytes& file)
 
 } // namespace
 
-Decoded readByQt(FileBytes& file, const char* format, int bits)
+Decoded readByQt(FileBytes& file, const char* format)
 {
     QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.bytes().data()),
                                                static_cast<qsizetype>(file.size()));
@@ -87,38 +85,24 @@ Decoded readByQt(FileBytes& file, const char* format, int bits)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
-    QImageReader::setAllocationLimit(0); // we have limits of our own
+    QImageReader::setAllocationLimit(0);                // we have limits of our own
+    const int pages = std::max(reader.imageCount(), 1); // of an icon its sizes
+    if (wantedPage >= pages) return noSuchPage(pages);
+    if (wantedPage > 0 && !reader.jumpToImage(wantedPage)) return {};
     const QSize size = reader.size();
     if (size.isValid() && !Bits::sizeAllowed(size.width(), size.height()))
         return size.isEmpty() ? Decoded{} : refused(kTooBig);
-    if (size.isValid()) sizeFound(size.width(), size.height(), bits);
+    if (size.isValid()) sizeFound(size.width(), size.height(), 0);
     const QImage image = reader.read();
     if (image.isNull()) return {};
     if (!Bits::sizeAllowed(image.width(), image.height())) return refused(kTooBig);
-    return onWhite(reader.format() == "ico" || reader.format() == "cur" ? masked(image, file) : image);
+    Decoded picture = onWhite(reader.format() == "ico" || reader.format() == "cur" ? masked(image, file) : image);
+    picture.carried.pages = pages;
+    return picture;
 }
 
-// Qt's readers of both return the available part of a truncated file and report nothing.
+// Qt's reader returns the available part of a truncated file and reports nothing.
 namespace {
-
-bool isGifCutOff(const FileBytes& file)
-{
-    constexpr std::size_t kHeader = 13, kImageHeader = 10;
-    enum Block : std::uint32_t { Extension = 0x21, Image = 0x2c };
-    const auto colours = [&](std::size_t flagsAt) { // bytes of the palette announced by the flags
-        const std::uint32_t flags = file.byte(flagsAt);
-        return flags & 0x80 ? std::size_t{3} << ((flags & 7) + 1) : 0;
-    };
-    for (std::size_t at = kHeader + colours(kHeader - 3); at < file.size();) {
-        const std::uint32_t block = file.byte(at);
-        if (block != Extension && block != Image) return false; // damaged, but not truncated
-        at += block == Extension ? 2 : kImageHeader + colours(at + kImageHeader - 1) + 1;
-        while (at < file.size() && file.byte(at) != 0) at += 1 + file.byte(at);
-        if (at++ >= file.size()) return true;
-        if (block == Image) return false;
-    }
-    return true;
-}
 
 bool isDibCutOff(const FileBytes& file)
 {
@@ -147,11 +131,6 @@ Decoded noted(Decoded picture, bool isCutOff)
 }
 
 } // namespace
-
-Decoded readGif(FileBytes& file)
-{
-    return noted(readByQt(file, "gif", 8), file.startsWith("GIF8") && isGifCutOff(file));
-}
 
 Decoded readIcon(FileBytes& file) { return readByQt(file, "ico"); }
 Decoded readCursor(FileBytes& file) { return readByQt(file, "cur"); }

@@ -3,7 +3,8 @@
 //   velara-decode EXTENSION [WISH ...], with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4
 //   and the picture file, open for reading, at descriptor 5
 //
-// A wish is "stored" (colours as the file has them, not sRGB) or "bare" (nothing beside the pixels).
+// A wish is "stored" (colours as the file has them, not sRGB), "bare" (nothing beside the pixels) or "page=N" (the N-th
+// page or frame, from 1).
 //
 // The child may send a claim: the size and depth given by the header, and another when the reader of the extension
 // leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
@@ -35,13 +36,16 @@ constexpr std::size_t kPartMessage = std::size_t{16} << 10;
 
 constexpr const char* kStoredWish = "stored";
 constexpr const char* kBareWish = "bare";
+constexpr const char* kPageWish = "page="; // with the number
 
 /// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {
     std::uint32_t magic;
     std::int32_t width, height;
-    char reason[224];
-    std::int32_t bits = 0; // per pixel, in a claim; 0: unknown
+    char reason[208] = {};
+    std::int32_t pages = 0; // in the file; 0: unknown
+    char format[12] = {};   // the extension of the format that the bytes are of, lower case, filled up with zeros
+    std::int32_t bits = 0;  // per pixel, in a claim; 0: unknown
     Origin origin = {};
     double dotsAcross = 0, dotsDown = 0; // per inch; 0: unknown
     std::uint32_t parts[kParts] = {};    // bytes of each

@@ -274,6 +274,16 @@ QString propertiesOf(const decode::Opening& opening, const Parts& parts)
     return depth + QString::fromUtf8(parts[decode::Properties]);
 }
 
+constexpr std::int32_t kMostPages = 1 << 24; // fewer than two gigabytes can have
+
+/// Empty for one that isn't known.
+QString formatIn(const decode::Opening& opening)
+{
+    const std::string_view name(opening.format, strnlen(opening.format, sizeof opening.format));
+    const Format* format = findFormat(name);
+    return format ? QLatin1String(format->extension) : QString();
+}
+
 QString named(const Ending& ending, const QString& name)
 {
     if (!ending.whole) return printable(name + " can't be read: " + ending.reason);
@@ -313,24 +323,28 @@ QString findHelper(const QString& name)
 }
 
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits, const GoOn& goOn)
+                                 const DecoderLimits& limits, const GoOn& goOn, int page)
 {
     QString reason;
     const QString name = QFileInfo(path).fileName();
     const Descriptor file = openPicture(path, reason);
     if (!file.isOpen()) return {{}, named({false, reason}, name)};
-    return loadThroughDecoder(file, name, extension, decoder, limits, goOn);
+    return loadThroughDecoder(file, name, extension, decoder, limits, goOn, page);
 }
 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
-                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn)
+                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page)
 {
     LoadedPicture picture;
     Bits& bits = picture.bits;
+    QStringList wishes;
+    if (page > 1) wishes << decode::kPageWish + QString::number(page);
     const Ending ending =
-        load(file, extension, decoder, {}, limits, goOn, [&](const auto& opening, const Parts& parts) {
+        load(file, extension, decoder, wishes, limits, goOn, [&](const auto& opening, const Parts& parts) {
             picture.camera = cameraOf(opening, parts);
             picture.properties = propertiesOf(opening, parts);
+            picture.format = formatIn(opening);
+            picture.pages = std::clamp(opening.pages, 1, kMostPages);
             const int height = opening.height;
             {
                 const MemoryBudget budget;

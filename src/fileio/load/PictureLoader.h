@@ -34,12 +34,13 @@ inline QString findDecoder() { return findHelper("velara-decode"); }
 void readInSrgb(bool on);
 
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
-/// reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
+/// page: from 1. reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits = {}, const GoOn& goOn = {});
+                                 const DecoderLimits& limits = {}, const GoOn& goOn = {}, int page = 1);
 /// The same for a file already open for reading; name is used in the reason.
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
-                                 const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {});
+                                 const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {},
+                                 int page = 1);
 
 /// A picture scaled down to fit a box, with its properties.
 struct SmallPicture {

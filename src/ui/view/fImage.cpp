@@ -116,6 +116,7 @@ void fImage::activate()
         frame_.setStatus(Panel::Name, Caption());
         for (const Panel stale : {Panel::Pos, Panel::Ext, Panel::Size}) frame_.setStatus(stale, {});
         if (PictureExists()) showSize();
+        frame_.setStatus(Panel::Page, document_.file.pageText());
         frame_.setStatus(Panel::Zoom, zoomText());
         setMouseScroll(frame_.mouseScrolling());
         tools_->showHint();
@@ -208,7 +209,8 @@ void fImage::closeEvent(QCloseEvent* event)
     }
     forget();
     if (frame_.workspace().documents().empty())
-        for (const Panel panel : {Panel::Pos, Panel::Ext, Panel::Size, Panel::Name, Panel::Zoom, Panel::Hint})
+        for (const Panel panel :
+             {Panel::Pos, Panel::Ext, Panel::Size, Panel::Page, Panel::Name, Panel::Zoom, Panel::Hint})
             frame_.setStatus(panel, {});
     event->accept();
 }

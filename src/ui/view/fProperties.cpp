@@ -32,7 +32,7 @@ QString pixelsText(const Document& document)
 QList<Property> propertiesOf(const Document& document)
 {
     const FileFacts& file = document.file;
-    const Family* family = familyOf(file.path);
+    const Family* family = familyOf(file.format.isEmpty() ? file.path : "." + file.format);
     const QFileInfo onDisk(file.path);
     QList<Property> all{{fProperties::tr("File"), printable(file.path)}};
     if (family) all << Property{fProperties::tr("Kind"), text(family->name)};

@@ -19,12 +19,13 @@ struct PictureLoader : FolderTest {
     /// A program that runs the script in place of the helper.
     QString fakeDecoder(const QByteArray& script) const
     {
-        const QString fake =
-            put("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
-                        "s = socket.socket(fileno=3)\n"
-                        "def opening(w, h, why=b'', magic=0x31444c56, dots=(0, 0), parts=(0, 0, 0, 0, 0)):\n"
-                        "    s.send(struct.pack('<Iii244s2d5I4x', magic, w, h, why, *dots, *parts))\n" +
-                            script);
+        const QString fake = put(
+            "fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
+                    "s = socket.socket(fileno=3)\n"
+                    "def opening(w, h, why=b'', magic=0x31444c56, dots=(0, 0), parts=(0, 0, 0, 0, 0),\n"
+                    "            pages=0, kind=b''):\n"
+                    "    s.send(struct.pack('<Iii208si12s20x2d5I4x', magic, w, h, why, pages, kind, *dots, *parts))\n" +
+                        script);
         QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return fake;
     }
@@ -68,7 +69,7 @@ TEST_F(PictureLoader, TheFourthByteIsNotTheChilds)
 TEST_F(PictureLoader, TakesWhatAPictureCarries)
 {
     const QByteArray script =
-        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7))\n"
+        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7), pages=12, kind=b'gif')\n"
         "for part in b'exif!', b'x' * 16384, b'y' * 3616, b'i', b'abc', b'Lens\\tX\\n': s.send(part)\n"
         "s.send(struct.pack('<i', 0))\n";
     const LoadedPicture picture = loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder(script));
@@ -77,6 +78,14 @@ TEST_F(PictureLoader, TakesWhatAPictureCarries)
     EXPECT_EQ(picture.camera.comment + ' ' + picture.properties, "abc Lens\tX\n");
     EXPECT_EQ(picture.camera.dotsAcross, 72);
     EXPECT_EQ(picture.camera.dotsDown, 300);
+    EXPECT_EQ(picture.pages, 12);
+    EXPECT_EQ(picture.format, "gif");
+
+    const QByteArray lie = "opening(1, 1, pages=-3, kind=b'\\xff' * 12); s.send(struct.pack('<i', 0))\n";
+    const LoadedPicture lied = loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder(lie));
+    EXPECT_TRUE(lied.ok()) << lied.reason.toStdString();
+    EXPECT_EQ(lied.pages, 1);
+    EXPECT_EQ(lied.format, "");
 }
 
 TEST_F(PictureLoader, TellsTheReaderWhatIsWanted)
@@ -84,6 +93,7 @@ TEST_F(PictureLoader, TellsTheReaderWhatIsWanted)
     const QByteArray script = "opening(0, 0, ' '.join(sys.argv[1:]).encode())\n";
     const QString file = put("x.ppm", kPicture), fake = fakeDecoder(script);
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm"));
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake, {}, {}, 3).reason.endsWith(": ppm page=3"));
     readInSrgb(false);
     EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm stored"));
     readInSrgb(true);

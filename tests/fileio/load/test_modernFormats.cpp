@@ -3,6 +3,9 @@
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
+#include <QImage>
+#include <algorithm>
+#include <string_view>
 
 namespace velara {
 
@@ -10,9 +13,9 @@ namespace {
 
 struct ModernFormats : FolderTest {
     const QString decoder = builtPath("velara-decode");
-    LoadedPicture load(const QByteArray& bytes, const QString& extension) const
+    LoadedPicture load(const QByteArray& bytes, const QString& extension, const DecoderLimits& limits = {}) const
     {
-        return loadThroughDecoder(put("a." + extension, bytes), extension, decoder);
+        return loadThroughDecoder(put("a." + extension, bytes), extension, decoder, limits);
     }
 };
 
@@ -48,18 +51,143 @@ const struct {
      "<rect width='4' height='4' fill='#c8280a'/><text y='3' fill='#c8280a'>a</text></svg>"},
 };
 
+QByteArray big(int value, int bytes)
+{
+    QByteArray text;
+    for (int i = bytes - 1; i >= 0; --i) text += char(value >> 8 * i);
+    return text;
+}
+
+QByteArray box(const char* kind, const QByteArray& contents)
+{
+    return big(int(contents.size()) + 8, 4) + kind + contents;
+}
+QByteArray versioned(const char* kind, const QByteArray& contents, int version = 0)
+{
+    return box(kind, big(version << 24, 4) + contents);
+}
+
+/// Tiles that are all the flat HEIC, said to be of that side.
+QByteArray tiledHeic(int rows, int columns, int side = 64)
+{
+    constexpr int kProfile = 0x78, kLength = 4;
+    const QByteArray flat = std::ranges::find(kFlat, std::string_view("heic"), [](const auto& f) {
+                                return std::string_view(f.extension);
+                            })->bytes;
+    const QByteArray tile = flat.mid(flat.indexOf("mdat") + kLength);
+    const QByteArray properties = flat.mid(flat.indexOf("hvcC") - kLength, kProfile) +
+                                  versioned("ispe", big(side, 4) + big(side, 4)) +
+                                  versioned("ispe", big(64 * columns, 4) + big(64 * rows, 4));
+    const QByteArray grid =
+        big(0, 2) + big(rows - 1, 1) + big(columns - 1, 1) + big(64 * columns, 2) + big(64 * rows, 2);
+    const auto meta = [&](qsizetype at) {
+        const auto item = [](int id, const char* kind) {
+            return versioned("infe", big(id, 2) + big(0, 2) + kind + big(0, 1), 2);
+        };
+        const auto place = [](int id, qsizetype from, qsizetype length) {
+            return big(id, 2) + big(0, 2) + big(1, 2) + big(int(from), 4) + big(int(length), 4);
+        };
+        const QByteArray tiles = big(1, 2) + big(rows * columns, 2) + big(2, 2).repeated(rows * columns);
+        return versioned("meta",
+                         versioned("hdlr", big(0, 4) + "pict" + QByteArray(13, '\0')) + versioned("pitm", big(1, 2)) +
+                             versioned("iloc", QByteArray::fromHex("44000002") + place(1, at, grid.size()) +
+                                                   place(2, at + grid.size(), tile.size())) +
+                             versioned("iinf", big(2, 2) + item(1, "grid") + item(2, "hvc1")) +
+                             versioned("iref", box("dimg", tiles)) +
+                             box("iprp", box("ipco", properties) +
+                                             versioned("ipma", QByteArray::fromHex("00000002 000101 03 000202 8102"))));
+    };
+    const QByteArray head = box("ftyp", "heic" + big(0, 4) + "mif1heicmiaf");
+    return head + meta(head.size() + meta(0).size() + 8) + box("mdat", grid + tile);
+}
+
+/// The head of a square JPEG XL, whose length of a side takes 30 bits, with all else as usual, and pixels of another.
+QByteArray squareJxl(unsigned side)
+{
+    constexpr std::uint64_t kAsWideAsHigh = 1ULL << 33, kUsual = 3ULL << 36;
+    const std::uint64_t size = 0b110 | std::uint64_t{side - 1} << 3 | kAsWideAsHigh | kUsual;
+    QByteArray bytes = QByteArray::fromHex("ff0a");
+    for (int i = 0; i < 5; ++i) bytes += char(size >> 8 * i);
+    return bytes + kFlat[1].bytes.mid(4);
+}
+
+QByteArray svg(const QByteArray& contents, const QByteArray& before = {})
+{
+    return before +
+           "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='9' "
+           "height='9'>" +
+           contents + "</svg>";
+}
+const QByteArray kRed = "<rect width='9' height='9' fill='#ff0000'/>";
+
 } // namespace
+
+TEST_F(ModernFormats, ThousandsOfTilesAreReadOrRefusedInTime)
+{
+    const LoadedPicture few = load(tiledHeic(2, 3), "heic");
+    EXPECT_EQ(few.bits.width(), 192) << few.reason.toStdString();
+    const LoadedPicture many = load(tiledHeic(90, 89), "heic");
+    EXPECT_TRUE(many.bits.height() == 5760 || many.reason.contains("took too long")) << many.reason.toStdString();
+    DecoderLimits second;
+    second.cpuSeconds = second.mostSeconds = 1;
+    const QString late = load(tiledHeic(255, 256), "heic", second).reason;
+    EXPECT_EQ(late, "a.heic can't be read: reading it took too long and was stopped");
+    const QString lies = load(tiledHeic(90, 89, 16000), "heic").reason;
+    EXPECT_EQ(lies, "a.heic can't be read: it is damaged or not a HEIF picture");
+}
+
+TEST_F(ModernFormats, AJxlThatClaimsABillionPixelsIsRefused)
+{
+    const QString tooBig =
+        "a.jxl can't be read: it is wider or higher than 32767 pixels, or has more than 268 million pixels";
+    for (const unsigned side : {1U << 15, 1U << 20, 1U << 30}) EXPECT_EQ(load(squareJxl(side), "jxl").reason, tooBig);
+    EXPECT_FALSE(load(squareJxl(16383), "jxl").ok());
+}
+
+TEST_F(ModernFormats, AnSvgFollowsNothingAndEnds)
+{
+    const QByteArray nodes = svg(QByteArray("<g/>").repeated(1000000) + kRed);
+    const LoadedPicture million = load(nodes, "svg", limitsFor(nodes.size()));
+    ASSERT_TRUE(million.ok()) << million.reason.toStdString();
+    const Pixel red{{0, 0, 255, 0}}, white{{255, 255, 255, 0}};
+    EXPECT_EQ(million.bits.at(4, 4), red);
+
+    QImage picture(9, 9, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    const QByteArray file = path("red.png").toLocal8Bit();
+    ASSERT_TRUE(picture.save(file));
+    const QByteArray image = "<image width='9' height='9' ";
+    for (const QByteArray& reference :
+         {"xlink:href='" + file, "xlink:href='file://" + file, "href='" + file, QByteArray("xlink:href='red.png"),
+          QByteArray("xlink:href='http://localhost/red.png")}) {
+        const LoadedPicture drawn = load(svg(image + reference + "'/>"), "svg");
+        ASSERT_TRUE(drawn.ok()) << reference.constData() << drawn.reason.toStdString();
+        EXPECT_EQ(drawn.bits.at(4, 4), white) << reference.constData();
+    }
+
+    const QByteArray outside = "<!DOCTYPE svg [<!ENTITY x SYSTEM 'file://" + path("red.svg").toLocal8Bit() + "'>]>";
+    put("red.svg", kRed);
+    const LoadedPicture without = load(svg("&x;", outside), "svg");
+    EXPECT_TRUE(!without.ok() || without.bits.at(4, 4) == white);
+    QByteArray bomb = "<!DOCTYPE svg [<!ENTITY a0 'ha'>";
+    for (int i = 1; i < 12; ++i)
+        bomb +=
+            "<!ENTITY a" + QByteArray::number(i) + " '" + ("&a" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
+    EXPECT_EQ(load(svg("<text>&a11;</text>", bomb + "]>"), "svg").reason,
+              "a.svg can't be read: it is damaged or not an SVG picture");
+}
 
 TEST_F(ModernFormats, AreReadUnderTheirNamesAndUnderOthers)
 {
     for (const auto& flat : kFlat)
-        for (const char* name : {flat.extension, "jpg", "xyz", ""}) {
+        for (const char* name : {flat.extension, "jpg", "heic", "xyz", ""}) {
             const LoadedPicture picture = load(flat.bytes, name);
             ASSERT_EQ(picture.bits.width(), flat.side) << flat.extension << ' ' << picture.reason.toStdString();
             EXPECT_EQ(picture.bits.height(), flat.side);
             const Pixel got = picture.bits.at(flat.side - 1, flat.side - 1), wanted{{10, 40, 200, 0}};
             for (int c = 0; c < 3; ++c) EXPECT_NEAR(got.c[c], wanted.c[c], 1) << flat.extension << " as " << name;
             EXPECT_EQ(picture.reason, "");
+            EXPECT_EQ(picture.format, flat.extension) << "as " << name;
         }
 }
 

@@ -34,7 +34,7 @@ struct RealFiles final : RecordingPlatform {
         };
         return RecordingPlatform::inBackground(held, std::move(done));
     }
-    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}) override
+    LoadedPicture loadPicture(const QString& path, const QString& extension, const GoOn& goOn = {}, int = 1) override
     {
         ++reads;
         if (holdsReading) holds = true;

@@ -5,7 +5,7 @@
 
 namespace velara::decode {
 
-Tiff::Tiff(const FileBytes& file) : file_(file)
+Tiff::Tiff(const TiffPage& page) : file_(page.file)
 {
     TIFFSetErrorHandler(nullptr);
     TIFFSetWarningHandler(nullptr);
@@ -16,6 +16,9 @@ Tiff::Tiff(const FileBytes& file) : file_(file)
         "", "rm", this, read, [](thandle_t, void*, tmsize_t) { return tmsize_t{0}; }, seek, nothing, size, nullptr,
         nullptr);
     if (!tiff_) throw Damage("no picture");
+    if (page.directory == 0 || TIFFSetDirectory(tiff_, page.directory)) return;
+    TIFFClose(tiff_);
+    throw Damage("no such page");
 }
 
 tmsize_t Tiff::read(thandle_t handle, void* to, tmsize_t count)
@@ -54,6 +57,16 @@ bool Tiff::endsInside() const
     return true;
 }
 
+std::vector<tdir_t> pagesOf(const FileBytes& file)
+{
+    constexpr std::uint32_t kNoPage = FILETYPE_REDUCEDIMAGE | FILETYPE_MASK;
+    const Tiff tiff(TiffPage{file});
+    std::vector<tdir_t> pages{0};
+    for (tdir_t directory = 1; TIFFReadDirectory(tiff.get()); ++directory)
+        if (!(tiff.number<std::uint32_t>(TIFFTAG_SUBFILETYPE, 0) & kNoPage)) pages.push_back(directory);
+    return pages;
+}
+
 Carried carriedByTiff(const Tiff& tiff)
 {
     Carried carried;
@@ -76,7 +89,6 @@ Carried carriedByTiff(const Tiff& tiff)
         carried.dotsAcross = tiff.number(TIFFTAG_XRESOLUTION, 0.0F) * scale;
         carried.dotsDown = tiff.number(TIFFTAG_YRESOLUTION, 0.0F) * scale;
     }
-    carried.pages = std::max<int>(1, TIFFNumberOfDirectories(tiff.get()));
     return carried;
 }
 

@@ -6,11 +6,16 @@
 
 namespace velara::decode {
 
-/// The first picture of a file.
+/// A picture of a file, by the number of its directory.
+struct TiffPage {
+    FileBytes file;
+    tdir_t directory = 0;
+};
+
 class Tiff {
   public:
     /// Throws Damage.
-    explicit Tiff(const FileBytes& file);
+    explicit Tiff(const TiffPage& page);
     ~Tiff() { TIFFClose(tiff_); }
     Tiff(const Tiff&) = delete;
     Tiff& operator=(const Tiff&) = delete;
@@ -36,7 +41,11 @@ class Tiff {
     TIFF* tiff_ = nullptr;
 };
 
-/// What the picture carries; orientation is the tag's: the rows are as the file has them.
+/// The directories of the pages: the first one, and those behind it that are neither a smaller copy of another page
+/// nor a mask, up to one that is damaged.
+std::vector<tdir_t> pagesOf(const FileBytes& file);
+
+/// What the picture carries, but for the number of pages; orientation is the tag's: the rows are as the file has them.
 Carried carriedByTiff(const Tiff& tiff);
 
 } // namespace velara::decode

@@ -29,7 +29,7 @@ TiffKind::TiffKind(const Tiff& tiff)
 {
 }
 
-TiffLines::TiffLines(const FileBytes& file) : tiff_(file), kind_(tiff_), rowsInBand_(rowsInBand(tiff_, kind_))
+TiffLines::TiffLines(const TiffPage& page) : tiff_(page), kind_(tiff_), rowsInBand_(rowsInBand(tiff_, kind_))
 {
     const auto whole = [](tmsize_t size) {
         if (size <= 0) throw Damage("strips without size");
@@ -91,7 +91,7 @@ const std::uint8_t* TiffLines::next()
     return line_.data();
 }
 
-TiffColours::TiffColours(const FileBytes& file) : tiff_(file)
+TiffColours::TiffColours(const TiffPage& page) : tiff_(page)
 {
     char why[1024] = "";
     if (!TIFFRGBAImageOK(tiff_.get(), why) || !TIFFRGBAImageBegin(&image_, tiff_.get(), 1, why)) throw Damage(why);

@@ -17,7 +17,7 @@ struct TiffKind {
 /// Strips that are damaged give what could be read; a damaged tile throws Damage.
 class TiffLines {
   public:
-    explicit TiffLines(const FileBytes& file);
+    explicit TiffLines(const TiffPage& page);
     const TiffKind& kind() const { return kind_; }
     const std::uint8_t* next();
     void skip() { next(); }
@@ -37,7 +37,7 @@ class TiffLines {
 /// Pixels that the library makes of colour spaces of its own, and of eight bits with alpha.
 class TiffColours {
   public:
-    explicit TiffColours(const FileBytes& file);
+    explicit TiffColours(const TiffPage& page);
     ~TiffColours() { TIFFRGBAImageEnd(&image_); }
     TiffColours(const TiffColours&) = delete;
     TiffColours& operator=(const TiffColours&) = delete;

@@ -83,9 +83,9 @@ Convert indicesOf(const TiffKind& kind, const std::array<Pixel, 256>& palette)
 
 /// Measurements are shown from the darkest to the brightest, at least from 255 down to 0 where they are all on one
 /// side.
-template <class Sample> Convert measuredOf(const FileBytes& file, const TiffKind& kind)
+template <class Sample> Convert measuredOf(const TiffPage& page, const TiffKind& kind)
 {
-    TiffLines lines(file);
+    TiffLines lines(page);
     Sample low = 255, high = 0;
     const std::size_t step = kind.samples;
     for (std::uint32_t y = 0; y < kind.height; ++y) {
@@ -112,7 +112,7 @@ template <class Sample> Convert measuredOf(const FileBytes& file, const TiffKind
 /// Lines of samples, converted.
 class TiffPixels {
   public:
-    TiffPixels(const FileBytes& file, Convert convert) : lines_(file), convert_(std::move(convert)) {}
+    TiffPixels(const TiffPage& page, Convert convert) : lines_(page), convert_(std::move(convert)) {}
     void skip() { lines_.skip(); }
     void read(Pixel* row) { convert_(lines_.next(), row); }
     /// As Samples has them, of one and two bytes; only the first colours count.
@@ -152,7 +152,7 @@ bool isColoured(const TiffKind& kind)
 }
 
 /// Nothing: a kind that isn't read.
-Convert converterOf(const FileBytes& file, const Tiff& tiff, const TiffKind& kind)
+Convert converterOf(const TiffPage& page, const Tiff& tiff, const TiffKind& kind)
 {
     const bool isRgb = kind.photometric == PHOTOMETRIC_RGB;
     if (isRgb && kind.samples < 3) return {};
@@ -167,11 +167,11 @@ Convert converterOf(const FileBytes& file, const Tiff& tiff, const TiffKind& kin
     if (kind.bits == 32 && isFloat && kind.samples >= 3) return coloursOf<float>(kind, lightByte);
     if (kind.bits == 16 && isFloat && kind.samples >= 3) return coloursOf<_Float16>(kind, lightByte);
     if (kind.samples > 1) return {};
-    if (kind.bits == 16 && isFloat) return measuredOf<_Float16>(file, kind);
-    if (kind.bits == 16 && isSigned) return measuredOf<std::int16_t>(file, kind);
-    if (kind.bits == 32 && isFloat) return measuredOf<float>(file, kind);
-    if (kind.bits == 32) return isSigned ? measuredOf<std::int32_t>(file, kind) : measuredOf<std::uint32_t>(file, kind);
-    if (kind.bits == 64 && isFloat) return measuredOf<double>(file, kind);
+    if (kind.bits == 16 && isFloat) return measuredOf<_Float16>(page, kind);
+    if (kind.bits == 16 && isSigned) return measuredOf<std::int16_t>(page, kind);
+    if (kind.bits == 32 && isFloat) return measuredOf<float>(page, kind);
+    if (kind.bits == 32) return isSigned ? measuredOf<std::int32_t>(page, kind) : measuredOf<std::uint32_t>(page, kind);
+    if (kind.bits == 64 && isFloat) return measuredOf<double>(page, kind);
     return {};
 }
 
@@ -187,7 +187,11 @@ try {
 
 Decoded readTiff(FileBytes& file)
 try {
-    const Tiff tiff(file);
+    const std::vector<tdir_t> pages = pagesOf(file);
+    const int count = static_cast<int>(pages.size());
+    if (wantedPage >= count) return noSuchPage(count);
+    const TiffPage page{file, pages[static_cast<std::size_t>(wantedPage)]};
+    const Tiff tiff(page);
     const TiffKind kind(tiff);
     if (kind.width == 0 || kind.height == 0 || kind.bits == 0 || kind.samples == 0) return {};
     if (!Bits::sizeAllowed(kind.width, kind.height)) return refused(kTooBig);
@@ -196,22 +200,23 @@ try {
     Decoded picture{static_cast<int>(kind.width), static_cast<int>(kind.height), {}, {}};
     const bool endsInside = tiff.endsInside();
     if (isColoured(kind)) {
-        const auto begin = [file] { return std::make_unique<TiffColours>(file); };
+        const auto begin = [page] { return std::make_unique<TiffColours>(page); };
         if (!endsInside && !areWhole(*begin(), kind.height)) return {};
         picture.row = rowsInOrder(&TiffColours::read, begin, begin());
     } else {
-        const Convert convert = converterOf(file, tiff, kind);
+        const Convert convert = converterOf(page, tiff, kind);
         if (!convert) return {};
-        const auto begin = [file, convert] { return std::make_unique<TiffPixels>(file, convert); };
+        const auto begin = [page, convert] { return std::make_unique<TiffPixels>(page, convert); };
         if (!endsInside) picture.reason = kCutOff; // the available part is shown
         if (!endsInside && kind.isTiled && !areWhole(*begin(), kind.height)) return {};
         picture.row = rowsInOrder(&TiffPixels::read, begin, begin());
     }
     picture.carried = carriedByTiff(tiff);
+    picture.carried.pages = count;
     const bool isInked = kind.photometric == PHOTOMETRIC_SEPARATED && kind.samples > 3;
     const bool isPlain = kind.format == SAMPLEFORMAT_UINT || kind.format == SAMPLEFORMAT_VOID;
     if (isPlain && ((isInked && kind.bits == 8) || (kind.bits == 16 && (isInked || !isColoured(kind))))) {
-        const auto stored = [file] { return std::make_unique<TiffPixels>(file, Convert()); };
+        const auto stored = [page] { return std::make_unique<TiffPixels>(page, Convert()); };
         picture.samples = {isInked ? 4 : 3, kind.bits / 8, rowsInOrder(&TiffPixels::readSamples, stored)};
     }
     return picture;

@@ -189,7 +189,8 @@ Decoded readHeif(FileBytes& file)
             .code != heif_error_Ok)
         return {};
     const std::vector<heif_item_id> images = imagesOf(context.get());
-    if (wantedPage >= static_cast<int>(images.size())) return images.empty() ? Decoded{} : refused(kNoSuchPage);
+    const int pages = static_cast<int>(images.size());
+    if (wantedPage >= pages) return pages == 0 ? Decoded{} : noSuchPage(pages);
     heif_image_handle* found = nullptr;
     const heif_error error =
         heif().heif_context_get_image_handle(context.get(), images[static_cast<std::size_t>(wantedPage)], &found);
@@ -197,7 +198,7 @@ Decoded readHeif(FileBytes& file)
     if (error.code != heif_error_Ok || !handle) return {};
     Decoded picture = decoded(handle.get());
     picture.carried = carriedBy(handle.get());
-    picture.carried.pages = static_cast<int>(images.size());
+    picture.carried.pages = pages;
     return picture;
 }
 

@@ -227,10 +227,13 @@ Needs prepareJxl()
 Decoded readJxl(FileBytes& file)
 {
     if (!jxl().late.complete()) return refused("the library that reads JPEG XL pictures (libjxl) is missing");
+    Carried carried;
+    if (wantedPage > 0) carried = carriedBy(file);
+    if (wantedPage >= carried.pages) return noSuchPage(carried.pages);
     Decoded picture = pixelsOf(file);
     if (!picture.ok()) return picture;
     std::vector<std::uint8_t> profile = std::move(picture.carried.profile);
-    picture.carried = carriedBy(file);
+    picture.carried = wantedPage > 0 ? std::move(carried) : carriedBy(file);
     picture.carried.profile = std::move(profile);
     return picture;
 }

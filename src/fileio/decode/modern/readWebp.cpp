@@ -31,7 +31,7 @@ Carried carriedBy(const WebPDemuxer* demuxer)
     carried.exif = exifFrom(chunk(demuxer, "EXIF"));
     carried.xmp = chunk(demuxer, "XMP ");
     carried.pages = static_cast<int>(
-        std::min<std::uint32_t>(WebPDemuxGetI(demuxer, WEBP_FF_FRAME_COUNT), std::numeric_limits<int>::max()));
+        std::clamp<std::uint32_t>(WebPDemuxGetI(demuxer, WEBP_FF_FRAME_COUNT), 1, std::numeric_limits<int>::max()));
     return carried;
 }
 
@@ -76,8 +76,9 @@ Decoded readFrame(const WebPData& data, int width, int height, Carried carried)
     std::uint8_t* canvas = nullptr;
     int when = 0;
     if (!animation) return {};
+    if (wantedPage >= carried.pages) return noSuchPage(carried.pages);
     for (int i = 0; i <= wantedPage; ++i)
-        if (!WebPAnimDecoderGetNext(animation.get(), &canvas, &when)) return i == 0 ? Decoded{} : refused(kNoSuchPage);
+        if (!WebPAnimDecoderGetNext(animation.get(), &canvas, &when)) return {};
     return pixelsOf({animation, canvas}, width, height, std::move(carried));
 }
 

@@ -28,6 +28,7 @@
 namespace velara::decode {
 
 void (*sizeFound)(std::int64_t width, std::int64_t height, int bits) = [](std::int64_t, std::int64_t, int) {};
+int wantedPage = 0;
 
 namespace {
 
