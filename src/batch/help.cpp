@@ -89,8 +89,8 @@ is transparent.
            they are stored; srgb without it
 --metadata keep|no-place|none
            what the camera wrote, date, exposure and place, goes into OUTPUT,
-           or all but the place, or nothing; keep without it. Not with --web
-           and --icon, whose files have none
+           or all but the place, or nothing; keep without it, but none with
+           --web. Icons have no place for it
 
 --list     prints every word and every operation with its arguments
 --partial  takes what is there of a picture file whose end is missing

@@ -60,6 +60,7 @@ fMain::fMain(Platform& platform, Setup& setup)
     capture_ = std::make_unique<Capture>(*this);
     makeBoxes();
     bars_->loadLastUsed();
+    chooseScreenColours();
     showColors();
     refreshUndoState();
     qApp->installEventFilter(this); // pointer moves, for the side pane

@@ -195,6 +195,14 @@ void fMain::options()
     if (dialog.exec() != QDialog::Accepted) return;
     dialogFolder_ = setup_.ImagesPath;
     readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
+    chooseScreenColours();
+}
+
+void fMain::chooseScreenColours()
+{
+    const bool on = pictureSetting(platform_, PictureSetting::ScreenProfile);
+    if (on == (screenColours_ != nullptr)) return;
+    screenColours_ = on ? std::make_unique<ScreenColours>(platform_) : nullptr;
 }
 
 void fMain::about()

@@ -1,4 +1,5 @@
 #include "fileio/decode/libraries/Tiff.h"
+#include "fileio/decode/facts/tiffExif.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -60,6 +61,7 @@ Carried carriedByTiff(const Tiff& tiff)
     const auto orientation = tiff.number<std::uint16_t>(TIFFTAG_ORIENTATION, 0);
     if (orientation <= 8) carried.orientation = orientation;
     take(carried.profile, tiff.bytes(TIFFTAG_ICCPROFILE), kMostProfile);
+    carried.exif = exifOfTiff(tiff.file(), TIFFCurrentDirOffset(tiff.get()));
     take(carried.xmp, tiff.bytes(TIFFTAG_XMLPACKET), kMostFacts);
     take(carried.iptc, iptcIn(tiff.bytes(TIFFTAG_PHOTOSHOP)), kMostFacts);
     if (const Span longs = tiff.bytes(TIFFTAG_RICHTIFFIPTC); carried.iptc.empty() && longs.size() <= kMostFacts / 4) {
