@@ -6,6 +6,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "seams/Platform.h"
+#include "ui/widgets/ScreenColours.h"
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>

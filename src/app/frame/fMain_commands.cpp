@@ -22,6 +22,7 @@
 #include "seams/findRow.h"
 #include "seams/text.h"
 #include "tools/toolRows.h"
+#include "ui/widgets/ScreenColours.h"
 #include <algorithm>
 
 namespace velara {

@@ -19,7 +19,7 @@ std::shared_ptr<const ColourTable> ColourTable::of(const Bits& picture)
         for (int x = 0; x < kTableWidth; ++x) {
             const Pixel high = picture.row(y)[x], low = picture.row(y + kTableSide)[x];
             const auto level = [&](int c) { return static_cast<float>(high.c[c] << 8 | low.c[c]) / 257; };
-            table->colours_.push_back({level(0), level(1), level(2), 0});
+            table->colours_.push_back(Colour{level(0), level(1), level(2), 0});
         }
     for (int level = 0; level < 256; ++level) {
         const int step = std::min(level * (kTableSide - 1) / 255, kTableSide - 2);

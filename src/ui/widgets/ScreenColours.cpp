@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 #include <sys/mman.h>
 
 namespace velara {
@@ -19,11 +20,6 @@ std::shared_ptr<const ColourTable> tableOf(const QByteArray& profile, const GoOn
     return ColourTable::of(loadColourTable(file, findDecoder(), goOn).bits);
 }
 
-void repaintAll()
-{
-    for (QWidget* window : QApplication::topLevelWidgets()) window->update();
-}
-
 } // namespace
 
 ScreenColours* ScreenColours::theOne_ = nullptr;
@@ -36,7 +32,20 @@ ScreenColours::ScreenColours(Platform& platform, std::optional<QDBusConnection> 
     for (const auto signal :
          {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved, &QGuiApplication::primaryScreenChanged})
         connect(qGuiApp, signal, this, &ScreenColours::refresh);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &ScreenColours::follow);
+    for (QWindow* window : QGuiApplication::topLevelWindows()) follow(window);
     refresh();
+}
+
+/// A window that goes to another screen is shown by that one's table.
+void ScreenColours::follow(QWindow* window)
+{
+    if (window) connect(window, &QWindow::screenChanged, this, &ScreenColours::repaintAll, Qt::UniqueConnection);
+}
+
+void ScreenColours::repaintAll()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) window->update();
 }
 
 ScreenColours::~ScreenColours()

@@ -7,12 +7,14 @@
 #include <map>
 
 class QWidget;
+class QWindow;
 
 namespace velara {
 
 class Platform;
 
 class ScreenColours final : public QObject {
+    Q_OBJECT
   public:
     /// Begins to look for profiles; platform makes the tables in the background.
     explicit ScreenColours(Platform& platform, std::optional<QDBusConnection> bus = {});
@@ -29,6 +31,8 @@ class ScreenColours final : public QObject {
 
     const ColourTable* tableOf(const QWidget& widget) const;
     void refresh();
+    void follow(QWindow* window);
+    void repaintAll();
     void found(const QString& screen, const QByteArray& profile);
 
     static ScreenColours* theOne_;

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <regex>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -114,9 +115,14 @@ TEST(Cage, AnEncoderHasThreadsAndNoFiles)
                   for (std::thread& each : all) each.join();
                   if (sum != 8) _exit(1);
               }));
-    void (*const kForbidden[])() = {[] { open("/etc/passwd", O_RDONLY); },
+    EXPECT_EQ(4, endsBy([] {
+                  if (open("/etc/passwd", O_RDONLY) < 0 && errno == EACCES) _exit(4);
+              }));
+    void (*const kForbidden[])() = {[] { unlink("/tmp/velara-nothing"); },
+                                    [] { mkdir("/tmp/velara-nothing", 0700); },
                                     [] { [[maybe_unused]] const pid_t child = fork(); },
-                                    [] { socket(AF_INET, SOCK_STREAM, 0); }, [] { kill(getppid(), 0); },
+                                    [] { socket(AF_INET, SOCK_STREAM, 0); },
+                                    [] { kill(getppid(), 0); },
                                     [] { execl("/bin/true", "true", nullptr); }};
     for (const auto& does : kForbidden) EXPECT_EQ(-SIGSYS, endsBy(does)) << &does - kForbidden;
 }

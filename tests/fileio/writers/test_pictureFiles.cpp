@@ -185,6 +185,35 @@ TEST_F(PictureFiles, WhatTheCameraWroteIsReadBack)
     }
 }
 
+// What another program has put into a TIFF file, of either byte order, small and behind many pixels.
+TEST_F(PictureFiles, AStrangersTiffIsRead)
+{
+    if (QStandardPaths::findExecutable("exiftool").isEmpty()) GTEST_SKIP() << "there is no exiftool";
+    for (const bool little : {true, false})
+        for (const int side : {20, 900}) {
+            OutputFile file(path("a.tif"));
+            ASSERT_TRUE(writeTiff(randomBits(side, side, 3), file,
+                                  {.exif = QByteArray(little ? "II*\0\10\0\0\0" : "MM\0*\0\0\0\10", 8)}) &&
+                        file.commit());
+            QProcess writer;
+            writer.start("exiftool",
+                         {"-overwrite_original", "-Make=Vel", "-ExifIFD:LensModel=A long lens",
+                          "-ExifIFD:ExposureTime=0.25", "-GPSLatitude=52.5", "-IPTC:City=Berlin", path("a.tif")});
+            ASSERT_TRUE(writer.waitForFinished());
+            const CameraData camera = readBack(path("a.tif")).camera;
+            EXPECT_TRUE(camera.iptc.endsWith(QByteArray("\x1c\2\x5a\0\6Berlin", 11)))
+                << camera.iptc.toHex().toStdString();
+            const ExifBytes exif(camera.exif);
+            const std::uint32_t main = exif.first(), details = exif.directoryOf(main, ExifTag::Details);
+            ASSERT_TRUE(exif.find(details, ExifTag::Lens) && exif.find(details, ExifTag::ExposureTime));
+            EXPECT_EQ(exif.text(*exif.find(main, ExifTag::Make)), "Vel");
+            EXPECT_EQ(exif.text(*exif.find(details, ExifTag::Lens)), "A long lens");
+            EXPECT_EQ(exif.fraction(*exif.find(details, ExifTag::ExposureTime)), 0.25);
+            EXPECT_EQ(exif.fraction(*exif.find(exif.directoryOf(main, ExifTag::Place), 2)), 52);
+            EXPECT_LT(exif.bytes().size(), 1000) << "it has pixels in it";
+        }
+}
+
 // By our own reader, in a file of each kind made of what was read before: the same, and no more from file to file.
 TEST_F(PictureFiles, WhatTheCameraWroteStaysTheSame)
 {

@@ -95,10 +95,13 @@ bool allowFonts(scmp_filter_ctx filter)
 
 bool allowThreads(scmp_filter_ctx filter)
 {
+    // The C library's memory of several threads asks the system for the number of processors, by a path; it does
+    // without.
+    bool ok = seccomp_rule_add(filter, SCMP_ACT_ERRNO(EACCES), SCMP_SYS(openat), 0) == 0;
     // clone3 has its flags in memory, where no filter sees them; the C library then takes the older call.
-    bool ok = seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0 &&
-              seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1, SCMP_A0(SCMP_CMP_EQ, kThread)) == 0 &&
-              seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)) == 0;
+    ok &= seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0 &&
+          seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1, SCMP_A0(SCMP_CMP_EQ, kThread)) == 0 &&
+          seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)) == 0;
     for (const int call : kForThreads) ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
     return ok;
 }
