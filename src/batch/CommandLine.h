@@ -22,12 +22,12 @@ struct LineStep {
 struct CommandLine {
     QString input, output;
     std::vector<LineStep> steps;
-    std::optional<WebOrder> web;   // OUTPUT is a web file
-    std::optional<IconOrder> icon; // OUTPUT is an icon; not both
-    std::optional<int> threads;    // all cores without it
-    int page = 1;                  // of INPUT
-    CameraKept camera = CameraKept::All;
-    bool stored = false; // colours as the file has them
+    std::optional<WebOrder> web;      // OUTPUT is a web file
+    std::optional<IconOrder> icon;    // OUTPUT is an icon; not both
+    std::optional<int> threads;       // all cores without it
+    int page = 1;                     // of INPUT
+    std::optional<CameraKept> camera; // as given
+    bool stored = false;              // colours as the file has them
     bool verbose = false, help = false, list = false, partial = false;
 
     /// Throws a Failure that names the unusable argument.

@@ -1,5 +1,6 @@
 #include "batch/Session.h"
 #include "document/resizing.h"
+#include "fileio/cameraData.h"
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/MemoryBudget.h"
@@ -72,6 +73,12 @@ SaveResult Session::save(const QString& path, CameraKept kept)
     workspace_->wait();
     report.tell(platform_);
     return report.result;
+}
+
+CameraData Session::webCamera(CameraKept kept) const
+{
+    const Bits picture = document_->bits();
+    return keptForWeb(document_->file.camera, kept, picture.width(), picture.height());
 }
 
 void Session::checkSteps()

@@ -30,6 +30,8 @@ class Session {
     void adopt(const Bits& bits, bool keepSteps);
     /// Writes the picture with as much of the camera's data; notices go to the platform.
     SaveResult save(const QString& path, CameraKept kept = CameraKept::All);
+    /// What a web file of the picture gets beside its pixels.
+    CameraData webCamera(CameraKept kept) const;
     /// No later step goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }

@@ -89,8 +89,8 @@ is transparent.
            they are stored; srgb without it
 --metadata keep|no-place|none
            what the camera wrote, date, exposure and place, goes into OUTPUT,
-           or all but the place, or nothing; keep without it. Not with --web
-           and --icon, whose files have none
+           or all but the place, or nothing; keep without it, but none with
+           --web. Icons have no place for it
 
 --page N   the N-th page or frame of INPUT, from 1, where it has several; the
            first without it

@@ -62,6 +62,7 @@ void write(Session& session, const QString& output, CameraKept kept)
         throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
     case SaveResult::Failed:
     case SaveResult::FailedAndTold:
+    case SaveResult::Stopped:           // nobody does
         if (isNew) QFile::remove(file); // an incomplete JPEG
         throw cannotBeWritten(output);
     }
@@ -111,11 +112,14 @@ void run(const QStringList& arguments)
         if (step.prepare) step.prepare(readPicture);
     takeSteps(session, line);
     if (line.web)
-        std::printf("%s\n", writeWeb(session.picture(), *line.web, line.output).toUtf8().constData());
+        std::printf("%s\n", writeWeb(session.picture(), *line.web,
+                                     session.webCamera(line.camera.value_or(CameraKept::None)), line.output)
+                                .toUtf8()
+                                .constData());
     else if (line.icon)
         writeIcon(session.picture(), *line.icon, line.output);
     else
-        write(session, line.output, line.camera);
+        write(session, line.output, line.camera.value_or(CameraKept::All));
 }
 
 /// Allocating more than the machine has then fails and is reported, instead of the system killing the program. The

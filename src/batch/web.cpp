@@ -104,9 +104,10 @@ std::optional<WebOrder> webOrder(const WebOptions& options)
     return order;
 }
 
-QString writeWeb(const Bits& picture, const WebOrder& order, const QString& output)
+QString writeWeb(const Bits& picture, const WebOrder& order, const CameraData& camera, const QString& output)
 {
     WebSettings settings = order.settings;
+    settings.camera = camera;
     if (order.maxBytes) {
         const QTemporaryDir folder;
         const auto fitted = fittedSettings(picture, settings, *order.maxBytes, folder.filePath("tried"));

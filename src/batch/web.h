@@ -18,7 +18,8 @@ using WebOptions = std::vector<std::pair<QString, QString>>;
 std::optional<bool> webOptionTakesValue(const QString& name);
 /// Nothing when there is no --web among them; throws a Failure that names the unusable one and lists the choices.
 std::optional<WebOrder> webOrder(const WebOptions& options);
-/// Writes the file; returns "TYPE, DEPTH, SIZE". Throws Failure; an existing file is intact then.
-QString writeWeb(const Bits& picture, const WebOrder& order, const QString& output);
+/// Writes the file, with the camera's data where the format can hold it; returns "TYPE, DEPTH, SIZE". Throws Failure;
+/// an existing file is intact then.
+QString writeWeb(const Bits& picture, const WebOrder& order, const CameraData& camera, const QString& output);
 
 } // namespace velara

@@ -80,9 +80,11 @@ class Workspace final : public QObject {
     /// until it is written. Then the path becomes the document's own, with a mark if another one has it. The file gets
     /// as much of the camera's data as file.kept says.
     void save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then = {});
-    /// Writes a picture that belongs to no document.
+    /// Ends the saves of the document that are being written, or wait for that, as Stopped. False: there is none.
+    bool cancelSaving(const DocumentHandle& document);
+    /// Writes a picture that belongs to no document. goOn is asked by the writing thread; false ends it.
     void write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then,
-               const CameraData& camera = {});
+               const CameraData& camera = {}, const std::function<bool()>& goOn = {});
 
     // --- Changes
     /// The one way from a command to a document. The outcome is Gone when there is no picture. Returns the number of

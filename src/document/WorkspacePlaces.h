@@ -36,6 +36,7 @@ struct Workspace::Place {
     bool calling = false; // it is the turn of a call
     bool inCall = false;  // which is running
     int saves = 0;        // that are being written
+    std::shared_ptr<std::atomic<bool>> unwanted = std::make_shared<std::atomic<bool>>(false); // those saves
 
     bool isBusy() const { return running || calling || !waiting.empty(); }
     bool hasChange() const

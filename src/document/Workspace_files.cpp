@@ -107,7 +107,16 @@ void Workspace::save(const DocumentHandle& document, const QString& path, std::f
             }
             if (then) then(report);
         },
-        keptFor(facts.camera, facts.kept, bits.width(), bits.height()));
+        keptFor(facts.camera, facts.kept, bits.width(), bits.height()),
+        [unwanted = place ? place->unwanted : nullptr] { return !unwanted || !*unwanted; });
+}
+
+bool Workspace::cancelSaving(const DocumentHandle& document)
+{
+    Place* place = placeOf(document);
+    if (!place || place->saves == 0) return false;
+    *std::exchange(place->unwanted, std::make_shared<std::atomic<bool>>(false)) = true;
+    return true;
 }
 
 void Workspace::saved(const DocumentHandle& document, const QString& path, int commits)
@@ -123,13 +132,13 @@ void Workspace::saved(const DocumentHandle& document, const QString& path, int c
 }
 
 void Workspace::write(const Bits& picture, const QString& path, std::function<void(const SaveReport&)> then,
-                      const CameraData& camera)
+                      const CameraData& camera, const std::function<bool()>& goOn)
 {
     ++writes_;
-    writing_.start([this, picture, path, then, camera] {
+    writing_.start([this, picture, path, then, camera, goOn] {
         const SaveTarget target = saveTargetOf(path);
         const SaveReport report =
-            writePicture(picture, target.name, target.extension, OutputFile::Links::Follow, camera);
+            writePicture(picture, target.name, target.extension, OutputFile::Links::Follow, camera, goOn);
         later([this, report, then] {
             --writes_;
             then(report);

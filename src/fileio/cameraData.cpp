@@ -1,6 +1,8 @@
 #include "fileio/cameraData.h"
 #include "fileio/exifBytes.h"
+#include <QStringConverter>
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace velara {
@@ -57,6 +59,21 @@ QByteArray fittedExif(const QByteArray& bytes, int width, int height)
     return exif.bytes();
 }
 
+/// Takes an entry of the first directory out with its values, which are returned.
+QByteArray takeOut(ExifBytes& exif, std::uint16_t tag)
+{
+    const Directory first = exif.first();
+    const auto entry = exif.find(first, tag);
+    if (!entry) return {};
+    const QByteArray values = exif.valuesOf(*entry);
+    const auto size = static_cast<std::size_t>(exif.bytes().size());
+    exif.clearValues(*entry);
+    if (entry->valueAt > first && entry->valueBytes > 4 && entry->valueAt + entry->valueBytes == size)
+        exif.cut(entry->valueAt);
+    exif.remove(first, *entry);
+    return values;
+}
+
 /// The place's own directory is cleared with its values before its link goes. EXIF has one link; more are suspect.
 QByteArray exifWithoutPlace(const QByteArray& bytes)
 {
@@ -75,7 +92,94 @@ QByteArray exifWithoutPlace(const QByteArray& bytes)
         if (!still) break;
         exif.remove(first, *still);
     }
-    return exif.entries(first).empty() ? QByteArray() : exif.bytes();
+    for (const std::uint16_t tag : {ExifTag::Xmp, ExifTag::Iptc, ExifTag::Photoshop}) // which may tell it, too
+        takeOut(exif, tag);
+    return exif.entries(exif.first()).empty() ? QByteArray() : exif.bytes();
+}
+
+// --- What stands in EXIF where the container has no place for it
+
+constexpr qsizetype kCode = 8; // bytes that name the characters of a comment
+
+QByteArray codeOf(const char* name) { return QByteArray(name).leftJustified(kCode, '\0'); }
+
+QStringConverter::Encoding utf16Of(const ExifBytes& exif)
+{
+    return exif.bytes().startsWith('I') ? QStringConverter::Utf16LE : QStringConverter::Utf16BE;
+}
+
+QString commentIn(const ExifBytes& exif)
+{
+    const auto entry = exif.find(exif.directoryOf(exif.first(), ExifTag::Details), ExifTag::UserComment);
+    if (!entry) return {};
+    const QByteArray bytes = exif.valuesOf(*entry), code = bytes.left(kCode), text = bytes.mid(kCode);
+    QString comment;
+    if (code == codeOf("UNICODE")) {
+        comment = QStringDecoder(utf16Of(exif)).decode(text);
+    } else if (code == codeOf("ASCII") || code == codeOf("")) {
+        QStringDecoder decoder(QStringDecoder::Utf8);
+        comment = decoder.decode(text);
+        if (decoder.hasError()) comment = QString::fromLatin1(text);
+    }
+    return comment.left(comment.indexOf(QChar(0)) < 0 ? comment.size() : comment.indexOf(QChar(0))).trimmed();
+}
+
+ExifBytes::Addition commentFor(const ExifBytes& exif, const QString& comment)
+{
+    const bool isPlain = std::ranges::all_of(comment, [](QChar c) { return c.unicode() < 0x80; });
+    const QByteArray bytes = isPlain ? codeOf("ASCII") + comment.toLatin1()
+                                     : codeOf("UNICODE") + QByteArray(QStringEncoder(utf16Of(exif)).encode(comment));
+    return {ExifTag::UserComment, ExifBytes::Undefined, static_cast<std::uint32_t>(bytes.size()), bytes};
+}
+
+/// The directory is where it was, or moves to the end of the block with these entries.
+Directory grown(ExifBytes& exif, Directory directory, const std::vector<ExifBytes::Addition>& additions,
+                ExifBytes::Values values = ExifBytes::Values::BeforeDirectory)
+{
+    return additions.empty() ? directory : exif.extended(directory, additions, values);
+}
+
+void putComment(ExifBytes& exif, const QString& comment)
+{
+    const Directory first = exif.first(), details = exif.directoryOf(first, ExifTag::Details);
+    if (comment.isEmpty() || !commentIn(exif).isEmpty()) return;
+    const Directory now = grown(exif, details, {commentFor(exif, comment)});
+    if (const auto link = exif.find(first, ExifTag::Details))
+        exif.setLink(*link, now);
+    else
+        exif.setFirst(grown(exif, first, {{ExifTag::Details, ExifBytes::Long, 1, exif.ordered(now, 4)}}));
+}
+
+/// Per inch, with four decimals where they are needed.
+void putDots(ExifBytes& exif, double across, double down)
+{
+    if (resolutionText(across, down).isEmpty()) return;
+    const Directory first = exif.first();
+    std::vector<ExifBytes::Addition> additions;
+    for (const auto& [tag, dots] : {std::pair{ExifTag::XResolution, across}, std::pair{ExifTag::YResolution, down}}) {
+        const std::uint32_t below = dots == std::round(dots) ? 1 : 10000;
+        const auto above = static_cast<std::uint32_t>(std::llround(dots * below));
+        const auto entry = exif.find(first, tag);
+        if (entry && entry->type == ExifBytes::Fraction)
+            exif.setFraction(*entry, above, below);
+        else
+            additions.push_back({tag, ExifBytes::Fraction, 1, exif.ordered(above, 4) + exif.ordered(below, 4)});
+    }
+    constexpr std::uint32_t kInches = 2;
+    if (const auto unit = exif.find(first, ExifTag::ResolutionUnit); unit && unit->type == ExifBytes::Short)
+        exif.setNumber(*unit, kInches);
+    else
+        additions.push_back({ExifTag::ResolutionUnit, ExifBytes::Short, 1, exif.ordered(kInches, 2)});
+    if (!additions.empty()) exif.setFirst(grown(exif, first, additions));
+}
+
+/// Behind everything else, so that nothing of it is left when it is taken out.
+void putIptc(ExifBytes& exif, const QByteArray& iptc)
+{
+    if (iptc.isEmpty() || exif.bytes().size() + iptc.size() + 1024 > kMostExif) return;
+    const ExifBytes::Addition addition{ExifTag::Iptc, ExifBytes::Undefined, static_cast<std::uint32_t>(iptc.size()),
+                                       iptc};
+    exif.setFirst(grown(exif, exif.first(), {addition}, ExifBytes::Values::BehindDirectory));
 }
 
 // --- XMP, as text
@@ -196,10 +300,40 @@ CameraData withoutPlace(CameraData camera)
     return camera;
 }
 
+CameraData inExif(CameraData camera)
+{
+    const QString comment = camera.comment.left(kMostExif / 32);
+    if (camera.iptc.isEmpty() && comment.isEmpty() && resolutionText(camera.dotsAcross, camera.dotsDown).isEmpty())
+        return camera;
+    ExifBytes exif(camera.exif);
+    if (exif.entries(exif.first()).empty()) exif = ExifBytes::empty();
+    putComment(exif, comment);
+    putDots(exif, camera.dotsAcross, camera.dotsDown);
+    putIptc(exif, camera.iptc);
+    if (exif.bytes().size() <= kMostExif) camera.exif = exif.bytes();
+    return camera;
+}
+
+CameraData outOfExif(CameraData camera)
+{
+    ExifBytes exif(camera.exif);
+    if (camera.comment.isEmpty()) camera.comment = commentIn(exif);
+    const QByteArray iptc = takeOut(exif, ExifTag::Iptc);
+    if (camera.iptc.isEmpty() && iptc.startsWith('\x1c')) camera.iptc = iptc;
+    camera.exif = exif.bytes();
+    return camera;
+}
+
 CameraData keptFor(const CameraData& camera, CameraKept kept, int width, int height)
 {
-    if (kept == CameraKept::None) return {.dotsAcross = camera.dotsAcross, .dotsDown = camera.dotsDown};
+    if (kept == CameraKept::None)
+        return {.dotsAcross = camera.dotsAcross, .dotsDown = camera.dotsDown, .profile = camera.profile};
     return fitted(kept == CameraKept::NoPlace ? withoutPlace(camera) : camera, width, height);
+}
+
+CameraData keptForWeb(const CameraData& camera, CameraKept kept, int width, int height)
+{
+    return kept == CameraKept::None ? CameraData{.profile = camera.profile} : keptFor(camera, kept, width, height);
 }
 
 } // namespace velara

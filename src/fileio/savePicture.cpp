@@ -17,6 +17,7 @@ struct Job {
     QString fileName;
     OutputFile::Links links;
     const CameraData& camera;
+    const std::function<bool()> goesOn; // false once it was
 };
 
 SaveReport reportOf(bool written) { return {written ? SaveResult::Written : SaveResult::Failed}; }
@@ -24,8 +25,9 @@ SaveReport reportOf(bool written) { return {written ? SaveResult::Written : Save
 bool writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& file), bool keepsRemains = false)
 {
     OutputFile file(job.fileName, job.links);
-    if (file.isOpen() && write(job, file) && file.commit()) return true;
-    if (keepsRemains) file.keepRemains();
+    file.setGoOn(job.goesOn);
+    if (file.isOpen() && write(job, file) && job.goesOn() && file.commit()) return true;
+    if (keepsRemains && job.goesOn()) file.keepRemains();
     return false;
 }
 
@@ -41,6 +43,18 @@ bool webp(const Job& job, OutputFile& file) { return writeWebp(job.bits, {95}, f
 bool avif(const Job& job, OutputFile& file) { return writeAvif(job.bits, 90, file, job.camera); }
 bool jxl(const Job& job, OutputFile& file) { return writeJxl(job.bits, 90, file, job.camera); }
 bool pixmap(const Job& job, OutputFile& file) { return writePpm(job.bits, file); }
+bool gif(const Job& job, OutputFile& file)
+{
+    struct Unwanted {};
+    try {
+        const auto goOn = [&](int) {
+            if (!job.goesOn()) throw Unwanted();
+        };
+        return writeGif(reduceToBestColours(job.bits, 256, goOn), file, false, 1);
+    } catch (const Unwanted&) {
+        return false;
+    }
+}
 
 template <auto write, bool keepsRemains = false> SaveReport told(const Job& job)
 {
@@ -73,9 +87,9 @@ SaveReport saveWebp(const Job& job)
             Icon::Exclamation};
 }
 
-SaveReport saveGif(const Job& job) { return reportOf(writeGif(reduceToBestColours(job.bits, 256), job.fileName)); }
+SaveReport saveGif(const Job& job) { return reportOf(writeAs(job, gif)); }
 
-SaveReport savePcx(const Job& job) { return reportOf(PCX().SavePCXinFile(job.fileName, job.bits, true)); }
+SaveReport savePcx(const Job& job) { return reportOf(PCX().SavePCXinFile(job.fileName, job.bits, true, job.goesOn)); }
 
 SaveReport refuseIcon(const Job&)
 {
@@ -119,11 +133,15 @@ static_assert(std::ranges::all_of(kFormats,
 } // namespace
 
 SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext, OutputFile::Links links,
-                        const CameraData& camera)
+                        const CameraData& camera, const std::function<bool()>& goOn)
 try {
     if (bits.isNull()) return {SaveResult::NotWritten};
+    bool stopped = false;
+    const auto goesOn = [&] { return !(stopped = stopped || (goOn && !goOn())); };
     const Writer* writer = writerOf(Ext.toLower().toStdString());
-    return writer ? writer->save({bits, FileName, links, camera}) : SaveReport{SaveResult::NotWritten};
+    if (!writer) return {SaveResult::NotWritten};
+    const SaveReport report = writer->save({bits, FileName, links, camera, goesOn});
+    return stopped && report.result != SaveResult::Written ? SaveReport{SaveResult::Stopped} : report;
 } catch (const std::bad_alloc&) {
     return {SaveResult::Failed};
 }

@@ -14,6 +14,7 @@ enum class SaveResult {
     FailedAndTold, // the same, with a notice
     NotWritten,    // nothing to write, or no writer for the extension
     Refused,       // an icon, with a notice
+    Stopped,       // goOn said no; what stood under the name is whole
 };
 
 /// What became of a save, and the notice that the user gets of it; without a text there is none.
@@ -31,9 +32,11 @@ struct SaveReport {
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
 /// added. There is a notice of a failed png, jpg, bmp, tif, tga, webp, avif or jxl, of the depth of a portable anymap,
 /// and that icons are not written. Every writer gets 24 bits a pixel, without the margin. A work file of the program
-/// (png, jpg, bmp, tif, tga) replaces links. camera is written by the formats that can hold it. For any thread.
+/// (png, jpg, bmp, tif, tga) replaces links. camera is written by the formats that can hold it. goOn is asked now and
+/// then; false ends it. For any thread.
 SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext,
-                        OutputFile::Links links = OutputFile::Links::Follow, const CameraData& camera = {});
+                        OutputFile::Links links = OutputFile::Links::Follow, const CameraData& camera = {},
+                        const std::function<bool()>& goOn = {});
 /// The same, and dialogs shows the notice.
 SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
                        OutputFile::Links links = OutputFile::Links::Follow);

@@ -10,9 +10,10 @@ struct CameraData {
     QByteArray exif = {};  // from the byte order mark ("II", "MM") on, without "Exif\0\0"
     QByteArray xmp = {};   // the packet
     QByteArray iptc = {};  // the records, from the first 0x1c on
-    QString comment = {};  // of the container, such as JPEG's COM segment
+    QString comment = {};  // of the container, such as JPEG's COM segment, else that in the EXIF
     double dotsAcross = 0; // per inch; 0: unknown, and then dotsDown is 0, too
     double dotsDown = 0;
+    QByteArray profile = {}; // ICC, of the pixels where they aren't in sRGB
 };
 
 /// How much of it a saved file gets.

@@ -1,8 +1,12 @@
 // The real program on real files: its output, its messages and its exit status.
+#include "fileio/writers/pictureFiles.h"
 #include "region/Region.h"
+#include "support/exif.h"
 #include "support/files.h"
+#include "support/pictures.h"
 #include "support/places.h"
 #include "support/twoFrames.h"
+#include <QColorSpace>
 #include <QImage>
 #include <QProcess>
 #include <functional>
@@ -64,6 +68,38 @@ struct BatchTest : FolderTest {
         return picture;
     }
 };
+
+// What the camera wrote, where it is asked for; the profile of colours that stay as stored, whatever is asked for.
+TEST_F(BatchTest, WhatAFileCarriesGoesWhereItIsAskedFor)
+{
+    const Bits bits = flatBits(20, 16, 50, 100, 200);
+    OutputFile file(path("photo.jpg"));
+    ASSERT_TRUE(writeJpeg(bits, 100, file,
+                          {.exif = exifOfCamera(true), .profile = QColorSpace(QColorSpace::DisplayP3).iccProfile()}) &&
+                file.commit());
+    const QByteArray second = ExifMaker(true).number(12345, 4); // of the place
+    const struct {
+        const char* arguments;
+        bool make, place, profile;
+    } cases[] = {
+        {"photo.jpg out.jpg", true, true, false},
+        {"photo.jpg --metadata no-place out.jpg", true, false, false},
+        {"photo.jpg --metadata none out.jpg", false, false, false},
+        {"photo.jpg --web JPEG out.jpg", false, false, false},
+        {"photo.jpg --web JPEG --metadata keep out.jpg", true, true, false},
+        {"photo.jpg --web JPEG --metadata no-place --max-bytes 5000 out.jpg", true, false, false},
+        {"photo.jpg --colours stored INVERT out.jpg", true, true, true},
+        {"photo.jpg --colours stored --metadata none out.jpg", false, false, true},
+        {"photo.jpg --colours stored --web JPEG out.jpg", false, false, true},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(ends(0, c.arguments));
+        const QByteArray written = content("out.jpg");
+        EXPECT_EQ(written.contains("Maker"), c.make) << c.arguments;
+        EXPECT_EQ(written.contains(second), c.place) << c.arguments;
+        EXPECT_EQ(written.contains("ICC_PROFILE"), c.profile) << c.arguments;
+    }
+}
 
 TEST_F(BatchTest, BadInputIsNamedAndNothingIsWritten)
 {

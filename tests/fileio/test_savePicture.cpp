@@ -1,4 +1,5 @@
 // Saving: reading the files back, the messages to the user, and the state of the old file when saving fails.
+#include "fileio/formats.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/savePicture.h"
 #include "fileio/web/webFile.h"
@@ -319,6 +320,31 @@ TEST_F(SavePicture, WhatTheDiskRefusesLosesNothing)
         EXPECT_EQ(files(), row.left) << what;
     }
     EXPECT_TRUE(load(path("a.rescued.png")).ok());
+}
+
+// A picture that was to replace another one and isn't wanted any more, in each format that is written.
+TEST_F(SavePicture, WhatIsGivenUpLeavesTheOldFile)
+{
+    const Bits bits = randomBits(700, 500, 3);
+    for (const Format& format : kFormats) {
+        if (format.saving != Saving::Directly) continue;
+        const QString name = QString("a.") + QLatin1String(format.extension);
+        put(name, "old");
+        for (const int after : {0, 1, 3}) {
+            int asked = 0;
+            const auto goOn = [&] { return ++asked <= after; };
+            const SaveReport report =
+                writePicture(bits, path(name), QLatin1String(format.extension), OutputFile::Links::Follow, {}, goOn);
+            EXPECT_EQ(report.result, SaveResult::Stopped) << qPrintable(name) << " after " << after;
+            EXPECT_EQ(report.text, "") << qPrintable(name);
+            EXPECT_EQ(content(name), "old") << qPrintable(name);
+            EXPECT_EQ(files(), QStringList{name});
+        }
+        QFile::remove(path(name));
+        writePicture(bits, path(name), QLatin1String(format.extension), OutputFile::Links::Follow, {},
+                     [] { return false; });
+        EXPECT_TRUE(files().isEmpty()) << qPrintable(name) << ": " << files().join(' ').toStdString();
+    }
 }
 
 TEST_F(SavePicture, APcxKeepsTheTailAndTheModeOfALongerFile)

@@ -6,6 +6,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "seams/Platform.h"
+#include "ui/widgets/ScreenColours.h"
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -60,6 +61,7 @@ fMain::fMain(Platform& platform, Setup& setup)
     capture_ = std::make_unique<Capture>(*this);
     makeBoxes();
     bars_->loadLastUsed();
+    chooseScreenColours();
     showColors();
     refreshUndoState();
     qApp->installEventFilter(this); // pointer moves, for the side pane

@@ -31,6 +31,7 @@ class fStartPage;
 struct SizeWord;
 struct Preset;
 struct FilterRow;
+class ScreenColours;
 class fStatus;
 class fToolPane;
 
@@ -155,6 +156,7 @@ class fMain final : public QMainWindow, public Frame {
     void saveForWeb();
     void saveForWeb(fImage& image, const Bits& bits);
     void options();
+    void chooseScreenColours();
     void about();
     void help();
     /// Finds a command by a few letters.
@@ -219,6 +221,7 @@ class fMain final : public QMainWindow, public Frame {
     fStartPage* startPage_;
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
+    std::unique_ptr<ScreenColours> screenColours_; // where pictures are shown by the screens' profiles
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
     QStringList gone_;       // missing files that no message has named yet

@@ -174,6 +174,7 @@ void fMain::keyPressEvent(QKeyEvent* event)
     const bool ends = event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     fImage* image = ends ? GetActiveImage() : nullptr;
     if (image && image->displayKey(*event, true)) return;
+    if (event->key() == Qt::Key_Escape && workspace_.cancelSaving(active())) return;
     if (event->key() == Qt::Key_Escape && isFullScreen()) return toggleFullScreen();
     QMainWindow::keyPressEvent(event);
 }

@@ -22,6 +22,7 @@
 #include "seams/findRow.h"
 #include "seams/text.h"
 #include "tools/toolRows.h"
+#include "ui/widgets/ScreenColours.h"
 #include <algorithm>
 
 namespace velara {
@@ -197,6 +198,14 @@ void fMain::options()
     if (dialog.exec() != QDialog::Accepted) return;
     dialogFolder_ = setup_.ImagesPath;
     readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
+    chooseScreenColours();
+}
+
+void fMain::chooseScreenColours()
+{
+    const bool on = pictureSetting(platform_, PictureSetting::ScreenProfile);
+    if (on == (screenColours_ != nullptr)) return;
+    screenColours_ = on ? std::make_unique<ScreenColours>(platform_) : nullptr;
 }
 
 void fMain::about()

@@ -33,7 +33,8 @@ void fMain::saveForWeb()
 
 void fMain::saveForWeb(fImage& image, const Bits& bits)
 {
-    const QPointer<FWeb> dialog = new FWeb(platform_, bits, image.Caption(), image.document().file.path, this);
+    const FileFacts& file = image.document().file;
+    const QPointer<FWeb> dialog = new FWeb(platform_, bits, file.camera, image.Caption(), file.path, this);
     dialog->exec();
     delete dialog;
 }

@@ -272,19 +272,24 @@ void fMain::saveAs(fImage& asked)
     saveTo(*image, withExtension(*path, usual));
 }
 
-/// The document stays unsaved when that fails.
+/// The document stays unsaved when that fails or is given up.
 void fMain::saveTo(fImage& image, const QString& path)
 {
+    const QString name = FileNameOf(path), saving = tr("Saving %1 ... Esc ends it").arg(name);
+    status_->say(saving);
     const Format* format = formatOf(path);
     const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool hasPicture = image.PictureExists();
-    workspace_.save(image.document().handle(), path, [this, slow, hasPicture, path](const SaveReport& report) {
-        if (slow) QGuiApplication::restoreOverrideCursor();
-        report.tell(platform_);
-        if (report.result != SaveResult::Written && report.text.isEmpty())
-            platform_.tell("Unexpected error saving image" + whyNotWritten(hasPicture, path), Icon::Exclamation);
-    });
+    workspace_.save(
+        image.document().handle(), path, [this, slow, hasPicture, path, name, saving](const SaveReport& report) {
+            if (slow) QGuiApplication::restoreOverrideCursor();
+            if (status_->currentMessage() == printable(saving)) status_->clearMessage();
+            if (report.result == SaveResult::Stopped) return status_->say(tr("%1 is not saved.").arg(name));
+            report.tell(platform_);
+            if (report.result != SaveResult::Written && report.text.isEmpty())
+                platform_.tell("Unexpected error saving image" + whyNotWritten(hasPicture, path), Icon::Exclamation);
+        });
 }
 
 void fMain::closeActive()

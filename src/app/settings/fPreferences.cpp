@@ -78,6 +78,9 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     for (const FlagRow& row : kFlagsBelow) addFlag(column, row, copy_);
     column->addWidget(convert_ = named(new QCheckBox(tr("&Convert pictures to sRGB")), "chkConvertToSrgb"));
     convert_->setChecked(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
+    column->addWidget(screenProfile_ =
+                          named(new QCheckBox(tr("&Show pictures by the screen's color profile")), "chkScreenProfile"));
+    screenProfile_->setChecked(pictureSetting(platform_, PictureSetting::ScreenProfile));
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -104,6 +107,7 @@ void fPreferences::accept()
 {
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
     setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
+    setPictureSetting(platform_, PictureSetting::ScreenProfile, screenProfile_->isChecked());
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

@@ -24,7 +24,7 @@ class fPreferences final : public QDialog {
     Setup& setup_;
     Setup copy_;
     QLineEdit* path_;
-    QCheckBox* convert_; // kept in the user's settings, not in the record
+    QCheckBox *convert_, *screenProfile_; // kept in the user's settings, not in the record
 };
 
 } // namespace velara

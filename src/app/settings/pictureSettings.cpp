@@ -11,7 +11,8 @@ struct Row {
     const char* key;
     bool usual;
 };
-constexpr Row kRows[] = {{"ConvertToSrgb", true}, {"KeepCameraData", true}, {"LeaveOutPlace", false}};
+constexpr Row kRows[] = {
+    {"ConvertToSrgb", true}, {"KeepCameraData", true}, {"LeaveOutPlace", false}, {"ScreenProfile", false}};
 
 const Row& rowOf(PictureSetting which) { return kRows[static_cast<int>(which)]; }
 

@@ -1,4 +1,5 @@
-// What is remembered of how pictures are read and saved, in the user's settings: the configuration file has no room.
+// What is remembered of how pictures are read, shown and saved, in the user's settings: the configuration file has no
+// room.
 #pragma once
 
 namespace velara {
@@ -9,6 +10,7 @@ enum class PictureSetting {
     ConvertToSrgb,  // pictures that are read
     KeepCameraData, // in files that "Save as" writes
     LeaveOutPlace,  // of it
+    ScreenProfile,  // pictures are shown by
 };
 
 bool pictureSetting(Platform& platform, PictureSetting which);

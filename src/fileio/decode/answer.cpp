@@ -35,9 +35,10 @@ using Parts = std::array<QByteArray, kParts>;
 Parts partsOf(const Decoded& picture)
 {
     const CameraData& camera = picture.camera;
-    Parts parts{camera.exif, camera.xmp, camera.iptc, camera.comment.toUtf8(), picture.properties.toUtf8()};
-    for (QByteArray& part : parts)
-        if (!picture.ok() || part.size() > static_cast<qsizetype>(kMostInPart)) part.clear();
+    Parts parts{camera.exif,   camera.xmp, camera.iptc, camera.comment.toUtf8(), picture.properties.toUtf8(),
+                camera.profile};
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        if (!picture.ok() || parts[i].size() > static_cast<qsizetype>(mostIn(Part(i)))) parts[i].clear();
     return parts;
 }
 
@@ -127,10 +128,10 @@ void answer(const QString& extension, const QStringList& wishes)
     const Needs needs = prepareReaders(extension, file.bytes());
     if (include(needs, Needs::Fonts)) handOverFonts();
     const CageState cage = enterCage(needs); // nothing of the file has been looked at yet but its mark
+    const Wanted wanted{!wishes.contains(kStoredWish), !wishes.contains(kBareWish), wishes.contains(kTableWish)};
     const Decoded picture =
-        cage.open
-            ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
-            : decodePicture(std::move(file), extension, {!wishes.contains(kStoredWish), !wishes.contains(kBareWish)});
+        cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))
+                  : decodePicture(std::move(file), extension, wanted);
     const bool done = tellOpening(picture) && picture.ok() && tellRows(picture, static_cast<std::uint8_t*>(memory)) &&
                       tellLastWord(picture);
     _exit(done ? 0 : 1); // no cleanup: the process is disposable

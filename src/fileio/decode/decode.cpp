@@ -1,6 +1,7 @@
 #include "fileio/decode/decode.h"
 #include "fileio/decode/facts/carry.h"
 #include "fileio/decode/facts/colours.h"
+#include "fileio/decode/facts/screenTable.h"
 #include "fileio/decode/facts/upright.h"
 #include "fileio/decode/plain/plain.h"
 #include "fileio/decode/readers.h"
@@ -177,13 +178,16 @@ Decoded readByNameOrMark(FileBytes& file, const QString& extension)
 
 Decoded decodePicture(FileBytes&& file, const QString& extension, Wanted wanted)
 try {
+    if (wanted.table) return screenTable(file);
     Decoded decoded = readByNameOrMark(file, extension);
     if (!decoded.ok()) return decoded;
     if (wantedPage >= decoded.carried.pages) return noSuchPage(decoded.carried.pages);
     if (wanted.facts) decoded.properties = propertiesOf(decoded);
-    if (wanted.srgb) convertToSrgb(decoded);
+    QByteArray profile;
+    wanted.srgb ? convertToSrgb(decoded) : void(profile = profileOfStored(decoded));
     decoded = upright(std::move(decoded));
     if (wanted.facts) decoded.camera = cameraOf(decoded);
+    decoded.camera.profile = profile;
     return decoded;
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);

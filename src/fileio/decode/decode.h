@@ -80,8 +80,9 @@ Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> byt
 
 /// What the one who asks for a picture wants of it.
 struct Wanted {
-    bool srgb = true;  // true colours, else those that the file stores
-    bool facts = true; // camera and properties
+    bool srgb = true;   // true colours, else those that the file stores
+    bool facts = true;  // camera and properties
+    bool table = false; // of a screen's colours, by its profile: no picture
 };
 
 /// The reader is chosen by the extension. One that finds no picture, or none for the extension, leaves the file to the

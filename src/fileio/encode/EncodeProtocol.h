@@ -10,16 +10,17 @@ constexpr int kMemory = 3; // the descriptor's number
 
 enum class Format : std::uint32_t { Avif, Jxl };
 
-/// Followed by the W times H pixels, red, green and blue, then the EXIF from its byte request mark on, then the XMP.
+/// Followed by the W times H pixels, red, green and blue, then the EXIF from its byte order mark on, the XMP, and
+/// the profile of the pixels where they aren't in sRGB.
 struct Request {
     Format format;
     std::uint32_t width, height;
     std::uint32_t quality; // 1 to 100
     std::uint32_t threads;
-    std::uint32_t exif, xmp; // bytes
+    std::uint32_t exif, xmp, profile; // bytes
 
     std::size_t pixelBytes() const { return std::size_t{width} * height * 3; }
-    std::size_t bytes() const { return sizeof(Request) + pixelBytes() + exif + xmp; }
+    std::size_t bytes() const { return sizeof(Request) + pixelBytes() + exif + xmp + profile; }
 };
 
 } // namespace velara::encode

@@ -33,15 +33,24 @@ Owned<heif_image> imageOf(const Picture& picture)
     const std::size_t bytes = std::size_t{picture.request.width} * 3;
     for (int y = 0; to && y < height; ++y)
         std::memcpy(to + std::ptrdiff_t{y} * pitch, picture.pixels + bytes * std::size_t(y), bytes);
+    if (!picture.profile.empty() &&
+        !did(heif_image_set_raw_color_profile(made, "prof", picture.profile.data(), picture.profile.size())))
+        return nullptr;
     return to ? std::move(image) : nullptr;
+}
+
+/// Null when there is none.
+const heif_encoder_descriptor* aomEncoder()
+{
+    const heif_encoder_descriptor* aom = nullptr;
+    return heif_get_encoder_descriptors(heif_compression_AV1, "aom", &aom, 1) < 1 ? nullptr : aom;
 }
 
 Owned<heif_encoder> encoderFor(heif_context* context, const Request& request)
 {
-    const heif_encoder_descriptor* aom = nullptr;
+    const heif_encoder_descriptor* aom = aomEncoder();
     heif_encoder* made = nullptr;
-    if (heif_get_encoder_descriptors(heif_compression_AV1, "aom", &aom, 1) < 1) return nullptr;
-    if (!did(heif_context_get_encoder(context, aom, &made))) return nullptr;
+    if (!aom || !did(heif_context_get_encoder(context, aom, &made))) return nullptr;
     Owned<heif_encoder> encoder(made);
     const bool isSet =
         did(heif_encoder_set_lossy_quality(made, static_cast<int>(request.quality))) &&
@@ -57,6 +66,8 @@ heif_error putOut(heif_context*, const void* bytes, std::size_t size, void*)
 }
 
 } // namespace
+
+bool prepareAvif() { return aomEncoder() != nullptr; }
 
 bool encodeAvif(const Picture& picture)
 {

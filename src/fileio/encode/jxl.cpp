@@ -23,8 +23,9 @@ float distanceOf(std::uint32_t quality)
 
 bool did(JxlEncoderStatus status) { return status == JXL_ENC_SUCCESS; }
 
-bool setUp(JxlEncoder* encoder, const Request& request)
+bool setUp(JxlEncoder* encoder, const Picture& picture)
 {
+    const Request& request = picture.request;
     JxlBasicInfo info;
     JxlEncoderInitBasicInfo(&info);
     info.xsize = request.width;
@@ -32,9 +33,12 @@ bool setUp(JxlEncoder* encoder, const Request& request)
     info.bits_per_sample = 8;
     info.num_color_channels = 3;
     info.uses_original_profile = request.quality == kLossless;
+    if (!did(JxlEncoderSetBasicInfo(encoder, &info))) return false;
+    if (!picture.profile.empty())
+        return did(JxlEncoderSetICCProfile(encoder, picture.profile.data(), picture.profile.size()));
     JxlColorEncoding colours;
     JxlColorEncodingSetToSRGB(&colours, JXL_FALSE);
-    return did(JxlEncoderSetBasicInfo(encoder, &info)) && did(JxlEncoderSetColorEncoding(encoder, &colours));
+    return did(JxlEncoderSetColorEncoding(encoder, &colours));
 }
 
 /// The camera's boxes, before the picture.
@@ -42,7 +46,7 @@ bool addBoxes(JxlEncoder* encoder, const Picture& picture)
 {
     if (picture.exif.empty() && picture.xmp.empty()) return true;
     if (!did(JxlEncoderUseContainer(encoder, JXL_TRUE)) || !did(JxlEncoderUseBoxes(encoder))) return false;
-    std::vector<std::uint8_t> exif(4); // the offset of its byte request mark
+    std::vector<std::uint8_t> exif(4); // the offset of its byte order mark
     exif.insert(exif.end(), picture.exif.begin(), picture.exif.end());
     return (picture.exif.empty() || did(JxlEncoderAddBox(encoder, "Exif", exif.data(), exif.size(), JXL_FALSE))) &&
            (picture.xmp.empty() ||
@@ -69,8 +73,7 @@ bool encodeJxl(const Picture& picture)
     const std::unique_ptr<JxlEncoder, void (*)(JxlEncoder*)> encoder(JxlEncoderCreate(nullptr), JxlEncoderDestroy);
     if (!threads || !encoder ||
         !did(JxlEncoderSetParallelRunner(encoder.get(), JxlThreadParallelRunner, threads.get())) ||
-        !setUp(encoder.get(), picture.request) || !addBoxes(encoder.get(), picture) ||
-        !addFrame(encoder.get(), picture))
+        !setUp(encoder.get(), picture) || !addBoxes(encoder.get(), picture) || !addFrame(encoder.get(), picture))
         return false;
     JxlEncoderCloseInput(encoder.get());
     std::array<std::uint8_t, 64 << 10> buffer;

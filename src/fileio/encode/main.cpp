@@ -1,10 +1,14 @@
 // velara-encode: makes one AVIF or JPEG XL file. Its libraries can't be interrupted in the middle of a picture; a
-// process can, by its end.
+// process can, by its end. It works in the cage of the readers: what it gets is its memory and the pipe for the file.
+#include "fileio/decode/cage/Cage.h"
 #include "fileio/encode/encoders.h"
 #include <csignal>
+#include <ctime>
 #include <sys/mman.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace velara::encode {
@@ -23,6 +27,24 @@ bool put(const void* bytes, std::size_t size)
 
 namespace {
 
+/// Of processor time: several times what the slower encoder takes for so many pixels.
+void limitTime(std::size_t pixels)
+{
+    constexpr rlim_t kLeast = 60, kPixelsASecond = 100'000;
+    const rlim_t seconds = kLeast + pixels / kPixelsASecond;
+    const rlimit limit{seconds, seconds};
+    setrlimit(RLIMIT_CPU, &limit);
+}
+
+/// False when it could not be closed.
+bool closeCage(Format format)
+{
+    if (format == Format::Avif && !prepareAvif()) return false;
+    tzset();                   // what a library of profiles asks for
+    std::thread([] {}).join(); // the first one sets the C library up for others
+    return decode::enterCage(decode::Needs::Encoding).open == 0;
+}
+
 bool encodeMemory()
 {
     struct stat status {};
@@ -32,9 +54,13 @@ bool encodeMemory()
     if (memory == MAP_FAILED) return false;
     const Request& request = *static_cast<const Request*>(memory);
     if (size < request.bytes()) return false;
+    close(kMemory);
+    limitTime(std::size_t{request.width} * request.height);
+    if (!closeCage(request.format)) return false;
     const auto* pixels = static_cast<const std::uint8_t*>(memory) + sizeof(Request);
     const std::uint8_t* exif = pixels + request.pixelBytes();
-    const Picture picture{request, pixels, {exif, request.exif}, {exif + request.exif, request.xmp}};
+    const std::uint8_t *xmp = exif + request.exif, *profile = xmp + request.xmp;
+    const Picture picture{request, pixels, {exif, request.exif}, {xmp, request.xmp}, {profile, request.profile}};
     return request.format == Format::Avif ? encodeAvif(picture) : encodeJxl(picture);
 }
 

@@ -3,8 +3,8 @@
 //   velara-decode EXTENSION [WISH ...], with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4
 //   and the picture file, open for reading, at descriptor 5
 //
-// A wish is "stored" (colours as the file has them, not sRGB), "bare" (nothing beside the pixels) or "page=N" (the N-th
-// page or frame, from 1).
+// A wish is "stored" (colours as the file has them, not sRGB), "bare" (nothing beside the pixels), "page=N" (the N-th
+// page or frame, from 1) or "table" (the file is a screen's profile: ColourTablePicture.h).
 //
 // The child may send a claim: the size and depth given by the header, and another when the reader of the extension
 // leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
@@ -30,13 +30,15 @@ constexpr std::size_t kSlotBytes = 256 << 10; // a row of the widest picture tak
 constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 
 /// What a picture carries beside its pixels. Comment and properties are UTF-8.
-enum Part { Exif, Xmp, Iptc, Comment, Properties, kParts };
-constexpr std::size_t kMostInPart = std::size_t{1} << 20; // bytes; a part of more is left out by the child
+enum Part { Exif, Xmp, Iptc, Comment, Properties, Profile, kParts };
+/// In bytes; a part of more is left out by the child.
+constexpr std::size_t mostIn(Part part) { return std::size_t{part == Profile ? 4U : 1U} << 20; }
 constexpr std::size_t kPartMessage = std::size_t{16} << 10;
 
 constexpr const char* kStoredWish = "stored";
 constexpr const char* kBareWish = "bare";
 constexpr const char* kPageWish = "page="; // with the number
+constexpr const char* kTableWish = "table";
 
 /// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {

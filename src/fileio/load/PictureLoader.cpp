@@ -150,7 +150,7 @@ QString receiveParts(DecoderProcess& child, const decode::Opening& opening, Part
 {
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const std::size_t size = opening.parts[i];
-        if (size > decode::kMostInPart) return kNonsense;
+        if (size > decode::mostIn(decode::Part(i))) return kNonsense;
         parts[i].resize(static_cast<qsizetype>(size));
         for (std::size_t at = 0; at < size; at += decode::kPartMessage) {
             const Wait wait = child.receive(parts[i].data() + at, std::min(decode::kPartMessage, size - at));
@@ -262,6 +262,7 @@ CameraData cameraOf(const decode::Opening& opening, const Parts& parts)
     CameraData camera{parts[decode::Exif], parts[decode::Xmp], parts[decode::Iptc],
                       QString::fromUtf8(parts[decode::Comment])};
     if (across > 0 && down > 0) camera.dotsAcross = across, camera.dotsDown = down;
+    camera.profile = parts[decode::Profile];
     return camera;
 }
 
@@ -288,6 +289,30 @@ QString named(const Ending& ending, const QString& name)
 {
     if (!ending.whole) return printable(name + " can't be read: " + ending.reason);
     return ending.reason.isEmpty() ? QString() : printable(name + ": " + ending.reason);
+}
+
+LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QString& extension, const QString& decoder,
+                        const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn)
+{
+    LoadedPicture picture;
+    Bits& bits = picture.bits;
+    const Ending ending =
+        load(file, extension, decoder, wishes, limits, goOn, [&](const auto& opening, const Parts& parts) {
+            picture.camera = cameraOf(opening, parts);
+            picture.properties = propertiesOf(opening, parts);
+            picture.format = formatIn(opening);
+            picture.pages = std::clamp(opening.pages, 1, kMostPages);
+            const int height = opening.height;
+            {
+                const MemoryBudget budget;
+                bits = Bits::uninitialized(opening.width, height);
+            }
+            for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
+            return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
+        });
+    if (!ending.whole) picture = {};
+    picture.reason = named(ending, name);
+    return picture;
 }
 
 } // namespace
@@ -335,27 +360,15 @@ LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page)
 {
-    LoadedPicture picture;
-    Bits& bits = picture.bits;
     QStringList wishes;
     if (page > 1) wishes << decode::kPageWish + QString::number(page);
-    const Ending ending =
-        load(file, extension, decoder, wishes, limits, goOn, [&](const auto& opening, const Parts& parts) {
-            picture.camera = cameraOf(opening, parts);
-            picture.properties = propertiesOf(opening, parts);
-            picture.format = formatIn(opening);
-            picture.pages = std::clamp(opening.pages, 1, kMostPages);
-            const int height = opening.height;
-            {
-                const MemoryBudget budget;
-                bits = Bits::uninitialized(opening.width, height);
-            }
-            for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
-            return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
-        });
-    if (!ending.whole) picture = {};
-    picture.reason = named(ending, name);
-    return picture;
+    return loadWhole(file, name, extension, decoder, wishes, limits, goOn);
+}
+
+LoadedPicture loadColourTable(const Descriptor& profile, const QString& decoder, const GoOn& goOn)
+{
+    return loadWhole(profile, QStringLiteral("The screen's profile"), {}, decoder,
+                     {decode::kTableWish, decode::kBareWish}, {}, goOn);
 }
 
 SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,

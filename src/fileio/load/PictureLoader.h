@@ -42,6 +42,10 @@ LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, co
                                  const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {},
                                  int page = 1);
 
+/// The table of a screen's colours (ColourTablePicture.h) by its profile. No picture: it needs none, or it is not
+/// usable.
+LoadedPicture loadColourTable(const Descriptor& profile, const QString& decoder, const GoOn& goOn = {});
+
 /// A picture scaled down to fit a box, with its properties.
 struct SmallPicture {
     QImage image; // 32 bits without alpha; null: it can't be read

@@ -85,6 +85,12 @@ void WebSettings::choosePreset(int index, bool interlaced)
     takesDither = PaletteWord != kMapped;
 }
 
+bool WebSettings::holdsCamera() const
+{
+    constexpr int kHolding[] = {kPng, kTif, kWebp, kAvif, kJxl};
+    return isJpeg() || (OutputKind == kBitmapOutput && std::ranges::find(kHolding, FileKind) != std::end(kHolding));
+}
+
 std::vector<int> WebSettings::maps() const
 {
     std::vector<int> list;

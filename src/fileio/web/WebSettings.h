@@ -2,6 +2,7 @@
 // and velara-batch follow the same rules.
 #pragma once
 #include "fileio/web/ColorReducer.h"
+#include "seams/CameraData.h"
 #include <optional>
 #include <span>
 #include <vector>
@@ -39,10 +40,13 @@ struct WebSettings {
     int JpegQuality = 0x100; // or of another format: a class or a percentage, as percentOf takes it
     bool flipH = false, flipV = false, invert = false;
     bool takesDither = true;
+    CameraData camera = {}; // for the files that can hold it
 
     const WebPreset& row() const { return webPresets()[std::size_t(preset)]; }
     bool hasQuality() const { return row().bitCount == 0; }
     bool isJpeg() const { return hasQuality() && row().fileKind == kBmp; }
+    /// Whether its files have a place for what the camera wrote.
+    bool holdsCamera() const;
     bool isGif() const { return row().outputKind == kGifOutput; }
 
     /// Resets everything to the preset, except flips and inversion.

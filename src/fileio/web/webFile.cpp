@@ -49,10 +49,10 @@ Outcome outcomeOf(bool written, const Teller& teller)
     return written ? Outcome::Written : teller.stopped() ? Outcome::Stopped : Outcome::Failed;
 }
 
-bool writePngKind(const ReducedPicture& reduced, OutputFile& file)
+bool writePngKind(const ReducedPicture& reduced, OutputFile& file, const CameraData& camera)
 {
-    return reduced.bitCount <= 8 ? writePng(reduced.indexed, kBestEffort, file)
-                                 : writePng(reduced.full, kBestEffort, file);
+    return reduced.bitCount <= 8 ? writePng(reduced.indexed, kBestEffort, file, camera)
+                                 : writePng(reduced.full, kBestEffort, file, camera);
 }
 
 /// The formats that have a quality.
@@ -61,22 +61,24 @@ bool writeOfQuality(const Bits& picture, const WebSettings& settings, ByteSink& 
     const int percent = percentOf(settings.JpegQuality);
     switch (settings.FileKind) {
     case kWebp:
-        return writeWebp(picture, {percent}, to);
+        return writeWebp(picture, {percent}, to, settings.camera);
     case kAvif:
-        return writeAvif(picture, percent, to);
+        return writeAvif(picture, percent, to, settings.camera);
     case kJxl:
-        return writeJxl(picture, percent, to);
+        return writeJxl(picture, percent, to, settings.camera);
     default:
-        return writeJpeg(picture, settings.JpegQuality, to);
+        return writeJpeg(picture, settings.JpegQuality, to, settings.camera);
     }
 }
 
 constexpr WebpForm kLosslessWebp{75, true};
 
 /// Targa and TIFF always get 24 bits.
-Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& name, OutputFile::Links links,
-                        Teller& teller)
+Outcome writeBitmapKind(const ReducedPicture& reduced, const WebSettings& settings, const QString& name,
+                        OutputFile::Links links, Teller& teller)
 {
+    const int kind = settings.FileKind;
+    const CameraData& camera = settings.camera;
     if (kind == kPcx) {
         if (links == OutputFile::Links::Replace) QFile::remove(name);
         PCX pcx;
@@ -87,13 +89,13 @@ Outcome writeBitmapKind(const ReducedPicture& reduced, int kind, const QString& 
     const auto write = [&](OutputFile& file) {
         switch (kind) {
         case kPng:
-            return writePngKind(reduced, file);
+            return writePngKind(reduced, file, camera);
         case kTga:
             return writeTga(pictureOf(reduced), file);
         case kTif:
-            return writeTiff(pictureOf(reduced), file);
+            return writeTiff(pictureOf(reduced), file, camera);
         case kWebp:
-            return writeWebp(reduced.full, kLosslessWebp, file);
+            return writeWebp(reduced.full, kLosslessWebp, file, camera);
         default:
             return writeBmp(reduced, file);
         }
@@ -109,8 +111,7 @@ Outcome writeReduced(ColorReducer& reducer, const WebSettings& s, const Bits& pi
                            reducer.SetPicture(picture, -1, -1, -1, -1) &&
                            (flags == 0 || reducer.Transform(flags, 0, 0)) && reducer.Reduce();
     if (!isReduced) return s.OutputKind == kBitmapOutput ? Outcome::NoBitmap : Outcome::Failed;
-    if (s.OutputKind == kBitmapOutput)
-        return writeBitmapKind(reducer.reduced(), s.FileKind, name, reducer.links, teller);
+    if (s.OutputKind == kBitmapOutput) return writeBitmapKind(reducer.reduced(), s, name, reducer.links, teller);
     const bool written =
         s.OutputKind == kInterlacedGifOutput ? reducer.WriteInterlacedGif(name) : reducer.WriteGif(name);
     teller.error = reducer.error;

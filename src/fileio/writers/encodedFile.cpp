@@ -1,4 +1,5 @@
 // AVIF and JPEG XL, made by a velara-encode, which is ended when nobody wants the file any more.
+#include "fileio/cameraData.h"
 #include "fileio/encode/EncodeProtocol.h"
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/PictureLoader.h"
@@ -43,6 +44,7 @@ Descriptor memoryFor(const Bits& picture, Request request, const CameraData& cam
     if (goesOn) {
         std::memcpy(at, camera.exif.constData(), request.exif);
         std::memcpy(at + request.exif, camera.xmp.constData(), request.xmp);
+        std::memcpy(at + request.exif + request.xmp, camera.profile.constData(), request.profile);
     }
     munmap(mapped, size);
     return goesOn ? std::move(memory) : Descriptor();
@@ -82,8 +84,9 @@ bool take(int pipe, ByteSink& to)
     }
 }
 
-bool writeEncoded(const Bits& picture, Format format, int quality, ByteSink& to, const CameraData& camera)
+bool writeEncoded(const Bits& picture, Format format, int quality, ByteSink& to, const CameraData& carried)
 {
+    const CameraData camera = inExif(carried);
     const auto bytes = [](const QByteArray& of) { return static_cast<std::uint32_t>(of.size()); };
     const Request request{format,
                           static_cast<std::uint32_t>(picture.width()),
@@ -91,7 +94,8 @@ bool writeEncoded(const Bits& picture, Format format, int quality, ByteSink& to,
                           static_cast<std::uint32_t>(quality),
                           static_cast<std::uint32_t>(threadCount()),
                           bytes(camera.exif),
-                          bytes(camera.xmp)};
+                          bytes(camera.xmp),
+                          bytes(camera.profile)};
     const Descriptor memory = memoryFor(picture, request, camera, to);
     int ends[2];
     if (memory.get() < 0 || pipe2(ends, O_CLOEXEC) != 0) return false;

@@ -146,6 +146,9 @@ bool JpegEncoder::encode(const Bits& picture, int quality, const CameraData& cam
     for (std::size_t i = 0; i < segments.size(); ++i)
         jpeg_write_marker(&info, segments[i].marker, reinterpret_cast<const JOCTET*>(segments[i].bytes.constData()),
                           static_cast<unsigned>(segments[i].bytes.size()));
+    if (!camera.profile.isEmpty())
+        jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET*>(camera.profile.constData()),
+                               static_cast<unsigned>(camera.profile.size()));
     while (info.next_scanline < info.image_height) {
         JSAMPROW rows[kRowsAtOnce];
         JDIMENSION count = 0;

@@ -22,12 +22,13 @@ bool writePpm(const Bits& picture, ByteSink& to);
 
 /// How well zlib looks for repetitions, 1 to 9.
 enum PngEffort : int { kUsualEffort = 6, kBestEffort = 9 };
-/// 24 bits a pixel. Of what the camera wrote all but IPTC, for which there is no chunk.
+/// 24 bits a pixel. IPTC, for which there is no chunk, stands in a text as other programs write it.
 bool writePng(const Bits& picture, int effort, ByteSink& to, const CameraData& camera = {});
 /// 8 bits a pixel, as greys where the palette is those.
-bool writePng(const IndexedPicture& picture, int effort, ByteSink& to);
+bool writePng(const IndexedPicture& picture, int effort, ByteSink& to, const CameraData& camera = {});
 
-/// 24 bits a pixel, by LZW with differences. Of what the camera wrote all but the EXIF.
+/// 24 bits a pixel, by LZW with differences, in the byte order of the EXIF. Of its first directory the file gets what
+/// kTagsOfPicture names, of the others all.
 bool writeTiff(const Bits& picture, OutputFile& to, const CameraData& camera = {});
 
 /// The quality of a JPEG is a class or 1 to 100 in the lower seven bits. 0 is the usual one, 75.
@@ -51,12 +52,13 @@ struct WebpForm {
 };
 /// Whether the format can hold it: at most 16383 pixels a side.
 bool fitsWebp(const Bits& picture);
-/// The chroma of one that isn't lossless is at half the width and height. EXIF and XMP are kept; there is no place for
-/// the rest of what the camera wrote.
+/// The chroma of one that isn't lossless is at half the width and height. Resolution, comment and IPTC stand in the
+/// EXIF.
 bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& camera = {});
 
 /// By a velara-encode, which is ended when goesOn() says no; quality 1 to 100. It gets a copy of the pixels, three
-/// bytes each. EXIF and XMP are kept. AVIF: from 90 on the chroma has all pixels, below that half the width and height.
+/// bytes each. Resolution, comment and IPTC stand in the EXIF. AVIF: from 90 on the chroma has all pixels, below that
+/// half the width and height.
 bool writeAvif(const Bits& picture, int quality, ByteSink& to, const CameraData& camera = {});
 /// JPEG XL: 90 is a distance of 1, the smallest that an eye may notice; 100 is without loss.
 bool writeJxl(const Bits& picture, int quality, ByteSink& to, const CameraData& camera = {});

@@ -1,4 +1,5 @@
 // PNG by libpng.
+#include "fileio/writers/iptcResource.h"
 #include "fileio/writers/pictureFiles.h"
 #include <algorithm>
 #include <array>
@@ -11,13 +12,23 @@ namespace velara {
 
 namespace {
 
+/// Bytes as the text that other programs write: a line end, the name, their number, and two digits each, in lines.
+QByteArray rawProfile(const char* name, const QByteArray& bytes)
+{
+    constexpr qsizetype kLine = 36;
+    if (bytes.isEmpty()) return {};
+    QByteArray text = QByteArray("\n") + name + '\n' + QByteArray::number(bytes.size()).rightJustified(8) + '\n';
+    for (qsizetype at = 0; at < bytes.size(); at += kLine) text += bytes.mid(at, kLine).toHex() + '\n';
+    return text;
+}
+
 /// The library's objects, which outlive its jumps out of the middle of a call.
 class PngEncoder {
   public:
     PngEncoder(ByteSink& to, const CameraData& camera = {})
         : png_(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, [](png_structp, png_const_charp) {})),
           info_(png_ ? png_create_info_struct(png_) : nullptr), to_(to), camera_(camera),
-          comment_(camera.comment.toUtf8())
+          comment_(camera.comment.toUtf8()), iptc_(rawProfile("iptc", iptcResource(camera.iptc)))
     {
     }
     ~PngEncoder() { png_destroy_write_struct(&png_, &info_); }
@@ -31,6 +42,10 @@ class PngEncoder {
         indexed ? headOf(*indexed) : headInFull(width, height);
         carry();
         png_write_info(png_, info_);
+        if (!camera_.exif.isEmpty()) // the library would put it behind the pixels, where not all look for it
+            png_write_chunk(png_, reinterpret_cast<png_const_bytep>("eXIf"),
+                            reinterpret_cast<png_const_bytep>(camera_.exif.constData()),
+                            static_cast<std::size_t>(camera_.exif.size()));
         if (!indexed) {
             png_set_bgr(png_);
             png_set_filler(png_, 0, PNG_FILLER_AFTER);
@@ -65,21 +80,22 @@ class PngEncoder {
     void carry()
     {
         png_set_pHYs(png_, info_, dotsAMetre(camera_.dotsAcross), dotsAMetre(camera_.dotsDown), PNG_RESOLUTION_METER);
-        if (!camera_.exif.isEmpty()) {
-            auto* bytes = reinterpret_cast<png_bytep>(const_cast<char*>(camera_.exif.constData()));
-            png_set_eXIf_1(png_, info_, static_cast<png_uint_32>(camera_.exif.size()), bytes);
-        }
+        if (!camera_.profile.isEmpty())
+            png_set_iCCP(png_, info_, "icc", PNG_COMPRESSION_TYPE_BASE,
+                         reinterpret_cast<png_const_bytep>(camera_.profile.constData()),
+                         static_cast<png_uint_32>(camera_.profile.size()));
         text("XML:com.adobe.xmp", camera_.xmp);
         text("Comment", comment_);
+        text("Raw profile type iptc", iptc_, PNG_TEXT_COMPRESSION_zTXt);
     }
-    void text(const char* key, const QByteArray& of)
+    void text(const char* key, const QByteArray& of, int compression = PNG_ITXT_COMPRESSION_NONE) // UTF-8
     {
         if (of.isEmpty()) return;
         png_text text{};
-        text.compression = PNG_ITXT_COMPRESSION_NONE; // UTF-8
+        text.compression = compression;
         text.key = const_cast<char*>(key);
         text.text = const_cast<char*>(of.constData());
-        text.itxt_length = static_cast<std::size_t>(of.size());
+        text.text_length = text.itxt_length = static_cast<std::size_t>(of.size());
         text.lang = text.lang_key = const_cast<char*>("");
         png_set_text(png_, info_, &text, 1);
     }
@@ -113,7 +129,7 @@ class PngEncoder {
     png_infop info_;
     ByteSink& to_;
     const CameraData camera_;
-    const QByteArray comment_;
+    const QByteArray comment_, iptc_;
 };
 
 } // namespace
@@ -125,10 +141,11 @@ bool writePng(const Bits& picture, int effort, ByteSink& to, const CameraData& c
     });
 }
 
-bool writePng(const IndexedPicture& picture, int effort, ByteSink& to)
+bool writePng(const IndexedPicture& picture, int effort, ByteSink& to, const CameraData& camera)
 {
-    return PngEncoder(to).encode(picture.width, picture.height, &picture, effort,
-                                 [&](int y) { return picture.indices.data() + std::ptrdiff_t{y} * picture.width; });
+    return PngEncoder(to, camera).encode(picture.width, picture.height, &picture, effort, [&](int y) {
+        return picture.indices.data() + std::ptrdiff_t{y} * picture.width;
+    });
 }
 
 } // namespace velara

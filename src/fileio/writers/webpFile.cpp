@@ -1,4 +1,5 @@
 // WebP by libwebp, which is asked for its progress and ends where it is told so.
+#include "fileio/cameraData.h"
 #include "fileio/writers/pictureFiles.h"
 #include <memory>
 #include <webp/encode.h>
@@ -61,6 +62,7 @@ bool WebpEncoder::mux(const CameraData& camera)
         const WebPData data{reinterpret_cast<const std::uint8_t*>(of.constData()), static_cast<std::size_t>(of.size())};
         put = put && (of.isEmpty() || WebPMuxSetChunk(file.get(), chunk, &data, 0) == WEBP_MUX_OK);
     };
+    add("ICCP", camera.profile);
     add("EXIF", camera.exif);
     add("XMP ", camera.xmp);
     return put && WebPMuxAssemble(file.get(), &muxed) == WEBP_MUX_OK;
@@ -73,11 +75,13 @@ bool fitsWebp(const Bits& picture)
     return picture.width() <= WEBP_MAX_DIMENSION && picture.height() <= WEBP_MAX_DIMENSION;
 }
 
-bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& camera)
+bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& carried)
 {
+    const CameraData camera = inExif(carried);
     WebpEncoder encoder;
     if (!fitsWebp(picture) || !encoder.encode(picture, form, to)) return false;
-    if (camera.exif.isEmpty() && camera.xmp.isEmpty()) return to.write(encoder.bytes.mem, encoder.bytes.size);
+    if (camera.exif.isEmpty() && camera.xmp.isEmpty() && camera.profile.isEmpty())
+        return to.write(encoder.bytes.mem, encoder.bytes.size);
     return encoder.mux(camera) && to.write(encoder.muxed.bytes, encoder.muxed.size);
 }
 

@@ -144,6 +144,43 @@ QImage x11Pointer(QPoint& at)
     return QImage(pixels, reply->width, reply->height, QImage::Format_ARGB32_Premultiplied).copy();
 }
 
+namespace {
+
+xcb_atom_t profileAtom(xcb_connection_t* x, int screen)
+{
+    const QByteArray name("_ICC_PROFILE");
+    return atom(x, screen == 0 ? name : name + '_' + QByteArray::number(screen));
+}
+
+} // namespace
+
+QByteArray x11ScreenProfile(int screen, qint64 most)
+{
+    xcb_connection_t* x = ours();
+    if (!x) return {};
+    const auto cookie = xcb_get_property(x, 0, screenOf(x)->root, profileAtom(x, screen), XCB_GET_PROPERTY_TYPE_ANY, 0,
+                                         static_cast<std::uint32_t>(most / 4));
+    const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(x, cookie, nullptr), &std::free);
+    if (!reply || reply->format != 8 || reply->bytes_after > 0) return {};
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
+}
+
+bool x11ChangesProfile(const void* event)
+{
+    constexpr std::uint8_t kSent = 0x80; // by another client
+    constexpr int kMostScreens = 16;
+    xcb_connection_t* x = ours();
+    const auto* change = static_cast<const xcb_property_notify_event_t*>(event);
+    if (!x || (change->response_type & ~kSent) != XCB_PROPERTY_NOTIFY || change->window != screenOf(x)->root)
+        return false;
+    static const std::vector<xcb_atom_t> atoms = [x] {
+        std::vector<xcb_atom_t> all;
+        for (int screen = 0; screen < kMostScreens; ++screen) all.push_back(profileAtom(x, screen));
+        return all;
+    }();
+    return std::ranges::find(atoms, change->atom) != atoms.end();
+}
+
 QSize x11RootSize()
 {
     xcb_connection_t* x = ours();

@@ -1,5 +1,6 @@
 // X server functions that Qt lacks.
 #pragma once
+#include <QByteArray>
 #include <QImage>
 #include <QRect>
 #include <vector>
@@ -15,6 +16,12 @@ std::vector<QRect> x11Windows();
 
 /// The pointer's picture; at: its upper left corner on the root window. Null without an X server.
 QImage x11Pointer(QPoint& at);
+
+/// The colour profile that the root window has for the screen of that number; empty when there is none, or one of more
+/// than so many bytes.
+QByteArray x11ScreenProfile(int screen, qint64 most);
+/// Whether an event (xcb_generic_event_t) says that such a profile has changed.
+bool x11ChangesProfile(const void* event);
 
 /// The root window's size in device pixels; empty when there is no X server.
 QSize x11RootSize();

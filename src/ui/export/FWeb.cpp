@@ -1,6 +1,7 @@
 // FWeb: the dialog's behaviour. Its controls are made in FWeb_controls.cpp.
 #include "ui/export/FWeb.h"
 #include "document/undo/UndoMark.h"
+#include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "seams/Platform.h"
@@ -29,7 +30,9 @@ namespace {
 
 constexpr int kBothTab = 2;
 constexpr int kMostQuality = 32767;
-constexpr auto kSection = "SaveForWeb", kLast = "Last"; // of the user's settings
+// Of the user's settings.
+constexpr auto kSection = "SaveForWeb", kLast = "Last", kKeepCamera = "KeepCameraData", kLeaveOut = "LeaveOutPlace";
+constexpr auto kOn = "on", kOff = "off";
 
 /// Selects an entry of a combo box without a signal.
 void setQuietly(QComboBox* box, int index)
@@ -40,9 +43,10 @@ void setQuietly(QComboBox* box, int index)
 
 } // namespace
 
-FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent)
-    : QDialog(parent), platform_(platform), picture_(picture), optimizedBits_(picture), name_(name), path_(path),
-      isrc_(new fPicturePage({"CiSrc", "isrc", "H", "V"}, tr("Original"))),
+FWeb::FWeb(Platform& platform, const Bits& picture, const CameraData& camera, const QString& name, const QString& path,
+           QWidget* parent)
+    : QDialog(parent), platform_(platform), picture_(picture), optimizedBits_(picture), camera_(camera), name_(name),
+      path_(path), isrc_(new fPicturePage({"CiSrc", "isrc", "H", "V"}, tr("Original"))),
       oSrc_(new fPicturePage({"CoSrc", "oSrc", "Hop", "Vop"}, tr("Optimized"))),
       original_(new fPicturePage({"COriginalP", "OriginalP", "HHor", "VVor"}, tr("Original, above the optimized"))),
       optimized_(new fPicturePage({"COptimizedP", "OptimizedP", "HHop", "VVop"}, tr("Optimized, below the original")))
@@ -64,6 +68,9 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const QString& name, const Q
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &FWeb::next);
     resize(900, 620);
+    chkKeepCamera_->setChecked(platform_.setting(kSection, kKeepCamera, kOff) == kOn);
+    chkWithoutPlace_->setChecked(platform_.setting(kSection, kLeaveOut, kOn) == kOn);
+    takeCamera();
     recall();
 }
 
@@ -82,6 +89,7 @@ void FWeb::presetChosen(int index)
 {
     if (index < 0) return;
     settings_.choosePreset(index, ChkInterlaced_->isChecked());
+    takeCamera();
     fgif_->setVisible(!settings_.hasQuality());
     Fjpg_->setVisible(settings_.hasQuality());
     FrmFit_->setVisible(settings_.fitsASize());
@@ -100,13 +108,35 @@ void FWeb::presetChosen(int index)
     qualityChosen(webJpegQualities()[kGoodQuality].word);
 }
 
+/// What the file gets beside its pixels: of what the camera wrote nothing, unless that is wanted.
+void FWeb::takeCamera()
+{
+    const bool holds = settings_.holdsCamera(), keeps = holds && chkKeepCamera_->isChecked();
+    chkKeepCamera_->setEnabled(holds);
+    chkKeepCamera_->setToolTip(holds ? QString() : tr("Files of this format have no place for it"));
+    chkWithoutPlace_->setEnabled(keeps);
+    const CameraKept kept = !keeps                          ? CameraKept::None
+                            : chkWithoutPlace_->isChecked() ? CameraKept::NoPlace
+                                                            : CameraKept::All;
+    settings_.camera = keptForWeb(camera_, kept, picture_.width(), picture_.height());
+}
+
+void FWeb::cameraChosen()
+{
+    platform_.setSetting(kSection, kKeepCamera, chkKeepCamera_->isChecked() ? kOn : kOff);
+    platform_.setSetting(kSection, kLeaveOut, chkWithoutPlace_->isChecked() ? kOn : kOff);
+    takeCamera();
+    if (CboFiles_->currentIndex() >= 0) changed();
+}
+
 void FWeb::chooseFromTable()
 {
     const QPointer<FWeb> alive = this;
     end(); // a preview under way begins again afterwards
     const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
     makePrivateFolder(folder);
-    const QPointer<fWebTable> table = new fWebTable(platform_, picture_, folder + QStringLiteral("/T0001"), this);
+    const QPointer<fWebTable> table =
+        new fWebTable(platform_, picture_, settings_.camera, folder + QStringLiteral("/T0001"), this);
     table->exec();
     if (!alive || !table) return;
     const int preset = table->preset();
@@ -362,6 +392,7 @@ void FWeb::adopt(const WebSettings& settings)
     setQuietly(cboColorMode_, settings.ColorMode == 0 ? 0 : 1);
     cboDither_->setEnabled(settings.takesDither);
     settings_ = settings;
+    takeCamera();
     changed();
 }
 

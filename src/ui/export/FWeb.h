@@ -26,8 +26,9 @@ class Platform;
 class FWeb final : public QDialog {
     Q_OBJECT
   public:
-    /// name is the document's; path its own file, if there is one.
-    FWeb(Platform& platform, const Bits& picture, const QString& name, const QString& path, QWidget* parent = nullptr);
+    /// name is the document's; path its own file, if there is one; camera what that carried.
+    FWeb(Platform& platform, const Bits& picture, const CameraData& camera, const QString& name, const QString& path,
+         QWidget* parent = nullptr);
 
     ~FWeb() override;
 
@@ -40,6 +41,7 @@ class FWeb final : public QDialog {
     QWidget* makeChoices();
     QWidget* makeGifFrame();
     QWidget* makeJpegFrame();
+    QWidget* makeCameraFrame();
     QWidget* makePages();
     QWidget* makePage(fPicturePage* page, QList<QLabel*> labels);
     QLabel* label(const char* name, const QString& accessibleName);
@@ -50,6 +52,8 @@ class FWeb final : public QDialog {
     void qualityChosen(int quality);
     void customQuality();
     void pageChosen(int page);
+    void takeCamera();
+    void cameraChosen();
 
     enum class Work { Preview, Fit, Save };
     struct Written;
@@ -76,6 +80,7 @@ class FWeb final : public QDialog {
 
     Platform& platform_;
     Bits picture_, optimizedBits_;
+    CameraData camera_;
     QString name_, path_;
     WebSettings settings_;
     std::shared_ptr<BestPalettes> palettes_ = std::make_shared<BestPalettes>(); // of the work in the background
@@ -91,7 +96,8 @@ class FWeb final : public QDialog {
     QGroupBox* FrmAPI_ = nullptr;
     QComboBox *CboFiles_ = nullptr, *cboMap_ = nullptr, *cboDither_ = nullptr, *cboColorMode_ = nullptr,
               *cboJpg_ = nullptr;
-    QCheckBox *ChkInterlaced_ = nullptr, *chkFlipH_ = nullptr, *chkFlipV_ = nullptr, *chkInvert_ = nullptr;
+    QCheckBox *ChkInterlaced_ = nullptr, *chkFlipH_ = nullptr, *chkFlipV_ = nullptr, *chkInvert_ = nullptr,
+              *chkKeepCamera_ = nullptr, *chkWithoutPlace_ = nullptr;
     QLineEdit* TxtJPG_ = nullptr;
     QSpinBox* fit_ = nullptr;
     QPushButton* CmdSave_ = nullptr;

@@ -1,4 +1,5 @@
 // FWeb: making and laying out its controls.
+#include "fileio/cameraData.h"
 #include "ui/export/FWeb.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
@@ -72,6 +73,7 @@ QWidget* FWeb::makeChoices()
     frames->addWidget(makeGifFrame());
     frames->addWidget(makeJpegFrame());
     frames->addWidget(makeFitFrame());
+    frames->addWidget(makeCameraFrame());
     CmdSave_ = button("CmdSave", QStringLiteral("Save As"));
     CmdSave_->setEnabled(false);
 
@@ -186,6 +188,19 @@ QWidget* FWeb::makeFitFrame()
     connect(fit_->findChild<QLineEdit*>(), &QLineEdit::returnPressed, fit, &QPushButton::click);
     connect(fit, &QPushButton::clicked, this, [this] { ask(Work::Fit); });
     return FrmFit_;
+}
+
+QWidget* FWeb::makeCameraFrame()
+{
+    auto* frame = named(new QWidget, "FrmCamera", tr("Camera data"));
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(chkKeepCamera_ = named(new QCheckBox(tr("&Keep camera data")), "chkKeepCamera"));
+    column->addWidget(chkWithoutPlace_ = named(new QCheckBox(tr("without the pla&ce")), "chkWithoutPlace"));
+    for (QCheckBox* box : {chkKeepCamera_, chkWithoutPlace_})
+        connect(box, &QCheckBox::clicked, this, &FWeb::cameraChosen);
+    frame->setVisible(!isEmpty(camera_));
+    return frame;
 }
 
 QLabel* FWeb::label(const char* name, const QString& accessibleName)

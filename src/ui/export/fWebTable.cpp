@@ -42,8 +42,9 @@ struct fWebTable::Row {
     bool isComplete = false;
 };
 
-fWebTable::fWebTable(Platform& platform, const Bits& picture, const QString& temporaryName, QWidget* parent)
-    : QDialog(parent), platform_(platform), picture_(picture), temporaryName_(temporaryName)
+fWebTable::fWebTable(Platform& platform, const Bits& picture, const CameraData& camera, const QString& temporaryName,
+                     QWidget* parent)
+    : QDialog(parent), platform_(platform), picture_(picture), camera_(camera), temporaryName_(temporaryName)
 {
     setObjectName(QStringLiteral("fWebTable"));
     setWindowTitle(tr("All formats"));
@@ -83,6 +84,7 @@ void fWebTable::next()
     if (done_ == count) return;
     const auto row = std::make_shared<Row>();
     row->settings.choosePreset(done_, false);
+    row->settings.camera = camera_;
     row->name = temporaryName_ + u'.' + row->settings.extension();
     const auto does = [row, picture = picture_, palettes = palettes_, &reader = platform_](const GoOn& goOn) {
         row->file = writeWebFile(picture, row->settings, row->name, OutputFile::Links::Replace, untilGivenUp(goOn),

@@ -16,8 +16,10 @@ class Platform;
 class fWebTable final : public QDialog {
     Q_OBJECT
   public:
-    /// temporaryName: of files that may be overwritten, without an extension.
-    fWebTable(Platform& platform, const Bits& picture, const QString& temporaryName, QWidget* parent);
+    /// camera: what each file gets beside its pixels. temporaryName: of files that may be overwritten, without an
+    /// extension.
+    fWebTable(Platform& platform, const Bits& picture, const CameraData& camera, const QString& temporaryName,
+              QWidget* parent);
 
     /// The preset that was chosen; -1: none.
     int preset() const { return preset_; }
@@ -30,6 +32,7 @@ class fWebTable final : public QDialog {
 
     Platform& platform_;
     Bits picture_;
+    CameraData camera_;
     QString temporaryName_;
     int preset_ = -1, done_ = 0;
     std::shared_ptr<BestPalettes> palettes_ = std::make_shared<BestPalettes>();

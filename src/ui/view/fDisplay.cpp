@@ -1,6 +1,7 @@
 #include "ui/view/fDisplay.h"
 #include "document/Document.h"
 #include "ui/view/footprintLine.h"
+#include "ui/widgets/ScreenColours.h"
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
@@ -104,7 +105,8 @@ void fDisplay::drawPart(QPainter& painter, const QRect& part)
     };
     const bool inStrips = outline && k == 1;
     renderer_.paint(painter, document_.bits(), spot_, device,
-                    inStrips ? ViewRenderer::Overlay(drawOutline) : ViewRenderer::Overlay());
+                    inStrips ? ViewRenderer::Overlay(drawOutline) : ViewRenderer::Overlay(),
+                    ScreenColours::tableFor(*this));
     if (!outline || inStrips) return;
     if (outline_.size() != size()) outline_ = QImage(size(), QImage::Format_ARGB32_Premultiplied);
     outline_.fill(Qt::transparent);

@@ -1,6 +1,7 @@
 #include "ui/widgets/fPicture.h"
 #include "engine/cBitFilter.h"
 #include "pixels/mBitmap.h"
+#include "ui/widgets/ScreenColours.h"
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
@@ -120,9 +121,10 @@ void fPicture::paintEvent(QPaintEvent* event)
                           whole(std::ceil((shown.top() + shown.height()) * k))};
         painter.translate(picture.topLeft());
         if (zoom_ > 0) {
-            renderer_.paint(painter, bits_, {0, 0, zoom_, k}, device, {});
+            renderer_.paint(painter, bits_, {0, 0, zoom_, k}, device, {}, ScreenColours::tableFor(*this));
         } else {
             QImage small = reducedView(bits_, 1 / (scale() * k), device);
+            if (const ColourTable* colours = ScreenColours::tableFor(*this)) colours->convert(small);
             small.setDevicePixelRatio(k);
             painter.drawImage(QPointF(device.left / k, device.top / k), small);
         }

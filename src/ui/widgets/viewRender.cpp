@@ -1,4 +1,5 @@
 #include "ui/widgets/viewRender.h"
+#include "ui/widgets/ColourTable.h"
 #include <QPainter>
 #include <algorithm>
 #include <array>
@@ -72,7 +73,7 @@ void ViewRenderer::render(const Bits& bits, const ViewSpot& spot, int left, int 
 }
 
 void ViewRenderer::paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part,
-                         const Overlay& overlay)
+                         const Overlay& overlay, const ColourTable* colours)
 {
     constexpr int kGrid = 8;
     constexpr int kStripPixels = 1 << 16;
@@ -87,6 +88,7 @@ void ViewRenderer::paint(QPainter& painter, const Bits& bits, const ViewSpot& sp
         QImage strip(reinterpret_cast<uchar*>(strip_.data()), width, std::min(rows, part.bottom - top), 4 * width,
                      QImage::Format_RGB32);
         render(bits, spot, left, top, strip);
+        if (colours) colours->convert(strip);
         if (overlay) overlay(strip, left, top);
         painter.drawImage(left, top, strip);
     }

@@ -12,6 +12,8 @@ class QPainter;
 
 namespace velara {
 
+class ColourTable;
+
 /// The view of the picture: the scroll position and the zoom in logical pixels, and the device pixels per logical
 /// pixel.
 struct ViewSpot {
@@ -25,8 +27,9 @@ class ViewRenderer {
     using Overlay = std::function<void(QImage& strip, int left, int top)>;
 
     /// Paints part of the view, in device pixels; the painter's coordinates are logical. The corners passed to overlay
-    /// are multiples of 8.
-    void paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part, const Overlay& overlay);
+    /// are multiples of 8. colours: those of the screen; null: the picture's own.
+    void paint(QPainter& painter, const Bits& bits, const ViewSpot& spot, const Rect& part, const Overlay& overlay,
+               const ColourTable* colours = nullptr);
 
     /// Renders the view from (left, top) to the whole target, a 32-bit image; the fourth byte is always 255. Positions
     /// outside of the picture show its nearest pixel.

@@ -208,6 +208,39 @@ TEST_F(FrameTest, SaveAsNamesTheDocumentAndClearsTheMark)
     EXPECT_FALSE(QFile::exists(path("c.pgm")));
 }
 
+TEST_F(FrameTest, EscEndsASaveAndLosesNothing)
+{
+    const auto content = [this](const char* name) {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    fImage* image = open(randomBits(1400, 1400, 1));
+    image->document().Changed = true;
+    QFile old(path("b.avif"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    old.close();
+    platform.answers = {path("b.avif")};
+    frame->Mmenu("SAVEAS");
+    EXPECT_EQ(frame->status().currentMessage(), "Saving b.avif ... Esc ends it");
+    QTest::keyClick(display(image), Qt::Key_Escape);
+    frame->workspace().wait();
+    EXPECT_EQ(frame->status().currentMessage(), "b.avif is not saved.");
+    EXPECT_FALSE(platform.logged("message: "));
+    EXPECT_EQ(content("b.avif"), "old");
+    EXPECT_TRUE(image->document().Changed);
+    EXPECT_NE(image->Tag(), path("b.avif"));
+
+    const Pixel before = image->bits().row(3)[3];
+    platform.answers = {path("c.bmp")};
+    frame->Mmenu("SAVEAS");
+    command("INVERT"); // goes on meanwhile
+    EXPECT_EQ(image->bits().row(3)[3].c[0], 255 - before.c[0]);
+    EXPECT_EQ(frame->status().currentMessage(), "");
+    EXPECT_FALSE(content("c.bmp").isEmpty());
+    EXPECT_EQ(image->Tag(), path("c.bmp"));
+    EXPECT_FALSE(frame->workspace().cancelSaving(image->document().handle())) << "there is none any more";
+}
+
 // What a file carries goes with the document, as far as "Save as" was told.
 TEST_F(FrameTest, TheCamerasDataGoesWithTheDocument)
 {

@@ -2,14 +2,20 @@
 // fileio/load/test_cage.cpp.
 #include "fileio/decode/cage/Cage.h"
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <regex>
+#include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace velara::decode {
 
@@ -85,6 +91,40 @@ TEST(Cage, TheSystemSaysThatItIsClosed)
         close(line[0]);
         close(line[1]);
     }
+}
+
+// Its encoder starts threads, and can do nothing else that a reader can't.
+TEST(Cage, AnEncoderHasThreadsAndNoFiles)
+{
+    const auto endsBy = [](void (*does)()) {
+        const pid_t inside = fork();
+        if (inside == 0) {
+            std::thread([] {}).join();
+            if (enterCage(Needs::Encoding).open != 0) _exit(9);
+            does();
+            _exit(3);
+        }
+        int status = 0;
+        waitpid(inside, &status, 0);
+        return WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
+    };
+    EXPECT_EQ(3, endsBy([] {
+                  std::atomic<int> sum = 0;
+                  std::vector<std::thread> all;
+                  for (int i = 0; i < 8; ++i) all.emplace_back([&sum] { sum += 1; });
+                  for (std::thread& each : all) each.join();
+                  if (sum != 8) _exit(1);
+              }));
+    EXPECT_EQ(4, endsBy([] {
+                  if (open("/etc/passwd", O_RDONLY) < 0 && errno == EACCES) _exit(4);
+              }));
+    void (*const kForbidden[])() = {[] { unlink("/tmp/velara-nothing"); },
+                                    [] { mkdir("/tmp/velara-nothing", 0700); },
+                                    [] { [[maybe_unused]] const pid_t child = fork(); },
+                                    [] { socket(AF_INET, SOCK_STREAM, 0); },
+                                    [] { kill(getppid(), 0); },
+                                    [] { execl("/bin/true", "true", nullptr); }};
+    for (const auto& does : kForbidden) EXPECT_EQ(-SIGSYS, endsBy(does)) << &does - kForbidden;
 }
 
 #endif

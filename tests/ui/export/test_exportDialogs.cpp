@@ -3,6 +3,7 @@
 #include "fileio/load/PictureLoader.h"
 #include "reduce/EuroDepth.h"
 #include "support/RecordingPlatform.h"
+#include "support/exif.h"
 #include "support/files.h"
 #include "support/fullDisk.h"
 #include "support/pictures.h"
@@ -58,9 +59,9 @@ struct ExportDialogs : WindowTest {
         web.reset();
         world.settle();
     }
-    void open(const Bits& shown)
+    void open(const Bits& shown, const CameraData& camera = {})
     {
-        web = std::make_unique<FWeb>(world, shown, "Photo", QString());
+        web = std::make_unique<FWeb>(world, shown, camera, "Photo", QString());
         used = web.get();
         web->show();
     }
@@ -144,6 +145,33 @@ TEST_F(ExportDialogs, EveryPresetPaletteAndDitherShowsItsFile)
         const QString file = temporary(s.isJpeg() ? "J0001.jpg" : "G0001.gif");
         EXPECT_TRUE(sameBits(world.loadPicture(file, s.extension()).bits, bits("oSrc"))) << name;
     }
+}
+
+TEST_F(ExportDialogs, TheCamerasDataIsKeptWhereThatIsWanted)
+{
+    const QByteArray second = ExifMaker(true).number(12345, 4); // of the place
+    const auto fileHas = [&](const QByteArray& part) {
+        idle();
+        return fileBytes(temporary("J0001.jpg")).contains(part);
+    };
+    open(picture, {.exif = exifOfCamera(true)});
+    auto *keep = find<QCheckBox>("chkKeepCamera"), *leaveOut = find<QCheckBox>("chkWithoutPlace");
+    auto* presets = find<QComboBox>("CboFiles");
+    presets->setCurrentIndex(0); // GIF
+    EXPECT_FALSE(keep->isEnabled());
+    presets->setCurrentIndex(presets->findText("JPEG", Qt::MatchContains));
+    ASSERT_TRUE(settings().isJpeg());
+    EXPECT_FALSE(keep->isChecked()) << "off at first";
+    EXPECT_FALSE(leaveOut->isEnabled());
+    EXPECT_FALSE(fileHas("Maker"));
+    keep->click();
+    EXPECT_TRUE(leaveOut->isChecked());
+    EXPECT_TRUE(fileHas("Maker"));
+    EXPECT_FALSE(fileHas(second));
+    leaveOut->click();
+    EXPECT_TRUE(fileHas(second));
+    open(picture);
+    EXPECT_FALSE(find<QCheckBox>("chkKeepCamera")->isVisible()) << "there is none";
 }
 
 TEST_F(ExportDialogs, ChoicesTakeEffectAndEqualKeepsTheLastDither)

@@ -47,7 +47,7 @@ CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
         if (closing == Closing::Holds) state.holding |= layer;
         if (closing == Closing::Failed) state.open |= layer;
     };
-    [[maybe_unused]] const unsigned long long memory = settleDown(); // while paths can still be opened
+    [[maybe_unused]] const unsigned long long memory = settleDown(needs); // while paths can still be opened
     close(NoNewPrivileges, noNewPrivileges);
     close(Capabilities, [] { return done(dropCapabilities()); });
     close(Landlock, [] { return closePaths({}, Ports::Shut); });

@@ -1,13 +1,14 @@
-// The cage of velara-decode: entered before the first byte of a picture is parsed, so that a picture that takes over
-// its reader can do no more than deliver wrong pixels.
+// The cage of velara-decode and velara-encode: entered before the first byte of a picture is parsed, so that a picture
+// that takes over its reader can do no more than deliver wrong pixels.
 #pragma once
 #include <string>
 
 namespace velara::decode {
 
 /// What a reader still needs inside: nothing; the system's fonts, which are opened beforehand; these and the one thread
-/// that drawing uses; or not to learn of several processors, for a library that would start a thread for each.
-enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4 };
+/// that drawing uses; or not to learn of several processors, for a library that would start a thread for each. Encoding
+/// is what velara-encode needs: threads of its own, and all of the free memory; it limits its time by itself.
+enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4, Encoding = 8 };
 constexpr Needs operator|(Needs a, Needs b) { return Needs(unsigned(a) | unsigned(b)); }
 constexpr bool include(Needs all, Needs part) { return (unsigned(all) & unsigned(part)) == unsigned(part); }
 

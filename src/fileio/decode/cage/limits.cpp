@@ -39,7 +39,7 @@ unsigned long long numberIn(const char* path, const char* word)
 
 } // namespace
 
-unsigned long long settleDown()
+unsigned long long settleDown(Needs needs)
 {
     if (chdir("/") != 0) return 0;
     const int file = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC);
@@ -47,7 +47,10 @@ unsigned long long settleDown()
     close(file);
     constexpr unsigned long long kLeast = 256ULL << 10; // KB: enough for most pictures
     const auto free = numberIn("/proc/meminfo", "MemAvailable:"), taken = numberIn("/proc/self/status", "VmSize:");
-    return free == 0 ? kMostMemory : std::min(kMostMemory, (taken + std::max(free, kLeast)) << 10);
+    constexpr unsigned long long kOfThreads = 4ULL << 30; // address space set aside for them and not used
+    const bool encodes = include(needs, Needs::Encoding);
+    const unsigned long long most = encodes ? RLIM_INFINITY : kMostMemory;
+    return free == 0 ? most : std::min(most, ((taken + std::max(free, kLeast)) << 10) + (encodes ? kOfThreads : 0));
 }
 
 bool limitResources(Needs needs, unsigned long long memory)
@@ -57,8 +60,10 @@ bool limitResources(Needs needs, unsigned long long memory)
     constexpr int kFontsAtATime = 16;
     const auto descriptors =
         include(needs, Needs::Fonts) ? static_cast<rlim_t>(std::max(next, highestFont() + 1) + kFontsAtATime) : 0;
-    return limit(RLIMIT_AS, memory) && limit(RLIMIT_CPU, kMostProcessorTime) && limit(RLIMIT_CORE, 0) &&
-           limit(RLIMIT_FSIZE, 0) && limit(RLIMIT_NOFILE, descriptors) && limit(RLIMIT_NPROC, 0);
+    const bool encodes = include(needs, Needs::Encoding);
+    return limit(RLIMIT_AS, memory) && limit(RLIMIT_CORE, 0) && limit(RLIMIT_FSIZE, 0) &&
+           limit(RLIMIT_NOFILE, descriptors) &&
+           (encodes || (limit(RLIMIT_CPU, kMostProcessorTime) && limit(RLIMIT_NPROC, 0)));
 }
 
 bool dropCapabilities()

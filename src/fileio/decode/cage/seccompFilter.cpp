@@ -4,8 +4,10 @@
 #include <fcntl.h>
 #include <linux/futex.h>
 #include <memory>
+#include <sched.h>
 #include <seccomp.h>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 
 namespace velara::decode {
 
@@ -26,6 +28,12 @@ constexpr int kForFonts[] = {
     SCMP_SYS(fadvise64), SCMP_SYS(getuid), SCMP_SYS(geteuid), SCMP_SYS(getpid), SCMP_SYS(gettid),
     SCMP_SYS(rt_sigprocmask),
 };
+
+/// What a thread does at its beginning and its end.
+constexpr int kForThreads[] = {SCMP_SYS(rseq), SCMP_SYS(set_robust_list), SCMP_SYS(rt_sigprocmask), SCMP_SYS(gettid)};
+/// How the C library starts one: it shares everything with the others, so that it is no new process.
+constexpr unsigned kThread = CLONE_VM | CLONE_FS | CLONE_FILES | CLONE_SYSVSEM | CLONE_SIGHAND | CLONE_THREAD |
+                             CLONE_SETTLS | CLONE_PARENT_SETTID | CLONE_CHILD_CLEARTID;
 
 /// Calls by path, answered by OpenFonts.
 constexpr int kAnswered[] = {
@@ -85,6 +93,19 @@ bool allowFonts(scmp_filter_ctx filter)
     return ok;
 }
 
+bool allowThreads(scmp_filter_ctx filter)
+{
+    // The C library's memory of several threads asks the system for the number of processors, by a path; it does
+    // without.
+    bool ok = seccomp_rule_add(filter, SCMP_ACT_ERRNO(EACCES), SCMP_SYS(openat), 0) == 0;
+    // clone3 has its flags in memory, where no filter sees them; the C library then takes the older call.
+    ok &= seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0 &&
+          seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1, SCMP_A0(SCMP_CMP_EQ, kThread)) == 0 &&
+          seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME)) == 0;
+    for (const int call : kForThreads) ok &= seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
+    return ok;
+}
+
 } // namespace
 
 bool filterSystemCalls(Needs needs)
@@ -95,6 +116,7 @@ bool filterSystemCalls(Needs needs)
               allowTalk(filter.get()) && allowWords(filter.get());
     for (const int call : kAlways) ok &= seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0) == 0;
     if (include(needs, Needs::Fonts)) ok &= allowFonts(filter.get());
+    if (include(needs, Needs::Encoding)) ok &= allowThreads(filter.get());
     const unsigned processors = include(needs, Needs::Solitude) ? SCMP_ACT_ERRNO(EPERM) : SCMP_ACT_ALLOW;
     ok &= seccomp_rule_add(filter.get(), processors, SCMP_SYS(sched_getaffinity), 0) == 0;
     return ok && seccomp_load(filter.get()) == 0;

@@ -120,6 +120,12 @@ QString coloursText(const Carried& carried)
     return carried.gamma > 0 ? QStringLiteral("gamma %1").arg(1 / carried.gamma, 0, 'f', 2) : QString();
 }
 
+QString commentOf(const Carried& carried)
+{
+    if (carried.comment.empty()) return outOfExif({.exif = bounded(carried.exif)}).comment;
+    return textOf(QByteArray::fromStdString(carried.comment.substr(0, kMostLetters * 4)));
+}
+
 } // namespace
 
 CameraData cameraOf(const Decoded& picture)
@@ -132,7 +138,7 @@ CameraData cameraOf(const Decoded& picture)
     const bool isTurned = orientationOf(carried) > 4;
     camera.dotsAcross = isTurned ? dots.down : dots.across;
     camera.dotsDown = isTurned ? dots.across : dots.down;
-    return fitted(std::move(camera), picture.width, picture.height);
+    return outOfExif(fitted(std::move(camera), picture.width, picture.height));
 }
 
 QString propertiesOf(const Decoded& picture)
@@ -149,9 +155,7 @@ QString propertiesOf(const Decoded& picture)
         {"Date", dateText(d)},
         {"Place", placeText(d)},
         {"Resolution", resolutionText(dots.across, dots.down)},
-        {"Comment", textOf(QByteArray::fromStdString(carried.comment.substr(0, kMostLetters * 4)))
-                        .simplified()
-                        .left(kMostLetters)},
+        {"Comment", commentOf(carried).simplified().left(kMostLetters)},
         {"Pages", carried.pages > 1 ? QString::number(carried.pages) : QString()},
     };
     QString text;

@@ -2,6 +2,7 @@
 #include "fileio/decode/facts/MatrixColours.h"
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdlib>
 #include <lcms2.h>
@@ -175,6 +176,41 @@ void convertGreys(Decoded& picture, cmsHPROFILE profile)
     };
 }
 
+// --- Profiles for the files that stored pixels are saved to
+
+QByteArray bytesOf(cmsHPROFILE profile)
+{
+    cmsUInt32Number size = 0;
+    if (!cmsSaveProfileToMem(profile, nullptr, &size)) return {};
+    QByteArray bytes(static_cast<qsizetype>(size), '\0');
+    return cmsSaveProfileToMem(profile, bytes.data(), &size) ? bytes : QByteArray();
+}
+
+/// The same greys, as red, green and blue: what is saved has three channels. Null where they are sRGB's.
+Profile inColours(cmsHPROFILE greys)
+{
+    auto* curve = static_cast<cmsToneCurve*>(cmsReadTag(greys, cmsSigGrayTRCTag));
+    const auto& p = kSrgbPlaces;
+    const cmsCIExyY white{p[0], p[1], 1};
+    const cmsCIExyYTRIPLE primaries{{p[2], p[3], 1}, {p[4], p[5], 1}, {p[6], p[7], 1}};
+    const std::array<cmsToneCurve*, 3> curves{curve, curve, curve};
+    return Profile(curve ? cmsCreateRGBProfile(&white, &primaries, curves.data()) : nullptr);
+}
+
+/// The high bytes of its samples.
+void showSamples(Decoded& picture)
+{
+    const std::size_t step = picture.samples.bytes;
+    const bool isLow = std::endian::native == std::endian::little; // the high byte is the second one
+    picture.row = [samples = picture.samples, step, high = step == 2 && isLow ? 1U : 0U,
+                   line = std::vector<std::uint16_t>(3 * std::size_t(picture.width))](int y, Pixel* row) mutable {
+        samples.row(y, line.data());
+        const auto* from = reinterpret_cast<const std::uint8_t*>(line.data()) + high;
+        for (std::size_t x = 0; x < line.size() / 3; ++x, from += 3 * step)
+            row[x] = {{from[2 * step], from[step], from[0], 0}};
+    };
+}
+
 } // namespace
 
 void prepareColours() { srgb(); }
@@ -192,6 +228,25 @@ void convertToSrgb(Decoded& picture)
         if (space == cmsSigGrayData && !isOfInks) convertGreys(picture, profile.get());
     }
     picture.samples = {};
+}
+
+QByteArray profileOfStored(Decoded& picture)
+{
+    constexpr std::size_t kMost = std::size_t{4} << 20;
+    const std::vector<std::uint8_t>& stored = picture.carried.profile;
+    const bool isOfInks = picture.samples.row && picture.samples.channels == 4;
+    if (!picture.ok() || stored.size() > kMost || isOfInks) return {};
+    Carried places = picture.carried;
+    places.gamma = 0; // the reader has corrected the pixels by it
+    Profile profile = stored.empty() ? ofGammaAndPlaces(places) : opened(stored);
+    const bool isGrey = profile && cmsGetColorSpace(profile.get()) == cmsSigGrayData;
+    if (isGrey) profile = inColours(profile.get());
+    if (!profile || cmsGetColorSpace(profile.get()) != cmsSigRgbData) return {};
+    const Convert convert = ofColours(profile.get(), Form::Pixels);
+    if (!convert || changesNothing(convert)) return {};
+    if (stored.empty() || isGrey) return bytesOf(profile.get());
+    if (picture.samples.row) showSamples(picture);
+    return {reinterpret_cast<const char*>(stored.data()), static_cast<qsizetype>(stored.size())};
 }
 
 QString nameOfProfile(const std::vector<std::uint8_t>& bytes)

@@ -12,6 +12,11 @@ void prepareColours();
 /// than 16 MB or made for another kind of picture is ignored.
 void convertToSrgb(Decoded& picture);
 
+/// Of a picture that is left in its stored colours: the profile that a file of its pixels has to carry, 4 MB at most.
+/// Empty: they are sRGB's, or nothing that can be used tells what they are. Where the reader has corrected the pixels
+/// by a gamma beside the profile, the rows are replaced by those that the profile means.
+QByteArray profileOfStored(Decoded& picture);
+
 /// The description in a profile, in English where there are several; empty when it can't be read.
 QString nameOfProfile(const std::vector<std::uint8_t>& profile);
 

@@ -1,4 +1,5 @@
 #include "fileio/decode/libraries/Tiff.h"
+#include "fileio/decode/facts/tiffExif.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -67,20 +68,33 @@ std::vector<tdir_t> pagesOf(const FileBytes& file)
     return pages;
 }
 
+namespace {
+
+/// Bytes that most files call words, so that the library may have changed their order.
+void takeIptc(Carried& carried, Span bytes)
+{
+    constexpr std::uint8_t kMark = 0x1c;
+    if (bytes.size() < 4 || bytes.size() > kMostFacts) return;
+    std::vector<std::uint8_t> records(bytes.begin(), bytes.end());
+    const bool isChanged = records[0] != kMark;
+    for (std::size_t at = 0; isChanged && at + 4 <= bytes.size(); at += 4)
+        std::reverse_copy(&bytes[at], &bytes[at] + 4, &records[at]);
+    for (int i = 0; i < 3 && records.back() == 0; ++i) records.pop_back(); // up to a whole word
+    if (records[0] == kMark) carried.iptc = std::move(records);
+}
+
+} // namespace
+
 Carried carriedByTiff(const Tiff& tiff)
 {
     Carried carried;
     const auto orientation = tiff.number<std::uint16_t>(TIFFTAG_ORIENTATION, 0);
     if (orientation <= 8) carried.orientation = orientation;
     take(carried.profile, tiff.bytes(TIFFTAG_ICCPROFILE), kMostProfile);
+    carried.exif = exifOfTiff(tiff.file(), TIFFCurrentDirOffset(tiff.get()));
     take(carried.xmp, tiff.bytes(TIFFTAG_XMLPACKET), kMostFacts);
     take(carried.iptc, iptcIn(tiff.bytes(TIFFTAG_PHOTOSHOP)), kMostFacts);
-    if (const Span longs = tiff.bytes(TIFFTAG_RICHTIFFIPTC); carried.iptc.empty() && longs.size() <= kMostFacts / 4) {
-        std::vector<std::uint8_t> records(longs.data(), longs.data() + 4 * longs.size()); // counted by fours
-        if (TIFFIsByteSwapped(tiff.get()))
-            TIFFSwabArrayOfLong(reinterpret_cast<std::uint32_t*>(records.data()), static_cast<tmsize_t>(longs.size()));
-        if (!records.empty() && records[0] == 0x1c) carried.iptc = std::move(records);
-    }
+    if (carried.iptc.empty()) takeIptc(carried, tiff.bytes(TIFFTAG_RICHTIFFIPTC));
     if (const char* text = tiff.number<const char*>(TIFFTAG_IMAGEDESCRIPTION, nullptr))
         take(carried.comment, {reinterpret_cast<const std::uint8_t*>(text), std::strlen(text)}, kMostComment);
     const auto unit = tiff.number<std::uint16_t>(TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);

@@ -21,6 +21,7 @@ class Tiff {
     Tiff& operator=(const Tiff&) = delete;
 
     TIFF* get() const { return tiff_; }
+    Span file() const { return file_.bytes(); }
     /// The value of a tag of one number; otherwise: it isn't there.
     template <class Number> Number number(std::uint32_t tag, Number otherwise) const
     {
