@@ -1,7 +1,8 @@
-// The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT.
+// The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT; or many INPUTs, steps, and the folder.
 #pragma once
 #include "batch/Session.h"
 #include "batch/icon.h"
+#include "batch/many/ManyOrder.h"
 #include "batch/web.h"
 #include <QStringList>
 #include <functional>
@@ -20,11 +21,14 @@ struct LineStep {
 };
 
 struct CommandLine {
-    QString input, output;
+    QString input, output; // of the single way; "-": standard input and output
+    std::optional<ManyOrder> many;
     std::vector<LineStep> steps;
     std::optional<WebOrder> web;   // OUTPUT is a web file
     std::optional<IconOrder> icon; // OUTPUT is an icon; not both
     std::optional<int> threads;    // all cores without it
+    std::optional<int> quality;    // 1 to 100, of a format that has one
+    QString format, inputFormat;   // extensions, lower case: of many outputs or of "-"; empty: the input's own
     CameraKept camera = CameraKept::All;
     bool stored = false; // colours as the file has them
     bool verbose = false, help = false, list = false, partial = false;

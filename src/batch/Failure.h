@@ -9,6 +9,7 @@ enum class Status { Done = 0, FileFault = 1, BadArgument = 2, OperationFailed = 
 struct Failure {
     Status status;
     QString text;
+    bool diskIsFull = false; // no other picture can be written either
 };
 
 /// Runs work; prefixes a failure's text with what.
@@ -17,7 +18,7 @@ template <class Work> auto naming(const QString& what, Work work)
     try {
         return work();
     } catch (const Failure& failure) {
-        throw Failure{failure.status, what + QStringLiteral(": ") + failure.text};
+        throw Failure{failure.status, what + QStringLiteral(": ") + failure.text, failure.diskIsFull};
     }
 }
 

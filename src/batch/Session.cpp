@@ -1,5 +1,7 @@
 #include "batch/Session.h"
 #include "document/resizing.h"
+#include "fileio/cameraData.h"
+#include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/MemoryBudget.h"
 #include <new>
@@ -42,6 +44,13 @@ void Session::adopt(const Bits& bits, bool keepSteps)
     take(workspace_->add(bits));
 }
 
+void Session::adopt(const LoadedPicture& loaded, bool partial, bool keepSteps)
+{
+    checkRead(loaded.ok(), loaded.reason, partial);
+    adopt(loaded.bits, keepSteps);
+    document_->file.camera = loaded.camera;
+}
+
 void Session::begin(bool keepSteps)
 {
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
@@ -60,14 +69,18 @@ void Session::take(const DocumentHandle& document)
     checkSteps();
 }
 
-SaveResult Session::save(const QString& path, CameraKept kept)
+SaveReport Session::save(const QString& path, const SaveOrder& order)
 {
-    document_->file.kept = kept;
-    SaveReport report;
-    workspace_->save(document_, path, [&](const SaveReport& became) { report = became; });
-    workspace_->wait();
-    report.tell(platform_);
-    return report.result;
+    const Bits& bits = document_->bits();
+    const CameraData camera = keptFor(document_->file.camera, order.kept, bits.width(), bits.height());
+    const SaveTarget target = saveTargetOf(path);
+    SaveWishes wishes;
+    wishes.quality = order.quality;
+    wishes.keepsRemains = false; // an output is whole, or not there
+    const SaveReport report =
+        writePicture(bits, target.name, target.extension, OutputFile::Links::Follow, camera, wishes);
+    if (order.tells) report.tell(platform_);
+    return report;
 }
 
 void Session::checkSteps()

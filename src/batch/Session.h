@@ -15,6 +15,13 @@ enum class GoesBack { Never, WhenRepeated, Always };
 /// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
 void checkRead(bool hasPicture, const QString& reason, bool partial);
 
+/// How a picture is saved.
+struct SaveOrder {
+    CameraKept kept = CameraKept::All; // as much of the camera's data
+    std::optional<int> quality = {};   // 1 to 100, where the format has one
+    bool tells = true;                 // notices go to the platform
+};
+
 class Session {
   public:
     explicit Session(Platform& platform) : platform_(platform) {}
@@ -26,8 +33,10 @@ class Session {
     void open(const QString& path, bool partial, bool keepSteps);
     /// The same with a picture that is there.
     void adopt(const Bits& bits, bool keepSteps);
-    /// Writes the picture with as much of the camera's data; notices go to the platform.
-    SaveResult save(const QString& path, CameraKept kept = CameraKept::All);
+    /// The same with one that was read: throws as open() does where it was not, or not wholly.
+    void adopt(const LoadedPicture& loaded, bool partial, bool keepSteps);
+    /// Writes the picture in the format of the path's extension.
+    SaveReport save(const QString& path, const SaveOrder& order = {});
     /// No later step goes back.
     void forgetSteps() { folder_.reset(); }
     Bits picture() const { return document_->bits(); }

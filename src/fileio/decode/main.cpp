@@ -1,6 +1,7 @@
 // velara-decode EXTENSION: started by the editor and the batch program, one run per file; see DecodeProtocol.h.
 #include "fileio/decode/answer.h"
 #include "fileio/decode/cage/Cage.h"
+#include "fileio/decode/warm.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <cstdio>
 #include <new>
@@ -47,6 +48,7 @@ int main(int argc, char** argv)
     if (argc >= 2 && isCalled()) { // "--cage" is an extension here
         QStringList wishes;
         for (int i = 2; i < argc; ++i) wishes << QString::fromUtf8(argv[i]);
+        if (wishes.contains(kWarmWish)) serveForks();
         answer(QString::fromUtf8(argv[1]), wishes);
     }
     if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();

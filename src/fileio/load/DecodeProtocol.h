@@ -3,7 +3,8 @@
 //   velara-decode EXTENSION [WISH ...], with a socket (SOCK_SEQPACKET) at descriptor 3, shared memory at descriptor 4
 //   and the picture file, open for reading, at descriptor 5
 //
-// A wish is "stored" (colours as the file has them, not sRGB) or "bare" (nothing beside the pixels).
+// A wish is "stored" (colours as the file has them, not sRGB) or "bare" (nothing beside the pixels). With "warm" no
+// picture is read: it serves forks of itself (fileio/decode/warm.h).
 //
 // The child may send a claim: the size and depth given by the header, and another when the reader of the extension
 // leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
@@ -35,6 +36,8 @@ constexpr std::size_t kPartMessage = std::size_t{16} << 10;
 
 constexpr const char* kStoredWish = "stored";
 constexpr const char* kBareWish = "bare";
+constexpr const char* kWarmWish = "warm";
+constexpr std::size_t kMostInOrder = 256; // bytes of extension and wishes for a fork
 
 /// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {
