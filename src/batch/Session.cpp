@@ -1,5 +1,4 @@
 #include "batch/Session.h"
-#include "document/resizing.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/memory/MemoryBudget.h"
 #include <new>
@@ -88,6 +87,8 @@ void Session::change(const Job& job, After after)
     workspace_->wait();
     try {
         if (became.fault) std::rethrow_exception(became.fault);
+    } catch (const StepFault& fault) {
+        throw failureOf(fault);
     } catch (const RuntimeError& error) {
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {
@@ -104,14 +105,6 @@ void Session::step(bool back)
 {
     workspace_->step(document_, back);
     workspace_->wait();
-}
-
-void Session::crop()
-{
-    const CropAnswer answer = cropAnswer(*document_);
-    if (answer == CropAnswer::NothingSelected) throw operationFailed(QStringLiteral("Nothing selected"));
-    if (answer == CropAnswer::TooSmall) throw operationFailed(QStringLiteral("Minimum size: 2 x 2"));
-    change(cropImage);
 }
 
 } // namespace velara
