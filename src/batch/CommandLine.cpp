@@ -100,6 +100,7 @@ constexpr Option kOptions[] = {
     {"--metadata",      true,  false, [](Given& g, Name o, Name v) { g.line.camera = wordOf(o, v, kKept); }},
     {"--icon",          true,  false, [](Given& g, Name o, Name v) { g.line.icon = iconOrder(notEmpty(o, v, "a size")); }},
     {"--select",        true,  false, [](Given& g, Name o, Name v) { g.items.push_back({LineItem::Selection, notEmpty(o, v, "a shape")}); }},
+    {"--recipe",        true,  false, [](Given& g, Name o, Name v) { g.items.push_back({LineItem::Recipe, notEmpty(o, v, "a file")}); }},
     {"--format",        true,  false, [](Given& g, Name o, Name v) { g.line.format = savedFormat(o, v); }},
     {"--input-format",  true,  false, [](Given& g, Name o, Name v) { g.line.inputFormat = notEmpty(o, v, "an extension").toLower(); }},
     {"--into",          true,  true,  [](Given& g, Name o, Name v) { g.many.into = notEmpty(o, v, "a folder"); }},
@@ -177,9 +178,13 @@ void takeOutputForm(Given& given)
 std::vector<LineStep> stepsOf(std::span<const LineItem> items)
 {
     std::vector<LineStep> steps;
-    for (const LineItem& item : items)
-        if (item.kind != LineItem::StepsBegin)
+    for (const LineItem& item : items) {
+        if (item.kind == LineItem::Recipe) {
+            for (LineStep& step : recipeSteps(item.text)) steps.push_back(std::move(step));
+        } else if (item.kind != LineItem::StepsBegin) {
             steps.push_back(item.kind == LineItem::Selection ? parseSelection(item.text) : parseStep(item.text));
+        }
+    }
     return steps;
 }
 

@@ -10,9 +10,6 @@
 
 namespace velara {
 
-/// Reads a picture file; throws Failure.
-using ReadPicture = std::function<Bits(const QString& path)>;
-
 struct LineStep {
     QString text;                                         // as written
     std::function<void(Session&)> run;                    // throws Failure
@@ -43,8 +40,8 @@ struct CommandLine {
 LineStep parseStep(const QString& text);
 /// Parses "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
 LineStep parseSelection(const QString& shape);
-/// Parses an argument as a value of the parameter's type; pictures stay file names until they are read. Throws Failure.
-Argument parseArgument(const QString& given, const Parameter& parameter);
+/// The steps of a recipe's file; throws Failure, which names its line.
+std::vector<LineStep> recipeSteps(const QString& path);
 
 /// The output of --help and --list.
 QString helpText();

@@ -1,5 +1,6 @@
 // How a run of velara-batch fails: the exit status and the message for the user.
 #pragma once
+#include "commands/recipe/StepFault.h"
 #include <QString>
 
 namespace velara {
@@ -22,6 +23,10 @@ template <class Work> auto naming(const QString& what, Work work)
     }
 }
 
+inline Failure failureOf(const StepFault& fault)
+{
+    return {fault.kind == StepFault::Unusable ? Status::BadArgument : Status::OperationFailed, fault.text};
+}
 inline Failure badArgument(const QString& text) { return {Status::BadArgument, text}; }
 inline Failure fileFault(const QString& text) { return {Status::FileFault, text}; }
 

@@ -1,5 +1,4 @@
 #include "batch/Session.h"
-#include "document/resizing.h"
 #include "fileio/cameraData.h"
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
@@ -101,6 +100,8 @@ void Session::change(const Job& job, After after)
     workspace_->wait();
     try {
         if (became.fault) std::rethrow_exception(became.fault);
+    } catch (const StepFault& fault) {
+        throw failureOf(fault);
     } catch (const RuntimeError& error) {
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {
@@ -117,14 +118,6 @@ void Session::step(bool back)
 {
     workspace_->step(document_, back);
     workspace_->wait();
-}
-
-void Session::crop()
-{
-    const CropAnswer answer = cropAnswer(*document_);
-    if (answer == CropAnswer::NothingSelected) throw operationFailed(QStringLiteral("Nothing selected"));
-    if (answer == CropAnswer::TooSmall) throw operationFailed(QStringLiteral("Minimum size: 2 x 2"));
-    change(cropImage);
 }
 
 } // namespace velara

@@ -1,16 +1,13 @@
 // Session: the one picture of a run of velara-batch: a workspace with one document; each step is waited for.
 #pragma once
 #include "batch/Failure.h"
-#include "commands/jobs.h"
+#include "commands/recipe/RecipeStep.h"
 #include "document/Workspace.h"
 #include "seams/Platform.h"
 #include <QTemporaryDir>
 #include <optional>
 
 namespace velara {
-
-/// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
-enum class GoesBack { Never, WhenRepeated, Always };
 
 /// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
 void checkRead(bool hasPicture, const QString& reason, bool partial);
@@ -42,7 +39,6 @@ class Session {
     Bits picture() const { return document_->bits(); }
 
     void change(const Job& job, After after = After::Step);
-    void crop();
     void undo() { step(true); }
     void redo() { step(false); }
     /// change modifies the selection; its result is the working region of later steps.

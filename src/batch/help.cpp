@@ -1,5 +1,5 @@
 #include "batch/CommandLine.h"
-#include "batch/words.h"
+#include "commands/recipe/stepWords.h"
 #include "seams/text.h"
 
 namespace velara {
@@ -52,7 +52,8 @@ STEP is one of
                          are 0x00BBGGRR or decimal. An operation that takes a
                          picture takes a file name; one with a ? in the list
                          may be left out. Text with commas goes
-                         between double quotes. A mask is a square of numbers:
+                         between double quotes, where two stand for one.
+                         A mask is a square of numbers:
                          'MaskFilter(0 -1 0/-1 5 -1/0 -1 0,1,0,0,0,true)'.
 
 Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
@@ -60,6 +61,7 @@ before the first of them: 50 50 is half the size.
 
 --select SHAPE limits the steps after it to a part of the picture:
   rect:l,t,r,b           columns l to r-1, rows t to b-1
+  rects:l,t,r,b,l,t,...  several rectangles
   ellipse:l,t,r,b        the ellipse in that rectangle
   polygon:x0,y0,x1,y1,...
   invert                 what is not selected; all when nothing is
@@ -109,7 +111,7 @@ QString listText()
 {
     QString list = QStringLiteral("Command words\n");
     QStringList idle;
-    for (const Word& word : words())
+    for (const StepWord& word : stepWords())
         if (word.meaning.isEmpty())
             idle << text(word.word);
         else
