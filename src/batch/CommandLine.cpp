@@ -2,6 +2,7 @@
 #include "batch/many/LineItem.h"
 #include "batch/many/NamePattern.h"
 #include "batch/onePicture.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/savePicture.h"
 #include "pixels/threads/parallelFor.h"
@@ -180,6 +181,7 @@ std::vector<LineStep> stepsOf(std::span<const LineItem> items)
     std::vector<LineStep> steps;
     for (const LineItem& item : items) {
         if (item.kind == LineItem::Recipe) {
+            if (!isThere(item.text)) throw badArgument(QStringLiteral("--recipe: there is no file %1").arg(item.text));
             for (LineStep& step : recipeSteps(item.text)) steps.push_back(std::move(step));
         } else if (item.kind != LineItem::StepsBegin) {
             steps.push_back(item.kind == LineItem::Selection ? parseSelection(item.text) : parseStep(item.text));

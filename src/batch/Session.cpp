@@ -52,6 +52,8 @@ void Session::adopt(const LoadedPicture& loaded, bool partial, bool keepSteps)
 
 void Session::begin(bool keepSteps)
 {
+    if (workspace_ && !keepSteps && !keptSteps_) return workspace_->close(document_); // its threads go on
+    keptSteps_ = keepSteps;
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
         throw stepsFault();
     workspace_.emplace(folder_ ? folder_->path() : QString(), platform_);

@@ -28,7 +28,7 @@ class Session {
     /// Reads the picture, one of which a part is missing only with partial. With keepSteps every change is kept in a
     /// private folder so that it can be undone.
     void open(const QString& path, bool partial, bool keepSteps);
-    /// The same with a picture that is there.
+    /// The same with a picture that is there. The one before is gone.
     void adopt(const Bits& bits, bool keepSteps);
     /// The same with one that was read: throws as open() does where it was not, or not wholly.
     void adopt(const LoadedPicture& loaded, bool partial, bool keepSteps);
@@ -59,6 +59,7 @@ class Session {
 
     Platform& platform_;
     std::optional<QTemporaryDir> folder_; // of the undo series
+    bool keptSteps_ = false;              // the workspace was made with it
     std::optional<Workspace> workspace_;
     DocumentHandle document_;
     std::function<void(int)> progress_;

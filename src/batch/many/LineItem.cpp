@@ -41,8 +41,11 @@ std::size_t countInputs(const LineItems& items)
     for (auto item = items.begin(); item != mark; ++item) {
         if (item->kind != LineItem::Text && !isMarked) return static_cast<std::size_t>(item - items.begin());
         if (item->kind != LineItem::Text) throw badArgument(QStringLiteral("--do: steps stand behind it, not before"));
-        if (isMarked || readsAsFile(item->text)) continue;
-        const bool stands = isThere(item->text), step = isStep(item->text);
+        if (readsAsFile(item->text)) continue;
+        const bool stands = isThere(item->text);
+        if (isMarked && stands) continue;
+        if (isMarked) throw badArgument(QStringLiteral("there is no file %1").arg(item->text));
+        const bool step = isStep(item->text);
         if (stands && step)
             throw badArgument(QStringLiteral("%1 is a step, and there is a file of that name: write ./%1 for the file, "
                                              "or --do before the steps")

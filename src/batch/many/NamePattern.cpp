@@ -61,7 +61,7 @@ QString fieldNames()
     return names.join(QStringLiteral(", "));
 }
 
-Failure unusable(const QString& what) { return badArgument(QStringLiteral("--name: ") + what); }
+Failure badPattern(const QString& what) { return badArgument(QStringLiteral("--name: ") + what); }
 
 } // namespace
 
@@ -71,14 +71,14 @@ NamePattern::Piece NamePattern::fieldOf(const QString& text) const
     const std::string name = text.left(colon < 0 ? text.size() : colon).toStdString();
     const auto* field = std::ranges::find(kFields, name, &Field::name);
     if (field == std::end(kFields))
-        throw unusable(QStringLiteral("there is no field {%1}; there are %2").arg(text, fieldNames()));
+        throw badPattern(QStringLiteral("there is no field {%1}; there are %2").arg(text, fieldNames()));
     Piece piece;
     piece.field = static_cast<int>(field - kFields);
     if (colon < 0) return piece;
     bool isNumber = false;
     piece.digits = text.mid(colon + 1).toInt(&isNumber);
     if (!field->isNumber || !isNumber || piece.digits < 1 || piece.digits > kMostDigits)
-        throw unusable(
+        throw badPattern(
             QStringLiteral("{%1}: digits, 1 to %2, go with {n} alone, as in {n:04}").arg(text).arg(kMostDigits));
     return piece;
 }
@@ -100,7 +100,7 @@ NamePattern::NamePattern(const QString& pattern)
         } else {
             const qsizetype end = pattern.indexOf(u'}', i);
             if (c == u'}' || end < 0)
-                throw unusable(QStringLiteral("a bracket has no partner; {{ and }} are the characters themselves"));
+                throw badPattern(QStringLiteral("a bracket has no partner; {{ and }} are the characters themselves"));
             endLiteral();
             pieces_.push_back(fieldOf(pattern.mid(i + 1, end - i - 1)));
             i = end;
@@ -108,8 +108,8 @@ NamePattern::NamePattern(const QString& pattern)
     }
     endLiteral();
     if (pattern.startsWith(u'/') || pattern.split(u'/').contains(QStringLiteral("..")))
-        throw unusable(QStringLiteral("it leads out of the folder"));
-    if (pieces_.empty()) throw unusable(QStringLiteral("it is empty"));
+        throw badPattern(QStringLiteral("it leads out of the folder"));
+    if (pieces_.empty()) throw badPattern(QStringLiteral("it is empty"));
     if (!endsInAFormat()) {
         pieces_.push_back({QStringLiteral(".")});
         pieces_.push_back(fieldOf(QStringLiteral("ext")));

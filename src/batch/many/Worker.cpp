@@ -117,12 +117,11 @@ class Worker {
     Told::Kind make(Reading& reading)
     {
         const QString& output = planned(reading.picture).output;
-        Session session(platform_);
-        session.adopt(std::exchange(reading.loaded, {}), line_.partial, line_.lastGoingBack() >= 0);
-        takeSteps(session, line_);
+        session_.adopt(std::exchange(reading.loaded, {}), line_.partial, line_.lastGoingBack() >= 0);
+        takeSteps(session_, line_);
         if (line_.many->existing == Existing::Skip && !line_.many->inPlace && isThere(output)) return Told::Skipped;
         makeFolder(output.left(output.lastIndexOf(u'/')));
-        writePictureOf(session, line_, output);
+        writePictureOf(session_, line_, output);
         return Told::Written;
     }
 
@@ -163,6 +162,7 @@ class Worker {
     const int socket_;
     BatchPlatform platform_;
     WarmReaders warm_;
+    Session session_{platform_};
     std::deque<std::unique_ptr<Reading>> readings_; // the first is worked on, or will be
     bool isReady_ = false;                          // that the first can be worked on was told
     std::set<QString> folders_;                     // that are there
