@@ -8,7 +8,7 @@
 
 namespace velara {
 
-struct Outcome {
+struct BatchRun {
     int status; // -1: it crashed or hung
     QString errors, output;
 };
@@ -22,7 +22,7 @@ struct BatchTest : FolderTest {
     void SetUp() override { ASSERT_TRUE(input().save(path("in.ppm"))); }
 
     /// Runs it in the folder; arguments are separated by blanks. before is a shell command to run first.
-    Outcome run(const QString& arguments, const QString& before = "true") const
+    BatchRun run(const QString& arguments, const QString& before = "true") const
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -40,7 +40,7 @@ struct BatchTest : FolderTest {
     ::testing::AssertionResult ends(int status, const QString& arguments, const QString& said = {},
                                     const QString& before = "true") const
     {
-        const Outcome outcome = run(arguments, before);
+        const BatchRun outcome = run(arguments, before);
         if (outcome.status == status && outcome.errors.contains(said)) return ::testing::AssertionSuccess();
         return ::testing::AssertionFailure() << arguments.toStdString() << ": " << outcome.status << ", not " << status
                                              << "; " << outcome.errors.toStdString();

@@ -263,7 +263,7 @@ TEST_F(BatchTest, EffectsAreStepsByTheirNumber)
 
 TEST_F(BatchTest, HelpAndListNameEverything)
 {
-    const Outcome help = run("--help"), list = run("in.ppm --list");
+    const BatchRun help = run("--help"), list = run("in.ppm --list");
     for (const char* word : {"--select", "--list", "--verbose", "polygon:", "Exit status"})
         EXPECT_TRUE(help.output.contains(word)) << word;
     for (const char* line : {"LIGHTEMBOSS EMBOSS(10)", " UNDO ", " x5 ",

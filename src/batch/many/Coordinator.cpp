@@ -153,7 +153,7 @@ void Coordinator::read(Hand& hand, int picture)
 {
     if (picture < 0) return;
     (hand.current < 0 ? hand.current : hand.next) = picture;
-    const Order order{Order::Read, picture};
+    const WorkOrder order{WorkOrder::Read, picture};
     send(hand.socket.get(), &order, sizeof order, MSG_NOSIGNAL); // one that has ended is noticed by its connection
 }
 
@@ -172,7 +172,7 @@ void Coordinator::goOn(Hand& hand)
     if (isStopping_ || !mayGoOn(hand.pixels)) return;
     hand.isWaiting = false;
     if (hand.next < 0) read(hand, takePicture());
-    const Order order{Order::GoOn, hand.current};
+    const WorkOrder order{WorkOrder::GoOn, hand.current};
     send(hand.socket.get(), &order, sizeof order, MSG_NOSIGNAL);
 }
 

@@ -45,11 +45,11 @@ class Worker {
     {
         for (;;) {
             if (!isReady_ && !readings_.empty() && !awaitPicture()) continue;
-            Order order{};
+            WorkOrder order{};
             const ssize_t size = recv(socket_, &order, sizeof order, 0);
             if (size < 0 && errno == EINTR) continue;
             if (size != sizeof order) return;
-            if (order.kind == Order::Read)
+            if (order.kind == WorkOrder::Read)
                 begin(order.picture);
             else
                 goOn();

@@ -7,7 +7,7 @@ namespace velara {
 
 /// To a worker. Read: begin to read the picture, while the one before is worked on. GoOn: work on the one that was told
 /// as Ready and write it. The end of the connection ends the worker.
-struct Order {
+struct WorkOrder {
     enum Kind : std::int32_t { Read, GoOn } kind;
     std::int32_t picture = -1; // its place in the plan
 };
