@@ -28,7 +28,7 @@ run_vips() {
     find in -name '*.jpg' -printf '%f\0' | VIPS_CONCURRENCY=1 xargs -0 -n 1 -P "$cores" sh -c \
         'vips resize "in/$0" "tmp/$0.v" 0.5 && vips sharpen "tmp/$0.v" "out/$0[Q=85]" && rm "tmp/$0.v"'
 }
-run_gm() { find in -name '*.jpg' -print0 | OMP_NUM_THREADS=1 xargs -0 -n 10 -P "$cores" gm mogrify -output-directory out -resize 50% -sharpen 0x1 -quality 85; }
+run_gm() { mkdir -p out/in; find in -name '*.jpg' -print0 | OMP_NUM_THREADS=1 xargs -0 -n 10 -P "$cores" gm mogrify -output-directory out -resize 50% -sharpen 0x1 -quality 85; }
 run_mogrify() { find in -name '*.jpg' -print0 | OMP_NUM_THREADS=1 xargs -0 -n 10 -P "$cores" mogrify -path out -resize 50% -sharpen 0x1 -quality 85; }
 
 programs="velara velara_1 vipsthumbnail vips gm mogrify"

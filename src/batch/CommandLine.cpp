@@ -232,16 +232,14 @@ void takeMany(Given& given)
     if (many.existing == Existing::Number && many.shard.count > 1)
         throw badArgument(QStringLiteral("--existing number: shards can't agree about numbers; take skip or newer"));
     NamePattern{many.pattern};
-    const std::size_t inputs = countInputs(given.items);
-    for (const LineItem& item : std::span(given.items).first(inputs)) {
-        if (item.text == QStringLiteral("-"))
-            throw badArgument(QStringLiteral("-: standard input is one picture; give its OUTPUT, without --into"));
-        many.inputs << item.text;
-    }
-    if (inputs == 0) throw badArgument(QStringLiteral("INPUT is missing: ") + kUsageOfMany);
+    const InputsAndSteps parts = inputsAndSteps(given.items);
+    many.inputs = parts.inputs;
+    if (many.inputs.contains(QStringLiteral("-")))
+        throw badArgument(QStringLiteral("-: standard input is one picture; give its OUTPUT, without --into"));
+    if (many.inputs.isEmpty()) throw badArgument(QStringLiteral("INPUT is missing: ") + kUsageOfMany);
     if (!line.inputFormat.isEmpty())
         throw badArgument(QStringLiteral("--input-format: this goes with - as INPUT alone"));
-    line.steps = stepsOf(std::span(given.items).subspan(inputs));
+    line.steps = stepsOf(parts.steps);
     line.many = many;
 }
 

@@ -133,7 +133,7 @@ TEST_F(ManyTest, RecipesFormatsAndTheWeb)
 {
     put("recipe", "velara recipe 1\n# half of it\nINVERT\n50\n");
     EXPECT_TRUE(ends(0, "in --recipe recipe FLIPH --into out --format jpg --quality 20"));
-    EXPECT_TRUE(ends(0, "in --recipe recipe FLIPH --into fine --format jpg --quality 95"));
+    EXPECT_TRUE(ends(0, "--recipe recipe --into fine --format jpg --quality 95 -- in FLIPH")) << "as the editor does";
     EXPECT_EQ(QSize(6, 4), QImage(path("out/1.jpg")).size());
     EXPECT_LT(content("out/1.jpg").size(), content("fine/1.jpg").size());
     put("recipe", "velara recipe 1\nINVRET\n");

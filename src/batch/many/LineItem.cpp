@@ -32,28 +32,36 @@ Failure neither(const QString& text)
     return badArgument(QStringLiteral("there is no file %1, and as a step: %2").arg(text, why));
 }
 
+/// Else it is a step. isMarked: steps stand behind --do.
+bool isInput(const QString& text, bool isMarked)
+{
+    if (readsAsFile(text) || text == QStringLiteral("-")) return true;
+    const bool stands = isThere(text);
+    if (isMarked && stands) return true;
+    if (isMarked) throw badArgument(QStringLiteral("there is no file %1").arg(text));
+    const bool step = isStep(text);
+    if (stands && step)
+        throw badArgument(QStringLiteral("%1 is a step, and there is a file of that name: write ./%1 for the file, "
+                                         "or --do before the steps")
+                              .arg(text));
+    if (!stands && !step) throw neither(text);
+    return stands;
+}
+
 } // namespace
 
-std::size_t countInputs(const LineItems& items)
+InputsAndSteps inputsAndSteps(const LineItems& items)
 {
-    const auto mark = std::ranges::find(items, LineItem::StepsBegin, &LineItem::kind);
-    const bool isMarked = mark != items.end();
-    for (auto item = items.begin(); item != mark; ++item) {
-        if (item->kind != LineItem::Text && !isMarked) return static_cast<std::size_t>(item - items.begin());
-        if (item->kind != LineItem::Text) throw badArgument(QStringLiteral("--do: steps stand behind it, not before"));
-        if (readsAsFile(item->text)) continue;
-        const bool stands = isThere(item->text);
-        if (isMarked && stands) continue;
-        if (isMarked) throw badArgument(QStringLiteral("there is no file %1").arg(item->text));
-        const bool step = isStep(item->text);
-        if (stands && step)
-            throw badArgument(QStringLiteral("%1 is a step, and there is a file of that name: write ./%1 for the file, "
-                                             "or --do before the steps")
-                                  .arg(item->text));
-        if (step) return static_cast<std::size_t>(item - items.begin());
-        if (!stands) throw neither(item->text);
-    }
-    return static_cast<std::size_t>(mark - items.begin());
+    const auto isText = [](const LineItem& item) { return item.kind == LineItem::Text; };
+    const bool isMarked = std::ranges::count(items, LineItem::StepsBegin, &LineItem::kind) > 0;
+    const auto first = std::ranges::find_if(items, isText);
+    InputsAndSteps parts{{}, LineItems(items.begin(), first)};
+    auto item = first;
+    for (; item != items.end() && isText(*item) && isInput(item->text, isMarked); ++item) parts.inputs << item->text;
+    if (isMarked && item != items.end() && item->kind != LineItem::StepsBegin && !parts.inputs.isEmpty())
+        throw badArgument(QStringLiteral("--do: steps stand behind it, not before"));
+    parts.steps.insert(parts.steps.end(), item, items.end());
+    return parts;
 }
 
 } // namespace velara

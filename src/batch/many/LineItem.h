@@ -1,6 +1,6 @@
 // The arguments of the command line that are no options, in their order.
 #pragma once
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace velara {
@@ -11,9 +11,14 @@ struct LineItem {
 };
 using LineItems = std::vector<LineItem>;
 
-/// Of many pictures the number of items that are INPUTs: those before --do, or without it those before the first step.
-/// A text is a step when it reads as one; one that is a file, too, is refused, as is one that can be neither. Throws
-/// Failure.
-std::size_t countInputs(const LineItems& items);
+struct InputsAndSteps {
+    QStringList inputs;
+    LineItems steps;
+};
+
+/// Of many pictures the INPUTs: the texts before --do, or without it those before the first step. Recipes and
+/// selections that stand before all texts are the first steps. A text is a step when it reads as one; one that is a
+/// file, too, is refused, as is one that can be neither. Throws Failure.
+InputsAndSteps inputsAndSteps(const LineItems& items);
 
 } // namespace velara

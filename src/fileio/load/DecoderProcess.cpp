@@ -150,6 +150,8 @@ Doing doingOf(pid_t pid)
 std::optional<DecoderProcess::Wait> DecoderProcess::look(bool silent)
 {
     using namespace std::chrono;
+    constexpr auto kStopped = 5s; // longer than any machine is busy: this program itself was stopped meanwhile
+    if (const auto late = steady_clock::now() - nextLook_; late > kStopped) started_ += late;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
     const Doing doing = doingOf(pid_);
     if (doing.idle && silent) ++idleLooks_; // a child that has sent something may be waiting for us
