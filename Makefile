@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan bench-window bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -70,6 +70,18 @@ bench-check: all
 SIZE ?= 6000x4000
 bench-window: all
 	QT_QPA_PLATFORM=offscreen $(RELEASE)/bin/velara-busy --size $(SIZE) $(WORDS)
+
+# Pictures a second of velara-batch with many, beside other programs: make bench-many PICTURES=1000 ROUNDS=3 SMALL=10000
+PICTURES ?= 40
+ROUNDS ?= 3
+SMALL ?= 2000
+bench-many: all
+	@scripts/bench_many.sh $(RELEASE)/bin $(PICTURES) $(ROUNDS) $(SMALL)
+
+# What docs/manual/many.md says of several machines, on this one: GNU parallel over ssh, a Slurm cluster of one node, a pod of
+# Kubernetes' Indexed Job as a sandbox. Installs what is missing for that; needs root.
+test-cluster: all
+	@scripts/test_cluster.sh $(RELEASE)/bin
 
 # The contact sheets of docs/gallery: every filter on the sample picture.
 gallery: all

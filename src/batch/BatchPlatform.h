@@ -7,6 +7,9 @@ namespace velara {
 class BatchPlatform : public WindowlessPlatform {
   public:
     void message(const QString& title, const QString& text, Icon icon) override;
+    /// The picture that comes by standard input, read by the reader of the extension, or by its mark where that is
+    /// empty.
+    LoadedPicture fromStandardInput(const QString& extension);
 };
 
 /// A line on standard error, after the program's name.

@@ -1,16 +1,14 @@
-// The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT.
+// The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT; or many INPUTs, steps, and the folder.
 #pragma once
 #include "batch/Session.h"
 #include "batch/icon.h"
+#include "batch/many/ManyOrder.h"
 #include "batch/web.h"
 #include <QStringList>
 #include <functional>
 #include <vector>
 
 namespace velara {
-
-/// Reads a picture file; throws Failure.
-using ReadPicture = std::function<Bits(const QString& path)>;
 
 struct LineStep {
     QString text;                                         // as written
@@ -20,13 +18,16 @@ struct LineStep {
 };
 
 struct CommandLine {
-    QString input, output;
+    QString input, output; // of the single way; "-": standard input and output
+    std::optional<ManyOrder> many;
     std::vector<LineStep> steps;
     std::optional<WebOrder> web;      // OUTPUT is a web file
     std::optional<IconOrder> icon;    // OUTPUT is an icon; not both
     std::optional<int> threads;       // all cores without it
-    int page = 1;                     // of INPUT
+    std::optional<int> quality;       // 1 to 100, of a format that has one
+    QString format, inputFormat;      // extensions, lower case: of many outputs or of "-"; empty: the input's own
     std::optional<CameraKept> camera; // as given
+    int page = 1;                     // of INPUT
     bool stored = false;              // colours as the file has them
     bool verbose = false, help = false, list = false, partial = false;
 
@@ -40,8 +41,8 @@ struct CommandLine {
 LineStep parseStep(const QString& text);
 /// Parses "--select" with its shape; throws Failure. The step itself fails when the shape lies outside of the picture.
 LineStep parseSelection(const QString& shape);
-/// Parses an argument as a value of the parameter's type; pictures stay file names until they are read. Throws Failure.
-Argument parseArgument(const QString& given, const Parameter& parameter);
+/// The steps of a recipe's file; throws Failure, which names its line.
+std::vector<LineStep> recipeSteps(const QString& path);
 
 /// The output of --help and --list.
 QString helpText();

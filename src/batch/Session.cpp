@@ -1,5 +1,4 @@
 #include "batch/Session.h"
-#include "document/resizing.h"
 #include "fileio/cameraData.h"
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
@@ -47,8 +46,17 @@ void Session::adopt(const Bits& bits, bool keepSteps)
     take(workspace_->add(bits));
 }
 
+void Session::adopt(const LoadedPicture& loaded, bool partial, bool keepSteps)
+{
+    checkRead(loaded.ok(), loaded.reason, partial);
+    adopt(loaded.bits, keepSteps);
+    document_->file.camera = loaded.camera;
+}
+
 void Session::begin(bool keepSteps)
 {
+    if (workspace_ && !keepSteps && !keptSteps_) return workspace_->close(document_); // its threads go on
+    keptSteps_ = keepSteps;
     if (keepSteps && !folder_.emplace(temporaryFolder() + QStringLiteral("/velara-batch-XXXXXX")).isValid())
         throw stepsFault();
     workspace_.emplace(folder_ ? folder_->path() : QString(), platform_);
@@ -65,14 +73,18 @@ void Session::take(const DocumentHandle& document)
     checkSteps();
 }
 
-SaveResult Session::save(const QString& path, CameraKept kept)
+SaveReport Session::save(const QString& path, const SaveOrder& order)
 {
-    document_->file.kept = kept;
-    SaveReport report;
-    workspace_->save(document_, path, [&](const SaveReport& became) { report = became; });
-    workspace_->wait();
-    report.tell(platform_);
-    return report.result;
+    const Bits& bits = document_->bits();
+    const CameraData camera = keptFor(document_->file.camera, order.kept, bits.width(), bits.height());
+    const SaveTarget target = saveTargetOf(path);
+    SaveWishes wishes;
+    wishes.quality = order.quality;
+    wishes.keepsRemains = false; // an output is whole, or not there
+    const SaveReport report =
+        writePicture(bits, target.name, target.extension, OutputFile::Links::Follow, camera, wishes);
+    if (order.tells) report.tell(platform_);
+    return report;
 }
 
 CameraData Session::webCamera(CameraKept kept) const
@@ -99,6 +111,8 @@ void Session::change(const Job& job, After after)
     workspace_->wait();
     try {
         if (became.fault) std::rethrow_exception(became.fault);
+    } catch (const StepFault& fault) {
+        throw failureOf(fault);
     } catch (const RuntimeError& error) {
         throw operationFailed(QString::fromLatin1(error.what()));
     } catch (const std::invalid_argument& error) {
@@ -115,14 +129,6 @@ void Session::step(bool back)
 {
     workspace_->step(document_, back);
     workspace_->wait();
-}
-
-void Session::crop()
-{
-    const CropAnswer answer = cropAnswer(*document_);
-    if (answer == CropAnswer::NothingSelected) throw operationFailed(QStringLiteral("Nothing selected"));
-    if (answer == CropAnswer::TooSmall) throw operationFailed(QStringLiteral("Minimum size: 2 x 2"));
-    change(cropImage);
 }
 
 } // namespace velara

@@ -1,7 +1,7 @@
 // Session: the one picture of a run of velara-batch: a workspace with one document; each step is waited for.
 #pragma once
 #include "batch/Failure.h"
-#include "commands/jobs.h"
+#include "commands/recipe/RecipeStep.h"
 #include "document/Workspace.h"
 #include "seams/Platform.h"
 #include <QTemporaryDir>
@@ -9,11 +9,15 @@
 
 namespace velara {
 
-/// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
-enum class GoesBack { Never, WhenRepeated, Always };
-
 /// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
 void checkRead(bool hasPicture, const QString& reason, bool partial);
+
+/// How a picture is saved.
+struct SaveOrder {
+    CameraKept kept = CameraKept::All; // as much of the camera's data
+    std::optional<int> quality = {};   // 1 to 100, where the format has one
+    bool tells = true;                 // notices go to the platform
+};
 
 class Session {
   public:
@@ -26,10 +30,12 @@ class Session {
     void open(const QString& path, bool partial, bool keepSteps, int page = 1);
     /// "photo.jpg is a PNG picture"; empty where the name of the file that was opened says so.
     QString otherKind() const;
-    /// The same with a picture that is there.
+    /// The same with a picture that is there. The one before is gone.
     void adopt(const Bits& bits, bool keepSteps);
-    /// Writes the picture with as much of the camera's data; notices go to the platform.
-    SaveResult save(const QString& path, CameraKept kept = CameraKept::All);
+    /// The same with one that was read: throws as open() does where it was not, or not wholly.
+    void adopt(const LoadedPicture& loaded, bool partial, bool keepSteps);
+    /// Writes the picture in the format of the path's extension.
+    SaveReport save(const QString& path, const SaveOrder& order = {});
     /// What a web file of the picture gets beside its pixels.
     CameraData webCamera(CameraKept kept) const;
     /// No later step goes back.
@@ -37,7 +43,6 @@ class Session {
     Bits picture() const { return document_->bits(); }
 
     void change(const Job& job, After after = After::Step);
-    void crop();
     void undo() { step(true); }
     void redo() { step(false); }
     /// change modifies the selection; its result is the working region of later steps.
@@ -58,6 +63,7 @@ class Session {
 
     Platform& platform_;
     std::optional<QTemporaryDir> folder_; // of the undo series
+    bool keptSteps_ = false;              // the workspace was made with it
     std::optional<Workspace> workspace_;
     DocumentHandle document_;
     std::function<void(int)> progress_;

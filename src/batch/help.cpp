@@ -1,5 +1,6 @@
 #include "batch/CommandLine.h"
-#include "batch/words.h"
+#include "batch/many/NamePattern.h"
+#include "commands/recipe/stepWords.h"
 #include "seams/text.h"
 
 namespace velara {
@@ -39,11 +40,14 @@ QString wrapped(const QStringList& words)
 QString helpText()
 {
     return QStringLiteral(R"(velara-batch INPUT [--select SHAPE]... [STEP]... [--web PRESET ... | --icon WxH] OUTPUT
+velara-batch INPUT... [STEP]... --into FOLDER
 
 Reads the picture INPUT, takes the steps in their order, each on the result of
 the one before, and writes the picture OUTPUT. The extensions pick reader and
 writer. An OUTPUT of .ppm, .pgm or .pbm is a portable anymap; it has true
-colour, so its extension becomes .ppm.
+colour, so its extension becomes .ppm. INPUT may be -, standard input, whose
+format is known by its first bytes, or told by --input-format EXT; OUTPUT may be
+-, standard output, with --format EXT.
 
 STEP is one of
   WORD                   a command word, such as LIGHTEMBOSS, FLIPH, N90, x2
@@ -52,7 +56,8 @@ STEP is one of
                          are 0x00BBGGRR or decimal. An operation that takes a
                          picture takes a file name; one with a ? in the list
                          may be left out. Text with commas goes
-                         between double quotes. A mask is a square of numbers:
+                         between double quotes, where two stand for one.
+                         A mask is a square of numbers:
                          'MaskFilter(0 -1 0/-1 5 -1/0 -1 0,1,0,0,0,true)'.
 
 Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
@@ -60,6 +65,7 @@ before the first of them: 50 50 is half the size.
 
 --select SHAPE limits the steps after it to a part of the picture:
   rect:l,t,r,b           columns l to r-1, rows t to b-1
+  rects:l,t,r,b,l,t,...  several rectangles
   ellipse:l,t,r,b        the ellipse in that rectangle
   polygon:x0,y0,x1,y1,...
   invert                 what is not selected; all when nothing is
@@ -84,6 +90,35 @@ dialog's lists; one that there is not prints those that there are:
 side from 1 to 256; --icon WxH,mask:0x00BBGGRR one in which what has that colour
 is transparent.
 
+Many pictures: each INPUT is a file or a folder of them, and what becomes of
+them goes into FOLDER under their own names. INPUTs stand first; the first word
+that reads as a step begins the steps. Where a file has such a name, too, write
+./NAME for the file, or --do before the steps.
+  --into FOLDER          made if it isn't there
+  --do                   what stands before it is INPUT, what follows are steps
+  --recursive            folders in the folders, too
+  --name PATTERN         the names; {dir}/{name}.{ext} without it. Fields:
+)") + NamePattern::help() +
+           QStringLiteral(R"(  --format EXT           the format; else each keeps its own
+  --quality NUMBER       1 to 100, for jpg, webp, avif and jxl
+  --existing skip        what is there stays, as without this option;
+             replace     it is made anew; number: under another name;
+             newer       it is made anew where its input is newer
+  --jobs N               so many at the same time; else as many as cores. Fewer
+                         where the memory does not hold so many of their size
+  --stop-at-first        nothing is begun after a failure; else, as with
+                         --keep-going, the other pictures are made
+  --report FILE          a line of JSON a picture: input, output, result, bytes,
+                         milliseconds, reason
+  --shard I/N            of N parts of the work the one with the number I
+  --in-place --yes       in place of --into: the originals are overwritten
+Two inputs that would become one output are refused, and so is an output that
+is one of the inputs. docs/manual/many.md has examples.
+
+--recipe FILE takes the steps of the file in this place: a first line "velara
+recipe 1", then a step a line, written as here but with no quotes of the shell;
+lines that begin with # are for people.
+
 --colours srgb|stored
            pictures that say what their colours are become sRGB, or are read as
            they are stored; srgb without it
@@ -103,7 +138,9 @@ is transparent.
 
 Exit status: 0 done; 1 a picture could not be read or written; 2 an argument is
 of no use, and the message names it; 3 an operation failed. On 1 to 3 nothing is
-written, and an existing OUTPUT stays as it was.
+written, and an existing OUTPUT stays as it was. Many pictures: 0 all done; 1
+some could not be made; 2 as above; 130 or 143 ended by a signal. Each output is
+whole or not there.
 )");
 }
 
@@ -111,7 +148,7 @@ QString listText()
 {
     QString list = QStringLiteral("Command words\n");
     QStringList idle;
-    for (const Word& word : words())
+    for (const StepWord& word : stepWords())
         if (word.meaning.isEmpty())
             idle << text(word.word);
         else

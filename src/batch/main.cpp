@@ -1,15 +1,15 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
-#include "fileio/disk/OutputFile.h"
+#include "batch/many/runMany.h"
+#include "batch/onePicture.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/PictureLoader.h"
-#include "fileio/savePicture.h"
 #include "pixels/threads/parallelFor.h"
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <sys/resource.h>
@@ -19,107 +19,72 @@ namespace velara {
 
 namespace {
 
-Bits read(Platform& platform, const QString& path, bool partial)
+const QString kPipe = QStringLiteral("-");
+
+void open(Session& session, BatchPlatform& platform, const CommandLine& line)
 {
-    const LoadedPicture picture = platform.loadPicture(path, extensionOf(path));
-    checkRead(picture.ok(), picture.reason, partial);
-    return picture.bits;
+    const bool keepSteps = line.lastGoingBack() >= 0;
+    if (line.input == kPipe)
+        session.adopt(platform.fromStandardInput(line.inputFormat), line.partial, keepSteps);
+    else
+        session.open(line.input, line.partial, keepSteps, line.page);
+    if (const QString kind = session.otherKind(); line.verbose && !kind.isEmpty())
+        std::fprintf(stderr, "%s\n", kind.toUtf8().constData());
 }
 
-Failure cannotBeWritten(const QString& output, const QString& reason = {})
+void copyToStandardOutput(const QString& path)
 {
-    return fileFault(output + QStringLiteral(" can't be written") +
-                     (reason.isEmpty() ? reason : QStringLiteral(": ") + reason));
-}
-
-/// The file that a target stands for, with links resolved. A name that can't become a picture is refused before any
-/// work.
-QString fileOf(const QString& output)
-{
-    const QString file = behindLinks(saveTargetOf(output).file);
-    if (file.isEmpty()) throw cannotBeWritten(output, QStringLiteral("it is a link in a circle, or somebody else's"));
-    if (output.endsWith(u'/') || isFolder(file)) throw cannotBeWritten(output, QStringLiteral("it is a folder"));
-    return file;
-}
-
-QString savedExtensions()
-{
-    QStringList saved;
-    for (const Format& format : kFormats)
-        if (format.saved()) saved << QLatin1String(format.extension);
-    return saved.join(QStringLiteral(", "));
-}
-
-void write(Session& session, const QString& output, CameraKept kept)
-{
-    const QString file = fileOf(output);
-    const bool isNew = !isThere(file);
-    switch (session.save(output, kept)) {
-    case SaveResult::Written:
-        return;
-    case SaveResult::NotWritten:
-    case SaveResult::Refused:
-        throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
-    case SaveResult::Failed:
-    case SaveResult::FailedAndTold:
-    case SaveResult::Stopped:           // nobody does
-        if (isNew) QFile::remove(file); // an incomplete JPEG
-        throw cannotBeWritten(output);
+    constexpr qint64 kPiece = 1 << 20;
+    QFile file(path), output;
+    bool isWhole = file.open(QIODevice::ReadOnly) && output.open(stdout, QIODevice::WriteOnly);
+    while (isWhole && !file.atEnd()) {
+        const QByteArray piece = file.read(kPiece);
+        isWhole = !piece.isEmpty() && output.write(piece) == piece.size();
     }
+    if (!isWhole || !output.flush()) throw fileFault(QStringLiteral("standard output can't be written"));
 }
 
-/// Reports every ten percent of a step.
-std::function<void(int)> progressOf(const QString& step)
+/// The whole picture is made before its first byte goes out.
+void writeToStandardOutput(Session& session, const CommandLine& line)
 {
-    return [step, told = -1](int percent) mutable {
-        if (percent / 10 == told / 10 && told >= 0) return;
-        told = percent;
-        std::fprintf(stderr, "%s: %d %%\n", step.toUtf8().constData(), percent);
-    };
+    const QTemporaryDir folder;
+    const QString ending = line.format.isEmpty() ? QStringLiteral("out") : line.format;
+    const QString path = folder.filePath(QStringLiteral("picture.") + ending);
+    const QString told = writePictureOf(session, line, path);
+    if (!told.isEmpty()) complain(told);
+    copyToStandardOutput(line.format.isEmpty() ? path : saveTargetOf(path).file);
 }
 
-void takeSteps(Session& session, const CommandLine& line)
+void runOne(const CommandLine& line)
 {
-    const int lastGoingBack = line.lastGoingBack();
-    for (int i = 0; i < static_cast<int>(line.steps.size()); ++i) {
-        const LineStep& step = line.steps[static_cast<std::size_t>(i)];
-        if (line.verbose) {
-            std::fprintf(stderr, "%s\n", step.text.toUtf8().constData());
-            session.setProgress(progressOf(step.text));
-        }
-        naming(step.text, [&] { step.run(session); });
-        if (i == lastGoingBack) session.forgetSteps();
-    }
+    BatchPlatform platform;
+    const bool isPiped = line.output == kPipe;
+    if (!isPiped) fileOf(line.output);
+    Session session(platform);
+    open(session, platform, line);
+    for (const LineStep& step : line.steps)
+        if (step.prepare) step.prepare([&](const QString& path) { return readArgument(platform, path, line.partial); });
+    takeSteps(session, line);
+    if (isPiped) return writeToStandardOutput(session, line);
+    const QString told = writePictureOf(session, line, line.output);
+    if (!told.isEmpty()) std::printf("%s\n", told.toUtf8().constData());
 }
 
-void run(const QStringList& arguments)
+int run(int argc, char** argv)
 {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) arguments << nameFrom(argv[i]);
     const CommandLine line = CommandLine::parse(arguments);
     if (line.help || line.list) {
         std::fputs((line.help ? helpText() : listText()).toUtf8().constData(), stdout);
-        return;
+        return 0;
     }
     if (line.threads) setThreadCount(*line.threads);
     readInSrgb(!line.stored);
-    BatchPlatform platform;
-    fileOf(line.output);
-    const auto readPicture = [&](const QString& path) { return read(platform, path, line.partial); };
-    Session session(platform);
-    session.open(line.input, line.partial, line.lastGoingBack() >= 0, line.page);
-    if (const QString kind = session.otherKind(); line.verbose && !kind.isEmpty())
-        std::fprintf(stderr, "%s\n", kind.toUtf8().constData());
-    for (const LineStep& step : line.steps)
-        if (step.prepare) step.prepare(readPicture);
-    takeSteps(session, line);
-    if (line.web)
-        std::printf("%s\n", writeWeb(session.picture(), *line.web,
-                                     session.webCamera(line.camera.value_or(CameraKept::None)), line.output)
-                                .toUtf8()
-                                .constData());
-    else if (line.icon)
-        writeIcon(session.picture(), *line.icon, line.output);
-    else
-        write(session, line.output, line.camera.value_or(CameraKept::All));
+    if (line.many) return runMany(line);
+    const QCoreApplication application(argc, argv);
+    runOne(line);
+    return 0;
 }
 
 /// Allocating more than the machine has then fails and is reported, instead of the system killing the program. The
@@ -142,13 +107,9 @@ void limitMemory()
 int main(int argc, char** argv)
 {
     using namespace velara;
-    QCoreApplication application(argc, argv);
     limitMemory();
     try {
-        QStringList arguments;
-        for (int i = 1; i < argc; ++i) arguments << nameFrom(argv[i]);
-        run(arguments);
-        return 0;
+        return run(argc, argv);
     } catch (const Failure& failure) {
         complain(failure.text);
         return static_cast<int>(failure.status);

@@ -138,7 +138,7 @@ void Workspace::write(const Bits& picture, const QString& path, std::function<vo
     writing_.start([this, picture, path, then, camera, goOn] {
         const SaveTarget target = saveTargetOf(path);
         const SaveReport report =
-            writePicture(picture, target.name, target.extension, OutputFile::Links::Follow, camera, goOn);
+            writePicture(picture, target.name, target.extension, OutputFile::Links::Follow, camera, {.goOn = goOn});
         later([this, report, then] {
             --writes_;
             then(report);

@@ -17,31 +17,45 @@ struct Job {
     QString fileName;
     OutputFile::Links links;
     const CameraData& camera;
+    const SaveWishes& wishes;
     const std::function<bool()> goesOn; // false once it was
 };
 
-SaveReport reportOf(bool written) { return {written ? SaveResult::Written : SaveResult::Failed}; }
-
-bool writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& file), bool keepsRemains = false)
+/// Failed, with the system's error, where it can't be written.
+SaveReport writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& file), bool keepsRemains = false)
 {
     OutputFile file(job.fileName, job.links);
     file.setGoOn(job.goesOn);
-    if (file.isOpen() && write(job, file) && job.goesOn() && file.commit()) return true;
-    if (keepsRemains && job.goesOn()) file.keepRemains();
-    return false;
+    if (file.isOpen() && write(job, file) && job.goesOn() && file.commit()) return {SaveResult::Written};
+    SaveReport report{SaveResult::Failed};
+    report.error = file.error();
+    if (keepsRemains && job.wishes.keepsRemains && job.goesOn()) file.keepRemains();
+    return report;
 }
 
 // --- Formats whose failure is told
 
 bool png(const Job& job, OutputFile& file) { return writePng(job.bits, kUsualEffort, file, job.camera); }
-bool jpeg(const Job& job, OutputFile& file) { return writeJpeg(job.bits, kSuperbJpeg, file, job.camera); }
+bool jpeg(const Job& job, OutputFile& file)
+{
+    return writeJpeg(job.bits, job.wishes.quality.value_or(kSuperbJpeg), file, job.camera);
+}
 bool bmp(const Job& job, OutputFile& file) { return writeBmp(job.bits, file); }
 bool tiff(const Job& job, OutputFile& file) { return writeTiff(job.bits, file, job.camera); }
 bool targa(const Job& job, OutputFile& file) { return writeTga(job.bits, file); }
 // Without a loss that an eye would find.
-bool webp(const Job& job, OutputFile& file) { return writeWebp(job.bits, {95}, file, job.camera); }
-bool avif(const Job& job, OutputFile& file) { return writeAvif(job.bits, 90, file, job.camera); }
-bool jxl(const Job& job, OutputFile& file) { return writeJxl(job.bits, 90, file, job.camera); }
+bool webp(const Job& job, OutputFile& file)
+{
+    return writeWebp(job.bits, {job.wishes.quality.value_or(95)}, file, job.camera);
+}
+bool avif(const Job& job, OutputFile& file)
+{
+    return writeAvif(job.bits, job.wishes.quality.value_or(90), file, job.camera);
+}
+bool jxl(const Job& job, OutputFile& file)
+{
+    return writeJxl(job.bits, job.wishes.quality.value_or(90), file, job.camera);
+}
 bool pixmap(const Job& job, OutputFile& file) { return writePpm(job.bits, file); }
 bool gif(const Job& job, OutputFile& file)
 {
@@ -58,9 +72,10 @@ bool gif(const Job& job, OutputFile& file)
 
 template <auto write, bool keepsRemains = false> SaveReport told(const Job& job)
 {
-    if (writeAs(job, write, keepsRemains)) return {SaveResult::Written};
+    const SaveReport report = writeAs(job, write, keepsRemains);
+    if (report.result == SaveResult::Written) return report;
     return {SaveResult::FailedAndTold, "Internal Error",
-            "There was an error while saving! Please Restart Velara's Studio", Icon::Critical};
+            "There was an error while saving! Please Restart Velara's Studio", Icon::Critical, report.error};
 }
 
 // --- The others
@@ -70,7 +85,8 @@ SaveReport saveAnymap(const Job& job)
 {
     Job real = job;
     real.fileName += "ppm";
-    if (!writeAs(real, pixmap)) return {SaveResult::Failed};
+    const SaveReport report = writeAs(real, pixmap);
+    if (report.result != SaveResult::Written) return report;
     return {
         SaveResult::Written, "Collection of ASCII based bitmap",
         "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a "
@@ -87,9 +103,17 @@ SaveReport saveWebp(const Job& job)
             Icon::Exclamation};
 }
 
-SaveReport saveGif(const Job& job) { return reportOf(writeAs(job, gif)); }
+SaveReport saveGif(const Job& job) { return writeAs(job, gif); }
 
-SaveReport savePcx(const Job& job) { return reportOf(PCX().SavePCXinFile(job.fileName, job.bits, true, job.goesOn)); }
+SaveReport savePcx(const Job& job)
+{
+    PCX writer;
+    SaveReport report;
+    report.result =
+        writer.SavePCXinFile(job.fileName, job.bits, true, job.goesOn) ? SaveResult::Written : SaveResult::Failed;
+    report.error = writer.error;
+    return report;
+}
 
 SaveReport refuseIcon(const Job&)
 {
@@ -99,22 +123,23 @@ SaveReport refuseIcon(const Job&)
 struct Writer {
     std::string_view extension; // "pnm": the family of the portable anymaps
     SaveReport (*save)(const Job& job);
+    bool hasQuality = false;
 };
 
 // clang-format off
 constexpr Writer kWriters[] = {
     {"png", told<png>},
     {"gif", saveGif},
-    {"jpg", told<jpeg, true>},
+    {"jpg", told<jpeg, true>, true},
     {"ico", refuseIcon},
     {"bmp", told<bmp>},
     {"tif", told<tiff>},
     {"pcx", savePcx},
     {"pnm", saveAnymap},
     {"tga", told<targa>},
-    {"webp", saveWebp},
-    {"avif", told<avif>},
-    {"jxl", told<jxl>},
+    {"webp", saveWebp, true},
+    {"avif", told<avif>, true},
+    {"jxl", told<jxl>, true},
 };
 // clang-format on
 
@@ -132,15 +157,22 @@ static_assert(std::ranges::all_of(kFormats,
 
 } // namespace
 
+bool hasQuality(const QString& extension)
+{
+    const std::string known = extension.toLower().toStdString();
+    const Writer* writer = writerOf(known);
+    return writer && writer->hasQuality;
+}
+
 SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext, OutputFile::Links links,
-                        const CameraData& camera, const std::function<bool()>& goOn)
+                        const CameraData& camera, const SaveWishes& wishes)
 try {
     if (bits.isNull()) return {SaveResult::NotWritten};
     bool stopped = false;
-    const auto goesOn = [&] { return !(stopped = stopped || (goOn && !goOn())); };
+    const auto goesOn = [&] { return !(stopped = stopped || (wishes.goOn && !wishes.goOn())); };
     const Writer* writer = writerOf(Ext.toLower().toStdString());
     if (!writer) return {SaveResult::NotWritten};
-    const SaveReport report = writer->save({bits, FileName, links, camera, goesOn});
+    const SaveReport report = writer->save({bits, FileName, links, camera, wishes, goesOn});
     return stopped && report.result != SaveResult::Written ? SaveReport{SaveResult::Stopped} : report;
 } catch (const std::bad_alloc&) {
     return {SaveResult::Failed};

@@ -5,6 +5,8 @@
 #include "seams/CameraData.h"
 #include "seams/Dialogs.h"
 #include <QString>
+#include <functional>
+#include <optional>
 
 namespace velara {
 
@@ -22,6 +24,7 @@ struct SaveReport {
     SaveResult result = SaveResult::NotWritten;
     QString title = {}, text = {};
     Icon icon = Icon::None;
+    int error = 0; // of a failure: the system's, as OutputFile::error()
 
     void tell(Dialogs& dialogs) const
     {
@@ -29,14 +32,23 @@ struct SaveReport {
     }
 };
 
+/// How it is written where the format's own way is not wanted.
+struct SaveWishes {
+    std::optional<int> quality = {}; // 1 to 100, of a format that has one (hasQuality)
+    bool keepsRemains = true;        // of a JPEG that can't be written whole, where nothing had its name
+    std::function<bool()> goOn = {}; // asked now and then; false ends it
+};
+
+/// Whether files of the extension (any case, no dot) are written in a quality.
+bool hasQuality(const QString& extension);
+
 /// Ext in any case, without its dot. "pnm": a portable anymap, FileName ends with the dot and the real extension is
 /// added. There is a notice of a failed png, jpg, bmp, tif, tga, webp, avif or jxl, of the depth of a portable anymap,
 /// and that icons are not written. Every writer gets 24 bits a pixel, without the margin. A work file of the program
-/// (png, jpg, bmp, tif, tga) replaces links. camera is written by the formats that can hold it. goOn is asked now and
-/// then; false ends it. For any thread.
+/// (png, jpg, bmp, tif, tga) replaces links. camera is written by the formats that can hold it. For any thread.
 SaveReport writePicture(const Bits& bits, const QString& FileName, const QString& Ext,
                         OutputFile::Links links = OutputFile::Links::Follow, const CameraData& camera = {},
-                        const std::function<bool()>& goOn = {});
+                        const SaveWishes& wishes = {});
 /// The same, and dialogs shows the notice.
 SaveResult savePicture(Dialogs& dialogs, const Bits& bits, const QString& FileName, const QString& Ext,
                        OutputFile::Links links = OutputFile::Links::Follow);

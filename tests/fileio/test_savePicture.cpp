@@ -208,6 +208,50 @@ TEST_F(SavePicture, StraysOfDeadProgramsGo)
               (QStringList{".velara-a.png", ".velara-alive.part", ".velara-link.part", "a.png", "film.velara-1.part"}));
 }
 
+TEST_F(SavePicture, AFileHasNoNameUntilItIsComplete)
+{
+    put("old.bin", "old");
+    for (const QString name : {"old.bin", "new.bin"}) {
+        const QStringList before = files();
+        {
+            OutputFile given(path(name));
+            ASSERT_TRUE(given.isOpen() && given.write("half", 4));
+            EXPECT_EQ(before, files()) << "a program that dies now leaves nothing";
+        }
+        OutputFile file(path(name));
+        ASSERT_TRUE(file.write("whole", 5) && file.commit());
+        EXPECT_EQ("whole", content(name));
+    }
+    EXPECT_EQ((QStringList{"new.bin", "old.bin"}), files());
+}
+
+TEST_F(SavePicture, OneThatWritesManyFilesLooksForStraysOnce)
+{
+    put(".velara-dead.part", "half a picture");
+    OutputFile::lookForStrays(false);
+    EXPECT_EQ(save(small, "a.png"), SaveResult::Written);
+    OutputFile::lookForStrays(true);
+    EXPECT_EQ((QStringList{".velara-dead.part", "a.png"}), files());
+    removeStrays(folder.path());
+    EXPECT_EQ((QStringList{"a.png"}), files());
+}
+
+TEST_F(SavePicture, AQualityIsThatOfTheFormatsThatHaveOne)
+{
+    EXPECT_TRUE(hasQuality("JPEG") && hasQuality("webp"));
+    EXPECT_FALSE(hasQuality("png") || hasQuality("xyz"));
+    const auto bytes = [&](const QString& ending, int quality) {
+        SaveWishes wishes;
+        wishes.quality = quality;
+        EXPECT_EQ(SaveResult::Written, writePicture(randomBits(60, 40, 1), path("a." + ending), ending,
+                                                    OutputFile::Links::Follow, {}, wishes)
+                                           .result);
+        return content("a." + ending).size();
+    };
+    EXPECT_LT(bytes("jpg", 20), bytes("jpg", 95));
+    EXPECT_LT(bytes("webp", 20), bytes("webp", 95));
+}
+
 TEST_F(SavePicture, LinksOfOthersAreFollowedWhereOthersCanMakeNone)
 {
     if (geteuid() != 0) GTEST_SKIP() << "only the administrator can make links of others";
@@ -333,8 +377,8 @@ TEST_F(SavePicture, WhatIsGivenUpLeavesTheOldFile)
         for (const int after : {0, 1, 3}) {
             int asked = 0;
             const auto goOn = [&] { return ++asked <= after; };
-            const SaveReport report =
-                writePicture(bits, path(name), QLatin1String(format.extension), OutputFile::Links::Follow, {}, goOn);
+            const SaveReport report = writePicture(bits, path(name), QLatin1String(format.extension),
+                                                   OutputFile::Links::Follow, {}, {.goOn = goOn});
             EXPECT_EQ(report.result, SaveResult::Stopped) << qPrintable(name) << " after " << after;
             EXPECT_EQ(report.text, "") << qPrintable(name);
             EXPECT_EQ(content(name), "old") << qPrintable(name);
@@ -342,7 +386,7 @@ TEST_F(SavePicture, WhatIsGivenUpLeavesTheOldFile)
         }
         QFile::remove(path(name));
         writePicture(bits, path(name), QLatin1String(format.extension), OutputFile::Links::Follow, {},
-                     [] { return false; });
+                     {.goOn = [] { return false; }});
         EXPECT_TRUE(files().isEmpty()) << qPrintable(name) << ": " << files().join(' ').toStdString();
     }
 }

@@ -1,5 +1,5 @@
 #include "tools/fuzz/Watch.h"
-#include "tools/fuzz/WarmReaders.h"
+#include "fileio/load/WarmReaders.h"
 #include <QDir>
 #include <QFile>
 #include <cstdio>

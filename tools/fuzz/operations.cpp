@@ -3,8 +3,9 @@
 #include "engine/operations.h"
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
-#include "batch/words.h"
+#include "commands/jobs.h"
 #include "commands/presets.h"
+#include "commands/recipe/stepWords.h"
 #include "commands/sizeWords.h"
 #include "seams/findRow.h"
 #include "seams/text.h"
@@ -47,11 +48,12 @@ QString operationText(Dice& dice)
 
 QString shapeText(Dice& dice)
 {
-    static constexpr const char* kShapes[] = {"rect", "ellipse", "polygon"};
+    static constexpr const char* kShapes[] = {"rect", "ellipse", "polygon", "rects"};
     if (dice.oneIn(5)) return dice.oneIn(2) ? "invert" : "none";
-    const int shape = dice.within(0, 2);
+    const int shape = dice.within(0, 3);
     QStringList numbers;
-    for (int i = shape < 2 ? 4 : 2 * dice.within(3, 7); i > 0; --i) numbers += QString::number(dice.within(-9, 60));
+    for (int i = shape < 2 ? 4 : shape == 2 ? 2 * dice.within(3, 7) : 4 * dice.within(1, 5); i > 0; --i)
+        numbers += QString::number(dice.within(-9, 60));
     return QStringList{"", "+", "-", "&", "^"}[dice.within(0, 4)] + kShapes[shape] + ':' + numbers.join(',');
 }
 
@@ -154,7 +156,7 @@ class Sequence {
             return text(word.word);
         }
         if (kind < 12) {
-            const Word& word = words()[dice_.next() % words().size()];
+            const StepWord& word = stepWords()[dice_.next() % stepWords().size()];
             return text(word.word);
         }
         return operationText(dice_);

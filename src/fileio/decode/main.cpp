@@ -4,6 +4,7 @@
 #include "fileio/decode/answer.h"
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/decode/decode.h"
+#include "fileio/decode/warm.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/marks.h"
 #include <algorithm>
@@ -49,12 +50,14 @@ bool isCalled()
 }
 
 #ifdef VELARA_COMMON_READERS
-/// Goes on as velara-decode-all where a reader is missing here; returns when there is no such program.
+/// Goes on as velara-decode-all where a reader is missing here, or may be; returns when there is no such program.
 void becomeAllReaders(char** argv)
 {
+    const bool mayReadAny = argv[2] && std::string_view(argv[2]) == kWarmWish;
     std::array<std::uint8_t, kMarkedBytes> head{};
     const ssize_t count = pread(kPicture, head.data(), head.size(), 0);
-    if (readsHere(argv[1], std::span(head).first(static_cast<std::size_t>(std::max<ssize_t>(count, 0))))) return;
+    const auto bytes = std::span(head).first(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    if (!mayReadAny && readsHere(argv[1], bytes)) return;
     std::error_code failed;
     const auto self = std::filesystem::read_symlink("/proc/self/exe", failed);
     execv((self.parent_path() / "velara-decode-all").c_str(), argv);
@@ -71,6 +74,7 @@ int main(int argc, char** argv)
         becomeAllReaders(argv);
         QStringList wishes;
         for (int i = 2; i < argc; ++i) wishes << QString::fromUtf8(argv[i]);
+        if (wishes.contains(kWarmWish)) serveForks();
         answer(QString::fromUtf8(argv[1]), wishes);
     }
     if (argc == 2 && std::string_view(argv[1]) == "--cage") return printCage();

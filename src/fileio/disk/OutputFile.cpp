@@ -51,8 +51,7 @@ bool isMine(int file)
     return flock(file, LOCK_EX | LOCK_NB) == 0 && fstat(file, &status) == 0 && status.st_nlink > 0;
 }
 
-/// Removes the files that programs of this user left in the folder when they died while saving.
-void removeStrays(const QByteArray& folder)
+void removeStraysIn(const QByteArray& folder)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
     while (const dirent* entry = entries ? readdir(entries.get()) : nullptr) {
@@ -107,7 +106,22 @@ bool isProtected(const QByteArray& path, mode_t mode)
     return (mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(path.constData(), W_OK) != 0;
 }
 
+bool looksForStrays = true;
+
+QByteArray descriptorPath(int file) { return "/proc/self/fd/" + QByteArray::number(file); }
+
+QByteArray newName(const QByteArray& folder)
+{
+    return folder + kPart + QByteArray::number(std::random_device()(), 36) + kPartEnd;
+}
+
+constexpr int kTries = 10; // for a name that nothing has
+
 } // namespace
+
+void removeStrays(const QString& folder) { removeStraysIn(nativeName(folder) + '/'); }
+
+void OutputFile::lookForStrays(bool each) { looksForStrays = each; }
 
 QString behindLinks(const QString& path)
 {
@@ -132,7 +146,7 @@ OutputFile::OutputFile(const QString& path, Links links)
     buffer_.resize(kBuffer);
     if (target_.isEmpty()) error_ = ELOOP;
     if (error_ != 0) return;
-    removeStrays(folderOf(target_));
+    if (looksForStrays) removeStraysIn(folderOf(target_));
     struct stat old;
     replaces_ = links == Links::Follow && stat(target_.constData(), &old) == 0;
     lasting_ = links == Links::Follow;
@@ -148,9 +162,17 @@ OutputFile::OutputFile(const QString& path, Links links)
 
 void OutputFile::openBeside(mode_t mode)
 {
-    std::random_device random;
-    for (int tries = 0; tries < 10 && file_ < 0; ++tries) {
-        temporary_ = folderOf(target_) + kPart + QByteArray::number(random(), 36) + kPartEnd;
+    file_ = open(folderOf(target_).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
+    isUnnamed_ = file_ >= 0 && access(descriptorPath(file_).constData(), F_OK) == 0;
+    if (isUnnamed_) flock(file_, LOCK_EX | LOCK_NB); // until it has its name, in case somebody looks for strays
+    if (file_ >= 0 && !isUnnamed_) close(std::exchange(file_, -1));
+    if (file_ < 0) openNamed(mode);
+}
+
+void OutputFile::openNamed(mode_t mode)
+{
+    for (int tries = 0; tries < kTries && file_ < 0; ++tries) {
+        temporary_ = newName(folderOf(target_));
         file_ = open(temporary_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
         if (file_ < 0 && errno != EEXIST) break;
         struct stat status {};
@@ -160,6 +182,23 @@ void OutputFile::openBeside(mode_t mode)
             close(std::exchange(file_, -1)); // between the two calls another program took it for a stray
     }
     if (file_ < 0) temporary_.clear();
+}
+
+/// A complete file gets a temporary name, by which it can be moved over another one.
+bool OutputFile::giveName()
+{
+    if (!isUnnamed_) return true;
+    const QByteArray itself = descriptorPath(file_);
+    for (int tries = 0; tries < kTries; ++tries) {
+        const QByteArray name = newName(folderOf(target_));
+        if (linkat(AT_FDCWD, itself.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0) {
+            temporary_ = name;
+            isUnnamed_ = false;
+            return true;
+        }
+        if (errno != EEXIST) break;
+    }
+    return false;
 }
 
 OutputFile::~OutputFile()
@@ -230,6 +269,7 @@ std::int64_t OutputFile::tell()
 bool OutputFile::publish()
 {
     const bool onDisk = !lasting_ || synced(file_);
+    if (onDisk && !giveName()) return false;
     if (inPlace_) return onDisk && copyOver();
     if (close(std::exchange(file_, -1)) != 0 || !onDisk) return false; // a file server may report a full disk only now
     if (std::rename(temporary_.constData(), target_.constData()) == 0) {

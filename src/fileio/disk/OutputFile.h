@@ -14,9 +14,13 @@ namespace velara {
 /// one in a folder where anybody may.
 QString behindLinks(const QString& path);
 
-/// Writes go to a new file in the target's folder. It gets the owner, group, mode and access lists of the old one and
-/// replaces it on commit(), once it is on the disk. Symbolic links are followed (behindLinks), or replaced where
-/// somebody else may have created them. Leftovers of a program that died while saving are removed from the folder.
+/// Removes the files that programs of this user left in the folder when they died while saving.
+void removeStrays(const QString& folder);
+
+/// Writes go to a new file in the target's folder, which has no name there until it is complete, where the file system
+/// can do that. It gets the owner, group, mode and access lists of the old one and replaces it on commit(), once it is
+/// on the disk. Symbolic links are followed (behindLinks), or replaced where somebody else may have created them.
+/// Leftovers of a program that died while saving are removed from the folder.
 ///
 /// A file that has several names, or something that can't be transferred to the new one, is overwritten in place by
 /// commit(): once the complete copy beside it is on the disk and disk space is reserved. If that still fails midway,
@@ -37,6 +41,10 @@ class OutputFile final : public ByteSink {
     /// Whether something had the target's name at the beginning.
     bool replacesAFile() const { return replaces_; }
 
+    /// Whether leftovers are looked for at every file, true at first. A program that writes very many files into a
+    /// folder looks for them once, by removeStrays.
+    static void lookForStrays(bool each);
+
     /// Called now and then while the file is written; when it returns false, the write fails.
     void setGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
@@ -55,18 +63,20 @@ class OutputFile final : public ByteSink {
 
   private:
     void openBeside(mode_t mode);
+    void openNamed(mode_t mode);
+    bool giveName();
     bool fail();
     bool flush();
     bool publish();
     bool copyOver();
     void keepBeside();
 
-    QByteArray target_, temporary_; // temporary_ empty: written to memory
+    QByteArray target_, temporary_; // temporary_ empty: it has no name
     std::function<bool()> goOn_;
     std::vector<std::uint8_t> buffer_;
     std::size_t used_ = 0;
     int file_ = -1, error_ = 0;
-    bool replaces_ = false, inPlace_ = false, failed_ = false, lasting_ = true;
+    bool replaces_ = false, isUnnamed_ = false, inPlace_ = false, failed_ = false, lasting_ = true;
 };
 
 } // namespace velara

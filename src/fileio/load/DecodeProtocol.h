@@ -4,7 +4,8 @@
 //   and the picture file, open for reading, at descriptor 5
 //
 // A wish is "stored" (colours as the file has them, not sRGB), "bare" (nothing beside the pixels), "page=N" (the N-th
-// page or frame, from 1) or "table" (the file is a screen's profile: ColourTablePicture.h).
+// page or frame, from 1) or "table" (the file is a screen's profile: ColourTablePicture.h). With "warm" no picture is
+// read: it serves forks of itself (fileio/decode/warm.h).
 //
 // The child may send a claim: the size and depth given by the header, and another when the reader of the extension
 // leaves the file to the one of its mark. Then it sends an Opening: size, or the reason why the file can't be read.
@@ -39,6 +40,8 @@ constexpr const char* kStoredWish = "stored";
 constexpr const char* kBareWish = "bare";
 constexpr const char* kPageWish = "page="; // with the number
 constexpr const char* kTableWish = "table";
+constexpr const char* kWarmWish = "warm";
+constexpr std::size_t kMostInOrder = 256; // bytes of extension and wishes for a fork
 
 /// First message of the child. Width and height 0: reason is why there is no picture, in UTF-8, zero-terminated.
 struct Opening {

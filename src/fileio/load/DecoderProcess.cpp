@@ -14,6 +14,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -42,6 +43,14 @@ Descriptor sharedMemory()
                             fcntl(memory.get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_SEAL) != 0))
         memory.close();
     return memory;
+}
+
+/// Its picture will use most of the shared memory, which is then had more cheaply at once than page by page.
+bool isLarge(const Descriptor& file)
+{
+    constexpr off_t kLarge = 32 << 10;
+    struct stat status {};
+    return fstat(file.get(), &status) == 0 && status.st_size >= kLarge;
 }
 
 void limit(pid_t pid, __rlimit_resource resource, rlim_t soft, rlim_t hard)
@@ -89,7 +98,8 @@ DecoderProcess::DecoderProcess(const QString& decoder, const Descriptor& file, c
     socket_ = movedUp(ends[1]);
     const Descriptor memory = sharedMemory();
     if (!theirs.isOpen() || !socket_.isOpen() || !memory.isOpen()) return;
-    void* mapped = mmap(nullptr, decode::kMemoryBytes, PROT_READ, MAP_SHARED | MAP_POPULATE, memory.get(), 0);
+    const int early = isLarge(file) ? MAP_POPULATE : 0;
+    void* mapped = mmap(nullptr, decode::kMemoryBytes, PROT_READ, MAP_SHARED | early, memory.get(), 0);
     if (mapped == MAP_FAILED) return;
     memory_ = static_cast<std::uint8_t*>(mapped);
     const Descriptor picture(fcntl(file.get(), F_DUPFD_CLOEXEC, kFirstFree));
@@ -140,6 +150,8 @@ Doing doingOf(pid_t pid)
 std::optional<DecoderProcess::Wait> DecoderProcess::look(bool silent)
 {
     using namespace std::chrono;
+    constexpr auto kStopped = 5s; // longer than any machine is busy: this program itself was stopped meanwhile
+    if (const auto late = steady_clock::now() - nextLook_; late > kStopped) started_ += late;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
     const Doing doing = doingOf(pid_);
     if (doing.idle && silent) ++idleLooks_; // a child that has sent something may be waiting for us

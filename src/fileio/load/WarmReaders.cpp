@@ -1,25 +1,38 @@
-#include "tools/fuzz/WarmReaders.h"
+#include "fileio/load/WarmReaders.h"
+#include "fileio/load/DecodeProtocol.h"
+#include "fileio/load/Descriptor.h"
 #include "fileio/load/PictureLoader.h"
 #include <array>
 #include <cstring>
 #include <fcntl.h>
+#include <mutex>
 #include <sys/socket.h>
 #include <sys/wait.h>
 
-namespace velara::fuzz {
+namespace velara {
 
 namespace {
 
-constexpr int kFirstFree = 10;
+constexpr int kFirstFree = 10; // above the numbers that a reader uses
+std::mutex guard;              // of the line: a question and its answer belong together
 Descriptor line;
 pid_t (*cold)(const ReaderStart& start) = nullptr;
 
-pid_t copyOfTheWarmOne(const ReaderStart& start)
+/// The extension and the wishes, each with a zero at its end.
+std::string orderOf(const ReaderStart& start)
 {
+    std::string order = start.extension.toStdString() + '\0';
+    for (const QString& wish : start.wishes) order += wish.toStdString() + '\0';
+    return order;
+}
+
+pid_t askForAFork(const ReaderStart& start)
+{
+    std::string order = orderOf(start);
+    if (order.size() > decode::kMostInOrder) return -1;
     const std::array<int, 3> descriptors{start.socket, start.memory, start.file};
-    std::string extension = start.extension.toStdString();
     alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof descriptors)> control{};
-    iovec block{extension.data(), extension.size()};
+    iovec block{order.data(), order.size()};
     msghdr message{};
     message.msg_iov = &block;
     message.msg_iovlen = 1;
@@ -31,8 +44,15 @@ pid_t copyOfTheWarmOne(const ReaderStart& start)
     head->cmsg_len = CMSG_LEN(sizeof descriptors);
     std::memcpy(CMSG_DATA(head), descriptors.data(), sizeof descriptors);
     pid_t pid = -1;
+    const std::lock_guard lock(guard);
     const bool asked = sendmsg(line.get(), &message, MSG_NOSIGNAL) >= 0;
     return asked && recv(line.get(), &pid, sizeof pid, 0) == sizeof pid ? pid : -1;
+}
+
+pid_t startWarm(const ReaderStart& start)
+{
+    const pid_t pid = askForAFork(start);
+    return pid > 0 ? pid : cold(start);
 }
 
 Descriptor movedUp(int fd)
@@ -46,19 +66,20 @@ Descriptor movedUp(int fd)
 WarmReaders::WarmReaders()
 {
     std::array<int, 2> ends{};
-    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) qFatal("no line");
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
     const Descriptor theirs = movedUp(ends[0]), nothing = movedUp(open("/dev/null", O_RDWR | O_CLOEXEC));
     line = movedUp(ends[1]);
-    pid_ = startReader({findHelper("velara-decode-warm"), "warm", theirs.get(), nothing.get(), nothing.get()});
-    if (pid_ < 0) qFatal("velara-decode-warm can't be started");
-    cold = std::exchange(startReader, copyOfTheWarmOne);
+    pid_ = startReader(
+        {findDecoder(), QString(), theirs.get(), nothing.get(), nothing.get(), {QLatin1String(decode::kWarmWish)}});
+    if (started()) cold = std::exchange(startReader, startWarm);
 }
 
 WarmReaders::~WarmReaders()
 {
-    startReader = cold;
     line.close();
+    if (!started()) return;
+    startReader = cold;
     waitpid(pid_, nullptr, 0);
 }
 
-} // namespace velara::fuzz
+} // namespace velara

@@ -1,4 +1,4 @@
-#include "batch/nearest.h"
+#include "commands/recipe/nearest.h"
 #include <algorithm>
 #include <cctype>
 

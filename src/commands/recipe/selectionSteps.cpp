@@ -1,6 +1,6 @@
-// --select: shapes and how they are combined with the previous selection.
-#include "batch/CommandLine.h"
-#include "batch/nearest.h"
+// Selections: shapes and how they are combined with the previous selection.
+#include "commands/recipe/RecipeStep.h"
+#include "commands/recipe/nearest.h"
 #include <algorithm>
 
 namespace velara {
@@ -17,12 +17,23 @@ struct Shape {
 };
 
 bool isBox(std::size_t count) { return count == 4; }
+bool areBoxes(std::size_t count) { return count >= 4 && count % 4 == 0; }
 bool isOutline(std::size_t count) { return count >= 6 && count % 2 == 0; }
+
+/// The union of boxes.
+Region unionOf(const Numbers& boxes)
+{
+    const auto count = static_cast<std::int32_t>(boxes.size() / 4);
+    Numbers words{32, 1, count, 16 * count, 0, 0, 0, 0}; // the header of Region::words
+    words.insert(words.end(), boxes.begin(), boxes.end());
+    return Region::fromWords(words);
+}
 
 // clang-format off
 constexpr Shape kShapes[] = {
     {"rect",    "l,t,r,b",                        isBox,     [](const Numbers& n) { return Region::rectangle(n[0], n[1], n[2], n[3]); }},
     {"ellipse", "l,t,r,b",                        isBox,     [](const Numbers& n) { return Region::ellipse(n[0], n[1], n[2], n[3]); }},
+    {"rects",   "l,t,r,b of each rectangle",      areBoxes,  unionOf},
     {"polygon", "x0,y0,x1,y1,x2,y2 and so on",    isOutline, [](const Numbers& n) { return Region::polygon(n); }},
 };
 
@@ -48,9 +59,10 @@ const Shape& shapeNamed(const QString& name)
 {
     const std::string wanted = name.toStdString();
     if (const auto* found = std::ranges::find(kShapes, wanted, &Shape::name); found != std::end(kShapes)) return *found;
-    const QString near = QString::fromStdString(nearestName(wanted, {"rect", "ellipse", "polygon", "invert", "none"}));
-    throw badArgument(near.isEmpty() ? QStringLiteral("the shapes are rect, ellipse, polygon, invert and none")
-                                     : QStringLiteral("there is no such shape; did you mean %1?").arg(near));
+    const QString near =
+        QString::fromStdString(nearestName(wanted, {"rect", "rects", "ellipse", "polygon", "invert", "none"}));
+    throw unusable(near.isEmpty() ? QStringLiteral("the shapes are rect, rects, ellipse, polygon, invert and none")
+                                  : QStringLiteral("there is no such shape; did you mean %1?").arg(near));
 }
 
 bool isOutside(const Region& shape, const Bits& picture)
@@ -75,31 +87,34 @@ Region parseShape(const QString& text)
     const Shape& shape = shapeNamed(text.left(colon < 0 ? text.size() : colon));
     const Numbers numbers = colon < 0 ? Numbers() : parseNumbers(text.mid(colon + 1));
     if (!shape.suits(numbers.size()))
-        throw badArgument(QStringLiteral("after it come a colon and %1").arg(QLatin1String(shape.numbers)));
+        throw unusable(QStringLiteral("after it come a colon and %1").arg(QLatin1String(shape.numbers)));
     const Region region = shape.make(numbers);
-    if (region.isEmpty()) throw badArgument(QStringLiteral("there is no pixel in it"));
+    if (region.isEmpty()) throw unusable(QStringLiteral("there is no pixel in it"));
     return region;
 }
 
 } // namespace
 
-LineStep parseSelection(const QString& text)
+RecipeStep parseSelectionStep(const QString& text)
 {
-    const QString step = QStringLiteral("--select ") + text;
-    if (const auto* whole = std::ranges::find(kWhole, text.toStdString(), &Whole::name); whole != std::end(kWhole))
-        return {step, [whole](Session& s) { s.select(whole->change); }};
-
+    RecipeStep step{QStringLiteral("--select ") + text, RecipeStep::Select};
+    const auto* whole = std::ranges::find(kWhole, text.toStdString(), &Whole::name);
+    if (whole != std::end(kWhole)) {
+        step.select = [whole](cBitRegion& selection, const Bits&) { whole->change(selection); };
+        return step;
+    }
     const auto* prefix = std::ranges::find_if(kPrefixes, [&](const Prefix& p) { return text.startsWith(p.sign); });
     const bool hasPrefix = prefix != std::end(kPrefixes);
     const Combine mode = hasPrefix ? prefix->mode : Combine::Copy;
-    const Region shape = naming(step, [&] { return parseShape(hasPrefix ? text.mid(1) : text); });
-    return {step, [=](Session& s) {
-                if (isOutside(shape, s.picture()))
-                    throw badArgument(QStringLiteral("it lies outside of the picture, which is %1 by %2 here")
-                                          .arg(s.picture().width())
-                                          .arg(s.picture().height()));
-                s.select([&](cBitRegion& selection) { combine(selection, shape, mode); });
-            }};
+    const Region shape = namingStep(step.text, [&] { return parseShape(hasPrefix ? text.mid(1) : text); });
+    step.select = [=](cBitRegion& selection, const Bits& picture) {
+        if (isOutside(shape, picture))
+            throw unusable(QStringLiteral("it lies outside of the picture, which is %1 by %2 here")
+                               .arg(picture.width())
+                               .arg(picture.height()));
+        combine(selection, shape, mode);
+    };
+    return step;
 }
 
 } // namespace velara

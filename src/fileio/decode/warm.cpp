@@ -1,9 +1,8 @@
-// velara-decode with its libraries loaded, for programs that read very many pictures: each message at descriptor 3 is
-// an extension and the three descriptors of a reader. Answers with the pid of a fork of itself that reads the one
-// picture as velara-decode does; its parent is the requesting program.
+#include "fileio/decode/warm.h"
 #include "fileio/decode/answer.h"
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
+#include <QStringList>
 #include <array>
 #include <csignal>
 #include <cstring>
@@ -14,18 +13,18 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-using namespace velara::decode;
+namespace velara::decode {
 
 namespace {
 
 struct Order {
-    QString extension; // empty: no more requests
+    QStringList words; // extension and wishes; empty: no more requests
     std::array<int, 3> descriptors{};
 };
 
 Order receive()
 {
-    std::array<char, 32> text{};
+    std::array<char, kMostInOrder> text{};
     alignas(cmsghdr) std::array<char, CMSG_SPACE(3 * sizeof(int))> control{};
     iovec block{text.data(), text.size()};
     msghdr message{};
@@ -36,7 +35,7 @@ Order receive()
     const ssize_t size = recvmsg(kSocket, &message, MSG_CMSG_CLOEXEC);
     const cmsghdr* head = CMSG_FIRSTHDR(&message);
     if (size <= 0 || !head || head->cmsg_len != CMSG_LEN(3 * sizeof(int))) return {};
-    Order order{QString::fromUtf8(text.data(), size)};
+    Order order{QString::fromUtf8(text.data(), size - 1).split(QChar(u'\0'))};
     std::memcpy(order.descriptors.data(), CMSG_DATA(head), sizeof order.descriptors);
     return order;
 }
@@ -49,18 +48,18 @@ Order receive()
     for (std::size_t i = 0; i < 3; ++i) aside[i] = fcntl(order.descriptors[i], F_DUPFD, kPicture + 1);
     for (std::size_t i = 0; i < 3; ++i) dup2(aside[i], kPlaces[i]);
     close_range(kPicture + 1, ~0U, 0);
-    answer(order.extension);
+    answer(order.words.first(), order.words.mid(1));
     _exit(2);
 }
 
 } // namespace
 
-int main()
+void serveForks()
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (const char* extension : {"gif", "ico"})
         prepareReaders(extension, {}); // readers of metafiles may start threads
-    for (Order order = receive(); !order.extension.isEmpty(); order = receive()) {
+    for (Order order = receive(); !order.words.isEmpty(); order = receive()) {
         const auto pid = static_cast<pid_t>(syscall(SYS_clone, CLONE_PARENT | SIGCHLD, 0, 0, 0, 0));
         if (pid == 0) read(order);
         for (const int descriptor : order.descriptors) close(descriptor);
@@ -68,3 +67,5 @@ int main()
     }
     _exit(0);
 }
+
+} // namespace velara::decode

@@ -1,20 +1,21 @@
-// The command words that need no window, as run by the batch program.
+// The words and operations of the grammar of steps.
 #pragma once
-#include "batch/Session.h"
-#include <functional>
+#include "commands/recipe/RecipeStep.h"
 #include <string_view>
 #include <vector>
 
 namespace velara {
 
-struct Word {
+/// A command word that needs no window.
+struct StepWord {
     std::string_view word;
     QString meaning; // for --list; empty: it doesn't change the picture
-    std::function<void(Session&)> run;
-    GoesBack goesBack = GoesBack::Never;
+    RecipeStep::Kind kind;
+    Job job = {};
+    After after = After::Step;
 };
 
-const std::vector<Word>& words();
+const std::vector<StepWord>& stepWords();
 
 /// The engine's operations, and the editor's own steps with arguments; by name, null when there is none.
 std::vector<const Operation*> stepOperations();
@@ -22,10 +23,5 @@ const Operation* findStepOperation(std::string_view name);
 
 /// True for words of the editor that open a window or belong to one.
 bool needsWindow(std::string_view word);
-
-/// "0.5", "\"slanting\"" and so on.
-QString argumentText(const Argument& argument);
-/// "EMBOSS(10)".
-QString callText(const Preset& preset);
 
 } // namespace velara

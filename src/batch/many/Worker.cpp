@@ -1,0 +1,187 @@
+#include "batch/many/Worker.h"
+#include "batch/BatchPlatform.h"
+#include "batch/many/messages.h"
+#include "batch/onePicture.h"
+#include "fileio/disk/OutputFile.h"
+#include "fileio/disk/nativeName.h"
+#include "fileio/formats.h"
+#include "fileio/load/WarmReaders.h"
+#include "pixels/threads/Workers.h"
+#include <QCoreApplication>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <deque>
+#include <future>
+#include <set>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velara {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double millisecondsSince(Clock::time_point begin)
+{
+    return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+}
+
+/// A picture that is read by another thread.
+struct Reading {
+    int picture;
+    std::promise<void> done = {};
+    LoadedPicture loaded = {};
+    double milliseconds = 0;
+};
+
+class Worker {
+  public:
+    Worker(const CommandLine& line, const Plan& plan, int socket) : line_(line), plan_(plan), socket_(socket) {}
+
+    void run()
+    {
+        for (;;) {
+            if (!isReady_ && !readings_.empty() && !awaitPicture()) continue;
+            WorkOrder order{};
+            const ssize_t size = recv(socket_, &order, sizeof order, 0);
+            if (size < 0 && errno == EINTR) continue;
+            if (size != sizeof order) return;
+            if (order.kind == WorkOrder::Read)
+                begin(order.picture);
+            else
+                goOn();
+        }
+    }
+
+  private:
+    const PlannedPicture& planned(int picture) const { return plan_.pictures[static_cast<std::size_t>(picture)]; }
+
+    void begin(int picture)
+    {
+        readings_.push_back(std::make_unique<Reading>(Reading{picture}));
+        reader_.start([this, reading = readings_.back().get()] {
+            const auto from = Clock::now();
+            const QString& path = planned(reading->picture).input;
+            try {
+                reading->loaded = platform_.loadPicture(path, extensionOf(path));
+            } catch (const std::bad_alloc&) {
+                reading->loaded.reason = QStringLiteral("there is not enough memory");
+            }
+            reading->milliseconds = millisecondsSince(from);
+            reading->done.set_value();
+        });
+    }
+
+    /// False when the picture can't be read.
+    bool awaitPicture()
+    {
+        Reading& reading = *readings_.front();
+        reading.done.get_future().wait();
+        try {
+            checkRead(reading.loaded.ok(), reading.loaded.reason, line_.partial);
+        } catch (const Failure& failure) {
+            end({Told::Failed}, failure.text);
+            return false;
+        }
+        isReady_ = true;
+        Told told{Told::Ready, reading.picture};
+        told.pixels = std::int64_t{reading.loaded.bits.width()} * reading.loaded.bits.height();
+        tell(told);
+        return true;
+    }
+
+    void goOn()
+    {
+        if (!isReady_) return;
+        const auto from = Clock::now();
+        Told told{Told::Written};
+        QString reason;
+        try {
+            told.kind = make(*readings_.front());
+        } catch (const Failure& failure) {
+            told.kind = Told::Failed;
+            told.diskIsFull = failure.diskIsFull;
+            reason = failure.text;
+        } catch (const std::bad_alloc&) {
+            told.kind = Told::Failed;
+            reason = QStringLiteral("there is not enough memory");
+        }
+        if (told.kind == Told::Written) told.bytes = sizeOfFile(planned(readings_.front()->picture).output);
+        told.milliseconds = millisecondsSince(from);
+        end(told, reason);
+    }
+
+    Told::Kind make(Reading& reading)
+    {
+        const QString& output = planned(reading.picture).output;
+        session_.adopt(std::exchange(reading.loaded, {}), line_.partial, line_.lastGoingBack() >= 0);
+        takeSteps(session_, line_);
+        if (line_.many->existing == Existing::Skip && !line_.many->inPlace && isThere(output)) return Told::Skipped;
+        makeFolder(output.left(output.lastIndexOf(u'/')));
+        writePictureOf(session_, line_, output);
+        return Told::Written;
+    }
+
+    /// With those above it.
+    void makeFolder(const QString& folder)
+    {
+        if (folder.isEmpty() || !folders_.insert(folder).second || isFolder(folder)) return;
+        const qsizetype slash = folder.lastIndexOf(u'/');
+        if (slash > 0) makeFolder(folder.left(slash));
+        constexpr mode_t kAll = 0777;
+        if (mkdir(nativeName(folder).constData(), kAll) == 0 || errno == EEXIST) return;
+        folders_.erase(folder);
+        throw fileFault(
+            QStringLiteral("%1 can't be made: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+
+    /// The first picture is done.
+    void end(Told told, const QString& reason)
+    {
+        told.picture = readings_.front()->picture;
+        told.milliseconds += readings_.front()->milliseconds;
+        readings_.pop_front();
+        isReady_ = false;
+        tell(told, reason);
+    }
+
+    void tell(Told told, const QString& reason = {})
+    {
+        const QByteArray text = reason.toUtf8().left(kMostReason);
+        told.reasonBytes = static_cast<std::int32_t>(text.size());
+        QByteArray message(reinterpret_cast<const char*>(&told), sizeof told);
+        message += text;
+        send(socket_, message.constData(), static_cast<std::size_t>(message.size()), MSG_NOSIGNAL);
+    }
+
+    const CommandLine& line_;
+    const Plan& plan_;
+    const int socket_;
+    BatchPlatform platform_;
+    WarmReaders warm_;
+    Session session_{platform_};
+    std::deque<std::unique_ptr<Reading>> readings_; // the first is worked on, or will be
+    bool isReady_ = false;                          // that the first can be worked on was told
+    std::set<QString> folders_;                     // that are there
+    Workers reader_;                                // last: it ends first
+};
+
+} // namespace
+
+void work(const CommandLine& line, const Plan& plan, int socket)
+{
+    static int argc = 1;
+    static char name[] = "velara-batch";
+    static char* argv[] = {name, nullptr};
+    // Made in each worker: programs that share one by a fork share its ways to be woken, too.
+    const QCoreApplication application(argc, argv);
+    OutputFile::lookForStrays(false);
+    Worker worker(line, plan, socket);
+    worker.run();
+    _exit(0); // a reading that is under way ends with it
+}
+
+} // namespace velara

@@ -1,0 +1,28 @@
+// What the coordinator and its workers say to each other, in messages of a socket (SOCK_SEQPACKET) that no other
+// program reads. The plan and the steps are in the memory of both.
+#pragma once
+#include <cstdint>
+
+namespace velara {
+
+/// To a worker. Read: begin to read the picture, while the one before is worked on. GoOn: work on the one that was told
+/// as Ready and write it. The end of the connection ends the worker.
+struct WorkOrder {
+    enum Kind : std::int32_t { Read, GoOn } kind;
+    std::int32_t picture = -1; // its place in the plan
+};
+
+/// Of a worker. Ready: the picture is read and waits for GoOn, since it may be too large for the memory left.
+struct Told {
+    enum Kind : std::int32_t { Ready, Written, Skipped, Failed } kind = Ready;
+    std::int32_t picture = -1;
+    std::int32_t diskIsFull = 0;
+    std::int32_t reasonBytes = 0; // UTF-8, at the end of the message
+    std::int64_t pixels = 0;
+    std::int64_t bytes = 0;  // of the file written
+    double milliseconds = 0; // from the begin of reading on, without waiting
+};
+
+constexpr std::size_t kMostReason = 4000;
+
+} // namespace velara

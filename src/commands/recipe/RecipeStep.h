@@ -1,0 +1,42 @@
+// A step of velara-batch and of recipes: its text, and what it does. The grammar is described by velara-batch --help.
+#pragma once
+#include "commands/recipe/StepFault.h"
+#include "document/road/Change.h"
+#include "engine/operations.h"
+#include "region/cBitRegion.h"
+#include <QStringList>
+
+namespace velara {
+
+/// Reads a picture file; throws what the caller understands.
+using ReadPicture = std::function<Bits(const QString& path)>;
+
+/// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
+enum class GoesBack { Never, WhenRepeated, Always };
+
+struct RecipeStep {
+    enum Kind { Nothing, Change, Select, Undo, Redo };
+    QString text; // as written; that of a selection begins with "--select "
+    Kind kind = Nothing;
+    Job job = {};              // of a change; may throw StepFault
+    After after = After::Step; // of a change
+    /// Changes the selection of a picture. Throws StepFault when the shape lies outside of it.
+    std::function<void(cBitRegion& selection, const Bits& picture)> select = {};
+    /// Reads the pictures among its arguments; to be called once, before the job runs.
+    std::function<void(const ReadPicture&)> prepare = {};
+
+    GoesBack goesBack() const
+    {
+        if (kind == Undo || kind == Redo) return GoesBack::Always;
+        return kind == Change && after == After::Sizing ? GoesBack::WhenRepeated : GoesBack::Never;
+    }
+};
+
+/// A word, or an operation with its arguments. Throws StepFault.
+RecipeStep parseRecipeStep(const QString& text);
+/// A shape as after "--select". Throws StepFault.
+RecipeStep parseSelectionStep(const QString& shape);
+/// An argument as a value of the parameter's type; pictures stay file names until they are read. Throws StepFault.
+Argument parseArgument(const QString& given, const Parameter& parameter);
+
+} // namespace velara
