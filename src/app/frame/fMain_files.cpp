@@ -212,10 +212,43 @@ void fMain::save()
 void fMain::saveNow(fImage& image)
 {
     const FileFacts& file = image.document().file;
-    const Format* format = formatOf(file.path);
-    // A new document, a second one of the same file and any other format ask for a name.
-    if (!file.isOwn() || !format || format->saving != Saving::Directly) return saveAs(image);
+    if (!savesDirectly(file)) return saveAs(image);
     saveTo(image, file.path);
+}
+
+/// A new document, a second one of the same file and any other format ask for a name.
+bool fMain::savesDirectly(const FileFacts& file) const
+{
+    const Format* format = formatOf(file.path);
+    return file.isOwn() && format && format->saving == Saving::Directly;
+}
+
+void fMain::saveAll()
+{
+    constexpr qsizetype kMostShown = 12;
+    std::vector<DocumentHandle> changed;
+    QStringList own, unnamed;
+    for (const DocumentHandle& document : workspace_.documents()) {
+        if (!document->wouldBeLost()) continue;
+        changed.push_back(document);
+        (savesDirectly(document->file) ? own : unnamed) << printable(document->file.caption());
+    }
+    if (changed.empty()) return status_->say(tr("No picture has changed."));
+    const auto listed = [](const QStringList& names) {
+        return names.mid(0, kMostShown).join('\n') + (names.size() > kMostShown ? "\n..." : "");
+    };
+    QString question = own.isEmpty() ? QString() : tr("These are written to their own files:\n") + listed(own);
+    if (!unnamed.isEmpty())
+        question +=
+            (own.isEmpty() ? "" : "\n\n") + tr("These need a name, for which you are asked:\n") + listed(unnamed);
+    const QPointer<fMain> stands = this;
+    if (platform_.choose(tr("Save All"), question, {tr("&Save")}) != 0) return;
+    for (const DocumentHandle& document : changed) {
+        if (!stands || closing_) return; // a question for a name was open
+        workspace_.inTurn(document, [this, document] {
+            if (fImage* image = documents_->of(document)) saveNow(*image);
+        });
+    }
 }
 
 void fMain::saveAs()
