@@ -8,6 +8,7 @@
 #include "app/start/fSplash.h"
 #include "support/RecordingPlatform.h"
 #include "support/ui/startedEditor.h"
+#include "ui/many/fFolderRun.h"
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
@@ -15,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -184,6 +186,26 @@ void shootBoxes(fMain& frame)
     }
 }
 
+/// The box "History" with steps of all kinds, and the window that runs them on a folder.
+void shootHistory(fMain& frame)
+{
+    for (const char* word : {"LIGHTSHARPEN", "SEPIATONE", "FLIPH", "N180", "UNDO"}) {
+        frame.Mmenu(word);
+        frame.workspace().wait();
+    }
+    frame.boxes().bring(Boxes::History);
+    settle(300);
+    save(frame.findChild<QWidget*>("fHistory")->grab(), "box_fHistory");
+    frame.run("@RUNONFOLDER");
+    auto* window = frame.findChild<fFolderRun*>();
+    window->addInput("/home/ana/pictures");
+    window->addInput("/home/ana/pictures/2024/lake.jpg");
+    window->findChild<QLineEdit*>("txtInto")->setText("/home/ana/pictures-done");
+    settle(300);
+    save(window->grab(), "run_on_folder");
+    window->close();
+}
+
 /// The side pane with each tool, and the floating copies of the panes one below the other.
 void shootPanes(fMain& frame)
 {
@@ -315,6 +337,7 @@ int main(int argc, char** argv)
         shootFreeWindow(*frame, "@HELP", "fHelp");
         shootBrowser(*frame, platform, picture);
         shootBoxes(*frame);
+        shootHistory(*frame);
     }
     if (!few) shootPanes(*frame);
     setup.AskToSave = false;

@@ -7,9 +7,9 @@
 
 namespace velara {
 
-DetailRun::DetailRun(const FilterRow& row, const Bits& picture, const Region& selection,
-                     std::function<void(const Bits&)> done)
-    : row_(row), picture_(picture), selection_(selection), done_(std::move(done)), thread_(&DetailRun::work, this)
+DetailRun::DetailRun(Filter filter, const Bits& picture, const Region& selection, std::function<void(const Bits&)> done)
+    : filtered_(std::move(filter)), picture_(picture), selection_(selection), done_(std::move(done)),
+      thread_(&DetailRun::work, this)
 {
 }
 
@@ -68,7 +68,7 @@ void DetailRun::run(const FilterArgs& args)
     };
     filter.setBits(picture_);
     filter.setBitsRegion(selection_);
-    const Bits result = row_.call(filter, args);
+    const Bits result = filtered_(filter, args);
     if (!stopped_) done_(result);
 }
 

@@ -11,9 +11,10 @@ namespace velara {
 
 class DetailRun {
   public:
+    /// The filter's picture with the arguments.
+    using Filter = std::function<Bits(cBitFilter& filter, const FilterArgs& args)>;
     /// done is called on the thread, with the filter's result; a run that fails or is stopped doesn't call it.
-    DetailRun(const FilterRow& row, const Bits& picture, const Region& selection,
-              std::function<void(const Bits&)> done);
+    DetailRun(Filter filter, const Bits& picture, const Region& selection, std::function<void(const Bits&)> done);
     /// Stops the current run and waits for it: done is not called afterwards.
     ~DetailRun();
 
@@ -26,7 +27,7 @@ class DetailRun {
     void work();
     void run(const FilterArgs& args);
 
-    const FilterRow& row_;
+    const Filter filtered_;
     const Bits picture_;
     const Region selection_;
     const std::function<void(const Bits&)> done_;

@@ -1,4 +1,5 @@
 #include "commands/effects.h"
+#include "commands/recipe/stepText.h"
 #include "pixels/numbers.h"
 #include <stdexcept>
 
@@ -66,6 +67,12 @@ void ApplyTexture(cBitFilter& filter, int Index, int Value, Colour colour)
 {
     if (Index < 1 || Index > kEffects) throw std::invalid_argument("Index");
     filter.setBits(kEffectRows[Index - 1].call(filter, Value, colour));
+}
+
+QString effectText(int Index, int Value, Colour colour)
+{
+    if (kEffectRows[Index - 1].name == "Sketch") return callText("SKETCH", {Value, false, colour}); // draws with it
+    return callText("ApplyTexture", {Index, Value});
 }
 
 void applyTexturePicture(cBitFilter& filter, const Bits& texture)

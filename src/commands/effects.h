@@ -1,6 +1,7 @@
 // The thirty-three effects of the textures box, as data shared by its toolbar, its caption and the batch program.
 #pragma once
 #include "engine/operations.h"
+#include <QString>
 #include <span>
 #include <string_view>
 
@@ -21,6 +22,8 @@ constexpr int kLeastAmount = 1, kMostAmount = 100, kUsualAmount = 50;
 /// Applies one effect to the filter's picture within its region. Index 1 to 33; others raise std::invalid_argument.
 /// Some divide by Value. colour is used by the one effect that draws with it.
 void ApplyTexture(cBitFilter& filter, int Index, int Value, Colour colour);
+/// What velara-batch would take for it.
+QString effectText(int Index, int Value, Colour colour);
 /// The same with a picture as texture. std::invalid_argument for one below 2 by 2.
 void applyTexturePicture(cBitFilter& filter, const Bits& texture);
 

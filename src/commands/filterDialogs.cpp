@@ -11,7 +11,6 @@ namespace velara {
 namespace {
 
 using E = FilterExtra;
-using F = cBitFilter;
 using A = FilterArgs;
 
 constexpr auto kTwoWells = E::SourceWell | E::TargetWell | E::PickColour;
@@ -43,89 +42,89 @@ constexpr std::array<std::string_view, 2> opens(std::string_view word = "", std:
 }
 
 // clang-format off
-constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, extras, call, words {, place in the menus}
+constexpr FilterRow kTold[] = { // number, title, operation, sliders, option, extras, arguments, words {, place in the menus}
     { 0, "Color [Colorize]", "COLORIZE", {{free("Hue", 0, 100, 0), free("Saturation", 0, 100, 50), free("Luminosity", 0, 100, 100)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.COLORIZE(HueFromScale(roundEven(a.value[0] * 2.4)) / 40.0f, static_cast<float>(a.value[1] / 100.0), static_cast<float>(a.value[2] / 100.0)); }, opens("COLORIZE")},
+      [](const A& a) { return Arguments{HueFromScale(roundEven(a.value[0] * 2.4)) / 40.0f, static_cast<float>(a.value[1] / 100.0), static_cast<float>(a.value[2] / 100.0)}; }, opens("COLORIZE")},
     { 1, "Adjust [Brightness]", "BRIGHTNESS", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.BRIGHTNESS(a.value[0]); }, opens("LIGHTCUSTOM", "BRIGHTNESS")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("LIGHTCUSTOM", "BRIGHTNESS")},
     { 2, "Adjust [Contrast]", "CONTRAST", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.CONTRAST(a.value[0]); }, opens("CONTRAST")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CONTRAST")},
     { 3, "Adjust [Saturation]", "SATURATION", {{within("Level", "Level", -100, 250, 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.SATURATION(a.value[0]); }, opens("CUSTOMSATURATION")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMSATURATION")},
     { 4, "Adjust [Gamma correction]", "GammaCorrection", {{{"Gamma", "Level", 0, 2, 1, 0.01, 2, true}}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.GammaCorrection(a.value[0]); }, opens("GAMMA"), {"EFFECTS", "Gamma Correction", "adjustcurves"}},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("GAMMA"), {"EFFECTS", "Gamma Correction", "adjustcurves"}},
     { 5, "Definition [Diffuse]", "DIFFUSE", {{of("Horizontal range", "HorizontalRange"), of("Vertical range", "VerticalRange")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.DIFFUSE(a.value[0], a.value[1]); }, opens("CUSTOMDIFFUSE")},
+      [](const A& a) { return Arguments{a.value[0], a.value[1]}; }, opens("CUSTOMDIFFUSE")},
     { 6, "Adjust [Blur]", "Blurs", {{of("Level", "Radius", 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Blurs(a.value[0]); }, opens("CUSTOMBLUR")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMBLUR")},
     { 7, "Definition [Halftone]", "Halftone", {{of("Radius", "Radius", 1), of("Definition", "Definition"), of("Intensity", "Intensity", 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Halftone(a.value[0], a.value[1], a.value[2]); }, opens("HAFTONE")},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.value[2]}; }, opens("HAFTONE")},
     { 8, "Definition [Pixelaze]", "PIXELIZE", {{of("Pixel size", "Size")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.PIXELIZE(a.value[0]); }, opens("PIXELIZE")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("PIXELIZE")},
     { 9, "Edges [Emboss]", "EMBOSS", {{of("Weight", "Weight")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.EMBOSS(a.value[0]); }, opens("CUSTOMEMBOSS")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMEMBOSS")},
     {10, "Edges [Engrave]", "ENGRAVE", {{of("Weight", "Weight")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.ENGRAVE(a.value[0]); }, opens("CUSTOMENGRAVE")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMENGRAVE")},
     {11, "Edges [Contour]", "CONTOUR", {{of("Weight", "Level")}}, nullptr, E::TargetWell,
-      [](F& f, const A& a) { return f.CONTOUR(a.value[0], a.colour[1]); }, opens("CUSTOMCONTOUR")},
+      [](const A& a) { return Arguments{a.value[0], a.colour[1]}; }, opens("CUSTOMCONTOUR")},
     {12, "Edges [Sketch]", "SKETCH", {{within("Weight", "Level", 0, 255, 255)}}, "B/W", E::TargetWell,
-      [](F& f, const A& a) { return f.SKETCH(a.value[0], a.option, a.colour[1]); }, opens("SKETCH")},
+      [](const A& a) { return Arguments{a.value[0], a.option, a.colour[1]}; }, opens("SKETCH")},
     {13, "Edges [Threshold]", "Threshold", {{of("Cut value", "Level")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Threshold(a.value[0]); }, opens()},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens()},
     {14, "Color [Isolate]", "ISOLATE", {{of("Tolerance", "Tolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.ISOLATE(a.colour[0], a.colour[1], a.value[0]); }, opens("ISOLATE")},
+      [](const A& a) { return Arguments{a.colour[0], a.colour[1], a.value[0]}; }, opens("ISOLATE")},
     {15, "Color [Reduction]", "Reduction", {{within("Level", "Level", 0, 255, 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Reduction(a.value[0]); }, opens()},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens()},
     {16, "Color [Replace]", "REPLACE", {{of("Tolerance", "Tolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.REPLACE(a.colour[0], a.colour[1], a.value[0]); }, opens("REPLACE"), {"REPLACE", "Colors"}},
+      [](const A& a) { return Arguments{a.colour[0], a.colour[1], a.value[0]}; }, opens("REPLACE"), {"REPLACE", "Colors"}},
     {17, "Color [Replace Hue/Sat.]", "ReplaceHS", {{within("Hue Tolerance", "HueTolerance", 0, 100, 50), of("Sat. Tolerance", "SatTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.ReplaceHS(a.colour[0], a.colour[1], a.value[0], a.value[1], a.value[2]); }, opens("REPLACEHUESAT"), {"REPLACE", "Hue && Saturation"}},
+      [](const A& a) { return Arguments{a.colour[0], a.colour[1], a.value[0], a.value[1], a.value[2]}; }, opens("REPLACEHUESAT"), {"REPLACE", "Hue && Saturation"}},
     {18, "Color [Replace Lum.]", "ReplaceL", {{of("Lum. Tolerance", "LumTolerance"), of("Apply Tolerance", "ApplyTolerance")}}, nullptr, kTwoWells,
-      [](F& f, const A& a) { return f.ReplaceL(a.colour[0], a.colour[1], a.value[0], a.value[1]); }, opens("REPLACELUMINOUS"), {"REPLACE", "Luminous"}},
+      [](const A& a) { return Arguments{a.colour[0], a.colour[1], a.value[0], a.value[1]}; }, opens("REPLACELUMINOUS"), {"REPLACE", "Luminous"}},
     {19, "Adjust [Sharpen]", "SHARPEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.SHARPEN(a.value[0]); }, opens("CUSTOMSHARPEN")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMSHARPEN")},
     {20, "Adjust [Soften]", "SOFTEN", {{of("Level", "Level", 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.SOFTEN(a.value[0]); }, opens("CUSTOMSOFTEN")},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("CUSTOMSOFTEN")},
     {21, "Color [Shift]", "Shift", {{of("Shift", "Amount", 0), of("Tolerance", "Tolerance")}}, nullptr, E::SourceWell | E::PickColour,
-      [](F& f, const A& a) { return f.Shift(a.colour[0], a.value[0], a.value[1]); }, opens("SHIFT")},
+      [](const A& a) { return Arguments{a.colour[0], a.value[0], a.value[1]}; }, opens("SHIFT")},
     {22, "Color [Hue rotation]", "RotateH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.RotateH(a.value[0], a.value[1]); }, opens("HUEROTATION"), {"COLORS", "Hue Rotation"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1]}; }, opens("HUEROTATION"), {"COLORS", "Hue Rotation"}},
     {23, "Color [Grey rotation]", "RotateL", {{of("Offset", "Offset", 0), of("Steps", "Steps")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.RotateL(a.value[0], a.value[1]); }, opens("GREYROTATION"), {"COLORS", "Grey Rotation"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1]}; }, opens("GREYROTATION"), {"COLORS", "Grey Rotation"}},
     {24, "Color [Hue stretch]", "StretchH", {{of("Offset", "Offset", 0), of("Saturation", "Saturation"), of("Stretch factor", "Stretch", 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.StretchH(a.value[0], a.value[1], a.value[2]); }, opens("HUESTRETCH")},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.value[2]}; }, opens("HUESTRETCH")},
     {25, "Color [RGB levels]", "ShiftRGB", {{within("Red", "Red", -255, 255, 0), within("Green", "Green", -255, 255, 0), within("Blue", "Blue", -255, 255, 0)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.ShiftRGB(a.value[0], a.value[1], a.value[2]); }, opens("RGBLEVELS")},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.value[2]}; }, opens("RGBLEVELS")},
     {26, "Color [RGB banks]", "SwapRGB", {}, nullptr, E::Banks,
-      [](F& f, const A& a) { return f.SwapRGB(a.channel[0], a.channel[1], a.channel[2], a.invert[0], a.invert[1], a.invert[2], a.kill[0] * 255, a.kill[1] * 255, a.kill[2] * 255); }, opens("RGBBANKS")},
+      [](const A& a) { return Arguments{a.channel[0], a.channel[1], a.channel[2], a.invert[0], a.invert[1], a.invert[2], a.kill[0] * 255, a.kill[1] * 255, a.kill[2] * 255}; }, opens("RGBBANKS")},
     {27, "Deformation [Lens]", "LENS", {{free("Diameter", 1, 100, 50), within("Magnify factor", "Magnify", 0, 100, 50)}}, nullptr, E::PickCentre,
-      [](F& f, const A& a) { return f.LENS(a.centerX, a.centerY, fractionOfSide(a), a.value[1]); }, opens("LENS"), {"SHAPES", "Lens", "lensdistortion"}},
+      [](const A& a) { return Arguments{a.centerX, a.centerY, fractionOfSide(a), a.value[1]}; }, opens("LENS"), {"SHAPES", "Lens", "lensdistortion"}},
     {28, "Deformation [Waves]", "WAVES", {{of("Frequency", "Frequency"), of("Amplitude", "Amplitude"), of("Start degree", "StartDegree")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.WAVES(a.value[0], a.value[1], a.value[2]); }, opens("WAVES"), {"SHAPES", "Waves", ":waves"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.value[2]}; }, opens("WAVES"), {"SHAPES", "Waves", ":waves"}},
     {29, "Deformation [Bend]", "BEND", {{of("Radius factor", "RadiusFactor", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.BEND(a.value[0], a.option); }, opens("BEND"), {"SHAPES", "Bend"}},
+      [](const A& a) { return Arguments{a.value[0], a.option}; }, opens("BEND"), {"SHAPES", "Bend"}},
     {30, "Deformation [Fold]", "FOLD", {{of("Horizontal factor", "Horizontal", 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.FOLD(a.value[0], a.value[1], a.option); }, opens("FOLD"), {"SHAPES", "Fold"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.option}; }, opens("FOLD"), {"SHAPES", "Fold"}},
     {31, "Deformation [Rotate]", "ROTATE", {{within("Degrees", "Degrees", -180, 180, 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.ROTATE(a.value[0], a.option); }, opens("ROTATE"), {"SHAPES", "Rotate"}},
+      [](const A& a) { return Arguments{a.value[0], a.option}; }, opens("ROTATE"), {"SHAPES", "Rotate"}},
     {32, "Deformation [Stretch]", "STRETCH", {{within("Horizontal factor", "Horizontal", -100, 100, 0), of("Vertical factor", "Vertical", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.STRETCH(a.value[0], a.value[1], a.option); }, opens("STRETCH"), {"SHAPES", "Stretch"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.option}; }, opens("STRETCH"), {"SHAPES", "Stretch"}},
     {33, "Deformation [Tile]", "TILE", {{within("Factor", "Factor", 2, 50, 2)}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.TILE(a.value[0]); }, opens("TILE"), {"SHAPES", "Tile"}},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("TILE"), {"SHAPES", "Tile"}},
     {34, "Deformation [Twirl]", "TWIRL", {{of("Level", "Level", 0), of("Offset degrees", "OffsetDegrees", 0)}}, "Clean back", E::None,
-      [](F& f, const A& a) { return f.TWIRL(a.value[0], a.value[1], a.option); }, opens("TWIRL"), {"SHAPES", "Twirl"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.option}; }, opens("TWIRL"), {"SHAPES", "Twirl"}},
     {35, "Special [Grid]", "Grid", {{within("Horizontal step", "HorizontalStep", 1, 250, 25), within("Vertical step", "VerticalStep", 1, 250, 25), of("Opacity", "Opacity")}}, "Force margins", E::TargetWell,
-      [](F& f, const A& a) { return f.Grid(a.value[0], a.value[1], a.option, a.colour[1], a.value[2]); }, opens("ADDGRID"), {"ADD", "Grid", "view-grid"}},
+      [](const A& a) { return Arguments{a.value[0], a.value[1], a.option, a.colour[1], a.value[2]}; }, opens("ADDGRID"), {"ADD", "Grid", "view-grid"}},
     {36, "Special [Light]", "Light", {{free("Extension", 1, 100, 50), of("Intensity", "Intensity"), of("Definition", "Definition", 0)}}, nullptr, E::PickCentre,
-      [](F& f, const A& a) { return f.Light(a.centerX, a.centerY, fractionOfSide(a), a.value[1], a.value[2]); }, opens("LENSFLARE"), {"ADD", "Flare", "lensautofix"}},
+      [](const A& a) { return Arguments{a.centerX, a.centerY, fractionOfSide(a), a.value[1], a.value[2]}; }, opens("LENSFLARE"), {"ADD", "Flare", "lensautofix"}},
     {37, "Special [Noise]", "NOISE", {{of("Intensity", "Amount")}}, "Equalized", E::None,
-      [](F& f, const A& a) { return f.NOISE(a.value[0], a.option); }, opens("CUSTOMNOISE", "ADDNOISE"), {"ADD", "Noise", ":noise"}},
+      [](const A& a) { return Arguments{a.value[0], a.option}; }, opens("CUSTOMNOISE", "ADDNOISE"), {"ADD", "Noise", ":noise"}},
     {38, "Special [Scanlines]", "Scanlines", {{of("Opacity", "Level")}}, nullptr, E::None,
-      [](F& f, const A& a) { return f.Scanlines(a.value[0]); }, opens("ADDSCANLINES"), {"ADD", "Scanlines", ":scanlines"}},
+      [](const A& a) { return Arguments{a.value[0]}; }, opens("ADDSCANLINES"), {"ADD", "Scanlines", ":scanlines"}},
     {39, "Behind Glass", "GLASS", {}, nullptr, E::Glass,
-      [](F& f, const A& a) { return f.GLASS(a.style, a.mode); }, opens("CUSTOMGLASS")},
+      [](const A& a) { return Arguments{a.style, a.mode}; }, opens("CUSTOMGLASS")},
     {40, "Behind Curtain", "GLASS", {}, nullptr, E::Curtain,
-      [](F& f, const A& a) { return f.GLASS("curtain", a.mode); }, opens("CUSTOMCURTAIN")},
+      [](const A& a) { return Arguments{std::string("curtain"), a.mode}; }, opens("CUSTOMCURTAIN")},
 };
 // clang-format on
 
@@ -195,6 +194,12 @@ FilterArgs FilterRow::defaults() const
     for (std::size_t i = 0; i < sliders.size(); ++i)
         if (sliders[i].used()) args.value[i] = sliders[i].initial() - sliders[i].centre();
     return args;
+}
+
+Bits FilterRow::call(cBitFilter& filter, const FilterArgs& args) const
+{
+    operationOf(*this)->call(filter, arguments(args));
+    return filter.bits();
 }
 
 std::span<const FilterRow> filterRows() { return kRows; }

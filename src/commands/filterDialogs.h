@@ -2,7 +2,7 @@
 // row of filterDialogs.cpp.
 #pragma once
 #include "commands/vocabulary.h"
-#include "engine/cBitFilter.h"
+#include "engine/operations.h"
 #include <array>
 #include <span>
 #include <string>
@@ -68,12 +68,14 @@ struct FilterRow {
     std::array<FilterSlider, 3> sliders;
     const char* option; // caption, null without one
     FilterExtra extras;
-    Bits (*call)(cBitFilter& filter, const FilterArgs& args);
-    std::array<std::string_view, 2> words; // the words that open it; empty ones open nothing
-    MenuPlace place = {};                  // of the last word
+    Arguments (*arguments)(const FilterArgs& args); // of the operation
+    std::array<std::string_view, 2> words;          // the words that open it; empty ones open nothing
+    MenuPlace place = {};                           // of the last word
 
     constexpr std::string_view lastWord() const { return words[1].empty() ? words[0] : words[1]; }
     FilterArgs defaults() const;
+    /// Runs the operation on the filter, whose picture the result becomes.
+    Bits call(cBitFilter& filter, const FilterArgs& args) const;
 };
 
 /// By number, without gaps.

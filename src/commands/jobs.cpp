@@ -21,7 +21,7 @@ Job presetJob(const Preset& preset) { return operationJob(*findOperation(preset.
 
 Job filterJob(const FilterRow& row, const FilterArgs& args)
 {
-    return engineJob([&row, args](cBitFilter& filter) { filter.setBits(row.call(filter, args)); });
+    return operationJob(*findOperation(row.operation), row.arguments(args));
 }
 
 Job sizeJob(const SizeWord& w)

@@ -31,11 +31,20 @@ void Document::takeFrom(const cBitFilter& filter)
         takePicture(bits);
 }
 
-void Document::commit(const QString& name)
+void Document::SaveUndoBits(StepNote note)
+{
+    ++commits_;
+    note.small = smallCopy(bits_);
+    note.width = bits_.width();
+    note.height = bits_.height();
+    undo.save(bits_, std::move(note));
+}
+
+void Document::commit(StepNote note)
 {
     Changed = true;
     Zoomed = false;
-    SaveUndoBits(name);
+    SaveUndoBits(std::move(note));
 }
 
 void Document::moveTo(const UndoStore::Found& found)

@@ -44,13 +44,12 @@ class Document {
     void handTo(cBitFilter& filter) const;
 
     /// Snapshot of the present picture, written in the background. name: of the change, for the user.
-    void SaveUndoBits(const QString& name = {})
-    {
-        ++commits_;
-        undo.save(bits_, name);
-    }
+    void SaveUndoBits(const QString& name = {}) { SaveUndoBits(StepNote{.name = name}); }
+    /// The same with all that is known of the change; the small picture is made here.
+    void SaveUndoBits(StepNote note);
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
-    void commit(const QString& name = {});
+    void commit(const QString& name = {}) { commit(StepNote{.name = name}); }
+    void commit(StepNote note);
     /// Closing it now would lose something; decides the marks of windows and the question at closing.
     bool wouldBeLost() const
     {

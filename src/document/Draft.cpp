@@ -55,10 +55,11 @@ Outcome Draft::attempt(const Job& job)
 
 bool Draft::wanted() const { return document_ && document_->commits() == commits_; }
 
-void Draft::take(const QString& name)
+void Draft::take(StepNote note)
 {
     Document& document = *document_;
     if (found_) return document.moveTo(*found_);
+    note.selection = selection_;
     if (sizing_ && !fromBefore_ && draft_.bits().sharesWith(start_)) return;
     const bool sameSize =
         draft_.PictureWidth() == document.PictureWidth() && draft_.PictureHeight() == document.PictureHeight();
@@ -70,9 +71,9 @@ void Draft::take(const QString& name)
         if (!draft_.Region.IsEmptyRegion()) document.Region.setRegion(draft_.Region.Region());
     }
     if (fromBefore_) document.undo.stepBack();
-    if (!sizing_) return document.commit(name);
+    if (!sizing_) return document.commit(std::move(note));
     document.Changed = document.Zoomed = true;
-    document.SaveUndoBits(name);
+    document.SaveUndoBits(std::move(note));
 }
 
 void Draft::handTo(cBitFilter& engine, bool holds) const

@@ -21,9 +21,11 @@ class Draft {
     Outcome attempt(const Job& job);
     /// The document still exists and is at the step at which the draft began.
     bool wanted() const;
-    /// Puts the result into the document, which must be wanted(), with an undo step of that name. A sizing word that
-    /// left the picture unchanged makes no step.
-    void take(const QString& name = {});
+    /// For a step back or forward: it goes to the state of this number instead. Called before attempt().
+    void goTo(int state) { step_ = document_->undo.stateLater(state); }
+    /// Puts the result into the document, which must be wanted(), with an undo step of that note; its selection is the
+    /// one that the job got. A sizing word that left the picture unchanged makes no step.
+    void take(StepNote note = {});
     /// Updates `engine` after the change: its random state and, when it holds this document, the result and its region.
     void handTo(cBitFilter& engine, bool holds) const;
 

@@ -146,6 +146,11 @@ void Workspace::step(const DocumentHandle& document, bool back, Then then)
     if (then) later([then = std::move(then)] { then({Outcome::Cancelled}); });
 }
 
+void Workspace::goTo(const DocumentHandle& document, int state, Then then)
+{
+    change(document, {.job = {}, .after = After::Back, .state = state}, std::move(then));
+}
+
 void Workspace::inTurn(const DocumentHandle& document, std::function<void()> call)
 {
     Place* place = placeOf(document);
@@ -238,6 +243,7 @@ void Workspace::begin(Place& place)
     place.running = std::shared_ptr<Run>(
         new Run{document, std::move(item),
                 Draft(*document, committed ? engine_.bits() : document->bits(), engine_, item.step.after)});
+    if (const int state = place.running->item.step.state) place.running->draft.goTo(state);
     start(place.running);
     later([this, document] {
         if (isBusy(document)) emit busy(document);
@@ -277,7 +283,7 @@ void Workspace::finished(std::shared_ptr<Run> run, Outcome outcome)
             }
             if (outcome) {
                 run->replaced = {document->bits(), engine_.bits()};
-                run->draft.take(run->item.step.name);
+                run->draft.take({.name = run->item.step.name, .words = run->item.step.words});
                 run->draft.handTo(engine_, engineHolds(*document));
                 emit changed(document);
             }

@@ -45,7 +45,9 @@ struct Opened {
 struct Step {
     Job job;
     After after = After::Step;
-    QString name = {}; // for the user, in "Undo Blur"
+    QString name = {};  // for the user, in "Undo Blur"
+    QString words = {}; // what velara-batch would take for it, one step a line; empty: it can't be said
+    int state = 0;      // with After::Back or Forward: where to, by its number (UndoStore::listed); 0: the next one
 };
 
 class Workspace final : public QObject {
@@ -95,6 +97,9 @@ class Workspace final : public QObject {
     /// One step back or forward, in its turn. Where changes are under way, nothing steps: a step back ends them as
     /// Cancelled, which is what the user wants back. The outcome is Failed, for no reason, where there is no such step.
     void step(const DocumentHandle& document, bool back, Then then = {});
+    /// To a state of the undo series, by its number (UndoStore::listed), in its turn. The outcome is Failed, for no
+    /// reason, where it is not in the series any more.
+    void goTo(const DocumentHandle& document, int state, Then then = {});
     /// Calls in turn, once the changes queued before it are done; at once when there are none.
     void inTurn(const DocumentHandle& document, std::function<void()> call);
     /// A call or a step waits for its turn, or a save is being written: closing the document now would lose it.

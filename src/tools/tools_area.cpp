@@ -52,13 +52,24 @@ class GradientTool final : public Tool {
         const Colour second = s.GradientTransparent2 ? -1 : s.GradientColor2;
         const auto gradient =
             s.GradientMode == GradientMode::Circular ? &cBitFilter::GradientCircular : &cBitFilter::GradientLinear;
+        const QString words = QStringLiteral("%1(%2,%3,%4,%5,%6,%7,%8,%9)")
+                                  .arg(s.GradientMode == GradientMode::Circular ? QStringLiteral("GradientCircular")
+                                                                                : QStringLiteral("GradientLinear"))
+                                  .arg(c.start.x)
+                                  .arg(c.start.y)
+                                  .arg(c.at.x)
+                                  .arg(c.at.y)
+                                  .arg(first)
+                                  .arg(second)
+                                  .arg(s.GradientPressure)
+                                  .arg(s.GradientFrequency);
         const Job job = [=, from = c.start, to = c.at, opacity = s.GradientPressure,
                          repeat = s.GradientFrequency](Document& draft, cBitFilter& filter) {
             const Bits painted = (filter.*gradient)(from.x, from.y, to.x, to.y, first, second, opacity, repeat);
             if (painted == draft.bits()) throw Cancelled(); // no step where nothing changes
             draft.setBits(painted);
         };
-        c.computed = c.workspace().change(c.document.handle(), {job, After::Step, QStringLiteral("Gradient")},
+        c.computed = c.workspace().change(c.document.handle(), {job, After::Step, QStringLiteral("Gradient"), words},
                                           [&frame = c.frame, life = std::weak_ptr(c.life), &c](const Outcome& outcome) {
                                               frame.report(QStringLiteral("Gradient"), outcome);
                                               if (!life.expired()) c.computed = Workspace::kAll;

@@ -23,6 +23,10 @@ struct DetailRunTest : ::testing::Test {
             came.notify_one();
         };
     }
+    DetailRun::Filter brightness() const
+    {
+        return [this](cBitFilter& filter, const FilterArgs& args) { return row.call(filter, args); };
+    }
     static FilterArgs level(int value) { return {.value = {value}}; }
     Bits wanted(int value) const
     {
@@ -39,7 +43,7 @@ struct DetailRunTest : ::testing::Test {
 
 TEST_F(DetailRunTest, TheLastArgumentsAreAlwaysRunAndFewOfThoseBetween)
 {
-    DetailRun run(row, picture, selection, keep());
+    DetailRun run(brightness(), picture, selection, keep());
     for (int value = 1; value <= 200; ++value) run.start(level(value));
     EXPECT_TRUE(lastIs(wanted(200)));
     EXPECT_LT(results.size(), 100U);
@@ -50,8 +54,7 @@ TEST_F(DetailRunTest, TheLastArgumentsAreAlwaysRunAndFewOfThoseBetween)
 
 TEST_F(DetailRunTest, AFailureSaysNothingAndTheNextRunWorks)
 {
-    FilterRow sometimes = row;
-    sometimes.call = [](cBitFilter& filter, const FilterArgs& args) {
+    const auto sometimes = [](cBitFilter& filter, const FilterArgs& args) {
         if (args.value[0] == 0) throw RuntimeError(Fault::Overflow);
         return filter.BRIGHTNESS(args.value[0]);
     };
@@ -65,8 +68,7 @@ TEST_F(DetailRunTest, StoppingEndsARunThatWorksAndTheRestIsSilence)
 {
     static std::atomic<bool> works, ended;
     works = ended = false;
-    FilterRow endless = row;
-    endless.call = [](cBitFilter& filter, const FilterArgs&) -> Bits {
+    const auto endless = [](cBitFilter& filter, const FilterArgs&) -> Bits {
         works = true;
         try {
             for (;;) filter.Progress(1);

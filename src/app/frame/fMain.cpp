@@ -5,7 +5,9 @@
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
+#include "app/utilities/Recipes.h"
 #include "seams/Platform.h"
+#include "ui/history/fHistory.h"
 #include "ui/widgets/ScreenColours.h"
 #include <QApplication>
 #include <QHBoxLayout>
@@ -59,7 +61,10 @@ fMain::fMain(Platform& platform, Setup& setup)
     bindToolKeys();
     clips_ = std::make_unique<Clips>(*this);
     capture_ = std::make_unique<Capture>(*this);
+    recipes_ = std::make_unique<Recipes>(*this);
     makeBoxes();
+    auto* recipes = findChild<QMenu*>("mnuRecipes");
+    connect(recipes, &QMenu::aboutToShow, this, [this, recipes] { recipes_->list(*recipes); });
     bars_->loadLastUsed();
     chooseScreenColours();
     showColors();
@@ -102,6 +107,7 @@ void fMain::refreshUndoState()
     bars_->nameStep("REDO", undo ? undo->redoName() : QString(), undo && undo->canRedo());
     for (fImage* open : documents()) open->showChanged();
     showPage();
+    if (history_) history_->follow();
     showTitle();
 }
 

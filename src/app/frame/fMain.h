@@ -26,6 +26,8 @@ namespace velara {
 
 class Capture;
 class Clips;
+class Recipes;
+class fHistory;
 struct CommandWord;
 class fStartPage;
 struct SizeWord;
@@ -68,6 +70,7 @@ class fMain final : public QMainWindow, public Frame {
     // --- Utilities
     Clips& clips() { return *clips_; }
     Capture& capture() { return *capture_; }
+    Recipes& recipes() { return *recipes_; }
 
     // --- Files
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
@@ -129,6 +132,8 @@ class fMain final : public QMainWindow, public Frame {
     void open();
     void save();
     void saveAs();
+    /// Writes every changed picture to its own file, after one question; those without one are asked for a name.
+    void saveAll();
     void openRecent(int index);
     /// The page so many behind the active one in its file, which is in front afterwards.
     void openPage(int step);
@@ -167,7 +172,8 @@ class fMain final : public QMainWindow, public Frame {
     void storeLayout();
 
     /// Reports failures in the status bar.
-    void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
+    void change(std::string_view word, const DocumentHandle& document, const Job& job, const QString& words,
+                After after = After::Step);
     void bindWorkspace();
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
@@ -207,6 +213,7 @@ class fMain final : public QMainWindow, public Frame {
     void showLoadError();
     void showGone(const QStringList& paths);
     void saveNow(fImage& asked);
+    bool savesDirectly(const FileFacts& file) const;
     Bits clipboardPicture();
 
     Platform& platform_;
@@ -215,10 +222,12 @@ class fMain final : public QMainWindow, public Frame {
     ToolStores toolStores_;
     std::unique_ptr<Clips> clips_;
     std::unique_ptr<Capture> capture_;
+    std::unique_ptr<Recipes> recipes_;
     std::unique_ptr<Documents> documents_;
     fStatus* status_;
     fToolPane* toolPane_;
     fStartPage* startPage_;
+    fHistory* history_ = nullptr;
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
     std::unique_ptr<ScreenColours> screenColours_; // where pictures are shown by the screens' profiles

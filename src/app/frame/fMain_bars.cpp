@@ -6,12 +6,14 @@
 #include "app/menus/menus.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Clips.h"
+#include "app/utilities/Recipes.h"
 #include "app/utilities/browse.h"
 #include "seams/Platform.h"
 #include "seams/text.h"
 #include "ui/colour/fPalette.h"
 #include "ui/colour/fPicker.h"
 #include "ui/compose/fToolTextures.h"
+#include "ui/history/fHistory.h"
 #include "ui/panes/fToolPanes.h"
 #include "ui/view/fDisplay.h"
 #include <QDragEnterEvent>
@@ -68,6 +70,12 @@ void fMain::makeBoxes()
     connect(textures, &fToolTextures::folderWanted, this, [=, this] { browseTextureFolder(*this, *textures); });
     boxes_->set(Boxes::Textures, textures);
     boxes_->set(Boxes::Clips, clips_->box());
+    boxes_->wanted(Boxes::History) = platform_.setting("Boxes", "History", "0") == "1";
+    history_ = new fHistory(*this, this);
+    connect(history_, &fHistory::copyWanted, recipes_.get(), &Recipes::copyAsCommand);
+    connect(history_, &fHistory::saveWanted, recipes_.get(), &Recipes::save);
+    connect(history_, &fHistory::runOnOthersWanted, recipes_.get(), &Recipes::runOnOthers);
+    boxes_->set(Boxes::History, history_);
     boxes_->dockAll();
     startPage_->taken = [this] { return boxes_->places(); };
 }

@@ -71,6 +71,7 @@ void fMain::closeEvent(QCloseEvent* event)
 void fMain::saveState()
 {
     platform_.setSetting("VeStu", "Place", QString::fromLatin1(saveGeometry().toBase64()));
+    platform_.setSetting("Boxes", "History", boxes_->wanted(Boxes::History) ? "1" : "0");
     bars_->saveLastUsed();
     SaveSetup(platform_, setup_);
 }

@@ -10,6 +10,7 @@
 #include "app/start/fSplash.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
+#include "app/utilities/Recipes.h"
 #include "app/utilities/browse.h"
 #include "app/utilities/desktop.h"
 #include "app/utilities/icons.h"
@@ -124,6 +125,11 @@ struct fMain::Commands {
         {"@COLORBOX",            [](fMain& f) { f.boxes().toggle(Boxes::Colours); }},
         {"@TEXTURESBOX",         [](fMain& f) { f.boxes().toggle(Boxes::Textures); }},
         {"@CLIPBOARDBOX",        [](fMain& f) { f.boxes().toggle(Boxes::Clips); }},
+        {"@HISTORYBOX",          [](fMain& f) { f.boxes().toggle(Boxes::History); }},
+        {"@SAVEALL",             [](fMain& f) { f.saveAll(); }},
+        {"@RUNRECIPE",           [](fMain& f) { f.recipes().choose(); }},
+        {"@SAVERECIPE",          [](fMain& f) { f.recipes().save(f.active(), 0); }},
+        {"@RUNONFOLDER",         [](fMain& f) { f.recipes().showFolderRun(); }},
         {"@STATUSBAR",           [](fMain& f) { f.toggleStatusBar(); }},
         {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
         {"@FULLSCREEN",          [](fMain& f) { f.toggleFullScreen(); }},

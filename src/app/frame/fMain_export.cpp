@@ -1,5 +1,6 @@
 // The dialogs that reduce the colours of a picture and save it for the web.
 #include "app/frame/fMain.h"
+#include "commands/recipe/stepText.h"
 #include "reduce/EuroDepth.h"
 #include "ui/export/FWeb.h"
 #include "ui/export/fColorDepth.h"
@@ -13,8 +14,10 @@ void fMain::colorDepth()
     const QPointer<fImage> image = GetActiveImage();
     if (!image || !image->PictureExists()) return;
     const auto ok = [this, document = active()](int depth) {
-        change("IMAGECOLORDEPTH", document,
-               [depth](Document& draft, cBitFilter&) { draft.setBits(bitsAtDepth(draft.bits(), depth)); });
+        change(
+            "IMAGECOLORDEPTH", document,
+            [depth](Document& draft, cBitFilter&) { draft.setBits(bitsAtDepth(draft.bits(), depth)); },
+            callText("SetDepth", {depth}));
     };
     const auto save = [this, image](const Bits& bits) {
         if (!closing_ && image) saveForWeb(*image, bits);

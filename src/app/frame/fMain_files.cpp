@@ -228,12 +228,44 @@ void fMain::saveNow(fImage& asked)
 {
     const QPointer<fImage> image = &asked;
     const FileFacts file = image->document().file;
-    const Format* format = formatOf(file.path);
-    // A new document, a second one of the same file and any other format ask for a name.
-    const bool isDirect = file.isOwn() && format && format->saving == Saving::Directly;
-    const Over over = isDirect ? askOver(file) : Over::AsksForName;
+    const Over over = savesDirectly(file) ? askOver(file) : Over::AsksForName;
     if (!image || over == Over::SavesNot) return;
     over == Over::Overwrites ? saveTo(*image, file.path) : saveAs(*image);
+}
+
+/// A new document, a second one of the same file and any other format ask for a name.
+bool fMain::savesDirectly(const FileFacts& file) const
+{
+    const Format* format = formatOf(file.path);
+    return file.isOwn() && format && format->saving == Saving::Directly;
+}
+
+void fMain::saveAll()
+{
+    constexpr qsizetype kMostShown = 12;
+    std::vector<DocumentHandle> changed;
+    QStringList own, unnamed;
+    for (const DocumentHandle& document : workspace_.documents()) {
+        if (!document->wouldBeLost()) continue;
+        changed.push_back(document);
+        (savesDirectly(document->file) ? own : unnamed) << printable(document->file.caption());
+    }
+    if (changed.empty()) return status_->say(tr("No picture has changed."));
+    const auto listed = [](const QStringList& names) {
+        return names.mid(0, kMostShown).join('\n') + (names.size() > kMostShown ? "\n..." : "");
+    };
+    QString question = own.isEmpty() ? QString() : tr("These are written to their own files:\n") + listed(own);
+    if (!unnamed.isEmpty())
+        question +=
+            (own.isEmpty() ? "" : "\n\n") + tr("These need a name, for which you are asked:\n") + listed(unnamed);
+    const QPointer<fMain> stands = this;
+    if (platform_.choose(tr("Save All"), question, {tr("&Save")}) != 0) return;
+    for (const DocumentHandle& document : changed) {
+        if (!stands || closing_) return; // a question for a name was open
+        workspace_.inTurn(document, [this, document] {
+            if (fImage* image = documents_->of(document)) saveNow(*image);
+        });
+    }
 }
 
 void fMain::saveAs()

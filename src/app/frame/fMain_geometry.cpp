@@ -31,15 +31,17 @@ template <class Dialog> void fMain::askAndReshape(std::string_view word)
     const DocumentHandle document = active();
     if (!document || !document->PictureExists()) return;
     Job job;
-    if constexpr (std::is_constructible_v<Dialog, Platform&, const Bits&, QWidget*>) {
-        Dialog dialog(platform_, document->bits(), this);
-        if (dialog.exec() == QDialog::Accepted) job = dialog.job();
-    } else {
-        Dialog dialog(platform_, this);
-        if (dialog.exec() == QDialog::Accepted) job = dialog.job();
-    }
-    if (!job) return;
-    change(word, document, job);
+    QString words;
+    const auto ask = [&](fGeometry&& dialog) {
+        if (dialog.exec() != QDialog::Accepted) return;
+        job = dialog.job();
+        words = dialog.words();
+    };
+    if constexpr (std::is_constructible_v<Dialog, Platform&, const Bits&, QWidget*>)
+        ask(Dialog(platform_, document->bits(), this));
+    else
+        ask(Dialog(platform_, this));
+    if (job) change(word, document, job, words);
 }
 
 void fMain::imageSize() { askAndReshape<fSize>("IMAGESIZE"); }
@@ -53,7 +55,7 @@ void fMain::imageResolution()
     if (!document || !document->PictureExists()) return;
     const CameraData& camera = document->file.camera;
     fResolution dialog(platform_, resolutionText(camera.dotsAcross, camera.dotsDown), this);
-    if (dialog.exec() == QDialog::Accepted) change("IMAGERESOLUTION", document, dialog.job());
+    if (dialog.exec() == QDialog::Accepted) change("IMAGERESOLUTION", document, dialog.job(), dialog.words());
 }
 
 void fMain::imageTextures()
@@ -61,13 +63,16 @@ void fMain::imageTextures()
     const DocumentHandle document = active();
     if (!document || !document->PictureExists()) return;
     Texturing texturing;
+    QString words;
     {
         fTexturize dialog(platform_, document->bits(), document->Region.working(), this);
         if (dialog.exec() != QDialog::Accepted) return;
         texturing = dialog.texturing();
+        words = dialog.words();
     }
-    change("IMAGETEXTURES", document,
-           [texturing](Document& draft, cBitFilter& filter) { draft.setBits(texturized(filter, texturing)); });
+    change(
+        "IMAGETEXTURES", document,
+        [texturing](Document& draft, cBitFilter& filter) { draft.setBits(texturized(filter, texturing)); }, words);
 }
 
 /// Called again, it moves the open dialog to the picture that is active now.

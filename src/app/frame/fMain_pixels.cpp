@@ -11,12 +11,12 @@
 
 namespace velara {
 
-void fMain::runPreset(const Preset& preset) { change(preset.word, active(), presetJob(preset)); }
+void fMain::runPreset(const Preset& preset) { change(preset.word, active(), presetJob(preset), text(preset.word)); }
 
 void fMain::runSizeWord(const SizeWord& size)
 {
     if (afterOf(size) == After::Sizing) setZoom(1);
-    change(size.word, active(), sizeJob(size), afterOf(size));
+    change(size.word, active(), sizeJob(size), text(size.word), afterOf(size));
 }
 
 void fMain::showFilter(const FilterRow& row, const QString& name)
@@ -41,7 +41,7 @@ void fMain::crop()
         case CropAnswer::TooSmall:
             return platform_.message("Crop", "Minimum size: 2 x 2", Icon::Information);
         case CropAnswer::Possible:
-            return change("CROP", document, cropImage);
+            return change("CROP", document, cropImage, QStringLiteral("CROP"));
         }
     });
 }

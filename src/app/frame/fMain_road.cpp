@@ -45,9 +45,10 @@ void fMain::changed(const DocumentHandle& document)
     refreshUndoState();
 }
 
-void fMain::change(std::string_view word, const DocumentHandle& document, const Job& job, After after)
+void fMain::change(std::string_view word, const DocumentHandle& document, const Job& job, const QString& words,
+                   After after)
 {
-    workspace_.change(document, {job, after, nameOf(word)},
+    workspace_.change(document, {job, after, nameOf(word), words},
                       [this, what = text(word)](const Outcome& outcome) { report(what, outcome); });
 }
 

@@ -16,14 +16,15 @@ namespace {
 
 struct BoxRow {
     std::string_view word; // of its menu item
-    bool Setup::*visible;
-    int down; // pixels from the top of the documents to the place where it begins to float
+    bool Setup::*visible;  // null: in no field of the configuration
+    int down;              // pixels from the top of the documents to the place where it begins to float
 };
 
 constexpr BoxRow kBoxes[] = {
     {"@COLORBOX", &Setup::ColorBoxVisible, 36},
     {"@TEXTURESBOX", &Setup::TexturesBoxVisible, 0},
     {"@CLIPBOARDBOX", &Setup::ClipboardBoxVisible, 0},
+    {"@HISTORYBOX", nullptr, 36},
 };
 
 /// As wide as the box at least; only its height may be too small for it.
@@ -136,9 +137,15 @@ std::vector<QRect> Boxes::places() const
     return places;
 }
 
+bool& Boxes::wanted(Box which)
+{
+    bool Setup::*const field = kBoxes[which].visible;
+    return field ? setup_.*field : others_[which];
+}
+
 void Boxes::toggle(Box which)
 {
-    bool& visible = setup_.*kBoxes[which].visible;
+    bool& visible = wanted(which);
     visible = !visible;
     if (visible) {
         bring(which);
@@ -151,23 +158,23 @@ void Boxes::toggle(Box which)
 
 void Boxes::showAll()
 {
-    for (const Box which : {Textures, Clips, Colours}) {
+    for (const Box which : {History, Textures, Clips, Colours}) {
         if (!windowsCanBePlaced()) docks_[which]->setFloating(false);
-        setup_.*kBoxes[which].visible ? show(which) : docks_[which]->hide();
+        wanted(which) ? show(which) : docks_[which]->hide();
     }
     docks_[Colours]->raise();
 }
 
 void Boxes::bring(Box which)
 {
-    if (!(setup_.*kBoxes[which].visible)) return toggle(which);
+    if (!wanted(which)) return toggle(which);
     show(which);
     docks_[which]->raise();
 }
 
 void Boxes::crossed(Box which)
 {
-    setup_.*kBoxes[which].visible = false;
+    wanted(which) = false;
     bars_.mark(kBoxes[which].word, 0, false);
 }
 

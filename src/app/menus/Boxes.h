@@ -15,7 +15,7 @@ struct Setup;
 
 class Boxes final {
   public:
-    enum Box { Colours, Textures, Clips, kCount };
+    enum Box { Colours, Textures, Clips, History, kCount };
 
     Boxes(QMainWindow& frame, Setup& setup, Bars& bars) : frame_(frame), setup_(setup), bars_(bars) {}
 
@@ -35,6 +35,8 @@ class Boxes final {
     void showAll();
     /// Shows it, or brings it to the front.
     void bring(Box which);
+    /// Whether the user wants to see it; for a box that has no field in Setup the frame sets and keeps it.
+    bool& wanted(Box which);
     /// The screen rectangles of those that float.
     std::vector<QRect> places() const;
     bool has(const QObject* dock) const
@@ -49,6 +51,7 @@ class Boxes final {
     QMainWindow& frame_;
     Setup& setup_;
     Bars& bars_;
+    std::array<bool, kCount> others_{}; // of the boxes that have no field in Setup
     std::array<QPointer<QWidget>, kCount> boxes_;
     std::array<QPointer<QDockWidget>, kCount> docks_;
 };

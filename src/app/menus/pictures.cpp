@@ -15,7 +15,9 @@ struct PictureRow {
 constexpr PictureRow kPictures[] = {
     {"NEW", "document-new"}, {"OPEN", "document-open"}, {"@BROWSE", "document-open-folder"}, {"CLOSE", "document-close"},
     {"@NEXTPAGE", "go-next-view-page"}, {"@PREVIOUSPAGE", "go-previous-view-page"},
-    {"SAVE", "document-save"}, {"SAVEAS", "document-save-as"}, {"IMAGESAVEOPTIONS", "document-export"},
+    {"SAVE", "document-save"}, {"SAVEAS", "document-save-as"}, {"@SAVEALL", "document-save-all"},
+    {"@RUNRECIPE", "media-playback-start"}, {"@SAVERECIPE", "document-save"},
+    {"@RUNONFOLDER", "folder-pictures"}, {"IMAGESAVEOPTIONS", "document-export"},
     {"ACQUIRETWAIN", "document-scan"}, {"SELECTSOURCE", "configure"}, {"PRINTPREVIEW", "document-print-preview"},
     {"PRINTERSETUP", "document-properties"}, {"PRINT", "document-print"}, {"@EXIT", "application-exit"},
     {"UNDO", "edit-undo"}, {"REDO", "edit-redo"}, {"CUT", "edit-cut"}, {"COPY", "edit-copy"}, {"PASTE", "edit-paste"},

@@ -1,5 +1,6 @@
 #include "app/utilities/Clips.h"
 #include "app/frame/fMain.h"
+#include "commands/recipe/stepText.h"
 #include "document/Workspace.h"
 #include "document/resizing.h"
 #include "pixels/RuntimeError.h"
@@ -30,10 +31,11 @@ void Clips::cut()
         draft.takeFrom(filter);
     };
     beingCut_ = document;
-    frame_.workspace().change(document, {job, After::Step, fMain::tr("Cut")}, [this, part](const Outcome& outcome) {
-        frame_.report("CUT", outcome);
-        if (outcome) add(*part);
-    });
+    frame_.workspace().change(document, {job, After::Step, fMain::tr("Cut"), QStringLiteral("BitsBlack")},
+                              [this, part](const Outcome& outcome) {
+                                  frame_.report("CUT", outcome);
+                                  if (outcome) add(*part);
+                              });
 }
 
 void Clips::copy()
@@ -106,12 +108,15 @@ bool Clips::needsRoom(const Document& document) const
 /// A step of its own, before the paste.
 void Clips::makeRoom(const DocumentHandle& document)
 {
+    if (!document) return; // it may have been closed while the question was open
     const QSize part(frame_.toolStores().paste.width(), frame_.toolStores().paste.height());
     const auto job = [part](Document& draft, cBitFilter& filter) {
         resizeCanvas(draft, filter, std::max(part.width(), draft.PictureWidth()),
                      std::max(part.height(), draft.PictureHeight()), 0, 0);
     };
-    frame_.workspace().change(document, {job, After::Step, fMain::tr("Canvas Size")},
+    const QString words = callText("CanvasSize", {std::max(part.width(), document->PictureWidth()),
+                                                  std::max(part.height(), document->PictureHeight()), 0, 0});
+    frame_.workspace().change(document, {job, After::Step, fMain::tr("Canvas Size"), words},
                               [this, document](const Outcome& outcome) {
                                   frame_.report("PASTE", outcome);
                                   if (outcome && document && frame_.active() == document) hover();

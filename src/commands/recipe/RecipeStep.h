@@ -22,7 +22,8 @@ struct RecipeStep {
     After after = After::Step; // of a change
     /// Changes the selection of a picture. Throws StepFault when the shape lies outside of it.
     std::function<void(cBitRegion& selection, const Bits& picture)> select = {};
-    /// Reads the pictures among its arguments; to be called once, before the job runs.
+    QStringList pictures = {}; // the names of the files among its arguments
+    /// Reads these; to be called once, before the job runs. Null where there are none.
     std::function<void(const ReadPicture&)> prepare = {};
 
     GoesBack goesBack() const

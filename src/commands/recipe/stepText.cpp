@@ -78,6 +78,11 @@ QString callText(std::string_view operation, const Arguments& arguments)
     return fitsALine(call) ? call : QString();
 }
 
+QString resizeText(int width, int height, bool smooth)
+{
+    return callText(smooth ? "BitsResample" : "BitsResize", {width, height});
+}
+
 QString selectionText(const Region& selection)
 {
     if (selection.isEmpty()) return QStringLiteral("none");

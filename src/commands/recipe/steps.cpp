@@ -102,14 +102,21 @@ RecipeStep operationStep(const QString& text, const Operation& operation, Argume
     const auto shared = std::make_shared<Arguments>(std::move(arguments));
     RecipeStep step{text, RecipeStep::Change};
     step.job = engineJob([&operation, shared](cBitFilter& filter) { operation.call(filter, *shared); });
-    step.prepare = [&operation, shared](const ReadPicture& read) {
-        for (Argument& argument : *shared) {
-            const Parameter& parameter = operation.parameters[static_cast<std::size_t>(&argument - shared->data())];
-            const auto* name = std::get_if<std::string>(&argument);
-            if (parameter.type != ArgumentType::Picture || !name) continue;
-            argument = operation.takesSelf && *name == "self" ? Bits() : read(QString::fromStdString(*name));
-        }
-    };
+    for (std::size_t i = 0; i < shared->size(); ++i) {
+        if (operation.parameters[i].type != ArgumentType::Picture) continue;
+        const std::string name = std::get<std::string>((*shared)[i]);
+        if (operation.takesSelf && name == "self")
+            (*shared)[i] = Bits();
+        else
+            step.pictures << QString::fromStdString(name);
+    }
+    if (!step.pictures.isEmpty())
+        step.prepare = [&operation, shared](const ReadPicture& read) {
+            for (std::size_t i = 0; i < shared->size(); ++i)
+                if (const auto* name = std::get_if<std::string>(&(*shared)[i]);
+                    name && operation.parameters[i].type == ArgumentType::Picture)
+                    (*shared)[i] = read(QString::fromStdString(*name));
+        };
     return step;
 }
 

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <cerrno>
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 
 namespace velara {
@@ -29,7 +30,7 @@ struct UndoStore::Series {
     struct State {
         std::optional<Bits> picture; // could not be written to disk
         bool gap = false;            // the state before it is not in the series
-        QString name = {};           // of the change that led to it
+        StepNote note = {};          // of the change that led to it
     };
     UndoFiles files;
     UndoMark mark;
@@ -42,7 +43,10 @@ struct UndoStore::Series {
     int waiting = 0;         // snapshots on their way
     mutable int reading = 0; // threads that read steps
     int step = 0, top = 0;
-    QString newest; // the name of the last snapshot given
+    std::vector<StepNote> log;    // all that was done, and what can be redone
+    std::vector<int> standing;    // the numbers of the states, as the last snapshot left them
+    std::deque<StepNote> pending; // of the snapshots on their way
+    int numbers = 0, current = 0; // given so far; that of the state shown
     std::atomic<bool> everFailed{false};
     bool passedOver = false;
 
@@ -63,6 +67,10 @@ struct UndoStore::Series {
     std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
 
     std::optional<Found> find(int shown, bool back);
+    void noteSave(StepNote& note);
+    void noteStates();
+    void noteShown() { current = step > 0 ? of(step - 1).note.number : 0; }
+    bool isThere(const StepNote& note) const;
 
     // --- On the writing thread; count is the number of states.
     bool ready();
@@ -220,27 +228,27 @@ QString UndoStore::undoName() const
 {
     const std::lock_guard lock(series_->guard);
     if (series_->shownStep() <= 1) return {};
-    return series_->waiting > 0 ? series_->newest : series_->of(series_->step - 1).name;
+    return series_->waiting > 0 ? series_->pending.back().name : series_->of(series_->step - 1).note.name;
 }
 
 QString UndoStore::redoName() const
 {
     const std::lock_guard lock(series_->guard);
-    return series_->waiting == 0 && series_->step < series_->top ? series_->of(series_->step).name : QString();
+    return series_->waiting == 0 && series_->step < series_->top ? series_->of(series_->step).note.name : QString();
 }
 
 bool UndoStore::mayHaveChanged() const { return series_->everFailed || UndoStep() >= 2; }
 
-void UndoStore::save(const Bits& bits, const QString& name)
+void UndoStore::save(const Bits& bits, StepNote note)
 {
     if (bits.isNull()) return;
     {
         std::unique_lock lock(series_->guard);
         series_->written.wait(lock, [this] { return series_->waiting < 2; });
         ++series_->waiting;
-        series_->newest = name;
+        series_->noteSave(note);
     }
-    snapshotWriter().start([series = series_, picture = bits, name]() mutable {
+    snapshotWriter().start([series = series_, picture = bits, note = std::move(note)]() mutable {
         series->awaitReaders();
         const bool wanted = !series->abandoned;
         int count = 0;
@@ -249,13 +257,49 @@ void UndoStore::save(const Bits& bits, const QString& name)
         } catch (const std::exception&) { // no memory for a path
             count = series->hold(picture, std::min(series->step, kLimit - 1));
         }
-        if (count > 0) series->of(count - 1).name = std::move(name);
+        if (count > 0) series->of(count - 1).note = std::move(note);
         picture = Bits(); // before anybody is notified: then the next edit need not copy it
         const std::lock_guard lock(series->guard);
         if (wanted) series->step = series->top = count;
+        series->pending.pop_front();
+        if (wanted) series->noteStates();
         --series->waiting;
         series->written.notify_all();
     });
+}
+
+/// What could be redone is gone.
+void UndoStore::Series::noteSave(StepNote& note)
+{
+    const auto shown = std::ranges::find(log, current, &StepNote::number);
+    if (shown != log.end()) log.erase(shown + 1, log.end());
+    current = note.number = ++numbers;
+    log.push_back(note);
+    pending.push_back(note);
+}
+
+bool UndoStore::Series::isThere(const StepNote& note) const
+{
+    return std::ranges::count(standing, note.number) + std::ranges::count(pending, note.number, &StepNote::number) > 0;
+}
+
+/// Those that can't be gone to any more have no picture.
+void UndoStore::Series::noteStates()
+{
+    standing.clear();
+    for (int i = 0; i < top; ++i) standing.push_back(of(i).note.number);
+    for (StepNote& note : log)
+        if (!isThere(note)) note.small = Bits();
+}
+
+UndoStore::Listed UndoStore::listed() const
+{
+    const std::lock_guard lock(series_->guard);
+    Listed all;
+    all.notes = series_->log;
+    for (const StepNote& note : all.notes) all.stands.push_back(series_->isThere(note));
+    all.shown = static_cast<int>(std::ranges::find(all.notes, series_->current, &StepNote::number) - all.notes.begin());
+    return all;
 }
 
 bool UndoStore::stands() const
@@ -285,6 +329,7 @@ void UndoStore::stepBack()
 {
     const auto lock = series_->settled();
     if (series_->step > 1) --series_->step;
+    series_->noteShown();
 }
 
 std::optional<UndoStore::Found> UndoStore::Series::find(int shown, bool back)
@@ -303,10 +348,22 @@ std::function<std::optional<UndoStore::Found>()> UndoStore::stepLater(bool back)
     };
 }
 
+std::function<std::optional<UndoStore::Found>()> UndoStore::stateLater(int number) const
+{
+    return [series = series_, number]() -> std::optional<Found> {
+        const Reading reading(*series);
+        for (int i = 0; i < series->top; ++i)
+            if (series->of(i).note.number == number)
+                if (auto bits = series->pictureOf(i)) return Found{*bits, i + 1, false};
+        return {};
+    };
+}
+
 void UndoStore::moveTo(const Found& found)
 {
     const auto lock = series_->settled();
     series_->step = found.step;
+    series_->noteShown();
     series_->passedOver = found.passedOver;
 }
 

@@ -6,11 +6,12 @@
 // stays in memory as a normal step: the one on screen always, older ones as long as they leave as much memory free as
 // they take. Those dropped then are skipped.
 #pragma once
-#include "pixels/Bits.h"
+#include "document/undo/StepNote.h"
 #include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace velara {
 
@@ -42,7 +43,17 @@ class UndoStore {
     /// The picture becomes the next step, redo steps are dropped, and so is the oldest of a full series. name: of the
     /// change that led to it, for the user. Returns at once unless the snapshot before the last one is still being
     /// written.
-    void save(const Bits& bits, const QString& name = {});
+    void save(const Bits& bits, const QString& name = {}) { save(bits, StepNote{.name = name}); }
+    /// The same with all that is known of the change; its number is given here.
+    void save(const Bits& bits, StepNote note);
+    /// All that was done, oldest first, with what can be redone; the first is the state at the start. Only the last
+    /// ones are in the series, and have a small picture.
+    struct Listed {
+        std::vector<StepNote> notes;
+        std::vector<bool> stands; // of each: in the series, or still being written
+        int shown = -1;           // index of the one on screen
+    };
+    Listed listed() const;
     /// For another thread: waits until save() returns at once.
     std::function<void()> roomLater() const;
     /// Waits for the writing. True when the state shown is on disk, or none was ever saved.
@@ -62,6 +73,8 @@ class UndoStore {
     };
     /// Waits and reads. For another thread, as previousLater().
     std::function<std::optional<Found>()> stepLater(bool back) const;
+    /// The same of the state with this number; nothing where it isn't in the series any more.
+    std::function<std::optional<Found>()> stateLater(int number) const;
     /// What was found is shown now.
     void moveTo(const Found& found);
     /// Both in one.

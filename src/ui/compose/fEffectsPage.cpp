@@ -1,5 +1,6 @@
 #include "ui/compose/fEffectsPage.h"
 #include "commands/effects.h"
+#include "commands/recipe/stepText.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -212,7 +213,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) return applyFile(document);
     const Colour colour = frame_.setup().ForeColor;
     const int value = br_->value();
-    apply(document, text(effects()[std::size_t(Index - 1)].name),
+    apply(document, text(effects()[std::size_t(Index - 1)].name), effectText(Index, value, colour),
           [=](cBitFilter& filter) { velara::ApplyTexture(filter, Index, value, colour); });
 }
 
@@ -223,19 +224,20 @@ void fEffectsPage::applyFile(const DocumentHandle& document)
     readInBackground(frame_.platform(), this, path, [this, document, path](const LoadedPicture& read) {
         if (read.ok())
             return apply(document, tr("Texture"),
+                         callText("ApplyTexture", {kEmbossEffect, kUsualAmount, path.toStdString()}),
                          [texture = read.bits](cBitFilter& filter) { applyTexturePicture(filter, texture); });
         frame_.platform().tell(tr("%1 can't be used as a texture: %2").arg(path, read.reason), Icon::Exclamation);
     });
 }
 
-void fEffectsPage::apply(const DocumentHandle& document, const QString& what,
+void fEffectsPage::apply(const DocumentHandle& document, const QString& what, const QString& words,
                          const std::function<void(cBitFilter&)>& texture)
 {
     const Job job = [texture](Document& draft, cBitFilter& filter) {
         texture(filter);
         draft.setBits(filter.bits());
     };
-    frame_.workspace().change(document, {job, After::Step, what},
+    frame_.workspace().change(document, {job, After::Step, what, words},
                               [&frame = frame_, what](const Outcome& outcome) { frame.report(what, outcome); });
 }
 

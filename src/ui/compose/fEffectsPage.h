@@ -51,7 +51,8 @@ class fEffectsPage final : public QWidget {
     QWidget* makeFiles();
     void drawThumbnails();
     void applyFile(const DocumentHandle& document);
-    void apply(const DocumentHandle& document, const QString& what, const std::function<void(cBitFilter&)>& texture);
+    void apply(const DocumentHandle& document, const QString& what, const QString& words,
+               const std::function<void(cBitFilter&)>& texture);
     void flow();
 
     Frame& frame_;

@@ -1,6 +1,7 @@
 // fFilter: the dialog's behaviour. Its controls are made in fFilter_controls.cpp.
 #include "ui/filter/fFilter.h"
 #include "commands/jobs.h"
+#include "commands/recipe/stepText.h"
 #include "document/Draft.h"
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -140,10 +141,12 @@ void fFilter::accept()
     if (running_) return;
     if (detailRun_) detailRun_->stop();
     showRunning(true);
-    change_ = frame_.workspace().change(document_, {filterJob(row_, arguments()), After::Step, stepName_},
-                                        [alive = QPointer(this)](const Outcome& outcome) {
-                                            if (alive) alive->ended(outcome);
-                                        });
+    const FilterArgs args = arguments();
+    change_ = frame_.workspace().change(
+        document_, {filterJob(row_, args), After::Step, stepName_, callText(row_.operation, row_.arguments(args))},
+        [alive = QPointer(this)](const Outcome& outcome) {
+            if (alive) alive->ended(outcome);
+        });
 }
 
 void fFilter::ended(const Outcome& outcome)

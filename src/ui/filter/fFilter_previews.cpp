@@ -64,7 +64,9 @@ void fFilter::addDetail(QGridLayout* grid)
             if (chkPreview_->isChecked()) detail_->setBits(result);
         });
     };
-    detailRun_ = std::make_unique<DetailRun>(row_, picture_, document_->Region.working(), done);
+    detailRun_ = std::make_unique<DetailRun>(
+        [&row = row_](cBitFilter& filter, const FilterArgs& args) { return row.call(filter, args); }, picture_,
+        document_->Region.working(), done);
 }
 
 /// The detail starts at the centre of the filter's region.

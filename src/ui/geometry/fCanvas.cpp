@@ -1,4 +1,5 @@
 #include "ui/geometry/fCanvas.h"
+#include "commands/recipe/stepText.h"
 #include "document/resizing.h"
 #include "pixels/images.h"
 #include "pixels/numbers.h"
@@ -190,6 +191,11 @@ Job fCanvas::job() const
 {
     return [w = fields_->widthValue(), h = fields_->heightValue(), place = place_](
                Document& document, cBitFilter& filter) { resizeCanvas(document, filter, w, h, place.x(), place.y()); };
+}
+
+QString fCanvas::words() const
+{
+    return callText("CanvasSize", {fields_->widthValue(), fields_->heightValue(), place_.x(), place_.y()});
 }
 
 } // namespace velara

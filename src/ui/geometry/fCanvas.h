@@ -39,6 +39,7 @@ class fCanvas final : public fGeometry {
   public:
     fCanvas(Platform& platform, const Bits& picture, QWidget* parent = nullptr);
     Job job() const override;
+    QString words() const override;
 
   protected:
     bool valid() const override { return sizeAllowed(fields_->widthValue(), fields_->heightValue()); }

@@ -25,6 +25,8 @@ class fGeometry : public QDialog {
     fGeometry(const QString& name, const QString& title, Platform& platform, QWidget* parent);
     /// The job to run after OK.
     virtual Job job() const = 0;
+    /// What velara-batch would take for it; empty where that can't be said.
+    virtual QString words() const { return {}; }
 
   protected:
     /// Adds OK and Cancel below everything else; to be called last by a constructor.

@@ -1,4 +1,5 @@
 #include "ui/geometry/fOrientation.h"
+#include "commands/recipe/stepText.h"
 #include "document/resizing.h"
 #include "ui/widgets/fPicture.h"
 #include <QLabel>
@@ -43,6 +44,11 @@ Job fOrientation::job() const
 {
     return [turns = turns_->currentIndex(), v = vertical_->isChecked(), h = horizontal_->isChecked()](
                Document& document, cBitFilter& filter) { orientImage(document, filter, turns, v, h); };
+}
+
+QString fOrientation::words() const
+{
+    return callText("Orientation", {turns_->currentIndex(), vertical_->isChecked(), horizontal_->isChecked()});
 }
 
 } // namespace velara

@@ -9,6 +9,7 @@ class fOrientation final : public fGeometry {
   public:
     fOrientation(Platform& platform, const Bits& picture, QWidget* parent = nullptr);
     Job job() const override;
+    QString words() const override;
 
   private:
     Bits picture_; // scaled to the preview

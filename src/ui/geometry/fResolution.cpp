@@ -1,4 +1,5 @@
 #include "ui/geometry/fResolution.h"
+#include "commands/recipe/stepText.h"
 #include "document/resizing.h"
 #include <QLabel>
 #include <QRadioButton>
@@ -48,6 +49,12 @@ Job fResolution::job() const
     return [r, smooth = smooth_->isChecked()](Document& document, cBitFilter& filter) {
         resizeImage(document, filter, r.width, r.height, smooth);
     };
+}
+
+QString fResolution::words() const
+{
+    const Resolution& r = kResolutions[sizes_->checkedId()];
+    return resizeText(r.width, r.height, smooth_->isChecked());
 }
 
 } // namespace velara

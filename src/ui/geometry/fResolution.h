@@ -11,6 +11,7 @@ class fResolution final : public fGeometry {
     /// ofFile: the picture's own resolution as text; empty: unknown.
     explicit fResolution(Platform& platform, const QString& ofFile = {}, QWidget* parent = nullptr);
     Job job() const override;
+    QString words() const override;
 
   private:
     QButtonGroup* sizes_;

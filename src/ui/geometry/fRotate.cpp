@@ -1,4 +1,5 @@
 #include "ui/geometry/fRotate.h"
+#include "commands/recipe/stepText.h"
 #include "document/resizing.h"
 #include "ui/widgets/fPicture.h"
 #include <QIntValidator>
@@ -76,6 +77,8 @@ Job fRotate::job() const
         turnOnSquare(document, filter, degrees, smooth);
     };
 }
+
+QString fRotate::words() const { return callText("RotateImage", {degrees_->value(), smooth_->isChecked()}); }
 
 void fRotate::showPreview() { preview_->showWhole(tried(picture_, job())); }
 

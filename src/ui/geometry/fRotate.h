@@ -10,6 +10,7 @@ class fRotate final : public fGeometry {
   public:
     fRotate(Platform& platform, const Bits& picture, QWidget* parent = nullptr);
     Job job() const override;
+    QString words() const override;
 
   private:
     void turnBy(int degrees);

@@ -1,4 +1,5 @@
 #include "ui/geometry/fSize.h"
+#include "commands/recipe/stepText.h"
 #include "document/resizing.h"
 #include "pixels/mBitmap.h"
 #include "pixels/numbers.h"
@@ -82,6 +83,8 @@ Job fSize::job() const
     return [w = fields_->widthValue(), h = fields_->heightValue(), smooth = smooth_->isChecked()](
                Document& document, cBitFilter& filter) { resizeImage(document, filter, w, h, smooth); };
 }
+
+QString fSize::words() const { return resizeText(fields_->widthValue(), fields_->heightValue(), smooth_->isChecked()); }
 
 /// Shows the new shape as large as the box permits; the small copy itself is resized by the command.
 void fSize::showPreview()

@@ -11,6 +11,7 @@ class fSize final : public fGeometry {
   public:
     fSize(Platform& platform, const Bits& picture, QWidget* parent = nullptr);
     Job job() const override;
+    QString words() const override;
 
   protected:
     bool valid() const override { return sizeAllowed(fields_->widthValue(), fields_->heightValue()); }

@@ -1,4 +1,5 @@
 #include "ui/merge/fOverlay.h"
+#include "commands/recipe/stepText.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -233,6 +234,15 @@ Merging fOverlay::merging() const
             chkMaskColor_->isChecked() ? lblMaskColor_->colour() : -1};
 }
 
+/// Only a picture that is as its file has it can be named.
+QString fOverlay::words() const
+{
+    const DocumentHandle over = chosen();
+    if (!over || !over->file.isOwn() || over->commits() != 1) return {};
+    const Merging m = merging();
+    return callText("TileMask", {over->file.path.toStdString(), m.left, m.top, m.tiled, m.transparency, m.key});
+}
+
 void fOverlay::changed()
 {
     lblMaskColor_->setEnabled(chkMaskColor_->isChecked());
@@ -263,9 +273,10 @@ void fOverlay::accept()
     const Job job = [merging = merging()](Document& draft, cBitFilter& filter) {
         draft.setBits(merged(filter, merging));
     };
+    const QString words = this->words();
     const DocumentHandle onto = chkCreateNew_->isChecked() ? frame_.adopt(below_->bits(), below_->file.path)
                                                            : below_; // the copy becomes active
-    frame_.workspace().change(onto, {job, After::Step, tr("Image Merging")},
+    frame_.workspace().change(onto, {job, After::Step, tr("Image Merging"), words},
                               [alive = QPointer(this)](const Outcome& outcome) {
                                   if (alive) alive->ended(outcome);
                               });

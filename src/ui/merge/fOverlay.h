@@ -59,6 +59,7 @@ class fOverlay final : public QDialog {
     void showPreview();
     DocumentHandle chosen() const;
     Merging merging() const;
+    QString words() const;
 
     Frame& frame_;
     DocumentHandle below_;

@@ -1,4 +1,5 @@
 #include "ui/merge/fTexturize.h"
+#include "commands/recipe/stepText.h"
 #include "document/stockTextures.h"
 #include "fileio/nameOrder.h"
 #include "fileio/readInBackground.h"
@@ -149,6 +150,15 @@ QWidget* fTexturize::makeControls()
     connect(cbDepth_, &QComboBox::currentIndexChanged, this, &fTexturize::changed);
     connect(chkUseImage_, &QCheckBox::toggled, this, &fTexturize::changed);
     return box;
+}
+
+QString fTexturize::words() const
+{
+    const QListWidgetItem* item = flTextures_->currentItem();
+    const QString path = item ? item->data(Qt::UserRole).toString() : QString();
+    const bool own = texturing_.texture.isNull();
+    return callText("fTexturize",
+                    {own ? std::string("self") : path.toStdString(), texturing_.intensity, texturing_.engrave ? 1 : 0});
 }
 
 // --- Files

@@ -28,6 +28,8 @@ class fTexturize final : public QDialog {
 
     /// The settings after OK.
     const Texturing& texturing() const { return texturing_; }
+    /// What velara-batch would take for it.
+    QString words() const;
 
   private:
     QWidget* makeList();

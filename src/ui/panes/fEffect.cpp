@@ -51,7 +51,7 @@ void FEffect::apply()
         draft.setBits(filter.bits());
     };
     const QString what = text(effects()[std::size_t(index - 1)].name);
-    owner.workspace().change(document, {job, After::Step, what},
+    owner.workspace().change(document, {job, After::Step, what, effectText(index, amount, colour)},
                              [&owner, what](const Outcome& outcome) { owner.report(what, outcome); });
 }
 

@@ -2,7 +2,9 @@
 // computed. Afterwards each document shows its own picture and has its own steps, and no file is left over.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
+#include "commands/recipe/recipeJob.h"
 #include "commands/sizeWords.h"
+#include "document/Draft.h"
 #include "document/resizing.h"
 #include "seams/findRow.h"
 #include "support/files.h"
@@ -209,6 +211,25 @@ void expectOneFrame(Road& r)
     EXPECT_EQ(r.files().filter(".lock").size(), r.frame->documents().size());
 }
 
+/// The words of the last step do the same to the picture that it got.
+void expectWords(Road& r, const Bits& before)
+{
+    const UndoStore::Listed listed = r.own->document().undo.listed();
+    const StepNote& note = listed.notes.at(std::size_t(listed.shown));
+    const HistoryLines made = historyLines({&note, 1}, before.width(), before.height());
+    EXPECT_EQ(made.byHand, QStringList());
+    Document document({}, 0);
+    document.takePicture(before);
+    cBitFilter engine;
+    document.handTo(engine);
+    engine.setRandomSeed(1);
+    Draft draft(document, before, engine, After::Step);
+    const Outcome outcome = draft.attempt(recipeJob(Recipe::parse(recipeText(made.lines), {}).steps, r.platform));
+    EXPECT_TRUE(outcome) << outcome.reason.toStdString();
+    if (outcome) draft.take();
+    EXPECT_TRUE(sameBits(r.own->bits(), document.bits())) << made.lines.join('\n').toStdString();
+}
+
 /// The word with nothing in between, once and twice.
 struct Undisturbed {
     State once, twice;
@@ -223,6 +244,7 @@ Undisturbed undisturbed(Road& r, const CommandWord& word)
     result.once = Road::stateOf(r.own);
     expectOneFrame(r);
     expectState({r.second, {}}, Road::stateOf(r.other));
+    expectWords(r, isSizing(word.word) ? r.first : r.start);
     r.run(word);
     result.twice = Road::stateOf(r.own);
     r.end();
