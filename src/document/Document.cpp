@@ -47,6 +47,13 @@ void Document::moveTo(const UndoStore::Found& found)
     else
         bits_ = found.picture;
     Zoomed = false;
+    describe();
+}
+
+/// Unsaved is also what was undone to the first state: there are steps forward.
+DocumentFacts Document::facts() const
+{
+    return {file, PictureExists() && (waitingWork || file.isBrought || Changed), waitingTexts};
 }
 
 bool Document::step(bool back, cBitFilter& filter)

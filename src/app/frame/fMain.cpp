@@ -2,6 +2,7 @@
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
+#include "app/start/Recovery.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -59,6 +60,7 @@ fMain::fMain(Platform& platform, Setup& setup)
     clips_ = std::make_unique<Clips>(*this);
     capture_ = std::make_unique<Capture>(*this);
     makeBoxes();
+    makeRecovery();
     bars_->loadLastUsed();
     showColors();
     refreshUndoState();
@@ -69,6 +71,7 @@ fMain::~fMain()
 {
     closing_ = true;
     capture_.reset(); // restores the hidden windows
+    recovery_.reset();
     documents_->clear();
 }
 

@@ -6,8 +6,8 @@
 // Cut by topic: fMain.cpp (its parts, the start page, the buttons of undo), _commands (what each word does, options,
 // about), _files (open, save, close, recent, drop, clipboard), _road (what is shown of the workspace's changes),
 // _pixels (commands that change a picture, zoom, another view), _geometry (dialogs that make or reshape one, or lay
-// something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours), _close (the
-// frame's size and its end).
+// something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours),
+// _recovery (pictures that were left unsaved), _close (the frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
@@ -26,6 +26,7 @@ namespace velara {
 class Capture;
 class Clips;
 struct CommandWord;
+class Recovery;
 class fStartPage;
 struct SizeWord;
 struct Preset;
@@ -66,6 +67,7 @@ class fMain final : public QMainWindow, public Frame {
     // --- Utilities
     Clips& clips() { return *clips_; }
     Capture& capture() { return *capture_; }
+    Recovery& recovery() { return *recovery_; }
 
     // --- Files
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
@@ -164,6 +166,9 @@ class fMain final : public QMainWindow, public Frame {
     /// Reports failures in the status bar.
     void change(std::string_view word, const DocumentHandle& document, const Job& job, After after = After::Step);
     void bindWorkspace();
+    void makeRecovery();
+    void showRecovered(const DocumentHandle& document, const QString& trouble);
+    bool mergeWaitingTexts(const DocumentHandle& document);
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
@@ -211,6 +216,7 @@ class fMain final : public QMainWindow, public Frame {
     fStartPage* startPage_;
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
+    std::unique_ptr<Recovery> recovery_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
     QStringList gone_;     // missing files that no message has named yet

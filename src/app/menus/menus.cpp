@@ -21,6 +21,7 @@ constexpr MenuRow kMenus[] = {
         {SubMenu, "mnuRecent", 0, "Open &Recent"},
             {Items, "RF", 0, "", "@RECENT"},
         {End},
+        {Item, "mnuRecover", 0, "Reco&ver ...", "@RECOVER"},
         {Separator},
         {Item, "FILE", 4, "&Close", "CLOSE", "Ctrl+W"},
         {Separator},

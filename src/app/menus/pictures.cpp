@@ -14,6 +14,7 @@ struct PictureRow {
 // clang-format off
 constexpr PictureRow kPictures[] = {
     {"NEW", "document-new"}, {"OPEN", "document-open"}, {"@BROWSE", "document-open-folder"}, {"CLOSE", "document-close"},
+    {"@RECOVER", "document-revert"},
     {"SAVE", "document-save"}, {"SAVEAS", "document-save-as"}, {"IMAGESAVEOPTIONS", "document-export"},
     {"ACQUIRETWAIN", "document-scan"}, {"SELECTSOURCE", "configure"}, {"PRINTPREVIEW", "document-print-preview"},
     {"PRINTERSETUP", "document-properties"}, {"PRINT", "document-print"}, {"@EXIT", "application-exit"},

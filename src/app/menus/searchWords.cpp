@@ -11,6 +11,7 @@ constexpr WordHelp kHelp[] = {
     {"NEW",                 "", "blank empty create"},
     {"OPEN",                "", "load import file"},
     {"@BROWSE",             "", "thumbnails folder gallery"},
+    {"@RECOVER",            "Pictures that were not saved when the program ended", "crash unsaved restore lost"},
     {"SAVEAS",              "", "export rename convert format"},
     {"IMAGESAVEOPTIONS",    "", "export gif jpeg png small kilobytes compress quality"},
     {"ACQUIRETWAIN",        "", "scan paper"},
