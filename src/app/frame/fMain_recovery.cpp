@@ -14,10 +14,8 @@ void fMain::makeRecovery()
         showRecovered(document, trouble);
     };
     connect(recovery_.get(), &Recovery::changed, this, [this] { startPage_->showRecoverable(recovery_->offers()); });
-    connect(startPage_, &fStartPage::recoverableChosen, this, [this](int index) {
-        const auto& offers = recovery_->offers();
-        if (index >= 0 && index < int(offers.size())) recovery_->recover({offers[std::size_t(index)].leftover.get()});
-    });
+    connect(startPage_, &fStartPage::recoverableChosen, this,
+            [this](const Leftover* leftover) { recovery_->recover({leftover}); });
 }
 
 /// Its texts wait in their window again. Where that one has texts of another picture they wait in the document.

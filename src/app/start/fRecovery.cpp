@@ -87,7 +87,7 @@ void fRecovery::follow(const std::vector<Offer>& offers)
             addRow(offer);
             row = rows_.end() - 1;
         }
-        show(*row, offer);
+        fill(*row, offer);
     }
     closeIfEmpty();
 }
@@ -141,7 +141,7 @@ void fRecovery::addRow(const Offer& offer)
     fit();
 }
 
-void fRecovery::show(Row& row, const Offer& offer)
+void fRecovery::fill(Row& row, const Offer& offer)
 {
     const QSize size(kThumbnail, kThumbnail);
     const bool isBroken = offer.isRead && offer.thumbnail.isNull();

@@ -30,7 +30,7 @@ class fRecovery final : public QDialog {
         bool isPutOff = false;
     };
     void addRow(const Offer& offer);
-    void show(Row& row, const Offer& offer);
+    void fill(Row& row, const Offer& offer);
     void putOff(const Leftover* leftover);
     void closeIfEmpty();
     std::vector<const Leftover*> left() const;

@@ -1,6 +1,5 @@
 #include "app/start/fStartPage.h"
 #include "app/menus/fIcons.h"
-#include "app/start/Recovery.h"
 #include "fileio/disk/nativeName.h"
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
@@ -13,6 +12,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -133,9 +133,12 @@ QWidget* fStartPage::makeRecovery()
     heading->setBuddy(recoverable_);
     setUp(*recoverable_);
     recoverable_->setFixedHeight(recoverable_->gridSize().height() + 4);
-    const auto choose = [this](const QListWidgetItem* item) { emit recoverableChosen(recoverable_->row(item)); };
-    connect(recoverable_, &QListWidget::itemClicked, this, choose, Qt::QueuedConnection);
-    connect(recoverable_, &QListWidget::itemActivated, this, choose, Qt::QueuedConnection);
+    const auto choose = [this](const QListWidgetItem* item) { // the list changes by it
+        const auto* leftover = static_cast<const Leftover*>(item->data(kIndex).value<const void*>());
+        QTimer::singleShot(0, this, [this, leftover] { emit recoverableChosen(leftover); });
+    };
+    connect(recoverable_, &QListWidget::itemClicked, this, choose);
+    connect(recoverable_, &QListWidget::itemActivated, this, choose);
     auto* line = new QHBoxLayout;
     line->addWidget(heading);
     line->addWidget(more);
@@ -156,6 +159,7 @@ void fStartPage::showRecoverable(const std::vector<Offer>& offers)
         auto* item = new QListWidgetItem(isBroken ? QIcon::fromTheme("image-missing")
                                                   : thumbnailIcon(offer.thumbnail, {kSide, kSide}),
                                          offer.name, recoverable_);
+        item->setData(kIndex, QVariant::fromValue<const void*>(offer.leftover.get()));
         item->setToolTip(QStringList({offer.path, offer.facts, offer.trouble}).join('\n').trimmed());
     }
     recovery_->setVisible(!offers.empty());

@@ -1,6 +1,7 @@
 // fStartPage: shown in the documents' area while there is none: ways to start, the pictures that can be recovered, and
 // the recent ones.
 #pragma once
+#include "app/start/Recovery.h"
 #include "seams/Previews.h"
 #include <QWidget>
 #include <array>
@@ -12,7 +13,6 @@ class QListWidget;
 
 namespace velara {
 
-struct Offer;
 class Platform;
 
 class fStartPage final : public QWidget {
@@ -32,7 +32,7 @@ class fStartPage final : public QWidget {
   signals:
     void commandChosen(const QString& word);
     void recentChosen(int index);
-    void recoverableChosen(int index);
+    void recoverableChosen(const Leftover* leftover);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

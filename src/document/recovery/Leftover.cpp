@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <ranges>
 #include <set>
 
 namespace velara {
@@ -61,7 +62,7 @@ bool Leftover::hasWork()
 }
 
 /// The program may have died while its series was moved down by one, so files are known by their identities; copies of
-/// the folder have others, and then the index counts.
+/// the folder have others, and then the index counts. A file behind that of a later state was taken for a newer one.
 void Leftover::locate()
 {
     std::vector<std::uint64_t> identities;
@@ -71,6 +72,11 @@ void Leftover::locate()
         return state.file == 0 || file == identities.end() ? -1 : int(file - identities.begin());
     };
     for (const KeptState& state : record_.states) at_.push_back(indexOf(state));
+    int later = UndoStore::kLimit + 1;
+    for (int& at : at_ | std::views::reverse) {
+        if (at >= later) at = -1;
+        if (at >= 0) later = at;
+    }
     if (std::ranges::any_of(at_, [](int at) { return at >= 0; })) return;
     for (std::size_t i = 0; i < at_.size(); ++i)
         if (record_.states[i].file != 0 && identities[i] != 0) at_[i] = int(i);

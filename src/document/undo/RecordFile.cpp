@@ -36,16 +36,6 @@ bool sync(const QString& path, int flags = 0)
 /// The thread that syncs. At the end of the program it leaves what is left to the system.
 class Settler {
   public:
-    ~Settler()
-    {
-        {
-            const std::lock_guard lock(guard_);
-            ends_ = true;
-        }
-        changed_.notify_all();
-        if (thread_.joinable()) thread_.join();
-    }
-
     void add(const UndoFiles& files, const std::shared_ptr<RecordFile::Written>& written)
     {
         const std::lock_guard lock(guard_);
@@ -54,8 +44,9 @@ class Settler {
         const auto same = [&](const Item& item) { return item.written.lock() == written; };
         if (std::ranges::none_of(waiting_, same)) waiting_.push_back({files, written});
         try {
-            if (!thread_.joinable()) thread_ = std::thread(&Settler::run, this);
+            if (!std::exchange(runs_, true)) std::thread(&Settler::run, this).detach();
         } catch (const std::system_error&) { // the system writes it some time
+            runs_ = false;
         }
         changed_.notify_all();
     }
@@ -70,13 +61,11 @@ class Settler {
     {
         std::unique_lock lock(guard_);
         for (;;) {
-            changed_.wait(lock, [this] { return ends_ || !waiting_.empty(); });
-            while (!ends_ && Clock::now() < due()) changed_.wait_until(lock, due());
-            if (ends_) return;
+            changed_.wait(lock, [this] { return !waiting_.empty(); });
+            while (Clock::now() < due()) changed_.wait_until(lock, due());
             const std::vector<Item> items = std::exchange(waiting_, {});
             lock.unlock();
-            for (const Item& item : items)
-                if (!ends_) settle(item);
+            for (const Item& item : items) settle(item);
             lock.lock();
         }
     }
@@ -97,13 +86,13 @@ class Settler {
     std::condition_variable changed_;
     std::vector<Item> waiting_;
     Clock::time_point first_, last_;
-    std::atomic<bool> ends_{false};
-    std::thread thread_;
+    bool runs_ = false;
 };
 
+/// Never destroyed: snapshots may still be written while the program ends.
 Settler& settler()
 {
-    static Settler settler;
+    static auto& settler = *new Settler;
     return settler;
 }
 

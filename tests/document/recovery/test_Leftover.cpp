@@ -148,7 +148,7 @@ struct RecoveryTest : FolderTest {
             _exit(1);
         }
         while (!QFile::exists(path("diary"))) usleep(500);
-        usleep(useconds_t(random() % 150000));
+        usleep(useconds_t(random() % 100000));
         kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
@@ -241,7 +241,8 @@ TEST_F(RecoveryTest, WhateverWasWrittenBeforeAKillIsThereAfterwards)
             if (!diesAgain || round % 3 != 0) break;
         }
         find(); // those that had nothing unsaved
-        EXPECT_TRUE(left().isEmpty()) << left().join(' ').toStdString();
+        const QStringList files = left().filter("b0");
+        EXPECT_TRUE(files.isEmpty()) << files.join(' ').toStdString();
     }
     std::printf("%d kills, %d documents recovered with %d states\n", kills, documents, shownSteps);
     EXPECT_GT(documents, kills / 2);
@@ -393,6 +394,11 @@ TEST_F(LeftSeries, WhatCanBeHadIsOfferedAndTheRestIsTold)
 TEST_F(LeftSeries, IsOpenedAsItWasWithItsSteps)
 {
     leave();
+    {
+        int next = 3;
+        const UndoStore other(temp, [&] { return next++; });
+        EXPECT_EQ(other.number(), 4) << "it does not write over the work of the dead one";
+    }
     QFile::remove(file("b000301.dat"));
     RecordingFrame frame;
     Workspace workspace(temp, frame.platform_);
