@@ -103,6 +103,7 @@ DocumentHandle Workspace::recovered(Leftover& leftover, const Bits& picture)
     auto document = std::make_shared<Document>(leftover.inherit());
     const DocumentHandle handle = take(document);
     document->file = about.file;
+    document->file.path.clear(); // it isn't a namesake of itself
     name(*document, about.file.path);
     if (about.file.mark != 0 && document->file.mark == 0) document->file.mark = ++clashes_;
     document->takePicture(picture);

@@ -19,7 +19,7 @@ begin() {
 }
 
 # What was not saved is offered, and opened as it was or would have been; without that all files go.
-work_left() { ls "$folder"/Temp/b*.dat; }
+work_left() { [ -n "$(find "$folder/Temp" -name 'b*.dat')" ]; }
 offered() { main=$(frame) && [ -n "$main" ] && { has_keys '^Recover Pictures$' || ! work_left; }; }
 ended() { gone || { box_has_keys && keys alt+n; false; }; } # it asks about what is not saved
 recover() {

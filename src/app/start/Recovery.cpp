@@ -22,22 +22,24 @@ Offer offerOf(std::shared_ptr<Leftover> leftover)
 {
     const QDateTime when = QDateTime::fromMSecsSinceEpoch(leftover->when());
     const FileFacts& file = leftover->about().file;
-    QStringList facts{Recovery::tr("Changed on %1").arg(QLocale().toString(when, QLocale::ShortFormat)),
-                      leftover->states() == 1 ? Recovery::tr("1 state")
-                                              : Recovery::tr("%1 states").arg(leftover->states())};
+    QStringList facts{Recovery::tr("Changed on %1").arg(QLocale().toString(when, QLocale::ShortFormat))};
+    const int steps = leftover->states() - 1;
+    if (steps > 0) facts << (steps == 1 ? Recovery::tr("1 step") : Recovery::tr("%1 steps").arg(steps));
     if (!leftover->about().texts.empty()) facts << Recovery::tr("texts that are not merged yet");
     Offer offer{leftover, printable(file.caption()), {}, facts.join(QStringLiteral(", ")), leftover->trouble(), {}};
     if (file.path.contains(u'/')) offer.path = printable(file.path);
     return offer;
 }
 
+/// Opaque, whatever the fourth bytes are.
 QImage thumbnailOf(const Bits& bits)
 {
     const QSize side(Recovery::kSide, Recovery::kSide);
     const QImage picture = imageOver(bits);
-    if (picture.isNull() || (picture.width() <= side.width() && picture.height() <= side.height()))
-        return picture.copy();
-    return picture.scaled(side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    if (picture.isNull()) return {};
+    const bool isSmall = picture.width() <= side.width() && picture.height() <= side.height();
+    return (isSmall ? picture : picture.scaled(side, Qt::KeepAspectRatio, Qt::SmoothTransformation))
+        .convertToFormat(QImage::Format_RGB888);
 }
 
 } // namespace

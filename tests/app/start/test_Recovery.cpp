@@ -47,7 +47,7 @@ TEST_F(RecoveryFrame, OffersEachAndAllWithThumbnailsNamesAndTimes)
     EXPECT_EQ(page()->count(), 3);
     EXPECT_TRUE(page()->isVisible());
     EXPECT_EQ(controlOf<QLabel>(*dialog(), "lblName_0")->text(), "picture 6.bmp") << "the last one first";
-    EXPECT_TRUE(controlOf<QLabel>(*dialog(), "lblFacts_0")->text().endsWith(", 3 states"));
+    EXPECT_TRUE(controlOf<QLabel>(*dialog(), "lblFacts_0")->text().endsWith(", 2 steps"));
     EXPECT_FALSE(controlOf<QLabel>(*dialog(), "lblPicture_0")->pixmap().isNull());
     EXPECT_EQ(frame->recovery().offers()[0].thumbnail.size(), QSize(36, 20));
 

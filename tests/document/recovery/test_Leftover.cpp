@@ -53,7 +53,7 @@ struct Model {
 
 // --- The program that is killed
 
-constexpr char kFolder[] = "VELARA_KILLED_IN", kDiary[] = "VELARA_KILLED_DIARY";
+constexpr char kFolder[] = "VELARA_KILLED_IN", kDiary[] = "VELARA_KILLED_DIARY", kSeed[] = "VELARA_KILLED_SEED";
 
 /// Each action is noted before it begins, and "done" once it is on the disk.
 struct Diary {
@@ -70,7 +70,7 @@ struct Worker {
     RecordingFrame frame; // events, and a reader
     QString folder = qEnvironmentVariable(kFolder);
     Workspace workspace{folder + "/Temp", frame.platform_};
-    std::mt19937 random{unsigned(seedOf(1))};
+    std::mt19937 random{unsigned(qEnvironmentVariableIntValue(kSeed))};
     Diary diary;
     std::vector<DocumentHandle> documents{3};
     std::vector<int> keys{0, 0, 0};
@@ -138,7 +138,7 @@ struct RecoveryTest : FolderTest {
         QFile::remove(path("diary"));
         qputenv(kFolder, folder.path().toUtf8());
         qputenv(kDiary, path("diary").toUtf8());
-        qputenv("VELARA_SEED", QByteArray::number(qulonglong(random())));
+        qputenv(kSeed, QByteArray::number(int(random() >> 1)));
         const pid_t child = fork();
         if (child == 0) {
             const int nowhere = open("/dev/null", O_WRONLY);
