@@ -101,6 +101,7 @@ void Leftover::guess()
 
 int Leftover::states() const
 {
+    const std::lock_guard lock(reading_);
     return int(std::ranges::count_if(at_, [](int at) { return at >= 0; }));
 }
 
@@ -136,6 +137,7 @@ Bits Leftover::read()
 
 QString Leftover::trouble() const
 {
+    const std::lock_guard lock(reading_);
     if (nothing_) return text("Its pictures can't be read.");
     QStringList troubles;
     if (state_ == RecordState::Newer)

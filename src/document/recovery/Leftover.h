@@ -23,8 +23,7 @@ class Leftover {
     /// The last state that can be read, at or before the one shown; else the next after it. Null when there is none.
     /// Also null after inherit() and discard(). Any thread.
     Bits read();
-    /// What can't be had again, for the user, as far as known: more after read(). Empty: nothing. Not while another
-    /// thread reads.
+    /// What can't be had again, for the user, as far as known: more after read(). Empty: nothing. Any thread.
     QString trouble() const;
 
     /// For the new document, after read() has found a picture. Its files are put in order: renamed, not copied.
@@ -39,7 +38,7 @@ class Leftover {
     void guess();
     bool isReadable(int state, Bits& bits) const;
 
-    std::mutex reading_;
+    mutable std::mutex reading_;
     bool isGone_ = false; // inherited or discarded
     UndoFiles files_;
     UndoMark mark_;
