@@ -2,6 +2,7 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/fMenuStyle.h"
 #include "app/settings/pictureSettings.h"
+#include "app/start/Recovery.h"
 #include "app/start/defaultPictures.h"
 #include "app/start/fSplash.h"
 #include "document/undo/UndoMark.h"
@@ -166,6 +167,7 @@ void Startup::showFrame()
 {
     frame_->show();
     frame_->boxes().showAll();
+    frame_->recovery().look();
     delete splash_;
 }
 

@@ -162,6 +162,7 @@ inline constexpr CommandWord kCommandWords[] = {
 
     // The frame's own
     {"@BROWSE",              Stage::Free,       WordKind::Window},
+    {"@RECOVER",             Stage::Free,       WordKind::Window},
     {"@CAPTURE",             Stage::Free,       WordKind::Window},
     {"@ICON",                Stage::Free,       WordKind::Window},
     {"@NEXTPAGE",            Stage::NeedsImage, WordKind::Window},

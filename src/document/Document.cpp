@@ -37,6 +37,7 @@ void Document::SaveUndoBits(StepNote note)
     note.small = smallCopy(bits_);
     note.width = bits_.width();
     note.height = bits_.height();
+    undo.willDescribe(facts());
     undo.save(bits_, std::move(note));
 }
 
@@ -56,6 +57,13 @@ void Document::moveTo(const UndoStore::Found& found)
     else
         bits_ = found.picture;
     Zoomed = false;
+    describe();
+}
+
+/// Unsaved is also what was undone to the first state: there are steps forward.
+DocumentFacts Document::facts() const
+{
+    return {file, PictureExists() && (waitingWork || file.isBrought || Changed), waitingTexts};
 }
 
 bool Document::step(bool back, cBitFilter& filter)

@@ -17,6 +17,8 @@ class Document {
   public:
     /// number: an int, or a callable that returns candidates until one is free, as for UndoStore.
     template <class Number> Document(const QString& tempFolder, Number number) : undo(tempFolder, number) {}
+    /// Of a dead program; the picture is to be given.
+    explicit Document(UndoStore::Inherited inherited) : undo(std::move(inherited)) {}
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
@@ -47,6 +49,8 @@ class Document {
     void SaveUndoBits(const QString& name = {}) { SaveUndoBits(StepNote{.name = name}); }
     /// The same with all that is known of the change; the small picture is made here.
     void SaveUndoBits(StepNote note);
+    /// For whoever changes what a record of recovery says without a snapshot or a step: names, marks, waiting texts.
+    void describe() { undo.describe(facts()); }
     /// The end of a change: a snapshot, the changed mark, and a run of sizing words is over.
     void commit(const QString& name = {}) { commit(StepNote{.name = name}); }
     void commit(StepNote note);
@@ -87,8 +91,10 @@ class Document {
     /// Set while a window holds work on this picture that is not in it yet, such as texts. Puts it in; false when that
     /// failed, and then the window still has it.
     std::function<bool()> waitingWork;
+    Layers::State waitingTexts; // of a window that holds them, or of one that was lost with a dead program
 
   private:
+    DocumentFacts facts() const;
     bool step(bool back, cBitFilter& filter);
 
     Bits bits_;

@@ -62,16 +62,27 @@ Workspace::Place* Workspace::placeOf(const DocumentHandle& document) const
 DocumentHandle Workspace::add(const Bits& picture, const FileFacts& file, Arrival arrival)
 {
     auto document = std::make_shared<Document>(folder_, [this] { return nextNumber_++; });
-    const DocumentHandle handle = document->handle();
-    document->undo.onFailure([this, handle](const QString& reason) { // called on the writing thread
-        later([this, handle, reason] { emit stepLost(handle, reason); });
-    });
+    const DocumentHandle handle = take(document);
     document->file = file;
     document->file.isFile = arrival == Arrival::File;
     document->file.isBrought = arrival == Arrival::Brought;
     name(*document, file.path);
     if (!picture.isNull()) document->takePicture(picture);
     document->SaveUndoBits();
+    return handle;
+}
+
+/// What the writing thread says of it comes as a signal.
+DocumentHandle Workspace::take(std::shared_ptr<Document> document)
+{
+    const DocumentHandle handle = document->handle();
+    const auto telling = [this, handle](auto signal) {
+        return [this, handle, signal](const QString& reason) {
+            later([this, handle, reason, signal] { emit(this->*signal)(handle, reason); });
+        };
+    };
+    document->undo.onFailure(telling(&Workspace::stepLost));
+    document->undo.onUnrecorded(telling(&Workspace::unrecorded));
     places_.push_back(std::make_unique<Place>());
     places_.back()->document = std::move(document);
     return handle;

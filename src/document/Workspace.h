@@ -28,6 +28,7 @@
 
 namespace velara {
 
+class Leftover;
 class PictureReader;
 
 /// What happens with a file that no reader can read.
@@ -58,6 +59,8 @@ class Workspace final : public QObject {
     /// folder: for the undo series, made if its parent exists; empty: no steps are kept. reader is asked from
     /// another thread.
     Workspace(QString folder, PictureReader& reader, QObject* parent = nullptr);
+    /// Where the undo series are.
+    const QString& folder() const { return folder_; }
     /// Cancels what is under way, finishes what is being written, and calls nobody back.
     ~Workspace() override;
 
@@ -72,6 +75,8 @@ class Workspace final : public QObject {
     {
         return add(picture, FileFacts{.path = path}, arrival);
     }
+    /// Opens what a dead program left, as changed, with its steps; reads it in its turn with the files.
+    void recover(std::shared_ptr<Leftover> leftover, std::function<void(const Opened& opened)> then);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
     /// Its handles become null, its undo files are removed, and its changes end as Gone.
@@ -141,6 +146,8 @@ class Workspace final : public QObject {
     void progress(const DocumentHandle& document, int percent);
     /// The state before a change can't be kept; the reason is for the user.
     void stepLost(const DocumentHandle& document, const QString& reason);
+    /// From now on its unsaved work could not be recovered after a crash; the reason is for the user.
+    void unrecorded(const DocumentHandle& document, const QString& reason);
 
   private:
     struct Run;
@@ -156,7 +163,9 @@ class Workspace final : public QObject {
     void finished(std::shared_ptr<Run> run, Outcome outcome);
     template <class Meant> bool end(Place& place, Meant meant);
     DocumentHandle add(const Bits& picture, const FileFacts& file, Arrival arrival);
+    DocumentHandle take(std::shared_ptr<Document> document);
     void name(Document& document, const QString& path);
+    DocumentHandle recovered(Leftover& leftover, const Bits& picture);
     void readNext();
     void opened(FileRead& opening);
     void saved(const DocumentHandle& document, const QString& path, int commits);

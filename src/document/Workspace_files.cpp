@@ -1,6 +1,7 @@
-// Opening and saving: files are read and written by threads, one after the other.
+// Opening, recovering and saving: files are read and written by threads, one after the other.
 #include "document/Workspace.h"
 #include "document/WorkspacePlaces.h"
+#include "document/recovery/Leftover.h"
 #include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
@@ -90,6 +91,34 @@ bool Workspace::cancelOpening()
     return true;
 }
 
+void Workspace::recover(std::shared_ptr<Leftover> leftover, std::function<void(const Opened&)> then)
+{
+    reading_.start([this, leftover = std::move(leftover), then = std::move(then)] {
+        const Bits picture = leftover->read();
+        later([this, leftover, picture, trouble = leftover->trouble(), then] {
+            if (picture.isNull()) return then({Opened::Refused, {}, trouble});
+            then({Opened::Open, recovered(*leftover, picture), trouble});
+        });
+    });
+}
+
+/// A second document of a file stays one, although the first may not be open: SAVE mustn't replace that one's file.
+DocumentHandle Workspace::recovered(Leftover& leftover, const Bits& picture)
+{
+    DocumentFacts about = leftover.about();
+    auto document = std::make_shared<Document>(leftover.inherit());
+    const DocumentHandle handle = take(document);
+    document->file = about.file;
+    document->file.path.clear(); // it isn't a namesake of itself
+    name(*document, about.file.path);
+    if (about.file.mark != 0 && document->file.mark == 0) document->file.mark = ++clashes_;
+    document->takePicture(picture);
+    document->Changed = true;
+    document->waitingTexts = std::move(about.texts);
+    document->describe();
+    return handle;
+}
+
 void Workspace::save(const DocumentHandle& document, const QString& path, std::function<void(const SaveReport&)> then)
 {
     Place* place = placeOf(document);
@@ -128,6 +157,7 @@ void Workspace::saved(const DocumentHandle& document, const QString& path, int c
     file.page = file.pages = 1;
     file.format = QString::fromLatin1(usualExtension(extensionOf(path).toStdString())); // pnm: the colours decide
     if (isRenamed) name(*document, path);
+    document->describe();
     emit renamed(document);
 }
 

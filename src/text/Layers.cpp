@@ -161,6 +161,7 @@ void Layers::restore(const State& state)
 {
     std::erase_if(layers_, [&](const auto& each) { return !state.contains(each.first); });
     for (const auto& [index, kept] : state) {
+        next_ = std::max(next_, index + 1);
         Entry& entry = layers_[index];
         if (!entry.lines.empty() && kept == Kept{entry.layer, entry.sized}) continue;
         entry.layer = kept.layer;

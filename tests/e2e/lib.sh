@@ -78,10 +78,13 @@ documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
 
 # Whether the frame has the focus; unlike the splash picture it stays open.
 started() { main=$(frame) && [ -n "$main" ] && settled && frame_has_keys && [ "$(titled)" = "$main" ]; }
-start() {
+launch() {
     (cd "$folder" && exec ./velara-studio) >"$scratch/log" 2>&1 &
     editor=$!
     pids="$pids $editor"
+}
+start() {
+    launch
     until_true "the frame" started
 }
 

@@ -2,6 +2,7 @@
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
+#include "app/start/Recovery.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -65,6 +66,7 @@ fMain::fMain(Platform& platform, Setup& setup)
     makeBoxes();
     auto* recipes = findChild<QMenu*>("mnuRecipes");
     connect(recipes, &QMenu::aboutToShow, this, [this, recipes] { recipes_->list(*recipes); });
+    makeRecovery();
     bars_->loadLastUsed();
     chooseScreenColours();
     showColors();
@@ -76,6 +78,7 @@ fMain::~fMain()
 {
     closing_ = true;
     capture_.reset(); // restores the hidden windows
+    recovery_.reset();
     documents_->clear();
 }
 

@@ -7,8 +7,8 @@
 // about), _files (open, save, close, recent, drop, clipboard), _pages (files of several pages, and of another kind than
 // their names say), _road (what is shown of the workspace's changes),
 // _pixels (commands that change a picture, zoom, another view), _geometry (dialogs that make or reshape one, or lay
-// something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours), _close (the
-// frame's size and its end).
+// something over it), _export (fewer colours, the web), _bars (bars, boxes, side pane, tools, colours),
+// _recovery (pictures that were left unsaved), _close (the frame's size and its end).
 #pragma once
 #include "app/documents/Documents.h"
 #include "app/menus/Bars.h"
@@ -29,6 +29,7 @@ class Clips;
 class Recipes;
 class fHistory;
 struct CommandWord;
+class Recovery;
 class fStartPage;
 struct SizeWord;
 struct Preset;
@@ -71,6 +72,7 @@ class fMain final : public QMainWindow, public Frame {
     Clips& clips() { return *clips_; }
     Capture& capture() { return *capture_; }
     Recipes& recipes() { return *recipes_; }
+    Recovery& recovery() { return *recovery_; }
 
     // --- Files
     /// Opens a picture file as OPEN does after its dialog: recent list, OpenZoom, folder kept.
@@ -175,6 +177,9 @@ class fMain final : public QMainWindow, public Frame {
     void change(std::string_view word, const DocumentHandle& document, const Job& job, const QString& words,
                 After after = After::Step);
     void bindWorkspace();
+    void makeRecovery();
+    void showRecovered(const DocumentHandle& document, const QString& trouble);
+    bool mergeWaitingTexts(const DocumentHandle& document);
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();
@@ -231,6 +236,7 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Bars> bars_;
     std::unique_ptr<Boxes> boxes_;
     std::unique_ptr<ScreenColours> screenColours_; // where pictures are shown by the screens' profiles
+    std::unique_ptr<Recovery> recovery_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
     QStringList gone_;       // missing files that no message has named yet

@@ -7,6 +7,7 @@
 #include "app/menus/menus.h"
 #include "app/settings/fPreferences.h"
 #include "app/settings/pictureSettings.h"
+#include "app/start/Recovery.h"
 #include "app/start/fSplash.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
@@ -109,6 +110,7 @@ struct fMain::Commands {
         {"@BROWSE",              browsePictures},
         {"@NEXTPAGE",            [](fMain& f) { f.openPage(1); }},
         {"@PREVIOUSPAGE",        [](fMain& f) { f.openPage(-1); }},
+        {"@RECOVER",             [](fMain& f) { f.recovery().show(); }},
         {"@ASSOCIATION",         showAssociation},
         {"@CAPTURE",             [](fMain& f) { f.capture().showDialog(); }},
         {"@ICON",                extractIcons},

@@ -352,6 +352,7 @@ void fMain::copyToNew()
     copy->file.camera = from->file.camera;
     copy->file.kept = from->file.kept;
     copy->file.properties = from->file.properties;
+    copy->describe();
     if (selection.isEmpty()) return;
     copy->Region.setRegion(selection);
     workspace_.handOver(*copy);

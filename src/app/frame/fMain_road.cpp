@@ -30,6 +30,9 @@ void fMain::bindWorkspace()
     });
     connect(&workspace_, &Workspace::reading, this, &fMain::showReading);
     connect(&workspace_, &Workspace::renamed, this, &fMain::showName);
+    connect(&workspace_, &Workspace::unrecorded, this, [this](const DocumentHandle&, const QString& reason) {
+        status_->say(tr("After a crash this picture could not be recovered: %1.").arg(reason));
+    });
     connect(&workspace_, &Workspace::stepLost, this, [this](const DocumentHandle&, const QString& reason) {
         status_->say(tr("This step can't be undone: %1.").arg(reason)); // known only some time after the change
         refreshUndoState();

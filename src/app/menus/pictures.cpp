@@ -18,6 +18,7 @@ constexpr PictureRow kPictures[] = {
     {"SAVE", "document-save"}, {"SAVEAS", "document-save-as"}, {"@SAVEALL", "document-save-all"},
     {"@RUNRECIPE", "media-playback-start"}, {"@SAVERECIPE", "document-save"},
     {"@RUNONFOLDER", "folder-pictures"}, {"IMAGESAVEOPTIONS", "document-export"},
+    {"@RECOVER", "document-revert"},
     {"ACQUIRETWAIN", "document-scan"}, {"SELECTSOURCE", "configure"}, {"PRINTPREVIEW", "document-print-preview"},
     {"PRINTERSETUP", "document-properties"}, {"PRINT", "document-print"}, {"@EXIT", "application-exit"},
     {"UNDO", "edit-undo"}, {"REDO", "edit-redo"}, {"CUT", "edit-cut"}, {"COPY", "edit-copy"}, {"PASTE", "edit-paste"},

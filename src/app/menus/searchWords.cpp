@@ -13,6 +13,7 @@ constexpr WordHelp kHelp[] = {
     {"@BROWSE",             "", "thumbnails folder gallery"},
     {"@NEXTPAGE",           "The next page or frame of the file, in a window of its own", "tiff gif animation icon"},
     {"@PREVIOUSPAGE",       "The page or frame of the file before this one", "tiff gif animation icon"},
+    {"@RECOVER",            "Pictures that were not saved when the program ended", "crash unsaved restore lost"},
     {"SAVEAS",              "", "export rename convert format"},
     {"@SAVEALL",            "Writes every changed picture to its own file", "every open"},
     {"@RUNRECIPE",          "Does the steps of a recipe to this picture, as one", "macro action script batch replay"},

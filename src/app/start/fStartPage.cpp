@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -52,6 +53,7 @@ fStartPage::fStartPage(Platform& platform, QWidget* parent)
     column->addWidget(makeButtons());
     column->addWidget(drop);
     column->addSpacing(6);
+    column->addWidget(makeRecovery());
     column->addWidget(heading_);
     column->addWidget(list_, 1);
     column->addStretch();
@@ -105,21 +107,70 @@ QWidget* fStartPage::makeButtons()
     return box;
 }
 
+void fStartPage::setUp(QListWidget& list)
+{
+    list.setViewMode(QListView::IconMode);
+    list.setResizeMode(QListView::Adjust);
+    list.setMovement(QListView::Static);
+    list.setIconSize({kSide, kSide});
+    list.setGridSize({kSide + 20, kSide + 2 * fontMetrics().height()});
+    list.setTextElideMode(Qt::ElideMiddle);
+    list.setUniformItemSizes(true);
+    list.setFrameShape(QFrame::NoFrame);
+    QPalette colours = list.palette();
+    colours.setColor(QPalette::Base, Qt::transparent);
+    list.setPalette(colours);
+}
+
+/// One row of them; the dialog has all that can be done.
+QWidget* fStartPage::makeRecovery()
+{
+    recovery_ = named(new QWidget, "recovery");
+    auto* heading = new QLabel(tr("Not saved when the program ended"));
+    auto* more = named(new QPushButton(tr("&Recover ...")), "cmdStartRecover", tr("Recover"));
+    connect(more, &QPushButton::clicked, this, [this] { emit commandChosen(QStringLiteral("@RECOVER")); });
+    recoverable_ = named(new QListWidget, "lstRecoverable", heading->text());
+    heading->setBuddy(recoverable_);
+    setUp(*recoverable_);
+    recoverable_->setFixedHeight(recoverable_->gridSize().height() + 4);
+    const auto choose = [this](const QListWidgetItem* item) { // the list changes by it
+        const auto* leftover = static_cast<const Leftover*>(item->data(kIndex).value<const void*>());
+        QTimer::singleShot(0, this, [this, leftover] { emit recoverableChosen(leftover); });
+    };
+    connect(recoverable_, &QListWidget::itemClicked, this, choose);
+    connect(recoverable_, &QListWidget::itemActivated, this, choose);
+    auto* line = new QHBoxLayout;
+    line->addWidget(heading);
+    line->addWidget(more);
+    line->addStretch();
+    auto* column = new QVBoxLayout(recovery_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addLayout(line);
+    column->addWidget(recoverable_);
+    recovery_->hide();
+    return recovery_;
+}
+
+void fStartPage::showRecoverable(const std::vector<Offer>& offers)
+{
+    recoverable_->clear();
+    for (const Offer& offer : offers) {
+        const bool isBroken = offer.isRead && offer.thumbnail.isNull();
+        auto* item = new QListWidgetItem(isBroken ? QIcon::fromTheme("image-missing")
+                                                  : thumbnailIcon(offer.thumbnail, {kSide, kSide}),
+                                         offer.name, recoverable_);
+        item->setData(kIndex, QVariant::fromValue<const void*>(offer.leftover.get()));
+        item->setToolTip(QStringList({offer.path, offer.facts, offer.trouble}).join('\n').trimmed());
+    }
+    recovery_->setVisible(!offers.empty());
+    place();
+}
+
 void fStartPage::makeList()
 {
     heading_->setBuddy(list_);
     named(list_, "lstRecent", heading_->text());
-    list_->setViewMode(QListView::IconMode);
-    list_->setResizeMode(QListView::Adjust);
-    list_->setMovement(QListView::Static);
-    list_->setIconSize({kSide, kSide});
-    list_->setGridSize({kSide + 20, kSide + 2 * fontMetrics().height()});
-    list_->setTextElideMode(Qt::ElideMiddle);
-    list_->setUniformItemSizes(true);
-    list_->setFrameShape(QFrame::NoFrame);
-    QPalette colours = list_->palette();
-    colours.setColor(QPalette::Base, Qt::transparent);
-    list_->setPalette(colours);
+    setUp(*list_);
     // One click opens, as usual on such a page; so does Enter.
     const auto choose = [this](const QListWidgetItem* item) { emit recentChosen(item->data(kIndex).toInt()); };
     connect(list_, &QListWidget::itemClicked, this, choose);

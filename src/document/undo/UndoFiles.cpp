@@ -3,6 +3,7 @@
 #include <QFile>
 #include <array>
 #include <cstdio>
+#include <sys/stat.h>
 
 namespace velara {
 
@@ -32,6 +33,14 @@ std::int64_t pixelBytes(const Header& h)
     return width > (std::int64_t(1) << 40) / height ? 0 : width * height * std::int64_t(sizeof(Pixel));
 }
 
+/// False when it is missing, damaged, or the file too short for it. A longer one has an older step's tail.
+bool readHeader(FileReader& file, Header& header)
+{
+    if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return false;
+    const std::int64_t size = pixelBytes(header);
+    return size > 0 && file.size() - std::int64_t(sizeof header) >= size;
+}
+
 QString padded(int number, int digits) { return QString::number(number).rightJustified(digits, u'0'); }
 
 bool replaceFile(const QString& from, const QString& to)
@@ -44,6 +53,11 @@ bool replaceFile(const QString& from, const QString& to)
 QString UndoFiles::name(int index) const
 {
     return folder_ + QStringLiteral("/b") + padded(number_, 4) + padded(index, 2) + QStringLiteral(".dat");
+}
+
+QString UndoFiles::nameOf(const QString& ending) const
+{
+    return folder_ + QStringLiteral("/b") + padded(number_, 4) + u'.' + ending;
 }
 
 bool UndoFiles::write(int index, const Bits& bits) const
@@ -65,15 +79,29 @@ std::optional<Bits> UndoFiles::read(int index) const
 {
     FileReader file(name(index));
     Header header{};
-    if (!file.read({reinterpret_cast<std::uint8_t*>(&header), sizeof header})) return {};
-    const std::int64_t size = pixelBytes(header);
-    if (size == 0 || file.size() - std::int64_t(sizeof header) < size) return {}; // longer: an older step's tail
+    if (!readHeader(file, header)) return {};
     Bits bits = Bits::uninitialized(header.width - 2 * Bits::kMargin, -header.height - 2 * Bits::kMargin);
     if (!file.read({bits.data(), bits.sizeInBytes()})) return {};
     return bits;
 }
 
 void UndoFiles::remove(int index) const { QFile::remove(name(index)); }
+
+std::uint64_t UndoFiles::identity(int index) const
+{
+    struct stat status {};
+    const bool found = lstat(QFile::encodeName(name(index)).constData(), &status) == 0 && S_ISREG(status.st_mode);
+    return found ? std::uint64_t{status.st_ino} : 0;
+}
+
+bool UndoFiles::isWhole(int index) const
+{
+    FileReader file(name(index));
+    Header header{};
+    return readHeader(file, header);
+}
+
+bool UndoFiles::move(int from, int to) const { return replaceFile(name(from), name(to)); }
 
 void UndoFiles::drop(int index, int last) const
 {
@@ -83,7 +111,7 @@ void UndoFiles::drop(int index, int last) const
 
 void UndoFiles::removeAll() const
 {
-    for (int i = 0; i < 100; ++i) remove(i); // a wildcard would match document 10000's files for 1000's
+    for (int i = 0; i < kMost; ++i) remove(i); // a wildcard would match document 10000's files for 1000's
 }
 
 } // namespace velara

@@ -14,6 +14,8 @@ class UndoFiles {
     const QString& folder() const { return folder_; }
     int number() const { return number_; }
     QString name(int index) const;
+    /// Of what belongs to the whole series: b + number + "." + ending.
+    QString nameOf(const QString& ending) const;
 
     /// Overwrites the file of the index, or creates it. False: a previous file of the index is intact or gone; others
     /// are unchanged.
@@ -24,10 +26,17 @@ class UndoFiles {
     /// Nothing when the file is missing, short or damaged.
     std::optional<Bits> read(int index) const;
     void remove(int index) const;
+    /// The number by which the file system knows a file under any name; 0: there is none.
+    std::uint64_t identity(int index) const;
+    /// Whether it has a valid header, and at least the bytes that this speaks of.
+    bool isWhole(int index) const;
+    /// Replaces what has the other index.
+    bool move(int from, int to) const;
     /// Removes the index and moves those above it, up to last, down by one. In ascending order, so that no file is
     /// overwritten; a failure does not stop the rest.
     void drop(int index, int last) const;
     void removeAll() const;
+    static constexpr int kMost = 100; // indices
 
   private:
     QString folder_;

@@ -20,8 +20,12 @@ bool isAt(int file, const QByteArray& path)
            open.st_ino == named.st_ino;
 }
 
-/// A file system without locks is taken to have one user: counts as locked.
-bool lockFile(int file) { return flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+/// A file system without locks is taken to have one user: counts as locked, but isLock is false then.
+bool lockFile(int file, bool& isLock)
+{
+    isLock = flock(file, LOCK_EX | LOCK_NB) == 0;
+    return isLock || errno != EWOULDBLOCK;
+}
 
 } // namespace
 
@@ -43,7 +47,7 @@ UndoMark::Answer UndoMark::take(const QString& folder, int number)
     for (int tries = 0; tries < 100; ++tries) {
         const int file = open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, 0600);
         if (file < 0) return Answer::Impossible;
-        if (!lockFile(file)) {
+        if (!lockFile(file, isLock_)) {
             close(file);
             return Answer::Taken;
         }
@@ -57,13 +61,27 @@ UndoMark::Answer UndoMark::take(const QString& folder, int number)
     return Answer::Taken;
 }
 
+UndoMark& UndoMark::operator=(UndoMark&& other) noexcept
+{
+    if (this == &other) return *this;
+    release();
+    path_ = std::move(other.path_);
+    file_ = std::exchange(other.file_, -1);
+    isLock_ = other.isLock_;
+    return *this;
+}
+
 bool UndoMark::stands() const { return file_ >= 0 && isAt(file_, path_); }
 
 void UndoMark::release()
 {
-    if (file_ < 0) return;
-    if (isAt(file_, path_)) unlink(path_.constData());
-    close(std::exchange(file_, -1));
+    if (stands()) unlink(path_.constData());
+    leave();
+}
+
+void UndoMark::leave()
+{
+    if (file_ >= 0) close(std::exchange(file_, -1));
 }
 
 } // namespace velara

@@ -1,6 +1,7 @@
 // UndoMark: marks a document number as used by a running program, so that no other touches its undo files.
 #pragma once
 #include <QString>
+#include <utility>
 
 namespace velara {
 
@@ -16,18 +17,23 @@ class UndoMark {
 
     UndoMark() = default;
     ~UndoMark() { release(); }
-    UndoMark(const UndoMark&) = delete;
-    UndoMark& operator=(const UndoMark&) = delete;
+    UndoMark(UndoMark&& other) noexcept { *this = std::move(other); }
+    UndoMark& operator=(UndoMark&& other) noexcept;
 
     Answer take(const QString& folder, int number);
     /// False without a lock, and when its file was removed, so that another program could take the number.
     bool stands() const;
+    /// Whether the file system has locks. Where it has none, a program that lives can't be told from one that died.
+    bool isLock() const { return isLock_; }
     /// Removes the file, too.
     void release();
+    /// Lets go of it and leaves the file.
+    void leave();
 
   private:
     QByteArray path_;
     int file_ = -1;
+    bool isLock_ = false;
 };
 
 } // namespace velara

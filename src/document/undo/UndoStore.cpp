@@ -1,8 +1,9 @@
 #include "document/undo/UndoStore.h"
+#include "document/undo/RecordFile.h"
 #include "document/undo/UndoFiles.h"
-#include "document/undo/UndoMark.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "pixels/threads/Workers.h"
+#include <QDateTime>
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -20,6 +21,20 @@ static Workers& snapshotWriter()
     return writer;
 }
 
+/// For the user, of an errno.
+static QString whyNot(int reason)
+{
+    const bool noRoom = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
+    return noRoom ? QStringLiteral("no room in the Temp folder")
+                  : QStringLiteral("the Temp folder can't be written to");
+}
+
+/// Whether a dead program has left work under the number: a record, or steps without one.
+static bool hasWork(const UndoFiles& files)
+{
+    return RecordFile::isThere(files) || (files.identity(0) != 0 && files.identity(1) != 0);
+}
+
 /// Between the owner, the writing thread and threads that read steps. While snapshots wait, the files, the mark and the
 /// states are the writing thread's, but not before those that read have ended; else they are to be read by all. The
 /// counters are read under the guard at any time.
@@ -27,14 +42,14 @@ struct UndoStore::Series {
     Series(QString folder, int number) : files(std::move(folder), number) {}
 
     /// One state of the series; without a picture it is in its file.
-    struct State {
-        std::optional<Bits> picture; // could not be written to disk
-        bool gap = false;            // the state before it is not in the series
-        StepNote note = {};          // of the change that led to it
+    struct State : KeptState {
+        std::optional<Bits> picture = {}; // could not be written to disk
+        bool isInherited = false;         // written by another program, which died: its checksum is to be looked at
     };
     UndoFiles files;
     UndoMark mark;
-    std::function<void(const QString&)> told;
+    RecordFile record{files};
+    std::function<void(const QString&)> told, toldUnrecorded;
     std::atomic<bool> abandoned{false};
     std::array<State, kLimit + 1> states; // by index
 
@@ -49,11 +64,23 @@ struct UndoStore::Series {
     int numbers = 0, current = 0; // given so far; that of the state shown
     std::atomic<bool> everFailed{false};
     bool passedOver = false;
+    DocumentFacts about;
+    int records = 0;          // jobs that write the record without a snapshot
+    bool recordWaits = false; // one of them has not begun: it will write what about says by then
+    bool recorded = false;    // there is a record
+    bool unrecorded = false;  // the last one could not be written
 
     std::unique_lock<std::mutex> settled() const
     {
         std::unique_lock lock(guard);
         written.wait(lock, [this] { return waiting == 0; });
+        return lock;
+    }
+    /// The writing thread has nothing more to do with this series.
+    std::unique_lock<std::mutex> quiet() const
+    {
+        std::unique_lock lock(guard);
+        written.wait(lock, [this] { return waiting == 0 && records == 0; });
         return lock;
     }
     void awaitReaders() const
@@ -64,7 +91,7 @@ struct UndoStore::Series {
     int shownStep() const { return std::min(step + waiting, kLimit); }
     const State& of(int index) const { return states[static_cast<std::size_t>(index)]; }
     State& of(int index) { return states[static_cast<std::size_t>(index)]; }
-    std::optional<Bits> pictureOf(int index) { return of(index).picture ? of(index).picture : files.read(index); }
+    std::optional<Bits> pictureOf(int index) const;
 
     std::optional<Found> find(int shown, bool back);
     void noteSave(StepNote& note);
@@ -75,6 +102,9 @@ struct UndoStore::Series {
     // --- On the writing thread; count is the number of states.
     bool ready();
     int write(const Bits& bits);
+    bool writeState(int index, const Bits& bits, bool overOldest = false);
+    void keepRecord(int step, int top);
+    void tryToRecord(int step, int top);
     int hold(const Bits& bits, int index);
     int keepOlder(int count, bool ours);
     int drop(int index, int count, bool ours);
@@ -129,7 +159,7 @@ int UndoStore::Series::keepOlder(int count, bool ours)
     std::int64_t kept = 0;
     for (int i = 0; i < count; ++i) {
         std::optional<Bits>& picture = of(i).picture;
-        if (picture && ours && kept == 0 && files.write(i, *picture)) picture.reset();
+        if (picture && ours && kept == 0 && writeState(i, *picture)) picture.reset();
         if (picture) kept += static_cast<std::int64_t>(picture->sizeInBytes());
     }
     if (kept == 0) return count;
@@ -154,15 +184,66 @@ int UndoStore::Series::write(const Bits& bits)
     if (of(count).gap) tell(errno);
     bool done = false;
     if (count == kLimit) { // ten states exist, the one on screen is one of them
-        done = ours && files.writeOverOldest(count, bits);
+        done = ours && writeState(count, bits, true);
         if (ours) files.drop(0, count);
         std::shift_left(states.begin(), states.end(), 1);
         --count;
     }
-    done = done || (ours && files.write(count, bits));
+    done = done || (ours && writeState(count, bits));
     if (done) return count + 1;
     if (ours) files.remove(count); // the redo steps
     return hold(bits, count);
+}
+
+bool UndoStore::Series::writeState(int index, const Bits& bits, bool overOldest)
+{
+    if (!(overOldest ? files.writeOverOldest(index, bits) : files.write(index, bits))) return false;
+    State& state = of(index);
+    state.file = files.identity(index);
+    state.sum = checksumOf(bits.data(), bits.sizeInBytes());
+    state.isInherited = false;
+    return true;
+}
+
+/// The reader of a state doesn't know what else has happened to its file.
+std::optional<Bits> UndoStore::Series::pictureOf(int index) const
+{
+    const State& state = of(index);
+    if (state.picture) return state.picture;
+    std::optional<Bits> bits = files.read(index);
+    const bool isChecked = bits && state.isInherited && state.sum != 0;
+    if (isChecked && state.sum != checksumOf(bits->data(), bits->sizeInBytes())) return {};
+    return bits;
+}
+
+/// The number of the state shown and of all, as they are on the disk now. The guard is free.
+void UndoStore::Series::keepRecord(int step, int top)
+{
+    UndoRecord now{.step = step, .when = QDateTime::currentMSecsSinceEpoch()};
+    {
+        const std::lock_guard lock(guard);
+        if (abandoned || files.folder().isEmpty() || (!about.isUnsaved && !recorded)) return;
+        now.about = about;
+    }
+    for (int i = 0; i < top; ++i) {
+        KeptState state = of(i);
+        if (of(i).picture) state.file = 0;
+        now.states.push_back(std::move(state));
+    }
+    const bool done = ready() && record.write(now);
+    const int reason = errno;
+    {
+        const std::lock_guard lock(guard);
+        if (done) recorded = true;
+        if (std::exchange(unrecorded, !done)) return;
+    }
+    if (!done && toldUnrecorded) toldUnrecorded(whyNot(reason));
+}
+
+void UndoStore::Series::tryToRecord(int step, int top)
+try {
+    keepRecord(step, top);
+} catch (const std::exception&) { // no memory: the record before it stands
 }
 
 /// Keeps the newest state in memory only.
@@ -175,17 +256,18 @@ int UndoStore::Series::hold(const Bits& bits, int index)
 
 void UndoStore::Series::tell(int reason) const
 {
-    const bool noRoom = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
-    if (told)
-        told(noRoom ? QStringLiteral("no room in the Temp folder")
-                    : QStringLiteral("the Temp folder can't be written to"));
+    if (told) told(whyNot(reason));
 }
 
 UndoStore::UndoStore(QString folder, const std::function<int()>& next)
 {
     const bool kept = !folder.isEmpty() && makePrivateFolder(folder);
+    const auto isFree = [&] {
+        const auto answer = series_->mark.take(folder, series_->files.number());
+        return answer != UndoMark::Answer::Taken && !hasWork(series_->files);
+    };
     do series_ = std::make_shared<Series>(folder, next());
-    while (kept && series_->mark.take(folder, series_->files.number()) == UndoMark::Answer::Taken);
+    while (kept && !isFree());
 }
 
 UndoStore::UndoStore(QString folder, int documentNumber)
@@ -195,10 +277,31 @@ UndoStore::UndoStore(QString folder, int documentNumber)
     if (!place.isEmpty() && makePrivateFolder(place)) series_->mark.take(place, documentNumber);
 }
 
+UndoStore::UndoStore(Inherited inherited)
+    : series_(std::make_shared<Series>(std::move(inherited.folder), inherited.number))
+{
+    series_->mark = std::move(inherited.mark);
+    series_->recorded = true;
+    series_->about = std::move(inherited.record.about);
+    const auto count = std::min(inherited.record.states.size(), std::size_t(kLimit));
+    for (std::size_t i = 0; i < count; ++i) {
+        static_cast<KeptState&>(series_->states[i]) = std::move(inherited.record.states[i]);
+        series_->states[i].isInherited = true;
+    }
+    series_->top = static_cast<int>(count);
+    series_->step = std::min(inherited.record.step, series_->top);
+    for (int i = 0; i < series_->top; ++i) {
+        series_->of(i).note.number = ++series_->numbers;
+        series_->log.push_back(series_->of(i).note);
+    }
+    series_->noteStates();
+    series_->noteShown();
+}
+
 UndoStore::~UndoStore()
 {
     series_->abandoned = true;
-    const auto lock = series_->settled();
+    const auto lock = series_->quiet();
     series_->mark.release(); // now: the last job may keep the series alive a moment longer
 }
 
@@ -259,6 +362,7 @@ void UndoStore::save(const Bits& bits, StepNote note)
         }
         if (count > 0) series->of(count - 1).note = std::move(note);
         picture = Bits(); // before anybody is notified: then the next edit need not copy it
+        if (wanted) series->tryToRecord(count, count);
         const std::lock_guard lock(series->guard);
         if (wanted) series->step = series->top = count;
         series->pending.pop_front();
@@ -302,9 +406,38 @@ UndoStore::Listed UndoStore::listed() const
     return all;
 }
 
+void UndoStore::willDescribe(DocumentFacts about)
+{
+    const std::lock_guard lock(series_->guard);
+    series_->about = std::move(about);
+}
+
+void UndoStore::describe(DocumentFacts about)
+{
+    {
+        const std::lock_guard lock(series_->guard);
+        const bool wanted = about.isUnsaved || series_->about.isUnsaved || series_->recorded;
+        series_->about = std::move(about);
+        if (!wanted || series_->files.folder().isEmpty() || std::exchange(series_->recordWaits, true)) return;
+        ++series_->records;
+    }
+    snapshotWriter().start([series = series_] {
+        int step = 0, top = 0;
+        {
+            const std::lock_guard lock(series->guard);
+            series->recordWaits = false;
+            step = series->step, top = series->top;
+        }
+        series->tryToRecord(step, top);
+        const std::lock_guard lock(series->guard);
+        --series->records;
+        series->written.notify_all();
+    });
+}
+
 bool UndoStore::stands() const
 {
-    const auto lock = series_->settled();
+    const auto lock = series_->quiet();
     return series_->step == 0 || !series_->of(series_->step - 1).picture;
 }
 
@@ -380,16 +513,21 @@ bool UndoStore::passedOver() const { return series_->passedOver; }
 void UndoStore::deleteSeries()
 {
     series_->abandoned = true;
-    const auto lock = series_->settled();
+    const auto lock = series_->quiet();
     series_->abandoned = false;
     UndoMark& mark = series_->mark;
     const UndoFiles& files = series_->files;
     if (!mark.stands() && mark.take(files.folder(), files.number()) != UndoMark::Answer::Ours) return;
+    series_->about = {};
+    series_->recorded = false;
+    series_->record.remove();
     files.removeAll();
     mark.release();
 }
 
 void UndoStore::onFailure(std::function<void(const QString&)> told) { series_->told = std::move(told); }
+
+void UndoStore::onUnrecorded(std::function<void(const QString&)> told) { series_->toldUnrecorded = std::move(told); }
 
 QString UndoStore::fileName(int index) const { return series_->files.name(index); }
 

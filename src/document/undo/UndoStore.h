@@ -5,8 +5,13 @@
 // The counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be written
 // stays in memory as a normal step: the one on screen always, older ones as long as they leave as much memory free as
 // they take. Those dropped then are skipped.
+//
+// Beside them stands a record of what the series is (UndoRecord), as soon as something is unsaved; it is written after
+// each snapshot and each step, and names what is on the disk then. document/recovery opens documents from it.
 #pragma once
 #include "document/undo/StepNote.h"
+#include "document/undo/UndoMark.h"
+#include "document/undo/UndoRecord.h"
 #include <QString>
 #include <functional>
 #include <memory>
@@ -20,10 +25,20 @@ class UndoStore {
     static constexpr int kLimit = 10; // snapshots kept after a save
 
     /// folder is where the files go ("Temp" under the program folder; empty: no steps are kept). It is made if its
-    /// parent exists. A number that another program uses is skipped: next is asked again.
+    /// parent exists. A number that another program uses, or that has work of a dead one, is skipped: next is asked
+    /// again.
     UndoStore(QString folder, const std::function<int()>& next);
     /// A number that the caller knows to be free; if it isn't, no steps are kept.
     UndoStore(QString folder, int documentNumber);
+    /// A series that a dead program left, with its lock and its files: those of the record's states, all of them on the
+    /// disk, from index 0 on.
+    struct Inherited {
+        QString folder;
+        int number;
+        UndoMark mark;
+        UndoRecord record;
+    };
+    explicit UndoStore(Inherited inherited);
     ~UndoStore();
     UndoStore(const UndoStore&) = delete;
     UndoStore& operator=(const UndoStore&) = delete;
@@ -56,7 +71,7 @@ class UndoStore {
     Listed listed() const;
     /// For another thread: waits until save() returns at once.
     std::function<void()> roomLater() const;
-    /// Waits for the writing. True when the state shown is on disk, or none was ever saved.
+    /// Waits for the writing, of the record, too. True when the state shown is on disk, or none was ever saved.
     bool stands() const;
     /// Waits. The picture shown before this one; counters are unchanged. Nothing when it is lost.
     std::optional<Bits> previous() const { return previousLater()(); }
@@ -82,12 +97,20 @@ class UndoStore {
     std::optional<Bits> redo() { return step(false); }
     /// Whether the last undo or redo left or skipped a step that couldn't be written or read.
     bool passedOver() const;
+    /// For the record of the series, from which the document can be opened again if the program dies; in the
+    /// background, after the snapshots before it. While nothing is unsaved there need be none.
+    void describe(DocumentFacts about);
+    /// The same, for the record that the next save() writes.
+    void willDescribe(DocumentFacts about);
     /// Removes every file of the document; queued snapshots are not written.
     void deleteSeries();
 
     /// Called on the writing thread when the state before a snapshot can be kept neither on disk nor in memory, so that
     /// the step can't be undone; the reason is for the user. Set it before the first save.
     void onFailure(std::function<void(const QString& reason)> told);
+
+    /// Called on the writing thread when the record can't be written, the first time in a row.
+    void onUnrecorded(std::function<void(const QString& reason)> told);
 
     QString fileName(int index) const;
 

@@ -118,6 +118,14 @@ int fLayerCanvas::addLayer()
     return index;
 }
 
+void fLayerCanvas::showLayers()
+{
+    for (const int index : layers_.indices()) {
+        makeWidgets(index);
+        emit added(index);
+    }
+}
+
 void fLayerCanvas::removeSelected()
 {
     const int index = selected_;

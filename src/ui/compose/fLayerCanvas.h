@@ -29,6 +29,8 @@ class fLayerCanvas final : public fPicture {
     /// Adds a layer at the stored position, in the style for the next one, selected and in editing.
     int addLayer();
     void removeSelected();
+    /// Makes the widgets of layers that were there before this.
+    void showLayers();
     /// To be called before a change of a layer from outside of the canvas: it becomes a step of undo.
     void remember();
     bool canStep(bool back) const { return back ? history_.canUndo() : history_.canRedo(); }

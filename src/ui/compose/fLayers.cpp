@@ -93,6 +93,10 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
     connectAll();
     followDocument();
+    if (document_ && !document_->waitingTexts.empty()) {
+        layers_.restore(document_->waitingTexts);
+        canvas_->showLayers();
+    }
     resize(760, 560);
     canvas_->setFocus();
 }
@@ -100,7 +104,9 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
 /// The widgets that show the layers are deleted before them.
 fLayers::~fLayers()
 {
-    if (Document* document = document_.get(); document && waiting_) document->waitingWork = nullptr;
+    const QSignalBlocker quiet(this);
+    done_ = true;
+    tellDocument();
     hide();
     delete page_;
     delete list_;
@@ -312,18 +318,22 @@ const Layers& fLayers::asTyped()
     return layers_;
 }
 
-/// Tells the document about waiting texts, for which it asks before it closes.
+/// Tells the document about waiting texts, for which it asks before it closes, and which it has for recovery.
 void fLayers::tellDocument()
 {
     Document* document = document_.get();
-    if (!document || waiting_ == hasTexts()) return;
-    waiting_ = hasTexts();
-    document->waitingWork = nullptr;
-    if (waiting_)
+    if (!document) return;
+    Layers::State texts = hasTexts() ? layers_.state() : Layers::State();
+    const bool wereWaiting = std::exchange(waiting_, hasTexts());
+    if (waiting_ == wereWaiting && texts == document->waitingTexts) return;
+    document->waitingTexts = std::move(texts);
+    if (waiting_ != wereWaiting) document->waitingWork = nullptr;
+    if (waiting_ && !wereWaiting)
         document->waitingWork = [alive = QPointer(this)] {
             return !alive || (alive->applyNow() && (!alive || alive->close())); // anything may happen during a change
         };
-    emit waitingChanged();
+    document->describe();
+    if (waiting_ != wereWaiting) emit waitingChanged();
 }
 
 void fLayers::closeEvent(QCloseEvent* event)
