@@ -5,6 +5,7 @@
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
+#include "fileio/disk/userFolders.h"
 #include "seams/Platform.h"
 #include <QApplication>
 #include <QHBoxLayout>
@@ -13,7 +14,7 @@
 namespace velara {
 
 fMain::fMain(Platform& platform, Setup& setup)
-    : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp", platform)
+    : platform_(platform), setup_(setup), workspace_(tempFolder(platform.programFolder()), platform)
 {
     setObjectName("fMain");
     setWindowTitle(kProgramName);
