@@ -67,8 +67,11 @@ TEST_F(UserFolders, AnEarlierVersionsAreTakenOverOnce)
     EXPECT_FALSE(QFile::exists(at(old + "Vlaera.dat")));
 
     put(old + "Vlaera.dat", "an old version was started once more");
+    put(old + "usercolors.cps", "by the old version");
+    QFile::remove(at(".config/velara-studio/usercolors.cps"));
     takeOver(program, at("bin"));
     EXPECT_EQ(kept(".config/velara-studio/Vlaera.dat"), "settings");
+    EXPECT_FALSE(QFile::exists(at(".config/velara-studio/usercolors.cps")));
 }
 
 TEST_F(UserFolders, ThoseBesideTheProgramAreCopied)
