@@ -10,4 +10,5 @@ SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date +%s)
 export SOURCE_DATE_EPOCH
 umask 022
 (cd "$build" && cpack -G DEB >cpack.log) || { cat "$build/cpack.log" >&2; exit 1; }
+rm -rf "$build/dist/_CPack_Packages"
 ls "$build"/dist/*.deb

@@ -6,6 +6,7 @@ sbom=$2
 version=$("$build/bin/velara-open" --version | sed 's/.* //')
 cp "$sbom" "$build/dist/velara-studio-$version.spdx.json"
 cd "$build/dist"
+rm -f -- *.sha256
 sha256sum "velara-studio-$version"* "velara-studio_${version}"*.deb >"velara-studio-$version.sha256"
 sha256sum --quiet -c "velara-studio-$version.sha256"
 ls -l
