@@ -17,7 +17,8 @@ open=$(find "$scratch/root" -path '*/bin/velara-open')
 place=${open%/bin/velara-open}
 find "$scratch/root" -type f | sort | xargs cksum >"$scratch/before"
 "$open" "$scratch/in.png" || fail "velara-open ended with $?"
-editor=$(pgrep -f "^$place/bin/velara-studio\$") || fail "no editor"
+editor=$(find "$XDG_RUNTIME_DIR" -name '*.socket' | sed 's/.*-\([0-9]*\)\.socket/\1/')
+[ "$(readlink -f "/proc/$editor/exe")" = "$place/bin/velara-studio" ] || fail "editors: $editor"
 pids="$pids $editor"
 folder=$HOME/.local/state/velara-studio
 documents 1 || fail "the undo files are not in $folder: $(find "$HOME" -name 'b*00.dat')"

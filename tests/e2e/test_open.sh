@@ -13,7 +13,7 @@ cd "$pictures"
 hand() { "$folder/velara-open" "$@" >"$scratch/said" 2>&1; }
 says() { grep -q "$1" "$scratch/said" || fail "not told: $1 but $(cat "$scratch/said")"; }
 open_now() { documents "$1" || fail "$2: $(find "$folder/Temp" -name 'b*00.dat' | wc -l) pictures are open instead of $1"; }
-editors() { pgrep -f "^$folder/velara-studio\$" | tr '\n' ' '; }
+editors() { find "$XDG_RUNTIME_DIR" -name '*.socket' | sed 's/.*-\([0-9]*\)\.socket/\1/' | tr '\n' ' '; }
 leave() { # the editor is no child of this script
     keys ctrl+q
     until_true "the editor to end" gone
