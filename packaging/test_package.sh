@@ -41,7 +41,7 @@ $as_root unshare --mount --pid --fork --kill-child sh -euc '
     mount -t tmpfs -o mode=1777 tmpfs "$1/tmp"
     mount --bind "$1/usr" "$1/usr"
     mount -o remount,ro,bind "$1/usr"
-    exec env -i HOME=/home/person USER=person PATH=/usr/local/bin:/usr/bin:/bin LANG=C.UTF-8 \
+    exec env -i HOME=/home/person USER=person PATH=/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin LANG=C.UTF-8 \
         chroot --userspec=person:person "$1" in_package
 ' sh "$root"
 $as_root chroot "$root" dpkg --purge velara-studio >"$scratch/log" || { cat "$scratch/log" >&2; exit 1; }
