@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom screenshots bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan bench-window bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -111,9 +111,32 @@ mutate: setup
 	@scripts/mutate.py $(NAMES)
 
 # What the programs are linked with, by version, as an SPDX document: build/velara-studio.spdx.json
+PROGRAMS := velara-studio velara-batch velara-open velara-decode velara-encode velara-scan
 sbom: all
-	@scripts/sbom.py $(RELEASE)/bin velara-studio velara-batch velara-decode velara-scan > build/velara-studio.spdx.json
+	@scripts/sbom.py $(RELEASE)/bin $(PROGRAMS) > build/velara-studio.spdx.json
 	@echo build/velara-studio.spdx.json
+
+# make install PREFIX=/usr DESTDIR=/somewhere. User data of installed programs lies in the folders of the desktop.
+PREFIX ?= /usr/local
+install: all
+	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) >/dev/null
+	cmake --build --preset release --target packaging
+	DESTDIR=$(DESTDIR) cmake --install $(RELEASE) --strip
+
+# What is given away: a Debian package, an archive that runs from any folder of a Debian 12, and with make release also the
+# list of what they are linked with, and checksums; all in build/release/dist.
+deb: all
+	@packaging/make_deb.sh $(RELEASE)
+
+tarball: all
+	@packaging/make_tarball.sh $(RELEASE)
+
+release: deb tarball sbom
+	@packaging/make_release.sh $(RELEASE) build/velara-studio.spdx.json
+
+# The package in a fresh Debian: installed, started by an ordinary user, a picture changed and saved, removed without a trace.
+test-package: deb
+	@packaging/test_package.sh $(RELEASE)
 
 SOURCES = $(shell git ls-files -co --exclude-standard 'src/*.cpp' 'src/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h' 'tools/*.cpp' 'tools/*.h')
 format:

@@ -16,7 +16,7 @@ FLOORS = [
     ["platform", "document"],
     ["commands", "tools"],
     ["ui"],
-    ["app", "batch"],
+    ["app", "batch", "open"],
 ]
 FLOOR = {room: number for number, rooms in enumerate(FLOORS, 1) for room in rooms}
 SHARED = {"ui/widgets", "ui/widgets/inputs", "ui/widgets/marks"}  # what every folder of ui/ may include

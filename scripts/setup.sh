@@ -1,9 +1,10 @@
 #!/bin/sh
-# Installs the Debian packages of packages.txt that are missing; prints nothing when all are there.
+# Installs the Debian packages of packages.txt, or of the given list, that are missing; prints nothing when all are there.
 set -eu
 cd "$(dirname "$0")/.."
+list=${1:-packages.txt}
 missing=""
-for package in $(grep -v '^#' packages.txt); do
+for package in $(grep -v '^#' "$list"); do
     status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
     [ "$status" = installed ] || missing="$missing $package"
 done

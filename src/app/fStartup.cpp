@@ -8,6 +8,7 @@
 #include "document/undo/UndoMark.h"
 #include "fileio/SetupStore.h"
 #include "fileio/disk/OutputFile.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/load/PictureLoader.h"
 #include "pixels/twips.h"
 #include <QApplication>
@@ -72,7 +73,7 @@ void moveAside(QWidget& frame, const QRect& screen)
 bool makeFolders(Platform& platform)
 {
     const QDir program(platform.programFolder());
-    const QString temp = program.filePath("Temp");
+    const QString temp = tempFolder(platform.programFolder());
     bool made = makePictures(
         program.filePath("Stamps"), [](int n) { return QString("Velara%1.bmp").arg(n); }, defaultStamps);
     made &= makePrivateFolder(temp);
@@ -135,6 +136,7 @@ try {
 
 void Startup::makeFrame()
 {
+    takeOver(platform_.programFolder(), QCoreApplication::applicationDirPath());
     setup_ = LoadSetup(platform_);
     readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
     frame_ = std::make_unique<fMain>(platform_, setup_);

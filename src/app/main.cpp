@@ -1,12 +1,20 @@
-// velara-studio: the editor. Reads no command line.
+// velara-studio: the editor. With files on its command line it is velara-open.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/start/FrameRequests.h"
 #include "app/start/SessionEnd.h"
 #include "app/start/formatPlugins.h"
+#include "fileio/load/PictureLoader.h"
 #include "platform/desktop/QtPlatform.h"
+#include "platform/opening/OpenService.h"
+#include "platform/opening/places.h"
 #include <QApplication>
+#include <QFile>
 #include <QLoggingCategory>
+#include <cstdio>
+#include <cstring>
 #include <optional>
+#include <unistd.h>
 
 namespace {
 
@@ -25,16 +33,37 @@ class Application final : public QApplication {
     }
 };
 
+/// Whether the command line is ours: options with one dash are Qt's, as "-platform offscreen".
+bool namesFiles(int argc, char** argv)
+{
+    return argc > 1 && (argv[1][0] != '-' || argv[1][1] == '-' || argv[1][1] == '\0');
+}
+
+/// Does what velara-open does with the same command line.
+int openInstead(char** argv)
+{
+    const QByteArray program = QFile::encodeName(velara::findHelper(QStringLiteral("velara-open")));
+    execv(program.constData(), argv);
+    std::fprintf(stderr, "velara-studio: velara-open can't be started: %s\n", std::strerror(errno));
+    return EXIT_FAILURE;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (namesFiles(argc, argv)) return openInstead(argv);
     velara::leaveFormatPluginsOut();
     Application application(argc, argv);
     // Each move of a stroke counts. The platform plug-in switches this on when it starts.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     application.setQuitOnLastWindowClosed(false); // the frame decides, whatever boxes are still open
     application.setStyle(new velara::fMenuStyle);
+    QGuiApplication::setDesktopFileName(velara::kStudioService);
+    velara::FrameRequests requests;
+    std::optional<velara::OpenService> service(requests);
+    service->serve(velara::sessionBus(QStringLiteral("velara-studio")));
+    service->listen(velara::socketOf(getpid()));
     velara::QtPlatform platform;
     velara::Setup setup;
     velara::Startup startup(platform, setup);
@@ -43,8 +72,10 @@ int main(int argc, char** argv)
     QObject::connect(&startup, &velara::Startup::done, &application, [&] {
         frame = startup.takeFrame();
         sessionEnd.emplace(*frame);
+        QObject::connect(frame.get(), &velara::fMain::closed, &application, [&] { service.reset(); });
         QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit,
                          Qt::QueuedConnection);
+        requests.begin(*frame);
     });
     return application.exec();
 }

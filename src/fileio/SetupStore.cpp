@@ -1,6 +1,7 @@
 #include "fileio/SetupStore.h"
 #include "fileio/disk/fileBytes.h"
 #include "fileio/disk/nativeName.h"
+#include "fileio/disk/userFolders.h"
 #include "seams/Platform.h"
 #include <QFile>
 #include <algorithm>
@@ -199,7 +200,10 @@ static_assert(hasMembers(std::make_index_sequence<std::size(kFields)>()) &&
                   !hasMembers(std::make_index_sequence<std::size(kFields) + 1>()),
               "a member of src/seams/Setup.h has no row in kFields of src/fileio/SetupStore.cpp, or a row no member");
 
-QString setupPath(Platform& platform) { return platform.programFolder() + QStringLiteral("/Vlaera.dat"); }
+QString setupPath(Platform& platform)
+{
+    return userFolder(platform.programFolder(), UserFolder::Settings) + QStringLiteral("/Vlaera.dat");
+}
 
 /// The record in the file; nothing when it can't be read or is all zeros: no run writes that, but a power failure may
 /// leave it.

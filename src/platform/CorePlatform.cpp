@@ -1,17 +1,17 @@
 #include "platform/CorePlatform.h"
 #include "fileio/disk/nativeName.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/load/PictureLoader.h"
+#include "platform/runtimeFolder.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QUrl>
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velara {
@@ -22,31 +22,13 @@ QFileInfo executable() { return QFileInfo(QFile::symLinkTarget("/proc/self/exe")
 
 QSettings settings() { return QSettings(QSettings::IniFormat, QSettings::UserScope, executable().fileName()); }
 
-/// A folder writable by this user only: the system's for the session, else one in the home folder. Empty: there is
-/// none.
-QString lockFolder()
-{
-    const QString cache = QDir::homePath() + "/.cache/velara-studio";
-    for (const QString& folder : {qEnvironmentVariable("XDG_RUNTIME_DIR"), cache}) {
-        if (!QDir::isAbsolutePath(folder)) continue;
-        if (folder == cache) QDir().mkpath(cache);
-        struct stat status {};
-        if (stat(QFile::encodeName(folder).constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
-            status.st_uid == geteuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0)
-            return folder;
-    }
-    return {};
-}
-
 /// Locks a file that one process per session can hold; the kernel releases it with the process. -1: impossible, or
 /// another process holds it, which sets taken.
 int claimSession(bool& taken)
 {
-    const QString folder = lockFolder();
+    const QString folder = runtimeFolder();
     if (folder.isEmpty()) return -1;
-    const QString session = qEnvironmentVariable("XDG_SESSION_ID", qEnvironmentVariable("DISPLAY"));
-    const QByteArray path =
-        QFile::encodeName(folder) + "/velara-studio-" + QUrl::toPercentEncoding(session).left(100) + ".lock";
+    const QByteArray path = QFile::encodeName(folder + '/' + sessionName() + ".lock");
     const int file = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (file < 0 || flock(file, LOCK_EX | LOCK_NB) == 0) return file;
     taken = errno == EWOULDBLOCK;
@@ -80,8 +62,7 @@ double CorePlatform::random() { return static_cast<double>(random_() >> 11) * 0x
 
 QString CorePlatform::programFolder()
 {
-    if (programFolder_.isEmpty())
-        programFolder_ = chooseProgramFolder(executable().path(), qEnvironmentVariable("XDG_DATA_HOME"));
+    if (programFolder_.isEmpty()) programFolder_ = chooseProgramFolder(executable().path());
     return programFolder_;
 }
 
@@ -116,12 +97,11 @@ LoadedPicture CorePlatform::decodeBytes(const QByteArray& bytes, const QString& 
     return loadThroughDecoder(file, name, extension, decoder(), limitsFor(bytes.size()), goOn);
 }
 
-QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome)
+QString chooseProgramFolder(const QString& executableFolder)
 {
-    const bool isOurs = !executableFolder.startsWith("/usr/"); // in /usr even root keeps its files elsewhere
-    if (isOurs && access(QFile::encodeName(executableFolder).constData(), W_OK) == 0) return executableFolder;
-    const QString home = QDir::isAbsolutePath(dataHome) ? dataHome : QDir::homePath() + "/.local/share";
-    const QString folder = home + "/velara-studio";
+    const bool isPortable = QFileInfo::exists(executableFolder + "/portable");
+    if (isPortable && access(QFile::encodeName(executableFolder).constData(), W_OK) == 0) return executableFolder;
+    const QString folder = installedFolder();
     QDir().mkpath(folder);
     return folder;
 }

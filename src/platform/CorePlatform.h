@@ -38,8 +38,8 @@ class CorePlatform : public Platform {
     BackgroundQueue background_; // last: its work may read pictures until it has ended
 };
 
-/// executableFolder if files can be made in it and it isn't the system's (/usr), else dataHome/velara-studio (dataHome
-/// empty: ~/.local/share), which is created.
-QString chooseProgramFolder(const QString& executableFolder, const QString& dataHome);
+/// executableFolder if there is a file called "portable" and others can be made, else the folder of an installed
+/// program ($XDG_DATA_HOME/velara-studio), which is created.
+QString chooseProgramFolder(const QString& executableFolder);
 
 } // namespace velara

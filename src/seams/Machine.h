@@ -15,8 +15,8 @@ class Machine {
     virtual std::uint32_t milliseconds() = 0;
     /// Uniform in [0, 1).
     virtual double random() = 0;
-    /// The folder that all program paths start from, without a trailing separator: the executable's if it is writable,
-    /// else $XDG_DATA_HOME/velara-studio.
+    /// The folder that program paths start from, without a trailing separator: the executable's if it is portable, else
+    /// $XDG_DATA_HOME/velara-studio; then some have another place (fileio/disk/userFolders.h).
     virtual QString programFolder() = 0;
     /// True when an earlier instance of the editor runs in this session.
     virtual bool previousInstance() = 0;

@@ -6,7 +6,8 @@ scratch=$(mktemp -d)
 folder=$scratch/studio # the program folder
 mkdir -p "$folder" "$scratch/home" "$scratch/run"
 chmod 700 "$scratch/run"
-cp "$bin/velara-studio" "$bin/velara-decode" "$bin/velara-decode-all" "$bin/velara-encode" "$bin/velara-scan" "$folder/"
+cp "$bin/velara-studio" "$bin/velara-open" "$bin/velara-decode" "$bin/velara-decode-all" "$bin/velara-encode" "$bin/velara-scan" "$folder/"
+touch "$folder/portable" # user data stays there
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
 export ASAN_OPTIONS=detect_leaks=0:exitcode=99
 export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus

@@ -35,6 +35,7 @@ class PrivateBus {
             process->waitForFinished();
         }
     }
+    const QString& address() const { return address_; }
     QDBusConnection connection() { return QDBusConnection::connectToBus(address_, address_); }
 
     /// Starts the mock service of a template beside this file; true when it is available.

@@ -15,18 +15,18 @@ class HomePlatform : public WindowlessPlatform {
 
 } // namespace
 
-TEST(CorePlatform, ProgramFolderIsWhereFilesCanBeMade)
+TEST(CorePlatform, ProgramFolderIsThePortableProgramsOwn)
 {
     const QTemporaryDir home;
-    EXPECT_EQ(chooseProgramFolder(home.path(), "/nowhere"), home.path());
-    const QString data = home.filePath("data");
-    EXPECT_EQ(chooseProgramFolder("/usr/bin", data), data + "/velara-studio"); // even for root
-    EXPECT_TRUE(QDir(data + "/velara-studio").exists());
-    EXPECT_EQ(chooseProgramFolder("/proc/self", data), data + "/velara-studio");
-    qputenv("HOME", QFile::encodeName(home.path()));
-    for (const char* bad : {"", "relative"}) // unusable values
-        EXPECT_EQ(chooseProgramFolder("/usr/bin", bad), home.path() + "/.local/share/velara-studio");
-    EXPECT_EQ(HomePlatform().programFolder() + "/", builtPath(""));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath("data")));
+    const QString installed = home.filePath("data/velara-studio");
+    EXPECT_EQ(chooseProgramFolder(home.path()), installed); // even if it can be written to
+    EXPECT_TRUE(QDir(installed).exists());
+    QFile(home.filePath("portable")).open(QIODevice::WriteOnly);
+    EXPECT_EQ(chooseProgramFolder(home.path()), home.path());
+    EXPECT_EQ(chooseProgramFolder("/proc/self"), installed);
+    qunsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(HomePlatform().programFolder() + "/", builtPath("")); // a build is portable
 }
 
 TEST(CorePlatform, KeepsSettingsAcrossRuns)

@@ -7,6 +7,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "app/utilities/Recipes.h"
+#include "fileio/disk/userFolders.h"
 #include "seams/Platform.h"
 #include "ui/history/fHistory.h"
 #include "ui/widgets/ScreenColours.h"
@@ -17,7 +18,7 @@
 namespace velara {
 
 fMain::fMain(Platform& platform, Setup& setup)
-    : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp", platform)
+    : platform_(platform), setup_(setup), workspace_(tempFolder(platform.programFolder()), platform)
 {
     setObjectName("fMain");
     setWindowTitle(kProgramName);

@@ -80,6 +80,9 @@ class fMain final : public QMainWindow, public Frame {
     void FillRecent();
     /// Opens the files of a drop, in order; those that are no pictures are named in the status bar.
     void dropFiles(const QStringList& paths);
+    /// Opens files that another program hands over, in order, whatever their names end with. done gets a reason for
+    /// each, empty for one that is open; it is not called while the frame closes.
+    void openFiles(const QStringList& paths, std::function<void(const QStringList& reasons)> done);
     /// The start folder of the file dialogs.
     void setDialogFolder(const QString& folder) { dialogFolder_ = folder; }
 

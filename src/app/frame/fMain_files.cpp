@@ -186,6 +186,24 @@ void fMain::openPicture(const QString& path, Unreadable unreadable)
     });
 }
 
+void fMain::openFiles(const QStringList& paths, std::function<void(const QStringList& reasons)> done)
+{
+    if (paths.isEmpty()) return done({});
+    const auto reasons = std::make_shared<QStringList>(paths.size());
+    const auto opened = [this, paths, reasons, done = std::move(done)](qsizetype at, const Opened& file) {
+        if (file.document)
+            AddRecent(setup_, paths[at]);
+        else
+            (*reasons)[at] =
+                file.reason.isEmpty() ? printable(FileNameOf(paths[at])) + tr(" was not read") : file.reason;
+        if (at + 1 < paths.size()) return;
+        FillRecent();
+        done(*reasons);
+    };
+    for (qsizetype at = 0; at < paths.size(); ++at)
+        openPath(paths[at], Unreadable::Refused, [opened, at](const Opened& file) { opened(at, file); });
+}
+
 void fMain::open()
 {
     if (const auto path = platform_.openFileName({"Open file", openFilter(), dialogFolder_, "*.bmp"}))

@@ -2,6 +2,7 @@
 #include "app/start/defaultPictures.h"
 #include "app/start/fAboutFacts.h"
 #include "fileio/disk/fileBytes.h"
+#include "fileio/disk/userFolders.h"
 #include "seams/Platform.h"
 #include <QBuffer>
 #include <QMouseEvent>
@@ -16,7 +17,8 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
     const QImage& picture = ripples_.picture();
-    const QString path = platform.programFolder() + "logo.bmp"; // no separator: odd, and kept
+    const QString path =
+        userFolder(platform.programFolder(), UserFolder::Cache) + "logo.bmp"; // no separator: odd, and kept
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");

@@ -1,5 +1,6 @@
 #include "app/utilities/Capture.h"
 #include "app/frame/fMain.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/readInBackground.h"
 #include "fileio/savePicture.h"
 #include "pixels/images.h"
@@ -160,7 +161,8 @@ void Capture::makeDocument(const Bits& captured, const QString& reason)
 {
     bringBack();
     Platform& platform = frame_.platform();
-    const auto through = std::make_shared<Through>(Through{platform.programFolder() + "/New.bmp", captured, {}});
+    const QString path = userFolder(platform.programFolder(), UserFolder::Cache) + "/New.bmp";
+    const auto through = std::make_shared<Through>(Through{path, captured, {}});
     inBackground(
         platform, this, [through, &platform](const GoOn& goOn) { through->go(platform, goOn); },
         [this, through, reason] {

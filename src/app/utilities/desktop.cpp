@@ -1,6 +1,7 @@
 #include "app/utilities/desktop.h"
 #include "app/frame/fMain.h"
 #include "fileio/cameraData.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/readInBackground.h"
 #include "seams/Platform.h"
 #include "ui/printing/fPrint.h"
@@ -68,7 +69,7 @@ void setUpPrinter(fMain& frame)
 
 void acquire(fMain& frame)
 {
-    const QString path = frame.platform().programFolder() + "/temp.bmp";
+    const QString path = userFolder(frame.platform().programFolder(), UserFolder::Cache) + "/temp.bmp";
     auto* dialog = new fAcquire(frame.platform(), path, &frame);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     const auto take = [&frame, path, dialog = QPointer(dialog)] {

@@ -1,6 +1,7 @@
 #include "platform/desktop/x11.h"
 #include <QGuiApplication>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -43,6 +44,37 @@ std::vector<std::uint32_t> valuesOf(xcb_connection_t* x, xcb_window_t window, xc
 std::vector<std::uint32_t> rootProperty(xcb_connection_t* x, xcb_atom_t property)
 {
     return valuesOf(x, screenOf(x)->root, property);
+}
+
+void toWindowManager(xcb_connection_t* x, xcb_window_t window, xcb_atom_t type,
+                     const std::array<std::uint32_t, 5>& data)
+{
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = type;
+    std::ranges::copy(data, event.data.data32);
+    xcb_send_event(x, 0, screenOf(x)->root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+}
+
+/// The startup that a launcher has announced is over. The text goes in pieces of 20 bytes, with its end.
+void endStartup(xcb_connection_t* x, xcb_window_t window, const QByteArray& id)
+{
+    constexpr qsizetype kPiece = 20;
+    QByteArray escaped = id;
+    escaped.replace('\\', "\\\\").replace('"', "\\\"");
+    const QByteArray text = "remove: ID=\"" + escaped + '"' + '\0';
+    for (qsizetype at = 0; at < text.size(); at += kPiece) {
+        xcb_client_message_event_t event{};
+        event.response_type = XCB_CLIENT_MESSAGE;
+        event.format = 8;
+        event.window = window;
+        event.type = atom(x, at == 0 ? "_NET_STARTUP_INFO_BEGIN" : "_NET_STARTUP_INFO");
+        std::copy_n(text.begin() + at, std::min(kPiece, text.size() - at), event.data.data8);
+        xcb_send_event(x, 0, screenOf(x)->root, XCB_EVENT_MASK_PROPERTY_CHANGE, reinterpret_cast<const char*>(&event));
+    }
 }
 
 bool isViewable(xcb_connection_t* x, xcb_window_t window)
@@ -100,14 +132,23 @@ bool x11ShowDesktop(bool on)
     const xcb_atom_t showing = atom(x, "_NET_SHOWING_DESKTOP");
     const auto supported = rootProperty(x, atom(x, "_NET_SUPPORTED"));
     if (std::ranges::find(supported, showing) == supported.end()) return false;
-    xcb_client_message_event_t event{};
-    event.response_type = XCB_CLIENT_MESSAGE;
-    event.format = 32;
-    event.window = screenOf(x)->root;
-    event.type = showing;
-    event.data.data32[0] = on;
-    xcb_send_event(x, 0, event.window, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char*>(&event));
+    toWindowManager(x, screenOf(x)->root, showing, {std::uint32_t(on)});
+    xcb_flush(x);
+    return true;
+}
+
+bool x11Activate(std::uint32_t window, const QByteArray& startupId)
+{
+    xcb_connection_t* x = ours();
+    if (!x) return false;
+    constexpr std::uint32_t kApplication = 1, kUser = 2; // who asks: a program, or by it the user
+    const qsizetype at = startupId.lastIndexOf("_TIME");
+    const std::uint32_t time = at < 0 ? 0 : startupId.mid(at + 5).toUInt();
+    if (time != 0)
+        xcb_change_property(x, XCB_PROP_MODE_REPLACE, window, atom(x, "_NET_WM_USER_TIME"), XCB_ATOM_CARDINAL, 32, 1,
+                            &time);
+    toWindowManager(x, window, atom(x, "_NET_ACTIVE_WINDOW"), {time != 0 ? kApplication : kUser, time});
+    if (!startupId.isEmpty()) endStartup(x, window, startupId);
     xcb_flush(x);
     return true;
 }

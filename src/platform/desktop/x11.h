@@ -10,6 +10,10 @@ namespace velara {
 /// Asks the window manager to hide all windows, or to bring them back. True when it supports that.
 bool x11ShowDesktop(bool on);
 
+/// Asks the window manager to give a window of ours the focus. startupId: of the request that wants it; it has the
+/// user's time, and its busy pointer ends. False without an X server.
+bool x11Activate(std::uint32_t window, const QByteArray& startupId);
+
 /// The windows that can be seen, with their frames, in pixels of the root window; topmost first. None without an X
 /// server or a window manager that lists them.
 std::vector<QRect> x11Windows();

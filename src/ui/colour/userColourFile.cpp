@@ -1,6 +1,7 @@
 #include "ui/colour/userColourFile.h"
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/fileBytes.h"
+#include "fileio/disk/userFolders.h"
 #include <QFile>
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,7 +12,10 @@ namespace {
 
 constexpr std::int64_t kMostBytes = 64 << 10; // several times the longest list; the rest is ignored
 
-QString pathIn(const QString& programFolder) { return programFolder + QStringLiteral("/usercolors.cps"); }
+QString pathIn(const QString& programFolder)
+{
+    return userFolder(programFolder, UserFolder::Settings) + QStringLiteral("/usercolors.cps");
+}
 
 /// Creates an empty file, unless the name is taken, even by a dangling link.
 bool made(const QString& path)

@@ -3,6 +3,7 @@
 #include "document/undo/UndoMark.h"
 #include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/formats.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
@@ -78,7 +79,7 @@ FWeb::~FWeb() { end(); }
 
 QString FWeb::temporaryName() const
 {
-    const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
+    const QString folder = tempFolder(platform_.programFolder());
     makePrivateFolder(folder); // it may have been removed meanwhile
     return folder + (settings_.isJpeg() ? QStringLiteral("/J0001.jpg") : QStringLiteral("/G0001.gif"));
 }
@@ -133,7 +134,7 @@ void FWeb::chooseFromTable()
 {
     const QPointer<FWeb> alive = this;
     end(); // a preview under way begins again afterwards
-    const QString folder = platform_.programFolder() + QStringLiteral("/Temp");
+    const QString folder = tempFolder(platform_.programFolder());
     makePrivateFolder(folder);
     const QPointer<fWebTable> table =
         new fWebTable(platform_, picture_, settings_.camera, folder + QStringLiteral("/T0001"), this);
