@@ -2,7 +2,7 @@
 // keeps the few candidates that can be nearest to any colour inside it, so that the table stays in the processor's
 // cache. Cubes are filled when first used.
 #pragma once
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include <array>
 #include <deque>
 #include <vector>

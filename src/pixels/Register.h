@@ -15,7 +15,6 @@ using Lanes = int __attribute__((vector_size(16))); // blue, green, red and the 
 
 namespace detail {
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
-using Shorts = std::int16_t __attribute__((vector_size(16)));
 } // namespace detail
 
 #ifdef __SSE4_1__
@@ -104,11 +103,11 @@ inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi3
 
 using Register = Lanes;
 
-inline Lanes wide(const Pixel& p) { return {p.c[0], p.c[1], p.c[2], p.c[3]}; }
-inline Register inRegister(const Pixel& p) { return {std::bit_cast<int>(p), 0, 0, 0}; }
+inline Lanes wide(const Pixel& p) { return Lanes{p.c[0], p.c[1], p.c[2], p.c[3]}; }
+inline Register inRegister(const Pixel& p) { return Register{std::bit_cast<int>(p), 0, 0, 0}; }
 inline int wordOf(Register v) { return v[0]; }
 inline int secondWordOf(Register v) { return v[1]; }
-inline Register joined(Register a, Register b) { return {a[0], b[0], 0, 0}; }
+inline Register joined(Register a, Register b) { return Register{a[0], b[0], 0, 0}; }
 inline Register fourOf(const Pixel* p)
 {
     Register v;
@@ -149,7 +148,7 @@ inline int nearestEntry(Register distances, Register candidates)
 inline void transpose(Register (&r)[4])
 {
     const Register a = r[0], b = r[1], c = r[2], d = r[3];
-    for (int i = 0; i < 4; ++i) r[i] = {a[i], b[i], c[i], d[i]};
+    for (int i = 0; i < 4; ++i) r[i] = Register{a[i], b[i], c[i], d[i]};
 }
 inline int errorOf(Register p, Register found)
 {
@@ -172,5 +171,24 @@ inline Register plusError(Register both, Register p, Register found)
 }
 
 #endif
+
+// --- A pixel as four integers, for error diffusion
+
+inline Lanes absolute(Lanes v) { return v < 0 ? -v : v; }
+inline Lanes limited(Lanes v, int least, int most)
+{
+    v = v < least ? Lanes{} + least : v;
+    return v > most ? Lanes{} + most : v;
+}
+
+/// The three channels as one number, without the fourth byte.
+inline std::uint32_t channelBits(const Pixel& p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
+/// Low byte of each lane.
+inline Pixel narrow(Lanes v)
+{
+    const auto bytes = std::bit_cast<detail::Bytes>(v);
+    const auto low = __builtin_shufflevector(bytes, bytes, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12);
+    return std::bit_cast<Pixel>(std::bit_cast<Lanes>(low)[0]);
+}
 
 } // namespace velara

@@ -3,7 +3,7 @@
 #include "engine/colour/mPalette.h"
 #include "engine/passes.h"
 #include "pixels/NearestColours.h"
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include "pixels/numbers.h"
 
 namespace velara {
