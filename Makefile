@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan bench-window bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -33,6 +33,10 @@ test-tsan: setup
 	cmake --preset tsan >/dev/null
 	nice -n 10 cmake --build --preset tsan --parallel 2 --target tests_of_threads
 	nice -n 10 ctest --test-dir build/tsan --output-on-failure -j 2 -L threads
+
+# The kernels on arm64, cross-compiled, by qemu; says so where a tool for that is missing.
+test-arm64:
+	@scripts/test_arm64.sh
 
 # Random actions on the whole editor under the sanitizers for MONKEY_S seconds, on a new seed each time; VELARA_SEED=N repeats
 # a run. The editor can write nothing outside of its scratch folder.
@@ -65,6 +69,10 @@ bench-formats: all
 # Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
 bench-check: all
 	@scripts/bench_check.py $(RELEASE)/bin/velara-bench
+
+# The same work by OpenCV, libvips, gm and convert, those that are installed, and the growth with the picture, into docs/speed.md.
+bench-peers: all
+	@/usr/bin/python3 scripts/bench_peers.py $(RELEASE)/bin --into docs/speed.md
 
 # For how long the window's thread is busy at a time, a row a command word: make bench-window SIZE=16000x8000 WORDS="UNDO 50"
 SIZE ?= 6000x4000

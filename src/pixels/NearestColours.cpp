@@ -63,24 +63,20 @@ void NearestColours::colour(const Pixel* from, Pixel* to, int count)
 /// colour() for four pixels at once. False unless all of them are in cubes with few candidates.
 bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
 {
-    const __m128i p = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    const Register p = fourOf(from);
     std::array<std::uint32_t, 4> cubes;
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(cubes.data()), cubesOf(p));
-    const auto cube = [&](std::size_t i) { return std::bit_cast<__m128i>(cubes_[cubes[i]]); };
-    const __m128i first = _mm_unpacklo_epi32(cube(0), cube(1)), second = _mm_unpacklo_epi32(cube(2), cube(3)),
-                  third = _mm_unpackhi_epi32(cube(0), cube(1)), last = _mm_unpackhi_epi32(cube(2), cube(3));
-    const __m128i candidates[kFew] = {_mm_unpacklo_epi64(first, second), _mm_unpackhi_epi64(first, second),
-                                      _mm_unpacklo_epi64(third, last), _mm_unpackhi_epi64(third, last)};
-    const auto entry = [](__m128i v) { return _mm_srli_epi32(v, 24); };
-    if (_mm_movemask_epi8(_mm_cmpgt_epi32(entry(candidates[0]), entry(candidates[kFew - 1]))) != 0) return false;
-    __m128i best = candidates[0], least = distances(best, p);
+    put(cubesOf(p), cubes.data());
+    Register candidates[kFew];
+    for (std::size_t i = 0; i < kFew; ++i) candidates[i] = std::bit_cast<Register>(cubes_[cubes[i]]);
+    transpose(candidates);
+    if (anyGreater(entriesOf(candidates[0]), entriesOf(candidates[kFew - 1]))) return false;
+    Register best = candidates[0], least = distances(best, p);
     for (int i = 1; i < kFew; ++i) {
-        const __m128i distance = distances(candidates[i], p);
-        best = _mm_blendv_epi8(best, candidates[i], _mm_cmpgt_epi32(least, distance));
-        least = _mm_min_epi32(least, distance);
+        const Register distance = distances(candidates[i], p);
+        best = whereGreater(least, distance, best, candidates[i]);
+        least = lesser(least, distance);
     }
-    const __m128i fourth = _mm_set1_epi32(static_cast<int>(0xFF000000));
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_blendv_epi8(best, p, fourth));
+    put(withFourth(best, p), to);
     return true;
 }
 
@@ -128,7 +124,7 @@ NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::ar
 int NearestColours::lookCloser(Pixel p)
 {
     if (!bySum_.empty()) return bySum_[std::size_t(p.c[0] + p.c[1] + p.c[2])];
-    Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(inRegister(p))))];
+    Cube& cube = cubes_[std::size_t(wordOf(cubesOf(inRegister(p))))];
     if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
     if (cube.hasFew()) return among(cube, inRegister(p));
     const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };

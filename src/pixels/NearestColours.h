@@ -2,7 +2,7 @@
 // keeps the few candidates that can be nearest to any colour inside it, so that the table stays in the processor's
 // cache. Cubes are filled when first used.
 #pragma once
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include <array>
 #include <deque>
 #include <vector>
@@ -22,18 +22,18 @@ class NearestColours {
     /// Index of the nearest colour, ties to the lowest index. The fourth byte is ignored.
     int operator()(Pixel p) { return (*this)(inRegister(p)); }
     /// The same for a pixel in the low four bytes of a register.
-    int operator()(__m128i p)
+    int operator()(Register p)
     {
-        const Cube& cube = cubes_[std::size_t(_mm_cvtsi128_si32(cubesOf(p)))];
+        const Cube& cube = cubes_[std::size_t(wordOf(cubesOf(p)))];
         if (!cube.hasFew()) [[unlikely]]
-            return lookCloser(std::bit_cast<Pixel>(_mm_cvtsi128_si32(p)));
+            return lookCloser(std::bit_cast<Pixel>(wordOf(p)));
         return among(cube, p);
     }
     /// Replaces count pixels by their nearest colours; fourth bytes are copied from from.
     void colour(const Pixel* from, Pixel* to, int count);
 
   private:
-    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kLevels = 1 << kOutside, kFew = 4;
+    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kFew = 4;
 
     /// Candidate colours with their indices as fourth bytes, ascending, the last one repeated to fill up. Indices out
     /// of order mark a cube that is crowded or not filled yet; its first colour is then a number, see kUnknown.
@@ -54,36 +54,18 @@ class NearestColours {
     static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of a cube that is not filled yet
     static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
 
-    /// Cube numbers of four pixels, from the high bits of the channels: red, green, blue.
-    static __m128i cubesOf(__m128i pixels)
+    /// Cube numbers of four pixels.
+    static Register cubesOf(Register pixels) { return fiveBitsOf(pixels); }
+    static_assert(kInside == 3);
+    int among(const Cube& cube, Register p) const
     {
-        const __m128i high = _mm_and_si128(pixels, _mm_set1_epi8(-kSide));
-        const __m128i ofTwo = _mm_maddubs_epi16(high, _mm_set1_epi32(1 << 16 | kLevels << 8 | 1));
-        return _mm_srli_epi32(_mm_madd_epi16(ofTwo, _mm_set1_epi32(kLevels * kLevels << 16 | 1)), kInside);
+        const auto all = std::bit_cast<Register>(cube);
+        return nearestEntry(distances(all, fourTimes(p)), all);
     }
-    int among(const Cube& cube, __m128i p) const
+    Register distances(Register a, Register b) const
     {
-        const __m128i all = std::bit_cast<__m128i>(cube);
-        const __m128i four = _mm_shuffle_epi32(p, 0);
-        // Indices in the low bits break ties.
-        const __m128i ranked = _mm_or_si128(_mm_slli_epi32(distances(all, four), 8), _mm_srli_epi32(all, 24));
-        const __m128i two = _mm_min_epi32(ranked, _mm_shuffle_epi32(ranked, 0x4E));
-        return _mm_cvtsi128_si32(_mm_min_epi32(two, _mm_shuffle_epi32(two, 0xB1))) & 255;
-    }
-    __m128i distances(__m128i a, __m128i b) const
-    {
-        const __m128i off = _mm_or_si128(_mm_subs_epu8(a, b), _mm_subs_epu8(b, a));
-        return distance_ == Distance::Sum ? sums(off) : squares(off);
-    }
-    static __m128i sums(__m128i off)
-    {
-        return _mm_madd_epi16(_mm_maddubs_epi16(off, _mm_set1_epi32(0x010101)), _mm_set1_epi16(1));
-    }
-    static __m128i squares(__m128i off)
-    {
-        const __m128i outer = _mm_and_si128(off, _mm_set1_epi32(0xFF00FF));
-        const __m128i middle = _mm_and_si128(_mm_srli_epi32(off, 8), _mm_set1_epi32(0xFF));
-        return _mm_add_epi32(_mm_madd_epi16(outer, outer), _mm_madd_epi16(middle, middle));
+        const Register off = differences(a, b);
+        return distance_ == Distance::Sum ? sumsOf(off) : squaresOf(off);
     }
 
     bool fourFew(const Pixel* from, Pixel* to) const;

@@ -1,7 +1,7 @@
 // Approximates colours by mixtures of palette entries. The mean of a mixture is the colour, as far as the palette
 // reaches, and its entries are as near to the colour as the palette allows: a screen of dots is as fine as the palette.
 #pragma once
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include <array>
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "reduce/dither.h"
 #include "pixels/NearestColours.h"
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/parallelFor.h"
 #include "reduce/DotScreen.h"

@@ -3,7 +3,7 @@
 #include "engine/colour/mPalette.h"
 #include "engine/passes.h"
 #include "pixels/NearestColours.h"
-#include "pixels/PixelLanes.h"
+#include "pixels/Register.h"
 #include "pixels/numbers.h"
 
 namespace velara {
@@ -24,9 +24,9 @@ class Nearest {
         colours_ = std::move(pixels);
     }
     /// The palette's colour, its fourth byte 0. Overflow if it isn't made of bytes; OutOfRange without a palette.
-    __m128i operator()(__m128i p)
+    Register operator()(Register p)
     {
-        return inRegister(nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(_mm_cvtsi128_si32(p)));
+        return inRegister(nearest_ ? colours_[std::size_t((*nearest_)(p))] : oneByOne(wordOf(p)));
     }
 
   private:
@@ -75,7 +75,7 @@ class Diffusion {
     {
         const bool low = y < source_.maxY();
         Pixel *from = source_.row(y), *to = out_.row(y);
-        __m128i p = inRegister(from[columns.begin < columns.end ? columns.begin : 0]);
+        Register p = inRegister(from[columns.begin < columns.end ? columns.begin : 0]);
         for (int x = columns.begin; x < columns.end; ++x) {
             const bool inner = x < source_.maxX();
             p = pixel(p, from + x, to + x, inner, inner && low && x >= 1);
@@ -89,7 +89,7 @@ class Diffusion {
     {
         const auto stride = source_.stride() - kLag;
         Pixel *from = source_.row(y), *to = out_.row(y);
-        __m128i p[kAbreast];
+        Register p[kAbreast];
         for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(from[step.begin + i * stride]);
         for (int x = step.begin; x < step.end; ++x)
 #pragma GCC unroll 4
@@ -98,32 +98,18 @@ class Diffusion {
     }
 
     /// p: the pixel at from. Returns the one after it, errors added, which is in a register for the next step.
-    [[gnu::always_inline]] __m128i pixel(__m128i p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
+    [[gnu::always_inline]] Register pixel(Register p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
     {
-        const __m128i found = nearest_(p);
-        *to = pixelFrom(static_cast<std::uint32_t>(_mm_cvtsi128_si32(found)) | (wordOf(*to) & kFourthByte));
-        const __m128i next = inRegister(from[1]); // may be margin
-        const __m128i off = _mm_sad_epu8(_mm_and_si128(p, _mm_cvtsi32_si128(~kFourthByte)), found);
-        if (_mm_cvtsi128_si32(off) <= kUnseen) return next;
+        const Register found = nearest_(p);
+        *to = pixelFrom(static_cast<std::uint32_t>(wordOf(found)) | (wordOf(*to) & kFourthByte));
+        const Register next = inRegister(from[1]); // may be margin
+        if (errorOf(p, found) <= kUnseen) return next;
         Pixel& below = from[source_.stride()];
-        const __m128i both = plusError(_mm_unpacklo_epi32(next, inRegister(below)), p, found);
-        if (toBelow) below = std::bit_cast<Pixel>(_mm_extract_epi32(both, 1));
+        const Register both = plusError(joined(next, inRegister(below)), p, found);
+        if (toBelow) below = std::bit_cast<Pixel>(secondWordOf(both));
         if (!toRight) return next;
-        from[1] = std::bit_cast<Pixel>(_mm_cvtsi128_si32(both));
+        from[1] = std::bit_cast<Pixel>(wordOf(both));
         return both;
-    }
-
-    /// The pixels to the right and below, plus seven and four sixteenths of the error, truncated toward zero, clamped
-    /// to bytes.
-    static __m128i plusError(__m128i both, __m128i p, __m128i found)
-    {
-        const __m128i twice = _mm_set_epi8(-1, 3, -1, 2, -1, 1, -1, 0, -1, 3, -1, 2, -1, 1, -1, 0);
-        const __m128i error = _mm_sub_epi16(_mm_shuffle_epi8(p, twice), _mm_shuffle_epi8(found, twice));
-        const __m128i share = _mm_mullo_epi16(error, _mm_set_epi16(0, 4, 4, 4, 0, 7, 7, 7));
-        const __m128i upwards = _mm_srli_epi16(_mm_srai_epi16(share, 15), 12); // 15 where it is negative
-        const __m128i sixteenth = _mm_srai_epi16(_mm_add_epi16(share, upwards), 4);
-        const __m128i sum = _mm_add_epi16(_mm_cvtepu8_epi16(both), sixteenth);
-        return _mm_packus_epi16(sum, sum);
     }
 
     Bits &source_, &out_;
