@@ -1,6 +1,6 @@
 // Screen capture through the portal, played by a mock on a private bus.
 #include "PrivateBus.h"
-#include "platform/desktop/QtScreen.h"
+#include "platform/desktop/screen/QtScreen.h"
 #include "support/RecordingPlatform.h"
 #include "support/files.h"
 #include "support/pictures.h"

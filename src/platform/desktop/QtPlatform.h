@@ -5,10 +5,10 @@
 #include "platform/FilePreviews.h"
 #include "platform/desktop/DesktopWallpaper.h"
 #include "platform/desktop/QtFonts.h"
-#include "platform/desktop/QtScreen.h"
 #include "platform/desktop/SaneScanner.h"
 #include "platform/desktop/clipboard/QtClipboard.h"
 #include "platform/desktop/printing/CupsPrinters.h"
+#include "platform/desktop/screen/QtScreen.h"
 
 namespace velara {
 

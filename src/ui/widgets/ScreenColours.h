@@ -1,7 +1,7 @@
 // ScreenColours: the tables by which pictures are shown in the colours of each screen. The program has one, or none
 // where that isn't wanted; it follows the profiles as they change.
 #pragma once
-#include "platform/desktop/ScreenProfiles.h"
+#include "platform/desktop/screen/ScreenProfiles.h"
 #include "ui/widgets/ColourTable.h"
 #include <QPointer>
 #include <map>

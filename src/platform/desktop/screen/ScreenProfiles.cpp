@@ -1,4 +1,4 @@
-#include "platform/desktop/ScreenProfiles.h"
+#include "platform/desktop/screen/ScreenProfiles.h"
 #include "platform/desktop/x11.h"
 #include <QCoreApplication>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "platform/desktop/QtScreen.h"
+#include "platform/desktop/screen/QtScreen.h"
 #include "fileio/readInBackground.h"
 #include "pixels/numbers.h"
 #include "platform/desktop/PortalRequest.h"
