@@ -24,6 +24,7 @@ TELLERS = {
     "src/fileio/formats.h: at the end of `kFormats`": "src/fileio/decode/decode.cpp",
     "src/fileio/formats.h: at the end of `kOpened`": "src/fileio/formats.cpp",
     "src/fileio/formats.h: at the end of `kFamilies`": "src/fileio/formats.cpp",
+    "src/fileio/mimeTypes.h: at the end of `kMimeTypes`": "src/fileio/formats.cpp",
     "src/fileio/decode/decode.cpp: at the end of `kReaders`": "src/fileio/decode/decode.cpp",
     "src/fileio/SetupStore.cpp: at the end of `kFields`": "src/fileio/SetupStore.cpp",
 }

@@ -1,4 +1,5 @@
 #include "fileio/formats.h"
+#include "fileio/mimeTypes.h" // which is checked against the formats
 #include "seams/text.h"
 #include <QFileInfo>
 #include <QStringList>

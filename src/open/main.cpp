@@ -65,12 +65,12 @@ QStringList urisOf(const QStringList& files)
 Status hand(const OpenWish& wish)
 {
     const HandedOver handed = handOver(wish, findHelper(QStringLiteral("velara-studio")));
-    if (handed.state == HandedOver::NotStarted) {
-        complain(QStringLiteral("Velara Studio could not be started"));
-        return NoEditor;
-    }
-    if (handed.state == HandedOver::NoAnswer) {
-        complain(QStringLiteral("Velara Studio doesn't answer ") + printable(handed.reasons.join(u' ')));
+    if (handed.state != HandedOver::Done) {
+        const bool started = handed.state == HandedOver::NoAnswer;
+        const QString why = handed.reasons.isEmpty() ? QString() : QStringLiteral(": ") + handed.reasons.join(u' ');
+        complain(QStringLiteral("Velara Studio ") +
+                 (started ? QStringLiteral("doesn't answer") : QStringLiteral("could not be started")) +
+                 printable(why));
         return NoEditor;
     }
     Status status = Opened;

@@ -20,6 +20,16 @@ leave() { # the editor is no child of this script
     [ -z "$(find "$XDG_RUNTIME_DIR" -name '*.socket')" ] || fail "a socket is left behind"
 }
 
+# Nothing to start it on, and nothing to reach it by
+status=0
+(unset DISPLAY && hand plain) || status=$?
+[ "$status" = 3 ] || fail "without a display it gave $status"
+says 'could not be started'
+status=0
+(export HOME=/proc/none XDG_RUNTIME_DIR=/proc/none && hand plain) || status=$?
+[ "$status" = 3 ] || fail "without a bus and a folder it gave $status"
+says 'neither a message bus nor a folder'
+
 # Nobody runs: one is started, by two callers at once, and stays when they have ended.
 hand 'a b.png' &
 caller=$!

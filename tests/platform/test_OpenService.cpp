@@ -100,7 +100,7 @@ TEST(OpenService, ASocketAnswersWhenTheFilesAreReadOrTheEditorEnds)
     EXPECT_EQ(first.reply().arguments().value(0).toStringList(), QStringList({"", "it is damaged"}));
     service.reset();
     ASSERT_TRUE(comes([&] { return second.isFinished(); }));
-    EXPECT_TRUE(second.isError());
+    EXPECT_EQ(second.error().name(), kEnded);
     requests.answers[1]({"", ""}); // too late, and harmless
     EXPECT_FALSE(QFile::exists(socket));
     QDBusConnection::disconnectFromPeer("caller");

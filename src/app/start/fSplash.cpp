@@ -17,8 +17,8 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     setWindowTitle("About Velara Studio");
     setAccessibleName(kProgramName);
     const QImage& picture = ripples_.picture();
-    const QString path =
-        userFolder(platform.programFolder(), UserFolder::Cache) + "logo.bmp"; // no separator: odd, and kept
+    const QString program = platform.programFolder(), folder = userFolder(program, UserFolder::Cache);
+    const QString path = folder + (folder == program ? "" : "/") + "logo.bmp"; // no separator there: odd, and kept
     QByteArray bytes;
     QBuffer buffer(&bytes);
     picture.save(&buffer, "BMP");

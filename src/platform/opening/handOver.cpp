@@ -147,6 +147,8 @@ bool hasEnded(const QDBusMessage& answer)
 
 HandedOver handOver(const OpenWish& wish, const QString& editor)
 {
+    if (runtimeFolder().isEmpty() && !sessionBus(kName).isConnected())
+        return {HandedOver::NotStarted, {QStringLiteral("there is neither a message bus nor a folder for its socket")}};
     for (int i = 0; i < kTries; ++i) {
         while (waitpid(-1, nullptr, WNOHANG) > 0) {
         } // one that we have started may have ended again

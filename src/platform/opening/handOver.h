@@ -15,7 +15,7 @@ struct OpenWish {
 struct HandedOver {
     enum State { Done, NotStarted, NoAnswer };
     State state = Done;
-    QStringList reasons = {}; // why files are not open; empty: they are
+    QStringList reasons = {}; // Done: of each file, why it is not open, or empty. Otherwise what is known
 };
 
 /// Waits until the files are read. Of several that call at the same time one starts the editor, the others find it. The
