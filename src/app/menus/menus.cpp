@@ -62,7 +62,7 @@ constexpr MenuRow kMenus[] = {
         {Separator},
         {Item, "EDIT", 11, "Cr&op", "CROP", "Ctrl+Shift+X"},
         {Separator},
-        {SubMenu, "mnuRecipes", 0, "Recip&es"},
+        {SubMenu, "mnuRecipes", 0, "Recipes"},
             {Item, "RECIPE", 0, "&Run Recipe ...", "@RUNRECIPE", "Ctrl+Alt+R"},
             {Item, "RECIPE", 1, "&Save Recipe ...", "@SAVERECIPE"},
             {Item, "RECIPE", 2, "Run on a &Folder ...", "@RUNONFOLDER", "Ctrl+Alt+F"},

@@ -37,10 +37,12 @@ Bits smallCopy(const Bits& picture)
             for (std::size_t x = 0; x < columns.size(); ++x)
                 for (std::size_t c = 0; c < 3; ++c) sums[x / kSamples][c] += from[columns[x]].c[c];
         }
-        for (int x = 0; x < size.width(); ++x)
+        for (int x = 0; x < size.width(); ++x) {
+            small.at(x, y).c[3] = 255; // opaque on whatever it is drawn
             for (std::size_t c = 0; c < 3; ++c)
                 small.at(x, y).c[c] =
                     static_cast<std::uint8_t>(sums[static_cast<std::size_t>(x)][c] / (kSamples * kSamples));
+        }
     }
     return small;
 }

@@ -67,13 +67,15 @@ void fHistory::follow()
     const DocumentHandle document = frame_.active();
     const bool isThere = document && document->PictureExists();
     const UndoStore::Listed listed = isThere ? document->undo.listed() : UndoStore::Listed();
-    if (!(document == document_)) rows_.clear();
+    const bool isSame = document == document_;
+    if (!isSame) rows_.clear();
     document_ = document;
     shown_ = listed.shown;
     std::vector<Row> now;
     for (std::size_t i = 0; i < listed.notes.size(); ++i)
-        now.push_back({listed.notes[i].number, listed.stands[i], static_cast<int>(i) > listed.shown});
-    if (now == rows_) return lstHistory_->setCurrentRow(shown_);
+        now.push_back({listed.notes[i].number, listed.stands[i], static_cast<int>(i) == listed.shown,
+                       static_cast<int>(i) > listed.shown});
+    if (isSame && now == rows_) return lstHistory_->setCurrentRow(shown_);
     fill(listed.notes, now);
     rows_ = std::move(now);
     lstHistory_->setCurrentRow(shown_);
@@ -91,7 +93,7 @@ void fHistory::fill(const std::vector<StepNote>& notes, const std::vector<Row>& 
     }
 }
 
-/// What can be redone is slanted, what can't be gone back to is grey.
+/// The present state is bold, what can be redone is slanted, what can't be gone back to is grey.
 void fHistory::describe(QListWidgetItem& item, const StepNote& note, const Row& row) const
 {
     const bool isFirst = note.name.isEmpty() && note.words.isEmpty() && lstHistory_->row(&item) == 0;
@@ -106,6 +108,7 @@ void fHistory::describe(QListWidgetItem& item, const StepNote& note, const Row& 
     item.setToolTip(row.stands ? hover : hover + tr("\nThis step is not kept any more."));
     QFont font = item.font();
     font.setItalic(row.isRedo);
+    font.setBold(row.isShown);
     item.setFont(font);
     item.setForeground(row.stands ? QBrush() : palette().brush(QPalette::Disabled, QPalette::Text));
 }
@@ -130,6 +133,7 @@ void fHistory::showMenu(QPoint at)
     menu->setObjectName("mnuHistory");
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setToolTipsVisible(true);
+    connect(menu, &QMenu::aboutToHide, this, [this] { lstHistory_->setCurrentRow(shown_); });
     const auto add = [&](const char* name, const QString& caption, auto signal) {
         QAction* action = menu->addAction(caption);
         action->setObjectName(QLatin1String(name));

@@ -34,7 +34,7 @@ class fHistory final : public QWidget {
   private:
     struct Row {
         int number;
-        bool stands, isRedo;
+        bool stands, isShown, isRedo;
         friend bool operator==(const Row&, const Row&) = default;
     };
     void fill(const std::vector<StepNote>& notes, const std::vector<Row>& now);

@@ -11,7 +11,8 @@ namespace velara {
 
 QStringList argumentsOf(const FolderOrder& order)
 {
-    QStringList arguments{QStringLiteral("--report"), QStringLiteral("-"), QStringLiteral("--recipe"), order.recipe};
+    QStringList arguments = order.inputs; // full paths, which can't be taken for steps or options
+    arguments << QStringLiteral("--report") << QStringLiteral("-") << QStringLiteral("--recipe") << order.recipe;
     const auto add = [&](const char* option, const QString& value) {
         if (!value.isEmpty()) arguments << QLatin1String(option) << value;
     };
@@ -25,7 +26,7 @@ QStringList argumentsOf(const FolderOrder& order)
         add("--format", order.format);
         if (order.quality > 0) add("--quality", QString::number(order.quality));
     }
-    return arguments << QStringLiteral("--") << order.inputs;
+    return arguments;
 }
 
 FolderRun::FolderRun(QObject* parent) : QObject(parent)

@@ -49,6 +49,7 @@ QWidget* fFolderRun::makeOrder()
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     makeInputs(*grid);
     cboRecipe_ = named(new QComboBox, "cboRecipe", tr("Recipe"));
     for (const RecipeChoice& choice : recipes_) cboRecipe_->addItem(choice.caption);
@@ -63,8 +64,8 @@ void fFolderRun::makeInputs(QGridLayout& grid)
     lstInputs_ = named(new QListWidget, "lstInputs", tr("Pictures and folders"));
     lstInputs_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     lstInputs_->setTextElideMode(Qt::ElideMiddle);
-    lstInputs_->setMinimumSize(lstInputs_->fontMetrics().averageCharWidth() * 50,
-                               lstInputs_->fontMetrics().lineSpacing() * 5);
+    lstInputs_->setMinimumWidth(lstInputs_->fontMetrics().averageCharWidth() * 50);
+    lstInputs_->setFixedHeight(lstInputs_->fontMetrics().lineSpacing() * 6);
     chkBelow_ = named(new QCheckBox(tr("with the folders &below")), "chkBelow", tr("With the folders below"));
     cmdRemove_ = button("cmdRemove", tr("Re&move"), tr("Remove from the list"));
     auto *file = button("cmdFile", tr("&Picture ..."), tr("Add a picture")),

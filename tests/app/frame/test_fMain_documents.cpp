@@ -229,7 +229,7 @@ TEST_F(FrameDocuments, BoxesAreDockedBehindTabsAndComeBackWhereTheyWereLeft)
     frame->resize(900, 600);
     frame->boxes().showAll();
     QDockWidget *colours = frame->boxes().dock(Boxes::Colours), *textures = frame->boxes().dock(Boxes::Textures);
-    EXPECT_EQ(frame->tabifiedDockWidgets(colours).size(), 2);
+    EXPECT_EQ(frame->tabifiedDockWidgets(colours).size(), 3);
     EXPECT_EQ(frame->dockWidgetArea(colours), Qt::RightDockWidgetArea);
     EXPECT_FALSE(colours->visibleRegion().isEmpty());
     EXPECT_TRUE(textures->visibleRegion().isEmpty());

@@ -153,9 +153,9 @@ TEST_F(History, ARecipeOfItLeavesOutWhatAHandDidOnlyAfterAsking)
     EXPECT_EQ(fileBytes(path).toStdString(), "velara recipe 1\n--select rect:3,2,17,14\nINVERT\nFLIPH\n");
     chooseOf(4, "mnuCopyCommand");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "velara-batch input.png --select rect:3,2,17,14 FLIPH output.png");
-    platform.answers = {"/nowhere/a.recipe"};
+    platform.answers = {path + "/b.recipe"}; // a file is no folder
     chooseOf(4, "mnuSaveRecipe");
-    EXPECT_TRUE(last().ends_with("/nowhere/a.recipe can't be written.")) << last();
+    EXPECT_TRUE(last().ends_with("a.recipe/b.recipe can't be written.")) << last();
 }
 
 TEST_F(History, WhatToolsAndBoxesComputeHasWordsToo)

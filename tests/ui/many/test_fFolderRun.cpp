@@ -53,7 +53,7 @@ exit 1)");
     EXPECT_FALSE(button("cmdRun")->isEnabled());
     ASSERT_TRUE(ends());
     EXPECT_EQ(given().join(' '),
-              "--report - --recipe /r/a.recipe --into /out --name {dir}/{name}.{ext} --existing skip -- " + path("in"));
+              path("in") + " --report - --recipe /r/a.recipe --into /out --name {dir}/{name}.{ext} --existing skip");
     EXPECT_EQ(state(), "1 done, 1 skipped, 1 failed in 0:01");
     ASSERT_EQ(failures()->count(), 1);
     EXPECT_EQ(failures()->item(0)->text(), "c\\x01.png: its end is missing");
@@ -79,7 +79,7 @@ TEST_F(FolderRunTest, TheOriginalsAreReplacedOnlyWhenThatIsSaidTwice)
     platform.answers = {"&Replace the originals"};
     button("cmdRun")->click();
     ASSERT_TRUE(ends());
-    EXPECT_EQ(given().join(' '), "--report - --recipe /r/a.recipe --recursive --in-place --yes -- " + path("in"));
+    EXPECT_EQ(given().join(' '), path("in") + " --report - --recipe /r/a.recipe --recursive --in-place --yes");
 }
 
 TEST_F(FolderRunTest, FormatQualityAndNamesAreGiven)
@@ -98,7 +98,7 @@ TEST_F(FolderRunTest, FormatQualityAndNamesAreGiven)
     existing->setCurrentIndex(existing->findData("number"));
     button("cmdRun")->click();
     ASSERT_TRUE(ends());
-    EXPECT_TRUE(given().join(' ').contains("--name {name}-web.{ext} --existing number --format jpg --quality 70 -- "));
+    EXPECT_TRUE(given().join(' ').contains("--name {name}-web.{ext} --existing number --format jpg --quality 70"));
     recipe.reset(); // the user thought better of it
     QFile::remove(path("given"));
     button("cmdRun")->click();
