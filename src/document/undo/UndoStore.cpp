@@ -225,11 +225,7 @@ void UndoStore::Series::keepRecord(int step, int top)
         if (abandoned || files.folder().isEmpty() || (!about.isUnsaved && !recorded)) return;
         now.about = about;
     }
-    for (int i = 0; i < top; ++i) {
-        KeptState state = of(i);
-        if (of(i).picture) state.file = 0;
-        now.states.push_back(std::move(state));
-    }
+    now.states.assign(states.begin(), states.begin() + top); // without their pictures
     const bool done = ready() && record.write(now);
     const int reason = errno;
     {
