@@ -6,6 +6,7 @@
 #include "app/utilities/Capture.h"
 #include "app/utilities/Clips.h"
 #include "seams/Platform.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -15,6 +16,7 @@ namespace velara {
 fMain::fMain(Platform& platform, Setup& setup)
     : platform_(platform), setup_(setup), workspace_(platform.programFolder() + "/Temp", platform)
 {
+    useSpoken();
     setObjectName("fMain");
     setWindowTitle(kProgramName);
     setMinimumSize(320, 240);
