@@ -11,6 +11,7 @@
 #include "seams/Platform.h"
 #include "ui/history/fHistory.h"
 #include "ui/widgets/ScreenColours.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -20,6 +21,7 @@ namespace velara {
 fMain::fMain(Platform& platform, Setup& setup)
     : platform_(platform), setup_(setup), workspace_(tempFolder(platform.programFolder()), platform)
 {
+    useSpoken();
     setObjectName("fMain");
     setWindowTitle(kProgramName);
     setMinimumSize(320, 240);

@@ -1,6 +1,7 @@
 #include "ui/browse/fAssociation.h"
 #include "fileio/formats.h"
 #include "seams/text.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QGridLayout>
@@ -48,7 +49,9 @@ QWidget* fAssociation::makeRows()
         grid->addWidget(cT, row, 0);
         grid->addWidget(new QLabel(text(family.name)), row++, 1);
     }
-    auto* area = named(new QScrollArea, "areaA", tr("Formats"));
+    auto* area = new QScrollArea;
+    setSpokenRole(*area, QAccessible::Pane);
+    named(area, "areaA", tr("Formats"));
     area->setWidget(picA);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

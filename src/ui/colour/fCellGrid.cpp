@@ -1,6 +1,5 @@
 #include "ui/colour/fCellGrid.h"
 #include "ui/colour/fColourCell.h"
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -29,8 +28,7 @@ void fCellGrid::select(int cell)
     selected_ = std::clamp(cell, 1, kCells);
     const auto now = colour(selected_);
     setAccessibleDescription(tr("Cell %1: %2").arg(selected_).arg(now ? colourText(*now) : tr("empty")));
-    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&event);
+    sayValue(*this);
     update();
 }
 

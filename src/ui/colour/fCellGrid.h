@@ -1,11 +1,12 @@
 // fCellGrid: the cells of the picker's second view, one of them selected.
 #pragma once
 #include "colour/colourCells.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QWidget>
 
 namespace velara {
 
-class fCellGrid final : public QWidget {
+class fCellGrid final : public QWidget, public Spoken {
     Q_OBJECT
   public:
     explicit fCellGrid(QWidget* parent);
@@ -15,6 +16,10 @@ class fCellGrid final : public QWidget {
     std::optional<Colour> colour(int cell) const { return colours_[static_cast<std::size_t>(cell)]; }
     int selected() const { return selected_; }
     void select(int cell);
+    QAccessible::Role spokenRole() const override { return QAccessible::ColorChooser; }
+    QString spokenValue() const override { return accessibleDescription(); }
+    std::optional<Range> spokenRange() const override { return Range{selected_, 1, kCells}; }
+    void setSpoken(int value) override { moveTo(value); }
 
   signals:
     void selectedCell(int cell); // clicked, or reached by an arrow key

@@ -27,6 +27,7 @@ void fColourCell::setColour(Colour colour)
     colour_ = colour & 0xFFFFFF;
     setToolTip(colourText(colour_));
     setAccessibleDescription(toolTip());
+    sayValue(*this);
     update();
 }
 

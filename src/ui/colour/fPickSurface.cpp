@@ -1,5 +1,4 @@
 #include "ui/colour/fPickSurface.h"
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
@@ -43,9 +42,21 @@ void fPickSurface::describe(const QString& text)
 {
     if (text == accessibleDescription()) return;
     setAccessibleDescription(text);
-    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&event);
+    sayValue(*this);
 }
+
+QAccessible::Role fPickSurface::spokenRole() const
+{
+    return isStrip() ? QAccessible::Slider : QAccessible::ColorChooser;
+}
+
+std::optional<Spoken::Range> fPickSurface::spokenRange() const
+{
+    if (!isStrip()) return {};
+    return Range{place_.y(), 0, std::max(image_.height() - 1, 0)};
+}
+
+void fPickSurface::setSpoken(int value) { pick({0, value}); }
 
 QPoint fPickSurface::placeAt(QPointF at) const
 {

@@ -1,12 +1,13 @@
 // fPickSurface: a picture of colours to pick from, by mouse and by keys: the plane and the strip of the colour box, the
 // field and the strip of the picker. Knows no colours; it reports positions.
 #pragma once
+#include "ui/widgets/inputs/Spoken.h"
 #include <QImage>
 #include <QWidget>
 
 namespace velara {
 
-class fPickSurface final : public QWidget {
+class fPickSurface final : public QWidget, public Spoken {
     Q_OBJECT
   public:
     enum class Mark { None, Ring, Arrows };
@@ -26,6 +27,10 @@ class fPickSurface final : public QWidget {
     QPoint place() const { return place_; }
     /// The picked colour as a text for screen readers.
     void describe(const QString& text);
+    QAccessible::Role spokenRole() const override;
+    QString spokenValue() const override { return accessibleDescription(); }
+    std::optional<Range> spokenRange() const override;
+    void setSpoken(int value) override;
 
   signals:
     void picked(QPoint place); // pressed, dragged to, or reached by arrow keys; within the picture
@@ -46,6 +51,7 @@ class fPickSurface final : public QWidget {
 
   private:
     QRect surface() const; // inside the frame
+    bool isStrip() const { return look_.shown.width() == 1; }
     QPoint placeAt(QPointF at) const;
     void pick(QPoint place);
     void drawMark(class QPainter& painter) const;

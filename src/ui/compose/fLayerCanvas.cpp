@@ -1,6 +1,7 @@
 #include "ui/compose/fLayerCanvas.h"
 #include "pixels/images.h"
 #include "text/visibleColour.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/Mark.h"
 #include "ui/widgets/marks/grips.h"
@@ -87,7 +88,7 @@ std::array<int, 3> gripPlaces(int from, int length, int room)
 } // namespace
 
 fLayerCanvas::fLayerCanvas(Layers& layers)
-    : fPicture(QStringLiteral("picImage"), tr("Picture with its texts")), layers_(layers),
+    : fPicture(QStringLiteral("picImage"), tr("Picture with its texts"), nullptr, QAccessible::Canvas), layers_(layers),
       cursor_(new Mark(paintCaret, QStringLiteral("Cursor"), this))
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -96,6 +97,7 @@ fLayerCanvas::fLayerCanvas(Layers& layers)
     for (int i = 0; i < 8; ++i) {
         grips_[std::size_t(i)] = new Mark(paintGrip, QStringLiteral("lblGrip_%1").arg(i), this);
         QWidget& grip = *grips_[std::size_t(i)];
+        setSpokenRole(grip, QAccessible::Grip);
         grip.setFixedSize(kGrip, kGrip);
         grip.setCursor(kGrips[i].pointer);
         grip.installEventFilter(this);
@@ -140,7 +142,9 @@ void fLayerCanvas::removeSelected()
 void fLayerCanvas::makeWidgets(int index)
 {
     auto* surface = new Surface(layers_, index, *this);
-    auto* outline = named(new QWidget(this), QStringLiteral("lblShape_%1").arg(index), tr("Text %1").arg(index - 1));
+    auto* outline = new QWidget(this);
+    setSpokenRole(*outline, QAccessible::Graphic);
+    named(outline, QStringLiteral("lblShape_%1").arg(index), tr("Text %1").arg(index - 1));
     outline->setMouseTracking(true);
     outline->setCursor(Qt::SizeAllCursor);
     outline->installEventFilter(this);

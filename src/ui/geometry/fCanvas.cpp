@@ -4,6 +4,7 @@
 #include "pixels/images.h"
 #include "pixels/numbers.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include <QGroupBox>
 #include <QLabel>
@@ -34,6 +35,8 @@ constexpr int kMiddle = 4;
 fCanvasView::fCanvasView(const Bits& picture)
     : small_(fittingCopy(picture, kBox)), size_(picture.width(), picture.height()), image_(new QWidget(this))
 {
+    setSpokenRole(*this, QAccessible::Canvas);
+    setSpokenRole(*image_, QAccessible::Graphic);
     setObjectName("iCnv");
     setAccessibleName("Canvas");
     setFixedSize(kBox);

@@ -1,5 +1,6 @@
 #include "ui/printing/fPagePreview.h"
 #include "pixels/images.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QPainter>
 #include <algorithm>
 
@@ -8,6 +9,7 @@ namespace velara {
 fPagePreview::fPagePreview(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent)
     : QWidget(parent)
 {
+    setSpokenRole(*this, QAccessible::Graphic);
     setObjectName(objectName);
     setAccessibleName(accessibleName);
     setFixedSize(box);

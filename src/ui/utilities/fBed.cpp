@@ -1,5 +1,6 @@
 #include "ui/utilities/fBed.h"
 #include "pixels/images.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/marks/grips.h"
 #include <QApplication>
@@ -22,6 +23,7 @@ double between(double least, double value, double most) { return std::max(least,
 
 fBed::fBed() : hold_(kNothing)
 {
+    setSpokenRole(*this, QAccessible::Canvas);
     named(this, "fBed", tr("Preview of the scanner's bed"));
     setFixedSize(kSize);
     setMouseTracking(true);

@@ -7,6 +7,7 @@
 #include "seams/Setup.h"
 #include "seams/sizeText.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"
 #include <QBoxLayout>
@@ -51,6 +52,7 @@ class ClipPicture final : public QWidget {
   public:
     explicit ClipPicture(const QString& name)
     {
+        setSpokenRole(*this, QAccessible::Graphic);
         named(this, name, fPaste::tr("Picture of the clip"));
         setFixedSize(kThumbnail);
     }

@@ -77,11 +77,57 @@ void fDisplay::paintEvent(QPaintEvent* event)
     if (!document_.PictureExists()) return painter.fillRect(event->rect(), palette().dark());
     spot_.ratio = devicePixelRatioF();
     drawPicture(painter, event->region());
+    drawOver(painter);
+}
+
+/// The line round the pointer, and the crosshair; visible on every picture.
+void fDisplay::drawOver(QPainter& painter)
+{
     const QPolygon line = footprintLine_.translated(footprintPlace());
-    for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) { // visible on every picture
+    for (const QPen& pen : {QPen(Qt::white, 1), QPen(Qt::black, 1, Qt::DashLine)}) {
         painter.setPen(pen);
         painter.drawPolygon(line);
     }
+    if (!cross_) return;
+    for (const QPen& pen : {QPen(Qt::white, 3), QPen(Qt::black, 1)}) {
+        painter.setPen(pen);
+        painter.drawLines(crossLines());
+    }
+}
+
+/// Four arms, pairs of ends, around the crosshair's pixel.
+QPolygon fDisplay::crossLines() const
+{
+    constexpr int kGap = 2, kArm = 9;
+    const QPoint at = *cross_ * spot_.zoom - QPoint(spot_.scrollX, spot_.scrollY), beyond(spot_.zoom, spot_.zoom);
+    const QPoint middle = at + beyond / 2;
+    QPolygon lines;
+    for (const auto& [x, y] : {std::pair(-1, 0), {1, 0}, {0, -1}, {0, 1}}) {
+        const QPoint way(x, y), from = middle + way * (spot_.zoom / 2 + kGap);
+        lines << from << from + way * kArm;
+    }
+    return lines;
+}
+
+void fDisplay::showCross(std::optional<QPoint> pixel)
+{
+    const auto updateCross = [this] {
+        if (cross_) update(crossLines().boundingRect().adjusted(-2, -2, 2, 2));
+    };
+    if (pixel == cross_) return;
+    updateCross();
+    cross_ = pixel;
+    updateCross();
+    sayValue(*this);
+}
+
+QString fDisplay::spokenValue() const
+{
+    const Bits& bits = document_.bits();
+    if (!cross_ || cross_->x() < 0 || cross_->y() < 0 || cross_->x() >= bits.width() || cross_->y() >= bits.height())
+        return {};
+    const auto& c = bits.row(cross_->y())[cross_->x()].c;
+    return tr("%1, %2: red %3, green %4, blue %5").arg(cross_->x()).arg(cross_->y()).arg(c[2]).arg(c[1]).arg(c[0]);
 }
 
 void fDisplay::drawPicture(QPainter& painter, const QRegion& region)

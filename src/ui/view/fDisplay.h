@@ -3,6 +3,7 @@
 #pragma once
 #include "region/cBitRegion.h"
 #include "tools/ToolContext.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/viewRender.h"
 #include <QPolygon>
 #include <QWidget>
@@ -11,7 +12,7 @@ namespace velara {
 
 class Document;
 
-class fDisplay final : public QWidget {
+class fDisplay final : public QWidget, public Spoken {
     Q_OBJECT
   public:
     fDisplay(QWidget* view, const Document& document);
@@ -31,6 +32,13 @@ class fDisplay final : public QWidget {
     void updateOutline();
     /// The outline of what a tool would change at a pixel; none for an empty footprint. Repaints along the line only.
     void showFootprint(const Footprint& footprint, QPoint pixel);
+    /// A crosshair around a pixel, which the keys move; none to remove it.
+    void showCross(std::optional<QPoint> pixel);
+    std::optional<QPoint> cross() const { return cross_; }
+
+    QAccessible::Role spokenRole() const override { return QAccessible::Canvas; }
+    /// The crosshair's pixel and its colour.
+    QString spokenValue() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,6 +48,8 @@ class fDisplay final : public QWidget {
     void drawPart(QPainter& painter, const QRect& part);
     void drawPicture(QPainter& painter, const QRegion& region);
     QPoint footprintPlace() const;
+    QPolygon crossLines() const;
+    void drawOver(QPainter& painter);
 
     const Document& document_;
     ViewSpot spot_;
@@ -50,6 +60,7 @@ class fDisplay final : public QWidget {
     Footprint footprint_;
     QPoint footprintAt_;     // the pixel
     QPolygon footprintLine_; // from that pixel's corner
+    std::optional<QPoint> cross_;
 };
 
 } // namespace velara

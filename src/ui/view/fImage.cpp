@@ -129,6 +129,7 @@ void fImage::activate()
 void fImage::deactivate()
 {
     tools_->deactivated();
+    iDst_->showCross({});
     StopTimer();
     UpdateImage();
 }

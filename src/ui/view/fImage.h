@@ -3,7 +3,7 @@
 // marching outline, and the question before the last view closes.
 //
 // Cut by topic: fImage.cpp (picture, names, activation, closing), fImage_view.cpp (layout, zoom, scrolling, outline),
-// fImage_mouse.cpp (what mouse and keys do).
+// fImage_mouse.cpp and fImage_keys.cpp (what mouse and keys do).
 #pragma once
 #include "document/Workspace.h"
 #include "tools/Tools.h"
@@ -149,6 +149,10 @@ class fImage final : public QWidget, public ToolSurface {
     QPoint pixelAt(QPointF at) const;
     int buttonOf(const QMouseEvent& event) const;
     void showFootprint();
+    void moveCross(QPoint by);
+    bool pressAtCross();
+    /// The keys hold the button down.
+    bool keysHold() const { return keysPressed_ && tools_->ToolDown(); }
 
     Frame& frame_;
     std::shared_ptr<Document> shared_;
@@ -172,6 +176,7 @@ class fImage final : public QWidget, public ToolSurface {
     QSize laidOutSize_; // the picture's size at the last layout
     float lastHValue_ = 0, lastVValue_ = 0, lastHMax_ = 0, lastVMax_ = 0;
     QPoint lastPixel_{-1, -1}; // the mouse position at the last event
+    bool keysPressed_ = false; // by Enter; see keysHold
     bool forgotten_ = false, asks_ = false;
     bool speaks_ = false; // the status bar tells of this one among the document's views
     int viewNumber_ = 0;

@@ -26,17 +26,6 @@ int buttonNumber(Qt::MouseButton button)
     }
 }
 
-struct KeyRow {
-    int qt, number;
-};
-constexpr KeyRow kKeys[] = {
-    // clang-format off
-    {Qt::Key_Control, Tools::Ctrl},     {Qt::Key_Space, Tools::Space},    {Qt::Key_Left, Tools::ArrowLeft},
-    {Qt::Key_Escape,  Tools::Escape},   {Qt::Key_Return, Tools::Enter},   {Qt::Key_Enter, Tools::Enter},
-    {Qt::Key_Up,      Tools::ArrowUp},  {Qt::Key_Right, Tools::ArrowRight}, {Qt::Key_Down, Tools::ArrowDown},
-    // clang-format on
-};
-
 } // namespace
 
 QPoint fImage::pixelAt(QPointF at) const
@@ -85,7 +74,9 @@ bool fImage::eventFilter(QObject* watched, QEvent* event)
 void fImage::pressed(const QMouseEvent& event)
 {
     if (!PictureExists()) return;
-    bringToFront(); // a press in an inactive frame arrives before the frame's activation
+    iDst_->showCross({});
+    if (keysHold()) pressAtCross(); // the mouse takes over
+    bringToFront();                 // a press in an inactive frame arrives before the frame's activation
     if (!(event.buttons() & grabButton_)) grabButton_ = Qt::NoButton; // its release went to another window
     if (grabButton_ != Qt::NoButton) return;
     // The middle button moves the picture whatever tool is chosen. The hand keeps a press even where there is nothing
@@ -119,8 +110,10 @@ void fImage::moved(const QMouseEvent& event)
         if (event.buttons() & grabButton_) scrollByHand(event.globalPosition().toPoint());
         return;
     }
+    if (keysHold()) return;
     const QPoint pixel = pixelAt(event.position());
     const bool same = std::exchange(lastPixel_, pixel) == pixel;
+    if (!same) iDst_->showCross({});
     showFootprint();
     if (same) return; // within the same picture pixel
     tools_->move(buttonOf(event), pixel.x(), pixel.y());
@@ -159,13 +152,6 @@ void fImage::wheelTurned(QWheelEvent& event)
     Scroll(hSB_->value() - way.x(), vSB_->value() - way.y());
 }
 
-bool fImage::displayKey(const QKeyEvent& event, bool down)
-{
-    for (const KeyRow& row : kKeys)
-        if (row.qt == event.key()) return down ? tools_->keyDown(row.number) : tools_->keyUp(row.number);
-    return false;
-}
-
 void fImage::showPaste()
 {
     activateWindow();
@@ -187,7 +173,5 @@ void fImage::restPaste()
 bool fImage::dropGesture() { return tools_->drop(); }
 
 void fImage::toolChosen() { tools_->toolChosen(); }
-
-void fImage::idst_KeyUp(int key, int) { tools_->keyUp(key); }
 
 } // namespace velara

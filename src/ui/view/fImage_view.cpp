@@ -95,6 +95,7 @@ void fImage::Scroll(int x, int y)
 
 void fImage::pictureChanged()
 {
+    iDst_->showCross({});
     layOutView();
     tools_->pictureReplaced();
 }

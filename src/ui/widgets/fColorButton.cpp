@@ -22,6 +22,7 @@ void fColorButton::setColour(Colour colour)
     const bool changed = colour != colour_;
     colour_ = colour;
     setToolTip(tr("Red %1, green %2, blue %3").arg(redOf(colour)).arg(greenOf(colour)).arg(blueOf(colour)));
+    sayValue(*this);
     update();
     if (changed) emit colourChanged();
 }

@@ -2,13 +2,14 @@
 // frame.
 #pragma once
 #include "pixels/Bits.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QAbstractButton>
 
 namespace velara {
 
 class Frame;
 
-class fColorButton final : public QAbstractButton {
+class fColorButton final : public QAbstractButton, public Spoken {
     Q_OBJECT
   public:
     /// The frame asks the user for the colour.
@@ -18,6 +19,10 @@ class fColorButton final : public QAbstractButton {
     void setColour(Colour colour); // emits colourChanged if it differs
     void setActive(bool active);
     QSize sizeHint() const override { return {56, 26}; }
+    QAccessible::Role spokenRole() const override { return QAccessible::Button; }
+    QString spokenValue() const override { return toolTip(); }
+    bool isPressable() const override { return true; }
+    void press() override { click(); }
 
   signals:
     void colourChanged();

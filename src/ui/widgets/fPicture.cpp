@@ -2,14 +2,17 @@
 #include "engine/cBitFilter.h"
 #include "pixels/mBitmap.h"
 #include "ui/widgets/ScreenColours.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
 
 namespace velara {
 
-fPicture::fPicture(const QString& objectName, const QString& accessibleName, QWidget* parent) : QWidget(parent)
+fPicture::fPicture(const QString& objectName, const QString& accessibleName, QWidget* parent, QAccessible::Role role)
+    : QWidget(parent)
 {
+    setSpokenRole(*this, role);
     setObjectName(objectName);
     setAccessibleName(accessibleName);
     setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: no background first, no flicker

@@ -9,6 +9,7 @@
 #include "pixels/Bits.h"
 #include "region/Region.h"
 #include "ui/widgets/viewRender.h"
+#include <QAccessible>
 #include <QWidget>
 #include <optional>
 
@@ -17,7 +18,8 @@ namespace velara {
 class fPicture : public QWidget {
     Q_OBJECT
   public:
-    fPicture(const QString& objectName, const QString& accessibleName, QWidget* parent = nullptr);
+    fPicture(const QString& objectName, const QString& accessibleName, QWidget* parent = nullptr,
+             QAccessible::Role role = QAccessible::Graphic);
     /// Keeps the size of box.
     fPicture(const QString& objectName, const QString& accessibleName, QSize box, QWidget* parent = nullptr);
 

@@ -1,4 +1,5 @@
 #include "ui/widgets/fPicturePage.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include "ui/widgets/viewLayout.h"
 #include <QEvent>
@@ -38,6 +39,7 @@ fPicturePage::fPicturePage(const Names& names, const QString& accessibleName, fP
     picture_->setParent(container_);
     named(picture_, QLatin1String(names.picture), accessibleName);
     setFocusPolicy(Qt::StrongFocus);
+    setSpokenRole(*this, QAccessible::Pane);
     setAccessibleName(accessibleName);
     setObjectName(QLatin1String(names.container) + QStringLiteral("Page"));
 

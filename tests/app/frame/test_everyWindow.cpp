@@ -1,7 +1,8 @@
-// Every window that the menus open, the panes and the boxes: controls have names for screen readers, nothing shows raw
-// markup, and every item of a menu has an access key.
+// Every window that the menus open, the panes and the boxes: controls have names and roles for screen readers and can
+// be reached by keyboard, nothing shows raw markup, and every item of a menu has an access key.
 #include "app/frame/frameTest.h"
 #include "app/menus/Boxes.h"
+#include <QAccessible>
 #include <QRegularExpression>
 #include <QtWidgets>
 
@@ -11,7 +12,7 @@ namespace {
 
 struct EveryWindow : FrameTest {
     QSet<QString> seen; // the windows looked at
-    QStringList unnamed, marked;
+    QStringList unnamed, marked, withoutRole, unreached;
 
     static bool isA(const QWidget* widget, std::initializer_list<const char*> classes)
     {
@@ -34,6 +35,25 @@ struct EveryWindow : FrameTest {
                (isButton && !control.property("text").toString().isEmpty()) ||
                std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &control; });
     }
+    static bool takesMouse(const QWidget& widget)
+    {
+        return widget.testAttribute(Qt::WA_SetCursor) && !widget.testAttribute(Qt::WA_TransparentForMouseEvents) &&
+               !widget.objectName().startsWith("qt_");
+    }
+    static bool hasRole(QWidget& control)
+    {
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
+        if (isA(&control, {"QTabWidget"})) return true; // its bar has one
+        return spoken && spoken->role() != QAccessible::Client && spoken->role() != QAccessible::NoRole;
+    }
+    /// By Tab, by an access key, or as one of a group that arrows walk.
+    static bool isReached(const QWidget& control)
+    {
+        const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        const bool isOfGroup = button && (button->autoExclusive() || (button->group() && button->group()->exclusive()));
+        return isOfGroup || !control.isEnabled() || !control.isVisible() || control.focusPolicy() & Qt::TabFocus ||
+               isA(&control, {"QScrollBar"}) || (button && !button->shortcut().isEmpty());
+    }
     void read(const QObject& object)
     {
         static const QRegularExpression markup("</?[a-zA-Z][^<>]*>|&(amp|lt|gt|nbsp);");
@@ -48,11 +68,14 @@ struct EveryWindow : FrameTest {
         seen << window.objectName() + window.windowTitle();
         QList<QWidget*> all = window.findChildren<QWidget*>();
         all << &window;
-        for (const QWidget* widget : all) {
+        for (QWidget* widget : all) {
             read(*widget);
             for (const QAction* action : widget->actions()) read(*action);
-            if (isControl(*widget) && !isNamed(*widget))
-                unnamed << window.objectName() + ": " + widget->metaObject()->className() + ' ' + widget->objectName();
+            const QString shown =
+                window.objectName() + ": " + widget->metaObject()->className() + ' ' + widget->objectName();
+            if (isControl(*widget) && !isNamed(*widget)) unnamed << shown;
+            if ((isControl(*widget) || takesMouse(*widget)) && !hasRole(*widget)) withoutRole << shown;
+            if (window.isModal() && isControl(*widget) && !isReached(*widget)) unreached << shown;
         }
     }
     /// Looks at the windows over the frame and closes them. \returns whether there was one
@@ -91,6 +114,8 @@ TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
     timer.stop();
     EXPECT_GE(seen.size(), 35) << seen.values().join('\n').toStdString();
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
+    EXPECT_TRUE(withoutRole.isEmpty()) << withoutRole.join('\n').toStdString();
+    EXPECT_TRUE(unreached.isEmpty()) << unreached.join('\n').toStdString();
     EXPECT_TRUE(marked.isEmpty()) << marked.join('\n').toStdString();
     for (const std::string& line : platform.log) EXPECT_EQ(line.find("</"), std::string::npos) << line;
 }

@@ -6,6 +6,7 @@
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fPickSurface.h"
 #include "ui/colour/fPicker.h"
+#include <QAccessible>
 #include <unistd.h>
 
 namespace velara {
@@ -124,6 +125,22 @@ TEST_F(Picker, FieldAndStripFollowMouseAndKeysInEachOfTheThreeWays)
     EXPECT_EQ(QPoint(0, 0), field->place());
     QTest::mouseMove(field, {2 + 85, 2 + 255});
     EXPECT_EQ("R: 255\nG: 255\nB: 255\nHex: #FFFFFF", text("lblStatus"));
+}
+
+TEST_F(Picker, ScreenReadersMoveTheStripAndHearTheColours)
+{
+    const auto spoken = [&](const char* name) { return QAccessible::queryAccessibleInterface(find(name)); };
+    QAccessibleInterface *strip = spoken("strip"), *field = spoken("field");
+    ASSERT_EQ(QAccessible::Slider, strip->role());
+    EXPECT_EQ(QAccessible::ColorChooser, field->role());
+    EXPECT_EQ(nullptr, field->valueInterface());
+    QAccessibleValueInterface* value = strip->valueInterface();
+    ASSERT_NE(nullptr, value);
+    value->setCurrentValue(value->maximumValue().toInt() / 2);
+    EXPECT_EQ(value->maximumValue().toInt() / 2, value->currentValue().toInt());
+    value->setCurrentValue(1000000);
+    EXPECT_EQ(value->maximumValue(), value->currentValue()) << "limited";
+    EXPECT_TRUE(field->text(QAccessible::Value).startsWith("Red ")) << field->text(QAccessible::Value).toStdString();
 }
 
 TEST_F(Picker, ModelsRewriteTheLetters)

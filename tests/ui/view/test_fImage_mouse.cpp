@@ -2,6 +2,7 @@
 #include "region/outline.h"
 #include "ui/view/ImageFixture.h"
 #include "ui/view/fDisplay.h"
+#include <QAccessible>
 
 namespace velara {
 
@@ -61,6 +62,50 @@ TEST_F(Mouse, MovesWithinAPixelAreDropped)
     send(QEvent::MouseMove, {-30, 10}, Qt::NoButton, Qt::LeftButton);
     EXPECT_EQ(frame.status[Panel::Pos], "X:0 Y:2") << "a drag beyond the edge";
     EXPECT_EQ(frame.snapshots, 0);
+}
+
+// Arrows move a crosshair, Enter presses and releases; the view follows.
+TEST_F(Mouse, APictureIsDrawnOnByKeysAlone)
+{
+    fImage& w = open(flatBits(100, 80, 0, 0, 0), 60, 50);
+    frame.setup_.ForeColor = 0x0000FF;
+    choose("Pencil");
+    w.setZoomFactor(2);
+    w.Scroll(0, 0);
+    const auto key = [&](Qt::Key k, Qt::KeyboardModifiers with = {}) { QTest::keyClick(iDst(), k, with); };
+    key(Qt::Key_Return);
+    EXPECT_EQ(frame.snapshots, 0) << "no crosshair yet";
+    hover({4, 6});
+    key(Qt::Key_Right); // 3, 3
+    key(Qt::Key_Return);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_TRUE(w.strokeUnderWay());
+    EXPECT_NE(shown(7, 14), 0u) << "seen while it is drawn";
+    key(Qt::Key_Return);
+    EXPECT_FALSE(w.strokeUnderWay());
+    for (int y = 3; y <= 13; ++y) EXPECT_NE(colourAt(w.bits(), 3, y), 0u) << y;
+    EXPECT_EQ(colourAt(w.bits(), 3, 14), 0u);
+    EXPECT_EQ(frame.snapshots, 1);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(iDst());
+    EXPECT_EQ(spoken->role(), QAccessible::Canvas);
+    EXPECT_TRUE(spoken->text(QAccessible::Value).startsWith("3, 13: red "))
+        << spoken->text(QAccessible::Value).toStdString();
+
+    for (int i = 0; i < 20; ++i) key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(frame.status[Panel::Pos], "X:99 Y:13");
+    EXPECT_GT(w.GetSBV().x(), 0) << "the crosshair is kept in sight";
+    key(Qt::Key_Enter);
+    key(Qt::Key_Left, Qt::ShiftModifier);
+    key(Qt::Key_Escape);
+    key(Qt::Key_Return); // nothing is held: presses anew
+    EXPECT_TRUE(w.strokeUnderWay());
+    press({10, 10}); // the mouse takes over
+    release({10, 10});
+    EXPECT_FALSE(w.strokeUnderWay());
+    EXPECT_EQ(frame.snapshots, 3);
+    EXPECT_EQ(colourAt(w.bits(), 93, 13), 0u) << "dropped";
+    key(Qt::Key_Return);
+    EXPECT_FALSE(w.strokeUnderWay()) << "the mouse has removed the crosshair";
 }
 
 TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)

@@ -1,0 +1,99 @@
+"""A screen reader's view of the running editor: walks its windows over the accessibility bus and opens windows by pressing
+menu items there. Prints what has no role or no name; exit status 1 then, 77 where the bus can't be used.
+
+    reader.py WORD...     the object names of menu items that open windows"""
+import sys
+import time
+
+try:
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi, GLib
+except (ImportError, ValueError):
+    sys.exit(77)
+
+PATIENCE = 60
+# What a person can press, set or type into
+WORKED = {"push button", "toggle button", "check box", "radio button", "slider", "spin button", "combo box", "text", "entry",
+          "list", "tree", "tree table", "table", "color chooser", "canvas", "menu item", "check menu item", "page tab"}
+
+
+def waited(find):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        try:
+            found = find()
+        except GLib.Error:  # it went away meanwhile
+            found = None
+        if found:
+            return found
+        time.sleep(0.05)
+    raise SystemExit("waited in vain")
+
+
+def children(node):
+    for i in range(node.get_child_count()):
+        child = node.get_child_at_index(i)
+        if child:
+            yield child
+
+
+def all_below(node, depth=0):
+    yield node
+    if depth < 30:
+        for child in children(node):
+            yield from all_below(child, depth + 1)
+
+
+def editor():
+    desktop = Atspi.get_desktop(0)
+    return next((program for program in children(desktop) if program.get_name() == "velara-studio"), None)
+
+
+def windows(program):
+    return [child for child in children(program) if child.get_state_set().contains(Atspi.StateType.SHOWING)]
+
+
+def look(window, seen, bad):
+    for node in all_below(window):
+        role = node.get_role_name()
+        shown = f"{window.get_name()}: {role} '{node.get_name()}' {node.get_accessible_id() if hasattr(node, 'get_accessible_id') else ''}"
+        focusable = node.get_state_set().contains(Atspi.StateType.FOCUSABLE)
+        if role in WORKED or focusable:
+            seen.append(shown)
+            if role in ("filler", "unknown", "invalid"):
+                bad.append("no role: " + shown)
+            elif not node.get_name() and not node.get_description() and node.get_parent().get_role_name() not in WORKED:
+                bad.append("no name: " + shown)
+
+
+def item(program, name):
+    for window in windows(program):
+        for node in all_below(window):
+            if node.get_name() == name and "menu item" in node.get_role_name():
+                return node
+    return None
+
+
+def main():
+    program = waited(editor)
+    frame = waited(lambda: windows(program))[0]
+    seen, bad = [], []
+    look(frame, seen, bad)
+    for name in sys.argv[1:]:
+        waited(lambda: item(program, name)).get_action_iface().do_action(0)
+        window = waited(lambda: [w for w in windows(program) if w != frame])[-1]
+        look(window, seen, bad)
+        close = next((n for n in all_below(window) if n.get_role_name() == "push button" and n.get_name() in
+                      ("Cancel", "Close", "Exit", "OK")), None)
+        if not close:
+            raise SystemExit(f"{window.get_name()} has no button that closes it")
+        close.get_action_iface().do_action(0)
+        waited(lambda: windows(program) == [frame] or len(windows(program)) == 1)
+    print(f"{len(seen)} controls, {len(bad)} without a role or a name")
+    print("\n".join(sorted(set(bad))))
+    return bool(bad) or len(seen) < 50
+
+
+if __name__ == "__main__":
+    sys.exit(main())
