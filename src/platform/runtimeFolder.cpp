@@ -23,7 +23,10 @@ QString runtimeFolder()
 
 QString sessionName()
 {
-    const QString session = qEnvironmentVariable("XDG_SESSION_ID", qEnvironmentVariable("DISPLAY"));
+    // Where its windows are: a program that the bus has started doesn't know the session's number.
+    QString session;
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_ID"})
+        if (session.isEmpty()) session = qEnvironmentVariable(name);
     return QStringLiteral("velara-studio-") + QLatin1String(QUrl::toPercentEncoding(session).left(40));
 }
 

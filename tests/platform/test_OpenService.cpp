@@ -110,7 +110,8 @@ TEST(OpenService, SocketsOfTheDeadAreRemovedAndOthersLeftAlone)
 {
     const QTemporaryDir run;
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(run.path()));
-    qputenv("XDG_SESSION_ID", "7");
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", "7");
     QProcess dead;
     dead.start("true");
     const auto gone = pid_t(dead.processId());
@@ -120,7 +121,7 @@ TEST(OpenService, SocketsOfTheDeadAreRemovedAndOthersLeftAlone)
     EXPECT_EQ(sockets(), QStringList{ours});
     EXPECT_FALSE(QFile::exists(socketOf(gone)));
     EXPECT_TRUE(QFile::exists(other)) << "of the session \"7-8\"";
-    qunsetenv("XDG_SESSION_ID");
+    display.isEmpty() ? qunsetenv("DISPLAY") : qputenv("DISPLAY", display);
 }
 
 } // namespace velara
