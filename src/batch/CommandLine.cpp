@@ -212,6 +212,8 @@ void takeOne(Given& given)
         throw badArgument(QStringLiteral("-: --format has to say how the picture is written to standard output"));
     if (!isPiped && !line.format.isEmpty())
         throw badArgument(QStringLiteral("--format: the ending of OUTPUT says it; this goes with - or --into"));
+    if (line.input == QStringLiteral("-") && line.page > 1)
+        throw badArgument(QStringLiteral("--page: of standard input the first page alone can be read"));
     if (line.input != QStringLiteral("-") && !line.inputFormat.isEmpty())
         throw badArgument(QStringLiteral("--input-format: this goes with - as INPUT alone"));
     if (line.quality && !isPiped && !hasQuality(extensionOf(line.output)))
@@ -230,6 +232,7 @@ void takeMany(Given& given)
             "--in-place: the originals would be overwritten and lost; say it once more with --yes if that is meant"));
     if (many.inPlace && (!line.format.isEmpty() || line.web || line.icon))
         throw badArgument(QStringLiteral("--in-place: the pictures keep their names and formats"));
+    if (line.page > 1) throw badArgument(QStringLiteral("--page: this goes with one INPUT alone"));
     if (many.existing == Existing::Number && many.shard.count > 1)
         throw badArgument(QStringLiteral("--existing number: shards can't agree about numbers; take skip or newer"));
     NamePattern{many.pattern};

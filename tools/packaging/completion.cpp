@@ -1,6 +1,6 @@
 #include "completion.h"
 #include "batch/CommandLine.h"
-#include "batch/words.h"
+#include "commands/recipe/stepWords.h"
 #include "fileio/formats.h"
 #include "open/help.h"
 #include "seams/text.h"
@@ -49,7 +49,7 @@ Program openProgram(const QString& name)
 Program batchProgram()
 {
     Program program{"velara-batch", optionsOf(helpText()), {}, {}};
-    for (const Word& word : words()) program.words.append({text(word.word), word.meaning});
+    for (const StepWord& word : stepWords()) program.words.append({text(word.word), word.meaning});
     for (const Operation* operation : stepOperations()) program.words.append({text(operation->name) + u'(', {}});
     // An option whose help says "--name a|b|c" takes one of these.
     static const QRegularExpression kChoice(QStringLiteral("(--[a-z-]+) ([a-z-]+(?:\\|[a-z-]+)+)"));
