@@ -242,9 +242,9 @@ TEST_F(SavePicture, AQualityIsThatOfTheFormatsThatHaveOne)
     const auto bytes = [&](const QString& ending, int quality) {
         SaveWishes wishes;
         wishes.quality = quality;
-        EXPECT_EQ(SaveResult::Written,
-                  writePicture(randomBits(60, 40, 1), path("a." + ending), ending, OutputFile::Links::Follow, {}, wishes)
-                      .result);
+        EXPECT_EQ(SaveResult::Written, writePicture(randomBits(60, 40, 1), path("a." + ending), ending,
+                                                    OutputFile::Links::Follow, {}, wishes)
+                                           .result);
         return content("a." + ending).size();
     };
     EXPECT_LT(bytes("jpg", 20), bytes("jpg", 95));
