@@ -101,7 +101,7 @@ failed=$(grep -c '"result":"failed"' report || true)
 [ "$status" = 1 ] || fail "after crashes: $status"
 [ "$failed" -ge 1 ] && [ "$failed" -le "$(nproc)" ] || fail "$failed pictures failed by crashes"
 [ "$(outputs)" = $((pictures - failed)) ] || fail "the others were not made"
-grep -q 'Segmentation fault' log || fail "the crash was not told"
+grep -q 'Segmentation fault\|AddressSanitizer' log || fail "the crash was not told"
 
 # A picture that vanishes, and a full disk.
 rm -rf out

@@ -22,8 +22,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// What a picture needs while it is worked on: itself, the engine's, the results of a step, what a save packs.
-constexpr std::int64_t kBytesAPixel = 6 * std::int64_t{sizeof(Pixel)};
 constexpr auto kBetweenBars = std::chrono::milliseconds(200);
 
 /// Those by which a person or a scheduler ends a program, but for the ones that the program was started to ignore.
@@ -162,7 +160,7 @@ bool Coordinator::mayGoOn(std::int64_t pixels) const
     std::int64_t used = 0;
     for (const Hand& hand : hands_)
         if (!hand.isWaiting) used += hand.pixels;
-    return used == 0 || (used + pixels) * kBytesAPixel <= memory_;
+    return fitsBeside(pixels, used, memory_);
 }
 
 /// The current picture is worked on, and the next one is read meanwhile.

@@ -13,6 +13,16 @@
 
 namespace velara {
 
+/// What a picture needs while it is worked on: itself, the engine's, the results of a step, what a save packs.
+constexpr std::int64_t kBytesAPixel = 6 * std::int64_t{sizeof(Pixel)};
+
+/// Whether a picture of so many pixels may be worked on beside others that have inWork together, in memory of so many
+/// bytes. One alone always may: its steps are refused where they need too much.
+constexpr bool fitsBeside(std::int64_t pixels, std::int64_t inWork, std::int64_t memory)
+{
+    return inWork == 0 || (inWork + pixels) * kBytesAPixel <= memory;
+}
+
 class Coordinator {
   public:
     /// The process has one thread, and no application object: workers are forks of it.

@@ -111,6 +111,7 @@ void UndoFiles::drop(int index, int last) const
 
 void UndoFiles::removeAll() const
 {
+    if (folder_.isEmpty()) return;             // no steps are kept
     for (int i = 0; i < kMost; ++i) remove(i); // a wildcard would match document 10000's files for 1000's
 }
 

@@ -1,3 +1,4 @@
+#include "batch/many/Coordinator.h"
 #include "batch/many/Report.h"
 #include "batch/many/Tally.h"
 #include <gtest/gtest.h>
@@ -13,6 +14,15 @@ TEST(Report, NamesOfAnyBytesAreJson)
               R"(\udce9","output":"o","result":"failed","bytes":12,"milliseconds":3.5,"reason":"why"})"
               "\n",
               jsonOf({odd, "o", "failed", 12, 3.46, "why"}));
+}
+
+TEST(Coordinator, LargePicturesAreWorkedOnOneAfterTheOther)
+{
+    constexpr std::int64_t kGiga = std::int64_t{1} << 30, kLarge = 256 << 20, kPhoto = 12'000'000;
+    EXPECT_TRUE(fitsBeside(kLarge, 0, kGiga)) << "one is refused by its own steps, if it has to be";
+    EXPECT_FALSE(fitsBeside(kLarge, 100, 4 * kGiga));
+    EXPECT_TRUE(fitsBeside(kPhoto, 2 * kPhoto, kGiga));
+    EXPECT_FALSE(fitsBeside(kPhoto, 3 * kPhoto, kGiga));
 }
 
 TEST(Tally, TheLineFitsTheTerminal)

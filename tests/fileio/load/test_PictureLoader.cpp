@@ -1,5 +1,6 @@
 // Reading pictures through the child: the reasons for bad files, and the handling of misbehaving children.
 #include "fileio/load/PictureLoader.h"
+#include "fileio/load/WarmReaders.h"
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/iconFile.h"
 #include "support/files.h"
@@ -200,6 +201,27 @@ TEST_F(PictureLoader, TheProgramOfTheCommonReadersLeavesOthersToTheOneThatHasAll
         EXPECT_FALSE(reason.isEmpty());
     }
     EXPECT_EQ(3, loadThroughDecoder(put("a.ppm", kPicture), "ppm", alone).bits.width());
+}
+
+// Forks of a loaded reader are as good as readers started anew, and what they can't be asked is done by such.
+TEST_F(PictureLoader, WarmReadersReadAsColdOnes)
+{
+    const QString good = put("x.ppm", kPicture), bad = put("bad.png", "no picture");
+    const auto cold = loadThroughDecoder(good, "ppm", kDecoder);
+    const QString reason = loadThroughDecoder(bad, "png", kDecoder).reason;
+    const auto starter = startReader;
+    {
+        const WarmReaders warm;
+        ASSERT_TRUE(warm.started());
+        EXPECT_NE(starter, startReader);
+        for (int i = 0; i < 3; ++i) EXPECT_EQ(cold.bits, loadThroughDecoder(good, "ppm", "/nonexistent").bits) << i;
+        EXPECT_EQ(reason, loadThroughDecoder(bad, "png", "/nonexistent").reason);
+        EXPECT_NE(cold.properties, "");
+        EXPECT_EQ(cold.properties, loadThroughDecoder(good, "ppm", "/nonexistent").properties);
+        EXPECT_EQ(QSize(3, 2), loadSmall(good, "ppm", "/nonexistent", {9, 9}).size) << "with a wish";
+        EXPECT_EQ(cold.bits, loadThroughDecoder(good, QString(300, 'x'), kDecoder).bits) << "started anew";
+    }
+    EXPECT_EQ(cold.bits, loadThroughDecoder(good, "ppm", kDecoder).bits);
 }
 
 // A child that does nothing is killed after two seconds, and at once when the user cancels.
