@@ -45,7 +45,7 @@ void ScreenColours::follow(QWindow* window)
 
 void ScreenColours::repaintAll()
 {
-    for (QWidget* window : QApplication::topLevelWidgets()) window->update();
+    for (QWidget* widget : QApplication::allWidgets()) widget->update(); // a window's update leaves out its pictures
 }
 
 ScreenColours::~ScreenColours()

@@ -201,8 +201,7 @@ TEST_F(PictureFiles, AStrangersTiffIsRead)
                           "-ExifIFD:ExposureTime=0.25", "-GPSLatitude=52.5", "-IPTC:City=Berlin", path("a.tif")});
             ASSERT_TRUE(writer.waitForFinished());
             const CameraData camera = readBack(path("a.tif")).camera;
-            EXPECT_TRUE(camera.iptc.endsWith(QByteArray("\x1c\2\x5a\0\6Berlin", 11)))
-                << camera.iptc.toHex().toStdString();
+            EXPECT_EQ(camera.iptc.toHex(), "1c025a00064265726c696e1c020000020004"); // with the version of the records
             const ExifBytes exif(camera.exif);
             const std::uint32_t main = exif.first(), details = exif.directoryOf(main, ExifTag::Details);
             ASSERT_TRUE(exif.find(details, ExifTag::Lens) && exif.find(details, ExifTag::ExposureTime));
