@@ -3,6 +3,7 @@
 #include "engine/operations.h"
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
+#include "commands/jobs.h"
 #include "commands/presets.h"
 #include "commands/recipe/stepWords.h"
 #include "commands/sizeWords.h"
