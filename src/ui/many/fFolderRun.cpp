@@ -207,10 +207,11 @@ void fFolderRun::ended(bool wasStarted, const QString& said)
     const int over = done_ + skipped_ + failed_;
     bar_->setRange(0, std::max(total_, 1));
     bar_->setValue(over);
-    QStringList lines;
-    for (const QString& line : said.split(u'\n', Qt::SkipEmptyParts)) lines << printable(line);
-    lblState_->setText(wasStarted ? lines.mid(std::max<qsizetype>(0, lines.size() - 3)).join(u'\n')
-                                  : tr("%1 can't be started: %2").arg(program_, said));
+    // The last line sums up; where no picture was begun, those before it say why.
+    QStringList lines = said.split(u'\n', Qt::SkipEmptyParts);
+    lines = lines.mid(std::max<qsizetype>(0, lines.size() - (over > 0 ? 1 : 3)));
+    for (QString& line : lines) line = printable(line.remove(QStringLiteral("velara-batch: ")));
+    lblState_->setText(wasStarted ? lines.join(u'\n') : tr("%1 can't be started: %2").arg(program_, said));
     lblLog_->setText(QFileInfo::exists(log_) ? tr("Log: %1").arg(printable(log_)) : QString());
     updateControls();
 }

@@ -17,8 +17,9 @@ struct FolderRunTest : FolderTest {
     /// A program that notes its arguments and its number, and then runs these lines.
     void show(const QByteArray& lines)
     {
-        const QString program = put("program", "#!/bin/sh\nprintf '%s\\n' \"$@\" >'" + path("given").toUtf8() +
-                                                   "'\necho $$ >'" + path("number").toUtf8() + "'\n" + lines + "\n");
+        const QByteArray at = folder.path().toUtf8() + '/';
+        const QString program = put("program", "#!/bin/sh\nprintf '%s\\n' \"$@\" >'" + at + "given'\necho $$ >'" + at +
+                                                   "part'\nmv '" + at + "part' '" + at + "number'\n" + lines + "\n");
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         window = std::make_unique<fFolderRun>(platform, program, path("Logs"),
                                               std::vector<RecipeChoice>{{"one", [this] { return recipe; }}});
@@ -37,7 +38,8 @@ struct FolderRunTest : FolderTest {
     /// R, S or T as in /proc; 0: there is no such process.
     char stateOfProgram() const
     {
-        const QByteArray stat = fileBytes("/proc/" + content("number").trimmed() + "/stat", "");
+        const QByteArray number = fileBytes(path("number"), "none").trimmed();
+        const QByteArray stat = fileBytes("/proc/" + number + "/stat", "");
         return stat.isEmpty() ? '\0' : stat[stat.lastIndexOf(')') + 2];
     }
 };
@@ -107,7 +109,7 @@ TEST_F(FolderRunTest, FormatQualityAndNamesAreGiven)
 
 TEST_F(FolderRunTest, ItIsHeldLetGoOnAndEnded)
 {
-    show("trap 'echo stopped >&2; exit 130' TERM\nwhile :; do sleep 0.02; done");
+    show("trap 'echo stopped >&2; exit 130' TERM\nwhile :; do :; done");
     button("cmdRun")->click();
     ASSERT_TRUE(comes([this] { return stateOfProgram() != 0; }));
     button("cmdPause")->click();
