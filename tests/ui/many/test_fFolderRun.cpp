@@ -77,6 +77,7 @@ TEST_F(FolderRunTest, TheOriginalsAreReplacedOnlyWhenThatIsSaidTwice)
     EXPECT_FALSE(controlOf<QWidget>(*window, "txtInto")->isEnabled());
     button("cmdRun")->click(); // the question is cancelled
     EXPECT_FALSE(window->isRunning());
+    ASSERT_FALSE(platform.log.empty());
     EXPECT_TRUE(platform.log.back().starts_with("ask: Run on a Folder: Every original is replaced"));
     platform.answers = {"&Replace the originals"};
     button("cmdRun")->click();
