@@ -171,7 +171,7 @@ TEST_F(BatchTest, APageIsReadAndAnotherKindIsToldWhenAskedFor)
     EXPECT_TRUE(ends(1, "two.webp --page 3 out.png", "two.webp can't be read: it has only 2 pages"));
 
     ASSERT_TRUE(input().save(path("in.jpg"), "png"));
-    const Outcome told = run("in.jpg --verbose out.png"), silent = run("in.jpg out.png");
+    const BatchRun told = run("in.jpg --verbose out.png"), silent = run("in.jpg out.png");
     EXPECT_EQ(told.errors, "in.jpg is a PNG picture\n");
     EXPECT_EQ(told.output + silent.output + silent.errors, "");
 }
