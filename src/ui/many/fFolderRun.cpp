@@ -55,10 +55,11 @@ fFolderRun::fFolderRun(Platform& platform, QString program, QString logFolder, s
     setWindowTitle(tr("Run on a Folder"));
     auto* column = new QVBoxLayout(this);
     column->addWidget(order_ = makeOrder());
-    column->addWidget(makeProgress(), 1);
+    column->addLayout(makeProgress(), 1);
     connect(&run_, &FolderRun::pictureDone, this, &fFolderRun::pictureDone);
     connect(&run_, &FolderRun::ended, this, &fFolderRun::ended);
     updateControls();
+    resize(sizeHint()); // else it would open at two thirds of a small screen, which squeezes its controls
 }
 
 // --- What to do

@@ -52,7 +52,7 @@ class fFolderRun final : public QDialog {
     QWidget* makeOrder();
     void makeInputs(QGridLayout& grid);
     void makeTarget(QGridLayout& grid);
-    QWidget* makeProgress();
+    QLayout* makeProgress();
     void chooseFile();
     void chooseFolder();
     void chooseTarget();

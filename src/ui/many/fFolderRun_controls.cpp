@@ -65,7 +65,7 @@ void fFolderRun::makeInputs(QGridLayout& grid)
     lstInputs_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     lstInputs_->setTextElideMode(Qt::ElideMiddle);
     lstInputs_->setMinimumWidth(lstInputs_->fontMetrics().averageCharWidth() * 50);
-    lstInputs_->setFixedHeight(lstInputs_->fontMetrics().lineSpacing() * 6);
+    lstInputs_->setFixedHeight(lstInputs_->fontMetrics().lineSpacing() * 5);
     chkBelow_ = named(new QCheckBox(tr("with the folders &below")), "chkBelow", tr("With the folders below"));
     cmdRemove_ = button("cmdRemove", tr("Re&move"), tr("Remove from the list"));
     auto *file = button("cmdFile", tr("&Picture ..."), tr("Add a picture")),
@@ -124,11 +124,10 @@ void fFolderRun::makeTarget(QGridLayout& grid)
     connect(txtInto_, &QLineEdit::textChanged, this, &fFolderRun::updateControls);
 }
 
-QWidget* fFolderRun::makeProgress()
+/// No widget of its own: a layout gives one whose labels wrap more than its least height, at the cost of what is above.
+QLayout* fFolderRun::makeProgress()
 {
-    auto* box = new QWidget;
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout;
     bar_ = named(new QProgressBar, "bar", tr("Pictures done"));
     bar_->setTextVisible(false);
     lblState_ = named(new QLabel(QStringLiteral(" ")), "lblState", tr("State"));
@@ -162,7 +161,7 @@ QWidget* fFolderRun::makeProgress()
     connect(cmdCancel_, &QPushButton::clicked, this, [this] { run_.isRunning() ? run_.cancel() : void(close()); });
     connect(lstFailures_, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* item) { emit openWanted(item->data(Qt::UserRole).toString()); });
-    return box;
+    return column;
 }
 
 } // namespace velara
