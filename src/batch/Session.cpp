@@ -125,6 +125,13 @@ void Session::change(const Job& job, After after)
     checkSteps();
 }
 
+/// The series, too: what it still has to write would make its folder anew.
+void Session::forgetSteps()
+{
+    document_->undo.stop();
+    folder_.reset();
+}
+
 void Session::step(bool back)
 {
     workspace_->step(document_, back);

@@ -39,7 +39,7 @@ class Session {
     /// What a web file of the picture gets beside its pixels.
     CameraData webCamera(CameraKept kept) const;
     /// No later step goes back.
-    void forgetSteps() { folder_.reset(); }
+    void forgetSteps();
     Bits picture() const { return document_->bits(); }
 
     void change(const Job& job, After after = After::Step);

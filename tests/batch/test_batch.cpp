@@ -257,6 +257,7 @@ TEST_F(BatchTest, StepsWorkOnTheResultOfTheOneBefore)
     EXPECT_EQ(original, result("INVERT UNDO"));
     EXPECT_EQ(inverted, result("INVERT FLIPH UNDO UNDO REDO"));
     EXPECT_EQ(original, result("UNDO REDO"));
+    EXPECT_EQ(inverted, result("FLIPH UNDO INVERT"));
     EXPECT_EQ(original, result("2x ORIGINAL"));
     result("50 50", {6, 4}); // a run of sizing words starts from the picture before the first
     result("20", {2, 2});

@@ -96,9 +96,9 @@ TEST_F(FilePreviewsTest, ABombDoesntHoldUpTheOtherThumbnails)
 {
     koaReader("import socket, struct, time\nopen('" + path("begun").toUtf8() +
               "', 'w')\ns = socket.socket(fileno=3)\n"
-              "s.send(struct.pack('<Iii284s', 0x31434c56, 9000, 9000, b''))\n"
+              "s.send(struct.pack('<Iii292s', 0x31434c56, 9000, 9000, b''))\n"
               "while time.process_time() < 3: pass\n"
-              "s.send(struct.pack('<Iii284s', 0x31444c56, 0, 0, b'it had too much time'))\n");
+              "s.send(struct.pack('<Iii292s', 0x31444c56, 0, 0, b'it had too much time'))\n");
     FilePreviews service(std::chrono::seconds(2));
     const QString bomb = file("bomb.koa", QByteArray(2 << 20, 'b')), grey = file("grey.ppm", ppm(30, '\x80'));
     const auto first = service.thumbnail(bomb, keep);

@@ -22,7 +22,7 @@ constexpr MenuRow kMenus[] = {
             {Items, "RF", 0, "", "@RECENT"},
         {End},
         {Item, "PAGE", 0, "Next Pa&ge", "@NEXTPAGE", "Ctrl+PgDown"},
-        {Item, "PAGE", 1, "Pre&vious Page", "@PREVIOUSPAGE", "Ctrl+PgUp"},
+        {Item, "PAGE", 1, "Prev&ious Page", "@PREVIOUSPAGE", "Ctrl+PgUp"},
         {Item, "mnuRecover", 0, "Reco&ver ...", "@RECOVER"},
         {Separator},
         {Item, "FILE", 4, "&Close", "CLOSE", "Ctrl+W"},

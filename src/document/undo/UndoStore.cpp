@@ -506,6 +506,12 @@ std::optional<Bits> UndoStore::step(bool back)
 
 bool UndoStore::passedOver() const { return series_->passedOver; }
 
+void UndoStore::stop()
+{
+    series_->abandoned = true;
+    series_->quiet();
+}
+
 void UndoStore::deleteSeries()
 {
     series_->abandoned = true;

@@ -104,6 +104,8 @@ class UndoStore {
     void willDescribe(DocumentFacts about);
     /// Removes every file of the document; queued snapshots are not written.
     void deleteSeries();
+    /// No more is kept, nor a record; waits for what is being written. The files stay.
+    void stop();
 
     /// Called on the writing thread when the state before a snapshot can be kept neither on disk nor in memory, so that
     /// the step can't be undone; the reason is for the user. Set it before the first save.

@@ -8,6 +8,7 @@
 #include "seams/printable.h"
 #include "seams/sizeText.h"
 #include "ui/view/fDisplay.h"
+#include "ui/widgets/inputs/Spoken.h"
 #include "ui/widgets/inputs/named.h"
 #include <QApplication>
 #include <QCloseEvent>
@@ -33,6 +34,7 @@ fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
       tmrFollow_(this), tools_(std::make_unique<Tools>(document_, frame, *this)),
       barsWidth_(std::max(style()->pixelMetric(QStyle::PM_ScrollBarExtent), kLeastBarsWidth))
 {
+    setSpokenRole(*this, QAccessible::Document);
     setObjectName("fImage");
     setAccessibleName(tr("Picture window"));
     setAutoFillBackground(true);
