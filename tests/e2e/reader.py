@@ -18,7 +18,7 @@ WORKED = {"push button", "toggle button", "check box", "radio button", "slider",
           "list", "tree", "tree table", "table", "color chooser", "canvas", "menu item", "check menu item", "page tab"}
 
 
-def waited(find):
+def waited(find, what=""):
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
         try:
@@ -28,7 +28,7 @@ def waited(find):
         if found:
             return found
         time.sleep(0.05)
-    raise SystemExit("waited in vain")
+    raise SystemExit(f"waited in vain for {what}")
 
 
 def children(node):
@@ -67,6 +67,13 @@ def look(window, seen, bad):
                 bad.append("no name: " + shown)
 
 
+def press(node):
+    try:
+        node.do_action(0)
+    except GLib.Error:  # no answer before a modal window ends
+        pass
+
+
 def item(program, name):
     for window in windows(program):
         for node in all_below(window):
@@ -76,20 +83,21 @@ def item(program, name):
 
 
 def main():
-    program = waited(editor)
-    frame = waited(lambda: windows(program))[0]
+    Atspi.set_timeout(1000, PATIENCE * 1000)
+    program = waited(editor, "the editor")
+    frame = waited(lambda: windows(program), "its window")[0]
     seen, bad = [], []
     look(frame, seen, bad)
     for name in sys.argv[1:]:
-        waited(lambda: item(program, name)).get_action_iface().do_action(0)
-        window = waited(lambda: [w for w in windows(program) if w != frame])[-1]
+        press(waited(lambda: item(program, name), name))
+        window = waited(lambda: [w for w in windows(program) if w != frame], "the window of " + name)[-1]
         look(window, seen, bad)
         close = next((n for n in all_below(window) if n.get_role_name() == "push button" and n.get_name() in
                       ("Cancel", "Close", "Exit", "OK")), None)
         if not close:
             raise SystemExit(f"{window.get_name()} has no button that closes it")
-        close.get_action_iface().do_action(0)
-        waited(lambda: windows(program) == [frame] or len(windows(program)) == 1)
+        press(close)
+        waited(lambda: len(windows(program)) == 1, f"the end of {name}")
     print(f"{len(seen)} controls, {len(bad)} without a role or a name")
     print("\n".join(sorted(set(bad))))
     return bool(bad) or len(seen) < 50
