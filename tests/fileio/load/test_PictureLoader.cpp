@@ -21,8 +21,8 @@ struct PictureLoader : FolderTest {
         const QString fake =
             put("fake", "#!/usr/bin/env python3\nimport os, socket, struct, sys, time\n"
                         "s = socket.socket(fileno=3)\n"
-                        "def opening(w, h, why=b'', magic=0x31444c56, dots=(0, 0), parts=(0, 0, 0, 0, 0)):\n"
-                        "    s.send(struct.pack('<Iii244s2d5I4x', magic, w, h, why, *dots, *parts))\n" +
+                        "def opening(w, h, why=b'', magic=0x31444c56, dots=(0, 0), parts=(0, 0, 0, 0, 0, 0)):\n"
+                        "    s.send(struct.pack('<Iii244s2d6I8x', magic, w, h, why, *dots, *parts))\n" +
                             script);
         QFile::setPermissions(fake, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return fake;
@@ -67,13 +67,14 @@ TEST_F(PictureLoader, TheFourthByteIsNotTheChilds)
 TEST_F(PictureLoader, TakesWhatAPictureCarries)
 {
     const QByteArray script =
-        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7))\n"
-        "for part in b'exif!', b'x' * 16384, b'y' * 3616, b'i', b'abc', b'Lens\\tX\\n': s.send(part)\n"
+        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7, 4))\n"
+        "for part in b'exif!', b'x' * 16384, b'y' * 3616, b'i', b'abc', b'Lens\\tX\\n', b'icc!': s.send(part)\n"
         "s.send(struct.pack('<i', 0))\n";
     const LoadedPicture picture = loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder(script));
     EXPECT_EQ(picture.camera.exif + picture.camera.iptc, "exif!i");
     EXPECT_EQ(picture.camera.xmp, QByteArray(16384, 'x') + QByteArray(3616, 'y'));
     EXPECT_EQ(picture.camera.comment + ' ' + picture.properties, "abc Lens\tX\n");
+    EXPECT_EQ(picture.camera.profile, "icc!");
     EXPECT_EQ(picture.camera.dotsAcross, 72);
     EXPECT_EQ(picture.camera.dotsDown, 300);
 }
@@ -148,9 +149,9 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
         {"opening(0, 0, b'because\\x01 it is so')", "because\\x01 it is so"},
         {"opening(0, 0, b'\\xff' * 244)", "can't be read"},
         {"opening(10, 10); s.send(struct.pack('<i', 3))" + rest, "false answer"},
-        {"opening(10, 10, parts=(1 << 30, 0, 0, 0, 0))" + rest, "false answer"},
-        {"opening(10, 10, parts=(9, 0, 0, 0, 0)); s.send(b'x')" + rest, "false answer"},
-        {"opening(10, 10, parts=(0, 9, 0, 0, 0))" + rest, "too long"},
+        {"opening(10, 10, parts=(1 << 30, 0, 0, 0, 0, 0))" + rest, "false answer"},
+        {"opening(10, 10, parts=(9, 0, 0, 0, 0, 0)); s.send(b'x')" + rest, "false answer"},
+        {"opening(10, 10, parts=(0, 9, 0, 0, 0, 0))" + rest, "too long"},
         {"opening(9, 9999); [s.send(struct.pack('<i', 0)) for _ in range(99)]" + rest, "false answer"},
         {"opening(10, 10); os.ftruncate(4, 0)" + rest, "gave up"}, // the seal makes it an error
         {"opening(10, 10)" + rest, "too long"},
