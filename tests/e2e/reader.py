@@ -54,16 +54,24 @@ def windows(program):
     return [child for child in children(program) if child.get_state_set().contains(Atspi.StateType.SHOWING)]
 
 
+def named(node, role):
+    """By itself, or as a part of something that is; separators and rows of tabs need no name."""
+    return bool(node.get_name() or node.get_description() or role in ("menu item", "page tab list")
+                or node.get_parent().get_role_name() in WORKED)
+
+
 def look(window, seen, bad):
     for node in all_below(window):
         role = node.get_role_name()
         shown = f"{window.get_name()}: {role} '{node.get_name()}' {node.get_accessible_id() if hasattr(node, 'get_accessible_id') else ''}"
-        focusable = node.get_state_set().contains(Atspi.StateType.FOCUSABLE)
-        if role in WORKED or focusable:
+        states = node.get_state_set()
+        focusable = states.contains(Atspi.StateType.FOCUSABLE)
+        there = states.contains(Atspi.StateType.SHOWING) or "menu item" in role
+        if there and (role in WORKED or focusable):
             seen.append(shown)
             if role in ("filler", "unknown", "invalid"):
                 bad.append("no role: " + shown)
-            elif not node.get_name() and not node.get_description() and node.get_parent().get_role_name() not in WORKED:
+            elif not named(node, role):
                 bad.append("no name: " + shown)
 
 

@@ -70,13 +70,14 @@ TEST_F(PictureLoader, TheFourthByteIsNotTheChilds)
 TEST_F(PictureLoader, TakesWhatAPictureCarries)
 {
     const QByteArray script =
-        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7, 0), pages=12, kind=b'gif')\n"
-        "for part in b'exif!', b'x' * 16384, b'y' * 3616, b'i', b'abc', b'Lens\\tX\\n': s.send(part)\n"
+        "opening(1, 1, dots=(72, 300), parts=(5, 20000, 1, 3, 7, 4), pages=12, kind=b'gif')\n"
+        "for part in b'exif!', b'x' * 16384, b'y' * 3616, b'i', b'abc', b'Lens\\tX\\n', b'icc!': s.send(part)\n"
         "s.send(struct.pack('<i', 0))\n";
     const LoadedPicture picture = loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder(script));
     EXPECT_EQ(picture.camera.exif + picture.camera.iptc, "exif!i");
     EXPECT_EQ(picture.camera.xmp, QByteArray(16384, 'x') + QByteArray(3616, 'y'));
     EXPECT_EQ(picture.camera.comment + ' ' + picture.properties, "abc Lens\tX\n");
+    EXPECT_EQ(picture.camera.profile, "icc!");
     EXPECT_EQ(picture.camera.dotsAcross, 72);
     EXPECT_EQ(picture.camera.dotsDown, 300);
     EXPECT_EQ(picture.pages, 12);

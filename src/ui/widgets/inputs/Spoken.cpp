@@ -1,5 +1,6 @@
 #include "ui/widgets/inputs/Spoken.h"
 #include <QAccessibleWidget>
+#include <QTabWidget>
 
 namespace velara {
 
@@ -61,6 +62,8 @@ QAccessibleInterface* spokenInterface(const QString&, QObject* object)
     auto* spoken = dynamic_cast<Spoken*>(object);
     auto* widget = qobject_cast<QWidget*>(object);
     if (spoken && widget) return new SpokenWidget(widget, *spoken);
+    if (qobject_cast<QTabWidget*>(widget))
+        return new QAccessibleWidget(widget, QAccessible::Pane); // Qt has no role for it
     const QVariant role = widget ? widget->property(kRole) : QVariant();
     return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt())) : nullptr;
 }
