@@ -38,7 +38,8 @@ QByteArray newer(QByteArray bytes)
 
 TEST(RecordTest, ComesBackAsItWasAndAnyDamageIsSeen)
 {
-    const UndoRecord record{someFacts(), 2, {{{.name = "first"}, false, 11, 12}, {{.name = "second"}, true, 0, 0}}, 123456789};
+    const UndoRecord record{
+        someFacts(), 2, {{{.name = "first"}, false, 11, 12}, {{.name = "second"}, true, 0, 0}}, 123456789};
     const QByteArray bytes = bytesOf(record);
     UndoRecord read;
     ASSERT_EQ(recordFrom(bytes, read), RecordState::Whole);
