@@ -56,8 +56,14 @@ asks "that nobody answers"
 until_true "the end without an answer" gone
 undo_files 2 || fail "the undo files are gone with it"
 
-start
-open_file "$scratch/in.bmp"
+# The next start has it.
+launch
+offered() { main=$(frame) && [ -n "$main" ] && has_keys '^Recover Pictures$'; }
+until_true "the offer" offered
+keys alt+r
+until_true "the picture" sh -c "xdotool getwindowname $main | grep -q own.bmp"
+until_true "the frame's keys" frame_has_keys
+undo_files 2 || fail "the steps did not come with it"
 keys alt+l i ctrl+q
 asks "at the end"
 keys alt+n

@@ -47,7 +47,9 @@ shows $x $y red || fail "a profile that nobody asked for"
 # switch: presses the box of the options
 switch() {
     brings 'Velara Studio: Options' alt+e i
-    keys alt+s
+    # By the mouse: a key shows the box pressed for a while before it changes.
+    xdotool mousemove --window "$(xdotool search --onlyvisible --name '^Velara Studio: Options$')" 28 247 click 1
+    settled
     if [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/options.png"; fi
     keys Return
     until_true "the options to go" no_window '^Velara Studio: Options$'
