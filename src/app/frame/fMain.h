@@ -182,7 +182,7 @@ class fMain final : public QMainWindow, public Frame {
     void bindWorkspace();
     void makeRecovery();
     void showRecovered(const DocumentHandle& document, const QString& trouble);
-    bool mergeWaitingTexts(const DocumentHandle& document);
+    bool mergeWaitingTexts(DocumentHandle document);
     template <class Dialog> void askAndReshape(std::string_view word);
     void makeBoxes();
     void bindToolKeys();

@@ -30,7 +30,8 @@ void fMain::showRecovered(const DocumentHandle& document, const QString& trouble
     textTools();
 }
 
-bool fMain::mergeWaitingTexts(const DocumentHandle& document)
+/// The document by value: the function that calls this is gone when it is done.
+bool fMain::mergeWaitingTexts(DocumentHandle document)
 {
     Layers layers(platform_.fonts());
     layers.setCanvas(document->bits());

@@ -71,5 +71,5 @@ bool encodeMemory()
 int main()
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody is left to want the file
-    return velara::encode::encodeMemory() ? 0 : 1;
+    _exit(velara::encode::encodeMemory() ? 0 : 1); // what libraries do at an end may not be done in the cage
 }
