@@ -4,6 +4,8 @@ set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)
 set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
+# The compiler for arm64 takes a variant that is moved for one without a value.
+set(CMAKE_CXX_FLAGS_INIT -Wno-error=maybe-uninitialized)
 set(CMAKE_SYSROOT $ENV{SYSROOT})
 set(CMAKE_FIND_ROOT_PATH $ENV{SYSROOT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
