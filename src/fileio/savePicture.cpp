@@ -3,6 +3,7 @@
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/PCX.h"
 #include "fileio/writers/pictureFiles.h"
+#include "pixels/RuntimeError.h"
 #include "reduce/bestColours.h"
 #include <algorithm>
 #include <iterator>
@@ -58,16 +59,13 @@ bool jxl(const Job& job, OutputFile& file)
 }
 bool pixmap(const Job& job, OutputFile& file) { return writePpm(job.bits, file); }
 bool gif(const Job& job, OutputFile& file)
-{
-    struct Unwanted {};
-    try {
-        const auto goOn = [&](int) {
-            if (!job.goesOn()) throw Unwanted();
-        };
-        return writeGif(reduceToBestColours(job.bits, 256, goOn), file, false, 1);
-    } catch (const Unwanted&) {
-        return false;
-    }
+try {
+    const auto goOn = [&](int) {
+        if (!job.goesOn()) throw Cancelled();
+    };
+    return writeGif(reduceToBestColours(job.bits, 256, goOn), file, false, 1);
+} catch (const Cancelled&) {
+    return false;
 }
 
 template <auto write, bool keepsRemains = false> SaveReport told(const Job& job)
