@@ -70,6 +70,6 @@ bool encodeMemory()
 
 int main()
 {
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody is left to want the file
+    prctl(PR_SET_PDEATHSIG, SIGKILL);              // nobody is left to want the file
     _exit(velara::encode::encodeMemory() ? 0 : 1); // what libraries do at an end may not be done in the cage
 }
