@@ -84,13 +84,25 @@ template <class D8, class V> HWY_INLINE hn::Vec<D8> clampedToBytes(D8 d8, const 
         d8, each(h, [&](V v) HWY_ATTR { return hn::Min(hn::Max(v, hn::Zero(d)), hn::Set(d, std::int16_t{255})); }));
 }
 
-/// The sum of the three channels of each pixel, a 32-bit lane per pixel. On x86 the pairs are adjacent.
+/// sum, with the products of two neighbouring 16-bit lanes added to each of its 32-bit lanes.
+template <class D32, class V16, class V32> HWY_INLINE V32 plusPairs(D32 d, V16 a, V16 b, V32 sum)
+{
+#if HWY_ARCH_X86
+    V32 unused = hn::Zero(d);
+    return hn::ReorderWidenMulAccumulate(d, a, b, sum, unused); // elsewhere its order is another one
+#else
+    const auto even = [&](V16 v) HWY_ATTR { return hn::ShiftRight<16>(hn::ShiftLeft<16>(hn::BitCast(d, v))); };
+    const auto odd = [&](V16 v) HWY_ATTR { return hn::ShiftRight<16>(hn::BitCast(d, v)); };
+    return hn::Add(sum, hn::Add(hn::Mul(even(a), even(b)), hn::Mul(odd(a), odd(b))));
+#endif
+}
+
+/// The sum of the three channels of each pixel, a 32-bit lane per pixel.
 template <class D, class V> HWY_INLINE auto sumOfChannels(D d, const Halves<V>& h)
 {
     const hn::Repartition<std::int32_t, D> d32;
-    auto unused = hn::Zero(d32);
-    const auto redBlue = hn::ReorderWidenMulAccumulate(d32, h.even, hn::Set(d, std::int16_t{1}), hn::Zero(d32), unused);
-    return hn::ReorderWidenMulAccumulate(d32, h.odd, hn::BitCast(d, hn::Set(d32, 1)), redBlue, unused);
+    const auto redBlue = plusPairs(d32, h.even, hn::Set(d, std::int16_t{1}), hn::Zero(d32));
+    return plusPairs(d32, h.odd, hn::BitCast(d, hn::Set(d32, 1)), redBlue);
 }
 
 /// colour with the fourth bytes of source.

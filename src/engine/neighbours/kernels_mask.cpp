@@ -17,15 +17,14 @@ using FloatTag = hn::RebindToFloat<IntTag>;
 using Shorts = hn::Vec<ShortTag>;
 using Ints = hn::Vec<IntTag>;
 
-/// The sums of one half of the channels. On x86 interleaving, pairwise sums and demotion work within 128 bits each, so
+/// The sums of one half of the channels. Interleaving, pairwise sums and demotion work within 128 bits each, so
 /// their orders cancel.
 struct Sums {
     Ints lower, upper;
     HWY_INLINE void add(Shorts a, Shorts b, Shorts factors)
     {
-        Ints unused = hn::Zero(IntTag());
-        lower = hn::ReorderWidenMulAccumulate(IntTag(), hn::InterleaveLower(ShortTag(), a, b), factors, lower, unused);
-        upper = hn::ReorderWidenMulAccumulate(IntTag(), hn::InterleaveUpper(ShortTag(), a, b), factors, upper, unused);
+        lower = plusPairs(IntTag(), hn::InterleaveLower(ShortTag(), a, b), factors, lower);
+        upper = plusPairs(IntTag(), hn::InterleaveUpper(ShortTag(), a, b), factors, upper);
     }
 };
 
