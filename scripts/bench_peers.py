@@ -90,10 +90,10 @@ def ours(program, names, size, cores=True):
                            capture_output=True, text=True).stdout
     rows = {}
     for line in table.splitlines()[1:]:
-        fields = re.match(r"(.{28}) (.+?) +([\d.]+) +([\d.]+|-) +\S+ +\S+ +\S+ +(\S+)", line)
+        fields = re.match(r"(.{28}) (.{40}) +([\d.]+) +([\d.]+|-) +\S+ +\S+ +\S+ +(\S+)", line)
         if fields:
             one = float(fields[3])
-            rows[fields[2]] = (one, one * float(fields[5]) if fields[5] != "-" else None)
+            rows[fields[2].strip()] = (one, one * float(fields[5]) if fields[5] != "-" else None)
     return rows
 
 
@@ -158,10 +158,13 @@ def plot(sizes, times, path):
                      f'<text x="{left - 6}" y="{y(10 ** power) + 4:.1f}" text-anchor="end">{label}</text>')
     for size in sizes:
         lines.append(f'<text x="{x(size):.1f}" y="{height - 10}" text-anchor="middle">{size:g} MP</text>')
-    for colour, (name, row) in zip(colours, times.items()):
+    free = 0.0  # below the label before
+    for colour, (name, row) in sorted(zip(colours, times.items()), key=lambda line: y(line[1][1][-1])):
         points = " ".join(f"{x(s):.1f},{y(t):.1f}" for s, t in zip(sizes, row))
+        label = max(y(row[-1]) + 4, free)
+        free = label + 14
         lines.append(f'<polyline points="{points}" fill="none" stroke="{colour}" stroke-width="2"/>'
-                     f'<text x="{width - 212}" y="{y(row[-1]) + 4:.1f}" fill="{colour}">{name}, {exponent(sizes, row):.2f}</text>')
+                     f'<text x="{width - 212}" y="{label:.1f}" fill="{colour}">{name}, {exponent(sizes, row):.2f}</text>')
     with open(path, "w", encoding="utf-8") as file:
         file.write("\n".join([*lines, "</svg>\n"]))
 
