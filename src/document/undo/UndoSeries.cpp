@@ -1,0 +1,171 @@
+#include "document/undo/UndoSeries.h"
+#include "pixels/memory/MemoryBudget.h"
+#include <QDateTime>
+#include <cerrno>
+
+namespace velara {
+
+/// For the user, of an errno.
+static QString whyNot(int reason)
+{
+    const bool noRoom = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
+    return noRoom ? QStringLiteral("no room in the Temp folder")
+                  : QStringLiteral("the Temp folder can't be written to");
+}
+
+/// The folder may have been removed since the last step.
+bool UndoStore::Series::ready()
+{
+    if (files.folder().isEmpty()) return errno = ENOENT, false;
+    if (mark.stands()) return true;
+    if (!makePrivateFolder(files.folder())) return false;
+    return mark.take(files.folder(), files.number()) == UndoMark::Answer::Ours;
+}
+
+/// Removes a state for good and moves those above it down. The one that follows it, even one still to come, has a gap
+/// before it.
+int UndoStore::Series::drop(int index, int count, bool ours)
+{
+    if (ours) files.drop(index, count - 1);
+    std::shift_left(states.begin() + index, states.begin() + count, 1);
+    of(count - 1) = {};
+    of(index).gap = true;
+    return count - 1;
+}
+
+/// States held only in memory go to disk as soon as it has room. The rest may take as much memory as it leaves free;
+/// beyond that the oldest is dropped.
+int UndoStore::Series::keepOlder(int count, bool ours)
+{
+    std::int64_t kept = 0;
+    for (int i = 0; i < count; ++i) {
+        std::optional<Bits>& picture = of(i).picture;
+        if (picture && ours && kept == 0 && writeState(i, *picture)) picture.reset();
+        if (picture) kept += static_cast<std::int64_t>(picture->sizeInBytes());
+    }
+    if (kept == 0) return count;
+    const int reason = errno; // of the last write
+    const std::int64_t room = files.folder().isEmpty() ? 0 : MemoryBudget::available();
+    for (int i = 0; kept > room; ++i)
+        if (const std::optional<Bits>& picture = of(i).picture) {
+            kept -= static_cast<std::int64_t>(picture->sizeInBytes());
+            count = drop(i--, count, ours);
+        }
+    errno = reason;
+    return count;
+}
+
+/// Writes one snapshot. The redo steps go first: the disk may need their room.
+int UndoStore::Series::write(const Bits& bits)
+{
+    const bool ours = ready();
+    for (int i = step + 1; i <= top && ours; ++i) files.remove(i);
+    std::fill(states.begin() + step, states.end(), State());
+    int count = keepOlder(step, ours);
+    if (of(count).gap) tell(errno);
+    bool done = false;
+    if (count == kLimit) { // ten states exist, the one on screen is one of them
+        done = ours && writeState(count, bits, true);
+        if (ours) files.drop(0, count);
+        std::shift_left(states.begin(), states.end(), 1);
+        --count;
+    }
+    done = done || (ours && writeState(count, bits));
+    if (done) return count + 1;
+    if (ours) files.remove(count); // the redo steps
+    return hold(bits, count);
+}
+
+bool UndoStore::Series::writeState(int index, const Bits& bits, bool overOldest)
+{
+    if (!(overOldest ? files.writeOverOldest(index, bits) : files.write(index, bits))) return false;
+    State& state = of(index);
+    state.file = files.identity(index);
+    state.sum = checksumOf(bits.data(), bits.sizeInBytes());
+    state.isInherited = false;
+    return true;
+}
+
+/// The reader of a state doesn't know what else has happened to its file.
+std::optional<Bits> UndoStore::Series::pictureOf(int index) const
+{
+    const State& state = of(index);
+    if (state.picture) return state.picture;
+    std::optional<Bits> bits = files.read(index);
+    const bool isChecked = bits && state.isInherited && state.sum != 0;
+    if (isChecked && state.sum != checksumOf(bits->data(), bits->sizeInBytes())) return {};
+    return bits;
+}
+
+/// The number of the state shown and of all, as they are on the disk now. The guard is free.
+void UndoStore::Series::keepRecord(int step, int top)
+{
+    UndoRecord now{.step = step, .when = QDateTime::currentMSecsSinceEpoch()};
+    {
+        const std::lock_guard lock(guard);
+        if (abandoned || files.folder().isEmpty() || (!about.isUnsaved && !recorded)) return;
+        now.about = about;
+    }
+    now.states.assign(states.begin(), states.begin() + top); // without their pictures
+    const bool done = ready() && record.write(now);
+    const int reason = errno;
+    {
+        const std::lock_guard lock(guard);
+        if (done) recorded = true;
+        if (std::exchange(unrecorded, !done)) return;
+    }
+    if (!done && toldUnrecorded) toldUnrecorded(whyNot(reason));
+}
+
+void UndoStore::Series::tryToRecord(int step, int top)
+try {
+    keepRecord(step, top);
+} catch (const std::exception&) { // no memory: the record before it stands
+}
+
+/// Keeps the newest state in memory only.
+int UndoStore::Series::hold(const Bits& bits, int index)
+{
+    of(index).picture = bits;
+    everFailed = true;
+    return index + 1;
+}
+
+void UndoStore::Series::tell(int reason) const
+{
+    if (told) told(whyNot(reason));
+}
+
+std::optional<UndoStore::Found> UndoStore::Series::find(int shown, bool back)
+{
+    const int way = back ? -1 : 1, nearest = shown + way;
+    for (int i = nearest; i >= 0 && i < top; i += way)
+        if (auto bits = pictureOf(i)) return Found{*bits, i + 1, i != nearest || of(back ? shown : i).gap};
+    return {};
+}
+
+/// What could be redone is gone.
+void UndoStore::Series::noteSave(StepNote& note)
+{
+    const auto shown = std::ranges::find(log, current, &StepNote::number);
+    if (shown != log.end()) log.erase(shown + 1, log.end());
+    current = note.number = ++numbers;
+    log.push_back(note);
+    pending.push_back(note);
+}
+
+bool UndoStore::Series::isThere(const StepNote& note) const
+{
+    return std::ranges::count(standing, note.number) + std::ranges::count(pending, note.number, &StepNote::number) > 0;
+}
+
+/// Those that can't be gone to any more have no picture.
+void UndoStore::Series::noteStates()
+{
+    standing.clear();
+    for (int i = 0; i < top; ++i) standing.push_back(of(i).note.number);
+    for (StepNote& note : log)
+        if (!isThere(note)) note.small = Bits();
+}
+
+} // namespace velara
