@@ -97,6 +97,13 @@ QString writePictureOf(Session& session, const CommandLine& line, const QString&
     return {};
 }
 
+void makeTargetFolder(const QString& folder)
+{
+    if (!makeFolders(folder))
+        throw fileFault(
+            QStringLiteral("%1 can't be made: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
+}
+
 QString savedExtensions()
 {
     QStringList saved;

@@ -158,8 +158,15 @@ void Recovery::discard(const std::vector<const Leftover*>& chosen)
                                                     .arg(what),
                                                 {tr("&Discard")});
     if (!self || answer != 0) return;
+    std::vector<std::shared_ptr<Leftover>> taken;
     for (const Leftover* each : chosen)
-        if (const auto leftover = takeOut(each)) leftover->discard();
+        if (const auto leftover = takeOut(each)) taken.push_back(leftover);
+    // Beside the window's thread: one may just be read, and large files take their time to go.
+    requests_.push_back(frame_.platform().inBackground(
+        [taken](const GoOn&) {
+            for (const auto& leftover : taken) leftover->discard();
+        },
+        [] {}));
 }
 
 } // namespace velara

@@ -5,6 +5,7 @@
 #include "commands/recipe/stepText.h"
 #include "document/Workspace.h"
 #include "fileio/disk/OutputFile.h"
+#include "fileio/disk/userFolders.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/nameOrder.h"
 #include "seams/Platform.h"
@@ -224,7 +225,8 @@ void Recipes::showFolderRun()
                            }});
         window =
             new fFolderRun(frame_.platform(), findHelper(QStringLiteral("velara-batch")),
-                           frame_.platform().programFolder() + QStringLiteral("/Logs"), std::move(choices), &frame_);
+                           userFolder(frame_.platform().programFolder(), UserFolder::State) + QStringLiteral("/Logs"),
+                           std::move(choices), &frame_);
         window->setAttribute(Qt::WA_DeleteOnClose);
         connect(window, &fFolderRun::openWanted, this,
                 [this](const QString& path) { frame_.openPicture(path, Unreadable::Refused); });

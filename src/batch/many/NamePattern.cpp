@@ -1,5 +1,6 @@
 #include "batch/many/NamePattern.h"
 #include "batch/Failure.h"
+#include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include <QDateTime>
 #include <QStringList>
@@ -8,9 +9,6 @@
 namespace velara {
 
 namespace {
-
-/// What follows the last slash.
-QString fileIn(const QString& path) { return path.mid(path.lastIndexOf(u'/') + 1); }
 
 /// Of a name with an ending what stands before it; a dot at the beginning begins none.
 QString stemOf(const QString& file)
@@ -24,7 +22,7 @@ QString endingOf(const QString& file) { return file.mid(stemOf(file).size() + 1)
 QString folderNameOf(const QString& path)
 {
     const qsizetype slash = path.lastIndexOf(u'/');
-    const QString folder = slash > 0 ? fileIn(path.left(slash)) : QString();
+    const QString folder = slash > 0 ? lastName(path.left(slash)) : QString();
     return folder == QStringLiteral(".") || folder == QStringLiteral("..") ? QString() : folder;
 }
 
@@ -41,9 +39,9 @@ struct Field {
 };
 // clang-format off
 constexpr Field kFields[] = {
-    {"name",   "the input's name without its ending",               [](const NameFacts& f) { return stemOf(fileIn(f.input)); }},
+    {"name",   "the input's name without its ending",               [](const NameFacts& f) { return stemOf(lastName(f.input)); }},
     {"ext",    "the ending of the output's format",                 [](const NameFacts& f) { return f.ext; }},
-    {"from",   "the ending of the input",                           [](const NameFacts& f) { return endingOf(fileIn(f.input)); }},
+    {"from",   "the ending of the input",                           [](const NameFacts& f) { return endingOf(lastName(f.input)); }},
     {"n",      "its number, from 1; {n:04} with four digits",       [](const NameFacts& f) { return QString::number(f.number); }, true},
     {"dir",    "the folders between the INPUT folder and the file", [](const NameFacts& f) { return f.dir; }},
     {"parent", "the name of the folder that it is in",              [](const NameFacts& f) { return folderNameOf(f.input); }},

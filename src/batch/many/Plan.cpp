@@ -18,8 +18,6 @@ QString folderOf(const QString& path)
     return slash < 0 ? QStringLiteral(".") : slash == 0 ? QStringLiteral("/") : path.left(slash);
 }
 
-QString fileIn(const QString& path) { return path.mid(path.lastIndexOf(u'/') + 1); }
-
 /// Tells by which outputs one file would be written: by what is there, and by folder and name where nothing is.
 class Targets {
   public:
@@ -30,7 +28,7 @@ class Targets {
             const auto [at, isNew] = files_.try_emplace({there->st_dev, there->st_ino}, input);
             return isNew ? -1 : at->second;
         }
-        const QByteArray name = nativeName(realFolder(folderOf(output)) + u'/' + fileIn(output));
+        const QByteArray name = nativeName(realFolder(folderOf(output)) + u'/' + lastName(output));
         const auto [at, isNew] = names_.try_emplace(std::string(name.constData(), std::size_t(name.size())), input);
         return isNew ? -1 : at->second;
     }
@@ -45,7 +43,7 @@ class Targets {
             const QString above = folderOf(folder);
             at->second = real              ? nameFrom(real.get())
                          : above == folder ? folder
-                                           : QString(realFolder(above)) + u'/' + fileIn(folder);
+                                           : QString(realFolder(above)) + u'/' + lastName(folder);
         }
         return at->second;
     }
@@ -73,7 +71,7 @@ class Planner {
             QString output = outputOf(input, i + 1);
             auto there = statusOf(output);
             check(input, i, output, there);
-            if (shardOf(input.dir, fileIn(input.path), order_.shard.count) != order_.shard.index) continue;
+            if (shardOf(input.dir, lastName(input.path), order_.shard.count) != order_.shard.index) continue;
             if (there && order_.existing == Existing::Number) output = numbered(output);
             plan.pictures.push_back({input.path, output, there && isLeft(input, *there)});
             folders_.insert(folderOf(output));
@@ -86,7 +84,7 @@ class Planner {
     QString outputOf(const InputFile& input, int number) const
     {
         if (order_.inPlace) return input.path;
-        const QString file = fileIn(input.path);
+        const QString file = lastName(input.path);
         const QString name =
             pattern_.nameOf({input.path, input.dir, endingOf_(extensionOf(file)), number, input.seconds});
         return saveTargetOf(order_.into + (order_.into.endsWith(u'/') ? QString() : QStringLiteral("/")) + name).file;

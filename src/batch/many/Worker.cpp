@@ -10,12 +10,10 @@
 #include <QCoreApplication>
 #include <cerrno>
 #include <chrono>
-#include <cstring>
 #include <deque>
 #include <future>
 #include <set>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace velara {
@@ -125,17 +123,12 @@ class Worker {
         return Told::Written;
     }
 
-    /// With those above it.
+    /// Each is looked at once.
     void makeFolder(const QString& folder)
     {
-        if (folder.isEmpty() || !folders_.insert(folder).second || isFolder(folder)) return;
-        const qsizetype slash = folder.lastIndexOf(u'/');
-        if (slash > 0) makeFolder(folder.left(slash));
-        constexpr mode_t kAll = 0777;
-        if (mkdir(nativeName(folder).constData(), kAll) == 0 || errno == EEXIST) return;
-        folders_.erase(folder);
-        throw fileFault(
-            QStringLiteral("%1 can't be made: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno))));
+        if (folder.isEmpty() || folders_.contains(folder)) return;
+        makeTargetFolder(folder);
+        folders_.insert(folder);
     }
 
     /// The first picture is done.

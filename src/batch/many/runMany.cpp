@@ -52,14 +52,7 @@ void checkReport(const QString& report, const std::vector<InputFile>& inputs, co
 /// The target folder is there, and what dead programs left in those that are written to is gone.
 void prepareFolders(const ManyOrder& order, const Plan& plan)
 {
-    constexpr mode_t kAll = 0777;
-    if (!order.inPlace && !isFolder(order.into)) {
-        for (qsizetype at = order.into.indexOf(u'/', 1); at > 0; at = order.into.indexOf(u'/', at + 1))
-            mkdir(nativeName(order.into.left(at)).constData(), kAll);
-        if (mkdir(nativeName(order.into).constData(), kAll) != 0 && !isFolder(order.into))
-            throw fileFault(
-                QStringLiteral("%1 can't be made: %2").arg(order.into, QString::fromLocal8Bit(std::strerror(errno))));
-    }
+    if (!order.inPlace) makeTargetFolder(order.into);
     for (const QString& folder : plan.folders) removeStrays(folder);
 }
 

@@ -1,5 +1,6 @@
 // What is known of the file of a document.
 #pragma once
+#include "fileio/disk/nativeName.h"
 #include "seams/CameraData.h"
 #include <QString>
 
@@ -23,7 +24,7 @@ struct FileFacts {
     /// What follows the last separator, right-trimmed.
     QString name() const
     {
-        QString name = path.mid(path.lastIndexOf('/') + 1);
+        QString name = lastName(path);
         while (name.endsWith(' ')) name.chop(1);
         return name;
     }

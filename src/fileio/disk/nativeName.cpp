@@ -1,5 +1,6 @@
 #include "fileio/disk/nativeName.h"
 #include <QFile>
+#include <cerrno>
 
 namespace velara {
 
@@ -70,6 +71,15 @@ std::int64_t sizeOfFile(const QString& path)
 {
     const auto status = statusOf(path);
     return status ? std::int64_t{status->st_size} : 0;
+}
+
+bool makeFolders(const QString& path)
+{
+    constexpr mode_t kAll = 0777;
+    if (isFolder(path)) return true;
+    const qsizetype slash = path.lastIndexOf(u'/');
+    if (slash > 0 && !makeFolders(path.left(slash))) return false;
+    return mkdir(nativeName(path).constData(), kAll) == 0 || (errno == EEXIST && isFolder(path));
 }
 
 } // namespace velara

@@ -11,6 +11,11 @@ namespace velara {
 /// The bytes of a path for the system.
 QByteArray nativeName(const QString& path);
 QString nameFrom(const QByteArray& bytes);
+/// What follows the last slash of a path.
+inline QString lastName(const QString& path) { return path.mid(path.lastIndexOf(u'/') + 1); }
+/// Makes the folder and those above it that are missing, as far as the user's mask lets others in. False, with errno,
+/// when it isn't there afterwards.
+bool makeFolders(const QString& path);
 /// Of what the path leads to, behind links; none when there is nothing.
 std::optional<struct stat> statusOf(const QString& path);
 bool isThere(const QString& path);

@@ -7,8 +7,8 @@ namespace velara {
 
 enum class UserFolder {
     Settings, // the configuration, the user's colours
-    Data,     // stamps, textures, pictures
-    State,    // what can be undone
+    Data,     // stamps, textures, pictures, recipes
+    State,    // what can be undone, logs
     Cache,    // may go at any time
 };
 

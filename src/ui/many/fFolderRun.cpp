@@ -1,6 +1,7 @@
 #include "ui/many/fFolderRun.h"
 #include "fileio/formats.h"
 #include "fileio/readInBackground.h"
+#include "fileio/savePicture.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
 #include <QCheckBox>
@@ -20,8 +21,6 @@
 namespace velara {
 
 namespace {
-
-constexpr const char* kWithQuality[] = {"jpg", "webp", "avif", "jxl"};
 
 /// About as many as velara-batch will find; it has the last word.
 int countOf(const QStringList& inputs, bool below, const GoOn& goOn)
@@ -102,7 +101,7 @@ void fFolderRun::updateControls()
     for (QWidget* each : std::initializer_list<QWidget*>{txtInto_, cmdInto_, txtName_, cboFormat_, cboExisting_})
         each->setEnabled(!over);
     const QString format = cboFormat_->currentData().toString();
-    spnQuality_->setEnabled(!over && std::ranges::count(kWithQuality, format) > 0);
+    spnQuality_->setEnabled(!over && hasQuality(format));
     cmdRemove_->setEnabled(!lstInputs_->selectedItems().isEmpty());
     cmdRun_->setEnabled(!runs && lstInputs_->count() > 0 && cboRecipe_->count() > 0 &&
                         (over || !txtInto_->text().trimmed().isEmpty()));

@@ -71,7 +71,7 @@ TEST_F(RecoveryFrame, OffersEachAndAllWithThumbnailsNamesAndTimes)
     platform.answers = {"&Discard"};
     press("cmdDiscardAll");
     EXPECT_EQ(page()->count(), 0);
-    EXPECT_EQ(QDir(path("Temp")).entryList({"b0005*.dat", "b0005.rec"}).join(' ').toStdString(), "");
+    EXPECT_TRUE(comes([&] { return QDir(path("Temp")).entryList({"b0005*"}).isEmpty(); }));
     frame->run("@RECOVER");
     EXPECT_EQ(last(), "message: Velara Studio: There is nothing to recover.");
 }
