@@ -206,9 +206,10 @@ TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.size(), QSize(901, 523));
         EXPECT_EQ(dialog.directory().path(), folder.path());
-        dialog.selectFile("x.png");
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("x.png"); // a selection goes as the folder is read again
         EXPECT_TRUE(comes([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         static_cast<QDialog&>(dialog).accept();
+        if (dialog.isVisible()) dialog.reject(); // no endless wait where it is refused
     });
     EXPECT_EQ(platform.openFileName(request), path("x.png"));
 }
