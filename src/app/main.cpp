@@ -4,12 +4,14 @@
 #include "app/start/FrameRequests.h"
 #include "app/start/SessionEnd.h"
 #include "app/start/formatPlugins.h"
+#include "app/start/language.h"
 #include "fileio/load/PictureLoader.h"
 #include "platform/desktop/QtPlatform.h"
 #include "platform/opening/OpenService.h"
 #include "platform/opening/places.h"
 #include <QApplication>
 #include <QFile>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <cstdio>
 #include <cstring>
@@ -65,6 +67,8 @@ int main(int argc, char** argv)
     service->serve(velara::sessionBus(QStringLiteral("velara-studio")));
     service->listen(velara::socketOf(getpid()));
     velara::QtPlatform platform;
+    const QString language = velara::chosenLanguage(platform);
+    velara::useLanguage(application, language.isEmpty() ? velara::languageFor(QLocale().uiLanguages()) : language);
     velara::Setup setup;
     velara::Startup startup(platform, setup);
     std::unique_ptr<velara::fMain> frame;

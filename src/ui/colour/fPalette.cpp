@@ -113,7 +113,8 @@ QWidget* fPalette::makeNumbers()
 {
     constexpr struct {
         const char *letter, *label, *name;
-    } kRows[] = {{"R", "lblR", "Red"}, {"G", "lblG", "Green"}, {"B", "lblB", "Blue"}};
+    } kRows[] = {
+        {"R", "lblR", QT_TR_NOOP("Red")}, {"G", "lblG", QT_TR_NOOP("Green")}, {"B", "lblB", QT_TR_NOOP("Blue")}};
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);

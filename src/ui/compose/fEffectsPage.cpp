@@ -37,7 +37,7 @@ constexpr int kCell = kSceneSide + 10; // of a thumbnail with its button
 
 QPushButton* applyButton(const char* name, const QString& accessibleName)
 {
-    auto* button = named(new QPushButton(QStringLiteral("Apply")), QLatin1String(name), accessibleName);
+    auto* button = named(new QPushButton(fEffectsPage::tr("Apply")), QLatin1String(name), accessibleName);
     return button;
 }
 

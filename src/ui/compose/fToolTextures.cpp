@@ -34,6 +34,6 @@ const QString& fToolTextures::textureFolder() const { return effects_->folder();
 
 void fToolTextures::setTextureFolder(const QString& folder) { effects_->setFolder(folder); }
 
-void fToolTextures::showEffect(const QString& name) { setWindowTitle(QStringLiteral("Textures: ") + name); }
+void fToolTextures::showEffect(const QString& name) { setWindowTitle(tr("Textures: %1").arg(name)); }
 
 } // namespace velara
