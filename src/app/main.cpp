@@ -1,10 +1,10 @@
 // velara-studio: the editor. With files on its command line it is velara-open.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/settings/language.h"
 #include "app/start/FrameRequests.h"
 #include "app/start/SessionEnd.h"
 #include "app/start/formatPlugins.h"
-#include "app/start/language.h"
 #include "fileio/load/PictureLoader.h"
 #include "platform/desktop/QtPlatform.h"
 #include "platform/opening/OpenService.h"

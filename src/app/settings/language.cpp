@@ -1,4 +1,4 @@
-#include "app/start/language.h"
+#include "app/settings/language.h"
 #include "seams/Machine.h"
 #include <QCoreApplication>
 #include <QLibraryInfo>
