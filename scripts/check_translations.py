@@ -26,7 +26,7 @@ def marks(text):
         "blanks in front": text[: len(text) - len(text.lstrip())],
         "blanks behind": text[len(text.rstrip()):],
         "tabs": text.count("\t"),
-        "tags": sorted(re.findall(r"</?\w+>", text)),
+        "tags": sorted(re.findall(r"</?[a-z]\w*>", text)),
     }
 
 

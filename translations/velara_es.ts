@@ -5,2217 +5,2219 @@
     <name>Clipboard</name>
     <message>
         <source>the picture on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>la imagen del portapapeles</translation>
     </message>
     <message>
         <source>The picture on the clipboard was given up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha renunciado a la imagen del portapapeles.</translation>
     </message>
     <message>
         <source>The picture on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del portapapeles</translation>
     </message>
     <message>
         <source>The program that put the picture on the clipboard doesn&apos;t hand it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa que puso la imagen en el portapapeles no la entrega.</translation>
     </message>
 </context>
 <context>
     <name>Colors</name>
     <message>
         <source>16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>16 colores</translation>
     </message>
     <message>
         <source>48 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>48 colores</translation>
     </message>
     <message>
         <source>Red Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta roja</translation>
     </message>
     <message>
         <source>Green Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta verde</translation>
     </message>
     <message>
         <source>Blue Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta azul</translation>
     </message>
     <message>
         <source>Grey Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta gris</translation>
     </message>
     <message>
         <source>System Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta del sistema</translation>
     </message>
 </context>
 <context>
     <name>FileFacts</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>Filters</name>
     <message>
         <source>Color [Colorize]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Colorear]</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación</translation>
     </message>
     <message>
         <source>Luminosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosidad</translation>
     </message>
     <message>
         <source>Adjust [Brightness]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Brillo]</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel</translation>
     </message>
     <message>
         <source>levels added; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>niveles añadidos; 0 no cambia nada</translation>
     </message>
     <message>
         <source>Adjust [Contrast]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Contraste]</translation>
     </message>
     <message>
         <source>percent added to the contrast; -100 is flat grey</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje añadido al contraste; -100 es gris plano</translation>
     </message>
     <message>
         <source>Adjust [Saturation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Saturación]</translation>
     </message>
     <message>
         <source>percent added to the saturation; -100 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje añadido a la saturación; -100 es gris</translation>
     </message>
     <message>
         <source>Adjust [Gamma correction]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Corrección gamma]</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma</translation>
     </message>
     <message>
         <source>gamma is (Level+100)/100; -100 is black</source>
-        <translation type="unfinished"></translation>
+        <translation>gamma es (Nivel+100)/100; -100 es negro</translation>
     </message>
     <message>
         <source>Definition [Diffuse]</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición [Difuminar]</translation>
     </message>
     <message>
         <source>Horizontal range</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcance horizontal</translation>
     </message>
     <message>
         <source>pixels from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles de izquierda a derecha</translation>
     </message>
     <message>
         <source>Vertical range</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcance vertical</translation>
     </message>
     <message>
         <source>pixels from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles de arriba abajo</translation>
     </message>
     <message>
         <source>Adjust [Blur]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Desenfocar]</translation>
     </message>
     <message>
         <source>pixels; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles; 0 no cambia nada</translation>
     </message>
     <message>
         <source>Definition [Halftone]</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición [Semitono]</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio</translation>
     </message>
     <message>
         <source>pixels of a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles de un punto</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición</translation>
     </message>
     <message>
         <source>pixels added to its reach</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles añadidos a su alcance</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad</translation>
     </message>
     <message>
         <source>percent brighter</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje más claro</translation>
     </message>
     <message>
         <source>Definition [Pixelaze]</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición [Pixelar]</translation>
     </message>
     <message>
         <source>Pixel size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del píxel</translation>
     </message>
     <message>
         <source>pixels a side; 1 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles de lado; 1 no cambia nada</translation>
     </message>
     <message>
         <source>Edges [Emboss]</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordes [Repujado]</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>tenths of the difference; 0 is flat grey</source>
-        <translation type="unfinished"></translation>
+        <translation>décimas de la diferencia; 0 es gris plano</translation>
     </message>
     <message>
         <source>Edges [Engrave]</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordes [Grabado]</translation>
     </message>
     <message>
         <source>Edges [Contour]</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordes [Contorno]</translation>
     </message>
     <message>
         <source>edges darker than this show; 0 is none</source>
-        <translation type="unfinished"></translation>
+        <translation>se ven los bordes más oscuros que esto; 0 es ninguno</translation>
     </message>
     <message>
         <source>Edges [Sketch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordes [Boceto]</translation>
     </message>
     <message>
         <source>B/W</source>
-        <translation type="unfinished"></translation>
+        <translation>B/N</translation>
     </message>
     <message>
         <source>edges above it are drawn; flat ones have 255</source>
-        <translation type="unfinished"></translation>
+        <translation>se dibujan los bordes por encima; los planos valen 255</translation>
     </message>
     <message>
         <source>Edges [Threshold]</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordes [Umbral]</translation>
     </message>
     <message>
         <source>Cut value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor de corte</translation>
     </message>
     <message>
         <source>brightest level that becomes black</source>
-        <translation type="unfinished"></translation>
+        <translation>nivel más claro que se vuelve negro</translation>
     </message>
     <message>
         <source>Color [Isolate]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Aislar]</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia</translation>
     </message>
     <message>
         <source>percent of half a channel&apos;s range; 0 is the exact colour</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje de medio rango de un canal; 0 es el color exacto</translation>
     </message>
     <message>
         <source>Color [Reduction]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Reducción]</translation>
     </message>
     <message>
         <source>levels are rounded to multiples of Level+1; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>los niveles se redondean a múltiplos de Nivel+1; 0 no cambia nada</translation>
     </message>
     <message>
         <source>Color [Replace]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Reemplazar]</translation>
     </message>
     <message>
         <source>Color [Replace Hue/Sat.]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Reemplazar tono/sat.]</translation>
     </message>
     <message>
         <source>Hue Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia de tono</translation>
     </message>
     <message>
         <source>hundredths of a sixth of a turn</source>
-        <translation type="unfinished"></translation>
+        <translation>centésimas de un sexto de vuelta</translation>
     </message>
     <message>
         <source>Sat. Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia de sat.</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje</translation>
     </message>
     <message>
         <source>Apply Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar tolerancia</translation>
     </message>
     <message>
         <source>Color [Replace Lum.]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Reemplazar lum.]</translation>
     </message>
     <message>
         <source>Lum. Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia de lum.</translation>
     </message>
     <message>
         <source>percent of brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje de brillo</translation>
     </message>
     <message>
         <source>Adjust [Sharpen]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Enfocar]</translation>
     </message>
     <message>
         <source>0 weak to 100 strong</source>
-        <translation type="unfinished"></translation>
+        <translation>0 débil a 100 fuerte</translation>
     </message>
     <message>
         <source>Adjust [Soften]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar [Suavizar]</translation>
     </message>
     <message>
         <source>Color [Shift]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Desplazar]</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar</translation>
     </message>
     <message>
         <source>levels added</source>
-        <translation type="unfinished"></translation>
+        <translation>niveles añadidos</translation>
     </message>
     <message>
         <source>Color [Hue rotation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Rotación de tono]</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento</translation>
     </message>
     <message>
         <source>percent of a turn of the hue</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje de una vuelta del tono</translation>
     </message>
     <message>
         <source>percent kept; 0 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje conservado; 0 es gris</translation>
     </message>
     <message>
         <source>Color [Grey rotation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Rotación de gris]</translation>
     </message>
     <message>
         <source>phase of the sine in tenths of a radian</source>
-        <translation type="unfinished"></translation>
+        <translation>fase del seno en décimas de radián</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos</translation>
     </message>
     <message>
         <source>its frequency: Steps/2.5 radians from black to white</source>
-        <translation type="unfinished"></translation>
+        <translation>su frecuencia: Pasos/2,5 radianes de negro a blanco</translation>
     </message>
     <message>
         <source>Color [Hue stretch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Estirar tono]</translation>
     </message>
     <message>
         <source>percent; 0 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje; 0 es gris</translation>
     </message>
     <message>
         <source>Stretch factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de estiramiento</translation>
     </message>
     <message>
         <source>tenths of a radian of hue from black to white</source>
-        <translation type="unfinished"></translation>
+        <translation>décimas de radián de tono de negro a blanco</translation>
     </message>
     <message>
         <source>Color [RGB levels]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Niveles RGB]</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Color [RGB banks]</source>
-        <translation type="unfinished"></translation>
+        <translation>Color [Canales RGB]</translation>
     </message>
     <message>
         <source>Deformation [Lens]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Lente]</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Diámetro</translation>
     </message>
     <message>
         <source>Magnify factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de aumento</translation>
     </message>
     <message>
         <source>0 nothing to 130 strong</source>
-        <translation type="unfinished"></translation>
+        <translation>0 nada a 130 fuerte</translation>
     </message>
     <message>
         <source>Deformation [Waves]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Ondas]</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>degrees a row</source>
-        <translation type="unfinished"></translation>
+        <translation>grados por fila</translation>
     </message>
     <message>
         <source>Amplitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Amplitud</translation>
     </message>
     <message>
         <source>quarters of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>cuartos de píxel</translation>
     </message>
     <message>
         <source>Start degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Grado inicial</translation>
     </message>
     <message>
         <source>degrees at the top row</source>
-        <translation type="unfinished"></translation>
+        <translation>grados en la fila superior</translation>
     </message>
     <message>
         <source>Deformation [Bend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Curvar]</translation>
     </message>
     <message>
         <source>Clean back</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar el fondo</translation>
     </message>
     <message>
         <source>Radius factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de radio</translation>
     </message>
     <message>
         <source>percent added to twice the radius</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje añadido al doble del radio</translation>
     </message>
     <message>
         <source>Deformation [Fold]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Plegar]</translation>
     </message>
     <message>
         <source>Horizontal factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor horizontal</translation>
     </message>
     <message>
         <source>percent at the edge; 0 is none</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje en el borde; 0 es ninguno</translation>
     </message>
     <message>
         <source>Vertical factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor vertical</translation>
     </message>
     <message>
         <source>Deformation [Rotate]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Girar]</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados</translation>
     </message>
     <message>
         <source>to the left; below 0 to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>a la izquierda; por debajo de 0, a la derecha</translation>
     </message>
     <message>
         <source>Deformation [Stretch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Estirar]</translation>
     </message>
     <message>
         <source>percent; above 0 shrinks; below 0 enlarges</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje; por encima de 0 reduce; por debajo amplía</translation>
     </message>
     <message>
         <source>percent as before</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje como antes</translation>
     </message>
     <message>
         <source>Deformation [Tile]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Mosaico]</translation>
     </message>
     <message>
         <source>Factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor</translation>
     </message>
     <message>
         <source>copies a side</source>
-        <translation type="unfinished"></translation>
+        <translation>copias por lado</translation>
     </message>
     <message>
         <source>Deformation [Twirl]</source>
-        <translation type="unfinished"></translation>
+        <translation>Deformación [Remolino]</translation>
     </message>
     <message>
         <source>tenths of a radian at half the width</source>
-        <translation type="unfinished"></translation>
+        <translation>décimas de radián a media anchura</translation>
     </message>
     <message>
         <source>Offset degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados de desplazamiento</translation>
     </message>
     <message>
         <source>degrees for all</source>
-        <translation type="unfinished"></translation>
+        <translation>grados para todo</translation>
     </message>
     <message>
         <source>Special [Grid]</source>
-        <translation type="unfinished"></translation>
+        <translation>Especial [Cuadrícula]</translation>
     </message>
     <message>
         <source>Force margins</source>
-        <translation type="unfinished"></translation>
+        <translation>Forzar márgenes</translation>
     </message>
     <message>
         <source>Horizontal step</source>
-        <translation type="unfinished"></translation>
+        <translation>Paso horizontal</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>píxeles</translation>
     </message>
     <message>
         <source>Vertical step</source>
-        <translation type="unfinished"></translation>
+        <translation>Paso vertical</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad</translation>
     </message>
     <message>
         <source>0 invisible to 255 opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>0 invisible a 255 opaco</translation>
     </message>
     <message>
         <source>Special [Light]</source>
-        <translation type="unfinished"></translation>
+        <translation>Especial [Luz]</translation>
     </message>
     <message>
         <source>Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión</translation>
     </message>
     <message>
         <source>levels added in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>niveles añadidos en el centro</translation>
     </message>
     <message>
         <source>percent of it at the rim</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje de ello en el borde</translation>
     </message>
     <message>
         <source>Special [Noise]</source>
-        <translation type="unfinished"></translation>
+        <translation>Especial [Ruido]</translation>
     </message>
     <message>
         <source>Equalized</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecualizado</translation>
     </message>
     <message>
         <source>levels up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>niveles arriba o abajo</translation>
     </message>
     <message>
         <source>Special [Scanlines]</source>
-        <translation type="unfinished"></translation>
+        <translation>Especial [Líneas de barrido]</translation>
     </message>
     <message>
         <source>levels taken away</source>
-        <translation type="unfinished"></translation>
+        <translation>niveles quitados</translation>
     </message>
     <message>
         <source>Behind Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Tras un vidrio</translation>
     </message>
     <message>
         <source>Behind Curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Tras una cortina</translation>
     </message>
     <message>
         <source>Squary</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrado</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Slanting</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicuo</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligero</translation>
     </message>
     <message>
         <source>Tight</source>
-        <translation type="unfinished"></translation>
+        <translation>Estrecho</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho</translation>
     </message>
     <message>
         <source>Classy</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegante</translation>
     </message>
     <message>
         <source>Whity</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanquecino</translation>
     </message>
     <message>
         <source>Stored texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Textura guardada</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Diffuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Difuminar</translation>
     </message>
     <message>
         <source>Dilate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dilatar</translation>
     </message>
     <message>
         <source>Dissolve</source>
-        <translation type="unfinished"></translation>
+        <translation>Disolver</translation>
     </message>
     <message>
         <source>Edge enhance</source>
-        <translation type="unfinished"></translation>
+        <translation>Realzar bordes</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Repujado</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabado</translation>
     </message>
     <message>
         <source>Equalize</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecualizar</translation>
     </message>
     <message>
         <source>Erode</source>
-        <translation type="unfinished"></translation>
+        <translation>Erosionar</translation>
     </message>
     <message>
         <source>Flip</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Espejo</translation>
     </message>
     <message>
         <source>Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>Plegar</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Halftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Semitono</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruido</translation>
     </message>
     <message>
         <source>Old photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto antigua</translation>
     </message>
     <message>
         <source>Painting</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintura</translation>
     </message>
     <message>
         <source>Photocopy</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocopia</translation>
     </message>
     <message>
         <source>Pixelize</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelar</translation>
     </message>
     <message>
         <source>Relief</source>
-        <translation type="unfinished"></translation>
+        <translation>Relieve</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Scanlines</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de barrido</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Enfocar</translation>
     </message>
     <message>
         <source>Sketch</source>
-        <translation type="unfinished"></translation>
+        <translation>Boceto</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar</translation>
     </message>
     <message>
         <source>Thermal</source>
-        <translation type="unfinished"></translation>
+        <translation>Térmico</translation>
     </message>
     <message>
         <source>Twirl</source>
-        <translation type="unfinished"></translation>
+        <translation>Remolino</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondas</translation>
     </message>
     <message>
         <source>Invert black</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir negro</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Failed to get font info</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo obtener la información de la fuente</translation>
     </message>
 </context>
 <context>
     <name>Formats</name>
     <message>
         <source>%1 is %2 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una imagen %2</translation>
     </message>
     <message>
         <source>All Supported Picture Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los formatos de imagen admitidos</translation>
     </message>
     <message>
         <source>Bitmap Files (*.BMP;*.DIB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de mapa de bits (*.BMP;*.DIB)</translation>
     </message>
     <message>
         <source>Meta Files (*.WMF;*.EMF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Metaarchivos (*.WMF;*.EMF)</translation>
     </message>
     <message>
         <source>Graphical Interface Format(*.GIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format (*.GIF)</translation>
     </message>
     <message>
         <source>Independent JPEG Group (*.JPG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Independent JPEG Group (*.JPG)</translation>
     </message>
     <message>
         <source>Portable Network Graphics (*.PNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Network Graphics (*.PNG)</translation>
     </message>
     <message>
         <source>Zsoft Paintbrush Files (*.PCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos Zsoft Paintbrush (*.PCX)</translation>
     </message>
     <message>
         <source>Wireless Bitmap (*.WBMP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de bits inalámbrico (*.WBMP)</translation>
     </message>
     <message>
         <source>Portable Bitmap (*.PBM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Bitmap (*.PBM)</translation>
     </message>
     <message>
         <source>Portable Graymap (*.PGM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Graymap (*.PGM)</translation>
     </message>
     <message>
         <source>Portable Pixelmap (*.PPM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Pixelmap (*.PPM)</translation>
     </message>
     <message>
         <source>Windows Icon (*.ICO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono de Windows (*.ICO)</translation>
     </message>
     <message>
         <source>Photoshop (*.PSD)</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop (*.PSD)</translation>
     </message>
     <message>
         <source>JPEG Network Graphics (*.JNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG Network Graphics (*.JNG)</translation>
     </message>
     <message>
         <source>Multiple Network Graphics (*.MNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple Network Graphics (*.MNG)</translation>
     </message>
     <message>
         <source>Tagged Image File Format (*.TIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagged Image File Format (*.TIF)</translation>
     </message>
     <message>
         <source>Commodore 64 Koala format (*.KOA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato Koala de Commodore 64 (*.KOA)</translation>
     </message>
     <message>
         <source>Kodak PhotoCD (*.PCD)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodak PhotoCD (*.PCD)</translation>
     </message>
     <message>
         <source>Sun Rasterfile (*.RAS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo Sun Raster (*.RAS)</translation>
     </message>
     <message>
         <source>Targa files (*.TGA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos Targa (*.TGA)</translation>
     </message>
     <message>
         <source>Dr.Halo bitmap (*.CUT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de bits Dr.Halo (*.CUT)</translation>
     </message>
     <message>
         <source>Interchanged File Format (*.IFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo de intercambio (*.IFF)</translation>
     </message>
     <message>
         <source>Deluxe Paint package (*.LBM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Deluxe Paint (*.LBM)</translation>
     </message>
     <message>
         <source>WebP (*.WEBP)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP (*.WEBP)</translation>
     </message>
     <message>
         <source>High Efficiency Image File (*.HEIC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de alta eficiencia (*.HEIC)</translation>
     </message>
     <message>
         <source>AV1 Image File (*.AVIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen AV1 (*.AVIF)</translation>
     </message>
     <message>
         <source>JPEG XL (*.JXL)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL (*.JXL)</translation>
     </message>
     <message>
         <source>Scalable Vector Graphics (*.SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico vectorial (*.SVG)</translation>
     </message>
     <message>
         <source>Camera Files (*.DNG;*.CR2;*.NEF;*.ARW;*.RAF;*.ORF;*.RW2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de cámara (*.DNG;*.CR2;*.NEF;*.ARW;*.RAF;*.ORF;*.RW2)</translation>
     </message>
     <message>
         <source>All Supported graphic formats </source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los formatos gráficos admitidos </translation>
     </message>
     <message>
         <source>Windows Bitmap Files (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de mapa de bits de Windows (*.bmp)</translation>
     </message>
     <message>
         <source>Graphical Interface Format (*.GIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format (*.GIF)</translation>
     </message>
     <message>
         <source>Zsoft Paintbrush (*.PCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zsoft Paintbrush (*.PCX)</translation>
     </message>
     <message>
         <source>ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de mapa de bits ASCII (*.ppm)(*.pgm)(*.pbm)</translation>
     </message>
     <message>
         <source>Windows Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de bits de Windows</translation>
     </message>
     <message>
         <source>Meta Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Metaarchivos</translation>
     </message>
     <message>
         <source>Graphical Interface Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format</translation>
     </message>
     <message>
         <source>Independent JPEG group</source>
-        <translation type="unfinished"></translation>
+        <translation>Independent JPEG Group</translation>
     </message>
     <message>
         <source>Portable Network Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Network Graphics</translation>
     </message>
     <message>
         <source>ZSoft Paintbrush Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato ZSoft Paintbrush</translation>
     </message>
     <message>
         <source>Wireless Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de bits inalámbrico</translation>
     </message>
     <message>
         <source>Portable Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Bitmap</translation>
     </message>
     <message>
         <source>Portable Graymap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Graymap</translation>
     </message>
     <message>
         <source>Portable Pixelmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Pixelmap</translation>
     </message>
     <message>
         <source>Windows Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono de Windows</translation>
     </message>
     <message>
         <source>Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>JPEG Network Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG Network Graphics</translation>
     </message>
     <message>
         <source>Multiple Network Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple Network Graphics</translation>
     </message>
     <message>
         <source>Tagged Image File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagged Image File Format</translation>
     </message>
     <message>
         <source>Commodore 64 Koala format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato Koala de Commodore 64</translation>
     </message>
     <message>
         <source>Kodak PhotoCD</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodak PhotoCD</translation>
     </message>
     <message>
         <source>Sun Rasterfile</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo Sun Raster</translation>
     </message>
     <message>
         <source>Targa files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos Targa</translation>
     </message>
     <message>
         <source>Dr.Halo bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de bits Dr.Halo</translation>
     </message>
     <message>
         <source>Interchanged File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo de intercambio</translation>
     </message>
     <message>
         <source>Deluxe Paint package</source>
-        <translation type="unfinished"></translation>
+        <translation>Deluxe Paint</translation>
     </message>
     <message>
         <source>WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>High Efficiency Image File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de alta eficiencia</translation>
     </message>
     <message>
         <source>AV1 Image File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen AV1</translation>
     </message>
     <message>
         <source>JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>Scalable Vector Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico vectorial</translation>
     </message>
     <message>
         <source>Camera Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de cámara</translation>
     </message>
     <message>
         <source>a BMP</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP</translation>
     </message>
     <message>
         <source>a WBMP</source>
-        <translation type="unfinished"></translation>
+        <translation>WBMP</translation>
     </message>
     <message>
         <source>a bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>de mapa de bits</translation>
     </message>
     <message>
         <source>a Windows metafile</source>
-        <translation type="unfinished"></translation>
+        <translation>metaarchivo de Windows</translation>
     </message>
     <message>
         <source>an enhanced metafile</source>
-        <translation type="unfinished"></translation>
+        <translation>metaarchivo mejorado</translation>
     </message>
     <message>
         <source>a GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF</translation>
     </message>
     <message>
         <source>a JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG</translation>
     </message>
     <message>
         <source>a PNG</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG</translation>
     </message>
     <message>
         <source>a PCX</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX</translation>
     </message>
     <message>
         <source>a portable anymap</source>
-        <translation type="unfinished"></translation>
+        <translation>portable anymap</translation>
     </message>
     <message>
         <source>an icon</source>
-        <translation type="unfinished"></translation>
+        <translation>de icono</translation>
     </message>
     <message>
         <source>a cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>de cursor</translation>
     </message>
     <message>
         <source>a Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>an MNG</source>
-        <translation type="unfinished"></translation>
+        <translation>MNG</translation>
     </message>
     <message>
         <source>a TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF</translation>
     </message>
     <message>
         <source>a Koala</source>
-        <translation type="unfinished"></translation>
+        <translation>Koala</translation>
     </message>
     <message>
         <source>a Photo CD</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo CD</translation>
     </message>
     <message>
         <source>a Sun raster</source>
-        <translation type="unfinished"></translation>
+        <translation>Sun Raster</translation>
     </message>
     <message>
         <source>a Targa</source>
-        <translation type="unfinished"></translation>
+        <translation>Targa</translation>
     </message>
     <message>
         <source>a Dr. Halo</source>
-        <translation type="unfinished"></translation>
+        <translation>Dr. Halo</translation>
     </message>
     <message>
         <source>an IFF</source>
-        <translation type="unfinished"></translation>
+        <translation>IFF</translation>
     </message>
     <message>
         <source>a WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>a HEIF</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIF</translation>
     </message>
     <message>
         <source>an AVIF</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF</translation>
     </message>
     <message>
         <source>a JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>an SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG</translation>
     </message>
     <message>
         <source>a camera&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>de cámara</translation>
     </message>
 </context>
 <context>
     <name>Leftover</name>
     <message>
         <source>Recovered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 recuperada</translation>
     </message>
     <message>
         <source>Its pictures can&apos;t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden leer sus imágenes.</translation>
     </message>
     <message>
         <source>A newer version of the program left it: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dejó una versión más reciente del programa: no se conoce su nombre.</translation>
     </message>
     <message>
         <source>Its record is damaged: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su registro está dañado: no se conoce su nombre.</translation>
     </message>
     <message>
         <source>Its record is missing: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta su registro: no se conoce su nombre.</translation>
     </message>
     <message>
         <source>The last change could not be kept: this is the one before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conservar el último cambio: este es el anterior.</translation>
     </message>
     <message>
         <source>Not all of its steps back could be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron conservar todos sus pasos atrás.</translation>
     </message>
 </context>
 <context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir ...</translation>
     </message>
     <message>
         <source>&amp;Browse ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Examinar ...</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;reciente</translation>
     </message>
     <message>
         <source>Next Pa&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Página siguiente</translation>
     </message>
     <message>
         <source>Prev&amp;ious Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;gina anterior</translation>
     </message>
     <message>
         <source>Reco&amp;ver ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;cuperar ...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>G&amp;uardar</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guar&amp;dar como ...</translation>
     </message>
     <message>
         <source>Save A&amp;ll ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;todo ...</translation>
     </message>
     <message>
         <source>Save for &amp;Web ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar para &amp;la Web ...</translation>
     </message>
     <message>
         <source>Scann&amp;er</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;scáner</translation>
     </message>
     <message>
         <source>Acquire ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Adquirir ...</translation>
     </message>
     <message>
         <source>Select Source ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir origen ...</translation>
     </message>
     <message>
         <source>Digital Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara digital</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir</translation>
     </message>
     <message>
         <source>Print Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de impresión</translation>
     </message>
     <message>
         <source>Printer Setup ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar impresora ...</translation>
     </message>
     <message>
         <source>Print ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir ...</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Edición</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cortar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;opiar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seleccionar todo</translation>
     </message>
     <message>
         <source>Select Non&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No seleccionar nada</translation>
     </message>
     <message>
         <source>In&amp;vert Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertir la selección</translation>
     </message>
     <message>
         <source>Create &amp;New Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear &amp;una copia</translation>
     </message>
     <message>
         <source>Copy Image to Clip&amp;board</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar &amp;la imagen al portapapeles</translation>
     </message>
     <message>
         <source>Create &amp;from Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear desde &amp;el portapapeles</translation>
     </message>
     <message>
         <source>Cr&amp;op</source>
-        <translation type="unfinished"></translation>
+        <translation>Recor&amp;tar</translation>
     </message>
     <message>
         <source>Recipes</source>
-        <translation type="unfinished"></translation>
+        <translation>Recetas</translation>
     </message>
     <message>
         <source>&amp;Run Recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ejecutar receta ...</translation>
     </message>
     <message>
         <source>&amp;Save Recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar receta ...</translation>
     </message>
     <message>
         <source>Run on a &amp;Folder ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar en &amp;una carpeta ...</translation>
     </message>
     <message>
         <source>I&amp;mage Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propied&amp;ades de la imagen</translation>
     </message>
     <message>
         <source>Opt&amp;ions ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opciones ...</translation>
     </message>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imagen</translation>
     </message>
     <message>
         <source>Image Size ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la imagen ...</translation>
     </message>
     <message>
         <source>Canvas Size ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del lienzo ...</translation>
     </message>
     <message>
         <source>Orientation ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación ...</translation>
     </message>
     <message>
         <source>Rotate ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar ...</translation>
     </message>
     <message>
         <source>Restore Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar el original</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acercar</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lejar</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño original</translation>
     </message>
     <message>
         <source>&amp;Quality Size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamaño con calidad</translation>
     </message>
     <message>
         <source>2 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>2 x mayor</translation>
     </message>
     <message>
         <source>3 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>3 x mayor</translation>
     </message>
     <message>
         <source>4 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>4 x mayor</translation>
     </message>
     <message>
         <source>5 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>5 x mayor</translation>
     </message>
     <message>
         <source>2 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>2 x menor</translation>
     </message>
     <message>
         <source>3 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>3 x menor</translation>
     </message>
     <message>
         <source>4 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>4 x menor</translation>
     </message>
     <message>
         <source>5 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>5 x menor</translation>
     </message>
     <message>
         <source>Quick Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro rápido</translation>
     </message>
     <message>
         <source>Quality Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro con calidad</translation>
     </message>
     <message>
         <source>Flip &amp;Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voltear en horizontal</translation>
     </message>
     <message>
         <source>Flip &amp;Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear &amp;en vertical</translation>
     </message>
     <message>
         <source>&amp;Properties ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Propiedades ...</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colores</translation>
     </message>
     <message>
         <source>Tweak RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar RGB</translation>
     </message>
     <message>
         <source>Old Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto antigua</translation>
     </message>
     <message>
         <source>Colorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorear</translation>
     </message>
     <message>
         <source>Sketch</source>
-        <translation type="unfinished"></translation>
+        <translation>Boceto</translation>
     </message>
     <message>
         <source>Isolate</source>
-        <translation type="unfinished"></translation>
+        <translation>Aislar</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar</translation>
     </message>
     <message>
         <source>Sepia Tone</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono sepia</translation>
     </message>
     <message>
         <source>Hue Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Estirar tono</translation>
     </message>
     <message>
         <source>Hue Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación de tono</translation>
     </message>
     <message>
         <source>Grey Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación de gris</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Hue &amp;&amp; Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono &amp;&amp; saturación</translation>
     </message>
     <message>
         <source>Luminous</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosidad</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar</translation>
     </message>
     <message>
         <source>RGB To BRG</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB a BRG</translation>
     </message>
     <message>
         <source>RGB To GBR</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB a GBR</translation>
     </message>
     <message>
         <source>RGB To RBG</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB a RBG</translation>
     </message>
     <message>
         <source>RGB To BGR</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB a BGR</translation>
     </message>
     <message>
         <source>RGB To GRB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB a GRB</translation>
     </message>
     <message>
         <source>RGB Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>Canales RGB</translation>
     </message>
     <message>
         <source>Add Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir colores</translation>
     </message>
     <message>
         <source>Soft Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo suave</translation>
     </message>
     <message>
         <source>Hard Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo intenso</translation>
     </message>
     <message>
         <source>Soft Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde suave</translation>
     </message>
     <message>
         <source>Hard Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde intenso</translation>
     </message>
     <message>
         <source>Soft Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul suave</translation>
     </message>
     <message>
         <source>Hard Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul intenso</translation>
     </message>
     <message>
         <source>Soft Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo suave</translation>
     </message>
     <message>
         <source>Hard Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo intenso</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cian</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Naranja</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Púrpura</translation>
     </message>
     <message>
         <source>Retro</source>
-        <translation type="unfinished"></translation>
+        <translation>Retro</translation>
     </message>
     <message>
         <source>Spotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteado</translation>
     </message>
     <message>
         <source>Wet Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel mojado</translation>
     </message>
     <message>
         <source>Fi&amp;lters</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtros</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir</translation>
     </message>
     <message>
         <source>Greyscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de grises</translation>
     </message>
     <message>
         <source>Relief</source>
-        <translation type="unfinished"></translation>
+        <translation>Relieve</translation>
     </message>
     <message>
         <source>Erode</source>
-        <translation type="unfinished"></translation>
+        <translation>Erosionar</translation>
     </message>
     <message>
         <source>Dilate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dilatar</translation>
     </message>
     <message>
         <source>Painting</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintura</translation>
     </message>
     <message>
         <source>Edge Enhance</source>
-        <translation type="unfinished"></translation>
+        <translation>Realzar bordes</translation>
     </message>
     <message>
         <source>Luminousity</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosidad</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligero</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerte</translation>
     </message>
     <message>
         <source>Custom ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado ...</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Repujado</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Diffuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Difuminar</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabado</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Enfocar</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenfocar</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruido</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrícula</translation>
     </message>
     <message>
         <source>Flare</source>
-        <translation type="unfinished"></translation>
+        <translation>Destello</translation>
     </message>
     <message>
         <source>Scanlines</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de barrido</translation>
     </message>
     <message>
         <source>Effect&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Efec&amp;tos</translation>
     </message>
     <message>
         <source>Haftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Semitono</translation>
     </message>
     <message>
         <source>Pixelize</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelar</translation>
     </message>
     <message>
         <source>Mosaic</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo</translation>
     </message>
     <message>
         <source>Gamma Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrección gamma</translation>
     </message>
     <message>
         <source>Thermique</source>
-        <translation type="unfinished"></translation>
+        <translation>Térmico</translation>
     </message>
     <message>
         <source>X-Black</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Negro</translation>
     </message>
     <message>
         <source>Photo Cop</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotocopia</translation>
     </message>
     <message>
         <source>Shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Formas</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Lente</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondas</translation>
     </message>
     <message>
         <source>Bend</source>
-        <translation type="unfinished"></translation>
+        <translation>Curvar</translation>
     </message>
     <message>
         <source>Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>Plegar</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Estirar</translation>
     </message>
     <message>
         <source>Tile</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico</translation>
     </message>
     <message>
         <source>Twirl</source>
-        <translation type="unfinished"></translation>
+        <translation>Remolino</translation>
     </message>
     <message>
         <source>Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidrio</translation>
     </message>
     <message>
         <source>Slanting</source>
-        <translation type="unfinished"></translation>
+        <translation>Oblicuo</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Squary</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrado</translation>
     </message>
     <message>
         <source>Curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortina</translation>
     </message>
     <message>
         <source>Classy</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegante</translation>
     </message>
     <message>
         <source>Whity</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanquecino</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herramientas</translation>
     </message>
     <message>
         <source>Image Merging ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar imágenes ...</translation>
     </message>
     <message>
         <source>Screen Capture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura de pantalla ...</translation>
     </message>
     <message>
         <source>Image Textures ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturas de imagen ...</translation>
     </message>
     <message>
         <source>Image Resolution ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución de la imagen ...</translation>
     </message>
     <message>
         <source>Color Depth ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad de color ...</translation>
     </message>
     <message>
         <source>Save for Web ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar para la Web ...</translation>
     </message>
     <message>
         <source>Text Tools ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas de texto ...</translation>
     </message>
     <message>
         <source>Icon Extractor ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Extractor de iconos ...</translation>
     </message>
     <message>
         <source>File Associations ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Asociaciones de archivos ...</translation>
     </message>
     <message>
         <source>Quick Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura rápida</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritorio</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer plano</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>Set as Wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como fondo de escritorio</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centrar</translation>
     </message>
     <message>
         <source>&amp;Views</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>Tile Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico horizontal</translation>
     </message>
     <message>
         <source>Tile Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico vertical</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Cascada</translation>
     </message>
     <message>
         <source>New View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista nueva</translation>
     </message>
     <message>
         <source>Color Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja de colores</translation>
     </message>
     <message>
         <source>Textures Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja de texturas</translation>
     </message>
     <message>
         <source>Clipboard Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja del portapapeles</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>Status Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de estado</translation>
     </message>
     <message>
         <source>Side Tools  Bar : Hide n Seek</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra lateral : escondite</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla completa</translation>
     </message>
     <message>
         <source>Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Barras de herramientas</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Utilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilidades</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtros</translation>
     </message>
     <message>
         <source>Store Toolbar Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar disposición de las barras</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>&amp;Help ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ayuda ...</translation>
     </message>
     <message>
         <source>&amp;Find a Command ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar una orden ...</translation>
     </message>
     <message>
         <source>&amp;About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca &amp;de Velara Studio</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Glass: Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidrio: horizontal</translation>
     </message>
     <message>
         <source>Luminousity: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosidad: ligera</translation>
     </message>
     <message>
         <source>Luminousity: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosidad: fuerte</translation>
     </message>
     <message>
         <source>Blur: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenfocar: ligero</translation>
     </message>
     <message>
         <source>Emboss: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Repujado: ligero</translation>
     </message>
     <message>
         <source>Contour: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno: ligero</translation>
     </message>
     <message>
         <source>Diffuse: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Difuminar: ligero</translation>
     </message>
     <message>
         <source>Engrave: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabado: ligero</translation>
     </message>
     <message>
         <source>Soften: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar: fuerte</translation>
     </message>
     <message>
         <source>Noise: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruido: ligero</translation>
     </message>
     <message>
         <source>Saturation: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación: fuerte</translation>
     </message>
     <message>
         <source>Original size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño original</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercar</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Alejar</translation>
     </message>
     <message>
         <source>Quick rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro rápido</translation>
     </message>
     <message>
         <source>Quality rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro con calidad</translation>
     </message>
     <message>
         <source>Quality size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño con calidad</translation>
     </message>
     <message>
         <source>Save for web</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar para la Web</translation>
     </message>
     <message>
         <source>Screen capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura de pantalla</translation>
     </message>
     <message>
         <source>Image resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución de la imagen</translation>
     </message>
     <message>
         <source>Image merging</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar imágenes</translation>
     </message>
     <message>
         <source>Image textures</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturas de imagen</translation>
     </message>
     <message>
         <source>Color depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad de color</translation>
     </message>
     <message>
         <source>Text tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas de texto</translation>
     </message>
     <message>
         <source>Icon extractor</source>
-        <translation type="unfinished"></translation>
+        <translation>Extractor de iconos</translation>
     </message>
     <message>
         <source>Quick capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura rápida</translation>
     </message>
     <message>
         <source>Set as wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar como fondo de escritorio</translation>
     </message>
     <message>
         <source>About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Velara Studio</translation>
     </message>
     <message>
         <source>Scroll with the hand (H)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar con la mano (H)</translation>
     </message>
     <message>
         <source>Zoom in (Ctrl++)</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercar (Ctrl++)</translation>
     </message>
     <message>
         <source>Zoom out (Ctrl+-)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alejar (Ctrl+-)</translation>
     </message>
     <message>
         <source>Pictures that were not saved when the program ended</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes sin guardar al terminar el programa</translation>
     </message>
     <message>
         <source>The next page or frame of the file, in a window of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>La página o el fotograma siguiente del archivo, en su propia ventana</translation>
     </message>
     <message>
         <source>The page or frame of the file before this one</source>
-        <translation type="unfinished"></translation>
+        <translation>La página o el fotograma del archivo anterior a este</translation>
     </message>
     <message>
         <source>What was done to this picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se hizo con esta imagen</translation>
     </message>
     <message>
         <source>Writes every changed picture to its own file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe cada imagen cambiada en su propio archivo</translation>
     </message>
     <message>
         <source>Does the steps of a recipe to this picture, as one</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplica los pasos de una receta a esta imagen, como uno solo</translation>
     </message>
     <message>
         <source>Keeps what was done to this picture, to do it to others</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda lo hecho con esta imagen, para aplicarlo a otras</translation>
     </message>
     <message>
         <source>Does a recipe to many pictures, beside the editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplica una receta a muchas imágenes, al margen del editor</translation>
     </message>
     <message>
         <source>Mixes each pixel from those one pixel away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezcla cada píxel con los que están a un píxel: demasiado poco para ocultar nada</translation>
     </message>
     <message>
         <source>Mixes each pixel from those two pixels away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezcla cada píxel con los que están a dos píxeles: demasiado poco para ocultar nada</translation>
     </message>
     <message>
         <source>Mixes each pixel from those up to two pixels away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezcla cada píxel con los que están hasta a dos píxeles: demasiado poco para ocultar nada</translation>
     </message>
     <message>
         <source>Squares of one colour: hides a face or a number plate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadros de un solo color: oculta una cara o una matrícula</translation>
     </message>
 </context>
 <context>
     <name>Properties</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfil</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Lente</translation>
     </message>
     <message>
         <source>Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposición</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>nothing was cut or copied</source>
-        <translation type="unfinished"></translation>
+        <translation>no se ha cortado ni copiado nada</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>What is pasted is larger than the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se pega es mayor que la imagen.</translation>
     </message>
     <message>
         <source>&amp;Enlarge the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Agrandar la imagen</translation>
     </message>
     <message>
         <source>&amp;Keep its size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar su tamaño</translation>
     </message>
     <message>
         <source>The screen gave no picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla no dio ninguna imagen.</translation>
     </message>
     <message>
         <source>%1 x %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 mm</translation>
     </message>
     <message numerus="yes">
         <source>
 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>
+y %n más</numerusform>
+            <numerusform>
+y %n más</numerusform>
         </translation>
     </message>
 </context>
@@ -2223,1494 +2225,1495 @@ and %n more</source>
     <name>ReadingBox</name>
     <message>
         <source>Reading %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1 ...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>Reasons</name>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer %1: %2</translation>
     </message>
     <message>
         <source>it is damaged or not %1 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado o no es una imagen %1</translation>
     </message>
     <message>
         <source>it is damaged, and its reader gave up</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado, y su lector se rindió</translation>
     </message>
     <message>
         <source>it is damaged, and its reader wanted what no picture needs</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado, y su lector pidió lo que ninguna imagen necesita</translation>
     </message>
     <message>
         <source>it is damaged: it has hardly any bytes for its %1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado: apenas tiene bytes para sus %1 x %2 píxeles</translation>
     </message>
     <message>
         <source>it is damaged: some of its pixels are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado: le faltan píxeles</translation>
     </message>
     <message>
         <source>it is cut off: its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>está cortado: le falta el final</translation>
     </message>
     <message>
         <source>it is wider or higher than 32767 pixels, or has more than 268 million pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>mide más de 32767 píxeles de ancho o de alto, o tiene más de 268 millones de píxeles</translation>
     </message>
     <message>
         <source>it needs more memory than reading a picture may take</source>
-        <translation type="unfinished"></translation>
+        <translation>necesita más memoria de la que puede usar la lectura de una imagen</translation>
     </message>
     <message>
         <source>it is empty or can&apos;t be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>está vacío o no se puede abrir</translation>
     </message>
     <message>
         <source>it has more than two gigabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de dos gigabytes</translation>
     </message>
     <message>
         <source>its name has no extension to tell what it is</source>
-        <translation type="unfinished"></translation>
+        <translation>su nombre no tiene extensión que diga qué es</translation>
     </message>
     <message>
         <source>there is no reader for .%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay lector para archivos .%1</translation>
     </message>
     <message>
         <source>its reader could not be locked in (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo aislar su lector (%1)</translation>
     </message>
     <message>
         <source>velara-decode-all, which reads %1 picture, can&apos;t be started</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede iniciar velara-decode-all, que lee una imagen %1</translation>
     </message>
     <message>
         <source>this build lacks the library that reads %1 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>a esta compilación le falta la biblioteca que lee una imagen %1</translation>
     </message>
     <message>
         <source>the library that reads HEIF and AVIF pictures (libheif) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la biblioteca que lee imágenes HEIF y AVIF (libheif)</translation>
     </message>
     <message>
         <source>the library that reads JPEG XL pictures (libjxl) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta la biblioteca que lee imágenes JPEG XL (libjxl)</translation>
     </message>
     <message>
         <source>the fonts that metafiles are drawn with are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>faltan las fuentes con las que se dibujan los metaarchivos</translation>
     </message>
     <message>
         <source>it has only %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>solo tiene %1 páginas</translation>
     </message>
     <message>
         <source>it has only one page</source>
-        <translation type="unfinished"></translation>
+        <translation>solo tiene una página</translation>
     </message>
     <message>
         <source>reading it was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha renunciado a leerlo</translation>
     </message>
     <message>
         <source>reading it took too long and was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>leerlo tardó demasiado y se detuvo</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) gave a false answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el programa que lee imágenes (velara-decode) dio una respuesta falsa</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) can&apos;t be started</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede iniciar el programa que lee imágenes (velara-decode)</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) was not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encontró el programa que lee imágenes (velara-decode)</translation>
     </message>
     <message>
         <source>a sanitizer stopped its reader</source>
-        <translation type="unfinished"></translation>
+        <translation>un detector de errores detuvo su lector</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>ese archivo no existe</translation>
     </message>
     <message>
         <source>there is no permission to read it</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay permiso para leerlo</translation>
     </message>
     <message>
         <source>the system says &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el sistema dice «%1»</translation>
     </message>
     <message>
         <source>the system tells nothing about it</source>
-        <translation type="unfinished"></translation>
+        <translation>el sistema no dice nada de él</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es una carpeta</translation>
     </message>
     <message>
         <source>it is not an ordinary file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo corriente</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está vacío</translation>
     </message>
     <message>
         <source>it has more than the %1 pixels that limits.conf allows</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de los %1 píxeles que permite limits.conf</translation>
     </message>
     <message>
         <source>limits.conf has turned .%1 files off</source>
-        <translation type="unfinished"></translation>
+        <translation>limits.conf ha desactivado los archivos .%1</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay memoria suficiente para él</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay memoria suficiente</translation>
     </message>
     <message>
         <source>no room in the Temp folder</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay espacio en la carpeta Temp</translation>
     </message>
     <message>
         <source>the Temp folder can&apos;t be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede escribir en la carpeta Temp</translation>
     </message>
     <message>
         <source>Overflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbordamiento</translation>
     </message>
     <message>
         <source>Division by zero</source>
-        <translation type="unfinished"></translation>
+        <translation>División por cero</translation>
     </message>
     <message>
         <source>Subscript out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Subíndice fuera de rango</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada seleccionado</translation>
     </message>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño mínimo: 2 x 2</translation>
     </message>
     <message>
         <source>Internal Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error interno</translation>
     </message>
     <message>
         <source>There was an error while saving! Please Restart Velara&apos;s Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se produjo un error al guardar! Reinicie Velara Studio</translation>
     </message>
     <message>
         <source>Collection of ASCII based bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Conjunto de mapas de bits ASCII</translation>
     </message>
     <message>
         <source>A WebP picture has at most 16383 pixels a side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una imagen WebP tiene como máximo 16383 píxeles de lado.</translation>
     </message>
     <message>
         <source>This facility is currently turned Off!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Esta función está desactivada actualmente!</translation>
     </message>
     <message>
         <source>I don&apos;t know how to put a DIB on the clipboard! Copy as bitmap instead!!!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No sé cómo poner un DIB en el portapapeles! ¡Copie como mapa de bits!</translation>
     </message>
     <message>
         <source>the page can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer la página</translation>
     </message>
     <message>
         <source>the page can&apos;t be written</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede escribir la página</translation>
     </message>
     <message>
         <source>the file can&apos;t be written</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede escribir el archivo</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor de impresión no responde</translation>
     </message>
     <message>
         <source>there is no print server</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay servidor de impresión</translation>
     </message>
     <message>
         <source>there is no printer %1 any more</source>
-        <translation type="unfinished"></translation>
+        <translation>ya no hay ninguna impresora %1</translation>
     </message>
     <message>
         <source>the print server has not taken the page</source>
-        <translation type="unfinished"></translation>
+        <translation>el servidor de impresión no ha aceptado la página</translation>
     </message>
     <message>
         <source>%1 refused the page</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 rechazó la página</translation>
     </message>
     <message>
         <source>The printer %1 is paused. The page waits in its queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora %1 está en pausa. La página espera en su cola.</translation>
     </message>
     <message>
         <source>The page is held in the queue of the printer %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página está retenida en la cola de la impresora %1.</translation>
     </message>
     <message>
         <source>The picture of the screen is all black.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen de la pantalla es toda negra.</translation>
     </message>
     <message>
         <source>a profile that can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>un perfil que no se puede leer</translation>
     </message>
     <message>
         <source>%1 bits a pixel in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bits por píxel en el archivo</translation>
     </message>
     <message>
         <source>%1 x %2 dots per inch</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 puntos por pulgada</translation>
     </message>
     <message>
         <source>it is too large for a recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>es demasiado grande para una receta</translation>
     </message>
     <message>
         <source>a recipe begins with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>una receta empieza por «%1»</translation>
     </message>
     <message>
         <source>the recipe is of version %1, and this program knows those up to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>la receta es de la versión %1, y este programa las conoce hasta la %2</translation>
     </message>
     <message>
         <source>%1 is no step; of the options only %2 SHAPE is</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no es un paso; de las opciones solo lo es %2 SHAPE</translation>
     </message>
     <message>
         <source>%1 is a command word and takes no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es una palabra de orden y no admite argumentos</translation>
     </message>
     <message>
         <source>the closing bracket is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta el paréntesis de cierre</translation>
     </message>
     <message>
         <source>there is no pixel in it</source>
-        <translation type="unfinished"></translation>
+        <translation>no contiene ningún píxel</translation>
     </message>
     <message>
         <source>PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) format.</source>
-        <translation type="unfinished"></translation>
+        <translation>PBM, PGM y PPM: si el mapa de bits tiene 1 bit de profundidad, el archivo se guarda como PBM; si tiene 8 bits, como PGM; si tiene 24 bits, como PPM. No se admiten otras profundidades. El archivo solicitado se guarda en formato de color verdadero de 24 bits (.ppm).</translation>
     </message>
     <message>
         <source>Configuration data file is corrupted<byte value="xd"/>
 Values will be initilized</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de configuración está dañado<byte value="xd"/>
+Se restablecerán los valores</translation>
     </message>
     <message>
         <source>it needs %1 of memory, more than half of the %2 that are free</source>
-        <translation type="unfinished"></translation>
+        <translation>necesita %1 de memoria, más de la mitad de los %2 libres</translation>
     </message>
     <message>
         <source>the picture would have %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la imagen tendría %1</translation>
     </message>
     <message>
         <source>no pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>ningún píxel</translation>
     </message>
     <message>
         <source>%1 x %2 pixels; a side has at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 píxeles; un lado tiene como máximo %3</translation>
     </message>
     <message>
         <source>%1 megapixels (%2 x %3 pixels); at most %4 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 megapíxeles (%2 x %3 píxeles); como máximo son posibles %4</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer %1</translation>
     </message>
 </context>
 <context>
     <name>Save for Web</name>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Windows 256</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows 256</translation>
     </message>
     <message>
         <source>GIF-2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-2 colores</translation>
     </message>
     <message>
         <source>2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>2 colores</translation>
     </message>
     <message>
         <source>GIF-4 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-4 colores</translation>
     </message>
     <message>
         <source>4 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>4 colores</translation>
     </message>
     <message>
         <source>GIF-8 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-8 colores</translation>
     </message>
     <message>
         <source>8 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>8 colores</translation>
     </message>
     <message>
         <source>GIF-16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-16 colores</translation>
     </message>
     <message>
         <source>16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>16 colores</translation>
     </message>
     <message>
         <source>GIF-32 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-32 colores</translation>
     </message>
     <message>
         <source>32 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>32 colores</translation>
     </message>
     <message>
         <source>GIF-64 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-64 colores</translation>
     </message>
     <message>
         <source>64 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>64 colores</translation>
     </message>
     <message>
         <source>GIF-128 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-128 colores</translation>
     </message>
     <message>
         <source>128 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>128 colores</translation>
     </message>
     <message>
         <source>GIF-256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-256 colores</translation>
     </message>
     <message>
         <source>256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>256 colores</translation>
     </message>
     <message>
         <source>BMP-2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-2 colores</translation>
     </message>
     <message>
         <source>BMP-16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-16 colores</translation>
     </message>
     <message>
         <source>BMP-256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-256 colores</translation>
     </message>
     <message>
         <source>BMP-16 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-16 bits</translation>
     </message>
     <message>
         <source>16 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits</translation>
     </message>
     <message>
         <source>BMP-24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-24 bits</translation>
     </message>
     <message>
         <source>24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>24 bits</translation>
     </message>
     <message>
         <source>PNG-8 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-8 bits</translation>
     </message>
     <message>
         <source>8 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits</translation>
     </message>
     <message>
         <source>PNG-24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-24 bits</translation>
     </message>
     <message>
         <source>JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG</translation>
     </message>
     <message>
         <source>PCX-24 bit (Compressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX-24 bits (comprimido)</translation>
     </message>
     <message>
         <source>PCX-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX-24 bits (sin comprimir)</translation>
     </message>
     <message>
         <source>TGA-24 bit (Compressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TGA-24 bits (comprimido)</translation>
     </message>
     <message>
         <source>TGA-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TGA-24 bits (sin comprimir)</translation>
     </message>
     <message>
         <source>TIFF-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF-24 bits (sin comprimir)</translation>
     </message>
     <message>
         <source>WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>WebP (Lossless)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP (sin pérdida)</translation>
     </message>
     <message>
         <source>AVIF</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF</translation>
     </message>
     <message>
         <source>JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>MS Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa MS</translation>
     </message>
     <message>
         <source>Optimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Óptimo</translation>
     </message>
     <message>
         <source>Fixed Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color fijo</translation>
     </message>
     <message>
         <source>VGA</source>
-        <translation type="unfinished"></translation>
+        <translation>VGA</translation>
     </message>
     <message>
         <source>iNet</source>
-        <translation type="unfinished"></translation>
+        <translation>iNet</translation>
     </message>
     <message>
         <source>MS 256</source>
-        <translation type="unfinished"></translation>
+        <translation>MS 256</translation>
     </message>
     <message>
         <source>Fixed Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris fijo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Binary</source>
-        <translation type="unfinished"></translation>
+        <translation>Binario</translation>
     </message>
     <message>
         <source>Ordered</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenado</translation>
     </message>
     <message>
         <source>Haftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Semitono</translation>
     </message>
     <message>
         <source>Forward Diag</source>
-        <translation type="unfinished"></translation>
+        <translation>Diag. ascendente</translation>
     </message>
     <message>
         <source>Backward Diag</source>
-        <translation type="unfinished"></translation>
+        <translation>Diag. descendente</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Impar</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Par</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Greyscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de grises</translation>
     </message>
     <message>
         <source>Bad</source>
-        <translation type="unfinished"></translation>
+        <translation>Mala</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Buena</translation>
     </message>
     <message>
         <source>Superb</source>
-        <translation type="unfinished"></translation>
+        <translation>Excelente</translation>
     </message>
 </context>
 <context>
     <name>Search words</name>
     <message>
         <source>blank empty create</source>
-        <translation type="unfinished"></translation>
+        <translation>en blanco vacío crear</translation>
     </message>
     <message>
         <source>load import file</source>
-        <translation type="unfinished"></translation>
+        <translation>cargar importar archivo</translation>
     </message>
     <message>
         <source>scan paper</source>
-        <translation type="unfinished"></translation>
+        <translation>digitalizar papel</translation>
     </message>
     <message>
         <source>screenshot whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>captura pantalla completa</translation>
     </message>
     <message>
         <source>back revert mistake</source>
-        <translation type="unfinished"></translation>
+        <translation>atrás revertir error</translation>
     </message>
     <message>
         <source>again forward</source>
-        <translation type="unfinished"></translation>
+        <translation>otra vez adelante</translation>
     </message>
     <message>
         <source>duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>duplicar</translation>
     </message>
     <message>
         <source>paste as new picture</source>
-        <translation type="unfinished"></translation>
+        <translation>pegar como imagen nueva</translation>
     </message>
     <message>
         <source>resize scale percent width height pixels larger smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>redimensionar escala porcentaje ancho alto píxeles mayor menor</translation>
     </message>
     <message>
         <source>border margin room enlarge</source>
-        <translation type="unfinished"></translation>
+        <translation>borde margen espacio ampliar</translation>
     </message>
     <message>
         <source>turn portrait landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>girar vertical horizontal</translation>
     </message>
     <message>
         <source>turn angle degrees straighten horizon</source>
-        <translation type="unfinished"></translation>
+        <translation>girar ángulo grados enderezar horizonte</translation>
     </message>
     <message>
         <source>export rename convert format</source>
-        <translation type="unfinished"></translation>
+        <translation>exportar renombrar convertir formato</translation>
     </message>
     <message>
         <source>insert clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>insertar portapapeles</translation>
     </message>
     <message>
         <source>cut out trim margins</source>
-        <translation type="unfinished"></translation>
+        <translation>recortar quitar márgenes</translation>
     </message>
     <message>
         <source>settings preferences configure</source>
-        <translation type="unfinished"></translation>
+        <translation>ajustes preferencias configurar</translation>
     </message>
     <message>
         <source>overlay blend double exposure two pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>superponer mezclar doble exposición dos imágenes</translation>
     </message>
     <message>
         <source>resize</source>
-        <translation type="unfinished"></translation>
+        <translation>redimensionar</translation>
     </message>
     <message>
         <source>export gif jpeg png small kilobytes compress quality</source>
-        <translation type="unfinished"></translation>
+        <translation>exportar gif jpeg png pequeño kilobytes comprimir calidad</translation>
     </message>
     <message>
         <source>palette indexed 256 16 colours reduce dither</source>
-        <translation type="unfinished"></translation>
+        <translation>paleta indexada 256 16 colores reducir tramado</translation>
     </message>
     <message>
         <source>write letters caption font</source>
-        <translation type="unfinished"></translation>
+        <translation>escribir letras rótulo fuente</translation>
     </message>
     <message>
         <source>desktop background</source>
-        <translation type="unfinished"></translation>
+        <translation>fondo de escritorio</translation>
     </message>
     <message>
         <source>thumbnails folder gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>miniaturas carpeta galería</translation>
     </message>
     <message>
         <source>crash unsaved restore lost</source>
-        <translation type="unfinished"></translation>
+        <translation>fallo sin guardar restaurar perdido</translation>
     </message>
     <message>
         <source>screenshot window screen</source>
-        <translation type="unfinished"></translation>
+        <translation>captura ventana pantalla</translation>
     </message>
     <message>
         <source>ico extract</source>
-        <translation type="unfinished"></translation>
+        <translation>ico extraer</translation>
     </message>
     <message>
         <source>tiff gif animation icon</source>
-        <translation type="unfinished"></translation>
+        <translation>tiff gif animación icono</translation>
     </message>
     <message>
         <source>default program double click</source>
-        <translation type="unfinished"></translation>
+        <translation>programa predeterminado doble clic</translation>
     </message>
     <message>
         <source>quit close</source>
-        <translation type="unfinished"></translation>
+        <translation>salir cerrar</translation>
     </message>
     <message>
         <source>second window</source>
-        <translation type="unfinished"></translation>
+        <translation>segunda ventana</translation>
     </message>
     <message>
         <source>exif camera date place gps profile metadata information facts</source>
-        <translation type="unfinished"></translation>
+        <translation>exif cámara fecha lugar gps perfil metadatos información</translation>
     </message>
     <message>
         <source>version licence</source>
-        <translation type="unfinished"></translation>
+        <translation>versión licencia</translation>
     </message>
     <message>
         <source>deselect</source>
-        <translation type="unfinished"></translation>
+        <translation>deseleccionar</translation>
     </message>
     <message>
         <source>undo steps states back</source>
-        <translation type="unfinished"></translation>
+        <translation>deshacer pasos estados atrás</translation>
     </message>
     <message>
         <source>every open</source>
-        <translation type="unfinished"></translation>
+        <translation>todas abiertas</translation>
     </message>
     <message>
         <source>macro action script batch replay</source>
-        <translation type="unfinished"></translation>
+        <translation>macro acción script lote repetir</translation>
     </message>
     <message>
         <source>macro action script batch record</source>
-        <translation type="unfinished"></translation>
+        <translation>macro acción script lote grabar</translation>
     </message>
     <message>
         <source>batch many pictures macro convert all</source>
-        <translation type="unfinished"></translation>
+        <translation>lote muchas imágenes macro convertir todo</translation>
     </message>
     <message>
         <source>keys shortcuts manual</source>
-        <translation type="unfinished"></translation>
+        <translation>teclas atajos manual</translation>
     </message>
     <message>
         <source>negative</source>
-        <translation type="unfinished"></translation>
+        <translation>negativo</translation>
     </message>
     <message>
         <source>black and white grey monochrome</source>
-        <translation type="unfinished"></translation>
+        <translation>blanco y negro gris monocromo</translation>
     </message>
     <message>
         <source>crisp focus</source>
-        <translation type="unfinished"></translation>
+        <translation>nítido enfoque</translation>
     </message>
     <message>
         <source>soft unsharp</source>
-        <translation type="unfinished"></translation>
+        <translation>suave borroso</translation>
     </message>
     <message>
         <source>vintage brown</source>
-        <translation type="unfinished"></translation>
+        <translation>antiguo marrón</translation>
     </message>
     <message>
         <source>vintage brown old</source>
-        <translation type="unfinished"></translation>
+        <translation>antiguo marrón viejo</translation>
     </message>
     <message>
         <source>mirror left right</source>
-        <translation type="unfinished"></translation>
+        <translation>espejo izquierda derecha</translation>
     </message>
     <message>
         <source>mirror top bottom upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>espejo arriba abajo cabeza abajo</translation>
     </message>
     <message>
         <source>zoom 100 % actual pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>zoom 100 % píxeles reales</translation>
     </message>
     <message>
         <source>turn right clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>girar a la derecha sentido horario</translation>
     </message>
     <message>
         <source>turn upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>girar cabeza abajo</translation>
     </message>
     <message>
         <source>turn left counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>girar a la izquierda sentido antihorario</translation>
     </message>
     <message>
         <source>tint hue</source>
-        <translation type="unfinished"></translation>
+        <translation>teñir tono</translation>
     </message>
     <message>
         <source>brightness lighter darker exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>brillo más claro más oscuro exposición</translation>
     </message>
     <message>
         <source>lighter darker exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>más claro más oscuro exposición</translation>
     </message>
     <message>
         <source>fade dull</source>
-        <translation type="unfinished"></translation>
+        <translation>apagado mate</translation>
     </message>
     <message>
         <source>hide a face censor anonymous number plate mosaic blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>ocultar cara censurar anónimo matrícula mosaico bloques</translation>
     </message>
     <message>
         <source>recolour change colour</source>
-        <translation type="unfinished"></translation>
+        <translation>recolorear cambiar color</translation>
     </message>
     <message>
         <source>grain</source>
-        <translation type="unfinished"></translation>
+        <translation>grano</translation>
     </message>
 </context>
 <context>
     <name>Textures</name>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel</translation>
     </message>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Lienzo</translation>
     </message>
     <message>
         <source>Linen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lino</translation>
     </message>
     <message>
         <source>Brick</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladrillo</translation>
     </message>
     <message>
         <source>Stone</source>
-        <translation type="unfinished"></translation>
+        <translation>Piedra</translation>
     </message>
     <message>
         <source>Sand</source>
-        <translation type="unfinished"></translation>
+        <translation>Arena</translation>
     </message>
     <message>
         <source>Wood</source>
-        <translation type="unfinished"></translation>
+        <translation>Madera</translation>
     </message>
     <message>
         <source>Weave</source>
-        <translation type="unfinished"></translation>
+        <translation>Tejido</translation>
     </message>
     <message>
         <source>Ripple</source>
-        <translation type="unfinished"></translation>
+        <translation>Ondulación</translation>
     </message>
     <message>
         <source>Leather</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuero</translation>
     </message>
     <message>
         <source>Frosted glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidrio esmerilado</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrícula</translation>
     </message>
 </context>
 <context>
     <name>Tools</name>
     <message>
         <source>Esc or right button: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc o botón derecho: abandonar</translation>
     </message>
     <message>
         <source>Space: fix and go on · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio: fijar y seguir · Esc: abandonar</translation>
     </message>
     <message>
         <source>Click: lay down · Space: fix and go on · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic: colocar · Espacio: fijar y seguir · Esc: abandonar</translation>
     </message>
     <message>
         <source>Space: corner · Enter: close · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio: vértice · Intro: cerrar · Esc: abandonar</translation>
     </message>
     <message>
         <source>Click: corner · Enter or double click: close · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic: vértice · Intro o doble clic: cerrar · Esc: abandonar</translation>
     </message>
     <message>
         <source>Pick a color</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar un color</translation>
     </message>
     <message>
         <source>Move the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover la selección</translation>
     </message>
     <message>
         <source>What moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué se mueve</translation>
     </message>
     <message>
         <source>Move Selection Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover solo la selección</translation>
     </message>
     <message>
         <source>Move Content Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover solo el contenido</translation>
     </message>
     <message>
         <source>&amp;Use this intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar esta intensidad</translation>
     </message>
     <message>
         <source>Instead of the selection&apos;s pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>En lugar de la presión de la selección</translation>
     </message>
     <message>
         <source>Opaque Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad opaca</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar</translation>
     </message>
     <message>
         <source>Mode of selecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de selección</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Restar</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Shape of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma de la selección</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectángulo</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Elipse</translation>
     </message>
     <message>
         <source>Polygon/Free hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Polígono/a mano alzada</translation>
     </message>
     <message>
         <source>Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Píxel</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión</translation>
     </message>
     <message>
         <source>&amp;Move selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover la selección</translation>
     </message>
     <message>
         <source>Move region / move pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover región / mover píxeles</translation>
     </message>
     <message>
         <source>Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pincel</translation>
     </message>
     <message>
         <source>Mode of the brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo del pincel</translation>
     </message>
     <message>
         <source>Current color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color actual</translation>
     </message>
     <message>
         <source>Current stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Sello actual</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscurecer</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Aclarar</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Enfocar</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar</translation>
     </message>
     <message>
         <source>Soften (Overlay)</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizar (superpuesto)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Rellenar</translation>
     </message>
     <message>
         <source>What fills</source>
-        <translation type="unfinished"></translation>
+        <translation>Con qué se rellena</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Free hand</source>
-        <translation type="unfinished"></translation>
+        <translation>A mano alzada</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrado</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Círculo</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Polígono</translation>
     </message>
     <message>
         <source>Pol. sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Lados del pol.</translation>
     </message>
     <message>
         <source>Airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Aerógrafo</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Sello</translation>
     </message>
     <message>
         <source>&amp;Mask color :</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color de máscara:</translation>
     </message>
     <message>
         <source>Use mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar color de máscara</translation>
     </message>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de máscara</translation>
     </message>
     <message>
         <source>&amp;Stamp mask</source>
-        <translation type="unfinished"></translation>
+        <translation>Máscara &amp;del sello</translation>
     </message>
     <message>
         <source>Current color stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Sello del color actual</translation>
     </message>
     <message>
         <source>&amp;Clear back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar el fondo</translation>
     </message>
     <message>
         <source>Clear stamp track</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar el rastro del sello</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Degradado</translation>
     </message>
     <message>
         <source>Form of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma del degradado</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Lineal</translation>
     </message>
     <message>
         <source>Circular</source>
-        <translation type="unfinished"></translation>
+        <translation>Circular</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer color</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparente</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo color</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad</translation>
     </message>
     <message>
         <source>Amount %</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad %</translation>
     </message>
     <message>
         <source>Pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Lápiz</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
 </context>
 <context>
     <name>velara::Bars</name>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer %1</translation>
     </message>
     <message>
         <source>Not available yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no disponible</translation>
     </message>
     <message>
         <source> (not available yet)</source>
-        <translation type="unfinished"></translation>
+        <translation> (aún no disponible)</translation>
     </message>
 </context>
 <context>
     <name>velara::Capture</name>
     <message>
         <source>Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura</translation>
     </message>
     <message>
         <source>Waiting for the desktop&apos;s picture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la imagen del escritorio ...</translation>
     </message>
     <message>
         <source>the screen gave no picture</source>
-        <translation type="unfinished"></translation>
+        <translation>la pantalla no dio ninguna imagen</translation>
     </message>
 </context>
 <context>
     <name>velara::Documents</name>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
 </context>
 <context>
     <name>velara::FEffect</name>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>Show </source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar </translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Apply the effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el efecto</translation>
     </message>
 </context>
 <context>
     <name>velara::FGradient</name>
     <message>
         <source>The gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>El degradado</translation>
     </message>
 </context>
 <context>
     <name>velara::FStamp</name>
     <message>
         <source>Stamp sub-Folder Not Found!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se encontró la subcarpeta de sellos!</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Sello</translation>
     </message>
     <message>
         <source>Stamp files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de sellos</translation>
     </message>
     <message>
         <source>The chosen stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>El sello elegido</translation>
     </message>
     <message>
         <source>&lt;Stamps&gt; subfolder not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró la subcarpeta &lt;Stamps&gt;.</translation>
     </message>
 </context>
 <context>
     <name>velara::FWeb</name>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimizada</translation>
     </message>
     <message>
         <source>Original, above the optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, sobre la optimizada</translation>
     </message>
     <message>
         <source>Optimized, below the original</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimizada, bajo el original</translation>
     </message>
     <message>
         <source>Customized Save Options </source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de guardado personalizadas </translation>
     </message>
     <message>
         <source>Files of this format have no place for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos de este formato no tienen sitio para ello</translation>
     </message>
     <message>
         <source>Enter value between 1 to 99 !</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Escriba un valor entre 1 y 99!</translation>
     </message>
     <message>
         <source>Please Choose a higher image format!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Elija un formato de imagen superior!</translation>
     </message>
     <message>
         <source>The current format cannot be applied to the image!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El formato actual no se puede aplicar a la imagen!</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1%2.</translation>
     </message>
     <message>
         <source>%L1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 bytes</translation>
     </message>
     <message>
         <source>%1 % of the original file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % del archivo original</translation>
     </message>
     <message>
         <source>no loss</source>
-        <translation type="unfinished"></translation>
+        <translation>sin pérdida</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>No quality makes it as small as %1 KB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna calidad lo reduce a %1 KB.</translation>
     </message>
     <message>
         <source>No number of colors makes it as small as %1 KB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún número de colores lo reduce a %1 KB.</translation>
     </message>
     <message>
         <source>Save Optimized As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar optimizada como</translation>
     </message>
     <message>
         <source>File format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato del archivo</translation>
     </message>
     <message>
         <source>Choose a format</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un formato</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formato</translation>
     </message>
     <message>
         <source>&amp;All formats ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todos los formatos ...</translation>
     </message>
     <message>
         <source>Size and loss of this picture in every format</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño y pérdida de esta imagen en cada formato</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta</translation>
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Según el formato</translation>
     </message>
     <message>
         <source>Dither</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramado</translation>
     </message>
     <message>
         <source>Color mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de color</translation>
     </message>
     <message>
         <source>&amp;Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paleta</translation>
     </message>
     <message>
         <source>&amp;Dither</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ramado</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modo</translation>
     </message>
     <message>
         <source>Flip &amp;horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voltear en horizontal</translation>
     </message>
     <message>
         <source>Flip &amp;vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear &amp;en vertical</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertir</translation>
     </message>
     <message>
         <source>I&amp;nterlaced</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntrelazado</translation>
     </message>
     <message>
         <source>JPEG quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad JPEG</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>Custom  1 To 99</source>
-        <translation type="unfinished"></translation>
+        <translation>Libre, 1 a 99</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calidad</translation>
     </message>
     <message>
         <source>File size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del archivo</translation>
     </message>
     <message>
         <source>Fit to so many KB</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar a tantos KB</translation>
     </message>
     <message>
         <source> KB</source>
-        <translation type="unfinished"></translation>
+        <translation> KB</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Fit &amp;to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajustar a</translation>
     </message>
     <message>
         <source>Camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de la cámara</translation>
     </message>
     <message>
         <source>&amp;Keep camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar &amp;los datos de la cámara</translation>
     </message>
     <message>
         <source>without the pla&amp;ce</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;sin el lugar</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de archivo</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambas</translation>
     </message>
     <message>
         <source>Exact size and loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño y pérdida exactos</translation>
     </message>
     <message>
         <source>The file is being written</source>
-        <translation type="unfinished"></translation>
+        <translation>Se está escribiendo el archivo</translation>
     </message>
     <message numerus="yes">
         <source>%n colors</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n color</numerusform>
+            <numerusform>%n colores</numerusform>
         </translation>
     </message>
 </context>
@@ -3719,203 +3722,209 @@ Values will be initilized</source>
     <message>
         <source>
 It ended before its time.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Terminó antes de tiempo.</translation>
     </message>
 </context>
 <context>
     <name>velara::FrameRequests</name>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la acción «%1».</translation>
     </message>
     <message>
         <source> can&apos;t be read: it is no file of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation> no se puede leer: no es un archivo de este equipo</translation>
     </message>
 </context>
 <context>
     <name>velara::MaskChoice</name>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de máscara</translation>
     </message>
     <message>
         <source>What has this color becomes transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que tiene este color se vuelve transparente</translation>
     </message>
 </context>
 <context>
     <name>velara::PreviewPane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>There is no permission to look into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay permiso para examinarla.</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Reading ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo ...</translation>
     </message>
     <message>
         <source>No picture is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna imagen elegida.</translation>
     </message>
     <message>
         <source>Not a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una imagen.</translation>
     </message>
     <message>
         <source>%1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 píxeles</translation>
     </message>
 </context>
 <context>
     <name>velara::Recipes</name>
     <message>
         <source>Recipe (*.recipe)</source>
-        <translation type="unfinished"></translation>
+        <translation>Receta (*.recipe)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Nothing was done to this picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha hecho nada con esta imagen.</translation>
     </message>
     <message>
         <source>All of this was made by hand: there is nothing that could be done to another picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo esto se hizo a mano: no hay nada que se pueda aplicar a otra imagen.</translation>
     </message>
     <message>
         <source>%1 of %2 steps were made by hand, and can&apos;t be done to another picture:
 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 pasos se hicieron a mano y no se pueden aplicar a otra imagen:
+%3</translation>
     </message>
     <message>
         <source>Recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Receta</translation>
     </message>
     <message>
         <source>&amp;Leave them out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejarlos fuera</translation>
     </message>
     <message>
         <source>The command is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>La orden está en el portapapeles.</translation>
     </message>
     <message>
         <source>Save recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar receta</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado como %1</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1.</translation>
     </message>
     <message>
         <source>Run recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar receta</translation>
     </message>
     <message>
         <source>: there is no step in it</source>
-        <translation type="unfinished"></translation>
+        <translation>: no contiene ningún paso</translation>
     </message>
     <message>
         <source>The picture is as it was. The recipe %1 ended:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen está como estaba. La receta %1 terminó:
+%2</translation>
     </message>
     <message>
         <source>Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>cancelado</translation>
     </message>
     <message numerus="yes">
         <source>Run on %n pictures.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ejecutada en %n imagen.</numerusform>
+            <numerusform>Ejecutada en %n imágenes.</numerusform>
         </translation>
     </message>
     <message>
         <source>These pictures are as they were:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Estas imágenes están como estaban:
+</translation>
     </message>
     <message>
         <source>No other picture is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay otra imagen abierta.</translation>
     </message>
     <message>
         <source>What was done to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se hizo con %1</translation>
     </message>
     <message>
         <source>Another file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro archivo ...</translation>
     </message>
     <message>
         <source>Choose a recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una receta</translation>
     </message>
     <message>
         <source>This recipe can&apos;t be run:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Esta receta no se puede ejecutar:
+</translation>
     </message>
 </context>
 <context>
     <name>velara::Recovery</name>
     <message>
         <source>Changed on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificado el %1</translation>
     </message>
     <message>
         <source>1 step</source>
-        <translation type="unfinished"></translation>
+        <translation>1 paso</translation>
     </message>
     <message>
         <source>texts that are not merged yet</source>
-        <translation type="unfinished"></translation>
+        <translation>textos aún no combinados</translation>
     </message>
     <message>
         <source>There is nothing to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que recuperar.</translation>
     </message>
     <message>
         <source>Discard the unsaved changes of %1?
 They can&apos;t be recovered after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Descartar los cambios sin guardar de %1?
+Después no se podrán recuperar.</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar</translation>
     </message>
     <message numerus="yes">
         <source>%n steps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n paso</numerusform>
+            <numerusform>%n pasos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pictures</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n imagen</numerusform>
+            <numerusform>%n imágenes</numerusform>
         </translation>
     </message>
 </context>
@@ -3923,898 +3932,901 @@ They can&apos;t be recovered after that.</source>
     <name>velara::SaneScanner</name>
     <message>
         <source>The program velara-scan is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el programa velara-scan.</translation>
     </message>
     <message>
         <source>The scanner&apos;s driver has failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha fallado el controlador del escáner.</translation>
     </message>
 </context>
 <context>
     <name>velara::SaveDialog</name>
     <message>
         <source>&quot;%1&quot; has the ending of another kind of file.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» lleva la extensión de otro tipo de archivo.</translation>
     </message>
     <message>
         <source>Save as &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como «%1»</translation>
     </message>
     <message>
         <source>Keep &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar «%1»</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya existe.
+¿Desea reemplazarlo?</translation>
     </message>
 </context>
 <context>
     <name>velara::Startup</name>
     <message>
         <source>Velara Studio is already running!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Velara Studio ya se está ejecutando!</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be written to.
 Steps back stay in memory, as many as fit, and settings will not be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la carpeta «%1».
+Los pasos atrás quedan en memoria, tantos como quepan, y los ajustes no se conservarán.</translation>
     </message>
 </context>
 <context>
     <name>velara::fAboutFacts</name>
     <message>
         <source>picture files</source>
-        <translation type="unfinished"></translation>
+        <translation>archivos de imagen</translation>
     </message>
     <message>
         <source>GIF and palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF y paletas</translation>
     </message>
     <message>
         <source>metafiles</source>
-        <translation type="unfinished"></translation>
+        <translation>metaarchivos</translation>
     </message>
     <message>
         <source>scanners</source>
-        <translation type="unfinished"></translation>
+        <translation>escáneres</translation>
     </message>
     <message>
         <source>printers</source>
-        <translation type="unfinished"></translation>
+        <translation>impresoras</translation>
     </message>
     <message>
         <source>vector arithmetic</source>
-        <translation type="unfinished"></translation>
+        <translation>aritmética vectorial</translation>
     </message>
     <message>
         <source>the cage of the decoders</source>
-        <translation type="unfinished"></translation>
+        <translation>la jaula de los decodificadores</translation>
     </message>
     <message>
         <source>icons</source>
-        <translation type="unfinished"></translation>
+        <translation>iconos</translation>
     </message>
     <message>
         <source>windows</source>
-        <translation type="unfinished"></translation>
+        <translation>ventanas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Velara Studio %1&lt;/b&gt;&lt;p&gt;Free software under the GNU General Public License, version 2 or later, without any warranty.&lt;/p&gt;&lt;p&gt;It stands on&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Velara Studio %1&lt;/b&gt;&lt;p&gt;Software libre bajo la Licencia Pública General de GNU, versión 2 o posterior, sin garantía alguna.&lt;/p&gt;&lt;p&gt;Se basa en&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Version, license and libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión, licencia y bibliotecas</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
 </context>
 <context>
     <name>velara::fAcquire</name>
     <message>
         <source>Acquire</source>
-        <translation type="unfinished"></translation>
+        <translation>Adquirir</translation>
     </message>
     <message>
         <source>Select S&amp;ource ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elegir origen ...</translation>
     </message>
     <message>
         <source>Progress of the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de la digitalización</translation>
     </message>
     <message>
         <source>&amp;Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Digitalizar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>No source</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin origen</translation>
     </message>
     <message>
         <source>Looking for scanners ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando escáneres ...</translation>
     </message>
     <message>
         <source>no scanner was found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encontró ningún escáner</translation>
     </message>
     <message>
         <source>Asking the scanner ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando el escáner ...</translation>
     </message>
     <message>
         <source>Scanning ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitalizando ...</translation>
     </message>
     <message>
         <source>Scanning page %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitalizando la página %1 ...</translation>
     </message>
     <message>
         <source>The scanner says: </source>
-        <translation type="unfinished"></translation>
+        <translation>El escáner dice: </translation>
     </message>
 </context>
 <context>
     <name>velara::fAssociation</name>
     <message>
         <source>File Association</source>
-        <translation type="unfinished"></translation>
+        <translation>Asociación de archivos</translation>
     </message>
     <message>
         <source>The picture formats that Velara Studio knows. Which program opens
 a file is chosen in the settings of your desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los formatos de imagen que conoce Velara Studio. Qué programa abre
+un archivo se elige en los ajustes de su escritorio.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatos</translation>
     </message>
 </context>
 <context>
     <name>velara::fBed</name>
     <message>
         <source>Preview of the scanner&apos;s bed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa del cristal del escáner</translation>
     </message>
 </context>
 <context>
     <name>velara::fBrowse</name>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas</translation>
     </message>
     <message>
         <source>Pictures of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes de la carpeta</translation>
     </message>
     <message>
         <source>Browse For Graphic Filles</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar archivos gráficos</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inicio</translation>
     </message>
     <message>
         <source>Last folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Últimas carpetas</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegido</translation>
     </message>
 </context>
 <context>
     <name>velara::fCanvas</name>
     <message>
         <source>Canvas size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del lienzo</translation>
     </message>
     <message>
         <source>Proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Proporciones</translation>
     </message>
     <message>
         <source>Defined</source>
-        <translation type="unfinished"></translation>
+        <translation>Definido</translation>
     </message>
     <message>
         <source>Choose a step</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un paso</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la izquierda</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la derecha</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la izquierda</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la derecha</translation>
     </message>
     <message>
         <source>What is Canvas Size?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué es el tamaño del lienzo?</translation>
     </message>
     <message>
         <source>The canvas is the area that the picture stands on. A larger canvas adds black room around the picture, a smaller one cuts its edges; the pixels themselves keep their size. Drag the picture, or press an arrow, to say where it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>El lienzo es la superficie sobre la que está la imagen. Un lienzo mayor añade espacio negro alrededor de la imagen, uno menor recorta sus bordes; los píxeles conservan su tamaño. Arrastre la imagen, o pulse una flecha, para indicar dónde va.</translation>
     </message>
 </context>
 <context>
     <name>velara::fCanvasView</name>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Lienzo</translation>
     </message>
     <message>
         <source>Picture on the canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen sobre el lienzo</translation>
     </message>
 </context>
 <context>
     <name>velara::fCapture</name>
     <message>
         <source>Capture Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Capturar la pantalla</translation>
     </message>
     <message>
         <source>How to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo capturar</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>&amp;Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Capturar</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Personalizado</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Toda la pantalla</translation>
     </message>
     <message>
         <source>A rectangle of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Un rectángulo de la pantalla</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritorio</translation>
     </message>
     <message>
         <source>Desktop means the main screen where you go through before opening any windows</source>
-        <translation type="unfinished"></translation>
+        <translation>El escritorio es la pantalla principal que se ve antes de abrir ninguna ventana</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer plano</translation>
     </message>
     <message>
         <source>Foreground means the Current window you are working with i.e, The Velara&apos;s Studio Environment.</source>
-        <translation type="unfinished"></translation>
+        <translation>El primer plano es la ventana con la que está trabajando, es decir, Velara Studio.</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>Background means any windows behind the current active window including your Desktop. Desktop is the background if there is no other visible windows behind Velara&apos;s Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>El fondo son las ventanas que hay detrás de la ventana activa, incluido el escritorio. Es el escritorio si no hay otras ventanas visibles detrás de Velara Studio</translation>
     </message>
     <message>
         <source>What to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué capturar</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n segundo</numerusform>
+            <numerusform>%n segundos</numerusform>
         </translation>
     </message>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>De inmediato</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retardo</translation>
     </message>
     <message>
         <source>With the &amp;pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Con &amp;el puntero</translation>
     </message>
 </context>
 <context>
     <name>velara::fCaptureRectangle</name>
     <message>
         <source>Capture Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Capturar un rectángulo</translation>
     </message>
     <message>
         <source>Drag a rectangle; Esc leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace un rectángulo; Esc para salir</translation>
     </message>
     <message>
         <source>Drag a rectangle; with Shift it stays, with grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace un rectángulo; con Mayús se queda, con tiradores</translation>
     </message>
     <message>
         <source>Enter: all, or the rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro: todo, o el rectángulo</translation>
     </message>
     <message>
         <source>Esc: leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc: salir</translation>
     </message>
     <message>
         <source>W: the window below the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>W: la ventana bajo el puntero</translation>
     </message>
 </context>
 <context>
     <name>velara::fCellGrid</name>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores</translation>
     </message>
     <message>
         <source>Cell %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla %1: %2</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>vacío</translation>
     </message>
 </context>
 <context>
     <name>velara::fColorButton</name>
     <message>
         <source>Red %1, green %2, blue %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo %1, verde %2, azul %3</translation>
     </message>
 </context>
 <context>
     <name>velara::fColorDepth</name>
     <message>
         <source>2 Colors (1 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 colores (1 bit)</translation>
     </message>
     <message>
         <source>16 Colors (4 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>16 colores (4 bits)</translation>
     </message>
     <message>
         <source>256 Colors (8 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>256 colores (8 bits)</translation>
     </message>
     <message>
         <source>(15 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>(15 bits)</translation>
     </message>
     <message>
         <source>(16 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>(16 bits)</translation>
     </message>
     <message>
         <source>32,000 Colors (24 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>32.000 colores (24 bits)</translation>
     </message>
     <message>
         <source>64,000 Colors (24 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>64.000 colores (24 bits)</translation>
     </message>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimizada</translation>
     </message>
     <message>
         <source>Image Color Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad de color de la imagen</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>Select an option</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una opción</translation>
     </message>
     <message>
         <source>Color depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad de color</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Full size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño completo</translation>
     </message>
     <message>
         <source>1/%1 of the size</source>
-        <translation type="unfinished"></translation>
+        <translation>1/%1 del tamaño</translation>
     </message>
     <message>
         <source>Optimized to</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimizada a</translation>
     </message>
     <message>
         <source>Send the Optimized Image to </source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar la imagen optimizada a </translation>
     </message>
     <message>
         <source>Optimized Saver </source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado optimizado </translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Zoom: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fColourCell</name>
     <message>
         <source>Red %1, green %2, blue %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo %1, verde %2, azul %3</translation>
     </message>
 </context>
 <context>
     <name>velara::fDisplay</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>%1, %2: red %3, green %4, blue %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: rojo %3, verde %4, azul %5</translation>
     </message>
 </context>
 <context>
     <name>velara::fEffectsPage</name>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Apply the effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el efecto</translation>
     </message>
     <message>
         <source>Apply the file as a texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el archivo como textura</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>%1: a double click applies it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: un doble clic lo aplica</translation>
     </message>
     <message>
         <source>Effects, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos, arriba y abajo</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>A&amp;mount</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cantidad</translation>
     </message>
     <message>
         <source>Texture files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de textura</translation>
     </message>
     <message>
         <source>Fol&amp;der...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;arpeta...</translation>
     </message>
     <message>
         <source>Choose the folder of the texture files</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la carpeta de los archivos de textura</translation>
     </message>
     <message>
         <source>No texture files in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay archivos de textura en %1</translation>
     </message>
     <message>
         <source>Texture files of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de textura de %1</translation>
     </message>
     <message>
         <source>There is no picture open.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna imagen abierta.</translation>
     </message>
     <message>
         <source>Texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Textura</translation>
     </message>
     <message>
         <source>%1 can&apos;t be used as a texture: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede usar como textura: %2</translation>
     </message>
 </context>
 <context>
     <name>velara::fFilter</name>
     <message>
         <source>Working. Esc ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajando. Esc lo detiene.</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta</translation>
     </message>
     <message>
         <source>%1 color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color %1</translation>
     </message>
     <message>
         <source>Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>Canales</translation>
     </message>
     <message>
         <source>%1 comes from</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 procede de</translation>
     </message>
     <message>
         <source>%1 comes from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 procede de %2</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir</translation>
     </message>
     <message>
         <source>Invert %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir %1</translation>
     </message>
     <message>
         <source>Kill</source>
-        <translation type="unfinished"></translation>
+        <translation>Suprimir</translation>
     </message>
     <message>
         <source>Kill %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suprimir %1</translation>
     </message>
     <message>
         <source>Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidrio</translation>
     </message>
     <message>
         <source>%1 glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidrio %1</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza</translation>
     </message>
     <message>
         <source>Curtain Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos de cortina</translation>
     </message>
     <message>
         <source>%1 curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortina %1</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Real Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo real</translation>
     </message>
     <message>
         <source>Runs the filter on the picture and closes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplica el filtro a la imagen y cierra</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Before: click to place the center</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes: haga clic para situar el centro</translation>
     </message>
     <message>
         <source>Before: click to pick a color</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes: haga clic para tomar un color</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>After, pixel for pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Después, píxel a píxel</translation>
     </message>
     <message>
         <source>Drag it, or click in a picture beside it, to see another part</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrástrelo, o haga clic en una imagen de al lado, para ver otra parte</translation>
     </message>
 </context>
 <context>
     <name>velara::fFolderRun</name>
     <message>
         <source>Run on a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar en una carpeta</translation>
     </message>
     <message>
         <source>Add a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una imagen</translation>
     </message>
     <message>
         <source>Add a folder of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta de imágenes</translation>
     </message>
     <message>
         <source>-done</source>
-        <translation type="unfinished"></translation>
+        <translation>-hecho</translation>
     </message>
     <message>
         <source>Where the new files go</source>
-        <translation type="unfinished"></translation>
+        <translation>Adónde van los archivos nuevos</translation>
     </message>
     <message>
         <source>Go &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Continuar</translation>
     </message>
     <message>
         <source>Pau&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pausa</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Every original is replaced by its result. They can&apos;t be brought back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada original se reemplaza por su resultado. No se podrán recuperar.</translation>
     </message>
     <message>
         <source>&amp;Replace the originals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar los originales</translation>
     </message>
     <message>
         <source>%1 of about %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de unos %2</translation>
     </message>
     <message>
         <source>%1 done</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hechas</translation>
     </message>
     <message>
         <source>%1 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 omitidas</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con error</translation>
     </message>
     <message>
         <source>%1 a minute</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por minuto</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>quedan %1</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation>en pausa</translation>
     </message>
     <message>
         <source>%1 can&apos;t be started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede iniciar %1: %2</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro: %1</translation>
     </message>
     <message>
         <source>It is still at work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sigue trabajando.</translation>
     </message>
     <message>
         <source>&amp;Stop it and close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Detenerlo y cerrar</translation>
     </message>
     <message>
         <source>Leave it, and skip the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejarlo y omitir la imagen</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazarlo</translation>
     </message>
     <message>
         <source>Add a number to the new name</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un número al nombre nuevo</translation>
     </message>
     <message>
         <source>Replace it if it is older than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazarlo si es más antiguo que la imagen</translation>
     </message>
     <message>
         <source>Recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Receta</translation>
     </message>
     <message>
         <source>R&amp;ecipe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Receta</translation>
     </message>
     <message>
         <source>Pictures and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes y carpetas</translation>
     </message>
     <message>
         <source>with the folders &amp;below</source>
-        <translation type="unfinished"></translation>
+        <translation>con &amp;las subcarpetas</translation>
     </message>
     <message>
         <source>With the folders below</source>
-        <translation type="unfinished"></translation>
+        <translation>Con las subcarpetas</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar de la lista</translation>
     </message>
     <message>
         <source>&amp;Picture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imagen ...</translation>
     </message>
     <message>
         <source>&amp;Folder ...</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;arpeta ...</translation>
     </message>
     <message>
         <source>Add a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta</translation>
     </message>
     <message>
         <source>Pict&amp;ures</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mágenes</translation>
     </message>
     <message>
         <source>Target folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de destino</translation>
     </message>
     <message>
         <source>F&amp;older ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Carp&amp;eta ...</translation>
     </message>
     <message>
         <source>Choose the target folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la carpeta de destino</translation>
     </message>
     <message>
         <source>o&amp;ver the originals, which are lost</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;sobre los originales, que se pierden</translation>
     </message>
     <message>
         <source>Over the originals, which are lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre los originales, que se pierden</translation>
     </message>
     <message>
         <source>Names of the new files</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres de los archivos nuevos</translation>
     </message>
     <message>
         <source>{name}  the picture&apos;s own name
@@ -4822,533 +4834,540 @@ a file is chosen in the settings of your desktop.</source>
 {n:04}  its number, with four digits
 {dir}  its folder below the one that was chosen
 Such as {name}-web.{ext}</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}  el nombre de la imagen
+{ext}  la extensión de su formato
+{n:04}  su número, con cuatro cifras
+{dir}  su carpeta bajo la elegida
+Por ejemplo {name}-web.{ext}</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Each as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada una como es</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad</translation>
     </message>
     <message>
         <source>Where a file has the name already</source>
-        <translation type="unfinished"></translation>
+        <translation>Si un archivo ya tiene ese nombre</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Cali&amp;dad</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Des&amp;tino</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombres</translation>
     </message>
     <message>
         <source>Form&amp;at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formato</translation>
     </message>
     <message>
         <source>E&amp;xisting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc&amp;hivo existente</translation>
     </message>
     <message>
         <source>Pictures done</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes hechas</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Pictures that failed; Enter or a double click opens one</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes con error; Intro o un doble clic abre una</translation>
     </message>
     <message>
         <source>A double click opens the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Un doble clic abre la imagen</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;jecutar</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Cancel or close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar o cerrar</translation>
     </message>
     <message>
         <source>Pictures that fa&amp;iled</source>
-        <translation type="unfinished"></translation>
+        <translation>Imá&amp;genes con error</translation>
     </message>
 </context>
 <context>
     <name>velara::fGeometry</name>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño mínimo: 2 x 2</translation>
     </message>
     <message>
         <source>Maximum size: 256 megapixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño máximo: 256 megapíxeles</translation>
     </message>
 </context>
 <context>
     <name>velara::fHelp</name>
     <message>
         <source>What to do, and the keys for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hacer, y las teclas para ello</translation>
     </message>
     <message>
         <source>Move the picture in its window</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover la imagen en su ventana</translation>
     </message>
     <message>
         <source>Middle button, or the hand (H)</source>
-        <translation type="unfinished"></translation>
+        <translation>Botón central, o la mano (H)</translation>
     </message>
     <message>
         <source>Scroll up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazarse arriba y abajo</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Rueda</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazarse a los lados</translation>
     </message>
     <message>
         <source>Shift + wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayús + rueda</translation>
     </message>
     <message>
         <source>Zoom about the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar en torno al puntero</translation>
     </message>
     <message>
         <source>Ctrl + wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl + rueda</translation>
     </message>
     <message>
         <source>Drop what is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonar lo que está en curso</translation>
     </message>
     <message>
         <source>Esc, or the right button</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc, o el botón derecho</translation>
     </message>
     <message>
         <source>Draw without a mouse: move a crosshair by a pixel, or ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar sin ratón: mover una retícula un píxel, o diez</translation>
     </message>
     <message>
         <source>Arrow keys, with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Flechas, con Mayús</translation>
     </message>
     <message>
         <source>Press at the crosshair, and release</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsar en la retícula, y soltar</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro</translation>
     </message>
     <message>
         <source>Fix a text, a paste or moved pixels, and go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Fijar un texto, un pegado o píxeles movidos, y continuar</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio</translation>
     </message>
     <message>
         <source>Corner of a polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Vértice de un polígono</translation>
     </message>
     <message>
         <source>Click, or Space while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic, o Espacio al arrastrar</translation>
     </message>
     <message>
         <source>Close a polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar un polígono</translation>
     </message>
     <message>
         <source>Enter, or a double click</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro, o un doble clic</translation>
     </message>
     <message>
         <source>To the tools and their settings, and back</source>
-        <translation type="unfinished"></translation>
+        <translation>A las herramientas y sus ajustes, y de vuelta</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>What to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hacer</translation>
     </message>
     <message>
         <source>Mouse and keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Ratón y teclas</translation>
     </message>
     <message>
         <source>On a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre una imagen</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Menús</translation>
     </message>
 </context>
 <context>
     <name>velara::fHexBox</name>
     <message>
         <source>Color code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código de color</translation>
     </message>
     <message>
         <source>#rrggbb, #rgb or a name such as teal; Enter takes it</source>
-        <translation type="unfinished"></translation>
+        <translation>#rrggbb, #rgb o un nombre como teal; Intro lo acepta</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no color. Enter it as #rrggbb, as #rgb or by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un color. Escríbalo como #rrggbb, #rgb o por su nombre.</translation>
     </message>
 </context>
 <context>
     <name>velara::fHistory</name>
     <message>
         <source>Steps, oldest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos, del más antiguo al más reciente</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>At the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Al iniciar</translation>
     </message>
     <message>
         <source>A change</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cambio</translation>
     </message>
     <message>
         <source>painted by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>pintado a mano</translation>
     </message>
     <message>
         <source>
 in a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>
+en una selección</translation>
     </message>
     <message>
         <source>
 This step is not kept any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Este paso ya no se conserva.</translation>
     </message>
     <message>
         <source>All steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los pasos</translation>
     </message>
     <message>
         <source>From this step on</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde este paso</translation>
     </message>
     <message>
         <source>&amp;Copy as command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar como orden</translation>
     </message>
     <message>
         <source>&amp;Save recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar receta ...</translation>
     </message>
     <message>
         <source>&amp;Run from here on the other open pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repetir desde aquí en las demás imágenes abiertas</translation>
     </message>
 </context>
 <context>
     <name>velara::fIcon</name>
     <message>
         <source>Extract Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraer un icono</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconBar</name>
     <message>
         <source>What is in the frame, magnified</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que hay en el marco, ampliado</translation>
     </message>
     <message>
         <source>Icon Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>Creador de iconos</translation>
     </message>
     <message>
         <source>Drag the frame over the picture.
 Arrow keys move it by a pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre el marco sobre la imagen.
+Las flechas lo mueven un píxel.</translation>
     </message>
     <message>
         <source>Icons taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Iconos tomados</translation>
     </message>
     <message>
         <source>Icons taken:</source>
-        <translation type="unfinished"></translation>
+        <translation>Iconos tomados:</translation>
     </message>
     <message>
         <source>Size of the icon: + and -</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del icono: + y -</translation>
     </message>
     <message>
         <source>Take</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar</translation>
     </message>
     <message>
         <source>Take the icon: Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar el icono: Intro</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Back to the icon extractor: Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver al extractor de iconos: Esc</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconBrowse</name>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>Icon Extractor: Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Extractor de iconos: elegir carpeta</translation>
     </message>
     <message>
         <source>The chosen folder</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta elegida</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconMaker</name>
     <message>
         <source>Icon Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>Creador de iconos</translation>
     </message>
     <message>
         <source>Drag the frame of the icon; Enter takes, Esc closes</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre el marco del icono; Intro toma, Esc cierra</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconPicture</name>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado</translation>
     </message>
     <message>
         <source>16 to 256 in one &amp;file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De 16 a 256 en un archivo</translation>
     </message>
     <message>
         <source>Select Required Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las opciones deseadas</translation>
     </message>
     <message>
         <source>Use &amp;Mask Color</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar color de máscara</translation>
     </message>
     <message>
         <source>Icon Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa del icono</translation>
     </message>
     <message>
         <source>&amp;Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como</translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ancho</translation>
     </message>
     <message>
         <source>&amp;Height</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lto</translation>
     </message>
     <message>
         <source>A click takes the mask color from here</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic toma de aquí el color de máscara</translation>
     </message>
     <message>
         <source>There is no picture open.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna imagen abierta.</translation>
     </message>
     <message>
         <source>Width and height are whole numbers from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El ancho y el alto son números enteros de 1 a %1.</translation>
     </message>
     <message>
         <source>%1 times as large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 veces mayor</translation>
     </message>
     <message>
         <source>Save Icon as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar icono como</translation>
     </message>
     <message>
         <source>Icon File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de icono</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir %1.</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconSeries</name>
     <message>
         <source>Custom Icon Extractor</source>
-        <translation type="unfinished"></translation>
+        <translation>Extractor de iconos libre</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seleccionar todo</translation>
     </message>
     <message>
         <source>Use Mas&amp;k Color</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar color de máscara</translation>
     </message>
     <message>
         <source>What to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué capturar</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Escritorio</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer plano</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Iniciar</translation>
     </message>
     <message>
         <source>Captures the screen and cuts icons out of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura la pantalla y recorta iconos de ella</translation>
     </message>
     <message>
         <source>Icons cut out</source>
-        <translation type="unfinished"></translation>
+        <translation>Iconos recortados</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icono</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>&amp;Extract Icons of the Selected Images to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Extraer los iconos de las imágenes elegidas en</translation>
     </message>
     <message>
         <source>Folder of the icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de los iconos</translation>
     </message>
     <message>
         <source>....</source>
-        <translation type="unfinished"></translation>
+        <translation>....</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Select the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la carpeta</translation>
     </message>
     <message>
         <source>No Images to extract!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No hay imágenes que extraer!</translation>
     </message>
     <message>
         <source>Folder does not Exists! Please Enter a valid folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>¡La carpeta no existe! Escriba una ruta de carpeta válida</translation>
     </message>
     <message numerus="yes">
         <source>%n icon Files Saved!</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>¡%n archivo de icono guardado!</numerusform>
+            <numerusform>¡%n archivos de iconos guardados!</numerusform>
         </translation>
     </message>
     <message>
         <source>Not written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No escrito: %1</translation>
     </message>
     <message numerus="yes">
         <source> and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> y %n más</numerusform>
+            <numerusform> y %n más</numerusform>
         </translation>
     </message>
 </context>
@@ -5356,383 +5375,395 @@ Arrow keys move it by a pixel.</source>
     <name>velara::fImage</name>
     <message>
         <source>Picture window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana de imagen</translation>
     </message>
     <message>
         <source>Horizontal scroll bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de desplazamiento horizontal</translation>
     </message>
     <message>
         <source>Vertical scroll bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de desplazamiento vertical</translation>
     </message>
     <message>
         <source>This image has changed.
 Do you want to save it ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta imagen ha cambiado.
+¿Desea guardarla?</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayerCanvas</name>
     <message>
         <source>Picture with its texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen con sus textos</translation>
     </message>
     <message>
         <source>Text %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayerList</name>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos</translation>
     </message>
     <message>
         <source>Texts, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos, arriba y abajo</translation>
     </message>
     <message>
         <source>Empty text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto vacío</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayers</name>
     <message>
         <source>Regular</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrita</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva</translation>
     </message>
     <message>
         <source>Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>Subrayado</translation>
     </message>
     <message>
         <source>Strike out</source>
-        <translation type="unfinished"></translation>
+        <translation>Tachado</translation>
     </message>
     <message>
         <source>Save for Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar para la Web</translation>
     </message>
     <message>
         <source>Color Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad de color</translation>
     </message>
     <message>
         <source>Picture with its texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen con sus textos</translation>
     </message>
     <message>
         <source>Color of the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto</translation>
     </message>
     <message>
         <source>Apply Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el texto</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>New text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto nuevo</translation>
     </message>
     <message>
         <source>Delete text</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el texto</translation>
     </message>
     <message>
         <source>Send Optimized Image To</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar la imagen optimizada a</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>Zoom to fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar a la ventana</translation>
     </message>
     <message>
         <source>Type. A drag marks letters, at the frame it moves the text. Esc ends typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba. Arrastrar marca letras; en el marco mueve el texto. Esc termina la escritura.</translation>
     </message>
     <message>
         <source>Drag the text or its grips. A click or Enter puts the caret into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre el texto o sus tiradores. Un clic o Intro sitúa el cursor en él.</translation>
     </message>
     <message>
         <source>Click on the picture where a text shall stand, and type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en la imagen donde deba ir el texto y escriba.</translation>
     </message>
     <message>
         <source>
 The texts are not in the image yet.
 Do you want to merge them ?</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Los textos aún no están en la imagen.
+¿Desea combinarlos?</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Bring this picture to the front first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Traiga primero esta imagen al frente.</translation>
     </message>
 </context>
 <context>
     <name>velara::fMain</name>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer color</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo color</translation>
     </message>
     <message>
         <source>There is no picture to work on: open one first, or make a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay imagen con la que trabajar: abra una antes, o cree una nueva.</translation>
     </message>
     <message>
         <source>Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramienta</translation>
     </message>
     <message>
         <source>
 There is no picture in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No contiene ninguna imagen.</translation>
     </message>
     <message>
         <source>
 &quot;.%1&quot; is no format that is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+«.%1» no es un formato que se pueda escribir.</translation>
     </message>
     <message>
         <source>Unexpected error loading image</source>
-        <translation type="unfinished"></translation>
+        <translation>Error inesperado al cargar la imagen</translation>
     </message>
     <message>
         <source>This file is not there any more:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo ya no está:
+</translation>
     </message>
     <message>
         <source>These files are not there any more:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Estos archivos ya no están:
+</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Reading %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1 ...</translation>
     </message>
     <message>
         <source> can&apos;t be read as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation> no se puede leer como imagen.</translation>
     </message>
     <message>
         <source> was not read</source>
-        <translation type="unfinished"></translation>
+        <translation> no se ha leído</translation>
     </message>
     <message>
         <source>Open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivo</translation>
     </message>
     <message>
         <source>Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacío</translation>
     </message>
     <message>
         <source>No picture has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No ha cambiado ninguna imagen.</translation>
     </message>
     <message>
         <source>These are written to their own files:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Estas se escriben en sus propios archivos:
+</translation>
     </message>
     <message>
         <source>These need a name, for which you are asked:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Estas necesitan un nombre, que se le pedirá:
+</translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar todo</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>&amp;Keep camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar los datos de la cámara</translation>
     </message>
     <message>
         <source>without the &amp;place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;sin el lugar</translation>
     </message>
     <message>
         <source>Saving %1 ... Esc ends it</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando %1 ... Esc lo detiene</translation>
     </message>
     <message>
         <source>%1 is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está guardada.</translation>
     </message>
     <message>
         <source>Unexpected error saving image</source>
-        <translation type="unfinished"></translation>
+        <translation>Error inesperado al guardar la imagen</translation>
     </message>
     <message>
         <source>Of a kind that is not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>De un tipo que no se lee: %1</translation>
     </message>
     <message>
         <source>It is %1 picture; saved under this name it would become %2 picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es una imagen %1; guardada con este nombre se convertiría en una imagen %2.</translation>
     </message>
     <message>
         <source>There is no page behind this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay página después de esta.</translation>
     </message>
     <message>
         <source>There is no page before this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay página antes de esta.</translation>
     </message>
     <message>
         <source>
 Do you want to save it under another name ?</source>
-        <translation type="unfinished"></translation>
+        <translation>
+¿Desea guardarla con otro nombre?</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>G&amp;uardar como ...</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;obrescribir</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada seleccionado</translation>
     </message>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño mínimo: 2 x 2</translation>
     </message>
     <message>
         <source>Apply Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar el texto</translation>
     </message>
     <message>
         <source>the texts of another picture wait for OK or Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>los textos de otra imagen esperan Aceptar o Salir</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>A step could not be kept: this is the last one that stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conservar un paso: este es el último que queda.</translation>
     </message>
     <message>
         <source>A step that could not be kept was passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha pasado por alto un paso que no se pudo conservar.</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>After a crash this picture could not be recovered: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tras un fallo no se pudo recuperar esta imagen: %1.</translation>
     </message>
     <message>
         <source>This step can&apos;t be undone: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este paso no se puede deshacer: %1.</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>Canvas Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del lienzo</translation>
     </message>
     <message>
         <source>Error getting subkey value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al obtener el valor de la subclave.</translation>
     </message>
     <message>
         <source>Error Setting subkey value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al establecer el valor de la subclave.</translation>
     </message>
     <message numerus="yes">
         <source>It has %n pages; this one alone would be left of it.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>El archivo tiene %n página; solo quedaría esta.</numerusform>
+            <numerusform>El archivo tiene %n páginas; solo quedaría esta.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>
 It has %n pages; this one alone would be left of it.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>
+El archivo tiene %n página; solo quedaría esta.</numerusform>
+            <numerusform>
+El archivo tiene %n páginas; solo quedaría esta.</numerusform>
         </translation>
     </message>
 </context>
@@ -5740,1367 +5771,1369 @@ It has %n pages; this one alone would be left of it.</source>
     <name>velara::fNew</name>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Standard sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaños habituales</translation>
     </message>
     <message>
         <source>&lt;Custom&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Personalizado&gt;</translation>
     </message>
     <message>
         <source>Custom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado:</translation>
     </message>
     <message>
         <source>&amp;Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mantener proporciones</translation>
     </message>
 </context>
 <context>
     <name>velara::fOrientation</name>
     <message>
         <source>Unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin cambios</translation>
     </message>
     <message>
         <source>90º left</source>
-        <translation type="unfinished"></translation>
+        <translation>90º a la izquierda</translation>
     </message>
     <message>
         <source>90º right</source>
-        <translation type="unfinished"></translation>
+        <translation>90º a la derecha</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación</translation>
     </message>
     <message>
         <source>Canvas orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación del lienzo</translation>
     </message>
     <message>
         <source>Flip &amp;vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voltear en vertical</translation>
     </message>
     <message>
         <source>Flip vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear en vertical</translation>
     </message>
     <message>
         <source>Flip &amp;horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear &amp;en horizontal</translation>
     </message>
     <message>
         <source>Flip horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear en horizontal</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Flip image</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltear la imagen</translation>
     </message>
 </context>
 <context>
     <name>velara::fOverlay</name>
     <message>
         <source>Image Merging</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar imágenes</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Select image to overlay:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la imagen que se superpone:</translation>
     </message>
     <message>
         <source>Image to overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen que se superpone</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparencia</translation>
     </message>
     <message>
         <source>&amp;Tiled</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;En mosaico</translation>
     </message>
     <message>
         <source>&amp;Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color de máscara</translation>
     </message>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de máscara</translation>
     </message>
     <message>
         <source>Create &amp;new image</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear &amp;una imagen nueva</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Left offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento izquierdo</translation>
     </message>
     <message>
         <source>Top offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento superior</translation>
     </message>
     <message>
         <source>Over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Más de %1</translation>
     </message>
     <message>
         <source>No picture is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna imagen abierta.</translation>
     </message>
     <message>
         <source>Not merged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No combinado: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fOwnSize</name>
     <message>
         <source>&amp;Own size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamaño propio</translation>
     </message>
     <message>
         <source>Printed width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho impreso</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>Printed height</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto impreso</translation>
     </message>
     <message>
         <source>Printed size in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño impreso en porcentaje</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
 </context>
 <context>
     <name>velara::fPalette</name>
     <message>
         <source>Select Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir color</translation>
     </message>
     <message>
         <source>Saturation and lightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación y luminosidad</translation>
     </message>
     <message>
         <source>Click to pick and to store in the cell; double click for the large picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic para tomar y guardar en la casilla; doble clic para el selector grande</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Current pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Elección actual</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer color</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo color</translation>
     </message>
     <message>
         <source>Swap the colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar los colores</translation>
     </message>
     <message>
         <source>&amp;Link</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vincular</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Vincular</translation>
     </message>
     <message>
         <source>Link with current color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vincular con el color actual</translation>
     </message>
     <message>
         <source>Cell %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Casilla %1</translation>
     </message>
     <message>
         <source>Preset colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores predefinidos</translation>
     </message>
     <message>
         <source>%1 degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 grados</translation>
     </message>
 </context>
 <context>
     <name>velara::fPaste</name>
     <message>
         <source>Picture of the clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen del recorte</translation>
     </message>
     <message>
         <source>Clip History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial de recortes</translation>
     </message>
     <message>
         <source>Clips, oldest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortes, del más antiguo al más reciente</translation>
     </message>
     <message>
         <source>Enter pastes the clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro pega el recorte</translation>
     </message>
     <message>
         <source>Scroll the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar los recortes</translation>
     </message>
     <message>
         <source>Clip %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorte %1</translation>
     </message>
     <message>
         <source>Opaque &amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intensidad opaca</translation>
     </message>
     <message>
         <source>Opaque Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad opaca</translation>
     </message>
     <message>
         <source>Clip History: 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial de recortes: 
+%1</translation>
     </message>
     <message>
         <source>Minimum cut size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño mínimo para cortar: 2 x 2</translation>
     </message>
     <message>
         <source>Minimum copy size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño mínimo para copiar: 2 x 2</translation>
     </message>
 </context>
 <context>
     <name>velara::fPicker</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cian</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo</translation>
     </message>
     <message>
         <source>Color Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja de colores</translation>
     </message>
     <message>
         <source>Enter an Integer Value Between 0 and %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un número entero entre 0 y %1</translation>
     </message>
     <message>
         <source>&amp;Picker</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Selector</translation>
     </message>
     <message>
         <source>&amp;Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preajuste</translation>
     </message>
     <message>
         <source>Color field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo de colores</translation>
     </message>
     <message>
         <source>Color strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Tira de colores</translation>
     </message>
     <message>
         <source>%1 on the strip</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en la tira</translation>
     </message>
     <message>
         <source>Color model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo de color</translation>
     </message>
     <message>
         <source>He&amp;x</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hex</translation>
     </message>
     <message>
         <source>Preset colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores predefinidos</translation>
     </message>
     <message>
         <source>Custom...</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalizado...</translation>
     </message>
     <message>
         <source>Safe Palette (216)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta segura (216)</translation>
     </message>
     <message>
         <source>Put the color into the selected cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner el color en la casilla elegida</translation>
     </message>
     <message>
         <source>Color to put into a cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Color que se pondrá en una casilla</translation>
     </message>
     <message>
         <source>Select a cell, then &lt;&lt; keeps
 the color in your list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una casilla; después &lt;&lt; guarda
+el color en su lista.</translation>
     </message>
     <message>
         <source>Selected color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color elegido</translation>
     </message>
     <message>
         <source>Color before</source>
-        <translation type="unfinished"></translation>
+        <translation>Color anterior</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>Color under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Color bajo el puntero</translation>
     </message>
     <message>
         <source>Recent colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores recientes</translation>
     </message>
     <message>
         <source>Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Recientes</translation>
     </message>
     <message>
         <source>Recent color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Color reciente %1</translation>
     </message>
     <message>
         <source>O&amp;K</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceptar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>
     <name>velara::fPicturePage</name>
     <message>
         <source>%1, left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, izquierda y derecha</translation>
     </message>
     <message>
         <source>%1, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, arriba y abajo</translation>
     </message>
 </context>
 <context>
     <name>velara::fPreferences</name>
     <message>
         <source>&amp;Open iP maximized </source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir iP maximizado </translation>
     </message>
     <message>
         <source>Open i&amp;mages maximized </source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;imágenes maximizadas </translation>
     </message>
     <message>
         <source>&amp;Preserve last folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recordar la última carpeta</translation>
     </message>
     <message>
         <source>&amp;Ask to save on Close/Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preguntar si guardar al cerrar/salir</translation>
     </message>
     <message>
         <source>%1: Options</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Opciones</translation>
     </message>
     <message>
         <source>Images default &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta de imágenes predeterminada</translation>
     </message>
     <message>
         <source>Images default folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de imágenes predeterminada</translation>
     </message>
     <message>
         <source>&amp;Browse ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Examinar ...</translation>
     </message>
     <message>
         <source>Select Images default folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la carpeta de imágenes predeterminada</translation>
     </message>
     <message>
         <source>&amp;Convert pictures to sRGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir &amp;las imágenes a sRGB</translation>
     </message>
     <message>
         <source>&amp;Show pictures by the screen&apos;s color profile</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar según el perfil de color de la pantalla</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>velara::fPresetWell</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>Window text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de ventana</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>Botón</translation>
     </message>
     <message>
         <source>Button text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de botón</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>Selected text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto seleccionado</translation>
     </message>
     <message>
         <source>Tool tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Información emergente</translation>
     </message>
     <message>
         <source>Tool tip text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto de información emergente</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Vincular</translation>
     </message>
     <message>
         <source>Visited link</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlace visitado</translation>
     </message>
     <message>
         <source>Light edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde claro</translation>
     </message>
     <message>
         <source>Pale edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde pálido</translation>
     </message>
     <message>
         <source>Middle edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde medio</translation>
     </message>
     <message>
         <source>Dark edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borde oscuro</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra</translation>
     </message>
     <message>
         <source>Other rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras filas</translation>
     </message>
     <message>
         <source>Choose one of the set</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija uno del conjunto</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrint</name>
     <message>
         <source>The page</source>
-        <translation type="unfinished"></translation>
+        <translation>La página</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrador</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Baja</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias</translation>
     </message>
     <message>
         <source>&amp;Fit to page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajustar a la página</translation>
     </message>
     <message>
         <source>&amp;Center image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Centrar la imagen</translation>
     </message>
     <message>
         <source>Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuste</translation>
     </message>
     <message>
         <source>Printing ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo ...</translation>
     </message>
     <message>
         <source>Asking the printer ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando la impresora ...</translation>
     </message>
     <message>
         <source>at most %1</source>
-        <translation type="unfinished"></translation>
+        <translation>como máximo %1</translation>
     </message>
     <message>
         <source>%1 x %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 mm</translation>
     </message>
     <message>
         <source>File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo: </translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir a un archivo</translation>
     </message>
     <message>
         <source>Unable to print</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede imprimir</translation>
     </message>
     <message>
         <source>It is waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 copias</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrinterBox</name>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>PDF file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo PDF ...</translation>
     </message>
     <message>
         <source>Choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una impresora</translation>
     </message>
     <message>
         <source>Looking for printers ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando impresoras ...</translation>
     </message>
     <message>
         <source>No printer was found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ninguna impresora</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrinterSetup</name>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel</translation>
     </message>
     <message>
         <source>&amp;Shades of gray</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tonos de gris</translation>
     </message>
     <message>
         <source>Printer Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar impresora</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Asking the printer ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando la impresora ...</translation>
     </message>
 </context>
 <context>
     <name>velara::fProperties</name>
     <message>
         <source>%1 pixels (%2 megapixels)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 píxeles (%2 megapíxeles)</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
 </context>
 <context>
     <name>velara::fRecovery</name>
     <message>
         <source>Recover Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar imágenes</translation>
     </message>
     <message>
         <source>The program ended before the changes of these pictures were saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa terminó antes de que se guardaran los cambios de estas imágenes.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>&amp;Recover All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recuperar todo</translation>
     </message>
     <message>
         <source>&amp;Discard All ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar todo ...</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más tarde</translation>
     </message>
     <message>
         <source>They stay on the start page, and in the File menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Permanecen en la página de inicio y en el menú Archivo</translation>
     </message>
     <message>
         <source>Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniatura</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar</translation>
     </message>
     <message>
         <source>Discard ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar ...</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Más tarde</translation>
     </message>
 </context>
 <context>
     <name>velara::fResolution</name>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución</translation>
     </message>
     <message>
         <source>Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizado</translation>
     </message>
     <message>
         <source>File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo: </translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
 </context>
 <context>
     <name>velara::fRgbBox</name>
     <message>
         <source>Drag up or down to change it; with Ctrl by tens</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre arriba o abajo para cambiarlo; con Ctrl, de diez en diez</translation>
     </message>
 </context>
 <context>
     <name>velara::fRotate</name>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados</translation>
     </message>
     <message>
         <source>&amp;Antialiasing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suavizado</translation>
     </message>
     <message>
         <source>Antialiasing</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizado</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>45 degrees more</source>
-        <translation type="unfinished"></translation>
+        <translation>45 grados más</translation>
     </message>
     <message>
         <source>45 degrees less</source>
-        <translation type="unfinished"></translation>
+        <translation>45 grados menos</translation>
     </message>
     <message>
         <source>Canvas will be resized</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambiará el tamaño del lienzo</translation>
     </message>
 </context>
 <context>
     <name>velara::fScanSettings</name>
     <message>
         <source>Pre&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vista previa</translation>
     </message>
     <message>
         <source>Whole &amp;bed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todo el cristal</translation>
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desde</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modo</translation>
     </message>
     <message>
         <source>&amp;Resolution (dpi)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resolución (ppp)</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
 </context>
 <context>
     <name>velara::fSearch</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una orden</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes</translation>
     </message>
     <message>
         <source>Find a Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una orden</translation>
     </message>
     <message>
         <source>A few letters of what you want to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Unas letras de lo que desea hacer</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada tiene ese nombre.</translation>
     </message>
     <message>
         <source> · used lately</source>
-        <translation type="unfinished"></translation>
+        <translation> · usado hace poco</translation>
     </message>
 </context>
 <context>
     <name>velara::fSize</name>
     <message>
         <source>Image size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la imagen</translation>
     </message>
     <message>
         <source>&amp;Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mantener proporciones</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>&amp;Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suavizado</translation>
     </message>
     <message>
         <source>Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Suavizado</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Rápido</translation>
     </message>
     <message>
         <source>Choose a factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un factor</translation>
     </message>
     <message>
         <source>&amp;Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porcentaje</translation>
     </message>
 </context>
 <context>
     <name>velara::fSizeFields</name>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto</translation>
     </message>
     <message>
         <source>Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantener proporciones</translation>
     </message>
 </context>
 <context>
     <name>velara::fSource</name>
     <message>
         <source>Select Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir origen</translation>
     </message>
     <message>
         <source>Scanners</source>
-        <translation type="unfinished"></translation>
+        <translation>Escáneres</translation>
     </message>
     <message>
         <source>&amp;Look again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar de nuevo</translation>
     </message>
     <message>
         <source>&amp;Select</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elegir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Looking for scanners ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando escáneres ...</translation>
     </message>
     <message>
         <source>No scanner was found: </source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ningún escáner: </translation>
     </message>
     <message>
         <source>No scanner was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ningún escáner.</translation>
     </message>
     <message>
         <source>Scanners of this machine:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escáneres de este equipo:</translation>
     </message>
     <message>
         <source>Please Verify that the system is connected to Scanner!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Compruebe que el equipo esté conectado al escáner!</translation>
     </message>
 </context>
 <context>
     <name>velara::fSplash</name>
     <message>
         <source>About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Velara Studio</translation>
     </message>
 </context>
 <context>
     <name>velara::fStartPage</name>
     <message>
         <source>Recent pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes recientes</translation>
     </message>
     <message>
         <source>How to start</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo empezar</translation>
     </message>
     <message>
         <source>Open a picture to begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra una imagen para empezar</translation>
     </message>
     <message>
         <source>Pictures may also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>También puede soltar imágenes aquí.</translation>
     </message>
     <message>
         <source>Not saved when the program ended</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin guardar al terminar el programa</translation>
     </message>
     <message>
         <source>&amp;Recover ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recuperar ...</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir ...</translation>
     </message>
     <message>
         <source>From the &amp;clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Del portapapeles</translation>
     </message>
 </context>
 <context>
     <name>velara::fStatus</name>
     <message>
         <source>Position of the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición del puntero</translation>
     </message>
     <message>
         <source>Extent of the drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión del arrastre</translation>
     </message>
     <message>
         <source>Size of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la imagen</translation>
     </message>
     <message>
         <source>Page of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Página del archivo</translation>
     </message>
     <message>
         <source>Name of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de la imagen</translation>
     </message>
     <message>
         <source>Keys of what is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas de lo que está en curso</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Progress of the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso del filtro</translation>
     </message>
 </context>
 <context>
     <name>velara::fTextPage</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alineación</translation>
     </message>
     <message>
         <source>Left Justify|Centre Justify|Right Justify|Full Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>Alineado a la izquierda|Centrado|Alineado a la derecha|Justificado</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombra</translation>
     </message>
     <message>
         <source>Top Left|Top|Top Right|Left|No Shadow|Right|Bottom Left|Bottom|Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la izquierda|Arriba|Arriba a la derecha|Izquierda|Sin sombra|Derecha|Abajo a la izquierda|Abajo|Abajo a la derecha</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrita</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva</translation>
     </message>
     <message>
         <source>Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>Subrayado</translation>
     </message>
     <message>
         <source>The text is too long for this space: make the window larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto es demasiado largo para este espacio: agrande la ventana.</translation>
     </message>
     <message>
         <source>The text as it is stamped</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto tal como se estampa</translation>
     </message>
     <message>
         <source>Type the text here</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba aquí el texto</translation>
     </message>
     <message>
         <source>&amp;Place with the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colocar con el ratón</translation>
     </message>
     <message>
         <source>Place with the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocar con el ratón</translation>
     </message>
     <message>
         <source>Takes the text tool: press on the picture, drag, and let go where the text shall stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma la herramienta de texto: pulse en la imagen, arrastre y suelte donde deba ir el texto</translation>
     </message>
     <message>
         <source>Unable to find suitable font size for text</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró un tamaño de fuente adecuado para el texto</translation>
     </message>
 </context>
 <context>
     <name>velara::fTexturize</name>
     <message>
         <source>Texturize</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturizar</translation>
     </message>
     <message>
         <source>The folder &quot;Textures&quot; can&apos;t be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la carpeta «Textures».</translation>
     </message>
     <message>
         <source>Textures</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturas</translation>
     </message>
     <message>
         <source>Chosen texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Textura elegida</translation>
     </message>
     <message>
         <source>Preview, pixel for pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa, píxel a píxel</translation>
     </message>
     <message>
         <source>The texture</source>
-        <translation type="unfinished"></translation>
+        <translation>La textura</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad</translation>
     </message>
     <message>
         <source>Depth </source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad </translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Repujado</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabado</translation>
     </message>
     <message>
         <source>Self-Texturized</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturizada consigo misma</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>(can&apos;t be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>(no se puede leer)</translation>
     </message>
     <message>
         <source>This file can&apos;t be read as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no se puede leer como imagen.</translation>
     </message>
     <message>
         <source>A relief needs a picture of at least 2 x 2 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un relieve necesita una imagen de al menos 2 x 2 píxeles.</translation>
     </message>
     <message>
         <source>A texture needs at least 2 x 2 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una textura necesita al menos 2 x 2 píxeles.</translation>
     </message>
 </context>
 <context>
     <name>velara::fToolPane</name>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer color</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo color</translation>
     </message>
     <message>
         <source>Swap the colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar los colores</translation>
     </message>
 </context>
 <context>
     <name>velara::fToolTextures</name>
     <message>
         <source>Text and effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto y efectos</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texto</translation>
     </message>
     <message>
         <source>&amp;Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Efectos</translation>
     </message>
     <message>
         <source>Textures: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturas: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fWebTable</name>
     <message>
         <source>All formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los formatos</translation>
     </message>
     <message>
         <source>Formats by size</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatos por tamaño</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdida</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Choose the format</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija el formato</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Decibels: the more, the better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decibelios: cuantos más, mejor.</translation>
     </message>
     <message>
         <source>no loss</source>
-        <translation type="unfinished"></translation>
+        <translation>sin pérdida</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
 </context>
 </TS>
