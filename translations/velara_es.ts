@@ -1926,7 +1926,7 @@
     </message>
     <message>
         <source>&amp;Find a Command ...</source>
-        <translation>&amp;Buscar una orden ...</translation>
+        <translation>&amp;Buscar un comando ...</translation>
     </message>
     <message>
         <source>&amp;About Velara Studio</source>
@@ -2512,7 +2512,7 @@ y %n más</numerusform>
     </message>
     <message>
         <source>%1 is a command word and takes no arguments</source>
-        <translation>%1 es una palabra de orden y no admite argumentos</translation>
+        <translation>%1 es una palabra de comando y no admite argumentos</translation>
     </message>
     <message>
         <source>the closing bracket is missing</source>
@@ -2828,7 +2828,7 @@ Se restablecerán los valores</translation>
     </message>
     <message>
         <source>scan paper</source>
-        <translation>digitalizar papel</translation>
+        <translation>escanear papel</translation>
     </message>
     <message>
         <source>screenshot whole screen</source>
@@ -3813,7 +3813,7 @@ Terminó antes de tiempo.</translation>
     </message>
     <message>
         <source>The command is on the clipboard.</source>
-        <translation>La orden está en el portapapeles.</translation>
+        <translation>El comando está en el portapapeles.</translation>
     </message>
     <message>
         <source>Save recipe</source>
@@ -4036,11 +4036,11 @@ Los pasos atrás quedan en memoria, tantos como quepan, y los ajustes no se cons
     </message>
     <message>
         <source>Progress of the scan</source>
-        <translation>Progreso de la digitalización</translation>
+        <translation>Progreso del escaneo</translation>
     </message>
     <message>
         <source>&amp;Scan</source>
-        <translation>&amp;Digitalizar</translation>
+        <translation>E&amp;scanear</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -4064,11 +4064,11 @@ Los pasos atrás quedan en memoria, tantos como quepan, y los ajustes no se cons
     </message>
     <message>
         <source>Scanning ...</source>
-        <translation>Digitalizando ...</translation>
+        <translation>Escaneando ...</translation>
     </message>
     <message>
         <source>Scanning page %1 ...</source>
-        <translation>Digitalizando la página %1 ...</translation>
+        <translation>Escaneando la página %1 ...</translation>
     </message>
     <message>
         <source>The scanner says: </source>
@@ -5106,7 +5106,7 @@ Este paso ya no se conserva.</translation>
     </message>
     <message>
         <source>&amp;Copy as command</source>
-        <translation>&amp;Copiar como orden</translation>
+        <translation>&amp;Copiar como comando</translation>
     </message>
     <message>
         <source>&amp;Save recipe ...</source>
@@ -6680,15 +6680,15 @@ el color en su lista.</translation>
     <name>velara::fSearch</name>
     <message>
         <source>Find a command</source>
-        <translation>Buscar una orden</translation>
+        <translation>Buscar un comando</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation>Órdenes</translation>
+        <translation>Comandos</translation>
     </message>
     <message>
         <source>Find a Command</source>
-        <translation>Buscar una orden</translation>
+        <translation>Buscar un comando</translation>
     </message>
     <message>
         <source>A few letters of what you want to do</source>
@@ -6696,7 +6696,7 @@ el color en su lista.</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation>Orden</translation>
+        <translation>Comando</translation>
     </message>
     <message>
         <source>Menu</source>

@@ -6010,27 +6010,27 @@ Le fichier a %n pages ; il n&apos;en resterait que celle-ci.</numerusform>
     <name>velara::fPaste</name>
     <message>
         <source>Picture of the clip</source>
-        <translation>Image de la coupe</translation>
+        <translation>Image de l&apos;extrait</translation>
     </message>
     <message>
         <source>Clip History</source>
-        <translation>Historique des coupes</translation>
+        <translation>Historique des extraits</translation>
     </message>
     <message>
         <source>Clips, oldest first</source>
-        <translation>Coupes, de la plus ancienne à la plus récente</translation>
+        <translation>Extraits, du plus ancien au plus récent</translation>
     </message>
     <message>
         <source>Enter pastes the clip</source>
-        <translation>Entrée colle la coupe</translation>
+        <translation>Entrée colle l&apos;extrait</translation>
     </message>
     <message>
         <source>Scroll the clips</source>
-        <translation>Faire défiler les coupes</translation>
+        <translation>Faire défiler les extraits</translation>
     </message>
     <message>
         <source>Clip %1</source>
-        <translation>Coupe %1</translation>
+        <translation>Extrait %1</translation>
     </message>
     <message>
         <source>Opaque &amp;Intensity</source>
@@ -6043,7 +6043,7 @@ Le fichier a %n pages ; il n&apos;en resterait que celle-ci.</numerusform>
     <message>
         <source>Clip History: 
 %1</source>
-        <translation>Historique des coupes : 
+        <translation>Historique des extraits : 
 %1</translation>
     </message>
     <message>
