@@ -5,2217 +5,2219 @@
     <name>Clipboard</name>
     <message>
         <source>the picture on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bild in der Zwischenablage</translation>
     </message>
     <message>
         <source>The picture on the clipboard was given up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen des Bildes aus der Zwischenablage wurde abgebrochen.</translation>
     </message>
     <message>
         <source>The picture on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild in der Zwischenablage</translation>
     </message>
     <message>
         <source>The program that put the picture on the clipboard doesn&apos;t hand it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm, das das Bild in die Zwischenablage gelegt hat, gibt es nicht heraus.</translation>
     </message>
 </context>
 <context>
     <name>Colors</name>
     <message>
         <source>16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>16 Farben</translation>
     </message>
     <message>
         <source>48 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>48 Farben</translation>
     </message>
     <message>
         <source>Red Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Rote Palette</translation>
     </message>
     <message>
         <source>Green Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Grüne Palette</translation>
     </message>
     <message>
         <source>Blue Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Blaue Palette</translation>
     </message>
     <message>
         <source>Grey Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Graue Palette</translation>
     </message>
     <message>
         <source>System Pallete</source>
-        <translation type="unfinished"></translation>
+        <translation>Systempalette</translation>
     </message>
 </context>
 <context>
     <name>FileFacts</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
     <name>Filters</name>
     <message>
         <source>Color [Colorize]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Einfärben]</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung</translation>
     </message>
     <message>
         <source>Luminosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Adjust [Brightness]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Helligkeit]</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe</translation>
     </message>
     <message>
         <source>levels added; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>addierte Stufen; 0 ändert nichts</translation>
     </message>
     <message>
         <source>Adjust [Contrast]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Kontrast]</translation>
     </message>
     <message>
         <source>percent added to the contrast; -100 is flat grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent mehr Kontrast; -100 ist einfarbiges Grau</translation>
     </message>
     <message>
         <source>Adjust [Saturation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Sättigung]</translation>
     </message>
     <message>
         <source>percent added to the saturation; -100 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent mehr Sättigung; -100 ist grau</translation>
     </message>
     <message>
         <source>Adjust [Gamma correction]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Gammakorrektur]</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma</translation>
     </message>
     <message>
         <source>gamma is (Level+100)/100; -100 is black</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma ist (Stufe+100)/100; -100 ist schwarz</translation>
     </message>
     <message>
         <source>Definition [Diffuse]</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe [Streuen]</translation>
     </message>
     <message>
         <source>Horizontal range</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerechte Reichweite</translation>
     </message>
     <message>
         <source>pixels from left to right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel von links nach rechts</translation>
     </message>
     <message>
         <source>Vertical range</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrechte Reichweite</translation>
     </message>
     <message>
         <source>pixels from top to bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel von oben nach unten</translation>
     </message>
     <message>
         <source>Adjust [Blur]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Weichzeichnen]</translation>
     </message>
     <message>
         <source>pixels; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel; 0 ändert nichts</translation>
     </message>
     <message>
         <source>Definition [Halftone]</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe [Halbton]</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Radius</translation>
     </message>
     <message>
         <source>pixels of a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel eines Punktes</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe</translation>
     </message>
     <message>
         <source>pixels added to its reach</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel, um die er weiter reicht</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensität</translation>
     </message>
     <message>
         <source>percent brighter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent heller</translation>
     </message>
     <message>
         <source>Definition [Pixelaze]</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe [Verpixeln]</translation>
     </message>
     <message>
         <source>Pixel size</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelgröße</translation>
     </message>
     <message>
         <source>pixels a side; 1 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel je Seite; 1 ändert nichts</translation>
     </message>
     <message>
         <source>Edges [Emboss]</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten [Prägen]</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>tenths of the difference; 0 is flat grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel des Unterschieds; 0 ist einfarbiges Grau</translation>
     </message>
     <message>
         <source>Edges [Engrave]</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten [Gravieren]</translation>
     </message>
     <message>
         <source>Edges [Contour]</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten [Kontur]</translation>
     </message>
     <message>
         <source>edges darker than this show; 0 is none</source>
-        <translation type="unfinished"></translation>
+        <translation>sichtbar sind dunklere Kanten als diese; 0 ist keine</translation>
     </message>
     <message>
         <source>Edges [Sketch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten [Skizze]</translation>
     </message>
     <message>
         <source>B/W</source>
-        <translation type="unfinished"></translation>
+        <translation>S/W</translation>
     </message>
     <message>
         <source>edges above it are drawn; flat ones have 255</source>
-        <translation type="unfinished"></translation>
+        <translation>gezeichnet werden Kanten darüber; Flächen haben 255</translation>
     </message>
     <message>
         <source>Edges [Threshold]</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten [Schwellenwert]</translation>
     </message>
     <message>
         <source>Cut value</source>
-        <translation type="unfinished"></translation>
+        <translation>Grenzwert</translation>
     </message>
     <message>
         <source>brightest level that becomes black</source>
-        <translation type="unfinished"></translation>
+        <translation>hellste Stufe, die schwarz wird</translation>
     </message>
     <message>
         <source>Color [Isolate]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Isolieren]</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Toleranz</translation>
     </message>
     <message>
         <source>percent of half a channel&apos;s range; 0 is the exact colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent vom halben Umfang eines Kanals; 0 ist genau die Farbe</translation>
     </message>
     <message>
         <source>Color [Reduction]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Reduktion]</translation>
     </message>
     <message>
         <source>levels are rounded to multiples of Level+1; 0 changes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>gerundet wird auf Vielfache von Stufe+1; 0 ändert nichts</translation>
     </message>
     <message>
         <source>Color [Replace]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Ersetzen]</translation>
     </message>
     <message>
         <source>Color [Replace Hue/Sat.]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Farbton/Sätt. ersetzen]</translation>
     </message>
     <message>
         <source>Hue Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtontoleranz</translation>
     </message>
     <message>
         <source>hundredths of a sixth of a turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Hundertstel eines Sechstels des Farbkreises</translation>
     </message>
     <message>
         <source>Sat. Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätt.-Toleranz</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>Apply Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendungstoleranz</translation>
     </message>
     <message>
         <source>Color [Replace Lum.]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Hell. ersetzen]</translation>
     </message>
     <message>
         <source>Lum. Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell.-Toleranz</translation>
     </message>
     <message>
         <source>percent of brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent der Helligkeit</translation>
     </message>
     <message>
         <source>Adjust [Sharpen]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Schärfen]</translation>
     </message>
     <message>
         <source>0 weak to 100 strong</source>
-        <translation type="unfinished"></translation>
+        <translation>0 schwach bis 100 stark</translation>
     </message>
     <message>
         <source>Adjust [Soften]</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen [Abmildern]</translation>
     </message>
     <message>
         <source>Color [Shift]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Verschieben]</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>levels added</source>
-        <translation type="unfinished"></translation>
+        <translation>addierte Stufen</translation>
     </message>
     <message>
         <source>Color [Hue rotation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Farbton drehen]</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz</translation>
     </message>
     <message>
         <source>percent of a turn of the hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent einer Drehung des Farbkreises</translation>
     </message>
     <message>
         <source>percent kept; 0 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent, die bleiben; 0 ist grau</translation>
     </message>
     <message>
         <source>Color [Grey rotation]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Grau drehen]</translation>
     </message>
     <message>
         <source>phase of the sine in tenths of a radian</source>
-        <translation type="unfinished"></translation>
+        <translation>Phase des Sinus in Zehnteln eines Radianten</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte</translation>
     </message>
     <message>
         <source>its frequency: Steps/2.5 radians from black to white</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Frequenz: Schritte/2,5 Radianten von Schwarz bis Weiß</translation>
     </message>
     <message>
         <source>Color [Hue stretch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [Farbton strecken]</translation>
     </message>
     <message>
         <source>percent; 0 is grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent; 0 ist grau</translation>
     </message>
     <message>
         <source>Stretch factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Streckfaktor</translation>
     </message>
     <message>
         <source>tenths of a radian of hue from black to white</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel eines Radianten Farbton von Schwarz bis Weiß</translation>
     </message>
     <message>
         <source>Color [RGB levels]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [RGB-Stufen]</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Color [RGB banks]</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe [RGB-Kanäle]</translation>
     </message>
     <message>
         <source>Deformation [Lens]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Linse]</translation>
     </message>
     <message>
         <source>Diameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser</translation>
     </message>
     <message>
         <source>Magnify factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößerung</translation>
     </message>
     <message>
         <source>0 nothing to 130 strong</source>
-        <translation type="unfinished"></translation>
+        <translation>0 nichts bis 130 stark</translation>
     </message>
     <message>
         <source>Deformation [Waves]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Wellen]</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenz</translation>
     </message>
     <message>
         <source>degrees a row</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad je Zeile</translation>
     </message>
     <message>
         <source>Amplitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Amplitude</translation>
     </message>
     <message>
         <source>quarters of a pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Viertel eines Pixels</translation>
     </message>
     <message>
         <source>Start degree</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsgrad</translation>
     </message>
     <message>
         <source>degrees at the top row</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad in der obersten Zeile</translation>
     </message>
     <message>
         <source>Deformation [Bend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Biegen]</translation>
     </message>
     <message>
         <source>Clean back</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund leeren</translation>
     </message>
     <message>
         <source>Radius factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Radiusfaktor</translation>
     </message>
     <message>
         <source>percent added to twice the radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent mehr als der doppelte Radius</translation>
     </message>
     <message>
         <source>Deformation [Fold]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Falten]</translation>
     </message>
     <message>
         <source>Horizontal factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerechter Faktor</translation>
     </message>
     <message>
         <source>percent at the edge; 0 is none</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent am Rand; 0 ist keine</translation>
     </message>
     <message>
         <source>Vertical factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrechter Faktor</translation>
     </message>
     <message>
         <source>Deformation [Rotate]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Drehen]</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad</translation>
     </message>
     <message>
         <source>to the left; below 0 to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>nach links; unter 0 nach rechts</translation>
     </message>
     <message>
         <source>Deformation [Stretch]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Strecken]</translation>
     </message>
     <message>
         <source>percent; above 0 shrinks; below 0 enlarges</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent; über 0 verkleinert, unter 0 vergrößert</translation>
     </message>
     <message>
         <source>percent as before</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent wie zuvor</translation>
     </message>
     <message>
         <source>Deformation [Tile]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Kacheln]</translation>
     </message>
     <message>
         <source>Factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor</translation>
     </message>
     <message>
         <source>copies a side</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopien je Seite</translation>
     </message>
     <message>
         <source>Deformation [Twirl]</source>
-        <translation type="unfinished"></translation>
+        <translation>Verformung [Strudel]</translation>
     </message>
     <message>
         <source>tenths of a radian at half the width</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehntel eines Radianten bei halber Breite</translation>
     </message>
     <message>
         <source>Offset degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz in Grad</translation>
     </message>
     <message>
         <source>degrees for all</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad für alle</translation>
     </message>
     <message>
         <source>Special [Grid]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezial [Gitter]</translation>
     </message>
     <message>
         <source>Force margins</source>
-        <translation type="unfinished"></translation>
+        <translation>Ränder erzwingen</translation>
     </message>
     <message>
         <source>Horizontal step</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerechter Abstand</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Vertical step</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrechter Abstand</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>0 invisible to 255 opaque</source>
-        <translation type="unfinished"></translation>
+        <translation>0 unsichtbar bis 255 deckend</translation>
     </message>
     <message>
         <source>Special [Light]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezial [Licht]</translation>
     </message>
     <message>
         <source>Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdehnung</translation>
     </message>
     <message>
         <source>levels added in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>in der Mitte addierte Stufen</translation>
     </message>
     <message>
         <source>percent of it at the rim</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent davon am Rand</translation>
     </message>
     <message>
         <source>Special [Noise]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezial [Rauschen]</translation>
     </message>
     <message>
         <source>Equalized</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeglichen</translation>
     </message>
     <message>
         <source>levels up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufen auf oder ab</translation>
     </message>
     <message>
         <source>Special [Scanlines]</source>
-        <translation type="unfinished"></translation>
+        <translation>Spezial [Bildzeilen]</translation>
     </message>
     <message>
         <source>levels taken away</source>
-        <translation type="unfinished"></translation>
+        <translation>abgezogene Stufen</translation>
     </message>
     <message>
         <source>Behind Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter Glas</translation>
     </message>
     <message>
         <source>Behind Curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Vorhang</translation>
     </message>
     <message>
         <source>Squary</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadratisch</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht</translation>
     </message>
     <message>
         <source>Slanting</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräg</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht</translation>
     </message>
     <message>
         <source>Tight</source>
-        <translation type="unfinished"></translation>
+        <translation>Eng</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>Weit</translation>
     </message>
     <message>
         <source>Classy</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch</translation>
     </message>
     <message>
         <source>Whity</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißlich</translation>
     </message>
     <message>
         <source>Stored texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Textur</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>Diffuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuen</translation>
     </message>
     <message>
         <source>Dilate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdehnen</translation>
     </message>
     <message>
         <source>Dissolve</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösen</translation>
     </message>
     <message>
         <source>Edge enhance</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten verstärken</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Prägen</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravieren</translation>
     </message>
     <message>
         <source>Equalize</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgleichen</translation>
     </message>
     <message>
         <source>Erode</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtragen</translation>
     </message>
     <message>
         <source>Flip</source>
-        <translation type="unfinished"></translation>
+        <translation>Kippen</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegeln</translation>
     </message>
     <message>
         <source>Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>Falten</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau</translation>
     </message>
     <message>
         <source>Halftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbton</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertieren</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen</translation>
     </message>
     <message>
         <source>Old photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Altes Foto</translation>
     </message>
     <message>
         <source>Painting</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemälde</translation>
     </message>
     <message>
         <source>Photocopy</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotokopie</translation>
     </message>
     <message>
         <source>Pixelize</source>
-        <translation type="unfinished"></translation>
+        <translation>Verpixeln</translation>
     </message>
     <message>
         <source>Relief</source>
-        <translation type="unfinished"></translation>
+        <translation>Relief</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Scanlines</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildzeilen</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfen</translation>
     </message>
     <message>
         <source>Sketch</source>
-        <translation type="unfinished"></translation>
+        <translation>Skizze</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmildern</translation>
     </message>
     <message>
         <source>Thermal</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärmebild</translation>
     </message>
     <message>
         <source>Twirl</source>
-        <translation type="unfinished"></translation>
+        <translation>Strudel</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellen</translation>
     </message>
     <message>
         <source>Invert black</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarz invertieren</translation>
     </message>
 </context>
 <context>
     <name>Fonts</name>
     <message>
         <source>Failed to get font info</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Angaben zur Schrift sind nicht zu bekommen</translation>
     </message>
 </context>
 <context>
     <name>Formats</name>
     <message>
         <source>%1 is %2 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Bild der Art %2</translation>
     </message>
     <message>
         <source>All Supported Picture Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle unterstützten Bildformate</translation>
     </message>
     <message>
         <source>Bitmap Files (*.BMP;*.DIB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitmap-Dateien (*.BMP;*.DIB)</translation>
     </message>
     <message>
         <source>Meta Files (*.WMF;*.EMF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadateien (*.WMF;*.EMF)</translation>
     </message>
     <message>
         <source>Graphical Interface Format(*.GIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format(*.GIF)</translation>
     </message>
     <message>
         <source>Independent JPEG Group (*.JPG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Independent JPEG Group (*.JPG)</translation>
     </message>
     <message>
         <source>Portable Network Graphics (*.PNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Network Graphics (*.PNG)</translation>
     </message>
     <message>
         <source>Zsoft Paintbrush Files (*.PCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zsoft-Paintbrush-Dateien (*.PCX)</translation>
     </message>
     <message>
         <source>Wireless Bitmap (*.WBMP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wireless Bitmap (*.WBMP)</translation>
     </message>
     <message>
         <source>Portable Bitmap (*.PBM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Bitmap (*.PBM)</translation>
     </message>
     <message>
         <source>Portable Graymap (*.PGM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Graymap (*.PGM)</translation>
     </message>
     <message>
         <source>Portable Pixelmap (*.PPM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Pixelmap (*.PPM)</translation>
     </message>
     <message>
         <source>Windows Icon (*.ICO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Symbol (*.ICO)</translation>
     </message>
     <message>
         <source>Photoshop (*.PSD)</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop (*.PSD)</translation>
     </message>
     <message>
         <source>JPEG Network Graphics (*.JNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG Network Graphics (*.JNG)</translation>
     </message>
     <message>
         <source>Multiple Network Graphics (*.MNG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple Network Graphics (*.MNG)</translation>
     </message>
     <message>
         <source>Tagged Image File Format (*.TIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagged Image File Format (*.TIF)</translation>
     </message>
     <message>
         <source>Commodore 64 Koala format (*.KOA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Commodore-64-Koala-Format (*.KOA)</translation>
     </message>
     <message>
         <source>Kodak PhotoCD (*.PCD)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodak PhotoCD (*.PCD)</translation>
     </message>
     <message>
         <source>Sun Rasterfile (*.RAS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sun-Rasterdatei (*.RAS)</translation>
     </message>
     <message>
         <source>Targa files (*.TGA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Targa-Dateien (*.TGA)</translation>
     </message>
     <message>
         <source>Dr.Halo bitmap (*.CUT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dr.-Halo-Bitmap (*.CUT)</translation>
     </message>
     <message>
         <source>Interchanged File Format (*.IFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Interchanged File Format (*.IFF)</translation>
     </message>
     <message>
         <source>Deluxe Paint package (*.LBM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Deluxe-Paint-Bild (*.LBM)</translation>
     </message>
     <message>
         <source>WebP (*.WEBP)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP (*.WEBP)</translation>
     </message>
     <message>
         <source>High Efficiency Image File (*.HEIC)</source>
-        <translation type="unfinished"></translation>
+        <translation>High Efficiency Image File (*.HEIC)</translation>
     </message>
     <message>
         <source>AV1 Image File (*.AVIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1 Image File (*.AVIF)</translation>
     </message>
     <message>
         <source>JPEG XL (*.JXL)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL (*.JXL)</translation>
     </message>
     <message>
         <source>Scalable Vector Graphics (*.SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Scalable Vector Graphics (*.SVG)</translation>
     </message>
     <message>
         <source>Camera Files (*.DNG;*.CR2;*.NEF;*.ARW;*.RAF;*.ORF;*.RW2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameradateien (*.DNG;*.CR2;*.NEF;*.ARW;*.RAF;*.ORF;*.RW2)</translation>
     </message>
     <message>
         <source>All Supported graphic formats </source>
-        <translation type="unfinished"></translation>
+        <translation>Alle unterstützten Grafikformate </translation>
     </message>
     <message>
         <source>Windows Bitmap Files (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Bitmap-Dateien (*.bmp)</translation>
     </message>
     <message>
         <source>Graphical Interface Format (*.GIF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format (*.GIF)</translation>
     </message>
     <message>
         <source>Zsoft Paintbrush (*.PCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zsoft Paintbrush (*.PCX)</translation>
     </message>
     <message>
         <source>ASCII bitmap format(*.ppm)(*.pgm)(*.pbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>ASCII-Bitmap-Format(*.ppm)(*.pgm)(*.pbm)</translation>
     </message>
     <message>
         <source>Windows Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Bitmap</translation>
     </message>
     <message>
         <source>Meta Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadateien</translation>
     </message>
     <message>
         <source>Graphical Interface Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphical Interface Format</translation>
     </message>
     <message>
         <source>Independent JPEG group</source>
-        <translation type="unfinished"></translation>
+        <translation>Independent JPEG Group</translation>
     </message>
     <message>
         <source>Portable Network Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Network Group</translation>
     </message>
     <message>
         <source>ZSoft Paintbrush Format</source>
-        <translation type="unfinished"></translation>
+        <translation>ZSoft-Paintbrush-Format</translation>
     </message>
     <message>
         <source>Wireless Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Wireless Bitmap</translation>
     </message>
     <message>
         <source>Portable Bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Bitmap</translation>
     </message>
     <message>
         <source>Portable Graymap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Graymap</translation>
     </message>
     <message>
         <source>Portable Pixelmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Pixelmap</translation>
     </message>
     <message>
         <source>Windows Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Symbol</translation>
     </message>
     <message>
         <source>Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>JPEG Network Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG Network Graphics</translation>
     </message>
     <message>
         <source>Multiple Network Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiple Network Graphics</translation>
     </message>
     <message>
         <source>Tagged Image File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagged Image File Format</translation>
     </message>
     <message>
         <source>Commodore 64 Koala format</source>
-        <translation type="unfinished"></translation>
+        <translation>Commodore-64-Koala-Format</translation>
     </message>
     <message>
         <source>Kodak PhotoCD</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodak PhotoCD</translation>
     </message>
     <message>
         <source>Sun Rasterfile</source>
-        <translation type="unfinished"></translation>
+        <translation>Sun-Rasterdatei</translation>
     </message>
     <message>
         <source>Targa files</source>
-        <translation type="unfinished"></translation>
+        <translation>Targa-Dateien</translation>
     </message>
     <message>
         <source>Dr.Halo bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Dr.-Halo-Bitmap</translation>
     </message>
     <message>
         <source>Interchanged File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Interchanged File Format</translation>
     </message>
     <message>
         <source>Deluxe Paint package</source>
-        <translation type="unfinished"></translation>
+        <translation>Deluxe-Paint-Bild</translation>
     </message>
     <message>
         <source>WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>High Efficiency Image File</source>
-        <translation type="unfinished"></translation>
+        <translation>High Efficiency Image File</translation>
     </message>
     <message>
         <source>AV1 Image File</source>
-        <translation type="unfinished"></translation>
+        <translation>AV1 Image File</translation>
     </message>
     <message>
         <source>JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>Scalable Vector Graphics</source>
-        <translation type="unfinished"></translation>
+        <translation>Scalable Vector Graphics</translation>
     </message>
     <message>
         <source>Camera Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameradateien</translation>
     </message>
     <message>
         <source>a BMP</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP</translation>
     </message>
     <message>
         <source>a WBMP</source>
-        <translation type="unfinished"></translation>
+        <translation>WBMP</translation>
     </message>
     <message>
         <source>a bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitmap</translation>
     </message>
     <message>
         <source>a Windows metafile</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows-Metadatei</translation>
     </message>
     <message>
         <source>an enhanced metafile</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterte Metadatei</translation>
     </message>
     <message>
         <source>a GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF</translation>
     </message>
     <message>
         <source>a JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG</translation>
     </message>
     <message>
         <source>a PNG</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG</translation>
     </message>
     <message>
         <source>a PCX</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX</translation>
     </message>
     <message>
         <source>a portable anymap</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Anymap</translation>
     </message>
     <message>
         <source>an icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol</translation>
     </message>
     <message>
         <source>a cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Mauszeiger</translation>
     </message>
     <message>
         <source>a Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>an MNG</source>
-        <translation type="unfinished"></translation>
+        <translation>MNG</translation>
     </message>
     <message>
         <source>a TIFF</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF</translation>
     </message>
     <message>
         <source>a Koala</source>
-        <translation type="unfinished"></translation>
+        <translation>Koala</translation>
     </message>
     <message>
         <source>a Photo CD</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo CD</translation>
     </message>
     <message>
         <source>a Sun raster</source>
-        <translation type="unfinished"></translation>
+        <translation>Sun-Raster</translation>
     </message>
     <message>
         <source>a Targa</source>
-        <translation type="unfinished"></translation>
+        <translation>Targa</translation>
     </message>
     <message>
         <source>a Dr. Halo</source>
-        <translation type="unfinished"></translation>
+        <translation>Dr. Halo</translation>
     </message>
     <message>
         <source>an IFF</source>
-        <translation type="unfinished"></translation>
+        <translation>IFF</translation>
     </message>
     <message>
         <source>a WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>a HEIF</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIF</translation>
     </message>
     <message>
         <source>an AVIF</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF</translation>
     </message>
     <message>
         <source>a JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>an SVG</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG</translation>
     </message>
     <message>
         <source>a camera&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamerabild</translation>
     </message>
 </context>
 <context>
     <name>Leftover</name>
     <message>
         <source>Recovered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederhergestellt %1</translation>
     </message>
     <message>
         <source>Its pictures can&apos;t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine Bilder sind nicht lesbar.</translation>
     </message>
     <message>
         <source>A newer version of the program left it: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es stammt von einer neueren Version des Programms: Sein Name ist nicht bekannt.</translation>
     </message>
     <message>
         <source>Its record is damaged: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sein Protokoll ist beschädigt: Sein Name ist nicht bekannt.</translation>
     </message>
     <message>
         <source>Its record is missing: its name is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sein Protokoll fehlt: Sein Name ist nicht bekannt.</translation>
     </message>
     <message>
         <source>The last change could not be kept: this is the one before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die letzte Änderung ließ sich nicht aufbewahren: Dies ist der Stand davor.</translation>
     </message>
     <message>
         <source>Not all of its steps back could be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle Schritte zurück ließen sich aufbewahren.</translation>
     </message>
 </context>
 <context>
     <name>Menus</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen ...</translation>
     </message>
     <message>
         <source>&amp;Browse ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsuchen ...</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>Next Pa&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Sei&amp;te</translation>
     </message>
     <message>
         <source>Prev&amp;ious Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor&amp;herige Seite</translation>
     </message>
     <message>
         <source>Reco&amp;ver ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen ...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter ...</translation>
     </message>
     <message>
         <source>Save A&amp;ll ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle speichern ...</translation>
     </message>
     <message>
         <source>Save for &amp;Web ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fü&amp;r das Web speichern ...</translation>
     </message>
     <message>
         <source>Scann&amp;er</source>
-        <translation type="unfinished"></translation>
+        <translation>Scann&amp;er</translation>
     </message>
     <message>
         <source>Acquire ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einlesen ...</translation>
     </message>
     <message>
         <source>Select Source ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle wählen ...</translation>
     </message>
     <message>
         <source>Digital Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitalkamera</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Dru&amp;cken</translation>
     </message>
     <message>
         <source>Print Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckvorschau</translation>
     </message>
     <message>
         <source>Printer Setup ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker einrichten ...</translation>
     </message>
     <message>
         <source>Print ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken ...</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lles auswählen</translation>
     </message>
     <message>
         <source>Select Non&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl auf&amp;heben</translation>
     </message>
     <message>
         <source>In&amp;vert Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl &amp;umkehren</translation>
     </message>
     <message>
         <source>Create &amp;New Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neue Kopie anlegen</translation>
     </message>
     <message>
         <source>Copy Image to Clip&amp;board</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bild in die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Create &amp;from Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu aus &amp;Zwischenablage</translation>
     </message>
     <message>
         <source>Cr&amp;op</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu&amp;schneiden</translation>
     </message>
     <message>
         <source>Recipes</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezepte</translation>
     </message>
     <message>
         <source>&amp;Run Recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept &amp;anwenden ...</translation>
     </message>
     <message>
         <source>&amp;Save Recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept &amp;speichern ...</translation>
     </message>
     <message>
         <source>Run on a &amp;Folder ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;Ordner anwenden ...</translation>
     </message>
     <message>
         <source>I&amp;mage Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;ildeigenschaften</translation>
     </message>
     <message>
         <source>Opt&amp;ions ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Optionen ...</translation>
     </message>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;ild</translation>
     </message>
     <message>
         <source>Image Size ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildgröße ...</translation>
     </message>
     <message>
         <source>Canvas Size ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwandgröße ...</translation>
     </message>
     <message>
         <source>Orientation ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung ...</translation>
     </message>
     <message>
         <source>Rotate ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen ...</translation>
     </message>
     <message>
         <source>Restore Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original wiederherstellen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Original Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>&amp;Quality Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe in hoher &amp;Qualität</translation>
     </message>
     <message>
         <source>2 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>2-mal größer</translation>
     </message>
     <message>
         <source>3 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>3-mal größer</translation>
     </message>
     <message>
         <source>4 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>4-mal größer</translation>
     </message>
     <message>
         <source>5 x larger</source>
-        <translation type="unfinished"></translation>
+        <translation>5-mal größer</translation>
     </message>
     <message>
         <source>2 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>2-mal kleiner</translation>
     </message>
     <message>
         <source>3 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>3-mal kleiner</translation>
     </message>
     <message>
         <source>4 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>4-mal kleiner</translation>
     </message>
     <message>
         <source>5 x smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>5-mal kleiner</translation>
     </message>
     <message>
         <source>Quick Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell drehen</translation>
     </message>
     <message>
         <source>Quality Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>In hoher Qualität drehen</translation>
     </message>
     <message>
         <source>Flip &amp;Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Flip &amp;Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertikal spiegeln</translation>
     </message>
     <message>
         <source>&amp;Properties ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigenschaften ...</translation>
     </message>
     <message>
         <source>&amp;Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farben</translation>
     </message>
     <message>
         <source>Tweak RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB anpassen</translation>
     </message>
     <message>
         <source>Old Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Altes Foto</translation>
     </message>
     <message>
         <source>Colorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfärben</translation>
     </message>
     <message>
         <source>Sketch</source>
-        <translation type="unfinished"></translation>
+        <translation>Skizze</translation>
     </message>
     <message>
         <source>Isolate</source>
-        <translation type="unfinished"></translation>
+        <translation>Isolieren</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
     <message>
         <source>Sepia Tone</source>
-        <translation type="unfinished"></translation>
+        <translation>Sepiaton</translation>
     </message>
     <message>
         <source>Hue Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton strecken</translation>
     </message>
     <message>
         <source>Hue Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton drehen</translation>
     </message>
     <message>
         <source>Grey Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Grau drehen</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Hue &amp;&amp; Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton &amp;&amp; Sättigung</translation>
     </message>
     <message>
         <source>Luminous</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Swap</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertauschen</translation>
     </message>
     <message>
         <source>RGB To BRG</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB zu BRG</translation>
     </message>
     <message>
         <source>RGB To GBR</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB zu GBR</translation>
     </message>
     <message>
         <source>RGB To RBG</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB zu RBG</translation>
     </message>
     <message>
         <source>RGB To BGR</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB zu BGR</translation>
     </message>
     <message>
         <source>RGB To GRB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB zu GRB</translation>
     </message>
     <message>
         <source>RGB Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB-Kanäle</translation>
     </message>
     <message>
         <source>Add Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe geben</translation>
     </message>
     <message>
         <source>Soft Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Zartes Rot</translation>
     </message>
     <message>
         <source>Hard Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftiges Rot</translation>
     </message>
     <message>
         <source>Soft Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Zartes Grün</translation>
     </message>
     <message>
         <source>Hard Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftiges Grün</translation>
     </message>
     <message>
         <source>Soft Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Zartes Blau</translation>
     </message>
     <message>
         <source>Hard Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftiges Blau</translation>
     </message>
     <message>
         <source>Soft Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Zartes Gelb</translation>
     </message>
     <message>
         <source>Hard Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Kräftiges Gelb</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Violett</translation>
     </message>
     <message>
         <source>Retro</source>
-        <translation type="unfinished"></translation>
+        <translation>Retro</translation>
     </message>
     <message>
         <source>Spotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefleckt</translation>
     </message>
     <message>
         <source>Wet Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Nasses Papier</translation>
     </message>
     <message>
         <source>Fi&amp;lters</source>
-        <translation type="unfinished"></translation>
+        <translation>Fi&amp;lter</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertieren</translation>
     </message>
     <message>
         <source>Greyscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Relief</source>
-        <translation type="unfinished"></translation>
+        <translation>Relief</translation>
     </message>
     <message>
         <source>Erode</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtragen</translation>
     </message>
     <message>
         <source>Dilate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdehnen</translation>
     </message>
     <message>
         <source>Painting</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemälde</translation>
     </message>
     <message>
         <source>Edge Enhance</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanten verstärken</translation>
     </message>
     <message>
         <source>Luminousity</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Leicht</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Stark</translation>
     </message>
     <message>
         <source>Custom ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert ...</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Prägen</translation>
     </message>
     <message>
         <source>Contour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Diffuse</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuen</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravieren</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmildern</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfen</translation>
     </message>
     <message>
         <source>Blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnen</translation>
     </message>
     <message>
         <source>Noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Gitter</translation>
     </message>
     <message>
         <source>Flare</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtschein</translation>
     </message>
     <message>
         <source>Scanlines</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildzeilen</translation>
     </message>
     <message>
         <source>Effect&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Effekte</translation>
     </message>
     <message>
         <source>Haftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbton</translation>
     </message>
     <message>
         <source>Pixelize</source>
-        <translation type="unfinished"></translation>
+        <translation>Verpixeln</translation>
     </message>
     <message>
         <source>Mosaic</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaik</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Gamma Correction</source>
-        <translation type="unfinished"></translation>
+        <translation>Gammakorrektur</translation>
     </message>
     <message>
         <source>Thermique</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärmebild</translation>
     </message>
     <message>
         <source>X-Black</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Schwarz</translation>
     </message>
     <message>
         <source>Photo Cop</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotokopie</translation>
     </message>
     <message>
         <source>Shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Formen</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Linse</translation>
     </message>
     <message>
         <source>Waves</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellen</translation>
     </message>
     <message>
         <source>Bend</source>
-        <translation type="unfinished"></translation>
+        <translation>Biegen</translation>
     </message>
     <message>
         <source>Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>Falten</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecken</translation>
     </message>
     <message>
         <source>Tile</source>
-        <translation type="unfinished"></translation>
+        <translation>Kacheln</translation>
     </message>
     <message>
         <source>Twirl</source>
-        <translation type="unfinished"></translation>
+        <translation>Strudel</translation>
     </message>
     <message>
         <source>Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Glas</translation>
     </message>
     <message>
         <source>Slanting</source>
-        <translation type="unfinished"></translation>
+        <translation>Schräg</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht</translation>
     </message>
     <message>
         <source>Squary</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadratisch</translation>
     </message>
     <message>
         <source>Curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorhang</translation>
     </message>
     <message>
         <source>Classy</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassisch</translation>
     </message>
     <message>
         <source>Whity</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißlich</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Werkzeuge</translation>
     </message>
     <message>
         <source>Image Merging ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder verschmelzen ...</translation>
     </message>
     <message>
         <source>Screen Capture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmaufnahme ...</translation>
     </message>
     <message>
         <source>Image Textures ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildtexturen ...</translation>
     </message>
     <message>
         <source>Image Resolution ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildauflösung ...</translation>
     </message>
     <message>
         <source>Color Depth ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe ...</translation>
     </message>
     <message>
         <source>Save for Web ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das Web speichern ...</translation>
     </message>
     <message>
         <source>Text Tools ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Textwerkzeuge ...</translation>
     </message>
     <message>
         <source>Icon Extractor ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole entnehmen ...</translation>
     </message>
     <message>
         <source>File Associations ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateizuordnungen ...</translation>
     </message>
     <message>
         <source>Quick Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellaufnahme</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibtisch</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Vordergrund</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Set as Wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Hintergrundbild</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Zentrieren</translation>
     </message>
     <message>
         <source>&amp;Views</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>Tile Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Untereinander</translation>
     </message>
     <message>
         <source>Tile Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebeneinander</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlappend</translation>
     </message>
     <message>
         <source>New View</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Ansicht</translation>
     </message>
     <message>
         <source>Color Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbfenster</translation>
     </message>
     <message>
         <source>Textures Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturfenster</translation>
     </message>
     <message>
         <source>Clipboard Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablagefenster</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Status Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Statusleiste</translation>
     </message>
     <message>
         <source>Side Tools  Bar : Hide n Seek</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste  an der Seite : Versteckspiel</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>Toolbars</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolleisten</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Utilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienstprogramme</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Store Toolbar Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung der Symbolleisten merken</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Help ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe ...</translation>
     </message>
     <message>
         <source>&amp;Find a Command ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Befehl suchen ...</translation>
     </message>
     <message>
         <source>&amp;About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Über &amp;Velara Studio</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Glass: Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Glas: Waagerecht</translation>
     </message>
     <message>
         <source>Luminousity: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit: Leicht</translation>
     </message>
     <message>
         <source>Luminousity: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit: Stark</translation>
     </message>
     <message>
         <source>Blur: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnen: Leicht</translation>
     </message>
     <message>
         <source>Emboss: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Prägen: Leicht</translation>
     </message>
     <message>
         <source>Contour: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur: Leicht</translation>
     </message>
     <message>
         <source>Diffuse: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuen: Leicht</translation>
     </message>
     <message>
         <source>Engrave: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravieren: Leicht</translation>
     </message>
     <message>
         <source>Soften: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmildern: Stark</translation>
     </message>
     <message>
         <source>Noise: Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Rauschen: Leicht</translation>
     </message>
     <message>
         <source>Saturation: Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung: Stark</translation>
     </message>
     <message>
         <source>Original size</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalgröße</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Quick rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell drehen</translation>
     </message>
     <message>
         <source>Quality rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>In hoher Qualität drehen</translation>
     </message>
     <message>
         <source>Quality size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe in hoher Qualität</translation>
     </message>
     <message>
         <source>Save for web</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das Web speichern</translation>
     </message>
     <message>
         <source>Screen capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmaufnahme</translation>
     </message>
     <message>
         <source>Image resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildauflösung</translation>
     </message>
     <message>
         <source>Image merging</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder verschmelzen</translation>
     </message>
     <message>
         <source>Image textures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildtexturen</translation>
     </message>
     <message>
         <source>Color depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe</translation>
     </message>
     <message>
         <source>Text tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Textwerkzeuge</translation>
     </message>
     <message>
         <source>Icon extractor</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole entnehmen</translation>
     </message>
     <message>
         <source>Quick capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellaufnahme</translation>
     </message>
     <message>
         <source>Set as wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Hintergrundbild</translation>
     </message>
     <message>
         <source>About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Velara Studio</translation>
     </message>
     <message>
         <source>Scroll with the hand (H)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der Hand verschieben (H)</translation>
     </message>
     <message>
         <source>Zoom in (Ctrl++)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern (Strg++)</translation>
     </message>
     <message>
         <source>Zoom out (Ctrl+-)</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern (Strg+-)</translation>
     </message>
     <message>
         <source>Pictures that were not saved when the program ended</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder, die beim Ende des Programms nicht gespeichert waren</translation>
     </message>
     <message>
         <source>The next page or frame of the file, in a window of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nächste Seite der Datei oder das nächste Einzelbild, in einem eigenen Fenster</translation>
     </message>
     <message>
         <source>The page or frame of the file before this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Die vorherige Seite der Datei oder das vorherige Einzelbild</translation>
     </message>
     <message>
         <source>What was done to this picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Was mit diesem Bild gemacht wurde</translation>
     </message>
     <message>
         <source>Writes every changed picture to its own file</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt jedes geänderte Bild in seine eigene Datei</translation>
     </message>
     <message>
         <source>Does the steps of a recipe to this picture, as one</source>
-        <translation type="unfinished"></translation>
+        <translation>Führt die Schritte eines Rezepts an diesem Bild aus, als einen einzigen</translation>
     </message>
     <message>
         <source>Keeps what was done to this picture, to do it to others</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt auf, was mit diesem Bild gemacht wurde, um es auf andere anzuwenden</translation>
     </message>
     <message>
         <source>Does a recipe to many pictures, beside the editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Wendet ein Rezept auf viele Bilder an, neben dem Programm her</translation>
     </message>
     <message>
         <source>Mixes each pixel from those one pixel away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischt jedes Pixel mit denen im Abstand von einem Pixel: zu wenig, um etwas unkenntlich zu machen</translation>
     </message>
     <message>
         <source>Mixes each pixel from those two pixels away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischt jedes Pixel mit denen im Abstand von zwei Pixeln: zu wenig, um etwas unkenntlich zu machen</translation>
     </message>
     <message>
         <source>Mixes each pixel from those up to two pixels away: too little to hide anything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischt jedes Pixel mit denen im Abstand bis zu zwei Pixeln: zu wenig, um etwas unkenntlich zu machen</translation>
     </message>
     <message>
         <source>Squares of one colour: hides a face or a number plate</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfarbige Quadrate: macht ein Gesicht oder Kennzeichen unkenntlich</translation>
     </message>
 </context>
 <context>
     <name>Properties</name>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Linse</translation>
     </message>
     <message>
         <source>Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>Belichtung</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>nothing was cut or copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts ausgeschnitten oder kopiert</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>What is pasted is larger than the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was eingefügt wird, ist größer als das Bild.</translation>
     </message>
     <message>
         <source>&amp;Enlarge the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;vergrößern</translation>
     </message>
     <message>
         <source>&amp;Keep its size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe &amp;beibehalten</translation>
     </message>
     <message>
         <source>The screen gave no picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildschirm lieferte kein Bild.</translation>
     </message>
     <message>
         <source>%1 x %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 mm</translation>
     </message>
     <message numerus="yes">
         <source>
 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>
+und %n weitere</numerusform>
+            <numerusform>
+und %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -2223,1494 +2225,1489 @@ and %n more</source>
     <name>ReadingBox</name>
     <message>
         <source>Reading %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen ...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>Reasons</name>
     <message>
         <source>%1 can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht lesbar: %2</translation>
     </message>
     <message>
         <source>it is damaged or not %1 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder kein Bild der Art %1</translation>
     </message>
     <message>
         <source>it is damaged, and its reader gave up</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt, und das Lesen wurde aufgegeben</translation>
     </message>
     <message>
         <source>it is damaged, and its reader wanted what no picture needs</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt, und das Lesen verlangte, was kein Bild braucht</translation>
     </message>
     <message>
         <source>it is damaged: it has hardly any bytes for its %1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt: Sie hat kaum Bytes für ihre %1 x %2 Pixel</translation>
     </message>
     <message>
         <source>it is damaged: some of its pixels are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt: Ein Teil ihrer Pixel fehlt</translation>
     </message>
     <message>
         <source>it is cut off: its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist abgeschnitten: Ihr Ende fehlt</translation>
     </message>
     <message>
         <source>it is wider or higher than 32767 pixels, or has more than 268 million pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist breiter oder höher als 32767 Pixel oder hat mehr als 268 Millionen Pixel</translation>
     </message>
     <message>
         <source>it needs more memory than reading a picture may take</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild braucht mehr Speicher, als zum Lesen eines Bildes erlaubt ist</translation>
     </message>
     <message>
         <source>it is empty or can&apos;t be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer oder lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>it has more than two gigabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat mehr als zwei Gigabyte</translation>
     </message>
     <message>
         <source>its name has no extension to tell what it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Name hat keine Endung, an der zu erkennen wäre, was sie ist</translation>
     </message>
     <message>
         <source>there is no reader for .%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien mit der Endung .%1 werden nicht gelesen</translation>
     </message>
     <message>
         <source>its reader could not be locked in (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Leseprogramm ließ sich nicht einsperren (%1)</translation>
     </message>
     <message>
         <source>velara-decode-all, which reads %1 picture, can&apos;t be started</source>
-        <translation type="unfinished"></translation>
+        <translation>velara-decode-all, das Bilder der Art %1 liest, lässt sich nicht starten</translation>
     </message>
     <message>
         <source>this build lacks the library that reads %1 picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ausgabe des Programms fehlt die Bibliothek, die Bilder der Art %1 liest</translation>
     </message>
     <message>
         <source>the library that reads HEIF and AVIF pictures (libheif) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bibliothek, die HEIF- und AVIF-Bilder liest (libheif), fehlt</translation>
     </message>
     <message>
         <source>the library that reads JPEG XL pictures (libjxl) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bibliothek, die JPEG-XL-Bilder liest (libjxl), fehlt</translation>
     </message>
     <message>
         <source>the fonts that metafiles are drawn with are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schriften zum Zeichnen von Metadateien fehlen</translation>
     </message>
     <message>
         <source>it has only %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat nur %1 Seiten</translation>
     </message>
     <message>
         <source>it has only one page</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat nur eine Seite</translation>
     </message>
     <message>
         <source>reading it was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen</translation>
     </message>
     <message>
         <source>reading it took too long and was stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen dauerte zu lange und wurde beendet</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) gave a false answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm, das Bilder liest (velara-decode), gab eine falsche Antwort</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) can&apos;t be started</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm, das Bilder liest (velara-decode), lässt sich nicht starten</translation>
     </message>
     <message>
         <source>the program that reads pictures (velara-decode) was not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm, das Bilder liest (velara-decode), wurde nicht gefunden</translation>
     </message>
     <message>
         <source>a sanitizer stopped its reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Prüfung hat das Leseprogramm beendet</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht</translation>
     </message>
     <message>
         <source>there is no permission to read it</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Berechtigung zum Lesen fehlt</translation>
     </message>
     <message>
         <source>the system says &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System meldet „%1“</translation>
     </message>
     <message>
         <source>the system tells nothing about it</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System sagt nichts darüber</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not an ordinary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer</translation>
     </message>
     <message>
         <source>it has more than the %1 pixels that limits.conf allows</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat mehr als die %1 Pixel, die limits.conf erlaubt</translation>
     </message>
     <message>
         <source>limits.conf has turned .%1 files off</source>
-        <translation type="unfinished"></translation>
+        <translation>limits.conf schließt Dateien mit der Endung .%1 aus</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dafür reicht der Speicher nicht</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht</translation>
     </message>
     <message>
         <source>no room in the Temp folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner Temp ist kein Platz</translation>
     </message>
     <message>
         <source>the Temp folder can&apos;t be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Ordner Temp lässt sich nicht schreiben</translation>
     </message>
     <message>
         <source>Overflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlauf</translation>
     </message>
     <message>
         <source>Division by zero</source>
-        <translation type="unfinished"></translation>
+        <translation>Division durch null</translation>
     </message>
     <message>
         <source>Subscript out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Index außerhalb des Bereichs</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ausgewählt</translation>
     </message>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestgröße: 2 x 2</translation>
     </message>
     <message>
         <source>Internal Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Interner Fehler</translation>
     </message>
     <message>
         <source>There was an error while saving! Please Restart Velara&apos;s Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern ist ein Fehler aufgetreten! Bitte starten Sie Velara Studio neu</translation>
     </message>
     <message>
         <source>Collection of ASCII based bitmap</source>
-        <translation type="unfinished"></translation>
+        <translation>Sammlung von Bitmaps in ASCII</translation>
     </message>
     <message>
         <source>A WebP picture has at most 16383 pixels a side.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein WebP-Bild hat höchstens 16383 Pixel je Seite.</translation>
     </message>
     <message>
         <source>This facility is currently turned Off!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Funktion ist zurzeit abgeschaltet!</translation>
     </message>
     <message>
         <source>I don&apos;t know how to put a DIB on the clipboard! Copy as bitmap instead!!!</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein DIB lässt sich nicht in die Zwischenablage legen! Kopieren Sie es stattdessen als Bitmap!!!</translation>
     </message>
     <message>
         <source>the page can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite ist nicht lesbar</translation>
     </message>
     <message>
         <source>the page can&apos;t be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite lässt sich nicht schreiben</translation>
     </message>
     <message>
         <source>the file can&apos;t be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht schreiben</translation>
     </message>
     <message>
         <source>the print server does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver antwortet nicht</translation>
     </message>
     <message>
         <source>there is no print server</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Druckserver</translation>
     </message>
     <message>
         <source>there is no printer %1 any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Drucker %1 gibt es nicht mehr</translation>
     </message>
     <message>
         <source>the print server has not taken the page</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver hat die Seite nicht angenommen</translation>
     </message>
     <message>
         <source>%1 refused the page</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat die Seite abgelehnt</translation>
     </message>
     <message>
         <source>The printer %1 is paused. The page waits in its queue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker %1 ist angehalten. Die Seite wartet in seiner Warteschlange.</translation>
     </message>
     <message>
         <source>The page is held in the queue of the printer %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite wird in der Warteschlange des Druckers %1 zurückgehalten.</translation>
     </message>
     <message>
         <source>The picture of the screen is all black.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild des Bildschirms ist ganz schwarz.</translation>
     </message>
     <message>
         <source>a profile that can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ein nicht lesbares Profil</translation>
     </message>
     <message>
         <source>%1 bits a pixel in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bit je Pixel in der Datei</translation>
     </message>
     <message>
         <source>%1 x %2 dots per inch</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Punkte je Zoll</translation>
     </message>
     <message>
         <source>it is too large for a recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist zu groß für ein Rezept</translation>
     </message>
     <message>
         <source>a recipe begins with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rezept beginnt mit „%1“</translation>
     </message>
     <message>
         <source>the recipe is of version %1, and this program knows those up to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Rezept hat die Version %1, und dieses Programm kennt sie bis %2</translation>
     </message>
     <message>
         <source>%1 is no step; of the options only %2 SHAPE is</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Schritt; von den Optionen ist es nur %2 SHAPE</translation>
     </message>
     <message>
         <source>%1 is a command word and takes no arguments</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Befehlswort und nimmt keine Argumente</translation>
     </message>
     <message>
         <source>the closing bracket is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die schließende Klammer fehlt</translation>
     </message>
     <message>
         <source>there is no pixel in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Es enthält kein Pixel</translation>
     </message>
     <message>
         <source>PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Configuration data file is corrupted<byte value="xd"/>
-Values will be initilized</source>
-        <translation type="unfinished"></translation>
+        <translation>PBM, PGM und PPM: Hat die Bitmap eine Farbtiefe von 1 Bit, wird sie als PBM-Datei gespeichert, bei 8 Bit als PGM-Datei und bei 24 Bit als PPM-Datei. Andere Farbtiefen werden nicht unterstützt. Die gewünschte Datei wird mit 24 Bit Echtfarben (.ppm) gespeichert.</translation>
     </message>
     <message>
         <source>it needs %1 of memory, more than half of the %2 that are free</source>
-        <translation type="unfinished"></translation>
+        <translation>Es braucht %1 Speicher, mehr als die Hälfte der %2, die frei sind</translation>
     </message>
     <message>
         <source>the picture would have %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hätte %1</translation>
     </message>
     <message>
         <source>no pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Pixel</translation>
     </message>
     <message>
         <source>%1 x %2 pixels; a side has at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Pixel; eine Seite hat höchstens %3</translation>
     </message>
     <message>
         <source>%1 megapixels (%2 x %3 pixels); at most %4 are possible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Megapixel (%2 x %3 Pixel); möglich sind höchstens %4</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht lesbar</translation>
     </message>
 </context>
 <context>
     <name>Save for Web</name>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Windows 256</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows 256</translation>
     </message>
     <message>
         <source>GIF-2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 2 Farben</translation>
     </message>
     <message>
         <source>2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>2 Farben</translation>
     </message>
     <message>
         <source>GIF-4 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 4 Farben</translation>
     </message>
     <message>
         <source>4 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>4 Farben</translation>
     </message>
     <message>
         <source>GIF-8 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 8 Farben</translation>
     </message>
     <message>
         <source>8 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>8 Farben</translation>
     </message>
     <message>
         <source>GIF-16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 16 Farben</translation>
     </message>
     <message>
         <source>16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>16 Farben</translation>
     </message>
     <message>
         <source>GIF-32 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 32 Farben</translation>
     </message>
     <message>
         <source>32 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>32 Farben</translation>
     </message>
     <message>
         <source>GIF-64 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 64 Farben</translation>
     </message>
     <message>
         <source>64 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>64 Farben</translation>
     </message>
     <message>
         <source>GIF-128 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 128 Farben</translation>
     </message>
     <message>
         <source>128 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>128 Farben</translation>
     </message>
     <message>
         <source>GIF-256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF, 256 Farben</translation>
     </message>
     <message>
         <source>256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>256 Farben</translation>
     </message>
     <message>
         <source>BMP-2 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP, 2 Farben</translation>
     </message>
     <message>
         <source>BMP-16 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP, 16 Farben</translation>
     </message>
     <message>
         <source>BMP-256 Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP, 256 Farben</translation>
     </message>
     <message>
         <source>BMP-16 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP, 16 Bit</translation>
     </message>
     <message>
         <source>16 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>16 Bit</translation>
     </message>
     <message>
         <source>BMP-24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP, 24 Bit</translation>
     </message>
     <message>
         <source>24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>24 Bit</translation>
     </message>
     <message>
         <source>PNG-8 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 8 Bit</translation>
     </message>
     <message>
         <source>8 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>8 Bit</translation>
     </message>
     <message>
         <source>PNG-24 bit</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, 24 Bit</translation>
     </message>
     <message>
         <source>JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG</translation>
     </message>
     <message>
         <source>PCX-24 bit (Compressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX, 24 Bit (komprimiert)</translation>
     </message>
     <message>
         <source>PCX-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>PCX, 24 Bit (unkomprimiert)</translation>
     </message>
     <message>
         <source>TGA-24 bit (Compressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TGA, 24 Bit (komprimiert)</translation>
     </message>
     <message>
         <source>TGA-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TGA, 24 Bit (unkomprimiert)</translation>
     </message>
     <message>
         <source>TIFF-24 bit (Uncompressed)</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF, 24 Bit (unkomprimiert)</translation>
     </message>
     <message>
         <source>WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>WebP (Lossless)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP (verlustfrei)</translation>
     </message>
     <message>
         <source>AVIF</source>
-        <translation type="unfinished"></translation>
+        <translation>AVIF</translation>
     </message>
     <message>
         <source>JPEG XL</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG XL</translation>
     </message>
     <message>
         <source>MS Map</source>
-        <translation type="unfinished"></translation>
+        <translation>MS-Palette</translation>
     </message>
     <message>
         <source>Optimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimal</translation>
     </message>
     <message>
         <source>Fixed Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Feste Farben</translation>
     </message>
     <message>
         <source>VGA</source>
-        <translation type="unfinished"></translation>
+        <translation>VGA</translation>
     </message>
     <message>
         <source>iNet</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>MS 256</source>
-        <translation type="unfinished"></translation>
+        <translation>MS 256</translation>
     </message>
     <message>
         <source>Fixed Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Feste Graustufen</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Binary</source>
-        <translation type="unfinished"></translation>
+        <translation>Binär</translation>
     </message>
     <message>
         <source>Ordered</source>
-        <translation type="unfinished"></translation>
+        <translation>Geordnet</translation>
     </message>
     <message>
         <source>Haftone</source>
-        <translation type="unfinished"></translation>
+        <translation>Halbton</translation>
     </message>
     <message>
         <source>Forward Diag</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagonal vorwärts</translation>
     </message>
     <message>
         <source>Backward Diag</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagonal rückwärts</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungerade</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleich</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Greyscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Bad</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlecht</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Gut</translation>
     </message>
     <message>
         <source>Superb</source>
-        <translation type="unfinished"></translation>
+        <translation>Hervorragend</translation>
     </message>
 </context>
 <context>
     <name>Search words</name>
     <message>
         <source>blank empty create</source>
-        <translation type="unfinished"></translation>
+        <translation>leer anlegen erstellen</translation>
     </message>
     <message>
         <source>load import file</source>
-        <translation type="unfinished"></translation>
+        <translation>laden importieren Datei</translation>
     </message>
     <message>
         <source>scan paper</source>
-        <translation type="unfinished"></translation>
+        <translation>scannen Papier einscannen</translation>
     </message>
     <message>
         <source>screenshot whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto ganzer Bildschirm Screenshot</translation>
     </message>
     <message>
         <source>back revert mistake</source>
-        <translation type="unfinished"></translation>
+        <translation>zurück Fehler undo</translation>
     </message>
     <message>
         <source>again forward</source>
-        <translation type="unfinished"></translation>
+        <translation>erneut vorwärts redo</translation>
     </message>
     <message>
         <source>duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>duplizieren verdoppeln</translation>
     </message>
     <message>
         <source>paste as new picture</source>
-        <translation type="unfinished"></translation>
+        <translation>als neues Bild einfügen</translation>
     </message>
     <message>
         <source>resize scale percent width height pixels larger smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>skalieren Prozent Breite Höhe Pixel größer kleiner ändern</translation>
     </message>
     <message>
         <source>border margin room enlarge</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand Platz vergrößern Arbeitsfläche</translation>
     </message>
     <message>
         <source>turn portrait landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>wenden Hochformat Querformat</translation>
     </message>
     <message>
         <source>turn angle degrees straighten horizon</source>
-        <translation type="unfinished"></translation>
+        <translation>wenden Winkel Grad geraderichten Horizont</translation>
     </message>
     <message>
         <source>export rename convert format</source>
-        <translation type="unfinished"></translation>
+        <translation>exportieren umbenennen umwandeln Format</translation>
     </message>
     <message>
         <source>insert clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage</translation>
     </message>
     <message>
         <source>cut out trim margins</source>
-        <translation type="unfinished"></translation>
+        <translation>beschneiden freistellen Ränder</translation>
     </message>
     <message>
         <source>settings preferences configure</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen konfigurieren</translation>
     </message>
     <message>
         <source>overlay blend double exposure two pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>überlagern mischen Doppelbelichtung zwei Bilder</translation>
     </message>
     <message>
         <source>resize</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>export gif jpeg png small kilobytes compress quality</source>
-        <translation type="unfinished"></translation>
+        <translation>exportieren gif jpeg png klein Kilobyte komprimieren Qualität</translation>
     </message>
     <message>
         <source>palette indexed 256 16 colours reduce dither</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette indiziert 256 16 Farben verringern Dithering</translation>
     </message>
     <message>
         <source>write letters caption font</source>
-        <translation type="unfinished"></translation>
+        <translation>schreiben Buchstaben Beschriftung Schrift</translation>
     </message>
     <message>
         <source>desktop background</source>
-        <translation type="unfinished"></translation>
+        <translation>Desktop Bildschirmhintergrund</translation>
     </message>
     <message>
         <source>thumbnails folder gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubilder Ordner Galerie</translation>
     </message>
     <message>
         <source>crash unsaved restore lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Absturz ungespeichert verloren</translation>
     </message>
     <message>
         <source>screenshot window screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmfoto Fenster Screenshot</translation>
     </message>
     <message>
         <source>ico extract</source>
-        <translation type="unfinished"></translation>
+        <translation>ico Icon extrahieren</translation>
     </message>
     <message>
         <source>tiff gif animation icon</source>
-        <translation type="unfinished"></translation>
+        <translation>tiff gif Animation Symbol</translation>
     </message>
     <message>
         <source>default program double click</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardprogramm Doppelklick</translation>
     </message>
     <message>
         <source>quit close</source>
-        <translation type="unfinished"></translation>
+        <translation>verlassen schließen</translation>
     </message>
     <message>
         <source>second window</source>
-        <translation type="unfinished"></translation>
+        <translation>zweites Fenster</translation>
     </message>
     <message>
         <source>exif camera date place gps profile metadata information facts</source>
-        <translation type="unfinished"></translation>
+        <translation>exif Kamera Datum Ort gps Profil Metadaten Informationen</translation>
     </message>
     <message>
         <source>version licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Version Lizenz</translation>
     </message>
     <message>
         <source>deselect</source>
-        <translation type="unfinished"></translation>
+        <translation>abwählen</translation>
     </message>
     <message>
         <source>undo steps states back</source>
-        <translation type="unfinished"></translation>
+        <translation>rückgängig Schritte Zustände zurück</translation>
     </message>
     <message>
         <source>every open</source>
-        <translation type="unfinished"></translation>
+        <translation>jedes offene</translation>
     </message>
     <message>
         <source>macro action script batch replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro Aktion Skript Stapel wiederholen</translation>
     </message>
     <message>
         <source>macro action script batch record</source>
-        <translation type="unfinished"></translation>
+        <translation>Makro Aktion Skript Stapel aufzeichnen</translation>
     </message>
     <message>
         <source>batch many pictures macro convert all</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapel viele Bilder Makro alle umwandeln</translation>
     </message>
     <message>
         <source>keys shortcuts manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten Tastenkürzel Handbuch</translation>
     </message>
     <message>
         <source>negative</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
     <message>
         <source>black and white grey monochrome</source>
-        <translation type="unfinished"></translation>
+        <translation>schwarzweiß grau einfarbig</translation>
     </message>
     <message>
         <source>crisp focus</source>
-        <translation type="unfinished"></translation>
+        <translation>scharf Fokus</translation>
     </message>
     <message>
         <source>soft unsharp</source>
-        <translation type="unfinished"></translation>
+        <translation>weich unscharf</translation>
     </message>
     <message>
         <source>vintage brown</source>
-        <translation type="unfinished"></translation>
+        <translation>alt braun</translation>
     </message>
     <message>
         <source>vintage brown old</source>
-        <translation type="unfinished"></translation>
+        <translation>alt braun</translation>
     </message>
     <message>
         <source>mirror left right</source>
-        <translation type="unfinished"></translation>
+        <translation>links rechts</translation>
     </message>
     <message>
         <source>mirror top bottom upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>oben unten kopfüber</translation>
     </message>
     <message>
         <source>zoom 100 % actual pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom 100 % tatsächliche Pixel</translation>
     </message>
     <message>
         <source>turn right clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>rechts herum im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>turn upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>auf den Kopf stellen</translation>
     </message>
     <message>
         <source>turn left counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>links herum gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>tint hue</source>
-        <translation type="unfinished"></translation>
+        <translation>tönen Farbton</translation>
     </message>
     <message>
         <source>brightness lighter darker exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>heller dunkler Belichtung</translation>
     </message>
     <message>
         <source>lighter darker exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>heller dunkler Belichtung</translation>
     </message>
     <message>
         <source>fade dull</source>
-        <translation type="unfinished"></translation>
+        <translation>flau blass</translation>
     </message>
     <message>
         <source>hide a face censor anonymous number plate mosaic blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesicht unkenntlich zensieren anonym Kennzeichen Mosaik</translation>
     </message>
     <message>
         <source>recolour change colour</source>
-        <translation type="unfinished"></translation>
+        <translation>umfärben Farbe ändern</translation>
     </message>
     <message>
         <source>grain</source>
-        <translation type="unfinished"></translation>
+        <translation>Körnung</translation>
     </message>
 </context>
 <context>
     <name>Textures</name>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwand</translation>
     </message>
     <message>
         <source>Linen</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinen</translation>
     </message>
     <message>
         <source>Brick</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziegel</translation>
     </message>
     <message>
         <source>Stone</source>
-        <translation type="unfinished"></translation>
+        <translation>Stein</translation>
     </message>
     <message>
         <source>Sand</source>
-        <translation type="unfinished"></translation>
+        <translation>Sand</translation>
     </message>
     <message>
         <source>Wood</source>
-        <translation type="unfinished"></translation>
+        <translation>Holz</translation>
     </message>
     <message>
         <source>Weave</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewebe</translation>
     </message>
     <message>
         <source>Ripple</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellen</translation>
     </message>
     <message>
         <source>Leather</source>
-        <translation type="unfinished"></translation>
+        <translation>Leder</translation>
     </message>
     <message>
         <source>Frosted glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Milchglas</translation>
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Gitter</translation>
     </message>
 </context>
 <context>
     <name>Tools</name>
     <message>
         <source>Esc or right button: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc oder rechte Taste: verwerfen</translation>
     </message>
     <message>
         <source>Space: fix and go on · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste: festlegen und weiter · Esc: verwerfen</translation>
     </message>
     <message>
         <source>Click: lay down · Space: fix and go on · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick: ablegen · Leertaste: festlegen und weiter · Esc: verwerfen</translation>
     </message>
     <message>
         <source>Space: corner · Enter: close · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste: Ecke · Eingabe: schließen · Esc: verwerfen</translation>
     </message>
     <message>
         <source>Click: corner · Enter or double click: close · Esc: drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick: Ecke · Eingabe oder Doppelklick: schließen · Esc: verwerfen</translation>
     </message>
     <message>
         <source>Pick a color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe aufnehmen</translation>
     </message>
     <message>
         <source>Move the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl verschieben</translation>
     </message>
     <message>
         <source>What moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Was verschoben wird</translation>
     </message>
     <message>
         <source>Move Selection Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Auswahl</translation>
     </message>
     <message>
         <source>Move Content Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur den Inhalt</translation>
     </message>
     <message>
         <source>&amp;Use this intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diese Stärke nutzen</translation>
     </message>
     <message>
         <source>Instead of the selection&apos;s pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstelle der Stärke der Auswahl</translation>
     </message>
     <message>
         <source>Opaque Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Mode of selecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Auswählens</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Abziehen</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Shape of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Form der Auswahl</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Polygon/Free hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Polygon/Freihand</translation>
     </message>
     <message>
         <source>Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck</translation>
     </message>
     <message>
         <source>&amp;Move selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl &amp;verschieben</translation>
     </message>
     <message>
         <source>Move region / move pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich verschieben / Pixel verschieben</translation>
     </message>
     <message>
         <source>Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel</translation>
     </message>
     <message>
         <source>Mode of the brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Pinsels</translation>
     </message>
     <message>
         <source>Current color</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Farbe</translation>
     </message>
     <message>
         <source>Current stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Stempel</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Abdunkeln</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufhellen</translation>
     </message>
     <message>
         <source>Sharpen</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfen</translation>
     </message>
     <message>
         <source>Soften</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmildern</translation>
     </message>
     <message>
         <source>Soften (Overlay)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmildern (Überlagern)</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensität</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>What fills</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit gefüllt wird</translation>
     </message>
     <message>
         <source>Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Toleranz</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Free hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Freihand</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Quadrat</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreis</translation>
     </message>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Polygon</translation>
     </message>
     <message>
         <source>Pol. sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Pol.-Ecken</translation>
     </message>
     <message>
         <source>Airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Airbrush</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Menge</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Schärfe</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Stempel</translation>
     </message>
     <message>
         <source>&amp;Mask color :</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maskenfarbe :</translation>
     </message>
     <message>
         <source>Use mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Maskenfarbe verwenden</translation>
     </message>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Maskenfarbe</translation>
     </message>
     <message>
         <source>&amp;Stamp mask</source>
-        <translation type="unfinished"></translation>
+        <translation>Stem&amp;pelmaske</translation>
     </message>
     <message>
         <source>Current color stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Stempel in aktueller Farbe</translation>
     </message>
     <message>
         <source>&amp;Clear back</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur &amp;leeren</translation>
     </message>
     <message>
         <source>Clear stamp track</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spur des Stempels leeren</translation>
     </message>
     <message>
         <source>Gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Form of the gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Form des Verlaufs</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Linear</translation>
     </message>
     <message>
         <source>Circular</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreisförmig</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenz</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Amount %</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke %</translation>
     </message>
     <message>
         <source>Pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleistift</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
 </context>
 <context>
     <name>velara::Bars</name>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
     <message>
         <source>Not available yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht verfügbar</translation>
     </message>
     <message>
         <source> (not available yet)</source>
-        <translation type="unfinished"></translation>
+        <translation> (noch nicht verfügbar)</translation>
     </message>
 </context>
 <context>
     <name>velara::Capture</name>
     <message>
         <source>Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme</translation>
     </message>
     <message>
         <source>Waiting for the desktop&apos;s picture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird auf das Bild des Bildschirms gewartet ...</translation>
     </message>
     <message>
         <source>the screen gave no picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildschirm lieferte kein Bild</translation>
     </message>
 </context>
 <context>
     <name>velara::Documents</name>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>
     <name>velara::FEffect</name>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Show </source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen </translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Apply the effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Effekt anwenden</translation>
     </message>
 </context>
 <context>
     <name>velara::FGradient</name>
     <message>
         <source>The gradient</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Verlauf</translation>
     </message>
 </context>
 <context>
     <name>velara::FStamp</name>
     <message>
         <source>Stamp sub-Folder Not Found!</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterordner mit Stempeln nicht gefunden!</translation>
     </message>
     <message>
         <source>Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Stempel</translation>
     </message>
     <message>
         <source>Stamp files</source>
-        <translation type="unfinished"></translation>
+        <translation>Stempeldateien</translation>
     </message>
     <message>
         <source>The chosen stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gewählte Stempel</translation>
     </message>
     <message>
         <source>&lt;Stamps&gt; subfolder not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterordner &lt;Stamps&gt; nicht gefunden.</translation>
     </message>
 </context>
 <context>
     <name>velara::FWeb</name>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert</translation>
     </message>
     <message>
         <source>Original, above the optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, über dem optimierten Bild</translation>
     </message>
     <message>
         <source>Optimized, below the original</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert, unter dem Original</translation>
     </message>
     <message>
         <source>Customized Save Options </source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern mit eigenen Einstellungen </translation>
     </message>
     <message>
         <source>Files of this format have no place for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien dieses Formats haben keinen Platz dafür</translation>
     </message>
     <message>
         <source>Enter value between 1 to 99 !</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Wert von 1 bis 99 ein !</translation>
     </message>
     <message>
         <source>Please Choose a higher image format!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte wählen Sie ein höherwertiges Bildformat!</translation>
     </message>
     <message>
         <source>The current format cannot be applied to the image!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Format passt nicht zu diesem Bild!</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht schreiben%2.</translation>
     </message>
     <message>
         <source>%L1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 Byte</translation>
     </message>
     <message>
         <source>%1 % of the original file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % der Originaldatei</translation>
     </message>
     <message>
         <source>no loss</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Verlust</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>No quality makes it as small as %1 KB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit keiner Qualität wird die Datei so klein wie %1 KB.</translation>
     </message>
     <message>
         <source>No number of colors makes it as small as %1 KB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit keiner Farbenzahl wird die Datei so klein wie %1 KB.</translation>
     </message>
     <message>
         <source>Save Optimized As</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiertes Bild speichern unter</translation>
     </message>
     <message>
         <source>File format</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiformat</translation>
     </message>
     <message>
         <source>Choose a format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format wählen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format</translation>
     </message>
     <message>
         <source>&amp;All formats ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Formate ...</translation>
     </message>
     <message>
         <source>Size and loss of this picture in every format</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe und Verlust dieses Bildes in jedem Format</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette</translation>
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie im Format</translation>
     </message>
     <message>
         <source>Dither</source>
-        <translation type="unfinished"></translation>
+        <translation>Dithering</translation>
     </message>
     <message>
         <source>Color mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbmodus</translation>
     </message>
     <message>
         <source>&amp;Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Palette</translation>
     </message>
     <message>
         <source>&amp;Dither</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dithering</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modus</translation>
     </message>
     <message>
         <source>Flip &amp;horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Flip &amp;vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertikal spiegeln</translation>
     </message>
     <message>
         <source>&amp;Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertieren</translation>
     </message>
     <message>
         <source>I&amp;nterlaced</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;nterlaced</translation>
     </message>
     <message>
         <source>JPEG quality</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-Qualität</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>Custom  1 To 99</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener Wert  1 bis 99</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qualität</translation>
     </message>
     <message>
         <source>File size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateigröße</translation>
     </message>
     <message>
         <source>Fit to so many KB</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf so viele KB verkleinern</translation>
     </message>
     <message>
         <source> KB</source>
-        <translation type="unfinished"></translation>
+        <translation> KB</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen</translation>
     </message>
     <message>
         <source>Fit &amp;to</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchs&amp;tens</translation>
     </message>
     <message>
         <source>Camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>Kameradaten</translation>
     </message>
     <message>
         <source>&amp;Keep camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kameradaten behalten</translation>
     </message>
     <message>
         <source>without the pla&amp;ce</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne den &amp;Ort</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateityp</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>Exact size and loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Genaue Größe und Verlust</translation>
     </message>
     <message>
         <source>The file is being written</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wird geschrieben</translation>
     </message>
     <message numerus="yes">
         <source>%n colors</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Farbe</numerusform>
+            <numerusform>%n Farben</numerusform>
         </translation>
     </message>
 </context>
@@ -3719,203 +3716,209 @@ Values will be initilized</source>
     <message>
         <source>
 It ended before its time.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Es endete vorzeitig.</translation>
     </message>
 </context>
 <context>
     <name>velara::FrameRequests</name>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Aktion „%1“.</translation>
     </message>
     <message>
         <source> can&apos;t be read: it is no file of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation> ist nicht lesbar: Es ist keine Datei dieses Rechners</translation>
     </message>
 </context>
 <context>
     <name>velara::MaskChoice</name>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Maskenfarbe</translation>
     </message>
     <message>
         <source>What has this color becomes transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Was diese Farbe hat, wird transparent</translation>
     </message>
 </context>
 <context>
     <name>velara::PreviewPane</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>There is no permission to look into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Berechtigung zum Öffnen fehlt.</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Reading ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen ...</translation>
     </message>
     <message>
         <source>No picture is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Bild ausgewählt.</translation>
     </message>
     <message>
         <source>Not a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild.</translation>
     </message>
     <message>
         <source>%1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Pixel</translation>
     </message>
 </context>
 <context>
     <name>velara::Recipes</name>
     <message>
         <source>Recipe (*.recipe)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept (*.recipe)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Nothing was done to this picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit diesem Bild wurde noch nichts gemacht.</translation>
     </message>
     <message>
         <source>All of this was made by hand: there is nothing that could be done to another picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles wurde von Hand gemacht: Es gibt nichts, was sich auf ein anderes Bild anwenden ließe.</translation>
     </message>
     <message>
         <source>%1 of %2 steps were made by hand, and can&apos;t be done to another picture:
 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Schritten wurden von Hand gemacht und lassen sich nicht auf ein anderes Bild anwenden:
+%3</translation>
     </message>
     <message>
         <source>Recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept</translation>
     </message>
     <message>
         <source>&amp;Leave them out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weglassen</translation>
     </message>
     <message>
         <source>The command is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Befehl ist in der Zwischenablage.</translation>
     </message>
     <message>
         <source>Save recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept speichern</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert als %1</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Run recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept anwenden</translation>
     </message>
     <message>
         <source>: there is no step in it</source>
-        <translation type="unfinished"></translation>
+        <translation>: Es enthält keinen Schritt</translation>
     </message>
     <message>
         <source>The picture is as it was. The recipe %1 ended:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist unverändert. Das Rezept %1 brach ab:
+%2</translation>
     </message>
     <message>
         <source>Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholung</translation>
     </message>
     <message>
         <source>cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>abgebrochen</translation>
     </message>
     <message numerus="yes">
         <source>Run on %n pictures.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Auf %n Bild angewendet.</numerusform>
+            <numerusform>Auf %n Bilder angewendet.</numerusform>
         </translation>
     </message>
     <message>
         <source>These pictures are as they were:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Bilder sind unverändert:
+</translation>
     </message>
     <message>
         <source>No other picture is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein anderes Bild geöffnet.</translation>
     </message>
     <message>
         <source>What was done to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Was mit %1 gemacht wurde</translation>
     </message>
     <message>
         <source>Another file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Datei ...</translation>
     </message>
     <message>
         <source>Choose a recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept wählen</translation>
     </message>
     <message>
         <source>This recipe can&apos;t be run:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Rezept lässt sich nicht anwenden:
+</translation>
     </message>
 </context>
 <context>
     <name>velara::Recovery</name>
     <message>
         <source>Changed on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert am %1</translation>
     </message>
     <message>
         <source>1 step</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Schritt</translation>
     </message>
     <message>
         <source>texts that are not merged yet</source>
-        <translation type="unfinished"></translation>
+        <translation>noch nicht eingefügte Texte</translation>
     </message>
     <message>
         <source>There is nothing to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
     </message>
     <message>
         <source>Discard the unsaved changes of %1?
 They can&apos;t be recovered after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nicht gespeicherten Änderungen von %1 verwerfen?
+Sie lassen sich danach nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verwerfen</translation>
     </message>
     <message numerus="yes">
         <source>%n steps</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Schritt</numerusform>
+            <numerusform>%n Schritte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n pictures</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
         </translation>
     </message>
 </context>
@@ -3923,898 +3926,901 @@ They can&apos;t be recovered after that.</source>
     <name>velara::SaneScanner</name>
     <message>
         <source>The program velara-scan is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm velara-scan fehlt.</translation>
     </message>
     <message>
         <source>The scanner&apos;s driver has failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Treiber des Scanners ist abgestürzt.</translation>
     </message>
 </context>
 <context>
     <name>velara::SaveDialog</name>
     <message>
         <source>&quot;%1&quot; has the ending of another kind of file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat die Endung einer anderen Art von Datei.</translation>
     </message>
     <message>
         <source>Save as &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Als „%1“ speichern</translation>
     </message>
     <message>
         <source>Keep &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ beibehalten</translation>
     </message>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist schon vorhanden.
+Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>
     <name>velara::Startup</name>
     <message>
         <source>Velara Studio is already running!</source>
-        <translation type="unfinished"></translation>
+        <translation>Velara Studio läuft bereits!</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; can&apos;t be written to.
 Steps back stay in memory, as many as fit, and settings will not be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Ordner „%1“ lässt sich nicht schreiben.
+Schritte zurück bleiben im Speicher, so viele hineinpassen, und Einstellungen werden nicht aufbewahrt.</translation>
     </message>
 </context>
 <context>
     <name>velara::fAboutFacts</name>
     <message>
         <source>picture files</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddateien</translation>
     </message>
     <message>
         <source>GIF and palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF und Paletten</translation>
     </message>
     <message>
         <source>metafiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadateien</translation>
     </message>
     <message>
         <source>scanners</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanner</translation>
     </message>
     <message>
         <source>printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>vector arithmetic</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektorrechnung</translation>
     </message>
     <message>
         <source>the cage of the decoders</source>
-        <translation type="unfinished"></translation>
+        <translation>der Käfig der Leseprogramme</translation>
     </message>
     <message>
         <source>icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole</translation>
     </message>
     <message>
         <source>windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>&lt;b&gt;Velara Studio %1&lt;/b&gt;&lt;p&gt;Free software under the GNU General Public License, version 2 or later, without any warranty.&lt;/p&gt;&lt;p&gt;It stands on&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Velara Studio %1&lt;/b&gt;&lt;p&gt;Freie Software unter der GNU General Public License, Version 2 oder später, ohne jede Gewährleistung.&lt;/p&gt;&lt;p&gt;Sie beruht auf&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Version, license and libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Version, Lizenz und Bibliotheken</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
 </context>
 <context>
     <name>velara::fAcquire</name>
     <message>
         <source>Acquire</source>
-        <translation type="unfinished"></translation>
+        <translation>Einlesen</translation>
     </message>
     <message>
         <source>Select S&amp;ource ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quelle wählen ...</translation>
     </message>
     <message>
         <source>Progress of the scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des Scannens</translation>
     </message>
     <message>
         <source>&amp;Scan</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scannen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>No source</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Quelle</translation>
     </message>
     <message>
         <source>Looking for scanners ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanner werden gesucht ...</translation>
     </message>
     <message>
         <source>no scanner was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Scanner gefunden</translation>
     </message>
     <message>
         <source>Asking the scanner ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scanner wird befragt ...</translation>
     </message>
     <message>
         <source>Scanning ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird gescannt ...</translation>
     </message>
     <message>
         <source>Scanning page %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 wird gescannt ...</translation>
     </message>
     <message>
         <source>The scanner says: </source>
-        <translation type="unfinished"></translation>
+        <translation>Der Scanner meldet: </translation>
     </message>
 </context>
 <context>
     <name>velara::fAssociation</name>
     <message>
         <source>File Association</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateizuordnung</translation>
     </message>
     <message>
         <source>The picture formats that Velara Studio knows. Which program opens
 a file is chosen in the settings of your desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildformate, die Velara Studio kennt. Welches Programm eine
+Datei öffnet, wird in den Einstellungen Ihres Desktops gewählt.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formate</translation>
     </message>
 </context>
 <context>
     <name>velara::fBed</name>
     <message>
         <source>Preview of the scanner&apos;s bed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau der Auflagefläche</translation>
     </message>
 </context>
 <context>
     <name>velara::fBrowse</name>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Pictures of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder des Ordners</translation>
     </message>
     <message>
         <source>Browse For Graphic Filles</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafikdateien durchsuchen</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Persönlicher Ordner</translation>
     </message>
     <message>
         <source>Last folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Ordner</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählt</translation>
     </message>
 </context>
 <context>
     <name>velara::fCanvas</name>
     <message>
         <source>Canvas size</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwandgröße</translation>
     </message>
     <message>
         <source>Proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis</translation>
     </message>
     <message>
         <source>Defined</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben</translation>
     </message>
     <message>
         <source>Choose a step</source>
-        <translation type="unfinished"></translation>
+        <translation>Stufe wählen</translation>
     </message>
     <message>
         <source>Upper left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben</translation>
     </message>
     <message>
         <source>Upper right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts</translation>
     </message>
     <message>
         <source>Lower left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten</translation>
     </message>
     <message>
         <source>Lower right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>What is Canvas Size?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ist die Leinwandgröße?</translation>
     </message>
     <message>
         <source>The canvas is the area that the picture stands on. A larger canvas adds black room around the picture, a smaller one cuts its edges; the pixels themselves keep their size. Drag the picture, or press an arrow, to say where it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leinwand ist die Fläche, auf der das Bild liegt. Eine größere fügt schwarzen Rand hinzu, eine kleinere schneidet das Bild ab; die Pixel selbst behalten ihre Größe. Ziehen Sie das Bild oder drücken Sie einen Pfeil, um festzulegen, wo es liegt.</translation>
     </message>
 </context>
 <context>
     <name>velara::fCanvasView</name>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwand</translation>
     </message>
     <message>
         <source>Picture on the canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auf der Leinwand</translation>
     </message>
 </context>
 <context>
     <name>velara::fCapture</name>
     <message>
         <source>Capture Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm aufnehmen</translation>
     </message>
     <message>
         <source>How to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der Aufnahme</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>&amp;Capture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aufnehmen</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzerdefiniert</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>The whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ganze Bildschirm</translation>
     </message>
     <message>
         <source>A rectangle of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rechteck des Bildschirms</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibtisch</translation>
     </message>
     <message>
         <source>Desktop means the main screen where you go through before opening any windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibtisch ist der Hauptbildschirm, wie er vor dem Öffnen von Fenstern aussieht</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Vordergrund</translation>
     </message>
     <message>
         <source>Foreground means the Current window you are working with i.e, The Velara&apos;s Studio Environment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vordergrund ist das Fenster, in dem Sie gerade arbeiten, also Velara Studio selbst.</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Background means any windows behind the current active window including your Desktop. Desktop is the background if there is no other visible windows behind Velara&apos;s Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund sind alle Fenster hinter dem aktiven Fenster samt Ihrem Schreibtisch. Ohne andere sichtbare Fenster hinter Velara Studio ist der Schreibtisch der Hintergrund</translation>
     </message>
     <message>
         <source>What to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aufgenommen wird</translation>
     </message>
     <message numerus="yes">
         <source>%n seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Sekunde</numerusform>
+            <numerusform>%n Sekunden</numerusform>
         </translation>
     </message>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verzögerung</translation>
     </message>
     <message>
         <source>With the &amp;pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;Mauszeiger</translation>
     </message>
 </context>
 <context>
     <name>velara::fCaptureRectangle</name>
     <message>
         <source>Capture Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteck aufnehmen</translation>
     </message>
     <message>
         <source>Drag a rectangle; Esc leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie ein Rechteck auf; Esc beendet</translation>
     </message>
     <message>
         <source>Drag a rectangle; with Shift it stays, with grips</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie ein Rechteck auf; mit Umschalt bleibt es stehen, mit Griffen</translation>
     </message>
     <message>
         <source>Enter: all, or the rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe: alles oder das Rechteck</translation>
     </message>
     <message>
         <source>Esc: leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc: beenden</translation>
     </message>
     <message>
         <source>W: the window below the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>W: das Fenster unter dem Zeiger</translation>
     </message>
 </context>
 <context>
     <name>velara::fCellGrid</name>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Cell %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelle %1: %2</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>leer</translation>
     </message>
 </context>
 <context>
     <name>velara::fColorButton</name>
     <message>
         <source>Red %1, green %2, blue %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot %1, Grün %2, Blau %3</translation>
     </message>
 </context>
 <context>
     <name>velara::fColorDepth</name>
     <message>
         <source>2 Colors (1 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 Farben (1 Bit)</translation>
     </message>
     <message>
         <source>16 Colors (4 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>16 Farben (4 Bit)</translation>
     </message>
     <message>
         <source>256 Colors (8 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>256 Farben (8 Bit)</translation>
     </message>
     <message>
         <source>(15 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>(15 Bit)</translation>
     </message>
     <message>
         <source>(16 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>(16 Bit)</translation>
     </message>
     <message>
         <source>32,000 Colors (24 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>32.000 Farben (24 Bit)</translation>
     </message>
     <message>
         <source>64,000 Colors (24 Bit)</source>
-        <translation type="unfinished"></translation>
+        <translation>64.000 Farben (24 Bit)</translation>
     </message>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Optimized</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert</translation>
     </message>
     <message>
         <source>Image Color Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe des Bildes</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Select an option</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Color depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Full size</source>
-        <translation type="unfinished"></translation>
+        <translation>Volle Größe</translation>
     </message>
     <message>
         <source>1/%1 of the size</source>
-        <translation type="unfinished"></translation>
+        <translation>1/%1 der Größe</translation>
     </message>
     <message>
         <source>Optimized to</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert auf</translation>
     </message>
     <message>
         <source>Send the Optimized Image to </source>
-        <translation type="unfinished"></translation>
+        <translation>Das optimierte Bild senden an </translation>
     </message>
     <message>
         <source>Optimized Saver </source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiert speichern </translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Zoom: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fColourCell</name>
     <message>
         <source>Red %1, green %2, blue %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot %1, Grün %2, Blau %3</translation>
     </message>
 </context>
 <context>
     <name>velara::fDisplay</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>%1, %2: red %3, green %4, blue %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: Rot %3, Grün %4, Blau %5</translation>
     </message>
 </context>
 <context>
     <name>velara::fEffectsPage</name>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Apply the effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Effekt anwenden</translation>
     </message>
     <message>
         <source>Apply the file as a texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei als Textur anwenden</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>%1: a double click applies it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Ein Doppelklick wendet ihn an</translation>
     </message>
     <message>
         <source>Effects, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte, auf und ab</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>A&amp;mount</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stärke</translation>
     </message>
     <message>
         <source>Texture files</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturdateien</translation>
     </message>
     <message>
         <source>Fol&amp;der...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner...</translation>
     </message>
     <message>
         <source>Choose the folder of the texture files</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner mit Texturdateien wählen</translation>
     </message>
     <message>
         <source>No texture files in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Texturdateien in %1</translation>
     </message>
     <message>
         <source>Texture files of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturdateien aus %1</translation>
     </message>
     <message>
         <source>There is no picture open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Bild geöffnet.</translation>
     </message>
     <message>
         <source>Texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Textur</translation>
     </message>
     <message>
         <source>%1 can&apos;t be used as a texture: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist als Textur nicht brauchbar: %2</translation>
     </message>
 </context>
 <context>
     <name>velara::fFilter</name>
     <message>
         <source>Working. Esc ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird gerechnet. Esc bricht ab.</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach</translation>
     </message>
     <message>
         <source>%1 color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe %1</translation>
     </message>
     <message>
         <source>Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle</translation>
     </message>
     <message>
         <source>%1 comes from</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kommt aus</translation>
     </message>
     <message>
         <source>%1 comes from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kommt aus %2</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertieren</translation>
     </message>
     <message>
         <source>Invert %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 invertieren</translation>
     </message>
     <message>
         <source>Kill</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Kill %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 löschen</translation>
     </message>
     <message>
         <source>Glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Glas</translation>
     </message>
     <message>
         <source>%1 glass</source>
-        <translation type="unfinished"></translation>
+        <translation>Glas: %1</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>Curtain Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorhangeffekte</translation>
     </message>
     <message>
         <source>%1 curtain</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorhang: %1</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>Real Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort anwenden</translation>
     </message>
     <message>
         <source>Runs the filter on the picture and closes</source>
-        <translation type="unfinished"></translation>
+        <translation>Wendet den Filter auf das Bild an und schließt</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Before: click to place the center</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher: Klick setzt die Mitte</translation>
     </message>
     <message>
         <source>Before: click to pick a color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher: Klick nimmt eine Farbe auf</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
     <message>
         <source>After, pixel for pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher, Pixel für Pixel</translation>
     </message>
     <message>
         <source>Drag it, or click in a picture beside it, to see another part</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie es oder klicken Sie in eines der Bilder daneben, um einen anderen Teil zu sehen</translation>
     </message>
 </context>
 <context>
     <name>velara::fFolderRun</name>
     <message>
         <source>Run on a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf einen Ordner anwenden</translation>
     </message>
     <message>
         <source>Add a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild hinzufügen</translation>
     </message>
     <message>
         <source>Add a folder of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Bildern hinzufügen</translation>
     </message>
     <message>
         <source>-done</source>
-        <translation type="unfinished"></translation>
+        <translation>-fertig</translation>
     </message>
     <message>
         <source>Where the new files go</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin die neuen Dateien kommen</translation>
     </message>
     <message>
         <source>Go &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message>
         <source>Pau&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>Pau&amp;se</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Every original is replaced by its result. They can&apos;t be brought back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Original wird durch sein Ergebnis ersetzt. Die Originale lassen sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>&amp;Replace the originals</source>
-        <translation type="unfinished"></translation>
+        <translation>Originale &amp;ersetzen</translation>
     </message>
     <message>
         <source>%1 of about %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von etwa %2</translation>
     </message>
     <message>
         <source>%1 done</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fertig</translation>
     </message>
     <message>
         <source>%1 skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 übersprungen</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlgeschlagen</translation>
     </message>
     <message>
         <source>%1 a minute</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je Minute</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch %1</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation>angehalten</translation>
     </message>
     <message>
         <source>%1 can&apos;t be started: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht starten: %2</translation>
     </message>
     <message>
         <source>Log: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll: %1</translation>
     </message>
     <message>
         <source>It is still at work.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird noch gearbeitet.</translation>
     </message>
     <message>
         <source>&amp;Stop it and close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen und schließen</translation>
     </message>
     <message>
         <source>Leave it, and skip the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten und das Bild überspringen</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Add a number to the new name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem neuen Namen eine Nummer geben</translation>
     </message>
     <message>
         <source>Replace it if it is older than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen, wenn sie älter ist als das Bild</translation>
     </message>
     <message>
         <source>Recipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept</translation>
     </message>
     <message>
         <source>R&amp;ecipe</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;ezept</translation>
     </message>
     <message>
         <source>Pictures and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder und Ordner</translation>
     </message>
     <message>
         <source>with the folders &amp;below</source>
-        <translation type="unfinished"></translation>
+        <translation>mit &amp;Unterordnern</translation>
     </message>
     <message>
         <source>With the folders below</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Unterordnern</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfe&amp;rnen</translation>
     </message>
     <message>
         <source>Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Liste entfernen</translation>
     </message>
     <message>
         <source>&amp;Picture ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bild ...</translation>
     </message>
     <message>
         <source>&amp;Folder ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner ...</translation>
     </message>
     <message>
         <source>Add a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Pict&amp;ures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bil&amp;der</translation>
     </message>
     <message>
         <source>Target folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielordner</translation>
     </message>
     <message>
         <source>F&amp;older ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ord&amp;ner ...</translation>
     </message>
     <message>
         <source>Choose the target folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielordner wählen</translation>
     </message>
     <message>
         <source>o&amp;ver the originals, which are lost</source>
-        <translation type="unfinished"></translation>
+        <translation>über die Ori&amp;ginale, die dabei verloren gehen</translation>
     </message>
     <message>
         <source>Over the originals, which are lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Über die Originale, die dabei verloren gehen</translation>
     </message>
     <message>
         <source>Names of the new files</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen der neuen Dateien</translation>
     </message>
     <message>
         <source>{name}  the picture&apos;s own name
@@ -4822,533 +4828,540 @@ a file is chosen in the settings of your desktop.</source>
 {n:04}  its number, with four digits
 {dir}  its folder below the one that was chosen
 Such as {name}-web.{ext}</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}  der Name des Bildes
+{ext}  die Endung seines Formats
+{n:04}  seine Nummer, vierstellig
+{dir}  sein Ordner unterhalb des gewählten
+Zum Beispiel {name}-web.{ext}</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Each as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes wie es ist</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität</translation>
     </message>
     <message>
         <source>Where a file has the name already</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn eine Datei schon so heißt</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qualität</translation>
     </message>
     <message>
         <source>&amp;Target</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ziel</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;amen</translation>
     </message>
     <message>
         <source>Form&amp;at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format</translation>
     </message>
     <message>
         <source>E&amp;xisting file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorhandene Datei</translation>
     </message>
     <message>
         <source>Pictures done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertige Bilder</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>Pictures that failed; Enter or a double click opens one</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagene Bilder; Eingabe oder ein Doppelklick öffnet eines</translation>
     </message>
     <message>
         <source>A double click opens the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Doppelklick öffnet das Bild</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tarten</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Cancel or close</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen oder schließen</translation>
     </message>
     <message>
         <source>Pictures that fa&amp;iled</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagene B&amp;ilder</translation>
     </message>
 </context>
 <context>
     <name>velara::fGeometry</name>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestgröße: 2 x 2</translation>
     </message>
     <message>
         <source>Maximum size: 256 megapixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstgröße: 256 Megapixel</translation>
     </message>
 </context>
 <context>
     <name>velara::fHelp</name>
     <message>
         <source>What to do, and the keys for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu tun ist und die Tasten dafür</translation>
     </message>
     <message>
         <source>Move the picture in its window</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild in seinem Fenster verschieben</translation>
     </message>
     <message>
         <source>Middle button, or the hand (H)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Taste oder die Hand (H)</translation>
     </message>
     <message>
         <source>Scroll up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf und ab rollen</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Rad</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitwärts rollen</translation>
     </message>
     <message>
         <source>Shift + wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt + Rad</translation>
     </message>
     <message>
         <source>Zoom about the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Um den Zeiger herum vergrößern</translation>
     </message>
     <message>
         <source>Ctrl + wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg + Rad</translation>
     </message>
     <message>
         <source>Drop what is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen, was gerade entsteht</translation>
     </message>
     <message>
         <source>Esc, or the right button</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc oder die rechte Taste</translation>
     </message>
     <message>
         <source>Draw without a mouse: move a crosshair by a pixel, or ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Maus zeichnen: ein Fadenkreuz um ein Pixel bewegen, oder um zehn</translation>
     </message>
     <message>
         <source>Arrow keys, with Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeiltasten, mit Umschalt</translation>
     </message>
     <message>
         <source>Press at the crosshair, and release</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Fadenkreuz drücken und loslassen</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>Fix a text, a paste or moved pixels, and go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Text, Eingefügtes oder verschobene Pixel festlegen und weitermachen</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Leertaste</translation>
     </message>
     <message>
         <source>Corner of a polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecke eines Polygons</translation>
     </message>
     <message>
         <source>Click, or Space while dragging</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick, oder Leertaste beim Ziehen</translation>
     </message>
     <message>
         <source>Close a polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Polygon schließen</translation>
     </message>
     <message>
         <source>Enter, or a double click</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe oder ein Doppelklick</translation>
     </message>
     <message>
         <source>To the tools and their settings, and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu den Werkzeugen und ihren Einstellungen und zurück</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>What to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu tun ist</translation>
     </message>
     <message>
         <source>Mouse and keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Maus und Tasten</translation>
     </message>
     <message>
         <source>On a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf einem Bild</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Menüs</translation>
     </message>
 </context>
 <context>
     <name>velara::fHexBox</name>
     <message>
         <source>Color code</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbcode</translation>
     </message>
     <message>
         <source>#rrggbb, #rgb or a name such as teal; Enter takes it</source>
-        <translation type="unfinished"></translation>
+        <translation>#rrggbb, #rgb oder ein englischer Name wie teal; Eingabe übernimmt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no color. Enter it as #rrggbb, as #rgb or by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Farbe. Geben Sie sie als #rrggbb, als #rgb oder mit ihrem englischen Namen ein.</translation>
     </message>
 </context>
 <context>
     <name>velara::fHistory</name>
     <message>
         <source>Steps, oldest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte, der älteste zuerst</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>At the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Anfang</translation>
     </message>
     <message>
         <source>A change</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Änderung</translation>
     </message>
     <message>
         <source>painted by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>von Hand gemalt</translation>
     </message>
     <message>
         <source>
 in a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>
+in einer Auswahl</translation>
     </message>
     <message>
         <source>
 This step is not kept any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Dieser Schritt wird nicht mehr aufbewahrt.</translation>
     </message>
     <message>
         <source>All steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Schritte</translation>
     </message>
     <message>
         <source>From this step on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab diesem Schritt</translation>
     </message>
     <message>
         <source>&amp;Copy as command</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Befehl &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;Save recipe ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rezept &amp;speichern ...</translation>
     </message>
     <message>
         <source>&amp;Run from here on the other open pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab hier auf die &amp;anderen offenen Bilder anwenden</translation>
     </message>
 </context>
 <context>
     <name>velara::fIcon</name>
     <message>
         <source>Extract Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol entnehmen</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconBar</name>
     <message>
         <source>What is in the frame, magnified</source>
-        <translation type="unfinished"></translation>
+        <translation>Was im Rahmen ist, vergrößert</translation>
     </message>
     <message>
         <source>Icon Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole ausschneiden</translation>
     </message>
     <message>
         <source>Drag the frame over the picture.
 Arrow keys move it by a pixel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie den Rahmen über das Bild.
+Pfeiltasten bewegen ihn um ein Pixel.</translation>
     </message>
     <message>
         <source>Icons taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernommene Symbole</translation>
     </message>
     <message>
         <source>Icons taken:</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernommene Symbole:</translation>
     </message>
     <message>
         <source>Size of the icon: + and -</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Symbols: + und -</translation>
     </message>
     <message>
         <source>Take</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Take the icon: Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Symbol übernehmen: Eingabe</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Back to the icon extractor: Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Entnehmen von Symbolen: Esc</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconBrowse</name>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Icon Extractor: Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole entnehmen: Ordner wählen</translation>
     </message>
     <message>
         <source>The chosen folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gewählte Ordner</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconMaker</name>
     <message>
         <source>Icon Maker</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole ausschneiden</translation>
     </message>
     <message>
         <source>Drag the frame of the icon; Enter takes, Esc closes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie den Rahmen des Symbols; Eingabe übernimmt, Esc schließt</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconPicture</name>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniert</translation>
     </message>
     <message>
         <source>16 to 256 in one &amp;file</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bis 256 in einer &amp;Datei</translation>
     </message>
     <message>
         <source>Select Required Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen wählen</translation>
     </message>
     <message>
         <source>Use &amp;Mask Color</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maskenfarbe verwenden</translation>
     </message>
     <message>
         <source>Icon Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbolvorschau</translation>
     </message>
     <message>
         <source>&amp;Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern unter</translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Breite</translation>
     </message>
     <message>
         <source>&amp;Height</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höhe</translation>
     </message>
     <message>
         <source>A click takes the mask color from here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick nimmt die Maskenfarbe von hier</translation>
     </message>
     <message>
         <source>There is no picture open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Bild geöffnet.</translation>
     </message>
     <message>
         <source>Width and height are whole numbers from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe sind ganze Zahlen von 1 bis %1.</translation>
     </message>
     <message>
         <source>%1 times as large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1-mal so groß</translation>
     </message>
     <message>
         <source>Save Icon as</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol speichern unter</translation>
     </message>
     <message>
         <source>Icon File</source>
-        <translation type="unfinished"></translation>
+        <translation>Symboldatei</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fIconSeries</name>
     <message>
         <source>Custom Icon Extractor</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole vom Bildschirm</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle auswählen</translation>
     </message>
     <message>
         <source>Use Mas&amp;k Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Mas&amp;kenfarbe verwenden</translation>
     </message>
     <message>
         <source>What to capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aufgenommen wird</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibtisch</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Vordergrund</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ufnehmen</translation>
     </message>
     <message>
         <source>Captures the screen and cuts icons out of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt den Bildschirm auf und schneidet Symbole aus</translation>
     </message>
     <message>
         <source>Icons cut out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeschnittene Symbole</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbol</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>&amp;Extract Icons of the Selected Images to</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole d&amp;er gewählten Bilder speichern in</translation>
     </message>
     <message>
         <source>Folder of the icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Symbole</translation>
     </message>
     <message>
         <source>....</source>
-        <translation type="unfinished"></translation>
+        <translation>....</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peichern</translation>
     </message>
     <message>
         <source>Select the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen</translation>
     </message>
     <message>
         <source>No Images to extract!</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Bilder zum Entnehmen!</translation>
     </message>
     <message>
         <source>Folder does not Exists! Please Enter a valid folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner gibt es nicht! Bitte geben Sie einen gültigen Ordner ein</translation>
     </message>
     <message numerus="yes">
         <source>%n icon Files Saved!</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Symboldatei gespeichert!</numerusform>
+            <numerusform>%n Symboldateien gespeichert!</numerusform>
         </translation>
     </message>
     <message>
         <source>Not written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geschrieben: %1</translation>
     </message>
     <message numerus="yes">
         <source> and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> und %n weitere</numerusform>
+            <numerusform> und %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -5356,383 +5369,395 @@ Arrow keys move it by a pixel.</source>
     <name>velara::fImage</name>
     <message>
         <source>Picture window</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildfenster</translation>
     </message>
     <message>
         <source>Horizontal scroll bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagerechte Bildlaufleiste</translation>
     </message>
     <message>
         <source>Vertical scroll bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkrechte Bildlaufleiste</translation>
     </message>
     <message>
         <source>This image has changed.
 Do you want to save it ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild wurde geändert.
+Möchten Sie es speichern ?</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayerCanvas</name>
     <message>
         <source>Picture with its texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild mit seinen Texten</translation>
     </message>
     <message>
         <source>Text %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Text %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayerList</name>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Texts, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte, auf und ab</translation>
     </message>
     <message>
         <source>Empty text</source>
-        <translation type="unfinished"></translation>
+        <translation>Leerer Text</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zeigen</translation>
     </message>
 </context>
 <context>
     <name>velara::fLayers</name>
     <message>
         <source>Regular</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterstrichen</translation>
     </message>
     <message>
         <source>Strike out</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgestrichen</translation>
     </message>
     <message>
         <source>Save for Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das Web speichern</translation>
     </message>
     <message>
         <source>Color Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe</translation>
     </message>
     <message>
         <source>Picture with its texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild mit seinen Texten</translation>
     </message>
     <message>
         <source>Color of the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Textes</translation>
     </message>
     <message>
         <source>Apply Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text einfügen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>New text</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Text</translation>
     </message>
     <message>
         <source>Delete text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text löschen</translation>
     </message>
     <message>
         <source>Send Optimized Image To</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimiertes Bild senden an</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Zoom to fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Bild</translation>
     </message>
     <message>
         <source>Type. A drag marks letters, at the frame it moves the text. Esc ends typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tippen Sie. Ziehen markiert Buchstaben, am Rahmen verschiebt es den Text. Esc beendet das Tippen.</translation>
     </message>
     <message>
         <source>Drag the text or its grips. A click or Enter puts the caret into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie den Text oder seine Griffe. Ein Klick oder Eingabe setzt die Schreibmarke hinein.</translation>
     </message>
     <message>
         <source>Click on the picture where a text shall stand, and type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie im Bild dorthin, wo ein Text stehen soll, und tippen Sie.</translation>
     </message>
     <message>
         <source>
 The texts are not in the image yet.
 Do you want to merge them ?</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Die Texte sind noch nicht im Bild.
+Möchten Sie sie einfügen ?</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Bring this picture to the front first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Holen Sie zuerst dieses Bild nach vorn.</translation>
     </message>
 </context>
 <context>
     <name>velara::fMain</name>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe</translation>
     </message>
     <message>
         <source>There is no picture to work on: open one first, or make a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Bild zum Bearbeiten: Öffnen Sie zuerst eines oder legen Sie ein neues an.</translation>
     </message>
     <message>
         <source>Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeug</translation>
     </message>
     <message>
         <source>
 There is no picture in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Es ist kein Bild darin.</translation>
     </message>
     <message>
         <source>
 &quot;.%1&quot; is no format that is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Das Format „.%1“ wird nicht geschrieben.</translation>
     </message>
     <message>
         <source>Unexpected error loading image</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwarteter Fehler beim Laden des Bildes</translation>
     </message>
     <message>
         <source>This file is not there any more:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht mehr:
+</translation>
     </message>
     <message>
         <source>These files are not there any more:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien gibt es nicht mehr:
+</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Reading %1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gelesen ...</translation>
     </message>
     <message>
         <source> can&apos;t be read as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation> ist nicht als Bild lesbar.</translation>
     </message>
     <message>
         <source> was not read</source>
-        <translation type="unfinished"></translation>
+        <translation> wurde nicht gelesen</translation>
     </message>
     <message>
         <source>Open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen</translation>
     </message>
     <message>
         <source>Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer</translation>
     </message>
     <message>
         <source>No picture has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild wurde geändert.</translation>
     </message>
     <message>
         <source>These are written to their own files:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Diese werden in ihre eigenen Dateien geschrieben:
+</translation>
     </message>
     <message>
         <source>These need a name, for which you are asked:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Diese brauchen einen Namen, nach dem Sie gefragt werden:
+</translation>
     </message>
     <message>
         <source>Save All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle speichern</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>&amp;Keep camera data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kameradaten behalten</translation>
     </message>
     <message>
         <source>without the &amp;place</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne den &amp;Ort</translation>
     </message>
     <message>
         <source>Saving %1 ... Esc ends it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gespeichert ... Esc bricht ab</translation>
     </message>
     <message>
         <source>%1 is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht gespeichert.</translation>
     </message>
     <message>
         <source>Unexpected error saving image</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwarteter Fehler beim Speichern des Bildes</translation>
     </message>
     <message>
         <source>Of a kind that is not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer Art, die nicht gelesen wird: %1</translation>
     </message>
     <message>
         <source>It is %1 picture; saved under this name it would become %2 picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist ein Bild der Art %1; unter diesem Namen gespeichert würde es ein Bild der Art %2.</translation>
     </message>
     <message>
         <source>There is no page behind this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dieser Seite kommt keine mehr.</translation>
     </message>
     <message>
         <source>There is no page before this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dieser Seite kommt keine.</translation>
     </message>
     <message>
         <source>
 Do you want to save it under another name ?</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Möchten Sie es unter einem anderen Namen speichern ?</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter ...</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;berschreiben</translation>
     </message>
     <message>
         <source>Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ausgewählt</translation>
     </message>
     <message>
         <source>Minimum size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestgröße: 2 x 2</translation>
     </message>
     <message>
         <source>Apply Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text einfügen</translation>
     </message>
     <message>
         <source>the texts of another picture wait for OK or Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Texte eines anderen Bildes warten auf OK oder Schließen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>A step could not be kept: this is the last one that stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Schritt ließ sich nicht aufbewahren: Dies ist der letzte, der noch da ist.</translation>
     </message>
     <message>
         <source>A step that could not be kept was passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Schritt, der sich nicht aufbewahren ließ, wurde übersprungen.</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>After a crash this picture could not be recovered: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einem Absturz ließe sich dieses Bild nicht wiederherstellen: %1.</translation>
     </message>
     <message>
         <source>This step can&apos;t be undone: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt lässt sich nicht rückgängig machen: %1.</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Canvas Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwandgröße</translation>
     </message>
     <message>
         <source>Error getting subkey value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Lesen des Unterschlüssels.</translation>
     </message>
     <message>
         <source>Error Setting subkey value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Setzen des Unterschlüssels.</translation>
     </message>
     <message numerus="yes">
         <source>It has %n pages; this one alone would be left of it.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Datei hat %n Seite; nur diese bliebe übrig.</numerusform>
+            <numerusform>Die Datei hat %n Seiten; nur diese eine bliebe davon übrig.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>
 It has %n pages; this one alone would be left of it.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>
+Die Datei hat %n Seite; nur diese bliebe übrig.</numerusform>
+            <numerusform>
+Die Datei hat %n Seiten; nur diese eine bliebe davon übrig.</numerusform>
         </translation>
     </message>
 </context>
@@ -5740,1367 +5765,1369 @@ It has %n pages; this one alone would be left of it.</source>
     <name>velara::fNew</name>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Standard sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardgrößen</translation>
     </message>
     <message>
         <source>&lt;Custom&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Eigene&gt;</translation>
     </message>
     <message>
         <source>Custom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Größe:</translation>
     </message>
     <message>
         <source>&amp;Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seitenverhältnis beibehalten</translation>
     </message>
 </context>
 <context>
     <name>velara::fOrientation</name>
     <message>
         <source>Unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>90º left</source>
-        <translation type="unfinished"></translation>
+        <translation>90º nach links</translation>
     </message>
     <message>
         <source>90º right</source>
-        <translation type="unfinished"></translation>
+        <translation>90º nach rechts</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Canvas orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung der Leinwand</translation>
     </message>
     <message>
         <source>Flip &amp;vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertikal spiegeln</translation>
     </message>
     <message>
         <source>Flip vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal spiegeln</translation>
     </message>
     <message>
         <source>Flip &amp;horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Flip horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Flip image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild spiegeln</translation>
     </message>
 </context>
 <context>
     <name>velara::fOverlay</name>
     <message>
         <source>Image Merging</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder verschmelzen</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Select image to overlay:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zum Überlagern:</translation>
     </message>
     <message>
         <source>Image to overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zum Überlagern</translation>
     </message>
     <message>
         <source>Transparency</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz</translation>
     </message>
     <message>
         <source>&amp;Tiled</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gekachelt</translation>
     </message>
     <message>
         <source>&amp;Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maskenfarbe</translation>
     </message>
     <message>
         <source>Mask color</source>
-        <translation type="unfinished"></translation>
+        <translation>Maskenfarbe</translation>
     </message>
     <message>
         <source>Create &amp;new image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neues Bild anlegen</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Left offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand links</translation>
     </message>
     <message>
         <source>Top offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand oben</translation>
     </message>
     <message>
         <source>Over %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Über %1</translation>
     </message>
     <message>
         <source>No picture is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Bild geöffnet.</translation>
     </message>
     <message>
         <source>Not merged: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verschmolzen: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fOwnSize</name>
     <message>
         <source>&amp;Own size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigene Größe</translation>
     </message>
     <message>
         <source>Printed width</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedruckte Breite</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
     <message>
         <source>Printed height</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedruckte Höhe</translation>
     </message>
     <message>
         <source>Printed size in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedruckte Größe in Prozent</translation>
     </message>
     <message>
         <source> %</source>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
 </context>
 <context>
     <name>velara::fPalette</name>
     <message>
         <source>Select Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe wählen</translation>
     </message>
     <message>
         <source>Saturation and lightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung und Helligkeit</translation>
     </message>
     <message>
         <source>Click to pick and to store in the cell; double click for the large picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick wählt und legt in der Zelle ab; Doppelklick öffnet den großen Farbwähler</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Current pick</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Wahl</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe</translation>
     </message>
     <message>
         <source>Swap the colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben vertauschen</translation>
     </message>
     <message>
         <source>&amp;Link</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verknüpfen</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfen</translation>
     </message>
     <message>
         <source>Link with current color</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der aktuellen Farbe verknüpfen</translation>
     </message>
     <message>
         <source>Cell %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelle %1</translation>
     </message>
     <message>
         <source>Preset colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Farben</translation>
     </message>
     <message>
         <source>%1 degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Grad</translation>
     </message>
 </context>
 <context>
     <name>velara::fPaste</name>
     <message>
         <source>Picture of the clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Clips</translation>
     </message>
     <message>
         <source>Clip History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf der Clips</translation>
     </message>
     <message>
         <source>Clips, oldest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips, der älteste zuerst</translation>
     </message>
     <message>
         <source>Enter pastes the clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabe fügt den Clip ein</translation>
     </message>
     <message>
         <source>Scroll the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips rollen</translation>
     </message>
     <message>
         <source>Clip %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Clip %1</translation>
     </message>
     <message>
         <source>Opaque &amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deckkraft</translation>
     </message>
     <message>
         <source>Opaque Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Clip History: 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf der Clips: 
+%1</translation>
     </message>
     <message>
         <source>Minimum cut size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestgröße zum Ausschneiden: 2 x 2</translation>
     </message>
     <message>
         <source>Minimum copy size: 2 x 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestgröße zum Kopieren: 2 x 2</translation>
     </message>
 </context>
 <context>
     <name>velara::fPicker</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Color Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbfenster</translation>
     </message>
     <message>
         <source>Enter an Integer Value Between 0 and %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie eine ganze Zahl von 0 bis %1 ein</translation>
     </message>
     <message>
         <source>&amp;Picker</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farbwähler</translation>
     </message>
     <message>
         <source>&amp;Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorgaben</translation>
     </message>
     <message>
         <source>Color field</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbfeld</translation>
     </message>
     <message>
         <source>Color strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbstreifen</translation>
     </message>
     <message>
         <source>%1 on the strip</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf dem Streifen</translation>
     </message>
     <message>
         <source>Color model</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbmodell</translation>
     </message>
     <message>
         <source>He&amp;x</source>
-        <translation type="unfinished"></translation>
+        <translation>He&amp;x</translation>
     </message>
     <message>
         <source>Preset colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Farben</translation>
     </message>
     <message>
         <source>Custom...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene...</translation>
     </message>
     <message>
         <source>Safe Palette (216)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichere Palette (216)</translation>
     </message>
     <message>
         <source>Put the color into the selected cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe in die gewählte Zelle legen</translation>
     </message>
     <message>
         <source>Color to put into a cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe für eine Zelle</translation>
     </message>
     <message>
         <source>Select a cell, then &lt;&lt; keeps
 the color in your list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Zelle, dann legt
+&lt;&lt; die Farbe in Ihre Liste.</translation>
     </message>
     <message>
         <source>Selected color</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Farbe</translation>
     </message>
     <message>
         <source>Color before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige Farbe</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>Color under the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe unter dem Zeiger</translation>
     </message>
     <message>
         <source>Recent colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Farben</translation>
     </message>
     <message>
         <source>Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt</translation>
     </message>
     <message>
         <source>Recent color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Farbe %1</translation>
     </message>
     <message>
         <source>O&amp;K</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;K</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>velara::fPicturePage</name>
     <message>
         <source>%1, left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, links und rechts</translation>
     </message>
     <message>
         <source>%1, up and down</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, auf und ab</translation>
     </message>
 </context>
 <context>
     <name>velara::fPreferences</name>
     <message>
         <source>&amp;Open iP maximized </source>
-        <translation type="unfinished"></translation>
+        <translation>Programm &amp;maximiert öffnen </translation>
     </message>
     <message>
         <source>Open i&amp;mages maximized </source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bilder maximiert öffnen </translation>
     </message>
     <message>
         <source>&amp;Preserve last folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Letzten Ordner merken</translation>
     </message>
     <message>
         <source>&amp;Ask to save on Close/Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Schließen/Beenden nach dem &amp;Speichern fragen</translation>
     </message>
     <message>
         <source>%1: Options</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Optionen</translation>
     </message>
     <message>
         <source>Images default &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard&amp;ordner für Bilder</translation>
     </message>
     <message>
         <source>Images default folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardordner für Bilder</translation>
     </message>
     <message>
         <source>&amp;Browse ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsuchen ...</translation>
     </message>
     <message>
         <source>Select Images default folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardordner für Bilder wählen</translation>
     </message>
     <message>
         <source>&amp;Convert pictures to sRGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder in s&amp;RGB umwandeln</translation>
     </message>
     <message>
         <source>&amp;Show pictures by the screen&apos;s color profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder mit dem &amp;Farbprofil des Bildschirms anzeigen</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
 </context>
 <context>
     <name>velara::fPresetWell</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>Window text</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenstertext</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabefeld</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltfläche</translation>
     </message>
     <message>
         <source>Button text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text der Schaltfläche</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Selected text</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählter Text</translation>
     </message>
     <message>
         <source>Tool tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzinfo</translation>
     </message>
     <message>
         <source>Tool tip text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text der Kurzinfo</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfen</translation>
     </message>
     <message>
         <source>Visited link</source>
-        <translation type="unfinished"></translation>
+        <translation>Besuchter Link</translation>
     </message>
     <message>
         <source>Light edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Helle Kante</translation>
     </message>
     <message>
         <source>Pale edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Blasse Kante</translation>
     </message>
     <message>
         <source>Middle edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Kante</translation>
     </message>
     <message>
         <source>Dark edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkle Kante</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten</translation>
     </message>
     <message>
         <source>Other rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Zeilen</translation>
     </message>
     <message>
         <source>Choose one of the set</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine aus dem Satz wählen</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrint</name>
     <message>
         <source>The page</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität</translation>
     </message>
     <message>
         <source>Draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurf</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Niedrig</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoch</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare</translation>
     </message>
     <message>
         <source>&amp;Fit to page</source>
-        <translation type="unfinished"></translation>
+        <translation>An &amp;Seite anpassen</translation>
     </message>
     <message>
         <source>&amp;Center image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;zentrieren</translation>
     </message>
     <message>
         <source>Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassung</translation>
     </message>
     <message>
         <source>Printing ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird gedruckt ...</translation>
     </message>
     <message>
         <source>Asking the printer ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker wird befragt ...</translation>
     </message>
     <message>
         <source>at most %1</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1</translation>
     </message>
     <message>
         <source>%1 x %2 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 mm</translation>
     </message>
     <message>
         <source>File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Datei: </translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei drucken</translation>
     </message>
     <message>
         <source>Unable to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken ist nicht möglich</translation>
     </message>
     <message>
         <source>It is waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wartet</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Exemplare</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrinterBox</name>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>PDF file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Datei ...</translation>
     </message>
     <message>
         <source>Choose a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker wählen</translation>
     </message>
     <message>
         <source>Looking for printers ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker werden gesucht ...</translation>
     </message>
     <message>
         <source>No printer was found</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Drucker gefunden</translation>
     </message>
 </context>
 <context>
     <name>velara::fPrinterSetup</name>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>&amp;Shades of gray</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graustufen</translation>
     </message>
     <message>
         <source>Printer Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker einrichten</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Asking the printer ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker wird befragt ...</translation>
     </message>
 </context>
 <context>
     <name>velara::fProperties</name>
     <message>
         <source>%1 pixels (%2 megapixels)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pixel (%2 Megapixel)</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
 </context>
 <context>
     <name>velara::fRecovery</name>
     <message>
         <source>Recover Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder wiederherstellen</translation>
     </message>
     <message>
         <source>The program ended before the changes of these pictures were saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm endete, bevor die Änderungen dieser Bilder gespeichert waren.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>&amp;Recover All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Discard All ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;verwerfen ...</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Später</translation>
     </message>
     <message>
         <source>They stay on the start page, and in the File menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie bleiben auf der Startseite und im Menü Datei</translation>
     </message>
     <message>
         <source>Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubild</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Discard ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen ...</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
 </context>
 <context>
     <name>velara::fResolution</name>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung</translation>
     </message>
     <message>
         <source>Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Kantenglättung</translation>
     </message>
     <message>
         <source>File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Datei: </translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>velara::fRgbBox</name>
     <message>
         <source>Drag up or down to change it; with Ctrl by tens</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf oder ab ziehen ändert den Wert; mit Strg in Zehnern</translation>
     </message>
 </context>
 <context>
     <name>velara::fRotate</name>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad</translation>
     </message>
     <message>
         <source>&amp;Antialiasing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kantenglättung</translation>
     </message>
     <message>
         <source>Antialiasing</source>
-        <translation type="unfinished"></translation>
+        <translation>Kantenglättung</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>45 degrees more</source>
-        <translation type="unfinished"></translation>
+        <translation>45 Grad mehr</translation>
     </message>
     <message>
         <source>45 degrees less</source>
-        <translation type="unfinished"></translation>
+        <translation>45 Grad weniger</translation>
     </message>
     <message>
         <source>Canvas will be resized</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leinwandgröße ändert sich</translation>
     </message>
 </context>
 <context>
     <name>velara::fScanSettings</name>
     <message>
         <source>Pre&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorschau</translation>
     </message>
     <message>
         <source>Whole &amp;bed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze &amp;Fläche</translation>
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einzug</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modus</translation>
     </message>
     <message>
         <source>&amp;Resolution (dpi)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auflösung (dpi)</translation>
     </message>
     <message>
         <source> mm</source>
-        <translation type="unfinished"></translation>
+        <translation> mm</translation>
     </message>
 </context>
 <context>
     <name>velara::fSearch</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl suchen</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle</translation>
     </message>
     <message>
         <source>Find a Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl suchen</translation>
     </message>
     <message>
         <source>A few letters of what you want to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein paar Buchstaben von dem, was Sie tun möchten</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts heißt so.</translation>
     </message>
     <message>
         <source> · used lately</source>
-        <translation type="unfinished"></translation>
+        <translation> · zuletzt benutzt</translation>
     </message>
 </context>
 <context>
     <name>velara::fSize</name>
     <message>
         <source>Image size</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildgröße</translation>
     </message>
     <message>
         <source>&amp;Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seitenverhältnis beibehalten</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>&amp;Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kantenglättung</translation>
     </message>
     <message>
         <source>Anti-Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Kantenglättung</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellwahl</translation>
     </message>
     <message>
         <source>Choose a factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor wählen</translation>
     </message>
     <message>
         <source>&amp;Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prozent</translation>
     </message>
 </context>
 <context>
     <name>velara::fSizeFields</name>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Keep proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenverhältnis beibehalten</translation>
     </message>
 </context>
 <context>
     <name>velara::fSource</name>
     <message>
         <source>Select Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle wählen</translation>
     </message>
     <message>
         <source>Scanners</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanner</translation>
     </message>
     <message>
         <source>&amp;Look again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut suchen</translation>
     </message>
     <message>
         <source>&amp;Select</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auswählen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Looking for scanners ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanner werden gesucht ...</translation>
     </message>
     <message>
         <source>No scanner was found: </source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Scanner gefunden: </translation>
     </message>
     <message>
         <source>No scanner was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Scanner gefunden.</translation>
     </message>
     <message>
         <source>Scanners of this machine:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanner dieses Rechners:</translation>
     </message>
     <message>
         <source>Please Verify that the system is connected to Scanner!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte prüfen Sie, ob ein Scanner angeschlossen ist!</translation>
     </message>
 </context>
 <context>
     <name>velara::fSplash</name>
     <message>
         <source>About Velara Studio</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Velara Studio</translation>
     </message>
 </context>
 <context>
     <name>velara::fStartPage</name>
     <message>
         <source>Recent pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnete Bilder</translation>
     </message>
     <message>
         <source>How to start</source>
-        <translation type="unfinished"></translation>
+        <translation>So geht es los</translation>
     </message>
     <message>
         <source>Open a picture to begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie ein Bild, um zu beginnen</translation>
     </message>
     <message>
         <source>Pictures may also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder lassen sich auch hierher ziehen.</translation>
     </message>
     <message>
         <source>Not saved when the program ended</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Ende des Programms nicht gespeichert</translation>
     </message>
     <message>
         <source>&amp;Recover ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen ...</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen ...</translation>
     </message>
     <message>
         <source>From the &amp;clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der &amp;Zwischenablage</translation>
     </message>
 </context>
 <context>
     <name>velara::fStatus</name>
     <message>
         <source>Position of the pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Stelle des Zeigers</translation>
     </message>
     <message>
         <source>Extent of the drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdehnung des Zugs</translation>
     </message>
     <message>
         <source>Size of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe des Bildes</translation>
     </message>
     <message>
         <source>Page of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite der Datei</translation>
     </message>
     <message>
         <source>Name of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Name des Bildes</translation>
     </message>
     <message>
         <source>Keys of what is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten für das, was gerade entsteht</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Progress of the filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des Filters</translation>
     </message>
 </context>
 <context>
     <name>velara::fTextPage</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Left Justify|Centre Justify|Right Justify|Full Justify</source>
-        <translation type="unfinished"></translation>
+        <translation>Linksbündig|Zentriert|Rechtsbündig|Blocksatz</translation>
     </message>
     <message>
         <source>Shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Schatten</translation>
     </message>
     <message>
         <source>Top Left|Top|Top Right|Left|No Shadow|Right|Bottom Left|Bottom|Bottom Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links|Oben|Oben rechts|Links|Kein Schatten|Rechts|Unten links|Unten|Unten rechts</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterstrichen</translation>
     </message>
     <message>
         <source>The text is too long for this space: make the window larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text ist zu lang für diesen Platz: Vergrößern Sie das Fenster.</translation>
     </message>
     <message>
         <source>The text as it is stamped</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text, wie er gestempelt wird</translation>
     </message>
     <message>
         <source>Type the text here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier den Text eingeben</translation>
     </message>
     <message>
         <source>&amp;Place with the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der &amp;Maus platzieren</translation>
     </message>
     <message>
         <source>Place with the mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der Maus platzieren</translation>
     </message>
     <message>
         <source>Takes the text tool: press on the picture, drag, and let go where the text shall stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt das Textwerkzeug: auf dem Bild drücken, ziehen und loslassen, wo der Text stehen soll</translation>
     </message>
     <message>
         <source>Unable to find suitable font size for text</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passende Schriftgröße für den Text gefunden</translation>
     </message>
 </context>
 <context>
     <name>velara::fTexturize</name>
     <message>
         <source>Texturize</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturieren</translation>
     </message>
     <message>
         <source>The folder &quot;Textures&quot; can&apos;t be written to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Ordner „Textures“ lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Textures</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturen</translation>
     </message>
     <message>
         <source>Chosen texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Textur</translation>
     </message>
     <message>
         <source>Preview, pixel for pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau, Pixel für Pixel</translation>
     </message>
     <message>
         <source>The texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Textur</translation>
     </message>
     <message>
         <source>Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensität</translation>
     </message>
     <message>
         <source>Depth </source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe </translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbtiefe</translation>
     </message>
     <message>
         <source>Emboss</source>
-        <translation type="unfinished"></translation>
+        <translation>Prägen</translation>
     </message>
     <message>
         <source>Engrave</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravieren</translation>
     </message>
     <message>
         <source>Self-Texturized</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit sich selbst texturiert</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stand</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>(can&apos;t be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>(nicht lesbar)</translation>
     </message>
     <message>
         <source>This file can&apos;t be read as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist nicht als Bild lesbar.</translation>
     </message>
     <message>
         <source>A relief needs a picture of at least 2 x 2 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Relief braucht ein Bild von mindestens 2 x 2 Pixeln.</translation>
     </message>
     <message>
         <source>A texture needs at least 2 x 2 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Textur braucht mindestens 2 x 2 Pixel.</translation>
     </message>
 </context>
 <context>
     <name>velara::fToolPane</name>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>First color</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe</translation>
     </message>
     <message>
         <source>Second color</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe</translation>
     </message>
     <message>
         <source>Swap the colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben vertauschen</translation>
     </message>
 </context>
 <context>
     <name>velara::fToolTextures</name>
     <message>
         <source>Text and effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Text und Effekte</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text</translation>
     </message>
     <message>
         <source>&amp;Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Effekte</translation>
     </message>
     <message>
         <source>Textures: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Texturen: %1</translation>
     </message>
 </context>
 <context>
     <name>velara::fWebTable</name>
     <message>
         <source>All formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Formate</translation>
     </message>
     <message>
         <source>Formats by size</source>
-        <translation type="unfinished"></translation>
+        <translation>Formate nach Größe</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlust</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Choose the format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format wählen</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Decibels: the more, the better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezibel: je mehr, desto besser.</translation>
     </message>
     <message>
         <source>no loss</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Verlust</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
 </context>
 </TS>

@@ -2527,12 +2527,6 @@ y %n más</numerusform>
         <translation>PBM, PGM y PPM: si el mapa de bits tiene 1 bit de profundidad, el archivo se guarda como PBM; si tiene 8 bits, como PGM; si tiene 24 bits, como PPM. No se admiten otras profundidades. El archivo solicitado se guarda en formato de color verdadero de 24 bits (.ppm).</translation>
     </message>
     <message>
-        <source>Configuration data file is corrupted<byte value="xd"/>
-Values will be initilized</source>
-        <translation>El archivo de configuración está dañado<byte value="xd"/>
-Se restablecerán los valores</translation>
-    </message>
-    <message>
         <source>it needs %1 of memory, more than half of the %2 that are free</source>
         <translation>necesita %1 de memoria, más de la mitad de los %2 libres</translation>
     </message>

@@ -2527,12 +2527,6 @@ et %n de plus</numerusform>
         <translation>PBM, PGM et PPM : si le bitmap a une profondeur de 1 bit, le fichier est enregistré en PBM ; de 8 bits, en PGM ; de 24 bits, en PPM. Les autres profondeurs ne sont pas prises en charge. Le fichier demandé est enregistré au format 24 bits (.ppm).</translation>
     </message>
     <message>
-        <source>Configuration data file is corrupted<byte value="xd"/>
-Values will be initilized</source>
-        <translation>Le fichier de configuration est endommagé<byte value="xd"/>
-Les valeurs vont être réinitialisées</translation>
-    </message>
-    <message>
         <source>it needs %1 of memory, more than half of the %2 that are free</source>
         <translation>il demande %1 de mémoire, plus de la moitié des %2 libres</translation>
     </message>

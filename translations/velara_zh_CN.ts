@@ -2525,12 +2525,6 @@ and %n more</source>
         <translation>PBM、PGM 和 PPM：位深度为 1 时，文件保存为 PBM；为 8 时，保存为 PGM；为 24 时，保存为 PPM。不支持其他位深度。您请求的文件已保存为 24 位真彩色 (.ppm) 格式。</translation>
     </message>
     <message>
-        <source>Configuration data file is corrupted<byte value="xd"/>
-Values will be initilized</source>
-        <translation>配置数据文件已损坏<byte value="xd"/>
-将恢复初始值</translation>
-    </message>
-    <message>
         <source>it needs %1 of memory, more than half of the %2 that are free</source>
         <translation>需要 %1 内存，超过空闲的 %2 的一半</translation>
     </message>

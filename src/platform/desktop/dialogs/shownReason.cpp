@@ -82,7 +82,6 @@ constexpr const char* kReasons[] = { // those with fewer fixed words come later
     QT_TRANSLATE_NOOP("Reasons", "the closing bracket is missing"),
     QT_TRANSLATE_NOOP("Reasons", "there is no pixel in it"),
     QT_TRANSLATE_NOOP("Reasons", "PBM, PGM and PPM: If the bitmap has a bit depth of 1, the file is saved as a PBM file. If the bitmap has a bit depth of 8, the file is saved as a PGM file. If the bitmap has a bit depth of 24, the file is saved as a PPM file. Other bit depths are not supported. The file you requested is saved as 24-bit True Color (.ppm) format."),
-    QT_TRANSLATE_NOOP("Reasons", "Configuration data file is corrupted\r\nValues will be initilized"),
     QT_TRANSLATE_NOOP("Reasons", "it needs %1 of memory, more than half of the %2 that are free"),
     QT_TRANSLATE_NOOP("Reasons", "the picture would have %1"),
     QT_TRANSLATE_NOOP("Reasons", "no pixels"),
