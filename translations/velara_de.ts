@@ -6255,6 +6255,22 @@ the color in your list.</source>
         <source>General</source>
         <translation>Allgemein</translation>
     </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>S&amp;prache</translation>
+    </message>
+    <message>
+        <source>from the next start on</source>
+        <translation>ab dem nächsten Start</translation>
+    </message>
 </context>
 <context>
     <name>velara::fPresetWell</name>
@@ -6668,6 +6684,22 @@ the color in your list.</source>
     <message>
         <source> mm</source>
         <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>Lin&amp;ks</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Oben</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Breite</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
     </message>
 </context>
 <context>

@@ -1166,11 +1166,11 @@
     </message>
     <message>
         <source>&amp;Browse ...</source>
-        <translation>&amp;Examinar ...</translation>
+        <translation>E&amp;xaminar ...</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation>Abrir &amp;reciente</translation>
+        <translation>A&amp;brir reciente</translation>
     </message>
     <message>
         <source>Next Pa&amp;ge</source>
@@ -1182,7 +1182,7 @@
     </message>
     <message>
         <source>Reco&amp;ver ...</source>
-        <translation>Re&amp;cuperar ...</translation>
+        <translation>Recupe&amp;rar ...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1206,7 +1206,7 @@
     </message>
     <message>
         <source>Scann&amp;er</source>
-        <translation>E&amp;scáner</translation>
+        <translation>&amp;Escáner</translation>
     </message>
     <message>
         <source>Acquire ...</source>
@@ -1258,7 +1258,7 @@
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>C&amp;opiar</translation>
+        <translation>Cop&amp;iar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -1274,7 +1274,7 @@
     </message>
     <message>
         <source>In&amp;vert Selection</source>
-        <translation>&amp;Invertir la selección</translation>
+        <translation>In&amp;vertir la selección</translation>
     </message>
     <message>
         <source>Create &amp;New Copy</source>
@@ -5276,11 +5276,11 @@ Las flechas lo mueven un píxel.</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Seleccionar todo</translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>Use Mas&amp;k Color</source>
-        <translation>&amp;Usar color de máscara</translation>
+        <translation>Usar color de más&amp;cara</translation>
     </message>
     <message>
         <source>What to capture</source>
@@ -5332,7 +5332,7 @@ Las flechas lo mueven un píxel.</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
-        <translation>&amp;Guardar</translation>
+        <translation>Gua&amp;rdar</translation>
     </message>
     <message>
         <source>Select the folder</source>
@@ -6241,7 +6241,7 @@ el color en su lista.</translation>
     </message>
     <message>
         <source>&amp;Convert pictures to sRGB</source>
-        <translation>Convertir &amp;las imágenes a sRGB</translation>
+        <translation>Convertir las imágenes a &amp;sRGB</translation>
     </message>
     <message>
         <source>&amp;Show pictures by the screen&apos;s color profile</source>
@@ -6254,6 +6254,22 @@ el color en su lista.</translation>
     <message>
         <source>General</source>
         <translation>General</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>Idi&amp;oma</translation>
+    </message>
+    <message>
+        <source>from the next start on</source>
+        <translation>desde el próximo inicio</translation>
     </message>
 </context>
 <context>
@@ -6668,6 +6684,22 @@ el color en su lista.</translation>
     <message>
         <source> mm</source>
         <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>I&amp;zquierda</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>Arri&amp;ba</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>A&amp;ncho</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>A&amp;lto</translation>
     </message>
 </context>
 <context>

@@ -1174,7 +1174,7 @@
     </message>
     <message>
         <source>Next Pa&amp;ge</source>
-        <translation>Page &amp;suivante</translation>
+        <translation>Page sui&amp;vante</translation>
     </message>
     <message>
         <source>Prev&amp;ious Page</source>
@@ -1258,7 +1258,7 @@
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>C&amp;opier</translation>
+        <translation>Copi&amp;er</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -1834,7 +1834,7 @@
     </message>
     <message>
         <source>&amp;Views</source>
-        <translation>&amp;Affichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>Tile Horizontally</source>
@@ -5280,7 +5280,7 @@ Les flèches le déplacent d&apos;un pixel.</translation>
     </message>
     <message>
         <source>Use Mas&amp;k Color</source>
-        <translation>&amp;Utiliser la couleur de masque</translation>
+        <translation>Utiliser la &amp;couleur de masque</translation>
     </message>
     <message>
         <source>What to capture</source>
@@ -5300,7 +5300,7 @@ Les flèches le déplacent d&apos;un pixel.</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation>&amp;Lancer</translation>
+        <translation>L&amp;ancer</translation>
     </message>
     <message>
         <source>Captures the screen and cuts icons out of it</source>
@@ -5320,7 +5320,7 @@ Les flèches le déplacent d&apos;un pixel.</translation>
     </message>
     <message>
         <source>&amp;Extract Icons of the Selected Images to</source>
-        <translation>&amp;Extraire les icônes des images choisies vers</translation>
+        <translation>E&amp;xtraire les icônes des images choisies vers</translation>
     </message>
     <message>
         <source>Folder of the icons</source>
@@ -6255,6 +6255,22 @@ garde la couleur dans votre liste.</translation>
         <source>General</source>
         <translation>Général</translation>
     </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>Lan&amp;gue</translation>
+    </message>
+    <message>
+        <source>from the next start on</source>
+        <translation>à partir du prochain démarrage</translation>
+    </message>
 </context>
 <context>
     <name>velara::fPresetWell</name>
@@ -6668,6 +6684,22 @@ garde la couleur dans votre liste.</translation>
     <message>
         <source> mm</source>
         <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>&amp;Gauche</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Haut</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Largeur</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>Haute&amp;ur</translation>
     </message>
 </context>
 <context>

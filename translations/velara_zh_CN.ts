@@ -6243,6 +6243,22 @@ the color in your list.</source>
         <source>General</source>
         <translation>常规</translation>
     </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>from the next start on</source>
+        <translation>下次启动时生效</translation>
+    </message>
 </context>
 <context>
     <name>velara::fPresetWell</name>
@@ -6656,6 +6672,22 @@ the color in your list.</source>
     <message>
         <source> mm</source>
         <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>左(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>上(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>宽度(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>高度(&amp;H)</translation>
     </message>
 </context>
 <context>

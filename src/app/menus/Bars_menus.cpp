@@ -31,7 +31,11 @@ QChar keyIn(const QString& caption)
 struct AccessKeys {
     QHash<QChar, QAction*> owner;
 
-    bool isFree(QChar key) const { return (key.isLetterOrNumber() || key == u'%') && !owner.contains(key); }
+    /// Letters that a keyboard has; those of Chinese are typed by several keys.
+    bool isFree(QChar key) const
+    {
+        return ((key.isLetterOrNumber() && key.script() != QChar::Script_Han) || key == u'%') && !owner.contains(key);
+    }
     /// Gives the item the first letter of its caption that is free; if none is, that of another one which can take
     /// another letter of its own. tried: letters that have been looked at on the way.
     bool give(QAction* item, QSet<QChar>& tried)

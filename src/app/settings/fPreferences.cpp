@@ -1,9 +1,11 @@
 #include "app/settings/fPreferences.h"
+#include "app/settings/language.h"
 #include "app/settings/pictureSettings.h"
 #include "seams/Platform.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -82,6 +84,8 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     column->addWidget(screenProfile_ =
                           named(new QCheckBox(tr("&Show pictures by the screen's color profile")), "chkScreenProfile"));
     screenProfile_->setChecked(pictureSetting(platform_, PictureSetting::ScreenProfile));
+    column->addSpacing(6);
+    column->addLayout(makeLanguage());
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -94,6 +98,21 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->addWidget(tabs);
     all->addWidget(buttons);
+}
+
+QLayout* fPreferences::makeLanguage()
+{
+    language_ = named(new QComboBox, "cboLanguage", tr("Language"));
+    language_->addItem(tr("As the system"), QString());
+    for (const Language& each : languages()) language_->addItem(QString::fromUtf8(each.name), QString(each.code));
+    language_->setCurrentIndex(language_->findData(chosenLanguage(platform_)));
+    auto* label = new QLabel(tr("&Language"));
+    label->setBuddy(language_);
+    auto* line = new QHBoxLayout;
+    for (QWidget* each : std::initializer_list<QWidget*>{label, language_, new QLabel(tr("from the next start on"))})
+        line->addWidget(each);
+    line->addStretch();
+    return line;
 }
 
 void fPreferences::browse()
@@ -109,6 +128,7 @@ void fPreferences::accept()
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
     setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
     setPictureSetting(platform_, PictureSetting::ScreenProfile, screenProfile_->isChecked());
+    chooseLanguage(platform_, language_->currentData().toString());
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

@@ -5,6 +5,7 @@
 #include "pixels/twips.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fHexBox.h"
 #include "ui/colour/fPickSurface.h"
@@ -201,7 +202,7 @@ QWidget* fPalette::makePresets()
     line->addWidget(CPL_, 1);
     for (int i = 0; i < kPresetSets; ++i) {
         const PresetSet& set = presetSet(i);
-        CPL_->addItem(QLatin1String(set.name));
+        CPL_->addItem(shown("Colors", set.name));
         auto* well = new fPresetWell(numbered("cp", i), set, box);
         connect(well, &fPresetWell::picked, this, [this](Colour colour) {
             showCurrent(colour);

@@ -84,7 +84,7 @@ QWidget* fCapture::makeCustom()
         cb_->addItem(tr(row.caption));
         auto* label = named(new QLabel(tr(row.explanation)), row.label);
         label->setWordWrap(true);
-        label->setMinimumWidth(380);
+        label->setMinimumSize(380, label->heightForWidth(380)); // the tabs ask for no height that depends on the width
         column->addWidget(label);
     }
     cbDelay_ = named(new QComboBox, "cbDelay");

@@ -98,7 +98,7 @@ struct Sentence {
 
 std::vector<Sentence> sentences()
 {
-    static const QRegularExpression value(QStringLiteral("%\\\\?\\d"));
+    static const QRegularExpression value(QStringLiteral("\\\\?%\\d"));
     std::vector<Sentence> all;
     for (const char* english : kReasons) {
         QString pattern = QRegularExpression::escape(QString::fromUtf8(english));
@@ -124,10 +124,16 @@ QString shownReason(const QString& english)
     for (const Sentence& sentence : all) {
         const QRegularExpressionMatch match = sentence.pattern.match(english);
         if (!match.hasMatch()) continue;
-        QString text = shown("Reasons", sentence.english);
-        for (int i = match.lastCapturedIndex(); i > 0; --i)
-            text.replace(u'%' + QString::number(i), shownValue(match.captured(i)));
-        return text;
+        const QString text = shown("Reasons", sentence.english);
+        QString all; // in one go, since a value may contain "%1"
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const int number = text[i] == u'%' && i + 1 < text.size() ? text[i + 1].digitValue() : 0;
+            if (number < 1 || number > match.lastCapturedIndex())
+                all += text[i];
+            else
+                all += shownValue(match.captured(number)), ++i;
+        }
+        return all;
     }
     const qsizetype colon = english.indexOf(QStringLiteral(": "));
     return colon < 0 ? english : english.first(colon + 2) + shownReason(english.sliced(colon + 2));
