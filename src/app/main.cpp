@@ -68,7 +68,8 @@ int main(int argc, char** argv)
     service->listen(velara::socketOf(getpid()));
     velara::QtPlatform platform;
     const QString language = velara::chosenLanguage(platform);
-    velara::useLanguage(application, language.isEmpty() ? velara::languageFor(QLocale().uiLanguages()) : language);
+    velara::useLanguage(application,
+                        language.isEmpty() ? velara::languageFor(QLocale::system().uiLanguages()) : language);
     velara::Setup setup;
     velara::Startup startup(platform, setup);
     std::unique_ptr<velara::fMain> frame;

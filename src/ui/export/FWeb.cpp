@@ -326,7 +326,8 @@ void FWeb::showFile(const Written& written)
     if (const qint64 before = path_.isEmpty() ? 0 : sizeOfFile(path_); before > 0)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
     if (keptItsSize(written.file.source, optimizedBits_))
-        parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);
+        parts +=
+            std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(locale().toString(written.decibels, 'f', 1));
     if (settings.BitCount < settings.row().bitCount) parts.prepend(tr("%n colors", nullptr, 1 << settings.BitCount));
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }

@@ -25,7 +25,7 @@ QString pixelsText(const Document& document)
     const QSize size(document.PictureWidth(), document.PictureHeight());
     return fProperties::tr("%1 pixels (%2 megapixels)")
         .arg(sizeText(size))
-        .arg(double(size.width()) * size.height() / 1e6, 0, 'f', 1);
+        .arg(QLocale().toString(double(size.width()) * size.height() / 1e6, 'f', 1));
 }
 
 } // namespace

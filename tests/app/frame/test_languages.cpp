@@ -72,8 +72,8 @@ struct Languages : WindowWalk, ::testing::WithParamInterface<const char*> {
     {
         static const QRegularExpression word(QStringLiteral("\\p{L}{2}[\\p{Ll} ]*"));
         static const QRegularExpression same(QStringLiteral(
-            "^[RGBHSCMYXK#&:\\W\\d]*$|\\.bmp|\\.png|/|Velara Studio|^(PNG|GIF|JPE?G|BMP|TGA|TIF|PCX|WEBP|AVIF|JXL|"
-            "P[BGP]M)\\b|Ctrl|^\\*\\.|dpi|KB|MB|mm"));
+            "^[RGBHSCMYXK#&:\\W\\d]*$|\\.bmp|\\.png|^/\\S+|Velara Studio|^(PNG|GIF|JPE?G|BMP|TGA|TIF|PCX|WEBP|AVIF|JXL|"
+            "P[BGP]M)\\b|^\\*\\.|dpi|\\b(KB|mm)$"));
         return !word.match(text).hasMatch() || same.match(text).hasMatch();
     }
     void readText(const QWidget& widget, const QString& text)
