@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -53,6 +53,12 @@ FUZZ_S ?= 60
 fuzz: all
 	$(RELEASE)/bin/velara-fuzz --warm --seconds $(FUZZ_S) --seed $$(date +%s)000 --keep build/fuzz $(SUBJECTS) \
 	    --samples "$$(sed -n 's/^CORPUS:PATH=//p' $(RELEASE)/CMakeCache.txt)"
+
+# Brings translations/*.ts up to date with the texts of the code, and says what is not translated.
+translations: setup
+	cmake --preset release >/dev/null
+	cmake --build --preset release --target translations
+	@scripts/check_translations.py --count
 
 screenshots: all
 	cmake --build --preset release --target screenshots

@@ -142,17 +142,17 @@ void Startup::makeFrame()
     frame_ = std::make_unique<fMain>(platform_, setup_);
     setup_.CurrentTool.clear();
     second_ = platform_.previousInstance();
-    if (second_) platform_.tell("Velara Studio is already running!");
+    if (second_) platform_.tell(tr("Velara Studio is already running!"));
 }
 
 void Startup::placeFrameOnScreen()
 {
     placeFrame(*frame_, setup_, QByteArray::fromBase64(platform_.setting("VeStu", "Place", "").toLatin1()), second_);
     if (!makeFolders(platform_))
-        platform_.tell(
-            "The folder \"" + platform_.programFolder() +
-                "\" can't be written to.\nSteps back stay in memory, as many as fit, and settings will not be kept.",
-            Icon::Exclamation);
+        platform_.tell(tr("The folder \"%1\" can't be written to.\n"
+                          "Steps back stay in memory, as many as fit, and settings will not be kept.")
+                           .arg(platform_.programFolder()),
+                       Icon::Exclamation);
 }
 
 void Startup::fillFrame()

@@ -1,6 +1,7 @@
 // velara-studio: the editor. With files on its command line it is velara-open.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/settings/language.h"
 #include "app/start/FrameRequests.h"
 #include "app/start/SessionEnd.h"
 #include "app/start/formatPlugins.h"
@@ -10,6 +11,7 @@
 #include "platform/opening/places.h"
 #include <QApplication>
 #include <QFile>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <cstdio>
 #include <cstring>
@@ -65,6 +67,9 @@ int main(int argc, char** argv)
     service->serve(velara::sessionBus(QStringLiteral("velara-studio")));
     service->listen(velara::socketOf(getpid()));
     velara::QtPlatform platform;
+    const QString language = velara::chosenLanguage(platform);
+    velara::useLanguage(application,
+                        language.isEmpty() ? velara::languageFor(QLocale::system().uiLanguages()) : language);
     velara::Setup setup;
     velara::Startup startup(platform, setup);
     std::unique_ptr<velara::fMain> frame;

@@ -36,7 +36,7 @@ QString filterOf(std::span<const Kinds> kinds)
             for (const OtherName& other : kOtherNames)
                 if (text(other.usual) == usual) patterns << "*." + text(other.extension);
         }
-        parts << text(line.caption) << patterns.join(u';');
+        parts << shown("Formats", line.caption) << patterns.join(u';');
     }
     return parts.join(u'|');
 }
@@ -73,26 +73,19 @@ QString otherKind(const QString& name, const QString& format)
 {
     const Format *has = findFormat(format.toStdString()), *says = formatOf(name);
     if (!has || (says && says->name == has->name)) return {};
-    return QStringLiteral("%1 is %2 picture").arg(name, text(has->name));
+    return QCoreApplication::translate("Formats", "%1 is %2 picture").arg(name, shown("Formats", has->name));
 }
 
-const QString& openFilter()
+QString openFilter()
 {
-    static const QString filter = [] {
-        std::string all;
-        for (const Format& format : kFormats)
-            if (hasFamily(format)) all.append(all.empty() ? "" : " ").append(format.extension);
-        const Kinds first[] = {{"All Supported Picture Formats", all}};
-        return filterOf(first) + u'|' + filterOf(kOpened);
-    }();
-    return filter;
+    std::string all;
+    for (const Format& format : kFormats)
+        if (hasFamily(format)) all.append(all.empty() ? "" : " ").append(format.extension);
+    const Kinds first[] = {{kAllOpened, all}};
+    return filterOf(first) + u'|' + filterOf(kOpened);
 }
 
-const QString& saveFilter()
-{
-    static const QString filter = filterOf(kSaved);
-    return filter;
-}
+QString saveFilter() { return filterOf(kSaved); }
 
 SaveTarget saveTargetOf(const QString& path)
 {

@@ -91,6 +91,8 @@ struct Kinds {
     std::string_view extensions; // separated by blanks
 };
 
+inline constexpr std::string_view kAllOpened = "All Supported Picture Formats"; // the first line
+
 // clang-format off
 inline constexpr Kinds kOpened[] = { // follow a line for all formats that are browsed for
     {"Bitmap Files (*.BMP;*.DIB)",              "bmp dib"},
@@ -237,8 +239,8 @@ static_assert(std::ranges::all_of(kFormats, [](const Format& f) { return hasFami
 QString otherKind(const QString& name, const QString& format);
 
 /// The filters of the file dialogs, in the form of seams/Dialogs.h.
-const QString& openFilter();
-const QString& saveFilter();
+QString openFilter();
+QString saveFilter();
 
 /// The name and extension to pass to savePicture, and the file that it will write.
 struct SaveTarget {

@@ -3,6 +3,7 @@
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "tools/PreviewBuffer.h"
 #include "tools/ToolSurface.h"
 #include <memory>
@@ -63,7 +64,7 @@ struct ToolContext {
             if (!preview.hasChanges()) return;
             preview.commit();
         }
-        workspace().finish(document.handle(), QString::fromUtf8(name));
+        workspace().finish(document.handle(), shown("Tools", name));
     }
 };
 
@@ -97,13 +98,16 @@ class Tool {
     /// The second press of a double click. False: treat it as a normal press.
     virtual bool doubleClick(ToolContext&) const { return false; }
     /// The keys that work during the gesture, for the status bar.
-    virtual const char* hint(const ToolContext&) const { return "Esc or right button: drop"; }
+    virtual const char* hint(const ToolContext&) const
+    {
+        return QT_TRANSLATE_NOOP("Tools", "Esc or right button: drop");
+    }
     virtual Footprint footprint(const ToolContext&) const { return {}; }
 
   protected:
     /// The Space key of the tools that place pixels: commits them where they are and continues the placing.
     void fix(ToolContext& c) const;
-    static constexpr const char* kFixHint = "Space: fix and go on · Esc: drop";
+    static constexpr const char* kFixHint = QT_TRANSLATE_NOOP("Tools", "Space: fix and go on · Esc: drop");
 };
 
 } // namespace velara

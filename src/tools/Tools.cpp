@@ -1,6 +1,7 @@
 #include "tools/Tools.h"
 #include "engine/cBitFilter.h"
 #include "pixels/RuntimeError.h"
+#include "seams/text.h"
 #include <algorithm>
 #include <cstdlib>
 #include <new>
@@ -180,7 +181,7 @@ void Tools::pictureReplaced()
 void Tools::showHint()
 {
     const Tool* gesture = underWay();
-    context_.frame.setStatus(Panel::Hint, gesture ? QString::fromUtf8(gesture->hint(context_)) : QString());
+    context_.frame.setStatus(Panel::Hint, gesture ? shown("Tools", gesture->hint(context_)) : QString());
 }
 
 /// The end of every release: the outline runs again and the engine gets the working region.

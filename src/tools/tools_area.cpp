@@ -1,6 +1,7 @@
 // The tools that work at the release, and the pipette.
 #include "engine/cBitFilter.h"
 #include "pixels/numbers.h"
+#include "seams/text.h"
 #include "tools/ToolContext.h"
 #include <cmath>
 
@@ -69,9 +70,9 @@ class GradientTool final : public Tool {
             if (painted == draft.bits()) throw Cancelled(); // no step where nothing changes
             draft.setBits(painted);
         };
-        c.computed = c.workspace().change(c.document.handle(), {job, After::Step, QStringLiteral("Gradient"), words},
+        c.computed = c.workspace().change(c.document.handle(), {job, After::Step, shown("Tools", "Gradient"), words},
                                           [&frame = c.frame, life = std::weak_ptr(c.life), &c](const Outcome& outcome) {
-                                              frame.report(QStringLiteral("Gradient"), outcome);
+                                              frame.report(shown("Tools", "Gradient"), outcome);
                                               if (!life.expired()) c.computed = Workspace::kAll;
                                           });
     }

@@ -187,7 +187,10 @@ class PasteTool final : public Tool {
     }
     void cancel(ToolContext& c) const override { letGo(c); }
     void space(ToolContext& c) const override { fix(c); }
-    const char* hint(const ToolContext&) const override { return "Click: lay down · Space: fix and go on · Esc: drop"; }
+    const char* hint(const ToolContext&) const override
+    {
+        return QT_TRANSLATE_NOOP("Tools", "Click: lay down · Space: fix and go on · Esc: drop");
+    }
 
     static void letGo(ToolContext& c)
     {

@@ -177,8 +177,8 @@ class SelectTool final : public Tool {
     const char* hint(const ToolContext& c) const override
     {
         if (!c.polygon) return Tool::hint(c);
-        return c.down ? "Space: corner · Enter: close · Esc: drop"
-                      : "Click: corner · Enter or double click: close · Esc: drop";
+        return c.down ? QT_TRANSLATE_NOOP("Tools", "Space: corner · Enter: close · Esc: drop")
+                      : QT_TRANSLATE_NOOP("Tools", "Click: corner · Enter or double click: close · Esc: drop");
     }
 };
 

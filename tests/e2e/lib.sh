@@ -11,7 +11,8 @@ touch "$folder/portable" # user data stays there
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home/.config XDG_DATA_HOME=$scratch/home/.local XDG_RUNTIME_DIR=$scratch/run
 export ASAN_OPTIONS=detect_leaks=0:exitcode=99
 export DBUS_SESSION_BUS_ADDRESS=unix:path=$scratch/no-bus
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY XDG_SESSION_TYPE QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
+export LC_ALL=C.UTF-8 # the texts are looked for in English
+unset LANGUAGE QT_QPA_PLATFORM WAYLAND_DISPLAY XDG_SESSION_TYPE QT_SCALE_FACTOR XDG_CURRENT_DESKTOP || true
 pids=""
 editor="" main="" # its process and the frame's window
 seed=${VELARA_SEED:-$(od -An -N2 -tu2 /dev/urandom | tr -d ' ')} # of what is random

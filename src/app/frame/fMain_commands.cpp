@@ -236,7 +236,7 @@ void fMain::search()
 {
     std::vector<SearchRow> rows = bars_->searchRows();
     for (const ToolRow& tool : toolRows())
-        rows.push_back({findChild<QAction*>(tool.name), tr(tool.caption), tr("Tool")});
+        rows.push_back({findChild<QAction*>(tool.name), shown("Tools", tool.caption), tr("Tool")});
     auto* window = new fSearch(std::move(rows), this);
     window->show();
     window->activateWindow();

@@ -54,10 +54,10 @@ QString nameOfPage(const FileFacts& file)
 /// Why a save that wrote nothing, and told nothing, didn't; a line of its own, or nothing.
 QString whyNotWritten(bool hasPicture, const QString& path)
 {
-    if (!hasPicture) return QStringLiteral("\nThere is no picture in it.");
+    if (!hasPicture) return fMain::tr("\nThere is no picture in it.");
     const Format* format = formatOf(path);
     if (format && format->saving != Saving::No) return {};
-    return QStringLiteral("\n\".%1\" is no format that is written.").arg(printable(extensionOf(path)));
+    return fMain::tr("\n\".%1\" is no format that is written.").arg(printable(extensionOf(path)));
 }
 
 } // namespace
@@ -103,7 +103,7 @@ void fMain::showName(const DocumentHandle& document)
     showTitle();
 }
 
-void fMain::showLoadError() { platform_.tell("Unexpected error loading image", Icon::Exclamation); }
+void fMain::showLoadError() { platform_.tell(tr("Unexpected error loading image"), Icon::Exclamation); }
 
 /// One message for all; the recent list omits them from now on.
 void fMain::showGone(const QStringList& paths)
@@ -206,7 +206,7 @@ void fMain::openFiles(const QStringList& paths, std::function<void(const QString
 
 void fMain::open()
 {
-    if (const auto path = platform_.openFileName({"Open file", openFilter(), dialogFolder_, "*.bmp"}))
+    if (const auto path = platform_.openFileName({tr("Open file"), openFilter(), dialogFolder_, "*.bmp"}))
         openPicture(*path);
 }
 
@@ -228,7 +228,10 @@ void fMain::FillRecent()
         while (entry.endsWith(' ')) entry.chop(1);
         QAction* item = bars_->item("@RECENT", i);
         const bool found = !entry.isEmpty() && isThere(entry);
-        item->setText(found ? platform_.compactPath(printable(entry), 400).replace('&', "&&") : i == 0 ? "Empty" : "");
+        item->setText(found    ? platform_.compactPath(printable(entry), 400).replace('&', "&&")
+                      : i == 0 ? tr("Empty")
+                               : "");
+        item->setData(found);
         item->setEnabled(found || i == 0);
         item->setVisible(found || i == 0); // a lost file stays in the list, but has no line in the menu
     }
@@ -301,7 +304,7 @@ void fMain::saveAs(fImage& asked)
     const Format* has = findFormat(file.format.toStdString());
     const bool isOther = has && has->saved() && !otherKind(file.name(), file.format).isEmpty();
     const QString usual = isOther ? file.format : own && own->saved() ? extensionOf(file.path) : QStringLiteral("png");
-    FileDialog dialog{"Save as", saveFilter(), dialogFolder_};
+    FileDialog dialog{tr("Save as"), saveFilter(), dialogFolder_};
     dialog.extension = usual;
     dialog.name = withEnding(nameOfPage(file), usual);
     dialog.writtenAs = [usual](const QString& name) { return saveTargetOf(withExtension(name, usual)).file; };
@@ -331,15 +334,16 @@ void fMain::saveTo(fImage& image, const QString& path)
     const bool slow = format && format->has(SavesSlowly);
     if (slow) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const bool hasPicture = image.PictureExists();
-    workspace_.save(
-        image.document().handle(), path, [this, slow, hasPicture, path, name, saving](const SaveReport& report) {
-            if (slow) QGuiApplication::restoreOverrideCursor();
-            if (status_->currentMessage() == printable(saving)) status_->clearMessage();
-            if (report.result == SaveResult::Stopped) return status_->say(tr("%1 is not saved.").arg(name));
-            report.tell(platform_);
-            if (report.result != SaveResult::Written && report.text.isEmpty())
-                platform_.tell("Unexpected error saving image" + whyNotWritten(hasPicture, path), Icon::Exclamation);
-        });
+    workspace_.save(image.document().handle(), path,
+                    [this, slow, hasPicture, path, name, saving](const SaveReport& report) {
+                        if (slow) QGuiApplication::restoreOverrideCursor();
+                        if (status_->currentMessage() == printable(saving)) status_->clearMessage();
+                        if (report.result == SaveResult::Stopped) return status_->say(tr("%1 is not saved.").arg(name));
+                        report.tell(platform_);
+                        if (report.result != SaveResult::Written && report.text.isEmpty())
+                            platform_.tell(tr("Unexpected error saving image") + whyNotWritten(hasPicture, path),
+                                           Icon::Exclamation);
+                    });
 }
 
 void fMain::closeActive()

@@ -15,11 +15,11 @@ namespace {
 QStringList warningsOf(const FileFacts& file)
 {
     QStringList lines;
-    if (file.pages > 1) lines << fMain::tr("It has %1 pages; this one alone would be left of it.").arg(file.pages);
+    if (file.pages > 1) lines << fMain::tr("It has %n pages; this one alone would be left of it.", nullptr, file.pages);
     const Format* named = formatOf(file.path);
     if (named && !otherKind(file.name(), file.format).isEmpty())
         lines << fMain::tr("It is %1 picture; saved under this name it would become %2 picture.")
-                     .arg(text(findFormat(file.format.toStdString())->name), text(named->name));
+                     .arg(shown("Formats", findFormat(file.format.toStdString())->name), shown("Formats", named->name));
     return lines;
 }
 
@@ -77,7 +77,7 @@ bool fMain::mayLosePages(const FileFacts& file, const QString& target)
 {
     if (file.pages == 1 || !file.isFile || QFileInfo(target) != QFileInfo(file.path)) return true;
     const QString question = platform_.compactPath(printable(target), 400) +
-                             tr("\nIt has %1 pages; this one alone would be left of it.").arg(file.pages);
+                             tr("\nIt has %n pages; this one alone would be left of it.", nullptr, file.pages);
     return platform_.choose(tr("Save"), question, {tr("&Overwrite")}) == 0;
 }
 

@@ -37,9 +37,9 @@ void fMain::crop()
         if (!document || !document->PictureExists()) return;
         switch (cropAnswer(*document)) {
         case CropAnswer::NothingSelected:
-            return platform_.message("Crop", "Nothing selected", Icon::Information);
+            return platform_.message(tr("Crop"), tr("Nothing selected"), Icon::Information);
         case CropAnswer::TooSmall:
-            return platform_.message("Crop", "Minimum size: 2 x 2", Icon::Information);
+            return platform_.message(tr("Crop"), tr("Minimum size: 2 x 2"), Icon::Information);
         case CropAnswer::Possible:
             return change("CROP", document, cropImage, QStringLiteral("CROP"));
         }

@@ -17,13 +17,13 @@ struct PanelRow {
 
 // clang-format off
 constexpr PanelRow kPanels[] = {
-    {Panel::Pos,  "Pos",  "Position of the pointer",   "X:00000 Y:00000"},
-    {Panel::Ext,  "Ext",  "Extent of the drag",        "00000,00000"},
-    {Panel::Size, "Size", "Size of the picture",       "00000x00000"},
-    {Panel::Page, "Page", "Page of the file",          "00 of 00"},
-    {Panel::Name, "Name", "Name of the picture",       ""},
-    {Panel::Hint, "Hint", "Keys of what is under way", ""},
-    {Panel::Zoom, "Zoom", "Zoom",                      "00 : 1"},
+    {Panel::Pos,  "Pos",  QT_TRANSLATE_NOOP("velara::fStatus", "Position of the pointer"),   "X:00000 Y:00000"},
+    {Panel::Ext,  "Ext",  QT_TRANSLATE_NOOP("velara::fStatus", "Extent of the drag"),        "00000,00000"},
+    {Panel::Size, "Size", QT_TRANSLATE_NOOP("velara::fStatus", "Size of the picture"),       "00000x00000"},
+    {Panel::Page, "Page", QT_TRANSLATE_NOOP("velara::fStatus", "Page of the file"),          "00 of 00"},
+    {Panel::Name, "Name", QT_TRANSLATE_NOOP("velara::fStatus", "Name of the picture"),       ""},
+    {Panel::Hint, "Hint", QT_TRANSLATE_NOOP("velara::fStatus", "Keys of what is under way"), ""},
+    {Panel::Zoom, "Zoom", QT_TRANSLATE_NOOP("velara::fStatus", "Zoom"),                      "00 : 1"},
 };
 // clang-format on
 
@@ -53,8 +53,9 @@ fStatus::fStatus(QWidget* parent) : QStatusBar(parent)
     auto* row = new QHBoxLayout(info);
     row->setContentsMargins(4, 0, 4, 0);
     for (const PanelRow& p : kPanels) {
-        auto* label = named(*p.widest ? new QLabel(info) : new fShortened(info), QString("sbInfo_") + p.key, p.meaning);
-        label->setToolTip(p.meaning);
+        auto* label =
+            named(*p.widest ? new QLabel(info) : new fShortened(info), QString("sbInfo_") + p.key, tr(p.meaning));
+        label->setToolTip(tr(p.meaning));
         label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         label->setTextFormat(Qt::PlainText);
         if (*p.widest)
@@ -88,7 +89,7 @@ void fStatus::setPanel(Panel panel, const QString& text)
 void fStatus::setPath(const QString& path)
 {
     QLabel* label = panels_[static_cast<int>(Panel::Name)];
-    label->setToolTip(path.isEmpty() ? QString("Name of the picture") : printable(path));
+    label->setToolTip(path.isEmpty() ? tr("Name of the picture") : printable(path));
 }
 
 QString fStatus::panel(Panel panel) const { return panels_[static_cast<int>(panel)]->text(); }

@@ -3,6 +3,7 @@
 // filters' progress bar.
 #pragma once
 #include "document/road/Frame.h"
+#include "platform/desktop/dialogs/shownReason.h"
 #include "seams/printable.h"
 #include <QLabel>
 #include <QProgressBar>
@@ -21,7 +22,7 @@ class fStatus final : public QStatusBar {
     /// The whole path of the named picture, as its hover text.
     void setPath(const QString& path);
     /// A message to the user, shown for eight seconds, or until something else begins.
-    void say(const QString& text) { showMessage(printable(text), 8000); }
+    void say(const QString& text) { showMessage(printable(shownReason(text)), 8000); }
     /// Percent; negative values are ignored.
     void setProgress(int percent);
 

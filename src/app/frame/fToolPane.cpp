@@ -76,11 +76,11 @@ QWidget* fToolPane::makeStrip()
     };
     int number = 0;
     for (const ToolRow& tool : toolRows()) {
-        QToolButton* button = add(++number, tool.name, tr(tool.caption), true);
-        button->setToolTip(QString("%1 (%2)").arg(tr(tool.caption)).arg(QLatin1Char(tool.key)));
+        QToolButton* button = add(++number, tool.name, shown("Tools", tool.caption), true);
+        button->setToolTip(QString("%1 (%2)").arg(button->accessibleName()).arg(QLatin1Char(tool.key)));
         group_.addButton(button);
     }
-    for (const StripRow& row : stripRows()) add(row.number, text(row.key), text(row.caption), row.checkable);
+    for (const StripRow& row : stripRows()) add(row.number, text(row.key), shown("Menus", row.caption), row.checkable);
     return strip;
 }
 

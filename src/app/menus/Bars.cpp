@@ -54,10 +54,13 @@ void Bars::mark(std::string_view word, int index, bool on)
 
 void Bars::nameStep(std::string_view word, const QString& step, bool exists)
 {
-    const QString what = nameOf(word), whole = step.isEmpty() ? what : what + ' ' + step;
+    const bool isUndo = word == "UNDO";
+    const QString what = isUndo ? tr("&Undo %1") : tr("&Redo %1");
     QAction *inMenu = item(word), *onBar = button(word);
-    inMenu->setText('&' + what + whole.mid(what.size()).replace('&', "&&"));
-    onBar->setToolTip(withKey(whole, *inMenu));
+    const QString bare = shown("Menus", isUndo ? "&Undo" : "&Redo");
+    const QString whole = step.isEmpty() ? bare : what.arg(QString(step).replace('&', "&&"));
+    inMenu->setText(whole);
+    onBar->setToolTip(withKey(plainCaption(whole), *inMenu));
     for (QAction* action : {inMenu, onBar}) action->setEnabled(exists);
 }
 
@@ -68,11 +71,11 @@ std::vector<SearchRow> Bars::searchRows() const
         const MenuRow& row = *named.row;
         QAction* action = item(row.word, findCommandWord(row.word)->count > 1 ? row.index : 0);
         const bool isFile = row.word == "@RECENT";
-        if (row.word == "@SEARCH" || (isFile && (!action->isVisible() || action->text() == "Empty"))) continue;
+        if (row.word == "@SEARCH" || (isFile && (!action->isVisible() || !action->data().toBool()))) continue;
         if (std::ranges::any_of(rows, [action](const SearchRow& other) { return other.action == action; })) continue;
         const bool isStep = row.word == "UNDO" || row.word == "REDO";
         rows.push_back({action, isFile || isStep ? plainCaption(action->text()) : named.name, named.path,
-                        text(helpOf(row.word).finds), int(lastUsed_.indexOf(text(row.word)))});
+                        shown("Search words", helpOf(row.word).finds), int(lastUsed_.indexOf(text(row.word)))});
     }
     std::ranges::stable_sort(rows, {}, [](const SearchRow& row) { return unsigned(row.lastUsed); }); // -1: never
     return rows;

@@ -31,7 +31,11 @@ QChar keyIn(const QString& caption)
 struct AccessKeys {
     QHash<QChar, QAction*> owner;
 
-    bool isFree(QChar key) const { return (key.isLetterOrNumber() || key == u'%') && !owner.contains(key); }
+    /// Letters that a keyboard has; those of Chinese are typed by several keys.
+    bool isFree(QChar key) const
+    {
+        return ((key.isLetterOrNumber() && key.script() != QChar::Script_Han) || key == u'%') && !owner.contains(key);
+    }
     /// Gives the item the first letter of its caption that is free; if none is, that of another one which can take
     /// another letter of its own. tried: letters that have been looked at on the way.
     bool give(QAction* item, QSet<QChar>& tried)
@@ -76,11 +80,11 @@ QList<QKeySequence> sequencesOf(const QString& shortcuts)
 
 void Bars::addItem(QMenu& menu, const MenuRow& row)
 {
-    QAction* item = menu.addAction(text(row.caption));
+    QAction* item = menu.addAction(shown("Menus", row.caption));
     item->setObjectName(text(row.array) + "_" + QString::number(row.index));
     item->setShortcuts(sequencesOf(text(row.shortcuts)));
     makeTrigger(item, row.word, findCommandWord(row.word)->count > 1 ? row.index : 0, true);
-    const QString about = text(helpOf(row.word).about);
+    const QString about = shown("Menus", helpOf(row.word).about);
     if (!item->isEnabled()) item->setToolTip(tr("Not available yet"));
     if (item->isEnabled() && !about.isEmpty()) item->setToolTip(about);
     item->setCheckable(row.checkable);
@@ -93,8 +97,8 @@ void Bars::buildMenus()
         switch (row.kind) {
         case MenuKind::Menu:
         case MenuKind::SubMenu: {
-            QMenu* menu =
-                open.empty() ? window_.menuBar()->addMenu(text(row.caption)) : open.back()->addMenu(text(row.caption));
+            const QString caption = shown("Menus", row.caption);
+            QMenu* menu = open.empty() ? window_.menuBar()->addMenu(caption) : open.back()->addMenu(caption);
             menu->setObjectName(text(row.array));
             menu->setToolTipsVisible(true);
             open.push_back(menu);
@@ -122,7 +126,7 @@ void Bars::buildToolbars()
 {
     std::size_t index = 0;
     for (const BarRow& row : barRows()) {
-        auto* bar = named(new QToolBar(text(row.caption), &window_), text(row.name));
+        auto* bar = named(new QToolBar(shown("Menus", row.caption), &window_), text(row.name));
         bar->setIconSize({22, 22});
         fillToolbar(bar, row.buttons);
         bars_[index++] = bar;
@@ -144,14 +148,15 @@ void Bars::fillToolbar(QToolBar* bar, std::string_view buttons)
         if (row.bar != buttons) continue;
         if (last && row.number > last + 1) bar->addSeparator();
         last = row.number;
-        QAction* action = bar->addAction(text(row.caption));
+        const QString caption = shown("Menus", row.caption);
+        QAction* action = bar->addAction(caption);
         action->setObjectName(text(row.bar) + "_" + QString::number(row.number));
         makeTrigger(action, row.word, 0, false);
         const QAction* inMenu = item(row.word);
-        const QString hover = inMenu ? withKey(text(row.caption), *inMenu) : text(row.caption);
+        const QString hover = inMenu ? withKey(caption, *inMenu) : caption;
         action->setToolTip(action->isEnabled() ? hover : hover + tr(" (not available yet)"));
         auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
-        named(button, action->objectName(), text(row.caption));
+        named(button, action->objectName(), caption);
         addDrops(action, button, row);
     }
 }
@@ -165,7 +170,7 @@ void Bars::addDrops(QAction* action, QToolButton* button, const ButtonRow& row)
         if (!drop) drop = new QMenu(button);
         if (last && item.item > last + 1) drop->addSeparator();
         last = item.item;
-        QAction* entry = drop->addAction(text(item.caption));
+        QAction* entry = drop->addAction(shown("Menus", item.caption));
         entry->setObjectName(action->objectName() + "_" + QString::number(item.item));
         makeTrigger(entry, item.word, 0, false);
     }

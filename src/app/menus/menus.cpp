@@ -2,6 +2,7 @@
 #include "commands/vocabulary.h"
 #include "seams/text.h"
 #include "tools/toolRows.h"
+#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 #include <string>
@@ -320,6 +321,8 @@ static_assert(std::ranges::all_of(kMenuParts,
                                   }),
               "a part of kMenuParts has no place: add a row {Words, part} to kMenus in src/app/menus/menus.cpp");
 
+constexpr std::string_view kCustom = "Custom ...";
+
 /// LIGHT, HEAVY or CUSTOM plus the name of the menu, as in the vocabulary.
 std::string_view strengthWord(const char* strength, std::string_view menu)
 {
@@ -332,7 +335,7 @@ void appendStrengths(std::vector<MenuRow>& all, const MenuRow& row)
                            {Item, row.array, 0, "Light", strengthWord("LIGHT", row.array)},
                            {Item, row.array, 1, "Heavy", strengthWord("HEAVY", row.array)},
                            {Separator},
-                           {Item, row.array, 3, "Custom ...", strengthWord("CUSTOM", row.array)},
+                           {Item, row.array, 3, kCustom, strengthWord("CUSTOM", row.array)},
                            {End}});
 }
 
@@ -386,30 +389,29 @@ std::span<const MenuRow> menuRows()
 
 QString plainCaption(QString caption)
 {
+    static const QRegularExpression keyAtTheEnd(QStringLiteral("\\(&.\\)")); // where the letters are no keys
     if (caption.endsWith(" ...")) caption.chop(4);
+    caption.remove(keyAtTheEnd);
     return caption.replace("&&", "\1").remove('&').replace('\1', '&');
 }
 
-const std::vector<NamedItem>& namedItems()
+std::vector<NamedItem> namedItems()
 {
-    static const std::vector<NamedItem> items = [] {
-        std::vector<NamedItem> all;
-        QStringList menus;
-        for (const MenuRow& row : menuRows()) {
-            const QString caption = plainCaption(text(row.caption));
-            if (row.kind == Menu || row.kind == SubMenu) menus << caption;
-            if (row.kind == End) menus.removeLast();
-            if (row.kind != Item) continue;
-            const bool isInner = menus.size() > 1;
-            all.push_back({&row,
-                           isInner && caption == "Custom" ? menus.back()
-                           : isInner                      ? menus.back() + ": " + caption
-                                                          : caption,
-                           menus.join(QStringLiteral(" › "))});
-        }
-        return all;
-    }();
-    return items;
+    std::vector<NamedItem> all;
+    QStringList menus;
+    for (const MenuRow& row : menuRows()) {
+        const QString caption = plainCaption(shown("Menus", row.caption));
+        if (row.kind == Menu || row.kind == SubMenu) menus << caption;
+        if (row.kind == End) menus.removeLast();
+        if (row.kind != Item) continue;
+        const bool isInner = menus.size() > 1;
+        all.push_back({&row,
+                       isInner && row.caption == kCustom ? menus.back()
+                       : isInner                         ? menus.back() + ": " + caption
+                                                         : caption,
+                       menus.join(QStringLiteral(" › "))});
+    }
+    return all;
 }
 
 QString nameOf(std::string_view word)
@@ -417,7 +419,7 @@ QString nameOf(std::string_view word)
     for (const NamedItem& item : namedItems())
         if (item.row->word == word) return item.name;
     const auto button = std::ranges::find(kButtons, word, &ButtonRow::word);
-    return button == std::end(kButtons) ? QString() : text(button->caption);
+    return button == std::end(kButtons) ? QString() : shown("Menus", button->caption);
 }
 
 std::span<const ButtonRow> buttonRows() { return kButtons; }

@@ -44,7 +44,7 @@ struct NamedItem {
     QString name, path;
 };
 /// All items, top down.
-const std::vector<NamedItem>& namedItems();
+std::vector<NamedItem> namedItems();
 /// The name of a word's first item, or the caption of its button; empty without one.
 QString nameOf(std::string_view word);
 

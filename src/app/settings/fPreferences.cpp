@@ -1,9 +1,11 @@
 #include "app/settings/fPreferences.h"
+#include "app/settings/language.h"
 #include "app/settings/pictureSettings.h"
 #include "seams/Platform.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,12 +26,12 @@ struct FlagRow {
 
 // clang-format off
 constexpr FlagRow kFlagsAbove[] = {
-    {"chkiPMaximized",     "&Open iP maximized ",     &Setup::FrameMaximized},
-    {"chkImagesMaximized", "Open i&mages maximized ", &Setup::ImagesMaximized},
+    {"chkiPMaximized",     QT_TRANSLATE_NOOP("velara::fPreferences", "&Open iP maximized "),     &Setup::FrameMaximized},
+    {"chkImagesMaximized", QT_TRANSLATE_NOOP("velara::fPreferences", "Open i&mages maximized "), &Setup::ImagesMaximized},
 };
 constexpr FlagRow kFlagsBelow[] = {
-    {"chkPreserveLastFolder", "&Preserve last folder",        &Setup::PreserveLastFolder},
-    {"chkAskToSave",          "&Ask to save on Close/Exit",   &Setup::AskToSave},
+    {"chkPreserveLastFolder", QT_TRANSLATE_NOOP("velara::fPreferences", "&Preserve last folder"),        &Setup::PreserveLastFolder},
+    {"chkAskToSave",          QT_TRANSLATE_NOOP("velara::fPreferences", "&Ask to save on Close/Exit"),   &Setup::AskToSave},
 };
 // clang-format on
 
@@ -41,7 +43,8 @@ QString rightTrimmed(QString text)
 
 void addFlag(QBoxLayout* column, const FlagRow& row, Setup& copy)
 {
-    auto* box = named(new QCheckBox(row.caption), row.control, QString(row.caption).remove('&').trimmed());
+    auto* box = new QCheckBox(fPreferences::tr(row.caption));
+    named(box, row.control, box->text().remove('&').trimmed());
     box->setChecked(copy.*row.field);
     QObject::connect(box, &QCheckBox::toggled, box, [&copy, field = row.field](bool on) { copy.*field = on; });
     column->addWidget(box);
@@ -53,18 +56,18 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     : QDialog(parent), platform_(platform), setup_(setup), copy_(setup), path_(new QLineEdit)
 {
     setObjectName("fPreferences");
-    setWindowTitle(kProgramName + ": Options");
+    setWindowTitle(tr("%1: Options").arg(kProgramName));
 
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     for (const FlagRow& row : kFlagsAbove) addFlag(column, row, copy_);
 
-    auto* label = new QLabel("Images default &folder");
+    auto* label = new QLabel(tr("Images default &folder"));
     label->setBuddy(path_);
     column->addSpacing(6);
     column->addWidget(label);
     auto* line = new QHBoxLayout;
-    named(path_, "txtImagesPath", "Images default folder");
+    named(path_, "txtImagesPath", tr("Images default folder"));
     path_->setMinimumWidth(320);
     path_->setText(rightTrimmed(copy_.ImagesPath));
     connect(path_, &QLineEdit::textEdited, this, [this](const QString& text) { copy_.ImagesPath = text; });
@@ -81,6 +84,8 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     column->addWidget(screenProfile_ =
                           named(new QCheckBox(tr("&Show pictures by the screen's color profile")), "chkScreenProfile"));
     screenProfile_->setChecked(pictureSetting(platform_, PictureSetting::ScreenProfile));
+    column->addSpacing(6);
+    column->addLayout(makeLanguage());
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -95,9 +100,24 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     all->addWidget(buttons);
 }
 
+QLayout* fPreferences::makeLanguage()
+{
+    language_ = named(new QComboBox, "cboLanguage", tr("Language"));
+    language_->addItem(tr("As the system"), QString());
+    for (const Language& each : languages()) language_->addItem(QString::fromUtf8(each.name), QString(each.code));
+    language_->setCurrentIndex(language_->findData(chosenLanguage(platform_)));
+    auto* label = new QLabel(tr("&Language"));
+    label->setBuddy(language_);
+    auto* line = new QHBoxLayout;
+    for (QWidget* each : std::initializer_list<QWidget*>{label, language_, new QLabel(tr("from the next start on"))})
+        line->addWidget(each);
+    line->addStretch();
+    return line;
+}
+
 void fPreferences::browse()
 {
-    const QString folder = BrowseForFolder(platform_, "Select Images default folder", this, copy_.ImagesPath);
+    const QString folder = BrowseForFolder(platform_, tr("Select Images default folder"), this, copy_.ImagesPath);
     if (folder.isEmpty()) return;
     copy_.ImagesPath = folder.endsWith('/') ? folder : folder + '/';
     path_->setText(copy_.ImagesPath);
@@ -108,6 +128,7 @@ void fPreferences::accept()
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
     setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
     setPictureSetting(platform_, PictureSetting::ScreenProfile, screenProfile_->isChecked());
+    chooseLanguage(platform_, language_->currentData().toString());
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

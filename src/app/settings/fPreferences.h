@@ -4,6 +4,8 @@
 #include <QDialog>
 
 class QCheckBox;
+class QComboBox;
+class QLayout;
 class QLineEdit;
 
 namespace velara {
@@ -18,13 +20,15 @@ class fPreferences final : public QDialog {
     void accept() override;
 
   private:
+    QLayout* makeLanguage();
     void browse();
 
     Platform& platform_;
     Setup& setup_;
     Setup copy_;
     QLineEdit* path_;
-    QCheckBox *convert_, *screenProfile_; // kept in the user's settings, not in the record
+    QCheckBox *convert_, *screenProfile_; // kept in the user's settings, not in the record,
+    QComboBox* language_;                 // as is this one
 };
 
 } // namespace velara

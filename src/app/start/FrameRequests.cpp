@@ -22,7 +22,7 @@ void tell(Platform& platform, const QStringList& reasons)
         if (!reason.isEmpty()) lines << reason;
     if (lines.isEmpty()) return;
     QString more;
-    if (lines.size() > kMostShown) more = QObject::tr("\nand %1 more").arg(lines.size() - kMostShown);
+    if (lines.size() > kMostShown) more = QObject::tr("\nand %n more", nullptr, int(lines.size() - kMostShown));
     platform.tell(lines.mid(0, kMostShown).join(u'\n') + more, Icon::Exclamation);
 }
 

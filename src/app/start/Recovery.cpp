@@ -24,7 +24,7 @@ Offer offerOf(std::shared_ptr<Leftover> leftover)
     const FileFacts& file = leftover->about().file;
     QStringList facts{Recovery::tr("Changed on %1").arg(QLocale().toString(when, QLocale::ShortFormat))};
     const int steps = leftover->states() - 1;
-    if (steps > 0) facts << (steps == 1 ? Recovery::tr("1 step") : Recovery::tr("%1 steps").arg(steps));
+    if (steps > 0) facts << (steps == 1 ? Recovery::tr("1 step") : Recovery::tr("%n steps", nullptr, steps));
     if (!leftover->about().texts.empty()) facts << Recovery::tr("texts that are not merged yet");
     Offer offer{leftover, printable(file.caption()), {}, facts.join(QStringLiteral(", ")), leftover->trouble(), {}};
     if (file.path.contains(u'/')) offer.path = printable(file.path);
@@ -150,8 +150,8 @@ void Recovery::discard(const std::vector<const Leftover*>& chosen)
         if (std::ranges::count(chosen, offer.leftover.get())) names << offer.name;
     if (names.isEmpty()) return;
     const QPointer<Recovery> self = this;
-    const QString what =
-        names.size() == 1 ? frame_.platform().compactPath(names[0], kPathPixels) : tr("%1 pictures").arg(names.size());
+    const QString what = names.size() == 1 ? frame_.platform().compactPath(names[0], kPathPixels)
+                                           : tr("%n pictures", nullptr, int(names.size()));
     const int answer = frame_.platform().choose(kProgramName,
                                                 tr("Discard the unsaved changes of %1?\nThey can't be "
                                                    "recovered after that.")

@@ -14,23 +14,23 @@ struct Library {
 
 constexpr Library kLibraries[] = {
     // clang-format off
-    {"libjpeg-turbo, libpng, libtiff, FreeImage", "picture files"},
-    {"giflib, libimagequant", "GIF and palettes"},
-    {"libwmf, libemf2svg",   "metafiles"},
-    {"SANE",                 "scanners"},
-    {"CUPS",                 "printers"},
-    {"Highway",              "vector arithmetic"},
-    {"libseccomp",           "the cage of the decoders"},
-    {"Breeze",               "icons"},
+    {"libjpeg-turbo, libpng, libtiff, FreeImage", QT_TRANSLATE_NOOP("velara::fAboutFacts", "picture files")},
+    {"giflib, libimagequant", QT_TRANSLATE_NOOP("velara::fAboutFacts", "GIF and palettes")},
+    {"libwmf, libemf2svg",   QT_TRANSLATE_NOOP("velara::fAboutFacts", "metafiles")},
+    {"SANE",                 QT_TRANSLATE_NOOP("velara::fAboutFacts", "scanners")},
+    {"CUPS",                 QT_TRANSLATE_NOOP("velara::fAboutFacts", "printers")},
+    {"Highway",              QT_TRANSLATE_NOOP("velara::fAboutFacts", "vector arithmetic")},
+    {"libseccomp",           QT_TRANSLATE_NOOP("velara::fAboutFacts", "the cage of the decoders")},
+    {"Breeze",               QT_TRANSLATE_NOOP("velara::fAboutFacts", "icons")},
     // clang-format on
 };
 
 QString libraries()
 {
-    QString rows = QStringLiteral("<tr><td>Qt %1&nbsp;&nbsp;</td><td>windows</td></tr>").arg(QLatin1String(qVersion()));
+    const QString row = QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>");
+    QString rows = row.arg(QStringLiteral("Qt ") + QLatin1String(qVersion()), fAboutFacts::tr("windows"));
     for (const Library& library : kLibraries)
-        rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
-                    .arg(QLatin1String(library.name), QLatin1String(library.does));
+        rows += row.arg(QLatin1String(library.name), fAboutFacts::tr(library.does));
     return QStringLiteral("<table cellspacing=1>") + rows + QStringLiteral("</table>");
 }
 

@@ -14,7 +14,7 @@ fSplash::fSplash(Platform& platform, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), platform_(platform), ripples_(splashPicture())
 {
     setObjectName("fSplash");
-    setWindowTitle("About Velara Studio");
+    setWindowTitle(tr("About Velara Studio"));
     setAccessibleName(kProgramName);
     const QImage& picture = ripples_.picture();
     const QString program = platform.programFolder(), folder = userFolder(program, UserFolder::Cache);

@@ -24,9 +24,9 @@ struct StartRow {
     const char *word, *caption, *name;
 };
 constexpr StartRow kStarts[] = {
-    {"NEW", QT_TRANSLATE_NOOP("fStartPage", "&New ..."), "cmdStartNew"},
-    {"OPEN", QT_TRANSLATE_NOOP("fStartPage", "&Open ..."), "cmdStartOpen"},
-    {"CREATEFROMCLIPBOARD", QT_TRANSLATE_NOOP("fStartPage", "From the &clipboard"), "cmdStartPaste"},
+    {"NEW", QT_TRANSLATE_NOOP("velara::fStartPage", "&New ..."), "cmdStartNew"},
+    {"OPEN", QT_TRANSLATE_NOOP("velara::fStartPage", "&Open ..."), "cmdStartOpen"},
+    {"CREATEFROMCLIPBOARD", QT_TRANSLATE_NOOP("velara::fStartPage", "From the &clipboard"), "cmdStartPaste"},
 };
 constexpr int kMargin = 24;
 constexpr int kSide = 128;           // of the recent pictures

@@ -24,7 +24,6 @@ namespace velara {
 namespace {
 
 const QString kExtension = QStringLiteral("recipe");
-const QString kFilter = QStringLiteral("Recipe (*.recipe)|*.recipe|All files (*)|*");
 
 /// The arguments of a command line, quoted for a shell; comments are left out.
 QStringList argumentsOf(const QStringList& lines)
@@ -53,6 +52,12 @@ struct Replay {
     int waiting = 0, done = 0;
     QStringList failed;
 };
+
+QString fileFilter()
+{
+    return Recipes::tr("Recipe (*.recipe)") + QStringLiteral("|*.recipe|") + Recipes::tr("All files (*)") +
+           QStringLiteral("|*");
+}
 
 } // namespace
 
@@ -116,7 +121,7 @@ void Recipes::save(const DocumentHandle& document, int from)
     const auto lines = linesOf(document, from);
     if (!lines || !document) return;
     QDir().mkpath(folder());
-    FileDialog dialog{tr("Save recipe"), kFilter, folder()};
+    FileDialog dialog{tr("Save recipe"), fileFilter(), folder()};
     dialog.extension = kExtension;
     dialog.name = proposedName(document);
     dialog.defaultPattern = QStringLiteral("*.recipe");
@@ -132,20 +137,22 @@ void Recipes::save(const DocumentHandle& document, int from)
 
 void Recipes::choose()
 {
-    const FileDialog dialog{tr("Run recipe"), kFilter, folder(), QStringLiteral("*.recipe")};
+    const FileDialog dialog{tr("Run recipe"), fileFilter(), folder(), QStringLiteral("*.recipe")};
     const QPointer<Recipes> stands = this;
     const auto path = frame_.platform().openFileName(dialog);
     if (stands && path) run(*path);
 }
 
 std::optional<Recipe> Recipes::read(const QString& path)
-try {
-    Recipe recipe = Recipe::read(path);
-    if (recipe.steps.empty()) throw unusable(path + tr(": there is no step in it"));
-    return recipe;
-} catch (const StepFault& fault) {
-    frame_.platform().tell(tr("This recipe can't be run:\n") + printable(fault.text), Icon::Exclamation);
-    return {};
+{
+    try {
+        Recipe recipe = Recipe::read(path);
+        if (recipe.steps.empty()) throw unusable(path + tr(": there is no step in it"));
+        return recipe;
+    } catch (const StepFault& fault) {
+        frame_.platform().tell(tr("This recipe can't be run:\n") + printable(fault.text), Icon::Exclamation);
+        return {};
+    }
 }
 
 void Recipes::run(const QString& path)
@@ -182,7 +189,7 @@ void Recipes::runOnOthers(const DocumentHandle& from, int step)
                         : void(replay->failed << name + QStringLiteral(": ") +
                                                      (outcome.reason.isEmpty() ? tr("cancelled") : outcome.reason));
                 if (--replay->waiting > 0 || frame_.isClosed()) return;
-                frame_.status().say(tr("Run on %1 pictures.").arg(replay->done));
+                frame_.status().say(tr("Run on %n pictures.", nullptr, replay->done));
                 QStringList shown;
                 for (const QString& line : replay->failed.mid(0, 12)) shown << printable(line);
                 if (!shown.isEmpty())
@@ -221,7 +228,7 @@ void Recipes::showFolderRun()
                                [path = QDir(folder()).filePath(file)] { return std::optional(path); }});
         choices.push_back({tr("Another file ..."), [this] {
                                return frame_.platform().openFileName(
-                                   {tr("Choose a recipe"), kFilter, folder(), QStringLiteral("*.recipe")});
+                                   {tr("Choose a recipe"), fileFilter(), folder(), QStringLiteral("*.recipe")});
                            }});
         window =
             new fFolderRun(frame_.platform(), findHelper(QStringLiteral("velara-batch")),

@@ -20,8 +20,10 @@ void setAsWallpaper(fMain& frame, WallpaperMode mode)
     const fImage* image = frame.GetActiveImage();
     if (!image->PictureExists()) return;
     const auto tell = [&platform](WallpaperResult result) {
-        if (result == WallpaperResult::CantRead) platform.tell("Error getting subkey value.", Icon::Exclamation);
-        if (result == WallpaperResult::CantWrite) platform.tell("Error Setting subkey value.", Icon::Exclamation);
+        if (result == WallpaperResult::CantRead)
+            platform.tell(fMain::tr("Error getting subkey value."), Icon::Exclamation);
+        if (result == WallpaperResult::CantWrite)
+            platform.tell(fMain::tr("Error Setting subkey value."), Icon::Exclamation);
     };
     frame.workspace().write(image->bits(), path, [&platform, path, mode, tell](const SaveReport& report) {
         report.tell(platform);

@@ -87,7 +87,7 @@ void Leftover::guess()
 {
     record_ = {};
     record_.about.isUnsaved = record_.about.file.isBrought = true;
-    record_.about.file.path = text("Recovered %1").arg(files_.number());
+    record_.about.file.path = text(QT_TRANSLATE_NOOP("Leftover", "Recovered %1")).arg(files_.number());
     for (int i = 0; i < UndoStore::kLimit; ++i) {
         if (!files_.isWhole(i)) continue;
         const std::int64_t when = QFileInfo(files_.name(i)).lastModified().toMSecsSinceEpoch();
@@ -138,16 +138,22 @@ Bits Leftover::read()
 QString Leftover::trouble() const
 {
     const std::lock_guard lock(reading_);
-    if (nothing_) return text("Its pictures can't be read.");
+    if (nothing_) return text(QT_TRANSLATE_NOOP("Leftover", "Its pictures can't be read."));
     QStringList troubles;
     if (state_ == RecordState::Newer)
-        troubles << text("A newer version of the program left it: its name is not known.");
-    if (state_ == RecordState::Damaged) troubles << text("Its record is damaged: its name is not known.");
-    if (state_ == RecordState::Missing) troubles << text("Its record is missing: its name is not known.");
+        troubles << text(
+            QT_TRANSLATE_NOOP("Leftover", "A newer version of the program left it: its name is not known."));
+    if (state_ == RecordState::Damaged)
+        troubles << text(QT_TRANSLATE_NOOP("Leftover", "Its record is damaged: its name is not known."));
+    if (state_ == RecordState::Missing)
+        troubles << text(QT_TRANSLATE_NOOP("Leftover", "Its record is missing: its name is not known."));
     const bool isUndone = undone_ > 0 || (record_.step > 0 && at_[std::size_t(record_.step - 1)] < 0);
-    if (isUndone) troubles << text("The last change could not be kept: this is the one before it.");
+    if (isUndone)
+        troubles << text(
+            QT_TRANSLATE_NOOP("Leftover", "The last change could not be kept: this is the one before it."));
     const auto lost = std::ranges::count(at_, -1);
-    if (!isUndone && lost > 0) troubles << text("Not all of its steps back could be kept.");
+    if (!isUndone && lost > 0)
+        troubles << text(QT_TRANSLATE_NOOP("Leftover", "Not all of its steps back could be kept."));
     return troubles.join(u' ');
 }
 

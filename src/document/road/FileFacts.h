@@ -2,6 +2,7 @@
 #pragma once
 #include "fileio/disk/nativeName.h"
 #include "seams/CameraData.h"
+#include <QCoreApplication>
 #include <QString>
 
 namespace velara {
@@ -20,7 +21,10 @@ struct FileFacts {
 
     QString markText() const { return mark ? QStringLiteral("[%1]").arg(mark) : QString(); }
     /// "2 of 12"; empty for the only one.
-    QString pageText() const { return pages > 1 ? QStringLiteral("%1 of %2").arg(page).arg(pages) : QString(); }
+    QString pageText() const
+    {
+        return pages > 1 ? QCoreApplication::translate("FileFacts", "%1 of %2").arg(page).arg(pages) : QString();
+    }
     /// What follows the last separator, right-trimmed.
     QString name() const
     {

@@ -11,8 +11,8 @@ bool ReadingBox::goOn(std::chrono::milliseconds waited)
     if (waited < kUntilShown) return true;
     if (!shown_) {
         shown_ = true;
-        box_ = new QProgressDialog(QObject::tr("Reading %1 ...").arg(printable(name_)), QObject::tr("Cancel"), 0, 0,
-                                   parent_);
+        box_ = new QProgressDialog(QCoreApplication::translate("ReadingBox", "Reading %1 ...").arg(printable(name_)),
+                                   QCoreApplication::translate("ReadingBox", "Cancel"), 0, 0, parent_);
         box_->setObjectName("readingBox");
         box_->setWindowTitle(kProgramName);
         box_->setWindowModality(Qt::ApplicationModal);

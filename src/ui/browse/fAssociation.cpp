@@ -15,7 +15,7 @@ namespace velara {
 fAssociation::fAssociation(QWidget* parent) : QDialog(parent)
 {
     setObjectName("fAssociation");
-    setWindowTitle("File Association");
+    setWindowTitle(tr("File Association"));
     auto* column = new QVBoxLayout(this);
     auto* note = new QLabel(tr("The picture formats that Velara Studio knows. Which program opens\n"
                                "a file is chosen in the settings of your desktop."));
@@ -45,9 +45,9 @@ QWidget* fAssociation::makeRows()
     int row = 0;
     for (const Family& family : kFamilies) {
         auto* cT = named(new QCheckBox(text(family.patterns)), QString("cT_%1").arg(row),
-                         text(family.patterns) + ' ' + text(family.name));
+                         text(family.patterns) + ' ' + shown("Formats", family.name));
         grid->addWidget(cT, row, 0);
-        grid->addWidget(new QLabel(text(family.name)), row++, 1);
+        grid->addWidget(new QLabel(shown("Formats", family.name)), row++, 1);
     }
     auto* area = new QScrollArea;
     setSpokenRole(*area, QAccessible::Pane);

@@ -62,7 +62,7 @@ fBrowse::fBrowse(Platform& platform, BrowseMode mode, const QString& start, QWid
       FileName_(new fPathLabel("FileName"))
 {
     setObjectName("fBrowse");
-    setWindowTitle("Browse For Graphic Filles");
+    setWindowTitle(tr("Browse For Graphic Filles"));
     setModal(true);
     auto* column = new QVBoxLayout(this);
     auto* sides = new QSplitter;

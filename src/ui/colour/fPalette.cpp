@@ -5,6 +5,7 @@
 #include "pixels/twips.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/colour/fHexBox.h"
 #include "ui/colour/fPickSurface.h"
@@ -113,7 +114,8 @@ QWidget* fPalette::makeNumbers()
 {
     constexpr struct {
         const char *letter, *label, *name;
-    } kRows[] = {{"R", "lblR", "Red"}, {"G", "lblG", "Green"}, {"B", "lblB", "Blue"}};
+    } kRows[] = {
+        {"R", "lblR", QT_TR_NOOP("Red")}, {"G", "lblG", QT_TR_NOOP("Green")}, {"B", "lblB", QT_TR_NOOP("Blue")}};
     auto* box = new QWidget(this);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -200,7 +202,7 @@ QWidget* fPalette::makePresets()
     line->addWidget(CPL_, 1);
     for (int i = 0; i < kPresetSets; ++i) {
         const PresetSet& set = presetSet(i);
-        CPL_->addItem(QLatin1String(set.name));
+        CPL_->addItem(shown("Colors", set.name));
         auto* well = new fPresetWell(numbered("cp", i), set, box);
         connect(well, &fPresetWell::picked, this, [this](Colour colour) {
             showCurrent(colour);

@@ -31,9 +31,24 @@ struct Model {
     bool inverted;
 };
 constexpr Model kModels[] = {
-    {{"R", "G", "B"}, {"Red", "Green", "Blue"}, {"", "", ""}, Part::Red, false},
-    {{"C", "M", "Y"}, {"Cyan", "Magenta", "Yellow"}, {"", "", ""}, Part::Red, true},
-    {{"H", "S", "B"}, {"Hue", "Saturation", "Brightness"}, {"°", "%", "%"}, Part::Hue, false},
+    {{"R", "G", "B"},
+     {QT_TRANSLATE_NOOP("velara::fPicker", "Red"), QT_TRANSLATE_NOOP("velara::fPicker", "Green"),
+      QT_TRANSLATE_NOOP("velara::fPicker", "Blue")},
+     {"", "", ""},
+     Part::Red,
+     false},
+    {{"C", "M", "Y"},
+     {QT_TRANSLATE_NOOP("velara::fPicker", "Cyan"), QT_TRANSLATE_NOOP("velara::fPicker", "Magenta"),
+      QT_TRANSLATE_NOOP("velara::fPicker", "Yellow")},
+     {"", "", ""},
+     Part::Red,
+     true},
+    {{"H", "S", "B"},
+     {QT_TRANSLATE_NOOP("velara::fPicker", "Hue"), QT_TRANSLATE_NOOP("velara::fPicker", "Saturation"),
+      QT_TRANSLATE_NOOP("velara::fPicker", "Brightness")},
+     {"°", "%", "%"},
+     Part::Hue,
+     false},
 };
 
 Part partOf(const Model& model, int row) { return static_cast<Part>(static_cast<int>(model.first) + row); }
@@ -147,7 +162,7 @@ bool fPicker::leaveBox(std::size_t index)
     }
     refusing_ = true;
     const QPointer<fPicker> alive = this;
-    platform_.tell(QStringLiteral("Enter an Integer Value Between 0 and %1").arg(box.most));
+    platform_.tell(tr("Enter an Integer Value Between 0 and %1").arg(box.most));
     if (!alive) return false;
     refusing_ = false;
     box.edit->setFocus();

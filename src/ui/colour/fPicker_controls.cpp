@@ -106,15 +106,15 @@ QWidget* fPicker::makeFrame2()
     grid->setVerticalSpacing(4);
     constexpr struct {
         const char *option, *box, *name, *letter, *unit;
-    } kRows[] = {{"optH", "txtH", "Hue", "&H", "°"},
-                 {"optS", "txtS", "Saturation", "&S", "%"},
-                 {"optB", "txtB", "Brightness", "&B", "%"}};
+    } kRows[] = {{"optH", "txtH", QT_TR_NOOP("Hue"), "&H", "°"},
+                 {"optS", "txtS", QT_TR_NOOP("Saturation"), "&S", "%"},
+                 {"optB", "txtB", QT_TR_NOOP("Brightness"), "&B", "%"}};
     strips_ = new QButtonGroup(this);
     for (int i = 0; i < 3; ++i) {
         const auto part = static_cast<Part>(i);
         const QString name = tr(kRows[i].name);
-        auto* option =
-            named(new QRadioButton(QLatin1String(kRows[i].letter), frame), kRows[i].option, name + tr(" on the strip"));
+        auto* option = named(new QRadioButton(QLatin1String(kRows[i].letter), frame), kRows[i].option,
+                             tr("%1 on the strip").arg(name));
         option->setToolTip(option->accessibleName());
         option->setChecked(i == 0);
         strips_->addButton(option, i);
@@ -136,7 +136,9 @@ QWidget* fPicker::makeFrame2()
     grid->addWidget(model_, 4, 0, 1, 3);
     constexpr struct {
         const char *label, *box, *name;
-    } kParts[] = {{"lblR", "Text1", "Red"}, {"lblG", "Text2", "Green"}, {"lblB", "Text3", "Blue"}};
+    } kParts[] = {{"lblR", "Text1", QT_TR_NOOP("Red")},
+                  {"lblG", "Text2", QT_TR_NOOP("Green")},
+                  {"lblB", "Text3", QT_TR_NOOP("Blue")}};
     for (int i = 0; i < 3; ++i) {
         const auto at = static_cast<std::size_t>(i);
         letters_[at] = named(new QLabel(frame), kParts[i].label, {});

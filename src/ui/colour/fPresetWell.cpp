@@ -1,4 +1,5 @@
 #include "ui/colour/fPresetWell.h"
+#include "seams/text.h"
 #include "ui/colour/fColourCell.h"
 #include "ui/widgets/inputs/named.h"
 #include <QGridLayout>
@@ -16,24 +17,24 @@ struct Role {
     const char* name;
 };
 constexpr Role kDesktop[] = {
-    {QPalette::Window, "Window"},
-    {QPalette::WindowText, "Window text"},
-    {QPalette::Base, "Field"},
-    {QPalette::Text, "Text"},
-    {QPalette::Button, "Button"},
-    {QPalette::ButtonText, "Button text"},
-    {QPalette::Highlight, "Selection"},
-    {QPalette::HighlightedText, "Selected text"},
-    {QPalette::ToolTipBase, "Tool tip"},
-    {QPalette::ToolTipText, "Tool tip text"},
-    {QPalette::Link, "Link"},
-    {QPalette::LinkVisited, "Visited link"},
-    {QPalette::Light, "Light edge"},
-    {QPalette::Midlight, "Pale edge"},
-    {QPalette::Mid, "Middle edge"},
-    {QPalette::Dark, "Dark edge"},
-    {QPalette::Shadow, "Shadow"},
-    {QPalette::AlternateBase, "Other rows"},
+    {QPalette::Window, QT_TRANSLATE_NOOP("velara::fPresetWell", "Window")},
+    {QPalette::WindowText, QT_TRANSLATE_NOOP("velara::fPresetWell", "Window text")},
+    {QPalette::Base, QT_TRANSLATE_NOOP("velara::fPresetWell", "Field")},
+    {QPalette::Text, QT_TRANSLATE_NOOP("velara::fPresetWell", "Text")},
+    {QPalette::Button, QT_TRANSLATE_NOOP("velara::fPresetWell", "Button")},
+    {QPalette::ButtonText, QT_TRANSLATE_NOOP("velara::fPresetWell", "Button text")},
+    {QPalette::Highlight, QT_TRANSLATE_NOOP("velara::fPresetWell", "Selection")},
+    {QPalette::HighlightedText, QT_TRANSLATE_NOOP("velara::fPresetWell", "Selected text")},
+    {QPalette::ToolTipBase, QT_TRANSLATE_NOOP("velara::fPresetWell", "Tool tip")},
+    {QPalette::ToolTipText, QT_TRANSLATE_NOOP("velara::fPresetWell", "Tool tip text")},
+    {QPalette::Link, QT_TRANSLATE_NOOP("velara::fPresetWell", "Link")},
+    {QPalette::LinkVisited, QT_TRANSLATE_NOOP("velara::fPresetWell", "Visited link")},
+    {QPalette::Light, QT_TRANSLATE_NOOP("velara::fPresetWell", "Light edge")},
+    {QPalette::Midlight, QT_TRANSLATE_NOOP("velara::fPresetWell", "Pale edge")},
+    {QPalette::Mid, QT_TRANSLATE_NOOP("velara::fPresetWell", "Middle edge")},
+    {QPalette::Dark, QT_TRANSLATE_NOOP("velara::fPresetWell", "Dark edge")},
+    {QPalette::Shadow, QT_TRANSLATE_NOOP("velara::fPresetWell", "Shadow")},
+    {QPalette::AlternateBase, QT_TRANSLATE_NOOP("velara::fPresetWell", "Other rows")},
 };
 
 constexpr QSize kIcon{40, 16}, kCell{20, 18};
@@ -46,7 +47,7 @@ fPresetWell::fPresetWell(const QString& name, const PresetSet& set, QWidget* par
     : QToolButton(parent), colours_(set.colours()), columns_(set.columns)
 {
     setObjectName(name);
-    setAccessibleName(QLatin1String(set.name));
+    setAccessibleName(shown("Colors", set.name));
     setIconSize(kIcon);
     setFocusPolicy(Qt::StrongFocus);
     setArrowType(Qt::NoArrow);

@@ -37,7 +37,7 @@ constexpr int kCell = kSceneSide + 10; // of a thumbnail with its button
 
 QPushButton* applyButton(const char* name, const QString& accessibleName)
 {
-    auto* button = named(new QPushButton(QStringLiteral("Apply")), QLatin1String(name), accessibleName);
+    auto* button = named(new QPushButton(fEffectsPage::tr("Apply")), QLatin1String(name), accessibleName);
     return button;
 }
 
@@ -67,8 +67,8 @@ QWidget* fEffectsPage::makeToolbar()
     named(tb_, "tb", tr("Effects"));
     int index = 1;
     for (const Effect& effect : effects()) {
-        auto* button = named(new QToolButton(tb_), QStringLiteral("tb_%1").arg(index), text(effect.name));
-        button->setToolTip(tr("%1: a double click applies it").arg(text(effect.name)));
+        auto* button = named(new QToolButton(tb_), QStringLiteral("tb_%1").arg(index), shown("Filters", effect.name));
+        button->setToolTip(tr("%1: a double click applies it").arg(shown("Filters", effect.name)));
         button->setIconSize({kSceneSide, kSceneSide});
         button->setCheckable(true);
         button->setAutoRaise(true);
@@ -78,7 +78,7 @@ QWidget* fEffectsPage::makeToolbar()
     }
     group_.button(kEmbossEffect)->setChecked(true);
     connect(&group_, &QButtonGroup::idToggled, this, [this](int id, bool on) {
-        if (on) emit effectChosen(text(effects()[std::size_t(id - 1)].name));
+        if (on) emit effectChosen(shown("Filters", effects()[std::size_t(id - 1)].name));
     });
     named(V_, "V", tr("Effects, up and down"));
     V_->setSingleStep(kCell / 2);
@@ -213,7 +213,7 @@ void fEffectsPage::ApplyTexture(int Index, bool FromFile)
     if (FromFile) return applyFile(document);
     const Colour colour = frame_.setup().ForeColor;
     const int value = br_->value();
-    apply(document, text(effects()[std::size_t(Index - 1)].name), effectText(Index, value, colour),
+    apply(document, shown("Filters", effects()[std::size_t(Index - 1)].name), effectText(Index, value, colour),
           [=](cBitFilter& filter) { velara::ApplyTexture(filter, Index, value, colour); });
 }
 

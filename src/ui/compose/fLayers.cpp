@@ -35,15 +35,17 @@ constexpr struct {
     int number;
     const char *caption, *icon;
     bool TextStyle::*flag; // null: clears all of them
-} kStyles[] = {{1, "Regular", "draw-text", nullptr},
-               {3, "Bold", "format-text-bold", &TextStyle::bold},
-               {4, "Italic", "format-text-italic", &TextStyle::italic},
-               {5, "Underline", "format-text-underline", &TextStyle::underline},
-               {6, "Strike out", "format-text-strikethrough", &TextStyle::strikeOut}};
+} kStyles[] = {
+    {1, QT_TRANSLATE_NOOP("velara::fLayers", "Regular"), "draw-text", nullptr},
+    {3, QT_TRANSLATE_NOOP("velara::fLayers", "Bold"), "format-text-bold", &TextStyle::bold},
+    {4, QT_TRANSLATE_NOOP("velara::fLayers", "Italic"), "format-text-italic", &TextStyle::italic},
+    {5, QT_TRANSLATE_NOOP("velara::fLayers", "Underline"), "format-text-underline", &TextStyle::underline},
+    {6, QT_TRANSLATE_NOOP("velara::fLayers", "Strike out"), "format-text-strikethrough", &TextStyle::strikeOut}};
 
 constexpr struct {
     const char *name, *caption, *word;
-} kSends[] = {{"mnuSend_1", "Save for Web", "IMAGESAVEOPTIONS"}, {"mnuSend_2", "Color Depth", "IMAGECOLORDEPTH"}};
+} kSends[] = {{"mnuSend_1", QT_TRANSLATE_NOOP("velara::fLayers", "Save for Web"), "IMAGESAVEOPTIONS"},
+              {"mnuSend_2", QT_TRANSLATE_NOOP("velara::fLayers", "Color Depth"), "IMAGECOLORDEPTH"}};
 
 QToolButton* button(const QString& name, const QString& caption, const char* icon = "")
 {
@@ -65,7 +67,7 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
       cp_(new fColorButton(frame, QStringLiteral("cp"), tr("Color of the text"), this)), hint_(new QLabel)
 {
     setObjectName(QStringLiteral("fLayers"));
-    setWindowTitle(QStringLiteral("Apply Text"));
+    setWindowTitle(tr("Apply Text"));
     setAttribute(Qt::WA_DeleteOnClose);
     ActiveComposer::take(Composer::Layers, this);
     auto* column = new QVBoxLayout(this);
@@ -75,8 +77,8 @@ fLayers::fLayers(Frame& frame, const DocumentHandle& document, QWidget* parent)
     middle->addWidget(list_);
     middle->addWidget(page_, 1);
     column->addLayout(middle, 1);
-    auto* ok = named(new QPushButton(QStringLiteral("OK")), "CmdOK");
-    auto* exit = named(new QPushButton(QStringLiteral("Exit")), "CmdCancel");
+    auto* ok = named(new QPushButton(tr("OK")), "CmdOK");
+    auto* exit = named(new QPushButton(tr("Exit")), "CmdCancel");
     auto* last = new QHBoxLayout;
     named(hint_, "lblHint")->setWordWrap(true);
     last->addWidget(hint_, 1);
@@ -148,11 +150,10 @@ QWidget* fLayers::makeLayerBar()
     row->setContentsMargins(0, 0, 0, 0);
     QToolButton* add = button(QStringLiteral("tbOthers_1"), tr("New text"), "list-add");
     delete_ = button(QStringLiteral("tbOthers_2"), tr("Delete text"), "edit-delete");
-    QToolButton* send =
-        button(QStringLiteral("tbOthers_4"), QStringLiteral("Send Optimized Image To"), "document-send");
+    QToolButton* send = button(QStringLiteral("tbOthers_4"), tr("Send Optimized Image To"), "document-send");
     auto* menu = new QMenu(send);
     for (const auto& entry : kSends) {
-        QAction* action = menu->addAction(QString::fromLatin1(entry.caption));
+        QAction* action = menu->addAction(tr(entry.caption));
         action->setObjectName(QLatin1String(entry.name));
         connect(action, &QAction::triggered, this, [this, word = QString::fromLatin1(entry.word)] { sendTo(word); });
     }

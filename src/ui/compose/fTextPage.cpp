@@ -33,10 +33,10 @@ template <class Control> Control* hinted(Control* control, const char* name, con
     return named(control, QLatin1String(name), accessibleName);
 }
 
-QComboBox* choice(const char* name, const QString& accessibleName, const char* entries)
+QComboBox* choice(const char* name, const QString& accessibleName, const QString& entries)
 {
     auto* list = hinted(new QComboBox, name, accessibleName);
-    if (*entries) list->addItems(QString::fromLatin1(entries).split(u'|'));
+    if (!entries.isEmpty()) list->addItems(entries.split(u'|'));
     return list;
 }
 
@@ -58,9 +58,9 @@ QToolButton* toggle(const char* name, const QString& accessibleName, const QStri
 fTextPage::fTextPage(Frame& frame, QWidget* parent)
     : QWidget(parent), frame_(frame), txtText_(hinted(new QPlainTextEdit, "txtText", tr("Text"))),
       cboFont_(choice("cboFont", tr("Font"), "")), cboSize_(choice("cboSize", tr("Size"), "")),
-      cboAlign_(choice("cboAlign", tr("Alignment"), "Left Justify|Centre Justify|Right Justify|Full Justify")),
+      cboAlign_(choice("cboAlign", tr("Alignment"), tr("Left Justify|Centre Justify|Right Justify|Full Justify"))),
       cboShadow_(choice("cboShadow", tr("Shadow"),
-                        "Top Left|Top|Top Right|Left|No Shadow|Right|Bottom Left|Bottom|Bottom Right")),
+                        tr("Top Left|Top|Top Right|Left|No Shadow|Right|Bottom Left|Bottom|Bottom Right"))),
       CmdB_(toggle("CmdB", tr("Bold"), QStringLiteral("B"))), CmdI_(toggle("CmdI", tr("Italic"), QStringLiteral("I"))),
       CmdU_(toggle("CmdU", tr("Underline"), QStringLiteral("U"))), lblCustom_(new QLabel(this)),
       lblRefused_(new QLabel(tr("The text is too long for this space: make the window larger."))),
@@ -189,7 +189,7 @@ void fTextPage::UpdateText()
         told_ = false;
     } else if (!std::exchange(told_, true)) {
         const QPointer<fTextPage> alive = this;
-        frame_.platform().tell(QStringLiteral("Unable to find suitable font size for text"), Icon::None);
+        frame_.platform().tell(tr("Unable to find suitable font size for text"), Icon::None);
         if (alive) beginText(); // the next letters are text, and not the keys of tools
     }
 }

@@ -1,4 +1,5 @@
 #include "ui/compose/fToolTextures.h"
+#include "seams/text.h"
 #include "ui/compose/fEffectsPage.h"
 #include "ui/compose/fTextPage.h"
 #include "ui/widgets/inputs/named.h"
@@ -11,7 +12,7 @@ fToolTextures::fToolTextures(Frame& frame, QWidget* parent)
     : QWidget(parent, Qt::Tool), SSTab1_(new QTabWidget), text_(new fTextPage(frame)), effects_(new fEffectsPage(frame))
 {
     setObjectName(QStringLiteral("fToolTextures"));
-    showEffect(QStringLiteral("Emboss"));
+    showEffect(shown("Filters", "Emboss"));
     named(SSTab1_, "SSTab1", tr("Text and effects"));
     SSTab1_->addTab(text_, tr("&Text"));
     SSTab1_->addTab(effects_, tr("&Effects"));
@@ -34,6 +35,6 @@ const QString& fToolTextures::textureFolder() const { return effects_->folder();
 
 void fToolTextures::setTextureFolder(const QString& folder) { effects_->setFolder(folder); }
 
-void fToolTextures::showEffect(const QString& name) { setWindowTitle(QStringLiteral("Textures: ") + name); }
+void fToolTextures::showEffect(const QString& name) { setWindowTitle(tr("Textures: %1").arg(name)); }
 
 } // namespace velara

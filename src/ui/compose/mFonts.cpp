@@ -33,7 +33,7 @@ bool fillFonts(QComboBox& list, Platform& platform)
 {
     const auto families = platform.fonts().list();
     if (!families) {
-        platform.tell(QStringLiteral("Failed to get font info"), Icon::Exclamation);
+        platform.tell(QCoreApplication::translate("Fonts", "Failed to get font info"), Icon::Exclamation);
         return false;
     }
     list.clear();

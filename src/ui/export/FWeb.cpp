@@ -53,7 +53,7 @@ FWeb::FWeb(Platform& platform, const Bits& picture, const CameraData& camera, co
       optimized_(new fPicturePage({"COptimizedP", "OptimizedP", "HHop", "VVop"}, tr("Optimized, below the original")))
 {
     setObjectName(QStringLiteral("FWeb"));
-    setWindowTitle(QStringLiteral("Customized Save Options "));
+    setWindowTitle(tr("Customized Save Options "));
     setModal(true);
     ActiveComposer::unload();
     auto* row = new QHBoxLayout(this);
@@ -162,7 +162,7 @@ void FWeb::qualityChosen(int quality)
 
 void FWeb::customQuality()
 {
-    if (TxtJPG_->text().isEmpty()) return platform_.tell(QStringLiteral("Enter value between 1 to 99 !"));
+    if (TxtJPG_->text().isEmpty()) return platform_.tell(tr("Enter value between 1 to 99 !"));
     setQuietly(cboJpg_, -1); // none of the classes, so that each of them can be selected again
     qualityChosen(std::min(TxtJPG_->text().toInt(), kMostQuality));
 }
@@ -296,8 +296,8 @@ void FWeb::written(const Written& written)
     if (!written.shown.isNull()) showFile(written);
     if (!written.shown.isNull() || !written.isFinal) again_ = false; // what was shown stays until the next
     if (file.outcome == WebFile::Outcome::NoBitmap)
-        platform_.message(QStringLiteral("Please Choose a higher image format!"),
-                          QStringLiteral("The current format cannot be applied to the image!"), Icon::Information);
+        platform_.message(tr("Please Choose a higher image format!"),
+                          tr("The current format cannot be applied to the image!"), Icon::Information);
     if (alive && file.outcome == WebFile::Outcome::Failed) {
         const QString why = file.reason.isEmpty() ? QString() : QStringLiteral(": ") + file.reason;
         const QString fault = tr("%1 can't be written%2.").arg(printable(QFileInfo(written.name).fileName()), why);
@@ -326,8 +326,9 @@ void FWeb::showFile(const Written& written)
     if (const qint64 before = path_.isEmpty() ? 0 : sizeOfFile(path_); before > 0)
         parts += tr("%1 % of the original file").arg(std::lround(100.0 * double(written.file.bytes) / double(before)));
     if (keptItsSize(written.file.source, optimizedBits_))
-        parts += std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(written.decibels, 0, 'f', 1);
-    if (settings.BitCount < settings.row().bitCount) parts.prepend(tr("%1 colors").arg(1 << settings.BitCount));
+        parts +=
+            std::isinf(written.decibels) ? tr("no loss") : tr("%1 dB").arg(locale().toString(written.decibels, 'f', 1));
+    if (settings.BitCount < settings.row().bitCount) parts.prepend(tr("%n colors", nullptr, 1 << settings.BitCount));
     exact_->setText(note_.isEmpty() ? parts.join(QStringLiteral(", ")) : note_);
 }
 
@@ -401,7 +402,7 @@ void FWeb::saveAs()
 {
     const QPointer<FWeb> alive = this;
     showWaiting(false);
-    FileDialog dialog{QStringLiteral("Save Optimized As"), settings_.saveFilter()};
+    FileDialog dialog{tr("Save Optimized As"), settings_.saveFilter()};
     dialog.extension = settings_.extension();
     dialog.name = withEnding(name_, dialog.extension);
     const auto fileOf = [extension = dialog.extension](const QString& name) { return withEnding(name, extension); };

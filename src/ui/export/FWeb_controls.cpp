@@ -1,5 +1,6 @@
 // FWeb: making and laying out its controls.
 #include "fileio/cameraData.h"
+#include "seams/text.h"
 #include "ui/export/FWeb.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
@@ -32,7 +33,7 @@ QPushButton* button(const char* name, const QString& text)
 template <class Row> QComboBox* list(const char* name, const QString& accessibleName, std::span<const Row> rows)
 {
     auto* box = named(new QComboBox, name, accessibleName);
-    for (const Row& row : rows) box->addItem(QLatin1String(row.entry));
+    for (const Row& row : rows) box->addItem(shown("Save for Web", row.entry));
     return box;
 }
 
@@ -74,7 +75,7 @@ QWidget* FWeb::makeChoices()
     frames->addWidget(makeJpegFrame());
     frames->addWidget(makeFitFrame());
     frames->addWidget(makeCameraFrame());
-    CmdSave_ = button("CmdSave", QStringLiteral("Save As"));
+    CmdSave_ = button("CmdSave", tr("Save As"));
     CmdSave_->setEnabled(false);
 
     auto* formats = new QLabel(tr("&Format"));
@@ -92,10 +93,11 @@ QWidget* FWeb::makeChoices()
     connect(CmdSave_, &QPushButton::clicked, this, [this] { ask(Work::Save); });
 
     auto* column = new QWidget;
-    column->setFixedWidth(250);
+    column->setMinimumWidth(250);
+    column->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* rows = new QVBoxLayout(column);
     rows->setContentsMargins(0, 0, 0, 0);
-    auto* exit = button("CmdCancel", QStringLiteral("Exit"));
+    auto* exit = button("CmdCancel", tr("Exit"));
     rows->addWidget(choices_, 1);
     rows->addWidget(exit);
     connect(exit, &QPushButton::clicked, this, &FWeb::reject);
@@ -107,8 +109,13 @@ QWidget* FWeb::makeGifFrame()
     fgif_ = named(new QWidget, "fgif", tr("Colors"));
     auto* form = new QFormLayout(fgif_);
     form->setContentsMargins(0, 0, 0, 0);
-    static constexpr WebEntry kBeforeAPreset[] = {{"Windows", 0}, {"New", 0},         {"Fixed Color", 0}, {"VGA", 0},
-                                                  {"iNet", 0},    {"Windows 256", 0}, {"Fixed Grey", 0}};
+    static constexpr WebEntry kBeforeAPreset[] = {{QT_TRANSLATE_NOOP("Save for Web", "Windows"), 0},
+                                                  {QT_TRANSLATE_NOOP("Save for Web", "New"), 0},
+                                                  {"Fixed Color", 0},
+                                                  {"VGA", 0},
+                                                  {"iNet", 0},
+                                                  {QT_TRANSLATE_NOOP("Save for Web", "Windows 256"), 0},
+                                                  {"Fixed Grey", 0}};
     cboMap_ = list("cboMap", tr("Palette"), std::span<const WebEntry>(kBeforeAPreset));
     cboMap_->setPlaceholderText(tr("As the format has it"));
     cboDither_ = list("cboDither", tr("Dither"), webDithers());
@@ -151,14 +158,14 @@ QWidget* FWeb::makeJpegFrame()
     cboJpg_ = list("cboJpg", tr("JPEG quality"), webJpegQualities());
     cboJpg_->setCurrentIndex(kGoodQuality);
     cboJpg_->setPlaceholderText(tr("Custom"));
-    TxtJPG_ = named(new QualityField, "TxtJPG", QStringLiteral("Custom  1 To 99"));
+    TxtJPG_ = named(new QualityField, "TxtJPG", tr("Custom  1 To 99"));
     TxtJPG_->setText(QLatin1String(kEmptyQuality));
     TxtJPG_->setMaxLength(5);
     TxtJPG_->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), TxtJPG_));
     auto* update = button("jpgUpdate", tr("Update"));
     update->setFocusPolicy(Qt::TabFocus); // a click doesn't make the field lose the focus
     form->addRow(tr("&Quality"), cboJpg_);
-    auto* custom = new QLabel(QStringLiteral("Custom  1 To 99"));
+    auto* custom = new QLabel(tr("Custom  1 To 99"));
     custom->setBuddy(TxtJPG_);
     form->addRow(custom);
     form->addRow(withButton(TxtJPG_, update));
@@ -234,14 +241,14 @@ QWidget* FWeb::makePages()
     Depth4_ = label("Depth4", tr("Depth"));
     FileSize4_ = label("FileSize4", tr("File size"));
     sT_ = named(new QTabWidget, "sT", tr("Pictures"));
-    sT_->addTab(makePage(isrc_, {label("FileType1", tr("Document"))}), QStringLiteral("Original"));
-    sT_->addTab(makePage(oSrc_, {FileType2_, Depth2_, FileSize2_}), QStringLiteral("Optimized"));
+    sT_->addTab(makePage(isrc_, {label("FileType1", tr("Document"))}), tr("Original"));
+    sT_->addTab(makePage(oSrc_, {FileType2_, Depth2_, FileSize2_}), tr("Optimized"));
     auto* both = new QWidget;
     auto* lines = new QVBoxLayout(both);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->addWidget(makePage(original_, {label("FileType3", tr("Document"))}), 1);
     lines->addWidget(makePage(optimized_, {FileType4_, Depth4_, FileSize4_}), 1);
-    sT_->addTab(both, QStringLiteral("Both"));
+    sT_->addTab(both, tr("Both"));
     sT_->setCurrentIndex(1); // the page that every choice changes
     connect(sT_, &QTabWidget::currentChanged, this, &FWeb::pageChosen);
 

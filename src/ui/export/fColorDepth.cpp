@@ -20,8 +20,13 @@ namespace {
 constexpr struct DepthRow {
     const char* entry;
     int depth;
-} kDepths[] = {{"2 Colors (1 Bit)", 1}, {"16 Colors (4 Bit)", 4},       {"256 Colors (8 Bit)", 8},     {"(15 Bit)", 15},
-               {"(16 Bit)", 16},        {"32,000 Colors (24 Bit)", 24}, {"64,000 Colors (24 Bit)", 32}};
+} kDepths[] = {{QT_TRANSLATE_NOOP("velara::fColorDepth", "2 Colors (1 Bit)"), 1},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "16 Colors (4 Bit)"), 4},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "256 Colors (8 Bit)"), 8},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "(15 Bit)"), 15},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "(16 Bit)"), 16},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "32,000 Colors (24 Bit)"), 24},
+               {QT_TRANSLATE_NOOP("velara::fColorDepth", "64,000 Colors (24 Bit)"), 32}};
 
 constexpr int kLevels[] = {10, 6, 5, 4, 3, 2, 1}; // of the zoom menu
 constexpr int kFirstLevel = 3;
@@ -49,7 +54,7 @@ fColorDepth::fColorDepth(const Bits& picture, Actions actions, QWidget* parent)
       optimized_(new fPicturePage({"COptimizedP", "OptimizedP", "HHop", "VVop"}, tr("Optimized")))
 {
     setObjectName(QStringLiteral("fColorDepth"));
-    setWindowTitle(QStringLiteral("Image Color Depth"));
+    setWindowTitle(tr("Image Color Depth"));
     setModal(true);
     ActiveComposer::take(Composer::ColorDepth, this);
     original_->setPartner(*optimized_);
@@ -65,8 +70,8 @@ fColorDepth::fColorDepth(const Bits& picture, Actions actions, QWidget* parent)
 QWidget* fColorDepth::makePages()
 {
     auto* tabs = named(new QTabWidget, "SSTab1", tr("Pictures"));
-    tabs->addTab(original_, QStringLiteral("Original"));
-    tabs->addTab(optimized_, QStringLiteral("Optimized"));
+    tabs->addTab(original_, tr("Original"));
+    tabs->addTab(optimized_, tr("Optimized"));
     tabs->setUsesScrollButtons(false); // both names are legible at every width
     tabs->setCurrentIndex(1);          // the page that a choice of depth changes
     return tabs;
@@ -78,10 +83,10 @@ QWidget* fColorDepth::makeControls()
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
 
-    auto* options = new QGroupBox(QStringLiteral("Select an option"));
+    auto* options = new QGroupBox(tr("Select an option"));
     auto* optionLines = new QVBoxLayout(options);
     cmbDepth_ = named(new QComboBox, "cmbDepth", tr("Color depth"));
-    for (const DepthRow& row : kDepths) cmbDepth_->addItem(QLatin1String(row.entry));
+    for (const DepthRow& row : kDepths) cmbDepth_->addItem(tr(row.entry));
     optionLines->addWidget(cmbDepth_);
 
     auto* bar = named(new QToolBar, "Toolbar1", tr("Zoom"));
@@ -102,11 +107,11 @@ QWidget* fColorDepth::makeControls()
     auto* heading = new QLabel(tr("Optimized to"));
     heading->setForegroundRole(QPalette::PlaceholderText);
 
-    auto* send = new QGroupBox(QStringLiteral("Send the Optimized Image to "));
-    auto* save = button("cmdSave", QStringLiteral("Optimized Saver "));
+    auto* send = new QGroupBox(tr("Send the Optimized Image to "));
+    auto* save = button("cmdSave", tr("Optimized Saver "));
     (new QVBoxLayout(send))->addWidget(save);
-    auto* ok = button("CmdOK", QStringLiteral("OK"));
-    auto* exit = button("CmdExit", QStringLiteral("Exit"));
+    auto* ok = button("CmdOK", tr("OK"));
+    auto* exit = button("CmdExit", tr("Exit"));
     ok->setDefault(true);
 
     layout->addWidget(options);
@@ -130,7 +135,8 @@ void fColorDepth::zoomlevel(int Level)
     for (QAction* entry : zoom_->actions()) {
         const bool isPresent = entry->data().toInt() == Level;
         entry->setEnabled(!isPresent);
-        if (isPresent) findChild<QToolButton*>(QStringLiteral("Toolbar1_1"))->setText(tr("Zoom: ") + entry->text());
+        if (isPresent)
+            findChild<QToolButton*>(QStringLiteral("Toolbar1_1"))->setText(tr("Zoom: %1").arg(entry->text()));
     }
     original_->setBits(picture_.isNull() ? picture_ : reducedCopy(picture_, Level));
     showDepth();

@@ -114,8 +114,9 @@ void fWebTable::add(const Row& row)
     table_->setItem(at, kFormat, format);
     table_->setItem(at, kBytes, new NumberCell(double(row.file.bytes), QStringLiteral("%L1").arg(row.file.bytes)));
     table_->setItem(at, kLoss,
-                    new NumberCell(row.decibels, std::isinf(row.decibels) ? tr("no loss")
-                                                                          : tr("%1 dB").arg(row.decibels, 0, 'f', 1)));
+                    new NumberCell(row.decibels, std::isinf(row.decibels)
+                                                     ? tr("no loss")
+                                                     : tr("%1 dB").arg(locale().toString(row.decibels, 'f', 1))));
     table_->setSortingEnabled(true);
 }
 

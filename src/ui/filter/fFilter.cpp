@@ -7,6 +7,7 @@
 #include "document/road/Frame.h"
 #include "seams/Platform.h"
 #include "seams/Setup.h"
+#include "seams/text.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
 #include <QButtonGroup>
@@ -25,7 +26,7 @@ fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& docum
       preview_(picture_, document->Region.working(), kPreviewBox)
 {
     setObjectName(QStringLiteral("fFilter"));
-    setWindowTitle(QString::fromLatin1(row.title));
+    setWindowTitle(shown("Filters", row.title));
     setModal(true);
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
@@ -86,7 +87,7 @@ void fFilter::fillModes()
     const int mode = cbo_->currentIndex(), modes = kGlassStyles[oo_->checkedId()].modes;
     const QSignalBlocker quiet(cbo_);
     cbo_->clear();
-    for (int i = 0; i < modes; ++i) cbo_->addItem(tr(kGlassModes[i]));
+    for (int i = 0; i < modes; ++i) cbo_->addItem(shown("Filters", kGlassModes[i]));
     cbo_->setCurrentIndex(mode < 0 || mode >= modes ? 0 : mode);
 }
 

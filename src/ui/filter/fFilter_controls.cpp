@@ -24,7 +24,9 @@ namespace velara {
 
 namespace {
 
-constexpr const char* kChannels[] = {"Red", "Green", "Blue"};
+constexpr const char* kChannels[] = {QT_TRANSLATE_NOOP("velara::fFilter", "Red"),
+                                     QT_TRANSLATE_NOOP("velara::fFilter", "Green"),
+                                     QT_TRANSLATE_NOOP("velara::fFilter", "Blue")};
 
 QString numbered(const char* name, std::size_t index) { return QLatin1String(name) + u'_' + QString::number(index); }
 
@@ -54,7 +56,7 @@ static QString meaningOf(const FilterRow& row, const FilterSlider& slider)
     if (slider.step != 1 || slider.centred) return {};
     const auto operation = std::ranges::find(operations(), row.operation, &Operation::name);
     const auto parameter = std::ranges::find(operation->parameters, slider.parameter, &Parameter::name);
-    return parameter == operation->parameters.end() ? QString() : text(parameter->meaning);
+    return parameter == operation->parameters.end() ? QString() : shown("Filters", parameter->meaning);
 }
 
 void fFilter::addSliders(QBoxLayout* layout)
@@ -62,7 +64,7 @@ void fFilter::addSliders(QBoxLayout* layout)
     for (std::size_t i = 0; i < row_.sliders.size(); ++i) {
         const FilterSlider& slider = row_.sliders[i];
         if (!slider.used()) continue;
-        const QString caption = QString::fromLatin1(slider.caption);
+        const QString caption = shown("Filters", slider.caption);
         auto* frame = named(new QFrame(controls_), numbered("frFilter", i));
         const QString meaning = meaningOf(row_, slider);
         if (!meaning.isEmpty()) frame->setToolTip(caption + QStringLiteral(": ") + meaning);
@@ -98,7 +100,7 @@ void fFilter::addColours(QBoxLayout* layout)
         if (!has(row_.extras, kWells[at])) continue;
         const QString caption = !both ? tr("Color") : i == 0 ? tr("From") : tr("To");
         auto* well = Col_[at] =
-            new fColorButton(frame_, numbered("Col", at), both ? caption + tr(" color") : caption, frame);
+            new fColorButton(frame_, numbered("Col", at), both ? tr("%1 color").arg(caption) : caption, frame);
         well->setColour(initial[at]);
         line->addWidget(new QLabel(caption, frame));
         line->addWidget(well);
@@ -115,7 +117,7 @@ void fFilter::addOption(QBoxLayout* layout)
     auto* frame = named(new QFrame(controls_), QStringLiteral("frOption"));
     auto* line = new QHBoxLayout(frame);
     line->setContentsMargins(0, 0, 0, 0);
-    const QString caption = QString::fromLatin1(row_.option);
+    const QString caption = shown("Filters", row_.option);
     chkOption_ = named(new QCheckBox(frame), QStringLiteral("chkOption"), caption);
     auto* label = named(new QLabel(caption, frame), QStringLiteral("lblOption"));
     label->setBuddy(chkOption_);
@@ -134,18 +136,18 @@ QWidget* fFilter::makeBanks()
     for (std::size_t i = 0; i < 3; ++i) {
         const int line = static_cast<int>(i);
         const QString channel = tr(kChannels[i]);
-        grid->addWidget(new QLabel(channel + tr(" comes from"), box), line, 0);
+        grid->addWidget(new QLabel(tr("%1 comes from").arg(channel), box), line, 0);
         channels_[i] = new QButtonGroup(box);
         for (int choice = 0; choice < 3; ++choice) {
             auto* button = named(new QRadioButton(tr(kChannels[choice]), box),
                                  numbered(kNames[i], static_cast<std::size_t>(choice)),
-                                 channel + tr(" comes from ") + tr(kChannels[choice]));
+                                 tr("%1 comes from %2").arg(channel, tr(kChannels[choice])));
             button->setChecked(choice == line);
             channels_[i]->addButton(button, choice);
             grid->addWidget(button, line, 1 + choice);
         }
-        chkInvt_[i] = named(new QCheckBox(tr("Invert"), box), numbered("chkInvt", i), tr("Invert ") + channel);
-        chkKill_[i] = named(new QCheckBox(tr("Kill"), box), numbered("chkKill", i), tr("Kill ") + channel);
+        chkInvt_[i] = named(new QCheckBox(tr("Invert"), box), numbered("chkInvt", i), tr("Invert %1").arg(channel));
+        chkKill_[i] = named(new QCheckBox(tr("Kill"), box), numbered("chkKill", i), tr("Kill %1").arg(channel));
         grid->addWidget(chkInvt_[i], line, 4);
         grid->addWidget(chkKill_[i], line, 5);
         connect(channels_[i], &QButtonGroup::idClicked, this, &fFilter::changed);
@@ -162,8 +164,8 @@ QWidget* fFilter::makeGlass()
     oo_ = new QButtonGroup(box);
     const std::string initial = FilterArgs().style;
     for (std::size_t i = 0; i < std::size(kGlassStyles); ++i) {
-        const QString caption = tr(kGlassStyles[i].caption);
-        auto* button = named(new QRadioButton(caption, box), numbered("oo", i), caption + tr(" glass"));
+        const QString caption = shown("Filters", kGlassStyles[i].caption);
+        auto* button = named(new QRadioButton(caption, box), numbered("oo", i), tr("%1 glass").arg(caption));
         button->setChecked(initial == kGlassStyles[i].style);
         oo_->addButton(button, static_cast<int>(i));
         line->addWidget(button);
@@ -187,8 +189,8 @@ QWidget* fFilter::makeCurtain()
     auto* line = new QHBoxLayout(box);
     Curt_ = new QButtonGroup(box);
     for (std::size_t i = std::size(kCurtains); i-- > 0;) { // the last one comes first
-        const QString caption = tr(kCurtains[i]);
-        auto* button = named(new QRadioButton(caption, box), numbered("Curt", i), caption + tr(" curtain"));
+        const QString caption = shown("Filters", kCurtains[i]);
+        auto* button = named(new QRadioButton(caption, box), numbered("Curt", i), tr("%1 curtain").arg(caption));
         button->setChecked(i == 0);
         Curt_->addButton(button, static_cast<int>(i));
         line->addWidget(button);
@@ -217,12 +219,12 @@ QWidget* fFilter::makeButtons()
         line->addWidget(made);
         return made;
     };
-    cmdPreview_ = button("cmdPreview", QStringLiteral("Real Time"), &fFilter::accept);
+    cmdPreview_ = button("cmdPreview", tr("Real Time"), &fFilter::accept);
     cmdPreview_->setToolTip(tr("Runs the filter on the picture and closes"));
-    auto* ok = button("cmdOK", QStringLiteral("OK"), &fFilter::accept);
+    auto* ok = button("cmdOK", tr("OK"), &fFilter::accept);
     ok->setDefault(true);
     cmdOK_ = ok;
-    button("cmdCancel", QStringLiteral("Exit"), &fFilter::reject);
+    button("cmdCancel", tr("Exit"), &fFilter::reject);
     return box;
 }
 

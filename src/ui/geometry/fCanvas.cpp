@@ -24,10 +24,6 @@ constexpr struct Defined {
     int tenths; // of the size, on each side
 } kDefined[] = {{"1 +", 1}, {"2 +", 2}, {"3 +", 3}, {"1 -", -1}, {"2 -", -2}, {"3 -", -3}};
 
-constexpr struct Anchor {
-    const char *sign, *name;
-} kAnchors[] = {{"↖", "Upper left"}, {"↑", "Top"},        {"↗", "Upper right"}, {"←", "Left"},       {"•", "Middle"},
-                {"→", "Right"},      {"↙", "Lower left"}, {"↓", "Bottom"},      {"↘", "Lower right"}};
 constexpr int kMiddle = 4;
 
 } // namespace
@@ -38,9 +34,9 @@ fCanvasView::fCanvasView(const Bits& picture)
     setSpokenRole(*this, QAccessible::Canvas);
     setSpokenRole(*image_, QAccessible::Graphic);
     setObjectName("iCnv");
-    setAccessibleName("Canvas");
+    setAccessibleName(tr("Canvas"));
     setFixedSize(kBox);
-    named(image_, "iImg", "Picture on the canvas");
+    named(image_, "iImg", tr("Picture on the canvas"));
     image_->setCursor(Qt::SizeAllCursor);
     image_->installEventFilter(this);
 }
@@ -110,16 +106,16 @@ bool fCanvasView::eventFilter(QObject* watched, QEvent* event)
 }
 
 fCanvas::fCanvas(Platform& platform, const Bits& picture, QWidget* parent)
-    : fGeometry("fCanvas", "Canvas size", platform, parent), size_(picture.width(), picture.height()),
-      fields_(new fSizeFields("Proportions", picture.width(), picture.height(),
+    : fGeometry("fCanvas", tr("Canvas size"), platform, parent), size_(picture.width(), picture.height()),
+      fields_(new fSizeFields(tr("Proportions"), picture.width(), picture.height(),
                               double(picture.width()) / picture.height())),
       anchors_(new QButtonGroup(this)), view_(new fCanvasView(picture))
 {
-    auto* list = named(new QComboBox, "cbPreDef", "Defined");
+    auto* list = named(new QComboBox, "cbPreDef", tr("Defined"));
     for (const Defined& d : kDefined) list->addItem(d.entry);
     list->setCurrentIndex(-1);
     list->setPlaceholderText(tr("Choose a step"));
-    auto* label = new QLabel("Defined");
+    auto* label = new QLabel(tr("Defined"));
     label->setBuddy(list);
 
     grid().addWidget(view_, 0, 0, 4, 1);
@@ -144,15 +140,20 @@ fCanvas::fCanvas(Platform& platform, const Bits& picture, QWidget* parent)
 
 QWidget* fCanvas::makeAnchors()
 {
+    static constexpr struct {
+        const char *sign, *name;
+    } kAnchors[] = {{"↖", QT_TR_NOOP("Upper left")}, {"↑", QT_TR_NOOP("Top")},    {"↗", QT_TR_NOOP("Upper right")},
+                    {"←", QT_TR_NOOP("Left")},       {"•", QT_TR_NOOP("Middle")}, {"→", QT_TR_NOOP("Right")},
+                    {"↙", QT_TR_NOOP("Lower left")}, {"↓", QT_TR_NOOP("Bottom")}, {"↘", QT_TR_NOOP("Lower right")}};
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setSpacing(1);
     grid->setContentsMargins(0, 0, 0, 0);
     for (int i = 0; i < 9; ++i) {
-        auto* button = named(new QToolButton, "", kAnchors[i].name);
+        auto* button = named(new QToolButton, "", tr(kAnchors[i].name));
         button->setObjectName(QStringLiteral("anchor_%1").arg(i));
         button->setText(kAnchors[i].sign);
-        button->setToolTip(kAnchors[i].name);
+        button->setToolTip(tr(kAnchors[i].name));
         button->setCheckable(true);
         button->setFixedSize(28, 28);
         anchors_->addButton(button, i);
@@ -164,11 +165,11 @@ QWidget* fCanvas::makeAnchors()
 
 QWidget* fCanvas::makeHelp()
 {
-    auto* frame = new QGroupBox("What is Canvas Size?");
+    auto* frame = new QGroupBox(tr("What is Canvas Size?"));
     auto* text =
-        new QLabel("The canvas is the area that the picture stands on. A larger canvas adds black room around "
-                   "the picture, a smaller one cuts its edges; the pixels themselves keep their size. Drag the "
-                   "picture, or press an arrow, to say where it stands.");
+        new QLabel(tr("The canvas is the area that the picture stands on. A larger canvas adds black room around "
+                      "the picture, a smaller one cuts its edges; the pixels themselves keep their size. Drag the "
+                      "picture, or press an arrow, to say where it stands."));
     text->setWordWrap(true);
     text->setMinimumWidth(380);
     (new QVBoxLayout(frame))->addWidget(text);

@@ -53,8 +53,8 @@ bool fGeometry::sizeAllowed(int width, int height) const
         platform_.tell(why);
         return false;
     };
-    if (width < 2 || height < 2) return refused("Minimum size: 2 x 2");
-    if (!Bits::sizeAllowed(width, height)) return refused("Maximum size: 256 megapixels");
+    if (width < 2 || height < 2) return refused(tr("Minimum size: 2 x 2"));
+    if (!Bits::sizeAllowed(width, height)) return refused(tr("Maximum size: 256 megapixels"));
     return true;
 }
 
@@ -90,9 +90,9 @@ fSizeFields::fSizeFields(const QString& proportionsCaption, int width, int heigh
         grid->addWidget(edit, row, 1);
         connect(edit, &QLineEdit::textChanged, this, [this, edit] { edited(edit); });
     };
-    field(width_, "txtW", "Width", 0);
-    field(height_, "txtH", "Height", 1);
-    named(keep_, "chkKeepProportions", "Keep proportions");
+    field(width_, "txtW", tr("Width"), 0);
+    field(height_, "txtH", tr("Height"), 1);
+    named(keep_, "chkKeepProportions", tr("Keep proportions"));
     keep_->setChecked(ratio > 0);
     grid->addWidget(keep_, 2, 0, 1, 2);
     connect(keep_, &QCheckBox::toggled, this, [this, ofPicture = ratio > 0](bool on) {

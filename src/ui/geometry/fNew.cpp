@@ -8,8 +8,7 @@ namespace velara {
 
 namespace {
 
-constexpr const char* kCustom = "<Custom>";
-constexpr const char* kSizes[] = {kCustom,     "240 x 320", "320 x 240",  "480 x 640", "640 x 480",
+constexpr const char* kSizes[] = {"240 x 320", "320 x 240", "480 x 640",  "640 x 480",
                                   "600 x 800", "800 x 600", "768 x 1024", "1024 x 768"};
 
 /// The list of sizes in this run, including typed ones.
@@ -28,16 +27,17 @@ QSize& lastSize()
 
 } // namespace
 
-fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", "New", platform, parent), sizes_(new QComboBox)
+fNew::fNew(Platform& platform, QWidget* parent) : fGeometry("fNew", tr("New"), platform, parent), sizes_(new QComboBox)
 {
-    named(sizes_, "cbDefault", "Standard sizes")->addItems(sizeList());
-    auto* label = new QLabel("Standard sizes");
+    named(sizes_, "cbDefault", tr("Standard sizes"))->addItem(tr("<Custom>"));
+    sizes_->addItems(sizeList());
+    auto* label = new QLabel(tr("Standard sizes"));
     label->setBuddy(sizes_);
     grid().addWidget(label, 0, 0);
     grid().addWidget(sizes_, 0, 1);
 
-    auto* custom = new QGroupBox("Custom:");
-    fields_ = new fSizeFields("&Keep proportions", lastSize().width(), lastSize().height(), 0);
+    auto* custom = new QGroupBox(tr("Custom:"));
+    fields_ = new fSizeFields(tr("&Keep proportions"), lastSize().width(), lastSize().height(), 0);
     (new QVBoxLayout(custom))->addWidget(fields_);
     grid().addWidget(custom, 1, 0, 1, 2);
     addButtons("cmdOK", "cmdCancel");

@@ -26,8 +26,8 @@ constexpr struct Resolution {
 } // namespace
 
 fResolution::fResolution(Platform& platform, const QString& ofFile, QWidget* parent)
-    : fGeometry("fResolution", "Resolution", platform, parent), sizes_(new QButtonGroup(this)),
-      smooth_(named(new QCheckBox("Anti-Alias"), "chkAnti", "Anti-Alias"))
+    : fGeometry("fResolution", tr("Resolution"), platform, parent), sizes_(new QButtonGroup(this)),
+      smooth_(named(new QCheckBox(tr("Anti-Alias")), "chkAnti", tr("Anti-Alias")))
 {
     int row = 0;
     for (const Resolution& r : kResolutions) {
@@ -40,7 +40,7 @@ fResolution::fResolution(Platform& platform, const QString& ofFile, QWidget* par
     smooth_->setChecked(true);
     grid().addWidget(smooth_, 4, 0, 1, 2);
     if (!ofFile.isEmpty()) grid().addWidget(named(new QLabel(tr("File: ") + ofFile), "lblOfFile"), 5, 0, 1, 2);
-    addButtons("CmdOK", "Command2", "OK", "Exit");
+    addButtons("CmdOK", "Command2", tr("OK"), tr("Exit"));
 }
 
 Job fResolution::job() const

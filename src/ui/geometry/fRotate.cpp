@@ -24,11 +24,11 @@ QSize turningBox(const Bits& picture)
 } // namespace
 
 fRotate::fRotate(Platform& platform, const Bits& picture, QWidget* parent)
-    : fGeometry("fRotate", "Rotate", platform, parent), picture_(fittingCopy(picture, turningBox(picture))),
-      degrees_(named(new QSlider(Qt::Horizontal), "sbDegrees", "Degrees")),
-      text_(named(new QLineEdit("0"), "txtDegrees", "Degrees")),
-      smooth_(named(new QCheckBox("&Antialiasing"), "chkAntialiasing", "Antialiasing")),
-      preview_(new fPicture("iSrc", "Preview", {kBox, kBox}))
+    : fGeometry("fRotate", tr("Rotate"), platform, parent), picture_(fittingCopy(picture, turningBox(picture))),
+      degrees_(named(new QSlider(Qt::Horizontal), "sbDegrees", tr("Degrees"))),
+      text_(named(new QLineEdit("0"), "txtDegrees", tr("Degrees"))),
+      smooth_(named(new QCheckBox(tr("&Antialiasing")), "chkAntialiasing", tr("Antialiasing"))),
+      preview_(new fPicture("iSrc", tr("Preview"), {kBox, kBox}))
 {
     degrees_->setRange(-kLimit, kLimit);
     degrees_->setPageStep(15);
@@ -39,8 +39,8 @@ fRotate::fRotate(Platform& platform, const Bits& picture, QWidget* parent)
     text_->setFixedWidth(text_->fontMetrics().horizontalAdvance("-00000") + 16);
     text_->setAlignment(Qt::AlignRight);
     smooth_->setChecked(true);
-    auto* more = named(new QPushButton("+ 45º"), "cmd45_0", "45 degrees more");
-    auto* less = named(new QPushButton("- 45º"), "cmd45_1", "45 degrees less");
+    auto* more = named(new QPushButton("+ 45º"), "cmd45_0", tr("45 degrees more"));
+    auto* less = named(new QPushButton("- 45º"), "cmd45_1", tr("45 degrees less"));
     for (QPushButton* button : {more, less}) button->setAutoDefault(false);
 
     grid().addWidget(preview_, 0, 0, 6, 1);
@@ -49,7 +49,7 @@ fRotate::fRotate(Platform& platform, const Bits& picture, QWidget* parent)
     grid().addWidget(more, 1, 1);
     grid().addWidget(less, 1, 2);
     grid().addWidget(smooth_, 2, 1, 1, 3);
-    grid().addWidget(new QLabel("Canvas will be resized"), 3, 1, 1, 3);
+    grid().addWidget(new QLabel(tr("Canvas will be resized")), 3, 1, 1, 3);
     grid().setRowStretch(5, 1);
     addButtons("cmdOK", "cmdCancel");
 

@@ -23,19 +23,19 @@ int part(int length, double percent) { return roundEven(length * percent / 100);
 } // namespace
 
 fSize::fSize(Platform& platform, const Bits& picture, QWidget* parent)
-    : fGeometry("fSize", "Image size", platform, parent), picture_(fittingCopy(picture, kPreview)),
+    : fGeometry("fSize", tr("Image size"), platform, parent), picture_(fittingCopy(picture, kPreview)),
       size_(picture.width(), picture.height()),
-      fields_(new fSizeFields("&Keep proportions", picture.width(), picture.height(),
+      fields_(new fSizeFields(tr("&Keep proportions"), picture.width(), picture.height(),
                               double(picture.width()) / picture.height())),
-      percent_(named(new QDoubleSpinBox, "txtPercent", "Percent")),
-      smooth_(named(new QCheckBox("&Anti-Alias"), "chkInterpolate", "Anti-Alias")),
-      preview_(new fPicture("iSrc", "Preview", kPreview))
+      percent_(named(new QDoubleSpinBox, "txtPercent", tr("Percent"))),
+      smooth_(named(new QCheckBox(tr("&Anti-Alias")), "chkInterpolate", tr("Anti-Alias"))),
+      preview_(new fPicture("iSrc", tr("Preview"), kPreview))
 {
-    auto* quickList = named(new QComboBox, "cbPreDef", "Quick");
+    auto* quickList = named(new QComboBox, "cbPreDef", tr("Quick"));
     for (const Quick& q : kQuick) quickList->addItem(q.entry);
     quickList->setCurrentIndex(-1);
     quickList->setPlaceholderText(tr("Choose a factor"));
-    auto* label = new QLabel("Quick");
+    auto* label = new QLabel(tr("Quick"));
     label->setBuddy(quickList);
     percent_->setRange(0.1, 10000);
     percent_->setDecimals(1);

@@ -14,6 +14,7 @@ class fIconMaker;
 class fPicture;
 
 class fIconBar final : public QFrame {
+    Q_OBJECT
   public:
     fIconBar(fIconMaker& maker, QWidget* parent);
 

@@ -28,8 +28,8 @@ constexpr int kEntered = 0, kTogether = -1; // instead of a side
 constexpr SizeRow kSizes[] = {{"o16", "16 x 16", 16},
                               {"o32", "32 x 32", 32},
                               {"o64", "64 x 64", 64},
-                              {"ocustom", "Custom", kEntered},
-                              {"oall", "16 to 256 in one &file", kTogether}};
+                              {"ocustom", QT_TRANSLATE_NOOP("velara::fIconPicture", "Custom"), kEntered},
+                              {"oall", QT_TRANSLATE_NOOP("velara::fIconPicture", "16 to 256 in one &file"), kTogether}};
 constexpr int kUsual = 1;           // of kSizes
 constexpr QSize kPreview{256, 256}; // the largest icon at its own size
 constexpr int kCheck = 8;           // side of the squares behind transparent pixels, in the preview
@@ -175,7 +175,7 @@ void fIconPicture::save()
     const QPointer<fIconPicture> alive = this;
     const QByteArray bytes = together_ ? iconSetBytes(picture_, mask_->mask()) : iconBytes(icon_);
     Platform& platform = frame_.platform();
-    FileDialog dialog{QStringLiteral("Save Icon as"), QStringLiteral("Icon File|*.ico"), {}};
+    FileDialog dialog{tr("Save Icon as"), tr("Icon File") + QStringLiteral("|*.ico"), {}};
     dialog.defaultPattern = QStringLiteral("*.ico");
     const std::optional<QString> path = platform.saveFileName(dialog);
     if (!path) return;

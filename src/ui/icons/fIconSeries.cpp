@@ -50,7 +50,7 @@ fIconSeries::fIconSeries(Frame& frame)
 QLayout* fIconSeries::makeSource()
 {
     named(cboIcon_, "cboIcon", tr("What to capture"));
-    cboIcon_->addItems({"Desktop", "Foreground", "Background"});
+    cboIcon_->addItems({tr("Desktop"), tr("Foreground"), tr("Background")});
     QPushButton* go = button("CmdGo", tr("&Go"));
     go->setToolTip(tr("Captures the screen and cuts icons out of it"));
     connect(go, &QPushButton::clicked, this, [this] { emit captureAsked(Source(cboIcon_->currentIndex())); });
@@ -148,11 +148,11 @@ void fIconSeries::browse()
 void fIconSeries::save()
 {
     Platform& platform = frame_.platform();
-    if (lv_->topLevelItemCount() == 0) return platform.tell(QStringLiteral("No Images to extract!"));
+    if (lv_->topLevelItemCount() == 0) return platform.tell(tr("No Images to extract!"));
     const QString folder = txtFolder_->text().trimmed();
     if (folder.isEmpty() || !QFileInfo(folder).isDir()) {
         const QPointer<QLineEdit> box = txtFolder_;
-        platform.tell(QStringLiteral("Folder does not Exists! Please Enter a valid folder path"), Icon::Critical);
+        platform.tell(tr("Folder does not Exists! Please Enter a valid folder path"), Icon::Critical);
         if (box) box->setFocus();
         return;
     }
@@ -166,10 +166,10 @@ void fIconSeries::save()
         else
             failed << name;
     }
-    QString told = QStringLiteral("%1 icon Files Saved!").arg(saved);
+    QString told = tr("%n icon Files Saved!", nullptr, saved);
     if (!failed.isEmpty()) {
         told += u'\n' + tr("Not written: %1").arg(failed.mid(0, kMostNames).join(QStringLiteral(", ")));
-        if (failed.size() > kMostNames) told += tr(" and %1 more").arg(failed.size() - kMostNames);
+        if (failed.size() > kMostNames) told += tr(" and %n more", nullptr, int(failed.size() - kMostNames));
     }
     platform.tell(told, failed.isEmpty() ? Icon::Information : Icon::Exclamation);
 }

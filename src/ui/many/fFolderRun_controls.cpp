@@ -20,10 +20,10 @@ namespace {
 
 /// The words of velara-batch, and what the user sees.
 constexpr std::pair<const char*, const char*> kExisting[] = {
-    {"skip", "Leave it, and skip the picture"},
-    {"replace", "Replace it"},
-    {"number", "Add a number to the new name"},
-    {"newer", "Replace it if it is older than the picture"},
+    {"skip", QT_TRANSLATE_NOOP("velara::fFolderRun", "Leave it, and skip the picture")},
+    {"replace", QT_TRANSLATE_NOOP("velara::fFolderRun", "Replace it")},
+    {"number", QT_TRANSLATE_NOOP("velara::fFolderRun", "Add a number to the new name")},
+    {"newer", QT_TRANSLATE_NOOP("velara::fFolderRun", "Replace it if it is older than the picture")},
 };
 constexpr int kUsualQuality = 90;
 

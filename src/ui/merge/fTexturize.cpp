@@ -8,6 +8,7 @@
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "seams/Platform.h"
 #include "seams/printable.h"
+#include "seams/text.h"
 #include "ui/widgets/fPicture.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"
@@ -170,7 +171,7 @@ void fTexturize::fillList()
     std::ranges::sort(files, nameOrder());
     for (const QString& file : files) {
         auto* item = new QListWidgetItem(frameIcon(palette(), false), printable(file), flTextures_);
-        const QString stock = stockTextureName(file);
+        const QString stock = shown("Textures", stockTextureName(file).toStdString());
         item->setToolTip(stock);
         if (!stock.isEmpty()) item->setData(Qt::AccessibleTextRole, QString(file + QStringLiteral(", ") + stock));
         item->setData(Qt::UserRole, folder.filePath(file));

@@ -23,14 +23,14 @@ FEffect::FEffect(Frame& frame, const QString& name, std::span<const PaneRow> row
     : fPane(frame, name, rows), lstEffects_(new QListWidget(this))
 {
     named(lstEffects_, "lstEffects", tr("Effects"));
-    for (const Effect& effect : effects()) lstEffects_->addItem(text(effect.name));
+    for (const Effect& effect : effects()) lstEffects_->addItem(shown("Filters", effect.name));
     lstEffects_->setFixedHeight(lstEffects_->sizeHintForRow(0) * kShownEffects + 2 * lstEffects_->frameWidth());
     lstEffects_->setCurrentRow(frame.toolStores().effect - 1);
     connect(lstEffects_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) this->frame().toolStores().effect = row + 1;
     });
     connect(lstEffects_, &QListWidget::itemActivated, this, &FEffect::apply);
-    auto* caption = new QLabel(QStringLiteral("Show "), this);
+    auto* caption = new QLabel(tr("Show "), this);
     caption->setBuddy(lstEffects_);
     auto* button = named(new QPushButton(tr("Apply"), this), "cmdEffect", tr("Apply the effect"));
     connect(button, &QPushButton::clicked, this, &FEffect::apply);
@@ -50,7 +50,7 @@ void FEffect::apply()
         ApplyTexture(filter, index, amount, colour);
         draft.setBits(filter.bits());
     };
-    const QString what = text(effects()[std::size_t(index - 1)].name);
+    const QString what = shown("Filters", effects()[std::size_t(index - 1)].name);
     owner.workspace().change(document, {job, After::Step, what, effectText(index, amount, colour)},
                              [&owner, what](const Outcome& outcome) { owner.report(what, outcome); });
 }

@@ -1,5 +1,6 @@
 #include "ui/panes/fPane.h"
 #include "document/road/Frame.h"
+#include "seams/text.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/inputs/fNumberBox.h"
 #include "ui/widgets/inputs/named.h"
@@ -14,15 +15,20 @@ namespace velara {
 
 namespace {
 
-QString plain(const char* caption) { return QString::fromUtf8(caption).remove('&').remove(':').trimmed(); }
+QString plain(const char* caption) { return shown("Tools", caption).remove('&').remove(':').trimmed(); }
 
 void name(QWidget* widget, const PaneRow& row)
 {
     named(widget, row.name, plain(row.caption));
-    widget->setToolTip(QString::fromUtf8(row.hint));
+    widget->setToolTip(shown("Tools", row.hint));
 }
 
-QStringList entriesOf(const PaneRow& row) { return QString::fromUtf8(row.entries).split('|'); }
+QStringList entriesOf(const PaneRow& row)
+{
+    QStringList entries = QString::fromUtf8(row.entries).split('|');
+    for (QString& entry : entries) entry = shown("Tools", entry.toStdString());
+    return entries;
+}
 
 int numberOf(const PaneRow& row, int place) { return *row.numbers ? row.numbers[place] - '0' : place; }
 
@@ -98,7 +104,7 @@ void fPane::add(const PaneRow& row)
 
 void fPane::addSlider(const PaneRow& row)
 {
-    auto* caption = new QLabel(QString::fromUtf8(row.caption), this);
+    auto* caption = new QLabel(shown("Tools", row.caption), this);
     auto* slider = new QSlider(Qt::Horizontal, this);
     name(slider, row);
     slider->setRange(row.low, row.high);
@@ -145,7 +151,7 @@ void fPane::addChoice(const PaneRow& row)
 
 void fPane::addCheck(const PaneRow& row)
 {
-    auto* box = new QCheckBox(QString::fromUtf8(row.caption), this);
+    auto* box = new QCheckBox(shown("Tools", row.caption), this);
     name(box, row);
     column_->addWidget(box);
     connect(box, &QCheckBox::toggled, this, [=, this](bool on) { write(row, on); });

@@ -1,6 +1,7 @@
 #include "ui/panes/fToolPanes.h"
 #include "document/road/Frame.h"
 #include "seams/Platform.h"
+#include "seams/text.h"
 #include "ui/panes/fEffect.h"
 #include "ui/panes/fGradient.h"
 #include "ui/panes/fStamp.h"
@@ -48,7 +49,7 @@ QWidget* makeSidePane(const ToolRow& tool, Frame& frame, QWidget* parent)
     area->setWidgetResizable(true);
     area->setWidget(pane);
     if (const auto* stamp = qobject_cast<FStamp*>(pane); stamp && !stamp->folderFound())
-        frame.platform().tell("<Stamps> subfolder not found.", Icon::Exclamation);
+        frame.platform().tell(FStamp::tr("<Stamps> subfolder not found."), Icon::Exclamation);
     return area;
 }
 
@@ -62,8 +63,9 @@ QWidget* makePopup(const ToolRow& tool, Frame& frame, QWidget* parent)
     pane->setAttribute(Qt::WA_DeleteOnClose);
     pane->setAcceptDrops(true); // it lies over the frame, which accepts them
     pane->setMinimumWidth(190);
-    auto* heading = named(
-        new QLabel(QObject::tr(tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane), "lblTool");
+    auto* heading =
+        named(new QLabel(shown("Tools", tool.caption) + QStringLiteral(" (") + QLatin1Char(tool.key) + u')', pane),
+              "lblTool");
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);

@@ -249,7 +249,7 @@ void fPrint::finished(const PrintResult& result)
     const QPointer<fPrint> self = this;
     if (!result.fault.isEmpty()) {
         lblState_->setText(result.fault);
-        platform_.tell("Unable to print", Icon::Exclamation);
+        platform_.tell(tr("Unable to print"), Icon::Exclamation);
     } else if (!result.notice.isEmpty()) {
         lblState_->setText(tr("It is waiting"));
         platform_.tell(result.notice);

@@ -14,17 +14,7 @@ namespace {
 constexpr int kDelay = 500;              // ms
 constexpr int kDelays[] = {0, 3, 5, 10}; // s, that the user may choose
 
-struct WhereRow {
-    const char *caption, *word, *explanation;
-};
-// clang-format off
-constexpr WhereRow kRows[] = {
-    {"Desktop",    "CAPTUREDESKTOP",    "Desktop means the main screen where you go through before opening any windows"},
-    {"Foreground", "CAPTUREFOREGROUND", "Foreground means the Current window you are working with i.e, The Velara's Studio Environment."},
-    {"Background", "CAPTUREBACKGROUND", "Background means any windows behind the current active window including your Desktop. "
-                                        "Desktop is the background if there is no other visible windows behind Velara's Studio"},
-};
-// clang-format on
+constexpr const char* kWords[] = {"CAPTUREDESKTOP", "CAPTUREFOREGROUND", "CAPTUREBACKGROUND"};
 
 } // namespace
 
@@ -60,7 +50,7 @@ fCapture::fCapture(QWidget* parent) : QDialog(parent)
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(capture, &QPushButton::clicked, this, [this] {
         hide();
-        emit captureChosen(kRows[cb_->currentIndex()].word);
+        emit captureChosen(kWords[cb_->currentIndex()]);
     });
     connect(custom, &QPushButton::clicked, this, [this] {
         hide();
@@ -75,19 +65,30 @@ bool fCapture::withPointer() const { return chkPointer_->isChecked(); }
 
 QWidget* fCapture::makeCustom()
 {
+    static constexpr struct {
+        const char *label, *caption, *explanation;
+    } kRows[] = {
+        {"lblDesktop", QT_TR_NOOP("Desktop"),
+         QT_TR_NOOP("Desktop means the main screen where you go through before opening any windows")},
+        {"lblForeground", QT_TR_NOOP("Foreground"),
+         QT_TR_NOOP("Foreground means the Current window you are working with i.e, The Velara's Studio Environment.")},
+        {"lblBackground", QT_TR_NOOP("Background"),
+         QT_TR_NOOP("Background means any windows behind the current active window including your Desktop. "
+                    "Desktop is the background if there is no other visible windows behind Velara's Studio")}};
+    static_assert(std::size(kRows) == std::size(kWords));
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     cb_ = named(new QComboBox, "cb", tr("What to capture"));
     column->addWidget(cb_);
-    for (const WhereRow& row : kRows) {
-        cb_->addItem(row.caption);
-        auto* label = named(new QLabel(row.explanation), QString("lbl") + row.caption);
+    for (const auto& row : kRows) {
+        cb_->addItem(tr(row.caption));
+        auto* label = named(new QLabel(tr(row.explanation)), row.label);
         label->setWordWrap(true);
-        label->setMinimumWidth(380);
+        label->setMinimumSize(380, label->heightForWidth(380)); // the tabs ask for no height that depends on the width
         column->addWidget(label);
     }
     cbDelay_ = named(new QComboBox, "cbDelay");
-    for (const int seconds : kDelays) cbDelay_->addItem(seconds ? tr("%1 seconds").arg(seconds) : tr("At once"));
+    for (const int seconds : kDelays) cbDelay_->addItem(seconds ? tr("%n seconds", nullptr, seconds) : tr("At once"));
     auto* delay = new QLabel(tr("&Delay"));
     delay->setBuddy(cbDelay_);
     chkPointer_ = named(new QCheckBox(tr("With the &pointer")), "chkPointer");

@@ -135,7 +135,8 @@ fPaste::Slot fPaste::makeSlot(int index)
     row->setContentsMargins(3, 3, 3, 3);
     auto* picture = new ClipPicture("pT" + number);
     auto* button = named(new QPushButton, "BT" + number);
-    button->setMinimumWidth(button->fontMetrics().horizontalAdvance("    Clip 0000  "));
+    button->setMinimumWidth(
+        button->fontMetrics().horizontalAdvance("    " + tr("Clip %1").arg(QStringLiteral("0000")) + "  "));
     auto* size = named(new QLabel, "lblSize" + number);
     size->setMinimumWidth(size->fontMetrics().horizontalAdvance("00000 x 00000"));
     row->addWidget(picture);
@@ -164,7 +165,7 @@ QWidget* fPaste::makeOpacity()
     return panel;
 }
 
-fPaste::Take fPaste::take(const Document& document, const char* tooSmall)
+fPaste::Take fPaste::take(const Document& document, const QString& tooSmall)
 {
     frame_.setup().PasteMode = PasteMode::Waiting;
     if (!hasSelectedPart(document)) {
@@ -201,11 +202,11 @@ void fPaste::showClips()
     for (int i = 0; i < ClipHistory::kSlots; ++i) {
         const Slot& slot = slots_[std::size_t(i)];
         const Clip* clip = history_.at(i);
-        const QString caption = QString("Clip %1").arg(history_.numberAt(i));
+        const QString caption = tr("Clip %1").arg(history_.numberAt(i));
         slot.BT->setText("    " + caption);
         slot.BT->setEnabled(clip);
         slot.size->setText(clip ? sizeOfClip(clip->bits) : QString());
-        slot.BT->setToolTip(clip ? "Clip History: \n" + sizeOfClip(clip->bits) : QString());
+        slot.BT->setToolTip(clip ? tr("Clip History: \n%1").arg(sizeOfClip(clip->bits)) : QString());
         slot.BT->setAccessibleDescription(slot.size->text());
         slot.setThumbnail(clip ? thumbnail(*clip) : Bits());
         if (clip) lstImages_->addItem(caption);

@@ -30,8 +30,8 @@ class fPaste final : public QWidget {
     /// What takes the selected part of a document, on any thread; null after a message when the selection is too small.
     /// The caller clears what is cut, and adds the part.
     using Take = std::function<Part(const Document& document)>;
-    Take CutBits(const Document& document) { return take(document, "Minimum cut size: 2 x 2"); }
-    Take CopyBits(const Document& document) { return take(document, "Minimum copy size: 2 x 2"); }
+    Take CutBits(const Document& document) { return take(document, tr("Minimum cut size: 2 x 2")); }
+    Take CopyBits(const Document& document) { return take(document, tr("Minimum copy size: 2 x 2")); }
     /// Puts it into the list, and makes it what the next paste lays down.
     void add(const Part& part);
     /// Updates the scroll control for the list: the newest clip is in view.
@@ -54,7 +54,7 @@ class fPaste final : public QWidget {
         QLabel* size;
     };
 
-    Take take(const Document& document, const char* tooSmall);
+    Take take(const Document& document, const QString& tooSmall);
     QWidget* makeSlots();
     QWidget* makeOpacity();
     Slot makeSlot(int index);

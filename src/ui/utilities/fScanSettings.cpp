@@ -77,8 +77,10 @@ void fScanSettings::addControls(QGridLayout& grid)
 
 void fScanSettings::addArea(QGridLayout& grid)
 {
-    constexpr const char* kArea[][2] = {
-        {"sbLeft", "&Left"}, {"sbTop", "&Top"}, {"sbWidth", "&Width"}, {"sbHeight", "&Height"}};
+    constexpr const char* kArea[][2] = {{"sbLeft", QT_TR_NOOP("&Left")},
+                                        {"sbTop", QT_TR_NOOP("&Top")},
+                                        {"sbWidth", QT_TR_NOOP("&Width")},
+                                        {"sbHeight", QT_TR_NOOP("&Height")}};
     for (std::size_t i = 0; i < area_.size(); ++i) {
         const QString caption = tr(kArea[i][1]);
         area_[i] = named(new QDoubleSpinBox, kArea[i][0], QString(caption).remove('&'));

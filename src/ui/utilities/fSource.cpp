@@ -105,7 +105,7 @@ void rememberSource(Machine& machine, const ScanSource& source)
 
 void showScannerFailure(Dialogs& dialogs)
 {
-    dialogs.tell("Please Verify that the system is connected to Scanner!", Icon::Critical);
+    dialogs.tell(fSource::tr("Please Verify that the system is connected to Scanner!"), Icon::Critical);
 }
 
 } // namespace velara

@@ -180,8 +180,8 @@ bool fImage::mayClose()
     if (frame_.workspace().closeAwaits(document_.handle()) && !settles()) return false; // a save comes first
     if (!frame_.setup().AskToSave || !document_.wouldBeLost()) return true;
     bringToFront();
-    const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + "\nThis image has changed.\n" +
-                         "Do you want to save it ?";
+    const QString text = frame_.platform().compactPath(printable(Tag()), kPathPixels) + u'\n' +
+                         tr("This image has changed.\nDo you want to save it ?");
     emit asking(Question::Stands);
     if (!self) return false;
     const Answer answer = frame_.platform().askYesNoCancel(kProgramName, text, Icon::Information);

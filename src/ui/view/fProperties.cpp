@@ -1,6 +1,7 @@
 #include "ui/view/fProperties.h"
 #include "document/Document.h"
 #include "fileio/formats.h"
+#include "platform/desktop/dialogs/shownReason.h"
 #include "seams/printable.h"
 #include "seams/sizeText.h"
 #include "seams/text.h"
@@ -24,7 +25,7 @@ QString pixelsText(const Document& document)
     const QSize size(document.PictureWidth(), document.PictureHeight());
     return fProperties::tr("%1 pixels (%2 megapixels)")
         .arg(sizeText(size))
-        .arg(double(size.width()) * size.height() / 1e6, 0, 'f', 1);
+        .arg(QLocale().toString(double(size.width()) * size.height() / 1e6, 'f', 1));
 }
 
 } // namespace
@@ -35,12 +36,13 @@ QList<Property> propertiesOf(const Document& document)
     const Family* family = familyOf(file.format.isEmpty() ? file.path : "." + file.format);
     const QFileInfo onDisk(file.path);
     QList<Property> all{{fProperties::tr("File"), printable(file.path)}};
-    if (family) all << Property{fProperties::tr("Kind"), text(family->name)};
+    if (family) all << Property{fProperties::tr("Kind"), shown("Formats", family->name)};
     if (document.PictureExists()) all << Property{fProperties::tr("Size"), pixelsText(document)};
     if (file.isFile && onDisk.isFile())
         all << Property{fProperties::tr("Bytes"), QStringLiteral("%L1").arg(onDisk.size())};
     for (const QString& line : file.properties.split('\n', Qt::SkipEmptyParts))
-        all << Property{printable(line.section('\t', 0, 0)), printable(line.section('\t', 1))};
+        all << Property{shown("Properties", line.section('\t', 0, 0).toStdString()),
+                        shownReason(printable(line.section('\t', 1)))};
     return all;
 }
 

@@ -1,7 +1,6 @@
 // Every window that the menus open, the panes and the boxes: controls have names and roles for screen readers and can
 // be reached by keyboard, nothing shows raw markup, and every item of a menu has an access key.
-#include "app/frame/frameTest.h"
-#include "app/menus/Boxes.h"
+#include "app/frame/windowWalk.h"
 #include <QAccessible>
 #include <QRegularExpression>
 #include <QtWidgets>
@@ -10,14 +9,9 @@ namespace velara {
 
 namespace {
 
-struct EveryWindow : FrameTest {
-    QSet<QString> seen; // the windows looked at
+struct EveryWindow : WindowWalk {
     QStringList unnamed, marked, withoutRole, unreached;
 
-    static bool isA(const QWidget* widget, std::initializer_list<const char*> classes)
-    {
-        return widget && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
-    }
     static bool isControl(const QWidget& widget) // of our own, and not a part of one of Qt's
     {
         const QWidget* owner = widget.parentWidget();
@@ -62,9 +56,8 @@ struct EveryWindow : FrameTest {
             if (const QString shown = object.property(property).toString(); markup.match(shown).hasMatch())
                 marked << object.objectName() + ": " + shown;
     }
-    void look(QWidget& window)
+    void look(QWidget& window) override
     {
-        seen << window.objectName() + window.windowTitle();
         QList<QWidget*> all = window.findChildren<QWidget*>();
         all << &window;
         for (QWidget* widget : all) {
@@ -77,41 +70,13 @@ struct EveryWindow : FrameTest {
             if (window.isModal() && isControl(*widget) && !isReached(*widget)) unreached << shown;
         }
     }
-    /// Looks at the windows over the frame and closes them. \returns whether there was one
-    bool lookAndClose()
-    {
-        bool any = false;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window == frame.get() || !window->isVisible() || qobject_cast<QMenu*>(window)) continue;
-            look(*window);
-            window->close();
-            any = true;
-        }
-        return any;
-    }
 };
 
 } // namespace
 
 TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
 {
-    frame->initToolPanes();
-    open(randomBits(60, 40, 1));
-    frame->boxes().showAll();
-    for (QToolButton* strip : frame->toolPane().findChildren<QToolButton*>())
-        if (strip->isCheckable()) strip->click();
-    look(*frame);
-    QTimer timer; // comes in the middle of a modal window, too
-    QObject::connect(&timer, &QTimer::timeout, [this] { lookAndClose(); });
-    timer.start(1);
-    for (QAction* item : frame->findChildren<QAction*>()) {
-        if (!item->text().endsWith("...") && item->objectName() != "ABOUT_10") continue;
-        item->trigger();
-        frame->workspace().wait();
-        comes([&] { return !lookAndClose(); });
-    }
-    timer.stop();
-    EXPECT_GE(seen.size(), 35) << seen.values().join('\n').toStdString();
+    walk();
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
     EXPECT_TRUE(withoutRole.isEmpty()) << withoutRole.join('\n').toStdString();
     EXPECT_TRUE(unreached.isEmpty()) << unreached.join('\n').toStdString();

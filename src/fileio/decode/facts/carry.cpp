@@ -148,15 +148,15 @@ QString propertiesOf(const Decoded& picture)
     const Directories d(bounded(carried.exif));
     const Dots dots = dotsOf(carried, d);
     const std::pair<const char*, QString> lines[] = {
-        {"Profile", coloursText(carried)},
-        {"Camera", cameraText(d)},
-        {"Lens", d.text(d.details, ExifTag::Lens)},
-        {"Exposure", exposureText(d)},
-        {"Date", dateText(d)},
-        {"Place", placeText(d)},
-        {"Resolution", resolutionText(dots.across, dots.down)},
-        {"Comment", commentOf(carried).simplified().left(kMostLetters)},
-        {"Pages", carried.pages > 1 ? QString::number(carried.pages) : QString()},
+        {QT_TRANSLATE_NOOP("Properties", "Profile"), coloursText(carried)},
+        {QT_TRANSLATE_NOOP("Properties", "Camera"), cameraText(d)},
+        {QT_TRANSLATE_NOOP("Properties", "Lens"), d.text(d.details, ExifTag::Lens)},
+        {QT_TRANSLATE_NOOP("Properties", "Exposure"), exposureText(d)},
+        {QT_TRANSLATE_NOOP("Properties", "Date"), dateText(d)},
+        {QT_TRANSLATE_NOOP("Properties", "Place"), placeText(d)},
+        {QT_TRANSLATE_NOOP("Properties", "Resolution"), resolutionText(dots.across, dots.down)},
+        {QT_TRANSLATE_NOOP("Properties", "Comment"), commentOf(carried).simplified().left(kMostLetters)},
+        {QT_TRANSLATE_NOOP("Properties", "Pages"), carried.pages > 1 ? QString::number(carried.pages) : QString()},
     };
     QString text;
     for (const auto& [name, value] : lines)

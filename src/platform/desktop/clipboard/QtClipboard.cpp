@@ -2,6 +2,7 @@
 #include "pixels/images.h"
 #include "platform/desktop/clipboard/ClipboardOffer.h"
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QImage>
 #include <chrono>
@@ -71,6 +72,9 @@ QImage imageOfPicture(const Bits& bits)
     return image;
 }
 
+/// Names of what is read, and why it was not.
+QString words(const char* english) { return QCoreApplication::translate("Clipboard", english); }
+
 } // namespace
 
 QtClipboard::QtClipboard(Read read, Waiting waiting) : read_(std::move(read)), waiting_(std::move(waiting))
@@ -93,7 +97,7 @@ LoadedPicture QtClipboard::received()
     const QStringList offered = offer->types();
     const auto begin = std::chrono::steady_clock::now();
     bool wanted = true;
-    const GoOn goOn = [&, box = waiting_(QStringLiteral("the picture on the clipboard"))](auto) {
+    const GoOn goOn = [&, box = waiting_(words(QT_TRANSLATE_NOOP("Clipboard", "the picture on the clipboard")))](auto) {
         using std::chrono::milliseconds;
         const auto waited = std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin);
         return wanted = wanted && (!box || box(waited));
@@ -102,11 +106,14 @@ LoadedPicture QtClipboard::received()
     for (const ClipboardType& type : kClipboardTypes) {
         if (!offered.contains(QLatin1String(type.mime))) continue;
         const auto bytes = offer->bytes(type.mime, goOn);
-        if (!wanted) return {{}, QStringLiteral("The picture on the clipboard was given up.")};
-        picture = bytes ? read_(*bytes, QStringLiteral("The picture on the clipboard"), type.extension, goOn)
-                        : LoadedPicture{{},
-                                        QStringLiteral("The program that put the picture on the clipboard doesn't "
-                                                       "hand it over.")};
+        if (!wanted) return {{}, words(QT_TRANSLATE_NOOP("Clipboard", "The picture on the clipboard was given up."))};
+        picture =
+            bytes ? read_(*bytes, words(QT_TRANSLATE_NOOP("Clipboard", "The picture on the clipboard")), type.extension,
+                          goOn)
+                  : LoadedPicture{
+                        {},
+                        words(QT_TRANSLATE_NOOP(
+                            "Clipboard", "The program that put the picture on the clipboard doesn't hand it over."))};
         if (picture.ok() || !wanted) break;
     }
     return picture;

@@ -74,7 +74,7 @@ void PreviewPane::showFile(const QString& path)
     const Family* family = isFolder ? nullptr : familyOf(path);
     path_ = family ? path : QString();
     name_->setPath(file.fileName().isEmpty() ? path : file.fileName());
-    kind_->setText(family ? text(family->name) : QString());
+    kind_->setText(family ? shown("Formats", family->name) : QString());
     size_->clear();
     file_->setText(
         isFile ? QLocale().formattedDataSize(status->st_size) + "\n" +

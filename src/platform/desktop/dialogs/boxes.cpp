@@ -1,4 +1,5 @@
 #include "platform/desktop/dialogs/boxes.h"
+#include "platform/desktop/dialogs/shownReason.h"
 #include "seams/printable.h"
 #include <QApplication>
 #include <QMainWindow>
@@ -34,9 +35,9 @@ namespace {
 QPointer<QMessageBox> makeBox(const QString& title, const QString& text, Icon icon,
                               QMessageBox::StandardButtons buttons)
 {
-    QStringList lines = text.split('\n');
-    for (QString& line : lines) line = printable(line); // may contain file names
-    auto* box = new QMessageBox(boxIcon(icon), title, lines.join('\n'), buttons, parentOfDialogs());
+    QStringList lines = shownReason(text).split('\n');
+    for (QString& line : lines) line = printable(shownReason(line)); // may contain file names
+    auto* box = new QMessageBox(boxIcon(icon), shownReason(title), lines.join('\n'), buttons, parentOfDialogs());
     box->setObjectName("messageBox");
     box->setTextFormat(Qt::PlainText); // a path may contain anything
     return box;

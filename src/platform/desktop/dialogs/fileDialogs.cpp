@@ -111,6 +111,7 @@ class PictureDialog : public RememberedDialog {
 /// A name follows the chosen kind of file, and is asked about where it has the ending of another. Asks before replacing
 /// the file that will really be written, whose name may differ from the chosen one.
 class SaveDialog final : public PictureDialog {
+    Q_DECLARE_TR_FUNCTIONS(velara::SaveDialog)
   public:
     SaveDialog(Platform& platform, const FileDialog& request)
         : PictureDialog(platform, "Save", request), request_(request)
@@ -201,7 +202,7 @@ class SaveDialog final : public PictureDialog {
     {
         const QFileInfo written(writtenAs(selectedFiles().value(0)));
         return !written.exists() ||
-               showBox(windowTitle(), written.fileName() + tr(" already exists.\nDo you want to replace it?"),
+               showBox(windowTitle(), tr("%1 already exists.\nDo you want to replace it?").arg(written.fileName()),
                        Icon::Exclamation, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
     }
 

@@ -24,7 +24,8 @@ fNumberBox::fNumberBox(QSlider& slider, const QString& objectName, const Measure
 
 QString fNumberBox::textFromValue(int value) const
 {
-    return QString::number(value * measure_.step, 'f', measure_.decimals);
+    const QString number = QString::number(value * measure_.step, 'f', measure_.decimals);
+    return locale().decimalPoint() == QStringLiteral(",") ? QString(number).replace(u'.', u',') : number;
 }
 
 std::optional<double> fNumberBox::numberOf(QString text) const
