@@ -10,7 +10,6 @@ namespace velara {
 namespace {
 
 constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
-constexpr int kTurnTile = 32; // this many target columns and source rows stay in the first-level cache
 
 } // namespace
 
@@ -61,9 +60,9 @@ void cBitFilter::BitsRotate90(const Bits& Source)
     Bits out = Bits::uninitialized(in.height(), in.width());
     clearMargin(out);
     const WrittenRows rows(out);
-    eachPiece(0, in.height(), {kTurnTile}, in, [&](int y0, int y1) {
-        for (int x0 = 0; x0 < in.width(); x0 += kTurnTile)
-            turnPixels(in, rows, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
+    eachPiece(0, in.height(), {kTurnRows}, in, [&](int y0, int y1) {
+        for (int x0 = 0; x0 < in.width(); x0 += kTurnColumns)
+            turnPixels(in, rows, x0, std::min(x0 + kTurnColumns, in.width()), y0, y1);
     });
     bits_ = out;
     report(100);

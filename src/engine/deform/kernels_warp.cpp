@@ -8,6 +8,8 @@
 namespace velara {
 
 constexpr int kLongestVector = 16; // words
+constexpr int kTurnAhead = 16;     // rows
+constexpr int kTurnPitch = kTurnRows + 16; // no power of two: rows would share cache sets
 
 struct TakeJob {
     const std::int32_t* origin; // of pixel (0, 0), as words
@@ -253,14 +255,17 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
     return doubtful;
 }
 
-/// Four by four pixels: from and to point to the first one, strides in pixels; the target's rows run upward.
+/// Four by four pixels at a time; the row of `to` that x goes to is x * toStride, its pixels are the rows of `from`.
 void turnFours(const TurnJob& job, int columns, int rows)
 {
     const hn::FixedTag<std::uint32_t, 4> d;
     const hn::FixedTag<std::uint64_t, 2> pairs;
     const auto colour = hn::Set(d, 0xFFFFFF);
-    for (int x = 0; x < columns; x += 4)
-        for (int y = 0; y < rows; y += 4) {
+    for (int y = 0; y < rows; y += 4) {
+        for (int j = 0; j < 4; ++j) // the rows lie too far apart for the processor to foresee them
+            for (int x = 0; x < columns; x += kLinePixels)
+                __builtin_prefetch(job.from + (y + j + kTurnAhead) * job.fromStride + x);
+        for (int x = 0; x < columns; x += 4) {
             const auto row = [&](int j) {
                 return hn::And(hn::LoadU(d, job.from + (y + j) * job.fromStride + x), colour);
             };
@@ -270,13 +275,14 @@ void turnFours(const TurnJob& job, int columns, int rows)
             const auto ceLow = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
             const auto ceHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
             const auto store = [&](auto column, int j) {
-                hn::StoreU(hn::BitCast(d, column), d, job.to - (x + j) * job.toStride + y);
+                hn::StoreU(hn::BitCast(d, column), d, job.to + (x + j) * job.toStride + y);
             };
             store(hn::InterleaveLower(pairs, abLow, ceLow), 0);
             store(hn::InterleaveUpper(pairs, abLow, ceLow), 1);
             store(hn::InterleaveLower(pairs, abHigh, ceHigh), 2);
             store(hn::InterleaveUpper(pairs, abHigh, ceHigh), 3);
         }
+    }
 }
 
 } // namespace HWY_NAMESPACE
@@ -391,13 +397,17 @@ HWY_EXPORT(turnFours);
 
 void turnPixels(const Bits& in, const WrittenRows& out, int x0, int x1, int y0, int y1)
 {
+    // Rows of the target are put together here and written as a whole: its cache lines are never read.
+    alignas(64) Pixel turned[kTurnColumns][kTurnPitch];
     const int columns = (x1 - x0) / 4 * 4, rows = (y1 - y0) / 4 * 4;
     const TurnJob job{reinterpret_cast<const std::uint32_t*>(in.row(y0) + x0), in.stride(),
-                      reinterpret_cast<std::uint32_t*>(out.row(in.maxX() - x0) + y0), out.stride()};
+                      reinterpret_cast<std::uint32_t*>(turned[0]), kTurnPitch};
     HWY_DYNAMIC_DISPATCH(turnFours)(job, columns, rows);
     for (int y = y0; y < y1; ++y)
         for (int x = y < y0 + rows ? x0 + columns : x0; x < x1; ++x)
-            out.row(in.maxX() - x)[y] = withColour(in.at(x, y), Pixel{});
+            turned[x - x0][y - y0] = withColour(in.at(x, y), Pixel{});
+    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    for (int x = x0; x < x1; ++x) copy(turned[x - x0], out.row(in.maxX() - x) + y0, 0, y1 - y0);
 }
 
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)
