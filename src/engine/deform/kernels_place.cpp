@@ -79,7 +79,8 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
     const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
     const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
-    alignas(HWY_MAX_BYTES) float radii[kPlaces], turns[2 * kPlaces];
+    alignas(HWY_MAX_BYTES) float radii[kPlaces];
+    alignas(HWY_MAX_BYTES) std::uint64_t turns[kPlaces]; // two singles
     alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
     for (int i = 0; i < n; i += lanes) {
         const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
@@ -89,14 +90,18 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     }
     // All stores before the first use: a vector load can't be forwarded from several pending stores.
     const int whole = (n + lanes - 1) / lanes * lanes;
-    for (int i = 0; i < whole; ++i) std::memcpy(turns + 2 * i, twirl.turns + 2 * wholes[i], 2 * sizeof(float));
+    for (int i = 0; i < whole; ++i) {
+        std::uint64_t turn; // as a number: a checked copy into an array would be a call
+        std::memcpy(&turn, twirl.turns + 2 * wholes[i], sizeof turn);
+        turns[i] = turn;
+    }
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
         const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
         const auto scale = hn::Div(r, hn::Max(radius, half));
         hn::Vec<Singles> c, s;
-        hn::LoadInterleaved2(d, turns + 2 * i, c, s);
+        hn::LoadInterleaved2(d, reinterpret_cast<const float*>(turns + i), c, s);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
         const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);

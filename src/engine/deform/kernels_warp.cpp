@@ -211,21 +211,41 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
 {
     const hn::ScalableTag<std::int32_t> d;
     const hn::ScalableTag<float> singles;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto zero = hn::Zero(d), byte = hn::Set(d, 255);
+    const int lanes = static_cast<int>(hn::Lanes(d)), whole = (n + lanes - 1) / lanes * lanes;
+    const auto byte = hn::Set(d, 255);
     const auto width = hn::Set(d, job.width), height = hn::Set(d, job.height), stride = hn::Set(d, job.stride);
     const auto least = hn::Set(d, -1);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces];
+    alignas(HWY_MAX_BYTES) std::uint64_t upper[kPlaces], lower[kPlaces]; // two pixels side by side
+    const auto isInside = [&](int i) HWY_ATTR {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        return hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
+    };
+    for (int i = 0; i < whole; i += lanes) {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        hn::Store(hn::IfThenElseZero(isInside(i), hn::Add(hn::Mul(y, stride), x)), d, indices + i);
+    }
+    // All stores before the first use: a vector load can't be forwarded from several pending stores.
+    for (int i = 0; i < whole; ++i) {
+        std::uint64_t two; // as numbers: a checked copy into an array would be a call
+        std::memcpy(&two, job.origin + indices[i], sizeof two);
+        upper[i] = two;
+        std::memcpy(&two, job.origin + indices[i] + job.stride, sizeof two);
+        lower[i] = two;
+    }
+    if (kept && n == kPlaces) // what the run to the right will read and write
+        for (int i = 0; i < kPlaces; i += kLinePixels) {
+            __builtin_prefetch(kept + kPlaces + i);
+            __builtin_prefetch(to + kPlaces + i, 1);
+        }
+    const auto fourth = [&](auto pixels) HWY_ATTR { return hn::AndNot(hn::Set(d, 0x00FFFFFF), pixels); };
     // Singles near 255 have steps of 2^-16; three of them add up here.
     const auto surely = hn::Set(singles, 0.5f - 1.0f / 8192);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
-        const auto inside =
-            hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
-        const auto upper = hn::Add(hn::Mul(hn::IfThenElse(inside, y, zero), stride), hn::IfThenElse(inside, x, zero));
-        const auto lower = hn::Add(upper, stride);
-        const auto p00 = loadEach(d, job.origin, upper), p10 = loadEach(d, job.origin + 1, upper);
-        const auto p01 = loadEach(d, job.origin, lower), p11 = loadEach(d, job.origin + 1, lower);
+        hn::Vec<decltype(d)> p00, p10, p01, p11;
+        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(upper + i), p00, p10);
+        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(lower + i), p01, p11);
         const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
         auto doubt = hn::Zero(singles);
         const auto blend = [&](auto from, auto to, auto part) {
@@ -244,13 +264,21 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
         const auto blended =
             hn::Or(hn::Or(channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 8>())),
                    channel(std::integral_constant<int, 16>()));
+        const auto inside = isInside(i);
         doubtful |= laneBits(d, hn::And(hn::RebindMask(d, hn::Gt(doubt, surely)), inside)) << i;
-        alignas(64) std::int32_t result[HWY_MAX_BYTES / 4];
-        hn::Store(hn::IfThenElseZero(inside, blended), d, result);
-        const int count = std::min(lanes, n - i);
-        std::memcpy(to + i, result, sizeof(Pixel) * static_cast<std::size_t>(count));
-        if (kept)
-            for (int j = i; j < i + count; ++j) to[j].c[3] = kept[j].c[3];
+        const auto colour = hn::IfThenElseZero(inside, blended);
+        if (i + lanes <= n) {
+            hn::StoreU(kept ? hn::Or(colour, fourth(hn::LoadU(d, reinterpret_cast<const std::int32_t*>(kept + i))))
+                            : colour,
+                       d, reinterpret_cast<std::int32_t*>(to + i));
+            continue;
+        }
+        alignas(HWY_MAX_BYTES) Pixel last[HWY_MAX_BYTES / sizeof(Pixel)];
+        hn::Store(colour, d, reinterpret_cast<std::int32_t*>(last));
+        for (int j = i; j < n; ++j) {
+            to[j] = last[j - i];
+            if (kept) to[j].c[3] = kept[j].c[3];
+        }
     }
     return doubtful;
 }
