@@ -6,6 +6,7 @@
 #define VELARA_LANES_INL
 #endif
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <hwy/highway.h>
@@ -23,6 +24,17 @@ template <class D, class M> HWY_INLINE std::uint64_t laneBits(D d, M mask)
     std::uint64_t all;
     std::memcpy(&all, bits, sizeof all);
     return all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
+}
+
+/// first, first + 1, ... The library's own function writes the lanes one by one and waits for them.
+template <class D, class T = hn::TFromD<D>> HWY_INLINE hn::Vec<D> countedFrom(D d, T first)
+{
+    static constexpr auto kSteps = [] {
+        std::array<T, HWY_MAX_BYTES / sizeof(T)> steps{};
+        for (std::size_t i = 0; i < steps.size(); ++i) steps[i] = static_cast<T>(i);
+        return steps;
+    }();
+    return hn::Add(hn::LoadU(d, kSteps.data()), hn::Set(d, first));
 }
 
 /// base[index] of each lane, of 4 bytes. By scalar loads, which take half the time of the gather instruction on the

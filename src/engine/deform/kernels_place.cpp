@@ -30,7 +30,7 @@ void lineOfPlacesImpl(double d, double factor, double shift, double centre, int 
     const Doubles doubles;
     const HalfWords words;
     const int lanes = static_cast<int>(hn::Lanes(doubles));
-    auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d));
+    auto at = countedFrom(doubles, d);
     const auto step = hn::Set(doubles, static_cast<double>(lanes));
     const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
     for (int i = 0; i < n; i += lanes) {
@@ -49,7 +49,7 @@ void lineOfSplitPlacesImpl(double d, double factor, double shift, double centre,
     const int lanes = static_cast<int>(hn::Lanes(doubles));
     const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
     for (int i = 0; i < n; i += lanes) {
-        const auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d + i));
+        const auto at = countedFrom(doubles, d + i);
         const auto place = hn::Add(hn::Add(hn::Mul(at, f), s), c);
         const auto floor = hn::Floor(place);
         hn::StoreU(hn::DemoteTo(words, floor), words, places + i);
@@ -83,7 +83,7 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     alignas(HWY_MAX_BYTES) std::uint64_t turns[kPlaces]; // two singles
     alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
         hn::Store(radius, d, radii + i);
         hn::Store(hn::NearestInt(radius), words, wholes + i);
@@ -97,7 +97,7 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     }
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
         const auto scale = hn::Div(r, hn::Max(radius, half));
         hn::Vec<Singles> c, s;
@@ -146,7 +146,7 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     const auto signs = hn::Set(d, down < 0 ? -1.0f : 1.0f);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - bend.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - bend.cx));
         const auto absX = hn::Abs(dx);
         const auto least = hn::Min(absX, absY), most = hn::Max(absX, absY);
         const auto atan = arcTangent(d, hn::Div(least, hn::Max(most, half)));
@@ -202,7 +202,7 @@ bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, st
     auto safe = hn::Le(hn::Abs(pulledY), fits);
     for (int i = 0; i < n; i += lanes) {
         // The last vector repeats the last pixel, as positions beyond it may lie outside of the disc.
-        const auto at = hn::Min(hn::Add(hn::Iota(d, 0.0), hn::Set(d, static_cast<double>(x0 + i))),
+        const auto at = hn::Min(countedFrom(d, static_cast<double>(x0 + i)),
                                 hn::Set(d, static_cast<double>(x0 + n - 1)));
         const auto ox = hn::Sub(at, cx);
         const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));

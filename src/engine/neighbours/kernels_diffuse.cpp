@@ -4,6 +4,7 @@
 #define HWY_TARGET_INCLUDE "engine/neighbours/kernels_diffuse.cpp"
 #include <hwy/foreach_target.h>
 
+#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
 #include "engine/random-inl.h"
 #include <bit>
@@ -40,7 +41,7 @@ int diffusePixels(SpanOf s, int y, const Displacement& displacement, const Sourc
     const int n = static_cast<int>(hn::Lanes(d));
     int x = s.x0;
     for (; x + n <= s.x1; x += n) {
-        const auto columns = hn::Iota(d, x);
+        const auto columns = countedFrom(d, x);
         const auto number = hn::Add(hn::ShiftLeft<1>(hn::BitCast(du, columns)), hn::Set(du, m.first));
         const auto across = hn::BitCast(d, randomBits(du, m.random, number));
         const auto down = hn::BitCast(d, randomBits(du, m.random, hn::Add(number, hn::Set(du, 1u))));
