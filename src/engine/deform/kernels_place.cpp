@@ -202,8 +202,8 @@ bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, st
     auto safe = hn::Le(hn::Abs(pulledY), fits);
     for (int i = 0; i < n; i += lanes) {
         // The last vector repeats the last pixel, as positions beyond it may lie outside of the disc.
-        const auto at = hn::Min(countedFrom(d, static_cast<double>(x0 + i)),
-                                hn::Set(d, static_cast<double>(x0 + n - 1)));
+        const auto at =
+            hn::Min(countedFrom(d, static_cast<double>(x0 + i)), hn::Set(d, static_cast<double>(x0 + n - 1)));
         const auto ox = hn::Sub(at, cx);
         const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));
         const auto pulledX = hn::Round(hn::Mul(depth, ox));

@@ -7,8 +7,8 @@
 #define VELARA_KERNELS_WARP_TYPES
 namespace velara {
 
-constexpr int kLongestVector = 16; // words
-constexpr int kTurnAhead = 16;     // rows
+constexpr int kLongestVector = 16;         // words
+constexpr int kTurnAhead = 16;             // rows
 constexpr int kTurnPitch = kTurnRows + 16; // no power of two: rows would share cache sets
 
 struct TakeJob {
