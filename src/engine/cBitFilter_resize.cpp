@@ -44,8 +44,8 @@ class RowBlender {
     RowBlender(const Axis& columns, int width)
         : columns_(columns), width_(width), line_(static_cast<std::size_t>(width + kBlended))
     {
-        constexpr int kSources = 1024;
-        constexpr double kMost = 512;
+        constexpr int kSources = 2048;
+        constexpr double kMost = 1024;
         together_ =
             kBlended * std::max(1, static_cast<int>(std::min(kMost, kSources / double{columns.step}) / kBlended));
         blended_.resize(4 * static_cast<std::size_t>(together_ * double{columns.step} + 2 + kBlended));

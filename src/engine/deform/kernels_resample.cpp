@@ -15,6 +15,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 using Singles = hn::CappedTag<float, 8>; // a vector of one or two pixels
 using Words = hn::RebindToUnsigned<Singles>;
 using Four = hn::CappedTag<float, 4>;
+constexpr int kAhead = 128; // pixels
 
 void blendRowsImpl(const Pixel* upper, const Pixel* lower, float part, int n, float* to)
 {
@@ -24,6 +25,11 @@ void blendRowsImpl(const Pixel* upper, const Pixel* lower, float part, int n, fl
     const auto by = hn::Set(d, part);
     const int pixels = static_cast<int>(hn::Lanes(d)) / 4;
     for (int i = 0; i < n; i += pixels) {
+        if (i % kAhead == 0) // stretches of rows are too short for the processor to foresee the next
+            for (int j = i + kAhead; j < i + 2 * kAhead; j += 16) {
+                __builtin_prefetch(upper + j);
+                __builtin_prefetch(lower + j);
+            }
         const auto channels = [&](const Pixel* p)
                                   HWY_ATTR { return hn::ConvertTo(d, hn::PromoteTo(words, hn::LoadU(bytes, p[i].c))); };
         const auto above = channels(upper), below = channels(lower);
@@ -84,12 +90,14 @@ HWY_EXPORT(blendColumnsImpl);
 bool isClear(double part)
 {
     // Singles near 255 have steps of 2^-16: half of one for the part, the product and the sum.
-    constexpr double kTolerance = 1.0 / 32768;
+    constexpr std::uint32_t kHalf = 1u << 31, kTolerance = 1u << 17; // 2^-15 and a half in units of 2^-32
+    const auto step = static_cast<std::uint32_t>(std::ldexp(part, 32));
+    std::uint32_t near = 0, fraction = 0;
     for (int difference = 1; difference < 256; ++difference) {
-        const double v = part * difference;
-        if (std::abs(v - std::floor(v) - 0.5) < kTolerance) return false;
+        fraction += step;
+        near |= static_cast<std::uint32_t>(fraction - (kHalf - kTolerance) < 2 * kTolerance);
     }
-    return true;
+    return !near;
 }
 
 void blendRows(const Pixel* upper, const Pixel* lower, double part, int n, float* to)
