@@ -1,4 +1,5 @@
-// Single lanes: masks as bits, and loads from scattered addresses. For kernel files only: included once per target.
+// Single lanes: masks as bits, loads from scattered addresses, and the vectors of a run of pixels. For kernel files
+// only: included once per target.
 #if defined(VELARA_LANES_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_LANES_INL
 #undef VELARA_LANES_INL
@@ -6,6 +7,7 @@
 #define VELARA_LANES_INL
 #endif
 
+#include "pixels/Bits.h"
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -35,6 +37,18 @@ template <class D, class T = hn::TFromD<D>> HWY_INLINE hn::Vec<D> countedFrom(D 
         return steps;
     }();
     return hn::Add(hn::LoadU(d, kSteps.data()), hn::Set(d, first));
+}
+
+/// Calls body(from, to, i) for whole vectors of `lanes` pixels; the remainder goes through a buffer.
+template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
+{
+    int i = 0;
+    for (; i + lanes <= n; i += lanes) body(from + i, to + i, i);
+    if (i == n) return;
+    Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
+    std::memcpy(tail, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
+    body(tail, tail, i);
+    std::memcpy(to + i, tail, sizeof(Pixel) * static_cast<std::size_t>(n - i));
 }
 
 /// base[index] of each lane, of 4 bytes. By scalar loads, which take half the time of the gather instruction on the

@@ -23,18 +23,6 @@ using HalfSingles = hn::Rebind<float, Doubles>;
 using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
 
-/// Calls body(from, to, i) for whole vectors of `lanes` pixels; the remainder goes through a buffer.
-template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
-{
-    int i = 0;
-    for (; i + lanes <= n; i += lanes) body(from + i, to + i, i);
-    if (i == n) return;
-    Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
-    std::memcpy(tail, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
-    body(tail, tail, i);
-    std::memcpy(to + i, tail, sizeof(Pixel) * static_cast<std::size_t>(n - i));
-}
-
 void multiplyImpl(const Pixel* from, const Pixel* factors, int n, Pixel* to)
 {
     const hn::ScalableTag<std::uint16_t> d;
