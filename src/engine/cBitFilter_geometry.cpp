@@ -31,13 +31,20 @@ void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)
     Bits out = Bits::uninitialized(r.width(), r.height());
     clearMargin(out);
     const WrittenRows rows(out);
+    const auto copy = out.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
     parallelFor(r.height(), turnsTogether(r.width()), [&](int y) {
         const Pixel* from = in.row(y + r.top) + r.left;
         Pixel* to = rows.row(y);
-        if (!masked) return copyPixels(from, to, 0, r.width());
-        std::fill(to, to + r.width(), kMaskedOut);
-        for (const Span s : region_.spans(y + r.top))
-            copyPixels(from, to, std::max(s.x0 - r.left, 0), std::min(s.x1 - r.left, r.width()));
+        if (!masked) return copy(from, to, 0, r.width());
+        int done = 0;
+        for (const Span s : region_.spans(y + r.top)) {
+            const int x0 = std::max(s.x0 - r.left, done), x1 = std::min(s.x1 - r.left, r.width());
+            if (x0 >= x1) continue;
+            std::fill(to + done, to + x0, kMaskedOut);
+            copy(from, to, x0, x1);
+            done = x1;
+        }
+        std::fill(to + done, to + r.width(), kMaskedOut);
     });
     bits_ = out;
     report(100);
