@@ -16,11 +16,26 @@ constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
 void cBitFilter::BitsBlack()
 {
     const Box box = insidePicture(GetBounds(0), bits_);
-    for (int y = box.ymin; y <= box.ymax; ++y)
+    if (box.isEmpty()) return;
+    const Bits in = bits_;
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    const WrittenRows rows(out);
+    parallelFor(box.ymax - box.ymin + 1, turnsTogether(in.width()), [&](int i) {
+        const int y = box.ymin + i;
+        Pixel* to = rows.row(y);
+        int done = -Bits::kMargin;
         for (const Span s : region_.spans(y)) {
             const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
-            if (x0 < x1) std::memset(bits_.row(y) + x0, 0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+            if (x0 >= x1) continue;
+            copyPixels(in.row(y), to, done, x0);
+            std::memset(to + x0, 0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+            done = x1;
         }
+        copyPixels(in.row(y), to, done, in.width() + Bits::kMargin);
+    });
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    bits_ = out;
 }
 
 void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)

@@ -166,14 +166,15 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     return doubtful;
 }
 
-std::uint64_t waveOffsetsImpl(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+std::uint64_t waveOffsetsImpl(const WaveTables& wave, double ofSine, double ofCosine, float weight, int n,
+                              std::int32_t* offsets)
 {
     const Singles d;
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), tolerance = hn::Set(d, weight * 1e-6f);
-    const auto sine = hn::Set(d, static_cast<float>(-weight * std::sin(number)));
-    const auto cosine = hn::Set(d, static_cast<float>(-weight * std::cos(number)));
+    const auto sine = hn::Set(d, static_cast<float>(-weight * ofSine));
+    const auto cosine = hn::Set(d, static_cast<float>(-weight * ofCosine));
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto offset =
@@ -271,9 +272,10 @@ WaveTables::WaveTables()
     }
 }
 
-std::uint64_t waveOffsets(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+std::uint64_t waveOffsets(const WaveTables& wave, double sine, double cosine, float weight, int n,
+                          std::int32_t* offsets)
 {
-    return HWY_DYNAMIC_DISPATCH(waveOffsetsImpl)(wave, number, weight, n, offsets);
+    return HWY_DYNAMIC_DISPATCH(waveOffsetsImpl)(wave, sine, cosine, weight, n, offsets);
 }
 
 } // namespace velara
