@@ -8,6 +8,7 @@
 #include "reduce/ErrorMatch.h"
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace velara {
 
@@ -25,16 +26,16 @@ class Work {
     }
     IndexedPicture take() { return std::move(picture_); }
 
-    /// The entry nearest to what of(pixel) gives; pixels are independent.
-    template <class Of> void eachPixel(Of of)
+    /// The entries nearest to the pixels that of(row, line) gives for a row: its own, or those that it writes to line.
+    template <class Of> void eachRow(Of of)
     {
-        Copies<NearestColours> nearest([&] { return nearest_; });
+        struct Own {
+            NearestColours nearest;
+            std::vector<Pixel> line;
+        };
+        Copies<Own> copies([&] { return Own{nearest_, std::vector<Pixel>(std::size_t(bits_.width()))}; });
         const auto row = [&](int y) {
-            const Pixel* from = bits_.row(y);
-            std::uint8_t* to = rowOf(y);
-            nearest.lend([&](NearestColours& own) {
-                for (int x = 0; x < bits_.width(); ++x) to[x] = static_cast<std::uint8_t>(own(of(from[x])));
-            });
+            copies.lend([&](Own& own) { own.nearest.entries(of(bits_.row(y), own.line), rowOf(y), bits_.width()); });
         };
         parallelFor(bits_.height(), turnsTogether(bits_.width()), row, [this](int y) { told(y); });
     }
@@ -189,7 +190,10 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
     Work work(bits, palette, progress);
     switch (dither) {
     case Dither::Binary:
-        work.eachPixel(blackOrWhite);
+        work.eachRow([](const Pixel* row, std::vector<Pixel>& line) {
+            std::transform(row, row + line.size(), line.begin(), blackOrWhite);
+            return std::as_const(line).data();
+        });
         break;
     case Dither::Ordered:
         work.screened(kDispersedDots, origin);
@@ -217,7 +221,7 @@ IndexedPicture dithered(const Bits& bits, const Palette& palette, Dither dither,
         break;
     case Dither::None:
     default:
-        work.eachPixel([](Pixel p) { return p; });
+        work.eachRow([](const Pixel* row, std::vector<Pixel>&) { return row; });
     }
     return work.take();
 }
