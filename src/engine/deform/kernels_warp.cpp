@@ -48,21 +48,6 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// The words at the n indices (n even), in pairs: half as many stores, and no gather instruction, which is slower than
-/// scalar loads on the machines measured.
-HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
-{
-    for (int i = 0; i < n; i += 2) {
-        std::uint64_t two;
-        std::memcpy(&two, indices + i, sizeof two);
-        const auto word = [&](std::uint64_t index) {
-            return static_cast<std::uint32_t>(base[static_cast<std::int32_t>(index)]);
-        };
-        const std::uint64_t pair = word(two & 0xFFFFFFFF) | std::uint64_t(word(two >> 32)) << 32;
-        std::memcpy(found + i, &pair, sizeof pair);
-    }
-}
-
 /// to[i] = merged(i, kept) for n pixels, a vector at a time.
 template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, Merge merged)
 {
