@@ -85,6 +85,12 @@ Row operation(std::string family, double must, double goal, std::string name, Ar
             name};
 }
 
+Row bounded(Bound bound, Row row)
+{
+    row.bound = bound;
+    return row;
+}
+
 Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments)
 {
     return {family,

@@ -20,6 +20,14 @@ struct Timing {
     std::function<void()> before = {}; // runs before each body, untimed
 };
 
+/// What no implementation of a row gets below, counted from its arithmetic: operations on vectors of four-byte lanes,
+/// loads and stores among them; operations on single pixels; and cycles that a pixel waits for the one before it. At
+/// the rate that the machine reaches in the same run (rate.h), with a quarter more for what a loop loses, this is the
+/// goal where it is more than the row's own, which was set on a machine with slower memory.
+struct Bound {
+    double ofVector = 0, ofPixel = 0, cycles = 0;
+};
+
 /// One line of the table. must and goal are the highest permitted figures, 0 for none. prepare runs before the timing.
 struct Row {
     std::string family, name;
@@ -27,6 +35,7 @@ struct Row {
     std::function<Timing(Size)> prepare;
     std::string unit = "memcpy"; // the figure's unit; "ms" is absolute, without a reference
     std::string operation = {};  // of the engine's table, if the row measures one
+    Bound bound = {};
 };
 
 std::vector<Row>& rows();
@@ -44,5 +53,8 @@ enum class Selected { All, Ellipse };
 Row operation(std::string family, double must, double goal, std::string name, Arguments arguments);
 /// The same within an ellipse of one band per row, relative to the whole picture's time per pixel.
 Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments);
+
+/// The row with its bound.
+Row bounded(Bound bound, Row row);
 
 } // namespace velara::bench

@@ -10,18 +10,32 @@ namespace velara {
 namespace {
 
 constexpr Pixel kMaskedOut = {{0, 0, 0, 255}};
-constexpr int kTurnTile = 32; // this many target columns and source rows stay in the first-level cache
 
 } // namespace
 
 void cBitFilter::BitsBlack()
 {
     const Box box = insidePicture(GetBounds(0), bits_);
-    for (int y = box.ymin; y <= box.ymax; ++y)
+    if (box.isEmpty()) return;
+    const Bits in = bits_;
+    Bits out = Bits::uninitialized(in.width(), in.height());
+    copyRows(in, out, -Bits::kMargin, box.ymin);
+    const WrittenRows rows(out);
+    parallelFor(box.ymax - box.ymin + 1, turnsTogether(in.width()), [&](int i) {
+        const int y = box.ymin + i;
+        Pixel* to = rows.row(y);
+        int done = -Bits::kMargin;
         for (const Span s : region_.spans(y)) {
             const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
-            if (x0 < x1) std::memset(bits_.row(y) + x0, 0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+            if (x0 >= x1) continue;
+            copyPixels(in.row(y), to, done, x0);
+            std::memset(to + x0, 0, sizeof(Pixel) * static_cast<std::size_t>(x1 - x0));
+            done = x1;
         }
+        copyPixels(in.row(y), to, done, in.width() + Bits::kMargin);
+    });
+    copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
+    bits_ = out;
 }
 
 void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)
@@ -32,13 +46,20 @@ void cBitFilter::crop(const Bits& Source, const Rect& rectangle, bool masked)
     Bits out = Bits::uninitialized(r.width(), r.height());
     clearMargin(out);
     const WrittenRows rows(out);
+    const auto copy = out.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
     parallelFor(r.height(), turnsTogether(r.width()), [&](int y) {
         const Pixel* from = in.row(y + r.top) + r.left;
         Pixel* to = rows.row(y);
-        if (!masked) return copyPixels(from, to, 0, r.width());
-        std::fill(to, to + r.width(), kMaskedOut);
-        for (const Span s : region_.spans(y + r.top))
-            copyPixels(from, to, std::max(s.x0 - r.left, 0), std::min(s.x1 - r.left, r.width()));
+        if (!masked) return copy(from, to, 0, r.width());
+        int done = 0;
+        for (const Span s : region_.spans(y + r.top)) {
+            const int x0 = std::max(s.x0 - r.left, done), x1 = std::min(s.x1 - r.left, r.width());
+            if (x0 >= x1) continue;
+            std::fill(to + done, to + x0, kMaskedOut);
+            copy(from, to, x0, x1);
+            done = x1;
+        }
+        std::fill(to + done, to + r.width(), kMaskedOut);
     });
     bits_ = out;
     report(100);
@@ -61,9 +82,9 @@ void cBitFilter::BitsRotate90(const Bits& Source)
     Bits out = Bits::uninitialized(in.height(), in.width());
     clearMargin(out);
     const WrittenRows rows(out);
-    eachPiece(0, in.height(), {kTurnTile}, in, [&](int y0, int y1) {
-        for (int x0 = 0; x0 < in.width(); x0 += kTurnTile)
-            turnPixels(in, rows, x0, std::min(x0 + kTurnTile, in.width()), y0, y1);
+    eachPiece(0, in.height(), {kTurnRows}, in, [&](int y0, int y1) {
+        for (int x0 = 0; x0 < in.width(); x0 += kTurnColumns)
+            turnPixels(in, rows, x0, std::min(x0 + kTurnColumns, in.width()), y0, y1);
     });
     bits_ = out;
     report(100);

@@ -1,5 +1,6 @@
 // The two resizes.
-#include "engine/deform/passes_warp.h"
+#include "engine/deform/kernels_resample.h"
+#include "engine/passes.h"
 #include "pixels/numbers.h"
 #include <cmath>
 
@@ -12,11 +13,14 @@ float ratio(int from, int to) { return static_cast<float>(static_cast<double>(fr
 
 /// The source positions of the targets along one axis: the pixel and the fraction beyond it.
 struct Axis {
-    std::vector<std::int32_t> at; // padded to whole vectors
+    float step;
+    std::vector<std::int32_t> at; // padded for vectors
     std::vector<double> beyond;
-    std::vector<float> single; // beyond
+    std::vector<float> single;         // beyond
+    std::vector<std::int32_t> unclear; // targets whose part is not clear, ascending
 
-    Axis(int count, float step) : at(static_cast<std::size_t>(count + kPlaces)), beyond(at.size()), single(at.size())
+    Axis(int count, float step)
+        : step(step), at(static_cast<std::size_t>(count + kBlended)), beyond(at.size()), single(at.size())
     {
         for (int i = 0; i < count; ++i) {
             const double s = static_cast<double>(i) * step;
@@ -24,7 +28,51 @@ struct Axis {
             beyond[i] = s - at[i];
             single[i] = static_cast<float>(beyond[i]);
         }
+        std::fill(at.begin() + count, at.end(), at[static_cast<std::size_t>(count - 1)]);
     }
+    void findUnclear()
+    {
+        for (int i = 0; i < static_cast<int>(at.size()) - kBlended; ++i)
+            if (!isClear(beyond[i])) unclear.push_back(i);
+    }
+};
+
+/// A row of targets, a few at a time: the pixels of the source that they lie between, blended from two rows, stay in
+/// the first-level cache.
+class RowBlender {
+  public:
+    RowBlender(const Axis& columns, int width)
+        : columns_(columns), width_(width), line_(static_cast<std::size_t>(width + kBlended))
+    {
+        constexpr int kSources = 2048;
+        constexpr double kMost = 1024;
+        together_ =
+            kBlended * std::max(1, static_cast<int>(std::min(kMost, kSources / double{columns.step}) / kBlended));
+        blended_.resize(4 * static_cast<std::size_t>(together_ * double{columns.step} + 2 + kBlended));
+    }
+    /// The row is right until the next call.
+    const Pixel* row(const Pixel* upper, const Pixel* lower, double part)
+    {
+        const auto rows = isClear(part) ? blendRows : blendRowsExactly;
+        auto unclear = columns_.unclear.begin();
+        for (int x = 0; x < width_; x += together_) {
+            const int n = std::min(together_, width_ - x), first = columns_.at[x];
+            rows(upper + first, lower + first, part, columns_.at[x + n - 1] + 2 - first, blended_.data());
+            const float* const from = blended_.data() - 4 * std::ptrdiff_t{first};
+            blendColumns(from, columns_.at.data() + x, columns_.single.data() + x, n, line_.data() + x);
+            for (; unclear != columns_.unclear.end() && *unclear < x + n; ++unclear)
+                line_[*unclear] =
+                    blendColumn(from + 4 * std::ptrdiff_t{columns_.at[*unclear]}, columns_.beyond[*unclear]);
+        }
+        return line_.data();
+    }
+
+  private:
+    const Axis& columns_;
+    const int width_;
+    int together_;
+    std::vector<float> blended_;
+    std::vector<Pixel> line_;
 };
 
 } // namespace
@@ -34,24 +82,18 @@ void cBitFilter::BitsResample(const Bits& Source, int NewWidth, int NewHeight)
     checkSize(NewWidth, NewHeight);
     const Bits in = Source;
     if (in.isNull()) throw RuntimeError(Fault::OutOfRange);
-    const Axis columns(NewWidth, ratio(in.maxX(), NewWidth)), rows(NewHeight, ratio(in.maxY(), NewHeight));
+    Axis columns(NewWidth, ratio(in.maxX(), NewWidth));
+    const Axis rows(NewHeight, ratio(in.maxY(), NewHeight));
+    columns.findUnclear();
     Bits out = Bits::uninitialized(NewWidth, NewHeight);
     clearMargin(out);
     const WrittenRows targets(out);
+    const auto copy = out.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    Copies<RowBlender> blenders([&] { return RowBlender(columns, NewWidth); });
     eachPiece(0, NewHeight, {}, out, [&](int y, int) {
-        std::int32_t iy[kPlaces];
-        float fy[kPlaces];
-        std::fill_n(iy, kPlaces, rows.at[y]);
-        std::fill_n(fy, kPlaces, static_cast<float>(rows.beyond[y]));
-        const Pixel *upper = in.row(rows.at[y]), *lower = in.row(rows.at[y] + 1);
-        for (int x0 = 0; x0 < NewWidth; x0 += kPlaces) {
-            Pixel* to = targets.row(y) + x0;
-            const int n = std::min(kPlaces, NewWidth - x0);
-            const std::int32_t* ix = columns.at.data() + x0;
-            eachPlace(blendPixels(in, ix, iy, columns.single.data() + x0, fy, n, nullptr, to), n, [&](int i) {
-                blendPixel(upper + ix[i], lower + ix[i], columns.beyond[x0 + i], rows.beyond[y], to[i]);
-            });
-        }
+        blenders.lend([&](RowBlender& own) {
+            copy(own.row(in.row(rows.at[y]), in.row(rows.at[y] + 1), rows.beyond[y]), targets.row(y), 0, NewWidth);
+        });
     });
     bits_ = out;
     report(100);

@@ -1,4 +1,5 @@
-// Single lanes: masks as bits, and loads from scattered addresses. For kernel files only: included once per target.
+// Single lanes: masks as bits, loads from scattered addresses, and the vectors of a run of pixels. For kernel files
+// only: included once per target.
 #if defined(VELARA_LANES_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VELARA_LANES_INL
 #undef VELARA_LANES_INL
@@ -6,6 +7,8 @@
 #define VELARA_LANES_INL
 #endif
 
+#include "pixels/Bits.h"
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <hwy/highway.h>
@@ -23,6 +26,44 @@ template <class D, class M> HWY_INLINE std::uint64_t laneBits(D d, M mask)
     std::uint64_t all;
     std::memcpy(&all, bits, sizeof all);
     return all & ((std::uint64_t(1) << hn::Lanes(d)) - 1);
+}
+
+/// first, first + 1, ... The library's own function writes the lanes one by one and waits for them.
+template <class D, class T = hn::TFromD<D>> HWY_INLINE hn::Vec<D> countedFrom(D d, T first)
+{
+    static constexpr auto kSteps = [] {
+        std::array<T, HWY_MAX_BYTES / sizeof(T)> steps{};
+        for (std::size_t i = 0; i < steps.size(); ++i) steps[i] = static_cast<T>(i);
+        return steps;
+    }();
+    return hn::Add(hn::LoadU(d, kSteps.data()), hn::Set(d, first));
+}
+
+/// Calls body(from, to, i) for whole vectors of `lanes` pixels; the remainder goes through a buffer.
+template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
+{
+    int i = 0;
+    for (; i + lanes <= n; i += lanes) body(from + i, to + i, i);
+    if (i == n) return;
+    Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
+    std::memcpy(tail, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
+    body(tail, tail, i);
+    std::memcpy(to + i, tail, sizeof(Pixel) * static_cast<std::size_t>(n - i));
+}
+
+/// The words at the n indices (n even), in pairs: half as many stores, and no gather instruction, which is slower than
+/// scalar loads on the machines measured.
+HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
+{
+    for (int i = 0; i < n; i += 2) {
+        std::uint64_t two;
+        std::memcpy(&two, indices + i, sizeof two);
+        const auto word = [&](std::uint64_t index) {
+            return static_cast<std::uint32_t>(base[static_cast<std::int32_t>(index)]);
+        };
+        const std::uint64_t pair = word(two & 0xFFFFFFFF) | std::uint64_t(word(two >> 32)) << 32;
+        std::memcpy(found + i, &pair, sizeof pair);
+    }
 }
 
 /// base[index] of each lane, of 4 bytes. By scalar loads, which take half the time of the gather instruction on the

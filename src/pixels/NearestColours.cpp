@@ -1,6 +1,7 @@
 #include "pixels/NearestColours.h"
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <unordered_set>
 
 namespace velara {
@@ -52,31 +53,51 @@ void NearestColours::colour(const Pixel* from, Pixel* to, int count)
         to[done++].c[3] = fourth;
     };
     while (done + 4 <= count) {
-        if (fourFew(from + done, to + done)) [[likely]]
+        Register nearest;
+        const Register four = fourOf(from + done);
+        if (fourFew(four, nearest)) [[likely]] {
+            put(withFourth(nearest, four), to + done);
             done += 4;
-        else
+        } else
             for (int i = 0; i < 4; ++i) one();
     }
     while (done < count) one();
 }
 
-/// colour() for four pixels at once. False unless all of them are in cubes with few candidates.
-bool NearestColours::fourFew(const Pixel* from, Pixel* to) const
+void NearestColours::entries(const Pixel* from, std::uint8_t* to, int count)
 {
-    const Register p = fourOf(from);
+    int done = 0;
+    const auto one = [&] {
+        to[done] = static_cast<std::uint8_t>((*this)(from[done]));
+        ++done;
+    };
+    while (done + 4 <= count) {
+        Register nearest;
+        if (fourFew(fourOf(from + done), nearest)) [[likely]] {
+            const Pixel four = narrowLimited(std::bit_cast<Lanes>(entriesOf(nearest)));
+            std::memcpy(to + done, &four, sizeof four);
+            done += 4;
+        } else
+            for (int i = 0; i < 4; ++i) one();
+    }
+    while (done < count) one();
+}
+
+bool NearestColours::fourFew(Register pixels, Register& nearest) const
+{
     std::array<std::uint32_t, 4> cubes;
-    put(cubesOf(p), cubes.data());
+    put(cubesOf(pixels), cubes.data());
     Register candidates[kFew];
     for (std::size_t i = 0; i < kFew; ++i) candidates[i] = std::bit_cast<Register>(cubes_[cubes[i]]);
     transpose(candidates);
     if (anyGreater(entriesOf(candidates[0]), entriesOf(candidates[kFew - 1]))) return false;
-    Register best = candidates[0], least = distances(best, p);
+    nearest = candidates[0];
+    Register least = distances(nearest, pixels);
     for (int i = 1; i < kFew; ++i) {
-        const Register distance = distances(candidates[i], p);
-        best = whereGreater(least, distance, best, candidates[i]);
+        const Register distance = distances(candidates[i], pixels);
+        nearest = whereGreater(least, distance, nearest, candidates[i]);
         least = lesser(least, distance);
     }
-    put(withFourth(best, p), to);
     return true;
 }
 

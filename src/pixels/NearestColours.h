@@ -32,6 +32,9 @@ class NearestColours {
     /// Replaces count pixels by their nearest colours; fourth bytes are copied from from.
     void colour(const Pixel* from, Pixel* to, int count);
 
+    /// The indices of count pixels' nearest colours, of at most 256 colours.
+    void entries(const Pixel* from, std::uint8_t* to, int count);
+
   private:
     static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kFew = 4;
 
@@ -68,7 +71,9 @@ class NearestColours {
         return distance_ == Distance::Sum ? sumsOf(off) : squaresOf(off);
     }
 
-    bool fourFew(const Pixel* from, Pixel* to) const;
+    /// The candidates nearest to four pixels, with their indices as fourth bytes. False unless all of these are in
+    /// cubes with few candidates.
+    bool fourFew(Register pixels, Register& nearest) const;
     int lookCloser(Pixel p);
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
     Cube lookInto(std::array<int, 3> low);

@@ -98,6 +98,17 @@ inline Register plusError(Register both, Register p, Register found)
     return _mm_packus_epi16(sum, sum);
 }
 inline Lanes wide(const Pixel& p) { return std::bit_cast<Lanes>(_mm_cvtepu8_epi32(inRegister(p))); }
+inline Lanes limited(Lanes v, int least, int most)
+{
+    const auto r = std::bit_cast<Register>(v);
+    return std::bit_cast<Lanes>(_mm_min_epi32(_mm_max_epi32(r, _mm_set1_epi32(least)), _mm_set1_epi32(most)));
+}
+/// Each lane, limited to 0..255, as a byte.
+inline Pixel narrowLimited(Lanes v)
+{
+    const Register words = _mm_packs_epi32(std::bit_cast<Register>(v), std::bit_cast<Register>(v));
+    return std::bit_cast<Pixel>(wordOf(_mm_packus_epi16(words, words)));
+}
 
 #else
 
@@ -156,6 +167,17 @@ inline int errorOf(Register p, Register found)
     const Lanes error = off < 0 ? -off : off;
     return error[0] + error[1] + error[2];
 }
+inline Lanes limited(Lanes v, int least, int most)
+{
+    v = v < least ? Lanes{} + least : v;
+    return v > most ? Lanes{} + most : v;
+}
+inline Pixel narrowLimited(Lanes v)
+{
+    const auto bytes = std::bit_cast<detail::Bytes>(limited(v, 0, 255));
+    const auto low = __builtin_shufflevector(bytes, bytes, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12);
+    return std::bit_cast<Pixel>(std::bit_cast<Lanes>(low)[0]);
+}
 inline Register plusError(Register both, Register p, Register found)
 {
     const Lanes error = wide(std::bit_cast<Pixel>(p[0])) - wide(std::bit_cast<Pixel>(found[0]));
@@ -175,20 +197,8 @@ inline Register plusError(Register both, Register p, Register found)
 // --- A pixel as four integers, for error diffusion
 
 inline Lanes absolute(Lanes v) { return v < 0 ? -v : v; }
-inline Lanes limited(Lanes v, int least, int most)
-{
-    v = v < least ? Lanes{} + least : v;
-    return v > most ? Lanes{} + most : v;
-}
 
 /// The three channels as one number, without the fourth byte.
 inline std::uint32_t channelBits(const Pixel& p) { return std::bit_cast<std::uint32_t>(p) & 0xFFFFFF; }
-/// Low byte of each lane.
-inline Pixel narrow(Lanes v)
-{
-    const auto bytes = std::bit_cast<detail::Bytes>(v);
-    const auto low = __builtin_shufflevector(bytes, bytes, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12);
-    return std::bit_cast<Pixel>(std::bit_cast<Lanes>(low)[0]);
-}
 
 } // namespace velara

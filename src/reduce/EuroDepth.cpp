@@ -4,16 +4,13 @@
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/WrittenRows.h"
 #include "pixels/threads/parallelFor.h"
+#include "reduce/kernels_depth.h"
 #include <algorithm>
 #include <cstring>
 
 namespace velara {
 
 namespace {
-
-constexpr std::uint32_t kColour = 0x00FFFFFF;
-
-std::uint32_t wordOf(const Pixel& p) { return std::bit_cast<std::uint32_t>(p); }
 
 constexpr int kRows = 64; // of a piece of work, and from one report to the next
 
@@ -39,24 +36,6 @@ template <class Body> Bits eachRow(const Bits& bits, const ReduceProgress& progr
         if (progress && last < bits.height()) progress(100 * last / bits.height());
     });
     return out;
-}
-
-/// Black or white: from a channel sum of 383 on white is nearer.
-void blackOrWhite(const Pixel* from, Pixel* to, int width)
-{
-    for (int x = 0; x < width; ++x) {
-        const std::uint32_t w = wordOf(from[x]);
-        const int sum = static_cast<int>((w & 255) + (w >> 8 & 255) + (w >> 16 & 255));
-        to[x] = std::bit_cast<Pixel>((w & ~kColour) | (sum > 382 ? kColour : 0));
-    }
-}
-
-void highBits(const Pixel* from, Pixel* to, int width)
-{
-    for (int x = 0; x < width; ++x) {
-        const std::uint32_t w = wordOf(from[x]);
-        to[x] = std::bit_cast<Pixel>((w & 0xFFF8F8F8) | (w >> 5 & 0x00070707));
-    }
 }
 
 Bits nearestOf(const Palette& palette, const Bits& bits, const ReduceProgress& progress)

@@ -5,6 +5,7 @@
 #include <libimagequant.h>
 #include <memory>
 #include <new>
+#include <omp.h>
 #include <unordered_set>
 
 namespace velara {
@@ -58,6 +59,19 @@ using Attributes = std::unique_ptr<liq_attr, Destroy<liq_attr, liq_attr_destroy>
 using Image = std::unique_ptr<liq_image, Destroy<liq_image, liq_image_destroy>>;
 using Result = std::unique_ptr<liq_result, Destroy<liq_result, liq_result_destroy>>;
 
+/// One thread for what this thread asks OpenMP for, as long as this lives. The quantiser's own threads wait for one
+/// another in busy loops, which takes longer than they save, and more so where other programs run.
+class OneThread {
+  public:
+    OneThread() { omp_set_num_threads(1); }
+    ~OneThread() { omp_set_num_threads(before_); }
+    OneThread(const OneThread&) = delete;
+    OneThread& operator=(const OneThread&) = delete;
+
+  private:
+    const int before_ = omp_get_max_threads();
+};
+
 /// Progress callback of the quantiser, a C library: exceptions must not cross it.
 int tell(float, void* user)
 try {
@@ -77,6 +91,7 @@ Palette bestPalette(const Bits& bits, int colours, const ReduceProgress& progres
     liq_set_speed(attributes.get(), kSpeed);
     ReduceProgress told = progress;
     if (progress) liq_attr_set_progress_callback(attributes.get(), tell, &told);
+    const OneThread oneThread;
     Sample sample(bits);
     const Image image(
         liq_image_create_custom(attributes.get(), Sample::giveRow, &sample, sample.width, sample.height, 0));

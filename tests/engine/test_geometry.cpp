@@ -91,5 +91,40 @@ TEST(Geometry, WhatIsNotSelectedStaysInALargePicture)
     EXPECT_TRUE(sameBits(definedResult("Invert", before, ellipse, {}), run("Invert", {}, before, ellipse)));
 }
 
+/// Sizes at which pictures go past the cache, parts of a resize come next to a half, blocks and tiles are cut off, and
+/// blends that are next to a half, or halves, and have to be computed again.
+TEST(Geometry, FastWaysAreAsDefined)
+{
+    const Bits small = randomBits(451, 333, 6), large = randomBits(2051, 2053, 7), tile = randomBits(65, 9, 8);
+    const Region all = Region::rectangle(0, 0, 3000, 3000), ellipse = Region::ellipse(5, 3, 2001, 1900);
+    const struct {
+        const char* name;
+        Arguments arguments;
+        const Bits& bits;
+        const Region& region;
+    } cases[] = {
+        {"BitsRotate90", {}, large, all},
+        {"BitsRotate90", {}, small, all},
+        {"BitsCropMasked", {3, 4, 2050, 2051}, large, ellipse},
+        {"BitsBlack", {}, large, ellipse},
+        {"BitsResample", {1025, 1027}, large, all},
+        {"BitsResample", {900, 1332}, small, all},
+        {"BitsResample", {3001, 3}, small, all},
+        {"BitsResample", {2, 700}, small, all},
+        {"PIXELIZE", {2}, small, all},
+        {"TileMask", {tile, -7, 3, true, 33, 0x123456}, small, all},
+        {"TileMask", {tile, 11, 3, true, 50, -1}, small, all},
+        {"TileMask", {tile, 5, -2, false, 30, -1}, small, all},
+        {"GradientLinear", {100, 50, 300, 250, 0x0000FF, 0x00FF00, 50, 1}, small, all},
+        {"GradientLinear", {0, 0, 450, 332, 0x80FF20, 0x81FF40, 50, 1}, small, all},
+        {"GradientLinear", {0, 0, 450, 332, 0x80FF20, 0x2010F0, 35, 30}, small, all},
+        {"GradientCircular", {200, 150, 203, 152, 0x80FF20, -1, 77, 9}, small, all},
+    };
+    for (const auto& c : cases)
+        EXPECT_TRUE(
+            sameBits(definedResult(c.name, c.bits, c.region, c.arguments), run(c.name, c.arguments, c.bits, c.region)))
+            << c.name << ' ' << &c - cases;
+}
+
 } // namespace
 } // namespace velara

@@ -1,5 +1,7 @@
 // Loops spread over threads: each turn once, reports in order, and the end of a plain loop at the first fault.
+#include "pixels/threads/inWaves.h"
 #include "pixels/threads/parallelFor.h"
+#include <algorithm>
 #include <atomic>
 #include <gtest/gtest.h>
 #include <mutex>
@@ -79,6 +81,54 @@ TEST_P(ParallelFor, AReportThatThrowsEndsItWithNobodyInATurn)
     EXPECT_THROW(loop(), std::out_of_range);
     EXPECT_EQ(inside, 0);
     EXPECT_LT(taken, 100000);
+}
+
+/// Each place of a row is made of three places of the row above, in a ring of no more rows than may be under way.
+TEST_P(ParallelFor, WavesFollowOneAnotherAndKeepToTheirRing)
+{
+    constexpr int kRows = 300, kColumns = 97;
+    const auto made = [&](int ring) {
+        std::vector<std::vector<unsigned>> rows(static_cast<std::size_t>(ring), std::vector<unsigned>(kColumns));
+        std::vector<int> told;
+        const auto row = [&](int y, Wave& wave) {
+            const auto& above = rows[std::size_t((y + ring - 1) % ring)];
+            auto& here = rows[std::size_t(y % ring)];
+            for (int x = 0; x < kColumns; ++x) {
+                if (!wave.follow(y, std::min(x + 2, kColumns))) return;
+                here[std::size_t(x)] = unsigned(x ^ y) + 3 * above[std::size_t(x)] +
+                                       above[std::size_t(std::max(x - 1, 0))] +
+                                       5 * above[std::size_t(std::min(x + 1, kColumns - 1))];
+                wave.reach(y, x + 1);
+            }
+        };
+        inWaves(kRows, kColumns, row, [&](int y) { told.push_back(y); });
+        EXPECT_EQ(told.size(), kRows);
+        EXPECT_TRUE(std::ranges::is_sorted(told));
+        return rows[(kRows - 1) % std::size_t(ring)];
+    };
+    EXPECT_EQ(made(GetParam() + 1), made(kRows)); // a row reads the one above
+}
+
+TEST_P(ParallelFor, AWaveThatFailsLeavesNobodyWaiting)
+{
+    const auto wave = [](int failing, int ending) {
+        inWaves(
+            1000, 1,
+            [&](int i, Wave& wave) {
+                for (int x = 1; x <= 50; ++x) {
+                    if (!wave.follow(i, x)) return;
+                    if (i == failing && x == 25) throw std::runtime_error("in a turn");
+                    wave.reach(i, x);
+                }
+            },
+            [&](int i) {
+                if (i == ending) throw std::out_of_range("enough");
+            });
+    };
+    for (int tries = 0; tries < 20; ++tries) {
+        EXPECT_THROW(wave(211, 1000), std::runtime_error);
+        EXPECT_THROW(wave(1000, 113), std::out_of_range);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Threads, ParallelFor, ::testing::Values(1, 2, 3, 8));

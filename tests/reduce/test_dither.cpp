@@ -1,4 +1,5 @@
 // The effect of each dither on flat areas and on a ramp, and where its error goes.
+#include "pixels/threads/parallelFor.h"
 #include "reduce/bestColours.h"
 #include "reduce/dither.h"
 #include "reduce/reduceColours.h"
@@ -9,6 +10,7 @@
 #include <random>
 #include <set>
 #include <span>
+#include <thread>
 
 namespace velara {
 namespace {
@@ -107,6 +109,25 @@ TEST(Dither, TheErrorGoesWhereItsNameSays)
             }
             EXPECT_GT(others, 3) << int(dither);
         }
+}
+
+TEST(Dither, AnyNumberOfThreadsGivesTheSame)
+{
+    const Bits picture = randomBits(301, 97, 9);
+    const auto result = [&](Dither dither) {
+        std::vector<int> percents;
+        const auto reduced = dithered(picture, vgaColours(), dither, [&](int percent) { percents.push_back(percent); });
+        return std::pair(reduced.indices, percents);
+    };
+    for (const Dither dither : kDithers) {
+        setThreadCount(1);
+        const auto one = result(dither);
+        for (const int threads : {2, 3, 8}) {
+            setThreadCount(threads, 1);
+            EXPECT_TRUE(result(dither) == one) << int(dither) << " by " << threads;
+        }
+    }
+    setThreadCount(int(std::thread::hardware_concurrency()));
 }
 
 /// Up to the edges, where no error comes in.

@@ -52,15 +52,46 @@ std::vector<std::int32_t> sources(int first, int last, double (*function)(double
     return table;
 }
 
-/// Displaces the positions by the waves of n pixel indices, beginning with number.
-void addWaves(const WaveTables& waves, double number, int weight, int n, std::int32_t* places)
-{
-    std::int32_t offsets[kPlaces];
-    const std::uint64_t doubtful = waveOffsets(waves, number, static_cast<float>(weight), n, offsets);
-    eachPlace(doubtful, n,
-              [&](int i) { offsets[i] = roundEven(places[i] - weight * std::sin(number + i)) - places[i]; });
-    for (int i = 0; i < n; ++i) places[i] += offsets[i];
-}
+/// Sine and cosine of the numbers of a picture's pixels: those of a row's first number and of a run's place in the row
+/// are known, so none is computed a run.
+class Numbers {
+  public:
+    /// number(x, y) = (y - box.ymin) * (box's width) + x - box.xmin + 1, for runs from inside.xmin on.
+    Numbers(const Box& box, const Box& inside) : box_(box), inside_(inside)
+    {
+        for (int y = inside.ymin; y <= inside.ymax; ++y) rows_.push_back(turnOf(ofRow(y)));
+        for (int x = inside.xmin; x <= inside.xmax; x += kPlaces) runs_.push_back(turnOf(double(x) - inside.xmin));
+    }
+    /// Displaces the positions by the waves of the n pixels from (x, y).
+    void addWaves(int x, int y, int weight, int n, std::int32_t* places) const
+    {
+        const Turn row = rows_[static_cast<std::size_t>(y - inside_.ymin)];
+        const Turn run = runs_[static_cast<std::size_t>((x - inside_.xmin) / kPlaces)];
+        std::int32_t offsets[kPlaces];
+        const std::uint64_t doubtful =
+            waveOffsets(waves_, row.sine * run.cosine + row.cosine * run.sine,
+                        row.cosine * run.cosine - row.sine * run.sine, static_cast<float>(weight), n, offsets);
+        const double number = ofRow(y) + (double(x) - inside_.xmin);
+        eachPlace(doubtful, n,
+                  [&](int i) { offsets[i] = roundEven(places[i] - weight * std::sin(number + i)) - places[i]; });
+        for (int i = 0; i < n; ++i) places[i] += offsets[i];
+    }
+
+  private:
+    struct Turn {
+        double sine, cosine;
+    };
+    static Turn turnOf(double number) { return {std::sin(number), std::cos(number)}; }
+    double ofRow(int y) const // of its first pixel
+    {
+        return (static_cast<double>(y) - box_.ymin) * (static_cast<double>(box_.xmax) - box_.xmin + 1) +
+               (static_cast<double>(inside_.xmin) - box_.xmin) + 1;
+    }
+
+    const Box box_, inside_;
+    const WaveTables waves_;
+    std::vector<Turn> rows_, runs_;
+};
 
 } // namespace
 
@@ -79,22 +110,21 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     if (glass->mixed == Mixed::None) return eachCrossing(false, columns, rows);
     std::vector<double> tangents;
     for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));
-    const WaveTables waves;
+    const bool numbered = glass->mixed == Mixed::NumberX || glass->mixed == Mixed::NumberY;
+    const Numbers numbers(box, numbered ? inside : Box{0, -1, 0, -1});
     return eachSource(
         false,
         [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
             std::copy_n(columns.data() + x0, n, sx);
             std::fill_n(sy, n, rows[y]);
-            const double number = (static_cast<double>(y) - box.ymin) * (static_cast<double>(box.xmax) - box.xmin + 1) +
-                                  (static_cast<double>(x0) - box.xmin) + 1;
             switch (glass->mixed) {
             case Mixed::None:
                 break;
             case Mixed::NumberX:
-                addWaves(waves, number, kWeightX, n, sx);
+                numbers.addWaves(x0, y, kWeightX, n, sx);
                 break;
             case Mixed::NumberY:
-                addWaves(waves, number, kWeightY, n, sy);
+                numbers.addWaves(x0, y, kWeightY, n, sy);
                 break;
             case Mixed::RowX:
                 std::fill_n(sx, n, roundEven(tangents[y]));

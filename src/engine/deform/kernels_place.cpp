@@ -30,7 +30,7 @@ void lineOfPlacesImpl(double d, double factor, double shift, double centre, int 
     const Doubles doubles;
     const HalfWords words;
     const int lanes = static_cast<int>(hn::Lanes(doubles));
-    auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d));
+    auto at = countedFrom(doubles, d);
     const auto step = hn::Set(doubles, static_cast<double>(lanes));
     const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
     for (int i = 0; i < n; i += lanes) {
@@ -49,7 +49,7 @@ void lineOfSplitPlacesImpl(double d, double factor, double shift, double centre,
     const int lanes = static_cast<int>(hn::Lanes(doubles));
     const auto f = hn::Set(doubles, factor), s = hn::Set(doubles, shift), c = hn::Set(doubles, centre);
     for (int i = 0; i < n; i += lanes) {
-        const auto at = hn::Add(hn::Iota(doubles, 0.0), hn::Set(doubles, d + i));
+        const auto at = countedFrom(doubles, d + i);
         const auto place = hn::Add(hn::Add(hn::Mul(at, f), s), c);
         const auto floor = hn::Floor(place);
         hn::StoreU(hn::DemoteTo(words, floor), words, places + i);
@@ -79,24 +79,29 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
     const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
     const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
-    alignas(HWY_MAX_BYTES) float radii[kPlaces], turns[2 * kPlaces];
+    alignas(HWY_MAX_BYTES) float radii[kPlaces];
+    alignas(HWY_MAX_BYTES) std::uint64_t turns[kPlaces]; // two singles
     alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
         hn::Store(radius, d, radii + i);
         hn::Store(hn::NearestInt(radius), words, wholes + i);
     }
     // All stores before the first use: a vector load can't be forwarded from several pending stores.
     const int whole = (n + lanes - 1) / lanes * lanes;
-    for (int i = 0; i < whole; ++i) std::memcpy(turns + 2 * i, twirl.turns + 2 * wholes[i], 2 * sizeof(float));
+    for (int i = 0; i < whole; ++i) {
+        std::uint64_t turn; // as a number: a checked copy into an array would be a call
+        std::memcpy(&turn, twirl.turns + 2 * wholes[i], sizeof turn);
+        turns[i] = turn;
+    }
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - twirl.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
         const auto scale = hn::Div(r, hn::Max(radius, half));
         hn::Vec<Singles> c, s;
-        hn::LoadInterleaved2(d, turns + 2 * i, c, s);
+        hn::LoadInterleaved2(d, reinterpret_cast<const float*>(turns + i), c, s);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
         const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);
@@ -141,7 +146,7 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     const auto signs = hn::Set(d, down < 0 ? -1.0f : 1.0f);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto dx = hn::ConvertTo(d, hn::Iota(words, x0 + i - bend.cx));
+        const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - bend.cx));
         const auto absX = hn::Abs(dx);
         const auto least = hn::Min(absX, absY), most = hn::Max(absX, absY);
         const auto atan = arcTangent(d, hn::Div(least, hn::Max(most, half)));
@@ -161,14 +166,15 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     return doubtful;
 }
 
-std::uint64_t waveOffsetsImpl(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+std::uint64_t waveOffsetsImpl(const WaveTables& wave, double ofSine, double ofCosine, float weight, int n,
+                              std::int32_t* offsets)
 {
     const Singles d;
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), tolerance = hn::Set(d, weight * 1e-6f);
-    const auto sine = hn::Set(d, static_cast<float>(-weight * std::sin(number)));
-    const auto cosine = hn::Set(d, static_cast<float>(-weight * std::cos(number)));
+    const auto sine = hn::Set(d, static_cast<float>(-weight * ofSine));
+    const auto cosine = hn::Set(d, static_cast<float>(-weight * ofCosine));
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto offset =
@@ -197,8 +203,8 @@ bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, st
     auto safe = hn::Le(hn::Abs(pulledY), fits);
     for (int i = 0; i < n; i += lanes) {
         // The last vector repeats the last pixel, as positions beyond it may lie outside of the disc.
-        const auto at = hn::Min(hn::Add(hn::Iota(d, 0.0), hn::Set(d, static_cast<double>(x0 + i))),
-                                hn::Set(d, static_cast<double>(x0 + n - 1)));
+        const auto at =
+            hn::Min(countedFrom(d, static_cast<double>(x0 + i)), hn::Set(d, static_cast<double>(x0 + n - 1)));
         const auto ox = hn::Sub(at, cx);
         const auto z = hn::Round(hn::Sqrt(hn::Sub(hn::Sub(square, hn::Mul(ox, ox)), oy2)));
         const auto pulledX = hn::Round(hn::Mul(depth, ox));
@@ -266,9 +272,10 @@ WaveTables::WaveTables()
     }
 }
 
-std::uint64_t waveOffsets(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets)
+std::uint64_t waveOffsets(const WaveTables& wave, double sine, double cosine, float weight, int n,
+                          std::int32_t* offsets)
 {
-    return HWY_DYNAMIC_DISPATCH(waveOffsetsImpl)(wave, number, weight, n, offsets);
+    return HWY_DYNAMIC_DISPATCH(waveOffsetsImpl)(wave, sine, cosine, weight, n, offsets);
 }
 
 } // namespace velara

@@ -58,7 +58,9 @@ struct WaveTables {
     WaveTables();
 };
 
-/// round(-weight * sin(number + i)) for i = 0..n-1, by the addition theorem. Returns a bit for each to be recomputed.
-std::uint64_t waveOffsets(const WaveTables& wave, double number, float weight, int n, std::int32_t* offsets);
+/// round(-weight * sin(number + i)) for i = 0..n-1, by the addition theorem from sine and cosine of number. Returns a
+/// bit for each to be recomputed.
+std::uint64_t waveOffsets(const WaveTables& wave, double sine, double cosine, float weight, int n,
+                          std::int32_t* offsets);
 
 } // namespace velara

@@ -7,7 +7,9 @@
 #define VELARA_KERNELS_WARP_TYPES
 namespace velara {
 
-constexpr int kLongestVector = 16; // words
+constexpr int kLongestVector = 16;         // words
+constexpr int kTurnAhead = 16;             // rows
+constexpr int kTurnPitch = kTurnRows + 16; // no power of two: rows would share cache sets
 
 struct TakeJob {
     const std::int32_t* origin; // of pixel (0, 0), as words
@@ -45,21 +47,6 @@ namespace velara {
 namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
-
-/// The words at the n indices (n even), in pairs: half as many stores, and no gather instruction, which is slower than
-/// scalar loads on the machines measured.
-HWY_INLINE void loadWords(const std::int32_t* base, const std::int32_t* indices, int n, std::int32_t* found)
-{
-    for (int i = 0; i < n; i += 2) {
-        std::uint64_t two;
-        std::memcpy(&two, indices + i, sizeof two);
-        const auto word = [&](std::uint64_t index) {
-            return static_cast<std::uint32_t>(base[static_cast<std::int32_t>(index)]);
-        };
-        const std::uint64_t pair = word(two & 0xFFFFFFFF) | std::uint64_t(word(two >> 32)) << 32;
-        std::memcpy(found + i, &pair, sizeof pair);
-    }
-}
 
 /// to[i] = merged(i, kept) for n pixels, a vector at a time.
 template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, Merge merged)
@@ -209,21 +196,41 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
 {
     const hn::ScalableTag<std::int32_t> d;
     const hn::ScalableTag<float> singles;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto zero = hn::Zero(d), byte = hn::Set(d, 255);
+    const int lanes = static_cast<int>(hn::Lanes(d)), whole = (n + lanes - 1) / lanes * lanes;
+    const auto byte = hn::Set(d, 255);
     const auto width = hn::Set(d, job.width), height = hn::Set(d, job.height), stride = hn::Set(d, job.stride);
     const auto least = hn::Set(d, -1);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces];
+    alignas(HWY_MAX_BYTES) std::uint64_t upper[kPlaces], lower[kPlaces]; // two pixels side by side
+    const auto isInside = [&](int i) HWY_ATTR {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        return hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
+    };
+    for (int i = 0; i < whole; i += lanes) {
+        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
+        hn::Store(hn::IfThenElseZero(isInside(i), hn::Add(hn::Mul(y, stride), x)), d, indices + i);
+    }
+    // All stores before the first use: a vector load can't be forwarded from several pending stores.
+    for (int i = 0; i < whole; ++i) {
+        std::uint64_t two; // as numbers: a checked copy into an array would be a call
+        std::memcpy(&two, job.origin + indices[i], sizeof two);
+        upper[i] = two;
+        std::memcpy(&two, job.origin + indices[i] + job.stride, sizeof two);
+        lower[i] = two;
+    }
+    if (kept && n == kPlaces) // what the run to the right will read and write
+        for (int i = 0; i < kPlaces; i += kLinePixels) {
+            __builtin_prefetch(kept + kPlaces + i);
+            __builtin_prefetch(to + kPlaces + i, 1);
+        }
+    const auto fourth = [&](auto pixels) HWY_ATTR { return hn::AndNot(hn::Set(d, 0x00FFFFFF), pixels); };
     // Singles near 255 have steps of 2^-16; three of them add up here.
     const auto surely = hn::Set(singles, 0.5f - 1.0f / 8192);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
-        const auto inside =
-            hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
-        const auto upper = hn::Add(hn::Mul(hn::IfThenElse(inside, y, zero), stride), hn::IfThenElse(inside, x, zero));
-        const auto lower = hn::Add(upper, stride);
-        const auto p00 = loadEach(d, job.origin, upper), p10 = loadEach(d, job.origin + 1, upper);
-        const auto p01 = loadEach(d, job.origin, lower), p11 = loadEach(d, job.origin + 1, lower);
+        hn::Vec<decltype(d)> p00, p10, p01, p11;
+        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(upper + i), p00, p10);
+        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(lower + i), p01, p11);
         const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
         auto doubt = hn::Zero(singles);
         const auto blend = [&](auto from, auto to, auto part) {
@@ -242,25 +249,36 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
         const auto blended =
             hn::Or(hn::Or(channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 8>())),
                    channel(std::integral_constant<int, 16>()));
+        const auto inside = isInside(i);
         doubtful |= laneBits(d, hn::And(hn::RebindMask(d, hn::Gt(doubt, surely)), inside)) << i;
-        alignas(64) std::int32_t result[HWY_MAX_BYTES / 4];
-        hn::Store(hn::IfThenElseZero(inside, blended), d, result);
-        const int count = std::min(lanes, n - i);
-        std::memcpy(to + i, result, sizeof(Pixel) * static_cast<std::size_t>(count));
-        if (kept)
-            for (int j = i; j < i + count; ++j) to[j].c[3] = kept[j].c[3];
+        const auto colour = hn::IfThenElseZero(inside, blended);
+        if (i + lanes <= n) {
+            hn::StoreU(kept ? hn::Or(colour, fourth(hn::LoadU(d, reinterpret_cast<const std::int32_t*>(kept + i))))
+                            : colour,
+                       d, reinterpret_cast<std::int32_t*>(to + i));
+            continue;
+        }
+        alignas(HWY_MAX_BYTES) Pixel last[HWY_MAX_BYTES / sizeof(Pixel)];
+        hn::Store(colour, d, reinterpret_cast<std::int32_t*>(last));
+        for (int j = i; j < n; ++j) {
+            to[j] = last[j - i];
+            if (kept) to[j].c[3] = kept[j].c[3];
+        }
     }
     return doubtful;
 }
 
-/// Four by four pixels: from and to point to the first one, strides in pixels; the target's rows run upward.
+/// Four by four pixels at a time; the row of `to` that x goes to is x * toStride, its pixels are the rows of `from`.
 void turnFours(const TurnJob& job, int columns, int rows)
 {
     const hn::FixedTag<std::uint32_t, 4> d;
     const hn::FixedTag<std::uint64_t, 2> pairs;
     const auto colour = hn::Set(d, 0xFFFFFF);
-    for (int x = 0; x < columns; x += 4)
-        for (int y = 0; y < rows; y += 4) {
+    for (int y = 0; y < rows; y += 4) {
+        for (int j = 0; j < 4; ++j) // the rows lie too far apart for the processor to foresee them
+            for (int x = 0; x < columns; x += kLinePixels)
+                __builtin_prefetch(job.from + (y + j + kTurnAhead) * job.fromStride + x);
+        for (int x = 0; x < columns; x += 4) {
             const auto row = [&](int j) {
                 return hn::And(hn::LoadU(d, job.from + (y + j) * job.fromStride + x), colour);
             };
@@ -270,13 +288,14 @@ void turnFours(const TurnJob& job, int columns, int rows)
             const auto ceLow = hn::BitCast(pairs, hn::InterleaveLower(d, c, e));
             const auto ceHigh = hn::BitCast(pairs, hn::InterleaveUpper(d, c, e));
             const auto store = [&](auto column, int j) {
-                hn::StoreU(hn::BitCast(d, column), d, job.to - (x + j) * job.toStride + y);
+                hn::StoreU(hn::BitCast(d, column), d, job.to + (x + j) * job.toStride + y);
             };
             store(hn::InterleaveLower(pairs, abLow, ceLow), 0);
             store(hn::InterleaveUpper(pairs, abLow, ceLow), 1);
             store(hn::InterleaveLower(pairs, abHigh, ceHigh), 2);
             store(hn::InterleaveUpper(pairs, abHigh, ceHigh), 3);
         }
+    }
 }
 
 } // namespace HWY_NAMESPACE
@@ -391,13 +410,17 @@ HWY_EXPORT(turnFours);
 
 void turnPixels(const Bits& in, const WrittenRows& out, int x0, int x1, int y0, int y1)
 {
+    // Rows of the target are put together here and written as a whole: its cache lines are never read.
+    alignas(64) Pixel turned[kTurnColumns][kTurnPitch];
     const int columns = (x1 - x0) / 4 * 4, rows = (y1 - y0) / 4 * 4;
     const TurnJob job{reinterpret_cast<const std::uint32_t*>(in.row(y0) + x0), in.stride(),
-                      reinterpret_cast<std::uint32_t*>(out.row(in.maxX() - x0) + y0), out.stride()};
+                      reinterpret_cast<std::uint32_t*>(turned[0]), kTurnPitch};
     HWY_DYNAMIC_DISPATCH(turnFours)(job, columns, rows);
     for (int y = y0; y < y1; ++y)
         for (int x = y < y0 + rows ? x0 + columns : x0; x < x1; ++x)
-            out.row(in.maxX() - x)[y] = withColour(in.at(x, y), Pixel{});
+            turned[x - x0][y - y0] = withColour(in.at(x, y), Pixel{});
+    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    for (int x = x0; x < x1; ++x) copy(turned[x - x0], out.row(in.maxX() - x) + y0, 0, y1 - y0);
 }
 
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to)

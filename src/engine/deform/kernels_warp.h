@@ -83,7 +83,8 @@ std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::i
 void blendPixel(const Pixel* upper, const Pixel* lower, double fx, double fy, Pixel& to);
 
 /// The columns x0..x1-1 and rows y0..y1-1 of in, rotated a quarter turn: (x, y) goes to (y, maxX-x) with a fourth byte
-/// of 0.
+/// of 0. At most kTurnColumns columns and kTurnRows rows.
+constexpr int kTurnColumns = 64, kTurnRows = 256;
 void turnPixels(const Bits& in, const WrittenRows& out, int x0, int x1, int y0, int y1);
 
 } // namespace velara

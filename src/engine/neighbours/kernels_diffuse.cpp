@@ -4,9 +4,10 @@
 #define HWY_TARGET_INCLUDE "engine/neighbours/kernels_diffuse.cpp"
 #include <hwy/foreach_target.h>
 
+#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
 #include "engine/random-inl.h"
-#include <bit>
+#include <algorithm>
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -27,20 +28,20 @@ template <class D> HWY_INLINE hn::Mask<D> within(D d, hn::Vec<D> v, int low, int
     return hn::And(hn::Gt(v, hn::Set(d, low - 1)), hn::Lt(v, hn::Set(d, high)));
 }
 
+constexpr int kRun = 64; // pixels, whose loads all come before the first use: those in between would wait for stores
+
 int diffusePixels(SpanOf s, int y, const Displacement& displacement, const Sources& sources)
 {
     const Displacement m = displacement;
     const Sources among = sources;
-    Pixel* HWY_RESTRICT const to = s.to;
     const std::int32_t* const words =
         among.mask ? reinterpret_cast<const std::int32_t*>(among.mask->words.data()) : nullptr;
     const int wordsPerRow = among.mask ? among.mask->wordsPerRow : 0, stride = static_cast<int>(s.stride);
     const hn::ScalableTag<std::int32_t> d;
     const hn::RebindToUnsigned<decltype(d)> du;
     const int n = static_cast<int>(hn::Lanes(d));
-    int x = s.x0;
-    for (; x + n <= s.x1; x += n) {
-        const auto columns = hn::Iota(d, x);
+    const auto sourcesOf = [&](int x) HWY_ATTR {
+        const auto columns = countedFrom(d, x);
         const auto number = hn::Add(hn::ShiftLeft<1>(hn::BitCast(du, columns)), hn::Set(du, m.first));
         const auto across = hn::BitCast(d, randomBits(du, m.random, number));
         const auto down = hn::BitCast(d, randomBits(du, m.random, hn::Add(number, hn::Set(du, 1u))));
@@ -53,13 +54,23 @@ int diffusePixels(SpanOf s, int y, const Displacement& displacement, const Sourc
             taken = hn::And(taken, hn::Ne(hn::And(found, bit), hn::Zero(d)));
         }
         const auto away = hn::Add(hn::Mul(hn::Sub(sy, hn::Set(d, y)), hn::Set(d, stride)), sx);
-        // Scalar loads: twice as fast as a gather, which is slow on many processors.
-        alignas(64) std::int32_t from[hn::MaxLanes(hn::ScalableTag<std::int32_t>())];
-        hn::Store(hn::IfThenElse(taken, away, columns), d, from);
-        for (int i = 0; i < n; ++i) {
-            const auto colour = std::bit_cast<std::uint32_t>(s.from[from[i]]) & 0x00FFFFFFu;
-            const auto fourth = std::bit_cast<std::uint32_t>(s.from[x + i]) & 0xFF000000u;
-            to[x + i] = std::bit_cast<Pixel>(colour | fourth);
+        return hn::IfThenElse(taken, away, columns);
+    };
+    const auto* pixels = reinterpret_cast<const std::int32_t*>(s.from);
+    const auto colour = hn::Set(d, 0x00FFFFFF);
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kRun], found[kRun];
+    int x = s.x0;
+    for (int count; (count = std::min(kRun, (s.x1 - x) / n * n)) > 0; x += count) {
+        for (int i = 0; i < count; i += n) hn::Store(sourcesOf(x + i), d, indices + i);
+        for (int i = 0; i < count; i += kLinePixels) { // what the second row below will read and write
+            __builtin_prefetch(s.from + 2 * s.stride + x + i);
+            __builtin_prefetch(s.to + 2 * s.stride + x + i, 1);
+        }
+        loadWords(pixels, indices, count, found);
+        for (int i = 0; i < count; i += n) {
+            const auto kept = hn::LoadU(d, pixels + x + i);
+            hn::StoreU(hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, kept)), d,
+                       reinterpret_cast<std::int32_t*>(s.to + x + i));
         }
     }
     return x;

@@ -48,6 +48,8 @@ class Blocks {
         if (x0 >= x1) return;
         x0 = x0 / size_ * size_;
         x1 = static_cast<int>(std::min<std::int64_t>((std::int64_t{x1} + size_ - 1) / size_ * size_, in_.width()));
+        if (size_ == 2 && y1 == y0 + 2)
+            return cellKernels().meansOfFours(in_.row(y0), in_.row(y0 + 1), line_.data(), x0, x1);
         sums_.clear();
         for (int y = y0; y < y1; ++y) {
             sums_.add(in_.row(y), x0, x1);

@@ -14,6 +14,7 @@ struct Ramp {
     std::int32_t R;
     float frequency;
     RampColours colours;
+    bool canBeNear; // in single precision few pixels need to be computed twice
 
     Ramp(double distance, Colour color1, Colour color2, int Opacity, int Repeat)
         : R(roundEven(distance)), frequency(static_cast<float>((Repeat - 1.0) * kPi))
@@ -25,18 +26,52 @@ struct Ramp {
             colours.second[c] = part(color2, c);
         }
         if (R < frequency) frequency = static_cast<float>(R);
+        canBeNear = opacity >= 0 && opacity <= 1;
+        if (opacity * 256 != std::floor(opacity * 256)) return;
+        for (int c = 0; c < 3; ++c) // half of a channel that both ends share is a half for every second pixel
+            canBeNear = canBeNear && (colours.ownFirst || colours.ownSecond || colours.first[c] == 0 ||
+                                      colours.first[c] != colours.second[c]);
     }
 
-    /// Blends n <= kPlaces pixels by their positions t on the ramp; t is modified.
-    void blend(float* t, const Pixel* from, int n, Pixel* to) const
+    /// Blends n <= kPlaces pixels by their positions t on the ramp, an array of kPlaces.
+    void blend(const float* t, const Pixel* from, int n, Pixel* to) const
     {
+        constexpr float kMostError = 1e-4f; // beyond it too many pixels would be computed twice
+        float near[kPlaces], error = 0;
         if (frequency > 0)
-            eachPlace(squareSines(frequency, n, t), n, [&](int i) {
-                const double sine = std::sin(static_cast<double>(frequency) * t[i]);
-                t[i] = static_cast<float>(sine * sine);
+            error = squareSinesNearly(frequency, t, n, near);
+        else
+            std::copy_n(t, n, near);
+        if (!(error < kMostError && canBeNear)) return exactly(t, from, n, to);
+        limit(near, n);
+        const std::uint64_t doubtful = rampNearly(colours, from, near, error, n, to);
+        if (doubtful == 0) return;
+        float places[kPlaces];
+        Pixel some[kPlaces];
+        int count = 0;
+        eachPlace(doubtful, n, [&](int i) {
+            places[count] = t[i];
+            some[count++] = from[i];
+        });
+        exactly(places, some, count, some);
+        count = 0;
+        eachPlace(doubtful, n, [&](int i) { to[i] = some[count++]; });
+    }
+    void exactly(const float* t, const Pixel* from, int n, Pixel* to) const
+    {
+        float places[kPlaces];
+        std::copy_n(t, n, places);
+        if (frequency > 0)
+            eachPlace(squareSines(frequency, n, places), n, [&](int i) {
+                const double sine = std::sin(static_cast<double>(frequency) * places[i]);
+                places[i] = static_cast<float>(sine * sine);
             });
+        limit(places, n);
+        if (!rampPixels(colours, from, places, n, to)) throw RuntimeError(Fault::Overflow);
+    }
+    static void limit(float* t, int n)
+    {
         for (int i = 0; i < n; ++i) t[i] = t[i] > 1 ? 1 : t[i] < 0 ? 0 : t[i];
-        if (!rampPixels(colours, from, t, n, to)) throw RuntimeError(Fault::Overflow);
     }
     static int part(Colour colour, int channel) { return colour >> (16 - 8 * channel) & 255; }
 };

@@ -5,6 +5,7 @@
 #include <hwy/foreach_target.h>
 
 #include "engine/pixels-inl.h"
+#include <algorithm>
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -57,6 +58,31 @@ void meansOf(const CellSum* cells, std::int32_t parts, bool whole, Pixel* means,
     }
 }
 
+void meansOfFours(const Pixel* upper, const Pixel* lower, Pixel* line, int x0, int x1)
+{
+    const hn::ScalableTag<std::int16_t> d;
+    const hn::Repartition<std::uint8_t, decltype(d)> bytes;
+    const hn::Repartition<std::uint32_t, decltype(d)> pixels;
+    const int n = static_cast<int>(hn::Lanes(pixels));
+    const auto mean = [&](auto sums) HWY_ATTR {
+        const auto others = hn::BitCast(d, hn::Shuffle2301(hn::BitCast(pixels, sums)));
+        return hn::ShiftRight<2>(hn::Add(sums, others));
+    };
+    int x = x0;
+    for (; x + n <= x1; x += n) {
+        const auto four = each((tap(d, upper + x) + tap(d, lower + x)).split(), mean);
+        hn::StoreU(joined(bytes, four), bytes, line[x].c);
+    }
+    for (; x < x1; x += 2) {
+        const int columns = std::min(2, x1 - x);
+        for (int c = 0; c < 3; ++c) {
+            int sum = 0;
+            for (int i = x; i < x + columns; ++i) sum += upper[i].c[c] + lower[i].c[c];
+            for (int i = x; i < x + columns; ++i) line[i].c[c] = static_cast<std::uint8_t>(sum / (2 * columns));
+        }
+    }
+}
+
 void paintScaled(SpanOf s, const Pixel* line, const float* factors)
 {
     forPixels<std::uint8_t>(s, [=](auto d8, int x) HWY_ATTR {
@@ -82,7 +108,7 @@ void paintLine(SpanOf s, const Pixel* line)
 
 const CellKernels& cellKernelTable()
 {
-    static constexpr CellKernels table = {addColumns, addCells, meansOf, paintScaled, paintLine};
+    static constexpr CellKernels table = {addColumns, addCells, meansOf, meansOfFours, paintScaled, paintLine};
     return table;
 }
 

@@ -19,6 +19,9 @@ struct CellKernels {
     /// round(c / parts) of the sums, half to even, or c \ parts if whole; at most 255. All sums must be below 2^23, so
     /// that quotients in singles are on the right side of each half and each integer.
     void (*meansOf)(const CellSum* cells, std::int32_t parts, bool whole, Pixel* means, std::size_t count);
+    /// The means, rounded down, of blocks of two by two pixels, into both of their columns x0..x1-1 of line; x0 is
+    /// even. A last column of its own is a block of two.
+    void (*meansOfFours)(const Pixel* upper, const Pixel* lower, Pixel* line, int x0, int x1);
     /// round(c * factors[x]) of the line's colours, half to even; at most 255.
     void (*paintScaled)(SpanOf, const Pixel* line, const float* factors);
     /// The colours of the line at to's columns, with the source's fourth bytes.

@@ -23,18 +23,6 @@ using HalfSingles = hn::Rebind<float, Doubles>;
 using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
 
-/// Calls body(from, to, i) for whole vectors of `lanes` pixels; the remainder goes through a buffer.
-template <class Body> void eachVector(int lanes, const Pixel* from, int n, Pixel* to, Body&& body)
-{
-    int i = 0;
-    for (; i + lanes <= n; i += lanes) body(from + i, to + i, i);
-    if (i == n) return;
-    Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
-    std::memcpy(tail, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
-    body(tail, tail, i);
-    std::memcpy(to + i, tail, sizeof(Pixel) * static_cast<std::size_t>(n - i));
-}
-
 void multiplyImpl(const Pixel* from, const Pixel* factors, int n, Pixel* to)
 {
     const hn::ScalableTag<std::uint16_t> d;
@@ -125,7 +113,7 @@ void linearImpl(double first, double ry, double sr, double cr, int n, float* t)
     const HalfSingles singles;
     const auto down = hn::Set(d, ry * sr), across = hn::Set(d, cr);
     for (int i = 0; i < n; i += static_cast<int>(hn::Lanes(d))) {
-        const auto rx = hn::Add(hn::Iota(d, 0.0), hn::Set(d, first + i));
+        const auto rx = countedFrom(d, first + i);
         hn::StoreU(hn::DemoteTo(singles, hn::Add(down, hn::Mul(rx, across))), singles, t + i);
     }
 }
@@ -136,7 +124,7 @@ void circularImpl(double first, double ry, double R, int n, float* t)
     const HalfSingles singles;
     const auto down = hn::Set(d, ry * ry), radius = hn::Set(d, R);
     for (int i = 0; i < n; i += static_cast<int>(hn::Lanes(d))) {
-        const auto rx = hn::Add(hn::Iota(d, 0.0), hn::Set(d, first + i));
+        const auto rx = countedFrom(d, first + i);
         const auto distance = hn::Sqrt(hn::Add(hn::Mul(rx, rx), down));
         hn::StoreU(hn::DemoteTo(singles, hn::Div(distance, radius)), singles, t + i);
     }
@@ -175,7 +163,7 @@ void noiseImpl(const Random& random, std::uint32_t number, int amount, bool equa
     const auto less = hn::Set(d, amount), byte = hn::Set(d, 255), one = hn::Set(d, 1);
     const int lanes = static_cast<int>(hn::Lanes(d));
     eachVector(lanes, from, n, to, [&](const Pixel* p, Pixel* target, int i) {
-        const auto at = hn::Iota(u, number + static_cast<std::uint32_t>(i));
+        const auto at = countedFrom(u, number + static_cast<std::uint32_t>(i));
         const auto thrice = hn::Add(hn::Add(at, at), at);
         const auto pixels = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(p));
         const auto common = hn::Mul(randomBits(u, random, at), span);
@@ -207,7 +195,7 @@ std::uint64_t lightImpl(float intensity, float slope, int ox, int oy, const Pixe
     const int lanes = static_cast<int>(hn::Lanes(d));
     std::uint64_t doubtful = 0;
     eachVector(lanes, from, n, to, [&](const Pixel* p, Pixel* target, int i) {
-        const auto dx = hn::ConvertTo(singles, hn::Iota(d, ox + i));
+        const auto dx = hn::ConvertTo(singles, countedFrom(d, ox + i));
         const auto light = hn::NegMulAdd(hn::Sqrt(hn::MulAdd(dx, dx, down)), fall, top);
         const auto rounded = hn::Round(light);
         doubtful |= laneBits(singles, hn::Gt(hn::Abs(hn::Sub(light, rounded)), surely)) << i;

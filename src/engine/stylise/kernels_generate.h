@@ -26,11 +26,19 @@ struct RampColours {
 /// `to` is undefined then.
 bool rampPixels(const RampColours& ramp, const Pixel* from, const float* t, int n, Pixel* to);
 
+/// The same two in single precision, for n <= 64: a bit for each pixel to be recomputed, as its rounding is not
+/// certain. All of rest, part and opacity are within 0..1, and t is off by `error` at most.
+std::uint64_t overlayNearly(const Pixel* from, const Pixel* over, float rest, float part, std::int32_t key, int n,
+                            Pixel* to);
+std::uint64_t rampNearly(const RampColours& ramp, const Pixel* from, const float* t, float error, int n, Pixel* to);
+/// near := the square of sin(frequency * t) in single, for n <= 64; returns how far it may be off.
+float squareSinesNearly(double frequency, const float* t, int n, float* near);
+
 /// ry * sr + rx * cr in single, rx = first, first + 1, ...
 void linearRamp(double first, double ry, double sr, double cr, int n, float* t);
 /// sqrt(rx^2 + ry^2) / R in single.
 void circularRamp(double first, double ry, double R, int n, float* t);
-/// t := the square of sin(frequency * t), for n <= 64.
+/// t := the square of sin(frequency * t), for n <= 64; those to be recomputed keep their t.
 std::uint64_t squareSines(double frequency, int n, float* t);
 
 /// Noise of 0 <= amount <= 127; number is the index of the first pixel.

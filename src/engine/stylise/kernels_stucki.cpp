@@ -30,20 +30,40 @@ void greys(const Pixel* from, std::int16_t* to, int x0, int x1)
     for (; x < x1; ++x) to[x] = static_cast<std::int16_t>((from[x].c[0] + from[x].c[1] + from[x].c[2]) / 3);
 }
 
-void output(SpanOf s, const std::int16_t* values, int mean, std::int16_t* errors)
+/// Stores e*8 \ 42, e*4 \ 42, e*2 \ 42 and e \ 42.
+HWY_INLINE void storeParts(V error, StuckiParts& parts, int x)
+{
+    const Numbers d;
+    const auto size = hn::BitCast(Unsigned(), hn::Abs(error)), twice = hn::Add(size, size);
+    const auto sign = hn::BroadcastSignBit(error);
+    const auto store = [&](hn::Vec<Unsigned> v, StuckiRow& row)
+                           HWY_ATTR { hn::StoreU(hn::Sub(hn::Xor(hn::BitCast(d, v), sign), sign), d, row.data() + x); };
+    const auto of21 = [](hn::Vec<Unsigned> v) HWY_ATTR { // 3121 / 2^16 is a 21st, exact for all numbers up to 1020
+        return hn::MulHigh(v, hn::Set(Unsigned(), std::uint16_t{3121}));
+    };
+    const auto two = of21(size);
+    store(of21(hn::Add(twice, twice)), parts.eight);
+    store(of21(twice), parts.four);
+    store(two, parts.two);
+    store(hn::ShiftRight<1>(two), parts.one);
+}
+
+void output(SpanOf s, const std::int16_t* values, int mean, StuckiParts& parts)
 {
     const Numbers d;
     const auto white = hn::Set(d, std::int16_t{255}), below = hn::Set(d, static_cast<std::int16_t>(mean - 1));
     const int n = static_cast<int>(hn::Lanes(d));
-    const auto errorOf = [&](V value) HWY_ATTR {
-        const auto v = hn::Min(hn::Max(value, hn::Zero(d)), white);
-        return hn::Sub(v, hn::IfThenElseZero(hn::Gt(v, below), white));
-    };
     int x = s.x0;
-    for (; x + n <= s.x1; x += n) hn::StoreU(errorOf(hn::LoadU(d, values + x)), d, errors + x);
+    for (; x + n <= s.x1; x += n) {
+        const auto v = hn::Min(hn::Max(hn::LoadU(d, values + x), hn::Zero(d)), white);
+        storeParts(hn::Sub(v, hn::IfThenElseZero(hn::Gt(v, below), white)), parts, x);
+    }
     for (; x < s.x1; ++x) {
-        const int v = std::clamp<int>(values[x], 0, 255);
-        errors[x] = static_cast<std::int16_t>(v >= mean ? v - 255 : v);
+        const int v = std::clamp<int>(values[x], 0, 255), e = v >= mean ? v - 255 : v;
+        parts.eight.data()[x] = static_cast<std::int16_t>(e * 8 / 42);
+        parts.four.data()[x] = static_cast<std::int16_t>(e * 4 / 42);
+        parts.two.data()[x] = static_cast<std::int16_t>(e * 2 / 42);
+        parts.one.data()[x] = static_cast<std::int16_t>(e / 42);
     }
     forPixels<std::uint8_t>(s, [&](auto d8, int i) HWY_ATTR {
         const hn::Repartition<std::int32_t, decltype(d8)> d32;
@@ -55,47 +75,24 @@ void output(SpanOf s, const std::int16_t* values, int mean, std::int16_t* errors
     });
 }
 
-/// e*8 \ 42, e*4 \ 42, e*2 \ 42 and e \ 42.
-struct Parts {
-    V eight, four, two, one;
-};
-
-HWY_INLINE Parts partsOf(V error)
+void incoming(const StuckiParts& above, const StuckiParts& aboveThat, std::int16_t* to, int x0, int x1)
 {
     const Numbers d;
-    const auto size = hn::BitCast(Unsigned(), hn::Abs(error)), twice = hn::Add(size, size);
-    const auto sign = hn::BroadcastSignBit(error);
-    const auto signedAgain = [&](hn::Vec<Unsigned> v)
-                                 HWY_ATTR { return hn::Sub(hn::Xor(hn::BitCast(d, v), sign), sign); };
-    const auto of21 = [](hn::Vec<Unsigned> v) HWY_ATTR { // 3121 / 2^16 is a 21st, exact for all numbers up to 1020
-        return hn::MulHigh(v, hn::Set(Unsigned(), std::uint16_t{3121}));
-    };
-    const auto two = of21(size);
-    return {signedAgain(of21(hn::Add(twice, twice))), signedAgain(of21(twice)), signedAgain(two),
-            signedAgain(hn::ShiftRight<1>(two))};
-}
-
-void spread(const std::int16_t* errors, std::int16_t* below, std::int16_t* belowThat, int width)
-{
-    const Numbers d;
-    const int n = static_cast<int>(hn::Lanes(d)), last = width - 1;
-    const std::int16_t keptBelow = below[last];
-    for (int x = 0; x < width; x += n) { // beyond the width is padding, where all errors are 0
-        const auto partsAt = [&](int offset) HWY_ATTR { return partsOf(hn::LoadU(d, errors + x + offset)); };
-        const Parts a = partsAt(-2), b = partsAt(-1), c = partsAt(0), e = partsAt(1), f = partsAt(2);
-        const auto toBelow = hn::Add(hn::Add(hn::Add(a.two, f.two), hn::Add(b.four, e.four)), c.eight);
-        const auto toThat = hn::Add(hn::Add(hn::Add(a.one, f.one), hn::Add(b.two, e.two)), c.four);
-        hn::StoreU(hn::Add(hn::LoadU(d, below + x), toBelow), d, below + x);
-        hn::StoreU(toThat, d, belowThat + x);
+    const int n = static_cast<int>(hn::Lanes(d));
+    const auto at = [&](const StuckiRow& row, int x) HWY_ATTR { return hn::LoadU(d, row.data() + x); };
+    const auto around = [&](const StuckiRow& row, int distance, int x)
+                            HWY_ATTR { return hn::Add(at(row, x - distance), at(row, x + distance)); };
+    for (int x = x0; x < x1; x += n) { // beyond the row is padding
+        const auto near = hn::Add(hn::Add(around(above.two, 2, x), around(above.four, 1, x)), at(above.eight, x));
+        const auto far =
+            hn::Add(hn::Add(around(aboveThat.one, 2, x), around(aboveThat.two, 1, x)), at(aboveThat.four, x));
+        hn::StoreU(hn::Add(near, far), d, to + x);
     }
-    // The last column receives nothing from its left.
-    below[last] = static_cast<std::int16_t>(keptBelow + errors[last] * 8 / 42);
-    belowThat[last] = static_cast<std::int16_t>(errors[last] * 4 / 42);
 }
 
 const StuckiKernels& stuckiKernelTable()
 {
-    static constexpr StuckiKernels table = {greys, output, spread};
+    static constexpr StuckiKernels table = {greys, incoming, output};
     return table;
 }
 

@@ -1,0 +1,81 @@
+// The entry of a palette for a pixel and the error that comes in with it, and the error that goes out.
+#pragma once
+#include "pixels/NearestColours.h"
+#include <algorithm>
+
+namespace velara {
+
+/// Changes as it is used: each thread has its own. The picture must outlive it.
+class ErrorMatch {
+  public:
+    /// nearest: of the same colours, by squared distance.
+    ErrorMatch(const Bits& bits, const std::vector<Pixel>& colours, const NearestColours& nearest)
+        : bits_(bits), nearest_(nearest)
+    {
+        for (const Pixel& p : colours) lanes_.push_back(wide(p));
+    }
+
+    /// The entry nearest to pixel plus error, and the new error. With an error, lookups are quantised to cubes of four
+    /// levels: the loss is diffused with the rest, and the table stays in the cache. A plain place whose entry can't be
+    /// told from it stays plain: no error comes in or goes out.
+    Lanes put(std::uint8_t& to, int x, int y, Lanes error)
+    {
+        constexpr int kUnseen = 3; // squared distance: one level a channel
+        const Pixel p = bits_.row(y)[x];
+        if (isPlain(x, y)) {
+            const int entry = nearest_(p);
+            const Lanes off = wide(p) - lanes_[std::size_t(entry)], squares = off * off;
+            if (squares[0] + squares[1] + squares[2] <= kUnseen) {
+                to = static_cast<std::uint8_t>(entry);
+                return Lanes{};
+            }
+        }
+        const Lanes wanted = wide(p) + error;
+        const Pixel shown = narrowLimited(wanted);
+        const int entry = isSame(shown, p) ? nearest_(shown) : nearly(shown);
+        to = static_cast<std::uint8_t>(entry);
+        return limited(wanted - lanes_[std::size_t(entry)], -kMostError, kMostError);
+    }
+    /// The error that a line of diffusion starts with. It varies evenly between plus and minus the first pixel's error,
+    /// so that neighbouring lines don't produce the same pattern.
+    Lanes seed(Pixel p, int line)
+    {
+        const Lanes error = wide(p) - lanes_[std::size_t(nearest_(p))];
+        const int part = static_cast<int>(static_cast<std::uint32_t>(line) * 2654435769U >> 23) - 256; // golden ratio
+        return error * part / 256;
+    }
+
+  private:
+    static constexpr int kMostError =
+        160; // a channel; the rest is dropped, so that colours outside the palette's gamut don't smear
+
+    static bool isSame(Pixel a, Pixel b) { return channelBits(a) == channelBits(b); }
+    /// The same colour all around, wider than the steps of a smooth ramp.
+    bool isPlain(int x, int y) const
+    {
+        const Pixel p = bits_.row(y)[x];
+        for (const int reach : {1, 6}) {
+            const int left = std::max(x - reach, 0), right = std::min(x + reach, bits_.width() - 1);
+            const int above = std::max(y - reach, 0), below = std::min(y + reach, bits_.height() - 1);
+            if (!isSame(p, bits_.row(y)[left]) || !isSame(p, bits_.row(y)[right]) || !isSame(p, bits_.row(above)[x]) ||
+                !isSame(p, bits_.row(below)[x]))
+                return false;
+        }
+        return true;
+    }
+    int nearly(Pixel p)
+    {
+        const auto w = std::bit_cast<std::uint32_t>(p);
+        std::uint16_t& known = nearly_[(w >> 2 & 63) | (w >> 4 & 63 << 6) | (w >> 6 & 63 << 12)];
+        if (known == 0) [[unlikely]]
+            known = static_cast<std::uint16_t>(1 + nearest_(std::bit_cast<Pixel>((w & 0xFCFCFC) | 0x020202)));
+        return known - 1;
+    }
+
+    const Bits& bits_;
+    std::vector<Lanes> lanes_;
+    NearestColours nearest_;
+    std::vector<std::uint16_t> nearly_ = std::vector<std::uint16_t>(64 * 64 * 64); // position + 1
+};
+
+} // namespace velara
