@@ -1,30 +1,15 @@
 #include "app/menus/fControlStyle.h"
+#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/motion.h"
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
-#include <cmath>
 
 namespace velara {
 
 namespace {
 
-constexpr double kReadable = 4.5; // contrast of text
-
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
-
-QColor mixed(const QColor& one, const QColor& other, double part)
-{
-    const auto channel = [part](int a, int b) { return qRound(a * part + b * (1 - part)); };
-    return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
-                  channel(one.blue(), other.blue()));
-}
-
-/// The relative luminance by which the web's rules of contrast go: 0 black, 1 white.
-double luminance(const QColor& colour)
-{
-    const auto linear = [](float v) { return v <= 0.04045F ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
 
 /// The outline of a control: visible on the background, but weaker than the text.
 QColor edgeOf(const QStyleOption& option)
@@ -87,13 +72,53 @@ QIcon dockSign(bool closes, const QColor& colour)
     return QIcon(sign);
 }
 
-} // namespace
-
-double fControlStyle::contrast(const QColor& one, const QColor& other)
+void drawEdge(QPainter* painter, const QStyleOption& option, const QRect& rect)
 {
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
+    painter->save();
+    painter->setPen(edgeOf(option));
+    painter->setBrush(Qt::NoBrush);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->restore();
 }
+
+/// What has an edge of its own with high contrast, where the plain style's is a shade of the background.
+bool isEdged(QStyle::PrimitiveElement element, const QStyleOption& option)
+{
+    switch (element) {
+    case QStyle::PE_PanelButtonTool:
+        return !(option.state & QStyle::State_AutoRaise) ||
+               option.state & (QStyle::State_Raised | QStyle::State_Sunken | QStyle::State_On);
+    case QStyle::PE_PanelLineEdit:
+    case QStyle::PE_Frame: {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+        return frame && frame->lineWidth > 0; // not inside of a box with arrows
+    }
+    case QStyle::PE_PanelButtonCommand:
+    case QStyle::PE_FrameGroupBox:
+    case QStyle::PE_FrameTabWidget:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The part of such a control that has an edge; empty: none.
+QRect edgedPart(const QStyle& style, QStyle::ComplexControl control, const QStyleOptionComplex* option,
+                const QWidget* widget)
+{
+    switch (control) {
+    case QStyle::CC_ComboBox:
+    case QStyle::CC_SpinBox:
+        return option->rect;
+    case QStyle::CC_ScrollBar:
+        return style.subControlRect(control, option, QStyle::SC_ScrollBarSlider, widget);
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 QColor fControlStyle::paleText(const QPalette& palette)
 {
@@ -102,7 +127,12 @@ QColor fControlStyle::paleText(const QPalette& palette)
 
 bool fControlStyle::isPlain() const { return baseStyle()->name() == QLatin1String("fusion"); }
 
-bool fControlStyle::mends(const QPalette& palette) const { return isDark(palette) && isPlain(); }
+bool fControlStyle::mends(const QPalette& palette) const
+{
+    return (isDark(palette) || isHighContrast(palette)) && isPlain();
+}
+
+bool fControlStyle::sharpens(const QPalette& palette) const { return isHighContrast(palette) && isPlain(); }
 
 /// Plain palettes make disabled text and chosen rows hard to read, and a dark workspace black. Hints are too pale in
 /// most.
@@ -116,8 +146,8 @@ void fControlStyle::polish(QPalette& palette)
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         const QColor text = palette.color(group, QPalette::HighlightedText);
         QColor ground = palette.color(group, QPalette::Highlight);
-        for (int i = 0; i < 40 && contrast(text, ground) < kReadable; ++i)
-            ground = luminance(text) > 0.5 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
+        for (int i = 0; i < 40 && contrast(text, ground) < kReadableText; ++i)
+            ground = text.lightness() > 128 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
         palette.setColor(group, QPalette::Highlight, ground);
     }
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
@@ -147,6 +177,7 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return QProxyStyle::drawPrimitive(element, &locked, painter, widget);
         }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (sharpens(option->palette) && isEdged(element, *option)) drawEdge(painter, *option, option->rect);
     if (!mends(option->palette) || (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) return;
     painter->save();
     painter->setPen(edgeOf(*option));
@@ -159,10 +190,20 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->restore();
 }
 
+void fControlStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (sharpens(option->palette) && (element == CE_TabBarTabShape || element == CE_ProgressBarGroove))
+        drawEdge(painter, *option, option->rect);
+}
+
 void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                        const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (const QRect part = edgedPart(*proxy(), control, option, widget); sharpens(option->palette) && !part.isEmpty())
+        drawEdge(painter, *option, part);
     if (!mends(option->palette)) return;
     painter->save();
     if (control == CC_Slider) {
@@ -180,6 +221,7 @@ void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptio
 int fControlStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* returned) const
 {
+    if (hint == SH_Widget_Animation_Duration && lessMotion()) return 0;
     return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 

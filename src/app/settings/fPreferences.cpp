@@ -1,9 +1,12 @@
 #include "app/settings/fPreferences.h"
+#include "app/settings/Appearance.h"
 #include "app/settings/pictureSettings.h"
 #include "seams/Platform.h"
 #include "ui/browse/mBrowseFolder.h"
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -81,6 +84,7 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     column->addWidget(screenProfile_ =
                           named(new QCheckBox(tr("&Show pictures by the screen's color profile")), "chkScreenProfile"));
     screenProfile_->setChecked(pictureSetting(platform_, PictureSetting::ScreenProfile));
+    addLooks(*column);
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -93,6 +97,21 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     auto* all = new QVBoxLayout(this);
     all->addWidget(tabs);
     all->addWidget(buttons);
+}
+
+void fPreferences::addLooks(QBoxLayout& column)
+{
+    look_ = named(new QComboBox, "cboAppearance", tr("Colors of the windows"));
+    for (const LookRow& row : lookRows())
+        look_->addItem(QCoreApplication::translate("velara::Appearance", row.caption), static_cast<int>(row.look));
+    look_->setCurrentIndex(look_->findData(static_cast<int>(chosenLook(platform_))));
+    auto* label = new QLabel(tr("Colors of the &windows:"));
+    label->setBuddy(look_);
+    auto* line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(look_, 1);
+    column.addSpacing(6);
+    column.addLayout(line);
 }
 
 void fPreferences::browse()
@@ -108,6 +127,7 @@ void fPreferences::accept()
     copy_.ImagesPath = rightTrimmed(copy_.ImagesPath);
     setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
     setPictureSetting(platform_, PictureSetting::ScreenProfile, screenProfile_->isChecked());
+    chooseLook(platform_, static_cast<Look>(look_->currentData().toInt()));
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

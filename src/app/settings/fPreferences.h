@@ -3,7 +3,9 @@
 #include "seams/Setup.h"
 #include <QDialog>
 
+class QBoxLayout;
 class QCheckBox;
+class QComboBox;
 class QLineEdit;
 
 namespace velara {
@@ -19,12 +21,15 @@ class fPreferences final : public QDialog {
 
   private:
     void browse();
+    void addLooks(QBoxLayout& column);
 
     Platform& platform_;
     Setup& setup_;
     Setup copy_;
     QLineEdit* path_;
-    QCheckBox *convert_, *screenProfile_; // kept in the user's settings, not in the record
+    // Kept in the user's settings, not in the record
+    QCheckBox *convert_, *screenProfile_;
+    QComboBox* look_;
 };
 
 } // namespace velara

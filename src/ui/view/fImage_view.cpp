@@ -3,6 +3,7 @@
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"
+#include "ui/widgets/marks/motion.h"
 #include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -202,7 +203,7 @@ void fImage::StartTimer()
     if (!isFront()) return;
     iDst_->setOutlineShown(true);
     tick();
-    tmrSelection_.start();
+    if (!lessMotion()) tmrSelection_.start();
     tellViews(whole());
 }
 
@@ -213,6 +214,7 @@ void fImage::tick()
     if (document_.Region.IsEmptyRegion()) return;
     iDst_->march();
     iDst_->updateOutline();
+    if (lessMotion()) StopTimer();
 }
 
 void fImage::ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep)

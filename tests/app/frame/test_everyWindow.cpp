@@ -1,16 +1,14 @@
 // Every window that the menus open, the panes and the boxes: controls have names and roles for screen readers and can
 // be reached by keyboard, nothing shows raw markup, and every item of a menu has an access key.
-#include "app/frame/frameTest.h"
-#include "app/menus/Boxes.h"
+#include "app/frame/everyWindow.h"
 #include <QAccessible>
 #include <QRegularExpression>
-#include <QtWidgets>
 
 namespace velara {
 
 namespace {
 
-struct EveryWindow : FrameTest {
+struct EveryWindow : EveryWindowTest {
     QSet<QString> seen; // the windows looked at
     QStringList unnamed, marked, withoutRole, unreached;
 
@@ -77,40 +75,13 @@ struct EveryWindow : FrameTest {
             if (window.isModal() && isControl(*widget) && !isReached(*widget)) unreached << shown;
         }
     }
-    /// Looks at the windows over the frame and closes them. \returns whether there was one
-    bool lookAndClose()
-    {
-        bool any = false;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window == frame.get() || !window->isVisible() || qobject_cast<QMenu*>(window)) continue;
-            look(*window);
-            window->close();
-            any = true;
-        }
-        return any;
-    }
 };
 
 } // namespace
 
 TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
 {
-    frame->initToolPanes();
-    open(randomBits(60, 40, 1));
-    frame->boxes().showAll();
-    for (QToolButton* strip : frame->toolPane().findChildren<QToolButton*>())
-        if (strip->isCheckable()) strip->click();
-    look(*frame);
-    QTimer timer; // comes in the middle of a modal window, too
-    QObject::connect(&timer, &QTimer::timeout, [this] { lookAndClose(); });
-    timer.start(1);
-    for (QAction* item : frame->findChildren<QAction*>()) {
-        if (!item->text().endsWith("...") && item->objectName() != "ABOUT_10") continue;
-        item->trigger();
-        frame->workspace().wait();
-        comes([&] { return !lookAndClose(); });
-    }
-    timer.stop();
+    eachWindow([this](QWidget& window) { look(window); });
     EXPECT_GE(seen.size(), 35) << seen.values().join('\n').toStdString();
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
     EXPECT_TRUE(withoutRole.isEmpty()) << withoutRole.join('\n').toStdString();

@@ -2,6 +2,7 @@
 #include "app/menus/fControlStyle.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "ui/widgets/contrast.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
@@ -120,7 +121,7 @@ TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
     for (QPalette* palette : {&light, &dark}) {
         style.polish(*palette);
         const auto read = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
-            return fControlStyle::contrast(palette->color(text), palette->color(ground));
+            return velara::contrast(palette->color(text), palette->color(ground));
         };
         EXPECT_GE(read(QPalette::HighlightedText, QPalette::Highlight), 4.5);
         EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Window), 4.5);
@@ -158,7 +159,7 @@ TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
                 painter.end();
                 double most = 1;
                 for (int i = 0; i < side * side; ++i)
-                    most = std::max(most, fControlStyle::contrast(shown.pixelColor(i % side, i / side), ground));
+                    most = std::max(most, velara::contrast(shown.pixelColor(i % side, i / side), ground));
                 EXPECT_GE(most, 3) << item.name.toStdString() << ", " << side << " pixels";
             }
 }

@@ -1,0 +1,180 @@
+// Every window in every palette: texts and icons stand out from what is around them, and so does the focus; with larger
+// letters nothing is cut.
+#include "app/frame/everyWindow.h"
+#include "app/menus/fMenuStyle.h"
+#include "app/settings/Appearance.h"
+#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/FocusRing.h"
+
+namespace velara {
+
+namespace {
+
+struct EveryLook : EveryWindowTest, ::testing::WithParamInterface<Look> {
+    FocusRing ring;
+    const QFont font = QApplication::font();
+    int seen = 0;
+    QStringList bad;
+
+    void SetUp() override
+    {
+        QApplication::setStyle(new fMenuStyle);
+        showLook(GetParam(), {});
+        EveryWindowTest::SetUp();
+    }
+    void TearDown() override
+    {
+        EveryWindowTest::TearDown();
+        QApplication::setFont(font);
+        showLook(Look::Desktop, {});
+        QApplication::setStyle(QStyleFactory::create("fusion"));
+        EXPECT_EQ(bad.join('\n').toStdString(), "") << bad.size() << " of " << seen;
+    }
+    static QString nameOf(const QWidget& widget)
+    {
+        return widget.window()->objectName() + ": " + widget.metaObject()->className() + ' ' + widget.objectName();
+    }
+    static QImage shown(QWidget& widget, const QRect& part)
+    {
+        QWidget& window = *widget.window();
+        return window.grab(part.translated(widget.mapTo(&window, QPoint())) & window.rect())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    }
+    /// The greatest contrast of a pixel with the colour that most have.
+    static double contrastIn(const QImage& image)
+    {
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+        const auto ground = std::max_element(counts.begin(), counts.end());
+        double most = 1;
+        for (auto colour = counts.begin(); colour != counts.end(); ++colour)
+            most = std::max(most, contrast(QColor(colour.key()), QColor(ground.key())));
+        return most;
+    }
+    void check(QWidget& widget, const QRect& part, double least, const QString& what)
+    {
+        const QRect inside = part & widget.visibleRegion().boundingRect();
+        if (inside != part || !widget.isEnabled() || part.isEmpty()) return;
+        ++seen;
+        if (const double found = contrastIn(shown(widget, part)); found < least)
+            bad << QString("%1, %2: contrast %3").arg(nameOf(widget), what).arg(found);
+    }
+    void checkParts(QWidget& widget)
+    {
+        if (auto* tabs = qobject_cast<QTabBar*>(&widget))
+            for (int i = 0; i < tabs->count(); ++i) check(widget, tabs->tabRect(i), kReadableText, tabs->tabText(i));
+        else if (auto* bar = qobject_cast<QMenuBar*>(&widget))
+            for (QAction* action : bar->actions())
+                check(widget, bar->actionGeometry(action), kReadableText, action->text());
+        else if (auto* view = qobject_cast<QAbstractItemView*>(&widget); view && view->model())
+            for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+                if (const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+                    index.flags() & Qt::ItemIsEnabled && !index.data().toString().isEmpty())
+                    check(*view->viewport(), view->visualRect(index), kReadableText, index.data().toString());
+    }
+    /// Of its text, its icon, or its parts.
+    void checkContrast(QWidget& widget)
+    {
+        const QString text = widget.property("text").toString() + widget.property("title").toString() +
+                             widget.property("currentText").toString() + widget.property("placeholderText").toString();
+        const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+        const auto* tool = qobject_cast<const QToolButton*>(&widget);
+        const bool isIcon = button && !button->icon().isNull() &&
+                            (text.isEmpty() || (tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly));
+        if (isIcon || !text.isEmpty()) check(widget, widget.rect(), isIcon ? kVisibleSign : kReadableText, text);
+        checkParts(widget);
+    }
+    void checkMenu(QMenu& menu)
+    {
+        menu.popup({});
+        for (QAction* item : menu.actions()) {
+            if (item->isSeparator() || !item->isEnabled()) continue;
+            menu.setActiveAction(nullptr);
+            const QRect box = menu.actionGeometry(item);
+            check(menu, box.adjusted(24, 0, 0, 0), kReadableText, item->text());
+            if (!item->icon().isNull()) check(menu, {box.x(), box.y(), 22, box.height()}, kVisibleSign, item->text());
+            if (item->menu()) continue;
+            menu.setActiveAction(item);
+            check(menu, box.adjusted(24, 0, 0, 0), kReadableText, "chosen: " + item->text());
+        }
+        menu.close();
+    }
+    /// The pixels that change with the focus, against the background.
+    void checkFocus(QWidget& control)
+    {
+        QWidget* before = QApplication::focusWidget();
+        if (before) before->clearFocus();
+        const QRect around = control.rect().adjusted(-3, -3, 3, 3);
+        const QImage without = shown(control, around);
+        control.setFocus(Qt::TabFocusReason);
+        if (!control.hasFocus()) return; // a proxy has it
+        ++seen;
+        const QImage with = shown(control, around);
+        const QColor ground = control.window()->palette().color(QPalette::Window);
+        int visible = 0;
+        for (int y = 0; y < with.height(); ++y)
+            for (int x = 0; x < with.width(); ++x)
+                visible +=
+                    with.pixel(x, y) != without.pixel(x, y) && contrast(with.pixelColor(x, y), ground) >= kVisibleSign;
+        if (visible < std::min(with.width(), with.height()))
+            bad << QString("%1: %2 pixels").arg(nameOf(control)).arg(visible);
+    }
+    static bool isCut(const QWidget& widget)
+    {
+        const bool isText = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
+        if (!isText || widget.property("text").toString().isEmpty()) return false;
+        if (widget.hasHeightForWidth()) return widget.heightForWidth(widget.width()) > widget.height();
+        const QSize wanted = widget.minimumSizeHint();
+        return wanted.width() > widget.width() || wanted.height() > widget.height();
+    }
+    template <class Check> void eachWidget(Check checkOne)
+    {
+        eachWindow([&](QWidget& window) {
+            QApplication::setActiveWindow(&window);
+            QCoreApplication::sendPostedEvents();
+            for (QWidget* widget : window.findChildren<QWidget*>())
+                if (widget->isVisible() && widget->window() == &window) checkOne(*widget);
+        });
+    }
+};
+
+} // namespace
+
+TEST_P(EveryLook, TextsAndIconsCanBeRead)
+{
+    eachWidget([this](QWidget& widget) { checkContrast(widget); });
+    for (QMenu* menu : frame->findChildren<QMenu*>())
+        if (menu->menuAction()->isVisible()) checkMenu(*menu);
+    EXPECT_GT(seen, 900);
+}
+
+TEST_P(EveryLook, FocusIsSeen)
+{
+    eachWidget([this](QWidget& widget) {
+        if (widget.isEnabled() && widget.focusPolicy() & Qt::TabFocus && !widget.focusProxy()) checkFocus(widget);
+    });
+    EXPECT_GT(seen, 250);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, EveryLook,
+                         ::testing::Values(Look::Light, Look::Dark, Look::ContrastLight, Look::ContrastDark));
+
+struct LargeLetters : EveryLook {};
+
+TEST_P(LargeLetters, NothingIsCut)
+{
+    QFont large = font;
+    large.setPointSizeF(font.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    eachWidget([this](QWidget& widget) {
+        ++seen;
+        if (isCut(widget)) bad << nameOf(widget) + ": " + widget.property("text").toString();
+    });
+    EXPECT_GT(seen, 900);
+}
+
+INSTANTIATE_TEST_SUITE_P(Light, LargeLetters, ::testing::Values(Look::Light));
+
+} // namespace velara
