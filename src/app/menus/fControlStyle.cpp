@@ -1,9 +1,11 @@
 #include "app/menus/fControlStyle.h"
 #include "ui/widgets/contrast.h"
 #include "ui/widgets/marks/motion.h"
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
+#include <array>
 
 namespace velara {
 
@@ -17,6 +19,40 @@ QColor edgeOf(const QStyleOption& option)
     const double strength = option.state & QStyle::State_Enabled ? 0.55 : 0.25;
     return mixed(option.palette.color(QPalette::Active, QPalette::WindowText),
                  option.palette.color(QPalette::Active, QPalette::Window), strength);
+}
+
+/// Paler than a text, and readable in fields and on windows.
+QColor hintOf(const QPalette& palette)
+{
+    constexpr double kRoom = 1.2; // thin letters reach less than their colour
+    const QColor text = palette.color(QPalette::Text), base = palette.color(QPalette::Base);
+    const auto isReadable = [&](const QColor& hint) {
+        return std::ranges::all_of(std::array{QPalette::Base, QPalette::Window, QPalette::Button}, [&](auto ground) {
+            return contrast(hint, palette.color(ground)) >= kReadableText * kRoom;
+        });
+    };
+    double part = 0.65;
+    while (part < 1 && !isReadable(mixed(text, base, part))) part += 0.05;
+    return mixed(text, base, std::min(part, 1.0));
+}
+
+/// The plain style writes the titles of active windows in white, whatever the colour of what is chosen.
+QColor underWhite(QColor colour)
+{
+    while (contrast(colour, Qt::white) < kReadableText * 1.5) colour = colour.darker(110); // it is drawn lighter
+    return colour;
+}
+
+/// The way of a slider, which the plain style has in a shade of the background.
+void drawGroove(const QStyle& style, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget)
+{
+    const QRect groove = style.subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
+    const bool lies = option->state & QStyle::State_Horizontal;
+    painter->setPen(edgeOf(*option));
+    if (lies)
+        painter->drawLine(groove.left(), groove.center().y(), groove.right(), groove.center().y());
+    else
+        painter->drawLine(groove.center().x(), groove.top(), groove.center().x(), groove.bottom());
 }
 
 /// The symbols of a title bar's buttons, in its text's colour.
@@ -52,23 +88,44 @@ void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QP
     }
 }
 
-/// The sign of a docked box's button: a cross, or two windows.
-QIcon dockSign(bool closes, const QColor& colour)
+/// The signs of the buttons of boxes, documents and bars, which the plain style has in black alone.
+struct SignRow {
+    QStyle::StandardPixmap icon;
+    void (*draw)(QPainter& painter); // in a square of kSignSide
+};
+constexpr int kSignSide = 10;
+constexpr SignRow kSigns[] = {
+    {QStyle::SP_TitleBarCloseButton,
+     [](QPainter& p) {
+         p.setRenderHint(QPainter::Antialiasing);
+         p.drawLines(QPolygonF({{1.5, 1.5}, {8.5, 8.5}, {8.5, 1.5}, {1.5, 8.5}}));
+     }},
+    {QStyle::SP_TitleBarNormalButton,
+     [](QPainter& p) {
+         p.drawRect(QRectF(1, 4, 5, 5));
+         p.drawPolyline(QPolygonF({{4, 1.5}, {8.5, 1.5}, {8.5, 6}}));
+     }},
+    {QStyle::SP_TitleBarMaxButton, [](QPainter& p) { p.drawRect(QRectF(1, 1, 8, 8)); }},
+    {QStyle::SP_TitleBarMinButton, [](QPainter& p) { p.drawLine(QPointF(1, 8.5), QPointF(9, 8.5)); }},
+    {QStyle::SP_ToolBarHorizontalExtensionButton,
+     [](QPainter& p) {
+         for (const qreal x : {1.5, 5.5}) p.drawPolyline(QPolygonF({{x, 2}, {x + 3, 5}, {x, 8}}));
+     }},
+    {QStyle::SP_ToolBarVerticalExtensionButton,
+     [](QPainter& p) {
+         for (const qreal y : {1.5, 5.5}) p.drawPolyline(QPolygonF({{2, y}, {5, y + 3}, {8, y}}));
+     }},
+};
+
+QIcon iconOf(const SignRow& row, const QColor& colour)
 {
-    constexpr int kSide = 10, kSharpness = 2;
-    QPixmap sign(QSize(kSide, kSide) * kSharpness);
+    constexpr int kSharpness = 2;
+    QPixmap sign(QSize(kSignSide, kSignSide) * kSharpness);
     sign.setDevicePixelRatio(kSharpness);
     sign.fill(Qt::transparent);
     QPainter painter(&sign);
     painter.setPen(QPen(colour, 1.5));
-    if (closes) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawLine(QPointF(1.5, 1.5), QPointF(8.5, 8.5));
-        painter.drawLine(QPointF(8.5, 1.5), QPointF(1.5, 8.5));
-    } else {
-        painter.drawRect(QRectF(1, 4, 5, 5));
-        painter.drawPolyline(QPolygonF({{4, 1.5}, {8.5, 1.5}, {8.5, 6}}));
-    }
+    row.draw(painter);
     return QIcon(sign);
 }
 
@@ -101,6 +158,15 @@ bool isEdged(QStyle::PrimitiveElement element, const QStyleOption& option)
     default:
         return false;
     }
+}
+
+/// The rectangle of its edge: that of a group begins below its title.
+QRect edgeRect(const QStyle& style, QStyle::PrimitiveElement element, const QStyleOption& option, const QWidget* widget)
+{
+    const auto* group = element == QStyle::PE_FrameGroupBox ? qobject_cast<const QGroupBox*>(widget) : nullptr;
+    if (!group || group->title().isEmpty()) return option.rect;
+    const int indicator = style.pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, &option, widget);
+    return option.rect.adjusted(0, std::max(indicator, group->fontMetrics().height()) + 3, 0, 0);
 }
 
 /// The part of such a control that has an edge; empty: none.
@@ -139,7 +205,7 @@ bool fControlStyle::sharpens(const QPalette& palette) const { return isHighContr
 void fControlStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
-    const QColor hint = mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.65);
+    const QColor hint = hintOf(palette);
     for (const auto group : {QPalette::Active, QPalette::Inactive})
         palette.setColor(group, QPalette::PlaceholderText, hint);
     if (!isPlain()) return;
@@ -177,7 +243,8 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return QProxyStyle::drawPrimitive(element, &locked, painter, widget);
         }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (sharpens(option->palette) && isEdged(element, *option)) drawEdge(painter, *option, option->rect);
+    if (sharpens(option->palette) && isEdged(element, *option))
+        drawEdge(painter, *option, edgeRect(*this, element, *option, widget));
     if (!mends(option->palette) || (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) return;
     painter->save();
     painter->setPen(edgeOf(*option));
@@ -201,7 +268,16 @@ void fControlStyle::drawControl(ControlElement element, const QStyleOption* opti
 void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                        const QWidget* widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_TitleBar && isPlain()) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option)) {
+            QStyleOptionTitleBar readable = *bar;
+            readable.palette.setColor(QPalette::Highlight, underWhite(bar->palette.color(QPalette::Highlight)));
+            QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+        }
+    } else {
+        if (control == CC_Slider && sharpens(option->palette)) drawGroove(*proxy(), option, painter, widget);
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
     if (const QRect part = edgedPart(*proxy(), control, option, widget); sharpens(option->palette) && !part.isEmpty())
         drawEdge(painter, *option, part);
     if (!mends(option->palette)) return;
@@ -240,10 +316,11 @@ QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
 
 QIcon fControlStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
-    const bool floats = icon == SP_TitleBarNormalButton, closes = icon == SP_TitleBarCloseButton;
-    if (!(floats || closes) || !widget || !mends(widget->palette()))
+    const QPalette palette = widget ? widget->palette() : option ? option->palette : QPalette();
+    const auto* row = std::ranges::find(kSigns, icon, &SignRow::icon);
+    if (row == std::end(kSigns) || !(widget || option) || !mends(palette))
         return QProxyStyle::standardIcon(icon, option, widget);
-    return dockSign(closes, widget->palette().color(QPalette::WindowText));
+    return iconOf(*row, palette.color(QPalette::WindowText));
 }
 
 QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const

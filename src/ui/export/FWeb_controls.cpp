@@ -92,7 +92,8 @@ QWidget* FWeb::makeChoices()
     connect(CmdSave_, &QPushButton::clicked, this, [this] { ask(Work::Save); });
 
     auto* column = new QWidget;
-    column->setFixedWidth(250);
+    column->setMinimumWidth(250);
+    column->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* rows = new QVBoxLayout(column);
     rows->setContentsMargins(0, 0, 0, 0);
     auto* exit = button("CmdCancel", QStringLiteral("Exit"));

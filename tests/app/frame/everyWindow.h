@@ -11,6 +11,7 @@ struct EveryWindowTest : FrameTest {
     template <class Look> void eachWindow(Look look)
     {
         frame->initToolPanes();
+        open(randomBits(20, 20, 2), "behind.bmp");
         open(randomBits(60, 40, 1));
         frame->boxes().showAll();
         for (QToolButton* strip : frame->toolPane().findChildren<QToolButton*>())

@@ -2,6 +2,7 @@
 #include "app/menus/fControlStyle.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "app/settings/Appearance.h"
 #include "ui/widgets/contrast.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
@@ -140,6 +141,22 @@ TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
         EXPECT_EQ(inside(QStyle::State_ReadOnly), palette->color(QPalette::Window));
     }
     EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, nullptr, nullptr), 0);
+}
+
+TEST_F(ControlStyle, TheTitleOfTheActiveWindowIsReadInEveryLook)
+{
+    for (const Look look : {Look::Light, Look::Dark, Look::ContrastLight, Look::ContrastDark}) {
+        auto bar = option<QStyleOptionTitleBar>(QStyle::State_Enabled | QStyle::State_Active);
+        bar.palette = paletteOf(look);
+        style.polish(bar.palette);
+        bar.rect = QRect(0, 0, 200, 22);
+        bar.titleBarState = QStyle::State_Active;
+        bar.subControls = QStyle::SC_TitleBarLabel;
+        QImage image(200, 22, QImage::Format_RGB32);
+        QPainter painter(&image);
+        style.drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, nullptr);
+        EXPECT_GE(velara::contrast(image.pixelColor(100, 11), Qt::white), 4.5) << int(look);
+    }
 }
 
 TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
