@@ -42,6 +42,7 @@ DesktopWishes::DesktopWishes(const QDBusConnection& given)
     QDBusConnection bus = given;
     if (!bus.isConnected()) return;
     qDBusRegisterMetaType<Settings>();
+    qRegisterMetaType<QDBusVariant>(); // not known by its name before the first message has come
     // From whatever name: to look that up would wait for the bus.
     bus.connect(QString(), kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));

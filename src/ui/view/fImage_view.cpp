@@ -203,7 +203,7 @@ void fImage::StartTimer()
     if (!isFront()) return;
     iDst_->setOutlineShown(true);
     tick();
-    if (!lessMotion()) tmrSelection_.start();
+    tmrSelection_.start();
     tellViews(whole());
 }
 
@@ -212,9 +212,8 @@ void fImage::StopTimer() { tmrSelection_.stop(); }
 void fImage::tick()
 {
     if (document_.Region.IsEmptyRegion()) return;
-    iDst_->march();
+    if (!lessMotion()) iDst_->march();
     iDst_->updateOutline();
-    if (lessMotion()) StopTimer();
 }
 
 void fImage::ShowShape(BandShape shape, int x1, int y1, int x2, int y2, bool keep)

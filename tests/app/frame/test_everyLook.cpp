@@ -5,6 +5,7 @@
 #include "app/settings/Appearance.h"
 #include "ui/widgets/contrast.h"
 #include "ui/widgets/marks/FocusRing.h"
+#include "ui/widgets/marks/motion.h"
 
 namespace velara {
 
@@ -170,6 +171,31 @@ TEST_P(EveryLook, FocusIsSeen)
 
 INSTANTIATE_TEST_SUITE_P(All, EveryLook,
                          ::testing::Values(Look::Light, Look::Dark, Look::ContrastLight, Look::ContrastDark));
+
+TEST_F(FrameTest, WhatTheDesktopAsksForIsShown)
+{
+    const auto asked = [](const Wishes& wishes, Look chosen = Look::Desktop) {
+        showLook(chosen, wishes);
+        QCoreApplication::processEvents();
+        return QApplication::palette();
+    };
+    const QPalette desktop = QApplication::palette();
+    for (const bool dark : {true, false}) {
+        const QPalette sharp = asked({dark, true, false}), plain = asked({dark, false, false});
+        EXPECT_TRUE(isHighContrast(sharp));
+        EXPECT_FALSE(isHighContrast(plain));
+        for (const QPalette& palette : {sharp, plain})
+            EXPECT_EQ(palette.color(QPalette::Window).lightness() < 128, dark);
+        EXPECT_EQ(asked({dark, true, false}, Look::Light).color(QPalette::Window),
+                  paletteOf(Look::Light).color(QPalette::Window));
+    }
+    EXPECT_EQ(asked({}), desktop) << "it is let go";
+    for (const bool less : {true, false}) {
+        asked({{}, false, less});
+        EXPECT_EQ(lessMotion(), less);
+        EXPECT_EQ(frame->isAnimated(), !less);
+    }
+}
 
 struct LargeLetters : EveryLook {
     void SetUp() override
