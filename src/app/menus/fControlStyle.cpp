@@ -1,5 +1,5 @@
 #include "app/menus/fControlStyle.h"
-#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/contrast.h"
 #include "ui/widgets/marks/motion.h"
 #include <QGroupBox>
 #include <QPainter>

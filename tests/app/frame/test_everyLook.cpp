@@ -3,8 +3,8 @@
 #include "app/frame/everyWindow.h"
 #include "app/menus/fMenuStyle.h"
 #include "app/settings/Appearance.h"
-#include "ui/widgets/contrast.h"
 #include "ui/widgets/marks/FocusRing.h"
+#include "ui/widgets/marks/contrast.h"
 #include "ui/widgets/marks/motion.h"
 
 namespace velara {

@@ -3,7 +3,7 @@
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
 #include "app/settings/Appearance.h"
-#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/contrast.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "ui/widgets/marks/FocusRing.h"
-#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/contrast.h"
 #include <QApplication>
 #include <QCheckBox>
 #include <QFocusEvent>

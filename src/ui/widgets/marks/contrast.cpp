@@ -1,4 +1,4 @@
-#include "ui/widgets/contrast.h"
+#include "ui/widgets/marks/contrast.h"
 #include <algorithm>
 #include <cmath>
 
