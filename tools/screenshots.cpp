@@ -1,9 +1,10 @@
-// Takes screenshots of the editor's windows for docs/screenshots: screenshots FOLDER light|dark. The scale is Qt's own
-// QT_SCALE_FACTOR. Works without a display.
+// Takes screenshots of the editor's windows for docs/screenshots: screenshots FOLDER light|dark|contrast-light|
+// contrast-dark. The scale is Qt's own QT_SCALE_FACTOR. Works without a display.
 #include "app/frame/fToolPane.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/fMenuStyle.h"
 #include "app/menus/menus.h"
+#include "app/settings/Appearance.h"
 #include "app/settings/fPreferences.h"
 #include "app/start/fSplash.h"
 #include "support/RecordingPlatform.h"
@@ -47,15 +48,6 @@ void save(const QPixmap& pixmap, const QString& name)
 {
     const QString path = folder + "/" + name + suffix + ".png";
     if (!pixmap.save(path, "PNG", 0)) std::fprintf(stderr, "can't write %s\n", qPrintable(path));
-}
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(49, 54, 59));
-    palette.setColor(QPalette::Base, QColor(35, 38, 41));
-    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
 }
 
 /// The frame with one of its menus open over it, submenus beside it.
@@ -246,20 +238,17 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     if (argc != 3) {
-        std::fprintf(stderr, "usage: screenshots FOLDER light|dark\n");
+        std::fprintf(stderr, "usage: screenshots FOLDER light|dark|contrast-light|contrast-dark\n");
         return 2;
     }
     folder = argv[1];
     QDir().mkpath(folder);
-    const bool dark = QString(argv[2]) == "dark";
-    suffix = QString(dark ? "_dark" : "") + (qApp->devicePixelRatio() > 1 ? "_2x" : "");
-    auto* style = new fMenuStyle;
-    application.setStyle(style);
-    if (dark) {
-        QPalette palette = darkPalette();
-        style->polish(palette); // as a desktop's style does
-        application.setPalette(palette);
-    }
+    const auto row = std::ranges::find_if(lookRows(), [&](const LookRow& r) { return QString(argv[2]) == r.key; });
+    const Look look = row == lookRows().end() ? Look::Desktop : row->look;
+    const bool isLight = look == Look::Desktop || look == Look::Light;
+    suffix = (isLight ? QString() : '_' + QString(argv[2])) + (qApp->devicePixelRatio() > 1 ? "_2x" : "");
+    application.setStyle(new fMenuStyle);
+    showLook(look, {});
 
     RecordingPlatform platform;
     platform.printers().printers = {{"Office", "Photo"}, "Photo"};

@@ -1,6 +1,7 @@
 // velara-studio: the editor. With files on its command line it is velara-open.
 #include "app/fStartup.h"
 #include "app/menus/fMenuStyle.h"
+#include "app/settings/Appearance.h"
 #include "app/settings/language.h"
 #include "app/start/FrameRequests.h"
 #include "app/start/SessionEnd.h"
@@ -9,6 +10,7 @@
 #include "platform/desktop/QtPlatform.h"
 #include "platform/opening/OpenService.h"
 #include "platform/opening/places.h"
+#include "ui/widgets/marks/FocusRing.h"
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
@@ -64,12 +66,15 @@ int main(int argc, char** argv)
     QGuiApplication::setDesktopFileName(velara::kStudioService);
     velara::FrameRequests requests;
     std::optional<velara::OpenService> service(requests);
-    service->serve(velara::sessionBus(QStringLiteral("velara-studio")));
+    const QDBusConnection bus = velara::sessionBus(QStringLiteral("velara-studio"));
+    service->serve(bus);
     service->listen(velara::socketOf(getpid()));
     velara::QtPlatform platform;
     const QString language = velara::chosenLanguage(platform);
     velara::useLanguage(application,
                         language.isEmpty() ? velara::languageFor(QLocale::system().uiLanguages()) : language);
+    velara::Appearance appearance(platform, bus);
+    const velara::FocusRing focusRing;
     velara::Setup setup;
     velara::Startup startup(platform, setup);
     std::unique_ptr<velara::fMain> frame;
@@ -77,6 +82,7 @@ int main(int argc, char** argv)
     QObject::connect(&startup, &velara::Startup::done, &application, [&] {
         frame = startup.takeFrame();
         sessionEnd.emplace(*frame);
+        QObject::connect(frame.get(), &velara::fMain::optionsChosen, &appearance, &velara::Appearance::apply);
         QObject::connect(frame.get(), &velara::fMain::closed, &application, [&] { service.reset(); });
         QObject::connect(frame.get(), &velara::fMain::closed, &application, &QCoreApplication::quit,
                          Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 """A desktop portal of the tests, for python3-dbusmock. Parameters: answer (a portal's code, or -1 for silence), uri of
-the screenshot, wallpaper (the file into which what comes through a descriptor is written), log (one line a call)."""
+the screenshot, wallpaper (the file into which what comes through a descriptor is written), log (one line a call),
+settings (by namespace and key)."""
 import os
 
 import dbus
@@ -43,3 +44,10 @@ def SetWallpaperFile(self, parent, descriptor, options, sender=None):
         copy.write(source.read())
     note(self, f"SetWallpaperFile {options['set-on']}")
     return respond(self, sender, options, {})
+
+
+@dbus.service.method("org.freedesktop.portal.Settings", in_signature="as", out_signature="a{sa{sv}}")
+def ReadAll(self, spaces):
+    told = self.parameters["settings"]
+    return dbus.Dictionary({space: dbus.Dictionary(told[space], signature="sv") for space in spaces if space in told},
+                           signature="sa{sv}")

@@ -115,6 +115,8 @@ class fMain final : public QMainWindow, public Frame {
 
   signals:
     void closed();
+    /// By OK.
+    void optionsChosen();
     /// Closing was cancelled because a document refused.
     void stays();
     /// Of any document; see fImage.

@@ -207,6 +207,7 @@ void fMain::options()
     dialogFolder_ = setup_.ImagesPath;
     readInSrgb(pictureSetting(platform_, PictureSetting::ConvertToSrgb));
     chooseScreenColours();
+    emit optionsChosen();
 }
 
 void fMain::chooseScreenColours()

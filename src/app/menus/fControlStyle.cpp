@@ -1,30 +1,17 @@
 #include "app/menus/fControlStyle.h"
+#include "ui/widgets/marks/contrast.h"
+#include "ui/widgets/marks/motion.h"
+#include <QGroupBox>
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace velara {
 
 namespace {
 
-constexpr double kReadable = 4.5; // contrast of text
-
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
-
-QColor mixed(const QColor& one, const QColor& other, double part)
-{
-    const auto channel = [part](int a, int b) { return qRound(a * part + b * (1 - part)); };
-    return QColor(channel(one.red(), other.red()), channel(one.green(), other.green()),
-                  channel(one.blue(), other.blue()));
-}
-
-/// The relative luminance by which the web's rules of contrast go: 0 black, 1 white.
-double luminance(const QColor& colour)
-{
-    const auto linear = [](float v) { return v <= 0.04045F ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
 
 /// The outline of a control: visible on the background, but weaker than the text.
 QColor edgeOf(const QStyleOption& option)
@@ -32,6 +19,40 @@ QColor edgeOf(const QStyleOption& option)
     const double strength = option.state & QStyle::State_Enabled ? 0.55 : 0.25;
     return mixed(option.palette.color(QPalette::Active, QPalette::WindowText),
                  option.palette.color(QPalette::Active, QPalette::Window), strength);
+}
+
+/// Paler than a text, and readable in fields and on windows.
+QColor hintOf(const QPalette& palette)
+{
+    constexpr double kRoom = 1.2; // thin letters reach less than their colour
+    const QColor text = palette.color(QPalette::Text), base = palette.color(QPalette::Base);
+    const auto isReadable = [&](const QColor& hint) {
+        return std::ranges::all_of(std::array{QPalette::Base, QPalette::Window, QPalette::Button}, [&](auto ground) {
+            return contrast(hint, palette.color(ground)) >= kReadableText * kRoom;
+        });
+    };
+    double part = 0.65;
+    while (part < 1 && !isReadable(mixed(text, base, part))) part += 0.05;
+    return mixed(text, base, std::min(part, 1.0));
+}
+
+/// The plain style writes the titles of active windows in white, whatever the colour of what is chosen.
+QColor underWhite(QColor colour)
+{
+    while (contrast(colour, Qt::white) < kReadableText * 1.5) colour = colour.darker(110); // it is drawn lighter
+    return colour;
+}
+
+/// The way of a slider, which the plain style has in a shade of the background.
+void drawGroove(const QStyle& style, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget)
+{
+    const QRect groove = style.subControlRect(QStyle::CC_Slider, option, QStyle::SC_SliderGroove, widget);
+    const bool lies = option->state & QStyle::State_Horizontal;
+    painter->setPen(edgeOf(*option));
+    if (lies)
+        painter->drawLine(groove.left(), groove.center().y(), groove.right(), groove.center().y());
+    else
+        painter->drawLine(groove.center().x(), groove.top(), groove.center().x(), groove.bottom());
 }
 
 /// The symbols of a title bar's buttons, in its text's colour.
@@ -67,33 +88,103 @@ void drawTitleButtons(const QStyle& style, const QStyleOptionComplex* option, QP
     }
 }
 
-/// The sign of a docked box's button: a cross, or two windows.
-QIcon dockSign(bool closes, const QColor& colour)
+/// The signs of the buttons of boxes, documents and bars, which the plain style has in black alone.
+struct SignRow {
+    QStyle::StandardPixmap icon;
+    void (*draw)(QPainter& painter); // in a square of kSignSide
+};
+constexpr int kSignSide = 10;
+constexpr SignRow kSigns[] = {
+    {QStyle::SP_TitleBarCloseButton,
+     [](QPainter& p) {
+         p.setRenderHint(QPainter::Antialiasing);
+         p.drawLines(QPolygonF({{1.5, 1.5}, {8.5, 8.5}, {8.5, 1.5}, {1.5, 8.5}}));
+     }},
+    {QStyle::SP_TitleBarNormalButton,
+     [](QPainter& p) {
+         p.drawRect(QRectF(1, 4, 5, 5));
+         p.drawPolyline(QPolygonF({{4, 1.5}, {8.5, 1.5}, {8.5, 6}}));
+     }},
+    {QStyle::SP_TitleBarMaxButton, [](QPainter& p) { p.drawRect(QRectF(1, 1, 8, 8)); }},
+    {QStyle::SP_TitleBarMinButton, [](QPainter& p) { p.drawLine(QPointF(1, 8.5), QPointF(9, 8.5)); }},
+    {QStyle::SP_ToolBarHorizontalExtensionButton,
+     [](QPainter& p) {
+         for (const qreal x : {1.5, 5.5}) p.drawPolyline(QPolygonF({{x, 2}, {x + 3, 5}, {x, 8}}));
+     }},
+    {QStyle::SP_ToolBarVerticalExtensionButton,
+     [](QPainter& p) {
+         for (const qreal y : {1.5, 5.5}) p.drawPolyline(QPolygonF({{2, y}, {5, y + 3}, {8, y}}));
+     }},
+};
+
+QIcon iconOf(const SignRow& row, const QColor& colour)
 {
-    constexpr int kSide = 10, kSharpness = 2;
-    QPixmap sign(QSize(kSide, kSide) * kSharpness);
+    constexpr int kSharpness = 2;
+    QPixmap sign(QSize(kSignSide, kSignSide) * kSharpness);
     sign.setDevicePixelRatio(kSharpness);
     sign.fill(Qt::transparent);
     QPainter painter(&sign);
     painter.setPen(QPen(colour, 1.5));
-    if (closes) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawLine(QPointF(1.5, 1.5), QPointF(8.5, 8.5));
-        painter.drawLine(QPointF(8.5, 1.5), QPointF(1.5, 8.5));
-    } else {
-        painter.drawRect(QRectF(1, 4, 5, 5));
-        painter.drawPolyline(QPolygonF({{4, 1.5}, {8.5, 1.5}, {8.5, 6}}));
-    }
+    row.draw(painter);
     return QIcon(sign);
 }
 
-} // namespace
-
-double fControlStyle::contrast(const QColor& one, const QColor& other)
+void drawEdge(QPainter* painter, const QStyleOption& option, const QRect& rect)
 {
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
+    painter->save();
+    painter->setPen(edgeOf(option));
+    painter->setBrush(Qt::NoBrush);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->restore();
 }
+
+/// What has an edge of its own with high contrast, where the plain style's is a shade of the background.
+bool isEdged(QStyle::PrimitiveElement element, const QStyleOption& option)
+{
+    switch (element) {
+    case QStyle::PE_PanelButtonTool:
+        return !(option.state & QStyle::State_AutoRaise) ||
+               option.state & (QStyle::State_Raised | QStyle::State_Sunken | QStyle::State_On);
+    case QStyle::PE_PanelLineEdit:
+    case QStyle::PE_Frame: {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+        return frame && frame->lineWidth > 0; // not inside of a box with arrows
+    }
+    case QStyle::PE_PanelButtonCommand:
+    case QStyle::PE_FrameGroupBox:
+    case QStyle::PE_FrameTabWidget:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The rectangle of its edge: that of a group begins below its title.
+QRect edgeRect(const QStyle& style, QStyle::PrimitiveElement element, const QStyleOption& option, const QWidget* widget)
+{
+    const auto* group = element == QStyle::PE_FrameGroupBox ? qobject_cast<const QGroupBox*>(widget) : nullptr;
+    if (!group || group->title().isEmpty()) return option.rect;
+    const int indicator = style.pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, &option, widget);
+    return option.rect.adjusted(0, std::max(indicator, group->fontMetrics().height()) + 3, 0, 0);
+}
+
+/// The part of such a control that has an edge; empty: none.
+QRect edgedPart(const QStyle& style, QStyle::ComplexControl control, const QStyleOptionComplex* option,
+                const QWidget* widget)
+{
+    switch (control) {
+    case QStyle::CC_ComboBox:
+    case QStyle::CC_SpinBox:
+        return option->rect;
+    case QStyle::CC_ScrollBar:
+        return style.subControlRect(control, option, QStyle::SC_ScrollBarSlider, widget);
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 QColor fControlStyle::paleText(const QPalette& palette)
 {
@@ -102,22 +193,27 @@ QColor fControlStyle::paleText(const QPalette& palette)
 
 bool fControlStyle::isPlain() const { return baseStyle()->name() == QLatin1String("fusion"); }
 
-bool fControlStyle::mends(const QPalette& palette) const { return isDark(palette) && isPlain(); }
+bool fControlStyle::mends(const QPalette& palette) const
+{
+    return (isDark(palette) || isHighContrast(palette)) && isPlain();
+}
+
+bool fControlStyle::sharpens(const QPalette& palette) const { return isHighContrast(palette) && isPlain(); }
 
 /// Plain palettes make disabled text and chosen rows hard to read, and a dark workspace black. Hints are too pale in
 /// most.
 void fControlStyle::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
-    const QColor hint = mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.65);
+    const QColor hint = hintOf(palette);
     for (const auto group : {QPalette::Active, QPalette::Inactive})
         palette.setColor(group, QPalette::PlaceholderText, hint);
     if (!isPlain()) return;
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         const QColor text = palette.color(group, QPalette::HighlightedText);
         QColor ground = palette.color(group, QPalette::Highlight);
-        for (int i = 0; i < 40 && contrast(text, ground) < kReadable; ++i)
-            ground = luminance(text) > 0.5 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
+        for (int i = 0; i < 40 && contrast(text, ground) < kReadableText; ++i)
+            ground = text.lightness() > 128 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
         palette.setColor(group, QPalette::Highlight, ground);
     }
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
@@ -147,6 +243,8 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             return QProxyStyle::drawPrimitive(element, &locked, painter, widget);
         }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (sharpens(option->palette) && isEdged(element, *option))
+        drawEdge(painter, *option, edgeRect(*this, element, *option, widget));
     if (!mends(option->palette) || (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)) return;
     painter->save();
     painter->setPen(edgeOf(*option));
@@ -159,10 +257,29 @@ void fControlStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->restore();
 }
 
+void fControlStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (sharpens(option->palette) && (element == CE_TabBarTabShape || element == CE_ProgressBarGroove))
+        drawEdge(painter, *option, option->rect);
+}
+
 void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                        const QWidget* widget) const
 {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_TitleBar && isPlain()) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option)) {
+            QStyleOptionTitleBar readable = *bar;
+            readable.palette.setColor(QPalette::Highlight, underWhite(bar->palette.color(QPalette::Highlight)));
+            QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+        }
+    } else {
+        if (control == CC_Slider && sharpens(option->palette)) drawGroove(*proxy(), option, painter, widget);
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    if (const QRect part = edgedPart(*proxy(), control, option, widget); sharpens(option->palette) && !part.isEmpty())
+        drawEdge(painter, *option, part);
     if (!mends(option->palette)) return;
     painter->save();
     if (control == CC_Slider) {
@@ -180,6 +297,7 @@ void fControlStyle::drawComplexControl(ComplexControl control, const QStyleOptio
 int fControlStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* returned) const
 {
+    if (hint == SH_Widget_Animation_Duration && lessMotion()) return 0;
     return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
@@ -198,10 +316,11 @@ QSize fControlStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
 
 QIcon fControlStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
-    const bool floats = icon == SP_TitleBarNormalButton, closes = icon == SP_TitleBarCloseButton;
-    if (!(floats || closes) || !widget || !mends(widget->palette()))
+    const QPalette palette = widget ? widget->palette() : option ? option->palette : QPalette();
+    const auto* row = std::ranges::find(kSigns, icon, &SignRow::icon);
+    if (row == std::end(kSigns) || !(widget || option) || !mends(palette))
         return QProxyStyle::standardIcon(icon, option, widget);
-    return dockSign(closes, widget->palette().color(QPalette::WindowText));
+    return iconOf(*row, palette.color(QPalette::WindowText));
 }
 
 QPixmap fControlStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const

@@ -44,7 +44,7 @@ constexpr PictureRow kPictures[] = {
     {"LIGHTCONTOUR", ":contour"}, {"LIGHTDIFFUSE", ":diffuse"}, {"LIGHTENGRAVE", ":engrave"},
     {"HEAVYSOFTEN", ":soften"}, {"LIGHTNOISE", ":noise"}, {"HEAVYSATURATION", ":saturation"},
     {"LIGHTSHARPEN", "sharpenimage"}, {"PAINTING", "oilpaint"}, {"SKETCH", "draw-freehand"},
-    {"RGBLEVELS", "adjustrgb"}, {"COLORIZE", "adjusthsl"},
+    {"RGBLEVELS", ":channels"}, {"COLORIZE", ":colorize"},
 
     {"MouseScroll", "hand"}, {"ZoomIn", ":zoom_in"}, {"ZoomOut", ":zoom_out"},
 };

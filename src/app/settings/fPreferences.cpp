@@ -1,4 +1,5 @@
 #include "app/settings/fPreferences.h"
+#include "app/settings/Appearance.h"
 #include "app/settings/language.h"
 #include "app/settings/pictureSettings.h"
 #include "seams/Platform.h"
@@ -6,6 +7,7 @@
 #include "ui/widgets/inputs/named.h"
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -86,6 +88,7 @@ fPreferences::fPreferences(Platform& platform, Setup& setup, QWidget* parent)
     screenProfile_->setChecked(pictureSetting(platform_, PictureSetting::ScreenProfile));
     column->addSpacing(6);
     column->addLayout(makeLanguage());
+    addLooks(*column);
     column->addStretch();
 
     auto* tabs = named(new QTabWidget, "tabs", tr("Options"));
@@ -115,6 +118,21 @@ QLayout* fPreferences::makeLanguage()
     return line;
 }
 
+void fPreferences::addLooks(QBoxLayout& column)
+{
+    look_ = named(new QComboBox, "cboAppearance", tr("Colors of the windows"));
+    for (const LookRow& row : lookRows())
+        look_->addItem(QCoreApplication::translate("velara::Appearance", row.caption), static_cast<int>(row.look));
+    look_->setCurrentIndex(look_->findData(static_cast<int>(chosenLook(platform_))));
+    auto* label = new QLabel(tr("Colors of the &windows:"));
+    label->setBuddy(look_);
+    auto* line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(look_, 1);
+    column.addSpacing(6);
+    column.addLayout(line);
+}
+
 void fPreferences::browse()
 {
     const QString folder = BrowseForFolder(platform_, tr("Select Images default folder"), this, copy_.ImagesPath);
@@ -129,6 +147,7 @@ void fPreferences::accept()
     setPictureSetting(platform_, PictureSetting::ConvertToSrgb, convert_->isChecked());
     setPictureSetting(platform_, PictureSetting::ScreenProfile, screenProfile_->isChecked());
     chooseLanguage(platform_, language_->currentData().toString());
+    chooseLook(platform_, static_cast<Look>(look_->currentData().toInt()));
     setup_ = copy_; // the whole record: changes made elsewhere while the dialog was open are undone
     QDialog::accept();
 }

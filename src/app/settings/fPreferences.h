@@ -3,6 +3,7 @@
 #include "seams/Setup.h"
 #include <QDialog>
 
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLayout;
@@ -22,13 +23,15 @@ class fPreferences final : public QDialog {
   private:
     QLayout* makeLanguage();
     void browse();
+    void addLooks(QBoxLayout& column);
 
     Platform& platform_;
     Setup& setup_;
     Setup copy_;
     QLineEdit* path_;
-    QCheckBox *convert_, *screenProfile_; // kept in the user's settings, not in the record,
-    QComboBox* language_;                 // as is this one
+    // Kept in the user's settings, not in the record
+    QCheckBox *convert_, *screenProfile_;
+    QComboBox *language_, *look_;
 };
 
 } // namespace velara

@@ -4,6 +4,7 @@
 #include "fileio/disk/fileBytes.h"
 #include "fileio/disk/userFolders.h"
 #include "seams/Platform.h"
+#include "ui/widgets/marks/motion.h"
 #include <QBuffer>
 #include <QMouseEvent>
 #include <QPainter>
@@ -57,13 +58,14 @@ void fSplash::tick()
 
 void fSplash::mousePressEvent(QMouseEvent* event)
 {
+    if (lessMotion()) return;
     ripples_.add(event->pos().x(), event->pos().y());
     Timer1.start();
 }
 
 void fSplash::mouseMoveEvent(QMouseEvent* event)
 {
-    if (event->buttons() & Qt::LeftButton) ripples_.add(event->pos().x(), event->pos().y());
+    if (event->buttons() & Qt::LeftButton && !lessMotion()) ripples_.add(event->pos().x(), event->pos().y());
 }
 
 void fSplash::mouseReleaseEvent(QMouseEvent*) { close(); }

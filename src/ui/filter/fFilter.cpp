@@ -10,6 +10,7 @@
 #include "seams/text.h"
 #include "ui/widgets/fColorButton.h"
 #include "ui/widgets/fPicture.h"
+#include "ui/widgets/marks/motion.h"
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -41,7 +42,7 @@ fFilter::fFilter(Frame& frame, const FilterRow& row, const DocumentHandle& docum
     tmrSelect_.setObjectName(QStringLiteral("tmrSelect"));
     tmrSelect_.setInterval(400);
     connect(&tmrSelect_, &QTimer::timeout, iSrc_, &fPicture::flipMarker);
-    if (has(row.extras, FilterExtra::PickCentre | FilterExtra::PickColour)) tmrSelect_.start();
+    if (has(row.extras, FilterExtra::PickCentre | FilterExtra::PickColour) && !lessMotion()) tmrSelect_.start();
     runPreview();
 }
 

@@ -155,7 +155,8 @@ QWidget* fCanvas::makeAnchors()
         button->setText(kAnchors[i].sign);
         button->setToolTip(tr(kAnchors[i].name));
         button->setCheckable(true);
-        button->setFixedSize(28, 28);
+        const int side = std::max(28, button->sizeHint().height());
+        button->setFixedSize(std::max(side, button->sizeHint().width()), side);
         anchors_->addButton(button, i);
         grid->addWidget(button, i / 3, i % 3);
     }

@@ -3,6 +3,7 @@
 #include "ui/view/fCursors.h"
 #include "ui/view/fDisplay.h"
 #include "ui/view/fImage.h"
+#include "ui/widgets/marks/motion.h"
 #include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -211,7 +212,7 @@ void fImage::StopTimer() { tmrSelection_.stop(); }
 void fImage::tick()
 {
     if (document_.Region.IsEmptyRegion()) return;
-    iDst_->march();
+    if (!lessMotion()) iDst_->march();
     iDst_->updateOutline();
 }
 

@@ -145,10 +145,12 @@ void fPicture::paintOver(QPainter& painter, const QRect&)
         }
     if (!marker_) return;
     const QPointF at = placeOf(*marker_);
-    painter.setPen(white_ ? Qt::white : Qt::black);
-    painter.drawLine(at - QPointF(7, 0), at + QPointF(7, 0));
-    painter.drawLine(at - QPointF(0, 7), at + QPointF(0, 7));
-    painter.drawEllipse(at, 4, 4);
+    for (const QPen& pen : {QPen(white_ ? Qt::black : Qt::white, 3), QPen(white_ ? Qt::white : Qt::black, 1)}) {
+        painter.setPen(pen); // seen on every picture, at rest, too
+        painter.drawLine(at - QPointF(7, 0), at + QPointF(7, 0));
+        painter.drawLine(at - QPointF(0, 7), at + QPointF(0, 7));
+        painter.drawEllipse(at, 4, 4);
+    }
 }
 
 // --- Mouse

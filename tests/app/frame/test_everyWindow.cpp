@@ -3,7 +3,6 @@
 #include "app/frame/windowWalk.h"
 #include <QAccessible>
 #include <QRegularExpression>
-#include <QtWidgets>
 
 namespace velara {
 
@@ -56,7 +55,7 @@ struct EveryWindow : WindowWalk {
             if (const QString shown = object.property(property).toString(); markup.match(shown).hasMatch())
                 marked << object.objectName() + ": " + shown;
     }
-    void look(QWidget& window) override
+    void look(QWidget& window)
     {
         QList<QWidget*> all = window.findChildren<QWidget*>();
         all << &window;
@@ -76,7 +75,7 @@ struct EveryWindow : WindowWalk {
 
 TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
 {
-    walk();
+    eachWindow([this](QWidget& window) { look(window); });
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
     EXPECT_TRUE(withoutRole.isEmpty()) << withoutRole.join('\n').toStdString();
     EXPECT_TRUE(unreached.isEmpty()) << unreached.join('\n').toStdString();

@@ -1,6 +1,7 @@
 // Opening, saving, the recent list, drops, clipboard, and closing the frame.
 #include "app/frame/fStatus.h"
 #include "app/frame/frameTest.h"
+#include "app/settings/Appearance.h"
 #include "app/settings/fPreferences.h"
 #include "app/settings/pictureSettings.h"
 #include "pixels/images.h"
@@ -541,8 +542,12 @@ TEST_F(FrameTest, OptionsTakeEffectOnOkAlone)
         dialog.findChild<QPushButton*>("cmdBrowsePath")->click();
         EXPECT_EQ(last(), "folder: Select Images default folder");
         EXPECT_TRUE(setup.AskToSave);
+        auto* look = dialog.findChild<QComboBox*>("cboAppearance");
+        EXPECT_EQ(look->currentText(), "As the desktop");
+        look->setCurrentText("High contrast, dark");
         dialog.findChild<QPushButton*>(ok ? "CmdOK" : "CmdCancel")->click();
         EXPECT_EQ(setup.AskToSave, !ok);
+        EXPECT_EQ(chosenLook(platform), ok ? Look::ContrastDark : Look::Desktop);
         EXPECT_EQ(setup.ImagesPath, ok ? "/elsewhere/" : "/pictures/   ");
     }
 }

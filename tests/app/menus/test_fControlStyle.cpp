@@ -2,6 +2,8 @@
 #include "app/menus/fControlStyle.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/menus.h"
+#include "app/settings/Appearance.h"
+#include "ui/widgets/marks/contrast.h"
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
@@ -120,7 +122,7 @@ TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
     for (QPalette* palette : {&light, &dark}) {
         style.polish(*palette);
         const auto read = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
-            return fControlStyle::contrast(palette->color(text), palette->color(ground));
+            return velara::contrast(palette->color(text), palette->color(ground));
         };
         EXPECT_GE(read(QPalette::HighlightedText, QPalette::Highlight), 4.5);
         EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Window), 4.5);
@@ -141,6 +143,22 @@ TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
     EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons, nullptr, nullptr, nullptr), 0);
 }
 
+TEST_F(ControlStyle, TheTitleOfTheActiveWindowIsReadInEveryLook)
+{
+    for (const Look look : {Look::Light, Look::Dark, Look::ContrastLight, Look::ContrastDark}) {
+        auto bar = option<QStyleOptionTitleBar>(QStyle::State_Enabled | QStyle::State_Active);
+        bar.palette = paletteOf(look);
+        style.polish(bar.palette);
+        bar.rect = QRect(0, 0, 200, 22);
+        bar.titleBarState = QStyle::State_Active;
+        bar.subControls = QStyle::SC_TitleBarLabel;
+        QImage image(200, 22, QImage::Format_RGB32);
+        QPainter painter(&image);
+        style.drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, nullptr);
+        EXPECT_GE(velara::contrast(image.pixelColor(100, 11), Qt::white), 4.5) << int(look);
+    }
+}
+
 TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
 {
     useResources();
@@ -158,7 +176,7 @@ TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
                 painter.end();
                 double most = 1;
                 for (int i = 0; i < side * side; ++i)
-                    most = std::max(most, fControlStyle::contrast(shown.pixelColor(i % side, i / side), ground));
+                    most = std::max(most, velara::contrast(shown.pixelColor(i % side, i / side), ground));
                 EXPECT_GE(most, 3) << item.name.toStdString() << ", " << side << " pixels";
             }
 }

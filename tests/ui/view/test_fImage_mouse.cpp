@@ -2,6 +2,7 @@
 #include "region/outline.h"
 #include "ui/view/ImageFixture.h"
 #include "ui/view/fDisplay.h"
+#include "ui/widgets/marks/motion.h"
 #include <QAccessible>
 
 namespace velara {
@@ -125,7 +126,8 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     EXPECT_FALSE(band->isVisible());
     EXPECT_EQ(w.document().Region.Region().bounds(), (Rect{2, 2, 10, 7}));
     EXPECT_EQ(frame.filter_.BitsRegion().bounds(), (Rect{2, 2, 10, 7}));
-    ASSERT_TRUE(w.findChild<QTimer*>("tmrSelection")->isActive());
+    auto* timer = w.findChild<QTimer*>("tmrSelection");
+    ASSERT_TRUE(timer->isActive());
 
     const auto pattern = [&] { return w.findChild<fDisplay*>()->selection().brushIndex(); };
     const auto expectOutline = [&](bool on) {
@@ -144,6 +146,12 @@ TEST_F(Mouse, SelectsWithABandAndShowsTheOutline)
     expectOutline(true);
     const int before = pattern();
     EXPECT_TRUE(comes([&] { return pattern() != before; })) << "it marches";
+    setLessMotion(true);
+    int ticks = 0, rests = pattern();
+    QObject::connect(timer, &QTimer::timeout, [&] { ++ticks; });
+    EXPECT_TRUE(comes([&] { return ticks > 0; }));
+    EXPECT_EQ(pattern(), rests);
+    setLessMotion(false);
     expectOutline(true);
     w.deactivate();
     expectOutline(false);
