@@ -30,35 +30,35 @@ constexpr KeyRow kOnPictures[] = {
     {"To the tools and their settings, and back", "Tab"},
 };
 
-QTreeWidgetItem* group(QTreeWidget* list, const QString& caption)
-{
-    auto* item = new QTreeWidgetItem(list, {caption});
-    QFont bold = list->font();
-    bold.setBold(true);
-    item->setFont(0, bold);
-    return item;
-}
-
 QString shown(const QString& key) { return QKeySequence(key).toString(QKeySequence::NativeText); }
 
 } // namespace
+
+QList<KeyGroup> keyGroups()
+{
+    KeyGroup pictures{fHelp::tr("On a picture")}, tools{fHelp::tr("Tools")}, menus{fHelp::tr("Menus")};
+    for (const KeyRow& row : kOnPictures) pictures.rows.append({fHelp::tr(row.does), fHelp::tr(row.key)});
+    for (const ToolRow& tool : toolRows()) tools.rows.append({fHelp::tr(tool.caption), QString(QLatin1Char(tool.key))});
+    for (const NamedItem& item : namedItems())
+        if (const QString keys = text(item.row->shortcuts); !keys.isEmpty())
+            menus.rows.append({item.name, shown(keys.section(' ', 0, 0))});
+    return {pictures, tools, menus};
+}
 
 fHelp::fHelp(QWidget* parent)
     : QDialog(parent), list_(named(new QTreeWidget, "lstKeys", tr("What to do, and the keys for it")))
 {
     setObjectName("fHelp");
-    setWindowTitle(tr("Help"));
+    setWindowTitle(tr("Keys and Mouse"));
     setAttribute(Qt::WA_DeleteOnClose);
     list_->setHeaderLabels({tr("What to do"), tr("Mouse and keys")});
-    QTreeWidgetItem* pictures = group(list_, tr("On a picture"));
-    for (const KeyRow& row : kOnPictures) new QTreeWidgetItem(pictures, {tr(row.does), tr(row.key)});
-    QTreeWidgetItem* tools = group(list_, tr("Tools"));
-    for (const ToolRow& tool : toolRows())
-        new QTreeWidgetItem(tools, {tr(tool.caption), QString(QLatin1Char(tool.key))});
-    QTreeWidgetItem* menus = group(list_, tr("Menus"));
-    for (const NamedItem& item : namedItems())
-        if (const QString keys = text(item.row->shortcuts); !keys.isEmpty())
-            new QTreeWidgetItem(menus, {item.name, shown(keys.section(' ', 0, 0))});
+    QFont bold = list_->font();
+    bold.setBold(true);
+    for (const KeyGroup& group : keyGroups()) {
+        auto* head = new QTreeWidgetItem(list_, {group.caption});
+        head->setFont(0, bold);
+        for (const auto& [does, key] : group.rows) new QTreeWidgetItem(head, {does, key});
+    }
     list_->expandAll();
     list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
