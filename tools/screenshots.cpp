@@ -153,6 +153,16 @@ void shootFreeWindow(fMain& frame, const QString& word, const QString& objectNam
     }
 }
 
+/// Gives the small copies of pictures that lists and panes have asked for.
+void answerPreviews(RecordingPlatform& platform)
+{
+    for (const QString& asked : std::vector(platform.previews().asked)) {
+        const QImage image(QString(asked).remove("thumbnail "));
+        const QSize box = asked.startsWith("thumbnail ") ? QSize(128, 128) : image.size();
+        platform.previews().answer(asked, {image.scaled(box, Qt::KeepAspectRatio), image.size(), {}});
+    }
+}
+
 /// The browser on the program's own folder: this machine's tree is private.
 void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& picture)
 {
@@ -169,11 +179,7 @@ void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& pict
             while (root.parent().isValid() && root.data().toString() != QFileInfo(platform.folder.path()).fileName())
                 root = root.parent();
             tree->setRootIndex(root);
-            for (const QString& asked : std::vector(platform.previews().asked)) {
-                const QImage image(QString(asked).remove("thumbnail "));
-                const QSize box = asked.startsWith("thumbnail ") ? QSize(128, 128) : image.size();
-                platform.previews().answer(asked, {image.scaled(box, Qt::KeepAspectRatio), image.size(), {}});
-            }
+            answerPreviews(platform);
             if (auto* name = dialog.findChild<QLabel*>("FileName")) name->setText(QFileInfo(picture).fileName());
             settle(200);
         });
@@ -263,13 +269,15 @@ void shootRecovery(fMain& frame, const Bits& lake)
 }
 
 /// The dialog that asks for a name, with its boxes; this machine's folders are private.
-void shootSaveAs(RecordingPlatform& platform)
+void shootSaveAs(RecordingPlatform& platform, const Bits& lake)
 {
     const QTemporaryDir folder;
     const QString pictures = folder.filePath("pictures");
     QDir().mkpath(pictures);
     for (const char* name : {"beach.jpg", "boat.jpg", "lake.jpg"}) {
-        QFile file(pictures + '/' + name);
+        const QString path = pictures + '/' + name;
+        imageOver(lake).save(path, "JPEG");
+        QFile file(path);
         if (file.open(QIODevice::ReadWrite))
             file.setFileTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
     }
@@ -285,6 +293,7 @@ void shootSaveAs(RecordingPlatform& platform)
         for (QComboBox* list : dialog.findChildren<QComboBox*>())
             if (list->objectName() == "lookInCombo") list->setItemText(list->currentIndex(), "/home/ana/pictures");
         if (auto* sidebar = dialog.findChild<QAbstractItemView*>("sidebar")) sidebar->hide();
+        answerPreviews(platform);
         settle(200);
     });
 }
@@ -432,7 +441,7 @@ int main(int argc, char** argv)
         shootHistory(*frame);
         shootProperties(*frame);
         shootRecovery(*frame, frame->GetActiveImage()->bits());
-        shootSaveAs(platform);
+        shootSaveAs(platform, frame->GetActiveImage()->bits());
         shootManual(*frame);
     }
     if (!few) shootPanes(*frame);

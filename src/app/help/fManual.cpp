@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTimer>
@@ -19,8 +20,55 @@
 
 namespace velara {
 
+namespace {
+
+constexpr int kMargin = 14, kList = 240, kPage = 700; // around a page; widths
+
+/// A page whose pictures are never wider than it.
+class PageView final : public QTextBrowser {
+  public:
+    PageView()
+    {
+        document()->setDocumentMargin(kMargin);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        later_.setSingleShot(true);
+        connect(&later_, &QTimer::timeout, this, &PageView::fit);
+    }
+
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        const QVariant found = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource) return found;
+        QImage image = found.metaType().id() == QMetaType::QByteArray ? QImage::fromData(found.toByteArray())
+                                                                      : found.value<QImage>();
+        const int room = viewport()->width() - 2 * kMargin;
+        if (image.width() > room) image = image.scaledToWidth(std::max(room, 1), Qt::SmoothTransformation);
+        return image;
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QTextBrowser::resizeEvent(event);
+        if (event->size().width() != event->oldSize().width()) later_.start(0);
+    }
+
+  private:
+    /// Keeps the place on the page.
+    void fit()
+    {
+        const double at = verticalScrollBar()->value() / std::max(1.0, double(verticalScrollBar()->maximum()));
+        reload();
+        verticalScrollBar()->setValue(int(at * verticalScrollBar()->maximum()));
+    }
+
+    QTimer later_;
+};
+
+} // namespace
+
 fManual::fManual(QWidget* parent)
-    : QWidget(parent, Qt::Window), browser_(named(new QTextBrowser, "txtPage", tr("Page of the manual"))),
+    : QWidget(parent, Qt::Window), browser_(named<QTextBrowser>(new PageView, "txtPage", tr("Page of the manual"))),
       pages_(named(new QListWidget, "lstPages", tr("Pages of the manual"))),
       search_(named(new QLineEdit, "txtSearch", tr("Words to look for in the manual")))
 {
@@ -37,7 +85,9 @@ fManual::fManual(QWidget* parent)
     search_->setPlaceholderText(tr("Words to look for"));
     search_->setClearButtonEnabled(true);
     browser_->setOpenExternalLinks(false);
-    browser_->document()->setDocumentMargin(14);
+    pages_->setWordWrap(true);
+    pages_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    pages_->setSpacing(1);
     connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
     connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
     connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -59,7 +109,7 @@ fManual::fManual(QWidget* parent)
     sides->addWidget(pages_);
     sides->addWidget(browser_);
     sides->setStretchFactor(1, 1);
-    sides->setSizes({210, 630});
+    sides->setSizes({kList, kPage});
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -67,7 +117,7 @@ fManual::fManual(QWidget* parent)
     column->addWidget(sides, 1);
     list();
     browser_->setFocus();
-    resize(QSize(840, 640).boundedTo(screen()->availableSize()));
+    resize(QSize(kList + kPage, 680).boundedTo(screen()->availableSize()));
 }
 
 QAction* fManual::step(QToolBar& bar, const char* name, const char* icon, const QString& caption,

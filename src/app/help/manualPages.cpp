@@ -29,8 +29,7 @@ constexpr PageRow kWindows[] = {
     {"fPalette", "colours"},      {"fToolTextures", "text"},     {"fLayers", "text"},        {"fTexturize", "merging"},
     {"fOverlay", "merging"},      {"fPaste", "clips"},           {"FWeb", "web"},            {"fWebTable", "web"},
     {"fCapture", "capture"},      {"fAcquire", "scanner"},       {"fSource", "scanner"},     {"fPrint", "printing"},
-    {"fPrinterSetup", "printing"},{"fIcon", "icons"},            {"fIconMaker", "icons"},    {"fIconBrowse", "icons"},
-    {"FIcons", "icons"},         
+    {"Dlg", "printing"},          {"fIcon", "icons"},            {"fIconMaker", "icons"},    {"fIconBrowse", "icons"},
 };
 constexpr PageRow kTools[] = {
     {"Select", "selecting"}, {"SelectionMove", "selecting"}, {"Text", "text"},         {"GetColor", "colours"},
