@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -63,6 +63,9 @@ translations: setup
 screenshots: all
 	cmake --build --preset release --target screenshots
 	@scripts/screenshots.sh $(RELEASE)/bin docs/screenshots
+# The moving picture of the README
+movie: all
+	@scripts/movie.sh $(RELEASE)/bin docs/pictures/movie.webp
 
 bench: all
 	$(RELEASE)/bin/velara-bench

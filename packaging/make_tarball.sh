@@ -15,6 +15,9 @@ for program in velara-studio velara-batch velara-open velara-decode velara-decod
     install -m 755 "$build/bin/$program" "$folder/$program"
     strip "$folder/$program"
 done
+mkdir "$folder/manual" "$folder/screenshots"
+install -m 644 docs/manual/*.md "$folder/manual"
+for picture in $(grep -oh 'screenshots/[A-Za-z0-9_]*\.png' docs/manual/*.md | sort -u); do install -m 644 "docs/$picture" "$folder/screenshots"; done
 install -m 644 LICENSE CHANGELOG.md resources/velara.svg "$folder"
 # Whatever the programs are linked with, by the names of its packages; icons and fonts beside
 mkdir "$stage/debian"

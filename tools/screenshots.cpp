@@ -1,18 +1,26 @@
 // Takes screenshots of the editor's windows for docs/screenshots: screenshots FOLDER light|dark|contrast-light|
 // contrast-dark. The scale is Qt's own QT_SCALE_FACTOR. Works without a display.
 #include "app/frame/fToolPane.h"
+#include "app/help/fManual.h"
 #include "app/menus/fIcons.h"
 #include "app/menus/fMenuStyle.h"
 #include "app/menus/menus.h"
 #include "app/settings/Appearance.h"
 #include "app/settings/fPreferences.h"
+#include "app/start/fRecovery.h"
 #include "app/start/fSplash.h"
+#include "document/recovery/Leftover.h"
+#include "document/undo/UndoStore.h"
+#include "pixels/images.h"
+#include "platform/desktop/dialogs/fileDialogs.h"
 #include "support/RecordingPlatform.h"
 #include "support/ui/startedEditor.h"
 #include "ui/many/fFolderRun.h"
+#include "ui/view/fProperties.h"
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -93,7 +101,7 @@ constexpr DialogRow kDialogs[] = {
     {"IMAGERESOLUTION", false}, {"CUSTOMGLASS", false}, {"CUSTOMCURTAIN", false}, {"COLORIZE", true}, {"GAMMA", false},
     {"REPLACEHUESAT", false}, {"RGBBANKS", false}, {"LENS", false}, {"ADDGRID", false}, {"IMAGETEXTURES", false},
     {"IMAGECOLORDEPTH", false, "cmbDepth", 1}, {"IMAGESAVEOPTIONS", true, "CboFiles", 4}, {"@ICON", false},
-    {"PRINT", true}, {"ACQUIRETWAIN", true},
+    {"PRINT", true}, {"ACQUIRETWAIN", true}, {"@CAPTURE", false},
 };
 // clang-format on
 
@@ -137,6 +145,16 @@ void shootFreeWindow(fMain& frame, const QString& word, const QString& objectNam
     }
 }
 
+/// Gives the small copies of pictures that lists and panes have asked for.
+void answerPreviews(RecordingPlatform& platform)
+{
+    for (const QString& asked : std::vector(platform.previews().asked)) {
+        const QImage image(QString(asked).remove("thumbnail "));
+        const QSize box = asked.startsWith("thumbnail ") ? QSize(128, 128) : image.size();
+        platform.previews().answer(asked, {image.scaled(box, Qt::KeepAspectRatio), image.size(), {}});
+    }
+}
+
 /// The browser on the program's own folder: this machine's tree is private.
 void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& picture)
 {
@@ -153,11 +171,7 @@ void shootBrowser(fMain& frame, RecordingPlatform& platform, const QString& pict
             while (root.parent().isValid() && root.data().toString() != QFileInfo(platform.folder.path()).fileName())
                 root = root.parent();
             tree->setRootIndex(root);
-            for (const QString& asked : std::vector(platform.previews().asked)) {
-                const QImage image(QString(asked).remove("thumbnail "));
-                const QSize box = asked.startsWith("thumbnail ") ? QSize(128, 128) : image.size();
-                platform.previews().answer(asked, {image.scaled(box, Qt::KeepAspectRatio), image.size(), {}});
-            }
+            answerPreviews(platform);
             if (auto* name = dialog.findChild<QLabel*>("FileName")) name->setText(QFileInfo(picture).fileName());
             settle(200);
         });
@@ -196,6 +210,93 @@ void shootHistory(fMain& frame)
     settle(300);
     save(window->grab(), "run_on_folder");
     window->close();
+}
+
+/// What a photo says of itself.
+void shootProperties(fMain& frame)
+{
+    fProperties window({{"Name", "lake.jpg"},
+                        {"Folder", "/home/ana/pictures"},
+                        {"Kind", "JPEG"},
+                        {"Size", "4000 x 3000 pixels (12 megapixels)"},
+                        {"Camera", "Lumen X100"},
+                        {"Lens", "23 mm F2"},
+                        {"Exposure", "1/250 s, f/5.6, ISO 200"},
+                        {"Date", "2024-05-01 12:00:00"},
+                        {"Place", "46.4611 N, 6.8375 E"}},
+                       &frame);
+    window.show();
+    settle(200);
+    save(window.grab(), "properties");
+}
+
+/// What a program that died has left, in the box that offers it.
+void shootRecovery(fMain& frame, const Bits& lake)
+{
+    const QTemporaryDir folder;
+    std::vector<Offer> offers;
+    for (const int number : {1, 2}) {
+        UndoStore store(folder.path(), number);
+        store.willDescribe({.isUnsaved = true});
+        store.save(lake, "Blur");
+        store.stands();
+    }
+    for (const auto& leftover : Leftover::find(folder.path())) {
+        const bool first = offers.empty();
+        const QImage small = imageOver(lake).scaled(128, 128, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        offers.push_back({leftover,
+                          first ? "lake.jpg" : "New.bmp",
+                          first ? "/home/ana/pictures/lake.jpg" : "New.bmp",
+                          first ? "1 May 2024 12:00, 7 steps" : "1 May 2024 11:48, 2 steps",
+                          {},
+                          small,
+                          true});
+    }
+    auto* box = new fRecovery(&frame);
+    box->follow(offers);
+    box->show();
+    settle(300);
+    save(box->grab(), "recovery");
+    delete box;
+}
+
+/// The dialog that asks for a name, with its boxes; this machine's folders are private.
+void shootSaveAs(RecordingPlatform& platform, const Bits& lake)
+{
+    const QTemporaryDir folder;
+    const QString pictures = folder.filePath("pictures");
+    QDir().mkpath(pictures);
+    for (const char* name : {"beach.jpg", "boat.jpg", "lake.jpg"}) {
+        const QString path = pictures + '/' + name;
+        imageOver(lake).save(path, "JPEG");
+        QFile file(path);
+        if (file.open(QIODevice::ReadWrite))
+            file.setFileTime(QDateTime(QDate(2024, 5, 1), QTime(12, 0)), QFileDevice::FileModificationTime);
+    }
+    bool camera = true, withoutPlace = false;
+    const auto ask = [&] {
+        FileDialog request{"Save as",       "JPEG (*.jpg)|*.jpg|PNG (*.png)|*.png", pictures, "*.jpg", "jpg",
+                           "lake-small.jpg"};
+        request.choices = {{"chkKeepCamera", fMain::tr("&Keep camera data"), &camera},
+                           {"chkWithoutPlace", fMain::tr("without the &place"), &withoutPlace, &camera}};
+        askSaveName(platform, request);
+    };
+    shootDialog("SAVEAS", ask, [&](QWidget& dialog) {
+        for (QComboBox* list : dialog.findChildren<QComboBox*>())
+            if (list->objectName() == "lookInCombo") list->setItemText(list->currentIndex(), "/home/ana/pictures");
+        if (auto* sidebar = dialog.findChild<QAbstractItemView*>("sidebar")) sidebar->hide();
+        answerPreviews(platform);
+        settle(200);
+    });
+}
+
+void shootManual(fMain& frame)
+{
+    auto* window = new fManual(&frame);
+    window->open("filters");
+    settle(400);
+    save(window->grab(), "manual");
+    delete window;
 }
 
 /// The side pane with each tool, and the floating copies of the panes one below the other.
@@ -323,10 +424,14 @@ int main(int argc, char** argv)
         shootFreeWindow(*frame, "IMAGEMERGING", "fOverlay");
         shootFreeWindow(*frame, "@ASSOCIATION", "fAssociation");
         shootFreeWindow(*frame, "@SEARCH", "fSearch");
-        shootFreeWindow(*frame, "@HELP", "fHelp");
+        shootFreeWindow(*frame, "@KEYS", "fHelp");
         shootBrowser(*frame, platform, picture);
         shootBoxes(*frame);
         shootHistory(*frame);
+        shootProperties(*frame);
+        shootRecovery(*frame, frame->GetActiveImage()->bits());
+        shootSaveAs(platform, frame->GetActiveImage()->bits());
+        shootManual(*frame);
     }
     if (!few) shootPanes(*frame);
     setup.AskToSave = false;

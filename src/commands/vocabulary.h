@@ -190,6 +190,7 @@ inline constexpr CommandWord kCommandWords[] = {
     {"@SIDEBAR",             Stage::Free,       WordKind::Window},
     {"@FULLSCREEN",          Stage::Free,       WordKind::Window},
     {"@HELP",                Stage::Free,       WordKind::Window},
+    {"@KEYS",                Stage::Free,       WordKind::Window},
     {"@SEARCH",              Stage::Free,       WordKind::Window},
     {"@CAMERA",              Stage::Free,       WordKind::Nothing},
     {"@ZOOMP",               Stage::Free,       WordKind::Drop},

@@ -1,27 +1,17 @@
 #!/bin/bash
 # What docs/manual/many.md shows is run as it stands there: its blocks of the shell, in order, but for those of several machines
 # (make test-cluster).
-set -eu
-bin=$(realpath "$1")
-manual=$(dirname "$(realpath "$0")")/../../docs/manual/many.md
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-fail() {
-    echo "FAILED: $*" >&2
-    cat "$scratch/log" >&2
-    exit 1
-}
-awk '/^### /{exit} /^```sh$/{on=1; next} /^```/{on=0} on' "$manual" >"$scratch/blocks.sh"
-[ "$(grep -c '^velara-batch\|velara-batch -' "$scratch/blocks.sh")" = 7 ] || fail "the manual has other blocks than this test knows"
-cd "$scratch"
+. "$(dirname "$0")/manual.sh"
+blocks many.md
+[ "$(grep -c '^velara-batch\|velara-batch -' blocks.sh)" = 7 ] || fail "the manual has other blocks than this test knows"
 mkdir holiday
 for name in beach boat castle; do convert -size 400x300 plasma:red-blue "holiday/$name.jpg"; done
 cp -r holiday before
-PATH=$bin:$PATH bash -eu blocks.sh >log 2>&1 || fail "a block of the manual"
+run_blocks
 sizes() { identify -format '%wx%h ' "$1"/*; }
 [ "$(sizes small)$(sizes web)" = "200x150 200x150 200x150 200x150 200x150 200x150 " ] || fail "half the size: $(sizes small)$(sizes web)"
 [ "$(ls named)" = "$(printf '%s\n' 001-beach-web.jpg 002-boat-web.jpg 003-castle-web.jpg)" ] || fail "names: $(ls named)"
-[ "$(identify -format '%m %wx%h' beach.png)" = "PNG 200x150" ] || fail "the pipe"
+[ "$(shown beach.png)" = "PNG 200x150" ] || fail "the pipe"
 grep -q '3 skipped' log || fail "the second run of what is new did it again"
 [ "$(python3 -c 'import json,sys; print([json.loads(l)["result"] for l in open("done.json")])')" = "['done', 'done', 'done']" ] || fail "the report"
 diff -r holiday before || fail "the originals have changed"

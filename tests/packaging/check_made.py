@@ -94,7 +94,8 @@ def installedTree():
                        "libexec/velara-studio/velara-encode", "libexec/velara-studio/velara-scan",
                        "share/applications/org.velara.Studio.desktop", "share/dbus-1/services/org.velara.Studio.service",
                        "share/icons/hicolor/48x48/apps/org.velara.Studio.png", "share/man/man1/velara-batch.1.gz",
-                       "share/icons/hicolor/scalable/apps/org.velara.Studio.svg"]:
+                       "share/icons/hicolor/scalable/apps/org.velara.Studio.svg",
+                       "share/doc/velara-studio/manual/index.md", "share/doc/velara-studio/screenshots/options.png"]:
             if wanted not in names:
                 faults.append(f"{wanted} is not installed")
         if any(p.name == "portable" for p in files):
@@ -116,6 +117,16 @@ def installedTree():
             faults.append(f"no thumbnail: {got.stderr}")
 
 
+def screenshotsExist():
+    """What software centres show is a picture of docs/screenshots."""
+    shown = xml.parse(made / "org.velara.Studio.metainfo.xml").iter("image")
+    folder = pathlib.Path(__file__).parents[2] / "docs/screenshots"
+    names = [image.text.rsplit("/", 1)[1] for image in shown]
+    faults.extend(f"{name} is no screenshot" for name in names if not (folder / name).is_file())
+    if not names:
+        faults.append("no screenshots")
+
+
 check("desktop-file-validate", made / "org.velara.Studio.desktop")
 check("appstreamcli", "validate", "--no-net", made / "org.velara.Studio.metainfo.xml")
 for page in sorted(made.glob("*.1")):
@@ -129,6 +140,7 @@ for shell, pattern in [("bash", "*.bash"), ("zsh", "_velara-*"), ("fish", "*.fis
         check(shell, "-n", script)
 if not entry("velara-studio.thumbnailer")["Thumbnailer Entry"]["MimeType"]:
     faults.append("no thumbnails")
+screenshotsExist()
 typesAgreeWithTheSystem()
 completionCompletes()
 installedTree()

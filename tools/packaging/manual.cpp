@@ -60,7 +60,13 @@ QString studioPage(const QString& date)
                    ".TP\n$XDG_DATA_HOME/velara\\-studio\nstamps, textures, pictures\n"
                    ".TP\n$XDG_STATE_HOME/velara\\-studio\nwhat can be undone, while a picture is open\n"
                    ".PP\nBeside a file called portable, in a folder that can be written to, the program keeps all of "
-                   "them in its own folder.");
+                   "them in its own folder.") +
+           section("HELPERS", escaped("In libexec/velara-studio, started by these programs and by no one else: "
+                                      "velara-decode and velara-decode-all read one picture file each, in a sandbox "
+                                      "(velara-decode --cage tells which of its layers hold on this machine), "
+                                      "velara-encode makes AVIF and JPEG XL files, velara-scan accesses scanners.\n"
+                                      "The manual with pictures opens by F1, and lies in "
+                                      "share/doc/velara-studio/manual."));
 }
 
 QString seeAlso(const QString& others) { return section("SEE ALSO", others); }

@@ -2,6 +2,8 @@
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
 #include "app/frame/fToolPane.h"
+#include "app/help/Manual.h"
+#include "app/help/manualPages.h"
 #include "app/start/Recovery.h"
 #include "app/start/fStartPage.h"
 #include "app/utilities/Capture.h"
@@ -70,6 +72,8 @@ fMain::fMain(Platform& platform, Setup& setup)
     auto* recipes = findChild<QMenu*>("mnuRecipes");
     connect(recipes, &QMenu::aboutToShow, this, [this, recipes] { recipes_->list(*recipes); });
     makeRecovery();
+    manual_ = std::make_unique<Manual>(
+        *this, [this] { return GetActiveImage() ? manualPageOfTool(setup_.CurrentTool) : kFirstManualPage; });
     bars_->loadLastUsed();
     chooseScreenColours();
     showColors();

@@ -25,6 +25,7 @@
 namespace velara {
 
 class Capture;
+class Manual;
 class Clips;
 class Recipes;
 class fHistory;
@@ -170,7 +171,7 @@ class fMain final : public QMainWindow, public Frame {
     void options();
     void chooseScreenColours();
     void about();
-    void help();
+    void keys();
     /// Finds a command by a few letters.
     void search();
     void toggleFullScreen();
@@ -242,6 +243,7 @@ class fMain final : public QMainWindow, public Frame {
     std::unique_ptr<Boxes> boxes_;
     std::unique_ptr<ScreenColours> screenColours_; // where pictures are shown by the screens' profiles
     std::unique_ptr<Recovery> recovery_;
+    std::unique_ptr<Manual> manual_;
     QPointer<QProgressDialog> readingBox_;
     QString dialogFolder_;
     QStringList gone_;       // missing files that no message has named yet

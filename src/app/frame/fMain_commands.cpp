@@ -2,6 +2,7 @@
 // about, help, and the search for commands.
 #include "app/frame/fMain.h"
 #include "app/frame/fStatus.h"
+#include "app/help/Manual.h"
 #include "app/menus/fHelp.h"
 #include "app/menus/fSearch.h"
 #include "app/menus/menus.h"
@@ -135,7 +136,8 @@ struct fMain::Commands {
         {"@STATUSBAR",           [](fMain& f) { f.toggleStatusBar(); }},
         {"@SIDEBAR",             [](fMain& f) { f.toggleSideBar(); }},
         {"@FULLSCREEN",          [](fMain& f) { f.toggleFullScreen(); }},
-        {"@HELP",                [](fMain& f) { f.help(); }},
+        {"@HELP",                [](fMain& f) { f.manual_->open(); }},
+        {"@KEYS",                [](fMain& f) { f.keys(); }},
         {"@SEARCH",              [](fMain& f) { f.search(); }},
     };
     // clang-format on
@@ -224,7 +226,7 @@ void fMain::about()
     splash.exec();
 }
 
-void fMain::help()
+void fMain::keys()
 {
     auto* window = findChild<fHelp*>();
     if (!window) window = new fHelp(this);

@@ -215,6 +215,11 @@ void fControlStyle::polish(QPalette& palette)
         for (int i = 0; i < 40 && contrast(text, ground) < kReadableText; ++i)
             ground = text.lightness() > 128 ? ground.darker(104) : mixed(ground, Qt::white, 0.96);
         palette.setColor(group, QPalette::Highlight, ground);
+        QColor link = palette.color(group, QPalette::Link);
+        const QColor page = palette.color(group, QPalette::Base);
+        for (int i = 0; i < 40 && contrast(link, page) < kReadable; ++i)
+            link = mixed(link, luminance(page) > 0.5 ? Qt::black : Qt::white, 0.95);
+        palette.setColor(group, QPalette::Link, link);
     }
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
         palette.setColor(QPalette::Disabled, role, paleText(palette));

@@ -13,50 +13,61 @@ namespace velara {
 
 namespace {
 
-QTreeWidgetItem* group(QTreeWidget* list, const QString& caption)
-{
-    auto* item = new QTreeWidgetItem(list, {caption});
-    QFont bold = list->font();
-    bold.setBold(true);
-    item->setFont(0, bold);
-    return item;
-}
+struct KeyRow {
+    const char *does, *key;
+};
+constexpr KeyRow kOnPictures[] = {
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Move the picture in its window"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Middle button, or the hand (H)")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Scroll up and down"), QT_TRANSLATE_NOOP("velara::fHelp", "Wheel")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Scroll sideways"), QT_TRANSLATE_NOOP("velara::fHelp", "Shift + wheel")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Zoom about the pointer"), QT_TRANSLATE_NOOP("velara::fHelp", "Ctrl + wheel")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Drop what is under way"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Esc, or the right button")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Draw without a mouse: move a crosshair by a pixel, or ten"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Arrow keys, with Shift")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Press at the crosshair, and release"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Enter")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Fix a text, a paste or moved pixels, and go on"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Space")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Corner of a polygon"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Click, or Space while dragging")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "Close a polygon"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Enter, or a double click")},
+    {QT_TRANSLATE_NOOP("velara::fHelp", "To the tools and their settings, and back"),
+     QT_TRANSLATE_NOOP("velara::fHelp", "Tab")},
+};
 
 QString nativeKeys(const QString& key) { return QKeySequence(key).toString(QKeySequence::NativeText); }
 
 } // namespace
 
+QList<KeyGroup> keyGroups()
+{
+    KeyGroup pictures{fHelp::tr("On a picture")}, tools{fHelp::tr("Tools")}, menus{fHelp::tr("Menus")};
+    for (const KeyRow& row : kOnPictures) pictures.rows.append({fHelp::tr(row.does), fHelp::tr(row.key)});
+    for (const ToolRow& tool : toolRows())
+        tools.rows.append({shown("Tools", tool.caption), QString(QLatin1Char(tool.key))});
+    for (const NamedItem& item : namedItems())
+        if (const QString keys = text(item.row->shortcuts); !keys.isEmpty())
+            menus.rows.append({item.name, nativeKeys(keys.section(' ', 0, 0))});
+    return {pictures, tools, menus};
+}
+
 fHelp::fHelp(QWidget* parent)
     : QDialog(parent), list_(named(new QTreeWidget, "lstKeys", tr("What to do, and the keys for it")))
 {
-    static constexpr struct {
-        const char *does, *key;
-    } kOnPictures[] = {
-        {QT_TR_NOOP("Move the picture in its window"), QT_TR_NOOP("Middle button, or the hand (H)")},
-        {QT_TR_NOOP("Scroll up and down"), QT_TR_NOOP("Wheel")},
-        {QT_TR_NOOP("Scroll sideways"), QT_TR_NOOP("Shift + wheel")},
-        {QT_TR_NOOP("Zoom about the pointer"), QT_TR_NOOP("Ctrl + wheel")},
-        {QT_TR_NOOP("Drop what is under way"), QT_TR_NOOP("Esc, or the right button")},
-        {QT_TR_NOOP("Draw without a mouse: move a crosshair by a pixel, or ten"), QT_TR_NOOP("Arrow keys, with Shift")},
-        {QT_TR_NOOP("Press at the crosshair, and release"), QT_TR_NOOP("Enter")},
-        {QT_TR_NOOP("Fix a text, a paste or moved pixels, and go on"), QT_TR_NOOP("Space")},
-        {QT_TR_NOOP("Corner of a polygon"), QT_TR_NOOP("Click, or Space while dragging")},
-        {QT_TR_NOOP("Close a polygon"), QT_TR_NOOP("Enter, or a double click")},
-        {QT_TR_NOOP("To the tools and their settings, and back"), QT_TR_NOOP("Tab")},
-    };
     setObjectName("fHelp");
-    setWindowTitle(tr("Help"));
+    setWindowTitle(tr("Keys and Mouse"));
     setAttribute(Qt::WA_DeleteOnClose);
     list_->setHeaderLabels({tr("What to do"), tr("Mouse and keys")});
-    QTreeWidgetItem* pictures = group(list_, tr("On a picture"));
-    for (const auto& row : kOnPictures) new QTreeWidgetItem(pictures, {tr(row.does), tr(row.key)});
-    QTreeWidgetItem* tools = group(list_, tr("Tools"));
-    for (const ToolRow& tool : toolRows())
-        new QTreeWidgetItem(tools, {shown("Tools", tool.caption), QString(QLatin1Char(tool.key))});
-    QTreeWidgetItem* menus = group(list_, tr("Menus"));
-    for (const NamedItem& item : namedItems())
-        if (const QString keys = text(item.row->shortcuts); !keys.isEmpty())
-            new QTreeWidgetItem(menus, {item.name, nativeKeys(keys.section(' ', 0, 0))});
+    QFont bold = list_->font();
+    bold.setBold(true);
+    for (const KeyGroup& group : keyGroups()) {
+        auto* head = new QTreeWidgetItem(list_, {group.caption});
+        head->setFont(0, bold);
+        for (const auto& [does, key] : group.rows) new QTreeWidgetItem(head, {does, key});
+    }
     list_->expandAll();
     list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);

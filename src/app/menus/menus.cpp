@@ -239,6 +239,7 @@ constexpr MenuRow kMenus[] = {
     {End},
     {Menu, "mnuHelp", 0, "&Help"},
         {Item, "HELP", 0, "&Help ...", "@HELP", "F1"},
+        {Item, "HELP", 2, "&Keys and Mouse ...", "@KEYS", "Ctrl+F1"},
         {Item, "HELP", 1, "&Find a Command ...", "@SEARCH", "Ctrl+Shift+P"},
         {Separator},
         {Item, "ABOUT", 10, "&About Velara Studio", "@ABOUT"},

@@ -34,7 +34,7 @@ constexpr PictureRow kPictures[] = {
     {"IMAGETEXTURES", "texture"}, {"IMAGERESOLUTION", "measure"}, {"IMAGECOLORDEPTH", "color-management"},
     {"TEXTTOOLS", "insert-text-frame"}, {"@ICON", "shapes"}, {"@ASSOCIATION", "document-open-data"},
     {"@WALLPAPER", "viewimage"}, {"@ABOUT", "help-about"}, {"@RESET", "document-save-as-template"},
-    {"@HELP", "help-contents"}, {"@SEARCH", "edit-find"}, {"@FULLSCREEN", "view-fullscreen"},
+    {"@HELP", "help-contents"}, {"@KEYS", "input-keyboard"}, {"@SEARCH", "edit-find"}, {"@FULLSCREEN", "view-fullscreen"},
 
     {"INVERT", "invertimage"}, {"GRAYSCALE", ":greyscale"}, {"HAFTONE", ":halftone"}, {"XBLACK", ":xblack"},
     {"PHOTOCOP", ":photocop"}, {"PIXELIZE", ":pixelize"}, {"HORIZONTAL", ":glass"}, {"WWAVES", ":waves"},

@@ -70,7 +70,8 @@ constexpr WordHelp kHelp[] = {
     {"@ICON",               "", "ico extract"},
     {"@ASSOCIATION",        "", "default program double click"},
     {"@NEWVIEW",            "", "second window"},
-    {"@HELP",               "", "keys shortcuts manual"},
+    {"@HELP",               "The manual, at the page of what you are doing", "manual guide documentation how"},
+    {"@KEYS",               "", "keys shortcuts keyboard"},
     {"@ABOUT",              "", "version licence"},
     {"@EXIT",               "", "quit close"},
 };

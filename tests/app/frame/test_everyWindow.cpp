@@ -1,6 +1,8 @@
 // Every window that the menus open, the panes and the boxes: controls have names and roles for screen readers and can
-// be reached by keyboard, nothing shows raw markup, and every item of a menu has an access key.
+// be reached by keyboard, nothing shows raw markup, every window has a page of the manual, and every item of a menu an
+// access key.
 #include "app/frame/windowWalk.h"
+#include "app/help/manualPages.h"
 #include <QAccessible>
 #include <QRegularExpression>
 
@@ -9,7 +11,7 @@ namespace velara {
 namespace {
 
 struct EveryWindow : WindowWalk {
-    QStringList unnamed, marked, withoutRole, unreached;
+    QStringList unnamed, marked, withoutRole, unreached, unexplained;
 
     static bool isControl(const QWidget& widget) // of our own, and not a part of one of Qt's
     {
@@ -57,6 +59,7 @@ struct EveryWindow : WindowWalk {
     }
     void look(QWidget& window)
     {
+        if (&window != frame.get() && manualText(manualPageOf(window)).isEmpty()) unexplained << window.objectName();
         QList<QWidget*> all = window.findChildren<QWidget*>();
         all << &window;
         for (QWidget* widget : all) {
@@ -79,6 +82,7 @@ TEST_F(EveryWindow, HasNamedControlsAndPlainTexts)
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join('\n').toStdString();
     EXPECT_TRUE(withoutRole.isEmpty()) << withoutRole.join('\n').toStdString();
     EXPECT_TRUE(unreached.isEmpty()) << unreached.join('\n').toStdString();
+    EXPECT_TRUE(unexplained.isEmpty()) << "no page of the manual: " << unexplained.join('\n').toStdString();
     EXPECT_TRUE(marked.isEmpty()) << marked.join('\n').toStdString();
     for (const std::string& line : platform.log) EXPECT_EQ(line.find("</"), std::string::npos) << line;
 }

@@ -161,7 +161,7 @@ TEST_F(FrameTest, HoverTextsAndHelpTellTheKeys)
 {
     EXPECT_EQ(frame->action("tb_0_11")->toolTip(), "Copy (Ctrl+C)");
     EXPECT_TRUE(frame->action("BLUR_1")->toolTip().contains("two pixels"));
-    frame->run("@HELP");
+    frame->run("@KEYS");
     const auto* list = frame->findChild<QTreeWidget*>("lstKeys");
     QSet<QString> keys;
     for (const QAction* action : frame->findChildren<QAction*>())

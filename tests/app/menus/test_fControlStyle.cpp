@@ -125,6 +125,7 @@ TEST_F(ControlStyle, HintsAndChosenRowsCanBeReadAndLockedBoxesLookLocked)
             return velara::contrast(palette->color(text), palette->color(ground));
         };
         EXPECT_GE(read(QPalette::HighlightedText, QPalette::Highlight), 4.5);
+        EXPECT_GE(read(QPalette::Link, QPalette::Base), 4.5);
         EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Window), 4.5);
         EXPECT_GE(read(QPalette::PlaceholderText, QPalette::Base), 4.5);
         QStyleOptionFrame box;
