@@ -19,18 +19,21 @@ constexpr int kSpeed = 4; // the quantiser's scale is 1 (slow, best) to 10; belo
 Colour colourAt(const Pixel& pixel) { return colourOf(pixel.c[2], pixel.c[1], pixel.c[0]); }
 
 /// Nothing when the picture has more colours.
-std::optional<Palette> ownColours(const Bits& bits, int colours)
+std::optional<Palette> ownColours(const Bits& bits, int colours, const ReduceProgress& progress)
 {
+    constexpr int kRowsAtATime = 64;
     std::unordered_set<Colour> known;
     Palette palette;
     Colour last = -1;
-    for (int y = 0; y < bits.height(); ++y)
+    for (int y = 0; y < bits.height(); ++y) {
+        if (progress && y % kRowsAtATime == 0) progress(0);
         for (int x = 0; x < bits.width(); ++x) {
             const Colour colour = colourAt(bits.row(y)[x]);
             if (colour == std::exchange(last, colour) || !known.insert(colour).second) continue;
             if (static_cast<int>(palette.size()) == colours) return std::nullopt;
             palette.push_back(colour);
         }
+    }
     return palette;
 }
 
@@ -85,7 +88,7 @@ try {
 
 Palette bestPalette(const Bits& bits, int colours, const ReduceProgress& progress)
 {
-    if (std::optional<Palette> own = ownColours(bits, colours)) return *std::move(own);
+    if (std::optional<Palette> own = ownColours(bits, colours, progress)) return *std::move(own);
     const Attributes attributes(liq_attr_create());
     liq_set_max_colors(attributes.get(), colours);
     liq_set_speed(attributes.get(), kSpeed);

@@ -11,10 +11,12 @@
 #include "support/places.h"
 #include <QFileInfo>
 #include <QImage>
+#include <QThread>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -250,6 +252,73 @@ TEST_F(SavePicture, AQualityIsThatOfTheFormatsThatHaveOne)
     };
     EXPECT_LT(bytes("jpg", 20), bytes("jpg", 95));
     EXPECT_LT(bytes("webp", 20), bytes("webp", 95));
+}
+
+namespace {
+
+/// Asked whether the file is still wanted, it says no at the last look, and knows the longest work between two looks.
+struct Looks {
+    int left;
+    double longest = 0, last = ofThisThread(); // milliseconds of this thread, so that a loaded machine counts nothing
+
+    static double ofThisThread()
+    {
+        timespec time;
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
+    }
+    void end() { longest = std::max(longest, ofThisThread() - std::exchange(last, ofThisThread())); }
+    bool operator()()
+    {
+        end();
+        return --left > 0;
+    }
+};
+
+bool hasChildren()
+{
+    siginfo_t info;
+    return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+} // namespace
+
+TEST_F(SavePicture, EachWriterLooksOftenWhetherTheFileIsWanted)
+{
+    const Bits bits = fewColours(6000, 4000, 256);
+    for (const char* ending : {"png", "gif", "jpg", "bmp", "tif", "pcx", "pnm", "tga", "webp", "avif", "jxl"})
+        for (const int last : {2, 60, 200}) {
+            Looks looks{last};
+            SaveWishes wishes;
+            wishes.goOn = [&looks] { return looks(); };
+            const SaveReport report =
+                writePicture(bits, path("a."), ending, OutputFile::Links::Follow, CameraData{}, wishes);
+            looks.end();
+            EXPECT_LT(looks.longest, 100) << ending;
+            if (looks.left > 0) continue; // it was done before
+            EXPECT_EQ(report.result, SaveResult::Stopped) << ending;
+            EXPECT_TRUE(files().isEmpty()) << ending << ' ' << last;
+        }
+    while (hasChildren()) QThread::msleep(1);
+}
+
+TEST_F(SavePicture, AnEndedEncoderIsNotWaitedFor)
+{
+    const Bits bits = randomBits(3000, 2000, 4);
+    for (const char* ending : {"webp", "avif", "jxl"}) {
+        bool isLeft = false; // one of them may have gone already where this thread had to wait for a processor
+        for (int attempt = 0; attempt < 20 && !isLeft; ++attempt) {
+            Looks looks{60};
+            SaveWishes wishes;
+            wishes.goOn = [&looks] { return looks(); };
+            const QString name = path(QString("a.%1").arg(ending));
+            ASSERT_EQ(writePicture(bits, name, ending, OutputFile::Links::Follow, {}, wishes).result,
+                      SaveResult::Stopped);
+            isLeft = hasChildren();
+            while (hasChildren()) QThread::msleep(1); // in the end nothing is left of it
+        }
+        EXPECT_TRUE(isLeft) << ending;
+    }
 }
 
 TEST_F(SavePicture, LinksOfOthersAreFollowedWhereOthersCanMakeNone)

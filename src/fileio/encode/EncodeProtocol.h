@@ -8,14 +8,14 @@ namespace velara::encode {
 
 constexpr int kMemory = 3; // the descriptor's number
 
-enum class Format : std::uint32_t { Avif, Jxl };
+enum class Format : std::uint32_t { Avif, Jxl, Webp, LosslessWebp };
 
 /// Followed by the W times H pixels, red, green and blue, then the EXIF from its byte order mark on, the XMP, and
 /// the profile of the pixels where they aren't in sRGB.
 struct Request {
     Format format;
     std::uint32_t width, height;
-    std::uint32_t quality; // 1 to 100
+    std::uint32_t quality; // 0 to 100
     std::uint32_t threads;
     std::uint32_t exif, xmp, profile; // bytes
 

@@ -20,5 +20,6 @@ bool prepareAvif();
 bool encodeAvif(const Picture& picture);
 /// At quality 100 without loss.
 bool encodeJxl(const Picture& picture);
+bool encodeWebp(const Picture& picture);
 
 } // namespace velara::encode

@@ -1,4 +1,4 @@
-// velara-encode: makes one AVIF or JPEG XL file. Its libraries can't be interrupted in the middle of a picture; a
+// velara-encode: makes one AVIF, JPEG XL or WebP file. Its libraries can't be interrupted in the middle of a picture; a
 // process can, by its end. It works in the cage of the readers: what it gets is its memory and the pipe for the file.
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/encode/encoders.h"
@@ -61,7 +61,16 @@ bool encodeMemory()
     const std::uint8_t* exif = pixels + request.pixelBytes();
     const std::uint8_t *xmp = exif + request.exif, *profile = xmp + request.xmp;
     const Picture picture{request, pixels, {exif, request.exif}, {xmp, request.xmp}, {profile, request.profile}};
-    return request.format == Format::Avif ? encodeAvif(picture) : encodeJxl(picture);
+    switch (request.format) {
+    case Format::Avif:
+        return encodeAvif(picture);
+    case Format::Jxl:
+        return encodeJxl(picture);
+    case Format::Webp:
+    case Format::LosslessWebp:
+        return encodeWebp(picture);
+    }
+    return false;
 }
 
 } // namespace

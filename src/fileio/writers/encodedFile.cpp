@@ -1,12 +1,12 @@
-// AVIF and JPEG XL, made by a velara-encode, which is ended when nobody wants the file any more.
+#include "fileio/writers/encodedFile.h"
 #include "fileio/cameraData.h"
-#include "fileio/encode/EncodeProtocol.h"
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/PictureLoader.h"
 #include "fileio/writers/packRows.h"
 #include "fileio/writers/pictureFiles.h"
 #include "pixels/threads/parallelFor.h"
 #include <QFile>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -16,6 +16,8 @@
 #include <spawn.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace velara {
@@ -25,12 +27,23 @@ namespace {
 using encode::Format, encode::Request;
 constexpr int kAskEvery = 20; // milliseconds
 
+/// Pages for all bytes of the file; in pieces, as that is long work, too.
+bool allocate(int memory, std::size_t size, ByteSink& to)
+{
+    constexpr std::size_t kPiece = 4 << 20;
+    for (std::size_t at = 0; at < size; at += kPiece)
+        if (!to.goesOn() ||
+            posix_fallocate(memory, static_cast<off_t>(at), static_cast<off_t>(std::min(kPiece, size - at))) != 0)
+            return false;
+    return true;
+}
+
 /// The request and all that follows it; invalid when there is no memory for it.
 Descriptor memoryFor(const Bits& picture, Request request, const CameraData& camera, ByteSink& to)
 {
     const std::size_t size = request.bytes();
     Descriptor memory(memfd_create("velara-encode", MFD_CLOEXEC));
-    if (memory.get() < 0 || posix_fallocate(memory.get(), 0, static_cast<off_t>(size)) != 0) return Descriptor();
+    if (memory.get() < 0 || !allocate(memory.get(), size, to)) return Descriptor();
     void* mapped = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, memory.get(), 0);
     if (mapped == MAP_FAILED) return Descriptor();
     auto* at = static_cast<std::uint8_t*>(mapped);
@@ -84,6 +97,28 @@ bool take(int pipe, ByteSink& to)
     }
 }
 
+/// Its exit status; -1 when it was ended.
+int waitFor(pid_t pid)
+{
+    int status = 0;
+    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// Ends the process without waiting for it: to take down its memory lasts longer than an answer to Esc may.
+void end(pid_t pid)
+{
+    kill(pid, SIGKILL);
+    try {
+        std::thread([pid] { waitFor(pid); }).detach();
+    } catch (const std::system_error&) {
+        waitFor(pid);
+    }
+}
+
+} // namespace
+
 bool writeEncoded(const Bits& picture, Format format, int quality, ByteSink& to, const CameraData& carried)
 {
     const CameraData camera = inExif(carried);
@@ -104,15 +139,10 @@ bool writeEncoded(const Bits& picture, Format format, int quality, ByteSink& to,
     const pid_t pid = start(memory.get(), writing.get());
     if (pid < 0) return false;
     writing.close(); // the child's alone, so that its end is seen
-    const bool taken = take(reading.get(), to);
-    if (!taken) kill(pid, SIGKILL);
-    int status = 0;
-    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
-    }
-    return taken && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    if (take(reading.get(), to)) return waitFor(pid) == 0;
+    end(pid);
+    return false;
 }
-
-} // namespace
 
 bool writeAvif(const Bits& picture, int quality, ByteSink& to, const CameraData& camera)
 {

@@ -3,6 +3,7 @@
 // ms.
 #pragma once
 #include "fileio/disk/OutputFile.h"
+#include "fileio/writers/WebpForm.h"
 #include "reduce/reduceColours.h"
 #include "seams/CameraData.h"
 
@@ -45,15 +46,10 @@ int percentOf(int quality);
 /// camera wrote is left out where it is too long for a segment of 65533 bytes; an XMP packet loses its padding first.
 bool writeJpeg(const Bits& picture, int quality, ByteSink& to, const CameraData& camera = {});
 
-/// quality 0 to 100; of a lossless one it is the effort.
-struct WebpForm {
-    int quality = 75;
-    bool lossless = false;
-};
 /// Whether the format can hold it: at most 16383 pixels a side.
 bool fitsWebp(const Bits& picture);
 /// The chroma of one that isn't lossless is at half the width and height. Resolution, comment and IPTC stand in the
-/// EXIF.
+/// EXIF. Pictures of more than 2^20 pixels are made by a velara-encode.
 bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& camera = {});
 
 /// By a velara-encode, which is ended when goesOn() says no; quality 1 to 100. It gets a copy of the pixels, three

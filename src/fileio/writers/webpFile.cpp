@@ -1,71 +1,20 @@
-// WebP by libwebp, which is asked for its progress and ends where it is told so.
+// WebP: small pictures here, larger ones by a velara-encode.
 #include "fileio/cameraData.h"
+#include "fileio/writers/WebpEncoder.h"
+#include "fileio/writers/encodedFile.h"
 #include "fileio/writers/pictureFiles.h"
-#include <memory>
-#include <webp/encode.h>
-#include <webp/mux.h>
 
 namespace velara {
 
 namespace {
 
-/// A picture of the library, and the bytes that it becomes. They are kept until the end: the library goes back in them.
-struct WebpEncoder {
-    WebPConfig config;
-    WebPPicture picture;
-    WebPMemoryWriter bytes;
-    WebPData muxed{};
+/// More pixels than this are encoded by a process that can be ended: the steps between two of the library's percents
+/// are a hundredth of the picture and more.
+constexpr std::int64_t kMostPixelsHere = 1 << 20;
 
-    WebpEncoder()
-    {
-        WebPConfigInit(&config);
-        WebPPictureInit(&picture);
-        WebPMemoryWriterInit(&bytes);
-    }
-    ~WebpEncoder()
-    {
-        WebPDataClear(&muxed);
-        WebPMemoryWriterClear(&bytes);
-        WebPPictureFree(&picture);
-    }
-    WebpEncoder(const WebpEncoder&) = delete;
-    WebpEncoder& operator=(const WebpEncoder&) = delete;
-
-    bool encode(const Bits& bits, const WebpForm& form, ByteSink& to);
-    bool mux(const CameraData& camera);
-};
-
-bool WebpEncoder::encode(const Bits& bits, const WebpForm& form, ByteSink& to)
+std::span<const std::uint8_t> spanOf(const QByteArray& bytes)
 {
-    if (form.lossless && !WebPConfigLosslessPreset(&config, form.quality / 12)) return false; // its levels are 0 to 9
-    if (!form.lossless) config.quality = static_cast<float>(form.quality);
-    picture.use_argb = form.lossless;
-    picture.width = bits.width();
-    picture.height = bits.height();
-    picture.writer = WebPMemoryWrite;
-    picture.custom_ptr = &bytes;
-    picture.progress_hook = [](int, const WebPPicture* of) -> int {
-        return static_cast<ByteSink*>(of->user_data)->goesOn();
-    };
-    picture.user_data = &to;
-    return WebPPictureImportBGRX(&picture, bits.row(0)->c, static_cast<int>(bits.stride() * 4)) &&
-           WebPEncode(&config, &picture);
-}
-
-/// Puts the picture and what the camera wrote into a container.
-bool WebpEncoder::mux(const CameraData& camera)
-{
-    const std::unique_ptr<WebPMux, void (*)(WebPMux*)> file(WebPMuxNew(), WebPMuxDelete);
-    const WebPData image{bytes.mem, bytes.size};
-    bool put = file && WebPMuxSetImage(file.get(), &image, 0) == WEBP_MUX_OK;
-    const auto add = [&](const char* chunk, const QByteArray& of) {
-        const WebPData data{reinterpret_cast<const std::uint8_t*>(of.constData()), static_cast<std::size_t>(of.size())};
-        put = put && (of.isEmpty() || WebPMuxSetChunk(file.get(), chunk, &data, 0) == WEBP_MUX_OK);
-    };
-    add("ICCP", camera.profile);
-    add("EXIF", camera.exif);
-    add("XMP ", camera.xmp);
-    return put && WebPMuxAssemble(file.get(), &muxed) == WEBP_MUX_OK;
+    return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
 }
 
 } // namespace
@@ -77,12 +26,17 @@ bool fitsWebp(const Bits& picture)
 
 bool writeWebp(const Bits& picture, const WebpForm& form, ByteSink& to, const CameraData& carried)
 {
+    using encode::Format;
+    if (!fitsWebp(picture)) return false;
+    if (std::int64_t{picture.width()} * picture.height() > kMostPixelsHere)
+        return writeEncoded(picture, form.lossless ? Format::LosslessWebp : Format::Webp, form.quality, to, carried);
     const CameraData camera = inExif(carried);
-    WebpEncoder encoder;
-    if (!fitsWebp(picture) || !encoder.encode(picture, form, to)) return false;
-    if (camera.exif.isEmpty() && camera.xmp.isEmpty() && camera.profile.isEmpty())
-        return to.write(encoder.bytes.mem, encoder.bytes.size);
-    return encoder.mux(camera) && to.write(encoder.muxed.bytes, encoder.muxed.size);
+    WebpEncoder encoder(form);
+    return encoder.takeBgrx(picture.row(0)->c, picture.width(), picture.height(),
+                            static_cast<int>(picture.stride() * 4)) &&
+           encoder.encode([&to] { return to.goesOn(); }) &&
+           encoder.finish(spanOf(camera.exif), spanOf(camera.xmp), spanOf(camera.profile)) &&
+           to.write(encoder.file().data(), encoder.file().size());
 }
 
 } // namespace velara
