@@ -2,7 +2,8 @@
 """wayland_user.py WIDTH HEIGHT: a mouse and a keyboard (US) for the compositor of WAYLAND_DISPLAY, whose screens have this size
 together, in its own pixels. Commands come by standard input, one a line; each is answered by a line when the compositor has it:
 move X Y; down BUTTON; up BUTTON; key NAME...; type TEXT; held NAME, freed NAME (keys); wheel STEPS (down is positive);
-ping SOCKET: when the editor that listens there has looked at its events, too."""
+token: the answer is the right to bring a window to the front; ping SOCKET: when the editor that listens there has looked at its
+events, too."""
 import os
 import socket
 import struct
@@ -15,7 +16,7 @@ KEYMAP = b"""xkb_keymap { xkb_keycodes { include "evdev" }; xkb_types { include 
 xkb_symbols { include "pc+us+inet(evdev)" }; };\0"""
 MODIFIERS = {"shift": (42, 1), "ctrl": (29, 4), "alt": (56, 8)}  # key, and bit of the state
 NAMES = dict(Escape=1, BackSpace=14, Tab=15, Return=28, space=57, minus=12, equal=13, plus=(13, "shift"), slash=53, Delete=111,
-             Left=105, Right=106, Up=103, Down=108, Home=102, End=107, Page_Up=104, Page_Down=109, F10=68, F11=87, F12=88,
+             Left=105, Right=106, Up=103, Down=108, Home=102, End=107, Prior=104, Next=109, F10=68, F11=87, F12=88,
              **{f"F{n}": 58 + n for n in range(1, 10)})
 ROWS = ((2, "1234567890-=", "!@#$%^&*()_+"), (16, "qwertyuiop[]", "QWERTYUIOP{}"), (30, "asdfghjkl;'`", 'ASDFGHJKL:"~'),
         (43, "\\zxcvbnm,./", "|ZXCVBNM<>?"), (57, " ", " "))
@@ -36,7 +37,7 @@ class Compositor:
         self.wire = socket.socket(socket.AF_UNIX)
         path = os.environ["WAYLAND_DISPLAY"]
         self.wire.connect(path if path.startswith("/") else os.path.join(os.environ["XDG_RUNTIME_DIR"], path))
-        self.last, self.globals, self.buffer = 1, {}, b""
+        self.last, self.token, self.globals, self.buffer = 1, None, {}, b""
         self.registry = self.new()
         self.send(1, 1, struct.pack("I", self.registry))
         self.sync()
@@ -54,7 +55,14 @@ class Compositor:
         self.send(self.registry, 0, struct.pack("I", self.globals[interface]) + text(interface) + struct.pack("II", 1, made))
         return made
 
+    def activation(self):
+        manager, self.token = self.bind("xdg_activation_v1"), self.new()
+        self.send(manager, 1, struct.pack("I", self.token))
+        self.send(self.token, 3)
+        return self.sync()
+
     def sync(self):
+        """Until everything sent before is done, or a token has come, which is the result."""
         answer = self.new()
         self.send(1, 0, struct.pack("I", answer))
         while True:
@@ -68,7 +76,9 @@ class Compositor:
             if sender == 1 and head & 0xffff == 0:
                 sys.exit(f"the compositor refuses: {message!r}")
             if sender == answer:
-                return
+                return None
+            if sender == self.token and head & 0xffff == 0:
+                return message[4:].rstrip(b"\0").decode()
             if sender == self.registry and head & 0xffff == 0:
                 name, length = struct.unpack_from("II", message)
                 self.globals[message[8:7 + length].decode()] = name
@@ -146,6 +156,9 @@ class User:
         for c in " ".join(words):
             self.tap(CODES.get(c) or SHIFTED[c], [] if c in CODES else ["shift"])
 
+    def token(self):
+        return self.compositor.activation()
+
     def ping(self, path):
         try:
             editor = dbus.connection.Connection("unix:path=" + path)
@@ -161,6 +174,6 @@ print("ready", flush=True)
 for line in sys.stdin:
     command, *arguments = line.rstrip("\n").split(" ")
     user.compositor.sync()
-    getattr(user, command)(*arguments)
+    answer = getattr(user, command)(*arguments)
     user.compositor.sync()
-    print("done", flush=True)
+    print(answer or "done", flush=True)
