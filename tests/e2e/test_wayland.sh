@@ -92,3 +92,22 @@ until_true "its picture" documents 5
 grep -q "xdg_activation_v1@.*activate(\"$token\"" "$scratch/log" || fail "by another right than the launcher's"
 shot opened
 quit
+
+# On a screen of twice the scale each pixel of a picture is four of the screen's, unblurred.
+swaymsg output HEADLESS-1 scale 2 >/dev/null
+layout 640 450
+convert -size 60x40 xc: +noise Random -depth 8 -type truecolor "$scratch/noise.png"
+convert "$scratch/noise.png" -sample 200% -depth 8 "rgb:$scratch/noise.rgb"
+start
+open_file "$scratch/noise.png"
+sharp() {
+    screen "$scratch/fine.png" && convert "$scratch/fine.png" -depth 8 "rgb:$scratch/fine.rgb" && python3 - "$scratch" <<'END'
+import sys
+shot, noise = (open(f"{sys.argv[1]}/{name}.rgb", "rb").read() for name in ("fine", "noise"))
+at, line, row = shot.find(noise[:360]), 1280 * 3, 120 * 3
+sys.exit(at < 0 or any(shot[at + y * line:at + y * line + row] != noise[y * row:(y + 1) * row] for y in range(80)))
+END
+}
+until_true "the picture's own pixels" sharp
+shot fine
+quit
