@@ -20,7 +20,7 @@ seed=${VELARA_SEED:-$(od -An -N2 -tu2 /dev/urandom | tr -d ' ')} # of what is ra
 finish() {
     status=$?
     trap - EXIT
-    if [ "$status" != 0 ] && [ -n "${E2E_SHOTS:-}" ]; then import -window root "$E2E_SHOTS/$(basename "$0").png" || true; fi
+    if [ "$status" != 0 ] && [ -n "${E2E_SHOTS:-}" ]; then screen "$E2E_SHOTS/$(basename "$0").png" || true; fi
     for pid in $pids; do kill "$pid" 2>/dev/null && kill -CONT "$pid" 2>/dev/null || true; done
     if grep -E 'ERROR: AddressSanitizer|runtime error:' "$scratch"/log* >&2 2>/dev/null; then status=99; fi
     wait 2>/dev/null || true
@@ -31,49 +31,35 @@ trap finish EXIT
 
 fail() {
     echo "FAILED: $* (VELARA_SEED=$seed)" >&2
-    cat "$scratch/log" >&2 2>/dev/null || true
+    tail -n 60 "$scratch/log" >&2 2>/dev/null || true
+    windows >&2
     exit 1
 }
 
 # until WHAT COMMAND...: waits for the command to succeed, with a generous limit for loaded machines
 until_true() {
     what=$1
-    patience=$(($(date +%s) + 120))
+    patience=$(($(date +%s) + ${E2E_PATIENCE:-120}))
     shift
     until "$@" >/dev/null 2>&1; do
         [ "$(date +%s)" -lt "$patience" ] || fail "waited in vain: $what"
         sleep 0.05
     done
 }
-# Waits until the window manager and the editor have processed everything sent to them so far.
-settled() { "$bin/settled" "$main" || fail "the editor doesn't answer"; }
 # noise BYTES: seeded random bytes
 noise() { python3 -c 'import random as r, sys; r.seed(int(sys.argv[1])); sys.stdout.buffer.write(r.randbytes(int(sys.argv[2])))' "$seed" "$1"; }
 
-# -noreset: a server that resets when its last client leaves disconnects a window manager that is just connecting.
-Xvfb -noreset -displayfd 3 -screen 0 "${E2E_SCREEN:-1280x900}x24" 3>"$scratch/display" >/dev/null 2>&1 &
-pids="$pids $!"
-until_true "a display" test -s "$scratch/display"
-DISPLAY=:$(cat "$scratch/display")
-export DISPLAY
-openbox >/dev/null 2>&1 &
-pids="$pids $!"
-until_true "a window manager" sh -c "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'"
-
 running() { kill -0 "$editor" 2>/dev/null; }
 gone() { ! running; }
-has_window() { xdotool search --onlyvisible --name "$1"; }
 no_window() { ! has_window "$1"; }
-# Whether the window with that title has the focus
-has_keys() { xdotool getactivewindow getwindowname | grep -q "$1"; }
-frame_has_keys() { [ "$(xdotool getactivewindow)" = "$main" ]; }
 box_has_keys() { has_keys '^Velara Studio' && ! frame_has_keys; }
 
-# The editor's windows with the frame's title: the frame and its boxes
-titled() { xdotool search --all --onlyvisible --pid "$editor" --name '^Velara Studio' 2>/dev/null; }
 count_titled() { [ "$(titled | wc -l)" = "$1" ]; }
 # The frame's window, while no box is open
 frame() { titled | head -1; }
+# The desktop: the same names for both kinds, and skipped (77) where the programs for it are missing
+. "$(dirname "$0")/lib_${E2E_DESKTOP:-x11}.sh"
+
 # Whether there are so many undo files, of so many documents
 undo_files() { [ "$(find "$folder/Temp" -name 'b*.dat' | wc -l)" = "$1" ]; }
 documents() { [ "$(find "$folder/Temp" -name 'b*00.dat' | wc -l)" = "$1" ]; }
@@ -104,21 +90,15 @@ start_plain() {
 
 # tool COLUMN ROW: presses a button of the strip
 tool() {
-    xdotool mousemove --window "$(frame)" $((24 + $1 * 34)) $((40 + $2 * 31)) click 1
+    point $(in_frame $((24 + $1 * 34)) $((40 + $2 * 31)))
+    press 1
+    release 1
     settled
-}
-
-# offer TYPE FILE: puts it on the clipboard as another program
-offer() {
-    xclip -selection clipboard -t "$1" -i -quiet "$2" >/dev/null 2>&1 &
-    owner=$!
-    pids="$pids $owner"
-    until_true "the offer" sh -c "xclip -selection clipboard -t TARGETS -o | grep -q '$1'"
 }
 
 keys() {
     for key in "$@"; do
-        xdotool key --clearmodifiers "$key"
+        send_key "$key"
         settled
     done
 }
@@ -135,8 +115,8 @@ brings() {
 
 # enter TEXT: replaces the text in the field, then Return
 enter() {
-    xdotool key ctrl+a
-    xdotool type --delay 4 "$1"
+    send_key ctrl+a
+    write "$1"
     settled
     keys Return
 }
@@ -151,14 +131,15 @@ told() {
 
 # stroke X Y X Y...: drags with the left button from the first screen position to the last
 stroke() {
-    xdotool mousemove "$1" "$2" mousedown 1
+    point "$1" "$2"
+    press 1
     while [ $# -gt 2 ]; do
         shift 2
         settled
-        xdotool mousemove "$1" "$2"
+        point "$1" "$2"
     done
     settled
-    xdotool mouseup 1
+    release 1
     settled
 }
 

@@ -6,9 +6,9 @@ open_large() {
     start_plain maximized
     open_file "$1"
     keys ctrl+plus ctrl+plus ctrl+plus
-    xdotool mousemove 600 20
+    point 600 20
     settled
-    import -window root "$scratch/screen.png"
+    screen "$scratch/screen.png"
     box=$(convert "$scratch/screen.png" -fill "$2" -opaque "${3:-$2}" -fill black +opaque "$2" -format '%@' info:)
     [ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ] || fail "the picture is $box on the screen"
     left=$(echo "$box" | cut -d+ -f2) top=$(echo "$box" | cut -d+ -f3)

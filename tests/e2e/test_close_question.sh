@@ -61,7 +61,8 @@ launch
 offered() { main=$(frame) && [ -n "$main" ] && has_keys '^Recover Pictures$'; }
 until_true "the offer" offered
 keys alt+r
-until_true "the picture" sh -c "xdotool getwindowname $main | grep -q own.bmp"
+shows_own() { frame_title | grep -q own.bmp; }
+until_true "the picture" shows_own
 until_true "the frame's keys" frame_has_keys
 undo_files 2 || fail "the steps did not come with it"
 keys alt+l i ctrl+q

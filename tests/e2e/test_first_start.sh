@@ -15,7 +15,8 @@ has_configuration
 start
 
 # Three quarters of the screen, with the boxes inside.
-until_true "the frame's size" sh -c "xdotool getwindowgeometry '$main' | grep -q 'Geometry: 960x675'"
+has_size() { [ "$(frame_size)" = 960x675 ]; }
+until_true "the frame's size" has_size
 settled
 ! has_window '^Select Color' || fail "a box floats at a first start"
 

@@ -27,8 +27,8 @@ recover() {
     until_true "the offer, or an empty folder" offered
     if work_left >/dev/null 2>&1; then
         recovered=$((recovered + 1))
-        [ -z "${E2E_SHOTS:-}" ] || import -window root "$E2E_SHOTS/offer.png"
-        xdotool key alt+r
+        [ -z "${E2E_SHOTS:-}" ] || screen "$E2E_SHOTS/offer.png"
+        send_key alt+r
         until_true "the frame's keys" frame_has_keys
         save_as "$scratch/again.bmp"
         same "$scratch/again.bmp" "$scratch/one.bmp" || same "$scratch/again.bmp" "$scratch/other.bmp" || fail "round $round: recovered another picture"

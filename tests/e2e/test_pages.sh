@@ -4,7 +4,7 @@
 convert -size 60x40 xc:red xc:lime xc:blue "$scratch/scan.tif"
 convert -size 60x40 xc:lime "$scratch/wanted.png"
 cp "$scratch/scan.tif" "$scratch/before.tif"
-shot() { [ -z "${E2E_SHOTS:-}" ] || import -window root "$E2E_SHOTS/pages_$1.png"; }
+shot() { [ -z "${E2E_SHOTS:-}" ] || screen "$E2E_SHOTS/pages_$1.png"; }
 start
 open_file "$scratch/scan.tif"
 keys ctrl+Next

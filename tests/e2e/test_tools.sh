@@ -30,10 +30,13 @@ done
 
 # Moves queued while the editor is busy are not merged: the corner of the stroke is kept.
 tool 0 2
-xdotool mousemove $(over 5 40) mousedown 1
+point $(over 5 40)
+press 1
 settled
 kill -STOP "$editor"
-xdotool mousemove $(over 20 5) mousemove $(over 40 40) mouseup 1
+point $(over 20 5)
+point $(over 40 40)
+release 1
 kill -CONT "$editor"
 saved 1
 is 1 20 5 "$white"
@@ -60,11 +63,14 @@ back
 
 # The right button undoes a drag, without a step.
 tool 0 1
-xdotool mousemove $(over 4 4) mousedown 1 mousemove $(over 40 30)
+point $(over 4 4)
+press 1
+point $(over 40 30)
 settled
-xdotool mousedown 3 mouseup 3
+press 3
+release 3
 settled
-xdotool mouseup 1
+release 1
 settled
 [ ! -e "$(step 1)" ] || fail "the right button has left a step"
 

@@ -1,4 +1,5 @@
 #include "app/frame/fHover.h"
+#include "platform/desktop/front.h"
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
@@ -48,30 +49,43 @@ void fHover::show()
     if (last) last->close();
     last = pane_ = make_();
     if (!pane_) return;
-    constexpr int kApart = 4;
-    pane_->adjustSize();
-    const QRect buttons = onScreen(button_->parentWidget());
-    QRect at(QPoint(buttons.right() + kApart, onScreen(button_).top()), pane_->size());
-    if (const QScreen* screen = button_->screen()) {
-        const QRect all = screen->availableGeometry();
-        if (at.right() > all.right()) at.moveRight(buttons.left() - kApart);
-        at.moveBottom(std::min(at.bottom(), all.bottom()));
-    }
-    pane_->move(at.topLeft());
+    place();
     pane_->show();
     look_.start();
 }
 
-/// The pointer counts as near on the button, on the pane, and between them.
+/// Where windows can't be placed the pane is a part of the button's window.
+void fHover::place()
+{
+    constexpr int kApart = 4;
+    QWidget* const window = button_->window();
+    if (!windowsCanBePlaced()) {
+        pane_->setParent(window, Qt::Widget);
+        pane_->setAttribute(Qt::WA_NoMousePropagation);
+        pane_->setAutoFillBackground(true);
+        pane_->raise();
+    }
+    pane_->adjustSize();
+    const QRect buttons = onScreen(button_->parentWidget());
+    QRect at(QPoint(buttons.right() + kApart, onScreen(button_).top()), pane_->size());
+    const QRect all = pane_->isWindow() ? button_->screen()->availableGeometry() : onScreen(window);
+    if (at.right() > all.right()) at.moveRight(buttons.left() - kApart);
+    at.moveBottom(std::min(at.bottom(), all.bottom()));
+    pane_->move(pane_->isWindow() ? at.topLeft() : window->mapFromGlobal(at.topLeft()));
+}
+
+/// The pointer counts as near on the button, on the pane, and between them. Over another program's window its place is
+/// not known everywhere.
 void fHover::closeIfLeft()
 {
     constexpr int kNear = 16;
     if (!pane_) return look_.stop();
-    const QRect button = onScreen(button_), pane = pane_->geometry();
+    const QRect button = onScreen(button_), pane = onScreen(pane_);
     const QRect way = button | QRect(pane.left(), button.top(), 1, button.height());
+    const bool isKnown = pane_->isWindow() || button_->window()->underMouse();
     const bool near =
         way.contains(QCursor::pos()) || pane.adjusted(-kNear, -kNear, kNear, kNear).contains(QCursor::pos());
-    if (near || QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
+    if ((near && isKnown) || QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget() ||
         QApplication::activeModalWidget())
         return;
     look_.stop();

@@ -12,7 +12,7 @@ class fHover final : public QObject {
     Q_OBJECT
   public:
     /// Owned by the button, which is one of several in its parent. make returns a new pane, a window that is deleted
-    /// when it closes.
+    /// when it closes; it becomes a part of the button's window where windows can't be placed.
     fHover(QWidget* button, std::function<QWidget*()> make);
 
   protected:
@@ -20,6 +20,7 @@ class fHover final : public QObject {
 
   private:
     void show();
+    void place();
     void closeIfLeft();
     QRect onScreen(const QWidget* widget) const;
 

@@ -131,6 +131,8 @@ bool Bars::loadLayout()
     const QByteArray stored = QByteArray::fromBase64(machine_.setting(kSection, "Layout", "").toLatin1());
     const bool isWhole = window_.restoreState(stored, kLayoutVersion);
     if (!isWhole) window_.restoreState(stored, kWithoutBoxes);
+    for (QToolBar* bar : bars_) // stored on another desktop
+        if (bar->isFloating() && !bar->isFloatable()) window_.addToolBar(bar);
     showBars(); // the configuration determines which bars are shown
     return isWhole;
 }

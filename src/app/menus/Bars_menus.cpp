@@ -2,6 +2,7 @@
 #include "app/menus/Bars.h"
 #include "app/menus/menus.h"
 #include "commands/vocabulary.h"
+#include "platform/desktop/front.h"
 #include "seams/text.h"
 #include "ui/widgets/inputs/named.h"
 #include <QHash>
@@ -128,6 +129,7 @@ void Bars::buildToolbars()
     for (const BarRow& row : barRows()) {
         auto* bar = named(new QToolBar(shown("Menus", row.caption), &window_), text(row.name));
         bar->setIconSize({22, 22});
+        bar->setFloatable(windowsCanBePlaced());
         fillToolbar(bar, row.buttons);
         bars_[index++] = bar;
     }

@@ -1,8 +1,8 @@
 #include "app/menus/Boxes.h"
 #include "app/menus/Bars.h"
+#include "platform/desktop/front.h"
 #include "seams/Setup.h"
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -58,6 +58,7 @@ class Dock final : public QDockWidget {
     {
         setObjectName("dock_" + box->objectName());
         setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+        if (!windowsCanBePlaced()) setFeatures(DockWidgetClosable | DockWidgetMovable); // it would lie over the tools
         setWidget(new Room(box));
         widget()->setWindowFlags(Qt::SubWindow); // its access keys are its own: those of the menus stay the menus'
         connect(box, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
@@ -88,9 +89,6 @@ class Dock final : public QDockWidget {
     bool hasFloated_ = false;
     std::function<void()> crossed_;
 };
-
-/// On Wayland a window stands where the desktop puts it, and a box would lie over the frame's tools.
-bool windowsCanBePlaced() { return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland")); }
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "platform/desktop/front.h"
 #include "platform/desktop/x11.h"
+#include <QGuiApplication>
 #include <QWidget>
 
 namespace velara {
@@ -13,5 +14,7 @@ void bringToFront(QWidget& window, const ActivationToken& token)
     if (!x11Activate(std::uint32_t(window.winId()), token.startupId.toUtf8())) window.activateWindow();
     qunsetenv("XDG_ACTIVATION_TOKEN");
 }
+
+bool windowsCanBePlaced() { return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland")); }
 
 } // namespace velara
