@@ -1,5 +1,6 @@
 #include "document/undo/TileSums.h"
 #include <algorithm>
+#define XXH_INLINE_ALL // many short pieces: calls would take half of the time
 #include <xxhash.h>
 
 namespace velara {
