@@ -115,7 +115,7 @@ bool UndoStore::Series::writeWhole(int index, const Bits& bits) const
 bool UndoStore::Series::writeOver(int below, State& state, const Bits& bits) const
 try {
     const State& base = of(below);
-    if (bits.sizeInBytes() < rules.smallest || base.picture || base.sums.grid() != state.sums.grid()) return false;
+    if (bits.sizeInBytes() < rules.smallest || base.sums.grid() != state.sums.grid()) return false;
     const std::vector<std::uint32_t> tiles = state.sums.differing(base.sums);
     const std::int64_t size = base.tileBytes + tileFileSize(state.sums.grid(), tiles.size());
     if (base.tileFiles >= rules.most || size > static_cast<std::int64_t>(bits.sizeInBytes()) / rules.share)
