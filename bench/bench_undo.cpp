@@ -10,56 +10,117 @@
 namespace velara::bench {
 namespace {
 
+/// A series of whole pictures: no two states after each other have a tile in common.
 struct Series {
     QTemporaryDir folder;
     UndoStore store{folder.path(), 1};
+    Bits next, other;
+
+    explicit Series(Size size) : next(picture(size)), other(next)
+    {
+        std::uint8_t* byte = other.data();
+        for (std::size_t i = 0; i < other.sizeInBytes(); ++i) byte[i] = static_cast<std::uint8_t>(~byte[i]);
+    }
     ~Series() { store.deleteSeries(); }
+    void save()
+    {
+        store.save(next);
+        std::swap(next, other);
+    }
 };
 
-Row row(std::string name, double must, double goal, int snapshots, void (*body)(UndoStore&, const Bits&))
+Row row(std::string name, double must, double goal, int snapshots, void (*body)(Series&))
 {
     return {"undo store", std::move(name), must, goal, [=](Size size) {
-                const auto series = std::make_shared<Series>();
-                const Bits bits = picture(size);
-                for (int i = 0; i < snapshots; ++i) series->store.save(bits);
+                const auto series = std::make_shared<Series>(size);
+                for (int i = 0; i < snapshots; ++i) series->save();
                 series->store.stands();
-                return Timing{[=] { body(series->store, bits); }, {}};
+                return Timing{[=] { body(*series); }, {}};
             }};
 }
+
+/// A document in the hand of a tool.
+struct Stroke {
+    QTemporaryDir folder;
+    Document document{folder.path(), 1};
+    cBitFilter filter;
+    PreviewBuffer preview{document, filter};
+
+    explicit Stroke(Size size)
+    {
+        document.takePicture(picture(size));
+        document.handTo(filter);
+        document.SaveUndoBits();
+    }
+    ~Stroke() { document.undo.deleteSeries(); }
+    void paint(int y, Colour colour)
+    {
+        preview.begin();
+        for (int i = 0; i < 12; ++i) document.paint.BitsLine(100, y + i, 1100, y + 600 + i, colour, 100);
+    }
+    void release()
+    {
+        preview.commit();
+        document.SaveUndoBits();
+    }
+};
 
 /// The cost of releasing the button: the stroke goes to the engine and its snapshot is queued. The previous one has
 /// been written long before, as in real use.
 Row release()
 {
-    struct Stroke {
-        QTemporaryDir folder;
-        Document document{folder.path(), 1};
-        cBitFilter filter;
-        PreviewBuffer preview{document, filter};
-        double longest = 0;
-        ~Stroke() { document.undo.deleteSeries(); }
-    };
     return {"undo store",
             "release of a stroke",
             16,
             4,
             [](Size size) {
-                const auto s = std::make_shared<Stroke>();
-                s->document.takePicture(picture(size));
-                s->document.handTo(s->filter);
-                s->document.SaveUndoBits();
+                const auto s = std::make_shared<Stroke>(size);
                 const auto press = [s] {
                     s->document.undo.stands();
-                    s->preview.begin();
-                    s->document.paint.BitsLine(100, 100, 1100, 700, 0xFF, 100);
+                    s->paint(100, 0xFF);
                 };
-                const auto release = [s] {
-                    s->preview.commit();
-                    s->document.SaveUndoBits();
-                };
-                return Timing{release, {}, 1, press};
+                return Timing{[s] { s->release(); }, {}, 1, press};
             },
             "ms"};
+}
+
+/// Until all is on the disk, or in the page cache; no two strokes are alike.
+Row strokes()
+{
+    return {"undo store",
+            "twelve strokes until they are written",
+            400,
+            250,
+            [](Size size) {
+                const auto s = std::make_shared<Stroke>(size);
+                const auto colour = std::make_shared<Colour>();
+                const auto work = [s, colour, size] {
+                    for (int i = 0; i < 12; ++i) {
+                        s->paint(100 + i * (size.height - 900) / 12, ++*colour);
+                        s->release();
+                    }
+                    s->document.undo.stands();
+                };
+                return Timing{work, {}, 1, [s] { s->document.undo.stands(); }};
+            },
+            "ms"};
+}
+
+/// Back and forward over a stroke.
+Row strokeBack()
+{
+    return {"undo store", "stroke undone or redone", 3, 1.6, [](Size size) {
+                const auto s = std::make_shared<Stroke>(size);
+                for (int i = 0; i < 8; ++i) {
+                    s->paint(100 + i * 20, i + 1);
+                    s->release();
+                }
+                s->document.undo.stands();
+                return Timing{[s] {
+                                  if (!s->document.undo.undo()) s->document.undo.redo();
+                              },
+                              {}};
+            }};
 }
 
 Row previews()
@@ -80,15 +141,17 @@ Row previews()
 
 const Rows undo{
     row("snapshot written, ten stand", 3, 1.8, 10,
-        [](UndoStore& store, const Bits& bits) {
-            store.save(bits);
-            store.stands();
+        [](Series& series) {
+            series.save();
+            series.store.stands();
         }),
     row("read back", 3, 1.3, 3,
-        [](UndoStore& store, const Bits&) {
-            if (!store.undo()) store.redo();
+        [](Series& series) {
+            if (!series.store.undo()) series.store.redo();
         }),
     release(),
+    strokes(),
+    strokeBack(),
     previews(),
 };
 

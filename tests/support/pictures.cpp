@@ -12,6 +12,17 @@ Bits randomBits(int width, int height, std::uint32_t seed)
     return bits;
 }
 
+void drawStroke(Bits& bits, std::uint32_t seed)
+{
+    std::mt19937 random(seed);
+    const auto upTo = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    const int left = upTo(bits.width() + 1) - 2, top = upTo(bits.height() + 1) - 2;
+    const int right = std::min(left + 1 + upTo(9), bits.width() + 2), bottom = std::min(top + 6, bits.height() + 2);
+    for (int y = top; y < bottom; ++y)
+        for (int x = left; x < right; ++x)
+            for (std::uint8_t& c : bits.at(x, y).c) c = static_cast<std::uint8_t>(random());
+}
+
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth)
 {
     return drawnBits(width, height, [&](int, int) { return Pixel{{blue, green, red, fourth}}; });

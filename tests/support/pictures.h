@@ -8,6 +8,8 @@ namespace velara {
 
 /// Fills the whole buffer with random bytes, margin and fourth byte included.
 Bits randomBits(int width, int height, std::uint32_t seed);
+/// Fills a small rectangle somewhere with random bytes; it may reach into the margin.
+void drawStroke(Bits& bits, std::uint32_t seed);
 /// One colour 0xFFBBGGRR-like: fourth byte, blue, green, red from the high byte down; the margin stays 0.
 Bits flatBits(int width, int height, std::uint8_t blue, std::uint8_t green, std::uint8_t red, std::uint8_t fourth = 0);
 /// Each pixel is the function's value at x, y; the margin is 0.

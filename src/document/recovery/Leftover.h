@@ -1,7 +1,7 @@
 // Leftover: a document whose program died with something unsaved in it: its record, its snapshots, and their lock,
 // which this holds, so that no other program offers or takes it meanwhile.
 #pragma once
-#include "document/undo/UndoFiles.h"
+#include "document/undo/TileFile.h"
 #include "document/undo/UndoStore.h"
 #include <memory>
 #include <mutex>
@@ -34,8 +34,12 @@ class Leftover {
   private:
     Leftover(const QString& folder, int number, UndoMark mark);
     bool hasWork();
-    void locate();
-    void guess();
+    using Found = std::vector<std::optional<StateFile>>; // by index of a file
+    Found lookForFiles() const;
+    void locate(const Found& found);
+    void guess(const Found& found);
+    void takeRetired();
+    void dropUnsupported(const Found& found);
     bool isReadable(int state, Bits& bits) const;
 
     mutable std::mutex reading_;
@@ -44,9 +48,10 @@ class Leftover {
     UndoMark mark_;
     UndoRecord record_;
     RecordState state_ = RecordState::Missing;
-    std::vector<int> at_;  // of each state of the record: the index of its file; -1: lost
-    int undone_ = 0;       // states after the one that is shown now, which was to be shown
-    bool nothing_ = false; // no state can be read
+    std::vector<int> at_;       // of each state of the record: the index of its file; -1: lost
+    std::vector<int> groundAt_; // the same of its ground
+    int undone_ = 0;            // states after the one that is shown now, which was to be shown
+    bool nothing_ = false;      // no state can be read
 };
 
 } // namespace velara

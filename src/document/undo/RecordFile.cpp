@@ -77,7 +77,7 @@ class Settler {
         if (!written) return;
         const unsigned count = written->count;
         bool done = true;
-        for (int i = 0; i <= UndoStore::kLimit; ++i) done &= sync(item.files.name(i));
+        for (int i = 0; i < UndoFiles::kMost; ++i) done &= sync(item.files.name(i));
         done = done && sync(recordOf(item.files)) && sync(item.files.folder(), O_DIRECTORY);
         if (done && written->count == count) written->synced = count;
     }

@@ -36,7 +36,8 @@ class UndoFiles {
     /// overwritten; a failure does not stop the rest.
     void drop(int index, int last) const;
     void removeAll() const;
-    static constexpr int kMost = 100; // indices
+    static constexpr int kMost = 100;  // indices
+    static constexpr int kGround = 20; // the first of files that are no state any more, but that states rest on
 
   private:
     QString folder_;

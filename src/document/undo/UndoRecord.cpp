@@ -1,4 +1,6 @@
 #include "document/undo/UndoRecord.h"
+#include "document/undo/TileSums.h"
+#include "document/undo/UndoFiles.h"
 #include "document/undo/UndoStore.h"
 #include "fileio/disk/nativeName.h"
 #include <QCborArray>
@@ -14,7 +16,7 @@ namespace {
 
 constexpr char kMark[] = "VeluUndo"; // eight bytes; then the version and the checksum of the rest, little-endian
 constexpr qsizetype kMarkSize = 8, kHead = kMarkSize + 4 + 8;
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kVersion = 2; // 1: without tiles
 
 // --- A value in a map, both ways. Texts go as bytes: names of files may be no UTF-8.
 
@@ -78,6 +80,7 @@ requires std::same_as<std::remove_const_t<State>, KeptState>
 void eachField(State& s, Field field)
 {
     field("gap", s.gap), field("file", s.file), field("sum", s.sum);
+    field("side", s.side), field("isTiles", s.isTiles);
     auto& note = s.note;
     field("name", note.name), field("width", note.width), field("height", note.height);
     if (note.selection.isEmpty()) field("words", note.words); // without the place that they are for they are of no use
@@ -101,13 +104,15 @@ QByteArray bytesOf(const UndoRecord& record)
 {
     QCborMap texts;
     for (const auto& [index, kept] : record.about.texts) texts.insert(qint64(index), mapOf(kept));
-    QCborArray states;
+    QCborArray states, ground;
     for (const KeptState& state : record.states) states.append(mapOf(state));
+    for (const KeptState& state : record.ground) ground.append(mapOf(state));
     QCborMap map{{QLatin1String("file"), mapOf(record.about.file)},
                  {QLatin1String("isUnsaved"), record.about.isUnsaved},
                  {QLatin1String("texts"), texts},
                  {QLatin1String("step"), record.step},
                  {QLatin1String("states"), states},
+                 {QLatin1String("ground"), ground},
                  {QLatin1String("when"), put(record.when)}};
     const QByteArray body = map.toCborValue().toCbor();
     QByteArray bytes(kMark, kMarkSize);
@@ -127,9 +132,11 @@ RecordState recordFrom(const QByteArray& bytes, UndoRecord& record)
     QCborParserError error;
     const QCborValue value = QCborValue::fromCbor(body, &error);
     const QCborArray states = value[QLatin1String("states")].toArray();
+    const QCborArray ground = value[QLatin1String("ground")].toArray();
     const qint64 step = value[QLatin1String("step")].toInteger(-1);
     if (error.error != QCborError::NoError || states.size() > UndoStore::kLimit || step < 0 || step > states.size())
         return RecordState::Damaged;
+    if (ground.size() > UndoFiles::kMost - UndoFiles::kGround) return RecordState::Damaged;
     record = {};
     record.step = static_cast<int>(step);
     get(value[QLatin1String("isUnsaved")], record.about.isUnsaved);
@@ -139,9 +146,17 @@ RecordState recordFrom(const QByteArray& bytes, UndoRecord& record)
         if (const qint64 index = key.toInteger(); index >= Layers::kFirst && index < std::numeric_limits<int>::max())
             readFrom(text.toMap(), record.about.texts[static_cast<int>(index)]);
     for (const QCborValue& state : states) readFrom(state.toMap(), record.states.emplace_back());
+    for (const QCborValue& state : ground) readFrom(state.toMap(), record.ground.emplace_back());
     return RecordState::Whole;
 }
 
 std::uint64_t checksumOf(const void* bytes, std::size_t size) { return XXH3_64bits(bytes, size); }
+
+bool isPictureOf(const KeptState& state, const Bits& bits)
+{
+    if (state.sum == 0) return true;
+    const bool isOfTiles = state.side > 0;
+    return state.sum == (isOfTiles ? TileSums(bits, state.side).whole() : checksumOf(bits.data(), bits.sizeInBytes()));
+}
 
 } // namespace velara

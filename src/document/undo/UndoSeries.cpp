@@ -65,9 +65,8 @@ int UndoStore::Series::write(const Bits& bits)
     if (of(count).gap) tell(errno);
     bool done = false;
     if (count == kLimit) { // ten states exist, the one on screen is one of them
-        done = ours && writeState(count, bits, true);
-        if (ours) files.drop(0, count);
-        std::shift_left(states.begin(), states.end(), 1);
+        done = ours && writeState(count, bits);
+        retireOldest(ours);
         --count;
     }
     done = done || (ours && writeState(count, bits));
@@ -76,24 +75,76 @@ int UndoStore::Series::write(const Bits& bits)
     return hold(bits, count);
 }
 
-bool UndoStore::Series::writeState(int index, const Bits& bits, bool overOldest)
+/// The oldest of a full series is no state any more. What the next one rests on stays.
+void UndoStore::Series::retireOldest(bool ours)
 {
-    if (!(overOldest ? files.writeOverOldest(index, bits) : files.write(index, bits))) return false;
-    State& state = of(index);
+    if (of(1).isTiles) {
+        if (ours) files.move(0, UndoFiles::kGround + static_cast<int>(ground.size()));
+        ground.push_back(of(0));
+    } else {
+        for (int i = 0; i < static_cast<int>(ground.size()) && ours; ++i) files.remove(UndoFiles::kGround + i);
+        ground.clear();
+    }
+    if (ours) files.drop(0, kLimit);
+    std::shift_left(states.begin(), states.end(), 1);
+    states.back() = {};
+}
+
+bool UndoStore::Series::writeState(int index, const Bits& bits)
+{
+    State state;
+    static_cast<KeptState&>(state) = of(index);
+    state.sums = TileSums(bits, rules.side);
+    state.isTiles = index > 0 && writeOver(index - 1, state, bits);
+    if (!state.isTiles && !writeWhole(index, bits)) return false;
     state.file = files.identity(index);
-    state.sum = checksumOf(bits.data(), bits.sizeInBytes());
-    state.isInherited = false;
+    state.sum = state.sums.whole();
+    state.side = rules.side;
+    of(index) = std::move(state);
     return true;
 }
 
-/// The reader of a state doesn't know what else has happened to its file.
+/// The pages of the oldest file are reused where it is about to go.
+bool UndoStore::Series::writeWhole(int index, const Bits& bits) const
+{
+    return index == kLimit && !of(1).isTiles ? files.writeOverOldest(index, bits) : files.write(index, bits);
+}
+
+/// Writes the tiles in which a picture differs from the state below. False where it is to be written whole: too much
+/// differs, or what it would rest on is not there.
+bool UndoStore::Series::writeOver(int below, State& state, const Bits& bits) const
+try {
+    const State& base = of(below);
+    if (bits.sizeInBytes() < rules.smallest || base.sums.grid() != state.sums.grid()) return false;
+    const std::vector<std::uint32_t> tiles = state.sums.differing(base.sums);
+    const std::int64_t size = base.tileBytes + tileFileSize(state.sums.grid(), tiles.size());
+    if (base.tileFiles >= rules.most || size > static_cast<std::int64_t>(bits.sizeInBytes()) / rules.share)
+        return false;
+    const auto stands = [this](const LayerFile& layer) { return files.identity(layer.index) == layer.file; };
+    if (!std::ranges::all_of(layersUpTo(below), stands)) return false;
+    state.tileFiles = base.tileFiles + 1;
+    state.tileBytes = size;
+    return writeTiles(files, below + 1, bits, state.sums, base.sum, tiles);
+} catch (const std::bad_alloc&) { // a whole picture needs no memory
+    return false;
+}
+
+std::vector<LayerFile> UndoStore::Series::layersUpTo(int index) const
+{
+    const int beneath = static_cast<int>(ground.size());
+    return layersOf(index, ground.size(), [&](int i) -> std::pair<const KeptState*, int> {
+        if (i >= 0) return {&of(i), i};
+        return {&ground[static_cast<std::size_t>(beneath + i)], UndoFiles::kGround + beneath + i};
+    });
+}
+
+/// The reader of a state doesn't know what else has happened to its files.
 std::optional<Bits> UndoStore::Series::pictureOf(int index) const
 {
     const State& state = of(index);
     if (state.picture) return state.picture;
-    std::optional<Bits> bits = files.read(index);
-    const bool isChecked = bits && state.isInherited && state.sum != 0;
-    if (isChecked && state.sum != checksumOf(bits->data(), bits->sizeInBytes())) return {};
+    std::optional<Bits> bits = readLayers(files, layersUpTo(index));
+    if (bits && state.isInherited && !isPictureOf(state, *bits)) return {};
     return bits;
 }
 
@@ -107,6 +158,7 @@ void UndoStore::Series::keepRecord(int step, int top)
         now.about = about;
     }
     now.states.assign(states.begin(), states.begin() + top); // without their pictures
+    now.ground = ground;
     const bool done = ready() && record.write(now);
     const int reason = errno;
     {
@@ -126,7 +178,10 @@ try {
 /// Keeps the newest state in memory only.
 int UndoStore::Series::hold(const Bits& bits, int index)
 {
-    of(index).picture = bits;
+    State held;
+    held.gap = of(index).gap;
+    held.picture = bits;
+    of(index) = std::move(held);
     everFailed = true;
     return index + 1;
 }

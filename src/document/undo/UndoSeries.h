@@ -1,7 +1,9 @@
 // UndoSeries: the states of an undo series and what is done with them on the writing thread; private to UndoStore.
 #pragma once
 #include "document/undo/RecordFile.h"
+#include "document/undo/TileSums.h"
 #include "document/undo/UndoFiles.h"
+#include "document/undo/UndoLayers.h"
 #include "document/undo/UndoStore.h"
 #include <algorithm>
 #include <array>
@@ -22,13 +24,18 @@ struct UndoStore::Series {
     struct State : KeptState {
         std::optional<Bits> picture = {}; // could not be written to disk
         bool isInherited = false;         // written by another program, which died: its checksum is to be looked at
+        TileSums sums = {};               // of its tiles; none: not known, so nothing can rest on it
+        int tileFiles = 0;                // that it is made of, over the whole picture beneath
+        std::int64_t tileBytes = 0;       // of these, at most
     };
+    const TileRules rules = tileRules;
     UndoFiles files;
     UndoMark mark;
     RecordFile record{files};
     std::function<void(const QString&)> told, toldUnrecorded;
     std::atomic<bool> abandoned{false};
     std::array<State, kLimit + 1> states; // by index
+    std::vector<KeptState> ground;        // as in UndoRecord
 
     mutable std::mutex guard;
     mutable std::condition_variable written;
@@ -69,6 +76,7 @@ struct UndoStore::Series {
     const State& of(int index) const { return states[static_cast<std::size_t>(index)]; }
     State& of(int index) { return states[static_cast<std::size_t>(index)]; }
     std::optional<Bits> pictureOf(int index) const;
+    std::vector<LayerFile> layersUpTo(int index) const;
 
     std::optional<Found> find(int shown, bool back);
     void noteSave(StepNote& note);
@@ -79,7 +87,10 @@ struct UndoStore::Series {
     // --- On the writing thread; count is the number of states.
     bool ready();
     int write(const Bits& bits);
-    bool writeState(int index, const Bits& bits, bool overOldest = false);
+    bool writeState(int index, const Bits& bits);
+    bool writeWhole(int index, const Bits& bits) const;
+    bool writeOver(int below, State& state, const Bits& bits) const;
+    void retireOldest(bool ours);
     void keepRecord(int step, int top);
     void tryToRecord(int step, int top);
     int hold(const Bits& bits, int index);

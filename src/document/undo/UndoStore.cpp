@@ -63,6 +63,7 @@ UndoStore::UndoStore(Inherited inherited)
     series_->mark = std::move(inherited.mark);
     series_->recorded = true;
     series_->about = std::move(inherited.record.about);
+    series_->ground = std::move(inherited.record.ground);
     const auto count = std::min(inherited.record.states.size(), std::size_t(kLimit));
     for (std::size_t i = 0; i < count; ++i) {
         static_cast<KeptState&>(series_->states[i]) = std::move(inherited.record.states[i]);

@@ -1,5 +1,10 @@
-// UndoStore: the undo and redo series of one document, whole-picture snapshots on disk. Knows two counters and a
-// folder, and no window.
+// UndoStore: the undo and redo series of one document, snapshots on disk. Knows two counters and a folder, and no
+// window.
+//
+// A snapshot is the whole picture, or the tiles that differ from the state before it, where these are few and the
+// picture is big (TileRules). They are found by checksums of all tiles, so that no change has to tell where it was.
+// Such states rest on each other down to a whole one, which stays as long as it is needed, also when it is no state any
+// more.
 //
 // Snapshots are written by a thread, in order, from shared picture values, so that an edit doesn't wait for the disk.
 // The counters run ahead of it; whoever needs the files (undo, redo, the end) waits. A snapshot that can't be written
@@ -20,9 +25,19 @@
 
 namespace velara {
 
+/// When a state is kept as tiles.
+struct TileRules {
+    std::size_t smallest = 16 << 20; // bytes of the block: of a smaller picture every state is whole
+    int side = 128;                  // of a tile, pixels
+    int share = 4;                   // all files of tiles over a whole picture take at most its size divided by this,
+    int most = 32;                   // and are at most so many
+};
+
 class UndoStore {
   public:
     static constexpr int kLimit = 10; // snapshots kept after a save
+
+    inline static TileRules tileRules; // of series that are made from now on; others are for tests
 
     /// folder is where the files go ("Temp" under the program folder; empty: no steps are kept). It is made if its
     /// parent exists. A number that another program uses, or that has work of a dead one, is skipped: next is asked

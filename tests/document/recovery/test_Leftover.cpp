@@ -32,7 +32,7 @@ DocumentFacts someFacts()
 
 QByteArray newer(QByteArray bytes)
 {
-    bytes[8] = 2; // of the version
+    bytes[8] = 3; // of the version
     return bytes;
 }
 

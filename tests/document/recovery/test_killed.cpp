@@ -17,10 +17,14 @@
 namespace velara {
 namespace {
 
-/// Some take a while to be written.
+/// Some take a while to be written, some are of another size; most differ from those before them in some strokes.
 Bits pictureOf(int id)
 {
-    return id % 9 == 0 ? randomBits(900, 700, unsigned(id)) : randomBits(40 + id % 3, 30, unsigned(id));
+    if (id % 19 == 0) return randomBits(900, 700, unsigned(id));
+    if (id % 17 == 0) return randomBits(40 + id % 3, 30, unsigned(id));
+    Bits bits = randomBits(90, 60, unsigned(id / 25));
+    for (int stroke = id / 25 * 25; stroke <= id; ++stroke) drawStroke(bits, unsigned(stroke));
+    return bits;
 }
 
 /// A document as it should be.
@@ -110,6 +114,7 @@ struct Worker {
 TEST(RecoveryWorker, DISABLED_WorksUntilItIsKilled)
 {
     if (!qEnvironmentVariableIsSet(kFolder)) return;
+    UndoStore::tileRules = {.smallest = 0, .side = 8, .share = 4, .most = 6};
     Worker worker;
     for (;;) worker.act();
 }

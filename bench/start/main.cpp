@@ -1,0 +1,172 @@
+// velara-start [--runs N] [--until RRGGBB] PROGRAM [ARGUMENT]... [-- PROGRAM [ARGUMENT]...]...: starts the programs
+// alternately on the display and prints for each the medians, in milliseconds, until its first window is shown, until
+// its frame is painted (the first window of at least 600 by 400 pixels), and until that colour is in the frame's
+// middle, by which a picture is known. A file that the program is given should be of that one colour.
+//
+// For a display without anything else on it. Programs are ended by SIGTERM; where one has files of its own, they should
+// be in a folder that the caller has made for it.
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+#include <xcb/xcb.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr int kLimit = 30; // seconds
+
+xcb_connection_t* display;
+xcb_window_t root;
+
+double since(Clock::time_point start)
+{
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+template <class Reply> struct Freed {
+    Reply* reply;
+    ~Freed() { std::free(reply); }
+};
+
+struct Window {
+    xcb_window_t id;
+    int width, height;
+};
+
+/// Those of the display that are shown, or lie in the frame of a window manager; depth of the search: two.
+void collect(xcb_window_t parent, int depth, std::vector<Window>& all)
+{
+    const Freed tree{xcb_query_tree_reply(display, xcb_query_tree(display, parent), nullptr)};
+    if (!tree.reply) return;
+    const xcb_window_t* child = xcb_query_tree_children(tree.reply);
+    for (int i = 0; i < xcb_query_tree_children_length(tree.reply); ++i) {
+        const Freed state{
+            xcb_get_window_attributes_reply(display, xcb_get_window_attributes(display, child[i]), nullptr)};
+        const Freed size{xcb_get_geometry_reply(display, xcb_get_geometry(display, child[i]), nullptr)};
+        if (!state.reply || !size.reply || state.reply->map_state != XCB_MAP_STATE_VIEWABLE) continue;
+        if (state.reply->_class != XCB_WINDOW_CLASS_INPUT_OUTPUT) continue;
+        if (size.reply->width > 1) all.push_back({child[i], size.reply->width, size.reply->height});
+        if (depth > 1) collect(child[i], depth - 1, all);
+    }
+}
+
+/// The colour of a point of a window, 0xRRGGBB; -1 where it can't be had.
+int colourAt(xcb_window_t window, int x, int y)
+{
+    const auto asked =
+        xcb_get_image(display, XCB_IMAGE_FORMAT_Z_PIXMAP, window, std::int16_t(x), std::int16_t(y), 1, 1, ~0u);
+    const Freed image{xcb_get_image_reply(display, asked, nullptr)};
+    std::uint32_t pixel = 0;
+    if (!image.reply || xcb_get_image_data_length(image.reply) < 4) return -1;
+    std::memcpy(&pixel, xcb_get_image_data(image.reply), sizeof pixel);
+    return int(pixel & 0xFFFFFF);
+}
+
+/// Milliseconds that the first thread of a process has run for, which other programs don't prolong.
+double busy(pid_t process)
+{
+    char path[64];
+    std::snprintf(path, sizeof path, "/proc/%d/schedstat", process);
+    double nanoseconds = 0;
+    if (std::FILE* file = std::fopen(path, "r")) {
+        if (std::fscanf(file, "%lf", &nanoseconds) != 1) nanoseconds = 0;
+        std::fclose(file);
+    }
+    return nanoseconds / 1e6;
+}
+
+struct Times {
+    std::vector<double> window, frame, busy, picture;
+};
+
+/// One start of a program.
+void run(char** program, int until, Times& times)
+{
+    const auto start = Clock::now();
+    const pid_t child = fork();
+    if (child == 0) {
+        setpgid(0, 0);
+        execvp(program[0], program);
+        _exit(127);
+    }
+    std::optional<double> window, frame, picture;
+    double ran = 0;
+    while (!frame || (until >= 0 && !picture)) {
+        std::vector<Window> all;
+        collect(root, 2, all);
+        if (!all.empty() && !window) window = since(start);
+        for (const Window& each : all) {
+            if (each.width < 600 || each.height < 400) continue;
+            if (!frame && colourAt(each.id, 3, 3) > 0) {
+                frame = since(start);
+                ran = busy(child);
+            }
+            if (until >= 0 && !picture && colourAt(each.id, each.width / 2, each.height / 2) == until)
+                picture = since(start);
+        }
+        if (since(start) > kLimit * 1000 || waitpid(child, nullptr, WNOHANG) == child) {
+            std::fprintf(stderr, "%s: nothing came\n", program[0]);
+            std::exit(1);
+        }
+        usleep(500);
+    }
+    times.window.push_back(*window);
+    times.frame.push_back(*frame);
+    times.busy.push_back(ran);
+    if (picture) times.picture.push_back(*picture);
+    kill(-child, SIGTERM);
+    waitpid(child, nullptr, 0);
+    for (std::vector<Window> left{{}}; !left.empty(); usleep(1000)) left.clear(), collect(root, 1, left);
+    usleep(200'000); // for its helpers
+}
+
+std::string median(std::vector<double> values)
+{
+    if (values.empty()) return "-";
+    std::ranges::sort(values);
+    char text[32];
+    std::snprintf(text, sizeof text, "%.0f", values[values.size() / 2]);
+    return text;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int runs = 9, until = -1, next = 1;
+    for (; next + 1 < argc && std::strncmp(argv[next], "--", 2) == 0; next += 2) {
+        const std::string word = argv[next];
+        if (word == "--runs") runs = std::max(1, std::atoi(argv[next + 1]));
+        if (word == "--until") until = int(std::strtol(argv[next + 1], nullptr, 16));
+    }
+    std::vector<char**> programs;
+    for (bool begins = true; next < argc; ++next) {
+        if (begins) programs.push_back(argv + next);
+        begins = std::strcmp(argv[next], "--") == 0;
+        if (begins) argv[next] = nullptr;
+    }
+    display = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(display) || programs.empty()) {
+        std::fprintf(stderr, "velara-start needs a display and a program\n");
+        return 2;
+    }
+    root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
+    std::vector<Times> times(programs.size());
+    for (int i = 0; i < runs; ++i)
+        for (std::size_t p = 0; p < programs.size(); ++p) run(programs[p], until, times[p]);
+    std::printf("%8s %8s %8s %8s  of %d starts\n", "window", "frame", "busy", "picture", runs);
+    for (std::size_t p = 0; p < programs.size(); ++p)
+        std::printf("%8s %8s %8s %8s  %s\n", median(times[p].window).c_str(), median(times[p].frame).c_str(),
+                    median(times[p].busy).c_str(), median(times[p].picture).c_str(), programs[p][0]);
+    xcb_disconnect(display);
+    return 0;
+}
