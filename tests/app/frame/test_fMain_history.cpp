@@ -4,6 +4,7 @@
 #include "commands/recipe/recipeJob.h"
 #include "document/Draft.h"
 #include "support/files.h"
+#include "ui/compose/fLayers.h"
 #include "ui/history/fHistory.h"
 #include "ui/merge/fOverlay.h"
 
@@ -181,6 +182,12 @@ TEST_F(History, WhatToolsAndBoxesComputeHasWordsToo)
             controlOf<QAbstractButton>(*frame, effect)->click();
             controlOf<QAbstractButton>(*frame, "CmdApply")->click();
         });
+    expectWords("TEXT(yellow,", [&] {
+        command("TEXTTOOLS");
+        auto* texts = frame->findChild<fLayers*>();
+        QTest::keyClicks(texts->findChild<QWidget*>("picImage"), "yellow");
+        controlOf<QAbstractButton>(*texts, "CmdOK")->click();
+    });
     openFile(file("over.bmp", 12, 9));
     fImage* over = frame->GetActiveImage();
     const auto merge = [&] {
