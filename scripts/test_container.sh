@@ -58,14 +58,16 @@ follow() { # One line of the Containerfile.
 while read -r -u 3 word rest; do follow "$word" "$rest"; done 3< <(grep -v '^#' Containerfile | sed -e ':a' -e '/\\$/{N;s/ *\\\n */ /;ba' -e '}')
 [ "$uid" != 0 ] || fail "the pods would run as root"
 
+$as_root mkdir -p "$root/pictures" # a container engine makes the places of mounts
+
 # The volume, and what a plain run makes of it
 cd "$scratch"
 mkdir volume volume/holiday
 for i in $(seq 24); do convert -size $((300 + 10 * i))x200 plasma:red-blue -quality 90 "volume/holiday/$i.jpg"; done
-printf 'velara recipe 1\n50\nLIGHTSHARPEN\nTEXT("(c) 2026, anna",DejaVu Sans,12,bold,0x00ffffff,bottom-right,5,5)\n' >volume/small.recipe
+printf 'velara recipe 1\n50\nLIGHTSHARPEN\nTEXT("(c) 2026, anna",Nimbus Sans,12,bold,0x00ffffff,bottom-right,5,5)\n' >volume/small.recipe
 "$build/bin/velara-batch" volume/holiday --recipe volume/small.recipe --into wanted --format jpg 2>plain.log || fail "the plain run: $(cat plain.log)"
 mkdir volume/web
-$as_root chown -R "$uid" volume/web
+$as_root chown root volume/web # whom the sandbox shows as the image's user
 pod() { # pod INDEX COMMAND...
     index=$1
     shift

@@ -7,6 +7,7 @@
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/WarmReaders.h"
+#include "pixels/BlockPool.h"
 #include "pixels/threads/Workers.h"
 #include <cerrno>
 #include <chrono>
@@ -19,6 +20,9 @@
 namespace velara {
 
 namespace {
+
+/// Of a picture, the next one and two steps of other sizes, as far as they are free at the same time.
+constexpr std::size_t kKeptBlocks = 4;
 
 using Clock = std::chrono::steady_clock;
 
@@ -190,6 +194,7 @@ void work(const CommandLine& line, const Plan& plan, int socket)
     // Made in each worker: programs that share one by a fork share its ways to be woken, too.
     const auto application = makeApplication(line);
     OutputFile::lookForStrays(false);
+    BlockPool::instance().keepSeveral(kKeptBlocks);
     Worker worker(line, plan, socket);
     worker.run();
     _exit(0); // a reading that is under way ends with it
