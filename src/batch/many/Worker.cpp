@@ -31,6 +31,14 @@ double millisecondsSince(Clock::time_point begin)
     return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
 }
 
+QStringList extensionsOf(const Plan& plan)
+{
+    std::set<QString> all;
+    for (const PlannedPicture& picture : plan.pictures)
+        if (!picture.isSkipped) all.insert(extensionOf(picture.input).toLower());
+    return {all.begin(), all.end()};
+}
+
 /// A picture that is read by another thread.
 struct Reading {
     int picture;
@@ -178,7 +186,7 @@ class Worker {
     const Plan& plan_;
     const int socket_;
     BatchPlatform platform_;
-    WarmReaders warm_;
+    WarmReaders warm_{extensionsOf(plan_)};
     Session session_{platform_};
     std::deque<std::unique_ptr<Reading>> readings_; // the first is worked on, or will be
     bool isReady_ = false;                          // that the first can be worked on was told

@@ -191,6 +191,8 @@ void UndoStore::describe(DocumentFacts about)
     });
 }
 
+bool UndoStore::isKept() const { return !series_->files.folder().isEmpty(); }
+
 bool UndoStore::stands() const
 {
     const auto lock = series_->quiet();
