@@ -191,8 +191,6 @@ void UndoStore::describe(DocumentFacts about)
     });
 }
 
-bool UndoStore::isKept() const { return !series_->files.folder().isEmpty(); }
-
 bool UndoStore::stands() const
 {
     const auto lock = series_->quiet();

@@ -46,8 +46,6 @@ class UndoStore {
     int number() const;
     int UndoStep() const; // snapshots up to and including the state shown
     int UndoTop() const;  // snapshots in the series
-    /// Whether there is a folder for its steps; without one nobody goes back to them.
-    bool isKept() const;
     bool canUndo() const;
     bool canRedo() const;
     /// The names, as given to save(), of the changes that a step back or forward takes away or brings; empty without
