@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster test-container monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -99,6 +99,10 @@ bench-many: all
 # Kubernetes' Indexed Job as a sandbox. Installs what is missing for that; needs root.
 test-cluster: all
 	@scripts/test_cluster.sh $(RELEASE)/bin
+
+# The image of packaging/kubernetes and its job, without a container engine; needs root.
+test-container: deb
+	@scripts/test_container.sh $(RELEASE)
 
 # The contact sheets of docs/gallery: every filter on the sample picture.
 gallery: all

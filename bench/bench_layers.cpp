@@ -1,6 +1,6 @@
 // A step of dragging one of ten texts over a picture: real events on the real canvas in a page of 1920x1080.
 #include "bench.h"
-#include "platform/desktop/QtFonts.h"
+#include "platform/QtFonts.h"
 #include "ui/compose/fLayerCanvas.h"
 #include "ui/widgets/fPicturePage.h"
 #include <QApplication>

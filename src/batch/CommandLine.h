@@ -15,6 +15,8 @@ struct LineStep {
     std::function<void(Session&)> run;                    // throws Failure
     std::function<void(const ReadPicture&)> prepare = {}; // reads the pictures among its arguments
     GoesBack goesBack = GoesBack::Never;
+    QStringList fonts = {}; // that it draws with
+    std::function<void(Fonts&)> drawBy = {};
 };
 
 struct CommandLine {

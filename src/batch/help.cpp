@@ -59,6 +59,9 @@ STEP is one of
                          between double quotes, where two stand for one.
                          A mask is a square of numbers:
                          'MaskFilter(0 -1 0/-1 5 -1/0 -1 0,1,0,0,0,true)'.
+                         TEXT puts a text on the picture, in a font that is
+                         installed; several texts in one TEXT are merged at
+                         once: the later ones show the picture below them.
 
 Sizing words in a row (50, x2, 2x, ORIGINAL ...) each start from the picture
 before the first of them: 50 50 is half the size.

@@ -1,13 +1,13 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
+#include "batch/fonts.h"
 #include "batch/many/runMany.h"
 #include "batch/onePicture.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/PictureLoader.h"
 #include "pixels/threads/parallelFor.h"
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -64,6 +64,7 @@ void runOne(const CommandLine& line)
     open(session, platform, line);
     for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare([&](const QString& path) { return readArgument(platform, path, line.partial); });
+    takeFonts(line, platform);
     takeSteps(session, line);
     if (isPiped) return writeToStandardOutput(session, line);
     const QString told = writePictureOf(session, line, line.output);
@@ -82,7 +83,7 @@ int run(int argc, char** argv)
     if (line.threads) setThreadCount(*line.threads);
     readInSrgb(!line.stored);
     if (line.many) return runMany(line);
-    const QCoreApplication application(argc, argv);
+    const auto application = makeApplication(line);
     runOne(line);
     return 0;
 }

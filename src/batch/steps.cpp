@@ -33,8 +33,9 @@ void take(Session& session, const RecipeStep& step)
 
 LineStep lineStep(const RecipeStep& step)
 {
-    return {step.text, [step](Session& session) { failing([&] { take(session, step); }); }, step.prepare,
-            step.goesBack()};
+    return {step.text,    [step](Session& session) { failing([&] { take(session, step); }); },
+            step.prepare, step.goesBack(),
+            step.fonts,   step.drawBy};
 }
 
 } // namespace

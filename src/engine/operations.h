@@ -37,7 +37,7 @@ class ParameterList {
     constexpr void add(const Parameter& parameter) { all_.at(size_++) = parameter; }
 
   private:
-    std::array<Parameter, 9> all_{};
+    std::array<Parameter, 10> all_{};
     std::size_t size_ = 0;
 };
 

@@ -24,9 +24,19 @@ std::uint8_t* BlockPool::take(std::size_t size)
             kept_.erase(kept);
             return block;
         }
-        dropped.swap(kept_); // another size is in use now
+        if (!ofSeveralSizes_) dropped.swap(kept_); // another size is in use now
     }
     unmap(dropped);
+    try {
+        return map(size);
+    } catch (const std::bad_alloc&) {
+        clear();
+    }
+    return map(size);
+}
+
+std::uint8_t* BlockPool::map(std::size_t size)
+{
     MemoryBudget::take(size);
     void* block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (block == MAP_FAILED) throw std::bad_alloc();
@@ -40,12 +50,20 @@ void BlockPool::give(std::uint8_t* block, std::size_t size) noexcept
     Kept kept{block, size};
     {
         const std::lock_guard lock(guard_);
-        if (kept_.capacity() == 0) kept_.reserve(kKeptBlocks);
-        if (kept_.size() < kKeptBlocks) return kept_.push_back(kept);
+        if (kept_.capacity() < most_) kept_.reserve(most_);
+        if (kept_.size() < most_) return kept_.push_back(kept);
         std::rotate(kept_.begin(), kept_.begin() + 1, kept_.end());
         std::swap(kept_.back(), kept);
     }
     unmap({&kept, 1});
+}
+
+void BlockPool::keepSeveral(std::size_t blocks)
+{
+    const std::lock_guard lock(guard_);
+    most_ = blocks;
+    ofSeveralSizes_ = true;
+    kept_.reserve(most_);
 }
 
 void BlockPool::clear() noexcept

@@ -1,5 +1,5 @@
-// Fonts: text layout and drawing by the system. QtFonts (platform/desktop) is the real one; NoFonts serves programs
-// without a window; RecordingFonts (tests/support) has one fixed-width font.
+// Fonts: text layout and drawing by the system, from any thread. QtFonts (platform) is the real one, and needs a
+// QGuiApplication; NoFonts serves programs without one; RecordingFonts (tests/support) has one fixed-width font.
 //
 // A run is always shaped as a whole, so that scripts that join, stack or reorder their letters come out right; glyphs
 // that a font lacks are taken from another one. Sizes are points at 96 dpi on every screen, so a text has the same size

@@ -7,6 +7,13 @@ namespace {
 
 constexpr int kOverhang = 2; // slanted letters extend beyond their advance
 
+RunSize extentOfLines(const std::vector<TextLine>& lines, int lineHeight)
+{
+    int width = 0;
+    for (const TextLine& line : lines) width = std::max(width, line.width + kOverhang);
+    return {width, static_cast<int>(lines.size()) * lineHeight};
+}
+
 Rect pictureOf(const Bits& canvas) { return {0, 0, canvas.width(), canvas.height()}; }
 
 /// The bounds of the pixels that belong to the layer, where part is what was drawn of the picture.
@@ -92,11 +99,24 @@ MeasureRun Layers::measureIn(const TextStyle& style) const
     return [this, style](const QString& run, int) { return fonts_.measure(run, style); };
 }
 
+int Layers::lineHeightOf(const TextStyle& style) const
+{
+    return std::max(1, fonts_.measure(QStringLiteral(" "), style).height);
+}
+
+RunSize Layers::extentOf(const QString& text, const TextStyle& style, int width) const
+{
+    if (text.isEmpty()) return {};
+    const int lineHeight = lineHeightOf(style);
+    const auto lines = breakLines(text, width, style.size, measureIn(style), canvas_.height() / lineHeight + 1);
+    return extentOfLines(lines, lineHeight);
+}
+
 /// Only as many lines as the place can show, including a partly visible one.
 void Layers::breakText(Entry& entry)
 {
     const Layer& layer = entry.layer;
-    entry.lineHeight = std::max(1, fonts_.measure(QStringLiteral(" "), layer.style).height);
+    entry.lineHeight = lineHeightOf(layer.style);
     const int rows = layer.place.height() / entry.lineHeight + 1;
     entry.lines = breakLines(layer.text, layer.place.width(), layer.style.size, measureIn(layer.style), rows);
 }
@@ -105,15 +125,13 @@ void Layers::grow(Entry& entry)
 {
     const Layer& layer = entry.layer;
     Rect& place = entry.layer.place;
-    const int lineHeight = std::max(1, fonts_.measure(QStringLiteral(" "), layer.style).height);
+    const int lineHeight = lineHeightOf(layer.style);
     const int across = entry.sized ? place.width() : std::max(place.width(), canvas_.width() - place.left);
     const int down = std::max(place.height(), canvas_.height() - place.top);
     const auto lines = breakLines(layer.text, across, layer.style.size, measureIn(layer.style), down / lineHeight + 1);
-    int width = 0;
-    for (const TextLine& line : lines) width = std::max(width, line.width + kOverhang);
-    const int height = layer.text.isEmpty() ? 0 : static_cast<int>(lines.size()) * lineHeight;
-    place.right = place.left + std::max(place.width(), std::min(width, across));
-    place.bottom = place.top + std::max(place.height(), std::min(height, down));
+    const RunSize needed = layer.text.isEmpty() ? RunSize() : extentOfLines(lines, lineHeight);
+    place.right = place.left + std::max(place.width(), std::min(needed.width, across));
+    place.bottom = place.top + std::max(place.height(), std::min(needed.height, down));
     entry.lines = lines;
     entry.lineHeight = lineHeight;
     print(entry);

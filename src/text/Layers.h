@@ -46,6 +46,10 @@ class Layers {
     /// Sides below kLeastSide are enlarged to it.
     void setPlace(int index, const Rect& place);
 
+    /// The place that a text needs, wrapped at this width, and no more lines of it than the canvas is high; 0, 0
+    /// without text.
+    RunSize extentOf(const QString& text, const TextStyle& style, int width) const;
+
     /// What the layer shows, and that part's rectangle in the picture; empty when its place lies outside. Fourth bytes
     /// are 255 within its place and where ink extends beyond it, otherwise 0.
     const Bits& surface(int index) const { return layers_.at(index).surface; }
@@ -85,6 +89,7 @@ class Layers {
         int lineHeight = 0;
         bool sized = false; // the user has set the width: text wraps at it
     };
+    int lineHeightOf(const TextStyle& style) const;
     void breakText(Entry& entry);
     void grow(Entry& entry);
     void print(Entry& entry);

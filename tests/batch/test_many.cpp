@@ -59,6 +59,36 @@ TEST_F(ManyTest, EachPictureIsWhatTheSingleWayMakes)
     EXPECT_NE("mine", content("out/new/1-2.ppm"));
 }
 
+TEST_F(ManyTest, NamesThatHaveTheSizeOfTheResultAreGivenOnce)
+{
+    const QString into = " --report r.json --into out --name ";
+    EXPECT_TRUE(
+        ends(2, "in INVERT" + into + "{width}x{height}", "in/1.ppm and in/2.ppm may both become out/{width}x{height}"));
+    EXPECT_TRUE(ends(0, "in --recursive 2x" + into + "{width}/{name}-{width}x{height:03} --jobs 2", "3 done"));
+    EXPECT_EQ((QStringList{"24/1-24x018.ppm", "24/2-24x018.ppm", "24/3-24x018.ppm"}), filesIn("out"));
+    EXPECT_EQ("out/24/3-24x018.ppm", reported("output")["in/b/3.ppm"]);
+    EXPECT_EQ(QString::number(content("out/24/1-24x018.ppm").size()), reported("bytes")["in/1.ppm"]);
+    put("out/24/1-24x018.ppm", "mine");
+    EXPECT_TRUE(ends(0, "in 2x" + into + "{width}/{name}-{width}x{height:03}", "2 skipped"));
+    EXPECT_TRUE(ends(0, "in 2x" + into + "{width}/{name}-{width}x{height:03} --existing newer", "2 skipped"));
+    EXPECT_TRUE(ends(0, "in 2x" + into + "{width}/{name}-{width}x{height:03} --existing number", "2 done"));
+    EXPECT_TRUE(filesIn("out").contains("24/1-24x018-2.ppm"));
+    EXPECT_EQ("mine", content("out/24/1-24x018.ppm"));
+    // "a1" and "2", or "a" and "12": known only when the second is done.
+    QDir(folder.path()).mkdir("two");
+    ASSERT_TRUE(input().save(path("two/a.ppm")));
+    ASSERT_TRUE(input().scaled(2, 9).save(path("two/a1.ppm")));
+    EXPECT_TRUE(
+        ends(1, "two INVERT" + into + "x/{name}{width} --jobs 1", "two/a.ppm has become out/x/a12.ppm already"));
+    EXPECT_EQ(12, QImage(path("out/x/a12.ppm")).width());
+    EXPECT_TRUE(ends(0, "two INVERT" + into + "x/{name}{width} --existing number", "2 done"));
+    EXPECT_EQ((QStringList{"x/a12-2.ppm", "x/a12-3.ppm", "x/a12.ppm"}), filesIn("out").filter("x/"));
+    ASSERT_TRUE(input().save(path("two/a12.ppm")));
+    EXPECT_TRUE(ends(1, "two/a12.ppm two/a.ppm INVERT --existing replace --into two --name {name}{width}",
+                     "two/a12.ppm is an input"));
+    EXPECT_EQ(input(), QImage(path("two/a12.ppm")).convertToFormat(QImage::Format_RGB32));
+}
+
 TEST_F(ManyTest, WordsThatAreFilesAreRefusedWhereTheyStandForSteps)
 {
     QDir(folder.path()).mkdir("50");

@@ -43,6 +43,25 @@ TEST(MemoryBudget, HalfOfWhatIsFreeIsForAllBlocksOfACommandTogether)
               refusalOf([] { Bits(20000, 20000); }));
 }
 
+TEST(BlockPool, KeepsSeveralSizesUntilMemoryIsShort)
+{
+    constexpr std::size_t kLarge = 3'000'000, kSmall = 2'000'000;
+    BlockPool pool;
+    pool.keepSeveral(2);
+    const FreeMemory free(12'000'000);
+    const MemoryBudget budget; // of six million
+    std::uint8_t *large = pool.take(kLarge), *small = pool.take(kSmall);
+    pool.give(large, kLarge);
+    pool.give(small, kSmall);
+    EXPECT_EQ(large, pool.take(kLarge));
+    EXPECT_EQ(small, pool.take(kSmall));
+    pool.give(large, kLarge);
+    pool.give(small, kSmall);
+    std::uint8_t* third = pool.take(kLarge + 1); // too much beside what is kept, which goes
+    pool.give(third, kLarge + 1);
+    pool.clear();
+}
+
 TEST(MemoryBudget, FreeIsWhatTheMachineHasAndTheTightestGroupLeaves)
 {
     const struct {

@@ -1,8 +1,11 @@
 // The desktop's own fonts, whatever they are.
+#include "commands/recipe/textStep.h"
 #include "document/Document.h"
-#include "platform/desktop/QtFonts.h"
+#include "pixels/images.h"
+#include "platform/QtFonts.h"
 #include "region/Region.h"
 #include "support/pictures.h"
+#include "support/places.h"
 #include "text/Layers.h"
 #include <QtWidgets>
 
@@ -108,6 +111,39 @@ TEST_F(QtFontsTest, ASlantedLineFallsBackToUprightBeforeItShowsBoxes)
     EXPECT_EQ(fonts.measure(arabic, upright), fonts.measure(arabic, style));
     EXPECT_EQ(drawn({arabic}, upright), drawn({arabic}, style));
     EXPECT_FALSE(drawn({"hill"}, upright) == drawn({"hill"}, style)) << "where there is one, it is taken";
+}
+
+/// The other program has an application object of another platform, and draws in another thread.
+TEST_F(QtFontsTest, TheBatchProgramDrawsTheSamePixels)
+{
+    QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(name); };
+    Layers layers(fonts);
+    layers.setCanvas(randomBits(300, 200, 5));
+    ASSERT_TRUE(imageOver(layers.canvas()).save(path("in.ppm")));
+    style = {fonts.standIn("serif"), 23};
+    style.italic = true;
+    layers.setText(layers.add(10, 20, style, 0x2040FF),
+                   QString::fromUtf8("Größe, \"1\"\r\n\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D"));
+    layers.setText(layers.add(30, 30, {fonts.standIn("monospace"), 9}, 0), "over the other");
+    QProcess batch;
+    for (const bool many : {false, true}) {
+        const QStringList words{textWords(layers.state(), fonts)};
+        const QStringList where =
+            many ? QStringList{"--into", path("out"), "--format", "png"} : QStringList{path("out.png")};
+        batch.start(builtPath("velara-batch"), QStringList{path("in.ppm")} + words + where);
+        ASSERT_TRUE(batch.waitForFinished());
+        EXPECT_EQ("", many ? "" : batch.readAllStandardError()) << "nothing is said of a desktop";
+        const QImage drawn(path(many ? "out/in.png" : "out.png"));
+        EXPECT_TRUE(imageOver(layers.Blend()).convertToFormat(QImage::Format_RGB888) ==
+                    drawn.convertToFormat(QImage::Format_RGB888));
+    }
+    batch.start(builtPath("velara-batch"),
+                {path("in.ppm"), "TEXT(a,Missing Font,9,regular,0,top,0,0)", "--into", path("no")});
+    ASSERT_TRUE(batch.waitForFinished());
+    EXPECT_EQ(3, batch.exitCode());
+    EXPECT_TRUE(batch.readAllStandardError().contains("the font \"Missing Font\" isn't installed"));
+    EXPECT_FALSE(QFileInfo::exists(path("no"))) << "known before anything is written";
 }
 
 TEST_F(QtFontsTest, StylesShow)

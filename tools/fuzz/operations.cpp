@@ -40,7 +40,7 @@ QString argumentOf(const Parameter& p, Dice& dice)
 QString operationText(Dice& dice)
 {
     static const auto all = stepOperations();
-    const Operation& operation = *all[dice.next() % all.size()];
+    const Operation& operation = *all[dice.next() % (all.size() - 1)]; // the last one, TEXT, needs fonts
     QStringList arguments;
     for (const Parameter& p : operation.parameters) arguments += argumentOf(p, dice);
     return text(operation.name) + '(' + arguments.join(',') + ')';

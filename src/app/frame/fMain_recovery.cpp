@@ -3,6 +3,7 @@
 #include "app/frame/fStatus.h"
 #include "app/start/Recovery.h"
 #include "app/start/fStartPage.h"
+#include "commands/recipe/textStep.h"
 #include "seams/Platform.h"
 
 namespace velara {
@@ -38,7 +39,8 @@ bool fMain::mergeWaitingTexts(DocumentHandle document)
     layers.restore(document->waitingTexts);
     const auto done = std::make_shared<bool>(false);
     const Job job = [layers](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); };
-    workspace_.change(document, {job, After::Step, tr("Text")}, [document, done](const Outcome& outcome) {
+    const QString words = textWords(layers.state(), platform_.fonts());
+    workspace_.change(document, {job, After::Step, tr("Text"), words}, [document, done](const Outcome& outcome) {
         *done = bool(outcome);
         if (!outcome || !document) return;
         document->waitingTexts.clear();

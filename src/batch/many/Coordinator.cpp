@@ -55,7 +55,8 @@ QString reasonOfEnd(int status)
 
 Coordinator::Coordinator(const CommandLine& line, const Plan& plan, Report& report, int jobs)
     : line_(line), plan_(plan), report_(report), jobs_(static_cast<std::size_t>(jobs)),
-      memory_(MemoryBudget::available() / 4 * 3), begun_(Clock::now()), hasBar_(isatty(STDERR_FILENO) == 1)
+      memory_(MemoryBudget::available() / 4 * 3), begun_(Clock::now()), lateNames_(*line.many, plan),
+      hasBar_(isatty(STDERR_FILENO) == 1)
 {
     outcome_.tally.total = static_cast<int>(plan.pictures.size());
     const sigset_t set = endingSignals();
@@ -195,22 +196,31 @@ void Coordinator::hear(Hand& hand)
         hand.pixels = told.pixels;
         return goOn(hand);
     }
+    if (told.kind == Told::Named) return name(hand, told);
     done(told, QString::fromUtf8(message.data() + sizeof told, told.reasonBytes));
     advance(hand);
+}
+
+void Coordinator::name(Hand& hand, const Told& told)
+{
+    const WorkOrder answer = lateNames_.answer(told, named_[told.picture]);
+    send(hand.socket.get(), &answer, sizeof answer, MSG_NOSIGNAL);
 }
 
 void Coordinator::done(const Told& told, const QString& reason)
 {
     static constexpr const char* kResults[] = {"", "done", "skipped", "failed"};
     const PlannedPicture& picture = plan_.pictures[static_cast<std::size_t>(told.picture)];
+    const auto named = named_.extract(told.picture);
+    const QString& output = named ? named.mapped() : picture.output;
     Tally& tally = outcome_.tally;
     (told.kind == Told::Written ? tally.done : told.kind == Told::Skipped ? tally.skipped : tally.failed) += 1;
-    report_.add({picture.input, picture.output, kResults[told.kind], told.bytes, told.milliseconds, reason});
+    report_.add({picture.input, output, kResults[told.kind], told.bytes, told.milliseconds, reason});
     if (told.kind == Told::Failed) {
         say(picture.input + QStringLiteral(": ") + reason);
         if (line_.many->stopAtFirst) stop(QStringLiteral("no other picture is begun, as --stop-at-first says"));
     } else if (line_.verbose) {
-        say(picture.input + QStringLiteral(" -> ") + picture.output + QStringLiteral(": ") + kResults[told.kind]);
+        say(picture.input + QStringLiteral(" -> ") + output + QStringLiteral(": ") + kResults[told.kind]);
     }
     if (told.diskIsFull) stop(QStringLiteral("no other picture is begun, since the disk is full"));
     show(false);

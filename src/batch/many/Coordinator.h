@@ -2,6 +2,7 @@
 // worker ends that one alone.
 #pragma once
 #include "batch/CommandLine.h"
+#include "batch/many/LateNames.h"
 #include "batch/many/Plan.h"
 #include "batch/many/Report.h"
 #include "batch/many/Tally.h"
@@ -55,6 +56,7 @@ class Coordinator {
     bool mayGoOn(std::int64_t pixels) const;
     void hear(Hand& hand);
     void ended(Hand& hand);
+    void name(Hand& hand, const Told& told);
     void done(const Told& told, const QString& reason);
     void advance(Hand& hand);
     void hearSignal();
@@ -71,7 +73,9 @@ class Coordinator {
     std::chrono::steady_clock::time_point begun_, shown_;
     Outcome outcome_;
     std::size_t nextPicture_ = 0;
-    std::deque<int> again_; // pictures of a worker that ended before it began them
+    LateNames lateNames_;
+    std::map<int, QString> named_; // the outputs of pictures that are being written, where they were named late
+    std::deque<int> again_;        // pictures of a worker that ended before it began them
     std::list<Hand> hands_;
     Descriptor signals_;
     bool isStopping_ = false, isAtOnce_ = false;

@@ -31,11 +31,16 @@ QString dayOf(std::int64_t time)
     return QDateTime::fromSecsSinceEpoch(time).date().toString(QStringLiteral("yyyy-MM-dd"));
 }
 
+QString sideOf(int pixels, const char* unknown)
+{
+    return pixels > 0 ? QString::number(pixels) : QLatin1String(unknown);
+}
+
 struct Field {
     std::string_view name;
     const char* meaning;
     QString (*of)(const NameFacts& facts);
-    bool isNumber = false;
+    bool isNumber = false, isLate = false;
 };
 // clang-format off
 constexpr Field kFields[] = {
@@ -46,6 +51,8 @@ constexpr Field kFields[] = {
     {"dir",    "the folders between the INPUT folder and the file", [](const NameFacts& f) { return f.dir; }},
     {"parent", "the name of the folder that it is in",              [](const NameFacts& f) { return folderNameOf(f.input); }},
     {"date",   "the day it was last changed, as 2026-11-26",        [](const NameFacts& f) { return dayOf(f.time); }},
+    {"width",  "the width of the output in pixels",                 [](const NameFacts& f) { return sideOf(f.width, "{width}"); }, true, true},
+    {"height", "its height",                                        [](const NameFacts& f) { return sideOf(f.height, "{height}"); }, true, true},
 };
 // clang-format on
 constexpr int kMostDigits = 9;
@@ -76,8 +83,9 @@ NamePattern::Piece NamePattern::fieldOf(const QString& text) const
     bool isNumber = false;
     piece.digits = text.mid(colon + 1).toInt(&isNumber);
     if (!field->isNumber || !isNumber || piece.digits < 1 || piece.digits > kMostDigits)
-        throw badPattern(
-            QStringLiteral("{%1}: digits, 1 to %2, go with {n} alone, as in {n:04}").arg(text).arg(kMostDigits));
+        throw badPattern(QStringLiteral("{%1}: digits, 1 to %2, go with {n}, {width} and {height} alone, as in {n:04}")
+                             .arg(text)
+                             .arg(kMostDigits));
     return piece;
 }
 
@@ -130,6 +138,12 @@ QString NamePattern::nameOf(const NameFacts& facts) const
         name += piece.field < 0 ? piece.literal : kFields[piece.field].of(facts).rightJustified(piece.digits, u'0');
     while (name.startsWith(u'/')) name.remove(0, 1); // of an empty {dir}
     return name.replace(QStringLiteral("//"), QStringLiteral("/"));
+}
+
+bool NamePattern::isLate() const
+{
+    return std::ranges::any_of(pieces_,
+                               [](const Piece& each) { return each.field >= 0 && kFields[each.field].isLate; });
 }
 
 QString NamePattern::help()

@@ -12,7 +12,8 @@ struct NameFacts {
     QString dir;    // the folder below the INPUT folder that it was found in; empty: right in it, or given itself
     QString ext;    // of the output, lower case
     int number = 0; // its place in the list, from 1
-    std::int64_t time = 0; // when it was last changed, in seconds as the system counts
+    std::int64_t time = 0;     // when it was last changed, in seconds as the system counts
+    int width = 0, height = 0; // of the output; 0: not known yet
 };
 
 class NamePattern {
@@ -23,6 +24,9 @@ class NamePattern {
 
     /// A path below the target folder, without a slash at its beginning.
     QString nameOf(const NameFacts& facts) const;
+
+    /// It has the size of the output, which is known when the picture is done; until then "{width}" stands in the name.
+    bool isLate() const;
 
     /// Of --help: a line a field.
     static QString help();

@@ -56,7 +56,8 @@ class Targets {
 class Planner {
   public:
     Planner(const ManyOrder& order, const std::vector<InputFile>& inputs, const EndingOf& endingOf)
-        : order_(order), inputs_(inputs), endingOf_(endingOf), pattern_(order.pattern)
+        : order_(order), inputs_(inputs), endingOf_(endingOf),
+          isLate_(!order.inPlace && NamePattern(order.pattern).isLate())
     {
         for (int i = 0; i < static_cast<int>(inputs.size()); ++i)
             if (inputs[std::size_t(i)].identity != FileIdentity{})
@@ -68,33 +69,36 @@ class Planner {
         Plan plan;
         for (int i = 0; i < static_cast<int>(inputs_.size()); ++i) {
             const InputFile& input = inputs_[std::size_t(i)];
-            QString output = outputOf(input, i + 1);
+            const NameFacts facts = factsOf(input, i + 1);
+            QString output = order_.inPlace ? input.path : outputOf(order_, facts);
             auto there = statusOf(output);
             check(input, i, output, there);
             if (shardOf(input.dir, lastName(input.path), order_.shard.count) != order_.shard.index) continue;
             if (there && order_.existing == Existing::Number) output = numbered(output);
-            plan.pictures.push_back({input.path, output, there && isLeft(input, *there)});
+            const bool isSkipped = there && isLeft(order_, {input.seconds, input.nanoseconds},
+                                                   {there->st_mtim.tv_sec, there->st_mtim.tv_nsec});
+            plan.pictures.push_back({input.path, output, isSkipped});
             folders_.insert(folderOf(output));
+            if (isLate_) plan.late.push_back(facts);
         }
+        if (isLate_)
+            for (const auto& [identity, input] : byIdentity_) plan.originals.insert(identity);
         plan.folders = QStringList(folders_.begin(), folders_.end());
         return plan;
     }
 
   private:
-    QString outputOf(const InputFile& input, int number) const
+    NameFacts factsOf(const InputFile& input, int number) const
     {
-        if (order_.inPlace) return input.path;
-        const QString file = lastName(input.path);
-        const QString name =
-            pattern_.nameOf({input.path, input.dir, endingOf_(extensionOf(file)), number, input.seconds});
-        return saveTargetOf(order_.into + (order_.into.endsWith(u'/') ? QString() : QStringLiteral("/")) + name).file;
+        return {input.path, input.dir, endingOf_(extensionOf(lastName(input.path))), number, input.seconds};
     }
 
     void check(const InputFile& input, int at, const QString& output, const std::optional<struct stat>& there)
     {
         if (const int other = targets_.take(output, there, at); other >= 0)
-            throw badArgument(QStringLiteral("%1 and %2 would both become %3; {dir} or {n} in --name keeps them apart")
-                                  .arg(inputs_[std::size_t(other)].path, input.path, output));
+            throw badArgument(QStringLiteral("%1 and %2 %3 both become %4; {dir} or {n} in --name keeps them apart")
+                                  .arg(inputs_[std::size_t(other)].path, input.path,
+                                       isLate_ ? QStringLiteral("may") : QStringLiteral("would"), output));
         if (!there || order_.inPlace) return;
         const auto original = byIdentity_.find({there->st_dev, there->st_ino});
         if (original != byIdentity_.end())
@@ -103,21 +107,11 @@ class Planner {
                     .arg(input.path, inputs_[std::size_t(original->second)].path));
     }
 
-    bool isLeft(const InputFile& input, const struct stat& output) const
-    {
-        if (order_.inPlace) return false;
-        if (order_.existing == Existing::Newer)
-            return std::pair(std::int64_t{output.st_mtim.tv_sec}, std::int64_t{output.st_mtim.tv_nsec}) >=
-                   std::pair(input.seconds, input.nanoseconds);
-        return order_.existing == Existing::Skip;
-    }
-
     /// "a.jpg" becomes "a-2.jpg", or the next that neither is there nor another output.
     QString numbered(const QString& output)
     {
-        const qsizetype dot = output.lastIndexOf(u'.');
         for (int number = 2;; ++number) {
-            const QString name = output.left(dot) + u'-' + QString::number(number) + output.mid(dot);
+            const QString name = numberedName(output, number);
             if (!isThere(name) && targets_.take(name, {}, -2) == -1) return name;
         }
     }
@@ -125,7 +119,7 @@ class Planner {
     const ManyOrder& order_;
     const std::vector<InputFile>& inputs_;
     const EndingOf& endingOf_;
-    const NamePattern pattern_;
+    const bool isLate_;
     std::map<FileIdentity, int> byIdentity_;
     Targets targets_;
     std::set<QString> folders_;
@@ -136,6 +130,24 @@ class Planner {
 Plan planOf(const ManyOrder& order, const std::vector<InputFile>& inputs, const EndingOf& endingOf)
 {
     return Planner(order, inputs, endingOf).plan();
+}
+
+QString outputOf(const ManyOrder& order, const NameFacts& facts)
+{
+    const QString slash = order.into.endsWith(u'/') ? QString() : QStringLiteral("/");
+    return saveTargetOf(order.into + slash + NamePattern(order.pattern).nameOf(facts)).file;
+}
+
+QString numberedName(const QString& output, int number)
+{
+    const qsizetype dot = output.lastIndexOf(u'.');
+    return output.left(dot) + u'-' + QString::number(number) + output.mid(dot);
+}
+
+bool isLeft(const ManyOrder& order, const FileTime& input, const FileTime& output)
+{
+    if (order.inPlace) return false;
+    return order.existing == Existing::Newer ? output >= input : order.existing == Existing::Skip;
 }
 
 int shardOf(const QString& dir, const QString& file, int count)

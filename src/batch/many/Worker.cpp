@@ -1,13 +1,14 @@
 #include "batch/many/Worker.h"
 #include "batch/BatchPlatform.h"
-#include "batch/many/messages.h"
+#include "batch/fonts.h"
+#include "batch/many/LateNames.h"
 #include "batch/onePicture.h"
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/WarmReaders.h"
+#include "pixels/BlockPool.h"
 #include "pixels/threads/Workers.h"
-#include <QCoreApplication>
 #include <cerrno>
 #include <chrono>
 #include <deque>
@@ -20,11 +21,22 @@ namespace velara {
 
 namespace {
 
+/// Of a picture, the next one and two steps of other sizes, as far as they are free at the same time.
+constexpr std::size_t kKeptBlocks = 4;
+
 using Clock = std::chrono::steady_clock;
 
 double millisecondsSince(Clock::time_point begin)
 {
     return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+}
+
+QStringList extensionsOf(const Plan& plan)
+{
+    std::set<QString> all;
+    for (const PlannedPicture& picture : plan.pictures)
+        if (!picture.isSkipped) all.insert(extensionOf(picture.input).toLower());
+    return {all.begin(), all.end()};
 }
 
 /// A picture that is read by another thread.
@@ -107,20 +119,40 @@ class Worker {
             told.kind = Told::Failed;
             reason = QStringLiteral("there is not enough memory");
         }
-        if (told.kind == Told::Written) told.bytes = sizeOfFile(planned(readings_.front()->picture).output);
+        if (told.kind == Told::Written) told.bytes = sizeOfFile(output_);
         told.milliseconds = millisecondsSince(from);
         end(told, reason);
     }
 
     Told::Kind make(Reading& reading)
     {
-        const QString& output = planned(reading.picture).output;
+        output_ = planned(reading.picture).output;
         session_.adopt(std::exchange(reading.loaded, {}), line_.partial, line_.lastGoingBack() >= 0);
         takeSteps(session_, line_);
-        if (line_.many->existing == Existing::Skip && !line_.many->inPlace && isThere(output)) return Told::Skipped;
-        makeFolder(output.left(output.lastIndexOf(u'/')));
-        writePictureOf(session_, line_, output);
+        if (!plan_.late.empty() && !isNamed(reading.picture)) return Told::Skipped;
+        if (line_.many->existing == Existing::Skip && !line_.many->inPlace && isThere(output_)) return Told::Skipped;
+        makeFolder(output_.left(output_.lastIndexOf(u'/')));
+        writePictureOf(session_, line_, output_);
         return Told::Written;
+    }
+
+    /// Asks for the name, which has the size in it. False: what has it already is left.
+    bool isNamed(int picture)
+    {
+        const Bits made = session_.picture();
+        const QSize size = line_.icon ? line_.icon->size : QSize(made.width(), made.height());
+        Told named{Told::Named, picture};
+        named.width = size.width();
+        named.height = size.height();
+        tell(named);
+        WorkOrder answer{};
+        ssize_t got = 0;
+        do got = recv(socket_, &answer, sizeof answer, 0);
+        while (got < 0 && errno == EINTR);
+        if (got != sizeof answer) _exit(0); // nobody waits for it
+        output_ = lateOutput(*line_.many, plan_, named, answer);
+        if (answer.kind == WorkOrder::Refuse) throw fileFault(lateRefusal(plan_, output_, answer));
+        return answer.kind == WorkOrder::Write;
     }
 
     /// Each is looked at once.
@@ -154,10 +186,11 @@ class Worker {
     const Plan& plan_;
     const int socket_;
     BatchPlatform platform_;
-    WarmReaders warm_;
+    WarmReaders warm_{extensionsOf(plan_)};
     Session session_{platform_};
     std::deque<std::unique_ptr<Reading>> readings_; // the first is worked on, or will be
     bool isReady_ = false;                          // that the first can be worked on was told
+    QString output_;                                // of the picture that is worked on
     std::set<QString> folders_;                     // that are there
     Workers reader_;                                // last: it ends first
 };
@@ -166,12 +199,10 @@ class Worker {
 
 void work(const CommandLine& line, const Plan& plan, int socket)
 {
-    static int argc = 1;
-    static char name[] = "velara-batch";
-    static char* argv[] = {name, nullptr};
     // Made in each worker: programs that share one by a fork share its ways to be woken, too.
-    const QCoreApplication application(argc, argv);
+    const auto application = makeApplication(line);
     OutputFile::lookForStrays(false);
+    BlockPool::instance().keepSeveral(kKeptBlocks);
     Worker worker(line, plan, socket);
     worker.run();
     _exit(0); // a reading that is under way ends with it

@@ -1,5 +1,6 @@
 #include "batch/many/runMany.h"
 #include "batch/BatchPlatform.h"
+#include "batch/fonts.h"
 #include "batch/many/Coordinator.h"
 #include "batch/onePicture.h"
 #include "fileio/disk/OutputFile.h"
@@ -78,6 +79,7 @@ int runMany(CommandLine line)
     BatchPlatform platform;
     for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare([&](const QString& path) { return readArgument(platform, path, line.partial); });
+    takeFontsOfForks(line, platform);
     for (const QString& notice : list.notices) complain(printable(notice));
     if (list.files.empty()) throw fileFault(QStringLiteral("there are no pictures among the INPUTs"));
     prepareFolders(order, plan);

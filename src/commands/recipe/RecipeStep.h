@@ -8,6 +8,8 @@
 
 namespace velara {
 
+class Fonts;
+
 /// Reads a picture file; throws what the caller understands.
 using ReadPicture = std::function<Bits(const QString& path)>;
 
@@ -25,6 +27,9 @@ struct RecipeStep {
     QStringList pictures = {}; // the names of the files among its arguments
     /// Reads these; to be called once, before the job runs. Null where there are none.
     std::function<void(const ReadPicture&)> prepare = {};
+    QStringList fonts = {}; // the families that it draws with
+    /// Says who draws them; to be called once, before the job runs. Null where it draws no text.
+    std::function<void(Fonts&)> drawBy = {};
 
     GoesBack goesBack() const
     {
@@ -37,6 +42,8 @@ struct RecipeStep {
 RecipeStep parseRecipeStep(const QString& text);
 /// A shape as after "--select". Throws StepFault.
 RecipeStep parseSelectionStep(const QString& shape);
+/// Throws StepFault, which names it, where one of these families isn't installed; no other takes its place.
+void checkFonts(const QStringList& families, Fonts& fonts);
 /// An argument as a value of the parameter's type; pictures stay file names until they are read. Throws StepFault.
 Argument parseArgument(const QString& given, const Parameter& parameter);
 

@@ -6,7 +6,7 @@
 #include "engine/cBitFilter.h"
 #include "fileio/formats.h"
 #include "pixels/RuntimeError.h"
-#include "seams/PictureReader.h"
+#include "seams/Platform.h"
 #include "seams/findRow.h"
 #include <algorithm>
 
@@ -96,14 +96,22 @@ Bits pictureFrom(PictureReader& reader, const QString& path)
     return picture.bits;
 }
 
-void run(const std::vector<RecipeStep>& steps, PictureReader& reader, Document& draft, cBitFilter& filter)
+/// Gets what the step needs from outside.
+void prepare(const RecipeStep& step, Platform& platform)
+{
+    if (step.prepare) step.prepare([&](const QString& path) { return pictureFrom(platform, path); });
+    if (!step.drawBy) return;
+    checkFonts(step.fonts, platform.fonts());
+    step.drawBy(platform.fonts());
+}
+
+void run(const std::vector<RecipeStep>& steps, Platform& platform, Document& draft, cBitFilter& filter)
 {
     for (const RecipeStep& step : steps)
-        if (step.prepare)
-            named(step, [&] {
-                step.prepare([&](const QString& path) { return pictureFrom(reader, path); });
-                if (filter.Progress) filter.Progress(0); // it may be cancelled meanwhile
-            });
+        named(step, [&] {
+            prepare(step, platform);
+            if (step.prepare && filter.Progress) filter.Progress(0); // it may be cancelled meanwhile
+        });
     const auto goesBack = [](const RecipeStep& step) { return step.goesBack() != GoesBack::Never; };
     RecipeRun recipe(draft, filter, std::ranges::any_of(steps, goesBack));
     const auto whole = filter.Progress;
@@ -131,10 +139,11 @@ bool keepsSelection(const QString& line)
 
 } // namespace
 
-Job recipeJob(std::vector<RecipeStep> steps, PictureReader& reader)
+Job recipeJob(std::vector<RecipeStep> steps, Platform& platform)
 {
-    return
-        [steps = std::move(steps), &reader](Document& draft, cBitFilter& filter) { run(steps, reader, draft, filter); };
+    return [steps = std::move(steps), &platform](Document& draft, cBitFilter& filter) {
+        run(steps, platform, draft, filter);
+    };
 }
 
 QString recipeWords(const std::vector<RecipeStep>& steps)

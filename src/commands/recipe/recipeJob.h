@@ -6,11 +6,12 @@
 
 namespace velara {
 
-class PictureReader;
+class Platform;
 
 /// All steps, in order, as one job, with the same result as velara-batch has. It first reads the pictures that they
-/// name; a failure names the step. Progress is that of the whole. reader is asked on the job's thread. A job runs once.
-Job recipeJob(std::vector<RecipeStep> steps, PictureReader& reader);
+/// name and looks for their fonts; a failure names the step. Progress is that of the whole. platform is asked for both
+/// on the job's thread. A job runs once.
+Job recipeJob(std::vector<RecipeStep> steps, Platform& platform);
 
 /// The words of such a change, one step a line; empty where they would not mean the same elsewhere: a step goes back
 /// beyond the first, or a picture is named relatively.

@@ -5,6 +5,7 @@
 #include "commands/presets.h"
 #include "commands/recipe/geometrySteps.h"
 #include "commands/recipe/stepText.h"
+#include "commands/recipe/textStep.h"
 #include "commands/vocabulary.h"
 #include "document/resizing.h"
 #include "document/texturing.h"
@@ -89,6 +90,7 @@ std::vector<const Operation*> stepOperations()
     all.push_back(&texturizeOperation());
     all.push_back(&setDepthOperation());
     for (const Operation& operation : geometryOperations()) all.push_back(&operation);
+    all.push_back(&textOperation());
     return all;
 }
 

@@ -3,6 +3,7 @@
 #include "commands/recipe/RecipeStep.h"
 #include "commands/recipe/nearest.h"
 #include "commands/recipe/stepWords.h"
+#include "commands/recipe/textStep.h"
 #include "seams/findRow.h"
 #include "seams/text.h"
 #include <charconv>
@@ -78,10 +79,11 @@ QString signature(const Operation& operation)
         (near.isEmpty() ? QStringLiteral("; --list prints them all") : QStringLiteral("; did you mean %1?").arg(near)));
 }
 
-Arguments parseArguments(const Operation& operation, const QStringList& texts)
+void checkCount(const Operation& operation, const QStringList& texts)
 {
     const auto& parameters = operation.parameters;
     const auto given = static_cast<std::size_t>(texts.size());
+    if (&operation == &textOperation() && given > 0 && given % parameters.size() == 0) return; // several texts
     if (given > parameters.size() || given + operation.optional < parameters.size())
         throw unusable(QStringLiteral("%1 takes %2%3 argument%4, not %5")
                            .arg(signature(operation))
@@ -91,6 +93,11 @@ Arguments parseArguments(const Operation& operation, const QStringList& texts)
                            .arg(parameters.size())
                            .arg(parameters.size() == 1 ? "" : "s")
                            .arg(texts.size()));
+}
+
+Arguments parseArguments(const Operation& operation, const QStringList& texts)
+{
+    const auto& parameters = operation.parameters;
     Arguments arguments;
     for (int i = 0; i < texts.size(); ++i)
         arguments.push_back(parseArgument(texts[i], parameters[static_cast<std::size_t>(i)]));
@@ -159,6 +166,8 @@ RecipeStep parseRecipeStep(const QString& text)
         if (!operation) throw unusable(QStringLiteral("%1 is a command word and takes no arguments").arg(name));
         if (open >= 0 && !text.endsWith(u')')) throw unusable(QStringLiteral("the closing bracket is missing"));
         const QStringList texts = open < 0 ? QStringList() : splitArguments(text.mid(open + 1).chopped(1));
+        checkCount(*operation, texts);
+        if (operation == &textOperation()) return parseTextStep(text, texts);
         return operationStep(text, *operation, parseArguments(*operation, texts));
     });
 }

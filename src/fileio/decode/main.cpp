@@ -2,17 +2,15 @@
 // Starting a program that needs few libraries takes a third of the time, so velara-decode has the readers of the common
 // formats alone, and becomes velara-decode-all for a file of any other.
 #include "fileio/decode/answer.h"
+#include "fileio/decode/becomeAll.h"
 #include "fileio/decode/cage/Cage.h"
 #include "fileio/decode/decode.h"
 #include "fileio/decode/warm.h"
 #include "fileio/load/DecodeProtocol.h"
-#include "fileio/marks.h"
 #include <algorithm>
-#include <array>
 #include <cstdio>
-#include <filesystem>
 #include <new>
-#include <span>
+#include <ranges>
 #include <string_view>
 #include <sys/mman.h>
 #include <sys/socket.h>
@@ -50,20 +48,18 @@ bool isCalled()
 }
 
 #ifdef VELARA_COMMON_READERS
-/// Goes on as velara-decode-all where a reader is missing here, or may be; returns when there is no such program.
-void becomeAllReaders(char** argv)
+/// Whether pictures are wanted that can't be read here, or may be. A loaded program is told their extensions, with
+/// commas between them; none: any.
+bool needsAllReaders(const char* extension, const char* wish)
 {
-    const bool mayReadAny = argv[2] && std::string_view(argv[2]) == kWarmWish;
-    std::array<std::uint8_t, kMarkedBytes> head{};
-    const ssize_t count = pread(kPicture, head.data(), head.size(), 0);
-    const auto bytes = std::span(head).first(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    if (!mayReadAny && readsHere(argv[1], bytes)) return;
-    std::error_code failed;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", failed);
-    execv((self.parent_path() / "velara-decode-all").c_str(), argv);
+    if (!wish || std::string_view(wish) != kWarmWish) return !readsFileHere(extension);
+    const std::string_view all = extension;
+    return all.empty() || !std::ranges::all_of(std::views::split(all, ','), [](const auto& each) {
+               return readsHere(std::string_view(each.begin(), each.end()), {});
+           });
 }
 #else
-void becomeAllReaders(char**) {}
+bool needsAllReaders(const char*, const char*) { return false; }
 #endif
 
 } // namespace
@@ -71,7 +67,7 @@ void becomeAllReaders(char**) {}
 int main(int argc, char** argv)
 {
     if (argc >= 2 && isCalled()) { // "--cage" is an extension here
-        becomeAllReaders(argv);
+        if (needsAllReaders(argv[1], argc > 2 ? argv[2] : nullptr)) becomeAllReaders(argv);
         QStringList wishes;
         for (int i = 2; i < argc; ++i) wishes << QString::fromUtf8(argv[i]);
         if (wishes.contains(kWarmWish)) serveForks();

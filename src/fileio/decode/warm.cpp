@@ -1,5 +1,6 @@
 #include "fileio/decode/warm.h"
 #include "fileio/decode/answer.h"
+#include "fileio/decode/becomeAll.h"
 #include "fileio/decode/decode.h"
 #include "fileio/load/DecodeProtocol.h"
 #include <QStringList>
@@ -40,6 +41,17 @@ Order receive()
     return order;
 }
 
+/// For a file of another kind than its name says.
+void becomeAll(const QStringList& words)
+{
+    std::vector<std::string> texts{"velara-decode-all"};
+    for (const QString& word : words) texts.push_back(word.toStdString());
+    std::vector<char*> argv;
+    for (std::string& text : texts) argv.push_back(text.data());
+    argv.push_back(nullptr);
+    becomeAllReaders(argv.data());
+}
+
 [[noreturn]] void read(const Order& order)
 {
     setpgid(0, 0);
@@ -48,6 +60,7 @@ Order receive()
     for (std::size_t i = 0; i < 3; ++i) aside[i] = fcntl(order.descriptors[i], F_DUPFD, kPicture + 1);
     for (std::size_t i = 0; i < 3; ++i) dup2(aside[i], kPlaces[i]);
     close_range(kPicture + 1, ~0U, 0);
+    if (!readsFileHere(order.words.first().toStdString())) becomeAll(order.words);
     answer(order.words.first(), order.words.mid(1));
     _exit(2);
 }

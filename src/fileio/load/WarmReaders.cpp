@@ -63,14 +63,18 @@ Descriptor movedUp(int fd)
 
 } // namespace
 
-WarmReaders::WarmReaders()
+WarmReaders::WarmReaders(const QStringList& extensions)
 {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
     const Descriptor theirs = movedUp(ends[0]), nothing = movedUp(open("/dev/null", O_RDWR | O_CLOEXEC));
     line = movedUp(ends[1]);
-    pid_ = startReader(
-        {findDecoder(), QString(), theirs.get(), nothing.get(), nothing.get(), {QLatin1String(decode::kWarmWish)}});
+    pid_ = startReader({findDecoder(),
+                        extensions.join(u','),
+                        theirs.get(),
+                        nothing.get(),
+                        nothing.get(),
+                        {QLatin1String(decode::kWarmWish)}});
     if (started()) cold = std::exchange(startReader, startWarm);
 }
 

@@ -9,7 +9,9 @@ namespace velara {
 /// started anew where the loaded one can't be had.
 class WarmReaders {
   public:
-    WarmReaders();
+    /// extensions: lower case, those of the pictures to come; it has fewer readers to carry where these are common
+    /// ones. Empty: any.
+    explicit WarmReaders(const QStringList& extensions = {});
     ~WarmReaders();
     WarmReaders(const WarmReaders&) = delete;
     WarmReaders& operator=(const WarmReaders&) = delete;

@@ -1,4 +1,5 @@
 #include "ui/compose/fLayers.h"
+#include "commands/recipe/textStep.h"
 #include "document/Document.h"
 #include "document/Workspace.h"
 #include "document/road/Frame.h"
@@ -374,7 +375,8 @@ void fLayers::apply(std::function<void(bool done)> then)
     if (!document_ || done_) return then(true);
     setEnabled(false);
     const Job job = [layers = asTyped()](Document& draft, cBitFilter&) { draft.setBits(layers.Blend()); };
-    frame_.workspace().change(document_, {job, After::Step, tr("Text")},
+    const QString words = textWords(layers_.state(), frame_.platform().fonts());
+    frame_.workspace().change(document_, {job, After::Step, tr("Text"), words},
                               [this, alive = QPointer(this), then](const Outcome& outcome) {
                                   if (!alive) return;
                                   setEnabled(true);

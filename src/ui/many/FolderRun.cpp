@@ -1,8 +1,10 @@
 #include "ui/many/FolderRun.h"
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimer>
 #include <csignal>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -29,19 +31,19 @@ QStringList argumentsOf(const FolderOrder& order)
     return arguments;
 }
 
-FolderRun::FolderRun(QObject* parent) : QObject(parent)
+FolderRun::FolderRun(QObject* parent) : QObject(parent), process_(new QProcess(this))
 {
-    process_.setChildProcessModifier([] { // a group of its own, which ends with the editor
+    process_->setChildProcessModifier([] { // a group of its own, which ends with the editor
         setpgid(0, 0);
         prctl(PR_SET_PDEATHSIG, SIGTERM);
     });
-    process_.setStandardInputFile(QProcess::nullDevice());
-    connect(&process_, &QProcess::readyReadStandardOutput, this, &FolderRun::readReport);
-    connect(&process_, &QProcess::readyReadStandardError, this, &FolderRun::readErrors);
-    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart) emit ended(false, process_.errorString());
+    process_->setStandardInputFile(QProcess::nullDevice());
+    connect(process_, &QProcess::readyReadStandardOutput, this, &FolderRun::readReport);
+    connect(process_, &QProcess::readyReadStandardError, this, &FolderRun::readErrors);
+    connect(process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) emit ended(false, process_->errorString());
     });
-    connect(&process_, &QProcess::finished, this, [this](int, QProcess::ExitStatus status) {
+    connect(process_, &QProcess::finished, this, [this](int, QProcess::ExitStatus status) {
         readReport();
         readErrors();
         if (status == QProcess::CrashExit && !cancelled_) said_ += tr("\nIt ended before its time.");
@@ -51,16 +53,19 @@ FolderRun::FolderRun(QObject* parent) : QObject(parent)
     });
 }
 
+/// Nobody waits for the program: it goes on by itself until it has ended the pictures at hand. If it doesn't, it is
+/// killed, at the latest with the editor.
 FolderRun::~FolderRun()
 {
-    disconnect(&process_, nullptr, this, nullptr);
+    process_->disconnect(this);
     if (!isRunning()) return;
     constexpr int kPatience = 3000; // milliseconds
     signalAll(SIGCONT);
-    process_.terminate();
-    if (process_.waitForFinished(kPatience)) return;
-    signalAll(SIGKILL);
-    process_.waitForFinished(kPatience);
+    process_->terminate();
+    QProcess* left = process_;
+    left->setParent(qApp);
+    connect(left, &QProcess::finished, left, &QObject::deleteLater);
+    QTimer::singleShot(kPatience, left, [pid = static_cast<pid_t>(left->processId())] { ::kill(-pid, SIGKILL); });
 }
 
 void FolderRun::start(const QString& program, const QStringList& arguments, const QString& log)
@@ -70,12 +75,12 @@ void FolderRun::start(const QString& program, const QStringList& arguments, cons
     log_.setFileName(log);
     if (!log.isEmpty() && QDir().mkpath(QFileInfo(log).path())) log_.open(QIODevice::WriteOnly);
     keep("# " + (QStringList(program) + arguments).join(u' ').toUtf8() + '\n');
-    process_.start(program, arguments);
+    process_->start(program, arguments);
 }
 
 void FolderRun::signalAll(int signal) const
 {
-    if (const auto first = static_cast<pid_t>(process_.processId())) ::kill(-first, signal);
+    if (const auto first = static_cast<pid_t>(process_->processId())) ::kill(-first, signal);
 }
 
 void FolderRun::pause(bool paused)
@@ -89,7 +94,7 @@ void FolderRun::cancel()
 {
     if (!isRunning()) return;
     pause(false);
-    process_.terminate(); // the coordinator alone: it ends its own
+    process_->terminate(); // the coordinator alone: it ends its own
     if (std::exchange(cancelled_, true)) signalAll(SIGKILL);
 }
 
@@ -101,9 +106,9 @@ void FolderRun::keep(const QByteArray& line)
 /// Whole lines; the rest comes later.
 void FolderRun::readReport()
 {
-    process_.setReadChannel(QProcess::StandardOutput);
-    while (process_.canReadLine()) {
-        const QByteArray line = process_.readLine();
+    process_->setReadChannel(QProcess::StandardOutput);
+    while (process_->canReadLine()) {
+        const QByteArray line = process_->readLine();
         keep(line);
         const QJsonObject said = QJsonDocument::fromJson(line).object();
         if (said.isEmpty()) continue;
@@ -121,7 +126,7 @@ void FolderRun::readReport()
 void FolderRun::readErrors()
 {
     constexpr qsizetype kMostKept = 2000;
-    const QByteArray text = process_.readAllStandardError();
+    const QByteArray text = process_->readAllStandardError();
     keep(text);
     said_ = (said_ + QString::fromUtf8(text)).right(kMostKept);
 }

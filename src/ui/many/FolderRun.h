@@ -34,13 +34,13 @@ class FolderRun final : public QObject {
     Q_OBJECT
   public:
     explicit FolderRun(QObject* parent = nullptr);
-    /// Ends the work: outputs are whole or not there.
+    /// Ends the work, without waiting for it: outputs are whole or not there.
     ~FolderRun() override;
 
     /// log: every line of the report, and what the program says, go to this file, too; empty: none. ended() comes even
     /// if the program can't be started.
     void start(const QString& program, const QStringList& arguments, const QString& log);
-    bool isRunning() const { return process_.state() != QProcess::NotRunning; }
+    bool isRunning() const { return process_->state() != QProcess::NotRunning; }
     bool isPaused() const { return paused_; }
     /// Stops all of its processes where they are, or lets them go on.
     void pause(bool paused);
@@ -58,7 +58,7 @@ class FolderRun final : public QObject {
     void keep(const QByteArray& line);
     void signalAll(int signal) const;
 
-    QProcess process_;
+    QProcess* process_;
     QFile log_;
     QString said_;
     bool paused_ = false, cancelled_ = false;

@@ -94,7 +94,8 @@ void fFolderRun::makeTarget(QGridLayout& grid)
                           tr("Over the originals, which are lost"));
     txtName_ = named(new QLineEdit(QStringLiteral("{dir}/{name}.{ext}")), "txtName", tr("Names of the new files"));
     txtName_->setToolTip(tr("{name}  the picture's own name\n{ext}  the ending of its format\n{n:04}  its number, with "
-                            "four digits\n{dir}  its folder below the one that was chosen\nSuch as {name}-web.{ext}"));
+                            "four digits\n{dir}  its folder below the one that was chosen\n{width}, {height}  its size "
+                            "in pixels\nSuch as {name}-web.{ext}"));
     cboFormat_ = named(new QComboBox, "cboFormat", tr("Format"));
     cboFormat_->addItem(tr("Each as it is"), QString());
     for (const Format& format : kFormats)

@@ -4,6 +4,7 @@
 #include "commands/recipe/recipeJob.h"
 #include "document/Draft.h"
 #include "support/files.h"
+#include "ui/compose/fLayers.h"
 #include "ui/history/fHistory.h"
 #include "ui/merge/fOverlay.h"
 
@@ -181,6 +182,12 @@ TEST_F(History, WhatToolsAndBoxesComputeHasWordsToo)
             controlOf<QAbstractButton>(*frame, effect)->click();
             controlOf<QAbstractButton>(*frame, "CmdApply")->click();
         });
+    expectWords("TEXT(yellow,", [&] {
+        command("TEXTTOOLS");
+        auto* texts = frame->findChild<fLayers*>();
+        QTest::keyClicks(texts->findChild<QWidget*>("picImage"), "yellow");
+        controlOf<QAbstractButton>(*texts, "CmdOK")->click();
+    });
     openFile(file("over.bmp", 12, 9));
     fImage* over = frame->GetActiveImage();
     const auto merge = [&] {
@@ -195,6 +202,37 @@ TEST_F(History, WhatToolsAndBoxesComputeHasWordsToo)
     command("INVERT");
     merge();
     EXPECT_EQ(wordsOf(image), "") << "it isn't the picture of the file any more";
+}
+
+/// The words of commands are run by the test of the road; a tool has some, too, or stands here with the reason.
+TEST_F(History, AToolHasWordsOrPaintsByHand)
+{
+    const std::map<std::string_view, const char*> kByHand = {
+        {"SelectionMove", "moves what a hand has selected, to where it lets go"},
+        {"Brush", "follows the hand"},
+        {"Fill", "begins with the color that lies under the pointer"},
+        {"Shape", "is drawn from where the hand presses to where it lets go"},
+        {"Airbrush", "follows the hand, and sprays at random"},
+        {"Stamp", "puts a picture of the program's lists under the hand"},
+        {"Pencil", "follows the hand"},
+    };
+    setup.ForeColor = 0x3080F0;
+    setup.MoveSelection = 1;
+    std::set<std::string_view> painted;
+    for (const ToolRow& tool : toolRows()) {
+        fImage* image = open(randomBits(40, 30, 1), "a.bmp");
+        image->document().Region.CreateRect(3, 2, 17, 14, Combine::Or, true);
+        frame->workspace().handOver(image->document());
+        click(tool.name);
+        drag(image, {6, 5}, {14, 11});
+        frame->workspace().wait();
+        if (image->document().undo.UndoTop() < 2) continue; // it picks, selects, or has nothing to put
+        painted.insert(tool.name);
+        EXPECT_EQ(wordsOf(image).isEmpty(), kByHand.contains(tool.name)) << tool.name;
+        image->document().Changed = false;
+        image->parentWidget()->close();
+    }
+    EXPECT_TRUE(painted.contains("Gradient") && painted.contains("Pencil"));
 }
 
 TEST_F(History, ItRunsOnTheOtherOpenPicturesEachWithOneUndoStep)

@@ -25,6 +25,8 @@ TEST(NamePattern, FieldsAreFilled)
         {"x/{name}.tiff", "x/Sea.2.tiff"},
     };
     for (const auto& [pattern, name] : kCases) EXPECT_EQ(name, named(pattern)) << pattern;
+    EXPECT_EQ("Sea.2-{width}x{height}.png", named("{name}-{width}x{height:05}")) << "not known yet";
+    EXPECT_EQ("64x00048.png", NamePattern("{width}x{height:05}").nameOf({"a.jpg", "", "png", 1, 0, 64, 48}));
     EXPECT_EQ("b.png", named("{dir}/{name}.{ext}", "b.jpg", "")) << "no slash of an empty folder";
     EXPECT_EQ("x/b.png", named("x/{dir}/{name}.{ext}", "b.jpg", ""));
     EXPECT_EQ(".hidden.png", named("{name}", ".hidden", ""));
@@ -35,7 +37,7 @@ TEST(NamePattern, WhatIsOfNoUseIsNamed)
 {
     const std::tuple<const char*, const char*> kCases[] = {
         {"{nme}.{ext}", "there is no field {nme}; there are {name}, {ext}"},
-        {"{name:3}", "go with {n} alone"},
+        {"{name:3}", "go with {n}, {width} and {height} alone"},
         {"{n:0}", "1 to 9"},
         {"{n:x}", "{n:x}"},
         {"{name", "no partner"},

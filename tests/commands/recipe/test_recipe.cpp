@@ -2,6 +2,7 @@
 #include "commands/recipe/Recipe.h"
 #include "commands/recipe/stepText.h"
 #include "commands/recipe/stepWords.h"
+#include "commands/recipe/textStep.h"
 #include "document/Draft.h"
 #include "seams/text.h"
 #include "support/files.h"
@@ -39,7 +40,7 @@ TEST(StepText, EveryOperationIsReadBackAsTheSame)
 {
     const Bits picture = randomBits(60, 40, 5), overlay = randomBits(9, 7, 6);
     for (const Operation* operation : stepOperations()) {
-        if (operation->parameters.empty()) continue;
+        if (operation->parameters.empty() || operation == &textOperation()) continue;
         Arguments arguments = typicalArguments(*operation), named;
         if (operation->name == "ApplyTexture") arguments.resize(2);
         for (Argument& argument : arguments) {

@@ -210,13 +210,17 @@ TEST_F(PictureLoader, WarmReadersReadAsColdOnes)
     const QString good = put("x.ppm", kPicture), bad = put("bad.png", "no picture");
     const auto cold = loadThroughDecoder(good, "ppm", kDecoder);
     const QString reason = loadThroughDecoder(bad, "png", kDecoder).reason;
+    const QString rare = put("rare.ppm", "<svg xmlns='http://www.w3.org/2000/svg' width='3' height='2'/>");
+    const auto drawn = loadThroughDecoder(rare, "ppm", kDecoder);
+    EXPECT_FALSE(drawn.bits.isNull()) << drawn.reason.toStdString();
     const auto starter = startReader;
-    {
-        const WarmReaders warm;
+    for (const QStringList& extensions : {QStringList(), QStringList{"png", "ppm"}}) {
+        const WarmReaders warm(extensions);
         ASSERT_TRUE(warm.started());
         EXPECT_NE(starter, startReader);
         for (int i = 0; i < 3; ++i) EXPECT_EQ(cold.bits, loadThroughDecoder(good, "ppm", "/nonexistent").bits) << i;
         EXPECT_EQ(reason, loadThroughDecoder(bad, "png", "/nonexistent").reason);
+        EXPECT_EQ(drawn.bits, loadThroughDecoder(rare, "ppm", "/nonexistent").bits) << "of a rare kind under its name";
         EXPECT_NE(cold.properties, "");
         EXPECT_EQ(cold.properties, loadThroughDecoder(good, "ppm", "/nonexistent").properties);
         EXPECT_EQ(QSize(3, 2), loadSmall(good, "ppm", "/nonexistent", {9, 9}).size) << "with a wish";

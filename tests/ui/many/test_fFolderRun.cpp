@@ -128,6 +128,17 @@ TEST_F(FolderRunTest, ItIsHeldLetGoOnAndEnded)
     EXPECT_EQ(stateOfProgram(), 0);
 }
 
+TEST_F(FolderRunTest, NobodyWaitsForAProgramThatGoesOnWhenTheEditorCloses)
+{
+    show("trap '' TERM\ncd '" + folder.path().toUtf8() + "'\n>deaf\nwhile :; do :; done");
+    button("cmdRun")->click();
+    ASSERT_TRUE(comes([this] { return QFile::exists(path("deaf")); }));
+    button("cmdPause")->click();
+    window.reset();
+    EXPECT_TRUE(comes([this] { return stateOfProgram() == 'R'; })) << "it isn't held any more, and was not waited for";
+    EXPECT_TRUE(comes([this] { return stateOfProgram() == 0; })) << "its time is over";
+}
+
 TEST_F(FolderRunTest, AProgramThatIsNotThereIsTold)
 {
     show("exit 0");

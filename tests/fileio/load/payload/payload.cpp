@@ -171,6 +171,8 @@ Decoded tryIt(const FileBytes& file)
 
 } // namespace
 
+bool readsHere(std::string_view, std::span<const std::uint8_t>) { return true; }
+
 Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> bytes)
 {
     if (extension == "nofilter") {

@@ -1,4 +1,5 @@
-// QtFonts: the fonts of the desktop, through Qt's text layout.
+// QtFonts: the fonts of the system, through Qt's text layout. The same text gets the same pixels in every program and
+// on every desktop.
 #pragma once
 #include "seams/Fonts.h"
 

@@ -1,4 +1,4 @@
-#include "platform/desktop/QtFonts.h"
+#include "platform/QtFonts.h"
 #include "pixels/images.h"
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -36,6 +36,8 @@ QFont fontOf(const TextStyle& style)
     font.setStrikeOut(style.strikeOut);
     // Grey antialiasing: a picture is seen on any screen, and a mask has one channel.
     font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    // Not the desktop's setting, nor the screen's: letters keep their shape wherever they are drawn.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
 }
 

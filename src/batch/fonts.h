@@ -1,0 +1,18 @@
+// The fonts of steps that draw texts. They need an application object with a platform, though no window or display.
+#pragma once
+#include "batch/CommandLine.h"
+#include <QCoreApplication>
+#include <memory>
+
+namespace velara {
+
+/// The process's application object: one that has the system's fonts where a step draws with them, which takes longer
+/// to start.
+std::unique_ptr<QCoreApplication> makeApplication(const CommandLine& line);
+
+/// Lets the steps draw by the platform's fonts. Throws a Failure that names a font that isn't installed.
+void takeFonts(const CommandLine& line, Platform& platform);
+/// The same for a process without an application object, whose forks will draw: another fork looks for the fonts.
+void takeFontsOfForks(const CommandLine& line, Platform& platform);
+
+} // namespace velara
