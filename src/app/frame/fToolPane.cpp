@@ -146,7 +146,9 @@ bool fToolPane::eventFilter(QObject* watched, QEvent* event)
 {
     const qsizetype at = strip_.indexOf(qobject_cast<QToolButton*>(watched));
     if (event->type() != QEvent::KeyPress || at < 0) return QFrame::eventFilter(watched, event);
-    switch (static_cast<QKeyEvent*>(event)->key()) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    switch (isRightToLeft() && (key == Qt::Key_Left || key == Qt::Key_Right) ? Qt::Key_Left + Qt::Key_Right - key
+                                                                             : key) {
     case Qt::Key_Left:
         strip_[std::max<qsizetype>(at - 1, 0)]->setFocus(Qt::BacktabFocusReason);
         return true;

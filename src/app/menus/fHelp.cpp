@@ -75,7 +75,9 @@ fHelp::fHelp(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(list_, 1);
     column->addWidget(buttons);
-    resize(QSize(std::max(600, list_->header()->length() + 60), 560).boundedTo(screen()->availableSize()));
+    const QAbstractItemView& columns = *list_;
+    const int needed = columns.sizeHintForColumn(0) + columns.sizeHintForColumn(1) + 60; // the bar and the margins
+    resize(QSize(std::max(600, needed), 560).boundedTo(screen()->availableSize()));
 }
 
 } // namespace velara

@@ -83,6 +83,7 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
     if (element != CE_MenuItem || !item) return fControlStyle::drawControl(element, option, painter, widget);
     const QPalette& palette = item->palette;
     const QRect box = item->rect;
+    const auto seen = [&](const QRect& fromTheLeft) { return visualRect(item->direction, box, fromTheLeft); };
     const bool enabled = item->state & State_Enabled;
     const bool selected = (item->state & State_Selected) && enabled;
     painter->save();
@@ -100,21 +101,21 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
     if (!selected) painter->fillRect(box, palette.window());
     if (selected) {
         painter->fillRect(box, palette.window());
-        painter->fillRect(box.adjusted(offset, 0, 0, 0), palette.highlight());
+        painter->fillRect(seen(box.adjusted(offset, 0, 0, 0)), palette.highlight());
     }
 
     const QColor ink = selected  ? palette.color(QPalette::Active, QPalette::HighlightedText)
                        : enabled ? palette.color(QPalette::Active, QPalette::WindowText)
                                  : paleText(palette);
     const ItemText text = split(item->text);
-    const QRect line = box.adjusted(kTextLeft, 0, -kArrow, 0);
+    const QRect line = seen(box.adjusted(kTextLeft, 0, -kArrow, 0));
     painter->setPen(ink);
     painter->setFont(item->font);
     const int mnemonic = styleHint(SH_UnderlineShortcut, item, widget) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | mnemonic, text.caption);
     painter->drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text.shortcut);
 
-    const QRect place(box.left() + 4, box.top() + (box.height() - kPicture) / 2, kPicture, kPicture);
+    const QRect place = seen(QRect(box.left() + 4, box.top() + (box.height() - kPicture) / 2, kPicture, kPicture));
     if (checked) {
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(QPen(palette.color(QPalette::WindowText), 1.8));
@@ -124,12 +125,14 @@ void fMenuStyle::drawControl(ControlElement element, const QStyleOption* option,
     } else if (!item->icon.isNull()) {
         item->icon.paint(painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
     }
-    if (selected && picture)
-        frame3d(*painter, palette, box.left() + 1, box.top(), box.left() + 21, box.bottom(), false);
+    if (selected && picture) {
+        const QRect frame = seen(QRect(box.left() + 1, box.top(), 21, box.height()));
+        frame3d(*painter, palette, frame.left(), frame.top(), frame.right(), frame.bottom(), false);
+    }
 
     if (item->menuItemType == QStyleOptionMenuItem::SubMenu) {
         QStyleOption arrow;
-        arrow.rect = QRect(box.right() - kArrow + 2, box.top() + (box.height() - 10) / 2, 10, 10);
+        arrow.rect = seen(QRect(box.right() - kArrow + 2, box.top() + (box.height() - 10) / 2, 10, 10));
         arrow.palette = palette;
         arrow.palette.setColor(QPalette::WindowText, ink);
         arrow.palette.setColor(QPalette::ButtonText, ink);

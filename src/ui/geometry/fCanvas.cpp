@@ -146,6 +146,7 @@ QWidget* fCanvas::makeAnchors()
                     {"←", QT_TR_NOOP("Left")},       {"•", QT_TR_NOOP("Middle")}, {"→", QT_TR_NOOP("Right")},
                     {"↙", QT_TR_NOOP("Lower left")}, {"↓", QT_TR_NOOP("Bottom")}, {"↘", QT_TR_NOOP("Lower right")}};
     auto* box = new QWidget;
+    box->setLayoutDirection(Qt::LeftToRight); // they are places on the picture
     auto* grid = new QGridLayout(box);
     grid->setSpacing(1);
     grid->setContentsMargins(0, 0, 0, 0);

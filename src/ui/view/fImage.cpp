@@ -37,6 +37,7 @@ fImage::fImage(Frame& frame, const DocumentHandle& document, QWidget* parent)
     setSpokenRole(*this, QAccessible::Document);
     setObjectName("fImage");
     setAccessibleName(tr("Picture window"));
+    setLayoutDirection(Qt::LeftToRight); // a picture has no other
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Dark);
     setFocusPolicy(Qt::StrongFocus); // an empty document has no display to take it

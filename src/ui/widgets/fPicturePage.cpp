@@ -30,6 +30,7 @@ fPicturePage::fPicturePage(const Names& names, const QString& accessibleName, fP
       horizontal_(barNamed(names.horizontal, Qt::Horizontal, tr("%1, left and right").arg(accessibleName))),
       vertical_(barNamed(names.vertical, Qt::Vertical, tr("%1, up and down").arg(accessibleName)))
 {
+    setLayoutDirection(Qt::LeftToRight); // a picture has no other
     named(container_, QLatin1String(names.container), accessibleName);
     container_->setMinimumSize(64, 64);
     container_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

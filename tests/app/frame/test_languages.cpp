@@ -140,8 +140,21 @@ struct Languages : WindowWalk, ::testing::WithParamInterface<const char*> {
         const auto* label = qobject_cast<const QLabel*>(&widget);
         return label && label->buddy() ? QKeySequence::mnemonic(label->text()) : QKeySequence();
     }
+    /// Pictures, and what stands for places in them, are never mirrored.
+    static void compareSides(const QWidget& window)
+    {
+        const auto *left = window.findChild<QWidget*>("anchor_0"), *right = window.findChild<QWidget*>("anchor_2");
+        if (left) {
+            EXPECT_LT(left->x(), right->x());
+        }
+        for (const QScrollBar* bar : window.findChildren<QScrollBar*>())
+            if (isA(bar->parentWidget(), {"velara::fImage", "velara::fPicturePage"})) {
+                EXPECT_EQ(bar->layoutDirection(), Qt::LeftToRight) << window.objectName().toStdString();
+            }
+    }
     void look(QWidget& window)
     {
+        compareSides(window);
         QHash<QKeySequence, QString> keys;
         QList<QWidget*> all = window.findChildren<QWidget*>();
         all << &window;
