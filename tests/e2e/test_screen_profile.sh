@@ -70,6 +70,20 @@ xprop -root -remove _ICC_PROFILE
 until_true "red without any" shows $x $y red
 profile blue red | "$bin/set_property" _ICC_PROFILE
 until_true "blue before the end" shows $x $y blue
+
+# Two screens, of which the right one has another profile: the picture follows the window.
+xrandr --setmonitor left 640/169x900/238+0+0 screen --setmonitor right 640/169x900/238+640+0 none >/dev/null
+until_true "blue on the left" shows $x $y blue
+profile red blue | "$bin/set_property" _ICC_PROFILE_1
+xdotool windowsize --sync "$(frame)" 600 700 windowmove --sync "$(frame)" 660 0
+until_true "red on the right" shows $((x + 660)) $y red
+profile blue red | "$bin/set_property" _ICC_PROFILE_1
+until_true "blue by a new profile of the right" shows $((x + 660)) $y blue
+profile red blue | "$bin/set_property" _ICC_PROFILE_1
+until_true "red again" shows $((x + 660)) $y red
+if [ -n "${E2E_SHOTS:-}" ]; then screen "$E2E_SHOTS/screen_profile_right.png"; fi
+xdotool windowmove --sync "$(frame)" 0 0
+until_true "blue on the left again" shows $x $y blue
 switch
 until_true "red when it is switched off" shows $x $y red
 quit

@@ -69,7 +69,8 @@ void ScreenProfiles::askDaemon(const QString& name, const Found& found)
     if (!bus_) bus_ = QDBusConnection::systemBus();
     if (!bus_->isConnected()) return found({});
     if (!std::exchange(listens_, true))
-        bus_->connect(kService, "/org/freedesktop/ColorManager", kService, "DeviceChanged", this, SIGNAL(changed()));
+        for (const char* news : {"DeviceChanged", "DeviceAdded"}) // some sessions tell the daemon of screens late
+            bus_->connect(kService, "/org/freedesktop/ColorManager", kService, news, this, SIGNAL(changed()));
     QDBusMessage call =
         QDBusMessage::createMethodCall(kService, "/org/freedesktop/ColorManager", kService, "FindDeviceByProperty");
     call.setArguments({QStringLiteral("XRANDR_name"), name});
