@@ -66,7 +66,7 @@ fHelp::fHelp(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(list_, 1);
     column->addWidget(buttons);
-    resize(QSize(600, 560).boundedTo(screen()->availableSize()));
+    resize(QSize(720, 560).boundedTo(screen()->availableSize()));
 }
 
 } // namespace velara
