@@ -31,6 +31,8 @@ class PageView final : public QTextBrowser {
     {
         document()->setDocumentMargin(kMargin);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(
+            Qt::ScrollBarAlwaysOn); // else the width would depend on the pictures, and they on it
         later_.setSingleShot(true);
         connect(&later_, &QTimer::timeout, this, &PageView::fit);
     }
