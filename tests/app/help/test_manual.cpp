@@ -131,6 +131,8 @@ TEST_F(ManualTest, F1OpensThePageOfTheToolAndOfTheBox)
     QTest::keyClicks(search, "flatbed FEEDER");
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_EQ(manual()->page(), "scanner");
+    EXPECT_EQ(manual()->windowTitle(), "Manual: Scanning");
+    EXPECT_EQ(controlOf<QListWidget>(*manual(), "lstPages")->currentItem()->text(), "Scanning");
     auto* browser = controlOf<QTextBrowser>(*manual(), "txtPage");
     EXPECT_TRUE(browser->document()
                     ->resource(QTextDocument::ImageResource,
