@@ -31,6 +31,8 @@ class PageView final : public QTextBrowser {
     {
         document()->setDocumentMargin(kMargin);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        // Else the width would depend on the pictures, and they on it.
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
         later_.setSingleShot(true);
         connect(&later_, &QTimer::timeout, this, &PageView::fit);
     }
@@ -99,7 +101,7 @@ fManual::fManual(QWidget* parent)
         if (pages_->count() > 0) open(pages_->item(0)->data(Qt::UserRole).toString());
     });
     connect(pages_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
-        if (item && item->data(Qt::UserRole) != page()) open(item->data(Qt::UserRole).toString());
+        if (item && item->data(Qt::UserRole) != page_) open(item->data(Qt::UserRole).toString());
     });
     connect(browser_, &QTextBrowser::sourceChanged, this, &fManual::shown);
     back->setEnabled(false);
@@ -140,8 +142,6 @@ void fManual::open(const QString& page)
     activateWindow();
 }
 
-QString fManual::page() const { return QFileInfo(browser_->source().path()).completeBaseName(); }
-
 void fManual::list()
 {
     const QStringList words = search_->text().split(u' ', Qt::SkipEmptyParts);
@@ -153,20 +153,19 @@ void fManual::list()
             continue;
         auto* item = new QListWidgetItem(each.title, pages_);
         item->setData(Qt::UserRole, each.name);
-        if (each.name == page()) pages_->setCurrentItem(item);
+        if (each.name == page_) pages_->setCurrentItem(item);
     }
 }
 
-void fManual::shown()
+void fManual::shown(const QUrl& address)
 {
-    setWindowTitle(QStringLiteral("%1: %2").arg(tr("Manual"), browser_->documentTitle()));
+    page_ = QFileInfo(address.path()).completeBaseName(); // the browser's own source is still the one before
+    for (const ManualPage& each : manualPages())
+        if (each.name == page_) setWindowTitle(QStringLiteral("%1: %2").arg(tr("Manual"), each.title));
     const QSignalBlocker quiet(pages_);
     pages_->setCurrentItem(nullptr);
     for (int i = 0; i < pages_->count(); ++i)
-        if (pages_->item(i)->data(Qt::UserRole) == page()) {
-            pages_->setCurrentRow(i);
-            setWindowTitle(QStringLiteral("%1: %2").arg(tr("Manual"), pages_->item(i)->text()));
-        }
+        if (pages_->item(i)->data(Qt::UserRole) == page_) pages_->setCurrentRow(i);
 }
 
 void fManual::follow()

@@ -21,7 +21,7 @@ class fManual final : public QWidget {
     /// Shows a page, by the name of its file without ".md", and comes to the front.
     void open(const QString& page);
     /// The name of the page that is shown.
-    QString page() const;
+    QString page() const { return page_; }
 
   protected:
     bool event(QEvent* event) override;
@@ -31,13 +31,14 @@ class fManual final : public QWidget {
     QAction* step(QToolBar& bar, const char* name, const char* icon, const QString& caption, const QKeySequence& key);
     /// Lists the pages that have all words of the search field.
     void list();
-    void shown();
+    void shown(const QUrl& address);
     /// A window of the open modal dialog, or of the parent without one.
     void follow();
 
     QTextBrowser* browser_;
     QListWidget* pages_;
     QLineEdit* search_;
+    QString page_;
     QPointer<QWindow> followed_;
 };
 
