@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <array>
 #include <cstdint>
 
@@ -20,9 +21,11 @@ using Tally = std::array<std::array<std::uint32_t, Outcomes>, kMostFormats>;
 
 /// The folders of a trial. Files that it leaves outside of input are a fault.
 struct Place {
-    QString input;   // folder for the input as a file, kept when the trial fails
-    QString samples; // folder of sample pictures by format; may be missing
-    Tally* tally;    // shared with the watching process
+    QString input;            // folder for the input as a file, kept when the trial fails
+    QString samples;          // folder of sample pictures by format; may be missing
+    Tally* tally;             // shared with the watching process
+    QStringList formats = {}; // of pictures; empty: all
+    bool noDeaths = false;    // a reader that dies or takes too long is a fault, too
 };
 
 struct Subject {

@@ -17,6 +17,8 @@ struct Plan {
     std::chrono::seconds time{60}; // in total, divided by the shares
     QString keep = "fuzz-faults";  // for inputs of faults
     QString samples;
+    QStringList formats;   // of pictures; empty: all
+    bool noDeaths = false; // Place::noDeaths
 };
 
 /// Shared by both processes.

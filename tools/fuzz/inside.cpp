@@ -367,11 +367,87 @@ void mutateDirectory(QByteArray& file, const QByteArray& other, Dice& dice)
     dice.oneIn(2) ? mutateStrip(file, other, dice) : mutateEntry(file, dice);
 }
 
+// --- Boxes of length, name and contents: HEIF, AVIF and JPEG XL in a container (the length counts its head, too), and
+// WebP (it does not; low byte first, padded to an even length, behind the head of the file)
+
+struct BoxKind {
+    bool bigEnd;
+    qsizetype counted; // bytes of the head that the length counts
+    qsizetype even;    // contents are padded to a multiple of it
+};
+constexpr BoxKind kIsoBoxes{true, 8, 1}, kRiffChunks{false, 0, 2};
+constexpr qsizetype kBoxHead = 8, kRiffHead = 12;
+
+/// What is no box comes last, without a name.
+QList<Chunk> boxesOf(const QByteArray& bytes, const BoxKind& kind)
+{
+    const qsizetype name = kind.bigEnd ? 4 : 0;
+    QList<Chunk> boxes;
+    qsizetype at = 0;
+    while (at + kBoxHead <= bytes.size()) {
+        const qsizetype length = number(bytes, at + 4 - name, 4, kind.bigEnd) - kind.counted;
+        if (length < 0 || at + kBoxHead + length > bytes.size()) break;
+        boxes += Chunk{bytes.mid(at + name, 4), bytes.mid(at + kBoxHead, length)};
+        at += kBoxHead + length + length % kind.even;
+    }
+    if (at < bytes.size()) boxes += Chunk{{}, bytes.mid(at)};
+    return boxes;
+}
+
+QByteArray bytesOf(const QList<Chunk>& boxes, const BoxKind& kind)
+{
+    QByteArray bytes;
+    for (const Chunk& box : boxes) {
+        if (box.name.isEmpty()) {
+            bytes += box.contents;
+            continue;
+        }
+        QByteArray length(4, '\0');
+        put(length, 0, 4, static_cast<std::uint32_t>(box.contents.size() + kind.counted), kind.bigEnd);
+        bytes += kind.bigEnd ? length + box.name : box.name + length;
+        bytes += box.contents + QByteArray(box.contents.size() % kind.even, '\0');
+    }
+    return bytes;
+}
+
+void mutateBoxList(QByteArray& bytes, const QByteArray& other, const BoxKind& kind, Dice& dice)
+{
+    constexpr std::string_view kOfBoxes[] = {"meta", "iprp", "ipco", "iinf", "dinf", "grpl"};
+    QList<Chunk> boxes = boxesOf(bytes, kind);
+    if (boxes.isEmpty()) return mutate(bytes, other, dice);
+    Chunk& any = boxes[anyOf(boxes, dice)];
+    if (std::ranges::count(kOfBoxes, std::string_view(any.name)) > 0 && !dice.oneIn(6)) {
+        const qsizetype version = any.name == "meta" ? 4 : any.name == "iinf" ? 6 : 0;
+        QByteArray within = any.contents.mid(version);
+        mutateBoxList(within, other, kind, dice);
+        any.contents = any.contents.left(version) + within;
+    } else if (dice.oneIn(4)) {
+        shuffle(boxes, boxesOf(other, kind), dice);
+    } else {
+        dice.oneIn(2) ? mutate(any.contents, other, dice) : poke(any.contents, dice);
+    }
+    bytes = bytesOf(boxes, kind);
+}
+
+void mutateBoxes(QByteArray& file, const QByteArray& other, Dice& dice)
+{
+    if (!file.startsWith("RIFF")) return mutateBoxList(file, other, kIsoBoxes, dice);
+    QByteArray chunks = file.mid(kRiffHead);
+    mutateBoxList(chunks, other.mid(kRiffHead), kRiffChunks, dice);
+    file = file.left(kRiffHead) + chunks;
+    put(file, 4, 4, static_cast<std::uint32_t>(file.size() - kBoxHead), false);
+}
+
 } // namespace
 
 void mutateInside(QByteArray& bytes, const QString& format, const QByteArray& other, Dice& dice)
 {
-    const auto once = format == "gif" ? mutateBlocks : format == "tif" ? mutateDirectory : mutateChunks;
+    constexpr struct {
+        const char* format;
+        void (*once)(QByteArray& bytes, const QByteArray& other, Dice& dice);
+    } kRows[] = {{"gif", mutateBlocks}, {"tif", mutateDirectory}, {"png", mutateChunks}, {"mng", mutateChunks}};
+    const auto* row = std::ranges::find_if(kRows, [&](const auto& r) { return format == QLatin1String(r.format); });
+    const auto once = row == std::end(kRows) ? mutateBoxes : row->once;
     for (int i = dice.within(1, 4); i > 0; --i) once(bytes, other, dice);
 }
 

@@ -1,7 +1,8 @@
 // velara-fuzz: damaged pictures, sequences of operations, configuration records and region words, for a given time or
 // number of runs. A fault is reported with its number, its input is kept, and the exit status is 1.
 //
-//   velara-fuzz [--seconds N | --runs N | --brief] [--seed N] [--warm] [--samples FOLDER] [--keep FOLDER] [SUBJECT...]
+//   velara-fuzz [--seconds N | --runs N | --brief] [--seed N] [--warm] [--samples FOLDER] [--formats A,B] [--no-deaths]
+//               [--keep FOLDER] [SUBJECT...]
 #include "tools/fuzz/Watch.h"
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -38,6 +39,11 @@ Plan planOf(const QCommandLineParser& line)
     plan.warm = line.isSet("warm");
     plan.keep = QDir(line.value("keep")).absolutePath();
     plan.samples = line.value("samples");
+    plan.noDeaths = line.isSet("no-deaths");
+    for (const QString& format : line.value("formats").split(',', Qt::SkipEmptyParts)) {
+        if (!findFormat(format.toStdString())) qFatal("no format: %s", qPrintable(format));
+        plan.formats += format;
+    }
     return plan;
 }
 
@@ -97,7 +103,8 @@ int run(const Plan& plan)
     qputenv("TMPDIR", scratch.filePath("temporary").toUtf8());
     QDir::setCurrent(scratch.filePath("here"));
     prctl(PR_SET_CHILD_SUBREAPER, 1);
-    const Progress& progress = carryOut(plan, {scratch.filePath("input"), plan.samples, nullptr});
+    const Progress& progress =
+        carryOut(plan, {scratch.filePath("input"), plan.samples, nullptr, plan.formats, plan.noDeaths});
     QDir::setCurrent("/");
     print(plan, progress);
     const bool tooMuch = progress.readerPeak > kReaderMemory;
@@ -121,6 +128,8 @@ int main(int argc, char** argv)
                      {"seed", "the first number", "N", "1"},
                      {"warm", "readers of pictures are copies of one that is loaded: many more pictures"},
                      {"samples", "sample pictures, a folder a format", "FOLDER"},
+                     {"formats", "of pictures: these alone", "A,B,..."},
+                     {"no-deaths", "a reader that dies or takes too long is a fault, too"},
                      {"keep", "where inputs of faults go", "FOLDER", "fuzz-faults"}});
     line.addPositionalArgument("SUBJECT",
                                "pictures, inside, operations, configuration, regions; all when none is named");

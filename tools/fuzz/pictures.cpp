@@ -45,6 +45,14 @@ QString faultOf(const LoadedPicture& picture)
     return {};
 }
 
+/// An index of kFormats.
+std::size_t formatOf(const Place& place, std::uint64_t number)
+{
+    if (place.formats.isEmpty()) return number % std::size(kFormats);
+    const QString& wanted = place.formats[static_cast<qsizetype>(number % std::size_t(place.formats.size()))];
+    return static_cast<std::size_t>(findFormat(wanted.toStdString()) - kFormats);
+}
+
 /// Reads a picture made by damaging a seed of the format, with another one for parts.
 template <class Damage> QString tryOne(const Place& place, std::size_t format, Dice& dice, const Damage& damage)
 {
@@ -56,8 +64,10 @@ template <class Damage> QString tryOne(const Place& place, std::size_t format, D
     damage(bytes, extension, pick(), dice);
     const QString path = writeInput(place.input, "picture." + extension, bytes);
     const LoadedPicture picture = loader.loadPicture(path, extension);
-    ++(*place.tally)[format][outcomeOf(picture)];
-    const QString fault = faultOf(picture);
+    const PictureOutcome outcome = outcomeOf(picture);
+    ++(*place.tally)[format][outcome];
+    QString fault = faultOf(picture);
+    if (place.noDeaths && (outcome == ReaderDied || outcome == TookTooLong)) fault = picture.reason;
     if (fault.isEmpty()) QFile::remove(path);
     return fault;
 }
@@ -67,7 +77,7 @@ template <class Damage> QString tryOne(const Place& place, std::size_t format, D
 QString tryPicture(const Place& place, std::uint64_t number)
 {
     Dice dice = diceOf("pictures", number);
-    return tryOne(place, number % std::size(kFormats), dice,
+    return tryOne(place, formatOf(place, number), dice,
                   [](QByteArray& bytes, const QString&, const QByteArray& other, Dice& d) { mutate(bytes, other, d); });
 }
 

@@ -108,6 +108,8 @@ try {
         if (!tell(y)) return false;
     }
     return true;
+} catch (const Damage&) {
+    _exit(kDamagedInside);
 } catch (const std::exception&) { // damage between the pixels, or too little memory: the parent says so
     return false;
 }

@@ -192,7 +192,7 @@ try {
 } catch (const std::bad_alloc&) {
     return refused(kTooMuchMemory);
 } catch (const Damage&) { // between the pixels, where a picture is turned
-    return refused("it is damaged, and its reader gave up");
+    return refused("it is damaged between its first row and its last");
 }
 
 } // namespace velara::decode

@@ -30,6 +30,9 @@ constexpr std::size_t kSlots = 4;
 constexpr std::size_t kSlotBytes = 256 << 10; // a row of the widest picture takes half of it
 constexpr std::size_t kMemoryBytes = kSlots * kSlotBytes;
 
+/// The exit code of a child that found damage between the rows: it told no reason before.
+constexpr int kDamagedInside = 3;
+
 /// What a picture carries beside its pixels. Comment and properties are UTF-8.
 enum Part { Exif, Xmp, Iptc, Comment, Properties, Profile, kParts };
 /// In bytes; a part of more is left out by the child.

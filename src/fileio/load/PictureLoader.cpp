@@ -72,6 +72,8 @@ QString faultOfEnd(int status)
         return "it is damaged, and its reader wanted what no picture needs";
     if (status >= 0 && WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL))
         return kTooLong;
+    if (status >= 0 && WIFEXITED(status) && WEXITSTATUS(status) == decode::kDamagedInside)
+        return "it is damaged between its first row and its last";
     return "it is damaged, and its reader gave up";
 }
 

@@ -172,6 +172,7 @@ TEST_F(PictureLoader, SurvivesEveryMisbehaviourOfTheChild)
          "full"}, // writing a byte to a file fails
 #endif
         {"opening(10, 10); sys.exit(0)", "gave up"},
+        {"opening(10, 10); sys.exit(3)", "between its first row"},
     };
     const QString file = put("x.ppm", kPicture);
     for (const auto& c : kCases) {
