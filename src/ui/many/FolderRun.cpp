@@ -58,14 +58,15 @@ FolderRun::FolderRun(QObject* parent) : QObject(parent), process_(new QProcess(t
 FolderRun::~FolderRun()
 {
     process_->disconnect(this);
-    if (!isRunning()) return;
+    const auto group = static_cast<pid_t>(process_->processId());
+    if (!isRunning() || group <= 0) return;
     constexpr int kPatience = 3000; // milliseconds
     signalAll(SIGCONT);
     process_->terminate();
     QProcess* left = process_;
     left->setParent(qApp);
     connect(left, &QProcess::finished, left, &QObject::deleteLater);
-    QTimer::singleShot(kPatience, left, [pid = static_cast<pid_t>(left->processId())] { ::kill(-pid, SIGKILL); });
+    QTimer::singleShot(kPatience, left, [group] { ::kill(-group, SIGKILL); });
 }
 
 void FolderRun::start(const QString& program, const QStringList& arguments, const QString& log)
