@@ -1,4 +1,5 @@
-// UndoFiles: the files of one undo series, one whole picture each, by index. Knows no counters.
+// UndoFiles: the files of one undo series by index, and those that are a whole picture (others: TileFile). Knows no
+// counters.
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>

@@ -104,7 +104,25 @@ TEST_F(LeftSeries, WhatCanBeHadIsOfferedAndTheRestIsTold)
             putFile(t.file(name), bytes);
         };
     };
+    const auto older = [](LeftSeries& t) { // checksums were of whole blocks
+        UndoRecord record;
+        ASSERT_EQ(recordFrom(fileBytes(t.file("b0003.rec")), record), RecordState::Whole);
+        for (int i = 0; i < 5; ++i) {
+            record.states[std::size_t(i)].side = 0;
+            record.states[std::size_t(i)].sum = checksumOf(state(i).data(), state(i).sizeInBytes());
+        }
+        QByteArray bytes = bytesOf(record);
+        bytes[8] = 1;
+        putFile(t.file("b0003.rec"), bytes);
+    };
     const Case kCases[] = {
+        {"record of an older version", older, 3, ""},
+        {"that, and another state",
+         [&](LeftSeries& t) {
+             older(t);
+             change("b000303.dat")(t);
+         },
+         2, "The last change could not be kept"},
         {"nothing", [](LeftSeries&) {}, 3, ""},
         {"the state shown is missing", drop("b000303.dat"), 2, "The last change could not be kept"},
         {"it is short", cut("b000303.dat"), 2, "The last change could not be kept"},
