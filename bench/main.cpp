@@ -1,6 +1,7 @@
-// velara-bench [--size WxH] [--cores] [--json FILE] [NAME]...: times the rows whose family or name contains one of the
-// NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with all cores, as a part
-// of that with one thread. --json writes the figures by name, to compare runs with.
+// velara-bench [--size WxH] [--cores] [--baseline] [--json FILE] [NAME]...: times the rows whose family or name
+// contains one of the NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with
+// all cores, as a part of that with one thread. --baseline measures what a processor without AVX2 gets: twice the goals
+// are fine there. --json writes the figures by name, to compare runs with.
 #include "bench.h"
 #include "pixels/threads/parallelFor.h"
 #include "rate.h"
@@ -10,6 +11,7 @@
 #include <cstring>
 #include <ctime>
 #include <fstream>
+#include <hwy/targets.h>
 #include <iostream>
 #include <map>
 #include <thread>
@@ -189,6 +191,8 @@ int main(int argc, char** argv)
         const std::string word = argv[i];
         if (word == "--cores")
             withCores = true;
+        else if (word == "--baseline")
+            hwy::DisableTargets(HWY_AVX2);
         else if (word == "--json" && i + 1 < argc)
             json = argv[++i];
         else if (word != "--size")
