@@ -1,7 +1,9 @@
-// velara-bench [--size WxH] [--cores] [--json FILE] [NAME]...: times the rows whose family or name contains one of the
-// NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with all cores, as a part
-// of that with one thread. --json writes the figures by name, to compare runs with.
+// velara-bench [--size WxH] [--cores] [--baseline] [--json FILE] [NAME]...: times the rows whose family or name
+// contains one of the NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with
+// all cores, as a part of that with one thread. --baseline measures what a processor without AVX2 gets: twice the goals
+// are fine there. --json writes the figures by name, to compare runs with.
 #include "bench.h"
+#include "pixels/BlockPool.h"
 #include "pixels/threads/parallelFor.h"
 #include "rate.h"
 #include "support/typicalArguments.h"
@@ -10,8 +12,10 @@
 #include <cstring>
 #include <ctime>
 #include <fstream>
+#include <hwy/targets.h>
 #include <iostream>
 #include <map>
+#include <string>
 #include <thread>
 
 namespace velara::bench {
@@ -25,7 +29,7 @@ std::vector<Row>& rows()
 namespace {
 
 constexpr int kPairs = 7;
-constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %6s  %s\n";
+constexpr const char* kLine = "%-28s %-40s %9s %8s %7s %7s  %-4s %6s %7s  %s\n";
 
 bool withCores = false;
 
@@ -69,6 +73,25 @@ double leastOf(const Bound& bound, Size size)
            pixels * (bound.cycles == 0 ? 0 : bound.cycles * millisecondsAMillionCycles());
 }
 
+/// A line of /proc/self/status in bytes; 0 where there is none.
+double memory(const std::string& name)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with(name + ':')) return std::stod(line.substr(name.size() + 1)) * 1024;
+    return 0;
+}
+
+/// The most memory that work takes beyond what there is, in pictures, and one for the picture that it works on.
+double picturesAtMost(const std::function<void()>& work, Size size)
+{
+    BlockPool::instance().clear();
+    const double before = memory("VmRSS");
+    std::ofstream("/proc/self/clear_refs") << '5'; // the peak is what there is now
+    work();
+    return 1 + (memory("VmHWM") - before) / double(picture(size).sizeInBytes());
+}
+
 void measure(benchmark::State& state, const Row& row, Size size)
 try {
     const bool timed = row.unit == "ms";
@@ -78,7 +101,7 @@ try {
     std::vector<double> bodies, figures, copies;
     if (!timing.before) timing.before = [] {};
     timing.before();
-    timing.body();
+    state.counters["memory"] = picturesAtMost(timing.body, size);
     for (auto _ : state) {
         const double reference = timed ? 1 : milliseconds(timing.reference, clock);
         copies.push_back(reference);
@@ -114,7 +137,8 @@ class TableReporter : public benchmark::BenchmarkReporter {
   public:
     bool ReportContext(const Context&) override
     {
-        std::printf(kLine, "family", "operation", "ms", "ratio", "must", "goal", "met", "cores", "counted in");
+        std::printf(kLine, "family", "operation", "ms", "ratio", "must", "goal", "met", "cores", "memory",
+                    "counted in");
         return true;
     }
     void ReportRuns(const std::vector<Run>& runs) override
@@ -127,7 +151,7 @@ class TableReporter : public benchmark::BenchmarkReporter {
                 return std::string(v == 0 ? "-" : text);
             };
             if (run.error_occurred) {
-                std::printf(kLine, row.family.c_str(), row.name.c_str(), "-", "-", "-", "-", "no", "-",
+                std::printf(kLine, row.family.c_str(), row.name.c_str(), "-", "-", "-", "-", "no", "-", "-",
                             run.error_message.c_str());
                 continue;
             }
@@ -137,7 +161,8 @@ class TableReporter : public benchmark::BenchmarkReporter {
             const auto cores = run.counters.find("cores");
             std::printf(kLine, row.family.c_str(), row.name.c_str(), number(run.counters.at("ms")).c_str(),
                         number(figure).c_str(), number(must).c_str(), number(goal).c_str(), met,
-                        number(cores == run.counters.end() ? 0 : double(cores->second)).c_str(), row.unit.c_str());
+                        number(cores == run.counters.end() ? 0 : double(cores->second)).c_str(),
+                        number(run.counters.at("memory")).c_str(), row.unit.c_str());
             figures_[row.family + ": " + row.name] = figure;
         }
         std::fflush(stdout);
@@ -189,6 +214,8 @@ int main(int argc, char** argv)
         const std::string word = argv[i];
         if (word == "--cores")
             withCores = true;
+        else if (word == "--baseline")
+            hwy::DisableTargets(HWY_AVX2);
         else if (word == "--json" && i + 1 < argc)
             json = argv[++i];
         else if (word != "--size")

@@ -85,15 +85,15 @@ def milliseconds(work):
 
 
 def ours(program, names, size, cores=True):
-    """Milliseconds by row: on one thread, and on all."""
+    """By row: milliseconds on one thread, those on all, and the most memory in pictures."""
     table = subprocess.run([program, "--size", size, *(["--cores"] if cores else []), *names], check=True,
                            capture_output=True, text=True).stdout
     rows = {}
     for line in table.splitlines()[1:]:
-        fields = re.match(r"(.{28}) (.{40}) +([\d.]+) +([\d.]+|-) +\S+ +\S+ +\S+ +(\S+)", line)
+        fields = re.match(r"(.{28}) (.{40}) +([\d.]+) +([\d.]+|-) +\S+ +\S+ +\S+ +(\S+) +(\S+)", line)
         if fields:
             one = float(fields[3])
-            rows[fields[2].strip()] = (one, one * float(fields[5]) if fields[5] != "-" else None)
+            rows[fields[2].strip()] = (one, one * float(fields[5]) if fields[5] != "-" else None, fields[6])
     return rows
 
 
@@ -124,15 +124,16 @@ SIZES = ((1000, 1000), (2000, 2000), (4000, 4000), (8000, 8000), (16000, 16000))
 
 
 def growth(program):
-    """Milliseconds by row and size; sizes whose pictures don't fit into memory are left out."""
+    """Milliseconds by row and size, and the most memory by row; sizes whose pictures don't fit into memory are left out."""
     free = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_AVPHYS_PAGES")
     sizes = [(w, h) for w, h in SIZES if 24 * w * h < free]
-    times = {name: [] for name in GROWTH}
+    times, memory = {name: [] for name in GROWTH}, {}
     for width, height in sizes:
         measured = ours(program, GROWTH, f"{width}x{height}", cores=False)
         for name in GROWTH:
-            times[name].append(measured.get(name, (math.nan, None))[0])
-    return [w * h / 1e6 for w, h in sizes], times
+            times[name].append(measured.get(name, (math.nan,))[0])
+            memory[name] = measured.get(name, (None, None, "-"))[2]
+    return [w * h / 1e6 for w, h in sizes], times, memory
 
 
 def exponent(sizes, times):
@@ -191,17 +192,17 @@ def peersTable(programs, size):
         with open(os.path.join(folder, "sharpen.mat"), "w", encoding="ascii") as mask:
             mask.write("3 3\n" + "\n".join(" ".join(map(str, row)) for row in SHARPEN) + "\n")
         for name, openCv, forVips, arguments in WORK:
-            row = list(measured.get(name, (None, None)))
+            row = list(measured.get(name, (None, None, None)))[:2]
             row += [byOpenCv(openCv, picture, n) for n in both] if cv2 else []
             row += [byVips(forVips, folder, file, n) if forVips else None for n in both] if vips else []
             row += [byMagick(tool, arguments, file) if arguments else None for tool in tools]
             yield [name, *map(cell, row)]
 
 
-def growthTable(sizes, times):
-    yield ["ms", *(f"{size:g} MP" for size in sizes), "exponent"]
+def growthTable(sizes, times, memory):
+    yield ["ms", *(f"{size:g} MP" for size in sizes), "exponent", "memory at most, pictures"]
     for name, row in times.items():
-        yield [name, *(f"{t:.2f}" for t in row), f"{exponent(sizes, row):.2f}"]
+        yield [name, *(f"{t:.2f}" for t in row), f"{exponent(sizes, row):.2f}", memory[name]]
 
 
 def asText(rows):
@@ -216,10 +217,10 @@ def main():
     parser.add_argument("--size", default="6000x4000")
     parser.add_argument("--into", help="a text whose part after the line of three dashes is replaced")
     given = parser.parse_args()
-    sizes, times = growth(os.path.join(given.programs, "velara-bench"))
+    sizes, times, memory = growth(os.path.join(given.programs, "velara-bench"))
     text = (f"{given.size}, {CORES} cores, milliseconds; gm and convert with all cores, without reading the picture.\n\n"
             + asText(peersTable(given.programs, given.size))
-            + "\nHow the time grows with the picture, one thread.\n\n" + asText(growthTable(sizes, times)))
+            + "\nHow the time grows with the picture, one thread.\n\n" + asText(growthTable(sizes, times, memory)))
     print(text)
     if given.into:
         picture = os.path.join(os.path.dirname(given.into), "pictures", "growth.svg")

@@ -71,13 +71,13 @@ Bits cBitFilter::Light(float CenterX, float CenterY, float Radius, int Intensity
 Bits cBitFilter::NOISE(int Amount, bool Equalized)
 {
     const int width = bits_.width();
+    const std::ptrdiff_t stride = bits_.stride();
     const Random random = nextRandom();
     const double span = 2.0 * Amount + 1;
     return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const auto number = static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(width);
         if (Amount >= 0 && Amount <= 127)
-            return noisePixels(random, number + static_cast<std::uint32_t>(x0), Amount, Equalized, from + x0, x1 - x0,
-                               to + x0);
+            return noisePixels({from, stride, to, x0, x1}, random, number, Amount, Equalized);
         for (int x = x0; x < x1; ++x) {
             const std::uint32_t pixel = number + static_cast<std::uint32_t>(x);
             to[x] = from[x];

@@ -9,6 +9,7 @@
 #include <hwy/highway.h>
 
 #include "engine/lanes-inl.h"
+#include "engine/pixels-inl.h"
 #include "engine/random-inl.h"
 #include <hwy/contrib/math/math-inl.h>
 
@@ -154,20 +155,20 @@ std::uint64_t squareSinesImpl(double frequency, int n, float* t)
     return doubtful;
 }
 
-void noiseImpl(const Random& random, std::uint32_t number, int amount, bool equalized, const Pixel* from, int n,
-               Pixel* to)
+void noiseImpl(SpanOf s, const Random& of, std::uint32_t number, int amount, bool equalized)
 {
-    const Words d;
-    const hn::RebindToUnsigned<Words> u;
-    const auto span = hn::Set(u, static_cast<std::uint32_t>(2 * amount + 1)), almostHalf = hn::Set(u, (1u << 23) - 1);
-    const auto less = hn::Set(d, amount), byte = hn::Set(d, 255), one = hn::Set(d, 1);
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    eachVector(lanes, from, n, to, [&](const Pixel* p, Pixel* target, int i) {
-        const auto at = countedFrom(u, number + static_cast<std::uint32_t>(i));
+    const Random random = of; // the stores cannot alias it
+    forPixels<std::uint8_t>(s, [=](auto d8, int x) VELARA_INLINED {
+        const hn::Repartition<std::int32_t, decltype(d8)> d;
+        const hn::RebindToUnsigned<decltype(d)> u;
+        const auto span = hn::Set(u, static_cast<std::uint32_t>(2 * amount + 1));
+        const auto almostHalf = hn::Set(u, (1u << 23) - 1);
+        const auto less = hn::Set(d, amount), byte = hn::Set(d, 255), one = hn::Set(d, 1);
+        const auto at = countedFrom(u, number + static_cast<std::uint32_t>(x));
         const auto thrice = hn::Add(hn::Add(at, at), at);
-        const auto pixels = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(p));
+        const auto pixels = hn::BitCast(d, loadBytes(d8, s.from + x));
         const auto common = hn::Mul(randomBits(u, random, at), span);
-        const auto channel = [&](auto shift, std::uint32_t draw) {
+        const auto channel = [&](auto shift, std::uint32_t draw) HWY_ATTR {
             const auto scaled =
                 equalized ? common : hn::Mul(randomBits(u, random, hn::Add(thrice, hn::Set(u, draw))), span);
             const auto c = hn::Sub(hn::And(hn::ShiftRight<decltype(shift)::value>(pixels), byte), less);
@@ -179,8 +180,7 @@ void noiseImpl(const Random& random, std::uint32_t number, int amount, bool equa
         const auto red = channel(std::integral_constant<int, 16>(), 0),
                    green = channel(std::integral_constant<int, 8>(), 1);
         const auto blue = channel(std::integral_constant<int, 0>(), 2);
-        const auto fourth = hn::AndNot(hn::Set(d, 0xFFFFFF), pixels);
-        hn::StoreU(hn::Or(hn::Or(red, green), hn::Or(blue, fourth)), d, reinterpret_cast<std::int32_t*>(target));
+        return withFourthOf(d8, loadBytes(d8, s.from + x), hn::BitCast(d8, hn::Or(hn::Or(red, green), blue)));
     });
 }
 
@@ -258,10 +258,9 @@ std::uint64_t squareSines(double frequency, int n, float* t)
     return HWY_DYNAMIC_DISPATCH(squareSinesImpl)(frequency, n, t);
 }
 
-void noisePixels(const Random& random, std::uint32_t number, int amount, bool equalized, const Pixel* from, int n,
-                 Pixel* to)
+void noisePixels(SpanOf span, const Random& random, std::uint32_t number, int amount, bool equalized)
 {
-    HWY_DYNAMIC_DISPATCH(noiseImpl)(random, number, amount, equalized, from, n, to);
+    HWY_DYNAMIC_DISPATCH(noiseImpl)(span, random, number, amount, equalized);
 }
 
 std::uint64_t lightPixels(float intensity, float slope, int ox, int oy, const Pixel* from, int n, Pixel* to)

@@ -1,7 +1,7 @@
 // Vector kernels of the generators. Results equal the plain arithmetic, bit for bit; kernels that approximate return a
 // bit for each pixel to be recomputed.
 #pragma once
-#include "pixels/Bits.h"
+#include "engine/SpanOf.h"
 #include "pixels/random.h"
 #include <cstdint>
 
@@ -41,9 +41,8 @@ void circularRamp(double first, double ry, double R, int n, float* t);
 /// t := the square of sin(frequency * t), for n <= 64; those to be recomputed keep their t.
 std::uint64_t squareSines(double frequency, int n, float* t);
 
-/// Noise of 0 <= amount <= 127; number is the index of the first pixel.
-void noisePixels(const Random& random, std::uint32_t number, int amount, bool equalized, const Pixel* from, int n,
-                 Pixel* to);
+/// Noise of 0 <= amount <= 127; number is the index of the row's pixel 0.
+void noisePixels(SpanOf span, const Random& random, std::uint32_t number, int amount, bool equalized);
 
 /// Adds round(intensity - slope * distance) to the channels, at most 255, and stores the low byte; the distances are
 /// those of (ox, oy), (ox + 1, oy), ... n <= 64; no sum may exceed 4096.
