@@ -1,7 +1,6 @@
 // What must be distinguishable on a dark background, checked pixel by pixel.
 #include "app/menus/fControlStyle.h"
 #include "app/menus/fIcons.h"
-#include "app/menus/menus.h"
 #include "app/settings/Appearance.h"
 #include "ui/widgets/marks/contrast.h"
 #include <QtWidgets>
@@ -42,16 +41,6 @@ struct ControlStyle : ::testing::Test {
         return o;
     }
 };
-
-TEST_F(ControlStyle, ButtonsOfDockedBoxesAreSeenOnADarkGround)
-{
-    QDockWidget box;
-    box.setPalette(dark);
-    for (const auto icon : {QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton}) {
-        const QPixmap sign = style.standardIcon(icon, nullptr, &box).pixmap(10, 10);
-        EXPECT_GT(contrast([&](QPainter& p) { p.drawPixmap(4, 4, sign); }), 120) << icon;
-    }
-}
 
 TEST_F(ControlStyle, UncheckedBoxesAndHandlesAreSeenOnADarkGround)
 {
@@ -158,28 +147,6 @@ TEST_F(ControlStyle, TheTitleOfTheActiveWindowIsReadInEveryLook)
         style.drawComplexControl(QStyle::CC_TitleBar, &bar, &painter, nullptr);
         EXPECT_GE(velara::contrast(image.pixelColor(100, 11), Qt::white), 4.5) << int(look);
     }
-}
-
-TEST_F(ControlStyle, IconsAreSeenOnEveryGround)
-{
-    useResources();
-    useIconTheme();
-    for (const QColor& ground : {QColor(239, 239, 239), QColor(49, 54, 59)})
-        for (const NamedItem& item : namedItems())
-            for (const int side : {16, 22}) {
-                const QIcon icon = iconOf(item.row->word);
-                if (icon.isNull() || !pictureOf(item.row->word).starts_with(':'))
-                    continue; // the theme has two variants
-                QImage shown(side, side, QImage::Format_RGB32);
-                shown.fill(ground);
-                QPainter painter(&shown);
-                icon.paint(&painter, shown.rect());
-                painter.end();
-                double most = 1;
-                for (int i = 0; i < side * side; ++i)
-                    most = std::max(most, velara::contrast(shown.pixelColor(i % side, i / side), ground));
-                EXPECT_GE(most, 3) << item.name.toStdString() << ", " << side << " pixels";
-            }
 }
 
 // At one and a half, the theme's own choice would be the drawing for half the pixels.

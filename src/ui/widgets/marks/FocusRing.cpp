@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFocusEvent>
+#include <QMenuBar>
 #include <QPainter>
 #include <QRadioButton>
 #include <QTabBar>
@@ -63,8 +64,8 @@ FocusRing::~FocusRing() { delete ring_; }
 
 void FocusRing::surround(QWidget* control)
 {
-    control_ = control;
-    if (ring_ && (!control || ring_->parentWidget() != control->window())) delete ring_;
+    control_ = qobject_cast<QMenuBar*>(control) ? nullptr : control; // the item that is open shows itself
+    if (ring_ && (!control_ || ring_->parentWidget() != control_->window())) delete ring_;
     place();
 }
 
