@@ -1,6 +1,6 @@
 #include "batch/CommandLine.h"
 #include "batch/many/LineItem.h"
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include "batch/onePicture.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"

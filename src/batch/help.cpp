@@ -1,5 +1,5 @@
 #include "batch/CommandLine.h"
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include "commands/recipe/stepWords.h"
 #include "seams/text.h"
 

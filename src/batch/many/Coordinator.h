@@ -2,11 +2,11 @@
 // worker ends that one alone.
 #pragma once
 #include "batch/CommandLine.h"
-#include "batch/many/LateNames.h"
 #include "batch/many/Plan.h"
 #include "batch/many/Report.h"
 #include "batch/many/Tally.h"
 #include "batch/many/messages.h"
+#include "batch/names/LateNames.h"
 #include "fileio/load/Descriptor.h"
 #include <chrono>
 #include <deque>

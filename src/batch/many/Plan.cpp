@@ -1,6 +1,6 @@
 #include "batch/many/Plan.h"
 #include "batch/Failure.h"
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include <QDir>

@@ -2,7 +2,7 @@
 #pragma once
 #include "batch/many/InputList.h"
 #include "batch/many/ManyOrder.h"
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include <functional>
 #include <set>
 

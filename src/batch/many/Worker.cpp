@@ -1,7 +1,7 @@
 #include "batch/many/Worker.h"
 #include "batch/BatchPlatform.h"
 #include "batch/fonts.h"
-#include "batch/many/LateNames.h"
+#include "batch/names/LateNames.h"
 #include "batch/onePicture.h"
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/nativeName.h"

@@ -1,4 +1,4 @@
-#include "batch/many/LateNames.h"
+#include "batch/names/LateNames.h"
 #include "fileio/disk/nativeName.h"
 
 namespace velara {

@@ -1,4 +1,4 @@
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include "batch/Failure.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"

@@ -1,5 +1,5 @@
 #include "batch/Failure.h"
-#include "batch/many/NamePattern.h"
+#include "batch/names/NamePattern.h"
 #include <QDateTime>
 #include <gtest/gtest.h>
 
