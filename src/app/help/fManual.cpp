@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileInfo>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScreen>
@@ -84,6 +83,8 @@ fManual::fManual(QWidget* parent)
     QAction* first = step(*bar, "cmdContents", "go-home", tr("Contents"), QKeySequence(Qt::ALT | Qt::Key_Home));
     QAction* find = step(*bar, "cmdFind", "edit-find", tr("Find"), QKeySequence(Qt::CTRL | Qt::Key_F));
     bar->addWidget(search_);
+    QAction* end = step(*bar, "cmdClose", "window-close", tr("Close"), QKeySequence(Qt::Key_Escape));
+    connect(end, &QAction::triggered, this, &QWidget::close);
     search_->setPlaceholderText(tr("Words to look for"));
     search_->setClearButtonEnabled(true);
     browser_->setOpenExternalLinks(false);
@@ -186,11 +187,6 @@ bool fManual::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked) QTimer::singleShot(0, this, &fManual::follow);
     return QWidget::event(event);
-}
-
-void fManual::keyPressEvent(QKeyEvent* event)
-{
-    event->key() == Qt::Key_Escape ? void(close()) : QWidget::keyPressEvent(event);
 }
 
 } // namespace velara

@@ -25,7 +25,6 @@ class fManual final : public QWidget {
 
   protected:
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     QAction* step(QToolBar& bar, const char* name, const char* icon, const QString& caption, const QKeySequence& key);
