@@ -5,6 +5,7 @@
 #include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
+#include "fileio/load/PictureLoader.h"
 #include "seams/PictureReader.h"
 #include <QFileInfo>
 #include <new>
@@ -30,6 +31,7 @@ try {
     isThere = velara::isThere(path);
     loaded = reader.loadPicture(
         path, extensionOf(path), [this](auto) { return !cancelled; }, page);
+    if (!loaded.ok() && findDecoder().isEmpty()) unreadable = Unreadable::Refused; // the package has been removed
 } catch (const std::bad_alloc&) {
     unreadable = Unreadable::Refused;
     loaded.reason = QStringLiteral("there is not enough memory");

@@ -32,7 +32,7 @@ trap finish EXIT
 fail() {
     echo "FAILED: $* (VELARA_SEED=$seed)" >&2
     tail -n 60 "$scratch/log" >&2 2>/dev/null || true
-    windows >&2
+    titles >&2
     exit 1
 }
 

@@ -35,3 +35,5 @@ in_frame() { xdotool getwindowgeometry --shell "$(frame)" | awk -F= -v x="$1" -v
 frame_title() { xdotool getwindowname "$main"; }
 screen() { import -window root "$1"; }
 frame_size() { xdotool getwindowgeometry "$main" | sed -n 's/.*Geometry: //p'; }
+# Of the editor's windows
+titles() { for window in $(xdotool search --onlyvisible --pid "$editor" 2>/dev/null); do xdotool getwindowname "$window"; done; }

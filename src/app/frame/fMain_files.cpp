@@ -6,6 +6,7 @@
 #include "fileio/cameraData.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
+#include "fileio/load/PictureLoader.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/Clipboard.h"
 #include "seams/Platform.h"
@@ -103,7 +104,13 @@ void fMain::showName(const DocumentHandle& document)
     showTitle();
 }
 
-void fMain::showLoadError() { platform_.tell(tr("Unexpected error loading image"), Icon::Exclamation); }
+void fMain::showLoadError()
+{
+    platform_.tell(findDecoder().isEmpty() ? tr("The program that reads pictures (velara-decode) was not found. Is the "
+                                                "package being removed? What is open can be changed and saved.")
+                                           : tr("Unexpected error loading image"),
+                   Icon::Exclamation);
+}
 
 /// One message for all; the recent list omits them from now on.
 void fMain::showGone(const QStringList& paths)
