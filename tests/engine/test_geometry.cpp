@@ -112,6 +112,8 @@ TEST(Geometry, FastWaysAreAsDefined)
         {"BitsResample", {3001, 3}, small, all},
         {"BitsResample", {2, 700}, small, all},
         {"PIXELIZE", {2}, small, all},
+        {"GLASS", {"slanting", 0}, small, ellipse},
+        {"GLASS", {"slanting", 1}, small, ellipse},
         {"TileMask", {tile, -7, 3, true, 33, 0x123456}, small, all},
         {"TileMask", {tile, 11, 3, true, 50, -1}, small, all},
         {"TileMask", {tile, 5, -2, false, 30, -1}, small, all},

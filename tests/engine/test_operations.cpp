@@ -71,11 +71,16 @@ TEST(Operations, AnyNumberOfThreadsGivesTheSame)
                 }
             }
     const Bits wide = randomBits(32000, 8, 5); // its last row is copied faster than the one before it is made
-    const Region all = Region::rectangle(0, 0, 32000, 8);
+    const Region all = Region::rectangle(0, 0, 32000, 60);
     setThreadCount(1);
     const Bits embossed = run("EMBOSS", {10}, wide, all);
     setThreadCount(2, 1);
     for (int i = 0; i < 50; ++i) EXPECT_TRUE(sameBits(embossed, run("EMBOSS", {10}, wide, all)));
+    const Bits rows = randomBits(6000, 60, 6); // wide enough for several turns of rows to be under way
+    setThreadCount(1);
+    const Bits diffused = run("StuckiBW", {42}, rows, all);
+    setThreadCount(4, 1);
+    for (int i = 0; i < 5; ++i) EXPECT_TRUE(sameBits(diffused, run("StuckiBW", {42}, rows, all)));
     const TrialFamily family = operationTrials();
     for (const std::string& subject : family.subjects) {
         setThreadCount(1);
