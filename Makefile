@@ -72,8 +72,9 @@ bench: all
 
 # Reading and writing whole files beside the plain programs of the same libraries, those that are installed.
 SAMPLE ?= docs/gallery/filters.png
+PHOTOS ?= $(SAMPLE)
 bench-formats: all
-	@scripts/bench_formats.py $(RELEASE)/bin --sample $(SAMPLE)
+	@scripts/bench_formats.py $(RELEASE)/bin --sample $(SAMPLE) --photos $(PHOTOS)
 
 # Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
 bench-check: all

@@ -1,6 +1,6 @@
 // WebP by the same code as in the programs.
 #include "fileio/encode/encoders.h"
-#include "fileio/writers/WebpEncoder.h"
+#include "fileio/writers/webp/WebpEncoder.h"
 
 namespace velara::encode {
 

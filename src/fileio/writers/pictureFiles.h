@@ -3,7 +3,7 @@
 // ms.
 #pragma once
 #include "fileio/disk/OutputFile.h"
-#include "fileio/writers/WebpForm.h"
+#include "fileio/writers/webp/WebpForm.h"
 #include "reduce/reduceColours.h"
 #include "seams/CameraData.h"
 

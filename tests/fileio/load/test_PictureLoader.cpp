@@ -301,6 +301,13 @@ TEST_F(PictureLoader, ReadsPicturesOfOneColourHoweverSmall)
         EXPECT_EQ(picture.reason.contains("cut off"), !isThere) << picture.reason.toStdString();
         hole.remove(hole.size() / 2, hole.size() / 4);
     }
+    // One whose checksums hold and whose pixels end after the first row.
+    const QString brief =
+        put("brief.png",
+            QByteArray::fromHex(
+                "89504e470d0a1a0a0000000d4948445200000004000000030800000000919ff11a0000000d49444154789c63484c4a4e0100"
+                "03d9018b2381a0ec0000000049454e44ae426082"));
+    EXPECT_TRUE(loadThroughDecoder(brief, "png", kDecoder).reason.contains("between its first row"));
 }
 
 TEST_F(PictureLoader, StopsAReaderThatLoopsOrTakesTooMuchMemory)

@@ -1,6 +1,6 @@
 // WebpEncoder: a picture of libwebp, and the file that it becomes; for the programs and for velara-encode.
 #pragma once
-#include "fileio/writers/WebpForm.h"
+#include "fileio/writers/webp/WebpForm.h"
 #include <cstddef>
 #include <cstdint>
 #include <functional>

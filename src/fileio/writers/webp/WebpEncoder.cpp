@@ -1,4 +1,4 @@
-#include "fileio/writers/WebpEncoder.h"
+#include "fileio/writers/webp/WebpEncoder.h"
 #include <memory>
 #include <webp/mux.h>
 

@@ -1,8 +1,8 @@
 // WebP: small pictures here, larger ones by a velara-encode.
 #include "fileio/cameraData.h"
-#include "fileio/writers/WebpEncoder.h"
 #include "fileio/writers/encodedFile.h"
 #include "fileio/writers/pictureFiles.h"
+#include "fileio/writers/webp/WebpEncoder.h"
 
 namespace velara {
 
