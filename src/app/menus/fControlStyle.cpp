@@ -217,8 +217,8 @@ void fControlStyle::polish(QPalette& palette)
         palette.setColor(group, QPalette::Highlight, ground);
         QColor link = palette.color(group, QPalette::Link);
         const QColor page = palette.color(group, QPalette::Base);
-        for (int i = 0; i < 40 && contrast(link, page) < kReadable; ++i)
-            link = mixed(link, luminance(page) > 0.5 ? Qt::black : Qt::white, 0.95);
+        for (int i = 0; i < 40 && contrast(link, page) < kReadableText; ++i)
+            link = mixed(link, page.lightness() > 128 ? Qt::black : Qt::white, 0.95);
         palette.setColor(group, QPalette::Link, link);
     }
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
