@@ -162,8 +162,9 @@ void run(char** program, int until, Times& times)
     times.frame.push_back(*frame);
     times.busy.push_back(ran);
     if (picture) times.picture.push_back(*picture);
+    if (owner != child) waitpid(child, nullptr, 0); // it starts the editor, and would do so again without an answer
     end(owner);
-    waitpid(child, nullptr, 0);
+    if (owner == child) waitpid(child, nullptr, 0);
     usleep(200'000); // for its helpers
 }
 
