@@ -31,7 +31,9 @@ release() { xdotool mouseup "$1"; }
 send_key() { xdotool key --clearmodifiers "$1"; }
 write() { xdotool type --delay 4 "$1"; }
 # in_frame X Y: that place of the frame, on the screen
-in_frame() { xdotool getwindowgeometry --shell "$(frame)" | awk -F= -v x="$1" -v y="$2" '$1 == "X" { x += $2 } $1 == "Y" { y += $2 } END { print x, y }'; }
+in_frame() {
+    xwininfo -id "$(frame)" | awk -v x="$1" -v y="$2" '/Absolute upper-left X/ { x += $NF } /Absolute upper-left Y/ { y += $NF } END { print x, y }'
+}
 frame_title() { xdotool getwindowname "$main"; }
 screen() { import -window root "$1"; }
 frame_size() { xdotool getwindowgeometry "$main" | sed -n 's/.*Geometry: //p'; }
