@@ -38,7 +38,7 @@ Plan planOf(const QCommandLineParser& line)
     plan.brief = line.isSet("brief");
     plan.warm = line.isSet("warm");
     plan.keep = QDir(line.value("keep")).absolutePath();
-    plan.samples = line.value("samples");
+    if (line.isSet("samples")) plan.samples = QDir(line.value("samples")).absolutePath(); // the folder changes
     plan.noDeaths = line.isSet("no-deaths");
     for (const QString& format : line.value("formats").split(',', Qt::SkipEmptyParts)) {
         if (!findFormat(format.toStdString())) qFatal("no format: %s", qPrintable(format));
