@@ -2140,6 +2140,14 @@
         <source>Squares of one colour: hides a face or a number plate</source>
         <translation>Einfarbige Quadrate: macht ein Gesicht oder Kennzeichen unkenntlich</translation>
     </message>
+    <message>
+        <source>&amp;Keys and Mouse ...</source>
+        <translation>&amp;Tasten und Maus ...</translation>
+    </message>
+    <message>
+        <source>The manual, at the page of what you are doing</source>
+        <translation>Das Handbuch, auf der Seite zu dem, was Sie gerade tun</translation>
+    </message>
 </context>
 <context>
     <name>Properties</name>
@@ -2965,10 +2973,6 @@ und %n weitere</numerusform>
         <translation>Stapel viele Bilder Makro alle umwandeln</translation>
     </message>
     <message>
-        <source>keys shortcuts manual</source>
-        <translation>Tasten Tastenkürzel Handbuch</translation>
-    </message>
-    <message>
         <source>negative</source>
         <translation>Negativ</translation>
     </message>
@@ -3043,6 +3047,14 @@ und %n weitere</numerusform>
     <message>
         <source>grain</source>
         <translation>Körnung</translation>
+    </message>
+    <message>
+        <source>manual guide documentation how</source>
+        <translation>handbuch anleitung dokumentation wie</translation>
+    </message>
+    <message>
+        <source>keys shortcuts keyboard</source>
+        <translation>tasten tastenkürzel tastatur</translation>
     </message>
 </context>
 <context>
@@ -3381,6 +3393,29 @@ und %n weitere</numerusform>
     <message>
         <source>Paste</source>
         <translation>Einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>velara::Appearance</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>High contrast, light</source>
+        <translation>Hoher Kontrast, hell</translation>
+    </message>
+    <message>
+        <source>High contrast, dark</source>
+        <translation>Hoher Kontrast, dunkel</translation>
     </message>
 </context>
 <context>
@@ -4823,18 +4858,6 @@ Datei öffnet, wird in den Einstellungen Ihres Desktops gewählt.</translation>
         <translation>Namen der neuen Dateien</translation>
     </message>
     <message>
-        <source>{name}  the picture&apos;s own name
-{ext}  the ending of its format
-{n:04}  its number, with four digits
-{dir}  its folder below the one that was chosen
-Such as {name}-web.{ext}</source>
-        <translation>{name}  der Name des Bildes
-{ext}  die Endung seines Formats
-{n:04}  seine Nummer, vierstellig
-{dir}  sein Ordner unterhalb des gewählten
-Zum Beispiel {name}-web.{ext}</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Format</translation>
     </message>
@@ -4909,6 +4932,20 @@ Zum Beispiel {name}-web.{ext}</translation>
     <message>
         <source>Pictures that fa&amp;iled</source>
         <translation>Fehlgeschlagene B&amp;ilder</translation>
+    </message>
+    <message>
+        <source>{name}  the picture&apos;s own name
+{ext}  the ending of its format
+{n:04}  its number, with four digits
+{dir}  its folder below the one that was chosen
+{width}, {height}  its size in pixels
+Such as {name}-web.{ext}</source>
+        <translation>{name}  der eigene Name des Bildes
+{ext}  die Endung seines Formats
+{n:04}  seine Nummer, mit vier Ziffern
+{dir}  sein Ordner unter dem gewählten
+{width}, {height}  seine Größe in Pixeln
+Zum Beispiel {name}-web.{ext}</translation>
     </message>
 </context>
 <context>
@@ -5017,10 +5054,6 @@ Zum Beispiel {name}-web.{ext}</translation>
         <translation>Tab</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
         <source>What to do</source>
         <translation>Was zu tun ist</translation>
     </message>
@@ -5039,6 +5072,10 @@ Zum Beispiel {name}-web.{ext}</translation>
     <message>
         <source>Menus</source>
         <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>Keys and Mouse</source>
+        <translation>Tasten und Maus</translation>
     </message>
 </context>
 <context>
@@ -5760,6 +5797,53 @@ Die Datei hat %n Seite; nur diese bliebe übrig.</numerusform>
 Die Datei hat %n Seiten; nur diese eine bliebe davon übrig.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The program that reads pictures (velara-decode) was not found. Is the package being removed? What is open can be changed and saved.</source>
+        <translation>Das Programm, das Bilder liest (velara-decode), wurde nicht gefunden. Wird das Paket gerade entfernt? Was geöffnet ist, kann bearbeitet und gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>velara::fManual</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Seiten des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Words to look for in the manual</source>
+        <translation>Wörter, die im Handbuch gesucht werden</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>Suchwörter</translation>
+    </message>
 </context>
 <context>
     <name>velara::fNew</name>
@@ -6270,6 +6354,14 @@ the color in your list.</source>
     <message>
         <source>from the next start on</source>
         <translation>ab dem nächsten Start</translation>
+    </message>
+    <message>
+        <source>Colors of the windows</source>
+        <translation>Farben der Fenster</translation>
+    </message>
+    <message>
+        <source>Colors of the &amp;windows:</source>
+        <translation>Farben der &amp;Fenster:</translation>
     </message>
 </context>
 <context>

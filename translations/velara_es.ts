@@ -2140,6 +2140,14 @@
         <source>Squares of one colour: hides a face or a number plate</source>
         <translation>Cuadros de un solo color: oculta una cara o una matrícula</translation>
     </message>
+    <message>
+        <source>&amp;Keys and Mouse ...</source>
+        <translation>Teclas y &amp;ratón ...</translation>
+    </message>
+    <message>
+        <source>The manual, at the page of what you are doing</source>
+        <translation>El manual, en la página de lo que está haciendo</translation>
+    </message>
 </context>
 <context>
     <name>Properties</name>
@@ -2965,10 +2973,6 @@ y %n más</numerusform>
         <translation>lote muchas imágenes macro convertir todo</translation>
     </message>
     <message>
-        <source>keys shortcuts manual</source>
-        <translation>teclas atajos manual</translation>
-    </message>
-    <message>
         <source>negative</source>
         <translation>negativo</translation>
     </message>
@@ -3043,6 +3047,14 @@ y %n más</numerusform>
     <message>
         <source>grain</source>
         <translation>grano</translation>
+    </message>
+    <message>
+        <source>manual guide documentation how</source>
+        <translation>manual guía documentación cómo</translation>
+    </message>
+    <message>
+        <source>keys shortcuts keyboard</source>
+        <translation>teclas atajos teclado</translation>
     </message>
 </context>
 <context>
@@ -3381,6 +3393,29 @@ y %n más</numerusform>
     <message>
         <source>Paste</source>
         <translation>Pegar</translation>
+    </message>
+</context>
+<context>
+    <name>velara::Appearance</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>High contrast, light</source>
+        <translation>Alto contraste, claro</translation>
+    </message>
+    <message>
+        <source>High contrast, dark</source>
+        <translation>Alto contraste, oscuro</translation>
     </message>
 </context>
 <context>
@@ -4823,18 +4858,6 @@ un archivo se elige en los ajustes de su escritorio.</translation>
         <translation>Nombres de los archivos nuevos</translation>
     </message>
     <message>
-        <source>{name}  the picture&apos;s own name
-{ext}  the ending of its format
-{n:04}  its number, with four digits
-{dir}  its folder below the one that was chosen
-Such as {name}-web.{ext}</source>
-        <translation>{name}  el nombre de la imagen
-{ext}  la extensión de su formato
-{n:04}  su número, con cuatro cifras
-{dir}  su carpeta bajo la elegida
-Por ejemplo {name}-web.{ext}</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Formato</translation>
     </message>
@@ -4909,6 +4932,20 @@ Por ejemplo {name}-web.{ext}</translation>
     <message>
         <source>Pictures that fa&amp;iled</source>
         <translation>Imá&amp;genes con error</translation>
+    </message>
+    <message>
+        <source>{name}  the picture&apos;s own name
+{ext}  the ending of its format
+{n:04}  its number, with four digits
+{dir}  its folder below the one that was chosen
+{width}, {height}  its size in pixels
+Such as {name}-web.{ext}</source>
+        <translation>{name}  el nombre de la imagen
+{ext}  la extensión de su formato
+{n:04}  su número, con cuatro cifras
+{dir}  su carpeta bajo la elegida
+{width}, {height}  su tamaño en píxeles
+Por ejemplo {name}-web.{ext}</translation>
     </message>
 </context>
 <context>
@@ -5017,10 +5054,6 @@ Por ejemplo {name}-web.{ext}</translation>
         <translation>Tab</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
         <source>What to do</source>
         <translation>Qué hacer</translation>
     </message>
@@ -5039,6 +5072,10 @@ Por ejemplo {name}-web.{ext}</translation>
     <message>
         <source>Menus</source>
         <translation>Menús</translation>
+    </message>
+    <message>
+        <source>Keys and Mouse</source>
+        <translation>Teclas y ratón</translation>
     </message>
 </context>
 <context>
@@ -5760,6 +5797,53 @@ El archivo tiene %n página; solo quedaría esta.</numerusform>
 El archivo tiene %n páginas; solo quedaría esta.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The program that reads pictures (velara-decode) was not found. Is the package being removed? What is open can be changed and saved.</source>
+        <translation>No se encontró el programa que lee imágenes (velara-decode). ¿Se está desinstalando el paquete? Lo que está abierto se puede modificar y guardar.</translation>
+    </message>
+</context>
+<context>
+    <name>velara::fManual</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Página del manual</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Páginas del manual</translation>
+    </message>
+    <message>
+        <source>Words to look for in the manual</source>
+        <translation>Palabras que buscar en el manual</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Índice</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>Palabras que buscar</translation>
+    </message>
 </context>
 <context>
     <name>velara::fNew</name>
@@ -6270,6 +6354,14 @@ el color en su lista.</translation>
     <message>
         <source>from the next start on</source>
         <translation>desde el próximo inicio</translation>
+    </message>
+    <message>
+        <source>Colors of the windows</source>
+        <translation>Colores de las ventanas</translation>
+    </message>
+    <message>
+        <source>Colors of the &amp;windows:</source>
+        <translation>Colores de las ve&amp;ntanas:</translation>
     </message>
 </context>
 <context>

@@ -2140,6 +2140,14 @@
         <source>Squares of one colour: hides a face or a number plate</source>
         <translation>Des carrés d&apos;une seule couleur : cache un visage ou une plaque</translation>
     </message>
+    <message>
+        <source>&amp;Keys and Mouse ...</source>
+        <translation>Touches et &amp;souris ...</translation>
+    </message>
+    <message>
+        <source>The manual, at the page of what you are doing</source>
+        <translation>Le manuel, à la page de ce que vous faites</translation>
+    </message>
 </context>
 <context>
     <name>Properties</name>
@@ -2965,10 +2973,6 @@ et %n de plus</numerusform>
         <translation>lot plusieurs images macro convertir tout</translation>
     </message>
     <message>
-        <source>keys shortcuts manual</source>
-        <translation>touches raccourcis manuel</translation>
-    </message>
-    <message>
         <source>negative</source>
         <translation>négatif</translation>
     </message>
@@ -3043,6 +3047,14 @@ et %n de plus</numerusform>
     <message>
         <source>grain</source>
         <translation>grain</translation>
+    </message>
+    <message>
+        <source>manual guide documentation how</source>
+        <translation>manuel guide documentation comment</translation>
+    </message>
+    <message>
+        <source>keys shortcuts keyboard</source>
+        <translation>touches raccourcis clavier</translation>
     </message>
 </context>
 <context>
@@ -3381,6 +3393,29 @@ et %n de plus</numerusform>
     <message>
         <source>Paste</source>
         <translation>Coller</translation>
+    </message>
+</context>
+<context>
+    <name>velara::Appearance</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>High contrast, light</source>
+        <translation>Contraste élevé, clair</translation>
+    </message>
+    <message>
+        <source>High contrast, dark</source>
+        <translation>Contraste élevé, sombre</translation>
     </message>
 </context>
 <context>
@@ -4823,18 +4858,6 @@ un fichier se choisit dans les réglages de votre bureau.</translation>
         <translation>Noms des nouveaux fichiers</translation>
     </message>
     <message>
-        <source>{name}  the picture&apos;s own name
-{ext}  the ending of its format
-{n:04}  its number, with four digits
-{dir}  its folder below the one that was chosen
-Such as {name}-web.{ext}</source>
-        <translation>{name}  le nom de l&apos;image
-{ext}  l&apos;extension de son format
-{n:04}  son numéro, sur quatre chiffres
-{dir}  son dossier sous celui qui a été choisi
-Par exemple {name}-web.{ext}</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Format</translation>
     </message>
@@ -4909,6 +4932,20 @@ Par exemple {name}-web.{ext}</translation>
     <message>
         <source>Pictures that fa&amp;iled</source>
         <translation>Ima&amp;ges en échec</translation>
+    </message>
+    <message>
+        <source>{name}  the picture&apos;s own name
+{ext}  the ending of its format
+{n:04}  its number, with four digits
+{dir}  its folder below the one that was chosen
+{width}, {height}  its size in pixels
+Such as {name}-web.{ext}</source>
+        <translation>{name}  le nom de l&apos;image
+{ext}  l&apos;extension de son format
+{n:04}  son numéro, sur quatre chiffres
+{dir}  son dossier sous celui qui a été choisi
+{width}, {height}  sa taille en pixels
+Par exemple {name}-web.{ext}</translation>
     </message>
 </context>
 <context>
@@ -5017,10 +5054,6 @@ Par exemple {name}-web.{ext}</translation>
         <translation>Tab</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
         <source>What to do</source>
         <translation>Ce qu&apos;il faut faire</translation>
     </message>
@@ -5039,6 +5072,10 @@ Par exemple {name}-web.{ext}</translation>
     <message>
         <source>Menus</source>
         <translation>Menus</translation>
+    </message>
+    <message>
+        <source>Keys and Mouse</source>
+        <translation>Touches et souris</translation>
     </message>
 </context>
 <context>
@@ -5760,6 +5797,53 @@ Le fichier a %n page ; il n&apos;en resterait que celle-ci.</numerusform>
 Le fichier a %n pages ; il n&apos;en resterait que celle-ci.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The program that reads pictures (velara-decode) was not found. Is the package being removed? What is open can be changed and saved.</source>
+        <translation>Le programme qui lit les images (velara-decode) est introuvable. Le paquet est-il en cours de suppression ? Ce qui est ouvert peut être modifié et enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>velara::fManual</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page du manuel</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>Pages du manuel</translation>
+    </message>
+    <message>
+        <source>Words to look for in the manual</source>
+        <translation>Mots à chercher dans le manuel</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>Mots à chercher</translation>
+    </message>
 </context>
 <context>
     <name>velara::fNew</name>
@@ -6270,6 +6354,14 @@ garde la couleur dans votre liste.</translation>
     <message>
         <source>from the next start on</source>
         <translation>à partir du prochain démarrage</translation>
+    </message>
+    <message>
+        <source>Colors of the windows</source>
+        <translation>Couleurs des fenêtres</translation>
+    </message>
+    <message>
+        <source>Colors of the &amp;windows:</source>
+        <translation>Couleurs des fe&amp;nêtres :</translation>
     </message>
 </context>
 <context>

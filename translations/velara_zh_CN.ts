@@ -2140,6 +2140,14 @@
         <source>Squares of one colour: hides a face or a number plate</source>
         <translation>单色方块：可遮盖人脸或车牌</translation>
     </message>
+    <message>
+        <source>&amp;Keys and Mouse ...</source>
+        <translation>按键与鼠标(&amp;K) ...</translation>
+    </message>
+    <message>
+        <source>The manual, at the page of what you are doing</source>
+        <translation>手册，打开与当前操作相关的页面</translation>
+    </message>
 </context>
 <context>
     <name>Properties</name>
@@ -2963,10 +2971,6 @@ and %n more</source>
         <translation>批处理 多张图片 宏 转换 全部</translation>
     </message>
     <message>
-        <source>keys shortcuts manual</source>
-        <translation>按键 快捷键 手册</translation>
-    </message>
-    <message>
         <source>negative</source>
         <translation>负片</translation>
     </message>
@@ -3041,6 +3045,14 @@ and %n more</source>
     <message>
         <source>grain</source>
         <translation>颗粒</translation>
+    </message>
+    <message>
+        <source>manual guide documentation how</source>
+        <translation>手册 指南 文档 如何</translation>
+    </message>
+    <message>
+        <source>keys shortcuts keyboard</source>
+        <translation>按键 快捷键 键盘</translation>
     </message>
 </context>
 <context>
@@ -3379,6 +3391,29 @@ and %n more</source>
     <message>
         <source>Paste</source>
         <translation>粘贴</translation>
+    </message>
+</context>
+<context>
+    <name>velara::Appearance</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>High contrast, light</source>
+        <translation>高对比度，浅色</translation>
+    </message>
+    <message>
+        <source>High contrast, dark</source>
+        <translation>高对比度，深色</translation>
     </message>
 </context>
 <context>
@@ -4816,18 +4851,6 @@ a file is chosen in the settings of your desktop.</source>
         <translation>新文件的名称</translation>
     </message>
     <message>
-        <source>{name}  the picture&apos;s own name
-{ext}  the ending of its format
-{n:04}  its number, with four digits
-{dir}  its folder below the one that was chosen
-Such as {name}-web.{ext}</source>
-        <translation>{name}  图片自己的名称
-{ext}  其格式的扩展名
-{n:04}  其编号，四位数
-{dir}  它在所选文件夹之下的文件夹
-例如 {name}-web.{ext}</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>格式</translation>
     </message>
@@ -4902,6 +4925,20 @@ Such as {name}-web.{ext}</source>
     <message>
         <source>Pictures that fa&amp;iled</source>
         <translation>失败的图片(&amp;I)</translation>
+    </message>
+    <message>
+        <source>{name}  the picture&apos;s own name
+{ext}  the ending of its format
+{n:04}  its number, with four digits
+{dir}  its folder below the one that was chosen
+{width}, {height}  its size in pixels
+Such as {name}-web.{ext}</source>
+        <translation>{name}  图片自己的名称
+{ext}  其格式的扩展名
+{n:04}  其编号，四位数
+{dir}  它在所选文件夹之下的文件夹
+{width}、{height}  其像素尺寸
+例如 {name}-web.{ext}</translation>
     </message>
 </context>
 <context>
@@ -5010,10 +5047,6 @@ Such as {name}-web.{ext}</source>
         <translation>Tab</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
         <source>What to do</source>
         <translation>要做什么</translation>
     </message>
@@ -5032,6 +5065,10 @@ Such as {name}-web.{ext}</source>
     <message>
         <source>Menus</source>
         <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Keys and Mouse</source>
+        <translation>按键与鼠标</translation>
     </message>
 </context>
 <context>
@@ -5748,6 +5785,53 @@ It has %n pages; this one alone would be left of it.</source>
 该文件有 %n 页；保存后将只剩下这一页。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The program that reads pictures (velara-decode) was not found. Is the package being removed? What is open can be changed and saved.</source>
+        <translation>找不到读取图片的程序 (velara-decode)。是否正在卸载软件包？已打开的内容仍可修改和保存。</translation>
+    </message>
+</context>
+<context>
+    <name>velara::fManual</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>手册页面</translation>
+    </message>
+    <message>
+        <source>Pages of the manual</source>
+        <translation>手册页面列表</translation>
+    </message>
+    <message>
+        <source>Words to look for in the manual</source>
+        <translation>要在手册中查找的词</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手册</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>要查找的词</translation>
+    </message>
 </context>
 <context>
     <name>velara::fNew</name>
@@ -6258,6 +6342,14 @@ the color in your list.</source>
     <message>
         <source>from the next start on</source>
         <translation>下次启动时生效</translation>
+    </message>
+    <message>
+        <source>Colors of the windows</source>
+        <translation>窗口颜色</translation>
+    </message>
+    <message>
+        <source>Colors of the &amp;windows:</source>
+        <translation>窗口颜色(&amp;W)：</translation>
     </message>
 </context>
 <context>
