@@ -6361,7 +6361,7 @@ the color in your list.</source>
     </message>
     <message>
         <source>Colors of the &amp;windows:</source>
-        <translation>Farben der &amp;Fenster:</translation>
+        <translation>Farben der F&amp;enster:</translation>
     </message>
 </context>
 <context>

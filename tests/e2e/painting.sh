@@ -1,6 +1,12 @@
 # A picture at zoom 4, painted on with a real mouse, and its undo files inspected. Source lib.sh first.
 W=64 H=48 zoom=4
 
+# is_shown COLOUR OTHER: all of the picture, as of now
+is_shown() {
+    screen "$scratch/screen.png"
+    box=$(convert "$scratch/screen.png" -fill "$1" -opaque "$2" -fill black +opaque "$1" -format '%@' info: 2>/dev/null)
+    [ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ]
+}
 # open_large FILE COLOUR [OTHER]: a picture of W by H pixels in these colours, by which it is found on the screen
 open_large() {
     start_plain maximized
@@ -8,9 +14,7 @@ open_large() {
     keys ctrl+plus ctrl+plus ctrl+plus
     point 600 20
     settled
-    screen "$scratch/screen.png"
-    box=$(convert "$scratch/screen.png" -fill "$2" -opaque "${3:-$2}" -fill black +opaque "$2" -format '%@' info:)
-    [ "${box%%+*}" = $((W * zoom))x$((H * zoom)) ] || fail "the picture is $box on the screen"
+    until_true "a picture of $((W * zoom))x$((H * zoom)) on the screen" is_shown "$2" "${3:-$2}"
     left=$(echo "$box" | cut -d+ -f2) top=$(echo "$box" | cut -d+ -f3)
 }
 over() { echo $((left + $1 * zoom + zoom / 2)) $((top + $2 * zoom + zoom / 2)); }

@@ -101,6 +101,12 @@ TEST_F(QtPlatformTest, ALongReadCanBeGivenUp)
     EXPECT_FALSE(box.goOn(600ms));
 }
 
+/// A selected file is not taken while the field has the focus.
+static void typed(QFileDialog& dialog, const char* name)
+{
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+}
+
 TEST_F(QtPlatformTest, ANameWithoutASuffixGetsThatOfTheFormat)
 {
     whenShown<QFileDialog>([](QFileDialog& dialog) {
@@ -109,7 +115,7 @@ TEST_F(QtPlatformTest, ANameWithoutASuffixGetsThatOfTheFormat)
                   "\\x200f");
         dialog.selectNameFilter("Png (*.png)");
         emit dialog.filterSelected("Png (*.png)");
-        dialog.selectFile("picture");
+        typed(dialog, "picture");
         static_cast<QDialog&>(dialog).accept();
     });
     const auto name = platform.saveFileName({"Save as", "Bmp|*.bmp|Png|*.png", folder.path()});
@@ -127,7 +133,7 @@ TEST_F(QtPlatformTest, TheQuestionIsAboutTheFileThatIsWritten)
     for (const bool yes : {false, true}) {
         QString asked;
         whenShown<QFileDialog>([&](QFileDialog& dialog) {
-            dialog.selectFile("x.pgm");
+            typed(dialog, "x.pgm");
             whenShown<QMessageBox>([&](QMessageBox& box) {
                 asked = box.text();
                 box.button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
@@ -196,7 +202,7 @@ TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
     const auto shown = [](QFileDialog& dialog, const char* name) { return dialog.findChild<QLabel*>(name)->text(); };
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         dialog.resize(901, 523);
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("x.png");
+        typed(dialog, "x.png");
         EXPECT_TRUE(comes([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         EXPECT_EQ(shown(dialog, "previewName"), "x.png");
         dialog.setDirectory(other.path());
@@ -206,7 +212,7 @@ TEST_F(QtPlatformTest, FileDialogsRememberTheirSizeAndShowThePicture)
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.size(), QSize(901, 523));
         EXPECT_EQ(dialog.directory().path(), folder.path());
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("x.png"); // a selection goes as the folder is read again
+        typed(dialog, "x.png");
         EXPECT_TRUE(comes([&] { return shown(dialog, "previewSize") == "30 x 20 pixels"; }));
         static_cast<QDialog&>(dialog).accept();
         if (dialog.isVisible()) dialog.reject(); // no endless wait where it is refused

@@ -83,8 +83,8 @@ struct Languages : WindowWalk, ::testing::WithParamInterface<const char*> {
     }
     void readItems(const QAbstractItemView& view)
     {
-        static const QStringList kData = {"lstInputs", "ListFile",   "cbStamps",
-                                          "lstRecent", "lstSources", "lstProperties"};
+        static const QStringList kData = {"lstInputs",  "ListFile",      "cbStamps", "lstRecent",
+                                          "lstSources", "lstProperties", "lstPages"};
         if (!view.model() || kData.contains(view.objectName()) ||
             isA(&view, {"velara::fFolderTree", "QComboBoxListView"}))
             return;

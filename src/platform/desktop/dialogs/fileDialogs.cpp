@@ -195,7 +195,7 @@ class SaveDialog final : public PictureDialog {
         const int choice = showChoices(
             windowTitle(), tr("\"%1\" has the ending of another kind of file.").arg(own),
             {tr("Save as \"%1\"").arg(other).replace(u'&', "&&"), tr("Keep \"%1\"").arg(own).replace(u'&', "&&")});
-        if (alive && choice == 0) selectFile(fitting(name)); // with its folder, which may have been typed
+        if (alive && choice == 0) field()->setText(fitting(name)); // with its folder, which may have been typed
         return alive && choice >= 0;
     }
     bool mayBeReplaced()
