@@ -6017,7 +6017,7 @@ El archivo tiene %n páginas; solo quedaría esta.</numerusform>
     <name>velara::fPalette</name>
     <message>
         <source>Select Color</source>
-        <translation>Elegir color</translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Saturation and lightness</source>
@@ -6092,7 +6092,7 @@ El archivo tiene %n páginas; solo quedaría esta.</numerusform>
     </message>
     <message>
         <source>Clip History</source>
-        <translation>Historial de recortes</translation>
+        <translation>Recortes</translation>
     </message>
     <message>
         <source>Clips, oldest first</source>

@@ -6017,7 +6017,7 @@ Le fichier a %n pages ; il n&apos;en resterait que celle-ci.</numerusform>
     <name>velara::fPalette</name>
     <message>
         <source>Select Color</source>
-        <translation>Choisir une couleur</translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>Saturation and lightness</source>
@@ -6092,7 +6092,7 @@ Le fichier a %n pages ; il n&apos;en resterait que celle-ci.</numerusform>
     </message>
     <message>
         <source>Clip History</source>
-        <translation>Historique des extraits</translation>
+        <translation>Extraits</translation>
     </message>
     <message>
         <source>Clips, oldest first</source>
