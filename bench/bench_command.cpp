@@ -21,7 +21,8 @@ struct Desk {
     explicit Desk(const Bits& bits)
     {
         document.takePicture(bits);
-        for (int i = 0; i < UndoStore::kLimit; ++i) document.SaveUndoBits(); // the series is full, as after some work
+        for (int i = 0; i < UndoStore::kLimit; ++i)
+            command(); // the series is full of whole pictures, as after some work
     }
     ~Desk() { document.undo.deleteSeries(); }
 

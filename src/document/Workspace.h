@@ -174,11 +174,11 @@ class Workspace final : public QObject {
     PictureReader& reader_;
     cBitFilter engine_;
     DocumentHandle held_;
+    std::mutex callsGuard_;                   // before the documents, whose undo stores call until they end
+    std::deque<std::function<void()>> calls_; // an event is on its way for each
     std::vector<std::unique_ptr<Place>> places_;
     std::deque<std::shared_ptr<FileRead>> openings_; // the first is being read
     int nextNumber_ = 1, clashes_ = 0, changes_ = kAll, writes_ = 0;
-    std::mutex callsGuard_;
-    std::deque<std::function<void()>> calls_; // an event is on its way for each
     Workers threads_, reading_, writing_, freeing_;
 };
 
