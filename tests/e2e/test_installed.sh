@@ -21,7 +21,7 @@ editor=$(find "$XDG_RUNTIME_DIR" -name '*.socket' | sed 's/.*-\([0-9]*\)\.socket
 [ "$(readlink -f "/proc/$editor/exe")" = "$place/bin/velara-studio" ] || fail "editors: $editor"
 pids="$pids $editor"
 folder=$HOME/.local/state/velara-studio
-documents 1 || fail "the undo files are not in $folder: $(find "$HOME" -name 'b*00.dat')"
+until_true "the undo files are in $folder" documents 1
 until_true "the frame" started
 [ "$(cksum <"$XDG_CONFIG_HOME/velara-studio/Vlaera.dat")" = "$(cat "$scratch/settings")" ] || fail "the settings were not taken over"
 [ ! -e "$old/Vlaera.dat" ] || fail "the old settings are still there"

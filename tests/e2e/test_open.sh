@@ -12,7 +12,8 @@ bin=$(cd "$bin" && pwd)
 cd "$pictures"
 hand() { "$folder/velara-open" "$@" >"$scratch/said" 2>&1; }
 says() { grep -q "$1" "$scratch/said" || fail "not told: $1 but $(cat "$scratch/said")"; }
-open_now() { documents "$1" || fail "$2: $(find "$folder/Temp" -name 'b*00.dat' | wc -l) pictures are open instead of $1"; }
+# The steps of what is open are written while the editor goes on.
+open_now() { until_true "$2: $1 pictures are open" documents "$1"; }
 editors() { find "$XDG_RUNTIME_DIR" -name '*.socket' | sed 's/.*-\([0-9]*\)\.socket/\1/' | tr '\n' ' '; }
 leave() { # the editor is no child of this script
     keys ctrl+q
