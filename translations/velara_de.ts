@@ -2267,6 +2267,10 @@ und %n weitere</numerusform>
         <translation>Die Datei ist beschädigt: Ein Teil ihrer Pixel fehlt</translation>
     </message>
     <message>
+        <source>it is damaged between its first row and its last</source>
+        <translation>Die Datei ist zwischen ihrer ersten und ihrer letzten Zeile beschädigt</translation>
+    </message>
+    <message>
         <source>it is cut off: its end is missing</source>
         <translation>Die Datei ist abgeschnitten: Ihr Ende fehlt</translation>
     </message>

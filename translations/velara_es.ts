@@ -2267,6 +2267,10 @@ y %n más</numerusform>
         <translation>está dañado: le faltan píxeles</translation>
     </message>
     <message>
+        <source>it is damaged between its first row and its last</source>
+        <translation>está dañado entre su primera fila y la última</translation>
+    </message>
+    <message>
         <source>it is cut off: its end is missing</source>
         <translation>está cortado: le falta el final</translation>
     </message>

@@ -2267,6 +2267,10 @@ et %n de plus</numerusform>
         <translation>il est endommagé : il lui manque des pixels</translation>
     </message>
     <message>
+        <source>it is damaged between its first row and its last</source>
+        <translation>il est endommagé entre sa première et sa dernière ligne</translation>
+    </message>
+    <message>
         <source>it is cut off: its end is missing</source>
         <translation>il est tronqué : sa fin manque</translation>
     </message>

@@ -2265,6 +2265,10 @@ and %n more</source>
         <translation>它已损坏：缺少部分像素</translation>
     </message>
     <message>
+        <source>it is damaged between its first row and its last</source>
+        <translation>它在首行与末行之间已损坏</translation>
+    </message>
+    <message>
         <source>it is cut off: its end is missing</source>
         <translation>它被截断：缺少末尾</translation>
     </message>

@@ -15,6 +15,7 @@ constexpr const char* kReasons[] = { // those with fewer fixed words come later
     QT_TRANSLATE_NOOP("Reasons", "it is damaged, and its reader wanted what no picture needs"),
     QT_TRANSLATE_NOOP("Reasons", "it is damaged: it has hardly any bytes for its %1 x %2 pixels"),
     QT_TRANSLATE_NOOP("Reasons", "it is damaged: some of its pixels are missing"),
+    QT_TRANSLATE_NOOP("Reasons", "it is damaged between its first row and its last"),
     QT_TRANSLATE_NOOP("Reasons", "it is cut off: its end is missing"),
     QT_TRANSLATE_NOOP("Reasons", "it is wider or higher than 32767 pixels, or has more than 268 million pixels"),
     QT_TRANSLATE_NOOP("Reasons", "it needs more memory than reading a picture may take"),
