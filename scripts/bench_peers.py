@@ -4,9 +4,12 @@ with the picture, as a plot. For a machine at rest.
 
     scripts/bench_peers.py PROGRAMS [--size WxH] [--into docs/speed.md]     PROGRAMS is the folder of velara-bench
 
-Peers that aren't installed are left out: python3-opencv, libvips-tools, graphicsmagick, imagemagick. The last three are whole
-programs: what it takes them to do nothing to the picture is measured, too, and subtracted."""
+Peers that aren't installed are left out: python3-opencv, libvips42, graphicsmagick, imagemagick. The last two are whole
+programs: what it takes them to do nothing to the picture is measured, too, and subtracted. libvips computes a picture into
+memory of its own each time, all of it."""
 import argparse
+import ctypes
+import ctypes.util
 import math
 import os
 import re
@@ -27,27 +30,30 @@ CORES = os.cpu_count() or 1
 
 # --- The work: the row of velara-bench, and the same for each peer
 
-# name of the row; OpenCV; libvips, "" where it has nothing of the kind; arguments of gm and convert
+BLACK_AND_WHITE, SRGB, NEAREST, LINEAR = 1, 22, 0, 1  # numbers of libvips
+
+# name of the row; OpenCV; operation of libvips with its arguments by place and by name, None where it has nothing of the kind;
+# arguments of gm and convert
 WORK = (
-    ("Invert", lambda p: cv2.bitwise_not(p), "invert {i} {o}", "-negate"),
-    ("GammaCorrection(-30)", lambda p: cv2.LUT(p, TABLE), "gamma {i} {o} --exponent 0.7", "-gamma 0.7"),
+    ("Invert", lambda p: cv2.bitwise_not(p), ("invert", (), {}), "-negate"),
+    ("GammaCorrection(-30)", lambda p: cv2.LUT(p, TABLE), ("gamma", (), {"exponent": 0.7}), "-gamma 0.7"),
     ("GreyScale", lambda p: cv2.cvtColor(cv2.cvtColor(p, cv2.COLOR_BGRA2GRAY), cv2.COLOR_GRAY2BGRA),
-     "colourspace {i} {o} b-w", "-colorspace Gray"),
-    ("SHARPEN(10)", lambda p: cv2.filter2D(p, -1, KERNEL), "conv {i} {o} {matrix} --precision integer", "-sharpen 1x1"),
-    ("DILATE", lambda p: cv2.dilate(p, SQUARE), "rank {i} {o} 3 3 8", None),
-    ("BitsRotate90", lambda p: cv2.rotate(p, cv2.ROTATE_90_CLOCKWISE), "rot {i} {o} d90", "-rotate 90"),
-    ("Flip(true,false)", lambda p: cv2.flip(p, 1), "flip {i} {o} horizontal", "-flop"),
-    ("Flip(false,true)", lambda p: cv2.flip(p, 0), "flip {i} {o} vertical", "-flip"),
+     ("colourspace", (BLACK_AND_WHITE,), {}), "-colorspace Gray"),
+    ("SHARPEN(10)", lambda p: cv2.filter2D(p, -1, KERNEL), ("conv", ("mask",), {"precision": 0}), "-sharpen 1x1"),
+    ("DILATE", lambda p: cv2.dilate(p, SQUARE), ("rank", (3, 3, 8), {}), None),
+    ("BitsRotate90", lambda p: cv2.rotate(p, cv2.ROTATE_90_CLOCKWISE), ("rot", (1,), {}), "-rotate 90"),
+    ("Flip(true,false)", lambda p: cv2.flip(p, 1), ("flip", (0,), {}), "-flop"),
+    ("Flip(false,true)", lambda p: cv2.flip(p, 0), ("flip", (1,), {}), "-flip"),
     ("RotateSmooth(30)", lambda p: cv2.warpAffine(p, turned(p), (p.shape[1], p.shape[0]), flags=cv2.INTER_LINEAR),
-     "similarity {i} {o} --angle 30", None),
+     ("similarity", (), {"angle": 30.0}), None),
     ("BitsResample(3000,2000)", lambda p: cv2.resize(p, (3000, 2000), interpolation=cv2.INTER_LINEAR),
-     "resize {i} {o} 0.5 --kernel linear", "-filter Triangle -resize 50%"),
+     ("resize", (0.5,), {"kernel": LINEAR}), "-filter Triangle -resize 50%"),
     ("BitsResample(9000,6000)", lambda p: cv2.resize(p, (9000, 6000), interpolation=cv2.INTER_LINEAR),
-     "resize {i} {o} 1.5 --kernel linear", None),
+     ("resize", (1.5,), {"kernel": LINEAR}), None),
     ("BitsResize(3000,2000)", lambda p: cv2.resize(p, (3000, 2000), interpolation=cv2.INTER_NEAREST),
-     "resize {i} {o} 0.5 --kernel nearest", "-sample 50%"),
-    ("NOISE(20,true)", lambda p: cv2.add(p, noise(p)), "", None),
-    ("all, opaque", lambda p: cv2.floodFill(FLAT.copy(), None, (10, 10), (255, 0, 0)), "", None),
+     ("resize", (0.5,), {"kernel": NEAREST}), "-sample 50%"),
+    ("NOISE(20,true)", lambda p: cv2.add(p, noise(p)), None, None),
+    ("all, opaque", lambda p: cv2.floodFill(FLAT.copy(), None, (10, 10), (255, 0, 0)), None, None),
 )
 SHARPEN = ((0, -1, 0), (-1, 5, -1), (0, -1, 0))
 
@@ -106,11 +112,43 @@ def byProgram(run, work, nothing):
     return max(0.0, milliseconds(lambda: run(work)) - milliseconds(lambda: run(nothing)))
 
 
-def byVips(work, folder, file, threads):
-    names = {"i": file, "o": os.path.join(folder, "out.v"), "matrix": os.path.join(folder, "sharpen.mat")}
-    environment = {**os.environ, "VIPS_CONCURRENCY": str(threads)}
-    return byProgram(lambda words: subprocess.run(["vips", *words.format(**names).split()], check=True, env=environment),
-                     work, "copy {i} {o}")
+class Vips:
+    """libvips in this process, on a picture of four bands."""
+
+    def __init__(self, picture):
+        self.library = ctypes.CDLL("libvips.so.42")
+        for name in ("vips_image_new_from_memory", "vips_image_new_matrix_from_array", "vips_image_write_to_memory"):
+            getattr(self.library, name).restype = ctypes.c_void_p
+        if self.library.vips_init(b"bench"):
+            raise OSError("libvips does not start")
+        self.library.vips_cache_set_max(0)  # each time anew
+        self.pixels = picture.tobytes()
+        height, width, bands = picture.shape
+        stored = ctypes.c_void_p(self.library.vips_image_new_from_memory(
+            self.pixels, ctypes.c_size_t(len(self.pixels)), width, height, bands, 0))
+        self.picture = self.call("copy", stored, (), {"interpretation": SRGB})
+        weights = [float(v) for row in SHARPEN for v in row]
+        self.mask = ctypes.c_void_p(self.library.vips_image_new_matrix_from_array(
+            3, 3, (ctypes.c_double * 9)(*weights), 9))
+
+    def call(self, name, picture, places, names):
+        result = ctypes.c_void_p()
+        words = [self.mask if v == "mask" else ctypes.c_double(v) if isinstance(v, float) else v for v in places]
+        for key, value in names.items():
+            words += [key.encode(), ctypes.c_double(value) if isinstance(value, float) else value]
+        if self.library.vips_call(name.encode(), picture, ctypes.byref(result), *words, None):
+            raise RuntimeError("libvips: " + name)
+        return result
+
+    def compute(self, name, places, names):
+        result, size = self.call(name, self.picture, places, names), ctypes.c_size_t()
+        pixels = ctypes.c_void_p(self.library.vips_image_write_to_memory(result, ctypes.byref(size)))
+        self.library.g_free(pixels)
+        self.library.g_object_unref(result)
+
+    def by(self, work, threads):
+        self.library.vips_concurrency_set(threads)
+        return milliseconds(lambda: self.compute(*work))
 
 
 def byMagick(program, arguments, file):
@@ -179,7 +217,7 @@ def cell(value):
 def peersTable(programs, size):
     width, height = map(int, size.split("x"))
     picture = openCvPicture(width, height) if cv2 else None
-    vips = shutil.which("vips")
+    vips = Vips(picture) if picture is not None and ctypes.util.find_library("vips") else None
     measured = ours(os.path.join(programs, "velara-bench"), [row[0] for row in WORK], size)
     tools = [[name, *more] for name, more in (("gm", ["convert"]), ("convert", [])) if shutil.which(name)]
     both = (1, CORES)
@@ -189,12 +227,10 @@ def peersTable(programs, size):
         file = os.path.join(folder, "picture.ppm")
         with open(file, "wb") as ppm:
             ppm.write(b"P6\n%d %d\n255\n" % (width, height) + os.urandom(3 * width * height))
-        with open(os.path.join(folder, "sharpen.mat"), "w", encoding="ascii") as mask:
-            mask.write("3 3\n" + "\n".join(" ".join(map(str, row)) for row in SHARPEN) + "\n")
         for name, openCv, forVips, arguments in WORK:
             row = list(measured.get(name, (None, None, None)))[:2]
             row += [byOpenCv(openCv, picture, n) for n in both] if cv2 else []
-            row += [byVips(forVips, folder, file, n) if forVips else None for n in both] if vips else []
+            row += [vips.by(forVips, n) if forVips else None for n in both] if vips else []
             row += [byMagick(tool, arguments, file) if arguments else None for tool in tools]
             yield [name, *map(cell, row)]
 
