@@ -52,21 +52,21 @@ std::vector<std::int32_t> sources(int first, int last, double (*function)(double
     return table;
 }
 
-/// Sine and cosine of the numbers of a picture's pixels: those of a row's first number and of a run's place in the row
-/// are known, so none is computed a run.
+/// Sine and cosine of the numbers of a picture's pixels: those of a row's first number and of a column's place in the
+/// row are known, so none is computed a run.
 class Numbers {
   public:
-    /// number(x, y) = (y - box.ymin) * (box's width) + x - box.xmin + 1, for runs from inside.xmin on.
+    /// number(x, y) = (y - box.ymin) * (box's width) + x - box.xmin + 1.
     Numbers(const Box& box, const Box& inside) : box_(box), inside_(inside)
     {
         for (int y = inside.ymin; y <= inside.ymax; ++y) rows_.push_back(turnOf(ofRow(y)));
-        for (int x = inside.xmin; x <= inside.xmax; x += kPlaces) runs_.push_back(turnOf(double(x) - inside.xmin));
+        for (int x = inside.xmin; x <= inside.xmax; ++x) columns_.push_back(turnOf(double(x) - inside.xmin));
     }
     /// Displaces the positions by the waves of the n pixels from (x, y).
     void addWaves(int x, int y, int weight, int n, std::int32_t* places) const
     {
         const Turn row = rows_[static_cast<std::size_t>(y - inside_.ymin)];
-        const Turn run = runs_[static_cast<std::size_t>((x - inside_.xmin) / kPlaces)];
+        const Turn run = columns_[static_cast<std::size_t>(x - inside_.xmin)];
         std::int32_t offsets[kPlaces];
         const std::uint64_t doubtful =
             waveOffsets(waves_, row.sine * run.cosine + row.cosine * run.sine,
@@ -90,7 +90,7 @@ class Numbers {
 
     const Box box_, inside_;
     const WaveTables waves_;
-    std::vector<Turn> rows_, runs_;
+    std::vector<Turn> rows_, columns_;
 };
 
 } // namespace

@@ -40,6 +40,46 @@ void lineOfPlacesImpl(double d, double factor, double shift, double centre, int 
     }
 }
 
+/// Positions in whole numbers of a 2^24th. The places of an axis are whole + (part + i * step) / 2^24.
+struct FixedLine {
+    static constexpr int kBits = 24;
+    // What the steps' rounding adds up to, half of it a place, and the rounding of doubles.
+    static constexpr std::int32_t kTolerance = kPlaces / 2 + 2;
+
+    std::int32_t whole, part, step;
+    FixedLine(double first, double perPlace) : step(static_cast<std::int32_t>(std::lrint(perPlace * (1 << kBits))))
+    {
+        const std::int64_t at = std::llrint(first * (1 << kBits)) + (1 << (kBits - 1)) + kTolerance;
+        whole = static_cast<std::int32_t>(at >> kBits);
+        part = static_cast<std::int32_t>(at & ((1 << kBits) - 1));
+    }
+};
+
+bool straightPlacesImpl(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Words d;
+    const hn::ScalableTag<std::uint32_t> du;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const FixedLine x(line.x, line.stepX), y(line.y, line.stepY);
+    const auto wholeX = hn::Set(d, x.whole), wholeY = hn::Set(d, y.whole);
+    const auto first = [&](const FixedLine& axis) HWY_ATTR {
+        return hn::Add(hn::Mul(countedFrom(d, 0), hn::Set(d, axis.step)), hn::Set(d, axis.part));
+    };
+    auto atX = first(x), atY = first(y);
+    const auto stepX = hn::Set(d, x.step * lanes), stepY = hn::Set(d, y.step * lanes);
+    const auto fraction = [&](auto at) HWY_ATTR { return hn::BitCast(du, hn::ShiftLeft<32 - FixedLine::kBits>(at)); };
+    auto least = hn::Set(du, ~0U); // of the fractions, in the upper bits
+    for (int i = 0; i < n; i += lanes) {
+        hn::StoreU(hn::Add(hn::ShiftRight<FixedLine::kBits>(atX), wholeX), d, sx + i);
+        hn::StoreU(hn::Add(hn::ShiftRight<FixedLine::kBits>(atY), wholeY), d, sy + i);
+        least = hn::Min(least, hn::Min(fraction(atX), fraction(atY)));
+        atX = hn::Add(atX, stepX);
+        atY = hn::Add(atY, stepY);
+    }
+    constexpr std::uint32_t kClose = (2 * FixedLine::kTolerance + 1) << (32 - FixedLine::kBits);
+    return hn::GetLane(hn::MinOfLanes(du, least)) >= kClose;
+}
+
 void lineOfSplitPlacesImpl(double d, double factor, double shift, double centre, int n, std::int32_t* places,
                            float* beyond)
 {
@@ -227,6 +267,7 @@ HWY_AFTER_NAMESPACE();
 namespace velara {
 
 HWY_EXPORT(lineOfPlacesImpl);
+HWY_EXPORT(straightPlacesImpl);
 HWY_EXPORT(lineOfSplitPlacesImpl);
 HWY_EXPORT(productsToPlacesImpl);
 HWY_EXPORT(twirlPlacesImpl);
@@ -237,6 +278,13 @@ HWY_EXPORT(lensPlacesImpl);
 void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places)
 {
     HWY_DYNAMIC_DISPATCH(lineOfPlacesImpl)(d, factor, shift, centre, n, places);
+}
+
+bool straightPlaces(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    constexpr double kLongest = 1.98; // kPlaces of them fit in 32 bits
+    return std::abs(line.stepX) < kLongest && std::abs(line.stepY) < kLongest &&
+           HWY_DYNAMIC_DISPATCH(straightPlacesImpl)(line, n, sx, sy);
 }
 
 void lineOfSplitPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places, float* beyond)

@@ -12,6 +12,15 @@ constexpr int kPlaces = 64;
 /// round((d + i) * factor + shift + centre) for i = 0..n-1. All results must fit in 32 bits.
 void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places);
 
+/// Sources along a straight line: (x, y) is the first one, the next ones are (stepX, stepY) apart.
+struct Straight {
+    double x, y, stepX, stepY;
+};
+
+/// The rounded sources of n targets. False where a coordinate comes too close to a half, or steps are too long: the
+/// results are undefined then. The coordinates must fit in 31 bits.
+bool straightPlaces(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy);
+
 /// round(factors[i] * d + centre) for i = 0..n-1. All results must fit in 32 bits.
 void productsToPlaces(const double* factors, double d, double centre, int n, std::int32_t* places);
 
