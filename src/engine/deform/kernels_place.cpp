@@ -115,39 +115,36 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), least = hn::Set(d, 1e-6f);
-    const auto perRadius = hn::Set(d, twirl.tolerance), ofRadius = hn::Set(d, 2e-7f);
+    const hn::ScalableTag<std::uint64_t> pairs;
+    const auto perRadiusLeft = hn::Set(d, twirl.toleranceLeft), perRadiusRight = hn::Set(d, twirl.toleranceRight);
+    const auto ofRadius = hn::Set(d, 2e-7f);
     const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
     const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
     const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
     alignas(HWY_MAX_BYTES) float radii[kPlaces];
-    alignas(HWY_MAX_BYTES) std::uint64_t turns[kPlaces]; // two singles
-    alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
-    for (int i = 0; i < n; i += lanes) {
+    alignas(HWY_MAX_BYTES) std::int32_t entries[kPlaces]; // of the table
+    for (int i = 0; i < n; i += lanes) {                  // by itself, so that no load waits for a store
         const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
         hn::Store(radius, d, radii + i);
-        hn::Store(hn::NearestInt(radius), words, wholes + i);
+        hn::Store(hn::ShiftLeft<1>(hn::NearestInt(radius)), words, entries + i);
     }
-    // All stores before the first use: a vector load can't be forwarded from several pending stores.
-    const int whole = (n + lanes - 1) / lanes * lanes;
-    for (int i = 0; i < whole; ++i) {
-        std::uint64_t turn; // as a number: a checked copy into an array would be a call
-        std::memcpy(&turn, twirl.turns + 2 * wholes[i], sizeof turn);
-        turns[i] = turn;
-    }
+    const auto* turns = reinterpret_cast<const std::int32_t*>(twirl.turns);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
-        const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
+        const auto radius = hn::Load(d, radii + i), r = hn::Round(radius);
         const auto scale = hn::Div(r, hn::Max(radius, half));
-        hn::Vec<Singles> c, s;
-        hn::LoadInterleaved2(d, reinterpret_cast<const float*>(turns + i), c, s);
+        const auto first = hn::BitCast(d, loadScattered(pairs, turns, entries + i));
+        const auto last = hn::BitCast(d, loadScattered(pairs, turns, entries + i + lanes / 2));
+        const auto c = hn::ConcatEven(d, last, first), s = hn::ConcatOdd(d, last, first);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
-        const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);
+        const auto isLeft = hn::Lt(dx, hn::Zero(d));
+        const auto back = hn::IfThenElseZero(isLeft, missing);
         const auto ox = hn::MulAdd(back, turnedY, turnedX), oy = hn::NegMulAdd(back, turnedX, turnedY);
         const auto roundX = hn::Round(ox), roundY = hn::Round(oy);
-        const auto tolerance = hn::MulAdd(r, perRadius, least);
+        const auto tolerance = hn::MulAdd(r, hn::IfThenElse(isLeft, perRadiusLeft, perRadiusRight), least);
         const auto doubt = hn::Or(hn::Or(nearHalf(ox, roundX, half, tolerance), nearHalf(oy, roundY, half, tolerance)),
                                   nearHalf(radius, r, half, hn::MulAdd(r, ofRadius, least)));
         hn::StoreU(hn::Add(hn::ConvertTo(words, roundX), cx), words, sx + i);
@@ -177,6 +174,7 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), zero = hn::Zero(d);
     const auto toleranceX = hn::Set(d, bend.toleranceX), toleranceY = hn::Set(d, bend.toleranceY);
+    const auto perRadius = hn::Set(d, bend.tolerancePerRadius);
     const float down = static_cast<float>(y - bend.cy);
     const auto dy = hn::Set(d, down), dy2 = hn::Mul(dy, dy), absY = hn::Abs(dy);
     const auto maxY = hn::Set(d, static_cast<float>(bend.maxY)), k = hn::Set(d, bend.k);
@@ -194,11 +192,11 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
         const auto right = hn::Gt(dx, zero);
         const auto turned = hn::Mul(fromDown, hn::IfThenElse(right, hn::Neg(signs), signs));
         const auto x = hn::Mul(hn::Add(hn::IfThenElse(right, ofRight, ofLeft), turned), perRadian);
-        const auto height = hn::NegMulAdd(hn::Sqrt(hn::MulAdd(dx, dx, dy2)), k, maxY);
+        const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2)), height = hn::NegMulAdd(radius, k, maxY);
         const auto roundX = hn::Round(x), roundY = hn::Round(height);
-        const auto doubt =
-            hn::Or(hn::Or(nearHalf(x, roundX, half, toleranceX), nearHalf(height, roundY, half, toleranceY)),
-                   hn::Eq(most, zero));
+        const auto doubt = hn::Or(hn::Or(nearHalf(x, roundX, half, toleranceX),
+                                         nearHalf(height, roundY, half, hn::MulAdd(radius, perRadius, toleranceY))),
+                                  hn::Eq(most, zero));
         hn::StoreU(hn::ConvertTo(words, roundX), words, sx + i);
         hn::StoreU(hn::ConvertTo(words, roundY), words, sy + i);
         doubtful |= laneBits(d, doubt) << i;

@@ -32,7 +32,7 @@ void lineOfSplitPlaces(double d, double factor, double shift, double centre, int
 struct Twirl {
     int cx, cy;
     const float* turns;
-    float tolerance; // of the result, per pixel of the radius
+    float toleranceLeft, toleranceRight; // of the result, per pixel of the radius, on either side of the centre
 };
 
 /// Moves each (dx, dy) to its rounded radius and rotates it, for the n targets from (x0, y). Returns a bit for each
@@ -43,7 +43,7 @@ std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t
 struct Bend {
     int cx, cy, maxX, maxY;
     float k;
-    float toleranceX, toleranceY;
+    float toleranceX, toleranceY, tolerancePerRadius; // of the result, and of its y per pixel of the radius
 };
 
 /// The angle as a fraction of the width and the radius measured from the bottom, for the n targets from (x0, y).

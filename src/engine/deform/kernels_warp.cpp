@@ -55,7 +55,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 HWY_INLINE void prefetchOnward(const std::int32_t* origin, const std::int32_t* indices, std::int32_t stagger,
                                const Pixel* kept, const Pixel* to, bool streams)
 {
-    constexpr int kEach = kLinePixels / 2;
+    constexpr int kEach = kLinePixels / 4;
     for (int i = 0; i < kPlaces; i += kLinePixels) {
         if (kept) __builtin_prefetch(kept + kPlaces + i);
         if (!streams) __builtin_prefetch(to + kPlaces + i, 1);
