@@ -92,7 +92,13 @@ Bits cBitFilter::LENS(float CenterX, float CenterY, float Radius, int Magnify)
     const double D = static_cast<float>((150.0 - Magnify) * R / 150);
     const double limit = roundToEven(R * R - D * D);
     const Rect readable{-Bits::kMargin, -Bits::kMargin, in.width() + Bits::kMargin, in.height() + Bits::kMargin};
-    const Lens lens{disc.x, disc.y, R, D, readable};
+    std::vector<float> pulled;
+    constexpr double kWhole = 1 << 24; // singles below are exact
+    if (R > 0 && R < 1 << 15 && std::abs(D) * (R + kPlaces) + 1 < kWhole && std::abs(double(disc.x)) < kWhole &&
+        std::abs(double(disc.y)) < kWhole)
+        for (int ox = -disc.radius; ox <= disc.radius + kPlaces; ++ox)
+            pulled.push_back(static_cast<float>(roundToEven(D * ox)));
+    const Lens lens{disc.x, disc.y, R, D, readable, pulled.empty() ? nullptr : pulled.data() + disc.radius};
     const auto source = [&](int x, int y) {
         const double ox = static_cast<double>(x) - disc.x, oy = static_cast<double>(y) - disc.y;
         const int z = roundEven(std::sqrt(R * R - ox * ox - oy * oy));

@@ -55,6 +55,9 @@ struct Lens {
     std::int32_t cx, cy;
     double radius, depth;
     Rect within; // the readable pixels
+    // round(depth * ox) for ox from -radius to radius + kPlaces, at 0, where all of these and of the centre's
+    // coordinates are less than 2^24 and the radius is less than 2^15; otherwise null.
+    const float* pulled;
 };
 
 /// round(depth * ox) \ z and round(depth * oy) \ z from the centre, z = round(sqrt(radius^2 - ox^2 - oy^2)), for the n

@@ -365,7 +365,7 @@ SourcePixels::SourcePixels(const Bits& bits, const Region& region)
 namespace {
 
 void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::int32_t* sx, std::int32_t* sy, int n,
-              const Pixel* kept, bool clean, Pixel* to)
+              const Pixel* kept, bool clean, bool streams, Pixel* to)
 {
     for (int i = n; i % kLongestVector != 0; ++i) {
         sx[i] = sx[n - 1];
@@ -376,7 +376,7 @@ void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::i
                       rect,
                       mask,
                       clean,
-                      bits.sizeInBytes() >= kPastTheCache};
+                      streams};
     HWY_DYNAMIC_DISPATCH(takeRun)(job, sx, sy, n, kept, to);
 }
 
@@ -384,14 +384,15 @@ void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::i
 
 void SourcePixels::take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const
 {
-    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, to);
+    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, bits_.sizeInBytes() >= kPastTheCache,
+             to);
 }
 
 void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
 {
     constexpr int kMargin = Bits::kMargin;
     const Rect all{-kMargin, -kMargin, bits.width() + kMargin, bits.height() + kMargin};
-    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, to);
+    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, false, to);
 }
 
 void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
