@@ -106,6 +106,8 @@ class Slanted {
           streams_(in.sizeInBytes() >= kPastTheCache)
     {
     }
+    /// Rows of a tile: those that the pixels of a row come from should stay in the first cache.
+    int rowsTogether() const { return alongRows_ ? 1 : kPlaces; }
     /// Writes the n <= kPlaces pixels from (x, y) on.
     void run(Pixel* row, int x, int y, int n) const
     {
@@ -161,7 +163,7 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     if (glass->mixed == Mixed::NumberX || glass->mixed == Mixed::NumberY) {
         const Bits in = bits_;
         const Slanted slanted(in, region_, box, inside, glass->mixed == Mixed::NumberX);
-        return eachTile(1, [&](Pixel* row, int x, int n, int y) { slanted.run(row, x, y, n); });
+        return eachTile(slanted.rowsTogether(), [&](Pixel* row, int x, int n, int y) { slanted.run(row, x, y, n); });
     }
     std::vector<double> tangents;
     for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));

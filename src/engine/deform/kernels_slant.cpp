@@ -70,14 +70,15 @@ bool slantAlongColumnsImpl(const Wave& wave, const Pixel* from, std::ptrdiff_t s
 {
     const Words d;
     const auto rows = hn::Set(d, static_cast<std::int32_t>(stride));
-    alignas(HWY_MAX_BYTES) std::int32_t places[kPlaces];
-    if (!eachWave(wave, [&](int i, auto offsets)
-                            HWY_ATTR { hn::Store(hn::Add(hn::Mul(offsets, rows), countedFrom(d, i)), d, places + i); }))
-        return false;
     const auto* words = reinterpret_cast<const std::int32_t*>(from);
-    for (int i = 0; i < kPlaces; i += static_cast<int>(hn::Lanes(d)))
-        write(d, loadScattered(d, words, places + i), from + i, to + i, streams);
-    return true;
+    for (int i = kPlaces; i < 2 * kPlaces;
+         i += kLinePixels) { // the first and the last row that the run to the right reads
+        __builtin_prefetch(from + i - wave.weight * stride);
+        __builtin_prefetch(from + i + wave.weight * stride);
+    }
+    return eachWave(wave, [&](int i, auto offsets) HWY_ATTR {
+        write(d, loadComputed(d, words, hn::Add(hn::Mul(offsets, rows), countedFrom(d, i))), from + i, to + i, streams);
+    });
 }
 
 } // namespace velara::HWY_NAMESPACE

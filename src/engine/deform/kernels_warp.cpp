@@ -147,7 +147,7 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
     const auto whole = (n + lanes - 1) / lanes * lanes;
     if (n == kPlaces) prefetchOnward(job.origin, indices, sx[0], kept, to, job.streams);
     const auto taken = [&](int i, auto old) HWY_ATTR {
-        return hn::Or(hn::And(colour, loadScattered(d, job.origin, indices + i)), hn::AndNot(colour, old));
+        return hn::Or(hn::And(colour, loadComputed(d, job.origin, hn::Load(d, indices + i))), hn::AndNot(colour, old));
     };
     if (holds == Holds::None)
         mergePixels(n, kept, to, job.streams, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
