@@ -35,8 +35,8 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, 0);
     const WrittenRows rows(out);
-    eachPiece(0, in.height(), {}, in, [&](int y, int) {
-        const Pixel *kept = in.row(y), *from = in.row(Vertical ? in.maxY() - y : y);
+    const auto take = [&](int y, int source) {
+        const Pixel *kept = in.row(y), *from = in.row(source);
         Pixel* to = rows.row(y);
         copyPixels(kept, to, -Bits::kMargin, 0);
         copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
@@ -45,6 +45,12 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
             takeRowMirrored(row, from, in.maxX());
         else
             takeRow(row, from);
+    };
+    eachPiece(0, in.height(), {}, in, [&](int y, int) {
+        const int other = Vertical ? in.maxY() - y : y;
+        if (other < y) return;
+        take(y, other);
+        if (other > y) take(other, y); // both rows are in the cache now
     });
     copyRows(in, out, in.height(), in.height() + Bits::kMargin);
     report(100);
