@@ -275,7 +275,7 @@ class cBitFilter {
     /// piece(a, b) for the rows a to b-1, of the rows y0 to y1-1 of a picture; then, in order, progress of its rows.
     void eachPiece(int y0, int y1, Cut cut, const Bits& picture, const std::function<void(int a, int b)>& piece);
     Bits rankFilter(int Mode, RankWindow window);
-    template <class Tile> Bits eachTile(int rows, Tile&& tile);
+    template <class Run> Bits eachTile(int rows, Run&& run);
     template <class Map> Bits eachSource(bool Clean, Map&& map, int rows = 64);
     /// eachSource for the sources (columns[x], rows[y]).
     Bits eachCrossing(bool Clean, const std::vector<std::int32_t>& columns, const std::vector<std::int32_t>& rows);

@@ -119,8 +119,9 @@ constexpr std::uintptr_t kCacheLine = 64;
 constexpr int kLinePixels = 16;
 
 /// Writes the pixels of the span. body(d, x) returns the bytes of the pixels from x on, four lanes of d per pixel; d
-/// has lanes of type T, a full vector or, at the ends of the span, one pixel.
-template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
+/// has lanes of type T, a full vector or, at the ends of the span, one pixel. The row `below` is prefetched: the one
+/// after the lowest that the kernel reads.
+template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body, int below = 2)
 {
     const hn::ScalableTag<T> many;
     const hn::CappedTag<T, 4> one;
@@ -129,7 +130,7 @@ template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body)
     const auto single = [&](int x) HWY_ATTR { hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x)); };
     int x = s.x0;
     if (s.x1 - s.x0 >= kStreamFrom) {
-        const Pixel* ahead = s.from + 2 * s.stride; // the row after the one that the kernels read first
+        const Pixel* ahead = s.from + below * s.stride;
         while (reinterpret_cast<std::uintptr_t>(at(x)) % kCacheLine != 0) single(x++);
         for (; x + kLinePixels <= s.x1; x += kLinePixels) {
             __builtin_prefetch(ahead + x);

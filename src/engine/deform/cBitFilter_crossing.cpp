@@ -10,6 +10,7 @@ namespace {
 /// -1 for what holds, 0 for what doesn't, by column.
 struct Marks {
     std::vector<std::int32_t> selected, inside;
+    const Span* of = nullptr; // the spans that they were made for
 };
 
 /// Marks in marks.inside which of the columns x0..x1-1 have a selected source in a row with these spans. limited: the
@@ -17,6 +18,8 @@ struct Marks {
 void markInside(std::span<const Span> spans, int width, int x0, int x1, const std::int32_t* columns,
                 const std::int32_t* limited, Marks& marks)
 {
+    if (!spans.empty() && marks.of == spans.data()) return; // rows of a band have the same spans
+    marks.of = spans.empty() ? nullptr : spans.data();
     std::int32_t *const inside = marks.inside.data(), *const selected = marks.selected.data();
     if (spans.size() <= 1) {
         const int first = spans.empty() ? 0 : std::max(spans[0].x0, 0);

@@ -15,17 +15,13 @@ Bits cBitFilter::RotateSmooth(int Degrees)
 {
     const Bits in = bits_;
     const Turn turn(in.maxX(), in.maxY(), Degrees);
-    return eachTile(kPlaces, [&](const WrittenRows& out, int x0, int x1, int y0, int y1) {
+    return eachTile(kPlaces, [&](Pixel* row, int x0, int n, int y) {
         std::int32_t ix[kPlaces], iy[kPlaces];
         float fx[kPlaces], fy[kPlaces];
-        for (int y = y0; y < y1; ++y) {
-            const int n = x1 - x0;
-            Pixel* to = out.row(y) + x0;
-            turn.split(x0, y, n, ix, iy, fx, fy);
-            eachPlace(blendPixels(in, ix, iy, fx, fy, n, in.row(y) + x0, to), n, [&](int i) {
-                blendPixel(in.row(iy[i]) + ix[i], in.row(iy[i] + 1) + ix[i], fx[i], fy[i], to[i]);
-            });
-        }
+        Pixel* to = row + x0;
+        turn.split(x0, y, n, ix, iy, fx, fy);
+        eachPlace(blendPixels(in, ix, iy, fx, fy, n, in.row(y) + x0, to), n,
+                  [&](int i) { blendPixel(in.row(iy[i]) + ix[i], in.row(iy[i] + 1) + ix[i], fx[i], fy[i], to[i]); });
     });
 }
 
@@ -39,8 +35,8 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, 0);
     const WrittenRows rows(out);
-    eachPiece(0, in.height(), {}, in, [&](int y, int) {
-        const Pixel *kept = in.row(y), *from = in.row(Vertical ? in.maxY() - y : y);
+    const auto take = [&](int y, int source) {
+        const Pixel *kept = in.row(y), *from = in.row(source);
         Pixel* to = rows.row(y);
         copyPixels(kept, to, -Bits::kMargin, 0);
         copyPixels(kept, to, in.width(), in.width() + Bits::kMargin);
@@ -49,6 +45,12 @@ Bits cBitFilter::Flip(bool Horizontal, bool Vertical)
             takeRowMirrored(row, from, in.maxX());
         else
             takeRow(row, from);
+    };
+    eachPiece(0, in.height(), {}, in, [&](int y, int) {
+        const int other = Vertical ? in.maxY() - y : y;
+        if (other < y) return;
+        take(y, other);
+        if (other > y) take(other, y); // both rows are in the cache now
     });
     copyRows(in, out, in.height(), in.height() + Bits::kMargin);
     report(100);
@@ -77,8 +79,12 @@ Bits cBitFilter::FOLD(int Horizontal, int Vertical, bool Clean)
     const Box box = insidePicture(GetBounds(0), bits_);
     for (int x = 0; !box.isEmpty() && x < maxX + kPlaces; ++x) columns.push_back(scale(x - cx, Horizontal, maxX));
     const bool isSafe = std::max(std::abs(double(Horizontal)), std::abs(double(Vertical))) < 1e4;
+    const double across = maxX == 0 ? 0 : Horizontal / 100.0 / maxX; // how much the scale of a column grows
     return eachSource(Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
-        const double row = scale(y - cy, Vertical, maxY);
+        const double row = scale(y - cy, Vertical, maxY), dx = x0 - cx, dy = y - cy;
+        if (isSafe && straightPlaces({row * dx + cx, columns[static_cast<std::size_t>(x0)] * dy + cy, row, across * dy},
+                                     n, sx, sy))
+            return;
         if (isSafe) { // neither scale can exceed 32 bits
             lineOfPlaces(x0 - cx, row, 0, cx, n, sx);
             productsToPlaces(columns.data() + x0, y - cy, cy, n, sy);

@@ -1,4 +1,5 @@
 // The glass deformations: sources displaced by sine, cosine and tangent of the pixel's index or position in radians.
+#include "engine/deform/kernels_slant.h"
 #include "engine/deform/passes_warp.h"
 #include "pixels/numbers.h"
 
@@ -41,7 +42,6 @@ constexpr GlassRow kGlass[] = {
     {"curtain",    2, nullptr,  nullptr,  Mixed::ProductX},
     {"curtain",    3, nullptr,  nullptr,  Mixed::SumY},
 };
-constexpr int kWeightX = 3, kWeightY = 10; // of the sine of the pixel's number
 // clang-format on
 
 /// The sources of first..last along one axis; 0 for positions before first.
@@ -52,25 +52,30 @@ std::vector<std::int32_t> sources(int first, int last, double (*function)(double
     return table;
 }
 
-/// Sine and cosine of the numbers of a picture's pixels: those of a row's first number and of a run's place in the row
-/// are known, so none is computed a run.
+/// Sine and cosine of the numbers of a picture's pixels: those of a row's first number and of a column's place in the
+/// row are known, so none is computed a run.
 class Numbers {
   public:
-    /// number(x, y) = (y - box.ymin) * (box's width) + x - box.xmin + 1, for runs from inside.xmin on.
+    /// number(x, y) = (y - box.ymin) * (box's width) + x - box.xmin + 1.
     Numbers(const Box& box, const Box& inside) : box_(box), inside_(inside)
     {
         for (int y = inside.ymin; y <= inside.ymax; ++y) rows_.push_back(turnOf(ofRow(y)));
-        for (int x = inside.xmin; x <= inside.xmax; x += kPlaces) runs_.push_back(turnOf(double(x) - inside.xmin));
+        for (int x = inside.xmin; x <= inside.xmax; ++x) columns_.push_back(turnOf(double(x) - inside.xmin));
+    }
+    /// The waves of the pixels from (x, y) on.
+    Wave wave(int x, int y, int weight) const
+    {
+        const Turn row = rows_[static_cast<std::size_t>(y - inside_.ymin)];
+        const Turn column = columns_[static_cast<std::size_t>(x - inside_.xmin)];
+        return {tables_, row.sine * column.cosine + row.cosine * column.sine,
+                row.cosine * column.cosine - row.sine * column.sine, weight};
     }
     /// Displaces the positions by the waves of the n pixels from (x, y).
     void addWaves(int x, int y, int weight, int n, std::int32_t* places) const
     {
-        const Turn row = rows_[static_cast<std::size_t>(y - inside_.ymin)];
-        const Turn run = runs_[static_cast<std::size_t>((x - inside_.xmin) / kPlaces)];
+        const Wave at = wave(x, y, weight);
         std::int32_t offsets[kPlaces];
-        const std::uint64_t doubtful =
-            waveOffsets(waves_, row.sine * run.cosine + row.cosine * run.sine,
-                        row.cosine * run.cosine - row.sine * run.sine, static_cast<float>(weight), n, offsets);
+        const std::uint64_t doubtful = waveOffsets(tables_, at.sine, at.cosine, static_cast<float>(weight), n, offsets);
         const double number = ofRow(y) + (double(x) - inside_.xmin);
         eachPlace(doubtful, n,
                   [&](int i) { offsets[i] = roundEven(places[i] - weight * std::sin(number + i)) - places[i]; });
@@ -89,8 +94,55 @@ class Numbers {
     }
 
     const Box box_, inside_;
-    const WaveTables waves_;
-    std::vector<Turn> rows_, runs_;
+    const WaveTables tables_;
+    std::vector<Turn> rows_, columns_;
+};
+
+/// The slanting styles: each pixel is displaced along its row or its column by the sine of its number.
+class Slanted {
+  public:
+    Slanted(const Bits& in, const Region& region, const Box& box, const Box& inside, bool alongRows)
+        : in_(in), source_(in, region), numbers_(box, inside), alongRows_(alongRows),
+          streams_(in.sizeInBytes() >= kPastTheCache)
+    {
+    }
+    /// Rows of a tile: those that the pixels of a row come from should stay in the first cache.
+    int rowsTogether() const { return alongRows_ ? 1 : kPlaces; }
+    /// Writes the n <= kPlaces pixels from (x, y) on.
+    void run(Pixel* row, int x, int y, int n) const
+    {
+        if (n == kPlaces && holdsAround(x, y) && isWhole(row + x, x, y)) return;
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
+        for (int i = 0; i < n; ++i) sx[i] = x + i;
+        std::fill_n(sy, n, y);
+        numbers_.addWaves(x, y, weight(), n, alongRows_ ? sx : sy);
+        source_.take(sx, sy, n, in_.row(y) + x, false, row + x);
+    }
+
+  private:
+    int weight() const { return alongRows_ ? kWeightX : kWeightY; }
+    /// All sources of kPlaces pixels are selected.
+    bool holdsAround(int x, int y) const
+    {
+        const Rect& r = source_.rect();
+        const int across = alongRows_ ? kWeightX : 0, down = alongRows_ ? 0 : kWeightY;
+        return source_.isRectangle() && x - across >= r.left && x + kPlaces + across <= r.right && y - down >= r.top &&
+               y + down < r.bottom;
+    }
+    /// kPlaces pixels whose sources are selected; false where one is to be computed exactly.
+    bool isWhole(Pixel* to, int x, int y) const
+    {
+        const bool streams = streams_ && reinterpret_cast<std::uintptr_t>(to) % 64 == 0;
+        const Wave wave = numbers_.wave(x, y, weight());
+        const Pixel* from = in_.row(y) + x;
+        return alongRows_ ? slantAlongRow(wave, from, to, streams)
+                          : slantAlongColumns(wave, from, in_.stride(), to, streams);
+    }
+
+    const Bits& in_;
+    const SourcePixels source_;
+    const Numbers numbers_;
+    const bool alongRows_, streams_;
 };
 
 } // namespace
@@ -108,10 +160,13 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     const auto columns = sources(inside.xmin, inside.xmax, glass->column);
     const auto rows = sources(inside.ymin, inside.ymax, glass->row);
     if (glass->mixed == Mixed::None) return eachCrossing(false, columns, rows);
+    if (glass->mixed == Mixed::NumberX || glass->mixed == Mixed::NumberY) {
+        const Bits in = bits_;
+        const Slanted slanted(in, region_, box, inside, glass->mixed == Mixed::NumberX);
+        return eachTile(slanted.rowsTogether(), [&](Pixel* row, int x, int n, int y) { slanted.run(row, x, y, n); });
+    }
     std::vector<double> tangents;
     for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));
-    const bool numbered = glass->mixed == Mixed::NumberX || glass->mixed == Mixed::NumberY;
-    const Numbers numbers(box, numbered ? inside : Box{0, -1, 0, -1});
     return eachSource(
         false,
         [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) {
@@ -119,12 +174,8 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
             std::fill_n(sy, n, rows[y]);
             switch (glass->mixed) {
             case Mixed::None:
-                break;
             case Mixed::NumberX:
-                numbers.addWaves(x0, y, kWeightX, n, sx);
-                break;
             case Mixed::NumberY:
-                numbers.addWaves(x0, y, kWeightY, n, sy);
                 break;
             case Mixed::RowX:
                 std::fill_n(sx, n, roundEven(tangents[y]));

@@ -86,12 +86,10 @@ void cBitFilter::turnOnSquare(const Bits& Source, int Degrees, bool Smooth, int 
     clearMargin(out);
     const WrittenRows rows(out);
     eachPiece(0, out.height(), {kPlaces}, out, [&](int top, int bottom) {
-        inTiles({0, out.maxX(), 0, out.maxY()}, top, bottom, [&](int x0, int x1, int y0, int y1) {
-            for (int y = y0; y < y1; ++y) {
-                Pixel* to = rows.row(y) + x0;
-                Smooth ? square.takeBlended(Part.left + x0, Part.top + y, x1 - x0, to)
-                       : square.takeNearest(Part.left + x0, Part.top + y, x1 - x0, to);
-            }
+        inTiles({0, out.maxX(), 0, out.maxY()}, top, bottom, rows, [&](int x0, int n, int y) {
+            Pixel* to = rows.row(y) + x0;
+            Smooth ? square.takeBlended(Part.left + x0, Part.top + y, n, to)
+                   : square.takeNearest(Part.left + x0, Part.top + y, n, to);
         });
     });
     bits_ = out;

@@ -1,6 +1,6 @@
 #include "engine/deform/kernels_place.h"
+#include "pixels/numbers.h"
 #include <cmath>
-#include <cstring>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/deform/kernels_place.cpp"
@@ -25,6 +25,22 @@ template <class V> auto nearHalf(V v, V rounded, V half, V tolerance)
     return hn::Gt(hn::Abs(hn::Sub(v, rounded)), hn::Sub(half, tolerance));
 }
 
+/// v rounded to the nearest even, for |v| < 2^22: the sum with a number that leaves no room for a fraction. As a
+/// single, and as a word that is too large by kExcess.
+template <class V, class W> struct Rounded {
+    static constexpr std::int32_t kExcess = 0x4B400000;
+    V value;
+    W word;
+};
+template <class V> HWY_INLINE auto rounded(Singles d, V v)
+{
+    using W = hn::Vec<Words>;
+    const auto large = hn::BitCast(d, hn::Set(Words(), Rounded<V, W>::kExcess)); // 1.5 * 2^23
+    const auto sum = hn::Add(v, large);
+    return Rounded<V, W>{hn::Sub(sum, large), hn::BitCast(Words(), sum)};
+}
+constexpr std::int32_t kExcess = Rounded<hn::Vec<Singles>, hn::Vec<Words>>::kExcess;
+
 void lineOfPlacesImpl(double d, double factor, double shift, double centre, int n, std::int32_t* places)
 {
     const Doubles doubles;
@@ -38,6 +54,46 @@ void lineOfPlacesImpl(double d, double factor, double shift, double centre, int 
         hn::StoreU(hn::DemoteTo(words, hn::Round(place)), words, places + i);
         at = hn::Add(at, step);
     }
+}
+
+/// Positions in whole numbers of a 2^24th. The places of an axis are whole + (part + i * step) / 2^24.
+struct FixedLine {
+    static constexpr int kBits = 24;
+    // What the steps' rounding adds up to, half of it a place, and the rounding of doubles.
+    static constexpr std::int32_t kTolerance = kPlaces / 2 + 2;
+
+    std::int32_t whole, part, step;
+    FixedLine(double first, double perPlace) : step(static_cast<std::int32_t>(std::lrint(perPlace * (1 << kBits))))
+    {
+        const std::int64_t at = std::llrint(first * (1 << kBits)) + (1 << (kBits - 1)) + kTolerance;
+        whole = static_cast<std::int32_t>(at >> kBits);
+        part = static_cast<std::int32_t>(at & ((1 << kBits) - 1));
+    }
+};
+
+bool straightPlacesImpl(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Words d;
+    const hn::ScalableTag<std::uint32_t> du;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const FixedLine x(line.x, line.stepX), y(line.y, line.stepY);
+    const auto wholeX = hn::Set(d, x.whole), wholeY = hn::Set(d, y.whole);
+    const auto first = [&](const FixedLine& axis) HWY_ATTR {
+        return hn::Add(hn::Mul(countedFrom(d, 0), hn::Set(d, axis.step)), hn::Set(d, axis.part));
+    };
+    auto atX = first(x), atY = first(y);
+    const auto stepX = hn::Set(d, x.step * lanes), stepY = hn::Set(d, y.step * lanes);
+    const auto fraction = [&](auto at) HWY_ATTR { return hn::BitCast(du, hn::ShiftLeft<32 - FixedLine::kBits>(at)); };
+    auto least = hn::Set(du, ~0U); // of the fractions, in the upper bits
+    for (int i = 0; i < n; i += lanes) {
+        hn::StoreU(hn::Add(hn::ShiftRight<FixedLine::kBits>(atX), wholeX), d, sx + i);
+        hn::StoreU(hn::Add(hn::ShiftRight<FixedLine::kBits>(atY), wholeY), d, sy + i);
+        least = hn::Min(least, hn::Min(fraction(atX), fraction(atY)));
+        atX = hn::Add(atX, stepX);
+        atY = hn::Add(atY, stepY);
+    }
+    constexpr std::uint32_t kClose = (2 * FixedLine::kTolerance + 1) << (32 - FixedLine::kBits);
+    return hn::GetLane(hn::MinOfLanes(du, least)) >= kClose;
 }
 
 void lineOfSplitPlacesImpl(double d, double factor, double shift, double centre, int n, std::int32_t* places,
@@ -75,43 +131,42 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), least = hn::Set(d, 1e-6f);
-    const auto perRadius = hn::Set(d, twirl.tolerance), ofRadius = hn::Set(d, 2e-7f);
+    const hn::ScalableTag<std::uint64_t> pairs;
+    const auto perRadiusLeft = hn::Set(d, twirl.toleranceLeft), perRadiusRight = hn::Set(d, twirl.toleranceRight);
+    const auto ofRadius = hn::Set(d, 2e-7f);
     const auto missing = hn::Set(d, static_cast<float>(3.14159265358979 - 3.141592025756836)); // of pi, to the left
     const auto dy = hn::Set(d, static_cast<float>(y - twirl.cy)), dy2 = hn::Mul(dy, dy);
-    const auto cx = hn::Set(words, twirl.cx), cy = hn::Set(words, twirl.cy);
+    const auto excess = hn::Set(words, kExcess);
+    const auto cx = hn::Set(words, twirl.cx - kExcess), cy = hn::Set(words, twirl.cy - kExcess);
     alignas(HWY_MAX_BYTES) float radii[kPlaces];
-    alignas(HWY_MAX_BYTES) std::uint64_t turns[kPlaces]; // two singles
-    alignas(HWY_MAX_BYTES) std::int32_t wholes[kPlaces];
-    for (int i = 0; i < n; i += lanes) {
+    alignas(HWY_MAX_BYTES) std::int32_t entries[kPlaces]; // of the table
+    for (int i = 0; i < n; i += lanes) {                  // by itself, so that no load waits for a store
         const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
         const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2));
         hn::Store(radius, d, radii + i);
-        hn::Store(hn::NearestInt(radius), words, wholes + i);
+        hn::Store(hn::ShiftLeft<1>(hn::Sub(rounded(d, radius).word, excess)), words, entries + i);
     }
-    // All stores before the first use: a vector load can't be forwarded from several pending stores.
-    const int whole = (n + lanes - 1) / lanes * lanes;
-    for (int i = 0; i < whole; ++i) {
-        std::uint64_t turn; // as a number: a checked copy into an array would be a call
-        std::memcpy(&turn, twirl.turns + 2 * wholes[i], sizeof turn);
-        turns[i] = turn;
-    }
+    const auto* turns = reinterpret_cast<const std::int32_t*>(twirl.turns);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto dx = hn::ConvertTo(d, countedFrom(words, x0 + i - twirl.cx));
-        const auto radius = hn::Load(d, radii + i), r = hn::ConvertTo(d, hn::Load(words, wholes + i));
+        const auto radius = hn::Load(d, radii + i), r = rounded(d, radius).value;
         const auto scale = hn::Div(r, hn::Max(radius, half));
-        hn::Vec<Singles> c, s;
-        hn::LoadInterleaved2(d, reinterpret_cast<const float*>(turns + i), c, s);
+        const auto first = hn::BitCast(d, loadScattered(pairs, turns, entries + i));
+        const auto last = hn::BitCast(d, loadScattered(pairs, turns, entries + i + lanes / 2));
+        const auto c = hn::ConcatEven(d, last, first), s = hn::ConcatOdd(d, last, first);
         const auto turnedX = hn::Mul(scale, hn::NegMulAdd(dy, s, hn::Mul(dx, c)));
         const auto turnedY = hn::Mul(scale, hn::MulAdd(dy, c, hn::Mul(dx, s)));
-        const auto back = hn::IfThenElseZero(hn::Lt(dx, hn::Zero(d)), missing);
+        const auto isLeft = hn::Lt(dx, hn::Zero(d));
+        const auto back = hn::IfThenElseZero(isLeft, missing);
         const auto ox = hn::MulAdd(back, turnedY, turnedX), oy = hn::NegMulAdd(back, turnedX, turnedY);
-        const auto roundX = hn::Round(ox), roundY = hn::Round(oy);
-        const auto tolerance = hn::MulAdd(r, perRadius, least);
-        const auto doubt = hn::Or(hn::Or(nearHalf(ox, roundX, half, tolerance), nearHalf(oy, roundY, half, tolerance)),
-                                  nearHalf(radius, r, half, hn::MulAdd(r, ofRadius, least)));
-        hn::StoreU(hn::Add(hn::ConvertTo(words, roundX), cx), words, sx + i);
-        hn::StoreU(hn::Add(hn::ConvertTo(words, roundY), cy), words, sy + i);
+        const auto roundX = rounded(d, ox), roundY = rounded(d, oy);
+        const auto tolerance = hn::MulAdd(r, hn::IfThenElse(isLeft, perRadiusLeft, perRadiusRight), least);
+        const auto doubt =
+            hn::Or(hn::Or(nearHalf(ox, roundX.value, half, tolerance), nearHalf(oy, roundY.value, half, tolerance)),
+                   nearHalf(radius, r, half, hn::MulAdd(r, ofRadius, least)));
+        hn::StoreU(hn::Add(roundX.word, cx), words, sx + i);
+        hn::StoreU(hn::Add(roundY.word, cy), words, sy + i);
         doubtful |= laneBits(d, doubt) << i;
     }
     return doubtful;
@@ -136,7 +191,9 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), zero = hn::Zero(d);
+    const auto excess = hn::Set(words, kExcess);
     const auto toleranceX = hn::Set(d, bend.toleranceX), toleranceY = hn::Set(d, bend.toleranceY);
+    const auto perRadius = hn::Set(d, bend.tolerancePerRadius);
     const float down = static_cast<float>(y - bend.cy);
     const auto dy = hn::Set(d, down), dy2 = hn::Mul(dy, dy), absY = hn::Abs(dy);
     const auto maxY = hn::Set(d, static_cast<float>(bend.maxY)), k = hn::Set(d, bend.k);
@@ -154,13 +211,14 @@ std::uint64_t bendPlacesImpl(const Bend& bend, int x0, int y, int n, std::int32_
         const auto right = hn::Gt(dx, zero);
         const auto turned = hn::Mul(fromDown, hn::IfThenElse(right, hn::Neg(signs), signs));
         const auto x = hn::Mul(hn::Add(hn::IfThenElse(right, ofRight, ofLeft), turned), perRadian);
-        const auto height = hn::NegMulAdd(hn::Sqrt(hn::MulAdd(dx, dx, dy2)), k, maxY);
-        const auto roundX = hn::Round(x), roundY = hn::Round(height);
+        const auto radius = hn::Sqrt(hn::MulAdd(dx, dx, dy2)), height = hn::NegMulAdd(radius, k, maxY);
+        const auto roundX = rounded(d, x), roundY = rounded(d, height);
         const auto doubt =
-            hn::Or(hn::Or(nearHalf(x, roundX, half, toleranceX), nearHalf(height, roundY, half, toleranceY)),
+            hn::Or(hn::Or(nearHalf(x, roundX.value, half, toleranceX),
+                          nearHalf(height, roundY.value, half, hn::MulAdd(radius, perRadius, toleranceY))),
                    hn::Eq(most, zero));
-        hn::StoreU(hn::ConvertTo(words, roundX), words, sx + i);
-        hn::StoreU(hn::ConvertTo(words, roundY), words, sy + i);
+        hn::StoreU(hn::Sub(roundX.word, excess), words, sx + i);
+        hn::StoreU(hn::Sub(roundY.word, excess), words, sy + i);
         doubtful |= laneBits(d, doubt) << i;
     }
     return doubtful;
@@ -173,15 +231,16 @@ std::uint64_t waveOffsetsImpl(const WaveTables& wave, double ofSine, double ofCo
     const Words words;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto half = hn::Set(d, 0.5f), tolerance = hn::Set(d, weight * 1e-6f);
+    const auto excess = hn::Set(words, kExcess);
     const auto sine = hn::Set(d, static_cast<float>(-weight * ofSine));
     const auto cosine = hn::Set(d, static_cast<float>(-weight * ofCosine));
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
         const auto offset =
             hn::MulAdd(cosine, hn::LoadU(d, wave.sine + i), hn::Mul(sine, hn::LoadU(d, wave.cosine + i)));
-        const auto rounded = hn::Round(offset);
-        hn::StoreU(hn::ConvertTo(words, rounded), words, offsets + i);
-        doubtful |= laneBits(d, nearHalf(offset, rounded, half, tolerance)) << i;
+        const auto whole = rounded(d, offset);
+        hn::StoreU(hn::Sub(whole.word, excess), words, offsets + i);
+        doubtful |= laneBits(d, nearHalf(offset, whole.value, half, tolerance)) << i;
     }
     return doubtful;
 }
@@ -220,6 +279,41 @@ bool lensPlacesImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, st
     return hn::AllTrue(d, safe);
 }
 
+/// The same in singles: see Lens::pulled. No quotient of numbers below 2^24 rounds up to an integer.
+bool lensPlacesInSingleImpl(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    const Singles d;
+    const Words words;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const int down = y - lens.cy;
+    const auto room = hn::Set(words, static_cast<std::int32_t>(lens.radius * lens.radius) - down * down);
+    const auto pulledY = hn::Set(d, static_cast<float>(roundToEven(lens.depth * down)));
+    const auto cx = hn::Set(words, lens.cx), cy = hn::Set(words, lens.cy), last = hn::Set(words, x0 + n - 1 - lens.cx);
+    const auto left = hn::Set(words, lens.within.left), right = hn::Set(words, lens.within.right - 1);
+    const auto top = hn::Set(words, lens.within.top), bottom = hn::Set(words, lens.within.bottom - 1);
+    auto outside = hn::Zero(words);
+    for (int i = 0; i < n; i += lanes) {
+        const auto ox = hn::Min(countedFrom(words, x0 + i - lens.cx), last);
+        const auto square = hn::Sub(room, hn::Mul(ox, ox));
+        // The root of a whole number is never a half, but its single may be: z^2 - z < square <= z^2 + z.
+        const auto root = hn::NearestInt(hn::Sqrt(hn::ConvertTo(d, square)));
+        const auto least = hn::Mul(root, hn::Sub(root, hn::Set(words, 1)));
+        const auto below = hn::VecFromMask(words, hn::Gt(hn::Add(least, hn::Set(words, 1)), square));
+        const auto above = hn::VecFromMask(words, hn::Gt(square, hn::Add(least, hn::Add(root, root))));
+        const auto height = hn::Sub(hn::Add(root, below), above);
+        const auto z = hn::ConvertTo(d, height);
+        const auto pulledX = hn::LoadU(d, lens.pulled + (x0 + i - lens.cx));
+        const auto fromX = hn::Add(hn::ConvertTo(words, hn::Div(pulledX, z)), cx);
+        const auto fromY = hn::Add(hn::ConvertTo(words, hn::Div(pulledY, z)), cy);
+        const auto limitedX = hn::Min(hn::Max(fromX, left), right), limitedY = hn::Min(hn::Max(fromY, top), bottom);
+        outside = hn::Or(outside, hn::Or(hn::Xor(fromX, limitedX), hn::Xor(fromY, limitedY)));
+        outside = hn::Or(outside, hn::VecFromMask(words, hn::Lt(height, hn::Set(words, 1))));
+        hn::StoreU(fromX, words, sx + i);
+        hn::StoreU(fromY, words, sy + i);
+    }
+    return hn::AllTrue(words, hn::Eq(outside, hn::Zero(words)));
+}
+
 } // namespace velara::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -227,16 +321,25 @@ HWY_AFTER_NAMESPACE();
 namespace velara {
 
 HWY_EXPORT(lineOfPlacesImpl);
+HWY_EXPORT(straightPlacesImpl);
 HWY_EXPORT(lineOfSplitPlacesImpl);
 HWY_EXPORT(productsToPlacesImpl);
 HWY_EXPORT(twirlPlacesImpl);
 HWY_EXPORT(bendPlacesImpl);
 HWY_EXPORT(waveOffsetsImpl);
 HWY_EXPORT(lensPlacesImpl);
+HWY_EXPORT(lensPlacesInSingleImpl);
 
 void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places)
 {
     HWY_DYNAMIC_DISPATCH(lineOfPlacesImpl)(d, factor, shift, centre, n, places);
+}
+
+bool straightPlaces(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy)
+{
+    constexpr double kLongest = 1.98; // kPlaces of them fit in 32 bits
+    return std::abs(line.stepX) < kLongest && std::abs(line.stepY) < kLongest &&
+           HWY_DYNAMIC_DISPATCH(straightPlacesImpl)(line, n, sx, sy);
 }
 
 void lineOfSplitPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places, float* beyond)
@@ -261,7 +364,8 @@ std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* s
 
 bool lensPlaces(const Lens& lens, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
 {
-    return HWY_DYNAMIC_DISPATCH(lensPlacesImpl)(lens, x0, y, n, sx, sy);
+    return lens.pulled ? HWY_DYNAMIC_DISPATCH(lensPlacesInSingleImpl)(lens, x0, y, n, sx, sy)
+                       : HWY_DYNAMIC_DISPATCH(lensPlacesImpl)(lens, x0, y, n, sx, sy);
 }
 
 WaveTables::WaveTables()

@@ -12,6 +12,15 @@ constexpr int kPlaces = 64;
 /// round((d + i) * factor + shift + centre) for i = 0..n-1. All results must fit in 32 bits.
 void lineOfPlaces(double d, double factor, double shift, double centre, int n, std::int32_t* places);
 
+/// Sources along a straight line: (x, y) is the first one, the next ones are (stepX, stepY) apart.
+struct Straight {
+    double x, y, stepX, stepY;
+};
+
+/// The rounded sources of n targets. False where a coordinate comes too close to a half, or steps are too long: the
+/// results are undefined then. The coordinates must fit in 31 bits.
+bool straightPlaces(const Straight& line, int n, std::int32_t* sx, std::int32_t* sy);
+
 /// round(factors[i] * d + centre) for i = 0..n-1. All results must fit in 32 bits.
 void productsToPlaces(const double* factors, double d, double centre, int n, std::int32_t* places);
 
@@ -23,7 +32,7 @@ void lineOfSplitPlaces(double d, double factor, double shift, double centre, int
 struct Twirl {
     int cx, cy;
     const float* turns;
-    float tolerance; // of the result, per pixel of the radius
+    float toleranceLeft, toleranceRight; // of the result, per pixel of the radius, on either side of the centre
 };
 
 /// Moves each (dx, dy) to its rounded radius and rotates it, for the n targets from (x0, y). Returns a bit for each
@@ -34,7 +43,7 @@ std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t
 struct Bend {
     int cx, cy, maxX, maxY;
     float k;
-    float toleranceX, toleranceY;
+    float toleranceX, toleranceY, tolerancePerRadius; // of the result, and of its y per pixel of the radius
 };
 
 /// The angle as a fraction of the width and the radius measured from the bottom, for the n targets from (x0, y).
@@ -46,6 +55,9 @@ struct Lens {
     std::int32_t cx, cy;
     double radius, depth;
     Rect within; // the readable pixels
+    // round(depth * ox) for ox from -radius to radius + kPlaces, at 0, where all of these and of the centre's
+    // coordinates are less than 2^24 and the radius is less than 2^15; otherwise null.
+    const float* pulled;
 };
 
 /// round(depth * ox) \ z and round(depth * oy) \ z from the centre, z = round(sqrt(radius^2 - ox^2 - oy^2)), for the n

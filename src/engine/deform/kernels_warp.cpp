@@ -17,6 +17,7 @@ struct TakeJob {
     Rect rect;
     const SourceMask* mask; // null when all of rect is selected
     bool clean;
+    bool streams; // the picture doesn't fit into the cache
 };
 
 struct TurnJob {
@@ -29,6 +30,7 @@ struct TurnJob {
 struct BlendJob {
     const std::int32_t* origin;
     std::int32_t stride, width, height;
+    bool streams; // the picture doesn't fit into the cache
 };
 
 } // namespace velara
@@ -48,36 +50,57 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
+/// Prefetches what the run of kPlaces pixels to the right will read and write, assuming its sources are collinear. An
+/// eighth of them, begun at another one row by row (by `stagger`) for runs that read a column.
+HWY_INLINE void prefetchOnward(const std::int32_t* origin, const std::int32_t* indices, std::int32_t stagger,
+                               const Pixel* kept, const Pixel* to, bool streams)
+{
+    constexpr int kEach = kLinePixels / 4;
+    for (int i = 0; i < kPlaces; i += kLinePixels) {
+        if (kept) __builtin_prefetch(kept + kPlaces + i);
+        if (!streams) __builtin_prefetch(to + kPlaces + i, 1);
+    }
+    const std::ptrdiff_t onward = std::ptrdiff_t(indices[kPlaces - 1]) - indices[0];
+    for (int i = stagger & (kEach - 1); i < kPlaces; i += kEach) __builtin_prefetch(origin + indices[i] + onward);
+}
+
+/// A run is written by non-temporal stores: it is whole and begins at a cache line, and the picture is large.
+HWY_INLINE bool isStreamed(bool streams, int n, const Pixel* to)
+{
+    return streams && n == kPlaces && reinterpret_cast<std::uintptr_t>(to) % kCacheLine == 0;
+}
+
 /// to[i] = merged(i, kept) for n pixels, a vector at a time.
-template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, Merge merged)
+template <class Merge> HWY_INLINE void mergePixels(int n, const Pixel* kept, Pixel* to, bool streams, Merge merged)
 {
     const hn::ScalableTag<std::int32_t> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
-    const auto step = [&](int i, const Pixel* from, Pixel* target) HWY_ATTR {
-        const auto old = hn::LoadU(d, reinterpret_cast<const std::int32_t*>(from));
-        hn::StoreU(merged(i, old), d, reinterpret_cast<std::int32_t*>(target));
-    };
+    const auto step = [&](int i, const Pixel* from)
+                          HWY_ATTR { return merged(i, hn::LoadU(d, reinterpret_cast<const std::int32_t*>(from))); };
+    auto* words = reinterpret_cast<std::int32_t*>(to);
     int i = 0;
-    for (; i + lanes <= n; i += lanes) step(i, kept + i, to + i);
+    if (isStreamed(streams, n, to))
+        for (; i < kPlaces; i += lanes) hn::Stream(step(i, kept + i), d, words + i);
+    for (; i + lanes <= n; i += lanes) hn::StoreU(step(i, kept + i), d, words + i);
     if (i < n) {
         Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {};
         copyPixels(kept + i, tail, 0, n - i);
-        step(i, tail, tail);
+        hn::StoreU(step(i, tail), d, reinterpret_cast<std::int32_t*>(tail));
         copyPixels(tail, to + i, 0, n - i);
     }
 }
 
-/// The words at positions that may be outside of the selection: those read the pixel (left, top), and inside marks
+/// The places of positions that may be outside of the selection: those are the pixel's (left, top), and inside marks
 /// them.
 HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy, int n,
-                               std::int32_t* found, std::int32_t* inside)
+                               std::int32_t* indices, std::int32_t* inside)
 {
     const hn::ScalableTag<std::int32_t> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto left = hn::Set(d, job.rect.left), right = hn::Set(d, job.rect.right - 1);
     const auto top = hn::Set(d, job.rect.top), bottom = hn::Set(d, job.rect.bottom - 1);
     const auto stride = hn::Set(d, job.stride);
-    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], xs[kPlaces], ys[kPlaces];
+    alignas(HWY_MAX_BYTES) std::int32_t xs[kPlaces], ys[kPlaces];
     for (int i = 0; i < n; i += lanes) {
         const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
         const auto limitedX = hn::Min(hn::Max(x, left), right), limitedY = hn::Min(hn::Max(y, top), bottom);
@@ -88,7 +111,6 @@ HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const
         hn::Store(sourceX, d, xs + i);
         hn::Store(sourceY, d, ys + i);
     }
-    loadWords(job.origin, indices, n, found);
     if (job.mask)
         for (int i = 0; i < n; ++i) inside[i] &= job.mask->at(xs[i], ys[i]);
 }
@@ -101,7 +123,7 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
     const int lanes = static_cast<int>(hn::Lanes(d));
     const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, job.clean ? ~0x00FFFFFF : -1);
     const auto stride = hn::Set(d, job.stride);
-    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], found[kPlaces], inside[kPlaces];
+    alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces], inside[kPlaces];
     auto left = hn::Load(d, sx), right = left, top = hn::Load(d, sy), bottom = top;
     for (int i = 0; i < n; i += lanes) {
         const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
@@ -123,27 +145,19 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         if (within != Holds::All) holds = within;
     }
     const auto whole = (n + lanes - 1) / lanes * lanes;
-    if (n == kPlaces) { // prefetches what the run to the right will read and write, assuming its sources are collinear
-        const std::ptrdiff_t onward = std::ptrdiff_t(indices[n - 1]) - indices[0];
-        for (int i = 0; i < kPlaces; i += kLinePixels) {
-            __builtin_prefetch(kept + kPlaces + i);
-            __builtin_prefetch(to + kPlaces + i, 1);
-        }
-        for (int i = 3; i < kPlaces; i += kLinePixels / 2) __builtin_prefetch(job.origin + indices[i] + onward);
-    }
+    if (n == kPlaces) prefetchOnward(job.origin, indices, sx[0], kept, to, job.streams);
+    const auto taken = [&](int i, auto old) HWY_ATTR {
+        return hn::Or(hn::And(colour, loadComputed(d, job.origin, hn::Load(d, indices + i))), hn::AndNot(colour, old));
+    };
     if (holds == Holds::None)
-        mergePixels(n, kept, to, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
-    else if (holds == Holds::All) {
-        loadWords(job.origin, indices, whole, found);
-        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
-            return hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
-        });
-    } else {
-        findSelected(job, sx, sy, whole, found, inside);
-        mergePixels(n, kept, to, [&](int i, auto old) HWY_ATTR {
-            const auto taken = hn::Or(hn::And(colour, hn::Load(d, found + i)), hn::AndNot(colour, old));
+        mergePixels(n, kept, to, job.streams, [&](int, auto old) HWY_ATTR { return hn::And(staying, old); });
+    else if (holds == Holds::All)
+        mergePixels(n, kept, to, job.streams, taken);
+    else {
+        findSelected(job, sx, sy, whole, indices, inside);
+        mergePixels(n, kept, to, job.streams, [&](int i, auto old) HWY_ATTR {
             const auto isInside = hn::MaskFromVec(hn::Load(d, inside + i));
-            return hn::IfThenElse(isInside, taken, hn::And(staying, old));
+            return hn::IfThenElse(isInside, taken(i, old), hn::And(staying, old));
         });
     }
 }
@@ -151,23 +165,12 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
 void takeColumnsImpl(const SpanOf& s, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
                      bool clean)
 {
-    alignas(HWY_MAX_BYTES) std::int32_t found[kPlaces];
     const auto* words = reinterpret_cast<const std::int32_t*>(source);
-    int begin = s.x0, end = s.x0;
     forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
         const hn::Repartition<std::int32_t, decltype(d8)> d;
-        const int lanes = static_cast<int>(hn::Lanes(d));
         const auto colour = hn::Set(d, 0x00FFFFFF), staying = hn::Set(d, clean ? ~0x00FFFFFF : -1);
-        if (lanes == 1) {
-            found[0] = words[columns[x]];
-            begin = x;
-        } else if (x >= end) {
-            begin = x;
-            end = x + std::min(kPlaces, (s.x1 - x) / lanes * lanes);
-            loadWords(words, columns + x, end - x, found);
-        }
         const auto old = hn::BitCast(d, loadBytes(d8, s.from + x));
-        const auto taken = hn::Or(hn::And(colour, hn::LoadU(d, found + x - begin)), hn::AndNot(colour, old));
+        const auto taken = hn::Or(hn::And(colour, loadScattered(d, words, columns + x)), hn::AndNot(colour, old));
         const auto isInside = hn::MaskFromVec(hn::LoadU(d, inside + x));
         return hn::BitCast(d8, hn::IfThenElse(isInside, taken, hn::And(staying, old)));
     });
@@ -190,6 +193,19 @@ void takeRowMirroredImpl(const SpanOf& s, const Pixel* source, int last)
     });
 }
 
+/// The words at scattered places, and those to the right of them.
+template <class V> struct PairsOfWords {
+    V left, right;
+};
+HWY_INLINE auto pairsAt(const std::int32_t* base, const std::int32_t* indices)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const hn::ScalableTag<std::uint64_t> pairs;
+    const auto first = hn::BitCast(d, loadScattered(pairs, base, indices));
+    const auto last = hn::BitCast(d, loadScattered(pairs, base, indices + hn::Lanes(pairs)));
+    return PairsOfWords<hn::Vec<decltype(d)>>{hn::ConcatEven(d, last, first), hn::ConcatOdd(d, last, first)};
+}
+
 /// Bilinear blends of three channels of four pixels each; see blendPixels.
 std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::int32_t* iy, const float* fx,
                        const float* fy, int n, const Pixel* kept, Pixel* to)
@@ -201,7 +217,6 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
     const auto width = hn::Set(d, job.width), height = hn::Set(d, job.height), stride = hn::Set(d, job.stride);
     const auto least = hn::Set(d, -1);
     alignas(HWY_MAX_BYTES) std::int32_t indices[kPlaces];
-    alignas(HWY_MAX_BYTES) std::uint64_t upper[kPlaces], lower[kPlaces]; // two pixels side by side
     const auto isInside = [&](int i) HWY_ATTR {
         const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
         return hn::And(hn::And(hn::Gt(x, least), hn::Lt(x, width)), hn::And(hn::Gt(y, least), hn::Lt(y, height)));
@@ -210,41 +225,32 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
         const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
         hn::Store(hn::IfThenElseZero(isInside(i), hn::Add(hn::Mul(y, stride), x)), d, indices + i);
     }
-    // All stores before the first use: a vector load can't be forwarded from several pending stores.
-    for (int i = 0; i < whole; ++i) {
-        std::uint64_t two; // as numbers: a checked copy into an array would be a call
-        std::memcpy(&two, job.origin + indices[i], sizeof two);
-        upper[i] = two;
-        std::memcpy(&two, job.origin + indices[i] + job.stride, sizeof two);
-        lower[i] = two;
-    }
-    if (kept && n == kPlaces) // what the run to the right will read and write
-        for (int i = 0; i < kPlaces; i += kLinePixels) {
-            __builtin_prefetch(kept + kPlaces + i);
-            __builtin_prefetch(to + kPlaces + i, 1);
-        }
+    if (n == kPlaces) prefetchOnward(job.origin, indices, indices[0], kept, to, job.streams);
+    const bool streamed = isStreamed(job.streams, n, to);
     const auto fourth = [&](auto pixels) HWY_ATTR { return hn::AndNot(hn::Set(d, 0x00FFFFFF), pixels); };
     // Singles near 255 have steps of 2^-16; three of them add up here.
     const auto surely = hn::Set(singles, 0.5f - 1.0f / 8192);
     std::uint64_t doubtful = 0;
     for (int i = 0; i < n; i += lanes) {
-        hn::Vec<decltype(d)> p00, p10, p01, p11;
-        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(upper + i), p00, p10);
-        hn::LoadInterleaved2(d, reinterpret_cast<const std::int32_t*>(lower + i), p01, p11);
+        const auto upper = pairsAt(job.origin, indices + i), lower = pairsAt(job.origin + job.stride, indices + i);
+        const auto p00 = upper.left, p10 = upper.right, p01 = lower.left, p11 = lower.right;
         const auto alongX = hn::LoadU(singles, fx + i), alongY = hn::LoadU(singles, fy + i);
         auto doubt = hn::Zero(singles);
+        // The sum with this number has no fraction: it is rounded, ties to even, and its lowest byte is the result.
+        const auto whole = hn::Set(singles, 12582912.0f);
         const auto blend = [&](auto from, auto to, auto part) {
-            const auto v = hn::MulAdd(part, hn::Sub(to, from), from);
-            const auto rounded = hn::Round(v);
-            doubt = hn::Max(doubt, hn::Abs(hn::Sub(v, rounded)));
-            return rounded;
+            const auto v = hn::MulAdd(part, hn::Sub(to, from), from), sum = hn::Add(v, whole);
+            doubt = hn::Max(doubt, hn::Abs(hn::Sub(v, hn::Sub(sum, whole))));
+            return sum;
         };
         const auto channel = [&](auto shift) {
             const auto part = [&](auto p) {
                 return hn::ConvertTo(singles, hn::And(hn::ShiftRight<decltype(shift)::value>(p), byte));
             };
-            const auto left = blend(part(p00), part(p01), alongY), right = blend(part(p10), part(p11), alongY);
-            return hn::ShiftLeft<decltype(shift)::value>(hn::ConvertTo(d, blend(left, right, alongX)));
+            const auto left = hn::Sub(blend(part(p00), part(p01), alongY), whole);
+            const auto right = hn::Sub(blend(part(p10), part(p11), alongY), whole);
+            const auto sum = hn::BitCast(d, blend(left, right, alongX));
+            return hn::ShiftLeft<decltype(shift)::value>(hn::And(sum, byte));
         };
         const auto blended =
             hn::Or(hn::Or(channel(std::integral_constant<int, 0>()), channel(std::integral_constant<int, 8>())),
@@ -253,9 +259,10 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
         doubtful |= laneBits(d, hn::And(hn::RebindMask(d, hn::Gt(doubt, surely)), inside)) << i;
         const auto colour = hn::IfThenElseZero(inside, blended);
         if (i + lanes <= n) {
-            hn::StoreU(kept ? hn::Or(colour, fourth(hn::LoadU(d, reinterpret_cast<const std::int32_t*>(kept + i))))
-                            : colour,
-                       d, reinterpret_cast<std::int32_t*>(to + i));
+            auto* target = reinterpret_cast<std::int32_t*>(to + i);
+            const auto all =
+                kept ? hn::Or(colour, fourth(hn::LoadU(d, reinterpret_cast<const std::int32_t*>(kept + i)))) : colour;
+            streamed ? hn::Stream(all, d, target) : hn::StoreU(all, d, target);
             continue;
         }
         alignas(HWY_MAX_BYTES) Pixel last[HWY_MAX_BYTES / sizeof(Pixel)];
@@ -358,14 +365,18 @@ SourcePixels::SourcePixels(const Bits& bits, const Region& region)
 namespace {
 
 void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::int32_t* sx, std::int32_t* sy, int n,
-              const Pixel* kept, bool clean, Pixel* to)
+              const Pixel* kept, bool clean, bool streams, Pixel* to)
 {
     for (int i = n; i % kLongestVector != 0; ++i) {
         sx[i] = sx[n - 1];
         sy[i] = sy[n - 1];
     }
-    const TakeJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
-                      rect, mask, clean};
+    const TakeJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)),
+                      static_cast<std::int32_t>(bits.stride()),
+                      rect,
+                      mask,
+                      clean,
+                      streams};
     HWY_DYNAMIC_DISPATCH(takeRun)(job, sx, sy, n, kept, to);
 }
 
@@ -373,14 +384,15 @@ void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::i
 
 void SourcePixels::take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const
 {
-    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, to);
+    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, bits_.sizeInBytes() >= kPastTheCache,
+             to);
 }
 
 void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
 {
     constexpr int kMargin = Bits::kMargin;
     const Rect all{-kMargin, -kMargin, bits.width() + kMargin, bits.height() + kMargin};
-    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, to);
+    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, false, to);
 }
 
 void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
@@ -402,7 +414,7 @@ std::uint64_t blendPixels(const Bits& bits, const std::int32_t* ix, const std::i
                           const float* fy, int n, const Pixel* kept, Pixel* to)
 {
     const BlendJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)), static_cast<std::int32_t>(bits.stride()),
-                       bits.width(), bits.height()};
+                       bits.width(), bits.height(), bits.sizeInBytes() >= kPastTheCache};
     return HWY_DYNAMIC_DISPATCH(blendRow)(job, ix, iy, fx, fy, n, kept, to);
 }
 

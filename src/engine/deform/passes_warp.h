@@ -46,6 +46,7 @@ struct Turn {
     void nearest(int x0, int y, int n, std::int32_t* sx, std::int32_t* sy) const
     {
         const double dx = x0 - cx, dy = y - cy;
+        if (straightPlaces({dx * cs - dy * sn + cx, dx * sn + dy * cs + cy, cs, sn}, n, sx, sy)) return;
         lineOfPlaces(dx, cs, -(dy * sn), cx, n, sx);
         lineOfPlaces(dx, sn, dy * cs, cy, n, sy);
     }
@@ -58,15 +59,23 @@ struct Turn {
     }
 };
 
-/// Some rows of a box in tiles: tile(x0, x1, y0, y1) for the columns x0..x1-1 and rows y0..y1-1.
-template <class Tile> void inTiles(const Box& box, int y0, int y1, Tile&& tile)
+/// Some rows of a box in tiles, a row of a tile at a time: run(x0, n, y) with n <= kPlaces. But for the ends of a row
+/// all runs are of kPlaces targets and begin at a cache line of `to`.
+template <class Run> void inTiles(const Box& box, int y0, int y1, const WrittenRows& to, Run&& run)
 {
-    for (int x0 = box.xmin; x0 <= box.xmax; x0 += kPlaces) tile(x0, std::min(x0 + kPlaces, box.xmax + 1), y0, y1);
+    constexpr int kLine = 64 / sizeof(Pixel);
+    for (int x = box.xmin; x < box.xmax + kLine; x += kPlaces)
+        for (int y = y0; y < y1; ++y) {
+            const int first =
+                x - static_cast<int>(reinterpret_cast<std::uintptr_t>(to.row(y) + x) / sizeof(Pixel) % kLine);
+            const int x0 = std::max(first, box.xmin), x1 = std::min(first + kPlaces, box.xmax + 1);
+            if (x0 < x1) run(x0, x1 - x0, y);
+        }
 }
 
-/// The targets of the box inside the picture, in tiles of the given number of rows. tile(target rows, x0, x1, y0, y1)
-/// writes all four bytes of each pixel of its columns x0..x1-1 and rows y0..y1-1; pixels outside of the box are copied.
-template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
+/// The targets of the box inside the picture, in tiles of the given number of rows. run(target row, x0, n, y) writes
+/// all four bytes of n <= kPlaces pixels from (x0, y) on; pixels outside of the box are copied.
+template <class Run> Bits cBitFilter::eachTile(int rows, Run&& run)
 {
     const Bits in = bits_;
     const Box box = insidePicture(GetBounds(0), in);
@@ -78,7 +87,7 @@ template <class Tile> Bits cBitFilter::eachTile(int rows, Tile&& tile)
     copyRows(in, out, -Bits::kMargin, box.ymin);
     const WrittenRows to(out);
     eachPiece(box.ymin, box.ymax + 1, {rows, box.ymin}, in, [&](int y0, int y1) {
-        inTiles(box, y0, y1, [&](int x0, int x1, int top, int bottom) { tile(to, x0, x1, top, bottom); });
+        inTiles(box, y0, y1, to, [&](int x0, int n, int y) { run(to.row(y), x0, n, y); });
         for (int y = y0; y < y1; ++y) {
             copyPixels(in.row(y), to.row(y), -Bits::kMargin, box.xmin);
             copyPixels(in.row(y), to.row(y), box.xmax + 1, in.width() + Bits::kMargin);
@@ -96,12 +105,10 @@ template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows
 {
     const Bits in = bits_;
     const SourcePixels source(in, region_);
-    return eachTile(rows, [&](const WrittenRows& out, int x0, int x1, int y0, int y1) {
+    return eachTile(rows, [&](Pixel* to, int x0, int n, int y) {
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
-        for (int y = y0; y < y1; ++y) {
-            map(y, x0, x1 - x0, sx, sy);
-            source.take(sx, sy, x1 - x0, in.row(y) + x0, Clean, out.row(y) + x0);
-        }
+        map(y, x0, n, sx, sy);
+        source.take(sx, sy, n, in.row(y) + x0, Clean, to + x0);
     });
 }
 

@@ -58,7 +58,7 @@ void weighted(SpanOf s, Weighted w)
 
 void ring(SpanOf s, int radius)
 {
-    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+    const auto meanAt = [&](auto d8, int x) HWY_ATTR {
         const Shorts<decltype(d8)> d;
         using V = hn::Vec<decltype(d)>;
         const Pixel* p = s.from + x;
@@ -67,7 +67,8 @@ void ring(SpanOf s, int radius)
         const auto sum = (sides(up) + tap(d, up)) + (sides(down) + tap(d, down)) + sides(p);
         const auto mean = each(sum.split(), [](V v) HWY_ATTR { return hn::ShiftRight<3>(v); });
         return withFourthOf(d8, loadBytes(d8, p), joined(d8, mean));
-    });
+    };
+    forPixels<std::uint8_t>(s, meanAt, radius + 1);
 }
 
 void contour(SpanOf s, int thriceLevel, std::uint32_t background)

@@ -16,16 +16,18 @@ class CellSums {
     }
 
     void clear() { std::ranges::fill(cells_, CellSum()); }
-    /// Adds the pixels x0..x1-1 of the row at from, inside the picture.
-    void add(const Pixel* from, int x0, int x1)
+    /// Adds the pixels x0..x1-1 of some rows from `from` on, at most kRowsTogether, inside the picture.
+    void add(const Pixel* from, std::ptrdiff_t stride, int rows, int x0, int x1)
     {
-        cellKernels().addColumns(from + x0, columns_.data() + 4 * static_cast<std::size_t>(x0), x1 - x0);
+        cellKernels().addColumns(from + x0, stride, rows, columns_.data() + 4 * static_cast<std::size_t>(x0), x1 - x0);
     }
-    /// To be called after each row, so that the columns' 16 bits never overflow.
-    void rowDone()
+    /// To be called after rows, so that the columns' 16 bits never overflow.
+    void rowsDone(int rows)
     {
-        if (++rows_ == kMostRows) finish();
+        rows_ += rows;
+        if (rows_ + kRowsTogether > kMostRows) finish();
     }
+    static constexpr int kRowsTogether = 8;
     /// Brings the cells up to date.
     void finish()
     {

@@ -11,6 +11,12 @@ namespace {
 constexpr Pixel kBlack = {{0, 0, 0, 0}};
 constexpr std::uint64_t kExactSums = 1 << 23; // quotients of smaller sums are safe in singles
 
+/// Rows of a band of a region have the same ones.
+bool sameSpans(std::span<const Span> a, std::span<const Span> b)
+{
+    return a.data() == b.data() && a.size() == b.size();
+}
+
 /// The colours of a row of blocks, and the colour carried from pixel to pixel: it changes only at the start of a block,
 /// so a span that begins inside a block continues with the colour of the previous block, in this row or the last one.
 class Blocks {
@@ -51,9 +57,10 @@ class Blocks {
         if (size_ == 2 && y1 == y0 + 2)
             return cellKernels().meansOfFours(in_.row(y0), in_.row(y0 + 1), line_.data(), x0, x1);
         sums_.clear();
-        for (int y = y0; y < y1; ++y) {
-            sums_.add(in_.row(y), x0, x1);
-            sums_.rowDone();
+        for (int y = y0, rows; y < y1; y += rows) {
+            rows = std::min(y1 - y, CellSums::kRowsTogether);
+            sums_.add(in_.row(y), in_.stride(), rows, x0, x1);
+            sums_.rowsDone(rows);
         }
         sums_.finish();
         const auto first = static_cast<std::size_t>(x0 / size_), last = static_cast<std::size_t>((x1 - 1) / size_);
@@ -233,16 +240,21 @@ class Dots {
     {
         band_ = band;
         const std::int64_t top = box_.ymin + band * step_, end = std::min<std::int64_t>(top + step_ + 1, in_.height());
+        plain_ = spot_.isTabled();
+        if (plain_ && step_ == 2 && top >= 0 && mixNines(static_cast<int>(top))) return;
         sums_.clear();
-        for (int y = static_cast<int>(std::max<std::int64_t>(top, 0)); y < end; ++y) {
-            for (const Span s : region_.spans(y)) {
+        for (int y = static_cast<int>(std::max<std::int64_t>(top, 0)), rows; y < end; y += rows) {
+            const auto spans = region_.spans(y);
+            rows = 1; // rows of a band have the same spans
+            while (y + rows < end && rows < CellSums::kRowsTogether && sameSpans(region_.spans(y + rows), spans))
+                ++rows;
+            for (const Span s : spans) {
                 const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, in_.width());
-                if (x0 < x1) sums_.add(in_.row(y), x0, x1);
+                if (x0 < x1) sums_.add(in_.row(y), in_.stride(), rows, x0, x1);
             }
-            sums_.rowDone();
+            sums_.rowsDone(rows);
         }
         sums_.finish();
-        plain_ = spot_.isTabled();
         const auto& cells = sums_.cells();
         for (std::size_t i = 0; i < cells.size();) { // runs of cells with equal pixel counts
             std::size_t next = i;
@@ -255,6 +267,22 @@ class Dots {
         for (int x = firstColumn(); x < endColumn(); ++cell)
             for (const auto stop = std::min<std::int64_t>(leftOf(cell) + step_, endColumn()); x < stop; ++x)
                 line_[static_cast<std::size_t>(x)] = means_[cell];
+    }
+
+    /// The line of a row of cells of three by three pixels that are all selected, but for what is outside of the
+    /// picture to the right. False where it is not such a row.
+    bool mixNines(int top)
+    {
+        const int x0 = box_.xmin, x1 = endColumn();
+        if (x0 < 0 || top + 3 > in_.height()) return false;
+        for (int y = top; y < top + 3; ++y) {
+            const auto spans = region_.spans(y);
+            if (spans.size() != 1 || spans[0].x0 > x0 || spans[0].x1 < x1) return false;
+        }
+        const auto parts = partsOf(9), lastParts = partsOf((x1 - x0) % 2 == 0 ? 6 : 3);
+        if (lastParts <= 0) return false;
+        cellKernels().meansOfNines(in_.row(top), in_.stride(), parts, lastParts, line_.data(), x0, x1);
+        return true;
     }
 
     /// The cells first to last-1, which all have the same number of pixels.

@@ -62,24 +62,39 @@ Bits cBitFilter::TileMask(const Bits& Overlay, int Left, int Top, bool Tiled, in
     const auto firstFrom = [](std::int64_t origin, std::int64_t step) { // skips the tiles before the picture
         return origin < 0 && step > 0 ? origin + -origin / step * step : origin;
     };
-    Bits out = in;
+    if (in.isNull()) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
     const WrittenRows rows(out);
+    int below = -Bits::kMargin; // the rows above are written
     for (std::int64_t Y = Tiled ? firstFrom(Top, stepY) : Top; Y <= in.maxY(); Y += stepY) {
         const int y0 = static_cast<int>(std::max<std::int64_t>(Y, 0));
         const int y1 = static_cast<int>(std::min<std::int64_t>(Y + overlay.height(), in.height()));
+        if (y0 < y1) {
+            copyRows(in, out, below, y0);
+            below = y1;
+        }
         parallelFor(std::max(y1 - y0, 0), turnsTogether(in.width()), [&](int i) {
             const int y = y0 + i;
             Pixel* to = rows.row(y);
+            int copied = -Bits::kMargin;
             for (const Span s : region.spans(y))
                 for (std::int64_t X = Tiled ? firstFrom(Left, stepX) : Left; X <= in.maxX(); X += stepX) {
                     const int x0 = static_cast<int>(std::max<std::int64_t>({X, s.x0, 0}));
                     const int x1 = static_cast<int>(std::min<std::int64_t>({X + overlay.width(), s.x1, in.width()}));
                     const Pixel* over = overlay.row(static_cast<int>(y - Y));
-                    if (x0 < x1) laying.pixels(in.row(y) + x0, over + (x0 - X), x1 - x0, to + x0);
+                    if (x0 >= x1) continue;
+                    copyPixels(in.row(y), to, copied, x0);
+                    laying.pixels(in.row(y) + x0, over + (x0 - X), x1 - x0, to + x0);
+                    copied = x1;
                 }
+            copyPixels(in.row(y), to, copied, in.width() + Bits::kMargin);
         });
         progressDue(Y - Top, std::int64_t(in.maxY()) - Top);
     }
+    copyRows(in, out, below, in.height() + Bits::kMargin);
     report(100);
     return out;
 }

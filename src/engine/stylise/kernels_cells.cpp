@@ -6,26 +6,34 @@
 
 #include "engine/pixels-inl.h"
 #include <algorithm>
+#include <cmath>
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-template <class D> HWY_INLINE void addAt(D d, const Pixel* from, std::uint16_t* sums)
+template <class D> HWY_INLINE void addAt(D d, const Pixel* from, std::ptrdiff_t stride, int rows, std::uint16_t* sums)
 {
-    const auto one = hn::BitCast(d, hn::Set(hn::Repartition<std::uint64_t, D>(), std::uint64_t{1} << 48));
-    const auto three = hn::BitCast(d, hn::Set(hn::Repartition<std::uint64_t, D>(), 0x0000FFFFFFFFFFFFu));
-    const auto colour = hn::Or(hn::And(channels(d, from), three), one);
-    hn::StoreU(hn::Add(hn::LoadU(d, sums), colour), d, sums);
+    const hn::Repartition<std::uint64_t, D> pixels;
+    const auto counts = hn::BitCast(d, hn::Set(pixels, static_cast<std::uint64_t>(rows) << 48));
+    const auto three = hn::BitCast(d, hn::Set(pixels, 0x0000FFFFFFFFFFFFu));
+    auto sum = channels(d, from);
+    for (int y = 1; y < rows; ++y) sum = hn::Add(sum, channels(d, from + y * stride));
+    hn::StoreU(hn::Add(hn::LoadU(d, sums), hn::Or(hn::And(sum, three), counts)), d, sums);
 }
 
-void addColumns(const Pixel* from, std::uint16_t* sums, int count)
+void addColumns(const Pixel* from, std::ptrdiff_t stride, int rows, std::uint16_t* sums, int count)
 {
     const hn::ScalableTag<std::uint16_t> many;
+    const hn::CappedTag<std::uint16_t, 4> one;
     const int n = static_cast<int>(hn::Lanes(many)) / 4;
+    constexpr int kAhead = 8 * kLinePixels; // several rows are too many to be foreseen by the processor
     int x = 0;
-    for (; x + n <= count; x += n) addAt(many, from + x, sums + 4 * x);
-    for (; x < count; ++x) addAt(hn::CappedTag<std::uint16_t, 4>(), from + x, sums + 4 * x);
+    for (; x + kLinePixels <= count; x += kLinePixels) {
+        for (int y = 0; y < rows; ++y) __builtin_prefetch(from + y * stride + x + kAhead);
+        for (int i = x; i < x + kLinePixels; i += n) addAt(many, from + i, stride, rows, sums + 4 * i);
+    }
+    for (; x < count; ++x) addAt(one, from + x, stride, rows, sums + 4 * x);
 }
 
 void addCells(const std::uint16_t* columns, std::int64_t step, std::int64_t side, CellSum* cells, std::size_t count)
@@ -83,6 +91,61 @@ void meansOfFours(const Pixel* upper, const Pixel* lower, Pixel* line, int x0, i
     }
 }
 
+/// The last cells of meansOfNines.
+void meansOfLastNines(const Pixel* upper, std::ptrdiff_t stride, std::int32_t parts, std::int32_t lastParts,
+                      Pixel* line, int x0, int x1)
+{
+    for (int x = x0; x < x1; x += 2) {
+        const int columns = std::min(3, x1 - x);
+        const auto divisor = static_cast<float>(columns == 3 ? parts : lastParts);
+        for (int c = 0; c < 3; ++c) {
+            int sum = 0;
+            for (int i = 0; i < 3 * columns; ++i) sum += upper[x + i % columns + i / columns * stride].c[c];
+            const long mean = std::min(std::lrint(static_cast<float>(sum) / divisor), 255L);
+            for (int i = x; i < std::min(x + 2, x1); ++i) line[i].c[c] = static_cast<std::uint8_t>(mean);
+        }
+    }
+}
+
+void meansOfNines(const Pixel* upper, std::ptrdiff_t stride, std::int32_t parts, std::int32_t lastParts, Pixel* line,
+                  int x0, int x1)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const hn::Repartition<std::int16_t, decltype(d)> shorts;
+    const hn::RebindToFloat<decltype(d)> singles;
+    const hn::Repartition<std::uint64_t, decltype(d)> pairs;
+    const hn::Half<hn::RebindToUnsigned<decltype(d)>> half;
+    const int n = static_cast<int>(hn::Lanes(d));
+    const auto divisor = hn::Set(singles, static_cast<float>(parts));
+    const auto low = hn::Set(d, 0xFFFF), most = hn::Set(d, 255);
+    const auto sums = [&](int x) HWY_ATTR { // of the nine to the right of and below each pixel
+        const auto three = [&](const Pixel* p) HWY_ATTR {
+            return tap(shorts, p) + tap(shorts, p + stride) + tap(shorts, p + 2 * stride);
+        };
+        return (three(upper + x) + three(upper + x + 1) + three(upper + x + 2)).split();
+    };
+    const auto mean = [&](auto sum) HWY_ATTR {
+        return hn::Min(hn::NearestInt(hn::Div(hn::ConvertTo(singles, sum), divisor)), most);
+    };
+    int x = x0;
+    for (; x + 2 * n < x1; x += 2 * n) { // every second pixel begins a cell
+        const auto first = sums(x), last = sums(x + n);
+        const auto even = hn::ConcatEven(d, hn::BitCast(d, last.even), hn::BitCast(d, first.even));
+        const auto odd = hn::ConcatEven(d, hn::BitCast(d, last.odd), hn::BitCast(d, first.odd));
+        const auto blue = mean(hn::And(even, low)), green = mean(hn::And(odd, low)),
+                   red = mean(hn::ShiftRight<16>(even));
+        const auto cells = hn::BitCast(hn::RebindToUnsigned<decltype(d)>(),
+                                       hn::Or(blue, hn::Or(hn::ShiftLeft<8>(green), hn::ShiftLeft<16>(red))));
+        const auto twice = [&](auto some, Pixel* to) HWY_ATTR {
+            const auto wide = hn::PromoteTo(pairs, some);
+            hn::StoreU(hn::Or(wide, hn::ShiftLeft<32>(wide)), pairs, reinterpret_cast<std::uint64_t*>(to));
+        };
+        twice(hn::LowerHalf(half, cells), line + x);
+        twice(hn::UpperHalf(half, cells), line + x + n);
+    }
+    meansOfLastNines(upper, stride, parts, lastParts, line, x, x1);
+}
+
 void paintScaled(SpanOf s, const Pixel* line, const float* factors)
 {
     forPixels<std::uint8_t>(s, [=](auto d8, int x) HWY_ATTR {
@@ -108,7 +171,8 @@ void paintLine(SpanOf s, const Pixel* line)
 
 const CellKernels& cellKernelTable()
 {
-    static constexpr CellKernels table = {addColumns, addCells, meansOf, meansOfFours, paintScaled, paintLine};
+    static constexpr CellKernels table = {addColumns,   addCells,    meansOf,  meansOfFours,
+                                          meansOfNines, paintScaled, paintLine};
     return table;
 }
 
