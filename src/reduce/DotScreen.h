@@ -1,7 +1,7 @@
 // Ordered dithering for any palette: each colour is approximated by a mixture of palette entries, sorted dark to light,
 // and an 8x8 threshold matrix picks the entry of a pixel. Mixtures are kept.
 #pragma once
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include "reduce/ColourMixer.h"
 
 namespace velara {

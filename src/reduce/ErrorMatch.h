@@ -1,6 +1,6 @@
 // The entry of a palette for a pixel and the error that comes in with it, and the error that goes out.
 #pragma once
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include <algorithm>
 
 namespace velara {

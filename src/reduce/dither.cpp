@@ -1,6 +1,6 @@
 #include "reduce/dither.h"
-#include "pixels/NearestColours.h"
 #include "pixels/Register.h"
+#include "pixels/nearest/NearestColours.h"
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/inWaves.h"
 #include "pixels/threads/parallelFor.h"

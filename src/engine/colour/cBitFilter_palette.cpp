@@ -2,8 +2,8 @@
 #include "engine/colour/lookUps.h"
 #include "engine/colour/mPalette.h"
 #include "engine/passes.h"
-#include "pixels/NearestColours.h"
 #include "pixels/Register.h"
+#include "pixels/nearest/NearestColours.h"
 #include "pixels/numbers.h"
 
 namespace velara {
