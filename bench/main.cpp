@@ -1,7 +1,7 @@
-// velara-bench [--size WxH] [--cores] [--baseline] [--json FILE] [NAME]...: times the rows whose family or name
+// velara-bench [--size WxH] [--cores] [--avx2|--baseline] [--json FILE] [NAME]...: times the rows whose family or name
 // contains one of the NAMEs, or all of them, on one thread, and prints one table. --cores adds a column: the time with
-// all cores, as a part of that with one thread. --baseline measures what a processor without AVX2 gets: twice the goals
-// are fine there. --json writes the figures by name, to compare runs with.
+// all cores, as a part of that with one thread. --avx2 measures what a processor without AVX-512 gets, --baseline
+// one without AVX2, too: twice the goals are fine there. --json writes the figures by name, to compare runs with.
 #include "bench.h"
 #include "pixels/BlockPool.h"
 #include "pixels/threads/parallelFor.h"
@@ -214,8 +214,10 @@ int main(int argc, char** argv)
         const std::string word = argv[i];
         if (word == "--cores")
             withCores = true;
+        else if (word == "--avx2")
+            hwy::DisableTargets(HWY_AVX3_DL);
         else if (word == "--baseline")
-            hwy::DisableTargets(HWY_AVX2);
+            hwy::DisableTargets(HWY_AVX3_DL | HWY_AVX2);
         else if (word == "--json" && i + 1 < argc)
             json = argv[++i];
         else if (word != "--size")

@@ -1,6 +1,7 @@
 // Flood fill by runs. Which pixels belong depends on the region, the done pixels and the colours before the fill, so
 // the order of visits does not matter and the result equals that of a queue of single pixels.
 #include "paint/Painter.h"
+#include "paint/kernels_fill.h"
 #include "pixels/numbers.h"
 #include "pixels/pairTable.h"
 #include "region/spanWalk.h"
@@ -23,20 +24,6 @@ bool isNearlyItself(const Pixel& a, const Pixel& b)
 {
     return std::abs(a.c[0] - b.c[0]) < kNearlyItself && std::abs(a.c[1] - b.c[1]) < kNearlyItself &&
            std::abs(a.c[2] - b.c[2]) < kNearlyItself;
-}
-
-/// Bit i: whether pixel i differs from the seed by at most tolerance. count is 1 to 64.
-std::uint64_t matches(const Pixel* pixels, int count, const Pixel& seed, int tolerance)
-{
-    std::uint8_t match[64] = {};
-    for (int i = 0; i < count; ++i) match[i] = difference(pixels[i], seed) <= tolerance;
-    std::uint64_t bits = 0;
-    for (int i = 0; i < 64; i += 8) { // gathers the low bits of eight bytes
-        std::uint64_t eight;
-        std::memcpy(&eight, match + i, 8);
-        bits |= (eight * 0x0102040810204080u >> 56) << i;
-    }
-    return bits;
 }
 
 /// New values by channel and old value; two channels per look-up, which is twice as fast over a whole picture.
@@ -95,7 +82,7 @@ class OpenPixels {
         eachSpanWithin(region_, y, 0, bits_.width(), [&](int x0, int x1) {
             for (int x = x0; x < x1;) {
                 const int end = std::min(x1, (x / 64 + 1) * 64);
-                words[x / 64] |= matches(pixels + x, end - x, seed_, tolerance_) << (x % 64);
+                words[x / 64] |= pixelsLike(pixels + x, end - x, seed_, tolerance_) << (x % 64);
                 x = end;
             }
         });

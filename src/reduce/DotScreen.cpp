@@ -55,27 +55,36 @@ void DotScreen::row(const Pixel* from, std::uint8_t* to, int width, int y)
     }
     // The two fractions of a sequence that fills the plane evenly and has no common period with the thresholds.
     unsigned sequence = unsigned(y) * 2447445414U;
-    for (int x = 0; x < width; ++x, sequence += 3242174889U) {
-        const Pixel p = from[x];
-        if (hasOwn_[cellOf(p)])
-            if (const int own = nearest_(p); channelBits(colours_[std::size_t(own)]) == channelBits(p)) {
-                to[x] = static_cast<std::uint8_t>(own);
-                continue;
-            }
-        to[x] = between(p, sequence >> 30).at(thresholds[std::size_t(x % 8)]);
+    constexpr int kRun = 64; // pixels, whose dots are fetched before the first is needed: their table is a large one
+    std::array<std::uint32_t, kRun> cells;
+    for (int x0 = 0; x0 < width; x0 += kRun) {
+        const int n = std::min(kRun, width - x0);
+        for (int i = 0; i < n; ++i, sequence += 3242174889U)
+            cells[std::size_t(i)] = between(from[x0 + i], sequence >> 30);
+        for (int i = 0; i < n; ++i) __builtin_prefetch(&coarse_[cells[std::size_t(i)]]);
+        for (int i = 0; i < n; ++i)
+            to[x0 + i] = entryOf(from[x0 + i], cells[std::size_t(i)], thresholds[std::size_t((x0 + i) % 8)]);
     }
 }
 
-/// The dots of the level below or above each channel; up: 0 to 3.
-inline const DotScreen::Dots& DotScreen::between(Pixel p, unsigned up)
+/// The place in the table of the level below or above each channel; up: 0 to 3.
+inline std::uint32_t DotScreen::between(Pixel p, unsigned up)
 {
     const auto level = [&](int c) { return (p.c[c] + up) >> 2; };
-    Dots& dots = coarse_[(level(2) * kLevels + level(1)) * kLevels + level(0)];
+    return (level(2) * kLevels + level(1)) * kLevels + level(0);
+}
+
+inline std::uint8_t DotScreen::entryOf(Pixel p, std::uint32_t cell, std::uint8_t threshold)
+{
+    if (hasOwn_[cellOf(p)])
+        if (const int own = nearest_(p); channelBits(colours_[std::size_t(own)]) == channelBits(p))
+            return static_cast<std::uint8_t>(own);
+    Dots& dots = coarse_[cell];
     if (dots.ends[0] == 0) [[unlikely]] {
-        const auto channel = [&](int c) { return static_cast<std::uint8_t>(std::min(level(c) << 2, 255U)); };
-        dots = mix({channel(0), channel(1), channel(2), 0});
+        const auto channel = [&](std::uint32_t level) { return static_cast<std::uint8_t>(std::min(level << 2, 255U)); };
+        dots = mix({channel(cell % kLevels), channel(cell / kLevels % kLevels), channel(cell / kLevels / kLevels), 0});
     }
-    return dots;
+    return dots.at(threshold);
 }
 
 inline const DotScreen::Dots& DotScreen::recent(Pixel p)

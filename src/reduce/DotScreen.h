@@ -1,7 +1,7 @@
 // Ordered dithering for any palette: each colour is approximated by a mixture of palette entries, sorted dark to light,
 // and an 8x8 threshold matrix picks the entry of a pixel. Mixtures are kept.
 #pragma once
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include "reduce/ColourMixer.h"
 
 namespace velara {
@@ -29,7 +29,7 @@ class DotScreen {
 
   private:
     static constexpr int kSlotBits = 16;
-    static constexpr std::size_t kLevels = 65; // 0, 4, ... 252, 255
+    static constexpr std::uint32_t kLevels = 65; // 0, 4, ... 252, 255
     struct alignas(16) Dots {
         std::array<std::uint8_t, ColourMixer::kMostMixed> entries{}, ends{}; // the threshold at which each one ends
         /// Counts the ends up to the threshold all at once: the high bit of a byte is kept where nothing is borrowed.
@@ -46,7 +46,8 @@ class DotScreen {
     };
     Dots mix(Pixel p);
     const Dots& recent(Pixel p);
-    const Dots& between(Pixel p, unsigned up);
+    static std::uint32_t between(Pixel p, unsigned up);
+    std::uint8_t entryOf(Pixel p, std::uint32_t cell, std::uint8_t threshold);
     static std::size_t cellOf(Pixel p) { return std::size_t(p.c[0] >> 2 | (p.c[1] >> 2) << 6 | (p.c[2] >> 2) << 12); }
 
     const DotMatrix& matrix_;

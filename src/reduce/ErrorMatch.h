@@ -1,6 +1,6 @@
 // The entry of a palette for a pixel and the error that comes in with it, and the error that goes out.
 #pragma once
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include <algorithm>
 
 namespace velara {
@@ -15,14 +15,16 @@ class ErrorMatch {
         for (const Pixel& p : colours) lanes_.push_back(wide(p));
     }
 
-    /// The entry nearest to pixel plus error, and the new error. With an error, lookups are quantised to cubes of four
-    /// levels: the loss is diffused with the rest, and the table stays in the cache. A plain place whose entry can't be
-    /// told from it stays plain: no error comes in or goes out.
-    Lanes put(std::uint8_t& to, int x, int y, Lanes error)
+    /// The entry nearest to pixel plus errors, and the new error; late is what the pixel before it gives, which is
+    /// added last, as everything waits for it. With an error, lookups are quantised to cubes of four levels: the loss
+    /// is diffused with the rest, and the table stays in the cache. A plain place whose entry can't be told from it
+    /// stays plain: no error comes in or goes out.
+    [[gnu::always_inline]] Lanes put(std::uint8_t& to, int x, int y, Lanes error, Lanes late = Lanes{})
     {
         constexpr int kUnseen = 3; // squared distance: one level a channel
-        const Pixel p = bits_.row(y)[x];
-        if (isPlain(x, y)) {
+        const Pixel* const row = bits_.row(y);
+        const Pixel p = row[x];
+        if (isSame(p, row[std::max(x - 1, 0)]) && isPlain(x, y)) {
             const int entry = nearest_(p);
             const Lanes off = wide(p) - lanes_[std::size_t(entry)], squares = off * off;
             if (squares[0] + squares[1] + squares[2] <= kUnseen) {
@@ -30,11 +32,24 @@ class ErrorMatch {
                 return Lanes{};
             }
         }
-        const Lanes wanted = wide(p) + error;
+        const Lanes wanted = wide(p) + error + late;
         const Pixel shown = narrowLimited(wanted);
         const int entry = isSame(shown, p) ? nearest_(shown) : nearly(shown);
         to = static_cast<std::uint8_t>(entry);
         return limited(wanted - lanes_[std::size_t(entry)], -kMostError, kMostError);
+    }
+    /// put() for the usual pixel, without a call, so that a loop keeps all in registers. False: nothing has been done.
+    [[gnu::always_inline]] bool putQuickly(std::uint8_t& to, int x, int y, Lanes error, Lanes late, Lanes& left) const
+    {
+        const Pixel* const row = bits_.row(y);
+        const Pixel p = row[x];
+        const Lanes wanted = wide(p) + error + late;
+        const Pixel shown = narrowLimited(wanted);
+        const std::uint32_t cell = cellOf(shown);
+        if (isSame(p, row[std::max(x - 1, 0)]) || isSame(shown, p) || !isKnown(cell)) return false;
+        to = nearly_[cell];
+        left = limited(wanted - lanes_[to], -kMostError, kMostError);
+        return true;
     }
     /// The error that a line of diffusion starts with. It varies evenly between plus and minus the first pixel's error,
     /// so that neighbouring lines don't produce the same pattern.
@@ -51,7 +66,7 @@ class ErrorMatch {
 
     static bool isSame(Pixel a, Pixel b) { return channelBits(a) == channelBits(b); }
     /// The same colour all around, wider than the steps of a smooth ramp.
-    bool isPlain(int x, int y) const
+    [[gnu::noinline]] bool isPlain(int x, int y) const
     {
         const Pixel p = bits_.row(y)[x];
         for (const int reach : {1, 6}) {
@@ -63,19 +78,28 @@ class ErrorMatch {
         }
         return true;
     }
-    int nearly(Pixel p)
+    static std::uint32_t cellOf(Pixel p)
     {
         const auto w = std::bit_cast<std::uint32_t>(p);
-        std::uint16_t& known = nearly_[(w >> 2 & 63) | (w >> 4 & 63 << 6) | (w >> 6 & 63 << 12)];
-        if (known == 0) [[unlikely]]
-            known = static_cast<std::uint16_t>(1 + nearest_(std::bit_cast<Pixel>((w & 0xFCFCFC) | 0x020202)));
-        return known - 1;
+        return (w >> 2 & 63) | (w >> 4 & 63 << 6) | (w >> 6 & 63 << 12);
+    }
+    bool isKnown(std::uint32_t cell) const { return known_[cell / 64] >> cell % 64 & 1; }
+    int nearly(Pixel p)
+    {
+        const std::uint32_t cell = cellOf(p);
+        if (!isKnown(cell)) [[unlikely]] {
+            const auto middle = std::bit_cast<Pixel>((channelBits(p) & 0xFCFCFC) | 0x020202);
+            nearly_[cell] = static_cast<std::uint8_t>(nearest_(middle));
+            known_[cell / 64] |= std::uint64_t{1} << cell % 64;
+        }
+        return nearly_[cell];
     }
 
     const Bits& bits_;
     std::vector<Lanes> lanes_;
     NearestColours nearest_;
-    std::vector<std::uint16_t> nearly_ = std::vector<std::uint16_t>(64 * 64 * 64); // position + 1
+    std::vector<std::uint8_t> nearly_ = std::vector<std::uint8_t>(64 * 64 * 64); // the known ones, a bit each:
+    std::vector<std::uint64_t> known_ = std::vector<std::uint64_t>(64 * 64);
 };
 
 } // namespace velara

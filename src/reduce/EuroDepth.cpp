@@ -1,6 +1,6 @@
 #include "reduce/EuroDepth.h"
 #include "pixels/IndexedPicture.h"
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/WrittenRows.h"
 #include "pixels/threads/parallelFor.h"

@@ -1,6 +1,6 @@
 #include "reduce/dither.h"
-#include "pixels/NearestColours.h"
 #include "pixels/Register.h"
+#include "pixels/nearest/NearestColours.h"
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/inWaves.h"
 #include "pixels/threads/parallelFor.h"
@@ -116,13 +116,20 @@ class Work {
             const Lanes* here = errors.data() + 1 + first;
             Lanes* below = next.data() + 1 + first;
             Lanes ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
-            for (int i = 0; i < width; ++i, to += step, here += step, below += step) {
-                const Lanes error = match.put(*to, first + i * step, y, *here + ahead);
-                const Lanes right = error * 7 >> 4, back3 = error * 3 >> 4, middle = error * 5 >> 4;
+            int i = 0;
+            const auto spread = [&](Lanes error) {
+                const Lanes right = ((error << 3) - error) >> 4; // seven, without a product to wait for
+                const Lanes back3 = error * 3 >> 4, middle = error * 5 >> 4;
                 below[-step] = under + back3;
                 under = corner + middle;
                 corner = error - right - back3 - middle;
                 ahead = right;
+                ++i, to += step, here += step, below += step;
+            };
+            while (i < width) {
+                Lanes error;
+                while (i < width && match.putQuickly(*to, first + i * step, y, *here, ahead, error)) spread(error);
+                if (i < width) spread(match.put(*to, first + i * step, y, *here, ahead));
             }
             below[-step] = under;
             std::swap(errors, next);

@@ -3,10 +3,11 @@
 #include "engine/colour/mPalette.h"
 #include "pixels/threads/parallelFor.h"
 #include "support/filterOf.h"
+#include "support/instructionSets.h"
 #include "support/pictures.h"
 #include "support/sums.h"
 #include "support/typicalArguments.h"
-#include <hwy/targets.h>
+#include <map>
 #include <thread>
 
 namespace velara {
@@ -14,25 +15,18 @@ namespace {
 
 TEST(Operations, GiveWhatTheirDefinitionsGive) { expectCommittedSums(operationTrials()); }
 
-void use(std::int64_t disabled)
-{
-    hwy::DisableTargets(disabled);
-    hwy::GetChosenTarget().DeInit(); // chosen again at the next call
-}
-
-TEST(Operations, TheBaselineGivesWhatTheBestGives)
+TEST(Operations, EveryInstructionSetGivesWhatTheBestGives)
 {
     PaletteColors() = {{0, 0, 0}, {255, 255, 255}, {200, 30, 40}};
     const Bits bits = randomBits(1111, 37, 8);
     const Region region = Region::ellipse(-1, 0, 1111, 37);
-    for (const Operation& op : operations()) {
-        use(0);
-        const Arguments arguments = typicalArguments(op);
-        const Bits best = run(op.name, arguments, bits, region);
-        use(HWY_AVX2);
-        EXPECT_TRUE(sameBits(best, run(op.name, arguments, bits, region))) << op.name;
-    }
-    use(0);
+    std::map<std::string_view, Bits> best;
+    withEachInstructionSet([&] {
+        for (const Operation& op : operations()) {
+            const Bits result = run(op.name, typicalArguments(op), bits, region);
+            EXPECT_TRUE(sameBits(best.try_emplace(op.name, result).first->second, result)) << op.name;
+        }
+    });
 }
 
 // Results, faults, percentages and where a report ends the filter: small pieces spread even a small picture.

@@ -1,8 +1,9 @@
 // Colour depth: the tables and the nearest colours compared with measured facts and with the plain definition.
 #include "pixels/IndexedPicture.h"
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include "reduce/EuroDepth.h"
 #include "support/gdiFacts.h"
+#include "support/instructionSets.h"
 #include "support/pictures.h"
 #include "support/seed.h"
 #include <algorithm>
@@ -114,6 +115,24 @@ TEST(NearestColours, AnyPaletteByBothDistances)
                     const auto p = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
                     ASSERT_EQ(literalNearest(colours, p, distance), nearest(p)) << count << ' ' << spread;
                 }
+                constexpr int kRow = 64 + 37; // a run and a part of one
+                std::array<Pixel, kRow> row, wanted;
+                for (std::size_t i = 0; i < kRow; ++i) {
+                    row[i] = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
+                    wanted[i] = colours[std::size_t(literalNearest(colours, row[i], distance))];
+                    wanted[i].c[3] = row[i].c[3];
+                }
+                withEachInstructionSet([&] {
+                    for (const bool isFilled : {false, true}) {
+                        std::array<Pixel, kRow> got;
+                        nearest.colour(row.data(), got.data(), kRow);
+                        EXPECT_EQ(wanted, got) << count << ' ' << spread << ' ' << isFilled;
+                        std::array<std::uint8_t, kRow> entries;
+                        if (count > 256) continue;
+                        nearest.entries(row.data(), entries.data(), kRow);
+                        for (std::size_t i = 0; i < kRow; ++i) EXPECT_EQ(nearest(row[i]), entries[i]);
+                    }
+                });
             }
         }
 }

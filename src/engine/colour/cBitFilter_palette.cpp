@@ -2,8 +2,8 @@
 #include "engine/colour/lookUps.h"
 #include "engine/colour/mPalette.h"
 #include "engine/passes.h"
-#include "pixels/NearestColours.h"
 #include "pixels/Register.h"
+#include "pixels/nearest/NearestColours.h"
 #include "pixels/numbers.h"
 
 namespace velara {
@@ -52,9 +52,9 @@ class Diffusion {
   public:
     Diffusion(Bits& source, Bits& out) : source_(source), out_(out) {}
 
-    /// Rows from y on, each with its columns. Every pixel depends on the one before it, so four rows are interleaved,
-    /// each far enough behind the one above that its errors have arrived.
-    static constexpr int kAbreast = 4;
+    /// Rows from y on, each with its columns. Every pixel depends on the one before it, so several rows are
+    /// interleaved, each far enough behind the one above that its errors have arrived.
+    static constexpr int kAbreast = 6;
     void rows(int y, const std::array<Columns, kAbreast>& columns)
     {
         Columns step = {kLag * kAbreast, source_.maxX()}; // after the left column, before the last one
@@ -92,7 +92,7 @@ class Diffusion {
         Register p[kAbreast];
         for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(from[step.begin + i * stride]);
         for (int x = step.begin; x < step.end; ++x)
-#pragma GCC unroll 4
+#pragma GCC unroll 6 // kAbreast
             for (int i = 0; i < kAbreast; ++i)
                 p[i] = pixel(p[i], from + x + i * stride, to + x + i * stride, true, true);
     }
@@ -101,7 +101,8 @@ class Diffusion {
     [[gnu::always_inline]] Register pixel(Register p, Pixel* from, Pixel* to, bool toRight, bool toBelow)
     {
         const Register found = nearest_(p);
-        *to = pixelFrom(static_cast<std::uint32_t>(wordOf(found)) | (wordOf(*to) & kFourthByte));
+        *to = pixelFrom(static_cast<std::uint32_t>(wordOf(found)) |
+                        (static_cast<std::uint32_t>(wordOf(p)) & kFourthByte));
         const Register next = inRegister(from[1]); // may be margin
         if (errorOf(p, found) <= kUnseen) return next;
         Pixel& below = from[source_.stride()];
@@ -123,10 +124,24 @@ Bits cBitFilter::PaletteApply()
     const Bits before = bits_;
     const Region region = region_;
     const Box box = insidePicture(GetBounds(0), before);
-    Bits source = before, out = before;
+    if (box.isEmpty()) {
+        report(100);
+        return before;
+    }
+    Bits source = before, out = Bits::uninitialized(before.width(), before.height());
+    copyRows(before, out, -Bits::kMargin, box.ymin);
+    copyRows(before, out, box.ymax + 1, before.height() + Bits::kMargin);
     Diffusion diffusion(source, out);
     const auto columnsOf = [&](const Span& s) {
         return Columns{std::max(s.x0, box.xmin), std::min(s.x1, box.xmax + 1)};
+    };
+    /// What is beside a single span, or all of the row.
+    const auto copyAround = [&](int y) {
+        const int first = -Bits::kMargin, last = before.width() + Bits::kMargin;
+        const auto spans = region.spans(y);
+        const Columns own = spans.size() == 1 ? columnsOf(spans.front()) : Columns{last, last};
+        copyPixels(before.row(y), out.row(y), first, std::min(own.begin, last));
+        copyPixels(before.row(y), out.row(y), std::max(own.end, first), last);
     };
     for (int y = box.ymin; y <= box.ymax;) {
         std::array<Columns, Diffusion::kAbreast> columns;
@@ -136,11 +151,13 @@ Bits cBitFilter::PaletteApply()
             if (spans.size() != 1) break;
             columns[std::size_t(rows)] = columnsOf(spans.front());
         }
+        const int end = y + (rows == Diffusion::kAbreast ? rows : 1);
+        for (int row = y; row < end; ++row) copyAround(row);
         if (rows == Diffusion::kAbreast)
             diffusion.rows(y, columns);
         else
             for (const Span s : region.spans(y)) diffusion.row(y, columnsOf(s));
-        for (const int end = y + (rows == Diffusion::kAbreast ? rows : 1); y < end; ++y) progressDue(y, source.maxY());
+        for (; y < end; ++y) progressDue(y, source.maxY());
     }
     report(100);
     if (bits_.sharesWith(before)) bits_ = source; // unless Progress has set another picture

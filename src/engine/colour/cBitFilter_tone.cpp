@@ -17,35 +17,6 @@ template <class Function> ByteTable byteTable(Function f)
     return table;
 }
 
-/// Blue, green and red of one pixel, which may be outside of 0..255.
-struct Wide {
-    std::int64_t b, g, r;
-    bool isByte() const { return ((b | g | r) & ~std::int64_t{255}) == 0; }
-};
-
-/// Passes half of a channel's excess below 0 or above 255 to each of the others, until all are in range: this preserves
-/// the hue longer than clamping.
-Wide balanced(Wide v)
-{
-    auto& [b, g, r] = v;
-    while (!v.isByte()) {
-        if (b <= 0 && g <= 0 && r <= 0) b = g = r = 0;
-        if (b >= 255 && g >= 255 && r >= 255) b = g = r = 255;
-        if (b < 0) g += b / 2, r += b / 2, b = 0;
-        if (b > 255) g += (b - 255) / 2, r += (b - 255) / 2;
-        b = std::min<std::int64_t>(b, 255);
-        if (g < 0) r += g / 2, b += g / 2, g = 0;
-        if (g > 255) r += (g - 255) / 2, b += (g - 255) / 2;
-        g = std::min<std::int64_t>(g, 255);
-        if (r < 0) g += r / 2, b += r / 2, r = 0;
-        if (r > 255) {
-            const std::int64_t half = (r - 255) / 2;
-            r = 255, g += half, b += half;
-        }
-    }
-    return v;
-}
-
 /// The histogram of round(brightnessOf) over all pixels.
 std::array<std::int64_t, 256> histogram(const Bits& bits)
 {
@@ -54,11 +25,14 @@ std::array<std::int64_t, 256> histogram(const Bits& bits)
     std::mutex guard;
     parallelFor((bits.height() + kRows - 1) / kRows, turnsTogether(kRows * bits.width()), [&](int piece) {
         std::array<std::array<std::uint32_t, 256>, 4> counts{}; // with one table, runs of equal pixels would wait
-        std::vector<Pixel> greys(std::size_t(bits.width()));
-        for (int y = piece * kRows; y < std::min((piece + 1) * kRows, bits.height()); ++y) {
-            colourKernels().brightness(bits.row(y), bits.width(), greys.data());
-            for (std::size_t x = 0; x < greys.size(); ++x) ++counts[x & 3][greys[x].c[0]];
-        }
+        constexpr int kRun = 1024;                              // pixels, whose greys stay in the first cache
+        std::array<Pixel, kRun> greys{};
+        for (int y = piece * kRows; y < std::min((piece + 1) * kRows, bits.height()); ++y)
+            for (int x = 0; x < bits.width(); x += kRun) {
+                const int n = std::min(kRun, bits.width() - x);
+                colourKernels().brightness(bits.row(y) + x, n, greys.data());
+                for (int i = 0; i < n; ++i) ++counts[std::size_t(i & 3)][greys[std::size_t(i)].c[0]];
+            }
         const std::lock_guard lock(guard);
         for (const auto& part : counts)
             for (std::size_t i = 0; i < 256; ++i) all[i] += part[i];
@@ -86,30 +60,21 @@ Bits cBitFilter::CONTRAST(int Level)
     if (in.isNull()) throw RuntimeError(Fault::DivisionByZero);
     const auto mean = static_cast<int>(sum / (std::int64_t(in.width()) * in.height()));
     const float f = static_cast<float>((Level + 100.0) / 100);
-    std::array<int, 256> table;
-    for (int i = 0; i < 256; ++i) table[std::size_t(i)] = roundEven(double(i - mean) * f + mean);
-
-    constexpr std::uint32_t kOverflows = 1u << 31;
-    const auto marked = [&](int i, int shift) {
-        const int v = table[std::size_t(i)];
-        return v < 0 || v > 255 ? kOverflows : std::uint32_t(v) << shift;
-    };
-    const auto pairs = pairTable<std::uint32_t>([&](int b, int g) { return marked(b, 0) | marked(g, 8); });
-    std::array<std::uint32_t, 256> reds;
-    for (int i = 0; i < 256; ++i) reds[std::size_t(i)] = marked(i, 16);
-
-    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-        inBlocks(from, to, x0, x1, [&](const Pixel* p, Pixel* q, int n) {
-            for (int i = 0; i < n; ++i) {
-                const std::uint32_t source = wordOf(p[i]);
-                std::uint32_t v = pairs[source & 0xFFFF] | reds[source >> 16 & 255];
-                if (v & kOverflows) {
-                    const Wide w = balanced({table[p[i].c[0]], table[p[i].c[1]], table[p[i].c[2]]});
-                    v = static_cast<std::uint32_t>(w.b | w.g << 8 | w.r << 16);
-                }
-                q[i] = pixelFrom(v | (source & kFourthByte));
-            }
-        });
+    StretchTable to{};
+    for (std::size_t i = 0; i < 256; ++i) {
+        to.entries[i] = roundEven(double(int(i) - mean) * f + mean);
+        to.limited[i] = clamp(to.entries[i]);
+        to.isWide |= std::abs(std::int64_t{to.entries[i]}) > StretchTable::kMostNarrow;
+    }
+    // The entry of the mean is the mean, and the others rise or fall evenly from there.
+    const auto isByte = [&](int i) { return to.entries[std::size_t(i)] == to.limited[std::size_t(i)]; };
+    int low = mean, high = mean;
+    while (low > 0 && isByte(low - 1)) --low;
+    while (high < 255 && isByte(high + 1)) ++high;
+    to.low = static_cast<std::uint8_t>(low);
+    to.high = static_cast<std::uint8_t>(high);
+    return eachSpan(0, [&](const Pixel* from, Pixel* target, int x0, int x1) {
+        colourKernels().stretch({from, 0, target, x0, x1}, to);
     });
 }
 

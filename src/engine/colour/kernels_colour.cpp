@@ -1,6 +1,7 @@
 #include "engine/colour/kernels_colour.h"
 #include "pixels/numbers.h"
 #include <algorithm>
+#include <cstring>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/colour/kernels_colour.cpp"
@@ -32,27 +33,130 @@ void add(const SpanOf& s, std::uint32_t plus, std::uint32_t minus)
     });
 }
 
-/// Sixteen look-ups in sixteen entries by the low half of a byte; its high half then selects among them bit by bit.
+#if HWY_TARGET == HWY_AVX3_DL
+
+struct TableRows {
+    explicit TableRows(const std::uint8_t* entries) { std::memcpy(rows, entries, sizeof rows); }
+    alignas(64) std::uint8_t rows[256];
+};
+
+/// table[byte] of each byte: look-ups in 128 entries.
+template <class D8> HWY_INLINE hn::Vec<D8> lookedUp(D8 d, hn::Vec<D8> source, const TableRows& table)
+{
+    constexpr bool isFull = hn::MaxLanes(d) == 64; // or a pixel in a register of 16 bytes
+    const hn::ScalableTag<std::uint8_t> full;
+    __m512i index;
+    if constexpr (isFull)
+        index = source.raw;
+    else
+        index = _mm512_castsi128_si512(source.raw);
+    const auto of128 = [&](const std::uint8_t* rows) HWY_ATTR {
+        return _mm512_permutex2var_epi8(hn::Load(full, rows).raw, index, hn::Load(full, rows + 64).raw);
+    };
+    const __m512i found =
+        _mm512_mask_blend_epi8(_mm512_movepi8_mask(index), of128(table.rows), of128(table.rows + 128));
+    if constexpr (isFull)
+        return hn::Vec<D8>{found};
+    else
+        return hn::Vec<D8>{_mm512_castsi512_si128(found)};
+}
+
+#else
+
+/// A table of 256 bytes in rows of sixteen, every other one as its difference from the one before.
+struct TableRows {
+    explicit TableRows(const std::uint8_t* entries)
+    {
+        for (std::size_t i = 0; i < 256; ++i)
+            rows[i] = static_cast<std::uint8_t>(entries[i] ^ (i & 16 ? entries[i - 16] : 0));
+    }
+    alignas(64) std::uint8_t rows[256];
+};
+
+/// table[byte] of each byte. Look-ups in sixteen entries by the low half of a byte; its high half then selects among
+/// them bit by bit, the lowest one by adding a difference or none.
+template <class D8> HWY_INLINE hn::Vec<D8> lookedUp(D8 d, hn::Vec<D8> source, const TableRows& table)
+{
+    const auto bit = [&](int b) HWY_ATTR {
+        const auto one = hn::Set(d, static_cast<std::uint8_t>(1 << b));
+        return hn::Eq(hn::And(source, one), one);
+    };
+    const auto bit5 = bit(5), bit6 = bit(6), bit7 = bit(7);
+    const auto low = hn::And(source, hn::Set(d, 15)), lowOrNone = hn::IfThenElse(bit(4), low, hn::Set(d, 0x80));
+    const auto sixteen = [&](int i, auto index) HWY_ATTR {
+        if constexpr (hn::MaxLanes(d) > 16)
+            return hn::TableLookupBytesOr0(hn::LoadDup128(d, table.rows + 16 * i), index);
+        else
+            return hn::TableLookupBytesOr0(hn::Load(hn::FixedTag<std::uint8_t, 16>(), table.rows + 16 * i), index);
+    };
+    const auto two = [&](int i) HWY_ATTR { return hn::Xor(sixteen(i, low), sixteen(i + 1, lowOrNone)); };
+    const auto four = [&](int i) HWY_ATTR { return hn::IfThenElse(bit5, two(i + 2), two(i)); };
+    const auto eight = [&](int i) HWY_ATTR { return hn::IfThenElse(bit6, four(i + 4), four(i)); };
+    return hn::IfThenElse(bit7, eight(8), eight(0));
+}
+
+#endif
+
 void table(const SpanOf& s, const std::uint8_t* entries)
 {
+    const TableRows rows(entries);
     forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
         const auto source = loadBytes(d, s.from + x);
-        const auto low = hn::And(source, hn::Set(d, 15));
-        const auto sixteen = [&](int i) HWY_ATTR {
-            if constexpr (hn::MaxLanes(d) > 16)
-                return hn::TableLookupBytes(hn::LoadDup128(d, entries + 16 * i), low);
-            else
-                return hn::TableLookupBytes(hn::Load(hn::FixedTag<std::uint8_t, 16>(), entries + 16 * i), low);
-        };
-        const auto bit = [&](int b) HWY_ATTR {
-            const auto one = hn::Set(d, static_cast<std::uint8_t>(1 << b));
-            return hn::Eq(hn::And(source, one), one);
-        };
-        const auto bit4 = bit(4), bit5 = bit(5), bit6 = bit(6), bit7 = bit(7);
-        const auto two = [&](int i) HWY_ATTR { return hn::IfThenElse(bit4, sixteen(i + 1), sixteen(i)); };
-        const auto four = [&](int i) HWY_ATTR { return hn::IfThenElse(bit5, two(i + 2), two(i)); };
-        const auto eight = [&](int i) HWY_ATTR { return hn::IfThenElse(bit6, four(i + 4), four(i)); };
-        return withFourthOf(d, source, hn::IfThenElse(bit7, eight(8), eight(0)));
+        return withFourthOf(d, source, lookedUp(d, source, rows));
+    });
+}
+
+/// Passes each channel's excess on until all are bytes; bytes stay as they are. Lanes of 32 or 64 bits.
+template <class D, class V> HWY_INLINE void balance(D d, V& b, V& g, V& r)
+{
+    const auto zero = hn::Zero(d), most = hn::Set(d, 255), notByte = hn::Set(d, ~255);
+    const auto pass = [&](V& from, V& one, V& other) HWY_ATTR {
+        const auto limited = hn::Min(hn::Max(from, zero), most);
+        const auto excess = hn::Sub(from, limited);
+        const auto half = hn::ShiftRight<1>(hn::Add(excess, hn::And(hn::Set(d, 1), hn::BroadcastSignBit(excess))));
+        from = limited;
+        one = hn::Add(one, half);
+        other = hn::Add(other, half);
+    };
+    while (!hn::AllTrue(d, hn::Eq(hn::And(hn::Or(hn::Or(b, g), r), notByte), zero))) {
+        const auto brightest = hn::Max(hn::Max(b, g), r), darkest = hn::Min(hn::Min(b, g), r);
+        const auto black = hn::Lt(brightest, hn::Set(d, 1)), white = hn::Gt(darkest, hn::Set(d, 254));
+        for (V* v : {&b, &g, &r}) *v = hn::IfThenElse(white, most, hn::IfThenZeroElse(black, *v));
+        pass(b, g, r);
+        pass(g, r, b);
+        pass(r, b, g);
+    }
+}
+
+void stretch(const SpanOf& s, const StretchTable& to)
+{
+    const TableRows limited(to.limited.data());
+    forPixels<std::uint8_t>(s, [&](auto d, int x) VELARA_INLINED {
+        const hn::Repartition<std::int32_t, decltype(d)> d32;
+        const auto source = loadBytes(d, s.from + x);
+        const auto result = withFourthOf(d, source, lookedUp(d, source, limited));
+        const auto above = hn::Sub(source, hn::Set(d, to.low)); // low, in bytes that wrap around
+        const auto within = hn::Eq(hn::Min(above, hn::Set(d, static_cast<std::uint8_t>(to.high - to.low))), above);
+        const auto colour = hn::Set(d32, 0xFFFFFF);
+        const auto leaves = hn::Ne(hn::AndNot(hn::BitCast(d32, hn::VecFromMask(d, within)), colour), hn::Zero(d32));
+        if (HWY_LIKELY(hn::AllFalse(d32, leaves))) return result;
+        if (to.isWide)
+            return redone(d, result, leaves, [&](int i) {
+                const hn::CappedTag<std::int64_t, 1> one;
+                Pixel p = s.from[x + i];
+                auto b = hn::Set(one, to.entries[p.c[0]]), g = hn::Set(one, to.entries[p.c[1]]),
+                     r = hn::Set(one, to.entries[p.c[2]]);
+                balance(one, b, g, r);
+                for (int c = 0; c < 3; ++c)
+                    p.c[c] = static_cast<std::uint8_t>(hn::GetLane(c == 0 ? b : c == 1 ? g : r));
+                return p;
+            });
+        const auto v = hn::BitCast(d32, source);
+        auto b = hn::GatherIndex(d32, to.entries.data(), channel<0>(d32, v)),
+             g = hn::GatherIndex(d32, to.entries.data(), channel<1>(d32, v)),
+             r = hn::GatherIndex(d32, to.entries.data(), channel<2>(d32, v));
+        balance(d32, b, g, r);
+        return withFourthOf(d, source, joined(d, d32, b, g, r));
     });
 }
 
@@ -188,8 +292,8 @@ void copyPast(const Pixel* from, Pixel* to, int n)
 
 const ColourKernels& colourKernelTable()
 {
-    static constexpr ColourKernels kernels = {channels, add,       table,      threshold,   grey,    bySum,
-                                              saturate, byGreySum, brightness, sumOfThirds, copyPast};
+    static constexpr ColourKernels kernels = {channels, add,      table,     stretch,    threshold,   grey,
+                                              bySum,    saturate, byGreySum, brightness, sumOfThirds, copyPast};
     return kernels;
 }
 

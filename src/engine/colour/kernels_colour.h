@@ -1,6 +1,7 @@
 // Vector kernels of the colour filters: channels, sums of channels and grey weights.
 #pragma once
 #include "engine/SpanOf.h"
+#include <array>
 #include <functional>
 
 namespace velara {
@@ -24,12 +25,24 @@ constexpr Weights kGreyWeights{71, 707, 222}, kBrightnessWeights{113, 586, 301};
 
 constexpr std::uint16_t kGreyInDoubt = 256;
 
+/// A table of 256 entries that may leave 0..255, which happens before the entry low and after the entry high alone.
+struct StretchTable {
+    std::array<std::int32_t, 256> entries;
+    std::array<std::uint8_t, 256> limited; // to bytes
+    std::uint8_t low, high;
+    bool isWide; // entries past +-kMostNarrow
+    static constexpr std::int32_t kMostNarrow = 1 << 28;
+};
+
 struct ColourKernels {
     void (*channels)(const SpanOf&, const ChannelMap&);
     /// Adds plus, then subtracts minus, with saturation, byte by byte.
     void (*add)(const SpanOf&, std::uint32_t plus, std::uint32_t minus);
     /// table[c] of each of the three channels, 256 bytes.
     void (*table)(const SpanOf&, const std::uint8_t* table);
+    /// The entries of the three channels. Half of a channel's excess below 0 or above 255 goes to each of the others,
+    /// until all are in range: this preserves the hue longer than clamping.
+    void (*stretch)(const SpanOf&, const StretchTable& table);
     /// Black where c0+c1+c2 <= bound, white elsewhere.
     void (*threshold)(const SpanOf&, int bound);
     /// round(greyOf) in the bytes that keep doesn't cover.

@@ -27,33 +27,46 @@ PixelMask maskOf(const Region& region, const Bits& bits)
     return mask;
 }
 
-/// The widest span of each row of the box.
-class WidestSpans {
+/// The widest span of each row of the box, and the columns from the first to the last.
+class RowSpans {
   public:
-    WidestSpans(const Region& region, const Box& box) : box_(box)
+    RowSpans(const Region& region, const Box& box) : box_(box)
     {
         for (int y = box.ymin; y <= box.ymax; ++y) {
-            Span widest{0, 0};
-            for (const Span s : region.spans(y))
-                if (s.x1 - s.x0 > widest.x1 - widest.x0) widest = s;
-            rows_.push_back(widest);
+            Row row{{0, 0}, {0, 0}};
+            for (const Span s : region.spans(y)) {
+                if (s.x1 - s.x0 > row.widest.x1 - row.widest.x0) row.widest = s;
+                row.all = row.all.x0 < row.all.x1 ? Span{std::min(row.all.x0, s.x0), std::max(row.all.x1, s.x1)} : s;
+            }
+            rows_.push_back(row);
         }
     }
 
     /// True when the region covers all of the part of the rectangle inside the box. False negatives are possible.
     bool cover(const Box& part) const
     {
-        const int x0 = std::max(part.xmin, box_.xmin), x1 = std::min(part.xmax, box_.xmax) + 1;
-        for (int y = std::max(part.ymin, box_.ymin); y <= std::min(part.ymax, box_.ymax); ++y) {
-            const Span widest = rows_[static_cast<std::size_t>(y - box_.ymin)];
-            if (widest.x0 > x0 || widest.x1 < x1) return false;
-        }
-        return true;
+        return all(part, [](const Row& row, int x0, int x1) { return row.widest.x0 <= x0 && row.widest.x1 >= x1; });
+    }
+    /// True when none of the region is in the rectangle. False negatives are possible.
+    bool miss(const Box& part) const
+    {
+        return all(part, [](const Row& row, int x0, int x1) { return row.all.x0 >= x1 || row.all.x1 <= x0; });
     }
 
   private:
+    struct Row {
+        Span widest, all;
+    };
+    template <class Test> bool all(const Box& part, Test test) const
+    {
+        const int x0 = std::max(part.xmin, box_.xmin), x1 = std::min(part.xmax, box_.xmax) + 1;
+        for (int y = std::max(part.ymin, box_.ymin); y <= std::min(part.ymax, box_.ymax); ++y)
+            if (!test(rows_[static_cast<std::size_t>(y - box_.ymin)], x0, x1)) return false;
+        return true;
+    }
+
     const Box box_;
-    std::vector<Span> rows_;
+    std::vector<Row> rows_;
 };
 
 /// The same in plain arithmetic, for ranges of any size and the remainder of a vector.
@@ -87,13 +100,14 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
     const Random random = nextRandom();
     if (box.isEmpty()) return eachSpan(0, copyPixels);
     const bool small = isSmall(HorizontalRange) && isSmall(VerticalRange);
-    const WidestSpans widest(region, box);
-    const PixelMask mask = widest.cover(box) ? PixelMask() : maskOf(region, in);
+    const RowSpans spans(region, box);
+    const PixelMask mask = spans.cover(box) ? PixelMask() : maskOf(region, in);
     const Sources whole{box.xmin, box.xmax + 1, box.ymin, box.ymax + 1, nullptr};
 
     Bits out = Bits::uninitialized(in.width(), in.height());
     copyRows(in, out, -Bits::kMargin, box.ymin);
-    constexpr int reach = Displacement::kMostRange / 2 + 1;
+    const int across = small ? std::abs(HorizontalRange) / 2 + 1 : 0,
+              down = small ? std::abs(VerticalRange) / 2 + 1 : 0;
     const WrittenRows rows(out);
     const auto run = [&](SpanOf span, int y, const Sources& among) {
         const std::uint32_t first = 2 * static_cast<std::uint32_t>(y) * static_cast<std::uint32_t>(in.width());
@@ -104,9 +118,14 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
         Sources among = whole;
         for (int x = among.x0; x < among.x1; x += kBlockColumns) {
             const int end = std::min(x + kBlockColumns, among.x1);
-            const Box reached{x - reach, end + reach, top - reach, bottom + reach};
-            among.mask = mask.words.empty() || (small && widest.cover(reached)) ? nullptr : &mask;
-            for (int y = top; y <= bottom; ++y) run({in.row(y), in.stride(), rows.row(y), x, end}, y, among);
+            const Box reached{x - across, end + across, top - down, bottom + down};
+            const bool missed = small && spans.miss(reached);
+            among.mask = mask.words.empty() || (small && spans.cover(reached)) ? nullptr : &mask;
+            for (int y = top; y <= bottom; ++y)
+                if (missed)
+                    copyPixels(in.row(y), rows.row(y), x, end);
+                else
+                    run({in.row(y), in.stride(), rows.row(y), x, end}, y, among);
         }
         for (int y = top; y <= bottom; ++y) {
             copyPixels(in.row(y), rows.row(y), -Bits::kMargin, among.x0);

@@ -6,6 +6,15 @@
 
 namespace velara {
 
+bool MaskSum::isShort() const
+{
+    constexpr std::int64_t kMostWeight = 128, kMostAdded = 32000; // 255 * 128 < 2^15
+    std::int64_t weight = 0;
+    for (const MaskTap& tap : taps) weight += std::abs(std::int64_t{tap.factor});
+    return divisor != 0 && weight <= kMostWeight &&
+           std::ranges::all_of(add, [](std::int64_t a) { return std::abs(a) <= kMostAdded; });
+}
+
 bool MaskSum::isSmall() const
 {
     constexpr std::int64_t kExactSums = 4'000'000, kMostAdded = 1 << 30; // below 2^22; a sum of both fits into 32 bits

@@ -59,11 +59,12 @@ int diffusePixels(SpanOf s, int y, const Displacement& displacement, const Sourc
     const auto* pixels = reinterpret_cast<const std::int32_t*>(s.from);
     const auto colour = hn::Set(d, 0x00FFFFFF);
     alignas(HWY_MAX_BYTES) std::int32_t indices[kRun], found[kRun];
+    const std::ptrdiff_t firstRead = (std::abs(m.vertical) / 2 + 2) * s.stride;
     int x = s.x0;
     for (int count; (count = std::min(kRun, (s.x1 - x) / n * n)) > 0; x += count) {
         for (int i = 0; i < count; i += n) hn::Store(sourcesOf(x + i), d, indices + i);
-        for (int i = 0; i < count; i += kLinePixels) { // what the second row below will read and write
-            __builtin_prefetch(s.from + 2 * s.stride + x + i);
+        for (int i = 0; i < count; i += kLinePixels) { // what rows below will be the first to read and to write
+            __builtin_prefetch(s.from + firstRead + x + i);
             __builtin_prefetch(s.to + 2 * s.stride + x + i, 1);
         }
         loadWords(pixels, indices, count, found);

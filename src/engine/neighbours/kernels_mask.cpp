@@ -1,4 +1,7 @@
 #include "engine/neighbours/kernels_mask.h"
+#include <algorithm>
+#include <bit>
+#include <cstdlib>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/neighbours/kernels_mask.cpp"
@@ -43,8 +46,50 @@ HWY_INLINE Shorts finished(const Sums& sums, hn::Vec<FloatTag> reciprocal, Ints 
     return hn::Min(hn::Max(v, hn::Zero(ShortTag())), hn::Set(ShortTag(), std::int16_t{255}));
 }
 
+/// Sums that fit into 16 bits: both channels of a lane are multiplied at once, modulo 2^16, and told apart at the end.
+/// The divisor as in ShortDivider, with no bias: the magnitude is divided.
+void shortSums(const SpanOf& s, const MaskSum& sum)
+{
+    const std::vector<MaskTap> taps = sum.taps; // the stores cannot alias them
+    const auto divisor = static_cast<std::uint32_t>(std::min<std::int64_t>(std::abs(sum.divisor), 1 << 15));
+    const int shift = std::bit_width(divisor - 1);
+    const auto multiplier = static_cast<std::uint16_t>(((1u << (15 + shift)) + divisor - 1) / divisor);
+    const auto two = [&](int low, int high) {
+        return (low & 0xFFFF) | static_cast<std::int32_t>(static_cast<std::uint32_t>(high) << 16);
+    };
+    const std::int32_t evenAdd = two(sum.add[0], sum.add[2]), oddAdd = two(sum.add[1], 0);
+    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+        const hn::Repartition<std::int16_t, decltype(d8)> d;
+        const hn::RebindToUnsigned<decltype(d)> du;
+        const hn::Repartition<std::int32_t, decltype(d8)> d32;
+        using V = hn::Vec<decltype(d)>;
+        const Pixel* p = s.from + x;
+        Taps<V> total{hn::Zero(d), hn::Zero(d)};
+        for (const MaskTap& t : taps) {
+            const auto factor = hn::Set(d, static_cast<std::int16_t>(t.factor));
+            const auto v = tap(d, p + t.offset);
+            total = total + Taps<V>{hn::Mul(v.whole, factor), hn::Mul(v.odd, factor)};
+        }
+        const auto flip = hn::Set(d, static_cast<std::int16_t>(sum.divisor < 0 ? -1 : 0));
+        const auto finish = [&](V v, std::int32_t add) HWY_ATTR {
+            const auto twice = hn::BitCast(du, hn::ShiftLeft<1>(hn::Abs(v)));
+            const auto high = hn::MulHigh(twice, hn::Set(du, multiplier));
+            const auto quotient = hn::BitCast(d, hn::ShiftRightSame(high, shift));
+            const auto sign = hn::Xor(hn::BroadcastSignBit(v), flip);
+            return hn::SaturatedAdd(hn::Sub(hn::Xor(quotient, sign), sign), hn::BitCast(d, hn::Set(d32, add)));
+        };
+        const auto sums = total.split();
+        const Halves<V> v{finish(sums.even, evenAdd), finish(sums.odd, oddAdd)};
+        return withFourthOf(d8, loadBytes(d8, p), clampedToBytes(d8, v));
+    });
+}
+
 int maskPixels(SpanOf s, const MaskSum& sum)
 {
+    if (sum.isShort()) {
+        shortSums(s, sum);
+        return s.x1;
+    }
     struct Pair {
         std::ptrdiff_t first, second;
         std::int32_t factors; // 16 bits each

@@ -19,11 +19,14 @@ struct MaskSum {
 
     /// The kernel's limits: the factors fit in 16 bits, the sums and the divisor are exact in a single.
     bool isSmall() const;
+    /// Whether all sums, and what is added, fit into 16 bits. False for the divisor 0.
+    bool isShort() const;
     /// One pixel, any sizes. p points to the pixel.
     Pixel at(const Pixel* p) const;
 };
 
-/// Writes as many pixels of the span as fill whole vectors and returns the first x not written. Requires sum.isSmall().
+/// Writes as many pixels of the span as fill whole vectors, or all where the sums are short, and returns the first x
+/// not written. Requires sum.isSmall().
 int maskPixels(SpanOf s, const MaskSum& sum);
 
 } // namespace velara

@@ -15,31 +15,32 @@ template <class D8> HWY_INLINE void storeAt(D8 d8, hn::Vec<D8> v, Pixel* p)
     hn::StoreU(v, d8, reinterpret_cast<std::uint8_t*>(p));
 }
 
-/// The sum of f(pixel) over the window around p. f returns bytes; the sums are 16 bits wide.
-template <class D8, class F> HWY_INLINE auto windowSum(D8 d8, const Pixel* p, std::ptrdiff_t stride, F f)
+/// The sum of f(pixel) over a window; f returns bytes, the sums are 16 bits wide. pixels(row, column) gives its pixels,
+/// from 0 to 2 each.
+template <class D8, class Pixels, class F> HWY_INLINE auto windowSum(D8, Pixels pixels, F f)
 {
     const hn::Repartition<std::int16_t, D8> d;
     const hn::RebindToUnsigned<decltype(d)> du;
-    const auto at = [&](const Pixel* q) HWY_ATTR {
-        const auto v = hn::BitCast(du, f(loadBytes(d8, q)));
+    const auto at = [&](int row, int column) HWY_ATTR {
+        const auto v = hn::BitCast(du, f(pixels(row, column)));
         return Taps<hn::Vec<decltype(d)>>{hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(v))};
     };
-    const auto three = [&](const Pixel* q) HWY_ATTR { return at(q - 1) + at(q) + at(q + 1); };
-    return (three(p - stride) + three(p) + three(p + stride)).split();
+    const auto three = [&](int row) HWY_ATTR { return at(row, 0) + at(row, 1) + at(row, 2); };
+    return (three(0) + three(1) + three(2)).split();
 }
 
-template <class D8> HWY_INLINE void windowAt(D8 d8, const Pixel* p, std::ptrdiff_t stride, int x, WindowRow& to)
+template <class D8, class Pixels> HWY_INLINE void windowAt(D8 d8, Pixels pixels, int x, WindowRow& to)
 {
     const hn::Repartition<std::int16_t, D8> d;
     const hn::RebindToUnsigned<decltype(d)> du;
     using V = hn::Vec<decltype(d)>;
-    const auto sum = windowSum(d8, p, stride, [](auto v) HWY_ATTR { return v; });
+    const auto sum = windowSum(d8, pixels, [](auto v) HWY_ATTR { return v; });
     const auto mean = each(sum, [&](V v) HWY_ATTR { // 7282 / 2^16 is a ninth, exact for all sums below 2^15
         return hn::BitCast(d, hn::MulHigh(hn::BitCast(du, v), hn::Set(du, std::uint16_t{7282})));
     });
     const auto bytes = joined(d8, mean);
     // The sum above the mean exceeds the sum below it by the remainder of the mean's division.
-    const auto above = windowSum(d8, p, stride, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); });
+    const auto above = windowSum(d8, pixels, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); });
     const auto remainder =
         each(sum, mean, [&](V s, V m) HWY_ATTR { return hn::Sub(s, hn::Add(hn::ShiftLeft<3>(m), m)); });
     const auto distances = each(above, remainder, [](V a, V r) HWY_ATTR { return hn::Sub(hn::Add(a, a), r); });
@@ -48,14 +49,57 @@ template <class D8> HWY_INLINE void windowAt(D8 d8, const Pixel* p, std::ptrdiff
     storeAt(d8, hn::BitCast(d8, distances.odd), to.odd() + x);
 }
 
+#if HWY_TARGET == HWY_AVX3_DL
+
+/// Whole vectors of windows, each row of pixels loaded once: most loads would cross a cache line. Returns the first x
+/// not done.
+int slide(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& to)
+{
+    const hn::ScalableTag<std::uint8_t> d8;
+    using V = hn::Vec<decltype(d8)>;
+    constexpr int n = 16;
+    const auto load = [&](int row, int x) HWY_ATTR { return loadBytes(d8, from + (row - 1) * stride + x); };
+    int x = x0;
+    if (x + 2 * n > x1 + 1) return x; // the vector after the last one would be outside
+    V left[3], here[3];
+    for (int row = 0; row < 3; ++row) {
+        here[row] = load(row, x);
+        left[row] = V{_mm512_maskz_loadu_epi32(0x8000, from + (row - 1) * stride + x - n)};
+    }
+    for (; x + 2 * n <= x1 + 1; x += n) {
+        const V right[3] = {load(0, x + n), load(1, x + n), load(2, x + n)};
+        const auto pixels = [&](int row, int column) HWY_ATTR {
+            return column == 0   ? V{_mm512_alignr_epi32(here[row].raw, left[row].raw, n - 1)}
+                   : column == 1 ? here[row]
+                                 : V{_mm512_alignr_epi32(right[row].raw, here[row].raw, 1)};
+        };
+        windowAt(d8, pixels, x, to);
+        __builtin_prefetch(from + 2 * stride + x); // of the next row of windows
+        for (int row = 0; row < 3; ++row) left[row] = here[row], here[row] = right[row];
+    }
+    return x;
+}
+
+#else
+
+int slide(const Pixel*, std::ptrdiff_t, int x0, int, WindowRow&) { return x0; }
+
+#endif
+
 void windows(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& to)
 {
     const hn::ScalableTag<std::uint8_t> many;
     const hn::CappedTag<std::uint8_t, 4> one;
     const int n = static_cast<int>(hn::Lanes(many)) / 4;
-    int x = x0;
-    for (; x + n <= x1; x += n) windowAt(many, from + x, stride, x, to);
-    for (; x < x1; ++x) windowAt(one, from + x, stride, x, to);
+    const auto at = [&](auto d8, int x) HWY_ATTR {
+        const auto pixels = [&](int row, int column)
+                                HWY_ATTR { return loadBytes(d8, from + (row - 1) * stride + x + column - 1); };
+        windowAt(d8, pixels, x, to);
+        __builtin_prefetch(from + 2 * stride + x);
+    };
+    int x = slide(from, stride, x0, x1, to);
+    for (; x + n <= x1; x += n) at(many, x);
+    for (; x < x1; ++x) at(one, x);
 }
 
 void choose(SpanOf s, const WindowRow& above, const WindowRow& below, bool four)

@@ -10,19 +10,24 @@ namespace velara {
 class WindowRow {
   public:
     explicit WindowRow(int width)
-        : means_(static_cast<std::size_t>(width) + 2), even_(means_.size()), odd_(means_.size())
+        : means_((static_cast<std::size_t>(width) + 2 + kLine - 1) / kLine), even_(means_.size()), odd_(means_.size())
     {
     }
     // Pointers to x = 0: the means as pixels, the distances as pairs of 16 bits (blue and red, green and fourth byte).
-    Pixel* means() { return means_.data() + 1; }
-    Pixel* even() { return even_.data() + 1; }
-    Pixel* odd() { return odd_.data() + 1; }
-    const Pixel* means() const { return means_.data() + 1; }
-    const Pixel* even() const { return even_.data() + 1; }
-    const Pixel* odd() const { return odd_.data() + 1; }
+    Pixel* means() { return means_.data()->pixels + 1; }
+    Pixel* even() { return even_.data()->pixels + 1; }
+    Pixel* odd() { return odd_.data()->pixels + 1; }
+    const Pixel* means() const { return means_.data()->pixels + 1; }
+    const Pixel* even() const { return even_.data()->pixels + 1; }
+    const Pixel* odd() const { return odd_.data()->pixels + 1; }
 
   private:
-    std::vector<Pixel> means_, even_, odd_;
+    static constexpr std::size_t kLine = 16;
+    /// So that vectors from x = -1 on are whole cache lines.
+    struct alignas(64) Line {
+        Pixel pixels[kLine];
+    };
+    std::vector<Line> means_, even_, odd_;
 };
 
 struct QuadrantKernels {

@@ -26,8 +26,9 @@ TEST(ColourFilters, WorkedExamples)
         Arguments arguments;
         Pixel before, after; // of a picture of this single colour: blue, green, red, fourth
     } rows[] = {
-        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}}, // blue is 60 too low: both others lose 30
-        {"SATURATION", {50}, {{10, 19, 31, 9}}, {{5, 18, 36, 9}}}, // 5, 18.5, 36.5
+        {"CONTRAST", {100}, {{0, 60, 120, 9}}, {{0, 30, 150, 9}}},       // blue is 60 too low: both others lose 30
+        {"CONTRAST", {1000000000}, {{0, 60, 120, 9}}, {{0, 6, 171, 9}}}, // from 60 and 600000000 to both sides
+        {"SATURATION", {50}, {{10, 19, 31, 9}}, {{5, 18, 36, 9}}},       // 5, 18.5, 36.5
         {"GammaCorrection", {-100}, {{1, 100, 255, 9}}, {{0, 0, 0, 9}}},
         {"COLORIZE", {2.0, 1.0, 0.5}, {{255, 255, 255, 9}}, {{0, 255, 0, 9}}},
         {"GreyScale", {}, {{10, 20, 30, 9}}, {{22, 22, 22, 9}}}, // 21.51

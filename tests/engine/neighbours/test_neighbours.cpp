@@ -58,5 +58,49 @@ TEST(ShortDivider, IsTheFloorOfTheQuotient)
     EXPECT_EQ(ShortDivider(INT64_MAX)(-1), -1);
 }
 
+// Masks whose sums just fit into 16 bits, and those that don't: of a flat picture, the quotient toward zero.
+TEST(Neighbours, MasksAtTheLimitOfShortSums)
+{
+    const struct {
+        int factor; // of each of two pixels
+        double divisor;
+        int added, wanted;
+    } rows[] = {{64, 128, 0, 255},  {64, 129, 0, 253},    {64, 32640, 7, 8},   {64, 32641, 7, 7},
+                {64, 40000, 7, 7},  {64, 1, -32000, 255}, {-64, 128, 300, 45}, {-64, -129, 0, 253},
+                {65, 130, 0, 255},  {64, 1, -32640, 0},   {64, 1, -32639, 1},  {-64, 1, 32641, 1},
+                {-64, 129, 255, 2}, {100, 200, -255, 0},  {-64, 32640, 8, 7},  {64, -1, 32767, 127}};
+    for (const auto& [factor, divisor, added, wanted] : rows) {
+        const std::string half = "0 " + std::to_string(factor), mask = half + " 0/0 0 0/" + half + " 0";
+        const Bits out = run("MaskFilter", {mask, divisor, added, added, added, false}, flatBits(40, 3, 255, 255, 255),
+                             Region::rectangle(0, 0, 40, 3));
+        for (const int x : {0, 21, 39})
+            EXPECT_EQ(out.at(x, 1).c[1], wanted) << factor << ' ' << divisor << ' ' << added;
+    }
+}
+
+// Two parts far from each other: blocks of pixels between them have no source, those beside them few.
+TEST(Neighbours, DiffuseTakesFromTheSelectionAlone)
+{
+    const Bits bits = drawnBits(620, 210, [](int x, int y) {
+        const int place = x + 620 * y;
+        return Pixel{{std::uint8_t(place), std::uint8_t(place >> 8), std::uint8_t(place >> 16), 0}};
+    });
+    const Region all = Region::rectangle(3, 2, 600, 208),
+                 parts = Region::rectangle(3, 2, 140, 40).combined(Region::rectangle(389, 150, 600, 208), Combine::Or);
+    for (const Arguments& ranges : {Arguments{9, 21}, Arguments{-30, 5}, Arguments{127, 127}}) {
+        const Bits free = run("DIFFUSE", ranges, bits, all), kept = run("DIFFUSE", ranges, bits, parts);
+        int moved = 0;
+        for (int y = 0; y < bits.height(); ++y)
+            for (int x = 0; x < bits.width(); ++x) {
+                const Pixel source = free.at(x, y); // its colour is its place
+                const int place = source.c[0] | source.c[1] << 8 | source.c[2] << 16;
+                const bool isSelected = parts.contains(place % 620, place / 620);
+                ASSERT_EQ(isSelected ? source : bits.at(x, y), kept.at(x, y)) << x << ',' << y;
+                moved += isSelected && place != x + 620 * y;
+            }
+        EXPECT_GT(moved, 5000);
+    }
+}
+
 } // namespace
 } // namespace velara

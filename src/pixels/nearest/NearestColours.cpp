@@ -1,4 +1,4 @@
-#include "pixels/NearestColours.h"
+#include "pixels/nearest/NearestColours.h"
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -44,61 +44,38 @@ void NearestColours::tellGreysBySum()
                          })->entry);
 }
 
+namespace {
+
+/// Calls vectors(begin, n) for runs of n pixels, and single(i) for those of them that it doesn't tell as done.
+template <class Vectors, class Single> void inRuns(int count, Vectors vectors, Single single)
+{
+    constexpr int kRun = 64;
+    for (int begin = 0; begin < count; begin += kRun) {
+        const int n = std::min(kRun, count - begin);
+        for (std::uint64_t left = ~vectors(begin, n) & ~std::uint64_t{0} >> (kRun - n); left != 0; left &= left - 1)
+            single(begin + std::countr_zero(left));
+    }
+}
+
+} // namespace
+
 void NearestColours::colour(const Pixel* from, Pixel* to, int count)
 {
-    int done = 0;
-    const auto one = [&] {
-        const std::uint8_t fourth = from[done].c[3];
-        to[done] = colours_[std::size_t((*this)(from[done]))];
-        to[done++].c[3] = fourth;
-    };
-    while (done + 4 <= count) {
-        Register nearest;
-        const Register four = fourOf(from + done);
-        if (fourFew(four, nearest)) [[likely]] {
-            put(withFourth(nearest, four), to + done);
-            done += 4;
-        } else
-            for (int i = 0; i < 4; ++i) one();
-    }
-    while (done < count) one();
+    const bool squares = distance_ == Distance::Squares;
+    inRuns(
+        count, [&](int i, int n) { return nearestKernels().colours(from + i, n, cubes_.data(), squares, to + i); },
+        [&](int i) {
+            to[i] = colours_[std::size_t((*this)(from[i]))];
+            to[i].c[3] = from[i].c[3];
+        });
 }
 
 void NearestColours::entries(const Pixel* from, std::uint8_t* to, int count)
 {
-    int done = 0;
-    const auto one = [&] {
-        to[done] = static_cast<std::uint8_t>((*this)(from[done]));
-        ++done;
-    };
-    while (done + 4 <= count) {
-        Register nearest;
-        if (fourFew(fourOf(from + done), nearest)) [[likely]] {
-            const Pixel four = narrowLimited(std::bit_cast<Lanes>(entriesOf(nearest)));
-            std::memcpy(to + done, &four, sizeof four);
-            done += 4;
-        } else
-            for (int i = 0; i < 4; ++i) one();
-    }
-    while (done < count) one();
-}
-
-bool NearestColours::fourFew(Register pixels, Register& nearest) const
-{
-    std::array<std::uint32_t, 4> cubes;
-    put(cubesOf(pixels), cubes.data());
-    Register candidates[kFew];
-    for (std::size_t i = 0; i < kFew; ++i) candidates[i] = std::bit_cast<Register>(cubes_[cubes[i]]);
-    transpose(candidates);
-    if (anyGreater(entriesOf(candidates[0]), entriesOf(candidates[kFew - 1]))) return false;
-    nearest = candidates[0];
-    Register least = distances(nearest, pixels);
-    for (int i = 1; i < kFew; ++i) {
-        const Register distance = distances(candidates[i], pixels);
-        nearest = whereGreater(least, distance, nearest, candidates[i]);
-        least = lesser(least, distance);
-    }
-    return true;
+    const bool squares = distance_ == Distance::Squares;
+    inRuns(
+        count, [&](int i, int n) { return nearestKernels().entries(from + i, n, cubes_.data(), squares, to + i); },
+        [&](int i) { to[i] = static_cast<std::uint8_t>((*this)(from[i])); });
 }
 
 /// The candidates that can be nearest to a colour of the cube, in palette order; slightly more for very large palettes.

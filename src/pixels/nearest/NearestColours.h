@@ -3,6 +3,7 @@
 // cache. Cubes are filled when first used.
 #pragma once
 #include "pixels/Register.h"
+#include "pixels/nearest/kernels_nearest.h"
 #include <array>
 #include <deque>
 #include <vector>
@@ -36,13 +37,12 @@ class NearestColours {
     void entries(const Pixel* from, std::uint8_t* to, int count);
 
   private:
-    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside, kFew = 4;
+    static constexpr int kInside = 3, kOutside = 8 - kInside, kSide = 1 << kInside;
+    static constexpr std::size_t kFew = NearestCube::kFew;
 
-    /// Candidate colours with their indices as fourth bytes, ascending, the last one repeated to fill up. Indices out
-    /// of order mark a cube that is crowded or not filled yet; its first colour is then a number, see kUnknown.
-    struct alignas(16) Cube {
-        std::array<Pixel, kFew> colours;
-
+    /// The last candidate is repeated to fill up. A cube without any is crowded or not filled yet; its first colour is
+    /// then a number, see kUnknown.
+    struct Cube : NearestCube {
         bool hasFew() const { return colours[0].c[3] <= colours[kFew - 1].c[3]; }
         std::uint32_t number() const { return std::bit_cast<std::uint32_t>(colours[0]) & 0xFFFFFF; }
     };
@@ -55,7 +55,7 @@ class NearestColours {
     using Candidates = std::vector<Candidate>;
 
     static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of a cube that is not filled yet
-    static Cube numbered(std::uint32_t number) { return {{std::bit_cast<Pixel>(number | 1 << 24)}}; }
+    static Cube numbered(std::uint32_t number) { return {{{std::bit_cast<Pixel>(number | 1 << 24)}}}; }
 
     /// Cube numbers of four pixels.
     static Register cubesOf(Register pixels) { return fiveBitsOf(pixels); }
@@ -71,9 +71,6 @@ class NearestColours {
         return distance_ == Distance::Sum ? sumsOf(off) : squaresOf(off);
     }
 
-    /// The candidates nearest to four pixels, with their indices as fourth bytes. False unless all of these are in
-    /// cubes with few candidates.
-    bool fourFew(Register pixels, Register& nearest) const;
     int lookCloser(Pixel p);
     Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
     Cube lookInto(std::array<int, 3> low);
