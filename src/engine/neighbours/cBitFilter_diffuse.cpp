@@ -27,16 +27,17 @@ PixelMask maskOf(const Region& region, const Bits& bits)
     return mask;
 }
 
-/// The widest span of each row of the box.
+/// The widest span of each row of the box, and from the first to the last one.
 class WidestSpans {
   public:
     WidestSpans(const Region& region, const Box& box) : box_(box)
     {
         for (int y = box.ymin; y <= box.ymax; ++y) {
             Span widest{0, 0};
-            for (const Span s : region.spans(y))
+            const auto spans = region.spans(y);
+            for (const Span s : spans)
                 if (s.x1 - s.x0 > widest.x1 - widest.x0) widest = s;
-            rows_.push_back(widest);
+            rows_.push_back({widest, spans.empty() ? widest : Span{spans.front().x0, spans.back().x1}});
         }
     }
 
@@ -44,16 +45,26 @@ class WidestSpans {
     bool cover(const Box& part) const
     {
         const int x0 = std::max(part.xmin, box_.xmin), x1 = std::min(part.xmax, box_.xmax) + 1;
-        for (int y = std::max(part.ymin, box_.ymin); y <= std::min(part.ymax, box_.ymax); ++y) {
-            const Span widest = rows_[static_cast<std::size_t>(y - box_.ymin)];
-            if (widest.x0 > x0 || widest.x1 < x1) return false;
-        }
-        return true;
+        return all(part, [=](const Row& row) { return row.widest.x0 <= x0 && row.widest.x1 >= x1; });
+    }
+    /// True when the region has nothing of the rectangle. False negatives are possible.
+    bool miss(const Box& part) const
+    {
+        return all(part, [&](const Row& row) { return row.extent.x1 <= part.xmin || row.extent.x0 > part.xmax; });
     }
 
   private:
+    struct Row {
+        Span widest, extent;
+    };
+    template <class Holds> bool all(const Box& part, Holds holds) const
+    {
+        const int y0 = std::max(part.ymin, box_.ymin), y1 = std::min(part.ymax, box_.ymax);
+        return std::all_of(rows_.begin() + (y0 - box_.ymin), rows_.begin() + (y1 + 1 - box_.ymin), holds);
+    }
+
     const Box box_;
-    std::vector<Span> rows_;
+    std::vector<Row> rows_;
 };
 
 /// The same in plain arithmetic, for ranges of any size and the remainder of a vector.
@@ -105,6 +116,10 @@ Bits cBitFilter::DIFFUSE(int HorizontalRange, int VerticalRange)
         for (int x = among.x0; x < among.x1; x += kBlockColumns) {
             const int end = std::min(x + kBlockColumns, among.x1);
             const Box reached{x - reach, end + reach, top - reach, bottom + reach};
+            if (small && widest.miss(reached)) { // all stay
+                for (int y = top; y <= bottom; ++y) copyPixels(in.row(y), rows.row(y), x, end);
+                continue;
+            }
             among.mask = mask.words.empty() || (small && widest.cover(reached)) ? nullptr : &mask;
             for (int y = top; y <= bottom; ++y) run({in.row(y), in.stride(), rows.row(y), x, end}, y, among);
         }
