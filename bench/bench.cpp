@@ -91,8 +91,9 @@ Row bounded(Bound bound, Row row)
     return row;
 }
 
-Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments)
+Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments, Tested tested)
 {
+    const double share = tested == Tested::Target ? std::acos(-1.0) / 4 : 1;
     return {family,
             written(name, arguments) + " in an ellipse",
             must,
@@ -100,10 +101,12 @@ Row inEllipse(std::string family, double must, double goal, std::string name, Ar
             [=](Size size) {
                 const Bits& bits = picture(size);
                 return Timing{calling(name, arguments, bits, Region::ellipse(0, 0, size.width + 1, size.height + 1)),
-                              calling(name, arguments, bits, everything(size)), std::acos(-1.0) / 4};
+                              calling(name, arguments, bits, everything(size)), share};
             },
             "whole picture a pixel",
-            name};
+            name,
+            {},
+            1 - share};
 }
 
 } // namespace velara::bench

@@ -36,6 +36,7 @@ struct Row {
     std::string unit = "memcpy"; // the figure's unit; "ms" is absolute, without a reference
     std::string operation = {};  // of the engine's table, if the row measures one
     Bound bound = {};
+    double copied = 0; // the part of the picture that is copied beside what must and goal speak of
 };
 
 std::vector<Row>& rows();
@@ -51,8 +52,13 @@ enum class Selected { All, Ellipse };
 
 /// An operation on the whole picture, relative to memcpy. Result buffers are recycled as in the program.
 Row operation(std::string family, double must, double goal, std::string name, Arguments arguments);
-/// The same within an ellipse of one band per row, relative to the whole picture's time per pixel.
-Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments);
+/// Where a selection is looked up: at the pixels that are written, or at those that they are taken from, which may be
+/// for any pixel of the box.
+enum class Tested { Target, Source };
+/// The same within an ellipse of one band per row, relative to the whole picture's time per pixel that is computed: of
+/// the ellipse, or of the box. Goals are for these; the copies of the others are added.
+Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments,
+              Tested tested = Tested::Target);
 
 /// The row with its bound.
 Row bounded(Bound bound, Row row);

@@ -29,9 +29,9 @@ const Rows rows{ // family, must, goal, operation, arguments
     operation("trigonometric",   35, 13,   "BEND",         {0, true}),
     onDisc("trigonometric",      35, 13,   "LENS",         {0.5, 0.5, 0.33, 50}, 0.291), // pixels inside, of all
     operation("bilinear warp",   35, 15,   "RotateSmooth", {30}),
-    inEllipse("selection shape", 1.5, 1.1, "ROTATE",       {30, true}),
-    inEllipse("selection shape", 1.5, 1.1, "TWIRL",        {20, 0, true}),
-    inEllipse("selection shape", 1.5, 1.1, "STRETCH",      {50, 50, true}),
+    inEllipse("selection shape", 1.5, 1.1, "ROTATE",       {30, true}, Tested::Source),
+    inEllipse("selection shape", 1.5, 1.1, "TWIRL",        {20, 0, true}, Tested::Source),
+    inEllipse("selection shape", 1.5, 1.1, "STRETCH",      {50, 50, true}, Tested::Source),
 };
 // clang-format on
 

@@ -27,7 +27,7 @@ const Rows rows{
     operation("random",      25.0, 8.0, "DIFFUSE",      {10, 30}),
     inEllipse("selection shape", 1.5, 1.1, "SHARPEN",   {10}),
     inEllipse("selection shape", 1.5, 1.1, "DILATE",    {}),
-    inEllipse("selection shape", 1.5, 1.1, "DIFFUSE",   {5, 10}),
+    inEllipse("selection shape", 1.5, 1.1, "DIFFUSE",   {5, 10}, Tested::Source),
 };
 // clang-format on
 

@@ -24,7 +24,7 @@ mkdir "$stage/debian"
 printf 'Source: velara-studio\n\nPackage: velara-studio\nArchitecture: any\n' >"$stage/debian/control"
 needs=$( (cd "$stage" && dpkg-shlibdeps -O "$name"/velara-* 2>/dev/null) | sed -n 's/^shlibs:Depends=//p' | sed 's/ ([^)]*)//g; s/,//g')
 [ -n "$needs" ] || { echo "dpkg-shlibdeps finds no libraries" >&2; exit 1; }
-echo "sudo apt install breeze-icon-theme fonts-urw-base35 qt6-translations-l10n $needs" | fold -s -w 118 | sed 's/^/  /; $!s/$/\\/' >"$stage/needs"
+echo "sudo apt install breeze-icon-theme fonts-urw-base35 libcups2 qt6-translations-l10n $needs" | fold -s -w 118 | sed 's/^/  /; $!s/$/\\/' >"$stage/needs"
 sed -e "/@PACKAGES@/{r $stage/needs" -e 'd}' packaging/README.portable >"$folder/README"
 install -m 644 /dev/null "$folder/portable"
 mkdir "$folder/man" "$folder/completions"

@@ -1,8 +1,12 @@
-// velara-start [--runs N] [--until RRGGBB] PROGRAM [ARGUMENT]... [-- PROGRAM [ARGUMENT]...]...: starts the programs
-// alternately on the display and prints for each, in milliseconds, the medians until its first window is shown, until
-// its frame is painted (the first window of at least 600 by 400 pixels), how long the first thread of the frame's
-// process has run for by then, and until that colour is in the frame, by which a picture is known: a file that
-// the program is given should be of that one colour. Last is the shortest time to the frame.
+// velara-start [--runs N] [--until RRGGBB] [--cold yes] PROGRAM [ARGUMENT]... [-- PROGRAM [ARGUMENT]...]...: starts the
+// programs alternately on the display and prints for each, in milliseconds, the medians until its first window is
+// shown, until its frame is painted (the first window of at least 600 by 400 pixels), how long the first thread of the
+// frame's process has run for by then, how many megabytes the process has had read from the disk by then, and until
+// that colour is in the frame, by which a picture is known: a file that the program is given should be of that one
+// colour. Last is the shortest time to the frame.
+//
+// With --cold nothing that a start reads is in memory before it: root drops all that the system keeps of files, others
+// the files that the program had mapped at its last start, but for those that other programs have mapped, too.
 //
 // For a display without anything else on it. The owner of the frame is ended by SIGTERM; where it has files of its own,
 // they should be in a folder that the caller has made for it.
@@ -13,7 +17,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
+#include <fstream>
 #include <optional>
+#include <set>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -108,8 +115,49 @@ pid_t ownerOf(xcb_window_t window)
     return static_cast<pid_t>(process);
 }
 
+/// Megabytes that a process has had read from the disk; 0 where the system doesn't say.
+double megabytesRead(pid_t process)
+{
+    std::ifstream figures("/proc/" + std::to_string(process) + "/io");
+    const std::string name = "read_bytes:";
+    for (std::string word; figures >> word;)
+        if (word == name && figures >> word) return std::stod(word) / 1e6;
+    return 0;
+}
+
+/// What keeps starts cold.
+class Cold {
+  public:
+    /// False for one who isn't root.
+    static bool dropAll()
+    {
+        sync();
+        return static_cast<bool>(std::ofstream("/proc/sys/vm/drop_caches") << "3" << std::flush);
+    }
+    /// Notes the files that a process has mapped.
+    void learn(pid_t process)
+    {
+        std::ifstream maps("/proc/" + std::to_string(process) + "/maps");
+        for (std::string line; std::getline(maps, line);)
+            if (const auto at = line.find('/'); at != std::string::npos) files_.insert(line.substr(at));
+    }
+    void dropThem() const
+    {
+        for (const std::string& path : files_) {
+            const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+            if (file < 0) continue;
+            posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED);
+            close(file);
+        }
+    }
+    std::size_t count() const { return files_.size(); }
+
+  private:
+    std::set<std::string> files_;
+};
+
 struct Times {
-    std::vector<double> window, frame, busy, picture;
+    std::vector<double> window, frame, busy, read, picture;
 };
 
 /// Ends the frame's process, and waits until nothing is shown any more.
@@ -127,7 +175,7 @@ void end(pid_t owner)
 }
 
 /// One start of a program.
-void run(char** program, int until, Times& times)
+void run(char** program, int until, Times& times, Cold& cold)
 {
     const auto start = Clock::now();
     const pid_t child = fork();
@@ -137,7 +185,7 @@ void run(char** program, int until, Times& times)
         _exit(127);
     }
     std::optional<double> window, frame, picture;
-    double ran = 0;
+    double ran = 0, read = 0;
     pid_t owner = 0;
     while (!frame || (until >= 0 && !picture)) {
         std::vector<Window> all;
@@ -149,6 +197,7 @@ void run(char** program, int until, Times& times)
                 frame = since(start);
                 owner = ownerOf(each.id);
                 ran = busy(owner);
+                read = megabytesRead(owner);
             }
             if (until >= 0 && !picture && shows(each, until)) picture = since(start);
         }
@@ -161,6 +210,8 @@ void run(char** program, int until, Times& times)
     times.window.push_back(*window);
     times.frame.push_back(*frame);
     times.busy.push_back(ran);
+    times.read.push_back(read);
+    cold.learn(owner);
     if (picture) times.picture.push_back(*picture);
     if (owner != child) waitpid(child, nullptr, 0); // it starts the editor, and would do so again without an answer
     end(owner);
@@ -182,10 +233,12 @@ std::string median(std::vector<double> values)
 int main(int argc, char** argv)
 {
     int runs = 9, until = -1, next = 1;
+    bool isCold = false;
     for (; next + 1 < argc && std::strncmp(argv[next], "--", 2) == 0; next += 2) {
         const std::string word = argv[next];
         if (word == "--runs") runs = std::max(1, std::atoi(argv[next + 1]));
         if (word == "--until") until = int(std::strtol(argv[next + 1], nullptr, 16));
+        if (word == "--cold") isCold = std::strcmp(argv[next + 1], "yes") == 0;
     }
     std::vector<char**> programs;
     for (bool begins = true; next < argc; ++next) {
@@ -200,12 +253,25 @@ int main(int argc, char** argv)
     }
     root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
     std::vector<Times> times(programs.size());
+    std::vector<Cold> cold(programs.size());
+    bool dropsAll = isCold && Cold::dropAll();
+    for (std::size_t p = 0; p < programs.size() && isCold && !dropsAll; ++p) { // to know the files
+        Times warm;
+        run(programs[p], until, warm, cold[p]);
+    }
     for (int i = 0; i < runs; ++i)
-        for (std::size_t p = 0; p < programs.size(); ++p) run(programs[p], until, times[p]);
-    std::printf("%8s %8s %8s %8s %8s  of %d starts\n", "window", "frame", "busy", "picture", "least", runs);
+        for (std::size_t p = 0; p < programs.size(); ++p) {
+            if (isCold && !dropsAll) cold[p].dropThem();
+            if (dropsAll) dropsAll = Cold::dropAll();
+            run(programs[p], until, times[p], cold[p]);
+        }
+    if (isCold && !dropsAll) std::printf("cold but for what isn't mapped, or is by other programs; ");
+    std::printf("%s\n", !isCold ? "warm" : dropsAll ? "cold" : (std::to_string(cold[0].count()) + " files").c_str());
+    std::printf("%8s %8s %8s %8s %8s %8s  of %d starts\n", "window", "frame", "busy", "MB read", "picture", "least",
+                runs);
     for (std::size_t p = 0; p < programs.size(); ++p)
-        std::printf("%8s %8s %8s %8s %8.0f  %s\n", median(times[p].window).c_str(), median(times[p].frame).c_str(),
-                    median(times[p].busy).c_str(), median(times[p].picture).c_str(),
+        std::printf("%8s %8s %8s %8s %8s %8.0f  %s\n", median(times[p].window).c_str(), median(times[p].frame).c_str(),
+                    median(times[p].busy).c_str(), median(times[p].read).c_str(), median(times[p].picture).c_str(),
                     *std::ranges::min_element(times[p].frame), programs[p][0]);
     xcb_disconnect(display);
     return 0;

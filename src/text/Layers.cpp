@@ -150,10 +150,16 @@ void Layers::print(Entry& entry)
     Bits drawn(part.width(), part.height());
     for (int y = 0; y < part.height(); ++y) {
         const Pixel* from = canvas_.row(part.top + y) + part.left;
-        for (int x = 0; x < part.width(); ++x) {
-            const bool within = outline.contains(part.left + x, part.top + y);
-            drawn.row(y)[x] = {{from[x].c[0], from[x].c[1], from[x].c[2], std::uint8_t(within ? 255 : 0)}};
-        }
+        const bool within = y >= outline.top - part.top && y < outline.bottom - part.top;
+        const int x0 = within ? outline.left - part.left : part.width(), x1 = within ? outline.right - part.left : x0;
+        const auto take = [&](int begin, int end, std::uint8_t fourth) {
+            std::transform(from + begin, from + end, drawn.row(y) + begin, [=](Pixel p) {
+                return Pixel{{p.c[0], p.c[1], p.c[2], fourth}};
+            });
+        };
+        take(0, x0, 0);
+        take(x0, x1, 255);
+        take(x1, part.width(), 0);
     }
     for (std::size_t i = 0; i < entry.lines.size(); ++i) {
         const int top = place.top + static_cast<int>(i) * entry.lineHeight;
@@ -163,9 +169,12 @@ void Layers::print(Entry& entry)
     }
     entry.visible = covered(drawn, part).united(outline);
     entry.surface = Bits(entry.visible.width(), entry.visible.height());
-    for (int y = 0; y < entry.surface.height(); ++y)
-        std::copy_n(drawn.row(entry.visible.top - part.top + y) + entry.visible.left - part.left, entry.surface.width(),
-                    entry.surface.row(y));
+    for (int y = 0; y < entry.surface.height(); ++y) {
+        const Pixel* from = drawn.row(entry.visible.top - part.top + y) + entry.visible.left - part.left;
+        std::transform(from, from + entry.surface.width(), entry.surface.row(y), [](Pixel p) {
+            return p.c[3] ? Pixel{{p.c[0], p.c[1], p.c[2], 255}} : Pixel{};
+        });
+    }
 }
 
 Layers::State Layers::state() const

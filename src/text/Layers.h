@@ -51,7 +51,7 @@ class Layers {
     RunSize extentOf(const QString& text, const TextStyle& style, int width) const;
 
     /// What the layer shows, and that part's rectangle in the picture; empty when its place lies outside. Fourth bytes
-    /// are 255 within its place and where ink extends beyond it, otherwise 0.
+    /// are 255 within its place and where ink extends beyond it, otherwise all four are 0.
     const Bits& surface(int index) const { return layers_.at(index).surface; }
     Rect visible(int index) const { return layers_.at(index).visible; }
 

@@ -28,11 +28,18 @@ class TileSums {
     /// None: nothing is known.
     TileSums() = default;
     TileSums(const Bits& bits, int side);
+    /// To be made by the calls below, always with the same block of that grid.
+    explicit TileSums(const TileGrid& grid) : grid_(grid), sums_(grid.count()) {}
+    /// Goes on by a few rows of tiles, on all cores. False when there are none left.
+    bool addSome(const Bits& bits);
+    /// Goes on to the row of pixels that has the byte before end, on this thread, or stays where it is.
+    void addUpTo(const Bits& bits, std::size_t end);
 
     const TileGrid& grid() const { return grid_; }
     /// One for the whole picture; never 0, except without a picture.
     std::uint64_t whole() const;
-    /// The numbers of the tiles that differ, ascending; both are of the same grid.
+    /// The numbers of the tiles that differ, ascending, among those that are complete; all of the other, which has the
+    /// same grid, are.
     std::vector<std::uint32_t> differing(const TileSums& other) const;
 
   private:
@@ -40,8 +47,11 @@ class TileSums {
         std::uint64_t low = 0, high = 0;
         friend bool operator==(const Sum&, const Sum&) = default;
     };
+    void addRows(const Bits& bits, int y0, int y1);
+
     TileGrid grid_;
     std::vector<Sum> sums_;
+    int done_ = 0; // rows of pixels
 };
 
 } // namespace velara

@@ -60,17 +60,17 @@ QString UndoFiles::nameOf(const QString& ending) const
     return folder_ + QStringLiteral("/b") + padded(number_, 4) + u'.' + ending;
 }
 
-bool UndoFiles::write(int index, const Bits& bits) const
+bool UndoFiles::write(int index, const Bits& bits, const Before& before) const
 {
     const Header header = headerOf(bits);
     const ByteView head{reinterpret_cast<const std::uint8_t*>(&header), sizeof header};
-    return overwriteFile(name(index), head, {bits.data(), bits.sizeInBytes()});
+    return overwriteFile(name(index), head, {bits.data(), bits.sizeInBytes()}, before);
 }
 
-bool UndoFiles::writeOverOldest(int index, const Bits& bits) const
+bool UndoFiles::writeOverOldest(int index, const Bits& bits, const Before& before) const
 {
     const bool recycled = replaceFile(name(0), name(index));
-    if (!write(index, bits)) return false;
+    if (!write(index, bits, before)) return false;
     if (recycled) QFile::resize(name(index), static_cast<qint64>(sizeof(Header) + bits.sizeInBytes()));
     return true;
 }

@@ -3,6 +3,7 @@
 #pragma once
 #include "pixels/Bits.h"
 #include <QString>
+#include <functional>
 #include <optional>
 
 namespace velara {
@@ -20,10 +21,12 @@ class UndoFiles {
 
     /// Overwrites the file of the index, or creates it. False: a previous file of the index is intact or gone; others
     /// are unchanged.
-    bool write(int index, const Bits& bits) const;
+    /// before(end) is called before the bytes of bits up to end are written.
+    using Before = std::function<void(std::size_t end)>;
+    bool write(int index, const Bits& bits, const Before& before = {}) const;
     /// The same, reusing the pages of the oldest file, index 0, which is about to be dropped and is gone either way:
     /// half the time of a new file.
-    bool writeOverOldest(int index, const Bits& bits) const;
+    bool writeOverOldest(int index, const Bits& bits, const Before& before = {}) const;
     /// Nothing when the file is missing, short or damaged.
     std::optional<Bits> read(int index) const;
     void remove(int index) const;

@@ -94,9 +94,9 @@ bool UndoStore::Series::writeState(int index, const Bits& bits)
 {
     State state;
     static_cast<KeptState&>(state) = of(index);
-    state.sums = TileSums(bits, rules.side);
+    state.sums = TileSums(TileGrid(bits, rules.side));
     state.isTiles = index > 0 && writeOver(index - 1, state, bits);
-    if (!state.isTiles && !writeWhole(index, bits)) return false;
+    if (!state.isTiles && !writeWhole(index, state, bits)) return false;
     state.file = files.identity(index);
     state.sum = state.sums.whole();
     state.side = rules.side;
@@ -104,22 +104,29 @@ bool UndoStore::Series::writeState(int index, const Bits& bits)
     return true;
 }
 
-/// The pages of the oldest file are reused where it is about to go.
-bool UndoStore::Series::writeWhole(int index, const Bits& bits) const
+/// The pages of the oldest file are reused where it is about to go. What of the sums isn't known yet is made on the
+/// way.
+bool UndoStore::Series::writeWhole(int index, State& state, const Bits& bits) const
 {
-    return index == kLimit && !of(1).isTiles ? files.writeOverOldest(index, bits) : files.write(index, bits);
+    const auto sums = [&](std::size_t end) { state.sums.addUpTo(bits, end); };
+    return index == kLimit && !of(1).isTiles ? files.writeOverOldest(index, bits, sums)
+                                             : files.write(index, bits, sums);
 }
 
 /// Writes the tiles in which a picture differs from the state below. False where it is to be written whole: too much
-/// differs, or what it would rest on is not there.
+/// differs, which shows after the first rows, or what it would rest on is not there.
 bool UndoStore::Series::writeOver(int below, State& state, const Bits& bits) const
 try {
     const State& base = of(below);
-    if (bits.sizeInBytes() < rules.smallest || base.sums.grid() != state.sums.grid()) return false;
-    const std::vector<std::uint32_t> tiles = state.sums.differing(base.sums);
-    const std::int64_t size = base.tileBytes + tileFileSize(state.sums.grid(), tiles.size());
-    if (base.tileFiles >= rules.most || size > static_cast<std::int64_t>(bits.sizeInBytes()) / rules.share)
+    if (bits.sizeInBytes() < rules.smallest || base.sums.grid() != state.sums.grid() || base.tileFiles >= rules.most)
         return false;
+    std::vector<std::uint32_t> tiles;
+    std::int64_t size = base.tileBytes + tileFileSize(state.sums.grid(), 0);
+    while (state.sums.addSome(bits)) {
+        tiles = state.sums.differing(base.sums);
+        size = base.tileBytes + tileFileSize(state.sums.grid(), tiles.size());
+        if (size > static_cast<std::int64_t>(bits.sizeInBytes()) / rules.share) return false;
+    }
     const auto stands = [this](const LayerFile& layer) { return files.identity(layer.index) == layer.file; };
     if (!std::ranges::all_of(layersUpTo(below), stands)) return false;
     state.tileFiles = base.tileFiles + 1;

@@ -88,7 +88,7 @@ struct UndoStore::Series {
     bool ready();
     int write(const Bits& bits);
     bool writeState(int index, const Bits& bits);
-    bool writeWhole(int index, const Bits& bits) const;
+    bool writeWhole(int index, State& state, const Bits& bits) const;
     bool writeOver(int below, State& state, const Bits& bits) const;
     void retireOldest(bool ours);
     void keepRecord(int step, int top);

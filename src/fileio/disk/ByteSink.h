@@ -16,6 +16,8 @@ class ByteSink {
 
     /// False when they can't be taken, or the file isn't wanted any more; later ones can't be taken then.
     virtual bool write(const void* bytes, std::size_t size) = 0;
+    /// So many bytes are to come next: room for them may be taken at once, which is faster.
+    virtual void expect(std::int64_t /*bytes*/) {}
     /// For long work between two writes: false ends it.
     virtual bool goesOn() = 0;
 };

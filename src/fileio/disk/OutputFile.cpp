@@ -1,4 +1,5 @@
 #include "fileio/disk/OutputFile.h"
+#include "fileio/disk/fileBytes.h"
 #include "fileio/disk/fileRights.h"
 #include "fileio/disk/nativeName.h"
 #include <QFile>
@@ -24,7 +25,8 @@ namespace velara {
 
 namespace {
 
-constexpr std::size_t kBuffer = 64 << 10, kDirect = 8 << 10;
+constexpr std::size_t kBuffer = 1 << 20;    // at whole numbers of it the system takes twice as many bytes a second
+constexpr std::size_t kAskEvery = 32 << 10; // bytes, whether the file is wanted
 
 constexpr const char kPart[] = ".velara-"; // prefix of the names of incomplete files
 constexpr const char kPartEnd[] = ".part";
@@ -69,18 +71,6 @@ void removeStraysIn(const QByteArray& folder)
 
 /// The data is on the disk, as far as the file system can tell.
 bool synced(int file) { return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP; }
-
-bool writeAll(int file, const std::uint8_t* bytes, std::size_t size)
-{
-    while (size > 0) {
-        const ssize_t n = ::write(file, bytes, size);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) return false;
-        bytes += n;
-        size -= static_cast<std::size_t>(n);
-    }
-    return true;
-}
 
 /// Reserves disk space for a file that grows to the given bytes; true where that can't be asked for.
 bool hasRoom(int file, off_t size)
@@ -143,7 +133,7 @@ QString behindLinks(const QString& path)
 OutputFile::OutputFile(const QString& path, Links links)
     : target_(nativeName(links == Links::Follow ? behindLinks(path) : path))
 {
-    buffer_.resize(kBuffer);
+    buffer_ = std::make_unique_for_overwrite<std::uint8_t[]>(kBuffer);
     if (target_.isEmpty()) error_ = ELOOP;
     if (error_ != 0) return;
     if (looksForStrays) removeStraysIn(folderOf(target_));
@@ -217,13 +207,14 @@ bool OutputFile::fail()
 
 bool OutputFile::goesOn()
 {
+    unasked_ = 0;
     if (!failed_ && goOn_ && !goOn_()) failed_ = true;
     return !failed_;
 }
 
 bool OutputFile::flush()
 {
-    if (goesOn() && used_ > 0 && !writeAll(file_, buffer_.data(), used_)) fail();
+    if (goesOn() && used_ > 0 && !writeBlocks(file_, {buffer_.get(), used_})) fail();
     used_ = 0;
     return !failed_;
 }
@@ -231,16 +222,24 @@ bool OutputFile::flush()
 bool OutputFile::write(const void* bytes, std::size_t size)
 {
     if (file_ < 0 || failed_) return false;
-    if (size == 0) return true; // bytes may be null then
-    const auto* from = static_cast<const std::uint8_t*>(bytes);
-    if (size >= kDirect) { // a copy gains nothing
-        if (flush() && !writeAll(file_, from, size)) fail();
-        return !failed_;
+    unasked_ += size;
+    if (unasked_ >= kAskEvery && !goesOn()) return false;
+    ByteView rest{static_cast<const std::uint8_t*>(bytes), size};
+    if (size >= kBuffer - used_) {
+        const std::size_t direct = (used_ + size) / kBuffer * kBuffer - used_;
+        if (!writeBlocks(file_, {buffer_.get(), used_}, rest.first(direct))) fail();
+        used_ = 0;
+        rest = rest.subspan(direct);
     }
-    if (size > kBuffer - used_ && !flush()) return false;
-    std::memcpy(buffer_.data() + used_, from, size);
-    used_ += size;
-    return true;
+    std::ranges::copy(rest, buffer_.get() + used_);
+    used_ += rest.size();
+    return !failed_;
+}
+
+/// Where that fails, the writes tell why.
+void OutputFile::expect(std::int64_t bytes)
+{
+    if (bytes > 0 && !failed_) (void)fallocate(file_, FALLOC_FL_KEEP_SIZE, tell(), bytes);
 }
 
 std::size_t OutputFile::read(void* bytes, std::size_t size)

@@ -5,8 +5,8 @@
 #include <QString>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <sys/types.h>
-#include <vector>
 
 namespace velara {
 
@@ -49,6 +49,7 @@ class OutputFile final : public ByteSink {
     void setGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
     bool write(const void* bytes, std::size_t size) override;
+    void expect(std::int64_t bytes) override;
     bool goesOn() override;
     /// Returns less than size at the end or on an error.
     std::size_t read(void* bytes, std::size_t size);
@@ -73,8 +74,8 @@ class OutputFile final : public ByteSink {
 
     QByteArray target_, temporary_; // temporary_ empty: it has no name
     std::function<bool()> goOn_;
-    std::vector<std::uint8_t> buffer_;
-    std::size_t used_ = 0;
+    std::unique_ptr<std::uint8_t[]> buffer_;
+    std::size_t used_ = 0, unasked_ = 0;
     int file_ = -1, error_ = 0;
     bool replaces_ = false, isUnnamed_ = false, inPlace_ = false, failed_ = false, lasting_ = true;
 };

@@ -23,19 +23,17 @@ std::int64_t regularFileSize(int file)
 
 iovec blockOf(ByteView bytes) { return {const_cast<std::uint8_t*>(bytes.data()), bytes.size()}; }
 
-/// A call may write less than given (2 GB are its limit), so the rest follows.
-bool writeAll(int file, ByteView head, ByteView body)
+bool writeInParts(int file, ByteView head, ByteView body, const std::function<void(std::size_t)>& before)
 {
-    while (!head.empty() || !body.empty()) {
-        const std::array<iovec, 2> blocks{blockOf(head), blockOf(body)};
-        const ssize_t n = writev(file, blocks.data(), blocks.size());
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) return false;
-        const std::size_t written = static_cast<std::size_t>(n), ofHead = std::min(written, head.size());
-        head = head.subspan(ofHead);
-        body = body.subspan(written - ofHead);
+    constexpr std::size_t kPart = 4 << 20; // stays in the processor's cache
+    for (std::size_t done = 0; done < body.size();) {
+        const ByteView part = body.subspan(done, std::min(kPart, body.size() - done));
+        done += part.size();
+        before(done);
+        if (!writeBlocks(file, head, part)) return false;
+        head = {};
     }
-    return true;
+    return writeBlocks(file, head);
 }
 
 /// Space for growth is reserved first: then overwriting an older file can't run out of disk midway.
@@ -73,20 +71,35 @@ int openPrivate(const QByteArray& name)
 
 } // namespace
 
-bool overwriteFile(const QString& path, ByteView head, ByteView body)
+/// A call may write less than given (2 GB are its limit), so the rest follows.
+bool writeBlocks(int file, ByteView head, ByteView body)
+{
+    while (!head.empty() || !body.empty()) {
+        const std::array<iovec, 2> blocks{blockOf(head), blockOf(body)};
+        const ssize_t n = writev(file, blocks.data(), blocks.size());
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        const std::size_t written = static_cast<std::size_t>(n), ofHead = std::min(written, head.size());
+        head = head.subspan(ofHead);
+        body = body.subspan(written - ofHead);
+    }
+    return true;
+}
+
+bool overwriteFile(const QString& path, ByteView head, ByteView body, const std::function<void(std::size_t)>& before)
 {
     const QByteArray name = QFile::encodeName(path);
     const int file = openPrivate(name);
     if (file < 0) return false;
-    const std::int64_t before = regularFileSize(file), wanted = static_cast<std::int64_t>(head.size() + body.size());
+    const std::int64_t present = regularFileSize(file), wanted = static_cast<std::int64_t>(head.size() + body.size());
     bool touched = false, done = false;
-    if (before >= 0 && (before == 0 || takeRoom(file, before, wanted))) {
+    if (present >= 0 && (present == 0 || takeRoom(file, present, wanted))) {
         touched = true;
-        done = writeAll(file, head, body);
+        done = before ? writeInParts(file, head, body, before) : writeBlocks(file, head, body);
     }
     const int reason = errno;
     if (close(file) != 0) done = false;
-    if (!done && touched && before >= 0) unlink(name.constData());
+    if (!done && touched && present >= 0) unlink(name.constData());
     errno = reason;
     return done;
 }

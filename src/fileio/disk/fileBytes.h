@@ -10,10 +10,16 @@ namespace velara {
 
 using ByteView = std::span<const std::uint8_t>;
 
-/// Writes head and body from offset 0 in one call, creating the file if need be, accessible to its owner only. It is
-/// not truncated: a longer file keeps its tail. A symbolic link is not followed: a new file replaces it. On failure
-/// false, with errno; the previous file is intact, except after a device error, when it is removed.
-bool overwriteFile(const QString& path, ByteView head, ByteView body = {});
+/// Writes head and body, one after the other, at the file's place. False with errno: a part may have been written.
+bool writeBlocks(int file, ByteView head, ByteView body = {});
+
+/// Writes head and body from offset 0, creating the file if need be, accessible to its owner only. It is not truncated:
+/// a longer file keeps its tail. A symbolic link is not followed: a new file replaces it. On failure false, with errno;
+/// the previous file is intact, except after a device error, when it is removed. before(end), which must not throw, is
+/// called before the bytes of body up to end are written, a few megabytes at a time: who has to read them all, too,
+/// fetches them once from memory.
+bool overwriteFile(const QString& path, ByteView head, ByteView body = {},
+                   const std::function<void(std::size_t end)>& before = {});
 
 /// A regular file opened for reading; size() is -1 when there is none. Never blocks on pipes and devices, and follows
 /// no links.

@@ -19,6 +19,7 @@ template <class Pack> bool writeRows(ByteSink& to, int height, std::size_t pitch
     constexpr std::size_t kBand = 256 << 10;
     const int together = static_cast<int>(std::clamp<std::size_t>(kBand / pitch, 1, static_cast<std::size_t>(height)));
     std::vector<std::uint8_t> band(pitch * static_cast<std::size_t>(together));
+    to.expect(static_cast<std::int64_t>(pitch) * height);
     for (int done = 0; done < height;) {
         const int rows = std::min(together, height - done);
         for (int i = 0; i < rows; ++i)

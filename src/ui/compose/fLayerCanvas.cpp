@@ -17,6 +17,26 @@ namespace {
 
 constexpr int kGrip = kGripSide;
 
+/// Dashes of black on white. Lines of images: blended lines of a pen are spread over threads by Qt, whose waking takes
+/// longer than all else that is painted.
+void paintOutline(QPainter& painter, const QRect& around, bool chosen)
+{
+    constexpr int kDash = 4, kPeriod = 6;
+    const QRgb gap = qPremultiply(qRgba(255, 255, 255, chosen ? 255 : 150));
+    const QRgb dash = chosen ? qRgba(0, 0, 0, 255) : qRgba(62, 62, 62, 212); // black over that white, premultiplied
+    const auto line = [&](QPoint at, int length, bool across) {
+        std::vector<QRgb> pixels(static_cast<std::size_t>(std::max(length, 0)));
+        for (int i = 0; i < length; ++i) pixels[std::size_t(i)] = i % kPeriod < kDash ? dash : gap;
+        const int width = across ? length : 1, height = across ? 1 : length;
+        painter.drawImage(at, QImage(reinterpret_cast<const uchar*>(pixels.data()), width, height, 4 * width,
+                                     QImage::Format_ARGB32_Premultiplied));
+    };
+    line(around.topLeft(), around.width(), true);
+    line(around.bottomLeft(), around.width(), true);
+    line(around.topLeft(), around.height(), false);
+    line(around.topRight(), around.height(), false);
+}
+
 /// MskText: shows a layer's surface, directly from its memory, and its outline. Ink may extend beyond the outline.
 class Surface final : public QWidget {
   public:
@@ -34,18 +54,14 @@ class Surface final : public QWidget {
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform, canvas_.zoom() < 1);
         const Bits& bits = layers_.surface(index_);
-        const QImage whole = imageOver(bits); // its fourth bytes tell what belongs to the layer
-        if (!bits.isNull())
-            painter.drawImage(
-                onSurface(layers_.visible(index_)),
-                QImage(whole.constBits(), whole.width(), whole.height(), whole.bytesPerLine(), QImage::Format_ARGB32));
+        const QImage whole = imageOver(bits);
+        if (!bits.isNull()) // premultiplied: Qt spreads other formats over threads, whose waking takes most of the time
+            painter.drawImage(onSurface(layers_.visible(index_)),
+                              QImage(whole.constBits(), whole.width(), whole.height(), whole.bytesPerLine(),
+                                     QImage::Format_ARGB32_Premultiplied));
         const bool chosen = canvas_.selected() == index_; // visible on light and on dark
         if (chosen) paintMarks(painter);
-        const QRect outline = onSurface(layers_.layer(index_).place).adjusted(0, 0, -1, -1);
-        painter.setPen(chosen ? Qt::white : QColor(255, 255, 255, 150));
-        painter.drawRect(outline);
-        painter.setPen(QPen(chosen ? Qt::black : QColor(0, 0, 0, 150), 1, Qt::DashLine));
-        painter.drawRect(outline);
+        paintOutline(painter, onSurface(layers_.layer(index_).place), chosen);
     }
 
   private:

@@ -66,6 +66,17 @@ TEST_F(TilesTest, AStrokeTakesItsTilesAndTheRestStaysInTheLayoutOfWholePictures)
     EXPECT_EQ(content("b000401.dat").size(), wholeSize()) << "a small picture is kept whole";
 }
 
+TEST_F(TilesTest, TilesRestOnAPictureThatWasWrittenInParts)
+{
+    pictures = {randomBits(2000, 1500, 1), randomBits(2000, 1500, 2)}; // all differs, which shows in the first rows
+    for (const Bits& each : pictures) store.save(each, "whole");
+    ASSERT_TRUE(store.stands());
+    stroke(1);
+    EXPECT_FALSE(isTiles(1));
+    EXPECT_TRUE(isTiles(2));
+    expectBack(1, 0);
+}
+
 TEST_F(TilesTest, WhatStatesRestOnStaysAsLongAsTheyNeedIt)
 {
     int wholes = 0;

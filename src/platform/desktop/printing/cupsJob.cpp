@@ -19,7 +19,7 @@ void cancelJob(int job)
 {
     const Patience patience(kCancelling);
     const Server server(patience);
-    if (server.get()) cupsCancelJob2(server.get(), nullptr, job, 0);
+    if (server.get()) cups().cupsCancelJob2(server.get(), nullptr, job, 0);
 }
 
 struct SentJob {
@@ -34,20 +34,23 @@ SentJob sendJob(const Server& server, const char* queue, const QString& pdf, con
     if (!file.open(QIODevice::ReadOnly)) return {0, "the page can't be read"};
     cups_option_t* list = nullptr;
     int count = 0;
-    for (const auto& [name, value] : options) count = cupsAddOption(name.constData(), value.constData(), count, &list);
+    for (const auto& [name, value] : options)
+        count = cups().cupsAddOption(name.constData(), value.constData(), count, &list);
     const QByteArray name = title.toUtf8();
-    const int job = cupsCreateJob(server.get(), queue, name.constData(), count, list);
-    cupsFreeOptions(count, list);
-    if (!job) return {0, QString::fromUtf8(cupsLastErrorString())};
-    http_status_t status = cupsStartDocument(server.get(), queue, job, name.constData(), CUPS_FORMAT_PDF, 1);
+    const int job = cups().cupsCreateJob(server.get(), queue, name.constData(), count, list);
+    cups().cupsFreeOptions(count, list);
+    if (!job) return {0, QString::fromUtf8(cups().cupsLastErrorString())};
+    http_status_t status = cups().cupsStartDocument(server.get(), queue, job, name.constData(), CUPS_FORMAT_PDF, 1);
     while (status == HTTP_STATUS_CONTINUE && !file.atEnd()) {
         const QByteArray piece = file.read(1 << 16);
-        status = piece.isEmpty() ? HTTP_STATUS_ERROR
-                                 : cupsWriteRequestData(server.get(), piece.constData(), std::size_t(piece.size()));
+        status = piece.isEmpty()
+                     ? HTTP_STATUS_ERROR
+                     : cups().cupsWriteRequestData(server.get(), piece.constData(), std::size_t(piece.size()));
     }
-    if (status == HTTP_STATUS_CONTINUE && cupsFinishDocument(server.get(), queue) < IPP_STATUS_REDIRECTION_OTHER_SITE)
+    if (status == HTTP_STATUS_CONTINUE &&
+        cups().cupsFinishDocument(server.get(), queue) < IPP_STATUS_REDIRECTION_OTHER_SITE)
         return {job, {}};
-    const SentJob failed{0, QString::fromUtf8(cupsLastErrorString())};
+    const SentJob failed{0, QString::fromUtf8(cups().cupsLastErrorString())};
     cancelJob(job);
     return failed;
 }
@@ -60,20 +63,22 @@ struct JobLook {
 /// Nothing when the server doesn't answer or has already forgotten the job.
 std::optional<JobLook> lookAt(const Server& server, int job)
 {
-    ipp_t* question = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    ipp_t* question = cups().ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
     const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(job);
-    ippAddString(question, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
-    ippAddString(question, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const std::unique_ptr<ipp_t, decltype(&ippDelete)> answer(cupsDoRequest(server.get(), question, "/"), &ippDelete);
-    ipp_attribute_t* state = ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
+    cups().ippAddString(question, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    cups().ippAddString(question, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cups().cupsUser());
+    const std::unique_ptr<ipp_t, decltype(&ippDelete)> answer(cups().cupsDoRequest(server.get(), question, "/"),
+                                                              cups().ippDelete);
+    ipp_attribute_t* state = cups().ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
     if (!state) return {};
-    ipp_attribute_t* message = ippFindAttribute(answer.get(), "job-printer-state-message", IPP_TAG_TEXT);
-    return JobLook{ipp_jstate_t(ippGetInteger(state, 0)), QString::fromUtf8(ippGetString(message, 0, nullptr))};
+    ipp_attribute_t* message = cups().ippFindAttribute(answer.get(), "job-printer-state-message", IPP_TAG_TEXT);
+    return JobLook{ipp_jstate_t(cups().ippGetInteger(state, 0)),
+                   QString::fromUtf8(cups().ippGetString(message, 0, nullptr))};
 }
 
 bool isPaused(const Queue& queue)
 {
-    const char* state = cupsGetOption("printer-state", queue.get()->num_options, queue.get()->options);
+    const char* state = cups().cupsGetOption("printer-state", queue.get()->num_options, queue.get()->options);
     return state && std::atoi(state) == IPP_PSTATE_STOPPED;
 }
 

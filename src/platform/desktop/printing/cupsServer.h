@@ -1,7 +1,7 @@
 // A connection to the print server, and one of its queues; of the thread that makes them.
 #pragma once
+#include "platform/desktop/printing/CupsLibrary.h"
 #include "platform/desktop/printing/cups.h"
-#include <cups/cups.h>
 
 namespace velara {
 
@@ -9,14 +9,19 @@ namespace velara {
 class Server {
   public:
     explicit Server(const Patience& patience)
-        : http_(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kServerPatience.count(),
-                             nullptr))
+        : http_(!cups().late.complete()
+                    ? nullptr
+                    : cups().httpConnect2(cups().cupsServer(), cups().ippPort(), nullptr, AF_UNSPEC,
+                                          cups().cupsEncryption(), 1, kServerPatience.count(), nullptr))
     {
         constexpr double kSilence = 0.25; // seconds between checks of the patience
         const auto goOn = [](http_t*, void* lasting) { return int(static_cast<const Patience*>(lasting)->lasts()); };
-        if (http_) httpSetTimeout(http_, kSilence, goOn, const_cast<Patience*>(&patience));
+        if (http_) cups().httpSetTimeout(http_, kSilence, goOn, const_cast<Patience*>(&patience));
     }
-    ~Server() { httpClose(http_); }
+    ~Server()
+    {
+        if (http_) cups().httpClose(http_);
+    }
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
     http_t* get() const { return http_; }
@@ -29,12 +34,12 @@ class Server {
 class Queue {
   public:
     Queue(const Server& server, const QString& name)
-        : dest_(server.get() ? cupsGetNamedDest(server.get(), name.toUtf8().constData(), nullptr) : nullptr)
+        : dest_(server.get() ? cups().cupsGetNamedDest(server.get(), name.toUtf8().constData(), nullptr) : nullptr)
     {
     }
     ~Queue()
     {
-        if (dest_) cupsFreeDests(1, dest_);
+        if (dest_) cups().cupsFreeDests(1, dest_);
     }
     Queue(const Queue&) = delete;
     Queue& operator=(const Queue&) = delete;
