@@ -2562,6 +2562,14 @@ und %n weitere</numerusform>
         <source>%1 can&apos;t be read</source>
         <translation>%1 ist nicht lesbar</translation>
     </message>
+    <message>
+        <source>its pixels are of a kind that isn&apos;t read: %1 x %2 bits</source>
+        <translation>Pixel dieser Art werden nicht gelesen: %1 x %2 Bit</translation>
+    </message>
+    <message>
+        <source>it has fewer inks than cyan, magenta and yellow</source>
+        <translation>Das Bild hat weniger Druckfarben als Cyan, Magenta und Gelb</translation>
+    </message>
 </context>
 <context>
     <name>Save for Web</name>

@@ -2562,6 +2562,14 @@ y %n más</numerusform>
         <source>%1 can&apos;t be read</source>
         <translation>No se puede leer %1</translation>
     </message>
+    <message>
+        <source>its pixels are of a kind that isn&apos;t read: %1 x %2 bits</source>
+        <translation>Sus píxeles son de un tipo que no se lee: %1 x %2 bits</translation>
+    </message>
+    <message>
+        <source>it has fewer inks than cyan, magenta and yellow</source>
+        <translation>Tiene menos tintas que cian, magenta y amarillo</translation>
+    </message>
 </context>
 <context>
     <name>Save for Web</name>

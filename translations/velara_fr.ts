@@ -2562,6 +2562,14 @@ et %n de plus</numerusform>
         <source>%1 can&apos;t be read</source>
         <translation>%1 ne peut pas être lu</translation>
     </message>
+    <message>
+        <source>its pixels are of a kind that isn&apos;t read: %1 x %2 bits</source>
+        <translation>Ses pixels sont d’un type qui n’est pas lu : %1 x %2 bits</translation>
+    </message>
+    <message>
+        <source>it has fewer inks than cyan, magenta and yellow</source>
+        <translation>Il a moins d’encres que cyan, magenta et jaune</translation>
+    </message>
 </context>
 <context>
     <name>Save for Web</name>

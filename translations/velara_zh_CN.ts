@@ -2560,6 +2560,14 @@ and %n more</source>
         <source>%1 can&apos;t be read</source>
         <translation>无法读取 %1</translation>
     </message>
+    <message>
+        <source>its pixels are of a kind that isn&apos;t read: %1 x %2 bits</source>
+        <translation>其像素类型不受支持：%1 x %2 位</translation>
+    </message>
+    <message>
+        <source>it has fewer inks than cyan, magenta and yellow</source>
+        <translation>其油墨少于青、品红和黄三种</translation>
+    </message>
 </context>
 <context>
     <name>Save for Web</name>

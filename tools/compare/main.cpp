@@ -20,6 +20,10 @@
 //   invents pixels; it says where pixels are missing. Only today's reads: screens out of all proportion to the first
 //   frame, files cut in a frame's head, damage behind the first four kilobytes. Only the old one reads: files without
 //   the mark, indices of more than eight bits.
+// - tif: only today's reads 1 and 2 bits with alpha, colours of fewer than 8 bits, five samples, tiles in planes and
+//   single complex numbers. It is right where the old one mixes up samples: 4 bits with alpha, several samples of 16
+//   bits in other than colours, halves, two doubles, floats in planes, whole complex numbers, 16 bits in L*a*b*. Only
+//   the old one reads inks of one or two samples (as light).
 #include "fileio/formats.h"
 #include "tools/compare/Reading.h"
 #include "tools/compare/oldReaders.h"

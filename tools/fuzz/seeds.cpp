@@ -2,6 +2,7 @@
 #include "fileio/savePicture.h"
 #include "platform/WindowlessPlatform.h"
 #include "tools/fuzz/inside.h"
+#include "tools/fuzz/rawSeeds.h"
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -107,7 +108,8 @@ QByteArray made(const QString& format)
 
 QList<QByteArray> collect(const QString& format, const QString& samples)
 {
-    QList<QByteArray> seeds{made(format)};
+    QList<QByteArray> seeds = rawSeeds(format);
+    if (seeds.isEmpty()) seeds += made(format);
     const QDir folder(samples + '/' + format);
     for (const QFileInfo& info : samples.isEmpty() ? QFileInfoList() : folder.entryInfoList(QDir::Files, QDir::Name)) {
         QFile file(info.filePath());

@@ -1,4 +1,5 @@
 #include "fileio/decode/cage/Cage.h"
+#include "fileio/decode/cage/Helpers.h"
 #include "fileio/decode/cage/landlock.h"
 #include "fileio/decode/cage/limits.h"
 #include "fileio/decode/cage/seccompFilter.h"
@@ -53,6 +54,7 @@ CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
     close(Landlock, [] { return closePaths({}, Ports::Shut); });
 #ifndef __SANITIZE_ADDRESS__ // the sanitizers inspect memory through pipes and report into files
     if (include(needs, Needs::Drawing)) startTheOneThread();
+    if (include(needs, Needs::Helpers)) startHelpers();
     close(Limits, [&] { return done(limitResources(needs, memory)); });
     close(Seccomp, [&] { return done(filterSystemCalls(needs)); });
 #endif

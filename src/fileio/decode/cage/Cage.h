@@ -6,9 +6,10 @@
 namespace velara::decode {
 
 /// What a reader still needs inside: nothing; the system's fonts, which are opened beforehand; these and the one thread
-/// that drawing uses; or not to learn of several processors, for a library that would start a thread for each. Encoding
-/// is what velara-encode needs: threads of its own, and all of the free memory; it limits its time by itself.
-enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4, Encoding = 8 };
+/// that drawing uses; not to learn of several processors, for a library that would start a thread for each; or threads
+/// that share its work (Helpers.h). Encoding is what velara-encode needs: threads of its own, and all of the free
+/// memory; it limits its time by itself.
+enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4, Encoding = 8, Helpers = 16 };
 constexpr Needs operator|(Needs a, Needs b) { return Needs(unsigned(a) | unsigned(b)); }
 constexpr bool include(Needs all, Needs part) { return (unsigned(all) & unsigned(part)) == unsigned(part); }
 

@@ -50,7 +50,7 @@ TiffLines::TiffLines(const TiffPage& page) : tiff_(page), kind_(tiff_), rowsInBa
     bands_.resize(kind_.planes);
     for (auto& band : bands_)
         band.resize(std::max<std::uint64_t>(stride * rows, kind_.isTiled ? 0 : whole(TIFFStripSize(tiff_.get()))));
-    if (kind_.planes > 1) line_.resize(std::size_t{kind_.bits} / 8 * kind_.samples * kind_.width);
+    if (kind_.planes > 1) line_.resize((std::size_t{kind_.bits} * kind_.samples * kind_.width + 7) / 8);
 }
 
 void TiffLines::readStrip(std::uint32_t plane)
@@ -81,14 +81,25 @@ const std::uint8_t* TiffLines::next()
             kind_.isTiled ? readTiles(plane) : readStrip(plane);
     const std::size_t at = y_++ % rowsInBand_ * stride_;
     if (kind_.planes == 1) return bands_[0].data() + at;
+    merge(at);
+    return line_.data();
+}
+
+/// Puts the samples of the planes side by side.
+void TiffLines::merge(std::size_t at)
+{
     const std::size_t bytes = kind_.bits / 8;
+    if (bytes == 0) std::ranges::fill(line_, 0);
     for (std::size_t plane = 0; plane < bands_.size(); ++plane) {
         const std::uint8_t* from = bands_[plane].data() + at;
         std::uint8_t* to = line_.data() + plane * bytes;
-        for (std::uint32_t x = 0; x < kind_.width; ++x, from += bytes, to += bytes * kind_.samples)
-            std::memcpy(to, from, bytes);
+        if (bytes == 0)
+            for (std::size_t x = 0; x < kind_.width; ++x)
+                small_.put(line_.data(), x * kind_.samples + plane, small_(from, x));
+        else
+            for (std::uint32_t x = 0; x < kind_.width; ++x, from += bytes, to += bytes * kind_.samples)
+                std::memcpy(to, from, bytes);
     }
-    return line_.data();
 }
 
 TiffColours::TiffColours(const TiffPage& page) : tiff_(page)

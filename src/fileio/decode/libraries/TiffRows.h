@@ -13,6 +13,25 @@ struct TiffKind {
     bool isTiled;
 };
 
+/// Samples of 1, 2 or 4 bits in a line; the first one is in the high bits of its byte.
+class SmallSamples {
+  public:
+    explicit SmallSamples(unsigned bits) : bits_(bits), inByte_(8 / bits) {}
+    unsigned operator()(const std::uint8_t* line, std::size_t i) const
+    {
+        return line[i / inByte_] >> shift(i) & ((1U << bits_) - 1);
+    }
+    /// Where the bits are zero.
+    void put(std::uint8_t* line, std::size_t i, unsigned value) const
+    {
+        line[i / inByte_] = static_cast<std::uint8_t>(line[i / inByte_] | value << shift(i));
+    }
+
+  private:
+    unsigned shift(std::size_t i) const { return 8 - bits_ * (static_cast<unsigned>(i % inByte_) + 1); }
+    unsigned bits_, inByte_;
+};
+
 /// Lines of samples, side by side in each pixel, whole bytes or bits in a byte; 16 and more are in the machine's order.
 /// Strips that are damaged give what could be read; a damaged tile throws Damage.
 class TiffLines {
@@ -25,9 +44,11 @@ class TiffLines {
   private:
     void readStrip(std::uint32_t plane);
     void readTiles(std::uint32_t plane);
+    void merge(std::size_t at);
 
     Tiff tiff_;
     const TiffKind kind_;
+    const SmallSamples small_{kind_.bits < 8 ? kind_.bits : 8U};
     std::uint32_t y_ = 0, rowsInBand_ = 0;         // a band is a row of tiles, or a strip
     std::size_t stride_ = 0;                       // of a band's line, in bytes
     std::vector<std::vector<std::uint8_t>> bands_; // one, or one of each plane

@@ -65,6 +65,21 @@ struct Source : jpeg_source_mgr {
     bool isOver_ = false;
 };
 
+/// Several pixels at a time: one by one it would take a tenth of the decoding.
+void clearFourth(Pixel* row, int width)
+{
+    using Four = std::uint8_t __attribute__((vector_size(16)));
+    constexpr Four kColours{255, 255, 255, 0, 255, 255, 255, 0, 255, 255, 255, 0, 255, 255, 255, 0};
+    int x = 0;
+    for (; x <= width - 4; x += 4) {
+        Four pixels;
+        std::memcpy(&pixels, row + x, sizeof pixels);
+        pixels &= kColours;
+        std::memcpy(row + x, &pixels, sizeof pixels);
+    }
+    for (; x < width; ++x) row[x].c[3] = 0;
+}
+
 class JpegRows {
   public:
     /// Reads the header; throws Damage. cutOff becomes true when the data end too early.
@@ -115,8 +130,7 @@ class JpegRows {
         const auto width = static_cast<int>(info_.output_width);
         if (!isInked_) {
             nextLine(reinterpret_cast<JSAMPROW>(row));
-            for (int x = 0; x < width; ++x) row[x].c[3] = 0;
-            return;
+            return clearFourth(row, width);
         }
         skip();
         const std::uint8_t* inks = line_.data();

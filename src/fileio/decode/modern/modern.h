@@ -1,6 +1,9 @@
 // Shared by the readers of the newer formats. They draw transparent pixels on white, as a page does.
 #pragma once
 #include "fileio/decode/readers.h"
+#include <array>
+#include <bit>
+#include <cstring>
 #include <memory>
 
 namespace velara::decode {
@@ -19,6 +22,26 @@ inline Pixel rgbaOverWhite(const std::uint8_t* rgba)
 {
     const auto part = [&](int i) { return static_cast<std::uint8_t>(overWhite(rgba[i], rgba[3], 255)); };
     return {{part(2), part(1), part(0), 0}};
+}
+
+/// Pixels of red, green and blue.
+inline void takeRow24(const std::uint8_t* from, Pixel* row, int width)
+{
+    using Lanes = std::uint8_t __attribute__((vector_size(16)));
+    constexpr Lanes kPlaces{2, 1, 0, 3, 5, 4, 3, 6, 8, 7, 6, 9, 11, 10, 9, 12};
+    constexpr auto kColours = std::bit_cast<std::uint32_t>(Pixel{{255, 255, 255, 0}});
+    constexpr int kTogether = 4, kRead = 6; // sixteen bytes are read, those of six pixels
+    int x = 0;
+    for (; x <= width - kRead; x += kTogether, from += 3 * kTogether) {
+        Lanes four;
+        std::memcpy(&four, from, sizeof four);
+        std::array<std::uint32_t, kTogether> words;
+        four = __builtin_shuffle(four, kPlaces);
+        std::memcpy(words.data(), &four, sizeof four);
+        for (std::uint32_t& word : words) word &= kColours;
+        std::memcpy(row + x, words.data(), sizeof four);
+    }
+    for (; x < width; ++x, from += 3) row[x] = {{from[2], from[1], from[0], 0}};
 }
 
 /// A copy of bytes that a library shows; empty when there are none or far too many.

@@ -145,8 +145,8 @@ Decoded pixelsOf(const Image& image, bool isDeep, int channels)
     }
     picture.row = [image, plane, line, channels, width = picture.width](int y, Pixel* row) {
         const std::uint8_t* from = plane + line * static_cast<std::size_t>(y);
-        for (int x = 0; x < width; ++x, from += channels)
-            row[x] = channels == 4 ? rgbaOverWhite(from) : Pixel{{from[2], from[1], from[0], 0}};
+        if (channels == 3) return takeRow24(from, row, width);
+        for (int x = 0; x < width; ++x, from += 4) row[x] = rgbaOverWhite(from);
     };
     return picture;
 }

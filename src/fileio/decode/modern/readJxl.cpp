@@ -1,8 +1,10 @@
 // JPEG XL by libjxl: one frame, turned by the library, in sRGB where the file leaves the choice.
+#include "fileio/decode/cage/Helpers.h"
 #include "fileio/decode/modern/LateLibrary.h"
 #include "fileio/decode/modern/modern.h"
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <jxl/decode.h>
 
@@ -15,6 +17,7 @@ struct Jxl {
     VELARA_LATE(JxlDecoderCreate);
     VELARA_LATE(JxlDecoderDestroy);
     VELARA_LATE(JxlDecoderSubscribeEvents);
+    VELARA_LATE(JxlDecoderSetParallelRunner);
     VELARA_LATE(JxlDecoderSetInput);
     VELARA_LATE(JxlDecoderCloseInput);
     VELARA_LATE(JxlDecoderProcessInput);
@@ -42,10 +45,21 @@ const Jxl& jxl()
 
 using Decoder = std::unique_ptr<JxlDecoder, void (*)(JxlDecoder*)>;
 
+/// The library's work by all threads that there are.
+JxlParallelRetCode together(void*, void* work, JxlParallelRunInit init, JxlParallelRunFunction each,
+                            std::uint32_t first, std::uint32_t end)
+{
+    if (first >= end) return 0;
+    if (const JxlParallelRetCode fault = init(work, threadsTogether())) return fault;
+    runTogether(first, end, [&](std::uint32_t item, unsigned thread) { each(work, item, thread); });
+    return 0;
+}
+
 Decoder decoderOf(const FileBytes& file, int events)
 {
-    Decoder decoder(jxl().JxlDecoderCreate(nullptr), jxl().JxlDecoderDestroy); // no runner: a single thread
+    Decoder decoder(jxl().JxlDecoderCreate(nullptr), jxl().JxlDecoderDestroy);
     if (!decoder) throw std::bad_alloc();
+    jxl().JxlDecoderSetParallelRunner(decoder.get(), together, nullptr);
     jxl().JxlDecoderSubscribeEvents(decoder.get(), events);
     jxl().JxlDecoderSetInput(decoder.get(), file.bytes().data(), file.size());
     jxl().JxlDecoderCloseInput(decoder.get());
@@ -152,7 +166,14 @@ std::vector<std::uint8_t> chooseColours(JxlDecoder* decoder, const JxlPixelForma
     return isThere ? profile : std::vector<std::uint8_t>();
 }
 
-using Buffer = std::shared_ptr<std::vector<std::uint8_t>>;
+/// Zeros at first, which cost nothing until they are written over.
+using Buffer = std::shared_ptr<std::uint8_t>;
+Buffer bufferOf(std::size_t size)
+{
+    Buffer buffer(static_cast<std::uint8_t*>(std::calloc(size, 1)), std::free);
+    if (!buffer) throw std::bad_alloc();
+    return buffer;
+}
 
 void giveRows(Decoded& picture, const Buffer& buffer, const JxlPixelFormat& format)
 {
@@ -160,14 +181,14 @@ void giveRows(Decoded& picture, const Buffer& buffer, const JxlPixelFormat& form
     const std::size_t line = static_cast<std::size_t>(picture.width) * format.num_channels;
     if (format.data_type == JXL_TYPE_UINT8) {
         picture.row = [buffer, line, channels, width = picture.width](int y, Pixel* row) {
-            const std::uint8_t* from = buffer->data() + line * static_cast<std::size_t>(y);
-            for (int x = 0; x < width; ++x, from += channels)
-                row[x] = channels == 4 ? rgbaOverWhite(from) : Pixel{{from[2], from[1], from[0], 0}};
+            const std::uint8_t* from = buffer.get() + line * static_cast<std::size_t>(y);
+            if (channels == 3) return takeRow24(from, row, width);
+            for (int x = 0; x < width; ++x, from += 4) row[x] = rgbaOverWhite(from);
         };
         return;
     }
     giveDeepRows(picture, [buffer, line, channels, width = picture.width](int y, std::uint16_t* to) {
-        const auto* from = reinterpret_cast<const std::uint16_t*>(buffer->data()) + line * static_cast<std::size_t>(y);
+        const auto* from = reinterpret_cast<const std::uint16_t*>(buffer.get()) + line * static_cast<std::size_t>(y);
         for (int x = 0; x < width; ++x, from += channels, to += 3)
             for (int c = 0; c < 3; ++c)
                 to[c] = static_cast<std::uint16_t>(channels == 4 ? overWhite(from[c], from[3], 65535) : from[c]);
@@ -182,7 +203,7 @@ Decoded pixelsOf(const FileBytes& file)
     jxl().JxlDecoderSkipFrames(decoder.get(), static_cast<std::size_t>(wantedPage));
     JxlBasicInfo info{};
     JxlPixelFormat format{3, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
-    const auto buffer = std::make_shared<std::vector<std::uint8_t>>();
+    Buffer buffer;
     Decoded picture;
     for (;;) {
         const JxlDecoderStatus status = jxl().JxlDecoderProcessInput(decoder.get());
@@ -200,13 +221,13 @@ Decoded pixelsOf(const FileBytes& file)
             picture.carried.profile = chooseColours(decoder.get(), format, info);
         } else if (status == JXL_DEC_NEED_IMAGE_OUT_BUFFER) {
             if (jxl().JxlDecoderImageOutBufferSize(decoder.get(), &format, &size) != JXL_DEC_SUCCESS) return {};
-            buffer->resize(size);
-            if (jxl().JxlDecoderSetImageOutBuffer(decoder.get(), &format, buffer->data(), size) != JXL_DEC_SUCCESS)
+            buffer = bufferOf(size);
+            if (jxl().JxlDecoderSetImageOutBuffer(decoder.get(), &format, buffer.get(), size) != JXL_DEC_SUCCESS)
                 return {};
         } else if (status == JXL_DEC_FULL_IMAGE) {
             break;
         } else {
-            const bool isCutOff = status == JXL_DEC_NEED_MORE_INPUT && !buffer->empty();
+            const bool isCutOff = status == JXL_DEC_NEED_MORE_INPUT && buffer;
             if (!isCutOff || jxl().JxlDecoderFlushImage(decoder.get()) != JXL_DEC_SUCCESS) return {};
             picture.reason = kCutOff; // the available part is shown, as far as its coarser passes go
             break;
@@ -221,7 +242,7 @@ Decoded pixelsOf(const FileBytes& file)
 Needs prepareJxl()
 {
     jxl();
-    return Needs::Nothing;
+    return Needs::Helpers;
 }
 
 Decoded readJxl(FileBytes& file)

@@ -17,6 +17,8 @@ constexpr const char* kReasons[] = { // those with fewer fixed words come later
     QT_TRANSLATE_NOOP("Reasons", "it is damaged: some of its pixels are missing"),
     QT_TRANSLATE_NOOP("Reasons", "it is damaged between its first row and its last"),
     QT_TRANSLATE_NOOP("Reasons", "it is cut off: its end is missing"),
+    QT_TRANSLATE_NOOP("Reasons", "its pixels are of a kind that isn't read: %1 x %2 bits"),
+    QT_TRANSLATE_NOOP("Reasons", "it has fewer inks than cyan, magenta and yellow"),
     QT_TRANSLATE_NOOP("Reasons", "it is wider or higher than 32767 pixels, or has more than 268 million pixels"),
     QT_TRANSLATE_NOOP("Reasons", "it needs more memory than reading a picture may take"),
     QT_TRANSLATE_NOOP("Reasons", "it is empty or can't be opened"),
