@@ -1,7 +1,6 @@
 #include "batch/fonts.h"
-#include "batch/BatchPlatform.h"
+#include "batch/drawing.h"
 #include <QFile>
-#include <QGuiApplication>
 #include <algorithm>
 #include <cerrno>
 #include <sys/wait.h>
@@ -10,19 +9,6 @@
 namespace velara {
 
 namespace {
-
-/// Qt has things to say about a desktop that isn't needed. What ends the program is said.
-void onlyWhatIsFatal(QtMsgType type, const QMessageLogContext&, const QString& text)
-{
-    if (type != QtFatalMsg) return;
-    complain(QStringLiteral("no text can be drawn: ") + text.section(u'\n', 0, 0));
-    _exit(static_cast<int>(Status::OperationFailed));
-}
-
-bool drawsText(const CommandLine& line)
-{
-    return std::ranges::any_of(line.steps, [](const LineStep& step) { return !step.fonts.isEmpty(); });
-}
 
 void checkFontsOf(const CommandLine& line, Platform& platform)
 {
@@ -44,7 +30,7 @@ void drawBy(const CommandLine& line, Platform& platform)
 /// In the fork: why there is no drawing; nothing where there are the fonts.
 QByteArray faultOfFonts(const CommandLine& line, Platform& platform)
 {
-    const auto application = makeApplication(line);
+    const auto application = makeApplication(true);
     try {
         checkFontsOf(line, platform);
         return {};
@@ -55,17 +41,9 @@ QByteArray faultOfFonts(const CommandLine& line, Platform& platform)
 
 } // namespace
 
-std::unique_ptr<QCoreApplication> makeApplication(const CommandLine& line)
+bool drawsText(const CommandLine& line)
 {
-    static int argc = 1;
-    static char name[] = "velara-batch";
-    static char* argv[] = {name, nullptr};
-    if (!drawsText(line)) return std::make_unique<QCoreApplication>(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // the fonts of the desktop's platform, without its display
-    qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
-    qInstallMessageHandler(onlyWhatIsFatal);
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return std::ranges::any_of(line.steps, [](const LineStep& step) { return !step.fonts.isEmpty(); });
 }
 
 void takeFonts(const CommandLine& line, Platform& platform)

@@ -23,10 +23,4 @@ IconOrder iconOrder(const QString& text)
                           .arg(kMostIconSide));
 }
 
-void writeIcon(const Bits& picture, const IconOrder& order, const QString& output)
-{
-    if (!writeIcon(iconBytes(iconOf(picture, order.size, order.mask)), output))
-        throw fileFault(output + QStringLiteral(" can't be written"));
-}
-
 } // namespace velara

@@ -1,4 +1,5 @@
 #include "batch/onePicture.h"
+#include "batch/drawing.h"
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"

@@ -219,6 +219,27 @@ TEST_F(BatchTest, AnIconHasThePixelsOfTheMaskTransparent)
     EXPECT_EQ(QByteArray("\0\0\1\0\1\0\0\x10", 8), content("icon.ppm").left(8));
 }
 
+// Nothing is read twice on the way to the program that draws, not even what can't be.
+TEST_F(BatchTest, TheProgramThatDrawsTakesOverBeforeAnythingIsRead)
+{
+    const QString recipe = "mkfifo r && (printf 'velara recipe 1\\nINVERT\\n' >r &)";
+    EXPECT_TRUE(ends(0, "- --input-format ppm --recipe r --icon 12x9 icon.ico", {}, recipe + " && exec <in.ppm"));
+    EXPECT_EQ(result("INVERT"), result("", {kWidth, kHeight}, "icon.ico"));
+    ASSERT_TRUE(QFile::copy(builtPath("velara-batch"), path("alone")));
+    QProcess alone;
+    alone.start(path("alone"), {path("in.ppm"), "--icon", "12x9", path("other.ico")});
+    ASSERT_TRUE(alone.waitForFinished());
+    EXPECT_EQ(3, alone.exitCode());
+    EXPECT_TRUE(alone.readAllStandardError().contains("velara-batch-all"));
+    EXPECT_FALSE(QFile::exists(path("other.ico")));
+    QProcess libraries;
+    libraries.start("ldd", {builtPath("velara-batch")});
+    ASSERT_TRUE(libraries.waitForFinished());
+    const QByteArray linked = libraries.readAll();
+    EXPECT_TRUE(linked.contains("libQt6Core"));
+    EXPECT_FALSE(linked.contains("libQt6Gui"));
+}
+
 TEST_F(BatchTest, AnAnymapHasTrueColourWhateverItsExtensionSays)
 {
     ASSERT_TRUE(ends(0, "in.ppm grey.pgm"));

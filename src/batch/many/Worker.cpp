@@ -1,5 +1,6 @@
 #include "batch/many/Worker.h"
 #include "batch/BatchPlatform.h"
+#include "batch/drawing.h"
 #include "batch/fonts.h"
 #include "batch/names/LateNames.h"
 #include "batch/onePicture.h"
@@ -200,7 +201,7 @@ class Worker {
 void work(const CommandLine& line, const Plan& plan, int socket)
 {
     // Made in each worker: programs that share one by a fork share its ways to be woken, too.
-    const auto application = makeApplication(line);
+    const auto application = makeApplication(drawsText(line));
     OutputFile::lookForStrays(false);
     BlockPool::instance().keepSeveral(kKeptBlocks);
     Worker worker(line, plan, socket);
