@@ -1,9 +1,8 @@
 #include "batch/fonts.h"
 #include "batch/drawing.h"
+#include "fileio/waitFor.h"
 #include <QFile>
 #include <algorithm>
-#include <cerrno>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace velara {
@@ -68,8 +67,7 @@ void takeFontsOfForks(const CommandLine& line, Platform& platform)
     QFile from;
     const QByteArray fault =
         from.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ? from.readAll() : QByteArray();
-    int status = -1;
-    while (pid > 0 && waitpid(pid, &status, 0) < 0 && errno == EINTR) continue;
+    const int status = pid > 0 ? waitFor(pid) : -1;
     if (!fault.isEmpty()) throw Failure{Status::OperationFailed, QString::fromUtf8(fault)};
     if (status != 0) throw Failure{Status::OperationFailed, QStringLiteral("the system's fonts can't be used")};
     drawBy(line, platform);
