@@ -1,7 +1,7 @@
 // What needs Qt's window library: the system's fonts, and icons. velara-batch-all is linked with it (batch/all);
 // velara-batch, which starts in a third of the time without it, becomes that program (batch/first).
 #pragma once
-#include "batch/icon.h"
+#include "batch/outputs/icon.h"
 #include "seams/Fonts.h"
 #include <QCoreApplication>
 #include <memory>

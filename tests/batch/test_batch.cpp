@@ -6,6 +6,7 @@
 #include "support/pictures.h"
 #include "support/twoFrames.h"
 #include <QColorSpace>
+#include <QDataStream>
 #include <QImageWriter>
 
 namespace velara {
@@ -167,6 +168,52 @@ TEST_F(BatchTest, ACutOffPictureIsTakenWhenAskedFor)
     put("short.ppm", content("in.ppm").chopped(100));
     EXPECT_TRUE(ends(0, "--partial short.ppm out.ppm"));
     EXPECT_EQ(content("in.ppm").left(200), content("out.ppm").left(200));
+}
+
+std::uint32_t crcOf(const QByteArray& bytes)
+{
+    std::uint32_t crc = ~0U;
+    for (const char c : bytes) {
+        crc ^= static_cast<unsigned char>(c);
+        for (int i = 0; i < 8; ++i) crc = crc >> 1 ^ (crc & 1 ? 0xedb88320U : 0);
+    }
+    return ~crc;
+}
+
+QByteArray chunk(const QByteArray& name, const QByteArray& bytes)
+{
+    QByteArray all;
+    QDataStream(&all, QIODevice::WriteOnly) << quint32(bytes.size());
+    all += name + bytes;
+    QDataStream(&all, QIODevice::Append) << crcOf(name + bytes);
+    return all;
+}
+
+/// All checksums are right, but the rows end in the middle.
+QByteArray brokenPng(int width, int height)
+{
+    QByteArray head;
+    QDataStream(&head, QIODevice::WriteOnly)
+        << qint32(width) << qint32(height) << quint8(8) << quint8(0) << quint8(0) << quint8(0) << quint8(0);
+    QByteArray rows = qCompress(QByteArray((width + 1) * height, '\0'), 0).mid(4); // in blocks with their lengths
+    const int block = int(rows.size()) / 2 / 65540 * 65540 + 2;
+    rows.replace(block + 1, 4, "\1\1\1\1");
+    return "\x89PNG\r\n\x1a\n" + chunk("IHDR", head) + chunk("IDAT", rows) + chunk("IEND", {});
+}
+
+// The file is written while the picture is read.
+TEST_F(BatchTest, AConversionOfWhatIsNotWholeChangesNothing)
+{
+    put("broken.png", brokenPng(1500, 1000));
+    put("short.ppm", content("in.ppm").chopped(100));
+    for (const QString out : {"out.ppm", "out.jpg", "out.png", "out.tif", "out.bmp"}) {
+        put(out, "precious");
+        const QStringList before = files();
+        EXPECT_TRUE(ends(1, "broken.png " + out, "damaged between its first row and its last"));
+        EXPECT_TRUE(ends(1, "short.ppm " + out, "--partial takes what is there"));
+        EXPECT_EQ("precious", content(out));
+        EXPECT_EQ(before, files());
+    }
 }
 
 TEST_F(BatchTest, APageIsReadAndAnotherKindIsToldWhenAskedFor)

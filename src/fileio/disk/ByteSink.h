@@ -18,6 +18,8 @@ class ByteSink {
     virtual bool write(const void* bytes, std::size_t size) = 0;
     /// For long work between two writes: false ends it.
     virtual bool goesOn() = 0;
+    /// Of a picture that is still being read: waits for a row. False: it doesn't come, and the file isn't wanted.
+    virtual bool awaitRow(int) { return true; }
 };
 
 /// Keeps only the number of bytes.

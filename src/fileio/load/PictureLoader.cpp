@@ -8,6 +8,7 @@
 #include "fileio/load/rowsOf.h"
 #include "fileio/marks.h"
 #include "pixels/memory/MemoryBudget.h"
+#include "pixels/threads/WrittenRows.h"
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
@@ -76,11 +77,10 @@ QString faultOf(Wait wait, DecoderProcess& child)
     }
 }
 
-void copyRows(const Pixel* slot, Bits& bits, int first, int count)
+void copyRows(const Pixel* slot, const WrittenRows& rows, std::size_t width, int first, int count)
 {
-    const auto width = static_cast<std::size_t>(bits.width());
     for (int y = first; y < first + count; ++y, slot += width) {
-        Pixel* row = bits.row(y);
+        Pixel* row = rows.row(y);
         for (std::size_t x = 0; x < width; ++x) // the fourth byte is ours, whatever the child wrote
             row[x] = std::bit_cast<Pixel>(std::bit_cast<std::uint32_t>(slot[x]) & 0xffffffU);
         std::memset(row - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
@@ -242,7 +242,8 @@ QString formatIn(const decode::Opening& opening)
 }
 
 LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QString& extension, const QString& decoder,
-                        const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn)
+                        const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn,
+                        const RowsCame& came = {})
 {
     LoadedPicture picture;
     Bits& bits = picture.bits;
@@ -258,7 +259,12 @@ LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QStri
                 bits = Bits::uninitialized(opening.width, height);
             }
             for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
-            return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
+            const WrittenRows to(bits); // who is told of rows may hold the picture, too
+            if (came) came(picture, 0);
+            return [&, to, width = std::size_t(opening.width)](const Pixel* rows, int first, int count) {
+                copyRows(rows, to, width, first, count);
+                if (came) came(picture, first + count);
+            };
         });
     if (!ending.whole) picture = {};
     picture.reason = named(ending, name);
@@ -337,21 +343,22 @@ QString findHelper(const QString& name)
 }
 
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits, const GoOn& goOn, int page)
+                                 const DecoderLimits& limits, const GoOn& goOn, int page, const RowsCame& came)
 {
     QString reason;
     const QString name = QFileInfo(path).fileName();
     const Descriptor file = openPicture(path, reason);
     if (!file.isOpen()) return {{}, named({false, reason}, name)};
-    return loadThroughDecoder(file, name, extension, decoder, limits, goOn, page);
+    return loadThroughDecoder(file, name, extension, decoder, limits, goOn, page, came);
 }
 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
-                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page)
+                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page,
+                                 const RowsCame& came)
 {
     QStringList wishes;
     if (page > 1) wishes << decode::kPageWish + QString::number(page);
-    return loadWhole(file, name, extension, decoder, wishes, limits, goOn);
+    return loadWhole(file, name, extension, decoder, wishes, limits, goOn, came);
 }
 
 LoadedPicture loadColourTable(const Descriptor& profile, const QString& decoder, const GoOn& goOn)

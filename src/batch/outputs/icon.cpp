@@ -1,4 +1,4 @@
-#include "batch/icon.h"
+#include "batch/outputs/icon.h"
 #include "batch/Failure.h"
 #include "fileio/writers/iconFile.h"
 #include <QRegularExpression>
