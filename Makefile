@@ -133,7 +133,7 @@ mutate: setup
 	@scripts/mutate.py $(NAMES)
 
 # What the programs are linked with, by version, as an SPDX document: build/velara-studio.spdx.json
-PROGRAMS := velara-studio velara-batch velara-open velara-decode velara-encode velara-scan
+PROGRAMS := velara-studio velara-batch velara-batch-all velara-open velara-decode velara-encode velara-scan
 sbom: all
 	@scripts/sbom.py $(RELEASE)/bin $(PROGRAMS) > build/velara-studio.spdx.json
 	@echo build/velara-studio.spdx.json

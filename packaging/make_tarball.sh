@@ -11,7 +11,7 @@ stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
 folder=$stage/$name
 mkdir -p "$folder" "$build/dist"
-for program in velara-studio velara-batch velara-open velara-decode velara-decode-all velara-encode velara-scan; do
+for program in velara-studio velara-batch velara-batch-all velara-open velara-decode velara-decode-all velara-encode velara-scan; do
     install -m 755 "$build/bin/$program" "$folder/$program"
     strip "$folder/$program"
 done

@@ -11,6 +11,10 @@ import subprocess
 import sys
 
 
+# Used by their headers: they are in the programs themselves.
+COMPILED_IN = {"libhwy-dev": ("velara-studio", "velara-batch", "velara-batch-all", "velara-open")}
+
+
 def said(*command):
     return subprocess.run(command, capture_output=True, text=True, check=False).stdout
 
@@ -56,6 +60,12 @@ def main():
                 packages.append(entry)
             relationships.append({"spdxElementId": identifier(program), "relationshipType": "DYNAMIC_LINK",
                                   "relatedSpdxElement": identifier(library)})
+    for package, users in COMPILED_IN.items():
+        packages.append({"SPDXID": identifier(package), "name": package, "downloadLocation": "NOASSERTION", "filesAnalyzed": False,
+                         "versionInfo": said("dpkg-query", "-W", "-f", "${Version}", package) or "NOASSERTION",
+                         "primaryPackagePurpose": "LIBRARY"})
+        relationships += [{"spdxElementId": identifier(program), "relationshipType": "STATIC_LINK",
+                           "relatedSpdxElement": identifier(package)} for program in programs if program in users]
     if not known:
         sys.exit("sbom.py: no program names a library")
     stamp = datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ")

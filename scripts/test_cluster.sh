@@ -165,7 +165,7 @@ echo "Slurm: killed with $left of $pictures pictures done, handed in again: all 
 # --- Kubernetes. The pod's command in a root that has the programs and their libraries alone; without a net.
 root=$scratch/root
 mkdir -p "$root/usr/bin" "$root/bin" "$root"/{tmp,pictures,proc,dev}
-cp "$bin/velara-batch" "$bin/velara-decode" "$bin/velara-decode-all" "$bin/velara-encode" "$root/usr/bin/"
+cp "$bin/velara-batch" "$bin/velara-batch-all" "$bin/velara-decode" "$bin/velara-decode-all" "$bin/velara-encode" "$root/usr/bin/"
 cp /bin/dash "$root/bin/sh"
 for file in $(ldd "$root"/usr/bin/* "$root/bin/sh" | grep -o '/[^ ]*\.so[^ ]*' | sort -u); do
     mkdir -p "$root$(dirname "$file")"

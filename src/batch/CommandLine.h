@@ -1,9 +1,9 @@
 // The parsed command line of velara-batch: INPUT, steps in their order, OUTPUT; or many INPUTs, steps, and the folder.
 #pragma once
 #include "batch/Session.h"
-#include "batch/icon.h"
 #include "batch/many/ManyOrder.h"
-#include "batch/web.h"
+#include "batch/outputs/icon.h"
+#include "batch/outputs/web.h"
 #include <QStringList>
 #include <functional>
 #include <vector>

@@ -1,28 +1,13 @@
 #include "batch/fonts.h"
-#include "batch/BatchPlatform.h"
+#include "batch/drawing.h"
+#include "fileio/waitFor.h"
 #include <QFile>
-#include <QGuiApplication>
 #include <algorithm>
-#include <cerrno>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace velara {
 
 namespace {
-
-/// Qt has things to say about a desktop that isn't needed. What ends the program is said.
-void onlyWhatIsFatal(QtMsgType type, const QMessageLogContext&, const QString& text)
-{
-    if (type != QtFatalMsg) return;
-    complain(QStringLiteral("no text can be drawn: ") + text.section(u'\n', 0, 0));
-    _exit(static_cast<int>(Status::OperationFailed));
-}
-
-bool drawsText(const CommandLine& line)
-{
-    return std::ranges::any_of(line.steps, [](const LineStep& step) { return !step.fonts.isEmpty(); });
-}
 
 void checkFontsOf(const CommandLine& line, Platform& platform)
 {
@@ -44,7 +29,7 @@ void drawBy(const CommandLine& line, Platform& platform)
 /// In the fork: why there is no drawing; nothing where there are the fonts.
 QByteArray faultOfFonts(const CommandLine& line, Platform& platform)
 {
-    const auto application = makeApplication(line);
+    const auto application = makeApplication(true);
     try {
         checkFontsOf(line, platform);
         return {};
@@ -55,17 +40,9 @@ QByteArray faultOfFonts(const CommandLine& line, Platform& platform)
 
 } // namespace
 
-std::unique_ptr<QCoreApplication> makeApplication(const CommandLine& line)
+bool drawsText(const CommandLine& line)
 {
-    static int argc = 1;
-    static char name[] = "velara-batch";
-    static char* argv[] = {name, nullptr};
-    if (!drawsText(line)) return std::make_unique<QCoreApplication>(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // the fonts of the desktop's platform, without its display
-    qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
-    qInstallMessageHandler(onlyWhatIsFatal);
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return std::ranges::any_of(line.steps, [](const LineStep& step) { return !step.fonts.isEmpty(); });
 }
 
 void takeFonts(const CommandLine& line, Platform& platform)
@@ -90,8 +67,7 @@ void takeFontsOfForks(const CommandLine& line, Platform& platform)
     QFile from;
     const QByteArray fault =
         from.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ? from.readAll() : QByteArray();
-    int status = -1;
-    while (pid > 0 && waitpid(pid, &status, 0) < 0 && errno == EINTR) continue;
+    const int status = pid > 0 ? waitFor(pid) : -1;
     if (!fault.isEmpty()) throw Failure{Status::OperationFailed, QString::fromUtf8(fault)};
     if (status != 0) throw Failure{Status::OperationFailed, QStringLiteral("the system's fonts can't be used")};
     drawBy(line, platform);

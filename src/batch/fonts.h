@@ -1,14 +1,11 @@
 // The fonts of steps that draw texts. They need an application object with a platform, though no window or display.
 #pragma once
 #include "batch/CommandLine.h"
-#include <QCoreApplication>
-#include <memory>
 
 namespace velara {
 
-/// The process's application object: one that has the system's fonts where a step draws with them, which takes longer
-/// to start.
-std::unique_ptr<QCoreApplication> makeApplication(const CommandLine& line);
+/// Whether a step draws with fonts.
+bool drawsText(const CommandLine& line);
 
 /// Lets the steps draw by the platform's fonts. Throws a Failure that names a font that isn't installed.
 void takeFonts(const CommandLine& line, Platform& platform);

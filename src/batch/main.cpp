@@ -1,6 +1,8 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
+#include "batch/convert.h"
+#include "batch/drawing.h"
 #include "batch/fonts.h"
 #include "batch/many/runMany.h"
 #include "batch/onePicture.h"
@@ -60,6 +62,7 @@ void runOne(const CommandLine& line)
     BatchPlatform platform;
     const bool isPiped = line.output == kPipe;
     if (!isPiped) fileOf(line.output);
+    if (isConversion(line)) return convert(platform, line);
     Session session(platform);
     open(session, platform, line);
     for (const LineStep& step : line.steps)
@@ -71,19 +74,32 @@ void runOne(const CommandLine& line)
     if (!told.isEmpty()) std::printf("%s\n", told.toUtf8().constData());
 }
 
+/// A recipe that comes through a pipe can be read once: by the program that takes its steps.
+bool hasPipedRecipe(const QStringList& arguments)
+{
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (arguments[i - 1] != QStringLiteral("--recipe")) continue;
+        const auto status = statusOf(arguments[i]);
+        if (status && !S_ISREG(status->st_mode)) return true;
+    }
+    return false;
+}
+
 int run(int argc, char** argv)
 {
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments << nameFrom(argv[i]);
+    if (hasPipedRecipe(arguments)) becomeWhatDraws(argv);
     const CommandLine line = CommandLine::parse(arguments);
     if (line.help || line.list) {
         std::fputs((line.help ? helpText() : listText()).toUtf8().constData(), stdout);
         return 0;
     }
+    if (line.icon || drawsText(line)) becomeWhatDraws(argv);
     if (line.threads) setThreadCount(*line.threads);
     readInSrgb(!line.stored);
     if (line.many) return runMany(line);
-    const auto application = makeApplication(line);
+    const auto application = makeApplication(drawsText(line));
     runOne(line);
     return 0;
 }

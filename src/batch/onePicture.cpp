@@ -1,4 +1,5 @@
 #include "batch/onePicture.h"
+#include "batch/drawing.h"
 #include "fileio/disk/OutputFile.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
@@ -40,18 +41,7 @@ std::function<void(int)> progressOf(const QString& step)
 void write(Session& session, const QString& output, const SaveOrder& order)
 {
     fileOf(output);
-    const SaveReport report = session.save(output, order);
-    switch (report.result) {
-    case SaveResult::Written:
-        return;
-    case SaveResult::NotWritten:
-    case SaveResult::Refused:
-        throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
-    case SaveResult::Failed:
-    case SaveResult::FailedAndTold:
-    case SaveResult::Stopped:
-        throw cannotBeWritten(output, report.error);
-    }
+    checkWritten(session.save(output, order), output);
 }
 
 } // namespace
@@ -74,6 +64,21 @@ void takeSteps(Session& session, const CommandLine& line)
         }
         naming(step.text, [&] { step.run(session); });
         if (i == lastGoingBack) session.forgetSteps();
+    }
+}
+
+void checkWritten(const SaveReport& report, const QString& output)
+{
+    switch (report.result) {
+    case SaveResult::Written:
+        return;
+    case SaveResult::NotWritten:
+    case SaveResult::Refused:
+        throw cannotBeWritten(output, QStringLiteral("pictures are written as ") + savedExtensions());
+    case SaveResult::Failed:
+    case SaveResult::FailedAndTold:
+    case SaveResult::Stopped:
+        throw cannotBeWritten(output, report.error);
     }
 }
 

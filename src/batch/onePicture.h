@@ -15,6 +15,8 @@ QString fileOf(const QString& output);
 /// Writes the picture as the line says: as a picture, an icon or a file for the web, of which it returns a line about
 /// the file. Throws Failure; what had the name is as it was then.
 QString writePictureOf(Session& session, const CommandLine& line, const QString& output);
+/// Throws a Failure that says why OUTPUT isn't written, where it isn't.
+void checkWritten(const SaveReport& report, const QString& output);
 /// Makes a folder for outputs, with those above it; throws Failure.
 void makeTargetFolder(const QString& folder);
 /// The extensions that pictures are written under, for the user.

@@ -3,6 +3,7 @@
 #pragma once
 #include "commands/vocabulary.h"
 #include "engine/operations.h"
+#include <QString>
 #include <array>
 #include <span>
 #include <string>

@@ -34,7 +34,7 @@ void Document::takeFrom(const cBitFilter& filter)
 void Document::SaveUndoBits(StepNote note)
 {
     ++commits_;
-    note.small = smallCopy(bits_);
+    if (undo.hasFolder()) note.small = smallCopy(bits_);
     note.width = bits_.width();
     note.height = bits_.height();
     undo.willDescribe(facts());

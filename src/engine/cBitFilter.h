@@ -11,7 +11,6 @@
 #include "pixels/Bits.h"
 #include "pixels/random.h"
 #include "region/Region.h"
-#include <QImage>
 #include <functional>
 #include <string>
 #include <vector>
@@ -61,8 +60,9 @@ class cBitFilter {
     /// without Clean (Smooth: RotateSmooth) and BitsCrop to Part of the square, using the memory of Part only and never
     /// making the square.
     void turnOnSquare(const Bits& Source, int Degrees, bool Smooth, int Side, const Rect& Part);
-    /// The upper left Width by Height pixels of Picture, black where it is smaller. A null Picture changes nothing.
-    void BitsTakeFromPicture(const QImage& Picture, int Width, int Height);
+    /// The upper left Width by Height pixels of Picture, black where it is smaller. A null Picture changes nothing. By
+    /// value: it is an argument of the operation, not the source that operationRows.h hands over.
+    void BitsTakeFromPicture(Bits Picture, int Width, int Height);
 
     // Unit, range and usual value of each argument are in the rows below; here is what a filter does with them. c is a
     // channel's value; results are clamped to 0..255 and rounded half to even unless noted. The "mean" of a pixel is

@@ -1,7 +1,6 @@
 // The in-place operations that crop, rotate and take over the picture.
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
-#include "pixels/images.h"
 #include "pixels/numbers.h"
 #include "pixels/threads/parallelFor.h"
 
@@ -90,11 +89,19 @@ void cBitFilter::BitsRotate90(const Bits& Source)
     report(100);
 }
 
-void cBitFilter::BitsTakeFromPicture(const QImage& Picture, int Width, int Height)
+void cBitFilter::BitsTakeFromPicture(Bits Picture, int Width, int Height)
 {
     if (Picture.isNull()) return;
     checkSize(Width, Height);
-    bits_ = bitsOf(Picture, Width, Height);
+    Bits taken(Width, Height);
+    const int columns = std::min(Width, Picture.width()), rows = std::min(Height, Picture.height());
+    for (int y = 0; y < rows; ++y) {
+        const Pixel* from = std::as_const(Picture).row(y);
+        std::transform(from, from + columns, taken.row(y), [](const Pixel& p) {
+            return Pixel{{p.c[0], p.c[1], p.c[2], 0}};
+        });
+    }
+    bits_ = taken;
 }
 
 } // namespace velara

@@ -2,7 +2,7 @@
 // parameter types unpack the arguments. A malformed row does not compile.
 #pragma once
 #include "engine/operations.h"
-#include "pixels/images.h"
+#include "pixels/Bits.h"
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -22,7 +22,7 @@ template <class T> constexpr ArgumentType typeOf()
         return ArgumentType::Integer;
     else if constexpr (std::is_floating_point_v<V>)
         return ArgumentType::Number;
-    else if constexpr (std::is_same_v<V, Bits> || std::is_same_v<V, QImage>)
+    else if constexpr (std::is_same_v<V, Bits>)
         return ArgumentType::Picture;
     else
         return ArgumentType::Text;
@@ -38,8 +38,6 @@ template <class T> std::remove_cvref_t<T> unpack(const Argument& argument, const
     if constexpr (std::is_floating_point_v<V>) {
         if (const int* whole = std::get_if<int>(&argument)) return static_cast<V>(*whole);
         if (const double* number = std::get_if<double>(&argument)) return static_cast<V>(*number);
-    } else if constexpr (std::is_same_v<V, QImage>) {
-        if (const Bits* bits = std::get_if<Bits>(&argument)) return imageOver(*bits);
     } else if constexpr (std::is_same_v<V, Mask>) {
         if (const std::string* text = std::get_if<std::string>(&argument)) return maskOf(*text);
     } else if (const V* value = std::get_if<V>(&argument)) {

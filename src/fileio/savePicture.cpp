@@ -27,7 +27,9 @@ SaveReport writeAs(const Job& job, bool (*write)(const Job& job, OutputFile& fil
 {
     OutputFile file(job.fileName, job.links);
     file.setGoOn(job.goesOn);
-    if (file.isOpen() && write(job, file) && job.goesOn() && file.commit()) return {SaveResult::Written};
+    file.setAwaitRow(job.wishes.awaitRow);
+    if (file.isOpen() && write(job, file) && file.awaitRow(job.bits.height()) && job.goesOn() && file.commit())
+        return {SaveResult::Written};
     SaveReport report{SaveResult::Failed};
     report.error = file.error();
     if (keepsRemains && job.wishes.keepsRemains && job.goesOn()) file.keepRemains();
@@ -122,18 +124,19 @@ struct Writer {
     std::string_view extension; // "pnm": the family of the portable anymaps
     SaveReport (*save)(const Job& job);
     bool hasQuality = false;
+    bool isInOrder = false; // it asks for each row, from the top, before it reads it
 };
 
 // clang-format off
 constexpr Writer kWriters[] = {
-    {"png", told<png>},
+    {"png", told<png>, false, true},
     {"gif", saveGif},
-    {"jpg", told<jpeg, true>, true},
+    {"jpg", told<jpeg, true>, true, true},
     {"ico", refuseIcon},
     {"bmp", told<bmp>},
-    {"tif", told<tiff>},
+    {"tif", told<tiff>, false, true},
     {"pcx", savePcx},
-    {"pnm", saveAnymap},
+    {"pnm", saveAnymap, false, true},
     {"tga", told<targa>},
     {"webp", saveWebp, true},
     {"avif", told<avif>, true},
@@ -170,6 +173,7 @@ try {
     const auto goesOn = [&] { return !(stopped = stopped || (wishes.goOn && !wishes.goOn())); };
     const Writer* writer = writerOf(Ext.toLower().toStdString());
     if (!writer) return {SaveResult::NotWritten};
+    if (wishes.awaitRow && !writer->isInOrder && !wishes.awaitRow(bits.height())) return {SaveResult::Failed};
     const SaveReport report = writer->save({bits, FileName, links, camera, wishes, goesOn});
     return stopped && report.result != SaveResult::Written ? SaveReport{SaveResult::Stopped} : report;
 } catch (const std::bad_alloc&) {

@@ -37,6 +37,9 @@ struct SaveWishes {
     std::optional<int> quality = {}; // 1 to 100, of a format that has one (hasQuality)
     bool keepsRemains = true;        // of a JPEG that can't be written whole, where nothing had its name
     std::function<bool()> goOn = {}; // asked now and then; false ends it
+    /// Of a picture that is still being read: waits for a row, or at its height for the end of the reading. False: the
+    /// file is given up. Without it the picture is there.
+    std::function<bool(int row)> awaitRow = {};
 };
 
 /// Whether files of the extension (any case, no dot) are written in a quality.

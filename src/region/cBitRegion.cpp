@@ -124,11 +124,6 @@ void cBitRegion::setRegion(const velara::Region& region)
     refreshData();
 }
 
-void cBitRegion::DrawToDC(QImage& device, int x, int y, const Rect& part) const
-{
-    drawOutline(device, scaled_, x, y, brush_, part);
-}
-
 void cBitRegion::refreshData()
 {
     data_.clear();

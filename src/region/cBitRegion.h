@@ -2,10 +2,11 @@
 // for drawing the outline, and its flat words. Holds no pixels.
 #pragma once
 #include "region/Region.h"
-#include <QImage>
 #include <QString>
 #include <array>
 #include <vector>
+
+class QImage;
 
 namespace velara {
 

@@ -1,4 +1,6 @@
 #include "region/outline.h"
+#include "region/cBitRegion.h"
+#include <QImage>
 #include <algorithm>
 #include <cstdlib>
 
@@ -63,6 +65,12 @@ void drawOutline(QImage& device, const Region& region, int dx, int dy, int n, co
         for (const Span s : frame.row(y - dy, view.left - dx, view.right - dx))
             for (int x = s.x0 + dx; x < s.x1 + dx; ++x) line[x] = kColours[isStripe(n, x, y)];
     }
+}
+
+/// Here, since what has no window needs no QImage.
+void cBitRegion::DrawToDC(QImage& device, int x, int y, const Rect& part) const
+{
+    drawOutline(device, scaled_, x, y, brush_, part);
 }
 
 } // namespace velara

@@ -2,8 +2,9 @@
 // proportional to the visible part, not to the region.
 #pragma once
 #include "region/Region.h"
-#include <QImage>
 #include <array>
+
+class QImage;
 
 namespace velara {
 

@@ -1,11 +1,13 @@
 // Screen: captures the screens of the desktop as pixels.
 #pragma once
 #include "pixels/Bits.h"
-#include <QImage>
 #include <QRect>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <vector>
+
+class QImage;
 
 namespace velara {
 
@@ -16,8 +18,8 @@ struct ScreenPicture {
         QRect device;  // the same in bits
     };
     struct Pointer {
-        QImage image; // null where the desktop doesn't show it to programs
-        QPoint at;    // its upper left corner in bits
+        std::shared_ptr<const QImage> image; // null where the desktop doesn't show it to programs
+        QPoint at;                           // its upper left corner in bits
     };
     Bits bits; // null: no capture
     std::vector<Part> parts;

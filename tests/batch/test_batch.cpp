@@ -6,6 +6,7 @@
 #include "support/pictures.h"
 #include "support/twoFrames.h"
 #include <QColorSpace>
+#include <QDataStream>
 #include <QImageWriter>
 
 namespace velara {
@@ -169,6 +170,52 @@ TEST_F(BatchTest, ACutOffPictureIsTakenWhenAskedFor)
     EXPECT_EQ(content("in.ppm").left(200), content("out.ppm").left(200));
 }
 
+std::uint32_t crcOf(const QByteArray& bytes)
+{
+    std::uint32_t crc = ~0U;
+    for (const char c : bytes) {
+        crc ^= static_cast<unsigned char>(c);
+        for (int i = 0; i < 8; ++i) crc = crc >> 1 ^ (crc & 1 ? 0xedb88320U : 0);
+    }
+    return ~crc;
+}
+
+QByteArray chunk(const QByteArray& name, const QByteArray& bytes)
+{
+    QByteArray all;
+    QDataStream(&all, QIODevice::WriteOnly) << quint32(bytes.size());
+    all += name + bytes;
+    QDataStream(&all, QIODevice::Append) << crcOf(name + bytes);
+    return all;
+}
+
+/// All checksums are right, but the rows end in the middle.
+QByteArray brokenPng(int width, int height)
+{
+    QByteArray head;
+    QDataStream(&head, QIODevice::WriteOnly)
+        << qint32(width) << qint32(height) << quint8(8) << quint8(0) << quint8(0) << quint8(0) << quint8(0);
+    QByteArray rows = qCompress(QByteArray((width + 1) * height, '\0'), 0).mid(4); // in blocks with their lengths
+    const int block = int(rows.size()) / 2 / 65540 * 65540 + 2;
+    rows.replace(block + 1, 4, "\1\1\1\1");
+    return "\x89PNG\r\n\x1a\n" + chunk("IHDR", head) + chunk("IDAT", rows) + chunk("IEND", {});
+}
+
+// The file is written while the picture is read.
+TEST_F(BatchTest, AConversionOfWhatIsNotWholeChangesNothing)
+{
+    put("broken.png", brokenPng(1500, 1000));
+    put("short.ppm", content("in.ppm").chopped(100));
+    for (const QString out : {"out.ppm", "out.jpg", "out.png", "out.tif", "out.bmp"}) {
+        put(out, "precious");
+        const QStringList before = files();
+        EXPECT_TRUE(ends(1, "broken.png " + out, "damaged between its first row and its last"));
+        EXPECT_TRUE(ends(1, "short.ppm " + out, "--partial takes what is there"));
+        EXPECT_EQ("precious", content(out));
+        EXPECT_EQ(before, files());
+    }
+}
+
 TEST_F(BatchTest, APageIsReadAndAnotherKindIsToldWhenAskedFor)
 {
     put("two.webp", kTwoFrames);
@@ -217,6 +264,27 @@ TEST_F(BatchTest, AnIconHasThePixelsOfTheMaskTransparent)
     EXPECT_EQ(wanted, result("", wanted.size(), "icon.ico"));
     ASSERT_TRUE(ends(0, "in.ppm --icon 256x16,mask:0 icon.ppm")); // whatever its name
     EXPECT_EQ(QByteArray("\0\0\1\0\1\0\0\x10", 8), content("icon.ppm").left(8));
+}
+
+// Nothing is read twice on the way to the program that draws, not even what can't be.
+TEST_F(BatchTest, TheProgramThatDrawsTakesOverBeforeAnythingIsRead)
+{
+    const QString recipe = "mkfifo r && (printf 'velara recipe 1\\nINVERT\\n' >r &)";
+    EXPECT_TRUE(ends(0, "- --input-format ppm --recipe r --icon 12x9 icon.ico", {}, recipe + " && exec <in.ppm"));
+    EXPECT_EQ(result("INVERT"), result("", {kWidth, kHeight}, "icon.ico"));
+    ASSERT_TRUE(QFile::copy(builtPath("velara-batch"), path("alone")));
+    QProcess alone;
+    alone.start(path("alone"), {path("in.ppm"), "--icon", "12x9", path("other.ico")});
+    ASSERT_TRUE(alone.waitForFinished());
+    EXPECT_EQ(3, alone.exitCode());
+    EXPECT_TRUE(alone.readAllStandardError().contains("velara-batch-all"));
+    EXPECT_FALSE(QFile::exists(path("other.ico")));
+    QProcess libraries;
+    libraries.start("ldd", {builtPath("velara-batch")});
+    ASSERT_TRUE(libraries.waitForFinished());
+    const QByteArray linked = libraries.readAll();
+    EXPECT_TRUE(linked.contains("libQt6Core"));
+    EXPECT_FALSE(linked.contains("libQt6Gui"));
 }
 
 TEST_F(BatchTest, AnAnymapHasTrueColourWhateverItsExtensionSays)

@@ -4,7 +4,7 @@ import pathlib
 import struct
 import sys
 
-PROGRAMS = ["velara-studio", "velara-batch", "velara-open", "velara-decode", "velara-decode-all", "velara-encode", "velara-scan"]
+PROGRAMS = ["velara-studio", "velara-batch", "velara-batch-all", "velara-open", "velara-decode", "velara-decode-all", "velara-encode", "velara-scan"]
 LOAD, DYNAMIC, STACK, RELRO = 1, 2, 0x6474E551, 0x6474E552
 FLAGS, FLAGS_1 = 30, 0x6FFFFFFB
 BIND_NOW, NOW, PIE, EXECUTABLE = 0x8, 0x1, 0x08000000, 1

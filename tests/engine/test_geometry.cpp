@@ -36,13 +36,13 @@ TEST(Geometry, UnusableSizesAndSourcesChangeNothing)
         [&] { f.BitsResample(before, 32767, 32767); },
         [&] { f.BitsResample(Bits(), 3, 3); },
         [&] { f.BitsRotate90(Bits()); },
-        [&] { f.BitsTakeFromPicture(QImage(3, 3, QImage::Format_RGB32), -1, 3); },
+        [&] { f.BitsTakeFromPicture(Bits(3, 3), -1, 3); },
     };
     for (const auto& call : calls) {
         EXPECT_THROW(call(), RuntimeError) << &call - calls;
         EXPECT_TRUE(f.bits().sharesWith(before)) << &call - calls;
     }
-    f.BitsTakeFromPicture(QImage(), 9, 9); // no fault, and no change
+    f.BitsTakeFromPicture(Bits(), 9, 9); // no fault, and no change
     EXPECT_TRUE(f.bits().sharesWith(before));
 }
 

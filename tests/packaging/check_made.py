@@ -91,7 +91,7 @@ def installedTree():
         prefix = next(p for p in files if p.name == "velara-studio" and p.parent.name == "bin").parents[1]
         names = {p.relative_to(prefix).as_posix() for p in files}
         for wanted in ["bin/velara-open", "bin/velara-batch", "libexec/velara-studio/velara-decode",
-                       "libexec/velara-studio/velara-encode", "libexec/velara-studio/velara-scan",
+                       "libexec/velara-studio/velara-batch-all", "libexec/velara-studio/velara-encode", "libexec/velara-studio/velara-scan",
                        "share/applications/org.velara.Studio.desktop", "share/dbus-1/services/org.velara.Studio.service",
                        "share/icons/hicolor/48x48/apps/org.velara.Studio.png", "share/man/man1/velara-batch.1.gz",
                        "share/icons/hicolor/scalable/apps/org.velara.Studio.svg",
@@ -109,7 +109,9 @@ def installedTree():
         picture = home / "p.ppm"
         picture.write_text("P3 2 1 255 1 2 3 4 5 6\n")
         clean = {k: v for k, v in os.environ.items() if not k.startswith("XDG_")} | {"HOME": str(home)}
-        got = said(prefix / "bin/velara-batch", picture, "FLIPH", home / "q.png", env=clean)
+        got = said(prefix / "bin/velara-batch", picture, "FLIPH", "--icon", "16x16", home / "i.ico", env=clean)
+        if not got.returncode:
+            got = said(prefix / "bin/velara-batch", picture, "FLIPH", home / "q.png", env=clean)
         if got.returncode or (prefix / "bin/Vlaera.dat").exists():
             faults.append(f"installed, velara-batch doesn't find its helpers: {got.stderr}")
         got = said(prefix / "bin/velara-open", "--thumbnail", "64", home / "q.png", home / "t.png", env=clean)

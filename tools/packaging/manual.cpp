@@ -64,7 +64,8 @@ QString studioPage(const QString& date)
            section("HELPERS", escaped("In libexec/velara-studio, started by these programs and by no one else: "
                                       "velara-decode and velara-decode-all read one picture file each, in a sandbox "
                                       "(velara-decode --cage tells which of its layers hold on this machine), "
-                                      "velara-encode makes AVIF and JPEG XL files, velara-scan accesses scanners.\n"
+                                      "velara-encode makes AVIF and JPEG XL files, velara-scan accesses scanners, "
+                                      "velara-batch becomes velara-batch-all to draw texts and icons.\n"
                                       "The manual with pictures opens by F1, and lies in "
                                       "share/doc/velara-studio/manual."));
 }

@@ -24,7 +24,8 @@ constexpr QRect kFixedArea(0, 0, 800, 600); // whatever the screen's size: odd, 
 /// With the pointer drawn in.
 ScreenPicture overlaid(ScreenPicture picture)
 {
-    const QImage& pointer = picture.pointer.image;
+    if (!picture.pointer.image) return picture;
+    const QImage& pointer = *picture.pointer.image;
     const QRect whole(0, 0, picture.bits.width(), picture.bits.height());
     const QRect place = QRect(picture.pointer.at, pointer.size()) & whole;
     if (place.isEmpty()) return picture;

@@ -1,6 +1,7 @@
 #include "batch/many/Coordinator.h"
 #include "batch/BatchPlatform.h"
 #include "batch/many/Worker.h"
+#include "fileio/waitFor.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "seams/printable.h"
 #include <array>
@@ -13,7 +14,6 @@
 #include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace velara {
@@ -58,7 +58,7 @@ Coordinator::Coordinator(const CommandLine& line, const Plan& plan, Report& repo
       memory_(MemoryBudget::available() / 4 * 3), begun_(Clock::now()), lateNames_(*line.many, plan),
       hasBar_(isatty(STDERR_FILENO) == 1)
 {
-    outcome_.tally.total = static_cast<int>(plan.pictures.size());
+    outcome_.tally.total = plan.size();
     const sigset_t set = endingSignals();
     sigprocmask(SIG_BLOCK, &set, nullptr); // of the workers, too: they end with this program
     signals_ = Descriptor(signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK));
@@ -97,17 +97,18 @@ int Coordinator::takePicture()
         return picture;
     }
     tellSkipped();
-    return nextPicture_ < plan_.pictures.size() && !isStopping_ ? static_cast<int>(nextPicture_++) : -1;
+    return nextPicture_ < plan_.size() && !isStopping_ ? nextPicture_++ : -1;
 }
 
 /// The next ones that need no work, or can't be worked on.
 void Coordinator::tellSkipped()
 {
-    for (; nextPicture_ < plan_.pictures.size() && !isStopping_; ++nextPicture_) {
-        const PlannedPicture& next = plan_.pictures[nextPicture_];
-        if (!next.isSkipped && next.fault.isEmpty()) return;
-        Told told{next.isSkipped ? Told::Skipped : Told::Failed, static_cast<std::int32_t>(nextPicture_)};
-        done(told, next.isSkipped ? QStringLiteral("the output is there") : next.fault);
+    for (; nextPicture_ < plan_.size() && !isStopping_; ++nextPicture_) {
+        const bool isSkipped = plan_.isSkipped(nextPicture_);
+        const auto fault = plan_.faults.find(nextPicture_);
+        if (!isSkipped && fault == plan_.faults.end()) return;
+        done({isSkipped ? Told::Skipped : Told::Failed, nextPicture_},
+             isSkipped ? QStringLiteral("the output is there") : fault->second);
     }
 }
 
@@ -210,17 +211,16 @@ void Coordinator::name(Hand& hand, const Told& told)
 void Coordinator::done(const Told& told, const QString& reason)
 {
     static constexpr const char* kResults[] = {"", "done", "skipped", "failed"};
-    const PlannedPicture& picture = plan_.pictures[static_cast<std::size_t>(told.picture)];
     const auto named = named_.extract(told.picture);
-    const QString& output = named ? named.mapped() : picture.output;
+    const QString input = plan_.input(told.picture), output = named ? named.mapped() : plan_.output(told.picture);
     Tally& tally = outcome_.tally;
     (told.kind == Told::Written ? tally.done : told.kind == Told::Skipped ? tally.skipped : tally.failed) += 1;
-    report_.add({picture.input, output, kResults[told.kind], told.bytes, told.milliseconds, reason});
+    report_.add({input, output, kResults[told.kind], told.bytes, told.milliseconds, reason});
     if (told.kind == Told::Failed) {
-        say(picture.input + QStringLiteral(": ") + reason);
+        say(input + QStringLiteral(": ") + reason);
         if (line_.many->stopAtFirst) stop(QStringLiteral("no other picture is begun, as --stop-at-first says"));
     } else if (line_.verbose) {
-        say(picture.input + QStringLiteral(" -> ") + output + QStringLiteral(": ") + kResults[told.kind]);
+        say(input + QStringLiteral(" -> ") + output + QStringLiteral(": ") + kResults[told.kind]);
     }
     if (told.diskIsFull) stop(QStringLiteral("no other picture is begun, since the disk is full"));
     show(false);
@@ -229,9 +229,7 @@ void Coordinator::done(const Told& told, const QString& reason)
 /// A worker that ended by itself: the picture that it worked on is to blame, the one that it read ahead is not.
 void Coordinator::ended(Hand& hand)
 {
-    int status = 0;
-    while (waitpid(hand.pid, &status, 0) < 0 && errno == EINTR) continue;
-    hand.pid = -1;
+    const int status = waitFor(std::exchange(hand.pid, -1));
     if (hand.next >= 0) again_.push_front(hand.next);
     hand.next = -1;
     if (hand.current >= 0) done({Told::Failed, hand.current}, reasonOfEnd(status));
@@ -271,8 +269,7 @@ Coordinator::Outcome Coordinator::run()
         hand.socket.close();
         if (isAtOnce_ || isStopping_) kill(hand.pid, SIGKILL); // they may be in the middle of reading
     }
-    for (const Hand& hand : hands_)
-        while (waitpid(hand.pid, nullptr, 0) < 0 && errno == EINTR) continue;
+    for (const Hand& hand : hands_) waitFor(hand.pid);
     outcome_.seconds = seconds();
     return outcome_;
 }

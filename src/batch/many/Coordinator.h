@@ -72,7 +72,7 @@ class Coordinator {
     const std::int64_t memory_; // bytes that the pictures worked on may need together
     std::chrono::steady_clock::time_point begun_, shown_;
     Outcome outcome_;
-    std::size_t nextPicture_ = 0;
+    int nextPicture_ = 0;
     LateNames lateNames_;
     std::map<int, QString> named_; // the outputs of pictures that are being written, where they were named late
     std::deque<int> again_;        // pictures of a worker that ended before it began them

@@ -1,12 +1,10 @@
 #include "batch/many/Plan.h"
 #include "batch/Failure.h"
+#include "batch/inputs/NumberTable.h"
 #include "batch/names/NamePattern.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include <QDir>
-#include <map>
-#include <set>
-#include <unordered_map>
 
 namespace velara {
 
@@ -21,19 +19,31 @@ QString folderOf(const QString& path)
 /// Tells by which outputs one file would be written: by what is there, and by folder and name where nothing is.
 class Targets {
   public:
-    /// The input that has taken it before; -1: none.
-    int take(const QString& output, const std::optional<struct stat>& there, int input)
+    /// The name of an output that was put in with a number.
+    using OutputOf = std::function<QString(int number)>;
+    explicit Targets(OutputOf outputOf) : outputOf_(std::move(outputOf)) {}
+
+    /// The number with which it was taken before; -1: with none, and it is now.
+    int take(const QString& output, const std::optional<struct stat>& there, int number)
     {
         if (there) {
-            const auto [at, isNew] = files_.try_emplace({there->st_dev, there->st_ino}, input);
-            return isNew ? -1 : at->second;
+            const FileIdentity file{there->st_dev, there->st_ino};
+            return files_.findOrPut(keyOf(file), number, [&](int other) {
+                const auto status = statusOf(outputOf_(other));
+                return status && FileIdentity{status->st_dev, status->st_ino} == file;
+            });
         }
-        const QByteArray name = nativeName(realFolder(folderOf(output)) + u'/' + lastName(output));
-        const auto [at, isNew] = names_.try_emplace(std::string(name.constData(), std::size_t(name.size())), input);
-        return isNew ? -1 : at->second;
+        const QByteArray place = placeOf(output);
+        return names_.findOrPut({place.constData(), std::size_t(place.size())}, number,
+                                [&](int other) { return placeOf(outputOf_(other)) == place; });
     }
 
   private:
+    QByteArray placeOf(const QString& output)
+    {
+        return nativeName(realFolder(folderOf(output)) + u'/' + lastName(output));
+    }
+
     /// With its links resolved, as far as it is there.
     const QString& realFolder(const QString& folder)
     {
@@ -48,88 +58,109 @@ class Targets {
         return at->second;
     }
 
-    std::map<FileIdentity, int> files_;
-    std::unordered_map<std::string, int> names_;
+    const OutputOf outputOf_;
+    NumberTable files_, names_;
     std::map<QString, QString> folders_;
 };
 
 class Planner {
   public:
-    Planner(const ManyOrder& order, const std::vector<InputFile>& inputs, const EndingOf& endingOf)
-        : order_(order), inputs_(inputs), endingOf_(endingOf),
-          isLate_(!order.inPlace && NamePattern(order.pattern).isLate())
+    Planner(const ManyOrder& order, InputFiles files, const EndingOf& endingOf)
+        : plan_{order, std::move(files), endingOf}, targets_([this](int taken) { return takenName(taken); })
     {
-        for (int i = 0; i < static_cast<int>(inputs.size()); ++i)
-            if (inputs[std::size_t(i)].identity != FileIdentity{})
-                byIdentity_.emplace(inputs[std::size_t(i)].identity, i);
+        const InputFiles& inputs = plan_.inputs;
+        plan_.isLate = !order.inPlace && NamePattern(order.pattern).isLate();
+        for (int i = 0; i < inputs.size(); ++i) {
+            const FileIdentity file = inputs.identity(i);
+            if (file == FileIdentity{}) continue;
+            byIdentity_.findOrPut(keyOf(file), i, [&](int other) { return inputs.identity(other) == file; });
+            if (plan_.isLate) plan_.originals.insert(file);
+        }
     }
 
     Plan plan()
     {
-        Plan plan;
-        for (int i = 0; i < static_cast<int>(inputs_.size()); ++i) {
-            const InputFile& input = inputs_[std::size_t(i)];
-            const NameFacts facts = factsOf(input, i + 1);
-            QString output = order_.inPlace ? input.path : outputOf(order_, facts);
-            auto there = statusOf(output);
-            check(input, i, output, there);
-            if (shardOf(input.dir, lastName(input.path), order_.shard.count) != order_.shard.index) continue;
-            if (there && order_.existing == Existing::Number) output = numbered(output);
-            const bool isSkipped = there && isLeft(order_, {input.seconds, input.nanoseconds},
-                                                   {there->st_mtim.tv_sec, there->st_mtim.tv_nsec});
-            plan.pictures.push_back({input.path, output, isSkipped});
-            folders_.insert(folderOf(output));
-            if (isLate_) plan.late.push_back(facts);
+        const ManyOrder& order = plan_.order;
+        std::set<QString> folders;
+        for (int i = 0; i < plan_.inputs.size(); ++i) {
+            const InputFile input = plan_.inputs[i];
+            const QString output = plan_.plainOutput(i);
+            const auto there = statusOf(output);
+            check(i, input.path, output, there);
+            if (shardOf(input.dir, lastName(input.path), order.shard.count) != order.shard.index) continue;
+            Plan::Picture picture{i};
+            if (there && order.existing == Existing::Number) picture.number = freeNumber(i, output);
+            picture.isSkipped = there && isLeft(order, {input.seconds, input.nanoseconds},
+                                                {there->st_mtim.tv_sec, there->st_mtim.tv_nsec});
+            plan_.pictures.push_back(picture);
+            folders.insert(folderOf(output));
         }
-        if (isLate_)
-            for (const auto& [identity, input] : byIdentity_) plan.originals.insert(identity);
-        plan.folders = QStringList(folders_.begin(), folders_.end());
-        return plan;
+        plan_.folders = QStringList(folders.begin(), folders.end());
+        return std::move(plan_);
     }
 
   private:
-    NameFacts factsOf(const InputFile& input, int number) const
+    // What has taken a name: twice the place of an input, and one more where its output got a number.
+    static int plain(int input) { return 2 * input; }
+    static int numbered(int input) { return 2 * input + 1; }
+    QString takenName(int taken) const
     {
-        return {input.path, input.dir, endingOf_(extensionOf(lastName(input.path))), number, input.seconds};
+        return taken % 2 == 0 ? plan_.plainOutput(taken / 2) : plan_.output(taken / 2); // numbers: of one shard alone
     }
 
-    void check(const InputFile& input, int at, const QString& output, const std::optional<struct stat>& there)
+    void check(int at, const QString& input, const QString& output, const std::optional<struct stat>& there)
     {
-        if (const int other = targets_.take(output, there, at); other >= 0)
+        if (const int other = targets_.take(output, there, plain(at)); other >= 0)
             throw badArgument(QStringLiteral("%1 and %2 %3 both become %4; {dir} or {n} in --name keeps them apart")
-                                  .arg(inputs_[std::size_t(other)].path, input.path,
-                                       isLate_ ? QStringLiteral("may") : QStringLiteral("would"), output));
-        if (!there || order_.inPlace) return;
-        const auto original = byIdentity_.find({there->st_dev, there->st_ino});
-        if (original != byIdentity_.end())
+                                  .arg(plan_.inputs.path(other / 2), input,
+                                       plan_.isLate ? QStringLiteral("may") : QStringLiteral("would"), output));
+        if (!there || plan_.order.inPlace) return;
+        const FileIdentity file{there->st_dev, there->st_ino};
+        const int original =
+            byIdentity_.find(keyOf(file), [&](int other) { return plan_.inputs.identity(other) == file; });
+        if (original >= 0)
             throw badArgument(
                 QStringLiteral("%1 would be written over %2, which is an input; --in-place --yes changes originals")
-                    .arg(input.path, inputs_[std::size_t(original->second)].path));
+                    .arg(input, plan_.inputs.path(original)));
     }
 
     /// "a.jpg" becomes "a-2.jpg", or the next that neither is there nor another output.
-    QString numbered(const QString& output)
+    int freeNumber(int at, const QString& output)
     {
         for (int number = 2;; ++number) {
             const QString name = numberedName(output, number);
-            if (!isThere(name) && targets_.take(name, {}, -2) == -1) return name;
+            if (!isThere(name) && targets_.take(name, {}, numbered(at)) == -1) return number;
         }
     }
 
-    const ManyOrder& order_;
-    const std::vector<InputFile>& inputs_;
-    const EndingOf& endingOf_;
-    const bool isLate_;
-    std::map<FileIdentity, int> byIdentity_;
+    Plan plan_;
+    NumberTable byIdentity_;
     Targets targets_;
-    std::set<QString> folders_;
 };
 
 } // namespace
 
-Plan planOf(const ManyOrder& order, const std::vector<InputFile>& inputs, const EndingOf& endingOf)
+NameFacts Plan::factsOf(int input) const
 {
-    return Planner(order, inputs, endingOf).plan();
+    const InputFile file = inputs[input];
+    return {file.path, file.dir, endingOf(extensionOf(lastName(file.path))), input + 1, file.seconds};
+}
+
+QString Plan::plainOutput(int input) const
+{
+    return order.inPlace ? inputs.path(input) : outputOf(order, factsOf(input));
+}
+
+QString Plan::output(int picture) const
+{
+    const Picture& planned = pictures[static_cast<std::size_t>(picture)];
+    const QString plain = plainOutput(planned.input);
+    return planned.number > 1 ? numberedName(plain, planned.number) : plain;
+}
+
+Plan planOf(const ManyOrder& order, InputFiles inputs, const EndingOf& endingOf)
+{
+    return Planner(order, std::move(inputs), endingOf).plan();
 }
 
 QString outputOf(const ManyOrder& order, const NameFacts& facts)

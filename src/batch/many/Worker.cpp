@@ -1,5 +1,6 @@
 #include "batch/many/Worker.h"
 #include "batch/BatchPlatform.h"
+#include "batch/drawing.h"
 #include "batch/fonts.h"
 #include "batch/names/LateNames.h"
 #include "batch/onePicture.h"
@@ -34,8 +35,8 @@ double millisecondsSince(Clock::time_point begin)
 QStringList extensionsOf(const Plan& plan)
 {
     std::set<QString> all;
-    for (const PlannedPicture& picture : plan.pictures)
-        if (!picture.isSkipped) all.insert(extensionOf(picture.input).toLower());
+    for (int i = 0; i < plan.size(); ++i)
+        if (!plan.isSkipped(i)) all.insert(extensionOf(plan.input(i)).toLower());
     return {all.begin(), all.end()};
 }
 
@@ -67,14 +68,12 @@ class Worker {
     }
 
   private:
-    const PlannedPicture& planned(int picture) const { return plan_.pictures[static_cast<std::size_t>(picture)]; }
-
     void begin(int picture)
     {
         readings_.push_back(std::make_unique<Reading>(Reading{picture}));
         reader_.start([this, reading = readings_.back().get()] {
             const auto from = Clock::now();
-            const QString& path = planned(reading->picture).input;
+            const QString path = plan_.input(reading->picture);
             try {
                 reading->loaded = platform_.loadPicture(path, extensionOf(path));
             } catch (const std::bad_alloc&) {
@@ -126,10 +125,10 @@ class Worker {
 
     Told::Kind make(Reading& reading)
     {
-        output_ = planned(reading.picture).output;
+        output_ = plan_.output(reading.picture);
         session_.adopt(std::exchange(reading.loaded, {}), line_.partial, line_.lastGoingBack() >= 0);
         takeSteps(session_, line_);
-        if (!plan_.late.empty() && !isNamed(reading.picture)) return Told::Skipped;
+        if (plan_.isLate && !isNamed(reading.picture)) return Told::Skipped;
         if (line_.many->existing == Existing::Skip && !line_.many->inPlace && isThere(output_)) return Told::Skipped;
         makeFolder(output_.left(output_.lastIndexOf(u'/')));
         writePictureOf(session_, line_, output_);
@@ -200,7 +199,7 @@ class Worker {
 void work(const CommandLine& line, const Plan& plan, int socket)
 {
     // Made in each worker: programs that share one by a fork share its ways to be woken, too.
-    const auto application = makeApplication(line);
+    const auto application = makeApplication(drawsText(line));
     OutputFile::lookForStrays(false);
     BlockPool::instance().keepSeveral(kKeptBlocks);
     Worker worker(line, plan, socket);

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <ranges>
 #include <sys/stat.h>
 
 namespace velara {
@@ -27,26 +28,28 @@ EndingOf endingsOf(const CommandLine& line)
 void refuseWhatIsNotWritten(const CommandLine& line, Plan& plan)
 {
     if (line.web || line.icon) return; // whatever their names
-    for (PlannedPicture& picture : plan.pictures) {
-        const Format* format = formatOf(picture.output);
+    for (int i = 0; i < plan.size(); ++i) {
+        const QString output = plan.output(i);
+        const Format* format = formatOf(output);
         if (!format || !format->saved())
-            picture.fault = QStringLiteral("no picture is written as .%1; --format says another one of %2")
-                                .arg(extensionOf(picture.output), savedExtensions());
+            plan.faults[i] = QStringLiteral("no picture is written as .%1; --format says another one of %2")
+                                 .arg(extensionOf(output), savedExtensions());
     }
 }
 
 /// A report that would be written over a picture is refused.
-void checkReport(const QString& report, const std::vector<InputFile>& inputs, const Plan& plan)
+void checkReport(const QString& report, const Plan& plan)
 {
     const auto status = statusOf(report);
     if (report.isEmpty() || !status || !S_ISREG(status->st_mode)) return;
     const FileIdentity itself{status->st_dev, status->st_ino};
-    const auto isIt = [&](const PlannedPicture& picture) {
-        const auto there = statusOf(picture.output);
+    const auto isInput = [&](int at) { return plan.inputs.identity(at) == itself; };
+    const auto isOutput = [&](int picture) {
+        const auto there = statusOf(plan.output(picture));
         return there && FileIdentity{there->st_dev, there->st_ino} == itself;
     };
-    if (std::ranges::find(inputs, itself, &InputFile::identity) != inputs.end() ||
-        std::ranges::any_of(plan.pictures, isIt))
+    if (std::ranges::any_of(std::views::iota(0, plan.inputs.size()), isInput) ||
+        std::ranges::any_of(std::views::iota(0, plan.size()), isOutput))
         throw badArgument(QStringLiteral("--report: %1 is one of the pictures").arg(report));
 }
 
@@ -60,7 +63,7 @@ void prepareFolders(const ManyOrder& order, const Plan& plan)
 /// At most as many as there are pictures to work on.
 int jobsFor(const ManyOrder& order, const Plan& plan)
 {
-    const auto work = std::ranges::count(plan.pictures, false, &PlannedPicture::isSkipped);
+    const auto work = std::ranges::count(plan.pictures, false, &Plan::Picture::isSkipped);
     const int wanted = order.jobs > 0 ? order.jobs : threadCount();
     return static_cast<int>(std::clamp<std::ptrdiff_t>(work, 1, wanted));
 }
@@ -72,16 +75,16 @@ int runMany(CommandLine line)
     const ManyOrder& order = *line.many;
     if (!order.inPlace && isThere(order.into) && !isFolder(order.into))
         throw badArgument(QStringLiteral("--into: %1 is no folder").arg(order.into));
-    const InputList list = findInputs(order.inputs, order.recursive, order.into);
-    Plan plan = planOf(order, list.files, endingsOf(line));
+    InputList list = findInputs(order.inputs, order.recursive, order.into);
+    Plan plan = planOf(order, std::exchange(list.files, {}), endingsOf(line));
     refuseWhatIsNotWritten(line, plan);
-    checkReport(order.report, list.files, plan);
+    checkReport(order.report, plan);
     BatchPlatform platform;
     for (const LineStep& step : line.steps)
         if (step.prepare) step.prepare([&](const QString& path) { return readArgument(platform, path, line.partial); });
     takeFontsOfForks(line, platform);
     for (const QString& notice : list.notices) complain(printable(notice));
-    if (list.files.empty()) throw fileFault(QStringLiteral("there are no pictures among the INPUTs"));
+    if (plan.inputs.isEmpty()) throw fileFault(QStringLiteral("there are no pictures among the INPUTs"));
     prepareFolders(order, plan);
     Report report(order.report);
 

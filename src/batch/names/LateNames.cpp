@@ -11,7 +11,7 @@ FileTime timeOf(const struct stat& status) { return {status.st_mtim.tv_sec, stat
 
 QString lateOutput(const ManyOrder& order, const Plan& plan, const Told& named, const WorkOrder& answer)
 {
-    NameFacts facts = plan.late[static_cast<std::size_t>(named.picture)];
+    NameFacts facts = plan.facts(named.picture);
     facts.width = named.width;
     facts.height = named.height;
     const QString output = outputOf(order, facts);
@@ -22,7 +22,7 @@ QString lateRefusal(const Plan& plan, const QString& output, const WorkOrder& an
 {
     if (answer.picture < 0) return QStringLiteral("%1 is an input; --in-place --yes changes originals").arg(output);
     return QStringLiteral("%1 has become %2 already; {dir} or {n} in --name keeps them apart")
-        .arg(plan.pictures[static_cast<std::size_t>(answer.picture)].input, output);
+        .arg(plan.input(answer.picture), output);
 }
 
 bool LateNames::isTaken(const QString& output) const { return taken_.contains(output) || isThere(output); }
@@ -38,7 +38,7 @@ WorkOrder LateNames::answer(const Told& named, QString& output)
         return {WorkOrder::Refuse, other->second};
     } else if (const auto there = statusOf(output)) {
         if (plan_.originals.contains({there->st_dev, there->st_ino})) return {WorkOrder::Refuse, -1};
-        const auto input = statusOf(plan_.pictures[static_cast<std::size_t>(named.picture)].input);
+        const auto input = statusOf(plan_.input(named.picture));
         if (isLeft(order_, input ? timeOf(*input) : FileTime(), timeOf(*there))) answer.kind = WorkOrder::Leave;
     }
     taken_.emplace(output, named.picture);

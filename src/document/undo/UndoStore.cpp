@@ -86,6 +86,8 @@ UndoStore::~UndoStore()
     series_->mark.release(); // now: the last job may keep the series alive a moment longer
 }
 
+bool UndoStore::hasFolder() const { return !series_->files.folder().isEmpty(); }
+
 int UndoStore::number() const { return series_->files.number(); }
 
 int UndoStore::UndoStep() const

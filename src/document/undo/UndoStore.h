@@ -59,6 +59,8 @@ class UndoStore {
     UndoStore& operator=(const UndoStore&) = delete;
 
     int number() const;
+    /// It was given a folder: where not, nothing can be seen of what is saved.
+    bool hasFolder() const;
     int UndoStep() const; // snapshots up to and including the state shown
     int UndoTop() const;  // snapshots in the series
     bool canUndo() const;

@@ -20,6 +20,8 @@ class ByteSink {
     virtual void expect(std::int64_t /*bytes*/) {}
     /// For long work between two writes: false ends it.
     virtual bool goesOn() = 0;
+    /// Of a picture that is still being read: waits for a row. False: it doesn't come, and the file isn't wanted.
+    virtual bool awaitRow(int) { return true; }
 };
 
 /// Keeps only the number of bytes.

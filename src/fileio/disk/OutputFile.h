@@ -48,9 +48,13 @@ class OutputFile final : public ByteSink {
     /// Called now and then while the file is written; when it returns false, the write fails.
     void setGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
+    /// Called before rows of a picture are read that may not be there yet; see ByteSink::awaitRow.
+    void setAwaitRow(std::function<bool(int)> awaitRow) { awaitRow_ = std::move(awaitRow); }
+
     bool write(const void* bytes, std::size_t size) override;
     void expect(std::int64_t bytes) override;
     bool goesOn() override;
+    bool awaitRow(int row) override { return !awaitRow_ || awaitRow_(row); }
     /// Returns less than size at the end or on an error.
     std::size_t read(void* bytes, std::size_t size);
     /// whence as for lseek.
@@ -74,6 +78,7 @@ class OutputFile final : public ByteSink {
 
     QByteArray target_, temporary_; // temporary_ empty: it has no name
     std::function<bool()> goOn_;
+    std::function<bool(int)> awaitRow_;
     std::unique_ptr<std::uint8_t[]> buffer_;
     std::size_t used_ = 0, unasked_ = 0;
     int file_ = -1, error_ = 0;

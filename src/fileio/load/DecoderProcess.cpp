@@ -1,6 +1,7 @@
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/startReader.h"
+#include "fileio/waitFor.h"
 #include <QDir>
 #include <QFile>
 #include <algorithm>
@@ -15,7 +16,6 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -153,7 +153,7 @@ std::optional<DecoderProcess::Wait> DecoderProcess::look(bool silent)
     constexpr auto kStopped = 5s; // longer than any machine is busy: this program itself was stopped meanwhile
     if (const auto late = steady_clock::now() - nextLook_; late > kStopped) started_ += late;
     const auto waited = duration_cast<milliseconds>(steady_clock::now() - started_);
-    const Doing doing = doingOf(pid_);
+    const Doing doing = waited < kBetweenLooks ? Doing() : doingOf(pid_); // most have ended before the second look
     if (doing.idle && silent) ++idleLooks_; // a child that has sent something may be waiting for us
     if (doing.seconds > limits_.cpuSeconds + 1) return Wait::TimedOut; // the child is ignoring the soft limit's signal
     if (waited >= limits_.wallClock || idleLooks_ * kBetweenLooks >= limits_.idle) return Wait::TimedOut;
@@ -199,9 +199,7 @@ int DecoderProcess::end(std::chrono::milliseconds patience)
     }
     kill(-pid, SIGKILL);
     kill(pid, SIGKILL);
-    while (waitpid(pid, &status, 0) < 0)
-        if (errno != EINTR) return -1;
-    return status;
+    return waitFor(pid);
 }
 
 } // namespace velara

@@ -5,9 +5,10 @@
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/DecoderProcess.h"
 #include "fileio/load/ReadPolicy.h"
-#include "fileio/load/Shrinker.h"
+#include "fileio/load/rowsOf.h"
 #include "fileio/marks.h"
 #include "pixels/memory/MemoryBudget.h"
+#include "pixels/threads/WrittenRows.h"
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
@@ -18,7 +19,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <new>
-#include <optional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -34,20 +34,6 @@ constexpr const char* kGivenUp = "reading it was given up";
 constexpr const char* kTooLong = "reading it took too long and was stopped";
 constexpr int kSanitizerSpoke = 99; // the exit code set by make test-sanitize
 constexpr const char* kNonsense = "the program that reads pictures (velara-decode) gave a false answer";
-
-/// Opens the file for reading; reason says why starting a reader would be pointless.
-Descriptor openPicture(const QString& path, QString& reason)
-{
-    Descriptor file(open(nativeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (file.isOpen()) return file;
-    if (errno == ENOENT || errno == ENOTDIR)
-        reason = "there is no such file";
-    else if (errno == EACCES || errno == EPERM)
-        reason = "there is no permission to read it";
-    else
-        reason = QString("the system says \"%1\"").arg(QString::fromLocal8Bit(std::strerror(errno)));
-    return file;
-}
 
 /// Its size in bytes; returns why starting a reader would be pointless.
 QString faultOfFile(const Descriptor& file, std::int64_t& size)
@@ -91,11 +77,10 @@ QString faultOf(Wait wait, DecoderProcess& child)
     }
 }
 
-void copyRows(const Pixel* slot, Bits& bits, int first, int count)
+void copyRows(const Pixel* slot, const WrittenRows& rows, std::size_t width, int first, int count)
 {
-    const auto width = static_cast<std::size_t>(bits.width());
     for (int y = first; y < first + count; ++y, slot += width) {
-        Pixel* row = bits.row(y);
+        Pixel* row = rows.row(y);
         for (std::size_t x = 0; x < width; ++x) // the fourth byte is ours, whatever the child wrote
             row[x] = std::bit_cast<Pixel>(std::bit_cast<std::uint32_t>(slot[x]) & 0xffffffU);
         std::memset(row - Bits::kMargin, 0, sizeof(Pixel) * Bits::kMargin);
@@ -107,17 +92,6 @@ void clearMarginRow(Bits& bits, int y)
 {
     std::memset(bits.row(y) - Bits::kMargin, 0, sizeof(Pixel) * static_cast<std::size_t>(bits.stride()));
 }
-
-/// Takes `count` rows of the picture's width, top down.
-using RowTaker = std::function<void(const Pixel* rows, int first, int count)>;
-using Parts = std::array<QByteArray, decode::kParts>;
-/// Called once the size is known.
-using Begin = std::function<RowTaker(const decode::Opening& opening, const Parts& parts)>;
-
-struct Ending {
-    bool whole;     // all rows have arrived
-    QString reason; // why not, or why the picture is incomplete
-};
 
 /// Receives the rows from the slots as the child fills them.
 Ending receiveRows(DecoderProcess& child, int width, int height, const RowTaker& take)
@@ -235,26 +209,6 @@ Capacity capacityOf(const QString& format, const QString& mark, std::int64_t siz
 
 std::atomic<bool> inSrgb{true};
 
-Ending load(const Descriptor& file, const QString& extension, const QString& decoder, QStringList wishes,
-            const DecoderLimits& limits, const GoOn& goOn, const Begin& begin)
-try {
-    std::int64_t size = 0;
-    if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
-    if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
-    const QString format = extension.toLower();
-    const QString mark = markedFormat(file);
-    for (const QString& each : {format, mark})
-        if (isOff(each)) return {false, QString("limits.conf has turned .%1 files off").arg(each)};
-    if (!inSrgb) wishes << decode::kStoredWish;
-    DecoderProcess child(decoder, file, format, wishes, limitsWithin(limits, readPolicy()), goOn);
-    if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
-    return receivePicture(child, capacityOf(format, mark, size), begin);
-} catch (const NotEnoughMemory& refusal) {
-    return {false, refusal.what()};
-} catch (const std::bad_alloc&) {
-    return {false, "there is not enough memory for it"};
-}
-
 /// Dots per inch as they may be; else 0.
 double dotsOf(double claimed) { return claimed >= 1 && claimed <= 1e5 ? claimed : 0; }
 
@@ -287,14 +241,9 @@ QString formatIn(const decode::Opening& opening)
     return format ? QLatin1String(format->extension) : QString();
 }
 
-QString named(const Ending& ending, const QString& name)
-{
-    if (!ending.whole) return printable(name + " can't be read: " + ending.reason);
-    return ending.reason.isEmpty() ? QString() : printable(name + ": " + ending.reason);
-}
-
 LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QString& extension, const QString& decoder,
-                        const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn)
+                        const QStringList& wishes, const DecoderLimits& limits, const GoOn& goOn,
+                        const RowsCame& came = {})
 {
     LoadedPicture picture;
     Bits& bits = picture.bits;
@@ -310,7 +259,12 @@ LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QStri
                 bits = Bits::uninitialized(opening.width, height);
             }
             for (const int y : {-2, -1, height, height + 1}) clearMarginRow(bits, y);
-            return [&](const Pixel* rows, int first, int count) { copyRows(rows, bits, first, count); };
+            const WrittenRows to(bits); // who is told of rows may hold the picture, too
+            if (came) came(picture, 0);
+            return [&, to, width = std::size_t(opening.width)](const Pixel* rows, int first, int count) {
+                copyRows(rows, to, width, first, count);
+                if (came) came(picture, first + count);
+            };
         });
     if (!ending.whole) picture = {};
     picture.reason = named(ending, name);
@@ -318,6 +272,45 @@ LoadedPicture loadWhole(const Descriptor& file, const QString& name, const QStri
 }
 
 } // namespace
+
+Descriptor openPicture(const QString& path, QString& reason)
+{
+    Descriptor file(open(nativeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (file.isOpen()) return file;
+    if (errno == ENOENT || errno == ENOTDIR)
+        reason = "there is no such file";
+    else if (errno == EACCES || errno == EPERM)
+        reason = "there is no permission to read it";
+    else
+        reason = QString("the system says \"%1\"").arg(QString::fromLocal8Bit(std::strerror(errno)));
+    return file;
+}
+
+Ending load(const Descriptor& file, const QString& extension, const QString& decoder, QStringList wishes,
+            const DecoderLimits& limits, const GoOn& goOn, const Begin& begin)
+try {
+    std::int64_t size = 0;
+    if (const QString fault = faultOfFile(file, size); !fault.isEmpty()) return {false, fault};
+    if (decoder.isEmpty()) return {false, "the program that reads pictures (velara-decode) was not found"};
+    const QString format = extension.toLower();
+    const QString mark = markedFormat(file);
+    for (const QString& each : {format, mark})
+        if (isOff(each)) return {false, QString("limits.conf has turned .%1 files off").arg(each)};
+    if (!inSrgb) wishes << decode::kStoredWish;
+    DecoderProcess child(decoder, file, format, wishes, limitsWithin(limits, readPolicy()), goOn);
+    if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
+    return receivePicture(child, capacityOf(format, mark, size), begin);
+} catch (const NotEnoughMemory& refusal) {
+    return {false, refusal.what()};
+} catch (const std::bad_alloc&) {
+    return {false, "there is not enough memory for it"};
+}
+
+QString named(const Ending& ending, const QString& name)
+{
+    if (!ending.whole) return printable(name + " can't be read: " + ending.reason);
+    return ending.reason.isEmpty() ? QString() : printable(name + ": " + ending.reason);
+}
 
 void readInSrgb(bool on) { inSrgb = on; }
 
@@ -350,50 +343,28 @@ QString findHelper(const QString& name)
 }
 
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits, const GoOn& goOn, int page)
+                                 const DecoderLimits& limits, const GoOn& goOn, int page, const RowsCame& came)
 {
     QString reason;
     const QString name = QFileInfo(path).fileName();
     const Descriptor file = openPicture(path, reason);
     if (!file.isOpen()) return {{}, named({false, reason}, name)};
-    return loadThroughDecoder(file, name, extension, decoder, limits, goOn, page);
+    return loadThroughDecoder(file, name, extension, decoder, limits, goOn, page, came);
 }
 
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
-                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page)
+                                 const QString& decoder, const DecoderLimits& limits, const GoOn& goOn, int page,
+                                 const RowsCame& came)
 {
     QStringList wishes;
     if (page > 1) wishes << decode::kPageWish + QString::number(page);
-    return loadWhole(file, name, extension, decoder, wishes, limits, goOn);
+    return loadWhole(file, name, extension, decoder, wishes, limits, goOn, came);
 }
 
 LoadedPicture loadColourTable(const Descriptor& profile, const QString& decoder, const GoOn& goOn)
 {
     return loadWhole(profile, QStringLiteral("The screen's profile"), {}, decoder,
                      {decode::kTableWish, decode::kBareWish}, {}, goOn);
-}
-
-SmallPicture loadSmall(const QString& path, const QString& extension, const QString& decoder, QSize box,
-                       const DecoderLimits& limits, const GoOn& goOn)
-{
-    QString reason;
-    const QString name = QFileInfo(path).fileName();
-    const Descriptor file = openPicture(path, reason);
-    if (!file.isOpen()) return {{}, {}, {}, named({false, reason}, name)};
-    std::optional<Shrinker> shrinker;
-    SmallPicture small;
-    const QStringList wishes{decode::kBareWish};
-    const Ending ending = load(file, extension, decoder, wishes, limits, goOn, [&](const auto& opening, const Parts&) {
-        small.size = {opening.width, opening.height};
-        small.origin = opening.origin;
-        shrinker.emplace(small.size, box);
-        return [&](const Pixel* rows, int, int count) {
-            for (; count > 0; --count, rows += small.size.width()) shrinker->take(rows);
-        };
-    });
-    if (ending.whole) small.image = shrinker->image();
-    small.reason = named(ending, name);
-    return small;
 }
 
 } // namespace velara

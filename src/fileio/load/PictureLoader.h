@@ -6,6 +6,7 @@
 #include "seams/Platform.h"
 #include <QImage>
 #include <chrono>
+#include <functional>
 
 namespace velara {
 
@@ -33,14 +34,19 @@ inline QString findDecoder() { return findHelper("velara-decode"); }
 /// any thread.
 void readInSrgb(bool on);
 
+/// Told while a picture is read, in the thread that reads it: what is known of it, and how many of its rows are there.
+/// The first time there are none. A copy of its pixels may be read up to that row by another thread.
+using RowsCame = std::function<void(const LoadedPicture& picture, int rows)>;
+
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
 /// page: from 1. reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".
 LoadedPicture loadThroughDecoder(const QString& path, const QString& extension, const QString& decoder,
-                                 const DecoderLimits& limits = {}, const GoOn& goOn = {}, int page = 1);
+                                 const DecoderLimits& limits = {}, const GoOn& goOn = {}, int page = 1,
+                                 const RowsCame& came = {});
 /// The same for a file already open for reading; name is used in the reason.
 LoadedPicture loadThroughDecoder(const Descriptor& file, const QString& name, const QString& extension,
                                  const QString& decoder, const DecoderLimits& limits = {}, const GoOn& goOn = {},
-                                 int page = 1);
+                                 int page = 1, const RowsCame& came = {});
 
 /// The table of a screen's colours (ColourTablePicture.h) by its profile. No picture: it needs none, or it is not
 /// usable.

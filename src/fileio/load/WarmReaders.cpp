@@ -2,12 +2,12 @@
 #include "fileio/load/DecodeProtocol.h"
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/PictureLoader.h"
+#include "fileio/waitFor.h"
 #include <array>
 #include <cstring>
 #include <fcntl.h>
 #include <mutex>
 #include <sys/socket.h>
-#include <sys/wait.h>
 
 namespace velara {
 
@@ -83,7 +83,7 @@ WarmReaders::~WarmReaders()
     line.close();
     if (!started()) return;
     startReader = cold;
-    waitpid(pid_, nullptr, 0);
+    waitFor(pid_);
 }
 
 } // namespace velara

@@ -2,6 +2,7 @@
 #include "fileio/cameraData.h"
 #include "fileio/load/Descriptor.h"
 #include "fileio/load/PictureLoader.h"
+#include "fileio/waitFor.h"
 #include "fileio/writers/packRows.h"
 #include "fileio/writers/pictureFiles.h"
 #include "pixels/threads/parallelFor.h"
@@ -15,7 +16,6 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/mman.h>
-#include <sys/wait.h>
 #include <system_error>
 #include <thread>
 #include <unistd.h>
@@ -95,15 +95,6 @@ bool take(int pipe, ByteSink& to)
         if (got <= 0) return got == 0;
         if (!to.write(buffer.data(), static_cast<std::size_t>(got))) return false;
     }
-}
-
-/// Its exit status; -1 when it was ended.
-int waitFor(pid_t pid)
-{
-    int status = 0;
-    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
-    }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 /// Ends the process without waiting for it: to take down its memory lasts longer than an answer to Esc may.

@@ -151,6 +151,8 @@ bool JpegEncoder::encode(const Bits& picture, int quality, const CameraData& cam
                                static_cast<unsigned>(camera.profile.size()));
     while (info.next_scanline < info.image_height) {
         JSAMPROW rows[kRowsAtOnce];
+        if (!to.awaitRow(static_cast<int>(std::min(info.next_scanline + kRowsAtOnce, info.image_height)) - 1))
+            return false;
         JDIMENSION count = 0;
         for (; count < kRowsAtOnce && info.next_scanline + count < info.image_height; ++count)
             rows[count] = const_cast<JSAMPLE*>(picture.row(static_cast<int>(info.next_scanline + count))->c);

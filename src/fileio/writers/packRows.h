@@ -22,6 +22,7 @@ template <class Pack> bool writeRows(ByteSink& to, int height, std::size_t pitch
     to.expect(static_cast<std::int64_t>(pitch) * height);
     for (int done = 0; done < height;) {
         const int rows = std::min(together, height - done);
+        if (!to.awaitRow(bottomUp ? height - 1 - done : done + rows - 1)) return false;
         for (int i = 0; i < rows; ++i)
             pack(bottomUp ? height - 1 - done - i : done + i, band.data() + pitch * static_cast<std::size_t>(i));
         if (!to.write(band.data(), pitch * static_cast<std::size_t>(rows))) return false;

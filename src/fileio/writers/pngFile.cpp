@@ -51,7 +51,7 @@ class PngEncoder {
             png_set_filler(png_, 0, PNG_FILLER_AFTER);
         }
         for (int y = 0; y < height; ++y) {
-            if (!to_.goesOn()) return false;
+            if (!to_.goesOn() || !to_.awaitRow(y)) return false;
             png_write_row(png_, row(y));
         }
         png_write_end(png_, info_);

@@ -133,6 +133,7 @@ bool writeTiff(const Bits& picture, OutputFile& to, const CameraData& camera)
     std::uint32_t number = 0;
     for (int y = 0; y < height; y += together) {
         const int rows = std::min(together, height - y);
+        if (!to.awaitRow(y + rows - 1)) return false;
         for (int i = 0; i < rows; ++i)
             packRow24(picture.row(y + i), strip.data() + bytes * std::size_t(i), width, Order::RedFirst);
         const auto size = static_cast<tmsize_t>(bytes * std::size_t(rows));

@@ -191,8 +191,9 @@ TEST_F(UtilitiesTest, ACaptureMayHaveThePointerInIt)
 {
     showScreen();
     ScreenPicture& screen = platform.screen().picture;
-    screen.pointer = {QImage(3, 3, QImage::Format_ARGB32_Premultiplied), {38, 28}}; // half beyond the edge
-    screen.pointer.image.fill(qRgba(250, 0, 0, 255));
+    QImage pointer(3, 3, QImage::Format_ARGB32_Premultiplied);
+    pointer.fill(qRgba(250, 0, 0, 255));
+    screen.pointer = {std::make_shared<QImage>(pointer), {38, 28}}; // half beyond the edge
     for (const bool shown : {true, false}) {
         frame->run("@CAPTURE");
         control<QCheckBox>("fCapture", "chkPointer")->setChecked(shown);

@@ -37,7 +37,8 @@ struct PlanTest : FolderTest {
     QStringList found(const QStringList& inputs, bool recursive = true) const
     {
         QStringList paths;
-        for (const InputFile& file : list(inputs, recursive).files) paths << file.path;
+        const InputFiles files = list(inputs, recursive).files;
+        for (int i = 0; i < files.size(); ++i) paths << files.path(i);
         return below(paths);
     }
     Plan plan(const QStringList& inputs) const
@@ -47,8 +48,9 @@ struct PlanTest : FolderTest {
     QStringList outputs(const QStringList& inputs) const
     {
         QStringList paths;
-        for (const PlannedPicture& each : plan(inputs).pictures)
-            if (!each.isSkipped) paths << each.output;
+        const Plan made = plan(inputs);
+        for (int i = 0; i < made.size(); ++i)
+            if (!made.isSkipped(i)) paths << made.output(i);
         return below(paths);
     }
     QString refusal(const QStringList& inputs) const
@@ -85,9 +87,9 @@ TEST_F(PlanTest, NamesInOtherBytesStayThese)
     ASSERT_GE(file, 0);
     close(file);
     const Plan made = plan({"in"});
-    ASSERT_EQ(2U, made.pictures.size());
-    EXPECT_EQ(odd, nativeName(made.pictures[1].input));
-    EXPECT_EQ(QFile::encodeName(path("out/")) + "b\xe9.jpg", nativeName(made.pictures[1].output));
+    ASSERT_EQ(2, made.size());
+    EXPECT_EQ(odd, nativeName(made.input(1)));
+    EXPECT_EQ(QFile::encodeName(path("out/")) + "b\xe9.jpg", nativeName(made.output(1)));
 }
 
 TEST_F(PlanTest, TheTreeBelowAFolderIsKept)
@@ -147,6 +149,9 @@ TEST_F(PlanTest, WhatIsThereIsLeftReplacedNumberedOrRenewed)
         order.existing = existing;
         EXPECT_EQ(wanted, outputs({"in"})) << int(existing);
     }
+    make({"in/b-2.jpg"});
+    order.existing = Existing::Number;
+    EXPECT_TRUE(refusal({"in/b.jpg", "in/b-2.jpg"}).contains("both become")) << "one by its number";
 }
 
 TEST_F(PlanTest, ShardsShareTheWorkWhereverTheFolderIs)

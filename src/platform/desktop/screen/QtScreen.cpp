@@ -41,7 +41,7 @@ ScreenPicture grabByQt()
     }
     picture.windows = x11Windows();
     for (QRect& window : picture.windows) window = window.translated(-all.topLeft());
-    picture.pointer.image = x11Pointer(picture.pointer.at);
+    picture.pointer.image = std::make_shared<QImage>(x11Pointer(picture.pointer.at));
     picture.pointer.at -= all.topLeft();
     return picture;
 }

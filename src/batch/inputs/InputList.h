@@ -1,29 +1,12 @@
 // The pictures among the INPUTs: files, and what is in folders.
 #pragma once
-#include <QString>
+#include "batch/inputs/InputFiles.h"
 #include <QStringList>
-#include <cstdint>
-#include <sys/types.h>
-#include <vector>
 
 namespace velara {
 
-/// A file by what it is, whatever names it has.
-struct FileIdentity {
-    dev_t device = 0;
-    ino_t inode = 0;
-    auto operator<=>(const FileIdentity&) const = default;
-};
-
-struct InputFile {
-    QString path;
-    QString dir = {};                          // the folders between the INPUT and the file
-    FileIdentity identity = {};                // zeros: there is no such file
-    std::int64_t seconds = 0, nanoseconds = 0; // when it was last changed
-};
-
 struct InputList {
-    std::vector<InputFile> files;
+    InputFiles files;
     QStringList notices; // folders that were left out, and why
 };
 

@@ -1,4 +1,4 @@
-#include "batch/icon.h"
+#include "batch/outputs/icon.h"
 #include "batch/Failure.h"
 #include "fileio/writers/iconFile.h"
 #include <QRegularExpression>
@@ -21,12 +21,6 @@ IconOrder iconOrder(const QString& text)
                                      "32x32,mask:0x00BBGGRR")
                           .arg(text)
                           .arg(kMostIconSide));
-}
-
-void writeIcon(const Bits& picture, const IconOrder& order, const QString& output)
-{
-    if (!writeIcon(iconBytes(iconOf(picture, order.size, order.mask)), output))
-        throw fileFault(output + QStringLiteral(" can't be written"));
 }
 
 } // namespace velara

@@ -1,4 +1,5 @@
-#include "batch/many/InputList.h"
+#include "batch/inputs/InputList.h"
+#include "batch/inputs/NumberTable.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include <QCollator>
@@ -60,8 +61,10 @@ class Walk {
   private:
     void add(const QString& path, const QString& dir, const struct stat& status)
     {
-        if (known_.insert(path).second)
-            list.files.push_back({path, dir, identityOf(status), status.st_mtim.tv_sec, status.st_mtim.tv_nsec});
+        const QByteArray name = nativeName(path);
+        const auto isIt = [&](int at) { return list.files.path(at) == path; };
+        if (known_.findOrPut({name.constData(), std::size_t(name.size())}, list.files.size(), isIt) < 0)
+            list.files.add({path, dir, identityOf(status), status.st_mtim.tv_sec, status.st_mtim.tv_nsec});
     }
 
     void leaveOut(const QString& folder, const char* why)
@@ -98,7 +101,7 @@ class Walk {
     const NameOrder order_;
     FileIdentity into_;
     std::set<FileIdentity> folders_;
-    std::set<QString> known_;
+    NumberTable known_; // files by their paths
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "batch/web.h"
+#include "batch/outputs/web.h"
 #include "fileio/web/webFile.h"
 #include <QTemporaryDir>
 

@@ -14,7 +14,5 @@ struct IconOrder {
 
 /// Parses "WIDTHxHEIGHT" or "WIDTHxHEIGHT,mask:0x00BBGGRR"; throws a Failure that says what is allowed.
 IconOrder iconOrder(const QString& text);
-/// Throws Failure; an existing file is intact then.
-void writeIcon(const Bits& picture, const IconOrder& order, const QString& output);
 
 } // namespace velara
