@@ -107,6 +107,7 @@ HWY_INLINE std::uint64_t eachVectorOf(const Pixel* from, int n, const NearestCub
     constexpr Words d;
     std::uint64_t known = 0;
     for (int i = 0; i < n; i += kLanes) {
+        __builtin_prefetch(from + i + 512);
         alignas(HWY_MAX_BYTES) std::uint32_t rest[kLanes] = {};
         const bool whole = i + kLanes <= n;
         if (!whole) std::memcpy(rest, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
@@ -128,6 +129,7 @@ std::uint64_t coloursImpl(const Pixel* from, int n, const NearestCube* cubes, bo
 {
     constexpr Words d;
     return eachVector(from, n, cubes, squares, [&](int i, int count, V pixels, V nearest) HWY_ATTR {
+        __builtin_prefetch(to + i + 512, 1);
         const auto three = hn::Set(d, 0x00FFFFFFu);
         const auto colour = hn::Or(hn::And(three, nearest), hn::AndNot(three, pixels));
         if (HWY_LIKELY(count == kLanes)) return hn::StoreU(colour, d, reinterpret_cast<std::uint32_t*>(to + i));
