@@ -25,14 +25,14 @@ std::uint64_t pixelsLikeImpl(const Pixel* pixels, int count, Pixel seed, int tol
         std::uint32_t rest[kLanes] = {};
         const bool whole = i + kLanes <= count;
         if (!whole) std::memcpy(rest, pixels + i, sizeof(Pixel) * static_cast<std::size_t>(count - i));
-        const auto v =
-            hn::BitCast(d8, hn::LoadU(d, whole ? reinterpret_cast<const std::uint32_t*>(pixels + i) : rest));
+        const auto v = hn::BitCast(d8, hn::LoadU(d, whole ? reinterpret_cast<const std::uint32_t*>(pixels + i) : rest));
         const auto off = hn::BitCast(d, hn::Or(hn::SaturatedSub(v, wanted), hn::SaturatedSub(wanted, v)));
         const auto part = [&](auto shift) HWY_ATTR {
             return hn::And(hn::ShiftRight<decltype(shift)::value>(off), hn::Set(d, 255u));
         };
-        const auto sum = hn::Add(hn::Add(part(std::integral_constant<int, 0>()), part(std::integral_constant<int, 8>())),
-                                 part(std::integral_constant<int, 16>()));
+        const auto sum =
+            hn::Add(hn::Add(part(std::integral_constant<int, 0>()), part(std::integral_constant<int, 8>())),
+                    part(std::integral_constant<int, 16>()));
         std::uint64_t some = 0;
         std::uint8_t bytes[8] = {};
         hn::StoreMaskBits(d32, hn::Not(hn::Gt(hn::BitCast(d32, sum), most)), bytes);

@@ -34,8 +34,7 @@ template <bool squares> HWY_INLINE V distances(V a, V b)
     const hn::Repartition<std::int16_t, Words> d16;
     const hn::RebindToSigned<Words> d32;
     const auto p = hn::BitCast(d8, a), q = hn::BitCast(d8, b);
-    const auto off =
-        hn::And(hn::BitCast(d, hn::Or(hn::SaturatedSub(p, q), hn::SaturatedSub(q, p))), hn::Set(d, 0x00FFFFFFu));
+    const auto off = hn::BitCast(d, hn::Or(hn::SaturatedSub(p, q), hn::SaturatedSub(q, p)));
     if constexpr (squares) {
         const auto outer = hn::BitCast(d16, hn::And(off, hn::Set(d, 0x00FF00FFu)));
         const auto middle = hn::BitCast(d16, hn::And(hn::ShiftRight<8>(off), hn::Set(d, 0xFFu)));
@@ -51,8 +50,8 @@ template <bool squares> HWY_INLINE V distances(V a, V b)
         };
         return hn::BitCast(d, hn::Add(sum(outer), sum(middle)));
     } else {
-        const auto byte = hn::Set(d, 255u);
-        return hn::Add(hn::Add(hn::And(off, byte), hn::And(hn::ShiftRight<8>(off), byte)), hn::ShiftRight<16>(off));
+        const auto byte = [&](V v) HWY_ATTR { return hn::And(v, hn::Set(d, 255u)); };
+        return hn::Add(hn::Add(byte(off), byte(hn::ShiftRight<8>(off))), byte(hn::ShiftRight<16>(off)));
     }
 }
 
@@ -107,6 +106,7 @@ HWY_INLINE std::uint64_t eachVectorOf(const Pixel* from, int n, const NearestCub
     constexpr Words d;
     std::uint64_t known = 0;
     for (int i = 0; i < n; i += kLanes) {
+        __builtin_prefetch(from + i + 512);
         alignas(HWY_MAX_BYTES) std::uint32_t rest[kLanes] = {};
         const bool whole = i + kLanes <= n;
         if (!whole) std::memcpy(rest, from + i, sizeof(Pixel) * static_cast<std::size_t>(n - i));
@@ -128,6 +128,7 @@ std::uint64_t coloursImpl(const Pixel* from, int n, const NearestCube* cubes, bo
 {
     constexpr Words d;
     return eachVector(from, n, cubes, squares, [&](int i, int count, V pixels, V nearest) HWY_ATTR {
+        __builtin_prefetch(to + i + 512, 1);
         const auto three = hn::Set(d, 0x00FFFFFFu);
         const auto colour = hn::Or(hn::And(three, nearest), hn::AndNot(three, pixels));
         if (HWY_LIKELY(count == kLanes)) return hn::StoreU(colour, d, reinterpret_cast<std::uint32_t*>(to + i));
