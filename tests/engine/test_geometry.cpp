@@ -91,11 +91,12 @@ TEST(Geometry, WhatIsNotSelectedStaysInALargePicture)
     EXPECT_TRUE(sameBits(definedResult("Invert", before, ellipse, {}), run("Invert", {}, before, ellipse)));
 }
 
-/// Sizes at which pictures go past the cache, parts of a resize come next to a half, blocks and tiles are cut off, and
-/// blends that are next to a half, or halves, and have to be computed again.
+/// Sizes at which pictures go past the cache, parts of a resize and sources of warps come next to a half, blocks and
+/// tiles are cut off, and blends that are next to a half, or halves, and have to be computed again.
 TEST(Geometry, FastWaysAreAsDefined)
 {
     const Bits small = randomBits(451, 333, 6), large = randomBits(2051, 2053, 7), tile = randomBits(65, 9, 8);
+    const Bits wide = randomBits(6001, 201, 9), even = randomBits(450, 61, 10);
     const Region all = Region::rectangle(0, 0, 3000, 3000), ellipse = Region::ellipse(5, 3, 2001, 1900);
     const struct {
         const char* name;
@@ -112,6 +113,25 @@ TEST(Geometry, FastWaysAreAsDefined)
         {"BitsResample", {3001, 3}, small, all},
         {"BitsResample", {2, 700}, small, all},
         {"PIXELIZE", {2}, small, all},
+        {"PIXELIZE", {21}, small, all},
+        {"Halftone", {1, 20, 30}, small, all},
+        {"Halftone", {1, 20, 30}, even, all},
+        {"SHARPEN", {10}, small, all},
+        {"Blurs", {2}, large, all},
+        {"Flip", {false, true}, small, all},
+        {"Flip", {true, true}, even, all},
+        {"STRETCH", {50, -30, false}, wide, ellipse},
+        {"ROTATE", {30, true}, large, all},
+        {"ROTATE", {60, false}, wide, ellipse},
+        {"RotateSmooth", {30}, wide, all},
+        {"FOLD", {50, -50, true}, wide, all},
+        {"TWIRL", {20, 0, true}, large, all},
+        {"TWIRL", {-37, 33, false}, wide, all},
+        {"BEND", {0, true}, large, all},
+        {"BEND", {-57, false}, wide, all},
+        {"LENS", {0.5, 0.5, 0.45, 40}, large, all},
+        {"GLASS", {"slanting", 0}, large, all},
+        {"GLASS", {"slanting", 1}, large, all},
         {"GLASS", {"slanting", 0}, small, ellipse},
         {"GLASS", {"slanting", 1}, small, ellipse},
         {"TileMask", {tile, -7, 3, true, 33, 0x123456}, small, all},

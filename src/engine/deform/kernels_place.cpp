@@ -161,7 +161,8 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
         const auto back = hn::IfThenElseZero(isLeft, missing);
         const auto ox = hn::MulAdd(back, turnedY, turnedX), oy = hn::NegMulAdd(back, turnedX, turnedY);
         const auto roundX = rounded(d, ox), roundY = rounded(d, oy);
-        const auto tolerance = hn::MulAdd(r, hn::IfThenElse(isLeft, perRadiusLeft, perRadiusRight), least);
+        const auto isRight = hn::Gt(dx, hn::Zero(d)); // the column between has the larger error, too
+        const auto tolerance = hn::MulAdd(r, hn::IfThenElse(isRight, perRadiusRight, perRadiusLeft), least);
         const auto doubt =
             hn::Or(hn::Or(nearHalf(ox, roundX.value, half, tolerance), nearHalf(oy, roundY.value, half, tolerance)),
                    nearHalf(radius, r, half, hn::MulAdd(r, ofRadius, least)));
