@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster test-container monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster test-container monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-cores bench-formats gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -79,6 +79,10 @@ bench-formats: all
 # Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
 bench-check: all
 	@scripts/bench_check.py $(RELEASE)/bin/velara-bench
+
+# What part of one thread's time all cores take, by calling pattern, into docs/speed.md; for a machine at rest.
+bench-cores: all
+	@scripts/bench_cores.py $(RELEASE)/bin/velara-bench --into docs/speed.md
 
 # The same work by OpenCV, libvips, gm and convert, those that are installed, and the growth with the picture, into docs/speed.md.
 bench-peers: all
