@@ -3,7 +3,7 @@ JOBS ?= $(shell nproc)
 RELEASE := build/release
 export CMAKE_BUILD_PARALLEL_LEVEL := $(JOBS)
 
-.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster test-container monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-cores bench-formats gallery format check-format setup clean
+.PHONY: all run test test-fresh test-sanitize test-tsan test-arm64 bench-window bench-peers bench-many test-cluster test-container monkey fuzz reference reference-diff new-filter pictures translations mutate sbom install deb tarball test-package release screenshots movie bench bench-check bench-cores bench-formats bench-first-paint gallery format check-format setup clean
 
 all: setup
 	cmake --preset release >/dev/null
@@ -75,6 +75,12 @@ SAMPLE ?= docs/gallery/filters.png
 PHOTOS ?= $(SAMPLE)
 bench-formats: all
 	@scripts/bench_formats.py $(RELEASE)/bin --sample $(SAMPLE) --photos $(PHOTOS)
+
+# From the start of the program until a photograph is on the screen, beside eog and gthumb: make bench-first-paint RUNS=9 FORMATS="heic jpg"
+RUNS ?= 7
+FORMATS ?= heic jpg
+bench-first-paint: all
+	@scripts/bench_first_paint.sh $(RELEASE)/bin $(RUNS) $(FORMATS)
 
 # Fails when a row is worse than bench/baseline.json by more than 15 % in three tries; for a machine at rest.
 bench-check: all

@@ -203,9 +203,10 @@ void run(char** program, int until, Times& times, Cold& cold)
         if (!all.empty() && !window) window = since(start);
         for (const Window& each : all) {
             if (each.width < 600 || each.height < 400) continue;
-            if (!frame && colourAt(each.id, 3, 3) > 0) {
+            const pid_t process = owner > 1 ? owner : ownerOf(each.id); // what a window manager puts around it has none
+            if (!frame && process > 1 && colourAt(each.id, 3, 3) > 0) {
                 frame = since(start);
-                owner = ownerOf(each.id);
+                owner = process;
                 ran = busy(owner);
                 read = megabytesRead(owner);
             }

@@ -1,6 +1,7 @@
 // AVIF by libheif's encoder libaom.
 #include "fileio/encode/encoders.h"
-#include <cstring>
+#include <algorithm>
+#include <array>
 #include <libheif/heif.h>
 #include <memory>
 
@@ -21,22 +22,102 @@ template <class T> using Owned = std::unique_ptr<T, Free>;
 
 bool did(const heif_error& error) { return error.code == heif_error_Ok; }
 
+// --- The library's own planes, filled from the pixels: full range, by the matrix that BT.601 and JPEG have
+
+constexpr int kBits = 20; // of the fractions
+constexpr std::int64_t fixed(double value)
+{
+    return static_cast<std::int64_t>(value * (1 << kBits) + (value < 0 ? -0.5 : 0.5));
+}
+
+struct Weights {
+    std::int64_t red, green, blue, added;
+};
+constexpr Weights kLight{fixed(0.299), fixed(0.587), fixed(1) - fixed(0.299) - fixed(0.587), 0};
+constexpr Weights kBlueness{fixed(-0.299 / 1.772), fixed(0.299 / 1.772) - fixed(0.5), fixed(0.5), 128};
+constexpr Weights kRedness{fixed(0.5), fixed(0.114 / 1.402) - fixed(0.5), fixed(-0.114 / 1.402), 128};
+
+/// Of sums over 2^shift pixels.
+std::uint8_t weighted(const Weights& by, const std::array<std::int64_t, 3>& sums, int shift)
+{
+    const std::int64_t parts =
+        by.red * sums[0] + by.green * sums[1] + by.blue * sums[2] + (by.added << (kBits + shift));
+    return static_cast<std::uint8_t>(
+        std::clamp<std::int64_t>((parts + (1LL << (kBits + shift - 1))) >> (kBits + shift), 0, 255));
+}
+
+struct Plane {
+    std::uint8_t* at = nullptr;
+    int pitch = 0;
+    std::uint8_t* row(int y) const { return at + std::ptrdiff_t{y} * pitch; }
+};
+
+/// Null: it can't be had.
+Plane addPlane(heif_image* image, heif_channel channel, int width, int height)
+{
+    Plane plane;
+    if (did(heif_image_add_plane(image, channel, width, height, 8)))
+        plane.at = heif_image_get_plane(image, channel, &plane.pitch);
+    return plane;
+}
+
+/// Every pixel's light, and the colour of each square of 2^halvings pixels a side, whose last ones may lie partly
+/// outside: there the pixels at the edge count twice.
+void fill(const Picture& picture, const Plane& light, const Plane& blueness, const Plane& redness, int halvings)
+{
+    const int width = static_cast<int>(picture.request.width), height = static_cast<int>(picture.request.height);
+    const auto rowAt = [&](int y) { return picture.pixels + std::size_t(std::min(y, height - 1)) * width * 3; };
+    for (int y = 0; y < height; ++y) {
+        const std::uint8_t* from = rowAt(y);
+        for (int x = 0; x < width; ++x, from += 3) light.row(y)[x] = weighted(kLight, {from[0], from[1], from[2]}, 0);
+    }
+    const int side = 1 << halvings;
+    for (int y = 0; y < height; y += side)
+        for (int x = 0; x < width; x += side) {
+            std::array<std::int64_t, 3> sums{};
+            for (int i = 0; i < side; ++i)
+                for (int j = 0; j < side; ++j)
+                    for (int c = 0; c < 3; ++c) sums[c] += rowAt(y + i)[3 * std::min(x + j, width - 1) + c];
+            blueness.row(y >> halvings)[x >> halvings] = weighted(kBlueness, sums, 2 * halvings);
+            redness.row(y >> halvings)[x >> halvings] = weighted(kRedness, sums, 2 * halvings);
+        }
+}
+
+bool hasFineChroma(const Request& request) { return request.quality >= kFineChroma; }
+
+/// What the planes mean; the profile, if there is one, says it of the colours.
+bool setColours(heif_image* image, const Picture& picture)
+{
+    const std::unique_ptr<heif_color_profile_nclx, void (*)(heif_color_profile_nclx*)> numbers(
+        heif_nclx_color_profile_alloc(), heif_nclx_color_profile_free);
+    if (!numbers) return false;
+    const bool isSrgb = picture.profile.empty();
+    numbers->color_primaries = isSrgb ? heif_color_primaries_ITU_R_BT_709_5 : heif_color_primaries_unspecified;
+    numbers->transfer_characteristics =
+        isSrgb ? heif_transfer_characteristic_IEC_61966_2_1 : heif_transfer_characteristic_unspecified;
+    numbers->matrix_coefficients = heif_matrix_coefficients_ITU_R_BT_601_6;
+    numbers->full_range_flag = 1;
+    return did(heif_image_set_nclx_color_profile(image, numbers.get())) &&
+           (isSrgb ||
+            did(heif_image_set_raw_color_profile(image, "prof", picture.profile.data(), picture.profile.size())));
+}
+
 Owned<heif_image> imageOf(const Picture& picture)
 {
     const int width = static_cast<int>(picture.request.width), height = static_cast<int>(picture.request.height);
+    const int halvings = hasFineChroma(picture.request) ? 0 : 1;
     heif_image* made = nullptr;
-    if (!did(heif_image_create(width, height, heif_colorspace_RGB, heif_chroma_interleaved_RGB, &made))) return nullptr;
-    Owned<heif_image> image(made);
-    int pitch = 0;
-    if (!did(heif_image_add_plane(made, heif_channel_interleaved, width, height, 8))) return nullptr;
-    std::uint8_t* to = heif_image_get_plane(made, heif_channel_interleaved, &pitch);
-    const std::size_t bytes = std::size_t{picture.request.width} * 3;
-    for (int y = 0; to && y < height; ++y)
-        std::memcpy(to + std::ptrdiff_t{y} * pitch, picture.pixels + bytes * std::size_t(y), bytes);
-    if (!picture.profile.empty() &&
-        !did(heif_image_set_raw_color_profile(made, "prof", picture.profile.data(), picture.profile.size())))
+    if (!did(heif_image_create(width, height, heif_colorspace_YCbCr, halvings ? heif_chroma_420 : heif_chroma_444,
+                               &made)))
         return nullptr;
-    return to ? std::move(image) : nullptr;
+    Owned<heif_image> image(made);
+    const int across = (width + halvings) >> halvings, down = (height + halvings) >> halvings;
+    const Plane light = addPlane(made, heif_channel_Y, width, height);
+    const Plane blueness = addPlane(made, heif_channel_Cb, across, down);
+    const Plane redness = addPlane(made, heif_channel_Cr, across, down);
+    if (!light.at || !blueness.at || !redness.at || !setColours(made, picture)) return nullptr;
+    fill(picture, light, blueness, redness, halvings);
+    return image;
 }
 
 /// Null when there is none.
@@ -52,11 +133,10 @@ Owned<heif_encoder> encoderFor(heif_context* context, const Request& request)
     heif_encoder* made = nullptr;
     if (!aom || !did(heif_context_get_encoder(context, aom, &made))) return nullptr;
     Owned<heif_encoder> encoder(made);
-    const bool isSet =
-        did(heif_encoder_set_lossy_quality(made, static_cast<int>(request.quality))) &&
-        did(heif_encoder_set_parameter_integer(made, "speed", kSpeed)) &&
-        did(heif_encoder_set_parameter_integer(made, "threads", static_cast<int>(request.threads))) &&
-        did(heif_encoder_set_parameter_string(made, "chroma", request.quality < kFineChroma ? "420" : "444"));
+    const bool isSet = did(heif_encoder_set_lossy_quality(made, static_cast<int>(request.quality))) &&
+                       did(heif_encoder_set_parameter_integer(made, "speed", kSpeed)) &&
+                       did(heif_encoder_set_parameter_integer(made, "threads", static_cast<int>(request.threads))) &&
+                       did(heif_encoder_set_parameter_string(made, "chroma", hasFineChroma(request) ? "444" : "420"));
     return isSet ? std::move(encoder) : nullptr;
 }
 

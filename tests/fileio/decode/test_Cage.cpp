@@ -1,6 +1,8 @@
 // The cost of the cage per picture, and the kernel's view of a process inside it. What it refuses is tested in
 // fileio/load/test_cage.cpp.
 #include "fileio/decode/cage/Cage.h"
+#include "fileio/decode/cage/Helpers.h"
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <csignal>
@@ -58,26 +60,29 @@ TEST(CageCost, EnteringItTakesLessThanTwoMilliseconds)
 
 TEST(Cage, TheSystemSaysThatItIsClosed)
 {
-    for (const Needs needs : {Needs::Nothing, Needs::Fonts, Needs::Drawing}) {
+    const unsigned processors = std::clamp(std::thread::hardware_concurrency(), 1U, 4U);
+    for (const Needs needs : {Needs::Nothing, Needs::Fonts, Needs::Drawing, Needs::Helpers}) {
+        const unsigned threads = needs == Needs::Drawing ? 2 : needs == Needs::Helpers ? processors : 1;
+        const std::string told = "Threads: " + std::to_string(threads);
         std::array<int, 2> line{};
         ASSERT_EQ(0, pipe(line.data()));
         const pid_t inside = fork();
         if (inside == 0) {
             dup2(line[1], 1);
             enterCage(needs);
-            [[maybe_unused]] const ssize_t told = write(1, "", 1);
+            [[maybe_unused]] const ssize_t written = write(1, "", 1);
             for (;;) usleep(1000);
         }
-        char told = 0;
-        EXPECT_EQ(read(line[0], &told, 1), 1);
+        char isInside = 0;
+        EXPECT_EQ(read(line[0], &isInside, 1), 1);
         const std::string folder = "/proc/" + std::to_string(inside) + '/';
         const auto textOf = [&](const char* name) {
             std::ifstream file(folder + name);
             return std::regex_replace(std::string(std::istreambuf_iterator<char>(file), {}), std::regex("[ \t]+"), " ");
         };
         const std::string status = textOf("status"), limits = textOf("limits");
-        for (const char* line : {"CapEff: 0000000000000000", "CapPrm: 0000000000000000", "NoNewPrivs: 1", "Seccomp: 2",
-                                 needs == Needs::Drawing ? "Threads: 2" : "Threads: 1"})
+        for (const char* line :
+             {"CapEff: 0000000000000000", "CapPrm: 0000000000000000", "NoNewPrivs: 1", "Seccomp: 2", told.c_str()})
             EXPECT_NE(status.find(line), status.npos) << line;
         EXPECT_TRUE(getuid() != 0 || status.find("CapBnd: 0000000000000000") != status.npos);
         for (const char* line :
@@ -91,6 +96,37 @@ TEST(Cage, TheSystemSaysThatItIsClosed)
         close(line[0]);
         close(line[1]);
     }
+}
+
+// Each item once, in several rounds, and a fault goes to the one who asked.
+TEST(Cage, HelpersShareTheWorkInside)
+{
+    const pid_t inside = fork();
+    if (inside == 0) {
+        if (enterCage(Needs::Helpers).open != 0) _exit(9);
+        for (std::uint32_t round = 1; round < 200; ++round) {
+            std::vector<std::atomic<int>> done(round * 7);
+            runTogether(3, round * 7, [&](std::uint32_t item, unsigned thread) {
+                if (thread >= threadsTogether()) _exit(1);
+                std::vector<char> memory(item * 1000);
+                ++done[item];
+            });
+            for (std::uint32_t i = 0; i < round * 7; ++i)
+                if (done[i] != (i < 3 ? 0 : 1)) _exit(2);
+        }
+        try {
+            runTogether(0, 50, [](std::uint32_t item, unsigned) {
+                if (item == 20) throw std::bad_alloc();
+            });
+        } catch (const std::bad_alloc&) {
+            _exit(3);
+        }
+        _exit(4);
+    }
+    int status = 0;
+    waitpid(inside, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status)) << "by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 3);
 }
 
 // Its encoder starts threads, and can do nothing else that a reader can't.

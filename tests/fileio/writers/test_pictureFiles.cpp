@@ -148,6 +148,21 @@ LoadedPicture readBack(const QString& path)
     return loadThroughDecoder(path, QFileInfo(path).suffix(), findDecoder());
 }
 
+// A picture of odd sides, so that the last squares of the coarser chroma reach beyond it.
+TEST_F(PictureFiles, AvifKeepsItsColours)
+{
+    constexpr Pixel kLeft{{20, 60, 220, 0}}, kRight{{200, 130, 10, 0}};
+    const Bits bits = drawnBits(33, 17, [&](int x, int) { return x < 16 ? kLeft : kRight; });
+    for (const int quality : {80, 95}) {
+        OutputFile file(path("a.avif"));
+        ASSERT_TRUE(writeAvif(bits, quality, file) && file.commit());
+        const Bits read = readBack(path("a.avif")).bits;
+        ASSERT_EQ(read.width(), 33);
+        for (const auto& [x, y] : {std::pair{2, 2}, {2, 16}, {32, 2}, {32, 16}})
+            for (int c = 0; c < 3; ++c) EXPECT_NEAR(read.at(x, y).c[c], bits.at(x, y).c[c], 5) << quality << ' ' << x;
+    }
+}
+
 QString toldByExiftool(const QString& path, const QString& tags)
 {
     QProcess reader;
