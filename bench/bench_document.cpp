@@ -3,6 +3,7 @@
 #include "bench.h"
 #include "engine/cBitFilter.h"
 #include "tools/PreviewBuffer.h"
+#include <QImage>
 #include <memory>
 
 namespace velara::bench {

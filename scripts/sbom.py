@@ -12,7 +12,7 @@ import sys
 
 
 # Used by their headers: they are in the programs themselves.
-COMPILED_IN = {"libhwy-dev": ("velara-studio", "velara-batch", "velara-batch-all", "velara-open")}
+COMPILED_IN = {"libhwy-dev": ("velara-studio", "velara-batch", "velara-batch-all")}
 
 
 def said(*command):

@@ -3,6 +3,7 @@
 #include "support/files.h"
 #include "support/gdiFacts.h"
 #include "support/seed.h"
+#include <QImage>
 #include <random>
 
 namespace velara {
