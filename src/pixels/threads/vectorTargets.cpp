@@ -16,13 +16,13 @@ std::int64_t targetsOfProcessor()
                          __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
                          __builtin_cpu_supports("aes") && __builtin_cpu_supports("pclmul") &&
                          __builtin_cpu_supports("f16c");
-    const bool hasAvx512 =
-        __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
-        __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512cd") &&
-        __builtin_cpu_supports("avx512vnni") && __builtin_cpu_supports("vpclmulqdq") &&
-        __builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vbmi2") &&
-        __builtin_cpu_supports("vaes") && __builtin_cpu_supports("avx512vpopcntdq") &&
-        __builtin_cpu_supports("avx512bitalg") && __builtin_cpu_supports("gfni");
+    const bool hasAvx512 = __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
+                           __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw") &&
+                           __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512vnni") &&
+                           __builtin_cpu_supports("vpclmulqdq") && __builtin_cpu_supports("avx512vbmi") &&
+                           __builtin_cpu_supports("avx512vbmi2") && __builtin_cpu_supports("vaes") &&
+                           __builtin_cpu_supports("avx512vpopcntdq") && __builtin_cpu_supports("avx512bitalg") &&
+                           __builtin_cpu_supports("gfni");
     if (hasAvx2) return (hasAvx512 ? HWY_AVX3_DL : 0) | HWY_AVX2 | HWY_STATIC_TARGET;
 #endif
     return HWY_STATIC_TARGET;
