@@ -20,8 +20,17 @@ for program in studio open decode decode-all encode; do cp "$bin/velara-$program
 export DBUS_SESSION_BUS_ADDRESS=disabled: HOME=$scratch/home XDG_RUNTIME_DIR=$scratch/run NO_AT_BRIDGE=1 GSETTINGS_BACKEND=memory
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 
+# Each start is a first one: no small copy of the picture is left from the one before.
+cat >"$scratch/fresh" <<'END'
+#!/bin/sh
+rm -rf "$HOME"
+mkdir "$HOME"
+exec "$@"
+END
+chmod +x "$scratch/fresh"
+
 convert -size 4000x3000 -seed 1 plasma:tan-steelblue -attenuate 0.15 +noise gaussian \
-    -fill '#E010B0' -draw 'rectangle 1200,900 2800,2100' "$scratch/a.png"
+    -fill '#E010B0' -draw 'rectangle 1200,900 2800,2100' "PNG24:$scratch/a.png"
 heif-enc -q 70 "$scratch/a.png" -o "$scratch/a.heic" >/dev/null
 convert "$scratch/a.png" -quality 92 -sampling-factor 4:2:0 "$scratch/a.jpg"
 
@@ -36,11 +45,11 @@ until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
 
 for format in $formats; do
     file=$scratch/a.$format
-    programs=("$scratch/bin/velara-studio" "$file")
+    programs=("$scratch/fresh" "$scratch/bin/velara-studio" "$file")
     for viewer in eog gthumb; do
         command -v $viewer >/dev/null || continue
-        programs+=(-- "$viewer" "$file")
+        programs+=(-- "$scratch/fresh" "$viewer" "$file")
     done
-    echo "$format, $(stat -c %s "$file") bytes"
+    echo "$format, $(stat -c %s "$file") bytes; velara-studio and then those of eog and gthumb that are installed"
     "$bin/velara-start" --runs "$runs" --until E010B0 "${programs[@]}" 2>"$scratch/said" || { cat "$scratch/said" >&2; exit 1; }
 done

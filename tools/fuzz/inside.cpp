@@ -445,7 +445,9 @@ void mutateInside(QByteArray& bytes, const QString& format, const QByteArray& ot
     constexpr struct {
         const char* format;
         void (*once)(QByteArray& bytes, const QByteArray& other, Dice& dice);
-    } kRows[] = {{"gif", mutateBlocks}, {"tif", mutateDirectory}, {"png", mutateChunks}, {"mng", mutateChunks}};
+    } kRows[] = {{"gif", mutateBlocks},    {"png", mutateChunks},    {"mng", mutateChunks},
+                 {"tif", mutateDirectory}, {"dng", mutateDirectory}, {"cr2", mutateDirectory},
+                 {"nef", mutateDirectory}, {"arw", mutateDirectory}};
     const auto* row = std::ranges::find_if(kRows, [&](const auto& r) { return format == QLatin1String(r.format); });
     const auto once = row == std::end(kRows) ? mutateBoxes : row->once;
     for (int i = dice.within(1, 4); i > 0; --i) once(bytes, other, dice);

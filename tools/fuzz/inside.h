@@ -6,7 +6,8 @@
 namespace velara::fuzz {
 
 /// The formats that support this, by their extension.
-constexpr const char* kInside[] = {"png", "mng", "gif", "tif", "webp", "heic", "avif", "jxl"};
+constexpr const char* kInside[] = {"png",  "mng", "gif", "tif", "webp", "heic",
+                                   "avif", "jxl", "dng", "cr2", "nef",  "arw"};
 
 /// Makes one to four changes inside a picture of the format; other is one to take parts from. Data without the format's
 /// structure is damaged as by mutate.
