@@ -79,8 +79,8 @@ template <class D> HWY_INLINE hn::Vec<D> loadScattered(D d, const std::int32_t* 
     }
 }
 
-/// The words base[index] of four lanes or more: for indices that have just been computed, which would be waited for if they
-/// went through memory.
+/// The words base[index] of four lanes or more: for indices that have just been computed, which would be waited for if
+/// they went through memory.
 template <class D, class V> HWY_INLINE hn::Vec<D> loadComputed(D d, const std::int32_t* base, V indices)
 {
     const hn::Half<D> half;

@@ -130,6 +130,7 @@ TEST(Geometry, FastWaysAreAsDefined)
         {"BEND", {0, true}, large, all},
         {"BEND", {-57, false}, wide, all},
         {"LENS", {0.5, 0.5, 0.45, 40}, large, all},
+        {"LENS", {0.5, 0.5, 0.45, 40}, wide, all}, // heights whose roots come next to a half
         {"GLASS", {"slanting", 0}, large, all},
         {"GLASS", {"slanting", 1}, large, all},
         {"GLASS", {"slanting", 0}, small, ellipse},

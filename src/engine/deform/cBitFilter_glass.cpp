@@ -63,7 +63,7 @@ class Numbers {
         for (int x = inside.xmin; x <= inside.xmax; ++x) columns_.push_back(turnOf(double(x) - inside.xmin));
     }
     /// The waves of the pixels from (x, y) on.
-    GlassWave wave(int x, int y, int weight) const
+    SlantWave wave(int x, int y, int weight) const
     {
         const Turn row = rows_[static_cast<std::size_t>(y - inside_.ymin)];
         const Turn column = columns_[static_cast<std::size_t>(x - inside_.xmin)];
@@ -73,7 +73,7 @@ class Numbers {
     /// Displaces the positions by the waves of the n pixels from (x, y).
     void addWaves(int x, int y, int weight, int n, std::int32_t* places) const
     {
-        const GlassWave at = wave(x, y, weight);
+        const SlantWave at = wave(x, y, weight);
         std::int32_t offsets[kPlaces];
         const std::uint64_t doubtful = waveOffsets(tables_, at.sine, at.cosine, static_cast<float>(weight), n, offsets);
         const double number = ofRow(y) + (double(x) - inside_.xmin);
@@ -133,7 +133,7 @@ class Slanted {
     bool isWhole(Pixel* to, int x, int y) const
     {
         const bool streams = streams_ && reinterpret_cast<std::uintptr_t>(to) % 64 == 0;
-        const GlassWave wave = numbers_.wave(x, y, weight());
+        const SlantWave wave = numbers_.wave(x, y, weight());
         const Pixel* from = in_.row(y) + x;
         return alongRows_ ? slantAlongRow(wave, from, to, streams)
                           : slantAlongColumns(wave, from, in_.stride(), to, streams);

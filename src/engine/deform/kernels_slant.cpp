@@ -17,7 +17,7 @@ using Singles = hn::ScalableTag<float>;
 using Words = hn::ScalableTag<std::int32_t>;
 
 /// Calls take(i, offsets) for each vector of the run. False where an offset is too close to a half.
-template <class Take> HWY_INLINE bool eachWave(const GlassWave& wave, Take take)
+template <class Take> HWY_INLINE bool eachWave(const SlantWave& wave, Take take)
 {
     const Singles d;
     const Words words;
@@ -57,7 +57,7 @@ template <class V> HWY_INLINE void write(Words d, V colours, const Pixel* kept, 
     streams ? hn::Stream(all, d, target) : hn::StoreU(all, d, target);
 }
 
-bool slantAlongRowImpl(const GlassWave& wave, const Pixel* from, Pixel* to, bool streams)
+bool slantAlongRowImpl(const SlantWave& wave, const Pixel* from, Pixel* to, bool streams)
 {
     const Words d;
     const auto here = countedFrom(d, kWeightX);
@@ -66,7 +66,7 @@ bool slantAlongRowImpl(const GlassWave& wave, const Pixel* from, Pixel* to, bool
     });
 }
 
-bool slantAlongColumnsImpl(const GlassWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
+bool slantAlongColumnsImpl(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
 {
     const Words d;
     const auto rows = hn::Set(d, static_cast<std::int32_t>(stride));
@@ -90,12 +90,12 @@ namespace velara {
 HWY_EXPORT(slantAlongRowImpl);
 HWY_EXPORT(slantAlongColumnsImpl);
 
-bool slantAlongRow(const GlassWave& wave, const Pixel* from, Pixel* to, bool streams)
+bool slantAlongRow(const SlantWave& wave, const Pixel* from, Pixel* to, bool streams)
 {
     return HWY_DYNAMIC_DISPATCH(slantAlongRowImpl)(wave, from, to, streams);
 }
 
-bool slantAlongColumns(const GlassWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
+bool slantAlongColumns(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
 {
     return HWY_DYNAMIC_DISPATCH(slantAlongColumnsImpl)(wave, from, stride, to, streams);
 }

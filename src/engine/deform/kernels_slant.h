@@ -7,7 +7,7 @@
 namespace velara {
 
 /// The waves of kPlaces pixels of a row: round(-weight * sin(number + i)).
-struct GlassWave {
+struct SlantWave {
     const WaveTables& tables;
     double sine, cosine; // of number
     int weight;
@@ -17,9 +17,9 @@ constexpr int kWeightX = 3, kWeightY = 10;
 /// Each of the kPlaces pixels from `from` on takes the colour of the one that its wave is away in its row; the weight
 /// is kWeightX. Reads kWeightX pixels to the left and 2 * kWeightX to the right. False where a wave comes too close to
 /// a half: the results are undefined then.
-bool slantAlongRow(const GlassWave& wave, const Pixel* from, Pixel* to, bool streams);
+bool slantAlongRow(const SlantWave& wave, const Pixel* from, Pixel* to, bool streams);
 
 /// The same, of the one that its wave is away in its column; rows are stride pixels apart.
-bool slantAlongColumns(const GlassWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams);
+bool slantAlongColumns(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams);
 
 } // namespace velara

@@ -50,16 +50,18 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// Prefetches what the run of kPlaces pixels to the right will read and write, assuming its sources are collinear. An
-/// eighth of them, begun at another one row by row (by `stagger`) for runs that read a column.
-HWY_INLINE void prefetchOnward(const std::int32_t* origin, const std::int32_t* indices, std::int32_t stagger,
-                               const Pixel* kept, const Pixel* to, bool streams)
+/// Prefetch what the run of kPlaces pixels to the right will read and write. Its sources are assumed to be collinear; a
+/// quarter of them, begun at another one row by row (by `stagger`) for runs that read a column.
+HWY_INLINE void prefetchTargets(const Pixel* kept, const Pixel* to, bool streams)
+{
+    for (int i = kPlaces; i < 2 * kPlaces; i += kLinePixels) {
+        if (kept) __builtin_prefetch(kept + i);
+        if (!streams) __builtin_prefetch(to + i, 1);
+    }
+}
+HWY_INLINE void prefetchSources(const std::int32_t* origin, const std::int32_t* indices, std::int32_t stagger)
 {
     constexpr int kEach = kLinePixels / 4;
-    for (int i = 0; i < kPlaces; i += kLinePixels) {
-        if (kept) __builtin_prefetch(kept + kPlaces + i);
-        if (!streams) __builtin_prefetch(to + kPlaces + i, 1);
-    }
     const std::ptrdiff_t onward = std::ptrdiff_t(indices[kPlaces - 1]) - indices[0];
     for (int i = stagger & (kEach - 1); i < kPlaces; i += kEach) __builtin_prefetch(origin + indices[i] + onward);
 }
@@ -145,7 +147,8 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
         if (within != Holds::All) holds = within;
     }
     const auto whole = (n + lanes - 1) / lanes * lanes;
-    if (n == kPlaces) prefetchOnward(job.origin, indices, sx[0], kept, to, job.streams);
+    if (n == kPlaces) prefetchTargets(kept, to, job.streams);
+    if (n == kPlaces && holds != Holds::None) prefetchSources(job.origin, indices, sx[0]);
     const auto taken = [&](int i, auto old) HWY_ATTR {
         return hn::Or(hn::And(colour, loadComputed(d, job.origin, hn::Load(d, indices + i))), hn::AndNot(colour, old));
     };
@@ -225,7 +228,10 @@ std::uint64_t blendRow(const BlendJob& job, const std::int32_t* ix, const std::i
         const auto x = hn::LoadU(d, ix + i), y = hn::LoadU(d, iy + i);
         hn::Store(hn::IfThenElseZero(isInside(i), hn::Add(hn::Mul(y, stride), x)), d, indices + i);
     }
-    if (n == kPlaces) prefetchOnward(job.origin, indices, indices[0], kept, to, job.streams);
+    if (n == kPlaces) {
+        prefetchTargets(kept, to, job.streams);
+        prefetchSources(job.origin, indices, indices[0]);
+    }
     const bool streamed = isStreamed(job.streams, n, to);
     const auto fourth = [&](auto pixels) HWY_ATTR { return hn::AndNot(hn::Set(d, 0x00FFFFFF), pixels); };
     // Singles near 255 have steps of 2^-16; three of them add up here.
