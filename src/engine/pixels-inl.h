@@ -118,12 +118,17 @@ constexpr int kStreamFrom = 1024;
 constexpr std::uintptr_t kCacheLine = 64;
 constexpr int kLinePixels = 16;
 
+/// For bodies that load more neighbours than they compute with: a longer vector lies in two cache lines wherever it
+/// doesn't begin with one, and takes twice as long to load.
+constexpr std::size_t kHalfALine = 32;
+
 /// Writes the pixels of the span. body(d, x) returns the bytes of the pixels from x on, four lanes of d per pixel; d
 /// has lanes of type T, a full vector or, at the ends of the span, one pixel. The row `below` is prefetched: the one
-/// after the lowest that the kernel reads.
-template <class T, class Body> HWY_INLINE void forPixels(SpanOf s, Body body, int below = 2)
+/// after the lowest that the kernel reads. A vector has kBytes at the most.
+template <class T, std::size_t kBytes = kCacheLine, class Body>
+HWY_INLINE void forPixels(SpanOf s, Body body, int below = 2)
 {
-    const hn::ScalableTag<T> many;
+    const hn::CappedTag<T, kBytes / sizeof(T)> many;
     const hn::CappedTag<T, 4> one;
     const int n = static_cast<int>(hn::Lanes(many)) / 4;
     const auto at = [&](int x) HWY_ATTR { return reinterpret_cast<std::uint8_t*>(s.to + x); };

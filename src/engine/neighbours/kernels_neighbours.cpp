@@ -114,7 +114,7 @@ void ring(SpanOf s, int radius)
         const auto mean = each(sum.split(), [](V v) HWY_ATTR { return hn::ShiftRight<3>(v); });
         return withFourthOf(d8, loadBytes(d8, p), joined(d8, mean));
     };
-    forPixels<std::uint8_t>(s, meanAt, radius + 1);
+    forPixels<std::uint8_t, kHalfALine>(s, meanAt, radius + 1);
 }
 
 void contour(SpanOf s, int thriceLevel, std::uint32_t background)
@@ -170,7 +170,7 @@ void emboss(SpanOf s, Relieved r)
 
 void relief(SpanOf s)
 {
-    forPixels<std::uint8_t>(s, [&](auto d8, int x) HWY_ATTR {
+    forPixels<std::uint8_t, kHalfALine>(s, [&](auto d8, int x) HWY_ATTR {
         const Shorts<decltype(d8)> d;
         using V = hn::Vec<decltype(d)>;
         const Pixel* p = s.from + x;

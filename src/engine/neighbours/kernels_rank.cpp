@@ -13,7 +13,7 @@ namespace velara::HWY_NAMESPACE {
 template <class Better> HWY_INLINE void rank(SpanOf s, RankWindow window, Better better)
 {
     const auto run = [&](auto ofNeighbours) HWY_ATTR {
-        forPixels<std::uint8_t>(s, [&](auto d, int x) HWY_ATTR {
+        forPixels<std::uint8_t, kHalfALine>(s, [&](auto d, int x) HWY_ATTR {
             const Pixel* p = s.from + x;
             const auto pair = [&](std::ptrdiff_t offset)
                                   HWY_ATTR { return better(loadBytes(d, p - offset), loadBytes(d, p + offset)); };
