@@ -17,6 +17,7 @@ struct LineStep {
     GoesBack goesBack = GoesBack::Never;
     QStringList fonts = {}; // that it draws with
     std::function<void(Fonts&)> drawBy = {};
+    std::optional<RowStep> rows = {};
 };
 
 struct CommandLine {

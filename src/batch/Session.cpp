@@ -104,13 +104,10 @@ void Session::setProgress(std::function<void(int)> progress)
     workspace_->engine().clock = [this] { return platform_.milliseconds(); };
 }
 
-void Session::change(const Job& job, After after)
+void throwFailure(const std::exception_ptr& fault)
 {
-    Outcome became;
-    workspace_->change(document_, {job, after}, [&](const Outcome& outcome) { became = outcome; });
-    workspace_->wait();
     try {
-        if (became.fault) std::rethrow_exception(became.fault);
+        std::rethrow_exception(fault);
     } catch (const StepFault& fault) {
         throw failureOf(fault);
     } catch (const RuntimeError& error) {
@@ -122,6 +119,14 @@ void Session::change(const Job& job, After after)
     } catch (const std::bad_alloc&) {
         throw operationFailed(QStringLiteral("Out of memory"));
     }
+}
+
+void Session::change(const Job& job, After after)
+{
+    Outcome became;
+    workspace_->change(document_, {job, after}, [&](const Outcome& outcome) { became = outcome; });
+    workspace_->wait();
+    if (became.fault) throwFailure(became.fault);
     checkSteps();
 }
 

@@ -12,6 +12,9 @@ namespace velara {
 /// Throws Failure where there is no picture, or not all of it and that was not asked for; reason says why.
 void checkRead(bool hasPicture, const QString& reason, bool partial);
 
+/// Throws the Failure that what a step has thrown becomes.
+void throwFailure(const std::exception_ptr& fault);
+
 /// How a picture is saved.
 struct SaveOrder {
     CameraKept kept = CameraKept::All; // as much of the camera's data

@@ -1,11 +1,11 @@
 // velara-batch: the engine without a window, for scripts, tests and timing.
 #include "batch/BatchPlatform.h"
 #include "batch/CommandLine.h"
-#include "batch/convert.h"
 #include "batch/drawing.h"
 #include "batch/fonts.h"
 #include "batch/many/runMany.h"
 #include "batch/onePicture.h"
+#include "batch/writeWhileReading.h"
 #include "fileio/disk/nativeName.h"
 #include "fileio/formats.h"
 #include "fileio/load/PictureLoader.h"
@@ -62,7 +62,7 @@ void runOne(const CommandLine& line)
     BatchPlatform platform;
     const bool isPiped = line.output == kPipe;
     if (!isPiped) fileOf(line.output);
-    if (isConversion(line)) return convert(platform, line);
+    if (canBeWrittenWhileRead(line)) return writeWhileReading(platform, line);
     Session session(platform);
     open(session, platform, line);
     for (const LineStep& step : line.steps)

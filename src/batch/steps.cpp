@@ -35,7 +35,8 @@ LineStep lineStep(const RecipeStep& step)
 {
     return {step.text,    [step](Session& session) { failing([&] { take(session, step); }); },
             step.prepare, step.goesBack(),
-            step.fonts,   step.drawBy};
+            step.fonts,   step.drawBy,
+            step.rows};
 }
 
 } // namespace

@@ -4,10 +4,12 @@
 #include "region/Region.h"
 #include "support/exif.h"
 #include "support/pictures.h"
+#include "support/seed.h"
 #include "support/twoFrames.h"
 #include <QColorSpace>
 #include <QDataStream>
 #include <QImageWriter>
+#include <random>
 
 namespace velara {
 namespace {
@@ -209,11 +211,33 @@ TEST_F(BatchTest, AConversionOfWhatIsNotWholeChangesNothing)
     for (const QString out : {"out.ppm", "out.jpg", "out.png", "out.tif", "out.bmp"}) {
         put(out, "precious");
         const QStringList before = files();
+        EXPECT_TRUE(ends(1, "broken.png EMBOSS(10) " + out, "damaged between its first row and its last"));
         EXPECT_TRUE(ends(1, "broken.png " + out, "damaged between its first row and its last"));
         EXPECT_TRUE(ends(1, "short.ppm " + out, "--partial takes what is there"));
         EXPECT_EQ("precious", content(out));
         EXPECT_EQ(before, files());
     }
+}
+
+// Told of its progress, a line takes each step on the whole picture; otherwise on bands of rows, while it is read.
+TEST_F(BatchTest, StepsTakenWhileThePictureIsReadGiveTheSame)
+{
+    QImage large(900, 1777, QImage::Format_RGB32);
+    std::mt19937 random(seedOf(5));
+    for (int y = 0; y < large.height(); ++y)
+        for (int x = 0; x < large.width(); ++x) large.setPixel(x, y, random());
+    ASSERT_TRUE(large.save(path("large.ppm")));
+    for (const QString steps :
+         {"Invert", "EMBOSS(12)", "Blurs(2) SHARPEN(40) Blurs(2) RELIEF", "GreyScale SKETCH(60,true,0) DILATE"})
+        for (const QString out : {"ppm", "jpg", "bmp", "tif"}) {
+            EXPECT_TRUE(ends(0, "large.ppm " + steps + " bands." + out));
+            EXPECT_TRUE(ends(0, "large.ppm " + steps + " --verbose whole." + out));
+            EXPECT_EQ(content("bands." + out), content("whole." + out)) << steps.toStdString() << out.toStdString();
+        }
+    EXPECT_EQ(result("Blurs(2) EMBOSS(10)"), [&] {
+        EXPECT_TRUE(ends(0, "in.ppm Blurs(2) EMBOSS(10) --verbose small.ppm"));
+        return QImage(path("small.ppm"));
+    }());
 }
 
 TEST_F(BatchTest, APageIsReadAndAnotherKindIsToldWhenAskedFor)

@@ -1,6 +1,7 @@
 // Every operation of the table compared with its definition, for random pictures, selections and arguments; and its
 // vector kernels, which give the same bytes for every instruction set that the processor supports.
 #include "engine/colour/mPalette.h"
+#include "engine/rowsAround.h"
 #include "pixels/threads/parallelFor.h"
 #include "support/filterOf.h"
 #include "support/instructionSets.h"
@@ -27,6 +28,37 @@ TEST(Operations, EveryInstructionSetGivesWhatTheBestGives)
             EXPECT_TRUE(sameBits(best.try_emplace(op.name, result).first->second, result)) << op.name;
         }
     });
+}
+
+// A band with the rows that its own depend on, and no more, gives what the whole picture does.
+TEST(Operations, SomeAreDoneInBandsOfRows)
+{
+    const auto rowsOf = [](const Bits& bits, int from, int to) {
+        Bits rows(bits.width(), to - from);
+        for (int y = -Bits::kMargin; y < to - from + Bits::kMargin; ++y)
+            if (from + y >= -Bits::kMargin && from + y < bits.height() + Bits::kMargin)
+                std::copy_n(bits.row(from + y) - Bits::kMargin, bits.stride(), rows.row(y) - Bits::kMargin);
+        return rows;
+    };
+    const Bits bits = randomBits(67, 48, 12);
+    const int height = bits.height();
+    int count = 0;
+    for (const Operation& op : operations()) {
+        const auto reach = rowsAround(op);
+        if (!reach) continue;
+        ++count;
+        const auto result = [&](const Bits& of) {
+            return run(op.name, typicalArguments(op), of, Region::rectangle(0, 0, of.width(), of.height()));
+        };
+        const Bits whole = result(bits);
+        for (const auto& [from, to] : {std::pair{0, 16}, {16, 17}, {17, 40}, {40, height}}) {
+            const int first = std::max(0, from - *reach), end = std::min(height, to + *reach);
+            const Bits band = result(rowsOf(bits, first, end));
+            for (int y = from; y < to; ++y)
+                EXPECT_TRUE(std::equal(whole.row(y), whole.row(y) + bits.width(), band.row(y - first))) << op.name << y;
+        }
+    }
+    EXPECT_GT(count, 30);
 }
 
 // Results, faults, percentages and where a report ends the filter: small pieces spread even a small picture.

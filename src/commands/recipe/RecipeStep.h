@@ -5,6 +5,7 @@
 #include "engine/operations.h"
 #include "region/cBitRegion.h"
 #include <QStringList>
+#include <optional>
 
 namespace velara {
 
@@ -16,12 +17,19 @@ using ReadPicture = std::function<Bits(const QString& path)>;
 /// Whether a step needs earlier pictures; consecutive sizing words go back to the one before the first of them.
 enum class GoesBack { Never, WhenRepeated, Always };
 
+/// A change that can be made to a picture in bands of rows.
+struct RowStep {
+    int reach = 0;                         // rows above and below that a row of the result depends on
+    std::function<void(cBitFilter&)> take; // on the rows of a band and those around them
+};
+
 struct RecipeStep {
     enum Kind { Nothing, Change, Select, Undo, Redo };
     QString text; // as written; that of a selection begins with "--select "
     Kind kind = Nothing;
     Job job = {};              // of a change; may throw StepFault
     After after = After::Step; // of a change
+    std::optional<RowStep> rows = {};
     /// Changes the selection of a picture. Throws StepFault when the shape lies outside of it.
     std::function<void(cBitRegion& selection, const Bits& picture)> select = {};
     QStringList pictures = {}; // the names of the files among its arguments

@@ -4,6 +4,7 @@
 #include "commands/recipe/nearest.h"
 #include "commands/recipe/stepWords.h"
 #include "commands/recipe/textStep.h"
+#include "engine/rowsAround.h"
 #include "seams/findRow.h"
 #include "seams/text.h"
 #include <charconv>
@@ -108,7 +109,9 @@ RecipeStep operationStep(const QString& text, const Operation& operation, Argume
 {
     const auto shared = std::make_shared<Arguments>(std::move(arguments));
     RecipeStep step{text, RecipeStep::Change};
-    step.job = engineJob([&operation, shared](cBitFilter& filter) { operation.call(filter, *shared); });
+    const auto call = [&operation, shared](cBitFilter& filter) { operation.call(filter, *shared); };
+    step.job = engineJob(call);
+    if (const auto reach = rowsAround(operation)) step.rows = RowStep{*reach, call};
     for (std::size_t i = 0; i < shared->size(); ++i) {
         if (operation.parameters[i].type != ArgumentType::Picture) continue;
         const std::string name = std::get<std::string>((*shared)[i]);

@@ -35,8 +35,9 @@ inline QString findDecoder() { return findHelper("velara-decode"); }
 void readInSrgb(bool on);
 
 /// Told while a picture is read, in the thread that reads it: what is known of it, and how many of its rows are there.
-/// The first time there are none. A copy of its pixels may be read up to that row by another thread.
-using RowsCame = std::function<void(const LoadedPicture& picture, int rows)>;
+/// The first time there are none, and nobody else holds the pixels yet: who keeps their WrittenRows may write to those
+/// that came, and a copy of the pixels may be read that far by another thread.
+using RowsCame = std::function<void(LoadedPicture& picture, int rows)>;
 
 /// Reads path with the reader of the extension (any case, no dot). decoder is the helper's path. Never throws; the
 /// page: from 1. reason names the file: "photo.png can't be read: it is damaged or not a PNG picture".

@@ -1,4 +1,5 @@
-#include "batch/convert.h"
+#include "batch/writeWhileReading.h"
+#include "batch/RowSteps.h"
 #include "batch/onePicture.h"
 #include "document/road/FileFacts.h"
 #include "fileio/cameraData.h"
@@ -9,22 +10,23 @@
 #include <condition_variable>
 #include <cstdio>
 #include <mutex>
+#include <optional>
 
 namespace velara {
 
 namespace {
 
-/// A picture that is read by another thread.
+/// A picture that another thread reads and takes the steps on.
 class ArrivingPicture {
   public:
-    explicit ArrivingPicture(const CommandLine& line) : partial_(line.partial)
+    explicit ArrivingPicture(const CommandLine& line) : line_(line)
     {
         reader_.start([this, &line] {
             LoadedPicture loaded;
             try {
                 loaded = loadThroughDecoder(line.input, extensionOf(line.input), findDecoder(),
                                             limitsFor(sizeOfFile(line.input)), {}, line.page,
-                                            [this](const LoadedPicture& picture, int rows) { came(picture, rows); });
+                                            [this](LoadedPicture& picture, int rows) { came(picture, rows); });
             } catch (const std::bad_alloc&) {
                 loaded.reason = QStringLiteral("there is not enough memory");
             }
@@ -53,12 +55,22 @@ class ArrivingPicture {
         return picture_;
     }
 
+    /// Of a step, once all is read.
+    const std::optional<Failure>& failure() const { return failure_; }
+
   private:
-    void came(const LoadedPicture& picture, int rows)
+    void came(LoadedPicture& picture, int rows)
     {
+        if (rows == 0) steps_.emplace(line_.steps, picture.bits);
+        int done = 0;
+        try {
+            if (!failure_) done = steps_->take(rows);
+        } catch (const Failure& failure) {
+            failure_ = failure;
+        }
         const std::lock_guard lock(guard_);
         if (rows == 0) picture_ = picture;
-        rows_ = rows;
+        rows_ = done;
         changed_.notify_all();
     }
     void ended(const LoadedPicture& picture)
@@ -66,11 +78,13 @@ class ArrivingPicture {
         const std::lock_guard lock(guard_);
         picture_ = picture;
         hasEnded_ = true;
-        isTaken_ = picture.ok() && (picture.reason.isEmpty() || partial_);
+        isTaken_ = picture.ok() && !failure_ && (picture.reason.isEmpty() || line_.partial);
         changed_.notify_all();
     }
 
-    const bool partial_;
+    const CommandLine& line_;
+    std::optional<RowSteps> steps_;
+    std::optional<Failure> failure_;
     std::mutex guard_;
     std::condition_variable changed_;
     LoadedPicture picture_;
@@ -81,13 +95,13 @@ class ArrivingPicture {
 
 } // namespace
 
-bool isConversion(const CommandLine& line)
+bool canBeWrittenWhileRead(const CommandLine& line)
 {
     const QString pipe = QStringLiteral("-");
-    return line.steps.empty() && !line.web && !line.icon && line.input != pipe && line.output != pipe;
+    return RowSteps::serve(line) && !line.web && !line.icon && line.input != pipe && line.output != pipe;
 }
 
-void convert(BatchPlatform& platform, const CommandLine& line)
+void writeWhileReading(BatchPlatform& platform, const CommandLine& line)
 {
     ArrivingPicture arriving(line);
     SaveReport report;
@@ -103,6 +117,7 @@ void convert(BatchPlatform& platform, const CommandLine& line)
     }
     const LoadedPicture read = arriving.whole();
     checkRead(read.ok(), read.reason, line.partial);
+    if (arriving.failure()) throw Failure(*arriving.failure());
     const QString kind = otherKind(FileFacts{.path = line.input}.name(), read.format);
     if (line.verbose && !kind.isEmpty()) std::fprintf(stderr, "%s\n", kind.toUtf8().constData());
     report.tell(platform);
