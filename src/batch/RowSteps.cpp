@@ -7,7 +7,7 @@ namespace velara {
 
 namespace {
 
-constexpr int kBandPixels = 1 << 18; // with its result it stays in the caches of a core
+constexpr int kBandPixels = 1 << 17; // with its result it stays in the cache of a core
 
 std::size_t bytesOfRow(const Bits& bits) { return sizeof(Pixel) * static_cast<std::size_t>(bits.stride()); }
 
