@@ -5,6 +5,10 @@
 #include "pixels/Register.h"
 #include "pixels/nearest/NearestColours.h"
 #include "pixels/numbers.h"
+#include "pixels/threads/Copies.h"
+#include "pixels/threads/WrittenRows.h"
+#include "pixels/threads/inWaves.h"
+#include <limits>
 
 namespace velara {
 
@@ -47,54 +51,77 @@ struct Columns {
     int begin, end;
 };
 
-/// The loop over the pixels, with error diffusion.
+constexpr int kAbreast = 6, kLag = 2; // rows at once, and columns from one to the next: 1 would wait for the row above
+
+/// Rows that are done together: kAbreast, each with its columns, or a single one.
+struct Group {
+    int y = 0, rows = 1;
+    std::array<Columns, kAbreast> columns{};
+};
+
+/// A turn of the loop over the pixels, with error diffusion.
 class Diffusion {
   public:
-    Diffusion(Bits& source, Bits& out) : source_(source), out_(out) {}
-
-    /// Rows from y on, each with its columns. Every pixel depends on the one before it, so several rows are
-    /// interleaved, each far enough behind the one above that its errors have arrived.
-    static constexpr int kAbreast = 6;
-    void rows(int y, const std::array<Columns, kAbreast>& columns)
+    Diffusion(const WrittenRows& source, const WrittenRows& out, int maxX, int maxY, Nearest& nearest)
+        : source_(source), out_(out), maxX_(maxX), maxY_(maxY), nearest_(nearest)
     {
-        Columns step = {kLag * kAbreast, source_.maxX()}; // after the left column, before the last one
+    }
+
+    /// Every pixel depends on the one before it, so the rows are interleaved, each far enough behind the one above that
+    /// its errors have arrived; the first one behind the last of the turn before.
+    void rows(const Group& group, int turn, Wave& wave)
+    {
+        constexpr int kFollowing = 256; // columns, from one look at the turn before to the next
+        const auto& columns = group.columns;
+        Columns step = {kLag * kAbreast, maxX_}; // after the left column, before the last one
         for (int i = 0; i < kAbreast; ++i) {
             step.begin = std::max(step.begin, columns[std::size_t(i)].begin + kLag * i);
             step.end = std::min(step.end, columns[std::size_t(i)].end + kLag * i);
         }
-        if (step.begin > step.end || y + kAbreast > source_.maxY()) step = {};
-        for (int i = 0; i < kAbreast; ++i) row(y + i, {columns[std::size_t(i)].begin, step.begin - kLag * i});
-        abreast(y, step);
+        if (step.begin > step.end || group.y + kAbreast > maxY_) step = {};
+        if (!wave.follow(turn, step.begin + kLag)) return;
+        for (int i = 0; i < kAbreast; ++i) row(group.y + i, {columns[std::size_t(i)].begin, step.begin - kLag * i});
+        Register p[kAbreast];
+        for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(source_.row(group.y)[step.begin + i * slant()]);
+        for (int x = step.begin; x < step.end; x += kFollowing) {
+            const int end = std::min(x + kFollowing, step.end);
+            if (!wave.follow(turn, end + kLag)) return;
+            abreast(group.y, {x, end}, p);
+            wave.reach(turn, end - kLag * (kAbreast - 1));
+        }
+        if (!wave.follow(turn, kAll)) return;
         for (int i = 0; i < kAbreast; ++i) {
             const auto [begin, end] = columns[std::size_t(i)];
-            row(y + i, {std::max(begin, step.end - kLag * i), end});
+            row(group.y + i, {std::max(begin, step.end - kLag * i), end});
         }
     }
 
     void row(int y, Columns columns)
     {
-        const bool low = y < source_.maxY();
+        const bool low = y < maxY_;
         Pixel *from = source_.row(y), *to = out_.row(y);
         Register p = inRegister(from[columns.begin < columns.end ? columns.begin : 0]);
         for (int x = columns.begin; x < columns.end; ++x) {
-            const bool inner = x < source_.maxX();
+            const bool inner = x < maxX_;
             p = pixel(p, from + x, to + x, inner, inner && low && x >= 1);
         }
     }
 
-  private:
-    static constexpr int kLag = 2; // 1 would be correct, but each step would wait for the row above
+    static constexpr int kAll = std::numeric_limits<int>::max(); // columns: the turn before has ended
 
-    void abreast(int y, Columns step)
+  private:
+    std::ptrdiff_t slant() const { return source_.stride() - kLag; }
+
+    void abreast(int y, Columns step, Register (&pixels)[kAbreast])
     {
-        const auto stride = source_.stride() - kLag;
         Pixel *from = source_.row(y), *to = out_.row(y);
-        Register p[kAbreast];
-        for (int i = 0; i < kAbreast; ++i) p[i] = inRegister(from[step.begin + i * stride]);
+        Register p[kAbreast]; // in registers
+        std::copy_n(pixels, kAbreast, p);
         for (int x = step.begin; x < step.end; ++x)
 #pragma GCC unroll 6 // kAbreast
             for (int i = 0; i < kAbreast; ++i)
-                p[i] = pixel(p[i], from + x + i * stride, to + x + i * stride, true, true);
+                p[i] = pixel(p[i], from + x + i * slant(), to + x + i * slant(), true, true);
+        std::copy_n(p, kAbreast, pixels);
     }
 
     /// p: the pixel at from. Returns the one after it, errors added, which is in a register for the next step.
@@ -113,9 +140,28 @@ class Diffusion {
         return both;
     }
 
-    Bits &source_, &out_;
-    Nearest nearest_;
+    const WrittenRows source_, out_;
+    const int maxX_, maxY_;
+    Nearest& nearest_;
 };
+
+/// kAbreast rows where each of them has one span, else row by row.
+template <class ColumnsOf> std::vector<Group> groupsOf(const Region& region, const Box& box, ColumnsOf columnsOf)
+{
+    std::vector<Group> groups;
+    for (int y = box.ymin; y <= box.ymax; y += groups.back().rows) {
+        Group group{y};
+        int rows = 0;
+        for (; rows < kAbreast && y + rows <= box.ymax; ++rows) {
+            const auto spans = region.spans(y + rows);
+            if (spans.size() != 1) break;
+            group.columns[std::size_t(rows)] = columnsOf(spans.front());
+        }
+        if (rows == kAbreast) group.rows = rows;
+        groups.push_back(group);
+    }
+    return groups;
+}
 
 } // namespace
 
@@ -131,7 +177,7 @@ Bits cBitFilter::PaletteApply()
     Bits source = before, out = Bits::uninitialized(before.width(), before.height());
     copyRows(before, out, -Bits::kMargin, box.ymin);
     copyRows(before, out, box.ymax + 1, before.height() + Bits::kMargin);
-    Diffusion diffusion(source, out);
+    const WrittenRows from(source), to(out);
     const auto columnsOf = [&](const Span& s) {
         return Columns{std::max(s.x0, box.xmin), std::min(s.x1, box.xmax + 1)};
     };
@@ -140,25 +186,25 @@ Bits cBitFilter::PaletteApply()
         const int first = -Bits::kMargin, last = before.width() + Bits::kMargin;
         const auto spans = region.spans(y);
         const Columns own = spans.size() == 1 ? columnsOf(spans.front()) : Columns{last, last};
-        copyPixels(before.row(y), out.row(y), first, std::min(own.begin, last));
-        copyPixels(before.row(y), out.row(y), std::max(own.end, first), last);
+        copyPixels(before.row(y), to.row(y), first, std::min(own.begin, last));
+        copyPixels(before.row(y), to.row(y), std::max(own.end, first), last);
     };
-    for (int y = box.ymin; y <= box.ymax;) {
-        std::array<Columns, Diffusion::kAbreast> columns;
-        int rows = 0;
-        for (; rows < Diffusion::kAbreast && y + rows <= box.ymax; ++rows) {
-            const auto spans = region.spans(y + rows);
-            if (spans.size() != 1) break;
-            columns[std::size_t(rows)] = columnsOf(spans.front());
-        }
-        const int end = y + (rows == Diffusion::kAbreast ? rows : 1);
-        for (int row = y; row < end; ++row) copyAround(row);
-        if (rows == Diffusion::kAbreast)
-            diffusion.rows(y, columns);
-        else
-            for (const Span s : region.spans(y)) diffusion.row(y, columnsOf(s));
-        for (; y < end; ++y) progressDue(y, source.maxY());
-    }
+    const std::vector<Group> groups = groupsOf(region, box, columnsOf);
+    Copies<Nearest> tables([] { return Nearest(); });
+    const auto turn = [&](int i, Wave& wave) {
+        const Group& group = groups[std::size_t(i)];
+        for (int y = group.y; y < group.y + group.rows; ++y) copyAround(y);
+        tables.lend([&](Nearest& nearest) {
+            Diffusion diffusion(from, to, source.maxX(), source.maxY(), nearest);
+            if (group.rows == kAbreast) return diffusion.rows(group, i, wave);
+            if (!wave.follow(i, Diffusion::kAll)) return;
+            for (const Span s : region.spans(group.y)) diffusion.row(group.y, columnsOf(s));
+        });
+    };
+    inWaves(static_cast<int>(groups.size()), std::int64_t{kAbreast} * source.width(), turn, [&](int i) {
+        const Group& group = groups[std::size_t(i)];
+        for (int y = group.y; y < group.y + group.rows; ++y) progressDue(y, source.maxY());
+    });
     report(100);
     if (bits_.sharesWith(before)) bits_ = source; // unless Progress has set another picture
     return out;
