@@ -11,10 +11,18 @@ namespace {
 constexpr Pixel kBlack = {{0, 0, 0, 0}};
 constexpr std::uint64_t kExactSums = 1 << 23; // quotients of smaller sums are safe in singles
 
-/// Rows of a band of a region have the same ones.
-bool sameSpans(std::span<const Span> a, std::span<const Span> b)
+/// The columns from the first to the last that is selected in some of the rows y to end-1, inside the given ones; empty
+/// where none is.
+Span columnsOf(const Region& region, int y, int end, Span inside)
 {
-    return a.data() == b.data() && a.size() == b.size();
+    Span all{inside.x1, inside.x0};
+    for (; y < end; ++y) {
+        const auto spans = region.spans(y);
+        if (spans.empty()) continue;
+        all.x0 = std::clamp(spans.front().x0, inside.x0, all.x0);
+        all.x1 = std::max(all.x1, std::min(spans.back().x1, inside.x1));
+    }
+    return all;
 }
 
 /// The colours of a row of blocks, and the colour carried from pixel to pixel: it changes only at the start of a block,
@@ -44,13 +52,7 @@ class Blocks {
         band_ = band;
         const int y0 = band * size_,
                   y1 = static_cast<int>(std::min<std::int64_t>(std::int64_t{y0} + size_, in_.height()));
-        int x0 = in_.width(), x1 = 0;
-        for (int y = y0; y < y1; ++y) {
-            const auto spans = region_.spans(y);
-            if (spans.empty()) continue;
-            x0 = std::clamp(spans.front().x0, 0, x0);
-            x1 = std::max(x1, std::min(spans.back().x1, in_.width()));
-        }
+        auto [x0, x1] = columnsOf(region_, y0, y1, {0, in_.width()});
         if (x0 >= x1) return;
         x0 = x0 / size_ * size_;
         x1 = static_cast<int>(std::min<std::int64_t>((std::int64_t{x1} + size_ - 1) / size_ * size_, in_.width()));
@@ -202,7 +204,7 @@ class Dots {
         if (band != band_) mix(band);
         const std::int64_t oy = std::int64_t{y} - box_.ymin - band * step_ - radius_;
         if (!plain_) return literally(from, to, x0, x1, oy);
-        if (y != factorsOf_) spread(oy);
+        if (y != factorsOf_) spread(y, oy);
         factorsOf_ = y;
         cellKernels().paintScaled({from, in_.stride(), to, x0, x1}, line_.data(), factors_.data());
     }
@@ -211,6 +213,10 @@ class Dots {
     std::int64_t leftOf(std::size_t cell) const { return box_.xmin + static_cast<std::int64_t>(cell) * step_; }
     int firstColumn() const { return std::max(box_.xmin, 0); }
     int endColumn() const { return std::min(box_.xmax + 1, in_.width()); }
+    Span columns(int y, std::int64_t end) const
+    {
+        return columnsOf(region_, y, static_cast<int>(end), {firstColumn(), endColumn()});
+    }
 
     void literally(const Pixel* from, Pixel* to, int x0, int x1, std::int64_t oy) const
     {
@@ -244,14 +250,8 @@ class Dots {
         if (plain_ && step_ == 2 && top >= 0 && mixNines(static_cast<int>(top))) return;
         sums_.clear();
         for (int y = static_cast<int>(std::max<std::int64_t>(top, 0)), rows; y < end; y += rows) {
-            const auto spans = region_.spans(y);
-            rows = 1; // rows of a band have the same spans
-            while (y + rows < end && rows < CellSums::kRowsTogether && sameSpans(region_.spans(y + rows), spans))
-                ++rows;
-            for (const Span s : spans) {
-                const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, in_.width());
-                if (x0 < x1) sums_.add(in_.row(y), in_.stride(), rows, x0, x1);
-            }
+            rows = std::min(static_cast<int>(end) - y, CellSums::kRowsTogether);
+            addSelected(y, rows);
             sums_.rowsDone(rows);
         }
         sums_.finish();
@@ -263,10 +263,32 @@ class Dots {
             i = next;
         }
         if (!plain_) return;
-        auto cell = static_cast<std::size_t>((std::int64_t{firstColumn()} - box_.xmin) / step_);
-        for (int x = firstColumn(); x < endColumn(); ++cell)
-            for (const auto stop = std::min<std::int64_t>(leftOf(cell) + step_, endColumn()); x < stop; ++x)
+        const Span row = columns(static_cast<int>(std::max<std::int64_t>(top, 0)), end);
+        auto cell = static_cast<std::size_t>((std::int64_t{row.x0} - box_.xmin) / step_);
+        for (int x = row.x0; x < row.x1; ++cell)
+            for (const auto stop = std::min<std::int64_t>(leftOf(cell) + step_, row.x1); x < stop; ++x)
                 line_[static_cast<std::size_t>(x)] = means_[cell];
+    }
+
+    /// Adds the selected pixels of some rows, at most kRowsTogether: those that all rows have together.
+    void addSelected(int first, int rows)
+    {
+        Span common{0, in_.width()};
+        for (int y = first; y < first + rows; ++y) {
+            const auto spans = region_.spans(y);
+            const Span only = spans.size() == 1 ? spans.front() : Span{0, 0};
+            common = {std::max(common.x0, only.x0), std::min(common.x1, only.x1)};
+        }
+        if (common.x0 >= common.x1) common = {in_.width(), in_.width()};
+        const auto add = [&](int y, int count, int x0, int x1) {
+            if (x0 < x1) sums_.add(in_.row(y), in_.stride(), count, x0, x1);
+        };
+        add(first, rows, common.x0, common.x1);
+        for (int y = first; y < first + rows; ++y)
+            for (const Span s : region_.spans(y)) {
+                add(y, 1, std::max(s.x0, 0), std::min(s.x1, common.x0));
+                add(y, 1, std::max(s.x0, common.x1), std::min(s.x1, in_.width()));
+            }
     }
 
     /// The line of a row of cells of three by three pixels that are all selected, but for what is outside of the
@@ -316,11 +338,12 @@ class Dots {
                     spotPixel(cell, x - left - radius_, y - top - radius_);
     }
 
-    /// The dot's row, repeated over the columns of the box.
-    void spread(std::int64_t oy)
+    /// The dot's row, repeated over the columns of a row.
+    void spread(int y, std::int64_t oy)
     {
         const float* row = spot_.factors(oy);
-        const auto period = static_cast<int>(step_), x0 = firstColumn(), x1 = endColumn();
+        const auto period = static_cast<int>(step_);
+        const auto [x0, x1] = columns(y, y + 1);
         const auto phase = static_cast<int>((std::int64_t{x0} - box_.xmin) % step_);
         float* to = factors_.data() + x0;
         int done = std::min(period, x1 - x0);
