@@ -34,7 +34,7 @@ struct Laying {
     {
         const std::uint64_t doubtful = overlayNearly(from, over, rest, part, key, n, to);
         if (doubtful == 0) return;
-        constexpr int kReadBeyond = 15;
+        constexpr int kReadBeyond = 7;
         Pixel some[kPlaces], above[kPlaces + kReadBeyond];
         int count = 0;
         eachPlace(doubtful, n, [&](int i) {

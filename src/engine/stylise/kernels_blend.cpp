@@ -1,5 +1,6 @@
 // The blends of kernels_generate.h in single precision.
 #include "engine/stylise/kernels_generate.h"
+#include <algorithm>
 #include <cmath>
 #include <type_traits>
 
@@ -70,8 +71,12 @@ std::uint64_t overlayNearlyImpl(const Pixel* from, const Pixel* over, float rest
     const auto a = hn::Set(d, rest), b = hn::Set(d, part);
     const auto skipped = hn::Set(words, key), byte = hn::Set(words, 255), colour = hn::Set(words, 0xFFFFFF);
     const bool exact = isShort(rest) && isShort(part);
+    const auto lanes = static_cast<int>(hn::Lanes(words));
+    Pixel tail[HWY_MAX_BYTES / sizeof(Pixel)] = {}; // the last of them, of which there may be fewer than a vector has
+    std::copy_n(over + n / lanes * lanes, n % lanes, tail);
     const auto blend = [&](auto channels, auto index, int i) HWY_ATTR {
-        const auto laid = hn::LoadU(words, reinterpret_cast<const std::int32_t*>(over + i));
+        const Pixel* from = i + lanes <= n ? over + i : tail;
+        const auto laid = hn::LoadU(words, reinterpret_cast<const std::int32_t*>(from));
         const auto own = hn::ConvertTo(d, hn::And(hn::ShiftRight<8 * decltype(index)::value>(laid), byte));
         const auto isSkipped = hn::RebindMask(d, hn::Eq(hn::And(laid, colour), skipped));
         return hn::IfThenElse(isSkipped, channels, hn::MulAdd(channels, a, hn::Mul(own, b)));

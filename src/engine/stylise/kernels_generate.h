@@ -11,7 +11,7 @@ namespace velara {
 void multiplyPixels(const Pixel* from, const Pixel* factors, int n, Pixel* to);
 
 /// A blend of three channels: from * rest + over * part, rounded half to even. Where over has the colour `key`,
-/// 0x00RRGGBB, from is kept; -1 for none. Up to 15 pixels after the last of over are read and ignored. False when a
+/// 0x00RRGGBB, from is kept; -1 for none. Up to 7 pixels after the last of over are read and ignored. False when a
 /// result is out of byte range; `to` is undefined then.
 bool overlayPixels(const Pixel* from, const Pixel* over, double rest, double part, std::int32_t key, int n, Pixel* to);
 

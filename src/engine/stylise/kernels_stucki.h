@@ -10,7 +10,7 @@ namespace velara {
 /// A number for each pixel of a row, all 0 at first.
 class StuckiRow {
   public:
-    static constexpr int kPad = 32; // an extra vector on both sides
+    static constexpr int kPad = 40; // the longest vector, and how far a pixel looks, on both sides
     explicit StuckiRow(int width) : numbers_(static_cast<std::size_t>(width) + 2 * kPad) {}
     std::int16_t* data() { return numbers_.data() + kPad; }
     const std::int16_t* data() const { return numbers_.data() + kPad; }
