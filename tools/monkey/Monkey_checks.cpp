@@ -1,6 +1,5 @@
 // What must hold once everything is at rest: each document's picture equals the snapshot of its step, the engine has
 // the active one, the screen shows it; with all documents closed Temp is empty and the memory is released.
-#include "document/undo/UndoFiles.h"
 #include "pixels/BlockPool.h"
 #include "tools/monkey/Monkey.h"
 #include "ui/view/fDisplay.h"
@@ -44,6 +43,17 @@ QString difference(const Bits& a, const Bits& b)
 QString nameOf(const fImage& image)
 {
     return QStringLiteral("document %1 (%2, %3)").arg(image.document().DocNumber()).arg(image.name(), image.SizeText());
+}
+
+/// The state shown as its files have it; nothing where they don't, or can't be read.
+std::optional<Bits> snapshotOf(const UndoStore& undo)
+{
+    const UndoStore::Listed listed = undo.listed();
+    const auto shown = static_cast<std::size_t>(listed.shown);
+    if (!undo.stands() || shown >= listed.notes.size()) return {};
+    auto found = undo.stateLater(listed.notes[shown].number)();
+    if (!found || found->step != undo.UndoStep()) return {};
+    return std::move(found->picture);
 }
 
 void processPending()
@@ -93,9 +103,7 @@ void Monkey::checkDocument(fImage& image)
     const Document& document = image.document();
     if (!document.PictureExists()) return;
     ++checked_;
-    const bool stands = document.undo.stands();
-    const UndoFiles files(platform_.folder.filePath("Temp"), document.DocNumber());
-    const auto snapshot = stands ? files.read(document.undo.UndoStep() - 1) : std::nullopt;
+    const auto snapshot = snapshotOf(document.undo);
     const auto compare = [&](const Bits& picture, const QString& told) {
         if (const QString how = difference(picture, document.bits()); !how.isEmpty()) fault(nameOf(image) + told + how);
     };
