@@ -112,19 +112,27 @@ Carried carriedBy(const heif_image_handle* handle)
     return carried;
 }
 
-/// Rows of 10 or 12 bits, stretched to 16.
+/// Levels from 0 to most, stretched to 16 bits.
+std::vector<std::uint16_t> stretched(std::uint32_t most)
+{
+    std::vector<std::uint16_t> levels(most + 1);
+    for (std::uint64_t level = 0; level <= most; ++level)
+        levels[level] = static_cast<std::uint16_t>((level * 65535 + most / 2) / most);
+    return levels;
+}
+
+/// Rows of 10 or 12 bits.
 void deepRows(Decoded& picture, const Image& image, const std::uint8_t* plane, std::size_t stride, int channels)
 {
     const int bits = heif().heif_image_get_bits_per_pixel_range(image.get(), heif_channel_interleaved);
     const std::uint32_t most = (1U << std::clamp(bits, 9, 16)) - 1;
-    giveDeepRows(picture, [image, plane, stride, channels, most, width = picture.width](int y, std::uint16_t* to) {
+    const auto level = [levels = stretched(most), most](std::uint32_t part) { return levels[std::min(part, most)]; };
+    giveDeepRows(picture, [image, plane, stride, channels, level, most, width = picture.width](int y, auto* to) {
         const auto* from = reinterpret_cast<const std::uint16_t*>(plane + stride * static_cast<std::size_t>(y));
         for (int x = 0; x < width; ++x, from += channels, to += 3) {
             const std::uint32_t alpha = channels == 4 ? std::min<std::uint32_t>(from[3], most) : most;
-            for (int c = 0; c < 3; ++c) {
-                const std::uint64_t part = overWhite(std::min<std::uint32_t>(from[c], most), alpha, most);
-                to[c] = static_cast<std::uint16_t>((part * 65535 + most / 2) / most);
-            }
+            for (int c = 0; c < 3; ++c)
+                to[c] = level(alpha == most ? from[c] : overWhite(std::min<std::uint32_t>(from[c], most), alpha, most));
         }
     });
 }
