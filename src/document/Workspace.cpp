@@ -327,6 +327,7 @@ void Workspace::wait()
 
 void Workspace::handOver(const Document& document)
 {
+    if (leaves && held_ && !engineHolds(document)) leaves(held_);
     document.handTo(engine_);
     held_ = document.handle();
 }

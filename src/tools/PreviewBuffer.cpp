@@ -20,13 +20,6 @@ bool PreviewBuffer::inStep() const
            isSame(filter_.bits().block(), document_.preview.committed);
 }
 
-bool PreviewBuffer::isOurs() const { return inStep() || document_.bits().sharesWith(filter_.bits()); }
-
-void PreviewBuffer::prepare()
-{
-    if (isOurs()) begin();
-}
-
 void PreviewBuffer::remember()
 {
     document_.preview.shown = document_.bits().block();

@@ -1,7 +1,8 @@
 // PreviewBuffer: keeps the document's picture and the engine's committed picture in two blocks that are equal except
 // for the tiles painted since the last commit. So a drag step restores, and a commit transfers, only what was touched;
 // the result is the same as copying the whole picture. Only the first stroke after another command costs one full copy.
-// What it knows of the two is kept in the document: each view has a buffer.
+// What it knows of the two is kept in the document: each view has a buffer. To be used only while the engine holds the
+// document.
 #pragma once
 #include "document/Document.h"
 
@@ -18,10 +19,6 @@ class PreviewBuffer {
     /// Call before the first write of a drag: gives the document a block of its own. An engine whose picture has
     /// another size gets the document's.
     void begin();
-    /// begin() in advance, if the engine's picture is known to be the document's.
-    void prepare();
-    /// False when the engine holds, or may hold, the picture of another document.
-    bool isOurs() const;
     /// document := committed picture.
     void restore();
     /// True where a pixel of the two differs.

@@ -50,6 +50,8 @@ struct ToolContext {
     ToolStores& stores() const { return frame.toolStores(); }
     Workspace& workspace() const { return frame.workspace(); }
     cBitFilter& filter() const { return workspace().engine(); }
+    /// The engine holds the document's committed picture; else it has that of another one.
+    bool hasEngine() const { return workspace().engineHolds(document); }
     Painter& paint() const { return document.paint; }
     /// Repaints what was restored and painted since the last call.
     void repaint()
@@ -60,7 +62,7 @@ struct ToolContext {
     /// Makes the document's picture the committed one, with one undo step; without one where no pixel has changed.
     void commit()
     {
-        if (workspace().engineHolds(document)) {
+        if (hasEngine()) {
             if (!preview.hasChanges()) return;
             preview.commit();
         }

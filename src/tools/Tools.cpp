@@ -130,7 +130,7 @@ void Tools::cancel()
     ToolContext& c = context_;
     if (const Tool* gesture = underWay()) gesture->cancel(c);
     open_ = nullptr;
-    if (c.workspace().engineHolds(c.document)) guarded([&] { c.preview.restore(); });
+    if (c.hasEngine()) guarded([&] { c.preview.restore(); });
     c.preview.takeRestored();
     c.surface.UpdateImage();
 }
@@ -192,7 +192,7 @@ void Tools::endRelease()
         c.surface.StopTimer();
     else
         c.surface.StartTimer();
-    if (c.workspace().engineHolds(c.document)) c.filter().setBitsRegion(c.document.Region.working());
+    if (c.hasEngine()) c.filter().setBitsRegion(c.document.Region.working());
     c.down = c.moving = false;
     active_ = nullptr;
     toolChosen(); // one chosen during the drag
@@ -208,7 +208,7 @@ void Tools::deactivated()
         active_->cancel(c);
         open_ = nullptr;
     }
-    if ((active_ || c.stores().pastePending) && c.preview.isOurs())
+    if ((active_ || c.stores().pastePending) && c.hasEngine())
         if (!guarded([&] { c.preview.restore(); })) return;
     active_ = nullptr;
     c.down = c.moving = false;

@@ -29,7 +29,10 @@ class StrokeTool : public Tool {
     }
     void release(ToolContext& c) const final { c.commit(); }
     /// Makes the first stroke's full copy in advance, while nothing waits for it.
-    void hover(ToolContext& c) const final { c.preview.prepare(); }
+    void hover(ToolContext& c) const final
+    {
+        if (c.hasEngine()) c.preview.begin();
+    }
 
   protected:
     virtual bool isReady(const ToolContext&) const { return true; }
@@ -177,7 +180,7 @@ class PasteTool final : public Tool {
     {
         const Bits paste = c.stores().paste;
         if (paste.isNull()) return letGo(c);
-        if (!c.preview.isOurs()) return; // over a document that is not the active one
+        if (!c.hasEngine()) return; // over a document that is not the active one
         const Point hot = middleOf(paste);
         c.surface.StopTimer();
         c.preview.restore();

@@ -420,10 +420,14 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
     tools->move(Tools::NoButton, 12, 12); // moving over it leaves the engine to the active one
     frame.toolStores_.paste = randomBits(8, 6, 5);
     frame.toolStores_.pastePending = true;
-    tools->move(Tools::NoButton, 20, 20);
-    tools->deactivated();
-    EXPECT_TRUE(sameBits(before, document.bits()));
-    EXPECT_TRUE(sameBits(other, frame.filter_.bits()));
+    for (const Bits& active : {other, before}) { // the second is a copy of this one, which shares its pixels
+        frame.workspace_.handOver(frame.open(active));
+        tools->move(Tools::NoButton, 20, 20);
+        EXPECT_TRUE(sameBits(before, document.bits()));
+        tools->deactivated();
+        EXPECT_TRUE(sameBits(before, document.bits()));
+        EXPECT_TRUE(sameBits(active, frame.filter_.bits()));
+    }
 
     frame.document = &document; // active again: the paste follows the pointer, and leaves with it
     frame.workspace_.handOver(document);

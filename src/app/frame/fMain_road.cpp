@@ -15,6 +15,9 @@ void fMain::bindWorkspace()
     workspace_.held = [this](const Document& document) {
         return std::ranges::any_of(documents_->viewsOf(document.handle()), &fImage::strokeUnderWay);
     };
+    workspace_.leaves = [this](const DocumentHandle& document) {
+        for (fImage* view : documents_->viewsOf(document)) view->deactivate();
+    };
     connect(&workspace_, &Workspace::changed, this, &fMain::changed);
     connect(&workspace_, &Workspace::progress, this, [this](const DocumentHandle& document, int percent) {
         if (document == active()) status_->setProgress(percent);

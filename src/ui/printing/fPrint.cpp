@@ -229,19 +229,17 @@ void fPrint::print()
 
 void fPrint::send(const PrintPage& page)
 {
-    const auto done = [this](const PrintResult& result) { finished(result); };
-    Printers& printers = platform_.printers();
-    if (!cbPrinters_->isFile()) {
-        showPrinting();
-        printing_ = printers.print(cbPrinters_->printer(), page, done);
-        return;
-    }
     const QPointer<fPrint> self = this;
+    Printers& printers = platform_.printers();
+    const bool isFile = cbPrinters_->isFile();
     const FileDialog dialog{tr("Print to file"), "PDF|*.pdf", {}, {}, "pdf"};
-    const auto path = platform_.saveFileName(dialog);
+    const auto path = isFile ? platform_.saveFileName(dialog) : QString();
     if (!self || !path) return;
     showPrinting();
-    printing_ = printers.printToFile(*path, page, done);
+    const auto done = [this](const PrintResult& result) { finished(result); };
+    const Printers::Request request =
+        isFile ? printers.printToFile(*path, page, done) : printers.print(cbPrinters_->printer(), page, done);
+    if (self) printing_ = request; // an answer that came at once may have ended with this window
 }
 
 void fPrint::finished(const PrintResult& result)

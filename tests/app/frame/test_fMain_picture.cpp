@@ -39,6 +39,26 @@ TEST_F(FramePicture, APressInAnotherPictureLeavesTheOneThatADragHungOn)
     EXPECT_TRUE(image->bits() == before);
 }
 
+TEST_F(FramePicture, ADragIsTakenBackBeforeTheEngineLeavesItsPicture)
+{
+    fImage* image = open(flatBits(60, 50, 10, 20, 30));
+    const Bits before = image->bits();
+    const DocumentHandle other =
+        frame->workspace().add(flatBits(60, 50, 1, 2, 3)); // without a window that comes to the front
+    click("Pencil");
+    mouse(image, QEvent::MouseButtonPress, {10, 10}, Qt::LeftButton);
+    mouse(image, QEvent::MouseMove, {30, 30}, Qt::LeftButton);
+    const Bits kept = image->bits(); // as a save under way does: the next stroke paints in a block of its own
+    mouse(image, QEvent::MouseMove, {30, 40}, Qt::LeftButton);
+    ASSERT_FALSE(kept == before);
+    frame->workspace().handOver(*other);
+    EXPECT_TRUE(image->bits() == before);
+    mouse(image, QEvent::MouseMove, {10, 40}, Qt::LeftButton);
+    image->dropGesture();
+    EXPECT_TRUE(image->bits() == before);
+    EXPECT_TRUE(frame->workspace().engine().bits() == other->bits());
+}
+
 TEST_F(FramePicture, WhoTakesAToolPutsTheHandAway)
 {
     fImage* image = open(randomBits(2000, 1500, 1));
