@@ -19,7 +19,7 @@ Workspace::~Workspace()
     for (const auto& place : places_)
         if (place->running) place->running->cancelled = true;
     cancelOpening();
-    for (Workers* workers : {&threads_, &reading_, &writing_, &freeing_}) workers->finish();
+    for (Workers* workers : {&threads_, &reading_, &writing_, &removing_, &freeing_}) workers->finish();
 }
 
 /// Callable from any thread; the call runs on the window's thread, from the event loop.
@@ -102,7 +102,11 @@ void Workspace::close(const DocumentHandle& document)
     for (Item& item : place->waiting)
         if (item.then) later([then = std::move(item.then)] { then({Outcome::Gone}); });
     place->document->retire();
-    place->document->undo.deleteSeries();
+    ++removals_;
+    removing_.start([this, remove = place->document->undo.deleteSeriesLater()] { // what is being written may take long
+        remove();
+        later([this] { --removals_; });
+    });
     std::erase_if(places_, [&](const auto& each) { return each.get() == place; });
 }
 
@@ -319,7 +323,7 @@ void Workspace::wait(const DocumentHandle& document)
 void Workspace::wait()
 {
     const auto isUnderWay = [this] {
-        return hasCalls() || writes_ > 0 || !openings_.empty() ||
+        return hasCalls() || writes_ + removals_ > 0 || !openings_.empty() ||
                std::ranges::any_of(places_, [](const auto& place) { return place->isBusy(); });
     };
     while (isUnderWay()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

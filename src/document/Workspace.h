@@ -79,7 +79,7 @@ class Workspace final : public QObject {
     void recover(std::shared_ptr<Leftover> leftover, std::function<void(const Opened& opened)> then);
     /// For views, which keep what they show until they are deleted.
     std::shared_ptr<Document> share(const DocumentHandle& document) const;
-    /// Its handles become null, its undo files are removed, and its changes end as Gone.
+    /// Its handles become null, its changes end as Gone, and its undo files are removed in the background.
     void close(const DocumentHandle& document);
     /// In order of opening.
     std::vector<DocumentHandle> documents() const;
@@ -181,8 +181,8 @@ class Workspace final : public QObject {
     std::deque<std::function<void()>> calls_; // an event is on its way for each
     std::vector<std::unique_ptr<Place>> places_;
     std::deque<std::shared_ptr<FileRead>> openings_; // the first is being read
-    int nextNumber_ = 1, clashes_ = 0, changes_ = kAll, writes_ = 0;
-    Workers threads_, reading_, writing_, freeing_;
+    int nextNumber_ = 1, clashes_ = 0, changes_ = kAll, writes_ = 0, removals_ = 0;
+    Workers threads_, reading_, writing_, removing_, freeing_;
 };
 
 } // namespace velara

@@ -25,7 +25,7 @@ const Tool* Tools::tool() const
 const Tool* Tools::underWay() const
 {
     if (active_ || open_) return active_ ? active_ : open_;
-    return context_.stores().pastePending ? &pasteRow().tool() : nullptr;
+    return context_.stores().pastePending && context_.hasEngine() ? &pasteRow().tool() : nullptr;
 }
 
 /// Runs a part of an event. False when this object was destroyed by it.

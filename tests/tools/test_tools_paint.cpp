@@ -425,6 +425,8 @@ TEST_F(PaintTools, ADragEndsWithoutACommitWhenAnotherDocumentTakesOver)
         tools->move(Tools::NoButton, 20, 20);
         EXPECT_TRUE(sameBits(before, document.bits()));
         tools->deactivated();
+        EXPECT_FALSE(tools->drop()) << "it hangs on the other one";
+        EXPECT_TRUE(frame.toolStores_.pastePending);
         EXPECT_TRUE(sameBits(before, document.bits()));
         EXPECT_TRUE(sameBits(active, frame.filter_.bits()));
     }

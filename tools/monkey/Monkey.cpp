@@ -118,7 +118,7 @@ void Monkey::timerEvent(QTimerEvent* event)
     if (finished_ || !frame_) return;
     startTimer(0);
     blocks_.beat(std::exchange(doing_, {}));
-    if (resting_) return leaveAll();
+    if (resting_) return void(leaveAll());
     ++depth_;
     step();
     --depth_;
@@ -194,12 +194,14 @@ void Monkey::leaveFront()
 }
 
 /// A gesture holds the queue of its document back; one may be begun by a change that was waiting, such as a paste.
-void Monkey::leaveAll()
+/// True: there was one.
+bool Monkey::leaveAll()
 {
     leaveFront();
+    bool dropped = false;
     for (fImage* image : frame_->documents())
-        for (int i = 0; i < 3 && image->dropGesture(); ++i) {
-        }
+        for (int i = 0; i < 3 && image->dropGesture(); ++i) dropped = true;
+    return dropped;
 }
 
 /// Leaves everything open, then makes the last check; from then on the loops end.

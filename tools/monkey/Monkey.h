@@ -59,7 +59,7 @@ class Monkey final : public QObject {
     void windUp();
 
     void rest();
-    void leaveAll();
+    bool leaveAll();
     bool isAtWork(const fImage& image);
     void check();
     void checkDocument(fImage& image);

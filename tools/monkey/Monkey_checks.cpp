@@ -76,11 +76,15 @@ void Monkey::rest()
         leaveAll();
         frame_->workspace().wait(); // the timer leaves windows and gestures meanwhile
         for (fImage* image : frame_->documents()) {
+            auto* const display = image->findChild<fDisplay*>("iDst");
+            if (!display) continue;
             QEvent leave(QEvent::Leave); // removes the outline around the pointer
-            if (auto* display = image->findChild<QWidget*>("iDst")) QCoreApplication::sendEvent(display, &leave);
+            QCoreApplication::sendEvent(display, &leave);
+            display->showCross({});
         }
         processPending();
-    } while (std::ranges::any_of(frame_->documents(), [this](const fImage* image) { return isAtWork(*image); }));
+    } while (leaveAll() ||
+             std::ranges::any_of(frame_->documents(), [this](const fImage* image) { return isAtWork(*image); }));
     resting_ = before;
 }
 

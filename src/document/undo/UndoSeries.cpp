@@ -221,6 +221,20 @@ bool UndoStore::Series::isThere(const StepNote& note) const
     return std::ranges::count(standing, note.number) + std::ranges::count(pending, note.number, &StepNote::number) > 0;
 }
 
+/// Waits for the writing thread, which has nothing to do with the files after it.
+void UndoStore::Series::remove()
+{
+    abandoned = true;
+    const auto lock = quiet();
+    abandoned = false;
+    if (!mark.stands() && mark.take(files.folder(), files.number()) != UndoMark::Answer::Ours) return;
+    about = {};
+    recorded = false;
+    record.remove();
+    files.removeAll();
+    mark.release();
+}
+
 /// Those that can't be gone to any more have no picture.
 void UndoStore::Series::noteStates()
 {

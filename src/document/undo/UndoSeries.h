@@ -83,6 +83,7 @@ struct UndoStore::Series {
     void noteStates();
     void noteShown() { current = step > 0 ? of(step - 1).note.number : 0; }
     bool isThere(const StepNote& note) const;
+    void remove();
 
     // --- On the writing thread; count is the number of states.
     bool ready();

@@ -267,19 +267,12 @@ void UndoStore::stop()
     series_->quiet();
 }
 
-void UndoStore::deleteSeries()
+void UndoStore::deleteSeries() { series_->remove(); }
+
+std::function<void()> UndoStore::deleteSeriesLater()
 {
     series_->abandoned = true;
-    const auto lock = series_->quiet();
-    series_->abandoned = false;
-    UndoMark& mark = series_->mark;
-    const UndoFiles& files = series_->files;
-    if (!mark.stands() && mark.take(files.folder(), files.number()) != UndoMark::Answer::Ours) return;
-    series_->about = {};
-    series_->recorded = false;
-    series_->record.remove();
-    files.removeAll();
-    mark.release();
+    return [series = std::exchange(series_, std::make_shared<Series>(QString(), number()))] { series->remove(); };
 }
 
 void UndoStore::onFailure(std::function<void(const QString&)> told) { series_->told = std::move(told); }

@@ -119,8 +119,10 @@ class UndoStore {
     void describe(DocumentFacts about);
     /// The same, for the record that the next save() writes.
     void willDescribe(DocumentFacts about);
-    /// Removes every file of the document; queued snapshots are not written.
+    /// Removes every file of the document; queued snapshots are not written. Waits for what is being written.
     void deleteSeries();
+    /// The same for another thread, which alone waits; from now on this one has no steps and keeps none.
+    std::function<void()> deleteSeriesLater();
     /// No more is kept, nor a record; waits for what is being written. The files stay.
     void stop();
 

@@ -35,8 +35,9 @@ HiddenWindows::~HiddenWindows()
         hidden.window->show();
         // The window manager has chosen a new position, but the widget still believes in the old one: moving the widget
         // there would do nothing.
-        if (!(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
-            hidden.window->windowHandle()->setFramePosition(hidden.place);
+        QWindow* const handle = hidden.window->windowHandle(); // a box may have been put into the frame meanwhile
+        if (handle && !(hidden.window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+            handle->setFramePosition(hidden.place);
     }
     if (active_) {
         active_->raise();

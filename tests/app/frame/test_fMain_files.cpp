@@ -175,7 +175,10 @@ TEST_F(FrameTest, YesClosesWhatWasSavedAndNothingElse)
         platform.answers = std::move(answers);
         return frame->GetActiveImage()->parentWidget()->close();
     };
-    const auto files = [&] { return QDir(path("Temp")).entryList({"b*.dat"}, QDir::Files).size(); };
+    const auto files = [&] {
+        frame->workspace().wait();
+        return QDir(path("Temp")).entryList({"b*.dat"}, QDir::Files).size();
+    };
     frame->adopt(randomBits(8, 8, 1), "Scan.bmp");
     EXPECT_FALSE(closes({"yes"})) << "no name";
     EXPECT_FALSE(closes({"yes", path("no/such/folder/b.bmp")}));

@@ -100,6 +100,7 @@ struct Road : FrameTest {
         if (frame)
             for (fImage* image : frame->documents()) image->parentWidget()->close();
         settle();
+        if (frame) frame->workspace().wait(); // their files go in the background
         EXPECT_EQ(files(), QStringList());
     }
     /// Which ends what is under way at once, though the thread may go on.

@@ -50,6 +50,7 @@ TEST_F(SessionEndTest, EachSignalAsksAndCancelKeepsTheProgram)
     platform.answers = {"no"};
     send(SIGTERM);
     EXPECT_FALSE(frame->isVisible());
+    frame->workspace().wait();
     EXPECT_TRUE(QDir(path("Temp")).isEmpty());
 }
 
@@ -69,7 +70,7 @@ TEST_F(SessionEndTest, WhileTheQuestionStandsNothingAsksASecondTime)
     const DocumentHandle other = frame->adopt(randomBits(8, 8, 2), "Other.bmp");
     platform.onAsk = [&] { send(SIGTERM); };
     platform.answers = {"no", "no"};
-    command("CLOSE");
+    frame->Mmenu("CLOSE");
     EXPECT_FALSE(other);
     EXPECT_TRUE(frame->isVisible());
     QCoreApplication::processEvents();

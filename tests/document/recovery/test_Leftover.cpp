@@ -216,6 +216,7 @@ TEST_F(LeftSeries, IsOpenedAsItWasWithItsSteps)
     EXPECT_TRUE(find().empty()) << "its program lives";
     EXPECT_NE(workspace.add(state(1))->DocNumber(), 3);
     workspace.close(opened.document);
+    workspace.wait();
     EXPECT_EQ(left().filter("b0003").size(), 0);
 }
 

@@ -102,6 +102,8 @@ struct Worker {
             diary.note("close", mine);
             workspace.close(document);
             document = {};
+            if (below(3) > 0) return;
+            workspace.wait(); // its files are gone
             return diary.note("done", mine);
         }
         if (below(3) > 0) return;

@@ -5,6 +5,7 @@
 #include "support/fullDisk.h"
 #include "support/pictures.h"
 #include <cstring>
+#include <future>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -275,6 +276,25 @@ TEST_F(UndoStoreTest, SnapshotsAreWrittenInOrderWhileTheOwnerGoesOn)
     expectCounters(10, 10);
     for (int i = 28; i >= 21; --i) EXPECT_TRUE(sameBits(i % 3 ? picture(i) : large, store.undo().value())) << i;
     EXPECT_TRUE(sameBits(picture(19), store.undo().value())) << "20 was undone and cut";
+}
+
+TEST_F(UndoStoreTest, WhoLetsASeriesGoDoesNotWaitForTheDisk)
+{
+    saveMany(0, 2);
+    std::promise<void> goesOn;
+    store.onUnrecorded([wait = goesOn.get_future().share()](const QString&) { wait.wait(); }); // a disk that is slow
+    QDir(folder.path()).mkdir("b0003.rec");
+    store.describe({.isUnsaved = true});
+    store.save(picture(2));
+    const auto remove = store.deleteSeriesLater();
+    expectCounters(0, 0);
+    EXPECT_FALSE(store.mayHaveChanged());
+    EXPECT_EQ(3, store.number());
+    EXPECT_NE(QStringList(), files());
+    QDir(folder.path()).rmdir("b0003.rec");
+    goesOn.set_value();
+    remove();
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST_F(UndoStoreTest, LivingProgramsNeverShareANumber)
