@@ -23,6 +23,7 @@ Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&fi
 Decoded readRaw(FileBytes& file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf(), prepareHeif(), prepareJxl(), prepareSvg();
+Needs prepareTiff(); // has threads started
 
 namespace {
 
@@ -71,7 +72,7 @@ constexpr Reader kReaders[] = {
     {"psd",   rare<byFreeImage<FIF_PSD>>},
     {"ras",   readRas},
     {"tga",   readTga},
-    {"tif",   readTiff},
+    {"tif",   readTiff, prepareTiff},
     {"wbmp",  readWbmp},
     {"pbm",   readPnm},
     {"pgm",   readPnm},
