@@ -130,8 +130,10 @@ Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> byt
 {
     prepareColours();
     const Reader *reader = readerOf(extension.toStdString()), *other = readerOf(markOf(bytes));
-    const Needs needs = reader && reader->prepare ? reader->prepare() : Needs::Nothing;
-    return other && other != reader && other->prepare ? needs | other->prepare() : needs;
+    Needs needs = reader && reader->prepare ? reader->prepare() : Needs::Nothing;
+    if (other && other != reader && other->prepare) needs = needs | other->prepare();
+    constexpr std::size_t kLeastShared = 32 << 10; // decoded sooner by one thread than others are started
+    return bytes.size() < kLeastShared ? without(needs, Needs::Helpers) : needs;
 }
 
 namespace {

@@ -183,13 +183,14 @@ void addOldStrips(std::vector<Trial>& trials, const Kind& kind)
     const std::string strip = oldLzw(anyBytes(bytes, 1));
     const std::size_t offsets = placeOf(bytesOf(file), TIFFTAG_STRIPOFFSETS);
     const std::size_t sizes = placeOf(bytesOf(file), TIFFTAG_STRIPBYTECOUNTS);
-    const std::array<std::uint32_t, 2> put{static_cast<std::uint32_t>(file.size()),
-                                           static_cast<std::uint32_t>(strip.size())};
     for (std::size_t i = 1; i <= count; ++i) {
+        const std::array<std::uint32_t, 2> put{static_cast<std::uint32_t>(file.size()),
+                                               static_cast<std::uint32_t>(strip.size())};
         std::memcpy(file.data() + offsets + 4 * i, put.data(), 4);
         std::memcpy(file.data() + sizes + 4 * i, put.data() + 1, 4);
+        file += strip;
     }
-    trials.push_back({"old strips", file + strip, false});
+    trials.push_back({"old strips", file, false});
 }
 
 std::vector<Trial> allTrials()

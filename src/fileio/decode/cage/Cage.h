@@ -11,6 +11,7 @@ namespace velara::decode {
 /// memory; it limits its time by itself.
 enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4, Encoding = 8, Helpers = 16 };
 constexpr Needs operator|(Needs a, Needs b) { return Needs(unsigned(a) | unsigned(b)); }
+constexpr Needs without(Needs all, Needs part) { return Needs(unsigned(all) & ~unsigned(part)); }
 constexpr bool include(Needs all, Needs part) { return (unsigned(all) & unsigned(part)) == unsigned(part); }
 
 /// The layers; each works without the others.

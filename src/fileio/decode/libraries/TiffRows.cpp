@@ -9,6 +9,8 @@ namespace {
 
 constexpr std::uint64_t kMostInBand = 3ULL << 29; // bytes: the largest picture has that much of three in one strip
 
+constexpr std::uint8_t kUnwritten = 0xa7; // a value, and a difference, that few strips end with
+
 std::uint32_t rowsInBand(const Tiff& tiff, const TiffKind& kind)
 {
     const auto rows = tiff.number<std::uint32_t>(kind.isTiled ? TIFFTAG_TILELENGTH : TIFFTAG_ROWSPERSTRIP, kind.height);
@@ -32,7 +34,10 @@ TiffKind::TiffKind(const Tiff& tiff)
 {
 }
 
-TiffStrips::TiffStrips(const TiffPage& page) : tiff_(page), kind_(tiff_), rows_(rowsInBand(tiff_, kind_))
+TiffStrips::TiffStrips(const TiffPage& page, bool isShared)
+    : tiff_(page), kind_(tiff_), isShared_(isShared),
+      isDifferences_(tiff_.number<std::uint16_t>(TIFFTAG_PREDICTOR, PREDICTOR_NONE) == PREDICTOR_HORIZONTAL),
+      rows_(rowsInBand(tiff_, kind_))
 {
     const auto whole = [](tmsize_t size) {
         if (size <= 0) throw Damage("strips without size");
@@ -55,11 +60,31 @@ TiffStrips::TiffStrips(const TiffPage& page) : tiff_(page), kind_(tiff_), rows_(
 
 TiffStrips::Band TiffStrips::emptyBand() const { return Band(kind_.planes, std::vector<std::uint8_t>(bandBytes_)); }
 
+/// The library takes a stream for whole that is longer than its strip, and may leave the strip's end as it was. False
+/// for few others, which end with that value, too. Lines have so many bytes.
+bool TiffStrips::isWritten(const std::uint8_t* end, std::size_t line) const
+{
+    if (!isShared_) return true;
+    const std::size_t bytes = std::clamp<std::size_t>(kind_.bits / 8, 1, 8);
+    const std::size_t pixel = bytes * (kind_.planes > 1 ? 1 : kind_.samples);
+    const auto sample = [&](const std::uint8_t* from) {
+        std::uint64_t value = 0;
+        std::memcpy(&value, from, bytes);
+        return value;
+    };
+    std::uint64_t last = sample(end - bytes);
+    if (isDifferences_ && line > pixel) last -= sample(end - bytes - pixel);
+    const auto low = static_cast<std::uint8_t>(last), high = static_cast<std::uint8_t>(last >> (bytes - 1) * 8);
+    return low != kUnwritten && high != kUnwritten; // either, as the library may have changed their order
+}
+
 bool TiffStrips::readStrip(std::uint32_t y, std::uint16_t plane, std::uint8_t* to)
 {
-    const std::uint64_t rows = std::min(rows_, kind_.height - y);
+    const std::size_t size = std::min(rows_, kind_.height - y) * stride_;
+    if (isShared_) to[size - 1] = kUnwritten;
     return TIFFReadEncodedStrip(tiff_.get(), TIFFComputeStrip(tiff_.get(), y, plane), to,
-                                static_cast<tmsize_t>(rows * stride_)) >= 0;
+                                static_cast<tmsize_t>(size)) >= 0 &&
+           isWritten(to + size, stride_);
 }
 
 bool TiffStrips::readTiles(std::uint32_t y, std::uint16_t plane, std::uint8_t* to)
@@ -68,7 +93,9 @@ bool TiffStrips::readTiles(std::uint32_t y, std::uint16_t plane, std::uint8_t* t
     const auto line = static_cast<std::size_t>(TIFFTileRowSize(tiff_.get()));
     const std::size_t rows = std::min(rows_, kind_.height - y);
     for (std::uint64_t x = 0; x < kind_.width; x += width, to += line) {
+        if (isShared_) tile_.back() = kUnwritten;
         if (TIFFReadTile(tiff_.get(), tile_.data(), static_cast<std::uint32_t>(x), y, 0, plane) < 0) return false;
+        if (!isWritten(tile_.data() + tile_.size(), line)) return false;
         for (std::size_t row = 0; row < rows; ++row) std::memcpy(to + row * stride_, tile_.data() + row * line, line);
     }
     return true;
@@ -89,18 +116,20 @@ TiffLines::TiffLines(const TiffPage& page) : strips_(page), band_(strips_.emptyB
     if (kind().planes > 1) line_.resize((std::size_t{kind().bits} * kind().samples * kind().width + 7) / 8);
     const TiffBands bands{countOf(kind().height, strips_.rows()), band_.size() * band_[0].size()};
     ahead_ = bandsAhead<TiffStrips>(bands.count, bandsTogether(strips_.tiff(), kind(), bands), band_,
-                                    [&] { return std::make_unique<TiffStrips>(page); });
+                                    [&] { return std::make_unique<TiffStrips>(page, true); });
 }
 
 /// Reads the band, which follows the last one, into now_.
 void TiffLines::take(std::uint32_t band)
 {
+    const bool isLastHere = now_ == &band_;
     now_ = ahead_ ? ahead_->at(band) : nullptr;
     if (now_) return;
-    if (ahead_ && band > 0) strips_.decode(band - 1, band_); // damage leaves parts of what was there before it
-    ahead_.reset();
-    if (!strips_.decode(band, band_) && kind().isTiled) throw Damage("a damaged tile");
+    if (ahead_ && band > 0 && !isLastHere) strips_.decode(band - 1, band_); // damage leaves parts of what was there
     now_ = &band_;
+    if (strips_.decode(band, band_)) return;
+    if (kind().isTiled) throw Damage("a damaged tile");
+    ahead_.reset(); // where there is damage, there may be more: nothing else is decoded twice
 }
 
 const std::uint8_t* TiffLines::next()

@@ -38,22 +38,26 @@ class TiffStrips {
   public:
     using Band = std::vector<std::vector<std::uint8_t>>; // one buffer, or one of each plane
 
-    explicit TiffStrips(const TiffPage& page);
+    /// Shared: with decoders of other bands, so that parts left as they were would show what another band had.
+    explicit TiffStrips(const TiffPage& page, bool isShared = false);
     const Tiff& tiff() const { return tiff_; }
     const TiffKind& kind() const { return kind_; }
     std::uint32_t rows() const { return rows_; }   // in a band; the last one may have fewer
     std::size_t stride() const { return stride_; } // of a line, in bytes
     /// With room for any.
     Band emptyBand() const;
-    /// False where some of it can't be read: of strips the rest is there, and leaves `to` as it was in between.
+    /// False where some of it can't be read: of strips the rest is there, and leaves `to` as it was in between. A
+    /// shared one may say so of a whole band, too.
     bool decode(std::uint32_t band, Band& to);
 
   private:
     bool readStrip(std::uint32_t y, std::uint16_t plane, std::uint8_t* to);
     bool readTiles(std::uint32_t y, std::uint16_t plane, std::uint8_t* to);
+    bool isWritten(const std::uint8_t* end, std::size_t line) const;
 
     Tiff tiff_;
     const TiffKind kind_;
+    const bool isShared_, isDifferences_;
     const std::uint32_t rows_;
     std::size_t stride_ = 0, bandBytes_ = 0;
     std::vector<std::uint8_t> tile_;
