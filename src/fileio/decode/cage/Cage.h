@@ -32,8 +32,8 @@ struct CageState {
     unsigned open = 0;    // layers that the kernel supports but that failed: nothing may be read
 };
 
-/// Activates those of the layers that the kernel supports.
-CageState enterCage(Needs needs, unsigned layers = kAllLayers);
+/// Activates those of the layers that the kernel supports. A reader with helpers has so many threads at most.
+CageState enterCage(Needs needs, unsigned layers = kAllLayers, unsigned threads = ~0U);
 
 /// The layers by their names, separated by commas.
 std::string namesOf(unsigned layers);
