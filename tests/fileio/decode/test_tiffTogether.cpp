@@ -1,7 +1,7 @@
 // TIFFs whose strips or tiles several threads decode, against what one thread makes of them.
-#include "fileio/decode/cage/Helpers.h"
 #include "fileio/decode/decode.h"
 #include "fileio/decode/libraries/tiffTogether.h"
+#include "withHelpers.h"
 #include <QString>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -11,10 +11,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
-#include <sys/wait.h>
-#include <thread>
 #include <tiffio.h>
-#include <unistd.h>
 
 namespace velara::decode {
 
@@ -218,25 +215,17 @@ bool isTogether(const std::string& file)
 
 TEST(TiffTogether, ThreadsMakeWhatOneMakes)
 {
-    if (std::thread::hardware_concurrency() < 2) GTEST_SKIP() << "a single processor";
-    const pid_t inside = fork(); // the helpers live as long as their process
-    if (inside != 0) {
-        int status = 0;
-        waitpid(inside, &status, 0);
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-        return;
-    }
     std::vector<Trial> trials = allTrials();
     for (Trial& trial : trials) trial.alone = outcomeOf(trial.file);
-    startHelpers();
-    for (const Trial& trial : trials) {
-        const Outcome together = outcomeOf(trial.file);
-        EXPECT_EQ(together.words, trial.alone.words) << trial.name;
-        EXPECT_TRUE(together.rows == trial.alone.rows) << trial.name;
-        const bool isWhole = trial.name.find(',') == trial.name.npos;
-        EXPECT_TRUE(!isWhole || isTogether(trial.file) == trial.isTogether) << trial.name;
-    }
-    _exit(::testing::Test::HasFailure() ? 1 : 0);
+    withHelpers([&] {
+        for (const Trial& trial : trials) {
+            const Outcome together = outcomeOf(trial.file);
+            EXPECT_EQ(together.words, trial.alone.words) << trial.name;
+            EXPECT_TRUE(together.rows == trial.alone.rows) << trial.name;
+            const bool isWhole = trial.name.find(',') == trial.name.npos;
+            EXPECT_TRUE(!isWhole || isTogether(trial.file) == trial.isTogether) << trial.name;
+        }
+    });
 }
 
 } // namespace velara::decode

@@ -3,6 +3,7 @@
 #include "fileio/load/WarmReaders.h"
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/iconFile.h"
+#include "pixels/threads/parallelFor.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
@@ -203,6 +204,18 @@ TEST_F(PictureLoader, TheProgramOfTheCommonReadersLeavesOthersToTheOneThatHasAll
         EXPECT_FALSE(reason.isEmpty());
     }
     EXPECT_EQ(3, loadThroughDecoder(put("a.ppm", kPicture), "ppm", alone).bits.width());
+}
+
+// Several jobs share the processors.
+TEST_F(PictureLoader, TheReaderMayHaveAsManyThreadsAsItsProgram)
+{
+    const int all = threadCount();
+    setThreadCount(3);
+    const QString told =
+        loadThroughDecoder(put("x.ppm", kPicture), "ppm", fakeDecoder("opening(0, 0, ' '.join(sys.argv).encode())"))
+            .reason;
+    setThreadCount(all);
+    EXPECT_TRUE(told.contains("threads=3")) << told.toStdString();
 }
 
 // Forks of a loaded reader are as good as readers started anew, and what they can't be asked is done by such.

@@ -18,4 +18,10 @@ unsigned threadsTogether();
 void runTogether(std::uint32_t first, std::uint32_t end,
                  const std::function<void(std::uint32_t item, unsigned thread)>& work);
 
+/// The same in two halves: the helpers begin, and in endTogether the caller takes part. False: nothing is begun, as
+/// there are no helpers or they have work. work has to live until endTogether.
+bool beginTogether(std::uint32_t first, std::uint32_t end,
+                   const std::function<void(std::uint32_t item, unsigned thread)>& work);
+void endTogether();
+
 } // namespace velara::decode

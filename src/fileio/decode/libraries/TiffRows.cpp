@@ -115,8 +115,9 @@ TiffLines::TiffLines(const TiffPage& page) : strips_(page), band_(strips_.emptyB
 {
     if (kind().planes > 1) line_.resize((std::size_t{kind().bits} * kind().samples * kind().width + 7) / 8);
     const TiffBands bands{countOf(kind().height, strips_.rows()), band_.size() * band_[0].size()};
-    ahead_ = bandsAhead<TiffStrips>(bands.count, bandsTogether(strips_.tiff(), kind(), bands), band_,
-                                    [&] { return std::make_unique<TiffStrips>(page, true); });
+    ahead_ = bandsAhead<TiffStrips, TiffStrips::Band>(
+        bands.count, bandsTogether(strips_.tiff(), kind(), bands),
+        [&] { return std::make_unique<TiffStrips>(page, true); }, [&] { return strips_.emptyBand(); });
 }
 
 /// Reads the band, which follows the last one, into now_.
@@ -181,8 +182,9 @@ bool TiffRaster::decode(std::uint32_t band, Band& to)
 TiffColours::TiffColours(const TiffPage& page) : raster_(page), band_(raster_.emptyBand())
 {
     const TiffBands bands{countOf(raster_.height(), raster_.rows()), band_.size() * sizeof band_[0]};
-    ahead_ = bandsAhead<TiffRaster>(bands.count, bandsTogether(raster_.tiff(), TiffKind(raster_.tiff()), bands), band_,
-                                    [&] { return std::make_unique<TiffRaster>(page); });
+    ahead_ = bandsAhead<TiffRaster, TiffRaster::Band>(
+        bands.count, bandsTogether(raster_.tiff(), TiffKind(raster_.tiff()), bands),
+        [&] { return std::make_unique<TiffRaster>(page); }, [&] { return raster_.emptyBand(); });
 }
 
 void TiffColours::skip()

@@ -92,7 +92,7 @@ std::uint32_t bandsTogether(const Tiff& tiff, const TiffKind& kind, TiffBands ba
 {
     const std::uint64_t threads = threadsTogether();
     if (threads == 1 || bands.count < 2 || bands.bytes * bands.count < kLeastBytes) return 0;
-    if (bands.bytes * threads > kMostBytes || !standAlone(tiff, kind)) return 0;
+    if (2 * bands.bytes * threads > kMostBytes || !standAlone(tiff, kind)) return 0;
     const std::uint64_t wanted = threads * std::max<std::uint64_t>(kBytesForThread / bands.bytes, 1);
     return static_cast<std::uint32_t>(std::min<std::uint64_t>(wanted, bands.count));
 }
