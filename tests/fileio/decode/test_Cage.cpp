@@ -110,7 +110,7 @@ TEST(Cage, HelpersShareTheWorkInside)
         std::atomic<int> ahead = 0;
         const std::function<void(std::uint32_t, unsigned)> count = [&](std::uint32_t, unsigned) { ++ahead; };
         const bool hasBegun = beginTogether(0, 1000, count);
-        if (hasBegun != (threadsTogether() > 1)) _exit(5);
+        if (hasBegun != (threadsTogether() > 1) || beginTogether(0, 9, count)) _exit(5);
         for (std::uint32_t round = 1; round < 200; ++round) {
             std::vector<std::atomic<int>> done(round * 7);
             runTogether(3, round * 7, [&](std::uint32_t item, unsigned thread) {
