@@ -5,6 +5,7 @@
 #include "fileio/load/DecodeProtocol.h"
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <csignal>
 #include <cstring>
 #include <sys/mman.h>
@@ -86,12 +87,12 @@ bool tellLastWord(const Decoded& picture)
     return tell(closing);
 }
 
-/// Notes which page is wanted.
-void takePage(const QStringList& wishes)
+/// The number of a wish that has one, at least 1; otherwise: it isn't there.
+int numberOf(const char* name, const QStringList& wishes, int otherwise)
 {
     for (const QString& wish : wishes)
-        if (wish.startsWith(kPageWish))
-            wantedPage = std::max(wish.mid(static_cast<qsizetype>(std::strlen(kPageWish))).toInt(), 1) - 1;
+        if (wish.startsWith(name)) return std::max(wish.mid(static_cast<qsizetype>(std::strlen(name))).toInt(), 1);
+    return otherwise;
 }
 
 /// Fills the slots in turn; waits for the parent when all are full.
@@ -123,13 +124,14 @@ void answer(const QString& extension, const QStringList& wishes)
     void* memory = mmap(nullptr, kMemoryBytes, PROT_READ | PROT_WRITE, MAP_SHARED, kMemory, 0);
     if (memory == MAP_FAILED) return;
     sizeFound = claimSize;
-    takePage(wishes);
+    wantedPage = numberOf(kPageWish, wishes, 1) - 1;
     tellOurFaultsFromTheLibraries();
     FileBytes file(kPicture);
     close(kPicture);
     const Needs needs = prepareReaders(extension, file.bytes());
     if (include(needs, Needs::Fonts)) handOverFonts();
-    const CageState cage = enterCage(needs); // nothing of the file has been looked at yet but its mark
+    const auto threads = static_cast<unsigned>(numberOf(kThreadsWish, wishes, INT_MAX));
+    const CageState cage = enterCage(needs, kAllLayers, threads); // of the file only its mark has been looked at yet
     const Wanted wanted{!wishes.contains(kStoredWish), !wishes.contains(kBareWish), wishes.contains(kTableWish)};
     const Decoded picture =
         cage.open ? refused(QString("its reader could not be locked in (%1)").arg(namesOf(cage.open).c_str()))

@@ -23,6 +23,7 @@ Decoded readWebp(FileBytes&file), readHeif(FileBytes&file), readJxl(FileBytes&fi
 Decoded readRaw(FileBytes& file);
 // What they load from the disk before the cage closes.
 Needs loadQtReaders(), loadIconReaders(), prepareWmf(), prepareEmf(), prepareHeif(), prepareJxl(), prepareSvg();
+Needs prepareJpeg(), prepareTiff(); // have threads started
 
 namespace {
 
@@ -48,6 +49,7 @@ struct Reader {
     std::string_view extension;
     Decoded (*read)(FileBytes& file); // null: the build has no library for it
     Needs (*prepare)() = prepareNothing;
+    std::size_t leastShared = 32 << 10; // bytes: a smaller file is decoded sooner by one thread than others are started
 };
 
 // clang-format off
@@ -61,7 +63,7 @@ constexpr Reader kReaders[] = {
     {"bmp",   readBmp},
     {"cut",   readCut},
     {"iff",   readIff},
-    {"jpg",   readJpeg},
+    {"jpg",   readJpeg, prepareJpeg, 1 << 20},
     {"koa",   readKoala},
     {"lbm",   readIff},
     {"mng",   rare<byFreeImage<FIF_MNG>>},
@@ -71,7 +73,7 @@ constexpr Reader kReaders[] = {
     {"psd",   rare<byFreeImage<FIF_PSD>>},
     {"ras",   readRas},
     {"tga",   readTga},
-    {"tif",   readTiff},
+    {"tif",   readTiff, prepareTiff},
     {"wbmp",  readWbmp},
     {"pbm",   readPnm},
     {"pgm",   readPnm},
@@ -129,8 +131,11 @@ Needs prepareReaders(const QString& extension, std::span<const std::uint8_t> byt
 {
     prepareColours();
     const Reader *reader = readerOf(extension.toStdString()), *other = readerOf(markOf(bytes));
-    const Needs needs = reader && reader->prepare ? reader->prepare() : Needs::Nothing;
-    return other && other != reader && other->prepare ? needs | other->prepare() : needs;
+    const auto needsOf = [&](const Reader* one) {
+        const Needs needs = one && one->prepare ? one->prepare() : Needs::Nothing;
+        return one && bytes.size() < one->leastShared ? without(needs, Needs::Helpers) : needs;
+    };
+    return other == reader ? needsOf(reader) : needsOf(reader) | needsOf(other);
 }
 
 namespace {

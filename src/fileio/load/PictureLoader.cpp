@@ -9,6 +9,7 @@
 #include "fileio/marks.h"
 #include "pixels/memory/MemoryBudget.h"
 #include "pixels/threads/WrittenRows.h"
+#include "pixels/threads/parallelFor.h"
 #include "seams/printable.h"
 #include <QFile>
 #include <QFileInfo>
@@ -297,6 +298,7 @@ try {
     for (const QString& each : {format, mark})
         if (isOff(each)) return {false, QString("limits.conf has turned .%1 files off").arg(each)};
     if (!inSrgb) wishes << decode::kStoredWish;
+    wishes << decode::kThreadsWish + QString::number(threadCount());
     DecoderProcess child(decoder, file, format, wishes, limitsWithin(limits, readPolicy()), goOn);
     if (!child.started()) return {false, "the program that reads pictures (velara-decode) can't be started"};
     return receivePicture(child, capacityOf(format, mark, size), begin);

@@ -3,6 +3,7 @@
 #include "fileio/load/WarmReaders.h"
 #include "fileio/writers/GifWriter.h"
 #include "fileio/writers/iconFile.h"
+#include "pixels/threads/parallelFor.h"
 #include "support/files.h"
 #include "support/pictures.h"
 #include "support/places.h"
@@ -94,12 +95,16 @@ TEST_F(PictureLoader, TellsTheReaderWhatIsWanted)
 {
     const QByteArray script = "opening(0, 0, ' '.join(sys.argv[1:]).encode())\n";
     const QString file = put("x.ppm", kPicture), fake = fakeDecoder(script);
-    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm"));
-    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake, {}, {}, 3).reason.endsWith(": ppm page=3"));
+    const int all = threadCount();
+    setThreadCount(3); // several programs share the processors
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm threads=3"));
+    setThreadCount(1);
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake, {}, {}, 3).reason.endsWith(": ppm page=3 threads=1"));
     readInSrgb(false);
-    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm stored"));
+    EXPECT_TRUE(loadThroughDecoder(file, "ppm", fake).reason.endsWith(": ppm stored threads=1"));
     readInSrgb(true);
-    EXPECT_TRUE(loadSmall(file, "ppm", fake, {9, 9}).reason.endsWith(": ppm bare"));
+    EXPECT_TRUE(loadSmall(file, "ppm", fake, {9, 9}).reason.endsWith(": ppm bare threads=1"));
+    setThreadCount(all);
 }
 
 TEST_F(PictureLoader, SaysWhatIsWrongWithAFile)

@@ -39,7 +39,7 @@ constexpr struct {
 
 } // namespace
 
-CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
+CageState enterCage([[maybe_unused]] Needs needs, unsigned layers, [[maybe_unused]] unsigned threads)
 {
     CageState state;
     const auto close = [&](CageLayer layer, auto&& how) {
@@ -54,7 +54,7 @@ CageState enterCage([[maybe_unused]] Needs needs, unsigned layers)
     close(Landlock, [] { return closePaths({}, Ports::Shut); });
 #ifndef __SANITIZE_ADDRESS__ // the sanitizers inspect memory through pipes and report into files
     if (include(needs, Needs::Drawing)) startTheOneThread();
-    if (include(needs, Needs::Helpers)) startHelpers();
+    if (include(needs, Needs::Helpers)) startHelpers(threads);
     close(Limits, [&] { return done(limitResources(needs, memory)); });
     close(Seccomp, [&] { return done(filterSystemCalls(needs)); });
 #endif

@@ -11,6 +11,7 @@ namespace velara::decode {
 /// memory; it limits its time by itself.
 enum class Needs : unsigned { Nothing = 0, Fonts = 1, Drawing = 3, Solitude = 4, Encoding = 8, Helpers = 16 };
 constexpr Needs operator|(Needs a, Needs b) { return Needs(unsigned(a) | unsigned(b)); }
+constexpr Needs without(Needs all, Needs part) { return Needs(unsigned(all) & ~unsigned(part)); }
 constexpr bool include(Needs all, Needs part) { return (unsigned(all) & unsigned(part)) == unsigned(part); }
 
 /// The layers; each works without the others.
@@ -31,8 +32,8 @@ struct CageState {
     unsigned open = 0;    // layers that the kernel supports but that failed: nothing may be read
 };
 
-/// Activates those of the layers that the kernel supports.
-CageState enterCage(Needs needs, unsigned layers = kAllLayers);
+/// Activates those of the layers that the kernel supports. A reader with helpers has so many threads at most.
+CageState enterCage(Needs needs, unsigned layers = kAllLayers, unsigned threads = ~0U);
 
 /// The layers by their names, separated by commas.
 std::string namesOf(unsigned layers);

@@ -62,10 +62,12 @@ try {
 
 } // namespace
 
-void startHelpers()
+void startHelpers(unsigned threads)
 {
     Team& all = team();
-    const unsigned wanted = std::min(std::max(std::thread::hardware_concurrency(), 1U) - 1, kMost);
+    const unsigned useful = std::min(std::thread::hardware_concurrency(), threads);
+    const unsigned wanted = std::min(std::max(useful, 1U) - 1, kMost);
+    if (wanted == 0) return;
     mallopt(M_ARENA_MAX, 1); // with memory of its own for each thread the C library would open files of the system
     try {
         for (; all.helpers < wanted; ++all.helpers) std::thread(help, all.helpers + 1).detach();
@@ -77,13 +79,10 @@ void startHelpers()
 
 unsigned threadsTogether() { return team().helpers + 1; }
 
-void runTogether(std::uint32_t first, std::uint32_t end, const std::function<void(std::uint32_t, unsigned)>& work)
+bool beginTogether(std::uint32_t first, std::uint32_t end, const std::function<void(std::uint32_t, unsigned)>& work)
 {
     Team& all = team();
-    if (all.helpers == 0 || end <= first + 1) {
-        for (std::uint32_t item = first; item < end; ++item) work(item, 0);
-        return;
-    }
+    if (all.helpers == 0 || all.work) return false;
     {
         const std::lock_guard lock(all.guard);
         all.work = &work;
@@ -93,10 +92,23 @@ void runTogether(std::uint32_t first, std::uint32_t end, const std::function<voi
         ++all.round;
     }
     all.comes.notify_all();
+    return true;
+}
+
+void endTogether()
+{
+    Team& all = team();
     takeItems(all, 0);
     std::unique_lock lock(all.guard);
     all.ends.wait(lock, [&] { return all.busy == 0; });
+    all.work = nullptr;
     if (all.fault) std::rethrow_exception(std::exchange(all.fault, nullptr));
+}
+
+void runTogether(std::uint32_t first, std::uint32_t end, const std::function<void(std::uint32_t, unsigned)>& work)
+{
+    if (end > first + 1 && beginTogether(first, end, work)) return endTogether();
+    for (std::uint32_t item = first; item < end; ++item) work(item, 0);
 }
 
 } // namespace velara::decode

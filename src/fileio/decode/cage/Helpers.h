@@ -5,8 +5,9 @@
 
 namespace velara::decode {
 
-/// One for each processor but the caller's, three at most. To be called once, before threads are forbidden.
-void startHelpers();
+/// One for each processor but the caller's, three at most, and fewer than `threads`. To be called once, before threads
+/// are forbidden.
+void startHelpers(unsigned threads = ~0U);
 
 /// The number of threads that runTogether uses, the caller's included.
 unsigned threadsTogether();
@@ -16,5 +17,11 @@ unsigned threadsTogether();
 /// out. From one thread, and not from inside of work.
 void runTogether(std::uint32_t first, std::uint32_t end,
                  const std::function<void(std::uint32_t item, unsigned thread)>& work);
+
+/// The same in two halves: the helpers begin, and in endTogether the caller takes part. False: nothing is begun, as
+/// there are no helpers or they have work. work has to live until endTogether.
+bool beginTogether(std::uint32_t first, std::uint32_t end,
+                   const std::function<void(std::uint32_t item, unsigned thread)>& work);
+void endTogether();
 
 } // namespace velara::decode

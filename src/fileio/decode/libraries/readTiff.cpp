@@ -265,6 +265,8 @@ try {
 
 } // namespace
 
+Needs prepareTiff() { return Needs::Helpers; }
+
 Decoded readTiff(FileBytes& file)
 try {
     const std::vector<tdir_t> pages = pagesOf(file);

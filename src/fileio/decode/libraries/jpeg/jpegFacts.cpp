@@ -1,4 +1,4 @@
-#include "fileio/decode/libraries/jpegFacts.h"
+#include "fileio/decode/libraries/jpeg/jpegFacts.h"
 #include <map>
 
 namespace velara::decode {
