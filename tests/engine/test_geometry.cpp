@@ -150,6 +150,19 @@ TEST(Geometry, FastWaysAreAsDefined)
             << c.name << ' ' << &c - cases;
 }
 
+/// Sources far from the centre: many of them are in doubt, on both sides of it.
+TEST(Geometry, TwirlsAreAsDefinedWithAllInstructionSets)
+{
+    const Bits wide = randomBits(6001, 101, 14);
+    const Region all = Region::rectangle(0, 0, 6001, 101);
+    for (const int level : {20, -300}) {
+        const Bits wanted = definedResult("TWIRL", wide, all, {level, 7, true});
+        withEachInstructionSet([&] {
+            EXPECT_TRUE(sameBits(wanted, run("TWIRL", {level, 7, true}, wide, all))) << level;
+        });
+    }
+}
+
 /// Targets between pairs of sources, and those of parts that singles are not right for.
 TEST(Geometry, ResizesAreAsDefinedWithAllInstructionSets)
 {

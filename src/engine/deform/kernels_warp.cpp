@@ -41,8 +41,8 @@ struct BlendJob {
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
+#include "pixels/lanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace velara {
