@@ -358,18 +358,6 @@ SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int he
         if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
 }
 
-SourceMask::Holds SourceMask::holds(int left, int top, int right, int bottom) const
-{
-    const int x0 = left >> kCellBits, x1 = (right >> kCellBits) + 1, y0 = top >> kCellBits,
-              y1 = (bottom >> kCellBits) + 1;
-    const auto sum = [&](int x, int y) { return sums_[static_cast<std::size_t>(y) * columns_ + std::size_t(x)]; };
-    const int count = sum(x1, y1) - sum(x0, y1) - sum(x1, y0) + sum(x0, y0);
-    if (count == 0) return Holds::None;
-    const int width = std::min(x1 << kCellBits, width_) - (x0 << kCellBits);
-    const int height = std::min(y1 << kCellBits, height_) - (y0 << kCellBits);
-    return count == width * height ? Holds::All : Holds::Some;
-}
-
 SourcePixels::SourcePixels(const Bits& bits, const Region& region)
     : bits_(bits), rect_(region.bounds().intersected({0, 0, bits.width(), bits.height()})), marked_(false)
 {
