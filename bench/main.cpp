@@ -202,9 +202,10 @@ void write(const std::map<std::string, double>& figures, const std::string& path
     file << "\n}\n";
 }
 
-/// Adds operations without a row, with their typical arguments.
+/// Adds the copy that rows are measured by, and operations without a row, with their typical arguments.
 void addTheOthers()
 {
+    rows().push_back({"copy", "memcpy", 0, 0, [](Size size) { return Timing{copying(size), {}}; }});
     for (const Operation& op : operations()) {
         if (std::ranges::any_of(rows(), [&](const Row& row) { return row.operation == op.name; })) continue;
         rows().push_back(operation("not rated", 0, 0, std::string(op.name), typicalArguments(op)));

@@ -275,8 +275,10 @@ class cBitFilter {
     /// piece(a, b) for the rows a to b-1, of the rows y0 to y1-1 of a picture; then, in order, progress of its rows.
     void eachPiece(int y0, int y1, Cut cut, const Bits& picture, const std::function<void(int a, int b)>& piece);
     Bits rankFilter(int Mode, RankWindow window);
+    template <class Band> Bits eachBand(int rows, Band&& band);
     template <class Run> Bits eachTile(int rows, Run&& run);
     template <class Map> Bits eachSource(bool Clean, Map&& map, int rows = 64);
+    template <class Map, class Settle> Bits eachSettledSource(bool Clean, Map&& map, Settle&& settle);
     /// eachSource for the sources (columns[x], rows[y]).
     Bits eachCrossing(bool Clean, const std::vector<std::int32_t>& columns, const std::vector<std::int32_t>& rows);
     template <class Kernel> Bits eachOfDisc(const Disc& disc, double limit, Kernel&& kernel);

@@ -35,6 +35,15 @@ struct Axis {
         for (int i = 0; i < static_cast<int>(at.size()) - kBlended; ++i)
             if (!isClear(beyond[i])) unclear.push_back(i);
     }
+    /// Whether all targets but the first lie between pairs of sources beside one another, with clear parts.
+    bool isOfPairs() const
+    {
+        const int count = static_cast<int>(at.size()) - kBlended;
+        if (count <= kLeastOfPairs || !unclear.empty()) return false;
+        for (int i = 2; i < count; ++i)
+            if (at[i] != at[i - 1] + 2) return false;
+        return true;
+    }
 };
 
 /// A row of targets, a few at a time: the pixels of the source that they lie between, blended from two rows, stay in
@@ -67,6 +76,13 @@ class RowBlender {
         return line_.data();
     }
 
+    /// Its first pixel alone.
+    Pixel first(const Pixel* upper, const Pixel* lower, double part)
+    {
+        blendRowsExactly(upper, lower, part, 2, blended_.data());
+        return blendColumn(blended_.data(), columns_.beyond[0]);
+    }
+
   private:
     const Axis& columns_;
     const int width_;
@@ -88,11 +104,18 @@ void cBitFilter::BitsResample(const Bits& Source, int NewWidth, int NewHeight)
     Bits out = Bits::uninitialized(NewWidth, NewHeight);
     clearMargin(out);
     const WrittenRows targets(out);
-    const auto copy = out.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    const bool streams = out.sizeInBytes() >= kPastTheCache, ofPairs = columns.isOfPairs();
+    const auto copy = streams ? streamPixels : copyPixels;
     Copies<RowBlender> blenders([&] { return RowBlender(columns, NewWidth); });
     eachPiece(0, NewHeight, {}, out, [&](int y, int) {
+        const Pixel *const upper = in.row(rows.at[y]), *const lower = in.row(rows.at[y] + 1);
+        const double part = rows.beyond[y];
         blenders.lend([&](RowBlender& own) {
-            copy(own.row(in.row(rows.at[y]), in.row(rows.at[y] + 1), rows.beyond[y]), targets.row(y), 0, NewWidth);
+            if (!ofPairs || !isClear(part)) return copy(own.row(upper, lower, part), targets.row(y), 0, NewWidth);
+            const int first = columns.at[1];
+            blendPairs(upper + first, lower + first, part, columns.single.data() + 1, NewWidth - 1, streams,
+                       targets.row(y) + 1);
+            targets.row(y)[0] = own.first(upper, lower, part);
         });
     });
     bits_ = out;

@@ -4,8 +4,8 @@
 #include "pixels/threads/Copies.h"
 #include "pixels/threads/inWaves.h"
 #include "pixels/threads/parallelFor.h"
-#include "reduce/DotScreen.h"
 #include "reduce/ErrorMatch.h"
+#include "reduce/mixing/DotScreen.h"
 #include <algorithm>
 #include <span>
 #include <utility>

@@ -1,8 +1,8 @@
 // Maps a picture to a palette, with the choice of how the quantisation error is spread.
 #pragma once
 #include "pixels/IndexedPicture.h"
-#include "reduce/DotScreen.h"
 #include "reduce/EuroDepth.h"
+#include "reduce/mixing/DotScreen.h"
 
 namespace velara {
 

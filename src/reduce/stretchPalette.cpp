@@ -1,6 +1,6 @@
 #include "reduce/stretchPalette.h"
 #include "pixels/IndexedPicture.h"
-#include "reduce/ColourMixer.h"
+#include "reduce/mixing/ColourMixer.h"
 #include <algorithm>
 #include <array>
 #include <cmath>

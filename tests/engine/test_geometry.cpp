@@ -1,6 +1,7 @@
 // The operations that crop, rotate and resize, where their rules are easy to miss.
 #include "support/faults.h"
 #include "support/filterOf.h"
+#include "support/instructionSets.h"
 #include "support/pictures.h"
 #include "tools/reference/definitions.h"
 
@@ -147,6 +148,35 @@ TEST(Geometry, FastWaysAreAsDefined)
         EXPECT_TRUE(
             sameBits(definedResult(c.name, c.bits, c.region, c.arguments), run(c.name, c.arguments, c.bits, c.region)))
             << c.name << ' ' << &c - cases;
+}
+
+/// Sources far from the centre: many of them are in doubt, on both sides of it.
+TEST(Geometry, TwirlsAreAsDefinedWithAllInstructionSets)
+{
+    const Bits wide = randomBits(6001, 101, 14);
+    const Region all = Region::rectangle(0, 0, 6001, 101);
+    for (const int level : {20, -300}) {
+        const Bits wanted = definedResult("TWIRL", wide, all, {level, 7, true});
+        withEachInstructionSet([&] {
+            EXPECT_TRUE(sameBits(wanted, run("TWIRL", {level, 7, true}, wide, all))) << level;
+        });
+    }
+}
+
+/// Targets between pairs of sources, and those of parts that singles are not right for.
+TEST(Geometry, ResizesAreAsDefinedWithAllInstructionSets)
+{
+    const Bits small = randomBits(451, 333, 11), even = randomBits(450, 60, 12), large = randomBits(8200, 1031, 13);
+    const struct {
+        const Bits& bits;
+        int width, height;
+    } cases[] = {{small, 225, 166}, {even, 225, 30}, {even, 17, 29}, {large, 4100, 1030}, {small, 1371, 1000}};
+    for (const auto& c : cases) {
+        const Arguments size{c.width, c.height};
+        const Bits wanted = definedResult("BitsResample", c.bits, {}, size);
+        withEachInstructionSet(
+            [&] { EXPECT_TRUE(sameBits(wanted, run("BitsResample", size, c.bits, {}))) << c.width; });
+    }
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 #include "pixels/threads/parallelFor.h"
 #include "reduce/bestColours.h"
 #include "reduce/dither.h"
+#include "reduce/mixing/ColourMixer.h"
 #include "reduce/reduceColours.h"
+#include "support/instructionSets.h"
 #include "support/pictures.h"
 #include <array>
 #include <cmath>
@@ -217,6 +219,56 @@ TEST(Dither, DiffusedErrorSparesPlainPlaces)
                 ASSERT_EQ(1, indices[std::size_t(i)]) << int(dither) << " at " << i % 64 << ',' << i / 64;
             }
     }
+}
+
+/// Of very many colours, some of them the palette's; the runs of pixels whose mixtures are made together are cut off.
+TEST(Dither, ScreensAreTheSameWithAllInstructionSetsAndSparePaletteColours)
+{
+    const Palette palette = fixedColours(256);
+    Bits picture = randomBits(1500, 40, 5);
+    for (int x = 0; x < 1500; x += 7) picture.row(x % 40)[x] = pixelFor(palette[std::size_t(x) % palette.size()]);
+    for (const Dither dither : {Dither::Ordered, Dither::Haftone}) {
+        const auto best = dithered(picture, palette, dither).indices;
+        withEachInstructionSet([&] { EXPECT_EQ(best, dithered(picture, palette, dither).indices) << int(dither); });
+        for (int x = 0; x < 1500; x += 7)
+            EXPECT_EQ(int(std::size_t(x) % palette.size()), best[std::size_t(x % 40 * 1500 + x)]) << x;
+    }
+}
+
+TEST(Dither, MixturesMadeTogetherAreThoseOfEach)
+{
+    const Bits colours = randomBits(130, 1, 6);
+    std::vector<Pixel> palette;
+    for (const Colour c : fixedColours(64)) palette.push_back(pixelFor(c));
+    ColourMixer together(palette, {0.05F, 40}), single(palette, {0.05F, 40});
+    std::vector<ColourMixer::Mixture> mixtures(130);
+    together.mixtures(colours.row(0), 130, mixtures.data());
+    for (int i = 0; i < 130; ++i) {
+        const auto wanted = single(colours.row(0)[i]);
+        EXPECT_TRUE(wanted.count == mixtures[std::size_t(i)].count &&
+                    wanted.entries == mixtures[std::size_t(i)].entries &&
+                    wanted.parts == mixtures[std::size_t(i)].parts)
+            << i;
+    }
+}
+
+TEST(Dither, MixturesOfNearEntriesHaveLessContrast)
+{
+    std::vector<Pixel> palette;
+    for (const Colour c : fixedColours(64)) palette.push_back(pixelFor(c));
+    const auto variance = [&](float close) {
+        ColourMixer mixer(palette, {0.05F, close});
+        double sum = 0;
+        for (int level = 3; level < 256; level += 11) {
+            const Pixel colour = pixelFor(colourOf(level, 255 - level, level / 2 + 40));
+            const auto mixture = mixer(colour);
+            for (std::size_t i = 0; i < mixture.count; ++i)
+                for (std::size_t c = 0; c < 3; ++c)
+                    sum += mixture.parts[i] * std::pow(palette[mixture.entries[i]].c[c] - colour.c[c], 2);
+        }
+        return sum;
+    };
+    EXPECT_LT(variance(20000), 0.95 * variance(0));
 }
 
 TEST(Palettes, AnEvenSpreadForEveryCount)

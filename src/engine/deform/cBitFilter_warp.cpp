@@ -63,13 +63,14 @@ class TwirlSources {
     {
         for (int r = 0; isSafe_ && r <= longest_ + kPlaces; ++r) { // the last vector of a row reads beyond it
             const double angle = offset_ - r * static_cast<double>(k_);
-            exactTurns_.push_back({std::cos(angle), std::sin(angle)});
-            turns_.push_back(static_cast<float>(exactTurns_.back().cosine));
-            turns_.push_back(static_cast<float>(exactTurns_.back().sine));
+            for (const double part : {std::cos(angle), std::sin(angle)}) {
+                exactTurns_.push_back(part);
+                turns_.push_back(static_cast<float>(part));
+            }
         }
     }
-    /// Those of the n <= kPlaces targets from (x0, y) on.
-    void places(int x0, int y, int n, std::int32_t* sx, std::int32_t* sy) const
+    /// Those of the n <= kPlaces targets from (x0, y) on, with a bit for each that is in doubt.
+    std::uint64_t places(int x0, int y, int n, std::int32_t* sx, std::int32_t* sy) const
     {
         // In the kernel: three steps of the scale, less than one of sine and cosine, and four of products and sums.
         constexpr double kOfKernel = 3 + 0.75 + 4 + 0.25;
@@ -77,17 +78,21 @@ class TwirlSources {
             return static_cast<float>(ofDefinition + kOfKernel * kStep);
         };
         const Twirl twirl{cx_, cy_, turns_.data(), tolerance(errorLeft()), tolerance(errorRight())};
-        const std::uint64_t doubtful = isSafe_ ? twirlPlaces(twirl, x0, y, n, sx, sy) : kAllPlaces;
-        eachPlace(doubtful, n, [&](int i) { std::tie(sx[i], sy[i]) = sourceOf(x0 + i - cx_, y - cy_); });
+        return isSafe_ ? twirlPlaces(twirl, x0, y, n, sx, sy) : kAllPlaces;
+    }
+    /// Those of the n <= kPlaces targets (xs, ys), which become places from the centre.
+    void settle(std::int32_t* xs, std::int32_t* ys, int n, std::int32_t* sx, std::int32_t* sy) const
+    {
+        for (int i = 0; i < kPlaces; ++i) {
+            xs[i] -= cx_;
+            ys[i] -= cy_;
+        }
+        const ExactTwirl twirl{cx_, cy_, exactTurns_.data(), k_, kMissing};
+        const std::uint64_t doubtful = isSafe_ ? twirlPlacesExactly(twirl, xs, ys, n, sx, sy) : kAllPlaces;
+        eachPlace(doubtful, n, [&](int i) { std::tie(sx[i], sy[i]) = sourceOf(xs[i], ys[i]); });
     }
 
   private:
-    struct SineAndCosine {
-        double cosine, sine;
-    };
-    struct Place { // from the centre
-        double x, y;
-    };
     /// What the rounding steps of the definition move a place by, per pixel of the radius: one of the angle from the
     /// centre, and one of its sum with what is added. Angles to the right of the centre lie within -pi/2..pi/2, those
     /// to the left within pi/2..3 pi/2; those of the column between are off by kMissing / 2.
@@ -95,49 +100,23 @@ class TwirlSources {
     double errorLeft() const { return std::max(4.7125 * kStep, kMissing / 2) + (4.7125 + added_) * kStep; }
 
     using Source = std::pair<std::int32_t, std::int32_t>;
-    /// In doubles from the table, and where that is too close to a half, as it is defined.
+    /// As it is defined.
     Source sourceOf(int dx, int dy) const
     {
-        const double radius = radiusOf(dx, dy);
-        const int r = roundEven(radius);
+        const int r = roundEven(radiusOf(dx, dy));
         if (r == 0) return {cx_, cy_};
-        if (isSafe_ && dx != 0) {
-            const SineAndCosine turn = exactTurns_[static_cast<std::size_t>(r)];
-            const double scale = r / radius;
-            const Place turned{scale * (dx * turn.cosine - dy * turn.sine),
-                               scale * (dx * turn.sine + dy * turn.cosine)};
-            const double missing = dx < 0 ? kMissing : 0; // of the definition's angle
-            Place place = turnedOn(turned, -missing);
-            if (isSure(place, (dx < 0 ? errorLeft() : errorRight()) * r + kOfDoubles)) return rounded(place);
-            // Now with the definition's roundings, too.
-            const double at = std::atan(static_cast<double>(dy) / dx) + (dx < 0 ? kPi : 0);
-            const double single = static_cast<float>(at), sum = single - r * static_cast<double>(k_);
-            place = turnedOn(turned, (single - at) + (static_cast<double>(static_cast<float>(sum)) - sum) - missing);
-            if (isSure(place, kOfDoubles)) return rounded(place);
-        }
         const double t = static_cast<float>(cBitFilter::Angle(dx, dy) - r * static_cast<double>(k_));
         return {roundEven(r * std::cos(t + offset_) + cx_), roundEven(r * std::sin(t + offset_) + cy_)};
     }
 
-    static Place turnedOn(const Place& p, double angle) // of less than 1e-5
-    {
-        const double less = 1 - angle * angle / 2;
-        return {p.x * less - p.y * angle, p.y * less + p.x * angle};
-    }
-    static bool isSure(const Place& p, double tolerance)
-    {
-        return std::abs(p.x - roundToEven(p.x)) < 0.5 - tolerance && std::abs(p.y - roundToEven(p.y)) < 0.5 - tolerance;
-    }
-    Source rounded(const Place& p) const { return {roundEven(p.x) + cx_, roundEven(p.y) + cy_}; }
-
-    static constexpr double kMissing = std::numbers::pi - kPi, kOfDoubles = 1e-8;
+    static constexpr double kMissing = std::numbers::pi - kPi;
 
     const int cx_, cy_;
     const float k_, offset_;
     const double longest_, added_;
     const bool isSafe_;
-    std::vector<SineAndCosine> exactTurns_; // by the radius: of what is added to the angle
-    std::vector<float> turns_;              // the same in pairs
+    std::vector<double> exactTurns_; // by the radius: cosine and sine of what is added to the angle
+    std::vector<float> turns_;
 };
 
 } // namespace
@@ -145,8 +124,12 @@ class TwirlSources {
 Bits cBitFilter::TWIRL(int Level, int OffsetDegrees, bool Clean)
 {
     const TwirlSources sources(bits_, Level, OffsetDegrees);
-    return eachSource(
-        Clean, [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) { sources.places(x0, y, n, sx, sy); });
+    return eachSettledSource(
+        Clean,
+        [&](int y, int x0, int n, std::int32_t* sx, std::int32_t* sy) { return sources.places(x0, y, n, sx, sy); },
+        [&](std::int32_t* xs, std::int32_t* ys, int n, std::int32_t* sx, std::int32_t* sy) {
+            sources.settle(xs, ys, n, sx, sy);
+        });
 }
 
 Bits cBitFilter::LENS(float CenterX, float CenterY, float Radius, int Magnify)

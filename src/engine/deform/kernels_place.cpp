@@ -7,7 +7,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
+#include "pixels/lanes-inl.h"
+#include <hwy/contrib/math/math-inl.h>
 
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
@@ -173,6 +174,50 @@ std::uint64_t twirlPlacesImpl(const Twirl& twirl, int x0, int y, int n, std::int
     return doubtful;
 }
 
+std::uint64_t twirlPlacesExactlyImpl(const ExactTwirl& twirl, const std::int32_t* dx, const std::int32_t* dy, int n,
+                                     std::int32_t* sx, std::int32_t* sy)
+{
+    const Doubles d;
+    const HalfWords words;
+    const hn::Rebind<float, Doubles> singles;
+    const hn::RebindToSigned<Doubles> indices;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto zero = hn::Zero(d), one = hn::Set(d, 1.0), half = hn::Set(d, 0.5);
+    const auto k = hn::Set(d, twirl.k), pi = hn::Set(d, double{kPi}), missing = hn::Set(d, twirl.missing);
+    const auto ofAngle = hn::Set(d, 4e-15); // three last places of half a turn, and its sum
+    const auto sure = hn::Set(d, 0.5 - ExactTwirl::kTolerance);
+    const auto single = [&](auto v) HWY_ATTR { return hn::PromoteTo(d, hn::DemoteTo(singles, v)); };
+    std::uint64_t doubtful = 0;
+    for (int i = 0; i < n; i += lanes) {
+        const auto x = hn::PromoteTo(d, hn::LoadU(words, dx + i)), y = hn::PromoteTo(d, hn::LoadU(words, dy + i));
+        const auto radius = hn::Sqrt(hn::Add(hn::Mul(x, x), hn::Mul(y, y))), r = hn::Round(radius);
+        const auto entry = hn::ShiftLeft<1>(hn::ConvertTo(indices, r));
+        const auto c = hn::GatherIndex(d, twirl.turns, entry), s = hn::GatherIndex(d, twirl.turns + 1, entry);
+        const auto scale = hn::Div(r, hn::Max(radius, half));
+        const auto turnedX = hn::Mul(scale, hn::Sub(hn::Mul(x, c), hn::Mul(y, s)));
+        const auto turnedY = hn::Mul(scale, hn::Add(hn::Mul(x, s), hn::Mul(y, c)));
+        // The definition's angle is a single, and so is its sum with what is added.
+        const auto isLeft = hn::Lt(x, zero);
+        const auto angle = hn::Add(hn::Atan(d, hn::Div(y, x)), hn::IfThenElseZero(isLeft, pi));
+        const auto rounded = single(angle);
+        const auto isClear = hn::Eq(single(hn::Sub(angle, ofAngle)), single(hn::Add(angle, ofAngle)));
+        const auto sum = hn::Sub(rounded, hn::Mul(r, k));
+        const auto by =
+            hn::Sub(hn::Add(hn::Sub(rounded, angle), hn::Sub(single(sum), sum)), hn::IfThenElseZero(isLeft, missing));
+        const auto less = hn::Sub(one, hn::Mul(half, hn::Mul(by, by)));
+        const auto ox = hn::Sub(hn::Mul(turnedX, less), hn::Mul(turnedY, by));
+        const auto oy = hn::Add(hn::Mul(turnedY, less), hn::Mul(turnedX, by));
+        const auto roundX = hn::Round(ox), roundY = hn::Round(oy);
+        const auto farthest = hn::Max(hn::Abs(hn::Sub(ox, roundX)), hn::Abs(hn::Sub(oy, roundY)));
+        const auto settled =
+            hn::And(hn::And(hn::Lt(farthest, sure), isClear), hn::And(hn::Ne(x, zero), hn::Gt(r, zero)));
+        hn::StoreU(hn::Add(hn::DemoteTo(words, roundX), hn::Set(words, twirl.cx)), words, sx + i);
+        hn::StoreU(hn::Add(hn::DemoteTo(words, roundY), hn::Set(words, twirl.cy)), words, sy + i);
+        doubtful |= laneBits(d, hn::Not(settled)) << i;
+    }
+    return doubtful;
+}
+
 /// atan of 0..1, within 2e-7.
 template <class D, class V> V arcTangent(D d, V v)
 {
@@ -326,6 +371,7 @@ HWY_EXPORT(straightPlacesImpl);
 HWY_EXPORT(lineOfSplitPlacesImpl);
 HWY_EXPORT(productsToPlacesImpl);
 HWY_EXPORT(twirlPlacesImpl);
+HWY_EXPORT(twirlPlacesExactlyImpl);
 HWY_EXPORT(bendPlacesImpl);
 HWY_EXPORT(waveOffsetsImpl);
 HWY_EXPORT(lensPlacesImpl);
@@ -356,6 +402,12 @@ void productsToPlaces(const double* factors, double d, double centre, int n, std
 std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)
 {
     return HWY_DYNAMIC_DISPATCH(twirlPlacesImpl)(twirl, x0, y, n, sx, sy);
+}
+
+std::uint64_t twirlPlacesExactly(const ExactTwirl& twirl, const std::int32_t* dx, const std::int32_t* dy, int n,
+                                 std::int32_t* sx, std::int32_t* sy)
+{
+    return HWY_DYNAMIC_DISPATCH(twirlPlacesExactlyImpl)(twirl, dx, dy, n, sx, sy);
 }
 
 std::uint64_t bendPlaces(const Bend& bend, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy)

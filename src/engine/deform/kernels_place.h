@@ -39,6 +39,22 @@ struct Twirl {
 /// target to be recomputed.
 std::uint64_t twirlPlaces(const Twirl& twirl, int x0, int y, int n, std::int32_t* sx, std::int32_t* sy);
 
+/// The same in double: the angle that is added is -k a pixel of the radius, and to the left of the centre those of the
+/// definition are less than they should be by `missing`.
+struct ExactTwirl {
+    static constexpr double kTolerance = 1e-8; // of the result
+
+    int cx, cy;
+    const double* turns;
+    double k, missing;
+};
+
+/// For n <= kPlaces targets anywhere, (dx, dy) from the centre, with the roundings of the definition, which has angles
+/// in single. The arrays are padded to whole vectors, by places within the table. Returns a bit for each target that is
+/// still in doubt.
+std::uint64_t twirlPlacesExactly(const ExactTwirl& twirl, const std::int32_t* dx, const std::int32_t* dy, int n,
+                                 std::int32_t* sx, std::int32_t* sy);
+
 /// A bend: k is pixels of height per pixel of radius.
 struct Bend {
     int cx, cy, maxX, maxY;

@@ -5,8 +5,8 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
+#include "pixels/lanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {

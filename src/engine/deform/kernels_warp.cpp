@@ -2,6 +2,7 @@
 #include "engine/deform/passes_warp.h"
 #include "pixels/numbers.h"
 #include <type_traits>
+#include <utility>
 
 #ifndef VELARA_KERNELS_WARP_TYPES
 #define VELARA_KERNELS_WARP_TYPES
@@ -41,8 +42,8 @@ struct BlendJob {
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
+#include "pixels/lanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace velara {
@@ -329,33 +330,32 @@ SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int he
       sums_(columns_ * (static_cast<std::size_t>(height >> kCellBits) + 2))
 {
     constexpr int kCell = 1 << kCellBits;
+    std::vector<std::int32_t> more(columns_); // by cell: how many pixels more than the one before it has of whole spans
     for (int y = rect.top; y < rect.bottom; ++y) {
         std::uint32_t* bits = bits_.data() + static_cast<std::size_t>(y) * words_;
         std::int32_t* counts = sums_.data() + (static_cast<std::size_t>(y >> kCellBits) + 1) * columns_ + 1;
         for (const Span s : region.spans(y)) {
             const int x0 = std::max(s.x0, rect.left), x1 = std::min(s.x1, rect.right);
-            for (int x = x0; x < x1; x = (x | 31) + 1) {
-                const int n = std::min(x1, (x | 31) + 1) - x;
-                bits[x >> 5] |= (n == 32 ? ~0U : (1U << n) - 1) << (x & 31);
+            if (x0 >= x1) continue;
+            const int word = x0 >> 5, lastWord = (x1 - 1) >> 5;
+            const std::uint32_t first = ~0U << (x0 & 31), last = ~0U >> (31 - ((x1 - 1) & 31));
+            bits[word] |= word == lastWord ? first & last : first;
+            if (word < lastWord) {
+                std::fill(bits + word + 1, bits + lastWord, ~0U);
+                bits[lastWord] |= last;
             }
-            for (int x = x0; x < x1; x = (x | (kCell - 1)) + 1)
-                counts[x >> kCellBits] += std::min(x1, (x | (kCell - 1)) + 1) - x;
+            const int cell = x0 >> kCellBits, lastCell = x1 >> kCellBits; // the latter has what is beyond whole cells
+            counts[cell] -= x0 & (kCell - 1);
+            counts[lastCell] += x1 & (kCell - 1);
+            more[std::size_t(cell)] += kCell;
+            more[std::size_t(lastCell)] -= kCell;
         }
+        if ((y & (kCell - 1)) != kCell - 1 && y + 1 < rect.bottom) continue;
+        std::int32_t whole = 0;
+        for (std::size_t i = 0; i + 1 < columns_; ++i) counts[i] += whole += std::exchange(more[i], 0);
     }
     for (std::size_t i = columns_; i < sums_.size(); ++i) // the first column stays 0: nothing is to its left
         if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
-}
-
-SourceMask::Holds SourceMask::holds(int left, int top, int right, int bottom) const
-{
-    const int x0 = left >> kCellBits, x1 = (right >> kCellBits) + 1, y0 = top >> kCellBits,
-              y1 = (bottom >> kCellBits) + 1;
-    const auto sum = [&](int x, int y) { return sums_[static_cast<std::size_t>(y) * columns_ + std::size_t(x)]; };
-    const int count = sum(x1, y1) - sum(x0, y1) - sum(x1, y0) + sum(x0, y0);
-    if (count == 0) return Holds::None;
-    const int width = std::min(x1 << kCellBits, width_) - (x0 << kCellBits);
-    const int height = std::min(y1 << kCellBits, height_) - (y0 << kCellBits);
-    return count == width * height ? Holds::All : Holds::Some;
 }
 
 SourcePixels::SourcePixels(const Bits& bits, const Region& region)

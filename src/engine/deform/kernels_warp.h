@@ -4,6 +4,7 @@
 #include "pixels/Bits.h"
 #include "pixels/threads/WrittenRows.h"
 #include "region/Region.h"
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -19,7 +20,17 @@ class SourceMask {
     SourceMask(const Region& region, const Rect& rect, int width, int height);
 
     /// Whether the pixels of the box, which lies inside the picture, are selected; Some when unsure.
-    Holds holds(int left, int top, int right, int bottom) const; // both ends inclusive
+    Holds holds(int left, int top, int right, int bottom) const // both ends inclusive
+    {
+        const int x0 = left >> kCellBits, x1 = (right >> kCellBits) + 1, y0 = top >> kCellBits,
+                  y1 = (bottom >> kCellBits) + 1;
+        const auto sum = [&](int x, int y) { return sums_[static_cast<std::size_t>(y) * columns_ + std::size_t(x)]; };
+        const int count = sum(x1, y1) - sum(x0, y1) - sum(x1, y0) + sum(x0, y0);
+        if (count == 0) return Holds::None;
+        const int width = std::min(x1 << kCellBits, width_) - (x0 << kCellBits);
+        const int height = std::min(y1 << kCellBits, height_) - (y0 << kCellBits);
+        return count == width * height ? Holds::All : Holds::Some;
+    }
 
     /// -1 for a selected pixel, 0 for another.
     std::int32_t at(int x, int y) const

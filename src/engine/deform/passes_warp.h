@@ -4,6 +4,7 @@
 #include "engine/deform/kernels_warp.h"
 #include "engine/passes.h"
 #include "pixels/numbers.h"
+#include <array>
 #include <bit>
 #include <cmath>
 
@@ -73,9 +74,9 @@ template <class Run> void inTiles(const Box& box, int y0, int y1, const WrittenR
         }
 }
 
-/// The targets of the box inside the picture, in tiles of the given number of rows. run(target row, x0, n, y) writes
-/// all four bytes of n <= kPlaces pixels from (x0, y) on; pixels outside of the box are copied.
-template <class Run> Bits cBitFilter::eachTile(int rows, Run&& run)
+/// The targets of the box inside the picture, in bands of so many rows: band(box, y0, y1, to) writes all four bytes of
+/// the box's pixels in the rows y0 to y1-1; pixels outside of the box are copied.
+template <class Band> Bits cBitFilter::eachBand(int rows, Band&& band)
 {
     const Bits in = bits_;
     const Box box = insidePicture(GetBounds(0), in);
@@ -87,7 +88,7 @@ template <class Run> Bits cBitFilter::eachTile(int rows, Run&& run)
     copyRows(in, out, -Bits::kMargin, box.ymin);
     const WrittenRows to(out);
     eachPiece(box.ymin, box.ymax + 1, {rows, box.ymin}, in, [&](int y0, int y1) {
-        inTiles(box, y0, y1, to, [&](int x0, int n, int y) { run(to.row(y), x0, n, y); });
+        band(box, y0, y1, to);
         for (int y = y0; y < y1; ++y) {
             copyPixels(in.row(y), to.row(y), -Bits::kMargin, box.xmin);
             copyPixels(in.row(y), to.row(y), box.xmax + 1, in.width() + Bits::kMargin);
@@ -96,6 +97,14 @@ template <class Run> Bits cBitFilter::eachTile(int rows, Run&& run)
     copyRows(in, out, box.ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;
+}
+
+/// The same in tiles of the given number of rows: run(target row, x0, n, y) writes n <= kPlaces pixels from (x0, y) on.
+template <class Run> Bits cBitFilter::eachTile(int rows, Run&& run)
+{
+    return eachBand(rows, [&](const Box& box, int y0, int y1, const WrittenRows& to) {
+        inTiles(box, y0, y1, to, [&](int x0, int n, int y) { run(to.row(y), x0, n, y); });
+    });
 }
 
 /// Each target of the box takes the pixel at the source position of map, if the region contains that position;
@@ -109,6 +118,71 @@ template <class Map> Bits cBitFilter::eachSource(bool Clean, Map&& map, int rows
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         map(y, x0, n, sx, sy);
         source.take(sx, sy, n, in.row(y) + x0, Clean, to + x0);
+    });
+}
+
+/// Runs of a tile whose sources are known, but for some that are in doubt: too few in one run to fill vectors.
+struct Unsettled {
+    static constexpr int kRuns = 16;
+
+    struct Run {
+        alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
+        int x0, n, y;
+    };
+    struct Place {
+        int run, i;
+    };
+    std::array<Run, kRuns> runs;
+    std::array<Place, kRuns * kPlaces> places;
+    int count = 0, doubts = 0; // of runs and of places
+
+    /// Calls settle(xs, ys, n, sx, sy) for at most kPlaces targets at a time; the arrays are padded by the last one.
+    template <class Settle> void settleAll(Settle&& settle)
+    {
+        alignas(64) std::int32_t xs[kPlaces], ys[kPlaces], sx[kPlaces], sy[kPlaces];
+        for (int first = 0; first < doubts; first += kPlaces) {
+            const int n = std::min(kPlaces, doubts - first);
+            const Place* const part = places.data() + first;
+            for (int j = 0; j < kPlaces; ++j) {
+                const Place& p = part[std::min(j, n - 1)];
+                xs[j] = runs[std::size_t(p.run)].x0 + p.i;
+                ys[j] = runs[std::size_t(p.run)].y;
+            }
+            settle(xs, ys, n, sx, sy);
+            for (int j = 0; j < n; ++j) {
+                runs[std::size_t(part[j].run)].sx[part[j].i] = sx[j];
+                runs[std::size_t(part[j].run)].sy[part[j].i] = sy[j];
+            }
+        }
+        doubts = 0;
+    }
+};
+
+/// eachSource where map returns a bit for each place in doubt. settle(xs, ys, n, sx, sy) computes those of the n <=
+/// kPlaces targets (xs, ys), of several runs.
+template <class Map, class Settle> Bits cBitFilter::eachSettledSource(bool Clean, Map&& map, Settle&& settle)
+{
+    const Bits in = bits_;
+    const SourcePixels source(in, region_);
+    return eachBand(kPlaces, [&](const Box& box, int y0, int y1, const WrittenRows& to) {
+        Unsettled some;
+        const auto take = [&] {
+            some.settleAll(settle);
+            for (int i = 0; i < some.count; ++i) {
+                auto& run = some.runs[std::size_t(i)];
+                source.take(run.sx, run.sy, run.n, in.row(run.y) + run.x0, Clean, to.row(run.y) + run.x0);
+            }
+            some.count = 0;
+        };
+        inTiles(box, y0, y1, to, [&](int x0, int n, int y) {
+            auto& run = some.runs[std::size_t(some.count)];
+            run.x0 = x0, run.n = n, run.y = y;
+            eachPlace(map(y, x0, n, run.sx, run.sy), n, [&](int i) {
+                some.places[std::size_t(some.doubts++)] = {some.count, i};
+            });
+            if (++some.count == Unsettled::kRuns) take();
+        });
+        take();
     });
 }
 

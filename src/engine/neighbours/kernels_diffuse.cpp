@@ -4,9 +4,9 @@
 #define HWY_TARGET_INCLUDE "engine/neighbours/kernels_diffuse.cpp"
 #include <hwy/foreach_target.h>
 
-#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
 #include "engine/random-inl.h"
+#include "pixels/lanes-inl.h"
 #include <algorithm>
 #include <hwy/highway.h>
 

@@ -9,7 +9,7 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
+#include "pixels/lanes-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {

@@ -8,9 +8,9 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "engine/lanes-inl.h"
 #include "engine/pixels-inl.h"
 #include "engine/random-inl.h"
+#include "pixels/lanes-inl.h"
 #include <hwy/contrib/math/math-inl.h>
 
 HWY_BEFORE_NAMESPACE();

@@ -2,7 +2,7 @@
 // and an 8x8 threshold matrix picks the entry of a pixel. Mixtures are kept.
 #pragma once
 #include "pixels/nearest/NearestColours.h"
-#include "reduce/ColourMixer.h"
+#include "reduce/mixing/ColourMixer.h"
 
 namespace velara {
 
@@ -29,35 +29,40 @@ class DotScreen {
 
   private:
     static constexpr int kSlotBits = 16;
-    static constexpr std::uint32_t kLevels = 65; // 0, 4, ... 252, 255
+    static constexpr int kRun = 1024; // pixels whose mixtures are made together
     struct alignas(16) Dots {
         std::array<std::uint8_t, ColourMixer::kMostMixed> entries{}, ends{}; // the threshold at which each one ends
+        /// A threshold in all bytes, with their high bits.
+        static std::uint64_t spread(std::uint8_t threshold) { return threshold * kOnes | kHigh; }
         /// Counts the ends up to the threshold all at once: the high bit of a byte is kept where nothing is borrowed.
-        std::uint8_t at(std::uint8_t threshold) const
+        std::uint8_t at(std::uint64_t spread) const
         {
-            constexpr std::uint64_t kOnes = 0x0101010101010101, kHigh = 0x80 * kOnes;
-            const std::uint64_t kept = ((threshold * kOnes | kHigh) - std::bit_cast<std::uint64_t>(ends)) & kHigh;
+            const std::uint64_t kept = (spread - std::bit_cast<std::uint64_t>(ends)) & kHigh;
             return entries[std::size_t(std::popcount(kept))];
         }
+        static constexpr std::uint64_t kOnes = 0x0101010101010101, kHigh = 0x80 * kOnes;
     };
     struct Recent {
         std::uint32_t colour = 0xFF000000; // of none
         Dots dots;
     };
-    Dots mix(Pixel p);
+    static Dots dotsOf(const ColourMixer::Mixture& mixture);
+    void mixUnknown();
     const Dots& recent(Pixel p);
-    static std::uint32_t between(Pixel p, unsigned up);
-    std::uint8_t entryOf(Pixel p, std::uint32_t cell, std::uint8_t threshold);
-    static std::size_t cellOf(Pixel p) { return std::size_t(p.c[0] >> 2 | (p.c[1] >> 2) << 6 | (p.c[2] >> 2) << 12); }
 
     const DotMatrix& matrix_;
     const bool alternates_;
     NearestColours nearest_;
     const std::vector<Pixel>& colours_;
     ColourMixer mixer_;
-    std::vector<bool> hasOwn_ = std::vector<bool>(std::size_t{1} << 18); // colours of the palette, by cells
     std::vector<Recent> recent_ = std::vector<Recent>(std::size_t{1} << kSlotBits);
-    std::vector<Dots> coarse_; // for every fourth level
+    std::vector<Dots> coarse_;                             // for every fourth level
+    static constexpr std::uint8_t kKnown = 1, kHasOwn = 2; // a mixture; pixels that may be colours of the palette
+    std::vector<std::uint8_t> states_;                     // of coarse_
+    // Of a run of pixels:
+    std::array<std::uint32_t, kRun> cells_;
+    std::vector<std::uint32_t> unknown_; // cells
+    std::vector<int> own_;               // pixels
 };
 
 } // namespace velara
