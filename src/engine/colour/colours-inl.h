@@ -47,7 +47,7 @@ template <class D8, class D, class V> HWY_INLINE hn::Vec<D8> joined(D8 d8, D, V 
     return hn::BitCast(d8, hn::Or(hn::Or(c0, hn::ShiftLeft<8>(c1)), hn::ShiftLeft<16>(c2)));
 }
 
-/// Values of 0..255 rounded, halves to even, and how far each is off. By an addition that leaves no fraction: a
+/// Values within 2^22 of 0 rounded, halves to even, and how far each is off. By an addition that leaves no fraction: a
 /// conversion, and the one back, take three times as many instructions.
 template <class V, class Whole> struct RoundedValue {
     Whole whole;
@@ -58,7 +58,7 @@ template <class D, class V> HWY_INLINE auto rounded(D d32, V value)
     const hn::Rebind<float, D> df;
     const auto noFraction = hn::Set(df, 0x1.8p23f);
     const auto sum = hn::Add(value, noFraction);
-    const auto whole = hn::And(hn::BitCast(d32, sum), hn::Set(d32, 255));
+    const auto whole = hn::Sub(hn::BitCast(d32, sum), hn::BitCast(d32, noFraction));
     const auto off = hn::Abs(hn::Sub(value, hn::Sub(sum, noFraction)));
     return RoundedValue<std::remove_const_t<decltype(off)>, std::remove_const_t<decltype(whole)>>{whole, off};
 }

@@ -273,8 +273,8 @@ void saturate(const SpanOf& s, float k, bool roundsSum)
             const auto third = hn::BitCast(d32, hn::MulHigh(hn::BitCast(d16, sumOf(d32, v)), hn::Set(d16, 21846)));
             const auto strengthen = [&](auto c) HWY_ATTR {
                 const auto away = hn::Mul(hn::ConvertTo(df, hn::Sub(c, third)), hn::Set(df, k));
-                const auto to = roundsAll() ? hn::NearestInt(hn::Add(away, hn::ConvertTo(df, c)))
-                                            : hn::Add(hn::NearestInt(away), c);
+                const auto to = roundsAll() ? rounded(d32, hn::Add(away, hn::ConvertTo(df, c))).whole
+                                            : hn::Add(rounded(d32, away).whole, c);
                 return hn::Min(hn::Max(to, hn::Zero(d32)), hn::Set(d32, 255));
             };
             const auto c0 = strengthen(channel<0>(d32, v)), c1 = strengthen(channel<1>(d32, v)),
