@@ -17,7 +17,9 @@
 #include <QLoggingCategory>
 #include <cstdio>
 #include <cstring>
+#include <fontconfig/fontconfig.h>
 #include <optional>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -57,7 +59,8 @@ int openInstead(char** argv)
 int main(int argc, char** argv)
 {
     if (namesFiles(argc, argv)) return openInstead(argv);
-    velara::leaveFormatPluginsOut();
+    velara::leaveFormatPluginsOut();  // meanwhile no thread can open a file
+    const std::jthread fonts(FcInit); // reads its files while Qt loads its own, and has what Qt asks for then
     Application application(argc, argv);
     // Each move of a stroke counts. The platform plug-in switches this on when it starts.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);

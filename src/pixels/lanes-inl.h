@@ -79,12 +79,14 @@ template <class D> HWY_INLINE hn::Vec<D> loadScattered(D d, const std::int32_t* 
     }
 }
 
-/// The words base[index] of four lanes or more: for indices that have just been computed, which would be waited for if
-/// they went through memory.
+/// The words base[index] of one lane, or of four or more: for indices that have just been computed, which would be
+/// waited for if they went through memory.
 template <class D, class V> HWY_INLINE hn::Vec<D> loadComputed(D d, const std::int32_t* base, V indices)
 {
     const hn::Half<D> half;
-    if constexpr (hn::MaxLanes(D()) == 4) {
+    if constexpr (hn::MaxLanes(D()) == 1) {
+        return hn::LoadU(d, base + hn::GetLane(indices));
+    } else if constexpr (hn::MaxLanes(D()) == 4) {
         const auto pairs = hn::BitCast(hn::FixedTag<std::int64_t, 2>(), indices);
         const std::int64_t first = hn::GetLane(pairs), last = hn::ExtractLane(pairs, 1);
         const auto word = [&](std::int64_t index)

@@ -17,10 +17,6 @@ std::optional<QStringList> stampFiles(Machine& machine)
     return folder.entryList({QStringLiteral("*.bmp")}, QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
 }
 
-Bits loadStamp(Platform& platform, const QString& fileName)
-{
-    if (fileName.isEmpty()) return {};
-    return platform.loadPicture(stampFolder(platform).filePath(fileName), QStringLiteral("bmp")).bits;
-}
+QString stampPath(Machine& machine, const QString& fileName) { return stampFolder(machine).filePath(fileName); }
 
 } // namespace velara

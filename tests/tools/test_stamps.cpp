@@ -18,11 +18,7 @@ TEST(Stamps, AreTheBitmapsOfTheirFolder)
     for (const char* name : {"b.bmp", "A.BMP", "c.png"}) image.save(folder.filePath(QString("Stamps/") + name));
     const QStringList files = stampFiles(platform).value();
     EXPECT_EQ(files, (QStringList{"A.BMP", "b.bmp"}));
-    const Bits stamp = loadStamp(platform, files[1]);
-    ASSERT_EQ(stamp.width(), 5);
-    EXPECT_EQ(stamp.at(4, 3).c[0], 30);
-    EXPECT_TRUE(loadStamp(platform, "none.bmp").isNull());
-    EXPECT_TRUE(loadStamp(platform, "").isNull());
+    EXPECT_EQ(stampPath(platform, files[1]), folder.filePath("Stamps/b.bmp"));
 }
 
 } // namespace

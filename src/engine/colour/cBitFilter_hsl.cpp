@@ -5,6 +5,7 @@
 #include "engine/passes.h"
 #include "pixels/mHSLRGB.h"
 #include "pixels/numbers.h"
+#include <numeric>
 
 namespace velara {
 
@@ -89,8 +90,11 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
             const Pixel p = HueTurn{0, turn.saturation}({{low, low, high, 0}});
             return p.c[0] | p.c[2] << 8;
         });
+        // Twice the least channel is a sum less a range * Saturation / 100: whole for gcd in a hundred ranges.
+        const bool hasHalves = Saturation < 100 && std::gcd(Saturation, 100) >= 10;
+        const auto kernel = hasHalves ? hslKernels().turnWithHalves : hslKernels().turn;
         return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-            hslKernels().turn({from, 0, to, x0, x1}, turn, ends.data());
+            kernel({from, 0, to, x0, x1}, turn, ends.data());
         });
     }
     if (Saturation == 0) { // only L remains: half the sum of the greatest and the least channel

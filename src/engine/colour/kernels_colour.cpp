@@ -8,6 +8,7 @@
 #include <hwy/foreach_target.h>
 
 #include "engine/colour/colours-inl.h"
+#include "engine/lanes-inl.h"
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -59,6 +60,38 @@ template <class D8> HWY_INLINE hn::Vec<D8> lookedUp(D8 d, hn::Vec<D8> source, co
         return hn::Vec<D8>{found};
     else
         return hn::Vec<D8>{_mm512_castsi512_si128(found)};
+}
+
+#elif HWY_TARGET == HWY_SSE4
+
+/// A table for each channel, with its entries at their place in the pixel.
+struct TableRows {
+    explicit TableRows(const std::uint8_t* entries)
+    {
+        for (int c = 0; c < 3; ++c)
+            for (std::size_t i = 0; i < 256; ++i) of[c][i] = std::uint32_t(entries[i]) << 8 * c;
+    }
+    std::uint32_t operator[](std::uint64_t pixel) const
+    {
+        return of[0][pixel & 255] | of[1][pixel >> 8 & 255] | of[2][pixel >> 16 & 255];
+    }
+    std::uint32_t of[3][256];
+};
+
+/// table[byte] of each channel; the fourth bytes are 0. Single look-ups: those in sixteen entries by vectors of 16
+/// bytes take twice as long.
+template <class D8> HWY_INLINE hn::Vec<D8> lookedUp(D8 d, hn::Vec<D8> source, const TableRows& table)
+{
+    if constexpr (hn::MaxLanes(d) == 16) {
+        const hn::Repartition<std::uint64_t, D8> d64;
+        const auto two = [&](std::uint64_t pixels) { return table[pixels] | std::uint64_t(table[pixels >> 32]) << 32; };
+        const auto pixels = hn::BitCast(d64, source);
+        const auto first = hn::Set(d64, two(hn::GetLane(pixels)));
+        return hn::BitCast(d, hn::InsertLane(first, 1, two(hn::ExtractLane(pixels, 1))));
+    } else {
+        const hn::Repartition<std::uint32_t, D8> one;
+        return hn::BitCast(d, hn::Set(one, table[hn::GetLane(hn::BitCast(one, source))]));
+    }
 }
 
 #else
@@ -152,9 +185,9 @@ void stretch(const SpanOf& s, const StretchTable& to)
                 return p;
             });
         const auto v = hn::BitCast(d32, source);
-        auto b = hn::GatherIndex(d32, to.entries.data(), channel<0>(d32, v)),
-             g = hn::GatherIndex(d32, to.entries.data(), channel<1>(d32, v)),
-             r = hn::GatherIndex(d32, to.entries.data(), channel<2>(d32, v));
+        auto b = loadComputed(d32, to.entries.data(), channel<0>(d32, v)),
+             g = loadComputed(d32, to.entries.data(), channel<1>(d32, v)),
+             r = loadComputed(d32, to.entries.data(), channel<2>(d32, v));
         balance(d32, b, g, r);
         return withFourthOf(d, source, joined(d, d32, b, g, r));
     });
@@ -191,7 +224,9 @@ template <class Value> HWY_INLINE void greyBy(const SpanOf& s, std::uint32_t kee
         const auto v = thousandths(d32, sum);
         const auto all = hn::Or(hn::Or(v, hn::ShiftLeft<8>(v)), hn::ShiftLeft<16>(v));
         const auto result = hn::BitCast(d, hn::Or(hn::And(kept, source), hn::AndNot(kept, all)));
-        const auto tie = hn::Eq(hn::Add(sum, hn::Set(d32, 500)), hn::Mul(v, hn::Set(d32, 1000)));
+        const hn::Repartition<std::int16_t, decltype(d)> d16;
+        const auto whole = plusPairs(d32, hn::BitCast(d16, v), hn::Set(d16, 1000), hn::Zero(d32));
+        const auto tie = hn::Eq(hn::Add(sum, hn::Set(d32, 500)), whole);
         return redone(d, result, tie, [&](int i) {
             Pixel p = s.from[x + i];
             const std::uint8_t g = toByte(value(p));
@@ -221,7 +256,7 @@ void bySum(const SpanOf& s, const std::uint32_t* table)
         const hn::Repartition<std::int32_t, decltype(d)> d32;
         const auto source = loadBytes(d, s.from + x);
         const auto sum = sumOf(d32, hn::BitCast(d32, source));
-        const auto colour = hn::GatherIndex(d32, reinterpret_cast<const std::int32_t*>(table), sum);
+        const auto colour = loadComputed(d32, reinterpret_cast<const std::int32_t*>(table), sum);
         return withFourthOf(d, source, hn::BitCast(d, colour));
     });
 }
@@ -238,8 +273,8 @@ void saturate(const SpanOf& s, float k, bool roundsSum)
             const auto third = hn::BitCast(d32, hn::MulHigh(hn::BitCast(d16, sumOf(d32, v)), hn::Set(d16, 21846)));
             const auto strengthen = [&](auto c) HWY_ATTR {
                 const auto away = hn::Mul(hn::ConvertTo(df, hn::Sub(c, third)), hn::Set(df, k));
-                const auto to = roundsAll() ? hn::NearestInt(hn::Add(away, hn::ConvertTo(df, c)))
-                                            : hn::Add(hn::NearestInt(away), c);
+                const auto to = roundsAll() ? rounded(d32, hn::Add(away, hn::ConvertTo(df, c))).whole
+                                            : hn::Add(rounded(d32, away).whole, c);
                 return hn::Min(hn::Max(to, hn::Zero(d32)), hn::Set(d32, 255));
             };
             const auto c0 = strengthen(channel<0>(d32, v)), c1 = strengthen(channel<1>(d32, v)),

@@ -49,7 +49,8 @@ struct ColourKernels {
     void (*grey)(const SpanOf&, std::uint32_t keep);
     /// table[c0+c1+c2], 766 colours with a fourth byte of 0.
     void (*bySum)(const SpanOf&, const std::uint32_t* table);
-    /// clamp(c + round((c - grey)*k)) or, roundsSum, clamp(round(c + (c - grey)*k)); grey = (c0+c1+c2) \ 3.
+    /// clamp(c + round((c - grey)*k)) or, roundsSum, clamp(round(c + (c - grey)*k)); grey = (c0+c1+c2) \ 3,
+    /// |k| <= 1000.
     void (*saturate)(const SpanOf&, float k, bool roundsSum);
     /// The grey greys[sum] of the weighted sum in thousandths, 0..255000; where that is kGreyInDoubt, redo(pixel). One
     /// more entry is read.

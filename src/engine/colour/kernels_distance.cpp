@@ -10,22 +10,15 @@
 HWY_BEFORE_NAMESPACE();
 namespace velara::HWY_NAMESPACE {
 
-/// d2 of each pixel. The squares need all of 16 bits.
+/// d2 of each pixel.
 template <class D, class V = hn::Vec<D>> HWY_INLINE V distance(D d32, V pixels, std::uint32_t reference)
 {
-    const hn::Repartition<std::uint16_t, D> d16;
-    const auto outer = [&](V v) HWY_ATTR { return hn::BitCast(d16, hn::And(v, hn::Set(d32, 0x00FF00FF))); };
-    const auto middle = [&](V v)
-                            HWY_ATTR { return hn::BitCast(d16, hn::And(hn::ShiftRight<8>(v), hn::Set(d32, 255))); };
-    const auto square = [&](auto a, auto b) HWY_ATTR {
-        const auto difference = hn::Sub(a, b);
-        return hn::BitCast(d32, hn::Mul(difference, difference));
-    };
-    const V from = hn::Set(d32, static_cast<std::int32_t>(reference)), low = hn::Set(d32, 0xFFFF);
-    const V two = square(outer(pixels), outer(from)), one = square(middle(pixels), middle(from));
-    const hn::RebindToUnsigned<D> du;
-    const V upper = hn::BitCast(d32, hn::ShiftRight<16>(hn::BitCast(du, two)));
-    return hn::Add(hn::Add(hn::And(two, low), upper), one);
+    const hn::Repartition<std::int16_t, D> d16;
+    const V from = hn::Set(d32, static_cast<std::int32_t>(reference));
+    const auto less = [&](V a, V b) HWY_ATTR { return hn::Sub(hn::BitCast(d16, a), hn::BitCast(d16, b)); };
+    const auto two = less(outerChannels(d32, pixels), outerChannels(d32, from));
+    const auto one = less(channel<1>(d32, pixels), channel<1>(d32, from));
+    return plusPairs(d32, two, two, hn::BitCast(d32, hn::Mul(one, one))); // the one square in all of 16 bits
 }
 
 /// Lanes with d2 <= limit.
@@ -104,9 +97,9 @@ void blend(const SpanOf& s, const Blend& b)
         auto doubt = hn::Zero(df);
         const auto drawn = [&](auto c, auto t) HWY_ATTR {
             const auto v = hn::Add(hn::Mul(hn::ConvertTo(df, hn::Sub(t, c)), k), hn::ConvertTo(df, c));
-            const auto rounded = hn::NearestInt(v);
-            doubt = hn::Max(doubt, hn::Abs(hn::Sub(v, hn::ConvertTo(df, rounded))));
-            return rounded;
+            const auto r = rounded(d32, v);
+            doubt = hn::Max(doubt, r.off);
+            return r.whole;
         };
         const auto c0 = drawn(channel<0>(d32, source), channel<0>(d32, aim));
         const auto c1 = drawn(channel<1>(d32, source), channel<1>(d32, aim));

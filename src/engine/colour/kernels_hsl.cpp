@@ -6,6 +6,7 @@
 #include <hwy/foreach_target.h>
 
 #include "engine/colour/colours-inl.h"
+#include "engine/lanes-inl.h"
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
@@ -16,7 +17,8 @@ template <class V> struct Part {
     V rounded, isHigh, isLow, inDoubt;
 };
 
-void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
+/// kOften: without a branch that would be taken for every other vector.
+template <bool kOften> void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
 {
     // Computed from the bytes, not from their singles, and without going through S: the difference is below a
     // thousandth, and values within two thousandths of a half are looked up or redone. A hue within kSeam of a corner
@@ -43,16 +45,15 @@ void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
             const auto share = hn::Sub(single(2), near);
             const auto held = hn::Min(hn::Max(share, hn::Zero(df)), single(1));
             const auto value = hn::Add(low, hn::Mul(span, held));
-            const auto rounded = hn::NearestInt(value);
-            const auto off = hn::Abs(hn::Sub(value, hn::ConvertTo(df, rounded)));
-            return Part<std::remove_const_t<decltype(rounded)>>{rounded, lanes(hn::Gt(share, single(1 + kSeam))),
-                                                                lanes(hn::Lt(share, single(-kSeam))),
-                                                                lanes(hn::Gt(off, single(kInDoubt)))};
+            const auto r = rounded(d32, value);
+            return Part<decltype(r.whole)>{r.whole, lanes(hn::Gt(share, single(1 + kSeam))),
+                                           lanes(hn::Lt(share, single(-kSeam))),
+                                           lanes(hn::Gt(r.off, single(kInDoubt)))};
         };
         auto red = part(0), green = part(2), blue = part(4);
         const auto anyDoubt = hn::Or(hn::Or(red.inDoubt, green.inDoubt), blue.inDoubt);
-        if (!hn::AllFalse(d32, hn::MaskFromVec(anyDoubt))) {
-            const auto end = hn::GatherIndex(d32, ends, hn::Or(hn::ShiftLeft<8>(most), least));
+        if (kOften || !hn::AllFalse(d32, hn::MaskFromVec(anyDoubt))) {
+            const auto end = loadComputed(d32, ends, hn::Or(hn::ShiftLeft<8>(most), least));
             const auto endHigh = hn::ShiftRight<8>(end), endLow = hn::And(end, hn::Set(d32, 255));
             for (auto* p : {&red, &green, &blue}) {
                 p->rounded = hn::IfThenElse(hn::MaskFromVec(p->isHigh), endHigh, p->rounded);
@@ -68,7 +69,7 @@ void turn(const SpanOf& s, const HueTurn& hue, const std::int32_t* ends)
 
 const HslKernels& hslKernelTable()
 {
-    static constexpr HslKernels table = {turn};
+    static constexpr HslKernels table = {turn<false>, turn<true>};
     return table;
 }
 

@@ -15,8 +15,10 @@ struct HueTurn {
 
 struct HslKernels {
     /// ends holds the bytes of the least and (shifted by 8) of the greatest channel of the result, at greatest << 8 |
-    /// least channel of the pixel: for saturations with many results exactly on a half.
+    /// least channel of the pixel: for results exactly on a half.
     void (*turn)(const SpanOf&, const HueTurn&, const std::int32_t* ends);
+    /// The same; faster where one pixel in twenty has such a result.
+    void (*turnWithHalves)(const SpanOf&, const HueTurn&, const std::int32_t* ends);
 };
 const HslKernels& hslKernels();
 

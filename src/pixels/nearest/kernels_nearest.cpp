@@ -30,27 +30,25 @@ template <class D> HWY_INLINE hn::Vec<D> blocksOf(D d, const NearestCube* cubes,
 template <bool squares> HWY_INLINE V distances(V a, V b)
 {
     constexpr Words d;
-    const hn::Repartition<std::uint8_t, Words> d8;
-    const hn::Repartition<std::int16_t, Words> d16;
-    const hn::RebindToSigned<Words> d32;
-    const auto p = hn::BitCast(d8, a), q = hn::BitCast(d8, b);
-    const auto off = hn::BitCast(d, hn::Or(hn::SaturatedSub(p, q), hn::SaturatedSub(q, p)));
+    const auto byte = [&](V v) HWY_ATTR { return hn::And(v, hn::Set(d, 255u)); };
     if constexpr (squares) {
-        const auto outer = hn::BitCast(d16, hn::And(off, hn::Set(d, 0x00FF00FFu)));
-        const auto middle = hn::BitCast(d16, hn::And(hn::ShiftRight<8>(off), hn::Set(d, 0xFFu)));
-        const auto sum = [&](auto v) HWY_ATTR {
+        const hn::Repartition<std::int16_t, Words> d16;
+        const auto outer = [&](V v) HWY_ATTR { return hn::BitCast(d16, hn::And(v, hn::Set(d, 0x00FF00FFu))); };
+        const auto middle = [&](V v) HWY_ATTR { return hn::BitCast(d16, byte(hn::ShiftRight<8>(v))); };
+        const auto two = hn::Sub(outer(a), outer(b)), one = hn::Sub(middle(a), middle(b));
+        const auto square = hn::Mul(one, one); // the square of a byte fits into 16 bits without a sign
 #if HWY_ARCH_X86
-            auto unused = hn::Zero(d32);
-            return hn::ReorderWidenMulAccumulate(d32, v, v, hn::Zero(d32), unused);
+        const hn::RebindToSigned<Words> d32;
+        auto unused = hn::Zero(d32);
+        return hn::BitCast(d, hn::ReorderWidenMulAccumulate(d32, two, two, hn::BitCast(d32, square), unused));
 #else
-            const auto both = hn::Mul(hn::BitCast(d16, v), v); // a square of a byte fits into 16 bits without a sign
-            return hn::BitCast(d32, hn::Add(hn::And(hn::BitCast(d, both), hn::Set(d, 0xFFFFu)),
-                                            hn::ShiftRight<16>(hn::BitCast(d, both))));
+        const auto both = hn::BitCast(d, hn::Mul(two, two));
+        return hn::Add(hn::BitCast(d, square), hn::Add(hn::And(both, hn::Set(d, 0xFFFFu)), hn::ShiftRight<16>(both)));
 #endif
-        };
-        return hn::BitCast(d, hn::Add(sum(outer), sum(middle)));
     } else {
-        const auto byte = [&](V v) HWY_ATTR { return hn::And(v, hn::Set(d, 255u)); };
+        const hn::Repartition<std::uint8_t, Words> d8;
+        const auto p = hn::BitCast(d8, a), q = hn::BitCast(d8, b);
+        const auto off = hn::BitCast(d, hn::Or(hn::SaturatedSub(p, q), hn::SaturatedSub(q, p)));
         return hn::Add(hn::Add(byte(off), byte(hn::ShiftRight<8>(off))), byte(hn::ShiftRight<16>(off)));
     }
 }

@@ -1,5 +1,6 @@
 #include "ui/panes/fStamp.h"
 #include "document/road/Frame.h"
+#include "fileio/readInBackground.h"
 #include "seams/Platform.h"
 #include "tools/stamps.h"
 #include "ui/widgets/inputs/named.h"
@@ -8,7 +9,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
-#include <QPointer>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -62,22 +62,25 @@ void FStamp::readFolder()
     cbStamps_->setEnabled(cbStamps_->count() > 0);
     const int place = cbStamps_->findText(before);
     cbStamps_->setCurrentIndex(std::max(place, 0));
-    quiet.unblock(); // not later: the list may be destroyed while a stamp is read
     if (place < 0 || before.isEmpty())
         choose(cbStamps_->currentText()); // none yet, or it no longer exists
     else
         showStamp();
 }
 
+/// The stores keep the last one until this one is read; meanwhile another may be chosen.
 void FStamp::choose(const QString& file)
 {
-    const QPointer<FStamp> alive = this;
-    ToolStores& stores = frame().toolStores();
-    const QString name = stores.stampFile = file;
-    const Bits stamp = loadStamp(frame().platform(), name);
-    if (stores.stampFile != name) return; // another was chosen while this one was read
-    stores.stamp = stamp;
-    if (alive) showStamp();
+    const auto take = [this, file](const Bits& stamp) {
+        if (cbStamps_->currentText() != file) return;
+        frame().toolStores().stampFile = file;
+        frame().toolStores().stamp = stamp;
+        showStamp();
+    };
+    if (file.isEmpty()) return take({});
+    Platform& platform = frame().platform();
+    readInBackground(platform, this, stampPath(platform, file),
+                     [take](const LoadedPicture& loaded) { take(loaded.bits); });
 }
 
 void FStamp::showStamp()

@@ -159,18 +159,25 @@ TEST_F(Panes, StampsFollowTheirFolder)
     ASSERT_TRUE(comes([&] { return list->count() == 2; })) << "the folder has come";
     EXPECT_TRUE(find<QLabel>("lblStamps")->isHidden());
     EXPECT_EQ(text("cbStamps"), "a.bmp");
-    EXPECT_EQ(frame.toolStores_.stamp.width(), 5);
+    const auto isRead = [&](int width) {
+        return comes([&] {
+            return frame.toolStores_.stamp.width() == width && find<QLabel>("iStamp")->pixmap().width() == width;
+        });
+    };
+    EXPECT_TRUE(isRead(5));
     pane->show();
     QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(frame.toolStores_.stamp.width(), 9);
-    EXPECT_EQ(find<QLabel>("iStamp")->pixmap().width(), 9);
+    QTest::keyClick(list, Qt::Key_Up);
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_TRUE(isRead(9)) << "what was chosen meanwhile is not taken";
+    EXPECT_EQ(frame.toolStores_.stampFile, "b.bmp");
 
     addStamp("c.bmp", 7);
     ASSERT_TRUE(comes([&] { return list->count() == 3; }));
     EXPECT_EQ(list->currentText(), "b.bmp") << "the chosen one stays";
     QFile::remove(frame.platform_.programFolder() + "/Stamps/b.bmp");
     ASSERT_TRUE(comes([&] { return list->count() == 2; }));
-    EXPECT_EQ(frame.toolStores_.stamp.width(), 5) << "the chosen one is gone";
+    EXPECT_TRUE(isRead(5)) << "the chosen one is gone";
     make("Stamp");
     EXPECT_EQ(find<QComboBox>("cbStamps")->count(), 2);
 }
