@@ -6,7 +6,7 @@
 #include <hwy/foreach_target.h>
 
 #include "engine/colour/colours-inl.h"
-#include "engine/lanes-inl.h"
+#include "pixels/lanes-inl.h"
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
