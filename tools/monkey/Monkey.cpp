@@ -124,10 +124,14 @@ void Monkey::timerEvent(QTimerEvent* event)
     --depth_;
 }
 
+/// Nothing is under way below this on the stack, neither an action nor a dialog that came by itself: what is awaited
+/// now can come.
+bool Monkey::isOutermost() const { return depth_ == 1 && QThread::currentThread()->loopLevel() == 1; }
+
 void Monkey::step()
 {
     if (faults_ > 0 || blocks_.longest() > kLongestBlock || isOver()) return windUp();
-    if (depth_ == 1 && done_ % kBetweenChecks == 0) {
+    if (isOutermost() && done_ % kBetweenChecks == 0) {
         check();
         if (faults_ == 0 && done_ % kBetweenHomes == 0) checkHome();
         if (faults_ > 0) return windUp();
@@ -214,7 +218,7 @@ void Monkey::windUp()
     if (front && ++leaving_ == kMostLeaving) fault("a window can't be left");
     if (leaving_ > kMostLeaving) std::_Exit(1);
     if (front) return leaveFront();
-    if (depth_ > 1) return;
+    if (!isOutermost()) return;
     if (faults_ == 0) check();
     if (faults_ == 0) checkHome();
     finished_ = true;

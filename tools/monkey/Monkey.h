@@ -56,6 +56,7 @@ class Monkey final : public QObject {
     void goOnWithStroke();
     void leaveFront();
     bool isOver() const;
+    bool isOutermost() const;
     void windUp();
 
     void rest();
