@@ -5,7 +5,6 @@
 #include "fileio/load/DecodeProtocol.h"
 #include <algorithm>
 #include <array>
-#include <climits>
 #include <csignal>
 #include <cstring>
 #include <sys/mman.h>
@@ -130,7 +129,7 @@ void answer(const QString& extension, const QStringList& wishes)
     close(kPicture);
     const Needs needs = prepareReaders(extension, file.bytes());
     if (include(needs, Needs::Fonts)) handOverFonts();
-    const auto threads = static_cast<unsigned>(numberOf(kThreadsWish, wishes, INT_MAX));
+    const auto threads = static_cast<unsigned>(numberOf(kThreadsWish, wishes, 1));
     const CageState cage = enterCage(needs, kAllLayers, threads); // of the file only its mark has been looked at yet
     const Wanted wanted{!wishes.contains(kStoredWish), !wishes.contains(kBareWish), wishes.contains(kTableWish)};
     const Decoded picture =

@@ -42,7 +42,7 @@ constexpr std::size_t kPartMessage = std::size_t{16} << 10;
 constexpr const char* kStoredWish = "stored";
 constexpr const char* kBareWish = "bare";
 constexpr const char* kPageWish = "page=";       // with the number
-constexpr const char* kThreadsWish = "threads="; // at most, of the reader; as many as there are processors without
+constexpr const char* kThreadsWish = "threads="; // at most, of the reader; one without
 constexpr const char* kTableWish = "table";
 constexpr const char* kWarmWish = "warm";
 constexpr std::size_t kMostInOrder = 256; // bytes of extension and wishes for a fork

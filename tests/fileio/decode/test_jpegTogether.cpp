@@ -7,7 +7,6 @@
 #include <optional>
 #include <random>
 #include <string>
-#include <thread>
 
 namespace velara::decode {
 
@@ -166,7 +165,6 @@ void addTrials(std::vector<Trial>& trials, const Kind& kind)
 // A picture that is large enough.
 TEST(JpegTogether, TheReaderCutsIt)
 {
-    if (std::thread::hardware_concurrency() < 2) GTEST_SKIP() << "a single processor";
     const std::string file =
         written({"large", JCS_RGB, JCS_YCbCr, 2, 2, 2999, JpegParts::kLeastPixels / 2990, 188, true});
     const Outcome alone = outcomeOf(file, false);

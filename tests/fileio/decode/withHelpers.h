@@ -8,12 +8,12 @@
 
 namespace velara::decode {
 
-/// In a process of its own, as the helpers live as long as that.
+/// In a process of its own, as the helpers live as long as that; on any number of processors.
 inline void withHelpers(const std::function<void()>& part)
 {
     const pid_t inside = fork();
     if (inside == 0) {
-        startHelpers();
+        startHelpers(3);
         part();
         _exit(::testing::Test::HasFailure() ? 1 : 0);
     }

@@ -2,6 +2,7 @@
 // that takes over its reader can do no more than deliver wrong pixels.
 #pragma once
 #include <string>
+#include <thread>
 
 namespace velara::decode {
 
@@ -33,7 +34,7 @@ struct CageState {
 };
 
 /// Activates those of the layers that the kernel supports. A reader with helpers has so many threads at most.
-CageState enterCage(Needs needs, unsigned layers = kAllLayers, unsigned threads = ~0U);
+CageState enterCage(Needs needs, unsigned layers = kAllLayers, unsigned threads = std::thread::hardware_concurrency());
 
 /// The layers by their names, separated by commas.
 std::string namesOf(unsigned layers);

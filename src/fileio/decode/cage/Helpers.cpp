@@ -65,8 +65,7 @@ try {
 void startHelpers(unsigned threads)
 {
     Team& all = team();
-    const unsigned useful = std::min(std::thread::hardware_concurrency(), threads);
-    const unsigned wanted = std::min(std::max(useful, 1U) - 1, kMost);
+    const unsigned wanted = std::min(std::max(threads, 1U) - 1, kMost);
     if (wanted == 0) return;
     mallopt(M_ARENA_MAX, 1); // with memory of its own for each thread the C library would open files of the system
     try {

@@ -5,9 +5,8 @@
 
 namespace velara::decode {
 
-/// One for each processor but the caller's, three at most, and fewer than `threads`. To be called once, before threads
-/// are forbidden.
-void startHelpers(unsigned threads = ~0U);
+/// One fewer than `threads`, three at most. To be called once, before threads are forbidden.
+void startHelpers(unsigned threads);
 
 /// The number of threads that runTogether uses, the caller's included.
 unsigned threadsTogether();

@@ -6,7 +6,9 @@ namespace velara::decode {
 std::shared_ptr<const JpegParts> jpegPartsOf(Span file, const JpegRows& rows)
 {
     constexpr std::uint64_t kMostBytes = 128ULL << 20; // of the parts in memory
-    if (threadsTogether() == 1) return {};
+    // What becomes of the rows keeps a second processor busy: with two it takes longer, as parts overlap.
+    constexpr unsigned kLeastThreads = 3;
+    if (threadsTogether() < kLeastThreads) return {};
     auto parts = std::make_shared<const JpegParts>(file, rows);
     const std::uint64_t bytes = sizeof(Pixel) * parts->width() * parts->rows();
     return parts->count() > 0 && 2 * bytes * threadsTogether() <= kMostBytes ? parts : nullptr;
