@@ -59,8 +59,8 @@ int openInstead(char** argv)
 int main(int argc, char** argv)
 {
     if (namesFiles(argc, argv)) return openInstead(argv);
-    velara::leaveFormatPluginsOut();  // meanwhile no thread can open a file
-    const std::jthread fonts(FcInit); // reads its files while Qt loads its own, and has what Qt asks for then
+    velara::leaveFormatPluginsOut();  // before any thread: while it works no file can be opened
+    const std::jthread fonts(FcInit); // reads fontconfig's files while Qt loads its own; Qt needs them after that
     Application application(argc, argv);
     // Each move of a stroke counts. The platform plug-in switches this on when it starts.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);

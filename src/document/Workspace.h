@@ -129,9 +129,9 @@ class Workspace final : public QObject {
     /// Holds the committed picture and the working region of the document that was handed over last.
     cBitFilter& engine() { return engine_; }
     bool engineHolds(const Document& document) const { return held_ == document.handle(); }
-    /// Calls `leaves` with the one before it.
+    /// Calls leaves(the document before it).
     void handOver(const Document& document);
-    /// The engine is about to take another document: what is shown of this one only for now can still be restored.
+    /// Called before the engine takes another document: pixels that a tool shows for now can still be taken back.
     std::function<void(const DocumentHandle& document)> leaves;
 
   signals:
