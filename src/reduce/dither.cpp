@@ -42,11 +42,8 @@ class Work {
 
     void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        Copies<DotScreen> screens(
-            [&, many = hasManyColours()] { return DotScreen(colours_, nearest_, matrix, origin, many); });
-        const auto row = [&](int y) {
-            screens.lend([&](DotScreen& own) { own.row(bits_.row(y), rowOf(y), bits_.width(), y); });
-        };
+        const DotScreen screen(bits_, colours_, matrix, origin, progress_);
+        const auto row = [&](int y) { screen.row(bits_.row(y), rowOf(y), bits_.width(), y); };
         parallelFor(bits_.height(), turnsTogether(bits_.width()), row, [this](int y) { told(y); });
     }
 
@@ -138,20 +135,6 @@ class Work {
     }
 
   private:
-    /// So many that a mixture for each of them would take longer than it is worth.
-    bool hasManyColours() const
-    {
-        constexpr int kMany = 1 << 14;
-        std::vector<bool> known(1 << 24);
-        int count = 0;
-        for (int y = 0; y < bits_.height() && count < kMany; ++y)
-            for (int x = 0; x < bits_.width(); ++x) {
-                auto seen = known[channelBits(bits_.row(y)[x])];
-                count += !seen;
-                seen = true;
-            }
-        return count >= kMany;
-    }
     static std::vector<Pixel> pixelsOf(const Palette& palette)
     {
         std::vector<Pixel> pixels;
