@@ -34,61 +34,119 @@ template <class D, class W> HWY_INLINE W slopeOf(D, W p0, W p1, W p2, W seen, W 
 }
 
 /// The entries of one mixture.
-struct Entries {
-    std::array<std::array<float, kMost>, 3> off; // from the colour
-    std::array<float, kMost> far;                // squared distance
-    std::array<int, kMost> number, parts;
-    std::size_t count;
-    std::array<float, 3> mean; // its distance from the colour, times kParts
-
-    void shift(std::size_t from, std::size_t to, int moved)
+class Entries {
+  public:
+    struct Entry {
+        std::array<float, 3> off; // from the colour
+        float far;                // squared
+        int number, parts;
+    };
+    /// mean: its distance from the colour, times kParts.
+    explicit Entries(const std::array<float, 3>& mean) : mean_(mean) {}
+    void add(const Entry& entry)
     {
-        parts[to] += moved;
-        parts[from] -= moved;
-        for (std::size_t c = 0; c < 3; ++c) mean[c] += float(moved) * (off[c][to] - off[c][from]);
-        if (parts[from] > 0) return;
-        --count;
-        for (auto& channel : off) channel[from] = channel[count];
-        far[from] = far[count];
-        number[from] = number[count];
-        parts[from] = parts[count];
-    }
-    /// Squared, of two entries from each other; 1 at the least.
-    float apart(std::size_t a, std::size_t b) const
-    {
-        float sum = 0;
-        for (const auto& channel : off) sum += (channel[a] - channel[b]) * (channel[a] - channel[b]);
-        return std::max(sum, 1.0F);
+        for (std::size_t c = 0; c < 3; ++c) off_[c][count_] = entry.off[c];
+        far_[count_] = entry.far;
+        numbers_[count_] = static_cast<std::uint8_t>(entry.number);
+        parts_[count_++] = entry.parts;
     }
     /// Evens out the parts: the best pair each time.
     void balance(float seen)
     {
-        std::array<std::array<float, kMost>, kMost> distances;
         std::size_t known = 0;
-        for (int step = 0; step < kParts && count > 1; ++step) {
+        for (int step = 0; step < kParts && count_ > 1; ++step) {
             const float weight = 2 * (1 - seen) / kParts;
-            for (std::size_t a = 0; known != count && a < count; ++a)
-                for (std::size_t b = 0; b < count; ++b) distances[a][b] = apart(a, b);
-            known = count;
-            std::array<float, kMost> slopes;
-            const std::array pull{mean[0] * weight, mean[1] * weight, mean[2] * weight};
-            for (std::size_t u = 0; u < count; ++u)
-                slopes[u] = pull[0] * off[0][u] + pull[1] * off[1][u] + pull[2] * off[2][u] + seen * far[u];
+            if (std::exchange(known, count_) != count_) measure();
+            weigh(weight, seen);
             std::size_t from = 0, to = 0;
             float most = 0, wanted = 0;
-            for (std::size_t a = 0; a < count; ++a)
-                for (std::size_t b = 0; b < count; ++b) {
-                    const float gain = slopes[a] - slopes[b], cost = weight * distances[a][b];
-                    if (gain * gain <= most * cost || gain < 0.5F * cost) continue;
+            for (std::size_t a = 0; a < count_; ++a)
+                for (std::uint64_t left = worthMoving(a, weight); left != 0; left &= left - 1) {
+                    const auto b = std::size_t(std::countr_zero(left));
+                    const float gain = slopes_[a] - slopes_[b], cost = weight * distances_[a][b];
+                    if (gain * gain <= most * cost) continue;
                     most = gain * gain / cost;
                     wanted = gain / cost;
                     from = a;
                     to = b;
                 }
             if (most == 0) return;
-            shift(from, to, std::min(int(wanted + 0.5F), parts[from]));
+            shift(from, to, std::min(int(wanted + 0.5F), parts_[from]));
         }
     }
+    MixedParts result() const
+    {
+        MixedParts mixed{.entries = numbers_, .parts = {}, .count = count_};
+        for (std::size_t u = 0; u < kMost; ++u) mixed.parts[u] = static_cast<std::uint8_t>(parts_[u]);
+        return mixed;
+    }
+
+  private:
+    using D = hn::CappedTag<float, kMost>;
+    using Each = std::array<float, kMost>;
+
+    /// The distances of the entries from one another.
+    void measure()
+    {
+        const D d;
+        for (std::size_t a = 0; a < count_; ++a)
+            for (std::size_t b = 0; b < kMost; b += hn::Lanes(d)) {
+                const auto square = [&](const Each& off) HWY_ATTR {
+                    const auto apart = hn::Sub(hn::Set(d, off[a]), hn::Load(d, &off[b]));
+                    return hn::Mul(apart, apart);
+                };
+                const auto sum = hn::Add(hn::Add(square(off_[0]), square(off_[1])), square(off_[2]));
+                hn::Store(hn::Max(sum, hn::Set(d, 1)), d, &distances_[a][b]);
+            }
+    }
+    /// What a part of each entry costs; nobody moves one to a place beyond the last entry.
+    void weigh(float weight, float seen)
+    {
+        const D d;
+        const auto pull = [&](std::size_t c) HWY_ATTR { return hn::Set(d, mean_[c] * weight); };
+        const auto p0 = pull(0), p1 = pull(1), p2 = pull(2), share = hn::Set(d, seen), end = hn::Set(d, float(count_));
+        for (std::size_t u = 0; u < kMost; u += hn::Lanes(d)) {
+            const auto slope = slopeOf(d, p0, p1, p2, share, hn::Load(d, &off_[0][u]), hn::Load(d, &off_[1][u]),
+                                       hn::Load(d, &off_[2][u]), hn::Load(d, &far_[u]));
+            const auto lives = hn::Lt(countedFrom(d, float(u)), end);
+            hn::Store(hn::IfThenElse(lives, slope, hn::Set(d, std::numeric_limits<float>::max())), d, &slopes_[u]);
+        }
+    }
+    /// The entries, as bits, to which half a part of entry a or more would be moved.
+    std::uint64_t worthMoving(std::size_t a, float weight) const
+    {
+        const D d;
+        const auto half = hn::Set(d, 0.5F), slope = hn::Set(d, slopes_[a]);
+        std::uint64_t bits = 0;
+        for (std::size_t b = 0; b < kMost; b += hn::Lanes(d)) {
+            const auto gain = hn::Sub(slope, hn::Load(d, &slopes_[b]));
+            const auto cost = hn::Mul(hn::Set(d, weight), hn::Load(d, &distances_[a][b]));
+            bits |= laneBits(d, hn::Ge(gain, hn::Mul(half, cost))) << b;
+        }
+        return bits;
+    }
+    void shift(std::size_t from, std::size_t to, int moved)
+    {
+        parts_[to] += moved;
+        parts_[from] -= moved;
+        for (std::size_t c = 0; c < 3; ++c) mean_[c] += float(moved) * (off_[c][to] - off_[c][from]);
+        if (parts_[from] > 0) return;
+        --count_;
+        for (Each& channel : off_) channel[from] = channel[count_];
+        far_[from] = far_[count_];
+        numbers_[from] = numbers_[count_];
+        parts_[from] = parts_[count_];
+        numbers_[count_] = 0;
+        parts_[count_] = 0;
+    }
+
+    alignas(32) std::array<Each, 3> off_{};
+    alignas(32) Each far_{}, slopes_;
+    alignas(32) std::array<Each, kMost> distances_; // 1 at the least
+    std::array<std::uint8_t, kMost> numbers_{};
+    std::array<int, kMost> parts_{};
+    std::size_t count_ = 0;
+    std::array<float, 3> mean_;
 };
 
 /// Mixtures under way, one a lane, each at a step of its own: minimises the squared error of the mean plus the seen
@@ -140,22 +198,16 @@ class Mixings {
 
     MixedParts result(std::size_t lane) const
     {
-        Entries own;
-        own.count = std::size_t(count_[lane]);
-        for (std::size_t c = 0; c < 3; ++c) own.mean[c] = mean_[c][lane];
-        for (std::size_t u = 0; u < own.count; ++u) {
-            for (std::size_t c = 0; c < 3; ++c) own.off[c][u] = slots_[u][c][lane];
-            own.far[u] = slots_[u][kFar][lane];
-            own.number[u] = int(slots_[u][kNumber][lane]);
-            own.parts[u] = int(slots_[u][kPartsOf][lane]);
+        Entries entries({mean_[0][lane], mean_[1][lane], mean_[2][lane]});
+        for (std::size_t u = 0; u < std::size_t(count_[lane]); ++u) {
+            const auto field = [&](std::size_t f) { return slots_[u][f][lane]; };
+            entries.add({.off = {field(0), field(1), field(2)},
+                         .far = field(kFar),
+                         .number = int(field(kNumber)),
+                         .parts = int(field(kPartsOf))});
         }
-        own.balance(kMostSeen * closeness_[lane]);
-        MixedParts mixed{.entries = {}, .parts = {}, .count = own.count};
-        for (std::size_t u = 0; u < own.count; ++u) {
-            mixed.entries[u] = static_cast<std::uint8_t>(own.number[u]);
-            mixed.parts[u] = static_cast<std::uint8_t>(own.parts[u]);
-        }
-        return mixed;
+        entries.balance(kMostSeen * closeness_[lane]);
+        return entries.result();
     }
 
   private:
@@ -176,11 +228,15 @@ class Mixings {
         const auto slope = [&](const V* off) HWY_ATTR {
             return slopeOf(d, pull[0], pull[1], pull[2], seen, off[0], off[1], off[2], off[3]);
         };
-        // The candidate of the least cost, in steps; its number in the low bits breaks ties.
+        // The candidate of the least cost, in steps, which the weights are multiplied with, as that is exact; its
+        // number in the low bits breaks ties.
+        const auto inSteps = [&](V v) HWY_ATTR { return hn::Mul(v, hn::Set(d, kSteps)); };
+        const auto p0 = inSteps(pull[0]), p1 = inSteps(pull[1]), p2 = inSteps(pull[2]), share = inSteps(seen);
         auto least = hn::Set(words, std::int32_t{0x7FFFFFFF});
         for (std::size_t i = 0; i < kCount; ++i) {
-            const V off[] = {load(off_[i][0]), load(off_[i][1]), load(off_[i][2]), load(off_[i][3])};
-            const auto steps = hn::ConvertTo(words, hn::Mul(slope(off), hn::Set(d, kSteps)));
+            const auto& off = off_[i];
+            const auto steps = hn::ConvertTo(
+                words, slopeOf(d, p0, p1, p2, share, load(off[0]), load(off[1]), load(off[2]), load(off[kFar])));
             least = hn::Min(least, hn::Add(hn::ShiftLeft<kBits>(steps), hn::Set(words, std::int32_t(i))));
         }
         const auto number = hn::And(least, hn::Set(words, std::int32_t(kCount - 1)));
@@ -293,6 +349,7 @@ void cellsImpl(const Pixel* from, int n, std::uint32_t sequence, std::uint32_t s
     auto place = hn::Add(hn::Set(d, sequence), hn::Mul(countedFrom(d, 0u), hn::Set(d, step)));
     const auto next = hn::Set(d, step * std::uint32_t(lanes));
     for (int i = 0; i < n; i += lanes) {
+        __builtin_prefetch(from + i + 1024);
         Pixel rest[HWY_MAX_BYTES / sizeof(Pixel)] = {};
         if (i + lanes > n) std::copy_n(from + i, n - i, rest);
         const Pixel* const p = i + lanes > n ? rest : from + i;
