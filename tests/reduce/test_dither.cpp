@@ -235,23 +235,6 @@ TEST(Dither, ScreensAreTheSameWithAllInstructionSetsAndSparePaletteColours)
     }
 }
 
-TEST(Dither, MixturesMadeTogetherAreThoseOfEach)
-{
-    const Bits colours = randomBits(130, 1, 6);
-    std::vector<Pixel> palette;
-    for (const Colour c : fixedColours(64)) palette.push_back(pixelFor(c));
-    ColourMixer together(palette, {0.05F, 40}), single(palette, {0.05F, 40});
-    std::vector<ColourMixer::Mixture> mixtures(130);
-    together.mixtures(colours.row(0), 130, mixtures.data());
-    for (int i = 0; i < 130; ++i) {
-        const auto wanted = single(colours.row(0)[i]);
-        EXPECT_TRUE(wanted.count == mixtures[std::size_t(i)].count &&
-                    wanted.entries == mixtures[std::size_t(i)].entries &&
-                    wanted.parts == mixtures[std::size_t(i)].parts)
-            << i;
-    }
-}
-
 TEST(Dither, MixturesOfNearEntriesHaveLessContrast)
 {
     std::vector<Pixel> palette;

@@ -176,12 +176,14 @@ void DotScreen::row(const Pixel* from, std::uint8_t* to, int width, int y) const
         for (int x = 0; x < width; ++x) to[x] = each_[slotOf(channelBits(from[x]))].dots.at(spread[std::size_t(x % 8)]);
         return;
     }
-    eachRun(from, width, y, [&](int x0, int n, const std::uint32_t* cells) {
-        for (int i = 0; i < n; ++i) __builtin_prefetch(&levels_[cells[i]]); // a large table
+    eachRun(from, width, y, [&, levels = levels_.data()](int x0, int n, const std::uint32_t* cells) {
+        for (int i = 0; i < n; ++i) __builtin_prefetch(&levels[cells[i]]); // a large table
+        const Pixel* const pixels = from + x0;
+        std::uint8_t* const entries = to + x0;
         for (int i = 0; i < n; ++i) {
-            const Dots& dots = levels_[cells[i]];
+            const Dots& dots = levels[cells[i]];
             const std::uint8_t entry = dots.at(spread[std::size_t((x0 + i) % 8)]);
-            to[x0 + i] = dots.maybeOwn() ? ownOr(from[x0 + i], entry) : entry;
+            entries[i] = dots.maybeOwn() ? ownOr(pixels[i], entry) : entry;
         }
     });
 }
