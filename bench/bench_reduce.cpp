@@ -35,7 +35,7 @@ const Rows rows{
     bounded(kTurning, dither("256 colours, turning", Dither::Odd, 80, 30)),
     dither("256 colours, dispersed dots", Dither::Ordered, 80, 30),
     dither("256 colours, clustered dots", Dither::Haftone, 80, 30),
-    {"depth reduction", "best 256 colours", 0, 0,
+    {"depth reduction", "best 256 colours", 80, 20,
      [](Size size) { return Timing{[size] { (void)reduceColours(picture(size), {}); }, {}}; }},
 };
 // clang-format on
