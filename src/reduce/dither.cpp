@@ -105,30 +105,31 @@ class Work {
     {
         ErrorMatch match = newMatch();
         const int width = bits_.width();
-        std::vector<Lanes> errors(static_cast<std::size_t>(width) + 2), next(errors); // one more at each end
+        using Stored = std::array<std::int16_t, 4>;
+        std::vector<Stored> errors(static_cast<std::size_t>(width) + 2), next(errors); // one more at each end
         for (int y = 0; y < bits_.height(); ++y) {
             const bool back = y % 2 == parity;
             const int step = back ? -1 : 1, first = back ? width - 1 : 0;
             std::uint8_t* to = rowOf(y) + first;
-            const Lanes* here = errors.data() + 1 + first;
-            Lanes* below = next.data() + 1 + first;
-            Lanes ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
+            const Stored* here = errors.data() + 1 + first;
+            Stored* below = next.data() + 1 + first;
+            Words ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
             int i = 0;
-            const auto spread = [&](Lanes error) {
-                const Lanes right = ((error << 3) - error) >> 4; // seven, without a product to wait for
-                const Lanes back3 = error * 3 >> 4, middle = error * 5 >> 4;
-                below[-step] = under + back3;
+            const auto spread = [&](const ErrorMatch::Left& left) {
+                const Words back3 = left.error * 3 >> 4, middle = left.error * 5 >> 4;
+                putFour(under + back3, below[-step].data());
                 under = corner + middle;
-                corner = error - right - back3 - middle;
-                ahead = right;
+                corner = left.error - left.seven - back3 - middle;
+                ahead = left.seven;
                 ++i, to += step, here += step, below += step;
             };
             while (i < width) {
-                Lanes error;
-                while (i < width && match.putQuickly(*to, first + i * step, y, *here, ahead, error)) spread(error);
-                if (i < width) spread(match.put(*to, first + i * step, y, *here, ahead));
+                ErrorMatch::Left left;
+                while (i < width && match.putQuickly(*to, first + i * step, y, fourWordsAt(here->data()), ahead, left))
+                    spread(left);
+                if (i < width) spread(match.putAny(*to, first + i * step, y, fourWordsAt(here->data()), ahead));
             }
-            below[-step] = under;
+            putFour(under, below[-step].data());
             std::swap(errors, next);
             told(y);
         }
