@@ -228,22 +228,22 @@ class Mixings {
         const auto slope = [&](const V* off) HWY_ATTR {
             return slopeOf(d, pull[0], pull[1], pull[2], seen, off[0], off[1], off[2], off[3]);
         };
-        // The candidate of the least cost, in steps, which the weights are multiplied with, as that is exact; its
-        // number in the low bits breaks ties.
+        // The first candidate of the least cost, in whole steps, which the weights are multiplied with, as that is
+        // exact.
         const auto inSteps = [&](V v) HWY_ATTR { return hn::Mul(v, hn::Set(d, kSteps)); };
         const auto p0 = inSteps(pull[0]), p1 = inSteps(pull[1]), p2 = inSteps(pull[2]), share = inSteps(seen);
-        auto least = hn::Set(words, std::int32_t{0x7FFFFFFF});
+        auto least = hn::Set(d, std::numeric_limits<float>::max()), number = hn::Zero(d);
         for (std::size_t i = 0; i < kCount; ++i) {
             const auto& off = off_[i];
-            const auto steps = hn::ConvertTo(
-                words, slopeOf(d, p0, p1, p2, share, load(off[0]), load(off[1]), load(off[2]), load(off[kFar])));
-            least = hn::Min(least, hn::Add(hn::ShiftLeft<kBits>(steps), hn::Set(words, std::int32_t(i))));
+            const auto cost =
+                hn::Trunc(slopeOf(d, p0, p1, p2, share, load(off[0]), load(off[1]), load(off[2]), load(off[kFar])));
+            number = hn::IfThenElse(hn::Lt(cost, least), hn::Set(d, float(i)), number);
+            least = hn::Min(least, cost);
         }
-        const auto number = hn::And(least, hn::Set(words, std::int32_t(kCount - 1)));
         V best[kFields];
-        const auto place = hn::Add(hn::ShiftLeft<kPlaceBits>(number), countedFrom(words, 0));
+        const auto place = hn::Add(hn::ShiftLeft<kPlaceBits>(hn::ConvertTo(words, number)), countedFrom(words, 0));
         for (std::size_t f = 0; f <= kFar; ++f) best[f] = loadEach(d, off_[0][f].data(), place);
-        best[kNumber] = hn::ConvertTo(d, number);
+        best[kNumber] = number;
 
         // The first of the steepest ones, the last one, and where the best one is or would be.
         const auto one = hn::Set(d, 1), lastAt = hn::Sub(count, one);
@@ -305,8 +305,6 @@ class Mixings {
     }
 
     static constexpr float kSteps = 32; // of a cost that are told apart
-    static constexpr int kBits = 5;     // of a candidate's number
-    static_assert(kCount == 1 << kBits);
     static constexpr int kPlaceBits = std::countr_zero(4 * kLanes);
 
     alignas(
