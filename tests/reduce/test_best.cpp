@@ -65,6 +65,33 @@ TEST(BestColours, EntriesMoveToMeansWithAllInstructionSetsAndThreads)
     }
 }
 
+double errorOf(const std::vector<Pixel>& pixels, const Palette& palette)
+{
+    double sum = 0;
+    for (const Pixel p : pixels) {
+        int least = 1 << 20;
+        for (const Colour c : palette)
+            least = std::min(least, squareOf({redOf(c), greenOf(c), blueOf(c)}, {p.c[2], p.c[1], p.c[0]}));
+        sum += least;
+    }
+    return sum;
+}
+
+TEST(BestColours, NoRoundMoreWouldGainMuch)
+{
+    for (const int most : {16, 256}) {
+        std::mt19937 random(4);
+        const Bits picture = drawnBits(300, 200, [&](int x, int y) {
+            const auto level = [&](double at) { return 100 + int(70 * std::sin(at)) + int(random() % 40); };
+            return pixelFor(colourOf(level(x / 40.0), level(y / 30.0), level((x + y) / 90.0)));
+        });
+        std::vector<Pixel> pixels;
+        for (int i = 0; i < 300 * 200; ++i) pixels.push_back(picture.at(i % 300, i / 300));
+        const Palette best = bestPalette(picture, most);
+        EXPECT_GT(errorOf(pixels, plainlyRefined(pixels, best)), 0.98 * errorOf(pixels, best)) << most;
+    }
+}
+
 /// A small mark of a colour of its own is shown, whether there are few colours or so many that similar ones are counted
 /// as one.
 TEST(BestColours, SmallMarksKeepTheirColour)
