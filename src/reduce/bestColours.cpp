@@ -1,6 +1,7 @@
 #include "reduce/bestColours.h"
 #include "pixels/Register.h"
 #include "pixels/RuntimeError.h"
+#include "pixels/threads/parallelFor.h"
 #include "reduce/best/refinePalette.h"
 #include "reduce/dither.h"
 #include <algorithm>
@@ -43,6 +44,7 @@ std::optional<Palette> ownColours(const Bits& bits, int colours, const ReducePro
 
 /// Every n-th pixel in both directions.
 struct Sample {
+    static constexpr int kFetched = 16; // a cache line of pixels for each
     int width, height;
     std::vector<Pixel> pixels;
 
@@ -51,8 +53,12 @@ struct Sample {
         const int step = static_cast<int>(std::ceil(std::sqrt(double(bits.width()) * bits.height() / kSampledPixels)));
         width = (bits.width() + step - 1) / step;
         height = (bits.height() + step - 1) / step;
-        for (int y = 0; y < bits.height(); y += step)
-            for (int x = 0; x < bits.width(); x += step) pixels.push_back(bits.row(y)[x]);
+        pixels.resize(std::size_t(width) * std::size_t(height));
+        parallelFor(height, turnsTogether(kFetched * width), [&](int y) {
+            const Pixel* from = bits.row(y * step);
+            Pixel* const to = &pixels[std::size_t(y) * std::size_t(width)];
+            for (int x = 0; x < width; ++x) to[x] = from[x * step];
+        });
     }
     /// A row in the quantiser's format: red, green, blue, opaque.
     static void giveRow(liq_color* row, int y, int width, void* user)

@@ -33,6 +33,7 @@ class Work {
             NearestColours nearest;
             std::vector<Pixel> line;
         };
+        if (threadCount() > 1) nearest_.expect(fewPixels());
         Copies<Own> copies([&] { return Own{nearest_, std::vector<Pixel>(std::size_t(bits_.width()))}; });
         const auto row = [&](int y) {
             copies.lend([&](Own& own) { own.nearest.entries(of(bits_.row(y), own.line), rowOf(y), bits_.width()); });
@@ -136,6 +137,15 @@ class Work {
     }
 
   private:
+    /// From all over a big picture, none of a small one.
+    std::vector<Pixel> fewPixels() const
+    {
+        constexpr int kStep = 32;
+        std::vector<Pixel> pixels;
+        for (int y = kStep / 2; y < bits_.height(); y += kStep)
+            for (int x = kStep / 2; x < bits_.width(); x += kStep) pixels.push_back(bits_.row(y)[x]);
+        return pixels;
+    }
     static std::vector<Pixel> pixelsOf(const Palette& palette)
     {
         std::vector<Pixel> pixels;
