@@ -13,6 +13,8 @@ namespace velara {
 
 using Lanes = int __attribute__((vector_size(16))); // blue, green, red and the fourth byte of a pixel, or four pixels
 
+using Words = std::int16_t __attribute__((vector_size(16))); // the four bytes of a pixel in the low lanes
+
 namespace detail {
 using Bytes = std::uint8_t __attribute__((vector_size(16)));
 } // namespace detail
@@ -109,6 +111,36 @@ inline Pixel narrowLimited(Lanes v)
     const Register words = _mm_packs_epi32(std::bit_cast<Register>(v), std::bit_cast<Register>(v));
     return std::bit_cast<Pixel>(wordOf(_mm_packus_epi16(words, words)));
 }
+inline Words wordsOf(const Pixel& p) { return std::bit_cast<Words>(_mm_cvtepu8_epi16(inRegister(p))); }
+/// The low four lanes, from and to memory; in integers, and back without the fourth one.
+inline Words fourWordsAt(const std::int16_t* p)
+{
+    return std::bit_cast<Words>(_mm_loadl_epi64(reinterpret_cast<const Register*>(p)));
+}
+inline void putFour(Words v, std::int16_t* to)
+{
+    _mm_storel_epi64(reinterpret_cast<Register*>(to), std::bit_cast<Register>(v));
+}
+inline Lanes lanesOf(Words v) { return std::bit_cast<Lanes>(_mm_cvtepi16_epi32(std::bit_cast<Register>(v))); }
+inline Words threeWordsOf(Lanes v)
+{
+    const Register words = _mm_packs_epi32(std::bit_cast<Register>(v), _mm_setzero_si128());
+    return std::bit_cast<Words>(_mm_insert_epi16(words, 0, 3));
+}
+/// Each of the four lanes, limited to 0..255, as a byte.
+inline Pixel narrowLimited(Words v)
+{
+    const auto words = std::bit_cast<Register>(v);
+    return std::bit_cast<Pixel>(wordOf(_mm_packus_epi16(words, words)));
+}
+/// One of the four lanes is beyond plus or minus most.
+inline bool anyBeyond(Words v, std::int16_t most)
+{
+    const auto words = std::bit_cast<Register>(v);
+    const Register above = _mm_cmpgt_epi16(words, _mm_set1_epi16(most)),
+                   below = _mm_cmplt_epi16(words, _mm_set1_epi16(static_cast<std::int16_t>(-most)));
+    return (_mm_movemask_epi8(_mm_or_si128(above, below)) & 0xFF) != 0;
+}
 
 #else
 
@@ -177,6 +209,20 @@ inline Pixel narrowLimited(Lanes v)
     const auto bytes = std::bit_cast<detail::Bytes>(limited(v, 0, 255));
     const auto low = __builtin_shufflevector(bytes, bytes, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12, 0, 4, 8, 12);
     return std::bit_cast<Pixel>(std::bit_cast<Lanes>(low)[0]);
+}
+inline Words wordsOf(const Pixel& p) { return Words{p.c[0], p.c[1], p.c[2], p.c[3]}; }
+inline Words fourWordsAt(const std::int16_t* p) { return Words{p[0], p[1], p[2], p[3]}; }
+inline void putFour(Words v, std::int16_t* to) { std::memcpy(to, &v, 4 * sizeof *to); }
+inline Lanes lanesOf(Words v) { return Lanes{v[0], v[1], v[2], v[3]}; }
+inline Words threeWordsOf(Lanes v)
+{
+    return Words{static_cast<std::int16_t>(v[0]), static_cast<std::int16_t>(v[1]), static_cast<std::int16_t>(v[2])};
+}
+inline Pixel narrowLimited(Words v) { return narrowLimited(lanesOf(v)); }
+inline bool anyBeyond(Words v, std::int16_t most)
+{
+    const auto isBeyond = [&](int i) { return v[i] > most || v[i] < -most; };
+    return isBeyond(0) || isBeyond(1) || isBeyond(2) || isBeyond(3);
 }
 inline Register plusError(Register both, Register p, Register found)
 {

@@ -2,6 +2,7 @@
 #pragma once
 #include "pixels/nearest/NearestColours.h"
 #include <algorithm>
+#include <array>
 
 namespace velara {
 
@@ -12,7 +13,12 @@ class ErrorMatch {
     ErrorMatch(const Bits& bits, const std::vector<Pixel>& colours, const NearestColours& nearest)
         : bits_(bits), nearest_(nearest)
     {
-        for (const Pixel& p : colours) lanes_.push_back(wide(p));
+        for (const Pixel& p : colours) {
+            const auto word = [](int v) { return static_cast<std::int16_t>(v); };
+            lanes_.push_back(wide(p));
+            colours_.push_back({p.c[0], p.c[1], p.c[2], 0});
+            sevens_.push_back({word(7 * p.c[0]), word(7 * p.c[1]), word(7 * p.c[2]), 0});
+        }
     }
 
     /// The entry nearest to pixel plus errors, and the new error; late is what the pixel before it gives, which is
@@ -38,18 +44,32 @@ class ErrorMatch {
         to = static_cast<std::uint8_t>(entry);
         return limited(wanted - lanes_[std::size_t(entry)], -kMostError, kMostError);
     }
-    /// put() for the usual pixel, without a call, so that a loop keeps all in registers. False: nothing has been done.
-    [[gnu::always_inline]] bool putQuickly(std::uint8_t& to, int x, int y, Lanes error, Lanes late, Lanes& left) const
+    /// The new error, and seven sixteenths of it. The fourth lanes are 0.
+    struct Left {
+        Words error, seven;
+    };
+    /// put() for the usual pixel, without a call, so that a loop keeps all in registers, and with the fewest steps from
+    /// late to left.seven. False: nothing has been done.
+    [[gnu::always_inline]] bool putQuickly(std::uint8_t& to, int x, int y, Words error, Words late, Left& left) const
     {
         const Pixel* const row = bits_.row(y);
-        const Pixel p = row[x];
-        const Lanes wanted = wide(p) + error + late;
+        const auto p = std::bit_cast<Pixel>(channelBits(row[x]));
+        const Words wanted = wordsOf(p) + error + late;
         const Pixel shown = narrowLimited(wanted);
         const std::uint32_t cell = cellOf(shown);
         if (isSame(p, row[std::max(x - 1, 0)]) || isSame(shown, p) || !isKnown(cell)) return false;
-        to = nearly_[cell];
-        left = limited(wanted - lanes_[to], -kMostError, kMostError);
+        const std::uint8_t entry = nearly_[cell];
+        const Words off = wanted - fourWordsAt(colours_[entry].data());
+        if (anyBeyond(off, kMostError)) return false;
+        to = entry;
+        left = {off, (wanted * 7 - fourWordsAt(sevens_[entry].data())) >> 4};
         return true;
+    }
+    /// The same for any pixel.
+    Left putAny(std::uint8_t& to, int x, int y, Words error, Words late)
+    {
+        const Words left = threeWordsOf(put(to, x, y, lanesOf(error), lanesOf(late)));
+        return {left, left * 7 >> 4};
     }
     /// The error that a line of diffusion starts with. It varies evenly between plus and minus the first pixel's error,
     /// so that neighbouring lines don't produce the same pattern.
@@ -97,6 +117,7 @@ class ErrorMatch {
 
     const Bits& bits_;
     std::vector<Lanes> lanes_;
+    std::vector<std::array<std::int16_t, 4>> colours_, sevens_; // the same as words, and seven times
     NearestColours nearest_;
     std::vector<std::uint8_t> nearly_ = std::vector<std::uint8_t>(64 * 64 * 64); // the known ones, a bit each:
     std::vector<std::uint64_t> known_ = std::vector<std::uint64_t>(64 * 64);

@@ -33,6 +33,7 @@ class Work {
             NearestColours nearest;
             std::vector<Pixel> line;
         };
+        if (threadCount() > 1) nearest_.expect(fewPixels());
         Copies<Own> copies([&] { return Own{nearest_, std::vector<Pixel>(std::size_t(bits_.width()))}; });
         const auto row = [&](int y) {
             copies.lend([&](Own& own) { own.nearest.entries(of(bits_.row(y), own.line), rowOf(y), bits_.width()); });
@@ -42,11 +43,8 @@ class Work {
 
     void screened(const DotMatrix& matrix, PaletteOf origin)
     {
-        Copies<DotScreen> screens(
-            [&, many = hasManyColours()] { return DotScreen(colours_, nearest_, matrix, origin, many); });
-        const auto row = [&](int y) {
-            screens.lend([&](DotScreen& own) { own.row(bits_.row(y), rowOf(y), bits_.width(), y); });
-        };
+        const DotScreen screen(bits_, colours_, matrix, origin, progress_);
+        const auto row = [&](int y) { screen.row(bits_.row(y), rowOf(y), bits_.width(), y); };
         parallelFor(bits_.height(), turnsTogether(bits_.width()), row, [this](int y) { told(y); });
     }
 
@@ -108,49 +106,45 @@ class Work {
     {
         ErrorMatch match = newMatch();
         const int width = bits_.width();
-        std::vector<Lanes> errors(static_cast<std::size_t>(width) + 2), next(errors); // one more at each end
+        using Stored = std::array<std::int16_t, 4>;
+        std::vector<Stored> errors(static_cast<std::size_t>(width) + 2), next(errors); // one more at each end
         for (int y = 0; y < bits_.height(); ++y) {
             const bool back = y % 2 == parity;
             const int step = back ? -1 : 1, first = back ? width - 1 : 0;
             std::uint8_t* to = rowOf(y) + first;
-            const Lanes* here = errors.data() + 1 + first;
-            Lanes* below = next.data() + 1 + first;
-            Lanes ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
+            const Stored* here = errors.data() + 1 + first;
+            Stored* below = next.data() + 1 + first;
+            Words ahead{}, under{}, corner{}; // carried to the next pixel, the one below this, the one below the next
             int i = 0;
-            const auto spread = [&](Lanes error) {
-                const Lanes right = ((error << 3) - error) >> 4; // seven, without a product to wait for
-                const Lanes back3 = error * 3 >> 4, middle = error * 5 >> 4;
-                below[-step] = under + back3;
+            const auto spread = [&](const ErrorMatch::Left& left) {
+                const Words back3 = left.error * 3 >> 4, middle = left.error * 5 >> 4;
+                putFour(under + back3, below[-step].data());
                 under = corner + middle;
-                corner = error - right - back3 - middle;
-                ahead = right;
+                corner = left.error - left.seven - back3 - middle;
+                ahead = left.seven;
                 ++i, to += step, here += step, below += step;
             };
             while (i < width) {
-                Lanes error;
-                while (i < width && match.putQuickly(*to, first + i * step, y, *here, ahead, error)) spread(error);
-                if (i < width) spread(match.put(*to, first + i * step, y, *here, ahead));
+                ErrorMatch::Left left;
+                while (i < width && match.putQuickly(*to, first + i * step, y, fourWordsAt(here->data()), ahead, left))
+                    spread(left);
+                if (i < width) spread(match.putAny(*to, first + i * step, y, fourWordsAt(here->data()), ahead));
             }
-            below[-step] = under;
+            putFour(under, below[-step].data());
             std::swap(errors, next);
             told(y);
         }
     }
 
   private:
-    /// So many that a mixture for each of them would take longer than it is worth.
-    bool hasManyColours() const
+    /// From all over a big picture, none of a small one.
+    std::vector<Pixel> fewPixels() const
     {
-        constexpr int kMany = 1 << 14;
-        std::vector<bool> known(1 << 24);
-        int count = 0;
-        for (int y = 0; y < bits_.height() && count < kMany; ++y)
-            for (int x = 0; x < bits_.width(); ++x) {
-                auto seen = known[channelBits(bits_.row(y)[x])];
-                count += !seen;
-                seen = true;
-            }
-        return count >= kMany;
+        constexpr int kStep = 32;
+        std::vector<Pixel> pixels;
+        for (int y = kStep / 2; y < bits_.height(); y += kStep)
+            for (int x = kStep / 2; x < bits_.width(); x += kStep) pixels.push_back(bits_.row(y)[x]);
+        return pixels;
     }
     static std::vector<Pixel> pixelsOf(const Palette& palette)
     {

@@ -41,10 +41,12 @@ struct Round {
 Round roundOf(const std::vector<Pixel>& sample, const std::vector<Pixel>& colours)
 {
     ColourMixer mixer(colours, {kSeen, 40});
+    std::vector<ColourMixer::Mixture> mixtures(sample.size());
+    mixer.mixtures(sample.data(), static_cast<int>(sample.size()), mixtures.data());
     Round round{.pulls = std::vector<Pull>(colours.size())};
-    for (const Pixel p : sample) {
-        const ColourMixer::Mixture mixture = mixer(p);
-        const Place wanted = placeOf(p);
+    for (std::size_t k = 0; k < sample.size(); ++k) {
+        const ColourMixer::Mixture& mixture = mixtures[k];
+        const Place wanted = placeOf(sample[k]);
         Place missing = wanted;
         for (std::size_t i = 0; i < mixture.count; ++i)
             for (std::size_t c = 0; c < 3; ++c)

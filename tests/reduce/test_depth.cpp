@@ -111,6 +111,11 @@ TEST(NearestColours, AnyPaletteByBothDistances)
                         c = static_cast<std::uint8_t>((256 - spread) / 2 + int(random() % unsigned(spread)));
             for (const Distance distance : {Distance::Sum, Distance::Squares}) {
                 NearestColours nearest(colours, distance);
+                std::vector<Pixel> expected(600);
+                for (Pixel& p : expected) p = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
+                nearest.expect({expected.begin(), expected.begin() + 300});
+                nearest.expect(expected);
+                for (const Pixel p : expected) ASSERT_EQ(literalNearest(colours, p, distance), nearest(p));
                 for (int i = 0; i < 2000; ++i) {
                     const auto p = std::bit_cast<Pixel>(static_cast<std::uint32_t>(random()));
                     ASSERT_EQ(literalNearest(colours, p, distance), nearest(p)) << count << ' ' << spread;

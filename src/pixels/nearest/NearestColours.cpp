@@ -1,4 +1,5 @@
 #include "pixels/nearest/NearestColours.h"
+#include "pixels/threads/parallelFor.h"
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -11,6 +12,12 @@ namespace {
 constexpr int kRegionSide = 32;
 constexpr std::size_t kFewEnough = 96; // to compare all pairs
 constexpr std::size_t kFewGreys = 64;  // at most four of them in a cube
+
+Pixel asPixel(const std::array<int, 3>& levels)
+{
+    const auto byte = [&](std::size_t c) { return static_cast<std::uint8_t>(levels[c]); };
+    return {byte(0), byte(1), byte(2), 0};
+}
 
 int far(Distance distance, int difference)
 {
@@ -59,6 +66,35 @@ template <class Vectors, class Single> void inRuns(int count, Vectors vectors, S
 
 } // namespace
 
+void NearestColours::expect(const std::vector<Pixel>& pixels)
+{
+    if (!bySum_.empty()) return;
+    struct Region {
+        std::vector<Corner> cubes;
+        std::deque<Crowd> crowds; // numbered on their own at first
+    };
+    std::vector<Region> regions(regions_.size());
+    std::vector<bool> seen(cubes_.size());
+    const auto cubeAt = [&](Pixel p) { return std::size_t(wordOf(cubesOf(inRegister(p)))); };
+    for (const Pixel p : pixels) {
+        const std::size_t at = cubeAt(p);
+        if (seen[at] || cubes_[at].hasFew() || cubes_[at].number() != kUnknown) continue;
+        seen[at] = true;
+        const Corner low{p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide};
+        regions[regionOf(low)].cubes.push_back(low);
+    }
+    parallelFor(static_cast<int>(regions.size()), 1, [&](int i) {
+        Region& region = regions[std::size_t(i)];
+        for (const Corner& low : region.cubes) cubes_[cubeAt(asPixel(low))] = lookInto(low, region.crowds);
+    });
+    for (Region& region : regions) {
+        const auto before = static_cast<std::uint32_t>(crowds_.size());
+        for (const Corner& low : region.cubes)
+            if (Cube& cube = cubes_[cubeAt(asPixel(low))]; !cube.hasFew()) cube = numbered(cube.number() + before);
+        std::ranges::move(region.crowds, std::back_inserter(crowds_));
+    }
+}
+
 void NearestColours::colour(const Pixel* from, Pixel* to, int count)
 {
     const bool squares = distance_ == Distance::Squares;
@@ -79,7 +115,7 @@ void NearestColours::entries(const Pixel* from, std::uint8_t* to, int count)
 }
 
 /// The candidates that can be nearest to a colour of the cube, in palette order; slightly more for very large palettes.
-NearestColours::Candidates NearestColours::nearTo(const Candidates& all, std::array<int, 3> low, int side) const
+NearestColours::Candidates NearestColours::nearTo(const Candidates& all, Corner low, int side) const
 {
     const auto each = [&](auto part) { return part(0) + part(1) + part(2); };
     const auto high = [&](int i) { return low[std::size_t(i)] + side - 1; };
@@ -123,24 +159,26 @@ int NearestColours::lookCloser(Pixel p)
 {
     if (!bySum_.empty()) return bySum_[std::size_t(p.c[0] + p.c[1] + p.c[2])];
     Cube& cube = cubes_[std::size_t(wordOf(cubesOf(inRegister(p))))];
-    if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide});
+    if (cube.number() == kUnknown) cube = lookInto({p.c[0] & -kSide, p.c[1] & -kSide, p.c[2] & -kSide}, crowds_);
     if (cube.hasFew()) return among(cube, inRegister(p));
     const auto inside = [&](int channel) { return p.c[channel] % kSide << channel * kInside; };
     return crowds_[cube.number()][std::size_t(inside(0) | inside(1) | inside(2))];
 }
 
-NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
+std::size_t NearestColours::regionOf(Corner low)
 {
-    std::array<int, 3> regionLow;
     std::size_t region = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        regionLow[i] = low[i] & -kRegionSide;
-        region = region * (256 / kRegionSide) + static_cast<std::size_t>(low[i] / kRegionSide);
-    }
-    Candidates& wide = regions_[region];
-    if (wide.empty()) wide = nearTo(distinct_, regionLow, kRegionSide);
+    for (const int level : low) region = region * (256 / kRegionSide) + static_cast<std::size_t>(level / kRegionSide);
+    return region;
+}
+
+NearestColours::Cube NearestColours::lookInto(Corner low, std::deque<Crowd>& crowds)
+{
+    Candidates& wide = regions_[regionOf(low)];
+    if (wide.empty())
+        wide = nearTo(distinct_, {low[0] & -kRegionSide, low[1] & -kRegionSide, low[2] & -kRegionSide}, kRegionSide);
     const Candidates candidates = nearTo(wide, low, kSide);
-    if (candidates.size() > kFew || candidates.back().entry > 255) return numbered(crowdOf(candidates, low));
+    if (candidates.size() > kFew || candidates.back().entry > 255) return numbered(crowdOf(candidates, low, crowds));
     Cube cube;
     for (std::size_t i = 0; i < kFew; ++i) {
         const Candidate& c = candidates[std::min(i, candidates.size() - 1)];
@@ -151,9 +189,9 @@ NearestColours::Cube NearestColours::lookInto(std::array<int, 3> low)
 }
 
 /// Adds a table with the nearest index for each colour of a crowded cube; returns its number.
-std::uint32_t NearestColours::crowdOf(const Candidates& candidates, std::array<int, 3> low)
+std::uint32_t NearestColours::crowdOf(const Candidates& candidates, Corner low, std::deque<Crowd>& crowds) const
 {
-    auto to = crowds_.emplace_back().begin();
+    auto to = crowds.emplace_back().begin();
     for (int red = 0; red < kSide; ++red)
         for (int green = 0; green < kSide; ++green) {
             std::array<int, kSide> least, entry;
@@ -170,7 +208,7 @@ std::uint32_t NearestColours::crowdOf(const Candidates& candidates, std::array<i
             }
             to = std::copy(entry.begin(), entry.end(), to);
         }
-    return static_cast<std::uint32_t>(crowds_.size() - 1);
+    return static_cast<std::uint32_t>(crowds.size() - 1);
 }
 
 } // namespace velara

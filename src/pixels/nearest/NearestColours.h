@@ -30,6 +30,8 @@ class NearestColours {
             return lookCloser(std::bit_cast<Pixel>(wordOf(p)));
         return among(cube, p);
     }
+    /// Looks into the cubes of these pixels, on all cores, so that copies made afterwards need not.
+    void expect(const std::vector<Pixel>& pixels);
     /// Replaces count pixels by their nearest colours; fourth bytes are copied from from.
     void colour(const Pixel* from, Pixel* to, int count);
 
@@ -53,6 +55,7 @@ class NearestColours {
         std::uint16_t entry;
     };
     using Candidates = std::vector<Candidate>;
+    using Corner = std::array<int, 3>; // the least levels of a cube or a region
 
     static constexpr std::uint32_t kUnknown = 0xFFFFFF; // the number of a cube that is not filled yet
     static Cube numbered(std::uint32_t number) { return {{{std::bit_cast<Pixel>(number | 1 << 24)}}}; }
@@ -72,9 +75,10 @@ class NearestColours {
     }
 
     int lookCloser(Pixel p);
-    Candidates nearTo(const Candidates& all, std::array<int, 3> low, int side) const;
-    Cube lookInto(std::array<int, 3> low);
-    std::uint32_t crowdOf(const Candidates& candidates, std::array<int, 3> low);
+    Candidates nearTo(const Candidates& all, Corner low, int side) const;
+    static std::size_t regionOf(Corner low);
+    Cube lookInto(Corner low, std::deque<Crowd>& crowds);
+    std::uint32_t crowdOf(const Candidates& candidates, Corner low, std::deque<Crowd>& crowds) const;
     void tellGreysBySum();
 
     Distance distance_;

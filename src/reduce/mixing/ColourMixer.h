@@ -18,7 +18,7 @@ class ColourMixer {
     /// colours: 1 to 256.
     ColourMixer(const std::vector<Pixel>& colours, Contrast contrast);
 
-    /// Of n colours; many at a time take a third of the time. A colour of the palette gives that alone.
+    /// Of n colours; many at a time take a fraction of the time. A colour of the palette gives that alone.
     void mixtures(const Pixel* colours, int n, Mixture* mixed);
     Mixture operator()(Pixel p)
     {
@@ -28,7 +28,7 @@ class ColourMixer {
     }
 
   private:
-    static constexpr int kTogether = 64;
+    static constexpr int kTogether = 512;
 
     /// The entries nearest to a cell of colours; the last one repeated to fill up.
     struct Candidates {
@@ -36,13 +36,14 @@ class ColourMixer {
         MixingCandidates near;
     };
     const Candidates& candidatesNear(Pixel p);
-    Mixture sorted(const Mixture& mixture) const;
+    void sort(Mixture& mixture) const;
 
-    const std::vector<Pixel> colours_;
-    std::vector<int> brightness_;
-    std::vector<float> apart_; // squared distance of each colour from the next one
+    std::vector<Pixel> colours_;
+    std::vector<std::uint16_t> ranks_; // of the colours from dark to light
+    std::vector<float> apart_;         // squared distance of each colour from the next one
     Contrast contrast_;
-    std::vector<std::unique_ptr<Candidates>> cells_ = std::vector<std::unique_ptr<Candidates>>(16 * 16 * 16);
+    std::vector<std::shared_ptr<const Candidates>> cells_ =
+        std::vector<std::shared_ptr<const Candidates>>(16 * 16 * 16);
 };
 
 } // namespace velara

@@ -16,237 +16,325 @@ namespace velara::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-using Singles = hn::CappedTag<float, MixingCandidates::kCount>;
+using Singles = hn::ScalableTag<float>;
 using Words = hn::RebindToSigned<Singles>;
+using V = hn::Vec<Singles>;
+constexpr std::size_t kLanes = hn::MaxLanes(Singles());
+using OfLanes = std::array<float, kLanes>;
+constexpr std::size_t kCount = MixingCandidates::kCount, kMost = MixedParts::kMost;
+constexpr int kParts = MixedParts::kParts;
+constexpr float kMostSeen = 0.5F, kLeastSeen = 0.01F;
 
-/// A mixture under way: minimises the squared error of the mean plus the seen share of the variance, by moving parts
-/// from the entry with the steepest cost to the one with the least. Entries are numbered among the candidates.
-class Mixing {
+/// What a part moved to an entry adds to the cost: by how far that brings the mean (pull), and by the seen share of its
+/// own squared distance.
+template <class D, class W> HWY_INLINE W slopeOf(D, W p0, W p1, W p2, W seen, W o0, W o1, W o2, W far)
+{
+    const auto along = hn::Add(hn::Mul(p0, o0), hn::Mul(p1, o1));
+    return hn::Add(hn::Add(along, hn::Mul(p2, o2)), hn::Mul(seen, far));
+}
+
+/// The entries of one mixture.
+class Entries {
   public:
-    /// With the nearest entry.
-    void begin(const MixingCandidates& candidates, Pixel p, Contrast contrast)
+    struct Entry {
+        std::array<float, 3> off; // from the colour
+        float far;                // squared
+        int number, parts;
+    };
+    /// mean: its distance from the colour, times kParts.
+    explicit Entries(const std::array<float, 3>& mean) : mean_(mean) {}
+    void add(const Entry& entry)
     {
-        const Singles d;
-        const auto& channels = candidates.channels;
-        candidates_ = &candidates;
-        for (std::size_t i = 0; i < kCount; i += hn::Lanes(d)) {
-            const auto from = [&](std::size_t c)
-                                  HWY_ATTR { return hn::Sub(hn::Load(d, &channels[c][i]), hn::Set(d, float(p.c[c]))); };
-            const auto o0 = from(0), o1 = from(1), o2 = from(2);
-            hn::Store(o0, d, &off_[0][i]);
-            hn::Store(o1, d, &off_[1][i]);
-            hn::Store(o2, d, &off_[2][i]);
-            hn::Store(hn::Add(hn::Add(hn::Mul(o0, o0), hn::Mul(o1, o1)), hn::Mul(o2, o2)), d, &far_[i]);
-        }
-        used_.fill(kNone);
-        used_[0] = least([&](std::size_t i) HWY_ATTR { return hn::Load(d, &far_[i]); });
-        parts_.fill(0);
-        parts_[0] = kParts;
-        for (std::size_t c = 0; c < 3; ++c) mean_[c] = kParts * off_[c][used_[0]];
-        count_ = 1;
-        const float ratio = contrast.close / candidates.apart[used_[0]];
-        closeness_ = ratio * ratio / (1 + ratio * ratio);
-        seen_ = contrast.seen + (kMostSeen - contrast.seen) * closeness_;
-        stepsLeft_ = kParts;
-        isLast_ = false;
+        for (std::size_t c = 0; c < 3; ++c) off_[c][count_] = entry.off[c];
+        far_[count_] = entry.far;
+        numbers_[count_] = static_cast<std::uint8_t>(entry.number);
+        parts_[count_++] = entry.parts;
     }
-
-    /// Finds the entries, and then makes the mean as exact as their contrast allows. False when there is no more to do.
-    bool step()
-    {
-        if (stepsLeft_-- > 0 && gather()) return true;
-        if (isLast_) return false;
-        seen_ = kMostSeen * closeness_ + kLeastSeen;
-        stepsLeft_ = kParts;
-        return isLast_ = true;
-    }
-
-    MixedParts result()
-    {
-        balance(kMostSeen * closeness_);
-        MixedParts mixed{.entries = {}, .parts = {}, .count = count_};
-        for (std::size_t u = 0; u < count_; ++u) {
-            mixed.entries[u] = static_cast<std::uint8_t>(used_[u]);
-            mixed.parts[u] = static_cast<std::uint8_t>(parts_[u]);
-        }
-        return mixed;
-    }
-
-  private:
-    /// Brings in the entry of the least cost, at the expense of the costliest, if that helps.
-    bool gather()
-    {
-        const Singles d;
-        alignas(64) std::array<float, kCount + 1> slopes;
-        const auto [weight, pull] = pullOf(seen_);
-        const auto p0 = hn::Set(d, pull[0]), p1 = hn::Set(d, pull[1]), p2 = hn::Set(d, pull[2]);
-        const auto share = hn::Set(d, seen_);
-        const std::int32_t best = least([&](std::size_t i) HWY_ATTR {
-            const auto along = hn::Add(hn::Mul(p0, hn::Load(d, &off_[0][i])), hn::Mul(p1, hn::Load(d, &off_[1][i])));
-            const auto slope =
-                hn::Add(hn::Add(along, hn::Mul(p2, hn::Load(d, &off_[2][i]))), hn::Mul(share, hn::Load(d, &far_[i])));
-            hn::Store(slope, d, &slopes[i]);
-            return slope;
-        });
-        slopes[kNone] = std::numeric_limits<float>::lowest();
-        const std::size_t from = steepest(slopes.data()), to = placeOf(best);
-        if (to == kMost) return false;
-        const float wanted = (slopes[used_[from]] - slopes[best]) / (weight * std::max(apart(best, used_[from]), 1.0F));
-        if (wanted < 0.5F) return false;
-        shift(from, to, best, std::min(int(wanted + 0.5F), parts_[from]));
-        return true;
-    }
-    /// Evens out the parts of the entries there are: the best pair each time.
+    /// Evens out the parts: the best pair each time.
     void balance(float seen)
     {
-        std::array<std::array<float, kMost>, kMost> distances{}; // of the entries from one another, 1 at the least
         std::size_t known = 0;
         for (int step = 0; step < kParts && count_ > 1; ++step) {
-            const auto [weight, pull] = pullOf(seen);
-            for (std::size_t a = 0; known != count_ && a < count_; ++a)
-                for (std::size_t b = 0; b < count_; ++b) distances[a][b] = std::max(apart(used_[a], used_[b]), 1.0F);
-            known = count_;
-            std::array<float, kMost> slopes;
-            for (std::size_t u = 0; u < count_; ++u) slopes[u] = slope(used_[u], pull, seen);
+            const float weight = 2 * (1 - seen) / kParts;
+            if (std::exchange(known, count_) != count_) measure();
+            weigh(weight, seen);
             std::size_t from = 0, to = 0;
             float most = 0, wanted = 0;
             for (std::size_t a = 0; a < count_; ++a)
-                for (std::size_t b = 0; b < count_; ++b) {
-                    const float gain = slopes[a] - slopes[b], cost = weight * distances[a][b];
-                    if (gain * gain <= most * cost || gain < 0.5F * cost) continue;
+                for (std::uint64_t left = worthMoving(a, weight); left != 0; left &= left - 1) {
+                    const auto b = std::size_t(std::countr_zero(left));
+                    const float gain = slopes_[a] - slopes_[b], cost = weight * distances_[a][b];
+                    if (gain * gain <= most * cost) continue;
                     most = gain * gain / cost;
                     wanted = gain / cost;
                     from = a;
                     to = b;
                 }
             if (most == 0) return;
-            shift(from, to, used_[to], std::min(int(wanted + 0.5F), parts_[from]));
+            shift(from, to, std::min(int(wanted + 0.5F), parts_[from]));
         }
+    }
+    MixedParts result() const
+    {
+        MixedParts mixed{.entries = numbers_, .parts = {}, .count = count_};
+        for (std::size_t u = 0; u < kMost; ++u) mixed.parts[u] = static_cast<std::uint8_t>(parts_[u]);
+        return mixed;
     }
 
-    static constexpr std::size_t kCount = MixingCandidates::kCount, kMost = MixedParts::kMost;
-    static constexpr int kParts = MixedParts::kParts, kBits = 5; // of a candidate's number
-    static constexpr std::int32_t kNone = kCount;
-    static_assert(kCount == 1 << kBits);
-    template <class T> using Used = hn::CappedTag<T, kMost>;
+  private:
+    using D = hn::CappedTag<float, kMost>;
+    using Each = std::array<float, kMost>;
 
-    /// The candidate of the least cost, in steps; its number in the low bits breaks ties. costs(i): of a vector.
-    template <class Costs> static std::int32_t least(Costs costs)
+    /// The distances of the entries from one another.
+    void measure()
     {
-        const Singles d;
-        const Words words;
-        const auto steps = hn::Set(d, 32.0F); // of a cost that are told apart
-        auto best = hn::Set(words, std::int32_t{0x7FFFFFFF});
-        for (std::size_t i = 0; i < kCount; i += hn::Lanes(d)) {
-            const auto cost = hn::ShiftLeft<kBits>(hn::ConvertTo(words, hn::Mul(costs(i), steps)));
-            best = hn::Min(best, hn::Add(cost, countedFrom(words, std::int32_t(i))));
+        const D d;
+        for (std::size_t a = 0; a < count_; ++a)
+            for (std::size_t b = 0; b < kMost; b += hn::Lanes(d)) {
+                const auto square = [&](const Each& off) HWY_ATTR {
+                    const auto apart = hn::Sub(hn::Set(d, off[a]), hn::Load(d, &off[b]));
+                    return hn::Mul(apart, apart);
+                };
+                const auto sum = hn::Add(hn::Add(square(off_[0]), square(off_[1])), square(off_[2]));
+                hn::Store(hn::Max(sum, hn::Set(d, 1)), d, &distances_[a][b]);
+            }
+    }
+    /// What a part of each entry costs; nobody moves one to a place beyond the last entry.
+    void weigh(float weight, float seen)
+    {
+        const D d;
+        const auto pull = [&](std::size_t c) HWY_ATTR { return hn::Set(d, mean_[c] * weight); };
+        const auto p0 = pull(0), p1 = pull(1), p2 = pull(2), share = hn::Set(d, seen), end = hn::Set(d, float(count_));
+        for (std::size_t u = 0; u < kMost; u += hn::Lanes(d)) {
+            const auto slope = slopeOf(d, p0, p1, p2, share, hn::Load(d, &off_[0][u]), hn::Load(d, &off_[1][u]),
+                                       hn::Load(d, &off_[2][u]), hn::Load(d, &far_[u]));
+            const auto lives = hn::Lt(countedFrom(d, float(u)), end);
+            hn::Store(hn::IfThenElse(lives, slope, hn::Set(d, std::numeric_limits<float>::max())), d, &slopes_[u]);
         }
-        return hn::GetLane(hn::MinOfLanes(words, best)) & (kCount - 1);
     }
-    // Both without branches, which nobody foresees and which the steps of other mixtures would wait for.
-    /// The first used entry of the greatest slope.
-    std::size_t steepest(const float* slopes) const
+    /// The entries, as bits, to which half a part of entry a or more would be moved.
+    std::uint64_t worthMoving(std::size_t a, float weight) const
     {
-        const Used<float> d;
-        const auto of = [&](std::size_t u) HWY_ATTR {
-            return loadScattered(d, reinterpret_cast<const std::int32_t*>(slopes), &used_[u]);
-        };
-        auto most = of(0);
-        for (std::size_t u = hn::Lanes(d); u < kMost; u += hn::Lanes(d)) most = hn::Max(most, of(u));
-        most = hn::MaxOfLanes(d, most);
-        return firstOf([&](std::size_t u) HWY_ATTR { return hn::Eq(of(u), most); }, d);
-    }
-    /// Where an entry is among the used ones, or behind them; kMost where there is no place for it.
-    std::size_t placeOf(std::int32_t entry) const
-    {
-        const Used<std::int32_t> d;
-        const auto wanted = hn::Set(d, entry), end = hn::Set(d, std::int32_t(count_));
-        const auto is = [&](std::size_t u) HWY_ATTR {
-            const auto isEnd = hn::Eq(countedFrom(d, std::int32_t(u)), end);
-            return hn::Eq(hn::IfThenElse(isEnd, wanted, hn::Load(d, &used_[u])), wanted);
-        };
-        return firstOf(is, d);
-    }
-    /// The first place where a vector of places from u on is(u); kMost for none.
-    template <class Is, class D> static std::size_t firstOf(Is is, D d)
-    {
-        std::size_t first = kMost;
-        for (std::size_t u = kMost; u > 0;) {
-            u -= hn::Lanes(d);
-            const auto at = hn::FindFirstTrue(d, is(u));
-            first = at >= 0 ? u + std::size_t(at) : first;
+        const D d;
+        const auto half = hn::Set(d, 0.5F), slope = hn::Set(d, slopes_[a]);
+        std::uint64_t bits = 0;
+        for (std::size_t b = 0; b < kMost; b += hn::Lanes(d)) {
+            const auto gain = hn::Sub(slope, hn::Load(d, &slopes_[b]));
+            const auto cost = hn::Mul(hn::Set(d, weight), hn::Load(d, &distances_[a][b]));
+            bits |= laneBits(d, hn::Ge(gain, hn::Mul(half, cost))) << b;
         }
-        return first;
+        return bits;
     }
-    float slope(std::int32_t i, const std::array<float, 3>& pull, float seen) const
+    void shift(std::size_t from, std::size_t to, int moved)
     {
-        return pull[0] * off_[0][i] + pull[1] * off_[1][i] + pull[2] * off_[2][i] + seen * far_[i];
-    }
-    float apart(std::int32_t a, std::int32_t b) const
-    {
-        float sum = 0;
-        for (const auto& channel : candidates_->channels) sum += (channel[a] - channel[b]) * (channel[a] - channel[b]);
-        return sum;
-    }
-    std::pair<float, std::array<float, 3>> pullOf(float seen) const
-    {
-        const float weight = 2 * (1 - seen) / kParts;
-        return {weight, {mean_[0] * weight, mean_[1] * weight, mean_[2] * weight}};
-    }
-    void shift(std::size_t from, std::size_t to, std::int32_t entry, int moved)
-    {
-        used_[to] = entry;
-        count_ += to == count_;
         parts_[to] += moved;
         parts_[from] -= moved;
-        for (std::size_t c = 0; c < 3; ++c) mean_[c] += float(moved) * (off_[c][used_[to]] - off_[c][used_[from]]);
+        for (std::size_t c = 0; c < 3; ++c) mean_[c] += float(moved) * (off_[c][to] - off_[c][from]);
         if (parts_[from] > 0) return;
         --count_;
-        used_[from] = used_[count_];
+        for (Each& channel : off_) channel[from] = channel[count_];
+        far_[from] = far_[count_];
+        numbers_[from] = numbers_[count_];
         parts_[from] = parts_[count_];
-        used_[count_] = kNone;
+        numbers_[count_] = 0;
         parts_[count_] = 0;
     }
 
-    static constexpr float kMostSeen = 0.5F, kLeastSeen = 0.01F;
-
-    const MixingCandidates* candidates_;
-    alignas(64) std::array<MixingCandidates::Each, 3> off_; // of the candidates from the colour
-    alignas(64) MixingCandidates::Each far_;                // squared distance
-    alignas(32) std::array<std::int32_t, kMost> used_;      // kNone beyond count_
-    std::array<int, kMost> parts_;                          // 0 beyond count_
-    std::size_t count_;
-    std::array<float, 3> mean_; // its distance from the colour, times kParts
-    float closeness_, seen_;
-    int stepsLeft_;
-    bool isLast_;
+    alignas(32) std::array<Each, 3> off_{};
+    alignas(32) Each far_{}, slopes_;
+    alignas(32) std::array<Each, kMost> distances_; // 1 at the least
+    std::array<std::uint8_t, kMost> numbers_{};
+    std::array<int, kMost> parts_{};
+    std::size_t count_ = 0;
+    std::array<float, 3> mean_;
 };
 
-/// Some mixtures abreast: each step of one waits for the one before it.
+/// Mixtures under way, one a lane, each at a step of its own: minimises the squared error of the mean plus the seen
+/// share of the variance, by moving parts from the entry with the steepest cost to the candidate with the least. All
+/// numbers but costs are whole, so that they are exact in single precision.
+class Mixings {
+  public:
+    /// With the nearest entry.
+    void begin(std::size_t lane, const MixingCandidates& candidates, Pixel p, Contrast contrast)
+    {
+        std::size_t nearest = 0;
+        float least = std::numeric_limits<float>::max();
+        for (std::size_t i = 0; i < kCount; ++i) {
+            float far = 0;
+            for (std::size_t c = 0; c < 3; ++c) {
+                const float off = candidates.channels[c][i] - float(p.c[c]);
+                off_[i][c][lane] = off;
+                far += off * off;
+            }
+            off_[i][kFar][lane] = far;
+            nearest = far < least ? i : nearest;
+            least = std::min(far, least);
+        }
+        for (std::size_t f = 0; f <= kFar; ++f) slots_[0][f][lane] = off_[nearest][f][lane];
+        slots_[0][kNumber][lane] = float(nearest);
+        slots_[0][kPartsOf][lane] = kParts;
+        for (std::size_t c = 0; c < 3; ++c) mean_[c][lane] = kParts * off_[nearest][c][lane];
+        count_[lane] = 1;
+        const float ratio = contrast.close / candidates.apart[nearest];
+        closeness_[lane] = ratio * ratio / (1 + ratio * ratio);
+        seen_[lane] = contrast.seen + (kMostSeen - contrast.seen) * closeness_[lane];
+        stepsLeft_[lane] = kParts;
+        last_ &= ~(std::uint64_t{1} << lane);
+    }
+
+    /// Finds the entries, and then makes the mean as exact as their contrast allows. The lanes where there is no more
+    /// to do, as bits.
+    std::uint64_t step()
+    {
+        const std::uint64_t stopped = gather(), ended = stopped & last_;
+        for (std::uint64_t left = stopped & ~last_; left != 0; left &= left - 1) {
+            const auto lane = std::size_t(std::countr_zero(left));
+            seen_[lane] = kMostSeen * closeness_[lane] + kLeastSeen;
+            stepsLeft_[lane] = kParts;
+        }
+        last_ |= stopped;
+        return ended;
+    }
+
+    MixedParts result(std::size_t lane) const
+    {
+        Entries entries({mean_[0][lane], mean_[1][lane], mean_[2][lane]});
+        for (std::size_t u = 0; u < std::size_t(count_[lane]); ++u) {
+            const auto field = [&](std::size_t f) { return slots_[u][f][lane]; };
+            entries.add({.off = {field(0), field(1), field(2)},
+                         .far = field(kFar),
+                         .number = int(field(kNumber)),
+                         .parts = int(field(kPartsOf))});
+        }
+        entries.balance(kMostSeen * closeness_[lane]);
+        return entries.result();
+    }
+
+  private:
+    // Of an entry: its distance from the colour in each channel, that squared, its number, its parts.
+    static constexpr std::size_t kFar = 3, kNumber = 4, kPartsOf = 5, kFields = 6;
+
+    /// Brings in the entry of the least cost, at the expense of the costliest, if that helps; the lanes where it
+    /// doesn't.
+    std::uint64_t gather()
+    {
+        const Singles d;
+        const Words words;
+        const auto load = [d](const OfLanes& from) HWY_ATTR { return hn::Load(d, from.data()); };
+        const auto seen = load(seen_), count = load(count_);
+        const auto weight = hn::Div(hn::Mul(hn::Set(d, 2), hn::Sub(hn::Set(d, 1), seen)), hn::Set(d, kParts));
+        const V mean[] = {load(mean_[0]), load(mean_[1]), load(mean_[2])};
+        const V pull[] = {hn::Mul(mean[0], weight), hn::Mul(mean[1], weight), hn::Mul(mean[2], weight)};
+        const auto slope = [&](const V* off) HWY_ATTR {
+            return slopeOf(d, pull[0], pull[1], pull[2], seen, off[0], off[1], off[2], off[3]);
+        };
+        // The first candidate of the least cost, in whole steps, which the weights are multiplied with, as that is
+        // exact.
+        const auto inSteps = [&](V v) HWY_ATTR { return hn::Mul(v, hn::Set(d, kSteps)); };
+        const auto p0 = inSteps(pull[0]), p1 = inSteps(pull[1]), p2 = inSteps(pull[2]), share = inSteps(seen);
+        auto least = hn::Set(d, std::numeric_limits<float>::max()), number = hn::Zero(d);
+        for (std::size_t i = 0; i < kCount; ++i) {
+            const auto& off = off_[i];
+            const auto cost =
+                hn::Trunc(slopeOf(d, p0, p1, p2, share, load(off[0]), load(off[1]), load(off[2]), load(off[kFar])));
+            number = hn::IfThenElse(hn::Lt(cost, least), hn::Set(d, float(i)), number);
+            least = hn::Min(least, cost);
+        }
+        V best[kFields];
+        const auto place = hn::Add(hn::ShiftLeft<kPlaceBits>(hn::ConvertTo(words, number)), countedFrom(words, 0));
+        for (std::size_t f = 0; f <= kFar; ++f) best[f] = loadEach(d, off_[0][f].data(), place);
+        best[kNumber] = number;
+
+        // The first of the steepest ones, the last one, and where the best one is or would be.
+        const auto one = hn::Set(d, 1), lastAt = hn::Sub(count, one);
+        V from[kFields], last[kFields], steepest = hn::Set(d, std::numeric_limits<float>::lowest());
+        V fromAt = hn::Zero(d), toAt = count, toParts = hn::Zero(d), at = hn::Zero(d);
+        for (std::size_t f = 0; f < kFields; ++f) from[f] = last[f] = hn::Zero(d);
+        for (std::size_t u = 0; u < kMost; ++u, at = hn::Add(at, one)) {
+            V slot[kFields];
+            for (std::size_t f = 0; f < kFields; ++f) slot[f] = load(slots_[u][f]);
+            const auto cost = slope(slot);
+            const auto lives = hn::Lt(at, count), isLast = hn::Eq(at, lastAt);
+            const auto isSteeper = hn::And(lives, hn::Gt(cost, steepest));
+            const auto isBest = hn::And(lives, hn::Eq(slot[kNumber], best[kNumber]));
+            steepest = hn::IfThenElse(isSteeper, cost, steepest);
+            fromAt = hn::IfThenElse(isSteeper, at, fromAt);
+            toAt = hn::IfThenElse(isBest, at, toAt);
+            toParts = hn::IfThenElse(isBest, slot[kPartsOf], toParts);
+            for (std::size_t f = 0; f < kFields; ++f) {
+                from[f] = hn::IfThenElse(isSteeper, slot[f], from[f]);
+                last[f] = hn::IfThenElse(isLast, slot[f], last[f]);
+            }
+        }
+
+        const auto square = [](V a, V b) HWY_ATTR { return hn::Mul(hn::Sub(a, b), hn::Sub(a, b)); };
+        const auto apart =
+            hn::Add(hn::Add(square(best[0], from[0]), square(best[1], from[1])), square(best[2], from[2]));
+        const auto half = hn::Set(d, 0.5F);
+        const auto wanted = hn::Div(hn::Sub(steepest, slope(best)), hn::Mul(weight, hn::Max(apart, one)));
+        const auto left = load(stepsLeft_);
+        const auto helps =
+            hn::And(hn::And(hn::Ge(wanted, half), hn::Lt(toAt, hn::Set(d, float(kMost)))), hn::Gt(left, hn::Zero(d)));
+        hn::Store(hn::Sub(left, one), d, stepsLeft_.data());
+
+        const auto moved = hn::Min(hn::Trunc(hn::Add(wanted, half)), from[kPartsOf]);
+        for (std::size_t c = 0; c < 3; ++c)
+            hn::Store(hn::IfThenElse(helps, hn::Add(mean[c], hn::Mul(moved, hn::Sub(best[c], from[c]))), mean[c]), d,
+                      mean_[c].data());
+        best[kPartsOf] = hn::Add(toParts, moved);
+        from[kPartsOf] = hn::Sub(from[kPartsOf], moved);
+        // Where nothing is left of it, the last one takes its place.
+        const auto isGone = hn::And(helps, hn::Eq(from[kPartsOf], hn::Zero(d)));
+        const auto isNew = hn::And(helps, hn::Eq(toAt, count)), isBestLast = hn::Ge(toAt, lastAt);
+        for (std::size_t f = 0; f < kFields; ++f)
+            from[f] = hn::IfThenElse(isGone, hn::IfThenElse(isBestLast, best[f], last[f]), from[f]);
+        const auto nowhere = hn::Set(d, -1.0F);
+        toAt = hn::IfThenElse(helps, toAt, nowhere);
+        fromAt = hn::IfThenElse(helps, fromAt, nowhere);
+        at = hn::Zero(d);
+        for (std::size_t u = 0; u < kMost; ++u, at = hn::Add(at, one)) {
+            const auto isTo = hn::Eq(at, toAt), isFrom = hn::Eq(at, fromAt);
+            for (std::size_t f = 0; f < kFields; ++f) {
+                float* const slot = slots_[u][f].data();
+                hn::Store(hn::IfThenElse(isFrom, from[f], hn::IfThenElse(isTo, best[f], hn::Load(d, slot))), d, slot);
+            }
+        }
+        const auto more = hn::Add(count, hn::IfThenElseZero(isNew, one));
+        hn::Store(hn::Sub(more, hn::IfThenElseZero(isGone, one)), d, count_.data());
+        return laneBits(d, hn::Not(helps));
+    }
+
+    static constexpr float kSteps = 32; // of a cost that are told apart
+    static constexpr int kPlaceBits = std::countr_zero(4 * kLanes);
+
+    alignas(
+        64) std::array<std::array<OfLanes, 4>, kCount> off_{}; // of the candidates from the colour, and that squared
+    alignas(64) std::array<std::array<OfLanes, kFields>, kMost> slots_{}; // the entries in use come first
+    alignas(64) std::array<OfLanes, 3> mean_{};                           // its distance from the colour, times kParts
+    alignas(64) OfLanes count_{}, seen_{}, stepsLeft_{}, closeness_{};
+    std::uint64_t last_ = 0; // the lanes that make the mean exact
+};
+
+/// A lane goes on with the next colour as soon as it has ended.
 void mixImpl(const MixingCandidates* const* candidates, const Pixel* colours, int n, Contrast contrast,
              MixedParts* mixed)
 {
-    constexpr int kAbreast = 4;
-    std::array<Mixing, kAbreast> mixings;
-    std::array<int, kAbreast> which;
-    int begun = 0, abreast = 0;
-    const auto begin = [&](std::size_t k) {
-        which[k] = begun;
-        mixings[k].begin(*candidates[begun], colours[begun], contrast);
-        ++begun;
+    Mixings mixings;
+    std::array<int, kLanes> which;
+    std::uint64_t busy = 0;
+    int begun = 0;
+    const auto begin = [&](std::size_t lane) {
+        mixings.begin(lane, *candidates[begun], colours[begun], contrast);
+        which[lane] = begun++;
+        busy |= std::uint64_t{1} << lane;
     };
-    while (abreast < std::min(n, kAbreast)) begin(std::size_t(abreast++));
-    while (abreast > 0)
-        for (int k = 0; k < abreast; ++k) {
-            const auto at = std::size_t(k);
-            if (HWY_LIKELY(mixings[at].step())) continue;
-            mixed[which[at]] = mixings[at].result();
-            if (begun < n) {
-                begin(at);
-            } else if (--abreast > k) {
-                mixings[at] = mixings[std::size_t(abreast)];
-                which[at] = which[std::size_t(abreast)];
-            }
+    for (std::size_t lane = 0; lane < kLanes && begun < n; ++lane) begin(lane);
+    while (busy != 0)
+        for (std::uint64_t ended = mixings.step() & busy; ended != 0; ended &= ended - 1) {
+            const auto lane = std::size_t(std::countr_zero(ended));
+            mixed[which[lane]] = mixings.result(lane);
+            busy &= ~(std::uint64_t{1} << lane);
+            if (begun < n) begin(lane);
         }
 }
 
@@ -259,6 +347,7 @@ void cellsImpl(const Pixel* from, int n, std::uint32_t sequence, std::uint32_t s
     auto place = hn::Add(hn::Set(d, sequence), hn::Mul(countedFrom(d, 0u), hn::Set(d, step)));
     const auto next = hn::Set(d, step * std::uint32_t(lanes));
     for (int i = 0; i < n; i += lanes) {
+        __builtin_prefetch(from + i + 1024);
         Pixel rest[HWY_MAX_BYTES / sizeof(Pixel)] = {};
         if (i + lanes > n) std::copy_n(from + i, n - i, rest);
         const Pixel* const p = i + lanes > n ? rest : from + i;
