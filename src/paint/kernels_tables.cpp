@@ -69,9 +69,11 @@ void ChannelTables::apply(Pixel* pixels, int count) const
         HWY_DYNAMIC_DISPATCH(lookUp)(tables_, pixels, count);
         return;
     }
-    for (Pixel* p = pixels; p < pixels + count; ++p) {
+    const std::uint16_t* pairs = pairs_.data(); // a member would be loaded again after each store
+    const std::uint32_t* reds = reds_.data();
+    for (Pixel *p = pixels, *end = pixels + count; p < end; ++p) {
         const auto v = std::bit_cast<std::uint32_t>(*p);
-        *p = std::bit_cast<Pixel>(pairs_[v & 0xFFFF] | reds_[v >> 16 & 255] | (v & 0xFF000000));
+        *p = std::bit_cast<Pixel>(pairs[v & 0xFFFF] | reds[v >> 16 & 255] | (v & 0xFF000000));
     }
 }
 
