@@ -91,6 +91,12 @@ Row bounded(Bound bound, Row row)
     return row;
 }
 
+Row afterASum(Row row)
+{
+    row.copied *= 1.5;
+    return row;
+}
+
 Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments, Tested tested)
 {
     const double share = tested == Tested::Target ? std::acos(-1.0) / 4 : 1;

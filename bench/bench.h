@@ -59,6 +59,9 @@ enum class Tested { Target, Source };
 /// the ellipse, or of the box. Goals are for these; the copies of the others are added.
 Row inEllipse(std::string family, double must, double goal, std::string name, Arguments arguments,
               Tested tested = Tested::Target);
+/// The same of a filter that needs a sum of the whole picture first: the other pixels are read once more, which is half
+/// of what their copy moves.
+Row afterASum(Row row);
 
 /// The row with its bound.
 Row bounded(Bound bound, Row row);

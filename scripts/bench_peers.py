@@ -174,9 +174,9 @@ def growth(program):
     return [w * h / 1e6 for w, h in sizes], times, memory
 
 
-def exponent(sizes, times):
-    """The slope of the line through the logarithms, from 4 megapixels on: smaller pictures stay in the caches."""
-    points = [(math.log(s), math.log(t)) for s, t in zip(sizes, times) if s >= 4 and t > 0.005]
+def exponent(sizes, times, least=4):
+    """The slope of the line through the logarithms, from `least` megapixels on: smaller pictures stay in the caches."""
+    points = [(math.log(s), math.log(t)) for s, t in zip(sizes, times) if s >= least and t > 0.005]
     if len(points) < 2:
         return 0.0
     mx, my = (statistics.mean(v) for v in zip(*points))
@@ -236,9 +236,10 @@ def peersTable(programs, size):
 
 
 def growthTable(sizes, times, memory):
-    yield ["ms", *(f"{size:g} MP" for size in sizes), "exponent", "memory at most, pictures"]
+    yield ["ms", *(f"{size:g} MP" for size in sizes), "exponent from 4 MP", "from 16 MP", "memory at most, pictures"]
     for name, row in times.items():
-        yield [name, *(f"{t:.2f}" for t in row), f"{exponent(sizes, row):.2f}", memory[name]]
+        yield [name, *(f"{t:.2f}" for t in row), f"{exponent(sizes, row):.2f}", f"{exponent(sizes, row, 16):.2f}",
+               memory[name]]
 
 
 def asText(rows):
@@ -257,8 +258,8 @@ def main():
     text = (f"{given.size}, {CORES} cores, milliseconds; gm and convert with all cores, less what reading takes: 0.0 is less "
             + "than that varies.\n\n"
             + asText(peersTable(given.programs, given.size))
-            + "\nHow the time grows with the picture, one thread. The copy's row is the machine's own share: small pictures lie in "
-            + "its caches.\n\n" + asText(growthTable(sizes, times, memory)))
+            + "\nHow the time grows with the picture, one thread. The copy's row is the machine's own share: pictures of 4 megapixels "
+            + "lie in its caches, those from 16 on in memory.\n\n" + asText(growthTable(sizes, times, memory)))
     print(text)
     if given.into:
         picture = os.path.join(os.path.dirname(given.into), "pictures", "growth.svg")

@@ -1,24 +1,47 @@
 #include "engine/copyPixels.h"
 #include "pixels/threads/parallelFor.h"
+#include <algorithm>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "engine/copyPixels.cpp"
+#include <hwy/foreach_target.h>
+
+#include "engine/pixels-inl.h"
 #include <hwy/highway.h>
 
+HWY_BEFORE_NAMESPACE();
+namespace velara::HWY_NAMESPACE {
+
+/// Whole lines: targets that begin with one.
+void streamLines(const Pixel* from, Pixel* to, int lines, std::ptrdiff_t ahead)
+{
+    const hn::CappedTag<std::uint8_t, kCacheLine> d;
+    const int n = static_cast<int>(hn::Lanes(d) / sizeof(Pixel));
+    for (int x = 0; x < lines * kLinePixels; x += kLinePixels) {
+        if (ahead != 0) __builtin_prefetch(from + x + ahead);
+        for (int i = x; i < x + kLinePixels; i += n) hn::Stream(loadBytes(d, from + i), d, to[i].c);
+    }
+}
+
+} // namespace velara::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
 namespace velara {
 
-void streamPixels(const Pixel* from, Pixel* to, int x0, int x1)
+HWY_EXPORT(streamLines);
+
+void streamPixelsAhead(const Pixel* from, Pixel* to, int x0, int x1, std::ptrdiff_t ahead)
 {
-    namespace hn = hwy::HWY_NAMESPACE; // the baseline's: memory is what limits it
-    constexpr int kLine = 16;          // pixels
-    const hn::FixedTag<std::uint32_t, 4> four;
-    while (x0 < x1 && reinterpret_cast<std::uintptr_t>(to + x0) % (kLine * sizeof(Pixel)) != 0) {
-        to[x0] = from[x0];
-        ++x0;
-    }
-    for (; x0 + kLine <= x1; x0 += kLine)
-        for (int i = x0; i < x0 + kLine; i += 4)
-            hn::Stream(hn::LoadU(four, reinterpret_cast<const std::uint32_t*>(from + i)), four,
-                       reinterpret_cast<std::uint32_t*>(to + i));
-    copyPixels(from, to, x0, x1);
+    constexpr int kLine = 64 / sizeof(Pixel);
+    const auto before = static_cast<int>(reinterpret_cast<std::uintptr_t>(to + x0) / sizeof(Pixel) % kLine);
+    const int first = std::min(x0 + (kLine - before) % kLine, x1), lines = (x1 - first) / kLine;
+    copyPixels(from, to, x0, first);
+    if (lines > 0) HWY_DYNAMIC_DISPATCH(streamLines)(from + first, to + first, lines, ahead);
+    copyPixels(from, to, first + lines * kLine, x1);
 }
+
+void streamPixels(const Pixel* from, Pixel* to, int x0, int x1) { streamPixelsAhead(from, to, x0, x1, 0); }
 
 void copyRows(const Bits& from, Bits& to, int y0, int y1)
 {
@@ -37,3 +60,4 @@ void copyRows(const Bits& from, Bits& to, int y0, int y1)
 }
 
 } // namespace velara
+#endif

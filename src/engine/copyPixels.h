@@ -14,6 +14,9 @@ inline void copyPixels(const Pixel* from, Pixel* to, int x0, int x1)
 /// The same by non-temporal stores, in whole cache lines: for pictures that do not fit into the cache and whose other
 /// pixels are written the same way.
 void streamPixels(const Pixel* from, Pixel* to, int x0, int x1);
+/// For pieces of rows between others, which the processor doesn't foresee: what lies `ahead` pixels further on in the
+/// source is prefetched, unless it is 0.
+void streamPixelsAhead(const Pixel* from, Pixel* to, int x0, int x1, std::ptrdiff_t ahead);
 
 /// Copies the rows y0 to y1-1, margin columns included; many by all cores.
 void copyRows(const Bits& from, Bits& to, int y0, int y1);

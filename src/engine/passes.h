@@ -1,5 +1,6 @@
 // The calling patterns of the filters. A filter is the body of a loop that is written here.
 #pragma once
+#include "engine/SpanOf.h"
 #include "engine/cBitFilter.h"
 #include "engine/copyPixels.h"
 #include "pixels/RuntimeError.h"
@@ -31,15 +32,29 @@ inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
     for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
 }
 
-/// Each selected pixel by itself, the region's spans row by row. kernel(source row, target row, x0, x1), optionally
-/// with the row's y as a fifth argument, writes all four bytes of each pixel of x0..x1-1; both pointers are to x = 0,
-/// and the rows above and below are bits().stride() pixels away. Pixels outside of the box or of the region are copied.
-/// margin shrinks the box. A kernel that changes from call to call gets its rows in order.
+/// Calls a kernel of eachSpan in the form that it has.
+template <class Kernel> void callWith(Kernel& kernel, const SpanOf& s, int y)
+{
+    if constexpr (std::is_invocable_v<Kernel&, const SpanOf&>)
+        kernel(s);
+    else if constexpr (std::is_invocable_v<Kernel&, const Pixel*, Pixel*, int, int, int>)
+        kernel(s.from, s.to, s.x0, s.x1, y);
+    else
+        kernel(s.from, s.to, s.x0, s.x1);
+}
+template <class Kernel>
+concept SpanKernel =
+    std::is_invocable_v<Kernel, const SpanOf&> || std::is_invocable_v<Kernel, const Pixel*, Pixel*, int, int> ||
+    std::is_invocable_v<Kernel, const Pixel*, Pixel*, int, int, int>;
+
+/// Each selected pixel by itself, the region's spans row by row. kernel(SpanOf), or kernel(source row, target row, x0,
+/// x1), optionally with the row's y as a fifth argument, writes all four bytes of each pixel of x0..x1-1; both pointers
+/// are to x = 0, and the rows above and below are bits().stride() pixels away. Pixels outside of the box or of the
+/// region are copied. margin shrinks the box. A kernel that changes from call to call gets its rows in order.
 template <class Kernel> Bits cBitFilter::eachSpan(int margin, Kernel&& kernel, Cut cut)
 {
     using Shared = const std::remove_reference_t<Kernel>&;
-    if constexpr (std::is_invocable_v<Shared, const Pixel*, Pixel*, int, int> ||
-                  std::is_invocable_v<Shared, const Pixel*, Pixel*, int, int, int>) {
+    if constexpr (SpanKernel<Shared>) {
         return eachSpanOf(margin, cut, [&]() -> Shared { return kernel; });
     } else {
         cut.alone = true;
@@ -60,7 +75,11 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     const WrittenRows rows(out);
-    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    const bool streams = in.sizeInBytes() >= kPastTheCache;
+    // The kernels prefetch two rows ahead, too: another distance would leave out what lies between the two.
+    const auto copy = [&](const Pixel* from, Pixel* to, int x0, int x1) {
+        streams ? streamPixelsAhead(from, to, x0, x1, 2 * in.stride()) : copyPixels(from, to, x0, x1);
+    };
     copyRows(in, out, -Bits::kMargin, box.ymin);
     using Kernel = decltype(make());
     const auto rowsBy = [&](int y0, int y1, auto& kernel) {
@@ -72,10 +91,7 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
                 const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
                 if (x0 >= x1) continue;
                 copy(from, to, copied, x0);
-                if constexpr (std::is_invocable_v<decltype(kernel), const Pixel*, Pixel*, int, int, int>)
-                    kernel(from, to, x0, x1, y);
-                else
-                    kernel(from, to, x0, x1);
+                callWith(kernel, {from, in.stride(), to, x0, x1}, y);
                 copied = x1;
             }
             copy(from, to, copied, in.width() + Bits::kMargin);

@@ -123,27 +123,33 @@ constexpr int kLinePixels = 16;
 constexpr std::size_t kHalfALine = 32;
 
 /// Writes the pixels of the span. body(d, x) returns the bytes of the pixels from x on, four lanes of d per pixel; d
-/// has lanes of type T, a full vector or, at the ends of the span, one pixel. The row `below` is prefetched: the one
-/// after the lowest that the kernel reads. A vector has kBytes at the most.
+/// has lanes of type T, a full vector or, at the ends of the span, four pixels or one. The row `below` is prefetched:
+/// the one after the lowest that the kernel reads. A vector has kBytes at the most.
 template <class T, std::size_t kBytes = kCacheLine, class Body>
 HWY_INLINE void forPixels(SpanOf s, Body body, int below = 2)
 {
     const hn::CappedTag<T, kBytes / sizeof(T)> many;
+    const hn::CappedTag<T, 16 / sizeof(T)> four;
     const hn::CappedTag<T, 4> one;
     const int n = static_cast<int>(hn::Lanes(many)) / 4;
+    constexpr int kFour = static_cast<int>(hn::MaxLanes(four)) / 4;
     const auto at = [&](int x) HWY_ATTR { return reinterpret_cast<std::uint8_t*>(s.to + x); };
-    const auto single = [&](int x) HWY_ATTR { hn::StoreU(body(one, x), Bytes<decltype(one)>(), at(x)); };
+    const auto address = [&](int x) HWY_ATTR { return reinterpret_cast<std::uintptr_t>(at(x)); };
+    const auto store = [&](auto d, int x) HWY_ATTR { hn::StoreU(body(d, x), Bytes<decltype(d)>(), at(x)); };
     int x = s.x0;
     if (s.x1 - s.x0 >= kStreamFrom) {
         const Pixel* ahead = s.from + below * s.stride;
-        while (reinterpret_cast<std::uintptr_t>(at(x)) % kCacheLine != 0) single(x++);
+        for (; address(x) % (kFour * sizeof(Pixel)) != 0; ++x) store(one, x);
+        for (; address(x) % kCacheLine != 0; x += kFour) store(four, x);
         for (; x + kLinePixels <= s.x1; x += kLinePixels) {
             __builtin_prefetch(ahead + x);
             for (int i = 0; i < kLinePixels; i += n) hn::Stream(body(many, x + i), Bytes<decltype(many)>(), at(x + i));
         }
     }
-    for (; x + n <= s.x1; x += n) hn::StoreU(body(many, x), Bytes<decltype(many)>(), at(x));
-    for (; x < s.x1; ++x) single(x);
+    for (; x + n <= s.x1; x += n) store(many, x);
+    if (n > kFour)
+        for (; x + kFour <= s.x1; x += kFour) store(four, x);
+    for (; x < s.x1; ++x) store(one, x);
 }
 
 } // namespace velara::HWY_NAMESPACE

@@ -1,10 +1,11 @@
 // Flood fill by runs. Which pixels belong depends on the region, the done pixels and the colours before the fill, so
 // the order of visits does not matter and the result equals that of a queue of single pixels.
+#include "paint/ChannelTables.h"
 #include "paint/Painter.h"
 #include "paint/kernels_fill.h"
 #include "pixels/numbers.h"
-#include "pixels/pairTable.h"
 #include "region/spanWalk.h"
+#include <bit>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -25,31 +26,6 @@ bool isNearlyItself(const Pixel& a, const Pixel& b)
     return std::abs(a.c[0] - b.c[0]) < kNearlyItself && std::abs(a.c[1] - b.c[1]) < kNearlyItself &&
            std::abs(a.c[2] - b.c[2]) < kNearlyItself;
 }
-
-/// New values by channel and old value; two channels per look-up, which is twice as fast over a whole picture.
-class ChannelTables {
-  public:
-    template <class Tables>
-    explicit ChannelTables(const Tables& tables)
-        : pairs_(pairTable<std::uint16_t>([&](int blue, int green) {
-              return tables[0][static_cast<std::size_t>(blue)] | tables[1][static_cast<std::size_t>(green)] << 8;
-          }))
-    {
-        for (std::size_t i = 0; i < 256; ++i) reds_[i] = static_cast<std::uint32_t>(tables[2][i]) << 16;
-    }
-    void apply(Pixel* pixels, int count) const
-    {
-        for (Pixel* p = pixels; p < pixels + count; ++p) {
-            const auto v = std::bit_cast<std::uint32_t>(*p);
-            *p = std::bit_cast<Pixel>(pairs_[v & 0xFFFF] | reds_[v >> 16 & 255] | (v & 0xFF000000));
-        }
-    }
-
-  private:
-    std::vector<std::uint16_t> pairs_;
-    std::uint32_t reds_[256];
-};
-static_assert(std::endian::native == std::endian::little, "channel 0 is the lowest byte of a pixel");
 
 /// One bit for each pixel that may still be filled; rows are computed when first used.
 class OpenPixels {
@@ -189,9 +165,9 @@ void Painter::BitsFill(int x, int y, Colour colour, int tolerance, int opacity)
         for (int v = 0; v < 256; ++v)
             tables[c][static_cast<std::size_t>(v)] = clamp(roundEven(v * inv + roundEven(target.c[c] * op)));
     if (opacity == 100)
-        return flood(seed, tolerance, region, [&](int py, int x0, int x1) {
-            for (Pixel *p = bits_.row(py) + x0, *end = p + (x1 - x0); p < end; ++p)
-                *p = {{target.c[0], target.c[1], target.c[2], p->c[3]}};
+        return flood(seed, tolerance, region, [&, to = std::bit_cast<std::uint32_t>(target)](int py, int x0, int x1) {
+            for (Pixel *p = bits_.row(py) + x0, *end = p + (x1 - x0); p < end; ++p) // as words: vectors do several
+                *p = std::bit_cast<Pixel>((std::bit_cast<std::uint32_t>(*p) & 0xFF000000) | to);
         });
     const ChannelTables channels(tables);
     flood(seed, tolerance, region, [&](int py, int x0, int x1) { channels.apply(bits_.row(py) + x0, x1 - x0); });

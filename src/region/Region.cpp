@@ -72,8 +72,24 @@ Rect Rect::united(const Rect& other) const
             std::max(bottom, other.bottom)};
 }
 
+void Region::Data::indexRows()
+{
+    constexpr std::size_t kFewBands = 8;
+    constexpr std::size_t kRowsABand = 8; // at the most, on the average: the index is no larger than the bands
+    const std::int64_t rows = std::int64_t{box.bottom} - box.top;
+    if (bands.size() <= kFewBands || rows > static_cast<std::int64_t>(bands.size() * kRowsABand)) return;
+    bandOf.assign(static_cast<std::size_t>(rows), kNoBand);
+    for (std::uint32_t i = 0; i < bands.size(); ++i)
+        std::fill(bandOf.begin() + (bands[i].top - box.top), bandOf.begin() + (bands[i].bottom - box.top), i);
+}
+
 std::span<const Span> Region::Data::row(int y) const
 {
+    if (!bandOf.empty()) {
+        if (y < box.top || y >= box.bottom) return {};
+        const std::uint32_t band = bandOf[static_cast<std::size_t>(y - box.top)];
+        return band == kNoBand ? std::span<const Span>() : of(bands[band]);
+    }
     auto band = std::upper_bound(bands.begin(), bands.end(), y, [](int v, const Band& b) { return v < b.top; });
     if (band == bands.begin() || y >= (--band)->bottom) return {};
     return of(*band);
@@ -81,7 +97,9 @@ std::span<const Span> Region::Data::row(int y) const
 
 void RegionBuilder::endBand(int top, int bottom)
 {
-    auto& [bands, spans, box] = *data_;
+    auto& bands = data_->bands;
+    auto& spans = data_->spans;
+    Rect& box = data_->box;
     const std::size_t count = spans.size() - first_;
     if (count == 0) return;
     if (!bands.empty() && bands.back().bottom == top &&
@@ -99,7 +117,10 @@ void RegionBuilder::endBand(int top, int bottom)
 Region RegionBuilder::take()
 {
     Region region;
-    if (!overflows()) region.data_ = std::move(data_);
+    if (!overflows()) {
+        data_->indexRows();
+        region.data_ = std::move(data_);
+    }
     data_ = std::make_shared<Region::Data>();
     first_ = 0;
     return region;

@@ -16,7 +16,12 @@ struct Region::Data {
     std::vector<Band> bands;
     std::vector<Span> spans;
     Rect box;
+    /// By row, from the top of the box: the band that has it, or kNoBand. Empty where a search among the bands takes no
+    /// longer: one for each row of a picture would be waited for.
+    std::vector<std::uint32_t> bandOf;
+    static constexpr std::uint32_t kNoBand = ~std::uint32_t(0);
 
+    void indexRows();
     std::span<const Span> of(const Band& band) const { return {spans.data() + band.first, band.count}; }
     std::span<const Span> row(int y) const;
 };

@@ -14,7 +14,7 @@ constexpr std::uint32_t inChannel(int c, std::uint32_t bits) { return bits << 8 
 
 auto mapped(const ChannelMap& map)
 {
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) { colourKernels().channels({from, 0, to, x0, x1}, map); };
+    return [=](const SpanOf& s) { colourKernels().channels(s, map); };
 }
 
 /// The amounts, by channel, split into bytes to add and bytes to subtract.
@@ -25,9 +25,7 @@ auto added(const std::array<int, 3>& amounts)
         plus |= inChannel(c, clamp(amounts[std::size_t(c)]));
         minus |= inChannel(c, clamp(-std::int64_t(amounts[std::size_t(c)])));
     }
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        colourKernels().add({from, 0, to, x0, x1}, plus, minus);
-    };
+    return [=](const SpanOf& s) { colourKernels().add(s, plus, minus); };
 }
 
 std::uint32_t byteArgument(int v)
@@ -75,9 +73,9 @@ Bits cBitFilter::SwapRGB(int SourceRed, int SourceGreen, int SourceBlue, bool In
         map.keep |= inChannel(c, keep);
         if (from.invert) map.flip |= inChannel(c, keep);
     }
-    return eachSpan(0, [=, run = mapped(map)](const Pixel* from, Pixel* to, int x0, int x1) {
+    return eachSpan(0, [=, run = mapped(map)](const SpanOf& s) {
         if (outside) throw RuntimeError(Fault::OutOfRange);
-        run(from, to, x0, x1);
+        run(s);
     });
 }
 

@@ -24,7 +24,7 @@ Blend replacing(Colour from, Colour to, std::int32_t limit, bool single)
 
 auto blending(const Blend& blend)
 {
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) { distanceKernels().blend({from, 0, to, x0, x1}, blend); };
+    return [=](const SpanOf& s) { distanceKernels().blend(s, blend); };
 }
 
 constexpr std::uint32_t byteOf(std::uint32_t word, int c) { return word >> 8 * c & 255; }
@@ -56,9 +56,7 @@ Pixel Blend::operator()(const Pixel& p) const
 Bits cBitFilter::ISOLATE(Colour Color, Colour Fill, int Tolerance)
 {
     const Near near{pixelOf(Color), toleranceLimit(Tolerance) - 1};
-    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        distanceKernels().isolate({from, 0, to, x0, x1}, near, pixelOf(Fill));
-    });
+    return eachSpan(0, [=](const SpanOf& s) { distanceKernels().isolate(s, near, pixelOf(Fill)); });
 }
 
 Bits cBitFilter::REPLACE(Colour From, Colour To, int Tolerance)

@@ -31,13 +31,13 @@ class SumColours {
             }
         }
     }
-    void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
+    void operator()(const SpanOf& s) const
     {
         if (!fails_.empty())
-            for (int x = x0; x < x1; ++x)
-                if (fails_[std::size_t(from[x].c[0] + from[x].c[1] + from[x].c[2])])
+            for (int x = s.x0; x < s.x1; ++x)
+                if (fails_[std::size_t(s.from[x].c[0] + s.from[x].c[1] + s.from[x].c[2])])
                     throw RuntimeError(Fault::Overflow);
-        colourKernels().bySum({from, 0, to, x0, x1}, colours_.data());
+        colourKernels().bySum(s, colours_.data());
     }
 
   private:
@@ -93,9 +93,7 @@ Bits cBitFilter::RotateH(int Offset, int Saturation)
         // Twice the least channel is a sum less a range * Saturation / 100: whole for gcd in a hundred ranges.
         const bool hasHalves = Saturation < 100 && std::gcd(Saturation, 100) >= 10;
         const auto kernel = hasHalves ? hslKernels().turnWithHalves : hslKernels().turn;
-        return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1) {
-            kernel({from, 0, to, x0, x1}, turn, ends.data());
-        });
+        return eachSpan(0, [&](const SpanOf& s) { kernel(s, turn, ends.data()); });
     }
     if (Saturation == 0) { // only L remains: half the sum of the greatest and the least channel
         const auto greys = pairTable<std::uint8_t>([&](int most, int least) {
@@ -129,10 +127,9 @@ Bits cBitFilter::RotateL(int Offset, int Steps)
         return toByte(u);
     };
     const std::vector<std::uint16_t> greys = greysOfSums(phase, frequency);
-    return eachSpan(
-        0, [&, redo = std::function<std::uint8_t(const Pixel&)>(grey)](const Pixel* from, Pixel* to, int x0, int x1) {
-            colourKernels().byGreySum({from, 0, to, x0, x1}, greys.data(), redo);
-        });
+    return eachSpan(0, [&, redo = std::function<std::uint8_t(const Pixel&)>(grey)](const SpanOf& s) {
+        colourKernels().byGreySum(s, greys.data(), redo);
+    });
 }
 
 Bits cBitFilter::COLORIZE(float Hue, float Saturation, float Luminosity)

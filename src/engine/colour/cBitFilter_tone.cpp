@@ -73,9 +73,7 @@ Bits cBitFilter::CONTRAST(int Level)
     while (high < 255 && isByte(high + 1)) ++high;
     to.low = static_cast<std::uint8_t>(low);
     to.high = static_cast<std::uint8_t>(high);
-    return eachSpan(0, [&](const Pixel* from, Pixel* target, int x0, int x1) {
-        colourKernels().stretch({from, 0, target, x0, x1}, to);
-    });
+    return eachSpan(0, [&](const SpanOf& s) { colourKernels().stretch(s, to); });
 }
 
 Bits cBitFilter::SATURATION(int Level)
@@ -95,9 +93,7 @@ Bits cBitFilter::SATURATION(int Level)
     const double beyond = 100.0 * k - Level;
     constexpr float kStep = 0x1p-20f;
     const float moved = beyond == 0 ? k : (beyond > 0) == (k > 0) ? k * (1 + kStep) : k * (1 - kStep);
-    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        colourKernels().saturate({from, 0, to, x0, x1}, moved, beyond == 0);
-    });
+    return eachSpan(0, [=](const SpanOf& s) { colourKernels().saturate(s, moved, beyond == 0); });
 }
 
 Bits cBitFilter::GammaCorrection(int Level)
@@ -119,24 +115,18 @@ Bits cBitFilter::Reduction(int Level)
 
 Bits cBitFilter::GreyScale()
 {
-    return eachSpan(0, [](const Pixel* from, Pixel* to, int x0, int x1) {
-        colourKernels().grey({from, 0, to, x0, x1}, kFourthByte);
-    });
+    return eachSpan(0, [](const SpanOf& s) { colourKernels().grey(s, kFourthByte); });
 }
 
 Bits cBitFilter::OLDPHOTO()
 {
-    return eachSpan(0, [](const Pixel* from, Pixel* to, int x0, int x1) {
-        colourKernels().grey({from, 0, to, x0, x1}, kFourthByte | 255);
-    });
+    return eachSpan(0, [](const SpanOf& s) { colourKernels().grey(s, kFourthByte | 255); });
 }
 
 Bits cBitFilter::Threshold(int Level)
 {
     const int bound = Level < 0 ? -1 : 3 * std::min(Level, 255) + 2;
-    return eachSpan(0, [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        colourKernels().threshold({from, 0, to, x0, x1}, bound);
-    });
+    return eachSpan(0, [=](const SpanOf& s) { colourKernels().threshold(s, bound); });
 }
 
 /// Moves the median to 128 with two straight lines. A median of 1 or 255 divides by zero.

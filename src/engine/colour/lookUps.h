@@ -44,10 +44,7 @@ inline Pixel greyPixel(std::uint8_t grey, const Pixel& p)
 class ThroughTable {
   public:
     explicit ThroughTable(const ByteTable& table) : table_(table) {}
-    void operator()(const Pixel* from, Pixel* to, int x0, int x1) const
-    {
-        colourKernels().table({from, 0, to, x0, x1}, table_.data());
-    }
+    void operator()(const SpanOf& s) const { colourKernels().table(s, table_.data()); }
 
   private:
     alignas(64) ByteTable table_;

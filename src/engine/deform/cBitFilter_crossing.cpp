@@ -24,8 +24,7 @@ void markInside(std::span<const Span> spans, int width, int x0, int x1, const st
     if (spans.size() <= 1) {
         const int first = spans.empty() ? 0 : std::max(spans[0].x0, 0);
         const int end = spans.empty() ? 0 : std::min(spans[0].x1, width);
-        for (int x = x0; x < x1; ++x) inside[x] = -(columns[x] >= first && columns[x] < end);
-        return;
+        return markWithin(columns, first, end, x0, x1, inside);
     }
     std::fill_n(selected, width, 0);
     for (const Span s : spans)

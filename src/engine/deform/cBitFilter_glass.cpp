@@ -108,10 +108,30 @@ class Slanted {
     }
     /// Rows of a tile: those that the pixels of a row come from should stay in the first cache.
     int rowsTogether() const { return alongRows_ ? 1 : kPlaces; }
-    /// Writes the n <= kPlaces pixels from (x, y) on.
-    void run(Pixel* row, int x, int y, int n) const
+    /// Whole runs along columns whose places are known, to be written together.
+    struct Waiting {
+        static constexpr int kRuns = 16;
+        struct Run {
+            alignas(64) std::int32_t places[kPlaces];
+            const Pixel* from;
+            Pixel* to;
+            bool streams;
+        };
+        Run runs[kRuns];
+        int count = 0;
+
+        void take()
+        {
+            for (const Run* run = runs; run < runs + count; ++run)
+                takePlaces(run->from, run->places, run->to, run->streams);
+            count = 0;
+        }
+    };
+    /// Writes the n <= kPlaces pixels from (x, y) on, or puts them among those that wait.
+    void run(Pixel* row, int x, int y, int n, Waiting& waiting) const
     {
-        if (n == kPlaces && holdsAround(x, y) && isWhole(row + x, x, y)) return;
+        const bool streams = streams_ && reinterpret_cast<std::uintptr_t>(row + x) % 64 == 0;
+        if (n < kPlaces ? isPartOfWhole(row, x, y, n) : isWhole(row + x, x, y, streams, waiting)) return;
         alignas(64) std::int32_t sx[kPlaces], sy[kPlaces];
         for (int i = 0; i < n; ++i) sx[i] = x + i;
         std::fill_n(sy, n, y);
@@ -129,14 +149,32 @@ class Slanted {
         return source_.isRectangle() && x - across >= r.left && x + kPlaces + across <= r.right && y - down >= r.top &&
                y + down < r.bottom;
     }
-    /// kPlaces pixels whose sources are selected; false where one is to be computed exactly.
-    bool isWhole(Pixel* to, int x, int y) const
+    /// kPlaces pixels; false where one has a source that is not selected, or to be computed exactly.
+    bool isWhole(Pixel* to, int x, int y, bool streams, Waiting& waiting) const
     {
-        const bool streams = streams_ && reinterpret_cast<std::uintptr_t>(to) % 64 == 0;
+        if (!holdsAround(x, y)) return false;
         const SlantWave wave = numbers_.wave(x, y, weight());
         const Pixel* from = in_.row(y) + x;
-        return alongRows_ ? slantAlongRow(wave, from, to, streams)
-                          : slantAlongColumns(wave, from, in_.stride(), to, streams);
+        if (alongRows_) return slantAlongRow(wave, from, to, streams);
+        if (waiting.count == Waiting::kRuns) waiting.take();
+        Waiting::Run& next = waiting.runs[waiting.count];
+        if (!slantedPlaces(wave, from, in_.stride(), next.places)) return false;
+        next.from = from, next.to = to, next.streams = streams;
+        ++waiting.count;
+        return true;
+    }
+
+    /// Fewer, at an end of a row, as a part of kPlaces pixels.
+    bool isPartOfWhole(Pixel* row, int x, int y, int n) const
+    {
+        const int across = alongRows_ ? kWeightX : 0, first = std::min(x, source_.rect().right - kPlaces - across);
+        if (x + n > first + kPlaces) return false;
+        alignas(64) Pixel all[kPlaces];
+        Waiting alone;
+        if (!isWhole(all, first, y, false, alone)) return false;
+        alone.take();
+        copyPixels(all + (x - first), row + x, 0, n);
+        return true;
     }
 
     const Bits& in_;
@@ -163,7 +201,11 @@ Bits cBitFilter::GLASS(const std::string& Style, int Mode)
     if (glass->mixed == Mixed::NumberX || glass->mixed == Mixed::NumberY) {
         const Bits in = bits_;
         const Slanted slanted(in, region_, box, inside, glass->mixed == Mixed::NumberX);
-        return eachTile(slanted.rowsTogether(), [&](Pixel* row, int x, int n, int y) { slanted.run(row, x, y, n); });
+        return eachBand(slanted.rowsTogether(), [&](const Box& box, int y0, int y1, const WrittenRows& to) {
+            Slanted::Waiting waiting;
+            inTiles(box, y0, y1, to, [&](int x, int n, int y) { slanted.run(to.row(y), x, y, n, waiting); });
+            waiting.take();
+        });
     }
     std::vector<double> tangents;
     for (int i = 0; i <= std::max(inside.xmax, inside.ymax); ++i) tangents.push_back(std::tan(i));

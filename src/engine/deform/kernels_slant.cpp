@@ -33,7 +33,7 @@ template <class Take> HWY_INLINE bool eachWave(const SlantWave& wave, Take take)
         take(i, hn::Sub(hn::BitCast(words, sum), hn::BitCast(words, large)));
     }
     const float tolerance = static_cast<float>(wave.weight) * 1e-6f;
-    return hn::GetLane(hn::MaxOfLanes(d, most)) < 0.5f - tolerance;
+    return hn::AllTrue(d, hn::Lt(most, hn::Set(d, 0.5f - tolerance)));
 }
 
 /// The pixels first[places], places within 0..Lanes + 2 * kWeightX - 1.
@@ -66,19 +66,25 @@ bool slantAlongRowImpl(const SlantWave& wave, const Pixel* from, Pixel* to, bool
     });
 }
 
-bool slantAlongColumnsImpl(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
+bool slantedPlacesImpl(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, std::int32_t* places)
 {
     const Words d;
     const auto rows = hn::Set(d, static_cast<std::int32_t>(stride));
-    const auto* words = reinterpret_cast<const std::int32_t*>(from);
-    for (int i = kPlaces; i < 2 * kPlaces;
-         i += kLinePixels) { // the first and the last row that the run to the right reads
+    for (int i = kPlaces; i < 2 * kPlaces; i += kLinePixels) { // the first and the last row that it reads
         __builtin_prefetch(from + i - wave.weight * stride);
         __builtin_prefetch(from + i + wave.weight * stride);
     }
     return eachWave(wave, [&](int i, auto offsets) HWY_ATTR {
-        write(d, loadComputed(d, words, hn::Add(hn::Mul(offsets, rows), countedFrom(d, i))), from + i, to + i, streams);
+        hn::StoreU(hn::Add(hn::Mul(offsets, rows), countedFrom(d, i)), d, places + i);
     });
+}
+
+void takePlacesImpl(const Pixel* from, const std::int32_t* places, Pixel* to, bool streams)
+{
+    const Words d;
+    const auto* words = reinterpret_cast<const std::int32_t*>(from);
+    for (int i = 0; i < kPlaces; i += static_cast<int>(hn::Lanes(d)))
+        write(d, loadScattered(d, words, places + i), from + i, to + i, streams);
 }
 
 } // namespace velara::HWY_NAMESPACE
@@ -88,16 +94,22 @@ HWY_AFTER_NAMESPACE();
 namespace velara {
 
 HWY_EXPORT(slantAlongRowImpl);
-HWY_EXPORT(slantAlongColumnsImpl);
+HWY_EXPORT(slantedPlacesImpl);
+HWY_EXPORT(takePlacesImpl);
 
 bool slantAlongRow(const SlantWave& wave, const Pixel* from, Pixel* to, bool streams)
 {
     return HWY_DYNAMIC_DISPATCH(slantAlongRowImpl)(wave, from, to, streams);
 }
 
-bool slantAlongColumns(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams)
+bool slantedPlaces(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, std::int32_t* places)
 {
-    return HWY_DYNAMIC_DISPATCH(slantAlongColumnsImpl)(wave, from, stride, to, streams);
+    return HWY_DYNAMIC_DISPATCH(slantedPlacesImpl)(wave, from, stride, places);
+}
+
+void takePlaces(const Pixel* from, const std::int32_t* places, Pixel* to, bool streams)
+{
+    HWY_DYNAMIC_DISPATCH(takePlacesImpl)(from, places, to, streams);
 }
 
 } // namespace velara

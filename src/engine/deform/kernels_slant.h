@@ -19,7 +19,12 @@ constexpr int kWeightX = 3, kWeightY = 10;
 /// a half: the results are undefined then.
 bool slantAlongRow(const SlantWave& wave, const Pixel* from, Pixel* to, bool streams);
 
-/// The same, of the one that its wave is away in its column; rows are stride pixels apart.
-bool slantAlongColumns(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, Pixel* to, bool streams);
+/// Where the kPlaces pixels from `from` on come from, of those their wave is away in their columns: places from `from`
+/// on; rows are stride pixels apart. False where a wave comes too close to a half. Prefetches for the run to the right.
+bool slantedPlaces(const SlantWave& wave, const Pixel* from, std::ptrdiff_t stride, std::int32_t* places);
+
+/// Each of the kPlaces pixels from `from` on takes the colour of the one at its place. Apart from the above, and for
+/// several runs at a time: the single loads would wait for the long way from a run's wave to its places.
+void takePlaces(const Pixel* from, const std::int32_t* places, Pixel* to, bool streams);
 
 } // namespace velara

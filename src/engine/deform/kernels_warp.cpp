@@ -15,7 +15,7 @@ constexpr int kTurnPitch = kTurnRows + 16; // no power of two: rows would share 
 struct TakeJob {
     const std::int32_t* origin; // of pixel (0, 0), as words
     std::int32_t stride;
-    Rect rect;
+    Rect rect, inner;       // within inner all pixels are selected, outside of rect none
     const SourceMask* mask; // null when all of rect is selected
     bool clean;
     bool streams; // the picture doesn't fit into the cache
@@ -103,19 +103,36 @@ HWY_NOINLINE void findSelected(const TakeJob& job, const std::int32_t* sx, const
     const auto left = hn::Set(d, job.rect.left), right = hn::Set(d, job.rect.right - 1);
     const auto top = hn::Set(d, job.rect.top), bottom = hn::Set(d, job.rect.bottom - 1);
     const auto stride = hn::Set(d, job.stride);
-    alignas(HWY_MAX_BYTES) std::int32_t xs[kPlaces], ys[kPlaces];
+    const auto* marks = job.mask ? reinterpret_cast<const std::int32_t*>(job.mask->bits()) : nullptr;
+    const auto marksARow = hn::Set(d, job.mask ? job.mask->wordsARow() : 0);
     for (int i = 0; i < n; i += lanes) {
         const auto x = hn::Load(d, sx + i), y = hn::Load(d, sy + i);
         const auto limitedX = hn::Min(hn::Max(x, left), right), limitedY = hn::Min(hn::Max(y, top), bottom);
         const auto isInside = hn::And(hn::Eq(x, limitedX), hn::Eq(y, limitedY));
         const auto sourceX = hn::IfThenElse(isInside, x, left), sourceY = hn::IfThenElse(isInside, y, top);
-        hn::Store(hn::VecFromMask(d, isInside), d, inside + i);
         hn::Store(hn::Add(hn::Mul(sourceY, stride), sourceX), d, indices + i);
-        hn::Store(sourceX, d, xs + i);
-        hn::Store(sourceY, d, ys + i);
+        auto selected = hn::VecFromMask(d, isInside);
+        if (marks) { // the pixel's bit, moved to the sign
+            const auto word = loadComputed(d, marks, hn::Add(hn::Mul(sourceY, marksARow), hn::ShiftRight<5>(sourceX)));
+            const auto above = hn::AndNot(sourceX, hn::Set(d, 31)); // bits above it
+            selected = hn::And(selected, hn::BroadcastSignBit(hn::Shl(word, above)));
+        }
+        hn::Store(selected, d, inside + i);
     }
-    if (job.mask)
-        for (int i = 0; i < n; ++i) inside[i] &= job.mask->at(xs[i], ys[i]);
+}
+
+/// Whether the pixels of a box of sources, both ends inclusive, are selected.
+HWY_INLINE SourceMask::Holds heldIn(const TakeJob& job, int x0, int y0, int x1, int y1)
+{
+    using Holds = SourceMask::Holds;
+    const Rect &r = job.rect, &inner = job.inner;
+    if (x0 >= inner.left && x1 < inner.right && y0 >= inner.top && y1 < inner.bottom) return Holds::All;
+    if (r.isEmpty() || x1 < r.left || x0 >= r.right || y1 < r.top || y0 >= r.bottom) return Holds::None;
+    if (!job.mask) return Holds::Some;
+    const auto within = job.mask->holds(std::max(x0, r.left), std::max(y0, r.top), std::min(x1, r.right - 1),
+                                        std::min(y1, r.bottom - 1));
+    const bool reaches = x0 < r.left || x1 >= r.right || y0 < r.top || y1 >= r.bottom; // beyond the selection's box
+    return within == Holds::All && reaches ? Holds::Some : within;
 }
 
 /// Classifies whole runs by the bounding box of their sources: selected, not selected, or to be tested one by one.
@@ -138,15 +155,7 @@ void takeRun(const TakeJob& job, const std::int32_t* sx, const std::int32_t* sy,
     }
     const int x0 = hn::GetLane(hn::MinOfLanes(d, left)), x1 = hn::GetLane(hn::MaxOfLanes(d, right));
     const int y0 = hn::GetLane(hn::MinOfLanes(d, top)), y1 = hn::GetLane(hn::MaxOfLanes(d, bottom));
-    const Rect& r = job.rect;
-    auto holds = x0 >= r.left && x1 < r.right && y0 >= r.top && y1 < r.bottom ? Holds::All : Holds::Some;
-    if (r.isEmpty() || x1 < r.left || x0 >= r.right || y1 < r.top || y0 >= r.bottom)
-        holds = Holds::None;
-    else if (job.mask) {
-        const auto within = job.mask->holds(std::max(x0, r.left), std::max(y0, r.top), std::min(x1, r.right - 1),
-                                            std::min(y1, r.bottom - 1));
-        if (within != Holds::All) holds = within;
-    }
+    const auto holds = heldIn(job, x0, y0, x1, y1);
     const auto whole = (n + lanes - 1) / lanes * lanes;
     if (n == kPlaces) prefetchTargets(kept, to, job.streams);
     if (n == kPlaces && holds != Holds::None) prefetchSources(job.origin, indices, sx[0]);
@@ -178,6 +187,19 @@ void takeColumnsImpl(const SpanOf& s, const Pixel* source, const std::int32_t* c
         const auto isInside = hn::MaskFromVec(hn::LoadU(d, inside + x));
         return hn::BitCast(d8, hn::IfThenElse(isInside, taken, hn::And(staying, old)));
     });
+}
+
+void markWithinImpl(const std::int32_t* columns, int first, int end, int x0, int x1, std::int32_t* inside)
+{
+    const hn::ScalableTag<std::int32_t> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    const auto before = hn::Set(d, first - 1), beyond = hn::Set(d, end);
+    int x = x0;
+    for (; x + lanes <= x1; x += lanes) {
+        const auto v = hn::LoadU(d, columns + x);
+        hn::StoreU(hn::VecFromMask(d, hn::And(hn::Gt(v, before), hn::Lt(v, beyond))), d, inside + x);
+    }
+    for (; x < x1; ++x) inside[x] = -(columns[x] >= first && columns[x] < end);
 }
 
 void takeRowImpl(const SpanOf& s, const Pixel* source)
@@ -321,6 +343,7 @@ namespace velara {
 
 HWY_EXPORT(takeRun);
 HWY_EXPORT(takeColumnsImpl);
+HWY_EXPORT(markWithinImpl);
 HWY_EXPORT(takeRowImpl);
 HWY_EXPORT(takeRowMirroredImpl);
 
@@ -358,6 +381,35 @@ SourceMask::SourceMask(const Region& region, const Rect& rect, int width, int he
         if (i % columns_ != 0) sums_[i] += sums_[i - 1] + sums_[i - columns_] - sums_[i - columns_ - 1];
 }
 
+namespace {
+
+/// The largest rectangle of selected pixels around the middle of rect that grows row by row from there; empty where
+/// that pixel isn't selected.
+Rect innerRectangle(const Region& region, const Rect& rect)
+{
+    const int middle = rect.left + rect.width() / 2, start = rect.top + rect.height() / 2;
+    Rect all{rect.left, start, rect.right, start}, best;
+    const auto area = [](const Rect& r) { return std::int64_t{r.width()} * r.height(); };
+    const auto joins = [&](int y) {
+        if (y < rect.top || y >= rect.bottom) return false;
+        for (const Span s : region.spans(y))
+            if (s.x0 <= middle && middle < s.x1) {
+                all.left = std::max(all.left, s.x0);
+                all.right = std::min(all.right, s.x1);
+                return true;
+            }
+        return false;
+    };
+    for (bool up = true, down = true; up || down;) {
+        if (down && (down = joins(all.bottom))) ++all.bottom;
+        if (up && (up = joins(all.top - 1))) --all.top;
+        if (area(all) > area(best)) best = all;
+    }
+    return best;
+}
+
+} // namespace
+
 SourcePixels::SourcePixels(const Bits& bits, const Region& region)
     : bits_(bits), rect_(region.bounds().intersected({0, 0, bits.width(), bits.height()})), marked_(false)
 {
@@ -366,12 +418,13 @@ SourcePixels::SourcePixels(const Bits& bits, const Region& region)
         marked_ = spans.size() != 1 || spans[0].x0 > rect_.left || spans[0].x1 < rect_.right;
     }
     if (marked_) mask_ = SourceMask(region, rect_, bits.width(), bits.height());
+    inner_ = marked_ ? innerRectangle(region, rect_) : rect_;
 }
 
 namespace {
 
-void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::int32_t* sx, std::int32_t* sy, int n,
-              const Pixel* kept, bool clean, bool streams, Pixel* to)
+void takeFrom(const Bits& bits, const Rect& rect, const Rect& inner, const SourceMask* mask, std::int32_t* sx,
+              std::int32_t* sy, int n, const Pixel* kept, bool clean, bool streams, Pixel* to)
 {
     for (int i = n; i % kLongestVector != 0; ++i) {
         sx[i] = sx[n - 1];
@@ -380,6 +433,7 @@ void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::i
     const TakeJob job{reinterpret_cast<const std::int32_t*>(bits.row(0)),
                       static_cast<std::int32_t>(bits.stride()),
                       rect,
+                      inner,
                       mask,
                       clean,
                       streams};
@@ -390,21 +444,26 @@ void takeFrom(const Bits& bits, const Rect& rect, const SourceMask* mask, std::i
 
 void SourcePixels::take(std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, bool clean, Pixel* to) const
 {
-    takeFrom(bits_, rect_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean, bits_.sizeInBytes() >= kPastTheCache,
-             to);
+    takeFrom(bits_, rect_, inner_, marked_ ? &mask_ : nullptr, sx, sy, n, kept, clean,
+             bits_.sizeInBytes() >= kPastTheCache, to);
 }
 
 void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, const Pixel* kept, Pixel* to)
 {
     constexpr int kMargin = Bits::kMargin;
     const Rect all{-kMargin, -kMargin, bits.width() + kMargin, bits.height() + kMargin};
-    takeFrom(bits, all, nullptr, sx, sy, n, kept, false, false, to);
+    takeFrom(bits, all, all, nullptr, sx, sy, n, kept, false, false, to);
 }
 
 void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
                  bool clean)
 {
     HWY_DYNAMIC_DISPATCH(takeColumnsImpl)(span, source, columns, inside, clean);
+}
+
+void markWithin(const std::int32_t* columns, int first, int end, int x0, int x1, std::int32_t* inside)
+{
+    HWY_DYNAMIC_DISPATCH(markWithinImpl)(columns, first, end, x0, x1, inside);
 }
 
 void takeRow(const SpanOf& span, const Pixel* source) { HWY_DYNAMIC_DISPATCH(takeRowImpl)(span, source); }

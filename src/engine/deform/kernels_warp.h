@@ -32,12 +32,9 @@ class SourceMask {
         return count == width * height ? Holds::All : Holds::Some;
     }
 
-    /// -1 for a selected pixel, 0 for another.
-    std::int32_t at(int x, int y) const
-    {
-        const std::uint32_t word = bits_[static_cast<std::size_t>(y) * words_ + static_cast<std::size_t>(x >> 5)];
-        return -static_cast<std::int32_t>(word >> (x & 31) & 1);
-    }
+    /// A bit for each pixel, 32 to a word from the lowest on, wordsARow() words to a row: set for those selected.
+    const std::uint32_t* bits() const { return bits_.data(); }
+    int wordsARow() const { return static_cast<int>(words_); }
 
   private:
     static constexpr int kCellBits = 4; // cells of 16 by 16 pixels
@@ -64,7 +61,8 @@ class SourcePixels {
 
   private:
     Bits bits_;
-    Rect rect_; // of the selection inside the picture
+    Rect rect_;  // of the selection inside the picture
+    Rect inner_; // a large one of selected pixels only, for most of the questions
     bool marked_;
     SourceMask mask_; // with marked_
 };
@@ -77,6 +75,9 @@ void takePixels(const Bits& bits, std::int32_t* sx, std::int32_t* sy, int n, con
 /// span's from holds the kept pixels and the fourth bytes.
 void takeColumns(const SpanOf& span, const Pixel* source, const std::int32_t* columns, const std::int32_t* inside,
                  bool clean);
+
+/// inside[x] for x0..x1-1: -1 where columns[x] lies within first..end-1, else 0.
+void markWithin(const std::int32_t* columns, int first, int end, int x0, int x1, std::int32_t* inside);
 
 /// For x0..x1-1 the colour of source[x] with the span's fourth bytes.
 void takeRow(const SpanOf& span, const Pixel* source);

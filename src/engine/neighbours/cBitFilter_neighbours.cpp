@@ -10,12 +10,10 @@ namespace {
 /// (c * (centre of the kernel) + factor * neighbours) \ divisor, clamped. As the kernel's weights add up to the divisor
 /// this is c + floor(factor * difference / divisor); where truncation would differ the value is negative and clamps to
 /// 0.
-auto weighted(Neighbours neighbours, int factor, std::int64_t divisor, std::ptrdiff_t stride)
+auto weighted(Neighbours neighbours, int factor, std::int64_t divisor)
 {
     const Weighted w{neighbours, divisor < 0 ? -factor : factor, ShortDivider(std::abs(divisor))};
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        neighbourKernels().weighted({from, stride, to, x0, x1}, w);
-    };
+    return [=](const SpanOf& s) { neighbourKernels().weighted(s, w); };
 }
 
 } // namespace
@@ -24,7 +22,7 @@ Bits cBitFilter::SHARPEN(int Level)
 {
     const std::int64_t divisor = 108 - std::int64_t{Level};
     if (divisor == 0) return eachSpan(1, divideByZero);
-    return eachSpan(1, weighted(Neighbours::Ring, 2, divisor, bits_.stride()));
+    return eachSpan(1, weighted(Neighbours::Ring, 2, divisor));
 }
 
 Bits cBitFilter::SOFTEN(int Level)
@@ -32,7 +30,7 @@ Bits cBitFilter::SOFTEN(int Level)
     const std::int64_t k = 101 - std::int64_t{Level}, divisor = k + 4;
     const std::ptrdiff_t stride = bits_.stride();
     if (divisor == 0) return eachSpan(1, divideByZero);
-    if (k >= 0) return eachSpan(1, weighted(Neighbours::Cross, 1, divisor, stride));
+    if (k >= 0) return eachSpan(1, weighted(Neighbours::Cross, 1, divisor));
     return eachSpan(1, [=](const Pixel* from, Pixel* to, int x0, int x1) { // a negative weight may leave the byte range
         for (int x = x0; x < x1; ++x) {
             for (int c = 0; c < 3; ++c) {
@@ -49,7 +47,7 @@ Bits cBitFilter::EDGEENHANCE(int Level)
 {
     const std::int64_t divisor = std::int64_t{Level} + 1;
     if (divisor == 0) return eachSpan(0, divideByZero);
-    return eachSpan(0, weighted(Neighbours::Ring, 1, divisor, bits_.stride()));
+    return eachSpan(0, weighted(Neighbours::Ring, 1, divisor));
 }
 
 Bits cBitFilter::Blurs(int Radius)
@@ -67,16 +65,12 @@ Bits cBitFilter::Blurs(int Radius)
 Bits cBitFilter::CONTOUR(int Level, Colour Background)
 {
     const int level = std::clamp(Level, -1, 256); // beyond these the mean of three bytes is below for all or for none
-    return eachSpan(0, [=, stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
-        neighbourKernels().contour({from, stride, to, x0, x1}, 3 * level, pixelOf(Background));
-    });
+    return eachSpan(0, [=](const SpanOf& s) { neighbourKernels().contour(s, 3 * level, pixelOf(Background)); });
 }
 
 Bits cBitFilter::RELIEF()
 {
-    return eachSpan(0, [stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
-        neighbourKernels().relief({from, stride, to, x0, x1});
-    });
+    return eachSpan(0, [](const SpanOf& s) { neighbourKernels().relief(s); });
 }
 
 // --- EMBOSS and ENGRAVE

@@ -6,12 +6,9 @@ namespace velara {
 
 namespace {
 
-auto ranked(bool greatest, RankWindow window, std::ptrdiff_t stride)
+auto ranked(bool greatest, RankWindow window)
 {
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        const auto run = greatest ? rankKernels().greatest : rankKernels().least;
-        run({from, stride, to, x0, x1}, window);
-    };
+    return [window, run = greatest ? rankKernels().greatest : rankKernels().least](const SpanOf& s) { run(s, window); };
 }
 
 /// 1 - mode, limited for the box's arithmetic: no picture is as wide.
@@ -19,13 +16,13 @@ int marginOf(int mode) { return 1 - std::clamp(mode, -(1 << 20), 1); }
 
 } // namespace
 
-Bits cBitFilter::DILATE() { return eachSpan(0, ranked(true, RankWindow::Square, bits_.stride())); }
-Bits cBitFilter::ERODE() { return eachSpan(0, ranked(false, RankWindow::Square, bits_.stride())); }
+Bits cBitFilter::DILATE() { return eachSpan(0, ranked(true, RankWindow::Square)); }
+Bits cBitFilter::ERODE() { return eachSpan(0, ranked(false, RankWindow::Square)); }
 
 Bits cBitFilter::rankFilter(int Mode, RankWindow window)
 {
     if (Mode != 0 && Mode != 1) return eachSpan(marginOf(Mode), blacken); // neither comparison is made: all is 0
-    return eachSpan(marginOf(Mode), ranked(Mode == 1, window, bits_.stride()));
+    return eachSpan(marginOf(Mode), ranked(Mode == 1, window));
 }
 
 Bits cBitFilter::RankFilterN4(int Mode) { return rankFilter(Mode, RankWindow::Sides); }

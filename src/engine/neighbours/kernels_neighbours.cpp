@@ -28,7 +28,7 @@ class RingDifference {
                         [](V c, V v) HWY_ATTR { return hn::Sub(hn::Add(hn::ShiftLeft<3>(c), c), v); });
         };
         const int n = static_cast<int>(hn::Lanes(d)) / 2;
-        if constexpr (hn::MaxLanes(D()) == 2) {
+        if constexpr (hn::MaxLanes(D()) < hn::MaxLanes(hn::ScalableTag<std::int16_t>())) { // at the ends of a span
             const auto sum = column(d, x - 1) + column(d, x) + column(d, x + 1);
             return nine(sum.split());
         } else {

@@ -20,6 +20,8 @@ class CellSums {
     void add(const Pixel* from, std::ptrdiff_t stride, int rows, int x0, int x1)
     {
         cellKernels().addColumns(from + x0, stride, rows, columns_.data() + 4 * static_cast<std::size_t>(x0), x1 - x0);
+        first_ = std::min(first_, x0);
+        end_ = std::max(end_, x1);
     }
     /// To be called after rows, so that the columns' 16 bits never overflow.
     void rowsDone(int rows)
@@ -31,8 +33,10 @@ class CellSums {
     /// Brings the cells up to date.
     void finish()
     {
-        if (rows_ == 0) return;
-        std::size_t k = 0;
+        rows_ = 0;
+        if (first_ >= end_) return;
+        std::size_t k = cellAt(first_ - side_ + 1); // the first one that reaches the added columns
+        const std::size_t beyond = cellAt(end_ - 1) + 1;
         const auto cut = [&](std::size_t end) { // the cells partly outside of the picture
             for (; k < end; ++k) {
                 const std::int64_t start = startOf(k), x0 = std::max<std::int64_t>(start, 0);
@@ -40,20 +44,28 @@ class CellSums {
                 if (x0 < x1) cellKernels().addCells(columns_.data() + 4 * x0, step_, x1 - x0, &cells_[k], 1);
             }
         };
-        std::size_t whole = 0, last = cells_.size();
+        std::size_t whole = k, last = beyond;
         while (whole < last && startOf(whole) < 0) ++whole;
         while (last > whole && startOf(last - 1) + side_ > width_) --last;
         cut(whole);
         if (whole < last)
             cellKernels().addCells(columns_.data() + 4 * startOf(whole), step_, side_, &cells_[whole], last - whole);
         k = last;
-        cut(cells_.size());
-        std::ranges::fill(columns_, std::uint16_t{0});
-        rows_ = 0;
+        cut(beyond);
+        std::fill(columns_.begin() + 4 * std::ptrdiff_t{first_}, columns_.begin() + 4 * std::ptrdiff_t{end_},
+                  std::uint16_t{0});
+        first_ = width_;
+        end_ = 0;
     }
     const std::vector<CellSum>& cells() const { return cells_; }
 
   private:
+    /// The last cell that starts at column x or before it, the first one where none does.
+    std::size_t cellAt(std::int64_t x) const
+    {
+        const std::int64_t cell = x < origin_ ? 0 : (x - origin_) / step_;
+        return std::min(static_cast<std::size_t>(cell), cells_.size() - 1);
+    }
     std::int64_t startOf(std::size_t cell) const { return origin_ + static_cast<std::int64_t>(cell) * step_; }
 
     static constexpr int kMostRows = 65535 / 255;
@@ -62,6 +74,7 @@ class CellSums {
     std::vector<std::uint16_t> columns_;
     std::vector<CellSum> cells_;
     int rows_ = 0;
+    int first_ = width_, end_ = 0; // of the columns that were added since they were brought to the cells
 };
 
 } // namespace velara

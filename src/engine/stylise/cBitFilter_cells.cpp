@@ -370,12 +370,17 @@ class Dots {
     {
         const float* row = spot_.factors(oy);
         const auto period = static_cast<int>(step_);
-        const auto [x0, x1] = columns(y, y + 1);
+        const auto [from, x1] = columns(y, y + 1);
+        constexpr int kLine = 16;       // of singles: elsewhere each copied vector would lie across two
+        constexpr int kShortCopy = 256; // longer ones go through string instructions, which begin slowly
+        const int x0 = from - (from - firstColumn()) % kLine;
         const auto phase = static_cast<int>((std::int64_t{x0} - box_.xmin) % step_);
         float* to = factors_.data() + x0;
         int done = std::min(period, x1 - x0);
         for (int i = 0; i < done; ++i) to[i] = row[(i + phase) % period];
-        for (; done < x1 - x0; done *= 2) std::copy_n(to, std::min(done, x1 - x0 - done), to + done);
+        const int most = std::max(kShortCopy / period, 1) * period;
+        for (int n = done; done < x1 - x0; done += n, n = std::min(done, most))
+            std::copy_n(to, std::min(n, x1 - x0 - done), to + done);
     }
 
     const Bits in_;

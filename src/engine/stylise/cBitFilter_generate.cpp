@@ -95,9 +95,9 @@ Bits cBitFilter::Scanlines(int Level)
 {
     const std::uint32_t plus = clamp(-std::int64_t(Level)) * 0x00010101u, minus = clamp(Level) * 0x00010101u;
     const int first = GetBounds(0).ymin;
-    return eachSpan(0, [&](const Pixel* from, Pixel* to, int x0, int x1, int y) {
+    return eachSpan(0, [&, stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1, int y) {
         const bool isLine = (std::int64_t(y) - first) % 2 == 0;
-        colourKernels().add({from, 0, to, x0, x1}, isLine ? plus : 0, isLine ? minus : 0);
+        colourKernels().add({from, stride, to, x0, x1}, isLine ? plus : 0, isLine ? minus : 0);
     });
 }
 

@@ -218,16 +218,17 @@ class Stucki {
 };
 
 /// Copies what of a row is not selected, and the margin's columns.
-void copyOthers(const Line& line, const Box& box, int width)
+void copyOthers(const Line& line, const Box& box, int width, bool streams)
 {
+    const auto copy = streams ? streamPixels : copyPixels;
     int copied = -Bits::kMargin;
     for (const Span s : line.spans) {
         const int x0 = std::max(s.x0, box.xmin), x1 = std::min(s.x1, box.xmax + 1);
         if (x0 >= x1) continue;
-        copyPixels(line.from, line.to, copied, x0);
+        copy(line.from, line.to, copied, x0);
         copied = x1;
     }
-    copyPixels(line.from, line.to, copied, width + Bits::kMargin);
+    copy(line.from, line.to, copied, width + Bits::kMargin);
 }
 
 } // namespace
@@ -258,7 +259,7 @@ Bits cBitFilter::StuckiBW(int Divisor)
             lines[k].from = in.row(y);
             lines[k].to = rows.row(y);
             lines[k].spans = region.spans(y);
-            copyOthers(lines[k], box, in.width());
+            copyOthers(lines[k], box, in.width(), in.sizeInBytes() >= kPastTheCache);
         }
         stucki.turn(i, lines, wave);
     };

@@ -9,11 +9,9 @@ namespace {
 
 constexpr Colour kBlack = 0, kWhite = 0xFFFFFF;
 
-auto twoTone(Colour bright, Colour dark, std::ptrdiff_t stride)
+auto twoTone(Colour bright, Colour dark)
 {
-    return [=](const Pixel* from, Pixel* to, int x0, int x1) {
-        styliseKernels().twoTone({from, stride, to, x0, x1}, pixelOf(bright), pixelOf(dark));
-    };
+    return [=](const SpanOf& s) { styliseKernels().twoTone(s, pixelOf(bright), pixelOf(dark)); };
 }
 
 } // namespace
@@ -24,19 +22,15 @@ Bits cBitFilter::SKETCH(int Level, bool Mono, Colour Color)
     const int level = std::clamp(Level, -10000, 10000);
     const int threshold = (level >= 0 ? 3 * level + 3 : 3 * level + 1) - 765;
     const std::uint32_t on = pixelOf(Mono ? kWhite : Color);
-    return eachSpan(0, [=, stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
-        neighbourKernels().sketch({from, stride, to, x0, x1}, threshold, on, pixelOf(kBlack), !Mono);
-    });
+    return eachSpan(0, [=](const SpanOf& s) { neighbourKernels().sketch(s, threshold, on, pixelOf(kBlack), !Mono); });
 }
 
 Bits cBitFilter::THERMIQUE()
 {
-    return eachSpan(0, [stride = bits_.stride()](const Pixel* from, Pixel* to, int x0, int x1) {
-        styliseKernels().strongest({from, stride, to, x0, x1});
-    });
+    return eachSpan(0, [](const SpanOf& s) { styliseKernels().strongest(s); });
 }
 
-Bits cBitFilter::XBLACK() { return eachSpan(0, twoTone(kBlack, kWhite, bits_.stride())); }
-Bits cBitFilter::PHOTOCOP() { return eachSpan(0, twoTone(kWhite, kBlack, bits_.stride())); }
+Bits cBitFilter::XBLACK() { return eachSpan(0, twoTone(kBlack, kWhite)); }
+Bits cBitFilter::PHOTOCOP() { return eachSpan(0, twoTone(kWhite, kBlack)); }
 
 } // namespace velara

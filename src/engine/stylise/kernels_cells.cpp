@@ -25,14 +25,16 @@ template <class D> HWY_INLINE void addAt(D d, const Pixel* from, std::ptrdiff_t 
 void addColumns(const Pixel* from, std::ptrdiff_t stride, int rows, std::uint16_t* sums, int count)
 {
     const hn::ScalableTag<std::uint16_t> many;
+    const hn::CappedTag<std::uint16_t, 16> few;
     const hn::CappedTag<std::uint16_t, 4> one;
-    const int n = static_cast<int>(hn::Lanes(many)) / 4;
+    const int n = static_cast<int>(hn::Lanes(many)) / 4, fewer = static_cast<int>(hn::Lanes(few)) / 4;
     constexpr int kAhead = 8 * kLinePixels; // several rows are too many to be foreseen by the processor
     int x = 0;
     for (; x + kLinePixels <= count; x += kLinePixels) {
         for (int y = 0; y < rows; ++y) __builtin_prefetch(from + y * stride + x + kAhead);
         for (int i = x; i < x + kLinePixels; i += n) addAt(many, from + i, stride, rows, sums + 4 * i);
     }
+    for (; x + fewer <= count; x += fewer) addAt(few, from + x, stride, rows, sums + 4 * x);
     for (; x < count; ++x) addAt(one, from + x, stride, rows, sums + 4 * x);
 }
 

@@ -15,35 +15,41 @@ template <class D8> HWY_INLINE void storeAt(D8 d8, hn::Vec<D8> v, Pixel* p)
     hn::StoreU(v, d8, reinterpret_cast<std::uint8_t*>(p));
 }
 
-/// The sum of f(pixel) over a window; f returns bytes, the sums are 16 bits wide. pixels(row, column) gives its pixels,
-/// from 0 to 2 each.
-template <class D8, class Pixels, class F> HWY_INLINE auto windowSum(D8, Pixels pixels, F f)
+template <class D8> using Sums = Taps<hn::Vec<hn::Repartition<std::int16_t, D8>>>;
+
+/// The bytes of v as sums of one.
+template <class D8> HWY_INLINE Sums<D8> bytesOf(D8, hn::Vec<D8> v)
 {
     const hn::Repartition<std::int16_t, D8> d;
-    const hn::RebindToUnsigned<decltype(d)> du;
-    const auto at = [&](int row, int column) HWY_ATTR {
-        const auto v = hn::BitCast(du, f(pixels(row, column)));
-        return Taps<hn::Vec<decltype(d)>>{hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(v))};
-    };
-    const auto three = [&](int row) HWY_ATTR { return at(row, 0) + at(row, 1) + at(row, 2); };
-    return (three(0) + three(1) + three(2)).split();
+    return {hn::BitCast(d, v), hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(hn::RebindToUnsigned<decltype(d)>(), v)))};
 }
 
-template <class D8, class Pixels> HWY_INLINE void windowAt(D8 d8, Pixels pixels, int x, WindowRow& to)
+/// The sum of f(pixel) over a window; f returns bytes. pixels(row, column) gives its pixels, from 0 to 2 each.
+template <class D8, class Pixels, class F> HWY_INLINE Sums<D8> windowSum(D8 d8, Pixels pixels, F f)
+{
+    const auto at = [&](int row, int column) HWY_ATTR { return bytesOf(d8, f(pixels(row, column))); };
+    const auto three = [&](int row) HWY_ATTR { return at(row, 0) + at(row, 1) + at(row, 2); };
+    return three(0) + three(1) + three(2);
+}
+
+/// The windows of the sums all, of the pixels given as above.
+template <class D8, class Pixels>
+HWY_INLINE void windowAt(D8 d8, Pixels pixels, const Sums<D8>& all, int x, WindowRow& to)
 {
     const hn::Repartition<std::int16_t, D8> d;
     const hn::RebindToUnsigned<decltype(d)> du;
     using V = hn::Vec<decltype(d)>;
-    const auto sum = windowSum(d8, pixels, [](auto v) HWY_ATTR { return v; });
+    const auto sum = all.split();
     const auto mean = each(sum, [&](V v) HWY_ATTR { // 7282 / 2^16 is a ninth, exact for all sums below 2^15
         return hn::BitCast(d, hn::MulHigh(hn::BitCast(du, v), hn::Set(du, std::uint16_t{7282})));
     });
     const auto bytes = joined(d8, mean);
     // The sum above the mean exceeds the sum below it by the remainder of the mean's division.
-    const auto above = windowSum(d8, pixels, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); });
+    const auto above = windowSum(d8, pixels, [&](auto v) HWY_ATTR { return hn::SaturatedSub(v, bytes); }).split();
     const auto remainder =
         each(sum, mean, [&](V s, V m) HWY_ATTR { return hn::Sub(s, hn::Add(hn::ShiftLeft<3>(m), m)); });
-    const auto distances = each(above, remainder, [](V a, V r) HWY_ATTR { return hn::Sub(hn::Add(a, a), r); });
+    const auto distances =
+        each(above, remainder, [](V a, V r) HWY_ATTR { return hn::ShiftLeft<2>(hn::Sub(hn::Add(a, a), r)); });
     storeAt(d8, bytes, to.means() + x);
     storeAt(d8, hn::BitCast(d8, distances.even), to.even() + x);
     storeAt(d8, hn::BitCast(d8, distances.odd), to.odd() + x);
@@ -51,8 +57,8 @@ template <class D8, class Pixels> HWY_INLINE void windowAt(D8 d8, Pixels pixels,
 
 #if HWY_TARGET == HWY_AVX3_DL
 
-/// Whole vectors of windows, each row of pixels loaded once: most loads would cross a cache line. Returns the first x
-/// not done.
+/// Whole vectors of windows, each row of pixels loaded once, as most loads would cross a cache line, and each column of
+/// three added up once. Returns the first x not done.
 int slide(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& to)
 {
     const hn::ScalableTag<std::uint8_t> d8;
@@ -61,21 +67,34 @@ int slide(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow& t
     const auto load = [&](int row, int x) HWY_ATTR { return loadBytes(d8, from + (row - 1) * stride + x); };
     int x = x0;
     if (x + 2 * n > x1 + 1) return x; // the vector after the last one would be outside
+    // one vector to the left and to the right: the last pixel of before and v, and v without its first and one of after
+    const auto toRight = [](auto v, auto before)
+                             HWY_ATTR { return decltype(v){_mm512_alignr_epi32(v.raw, before.raw, n - 1)}; };
+    const auto toLeft = [](auto v, auto after)
+                            HWY_ATTR { return decltype(v){_mm512_alignr_epi32(after.raw, v.raw, 1)}; };
+    const auto column = [&](const V(&rows)[3])
+                            HWY_ATTR { return bytesOf(d8, rows[0]) + bytesOf(d8, rows[1]) + bytesOf(d8, rows[2]); };
     V left[3], here[3];
     for (int row = 0; row < 3; ++row) {
         here[row] = load(row, x);
         left[row] = V{_mm512_maskz_loadu_epi32(0x8000, from + (row - 1) * stride + x - n)};
     }
+    auto sumsLeft = column(left), sumsHere = column(here);
     for (; x + 2 * n <= x1 + 1; x += n) {
         const V right[3] = {load(0, x + n), load(1, x + n), load(2, x + n)};
-        const auto pixels = [&](int row, int column) HWY_ATTR {
-            return column == 0   ? V{_mm512_alignr_epi32(here[row].raw, left[row].raw, n - 1)}
-                   : column == 1 ? here[row]
-                                 : V{_mm512_alignr_epi32(right[row].raw, here[row].raw, 1)};
+        const auto pixels = [&](int row, int place) HWY_ATTR {
+            return place == 0 ? toRight(here[row], left[row]) : place == 1 ? here[row] : toLeft(here[row], right[row]);
         };
-        windowAt(d8, pixels, x, to);
+        const auto sumsRight = column(right);
+        const auto beside = [&](auto part) HWY_ATTR {
+            const auto v = sumsHere.*part;
+            return hn::Add(hn::Add(toRight(v, sumsLeft.*part), v), toLeft(v, sumsRight.*part));
+        };
+        using S = Sums<decltype(d8)>;
+        windowAt(d8, pixels, S{beside(&S::whole), beside(&S::odd)}, x, to);
         __builtin_prefetch(from + 2 * stride + x); // of the next row of windows
         for (int row = 0; row < 3; ++row) left[row] = here[row], here[row] = right[row];
+        sumsLeft = sumsHere, sumsHere = sumsRight;
     }
     return x;
 }
@@ -94,7 +113,7 @@ void windows(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow
     const auto at = [&](auto d8, int x) HWY_ATTR {
         const auto pixels = [&](int row, int column)
                                 HWY_ATTR { return loadBytes(d8, from + (row - 1) * stride + x + column - 1); };
-        windowAt(d8, pixels, x, to);
+        windowAt(d8, pixels, windowSum(d8, pixels, [](auto v) HWY_ATTR { return v; }), x, to);
         __builtin_prefetch(from + 2 * stride + x);
     };
     int x = slide(from, stride, x0, x1, to);
@@ -105,7 +124,6 @@ void windows(const Pixel* from, std::ptrdiff_t stride, int x0, int x1, WindowRow
 void choose(SpanOf s, const WindowRow& above, const WindowRow& below, bool four)
 {
     const WindowRow* const rows[] = {&above, &above, &below, &below};
-    const int count = four ? 4 : 3;
     struct Corner {
         const Pixel *means, *even, *odd;
     } corners[4];
@@ -116,21 +134,22 @@ void choose(SpanOf s, const WindowRow& above, const WindowRow& below, bool four)
     forPixels<std::uint8_t>(s, [=](auto d8, int x) HWY_ATTR {
         const hn::Repartition<std::int16_t, decltype(d8)> d;
         using V = hn::Vec<decltype(d)>;
-        const auto distances = [&](const Corner& c) HWY_ATTR {
-            return Halves<V>{hn::BitCast(d, loadBytes(d8, c.even + x)), hn::BitCast(d, loadBytes(d8, c.odd + x))};
+        // The corner's number in the two bits below the distance: the least of all is the first of the nearest.
+        const auto numbered = [&](int i) HWY_ATTR {
+            const auto of = [&](const Pixel* p) HWY_ATTR {
+                return hn::Or(hn::BitCast(d, loadBytes(d8, p + x)), hn::Set(d, static_cast<std::int16_t>(i)));
+            };
+            return Halves<V>{of(corners[i].even), of(corners[i].odd)};
         };
-        auto best = distances(corners[0]);
-        auto means = tap(d, corners[0].means + x).split();
-        const auto against = [&](const Corner& c) HWY_ATTR {
-            const auto other = distances(c), otherMeans = tap(d, c.means + x).split();
-            means.even = hn::IfThenElse(hn::Lt(other.even, best.even), otherMeans.even, means.even);
-            means.odd = hn::IfThenElse(hn::Lt(other.odd, best.odd), otherMeans.odd, means.odd);
-            best = each(best, other, [](V a, V b) HWY_ATTR { return hn::Min(a, b); });
-        };
-        against(corners[1]);
-        against(corners[2]);
-        if (count == 4) against(corners[3]);
-        return withFourthOf(d8, loadBytes(d8, s.from + x), joined(d8, means));
+        const auto lesser = [](V a, V b) HWY_ATTR { return hn::Min(a, b); };
+        auto least = each(each(numbered(0), numbered(1), lesser), numbered(2), lesser);
+        if (four) least = each(least, numbered(3), lesser);
+        const auto number = joined(d8, Halves<V>{hn::And(least.even, hn::Set(d, 3)), least.odd});
+        const auto isRight = hn::TestBit(number, hn::Set(d8, 1)), isBelow = hn::TestBit(number, hn::Set(d8, 2));
+        const auto mean = [&](int i) HWY_ATTR { return loadBytes(d8, corners[i].means + x); };
+        const auto upper = hn::IfThenElse(isRight, mean(1), mean(0));
+        const auto lower = four ? hn::IfThenElse(isRight, mean(3), mean(2)) : mean(2);
+        return withFourthOf(d8, loadBytes(d8, s.from + x), hn::IfThenElse(isBelow, lower, upper));
     });
 }
 

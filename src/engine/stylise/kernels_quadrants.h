@@ -6,7 +6,7 @@
 namespace velara {
 
 /// The 3 by 3 windows of one row of centres, from x = -1 to the picture's width, per channel: the mean (sum \ 9) and
-/// the sum of absolute deviations. Each window is at the corner of four pixels and is computed once.
+/// four times the sum of absolute deviations. Each window is at the corner of four pixels and is computed once.
 class WindowRow {
   public:
     explicit WindowRow(int width)
