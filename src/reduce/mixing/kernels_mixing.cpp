@@ -214,24 +214,61 @@ class Mixings {
     // Of an entry: its distance from the colour in each channel, that squared, its number, its parts.
     static constexpr std::size_t kFar = 3, kNumber = 4, kPartsOf = 5, kFields = 6;
 
+    /// What a part costs, see slopeOf.
+    struct Weights {
+        V weight, seen, pull[3];
+
+        HWY_INLINE V slope(const V* entry) const
+        {
+            return slopeOf(Singles(), pull[0], pull[1], pull[2], seen, entry[0], entry[1], entry[2], entry[kFar]);
+        }
+    };
+    /// Which parts would move where; places are numbers of slots.
+    struct Move {
+        V count, from[kFields], fromAt, steepest; // the first of the steepest
+        V best[kFields], bestAt;                  // its slot, or the one behind all
+        V last[kFields], lastAt;
+    };
+
+    static HWY_INLINE V load(const OfLanes& from) { return hn::Load(Singles(), from.data()); }
+    static HWY_INLINE void store(V v, OfLanes& to) { hn::Store(v, Singles(), to.data()); }
+
     /// Brings in the entry of the least cost, at the expense of the costliest, if that helps; the lanes where it
     /// doesn't.
     std::uint64_t gather()
     {
         const Singles d;
+        const auto one = hn::Set(d, 1), half = hn::Set(d, 0.5F);
+        Weights weights;
+        weights.seen = load(seen_);
+        weights.weight = hn::Div(hn::Mul(hn::Set(d, 2), hn::Sub(one, weights.seen)), hn::Set(d, kParts));
+        for (std::size_t c = 0; c < 3; ++c) weights.pull[c] = hn::Mul(load(mean_[c]), weights.weight);
+        Move move;
+        findBest(weights, move);
+        findOthers(weights, move);
+        const auto square = [](V a, V b) HWY_ATTR { return hn::Mul(hn::Sub(a, b), hn::Sub(a, b)); };
+        const auto apart =
+            hn::Max(hn::Add(hn::Add(square(move.best[0], move.from[0]), square(move.best[1], move.from[1])),
+                            square(move.best[2], move.from[2])),
+                    one);
+        const auto wanted = hn::Div(hn::Sub(move.steepest, weights.slope(move.best)), hn::Mul(weights.weight, apart));
+        const auto left = load(stepsLeft_);
+        const auto fits = hn::And(hn::Lt(move.bestAt, hn::Set(d, float(kMost))), hn::Gt(left, hn::Zero(d)));
+        const auto helps = hn::And(hn::Ge(wanted, half), fits);
+        store(hn::Sub(left, one), stepsLeft_);
+        const auto moved = hn::Min(hn::Trunc(hn::Add(wanted, half)), move.from[kPartsOf]);
+        carryOut(move, hn::IfThenElseZero(helps, moved));
+        return laneBits(d, hn::Not(helps));
+    }
+
+    /// The first candidate of the least cost, in whole steps, which the weights are multiplied with, as that is exact.
+    HWY_INLINE void findBest(const Weights& weights, Move& move) const
+    {
+        const Singles d;
         const Words words;
-        const auto load = [d](const OfLanes& from) HWY_ATTR { return hn::Load(d, from.data()); };
-        const auto seen = load(seen_), count = load(count_);
-        const auto weight = hn::Div(hn::Mul(hn::Set(d, 2), hn::Sub(hn::Set(d, 1), seen)), hn::Set(d, kParts));
-        const V mean[] = {load(mean_[0]), load(mean_[1]), load(mean_[2])};
-        const V pull[] = {hn::Mul(mean[0], weight), hn::Mul(mean[1], weight), hn::Mul(mean[2], weight)};
-        const auto slope = [&](const V* off) HWY_ATTR {
-            return slopeOf(d, pull[0], pull[1], pull[2], seen, off[0], off[1], off[2], off[3]);
-        };
-        // The first candidate of the least cost, in whole steps, which the weights are multiplied with, as that is
-        // exact.
-        const auto inSteps = [&](V v) HWY_ATTR { return hn::Mul(v, hn::Set(d, kSteps)); };
-        const auto p0 = inSteps(pull[0]), p1 = inSteps(pull[1]), p2 = inSteps(pull[2]), share = inSteps(seen);
+        const auto steps = hn::Set(d, 32); // of a cost that are told apart
+        const auto p0 = hn::Mul(weights.pull[0], steps), p1 = hn::Mul(weights.pull[1], steps),
+                   p2 = hn::Mul(weights.pull[2], steps), share = hn::Mul(weights.seen, steps);
         auto least = hn::Set(d, std::numeric_limits<float>::max()), number = hn::Zero(d);
         for (std::size_t i = 0; i < kCount; ++i) {
             const auto& off = off_[i];
@@ -240,75 +277,75 @@ class Mixings {
             number = hn::IfThenElse(hn::Lt(cost, least), hn::Set(d, float(i)), number);
             least = hn::Min(least, cost);
         }
-        V best[kFields];
+        constexpr int kPlaceBits = std::countr_zero(4 * kLanes); // of a candidate's numbers
         const auto place = hn::Add(hn::ShiftLeft<kPlaceBits>(hn::ConvertTo(words, number)), countedFrom(words, 0));
-        for (std::size_t f = 0; f <= kFar; ++f) best[f] = loadEach(d, off_[0][f].data(), place);
-        best[kNumber] = number;
+        for (std::size_t f = 0; f <= kFar; ++f) move.best[f] = loadEach(d, off_[0][f].data(), place);
+        move.best[kNumber] = number;
+    }
 
-        // The first of the steepest ones, the last one, and where the best one is or would be.
-        const auto one = hn::Set(d, 1), lastAt = hn::Sub(count, one);
-        V from[kFields], last[kFields], steepest = hn::Set(d, std::numeric_limits<float>::lowest());
-        V fromAt = hn::Zero(d), toAt = count, toParts = hn::Zero(d), at = hn::Zero(d);
-        for (std::size_t f = 0; f < kFields; ++f) from[f] = last[f] = hn::Zero(d);
+    /// The first of the steepest ones, the last one, and where the best one is or would be.
+    HWY_INLINE void findOthers(const Weights& weights, Move& move) const
+    {
+        const Singles d;
+        const auto one = hn::Set(d, 1);
+        auto at = hn::Zero(d);
+        move.count = load(count_);
+        move.lastAt = hn::Sub(move.count, one);
+        move.steepest = hn::Set(d, std::numeric_limits<float>::lowest());
+        move.bestAt = move.count;
+        move.fromAt = move.best[kPartsOf] = hn::Zero(d);
+        for (std::size_t f = 0; f < kFields; ++f) move.from[f] = move.last[f] = hn::Zero(d);
         for (std::size_t u = 0; u < kMost; ++u, at = hn::Add(at, one)) {
             V slot[kFields];
             for (std::size_t f = 0; f < kFields; ++f) slot[f] = load(slots_[u][f]);
-            const auto cost = slope(slot);
-            const auto lives = hn::Lt(at, count), isLast = hn::Eq(at, lastAt);
-            const auto isSteeper = hn::And(lives, hn::Gt(cost, steepest));
-            const auto isBest = hn::And(lives, hn::Eq(slot[kNumber], best[kNumber]));
-            steepest = hn::IfThenElse(isSteeper, cost, steepest);
-            fromAt = hn::IfThenElse(isSteeper, at, fromAt);
-            toAt = hn::IfThenElse(isBest, at, toAt);
-            toParts = hn::IfThenElse(isBest, slot[kPartsOf], toParts);
+            const auto cost = weights.slope(slot);
+            const auto lives = hn::Lt(at, move.count), isLast = hn::Eq(at, move.lastAt);
+            const auto isSteeper = hn::And(lives, hn::Gt(cost, move.steepest));
+            const auto isBest = hn::And(lives, hn::Eq(slot[kNumber], move.best[kNumber]));
+            move.steepest = hn::IfThenElse(isSteeper, cost, move.steepest);
+            move.fromAt = hn::IfThenElse(isSteeper, at, move.fromAt);
+            move.bestAt = hn::IfThenElse(isBest, at, move.bestAt);
+            move.best[kPartsOf] = hn::IfThenElse(isBest, slot[kPartsOf], move.best[kPartsOf]);
             for (std::size_t f = 0; f < kFields; ++f) {
-                from[f] = hn::IfThenElse(isSteeper, slot[f], from[f]);
-                last[f] = hn::IfThenElse(isLast, slot[f], last[f]);
+                move.from[f] = hn::IfThenElse(isSteeper, slot[f], move.from[f]);
+                move.last[f] = hn::IfThenElse(isLast, slot[f], move.last[f]);
             }
         }
-
-        const auto square = [](V a, V b) HWY_ATTR { return hn::Mul(hn::Sub(a, b), hn::Sub(a, b)); };
-        const auto apart =
-            hn::Add(hn::Add(square(best[0], from[0]), square(best[1], from[1])), square(best[2], from[2]));
-        const auto half = hn::Set(d, 0.5F);
-        const auto wanted = hn::Div(hn::Sub(steepest, slope(best)), hn::Mul(weight, hn::Max(apart, one)));
-        const auto left = load(stepsLeft_);
-        const auto helps =
-            hn::And(hn::And(hn::Ge(wanted, half), hn::Lt(toAt, hn::Set(d, float(kMost)))), hn::Gt(left, hn::Zero(d)));
-        hn::Store(hn::Sub(left, one), d, stepsLeft_.data());
-
-        const auto moved = hn::Min(hn::Trunc(hn::Add(wanted, half)), from[kPartsOf]);
-        for (std::size_t c = 0; c < 3; ++c)
-            hn::Store(hn::IfThenElse(helps, hn::Add(mean[c], hn::Mul(moved, hn::Sub(best[c], from[c]))), mean[c]), d,
-                      mean_[c].data());
-        best[kPartsOf] = hn::Add(toParts, moved);
-        from[kPartsOf] = hn::Sub(from[kPartsOf], moved);
-        // Where nothing is left of it, the last one takes its place.
-        const auto isGone = hn::And(helps, hn::Eq(from[kPartsOf], hn::Zero(d)));
-        const auto isNew = hn::And(helps, hn::Eq(toAt, count)), isBestLast = hn::Ge(toAt, lastAt);
-        for (std::size_t f = 0; f < kFields; ++f)
-            from[f] = hn::IfThenElse(isGone, hn::IfThenElse(isBestLast, best[f], last[f]), from[f]);
-        const auto nowhere = hn::Set(d, -1.0F);
-        toAt = hn::IfThenElse(helps, toAt, nowhere);
-        fromAt = hn::IfThenElse(helps, fromAt, nowhere);
-        at = hn::Zero(d);
-        for (std::size_t u = 0; u < kMost; ++u, at = hn::Add(at, one)) {
-            const auto isTo = hn::Eq(at, toAt), isFrom = hn::Eq(at, fromAt);
-            for (std::size_t f = 0; f < kFields; ++f) {
-                float* const slot = slots_[u][f].data();
-                hn::Store(hn::IfThenElse(isFrom, from[f], hn::IfThenElse(isTo, best[f], hn::Load(d, slot))), d, slot);
-            }
-        }
-        const auto more = hn::Add(count, hn::IfThenElseZero(isNew, one));
-        hn::Store(hn::Sub(more, hn::IfThenElseZero(isGone, one)), d, count_.data());
-        return laneBits(d, hn::Not(helps));
     }
 
-    static constexpr float kSteps = 32; // of a cost that are told apart
-    static constexpr int kPlaceBits = std::countr_zero(4 * kLanes);
+    /// moved: parts, 0 where nothing is done. Where nothing is left of an entry, the last one takes its place.
+    HWY_INLINE void carryOut(Move& move, V moved)
+    {
+        const Singles d;
+        const auto one = hn::Set(d, 1), zero = hn::Zero(d), nowhere = hn::Set(d, -1);
+        for (std::size_t c = 0; c < 3; ++c)
+            store(hn::Add(load(mean_[c]), hn::Mul(moved, hn::Sub(move.best[c], move.from[c]))), mean_[c]);
+        move.best[kPartsOf] = hn::Add(move.best[kPartsOf], moved);
+        move.from[kPartsOf] = hn::Sub(move.from[kPartsOf], moved);
+        const auto isDone = hn::Gt(moved, zero);
+        const auto isGone = hn::And(isDone, hn::Eq(move.from[kPartsOf], zero));
+        const auto isNew = hn::And(isDone, hn::Eq(move.bestAt, move.count));
+        const auto isBestLast = hn::Ge(move.bestAt, move.lastAt);
+        for (std::size_t f = 0; f < kFields; ++f) {
+            const auto last = hn::IfThenElse(isBestLast, move.best[f], move.last[f]);
+            move.from[f] = hn::IfThenElse(isGone, last, move.from[f]);
+        }
+        const auto bestAt = hn::IfThenElse(isDone, move.bestAt, nowhere);
+        const auto fromAt = hn::IfThenElse(isDone, move.fromAt, nowhere);
+        auto at = zero;
+        for (std::size_t u = 0; u < kMost; ++u, at = hn::Add(at, one)) {
+            const auto isBest = hn::Eq(at, bestAt), isFrom = hn::Eq(at, fromAt);
+            for (std::size_t f = 0; f < kFields; ++f) {
+                OfLanes& slot = slots_[u][f];
+                store(hn::IfThenElse(isFrom, move.from[f], hn::IfThenElse(isBest, move.best[f], load(slot))), slot);
+            }
+        }
+        const auto more = hn::Add(move.count, hn::IfThenElseZero(isNew, one));
+        store(hn::Sub(more, hn::IfThenElseZero(isGone, one)), count_);
+    }
 
-    alignas(
-        64) std::array<std::array<OfLanes, 4>, kCount> off_{}; // of the candidates from the colour, and that squared
+    // of the candidates from the colour, and that squared:
+    alignas(64) std::array<std::array<OfLanes, 4>, kCount> off_{};
     alignas(64) std::array<std::array<OfLanes, kFields>, kMost> slots_{}; // the entries in use come first
     alignas(64) std::array<OfLanes, 3> mean_{};                           // its distance from the colour, times kParts
     alignas(64) OfLanes count_{}, seen_{}, stepsLeft_{}, closeness_{};
