@@ -15,7 +15,7 @@ const Rows rows{ // family, must, goal, operation, arguments
     operation("nearest resize",  0, 0,   "BitsResize",     {3000, 2000}),
     operation("nearest resize",  0, 0,   "BitsResize",     {9000, 6000}),
     operation("bilinear resize", 4, 1,   "BitsResample",   {3000, 2000}), // a copy moves 8 bytes a pixel, this 5
-    operation("bilinear resize", 0, 0,   "BitsResample",   {9000, 6000}),
+    operation("bilinear resize", 24, 12,  "BitsResample",   {9000, 6000}),
 };
 // clang-format on
 

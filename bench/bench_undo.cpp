@@ -2,9 +2,12 @@
 #include "bench.h"
 #include "commands/FilterPreview.h"
 #include "document/Document.h"
+#include "document/undo/TileSums.h"
 #include "engine/cBitFilter.h"
+#include "fileio/disk/fileBytes.h"
 #include "tools/PreviewBuffer.h"
 #include <QTemporaryDir>
+#include <array>
 #include <memory>
 
 namespace velara::bench {
@@ -29,14 +32,47 @@ struct Series {
     }
 };
 
-Row row(std::string name, double must, double goal, int snapshots, void (*body)(Series&))
+Row readBack()
 {
-    return {"undo store", std::move(name), must, goal, [=](Size size) {
+    return {"undo store", "read back", 3, 1.3, [](Size size) {
                 const auto series = std::make_shared<Series>(size);
-                for (int i = 0; i < snapshots; ++i) series->save();
+                for (int i = 0; i < 3; ++i) series->save();
                 series->store.stands();
-                return Timing{[=] { body(*series); }, {}};
+                return Timing{[series] {
+                                  if (!series->store.undo()) series->store.redo();
+                              },
+                              {}};
             }};
+}
+
+/// A snapshot over the oldest one, beside what no way of writing one goes without: write() of its bytes over an older
+/// file, and the sums of its tiles, made from pixels in the cache.
+Row snapshot()
+{
+    static constexpr int kCached = 32; // rows
+    return {"undo store",
+            "snapshot written, ten stand",
+            1.3,
+            1,
+            [](Size size) {
+                const auto series = std::make_shared<Series>(size);
+                for (int i = 0; i < 10; ++i) series->save();
+                series->store.stands();
+                const Bits part = picture({size.width, kCached});
+                const auto plain = [series, part, parts = size.height / kCached] {
+                    constexpr std::array<std::uint8_t, 40> kHead{}; // the pixels don't begin on a page there either
+                    overwriteFile(series->folder.filePath("plain"), kHead,
+                                  {series->next.data(), series->next.sizeInBytes()});
+                    for (int i = 0; i < parts; ++i) TileSums(part, UndoStore::tileRules.side);
+                };
+                plain();
+                return Timing{[series] {
+                                  series->save();
+                                  series->store.stands();
+                              },
+                              plain};
+            },
+            "write()"};
 }
 
 /// A document in the hand of a tool.
@@ -140,19 +176,7 @@ Row previews()
 }
 
 const Rows undo{
-    row("snapshot written, ten stand", 3, 1.8, 10,
-        [](Series& series) {
-            series.save();
-            series.store.stands();
-        }),
-    row("read back", 3, 1.3, 3,
-        [](Series& series) {
-            if (!series.store.undo()) series.store.redo();
-        }),
-    release(),
-    strokes(),
-    strokeBack(),
-    previews(),
+    snapshot(), readBack(), release(), strokes(), strokeBack(), previews(),
 };
 
 } // namespace

@@ -34,7 +34,7 @@ PATTERNS = [
     ("nearest colours",        ["palette", "depth reduction: best"]),
     ("snapshot",               ["undo store: snapshot"]),
     ("previews",               ["filter preview", "preview"]),
-    ("region shapes",          ["selection: ellipse"]),
+    ("region shapes",          ["selection: two ellipses"]),
 ]
 OF_MEMORY = 2.0  # copies
 LINE = re.compile(r"(.{28}) (.{40}\S*) +(\S+) +(\S+) +(\S+) +(\S+)  (?:goal|must|no|-) +(\S+) +(\S+)  (.+)")

@@ -1,4 +1,5 @@
 #include "engine/copyPixels.h"
+#include "pixels/threads/parallelFor.h"
 #include <algorithm>
 
 #undef HWY_TARGET_INCLUDE
@@ -41,6 +42,22 @@ void streamPixelsAhead(const Pixel* from, Pixel* to, int x0, int x1, std::ptrdif
 }
 
 void streamPixels(const Pixel* from, Pixel* to, int x0, int x1) { streamPixelsAhead(from, to, x0, x1, 0); }
+
+void copyRows(const Bits& from, Bits& to, int y0, int y1)
+{
+    constexpr std::size_t kMany = 4 << 20; // bytes
+    if (y1 <= y0) return;
+    const std::ptrdiff_t pitch = from.stride();
+    const Pixel* const source = from.row(y0) - Bits::kMargin;
+    Pixel* const target = to.row(y0) - Bits::kMargin;
+    const std::size_t bytes = sizeof(Pixel) * static_cast<std::size_t>(pitch) * static_cast<std::size_t>(y1 - y0);
+    if (bytes < kMany) {
+        std::memcpy(target, source, bytes);
+        return;
+    }
+    parallelFor(y1 - y0, turnsTogether(pitch),
+                [&](int i) { streamPixels(source + i * pitch, target + i * pitch, 0, static_cast<int>(pitch)); });
+}
 
 } // namespace velara
 #endif

@@ -18,13 +18,8 @@ void streamPixels(const Pixel* from, Pixel* to, int x0, int x1);
 /// source is prefetched, unless it is 0.
 void streamPixelsAhead(const Pixel* from, Pixel* to, int x0, int x1, std::ptrdiff_t ahead);
 
-/// Copies the rows y0 to y1-1, margin columns included.
-inline void copyRows(const Bits& from, Bits& to, int y0, int y1)
-{
-    if (y1 > y0)
-        std::memcpy(to.row(y0) - Bits::kMargin, from.row(y0) - Bits::kMargin,
-                    sizeof(Pixel) * static_cast<std::size_t>(y1 - y0) * static_cast<std::size_t>(from.stride()));
-}
+/// Copies the rows y0 to y1-1, margin columns included; many by all cores.
+void copyRows(const Bits& from, Bits& to, int y0, int y1);
 
 /// Zeroes the margin of two pixels around the picture.
 inline void clearMargin(Bits& bits)

@@ -91,7 +91,9 @@ TEST(Operations, AnyNumberOfThreadsGivesTheSame)
         return run;
     };
     PaletteColors() = {{0, 0, 0}, {255, 255, 255}, {200, 30, 40}};
-    const Region regions[] = {Region::rectangle(0, 0, 161, 301), Region::ellipse(-20, 3, 150, 290)};
+    const Region hole = Region::ellipse(60, 40, 90, 250);
+    const Region regions[] = {Region::rectangle(0, 0, 161, 301),
+                              Region::ellipse(5, 3, 190, 290).combined(hole, Combine::Diff)};
     for (const Operation& op : operations())
         for (const Region& region : regions)
             for (const int lastReport : {0, 40}) {

@@ -1,9 +1,9 @@
 #include "document/undo/TileFile.h"
+#include "document/undo/xxh3.h"
 #include "fileio/disk/fileBytes.h"
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <xxhash.h>
 
 namespace velara {
 

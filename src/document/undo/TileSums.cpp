@@ -1,8 +1,7 @@
 #include "document/undo/TileSums.h"
+#include "document/undo/xxh3.h"
 #include "pixels/threads/parallelFor.h"
 #include <algorithm>
-#define XXH_INLINE_ALL // many short pieces: calls would take half of the time
-#include <xxhash.h>
 
 namespace velara {
 

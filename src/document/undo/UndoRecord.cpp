@@ -2,13 +2,13 @@
 #include "document/undo/TileSums.h"
 #include "document/undo/UndoFiles.h"
 #include "document/undo/UndoStore.h"
+#include "document/undo/xxh3.h"
 #include "fileio/disk/nativeName.h"
 #include <QCborArray>
 #include <QCborMap>
 #include <QCborParserError>
 #include <QtEndian>
 #include <limits>
-#include <xxhash.h>
 
 namespace velara {
 

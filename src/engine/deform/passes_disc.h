@@ -25,30 +25,47 @@ template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double lim
 {
     const Bits in = bits_;
     const Region region = region_;
-    Bits out = in;
     const std::int64_t R = disc.radius;
     const int ymin = static_cast<int>(std::max<std::int64_t>(disc.y - R, 0));
     const int ymax = static_cast<int>(std::min<std::int64_t>(disc.y + R, in.maxY()));
+    if (R <= 0 || ymin > ymax) {
+        report(100);
+        return in;
+    }
+    Bits out = Bits::uninitialized(in.width(), in.height());
     const WrittenRows rows(out);
-    const auto row = [&](int y) {
+    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
+    /// The columns from the first to the last in a row of the disc; empty where it has none.
+    const auto columns = [&](int y) -> Span {
         const double oy = static_cast<double>(y) - disc.y;
         const double room = limit - oy * oy; // the limit of ox * ox
-        if (room <= 0) return;
+        if (room <= 0) return {0, 0};
         // The largest |ox| whose square is below room.
         double reach = std::min(std::ceil(std::sqrt(room)), static_cast<double>(R));
         while (reach >= 0 && !(reach * reach + oy * oy < limit)) --reach;
-        const auto xmin = std::max<std::int64_t>(disc.x - static_cast<std::int64_t>(reach), 0);
-        const auto xmax = std::min<std::int64_t>(disc.x + static_cast<std::int64_t>(reach), in.maxX());
-        for (const Span s : region.spans(y)) {
-            const int x0 = static_cast<int>(std::max<std::int64_t>(s.x0, xmin));
-            const int x1 = static_cast<int>(std::min<std::int64_t>(s.x1, xmax + 1));
-            if (x0 < x1) kernel(in.row(y), rows.row(y), x0, x1, y);
-        }
+        const auto wide = static_cast<std::int64_t>(reach);
+        return {static_cast<int>(std::max<std::int64_t>(disc.x - wide, 0)),
+                static_cast<int>(std::min<std::int64_t>(disc.x + wide, in.maxX())) + 1};
     };
-    if (R > 0 && ymin <= ymax)
-        parallelFor(
-            ymax - ymin + 1, turnsTogether(2 * R), [&](int i) { row(ymin + i); },
-            [&](int i) { progressDue(ymin + i - disc.y + R, 2 * R); });
+    const auto row = [&](int y) {
+        const Span inside = columns(y);
+        const Pixel* from = in.row(y);
+        Pixel* to = rows.row(y);
+        int copied = -Bits::kMargin;
+        for (const Span s : region.spans(y)) {
+            const int x0 = std::max(s.x0, inside.x0), x1 = std::min(s.x1, inside.x1);
+            if (x0 >= x1) continue;
+            copy(from, to, copied, x0);
+            kernel(from, to, x0, x1, y);
+            copied = x1;
+        }
+        copy(from, to, copied, in.width() + Bits::kMargin);
+    };
+    copyRows(in, out, -Bits::kMargin, ymin);
+    parallelFor(
+        ymax - ymin + 1, turnsTogether(in.width()), [&](int i) { row(ymin + i); },
+        [&](int i) { progressDue(ymin + i - disc.y + R, 2 * R); });
+    copyRows(in, out, ymax + 1, in.height() + Bits::kMargin);
     report(100);
     return out;
 }

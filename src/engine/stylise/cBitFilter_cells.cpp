@@ -3,6 +3,8 @@
 #include "engine/stylise/CellSums.h"
 #include "pixels/RuntimeError.h"
 #include "pixels/numbers.h"
+#include <array>
+#include <ranges>
 
 namespace velara {
 
@@ -37,8 +39,11 @@ class Blocks {
 
     void span(const Pixel* from, Pixel* to, int x0, int x1, int y)
     {
-        if (y / size_ != band_) mix(y / size_);
-        const int start = static_cast<int>(std::min<std::int64_t>((std::int64_t{x0} + size_ - 1) / size_ * size_, x1));
+        const int start = firstBlock(x0, x1);
+        if (y / size_ != band_) {
+            mix(y / size_);
+            if (start != x0) held_ = leftBefore(x0, y);
+        }
         for (int x = x0; x < start; ++x) to[x] = {{held_.c[0], held_.c[1], held_.c[2], from[x].c[3]}};
         if (start == x1) return;
         cellKernels().paintLine({from, in_.stride(), to, start, x1}, line_.data());
@@ -46,6 +51,39 @@ class Blocks {
     }
 
   private:
+    /// The first column from x0 on at which a block begins; x1 where none does before it.
+    int firstBlock(int x0, int x1) const
+    {
+        return static_cast<int>(std::min<std::int64_t>((std::int64_t{x0} + size_ - 1) / size_ * size_, x1));
+    }
+
+    /// The colour that the spans before a pixel leave.
+    Pixel leftBefore(int x, int y) const
+    {
+        for (int row = y; row >= 0; --row)
+            for (const Span s : std::views::reverse(region_.spans(row))) {
+                const int x0 = std::max(s.x0, 0), x1 = std::min(s.x1, in_.width());
+                if (x0 >= x1 || (row == y && x0 >= x)) continue;
+                if (firstBlock(x0, x1) < x1) return meanAt(x1 - 1, row);
+            }
+        return kBlack;
+    }
+
+    /// The mean of the block that has a pixel.
+    Pixel meanAt(int x, int y) const
+    {
+        const int x0 = x - x % size_, y0 = y - y % size_;
+        const int x1 = x0 + std::min(size_, in_.width() - x0), y1 = y0 + std::min(size_, in_.height() - y0);
+        std::array<std::uint64_t, 3> sums{};
+        for (y = y0; y < y1; ++y)
+            for (x = x0; x < x1; ++x)
+                for (std::size_t c = 0; c < 3; ++c) sums[c] += in_.row(y)[x].c[c];
+        const auto count = static_cast<std::uint64_t>(x1 - x0) * static_cast<std::uint64_t>(y1 - y0);
+        Pixel mean = kBlack;
+        for (std::size_t c = 0; c < 3; ++c) mean.c[c] = static_cast<std::uint8_t>(sums[c] / count);
+        return mean;
+    }
+
     /// The means of those blocks that selected pixels of the band may use, region ignored.
     void mix(int band)
     {
@@ -95,15 +133,6 @@ class Blocks {
     int band_ = -1;
 };
 
-/// Whether no span needs the colour that one before it has left.
-bool beginsWithBlocks(const Region& region, const Box& box, int size)
-{
-    for (int y = box.ymin; y <= box.ymax; ++y)
-        for (const Span s : region.spans(y))
-            if (std::max(s.x0, 0) % size != 0) return false;
-    return true;
-}
-
 /// Rows of a piece: whole rows of cells, enough that its own tables are worth it.
 std::int64_t wholeCells(std::int64_t step)
 {
@@ -120,13 +149,11 @@ Bits cBitFilter::PIXELIZE(int Size)
     if (Size == 1) return eachSpan(0, copyPixels);
     const Bits in = bits_;
     const Region region = region_;
-    const auto blocks = [&] {
+    return eachSpanOf(0, {wholeCells(Size)}, [&] {
         return [blocks = Blocks(in, region, Size)](const Pixel* from, Pixel* to, int x0, int x1, int y) mutable {
             blocks.span(from, to, x0, x1, y);
         };
-    };
-    if (!beginsWithBlocks(region, insidePicture(GetBounds(0), in), Size)) return eachSpan(0, blocks());
-    return eachSpanOf(0, {wholeCells(Size)}, blocks);
+    });
 }
 
 namespace {

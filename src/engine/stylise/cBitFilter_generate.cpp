@@ -4,6 +4,7 @@
 #include "engine/deform/passes_warp.h"
 #include "engine/stylise/kernels_generate.h"
 #include "pixels/numbers.h"
+#include <span>
 #include <utility>
 
 namespace velara {
@@ -61,8 +62,9 @@ Bits cBitFilter::Light(float CenterX, float CenterY, float Radius, int Intensity
                 const int x = first + i;
                 const double ox = static_cast<double>(x) - disc.x;
                 const std::int64_t k = roundEven((1 - q * std::sqrt(ox * ox + oy * oy) / R) * Intensity);
-                for (int c = 0; c < 3; ++c) // below 0 the value wraps around: kept on purpose
-                    to[x].c[c] = static_cast<std::uint8_t>(std::min<std::int64_t>(from[x].c[c] + k, 255));
+                to[x] = from[x];
+                for (std::uint8_t& c : std::span(to[x].c, 3)) // below 0 the value wraps around: kept on purpose
+                    c = static_cast<std::uint8_t>(std::min<std::int64_t>(c + k, 255));
             });
         }
     });

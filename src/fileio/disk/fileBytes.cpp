@@ -25,7 +25,7 @@ iovec blockOf(ByteView bytes) { return {const_cast<std::uint8_t*>(bytes.data()),
 
 bool writeInParts(int file, ByteView head, ByteView body, const std::function<void(std::size_t)>& before)
 {
-    constexpr std::size_t kPart = 4 << 20; // stays in the processor's cache
+    constexpr std::size_t kPart = 2 << 20; // stays in the processor's cache
     for (std::size_t done = 0; done < body.size();) {
         const ByteView part = body.subspan(done, std::min(kPart, body.size() - done));
         done += part.size();

@@ -2,6 +2,8 @@
 #include "platform/desktop/dialogs/ThumbnailIcons.h"
 #include "ui/widgets/FolderModel.h"
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <utility>
 
 namespace velara {
 
@@ -14,7 +16,34 @@ fFolderTree::fFolderTree(Shows shows, const QString& objectName, const QString& 
     setHeaderHidden(true);
     setUniformRowHeights(true); // avoids measuring thousands of rows
     setExpandsOnDoubleClick(false);
+    setVerticalScrollMode(ScrollPerItem);
     connect(this, &QTreeView::doubleClicked, this, &fFolderTree::choose);
+    connect(model_, &FolderModel::rowsAboutToBeInserted, this, &fFolderTree::noteFirst);
+}
+
+void fFolderTree::noteFirst()
+{
+    const int scrolled = verticalScrollBar()->value();
+    if (first_.isValid() && scrolled == scrolled_) return;
+    first_ = indexAt({0, 0});
+    scrolled_ = scrolled;
+}
+
+void fFolderTree::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
+{
+    noteFirst(); // the view forgets its rows next
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+/// Rows that moved would have a click meet another item than the one that was aimed at.
+void fFolderTree::doItemsLayout()
+{
+    const QPersistentModelIndex first = std::exchange(first_, {});
+    const bool stays = first.isValid() && verticalScrollBar()->value() == scrolled_;
+    QTreeView::doItemsLayout();
+    if (!stays) return;
+    const QRect now = visualRect(first);
+    if (!now.isEmpty()) verticalScrollBar()->setValue(verticalScrollBar()->value() + now.top() / now.height());
 }
 
 void fFolderTree::showThumbnails(Previews& previews)

@@ -1,6 +1,7 @@
 // fFolderTree: the machine's folders as a tree, with or without files. Typing selects the next item whose name begins
-// with the text.
+// with the text. What comes and goes above what is seen doesn't move it.
 #pragma once
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
 namespace velara {
@@ -23,6 +24,7 @@ class fFolderTree : public QTreeView {
     /// Expands the tree down to the path, and a folder itself, and makes it current. If it doesn't exist, the nearest
     /// existing folder above it.
     void select(const QString& path);
+    void doItemsLayout() override;
 
   signals:
     /// Another item became current.
@@ -34,12 +36,16 @@ class fFolderTree : public QTreeView {
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void showEvent(QShowEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
   private:
     void choose(const QModelIndex& index);
+    void noteFirst();
 
     FolderModel* model_;
     Shows shows_;
+    QPersistentModelIndex first_ = {}; // in view, before rows came or went; none once they are laid out
+    int scrolled_ = 0;                 // then
 };
 
 } // namespace velara

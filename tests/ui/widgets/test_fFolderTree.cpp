@@ -126,6 +126,28 @@ TEST_F(FolderTree, FollowsTheDisk)
     EXPECT_TRUE(shown.holds(at("alpha"), 3));
 }
 
+TEST_F(FolderTree, WhatComesAndGoesAboveMovesNothing)
+{
+    for (int i = 0; i < 40; ++i) file(QString("beta/%1.png").arg(i, 2, 10, QChar('0')));
+    Shown shown(Shows::FoldersAndFiles);
+    shown.tree.select(at("beta/20.png"));
+    ASSERT_TRUE(shown.holds(at("beta"), 40));
+    const auto place = [&] { return shown.tree.visualRect(shown.tree.currentIndex()); };
+    shown.tree.scrollTo(shown.tree.currentIndex(), QTreeView::PositionAtCenter);
+    const QRect before = place();
+    ASSERT_GT(before.top(), 0);
+    for (const char* name : {"beta/00b.png", "beta/01b.png", "beta/33b.png"}) file(name);
+    ASSERT_TRUE(shown.holds(at("beta"), 43));
+    EXPECT_EQ(place(), before);
+    for (const char* name : {"beta/00b.png", "beta/01b.png", "beta/02.png", "beta/33b.png"}) QFile::remove(at(name));
+    ASSERT_TRUE(shown.holds(at("beta"), 39));
+    EXPECT_EQ(place(), before);
+    file("a.png"); // beside the folder, after it
+    QDir(top.path()).mkdir("aa");
+    ASSERT_TRUE(comes([&] { return shown.rows(top.path()) == 6; }));
+    EXPECT_EQ(place(), before);
+}
+
 TEST_F(FolderTree, AFolderOfThousandsComesInOnePiece)
 {
     QDir(top.path()).mkdir("many");
