@@ -1,12 +1,16 @@
 #include "paint/Painter.h"
 #include "pixels/RuntimeError.h"
+#include "support/instructionSets.h"
 #include "support/pictures.h"
 #include "support/sums.h"
 
 namespace velara {
 namespace {
 
-TEST(Painter, PaintsWhatItsDefinitionPaints) { expectCommittedSums(paintTrials()); }
+TEST(Painter, PaintsWhatItsDefinitionPaints)
+{
+    withEachInstructionSet([] { expectCommittedSums(paintTrials()); });
+}
 
 struct PainterCases : ::testing::Test {
     const Bits plain = flatBits(20, 10, 100, 100, 100, 7);
