@@ -29,7 +29,7 @@ recover() {
         recovered=$((recovered + 1))
         [ -z "${E2E_SHOTS:-}" ] || screen "$E2E_SHOTS/offer.png"
         send_key alt+r
-        until_true "the frame's keys" frame_has_keys
+        until_true "the recovered picture" has_window '^Velara Studio - .picture'
         save_as "$scratch/again.bmp"
         same "$scratch/again.bmp" "$scratch/one.bmp" || same "$scratch/again.bmp" "$scratch/other.bmp" || fail "round $round: recovered another picture"
         rm "$scratch/again.bmp"

@@ -107,7 +107,7 @@ TEST_F(QtFontsTest, ASlantedLineFallsBackToUprightBeforeItShowsBoxes)
     TextStyle upright = style;
     upright.italic = false;
     const QString arabic = QString::fromUtf8("\xD9\x85\xD8\xB1\xD8\xAD\xD8\xA8\xD8\xA7");
-    if (drawn({arabic}, upright).isEmpty()) GTEST_SKIP() << "no such font";
+    if (!QFontDatabase::styles(style.family).contains("Oblique")) GTEST_SKIP() << "no such face";
     EXPECT_EQ(fonts.measure(arabic, upright), fonts.measure(arabic, style));
     EXPECT_EQ(drawn({arabic}, upright), drawn({arabic}, style));
     EXPECT_FALSE(drawn({"hill"}, upright) == drawn({"hill"}, style)) << "where there is one, it is taken";
