@@ -174,16 +174,19 @@ Bits cBitFilter::PaletteApply()
         report(100);
         return before;
     }
-    Bits source = before, out = Bits::uninitialized(before.width(), before.height());
+    const int first = -Bits::kMargin, last = before.width() + Bits::kMargin, end = before.height() + Bits::kMargin;
+    Bits source = Bits::uninitialized(before.width(), before.height());
+    Bits out = Bits::uninitialized(before.width(), before.height());
     copyRows(before, out, -Bits::kMargin, box.ymin);
-    copyRows(before, out, box.ymax + 1, before.height() + Bits::kMargin);
+    copyRows(before, out, box.ymax + 1, end);
+    copyRows(before, source, -Bits::kMargin, box.ymin + 1);
+    copyRows(before, source, box.ymax + 2, end);
     const WrittenRows from(source), to(out);
     const auto columnsOf = [&](const Span& s) {
         return Columns{std::max(s.x0, box.xmin), std::min(s.x1, box.xmax + 1)};
     };
     /// What is beside a single span, or all of the row.
     const auto copyAround = [&](int y) {
-        const int first = -Bits::kMargin, last = before.width() + Bits::kMargin;
         const auto spans = region.spans(y);
         const Columns own = spans.size() == 1 ? columnsOf(spans.front()) : Columns{last, last};
         copyPixels(before.row(y), to.row(y), first, std::min(own.begin, last));
@@ -193,7 +196,10 @@ Bits cBitFilter::PaletteApply()
     Copies<Nearest> tables([] { return Nearest(); });
     const auto turn = [&](int i, Wave& wave) {
         const Group& group = groups[std::size_t(i)];
-        for (int y = group.y; y < group.y + group.rows; ++y) copyAround(y);
+        for (int y = group.y; y < group.y + group.rows; ++y) {
+            copyAround(y);
+            copyPixels(before.row(y + 1), from.row(y + 1), first, last); // its errors go there
+        }
         tables.lend([&](Nearest& nearest) {
             Diffusion diffusion(from, to, source.maxX(), source.maxY(), nearest);
             if (group.rows == kAbreast) return diffusion.rows(group, i, wave);
