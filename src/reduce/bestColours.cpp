@@ -68,13 +68,13 @@ struct Sample {
     }
 };
 
-constexpr std::size_t kManyColours = 1 << 13;
+constexpr std::size_t kManyColours = 1 << 14;
 
 /// The means and numbers of the pixels that have the high `bits` bits of each channel in common, by first use. Nothing
 /// where there would be more than kManyColours.
 std::optional<std::vector<liq_histogram_entry>> countedBy(int bits, const std::vector<Pixel>& pixels)
 {
-    constexpr int kSlotBits = 15; // four slots an entry, so that most are found at once
+    constexpr int kSlotBits = 16; // four slots an entry, so that most are found at once
     struct Slot {
         std::uint32_t colour, entry;
     };
@@ -170,6 +170,9 @@ Palette quantisedPalette(Sample& sample, int colours, const ReduceProgress& prog
     return palette;
 }
 
+/// Of so few, the outermost ones are worth more to a dither than means are to a picture without one.
+constexpr int kFewColours = 32;
+
 } // namespace
 
 Palette bestPalette(const Bits& bits, int colours, const ReduceProgress& progress)
@@ -177,6 +180,7 @@ Palette bestPalette(const Bits& bits, int colours, const ReduceProgress& progres
     if (std::optional<Palette> own = ownColours(bits, colours, progress)) return *std::move(own);
     Sample sample(bits);
     const Palette quantised = quantisedPalette(sample, colours, progress);
+    if (colours <= kFewColours) return quantised;
     return refinedPalette(sample.pixels, quantised, progress);
 }
 

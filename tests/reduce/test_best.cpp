@@ -79,7 +79,7 @@ double errorOf(const std::vector<Pixel>& pixels, const Palette& palette)
 
 TEST(BestColours, NoRoundMoreWouldGainMuch)
 {
-    for (const int most : {16, 256}) {
+    for (const int most : {64, 256}) {
         std::mt19937 random(4);
         const Bits picture = drawnBits(300, 200, [&](int x, int y) {
             const auto level = [&](double at) { return 100 + int(70 * std::sin(at)) + int(random() % 40); };
