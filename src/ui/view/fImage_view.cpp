@@ -119,8 +119,9 @@ void fImage::tellViews(const Rect& part)
 void fImage::follow(const Rect& part, bool outline)
 {
     if (laidOutSize_ != QSize(PictureWidth(), PictureHeight())) pictureChanged();
-    if (!tmrSelection_.isActive()) iDst_->setOutlineShown(outline);
-    followed_ = followed_.united(part);
+    const bool turns = !tmrSelection_.isActive() && iDst_->outlineShown() != outline; // all along the selection's edge
+    if (turns) iDst_->setOutlineShown(outline);
+    followed_ = followed_.united(turns ? whole() : part);
     if (!tmrFollow_.isActive()) tmrFollow_.start();
 }
 

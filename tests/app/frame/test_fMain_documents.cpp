@@ -362,6 +362,15 @@ TEST_F(FrameViews, OneShowsWhatIsDoneInAnother)
     EXPECT_EQ(outlines(), 2);
     activate(second);
     EXPECT_EQ(outlines(), 2) << "whichever is the active one";
+    ASSERT_TRUE(comes([&] { return !first->findChild<QTimer*>("tmrFollow")->isActive(); }));
+    QCoreApplication::processEvents();
+    Painted painted(display(first));
+    second->StopTimer();
+    second->findChild<fDisplay*>()->setOutlineShown(false); // as where a paste came before it was shown
+    static_cast<ToolSurface*>(second)->repaint(Rect{0, 0, 1, 1});
+    EXPECT_TRUE(comes([&] { return (QRegion(display(first)->rect()) - painted.region).isEmpty(); }))
+        << "the outline is painted over";
+    EXPECT_EQ(outlines(), 0);
     open(randomBits(5, 5, 1), "b.bmp");
     EXPECT_EQ(outlines(), 0);
 }
