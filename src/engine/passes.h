@@ -32,6 +32,16 @@ inline void blacken(const Pixel* from, Pixel* to, int x0, int x1)
     for (int x = x0; x < x1; ++x) to[x] = {{0, 0, 0, from[x].c[3]}};
 }
 
+/// copy(source row, target row, x0, x1) for what lies between the selected parts of a picture's rows.
+inline auto copyBetween(const Bits& in)
+{
+    // The kernels prefetch two rows ahead, too: another distance would leave out what lies between the two.
+    return [streams = in.sizeInBytes() >= kPastTheCache,
+            ahead = 2 * std::ptrdiff_t{in.stride()}](const Pixel* from, Pixel* to, int x0, int x1) {
+        streams ? streamPixelsAhead(from, to, x0, x1, ahead) : copyPixels(from, to, x0, x1);
+    };
+}
+
 /// Calls a kernel of eachSpan in the form that it has.
 template <class Kernel> void callWith(Kernel& kernel, const SpanOf& s, int y)
 {
@@ -75,11 +85,7 @@ template <class Make> Bits cBitFilter::eachSpanOf(int margin, Cut cut, Make&& ma
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     const WrittenRows rows(out);
-    const bool streams = in.sizeInBytes() >= kPastTheCache;
-    // The kernels prefetch two rows ahead, too: another distance would leave out what lies between the two.
-    const auto copy = [&](const Pixel* from, Pixel* to, int x0, int x1) {
-        streams ? streamPixelsAhead(from, to, x0, x1, 2 * in.stride()) : copyPixels(from, to, x0, x1);
-    };
+    const auto copy = copyBetween(in);
     copyRows(in, out, -Bits::kMargin, box.ymin);
     using Kernel = decltype(make());
     const auto rowsBy = [&](int y0, int y1, auto& kernel) {

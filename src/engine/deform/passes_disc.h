@@ -34,8 +34,8 @@ template <class Kernel> Bits cBitFilter::eachOfDisc(const Disc& disc, double lim
     }
     Bits out = Bits::uninitialized(in.width(), in.height());
     const WrittenRows rows(out);
-    const auto copy = in.sizeInBytes() >= kPastTheCache ? streamPixels : copyPixels;
-    /// The columns from the first to the last in a row of the disc; empty where it has none.
+    const auto copy = copyBetween(in);
+    // The columns from the first to the last in a row of the disc; empty where it has none.
     const auto columns = [&](int y) -> Span {
         const double oy = static_cast<double>(y) - disc.y;
         const double room = limit - oy * oy; // the limit of ox * ox
